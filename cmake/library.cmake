@@ -1,0 +1,11 @@
+# The one shared library: its name, version, include root and the libraries it stands on.
+
+include(GNUInstallDirs)
+find_package(LibXml2 REQUIRED)
+
+set_target_properties(vyr PROPERTIES VERSION ${PROJECT_VERSION} SOVERSION ${PROJECT_VERSION_MAJOR} EXPORT_NAME vyr)
+target_include_directories(vyr PUBLIC $<BUILD_INTERFACE:${PROJECT_SOURCE_DIR}>
+                                      $<INSTALL_INTERFACE:${CMAKE_INSTALL_INCLUDEDIR}/vyr>)
+target_compile_features(vyr PUBLIC cxx_std_20)
+target_compile_definitions(vyr PRIVATE VYR_BUILDING)
+target_link_libraries(vyr PRIVATE LibXml2::LibXml2 $<BUILD_INTERFACE:vyr_warnings>)

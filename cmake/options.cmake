@@ -1,0 +1,19 @@
+# What a builder may choose, and what every target gets.
+
+option(VYR_BUILD_TOOLS "Build the vyr command" ON)
+option(VYR_BUILD_TESTS "Build the tests" ${PROJECT_IS_TOP_LEVEL})
+option(VYR_BUILD_BENCH "Build the benchmarks" OFF)
+option(VYR_WARNINGS_AS_ERRORS "Treat warnings as errors" OFF)
+
+set(CMAKE_CXX_STANDARD 20)
+set(CMAKE_CXX_STANDARD_REQUIRED ON)
+set(CMAKE_CXX_EXTENSIONS OFF)
+set(CMAKE_CXX_VISIBILITY_PRESET hidden)
+set(CMAKE_VISIBILITY_INLINES_HIDDEN ON)
+if(NOT CMAKE_BUILD_TYPE AND NOT CMAKE_CONFIGURATION_TYPES)
+  set(CMAKE_BUILD_TYPE Release CACHE STRING "Build type" FORCE)
+endif()
+
+add_library(vyr_warnings INTERFACE)
+target_compile_options(vyr_warnings INTERFACE -Wall -Wextra -Wpedantic -Wconversion -Wshadow -Wnon-virtual-dtor
+                                              $<$<BOOL:${VYR_WARNINGS_AS_ERRORS}>:-Werror>)
