@@ -1,0 +1,267 @@
+// Copyright 2026 The Vyr Authors
+// SPDX-License-Identifier: Apache-2.0
+
+/// The tables that describe a schema-bound class: one row per item in schema order, one record per class.
+///
+/// Generated code fills them; the functions of this folder walk them. Nothing here knows any particular schema.
+/// All rows are constants, built at compile time.
+
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <limits>
+#include <new>
+#include <span>
+#include <string>
+#include <string_view>
+#include <type_traits>
+
+#include "lmx/binding/list.h"
+#include "lmx/error.h"
+#include "lmx/ns_map.h"
+#include "lmx/reader/event_map.h"
+#include "lmx/values/big_int.h"
+#include "lmx/values/binary.h"
+#include "lmx/values/datetime.h"
+#include "lmx/values/pattern.h"
+#include "lmx/values/scalars.h"
+
+namespace lmx {
+
+class c_xml_reader;
+class c_xml_writer;
+class c_any_info;
+struct s_class;
+
+/// Raised whenever rows change their meaning: generated code asserts the value it was made for.
+inline constexpr int k_binding_version = 1;
+
+/// What an item is, and with it how it's stored.
+enum class item_kind : std::uint8_t {
+    attribute,     ///< simple attribute: a value and a flag
+    element,       ///< simple child element: a value and a flag
+    element_list,  ///< repeating simple child element: `c_list` of values
+    child,         ///< child element of a class: the object and a flag
+    child_list,    ///< repeating child element of a class: `c_list` of objects
+    group,         ///< substitution-group holder or inline choice: the object and a flag
+    group_list,    ///< repeating holder: `c_list` of holders
+    marker,        ///< child element without content that nothing stores
+    content,       ///< the element's own simple content: a value and a flag
+    any,           ///< open content kept as text: `c_list` of `c_any_info`
+    alternative,   ///< simple or class alternative of a choice, or a group's member: lives in `s_choice`
+};
+
+/// The C++ type of a simple value.
+enum class value_kind : std::uint8_t { none, text, boolean, number, int32, uint32, uint8, datetime, binary };
+
+/// How an item takes part in reading, checking, writing and copying; a mask.
+enum item_use : std::uint8_t {
+    use_optional = 0,
+    use_demanded = 1,  ///< the reader reports its absence
+    use_asked = 2,     ///< `is_occurs_ok` asks for it
+    use_written = 4,   ///< the writer prints it without asking for the flag
+    use_copied = 8,    ///< a copy takes it without asking for the flag, and raises the flag
+    use_lax = 16,      ///< a group that is read without asking whether the element is a member
+    use_required = use_demanded | use_asked | use_written | use_copied,
+};
+
+/// What a simple value must meet besides its lexical form. One object per distinct set; shared by reading and
+/// setting. The defaults mean "no such facet".
+struct s_facets {
+    std::span<const std::string_view> enumeration{};  ///< ASCII texts, numbered from 1
+    double minimum = -std::numeric_limits<double>::infinity();
+    double maximum = std::numeric_limits<double>::infinity();
+    bool minimum_exclusive = false;
+    bool maximum_exclusive = false;
+    bool setter_skips_minimum = false;
+    std::size_t minimum_length = 0;  ///< in code points
+    std::size_t maximum_length = std::numeric_limits<std::size_t>::max();
+    const c_big_int* minimum_integer = nullptr;  ///< for integers: the bounds that a text is compared with
+    const c_big_int* maximum_integer = nullptr;
+    const c_pattern* pattern = nullptr;
+};
+
+/// One class that a factory knows, by its local type name.
+struct s_factory_row {
+    std::string_view name;
+    const s_class* type;
+};
+
+/// One item of a class.
+struct s_item {
+    item_kind kind;
+    value_kind value;
+    std::uint8_t use;             ///< mask of `item_use`
+    elmx_whitespace whitespace;   ///< of a simple value's text
+    std::string_view name;        ///< as printed: "Name" for attributes, "Vyr:Name" for elements; null-terminated
+    int token;                    ///< of attributes and elements; 0 for content, groups and open content
+    std::uint32_t offset;         ///< of the value, object or list in the class
+    std::uint32_t flag;           ///< offset of the present flag, or `k_no_flag`
+    std::uint16_t position;       ///< of elements: this item's position in the class's element map
+    std::uint16_t next_position;  ///< the position after this item
+    const s_class* type;          ///< of children, groups and class alternatives
+    const s_facets* facets;       ///< null when there are none
+    std::span<const s_factory_row> factory;  ///< of group members that `xsi:type` may specialise
+};
+
+inline constexpr std::uint32_t k_no_flag = std::numeric_limits<std::uint32_t>::max();
+
+/// What stands between a class's tags.
+enum class content_kind : std::uint8_t {
+    empty,     ///< nothing at all
+    simple,    ///< a value
+    children,  ///< child elements, in sequence
+    choice,    ///< one of several children
+    group,     ///< a substitution group's holder: like a choice, without an element of its own
+};
+
+/// The operations of a class that differ by type, with the type taken away.
+struct s_operations {
+    void* (*create)();
+    void (*destroy)(void* object);
+    void (*assign)(void* target, const void* source);
+    void (*swap)(void* one, void* other);
+    /// The most derived copy; null for classes without `clone`.
+    void* (*clone)(const void* object);
+    /// Of classes that stand for an element; null for holders and inline choices.
+    elmx_error (*unmarshal)(void* object, c_xml_reader& reader, const std::string& name);
+    /// Of holders and inline choices; null for elements.
+    bool (*unmarshal_part)(void* object, c_xml_reader& reader, std::string* name, elmx_error* error);
+    elmx_error (*marshal)(const void* object, c_xml_writer& writer, const char* name);
+};
+
+/// One class. `items` holds its own items only, attributes first; the base's come from `base`.
+struct s_class {
+    const char* name;            ///< "PaletteType": named when a required attribute is missing
+    const char* qualified_name;  ///< "Vyr:PaletteType": named when a list is too short or nothing is chosen
+    const s_class* base;         ///< null when there's none
+    content_kind content;        ///< of the class with its bases
+    bool may_be_empty;           ///< an element without children is no error
+    const s_ns_map* ns_map;      ///< declared on an outermost element; null for anonymous local classes
+    std::uint32_t nil_flag;      ///< offset of the nil flag, or `k_no_flag`
+    std::uint32_t choice;        ///< offset of the `s_choice`, or `k_no_flag`
+    const char* const* id;       ///< the class's identity; null outside the type families
+    const char* xsi_type;        ///< "Vyr:ColorSpaceCMYKType": printed when another identity is expected
+    std::span<const s_item> attributes;
+    std::span<const s_item> elements;  ///< children, content, or alternatives
+    const s_event_map* attribute_map;
+    const s_event_map* element_map;  ///< each position is a suffix of it
+    const s_operations* operations;
+};
+
+/// The state of a choice or of a holder: which alternative lives, and the alternative.
+/// Numbers and booleans lie in the slot; texts and objects are owned through it.
+struct s_choice {
+    std::int32_t chosen;
+    union {
+        double number;
+        std::int32_t int32;
+        std::uint32_t uint32;
+        void* object;
+    };
+};
+
+/// The number that means that nothing is chosen: one past the last alternative of a choice, two past that of a
+/// group.
+constexpr std::int32_t none_chosen(const s_class& type) {
+    return static_cast<std::int32_t>(type.elements.size()) + (type.content == content_kind::group ? 1 : 0);
+}
+
+namespace detail {
+
+template <class T>
+void* create() {
+    return new T();
+}
+template <class T>
+void destroy(void* object) {
+    delete static_cast<T*>(object);
+}
+template <class T>
+void assign(void* target, const void* source) {
+    *static_cast<T*>(target) = *static_cast<const T*>(source);
+}
+template <class T>
+void swap(void* one, void* other) {
+    static_cast<T*>(one)->swap(*static_cast<T*>(other));
+}
+template <class T>
+void* clone(const void* object) {
+    return static_cast<const T*>(object)->clone();
+}
+template <class T>
+elmx_error unmarshal(void* object, c_xml_reader& reader, const std::string& name) {
+    return static_cast<T*>(object)->unmarshal(reader, name);
+}
+template <class T>
+bool unmarshal_part(void* object, c_xml_reader& reader, std::string* name, elmx_error* error) {
+    return static_cast<T*>(object)->unmarshal(reader, name, error);
+}
+template <class T>
+elmx_error marshal(const void* object, c_xml_writer& writer, const char* name) {
+    return static_cast<const T*>(object)->marshal(writer, name);
+}
+
+template <class T>
+constexpr s_operations make_operations() {
+    s_operations operations{create<T>, destroy<T>, assign<T>, swap<T>, nullptr, nullptr, nullptr, marshal<T>};
+    if constexpr (requires(const T& object) { object.clone(); }) operations.clone = clone<T>;
+    if constexpr (requires(T& object, c_xml_reader& r, const std::string& n) { object.unmarshal(r, n); }) {
+        operations.unmarshal = unmarshal<T>;
+    } else {
+        operations.unmarshal_part = unmarshal_part<T>;
+    }
+    return operations;
+}
+
+/// The storage that an item of a kind must have in its class.
+template <class Member>
+constexpr value_kind value_kind_of() {
+    if constexpr (std::is_same_v<Member, std::u16string>) return value_kind::text;
+    else if constexpr (std::is_same_v<Member, bool>) return value_kind::boolean;
+    else if constexpr (std::is_same_v<Member, double>) return value_kind::number;
+    else if constexpr (std::is_same_v<Member, std::int32_t>) return value_kind::int32;
+    else if constexpr (std::is_same_v<Member, std::uint32_t>) return value_kind::uint32;
+    else if constexpr (std::is_same_v<Member, std::uint8_t>) return value_kind::uint8;
+    else if constexpr (std::is_same_v<Member, c_datetime>) return value_kind::datetime;
+    else if constexpr (std::is_same_v<Member, c_binary>) return value_kind::binary;
+    else return value_kind::none;
+}
+
+template <class T>
+struct s_entry_of {
+    using type = T;
+};
+template <class T>
+struct s_entry_of<c_list<T>> {
+    using type = T;
+};
+
+/// Builds the storage half of a row and refuses at compile time a member whose type doesn't fit the row.
+template <class Member, item_kind Kind, value_kind Value>
+constexpr std::uint32_t checked_offset(std::size_t offset) {
+    constexpr bool is_list = Kind == item_kind::element_list || Kind == item_kind::child_list ||
+                             Kind == item_kind::group_list || Kind == item_kind::any;
+    static_assert(is_list == std::is_base_of_v<c_list_base, Member>, "a repeating item lies in a c_list");
+    static_assert(value_kind_of<typename s_entry_of<Member>::type>() == Value, "the member's type is another");
+    return static_cast<std::uint32_t>(offset);
+}
+
+}  // namespace detail
+
+/// The operations of class `T`.
+template <class T>
+inline constexpr s_operations k_operations = detail::make_operations<T>();
+
+// `offsetof` on classes with virtual functions is conditionally supported; both compilers of this project
+// support it and warn. The macros also hold the member's type against the row's kind.
+#define LMX_OFFSET(owner, member, kind, value)                                                   \
+    ::lmx::detail::checked_offset<decltype(owner::member), ::lmx::item_kind::kind, ::lmx::value_kind::value>( \
+        __builtin_offsetof(owner, member))
+#define LMX_FLAG(owner, member)                                                   \
+    ::lmx::detail::checked_offset<decltype(owner::member), ::lmx::item_kind::element, ::lmx::value_kind::boolean>( \
+        __builtin_offsetof(owner, member))
+#define LMX_CHOICE(owner, member) static_cast<std::uint32_t>(__builtin_offsetof(owner, member))
+
+}  // namespace lmx

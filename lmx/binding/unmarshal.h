@@ -1,0 +1,54 @@
+// Copyright 2026 The Vyr Authors
+// SPDX-License-Identifier: Apache-2.0
+
+/// Reading: what every schema-bound class does with the reader's events, told once for all tables.
+///
+/// Every failure passes through `c_xml_reader::handle_error`; the first non-zero answer ends the read and travels
+/// up unchanged. What was read by then stays in the objects.
+
+#pragma once
+
+#include <string>
+
+#include "lmx/binding/table.h"
+#include "lmx/error.h"
+#include "lmx/export.h"
+#include "lmx/reader/xml_reader.h"
+
+namespace lmx {
+
+/// Elements of schema-bound classes may nest this deep. The recursion of a load follows the nesting, and 256
+/// levels fit a stack of 512 KiB with room to spare; no sensible document comes near it.
+inline constexpr std::size_t k_maximum_nesting = 256;
+
+/// Reads an element whose start tag name has just been delivered. `name` may be the reader's own work string.
+VYR_EXPORT elmx_error unmarshal_element(const s_class& type, void* object, c_xml_reader& reader,
+                                        const std::string& name);
+
+/// Reads the attribute just named if it belongs to the class or a base of it. False if it doesn't, or with
+/// `*error` set if reading it failed.
+VYR_EXPORT bool unmarshal_attribute(const s_class& type, void* object, c_xml_reader& reader,
+                                    const std::string& name, elmx_error* error);
+
+/// Reports the first required attribute that is missing.
+VYR_EXPORT elmx_error check_required_attributes(const s_class& type, const void* object, c_xml_reader& reader);
+
+/// Reads the children, the chosen alternative or the open content, up to the first element that has no place.
+/// `name` is the reader's element-name work string. False with `*error` set on failure.
+VYR_EXPORT bool unmarshal_body(const s_class& type, void* object, c_xml_reader& reader, std::string* name,
+                               elmx_error* error);
+
+/// Reads simple content; without a body the value is the empty text.
+VYR_EXPORT bool unmarshal_content(const s_class& type, void* object, c_xml_reader& reader, std::string* name,
+                                  elmx_error* error, bool has_body);
+
+/// Reads the current element as a member of a substitution group. An element that is no member is skipped, and
+/// nothing is chosen.
+VYR_EXPORT bool unmarshal_group(const s_class& type, void* object, c_xml_reader& reader, std::string* name,
+                                elmx_error* error);
+
+/// True if the current element belongs to the group or inline choice; the event then is its token.
+/// Otherwise the event stays what it was.
+VYR_EXPORT bool is_group_member(const s_class& type, c_xml_reader& reader);
+
+}  // namespace lmx
