@@ -1,0 +1,23 @@
+# One call per test folder: an executable on vyr::vyr and GoogleTest, its cases known to CTest one by one.
+
+find_package(GTest REQUIRED)
+include(GoogleTest)
+
+# vyr_add_test(NAME <executable> SOURCES <file>... [LIBRARIES <target>...])
+#
+# Documents that a test reads lie in tests/documents/; the test finds them through VYR_TEST_DOCUMENTS, an absolute path
+# without a closing slash. Scratch files belong into the working directory, which is the test's own build folder.
+function(vyr_add_test)
+  cmake_parse_arguments(PARSE_ARGV 0 arg "" "NAME" "SOURCES;LIBRARIES")
+  if(NOT arg_NAME OR NOT arg_SOURCES OR arg_UNPARSED_ARGUMENTS)
+    message(FATAL_ERROR "vyr_add_test needs NAME and SOURCES and takes nothing else but LIBRARIES: ${ARGN}")
+  endif()
+  add_executable(${arg_NAME} ${arg_SOURCES})
+  target_link_libraries(${arg_NAME} PRIVATE vyr::vyr vyr_warnings GTest::gtest_main ${arg_LIBRARIES})
+  target_compile_definitions(${arg_NAME} PRIVATE "VYR_TEST_DOCUMENTS=\"${PROJECT_SOURCE_DIR}/tests/documents\"")
+  set(scratch ${CMAKE_CURRENT_BINARY_DIR}/${arg_NAME}.scratch)
+  file(MAKE_DIRECTORY ${scratch})
+  # The cases are listed when ctest starts, so that a build does not run what it has just built.
+  gtest_discover_tests(${arg_NAME} WORKING_DIRECTORY ${scratch} DISCOVERY_MODE PRE_TEST DISCOVERY_TIMEOUT 60
+                                   PROPERTIES TIMEOUT 300)
+endfunction()
