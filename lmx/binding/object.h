@@ -44,8 +44,7 @@ VYR_EXPORT elmx_error set_item(const s_class& type, const s_item& item, void* ob
 VYR_EXPORT elmx_error set_entry(const s_item& item, void* object, std::size_t index, const std::u16string& value);
 VYR_EXPORT elmx_error set_entry(const s_item& item, void* object, std::size_t index, const c_datetime& value);
 /// Puts a new entry before `index`, or at the end if `index` is at or beyond it.
-VYR_EXPORT elmx_error insert_entry(const s_item& item, void* object, std::size_t index,
-                                   const std::u16string& value);
+VYR_EXPORT elmx_error insert_entry(const s_item& item, void* object, std::size_t index, const std::u16string& value);
 VYR_EXPORT elmx_error insert_entry(const s_item& item, void* object, std::size_t index, const c_datetime& value);
 
 /// The number of an enumerated item's text, from 1; 0 if the text is none of the enumeration.

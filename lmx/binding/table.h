@@ -207,7 +207,7 @@ template <class T>
 constexpr s_operations make_operations() {
     s_operations operations{create<T>, destroy<T>, assign<T>, swap<T>, nullptr, nullptr, nullptr, marshal<T>};
     if constexpr (requires(const T& object) { object.clone(); }) operations.clone = clone<T>;
-    if constexpr (requires(T& object, c_xml_reader& r, const std::string& n) { object.unmarshal(r, n); }) {
+    if constexpr (requires(T & object, c_xml_reader & r, const std::string& n) { object.unmarshal(r, n); }) {
         operations.unmarshal = unmarshal<T>;
     } else {
         operations.unmarshal_part = unmarshal_part<T>;
@@ -218,15 +218,24 @@ constexpr s_operations make_operations() {
 /// The storage that an item of a kind must have in its class.
 template <class Member>
 constexpr value_kind value_kind_of() {
-    if constexpr (std::is_same_v<Member, std::u16string>) return value_kind::text;
-    else if constexpr (std::is_same_v<Member, bool>) return value_kind::boolean;
-    else if constexpr (std::is_same_v<Member, double>) return value_kind::number;
-    else if constexpr (std::is_same_v<Member, std::int32_t>) return value_kind::int32;
-    else if constexpr (std::is_same_v<Member, std::uint32_t>) return value_kind::uint32;
-    else if constexpr (std::is_same_v<Member, std::uint8_t>) return value_kind::uint8;
-    else if constexpr (std::is_same_v<Member, c_datetime>) return value_kind::datetime;
-    else if constexpr (std::is_same_v<Member, c_binary>) return value_kind::binary;
-    else return value_kind::none;
+    if constexpr (std::is_same_v<Member, std::u16string>)
+        return value_kind::text;
+    else if constexpr (std::is_same_v<Member, bool>)
+        return value_kind::boolean;
+    else if constexpr (std::is_same_v<Member, double>)
+        return value_kind::number;
+    else if constexpr (std::is_same_v<Member, std::int32_t>)
+        return value_kind::int32;
+    else if constexpr (std::is_same_v<Member, std::uint32_t>)
+        return value_kind::uint32;
+    else if constexpr (std::is_same_v<Member, std::uint8_t>)
+        return value_kind::uint8;
+    else if constexpr (std::is_same_v<Member, c_datetime>)
+        return value_kind::datetime;
+    else if constexpr (std::is_same_v<Member, c_binary>)
+        return value_kind::binary;
+    else
+        return value_kind::none;
 }
 
 template <class T>
@@ -256,10 +265,10 @@ inline constexpr s_operations k_operations = detail::make_operations<T>();
 
 // `offsetof` on classes with virtual functions is conditionally supported; both compilers of this project
 // support it and warn. The macros also hold the member's type against the row's kind.
-#define LMX_OFFSET(owner, member, kind, value)                                                   \
+#define LMX_OFFSET(owner, member, kind, value)                                                                \
     ::lmx::detail::checked_offset<decltype(owner::member), ::lmx::item_kind::kind, ::lmx::value_kind::value>( \
         __builtin_offsetof(owner, member))
-#define LMX_FLAG(owner, member)                                                   \
+#define LMX_FLAG(owner, member)                                                                                    \
     ::lmx::detail::checked_offset<decltype(owner::member), ::lmx::item_kind::element, ::lmx::value_kind::boolean>( \
         __builtin_offsetof(owner, member))
 #define LMX_CHOICE(owner, member) static_cast<std::uint32_t>(__builtin_offsetof(owner, member))

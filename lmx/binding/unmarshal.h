@@ -27,8 +27,8 @@ VYR_EXPORT elmx_error unmarshal_element(const s_class& type, void* object, c_xml
 
 /// Reads the attribute just named if it belongs to the class or a base of it. False if it doesn't, or with
 /// `*error` set if reading it failed.
-VYR_EXPORT bool unmarshal_attribute(const s_class& type, void* object, c_xml_reader& reader,
-                                    const std::string& name, elmx_error* error);
+VYR_EXPORT bool unmarshal_attribute(const s_class& type, void* object, c_xml_reader& reader, const std::string& name,
+                                    elmx_error* error);
 
 /// Reports the first required attribute that is missing.
 VYR_EXPORT elmx_error check_required_attributes(const s_class& type, const void* object, c_xml_reader& reader);

@@ -1,0 +1,101 @@
+// Copyright 2026 The Vyr Authors
+// SPDX-License-Identifier: Apache-2.0
+
+/// Access to an object's storage through the offsets of its rows; for the functions of this folder only.
+
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <string>
+
+#include "lmx/binding/table.h"
+
+namespace lmx {
+
+template <class T>
+T& member(void* object, std::uint32_t offset) {
+    return *reinterpret_cast<T*>(static_cast<std::byte*>(object) + offset);
+}
+
+template <class T>
+const T& member(const void* object, std::uint32_t offset) {
+    return *reinterpret_cast<const T*>(static_cast<const std::byte*>(object) + offset);
+}
+
+inline bool is_set(const s_item& item, const void* object) {
+    return item.flag != k_no_flag && member<bool>(object, item.flag);
+}
+
+inline void mark_set(const s_item& item, void* object) {
+    if (item.flag != k_no_flag) member<bool>(object, item.flag) = true;
+}
+
+inline bool is_nil(const s_class& type, const void* object) {
+    return type.nil_flag != k_no_flag && member<bool>(object, type.nil_flag);
+}
+
+inline bool is_repeating(const s_item& item) {
+    switch (item.kind) {
+        case item_kind::element_list:
+        case item_kind::child_list:
+        case item_kind::group_list:
+        case item_kind::any:
+            return true;
+        default:
+            return false;
+    }
+}
+
+inline const c_list_base& list_of(const s_item& item, const void* object) {
+    return member<c_list_base>(object, item.offset);
+}
+
+inline s_choice& choice_of(const s_class& type, void* object) { return member<s_choice>(object, type.choice); }
+inline const s_choice& choice_of(const s_class& type, const void* object) {
+    return member<s_choice>(object, type.choice);
+}
+
+inline std::int32_t alternative_number(const s_class& type, const s_item& alternative) {
+    return static_cast<std::int32_t>(&alternative - type.elements.data());
+}
+
+/// The row of the chosen alternative, or null when nothing is chosen.
+inline const s_item* chosen_row(const s_class& type, const s_choice& choice) {
+    const auto number = static_cast<std::size_t>(choice.chosen);
+    return number < type.elements.size() ? &type.elements[number] : nullptr;
+}
+
+/// Calls `action` with an object of the C++ type of a simple value, as `static_cast<T*>(nullptr)`.
+/// This is the one place that maps a value's kind to its type.
+template <class Action>
+decltype(auto) with_value_type(value_kind kind, Action&& action) {
+    switch (kind) {
+        case value_kind::boolean:
+            return action(static_cast<bool*>(nullptr));
+        case value_kind::number:
+            return action(static_cast<double*>(nullptr));
+        case value_kind::int32:
+            return action(static_cast<std::int32_t*>(nullptr));
+        case value_kind::uint32:
+            return action(static_cast<std::uint32_t*>(nullptr));
+        case value_kind::uint8:
+            return action(static_cast<std::uint8_t*>(nullptr));
+        case value_kind::datetime:
+            return action(static_cast<c_datetime*>(nullptr));
+        case value_kind::binary:
+            return action(static_cast<c_binary*>(nullptr));
+        case value_kind::text:
+        case value_kind::none:
+            break;
+    }
+    return action(static_cast<std::u16string*>(nullptr));
+}
+
+/// A new entry at the end of a repeating item; a default value or object.
+void* append_default(const s_item& item, void* object);
+
+/// True if the code points of a text lie within an item's length facets; otherwise `*code` says which failed.
+elmx_error check_length(const s_facets& facets, const std::string& text);
+
+}  // namespace lmx

@@ -1,0 +1,507 @@
+// Copyright 2026 The Vyr Authors
+// SPDX-License-Identifier: Apache-2.0
+
+#include "lmx/binding/unmarshal.h"
+
+#include <algorithm>
+
+#include "lmx/binding/any_info.h"
+#include "lmx/binding/object.h"
+#include "lmx/binding/storage.h"
+#include "lmx/values/unicode.h"
+
+namespace lmx {
+namespace {
+
+constexpr char k_source_file[] = "lmx/binding/unmarshal.cpp";
+
+/// Passes a failure to the reader's handler. True if the handler swallowed it and reading goes on; `*error` is the
+/// handler's answer.
+bool goes_on(c_xml_reader& reader, elmx_error code, const std::string& item_name, elmx_error* error, int line) {
+    *error = reader.handle_error(code, item_name, k_source_file, line);
+    return *error == ELMX_OK;
+}
+
+bool next_element(c_xml_reader& reader, const s_event_map* map, std::string* name, elmx_error* error) {
+    *error = ELMX_OK;
+    reader.get_element_event(map, error, name);
+    return *error == ELMX_OK || goes_on(reader, *error, *name, error, __LINE__);
+}
+
+void tokenise_again(c_xml_reader& reader, const s_event_map* map) {
+    if (reader.is_current_event_tokenisable()) reader.tokenise(map, ELXP_ELEMENT);
+}
+
+const s_item* find_token(std::span<const s_item> items, int token) {
+    const auto item =
+        std::find_if(items.begin(), items.end(), [token](const s_item& row) { return row.token == token; });
+    return item == items.end() ? nullptr : &*item;
+}
+
+// Values: the text to check and store is always the reader's value work string.
+
+bool is_lexically_valid(value_kind kind, const std::string& text) {
+    switch (kind) {
+        case value_kind::boolean:
+            return is_valid_bool(text);
+        case value_kind::number:
+            return is_valid_float(text);
+        case value_kind::int32:
+        case value_kind::uint32:
+        case value_kind::uint8:
+            return is_valid_integer(text);
+        case value_kind::datetime:
+            return c_datetime::is_valid(text);
+        case value_kind::binary:
+            return c_binary::is_valid_base64(text);
+        case value_kind::text:
+        case value_kind::none:
+            break;
+    }
+    return true;
+}
+
+/// The checks that look at the text, in the order in which they report.
+bool check_text(c_xml_reader& reader, const s_item& item, const std::string& item_name, elmx_error* error) {
+    const std::string& text = reader.m_value;
+    const bool is_valid = is_lexically_valid(item.value, text);
+    if (!is_valid && !goes_on(reader, ELMX_VALUE_BAD_FORMAT, item_name, error, __LINE__)) return false;
+    if (item.facets == nullptr) return true;
+    const s_facets& facets = *item.facets;
+    // The pattern engine is quadratic on some texts; one that failed the check above is none of its business.
+    if (facets.pattern != nullptr && is_valid && !facets.pattern->is_match(text) &&
+        !goes_on(reader, ELMX_NO_PATTERN_MATCHED, item_name, error, __LINE__)) {
+        return false;
+    }
+    if (!facets.enumeration.empty() &&
+        std::find(facets.enumeration.begin(), facets.enumeration.end(), text) == facets.enumeration.end() &&
+        !goes_on(reader, ELMX_VALUE_NOT_ENUMERATED, item_name, error, __LINE__)) {
+        return false;
+    }
+    if (!is_min_length_ok(text, facets.minimum_length) &&
+        !goes_on(reader, ELMX_LENGTH_TOO_SHORT, item_name, error, __LINE__)) {
+        return false;
+    }
+    if (!is_max_length_ok(text, facets.maximum_length) &&
+        !goes_on(reader, ELMX_LENGTH_TOO_LONG, item_name, error, __LINE__)) {
+        return false;
+    }
+    // Integers are compared as text, so that one of any length gets the right verdict.
+    if (facets.minimum_integer != nullptr) {
+        const bool is_below =
+            facets.minimum_exclusive ? text <= *facets.minimum_integer : text < *facets.minimum_integer;
+        if (is_below && !goes_on(reader, ELMX_VALUE_BELOW_MIN, item_name, error, __LINE__)) return false;
+    }
+    if (facets.maximum_integer != nullptr) {
+        const bool is_above =
+            facets.maximum_exclusive ? text >= *facets.maximum_integer : text > *facets.maximum_integer;
+        if (is_above && !goes_on(reader, ELMX_VALUE_EXCEEDS_MAX, item_name, error, __LINE__)) return false;
+    }
+    return true;
+}
+
+bool check_number(c_xml_reader& reader, const s_item& item, double number, const std::string& item_name,
+                  elmx_error* error) {
+    if (item.facets == nullptr) return true;
+    const s_facets& facets = *item.facets;
+    if ((number < facets.minimum || (facets.minimum_exclusive && number == facets.minimum)) &&
+        !goes_on(reader, ELMX_VALUE_BELOW_MIN, item_name, error, __LINE__)) {
+        return false;
+    }
+    return (number <= facets.maximum && !(facets.maximum_exclusive && number == facets.maximum)) ||
+           number != number || goes_on(reader, ELMX_VALUE_EXCEEDS_MAX, item_name, error, __LINE__);
+}
+
+/// Where a checked value goes: into the object, to the end of a list, or into the slot of a choice.
+void* locate(const s_class& type, const s_item& item, void* object) {
+    if (item.kind == item_kind::element_list) return append_default(item, object);
+    if (item.kind != item_kind::alternative) return &member<std::byte>(object, item.offset);
+    void* const owned = choose(type, item, object);
+    return owned != nullptr ? owned : &choice_of(type, object).number;
+}
+
+/// Checks the text, converts it, stores it and raises the flag. A swallowed failure stores all the same.
+bool store_value(const s_class& type, const s_item& item, void* object, c_xml_reader& reader,
+                 const std::string& item_name, elmx_error* error) {
+    if (!check_text(reader, item, item_name, error)) return false;
+    const std::string& text = reader.m_value;
+    switch (item.value) {
+        case value_kind::number: {
+            const double number = text_to_double(text);
+            if (!check_number(reader, item, number, item_name, error)) return false;
+            *static_cast<double*>(locate(type, item, object)) = number;
+            break;
+        }
+        case value_kind::boolean:
+            *static_cast<bool*>(locate(type, item, object)) = text_to_bool(text);
+            break;
+        case value_kind::int32:
+            *static_cast<std::int32_t*>(locate(type, item, object)) = text_to_int(text);
+            break;
+        case value_kind::uint32:
+            *static_cast<std::uint32_t*>(locate(type, item, object)) =
+                static_cast<std::uint32_t>(text_to_unsigned(text));
+            break;
+        case value_kind::uint8:
+            *static_cast<std::uint8_t*>(locate(type, item, object)) = static_cast<std::uint8_t>(text_to_byte(text));
+            break;
+        case value_kind::datetime:
+            *static_cast<c_datetime*>(locate(type, item, object)) = text;
+            break;
+        case value_kind::binary:
+            static_cast<c_binary*>(locate(type, item, object))->from_base64(text);
+            break;
+        case value_kind::text:
+        case value_kind::none:
+            vtostring(static_cast<std::u16string*>(locate(type, item, object)), text);
+            break;
+    }
+    mark_set(item, object);
+    return true;
+}
+
+/// Reads a simple child through its end tag and stores it. A swallowed failure to read stores nothing.
+bool read_simple_element(const s_class& type, const s_item& item, void* object, c_xml_reader& reader,
+                         const std::string& name, elmx_error* error) {
+    bool is_empty = false;
+    *error = ELMX_OK;
+    if (!reader.get_simple_type_value(name, item.whitespace, &reader.m_value, error, &is_empty)) {
+        return goes_on(reader, *error, name, error, __LINE__);
+    }
+    return store_value(type, item, object, reader, name, error);
+}
+
+// Items of a sequence. Each leaves the event of the element behind it, tokenised for the position behind it.
+
+bool report_missing(c_xml_reader& reader, const s_item& item, elmx_error* error) {
+    if ((item.use & use_demanded) == 0) return true;
+    return goes_on(reader, ELMX_MANDATORY_ELEMENT_MISSING, std::string(item.name), error, __LINE__);
+}
+
+bool read_single(const s_class& type, const s_item& item, void* object, c_xml_reader& reader, std::string* name,
+                 elmx_error* error) {
+    if (reader.get_current_event() != item.token) return report_missing(reader, item, error);
+    if (item.kind == item_kind::element) {
+        if (!read_simple_element(type, item, object, reader, *name, error)) return false;
+    } else if (item.kind == item_kind::child) {
+        *error = item.type->operations->unmarshal(&member<std::byte>(object, item.offset), reader, *name);
+        if (*error != ELMX_OK) return false;
+        mark_set(item, object);
+    } else if (!reader.skip_rest_of_empty_element(*name) &&
+               !goes_on(reader, ELMX_BAD_END_OF_ELEMENT, *name, error, __LINE__)) {
+        return false;
+    }
+    return next_element(reader, type.element_map + item.next_position, name, error);
+}
+
+bool read_list(const s_class& type, const s_item& item, void* object, c_xml_reader& reader, std::string* name,
+               elmx_error* error) {
+    if (reader.get_current_event() != item.token) return report_missing(reader, item, error);
+    do {
+        if (item.kind == item_kind::element_list) {
+            if (!read_simple_element(type, item, object, reader, *name, error)) return false;
+        } else {
+            // In the list before it's read: a child that fails stays there half filled.
+            void* const child = append_default(item, object);
+            *error = item.type->operations->unmarshal(child, reader, *name);
+            if (*error != ELMX_OK) return false;
+        }
+        if (!next_element(reader, type.element_map + item.position, name, error)) return false;
+    } while (reader.get_current_event() == item.token);
+    return true;
+}
+
+bool read_group(const s_class& type, const s_item& item, void* object, c_xml_reader& reader, std::string* name,
+                elmx_error* error) {
+    const bool is_member = is_group_member(*item.type, reader);
+    if (!is_member && (item.use & use_lax) == 0) return report_missing(reader, item, error);
+    void* const holder = &member<std::byte>(object, item.offset);
+    if (!item.type->operations->unmarshal_part(holder, reader, name, error)) return false;
+    mark_set(item, object);
+    tokenise_again(reader, type.element_map + item.next_position);
+    return true;
+}
+
+bool read_group_list(const s_class& type, const s_item& item, void* object, c_xml_reader& reader, std::string* name,
+                     elmx_error* error) {
+    while (is_group_member(*item.type, reader)) {
+        void* const holder = append_default(item, object);
+        if (!item.type->operations->unmarshal_part(holder, reader, name, error)) return false;
+        tokenise_again(reader, type.element_map + item.next_position);
+    }
+    return true;
+}
+
+bool read_any(const s_class& type, const s_item& item, void* object, c_xml_reader& reader, std::string* name,
+              elmx_error* error) {
+    auto& entries = member<c_list<c_any_info>>(object, item.offset);
+    if (!reader.is_current_event_tokenisable() && !report_missing(reader, item, error)) return false;
+    while (reader.is_current_event_tokenisable()) {
+        if (!reader.get_any_element(*name, &reader.m_value, ELMX_WS_PRESERVE, true) &&
+            !goes_on(reader, ELMX_UNABLE_TO_READ_ELEMENT_VALUE, *name, error, __LINE__)) {
+            return false;
+        }
+        c_any_info& entry = entries.append();
+        std::string ns;
+        entry.set_namespace(reader.get_namespace(*name, &ns));
+        entry.set_name(*name);
+        entry.set_value(reader.m_value);
+        if (!next_element(reader, nullptr, name, error)) return false;
+    }
+    return entries.size() > 0 ||
+           goes_on(reader, ELMX_MANDATORY_ELEMENT_MISSING, type.qualified_name, error, __LINE__);
+}
+
+bool read_item(const s_class& type, const s_item& item, void* object, c_xml_reader& reader, std::string* name,
+               elmx_error* error) {
+    switch (item.kind) {
+        case item_kind::element_list:
+        case item_kind::child_list:
+            return read_list(type, item, object, reader, name, error);
+        case item_kind::group:
+            return read_group(type, item, object, reader, name, error);
+        case item_kind::group_list:
+            return read_group_list(type, item, object, reader, name, error);
+        default:
+            return read_single(type, item, object, reader, name, error);
+    }
+}
+
+/// A list that stayed too short is reported under the class's name; a plain list was reported at its own turn too.
+bool check_lists(const s_class& type, const void* object, c_xml_reader& reader, elmx_error* error) {
+    const bool is_short = std::any_of(type.elements.begin(), type.elements.end(), [&](const s_item& item) {
+        return is_repeating(item) && (item.use & use_asked) != 0 && list_of(item, object).size() == 0;
+    });
+    return !is_short || goes_on(reader, ELMX_MANDATORY_ELEMENT_MISSING, type.qualified_name, error, __LINE__);
+}
+
+bool read_choice(const s_class& type, void* object, c_xml_reader& reader, std::string* name, elmx_error* error) {
+    reader.tokenise(type.element_map, ELXP_ELEMENT);
+    const s_item* const alternative = find_token(type.elements, reader.get_current_event());
+    if (alternative == nullptr) {
+        return goes_on(reader, ELMX_UNKNOWN_ELEMENT_IN_COMPLEX_CONTENT, *name, error, __LINE__);
+    }
+    // Alternatives with storage of their own are chosen before they are read, so that a half-read one stays.
+    if (alternative->type != nullptr) {
+        release_choice(type, object);
+        *error = alternative->type->operations->unmarshal(choose(type, *alternative, object), reader, *name);
+        if (*error != ELMX_OK) return false;
+    } else {
+        if (alternative->value == value_kind::text) choose(type, *alternative, object);
+        if (!read_simple_element(type, *alternative, object, reader, *name, error)) return false;
+    }
+    return next_element(reader, type.element_map, name, error);
+}
+
+bool read_nil(const s_class& type, void* object, c_xml_reader& reader, const std::string& name, elmx_error* error) {
+    if (!reader.get_attribute_value(&reader.m_value, ELMX_WS_COLLAPSE)) {
+        return goes_on(reader, ELMX_UNABLE_TO_READ_ATTRIBUTE_VALUE, name, error, __LINE__);
+    }
+    member<bool>(object, type.nil_flag) = text_to_bool(reader.m_value);
+    return true;
+}
+
+/// The row of the element's own content, which a derived class finds in its base.
+const s_class& content_owner(const s_class& type) {
+    return type.elements.empty() && type.base != nullptr ? content_owner(*type.base) : type;
+}
+
+bool has_required_attributes(const s_class& type) {
+    return std::any_of(type.attributes.begin(), type.attributes.end(),
+                       [](const s_item& item) { return (item.use & use_demanded) != 0; }) ||
+           (type.base != nullptr && has_required_attributes(*type.base));
+}
+
+elmx_error read_attributes(const s_class& type, void* object, c_xml_reader& reader, const std::string& name) {
+    elmx_error error = ELMX_OK;
+    while (reader.get_attribute_event(nullptr, &error, &reader.m_attr_name)) {
+        if (error != ELMX_OK) {
+            if (!goes_on(reader, error, name, &error, __LINE__)) return error;
+            // Nothing more can come: a handler that swallows all errors would be asked for ever.
+            if (reader.at_end_of_input()) break;
+        }
+        if (unmarshal_attribute(type, object, reader, reader.m_attr_name, &error)) continue;
+        if (error != ELMX_OK) return error;
+        if (!reader.is_xsi_attribute(reader.m_attr_name) &&
+            !goes_on(reader, ELMX_UNEXPECTED_ATTRIBUTE, reader.m_name, &error, __LINE__)) {
+            return error;
+        }
+        reader.skip_attribute_value();
+    }
+    return has_required_attributes(type) ? check_required_attributes(type, object, reader) : ELMX_OK;
+}
+
+/// The element must end here, under the name it began with.
+elmx_error check_end(c_xml_reader& reader, const c_string_stack_node& node) {
+    if (reader.get_current_event() == ELXP_END_TAG && node == reader.m_name) return ELMX_OK;
+    return reader.handle_error(ELMX_BAD_END_OF_ELEMENT, node.get_str(), k_source_file, __LINE__);
+}
+
+/// Reads the next event of an element whose own name is `node`; failures are reported under that name.
+elmx_error read_event(c_xml_reader& reader, const c_string_stack_node& node) {
+    elmx_error error = ELMX_OK;
+    reader.get_element_event(nullptr, &error, &reader.m_name);
+    return error == ELMX_OK ? ELMX_OK : reader.handle_error(error, node.get_str(), k_source_file, __LINE__);
+}
+
+elmx_error read_simple_content(const s_class& type, void* object, c_xml_reader& reader,
+                               const c_string_stack_node& node) {
+    elmx_error error = ELMX_OK;
+    reader.m_name = node.get_str();
+    const bool has_body = reader.get_current_event() != ELXP_END_TAG;
+    if (!is_nil(type, object) && !unmarshal_content(type, object, reader, &reader.m_name, &error, has_body)) {
+        return error;
+    }
+    if (!has_body) return ELMX_OK;
+    error = read_event(reader, node);
+    return error == ELMX_OK ? check_end(reader, node) : error;
+}
+
+elmx_error read_children(const s_class& type, void* object, c_xml_reader& reader, const c_string_stack_node& node) {
+    const c_xml_reader_local scope(reader);
+    elmx_error error = ELMX_OK;
+    if (reader.get_current_event() != ELXP_END_TAG) {
+        error = read_event(reader, node);
+        if (error != ELMX_OK) return error;
+    }
+    const bool is_empty = reader.get_current_event() == ELXP_END_TAG;
+    if (is_nil(type, object)) {
+        if (is_empty) return ELMX_OK;
+        error = read_event(reader, node);
+        return error == ELMX_OK ? check_end(reader, node) : error;
+    }
+    if (is_empty) {
+        if (type.may_be_empty) return ELMX_OK;
+        return reader.handle_error(ELMX_UNEXPECTED_EMPTY_ELEMENT, node.get_str(), k_source_file, __LINE__);
+    }
+    if (!unmarshal_body(type, object, reader, &reader.m_name, &error)) return error;
+    return check_end(reader, node);
+}
+
+elmx_error refuse_nesting(c_xml_reader& reader, const std::string& name) {
+    const std::string own_name = name;
+    const elmx_error error = reader.handle_error(ELMX_BADLY_FORMED, own_name, k_source_file, __LINE__);
+    if (error == ELMX_OK) reader.skip_rest_of_element(own_name);
+    return error;
+}
+
+}  // namespace
+
+elmx_error unmarshal_element(const s_class& type, void* object, c_xml_reader& reader, const std::string& name) {
+    if (reader.get_element_name_stack().get_depth() >= k_maximum_nesting) return refuse_nesting(reader, name);
+    // The name argument is the reader's work string, and every event below overwrites it.
+    const c_string_stack_node node(reader.get_element_name_stack(), name);
+    const elmx_error error = read_attributes(type, object, reader, name);
+    if (error != ELMX_OK) return error;
+    return type.content == content_kind::simple ? read_simple_content(type, object, reader, node)
+                                                : read_children(type, object, reader, node);
+}
+
+bool unmarshal_attribute(const s_class& type, void* object, c_xml_reader& reader, const std::string& name,
+                         elmx_error* error) {
+    *error = ELMX_OK;
+    reader.tokenise(type.attribute_map, ELXP_ATTRIBUTE);
+    if (type.nil_flag != k_no_flag && reader.get_current_event() == ELXP_XSI_NIL) {
+        return read_nil(type, object, reader, name, error);
+    }
+    const s_item* const item = find_token(type.attributes, reader.get_current_event());
+    if (item == nullptr) {
+        return type.base != nullptr && unmarshal_attribute(*type.base, object, reader, name, error);
+    }
+    if (is_set(*item, object) && !goes_on(reader, ELMX_ATTRIBUTE_ALREADY_READ, name, error, __LINE__)) return false;
+    if (!reader.get_attribute_value(&reader.m_value, item->whitespace)) {
+        if (!goes_on(reader, ELMX_UNABLE_TO_READ_ATTRIBUTE_VALUE, name, error, __LINE__)) return false;
+        // The reader stands inside the value; the next attribute begins behind it.
+        reader.skip_attribute_value();
+        return true;
+    }
+    return store_value(type, *item, object, reader, name, error);
+}
+
+elmx_error check_required_attributes(const s_class& type, const void* object, c_xml_reader& reader) {
+    if (type.base != nullptr) {
+        const elmx_error error = check_required_attributes(*type.base, object, reader);
+        if (error != ELMX_OK) return error;
+    }
+    for (const s_item& item : type.attributes) {
+        if ((item.use & use_demanded) != 0 && !is_set(item, object)) {
+            return reader.handle_error(ELMX_REQUIRED_ATTRIBUTES_MISSING, type.name, k_source_file, __LINE__);
+        }
+    }
+    return ELMX_OK;
+}
+
+bool unmarshal_body(const s_class& type, void* object, c_xml_reader& reader, std::string* name, elmx_error* error) {
+    *error = ELMX_OK;
+    if (type.content == content_kind::choice) return read_choice(type, object, reader, name, error);
+    if (type.base != nullptr) {
+        if (!unmarshal_body(*type.base, object, reader, name, error)) return false;
+        tokenise_again(reader, type.element_map);
+    } else if (!type.elements.empty() && type.elements.front().kind == item_kind::any) {
+        return read_any(type, type.elements.front(), object, reader, name, error);
+    } else {
+        reader.tokenise(type.element_map, ELXP_ELEMENT);
+    }
+    for (const s_item& item : type.elements) {
+        if (!read_item(type, item, object, reader, name, error)) return false;
+    }
+    return check_lists(type, object, reader, error);
+}
+
+bool unmarshal_content(const s_class& type, void* object, c_xml_reader& reader, std::string* name, elmx_error* error,
+                       bool has_body) {
+    *error = ELMX_OK;
+    const s_class& owner = content_owner(type);
+    const s_item& item = owner.elements.front();
+    if (!has_body) {
+        reader.m_value.clear();
+    } else if (!reader.get_element_value(&reader.m_value, item.whitespace, true)) {
+        return goes_on(reader, ELMX_UNABLE_TO_READ_ELEMENT_VALUE, *name, error, __LINE__);
+    }
+    return store_value(owner, item, object, reader, *name, error);
+}
+
+bool unmarshal_group(const s_class& type, void* object, c_xml_reader& reader, std::string* name, elmx_error* error) {
+    *error = ELMX_OK;
+    reader.tokenise(type.element_map, ELXP_ELEMENT);
+    const s_item* const alternative = find_token(type.elements, reader.get_current_event());
+    if (alternative == nullptr) {
+        release_choice(type, object);
+        if (!reader.skip_rest_of_element(*name) &&
+            !goes_on(reader, ELMX_BAD_END_OF_ELEMENT, *name, error, __LINE__)) {
+            return false;
+        }
+        return next_element(reader, type.element_map, name, error);
+    }
+    void* typed = nullptr;
+    if (!alternative->factory.empty()) {
+        int ns_id = 0;
+        std::string type_name;
+        const bool has_type = reader.get_xsi_type(&ns_id, &type_name);
+        if (has_type) typed = create_by_name(alternative->factory, ns_id, type_name);
+        if (typed == nullptr && (has_type || (alternative->use & use_demanded) != 0)) {
+            // The one failure that goes around the handler: nothing could be read in its place.
+            *error = ELMX_UNKNOWN_XSI_TYPE;
+            return false;
+        }
+    }
+    release_choice(type, object);
+    if (typed != nullptr) {
+        adopt(type, *alternative, object, typed);
+    } else {
+        typed = choose(type, *alternative, object);
+    }
+    *error = alternative->type->operations->unmarshal(typed, reader, *name);
+    return *error == ELMX_OK && next_element(reader, type.element_map, name, error);
+}
+
+bool is_group_member(const s_class& type, c_xml_reader& reader) {
+    if (!reader.is_current_event_tokenisable()) return false;
+    const int event = reader.get_current_event();
+    reader.tokenise(type.element_map, ELXP_ELEMENT);
+    if (find_token(type.elements, reader.get_current_event()) != nullptr) return true;
+    reader.restore_event(event);
+    return false;
+}
+
+}  // namespace lmx
