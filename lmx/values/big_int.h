@@ -1,0 +1,121 @@
+// Copyright 2026 The Vyr Authors
+// SPDX-License-Identifier: Apache-2.0
+
+/// Integers of any length, kept as text: exact parsing and comparison, no arithmetic.
+
+#pragma once
+
+#include <concepts>
+#include <cstdint>
+#include <ostream>
+#include <string>
+#include <string_view>
+
+#include "lmx/export.h"
+
+namespace lmx {
+
+/// An integer in canonical form: an optional "-" and digits without leading zeros; zero is "0".
+///
+/// Parsing never fails: it takes the longest leading integer, and 0 if there is none. Comparison with text doesn't
+/// convert the text, so that a bound can be compared with a number of any length; the text must be an integer.
+class VYR_EXPORT c_big_int {
+public:
+    c_big_int() : m_text("0") {}
+    c_big_int(const char* text);
+    c_big_int(const std::string& text);
+    c_big_int(long value);
+    c_big_int(int value) : c_big_int(static_cast<long>(value)) {}
+
+    c_big_int& operator=(const char* text) { return *this = c_big_int(text); }
+    c_big_int& operator=(const std::string& text) { return *this = c_big_int(text); }
+    c_big_int& operator=(long value) { return *this = c_big_int(value); }
+    c_big_int& operator=(int value) { return *this = c_big_int(value); }
+
+    void swap(c_big_int& other) noexcept { m_text.swap(other.m_text); }
+
+    const std::string& get_as_string() const { return m_text; }
+    /// The low 32 bits, signed. `*overflow`, if given, tells whether the magnitude passes 2147483647; it does so
+    /// for -2147483648 too.
+    std::int32_t get(bool* overflow) const;
+    double get_as_float() const;
+
+    /// The two comparisons that the operators are made of. An empty text equals nothing, and nothing exceeds it.
+    bool is_equal(std::string_view text) const;
+    bool is_greater(std::string_view text) const;
+
+private:
+    std::string m_text;
+};
+
+namespace detail {
+
+template <class T>
+concept big_int_text = std::convertible_to<const T&, const char*> || std::same_as<T, std::string>;
+
+/// A null pointer counts as zero.
+inline std::string_view text_of(const char* text) { return text == nullptr ? "0" : text; }
+inline std::string_view text_of(const std::string& text) { return text; }
+
+}  // namespace detail
+
+inline bool operator==(const c_big_int& a, const c_big_int& b) { return a.get_as_string() == b.get_as_string(); }
+inline bool operator!=(const c_big_int& a, const c_big_int& b) { return !(a == b); }
+inline bool operator>(const c_big_int& a, const c_big_int& b) { return a.is_greater(b.get_as_string()); }
+inline bool operator>=(const c_big_int& a, const c_big_int& b) { return a == b || a > b; }
+inline bool operator<(const c_big_int& a, const c_big_int& b) { return !(a >= b); }
+inline bool operator<=(const c_big_int& a, const c_big_int& b) { return !(a > b); }
+
+template <detail::big_int_text T>
+bool operator==(const c_big_int& value, const T& text) {
+    return value.is_equal(detail::text_of(text));
+}
+template <detail::big_int_text T>
+bool operator!=(const c_big_int& value, const T& text) {
+    return !(value == text);
+}
+template <detail::big_int_text T>
+bool operator>(const c_big_int& value, const T& text) {
+    return value.is_greater(detail::text_of(text));
+}
+template <detail::big_int_text T>
+bool operator>=(const c_big_int& value, const T& text) {
+    return value == text || value > text;
+}
+template <detail::big_int_text T>
+bool operator<(const c_big_int& value, const T& text) {
+    return !(value >= text);
+}
+template <detail::big_int_text T>
+bool operator<=(const c_big_int& value, const T& text) {
+    return !(value > text);
+}
+
+template <detail::big_int_text T>
+bool operator==(const T& text, const c_big_int& value) {
+    return value == text;
+}
+template <detail::big_int_text T>
+bool operator!=(const T& text, const c_big_int& value) {
+    return !(value == text);
+}
+template <detail::big_int_text T>
+bool operator>(const T& text, const c_big_int& value) {
+    return value < text;
+}
+template <detail::big_int_text T>
+bool operator>=(const T& text, const c_big_int& value) {
+    return !(value > text);
+}
+template <detail::big_int_text T>
+bool operator<(const T& text, const c_big_int& value) {
+    return value > text;
+}
+template <detail::big_int_text T>
+bool operator<=(const T& text, const c_big_int& value) {
+    return value == text || value > text;
+}
+
+VYR_EXPORT std::ostream& operator<<(std::ostream& stream, const c_big_int& value);
+
+}  // namespace lmx
