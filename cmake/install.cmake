@@ -1,0 +1,33 @@
+# What `cmake --install` puts where, and how other projects find it: find_package(vyr) and vyr.pc.
+
+include(CMakePackageConfigHelpers)
+
+set(vyr_include_dir ${CMAKE_INSTALL_INCLUDEDIR}/vyr)
+set(vyr_package_dir ${CMAKE_INSTALL_LIBDIR}/cmake/vyr)
+
+install(TARGETS vyr EXPORT vyr-targets LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR})
+if(VYR_BUILD_TOOLS)
+  install(TARGETS vyr_tool RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR})
+endif()
+
+# Every header of these folders is public; a private one would lie in a folder of its own.
+foreach(folder lmx schema document)
+  install(DIRECTORY ${PROJECT_SOURCE_DIR}/${folder} DESTINATION ${vyr_include_dir} FILES_MATCHING PATTERN "*.h"
+          PATTERN "generator" EXCLUDE)
+endforeach()
+install(FILES ${PROJECT_SOURCE_DIR}/schema/vyr.xsd DESTINATION ${CMAKE_INSTALL_DATADIR}/vyr)
+
+install(EXPORT vyr-targets NAMESPACE vyr:: DESTINATION ${vyr_package_dir})
+configure_package_config_file(${CMAKE_CURRENT_LIST_DIR}/vyr-config.cmake.in vyr-config.cmake
+                              INSTALL_DESTINATION ${vyr_package_dir})
+# Until 1.0 a minor version may change the interface.
+write_basic_package_version_file(vyr-config-version.cmake COMPATIBILITY SameMinorVersion)
+install(FILES ${CMAKE_CURRENT_BINARY_DIR}/vyr-config.cmake ${CMAKE_CURRENT_BINARY_DIR}/vyr-config-version.cmake
+        DESTINATION ${vyr_package_dir})
+
+# Paths are written against the .pc file's own place, so that an installed tree can be moved.
+cmake_path(RELATIVE_PATH CMAKE_INSTALL_FULL_LIBDIR BASE_DIRECTORY ${CMAKE_INSTALL_PREFIX} OUTPUT_VARIABLE vyr_libdir)
+cmake_path(RELATIVE_PATH CMAKE_INSTALL_PREFIX BASE_DIRECTORY ${CMAKE_INSTALL_FULL_LIBDIR}/pkgconfig
+           OUTPUT_VARIABLE vyr_prefix)
+configure_file(${CMAKE_CURRENT_LIST_DIR}/vyr.pc.in vyr.pc @ONLY)
+install(FILES ${CMAKE_CURRENT_BINARY_DIR}/vyr.pc DESTINATION ${CMAKE_INSTALL_LIBDIR}/pkgconfig)

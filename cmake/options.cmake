@@ -3,15 +3,25 @@
 option(VYR_BUILD_TOOLS "Build the vyr command" ON)
 option(VYR_BUILD_TESTS "Build the tests" ${PROJECT_IS_TOP_LEVEL})
 option(VYR_BUILD_BENCH "Build the benchmarks" OFF)
+option(VYR_BUILD_FUZZ "Build the fuzzers; needs clang" OFF)
 option(VYR_WARNINGS_AS_ERRORS "Treat warnings as errors" OFF)
 
 set(CMAKE_CXX_STANDARD 20)
 set(CMAKE_CXX_STANDARD_REQUIRED ON)
 set(CMAKE_CXX_EXTENSIONS OFF)
+set(CMAKE_RUNTIME_OUTPUT_DIRECTORY ${PROJECT_BINARY_DIR}/bin)
 set(CMAKE_CXX_VISIBILITY_PRESET hidden)
 set(CMAKE_VISIBILITY_INLINES_HIDDEN ON)
 if(NOT CMAKE_BUILD_TYPE AND NOT CMAKE_CONFIGURATION_TYPES)
   set(CMAKE_BUILD_TYPE Release CACHE STRING "Build type" FORCE)
+endif()
+
+# Repeated builds are much faster through ccache; a machine without it builds all the same.
+if(PROJECT_IS_TOP_LEVEL AND NOT DEFINED CMAKE_CXX_COMPILER_LAUNCHER)
+  find_program(VYR_CCACHE ccache)
+  if(VYR_CCACHE)
+    set(CMAKE_CXX_COMPILER_LAUNCHER ${VYR_CCACHE})
+  endif()
 endif()
 
 add_library(vyr_warnings INTERFACE)

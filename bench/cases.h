@@ -1,0 +1,34 @@
+// Copyright 2026 The Vyr Authors
+// SPDX-License-Identifier: Apache-2.0
+
+/// The operations that are measured. Each exists for the library and for the bare DOM parser beside it.
+
+#pragma once
+
+#include <functional>
+#include <memory>
+#include <string>
+#include <vector>
+
+namespace vyr_bench {
+
+/// The document, as bytes and as a file with the same bytes.
+struct s_input {
+    std::string bytes;
+    std::string path;
+};
+
+/// One measured operation: `prepare` is not timed and returns what is. What that call returns keeps its result alive,
+/// so that taking it down is not timed either; null means that the operation failed.
+struct s_case {
+    std::string name;
+    std::function<std::function<std::shared_ptr<void>()>(const s_input&)> prepare;
+};
+
+/// Pairs: each operation of the library is followed by the other parser's.
+const std::vector<s_case>& cases();
+
+/// True if the text loads without an error and is written back byte for byte.
+bool is_sound(const std::string& text);
+
+}  // namespace vyr_bench

@@ -1,0 +1,164 @@
+// Copyright 2026 The Vyr Authors
+// SPDX-License-Identifier: Apache-2.0
+
+/// Runs the measured operations through Google Benchmark and closes with a table of the pairs: speed, ratio, and peak
+/// memory beside the document's own bytes.
+///
+/// Peak memory is the high-water mark of a whole process, so each operation gets a process of its own: the program
+/// starts itself again with `--peak <case> <file>`.
+
+#include <benchmark/benchmark.h>
+#include <sys/resource.h>
+#include <unistd.h>
+
+#include <algorithm>
+#include <array>
+#include <cstdio>
+#include <cstdlib>
+#include <filesystem>
+#include <fstream>
+#include <iostream>
+#include <map>
+#include <sstream>
+#include <string>
+
+#include "bench/cases.h"
+#include "bench/palette_text.h"
+
+namespace {
+
+using vyr_bench::s_case;
+using vyr_bench::s_input;
+
+constexpr double k_mega = 1e6;
+
+/// High-water mark of this process in bytes.
+double peak_memory() {
+    rusage usage{};
+    getrusage(RUSAGE_SELF, &usage);
+    return static_cast<double>(usage.ru_maxrss) * 1024;
+}
+
+/// The child's side: prints by how many bytes the operation raised the high-water mark.
+int measure_peak(std::size_t index, const char* path) {
+    s_input input{{}, path};
+    std::ifstream file(path, std::ios::binary);
+    input.bytes.resize(std::filesystem::file_size(path));
+    file.read(input.bytes.data(), static_cast<std::streamsize>(input.bytes.size()));
+    const auto run = vyr_bench::cases().at(index).prepare(input);
+    const double before = peak_memory();
+    const auto result = run();
+    if (!result) return EXIT_FAILURE;
+    std::cout << peak_memory() - before << '\n';
+    return EXIT_SUCCESS;
+}
+
+/// The parent's side; a negative number if the child failed.
+double peak_of(std::size_t index, const std::string& path) {
+    const std::string program = std::filesystem::read_symlink("/proc/self/exe");
+    const std::string command = "'" + program + "' --peak " + std::to_string(index) + " '" + path + "'";
+    FILE* pipe = popen(command.c_str(), "r");
+    if (pipe == nullptr) return -1;
+    double bytes = -1;
+    if (std::fscanf(pipe, "%lf", &bytes) != 1) bytes = -1;
+    return pclose(pipe) == 0 ? bytes : -1;
+}
+
+/// Prints as usual and keeps the best time of each case.
+class c_reporter : public benchmark::ConsoleReporter {
+public:
+    void ReportRuns(const std::vector<Run>& runs) override {
+        ConsoleReporter::ReportRuns(runs);
+        for (const Run& run : runs) {
+            if (run.run_type != Run::RT_Iteration || run.error_occurred) continue;
+            const double seconds = run.real_accumulated_time / static_cast<double>(run.iterations);
+            const auto [entry, is_new] = m_seconds.emplace(run.run_name.function_name, seconds);
+            if (!is_new) entry->second = std::min(entry->second, seconds);
+        }
+    }
+    /// 0 for a case that did not run.
+    double seconds(const std::string& name) const {
+        const auto found = m_seconds.find(name);
+        return found == m_seconds.end() ? 0 : found->second;
+    }
+
+private:
+    std::map<std::string, double> m_seconds;
+};
+
+void measure(benchmark::State& state, const s_case& row, const s_input& input) {
+    const auto run = row.prepare(input);
+    for (auto _ : state) {
+        auto result = run();
+        state.PauseTiming();
+        if (!result) {
+            state.SkipWithError("the operation failed");
+            return;
+        }
+        result.reset();
+        state.ResumeTiming();
+    }
+    state.SetBytesProcessed(static_cast<std::int64_t>(state.iterations()) *
+                            static_cast<std::int64_t>(input.bytes.size()));
+}
+
+void print_pairs(const c_reporter& reporter, const s_input& input) {
+    const auto size = static_cast<double>(input.bytes.size());
+    std::printf("\ndocument: %.1f MB; peak memory is beside the document, as a multiple of its size\n",
+                size / k_mega);
+    std::printf("%-14s%12s%15s%8s%11s%15s\n", "", "vyr MB/s", "pugixml MB/s", "ratio", "vyr peak", "pugixml peak");
+    const auto& rows = vyr_bench::cases();
+    for (std::size_t i = 0; i + 1 < rows.size(); i += 2) {
+        const double vyr = reporter.seconds(rows[i].name);
+        const double other = reporter.seconds(rows[i + 1].name);
+        if (vyr == 0 || other == 0) continue;  // left out by --benchmark_filter
+        const std::array peaks = {peak_of(i, input.path), peak_of(i + 1, input.path)};
+        std::printf("%-14s%12.1f%15.1f%8.2f", rows[i].name.substr(4).c_str(), size / vyr / k_mega,
+                    size / other / k_mega, other / vyr);
+        std::printf("%10.2fx%14.2fx\n", peaks[0] / size, peaks[1] / size);
+    }
+}
+
+/// Takes `--colors=N` out of the arguments; 8,000 colours make 40 MB.
+std::size_t take_colors(int& argc, char** argv) {
+    std::size_t colors = 8000;
+    const auto is_ours = [&colors](const char* argument) {
+        const std::string text = argument;
+        if (!text.starts_with("--colors=")) return false;
+        colors = std::strtoull(text.c_str() + 9, nullptr, 10);
+        return true;
+    };
+    argc = static_cast<int>(std::remove_if(argv + 1, argv + argc, is_ours) - argv);
+    return colors;
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+    if (argc == 4 && std::string(argv[1]) == "--peak")
+        return measure_peak(std::strtoull(argv[2], nullptr, 10), argv[3]);
+
+    const std::size_t colors = take_colors(argc, argv);
+    benchmark::Initialize(&argc, argv);
+    if (benchmark::ReportUnrecognizedArguments(argc, argv)) return EXIT_FAILURE;
+
+    s_input input{vyr_bench::palette_text(colors),
+                  std::filesystem::temp_directory_path() / ("vyr_bench." + std::to_string(getpid()) + ".vyr")};
+    if (!vyr_bench::is_sound(input.bytes)) {
+        std::cerr << "the palette does not load, or is not written back byte for byte\n";
+        return EXIT_FAILURE;
+    }
+    std::ofstream(input.path, std::ios::binary) << input.bytes;
+
+    for (const s_case& row : vyr_bench::cases()) {
+        benchmark::RegisterBenchmark(row.name.c_str(),
+                                     [&row, &input](benchmark::State& state) { measure(state, row, input); })
+            ->Unit(benchmark::kMillisecond)
+            ->UseRealTime();
+    }
+    c_reporter reporter;
+    benchmark::RunSpecifiedBenchmarks(&reporter);
+    print_pairs(reporter, input);
+    std::filesystem::remove(input.path);
+    return EXIT_SUCCESS;
+}

@@ -1,0 +1,52 @@
+#!/usr/bin/env bash
+# Copyright 2026 The Vyr Authors
+# SPDX-License-Identifier: Apache-2.0
+#
+# Installs what is missing to work on Vyr on a Debian 12 machine; does nothing, quickly, when nothing is missing.
+#
+#   scripts/setup.sh [build] [test] [bench] [fuzz]      (without arguments: build)
+
+set -euo pipefail
+
+declare -A packages=(
+    [build]="g++ cmake ninja-build libxml2-dev"
+    [test]="libgtest-dev libxml2-utils pkg-config python3 clang-format-14"
+    [bench]="libbenchmark-dev libpugixml-dev"
+    [fuzz]="clang-14 clang libclang-rt-14-dev"
+)
+
+wanted=${packages[build]}
+for group in "$@"; do
+    if [[ -z ${packages[$group]:-} ]]; then
+        echo "setup.sh: unknown group '$group'; there are: ${!packages[*]}" >&2
+        exit 2
+    fi
+    wanted+=" ${packages[$group]}"
+done
+
+if ! command -v dpkg-query apt-get > /dev/null; then
+    echo "setup.sh: this is no Debian system; install by its own means what these packages hold: $wanted" >&2
+    exit 1
+fi
+
+missing=()
+for package in $wanted; do
+    # A package may be known and yet not installed, so its state counts, not dpkg-query's exit code.
+    state=$(dpkg-query --show --showformat='${db:Status-Status}' "$package" 2> /dev/null || true)
+    [[ $state == installed* ]] || missing+=("$package")
+done
+[[ ${#missing[@]} -eq 0 ]] && exit 0
+
+as_root=()
+if [[ $(id -u) -ne 0 ]]; then
+    if ! command -v sudo > /dev/null; then
+        echo "setup.sh: neither root nor sudo; ask for these packages: ${missing[*]}" >&2
+        exit 1
+    fi
+    as_root=(sudo)
+fi
+echo "setup.sh: installing ${missing[*]}"
+# Each apt-get is given the variable itself, since sudo drops the caller's environment.
+"${as_root[@]}" env DEBIAN_FRONTEND=noninteractive apt-get -qq update
+"${as_root[@]}" env DEBIAN_FRONTEND=noninteractive apt-get -qq install --yes --no-install-recommends \
+    -o Dpkg::Use-Pty=0 "${missing[@]}"
