@@ -9,6 +9,7 @@
 #include <cstddef>
 #include <ostream>
 #include <string>
+#include <string_view>
 
 #include "lmx/binding/table.h"
 #include "lmx/error.h"
@@ -23,6 +24,14 @@ struct s_document {
     const char* local_name;  ///< "Vyr", as compared on reading
     const s_ns_map* ns_map;
     const s_operations* operations;
+};
+
+/// One class of a schema, for code that walks them all.
+struct s_named_class {
+    std::string_view name;
+    const s_class* type;  ///< null for element classes that add nothing to their type
+    const s_operations* operations;
+    const s_document* document;  ///< null for classes that are no document of their own
 };
 
 /// Reads the document element from a reader. `ELMX_ELEMENT_NOT_FOUND` if it is another one.

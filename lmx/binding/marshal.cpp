@@ -20,8 +20,8 @@ constexpr char k_source_file[] = "lmx/binding/marshal.cpp";
 void append_value(std::string& line, const std::u16string& value) { append_as_xml(line, value); }
 void append_value(std::string& line, bool value) { append_as_xml(line, value); }
 void append_value(std::string& line, double value) { append_as_xml(line, value); }
-void append_value(std::string& line, const c_datetime& value) { value.append_to(line); }
-void append_value(std::string& line, const c_binary& value) { value.append_base64(line); }
+void append_value(std::string& line, const c_datetime& value) { value.append_to(&line); }
+void append_value(std::string& line, const c_binary& value) { value.append_base64(&line); }
 template <std::integral Integer>
 void append_value(std::string& line, Integer value) {
     char digits[12];

@@ -153,7 +153,7 @@ bool store_value(const s_class& type, const s_item& item, void* object, c_xml_re
             break;
         case value_kind::text:
         case value_kind::none:
-            vtostring(static_cast<std::u16string*>(locate(type, item, object)), text);
+            vtostring(*static_cast<std::u16string*>(locate(type, item, object)), text);
             break;
     }
     mark_set(item, object);

@@ -1,0 +1,133 @@
+// Copyright 2026 The Vyr Authors
+// SPDX-License-Identifier: Apache-2.0
+
+/// The document calls: stamps, endings, what survives a failure, and documents on disk.
+
+#include <gtest/gtest.h>
+
+#include <filesystem>
+#include <fstream>
+#include <sstream>
+
+#include "schema/Vyr.h"
+
+namespace vyr_test {
+namespace {
+
+using namespace lmx;
+using com_vyrgraph_v2::Vyr;
+namespace fs = std::filesystem;
+
+/// The smallest document that can be written.
+Vyr minimal_document() {
+    Vyr document;
+    auto& header = document.get_Preamble().get_Header();
+    header.set_Creator(u"Gr\u00FCn");
+    header.set_CreatorVersion(u"1");
+    header.set_Purpose(u"\U0001F3A8");
+    header.append_ChangeHistory(c_datetime("2024-05-01T09:30:00Z"));
+    return document;
+}
+
+std::string bytes_of(const fs::path& path) {
+    std::ifstream stream(path, std::ios::binary);
+    std::ostringstream bytes;
+    bytes << stream.rdbuf();
+    return std::move(bytes).str();
+}
+
+class Facade : public testing::Test {
+protected:
+    void SetUp() override {
+        fs::remove_all(m_folder);
+        fs::create_directories(m_folder);
+    }
+    std::u16string path(const char* name) const { return (m_folder / name).u16string(); }
+    bool is_there(const char* name) const { return fs::exists(m_folder / name); }
+    const fs::path m_folder = fs::path("facade") / testing::UnitTest::GetInstance()->current_test_info()->name();
+};
+
+TEST_F(Facade, AFreshDocumentIsStampedAndIncomplete) {
+    const Vyr document;
+    const auto& header = document.get_Preamble().get_Header();
+    EXPECT_TRUE(document.is_occurs_ok());
+    EXPECT_EQ(header.get_ReadSDKInformation().get_SDKName(), u"Vyr2-LMX-3.7.6");
+    EXPECT_EQ(header.get_ReadSDKInformation().get_SDKVersion().get_SDKVersion(), u"1.0");
+    EXPECT_FALSE(header.isset_WriteSDKInformation());
+    const auto result = document.writeString();
+    EXPECT_EQ(result.getElmxError(), ELMX_OCCURS_ERROR_ON_MARSHAL);
+    EXPECT_TRUE(result.getXmlDocument().empty());
+    EXPECT_EQ(document.writeFile(path("a.vyr")), ELMX_OCCURS_ERROR_ON_MARSHAL);
+    EXPECT_FALSE(is_there("a.vyr"));
+}
+
+TEST_F(Facade, WritingStampsAndReadingKeepsWhatTheDocumentSays) {
+    const Vyr document = minimal_document();
+    const auto result = document.writeString();
+    ASSERT_EQ(result.getElmxError(), ELMX_OK);
+    EXPECT_TRUE(document.get_Preamble().get_Header().isset_WriteSDKInformation());
+    std::u16string text = result.getXmlDocument();
+    const std::u16string name = u"<Vyr:SDKName>Vyr2-LMX-3.7.6";
+    text.replace(text.find(name), name.size(), u"<Vyr:SDKName>other");
+    Vyr back;
+    ASSERT_EQ(back.loadString(text), ELMX_OK);
+    EXPECT_EQ(back.get_Preamble().get_Header().get_ReadSDKInformation().get_SDKName(), u"other");
+    EXPECT_EQ(back.writeString().getXmlDocument(), text);
+    Vyr copy(back);
+    EXPECT_EQ(copy.get_Preamble().get_Header().get_ReadSDKInformation().get_SDKName(), u"Vyr2-LMX-3.7.6");
+    std::string plain;
+    EXPECT_EQ(minimal_document().marshal(&plain), ELMX_OK);
+    EXPECT_EQ(plain.find("WriteSDKInformation"), std::string::npos);
+}
+
+TEST_F(Facade, EndingsAreComparedExactly) {
+    const Vyr document = minimal_document();
+    for (const char* const name : {"a", "a.xml", "a.VYR", "a.vyR", "vyr"}) {
+        EXPECT_EQ(document.writeFile(path(name)), ELMX_USER_DEFINED_2) << name;
+        EXPECT_FALSE(is_there(name)) << name;
+    }
+    ASSERT_EQ(document.writeFile(path("\xC3\xA9.vyr")), ELMX_OK);
+    fs::rename(m_folder / "\xC3\xA9.vyr", m_folder / "b.xml");
+    Vyr back;
+    EXPECT_EQ(back.loadFile(path("b.xml")), ELMX_OK);
+    EXPECT_EQ(document.writeFile(path("c.vyrz")), ELMX_USER_DEFINED_1);
+    EXPECT_EQ(back.loadFile(path("c.vyrz")), ELMX_USER_DEFINED_1);
+}
+
+TEST_F(Facade, FilesThatCantBeOpened) {
+    const std::u16string not_text = path("") + u"\xD800.vyr";
+    Vyr document = minimal_document();
+    EXPECT_EQ(document.loadFile(path("missing.vyr")), ELMX_NO_FILE);
+    EXPECT_EQ(document.loadFile(not_text), ELMX_NO_FILE);
+    EXPECT_EQ(document.loadFile(path("a") + u'\0' + u".vyr"), ELMX_NO_FILE);
+    EXPECT_EQ(document.writeFile(path("missing/a.vyr")), ELMX_OK);
+    EXPECT_EQ(document.writeFile(not_text), ELMX_OK);
+    EXPECT_TRUE(fs::is_empty(m_folder));
+    EXPECT_EQ(document.marshal((m_folder / "missing/a.vyr").c_str()), ELMX_NO_FILE);
+    elmx_error error = ELMX_OK;
+    const Vyr from_file((m_folder / "missing.vyr").c_str(), &error);
+    EXPECT_EQ(error, ELMX_NO_FILE);
+}
+
+TEST_F(Facade, AFailedLoadKeepsWhatWasReadAndASecondLoadAppends) {
+    const std::u16string text = u"<Vyr:Vyr xmlns:Vyr='http://vyrgraph.com/v2'><Vyr:Preamble><Vyr:Header><Vyr:Creator>c"
+                                u"</Vyr:Creator><Vyr:CreatorVersion>v</Vyr:CreatorVersion><Vyr:ChangeHistory>"
+                                u"2024-05-01T09:30:00Z</Vyr:ChangeHistory><Vyr:Purpose>p</Vyr:Purpose></Vyr:Header>"
+                                u"</Vyr:Preamble><Vyr:Palette PaletteName='half'><Vyr:Oops/></Vyr:Palette></Vyr:Vyr>";
+    Vyr document;
+    EXPECT_EQ(document.loadString(text), ELMX_MANDATORY_ELEMENT_MISSING);
+    EXPECT_EQ(document.loadString(text), ELMX_MANDATORY_ELEMENT_MISSING);
+    ASSERT_EQ(document.size_Palette(), 2U);
+    EXPECT_EQ(document.get_Palette(1).get_PaletteName(), u"half");
+    EXPECT_EQ(document.get_Preamble().get_Header().size_ChangeHistory(), 2U);
+    document.reset();
+    EXPECT_EQ(document.size_Palette(), 0U);
+    EXPECT_TRUE(document.get_Preamble().get_Header().isset_ReadSDKInformation());
+    EXPECT_EQ(document.loadString(u"<Vyr/>"), ELMX_ELEMENT_NOT_FOUND);
+    EXPECT_EQ(document.loadString(u"<v:Vyr xmlns:v='http://vyrgraph.com/v2'/>"), ELMX_UNEXPECTED_EMPTY_ELEMENT);
+    EXPECT_EQ(document.loadString(u""), ELMX_UNEXPECTED_END_OF_MESSAGE);
+    EXPECT_EQ(document.loadString(u"text"), ELMX_BAD_CHAR_ENCODING);
+}
+
+}  // namespace
+}  // namespace vyr_test

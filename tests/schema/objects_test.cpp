@@ -1,0 +1,322 @@
+// Copyright 2026 The Vyr Authors
+// SPDX-License-Identifier: Apache-2.0
+
+/// What objects of the format do by themselves: accessors, presence, copies, choices, identities and writing.
+
+#include <gtest/gtest.h>
+
+#include <limits>
+
+#include "tests/schema/support.h"
+
+namespace vyr_test {
+namespace {
+
+using namespace lmx;
+
+elmx_error write_code(const auto& object, const char* name) {
+    elmx_error code = ELMX_OK;
+    write(object, name, &code);
+    return code;
+}
+
+TEST(Objects, TouchingIsSetting) {
+    v2::Preamble preamble;
+    EXPECT_FALSE(static_cast<const v2::Preamble&>(preamble).isset_Owner());
+    static_cast<const v2::Preamble&>(preamble).get_Owner();
+    EXPECT_FALSE(preamble.isset_Owner());
+    preamble.get_Owner();
+    EXPECT_TRUE(preamble.isset_Owner());
+    EXPECT_FALSE(preamble.is_occurs_ok());
+    preamble.get_Header();
+    EXPECT_TRUE(preamble.is_occurs_ok());
+    preamble.unset_Owner();
+    EXPECT_FALSE(preamble.isset_Owner());
+}
+
+TEST(Objects, ListsGrowOnAccessAndClampTheirIndexes) {
+    v2::Vyr document;
+    document.get_Color(3).set_ColorName(u"fourth");
+    EXPECT_EQ(document.size_Color(), 4U);
+    document.insert_Color(100);
+    EXPECT_EQ(document.size_Color(), 5U);
+    EXPECT_EQ(document.insert_Color(0), ELMX_OK);
+    EXPECT_EQ(document.get_Color(4).get_ColorName(), u"fourth");
+    document.delete_Color(0);
+    EXPECT_EQ(document.get_Color(3).get_ColorName(), u"fourth");
+    document.append_Color();
+    document.back_Color() = document.get_Color(3);
+    document.assign_Color(7, document.get_Color(3)).set_UniqueID(u"x");
+    EXPECT_EQ(document.size_Color(), 8U);
+    EXPECT_FALSE(document.get_Color(3).isset_UniqueID());
+    document.clear_Color();
+    EXPECT_EQ(document.size_Color(), 0U);
+
+    v2::OwnerType owner;
+    owner.set_Company(9, u"a");
+    owner.append_Company(u"c");
+    owner.insert_Company(1, u"b");
+    owner.set_Company(0, u"A");
+    EXPECT_EQ(write(owner, "Vyr:Owner"), "<Vyr:Owner><Vyr:Company>A</Vyr:Company><Vyr:Company>b</Vyr:Company>"
+                                         "<Vyr:Company>c</Vyr:Company></Vyr:Owner>");
+}
+
+TEST(Objects, SettersRunTheFacetsAndChangeNothingOnFailure) {
+    v2::ColorSpaceCIELChType color;
+    EXPECT_EQ(color.set_H(359.999), ELMX_OK);
+    EXPECT_EQ(color.set_H(360), ELMX_VALUE_EXCEEDS_MAX);
+    EXPECT_EQ(color.set_H(-0.001), ELMX_VALUE_BELOW_MIN);
+    EXPECT_EQ(color.set_H(std::numeric_limits<double>::infinity()), ELMX_VALUE_EXCEEDS_MAX);
+    EXPECT_EQ(color.get_H(), 359.999);
+    EXPECT_EQ(color.set_L(120), ELMX_VALUE_EXCEEDS_MAX);
+    EXPECT_EQ(v2::ColorSpaceCIELabType().set_L(120), ELMX_OK);
+    EXPECT_EQ(v2::ColorSpaceYIQType().set_I(0.5957), ELMX_OK);
+    EXPECT_EQ(v2::ColorSpaceYIQType().set_I(0.59571), ELMX_VALUE_EXCEEDS_MAX);
+    EXPECT_EQ(v2::Colorant().set_Density(0), ELMX_VALUE_BELOW_MIN);
+
+    v2::SpotColorType spot;
+    EXPECT_EQ(spot.set_Name(u""), ELMX_LENGTH_TOO_SHORT);
+    v2::ProfileType_Parameters parameters;
+    EXPECT_EQ(parameters.set_Name(u"ab"), ELMX_LENGTH_TOO_LONG);
+    EXPECT_EQ(parameters.set_Name(u"\U0001F3A8"), ELMX_OK);
+
+    v2::Averaging averaging;
+    EXPECT_EQ(averaging.set_AveragingValue(1), ELMX_VALUE_BELOW_MIN);
+    EXPECT_EQ(averaging.set_AveragingValue(100), ELMX_VALUE_EXCEEDS_MAX);
+    EXPECT_EQ(averaging.set_AveragingValue(99), ELMX_OK);
+}
+
+TEST(Objects, TwoSettersTestLessThanTheReader) {
+    v2::DeviceSettings settings;
+    EXPECT_EQ(settings.set_Aperture(2147483648U), ELMX_VALUE_EXCEEDS_MAX);
+    EXPECT_FALSE(settings.isset_Aperture());
+    EXPECT_EQ(settings.set_Aperture(0), ELMX_OK);
+    const std::string text = write(settings, "Vyr:DeviceSettings");
+    EXPECT_EQ(text, "<Vyr:DeviceSettings><Vyr:Aperture>0</Vyr:Aperture></Vyr:DeviceSettings>");
+    v2::DeviceSettings back;
+    EXPECT_EQ(read(back, text), failure(ELMX_VALUE_BELOW_MIN, "Vyr:Aperture"));
+    v2::IlluminationOptionsType options;
+    EXPECT_EQ(options.set_ColorTemperature(0), ELMX_OK);
+    EXPECT_EQ(options.getchosen(), 2);
+}
+
+TEST(Objects, EnumeratedItemsAreTextsWithNumbers) {
+    v2::SampleType sample;
+    EXPECT_EQ(sample.getenum_Backing(), 0);
+    EXPECT_EQ(sample.set_Backing(u"Backing_Self "), ELMX_VALUE_NOT_ENUMERATED);
+    EXPECT_FALSE(sample.isset_Backing());
+    EXPECT_FALSE(sample.setenum_Backing(0));
+    EXPECT_FALSE(sample.setenum_Backing(5));
+    EXPECT_TRUE(sample.setenum_Backing(3));
+    EXPECT_EQ(sample.get_Backing(), u"Backing_Self");
+    EXPECT_EQ(sample.getenum_Backing(), 3);
+    v2::FunctionTolerance tolerance;
+    EXPECT_EQ(tolerance.set_ToleranceType(u"L*a*b*PlusMinus"), ELMX_OK);
+    EXPECT_EQ(tolerance.getenum_ToleranceType(), 14);
+    v2::SampleTargetType target;
+    EXPECT_FALSE(target.setenum_Target(7));
+    EXPECT_TRUE(target.setenum_Target(1));
+    EXPECT_EQ(target.get_Target(), u"Target_IT8.7/1");
+}
+
+TEST(Objects, CopiesRaiseTheFlagsOfMandatoryItems) {
+    v2::Person person;
+    EXPECT_EQ(write_code(person, "Vyr:Person"), ELMX_OCCURS_ERROR_ON_MARSHAL);
+    const v2::Person copy(person);
+    EXPECT_EQ(write(copy, "Vyr:Person"), "<Vyr:Person><Vyr:Name></Vyr:Name></Vyr:Person>");
+    person.set_ContactInfo(u"c");
+    person.unset_ContactInfo();
+    EXPECT_EQ(v2::Person(person).get_ContactInfo(), u"");
+    v2::Person other;
+    other.set_Name(u"n");
+    person.swap(other);
+    EXPECT_EQ(person.get_Name(), u"n");
+    EXPECT_FALSE(other.is_occurs_ok());
+    person.reset();
+    EXPECT_FALSE(person.is_occurs_ok());
+}
+
+TEST(Objects, InitialValuesDontCountAsPresent) {
+    v2::FunctionDE94Type function;
+    EXPECT_EQ(function.get_Param_l(), 2);
+    EXPECT_EQ(function.get_Param_c(), 1);
+    EXPECT_EQ(function.get_Param_h(), 1);
+    EXPECT_FALSE(function.is_occurs_ok());
+    v2::FloatingPointValueType value;
+    EXPECT_EQ(value.get_AxisNominalScale(), u"Scale_Linear");
+    EXPECT_EQ(value.getenum_AxisNominalScale(), 1);
+    EXPECT_FALSE(value.isset_AxisNominalScale());
+    value.set_AxisNominalScale(u"Scale_Log");
+    value.reset();
+    EXPECT_EQ(value.get_AxisNominalScale(), u"Scale_Linear");
+}
+
+TEST(Objects, ContentOfASwitchMayBeMissing) {
+    v2::GlossCompensation gloss;
+    EXPECT_FALSE(gloss.is_occurs_ok());
+    gloss.set_CompensationValue(0.5);
+    EXPECT_TRUE(gloss.is_occurs_ok());
+    EXPECT_FALSE(gloss.isset_GlossCompensation());
+    const std::string text = write(gloss, "Vyr:GlossCompensation");
+    EXPECT_EQ(text, "<Vyr:GlossCompensation CompensationValue=\"0.5\"></Vyr:GlossCompensation>");
+    v2::GlossCompensation back;
+    EXPECT_EQ(read(back, text), failure(ELMX_VALUE_BAD_FORMAT, "Vyr:GlossCompensation"));
+    v2::Averaging averaging;
+    averaging.set_AveragingValue(7);
+    averaging.set_Averaging(true);
+    EXPECT_EQ(write(averaging, "Vyr:Averaging"), "<Vyr:Averaging AveragingValue=\"7\">true</Vyr:Averaging>");
+}
+
+TEST(Objects, ATagAlwaysWritesItsCategory) {
+    v2::Tag tag;
+    EXPECT_TRUE(tag.is_occurs_ok());
+    EXPECT_EQ(write(tag, "Vyr:Tag"), "<Vyr:Tag><Vyr:Category/></Vyr:Tag>");
+    tag.set_UniqueID(u"1");
+    tag.set_Name(u"2");
+    tag.get_Category().set_Name(u"3");
+    tag.get_Category().set_UniqueID(u"4");
+    EXPECT_EQ(write(v2::Tag(tag), "Vyr:Tag"),
+              "<Vyr:Tag Name=\"2\" UniqueID=\"1\"><Vyr:Category UniqueID=\"4\" Name=\"3\"/></Vyr:Tag>");
+}
+
+TEST(Objects, ChoicesHoldOneAlternative) {
+    v2::CustomAttributeType_ValueChoice choice;
+    EXPECT_EQ(choice.getchosen(), 3);
+    EXPECT_FALSE(choice.is_occurs_ok());
+    choice.set_StringValue(u"text");
+    EXPECT_EQ(choice.getchosen(), 2);
+    choice.set_IntegerValue(-5);
+    EXPECT_EQ(choice.get_StringValue(), u"");
+    EXPECT_EQ(write(choice, "Vyr:ValueChoice"),
+              "<Vyr:ValueChoice><Vyr:IntegerValue>-5</Vyr:IntegerValue></Vyr:ValueChoice>");
+    v2::CustomAttributeType_ValueChoice copy(choice), other;
+    other.set_StringValue(u"s");
+    copy.swap(other);
+    EXPECT_EQ(copy.get_StringValue(), u"s");
+    EXPECT_EQ(other.get_IntegerValue(), -5);
+    copy = copy;
+    EXPECT_EQ(copy.get_StringValue(), u"s");
+    copy.reset();
+    EXPECT_EQ(copy.getchosen(), 3);
+
+    v2::GeometryChoiceType geometry;
+    geometry.get_BSDFAngle().set_Aspecular(1);
+    EXPECT_EQ(geometry.set_SphereGeometry(u"none"), ELMX_VALUE_NOT_ENUMERATED);
+    EXPECT_EQ(geometry.set_UnknownGeometry(u""), ELMX_LENGTH_TOO_SHORT);
+    EXPECT_EQ(geometry.getchosen(), 3);
+    EXPECT_EQ(v2::GeometryChoiceType(geometry).get_BSDFAngle().get_Aspecular(), 1);
+    EXPECT_TRUE(geometry.setenum_SphereGeometry(2));
+    EXPECT_EQ(geometry.getchosen(), 0);
+}
+
+TEST(Objects, AnEmptyChoiceIsNamedWhenWritten) {
+    const auto item_of = [](const auto& object, const char* name, elmx_error expected) {
+        std::ostringstream stream;
+        c_xml_writer writer(stream, "", "");
+        EXPECT_EQ(object.marshal(writer, name), expected);
+        return writer.get_error_item_name();
+    };
+    EXPECT_EQ(item_of(v2::AxisValueChoice(), "Vyr:AxisValueChoice", ELMX_BAD_CHOICE), "Vyr:AxisValueChoice");
+    EXPECT_EQ(item_of(v2::IlluminationOptionsType(), "Vyr:IlluminationOptions", ELMX_BAD_CHOICE),
+              "Vyr:IlluminationOptionsType");
+    EXPECT_EQ(item_of(v2::GeometryChoiceType(), "Vyr:Geometry", ELMX_BAD_CHOICE), "Vyr:GeometryChoiceType");
+    for (const char* const name : {"Vyr:ValueChoice"}) {
+        EXPECT_EQ(item_of(v2::ValueChoice(), name, ELMX_BAD_CHOICE), name);
+        EXPECT_EQ(item_of(v2::CustomAttributeType_ValueChoice(), name, ELMX_BAD_CHOICE), name);
+        EXPECT_EQ(item_of(v2::ProfileType_Parameters_ValueChoice(), name, ELMX_BAD_CHOICE), name);
+    }
+    EXPECT_EQ(item_of(v2::anon_TextValue(), "", ELMX_BAD_CHOICE), "");
+    EXPECT_EQ(item_of(v2::sg_ColorSpace(), "", ELMX_OCCURS_ERROR_ON_MARSHAL), "");
+    v2::sg_ColorSpace null_member;
+    null_member.assign_ColorSpaceCMYK(static_cast<v2::ColorSpaceCMYKType*>(nullptr));
+    EXPECT_EQ(item_of(null_member, "", ELMX_TYPE_NOT_SET), "");
+    const v2::sg_ColorSpace copy(null_member);
+    EXPECT_EQ(copy.getchosen(), 21);
+}
+
+TEST(Objects, HoldersReplaceTheirMember) {
+    v2::sg_ColorSpace holder;
+    EXPECT_EQ(holder.getchosen(), 29);
+    holder.get_ColorSpaceCMYK().set_Cyan(50);
+    holder.get_ColorSpaceRGB();
+    EXPECT_EQ(holder.getchosen(), 5);
+    EXPECT_FALSE(holder.get_ColorSpaceRGB().is_occurs_ok());
+    auto* const derived = new v2::ColorSpaceCMYKPlusNType();
+    derived->set_ColorSpaceName(u"n");
+    EXPECT_EQ(&holder.assign_ColorSpaceCMYK(derived), derived);
+    v2::sg_ColorSpace copy(holder);
+    EXPECT_STREQ(copy.get_ColorSpaceCMYK().getid(), "ColorSpaceCMYKPlusNType");
+    copy.assign_ColorSpaceHSV(v2::ColorSpaceHSVType()).set_Hue(10);
+    EXPECT_EQ(copy.getchosen(), 20);
+    copy.swap(holder);
+    EXPECT_EQ(holder.get_ColorSpaceHSV().get_Hue(), 10);
+    EXPECT_EQ(v2::sg_Function().getchosen(), 19);
+    EXPECT_EQ(v2::sg_Substrate().getchosen(), 10);
+    EXPECT_EQ(v2::sg_Sample().getchosen(), 3);
+    v2::ParentColorSpace parent;
+    parent.get_ColorSpaceNCS();
+    EXPECT_TRUE(parent.is_occurs_ok());
+    EXPECT_EQ(v2::ParentColorSpace(parent).get_ColorSpace().getchosen(), 26);
+}
+
+TEST(Objects, IdentitiesCompareByAddress) {
+    const v2::ColorSpaceCMYK element;
+    EXPECT_EQ(element.getid(), v2::ColorSpaceCMYKType::id);
+    EXPECT_TRUE(element.has_id(v2::ColorSpaceType::id));
+    EXPECT_TRUE(element.has_id(v2::ColorSpaceCMYKType::id));
+    EXPECT_FALSE(element.has_id(v2::ColorSpaceCMYKPlusNType::id));
+    const std::string same_text = v2::ColorSpaceType::id;
+    EXPECT_FALSE(element.has_id(same_text.c_str()));
+    const std::unique_ptr<v2::ColorSpaceType> clone(element.clone());
+    EXPECT_EQ(dynamic_cast<v2::ColorSpaceCMYK*>(clone.get()), nullptr);
+
+    const auto is_known = [](auto* made) {
+        const std::unique_ptr<std::remove_pointer_t<decltype(made)>> owner(made);
+        return made != nullptr;
+    };
+    EXPECT_TRUE(is_known(v2::ColorSpaceType::factory(1000, "ColorSpaceCMYKPlusNType")));
+    EXPECT_FALSE(is_known(v2::ColorSpaceType::factory(1001, "ColorSpaceRGBType")));
+    EXPECT_FALSE(is_known(v2::ColorSpaceType::factory(1000, "ColorSpaceType")));
+    EXPECT_FALSE(is_known(v2::ColorSpaceCMYKType::factory(1000, "ColorSpaceRGBType")));
+    EXPECT_TRUE(is_known(v2::ColorSpaceCMYKType::factory(1000, "ColorSpaceCMYKType")));
+    EXPECT_TRUE(is_known(v2::ColorSpaceSpecificationEmissiveType::factory(1000, "ColorSpaceSpecificationEmissiveType")));
+    EXPECT_FALSE(
+        is_known(v2::ColorSpaceSpecificationEmissiveType::factory(1000, "ColorSpaceSpecificationSpectrumType")));
+    EXPECT_TRUE(is_known(v2::ColorSpaceSpecificationType::factory(1000, "ColorSpaceSpecificationSpectrumType")));
+    EXPECT_TRUE(is_known(v2::FunctionType::factory(1000, "FunctionTolerance")));
+    EXPECT_FALSE(is_known(v2::FunctionType::factory(1000, "FunctionType")));
+    EXPECT_TRUE(is_known(v2::SampleType::factory(1000, "SampleSpotType")));
+    EXPECT_TRUE(is_known(v2::SubstrateType::factory(1000, "SubstrateTileType")));
+}
+
+TEST(Objects, AnExpectedIdentityIsLeftToTheNextClassThatDiffers) {
+    v2::sg_ColorSpace holder;
+    auto& cmyk = holder.get_ColorSpaceCMYK();
+    cmyk.append_ChangeHistory(c_datetime("2024-05-01T09:30:00Z"));
+    cmyk.get_ColorSpaceSpecificationSpectrumGeneric().setnil_ColorSpaceSpecificationSpectrumGeneric();
+    cmyk.set_Cyan(1);
+    cmyk.set_Magenta(2);
+    cmyk.set_Yellow(3);
+    cmyk.set_Black(4);
+    const std::string text = write(holder, "");
+    EXPECT_NE(text.find("<Vyr:ColorSpaceSpecificationSpectrumGeneric "
+                        "xsi:type=\"Vyr:ColorSpaceSpecificationSpectrumGenericType\" xsi:nil=\"true\"/>"),
+              std::string::npos)
+        << text;
+    EXPECT_EQ(text.find("xsi:type"), text.rfind("xsi:type"));
+}
+
+TEST(Objects, AnAnonymousClassDeclaresNoNamespaces) {
+    std::ostringstream stream;
+    c_xml_writer writer(stream, "", "");
+    v2::Tag tag;
+    v2::Person person;
+    person.set_Name(u"n");
+    EXPECT_EQ(person.marshal(writer, "Vyr:Person"), ELMX_OK);
+    EXPECT_EQ(stream.str(), "<Vyr:Person><Vyr:Name>n</Vyr:Name></Vyr:Person>");
+    EXPECT_EQ(tag.marshal(writer, "Vyr:Tag"), ELMX_OK);
+    EXPECT_NE(stream.str().find("<Vyr:Tag xmlns:Vyr="), std::string::npos);
+}
+
+}  // namespace
+}  // namespace vyr_test

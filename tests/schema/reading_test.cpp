@@ -1,0 +1,371 @@
+// Copyright 2026 The Vyr Authors
+// SPDX-License-Identifier: Apache-2.0
+
+/// How elements of the format are read: the order of checks, the item named by each failure, and the places where
+/// the format is deliberately lax or odd.
+
+#include <gtest/gtest.h>
+
+#include "tests/schema/support.h"
+
+namespace vyr_test {
+namespace {
+
+using namespace lmx;
+
+const std::string k_date = "<Vyr:ChangeHistory>2024-05-01T09:30:00Z</Vyr:ChangeHistory>";
+const std::string k_filter_and_polarization =
+    "<Vyr:DeviceFilter>Filter_None</Vyr:DeviceFilter><Vyr:DevicePolarization>false</Vyr:DevicePolarization>";
+const std::string k_nil_tristimulus = "<Vyr:ColorSpaceSpecificationSpectrumTristimulus xsi:nil=\"true\"/>";
+const std::string k_nil_generic = "<Vyr:ColorSpaceSpecificationSpectrumGeneric xsi:nil=\"true\"/>";
+const std::string k_lab = "<Vyr:ColorSpaceCIELab>" + k_date + k_nil_tristimulus +
+                          "<Vyr:L>50</Vyr:L><Vyr:A>-1.5</Vyr:A><Vyr:B>2</Vyr:B></Vyr:ColorSpaceCIELab>";
+
+std::string element(const std::string& name, const std::string& content, const std::string& attributes = "") {
+    return "<Vyr:" + name + attributes + ">" + content + "</Vyr:" + name + ">";
+}
+
+TEST(Reading, AnEmptyElementIsRefusedOrAcceptedByItsContentModel) {
+    v2::Tag tag;
+    EXPECT_EQ(read(tag, "<Vyr:Tag/>"), failure(ELMX_UNEXPECTED_EMPTY_ELEMENT, "Vyr:Tag"));
+    EXPECT_EQ(read(tag, "<Vyr:Tag></Vyr:Tag>"), failure(ELMX_UNEXPECTED_EMPTY_ELEMENT, "Vyr:Tag"));
+    v2::CustomAttributes attributes;
+    EXPECT_EQ(read(attributes, "<Vyr:CustomAttributes/>"), s_outcome{});
+    EXPECT_EQ(read(attributes, element("CustomAttributes", "<Vyr:Tag/>")),
+              failure(ELMX_MANDATORY_ELEMENT_MISSING, "Vyr:CustomAttribute"));
+    v2::TagCategory category;
+    EXPECT_EQ(read(category, "<Vyr:Category></Vyr:Category>"), s_outcome{});
+    EXPECT_EQ(read(category, "<Vyr:Category>x</Vyr:Category>"), failure(ELMX_BAD_END_OF_ELEMENT, "Vyr:Category"));
+}
+
+TEST(Reading, MisplacedChildrenAreMissingOrBreakTheEnd) {
+    v2::Person person;
+    EXPECT_EQ(read(person, element("Person", "<Vyr:ContactInfo>c</Vyr:ContactInfo><Vyr:Name>n</Vyr:Name>")),
+              failure(ELMX_MANDATORY_ELEMENT_MISSING, "Vyr:Name"));
+    EXPECT_EQ(read(person, element("Person", "<Vyr:Name>n</Vyr:Name><Vyr:Name>n</Vyr:Name>")),
+              failure(ELMX_BAD_END_OF_ELEMENT, "Vyr:Person"));
+    EXPECT_EQ(read(person, element("Person", "<Vyr:Name>n</Vyr:Name>stray")),
+              failure(ELMX_BAD_END_OF_ELEMENT, "Vyr:Person"));
+    v2::Tag tag;
+    EXPECT_EQ(read(tag, element("Tag", "<Vyr:Other/>")), failure(ELMX_BAD_END_OF_ELEMENT, "Vyr:Tag"));
+    v2::LimitsType limits;
+    EXPECT_EQ(read(limits, element("Limits", "<Vyr:HighTolerance>1<Vyr:b/></Vyr:HighTolerance>")),
+              failure(ELMX_BAD_END_OF_ELEMENT, "Vyr:HighTolerance"));
+}
+
+TEST(Reading, Attributes) {
+    v2::Tag tag;
+    EXPECT_EQ(read(tag, "<Vyr:Tag Name=\"a\" Name=\"b\"><Vyr:Category/></Vyr:Tag>"),
+              failure(ELMX_ATTRIBUTE_ALREADY_READ, "Name"));
+    EXPECT_EQ(tag.get_Name(), u"a");
+    EXPECT_EQ(read(tag, "<Vyr:Tag Other=\"a\"><Vyr:Category/></Vyr:Tag>"),
+              failure(ELMX_UNEXPECTED_ATTRIBUTE, "Vyr:Tag"));
+    EXPECT_EQ(read(tag, "<Vyr:Tag Vyr:UniqueID=\"a\"><Vyr:Category/></Vyr:Tag>"),
+              failure(ELMX_UNEXPECTED_ATTRIBUTE, "Vyr:Tag"));
+    v2::Tag located;
+    EXPECT_EQ(read(located, "<Vyr:Tag xsi:schemaLocation=\"a b\" UniqueID=\" u \"><Vyr:Category/></Vyr:Tag>"),
+              s_outcome{});
+    EXPECT_EQ(located.get_UniqueID(), u" u ");
+    v2::PaletteType palette;
+    EXPECT_EQ(read(palette, element("Palette", k_date)), failure(ELMX_REQUIRED_ATTRIBUTES_MISSING, "PaletteType"));
+    v2::ColorSpaceGeneric generic;
+    EXPECT_EQ(read(generic, element("ColorSpaceGeneric", k_date)),
+              failure(ELMX_REQUIRED_ATTRIBUTES_MISSING, "ColorSpaceGenericType"));
+    v2::ReflectancePointType point;
+    EXPECT_EQ(read(point, "<Vyr:ReflectancePoint Wavelength=\"&bad;\">1</Vyr:ReflectancePoint>"),
+              failure(ELMX_UNABLE_TO_READ_ATTRIBUTE_VALUE, "Wavelength"));
+}
+
+TEST(Reading, FacetsReportInTheirOrder) {
+    const struct {
+        std::string wavelength, value;
+        s_outcome outcome;
+    } points[] = {
+        {"400", " 0.5 ", {}},
+        {"0", "0.5", failure(ELMX_VALUE_BELOW_MIN, "Wavelength")},
+        {"x", "0.5", failure(ELMX_VALUE_BAD_FORMAT, "Wavelength")},
+        {"400", "10", failure(ELMX_VALUE_EXCEEDS_MAX, "Vyr:ReflectancePoint")},
+        {"400", "-1", failure(ELMX_VALUE_BELOW_MIN, "Vyr:ReflectancePoint")},
+        {"400", "", failure(ELMX_VALUE_BAD_FORMAT, "Vyr:ReflectancePoint")},
+        {"400", "&bad;", failure(ELMX_UNABLE_TO_READ_ELEMENT_VALUE, "Vyr:ReflectancePoint")},
+        {"400", "9.999", {}},
+    };
+    for (const auto& row : points) {
+        v2::ReflectancePointType point;
+        EXPECT_EQ(read(point, element("ReflectancePoint", row.value, " Wavelength=\"" + row.wavelength + "\"")),
+                  row.outcome)
+            << row.wavelength << " " << row.value;
+    }
+    const struct {
+        std::string text;
+        s_outcome outcome;
+    } apertures[] = {
+        {"1", {}},
+        {"+2147483647", {}},
+        {"0", failure(ELMX_VALUE_BELOW_MIN, "Vyr:Aperture")},
+        {"-0", failure(ELMX_VALUE_BELOW_MIN, "Vyr:Aperture")},
+        {"99999999999999999999", failure(ELMX_VALUE_EXCEEDS_MAX, "Vyr:Aperture")},
+        {"1.5", failure(ELMX_VALUE_BAD_FORMAT, "Vyr:Aperture")},
+    };
+    for (const auto& row : apertures) {
+        v2::DeviceSettings settings;
+        EXPECT_EQ(read(settings, element("DeviceSettings", element("Aperture", row.text))), row.outcome) << row.text;
+    }
+    const struct {
+        std::string text;
+        elmx_error code;
+    } dates[] = {{"2009-03-01T12:00:00", ELMX_NO_PATTERN_MATCHED},
+                 {"2009-03-01", ELMX_VALUE_BAD_FORMAT},
+                 {" 2009-03-01T12:00:00+01:00\n", ELMX_MANDATORY_ELEMENT_MISSING}};
+    for (const auto& row : dates) {
+        v2::ColorType color;
+        const s_outcome outcome = read(color, element("Color", element("ChangeHistory", row.text), " ColorName=\"c\""));
+        EXPECT_EQ(outcome.code, row.code) << row.text;
+        EXPECT_EQ(color.size_ChangeHistory(), row.code == ELMX_MANDATORY_ELEMENT_MISSING ? 1U : 0U);
+    }
+    v2::SampleTargetType target;
+    target.setenum_Target(6);
+    v2::ProfileType_Parameters parameters;
+    EXPECT_EQ(read(parameters, element("Parameters", "<Vyr:Name/>")), failure(ELMX_LENGTH_TOO_SHORT, "Vyr:Name"));
+    EXPECT_EQ(read(parameters, element("Parameters", "<Vyr:Name>ab</Vyr:Name>")),
+              failure(ELMX_LENGTH_TOO_LONG, "Vyr:Name"));
+    v2::SpectrumType spectrum;
+    EXPECT_EQ(read(spectrum, "<Vyr:Spectrum> Spectrum_Custom</Vyr:Spectrum>"),
+              failure(ELMX_VALUE_NOT_ENUMERATED, "Vyr:Spectrum"));
+}
+
+TEST(Reading, AForeignElementInAGroupsPlaceIsSkippedAndCantBeWritten) {
+    elmx_error code = ELMX_OK;
+    v2::ToleranceType tolerance;
+    EXPECT_EQ(read(tolerance, element("Tolerance", "<Vyr:Foreign><a>1</a></Vyr:Foreign><Vyr:UniqueID>7</Vyr:UniqueID>")),
+              s_outcome{});
+    EXPECT_TRUE(tolerance.is_occurs_ok());
+    EXPECT_EQ(tolerance.get_UniqueID(), u"7");
+    EXPECT_EQ(static_cast<const v2::ToleranceType&>(tolerance).get_Function().getchosen(), 19);
+    write(tolerance, "Vyr:Tolerance", &code);
+    EXPECT_EQ(code, ELMX_OCCURS_ERROR_ON_MARSHAL);
+
+    v2::SampleSpotType sample;
+    EXPECT_EQ(read(sample, element("SampleSpot", "<Vyr:Foreign/><Vyr:Specification><Vyr:SampleWidth>1</Vyr:SampleWidth>"
+                                                 "<Vyr:SampleHeight>2</Vyr:SampleHeight></Vyr:Specification>")),
+              s_outcome{});
+    EXPECT_TRUE(sample.is_occurs_ok());
+    write(sample, "Vyr:SampleSpot", &code);
+    EXPECT_EQ(code, ELMX_OCCURS_ERROR_ON_MARSHAL);
+
+    v2::PhysicalSampleType physical;
+    EXPECT_EQ(read(physical, element("PhysicalSample", "<Vyr:Foreign/>")), s_outcome{});
+    write(physical, "Vyr:PhysicalSample", &code);
+    EXPECT_EQ(code, ELMX_OCCURS_ERROR_ON_MARSHAL);
+
+    v2::ParentColorSpace parent;
+    EXPECT_EQ(read(parent, element("ParentColorSpace", "<Vyr:Foreign/>")), s_outcome{});
+    EXPECT_EQ(parent.getchosen(), 29);
+    write(parent, "Vyr:ParentColorSpace", &code);
+    EXPECT_EQ(code, ELMX_OCCURS_ERROR_ON_MARSHAL);
+}
+
+TEST(Reading, AColorNeedsAValueInSomeColorSpace) {
+    v2::ColorType color;
+    EXPECT_EQ(read(color, element("Color", k_date, " ColorName=\"c\"")),
+              failure(ELMX_MANDATORY_ELEMENT_MISSING, "Vyr:ColorType"));
+    v2::ColorType pair;
+    ASSERT_EQ(read(pair, element("Color", k_date + k_lab + k_lab, " ColorName=\"c\"")), s_outcome{});
+    EXPECT_EQ(pair.size_ColorSpace(), 2U);
+    v2::ColorType late;
+    EXPECT_EQ(read(late, element("Color", k_date + k_lab + "<Vyr:SubstratePaper/>" + k_lab, " ColorName=\"c\"")),
+              failure(ELMX_BAD_END_OF_ELEMENT, "Vyr:Color"));
+    EXPECT_TRUE(late.isset_Substrate());
+}
+
+TEST(Reading, XsiTypeSpecialisesTwoGroupMembers) {
+    const std::string cmyk_start = "<Vyr:ColorSpaceCMYK xsi:type=\"Vyr:";
+    const std::string inks = k_date + k_nil_generic +
+                             "<Vyr:Cyan>1</Vyr:Cyan><Vyr:Magenta>2</Vyr:Magenta><Vyr:Yellow>3</Vyr:Yellow>"
+                             "<Vyr:Black>4</Vyr:Black>";
+    v2::ColorType color;
+    ASSERT_EQ(read(color, element("Color", k_date + cmyk_start + "ColorSpaceCMYKPlusNType\">" + inks +
+                                               "<Vyr:Color><Vyr:Name>o</Vyr:Name><Vyr:Value>5</Vyr:Value></Vyr:Color>"
+                                               "</Vyr:ColorSpaceCMYK>",
+                                  " ColorName=\"c\"")),
+              s_outcome{});
+    const v2::ColorType copy(color);
+    const auto& read_value = copy.get_ColorSpace(0).get_ColorSpaceCMYK();
+    EXPECT_STREQ(read_value.getid(), "ColorSpaceCMYKPlusNType");
+    EXPECT_NE(write(copy, "Vyr:Color").find("<Vyr:ColorSpaceCMYK xsi:type=\"Vyr:ColorSpaceCMYKPlusNType\">"),
+              std::string::npos);
+
+    v2::ColorType unknown;
+    const std::string text = with_declarations(
+        element("Color", k_date + cmyk_start + "ColorSpaceRGBType\">" + inks + "</Vyr:ColorSpaceCMYK>",
+                " ColorName=\"c\""));
+    c_swallowing_reader reader(text);
+    EXPECT_EQ(read_with(reader, unknown).code, ELMX_UNKNOWN_XSI_TYPE);
+    EXPECT_TRUE(reader.swallowed.empty());
+    ASSERT_EQ(unknown.size_ColorSpace(), 1U);
+    EXPECT_EQ(unknown.get_ColorSpace(0).getchosen(), 29);
+
+    v2::ToleranceType tolerance;
+    EXPECT_EQ(read(tolerance, element("Tolerance", "<Vyr:Function/>")).code, ELMX_UNKNOWN_XSI_TYPE);
+    v2::ToleranceType typed;
+    const std::string function = "<Vyr:Function xsi:type=\"Vyr:FunctionDE94Type\"><Vyr:Param_l>0</Vyr:Param_l>"
+                                 "<Vyr:Param_c>1</Vyr:Param_c><Vyr:Param_h>2</Vyr:Param_h></Vyr:Function>";
+    ASSERT_EQ(read(typed, element("Tolerance", function)), s_outcome{});
+    EXPECT_EQ(write(typed, "Vyr:Tolerance"), element("Tolerance", function));
+}
+
+TEST(Reading, NilElements) {
+    v2::SDKVersion version;
+    ASSERT_EQ(read(version, "<Vyr:SDKVersion xsi:nil=\" 1 \"/>"), s_outcome{});
+    EXPECT_TRUE(version.isnil_SDKVersion());
+    EXPECT_EQ(write(version, "Vyr:SDKVersion"), "<Vyr:SDKVersion xsi:nil=\"true\"/>");
+    version.set_SDKVersion(u"2");
+    EXPECT_EQ(write(version, "Vyr:SDKVersion"), "<Vyr:SDKVersion>2</Vyr:SDKVersion>");
+    EXPECT_EQ(read(version, "<Vyr:SDKVersion xsi:nil=\"true\">1</Vyr:SDKVersion>"),
+              failure(ELMX_BAD_END_OF_ELEMENT, "Vyr:SDKVersion"));
+
+    v2::ColorSpaceSpecificationSpectrumSpectral specification;
+    const std::string nil = "<Vyr:ColorSpaceSpecificationSpectrumSpectral UniqueID=\"u\" xsi:nil=\"true\"/>";
+    ASSERT_EQ(read(specification, nil), s_outcome{});
+    EXPECT_EQ(write(specification, "Vyr:ColorSpaceSpecificationSpectrumSpectral"), nil);
+    v2::Standard standard;
+    EXPECT_EQ(read(standard, "<Vyr:Standard xsi:nil=\"true\"><Vyr:Device/></Vyr:Standard>"),
+              failure(ELMX_BAD_END_OF_ELEMENT, "Vyr:Standard"));
+    EXPECT_EQ(read(standard, "<Vyr:Standard xsi:nil=\"true\"></Vyr:Standard>"), s_outcome{});
+    EXPECT_TRUE(standard.is_occurs_ok());
+    v2::DeviceFilter filter;
+    filter.setnil_DeviceFilter();
+    EXPECT_TRUE(filter.is_occurs_ok());
+    EXPECT_EQ(filter.set_DeviceFilterType(u"Filter_None"), ELMX_OK);
+    EXPECT_FALSE(filter.isnil_DeviceFilter());
+}
+
+TEST(Reading, ASpecificationWithoutFilterCantBeWrittenBack) {
+    const std::string geometry = element("GeometryChoice", element("Angle", "-45"));
+    const std::string rest = element("DevicePolarization", "0") + k_date +
+                             "<Vyr:Spectrum>Spectrum_Reflectance</Vyr:Spectrum>" + geometry;
+    v2::ColorSpaceSpecificationSpectrumSpectralType specification;
+    const char* const name = "Vyr:ColorSpaceSpecificationSpectrumSpectral";
+    ASSERT_EQ(read(specification, element(name + 4, rest)), s_outcome{});
+    EXPECT_TRUE(specification.is_occurs_ok());
+    elmx_error code = ELMX_OK;
+    EXPECT_EQ(write(specification, name, &code), "<Vyr:ColorSpaceSpecificationSpectrumSpectral>");
+    EXPECT_EQ(code, ELMX_OCCURS_ERROR_ON_MARSHAL);
+    specification.get_DeviceFilter().setnil_DeviceFilter();
+    write(specification, name, &code);
+    EXPECT_EQ(code, ELMX_OK);
+}
+
+TEST(Reading, AzimuthIsReadWithoutATraceAndAlwaysWritten) {
+    const std::string angles = element("IlluminantAngle", "45") + element("Aspecular", "15");
+    for (const char* const azimuth : {"", "<Vyr:Azimuth/>", "<Vyr:Azimuth ></Vyr:Azimuth>"}) {
+        v2::BSDFAngle angle;
+        ASSERT_EQ(read(angle, element("BSDFAngle", angles + azimuth)), s_outcome{}) << azimuth;
+        EXPECT_EQ(write(angle, "Vyr:BSDFAngle"), element("BSDFAngle", angles + "<Vyr:Azimuth/>"));
+    }
+    v2::BSDFAngle angle;
+    EXPECT_EQ(read(angle, element("BSDFAngle", angles + "<Vyr:Azimuth>1</Vyr:Azimuth>")),
+              failure(ELMX_BAD_END_OF_ELEMENT, "Vyr:Azimuth"));
+    v2::Azimuth alone;
+    EXPECT_EQ(read(alone, "<Vyr:Azimuth/>"), s_outcome{});
+    EXPECT_EQ(write(alone, "Vyr:Azimuth"), "<Vyr:Azimuth/>");
+}
+
+TEST(Reading, ChoicesTakeOneAlternative) {
+    v2::ValueChoice choice;
+    EXPECT_EQ(read(choice, element("ValueChoice", "<Vyr:Other/>")),
+              failure(ELMX_UNKNOWN_ELEMENT_IN_COMPLEX_CONTENT, "Vyr:Other"));
+    EXPECT_EQ(choice.getchosen(), 2);
+    EXPECT_EQ(read(choice, element("ValueChoice", element("Double", "1.5") + element("String", "s"))),
+              failure(ELMX_BAD_END_OF_ELEMENT, "Vyr:ValueChoice"));
+    EXPECT_EQ(choice.getchosen(), 0);
+    EXPECT_EQ(choice.get_Double(), 1.5);
+    EXPECT_EQ(read(choice, element("ValueChoice", element("String", " s "))), s_outcome{});
+    EXPECT_EQ(choice.get_String(), u" s ");
+    v2::TagValue value;
+    EXPECT_EQ(read(value, element("TagValues", "<Vyr:Tag><Vyr:Category/></Vyr:Tag><Vyr:Other/>")),
+              failure(ELMX_MANDATORY_ELEMENT_MISSING, ""));
+    ASSERT_EQ(read(value, element("TagValues", "<Vyr:Tag><Vyr:Category/></Vyr:Tag><Vyr:NumberValue>2</Vyr:NumberValue>")),
+              s_outcome{});
+    EXPECT_EQ(write(value, "Vyr:TagValues"),
+              element("TagValues", "<Vyr:Tag><Vyr:Category/></Vyr:Tag><Vyr:NumberValue>2</Vyr:NumberValue>"));
+}
+
+TEST(Reading, OpenContentIsKeptAsText) {
+    const std::string markup = "<x:foo xmlns:x=\"urn:x\" a='1'>t<x:b/><![CDATA[<]]>u</x:foo>";
+    v2::Revision revision;
+    ASSERT_EQ(read(revision, element("Revision", markup + "<Vyr:Note>n</Vyr:Note>")), s_outcome{});
+    ASSERT_EQ(revision.size_any(), 2U);
+    std::string ns, name, value;
+    revision.get_any(0, &ns, &name, &value);
+    EXPECT_EQ(ns, "urn:x");
+    EXPECT_EQ(name, "x:foo");
+    EXPECT_EQ(value, markup);
+    revision.get_any(1, nullptr, nullptr, &value);
+    EXPECT_EQ(value, "<Vyr:Note>n</Vyr:Note>");
+    EXPECT_EQ(write(revision, "Vyr:Revision"), element("Revision", markup + "<Vyr:Note>n</Vyr:Note>"));
+    v2::Revision text;
+    EXPECT_EQ(read(text, element("Revision", "text")), failure(ELMX_MANDATORY_ELEMENT_MISSING, "Vyr:"));
+    EXPECT_EQ(read(text, "<Vyr:Revision/>"), s_outcome{});
+}
+
+TEST(Reading, SwallowedErrorsGoOn) {
+    const std::string text = with_declarations(
+        "<Vyr:Color Bogus=\"1\">"
+        "<Vyr:ColorSpaceCIELab>" + k_nil_tristimulus +
+        "<Vyr:L>151</Vyr:L><Vyr:A>x</Vyr:A><Vyr:B>2</Vyr:B></Vyr:ColorSpaceCIELab></Vyr:Color>");
+    v2::ColorType color;
+    c_swallowing_reader reader(text);
+    EXPECT_EQ(read_with(reader, color).code, ELMX_OK);
+    const std::vector<s_outcome> expected = {
+        failure(ELMX_UNEXPECTED_ATTRIBUTE, "Vyr:Color"),
+        failure(ELMX_REQUIRED_ATTRIBUTES_MISSING, "ColorType"),
+        failure(ELMX_MANDATORY_ELEMENT_MISSING, "Vyr:ChangeHistory"),
+        failure(ELMX_MANDATORY_ELEMENT_MISSING, "Vyr:ChangeHistory"),
+        failure(ELMX_MANDATORY_ELEMENT_MISSING, "Vyr:ColorSpaceType"),
+        failure(ELMX_VALUE_EXCEEDS_MAX, "Vyr:L"),
+        failure(ELMX_VALUE_BAD_FORMAT, "Vyr:A"),
+        failure(ELMX_MANDATORY_ELEMENT_MISSING, "Vyr:ColorType"),
+    };
+    EXPECT_EQ(reader.swallowed, expected);
+    EXPECT_EQ(reader.get_error(), ELMX_OK);
+    EXPECT_EQ(reader.get_error_item_name(), "Vyr:ColorType");
+    ASSERT_EQ(color.size_ColorSpace(), 1U);
+    EXPECT_EQ(color.get_ColorSpace(0).get_ColorSpaceCIELab().get_L(), 151);
+}
+
+TEST(Reading, AHandlerThatSwallowsEverythingStillComesToAnEnd) {
+    const std::string whole = with_declarations(
+        element("Color", k_date + k_lab + "<Vyr:SubstratePaper/><Vyr:TagValues><Vyr:Tag><Vyr:Category UniqueID=\"u\"/>"
+                                          "</Vyr:Tag><Vyr:TextValue>t</Vyr:TextValue></Vyr:TagValues>",
+                " ColorName=\"c\""));
+    for (std::size_t length = 0; length < whole.size(); ++length) {
+        const std::string cut = whole.substr(0, length);
+        v2::ColorType color;
+        c_swallowing_reader reader(cut);
+        read_with(reader, color);
+        EXPECT_LT(reader.swallowed.size(), 60U) << "cut at " << length;
+    }
+}
+
+TEST(Reading, NestingIsBounded) {
+    // One ColorSpaceYBR and one ParentColorSpace make two levels.
+    const auto nested = [](int levels) {
+        std::string open, close;
+        for (int level = 0; level + 1 < levels; level += 2) {
+            open += "<Vyr:ColorSpaceYBR><Vyr:ParentColorSpace>";
+            close.insert(0, "</Vyr:ParentColorSpace>" + k_date + k_nil_generic +
+                                "<Vyr:Y>0</Vyr:Y><Vyr:B>0</Vyr:B><Vyr:R>0</Vyr:R></Vyr:ColorSpaceYBR>");
+        }
+        return open + "<Vyr:ColorSpaceNCS><Vyr:ParentColorSpace xsi:nil=\"1\"/>" + k_date + k_nil_generic +
+               "<Vyr:ColorName>n</Vyr:ColorName></Vyr:ColorSpaceNCS>" + close;
+    };
+    v2::ColorSpaceYBR deep;
+    EXPECT_EQ(read(deep, nested(255)), s_outcome{});
+    v2::ColorSpaceYBR too_deep;
+    EXPECT_EQ(read(too_deep, nested(257)), failure(ELMX_BADLY_FORMED, "Vyr:ParentColorSpace"));
+    const v2::ColorSpaceYBR copy(too_deep);
+}
+
+}  // namespace
+}  // namespace vyr_test
