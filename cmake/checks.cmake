@@ -1,0 +1,22 @@
+# Tests that look at the sources, the installed tree and the command instead of linking the library. They say the
+# same in every build, so presets that repeat the tests with other flags leave out the label "once".
+
+function(vyr_add_check name)
+  add_test(NAME ${name} COMMAND ${ARGN} WORKING_DIRECTORY ${PROJECT_SOURCE_DIR})
+  set_tests_properties(${name} PROPERTIES LABELS once TIMEOUT 600)
+endfunction()
+
+find_package(Python3 3.9 REQUIRED COMPONENTS Interpreter)
+set(checks ${PROJECT_SOURCE_DIR}/tests)
+
+vyr_add_check(format ${PROJECT_SOURCE_DIR}/scripts/check_format.sh)
+vyr_add_check(layering ${Python3_EXECUTABLE} ${checks}/layering/check_layering.py ${PROJECT_SOURCE_DIR})
+vyr_add_check(generated_files ${Python3_EXECUTABLE} ${PROJECT_SOURCE_DIR}/schema/generator/generate.py --check)
+if(VYR_BUILD_TOOLS)
+  set(palette ${PROJECT_SOURCE_DIR}/examples/css-colors.vyr)
+  add_test(NAME tools_vyr COMMAND ${checks}/tools/check_vyr.sh $<TARGET_FILE:vyr_tool> ${palette})
+  vyr_add_check(written_documents ${checks}/written/check_written.sh $<TARGET_FILE:vyr_tool>
+                ${PROJECT_SOURCE_DIR}/schema/vyr.xsd ${PROJECT_SOURCE_DIR}/examples ${checks}/documents)
+  vyr_add_check(installed_tree ${checks}/install/check_install.sh ${CMAKE_COMMAND} ${PROJECT_BINARY_DIR}
+                ${PROJECT_SOURCE_DIR} ${CMAKE_CXX_COMPILER})
+endif()
