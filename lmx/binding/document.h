@@ -29,7 +29,7 @@ struct s_document {
 /// One class of a schema, for code that walks them all.
 struct s_named_class {
     std::string_view name;
-    const s_class* type;  ///< null for element classes that add nothing to their type
+    const s_class* type;  ///< element classes that add nothing share the table of their type
     const s_operations* operations;
     const s_document* document;  ///< null for classes that are no document of their own
 };

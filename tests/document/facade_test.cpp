@@ -110,10 +110,11 @@ TEST_F(Facade, FilesThatCantBeOpened) {
 }
 
 TEST_F(Facade, AFailedLoadKeepsWhatWasReadAndASecondLoadAppends) {
-    const std::u16string text = u"<Vyr:Vyr xmlns:Vyr='http://vyrgraph.com/v2'><Vyr:Preamble><Vyr:Header><Vyr:Creator>c"
-                                u"</Vyr:Creator><Vyr:CreatorVersion>v</Vyr:CreatorVersion><Vyr:ChangeHistory>"
-                                u"2024-05-01T09:30:00Z</Vyr:ChangeHistory><Vyr:Purpose>p</Vyr:Purpose></Vyr:Header>"
-                                u"</Vyr:Preamble><Vyr:Palette PaletteName='half'><Vyr:Oops/></Vyr:Palette></Vyr:Vyr>";
+    const std::u16string text =
+        u"<Vyr:Vyr xmlns:Vyr='http://vyrgraph.com/v2'><Vyr:Preamble><Vyr:Header><Vyr:Creator>c"
+        u"</Vyr:Creator><Vyr:CreatorVersion>v</Vyr:CreatorVersion><Vyr:ChangeHistory>"
+        u"2024-05-01T09:30:00Z</Vyr:ChangeHistory><Vyr:Purpose>p</Vyr:Purpose></Vyr:Header>"
+        u"</Vyr:Preamble><Vyr:Palette PaletteName='half'><Vyr:Oops/></Vyr:Palette></Vyr:Vyr>";
     Vyr document;
     EXPECT_EQ(document.loadString(text), ELMX_MANDATORY_ELEMENT_MISSING);
     EXPECT_EQ(document.loadString(text), ELMX_MANDATORY_ELEMENT_MISSING);

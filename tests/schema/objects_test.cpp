@@ -57,8 +57,9 @@ TEST(Objects, ListsGrowOnAccessAndClampTheirIndexes) {
     owner.append_Company(u"c");
     owner.insert_Company(1, u"b");
     owner.set_Company(0, u"A");
-    EXPECT_EQ(write(owner, "Vyr:Owner"), "<Vyr:Owner><Vyr:Company>A</Vyr:Company><Vyr:Company>b</Vyr:Company>"
-                                         "<Vyr:Company>c</Vyr:Company></Vyr:Owner>");
+    EXPECT_EQ(write(owner, "Vyr:Owner"),
+              "<Vyr:Owner><Vyr:Company>A</Vyr:Company><Vyr:Company>b</Vyr:Company>"
+              "<Vyr:Company>c</Vyr:Company></Vyr:Owner>");
 }
 
 TEST(Objects, SettersRunTheFacetsAndChangeNothingOnFailure) {
@@ -279,7 +280,8 @@ TEST(Objects, IdentitiesCompareByAddress) {
     EXPECT_FALSE(is_known(v2::ColorSpaceType::factory(1000, "ColorSpaceType")));
     EXPECT_FALSE(is_known(v2::ColorSpaceCMYKType::factory(1000, "ColorSpaceRGBType")));
     EXPECT_TRUE(is_known(v2::ColorSpaceCMYKType::factory(1000, "ColorSpaceCMYKType")));
-    EXPECT_TRUE(is_known(v2::ColorSpaceSpecificationEmissiveType::factory(1000, "ColorSpaceSpecificationEmissiveType")));
+    EXPECT_TRUE(
+        is_known(v2::ColorSpaceSpecificationEmissiveType::factory(1000, "ColorSpaceSpecificationEmissiveType")));
     EXPECT_FALSE(
         is_known(v2::ColorSpaceSpecificationEmissiveType::factory(1000, "ColorSpaceSpecificationSpectrumType")));
     EXPECT_TRUE(is_known(v2::ColorSpaceSpecificationType::factory(1000, "ColorSpaceSpecificationSpectrumType")));

@@ -119,7 +119,8 @@ TEST(Reading, FacetsReportInTheirOrder) {
                  {" 2009-03-01T12:00:00+01:00\n", ELMX_MANDATORY_ELEMENT_MISSING}};
     for (const auto& row : dates) {
         v2::ColorType color;
-        const s_outcome outcome = read(color, element("Color", element("ChangeHistory", row.text), " ColorName=\"c\""));
+        const s_outcome outcome =
+            read(color, element("Color", element("ChangeHistory", row.text), " ColorName=\"c\""));
         EXPECT_EQ(outcome.code, row.code) << row.text;
         EXPECT_EQ(color.size_ChangeHistory(), row.code == ELMX_MANDATORY_ELEMENT_MISSING ? 1U : 0U);
     }
@@ -137,8 +138,9 @@ TEST(Reading, FacetsReportInTheirOrder) {
 TEST(Reading, AForeignElementInAGroupsPlaceIsSkippedAndCantBeWritten) {
     elmx_error code = ELMX_OK;
     v2::ToleranceType tolerance;
-    EXPECT_EQ(read(tolerance, element("Tolerance", "<Vyr:Foreign><a>1</a></Vyr:Foreign><Vyr:UniqueID>7</Vyr:UniqueID>")),
-              s_outcome{});
+    EXPECT_EQ(
+        read(tolerance, element("Tolerance", "<Vyr:Foreign><a>1</a></Vyr:Foreign><Vyr:UniqueID>7</Vyr:UniqueID>")),
+        s_outcome{});
     EXPECT_TRUE(tolerance.is_occurs_ok());
     EXPECT_EQ(tolerance.get_UniqueID(), u"7");
     EXPECT_EQ(static_cast<const v2::ToleranceType&>(tolerance).get_Function().getchosen(), 19);
@@ -146,8 +148,9 @@ TEST(Reading, AForeignElementInAGroupsPlaceIsSkippedAndCantBeWritten) {
     EXPECT_EQ(code, ELMX_OCCURS_ERROR_ON_MARSHAL);
 
     v2::SampleSpotType sample;
-    EXPECT_EQ(read(sample, element("SampleSpot", "<Vyr:Foreign/><Vyr:Specification><Vyr:SampleWidth>1</Vyr:SampleWidth>"
-                                                 "<Vyr:SampleHeight>2</Vyr:SampleHeight></Vyr:Specification>")),
+    EXPECT_EQ(read(sample, element("SampleSpot",
+                                   "<Vyr:Foreign/><Vyr:Specification><Vyr:SampleWidth>1</Vyr:SampleWidth>"
+                                   "<Vyr:SampleHeight>2</Vyr:SampleHeight></Vyr:Specification>")),
               s_outcome{});
     EXPECT_TRUE(sample.is_occurs_ok());
     write(sample, "Vyr:SampleSpot", &code);
@@ -184,9 +187,10 @@ TEST(Reading, XsiTypeSpecialisesTwoGroupMembers) {
                              "<Vyr:Cyan>1</Vyr:Cyan><Vyr:Magenta>2</Vyr:Magenta><Vyr:Yellow>3</Vyr:Yellow>"
                              "<Vyr:Black>4</Vyr:Black>";
     v2::ColorType color;
-    ASSERT_EQ(read(color, element("Color", k_date + cmyk_start + "ColorSpaceCMYKPlusNType\">" + inks +
-                                               "<Vyr:Color><Vyr:Name>o</Vyr:Name><Vyr:Value>5</Vyr:Value></Vyr:Color>"
-                                               "</Vyr:ColorSpaceCMYK>",
+    ASSERT_EQ(read(color, element("Color",
+                                  k_date + cmyk_start + "ColorSpaceCMYKPlusNType\">" + inks +
+                                      "<Vyr:Color><Vyr:Name>o</Vyr:Name><Vyr:Value>5</Vyr:Value></Vyr:Color>"
+                                      "</Vyr:ColorSpaceCMYK>",
                                   " ColorName=\"c\"")),
               s_outcome{});
     const v2::ColorType copy(color);
@@ -196,9 +200,8 @@ TEST(Reading, XsiTypeSpecialisesTwoGroupMembers) {
               std::string::npos);
 
     v2::ColorType unknown;
-    const std::string text = with_declarations(
-        element("Color", k_date + cmyk_start + "ColorSpaceRGBType\">" + inks + "</Vyr:ColorSpaceCMYK>",
-                " ColorName=\"c\""));
+    const std::string text = with_declarations(element(
+        "Color", k_date + cmyk_start + "ColorSpaceRGBType\">" + inks + "</Vyr:ColorSpaceCMYK>", " ColorName=\"c\""));
     c_swallowing_reader reader(text);
     EXPECT_EQ(read_with(reader, unknown).code, ELMX_UNKNOWN_XSI_TYPE);
     EXPECT_TRUE(reader.swallowed.empty());
@@ -208,8 +211,9 @@ TEST(Reading, XsiTypeSpecialisesTwoGroupMembers) {
     v2::ToleranceType tolerance;
     EXPECT_EQ(read(tolerance, element("Tolerance", "<Vyr:Function/>")).code, ELMX_UNKNOWN_XSI_TYPE);
     v2::ToleranceType typed;
-    const std::string function = "<Vyr:Function xsi:type=\"Vyr:FunctionDE94Type\"><Vyr:Param_l>0</Vyr:Param_l>"
-                                 "<Vyr:Param_c>1</Vyr:Param_c><Vyr:Param_h>2</Vyr:Param_h></Vyr:Function>";
+    const std::string function =
+        "<Vyr:Function xsi:type=\"Vyr:FunctionDE94Type\"><Vyr:Param_l>0</Vyr:Param_l>"
+        "<Vyr:Param_c>1</Vyr:Param_c><Vyr:Param_h>2</Vyr:Param_h></Vyr:Function>";
     ASSERT_EQ(read(typed, element("Tolerance", function)), s_outcome{});
     EXPECT_EQ(write(typed, "Vyr:Tolerance"), element("Tolerance", function));
 }
@@ -242,8 +246,8 @@ TEST(Reading, NilElements) {
 
 TEST(Reading, ASpecificationWithoutFilterCantBeWrittenBack) {
     const std::string geometry = element("GeometryChoice", element("Angle", "-45"));
-    const std::string rest = element("DevicePolarization", "0") + k_date +
-                             "<Vyr:Spectrum>Spectrum_Reflectance</Vyr:Spectrum>" + geometry;
+    const std::string rest =
+        element("DevicePolarization", "0") + k_date + "<Vyr:Spectrum>Spectrum_Reflectance</Vyr:Spectrum>" + geometry;
     v2::ColorSpaceSpecificationSpectrumSpectralType specification;
     const char* const name = "Vyr:ColorSpaceSpecificationSpectrumSpectral";
     ASSERT_EQ(read(specification, element(name + 4, rest)), s_outcome{});
@@ -285,8 +289,9 @@ TEST(Reading, ChoicesTakeOneAlternative) {
     v2::TagValue value;
     EXPECT_EQ(read(value, element("TagValues", "<Vyr:Tag><Vyr:Category/></Vyr:Tag><Vyr:Other/>")),
               failure(ELMX_MANDATORY_ELEMENT_MISSING, ""));
-    ASSERT_EQ(read(value, element("TagValues", "<Vyr:Tag><Vyr:Category/></Vyr:Tag><Vyr:NumberValue>2</Vyr:NumberValue>")),
-              s_outcome{});
+    ASSERT_EQ(
+        read(value, element("TagValues", "<Vyr:Tag><Vyr:Category/></Vyr:Tag><Vyr:NumberValue>2</Vyr:NumberValue>")),
+        s_outcome{});
     EXPECT_EQ(write(value, "Vyr:TagValues"),
               element("TagValues", "<Vyr:Tag><Vyr:Category/></Vyr:Tag><Vyr:NumberValue>2</Vyr:NumberValue>"));
 }
@@ -312,8 +317,8 @@ TEST(Reading, OpenContentIsKeptAsText) {
 TEST(Reading, SwallowedErrorsGoOn) {
     const std::string text = with_declarations(
         "<Vyr:Color Bogus=\"1\">"
-        "<Vyr:ColorSpaceCIELab>" + k_nil_tristimulus +
-        "<Vyr:L>151</Vyr:L><Vyr:A>x</Vyr:A><Vyr:B>2</Vyr:B></Vyr:ColorSpaceCIELab></Vyr:Color>");
+        "<Vyr:ColorSpaceCIELab>" +
+        k_nil_tristimulus + "<Vyr:L>151</Vyr:L><Vyr:A>x</Vyr:A><Vyr:B>2</Vyr:B></Vyr:ColorSpaceCIELab></Vyr:Color>");
     v2::ColorType color;
     c_swallowing_reader reader(text);
     EXPECT_EQ(read_with(reader, color).code, ELMX_OK);
@@ -335,10 +340,12 @@ TEST(Reading, SwallowedErrorsGoOn) {
 }
 
 TEST(Reading, AHandlerThatSwallowsEverythingStillComesToAnEnd) {
-    const std::string whole = with_declarations(
-        element("Color", k_date + k_lab + "<Vyr:SubstratePaper/><Vyr:TagValues><Vyr:Tag><Vyr:Category UniqueID=\"u\"/>"
-                                          "</Vyr:Tag><Vyr:TextValue>t</Vyr:TextValue></Vyr:TagValues>",
-                " ColorName=\"c\""));
+    const std::string whole =
+        with_declarations(element("Color",
+                                  k_date + k_lab +
+                                      "<Vyr:SubstratePaper/><Vyr:TagValues><Vyr:Tag><Vyr:Category UniqueID=\"u\"/>"
+                                      "</Vyr:Tag><Vyr:TextValue>t</Vyr:TextValue></Vyr:TagValues>",
+                                  " ColorName=\"c\""));
     for (std::size_t length = 0; length < whole.size(); ++length) {
         const std::string cut = whole.substr(0, length);
         v2::ColorType color;
