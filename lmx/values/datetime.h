@@ -38,17 +38,26 @@ public:
 protected:
     c_datetime_base() = default;
 
+    // The pieces of text that the types are made of. "skip" checks them, "parse" takes them, both stop at the first
+    // character that doesn't fit and answer whether all was there; "append" and "write" give the same text.
+
+    /// A sign, a year, "-", month, "-", day.
+    static bool skip_date(const char** cursor);
+    /// Hours, ":", minutes, ":", seconds with an optional fraction.
+    static bool skip_time(const char** cursor);
     /// Whether `[text, end)` is empty or a zone; `*has_zone` tells which.
     static bool is_valid_zone(const char* text, const char* end, bool* has_zone);
     /// Takes the zone from the rest of a text; anything else than a zone or nothing changes nothing.
     void parse_zone(const char* text);
-    /// Year with its sign, "-", month, "-", day; true if all was there.
+    /// Starts behind the sign.
     bool parse_date(const char** cursor);
-    /// Hours, ":", minutes, ":", seconds; true if all was there.
     bool parse_time(const char** cursor);
     void append_date(std::string* out) const;
     void append_time(std::string* out) const;
     void append_zone(std::string* out) const;
+    void write_date(std::ostream& stream) const;
+    void write_time(std::ostream& stream) const;
+    void write_zone(std::ostream& stream) const;
 
     std::int32_t m_year = 1;  ///< negative before the common era
     std::uint32_t m_month = 0;
@@ -115,9 +124,9 @@ public:
     void set_hours(std::uint32_t hours) { m_hours = hours; }
     void set_mins(std::uint32_t mins) { m_mins = mins; }
     void set_secs(float secs) { m_secs = secs; }
-};
 
-/// Leaves the stream's fill character at "0".
-VYR_EXPORT std::ostream& operator<<(std::ostream& stream, const c_datetime& value);
+    /// Leaves the stream's fill character at "0".
+    VYR_EXPORT friend std::ostream& operator<<(std::ostream& stream, const c_datetime& value);
+};
 
 }  // namespace lmx

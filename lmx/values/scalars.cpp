@@ -1,0 +1,138 @@
+// Copyright 2026 The Vyr Authors
+// SPDX-License-Identifier: Apache-2.0
+
+/// Checks and conversions of booleans, numbers and names.
+
+#include "lmx/values/scalars.h"
+
+#include <locale.h>
+#include <stdlib.h>
+
+#include <algorithm>
+#include <charconv>
+#include <string_view>
+#include <system_error>
+
+#include "lmx/values/characters.h"
+#include "lmx/values/unicode.h"
+
+namespace lmx {
+
+namespace {
+
+/// The end of a text as the cursor sees it: a null inside the text is no end.
+const char* end_of(const std::string& text) { return text.c_str() + text.size(); }
+
+int count_digits(std::string_view text) {
+    return static_cast<int>(std::count_if(text.begin(), text.end(), [](char c) { return xisdigit(c); }));
+}
+
+/// What the C library makes of the text in the "C" locale: the last word on odd text and on numbers out of range.
+double c_library_double(const char* text) {
+#if defined(_WIN32)
+    static const _locale_t c_locale = _create_locale(LC_ALL, "C");
+    return _strtod_l(text, nullptr, c_locale);
+#else
+    static const locale_t c_locale = newlocale(LC_ALL_MASK, "C", static_cast<locale_t>(nullptr));
+    return strtod_l(text, nullptr, c_locale);
+#endif
+}
+
+}  // namespace
+
+bool is_valid_bool(const std::string& text) {
+    return text == "true" || text == "1" || text == "false" || text == "0";
+}
+
+bool is_valid_float(const std::string& text) {
+    const char* cursor = text.c_str();
+    skip_sign(&cursor);
+    if (skip_decimal(&cursor) == 0) return text == "INF" || text == "-INF" || text == "NaN";
+    if (*cursor == 'e' || *cursor == 'E') {
+        ++cursor;
+        skip_sign(&cursor);
+        if (skip_digits(&cursor) == 0) return false;
+    }
+    return cursor == end_of(text);
+}
+
+bool is_valid_integer(const std::string& text) {
+    const char* cursor = text.c_str();
+    skip_sign(&cursor);
+    return skip_digits(&cursor) > 0 && cursor == end_of(text);
+}
+
+int total_digits(const std::string& text) { return count_digits(text); }
+
+int fraction_digits(const std::string& text) {
+    const std::size_t point = text.find('.');
+    return point == std::string::npos ? 0 : count_digits(std::string_view(text).substr(point));
+}
+
+double text_to_double(const std::string& text) {
+    const char* first = text.data();
+    const char* const last = first + text.size();
+    if (text.size() > 1 && *first == '+') ++first;  // which from_chars refuses
+    // A number that from_chars takes whole is the C library's, bit for bit. It would take words too: not those.
+    const char* const digits = first != last && *first == '-' && first == text.data() ? first + 1 : first;
+    if (digits != last && (xisdigit(*digits) || *digits == '.')) {
+        double value = 0.0;
+        const auto [end, error] = std::from_chars(first, last, value);
+        if (end == last && error == std::errc()) return value;
+    }
+    if (text == "NaN") return 0.0 / float_zero();
+    if (text == "INF") return 1.0 / float_zero();
+    if (text == "-INF") return -1.0 / float_zero();
+    return c_library_double(text.c_str());
+}
+
+std::int32_t text_to_int(const std::string& text) {
+    return static_cast<std::int32_t>(std::strtoll(text.c_str(), nullptr, 10));
+}
+
+std::uint8_t text_to_byte(const std::string& text) { return static_cast<std::uint8_t>(text_to_int(text)); }
+
+std::uint32_t text_to_unsigned(const std::string& text) {
+    return static_cast<std::uint32_t>(std::strtoull(text.c_str(), nullptr, 10));
+}
+
+bool text_to_bool(const std::string& text) { return text == "true" || text == "1"; }
+
+elmx_must_understand bool_must_understand(const std::string& text) {
+    if (!is_valid_bool(text)) return ELMX_MUST_UNDERSTAND_UNKNOWN;
+    return text_to_bool(text) ? ELMX_MUST_UNDERSTAND_YES : ELMX_MUST_UNDERSTAND_NO;
+}
+
+double float_zero() {
+    static volatile double zero = 0.0;
+    return zero;
+}
+
+void bswap(void* one, void* other, std::size_t size) {
+    auto* const bytes = static_cast<unsigned char*>(one);
+    std::swap_ranges(bytes, bytes + size, static_cast<unsigned char*>(other));
+}
+
+std::string& make_qname(std::string& target, const std::string& text, const std::string&, const std::string&) {
+    return target = text;
+}
+
+std::u16string& make_qname(std::u16string& target, const std::string& text, const std::string&, const std::string&) {
+    return vtostring(target, text);
+}
+
+ct_qname<std::string>& make_qname(ct_qname<std::string>& target, const std::string&, const std::string& ns,
+                                  const std::string& name) {
+    target.m_namespace = ns;
+    target.m_name = name;
+    return target;
+}
+
+ct_qname<std::u16string>& make_qname(ct_qname<std::u16string>& target, const std::string&, const std::string& ns,
+                                     const std::string& name) {
+    target.m_namespace = ns;
+    vtostring(target.m_name, name);
+    return target;
+}
+
+}  // namespace lmx

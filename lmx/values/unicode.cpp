@@ -1,0 +1,228 @@
+// Copyright 2026 The Vyr Authors
+// SPDX-License-Identifier: Apache-2.0
+
+/// Conversions between UTF-8 and UTF-16.
+///
+/// Documents are mostly ASCII, so both conversions take runs of it in blocks that the compiler turns into vector
+/// code, and fall back to single characters in between.
+
+#include "lmx/values/unicode.h"
+
+#include <cstdint>
+#include <type_traits>
+
+namespace lmx {
+
+namespace {
+
+constexpr std::size_t k_block = 16;
+
+constexpr bool is_high_surrogate(unsigned c) { return c >= 0xD800 && c <= 0xDBFF; }
+constexpr bool is_low_surrogate(unsigned c) { return c >= 0xDC00 && c <= 0xDFFF; }
+constexpr bool is_continuation(char c) { return (static_cast<unsigned char>(c) & 0xC0) == 0x80; }
+
+/// The number of bytes that a lead byte announces; 0 for a byte that is none.
+constexpr std::size_t sequence_size(char lead) {
+    const auto byte = static_cast<unsigned char>(lead);
+    if (byte < 0x80) return 1;
+    if ((byte & 0xE0) == 0xC0) return 2;
+    if ((byte & 0xF0) == 0xE0) return 3;
+    return (byte & 0xF8) == 0xF0 ? 4 : 0;
+}
+
+/// The bits of a character that its lead byte holds.
+constexpr std::uint32_t lead_bits(char lead, std::size_t size) {
+    const auto byte = static_cast<unsigned char>(lead);
+    return size == 1 ? byte : byte & (0x7FU >> size);
+}
+
+constexpr std::uint32_t continuation_bits(char byte) { return static_cast<unsigned char>(byte) & 0x3FU; }
+
+template <class Unit>
+bool is_ascii_block(const Unit* units) {
+    unsigned all = 0;
+    for (std::size_t i = 0; i < k_block; ++i) all |= static_cast<std::make_unsigned_t<Unit>>(units[i]);
+    return all < 0x80;
+}
+
+/// Copies blocks of ASCII for as long as they last.
+template <class From, class To>
+void copy_ascii_blocks(const From** from, const From* end, To** to) {
+    while (static_cast<std::size_t>(end - *from) >= k_block && is_ascii_block(*from)) {
+        for (std::size_t i = 0; i < k_block; ++i) (*to)[i] = static_cast<To>((*from)[i]);
+        *from += k_block;
+        *to += k_block;
+    }
+}
+
+/// Writes a character and returns the place behind it. A value above the Unicode range keeps its low bits.
+char* write_utf8(std::uint32_t c, char* out) {
+    const auto tail = [c](unsigned shift) { return static_cast<char>(0x80U | ((c >> shift) & 0x3FU)); };
+    if (c < 0x80) {
+        *out++ = static_cast<char>(c);
+    } else if (c < 0x800) {
+        *out++ = static_cast<char>(0xC0U | (c >> 6));
+        *out++ = tail(0);
+    } else if (c < 0x10000) {
+        *out++ = static_cast<char>(0xE0U | (c >> 12));
+        *out++ = tail(6);
+        *out++ = tail(0);
+    } else {
+        *out++ = static_cast<char>(0xF0U | (c >> 18));
+        *out++ = tail(12);
+        *out++ = tail(6);
+        *out++ = tail(0);
+    }
+    return out;
+}
+
+/// Decodes `[from, end)` into `out` up to the first fault; returns the place behind the last unit.
+char16_t* decode_utf8(const char* from, const char* end, char16_t* out) {
+    std::uint32_t pending = 0;  // a high surrogate that waits for its partner
+    while (from != end) {
+        if (pending == 0) {
+            copy_ascii_blocks(&from, end, &out);
+            if (from == end) break;
+        }
+        const std::size_t size = sequence_size(*from);
+        if (size == 0 || size > static_cast<std::size_t>(end - from)) break;
+        std::uint32_t c = lead_bits(*from, size);
+        std::size_t read = 1;
+        for (; read < size && is_continuation(from[read]); ++read) c = (c << 6) | continuation_bits(from[read]);
+        if (read != size) break;
+        from += size;
+        if (pending != 0) {
+            if (!is_low_surrogate(c)) break;
+            *out++ = static_cast<char16_t>(pending);
+            *out++ = static_cast<char16_t>(c);
+            pending = 0;
+        } else if (is_high_surrogate(c)) {
+            pending = c;
+        } else if (c > 0xFFFF) {
+            *out++ = static_cast<char16_t>(0xD800U + (((c - 0x10000U) >> 10) & 0x3FFU));
+            *out++ = static_cast<char16_t>(0xDC00U + (c & 0x3FFU));
+        } else {
+            *out++ = static_cast<char16_t>(c);
+        }
+    }
+    return out;
+}
+
+}  // namespace
+
+bool utf8_to_unicode_char(const char* text, int* c) {
+    const std::size_t size = sequence_size(*text);
+    if (size == 0) {
+        *c = -1;
+        return false;
+    }
+    std::uint32_t value = lead_bits(*text, size);
+    std::size_t read = 1;
+    for (; read < size && is_continuation(text[read]); ++read) value = (value << 6) | continuation_bits(text[read]);
+    *c = static_cast<int>(value);
+    return read == size;
+}
+
+char* unicode_char_to_utf8(int c, char* buffer) {
+    char* end = buffer;
+    if (c < 0) {
+        *end++ = static_cast<char>(c);
+    } else {
+        end = write_utf8(static_cast<std::uint32_t>(c), end);
+    }
+    *end = '\0';
+    return buffer;
+}
+
+bool is_valid_utf8_char_sequence(const char* text) {
+    const auto first = static_cast<unsigned char>(text[0]);
+    if (first <= 0x7F) return true;
+    if (first < 0xC2 || first > 0xF4) return false;
+    // Only these four leads leave part of the second byte's range to overlong forms, surrogates or beyond Unicode.
+    const auto second = static_cast<unsigned char>(text[1]);
+    switch (first) {
+        case 0xE0:
+            return second >= 0xA0 && second <= 0xBF;
+        case 0xED:
+            return second >= 0x80 && second <= 0x9F;
+        case 0xF0:
+            return second >= 0x90 && second <= 0xBF;
+        case 0xF4:
+            return second >= 0x80 && second <= 0x8F;
+        default:
+            return true;
+    }
+}
+
+std::u16string& vtostring(std::u16string& target, const std::string& source) {
+    // One unit for each lead byte, two for those of four-byte forms: exact for well-formed text, never too few.
+    std::size_t units = 0;
+    for (const char c : source) {
+        units += static_cast<std::size_t>(!is_continuation(c)) +
+                 static_cast<std::size_t>(static_cast<unsigned char>(c) >= 0xF0);
+    }
+    target.clear();
+    target.resize(units);
+    const char* const from = source.data();
+    const char16_t* const end = decode_utf8(from, from + source.size(), target.data());
+    target.resize(static_cast<std::size_t>(end - target.data()));
+    return target;
+}
+
+std::string& vtostring(std::string& target, const std::string& source) { return target = source; }
+
+std::string& convert(std::string* target, const std::u16string& source) {
+    // Three bytes for a surrogate are too many for half a pair, and right for a lone one.
+    std::size_t bytes = source.size();
+    for (const char16_t c : source)
+        bytes += static_cast<std::size_t>(c >= 0x80) + static_cast<std::size_t>(c >= 0x800);
+    target->clear();
+    target->resize(bytes);
+    char* out = target->data();
+    const char16_t* from = source.data();
+    const char16_t* const end = from + source.size();
+    while (from != end) {
+        copy_ascii_blocks(&from, end, &out);
+        if (from == end) break;
+        std::uint32_t c = *from++;
+        if (is_high_surrogate(c) && from != end) {
+            // The unit behind a high surrogate is consumed whether or not it's the partner.
+            const std::uint32_t next = *from++;
+            if (is_low_surrogate(next)) c = (((c & 0x3FFU) + 0x40U) << 10) + (next & 0x3FFU);
+        }
+        out = write_utf8(c, out);
+    }
+    target->resize(static_cast<std::size_t>(out - target->data()));
+    return *target;
+}
+
+std::u16string& convert(std::u16string* target, const std::string& source) { return vtostring(*target, source); }
+
+std::size_t length(const std::string& text) {
+    std::size_t count = 0;
+    std::size_t i = 0;
+    while (i < text.size()) {
+        ++count;
+        std::size_t step = sequence_size(text[i]);
+        if (step == 0) break;
+        // A high surrogate in three bytes brings its partner along.
+        if (static_cast<unsigned char>(text[i]) == 0xED && i + 1 < text.size() &&
+            (static_cast<unsigned char>(text[i + 1]) & 0xE0) == 0xA0) {
+            step = 6;
+        }
+        i += step;
+    }
+    return count;
+}
+
+bool is_min_length_ok(const std::string& text, std::size_t minimum) {
+    return text.size() / 4 >= minimum || length(text) >= minimum;
+}
+
+bool is_max_length_ok(const std::string& text, std::size_t maximum) {
+    if (text.size() <= maximum) return true;
+    if (text.size() / 4 > maximum || (text.size() / 4 == maximum && text.size() % 4 != 0)) return false;
+    return length(text) <= maximum;
+}
+
+}  // namespace lmx
