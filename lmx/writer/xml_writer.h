@@ -87,6 +87,10 @@ public:
         return m_error.get_error_info(type, code, line);
     }
 
+    /// Work string of whoever prints: a line is put together here, so that printing allocates nothing once the
+    /// string has grown.
+    std::string m_line;
+
 private:
     using string_pair = std::pair<std::string, std::string>;
 
