@@ -10,3 +10,4 @@
 
 #include "document/result.h"
 #include "lmx/lmx.h"
+#include "schema/generated/classes.h"

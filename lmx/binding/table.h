@@ -33,6 +33,7 @@ class c_xml_reader;
 class c_xml_writer;
 class c_any_info;
 struct s_class;
+struct s_document;
 
 /// Raised whenever rows change their meaning: generated code asserts the value it was made for.
 inline constexpr int k_binding_version = 1;

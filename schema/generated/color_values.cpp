@@ -1,0 +1,819 @@
+// Copyright 2026 The Vyr Authors
+// SPDX-License-Identifier: Apache-2.0
+//
+// Made by schema/generator/generate.py from schema/vyr.xsd and schema/binding.toml. Change those instead.
+// clang-format off
+
+/// Tables and members of the classes in color_values.h.
+
+#include "schema/generated/color_values.h"
+#include "lmx/binding/binding.h"
+#include "lmx/binding/rows.h"
+#include "schema/generated/device_color_values.h"
+#include "schema/generated/groups.h"
+#include "schema/generated/header.h"
+#include "schema/generated/recipes.h"
+#include "schema/generated/sampled_color_values.h"
+#include "schema/generated/specifications.h"
+#include "schema/generated/tables.h"
+
+// Offsets of members of classes with virtual functions: both compilers define them, and the macros check them.
+#pragma GCC diagnostic ignored "-Winvalid-offsetof"
+
+namespace com_vyrgraph_v2 {
+
+static_assert(lmx::k_binding_version == 1, "run schema/generator/generate.py");
+
+// ParentColorSpace
+
+namespace {
+constexpr lmx::s_event_map k_ParentColorSpace_elements[] = {
+    lmx::element_event("ColorSpaceRecipe", element_ColorSpaceRecipe),
+    lmx::element_event("ColorSpaceTINTORA", element_ColorSpaceTINTORA),
+    lmx::element_event("ColorSpaceGeneric", element_ColorSpaceGeneric),
+    lmx::element_event("ColorSpaceEmissiveGeneric", element_ColorSpaceEmissiveGeneric),
+    lmx::element_event("ColorSpaceDensity", element_ColorSpaceDensity),
+    lmx::element_event("ColorSpaceRGB", element_ColorSpaceRGB),
+    lmx::element_event("ColorSpaceSRGB", element_ColorSpaceSRGB),
+    lmx::element_event("ColorSpaceAdobeRGB", element_ColorSpaceAdobeRGB),
+    lmx::element_event("ColorSpaceCMYKPlusN", element_ColorSpaceCMYKPlusN),
+    lmx::element_event("ColorSpaceAdobeWideGamutRGB", element_ColorSpaceAdobeWideGamutRGB),
+    lmx::element_event("ColorSpaceSpectral", element_ColorSpaceSpectral),
+    lmx::element_event("ColorSpaceEmissiveSpectral", element_ColorSpaceEmissiveSpectral),
+    lmx::element_event("ColorSpaceCIELab", element_ColorSpaceCIELab),
+    lmx::element_event("ColorSpaceCIELCh", element_ColorSpaceCIELCh),
+    lmx::element_event("ColorSpaceCIEXYZ", element_ColorSpaceCIEXYZ),
+    lmx::element_event("ColorSpaceEmissiveCIEXYZ", element_ColorSpaceEmissiveCIEXYZ),
+    lmx::element_event("ColorSpaceCIExyY", element_ColorSpaceCIExyY),
+    lmx::element_event("ColorSpaceEmissiveCIExyY", element_ColorSpaceEmissiveCIExyY),
+    lmx::element_event("ColorSpaceCIELuv", element_ColorSpaceCIELuv),
+    lmx::element_event("ColorSpaceHSL", element_ColorSpaceHSL),
+    lmx::element_event("ColorSpaceHSV", element_ColorSpaceHSV),
+    lmx::element_event("ColorSpaceCMYK", element_ColorSpaceCMYK),
+    lmx::element_event("ColorSpaceTINTORAOctavantic", element_ColorSpaceTINTORAOctavantic),
+    lmx::element_event("ColorSpaceYUV", element_ColorSpaceYUV),
+    lmx::element_event("ColorSpaceYIQ", element_ColorSpaceYIQ),
+    lmx::element_event("ColorSpaceYBR", element_ColorSpaceYBR),
+    lmx::element_event("ColorSpaceNCS", element_ColorSpaceNCS),
+    lmx::element_event("ColorSpaceMunsell", element_ColorSpaceMunsell),
+    lmx::k_end_of_map,
+};
+}  // namespace
+
+constinit const lmx::s_item ParentColorSpace::k_items[] = {
+    {lmx::item_kind::group, lmx::value_kind::none, lmx::use_asked | lmx::use_written | lmx::use_copied | lmx::use_lax, lmx::ELMX_WS_PRESERVE, "Vyr:ColorSpace", 0, 0, LMX_FLAG(ParentColorSpace, m_isset_ColorSpace), lmx::position_of(k_ParentColorSpace_elements, element_ColorSpaceRecipe), lmx::position_of(k_ParentColorSpace_elements, element_ColorSpaceRecipe, 28), &sg_ColorSpace::k_class, nullptr, {}},
+};
+constinit const lmx::s_class ParentColorSpace::k_class = {
+    .name = "ParentColorSpace",
+    .qualified_name = "Vyr:ParentColorSpace",
+    .base = nullptr,
+    .content = lmx::content_kind::children,
+    .may_be_empty = false,
+    .ns_map = nullptr,
+    .nil_flag = LMX_FLAG(ParentColorSpace, m_isnil),
+    .choice = lmx::k_no_flag,
+    .id = nullptr,
+    .xsi_type = nullptr,
+    .attributes = std::span(k_items).first(std::size(lmx::k_no_events) - 1),
+    .elements = std::span(k_items).subspan(std::size(lmx::k_no_events) - 1),
+    .attribute_map = lmx::k_no_events,
+    .element_map = k_ParentColorSpace_elements,
+    .operations = &lmx::k_operations<ParentColorSpace>,
+};
+
+ParentColorSpace::ParentColorSpace() = default;
+ParentColorSpace::ParentColorSpace(const ParentColorSpace& other) : sg_ColorSpace() { lmx::copy(k_class, this, &other); }
+ParentColorSpace::~ParentColorSpace() = default;
+ParentColorSpace& ParentColorSpace::operator=(const ParentColorSpace& other) { ParentColorSpace copy(other); swap(copy); return *this; }
+void ParentColorSpace::swap(ParentColorSpace& other) { lmx::swap(k_class, this, &other); }
+void ParentColorSpace::reset() { ParentColorSpace fresh; swap(fresh); }
+bool ParentColorSpace::is_occurs_ok() const { return lmx::is_occurs_ok(k_class, this); }
+lmx::elmx_error ParentColorSpace::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
+lmx::elmx_error ParentColorSpace::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
+void ParentColorSpace::marshal_attributes(lmx::c_xml_writer& writer) const { lmx::marshal_attributes(k_class, this, writer); }
+lmx::elmx_error ParentColorSpace::marshal_child_elements(lmx::c_xml_writer& writer) const { return lmx::marshal_child_elements(k_class, this, writer); }
+bool ParentColorSpace::unmarshal_attributes(lmx::c_xml_reader& reader, const std::string& name, lmx::elmx_error* error) { return lmx::unmarshal_attribute(k_class, this, reader, name, error); }
+lmx::elmx_error ParentColorSpace::unmarshal_attributes_check(lmx::c_xml_reader& reader) { return lmx::check_required_attributes(k_class, this, reader); }
+bool ParentColorSpace::unmarshal_body(lmx::c_xml_reader& reader, std::string* name, lmx::elmx_error* error) { return lmx::unmarshal_body(k_class, this, reader, name, error); }
+sg_ColorSpace& ParentColorSpace::assign_ColorSpace(const sg_ColorSpace& value) { return get_ColorSpace().sg_ColorSpace::operator=(value); }
+
+// ColorSpaceType
+
+namespace {
+constexpr lmx::s_event_map k_ColorSpaceType_attributes[] = {
+    lmx::attribute_event("Comments", attribute_Comments),
+    lmx::attribute_event("UniqueID", attribute_UniqueID),
+    lmx::k_end_of_map,
+};
+constexpr lmx::s_event_map k_ColorSpaceType_elements[] = {
+    lmx::element_event("CustomAttribute", element_CustomAttribute),
+    lmx::element_event("ParentColorSpace", element_ParentColorSpace),
+    lmx::element_event("ChangeHistory", element_ChangeHistory),
+    lmx::k_end_of_map,
+};
+}  // namespace
+
+constinit const lmx::s_item ColorSpaceType::k_items[] = {
+    {lmx::item_kind::attribute, lmx::value_kind::text, lmx::use_optional, lmx::ELMX_WS_PRESERVE, "Comments", attribute_Comments, LMX_OFFSET(ColorSpaceType, m_Comments, attribute, text), LMX_FLAG(ColorSpaceType, m_isset_Comments), 0, 0, nullptr, nullptr, {}},
+    {lmx::item_kind::attribute, lmx::value_kind::text, lmx::use_optional, lmx::ELMX_WS_PRESERVE, "UniqueID", attribute_UniqueID, LMX_OFFSET(ColorSpaceType, m_UniqueID, attribute, text), LMX_FLAG(ColorSpaceType, m_isset_UniqueID), 0, 0, nullptr, nullptr, {}},
+    {lmx::item_kind::child_list, lmx::value_kind::none, lmx::use_optional, lmx::ELMX_WS_PRESERVE, "Vyr:CustomAttribute", element_CustomAttribute, LMX_OFFSET(ColorSpaceType, m_CustomAttribute, child_list, none), lmx::k_no_flag, lmx::position_of(k_ColorSpaceType_elements, element_CustomAttribute), lmx::position_of(k_ColorSpaceType_elements, element_CustomAttribute, 1), &CustomAttributeType::k_class, nullptr, {}},
+    {lmx::item_kind::child, lmx::value_kind::none, lmx::use_optional, lmx::ELMX_WS_PRESERVE, "Vyr:ParentColorSpace", element_ParentColorSpace, LMX_OFFSET(ColorSpaceType, m_ParentColorSpace, child, none), LMX_FLAG(ColorSpaceType, m_isset_ParentColorSpace), lmx::position_of(k_ColorSpaceType_elements, element_ParentColorSpace), lmx::position_of(k_ColorSpaceType_elements, element_ParentColorSpace, 1), &ParentColorSpace::k_class, nullptr, {}},
+    {lmx::item_kind::element_list, lmx::value_kind::datetime, lmx::use_demanded | lmx::use_asked, lmx::ELMX_WS_COLLAPSE, "Vyr:ChangeHistory", element_ChangeHistory, LMX_OFFSET(ColorSpaceType, m_ChangeHistory, element_list, datetime), lmx::k_no_flag, lmx::position_of(k_ColorSpaceType_elements, element_ChangeHistory), lmx::position_of(k_ColorSpaceType_elements, element_ChangeHistory, 1), nullptr, &facets::DateTimeZone, {}},
+};
+constinit const lmx::s_factory_row ColorSpaceType::k_factory[] = {
+    {"ColorSpaceCIELabType", &ColorSpaceCIELabType::k_class},
+    {"ColorSpaceCIELChType", &ColorSpaceCIELChType::k_class},
+    {"ColorSpaceCIELuvType", &ColorSpaceCIELuvType::k_class},
+    {"ColorSpaceCIEXYZType", &ColorSpaceCIEXYZType::k_class},
+    {"ColorSpaceCIExyYType", &ColorSpaceCIExyYType::k_class},
+    {"ColorSpaceEmissiveCIEXYZType", &ColorSpaceEmissiveCIEXYZType::k_class},
+    {"ColorSpaceEmissiveCIExyYType", &ColorSpaceEmissiveCIExyYType::k_class},
+    {"ColorSpaceRGBType", &ColorSpaceRGBType::k_class},
+    {"ColorSpaceSRGBType", &ColorSpaceSRGBType::k_class},
+    {"ColorSpaceAdobeRGBType", &ColorSpaceAdobeRGBType::k_class},
+    {"ColorSpaceAdobeWideGamutRGBType", &ColorSpaceAdobeWideGamutRGBType::k_class},
+    {"ColorSpaceCMYKType", &ColorSpaceCMYKType::k_class},
+    {"ColorSpaceCMYKPlusNType", &ColorSpaceCMYKPlusNType::k_class},
+    {"ColorSpaceTINTORAOctavanticType", &ColorSpaceTINTORAOctavanticType::k_class},
+    {"ColorSpaceHSLType", &ColorSpaceHSLType::k_class},
+    {"ColorSpaceHSVType", &ColorSpaceHSVType::k_class},
+    {"ColorSpaceYUVType", &ColorSpaceYUVType::k_class},
+    {"ColorSpaceYIQType", &ColorSpaceYIQType::k_class},
+    {"ColorSpaceYBRType", &ColorSpaceYBRType::k_class},
+    {"ColorSpaceTINTORAType", &ColorSpaceTINTORAType::k_class},
+    {"ColorSpaceNCSType", &ColorSpaceNCSType::k_class},
+    {"ColorSpaceMunsellType", &ColorSpaceMunsellType::k_class},
+    {"ColorSpaceRecipeType", &ColorSpaceRecipeType::k_class},
+    {"ColorSpaceDensityType", &ColorSpaceDensityType::k_class},
+    {"ColorSpaceSpectralType", &ColorSpaceSpectralType::k_class},
+    {"ColorSpaceEmissiveSpectralType", &ColorSpaceEmissiveSpectralType::k_class},
+    {"ColorSpaceGenericType", &ColorSpaceGenericType::k_class},
+    {"ColorSpaceEmissiveGenericType", &ColorSpaceEmissiveGenericType::k_class},
+};
+constinit const lmx::s_class ColorSpaceType::k_class = {
+    .name = "ColorSpaceType",
+    .qualified_name = "Vyr:ColorSpaceType",
+    .base = nullptr,
+    .content = lmx::content_kind::children,
+    .may_be_empty = false,
+    .ns_map = k_ns_map,
+    .nil_flag = lmx::k_no_flag,
+    .choice = lmx::k_no_flag,
+    .id = &ColorSpaceType::id,
+    .xsi_type = "Vyr:ColorSpaceType",
+    .attributes = std::span(k_items).first(std::size(k_ColorSpaceType_attributes) - 1),
+    .elements = std::span(k_items).subspan(std::size(k_ColorSpaceType_attributes) - 1),
+    .attribute_map = k_ColorSpaceType_attributes,
+    .element_map = k_ColorSpaceType_elements,
+    .operations = &lmx::k_operations<ColorSpaceType>,
+};
+
+ColorSpaceType::ColorSpaceType() = default;
+ColorSpaceType::ColorSpaceType(const ColorSpaceType& other) { lmx::copy(k_class, this, &other); }
+ColorSpaceType::~ColorSpaceType() = default;
+ColorSpaceType& ColorSpaceType::operator=(const ColorSpaceType& other) { ColorSpaceType copy(other); swap(copy); return *this; }
+void ColorSpaceType::swap(ColorSpaceType& other) { lmx::swap(k_class, this, &other); }
+void ColorSpaceType::reset() { ColorSpaceType fresh; swap(fresh); }
+bool ColorSpaceType::is_occurs_ok() const { return lmx::is_occurs_ok(k_class, this); }
+lmx::elmx_error ColorSpaceType::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
+lmx::elmx_error ColorSpaceType::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
+void ColorSpaceType::marshal_attributes(lmx::c_xml_writer& writer) const { lmx::marshal_attributes(k_class, this, writer); }
+lmx::elmx_error ColorSpaceType::marshal_child_elements(lmx::c_xml_writer& writer) const { return lmx::marshal_child_elements(k_class, this, writer); }
+bool ColorSpaceType::unmarshal_attributes(lmx::c_xml_reader& reader, const std::string& name, lmx::elmx_error* error) { return lmx::unmarshal_attribute(k_class, this, reader, name, error); }
+lmx::elmx_error ColorSpaceType::unmarshal_attributes_check(lmx::c_xml_reader& reader) { return lmx::check_required_attributes(k_class, this, reader); }
+bool ColorSpaceType::unmarshal_body(lmx::c_xml_reader& reader, std::string* name, lmx::elmx_error* error) { return lmx::unmarshal_body(k_class, this, reader, name, error); }
+namespace { const char k_ColorSpaceType_id[] = "ColorSpaceType"; }
+const char* ColorSpaceType::id = k_ColorSpaceType_id;
+ColorSpaceType* ColorSpaceType::clone() const { return new ColorSpaceType(*this); }
+const char* ColorSpaceType::getid() const { return id; }
+bool ColorSpaceType::has_id(const char* identity) const { return identity == id; }
+ColorSpaceType* ColorSpaceType::factory(int ns_id, const std::string& name) { return static_cast<ColorSpaceType*>(lmx::create_by_name(k_factory, ns_id, name)); }
+lmx::elmx_error ColorSpaceType::set_Comments(const std::u16string& value) { return lmx::set_item(k_class, k_items[item_Comments], this, value); }
+lmx::elmx_error ColorSpaceType::set_UniqueID(const std::u16string& value) { return lmx::set_item(k_class, k_items[item_UniqueID], this, value); }
+CustomAttributeType& ColorSpaceType::get_CustomAttribute(std::size_t index) { return m_CustomAttribute.grow_to(index); }
+CustomAttributeType& ColorSpaceType::assign_CustomAttribute(std::size_t index, const CustomAttributeType& value) { return get_CustomAttribute(index) = value; }
+lmx::elmx_error ColorSpaceType::append_CustomAttribute() { m_CustomAttribute.append(); return lmx::ELMX_OK; }
+lmx::elmx_error ColorSpaceType::insert_CustomAttribute(std::size_t index) { m_CustomAttribute.insert(index); return lmx::ELMX_OK; }
+void ColorSpaceType::delete_CustomAttribute(std::size_t index) { m_CustomAttribute.erase(index); }
+void ColorSpaceType::clear_CustomAttribute() { m_CustomAttribute.clear(); }
+ParentColorSpace& ColorSpaceType::assign_ParentColorSpace(const ParentColorSpace& value) { return get_ParentColorSpace() = value; }
+lmx::elmx_error ColorSpaceType::set_ChangeHistory(std::size_t index, const lmx::c_datetime& value) { return lmx::set_entry(k_items[item_ChangeHistory], this, index, value); }
+lmx::elmx_error ColorSpaceType::append_ChangeHistory(const lmx::c_datetime& value) { return lmx::insert_entry(k_items[item_ChangeHistory], this, size_ChangeHistory(), value); }
+lmx::elmx_error ColorSpaceType::insert_ChangeHistory(std::size_t index, const lmx::c_datetime& value) { return lmx::insert_entry(k_items[item_ChangeHistory], this, index, value); }
+void ColorSpaceType::delete_ChangeHistory(std::size_t index) { m_ChangeHistory.erase(index); }
+void ColorSpaceType::clear_ChangeHistory() { m_ChangeHistory.clear(); }
+
+// ColorSpace
+
+lmx::elmx_error ColorSpace::marshal(lmx::c_xml_writer& writer, const char* name) const {
+    writer.conditionally_select_ns_map(k_ns_map);
+    return ColorSpaceType::marshal(writer, name);
+}
+lmx::elmx_error ColorSpace::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return ColorSpaceType::unmarshal(reader, name); }
+const lmx::s_document ColorSpace::k_document = {"Vyr:ColorSpace", "ColorSpace", k_ns_map, &lmx::k_operations<ColorSpace>};
+const lmx::s_ns_map* ColorSpace::ns_map() { return k_ns_map; }
+lmx::elmx_error ColorSpace::unmarshal(lmx::c_xml_reader& reader) { return lmx::unmarshal_document(k_document, this, reader); }
+
+// ColorSpaceCIELabType
+
+namespace {
+constexpr lmx::s_event_map k_ColorSpaceCIELabType_attributes[] = {
+    lmx::attribute_event("Name", attribute_Name),
+    lmx::k_end_of_map,
+};
+constexpr lmx::s_event_map k_ColorSpaceCIELabType_elements[] = {
+    lmx::element_event("ColorSpaceSpecificationSpectrumTristimulus", element_ColorSpaceSpecificationSpectrumTristimulus),
+    lmx::element_event("L", element_L),
+    lmx::element_event("A", element_A),
+    lmx::element_event("B", element_B),
+    lmx::k_end_of_map,
+};
+}  // namespace
+
+constinit const lmx::s_item ColorSpaceCIELabType::k_items[] = {
+    {lmx::item_kind::attribute, lmx::value_kind::text, lmx::use_optional, lmx::ELMX_WS_PRESERVE, "Name", attribute_Name, LMX_OFFSET(ColorSpaceCIELabType, m_Name, attribute, text), LMX_FLAG(ColorSpaceCIELabType, m_isset_Name), 0, 0, nullptr, nullptr, {}},
+    {lmx::item_kind::child, lmx::value_kind::none, lmx::use_required, lmx::ELMX_WS_PRESERVE, "Vyr:ColorSpaceSpecificationSpectrumTristimulus", element_ColorSpaceSpecificationSpectrumTristimulus, LMX_OFFSET(ColorSpaceCIELabType, m_ColorSpaceSpecificationSpectrumTristimulus, child, none), LMX_FLAG(ColorSpaceCIELabType, m_isset_ColorSpaceSpecificationSpectrumTristimulus), lmx::position_of(k_ColorSpaceCIELabType_elements, element_ColorSpaceSpecificationSpectrumTristimulus), lmx::position_of(k_ColorSpaceCIELabType_elements, element_ColorSpaceSpecificationSpectrumTristimulus, 1), &ColorSpaceSpecificationSpectrumTristimulus::k_class, nullptr, {}},
+    {lmx::item_kind::element, lmx::value_kind::number, lmx::use_required, lmx::ELMX_WS_COLLAPSE, "Vyr:L", element_L, LMX_OFFSET(ColorSpaceCIELabType, m_L, element, number), LMX_FLAG(ColorSpaceCIELabType, m_isset_L), lmx::position_of(k_ColorSpaceCIELabType_elements, element_L), lmx::position_of(k_ColorSpaceCIELabType_elements, element_L, 1), nullptr, &facets::LabLightness, {}},
+    {lmx::item_kind::element, lmx::value_kind::number, lmx::use_required, lmx::ELMX_WS_COLLAPSE, "Vyr:A", element_A, LMX_OFFSET(ColorSpaceCIELabType, m_A, element, number), LMX_FLAG(ColorSpaceCIELabType, m_isset_A), lmx::position_of(k_ColorSpaceCIELabType_elements, element_A), lmx::position_of(k_ColorSpaceCIELabType_elements, element_A, 1), nullptr, &facets::LabOpponent, {}},
+    {lmx::item_kind::element, lmx::value_kind::number, lmx::use_required, lmx::ELMX_WS_COLLAPSE, "Vyr:B", element_B, LMX_OFFSET(ColorSpaceCIELabType, m_B, element, number), LMX_FLAG(ColorSpaceCIELabType, m_isset_B), lmx::position_of(k_ColorSpaceCIELabType_elements, element_B), lmx::position_of(k_ColorSpaceCIELabType_elements, element_B, 1), nullptr, &facets::LabOpponent, {}},
+};
+constinit const lmx::s_class ColorSpaceCIELabType::k_class = {
+    .name = "ColorSpaceCIELabType",
+    .qualified_name = "Vyr:ColorSpaceCIELabType",
+    .base = &ColorSpaceType::k_class,
+    .content = lmx::content_kind::children,
+    .may_be_empty = false,
+    .ns_map = k_ns_map,
+    .nil_flag = lmx::k_no_flag,
+    .choice = lmx::k_no_flag,
+    .id = &ColorSpaceCIELabType::id,
+    .xsi_type = "Vyr:ColorSpaceCIELabType",
+    .attributes = std::span(k_items).first(std::size(k_ColorSpaceCIELabType_attributes) - 1),
+    .elements = std::span(k_items).subspan(std::size(k_ColorSpaceCIELabType_attributes) - 1),
+    .attribute_map = k_ColorSpaceCIELabType_attributes,
+    .element_map = k_ColorSpaceCIELabType_elements,
+    .operations = &lmx::k_operations<ColorSpaceCIELabType>,
+};
+
+ColorSpaceCIELabType::ColorSpaceCIELabType() = default;
+ColorSpaceCIELabType::ColorSpaceCIELabType(const ColorSpaceCIELabType& other) : ColorSpaceType() { lmx::copy(k_class, this, &other); }
+ColorSpaceCIELabType::~ColorSpaceCIELabType() = default;
+ColorSpaceCIELabType& ColorSpaceCIELabType::operator=(const ColorSpaceCIELabType& other) { ColorSpaceCIELabType copy(other); swap(copy); return *this; }
+void ColorSpaceCIELabType::swap(ColorSpaceCIELabType& other) { lmx::swap(k_class, this, &other); }
+void ColorSpaceCIELabType::reset() { ColorSpaceCIELabType fresh; swap(fresh); }
+bool ColorSpaceCIELabType::is_occurs_ok() const { return lmx::is_occurs_ok(k_class, this); }
+lmx::elmx_error ColorSpaceCIELabType::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
+lmx::elmx_error ColorSpaceCIELabType::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
+void ColorSpaceCIELabType::marshal_attributes(lmx::c_xml_writer& writer) const { lmx::marshal_attributes(k_class, this, writer); }
+lmx::elmx_error ColorSpaceCIELabType::marshal_child_elements(lmx::c_xml_writer& writer) const { return lmx::marshal_child_elements(k_class, this, writer); }
+bool ColorSpaceCIELabType::unmarshal_attributes(lmx::c_xml_reader& reader, const std::string& name, lmx::elmx_error* error) { return lmx::unmarshal_attribute(k_class, this, reader, name, error); }
+lmx::elmx_error ColorSpaceCIELabType::unmarshal_attributes_check(lmx::c_xml_reader& reader) { return lmx::check_required_attributes(k_class, this, reader); }
+bool ColorSpaceCIELabType::unmarshal_body(lmx::c_xml_reader& reader, std::string* name, lmx::elmx_error* error) { return lmx::unmarshal_body(k_class, this, reader, name, error); }
+namespace { const char k_ColorSpaceCIELabType_id[] = "ColorSpaceCIELabType"; }
+const char* ColorSpaceCIELabType::id = k_ColorSpaceCIELabType_id;
+ColorSpaceCIELabType* ColorSpaceCIELabType::clone() const { return new ColorSpaceCIELabType(*this); }
+const char* ColorSpaceCIELabType::getid() const { return id; }
+bool ColorSpaceCIELabType::has_id(const char* identity) const { return identity == id || ColorSpaceType::has_id(identity); }
+lmx::elmx_error ColorSpaceCIELabType::set_Name(const std::u16string& value) { return lmx::set_item(k_class, k_items[item_Name], this, value); }
+ColorSpaceSpecificationSpectrumTristimulus& ColorSpaceCIELabType::assign_ColorSpaceSpecificationSpectrumTristimulus(const ColorSpaceSpecificationSpectrumTristimulus& value) { return get_ColorSpaceSpecificationSpectrumTristimulus() = value; }
+lmx::elmx_error ColorSpaceCIELabType::set_L(double value) { return lmx::set_item(k_class, k_items[item_L], this, value); }
+lmx::elmx_error ColorSpaceCIELabType::set_A(double value) { return lmx::set_item(k_class, k_items[item_A], this, value); }
+lmx::elmx_error ColorSpaceCIELabType::set_B(double value) { return lmx::set_item(k_class, k_items[item_B], this, value); }
+
+// ColorSpaceCIELChType
+
+namespace {
+constexpr lmx::s_event_map k_ColorSpaceCIELChType_attributes[] = {
+    lmx::attribute_event("Name", attribute_Name),
+    lmx::k_end_of_map,
+};
+constexpr lmx::s_event_map k_ColorSpaceCIELChType_elements[] = {
+    lmx::element_event("ColorSpaceSpecificationSpectrumTristimulus", element_ColorSpaceSpecificationSpectrumTristimulus),
+    lmx::element_event("L", element_L),
+    lmx::element_event("C", element_C),
+    lmx::element_event("H", element_H),
+    lmx::k_end_of_map,
+};
+}  // namespace
+
+constinit const lmx::s_item ColorSpaceCIELChType::k_items[] = {
+    {lmx::item_kind::attribute, lmx::value_kind::text, lmx::use_optional, lmx::ELMX_WS_PRESERVE, "Name", attribute_Name, LMX_OFFSET(ColorSpaceCIELChType, m_Name, attribute, text), LMX_FLAG(ColorSpaceCIELChType, m_isset_Name), 0, 0, nullptr, nullptr, {}},
+    {lmx::item_kind::child, lmx::value_kind::none, lmx::use_required, lmx::ELMX_WS_PRESERVE, "Vyr:ColorSpaceSpecificationSpectrumTristimulus", element_ColorSpaceSpecificationSpectrumTristimulus, LMX_OFFSET(ColorSpaceCIELChType, m_ColorSpaceSpecificationSpectrumTristimulus, child, none), LMX_FLAG(ColorSpaceCIELChType, m_isset_ColorSpaceSpecificationSpectrumTristimulus), lmx::position_of(k_ColorSpaceCIELChType_elements, element_ColorSpaceSpecificationSpectrumTristimulus), lmx::position_of(k_ColorSpaceCIELChType_elements, element_ColorSpaceSpecificationSpectrumTristimulus, 1), &ColorSpaceSpecificationSpectrumTristimulus::k_class, nullptr, {}},
+    {lmx::item_kind::element, lmx::value_kind::number, lmx::use_required, lmx::ELMX_WS_COLLAPSE, "Vyr:L", element_L, LMX_OFFSET(ColorSpaceCIELChType, m_L, element, number), LMX_FLAG(ColorSpaceCIELChType, m_isset_L), lmx::position_of(k_ColorSpaceCIELChType_elements, element_L), lmx::position_of(k_ColorSpaceCIELChType_elements, element_L, 1), nullptr, &facets::Lightness, {}},
+    {lmx::item_kind::element, lmx::value_kind::number, lmx::use_required, lmx::ELMX_WS_COLLAPSE, "Vyr:C", element_C, LMX_OFFSET(ColorSpaceCIELChType, m_C, element, number), LMX_FLAG(ColorSpaceCIELChType, m_isset_C), lmx::position_of(k_ColorSpaceCIELChType_elements, element_C), lmx::position_of(k_ColorSpaceCIELChType_elements, element_C, 1), nullptr, &facets::Chroma, {}},
+    {lmx::item_kind::element, lmx::value_kind::number, lmx::use_required, lmx::ELMX_WS_COLLAPSE, "Vyr:H", element_H, LMX_OFFSET(ColorSpaceCIELChType, m_H, element, number), LMX_FLAG(ColorSpaceCIELChType, m_isset_H), lmx::position_of(k_ColorSpaceCIELChType_elements, element_H), lmx::position_of(k_ColorSpaceCIELChType_elements, element_H, 1), nullptr, &facets::HueAngle, {}},
+};
+constinit const lmx::s_class ColorSpaceCIELChType::k_class = {
+    .name = "ColorSpaceCIELChType",
+    .qualified_name = "Vyr:ColorSpaceCIELChType",
+    .base = &ColorSpaceType::k_class,
+    .content = lmx::content_kind::children,
+    .may_be_empty = false,
+    .ns_map = k_ns_map,
+    .nil_flag = lmx::k_no_flag,
+    .choice = lmx::k_no_flag,
+    .id = &ColorSpaceCIELChType::id,
+    .xsi_type = "Vyr:ColorSpaceCIELChType",
+    .attributes = std::span(k_items).first(std::size(k_ColorSpaceCIELChType_attributes) - 1),
+    .elements = std::span(k_items).subspan(std::size(k_ColorSpaceCIELChType_attributes) - 1),
+    .attribute_map = k_ColorSpaceCIELChType_attributes,
+    .element_map = k_ColorSpaceCIELChType_elements,
+    .operations = &lmx::k_operations<ColorSpaceCIELChType>,
+};
+
+ColorSpaceCIELChType::ColorSpaceCIELChType() = default;
+ColorSpaceCIELChType::ColorSpaceCIELChType(const ColorSpaceCIELChType& other) : ColorSpaceType() { lmx::copy(k_class, this, &other); }
+ColorSpaceCIELChType::~ColorSpaceCIELChType() = default;
+ColorSpaceCIELChType& ColorSpaceCIELChType::operator=(const ColorSpaceCIELChType& other) { ColorSpaceCIELChType copy(other); swap(copy); return *this; }
+void ColorSpaceCIELChType::swap(ColorSpaceCIELChType& other) { lmx::swap(k_class, this, &other); }
+void ColorSpaceCIELChType::reset() { ColorSpaceCIELChType fresh; swap(fresh); }
+bool ColorSpaceCIELChType::is_occurs_ok() const { return lmx::is_occurs_ok(k_class, this); }
+lmx::elmx_error ColorSpaceCIELChType::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
+lmx::elmx_error ColorSpaceCIELChType::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
+void ColorSpaceCIELChType::marshal_attributes(lmx::c_xml_writer& writer) const { lmx::marshal_attributes(k_class, this, writer); }
+lmx::elmx_error ColorSpaceCIELChType::marshal_child_elements(lmx::c_xml_writer& writer) const { return lmx::marshal_child_elements(k_class, this, writer); }
+bool ColorSpaceCIELChType::unmarshal_attributes(lmx::c_xml_reader& reader, const std::string& name, lmx::elmx_error* error) { return lmx::unmarshal_attribute(k_class, this, reader, name, error); }
+lmx::elmx_error ColorSpaceCIELChType::unmarshal_attributes_check(lmx::c_xml_reader& reader) { return lmx::check_required_attributes(k_class, this, reader); }
+bool ColorSpaceCIELChType::unmarshal_body(lmx::c_xml_reader& reader, std::string* name, lmx::elmx_error* error) { return lmx::unmarshal_body(k_class, this, reader, name, error); }
+namespace { const char k_ColorSpaceCIELChType_id[] = "ColorSpaceCIELChType"; }
+const char* ColorSpaceCIELChType::id = k_ColorSpaceCIELChType_id;
+ColorSpaceCIELChType* ColorSpaceCIELChType::clone() const { return new ColorSpaceCIELChType(*this); }
+const char* ColorSpaceCIELChType::getid() const { return id; }
+bool ColorSpaceCIELChType::has_id(const char* identity) const { return identity == id || ColorSpaceType::has_id(identity); }
+lmx::elmx_error ColorSpaceCIELChType::set_Name(const std::u16string& value) { return lmx::set_item(k_class, k_items[item_Name], this, value); }
+ColorSpaceSpecificationSpectrumTristimulus& ColorSpaceCIELChType::assign_ColorSpaceSpecificationSpectrumTristimulus(const ColorSpaceSpecificationSpectrumTristimulus& value) { return get_ColorSpaceSpecificationSpectrumTristimulus() = value; }
+lmx::elmx_error ColorSpaceCIELChType::set_L(double value) { return lmx::set_item(k_class, k_items[item_L], this, value); }
+lmx::elmx_error ColorSpaceCIELChType::set_C(double value) { return lmx::set_item(k_class, k_items[item_C], this, value); }
+lmx::elmx_error ColorSpaceCIELChType::set_H(double value) { return lmx::set_item(k_class, k_items[item_H], this, value); }
+
+// ColorSpaceCIELuvType
+
+namespace {
+constexpr lmx::s_event_map k_ColorSpaceCIELuvType_attributes[] = {
+    lmx::attribute_event("Name", attribute_Name),
+    lmx::k_end_of_map,
+};
+constexpr lmx::s_event_map k_ColorSpaceCIELuvType_elements[] = {
+    lmx::element_event("ColorSpaceSpecificationSpectrumTristimulus", element_ColorSpaceSpecificationSpectrumTristimulus),
+    lmx::element_event("L", element_L),
+    lmx::element_event("U", element_U),
+    lmx::element_event("V", element_V),
+    lmx::k_end_of_map,
+};
+}  // namespace
+
+constinit const lmx::s_item ColorSpaceCIELuvType::k_items[] = {
+    {lmx::item_kind::attribute, lmx::value_kind::text, lmx::use_optional, lmx::ELMX_WS_PRESERVE, "Name", attribute_Name, LMX_OFFSET(ColorSpaceCIELuvType, m_Name, attribute, text), LMX_FLAG(ColorSpaceCIELuvType, m_isset_Name), 0, 0, nullptr, nullptr, {}},
+    {lmx::item_kind::child, lmx::value_kind::none, lmx::use_required, lmx::ELMX_WS_PRESERVE, "Vyr:ColorSpaceSpecificationSpectrumTristimulus", element_ColorSpaceSpecificationSpectrumTristimulus, LMX_OFFSET(ColorSpaceCIELuvType, m_ColorSpaceSpecificationSpectrumTristimulus, child, none), LMX_FLAG(ColorSpaceCIELuvType, m_isset_ColorSpaceSpecificationSpectrumTristimulus), lmx::position_of(k_ColorSpaceCIELuvType_elements, element_ColorSpaceSpecificationSpectrumTristimulus), lmx::position_of(k_ColorSpaceCIELuvType_elements, element_ColorSpaceSpecificationSpectrumTristimulus, 1), &ColorSpaceSpecificationSpectrumTristimulus::k_class, nullptr, {}},
+    {lmx::item_kind::element, lmx::value_kind::number, lmx::use_required, lmx::ELMX_WS_COLLAPSE, "Vyr:L", element_L, LMX_OFFSET(ColorSpaceCIELuvType, m_L, element, number), LMX_FLAG(ColorSpaceCIELuvType, m_isset_L), lmx::position_of(k_ColorSpaceCIELuvType_elements, element_L), lmx::position_of(k_ColorSpaceCIELuvType_elements, element_L, 1), nullptr, &facets::Lightness, {}},
+    {lmx::item_kind::element, lmx::value_kind::number, lmx::use_required, lmx::ELMX_WS_COLLAPSE, "Vyr:U", element_U, LMX_OFFSET(ColorSpaceCIELuvType, m_U, element, number), LMX_FLAG(ColorSpaceCIELuvType, m_isset_U), lmx::position_of(k_ColorSpaceCIELuvType_elements, element_U), lmx::position_of(k_ColorSpaceCIELuvType_elements, element_U, 1), nullptr, &facets::LuvU, {}},
+    {lmx::item_kind::element, lmx::value_kind::number, lmx::use_required, lmx::ELMX_WS_COLLAPSE, "Vyr:V", element_V, LMX_OFFSET(ColorSpaceCIELuvType, m_V, element, number), LMX_FLAG(ColorSpaceCIELuvType, m_isset_V), lmx::position_of(k_ColorSpaceCIELuvType_elements, element_V), lmx::position_of(k_ColorSpaceCIELuvType_elements, element_V, 1), nullptr, &facets::LuvV, {}},
+};
+constinit const lmx::s_class ColorSpaceCIELuvType::k_class = {
+    .name = "ColorSpaceCIELuvType",
+    .qualified_name = "Vyr:ColorSpaceCIELuvType",
+    .base = &ColorSpaceType::k_class,
+    .content = lmx::content_kind::children,
+    .may_be_empty = false,
+    .ns_map = k_ns_map,
+    .nil_flag = lmx::k_no_flag,
+    .choice = lmx::k_no_flag,
+    .id = &ColorSpaceCIELuvType::id,
+    .xsi_type = "Vyr:ColorSpaceCIELuvType",
+    .attributes = std::span(k_items).first(std::size(k_ColorSpaceCIELuvType_attributes) - 1),
+    .elements = std::span(k_items).subspan(std::size(k_ColorSpaceCIELuvType_attributes) - 1),
+    .attribute_map = k_ColorSpaceCIELuvType_attributes,
+    .element_map = k_ColorSpaceCIELuvType_elements,
+    .operations = &lmx::k_operations<ColorSpaceCIELuvType>,
+};
+
+ColorSpaceCIELuvType::ColorSpaceCIELuvType() = default;
+ColorSpaceCIELuvType::ColorSpaceCIELuvType(const ColorSpaceCIELuvType& other) : ColorSpaceType() { lmx::copy(k_class, this, &other); }
+ColorSpaceCIELuvType::~ColorSpaceCIELuvType() = default;
+ColorSpaceCIELuvType& ColorSpaceCIELuvType::operator=(const ColorSpaceCIELuvType& other) { ColorSpaceCIELuvType copy(other); swap(copy); return *this; }
+void ColorSpaceCIELuvType::swap(ColorSpaceCIELuvType& other) { lmx::swap(k_class, this, &other); }
+void ColorSpaceCIELuvType::reset() { ColorSpaceCIELuvType fresh; swap(fresh); }
+bool ColorSpaceCIELuvType::is_occurs_ok() const { return lmx::is_occurs_ok(k_class, this); }
+lmx::elmx_error ColorSpaceCIELuvType::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
+lmx::elmx_error ColorSpaceCIELuvType::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
+void ColorSpaceCIELuvType::marshal_attributes(lmx::c_xml_writer& writer) const { lmx::marshal_attributes(k_class, this, writer); }
+lmx::elmx_error ColorSpaceCIELuvType::marshal_child_elements(lmx::c_xml_writer& writer) const { return lmx::marshal_child_elements(k_class, this, writer); }
+bool ColorSpaceCIELuvType::unmarshal_attributes(lmx::c_xml_reader& reader, const std::string& name, lmx::elmx_error* error) { return lmx::unmarshal_attribute(k_class, this, reader, name, error); }
+lmx::elmx_error ColorSpaceCIELuvType::unmarshal_attributes_check(lmx::c_xml_reader& reader) { return lmx::check_required_attributes(k_class, this, reader); }
+bool ColorSpaceCIELuvType::unmarshal_body(lmx::c_xml_reader& reader, std::string* name, lmx::elmx_error* error) { return lmx::unmarshal_body(k_class, this, reader, name, error); }
+namespace { const char k_ColorSpaceCIELuvType_id[] = "ColorSpaceCIELuvType"; }
+const char* ColorSpaceCIELuvType::id = k_ColorSpaceCIELuvType_id;
+ColorSpaceCIELuvType* ColorSpaceCIELuvType::clone() const { return new ColorSpaceCIELuvType(*this); }
+const char* ColorSpaceCIELuvType::getid() const { return id; }
+bool ColorSpaceCIELuvType::has_id(const char* identity) const { return identity == id || ColorSpaceType::has_id(identity); }
+lmx::elmx_error ColorSpaceCIELuvType::set_Name(const std::u16string& value) { return lmx::set_item(k_class, k_items[item_Name], this, value); }
+ColorSpaceSpecificationSpectrumTristimulus& ColorSpaceCIELuvType::assign_ColorSpaceSpecificationSpectrumTristimulus(const ColorSpaceSpecificationSpectrumTristimulus& value) { return get_ColorSpaceSpecificationSpectrumTristimulus() = value; }
+lmx::elmx_error ColorSpaceCIELuvType::set_L(double value) { return lmx::set_item(k_class, k_items[item_L], this, value); }
+lmx::elmx_error ColorSpaceCIELuvType::set_U(double value) { return lmx::set_item(k_class, k_items[item_U], this, value); }
+lmx::elmx_error ColorSpaceCIELuvType::set_V(double value) { return lmx::set_item(k_class, k_items[item_V], this, value); }
+
+// ColorSpaceCIEXYZType
+
+namespace {
+constexpr lmx::s_event_map k_ColorSpaceCIEXYZType_attributes[] = {
+    lmx::attribute_event("Name", attribute_Name),
+    lmx::k_end_of_map,
+};
+constexpr lmx::s_event_map k_ColorSpaceCIEXYZType_elements[] = {
+    lmx::element_event("ColorSpaceSpecificationSpectrumTristimulus", element_ColorSpaceSpecificationSpectrumTristimulus),
+    lmx::element_event("X", element_X),
+    lmx::element_event("Y", element_Y),
+    lmx::element_event("Z", element_Z),
+    lmx::k_end_of_map,
+};
+}  // namespace
+
+constinit const lmx::s_item ColorSpaceCIEXYZType::k_items[] = {
+    {lmx::item_kind::attribute, lmx::value_kind::text, lmx::use_optional, lmx::ELMX_WS_PRESERVE, "Name", attribute_Name, LMX_OFFSET(ColorSpaceCIEXYZType, m_Name, attribute, text), LMX_FLAG(ColorSpaceCIEXYZType, m_isset_Name), 0, 0, nullptr, nullptr, {}},
+    {lmx::item_kind::child, lmx::value_kind::none, lmx::use_required, lmx::ELMX_WS_PRESERVE, "Vyr:ColorSpaceSpecificationSpectrumTristimulus", element_ColorSpaceSpecificationSpectrumTristimulus, LMX_OFFSET(ColorSpaceCIEXYZType, m_ColorSpaceSpecificationSpectrumTristimulus, child, none), LMX_FLAG(ColorSpaceCIEXYZType, m_isset_ColorSpaceSpecificationSpectrumTristimulus), lmx::position_of(k_ColorSpaceCIEXYZType_elements, element_ColorSpaceSpecificationSpectrumTristimulus), lmx::position_of(k_ColorSpaceCIEXYZType_elements, element_ColorSpaceSpecificationSpectrumTristimulus, 1), &ColorSpaceSpecificationSpectrumTristimulus::k_class, nullptr, {}},
+    {lmx::item_kind::element, lmx::value_kind::number, lmx::use_required, lmx::ELMX_WS_COLLAPSE, "Vyr:X", element_X, LMX_OFFSET(ColorSpaceCIEXYZType, m_X, element, number), LMX_FLAG(ColorSpaceCIEXYZType, m_isset_X), lmx::position_of(k_ColorSpaceCIEXYZType_elements, element_X), lmx::position_of(k_ColorSpaceCIEXYZType_elements, element_X, 1), nullptr, &facets::Fraction, {}},
+    {lmx::item_kind::element, lmx::value_kind::number, lmx::use_required, lmx::ELMX_WS_COLLAPSE, "Vyr:Y", element_Y, LMX_OFFSET(ColorSpaceCIEXYZType, m_Y, element, number), LMX_FLAG(ColorSpaceCIEXYZType, m_isset_Y), lmx::position_of(k_ColorSpaceCIEXYZType_elements, element_Y), lmx::position_of(k_ColorSpaceCIEXYZType_elements, element_Y, 1), nullptr, &facets::Fraction, {}},
+    {lmx::item_kind::element, lmx::value_kind::number, lmx::use_required, lmx::ELMX_WS_COLLAPSE, "Vyr:Z", element_Z, LMX_OFFSET(ColorSpaceCIEXYZType, m_Z, element, number), LMX_FLAG(ColorSpaceCIEXYZType, m_isset_Z), lmx::position_of(k_ColorSpaceCIEXYZType_elements, element_Z), lmx::position_of(k_ColorSpaceCIEXYZType_elements, element_Z, 1), nullptr, &facets::Fraction, {}},
+};
+constinit const lmx::s_class ColorSpaceCIEXYZType::k_class = {
+    .name = "ColorSpaceCIEXYZType",
+    .qualified_name = "Vyr:ColorSpaceCIEXYZType",
+    .base = &ColorSpaceType::k_class,
+    .content = lmx::content_kind::children,
+    .may_be_empty = false,
+    .ns_map = k_ns_map,
+    .nil_flag = lmx::k_no_flag,
+    .choice = lmx::k_no_flag,
+    .id = &ColorSpaceCIEXYZType::id,
+    .xsi_type = "Vyr:ColorSpaceCIEXYZType",
+    .attributes = std::span(k_items).first(std::size(k_ColorSpaceCIEXYZType_attributes) - 1),
+    .elements = std::span(k_items).subspan(std::size(k_ColorSpaceCIEXYZType_attributes) - 1),
+    .attribute_map = k_ColorSpaceCIEXYZType_attributes,
+    .element_map = k_ColorSpaceCIEXYZType_elements,
+    .operations = &lmx::k_operations<ColorSpaceCIEXYZType>,
+};
+
+ColorSpaceCIEXYZType::ColorSpaceCIEXYZType() = default;
+ColorSpaceCIEXYZType::ColorSpaceCIEXYZType(const ColorSpaceCIEXYZType& other) : ColorSpaceType() { lmx::copy(k_class, this, &other); }
+ColorSpaceCIEXYZType::~ColorSpaceCIEXYZType() = default;
+ColorSpaceCIEXYZType& ColorSpaceCIEXYZType::operator=(const ColorSpaceCIEXYZType& other) { ColorSpaceCIEXYZType copy(other); swap(copy); return *this; }
+void ColorSpaceCIEXYZType::swap(ColorSpaceCIEXYZType& other) { lmx::swap(k_class, this, &other); }
+void ColorSpaceCIEXYZType::reset() { ColorSpaceCIEXYZType fresh; swap(fresh); }
+bool ColorSpaceCIEXYZType::is_occurs_ok() const { return lmx::is_occurs_ok(k_class, this); }
+lmx::elmx_error ColorSpaceCIEXYZType::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
+lmx::elmx_error ColorSpaceCIEXYZType::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
+void ColorSpaceCIEXYZType::marshal_attributes(lmx::c_xml_writer& writer) const { lmx::marshal_attributes(k_class, this, writer); }
+lmx::elmx_error ColorSpaceCIEXYZType::marshal_child_elements(lmx::c_xml_writer& writer) const { return lmx::marshal_child_elements(k_class, this, writer); }
+bool ColorSpaceCIEXYZType::unmarshal_attributes(lmx::c_xml_reader& reader, const std::string& name, lmx::elmx_error* error) { return lmx::unmarshal_attribute(k_class, this, reader, name, error); }
+lmx::elmx_error ColorSpaceCIEXYZType::unmarshal_attributes_check(lmx::c_xml_reader& reader) { return lmx::check_required_attributes(k_class, this, reader); }
+bool ColorSpaceCIEXYZType::unmarshal_body(lmx::c_xml_reader& reader, std::string* name, lmx::elmx_error* error) { return lmx::unmarshal_body(k_class, this, reader, name, error); }
+namespace { const char k_ColorSpaceCIEXYZType_id[] = "ColorSpaceCIEXYZType"; }
+const char* ColorSpaceCIEXYZType::id = k_ColorSpaceCIEXYZType_id;
+ColorSpaceCIEXYZType* ColorSpaceCIEXYZType::clone() const { return new ColorSpaceCIEXYZType(*this); }
+const char* ColorSpaceCIEXYZType::getid() const { return id; }
+bool ColorSpaceCIEXYZType::has_id(const char* identity) const { return identity == id || ColorSpaceType::has_id(identity); }
+lmx::elmx_error ColorSpaceCIEXYZType::set_Name(const std::u16string& value) { return lmx::set_item(k_class, k_items[item_Name], this, value); }
+ColorSpaceSpecificationSpectrumTristimulus& ColorSpaceCIEXYZType::assign_ColorSpaceSpecificationSpectrumTristimulus(const ColorSpaceSpecificationSpectrumTristimulus& value) { return get_ColorSpaceSpecificationSpectrumTristimulus() = value; }
+lmx::elmx_error ColorSpaceCIEXYZType::set_X(double value) { return lmx::set_item(k_class, k_items[item_X], this, value); }
+lmx::elmx_error ColorSpaceCIEXYZType::set_Y(double value) { return lmx::set_item(k_class, k_items[item_Y], this, value); }
+lmx::elmx_error ColorSpaceCIEXYZType::set_Z(double value) { return lmx::set_item(k_class, k_items[item_Z], this, value); }
+
+// ColorSpaceCIExyYType
+
+namespace {
+constexpr lmx::s_event_map k_ColorSpaceCIExyYType_attributes[] = {
+    lmx::attribute_event("Name", attribute_Name),
+    lmx::k_end_of_map,
+};
+constexpr lmx::s_event_map k_ColorSpaceCIExyYType_elements[] = {
+    lmx::element_event("ColorSpaceSpecificationSpectrumTristimulus", element_ColorSpaceSpecificationSpectrumTristimulus),
+    lmx::element_event("X", element_X),
+    lmx::element_event("Y", element_Y),
+    lmx::element_event("CapY", element_CapY),
+    lmx::k_end_of_map,
+};
+}  // namespace
+
+constinit const lmx::s_item ColorSpaceCIExyYType::k_items[] = {
+    {lmx::item_kind::attribute, lmx::value_kind::text, lmx::use_optional, lmx::ELMX_WS_PRESERVE, "Name", attribute_Name, LMX_OFFSET(ColorSpaceCIExyYType, m_Name, attribute, text), LMX_FLAG(ColorSpaceCIExyYType, m_isset_Name), 0, 0, nullptr, nullptr, {}},
+    {lmx::item_kind::child, lmx::value_kind::none, lmx::use_required, lmx::ELMX_WS_PRESERVE, "Vyr:ColorSpaceSpecificationSpectrumTristimulus", element_ColorSpaceSpecificationSpectrumTristimulus, LMX_OFFSET(ColorSpaceCIExyYType, m_ColorSpaceSpecificationSpectrumTristimulus, child, none), LMX_FLAG(ColorSpaceCIExyYType, m_isset_ColorSpaceSpecificationSpectrumTristimulus), lmx::position_of(k_ColorSpaceCIExyYType_elements, element_ColorSpaceSpecificationSpectrumTristimulus), lmx::position_of(k_ColorSpaceCIExyYType_elements, element_ColorSpaceSpecificationSpectrumTristimulus, 1), &ColorSpaceSpecificationSpectrumTristimulus::k_class, nullptr, {}},
+    {lmx::item_kind::element, lmx::value_kind::number, lmx::use_required, lmx::ELMX_WS_COLLAPSE, "Vyr:X", element_X, LMX_OFFSET(ColorSpaceCIExyYType, m_X, element, number), LMX_FLAG(ColorSpaceCIExyYType, m_isset_X), lmx::position_of(k_ColorSpaceCIExyYType_elements, element_X), lmx::position_of(k_ColorSpaceCIExyYType_elements, element_X, 1), nullptr, &facets::Fraction, {}},
+    {lmx::item_kind::element, lmx::value_kind::number, lmx::use_required, lmx::ELMX_WS_COLLAPSE, "Vyr:Y", element_Y, LMX_OFFSET(ColorSpaceCIExyYType, m_Y, element, number), LMX_FLAG(ColorSpaceCIExyYType, m_isset_Y), lmx::position_of(k_ColorSpaceCIExyYType_elements, element_Y), lmx::position_of(k_ColorSpaceCIExyYType_elements, element_Y, 1), nullptr, &facets::Fraction, {}},
+    {lmx::item_kind::element, lmx::value_kind::number, lmx::use_required, lmx::ELMX_WS_COLLAPSE, "Vyr:CapY", element_CapY, LMX_OFFSET(ColorSpaceCIExyYType, m_CapY, element, number), LMX_FLAG(ColorSpaceCIExyYType, m_isset_CapY), lmx::position_of(k_ColorSpaceCIExyYType_elements, element_CapY), lmx::position_of(k_ColorSpaceCIExyYType_elements, element_CapY, 1), nullptr, &facets::Fraction, {}},
+};
+constinit const lmx::s_class ColorSpaceCIExyYType::k_class = {
+    .name = "ColorSpaceCIExyYType",
+    .qualified_name = "Vyr:ColorSpaceCIExyYType",
+    .base = &ColorSpaceType::k_class,
+    .content = lmx::content_kind::children,
+    .may_be_empty = false,
+    .ns_map = k_ns_map,
+    .nil_flag = lmx::k_no_flag,
+    .choice = lmx::k_no_flag,
+    .id = &ColorSpaceCIExyYType::id,
+    .xsi_type = "Vyr:ColorSpaceCIExyYType",
+    .attributes = std::span(k_items).first(std::size(k_ColorSpaceCIExyYType_attributes) - 1),
+    .elements = std::span(k_items).subspan(std::size(k_ColorSpaceCIExyYType_attributes) - 1),
+    .attribute_map = k_ColorSpaceCIExyYType_attributes,
+    .element_map = k_ColorSpaceCIExyYType_elements,
+    .operations = &lmx::k_operations<ColorSpaceCIExyYType>,
+};
+
+ColorSpaceCIExyYType::ColorSpaceCIExyYType() = default;
+ColorSpaceCIExyYType::ColorSpaceCIExyYType(const ColorSpaceCIExyYType& other) : ColorSpaceType() { lmx::copy(k_class, this, &other); }
+ColorSpaceCIExyYType::~ColorSpaceCIExyYType() = default;
+ColorSpaceCIExyYType& ColorSpaceCIExyYType::operator=(const ColorSpaceCIExyYType& other) { ColorSpaceCIExyYType copy(other); swap(copy); return *this; }
+void ColorSpaceCIExyYType::swap(ColorSpaceCIExyYType& other) { lmx::swap(k_class, this, &other); }
+void ColorSpaceCIExyYType::reset() { ColorSpaceCIExyYType fresh; swap(fresh); }
+bool ColorSpaceCIExyYType::is_occurs_ok() const { return lmx::is_occurs_ok(k_class, this); }
+lmx::elmx_error ColorSpaceCIExyYType::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
+lmx::elmx_error ColorSpaceCIExyYType::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
+void ColorSpaceCIExyYType::marshal_attributes(lmx::c_xml_writer& writer) const { lmx::marshal_attributes(k_class, this, writer); }
+lmx::elmx_error ColorSpaceCIExyYType::marshal_child_elements(lmx::c_xml_writer& writer) const { return lmx::marshal_child_elements(k_class, this, writer); }
+bool ColorSpaceCIExyYType::unmarshal_attributes(lmx::c_xml_reader& reader, const std::string& name, lmx::elmx_error* error) { return lmx::unmarshal_attribute(k_class, this, reader, name, error); }
+lmx::elmx_error ColorSpaceCIExyYType::unmarshal_attributes_check(lmx::c_xml_reader& reader) { return lmx::check_required_attributes(k_class, this, reader); }
+bool ColorSpaceCIExyYType::unmarshal_body(lmx::c_xml_reader& reader, std::string* name, lmx::elmx_error* error) { return lmx::unmarshal_body(k_class, this, reader, name, error); }
+namespace { const char k_ColorSpaceCIExyYType_id[] = "ColorSpaceCIExyYType"; }
+const char* ColorSpaceCIExyYType::id = k_ColorSpaceCIExyYType_id;
+ColorSpaceCIExyYType* ColorSpaceCIExyYType::clone() const { return new ColorSpaceCIExyYType(*this); }
+const char* ColorSpaceCIExyYType::getid() const { return id; }
+bool ColorSpaceCIExyYType::has_id(const char* identity) const { return identity == id || ColorSpaceType::has_id(identity); }
+lmx::elmx_error ColorSpaceCIExyYType::set_Name(const std::u16string& value) { return lmx::set_item(k_class, k_items[item_Name], this, value); }
+ColorSpaceSpecificationSpectrumTristimulus& ColorSpaceCIExyYType::assign_ColorSpaceSpecificationSpectrumTristimulus(const ColorSpaceSpecificationSpectrumTristimulus& value) { return get_ColorSpaceSpecificationSpectrumTristimulus() = value; }
+lmx::elmx_error ColorSpaceCIExyYType::set_X(double value) { return lmx::set_item(k_class, k_items[item_X], this, value); }
+lmx::elmx_error ColorSpaceCIExyYType::set_Y(double value) { return lmx::set_item(k_class, k_items[item_Y], this, value); }
+lmx::elmx_error ColorSpaceCIExyYType::set_CapY(double value) { return lmx::set_item(k_class, k_items[item_CapY], this, value); }
+
+// ColorSpaceEmissiveCIEXYZType
+
+namespace {
+constexpr lmx::s_event_map k_ColorSpaceEmissiveCIEXYZType_attributes[] = {
+    lmx::attribute_event("Name", attribute_Name),
+    lmx::k_end_of_map,
+};
+constexpr lmx::s_event_map k_ColorSpaceEmissiveCIEXYZType_elements[] = {
+    lmx::element_event("ColorSpaceSpecificationEmissiveTristimulus", element_ColorSpaceSpecificationEmissiveTristimulus),
+    lmx::element_event("X", element_X),
+    lmx::element_event("Y", element_Y),
+    lmx::element_event("Z", element_Z),
+    lmx::k_end_of_map,
+};
+}  // namespace
+
+constinit const lmx::s_item ColorSpaceEmissiveCIEXYZType::k_items[] = {
+    {lmx::item_kind::attribute, lmx::value_kind::text, lmx::use_optional, lmx::ELMX_WS_PRESERVE, "Name", attribute_Name, LMX_OFFSET(ColorSpaceEmissiveCIEXYZType, m_Name, attribute, text), LMX_FLAG(ColorSpaceEmissiveCIEXYZType, m_isset_Name), 0, 0, nullptr, nullptr, {}},
+    {lmx::item_kind::child, lmx::value_kind::none, lmx::use_required, lmx::ELMX_WS_PRESERVE, "Vyr:ColorSpaceSpecificationEmissiveTristimulus", element_ColorSpaceSpecificationEmissiveTristimulus, LMX_OFFSET(ColorSpaceEmissiveCIEXYZType, m_ColorSpaceSpecificationEmissiveTristimulus, child, none), LMX_FLAG(ColorSpaceEmissiveCIEXYZType, m_isset_ColorSpaceSpecificationEmissiveTristimulus), lmx::position_of(k_ColorSpaceEmissiveCIEXYZType_elements, element_ColorSpaceSpecificationEmissiveTristimulus), lmx::position_of(k_ColorSpaceEmissiveCIEXYZType_elements, element_ColorSpaceSpecificationEmissiveTristimulus, 1), &ColorSpaceSpecificationEmissiveTristimulus::k_class, nullptr, {}},
+    {lmx::item_kind::element, lmx::value_kind::number, lmx::use_required, lmx::ELMX_WS_COLLAPSE, "Vyr:X", element_X, LMX_OFFSET(ColorSpaceEmissiveCIEXYZType, m_X, element, number), LMX_FLAG(ColorSpaceEmissiveCIEXYZType, m_isset_X), lmx::position_of(k_ColorSpaceEmissiveCIEXYZType_elements, element_X), lmx::position_of(k_ColorSpaceEmissiveCIEXYZType_elements, element_X, 1), nullptr, &facets::NonNegative, {}},
+    {lmx::item_kind::element, lmx::value_kind::number, lmx::use_required, lmx::ELMX_WS_COLLAPSE, "Vyr:Y", element_Y, LMX_OFFSET(ColorSpaceEmissiveCIEXYZType, m_Y, element, number), LMX_FLAG(ColorSpaceEmissiveCIEXYZType, m_isset_Y), lmx::position_of(k_ColorSpaceEmissiveCIEXYZType_elements, element_Y), lmx::position_of(k_ColorSpaceEmissiveCIEXYZType_elements, element_Y, 1), nullptr, &facets::NonNegative, {}},
+    {lmx::item_kind::element, lmx::value_kind::number, lmx::use_required, lmx::ELMX_WS_COLLAPSE, "Vyr:Z", element_Z, LMX_OFFSET(ColorSpaceEmissiveCIEXYZType, m_Z, element, number), LMX_FLAG(ColorSpaceEmissiveCIEXYZType, m_isset_Z), lmx::position_of(k_ColorSpaceEmissiveCIEXYZType_elements, element_Z), lmx::position_of(k_ColorSpaceEmissiveCIEXYZType_elements, element_Z, 1), nullptr, &facets::NonNegative, {}},
+};
+constinit const lmx::s_class ColorSpaceEmissiveCIEXYZType::k_class = {
+    .name = "ColorSpaceEmissiveCIEXYZType",
+    .qualified_name = "Vyr:ColorSpaceEmissiveCIEXYZType",
+    .base = &ColorSpaceType::k_class,
+    .content = lmx::content_kind::children,
+    .may_be_empty = false,
+    .ns_map = k_ns_map,
+    .nil_flag = lmx::k_no_flag,
+    .choice = lmx::k_no_flag,
+    .id = &ColorSpaceEmissiveCIEXYZType::id,
+    .xsi_type = "Vyr:ColorSpaceEmissiveCIEXYZType",
+    .attributes = std::span(k_items).first(std::size(k_ColorSpaceEmissiveCIEXYZType_attributes) - 1),
+    .elements = std::span(k_items).subspan(std::size(k_ColorSpaceEmissiveCIEXYZType_attributes) - 1),
+    .attribute_map = k_ColorSpaceEmissiveCIEXYZType_attributes,
+    .element_map = k_ColorSpaceEmissiveCIEXYZType_elements,
+    .operations = &lmx::k_operations<ColorSpaceEmissiveCIEXYZType>,
+};
+
+ColorSpaceEmissiveCIEXYZType::ColorSpaceEmissiveCIEXYZType() = default;
+ColorSpaceEmissiveCIEXYZType::ColorSpaceEmissiveCIEXYZType(const ColorSpaceEmissiveCIEXYZType& other) : ColorSpaceType() { lmx::copy(k_class, this, &other); }
+ColorSpaceEmissiveCIEXYZType::~ColorSpaceEmissiveCIEXYZType() = default;
+ColorSpaceEmissiveCIEXYZType& ColorSpaceEmissiveCIEXYZType::operator=(const ColorSpaceEmissiveCIEXYZType& other) { ColorSpaceEmissiveCIEXYZType copy(other); swap(copy); return *this; }
+void ColorSpaceEmissiveCIEXYZType::swap(ColorSpaceEmissiveCIEXYZType& other) { lmx::swap(k_class, this, &other); }
+void ColorSpaceEmissiveCIEXYZType::reset() { ColorSpaceEmissiveCIEXYZType fresh; swap(fresh); }
+bool ColorSpaceEmissiveCIEXYZType::is_occurs_ok() const { return lmx::is_occurs_ok(k_class, this); }
+lmx::elmx_error ColorSpaceEmissiveCIEXYZType::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
+lmx::elmx_error ColorSpaceEmissiveCIEXYZType::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
+void ColorSpaceEmissiveCIEXYZType::marshal_attributes(lmx::c_xml_writer& writer) const { lmx::marshal_attributes(k_class, this, writer); }
+lmx::elmx_error ColorSpaceEmissiveCIEXYZType::marshal_child_elements(lmx::c_xml_writer& writer) const { return lmx::marshal_child_elements(k_class, this, writer); }
+bool ColorSpaceEmissiveCIEXYZType::unmarshal_attributes(lmx::c_xml_reader& reader, const std::string& name, lmx::elmx_error* error) { return lmx::unmarshal_attribute(k_class, this, reader, name, error); }
+lmx::elmx_error ColorSpaceEmissiveCIEXYZType::unmarshal_attributes_check(lmx::c_xml_reader& reader) { return lmx::check_required_attributes(k_class, this, reader); }
+bool ColorSpaceEmissiveCIEXYZType::unmarshal_body(lmx::c_xml_reader& reader, std::string* name, lmx::elmx_error* error) { return lmx::unmarshal_body(k_class, this, reader, name, error); }
+namespace { const char k_ColorSpaceEmissiveCIEXYZType_id[] = "ColorSpaceEmissiveCIEXYZType"; }
+const char* ColorSpaceEmissiveCIEXYZType::id = k_ColorSpaceEmissiveCIEXYZType_id;
+ColorSpaceEmissiveCIEXYZType* ColorSpaceEmissiveCIEXYZType::clone() const { return new ColorSpaceEmissiveCIEXYZType(*this); }
+const char* ColorSpaceEmissiveCIEXYZType::getid() const { return id; }
+bool ColorSpaceEmissiveCIEXYZType::has_id(const char* identity) const { return identity == id || ColorSpaceType::has_id(identity); }
+lmx::elmx_error ColorSpaceEmissiveCIEXYZType::set_Name(const std::u16string& value) { return lmx::set_item(k_class, k_items[item_Name], this, value); }
+ColorSpaceSpecificationEmissiveTristimulus& ColorSpaceEmissiveCIEXYZType::assign_ColorSpaceSpecificationEmissiveTristimulus(const ColorSpaceSpecificationEmissiveTristimulus& value) { return get_ColorSpaceSpecificationEmissiveTristimulus() = value; }
+lmx::elmx_error ColorSpaceEmissiveCIEXYZType::set_X(double value) { return lmx::set_item(k_class, k_items[item_X], this, value); }
+lmx::elmx_error ColorSpaceEmissiveCIEXYZType::set_Y(double value) { return lmx::set_item(k_class, k_items[item_Y], this, value); }
+lmx::elmx_error ColorSpaceEmissiveCIEXYZType::set_Z(double value) { return lmx::set_item(k_class, k_items[item_Z], this, value); }
+
+// ColorSpaceEmissiveCIExyYType
+
+namespace {
+constexpr lmx::s_event_map k_ColorSpaceEmissiveCIExyYType_attributes[] = {
+    lmx::attribute_event("Name", attribute_Name),
+    lmx::k_end_of_map,
+};
+constexpr lmx::s_event_map k_ColorSpaceEmissiveCIExyYType_elements[] = {
+    lmx::element_event("ColorSpaceSpecificationEmissiveTristimulus", element_ColorSpaceSpecificationEmissiveTristimulus),
+    lmx::element_event("X", element_X),
+    lmx::element_event("Y", element_Y),
+    lmx::element_event("CapY", element_CapY),
+    lmx::k_end_of_map,
+};
+}  // namespace
+
+constinit const lmx::s_item ColorSpaceEmissiveCIExyYType::k_items[] = {
+    {lmx::item_kind::attribute, lmx::value_kind::text, lmx::use_optional, lmx::ELMX_WS_PRESERVE, "Name", attribute_Name, LMX_OFFSET(ColorSpaceEmissiveCIExyYType, m_Name, attribute, text), LMX_FLAG(ColorSpaceEmissiveCIExyYType, m_isset_Name), 0, 0, nullptr, nullptr, {}},
+    {lmx::item_kind::child, lmx::value_kind::none, lmx::use_required, lmx::ELMX_WS_PRESERVE, "Vyr:ColorSpaceSpecificationEmissiveTristimulus", element_ColorSpaceSpecificationEmissiveTristimulus, LMX_OFFSET(ColorSpaceEmissiveCIExyYType, m_ColorSpaceSpecificationEmissiveTristimulus, child, none), LMX_FLAG(ColorSpaceEmissiveCIExyYType, m_isset_ColorSpaceSpecificationEmissiveTristimulus), lmx::position_of(k_ColorSpaceEmissiveCIExyYType_elements, element_ColorSpaceSpecificationEmissiveTristimulus), lmx::position_of(k_ColorSpaceEmissiveCIExyYType_elements, element_ColorSpaceSpecificationEmissiveTristimulus, 1), &ColorSpaceSpecificationEmissiveTristimulus::k_class, nullptr, {}},
+    {lmx::item_kind::element, lmx::value_kind::number, lmx::use_required, lmx::ELMX_WS_COLLAPSE, "Vyr:X", element_X, LMX_OFFSET(ColorSpaceEmissiveCIExyYType, m_X, element, number), LMX_FLAG(ColorSpaceEmissiveCIExyYType, m_isset_X), lmx::position_of(k_ColorSpaceEmissiveCIExyYType_elements, element_X), lmx::position_of(k_ColorSpaceEmissiveCIExyYType_elements, element_X, 1), nullptr, &facets::Fraction, {}},
+    {lmx::item_kind::element, lmx::value_kind::number, lmx::use_required, lmx::ELMX_WS_COLLAPSE, "Vyr:Y", element_Y, LMX_OFFSET(ColorSpaceEmissiveCIExyYType, m_Y, element, number), LMX_FLAG(ColorSpaceEmissiveCIExyYType, m_isset_Y), lmx::position_of(k_ColorSpaceEmissiveCIExyYType_elements, element_Y), lmx::position_of(k_ColorSpaceEmissiveCIExyYType_elements, element_Y, 1), nullptr, &facets::Fraction, {}},
+    {lmx::item_kind::element, lmx::value_kind::number, lmx::use_required, lmx::ELMX_WS_COLLAPSE, "Vyr:CapY", element_CapY, LMX_OFFSET(ColorSpaceEmissiveCIExyYType, m_CapY, element, number), LMX_FLAG(ColorSpaceEmissiveCIExyYType, m_isset_CapY), lmx::position_of(k_ColorSpaceEmissiveCIExyYType_elements, element_CapY), lmx::position_of(k_ColorSpaceEmissiveCIExyYType_elements, element_CapY, 1), nullptr, &facets::NonNegative, {}},
+};
+constinit const lmx::s_class ColorSpaceEmissiveCIExyYType::k_class = {
+    .name = "ColorSpaceEmissiveCIExyYType",
+    .qualified_name = "Vyr:ColorSpaceEmissiveCIExyYType",
+    .base = &ColorSpaceType::k_class,
+    .content = lmx::content_kind::children,
+    .may_be_empty = false,
+    .ns_map = k_ns_map,
+    .nil_flag = lmx::k_no_flag,
+    .choice = lmx::k_no_flag,
+    .id = &ColorSpaceEmissiveCIExyYType::id,
+    .xsi_type = "Vyr:ColorSpaceEmissiveCIExyYType",
+    .attributes = std::span(k_items).first(std::size(k_ColorSpaceEmissiveCIExyYType_attributes) - 1),
+    .elements = std::span(k_items).subspan(std::size(k_ColorSpaceEmissiveCIExyYType_attributes) - 1),
+    .attribute_map = k_ColorSpaceEmissiveCIExyYType_attributes,
+    .element_map = k_ColorSpaceEmissiveCIExyYType_elements,
+    .operations = &lmx::k_operations<ColorSpaceEmissiveCIExyYType>,
+};
+
+ColorSpaceEmissiveCIExyYType::ColorSpaceEmissiveCIExyYType() = default;
+ColorSpaceEmissiveCIExyYType::ColorSpaceEmissiveCIExyYType(const ColorSpaceEmissiveCIExyYType& other) : ColorSpaceType() { lmx::copy(k_class, this, &other); }
+ColorSpaceEmissiveCIExyYType::~ColorSpaceEmissiveCIExyYType() = default;
+ColorSpaceEmissiveCIExyYType& ColorSpaceEmissiveCIExyYType::operator=(const ColorSpaceEmissiveCIExyYType& other) { ColorSpaceEmissiveCIExyYType copy(other); swap(copy); return *this; }
+void ColorSpaceEmissiveCIExyYType::swap(ColorSpaceEmissiveCIExyYType& other) { lmx::swap(k_class, this, &other); }
+void ColorSpaceEmissiveCIExyYType::reset() { ColorSpaceEmissiveCIExyYType fresh; swap(fresh); }
+bool ColorSpaceEmissiveCIExyYType::is_occurs_ok() const { return lmx::is_occurs_ok(k_class, this); }
+lmx::elmx_error ColorSpaceEmissiveCIExyYType::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
+lmx::elmx_error ColorSpaceEmissiveCIExyYType::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
+void ColorSpaceEmissiveCIExyYType::marshal_attributes(lmx::c_xml_writer& writer) const { lmx::marshal_attributes(k_class, this, writer); }
+lmx::elmx_error ColorSpaceEmissiveCIExyYType::marshal_child_elements(lmx::c_xml_writer& writer) const { return lmx::marshal_child_elements(k_class, this, writer); }
+bool ColorSpaceEmissiveCIExyYType::unmarshal_attributes(lmx::c_xml_reader& reader, const std::string& name, lmx::elmx_error* error) { return lmx::unmarshal_attribute(k_class, this, reader, name, error); }
+lmx::elmx_error ColorSpaceEmissiveCIExyYType::unmarshal_attributes_check(lmx::c_xml_reader& reader) { return lmx::check_required_attributes(k_class, this, reader); }
+bool ColorSpaceEmissiveCIExyYType::unmarshal_body(lmx::c_xml_reader& reader, std::string* name, lmx::elmx_error* error) { return lmx::unmarshal_body(k_class, this, reader, name, error); }
+namespace { const char k_ColorSpaceEmissiveCIExyYType_id[] = "ColorSpaceEmissiveCIExyYType"; }
+const char* ColorSpaceEmissiveCIExyYType::id = k_ColorSpaceEmissiveCIExyYType_id;
+ColorSpaceEmissiveCIExyYType* ColorSpaceEmissiveCIExyYType::clone() const { return new ColorSpaceEmissiveCIExyYType(*this); }
+const char* ColorSpaceEmissiveCIExyYType::getid() const { return id; }
+bool ColorSpaceEmissiveCIExyYType::has_id(const char* identity) const { return identity == id || ColorSpaceType::has_id(identity); }
+lmx::elmx_error ColorSpaceEmissiveCIExyYType::set_Name(const std::u16string& value) { return lmx::set_item(k_class, k_items[item_Name], this, value); }
+ColorSpaceSpecificationEmissiveTristimulus& ColorSpaceEmissiveCIExyYType::assign_ColorSpaceSpecificationEmissiveTristimulus(const ColorSpaceSpecificationEmissiveTristimulus& value) { return get_ColorSpaceSpecificationEmissiveTristimulus() = value; }
+lmx::elmx_error ColorSpaceEmissiveCIExyYType::set_X(double value) { return lmx::set_item(k_class, k_items[item_X], this, value); }
+lmx::elmx_error ColorSpaceEmissiveCIExyYType::set_Y(double value) { return lmx::set_item(k_class, k_items[item_Y], this, value); }
+lmx::elmx_error ColorSpaceEmissiveCIExyYType::set_CapY(double value) { return lmx::set_item(k_class, k_items[item_CapY], this, value); }
+
+// ColorSpaceCIELab
+
+lmx::elmx_error ColorSpaceCIELab::marshal(lmx::c_xml_writer& writer, const char* name) const {
+    writer.conditionally_select_ns_map(k_ns_map);
+    return ColorSpaceCIELabType::marshal(writer, name);
+}
+lmx::elmx_error ColorSpaceCIELab::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return ColorSpaceCIELabType::unmarshal(reader, name); }
+const lmx::s_document ColorSpaceCIELab::k_document = {"Vyr:ColorSpaceCIELab", "ColorSpaceCIELab", k_ns_map, &lmx::k_operations<ColorSpaceCIELab>};
+const lmx::s_ns_map* ColorSpaceCIELab::ns_map() { return k_ns_map; }
+lmx::elmx_error ColorSpaceCIELab::unmarshal(lmx::c_xml_reader& reader) { return lmx::unmarshal_document(k_document, this, reader); }
+ColorSpaceCIELab::ColorSpaceCIELab(const char* file_name, lmx::elmx_error* error) : ColorSpaceCIELab() { *error = unmarshal(file_name); }
+lmx::elmx_error ColorSpaceCIELab::unmarshal(const char* file_name) { return lmx::unmarshal_document(k_document, this, file_name); }
+ColorSpaceCIELab::ColorSpaceCIELab(const char* data, std::size_t size, lmx::elmx_error* error) : ColorSpaceCIELab() { *error = unmarshal(data, size); }
+lmx::elmx_error ColorSpaceCIELab::unmarshal(const char* data, std::size_t size) { return lmx::unmarshal_document(k_document, this, data, size); }
+ColorSpaceCIELab::ColorSpaceCIELab(const std::string& text, lmx::elmx_error* error) : ColorSpaceCIELab() { *error = unmarshal(text.data(), text.size()); }
+lmx::elmx_error ColorSpaceCIELab::unmarshal(const std::string& text) { return lmx::unmarshal_document(k_document, this, text.data(), text.size()); }
+lmx::elmx_error ColorSpaceCIELab::marshal(const char* file_name) const { return lmx::marshal_document(k_document, this, file_name); }
+lmx::elmx_error ColorSpaceCIELab::marshal(std::string* text) const { return lmx::marshal_document(k_document, this, text); }
+lmx::elmx_error ColorSpaceCIELab::marshal(std::ostream& stream) const { return lmx::marshal_document(k_document, this, stream); }
+
+// ColorSpaceCIELCh
+
+lmx::elmx_error ColorSpaceCIELCh::marshal(lmx::c_xml_writer& writer, const char* name) const {
+    writer.conditionally_select_ns_map(k_ns_map);
+    return ColorSpaceCIELChType::marshal(writer, name);
+}
+lmx::elmx_error ColorSpaceCIELCh::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return ColorSpaceCIELChType::unmarshal(reader, name); }
+const lmx::s_document ColorSpaceCIELCh::k_document = {"Vyr:ColorSpaceCIELCh", "ColorSpaceCIELCh", k_ns_map, &lmx::k_operations<ColorSpaceCIELCh>};
+const lmx::s_ns_map* ColorSpaceCIELCh::ns_map() { return k_ns_map; }
+lmx::elmx_error ColorSpaceCIELCh::unmarshal(lmx::c_xml_reader& reader) { return lmx::unmarshal_document(k_document, this, reader); }
+ColorSpaceCIELCh::ColorSpaceCIELCh(const char* file_name, lmx::elmx_error* error) : ColorSpaceCIELCh() { *error = unmarshal(file_name); }
+lmx::elmx_error ColorSpaceCIELCh::unmarshal(const char* file_name) { return lmx::unmarshal_document(k_document, this, file_name); }
+ColorSpaceCIELCh::ColorSpaceCIELCh(const char* data, std::size_t size, lmx::elmx_error* error) : ColorSpaceCIELCh() { *error = unmarshal(data, size); }
+lmx::elmx_error ColorSpaceCIELCh::unmarshal(const char* data, std::size_t size) { return lmx::unmarshal_document(k_document, this, data, size); }
+ColorSpaceCIELCh::ColorSpaceCIELCh(const std::string& text, lmx::elmx_error* error) : ColorSpaceCIELCh() { *error = unmarshal(text.data(), text.size()); }
+lmx::elmx_error ColorSpaceCIELCh::unmarshal(const std::string& text) { return lmx::unmarshal_document(k_document, this, text.data(), text.size()); }
+lmx::elmx_error ColorSpaceCIELCh::marshal(const char* file_name) const { return lmx::marshal_document(k_document, this, file_name); }
+lmx::elmx_error ColorSpaceCIELCh::marshal(std::string* text) const { return lmx::marshal_document(k_document, this, text); }
+lmx::elmx_error ColorSpaceCIELCh::marshal(std::ostream& stream) const { return lmx::marshal_document(k_document, this, stream); }
+
+// ColorSpaceCIEXYZ
+
+lmx::elmx_error ColorSpaceCIEXYZ::marshal(lmx::c_xml_writer& writer, const char* name) const {
+    writer.conditionally_select_ns_map(k_ns_map);
+    return ColorSpaceCIEXYZType::marshal(writer, name);
+}
+lmx::elmx_error ColorSpaceCIEXYZ::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return ColorSpaceCIEXYZType::unmarshal(reader, name); }
+const lmx::s_document ColorSpaceCIEXYZ::k_document = {"Vyr:ColorSpaceCIEXYZ", "ColorSpaceCIEXYZ", k_ns_map, &lmx::k_operations<ColorSpaceCIEXYZ>};
+const lmx::s_ns_map* ColorSpaceCIEXYZ::ns_map() { return k_ns_map; }
+lmx::elmx_error ColorSpaceCIEXYZ::unmarshal(lmx::c_xml_reader& reader) { return lmx::unmarshal_document(k_document, this, reader); }
+ColorSpaceCIEXYZ::ColorSpaceCIEXYZ(const char* file_name, lmx::elmx_error* error) : ColorSpaceCIEXYZ() { *error = unmarshal(file_name); }
+lmx::elmx_error ColorSpaceCIEXYZ::unmarshal(const char* file_name) { return lmx::unmarshal_document(k_document, this, file_name); }
+ColorSpaceCIEXYZ::ColorSpaceCIEXYZ(const char* data, std::size_t size, lmx::elmx_error* error) : ColorSpaceCIEXYZ() { *error = unmarshal(data, size); }
+lmx::elmx_error ColorSpaceCIEXYZ::unmarshal(const char* data, std::size_t size) { return lmx::unmarshal_document(k_document, this, data, size); }
+ColorSpaceCIEXYZ::ColorSpaceCIEXYZ(const std::string& text, lmx::elmx_error* error) : ColorSpaceCIEXYZ() { *error = unmarshal(text.data(), text.size()); }
+lmx::elmx_error ColorSpaceCIEXYZ::unmarshal(const std::string& text) { return lmx::unmarshal_document(k_document, this, text.data(), text.size()); }
+lmx::elmx_error ColorSpaceCIEXYZ::marshal(const char* file_name) const { return lmx::marshal_document(k_document, this, file_name); }
+lmx::elmx_error ColorSpaceCIEXYZ::marshal(std::string* text) const { return lmx::marshal_document(k_document, this, text); }
+lmx::elmx_error ColorSpaceCIEXYZ::marshal(std::ostream& stream) const { return lmx::marshal_document(k_document, this, stream); }
+
+// ColorSpaceEmissiveCIEXYZ
+
+lmx::elmx_error ColorSpaceEmissiveCIEXYZ::marshal(lmx::c_xml_writer& writer, const char* name) const {
+    writer.conditionally_select_ns_map(k_ns_map);
+    return ColorSpaceEmissiveCIEXYZType::marshal(writer, name);
+}
+lmx::elmx_error ColorSpaceEmissiveCIEXYZ::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return ColorSpaceEmissiveCIEXYZType::unmarshal(reader, name); }
+const lmx::s_document ColorSpaceEmissiveCIEXYZ::k_document = {"Vyr:ColorSpaceEmissiveCIEXYZ", "ColorSpaceEmissiveCIEXYZ", k_ns_map, &lmx::k_operations<ColorSpaceEmissiveCIEXYZ>};
+const lmx::s_ns_map* ColorSpaceEmissiveCIEXYZ::ns_map() { return k_ns_map; }
+lmx::elmx_error ColorSpaceEmissiveCIEXYZ::unmarshal(lmx::c_xml_reader& reader) { return lmx::unmarshal_document(k_document, this, reader); }
+ColorSpaceEmissiveCIEXYZ::ColorSpaceEmissiveCIEXYZ(const char* file_name, lmx::elmx_error* error) : ColorSpaceEmissiveCIEXYZ() { *error = unmarshal(file_name); }
+lmx::elmx_error ColorSpaceEmissiveCIEXYZ::unmarshal(const char* file_name) { return lmx::unmarshal_document(k_document, this, file_name); }
+ColorSpaceEmissiveCIEXYZ::ColorSpaceEmissiveCIEXYZ(const char* data, std::size_t size, lmx::elmx_error* error) : ColorSpaceEmissiveCIEXYZ() { *error = unmarshal(data, size); }
+lmx::elmx_error ColorSpaceEmissiveCIEXYZ::unmarshal(const char* data, std::size_t size) { return lmx::unmarshal_document(k_document, this, data, size); }
+ColorSpaceEmissiveCIEXYZ::ColorSpaceEmissiveCIEXYZ(const std::string& text, lmx::elmx_error* error) : ColorSpaceEmissiveCIEXYZ() { *error = unmarshal(text.data(), text.size()); }
+lmx::elmx_error ColorSpaceEmissiveCIEXYZ::unmarshal(const std::string& text) { return lmx::unmarshal_document(k_document, this, text.data(), text.size()); }
+lmx::elmx_error ColorSpaceEmissiveCIEXYZ::marshal(const char* file_name) const { return lmx::marshal_document(k_document, this, file_name); }
+lmx::elmx_error ColorSpaceEmissiveCIEXYZ::marshal(std::string* text) const { return lmx::marshal_document(k_document, this, text); }
+lmx::elmx_error ColorSpaceEmissiveCIEXYZ::marshal(std::ostream& stream) const { return lmx::marshal_document(k_document, this, stream); }
+
+// ColorSpaceCIExyY
+
+lmx::elmx_error ColorSpaceCIExyY::marshal(lmx::c_xml_writer& writer, const char* name) const {
+    writer.conditionally_select_ns_map(k_ns_map);
+    return ColorSpaceCIExyYType::marshal(writer, name);
+}
+lmx::elmx_error ColorSpaceCIExyY::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return ColorSpaceCIExyYType::unmarshal(reader, name); }
+const lmx::s_document ColorSpaceCIExyY::k_document = {"Vyr:ColorSpaceCIExyY", "ColorSpaceCIExyY", k_ns_map, &lmx::k_operations<ColorSpaceCIExyY>};
+const lmx::s_ns_map* ColorSpaceCIExyY::ns_map() { return k_ns_map; }
+lmx::elmx_error ColorSpaceCIExyY::unmarshal(lmx::c_xml_reader& reader) { return lmx::unmarshal_document(k_document, this, reader); }
+ColorSpaceCIExyY::ColorSpaceCIExyY(const char* file_name, lmx::elmx_error* error) : ColorSpaceCIExyY() { *error = unmarshal(file_name); }
+lmx::elmx_error ColorSpaceCIExyY::unmarshal(const char* file_name) { return lmx::unmarshal_document(k_document, this, file_name); }
+ColorSpaceCIExyY::ColorSpaceCIExyY(const char* data, std::size_t size, lmx::elmx_error* error) : ColorSpaceCIExyY() { *error = unmarshal(data, size); }
+lmx::elmx_error ColorSpaceCIExyY::unmarshal(const char* data, std::size_t size) { return lmx::unmarshal_document(k_document, this, data, size); }
+ColorSpaceCIExyY::ColorSpaceCIExyY(const std::string& text, lmx::elmx_error* error) : ColorSpaceCIExyY() { *error = unmarshal(text.data(), text.size()); }
+lmx::elmx_error ColorSpaceCIExyY::unmarshal(const std::string& text) { return lmx::unmarshal_document(k_document, this, text.data(), text.size()); }
+lmx::elmx_error ColorSpaceCIExyY::marshal(const char* file_name) const { return lmx::marshal_document(k_document, this, file_name); }
+lmx::elmx_error ColorSpaceCIExyY::marshal(std::string* text) const { return lmx::marshal_document(k_document, this, text); }
+lmx::elmx_error ColorSpaceCIExyY::marshal(std::ostream& stream) const { return lmx::marshal_document(k_document, this, stream); }
+
+// ColorSpaceEmissiveCIExyY
+
+lmx::elmx_error ColorSpaceEmissiveCIExyY::marshal(lmx::c_xml_writer& writer, const char* name) const {
+    writer.conditionally_select_ns_map(k_ns_map);
+    return ColorSpaceEmissiveCIExyYType::marshal(writer, name);
+}
+lmx::elmx_error ColorSpaceEmissiveCIExyY::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return ColorSpaceEmissiveCIExyYType::unmarshal(reader, name); }
+const lmx::s_document ColorSpaceEmissiveCIExyY::k_document = {"Vyr:ColorSpaceEmissiveCIExyY", "ColorSpaceEmissiveCIExyY", k_ns_map, &lmx::k_operations<ColorSpaceEmissiveCIExyY>};
+const lmx::s_ns_map* ColorSpaceEmissiveCIExyY::ns_map() { return k_ns_map; }
+lmx::elmx_error ColorSpaceEmissiveCIExyY::unmarshal(lmx::c_xml_reader& reader) { return lmx::unmarshal_document(k_document, this, reader); }
+ColorSpaceEmissiveCIExyY::ColorSpaceEmissiveCIExyY(const char* file_name, lmx::elmx_error* error) : ColorSpaceEmissiveCIExyY() { *error = unmarshal(file_name); }
+lmx::elmx_error ColorSpaceEmissiveCIExyY::unmarshal(const char* file_name) { return lmx::unmarshal_document(k_document, this, file_name); }
+ColorSpaceEmissiveCIExyY::ColorSpaceEmissiveCIExyY(const char* data, std::size_t size, lmx::elmx_error* error) : ColorSpaceEmissiveCIExyY() { *error = unmarshal(data, size); }
+lmx::elmx_error ColorSpaceEmissiveCIExyY::unmarshal(const char* data, std::size_t size) { return lmx::unmarshal_document(k_document, this, data, size); }
+ColorSpaceEmissiveCIExyY::ColorSpaceEmissiveCIExyY(const std::string& text, lmx::elmx_error* error) : ColorSpaceEmissiveCIExyY() { *error = unmarshal(text.data(), text.size()); }
+lmx::elmx_error ColorSpaceEmissiveCIExyY::unmarshal(const std::string& text) { return lmx::unmarshal_document(k_document, this, text.data(), text.size()); }
+lmx::elmx_error ColorSpaceEmissiveCIExyY::marshal(const char* file_name) const { return lmx::marshal_document(k_document, this, file_name); }
+lmx::elmx_error ColorSpaceEmissiveCIExyY::marshal(std::string* text) const { return lmx::marshal_document(k_document, this, text); }
+lmx::elmx_error ColorSpaceEmissiveCIExyY::marshal(std::ostream& stream) const { return lmx::marshal_document(k_document, this, stream); }
+
+// ColorSpaceCIELuv
+
+lmx::elmx_error ColorSpaceCIELuv::marshal(lmx::c_xml_writer& writer, const char* name) const {
+    writer.conditionally_select_ns_map(k_ns_map);
+    return ColorSpaceCIELuvType::marshal(writer, name);
+}
+lmx::elmx_error ColorSpaceCIELuv::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return ColorSpaceCIELuvType::unmarshal(reader, name); }
+const lmx::s_document ColorSpaceCIELuv::k_document = {"Vyr:ColorSpaceCIELuv", "ColorSpaceCIELuv", k_ns_map, &lmx::k_operations<ColorSpaceCIELuv>};
+const lmx::s_ns_map* ColorSpaceCIELuv::ns_map() { return k_ns_map; }
+lmx::elmx_error ColorSpaceCIELuv::unmarshal(lmx::c_xml_reader& reader) { return lmx::unmarshal_document(k_document, this, reader); }
+ColorSpaceCIELuv::ColorSpaceCIELuv(const char* file_name, lmx::elmx_error* error) : ColorSpaceCIELuv() { *error = unmarshal(file_name); }
+lmx::elmx_error ColorSpaceCIELuv::unmarshal(const char* file_name) { return lmx::unmarshal_document(k_document, this, file_name); }
+ColorSpaceCIELuv::ColorSpaceCIELuv(const char* data, std::size_t size, lmx::elmx_error* error) : ColorSpaceCIELuv() { *error = unmarshal(data, size); }
+lmx::elmx_error ColorSpaceCIELuv::unmarshal(const char* data, std::size_t size) { return lmx::unmarshal_document(k_document, this, data, size); }
+ColorSpaceCIELuv::ColorSpaceCIELuv(const std::string& text, lmx::elmx_error* error) : ColorSpaceCIELuv() { *error = unmarshal(text.data(), text.size()); }
+lmx::elmx_error ColorSpaceCIELuv::unmarshal(const std::string& text) { return lmx::unmarshal_document(k_document, this, text.data(), text.size()); }
+lmx::elmx_error ColorSpaceCIELuv::marshal(const char* file_name) const { return lmx::marshal_document(k_document, this, file_name); }
+lmx::elmx_error ColorSpaceCIELuv::marshal(std::string* text) const { return lmx::marshal_document(k_document, this, text); }
+lmx::elmx_error ColorSpaceCIELuv::marshal(std::ostream& stream) const { return lmx::marshal_document(k_document, this, stream); }
+
+}  // namespace com_vyrgraph_v2

@@ -1,0 +1,580 @@
+// Copyright 2026 The Vyr Authors
+// SPDX-License-Identifier: Apache-2.0
+//
+// Made by schema/generator/generate.py from schema/vyr.xsd and schema/binding.toml. Change those instead.
+// clang-format off
+
+/// Tables and members of the classes in devices.h.
+
+#include "schema/generated/devices.h"
+#include "lmx/binding/binding.h"
+#include "lmx/binding/rows.h"
+#include "schema/generated/header.h"
+#include "schema/generated/tables.h"
+
+// Offsets of members of classes with virtual functions: both compilers define them, and the macros check them.
+#pragma GCC diagnostic ignored "-Winvalid-offsetof"
+
+namespace com_vyrgraph_v2 {
+
+static_assert(lmx::k_binding_version == 1, "run schema/generator/generate.py");
+
+// CalibrationStateType
+
+namespace {
+constexpr lmx::s_event_map k_CalibrationStateType_attributes[] = {
+    lmx::attribute_event("CalibrationDateTime", attribute_CalibrationDateTime),
+    lmx::k_end_of_map,
+};
+}  // namespace
+
+constinit const lmx::s_item CalibrationStateType::k_items[] = {
+    {lmx::item_kind::attribute, lmx::value_kind::datetime, lmx::use_optional, lmx::ELMX_WS_COLLAPSE, "CalibrationDateTime", attribute_CalibrationDateTime, LMX_OFFSET(CalibrationStateType, m_CalibrationDateTime, attribute, datetime), LMX_FLAG(CalibrationStateType, m_isset_CalibrationDateTime), 0, 0, nullptr, &facets::DateTimeZone, {}},
+    {lmx::item_kind::content, lmx::value_kind::text, lmx::use_required, lmx::ELMX_WS_PRESERVE, "", 0, LMX_OFFSET(CalibrationStateType, m_CalibrationStateType, content, text), LMX_FLAG(CalibrationStateType, m_isset_CalibrationStateType), 0, 0, nullptr, &facets::CalibrationKind, {}},
+};
+constinit const lmx::s_class CalibrationStateType::k_class = {
+    .name = "CalibrationStateType",
+    .qualified_name = "Vyr:CalibrationStateType",
+    .base = nullptr,
+    .content = lmx::content_kind::simple,
+    .may_be_empty = false,
+    .ns_map = k_ns_map,
+    .nil_flag = lmx::k_no_flag,
+    .choice = lmx::k_no_flag,
+    .id = nullptr,
+    .xsi_type = nullptr,
+    .attributes = std::span(k_items).first(std::size(k_CalibrationStateType_attributes) - 1),
+    .elements = std::span(k_items).subspan(std::size(k_CalibrationStateType_attributes) - 1),
+    .attribute_map = k_CalibrationStateType_attributes,
+    .element_map = lmx::k_no_events,
+    .operations = &lmx::k_operations<CalibrationStateType>,
+};
+
+CalibrationStateType::CalibrationStateType() = default;
+CalibrationStateType::CalibrationStateType(const CalibrationStateType& other) { lmx::copy(k_class, this, &other); }
+CalibrationStateType::~CalibrationStateType() = default;
+CalibrationStateType& CalibrationStateType::operator=(const CalibrationStateType& other) { CalibrationStateType copy(other); swap(copy); return *this; }
+void CalibrationStateType::swap(CalibrationStateType& other) { lmx::swap(k_class, this, &other); }
+void CalibrationStateType::reset() { CalibrationStateType fresh; swap(fresh); }
+bool CalibrationStateType::is_occurs_ok() const { return lmx::is_occurs_ok(k_class, this); }
+lmx::elmx_error CalibrationStateType::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
+lmx::elmx_error CalibrationStateType::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
+void CalibrationStateType::marshal_attributes(lmx::c_xml_writer& writer) const { lmx::marshal_attributes(k_class, this, writer); }
+lmx::elmx_error CalibrationStateType::marshal_child_elements(lmx::c_xml_writer& writer) const { return lmx::marshal_child_elements(k_class, this, writer); }
+bool CalibrationStateType::unmarshal_attributes(lmx::c_xml_reader& reader, const std::string& name, lmx::elmx_error* error) { return lmx::unmarshal_attribute(k_class, this, reader, name, error); }
+lmx::elmx_error CalibrationStateType::unmarshal_attributes_check(lmx::c_xml_reader& reader) { return lmx::check_required_attributes(k_class, this, reader); }
+bool CalibrationStateType::unmarshal_body(lmx::c_xml_reader& reader, std::string* name, lmx::elmx_error* error, bool has_body) { return lmx::unmarshal_content(k_class, this, reader, name, error, has_body); }
+lmx::elmx_error CalibrationStateType::set_CalibrationDateTime(const lmx::c_datetime& value) { return lmx::set_item(k_class, k_items[item_CalibrationDateTime], this, value); }
+lmx::elmx_error CalibrationStateType::set_CalibrationStateType(const std::u16string& value) { return lmx::set_item(k_class, k_items[item_CalibrationStateType], this, value); }
+Eenum_CalibrationStateType CalibrationStateType::getenum_CalibrationStateType() const { return static_cast<Eenum_CalibrationStateType>(lmx::enumerated_number(k_items[item_CalibrationStateType], get_CalibrationStateType())); }
+bool CalibrationStateType::setenum_CalibrationStateType(std::int32_t number) { return lmx::set_enumerated(k_class, k_items[item_CalibrationStateType], this, number); }
+
+// GlossCompensation
+
+namespace {
+constexpr lmx::s_event_map k_GlossCompensation_attributes[] = {
+    lmx::attribute_event("CompensationValue", attribute_CompensationValue),
+    lmx::k_end_of_map,
+};
+}  // namespace
+
+constinit const lmx::s_item GlossCompensation::k_items[] = {
+    {lmx::item_kind::attribute, lmx::value_kind::number, lmx::use_required, lmx::ELMX_WS_COLLAPSE, "CompensationValue", attribute_CompensationValue, LMX_OFFSET(GlossCompensation, m_CompensationValue, attribute, number), LMX_FLAG(GlossCompensation, m_isset_CompensationValue), 0, 0, nullptr, nullptr, {}},
+    {lmx::item_kind::content, lmx::value_kind::boolean, lmx::use_optional, lmx::ELMX_WS_COLLAPSE, "", 0, LMX_OFFSET(GlossCompensation, m_GlossCompensation, content, boolean), LMX_FLAG(GlossCompensation, m_isset_GlossCompensation), 0, 0, nullptr, nullptr, {}},
+};
+constinit const lmx::s_class GlossCompensation::k_class = {
+    .name = "GlossCompensation",
+    .qualified_name = "Vyr:GlossCompensation",
+    .base = nullptr,
+    .content = lmx::content_kind::simple,
+    .may_be_empty = false,
+    .ns_map = nullptr,
+    .nil_flag = lmx::k_no_flag,
+    .choice = lmx::k_no_flag,
+    .id = nullptr,
+    .xsi_type = nullptr,
+    .attributes = std::span(k_items).first(std::size(k_GlossCompensation_attributes) - 1),
+    .elements = std::span(k_items).subspan(std::size(k_GlossCompensation_attributes) - 1),
+    .attribute_map = k_GlossCompensation_attributes,
+    .element_map = lmx::k_no_events,
+    .operations = &lmx::k_operations<GlossCompensation>,
+};
+
+GlossCompensation::GlossCompensation() = default;
+GlossCompensation::GlossCompensation(const GlossCompensation& other) { lmx::copy(k_class, this, &other); }
+GlossCompensation::~GlossCompensation() = default;
+GlossCompensation& GlossCompensation::operator=(const GlossCompensation& other) { GlossCompensation copy(other); swap(copy); return *this; }
+void GlossCompensation::swap(GlossCompensation& other) { lmx::swap(k_class, this, &other); }
+void GlossCompensation::reset() { GlossCompensation fresh; swap(fresh); }
+bool GlossCompensation::is_occurs_ok() const { return lmx::is_occurs_ok(k_class, this); }
+lmx::elmx_error GlossCompensation::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
+lmx::elmx_error GlossCompensation::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
+void GlossCompensation::marshal_attributes(lmx::c_xml_writer& writer) const { lmx::marshal_attributes(k_class, this, writer); }
+lmx::elmx_error GlossCompensation::marshal_child_elements(lmx::c_xml_writer& writer) const { return lmx::marshal_child_elements(k_class, this, writer); }
+bool GlossCompensation::unmarshal_attributes(lmx::c_xml_reader& reader, const std::string& name, lmx::elmx_error* error) { return lmx::unmarshal_attribute(k_class, this, reader, name, error); }
+lmx::elmx_error GlossCompensation::unmarshal_attributes_check(lmx::c_xml_reader& reader) { return lmx::check_required_attributes(k_class, this, reader); }
+bool GlossCompensation::unmarshal_body(lmx::c_xml_reader& reader, std::string* name, lmx::elmx_error* error, bool has_body) { return lmx::unmarshal_content(k_class, this, reader, name, error, has_body); }
+lmx::elmx_error GlossCompensation::set_CompensationValue(double value) { return lmx::set_item(k_class, k_items[item_CompensationValue], this, value); }
+lmx::elmx_error GlossCompensation::set_GlossCompensation(bool value) { return lmx::set_item(k_class, k_items[item_GlossCompensation], this, value); }
+
+// Averaging
+
+namespace {
+constexpr lmx::s_event_map k_Averaging_attributes[] = {
+    lmx::attribute_event("AveragingValue", attribute_AveragingValue),
+    lmx::k_end_of_map,
+};
+}  // namespace
+
+constinit const lmx::s_item Averaging::k_items[] = {
+    {lmx::item_kind::attribute, lmx::value_kind::uint8, lmx::use_required, lmx::ELMX_WS_COLLAPSE, "AveragingValue", attribute_AveragingValue, LMX_OFFSET(Averaging, m_AveragingValue, attribute, uint8), LMX_FLAG(Averaging, m_isset_AveragingValue), 0, 0, nullptr, &facets::AveragingCount, {}},
+    {lmx::item_kind::content, lmx::value_kind::boolean, lmx::use_optional, lmx::ELMX_WS_COLLAPSE, "", 0, LMX_OFFSET(Averaging, m_Averaging, content, boolean), LMX_FLAG(Averaging, m_isset_Averaging), 0, 0, nullptr, nullptr, {}},
+};
+constinit const lmx::s_class Averaging::k_class = {
+    .name = "Averaging",
+    .qualified_name = "Vyr:Averaging",
+    .base = nullptr,
+    .content = lmx::content_kind::simple,
+    .may_be_empty = false,
+    .ns_map = nullptr,
+    .nil_flag = lmx::k_no_flag,
+    .choice = lmx::k_no_flag,
+    .id = nullptr,
+    .xsi_type = nullptr,
+    .attributes = std::span(k_items).first(std::size(k_Averaging_attributes) - 1),
+    .elements = std::span(k_items).subspan(std::size(k_Averaging_attributes) - 1),
+    .attribute_map = k_Averaging_attributes,
+    .element_map = lmx::k_no_events,
+    .operations = &lmx::k_operations<Averaging>,
+};
+
+Averaging::Averaging() = default;
+Averaging::Averaging(const Averaging& other) { lmx::copy(k_class, this, &other); }
+Averaging::~Averaging() = default;
+Averaging& Averaging::operator=(const Averaging& other) { Averaging copy(other); swap(copy); return *this; }
+void Averaging::swap(Averaging& other) { lmx::swap(k_class, this, &other); }
+void Averaging::reset() { Averaging fresh; swap(fresh); }
+bool Averaging::is_occurs_ok() const { return lmx::is_occurs_ok(k_class, this); }
+lmx::elmx_error Averaging::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
+lmx::elmx_error Averaging::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
+void Averaging::marshal_attributes(lmx::c_xml_writer& writer) const { lmx::marshal_attributes(k_class, this, writer); }
+lmx::elmx_error Averaging::marshal_child_elements(lmx::c_xml_writer& writer) const { return lmx::marshal_child_elements(k_class, this, writer); }
+bool Averaging::unmarshal_attributes(lmx::c_xml_reader& reader, const std::string& name, lmx::elmx_error* error) { return lmx::unmarshal_attribute(k_class, this, reader, name, error); }
+lmx::elmx_error Averaging::unmarshal_attributes_check(lmx::c_xml_reader& reader) { return lmx::check_required_attributes(k_class, this, reader); }
+bool Averaging::unmarshal_body(lmx::c_xml_reader& reader, std::string* name, lmx::elmx_error* error, bool has_body) { return lmx::unmarshal_content(k_class, this, reader, name, error, has_body); }
+lmx::elmx_error Averaging::set_AveragingValue(std::uint8_t value) { return lmx::set_item(k_class, k_items[item_AveragingValue], this, value); }
+lmx::elmx_error Averaging::set_Averaging(bool value) { return lmx::set_item(k_class, k_items[item_Averaging], this, value); }
+
+// DeviceSettings
+
+namespace {
+constexpr lmx::s_event_map k_DeviceSettings_elements[] = {
+    lmx::element_event("CustomAttribute", element_CustomAttribute),
+    lmx::element_event("Aperture", element_Aperture),
+    lmx::element_event("LensPosition", element_LensPosition),
+    lmx::element_event("GlassCompensation", element_GlassCompensation),
+    lmx::element_event("GlossCompensation", element_GlossCompensation),
+    lmx::element_event("Averaging", element_Averaging),
+    lmx::element_event("LinkTrimmer", element_LinkTrimmer),
+    lmx::k_end_of_map,
+};
+}  // namespace
+
+constinit const lmx::s_item DeviceSettings::k_items[] = {
+    {lmx::item_kind::child_list, lmx::value_kind::none, lmx::use_optional, lmx::ELMX_WS_PRESERVE, "Vyr:CustomAttribute", element_CustomAttribute, LMX_OFFSET(DeviceSettings, m_CustomAttribute, child_list, none), lmx::k_no_flag, lmx::position_of(k_DeviceSettings_elements, element_CustomAttribute), lmx::position_of(k_DeviceSettings_elements, element_CustomAttribute, 1), &CustomAttributeType::k_class, nullptr, {}},
+    {lmx::item_kind::element, lmx::value_kind::uint32, lmx::use_optional, lmx::ELMX_WS_COLLAPSE, "Vyr:Aperture", element_Aperture, LMX_OFFSET(DeviceSettings, m_Aperture, element, uint32), LMX_FLAG(DeviceSettings, m_isset_Aperture), lmx::position_of(k_DeviceSettings_elements, element_Aperture), lmx::position_of(k_DeviceSettings_elements, element_Aperture, 1), nullptr, &facets::PositiveInt32, {}},
+    {lmx::item_kind::element, lmx::value_kind::int32, lmx::use_optional, lmx::ELMX_WS_COLLAPSE, "Vyr:LensPosition", element_LensPosition, LMX_OFFSET(DeviceSettings, m_LensPosition, element, int32), LMX_FLAG(DeviceSettings, m_isset_LensPosition), lmx::position_of(k_DeviceSettings_elements, element_LensPosition), lmx::position_of(k_DeviceSettings_elements, element_LensPosition, 1), nullptr, &facets::Int32, {}},
+    {lmx::item_kind::element, lmx::value_kind::boolean, lmx::use_optional, lmx::ELMX_WS_COLLAPSE, "Vyr:GlassCompensation", element_GlassCompensation, LMX_OFFSET(DeviceSettings, m_GlassCompensation, element, boolean), LMX_FLAG(DeviceSettings, m_isset_GlassCompensation), lmx::position_of(k_DeviceSettings_elements, element_GlassCompensation), lmx::position_of(k_DeviceSettings_elements, element_GlassCompensation, 1), nullptr, nullptr, {}},
+    {lmx::item_kind::child, lmx::value_kind::none, lmx::use_optional, lmx::ELMX_WS_PRESERVE, "Vyr:GlossCompensation", element_GlossCompensation, LMX_OFFSET(DeviceSettings, m_GlossCompensation, child, none), LMX_FLAG(DeviceSettings, m_isset_GlossCompensation), lmx::position_of(k_DeviceSettings_elements, element_GlossCompensation), lmx::position_of(k_DeviceSettings_elements, element_GlossCompensation, 1), &GlossCompensation::k_class, nullptr, {}},
+    {lmx::item_kind::child, lmx::value_kind::none, lmx::use_optional, lmx::ELMX_WS_PRESERVE, "Vyr:Averaging", element_Averaging, LMX_OFFSET(DeviceSettings, m_Averaging, child, none), LMX_FLAG(DeviceSettings, m_isset_Averaging), lmx::position_of(k_DeviceSettings_elements, element_Averaging), lmx::position_of(k_DeviceSettings_elements, element_Averaging, 1), &Averaging::k_class, nullptr, {}},
+    {lmx::item_kind::element, lmx::value_kind::boolean, lmx::use_optional, lmx::ELMX_WS_COLLAPSE, "Vyr:LinkTrimmer", element_LinkTrimmer, LMX_OFFSET(DeviceSettings, m_LinkTrimmer, element, boolean), LMX_FLAG(DeviceSettings, m_isset_LinkTrimmer), lmx::position_of(k_DeviceSettings_elements, element_LinkTrimmer), lmx::position_of(k_DeviceSettings_elements, element_LinkTrimmer, 1), nullptr, nullptr, {}},
+};
+constinit const lmx::s_class DeviceSettings::k_class = {
+    .name = "DeviceSettings",
+    .qualified_name = "Vyr:DeviceSettings",
+    .base = nullptr,
+    .content = lmx::content_kind::children,
+    .may_be_empty = true,
+    .ns_map = nullptr,
+    .nil_flag = lmx::k_no_flag,
+    .choice = lmx::k_no_flag,
+    .id = nullptr,
+    .xsi_type = nullptr,
+    .attributes = std::span(k_items).first(std::size(lmx::k_no_events) - 1),
+    .elements = std::span(k_items).subspan(std::size(lmx::k_no_events) - 1),
+    .attribute_map = lmx::k_no_events,
+    .element_map = k_DeviceSettings_elements,
+    .operations = &lmx::k_operations<DeviceSettings>,
+};
+
+DeviceSettings::DeviceSettings() = default;
+DeviceSettings::DeviceSettings(const DeviceSettings& other) { lmx::copy(k_class, this, &other); }
+DeviceSettings::~DeviceSettings() = default;
+DeviceSettings& DeviceSettings::operator=(const DeviceSettings& other) { DeviceSettings copy(other); swap(copy); return *this; }
+void DeviceSettings::swap(DeviceSettings& other) { lmx::swap(k_class, this, &other); }
+void DeviceSettings::reset() { DeviceSettings fresh; swap(fresh); }
+bool DeviceSettings::is_occurs_ok() const { return lmx::is_occurs_ok(k_class, this); }
+lmx::elmx_error DeviceSettings::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
+lmx::elmx_error DeviceSettings::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
+void DeviceSettings::marshal_attributes(lmx::c_xml_writer& writer) const { lmx::marshal_attributes(k_class, this, writer); }
+lmx::elmx_error DeviceSettings::marshal_child_elements(lmx::c_xml_writer& writer) const { return lmx::marshal_child_elements(k_class, this, writer); }
+bool DeviceSettings::unmarshal_attributes(lmx::c_xml_reader& reader, const std::string& name, lmx::elmx_error* error) { return lmx::unmarshal_attribute(k_class, this, reader, name, error); }
+lmx::elmx_error DeviceSettings::unmarshal_attributes_check(lmx::c_xml_reader& reader) { return lmx::check_required_attributes(k_class, this, reader); }
+bool DeviceSettings::unmarshal_body(lmx::c_xml_reader& reader, std::string* name, lmx::elmx_error* error) { return lmx::unmarshal_body(k_class, this, reader, name, error); }
+CustomAttributeType& DeviceSettings::get_CustomAttribute(std::size_t index) { return m_CustomAttribute.grow_to(index); }
+CustomAttributeType& DeviceSettings::assign_CustomAttribute(std::size_t index, const CustomAttributeType& value) { return get_CustomAttribute(index) = value; }
+lmx::elmx_error DeviceSettings::append_CustomAttribute() { m_CustomAttribute.append(); return lmx::ELMX_OK; }
+lmx::elmx_error DeviceSettings::insert_CustomAttribute(std::size_t index) { m_CustomAttribute.insert(index); return lmx::ELMX_OK; }
+void DeviceSettings::delete_CustomAttribute(std::size_t index) { m_CustomAttribute.erase(index); }
+void DeviceSettings::clear_CustomAttribute() { m_CustomAttribute.clear(); }
+lmx::elmx_error DeviceSettings::set_Aperture(std::uint32_t value) { return lmx::set_item(k_class, k_items[item_Aperture], this, value); }
+lmx::elmx_error DeviceSettings::set_LensPosition(std::int32_t value) { return lmx::set_item(k_class, k_items[item_LensPosition], this, value); }
+lmx::elmx_error DeviceSettings::set_GlassCompensation(bool value) { return lmx::set_item(k_class, k_items[item_GlassCompensation], this, value); }
+GlossCompensation& DeviceSettings::assign_GlossCompensation(const GlossCompensation& value) { return get_GlossCompensation() = value; }
+Averaging& DeviceSettings::assign_Averaging(const Averaging& value) { return get_Averaging() = value; }
+lmx::elmx_error DeviceSettings::set_LinkTrimmer(bool value) { return lmx::set_item(k_class, k_items[item_LinkTrimmer], this, value); }
+
+// DeviceType
+
+namespace {
+constexpr lmx::s_event_map k_DeviceType_elements[] = {
+    lmx::element_event("CustomAttribute", element_CustomAttribute),
+    lmx::element_event("Manufacturer", element_Manufacturer),
+    lmx::element_event("Model", element_Model),
+    lmx::element_event("SerialNumber", element_SerialNumber),
+    lmx::element_event("DeviceClass", element_DeviceClass),
+    lmx::element_event("FirmwareVersion", element_FirmwareVersion),
+    lmx::element_event("BootFirmwareVersion", element_BootFirmwareVersion),
+    lmx::element_event("CalibrationState", element_CalibrationState),
+    lmx::element_event("DeviceSettings", element_DeviceSettings),
+    lmx::k_end_of_map,
+};
+}  // namespace
+
+constinit const lmx::s_item DeviceType::k_items[] = {
+    {lmx::item_kind::child_list, lmx::value_kind::none, lmx::use_optional, lmx::ELMX_WS_PRESERVE, "Vyr:CustomAttribute", element_CustomAttribute, LMX_OFFSET(DeviceType, m_CustomAttribute, child_list, none), lmx::k_no_flag, lmx::position_of(k_DeviceType_elements, element_CustomAttribute), lmx::position_of(k_DeviceType_elements, element_CustomAttribute, 1), &CustomAttributeType::k_class, nullptr, {}},
+    {lmx::item_kind::element, lmx::value_kind::text, lmx::use_required, lmx::ELMX_WS_PRESERVE, "Vyr:Manufacturer", element_Manufacturer, LMX_OFFSET(DeviceType, m_Manufacturer, element, text), LMX_FLAG(DeviceType, m_isset_Manufacturer), lmx::position_of(k_DeviceType_elements, element_Manufacturer), lmx::position_of(k_DeviceType_elements, element_Manufacturer, 1), nullptr, nullptr, {}},
+    {lmx::item_kind::element, lmx::value_kind::text, lmx::use_required, lmx::ELMX_WS_PRESERVE, "Vyr:Model", element_Model, LMX_OFFSET(DeviceType, m_Model, element, text), LMX_FLAG(DeviceType, m_isset_Model), lmx::position_of(k_DeviceType_elements, element_Model), lmx::position_of(k_DeviceType_elements, element_Model, 1), nullptr, nullptr, {}},
+    {lmx::item_kind::element, lmx::value_kind::text, lmx::use_required, lmx::ELMX_WS_PRESERVE, "Vyr:SerialNumber", element_SerialNumber, LMX_OFFSET(DeviceType, m_SerialNumber, element, text), LMX_FLAG(DeviceType, m_isset_SerialNumber), lmx::position_of(k_DeviceType_elements, element_SerialNumber), lmx::position_of(k_DeviceType_elements, element_SerialNumber, 1), nullptr, nullptr, {}},
+    {lmx::item_kind::element, lmx::value_kind::text, lmx::use_optional, lmx::ELMX_WS_PRESERVE, "Vyr:DeviceClass", element_DeviceClass, LMX_OFFSET(DeviceType, m_DeviceClass, element, text), LMX_FLAG(DeviceType, m_isset_DeviceClass), lmx::position_of(k_DeviceType_elements, element_DeviceClass), lmx::position_of(k_DeviceType_elements, element_DeviceClass, 1), nullptr, &facets::DeviceClassKind, {}},
+    {lmx::item_kind::element, lmx::value_kind::text, lmx::use_optional, lmx::ELMX_WS_PRESERVE, "Vyr:FirmwareVersion", element_FirmwareVersion, LMX_OFFSET(DeviceType, m_FirmwareVersion, element, text), LMX_FLAG(DeviceType, m_isset_FirmwareVersion), lmx::position_of(k_DeviceType_elements, element_FirmwareVersion), lmx::position_of(k_DeviceType_elements, element_FirmwareVersion, 1), nullptr, nullptr, {}},
+    {lmx::item_kind::element, lmx::value_kind::text, lmx::use_optional, lmx::ELMX_WS_PRESERVE, "Vyr:BootFirmwareVersion", element_BootFirmwareVersion, LMX_OFFSET(DeviceType, m_BootFirmwareVersion, element, text), LMX_FLAG(DeviceType, m_isset_BootFirmwareVersion), lmx::position_of(k_DeviceType_elements, element_BootFirmwareVersion), lmx::position_of(k_DeviceType_elements, element_BootFirmwareVersion, 1), nullptr, nullptr, {}},
+    {lmx::item_kind::child, lmx::value_kind::none, lmx::use_optional, lmx::ELMX_WS_PRESERVE, "Vyr:CalibrationState", element_CalibrationState, LMX_OFFSET(DeviceType, m_CalibrationState, child, none), LMX_FLAG(DeviceType, m_isset_CalibrationState), lmx::position_of(k_DeviceType_elements, element_CalibrationState), lmx::position_of(k_DeviceType_elements, element_CalibrationState, 1), &CalibrationStateType::k_class, nullptr, {}},
+    {lmx::item_kind::child, lmx::value_kind::none, lmx::use_optional, lmx::ELMX_WS_PRESERVE, "Vyr:DeviceSettings", element_DeviceSettings, LMX_OFFSET(DeviceType, m_DeviceSettings, child, none), LMX_FLAG(DeviceType, m_isset_DeviceSettings), lmx::position_of(k_DeviceType_elements, element_DeviceSettings), lmx::position_of(k_DeviceType_elements, element_DeviceSettings, 1), &DeviceSettings::k_class, nullptr, {}},
+};
+constinit const lmx::s_class DeviceType::k_class = {
+    .name = "DeviceType",
+    .qualified_name = "Vyr:DeviceType",
+    .base = nullptr,
+    .content = lmx::content_kind::children,
+    .may_be_empty = false,
+    .ns_map = k_ns_map,
+    .nil_flag = lmx::k_no_flag,
+    .choice = lmx::k_no_flag,
+    .id = nullptr,
+    .xsi_type = nullptr,
+    .attributes = std::span(k_items).first(std::size(lmx::k_no_events) - 1),
+    .elements = std::span(k_items).subspan(std::size(lmx::k_no_events) - 1),
+    .attribute_map = lmx::k_no_events,
+    .element_map = k_DeviceType_elements,
+    .operations = &lmx::k_operations<DeviceType>,
+};
+
+DeviceType::DeviceType() = default;
+DeviceType::DeviceType(const DeviceType& other) { lmx::copy(k_class, this, &other); }
+DeviceType::~DeviceType() = default;
+DeviceType& DeviceType::operator=(const DeviceType& other) { DeviceType copy(other); swap(copy); return *this; }
+void DeviceType::swap(DeviceType& other) { lmx::swap(k_class, this, &other); }
+void DeviceType::reset() { DeviceType fresh; swap(fresh); }
+bool DeviceType::is_occurs_ok() const { return lmx::is_occurs_ok(k_class, this); }
+lmx::elmx_error DeviceType::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
+lmx::elmx_error DeviceType::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
+void DeviceType::marshal_attributes(lmx::c_xml_writer& writer) const { lmx::marshal_attributes(k_class, this, writer); }
+lmx::elmx_error DeviceType::marshal_child_elements(lmx::c_xml_writer& writer) const { return lmx::marshal_child_elements(k_class, this, writer); }
+bool DeviceType::unmarshal_attributes(lmx::c_xml_reader& reader, const std::string& name, lmx::elmx_error* error) { return lmx::unmarshal_attribute(k_class, this, reader, name, error); }
+lmx::elmx_error DeviceType::unmarshal_attributes_check(lmx::c_xml_reader& reader) { return lmx::check_required_attributes(k_class, this, reader); }
+bool DeviceType::unmarshal_body(lmx::c_xml_reader& reader, std::string* name, lmx::elmx_error* error) { return lmx::unmarshal_body(k_class, this, reader, name, error); }
+CustomAttributeType& DeviceType::get_CustomAttribute(std::size_t index) { return m_CustomAttribute.grow_to(index); }
+CustomAttributeType& DeviceType::assign_CustomAttribute(std::size_t index, const CustomAttributeType& value) { return get_CustomAttribute(index) = value; }
+lmx::elmx_error DeviceType::append_CustomAttribute() { m_CustomAttribute.append(); return lmx::ELMX_OK; }
+lmx::elmx_error DeviceType::insert_CustomAttribute(std::size_t index) { m_CustomAttribute.insert(index); return lmx::ELMX_OK; }
+void DeviceType::delete_CustomAttribute(std::size_t index) { m_CustomAttribute.erase(index); }
+void DeviceType::clear_CustomAttribute() { m_CustomAttribute.clear(); }
+lmx::elmx_error DeviceType::set_Manufacturer(const std::u16string& value) { return lmx::set_item(k_class, k_items[item_Manufacturer], this, value); }
+lmx::elmx_error DeviceType::set_Model(const std::u16string& value) { return lmx::set_item(k_class, k_items[item_Model], this, value); }
+lmx::elmx_error DeviceType::set_SerialNumber(const std::u16string& value) { return lmx::set_item(k_class, k_items[item_SerialNumber], this, value); }
+lmx::elmx_error DeviceType::set_DeviceClass(const std::u16string& value) { return lmx::set_item(k_class, k_items[item_DeviceClass], this, value); }
+Eenum_DeviceClass DeviceType::getenum_DeviceClass() const { return static_cast<Eenum_DeviceClass>(lmx::enumerated_number(k_items[item_DeviceClass], get_DeviceClass())); }
+bool DeviceType::setenum_DeviceClass(std::int32_t number) { return lmx::set_enumerated(k_class, k_items[item_DeviceClass], this, number); }
+lmx::elmx_error DeviceType::set_FirmwareVersion(const std::u16string& value) { return lmx::set_item(k_class, k_items[item_FirmwareVersion], this, value); }
+lmx::elmx_error DeviceType::set_BootFirmwareVersion(const std::u16string& value) { return lmx::set_item(k_class, k_items[item_BootFirmwareVersion], this, value); }
+CalibrationStateType& DeviceType::assign_CalibrationState(const CalibrationStateType& value) { return get_CalibrationState() = value; }
+DeviceSettings& DeviceType::assign_DeviceSettings(const DeviceSettings& value) { return get_DeviceSettings() = value; }
+
+// ProfileChoice
+
+namespace {
+constexpr lmx::s_event_map k_ProfileChoice_elements[] = {
+    lmx::element_event("ProfileFile", element_ProfileFile),
+    lmx::element_event("ProfileURI", element_ProfileURI),
+    lmx::k_end_of_map,
+};
+}  // namespace
+
+constinit const lmx::s_item ProfileChoice::k_items[] = {
+    {lmx::item_kind::alternative, lmx::value_kind::none, lmx::use_optional, lmx::ELMX_WS_PRESERVE, "Vyr:ProfileFile", element_ProfileFile, 0, lmx::k_no_flag, lmx::position_of(k_ProfileChoice_elements, element_ProfileFile), lmx::position_of(k_ProfileChoice_elements, element_ProfileFile, 1), &ProfileFile::k_class, nullptr, {}},
+    {lmx::item_kind::alternative, lmx::value_kind::text, lmx::use_optional, lmx::ELMX_WS_COLLAPSE, "Vyr:ProfileURI", element_ProfileURI, 0, lmx::k_no_flag, lmx::position_of(k_ProfileChoice_elements, element_ProfileURI), lmx::position_of(k_ProfileChoice_elements, element_ProfileURI, 1), nullptr, nullptr, {}},
+};
+constinit const lmx::s_class ProfileChoice::k_class = {
+    .name = "ProfileChoice",
+    .qualified_name = "Vyr:ProfileChoice",
+    .base = nullptr,
+    .content = lmx::content_kind::choice,
+    .may_be_empty = false,
+    .ns_map = nullptr,
+    .nil_flag = lmx::k_no_flag,
+    .choice = LMX_CHOICE(ProfileChoice, m_choice),
+    .id = nullptr,
+    .xsi_type = nullptr,
+    .attributes = std::span(k_items).first(std::size(lmx::k_no_events) - 1),
+    .elements = std::span(k_items).subspan(std::size(lmx::k_no_events) - 1),
+    .attribute_map = lmx::k_no_events,
+    .element_map = k_ProfileChoice_elements,
+    .operations = &lmx::k_operations<ProfileChoice>,
+};
+
+ProfileChoice::ProfileChoice() = default;
+ProfileChoice::ProfileChoice(const ProfileChoice& other) { lmx::copy(k_class, this, &other); }
+ProfileChoice::~ProfileChoice() { lmx::release_choice(k_class, this); }
+ProfileChoice& ProfileChoice::operator=(const ProfileChoice& other) { ProfileChoice copy(other); swap(copy); return *this; }
+void ProfileChoice::swap(ProfileChoice& other) { lmx::swap(k_class, this, &other); }
+void ProfileChoice::reset() { ProfileChoice fresh; swap(fresh); }
+bool ProfileChoice::is_occurs_ok() const { return lmx::is_occurs_ok(k_class, this); }
+lmx::elmx_error ProfileChoice::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
+lmx::elmx_error ProfileChoice::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
+void ProfileChoice::marshal_attributes(lmx::c_xml_writer& writer) const { lmx::marshal_attributes(k_class, this, writer); }
+lmx::elmx_error ProfileChoice::marshal_child_elements(lmx::c_xml_writer& writer) const { return lmx::marshal_child_elements(k_class, this, writer); }
+bool ProfileChoice::unmarshal_attributes(lmx::c_xml_reader& reader, const std::string& name, lmx::elmx_error* error) { return lmx::unmarshal_attribute(k_class, this, reader, name, error); }
+lmx::elmx_error ProfileChoice::unmarshal_attributes_check(lmx::c_xml_reader& reader) { return lmx::check_required_attributes(k_class, this, reader); }
+bool ProfileChoice::unmarshal_body(lmx::c_xml_reader& reader, std::string* name, lmx::elmx_error* error) { return lmx::unmarshal_body(k_class, this, reader, name, error); }
+ProfileFile& ProfileChoice::get_ProfileFile() { return *static_cast<ProfileFile*>(lmx::choose(k_class, k_items[item_ProfileFile], this)); }
+ProfileFile& ProfileChoice::assign_ProfileFile(const ProfileFile& value) { return get_ProfileFile() = value; }
+const std::u16string& ProfileChoice::get_ProfileURI() const { return lmx::chosen_text(k_class, k_items[item_ProfileURI], this); }
+lmx::elmx_error ProfileChoice::set_ProfileURI(const std::u16string& value) { return lmx::set_item(k_class, k_items[item_ProfileURI], this, value); }
+
+// ProfileType
+
+namespace {
+constexpr lmx::s_event_map k_ProfileType_attributes[] = {
+    lmx::attribute_event("Direction", attribute_Direction),
+    lmx::k_end_of_map,
+};
+constexpr lmx::s_event_map k_ProfileType_elements[] = {
+    lmx::element_event("ProfileChoice", element_ProfileChoice),
+    lmx::element_event("Parameters", element_Parameters),
+    lmx::element_event("Created", element_Created),
+    lmx::k_end_of_map,
+};
+}  // namespace
+
+constinit const lmx::s_item ProfileType::k_items[] = {
+    {lmx::item_kind::attribute, lmx::value_kind::text, lmx::use_required, lmx::ELMX_WS_PRESERVE, "Direction", attribute_Direction, LMX_OFFSET(ProfileType, m_Direction, attribute, text), LMX_FLAG(ProfileType, m_isset_Direction), 0, 0, nullptr, &facets::ProfileDirectionKind, {}},
+    {lmx::item_kind::child, lmx::value_kind::none, lmx::use_required, lmx::ELMX_WS_PRESERVE, "Vyr:ProfileChoice", element_ProfileChoice, LMX_OFFSET(ProfileType, m_ProfileChoice, child, none), LMX_FLAG(ProfileType, m_isset_ProfileChoice), lmx::position_of(k_ProfileType_elements, element_ProfileChoice), lmx::position_of(k_ProfileType_elements, element_ProfileChoice, 1), &ProfileChoice::k_class, nullptr, {}},
+    {lmx::item_kind::child_list, lmx::value_kind::none, lmx::use_optional, lmx::ELMX_WS_PRESERVE, "Vyr:Parameters", element_Parameters, LMX_OFFSET(ProfileType, m_Parameters, child_list, none), lmx::k_no_flag, lmx::position_of(k_ProfileType_elements, element_Parameters), lmx::position_of(k_ProfileType_elements, element_Parameters, 1), &ProfileType_Parameters::k_class, nullptr, {}},
+    {lmx::item_kind::element, lmx::value_kind::datetime, lmx::use_optional, lmx::ELMX_WS_COLLAPSE, "Vyr:Created", element_Created, LMX_OFFSET(ProfileType, m_Created, element, datetime), LMX_FLAG(ProfileType, m_isset_Created), lmx::position_of(k_ProfileType_elements, element_Created), lmx::position_of(k_ProfileType_elements, element_Created, 1), nullptr, &facets::DateTimeZone, {}},
+};
+constinit const lmx::s_class ProfileType::k_class = {
+    .name = "ProfileType",
+    .qualified_name = "Vyr:ProfileType",
+    .base = nullptr,
+    .content = lmx::content_kind::children,
+    .may_be_empty = false,
+    .ns_map = k_ns_map,
+    .nil_flag = lmx::k_no_flag,
+    .choice = lmx::k_no_flag,
+    .id = nullptr,
+    .xsi_type = nullptr,
+    .attributes = std::span(k_items).first(std::size(k_ProfileType_attributes) - 1),
+    .elements = std::span(k_items).subspan(std::size(k_ProfileType_attributes) - 1),
+    .attribute_map = k_ProfileType_attributes,
+    .element_map = k_ProfileType_elements,
+    .operations = &lmx::k_operations<ProfileType>,
+};
+
+ProfileType::ProfileType() = default;
+ProfileType::ProfileType(const ProfileType& other) { lmx::copy(k_class, this, &other); }
+ProfileType::~ProfileType() = default;
+ProfileType& ProfileType::operator=(const ProfileType& other) { ProfileType copy(other); swap(copy); return *this; }
+void ProfileType::swap(ProfileType& other) { lmx::swap(k_class, this, &other); }
+void ProfileType::reset() { ProfileType fresh; swap(fresh); }
+bool ProfileType::is_occurs_ok() const { return lmx::is_occurs_ok(k_class, this); }
+lmx::elmx_error ProfileType::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
+lmx::elmx_error ProfileType::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
+void ProfileType::marshal_attributes(lmx::c_xml_writer& writer) const { lmx::marshal_attributes(k_class, this, writer); }
+lmx::elmx_error ProfileType::marshal_child_elements(lmx::c_xml_writer& writer) const { return lmx::marshal_child_elements(k_class, this, writer); }
+bool ProfileType::unmarshal_attributes(lmx::c_xml_reader& reader, const std::string& name, lmx::elmx_error* error) { return lmx::unmarshal_attribute(k_class, this, reader, name, error); }
+lmx::elmx_error ProfileType::unmarshal_attributes_check(lmx::c_xml_reader& reader) { return lmx::check_required_attributes(k_class, this, reader); }
+bool ProfileType::unmarshal_body(lmx::c_xml_reader& reader, std::string* name, lmx::elmx_error* error) { return lmx::unmarshal_body(k_class, this, reader, name, error); }
+lmx::elmx_error ProfileType::set_Direction(const std::u16string& value) { return lmx::set_item(k_class, k_items[item_Direction], this, value); }
+Eenum_Direction ProfileType::getenum_Direction() const { return static_cast<Eenum_Direction>(lmx::enumerated_number(k_items[item_Direction], get_Direction())); }
+bool ProfileType::setenum_Direction(std::int32_t number) { return lmx::set_enumerated(k_class, k_items[item_Direction], this, number); }
+ProfileChoice& ProfileType::assign_ProfileChoice(const ProfileChoice& value) { return get_ProfileChoice() = value; }
+ProfileType_Parameters& ProfileType::get_Parameters(std::size_t index) { return m_Parameters.grow_to(index); }
+ProfileType_Parameters& ProfileType::assign_Parameters(std::size_t index, const ProfileType_Parameters& value) { return get_Parameters(index) = value; }
+lmx::elmx_error ProfileType::append_Parameters() { m_Parameters.append(); return lmx::ELMX_OK; }
+lmx::elmx_error ProfileType::insert_Parameters(std::size_t index) { m_Parameters.insert(index); return lmx::ELMX_OK; }
+void ProfileType::delete_Parameters(std::size_t index) { m_Parameters.erase(index); }
+void ProfileType::clear_Parameters() { m_Parameters.clear(); }
+lmx::elmx_error ProfileType::set_Created(const lmx::c_datetime& value) { return lmx::set_item(k_class, k_items[item_Created], this, value); }
+
+// ProfileFile
+
+namespace {
+constexpr lmx::s_event_map k_ProfileFile_attributes[] = {
+    lmx::attribute_event("ProfileName", attribute_ProfileName),
+    lmx::k_end_of_map,
+};
+}  // namespace
+
+constinit const lmx::s_item ProfileFile::k_items[] = {
+    {lmx::item_kind::attribute, lmx::value_kind::text, lmx::use_optional, lmx::ELMX_WS_PRESERVE, "ProfileName", attribute_ProfileName, LMX_OFFSET(ProfileFile, m_ProfileName, attribute, text), LMX_FLAG(ProfileFile, m_isset_ProfileName), 0, 0, nullptr, nullptr, {}},
+    {lmx::item_kind::content, lmx::value_kind::binary, lmx::use_required, lmx::ELMX_WS_COLLAPSE, "", 0, LMX_OFFSET(ProfileFile, m_ProfileFile, content, binary), LMX_FLAG(ProfileFile, m_isset_ProfileFile), 0, 0, nullptr, nullptr, {}},
+};
+constinit const lmx::s_class ProfileFile::k_class = {
+    .name = "ProfileFile",
+    .qualified_name = "Vyr:ProfileFile",
+    .base = nullptr,
+    .content = lmx::content_kind::simple,
+    .may_be_empty = false,
+    .ns_map = nullptr,
+    .nil_flag = lmx::k_no_flag,
+    .choice = lmx::k_no_flag,
+    .id = nullptr,
+    .xsi_type = nullptr,
+    .attributes = std::span(k_items).first(std::size(k_ProfileFile_attributes) - 1),
+    .elements = std::span(k_items).subspan(std::size(k_ProfileFile_attributes) - 1),
+    .attribute_map = k_ProfileFile_attributes,
+    .element_map = lmx::k_no_events,
+    .operations = &lmx::k_operations<ProfileFile>,
+};
+
+ProfileFile::ProfileFile() = default;
+ProfileFile::ProfileFile(const ProfileFile& other) { lmx::copy(k_class, this, &other); }
+ProfileFile::~ProfileFile() = default;
+ProfileFile& ProfileFile::operator=(const ProfileFile& other) { ProfileFile copy(other); swap(copy); return *this; }
+void ProfileFile::swap(ProfileFile& other) { lmx::swap(k_class, this, &other); }
+void ProfileFile::reset() { ProfileFile fresh; swap(fresh); }
+bool ProfileFile::is_occurs_ok() const { return lmx::is_occurs_ok(k_class, this); }
+lmx::elmx_error ProfileFile::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
+lmx::elmx_error ProfileFile::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
+void ProfileFile::marshal_attributes(lmx::c_xml_writer& writer) const { lmx::marshal_attributes(k_class, this, writer); }
+lmx::elmx_error ProfileFile::marshal_child_elements(lmx::c_xml_writer& writer) const { return lmx::marshal_child_elements(k_class, this, writer); }
+bool ProfileFile::unmarshal_attributes(lmx::c_xml_reader& reader, const std::string& name, lmx::elmx_error* error) { return lmx::unmarshal_attribute(k_class, this, reader, name, error); }
+lmx::elmx_error ProfileFile::unmarshal_attributes_check(lmx::c_xml_reader& reader) { return lmx::check_required_attributes(k_class, this, reader); }
+bool ProfileFile::unmarshal_body(lmx::c_xml_reader& reader, std::string* name, lmx::elmx_error* error, bool has_body) { return lmx::unmarshal_content(k_class, this, reader, name, error, has_body); }
+lmx::elmx_error ProfileFile::set_ProfileName(const std::u16string& value) { return lmx::set_item(k_class, k_items[item_ProfileName], this, value); }
+lmx::elmx_error ProfileFile::set_ProfileFile(const lmx::c_binary& value) { return lmx::set_item(k_class, k_items[item_ProfileFile], this, value); }
+
+// ProfileType_Parameters_ValueChoice
+
+namespace {
+constexpr lmx::s_event_map k_ProfileType_Parameters_ValueChoice_elements[] = {
+    lmx::element_event("DoubleValue", element_DoubleValue),
+    lmx::element_event("IntegerValue", element_IntegerValue),
+    lmx::element_event("StringValue", element_StringValue),
+    lmx::k_end_of_map,
+};
+}  // namespace
+
+constinit const lmx::s_item ProfileType_Parameters_ValueChoice::k_items[] = {
+    {lmx::item_kind::alternative, lmx::value_kind::number, lmx::use_optional, lmx::ELMX_WS_COLLAPSE, "Vyr:DoubleValue", element_DoubleValue, 0, lmx::k_no_flag, lmx::position_of(k_ProfileType_Parameters_ValueChoice_elements, element_DoubleValue), lmx::position_of(k_ProfileType_Parameters_ValueChoice_elements, element_DoubleValue, 1), nullptr, nullptr, {}},
+    {lmx::item_kind::alternative, lmx::value_kind::int32, lmx::use_optional, lmx::ELMX_WS_COLLAPSE, "Vyr:IntegerValue", element_IntegerValue, 0, lmx::k_no_flag, lmx::position_of(k_ProfileType_Parameters_ValueChoice_elements, element_IntegerValue), lmx::position_of(k_ProfileType_Parameters_ValueChoice_elements, element_IntegerValue, 1), nullptr, &facets::Int32, {}},
+    {lmx::item_kind::alternative, lmx::value_kind::text, lmx::use_optional, lmx::ELMX_WS_PRESERVE, "Vyr:StringValue", element_StringValue, 0, lmx::k_no_flag, lmx::position_of(k_ProfileType_Parameters_ValueChoice_elements, element_StringValue), lmx::position_of(k_ProfileType_Parameters_ValueChoice_elements, element_StringValue, 1), nullptr, nullptr, {}},
+};
+constinit const lmx::s_class ProfileType_Parameters_ValueChoice::k_class = {
+    .name = "ProfileType_Parameters_ValueChoice",
+    .qualified_name = "Vyr:ValueChoice",
+    .base = nullptr,
+    .content = lmx::content_kind::choice,
+    .may_be_empty = false,
+    .ns_map = nullptr,
+    .nil_flag = lmx::k_no_flag,
+    .choice = LMX_CHOICE(ProfileType_Parameters_ValueChoice, m_choice),
+    .id = nullptr,
+    .xsi_type = nullptr,
+    .attributes = std::span(k_items).first(std::size(lmx::k_no_events) - 1),
+    .elements = std::span(k_items).subspan(std::size(lmx::k_no_events) - 1),
+    .attribute_map = lmx::k_no_events,
+    .element_map = k_ProfileType_Parameters_ValueChoice_elements,
+    .operations = &lmx::k_operations<ProfileType_Parameters_ValueChoice>,
+};
+
+ProfileType_Parameters_ValueChoice::ProfileType_Parameters_ValueChoice() = default;
+ProfileType_Parameters_ValueChoice::ProfileType_Parameters_ValueChoice(const ProfileType_Parameters_ValueChoice& other) { lmx::copy(k_class, this, &other); }
+ProfileType_Parameters_ValueChoice::~ProfileType_Parameters_ValueChoice() { lmx::release_choice(k_class, this); }
+ProfileType_Parameters_ValueChoice& ProfileType_Parameters_ValueChoice::operator=(const ProfileType_Parameters_ValueChoice& other) { ProfileType_Parameters_ValueChoice copy(other); swap(copy); return *this; }
+void ProfileType_Parameters_ValueChoice::swap(ProfileType_Parameters_ValueChoice& other) { lmx::swap(k_class, this, &other); }
+void ProfileType_Parameters_ValueChoice::reset() { ProfileType_Parameters_ValueChoice fresh; swap(fresh); }
+bool ProfileType_Parameters_ValueChoice::is_occurs_ok() const { return lmx::is_occurs_ok(k_class, this); }
+lmx::elmx_error ProfileType_Parameters_ValueChoice::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
+lmx::elmx_error ProfileType_Parameters_ValueChoice::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
+void ProfileType_Parameters_ValueChoice::marshal_attributes(lmx::c_xml_writer& writer) const { lmx::marshal_attributes(k_class, this, writer); }
+lmx::elmx_error ProfileType_Parameters_ValueChoice::marshal_child_elements(lmx::c_xml_writer& writer) const { return lmx::marshal_child_elements(k_class, this, writer); }
+bool ProfileType_Parameters_ValueChoice::unmarshal_attributes(lmx::c_xml_reader& reader, const std::string& name, lmx::elmx_error* error) { return lmx::unmarshal_attribute(k_class, this, reader, name, error); }
+lmx::elmx_error ProfileType_Parameters_ValueChoice::unmarshal_attributes_check(lmx::c_xml_reader& reader) { return lmx::check_required_attributes(k_class, this, reader); }
+bool ProfileType_Parameters_ValueChoice::unmarshal_body(lmx::c_xml_reader& reader, std::string* name, lmx::elmx_error* error) { return lmx::unmarshal_body(k_class, this, reader, name, error); }
+lmx::elmx_error ProfileType_Parameters_ValueChoice::set_DoubleValue(double value) { return lmx::set_item(k_class, k_items[item_DoubleValue], this, value); }
+lmx::elmx_error ProfileType_Parameters_ValueChoice::set_IntegerValue(std::int32_t value) { return lmx::set_item(k_class, k_items[item_IntegerValue], this, value); }
+const std::u16string& ProfileType_Parameters_ValueChoice::get_StringValue() const { return lmx::chosen_text(k_class, k_items[item_StringValue], this); }
+lmx::elmx_error ProfileType_Parameters_ValueChoice::set_StringValue(const std::u16string& value) { return lmx::set_item(k_class, k_items[item_StringValue], this, value); }
+
+// ProfileType_Parameters
+
+namespace {
+constexpr lmx::s_event_map k_ProfileType_Parameters_elements[] = {
+    lmx::element_event("Name", element_Name),
+    lmx::element_event("ValueChoice", element_ValueChoice),
+    lmx::k_end_of_map,
+};
+}  // namespace
+
+constinit const lmx::s_item ProfileType_Parameters::k_items[] = {
+    {lmx::item_kind::element, lmx::value_kind::text, lmx::use_required, lmx::ELMX_WS_PRESERVE, "Vyr:Name", element_Name, LMX_OFFSET(ProfileType_Parameters, m_Name, element, text), LMX_FLAG(ProfileType_Parameters, m_isset_Name), lmx::position_of(k_ProfileType_Parameters_elements, element_Name), lmx::position_of(k_ProfileType_Parameters_elements, element_Name, 1), nullptr, &facets::SingleCharacter, {}},
+    {lmx::item_kind::child, lmx::value_kind::none, lmx::use_required, lmx::ELMX_WS_PRESERVE, "Vyr:ValueChoice", element_ValueChoice, LMX_OFFSET(ProfileType_Parameters, m_ValueChoice, child, none), LMX_FLAG(ProfileType_Parameters, m_isset_ValueChoice), lmx::position_of(k_ProfileType_Parameters_elements, element_ValueChoice), lmx::position_of(k_ProfileType_Parameters_elements, element_ValueChoice, 1), &ProfileType_Parameters_ValueChoice::k_class, nullptr, {}},
+};
+constinit const lmx::s_class ProfileType_Parameters::k_class = {
+    .name = "ProfileType_Parameters",
+    .qualified_name = "Vyr:Parameters",
+    .base = nullptr,
+    .content = lmx::content_kind::children,
+    .may_be_empty = true,
+    .ns_map = nullptr,
+    .nil_flag = lmx::k_no_flag,
+    .choice = lmx::k_no_flag,
+    .id = nullptr,
+    .xsi_type = nullptr,
+    .attributes = std::span(k_items).first(std::size(lmx::k_no_events) - 1),
+    .elements = std::span(k_items).subspan(std::size(lmx::k_no_events) - 1),
+    .attribute_map = lmx::k_no_events,
+    .element_map = k_ProfileType_Parameters_elements,
+    .operations = &lmx::k_operations<ProfileType_Parameters>,
+};
+
+ProfileType_Parameters::ProfileType_Parameters() = default;
+ProfileType_Parameters::ProfileType_Parameters(const ProfileType_Parameters& other) { lmx::copy(k_class, this, &other); }
+ProfileType_Parameters::~ProfileType_Parameters() = default;
+ProfileType_Parameters& ProfileType_Parameters::operator=(const ProfileType_Parameters& other) { ProfileType_Parameters copy(other); swap(copy); return *this; }
+void ProfileType_Parameters::swap(ProfileType_Parameters& other) { lmx::swap(k_class, this, &other); }
+void ProfileType_Parameters::reset() { ProfileType_Parameters fresh; swap(fresh); }
+bool ProfileType_Parameters::is_occurs_ok() const { return lmx::is_occurs_ok(k_class, this); }
+lmx::elmx_error ProfileType_Parameters::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
+lmx::elmx_error ProfileType_Parameters::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
+void ProfileType_Parameters::marshal_attributes(lmx::c_xml_writer& writer) const { lmx::marshal_attributes(k_class, this, writer); }
+lmx::elmx_error ProfileType_Parameters::marshal_child_elements(lmx::c_xml_writer& writer) const { return lmx::marshal_child_elements(k_class, this, writer); }
+bool ProfileType_Parameters::unmarshal_attributes(lmx::c_xml_reader& reader, const std::string& name, lmx::elmx_error* error) { return lmx::unmarshal_attribute(k_class, this, reader, name, error); }
+lmx::elmx_error ProfileType_Parameters::unmarshal_attributes_check(lmx::c_xml_reader& reader) { return lmx::check_required_attributes(k_class, this, reader); }
+bool ProfileType_Parameters::unmarshal_body(lmx::c_xml_reader& reader, std::string* name, lmx::elmx_error* error) { return lmx::unmarshal_body(k_class, this, reader, name, error); }
+lmx::elmx_error ProfileType_Parameters::set_Name(const std::u16string& value) { return lmx::set_item(k_class, k_items[item_Name], this, value); }
+ProfileType_Parameters_ValueChoice& ProfileType_Parameters::assign_ValueChoice(const ProfileType_Parameters_ValueChoice& value) { return get_ValueChoice() = value; }
+
+}  // namespace com_vyrgraph_v2

@@ -1,0 +1,423 @@
+// Copyright 2026 The Vyr Authors
+// SPDX-License-Identifier: Apache-2.0
+//
+// Made by schema/generator/generate.py from schema/vyr.xsd and schema/binding.toml. Change those instead.
+// clang-format off
+
+/// Tables and members of the classes in groups.h.
+
+#include "schema/generated/groups.h"
+#include "lmx/binding/binding.h"
+#include "lmx/binding/rows.h"
+#include "schema/generated/color_values.h"
+#include "schema/generated/device_color_values.h"
+#include "schema/generated/functions.h"
+#include "schema/generated/recipes.h"
+#include "schema/generated/sampled_color_values.h"
+#include "schema/generated/samples.h"
+#include "schema/generated/statistics.h"
+#include "schema/generated/substrates.h"
+#include "schema/generated/tables.h"
+
+// Offsets of members of classes with virtual functions: both compilers define them, and the macros check them.
+#pragma GCC diagnostic ignored "-Winvalid-offsetof"
+
+namespace com_vyrgraph_v2 {
+
+static_assert(lmx::k_binding_version == 1, "run schema/generator/generate.py");
+
+// sg_ColorSpace
+
+namespace {
+constexpr lmx::s_event_map k_sg_ColorSpace_elements[] = {
+    lmx::element_event("ColorSpaceRecipe", element_ColorSpaceRecipe),
+    lmx::element_event("ColorSpaceTINTORA", element_ColorSpaceTINTORA),
+    lmx::element_event("ColorSpaceGeneric", element_ColorSpaceGeneric),
+    lmx::element_event("ColorSpaceEmissiveGeneric", element_ColorSpaceEmissiveGeneric),
+    lmx::element_event("ColorSpaceDensity", element_ColorSpaceDensity),
+    lmx::element_event("ColorSpaceRGB", element_ColorSpaceRGB),
+    lmx::element_event("ColorSpaceSRGB", element_ColorSpaceSRGB),
+    lmx::element_event("ColorSpaceAdobeRGB", element_ColorSpaceAdobeRGB),
+    lmx::element_event("ColorSpaceCMYKPlusN", element_ColorSpaceCMYKPlusN),
+    lmx::element_event("ColorSpaceAdobeWideGamutRGB", element_ColorSpaceAdobeWideGamutRGB),
+    lmx::element_event("ColorSpaceSpectral", element_ColorSpaceSpectral),
+    lmx::element_event("ColorSpaceEmissiveSpectral", element_ColorSpaceEmissiveSpectral),
+    lmx::element_event("ColorSpaceCIELab", element_ColorSpaceCIELab),
+    lmx::element_event("ColorSpaceCIELCh", element_ColorSpaceCIELCh),
+    lmx::element_event("ColorSpaceCIEXYZ", element_ColorSpaceCIEXYZ),
+    lmx::element_event("ColorSpaceEmissiveCIEXYZ", element_ColorSpaceEmissiveCIEXYZ),
+    lmx::element_event("ColorSpaceCIExyY", element_ColorSpaceCIExyY),
+    lmx::element_event("ColorSpaceEmissiveCIExyY", element_ColorSpaceEmissiveCIExyY),
+    lmx::element_event("ColorSpaceCIELuv", element_ColorSpaceCIELuv),
+    lmx::element_event("ColorSpaceHSL", element_ColorSpaceHSL),
+    lmx::element_event("ColorSpaceHSV", element_ColorSpaceHSV),
+    lmx::element_event("ColorSpaceCMYK", element_ColorSpaceCMYK),
+    lmx::element_event("ColorSpaceTINTORAOctavantic", element_ColorSpaceTINTORAOctavantic),
+    lmx::element_event("ColorSpaceYUV", element_ColorSpaceYUV),
+    lmx::element_event("ColorSpaceYIQ", element_ColorSpaceYIQ),
+    lmx::element_event("ColorSpaceYBR", element_ColorSpaceYBR),
+    lmx::element_event("ColorSpaceNCS", element_ColorSpaceNCS),
+    lmx::element_event("ColorSpaceMunsell", element_ColorSpaceMunsell),
+    lmx::k_end_of_map,
+};
+}  // namespace
+
+constinit const lmx::s_item sg_ColorSpace::k_items[] = {
+    {lmx::item_kind::alternative, lmx::value_kind::none, lmx::use_optional, lmx::ELMX_WS_PRESERVE, "Vyr:ColorSpaceRecipe", element_ColorSpaceRecipe, 0, lmx::k_no_flag, lmx::position_of(k_sg_ColorSpace_elements, element_ColorSpaceRecipe), lmx::position_of(k_sg_ColorSpace_elements, element_ColorSpaceRecipe, 1), &ColorSpaceRecipeType::k_class, nullptr, {}},
+    {lmx::item_kind::alternative, lmx::value_kind::none, lmx::use_optional, lmx::ELMX_WS_PRESERVE, "Vyr:ColorSpaceTINTORA", element_ColorSpaceTINTORA, 0, lmx::k_no_flag, lmx::position_of(k_sg_ColorSpace_elements, element_ColorSpaceTINTORA), lmx::position_of(k_sg_ColorSpace_elements, element_ColorSpaceTINTORA, 1), &ColorSpaceTINTORAType::k_class, nullptr, {}},
+    {lmx::item_kind::alternative, lmx::value_kind::none, lmx::use_optional, lmx::ELMX_WS_PRESERVE, "Vyr:ColorSpaceGeneric", element_ColorSpaceGeneric, 0, lmx::k_no_flag, lmx::position_of(k_sg_ColorSpace_elements, element_ColorSpaceGeneric), lmx::position_of(k_sg_ColorSpace_elements, element_ColorSpaceGeneric, 1), &ColorSpaceGenericType::k_class, nullptr, {}},
+    {lmx::item_kind::alternative, lmx::value_kind::none, lmx::use_optional, lmx::ELMX_WS_PRESERVE, "Vyr:ColorSpaceEmissiveGeneric", element_ColorSpaceEmissiveGeneric, 0, lmx::k_no_flag, lmx::position_of(k_sg_ColorSpace_elements, element_ColorSpaceEmissiveGeneric), lmx::position_of(k_sg_ColorSpace_elements, element_ColorSpaceEmissiveGeneric, 1), &ColorSpaceEmissiveGenericType::k_class, nullptr, {}},
+    {lmx::item_kind::alternative, lmx::value_kind::none, lmx::use_optional, lmx::ELMX_WS_PRESERVE, "Vyr:ColorSpaceDensity", element_ColorSpaceDensity, 0, lmx::k_no_flag, lmx::position_of(k_sg_ColorSpace_elements, element_ColorSpaceDensity), lmx::position_of(k_sg_ColorSpace_elements, element_ColorSpaceDensity, 1), &ColorSpaceDensityType::k_class, nullptr, {}},
+    {lmx::item_kind::alternative, lmx::value_kind::none, lmx::use_optional, lmx::ELMX_WS_PRESERVE, "Vyr:ColorSpaceRGB", element_ColorSpaceRGB, 0, lmx::k_no_flag, lmx::position_of(k_sg_ColorSpace_elements, element_ColorSpaceRGB), lmx::position_of(k_sg_ColorSpace_elements, element_ColorSpaceRGB, 1), &ColorSpaceRGBType::k_class, nullptr, {}},
+    {lmx::item_kind::alternative, lmx::value_kind::none, lmx::use_optional, lmx::ELMX_WS_PRESERVE, "Vyr:ColorSpaceSRGB", element_ColorSpaceSRGB, 0, lmx::k_no_flag, lmx::position_of(k_sg_ColorSpace_elements, element_ColorSpaceSRGB), lmx::position_of(k_sg_ColorSpace_elements, element_ColorSpaceSRGB, 1), &ColorSpaceSRGBType::k_class, nullptr, {}},
+    {lmx::item_kind::alternative, lmx::value_kind::none, lmx::use_optional, lmx::ELMX_WS_PRESERVE, "Vyr:ColorSpaceAdobeRGB", element_ColorSpaceAdobeRGB, 0, lmx::k_no_flag, lmx::position_of(k_sg_ColorSpace_elements, element_ColorSpaceAdobeRGB), lmx::position_of(k_sg_ColorSpace_elements, element_ColorSpaceAdobeRGB, 1), &ColorSpaceAdobeRGBType::k_class, nullptr, {}},
+    {lmx::item_kind::alternative, lmx::value_kind::none, lmx::use_optional, lmx::ELMX_WS_PRESERVE, "Vyr:ColorSpaceCMYKPlusN", element_ColorSpaceCMYKPlusN, 0, lmx::k_no_flag, lmx::position_of(k_sg_ColorSpace_elements, element_ColorSpaceCMYKPlusN), lmx::position_of(k_sg_ColorSpace_elements, element_ColorSpaceCMYKPlusN, 1), &ColorSpaceCMYKPlusNType::k_class, nullptr, {}},
+    {lmx::item_kind::alternative, lmx::value_kind::none, lmx::use_optional, lmx::ELMX_WS_PRESERVE, "Vyr:ColorSpaceAdobeWideGamutRGB", element_ColorSpaceAdobeWideGamutRGB, 0, lmx::k_no_flag, lmx::position_of(k_sg_ColorSpace_elements, element_ColorSpaceAdobeWideGamutRGB), lmx::position_of(k_sg_ColorSpace_elements, element_ColorSpaceAdobeWideGamutRGB, 1), &ColorSpaceAdobeWideGamutRGBType::k_class, nullptr, {}},
+    {lmx::item_kind::alternative, lmx::value_kind::none, lmx::use_optional, lmx::ELMX_WS_PRESERVE, "Vyr:ColorSpaceSpectral", element_ColorSpaceSpectral, 0, lmx::k_no_flag, lmx::position_of(k_sg_ColorSpace_elements, element_ColorSpaceSpectral), lmx::position_of(k_sg_ColorSpace_elements, element_ColorSpaceSpectral, 1), &ColorSpaceSpectralType::k_class, nullptr, {}},
+    {lmx::item_kind::alternative, lmx::value_kind::none, lmx::use_optional, lmx::ELMX_WS_PRESERVE, "Vyr:ColorSpaceEmissiveSpectral", element_ColorSpaceEmissiveSpectral, 0, lmx::k_no_flag, lmx::position_of(k_sg_ColorSpace_elements, element_ColorSpaceEmissiveSpectral), lmx::position_of(k_sg_ColorSpace_elements, element_ColorSpaceEmissiveSpectral, 1), &ColorSpaceEmissiveSpectralType::k_class, nullptr, {}},
+    {lmx::item_kind::alternative, lmx::value_kind::none, lmx::use_optional, lmx::ELMX_WS_PRESERVE, "Vyr:ColorSpaceCIELab", element_ColorSpaceCIELab, 0, lmx::k_no_flag, lmx::position_of(k_sg_ColorSpace_elements, element_ColorSpaceCIELab), lmx::position_of(k_sg_ColorSpace_elements, element_ColorSpaceCIELab, 1), &ColorSpaceCIELabType::k_class, nullptr, {}},
+    {lmx::item_kind::alternative, lmx::value_kind::none, lmx::use_optional, lmx::ELMX_WS_PRESERVE, "Vyr:ColorSpaceCIELCh", element_ColorSpaceCIELCh, 0, lmx::k_no_flag, lmx::position_of(k_sg_ColorSpace_elements, element_ColorSpaceCIELCh), lmx::position_of(k_sg_ColorSpace_elements, element_ColorSpaceCIELCh, 1), &ColorSpaceCIELChType::k_class, nullptr, {}},
+    {lmx::item_kind::alternative, lmx::value_kind::none, lmx::use_optional, lmx::ELMX_WS_PRESERVE, "Vyr:ColorSpaceCIEXYZ", element_ColorSpaceCIEXYZ, 0, lmx::k_no_flag, lmx::position_of(k_sg_ColorSpace_elements, element_ColorSpaceCIEXYZ), lmx::position_of(k_sg_ColorSpace_elements, element_ColorSpaceCIEXYZ, 1), &ColorSpaceCIEXYZType::k_class, nullptr, {}},
+    {lmx::item_kind::alternative, lmx::value_kind::none, lmx::use_optional, lmx::ELMX_WS_PRESERVE, "Vyr:ColorSpaceEmissiveCIEXYZ", element_ColorSpaceEmissiveCIEXYZ, 0, lmx::k_no_flag, lmx::position_of(k_sg_ColorSpace_elements, element_ColorSpaceEmissiveCIEXYZ), lmx::position_of(k_sg_ColorSpace_elements, element_ColorSpaceEmissiveCIEXYZ, 1), &ColorSpaceEmissiveCIEXYZType::k_class, nullptr, {}},
+    {lmx::item_kind::alternative, lmx::value_kind::none, lmx::use_optional, lmx::ELMX_WS_PRESERVE, "Vyr:ColorSpaceCIExyY", element_ColorSpaceCIExyY, 0, lmx::k_no_flag, lmx::position_of(k_sg_ColorSpace_elements, element_ColorSpaceCIExyY), lmx::position_of(k_sg_ColorSpace_elements, element_ColorSpaceCIExyY, 1), &ColorSpaceCIExyYType::k_class, nullptr, {}},
+    {lmx::item_kind::alternative, lmx::value_kind::none, lmx::use_optional, lmx::ELMX_WS_PRESERVE, "Vyr:ColorSpaceEmissiveCIExyY", element_ColorSpaceEmissiveCIExyY, 0, lmx::k_no_flag, lmx::position_of(k_sg_ColorSpace_elements, element_ColorSpaceEmissiveCIExyY), lmx::position_of(k_sg_ColorSpace_elements, element_ColorSpaceEmissiveCIExyY, 1), &ColorSpaceEmissiveCIExyYType::k_class, nullptr, {}},
+    {lmx::item_kind::alternative, lmx::value_kind::none, lmx::use_optional, lmx::ELMX_WS_PRESERVE, "Vyr:ColorSpaceCIELuv", element_ColorSpaceCIELuv, 0, lmx::k_no_flag, lmx::position_of(k_sg_ColorSpace_elements, element_ColorSpaceCIELuv), lmx::position_of(k_sg_ColorSpace_elements, element_ColorSpaceCIELuv, 1), &ColorSpaceCIELuvType::k_class, nullptr, {}},
+    {lmx::item_kind::alternative, lmx::value_kind::none, lmx::use_optional, lmx::ELMX_WS_PRESERVE, "Vyr:ColorSpaceHSL", element_ColorSpaceHSL, 0, lmx::k_no_flag, lmx::position_of(k_sg_ColorSpace_elements, element_ColorSpaceHSL), lmx::position_of(k_sg_ColorSpace_elements, element_ColorSpaceHSL, 1), &ColorSpaceHSLType::k_class, nullptr, {}},
+    {lmx::item_kind::alternative, lmx::value_kind::none, lmx::use_optional, lmx::ELMX_WS_PRESERVE, "Vyr:ColorSpaceHSV", element_ColorSpaceHSV, 0, lmx::k_no_flag, lmx::position_of(k_sg_ColorSpace_elements, element_ColorSpaceHSV), lmx::position_of(k_sg_ColorSpace_elements, element_ColorSpaceHSV, 1), &ColorSpaceHSVType::k_class, nullptr, {}},
+    {lmx::item_kind::alternative, lmx::value_kind::none, lmx::use_optional, lmx::ELMX_WS_PRESERVE, "Vyr:ColorSpaceCMYK", element_ColorSpaceCMYK, 0, lmx::k_no_flag, lmx::position_of(k_sg_ColorSpace_elements, element_ColorSpaceCMYK), lmx::position_of(k_sg_ColorSpace_elements, element_ColorSpaceCMYK, 1), &ColorSpaceCMYKType::k_class, nullptr, ColorSpaceCMYKType::k_factory},
+    {lmx::item_kind::alternative, lmx::value_kind::none, lmx::use_optional, lmx::ELMX_WS_PRESERVE, "Vyr:ColorSpaceTINTORAOctavantic", element_ColorSpaceTINTORAOctavantic, 0, lmx::k_no_flag, lmx::position_of(k_sg_ColorSpace_elements, element_ColorSpaceTINTORAOctavantic), lmx::position_of(k_sg_ColorSpace_elements, element_ColorSpaceTINTORAOctavantic, 1), &ColorSpaceTINTORAOctavanticType::k_class, nullptr, {}},
+    {lmx::item_kind::alternative, lmx::value_kind::none, lmx::use_optional, lmx::ELMX_WS_PRESERVE, "Vyr:ColorSpaceYUV", element_ColorSpaceYUV, 0, lmx::k_no_flag, lmx::position_of(k_sg_ColorSpace_elements, element_ColorSpaceYUV), lmx::position_of(k_sg_ColorSpace_elements, element_ColorSpaceYUV, 1), &ColorSpaceYUVType::k_class, nullptr, {}},
+    {lmx::item_kind::alternative, lmx::value_kind::none, lmx::use_optional, lmx::ELMX_WS_PRESERVE, "Vyr:ColorSpaceYIQ", element_ColorSpaceYIQ, 0, lmx::k_no_flag, lmx::position_of(k_sg_ColorSpace_elements, element_ColorSpaceYIQ), lmx::position_of(k_sg_ColorSpace_elements, element_ColorSpaceYIQ, 1), &ColorSpaceYIQType::k_class, nullptr, {}},
+    {lmx::item_kind::alternative, lmx::value_kind::none, lmx::use_optional, lmx::ELMX_WS_PRESERVE, "Vyr:ColorSpaceYBR", element_ColorSpaceYBR, 0, lmx::k_no_flag, lmx::position_of(k_sg_ColorSpace_elements, element_ColorSpaceYBR), lmx::position_of(k_sg_ColorSpace_elements, element_ColorSpaceYBR, 1), &ColorSpaceYBRType::k_class, nullptr, {}},
+    {lmx::item_kind::alternative, lmx::value_kind::none, lmx::use_optional, lmx::ELMX_WS_PRESERVE, "Vyr:ColorSpaceNCS", element_ColorSpaceNCS, 0, lmx::k_no_flag, lmx::position_of(k_sg_ColorSpace_elements, element_ColorSpaceNCS), lmx::position_of(k_sg_ColorSpace_elements, element_ColorSpaceNCS, 1), &ColorSpaceNCSType::k_class, nullptr, {}},
+    {lmx::item_kind::alternative, lmx::value_kind::none, lmx::use_optional, lmx::ELMX_WS_PRESERVE, "Vyr:ColorSpaceMunsell", element_ColorSpaceMunsell, 0, lmx::k_no_flag, lmx::position_of(k_sg_ColorSpace_elements, element_ColorSpaceMunsell), lmx::position_of(k_sg_ColorSpace_elements, element_ColorSpaceMunsell, 1), &ColorSpaceMunsellType::k_class, nullptr, {}},
+};
+constinit const lmx::s_class sg_ColorSpace::k_class = {
+    .name = "sg_ColorSpace",
+    .qualified_name = "sg_ColorSpace",
+    .base = nullptr,
+    .content = lmx::content_kind::group,
+    .may_be_empty = false,
+    .ns_map = nullptr,
+    .nil_flag = lmx::k_no_flag,
+    .choice = LMX_CHOICE(sg_ColorSpace, m_choice),
+    .id = nullptr,
+    .xsi_type = nullptr,
+    .attributes = std::span(k_items).first(std::size(lmx::k_no_events) - 1),
+    .elements = std::span(k_items).subspan(std::size(lmx::k_no_events) - 1),
+    .attribute_map = lmx::k_no_events,
+    .element_map = k_sg_ColorSpace_elements,
+    .operations = &lmx::k_operations<sg_ColorSpace>,
+};
+
+sg_ColorSpace::sg_ColorSpace() = default;
+sg_ColorSpace::sg_ColorSpace(const sg_ColorSpace& other) { lmx::copy(k_class, this, &other); }
+sg_ColorSpace::~sg_ColorSpace() { lmx::release_choice(k_class, this); }
+sg_ColorSpace& sg_ColorSpace::operator=(const sg_ColorSpace& other) { sg_ColorSpace copy(other); swap(copy); return *this; }
+void sg_ColorSpace::swap(sg_ColorSpace& other) { lmx::swap(k_class, this, &other); }
+void sg_ColorSpace::reset() { sg_ColorSpace fresh; swap(fresh); }
+bool sg_ColorSpace::is_occurs_ok() const { return lmx::is_occurs_ok(k_class, this); }
+bool sg_ColorSpace::is_member(lmx::c_xml_reader& reader, const std::string&) { return lmx::is_group_member(k_class, reader); }
+lmx::elmx_error sg_ColorSpace::marshal(lmx::c_xml_writer& writer, const char*) const { return lmx::marshal_group(k_class, this, writer); }
+bool sg_ColorSpace::unmarshal(lmx::c_xml_reader& reader, std::string* name, lmx::elmx_error* error) { return lmx::unmarshal_group(k_class, this, reader, name, error); }
+void sg_ColorSpace::marshal_attributes(lmx::c_xml_writer& writer) const { lmx::marshal_attributes(k_class, this, writer); }
+lmx::elmx_error sg_ColorSpace::marshal_child_elements(lmx::c_xml_writer& writer) const { return lmx::marshal_child_elements(k_class, this, writer); }
+ColorSpaceRecipeType& sg_ColorSpace::get_ColorSpaceRecipe() { return *static_cast<ColorSpaceRecipeType*>(lmx::choose(k_class, k_items[item_ColorSpaceRecipe], this)); }
+ColorSpaceRecipeType& sg_ColorSpace::assign_ColorSpaceRecipe(const ColorSpaceRecipeType& value) { return get_ColorSpaceRecipe() = value; }
+ColorSpaceTINTORAType& sg_ColorSpace::get_ColorSpaceTINTORA() { return *static_cast<ColorSpaceTINTORAType*>(lmx::choose(k_class, k_items[item_ColorSpaceTINTORA], this)); }
+ColorSpaceTINTORAType& sg_ColorSpace::assign_ColorSpaceTINTORA(const ColorSpaceTINTORAType& value) { return get_ColorSpaceTINTORA() = value; }
+ColorSpaceGenericType& sg_ColorSpace::get_ColorSpaceGeneric() { return *static_cast<ColorSpaceGenericType*>(lmx::choose(k_class, k_items[item_ColorSpaceGeneric], this)); }
+ColorSpaceGenericType& sg_ColorSpace::assign_ColorSpaceGeneric(const ColorSpaceGenericType& value) { return get_ColorSpaceGeneric() = value; }
+ColorSpaceEmissiveGenericType& sg_ColorSpace::get_ColorSpaceEmissiveGeneric() { return *static_cast<ColorSpaceEmissiveGenericType*>(lmx::choose(k_class, k_items[item_ColorSpaceEmissiveGeneric], this)); }
+ColorSpaceEmissiveGenericType& sg_ColorSpace::assign_ColorSpaceEmissiveGeneric(const ColorSpaceEmissiveGenericType& value) { return get_ColorSpaceEmissiveGeneric() = value; }
+ColorSpaceDensityType& sg_ColorSpace::get_ColorSpaceDensity() { return *static_cast<ColorSpaceDensityType*>(lmx::choose(k_class, k_items[item_ColorSpaceDensity], this)); }
+ColorSpaceDensityType& sg_ColorSpace::assign_ColorSpaceDensity(const ColorSpaceDensityType& value) { return get_ColorSpaceDensity() = value; }
+ColorSpaceRGBType& sg_ColorSpace::get_ColorSpaceRGB() { return *static_cast<ColorSpaceRGBType*>(lmx::choose(k_class, k_items[item_ColorSpaceRGB], this)); }
+ColorSpaceRGBType& sg_ColorSpace::assign_ColorSpaceRGB(const ColorSpaceRGBType& value) { return get_ColorSpaceRGB() = value; }
+ColorSpaceSRGBType& sg_ColorSpace::get_ColorSpaceSRGB() { return *static_cast<ColorSpaceSRGBType*>(lmx::choose(k_class, k_items[item_ColorSpaceSRGB], this)); }
+ColorSpaceSRGBType& sg_ColorSpace::assign_ColorSpaceSRGB(const ColorSpaceSRGBType& value) { return get_ColorSpaceSRGB() = value; }
+ColorSpaceAdobeRGBType& sg_ColorSpace::get_ColorSpaceAdobeRGB() { return *static_cast<ColorSpaceAdobeRGBType*>(lmx::choose(k_class, k_items[item_ColorSpaceAdobeRGB], this)); }
+ColorSpaceAdobeRGBType& sg_ColorSpace::assign_ColorSpaceAdobeRGB(const ColorSpaceAdobeRGBType& value) { return get_ColorSpaceAdobeRGB() = value; }
+ColorSpaceCMYKPlusNType& sg_ColorSpace::get_ColorSpaceCMYKPlusN() { return *static_cast<ColorSpaceCMYKPlusNType*>(lmx::choose(k_class, k_items[item_ColorSpaceCMYKPlusN], this)); }
+ColorSpaceCMYKPlusNType& sg_ColorSpace::assign_ColorSpaceCMYKPlusN(const ColorSpaceCMYKPlusNType& value) { return get_ColorSpaceCMYKPlusN() = value; }
+ColorSpaceAdobeWideGamutRGBType& sg_ColorSpace::get_ColorSpaceAdobeWideGamutRGB() { return *static_cast<ColorSpaceAdobeWideGamutRGBType*>(lmx::choose(k_class, k_items[item_ColorSpaceAdobeWideGamutRGB], this)); }
+ColorSpaceAdobeWideGamutRGBType& sg_ColorSpace::assign_ColorSpaceAdobeWideGamutRGB(const ColorSpaceAdobeWideGamutRGBType& value) { return get_ColorSpaceAdobeWideGamutRGB() = value; }
+ColorSpaceSpectralType& sg_ColorSpace::get_ColorSpaceSpectral() { return *static_cast<ColorSpaceSpectralType*>(lmx::choose(k_class, k_items[item_ColorSpaceSpectral], this)); }
+ColorSpaceSpectralType& sg_ColorSpace::assign_ColorSpaceSpectral(const ColorSpaceSpectralType& value) { return get_ColorSpaceSpectral() = value; }
+ColorSpaceEmissiveSpectralType& sg_ColorSpace::get_ColorSpaceEmissiveSpectral() { return *static_cast<ColorSpaceEmissiveSpectralType*>(lmx::choose(k_class, k_items[item_ColorSpaceEmissiveSpectral], this)); }
+ColorSpaceEmissiveSpectralType& sg_ColorSpace::assign_ColorSpaceEmissiveSpectral(const ColorSpaceEmissiveSpectralType& value) { return get_ColorSpaceEmissiveSpectral() = value; }
+ColorSpaceCIELabType& sg_ColorSpace::get_ColorSpaceCIELab() { return *static_cast<ColorSpaceCIELabType*>(lmx::choose(k_class, k_items[item_ColorSpaceCIELab], this)); }
+ColorSpaceCIELabType& sg_ColorSpace::assign_ColorSpaceCIELab(const ColorSpaceCIELabType& value) { return get_ColorSpaceCIELab() = value; }
+ColorSpaceCIELChType& sg_ColorSpace::get_ColorSpaceCIELCh() { return *static_cast<ColorSpaceCIELChType*>(lmx::choose(k_class, k_items[item_ColorSpaceCIELCh], this)); }
+ColorSpaceCIELChType& sg_ColorSpace::assign_ColorSpaceCIELCh(const ColorSpaceCIELChType& value) { return get_ColorSpaceCIELCh() = value; }
+ColorSpaceCIEXYZType& sg_ColorSpace::get_ColorSpaceCIEXYZ() { return *static_cast<ColorSpaceCIEXYZType*>(lmx::choose(k_class, k_items[item_ColorSpaceCIEXYZ], this)); }
+ColorSpaceCIEXYZType& sg_ColorSpace::assign_ColorSpaceCIEXYZ(const ColorSpaceCIEXYZType& value) { return get_ColorSpaceCIEXYZ() = value; }
+ColorSpaceEmissiveCIEXYZType& sg_ColorSpace::get_ColorSpaceEmissiveCIEXYZ() { return *static_cast<ColorSpaceEmissiveCIEXYZType*>(lmx::choose(k_class, k_items[item_ColorSpaceEmissiveCIEXYZ], this)); }
+ColorSpaceEmissiveCIEXYZType& sg_ColorSpace::assign_ColorSpaceEmissiveCIEXYZ(const ColorSpaceEmissiveCIEXYZType& value) { return get_ColorSpaceEmissiveCIEXYZ() = value; }
+ColorSpaceCIExyYType& sg_ColorSpace::get_ColorSpaceCIExyY() { return *static_cast<ColorSpaceCIExyYType*>(lmx::choose(k_class, k_items[item_ColorSpaceCIExyY], this)); }
+ColorSpaceCIExyYType& sg_ColorSpace::assign_ColorSpaceCIExyY(const ColorSpaceCIExyYType& value) { return get_ColorSpaceCIExyY() = value; }
+ColorSpaceEmissiveCIExyYType& sg_ColorSpace::get_ColorSpaceEmissiveCIExyY() { return *static_cast<ColorSpaceEmissiveCIExyYType*>(lmx::choose(k_class, k_items[item_ColorSpaceEmissiveCIExyY], this)); }
+ColorSpaceEmissiveCIExyYType& sg_ColorSpace::assign_ColorSpaceEmissiveCIExyY(const ColorSpaceEmissiveCIExyYType& value) { return get_ColorSpaceEmissiveCIExyY() = value; }
+ColorSpaceCIELuvType& sg_ColorSpace::get_ColorSpaceCIELuv() { return *static_cast<ColorSpaceCIELuvType*>(lmx::choose(k_class, k_items[item_ColorSpaceCIELuv], this)); }
+ColorSpaceCIELuvType& sg_ColorSpace::assign_ColorSpaceCIELuv(const ColorSpaceCIELuvType& value) { return get_ColorSpaceCIELuv() = value; }
+ColorSpaceHSLType& sg_ColorSpace::get_ColorSpaceHSL() { return *static_cast<ColorSpaceHSLType*>(lmx::choose(k_class, k_items[item_ColorSpaceHSL], this)); }
+ColorSpaceHSLType& sg_ColorSpace::assign_ColorSpaceHSL(const ColorSpaceHSLType& value) { return get_ColorSpaceHSL() = value; }
+ColorSpaceHSVType& sg_ColorSpace::get_ColorSpaceHSV() { return *static_cast<ColorSpaceHSVType*>(lmx::choose(k_class, k_items[item_ColorSpaceHSV], this)); }
+ColorSpaceHSVType& sg_ColorSpace::assign_ColorSpaceHSV(const ColorSpaceHSVType& value) { return get_ColorSpaceHSV() = value; }
+ColorSpaceCMYKType& sg_ColorSpace::get_ColorSpaceCMYK() { return *static_cast<ColorSpaceCMYKType*>(lmx::choose(k_class, k_items[item_ColorSpaceCMYK], this)); }
+ColorSpaceCMYKType& sg_ColorSpace::assign_ColorSpaceCMYK(const ColorSpaceCMYKType& value) { return get_ColorSpaceCMYK() = value; }
+ColorSpaceCMYKType& sg_ColorSpace::assign_ColorSpaceCMYK(ColorSpaceCMYKType* value) { lmx::adopt(k_class, k_items[item_ColorSpaceCMYK], this, value); return *value; }
+ColorSpaceTINTORAOctavanticType& sg_ColorSpace::get_ColorSpaceTINTORAOctavantic() { return *static_cast<ColorSpaceTINTORAOctavanticType*>(lmx::choose(k_class, k_items[item_ColorSpaceTINTORAOctavantic], this)); }
+ColorSpaceTINTORAOctavanticType& sg_ColorSpace::assign_ColorSpaceTINTORAOctavantic(const ColorSpaceTINTORAOctavanticType& value) { return get_ColorSpaceTINTORAOctavantic() = value; }
+ColorSpaceYUVType& sg_ColorSpace::get_ColorSpaceYUV() { return *static_cast<ColorSpaceYUVType*>(lmx::choose(k_class, k_items[item_ColorSpaceYUV], this)); }
+ColorSpaceYUVType& sg_ColorSpace::assign_ColorSpaceYUV(const ColorSpaceYUVType& value) { return get_ColorSpaceYUV() = value; }
+ColorSpaceYIQType& sg_ColorSpace::get_ColorSpaceYIQ() { return *static_cast<ColorSpaceYIQType*>(lmx::choose(k_class, k_items[item_ColorSpaceYIQ], this)); }
+ColorSpaceYIQType& sg_ColorSpace::assign_ColorSpaceYIQ(const ColorSpaceYIQType& value) { return get_ColorSpaceYIQ() = value; }
+ColorSpaceYBRType& sg_ColorSpace::get_ColorSpaceYBR() { return *static_cast<ColorSpaceYBRType*>(lmx::choose(k_class, k_items[item_ColorSpaceYBR], this)); }
+ColorSpaceYBRType& sg_ColorSpace::assign_ColorSpaceYBR(const ColorSpaceYBRType& value) { return get_ColorSpaceYBR() = value; }
+ColorSpaceNCSType& sg_ColorSpace::get_ColorSpaceNCS() { return *static_cast<ColorSpaceNCSType*>(lmx::choose(k_class, k_items[item_ColorSpaceNCS], this)); }
+ColorSpaceNCSType& sg_ColorSpace::assign_ColorSpaceNCS(const ColorSpaceNCSType& value) { return get_ColorSpaceNCS() = value; }
+ColorSpaceMunsellType& sg_ColorSpace::get_ColorSpaceMunsell() { return *static_cast<ColorSpaceMunsellType*>(lmx::choose(k_class, k_items[item_ColorSpaceMunsell], this)); }
+ColorSpaceMunsellType& sg_ColorSpace::assign_ColorSpaceMunsell(const ColorSpaceMunsellType& value) { return get_ColorSpaceMunsell() = value; }
+
+// sg_Substrate
+
+namespace {
+constexpr lmx::s_event_map k_sg_Substrate_elements[] = {
+    lmx::element_event("SubstratePaper", element_SubstratePaper),
+    lmx::element_event("SubstrateGeneric", element_SubstrateGeneric),
+    lmx::element_event("SubstrateMetal", element_SubstrateMetal),
+    lmx::element_event("SubstratePlastic", element_SubstratePlastic),
+    lmx::element_event("SubstrateWood", element_SubstrateWood),
+    lmx::element_event("SubstrateVinyl", element_SubstrateVinyl),
+    lmx::element_event("SubstrateTile", element_SubstrateTile),
+    lmx::element_event("SubstrateFilm", element_SubstrateFilm),
+    lmx::element_event("SubstrateTextile", element_SubstrateTextile),
+    lmx::k_end_of_map,
+};
+}  // namespace
+
+constinit const lmx::s_item sg_Substrate::k_items[] = {
+    {lmx::item_kind::alternative, lmx::value_kind::none, lmx::use_optional, lmx::ELMX_WS_PRESERVE, "Vyr:SubstratePaper", element_SubstratePaper, 0, lmx::k_no_flag, lmx::position_of(k_sg_Substrate_elements, element_SubstratePaper), lmx::position_of(k_sg_Substrate_elements, element_SubstratePaper, 1), &SubstratePaperType::k_class, nullptr, {}},
+    {lmx::item_kind::alternative, lmx::value_kind::none, lmx::use_optional, lmx::ELMX_WS_PRESERVE, "Vyr:SubstrateGeneric", element_SubstrateGeneric, 0, lmx::k_no_flag, lmx::position_of(k_sg_Substrate_elements, element_SubstrateGeneric), lmx::position_of(k_sg_Substrate_elements, element_SubstrateGeneric, 1), &SubstrateGenericType::k_class, nullptr, {}},
+    {lmx::item_kind::alternative, lmx::value_kind::none, lmx::use_optional, lmx::ELMX_WS_PRESERVE, "Vyr:SubstrateMetal", element_SubstrateMetal, 0, lmx::k_no_flag, lmx::position_of(k_sg_Substrate_elements, element_SubstrateMetal), lmx::position_of(k_sg_Substrate_elements, element_SubstrateMetal, 1), &SubstrateMetalType::k_class, nullptr, {}},
+    {lmx::item_kind::alternative, lmx::value_kind::none, lmx::use_optional, lmx::ELMX_WS_PRESERVE, "Vyr:SubstratePlastic", element_SubstratePlastic, 0, lmx::k_no_flag, lmx::position_of(k_sg_Substrate_elements, element_SubstratePlastic), lmx::position_of(k_sg_Substrate_elements, element_SubstratePlastic, 1), &SubstratePlasticType::k_class, nullptr, {}},
+    {lmx::item_kind::alternative, lmx::value_kind::none, lmx::use_optional, lmx::ELMX_WS_PRESERVE, "Vyr:SubstrateWood", element_SubstrateWood, 0, lmx::k_no_flag, lmx::position_of(k_sg_Substrate_elements, element_SubstrateWood), lmx::position_of(k_sg_Substrate_elements, element_SubstrateWood, 1), &SubstrateWoodType::k_class, nullptr, {}},
+    {lmx::item_kind::alternative, lmx::value_kind::none, lmx::use_optional, lmx::ELMX_WS_PRESERVE, "Vyr:SubstrateVinyl", element_SubstrateVinyl, 0, lmx::k_no_flag, lmx::position_of(k_sg_Substrate_elements, element_SubstrateVinyl), lmx::position_of(k_sg_Substrate_elements, element_SubstrateVinyl, 1), &SubstrateVinylType::k_class, nullptr, {}},
+    {lmx::item_kind::alternative, lmx::value_kind::none, lmx::use_optional, lmx::ELMX_WS_PRESERVE, "Vyr:SubstrateTile", element_SubstrateTile, 0, lmx::k_no_flag, lmx::position_of(k_sg_Substrate_elements, element_SubstrateTile), lmx::position_of(k_sg_Substrate_elements, element_SubstrateTile, 1), &SubstrateTileType::k_class, nullptr, {}},
+    {lmx::item_kind::alternative, lmx::value_kind::none, lmx::use_optional, lmx::ELMX_WS_PRESERVE, "Vyr:SubstrateFilm", element_SubstrateFilm, 0, lmx::k_no_flag, lmx::position_of(k_sg_Substrate_elements, element_SubstrateFilm), lmx::position_of(k_sg_Substrate_elements, element_SubstrateFilm, 1), &SubstrateFilmType::k_class, nullptr, {}},
+    {lmx::item_kind::alternative, lmx::value_kind::none, lmx::use_optional, lmx::ELMX_WS_PRESERVE, "Vyr:SubstrateTextile", element_SubstrateTextile, 0, lmx::k_no_flag, lmx::position_of(k_sg_Substrate_elements, element_SubstrateTextile), lmx::position_of(k_sg_Substrate_elements, element_SubstrateTextile, 1), &SubstrateTextileType::k_class, nullptr, {}},
+};
+constinit const lmx::s_class sg_Substrate::k_class = {
+    .name = "sg_Substrate",
+    .qualified_name = "sg_Substrate",
+    .base = nullptr,
+    .content = lmx::content_kind::group,
+    .may_be_empty = false,
+    .ns_map = nullptr,
+    .nil_flag = lmx::k_no_flag,
+    .choice = LMX_CHOICE(sg_Substrate, m_choice),
+    .id = nullptr,
+    .xsi_type = nullptr,
+    .attributes = std::span(k_items).first(std::size(lmx::k_no_events) - 1),
+    .elements = std::span(k_items).subspan(std::size(lmx::k_no_events) - 1),
+    .attribute_map = lmx::k_no_events,
+    .element_map = k_sg_Substrate_elements,
+    .operations = &lmx::k_operations<sg_Substrate>,
+};
+
+sg_Substrate::sg_Substrate() = default;
+sg_Substrate::sg_Substrate(const sg_Substrate& other) { lmx::copy(k_class, this, &other); }
+sg_Substrate::~sg_Substrate() { lmx::release_choice(k_class, this); }
+sg_Substrate& sg_Substrate::operator=(const sg_Substrate& other) { sg_Substrate copy(other); swap(copy); return *this; }
+void sg_Substrate::swap(sg_Substrate& other) { lmx::swap(k_class, this, &other); }
+void sg_Substrate::reset() { sg_Substrate fresh; swap(fresh); }
+bool sg_Substrate::is_occurs_ok() const { return lmx::is_occurs_ok(k_class, this); }
+bool sg_Substrate::is_member(lmx::c_xml_reader& reader, const std::string&) { return lmx::is_group_member(k_class, reader); }
+lmx::elmx_error sg_Substrate::marshal(lmx::c_xml_writer& writer, const char*) const { return lmx::marshal_group(k_class, this, writer); }
+bool sg_Substrate::unmarshal(lmx::c_xml_reader& reader, std::string* name, lmx::elmx_error* error) { return lmx::unmarshal_group(k_class, this, reader, name, error); }
+void sg_Substrate::marshal_attributes(lmx::c_xml_writer& writer) const { lmx::marshal_attributes(k_class, this, writer); }
+lmx::elmx_error sg_Substrate::marshal_child_elements(lmx::c_xml_writer& writer) const { return lmx::marshal_child_elements(k_class, this, writer); }
+SubstratePaperType& sg_Substrate::get_SubstratePaper() { return *static_cast<SubstratePaperType*>(lmx::choose(k_class, k_items[item_SubstratePaper], this)); }
+SubstratePaperType& sg_Substrate::assign_SubstratePaper(const SubstratePaperType& value) { return get_SubstratePaper() = value; }
+SubstrateGenericType& sg_Substrate::get_SubstrateGeneric() { return *static_cast<SubstrateGenericType*>(lmx::choose(k_class, k_items[item_SubstrateGeneric], this)); }
+SubstrateGenericType& sg_Substrate::assign_SubstrateGeneric(const SubstrateGenericType& value) { return get_SubstrateGeneric() = value; }
+SubstrateMetalType& sg_Substrate::get_SubstrateMetal() { return *static_cast<SubstrateMetalType*>(lmx::choose(k_class, k_items[item_SubstrateMetal], this)); }
+SubstrateMetalType& sg_Substrate::assign_SubstrateMetal(const SubstrateMetalType& value) { return get_SubstrateMetal() = value; }
+SubstratePlasticType& sg_Substrate::get_SubstratePlastic() { return *static_cast<SubstratePlasticType*>(lmx::choose(k_class, k_items[item_SubstratePlastic], this)); }
+SubstratePlasticType& sg_Substrate::assign_SubstratePlastic(const SubstratePlasticType& value) { return get_SubstratePlastic() = value; }
+SubstrateWoodType& sg_Substrate::get_SubstrateWood() { return *static_cast<SubstrateWoodType*>(lmx::choose(k_class, k_items[item_SubstrateWood], this)); }
+SubstrateWoodType& sg_Substrate::assign_SubstrateWood(const SubstrateWoodType& value) { return get_SubstrateWood() = value; }
+SubstrateVinylType& sg_Substrate::get_SubstrateVinyl() { return *static_cast<SubstrateVinylType*>(lmx::choose(k_class, k_items[item_SubstrateVinyl], this)); }
+SubstrateVinylType& sg_Substrate::assign_SubstrateVinyl(const SubstrateVinylType& value) { return get_SubstrateVinyl() = value; }
+SubstrateTileType& sg_Substrate::get_SubstrateTile() { return *static_cast<SubstrateTileType*>(lmx::choose(k_class, k_items[item_SubstrateTile], this)); }
+SubstrateTileType& sg_Substrate::assign_SubstrateTile(const SubstrateTileType& value) { return get_SubstrateTile() = value; }
+SubstrateFilmType& sg_Substrate::get_SubstrateFilm() { return *static_cast<SubstrateFilmType*>(lmx::choose(k_class, k_items[item_SubstrateFilm], this)); }
+SubstrateFilmType& sg_Substrate::assign_SubstrateFilm(const SubstrateFilmType& value) { return get_SubstrateFilm() = value; }
+SubstrateTextileType& sg_Substrate::get_SubstrateTextile() { return *static_cast<SubstrateTextileType*>(lmx::choose(k_class, k_items[item_SubstrateTextile], this)); }
+SubstrateTextileType& sg_Substrate::assign_SubstrateTextile(const SubstrateTextileType& value) { return get_SubstrateTextile() = value; }
+
+// sg_Sample
+
+namespace {
+constexpr lmx::s_event_map k_sg_Sample_elements[] = {
+    lmx::element_event("SampleSpot", element_SampleSpot),
+    lmx::element_event("SampleTarget", element_SampleTarget),
+    lmx::k_end_of_map,
+};
+}  // namespace
+
+constinit const lmx::s_item sg_Sample::k_items[] = {
+    {lmx::item_kind::alternative, lmx::value_kind::none, lmx::use_optional, lmx::ELMX_WS_PRESERVE, "Vyr:SampleSpot", element_SampleSpot, 0, lmx::k_no_flag, lmx::position_of(k_sg_Sample_elements, element_SampleSpot), lmx::position_of(k_sg_Sample_elements, element_SampleSpot, 1), &SampleSpotType::k_class, nullptr, {}},
+    {lmx::item_kind::alternative, lmx::value_kind::none, lmx::use_optional, lmx::ELMX_WS_PRESERVE, "Vyr:SampleTarget", element_SampleTarget, 0, lmx::k_no_flag, lmx::position_of(k_sg_Sample_elements, element_SampleTarget), lmx::position_of(k_sg_Sample_elements, element_SampleTarget, 1), &SampleTargetType::k_class, nullptr, {}},
+};
+constinit const lmx::s_class sg_Sample::k_class = {
+    .name = "sg_Sample",
+    .qualified_name = "sg_Sample",
+    .base = nullptr,
+    .content = lmx::content_kind::group,
+    .may_be_empty = false,
+    .ns_map = nullptr,
+    .nil_flag = lmx::k_no_flag,
+    .choice = LMX_CHOICE(sg_Sample, m_choice),
+    .id = nullptr,
+    .xsi_type = nullptr,
+    .attributes = std::span(k_items).first(std::size(lmx::k_no_events) - 1),
+    .elements = std::span(k_items).subspan(std::size(lmx::k_no_events) - 1),
+    .attribute_map = lmx::k_no_events,
+    .element_map = k_sg_Sample_elements,
+    .operations = &lmx::k_operations<sg_Sample>,
+};
+
+sg_Sample::sg_Sample() = default;
+sg_Sample::sg_Sample(const sg_Sample& other) { lmx::copy(k_class, this, &other); }
+sg_Sample::~sg_Sample() { lmx::release_choice(k_class, this); }
+sg_Sample& sg_Sample::operator=(const sg_Sample& other) { sg_Sample copy(other); swap(copy); return *this; }
+void sg_Sample::swap(sg_Sample& other) { lmx::swap(k_class, this, &other); }
+void sg_Sample::reset() { sg_Sample fresh; swap(fresh); }
+bool sg_Sample::is_occurs_ok() const { return lmx::is_occurs_ok(k_class, this); }
+bool sg_Sample::is_member(lmx::c_xml_reader& reader, const std::string&) { return lmx::is_group_member(k_class, reader); }
+lmx::elmx_error sg_Sample::marshal(lmx::c_xml_writer& writer, const char*) const { return lmx::marshal_group(k_class, this, writer); }
+bool sg_Sample::unmarshal(lmx::c_xml_reader& reader, std::string* name, lmx::elmx_error* error) { return lmx::unmarshal_group(k_class, this, reader, name, error); }
+void sg_Sample::marshal_attributes(lmx::c_xml_writer& writer) const { lmx::marshal_attributes(k_class, this, writer); }
+lmx::elmx_error sg_Sample::marshal_child_elements(lmx::c_xml_writer& writer) const { return lmx::marshal_child_elements(k_class, this, writer); }
+SampleSpotType& sg_Sample::get_SampleSpot() { return *static_cast<SampleSpotType*>(lmx::choose(k_class, k_items[item_SampleSpot], this)); }
+SampleSpotType& sg_Sample::assign_SampleSpot(const SampleSpotType& value) { return get_SampleSpot() = value; }
+SampleTargetType& sg_Sample::get_SampleTarget() { return *static_cast<SampleTargetType*>(lmx::choose(k_class, k_items[item_SampleTarget], this)); }
+SampleTargetType& sg_Sample::assign_SampleTarget(const SampleTargetType& value) { return get_SampleTarget() = value; }
+
+// sg_Function
+
+namespace {
+constexpr lmx::s_event_map k_sg_Function_elements[] = {
+    lmx::element_event("Function", element_Function),
+    lmx::element_event("FunctionGeneric", element_FunctionGeneric),
+    lmx::element_event("FunctionDE", element_FunctionDE),
+    lmx::element_event("FunctionMeanDE", element_FunctionMeanDE),
+    lmx::element_event("FunctionDE94", element_FunctionDE94),
+    lmx::element_event("FunctionDE2000", element_FunctionDE2000),
+    lmx::element_event("FunctionDECMC", element_FunctionDECMC),
+    lmx::element_event("FunctionStdDevX", element_FunctionStdDevX),
+    lmx::element_event("FunctionStdDevY", element_FunctionStdDevY),
+    lmx::element_event("FunctionStdDevZ", element_FunctionStdDevZ),
+    lmx::element_event("FunctionStdDevL", element_FunctionStdDevL),
+    lmx::element_event("FunctionStdDevA", element_FunctionStdDevA),
+    lmx::element_event("FunctionStdDevB", element_FunctionStdDevB),
+    lmx::element_event("FunctionStdDevC", element_FunctionStdDevC),
+    lmx::element_event("FunctionStdDevH", element_FunctionStdDevH),
+    lmx::element_event("FunctionAverageStdDevL", element_FunctionAverageStdDevL),
+    lmx::element_event("FunctionAverageStdDevA", element_FunctionAverageStdDevA),
+    lmx::element_event("FunctionAverageStdDevB", element_FunctionAverageStdDevB),
+    lmx::k_end_of_map,
+};
+}  // namespace
+
+constinit const lmx::s_item sg_Function::k_items[] = {
+    {lmx::item_kind::alternative, lmx::value_kind::none, lmx::use_demanded, lmx::ELMX_WS_PRESERVE, "Vyr:Function", element_Function, 0, lmx::k_no_flag, lmx::position_of(k_sg_Function_elements, element_Function), lmx::position_of(k_sg_Function_elements, element_Function, 1), &FunctionType::k_class, nullptr, FunctionType::k_factory},
+    {lmx::item_kind::alternative, lmx::value_kind::none, lmx::use_optional, lmx::ELMX_WS_PRESERVE, "Vyr:FunctionGeneric", element_FunctionGeneric, 0, lmx::k_no_flag, lmx::position_of(k_sg_Function_elements, element_FunctionGeneric), lmx::position_of(k_sg_Function_elements, element_FunctionGeneric, 1), &FunctionGenericType::k_class, nullptr, {}},
+    {lmx::item_kind::alternative, lmx::value_kind::none, lmx::use_optional, lmx::ELMX_WS_PRESERVE, "Vyr:FunctionDE", element_FunctionDE, 0, lmx::k_no_flag, lmx::position_of(k_sg_Function_elements, element_FunctionDE), lmx::position_of(k_sg_Function_elements, element_FunctionDE, 1), &FunctionDEType::k_class, nullptr, {}},
+    {lmx::item_kind::alternative, lmx::value_kind::none, lmx::use_optional, lmx::ELMX_WS_PRESERVE, "Vyr:FunctionMeanDE", element_FunctionMeanDE, 0, lmx::k_no_flag, lmx::position_of(k_sg_Function_elements, element_FunctionMeanDE), lmx::position_of(k_sg_Function_elements, element_FunctionMeanDE, 1), &FunctionMeanDEType::k_class, nullptr, {}},
+    {lmx::item_kind::alternative, lmx::value_kind::none, lmx::use_optional, lmx::ELMX_WS_PRESERVE, "Vyr:FunctionDE94", element_FunctionDE94, 0, lmx::k_no_flag, lmx::position_of(k_sg_Function_elements, element_FunctionDE94), lmx::position_of(k_sg_Function_elements, element_FunctionDE94, 1), &FunctionDE94Type::k_class, nullptr, {}},
+    {lmx::item_kind::alternative, lmx::value_kind::none, lmx::use_optional, lmx::ELMX_WS_PRESERVE, "Vyr:FunctionDE2000", element_FunctionDE2000, 0, lmx::k_no_flag, lmx::position_of(k_sg_Function_elements, element_FunctionDE2000), lmx::position_of(k_sg_Function_elements, element_FunctionDE2000, 1), &FunctionDE2000Type::k_class, nullptr, {}},
+    {lmx::item_kind::alternative, lmx::value_kind::none, lmx::use_optional, lmx::ELMX_WS_PRESERVE, "Vyr:FunctionDECMC", element_FunctionDECMC, 0, lmx::k_no_flag, lmx::position_of(k_sg_Function_elements, element_FunctionDECMC), lmx::position_of(k_sg_Function_elements, element_FunctionDECMC, 1), &FunctionDEcmcType::k_class, nullptr, {}},
+    {lmx::item_kind::alternative, lmx::value_kind::none, lmx::use_optional, lmx::ELMX_WS_PRESERVE, "Vyr:FunctionStdDevX", element_FunctionStdDevX, 0, lmx::k_no_flag, lmx::position_of(k_sg_Function_elements, element_FunctionStdDevX), lmx::position_of(k_sg_Function_elements, element_FunctionStdDevX, 1), &FunctionStdDevXType::k_class, nullptr, {}},
+    {lmx::item_kind::alternative, lmx::value_kind::none, lmx::use_optional, lmx::ELMX_WS_PRESERVE, "Vyr:FunctionStdDevY", element_FunctionStdDevY, 0, lmx::k_no_flag, lmx::position_of(k_sg_Function_elements, element_FunctionStdDevY), lmx::position_of(k_sg_Function_elements, element_FunctionStdDevY, 1), &FunctionStdDevYType::k_class, nullptr, {}},
+    {lmx::item_kind::alternative, lmx::value_kind::none, lmx::use_optional, lmx::ELMX_WS_PRESERVE, "Vyr:FunctionStdDevZ", element_FunctionStdDevZ, 0, lmx::k_no_flag, lmx::position_of(k_sg_Function_elements, element_FunctionStdDevZ), lmx::position_of(k_sg_Function_elements, element_FunctionStdDevZ, 1), &FunctionStdDevZType::k_class, nullptr, {}},
+    {lmx::item_kind::alternative, lmx::value_kind::none, lmx::use_optional, lmx::ELMX_WS_PRESERVE, "Vyr:FunctionStdDevL", element_FunctionStdDevL, 0, lmx::k_no_flag, lmx::position_of(k_sg_Function_elements, element_FunctionStdDevL), lmx::position_of(k_sg_Function_elements, element_FunctionStdDevL, 1), &FunctionStdDevLType::k_class, nullptr, {}},
+    {lmx::item_kind::alternative, lmx::value_kind::none, lmx::use_optional, lmx::ELMX_WS_PRESERVE, "Vyr:FunctionStdDevA", element_FunctionStdDevA, 0, lmx::k_no_flag, lmx::position_of(k_sg_Function_elements, element_FunctionStdDevA), lmx::position_of(k_sg_Function_elements, element_FunctionStdDevA, 1), &FunctionStdDevAType::k_class, nullptr, {}},
+    {lmx::item_kind::alternative, lmx::value_kind::none, lmx::use_optional, lmx::ELMX_WS_PRESERVE, "Vyr:FunctionStdDevB", element_FunctionStdDevB, 0, lmx::k_no_flag, lmx::position_of(k_sg_Function_elements, element_FunctionStdDevB), lmx::position_of(k_sg_Function_elements, element_FunctionStdDevB, 1), &FunctionStdDevBType::k_class, nullptr, {}},
+    {lmx::item_kind::alternative, lmx::value_kind::none, lmx::use_optional, lmx::ELMX_WS_PRESERVE, "Vyr:FunctionStdDevC", element_FunctionStdDevC, 0, lmx::k_no_flag, lmx::position_of(k_sg_Function_elements, element_FunctionStdDevC), lmx::position_of(k_sg_Function_elements, element_FunctionStdDevC, 1), &FunctionStdDevCType::k_class, nullptr, {}},
+    {lmx::item_kind::alternative, lmx::value_kind::none, lmx::use_optional, lmx::ELMX_WS_PRESERVE, "Vyr:FunctionStdDevH", element_FunctionStdDevH, 0, lmx::k_no_flag, lmx::position_of(k_sg_Function_elements, element_FunctionStdDevH), lmx::position_of(k_sg_Function_elements, element_FunctionStdDevH, 1), &FunctionStdDevHType::k_class, nullptr, {}},
+    {lmx::item_kind::alternative, lmx::value_kind::none, lmx::use_optional, lmx::ELMX_WS_PRESERVE, "Vyr:FunctionAverageStdDevL", element_FunctionAverageStdDevL, 0, lmx::k_no_flag, lmx::position_of(k_sg_Function_elements, element_FunctionAverageStdDevL), lmx::position_of(k_sg_Function_elements, element_FunctionAverageStdDevL, 1), &FunctionAverageStdDevLType::k_class, nullptr, {}},
+    {lmx::item_kind::alternative, lmx::value_kind::none, lmx::use_optional, lmx::ELMX_WS_PRESERVE, "Vyr:FunctionAverageStdDevA", element_FunctionAverageStdDevA, 0, lmx::k_no_flag, lmx::position_of(k_sg_Function_elements, element_FunctionAverageStdDevA), lmx::position_of(k_sg_Function_elements, element_FunctionAverageStdDevA, 1), &FunctionAverageStdDevAType::k_class, nullptr, {}},
+    {lmx::item_kind::alternative, lmx::value_kind::none, lmx::use_optional, lmx::ELMX_WS_PRESERVE, "Vyr:FunctionAverageStdDevB", element_FunctionAverageStdDevB, 0, lmx::k_no_flag, lmx::position_of(k_sg_Function_elements, element_FunctionAverageStdDevB), lmx::position_of(k_sg_Function_elements, element_FunctionAverageStdDevB, 1), &FunctionAverageStdDevBType::k_class, nullptr, {}},
+};
+constinit const lmx::s_class sg_Function::k_class = {
+    .name = "sg_Function",
+    .qualified_name = "sg_Function",
+    .base = nullptr,
+    .content = lmx::content_kind::group,
+    .may_be_empty = false,
+    .ns_map = nullptr,
+    .nil_flag = lmx::k_no_flag,
+    .choice = LMX_CHOICE(sg_Function, m_choice),
+    .id = nullptr,
+    .xsi_type = nullptr,
+    .attributes = std::span(k_items).first(std::size(lmx::k_no_events) - 1),
+    .elements = std::span(k_items).subspan(std::size(lmx::k_no_events) - 1),
+    .attribute_map = lmx::k_no_events,
+    .element_map = k_sg_Function_elements,
+    .operations = &lmx::k_operations<sg_Function>,
+};
+
+sg_Function::sg_Function() = default;
+sg_Function::sg_Function(const sg_Function& other) { lmx::copy(k_class, this, &other); }
+sg_Function::~sg_Function() { lmx::release_choice(k_class, this); }
+sg_Function& sg_Function::operator=(const sg_Function& other) { sg_Function copy(other); swap(copy); return *this; }
+void sg_Function::swap(sg_Function& other) { lmx::swap(k_class, this, &other); }
+void sg_Function::reset() { sg_Function fresh; swap(fresh); }
+bool sg_Function::is_occurs_ok() const { return lmx::is_occurs_ok(k_class, this); }
+bool sg_Function::is_member(lmx::c_xml_reader& reader, const std::string&) { return lmx::is_group_member(k_class, reader); }
+lmx::elmx_error sg_Function::marshal(lmx::c_xml_writer& writer, const char*) const { return lmx::marshal_group(k_class, this, writer); }
+bool sg_Function::unmarshal(lmx::c_xml_reader& reader, std::string* name, lmx::elmx_error* error) { return lmx::unmarshal_group(k_class, this, reader, name, error); }
+void sg_Function::marshal_attributes(lmx::c_xml_writer& writer) const { lmx::marshal_attributes(k_class, this, writer); }
+lmx::elmx_error sg_Function::marshal_child_elements(lmx::c_xml_writer& writer) const { return lmx::marshal_child_elements(k_class, this, writer); }
+FunctionType& sg_Function::get_Function() { return *static_cast<FunctionType*>(lmx::choose(k_class, k_items[item_Function], this)); }
+FunctionType& sg_Function::assign_Function(const FunctionType& value) { return get_Function() = value; }
+FunctionType& sg_Function::assign_Function(FunctionType* value) { lmx::adopt(k_class, k_items[item_Function], this, value); return *value; }
+FunctionGenericType& sg_Function::get_FunctionGeneric() { return *static_cast<FunctionGenericType*>(lmx::choose(k_class, k_items[item_FunctionGeneric], this)); }
+FunctionGenericType& sg_Function::assign_FunctionGeneric(const FunctionGenericType& value) { return get_FunctionGeneric() = value; }
+FunctionDEType& sg_Function::get_FunctionDE() { return *static_cast<FunctionDEType*>(lmx::choose(k_class, k_items[item_FunctionDE], this)); }
+FunctionDEType& sg_Function::assign_FunctionDE(const FunctionDEType& value) { return get_FunctionDE() = value; }
+FunctionMeanDEType& sg_Function::get_FunctionMeanDE() { return *static_cast<FunctionMeanDEType*>(lmx::choose(k_class, k_items[item_FunctionMeanDE], this)); }
+FunctionMeanDEType& sg_Function::assign_FunctionMeanDE(const FunctionMeanDEType& value) { return get_FunctionMeanDE() = value; }
+FunctionDE94Type& sg_Function::get_FunctionDE94() { return *static_cast<FunctionDE94Type*>(lmx::choose(k_class, k_items[item_FunctionDE94], this)); }
+FunctionDE94Type& sg_Function::assign_FunctionDE94(const FunctionDE94Type& value) { return get_FunctionDE94() = value; }
+FunctionDE2000Type& sg_Function::get_FunctionDE2000() { return *static_cast<FunctionDE2000Type*>(lmx::choose(k_class, k_items[item_FunctionDE2000], this)); }
+FunctionDE2000Type& sg_Function::assign_FunctionDE2000(const FunctionDE2000Type& value) { return get_FunctionDE2000() = value; }
+FunctionDEcmcType& sg_Function::get_FunctionDECMC() { return *static_cast<FunctionDEcmcType*>(lmx::choose(k_class, k_items[item_FunctionDECMC], this)); }
+FunctionDEcmcType& sg_Function::assign_FunctionDECMC(const FunctionDEcmcType& value) { return get_FunctionDECMC() = value; }
+FunctionStdDevXType& sg_Function::get_FunctionStdDevX() { return *static_cast<FunctionStdDevXType*>(lmx::choose(k_class, k_items[item_FunctionStdDevX], this)); }
+FunctionStdDevXType& sg_Function::assign_FunctionStdDevX(const FunctionStdDevXType& value) { return get_FunctionStdDevX() = value; }
+FunctionStdDevYType& sg_Function::get_FunctionStdDevY() { return *static_cast<FunctionStdDevYType*>(lmx::choose(k_class, k_items[item_FunctionStdDevY], this)); }
+FunctionStdDevYType& sg_Function::assign_FunctionStdDevY(const FunctionStdDevYType& value) { return get_FunctionStdDevY() = value; }
+FunctionStdDevZType& sg_Function::get_FunctionStdDevZ() { return *static_cast<FunctionStdDevZType*>(lmx::choose(k_class, k_items[item_FunctionStdDevZ], this)); }
+FunctionStdDevZType& sg_Function::assign_FunctionStdDevZ(const FunctionStdDevZType& value) { return get_FunctionStdDevZ() = value; }
+FunctionStdDevLType& sg_Function::get_FunctionStdDevL() { return *static_cast<FunctionStdDevLType*>(lmx::choose(k_class, k_items[item_FunctionStdDevL], this)); }
+FunctionStdDevLType& sg_Function::assign_FunctionStdDevL(const FunctionStdDevLType& value) { return get_FunctionStdDevL() = value; }
+FunctionStdDevAType& sg_Function::get_FunctionStdDevA() { return *static_cast<FunctionStdDevAType*>(lmx::choose(k_class, k_items[item_FunctionStdDevA], this)); }
+FunctionStdDevAType& sg_Function::assign_FunctionStdDevA(const FunctionStdDevAType& value) { return get_FunctionStdDevA() = value; }
+FunctionStdDevBType& sg_Function::get_FunctionStdDevB() { return *static_cast<FunctionStdDevBType*>(lmx::choose(k_class, k_items[item_FunctionStdDevB], this)); }
+FunctionStdDevBType& sg_Function::assign_FunctionStdDevB(const FunctionStdDevBType& value) { return get_FunctionStdDevB() = value; }
+FunctionStdDevCType& sg_Function::get_FunctionStdDevC() { return *static_cast<FunctionStdDevCType*>(lmx::choose(k_class, k_items[item_FunctionStdDevC], this)); }
+FunctionStdDevCType& sg_Function::assign_FunctionStdDevC(const FunctionStdDevCType& value) { return get_FunctionStdDevC() = value; }
+FunctionStdDevHType& sg_Function::get_FunctionStdDevH() { return *static_cast<FunctionStdDevHType*>(lmx::choose(k_class, k_items[item_FunctionStdDevH], this)); }
+FunctionStdDevHType& sg_Function::assign_FunctionStdDevH(const FunctionStdDevHType& value) { return get_FunctionStdDevH() = value; }
+FunctionAverageStdDevLType& sg_Function::get_FunctionAverageStdDevL() { return *static_cast<FunctionAverageStdDevLType*>(lmx::choose(k_class, k_items[item_FunctionAverageStdDevL], this)); }
+FunctionAverageStdDevLType& sg_Function::assign_FunctionAverageStdDevL(const FunctionAverageStdDevLType& value) { return get_FunctionAverageStdDevL() = value; }
+FunctionAverageStdDevAType& sg_Function::get_FunctionAverageStdDevA() { return *static_cast<FunctionAverageStdDevAType*>(lmx::choose(k_class, k_items[item_FunctionAverageStdDevA], this)); }
+FunctionAverageStdDevAType& sg_Function::assign_FunctionAverageStdDevA(const FunctionAverageStdDevAType& value) { return get_FunctionAverageStdDevA() = value; }
+FunctionAverageStdDevBType& sg_Function::get_FunctionAverageStdDevB() { return *static_cast<FunctionAverageStdDevBType*>(lmx::choose(k_class, k_items[item_FunctionAverageStdDevB], this)); }
+FunctionAverageStdDevBType& sg_Function::assign_FunctionAverageStdDevB(const FunctionAverageStdDevBType& value) { return get_FunctionAverageStdDevB() = value; }
+
+}  // namespace com_vyrgraph_v2

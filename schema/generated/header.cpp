@@ -1,0 +1,927 @@
+// Copyright 2026 The Vyr Authors
+// SPDX-License-Identifier: Apache-2.0
+//
+// Made by schema/generator/generate.py from schema/vyr.xsd and schema/binding.toml. Change those instead.
+// clang-format off
+
+/// Tables and members of the classes in header.h.
+
+#include "schema/generated/header.h"
+#include "lmx/binding/binding.h"
+#include "lmx/binding/rows.h"
+#include "schema/generated/palettes.h"
+#include "schema/generated/quality_control.h"
+#include "schema/generated/tables.h"
+
+// Offsets of members of classes with virtual functions: both compilers define them, and the macros check them.
+#pragma GCC diagnostic ignored "-Winvalid-offsetof"
+
+namespace com_vyrgraph_v2 {
+
+static_assert(lmx::k_binding_version == 1, "run schema/generator/generate.py");
+
+// SDKVersion
+
+constinit const lmx::s_item SDKVersion::k_items[] = {
+    {lmx::item_kind::content, lmx::value_kind::text, lmx::use_required, lmx::ELMX_WS_PRESERVE, "", 0, LMX_OFFSET(SDKVersion, m_SDKVersion, content, text), LMX_FLAG(SDKVersion, m_isset_SDKVersion), 0, 0, nullptr, nullptr, {}},
+};
+constinit const lmx::s_class SDKVersion::k_class = {
+    .name = "SDKVersion",
+    .qualified_name = "Vyr:SDKVersion",
+    .base = nullptr,
+    .content = lmx::content_kind::simple,
+    .may_be_empty = false,
+    .ns_map = nullptr,
+    .nil_flag = LMX_FLAG(SDKVersion, m_isnil),
+    .choice = lmx::k_no_flag,
+    .id = nullptr,
+    .xsi_type = nullptr,
+    .attributes = std::span(k_items).first(std::size(lmx::k_no_events) - 1),
+    .elements = std::span(k_items).subspan(std::size(lmx::k_no_events) - 1),
+    .attribute_map = lmx::k_no_events,
+    .element_map = lmx::k_no_events,
+    .operations = &lmx::k_operations<SDKVersion>,
+};
+
+SDKVersion::SDKVersion() = default;
+SDKVersion::SDKVersion(const SDKVersion& other) { lmx::copy(k_class, this, &other); }
+SDKVersion::~SDKVersion() = default;
+SDKVersion& SDKVersion::operator=(const SDKVersion& other) { SDKVersion copy(other); swap(copy); return *this; }
+void SDKVersion::swap(SDKVersion& other) { lmx::swap(k_class, this, &other); }
+void SDKVersion::reset() { SDKVersion fresh; swap(fresh); }
+bool SDKVersion::is_occurs_ok() const { return lmx::is_occurs_ok(k_class, this); }
+lmx::elmx_error SDKVersion::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
+lmx::elmx_error SDKVersion::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
+void SDKVersion::marshal_attributes(lmx::c_xml_writer& writer) const { lmx::marshal_attributes(k_class, this, writer); }
+lmx::elmx_error SDKVersion::marshal_child_elements(lmx::c_xml_writer& writer) const { return lmx::marshal_child_elements(k_class, this, writer); }
+bool SDKVersion::unmarshal_attributes(lmx::c_xml_reader& reader, const std::string& name, lmx::elmx_error* error) { return lmx::unmarshal_attribute(k_class, this, reader, name, error); }
+lmx::elmx_error SDKVersion::unmarshal_attributes_check(lmx::c_xml_reader& reader) { return lmx::check_required_attributes(k_class, this, reader); }
+bool SDKVersion::unmarshal_body(lmx::c_xml_reader& reader, std::string* name, lmx::elmx_error* error, bool has_body) { return lmx::unmarshal_content(k_class, this, reader, name, error, has_body); }
+lmx::elmx_error SDKVersion::set_SDKVersion(const std::u16string& value) { return lmx::set_item(k_class, k_items[item_SDKVersion], this, value); }
+
+// SDKType
+
+namespace {
+constexpr lmx::s_event_map k_SDKType_elements[] = {
+    lmx::element_event("SDKName", element_SDKName),
+    lmx::element_event("SDKVersion", element_SDKVersion),
+    lmx::k_end_of_map,
+};
+}  // namespace
+
+constinit const lmx::s_item SDKType::k_items[] = {
+    {lmx::item_kind::element, lmx::value_kind::text, lmx::use_required, lmx::ELMX_WS_PRESERVE, "Vyr:SDKName", element_SDKName, LMX_OFFSET(SDKType, m_SDKName, element, text), LMX_FLAG(SDKType, m_isset_SDKName), lmx::position_of(k_SDKType_elements, element_SDKName), lmx::position_of(k_SDKType_elements, element_SDKName, 1), nullptr, nullptr, {}},
+    {lmx::item_kind::child, lmx::value_kind::none, lmx::use_required, lmx::ELMX_WS_PRESERVE, "Vyr:SDKVersion", element_SDKVersion, LMX_OFFSET(SDKType, m_SDKVersion, child, none), LMX_FLAG(SDKType, m_isset_SDKVersion), lmx::position_of(k_SDKType_elements, element_SDKVersion), lmx::position_of(k_SDKType_elements, element_SDKVersion, 1), &SDKVersion::k_class, nullptr, {}},
+};
+constinit const lmx::s_class SDKType::k_class = {
+    .name = "SDKType",
+    .qualified_name = "Vyr:SDKType",
+    .base = nullptr,
+    .content = lmx::content_kind::children,
+    .may_be_empty = false,
+    .ns_map = k_ns_map,
+    .nil_flag = lmx::k_no_flag,
+    .choice = lmx::k_no_flag,
+    .id = nullptr,
+    .xsi_type = nullptr,
+    .attributes = std::span(k_items).first(std::size(lmx::k_no_events) - 1),
+    .elements = std::span(k_items).subspan(std::size(lmx::k_no_events) - 1),
+    .attribute_map = lmx::k_no_events,
+    .element_map = k_SDKType_elements,
+    .operations = &lmx::k_operations<SDKType>,
+};
+
+SDKType::SDKType() = default;
+SDKType::SDKType(const SDKType& other) { lmx::copy(k_class, this, &other); }
+SDKType::~SDKType() = default;
+SDKType& SDKType::operator=(const SDKType& other) { SDKType copy(other); swap(copy); return *this; }
+void SDKType::swap(SDKType& other) { lmx::swap(k_class, this, &other); }
+void SDKType::reset() { SDKType fresh; swap(fresh); }
+bool SDKType::is_occurs_ok() const { return lmx::is_occurs_ok(k_class, this); }
+lmx::elmx_error SDKType::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
+lmx::elmx_error SDKType::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
+void SDKType::marshal_attributes(lmx::c_xml_writer& writer) const { lmx::marshal_attributes(k_class, this, writer); }
+lmx::elmx_error SDKType::marshal_child_elements(lmx::c_xml_writer& writer) const { return lmx::marshal_child_elements(k_class, this, writer); }
+bool SDKType::unmarshal_attributes(lmx::c_xml_reader& reader, const std::string& name, lmx::elmx_error* error) { return lmx::unmarshal_attribute(k_class, this, reader, name, error); }
+lmx::elmx_error SDKType::unmarshal_attributes_check(lmx::c_xml_reader& reader) { return lmx::check_required_attributes(k_class, this, reader); }
+bool SDKType::unmarshal_body(lmx::c_xml_reader& reader, std::string* name, lmx::elmx_error* error) { return lmx::unmarshal_body(k_class, this, reader, name, error); }
+lmx::elmx_error SDKType::set_SDKName(const std::u16string& value) { return lmx::set_item(k_class, k_items[item_SDKName], this, value); }
+SDKVersion& SDKType::assign_SDKVersion(const SDKVersion& value) { return get_SDKVersion() = value; }
+
+// PlatformType
+
+namespace {
+constexpr lmx::s_event_map k_PlatformType_elements[] = {
+    lmx::element_event("OperatingSystem", element_OperatingSystem),
+    lmx::element_event("OperatingSystemVersion", element_OperatingSystemVersion),
+    lmx::k_end_of_map,
+};
+}  // namespace
+
+constinit const lmx::s_item PlatformType::k_items[] = {
+    {lmx::item_kind::element, lmx::value_kind::text, lmx::use_required, lmx::ELMX_WS_PRESERVE, "Vyr:OperatingSystem", element_OperatingSystem, LMX_OFFSET(PlatformType, m_OperatingSystem, element, text), LMX_FLAG(PlatformType, m_isset_OperatingSystem), lmx::position_of(k_PlatformType_elements, element_OperatingSystem), lmx::position_of(k_PlatformType_elements, element_OperatingSystem, 1), nullptr, nullptr, {}},
+    {lmx::item_kind::element, lmx::value_kind::text, lmx::use_required, lmx::ELMX_WS_PRESERVE, "Vyr:OperatingSystemVersion", element_OperatingSystemVersion, LMX_OFFSET(PlatformType, m_OperatingSystemVersion, element, text), LMX_FLAG(PlatformType, m_isset_OperatingSystemVersion), lmx::position_of(k_PlatformType_elements, element_OperatingSystemVersion), lmx::position_of(k_PlatformType_elements, element_OperatingSystemVersion, 1), nullptr, nullptr, {}},
+};
+constinit const lmx::s_class PlatformType::k_class = {
+    .name = "PlatformType",
+    .qualified_name = "Vyr:PlatformType",
+    .base = nullptr,
+    .content = lmx::content_kind::children,
+    .may_be_empty = false,
+    .ns_map = k_ns_map,
+    .nil_flag = lmx::k_no_flag,
+    .choice = lmx::k_no_flag,
+    .id = nullptr,
+    .xsi_type = nullptr,
+    .attributes = std::span(k_items).first(std::size(lmx::k_no_events) - 1),
+    .elements = std::span(k_items).subspan(std::size(lmx::k_no_events) - 1),
+    .attribute_map = lmx::k_no_events,
+    .element_map = k_PlatformType_elements,
+    .operations = &lmx::k_operations<PlatformType>,
+};
+
+PlatformType::PlatformType() = default;
+PlatformType::PlatformType(const PlatformType& other) { lmx::copy(k_class, this, &other); }
+PlatformType::~PlatformType() = default;
+PlatformType& PlatformType::operator=(const PlatformType& other) { PlatformType copy(other); swap(copy); return *this; }
+void PlatformType::swap(PlatformType& other) { lmx::swap(k_class, this, &other); }
+void PlatformType::reset() { PlatformType fresh; swap(fresh); }
+bool PlatformType::is_occurs_ok() const { return lmx::is_occurs_ok(k_class, this); }
+lmx::elmx_error PlatformType::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
+lmx::elmx_error PlatformType::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
+void PlatformType::marshal_attributes(lmx::c_xml_writer& writer) const { lmx::marshal_attributes(k_class, this, writer); }
+lmx::elmx_error PlatformType::marshal_child_elements(lmx::c_xml_writer& writer) const { return lmx::marshal_child_elements(k_class, this, writer); }
+bool PlatformType::unmarshal_attributes(lmx::c_xml_reader& reader, const std::string& name, lmx::elmx_error* error) { return lmx::unmarshal_attribute(k_class, this, reader, name, error); }
+lmx::elmx_error PlatformType::unmarshal_attributes_check(lmx::c_xml_reader& reader) { return lmx::check_required_attributes(k_class, this, reader); }
+bool PlatformType::unmarshal_body(lmx::c_xml_reader& reader, std::string* name, lmx::elmx_error* error) { return lmx::unmarshal_body(k_class, this, reader, name, error); }
+lmx::elmx_error PlatformType::set_OperatingSystem(const std::u16string& value) { return lmx::set_item(k_class, k_items[item_OperatingSystem], this, value); }
+lmx::elmx_error PlatformType::set_OperatingSystemVersion(const std::u16string& value) { return lmx::set_item(k_class, k_items[item_OperatingSystemVersion], this, value); }
+
+// Header
+
+namespace {
+constexpr lmx::s_event_map k_Header_elements[] = {
+    lmx::element_event("CustomAttribute", element_CustomAttribute),
+    lmx::element_event("Creator", element_Creator),
+    lmx::element_event("CreatorVersion", element_CreatorVersion),
+    lmx::element_event("ChangeHistory", element_ChangeHistory),
+    lmx::element_event("Purpose", element_Purpose),
+    lmx::element_event("Name", element_Name),
+    lmx::element_event("Comments", element_Comments),
+    lmx::element_event("ReadSDKInformation", element_ReadSDKInformation),
+    lmx::element_event("WriteSDKInformation", element_WriteSDKInformation),
+    lmx::element_event("ReadPlatformInformation", element_ReadPlatformInformation),
+    lmx::element_event("WritePlatformInformation", element_WritePlatformInformation),
+    lmx::element_event("Revision", element_Revision),
+    lmx::k_end_of_map,
+};
+}  // namespace
+
+constinit const lmx::s_item Header::k_items[] = {
+    {lmx::item_kind::child_list, lmx::value_kind::none, lmx::use_optional, lmx::ELMX_WS_PRESERVE, "Vyr:CustomAttribute", element_CustomAttribute, LMX_OFFSET(Header, m_CustomAttribute, child_list, none), lmx::k_no_flag, lmx::position_of(k_Header_elements, element_CustomAttribute), lmx::position_of(k_Header_elements, element_CustomAttribute, 1), &CustomAttributeType::k_class, nullptr, {}},
+    {lmx::item_kind::element, lmx::value_kind::text, lmx::use_required, lmx::ELMX_WS_PRESERVE, "Vyr:Creator", element_Creator, LMX_OFFSET(Header, m_Creator, element, text), LMX_FLAG(Header, m_isset_Creator), lmx::position_of(k_Header_elements, element_Creator), lmx::position_of(k_Header_elements, element_Creator, 1), nullptr, nullptr, {}},
+    {lmx::item_kind::element, lmx::value_kind::text, lmx::use_required, lmx::ELMX_WS_PRESERVE, "Vyr:CreatorVersion", element_CreatorVersion, LMX_OFFSET(Header, m_CreatorVersion, element, text), LMX_FLAG(Header, m_isset_CreatorVersion), lmx::position_of(k_Header_elements, element_CreatorVersion), lmx::position_of(k_Header_elements, element_CreatorVersion, 1), nullptr, nullptr, {}},
+    {lmx::item_kind::element_list, lmx::value_kind::datetime, lmx::use_demanded | lmx::use_asked, lmx::ELMX_WS_COLLAPSE, "Vyr:ChangeHistory", element_ChangeHistory, LMX_OFFSET(Header, m_ChangeHistory, element_list, datetime), lmx::k_no_flag, lmx::position_of(k_Header_elements, element_ChangeHistory), lmx::position_of(k_Header_elements, element_ChangeHistory, 1), nullptr, &facets::DateTimeZone, {}},
+    {lmx::item_kind::element, lmx::value_kind::text, lmx::use_required, lmx::ELMX_WS_PRESERVE, "Vyr:Purpose", element_Purpose, LMX_OFFSET(Header, m_Purpose, element, text), LMX_FLAG(Header, m_isset_Purpose), lmx::position_of(k_Header_elements, element_Purpose), lmx::position_of(k_Header_elements, element_Purpose, 1), nullptr, nullptr, {}},
+    {lmx::item_kind::element, lmx::value_kind::text, lmx::use_optional, lmx::ELMX_WS_PRESERVE, "Vyr:Name", element_Name, LMX_OFFSET(Header, m_Name, element, text), LMX_FLAG(Header, m_isset_Name), lmx::position_of(k_Header_elements, element_Name), lmx::position_of(k_Header_elements, element_Name, 1), nullptr, nullptr, {}},
+    {lmx::item_kind::element, lmx::value_kind::text, lmx::use_optional, lmx::ELMX_WS_PRESERVE, "Vyr:Comments", element_Comments, LMX_OFFSET(Header, m_Comments, element, text), LMX_FLAG(Header, m_isset_Comments), lmx::position_of(k_Header_elements, element_Comments), lmx::position_of(k_Header_elements, element_Comments, 1), nullptr, nullptr, {}},
+    {lmx::item_kind::child, lmx::value_kind::none, lmx::use_optional, lmx::ELMX_WS_PRESERVE, "Vyr:ReadSDKInformation", element_ReadSDKInformation, LMX_OFFSET(Header, m_ReadSDKInformation, child, none), LMX_FLAG(Header, m_isset_ReadSDKInformation), lmx::position_of(k_Header_elements, element_ReadSDKInformation), lmx::position_of(k_Header_elements, element_ReadSDKInformation, 1), &SDKType::k_class, nullptr, {}},
+    {lmx::item_kind::child, lmx::value_kind::none, lmx::use_optional, lmx::ELMX_WS_PRESERVE, "Vyr:WriteSDKInformation", element_WriteSDKInformation, LMX_OFFSET(Header, m_WriteSDKInformation, child, none), LMX_FLAG(Header, m_isset_WriteSDKInformation), lmx::position_of(k_Header_elements, element_WriteSDKInformation), lmx::position_of(k_Header_elements, element_WriteSDKInformation, 1), &SDKType::k_class, nullptr, {}},
+    {lmx::item_kind::child, lmx::value_kind::none, lmx::use_optional, lmx::ELMX_WS_PRESERVE, "Vyr:ReadPlatformInformation", element_ReadPlatformInformation, LMX_OFFSET(Header, m_ReadPlatformInformation, child, none), LMX_FLAG(Header, m_isset_ReadPlatformInformation), lmx::position_of(k_Header_elements, element_ReadPlatformInformation), lmx::position_of(k_Header_elements, element_ReadPlatformInformation, 1), &PlatformType::k_class, nullptr, {}},
+    {lmx::item_kind::child, lmx::value_kind::none, lmx::use_optional, lmx::ELMX_WS_PRESERVE, "Vyr:WritePlatformInformation", element_WritePlatformInformation, LMX_OFFSET(Header, m_WritePlatformInformation, child, none), LMX_FLAG(Header, m_isset_WritePlatformInformation), lmx::position_of(k_Header_elements, element_WritePlatformInformation), lmx::position_of(k_Header_elements, element_WritePlatformInformation, 1), &PlatformType::k_class, nullptr, {}},
+    {lmx::item_kind::child_list, lmx::value_kind::none, lmx::use_optional, lmx::ELMX_WS_PRESERVE, "Vyr:Revision", element_Revision, LMX_OFFSET(Header, m_Revision, child_list, none), lmx::k_no_flag, lmx::position_of(k_Header_elements, element_Revision), lmx::position_of(k_Header_elements, element_Revision, 1), &Revision::k_class, nullptr, {}},
+};
+constinit const lmx::s_class Header::k_class = {
+    .name = "Header",
+    .qualified_name = "Vyr:Header",
+    .base = nullptr,
+    .content = lmx::content_kind::children,
+    .may_be_empty = false,
+    .ns_map = nullptr,
+    .nil_flag = lmx::k_no_flag,
+    .choice = lmx::k_no_flag,
+    .id = nullptr,
+    .xsi_type = nullptr,
+    .attributes = std::span(k_items).first(std::size(lmx::k_no_events) - 1),
+    .elements = std::span(k_items).subspan(std::size(lmx::k_no_events) - 1),
+    .attribute_map = lmx::k_no_events,
+    .element_map = k_Header_elements,
+    .operations = &lmx::k_operations<Header>,
+};
+
+Header::Header() = default;
+Header::Header(const Header& other) { lmx::copy(k_class, this, &other); }
+Header::~Header() = default;
+Header& Header::operator=(const Header& other) { Header copy(other); swap(copy); return *this; }
+void Header::swap(Header& other) { lmx::swap(k_class, this, &other); }
+void Header::reset() { Header fresh; swap(fresh); }
+bool Header::is_occurs_ok() const { return lmx::is_occurs_ok(k_class, this); }
+lmx::elmx_error Header::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
+lmx::elmx_error Header::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
+void Header::marshal_attributes(lmx::c_xml_writer& writer) const { lmx::marshal_attributes(k_class, this, writer); }
+lmx::elmx_error Header::marshal_child_elements(lmx::c_xml_writer& writer) const { return lmx::marshal_child_elements(k_class, this, writer); }
+bool Header::unmarshal_attributes(lmx::c_xml_reader& reader, const std::string& name, lmx::elmx_error* error) { return lmx::unmarshal_attribute(k_class, this, reader, name, error); }
+lmx::elmx_error Header::unmarshal_attributes_check(lmx::c_xml_reader& reader) { return lmx::check_required_attributes(k_class, this, reader); }
+bool Header::unmarshal_body(lmx::c_xml_reader& reader, std::string* name, lmx::elmx_error* error) { return lmx::unmarshal_body(k_class, this, reader, name, error); }
+CustomAttributeType& Header::get_CustomAttribute(std::size_t index) { return m_CustomAttribute.grow_to(index); }
+CustomAttributeType& Header::assign_CustomAttribute(std::size_t index, const CustomAttributeType& value) { return get_CustomAttribute(index) = value; }
+lmx::elmx_error Header::append_CustomAttribute() { m_CustomAttribute.append(); return lmx::ELMX_OK; }
+lmx::elmx_error Header::insert_CustomAttribute(std::size_t index) { m_CustomAttribute.insert(index); return lmx::ELMX_OK; }
+void Header::delete_CustomAttribute(std::size_t index) { m_CustomAttribute.erase(index); }
+void Header::clear_CustomAttribute() { m_CustomAttribute.clear(); }
+lmx::elmx_error Header::set_Creator(const std::u16string& value) { return lmx::set_item(k_class, k_items[item_Creator], this, value); }
+lmx::elmx_error Header::set_CreatorVersion(const std::u16string& value) { return lmx::set_item(k_class, k_items[item_CreatorVersion], this, value); }
+lmx::elmx_error Header::set_ChangeHistory(std::size_t index, const lmx::c_datetime& value) { return lmx::set_entry(k_items[item_ChangeHistory], this, index, value); }
+lmx::elmx_error Header::append_ChangeHistory(const lmx::c_datetime& value) { return lmx::insert_entry(k_items[item_ChangeHistory], this, size_ChangeHistory(), value); }
+lmx::elmx_error Header::insert_ChangeHistory(std::size_t index, const lmx::c_datetime& value) { return lmx::insert_entry(k_items[item_ChangeHistory], this, index, value); }
+void Header::delete_ChangeHistory(std::size_t index) { m_ChangeHistory.erase(index); }
+void Header::clear_ChangeHistory() { m_ChangeHistory.clear(); }
+lmx::elmx_error Header::set_Purpose(const std::u16string& value) { return lmx::set_item(k_class, k_items[item_Purpose], this, value); }
+lmx::elmx_error Header::set_Name(const std::u16string& value) { return lmx::set_item(k_class, k_items[item_Name], this, value); }
+lmx::elmx_error Header::set_Comments(const std::u16string& value) { return lmx::set_item(k_class, k_items[item_Comments], this, value); }
+SDKType& Header::assign_ReadSDKInformation(const SDKType& value) { return get_ReadSDKInformation() = value; }
+SDKType& Header::assign_WriteSDKInformation(const SDKType& value) { return get_WriteSDKInformation() = value; }
+PlatformType& Header::assign_ReadPlatformInformation(const PlatformType& value) { return get_ReadPlatformInformation() = value; }
+PlatformType& Header::assign_WritePlatformInformation(const PlatformType& value) { return get_WritePlatformInformation() = value; }
+Revision& Header::get_Revision(std::size_t index) { return m_Revision.grow_to(index); }
+Revision& Header::assign_Revision(std::size_t index, const Revision& value) { return get_Revision(index) = value; }
+lmx::elmx_error Header::append_Revision() { m_Revision.append(); return lmx::ELMX_OK; }
+lmx::elmx_error Header::insert_Revision(std::size_t index) { m_Revision.insert(index); return lmx::ELMX_OK; }
+void Header::delete_Revision(std::size_t index) { m_Revision.erase(index); }
+void Header::clear_Revision() { m_Revision.clear(); }
+
+// OwnerType
+
+namespace {
+constexpr lmx::s_event_map k_OwnerType_elements[] = {
+    lmx::element_event("CustomAttribute", element_CustomAttribute),
+    lmx::element_event("Person", element_Person),
+    lmx::element_event("Copyright", element_Copyright),
+    lmx::element_event("Company", element_Company),
+    lmx::k_end_of_map,
+};
+}  // namespace
+
+constinit const lmx::s_item OwnerType::k_items[] = {
+    {lmx::item_kind::child_list, lmx::value_kind::none, lmx::use_optional, lmx::ELMX_WS_PRESERVE, "Vyr:CustomAttribute", element_CustomAttribute, LMX_OFFSET(OwnerType, m_CustomAttribute, child_list, none), lmx::k_no_flag, lmx::position_of(k_OwnerType_elements, element_CustomAttribute), lmx::position_of(k_OwnerType_elements, element_CustomAttribute, 1), &CustomAttributeType::k_class, nullptr, {}},
+    {lmx::item_kind::child_list, lmx::value_kind::none, lmx::use_optional, lmx::ELMX_WS_PRESERVE, "Vyr:Person", element_Person, LMX_OFFSET(OwnerType, m_Person, child_list, none), lmx::k_no_flag, lmx::position_of(k_OwnerType_elements, element_Person), lmx::position_of(k_OwnerType_elements, element_Person, 1), &Person::k_class, nullptr, {}},
+    {lmx::item_kind::element_list, lmx::value_kind::text, lmx::use_optional, lmx::ELMX_WS_PRESERVE, "Vyr:Copyright", element_Copyright, LMX_OFFSET(OwnerType, m_Copyright, element_list, text), lmx::k_no_flag, lmx::position_of(k_OwnerType_elements, element_Copyright), lmx::position_of(k_OwnerType_elements, element_Copyright, 1), nullptr, nullptr, {}},
+    {lmx::item_kind::element_list, lmx::value_kind::text, lmx::use_optional, lmx::ELMX_WS_PRESERVE, "Vyr:Company", element_Company, LMX_OFFSET(OwnerType, m_Company, element_list, text), lmx::k_no_flag, lmx::position_of(k_OwnerType_elements, element_Company), lmx::position_of(k_OwnerType_elements, element_Company, 1), nullptr, nullptr, {}},
+};
+constinit const lmx::s_class OwnerType::k_class = {
+    .name = "OwnerType",
+    .qualified_name = "Vyr:OwnerType",
+    .base = nullptr,
+    .content = lmx::content_kind::children,
+    .may_be_empty = true,
+    .ns_map = k_ns_map,
+    .nil_flag = lmx::k_no_flag,
+    .choice = lmx::k_no_flag,
+    .id = nullptr,
+    .xsi_type = nullptr,
+    .attributes = std::span(k_items).first(std::size(lmx::k_no_events) - 1),
+    .elements = std::span(k_items).subspan(std::size(lmx::k_no_events) - 1),
+    .attribute_map = lmx::k_no_events,
+    .element_map = k_OwnerType_elements,
+    .operations = &lmx::k_operations<OwnerType>,
+};
+
+OwnerType::OwnerType() = default;
+OwnerType::OwnerType(const OwnerType& other) { lmx::copy(k_class, this, &other); }
+OwnerType::~OwnerType() = default;
+OwnerType& OwnerType::operator=(const OwnerType& other) { OwnerType copy(other); swap(copy); return *this; }
+void OwnerType::swap(OwnerType& other) { lmx::swap(k_class, this, &other); }
+void OwnerType::reset() { OwnerType fresh; swap(fresh); }
+bool OwnerType::is_occurs_ok() const { return lmx::is_occurs_ok(k_class, this); }
+lmx::elmx_error OwnerType::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
+lmx::elmx_error OwnerType::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
+void OwnerType::marshal_attributes(lmx::c_xml_writer& writer) const { lmx::marshal_attributes(k_class, this, writer); }
+lmx::elmx_error OwnerType::marshal_child_elements(lmx::c_xml_writer& writer) const { return lmx::marshal_child_elements(k_class, this, writer); }
+bool OwnerType::unmarshal_attributes(lmx::c_xml_reader& reader, const std::string& name, lmx::elmx_error* error) { return lmx::unmarshal_attribute(k_class, this, reader, name, error); }
+lmx::elmx_error OwnerType::unmarshal_attributes_check(lmx::c_xml_reader& reader) { return lmx::check_required_attributes(k_class, this, reader); }
+bool OwnerType::unmarshal_body(lmx::c_xml_reader& reader, std::string* name, lmx::elmx_error* error) { return lmx::unmarshal_body(k_class, this, reader, name, error); }
+CustomAttributeType& OwnerType::get_CustomAttribute(std::size_t index) { return m_CustomAttribute.grow_to(index); }
+CustomAttributeType& OwnerType::assign_CustomAttribute(std::size_t index, const CustomAttributeType& value) { return get_CustomAttribute(index) = value; }
+lmx::elmx_error OwnerType::append_CustomAttribute() { m_CustomAttribute.append(); return lmx::ELMX_OK; }
+lmx::elmx_error OwnerType::insert_CustomAttribute(std::size_t index) { m_CustomAttribute.insert(index); return lmx::ELMX_OK; }
+void OwnerType::delete_CustomAttribute(std::size_t index) { m_CustomAttribute.erase(index); }
+void OwnerType::clear_CustomAttribute() { m_CustomAttribute.clear(); }
+Person& OwnerType::get_Person(std::size_t index) { return m_Person.grow_to(index); }
+Person& OwnerType::assign_Person(std::size_t index, const Person& value) { return get_Person(index) = value; }
+lmx::elmx_error OwnerType::append_Person() { m_Person.append(); return lmx::ELMX_OK; }
+lmx::elmx_error OwnerType::insert_Person(std::size_t index) { m_Person.insert(index); return lmx::ELMX_OK; }
+void OwnerType::delete_Person(std::size_t index) { m_Person.erase(index); }
+void OwnerType::clear_Person() { m_Person.clear(); }
+lmx::elmx_error OwnerType::set_Copyright(std::size_t index, const std::u16string& value) { return lmx::set_entry(k_items[item_Copyright], this, index, value); }
+lmx::elmx_error OwnerType::append_Copyright(const std::u16string& value) { return lmx::insert_entry(k_items[item_Copyright], this, size_Copyright(), value); }
+lmx::elmx_error OwnerType::insert_Copyright(std::size_t index, const std::u16string& value) { return lmx::insert_entry(k_items[item_Copyright], this, index, value); }
+void OwnerType::delete_Copyright(std::size_t index) { m_Copyright.erase(index); }
+void OwnerType::clear_Copyright() { m_Copyright.clear(); }
+lmx::elmx_error OwnerType::set_Company(std::size_t index, const std::u16string& value) { return lmx::set_entry(k_items[item_Company], this, index, value); }
+lmx::elmx_error OwnerType::append_Company(const std::u16string& value) { return lmx::insert_entry(k_items[item_Company], this, size_Company(), value); }
+lmx::elmx_error OwnerType::insert_Company(std::size_t index, const std::u16string& value) { return lmx::insert_entry(k_items[item_Company], this, index, value); }
+void OwnerType::delete_Company(std::size_t index) { m_Company.erase(index); }
+void OwnerType::clear_Company() { m_Company.clear(); }
+
+// Version
+
+namespace {
+constexpr lmx::s_event_map k_Version_elements[] = {
+    lmx::element_event("CustomAttribute", element_CustomAttribute),
+    lmx::element_event("Version", element_Version),
+    lmx::element_event("Predecessor", element_Predecessor),
+    lmx::k_end_of_map,
+};
+}  // namespace
+
+constinit const lmx::s_item Version::k_items[] = {
+    {lmx::item_kind::child_list, lmx::value_kind::none, lmx::use_optional, lmx::ELMX_WS_PRESERVE, "Vyr:CustomAttribute", element_CustomAttribute, LMX_OFFSET(Version, m_CustomAttribute, child_list, none), lmx::k_no_flag, lmx::position_of(k_Version_elements, element_CustomAttribute), lmx::position_of(k_Version_elements, element_CustomAttribute, 1), &CustomAttributeType::k_class, nullptr, {}},
+    {lmx::item_kind::element, lmx::value_kind::text, lmx::use_required, lmx::ELMX_WS_PRESERVE, "Vyr:Version", element_Version, LMX_OFFSET(Version, m_Version, element, text), LMX_FLAG(Version, m_isset_Version), lmx::position_of(k_Version_elements, element_Version), lmx::position_of(k_Version_elements, element_Version, 1), nullptr, nullptr, {}},
+    {lmx::item_kind::element_list, lmx::value_kind::text, lmx::use_optional, lmx::ELMX_WS_COLLAPSE, "Vyr:Predecessor", element_Predecessor, LMX_OFFSET(Version, m_Predecessor, element_list, text), lmx::k_no_flag, lmx::position_of(k_Version_elements, element_Predecessor), lmx::position_of(k_Version_elements, element_Predecessor, 1), nullptr, nullptr, {}},
+};
+constinit const lmx::s_class Version::k_class = {
+    .name = "Version",
+    .qualified_name = "Vyr:Version",
+    .base = nullptr,
+    .content = lmx::content_kind::children,
+    .may_be_empty = true,
+    .ns_map = nullptr,
+    .nil_flag = lmx::k_no_flag,
+    .choice = lmx::k_no_flag,
+    .id = nullptr,
+    .xsi_type = nullptr,
+    .attributes = std::span(k_items).first(std::size(lmx::k_no_events) - 1),
+    .elements = std::span(k_items).subspan(std::size(lmx::k_no_events) - 1),
+    .attribute_map = lmx::k_no_events,
+    .element_map = k_Version_elements,
+    .operations = &lmx::k_operations<Version>,
+};
+
+Version::Version() = default;
+Version::Version(const Version& other) { lmx::copy(k_class, this, &other); }
+Version::~Version() = default;
+Version& Version::operator=(const Version& other) { Version copy(other); swap(copy); return *this; }
+void Version::swap(Version& other) { lmx::swap(k_class, this, &other); }
+void Version::reset() { Version fresh; swap(fresh); }
+bool Version::is_occurs_ok() const { return lmx::is_occurs_ok(k_class, this); }
+lmx::elmx_error Version::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
+lmx::elmx_error Version::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
+void Version::marshal_attributes(lmx::c_xml_writer& writer) const { lmx::marshal_attributes(k_class, this, writer); }
+lmx::elmx_error Version::marshal_child_elements(lmx::c_xml_writer& writer) const { return lmx::marshal_child_elements(k_class, this, writer); }
+bool Version::unmarshal_attributes(lmx::c_xml_reader& reader, const std::string& name, lmx::elmx_error* error) { return lmx::unmarshal_attribute(k_class, this, reader, name, error); }
+lmx::elmx_error Version::unmarshal_attributes_check(lmx::c_xml_reader& reader) { return lmx::check_required_attributes(k_class, this, reader); }
+bool Version::unmarshal_body(lmx::c_xml_reader& reader, std::string* name, lmx::elmx_error* error) { return lmx::unmarshal_body(k_class, this, reader, name, error); }
+CustomAttributeType& Version::get_CustomAttribute(std::size_t index) { return m_CustomAttribute.grow_to(index); }
+CustomAttributeType& Version::assign_CustomAttribute(std::size_t index, const CustomAttributeType& value) { return get_CustomAttribute(index) = value; }
+lmx::elmx_error Version::append_CustomAttribute() { m_CustomAttribute.append(); return lmx::ELMX_OK; }
+lmx::elmx_error Version::insert_CustomAttribute(std::size_t index) { m_CustomAttribute.insert(index); return lmx::ELMX_OK; }
+void Version::delete_CustomAttribute(std::size_t index) { m_CustomAttribute.erase(index); }
+void Version::clear_CustomAttribute() { m_CustomAttribute.clear(); }
+lmx::elmx_error Version::set_Version(const std::u16string& value) { return lmx::set_item(k_class, k_items[item_Version], this, value); }
+lmx::elmx_error Version::set_Predecessor(std::size_t index, const std::u16string& value) { return lmx::set_entry(k_items[item_Predecessor], this, index, value); }
+lmx::elmx_error Version::append_Predecessor(const std::u16string& value) { return lmx::insert_entry(k_items[item_Predecessor], this, size_Predecessor(), value); }
+lmx::elmx_error Version::insert_Predecessor(std::size_t index, const std::u16string& value) { return lmx::insert_entry(k_items[item_Predecessor], this, index, value); }
+void Version::delete_Predecessor(std::size_t index) { m_Predecessor.erase(index); }
+void Version::clear_Predecessor() { m_Predecessor.clear(); }
+
+// Preamble
+
+namespace {
+constexpr lmx::s_event_map k_Preamble_elements[] = {
+    lmx::element_event("Header", element_Header),
+    lmx::element_event("Owner", element_Owner),
+    lmx::element_event("Version", element_Version),
+    lmx::k_end_of_map,
+};
+}  // namespace
+
+constinit const lmx::s_item Preamble::k_items[] = {
+    {lmx::item_kind::child, lmx::value_kind::none, lmx::use_required, lmx::ELMX_WS_PRESERVE, "Vyr:Header", element_Header, LMX_OFFSET(Preamble, m_Header, child, none), LMX_FLAG(Preamble, m_isset_Header), lmx::position_of(k_Preamble_elements, element_Header), lmx::position_of(k_Preamble_elements, element_Header, 1), &Header::k_class, nullptr, {}},
+    {lmx::item_kind::child, lmx::value_kind::none, lmx::use_optional, lmx::ELMX_WS_PRESERVE, "Vyr:Owner", element_Owner, LMX_OFFSET(Preamble, m_Owner, child, none), LMX_FLAG(Preamble, m_isset_Owner), lmx::position_of(k_Preamble_elements, element_Owner), lmx::position_of(k_Preamble_elements, element_Owner, 1), &OwnerType::k_class, nullptr, {}},
+    {lmx::item_kind::child, lmx::value_kind::none, lmx::use_optional, lmx::ELMX_WS_PRESERVE, "Vyr:Version", element_Version, LMX_OFFSET(Preamble, m_Version, child, none), LMX_FLAG(Preamble, m_isset_Version), lmx::position_of(k_Preamble_elements, element_Version), lmx::position_of(k_Preamble_elements, element_Version, 1), &Version::k_class, nullptr, {}},
+};
+constinit const lmx::s_class Preamble::k_class = {
+    .name = "Preamble",
+    .qualified_name = "Vyr:Preamble",
+    .base = nullptr,
+    .content = lmx::content_kind::children,
+    .may_be_empty = false,
+    .ns_map = nullptr,
+    .nil_flag = lmx::k_no_flag,
+    .choice = lmx::k_no_flag,
+    .id = nullptr,
+    .xsi_type = nullptr,
+    .attributes = std::span(k_items).first(std::size(lmx::k_no_events) - 1),
+    .elements = std::span(k_items).subspan(std::size(lmx::k_no_events) - 1),
+    .attribute_map = lmx::k_no_events,
+    .element_map = k_Preamble_elements,
+    .operations = &lmx::k_operations<Preamble>,
+};
+
+Preamble::Preamble() = default;
+Preamble::Preamble(const Preamble& other) { lmx::copy(k_class, this, &other); }
+Preamble::~Preamble() = default;
+Preamble& Preamble::operator=(const Preamble& other) { Preamble copy(other); swap(copy); return *this; }
+void Preamble::swap(Preamble& other) { lmx::swap(k_class, this, &other); }
+void Preamble::reset() { Preamble fresh; swap(fresh); }
+bool Preamble::is_occurs_ok() const { return lmx::is_occurs_ok(k_class, this); }
+lmx::elmx_error Preamble::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
+lmx::elmx_error Preamble::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
+void Preamble::marshal_attributes(lmx::c_xml_writer& writer) const { lmx::marshal_attributes(k_class, this, writer); }
+lmx::elmx_error Preamble::marshal_child_elements(lmx::c_xml_writer& writer) const { return lmx::marshal_child_elements(k_class, this, writer); }
+bool Preamble::unmarshal_attributes(lmx::c_xml_reader& reader, const std::string& name, lmx::elmx_error* error) { return lmx::unmarshal_attribute(k_class, this, reader, name, error); }
+lmx::elmx_error Preamble::unmarshal_attributes_check(lmx::c_xml_reader& reader) { return lmx::check_required_attributes(k_class, this, reader); }
+bool Preamble::unmarshal_body(lmx::c_xml_reader& reader, std::string* name, lmx::elmx_error* error) { return lmx::unmarshal_body(k_class, this, reader, name, error); }
+Header& Preamble::assign_Header(const Header& value) { return get_Header() = value; }
+OwnerType& Preamble::assign_Owner(const OwnerType& value) { return get_Owner() = value; }
+Version& Preamble::assign_Version(const Version& value) { return get_Version() = value; }
+
+// Vyr
+
+namespace {
+constexpr lmx::s_event_map k_Vyr_elements[] = {
+    lmx::element_event("Preamble", element_Preamble),
+    lmx::element_event("Color", element_Color),
+    lmx::element_event("Palette", element_Palette),
+    lmx::element_event("ColorQualityControl", element_ColorQualityControl),
+    lmx::k_end_of_map,
+};
+}  // namespace
+
+constinit const lmx::s_item Vyr::k_items[] = {
+    {lmx::item_kind::child, lmx::value_kind::none, lmx::use_required, lmx::ELMX_WS_PRESERVE, "Vyr:Preamble", element_Preamble, LMX_OFFSET(Vyr, m_Preamble, child, none), LMX_FLAG(Vyr, m_isset_Preamble), lmx::position_of(k_Vyr_elements, element_Preamble), lmx::position_of(k_Vyr_elements, element_Preamble, 1), &Preamble::k_class, nullptr, {}},
+    {lmx::item_kind::child_list, lmx::value_kind::none, lmx::use_optional, lmx::ELMX_WS_PRESERVE, "Vyr:Color", element_Color, LMX_OFFSET(Vyr, m_Color, child_list, none), lmx::k_no_flag, lmx::position_of(k_Vyr_elements, element_Color), lmx::position_of(k_Vyr_elements, element_Color, 1), &ColorType::k_class, nullptr, {}},
+    {lmx::item_kind::child_list, lmx::value_kind::none, lmx::use_optional, lmx::ELMX_WS_PRESERVE, "Vyr:Palette", element_Palette, LMX_OFFSET(Vyr, m_Palette, child_list, none), lmx::k_no_flag, lmx::position_of(k_Vyr_elements, element_Palette), lmx::position_of(k_Vyr_elements, element_Palette, 1), &PaletteType::k_class, nullptr, {}},
+    {lmx::item_kind::child_list, lmx::value_kind::none, lmx::use_optional, lmx::ELMX_WS_PRESERVE, "Vyr:ColorQualityControl", element_ColorQualityControl, LMX_OFFSET(Vyr, m_ColorQualityControl, child_list, none), lmx::k_no_flag, lmx::position_of(k_Vyr_elements, element_ColorQualityControl), lmx::position_of(k_Vyr_elements, element_ColorQualityControl, 1), &ColorQualityControlType::k_class, nullptr, {}},
+};
+constinit const lmx::s_class Vyr::k_class = {
+    .name = "Vyr",
+    .qualified_name = "Vyr:Vyr",
+    .base = nullptr,
+    .content = lmx::content_kind::children,
+    .may_be_empty = false,
+    .ns_map = k_ns_map,
+    .nil_flag = lmx::k_no_flag,
+    .choice = lmx::k_no_flag,
+    .id = nullptr,
+    .xsi_type = nullptr,
+    .attributes = std::span(k_items).first(std::size(lmx::k_no_events) - 1),
+    .elements = std::span(k_items).subspan(std::size(lmx::k_no_events) - 1),
+    .attribute_map = lmx::k_no_events,
+    .element_map = k_Vyr_elements,
+    .operations = &lmx::k_operations<Vyr>,
+};
+
+Vyr::Vyr() { init(); }
+Vyr::Vyr(const Vyr& other) { lmx::copy(k_class, this, &other); init(); }
+Vyr::~Vyr() = default;
+Vyr& Vyr::operator=(const Vyr& other) { Vyr copy(other); swap(copy); return *this; }
+void Vyr::swap(Vyr& other) { lmx::swap(k_class, this, &other); }
+void Vyr::reset() { Vyr fresh; swap(fresh); }
+bool Vyr::is_occurs_ok() const { return lmx::is_occurs_ok(k_class, this); }
+lmx::elmx_error Vyr::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
+lmx::elmx_error Vyr::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
+void Vyr::marshal_attributes(lmx::c_xml_writer& writer) const { lmx::marshal_attributes(k_class, this, writer); }
+lmx::elmx_error Vyr::marshal_child_elements(lmx::c_xml_writer& writer) const { return lmx::marshal_child_elements(k_class, this, writer); }
+bool Vyr::unmarshal_attributes(lmx::c_xml_reader& reader, const std::string& name, lmx::elmx_error* error) { return lmx::unmarshal_attribute(k_class, this, reader, name, error); }
+lmx::elmx_error Vyr::unmarshal_attributes_check(lmx::c_xml_reader& reader) { return lmx::check_required_attributes(k_class, this, reader); }
+bool Vyr::unmarshal_body(lmx::c_xml_reader& reader, std::string* name, lmx::elmx_error* error) { return lmx::unmarshal_body(k_class, this, reader, name, error); }
+const lmx::s_document Vyr::k_document = {"Vyr:Vyr", "Vyr", k_ns_map, &lmx::k_operations<Vyr>};
+const lmx::s_ns_map* Vyr::ns_map() { return k_ns_map; }
+lmx::elmx_error Vyr::unmarshal(lmx::c_xml_reader& reader) { return lmx::unmarshal_document(k_document, this, reader); }
+Vyr::Vyr(const char* file_name, lmx::elmx_error* error) : Vyr() { *error = lmx::ELMX_UNDEFINED_ERROR; *error = unmarshal(file_name); init(); }
+lmx::elmx_error Vyr::unmarshal(const char* file_name) { return lmx::unmarshal_document(k_document, this, file_name); }
+Vyr::Vyr(const char* data, std::size_t size, lmx::elmx_error* error) : Vyr() { *error = lmx::ELMX_UNDEFINED_ERROR; *error = unmarshal(data, size); init(); }
+lmx::elmx_error Vyr::unmarshal(const char* data, std::size_t size) { return lmx::unmarshal_document(k_document, this, data, size); }
+Vyr::Vyr(const std::string& text, lmx::elmx_error* error) : Vyr() { *error = lmx::ELMX_UNDEFINED_ERROR; *error = unmarshal(text.data(), text.size()); init(); }
+lmx::elmx_error Vyr::unmarshal(const std::string& text) { return lmx::unmarshal_document(k_document, this, text.data(), text.size()); }
+lmx::elmx_error Vyr::marshal(const char* file_name) const { return lmx::marshal_document(k_document, this, file_name); }
+lmx::elmx_error Vyr::marshal(std::string* text) const { return lmx::marshal_document(k_document, this, text); }
+lmx::elmx_error Vyr::marshal(std::ostream& stream) const { return lmx::marshal_document(k_document, this, stream); }
+Preamble& Vyr::assign_Preamble(const Preamble& value) { return get_Preamble() = value; }
+ColorType& Vyr::get_Color(std::size_t index) { return m_Color.grow_to(index); }
+ColorType& Vyr::assign_Color(std::size_t index, const ColorType& value) { return get_Color(index) = value; }
+lmx::elmx_error Vyr::append_Color() { m_Color.append(); return lmx::ELMX_OK; }
+lmx::elmx_error Vyr::insert_Color(std::size_t index) { m_Color.insert(index); return lmx::ELMX_OK; }
+void Vyr::delete_Color(std::size_t index) { m_Color.erase(index); }
+void Vyr::clear_Color() { m_Color.clear(); }
+PaletteType& Vyr::get_Palette(std::size_t index) { return m_Palette.grow_to(index); }
+PaletteType& Vyr::assign_Palette(std::size_t index, const PaletteType& value) { return get_Palette(index) = value; }
+lmx::elmx_error Vyr::append_Palette() { m_Palette.append(); return lmx::ELMX_OK; }
+lmx::elmx_error Vyr::insert_Palette(std::size_t index) { m_Palette.insert(index); return lmx::ELMX_OK; }
+void Vyr::delete_Palette(std::size_t index) { m_Palette.erase(index); }
+void Vyr::clear_Palette() { m_Palette.clear(); }
+ColorQualityControlType& Vyr::get_ColorQualityControl(std::size_t index) { return m_ColorQualityControl.grow_to(index); }
+ColorQualityControlType& Vyr::assign_ColorQualityControl(std::size_t index, const ColorQualityControlType& value) { return get_ColorQualityControl(index) = value; }
+lmx::elmx_error Vyr::append_ColorQualityControl() { m_ColorQualityControl.append(); return lmx::ELMX_OK; }
+lmx::elmx_error Vyr::insert_ColorQualityControl(std::size_t index) { m_ColorQualityControl.insert(index); return lmx::ELMX_OK; }
+void Vyr::delete_ColorQualityControl(std::size_t index) { m_ColorQualityControl.erase(index); }
+void Vyr::clear_ColorQualityControl() { m_ColorQualityControl.clear(); }
+
+// Revision
+
+constinit const lmx::s_item Revision::k_items[] = {
+    {lmx::item_kind::any, lmx::value_kind::none, lmx::use_demanded | lmx::use_asked, lmx::ELMX_WS_PRESERVE, "Vyr:", 0, LMX_OFFSET(Revision, m_any, any, none), lmx::k_no_flag, 0, 0, nullptr, nullptr, {}},
+};
+constinit const lmx::s_class Revision::k_class = {
+    .name = "Revision",
+    .qualified_name = "Vyr:Revision",
+    .base = nullptr,
+    .content = lmx::content_kind::children,
+    .may_be_empty = true,
+    .ns_map = nullptr,
+    .nil_flag = lmx::k_no_flag,
+    .choice = lmx::k_no_flag,
+    .id = nullptr,
+    .xsi_type = nullptr,
+    .attributes = std::span(k_items).first(std::size(lmx::k_no_events) - 1),
+    .elements = std::span(k_items).subspan(std::size(lmx::k_no_events) - 1),
+    .attribute_map = lmx::k_no_events,
+    .element_map = lmx::k_no_events,
+    .operations = &lmx::k_operations<Revision>,
+};
+
+Revision::Revision() = default;
+Revision::Revision(const Revision& other) { lmx::copy(k_class, this, &other); }
+Revision::~Revision() = default;
+Revision& Revision::operator=(const Revision& other) { Revision copy(other); swap(copy); return *this; }
+void Revision::swap(Revision& other) { lmx::swap(k_class, this, &other); }
+void Revision::reset() { Revision fresh; swap(fresh); }
+bool Revision::is_occurs_ok() const { return lmx::is_occurs_ok(k_class, this); }
+lmx::elmx_error Revision::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
+lmx::elmx_error Revision::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
+void Revision::marshal_attributes(lmx::c_xml_writer& writer) const { lmx::marshal_attributes(k_class, this, writer); }
+lmx::elmx_error Revision::marshal_child_elements(lmx::c_xml_writer& writer) const { return lmx::marshal_child_elements(k_class, this, writer); }
+bool Revision::unmarshal_attributes(lmx::c_xml_reader& reader, const std::string& name, lmx::elmx_error* error) { return lmx::unmarshal_attribute(k_class, this, reader, name, error); }
+lmx::elmx_error Revision::unmarshal_attributes_check(lmx::c_xml_reader& reader) { return lmx::check_required_attributes(k_class, this, reader); }
+bool Revision::unmarshal_body(lmx::c_xml_reader& reader, std::string* name, lmx::elmx_error* error) { return lmx::unmarshal_body(k_class, this, reader, name, error); }
+void Revision::get_any(std::size_t index, std::string* ns, std::string* name, std::string* value) const {
+    if (ns != nullptr) *ns = m_any[index].get_namespace();
+    if (name != nullptr) *name = m_any[index].get_name();
+    *value = m_any[index].get_value();
+}
+lmx::elmx_error Revision::append_any(const std::string& value) { return insert_any(size_any(), value); }
+lmx::elmx_error Revision::insert_any(std::size_t index, const std::string& value) { m_any.insert(index).set_value(value); return lmx::ELMX_OK; }
+void Revision::delete_any(std::size_t index) { m_any.erase(index); }
+void Revision::clear_any() { m_any.clear(); }
+
+// Person
+
+namespace {
+constexpr lmx::s_event_map k_Person_elements[] = {
+    lmx::element_event("Name", element_Name),
+    lmx::element_event("ContactInfo", element_ContactInfo),
+    lmx::k_end_of_map,
+};
+}  // namespace
+
+constinit const lmx::s_item Person::k_items[] = {
+    {lmx::item_kind::element, lmx::value_kind::text, lmx::use_required, lmx::ELMX_WS_PRESERVE, "Vyr:Name", element_Name, LMX_OFFSET(Person, m_Name, element, text), LMX_FLAG(Person, m_isset_Name), lmx::position_of(k_Person_elements, element_Name), lmx::position_of(k_Person_elements, element_Name, 1), nullptr, nullptr, {}},
+    {lmx::item_kind::element, lmx::value_kind::text, lmx::use_optional, lmx::ELMX_WS_PRESERVE, "Vyr:ContactInfo", element_ContactInfo, LMX_OFFSET(Person, m_ContactInfo, element, text), LMX_FLAG(Person, m_isset_ContactInfo), lmx::position_of(k_Person_elements, element_ContactInfo), lmx::position_of(k_Person_elements, element_ContactInfo, 1), nullptr, nullptr, {}},
+};
+constinit const lmx::s_class Person::k_class = {
+    .name = "Person",
+    .qualified_name = "Vyr:Person",
+    .base = nullptr,
+    .content = lmx::content_kind::children,
+    .may_be_empty = true,
+    .ns_map = nullptr,
+    .nil_flag = lmx::k_no_flag,
+    .choice = lmx::k_no_flag,
+    .id = nullptr,
+    .xsi_type = nullptr,
+    .attributes = std::span(k_items).first(std::size(lmx::k_no_events) - 1),
+    .elements = std::span(k_items).subspan(std::size(lmx::k_no_events) - 1),
+    .attribute_map = lmx::k_no_events,
+    .element_map = k_Person_elements,
+    .operations = &lmx::k_operations<Person>,
+};
+
+Person::Person() = default;
+Person::Person(const Person& other) { lmx::copy(k_class, this, &other); }
+Person::~Person() = default;
+Person& Person::operator=(const Person& other) { Person copy(other); swap(copy); return *this; }
+void Person::swap(Person& other) { lmx::swap(k_class, this, &other); }
+void Person::reset() { Person fresh; swap(fresh); }
+bool Person::is_occurs_ok() const { return lmx::is_occurs_ok(k_class, this); }
+lmx::elmx_error Person::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
+lmx::elmx_error Person::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
+void Person::marshal_attributes(lmx::c_xml_writer& writer) const { lmx::marshal_attributes(k_class, this, writer); }
+lmx::elmx_error Person::marshal_child_elements(lmx::c_xml_writer& writer) const { return lmx::marshal_child_elements(k_class, this, writer); }
+bool Person::unmarshal_attributes(lmx::c_xml_reader& reader, const std::string& name, lmx::elmx_error* error) { return lmx::unmarshal_attribute(k_class, this, reader, name, error); }
+lmx::elmx_error Person::unmarshal_attributes_check(lmx::c_xml_reader& reader) { return lmx::check_required_attributes(k_class, this, reader); }
+bool Person::unmarshal_body(lmx::c_xml_reader& reader, std::string* name, lmx::elmx_error* error) { return lmx::unmarshal_body(k_class, this, reader, name, error); }
+lmx::elmx_error Person::set_Name(const std::u16string& value) { return lmx::set_item(k_class, k_items[item_Name], this, value); }
+lmx::elmx_error Person::set_ContactInfo(const std::u16string& value) { return lmx::set_item(k_class, k_items[item_ContactInfo], this, value); }
+
+// CustomAttributeType_ValueChoice
+
+namespace {
+constexpr lmx::s_event_map k_CustomAttributeType_ValueChoice_elements[] = {
+    lmx::element_event("DoubleValue", element_DoubleValue),
+    lmx::element_event("IntegerValue", element_IntegerValue),
+    lmx::element_event("StringValue", element_StringValue),
+    lmx::k_end_of_map,
+};
+}  // namespace
+
+constinit const lmx::s_item CustomAttributeType_ValueChoice::k_items[] = {
+    {lmx::item_kind::alternative, lmx::value_kind::number, lmx::use_optional, lmx::ELMX_WS_COLLAPSE, "Vyr:DoubleValue", element_DoubleValue, 0, lmx::k_no_flag, lmx::position_of(k_CustomAttributeType_ValueChoice_elements, element_DoubleValue), lmx::position_of(k_CustomAttributeType_ValueChoice_elements, element_DoubleValue, 1), nullptr, nullptr, {}},
+    {lmx::item_kind::alternative, lmx::value_kind::int32, lmx::use_optional, lmx::ELMX_WS_COLLAPSE, "Vyr:IntegerValue", element_IntegerValue, 0, lmx::k_no_flag, lmx::position_of(k_CustomAttributeType_ValueChoice_elements, element_IntegerValue), lmx::position_of(k_CustomAttributeType_ValueChoice_elements, element_IntegerValue, 1), nullptr, &facets::Int32, {}},
+    {lmx::item_kind::alternative, lmx::value_kind::text, lmx::use_optional, lmx::ELMX_WS_PRESERVE, "Vyr:StringValue", element_StringValue, 0, lmx::k_no_flag, lmx::position_of(k_CustomAttributeType_ValueChoice_elements, element_StringValue), lmx::position_of(k_CustomAttributeType_ValueChoice_elements, element_StringValue, 1), nullptr, nullptr, {}},
+};
+constinit const lmx::s_class CustomAttributeType_ValueChoice::k_class = {
+    .name = "CustomAttributeType_ValueChoice",
+    .qualified_name = "Vyr:ValueChoice",
+    .base = nullptr,
+    .content = lmx::content_kind::choice,
+    .may_be_empty = false,
+    .ns_map = nullptr,
+    .nil_flag = lmx::k_no_flag,
+    .choice = LMX_CHOICE(CustomAttributeType_ValueChoice, m_choice),
+    .id = nullptr,
+    .xsi_type = nullptr,
+    .attributes = std::span(k_items).first(std::size(lmx::k_no_events) - 1),
+    .elements = std::span(k_items).subspan(std::size(lmx::k_no_events) - 1),
+    .attribute_map = lmx::k_no_events,
+    .element_map = k_CustomAttributeType_ValueChoice_elements,
+    .operations = &lmx::k_operations<CustomAttributeType_ValueChoice>,
+};
+
+CustomAttributeType_ValueChoice::CustomAttributeType_ValueChoice() = default;
+CustomAttributeType_ValueChoice::CustomAttributeType_ValueChoice(const CustomAttributeType_ValueChoice& other) { lmx::copy(k_class, this, &other); }
+CustomAttributeType_ValueChoice::~CustomAttributeType_ValueChoice() { lmx::release_choice(k_class, this); }
+CustomAttributeType_ValueChoice& CustomAttributeType_ValueChoice::operator=(const CustomAttributeType_ValueChoice& other) { CustomAttributeType_ValueChoice copy(other); swap(copy); return *this; }
+void CustomAttributeType_ValueChoice::swap(CustomAttributeType_ValueChoice& other) { lmx::swap(k_class, this, &other); }
+void CustomAttributeType_ValueChoice::reset() { CustomAttributeType_ValueChoice fresh; swap(fresh); }
+bool CustomAttributeType_ValueChoice::is_occurs_ok() const { return lmx::is_occurs_ok(k_class, this); }
+lmx::elmx_error CustomAttributeType_ValueChoice::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
+lmx::elmx_error CustomAttributeType_ValueChoice::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
+void CustomAttributeType_ValueChoice::marshal_attributes(lmx::c_xml_writer& writer) const { lmx::marshal_attributes(k_class, this, writer); }
+lmx::elmx_error CustomAttributeType_ValueChoice::marshal_child_elements(lmx::c_xml_writer& writer) const { return lmx::marshal_child_elements(k_class, this, writer); }
+bool CustomAttributeType_ValueChoice::unmarshal_attributes(lmx::c_xml_reader& reader, const std::string& name, lmx::elmx_error* error) { return lmx::unmarshal_attribute(k_class, this, reader, name, error); }
+lmx::elmx_error CustomAttributeType_ValueChoice::unmarshal_attributes_check(lmx::c_xml_reader& reader) { return lmx::check_required_attributes(k_class, this, reader); }
+bool CustomAttributeType_ValueChoice::unmarshal_body(lmx::c_xml_reader& reader, std::string* name, lmx::elmx_error* error) { return lmx::unmarshal_body(k_class, this, reader, name, error); }
+lmx::elmx_error CustomAttributeType_ValueChoice::set_DoubleValue(double value) { return lmx::set_item(k_class, k_items[item_DoubleValue], this, value); }
+lmx::elmx_error CustomAttributeType_ValueChoice::set_IntegerValue(std::int32_t value) { return lmx::set_item(k_class, k_items[item_IntegerValue], this, value); }
+const std::u16string& CustomAttributeType_ValueChoice::get_StringValue() const { return lmx::chosen_text(k_class, k_items[item_StringValue], this); }
+lmx::elmx_error CustomAttributeType_ValueChoice::set_StringValue(const std::u16string& value) { return lmx::set_item(k_class, k_items[item_StringValue], this, value); }
+
+// CustomAttributeType
+
+namespace {
+constexpr lmx::s_event_map k_CustomAttributeType_elements[] = {
+    lmx::element_event("Name", element_Name),
+    lmx::element_event("ValueChoice", element_ValueChoice),
+    lmx::k_end_of_map,
+};
+}  // namespace
+
+constinit const lmx::s_item CustomAttributeType::k_items[] = {
+    {lmx::item_kind::element, lmx::value_kind::text, lmx::use_required, lmx::ELMX_WS_PRESERVE, "Vyr:Name", element_Name, LMX_OFFSET(CustomAttributeType, m_Name, element, text), LMX_FLAG(CustomAttributeType, m_isset_Name), lmx::position_of(k_CustomAttributeType_elements, element_Name), lmx::position_of(k_CustomAttributeType_elements, element_Name, 1), nullptr, &facets::NonEmptyString, {}},
+    {lmx::item_kind::child, lmx::value_kind::none, lmx::use_required, lmx::ELMX_WS_PRESERVE, "Vyr:ValueChoice", element_ValueChoice, LMX_OFFSET(CustomAttributeType, m_ValueChoice, child, none), LMX_FLAG(CustomAttributeType, m_isset_ValueChoice), lmx::position_of(k_CustomAttributeType_elements, element_ValueChoice), lmx::position_of(k_CustomAttributeType_elements, element_ValueChoice, 1), &CustomAttributeType_ValueChoice::k_class, nullptr, {}},
+};
+constinit const lmx::s_class CustomAttributeType::k_class = {
+    .name = "CustomAttributeType",
+    .qualified_name = "Vyr:CustomAttributeType",
+    .base = nullptr,
+    .content = lmx::content_kind::children,
+    .may_be_empty = false,
+    .ns_map = k_ns_map,
+    .nil_flag = lmx::k_no_flag,
+    .choice = lmx::k_no_flag,
+    .id = nullptr,
+    .xsi_type = nullptr,
+    .attributes = std::span(k_items).first(std::size(lmx::k_no_events) - 1),
+    .elements = std::span(k_items).subspan(std::size(lmx::k_no_events) - 1),
+    .attribute_map = lmx::k_no_events,
+    .element_map = k_CustomAttributeType_elements,
+    .operations = &lmx::k_operations<CustomAttributeType>,
+};
+
+CustomAttributeType::CustomAttributeType() = default;
+CustomAttributeType::CustomAttributeType(const CustomAttributeType& other) { lmx::copy(k_class, this, &other); }
+CustomAttributeType::~CustomAttributeType() = default;
+CustomAttributeType& CustomAttributeType::operator=(const CustomAttributeType& other) { CustomAttributeType copy(other); swap(copy); return *this; }
+void CustomAttributeType::swap(CustomAttributeType& other) { lmx::swap(k_class, this, &other); }
+void CustomAttributeType::reset() { CustomAttributeType fresh; swap(fresh); }
+bool CustomAttributeType::is_occurs_ok() const { return lmx::is_occurs_ok(k_class, this); }
+lmx::elmx_error CustomAttributeType::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
+lmx::elmx_error CustomAttributeType::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
+void CustomAttributeType::marshal_attributes(lmx::c_xml_writer& writer) const { lmx::marshal_attributes(k_class, this, writer); }
+lmx::elmx_error CustomAttributeType::marshal_child_elements(lmx::c_xml_writer& writer) const { return lmx::marshal_child_elements(k_class, this, writer); }
+bool CustomAttributeType::unmarshal_attributes(lmx::c_xml_reader& reader, const std::string& name, lmx::elmx_error* error) { return lmx::unmarshal_attribute(k_class, this, reader, name, error); }
+lmx::elmx_error CustomAttributeType::unmarshal_attributes_check(lmx::c_xml_reader& reader) { return lmx::check_required_attributes(k_class, this, reader); }
+bool CustomAttributeType::unmarshal_body(lmx::c_xml_reader& reader, std::string* name, lmx::elmx_error* error) { return lmx::unmarshal_body(k_class, this, reader, name, error); }
+lmx::elmx_error CustomAttributeType::set_Name(const std::u16string& value) { return lmx::set_item(k_class, k_items[item_Name], this, value); }
+CustomAttributeType_ValueChoice& CustomAttributeType::assign_ValueChoice(const CustomAttributeType_ValueChoice& value) { return get_ValueChoice() = value; }
+
+// TagCategory
+
+namespace {
+constexpr lmx::s_event_map k_TagCategory_attributes[] = {
+    lmx::attribute_event("UniqueID", attribute_UniqueID),
+    lmx::attribute_event("Name", attribute_Name),
+    lmx::k_end_of_map,
+};
+}  // namespace
+
+constinit const lmx::s_item TagCategory::k_items[] = {
+    {lmx::item_kind::attribute, lmx::value_kind::text, lmx::use_optional, lmx::ELMX_WS_PRESERVE, "UniqueID", attribute_UniqueID, LMX_OFFSET(TagCategory, m_UniqueID, attribute, text), LMX_FLAG(TagCategory, m_isset_UniqueID), 0, 0, nullptr, nullptr, {}},
+    {lmx::item_kind::attribute, lmx::value_kind::text, lmx::use_optional, lmx::ELMX_WS_PRESERVE, "Name", attribute_Name, LMX_OFFSET(TagCategory, m_Name, attribute, text), LMX_FLAG(TagCategory, m_isset_Name), 0, 0, nullptr, nullptr, {}},
+};
+constinit const lmx::s_class TagCategory::k_class = {
+    .name = "TagCategory",
+    .qualified_name = "Vyr:TagCategory",
+    .base = nullptr,
+    .content = lmx::content_kind::empty,
+    .may_be_empty = false,
+    .ns_map = k_ns_map,
+    .nil_flag = lmx::k_no_flag,
+    .choice = lmx::k_no_flag,
+    .id = nullptr,
+    .xsi_type = nullptr,
+    .attributes = std::span(k_items).first(std::size(k_TagCategory_attributes) - 1),
+    .elements = std::span(k_items).subspan(std::size(k_TagCategory_attributes) - 1),
+    .attribute_map = k_TagCategory_attributes,
+    .element_map = lmx::k_no_events,
+    .operations = &lmx::k_operations<TagCategory>,
+};
+
+TagCategory::TagCategory() = default;
+TagCategory::TagCategory(const TagCategory& other) { lmx::copy(k_class, this, &other); }
+TagCategory::~TagCategory() = default;
+TagCategory& TagCategory::operator=(const TagCategory& other) { TagCategory copy(other); swap(copy); return *this; }
+void TagCategory::swap(TagCategory& other) { lmx::swap(k_class, this, &other); }
+void TagCategory::reset() { TagCategory fresh; swap(fresh); }
+bool TagCategory::is_occurs_ok() const { return lmx::is_occurs_ok(k_class, this); }
+lmx::elmx_error TagCategory::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
+lmx::elmx_error TagCategory::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
+void TagCategory::marshal_attributes(lmx::c_xml_writer& writer) const { lmx::marshal_attributes(k_class, this, writer); }
+lmx::elmx_error TagCategory::marshal_child_elements(lmx::c_xml_writer& writer) const { return lmx::marshal_child_elements(k_class, this, writer); }
+bool TagCategory::unmarshal_attributes(lmx::c_xml_reader& reader, const std::string& name, lmx::elmx_error* error) { return lmx::unmarshal_attribute(k_class, this, reader, name, error); }
+lmx::elmx_error TagCategory::unmarshal_attributes_check(lmx::c_xml_reader& reader) { return lmx::check_required_attributes(k_class, this, reader); }
+bool TagCategory::unmarshal_body(lmx::c_xml_reader& reader, std::string* name, lmx::elmx_error* error) { return lmx::unmarshal_body(k_class, this, reader, name, error); }
+lmx::elmx_error TagCategory::set_UniqueID(const std::u16string& value) { return lmx::set_item(k_class, k_items[item_UniqueID], this, value); }
+lmx::elmx_error TagCategory::set_Name(const std::u16string& value) { return lmx::set_item(k_class, k_items[item_Name], this, value); }
+
+// Tag
+
+namespace {
+constexpr lmx::s_event_map k_Tag_attributes[] = {
+    lmx::attribute_event("Name", attribute_Name),
+    lmx::attribute_event("UniqueID", attribute_UniqueID),
+    lmx::k_end_of_map,
+};
+constexpr lmx::s_event_map k_Tag_elements[] = {
+    lmx::element_event("Category", element_Category),
+    lmx::k_end_of_map,
+};
+}  // namespace
+
+constinit const lmx::s_item Tag::k_items[] = {
+    {lmx::item_kind::attribute, lmx::value_kind::text, lmx::use_optional, lmx::ELMX_WS_PRESERVE, "Name", attribute_Name, LMX_OFFSET(Tag, m_Name, attribute, text), LMX_FLAG(Tag, m_isset_Name), 0, 0, nullptr, nullptr, {}},
+    {lmx::item_kind::attribute, lmx::value_kind::text, lmx::use_optional, lmx::ELMX_WS_PRESERVE, "UniqueID", attribute_UniqueID, LMX_OFFSET(Tag, m_UniqueID, attribute, text), LMX_FLAG(Tag, m_isset_UniqueID), 0, 0, nullptr, nullptr, {}},
+    {lmx::item_kind::child, lmx::value_kind::none, lmx::use_written | lmx::use_copied, lmx::ELMX_WS_PRESERVE, "Vyr:Category", element_Category, LMX_OFFSET(Tag, m_Category, child, none), LMX_FLAG(Tag, m_isset_Category), lmx::position_of(k_Tag_elements, element_Category), lmx::position_of(k_Tag_elements, element_Category, 1), &TagCategory::k_class, nullptr, {}},
+};
+constinit const lmx::s_class Tag::k_class = {
+    .name = "Tag",
+    .qualified_name = "Vyr:Tag",
+    .base = nullptr,
+    .content = lmx::content_kind::children,
+    .may_be_empty = false,
+    .ns_map = k_ns_map,
+    .nil_flag = lmx::k_no_flag,
+    .choice = lmx::k_no_flag,
+    .id = nullptr,
+    .xsi_type = nullptr,
+    .attributes = std::span(k_items).first(std::size(k_Tag_attributes) - 1),
+    .elements = std::span(k_items).subspan(std::size(k_Tag_attributes) - 1),
+    .attribute_map = k_Tag_attributes,
+    .element_map = k_Tag_elements,
+    .operations = &lmx::k_operations<Tag>,
+};
+
+Tag::Tag() = default;
+Tag::Tag(const Tag& other) { lmx::copy(k_class, this, &other); }
+Tag::~Tag() = default;
+Tag& Tag::operator=(const Tag& other) { Tag copy(other); swap(copy); return *this; }
+void Tag::swap(Tag& other) { lmx::swap(k_class, this, &other); }
+void Tag::reset() { Tag fresh; swap(fresh); }
+bool Tag::is_occurs_ok() const { return lmx::is_occurs_ok(k_class, this); }
+lmx::elmx_error Tag::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
+lmx::elmx_error Tag::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
+void Tag::marshal_attributes(lmx::c_xml_writer& writer) const { lmx::marshal_attributes(k_class, this, writer); }
+lmx::elmx_error Tag::marshal_child_elements(lmx::c_xml_writer& writer) const { return lmx::marshal_child_elements(k_class, this, writer); }
+bool Tag::unmarshal_attributes(lmx::c_xml_reader& reader, const std::string& name, lmx::elmx_error* error) { return lmx::unmarshal_attribute(k_class, this, reader, name, error); }
+lmx::elmx_error Tag::unmarshal_attributes_check(lmx::c_xml_reader& reader) { return lmx::check_required_attributes(k_class, this, reader); }
+bool Tag::unmarshal_body(lmx::c_xml_reader& reader, std::string* name, lmx::elmx_error* error) { return lmx::unmarshal_body(k_class, this, reader, name, error); }
+lmx::elmx_error Tag::set_Name(const std::u16string& value) { return lmx::set_item(k_class, k_items[item_Name], this, value); }
+lmx::elmx_error Tag::set_UniqueID(const std::u16string& value) { return lmx::set_item(k_class, k_items[item_UniqueID], this, value); }
+TagCategory& Tag::assign_Category(const TagCategory& value) { return get_Category() = value; }
+
+// anon_TextValue
+
+namespace {
+constexpr lmx::s_event_map k_anon_TextValue_elements[] = {
+    lmx::element_event("TextValue", element_TextValue),
+    lmx::element_event("NumberValue", element_NumberValue),
+    lmx::k_end_of_map,
+};
+}  // namespace
+
+constinit const lmx::s_item anon_TextValue::k_items[] = {
+    {lmx::item_kind::alternative, lmx::value_kind::text, lmx::use_optional, lmx::ELMX_WS_PRESERVE, "Vyr:TextValue", element_TextValue, 0, lmx::k_no_flag, lmx::position_of(k_anon_TextValue_elements, element_TextValue), lmx::position_of(k_anon_TextValue_elements, element_TextValue, 1), nullptr, nullptr, {}},
+    {lmx::item_kind::alternative, lmx::value_kind::number, lmx::use_optional, lmx::ELMX_WS_COLLAPSE, "Vyr:NumberValue", element_NumberValue, 0, lmx::k_no_flag, lmx::position_of(k_anon_TextValue_elements, element_NumberValue), lmx::position_of(k_anon_TextValue_elements, element_NumberValue, 1), nullptr, nullptr, {}},
+};
+constinit const lmx::s_class anon_TextValue::k_class = {
+    .name = "anon_TextValue",
+    .qualified_name = "",
+    .base = nullptr,
+    .content = lmx::content_kind::choice,
+    .may_be_empty = false,
+    .ns_map = nullptr,
+    .nil_flag = lmx::k_no_flag,
+    .choice = LMX_CHOICE(anon_TextValue, m_choice),
+    .id = nullptr,
+    .xsi_type = nullptr,
+    .attributes = std::span(k_items).first(std::size(lmx::k_no_events) - 1),
+    .elements = std::span(k_items).subspan(std::size(lmx::k_no_events) - 1),
+    .attribute_map = lmx::k_no_events,
+    .element_map = k_anon_TextValue_elements,
+    .operations = &lmx::k_operations<anon_TextValue>,
+};
+
+anon_TextValue::anon_TextValue() = default;
+anon_TextValue::anon_TextValue(const anon_TextValue& other) { lmx::copy(k_class, this, &other); }
+anon_TextValue::~anon_TextValue() { lmx::release_choice(k_class, this); }
+anon_TextValue& anon_TextValue::operator=(const anon_TextValue& other) { anon_TextValue copy(other); swap(copy); return *this; }
+void anon_TextValue::swap(anon_TextValue& other) { lmx::swap(k_class, this, &other); }
+void anon_TextValue::reset() { anon_TextValue fresh; swap(fresh); }
+bool anon_TextValue::is_occurs_ok() const { return lmx::is_occurs_ok(k_class, this); }
+bool anon_TextValue::is_member(lmx::c_xml_reader& reader, const std::string&) { return lmx::is_group_member(k_class, reader); }
+lmx::elmx_error anon_TextValue::marshal(lmx::c_xml_writer& writer, const char*) const { return lmx::marshal_child_elements(k_class, this, writer); }
+bool anon_TextValue::unmarshal(lmx::c_xml_reader& reader, std::string* name, lmx::elmx_error* error) { return lmx::unmarshal_body(k_class, this, reader, name, error); }
+void anon_TextValue::marshal_attributes(lmx::c_xml_writer& writer) const { lmx::marshal_attributes(k_class, this, writer); }
+lmx::elmx_error anon_TextValue::marshal_child_elements(lmx::c_xml_writer& writer) const { return lmx::marshal_child_elements(k_class, this, writer); }
+const std::u16string& anon_TextValue::get_TextValue() const { return lmx::chosen_text(k_class, k_items[item_TextValue], this); }
+lmx::elmx_error anon_TextValue::set_TextValue(const std::u16string& value) { return lmx::set_item(k_class, k_items[item_TextValue], this, value); }
+lmx::elmx_error anon_TextValue::set_NumberValue(double value) { return lmx::set_item(k_class, k_items[item_NumberValue], this, value); }
+
+// TagValue
+
+namespace {
+constexpr lmx::s_event_map k_TagValue_attributes[] = {
+    lmx::attribute_event("UniqueID", attribute_UniqueID),
+    lmx::k_end_of_map,
+};
+constexpr lmx::s_event_map k_TagValue_elements[] = {
+    lmx::element_event("Tag", element_Tag),
+    lmx::element_event("TextValue", element_TextValue),
+    lmx::element_event("NumberValue", element_NumberValue),
+    lmx::k_end_of_map,
+};
+}  // namespace
+
+constinit const lmx::s_item TagValue::k_items[] = {
+    {lmx::item_kind::attribute, lmx::value_kind::text, lmx::use_optional, lmx::ELMX_WS_PRESERVE, "UniqueID", attribute_UniqueID, LMX_OFFSET(TagValue, m_UniqueID, attribute, text), LMX_FLAG(TagValue, m_isset_UniqueID), 0, 0, nullptr, nullptr, {}},
+    {lmx::item_kind::child, lmx::value_kind::none, lmx::use_required, lmx::ELMX_WS_PRESERVE, "Vyr:Tag", element_Tag, LMX_OFFSET(TagValue, m_Tag, child, none), LMX_FLAG(TagValue, m_isset_Tag), lmx::position_of(k_TagValue_elements, element_Tag), lmx::position_of(k_TagValue_elements, element_Tag, 1), &Tag::k_class, nullptr, {}},
+    {lmx::item_kind::group, lmx::value_kind::none, lmx::use_required, lmx::ELMX_WS_PRESERVE, "", 0, LMX_OFFSET(TagValue, m_anon_TextValue, group, none), LMX_FLAG(TagValue, m_isset_anon_TextValue), lmx::position_of(k_TagValue_elements, element_TextValue), lmx::position_of(k_TagValue_elements, element_TextValue, 2), &anon_TextValue::k_class, nullptr, {}},
+};
+constinit const lmx::s_class TagValue::k_class = {
+    .name = "TagValue",
+    .qualified_name = "Vyr:TagValue",
+    .base = nullptr,
+    .content = lmx::content_kind::children,
+    .may_be_empty = false,
+    .ns_map = k_ns_map,
+    .nil_flag = lmx::k_no_flag,
+    .choice = lmx::k_no_flag,
+    .id = nullptr,
+    .xsi_type = nullptr,
+    .attributes = std::span(k_items).first(std::size(k_TagValue_attributes) - 1),
+    .elements = std::span(k_items).subspan(std::size(k_TagValue_attributes) - 1),
+    .attribute_map = k_TagValue_attributes,
+    .element_map = k_TagValue_elements,
+    .operations = &lmx::k_operations<TagValue>,
+};
+
+TagValue::TagValue() = default;
+TagValue::TagValue(const TagValue& other) { lmx::copy(k_class, this, &other); }
+TagValue::~TagValue() = default;
+TagValue& TagValue::operator=(const TagValue& other) { TagValue copy(other); swap(copy); return *this; }
+void TagValue::swap(TagValue& other) { lmx::swap(k_class, this, &other); }
+void TagValue::reset() { TagValue fresh; swap(fresh); }
+bool TagValue::is_occurs_ok() const { return lmx::is_occurs_ok(k_class, this); }
+lmx::elmx_error TagValue::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
+lmx::elmx_error TagValue::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
+void TagValue::marshal_attributes(lmx::c_xml_writer& writer) const { lmx::marshal_attributes(k_class, this, writer); }
+lmx::elmx_error TagValue::marshal_child_elements(lmx::c_xml_writer& writer) const { return lmx::marshal_child_elements(k_class, this, writer); }
+bool TagValue::unmarshal_attributes(lmx::c_xml_reader& reader, const std::string& name, lmx::elmx_error* error) { return lmx::unmarshal_attribute(k_class, this, reader, name, error); }
+lmx::elmx_error TagValue::unmarshal_attributes_check(lmx::c_xml_reader& reader) { return lmx::check_required_attributes(k_class, this, reader); }
+bool TagValue::unmarshal_body(lmx::c_xml_reader& reader, std::string* name, lmx::elmx_error* error) { return lmx::unmarshal_body(k_class, this, reader, name, error); }
+lmx::elmx_error TagValue::set_UniqueID(const std::u16string& value) { return lmx::set_item(k_class, k_items[item_UniqueID], this, value); }
+Tag& TagValue::assign_Tag(const Tag& value) { return get_Tag() = value; }
+anon_TextValue& TagValue::assign_anon_TextValue(const anon_TextValue& value) { return get_anon_TextValue() = value; }
+
+}  // namespace com_vyrgraph_v2

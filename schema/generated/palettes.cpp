@@ -1,0 +1,444 @@
+// Copyright 2026 The Vyr Authors
+// SPDX-License-Identifier: Apache-2.0
+//
+// Made by schema/generator/generate.py from schema/vyr.xsd and schema/binding.toml. Change those instead.
+// clang-format off
+
+/// Tables and members of the classes in palettes.h.
+
+#include "schema/generated/palettes.h"
+#include "lmx/binding/binding.h"
+#include "lmx/binding/rows.h"
+#include "schema/generated/groups.h"
+#include "schema/generated/header.h"
+#include "schema/generated/specifications.h"
+#include "schema/generated/tables.h"
+
+// Offsets of members of classes with virtual functions: both compilers define them, and the macros check them.
+#pragma GCC diagnostic ignored "-Winvalid-offsetof"
+
+namespace com_vyrgraph_v2 {
+
+static_assert(lmx::k_binding_version == 1, "run schema/generator/generate.py");
+
+// CollectionColorSpaceSpecificationType
+
+namespace {
+constexpr lmx::s_event_map k_CollectionColorSpaceSpecificationType_elements[] = {
+    lmx::element_event("ColorSpaceSpecificationSpectrumGeneric", element_ColorSpaceSpecificationSpectrumGeneric),
+    lmx::element_event("ColorSpaceSpecificationSpectrumSpectral", element_ColorSpaceSpecificationSpectrumSpectral),
+    lmx::element_event("ColorSpaceSpecificationSpectrumTristimulus", element_ColorSpaceSpecificationSpectrumTristimulus),
+    lmx::element_event("ColorSpaceSpecificationEmissiveGeneric", element_ColorSpaceSpecificationEmissiveGeneric),
+    lmx::element_event("ColorSpaceSpecificationEmissiveSpectral", element_ColorSpaceSpecificationEmissiveSpectral),
+    lmx::element_event("ColorSpaceSpecificationEmissiveTristimulus", element_ColorSpaceSpecificationEmissiveTristimulus),
+    lmx::k_end_of_map,
+};
+}  // namespace
+
+constinit const lmx::s_item CollectionColorSpaceSpecificationType::k_items[] = {
+    {lmx::item_kind::child, lmx::value_kind::none, lmx::use_optional, lmx::ELMX_WS_PRESERVE, "Vyr:ColorSpaceSpecificationSpectrumGeneric", element_ColorSpaceSpecificationSpectrumGeneric, LMX_OFFSET(CollectionColorSpaceSpecificationType, m_ColorSpaceSpecificationSpectrumGeneric, child, none), LMX_FLAG(CollectionColorSpaceSpecificationType, m_isset_ColorSpaceSpecificationSpectrumGeneric), lmx::position_of(k_CollectionColorSpaceSpecificationType_elements, element_ColorSpaceSpecificationSpectrumGeneric), lmx::position_of(k_CollectionColorSpaceSpecificationType_elements, element_ColorSpaceSpecificationSpectrumGeneric, 1), &ColorSpaceSpecificationSpectrumGeneric::k_class, nullptr, {}},
+    {lmx::item_kind::child, lmx::value_kind::none, lmx::use_optional, lmx::ELMX_WS_PRESERVE, "Vyr:ColorSpaceSpecificationSpectrumSpectral", element_ColorSpaceSpecificationSpectrumSpectral, LMX_OFFSET(CollectionColorSpaceSpecificationType, m_ColorSpaceSpecificationSpectrumSpectral, child, none), LMX_FLAG(CollectionColorSpaceSpecificationType, m_isset_ColorSpaceSpecificationSpectrumSpectral), lmx::position_of(k_CollectionColorSpaceSpecificationType_elements, element_ColorSpaceSpecificationSpectrumSpectral), lmx::position_of(k_CollectionColorSpaceSpecificationType_elements, element_ColorSpaceSpecificationSpectrumSpectral, 1), &ColorSpaceSpecificationSpectrumSpectral::k_class, nullptr, {}},
+    {lmx::item_kind::child, lmx::value_kind::none, lmx::use_optional, lmx::ELMX_WS_PRESERVE, "Vyr:ColorSpaceSpecificationSpectrumTristimulus", element_ColorSpaceSpecificationSpectrumTristimulus, LMX_OFFSET(CollectionColorSpaceSpecificationType, m_ColorSpaceSpecificationSpectrumTristimulus, child, none), LMX_FLAG(CollectionColorSpaceSpecificationType, m_isset_ColorSpaceSpecificationSpectrumTristimulus), lmx::position_of(k_CollectionColorSpaceSpecificationType_elements, element_ColorSpaceSpecificationSpectrumTristimulus), lmx::position_of(k_CollectionColorSpaceSpecificationType_elements, element_ColorSpaceSpecificationSpectrumTristimulus, 1), &ColorSpaceSpecificationSpectrumTristimulus::k_class, nullptr, {}},
+    {lmx::item_kind::child, lmx::value_kind::none, lmx::use_optional, lmx::ELMX_WS_PRESERVE, "Vyr:ColorSpaceSpecificationEmissiveGeneric", element_ColorSpaceSpecificationEmissiveGeneric, LMX_OFFSET(CollectionColorSpaceSpecificationType, m_ColorSpaceSpecificationEmissiveGeneric, child, none), LMX_FLAG(CollectionColorSpaceSpecificationType, m_isset_ColorSpaceSpecificationEmissiveGeneric), lmx::position_of(k_CollectionColorSpaceSpecificationType_elements, element_ColorSpaceSpecificationEmissiveGeneric), lmx::position_of(k_CollectionColorSpaceSpecificationType_elements, element_ColorSpaceSpecificationEmissiveGeneric, 1), &ColorSpaceSpecificationEmissiveGeneric::k_class, nullptr, {}},
+    {lmx::item_kind::child, lmx::value_kind::none, lmx::use_optional, lmx::ELMX_WS_PRESERVE, "Vyr:ColorSpaceSpecificationEmissiveSpectral", element_ColorSpaceSpecificationEmissiveSpectral, LMX_OFFSET(CollectionColorSpaceSpecificationType, m_ColorSpaceSpecificationEmissiveSpectral, child, none), LMX_FLAG(CollectionColorSpaceSpecificationType, m_isset_ColorSpaceSpecificationEmissiveSpectral), lmx::position_of(k_CollectionColorSpaceSpecificationType_elements, element_ColorSpaceSpecificationEmissiveSpectral), lmx::position_of(k_CollectionColorSpaceSpecificationType_elements, element_ColorSpaceSpecificationEmissiveSpectral, 1), &ColorSpaceSpecificationEmissiveSpectral::k_class, nullptr, {}},
+    {lmx::item_kind::child, lmx::value_kind::none, lmx::use_optional, lmx::ELMX_WS_PRESERVE, "Vyr:ColorSpaceSpecificationEmissiveTristimulus", element_ColorSpaceSpecificationEmissiveTristimulus, LMX_OFFSET(CollectionColorSpaceSpecificationType, m_ColorSpaceSpecificationEmissiveTristimulus, child, none), LMX_FLAG(CollectionColorSpaceSpecificationType, m_isset_ColorSpaceSpecificationEmissiveTristimulus), lmx::position_of(k_CollectionColorSpaceSpecificationType_elements, element_ColorSpaceSpecificationEmissiveTristimulus), lmx::position_of(k_CollectionColorSpaceSpecificationType_elements, element_ColorSpaceSpecificationEmissiveTristimulus, 1), &ColorSpaceSpecificationEmissiveTristimulus::k_class, nullptr, {}},
+};
+constinit const lmx::s_class CollectionColorSpaceSpecificationType::k_class = {
+    .name = "CollectionColorSpaceSpecificationType",
+    .qualified_name = "Vyr:CollectionColorSpaceSpecificationType",
+    .base = nullptr,
+    .content = lmx::content_kind::children,
+    .may_be_empty = true,
+    .ns_map = k_ns_map,
+    .nil_flag = lmx::k_no_flag,
+    .choice = lmx::k_no_flag,
+    .id = nullptr,
+    .xsi_type = nullptr,
+    .attributes = std::span(k_items).first(std::size(lmx::k_no_events) - 1),
+    .elements = std::span(k_items).subspan(std::size(lmx::k_no_events) - 1),
+    .attribute_map = lmx::k_no_events,
+    .element_map = k_CollectionColorSpaceSpecificationType_elements,
+    .operations = &lmx::k_operations<CollectionColorSpaceSpecificationType>,
+};
+
+CollectionColorSpaceSpecificationType::CollectionColorSpaceSpecificationType() = default;
+CollectionColorSpaceSpecificationType::CollectionColorSpaceSpecificationType(const CollectionColorSpaceSpecificationType& other) { lmx::copy(k_class, this, &other); }
+CollectionColorSpaceSpecificationType::~CollectionColorSpaceSpecificationType() = default;
+CollectionColorSpaceSpecificationType& CollectionColorSpaceSpecificationType::operator=(const CollectionColorSpaceSpecificationType& other) { CollectionColorSpaceSpecificationType copy(other); swap(copy); return *this; }
+void CollectionColorSpaceSpecificationType::swap(CollectionColorSpaceSpecificationType& other) { lmx::swap(k_class, this, &other); }
+void CollectionColorSpaceSpecificationType::reset() { CollectionColorSpaceSpecificationType fresh; swap(fresh); }
+bool CollectionColorSpaceSpecificationType::is_occurs_ok() const { return lmx::is_occurs_ok(k_class, this); }
+lmx::elmx_error CollectionColorSpaceSpecificationType::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
+lmx::elmx_error CollectionColorSpaceSpecificationType::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
+void CollectionColorSpaceSpecificationType::marshal_attributes(lmx::c_xml_writer& writer) const { lmx::marshal_attributes(k_class, this, writer); }
+lmx::elmx_error CollectionColorSpaceSpecificationType::marshal_child_elements(lmx::c_xml_writer& writer) const { return lmx::marshal_child_elements(k_class, this, writer); }
+bool CollectionColorSpaceSpecificationType::unmarshal_attributes(lmx::c_xml_reader& reader, const std::string& name, lmx::elmx_error* error) { return lmx::unmarshal_attribute(k_class, this, reader, name, error); }
+lmx::elmx_error CollectionColorSpaceSpecificationType::unmarshal_attributes_check(lmx::c_xml_reader& reader) { return lmx::check_required_attributes(k_class, this, reader); }
+bool CollectionColorSpaceSpecificationType::unmarshal_body(lmx::c_xml_reader& reader, std::string* name, lmx::elmx_error* error) { return lmx::unmarshal_body(k_class, this, reader, name, error); }
+ColorSpaceSpecificationSpectrumGeneric& CollectionColorSpaceSpecificationType::assign_ColorSpaceSpecificationSpectrumGeneric(const ColorSpaceSpecificationSpectrumGeneric& value) { return get_ColorSpaceSpecificationSpectrumGeneric() = value; }
+ColorSpaceSpecificationSpectrumSpectral& CollectionColorSpaceSpecificationType::assign_ColorSpaceSpecificationSpectrumSpectral(const ColorSpaceSpecificationSpectrumSpectral& value) { return get_ColorSpaceSpecificationSpectrumSpectral() = value; }
+ColorSpaceSpecificationSpectrumTristimulus& CollectionColorSpaceSpecificationType::assign_ColorSpaceSpecificationSpectrumTristimulus(const ColorSpaceSpecificationSpectrumTristimulus& value) { return get_ColorSpaceSpecificationSpectrumTristimulus() = value; }
+ColorSpaceSpecificationEmissiveGeneric& CollectionColorSpaceSpecificationType::assign_ColorSpaceSpecificationEmissiveGeneric(const ColorSpaceSpecificationEmissiveGeneric& value) { return get_ColorSpaceSpecificationEmissiveGeneric() = value; }
+ColorSpaceSpecificationEmissiveSpectral& CollectionColorSpaceSpecificationType::assign_ColorSpaceSpecificationEmissiveSpectral(const ColorSpaceSpecificationEmissiveSpectral& value) { return get_ColorSpaceSpecificationEmissiveSpectral() = value; }
+ColorSpaceSpecificationEmissiveTristimulus& CollectionColorSpaceSpecificationType::assign_ColorSpaceSpecificationEmissiveTristimulus(const ColorSpaceSpecificationEmissiveTristimulus& value) { return get_ColorSpaceSpecificationEmissiveTristimulus() = value; }
+
+// PaletteType
+
+namespace {
+constexpr lmx::s_event_map k_PaletteType_attributes[] = {
+    lmx::attribute_event("PaletteName", attribute_PaletteName),
+    lmx::attribute_event("PalettePartNumber", attribute_PalettePartNumber),
+    lmx::attribute_event("PaletteVersion", attribute_PaletteVersion),
+    lmx::attribute_event("UniqueID", attribute_UniqueID),
+    lmx::attribute_event("Comments", attribute_Comments),
+    lmx::k_end_of_map,
+};
+constexpr lmx::s_event_map k_PaletteType_elements[] = {
+    lmx::element_event("CustomAttribute", element_CustomAttribute),
+    lmx::element_event("ChangeHistory", element_ChangeHistory),
+    lmx::element_event("Owner", element_Owner),
+    lmx::element_event("SemanticAssociation", element_SemanticAssociation),
+    lmx::element_event("CollectionColorSpaceSpecification", element_CollectionColorSpaceSpecification),
+    lmx::element_event("ColorSet", element_ColorSet),
+    lmx::k_end_of_map,
+};
+}  // namespace
+
+constinit const lmx::s_item PaletteType::k_items[] = {
+    {lmx::item_kind::attribute, lmx::value_kind::text, lmx::use_required, lmx::ELMX_WS_PRESERVE, "PaletteName", attribute_PaletteName, LMX_OFFSET(PaletteType, m_PaletteName, attribute, text), LMX_FLAG(PaletteType, m_isset_PaletteName), 0, 0, nullptr, nullptr, {}},
+    {lmx::item_kind::attribute, lmx::value_kind::text, lmx::use_optional, lmx::ELMX_WS_PRESERVE, "PalettePartNumber", attribute_PalettePartNumber, LMX_OFFSET(PaletteType, m_PalettePartNumber, attribute, text), LMX_FLAG(PaletteType, m_isset_PalettePartNumber), 0, 0, nullptr, nullptr, {}},
+    {lmx::item_kind::attribute, lmx::value_kind::text, lmx::use_optional, lmx::ELMX_WS_PRESERVE, "PaletteVersion", attribute_PaletteVersion, LMX_OFFSET(PaletteType, m_PaletteVersion, attribute, text), LMX_FLAG(PaletteType, m_isset_PaletteVersion), 0, 0, nullptr, nullptr, {}},
+    {lmx::item_kind::attribute, lmx::value_kind::text, lmx::use_optional, lmx::ELMX_WS_PRESERVE, "UniqueID", attribute_UniqueID, LMX_OFFSET(PaletteType, m_UniqueID, attribute, text), LMX_FLAG(PaletteType, m_isset_UniqueID), 0, 0, nullptr, nullptr, {}},
+    {lmx::item_kind::attribute, lmx::value_kind::text, lmx::use_optional, lmx::ELMX_WS_PRESERVE, "Comments", attribute_Comments, LMX_OFFSET(PaletteType, m_Comments, attribute, text), LMX_FLAG(PaletteType, m_isset_Comments), 0, 0, nullptr, nullptr, {}},
+    {lmx::item_kind::child_list, lmx::value_kind::none, lmx::use_optional, lmx::ELMX_WS_PRESERVE, "Vyr:CustomAttribute", element_CustomAttribute, LMX_OFFSET(PaletteType, m_CustomAttribute, child_list, none), lmx::k_no_flag, lmx::position_of(k_PaletteType_elements, element_CustomAttribute), lmx::position_of(k_PaletteType_elements, element_CustomAttribute, 1), &CustomAttributeType::k_class, nullptr, {}},
+    {lmx::item_kind::element_list, lmx::value_kind::datetime, lmx::use_demanded | lmx::use_asked, lmx::ELMX_WS_COLLAPSE, "Vyr:ChangeHistory", element_ChangeHistory, LMX_OFFSET(PaletteType, m_ChangeHistory, element_list, datetime), lmx::k_no_flag, lmx::position_of(k_PaletteType_elements, element_ChangeHistory), lmx::position_of(k_PaletteType_elements, element_ChangeHistory, 1), nullptr, &facets::DateTimeZone, {}},
+    {lmx::item_kind::child, lmx::value_kind::none, lmx::use_optional, lmx::ELMX_WS_PRESERVE, "Vyr:Owner", element_Owner, LMX_OFFSET(PaletteType, m_Owner, child, none), LMX_FLAG(PaletteType, m_isset_Owner), lmx::position_of(k_PaletteType_elements, element_Owner), lmx::position_of(k_PaletteType_elements, element_Owner, 1), &OwnerType::k_class, nullptr, {}},
+    {lmx::item_kind::element_list, lmx::value_kind::text, lmx::use_optional, lmx::ELMX_WS_PRESERVE, "Vyr:SemanticAssociation", element_SemanticAssociation, LMX_OFFSET(PaletteType, m_SemanticAssociation, element_list, text), lmx::k_no_flag, lmx::position_of(k_PaletteType_elements, element_SemanticAssociation), lmx::position_of(k_PaletteType_elements, element_SemanticAssociation, 1), nullptr, nullptr, {}},
+    {lmx::item_kind::child, lmx::value_kind::none, lmx::use_optional, lmx::ELMX_WS_PRESERVE, "Vyr:CollectionColorSpaceSpecification", element_CollectionColorSpaceSpecification, LMX_OFFSET(PaletteType, m_CollectionColorSpaceSpecification, child, none), LMX_FLAG(PaletteType, m_isset_CollectionColorSpaceSpecification), lmx::position_of(k_PaletteType_elements, element_CollectionColorSpaceSpecification), lmx::position_of(k_PaletteType_elements, element_CollectionColorSpaceSpecification, 1), &CollectionColorSpaceSpecificationType::k_class, nullptr, {}},
+    {lmx::item_kind::child_list, lmx::value_kind::none, lmx::use_optional, lmx::ELMX_WS_PRESERVE, "Vyr:ColorSet", element_ColorSet, LMX_OFFSET(PaletteType, m_ColorSet, child_list, none), lmx::k_no_flag, lmx::position_of(k_PaletteType_elements, element_ColorSet), lmx::position_of(k_PaletteType_elements, element_ColorSet, 1), &ColorSetType::k_class, nullptr, {}},
+};
+constinit const lmx::s_class PaletteType::k_class = {
+    .name = "PaletteType",
+    .qualified_name = "Vyr:PaletteType",
+    .base = nullptr,
+    .content = lmx::content_kind::children,
+    .may_be_empty = false,
+    .ns_map = k_ns_map,
+    .nil_flag = lmx::k_no_flag,
+    .choice = lmx::k_no_flag,
+    .id = nullptr,
+    .xsi_type = nullptr,
+    .attributes = std::span(k_items).first(std::size(k_PaletteType_attributes) - 1),
+    .elements = std::span(k_items).subspan(std::size(k_PaletteType_attributes) - 1),
+    .attribute_map = k_PaletteType_attributes,
+    .element_map = k_PaletteType_elements,
+    .operations = &lmx::k_operations<PaletteType>,
+};
+
+PaletteType::PaletteType() = default;
+PaletteType::PaletteType(const PaletteType& other) { lmx::copy(k_class, this, &other); }
+PaletteType::~PaletteType() = default;
+PaletteType& PaletteType::operator=(const PaletteType& other) { PaletteType copy(other); swap(copy); return *this; }
+void PaletteType::swap(PaletteType& other) { lmx::swap(k_class, this, &other); }
+void PaletteType::reset() { PaletteType fresh; swap(fresh); }
+bool PaletteType::is_occurs_ok() const { return lmx::is_occurs_ok(k_class, this); }
+lmx::elmx_error PaletteType::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
+lmx::elmx_error PaletteType::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
+void PaletteType::marshal_attributes(lmx::c_xml_writer& writer) const { lmx::marshal_attributes(k_class, this, writer); }
+lmx::elmx_error PaletteType::marshal_child_elements(lmx::c_xml_writer& writer) const { return lmx::marshal_child_elements(k_class, this, writer); }
+bool PaletteType::unmarshal_attributes(lmx::c_xml_reader& reader, const std::string& name, lmx::elmx_error* error) { return lmx::unmarshal_attribute(k_class, this, reader, name, error); }
+lmx::elmx_error PaletteType::unmarshal_attributes_check(lmx::c_xml_reader& reader) { return lmx::check_required_attributes(k_class, this, reader); }
+bool PaletteType::unmarshal_body(lmx::c_xml_reader& reader, std::string* name, lmx::elmx_error* error) { return lmx::unmarshal_body(k_class, this, reader, name, error); }
+lmx::elmx_error PaletteType::set_PaletteName(const std::u16string& value) { return lmx::set_item(k_class, k_items[item_PaletteName], this, value); }
+lmx::elmx_error PaletteType::set_PalettePartNumber(const std::u16string& value) { return lmx::set_item(k_class, k_items[item_PalettePartNumber], this, value); }
+lmx::elmx_error PaletteType::set_PaletteVersion(const std::u16string& value) { return lmx::set_item(k_class, k_items[item_PaletteVersion], this, value); }
+lmx::elmx_error PaletteType::set_UniqueID(const std::u16string& value) { return lmx::set_item(k_class, k_items[item_UniqueID], this, value); }
+lmx::elmx_error PaletteType::set_Comments(const std::u16string& value) { return lmx::set_item(k_class, k_items[item_Comments], this, value); }
+CustomAttributeType& PaletteType::get_CustomAttribute(std::size_t index) { return m_CustomAttribute.grow_to(index); }
+CustomAttributeType& PaletteType::assign_CustomAttribute(std::size_t index, const CustomAttributeType& value) { return get_CustomAttribute(index) = value; }
+lmx::elmx_error PaletteType::append_CustomAttribute() { m_CustomAttribute.append(); return lmx::ELMX_OK; }
+lmx::elmx_error PaletteType::insert_CustomAttribute(std::size_t index) { m_CustomAttribute.insert(index); return lmx::ELMX_OK; }
+void PaletteType::delete_CustomAttribute(std::size_t index) { m_CustomAttribute.erase(index); }
+void PaletteType::clear_CustomAttribute() { m_CustomAttribute.clear(); }
+lmx::elmx_error PaletteType::set_ChangeHistory(std::size_t index, const lmx::c_datetime& value) { return lmx::set_entry(k_items[item_ChangeHistory], this, index, value); }
+lmx::elmx_error PaletteType::append_ChangeHistory(const lmx::c_datetime& value) { return lmx::insert_entry(k_items[item_ChangeHistory], this, size_ChangeHistory(), value); }
+lmx::elmx_error PaletteType::insert_ChangeHistory(std::size_t index, const lmx::c_datetime& value) { return lmx::insert_entry(k_items[item_ChangeHistory], this, index, value); }
+void PaletteType::delete_ChangeHistory(std::size_t index) { m_ChangeHistory.erase(index); }
+void PaletteType::clear_ChangeHistory() { m_ChangeHistory.clear(); }
+OwnerType& PaletteType::assign_Owner(const OwnerType& value) { return get_Owner() = value; }
+lmx::elmx_error PaletteType::set_SemanticAssociation(std::size_t index, const std::u16string& value) { return lmx::set_entry(k_items[item_SemanticAssociation], this, index, value); }
+lmx::elmx_error PaletteType::append_SemanticAssociation(const std::u16string& value) { return lmx::insert_entry(k_items[item_SemanticAssociation], this, size_SemanticAssociation(), value); }
+lmx::elmx_error PaletteType::insert_SemanticAssociation(std::size_t index, const std::u16string& value) { return lmx::insert_entry(k_items[item_SemanticAssociation], this, index, value); }
+void PaletteType::delete_SemanticAssociation(std::size_t index) { m_SemanticAssociation.erase(index); }
+void PaletteType::clear_SemanticAssociation() { m_SemanticAssociation.clear(); }
+CollectionColorSpaceSpecificationType& PaletteType::assign_CollectionColorSpaceSpecification(const CollectionColorSpaceSpecificationType& value) { return get_CollectionColorSpaceSpecification() = value; }
+ColorSetType& PaletteType::get_ColorSet(std::size_t index) { return m_ColorSet.grow_to(index); }
+ColorSetType& PaletteType::assign_ColorSet(std::size_t index, const ColorSetType& value) { return get_ColorSet(index) = value; }
+lmx::elmx_error PaletteType::append_ColorSet() { m_ColorSet.append(); return lmx::ELMX_OK; }
+lmx::elmx_error PaletteType::insert_ColorSet(std::size_t index) { m_ColorSet.insert(index); return lmx::ELMX_OK; }
+void PaletteType::delete_ColorSet(std::size_t index) { m_ColorSet.erase(index); }
+void PaletteType::clear_ColorSet() { m_ColorSet.clear(); }
+
+// ColorSetType
+
+namespace {
+constexpr lmx::s_event_map k_ColorSetType_attributes[] = {
+    lmx::attribute_event("ColorSetName", attribute_ColorSetName),
+    lmx::attribute_event("UniqueID", attribute_UniqueID),
+    lmx::attribute_event("PartNumber", attribute_PartNumber),
+    lmx::attribute_event("Comments", attribute_Comments),
+    lmx::k_end_of_map,
+};
+constexpr lmx::s_event_map k_ColorSetType_elements[] = {
+    lmx::element_event("CustomAttribute", element_CustomAttribute),
+    lmx::element_event("ChangeHistory", element_ChangeHistory),
+    lmx::element_event("Owner", element_Owner),
+    lmx::element_event("SemanticAssociation", element_SemanticAssociation),
+    lmx::element_event("CollectionColorSpaceSpecification", element_CollectionColorSpaceSpecification),
+    lmx::element_event("Color", element_Color),
+    lmx::element_event("SubstratePaper", element_SubstratePaper),
+    lmx::element_event("SubstrateGeneric", element_SubstrateGeneric),
+    lmx::element_event("SubstrateMetal", element_SubstrateMetal),
+    lmx::element_event("SubstratePlastic", element_SubstratePlastic),
+    lmx::element_event("SubstrateWood", element_SubstrateWood),
+    lmx::element_event("SubstrateVinyl", element_SubstrateVinyl),
+    lmx::element_event("SubstrateTile", element_SubstrateTile),
+    lmx::element_event("SubstrateFilm", element_SubstrateFilm),
+    lmx::element_event("SubstrateTextile", element_SubstrateTextile),
+    lmx::k_end_of_map,
+};
+}  // namespace
+
+constinit const lmx::s_item ColorSetType::k_items[] = {
+    {lmx::item_kind::attribute, lmx::value_kind::text, lmx::use_required, lmx::ELMX_WS_PRESERVE, "ColorSetName", attribute_ColorSetName, LMX_OFFSET(ColorSetType, m_ColorSetName, attribute, text), LMX_FLAG(ColorSetType, m_isset_ColorSetName), 0, 0, nullptr, nullptr, {}},
+    {lmx::item_kind::attribute, lmx::value_kind::text, lmx::use_optional, lmx::ELMX_WS_PRESERVE, "UniqueID", attribute_UniqueID, LMX_OFFSET(ColorSetType, m_UniqueID, attribute, text), LMX_FLAG(ColorSetType, m_isset_UniqueID), 0, 0, nullptr, nullptr, {}},
+    {lmx::item_kind::attribute, lmx::value_kind::text, lmx::use_optional, lmx::ELMX_WS_PRESERVE, "PartNumber", attribute_PartNumber, LMX_OFFSET(ColorSetType, m_PartNumber, attribute, text), LMX_FLAG(ColorSetType, m_isset_PartNumber), 0, 0, nullptr, nullptr, {}},
+    {lmx::item_kind::attribute, lmx::value_kind::text, lmx::use_optional, lmx::ELMX_WS_PRESERVE, "Comments", attribute_Comments, LMX_OFFSET(ColorSetType, m_Comments, attribute, text), LMX_FLAG(ColorSetType, m_isset_Comments), 0, 0, nullptr, nullptr, {}},
+    {lmx::item_kind::child_list, lmx::value_kind::none, lmx::use_optional, lmx::ELMX_WS_PRESERVE, "Vyr:CustomAttribute", element_CustomAttribute, LMX_OFFSET(ColorSetType, m_CustomAttribute, child_list, none), lmx::k_no_flag, lmx::position_of(k_ColorSetType_elements, element_CustomAttribute), lmx::position_of(k_ColorSetType_elements, element_CustomAttribute, 1), &CustomAttributeType::k_class, nullptr, {}},
+    {lmx::item_kind::element_list, lmx::value_kind::datetime, lmx::use_demanded | lmx::use_asked, lmx::ELMX_WS_COLLAPSE, "Vyr:ChangeHistory", element_ChangeHistory, LMX_OFFSET(ColorSetType, m_ChangeHistory, element_list, datetime), lmx::k_no_flag, lmx::position_of(k_ColorSetType_elements, element_ChangeHistory), lmx::position_of(k_ColorSetType_elements, element_ChangeHistory, 1), nullptr, &facets::DateTimeZone, {}},
+    {lmx::item_kind::child, lmx::value_kind::none, lmx::use_optional, lmx::ELMX_WS_PRESERVE, "Vyr:Owner", element_Owner, LMX_OFFSET(ColorSetType, m_Owner, child, none), LMX_FLAG(ColorSetType, m_isset_Owner), lmx::position_of(k_ColorSetType_elements, element_Owner), lmx::position_of(k_ColorSetType_elements, element_Owner, 1), &OwnerType::k_class, nullptr, {}},
+    {lmx::item_kind::element_list, lmx::value_kind::text, lmx::use_optional, lmx::ELMX_WS_PRESERVE, "Vyr:SemanticAssociation", element_SemanticAssociation, LMX_OFFSET(ColorSetType, m_SemanticAssociation, element_list, text), lmx::k_no_flag, lmx::position_of(k_ColorSetType_elements, element_SemanticAssociation), lmx::position_of(k_ColorSetType_elements, element_SemanticAssociation, 1), nullptr, nullptr, {}},
+    {lmx::item_kind::child, lmx::value_kind::none, lmx::use_optional, lmx::ELMX_WS_PRESERVE, "Vyr:CollectionColorSpaceSpecification", element_CollectionColorSpaceSpecification, LMX_OFFSET(ColorSetType, m_CollectionColorSpaceSpecification, child, none), LMX_FLAG(ColorSetType, m_isset_CollectionColorSpaceSpecification), lmx::position_of(k_ColorSetType_elements, element_CollectionColorSpaceSpecification), lmx::position_of(k_ColorSetType_elements, element_CollectionColorSpaceSpecification, 1), &CollectionColorSpaceSpecificationType::k_class, nullptr, {}},
+    {lmx::item_kind::child_list, lmx::value_kind::none, lmx::use_optional, lmx::ELMX_WS_PRESERVE, "Vyr:Color", element_Color, LMX_OFFSET(ColorSetType, m_Color, child_list, none), lmx::k_no_flag, lmx::position_of(k_ColorSetType_elements, element_Color), lmx::position_of(k_ColorSetType_elements, element_Color, 1), &ColorType::k_class, nullptr, {}},
+    {lmx::item_kind::group, lmx::value_kind::none, lmx::use_optional, lmx::ELMX_WS_PRESERVE, "Vyr:Substrate", 0, LMX_OFFSET(ColorSetType, m_Substrate, group, none), LMX_FLAG(ColorSetType, m_isset_Substrate), lmx::position_of(k_ColorSetType_elements, element_SubstratePaper), lmx::position_of(k_ColorSetType_elements, element_SubstratePaper, 9), &sg_Substrate::k_class, nullptr, {}},
+};
+constinit const lmx::s_class ColorSetType::k_class = {
+    .name = "ColorSetType",
+    .qualified_name = "Vyr:ColorSetType",
+    .base = nullptr,
+    .content = lmx::content_kind::children,
+    .may_be_empty = false,
+    .ns_map = k_ns_map,
+    .nil_flag = lmx::k_no_flag,
+    .choice = lmx::k_no_flag,
+    .id = nullptr,
+    .xsi_type = nullptr,
+    .attributes = std::span(k_items).first(std::size(k_ColorSetType_attributes) - 1),
+    .elements = std::span(k_items).subspan(std::size(k_ColorSetType_attributes) - 1),
+    .attribute_map = k_ColorSetType_attributes,
+    .element_map = k_ColorSetType_elements,
+    .operations = &lmx::k_operations<ColorSetType>,
+};
+
+ColorSetType::ColorSetType() = default;
+ColorSetType::ColorSetType(const ColorSetType& other) { lmx::copy(k_class, this, &other); }
+ColorSetType::~ColorSetType() = default;
+ColorSetType& ColorSetType::operator=(const ColorSetType& other) { ColorSetType copy(other); swap(copy); return *this; }
+void ColorSetType::swap(ColorSetType& other) { lmx::swap(k_class, this, &other); }
+void ColorSetType::reset() { ColorSetType fresh; swap(fresh); }
+bool ColorSetType::is_occurs_ok() const { return lmx::is_occurs_ok(k_class, this); }
+lmx::elmx_error ColorSetType::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
+lmx::elmx_error ColorSetType::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
+void ColorSetType::marshal_attributes(lmx::c_xml_writer& writer) const { lmx::marshal_attributes(k_class, this, writer); }
+lmx::elmx_error ColorSetType::marshal_child_elements(lmx::c_xml_writer& writer) const { return lmx::marshal_child_elements(k_class, this, writer); }
+bool ColorSetType::unmarshal_attributes(lmx::c_xml_reader& reader, const std::string& name, lmx::elmx_error* error) { return lmx::unmarshal_attribute(k_class, this, reader, name, error); }
+lmx::elmx_error ColorSetType::unmarshal_attributes_check(lmx::c_xml_reader& reader) { return lmx::check_required_attributes(k_class, this, reader); }
+bool ColorSetType::unmarshal_body(lmx::c_xml_reader& reader, std::string* name, lmx::elmx_error* error) { return lmx::unmarshal_body(k_class, this, reader, name, error); }
+lmx::elmx_error ColorSetType::set_ColorSetName(const std::u16string& value) { return lmx::set_item(k_class, k_items[item_ColorSetName], this, value); }
+lmx::elmx_error ColorSetType::set_UniqueID(const std::u16string& value) { return lmx::set_item(k_class, k_items[item_UniqueID], this, value); }
+lmx::elmx_error ColorSetType::set_PartNumber(const std::u16string& value) { return lmx::set_item(k_class, k_items[item_PartNumber], this, value); }
+lmx::elmx_error ColorSetType::set_Comments(const std::u16string& value) { return lmx::set_item(k_class, k_items[item_Comments], this, value); }
+CustomAttributeType& ColorSetType::get_CustomAttribute(std::size_t index) { return m_CustomAttribute.grow_to(index); }
+CustomAttributeType& ColorSetType::assign_CustomAttribute(std::size_t index, const CustomAttributeType& value) { return get_CustomAttribute(index) = value; }
+lmx::elmx_error ColorSetType::append_CustomAttribute() { m_CustomAttribute.append(); return lmx::ELMX_OK; }
+lmx::elmx_error ColorSetType::insert_CustomAttribute(std::size_t index) { m_CustomAttribute.insert(index); return lmx::ELMX_OK; }
+void ColorSetType::delete_CustomAttribute(std::size_t index) { m_CustomAttribute.erase(index); }
+void ColorSetType::clear_CustomAttribute() { m_CustomAttribute.clear(); }
+lmx::elmx_error ColorSetType::set_ChangeHistory(std::size_t index, const lmx::c_datetime& value) { return lmx::set_entry(k_items[item_ChangeHistory], this, index, value); }
+lmx::elmx_error ColorSetType::append_ChangeHistory(const lmx::c_datetime& value) { return lmx::insert_entry(k_items[item_ChangeHistory], this, size_ChangeHistory(), value); }
+lmx::elmx_error ColorSetType::insert_ChangeHistory(std::size_t index, const lmx::c_datetime& value) { return lmx::insert_entry(k_items[item_ChangeHistory], this, index, value); }
+void ColorSetType::delete_ChangeHistory(std::size_t index) { m_ChangeHistory.erase(index); }
+void ColorSetType::clear_ChangeHistory() { m_ChangeHistory.clear(); }
+OwnerType& ColorSetType::assign_Owner(const OwnerType& value) { return get_Owner() = value; }
+lmx::elmx_error ColorSetType::set_SemanticAssociation(std::size_t index, const std::u16string& value) { return lmx::set_entry(k_items[item_SemanticAssociation], this, index, value); }
+lmx::elmx_error ColorSetType::append_SemanticAssociation(const std::u16string& value) { return lmx::insert_entry(k_items[item_SemanticAssociation], this, size_SemanticAssociation(), value); }
+lmx::elmx_error ColorSetType::insert_SemanticAssociation(std::size_t index, const std::u16string& value) { return lmx::insert_entry(k_items[item_SemanticAssociation], this, index, value); }
+void ColorSetType::delete_SemanticAssociation(std::size_t index) { m_SemanticAssociation.erase(index); }
+void ColorSetType::clear_SemanticAssociation() { m_SemanticAssociation.clear(); }
+CollectionColorSpaceSpecificationType& ColorSetType::assign_CollectionColorSpaceSpecification(const CollectionColorSpaceSpecificationType& value) { return get_CollectionColorSpaceSpecification() = value; }
+ColorType& ColorSetType::get_Color(std::size_t index) { return m_Color.grow_to(index); }
+ColorType& ColorSetType::assign_Color(std::size_t index, const ColorType& value) { return get_Color(index) = value; }
+lmx::elmx_error ColorSetType::append_Color() { m_Color.append(); return lmx::ELMX_OK; }
+lmx::elmx_error ColorSetType::insert_Color(std::size_t index) { m_Color.insert(index); return lmx::ELMX_OK; }
+void ColorSetType::delete_Color(std::size_t index) { m_Color.erase(index); }
+void ColorSetType::clear_Color() { m_Color.clear(); }
+sg_Substrate& ColorSetType::assign_Substrate(const sg_Substrate& value) { return get_Substrate() = value; }
+
+// ColorType
+
+namespace {
+constexpr lmx::s_event_map k_ColorType_attributes[] = {
+    lmx::attribute_event("ColorName", attribute_ColorName),
+    lmx::attribute_event("UniqueID", attribute_UniqueID),
+    lmx::attribute_event("ColorNumber", attribute_ColorNumber),
+    lmx::attribute_event("Comments", attribute_Comments),
+    lmx::k_end_of_map,
+};
+constexpr lmx::s_event_map k_ColorType_elements[] = {
+    lmx::element_event("CustomAttribute", element_CustomAttribute),
+    lmx::element_event("ChangeHistory", element_ChangeHistory),
+    lmx::element_event("Owner", element_Owner),
+    lmx::element_event("SemanticAssociation", element_SemanticAssociation),
+    lmx::element_event("ColorSpaceRecipe", element_ColorSpaceRecipe),
+    lmx::element_event("ColorSpaceTINTORA", element_ColorSpaceTINTORA),
+    lmx::element_event("ColorSpaceGeneric", element_ColorSpaceGeneric),
+    lmx::element_event("ColorSpaceEmissiveGeneric", element_ColorSpaceEmissiveGeneric),
+    lmx::element_event("ColorSpaceDensity", element_ColorSpaceDensity),
+    lmx::element_event("ColorSpaceRGB", element_ColorSpaceRGB),
+    lmx::element_event("ColorSpaceSRGB", element_ColorSpaceSRGB),
+    lmx::element_event("ColorSpaceAdobeRGB", element_ColorSpaceAdobeRGB),
+    lmx::element_event("ColorSpaceCMYKPlusN", element_ColorSpaceCMYKPlusN),
+    lmx::element_event("ColorSpaceAdobeWideGamutRGB", element_ColorSpaceAdobeWideGamutRGB),
+    lmx::element_event("ColorSpaceSpectral", element_ColorSpaceSpectral),
+    lmx::element_event("ColorSpaceEmissiveSpectral", element_ColorSpaceEmissiveSpectral),
+    lmx::element_event("ColorSpaceCIELab", element_ColorSpaceCIELab),
+    lmx::element_event("ColorSpaceCIELCh", element_ColorSpaceCIELCh),
+    lmx::element_event("ColorSpaceCIEXYZ", element_ColorSpaceCIEXYZ),
+    lmx::element_event("ColorSpaceEmissiveCIEXYZ", element_ColorSpaceEmissiveCIEXYZ),
+    lmx::element_event("ColorSpaceCIExyY", element_ColorSpaceCIExyY),
+    lmx::element_event("ColorSpaceEmissiveCIExyY", element_ColorSpaceEmissiveCIExyY),
+    lmx::element_event("ColorSpaceCIELuv", element_ColorSpaceCIELuv),
+    lmx::element_event("ColorSpaceHSL", element_ColorSpaceHSL),
+    lmx::element_event("ColorSpaceHSV", element_ColorSpaceHSV),
+    lmx::element_event("ColorSpaceCMYK", element_ColorSpaceCMYK),
+    lmx::element_event("ColorSpaceTINTORAOctavantic", element_ColorSpaceTINTORAOctavantic),
+    lmx::element_event("ColorSpaceYUV", element_ColorSpaceYUV),
+    lmx::element_event("ColorSpaceYIQ", element_ColorSpaceYIQ),
+    lmx::element_event("ColorSpaceYBR", element_ColorSpaceYBR),
+    lmx::element_event("ColorSpaceNCS", element_ColorSpaceNCS),
+    lmx::element_event("ColorSpaceMunsell", element_ColorSpaceMunsell),
+    lmx::element_event("SubstratePaper", element_SubstratePaper),
+    lmx::element_event("SubstrateGeneric", element_SubstrateGeneric),
+    lmx::element_event("SubstrateMetal", element_SubstrateMetal),
+    lmx::element_event("SubstratePlastic", element_SubstratePlastic),
+    lmx::element_event("SubstrateWood", element_SubstrateWood),
+    lmx::element_event("SubstrateVinyl", element_SubstrateVinyl),
+    lmx::element_event("SubstrateTile", element_SubstrateTile),
+    lmx::element_event("SubstrateFilm", element_SubstrateFilm),
+    lmx::element_event("SubstrateTextile", element_SubstrateTextile),
+    lmx::element_event("TagValues", element_TagValues),
+    lmx::k_end_of_map,
+};
+}  // namespace
+
+constinit const lmx::s_item ColorType::k_items[] = {
+    {lmx::item_kind::attribute, lmx::value_kind::text, lmx::use_required, lmx::ELMX_WS_PRESERVE, "ColorName", attribute_ColorName, LMX_OFFSET(ColorType, m_ColorName, attribute, text), LMX_FLAG(ColorType, m_isset_ColorName), 0, 0, nullptr, nullptr, {}},
+    {lmx::item_kind::attribute, lmx::value_kind::text, lmx::use_optional, lmx::ELMX_WS_PRESERVE, "UniqueID", attribute_UniqueID, LMX_OFFSET(ColorType, m_UniqueID, attribute, text), LMX_FLAG(ColorType, m_isset_UniqueID), 0, 0, nullptr, nullptr, {}},
+    {lmx::item_kind::attribute, lmx::value_kind::text, lmx::use_optional, lmx::ELMX_WS_PRESERVE, "ColorNumber", attribute_ColorNumber, LMX_OFFSET(ColorType, m_ColorNumber, attribute, text), LMX_FLAG(ColorType, m_isset_ColorNumber), 0, 0, nullptr, nullptr, {}},
+    {lmx::item_kind::attribute, lmx::value_kind::text, lmx::use_optional, lmx::ELMX_WS_PRESERVE, "Comments", attribute_Comments, LMX_OFFSET(ColorType, m_Comments, attribute, text), LMX_FLAG(ColorType, m_isset_Comments), 0, 0, nullptr, nullptr, {}},
+    {lmx::item_kind::child_list, lmx::value_kind::none, lmx::use_optional, lmx::ELMX_WS_PRESERVE, "Vyr:CustomAttribute", element_CustomAttribute, LMX_OFFSET(ColorType, m_CustomAttribute, child_list, none), lmx::k_no_flag, lmx::position_of(k_ColorType_elements, element_CustomAttribute), lmx::position_of(k_ColorType_elements, element_CustomAttribute, 1), &CustomAttributeType::k_class, nullptr, {}},
+    {lmx::item_kind::element_list, lmx::value_kind::datetime, lmx::use_demanded | lmx::use_asked, lmx::ELMX_WS_COLLAPSE, "Vyr:ChangeHistory", element_ChangeHistory, LMX_OFFSET(ColorType, m_ChangeHistory, element_list, datetime), lmx::k_no_flag, lmx::position_of(k_ColorType_elements, element_ChangeHistory), lmx::position_of(k_ColorType_elements, element_ChangeHistory, 1), nullptr, &facets::DateTimeZone, {}},
+    {lmx::item_kind::child, lmx::value_kind::none, lmx::use_optional, lmx::ELMX_WS_PRESERVE, "Vyr:Owner", element_Owner, LMX_OFFSET(ColorType, m_Owner, child, none), LMX_FLAG(ColorType, m_isset_Owner), lmx::position_of(k_ColorType_elements, element_Owner), lmx::position_of(k_ColorType_elements, element_Owner, 1), &OwnerType::k_class, nullptr, {}},
+    {lmx::item_kind::element_list, lmx::value_kind::text, lmx::use_optional, lmx::ELMX_WS_PRESERVE, "Vyr:SemanticAssociation", element_SemanticAssociation, LMX_OFFSET(ColorType, m_SemanticAssociation, element_list, text), lmx::k_no_flag, lmx::position_of(k_ColorType_elements, element_SemanticAssociation), lmx::position_of(k_ColorType_elements, element_SemanticAssociation, 1), nullptr, nullptr, {}},
+    {lmx::item_kind::group_list, lmx::value_kind::none, lmx::use_demanded | lmx::use_asked, lmx::ELMX_WS_PRESERVE, "Vyr:ColorSpace", 0, LMX_OFFSET(ColorType, m_ColorSpace, group_list, none), lmx::k_no_flag, lmx::position_of(k_ColorType_elements, element_ColorSpaceRecipe), lmx::position_of(k_ColorType_elements, element_ColorSpaceRecipe, 28), &sg_ColorSpace::k_class, nullptr, {}},
+    {lmx::item_kind::group, lmx::value_kind::none, lmx::use_optional, lmx::ELMX_WS_PRESERVE, "Vyr:Substrate", 0, LMX_OFFSET(ColorType, m_Substrate, group, none), LMX_FLAG(ColorType, m_isset_Substrate), lmx::position_of(k_ColorType_elements, element_SubstratePaper), lmx::position_of(k_ColorType_elements, element_SubstratePaper, 9), &sg_Substrate::k_class, nullptr, {}},
+    {lmx::item_kind::child_list, lmx::value_kind::none, lmx::use_optional, lmx::ELMX_WS_PRESERVE, "Vyr:TagValues", element_TagValues, LMX_OFFSET(ColorType, m_TagValues, child_list, none), lmx::k_no_flag, lmx::position_of(k_ColorType_elements, element_TagValues), lmx::position_of(k_ColorType_elements, element_TagValues, 1), &TagValue::k_class, nullptr, {}},
+};
+constinit const lmx::s_class ColorType::k_class = {
+    .name = "ColorType",
+    .qualified_name = "Vyr:ColorType",
+    .base = nullptr,
+    .content = lmx::content_kind::children,
+    .may_be_empty = false,
+    .ns_map = k_ns_map,
+    .nil_flag = lmx::k_no_flag,
+    .choice = lmx::k_no_flag,
+    .id = nullptr,
+    .xsi_type = nullptr,
+    .attributes = std::span(k_items).first(std::size(k_ColorType_attributes) - 1),
+    .elements = std::span(k_items).subspan(std::size(k_ColorType_attributes) - 1),
+    .attribute_map = k_ColorType_attributes,
+    .element_map = k_ColorType_elements,
+    .operations = &lmx::k_operations<ColorType>,
+};
+
+ColorType::ColorType() = default;
+ColorType::ColorType(const ColorType& other) { lmx::copy(k_class, this, &other); }
+ColorType::~ColorType() = default;
+ColorType& ColorType::operator=(const ColorType& other) { ColorType copy(other); swap(copy); return *this; }
+void ColorType::swap(ColorType& other) { lmx::swap(k_class, this, &other); }
+void ColorType::reset() { ColorType fresh; swap(fresh); }
+bool ColorType::is_occurs_ok() const { return lmx::is_occurs_ok(k_class, this); }
+lmx::elmx_error ColorType::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
+lmx::elmx_error ColorType::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
+void ColorType::marshal_attributes(lmx::c_xml_writer& writer) const { lmx::marshal_attributes(k_class, this, writer); }
+lmx::elmx_error ColorType::marshal_child_elements(lmx::c_xml_writer& writer) const { return lmx::marshal_child_elements(k_class, this, writer); }
+bool ColorType::unmarshal_attributes(lmx::c_xml_reader& reader, const std::string& name, lmx::elmx_error* error) { return lmx::unmarshal_attribute(k_class, this, reader, name, error); }
+lmx::elmx_error ColorType::unmarshal_attributes_check(lmx::c_xml_reader& reader) { return lmx::check_required_attributes(k_class, this, reader); }
+bool ColorType::unmarshal_body(lmx::c_xml_reader& reader, std::string* name, lmx::elmx_error* error) { return lmx::unmarshal_body(k_class, this, reader, name, error); }
+lmx::elmx_error ColorType::set_ColorName(const std::u16string& value) { return lmx::set_item(k_class, k_items[item_ColorName], this, value); }
+lmx::elmx_error ColorType::set_UniqueID(const std::u16string& value) { return lmx::set_item(k_class, k_items[item_UniqueID], this, value); }
+lmx::elmx_error ColorType::set_ColorNumber(const std::u16string& value) { return lmx::set_item(k_class, k_items[item_ColorNumber], this, value); }
+lmx::elmx_error ColorType::set_Comments(const std::u16string& value) { return lmx::set_item(k_class, k_items[item_Comments], this, value); }
+CustomAttributeType& ColorType::get_CustomAttribute(std::size_t index) { return m_CustomAttribute.grow_to(index); }
+CustomAttributeType& ColorType::assign_CustomAttribute(std::size_t index, const CustomAttributeType& value) { return get_CustomAttribute(index) = value; }
+lmx::elmx_error ColorType::append_CustomAttribute() { m_CustomAttribute.append(); return lmx::ELMX_OK; }
+lmx::elmx_error ColorType::insert_CustomAttribute(std::size_t index) { m_CustomAttribute.insert(index); return lmx::ELMX_OK; }
+void ColorType::delete_CustomAttribute(std::size_t index) { m_CustomAttribute.erase(index); }
+void ColorType::clear_CustomAttribute() { m_CustomAttribute.clear(); }
+lmx::elmx_error ColorType::set_ChangeHistory(std::size_t index, const lmx::c_datetime& value) { return lmx::set_entry(k_items[item_ChangeHistory], this, index, value); }
+lmx::elmx_error ColorType::append_ChangeHistory(const lmx::c_datetime& value) { return lmx::insert_entry(k_items[item_ChangeHistory], this, size_ChangeHistory(), value); }
+lmx::elmx_error ColorType::insert_ChangeHistory(std::size_t index, const lmx::c_datetime& value) { return lmx::insert_entry(k_items[item_ChangeHistory], this, index, value); }
+void ColorType::delete_ChangeHistory(std::size_t index) { m_ChangeHistory.erase(index); }
+void ColorType::clear_ChangeHistory() { m_ChangeHistory.clear(); }
+OwnerType& ColorType::assign_Owner(const OwnerType& value) { return get_Owner() = value; }
+lmx::elmx_error ColorType::set_SemanticAssociation(std::size_t index, const std::u16string& value) { return lmx::set_entry(k_items[item_SemanticAssociation], this, index, value); }
+lmx::elmx_error ColorType::append_SemanticAssociation(const std::u16string& value) { return lmx::insert_entry(k_items[item_SemanticAssociation], this, size_SemanticAssociation(), value); }
+lmx::elmx_error ColorType::insert_SemanticAssociation(std::size_t index, const std::u16string& value) { return lmx::insert_entry(k_items[item_SemanticAssociation], this, index, value); }
+void ColorType::delete_SemanticAssociation(std::size_t index) { m_SemanticAssociation.erase(index); }
+void ColorType::clear_SemanticAssociation() { m_SemanticAssociation.clear(); }
+sg_ColorSpace& ColorType::get_ColorSpace(std::size_t index) { return m_ColorSpace.grow_to(index); }
+sg_ColorSpace& ColorType::assign_ColorSpace(std::size_t index, const sg_ColorSpace& value) { return get_ColorSpace(index) = value; }
+lmx::elmx_error ColorType::append_ColorSpace() { m_ColorSpace.append(); return lmx::ELMX_OK; }
+lmx::elmx_error ColorType::insert_ColorSpace(std::size_t index) { m_ColorSpace.insert(index); return lmx::ELMX_OK; }
+void ColorType::delete_ColorSpace(std::size_t index) { m_ColorSpace.erase(index); }
+void ColorType::clear_ColorSpace() { m_ColorSpace.clear(); }
+sg_Substrate& ColorType::assign_Substrate(const sg_Substrate& value) { return get_Substrate() = value; }
+TagValue& ColorType::get_TagValues(std::size_t index) { return m_TagValues.grow_to(index); }
+TagValue& ColorType::assign_TagValues(std::size_t index, const TagValue& value) { return get_TagValues(index) = value; }
+lmx::elmx_error ColorType::append_TagValues() { m_TagValues.append(); return lmx::ELMX_OK; }
+lmx::elmx_error ColorType::insert_TagValues(std::size_t index) { m_TagValues.insert(index); return lmx::ELMX_OK; }
+void ColorType::delete_TagValues(std::size_t index) { m_TagValues.erase(index); }
+void ColorType::clear_TagValues() { m_TagValues.clear(); }
+
+// CollectionColorSpaceSpecification
+
+lmx::elmx_error CollectionColorSpaceSpecification::marshal(lmx::c_xml_writer& writer, const char* name) const {
+    writer.conditionally_select_ns_map(k_ns_map);
+    return CollectionColorSpaceSpecificationType::marshal(writer, name);
+}
+lmx::elmx_error CollectionColorSpaceSpecification::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return CollectionColorSpaceSpecificationType::unmarshal(reader, name); }
+const lmx::s_document CollectionColorSpaceSpecification::k_document = {"Vyr:CollectionColorSpaceSpecification", "CollectionColorSpaceSpecification", k_ns_map, &lmx::k_operations<CollectionColorSpaceSpecification>};
+const lmx::s_ns_map* CollectionColorSpaceSpecification::ns_map() { return k_ns_map; }
+lmx::elmx_error CollectionColorSpaceSpecification::unmarshal(lmx::c_xml_reader& reader) { return lmx::unmarshal_document(k_document, this, reader); }
+CollectionColorSpaceSpecification::CollectionColorSpaceSpecification(const char* file_name, lmx::elmx_error* error) : CollectionColorSpaceSpecification() { *error = unmarshal(file_name); }
+lmx::elmx_error CollectionColorSpaceSpecification::unmarshal(const char* file_name) { return lmx::unmarshal_document(k_document, this, file_name); }
+CollectionColorSpaceSpecification::CollectionColorSpaceSpecification(const char* data, std::size_t size, lmx::elmx_error* error) : CollectionColorSpaceSpecification() { *error = unmarshal(data, size); }
+lmx::elmx_error CollectionColorSpaceSpecification::unmarshal(const char* data, std::size_t size) { return lmx::unmarshal_document(k_document, this, data, size); }
+CollectionColorSpaceSpecification::CollectionColorSpaceSpecification(const std::string& text, lmx::elmx_error* error) : CollectionColorSpaceSpecification() { *error = unmarshal(text.data(), text.size()); }
+lmx::elmx_error CollectionColorSpaceSpecification::unmarshal(const std::string& text) { return lmx::unmarshal_document(k_document, this, text.data(), text.size()); }
+lmx::elmx_error CollectionColorSpaceSpecification::marshal(const char* file_name) const { return lmx::marshal_document(k_document, this, file_name); }
+lmx::elmx_error CollectionColorSpaceSpecification::marshal(std::string* text) const { return lmx::marshal_document(k_document, this, text); }
+lmx::elmx_error CollectionColorSpaceSpecification::marshal(std::ostream& stream) const { return lmx::marshal_document(k_document, this, stream); }
+
+}  // namespace com_vyrgraph_v2

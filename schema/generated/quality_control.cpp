@@ -1,0 +1,630 @@
+// Copyright 2026 The Vyr Authors
+// SPDX-License-Identifier: Apache-2.0
+//
+// Made by schema/generator/generate.py from schema/vyr.xsd and schema/binding.toml. Change those instead.
+// clang-format off
+
+/// Tables and members of the classes in quality_control.h.
+
+#include "schema/generated/quality_control.h"
+#include "lmx/binding/binding.h"
+#include "lmx/binding/rows.h"
+#include "schema/generated/devices.h"
+#include "schema/generated/groups.h"
+#include "schema/generated/header.h"
+#include "schema/generated/palettes.h"
+#include "schema/generated/specifications.h"
+#include "schema/generated/tables.h"
+
+// Offsets of members of classes with virtual functions: both compilers define them, and the macros check them.
+#pragma GCC diagnostic ignored "-Winvalid-offsetof"
+
+namespace com_vyrgraph_v2 {
+
+static_assert(lmx::k_binding_version == 1, "run schema/generator/generate.py");
+
+// LimitsType
+
+namespace {
+constexpr lmx::s_event_map k_LimitsType_elements[] = {
+    lmx::element_event("CustomAttribute", element_CustomAttribute),
+    lmx::element_event("HighTolerance", element_HighTolerance),
+    lmx::element_event("LowTolerance", element_LowTolerance),
+    lmx::k_end_of_map,
+};
+}  // namespace
+
+constinit const lmx::s_item LimitsType::k_items[] = {
+    {lmx::item_kind::child_list, lmx::value_kind::none, lmx::use_optional, lmx::ELMX_WS_PRESERVE, "Vyr:CustomAttribute", element_CustomAttribute, LMX_OFFSET(LimitsType, m_CustomAttribute, child_list, none), lmx::k_no_flag, lmx::position_of(k_LimitsType_elements, element_CustomAttribute), lmx::position_of(k_LimitsType_elements, element_CustomAttribute, 1), &CustomAttributeType::k_class, nullptr, {}},
+    {lmx::item_kind::element, lmx::value_kind::number, lmx::use_required, lmx::ELMX_WS_COLLAPSE, "Vyr:HighTolerance", element_HighTolerance, LMX_OFFSET(LimitsType, m_HighTolerance, element, number), LMX_FLAG(LimitsType, m_isset_HighTolerance), lmx::position_of(k_LimitsType_elements, element_HighTolerance), lmx::position_of(k_LimitsType_elements, element_HighTolerance, 1), nullptr, nullptr, {}},
+    {lmx::item_kind::element, lmx::value_kind::number, lmx::use_optional, lmx::ELMX_WS_COLLAPSE, "Vyr:LowTolerance", element_LowTolerance, LMX_OFFSET(LimitsType, m_LowTolerance, element, number), LMX_FLAG(LimitsType, m_isset_LowTolerance), lmx::position_of(k_LimitsType_elements, element_LowTolerance), lmx::position_of(k_LimitsType_elements, element_LowTolerance, 1), nullptr, nullptr, {}},
+};
+constinit const lmx::s_class LimitsType::k_class = {
+    .name = "LimitsType",
+    .qualified_name = "Vyr:LimitsType",
+    .base = nullptr,
+    .content = lmx::content_kind::children,
+    .may_be_empty = false,
+    .ns_map = k_ns_map,
+    .nil_flag = lmx::k_no_flag,
+    .choice = lmx::k_no_flag,
+    .id = nullptr,
+    .xsi_type = nullptr,
+    .attributes = std::span(k_items).first(std::size(lmx::k_no_events) - 1),
+    .elements = std::span(k_items).subspan(std::size(lmx::k_no_events) - 1),
+    .attribute_map = lmx::k_no_events,
+    .element_map = k_LimitsType_elements,
+    .operations = &lmx::k_operations<LimitsType>,
+};
+
+LimitsType::LimitsType() = default;
+LimitsType::LimitsType(const LimitsType& other) { lmx::copy(k_class, this, &other); }
+LimitsType::~LimitsType() = default;
+LimitsType& LimitsType::operator=(const LimitsType& other) { LimitsType copy(other); swap(copy); return *this; }
+void LimitsType::swap(LimitsType& other) { lmx::swap(k_class, this, &other); }
+void LimitsType::reset() { LimitsType fresh; swap(fresh); }
+bool LimitsType::is_occurs_ok() const { return lmx::is_occurs_ok(k_class, this); }
+lmx::elmx_error LimitsType::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
+lmx::elmx_error LimitsType::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
+void LimitsType::marshal_attributes(lmx::c_xml_writer& writer) const { lmx::marshal_attributes(k_class, this, writer); }
+lmx::elmx_error LimitsType::marshal_child_elements(lmx::c_xml_writer& writer) const { return lmx::marshal_child_elements(k_class, this, writer); }
+bool LimitsType::unmarshal_attributes(lmx::c_xml_reader& reader, const std::string& name, lmx::elmx_error* error) { return lmx::unmarshal_attribute(k_class, this, reader, name, error); }
+lmx::elmx_error LimitsType::unmarshal_attributes_check(lmx::c_xml_reader& reader) { return lmx::check_required_attributes(k_class, this, reader); }
+bool LimitsType::unmarshal_body(lmx::c_xml_reader& reader, std::string* name, lmx::elmx_error* error) { return lmx::unmarshal_body(k_class, this, reader, name, error); }
+CustomAttributeType& LimitsType::get_CustomAttribute(std::size_t index) { return m_CustomAttribute.grow_to(index); }
+CustomAttributeType& LimitsType::assign_CustomAttribute(std::size_t index, const CustomAttributeType& value) { return get_CustomAttribute(index) = value; }
+lmx::elmx_error LimitsType::append_CustomAttribute() { m_CustomAttribute.append(); return lmx::ELMX_OK; }
+lmx::elmx_error LimitsType::insert_CustomAttribute(std::size_t index) { m_CustomAttribute.insert(index); return lmx::ELMX_OK; }
+void LimitsType::delete_CustomAttribute(std::size_t index) { m_CustomAttribute.erase(index); }
+void LimitsType::clear_CustomAttribute() { m_CustomAttribute.clear(); }
+lmx::elmx_error LimitsType::set_HighTolerance(double value) { return lmx::set_item(k_class, k_items[item_HighTolerance], this, value); }
+lmx::elmx_error LimitsType::set_LowTolerance(double value) { return lmx::set_item(k_class, k_items[item_LowTolerance], this, value); }
+
+// ToleranceType
+
+namespace {
+constexpr lmx::s_event_map k_ToleranceType_attributes[] = {
+    lmx::attribute_event("Name", attribute_Name),
+    lmx::k_end_of_map,
+};
+constexpr lmx::s_event_map k_ToleranceType_elements[] = {
+    lmx::element_event("CustomAttribute", element_CustomAttribute),
+    lmx::element_event("Function", element_Function),
+    lmx::element_event("FunctionGeneric", element_FunctionGeneric),
+    lmx::element_event("FunctionDE", element_FunctionDE),
+    lmx::element_event("FunctionMeanDE", element_FunctionMeanDE),
+    lmx::element_event("FunctionDE94", element_FunctionDE94),
+    lmx::element_event("FunctionDE2000", element_FunctionDE2000),
+    lmx::element_event("FunctionDECMC", element_FunctionDECMC),
+    lmx::element_event("FunctionStdDevX", element_FunctionStdDevX),
+    lmx::element_event("FunctionStdDevY", element_FunctionStdDevY),
+    lmx::element_event("FunctionStdDevZ", element_FunctionStdDevZ),
+    lmx::element_event("FunctionStdDevL", element_FunctionStdDevL),
+    lmx::element_event("FunctionStdDevA", element_FunctionStdDevA),
+    lmx::element_event("FunctionStdDevB", element_FunctionStdDevB),
+    lmx::element_event("FunctionStdDevC", element_FunctionStdDevC),
+    lmx::element_event("FunctionStdDevH", element_FunctionStdDevH),
+    lmx::element_event("FunctionAverageStdDevL", element_FunctionAverageStdDevL),
+    lmx::element_event("FunctionAverageStdDevA", element_FunctionAverageStdDevA),
+    lmx::element_event("FunctionAverageStdDevB", element_FunctionAverageStdDevB),
+    lmx::element_event("Limits", element_Limits),
+    lmx::element_event("PrimaryIlluminant", element_PrimaryIlluminant),
+    lmx::element_event("SecondaryIlluminant", element_SecondaryIlluminant),
+    lmx::element_event("TertiaryIlluminant", element_TertiaryIlluminant),
+    lmx::element_event("FieldOfView", element_FieldOfView),
+    lmx::element_event("WarningLevel", element_WarningLevel),
+    lmx::element_event("UniqueID", element_UniqueID),
+    lmx::element_event("Global", element_Global),
+    lmx::element_event("Geometry", element_Geometry),
+    lmx::k_end_of_map,
+};
+}  // namespace
+
+constinit const lmx::s_item ToleranceType::k_items[] = {
+    {lmx::item_kind::attribute, lmx::value_kind::text, lmx::use_optional, lmx::ELMX_WS_PRESERVE, "Name", attribute_Name, LMX_OFFSET(ToleranceType, m_Name, attribute, text), LMX_FLAG(ToleranceType, m_isset_Name), 0, 0, nullptr, nullptr, {}},
+    {lmx::item_kind::child_list, lmx::value_kind::none, lmx::use_optional, lmx::ELMX_WS_PRESERVE, "Vyr:CustomAttribute", element_CustomAttribute, LMX_OFFSET(ToleranceType, m_CustomAttribute, child_list, none), lmx::k_no_flag, lmx::position_of(k_ToleranceType_elements, element_CustomAttribute), lmx::position_of(k_ToleranceType_elements, element_CustomAttribute, 1), &CustomAttributeType::k_class, nullptr, {}},
+    {lmx::item_kind::group, lmx::value_kind::none, lmx::use_asked | lmx::use_written | lmx::use_copied | lmx::use_lax, lmx::ELMX_WS_PRESERVE, "Vyr:Function", 0, LMX_OFFSET(ToleranceType, m_Function, group, none), LMX_FLAG(ToleranceType, m_isset_Function), lmx::position_of(k_ToleranceType_elements, element_Function), lmx::position_of(k_ToleranceType_elements, element_Function, 18), &sg_Function::k_class, nullptr, {}},
+    {lmx::item_kind::child, lmx::value_kind::none, lmx::use_optional, lmx::ELMX_WS_PRESERVE, "Vyr:Limits", element_Limits, LMX_OFFSET(ToleranceType, m_Limits, child, none), LMX_FLAG(ToleranceType, m_isset_Limits), lmx::position_of(k_ToleranceType_elements, element_Limits), lmx::position_of(k_ToleranceType_elements, element_Limits, 1), &LimitsType::k_class, nullptr, {}},
+    {lmx::item_kind::element, lmx::value_kind::text, lmx::use_optional, lmx::ELMX_WS_PRESERVE, "Vyr:PrimaryIlluminant", element_PrimaryIlluminant, LMX_OFFSET(ToleranceType, m_PrimaryIlluminant, element, text), LMX_FLAG(ToleranceType, m_isset_PrimaryIlluminant), lmx::position_of(k_ToleranceType_elements, element_PrimaryIlluminant), lmx::position_of(k_ToleranceType_elements, element_PrimaryIlluminant, 1), nullptr, &facets::IlluminantKind, {}},
+    {lmx::item_kind::element, lmx::value_kind::text, lmx::use_optional, lmx::ELMX_WS_PRESERVE, "Vyr:SecondaryIlluminant", element_SecondaryIlluminant, LMX_OFFSET(ToleranceType, m_SecondaryIlluminant, element, text), LMX_FLAG(ToleranceType, m_isset_SecondaryIlluminant), lmx::position_of(k_ToleranceType_elements, element_SecondaryIlluminant), lmx::position_of(k_ToleranceType_elements, element_SecondaryIlluminant, 1), nullptr, &facets::IlluminantKind, {}},
+    {lmx::item_kind::element, lmx::value_kind::text, lmx::use_optional, lmx::ELMX_WS_PRESERVE, "Vyr:TertiaryIlluminant", element_TertiaryIlluminant, LMX_OFFSET(ToleranceType, m_TertiaryIlluminant, element, text), LMX_FLAG(ToleranceType, m_isset_TertiaryIlluminant), lmx::position_of(k_ToleranceType_elements, element_TertiaryIlluminant), lmx::position_of(k_ToleranceType_elements, element_TertiaryIlluminant, 1), nullptr, &facets::IlluminantKind, {}},
+    {lmx::item_kind::element, lmx::value_kind::text, lmx::use_optional, lmx::ELMX_WS_PRESERVE, "Vyr:FieldOfView", element_FieldOfView, LMX_OFFSET(ToleranceType, m_FieldOfView, element, text), LMX_FLAG(ToleranceType, m_isset_FieldOfView), lmx::position_of(k_ToleranceType_elements, element_FieldOfView), lmx::position_of(k_ToleranceType_elements, element_FieldOfView, 1), nullptr, &facets::ObserverKind, {}},
+    {lmx::item_kind::element, lmx::value_kind::number, lmx::use_optional, lmx::ELMX_WS_COLLAPSE, "Vyr:WarningLevel", element_WarningLevel, LMX_OFFSET(ToleranceType, m_WarningLevel, element, number), LMX_FLAG(ToleranceType, m_isset_WarningLevel), lmx::position_of(k_ToleranceType_elements, element_WarningLevel), lmx::position_of(k_ToleranceType_elements, element_WarningLevel, 1), nullptr, nullptr, {}},
+    {lmx::item_kind::element, lmx::value_kind::text, lmx::use_optional, lmx::ELMX_WS_PRESERVE, "Vyr:UniqueID", element_UniqueID, LMX_OFFSET(ToleranceType, m_UniqueID, element, text), LMX_FLAG(ToleranceType, m_isset_UniqueID), lmx::position_of(k_ToleranceType_elements, element_UniqueID), lmx::position_of(k_ToleranceType_elements, element_UniqueID, 1), nullptr, nullptr, {}},
+    {lmx::item_kind::element, lmx::value_kind::boolean, lmx::use_optional, lmx::ELMX_WS_COLLAPSE, "Vyr:Global", element_Global, LMX_OFFSET(ToleranceType, m_Global, element, boolean), LMX_FLAG(ToleranceType, m_isset_Global), lmx::position_of(k_ToleranceType_elements, element_Global), lmx::position_of(k_ToleranceType_elements, element_Global, 1), nullptr, nullptr, {}},
+    {lmx::item_kind::child, lmx::value_kind::none, lmx::use_optional, lmx::ELMX_WS_PRESERVE, "Vyr:Geometry", element_Geometry, LMX_OFFSET(ToleranceType, m_Geometry, child, none), LMX_FLAG(ToleranceType, m_isset_Geometry), lmx::position_of(k_ToleranceType_elements, element_Geometry), lmx::position_of(k_ToleranceType_elements, element_Geometry, 1), &GeometryChoiceType::k_class, nullptr, {}},
+};
+constinit const lmx::s_class ToleranceType::k_class = {
+    .name = "ToleranceType",
+    .qualified_name = "Vyr:ToleranceType",
+    .base = nullptr,
+    .content = lmx::content_kind::children,
+    .may_be_empty = false,
+    .ns_map = k_ns_map,
+    .nil_flag = lmx::k_no_flag,
+    .choice = lmx::k_no_flag,
+    .id = nullptr,
+    .xsi_type = nullptr,
+    .attributes = std::span(k_items).first(std::size(k_ToleranceType_attributes) - 1),
+    .elements = std::span(k_items).subspan(std::size(k_ToleranceType_attributes) - 1),
+    .attribute_map = k_ToleranceType_attributes,
+    .element_map = k_ToleranceType_elements,
+    .operations = &lmx::k_operations<ToleranceType>,
+};
+
+ToleranceType::ToleranceType() = default;
+ToleranceType::ToleranceType(const ToleranceType& other) { lmx::copy(k_class, this, &other); }
+ToleranceType::~ToleranceType() = default;
+ToleranceType& ToleranceType::operator=(const ToleranceType& other) { ToleranceType copy(other); swap(copy); return *this; }
+void ToleranceType::swap(ToleranceType& other) { lmx::swap(k_class, this, &other); }
+void ToleranceType::reset() { ToleranceType fresh; swap(fresh); }
+bool ToleranceType::is_occurs_ok() const { return lmx::is_occurs_ok(k_class, this); }
+lmx::elmx_error ToleranceType::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
+lmx::elmx_error ToleranceType::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
+void ToleranceType::marshal_attributes(lmx::c_xml_writer& writer) const { lmx::marshal_attributes(k_class, this, writer); }
+lmx::elmx_error ToleranceType::marshal_child_elements(lmx::c_xml_writer& writer) const { return lmx::marshal_child_elements(k_class, this, writer); }
+bool ToleranceType::unmarshal_attributes(lmx::c_xml_reader& reader, const std::string& name, lmx::elmx_error* error) { return lmx::unmarshal_attribute(k_class, this, reader, name, error); }
+lmx::elmx_error ToleranceType::unmarshal_attributes_check(lmx::c_xml_reader& reader) { return lmx::check_required_attributes(k_class, this, reader); }
+bool ToleranceType::unmarshal_body(lmx::c_xml_reader& reader, std::string* name, lmx::elmx_error* error) { return lmx::unmarshal_body(k_class, this, reader, name, error); }
+lmx::elmx_error ToleranceType::set_Name(const std::u16string& value) { return lmx::set_item(k_class, k_items[item_Name], this, value); }
+CustomAttributeType& ToleranceType::get_CustomAttribute(std::size_t index) { return m_CustomAttribute.grow_to(index); }
+CustomAttributeType& ToleranceType::assign_CustomAttribute(std::size_t index, const CustomAttributeType& value) { return get_CustomAttribute(index) = value; }
+lmx::elmx_error ToleranceType::append_CustomAttribute() { m_CustomAttribute.append(); return lmx::ELMX_OK; }
+lmx::elmx_error ToleranceType::insert_CustomAttribute(std::size_t index) { m_CustomAttribute.insert(index); return lmx::ELMX_OK; }
+void ToleranceType::delete_CustomAttribute(std::size_t index) { m_CustomAttribute.erase(index); }
+void ToleranceType::clear_CustomAttribute() { m_CustomAttribute.clear(); }
+sg_Function& ToleranceType::assign_Function(const sg_Function& value) { return get_Function() = value; }
+LimitsType& ToleranceType::assign_Limits(const LimitsType& value) { return get_Limits() = value; }
+lmx::elmx_error ToleranceType::set_PrimaryIlluminant(const std::u16string& value) { return lmx::set_item(k_class, k_items[item_PrimaryIlluminant], this, value); }
+Eenum_PrimaryIlluminant ToleranceType::getenum_PrimaryIlluminant() const { return static_cast<Eenum_PrimaryIlluminant>(lmx::enumerated_number(k_items[item_PrimaryIlluminant], get_PrimaryIlluminant())); }
+bool ToleranceType::setenum_PrimaryIlluminant(std::int32_t number) { return lmx::set_enumerated(k_class, k_items[item_PrimaryIlluminant], this, number); }
+lmx::elmx_error ToleranceType::set_SecondaryIlluminant(const std::u16string& value) { return lmx::set_item(k_class, k_items[item_SecondaryIlluminant], this, value); }
+Eenum_SecondaryIlluminant ToleranceType::getenum_SecondaryIlluminant() const { return static_cast<Eenum_SecondaryIlluminant>(lmx::enumerated_number(k_items[item_SecondaryIlluminant], get_SecondaryIlluminant())); }
+bool ToleranceType::setenum_SecondaryIlluminant(std::int32_t number) { return lmx::set_enumerated(k_class, k_items[item_SecondaryIlluminant], this, number); }
+lmx::elmx_error ToleranceType::set_TertiaryIlluminant(const std::u16string& value) { return lmx::set_item(k_class, k_items[item_TertiaryIlluminant], this, value); }
+Eenum_TertiaryIlluminant ToleranceType::getenum_TertiaryIlluminant() const { return static_cast<Eenum_TertiaryIlluminant>(lmx::enumerated_number(k_items[item_TertiaryIlluminant], get_TertiaryIlluminant())); }
+bool ToleranceType::setenum_TertiaryIlluminant(std::int32_t number) { return lmx::set_enumerated(k_class, k_items[item_TertiaryIlluminant], this, number); }
+lmx::elmx_error ToleranceType::set_FieldOfView(const std::u16string& value) { return lmx::set_item(k_class, k_items[item_FieldOfView], this, value); }
+Eenum_FieldOfView ToleranceType::getenum_FieldOfView() const { return static_cast<Eenum_FieldOfView>(lmx::enumerated_number(k_items[item_FieldOfView], get_FieldOfView())); }
+bool ToleranceType::setenum_FieldOfView(std::int32_t number) { return lmx::set_enumerated(k_class, k_items[item_FieldOfView], this, number); }
+lmx::elmx_error ToleranceType::set_WarningLevel(double value) { return lmx::set_item(k_class, k_items[item_WarningLevel], this, value); }
+lmx::elmx_error ToleranceType::set_UniqueID(const std::u16string& value) { return lmx::set_item(k_class, k_items[item_UniqueID], this, value); }
+lmx::elmx_error ToleranceType::set_Global(bool value) { return lmx::set_item(k_class, k_items[item_Global], this, value); }
+GeometryChoiceType& ToleranceType::assign_Geometry(const GeometryChoiceType& value) { return get_Geometry() = value; }
+
+// Process
+
+namespace {
+constexpr lmx::s_event_map k_Process_elements[] = {
+    lmx::element_event("Name", element_Name),
+    lmx::element_event("Thickness", element_Thickness),
+    lmx::k_end_of_map,
+};
+}  // namespace
+
+constinit const lmx::s_item Process::k_items[] = {
+    {lmx::item_kind::element, lmx::value_kind::text, lmx::use_required, lmx::ELMX_WS_PRESERVE, "Vyr:Name", element_Name, LMX_OFFSET(Process, m_Name, element, text), LMX_FLAG(Process, m_isset_Name), lmx::position_of(k_Process_elements, element_Name), lmx::position_of(k_Process_elements, element_Name, 1), nullptr, &facets::NonEmptyString, {}},
+    {lmx::item_kind::element, lmx::value_kind::number, lmx::use_optional, lmx::ELMX_WS_COLLAPSE, "Vyr:Thickness", element_Thickness, LMX_OFFSET(Process, m_Thickness, element, number), LMX_FLAG(Process, m_isset_Thickness), lmx::position_of(k_Process_elements, element_Thickness), lmx::position_of(k_Process_elements, element_Thickness, 1), nullptr, &facets::NonNegative, {}},
+};
+constinit const lmx::s_class Process::k_class = {
+    .name = "Process",
+    .qualified_name = "Vyr:Process",
+    .base = nullptr,
+    .content = lmx::content_kind::children,
+    .may_be_empty = true,
+    .ns_map = nullptr,
+    .nil_flag = lmx::k_no_flag,
+    .choice = lmx::k_no_flag,
+    .id = nullptr,
+    .xsi_type = nullptr,
+    .attributes = std::span(k_items).first(std::size(lmx::k_no_events) - 1),
+    .elements = std::span(k_items).subspan(std::size(lmx::k_no_events) - 1),
+    .attribute_map = lmx::k_no_events,
+    .element_map = k_Process_elements,
+    .operations = &lmx::k_operations<Process>,
+};
+
+Process::Process() = default;
+Process::Process(const Process& other) { lmx::copy(k_class, this, &other); }
+Process::~Process() = default;
+Process& Process::operator=(const Process& other) { Process copy(other); swap(copy); return *this; }
+void Process::swap(Process& other) { lmx::swap(k_class, this, &other); }
+void Process::reset() { Process fresh; swap(fresh); }
+bool Process::is_occurs_ok() const { return lmx::is_occurs_ok(k_class, this); }
+lmx::elmx_error Process::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
+lmx::elmx_error Process::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
+void Process::marshal_attributes(lmx::c_xml_writer& writer) const { lmx::marshal_attributes(k_class, this, writer); }
+lmx::elmx_error Process::marshal_child_elements(lmx::c_xml_writer& writer) const { return lmx::marshal_child_elements(k_class, this, writer); }
+bool Process::unmarshal_attributes(lmx::c_xml_reader& reader, const std::string& name, lmx::elmx_error* error) { return lmx::unmarshal_attribute(k_class, this, reader, name, error); }
+lmx::elmx_error Process::unmarshal_attributes_check(lmx::c_xml_reader& reader) { return lmx::check_required_attributes(k_class, this, reader); }
+bool Process::unmarshal_body(lmx::c_xml_reader& reader, std::string* name, lmx::elmx_error* error) { return lmx::unmarshal_body(k_class, this, reader, name, error); }
+lmx::elmx_error Process::set_Name(const std::u16string& value) { return lmx::set_item(k_class, k_items[item_Name], this, value); }
+lmx::elmx_error Process::set_Thickness(double value) { return lmx::set_item(k_class, k_items[item_Thickness], this, value); }
+
+// PhysicalSampleType
+
+namespace {
+constexpr lmx::s_event_map k_PhysicalSampleType_elements[] = {
+    lmx::element_event("CustomAttribute", element_CustomAttribute),
+    lmx::element_event("Coating", element_Coating),
+    lmx::element_event("Process", element_Process),
+    lmx::element_event("SampleSpot", element_SampleSpot),
+    lmx::element_event("SampleTarget", element_SampleTarget),
+    lmx::k_end_of_map,
+};
+}  // namespace
+
+constinit const lmx::s_item PhysicalSampleType::k_items[] = {
+    {lmx::item_kind::child_list, lmx::value_kind::none, lmx::use_optional, lmx::ELMX_WS_PRESERVE, "Vyr:CustomAttribute", element_CustomAttribute, LMX_OFFSET(PhysicalSampleType, m_CustomAttribute, child_list, none), lmx::k_no_flag, lmx::position_of(k_PhysicalSampleType_elements, element_CustomAttribute), lmx::position_of(k_PhysicalSampleType_elements, element_CustomAttribute, 1), &CustomAttributeType::k_class, nullptr, {}},
+    {lmx::item_kind::element, lmx::value_kind::text, lmx::use_optional, lmx::ELMX_WS_PRESERVE, "Vyr:Coating", element_Coating, LMX_OFFSET(PhysicalSampleType, m_Coating, element, text), LMX_FLAG(PhysicalSampleType, m_isset_Coating), lmx::position_of(k_PhysicalSampleType_elements, element_Coating), lmx::position_of(k_PhysicalSampleType_elements, element_Coating, 1), nullptr, nullptr, {}},
+    {lmx::item_kind::child, lmx::value_kind::none, lmx::use_optional, lmx::ELMX_WS_PRESERVE, "Vyr:Process", element_Process, LMX_OFFSET(PhysicalSampleType, m_Process, child, none), LMX_FLAG(PhysicalSampleType, m_isset_Process), lmx::position_of(k_PhysicalSampleType_elements, element_Process), lmx::position_of(k_PhysicalSampleType_elements, element_Process, 1), &Process::k_class, nullptr, {}},
+    {lmx::item_kind::group, lmx::value_kind::none, lmx::use_asked | lmx::use_written | lmx::use_copied | lmx::use_lax, lmx::ELMX_WS_PRESERVE, "Vyr:Sample", 0, LMX_OFFSET(PhysicalSampleType, m_Sample, group, none), LMX_FLAG(PhysicalSampleType, m_isset_Sample), lmx::position_of(k_PhysicalSampleType_elements, element_SampleSpot), lmx::position_of(k_PhysicalSampleType_elements, element_SampleSpot, 2), &sg_Sample::k_class, nullptr, {}},
+};
+constinit const lmx::s_class PhysicalSampleType::k_class = {
+    .name = "PhysicalSampleType",
+    .qualified_name = "Vyr:PhysicalSampleType",
+    .base = nullptr,
+    .content = lmx::content_kind::children,
+    .may_be_empty = false,
+    .ns_map = k_ns_map,
+    .nil_flag = lmx::k_no_flag,
+    .choice = lmx::k_no_flag,
+    .id = nullptr,
+    .xsi_type = nullptr,
+    .attributes = std::span(k_items).first(std::size(lmx::k_no_events) - 1),
+    .elements = std::span(k_items).subspan(std::size(lmx::k_no_events) - 1),
+    .attribute_map = lmx::k_no_events,
+    .element_map = k_PhysicalSampleType_elements,
+    .operations = &lmx::k_operations<PhysicalSampleType>,
+};
+
+PhysicalSampleType::PhysicalSampleType() = default;
+PhysicalSampleType::PhysicalSampleType(const PhysicalSampleType& other) { lmx::copy(k_class, this, &other); }
+PhysicalSampleType::~PhysicalSampleType() = default;
+PhysicalSampleType& PhysicalSampleType::operator=(const PhysicalSampleType& other) { PhysicalSampleType copy(other); swap(copy); return *this; }
+void PhysicalSampleType::swap(PhysicalSampleType& other) { lmx::swap(k_class, this, &other); }
+void PhysicalSampleType::reset() { PhysicalSampleType fresh; swap(fresh); }
+bool PhysicalSampleType::is_occurs_ok() const { return lmx::is_occurs_ok(k_class, this); }
+lmx::elmx_error PhysicalSampleType::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
+lmx::elmx_error PhysicalSampleType::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
+void PhysicalSampleType::marshal_attributes(lmx::c_xml_writer& writer) const { lmx::marshal_attributes(k_class, this, writer); }
+lmx::elmx_error PhysicalSampleType::marshal_child_elements(lmx::c_xml_writer& writer) const { return lmx::marshal_child_elements(k_class, this, writer); }
+bool PhysicalSampleType::unmarshal_attributes(lmx::c_xml_reader& reader, const std::string& name, lmx::elmx_error* error) { return lmx::unmarshal_attribute(k_class, this, reader, name, error); }
+lmx::elmx_error PhysicalSampleType::unmarshal_attributes_check(lmx::c_xml_reader& reader) { return lmx::check_required_attributes(k_class, this, reader); }
+bool PhysicalSampleType::unmarshal_body(lmx::c_xml_reader& reader, std::string* name, lmx::elmx_error* error) { return lmx::unmarshal_body(k_class, this, reader, name, error); }
+CustomAttributeType& PhysicalSampleType::get_CustomAttribute(std::size_t index) { return m_CustomAttribute.grow_to(index); }
+CustomAttributeType& PhysicalSampleType::assign_CustomAttribute(std::size_t index, const CustomAttributeType& value) { return get_CustomAttribute(index) = value; }
+lmx::elmx_error PhysicalSampleType::append_CustomAttribute() { m_CustomAttribute.append(); return lmx::ELMX_OK; }
+lmx::elmx_error PhysicalSampleType::insert_CustomAttribute(std::size_t index) { m_CustomAttribute.insert(index); return lmx::ELMX_OK; }
+void PhysicalSampleType::delete_CustomAttribute(std::size_t index) { m_CustomAttribute.erase(index); }
+void PhysicalSampleType::clear_CustomAttribute() { m_CustomAttribute.clear(); }
+lmx::elmx_error PhysicalSampleType::set_Coating(const std::u16string& value) { return lmx::set_item(k_class, k_items[item_Coating], this, value); }
+Process& PhysicalSampleType::assign_Process(const Process& value) { return get_Process() = value; }
+sg_Sample& PhysicalSampleType::assign_Sample(const sg_Sample& value) { return get_Sample() = value; }
+
+// ColorQualityControlType
+
+namespace {
+constexpr lmx::s_event_map k_ColorQualityControlType_attributes[] = {
+    lmx::attribute_event("Name", attribute_Name),
+    lmx::attribute_event("Description", attribute_Description),
+    lmx::attribute_event("UniqueID", attribute_UniqueID),
+    lmx::attribute_event("Comments", attribute_Comments),
+    lmx::k_end_of_map,
+};
+constexpr lmx::s_event_map k_ColorQualityControlType_elements[] = {
+    lmx::element_event("CustomAttribute", element_CustomAttribute),
+    lmx::element_event("ChangeHistory", element_ChangeHistory),
+    lmx::element_event("StandardAndMeasurement", element_StandardAndMeasurement),
+    lmx::element_event("PhysicalSample", element_PhysicalSample),
+    lmx::element_event("Tolerance", element_Tolerance),
+    lmx::k_end_of_map,
+};
+}  // namespace
+
+constinit const lmx::s_item ColorQualityControlType::k_items[] = {
+    {lmx::item_kind::attribute, lmx::value_kind::text, lmx::use_optional, lmx::ELMX_WS_PRESERVE, "Name", attribute_Name, LMX_OFFSET(ColorQualityControlType, m_Name, attribute, text), LMX_FLAG(ColorQualityControlType, m_isset_Name), 0, 0, nullptr, nullptr, {}},
+    {lmx::item_kind::attribute, lmx::value_kind::text, lmx::use_optional, lmx::ELMX_WS_PRESERVE, "Description", attribute_Description, LMX_OFFSET(ColorQualityControlType, m_Description, attribute, text), LMX_FLAG(ColorQualityControlType, m_isset_Description), 0, 0, nullptr, nullptr, {}},
+    {lmx::item_kind::attribute, lmx::value_kind::text, lmx::use_optional, lmx::ELMX_WS_PRESERVE, "UniqueID", attribute_UniqueID, LMX_OFFSET(ColorQualityControlType, m_UniqueID, attribute, text), LMX_FLAG(ColorQualityControlType, m_isset_UniqueID), 0, 0, nullptr, nullptr, {}},
+    {lmx::item_kind::attribute, lmx::value_kind::text, lmx::use_optional, lmx::ELMX_WS_PRESERVE, "Comments", attribute_Comments, LMX_OFFSET(ColorQualityControlType, m_Comments, attribute, text), LMX_FLAG(ColorQualityControlType, m_isset_Comments), 0, 0, nullptr, nullptr, {}},
+    {lmx::item_kind::child_list, lmx::value_kind::none, lmx::use_optional, lmx::ELMX_WS_PRESERVE, "Vyr:CustomAttribute", element_CustomAttribute, LMX_OFFSET(ColorQualityControlType, m_CustomAttribute, child_list, none), lmx::k_no_flag, lmx::position_of(k_ColorQualityControlType_elements, element_CustomAttribute), lmx::position_of(k_ColorQualityControlType_elements, element_CustomAttribute, 1), &CustomAttributeType::k_class, nullptr, {}},
+    {lmx::item_kind::element_list, lmx::value_kind::datetime, lmx::use_demanded | lmx::use_asked, lmx::ELMX_WS_COLLAPSE, "Vyr:ChangeHistory", element_ChangeHistory, LMX_OFFSET(ColorQualityControlType, m_ChangeHistory, element_list, datetime), lmx::k_no_flag, lmx::position_of(k_ColorQualityControlType_elements, element_ChangeHistory), lmx::position_of(k_ColorQualityControlType_elements, element_ChangeHistory, 1), nullptr, &facets::DateTimeZone, {}},
+    {lmx::item_kind::child_list, lmx::value_kind::none, lmx::use_demanded | lmx::use_asked, lmx::ELMX_WS_PRESERVE, "Vyr:StandardAndMeasurement", element_StandardAndMeasurement, LMX_OFFSET(ColorQualityControlType, m_StandardAndMeasurement, child_list, none), lmx::k_no_flag, lmx::position_of(k_ColorQualityControlType_elements, element_StandardAndMeasurement), lmx::position_of(k_ColorQualityControlType_elements, element_StandardAndMeasurement, 1), &StandardAndMeasurementType::k_class, nullptr, {}},
+    {lmx::item_kind::child, lmx::value_kind::none, lmx::use_optional, lmx::ELMX_WS_PRESERVE, "Vyr:PhysicalSample", element_PhysicalSample, LMX_OFFSET(ColorQualityControlType, m_PhysicalSample, child, none), LMX_FLAG(ColorQualityControlType, m_isset_PhysicalSample), lmx::position_of(k_ColorQualityControlType_elements, element_PhysicalSample), lmx::position_of(k_ColorQualityControlType_elements, element_PhysicalSample, 1), &PhysicalSampleType::k_class, nullptr, {}},
+    {lmx::item_kind::child_list, lmx::value_kind::none, lmx::use_optional, lmx::ELMX_WS_PRESERVE, "Vyr:Tolerance", element_Tolerance, LMX_OFFSET(ColorQualityControlType, m_Tolerance, child_list, none), lmx::k_no_flag, lmx::position_of(k_ColorQualityControlType_elements, element_Tolerance), lmx::position_of(k_ColorQualityControlType_elements, element_Tolerance, 1), &ToleranceType::k_class, nullptr, {}},
+};
+constinit const lmx::s_class ColorQualityControlType::k_class = {
+    .name = "ColorQualityControlType",
+    .qualified_name = "Vyr:ColorQualityControlType",
+    .base = nullptr,
+    .content = lmx::content_kind::children,
+    .may_be_empty = false,
+    .ns_map = k_ns_map,
+    .nil_flag = lmx::k_no_flag,
+    .choice = lmx::k_no_flag,
+    .id = nullptr,
+    .xsi_type = nullptr,
+    .attributes = std::span(k_items).first(std::size(k_ColorQualityControlType_attributes) - 1),
+    .elements = std::span(k_items).subspan(std::size(k_ColorQualityControlType_attributes) - 1),
+    .attribute_map = k_ColorQualityControlType_attributes,
+    .element_map = k_ColorQualityControlType_elements,
+    .operations = &lmx::k_operations<ColorQualityControlType>,
+};
+
+ColorQualityControlType::ColorQualityControlType() = default;
+ColorQualityControlType::ColorQualityControlType(const ColorQualityControlType& other) { lmx::copy(k_class, this, &other); }
+ColorQualityControlType::~ColorQualityControlType() = default;
+ColorQualityControlType& ColorQualityControlType::operator=(const ColorQualityControlType& other) { ColorQualityControlType copy(other); swap(copy); return *this; }
+void ColorQualityControlType::swap(ColorQualityControlType& other) { lmx::swap(k_class, this, &other); }
+void ColorQualityControlType::reset() { ColorQualityControlType fresh; swap(fresh); }
+bool ColorQualityControlType::is_occurs_ok() const { return lmx::is_occurs_ok(k_class, this); }
+lmx::elmx_error ColorQualityControlType::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
+lmx::elmx_error ColorQualityControlType::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
+void ColorQualityControlType::marshal_attributes(lmx::c_xml_writer& writer) const { lmx::marshal_attributes(k_class, this, writer); }
+lmx::elmx_error ColorQualityControlType::marshal_child_elements(lmx::c_xml_writer& writer) const { return lmx::marshal_child_elements(k_class, this, writer); }
+bool ColorQualityControlType::unmarshal_attributes(lmx::c_xml_reader& reader, const std::string& name, lmx::elmx_error* error) { return lmx::unmarshal_attribute(k_class, this, reader, name, error); }
+lmx::elmx_error ColorQualityControlType::unmarshal_attributes_check(lmx::c_xml_reader& reader) { return lmx::check_required_attributes(k_class, this, reader); }
+bool ColorQualityControlType::unmarshal_body(lmx::c_xml_reader& reader, std::string* name, lmx::elmx_error* error) { return lmx::unmarshal_body(k_class, this, reader, name, error); }
+lmx::elmx_error ColorQualityControlType::set_Name(const std::u16string& value) { return lmx::set_item(k_class, k_items[item_Name], this, value); }
+lmx::elmx_error ColorQualityControlType::set_Description(const std::u16string& value) { return lmx::set_item(k_class, k_items[item_Description], this, value); }
+lmx::elmx_error ColorQualityControlType::set_UniqueID(const std::u16string& value) { return lmx::set_item(k_class, k_items[item_UniqueID], this, value); }
+lmx::elmx_error ColorQualityControlType::set_Comments(const std::u16string& value) { return lmx::set_item(k_class, k_items[item_Comments], this, value); }
+CustomAttributeType& ColorQualityControlType::get_CustomAttribute(std::size_t index) { return m_CustomAttribute.grow_to(index); }
+CustomAttributeType& ColorQualityControlType::assign_CustomAttribute(std::size_t index, const CustomAttributeType& value) { return get_CustomAttribute(index) = value; }
+lmx::elmx_error ColorQualityControlType::append_CustomAttribute() { m_CustomAttribute.append(); return lmx::ELMX_OK; }
+lmx::elmx_error ColorQualityControlType::insert_CustomAttribute(std::size_t index) { m_CustomAttribute.insert(index); return lmx::ELMX_OK; }
+void ColorQualityControlType::delete_CustomAttribute(std::size_t index) { m_CustomAttribute.erase(index); }
+void ColorQualityControlType::clear_CustomAttribute() { m_CustomAttribute.clear(); }
+lmx::elmx_error ColorQualityControlType::set_ChangeHistory(std::size_t index, const lmx::c_datetime& value) { return lmx::set_entry(k_items[item_ChangeHistory], this, index, value); }
+lmx::elmx_error ColorQualityControlType::append_ChangeHistory(const lmx::c_datetime& value) { return lmx::insert_entry(k_items[item_ChangeHistory], this, size_ChangeHistory(), value); }
+lmx::elmx_error ColorQualityControlType::insert_ChangeHistory(std::size_t index, const lmx::c_datetime& value) { return lmx::insert_entry(k_items[item_ChangeHistory], this, index, value); }
+void ColorQualityControlType::delete_ChangeHistory(std::size_t index) { m_ChangeHistory.erase(index); }
+void ColorQualityControlType::clear_ChangeHistory() { m_ChangeHistory.clear(); }
+StandardAndMeasurementType& ColorQualityControlType::get_StandardAndMeasurement(std::size_t index) { return m_StandardAndMeasurement.grow_to(index); }
+StandardAndMeasurementType& ColorQualityControlType::assign_StandardAndMeasurement(std::size_t index, const StandardAndMeasurementType& value) { return get_StandardAndMeasurement(index) = value; }
+lmx::elmx_error ColorQualityControlType::append_StandardAndMeasurement() { m_StandardAndMeasurement.append(); return lmx::ELMX_OK; }
+lmx::elmx_error ColorQualityControlType::insert_StandardAndMeasurement(std::size_t index) { m_StandardAndMeasurement.insert(index); return lmx::ELMX_OK; }
+void ColorQualityControlType::delete_StandardAndMeasurement(std::size_t index) { m_StandardAndMeasurement.erase(index); }
+void ColorQualityControlType::clear_StandardAndMeasurement() { m_StandardAndMeasurement.clear(); }
+PhysicalSampleType& ColorQualityControlType::assign_PhysicalSample(const PhysicalSampleType& value) { return get_PhysicalSample() = value; }
+ToleranceType& ColorQualityControlType::get_Tolerance(std::size_t index) { return m_Tolerance.grow_to(index); }
+ToleranceType& ColorQualityControlType::assign_Tolerance(std::size_t index, const ToleranceType& value) { return get_Tolerance(index) = value; }
+lmx::elmx_error ColorQualityControlType::append_Tolerance() { m_Tolerance.append(); return lmx::ELMX_OK; }
+lmx::elmx_error ColorQualityControlType::insert_Tolerance(std::size_t index) { m_Tolerance.insert(index); return lmx::ELMX_OK; }
+void ColorQualityControlType::delete_Tolerance(std::size_t index) { m_Tolerance.erase(index); }
+void ColorQualityControlType::clear_Tolerance() { m_Tolerance.clear(); }
+
+// Measurement
+
+namespace {
+constexpr lmx::s_event_map k_Measurement_elements[] = {
+    lmx::element_event("CustomAttribute", element_CustomAttribute),
+    lmx::element_event("Device", element_Device),
+    lmx::element_event("Color", element_Color),
+    lmx::element_event("Function", element_Function),
+    lmx::element_event("FunctionGeneric", element_FunctionGeneric),
+    lmx::element_event("FunctionDE", element_FunctionDE),
+    lmx::element_event("FunctionMeanDE", element_FunctionMeanDE),
+    lmx::element_event("FunctionDE94", element_FunctionDE94),
+    lmx::element_event("FunctionDE2000", element_FunctionDE2000),
+    lmx::element_event("FunctionDECMC", element_FunctionDECMC),
+    lmx::element_event("FunctionStdDevX", element_FunctionStdDevX),
+    lmx::element_event("FunctionStdDevY", element_FunctionStdDevY),
+    lmx::element_event("FunctionStdDevZ", element_FunctionStdDevZ),
+    lmx::element_event("FunctionStdDevL", element_FunctionStdDevL),
+    lmx::element_event("FunctionStdDevA", element_FunctionStdDevA),
+    lmx::element_event("FunctionStdDevB", element_FunctionStdDevB),
+    lmx::element_event("FunctionStdDevC", element_FunctionStdDevC),
+    lmx::element_event("FunctionStdDevH", element_FunctionStdDevH),
+    lmx::element_event("FunctionAverageStdDevL", element_FunctionAverageStdDevL),
+    lmx::element_event("FunctionAverageStdDevA", element_FunctionAverageStdDevA),
+    lmx::element_event("FunctionAverageStdDevB", element_FunctionAverageStdDevB),
+    lmx::k_end_of_map,
+};
+}  // namespace
+
+constinit const lmx::s_item Measurement::k_items[] = {
+    {lmx::item_kind::child_list, lmx::value_kind::none, lmx::use_optional, lmx::ELMX_WS_PRESERVE, "Vyr:CustomAttribute", element_CustomAttribute, LMX_OFFSET(Measurement, m_CustomAttribute, child_list, none), lmx::k_no_flag, lmx::position_of(k_Measurement_elements, element_CustomAttribute), lmx::position_of(k_Measurement_elements, element_CustomAttribute, 1), &CustomAttributeType::k_class, nullptr, {}},
+    {lmx::item_kind::child, lmx::value_kind::none, lmx::use_required, lmx::ELMX_WS_PRESERVE, "Vyr:Device", element_Device, LMX_OFFSET(Measurement, m_Device, child, none), LMX_FLAG(Measurement, m_isset_Device), lmx::position_of(k_Measurement_elements, element_Device), lmx::position_of(k_Measurement_elements, element_Device, 1), &DeviceType::k_class, nullptr, {}},
+    {lmx::item_kind::child, lmx::value_kind::none, lmx::use_required, lmx::ELMX_WS_PRESERVE, "Vyr:Color", element_Color, LMX_OFFSET(Measurement, m_Color, child, none), LMX_FLAG(Measurement, m_isset_Color), lmx::position_of(k_Measurement_elements, element_Color), lmx::position_of(k_Measurement_elements, element_Color, 1), &ColorType::k_class, nullptr, {}},
+    {lmx::item_kind::group_list, lmx::value_kind::none, lmx::use_optional, lmx::ELMX_WS_PRESERVE, "Vyr:Function", 0, LMX_OFFSET(Measurement, m_Function, group_list, none), lmx::k_no_flag, lmx::position_of(k_Measurement_elements, element_Function), lmx::position_of(k_Measurement_elements, element_Function, 18), &sg_Function::k_class, nullptr, {}},
+};
+constinit const lmx::s_class Measurement::k_class = {
+    .name = "Measurement",
+    .qualified_name = "Vyr:Measurement",
+    .base = nullptr,
+    .content = lmx::content_kind::children,
+    .may_be_empty = false,
+    .ns_map = k_ns_map,
+    .nil_flag = lmx::k_no_flag,
+    .choice = lmx::k_no_flag,
+    .id = nullptr,
+    .xsi_type = nullptr,
+    .attributes = std::span(k_items).first(std::size(lmx::k_no_events) - 1),
+    .elements = std::span(k_items).subspan(std::size(lmx::k_no_events) - 1),
+    .attribute_map = lmx::k_no_events,
+    .element_map = k_Measurement_elements,
+    .operations = &lmx::k_operations<Measurement>,
+};
+
+Measurement::Measurement() = default;
+Measurement::Measurement(const Measurement& other) { lmx::copy(k_class, this, &other); }
+Measurement::~Measurement() = default;
+Measurement& Measurement::operator=(const Measurement& other) { Measurement copy(other); swap(copy); return *this; }
+void Measurement::swap(Measurement& other) { lmx::swap(k_class, this, &other); }
+void Measurement::reset() { Measurement fresh; swap(fresh); }
+bool Measurement::is_occurs_ok() const { return lmx::is_occurs_ok(k_class, this); }
+lmx::elmx_error Measurement::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
+lmx::elmx_error Measurement::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
+void Measurement::marshal_attributes(lmx::c_xml_writer& writer) const { lmx::marshal_attributes(k_class, this, writer); }
+lmx::elmx_error Measurement::marshal_child_elements(lmx::c_xml_writer& writer) const { return lmx::marshal_child_elements(k_class, this, writer); }
+bool Measurement::unmarshal_attributes(lmx::c_xml_reader& reader, const std::string& name, lmx::elmx_error* error) { return lmx::unmarshal_attribute(k_class, this, reader, name, error); }
+lmx::elmx_error Measurement::unmarshal_attributes_check(lmx::c_xml_reader& reader) { return lmx::check_required_attributes(k_class, this, reader); }
+bool Measurement::unmarshal_body(lmx::c_xml_reader& reader, std::string* name, lmx::elmx_error* error) { return lmx::unmarshal_body(k_class, this, reader, name, error); }
+const lmx::s_document Measurement::k_document = {"Vyr:Measurement", "Measurement", k_ns_map, &lmx::k_operations<Measurement>};
+const lmx::s_ns_map* Measurement::ns_map() { return k_ns_map; }
+lmx::elmx_error Measurement::unmarshal(lmx::c_xml_reader& reader) { return lmx::unmarshal_document(k_document, this, reader); }
+Measurement::Measurement(const char* file_name, lmx::elmx_error* error) : Measurement() { *error = lmx::ELMX_UNDEFINED_ERROR; *error = unmarshal(file_name); }
+lmx::elmx_error Measurement::unmarshal(const char* file_name) { return lmx::unmarshal_document(k_document, this, file_name); }
+Measurement::Measurement(const char* data, std::size_t size, lmx::elmx_error* error) : Measurement() { *error = lmx::ELMX_UNDEFINED_ERROR; *error = unmarshal(data, size); }
+lmx::elmx_error Measurement::unmarshal(const char* data, std::size_t size) { return lmx::unmarshal_document(k_document, this, data, size); }
+Measurement::Measurement(const std::string& text, lmx::elmx_error* error) : Measurement() { *error = lmx::ELMX_UNDEFINED_ERROR; *error = unmarshal(text.data(), text.size()); }
+lmx::elmx_error Measurement::unmarshal(const std::string& text) { return lmx::unmarshal_document(k_document, this, text.data(), text.size()); }
+lmx::elmx_error Measurement::marshal(const char* file_name) const { return lmx::marshal_document(k_document, this, file_name); }
+lmx::elmx_error Measurement::marshal(std::string* text) const { return lmx::marshal_document(k_document, this, text); }
+lmx::elmx_error Measurement::marshal(std::ostream& stream) const { return lmx::marshal_document(k_document, this, stream); }
+CustomAttributeType& Measurement::get_CustomAttribute(std::size_t index) { return m_CustomAttribute.grow_to(index); }
+CustomAttributeType& Measurement::assign_CustomAttribute(std::size_t index, const CustomAttributeType& value) { return get_CustomAttribute(index) = value; }
+lmx::elmx_error Measurement::append_CustomAttribute() { m_CustomAttribute.append(); return lmx::ELMX_OK; }
+lmx::elmx_error Measurement::insert_CustomAttribute(std::size_t index) { m_CustomAttribute.insert(index); return lmx::ELMX_OK; }
+void Measurement::delete_CustomAttribute(std::size_t index) { m_CustomAttribute.erase(index); }
+void Measurement::clear_CustomAttribute() { m_CustomAttribute.clear(); }
+DeviceType& Measurement::assign_Device(const DeviceType& value) { return get_Device() = value; }
+ColorType& Measurement::assign_Color(const ColorType& value) { return get_Color() = value; }
+sg_Function& Measurement::get_Function(std::size_t index) { return m_Function.grow_to(index); }
+sg_Function& Measurement::assign_Function(std::size_t index, const sg_Function& value) { return get_Function(index) = value; }
+lmx::elmx_error Measurement::append_Function() { m_Function.append(); return lmx::ELMX_OK; }
+lmx::elmx_error Measurement::insert_Function(std::size_t index) { m_Function.insert(index); return lmx::ELMX_OK; }
+void Measurement::delete_Function(std::size_t index) { m_Function.erase(index); }
+void Measurement::clear_Function() { m_Function.clear(); }
+
+// Standard
+
+namespace {
+constexpr lmx::s_event_map k_Standard_elements[] = {
+    lmx::element_event("CustomAttribute", element_CustomAttribute),
+    lmx::element_event("Device", element_Device),
+    lmx::element_event("Color", element_Color),
+    lmx::element_event("Tolerance", element_Tolerance),
+    lmx::k_end_of_map,
+};
+}  // namespace
+
+constinit const lmx::s_item Standard::k_items[] = {
+    {lmx::item_kind::child_list, lmx::value_kind::none, lmx::use_optional, lmx::ELMX_WS_PRESERVE, "Vyr:CustomAttribute", element_CustomAttribute, LMX_OFFSET(Standard, m_CustomAttribute, child_list, none), lmx::k_no_flag, lmx::position_of(k_Standard_elements, element_CustomAttribute), lmx::position_of(k_Standard_elements, element_CustomAttribute, 1), &CustomAttributeType::k_class, nullptr, {}},
+    {lmx::item_kind::child, lmx::value_kind::none, lmx::use_required, lmx::ELMX_WS_PRESERVE, "Vyr:Device", element_Device, LMX_OFFSET(Standard, m_Device, child, none), LMX_FLAG(Standard, m_isset_Device), lmx::position_of(k_Standard_elements, element_Device), lmx::position_of(k_Standard_elements, element_Device, 1), &DeviceType::k_class, nullptr, {}},
+    {lmx::item_kind::child, lmx::value_kind::none, lmx::use_required, lmx::ELMX_WS_PRESERVE, "Vyr:Color", element_Color, LMX_OFFSET(Standard, m_Color, child, none), LMX_FLAG(Standard, m_isset_Color), lmx::position_of(k_Standard_elements, element_Color), lmx::position_of(k_Standard_elements, element_Color, 1), &ColorType::k_class, nullptr, {}},
+    {lmx::item_kind::child_list, lmx::value_kind::none, lmx::use_optional, lmx::ELMX_WS_PRESERVE, "Vyr:Tolerance", element_Tolerance, LMX_OFFSET(Standard, m_Tolerance, child_list, none), lmx::k_no_flag, lmx::position_of(k_Standard_elements, element_Tolerance), lmx::position_of(k_Standard_elements, element_Tolerance, 1), &ToleranceType::k_class, nullptr, {}},
+};
+constinit const lmx::s_class Standard::k_class = {
+    .name = "Standard",
+    .qualified_name = "Vyr:Standard",
+    .base = nullptr,
+    .content = lmx::content_kind::children,
+    .may_be_empty = false,
+    .ns_map = k_ns_map,
+    .nil_flag = LMX_FLAG(Standard, m_isnil),
+    .choice = lmx::k_no_flag,
+    .id = nullptr,
+    .xsi_type = nullptr,
+    .attributes = std::span(k_items).first(std::size(lmx::k_no_events) - 1),
+    .elements = std::span(k_items).subspan(std::size(lmx::k_no_events) - 1),
+    .attribute_map = lmx::k_no_events,
+    .element_map = k_Standard_elements,
+    .operations = &lmx::k_operations<Standard>,
+};
+
+Standard::Standard() = default;
+Standard::Standard(const Standard& other) { lmx::copy(k_class, this, &other); }
+Standard::~Standard() = default;
+Standard& Standard::operator=(const Standard& other) { Standard copy(other); swap(copy); return *this; }
+void Standard::swap(Standard& other) { lmx::swap(k_class, this, &other); }
+void Standard::reset() { Standard fresh; swap(fresh); }
+bool Standard::is_occurs_ok() const { return lmx::is_occurs_ok(k_class, this); }
+lmx::elmx_error Standard::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
+lmx::elmx_error Standard::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
+void Standard::marshal_attributes(lmx::c_xml_writer& writer) const { lmx::marshal_attributes(k_class, this, writer); }
+lmx::elmx_error Standard::marshal_child_elements(lmx::c_xml_writer& writer) const { return lmx::marshal_child_elements(k_class, this, writer); }
+bool Standard::unmarshal_attributes(lmx::c_xml_reader& reader, const std::string& name, lmx::elmx_error* error) { return lmx::unmarshal_attribute(k_class, this, reader, name, error); }
+lmx::elmx_error Standard::unmarshal_attributes_check(lmx::c_xml_reader& reader) { return lmx::check_required_attributes(k_class, this, reader); }
+bool Standard::unmarshal_body(lmx::c_xml_reader& reader, std::string* name, lmx::elmx_error* error) { return lmx::unmarshal_body(k_class, this, reader, name, error); }
+const lmx::s_document Standard::k_document = {"Vyr:Standard", "Standard", k_ns_map, &lmx::k_operations<Standard>};
+const lmx::s_ns_map* Standard::ns_map() { return k_ns_map; }
+lmx::elmx_error Standard::unmarshal(lmx::c_xml_reader& reader) { return lmx::unmarshal_document(k_document, this, reader); }
+Standard::Standard(const char* file_name, lmx::elmx_error* error) : Standard() { *error = lmx::ELMX_UNDEFINED_ERROR; *error = unmarshal(file_name); }
+lmx::elmx_error Standard::unmarshal(const char* file_name) { return lmx::unmarshal_document(k_document, this, file_name); }
+Standard::Standard(const char* data, std::size_t size, lmx::elmx_error* error) : Standard() { *error = lmx::ELMX_UNDEFINED_ERROR; *error = unmarshal(data, size); }
+lmx::elmx_error Standard::unmarshal(const char* data, std::size_t size) { return lmx::unmarshal_document(k_document, this, data, size); }
+Standard::Standard(const std::string& text, lmx::elmx_error* error) : Standard() { *error = lmx::ELMX_UNDEFINED_ERROR; *error = unmarshal(text.data(), text.size()); }
+lmx::elmx_error Standard::unmarshal(const std::string& text) { return lmx::unmarshal_document(k_document, this, text.data(), text.size()); }
+lmx::elmx_error Standard::marshal(const char* file_name) const { return lmx::marshal_document(k_document, this, file_name); }
+lmx::elmx_error Standard::marshal(std::string* text) const { return lmx::marshal_document(k_document, this, text); }
+lmx::elmx_error Standard::marshal(std::ostream& stream) const { return lmx::marshal_document(k_document, this, stream); }
+CustomAttributeType& Standard::get_CustomAttribute(std::size_t index) { return m_CustomAttribute.grow_to(index); }
+CustomAttributeType& Standard::assign_CustomAttribute(std::size_t index, const CustomAttributeType& value) { return get_CustomAttribute(index) = value; }
+lmx::elmx_error Standard::append_CustomAttribute() { m_CustomAttribute.append(); return lmx::ELMX_OK; }
+lmx::elmx_error Standard::insert_CustomAttribute(std::size_t index) { m_CustomAttribute.insert(index); return lmx::ELMX_OK; }
+void Standard::delete_CustomAttribute(std::size_t index) { m_CustomAttribute.erase(index); }
+void Standard::clear_CustomAttribute() { m_CustomAttribute.clear(); }
+DeviceType& Standard::assign_Device(const DeviceType& value) { return get_Device() = value; }
+ColorType& Standard::assign_Color(const ColorType& value) { return get_Color() = value; }
+ToleranceType& Standard::get_Tolerance(std::size_t index) { return m_Tolerance.grow_to(index); }
+ToleranceType& Standard::assign_Tolerance(std::size_t index, const ToleranceType& value) { return get_Tolerance(index) = value; }
+lmx::elmx_error Standard::append_Tolerance() { m_Tolerance.append(); return lmx::ELMX_OK; }
+lmx::elmx_error Standard::insert_Tolerance(std::size_t index) { m_Tolerance.insert(index); return lmx::ELMX_OK; }
+void Standard::delete_Tolerance(std::size_t index) { m_Tolerance.erase(index); }
+void Standard::clear_Tolerance() { m_Tolerance.clear(); }
+
+// StandardAndMeasurementType
+
+namespace {
+constexpr lmx::s_event_map k_StandardAndMeasurementType_elements[] = {
+    lmx::element_event("CustomAttribute", element_CustomAttribute),
+    lmx::element_event("Measurement", element_Measurement),
+    lmx::element_event("Standard", element_Standard),
+    lmx::k_end_of_map,
+};
+}  // namespace
+
+constinit const lmx::s_item StandardAndMeasurementType::k_items[] = {
+    {lmx::item_kind::child_list, lmx::value_kind::none, lmx::use_optional, lmx::ELMX_WS_PRESERVE, "Vyr:CustomAttribute", element_CustomAttribute, LMX_OFFSET(StandardAndMeasurementType, m_CustomAttribute, child_list, none), lmx::k_no_flag, lmx::position_of(k_StandardAndMeasurementType_elements, element_CustomAttribute), lmx::position_of(k_StandardAndMeasurementType_elements, element_CustomAttribute, 1), &CustomAttributeType::k_class, nullptr, {}},
+    {lmx::item_kind::child_list, lmx::value_kind::none, lmx::use_optional, lmx::ELMX_WS_PRESERVE, "Vyr:Measurement", element_Measurement, LMX_OFFSET(StandardAndMeasurementType, m_Measurement, child_list, none), lmx::k_no_flag, lmx::position_of(k_StandardAndMeasurementType_elements, element_Measurement), lmx::position_of(k_StandardAndMeasurementType_elements, element_Measurement, 1), &Measurement::k_class, nullptr, {}},
+    {lmx::item_kind::child, lmx::value_kind::none, lmx::use_required, lmx::ELMX_WS_PRESERVE, "Vyr:Standard", element_Standard, LMX_OFFSET(StandardAndMeasurementType, m_Standard, child, none), LMX_FLAG(StandardAndMeasurementType, m_isset_Standard), lmx::position_of(k_StandardAndMeasurementType_elements, element_Standard), lmx::position_of(k_StandardAndMeasurementType_elements, element_Standard, 1), &Standard::k_class, nullptr, {}},
+};
+constinit const lmx::s_class StandardAndMeasurementType::k_class = {
+    .name = "StandardAndMeasurementType",
+    .qualified_name = "Vyr:StandardAndMeasurementType",
+    .base = nullptr,
+    .content = lmx::content_kind::children,
+    .may_be_empty = false,
+    .ns_map = k_ns_map,
+    .nil_flag = lmx::k_no_flag,
+    .choice = lmx::k_no_flag,
+    .id = nullptr,
+    .xsi_type = nullptr,
+    .attributes = std::span(k_items).first(std::size(lmx::k_no_events) - 1),
+    .elements = std::span(k_items).subspan(std::size(lmx::k_no_events) - 1),
+    .attribute_map = lmx::k_no_events,
+    .element_map = k_StandardAndMeasurementType_elements,
+    .operations = &lmx::k_operations<StandardAndMeasurementType>,
+};
+
+StandardAndMeasurementType::StandardAndMeasurementType() = default;
+StandardAndMeasurementType::StandardAndMeasurementType(const StandardAndMeasurementType& other) { lmx::copy(k_class, this, &other); }
+StandardAndMeasurementType::~StandardAndMeasurementType() = default;
+StandardAndMeasurementType& StandardAndMeasurementType::operator=(const StandardAndMeasurementType& other) { StandardAndMeasurementType copy(other); swap(copy); return *this; }
+void StandardAndMeasurementType::swap(StandardAndMeasurementType& other) { lmx::swap(k_class, this, &other); }
+void StandardAndMeasurementType::reset() { StandardAndMeasurementType fresh; swap(fresh); }
+bool StandardAndMeasurementType::is_occurs_ok() const { return lmx::is_occurs_ok(k_class, this); }
+lmx::elmx_error StandardAndMeasurementType::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
+lmx::elmx_error StandardAndMeasurementType::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
+void StandardAndMeasurementType::marshal_attributes(lmx::c_xml_writer& writer) const { lmx::marshal_attributes(k_class, this, writer); }
+lmx::elmx_error StandardAndMeasurementType::marshal_child_elements(lmx::c_xml_writer& writer) const { return lmx::marshal_child_elements(k_class, this, writer); }
+bool StandardAndMeasurementType::unmarshal_attributes(lmx::c_xml_reader& reader, const std::string& name, lmx::elmx_error* error) { return lmx::unmarshal_attribute(k_class, this, reader, name, error); }
+lmx::elmx_error StandardAndMeasurementType::unmarshal_attributes_check(lmx::c_xml_reader& reader) { return lmx::check_required_attributes(k_class, this, reader); }
+bool StandardAndMeasurementType::unmarshal_body(lmx::c_xml_reader& reader, std::string* name, lmx::elmx_error* error) { return lmx::unmarshal_body(k_class, this, reader, name, error); }
+CustomAttributeType& StandardAndMeasurementType::get_CustomAttribute(std::size_t index) { return m_CustomAttribute.grow_to(index); }
+CustomAttributeType& StandardAndMeasurementType::assign_CustomAttribute(std::size_t index, const CustomAttributeType& value) { return get_CustomAttribute(index) = value; }
+lmx::elmx_error StandardAndMeasurementType::append_CustomAttribute() { m_CustomAttribute.append(); return lmx::ELMX_OK; }
+lmx::elmx_error StandardAndMeasurementType::insert_CustomAttribute(std::size_t index) { m_CustomAttribute.insert(index); return lmx::ELMX_OK; }
+void StandardAndMeasurementType::delete_CustomAttribute(std::size_t index) { m_CustomAttribute.erase(index); }
+void StandardAndMeasurementType::clear_CustomAttribute() { m_CustomAttribute.clear(); }
+Measurement& StandardAndMeasurementType::get_Measurement(std::size_t index) { return m_Measurement.grow_to(index); }
+Measurement& StandardAndMeasurementType::assign_Measurement(std::size_t index, const Measurement& value) { return get_Measurement(index) = value; }
+lmx::elmx_error StandardAndMeasurementType::append_Measurement() { m_Measurement.append(); return lmx::ELMX_OK; }
+lmx::elmx_error StandardAndMeasurementType::insert_Measurement(std::size_t index) { m_Measurement.insert(index); return lmx::ELMX_OK; }
+void StandardAndMeasurementType::delete_Measurement(std::size_t index) { m_Measurement.erase(index); }
+void StandardAndMeasurementType::clear_Measurement() { m_Measurement.clear(); }
+Standard& StandardAndMeasurementType::assign_Standard(const Standard& value) { return get_Standard() = value; }
+
+}  // namespace com_vyrgraph_v2

@@ -1,0 +1,950 @@
+// Copyright 2026 The Vyr Authors
+// SPDX-License-Identifier: Apache-2.0
+//
+// Made by schema/generator/generate.py from schema/vyr.xsd and schema/binding.toml. Change those instead.
+// clang-format off
+
+/// Tables and members of the classes in recipes.h.
+
+#include "schema/generated/recipes.h"
+#include "lmx/binding/binding.h"
+#include "lmx/binding/rows.h"
+#include "schema/generated/color_values.h"
+#include "schema/generated/header.h"
+#include "schema/generated/sampled_color_values.h"
+#include "schema/generated/specifications.h"
+#include "schema/generated/tables.h"
+
+// Offsets of members of classes with virtual functions: both compilers define them, and the macros check them.
+#pragma GCC diagnostic ignored "-Winvalid-offsetof"
+
+namespace com_vyrgraph_v2 {
+
+static_assert(lmx::k_binding_version == 1, "run schema/generator/generate.py");
+
+// ColorName
+
+namespace {
+constexpr lmx::s_event_map k_ColorName_elements[] = {
+    lmx::element_event("PrefixName", element_PrefixName),
+    lmx::element_event("BaseName", element_BaseName),
+    lmx::element_event("SuffixName", element_SuffixName),
+    lmx::k_end_of_map,
+};
+}  // namespace
+
+constinit const lmx::s_item ColorName::k_items[] = {
+    {lmx::item_kind::element, lmx::value_kind::text, lmx::use_required, lmx::ELMX_WS_PRESERVE, "Vyr:PrefixName", element_PrefixName, LMX_OFFSET(ColorName, m_PrefixName, element, text), LMX_FLAG(ColorName, m_isset_PrefixName), lmx::position_of(k_ColorName_elements, element_PrefixName), lmx::position_of(k_ColorName_elements, element_PrefixName, 1), nullptr, nullptr, {}},
+    {lmx::item_kind::element, lmx::value_kind::text, lmx::use_required, lmx::ELMX_WS_PRESERVE, "Vyr:BaseName", element_BaseName, LMX_OFFSET(ColorName, m_BaseName, element, text), LMX_FLAG(ColorName, m_isset_BaseName), lmx::position_of(k_ColorName_elements, element_BaseName), lmx::position_of(k_ColorName_elements, element_BaseName, 1), nullptr, nullptr, {}},
+    {lmx::item_kind::element, lmx::value_kind::text, lmx::use_required, lmx::ELMX_WS_PRESERVE, "Vyr:SuffixName", element_SuffixName, LMX_OFFSET(ColorName, m_SuffixName, element, text), LMX_FLAG(ColorName, m_isset_SuffixName), lmx::position_of(k_ColorName_elements, element_SuffixName), lmx::position_of(k_ColorName_elements, element_SuffixName, 1), nullptr, nullptr, {}},
+};
+constinit const lmx::s_class ColorName::k_class = {
+    .name = "ColorName",
+    .qualified_name = "Vyr:ColorName",
+    .base = nullptr,
+    .content = lmx::content_kind::children,
+    .may_be_empty = false,
+    .ns_map = nullptr,
+    .nil_flag = lmx::k_no_flag,
+    .choice = lmx::k_no_flag,
+    .id = nullptr,
+    .xsi_type = nullptr,
+    .attributes = std::span(k_items).first(std::size(lmx::k_no_events) - 1),
+    .elements = std::span(k_items).subspan(std::size(lmx::k_no_events) - 1),
+    .attribute_map = lmx::k_no_events,
+    .element_map = k_ColorName_elements,
+    .operations = &lmx::k_operations<ColorName>,
+};
+
+ColorName::ColorName() = default;
+ColorName::ColorName(const ColorName& other) { lmx::copy(k_class, this, &other); }
+ColorName::~ColorName() = default;
+ColorName& ColorName::operator=(const ColorName& other) { ColorName copy(other); swap(copy); return *this; }
+void ColorName::swap(ColorName& other) { lmx::swap(k_class, this, &other); }
+void ColorName::reset() { ColorName fresh; swap(fresh); }
+bool ColorName::is_occurs_ok() const { return lmx::is_occurs_ok(k_class, this); }
+lmx::elmx_error ColorName::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
+lmx::elmx_error ColorName::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
+void ColorName::marshal_attributes(lmx::c_xml_writer& writer) const { lmx::marshal_attributes(k_class, this, writer); }
+lmx::elmx_error ColorName::marshal_child_elements(lmx::c_xml_writer& writer) const { return lmx::marshal_child_elements(k_class, this, writer); }
+bool ColorName::unmarshal_attributes(lmx::c_xml_reader& reader, const std::string& name, lmx::elmx_error* error) { return lmx::unmarshal_attribute(k_class, this, reader, name, error); }
+lmx::elmx_error ColorName::unmarshal_attributes_check(lmx::c_xml_reader& reader) { return lmx::check_required_attributes(k_class, this, reader); }
+bool ColorName::unmarshal_body(lmx::c_xml_reader& reader, std::string* name, lmx::elmx_error* error) { return lmx::unmarshal_body(k_class, this, reader, name, error); }
+lmx::elmx_error ColorName::set_PrefixName(const std::u16string& value) { return lmx::set_item(k_class, k_items[item_PrefixName], this, value); }
+lmx::elmx_error ColorName::set_BaseName(const std::u16string& value) { return lmx::set_item(k_class, k_items[item_BaseName], this, value); }
+lmx::elmx_error ColorName::set_SuffixName(const std::u16string& value) { return lmx::set_item(k_class, k_items[item_SuffixName], this, value); }
+
+// Recipe
+
+namespace {
+constexpr lmx::s_event_map k_Recipe_elements[] = {
+    lmx::element_event("ColorantElement", element_ColorantElement),
+    lmx::k_end_of_map,
+};
+}  // namespace
+
+constinit const lmx::s_item Recipe::k_items[] = {
+    {lmx::item_kind::child_list, lmx::value_kind::none, lmx::use_demanded | lmx::use_asked, lmx::ELMX_WS_PRESERVE, "Vyr:ColorantElement", element_ColorantElement, LMX_OFFSET(Recipe, m_ColorantElement, child_list, none), lmx::k_no_flag, lmx::position_of(k_Recipe_elements, element_ColorantElement), lmx::position_of(k_Recipe_elements, element_ColorantElement, 1), &ColorantElement::k_class, nullptr, {}},
+};
+constinit const lmx::s_class Recipe::k_class = {
+    .name = "Recipe",
+    .qualified_name = "Vyr:Recipe",
+    .base = nullptr,
+    .content = lmx::content_kind::children,
+    .may_be_empty = true,
+    .ns_map = nullptr,
+    .nil_flag = lmx::k_no_flag,
+    .choice = lmx::k_no_flag,
+    .id = nullptr,
+    .xsi_type = nullptr,
+    .attributes = std::span(k_items).first(std::size(lmx::k_no_events) - 1),
+    .elements = std::span(k_items).subspan(std::size(lmx::k_no_events) - 1),
+    .attribute_map = lmx::k_no_events,
+    .element_map = k_Recipe_elements,
+    .operations = &lmx::k_operations<Recipe>,
+};
+
+Recipe::Recipe() = default;
+Recipe::Recipe(const Recipe& other) { lmx::copy(k_class, this, &other); }
+Recipe::~Recipe() = default;
+Recipe& Recipe::operator=(const Recipe& other) { Recipe copy(other); swap(copy); return *this; }
+void Recipe::swap(Recipe& other) { lmx::swap(k_class, this, &other); }
+void Recipe::reset() { Recipe fresh; swap(fresh); }
+bool Recipe::is_occurs_ok() const { return lmx::is_occurs_ok(k_class, this); }
+lmx::elmx_error Recipe::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
+lmx::elmx_error Recipe::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
+void Recipe::marshal_attributes(lmx::c_xml_writer& writer) const { lmx::marshal_attributes(k_class, this, writer); }
+lmx::elmx_error Recipe::marshal_child_elements(lmx::c_xml_writer& writer) const { return lmx::marshal_child_elements(k_class, this, writer); }
+bool Recipe::unmarshal_attributes(lmx::c_xml_reader& reader, const std::string& name, lmx::elmx_error* error) { return lmx::unmarshal_attribute(k_class, this, reader, name, error); }
+lmx::elmx_error Recipe::unmarshal_attributes_check(lmx::c_xml_reader& reader) { return lmx::check_required_attributes(k_class, this, reader); }
+bool Recipe::unmarshal_body(lmx::c_xml_reader& reader, std::string* name, lmx::elmx_error* error) { return lmx::unmarshal_body(k_class, this, reader, name, error); }
+ColorantElement& Recipe::get_ColorantElement(std::size_t index) { return m_ColorantElement.grow_to(index); }
+ColorantElement& Recipe::assign_ColorantElement(std::size_t index, const ColorantElement& value) { return get_ColorantElement(index) = value; }
+lmx::elmx_error Recipe::append_ColorantElement() { m_ColorantElement.append(); return lmx::ELMX_OK; }
+lmx::elmx_error Recipe::insert_ColorantElement(std::size_t index) { m_ColorantElement.insert(index); return lmx::ELMX_OK; }
+void Recipe::delete_ColorantElement(std::size_t index) { m_ColorantElement.erase(index); }
+void Recipe::clear_ColorantElement() { m_ColorantElement.clear(); }
+
+// ColorSpaceTINTORAType
+
+namespace {
+constexpr lmx::s_event_map k_ColorSpaceTINTORAType_attributes[] = {
+    lmx::attribute_event("Name", attribute_Name),
+    lmx::k_end_of_map,
+};
+constexpr lmx::s_event_map k_ColorSpaceTINTORAType_elements[] = {
+    lmx::element_event("FamilyName", element_FamilyName),
+    lmx::element_event("ColorName", element_ColorName),
+    lmx::element_event("Page", element_Page),
+    lmx::element_event("Gamut", element_Gamut),
+    lmx::element_event("Recipe", element_Recipe),
+    lmx::element_event("ColorAndFinish", element_ColorAndFinish),
+    lmx::k_end_of_map,
+};
+}  // namespace
+
+constinit const lmx::s_item ColorSpaceTINTORAType::k_items[] = {
+    {lmx::item_kind::attribute, lmx::value_kind::text, lmx::use_optional, lmx::ELMX_WS_PRESERVE, "Name", attribute_Name, LMX_OFFSET(ColorSpaceTINTORAType, m_Name, attribute, text), LMX_FLAG(ColorSpaceTINTORAType, m_isset_Name), 0, 0, nullptr, nullptr, {}},
+    {lmx::item_kind::element, lmx::value_kind::text, lmx::use_required, lmx::ELMX_WS_PRESERVE, "Vyr:FamilyName", element_FamilyName, LMX_OFFSET(ColorSpaceTINTORAType, m_FamilyName, element, text), LMX_FLAG(ColorSpaceTINTORAType, m_isset_FamilyName), lmx::position_of(k_ColorSpaceTINTORAType_elements, element_FamilyName), lmx::position_of(k_ColorSpaceTINTORAType_elements, element_FamilyName, 1), nullptr, nullptr, {}},
+    {lmx::item_kind::child, lmx::value_kind::none, lmx::use_required, lmx::ELMX_WS_PRESERVE, "Vyr:ColorName", element_ColorName, LMX_OFFSET(ColorSpaceTINTORAType, m_ColorName, child, none), LMX_FLAG(ColorSpaceTINTORAType, m_isset_ColorName), lmx::position_of(k_ColorSpaceTINTORAType_elements, element_ColorName), lmx::position_of(k_ColorSpaceTINTORAType_elements, element_ColorName, 1), &ColorName::k_class, nullptr, {}},
+    {lmx::item_kind::element, lmx::value_kind::text, lmx::use_required, lmx::ELMX_WS_PRESERVE, "Vyr:Page", element_Page, LMX_OFFSET(ColorSpaceTINTORAType, m_Page, element, text), LMX_FLAG(ColorSpaceTINTORAType, m_isset_Page), lmx::position_of(k_ColorSpaceTINTORAType_elements, element_Page), lmx::position_of(k_ColorSpaceTINTORAType_elements, element_Page, 1), nullptr, nullptr, {}},
+    {lmx::item_kind::element, lmx::value_kind::text, lmx::use_required, lmx::ELMX_WS_PRESERVE, "Vyr:Gamut", element_Gamut, LMX_OFFSET(ColorSpaceTINTORAType, m_Gamut, element, text), LMX_FLAG(ColorSpaceTINTORAType, m_isset_Gamut), lmx::position_of(k_ColorSpaceTINTORAType_elements, element_Gamut), lmx::position_of(k_ColorSpaceTINTORAType_elements, element_Gamut, 1), nullptr, &facets::GamutKind, {}},
+    {lmx::item_kind::child, lmx::value_kind::none, lmx::use_optional, lmx::ELMX_WS_PRESERVE, "Vyr:Recipe", element_Recipe, LMX_OFFSET(ColorSpaceTINTORAType, m_Recipe, child, none), LMX_FLAG(ColorSpaceTINTORAType, m_isset_Recipe), lmx::position_of(k_ColorSpaceTINTORAType_elements, element_Recipe), lmx::position_of(k_ColorSpaceTINTORAType_elements, element_Recipe, 1), &Recipe::k_class, nullptr, {}},
+    {lmx::item_kind::child_list, lmx::value_kind::none, lmx::use_optional, lmx::ELMX_WS_PRESERVE, "Vyr:ColorAndFinish", element_ColorAndFinish, LMX_OFFSET(ColorSpaceTINTORAType, m_ColorAndFinish, child_list, none), lmx::k_no_flag, lmx::position_of(k_ColorSpaceTINTORAType_elements, element_ColorAndFinish), lmx::position_of(k_ColorSpaceTINTORAType_elements, element_ColorAndFinish, 1), &ColorAndFinish::k_class, nullptr, {}},
+};
+constinit const lmx::s_class ColorSpaceTINTORAType::k_class = {
+    .name = "ColorSpaceTINTORAType",
+    .qualified_name = "Vyr:ColorSpaceTINTORAType",
+    .base = &ColorSpaceType::k_class,
+    .content = lmx::content_kind::children,
+    .may_be_empty = false,
+    .ns_map = k_ns_map,
+    .nil_flag = lmx::k_no_flag,
+    .choice = lmx::k_no_flag,
+    .id = &ColorSpaceTINTORAType::id,
+    .xsi_type = "Vyr:ColorSpaceTINTORAType",
+    .attributes = std::span(k_items).first(std::size(k_ColorSpaceTINTORAType_attributes) - 1),
+    .elements = std::span(k_items).subspan(std::size(k_ColorSpaceTINTORAType_attributes) - 1),
+    .attribute_map = k_ColorSpaceTINTORAType_attributes,
+    .element_map = k_ColorSpaceTINTORAType_elements,
+    .operations = &lmx::k_operations<ColorSpaceTINTORAType>,
+};
+
+ColorSpaceTINTORAType::ColorSpaceTINTORAType() = default;
+ColorSpaceTINTORAType::ColorSpaceTINTORAType(const ColorSpaceTINTORAType& other) : ColorSpaceType() { lmx::copy(k_class, this, &other); }
+ColorSpaceTINTORAType::~ColorSpaceTINTORAType() = default;
+ColorSpaceTINTORAType& ColorSpaceTINTORAType::operator=(const ColorSpaceTINTORAType& other) { ColorSpaceTINTORAType copy(other); swap(copy); return *this; }
+void ColorSpaceTINTORAType::swap(ColorSpaceTINTORAType& other) { lmx::swap(k_class, this, &other); }
+void ColorSpaceTINTORAType::reset() { ColorSpaceTINTORAType fresh; swap(fresh); }
+bool ColorSpaceTINTORAType::is_occurs_ok() const { return lmx::is_occurs_ok(k_class, this); }
+lmx::elmx_error ColorSpaceTINTORAType::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
+lmx::elmx_error ColorSpaceTINTORAType::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
+void ColorSpaceTINTORAType::marshal_attributes(lmx::c_xml_writer& writer) const { lmx::marshal_attributes(k_class, this, writer); }
+lmx::elmx_error ColorSpaceTINTORAType::marshal_child_elements(lmx::c_xml_writer& writer) const { return lmx::marshal_child_elements(k_class, this, writer); }
+bool ColorSpaceTINTORAType::unmarshal_attributes(lmx::c_xml_reader& reader, const std::string& name, lmx::elmx_error* error) { return lmx::unmarshal_attribute(k_class, this, reader, name, error); }
+lmx::elmx_error ColorSpaceTINTORAType::unmarshal_attributes_check(lmx::c_xml_reader& reader) { return lmx::check_required_attributes(k_class, this, reader); }
+bool ColorSpaceTINTORAType::unmarshal_body(lmx::c_xml_reader& reader, std::string* name, lmx::elmx_error* error) { return lmx::unmarshal_body(k_class, this, reader, name, error); }
+namespace { const char k_ColorSpaceTINTORAType_id[] = "ColorSpaceTINTORAType"; }
+const char* ColorSpaceTINTORAType::id = k_ColorSpaceTINTORAType_id;
+ColorSpaceTINTORAType* ColorSpaceTINTORAType::clone() const { return new ColorSpaceTINTORAType(*this); }
+const char* ColorSpaceTINTORAType::getid() const { return id; }
+bool ColorSpaceTINTORAType::has_id(const char* identity) const { return identity == id || ColorSpaceType::has_id(identity); }
+lmx::elmx_error ColorSpaceTINTORAType::set_Name(const std::u16string& value) { return lmx::set_item(k_class, k_items[item_Name], this, value); }
+lmx::elmx_error ColorSpaceTINTORAType::set_FamilyName(const std::u16string& value) { return lmx::set_item(k_class, k_items[item_FamilyName], this, value); }
+ColorName& ColorSpaceTINTORAType::assign_ColorName(const ColorName& value) { return get_ColorName() = value; }
+lmx::elmx_error ColorSpaceTINTORAType::set_Page(const std::u16string& value) { return lmx::set_item(k_class, k_items[item_Page], this, value); }
+lmx::elmx_error ColorSpaceTINTORAType::set_Gamut(const std::u16string& value) { return lmx::set_item(k_class, k_items[item_Gamut], this, value); }
+Eenum_Gamut ColorSpaceTINTORAType::getenum_Gamut() const { return static_cast<Eenum_Gamut>(lmx::enumerated_number(k_items[item_Gamut], get_Gamut())); }
+bool ColorSpaceTINTORAType::setenum_Gamut(std::int32_t number) { return lmx::set_enumerated(k_class, k_items[item_Gamut], this, number); }
+Recipe& ColorSpaceTINTORAType::assign_Recipe(const Recipe& value) { return get_Recipe() = value; }
+ColorAndFinish& ColorSpaceTINTORAType::get_ColorAndFinish(std::size_t index) { return m_ColorAndFinish.grow_to(index); }
+ColorAndFinish& ColorSpaceTINTORAType::assign_ColorAndFinish(std::size_t index, const ColorAndFinish& value) { return get_ColorAndFinish(index) = value; }
+lmx::elmx_error ColorSpaceTINTORAType::append_ColorAndFinish() { m_ColorAndFinish.append(); return lmx::ELMX_OK; }
+lmx::elmx_error ColorSpaceTINTORAType::insert_ColorAndFinish(std::size_t index) { m_ColorAndFinish.insert(index); return lmx::ELMX_OK; }
+void ColorSpaceTINTORAType::delete_ColorAndFinish(std::size_t index) { m_ColorAndFinish.erase(index); }
+void ColorSpaceTINTORAType::clear_ColorAndFinish() { m_ColorAndFinish.clear(); }
+
+// Colorant
+
+namespace {
+constexpr lmx::s_event_map k_Colorant_elements[] = {
+    lmx::element_event("CustomAttributes", element_CustomAttributes),
+    lmx::element_event("Name", element_Name),
+    lmx::element_event("Manufacturer", element_Manufacturer),
+    lmx::element_event("PartNumber", element_PartNumber),
+    lmx::element_event("Density", element_Density),
+    lmx::k_end_of_map,
+};
+}  // namespace
+
+constinit const lmx::s_item Colorant::k_items[] = {
+    {lmx::item_kind::child_list, lmx::value_kind::none, lmx::use_optional, lmx::ELMX_WS_PRESERVE, "Vyr:CustomAttributes", element_CustomAttributes, LMX_OFFSET(Colorant, m_CustomAttributes, child_list, none), lmx::k_no_flag, lmx::position_of(k_Colorant_elements, element_CustomAttributes), lmx::position_of(k_Colorant_elements, element_CustomAttributes, 1), &CustomAttributes::k_class, nullptr, {}},
+    {lmx::item_kind::element, lmx::value_kind::text, lmx::use_required, lmx::ELMX_WS_PRESERVE, "Vyr:Name", element_Name, LMX_OFFSET(Colorant, m_Name, element, text), LMX_FLAG(Colorant, m_isset_Name), lmx::position_of(k_Colorant_elements, element_Name), lmx::position_of(k_Colorant_elements, element_Name, 1), nullptr, &facets::NonEmptyString, {}},
+    {lmx::item_kind::element, lmx::value_kind::text, lmx::use_optional, lmx::ELMX_WS_PRESERVE, "Vyr:Manufacturer", element_Manufacturer, LMX_OFFSET(Colorant, m_Manufacturer, element, text), LMX_FLAG(Colorant, m_isset_Manufacturer), lmx::position_of(k_Colorant_elements, element_Manufacturer), lmx::position_of(k_Colorant_elements, element_Manufacturer, 1), nullptr, &facets::NonEmptyString, {}},
+    {lmx::item_kind::element, lmx::value_kind::text, lmx::use_optional, lmx::ELMX_WS_PRESERVE, "Vyr:PartNumber", element_PartNumber, LMX_OFFSET(Colorant, m_PartNumber, element, text), LMX_FLAG(Colorant, m_isset_PartNumber), lmx::position_of(k_Colorant_elements, element_PartNumber), lmx::position_of(k_Colorant_elements, element_PartNumber, 1), nullptr, &facets::NonEmptyString, {}},
+    {lmx::item_kind::element, lmx::value_kind::number, lmx::use_optional, lmx::ELMX_WS_COLLAPSE, "Vyr:Density", element_Density, LMX_OFFSET(Colorant, m_Density, element, number), LMX_FLAG(Colorant, m_isset_Density), lmx::position_of(k_Colorant_elements, element_Density), lmx::position_of(k_Colorant_elements, element_Density, 1), nullptr, &facets::Positive, {}},
+};
+constinit const lmx::s_class Colorant::k_class = {
+    .name = "Colorant",
+    .qualified_name = "Vyr:Colorant",
+    .base = nullptr,
+    .content = lmx::content_kind::children,
+    .may_be_empty = false,
+    .ns_map = nullptr,
+    .nil_flag = lmx::k_no_flag,
+    .choice = lmx::k_no_flag,
+    .id = nullptr,
+    .xsi_type = nullptr,
+    .attributes = std::span(k_items).first(std::size(lmx::k_no_events) - 1),
+    .elements = std::span(k_items).subspan(std::size(lmx::k_no_events) - 1),
+    .attribute_map = lmx::k_no_events,
+    .element_map = k_Colorant_elements,
+    .operations = &lmx::k_operations<Colorant>,
+};
+
+Colorant::Colorant() = default;
+Colorant::Colorant(const Colorant& other) { lmx::copy(k_class, this, &other); }
+Colorant::~Colorant() = default;
+Colorant& Colorant::operator=(const Colorant& other) { Colorant copy(other); swap(copy); return *this; }
+void Colorant::swap(Colorant& other) { lmx::swap(k_class, this, &other); }
+void Colorant::reset() { Colorant fresh; swap(fresh); }
+bool Colorant::is_occurs_ok() const { return lmx::is_occurs_ok(k_class, this); }
+lmx::elmx_error Colorant::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
+lmx::elmx_error Colorant::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
+void Colorant::marshal_attributes(lmx::c_xml_writer& writer) const { lmx::marshal_attributes(k_class, this, writer); }
+lmx::elmx_error Colorant::marshal_child_elements(lmx::c_xml_writer& writer) const { return lmx::marshal_child_elements(k_class, this, writer); }
+bool Colorant::unmarshal_attributes(lmx::c_xml_reader& reader, const std::string& name, lmx::elmx_error* error) { return lmx::unmarshal_attribute(k_class, this, reader, name, error); }
+lmx::elmx_error Colorant::unmarshal_attributes_check(lmx::c_xml_reader& reader) { return lmx::check_required_attributes(k_class, this, reader); }
+bool Colorant::unmarshal_body(lmx::c_xml_reader& reader, std::string* name, lmx::elmx_error* error) { return lmx::unmarshal_body(k_class, this, reader, name, error); }
+CustomAttributes& Colorant::get_CustomAttributes(std::size_t index) { return m_CustomAttributes.grow_to(index); }
+CustomAttributes& Colorant::assign_CustomAttributes(std::size_t index, const CustomAttributes& value) { return get_CustomAttributes(index) = value; }
+lmx::elmx_error Colorant::append_CustomAttributes() { m_CustomAttributes.append(); return lmx::ELMX_OK; }
+lmx::elmx_error Colorant::insert_CustomAttributes(std::size_t index) { m_CustomAttributes.insert(index); return lmx::ELMX_OK; }
+void Colorant::delete_CustomAttributes(std::size_t index) { m_CustomAttributes.erase(index); }
+void Colorant::clear_CustomAttributes() { m_CustomAttributes.clear(); }
+lmx::elmx_error Colorant::set_Name(const std::u16string& value) { return lmx::set_item(k_class, k_items[item_Name], this, value); }
+lmx::elmx_error Colorant::set_Manufacturer(const std::u16string& value) { return lmx::set_item(k_class, k_items[item_Manufacturer], this, value); }
+lmx::elmx_error Colorant::set_PartNumber(const std::u16string& value) { return lmx::set_item(k_class, k_items[item_PartNumber], this, value); }
+lmx::elmx_error Colorant::set_Density(double value) { return lmx::set_item(k_class, k_items[item_Density], this, value); }
+
+// ColorantElement
+
+namespace {
+constexpr lmx::s_event_map k_ColorantElement_elements[] = {
+    lmx::element_event("Colorant", element_Colorant),
+    lmx::element_event("Contribution", element_Contribution),
+    lmx::k_end_of_map,
+};
+}  // namespace
+
+constinit const lmx::s_item ColorantElement::k_items[] = {
+    {lmx::item_kind::child, lmx::value_kind::none, lmx::use_required, lmx::ELMX_WS_PRESERVE, "Vyr:Colorant", element_Colorant, LMX_OFFSET(ColorantElement, m_Colorant, child, none), LMX_FLAG(ColorantElement, m_isset_Colorant), lmx::position_of(k_ColorantElement_elements, element_Colorant), lmx::position_of(k_ColorantElement_elements, element_Colorant, 1), &Colorant::k_class, nullptr, {}},
+    {lmx::item_kind::element, lmx::value_kind::number, lmx::use_required, lmx::ELMX_WS_COLLAPSE, "Vyr:Contribution", element_Contribution, LMX_OFFSET(ColorantElement, m_Contribution, element, number), LMX_FLAG(ColorantElement, m_isset_Contribution), lmx::position_of(k_ColorantElement_elements, element_Contribution), lmx::position_of(k_ColorantElement_elements, element_Contribution, 1), nullptr, &facets::NonNegative, {}},
+};
+constinit const lmx::s_class ColorantElement::k_class = {
+    .name = "ColorantElement",
+    .qualified_name = "Vyr:ColorantElement",
+    .base = nullptr,
+    .content = lmx::content_kind::children,
+    .may_be_empty = false,
+    .ns_map = nullptr,
+    .nil_flag = lmx::k_no_flag,
+    .choice = lmx::k_no_flag,
+    .id = nullptr,
+    .xsi_type = nullptr,
+    .attributes = std::span(k_items).first(std::size(lmx::k_no_events) - 1),
+    .elements = std::span(k_items).subspan(std::size(lmx::k_no_events) - 1),
+    .attribute_map = lmx::k_no_events,
+    .element_map = k_ColorantElement_elements,
+    .operations = &lmx::k_operations<ColorantElement>,
+};
+
+ColorantElement::ColorantElement() = default;
+ColorantElement::ColorantElement(const ColorantElement& other) { lmx::copy(k_class, this, &other); }
+ColorantElement::~ColorantElement() = default;
+ColorantElement& ColorantElement::operator=(const ColorantElement& other) { ColorantElement copy(other); swap(copy); return *this; }
+void ColorantElement::swap(ColorantElement& other) { lmx::swap(k_class, this, &other); }
+void ColorantElement::reset() { ColorantElement fresh; swap(fresh); }
+bool ColorantElement::is_occurs_ok() const { return lmx::is_occurs_ok(k_class, this); }
+lmx::elmx_error ColorantElement::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
+lmx::elmx_error ColorantElement::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
+void ColorantElement::marshal_attributes(lmx::c_xml_writer& writer) const { lmx::marshal_attributes(k_class, this, writer); }
+lmx::elmx_error ColorantElement::marshal_child_elements(lmx::c_xml_writer& writer) const { return lmx::marshal_child_elements(k_class, this, writer); }
+bool ColorantElement::unmarshal_attributes(lmx::c_xml_reader& reader, const std::string& name, lmx::elmx_error* error) { return lmx::unmarshal_attribute(k_class, this, reader, name, error); }
+lmx::elmx_error ColorantElement::unmarshal_attributes_check(lmx::c_xml_reader& reader) { return lmx::check_required_attributes(k_class, this, reader); }
+bool ColorantElement::unmarshal_body(lmx::c_xml_reader& reader, std::string* name, lmx::elmx_error* error) { return lmx::unmarshal_body(k_class, this, reader, name, error); }
+Colorant& ColorantElement::assign_Colorant(const Colorant& value) { return get_Colorant() = value; }
+lmx::elmx_error ColorantElement::set_Contribution(double value) { return lmx::set_item(k_class, k_items[item_Contribution], this, value); }
+
+// CustomAttributes
+
+namespace {
+constexpr lmx::s_event_map k_CustomAttributes_elements[] = {
+    lmx::element_event("CustomAttribute", element_CustomAttribute),
+    lmx::k_end_of_map,
+};
+}  // namespace
+
+constinit const lmx::s_item CustomAttributes::k_items[] = {
+    {lmx::item_kind::child, lmx::value_kind::none, lmx::use_required, lmx::ELMX_WS_PRESERVE, "Vyr:CustomAttribute", element_CustomAttribute, LMX_OFFSET(CustomAttributes, m_CustomAttribute, child, none), LMX_FLAG(CustomAttributes, m_isset_CustomAttribute), lmx::position_of(k_CustomAttributes_elements, element_CustomAttribute), lmx::position_of(k_CustomAttributes_elements, element_CustomAttribute, 1), &CustomAttributeType::k_class, nullptr, {}},
+};
+constinit const lmx::s_class CustomAttributes::k_class = {
+    .name = "CustomAttributes",
+    .qualified_name = "Vyr:CustomAttributes",
+    .base = nullptr,
+    .content = lmx::content_kind::children,
+    .may_be_empty = true,
+    .ns_map = nullptr,
+    .nil_flag = lmx::k_no_flag,
+    .choice = lmx::k_no_flag,
+    .id = nullptr,
+    .xsi_type = nullptr,
+    .attributes = std::span(k_items).first(std::size(lmx::k_no_events) - 1),
+    .elements = std::span(k_items).subspan(std::size(lmx::k_no_events) - 1),
+    .attribute_map = lmx::k_no_events,
+    .element_map = k_CustomAttributes_elements,
+    .operations = &lmx::k_operations<CustomAttributes>,
+};
+
+CustomAttributes::CustomAttributes() = default;
+CustomAttributes::CustomAttributes(const CustomAttributes& other) { lmx::copy(k_class, this, &other); }
+CustomAttributes::~CustomAttributes() = default;
+CustomAttributes& CustomAttributes::operator=(const CustomAttributes& other) { CustomAttributes copy(other); swap(copy); return *this; }
+void CustomAttributes::swap(CustomAttributes& other) { lmx::swap(k_class, this, &other); }
+void CustomAttributes::reset() { CustomAttributes fresh; swap(fresh); }
+bool CustomAttributes::is_occurs_ok() const { return lmx::is_occurs_ok(k_class, this); }
+lmx::elmx_error CustomAttributes::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
+lmx::elmx_error CustomAttributes::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
+void CustomAttributes::marshal_attributes(lmx::c_xml_writer& writer) const { lmx::marshal_attributes(k_class, this, writer); }
+lmx::elmx_error CustomAttributes::marshal_child_elements(lmx::c_xml_writer& writer) const { return lmx::marshal_child_elements(k_class, this, writer); }
+bool CustomAttributes::unmarshal_attributes(lmx::c_xml_reader& reader, const std::string& name, lmx::elmx_error* error) { return lmx::unmarshal_attribute(k_class, this, reader, name, error); }
+lmx::elmx_error CustomAttributes::unmarshal_attributes_check(lmx::c_xml_reader& reader) { return lmx::check_required_attributes(k_class, this, reader); }
+bool CustomAttributes::unmarshal_body(lmx::c_xml_reader& reader, std::string* name, lmx::elmx_error* error) { return lmx::unmarshal_body(k_class, this, reader, name, error); }
+CustomAttributeType& CustomAttributes::assign_CustomAttribute(const CustomAttributeType& value) { return get_CustomAttribute() = value; }
+
+// ColorAndFinish
+
+namespace {
+constexpr lmx::s_event_map k_ColorAndFinish_elements[] = {
+    lmx::element_event("Finish", element_Finish),
+    lmx::element_event("ColorSpaceSpectral", element_ColorSpaceSpectral),
+    lmx::k_end_of_map,
+};
+}  // namespace
+
+constinit const lmx::s_item ColorAndFinish::k_items[] = {
+    {lmx::item_kind::element, lmx::value_kind::text, lmx::use_required, lmx::ELMX_WS_PRESERVE, "Vyr:Finish", element_Finish, LMX_OFFSET(ColorAndFinish, m_Finish, element, text), LMX_FLAG(ColorAndFinish, m_isset_Finish), lmx::position_of(k_ColorAndFinish_elements, element_Finish), lmx::position_of(k_ColorAndFinish_elements, element_Finish, 1), nullptr, &facets::FinishKind, {}},
+    {lmx::item_kind::child, lmx::value_kind::none, lmx::use_required, lmx::ELMX_WS_PRESERVE, "Vyr:ColorSpaceSpectral", element_ColorSpaceSpectral, LMX_OFFSET(ColorAndFinish, m_ColorSpaceSpectral, child, none), LMX_FLAG(ColorAndFinish, m_isset_ColorSpaceSpectral), lmx::position_of(k_ColorAndFinish_elements, element_ColorSpaceSpectral), lmx::position_of(k_ColorAndFinish_elements, element_ColorSpaceSpectral, 1), &ColorSpaceSpectralType::k_class, nullptr, {}},
+};
+constinit const lmx::s_class ColorAndFinish::k_class = {
+    .name = "ColorAndFinish",
+    .qualified_name = "Vyr:ColorAndFinish",
+    .base = nullptr,
+    .content = lmx::content_kind::children,
+    .may_be_empty = true,
+    .ns_map = nullptr,
+    .nil_flag = lmx::k_no_flag,
+    .choice = lmx::k_no_flag,
+    .id = nullptr,
+    .xsi_type = nullptr,
+    .attributes = std::span(k_items).first(std::size(lmx::k_no_events) - 1),
+    .elements = std::span(k_items).subspan(std::size(lmx::k_no_events) - 1),
+    .attribute_map = lmx::k_no_events,
+    .element_map = k_ColorAndFinish_elements,
+    .operations = &lmx::k_operations<ColorAndFinish>,
+};
+
+ColorAndFinish::ColorAndFinish() = default;
+ColorAndFinish::ColorAndFinish(const ColorAndFinish& other) { lmx::copy(k_class, this, &other); }
+ColorAndFinish::~ColorAndFinish() = default;
+ColorAndFinish& ColorAndFinish::operator=(const ColorAndFinish& other) { ColorAndFinish copy(other); swap(copy); return *this; }
+void ColorAndFinish::swap(ColorAndFinish& other) { lmx::swap(k_class, this, &other); }
+void ColorAndFinish::reset() { ColorAndFinish fresh; swap(fresh); }
+bool ColorAndFinish::is_occurs_ok() const { return lmx::is_occurs_ok(k_class, this); }
+lmx::elmx_error ColorAndFinish::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
+lmx::elmx_error ColorAndFinish::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
+void ColorAndFinish::marshal_attributes(lmx::c_xml_writer& writer) const { lmx::marshal_attributes(k_class, this, writer); }
+lmx::elmx_error ColorAndFinish::marshal_child_elements(lmx::c_xml_writer& writer) const { return lmx::marshal_child_elements(k_class, this, writer); }
+bool ColorAndFinish::unmarshal_attributes(lmx::c_xml_reader& reader, const std::string& name, lmx::elmx_error* error) { return lmx::unmarshal_attribute(k_class, this, reader, name, error); }
+lmx::elmx_error ColorAndFinish::unmarshal_attributes_check(lmx::c_xml_reader& reader) { return lmx::check_required_attributes(k_class, this, reader); }
+bool ColorAndFinish::unmarshal_body(lmx::c_xml_reader& reader, std::string* name, lmx::elmx_error* error) { return lmx::unmarshal_body(k_class, this, reader, name, error); }
+lmx::elmx_error ColorAndFinish::set_Finish(const std::u16string& value) { return lmx::set_item(k_class, k_items[item_Finish], this, value); }
+Eenum_Finish ColorAndFinish::getenum_Finish() const { return static_cast<Eenum_Finish>(lmx::enumerated_number(k_items[item_Finish], get_Finish())); }
+bool ColorAndFinish::setenum_Finish(std::int32_t number) { return lmx::set_enumerated(k_class, k_items[item_Finish], this, number); }
+ColorSpaceSpectralType& ColorAndFinish::assign_ColorSpaceSpectral(const ColorSpaceSpectralType& value) { return get_ColorSpaceSpectral() = value; }
+
+// ColorSpaceNCSType
+
+namespace {
+constexpr lmx::s_event_map k_ColorSpaceNCSType_attributes[] = {
+    lmx::attribute_event("Name", attribute_Name),
+    lmx::k_end_of_map,
+};
+constexpr lmx::s_event_map k_ColorSpaceNCSType_elements[] = {
+    lmx::element_event("ColorSpaceSpecificationSpectrumGeneric", element_ColorSpaceSpecificationSpectrumGeneric),
+    lmx::element_event("ColorName", element_ColorName),
+    lmx::k_end_of_map,
+};
+}  // namespace
+
+constinit const lmx::s_item ColorSpaceNCSType::k_items[] = {
+    {lmx::item_kind::attribute, lmx::value_kind::text, lmx::use_optional, lmx::ELMX_WS_PRESERVE, "Name", attribute_Name, LMX_OFFSET(ColorSpaceNCSType, m_Name, attribute, text), LMX_FLAG(ColorSpaceNCSType, m_isset_Name), 0, 0, nullptr, nullptr, {}},
+    {lmx::item_kind::child, lmx::value_kind::none, lmx::use_required, lmx::ELMX_WS_PRESERVE, "Vyr:ColorSpaceSpecificationSpectrumGeneric", element_ColorSpaceSpecificationSpectrumGeneric, LMX_OFFSET(ColorSpaceNCSType, m_ColorSpaceSpecificationSpectrumGeneric, child, none), LMX_FLAG(ColorSpaceNCSType, m_isset_ColorSpaceSpecificationSpectrumGeneric), lmx::position_of(k_ColorSpaceNCSType_elements, element_ColorSpaceSpecificationSpectrumGeneric), lmx::position_of(k_ColorSpaceNCSType_elements, element_ColorSpaceSpecificationSpectrumGeneric, 1), &ColorSpaceSpecificationSpectrumGeneric::k_class, nullptr, {}},
+    {lmx::item_kind::element, lmx::value_kind::text, lmx::use_required, lmx::ELMX_WS_PRESERVE, "Vyr:ColorName", element_ColorName, LMX_OFFSET(ColorSpaceNCSType, m_ColorName, element, text), LMX_FLAG(ColorSpaceNCSType, m_isset_ColorName), lmx::position_of(k_ColorSpaceNCSType_elements, element_ColorName), lmx::position_of(k_ColorSpaceNCSType_elements, element_ColorName, 1), nullptr, nullptr, {}},
+};
+constinit const lmx::s_class ColorSpaceNCSType::k_class = {
+    .name = "ColorSpaceNCSType",
+    .qualified_name = "Vyr:ColorSpaceNCSType",
+    .base = &ColorSpaceType::k_class,
+    .content = lmx::content_kind::children,
+    .may_be_empty = false,
+    .ns_map = k_ns_map,
+    .nil_flag = lmx::k_no_flag,
+    .choice = lmx::k_no_flag,
+    .id = &ColorSpaceNCSType::id,
+    .xsi_type = "Vyr:ColorSpaceNCSType",
+    .attributes = std::span(k_items).first(std::size(k_ColorSpaceNCSType_attributes) - 1),
+    .elements = std::span(k_items).subspan(std::size(k_ColorSpaceNCSType_attributes) - 1),
+    .attribute_map = k_ColorSpaceNCSType_attributes,
+    .element_map = k_ColorSpaceNCSType_elements,
+    .operations = &lmx::k_operations<ColorSpaceNCSType>,
+};
+
+ColorSpaceNCSType::ColorSpaceNCSType() = default;
+ColorSpaceNCSType::ColorSpaceNCSType(const ColorSpaceNCSType& other) : ColorSpaceType() { lmx::copy(k_class, this, &other); }
+ColorSpaceNCSType::~ColorSpaceNCSType() = default;
+ColorSpaceNCSType& ColorSpaceNCSType::operator=(const ColorSpaceNCSType& other) { ColorSpaceNCSType copy(other); swap(copy); return *this; }
+void ColorSpaceNCSType::swap(ColorSpaceNCSType& other) { lmx::swap(k_class, this, &other); }
+void ColorSpaceNCSType::reset() { ColorSpaceNCSType fresh; swap(fresh); }
+bool ColorSpaceNCSType::is_occurs_ok() const { return lmx::is_occurs_ok(k_class, this); }
+lmx::elmx_error ColorSpaceNCSType::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
+lmx::elmx_error ColorSpaceNCSType::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
+void ColorSpaceNCSType::marshal_attributes(lmx::c_xml_writer& writer) const { lmx::marshal_attributes(k_class, this, writer); }
+lmx::elmx_error ColorSpaceNCSType::marshal_child_elements(lmx::c_xml_writer& writer) const { return lmx::marshal_child_elements(k_class, this, writer); }
+bool ColorSpaceNCSType::unmarshal_attributes(lmx::c_xml_reader& reader, const std::string& name, lmx::elmx_error* error) { return lmx::unmarshal_attribute(k_class, this, reader, name, error); }
+lmx::elmx_error ColorSpaceNCSType::unmarshal_attributes_check(lmx::c_xml_reader& reader) { return lmx::check_required_attributes(k_class, this, reader); }
+bool ColorSpaceNCSType::unmarshal_body(lmx::c_xml_reader& reader, std::string* name, lmx::elmx_error* error) { return lmx::unmarshal_body(k_class, this, reader, name, error); }
+namespace { const char k_ColorSpaceNCSType_id[] = "ColorSpaceNCSType"; }
+const char* ColorSpaceNCSType::id = k_ColorSpaceNCSType_id;
+ColorSpaceNCSType* ColorSpaceNCSType::clone() const { return new ColorSpaceNCSType(*this); }
+const char* ColorSpaceNCSType::getid() const { return id; }
+bool ColorSpaceNCSType::has_id(const char* identity) const { return identity == id || ColorSpaceType::has_id(identity); }
+lmx::elmx_error ColorSpaceNCSType::set_Name(const std::u16string& value) { return lmx::set_item(k_class, k_items[item_Name], this, value); }
+ColorSpaceSpecificationSpectrumGeneric& ColorSpaceNCSType::assign_ColorSpaceSpecificationSpectrumGeneric(const ColorSpaceSpecificationSpectrumGeneric& value) { return get_ColorSpaceSpecificationSpectrumGeneric() = value; }
+lmx::elmx_error ColorSpaceNCSType::set_ColorName(const std::u16string& value) { return lmx::set_item(k_class, k_items[item_ColorName], this, value); }
+
+// ColorSpaceMunsellType
+
+namespace {
+constexpr lmx::s_event_map k_ColorSpaceMunsellType_attributes[] = {
+    lmx::attribute_event("Name", attribute_Name),
+    lmx::k_end_of_map,
+};
+constexpr lmx::s_event_map k_ColorSpaceMunsellType_elements[] = {
+    lmx::element_event("ColorSpaceSpecificationSpectrumGeneric", element_ColorSpaceSpecificationSpectrumGeneric),
+    lmx::element_event("CollectionName", element_CollectionName),
+    lmx::element_event("ColorName", element_ColorName),
+    lmx::k_end_of_map,
+};
+}  // namespace
+
+constinit const lmx::s_item ColorSpaceMunsellType::k_items[] = {
+    {lmx::item_kind::attribute, lmx::value_kind::text, lmx::use_optional, lmx::ELMX_WS_PRESERVE, "Name", attribute_Name, LMX_OFFSET(ColorSpaceMunsellType, m_Name, attribute, text), LMX_FLAG(ColorSpaceMunsellType, m_isset_Name), 0, 0, nullptr, nullptr, {}},
+    {lmx::item_kind::child, lmx::value_kind::none, lmx::use_required, lmx::ELMX_WS_PRESERVE, "Vyr:ColorSpaceSpecificationSpectrumGeneric", element_ColorSpaceSpecificationSpectrumGeneric, LMX_OFFSET(ColorSpaceMunsellType, m_ColorSpaceSpecificationSpectrumGeneric, child, none), LMX_FLAG(ColorSpaceMunsellType, m_isset_ColorSpaceSpecificationSpectrumGeneric), lmx::position_of(k_ColorSpaceMunsellType_elements, element_ColorSpaceSpecificationSpectrumGeneric), lmx::position_of(k_ColorSpaceMunsellType_elements, element_ColorSpaceSpecificationSpectrumGeneric, 1), &ColorSpaceSpecificationSpectrumGeneric::k_class, nullptr, {}},
+    {lmx::item_kind::element, lmx::value_kind::text, lmx::use_required, lmx::ELMX_WS_PRESERVE, "Vyr:CollectionName", element_CollectionName, LMX_OFFSET(ColorSpaceMunsellType, m_CollectionName, element, text), LMX_FLAG(ColorSpaceMunsellType, m_isset_CollectionName), lmx::position_of(k_ColorSpaceMunsellType_elements, element_CollectionName), lmx::position_of(k_ColorSpaceMunsellType_elements, element_CollectionName, 1), nullptr, &facets::NonEmptyString, {}},
+    {lmx::item_kind::element, lmx::value_kind::text, lmx::use_required, lmx::ELMX_WS_PRESERVE, "Vyr:ColorName", element_ColorName, LMX_OFFSET(ColorSpaceMunsellType, m_ColorName, element, text), LMX_FLAG(ColorSpaceMunsellType, m_isset_ColorName), lmx::position_of(k_ColorSpaceMunsellType_elements, element_ColorName), lmx::position_of(k_ColorSpaceMunsellType_elements, element_ColorName, 1), nullptr, &facets::NonEmptyString, {}},
+};
+constinit const lmx::s_class ColorSpaceMunsellType::k_class = {
+    .name = "ColorSpaceMunsellType",
+    .qualified_name = "Vyr:ColorSpaceMunsellType",
+    .base = &ColorSpaceType::k_class,
+    .content = lmx::content_kind::children,
+    .may_be_empty = false,
+    .ns_map = k_ns_map,
+    .nil_flag = lmx::k_no_flag,
+    .choice = lmx::k_no_flag,
+    .id = &ColorSpaceMunsellType::id,
+    .xsi_type = "Vyr:ColorSpaceMunsellType",
+    .attributes = std::span(k_items).first(std::size(k_ColorSpaceMunsellType_attributes) - 1),
+    .elements = std::span(k_items).subspan(std::size(k_ColorSpaceMunsellType_attributes) - 1),
+    .attribute_map = k_ColorSpaceMunsellType_attributes,
+    .element_map = k_ColorSpaceMunsellType_elements,
+    .operations = &lmx::k_operations<ColorSpaceMunsellType>,
+};
+
+ColorSpaceMunsellType::ColorSpaceMunsellType() = default;
+ColorSpaceMunsellType::ColorSpaceMunsellType(const ColorSpaceMunsellType& other) : ColorSpaceType() { lmx::copy(k_class, this, &other); }
+ColorSpaceMunsellType::~ColorSpaceMunsellType() = default;
+ColorSpaceMunsellType& ColorSpaceMunsellType::operator=(const ColorSpaceMunsellType& other) { ColorSpaceMunsellType copy(other); swap(copy); return *this; }
+void ColorSpaceMunsellType::swap(ColorSpaceMunsellType& other) { lmx::swap(k_class, this, &other); }
+void ColorSpaceMunsellType::reset() { ColorSpaceMunsellType fresh; swap(fresh); }
+bool ColorSpaceMunsellType::is_occurs_ok() const { return lmx::is_occurs_ok(k_class, this); }
+lmx::elmx_error ColorSpaceMunsellType::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
+lmx::elmx_error ColorSpaceMunsellType::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
+void ColorSpaceMunsellType::marshal_attributes(lmx::c_xml_writer& writer) const { lmx::marshal_attributes(k_class, this, writer); }
+lmx::elmx_error ColorSpaceMunsellType::marshal_child_elements(lmx::c_xml_writer& writer) const { return lmx::marshal_child_elements(k_class, this, writer); }
+bool ColorSpaceMunsellType::unmarshal_attributes(lmx::c_xml_reader& reader, const std::string& name, lmx::elmx_error* error) { return lmx::unmarshal_attribute(k_class, this, reader, name, error); }
+lmx::elmx_error ColorSpaceMunsellType::unmarshal_attributes_check(lmx::c_xml_reader& reader) { return lmx::check_required_attributes(k_class, this, reader); }
+bool ColorSpaceMunsellType::unmarshal_body(lmx::c_xml_reader& reader, std::string* name, lmx::elmx_error* error) { return lmx::unmarshal_body(k_class, this, reader, name, error); }
+namespace { const char k_ColorSpaceMunsellType_id[] = "ColorSpaceMunsellType"; }
+const char* ColorSpaceMunsellType::id = k_ColorSpaceMunsellType_id;
+ColorSpaceMunsellType* ColorSpaceMunsellType::clone() const { return new ColorSpaceMunsellType(*this); }
+const char* ColorSpaceMunsellType::getid() const { return id; }
+bool ColorSpaceMunsellType::has_id(const char* identity) const { return identity == id || ColorSpaceType::has_id(identity); }
+lmx::elmx_error ColorSpaceMunsellType::set_Name(const std::u16string& value) { return lmx::set_item(k_class, k_items[item_Name], this, value); }
+ColorSpaceSpecificationSpectrumGeneric& ColorSpaceMunsellType::assign_ColorSpaceSpecificationSpectrumGeneric(const ColorSpaceSpecificationSpectrumGeneric& value) { return get_ColorSpaceSpecificationSpectrumGeneric() = value; }
+lmx::elmx_error ColorSpaceMunsellType::set_CollectionName(const std::u16string& value) { return lmx::set_item(k_class, k_items[item_CollectionName], this, value); }
+lmx::elmx_error ColorSpaceMunsellType::set_ColorName(const std::u16string& value) { return lmx::set_item(k_class, k_items[item_ColorName], this, value); }
+
+// Base
+
+namespace {
+constexpr lmx::s_event_map k_Base_elements[] = {
+    lmx::element_event("CustomAttribute", element_CustomAttribute),
+    lmx::element_event("Name", element_Name),
+    lmx::element_event("Manufacturer", element_Manufacturer),
+    lmx::element_event("PartNumber", element_PartNumber),
+    lmx::element_event("Density", element_Density),
+    lmx::k_end_of_map,
+};
+}  // namespace
+
+constinit const lmx::s_item Base::k_items[] = {
+    {lmx::item_kind::child_list, lmx::value_kind::none, lmx::use_optional, lmx::ELMX_WS_PRESERVE, "Vyr:CustomAttribute", element_CustomAttribute, LMX_OFFSET(Base, m_CustomAttribute, child_list, none), lmx::k_no_flag, lmx::position_of(k_Base_elements, element_CustomAttribute), lmx::position_of(k_Base_elements, element_CustomAttribute, 1), &CustomAttributeType::k_class, nullptr, {}},
+    {lmx::item_kind::element, lmx::value_kind::text, lmx::use_required, lmx::ELMX_WS_PRESERVE, "Vyr:Name", element_Name, LMX_OFFSET(Base, m_Name, element, text), LMX_FLAG(Base, m_isset_Name), lmx::position_of(k_Base_elements, element_Name), lmx::position_of(k_Base_elements, element_Name, 1), nullptr, &facets::NonEmptyString, {}},
+    {lmx::item_kind::element, lmx::value_kind::text, lmx::use_required, lmx::ELMX_WS_PRESERVE, "Vyr:Manufacturer", element_Manufacturer, LMX_OFFSET(Base, m_Manufacturer, element, text), LMX_FLAG(Base, m_isset_Manufacturer), lmx::position_of(k_Base_elements, element_Manufacturer), lmx::position_of(k_Base_elements, element_Manufacturer, 1), nullptr, &facets::NonEmptyString, {}},
+    {lmx::item_kind::element, lmx::value_kind::text, lmx::use_required, lmx::ELMX_WS_PRESERVE, "Vyr:PartNumber", element_PartNumber, LMX_OFFSET(Base, m_PartNumber, element, text), LMX_FLAG(Base, m_isset_PartNumber), lmx::position_of(k_Base_elements, element_PartNumber), lmx::position_of(k_Base_elements, element_PartNumber, 1), nullptr, &facets::NonEmptyString, {}},
+    {lmx::item_kind::element, lmx::value_kind::number, lmx::use_optional, lmx::ELMX_WS_COLLAPSE, "Vyr:Density", element_Density, LMX_OFFSET(Base, m_Density, element, number), LMX_FLAG(Base, m_isset_Density), lmx::position_of(k_Base_elements, element_Density), lmx::position_of(k_Base_elements, element_Density, 1), nullptr, &facets::Positive, {}},
+};
+constinit const lmx::s_class Base::k_class = {
+    .name = "Base",
+    .qualified_name = "Vyr:Base",
+    .base = nullptr,
+    .content = lmx::content_kind::children,
+    .may_be_empty = false,
+    .ns_map = nullptr,
+    .nil_flag = lmx::k_no_flag,
+    .choice = lmx::k_no_flag,
+    .id = nullptr,
+    .xsi_type = nullptr,
+    .attributes = std::span(k_items).first(std::size(lmx::k_no_events) - 1),
+    .elements = std::span(k_items).subspan(std::size(lmx::k_no_events) - 1),
+    .attribute_map = lmx::k_no_events,
+    .element_map = k_Base_elements,
+    .operations = &lmx::k_operations<Base>,
+};
+
+Base::Base() = default;
+Base::Base(const Base& other) { lmx::copy(k_class, this, &other); }
+Base::~Base() = default;
+Base& Base::operator=(const Base& other) { Base copy(other); swap(copy); return *this; }
+void Base::swap(Base& other) { lmx::swap(k_class, this, &other); }
+void Base::reset() { Base fresh; swap(fresh); }
+bool Base::is_occurs_ok() const { return lmx::is_occurs_ok(k_class, this); }
+lmx::elmx_error Base::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
+lmx::elmx_error Base::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
+void Base::marshal_attributes(lmx::c_xml_writer& writer) const { lmx::marshal_attributes(k_class, this, writer); }
+lmx::elmx_error Base::marshal_child_elements(lmx::c_xml_writer& writer) const { return lmx::marshal_child_elements(k_class, this, writer); }
+bool Base::unmarshal_attributes(lmx::c_xml_reader& reader, const std::string& name, lmx::elmx_error* error) { return lmx::unmarshal_attribute(k_class, this, reader, name, error); }
+lmx::elmx_error Base::unmarshal_attributes_check(lmx::c_xml_reader& reader) { return lmx::check_required_attributes(k_class, this, reader); }
+bool Base::unmarshal_body(lmx::c_xml_reader& reader, std::string* name, lmx::elmx_error* error) { return lmx::unmarshal_body(k_class, this, reader, name, error); }
+CustomAttributeType& Base::get_CustomAttribute(std::size_t index) { return m_CustomAttribute.grow_to(index); }
+CustomAttributeType& Base::assign_CustomAttribute(std::size_t index, const CustomAttributeType& value) { return get_CustomAttribute(index) = value; }
+lmx::elmx_error Base::append_CustomAttribute() { m_CustomAttribute.append(); return lmx::ELMX_OK; }
+lmx::elmx_error Base::insert_CustomAttribute(std::size_t index) { m_CustomAttribute.insert(index); return lmx::ELMX_OK; }
+void Base::delete_CustomAttribute(std::size_t index) { m_CustomAttribute.erase(index); }
+void Base::clear_CustomAttribute() { m_CustomAttribute.clear(); }
+lmx::elmx_error Base::set_Name(const std::u16string& value) { return lmx::set_item(k_class, k_items[item_Name], this, value); }
+lmx::elmx_error Base::set_Manufacturer(const std::u16string& value) { return lmx::set_item(k_class, k_items[item_Manufacturer], this, value); }
+lmx::elmx_error Base::set_PartNumber(const std::u16string& value) { return lmx::set_item(k_class, k_items[item_PartNumber], this, value); }
+lmx::elmx_error Base::set_Density(double value) { return lmx::set_item(k_class, k_items[item_Density], this, value); }
+
+// BaseElementType
+
+namespace {
+constexpr lmx::s_event_map k_BaseElementType_elements[] = {
+    lmx::element_event("Base", element_Base),
+    lmx::element_event("Contribution", element_Contribution),
+    lmx::k_end_of_map,
+};
+}  // namespace
+
+constinit const lmx::s_item BaseElementType::k_items[] = {
+    {lmx::item_kind::child, lmx::value_kind::none, lmx::use_required, lmx::ELMX_WS_PRESERVE, "Vyr:Base", element_Base, LMX_OFFSET(BaseElementType, m_Base, child, none), LMX_FLAG(BaseElementType, m_isset_Base), lmx::position_of(k_BaseElementType_elements, element_Base), lmx::position_of(k_BaseElementType_elements, element_Base, 1), &Base::k_class, nullptr, {}},
+    {lmx::item_kind::element, lmx::value_kind::number, lmx::use_required, lmx::ELMX_WS_COLLAPSE, "Vyr:Contribution", element_Contribution, LMX_OFFSET(BaseElementType, m_Contribution, element, number), LMX_FLAG(BaseElementType, m_isset_Contribution), lmx::position_of(k_BaseElementType_elements, element_Contribution), lmx::position_of(k_BaseElementType_elements, element_Contribution, 1), nullptr, &facets::NonNegative, {}},
+};
+constinit const lmx::s_class BaseElementType::k_class = {
+    .name = "BaseElementType",
+    .qualified_name = "Vyr:BaseElementType",
+    .base = nullptr,
+    .content = lmx::content_kind::children,
+    .may_be_empty = false,
+    .ns_map = k_ns_map,
+    .nil_flag = lmx::k_no_flag,
+    .choice = lmx::k_no_flag,
+    .id = nullptr,
+    .xsi_type = nullptr,
+    .attributes = std::span(k_items).first(std::size(lmx::k_no_events) - 1),
+    .elements = std::span(k_items).subspan(std::size(lmx::k_no_events) - 1),
+    .attribute_map = lmx::k_no_events,
+    .element_map = k_BaseElementType_elements,
+    .operations = &lmx::k_operations<BaseElementType>,
+};
+
+BaseElementType::BaseElementType() = default;
+BaseElementType::BaseElementType(const BaseElementType& other) { lmx::copy(k_class, this, &other); }
+BaseElementType::~BaseElementType() = default;
+BaseElementType& BaseElementType::operator=(const BaseElementType& other) { BaseElementType copy(other); swap(copy); return *this; }
+void BaseElementType::swap(BaseElementType& other) { lmx::swap(k_class, this, &other); }
+void BaseElementType::reset() { BaseElementType fresh; swap(fresh); }
+bool BaseElementType::is_occurs_ok() const { return lmx::is_occurs_ok(k_class, this); }
+lmx::elmx_error BaseElementType::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
+lmx::elmx_error BaseElementType::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
+void BaseElementType::marshal_attributes(lmx::c_xml_writer& writer) const { lmx::marshal_attributes(k_class, this, writer); }
+lmx::elmx_error BaseElementType::marshal_child_elements(lmx::c_xml_writer& writer) const { return lmx::marshal_child_elements(k_class, this, writer); }
+bool BaseElementType::unmarshal_attributes(lmx::c_xml_reader& reader, const std::string& name, lmx::elmx_error* error) { return lmx::unmarshal_attribute(k_class, this, reader, name, error); }
+lmx::elmx_error BaseElementType::unmarshal_attributes_check(lmx::c_xml_reader& reader) { return lmx::check_required_attributes(k_class, this, reader); }
+bool BaseElementType::unmarshal_body(lmx::c_xml_reader& reader, std::string* name, lmx::elmx_error* error) { return lmx::unmarshal_body(k_class, this, reader, name, error); }
+Base& BaseElementType::assign_Base(const Base& value) { return get_Base() = value; }
+lmx::elmx_error BaseElementType::set_Contribution(double value) { return lmx::set_item(k_class, k_items[item_Contribution], this, value); }
+
+// ColorSpaceRecipeType
+
+namespace {
+constexpr lmx::s_event_map k_ColorSpaceRecipeType_attributes[] = {
+    lmx::attribute_event("Name", attribute_Name),
+    lmx::k_end_of_map,
+};
+constexpr lmx::s_event_map k_ColorSpaceRecipeType_elements[] = {
+    lmx::element_event("ColorSpaceSpecificationSpectrumGeneric", element_ColorSpaceSpecificationSpectrumGeneric),
+    lmx::element_event("ColorantElement", element_ColorantElement),
+    lmx::element_event("BaseElement", element_BaseElement),
+    lmx::k_end_of_map,
+};
+}  // namespace
+
+constinit const lmx::s_item ColorSpaceRecipeType::k_items[] = {
+    {lmx::item_kind::attribute, lmx::value_kind::text, lmx::use_optional, lmx::ELMX_WS_PRESERVE, "Name", attribute_Name, LMX_OFFSET(ColorSpaceRecipeType, m_Name, attribute, text), LMX_FLAG(ColorSpaceRecipeType, m_isset_Name), 0, 0, nullptr, nullptr, {}},
+    {lmx::item_kind::child, lmx::value_kind::none, lmx::use_required, lmx::ELMX_WS_PRESERVE, "Vyr:ColorSpaceSpecificationSpectrumGeneric", element_ColorSpaceSpecificationSpectrumGeneric, LMX_OFFSET(ColorSpaceRecipeType, m_ColorSpaceSpecificationSpectrumGeneric, child, none), LMX_FLAG(ColorSpaceRecipeType, m_isset_ColorSpaceSpecificationSpectrumGeneric), lmx::position_of(k_ColorSpaceRecipeType_elements, element_ColorSpaceSpecificationSpectrumGeneric), lmx::position_of(k_ColorSpaceRecipeType_elements, element_ColorSpaceSpecificationSpectrumGeneric, 1), &ColorSpaceSpecificationSpectrumGeneric::k_class, nullptr, {}},
+    {lmx::item_kind::child_list, lmx::value_kind::none, lmx::use_demanded | lmx::use_asked, lmx::ELMX_WS_PRESERVE, "Vyr:ColorantElement", element_ColorantElement, LMX_OFFSET(ColorSpaceRecipeType, m_ColorantElement, child_list, none), lmx::k_no_flag, lmx::position_of(k_ColorSpaceRecipeType_elements, element_ColorantElement), lmx::position_of(k_ColorSpaceRecipeType_elements, element_ColorantElement, 1), &ColorantElementType::k_class, nullptr, {}},
+    {lmx::item_kind::child, lmx::value_kind::none, lmx::use_optional, lmx::ELMX_WS_PRESERVE, "Vyr:BaseElement", element_BaseElement, LMX_OFFSET(ColorSpaceRecipeType, m_BaseElement, child, none), LMX_FLAG(ColorSpaceRecipeType, m_isset_BaseElement), lmx::position_of(k_ColorSpaceRecipeType_elements, element_BaseElement), lmx::position_of(k_ColorSpaceRecipeType_elements, element_BaseElement, 1), &BaseElementType::k_class, nullptr, {}},
+};
+constinit const lmx::s_class ColorSpaceRecipeType::k_class = {
+    .name = "ColorSpaceRecipeType",
+    .qualified_name = "Vyr:ColorSpaceRecipeType",
+    .base = &ColorSpaceType::k_class,
+    .content = lmx::content_kind::children,
+    .may_be_empty = false,
+    .ns_map = k_ns_map,
+    .nil_flag = lmx::k_no_flag,
+    .choice = lmx::k_no_flag,
+    .id = &ColorSpaceRecipeType::id,
+    .xsi_type = "Vyr:ColorSpaceRecipeType",
+    .attributes = std::span(k_items).first(std::size(k_ColorSpaceRecipeType_attributes) - 1),
+    .elements = std::span(k_items).subspan(std::size(k_ColorSpaceRecipeType_attributes) - 1),
+    .attribute_map = k_ColorSpaceRecipeType_attributes,
+    .element_map = k_ColorSpaceRecipeType_elements,
+    .operations = &lmx::k_operations<ColorSpaceRecipeType>,
+};
+
+ColorSpaceRecipeType::ColorSpaceRecipeType() = default;
+ColorSpaceRecipeType::ColorSpaceRecipeType(const ColorSpaceRecipeType& other) : ColorSpaceType() { lmx::copy(k_class, this, &other); }
+ColorSpaceRecipeType::~ColorSpaceRecipeType() = default;
+ColorSpaceRecipeType& ColorSpaceRecipeType::operator=(const ColorSpaceRecipeType& other) { ColorSpaceRecipeType copy(other); swap(copy); return *this; }
+void ColorSpaceRecipeType::swap(ColorSpaceRecipeType& other) { lmx::swap(k_class, this, &other); }
+void ColorSpaceRecipeType::reset() { ColorSpaceRecipeType fresh; swap(fresh); }
+bool ColorSpaceRecipeType::is_occurs_ok() const { return lmx::is_occurs_ok(k_class, this); }
+lmx::elmx_error ColorSpaceRecipeType::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
+lmx::elmx_error ColorSpaceRecipeType::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
+void ColorSpaceRecipeType::marshal_attributes(lmx::c_xml_writer& writer) const { lmx::marshal_attributes(k_class, this, writer); }
+lmx::elmx_error ColorSpaceRecipeType::marshal_child_elements(lmx::c_xml_writer& writer) const { return lmx::marshal_child_elements(k_class, this, writer); }
+bool ColorSpaceRecipeType::unmarshal_attributes(lmx::c_xml_reader& reader, const std::string& name, lmx::elmx_error* error) { return lmx::unmarshal_attribute(k_class, this, reader, name, error); }
+lmx::elmx_error ColorSpaceRecipeType::unmarshal_attributes_check(lmx::c_xml_reader& reader) { return lmx::check_required_attributes(k_class, this, reader); }
+bool ColorSpaceRecipeType::unmarshal_body(lmx::c_xml_reader& reader, std::string* name, lmx::elmx_error* error) { return lmx::unmarshal_body(k_class, this, reader, name, error); }
+namespace { const char k_ColorSpaceRecipeType_id[] = "ColorSpaceRecipeType"; }
+const char* ColorSpaceRecipeType::id = k_ColorSpaceRecipeType_id;
+ColorSpaceRecipeType* ColorSpaceRecipeType::clone() const { return new ColorSpaceRecipeType(*this); }
+const char* ColorSpaceRecipeType::getid() const { return id; }
+bool ColorSpaceRecipeType::has_id(const char* identity) const { return identity == id || ColorSpaceType::has_id(identity); }
+lmx::elmx_error ColorSpaceRecipeType::set_Name(const std::u16string& value) { return lmx::set_item(k_class, k_items[item_Name], this, value); }
+ColorSpaceSpecificationSpectrumGeneric& ColorSpaceRecipeType::assign_ColorSpaceSpecificationSpectrumGeneric(const ColorSpaceSpecificationSpectrumGeneric& value) { return get_ColorSpaceSpecificationSpectrumGeneric() = value; }
+ColorantElementType& ColorSpaceRecipeType::get_ColorantElement(std::size_t index) { return m_ColorantElement.grow_to(index); }
+ColorantElementType& ColorSpaceRecipeType::assign_ColorantElement(std::size_t index, const ColorantElementType& value) { return get_ColorantElement(index) = value; }
+lmx::elmx_error ColorSpaceRecipeType::append_ColorantElement() { m_ColorantElement.append(); return lmx::ELMX_OK; }
+lmx::elmx_error ColorSpaceRecipeType::insert_ColorantElement(std::size_t index) { m_ColorantElement.insert(index); return lmx::ELMX_OK; }
+void ColorSpaceRecipeType::delete_ColorantElement(std::size_t index) { m_ColorantElement.erase(index); }
+void ColorSpaceRecipeType::clear_ColorantElement() { m_ColorantElement.clear(); }
+BaseElementType& ColorSpaceRecipeType::assign_BaseElement(const BaseElementType& value) { return get_BaseElement() = value; }
+
+// ColorSpaceRecipe
+
+lmx::elmx_error ColorSpaceRecipe::marshal(lmx::c_xml_writer& writer, const char* name) const {
+    writer.conditionally_select_ns_map(k_ns_map);
+    return ColorSpaceRecipeType::marshal(writer, name);
+}
+lmx::elmx_error ColorSpaceRecipe::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return ColorSpaceRecipeType::unmarshal(reader, name); }
+const lmx::s_document ColorSpaceRecipe::k_document = {"Vyr:ColorSpaceRecipe", "ColorSpaceRecipe", k_ns_map, &lmx::k_operations<ColorSpaceRecipe>};
+const lmx::s_ns_map* ColorSpaceRecipe::ns_map() { return k_ns_map; }
+lmx::elmx_error ColorSpaceRecipe::unmarshal(lmx::c_xml_reader& reader) { return lmx::unmarshal_document(k_document, this, reader); }
+ColorSpaceRecipe::ColorSpaceRecipe(const char* file_name, lmx::elmx_error* error) : ColorSpaceRecipe() { *error = unmarshal(file_name); }
+lmx::elmx_error ColorSpaceRecipe::unmarshal(const char* file_name) { return lmx::unmarshal_document(k_document, this, file_name); }
+ColorSpaceRecipe::ColorSpaceRecipe(const char* data, std::size_t size, lmx::elmx_error* error) : ColorSpaceRecipe() { *error = unmarshal(data, size); }
+lmx::elmx_error ColorSpaceRecipe::unmarshal(const char* data, std::size_t size) { return lmx::unmarshal_document(k_document, this, data, size); }
+ColorSpaceRecipe::ColorSpaceRecipe(const std::string& text, lmx::elmx_error* error) : ColorSpaceRecipe() { *error = unmarshal(text.data(), text.size()); }
+lmx::elmx_error ColorSpaceRecipe::unmarshal(const std::string& text) { return lmx::unmarshal_document(k_document, this, text.data(), text.size()); }
+lmx::elmx_error ColorSpaceRecipe::marshal(const char* file_name) const { return lmx::marshal_document(k_document, this, file_name); }
+lmx::elmx_error ColorSpaceRecipe::marshal(std::string* text) const { return lmx::marshal_document(k_document, this, text); }
+lmx::elmx_error ColorSpaceRecipe::marshal(std::ostream& stream) const { return lmx::marshal_document(k_document, this, stream); }
+
+// ColorSpaceTINTORA
+
+lmx::elmx_error ColorSpaceTINTORA::marshal(lmx::c_xml_writer& writer, const char* name) const {
+    writer.conditionally_select_ns_map(k_ns_map);
+    return ColorSpaceTINTORAType::marshal(writer, name);
+}
+lmx::elmx_error ColorSpaceTINTORA::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return ColorSpaceTINTORAType::unmarshal(reader, name); }
+const lmx::s_document ColorSpaceTINTORA::k_document = {"Vyr:ColorSpaceTINTORA", "ColorSpaceTINTORA", k_ns_map, &lmx::k_operations<ColorSpaceTINTORA>};
+const lmx::s_ns_map* ColorSpaceTINTORA::ns_map() { return k_ns_map; }
+lmx::elmx_error ColorSpaceTINTORA::unmarshal(lmx::c_xml_reader& reader) { return lmx::unmarshal_document(k_document, this, reader); }
+ColorSpaceTINTORA::ColorSpaceTINTORA(const char* file_name, lmx::elmx_error* error) : ColorSpaceTINTORA() { *error = unmarshal(file_name); }
+lmx::elmx_error ColorSpaceTINTORA::unmarshal(const char* file_name) { return lmx::unmarshal_document(k_document, this, file_name); }
+ColorSpaceTINTORA::ColorSpaceTINTORA(const char* data, std::size_t size, lmx::elmx_error* error) : ColorSpaceTINTORA() { *error = unmarshal(data, size); }
+lmx::elmx_error ColorSpaceTINTORA::unmarshal(const char* data, std::size_t size) { return lmx::unmarshal_document(k_document, this, data, size); }
+ColorSpaceTINTORA::ColorSpaceTINTORA(const std::string& text, lmx::elmx_error* error) : ColorSpaceTINTORA() { *error = unmarshal(text.data(), text.size()); }
+lmx::elmx_error ColorSpaceTINTORA::unmarshal(const std::string& text) { return lmx::unmarshal_document(k_document, this, text.data(), text.size()); }
+lmx::elmx_error ColorSpaceTINTORA::marshal(const char* file_name) const { return lmx::marshal_document(k_document, this, file_name); }
+lmx::elmx_error ColorSpaceTINTORA::marshal(std::string* text) const { return lmx::marshal_document(k_document, this, text); }
+lmx::elmx_error ColorSpaceTINTORA::marshal(std::ostream& stream) const { return lmx::marshal_document(k_document, this, stream); }
+
+// ColorSpaceNCS
+
+lmx::elmx_error ColorSpaceNCS::marshal(lmx::c_xml_writer& writer, const char* name) const {
+    writer.conditionally_select_ns_map(k_ns_map);
+    return ColorSpaceNCSType::marshal(writer, name);
+}
+lmx::elmx_error ColorSpaceNCS::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return ColorSpaceNCSType::unmarshal(reader, name); }
+const lmx::s_document ColorSpaceNCS::k_document = {"Vyr:ColorSpaceNCS", "ColorSpaceNCS", k_ns_map, &lmx::k_operations<ColorSpaceNCS>};
+const lmx::s_ns_map* ColorSpaceNCS::ns_map() { return k_ns_map; }
+lmx::elmx_error ColorSpaceNCS::unmarshal(lmx::c_xml_reader& reader) { return lmx::unmarshal_document(k_document, this, reader); }
+ColorSpaceNCS::ColorSpaceNCS(const char* file_name, lmx::elmx_error* error) : ColorSpaceNCS() { *error = unmarshal(file_name); }
+lmx::elmx_error ColorSpaceNCS::unmarshal(const char* file_name) { return lmx::unmarshal_document(k_document, this, file_name); }
+ColorSpaceNCS::ColorSpaceNCS(const char* data, std::size_t size, lmx::elmx_error* error) : ColorSpaceNCS() { *error = unmarshal(data, size); }
+lmx::elmx_error ColorSpaceNCS::unmarshal(const char* data, std::size_t size) { return lmx::unmarshal_document(k_document, this, data, size); }
+ColorSpaceNCS::ColorSpaceNCS(const std::string& text, lmx::elmx_error* error) : ColorSpaceNCS() { *error = unmarshal(text.data(), text.size()); }
+lmx::elmx_error ColorSpaceNCS::unmarshal(const std::string& text) { return lmx::unmarshal_document(k_document, this, text.data(), text.size()); }
+lmx::elmx_error ColorSpaceNCS::marshal(const char* file_name) const { return lmx::marshal_document(k_document, this, file_name); }
+lmx::elmx_error ColorSpaceNCS::marshal(std::string* text) const { return lmx::marshal_document(k_document, this, text); }
+lmx::elmx_error ColorSpaceNCS::marshal(std::ostream& stream) const { return lmx::marshal_document(k_document, this, stream); }
+
+// ColorSpaceMunsell
+
+lmx::elmx_error ColorSpaceMunsell::marshal(lmx::c_xml_writer& writer, const char* name) const {
+    writer.conditionally_select_ns_map(k_ns_map);
+    return ColorSpaceMunsellType::marshal(writer, name);
+}
+lmx::elmx_error ColorSpaceMunsell::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return ColorSpaceMunsellType::unmarshal(reader, name); }
+const lmx::s_document ColorSpaceMunsell::k_document = {"Vyr:ColorSpaceMunsell", "ColorSpaceMunsell", k_ns_map, &lmx::k_operations<ColorSpaceMunsell>};
+const lmx::s_ns_map* ColorSpaceMunsell::ns_map() { return k_ns_map; }
+lmx::elmx_error ColorSpaceMunsell::unmarshal(lmx::c_xml_reader& reader) { return lmx::unmarshal_document(k_document, this, reader); }
+ColorSpaceMunsell::ColorSpaceMunsell(const char* file_name, lmx::elmx_error* error) : ColorSpaceMunsell() { *error = unmarshal(file_name); }
+lmx::elmx_error ColorSpaceMunsell::unmarshal(const char* file_name) { return lmx::unmarshal_document(k_document, this, file_name); }
+ColorSpaceMunsell::ColorSpaceMunsell(const char* data, std::size_t size, lmx::elmx_error* error) : ColorSpaceMunsell() { *error = unmarshal(data, size); }
+lmx::elmx_error ColorSpaceMunsell::unmarshal(const char* data, std::size_t size) { return lmx::unmarshal_document(k_document, this, data, size); }
+ColorSpaceMunsell::ColorSpaceMunsell(const std::string& text, lmx::elmx_error* error) : ColorSpaceMunsell() { *error = unmarshal(text.data(), text.size()); }
+lmx::elmx_error ColorSpaceMunsell::unmarshal(const std::string& text) { return lmx::unmarshal_document(k_document, this, text.data(), text.size()); }
+lmx::elmx_error ColorSpaceMunsell::marshal(const char* file_name) const { return lmx::marshal_document(k_document, this, file_name); }
+lmx::elmx_error ColorSpaceMunsell::marshal(std::string* text) const { return lmx::marshal_document(k_document, this, text); }
+lmx::elmx_error ColorSpaceMunsell::marshal(std::ostream& stream) const { return lmx::marshal_document(k_document, this, stream); }
+
+// Density
+
+constinit const lmx::s_item Density::k_items[] = {
+    {lmx::item_kind::content, lmx::value_kind::number, lmx::use_required, lmx::ELMX_WS_COLLAPSE, "", 0, LMX_OFFSET(Density, m_Density, content, number), LMX_FLAG(Density, m_isset_Density), 0, 0, nullptr, &facets::Positive, {}},
+};
+constinit const lmx::s_class Density::k_class = {
+    .name = "Density",
+    .qualified_name = "Vyr:Density",
+    .base = nullptr,
+    .content = lmx::content_kind::simple,
+    .may_be_empty = false,
+    .ns_map = nullptr,
+    .nil_flag = LMX_FLAG(Density, m_isnil),
+    .choice = lmx::k_no_flag,
+    .id = nullptr,
+    .xsi_type = nullptr,
+    .attributes = std::span(k_items).first(std::size(lmx::k_no_events) - 1),
+    .elements = std::span(k_items).subspan(std::size(lmx::k_no_events) - 1),
+    .attribute_map = lmx::k_no_events,
+    .element_map = lmx::k_no_events,
+    .operations = &lmx::k_operations<Density>,
+};
+
+Density::Density() = default;
+Density::Density(const Density& other) { lmx::copy(k_class, this, &other); }
+Density::~Density() = default;
+Density& Density::operator=(const Density& other) { Density copy(other); swap(copy); return *this; }
+void Density::swap(Density& other) { lmx::swap(k_class, this, &other); }
+void Density::reset() { Density fresh; swap(fresh); }
+bool Density::is_occurs_ok() const { return lmx::is_occurs_ok(k_class, this); }
+lmx::elmx_error Density::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
+lmx::elmx_error Density::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
+void Density::marshal_attributes(lmx::c_xml_writer& writer) const { lmx::marshal_attributes(k_class, this, writer); }
+lmx::elmx_error Density::marshal_child_elements(lmx::c_xml_writer& writer) const { return lmx::marshal_child_elements(k_class, this, writer); }
+bool Density::unmarshal_attributes(lmx::c_xml_reader& reader, const std::string& name, lmx::elmx_error* error) { return lmx::unmarshal_attribute(k_class, this, reader, name, error); }
+lmx::elmx_error Density::unmarshal_attributes_check(lmx::c_xml_reader& reader) { return lmx::check_required_attributes(k_class, this, reader); }
+bool Density::unmarshal_body(lmx::c_xml_reader& reader, std::string* name, lmx::elmx_error* error, bool has_body) { return lmx::unmarshal_content(k_class, this, reader, name, error, has_body); }
+lmx::elmx_error Density::set_Density(double value) { return lmx::set_item(k_class, k_items[item_Density], this, value); }
+
+// ColorantElementType_Colorant
+
+namespace {
+constexpr lmx::s_event_map k_ColorantElementType_Colorant_elements[] = {
+    lmx::element_event("CustomAttribute", element_CustomAttribute),
+    lmx::element_event("Name", element_Name),
+    lmx::element_event("Manufacturer", element_Manufacturer),
+    lmx::element_event("PartNumber", element_PartNumber),
+    lmx::element_event("Density", element_Density),
+    lmx::k_end_of_map,
+};
+}  // namespace
+
+constinit const lmx::s_item ColorantElementType_Colorant::k_items[] = {
+    {lmx::item_kind::child_list, lmx::value_kind::none, lmx::use_optional, lmx::ELMX_WS_PRESERVE, "Vyr:CustomAttribute", element_CustomAttribute, LMX_OFFSET(ColorantElementType_Colorant, m_CustomAttribute, child_list, none), lmx::k_no_flag, lmx::position_of(k_ColorantElementType_Colorant_elements, element_CustomAttribute), lmx::position_of(k_ColorantElementType_Colorant_elements, element_CustomAttribute, 1), &CustomAttributeType::k_class, nullptr, {}},
+    {lmx::item_kind::element, lmx::value_kind::text, lmx::use_required, lmx::ELMX_WS_PRESERVE, "Vyr:Name", element_Name, LMX_OFFSET(ColorantElementType_Colorant, m_Name, element, text), LMX_FLAG(ColorantElementType_Colorant, m_isset_Name), lmx::position_of(k_ColorantElementType_Colorant_elements, element_Name), lmx::position_of(k_ColorantElementType_Colorant_elements, element_Name, 1), nullptr, &facets::NonEmptyString, {}},
+    {lmx::item_kind::element, lmx::value_kind::text, lmx::use_required, lmx::ELMX_WS_PRESERVE, "Vyr:Manufacturer", element_Manufacturer, LMX_OFFSET(ColorantElementType_Colorant, m_Manufacturer, element, text), LMX_FLAG(ColorantElementType_Colorant, m_isset_Manufacturer), lmx::position_of(k_ColorantElementType_Colorant_elements, element_Manufacturer), lmx::position_of(k_ColorantElementType_Colorant_elements, element_Manufacturer, 1), nullptr, &facets::NonEmptyString, {}},
+    {lmx::item_kind::element, lmx::value_kind::text, lmx::use_required, lmx::ELMX_WS_PRESERVE, "Vyr:PartNumber", element_PartNumber, LMX_OFFSET(ColorantElementType_Colorant, m_PartNumber, element, text), LMX_FLAG(ColorantElementType_Colorant, m_isset_PartNumber), lmx::position_of(k_ColorantElementType_Colorant_elements, element_PartNumber), lmx::position_of(k_ColorantElementType_Colorant_elements, element_PartNumber, 1), nullptr, &facets::NonEmptyString, {}},
+    {lmx::item_kind::child, lmx::value_kind::none, lmx::use_required, lmx::ELMX_WS_PRESERVE, "Vyr:Density", element_Density, LMX_OFFSET(ColorantElementType_Colorant, m_Density, child, none), LMX_FLAG(ColorantElementType_Colorant, m_isset_Density), lmx::position_of(k_ColorantElementType_Colorant_elements, element_Density), lmx::position_of(k_ColorantElementType_Colorant_elements, element_Density, 1), &Density::k_class, nullptr, {}},
+};
+constinit const lmx::s_class ColorantElementType_Colorant::k_class = {
+    .name = "ColorantElementType_Colorant",
+    .qualified_name = "Vyr:Colorant",
+    .base = nullptr,
+    .content = lmx::content_kind::children,
+    .may_be_empty = false,
+    .ns_map = nullptr,
+    .nil_flag = lmx::k_no_flag,
+    .choice = lmx::k_no_flag,
+    .id = nullptr,
+    .xsi_type = nullptr,
+    .attributes = std::span(k_items).first(std::size(lmx::k_no_events) - 1),
+    .elements = std::span(k_items).subspan(std::size(lmx::k_no_events) - 1),
+    .attribute_map = lmx::k_no_events,
+    .element_map = k_ColorantElementType_Colorant_elements,
+    .operations = &lmx::k_operations<ColorantElementType_Colorant>,
+};
+
+ColorantElementType_Colorant::ColorantElementType_Colorant() = default;
+ColorantElementType_Colorant::ColorantElementType_Colorant(const ColorantElementType_Colorant& other) { lmx::copy(k_class, this, &other); }
+ColorantElementType_Colorant::~ColorantElementType_Colorant() = default;
+ColorantElementType_Colorant& ColorantElementType_Colorant::operator=(const ColorantElementType_Colorant& other) { ColorantElementType_Colorant copy(other); swap(copy); return *this; }
+void ColorantElementType_Colorant::swap(ColorantElementType_Colorant& other) { lmx::swap(k_class, this, &other); }
+void ColorantElementType_Colorant::reset() { ColorantElementType_Colorant fresh; swap(fresh); }
+bool ColorantElementType_Colorant::is_occurs_ok() const { return lmx::is_occurs_ok(k_class, this); }
+lmx::elmx_error ColorantElementType_Colorant::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
+lmx::elmx_error ColorantElementType_Colorant::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
+void ColorantElementType_Colorant::marshal_attributes(lmx::c_xml_writer& writer) const { lmx::marshal_attributes(k_class, this, writer); }
+lmx::elmx_error ColorantElementType_Colorant::marshal_child_elements(lmx::c_xml_writer& writer) const { return lmx::marshal_child_elements(k_class, this, writer); }
+bool ColorantElementType_Colorant::unmarshal_attributes(lmx::c_xml_reader& reader, const std::string& name, lmx::elmx_error* error) { return lmx::unmarshal_attribute(k_class, this, reader, name, error); }
+lmx::elmx_error ColorantElementType_Colorant::unmarshal_attributes_check(lmx::c_xml_reader& reader) { return lmx::check_required_attributes(k_class, this, reader); }
+bool ColorantElementType_Colorant::unmarshal_body(lmx::c_xml_reader& reader, std::string* name, lmx::elmx_error* error) { return lmx::unmarshal_body(k_class, this, reader, name, error); }
+CustomAttributeType& ColorantElementType_Colorant::get_CustomAttribute(std::size_t index) { return m_CustomAttribute.grow_to(index); }
+CustomAttributeType& ColorantElementType_Colorant::assign_CustomAttribute(std::size_t index, const CustomAttributeType& value) { return get_CustomAttribute(index) = value; }
+lmx::elmx_error ColorantElementType_Colorant::append_CustomAttribute() { m_CustomAttribute.append(); return lmx::ELMX_OK; }
+lmx::elmx_error ColorantElementType_Colorant::insert_CustomAttribute(std::size_t index) { m_CustomAttribute.insert(index); return lmx::ELMX_OK; }
+void ColorantElementType_Colorant::delete_CustomAttribute(std::size_t index) { m_CustomAttribute.erase(index); }
+void ColorantElementType_Colorant::clear_CustomAttribute() { m_CustomAttribute.clear(); }
+lmx::elmx_error ColorantElementType_Colorant::set_Name(const std::u16string& value) { return lmx::set_item(k_class, k_items[item_Name], this, value); }
+lmx::elmx_error ColorantElementType_Colorant::set_Manufacturer(const std::u16string& value) { return lmx::set_item(k_class, k_items[item_Manufacturer], this, value); }
+lmx::elmx_error ColorantElementType_Colorant::set_PartNumber(const std::u16string& value) { return lmx::set_item(k_class, k_items[item_PartNumber], this, value); }
+Density& ColorantElementType_Colorant::assign_Density(const Density& value) { return get_Density() = value; }
+
+// ColorantElementType
+
+namespace {
+constexpr lmx::s_event_map k_ColorantElementType_elements[] = {
+    lmx::element_event("Colorant", element_Colorant),
+    lmx::element_event("Contribution", element_Contribution),
+    lmx::k_end_of_map,
+};
+}  // namespace
+
+constinit const lmx::s_item ColorantElementType::k_items[] = {
+    {lmx::item_kind::child, lmx::value_kind::none, lmx::use_required, lmx::ELMX_WS_PRESERVE, "Vyr:Colorant", element_Colorant, LMX_OFFSET(ColorantElementType, m_Colorant, child, none), LMX_FLAG(ColorantElementType, m_isset_Colorant), lmx::position_of(k_ColorantElementType_elements, element_Colorant), lmx::position_of(k_ColorantElementType_elements, element_Colorant, 1), &ColorantElementType_Colorant::k_class, nullptr, {}},
+    {lmx::item_kind::element, lmx::value_kind::number, lmx::use_required, lmx::ELMX_WS_COLLAPSE, "Vyr:Contribution", element_Contribution, LMX_OFFSET(ColorantElementType, m_Contribution, element, number), LMX_FLAG(ColorantElementType, m_isset_Contribution), lmx::position_of(k_ColorantElementType_elements, element_Contribution), lmx::position_of(k_ColorantElementType_elements, element_Contribution, 1), nullptr, &facets::Fraction, {}},
+};
+constinit const lmx::s_class ColorantElementType::k_class = {
+    .name = "ColorantElementType",
+    .qualified_name = "Vyr:ColorantElementType",
+    .base = nullptr,
+    .content = lmx::content_kind::children,
+    .may_be_empty = false,
+    .ns_map = k_ns_map,
+    .nil_flag = lmx::k_no_flag,
+    .choice = lmx::k_no_flag,
+    .id = nullptr,
+    .xsi_type = nullptr,
+    .attributes = std::span(k_items).first(std::size(lmx::k_no_events) - 1),
+    .elements = std::span(k_items).subspan(std::size(lmx::k_no_events) - 1),
+    .attribute_map = lmx::k_no_events,
+    .element_map = k_ColorantElementType_elements,
+    .operations = &lmx::k_operations<ColorantElementType>,
+};
+
+ColorantElementType::ColorantElementType() = default;
+ColorantElementType::ColorantElementType(const ColorantElementType& other) { lmx::copy(k_class, this, &other); }
+ColorantElementType::~ColorantElementType() = default;
+ColorantElementType& ColorantElementType::operator=(const ColorantElementType& other) { ColorantElementType copy(other); swap(copy); return *this; }
+void ColorantElementType::swap(ColorantElementType& other) { lmx::swap(k_class, this, &other); }
+void ColorantElementType::reset() { ColorantElementType fresh; swap(fresh); }
+bool ColorantElementType::is_occurs_ok() const { return lmx::is_occurs_ok(k_class, this); }
+lmx::elmx_error ColorantElementType::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
+lmx::elmx_error ColorantElementType::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
+void ColorantElementType::marshal_attributes(lmx::c_xml_writer& writer) const { lmx::marshal_attributes(k_class, this, writer); }
+lmx::elmx_error ColorantElementType::marshal_child_elements(lmx::c_xml_writer& writer) const { return lmx::marshal_child_elements(k_class, this, writer); }
+bool ColorantElementType::unmarshal_attributes(lmx::c_xml_reader& reader, const std::string& name, lmx::elmx_error* error) { return lmx::unmarshal_attribute(k_class, this, reader, name, error); }
+lmx::elmx_error ColorantElementType::unmarshal_attributes_check(lmx::c_xml_reader& reader) { return lmx::check_required_attributes(k_class, this, reader); }
+bool ColorantElementType::unmarshal_body(lmx::c_xml_reader& reader, std::string* name, lmx::elmx_error* error) { return lmx::unmarshal_body(k_class, this, reader, name, error); }
+ColorantElementType_Colorant& ColorantElementType::assign_Colorant(const ColorantElementType_Colorant& value) { return get_Colorant() = value; }
+lmx::elmx_error ColorantElementType::set_Contribution(double value) { return lmx::set_item(k_class, k_items[item_Contribution], this, value); }
+
+}  // namespace com_vyrgraph_v2

@@ -1,0 +1,755 @@
+// Copyright 2026 The Vyr Authors
+// SPDX-License-Identifier: Apache-2.0
+//
+// Made by schema/generator/generate.py from schema/vyr.xsd and schema/binding.toml. Change those instead.
+// clang-format off
+
+/// Tables and members of the classes in sampled_color_values.h.
+
+#include "schema/generated/sampled_color_values.h"
+#include "lmx/binding/binding.h"
+#include "lmx/binding/rows.h"
+#include "schema/generated/color_values.h"
+#include "schema/generated/specifications.h"
+#include "schema/generated/tables.h"
+
+// Offsets of members of classes with virtual functions: both compilers define them, and the macros check them.
+#pragma GCC diagnostic ignored "-Winvalid-offsetof"
+
+namespace com_vyrgraph_v2 {
+
+static_assert(lmx::k_binding_version == 1, "run schema/generator/generate.py");
+
+// ColorSpaceDensityType
+
+namespace {
+constexpr lmx::s_event_map k_ColorSpaceDensityType_attributes[] = {
+    lmx::attribute_event("Name", attribute_Name),
+    lmx::k_end_of_map,
+};
+constexpr lmx::s_event_map k_ColorSpaceDensityType_elements[] = {
+    lmx::element_event("ColorSpaceSpecificationSpectrumGeneric", element_ColorSpaceSpecificationSpectrumGeneric),
+    lmx::element_event("Density", element_Density),
+    lmx::k_end_of_map,
+};
+}  // namespace
+
+constinit const lmx::s_item ColorSpaceDensityType::k_items[] = {
+    {lmx::item_kind::attribute, lmx::value_kind::text, lmx::use_optional, lmx::ELMX_WS_PRESERVE, "Name", attribute_Name, LMX_OFFSET(ColorSpaceDensityType, m_Name, attribute, text), LMX_FLAG(ColorSpaceDensityType, m_isset_Name), 0, 0, nullptr, nullptr, {}},
+    {lmx::item_kind::child, lmx::value_kind::none, lmx::use_required, lmx::ELMX_WS_PRESERVE, "Vyr:ColorSpaceSpecificationSpectrumGeneric", element_ColorSpaceSpecificationSpectrumGeneric, LMX_OFFSET(ColorSpaceDensityType, m_ColorSpaceSpecificationSpectrumGeneric, child, none), LMX_FLAG(ColorSpaceDensityType, m_isset_ColorSpaceSpecificationSpectrumGeneric), lmx::position_of(k_ColorSpaceDensityType_elements, element_ColorSpaceSpecificationSpectrumGeneric), lmx::position_of(k_ColorSpaceDensityType_elements, element_ColorSpaceSpecificationSpectrumGeneric, 1), &ColorSpaceSpecificationSpectrumGeneric::k_class, nullptr, {}},
+    {lmx::item_kind::child_list, lmx::value_kind::none, lmx::use_demanded | lmx::use_asked, lmx::ELMX_WS_PRESERVE, "Vyr:Density", element_Density, LMX_OFFSET(ColorSpaceDensityType, m_Density, child_list, none), lmx::k_no_flag, lmx::position_of(k_ColorSpaceDensityType_elements, element_Density), lmx::position_of(k_ColorSpaceDensityType_elements, element_Density, 1), &DensityType::k_class, nullptr, {}},
+};
+constinit const lmx::s_class ColorSpaceDensityType::k_class = {
+    .name = "ColorSpaceDensityType",
+    .qualified_name = "Vyr:ColorSpaceDensityType",
+    .base = &ColorSpaceType::k_class,
+    .content = lmx::content_kind::children,
+    .may_be_empty = false,
+    .ns_map = k_ns_map,
+    .nil_flag = lmx::k_no_flag,
+    .choice = lmx::k_no_flag,
+    .id = &ColorSpaceDensityType::id,
+    .xsi_type = "Vyr:ColorSpaceDensityType",
+    .attributes = std::span(k_items).first(std::size(k_ColorSpaceDensityType_attributes) - 1),
+    .elements = std::span(k_items).subspan(std::size(k_ColorSpaceDensityType_attributes) - 1),
+    .attribute_map = k_ColorSpaceDensityType_attributes,
+    .element_map = k_ColorSpaceDensityType_elements,
+    .operations = &lmx::k_operations<ColorSpaceDensityType>,
+};
+
+ColorSpaceDensityType::ColorSpaceDensityType() = default;
+ColorSpaceDensityType::ColorSpaceDensityType(const ColorSpaceDensityType& other) : ColorSpaceType() { lmx::copy(k_class, this, &other); }
+ColorSpaceDensityType::~ColorSpaceDensityType() = default;
+ColorSpaceDensityType& ColorSpaceDensityType::operator=(const ColorSpaceDensityType& other) { ColorSpaceDensityType copy(other); swap(copy); return *this; }
+void ColorSpaceDensityType::swap(ColorSpaceDensityType& other) { lmx::swap(k_class, this, &other); }
+void ColorSpaceDensityType::reset() { ColorSpaceDensityType fresh; swap(fresh); }
+bool ColorSpaceDensityType::is_occurs_ok() const { return lmx::is_occurs_ok(k_class, this); }
+lmx::elmx_error ColorSpaceDensityType::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
+lmx::elmx_error ColorSpaceDensityType::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
+void ColorSpaceDensityType::marshal_attributes(lmx::c_xml_writer& writer) const { lmx::marshal_attributes(k_class, this, writer); }
+lmx::elmx_error ColorSpaceDensityType::marshal_child_elements(lmx::c_xml_writer& writer) const { return lmx::marshal_child_elements(k_class, this, writer); }
+bool ColorSpaceDensityType::unmarshal_attributes(lmx::c_xml_reader& reader, const std::string& name, lmx::elmx_error* error) { return lmx::unmarshal_attribute(k_class, this, reader, name, error); }
+lmx::elmx_error ColorSpaceDensityType::unmarshal_attributes_check(lmx::c_xml_reader& reader) { return lmx::check_required_attributes(k_class, this, reader); }
+bool ColorSpaceDensityType::unmarshal_body(lmx::c_xml_reader& reader, std::string* name, lmx::elmx_error* error) { return lmx::unmarshal_body(k_class, this, reader, name, error); }
+namespace { const char k_ColorSpaceDensityType_id[] = "ColorSpaceDensityType"; }
+const char* ColorSpaceDensityType::id = k_ColorSpaceDensityType_id;
+ColorSpaceDensityType* ColorSpaceDensityType::clone() const { return new ColorSpaceDensityType(*this); }
+const char* ColorSpaceDensityType::getid() const { return id; }
+bool ColorSpaceDensityType::has_id(const char* identity) const { return identity == id || ColorSpaceType::has_id(identity); }
+lmx::elmx_error ColorSpaceDensityType::set_Name(const std::u16string& value) { return lmx::set_item(k_class, k_items[item_Name], this, value); }
+ColorSpaceSpecificationSpectrumGeneric& ColorSpaceDensityType::assign_ColorSpaceSpecificationSpectrumGeneric(const ColorSpaceSpecificationSpectrumGeneric& value) { return get_ColorSpaceSpecificationSpectrumGeneric() = value; }
+DensityType& ColorSpaceDensityType::get_Density(std::size_t index) { return m_Density.grow_to(index); }
+DensityType& ColorSpaceDensityType::assign_Density(std::size_t index, const DensityType& value) { return get_Density(index) = value; }
+lmx::elmx_error ColorSpaceDensityType::append_Density() { m_Density.append(); return lmx::ELMX_OK; }
+lmx::elmx_error ColorSpaceDensityType::insert_Density(std::size_t index) { m_Density.insert(index); return lmx::ELMX_OK; }
+void ColorSpaceDensityType::delete_Density(std::size_t index) { m_Density.erase(index); }
+void ColorSpaceDensityType::clear_Density() { m_Density.clear(); }
+
+// ColorSpaceSpectralType
+
+namespace {
+constexpr lmx::s_event_map k_ColorSpaceSpectralType_attributes[] = {
+    lmx::attribute_event("Name", attribute_Name),
+    lmx::k_end_of_map,
+};
+constexpr lmx::s_event_map k_ColorSpaceSpectralType_elements[] = {
+    lmx::element_event("ColorSpaceSpecificationSpectrumSpectral", element_ColorSpaceSpecificationSpectrumSpectral),
+    lmx::element_event("ReflectancePoint", element_ReflectancePoint),
+    lmx::k_end_of_map,
+};
+}  // namespace
+
+constinit const lmx::s_item ColorSpaceSpectralType::k_items[] = {
+    {lmx::item_kind::attribute, lmx::value_kind::text, lmx::use_optional, lmx::ELMX_WS_PRESERVE, "Name", attribute_Name, LMX_OFFSET(ColorSpaceSpectralType, m_Name, attribute, text), LMX_FLAG(ColorSpaceSpectralType, m_isset_Name), 0, 0, nullptr, nullptr, {}},
+    {lmx::item_kind::child, lmx::value_kind::none, lmx::use_required, lmx::ELMX_WS_PRESERVE, "Vyr:ColorSpaceSpecificationSpectrumSpectral", element_ColorSpaceSpecificationSpectrumSpectral, LMX_OFFSET(ColorSpaceSpectralType, m_ColorSpaceSpecificationSpectrumSpectral, child, none), LMX_FLAG(ColorSpaceSpectralType, m_isset_ColorSpaceSpecificationSpectrumSpectral), lmx::position_of(k_ColorSpaceSpectralType_elements, element_ColorSpaceSpecificationSpectrumSpectral), lmx::position_of(k_ColorSpaceSpectralType_elements, element_ColorSpaceSpecificationSpectrumSpectral, 1), &ColorSpaceSpecificationSpectrumSpectral::k_class, nullptr, {}},
+    {lmx::item_kind::child_list, lmx::value_kind::none, lmx::use_demanded | lmx::use_asked, lmx::ELMX_WS_PRESERVE, "Vyr:ReflectancePoint", element_ReflectancePoint, LMX_OFFSET(ColorSpaceSpectralType, m_ReflectancePoint, child_list, none), lmx::k_no_flag, lmx::position_of(k_ColorSpaceSpectralType_elements, element_ReflectancePoint), lmx::position_of(k_ColorSpaceSpectralType_elements, element_ReflectancePoint, 1), &ReflectancePointType::k_class, nullptr, {}},
+};
+constinit const lmx::s_class ColorSpaceSpectralType::k_class = {
+    .name = "ColorSpaceSpectralType",
+    .qualified_name = "Vyr:ColorSpaceSpectralType",
+    .base = &ColorSpaceType::k_class,
+    .content = lmx::content_kind::children,
+    .may_be_empty = false,
+    .ns_map = k_ns_map,
+    .nil_flag = lmx::k_no_flag,
+    .choice = lmx::k_no_flag,
+    .id = &ColorSpaceSpectralType::id,
+    .xsi_type = "Vyr:ColorSpaceSpectralType",
+    .attributes = std::span(k_items).first(std::size(k_ColorSpaceSpectralType_attributes) - 1),
+    .elements = std::span(k_items).subspan(std::size(k_ColorSpaceSpectralType_attributes) - 1),
+    .attribute_map = k_ColorSpaceSpectralType_attributes,
+    .element_map = k_ColorSpaceSpectralType_elements,
+    .operations = &lmx::k_operations<ColorSpaceSpectralType>,
+};
+
+ColorSpaceSpectralType::ColorSpaceSpectralType() = default;
+ColorSpaceSpectralType::ColorSpaceSpectralType(const ColorSpaceSpectralType& other) : ColorSpaceType() { lmx::copy(k_class, this, &other); }
+ColorSpaceSpectralType::~ColorSpaceSpectralType() = default;
+ColorSpaceSpectralType& ColorSpaceSpectralType::operator=(const ColorSpaceSpectralType& other) { ColorSpaceSpectralType copy(other); swap(copy); return *this; }
+void ColorSpaceSpectralType::swap(ColorSpaceSpectralType& other) { lmx::swap(k_class, this, &other); }
+void ColorSpaceSpectralType::reset() { ColorSpaceSpectralType fresh; swap(fresh); }
+bool ColorSpaceSpectralType::is_occurs_ok() const { return lmx::is_occurs_ok(k_class, this); }
+lmx::elmx_error ColorSpaceSpectralType::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
+lmx::elmx_error ColorSpaceSpectralType::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
+void ColorSpaceSpectralType::marshal_attributes(lmx::c_xml_writer& writer) const { lmx::marshal_attributes(k_class, this, writer); }
+lmx::elmx_error ColorSpaceSpectralType::marshal_child_elements(lmx::c_xml_writer& writer) const { return lmx::marshal_child_elements(k_class, this, writer); }
+bool ColorSpaceSpectralType::unmarshal_attributes(lmx::c_xml_reader& reader, const std::string& name, lmx::elmx_error* error) { return lmx::unmarshal_attribute(k_class, this, reader, name, error); }
+lmx::elmx_error ColorSpaceSpectralType::unmarshal_attributes_check(lmx::c_xml_reader& reader) { return lmx::check_required_attributes(k_class, this, reader); }
+bool ColorSpaceSpectralType::unmarshal_body(lmx::c_xml_reader& reader, std::string* name, lmx::elmx_error* error) { return lmx::unmarshal_body(k_class, this, reader, name, error); }
+namespace { const char k_ColorSpaceSpectralType_id[] = "ColorSpaceSpectralType"; }
+const char* ColorSpaceSpectralType::id = k_ColorSpaceSpectralType_id;
+ColorSpaceSpectralType* ColorSpaceSpectralType::clone() const { return new ColorSpaceSpectralType(*this); }
+const char* ColorSpaceSpectralType::getid() const { return id; }
+bool ColorSpaceSpectralType::has_id(const char* identity) const { return identity == id || ColorSpaceType::has_id(identity); }
+lmx::elmx_error ColorSpaceSpectralType::set_Name(const std::u16string& value) { return lmx::set_item(k_class, k_items[item_Name], this, value); }
+ColorSpaceSpecificationSpectrumSpectral& ColorSpaceSpectralType::assign_ColorSpaceSpecificationSpectrumSpectral(const ColorSpaceSpecificationSpectrumSpectral& value) { return get_ColorSpaceSpecificationSpectrumSpectral() = value; }
+ReflectancePointType& ColorSpaceSpectralType::get_ReflectancePoint(std::size_t index) { return m_ReflectancePoint.grow_to(index); }
+ReflectancePointType& ColorSpaceSpectralType::assign_ReflectancePoint(std::size_t index, const ReflectancePointType& value) { return get_ReflectancePoint(index) = value; }
+lmx::elmx_error ColorSpaceSpectralType::append_ReflectancePoint() { m_ReflectancePoint.append(); return lmx::ELMX_OK; }
+lmx::elmx_error ColorSpaceSpectralType::insert_ReflectancePoint(std::size_t index) { m_ReflectancePoint.insert(index); return lmx::ELMX_OK; }
+void ColorSpaceSpectralType::delete_ReflectancePoint(std::size_t index) { m_ReflectancePoint.erase(index); }
+void ColorSpaceSpectralType::clear_ReflectancePoint() { m_ReflectancePoint.clear(); }
+
+// ColorSpaceEmissiveSpectralType
+
+namespace {
+constexpr lmx::s_event_map k_ColorSpaceEmissiveSpectralType_attributes[] = {
+    lmx::attribute_event("Name", attribute_Name),
+    lmx::k_end_of_map,
+};
+constexpr lmx::s_event_map k_ColorSpaceEmissiveSpectralType_elements[] = {
+    lmx::element_event("ColorSpaceSpecificationEmissiveSpectral", element_ColorSpaceSpecificationEmissiveSpectral),
+    lmx::element_event("EmissiveSpectralPoint", element_EmissiveSpectralPoint),
+    lmx::k_end_of_map,
+};
+}  // namespace
+
+constinit const lmx::s_item ColorSpaceEmissiveSpectralType::k_items[] = {
+    {lmx::item_kind::attribute, lmx::value_kind::text, lmx::use_optional, lmx::ELMX_WS_PRESERVE, "Name", attribute_Name, LMX_OFFSET(ColorSpaceEmissiveSpectralType, m_Name, attribute, text), LMX_FLAG(ColorSpaceEmissiveSpectralType, m_isset_Name), 0, 0, nullptr, nullptr, {}},
+    {lmx::item_kind::child, lmx::value_kind::none, lmx::use_required, lmx::ELMX_WS_PRESERVE, "Vyr:ColorSpaceSpecificationEmissiveSpectral", element_ColorSpaceSpecificationEmissiveSpectral, LMX_OFFSET(ColorSpaceEmissiveSpectralType, m_ColorSpaceSpecificationEmissiveSpectral, child, none), LMX_FLAG(ColorSpaceEmissiveSpectralType, m_isset_ColorSpaceSpecificationEmissiveSpectral), lmx::position_of(k_ColorSpaceEmissiveSpectralType_elements, element_ColorSpaceSpecificationEmissiveSpectral), lmx::position_of(k_ColorSpaceEmissiveSpectralType_elements, element_ColorSpaceSpecificationEmissiveSpectral, 1), &ColorSpaceSpecificationEmissiveSpectral::k_class, nullptr, {}},
+    {lmx::item_kind::child_list, lmx::value_kind::none, lmx::use_demanded | lmx::use_asked, lmx::ELMX_WS_PRESERVE, "Vyr:EmissiveSpectralPoint", element_EmissiveSpectralPoint, LMX_OFFSET(ColorSpaceEmissiveSpectralType, m_EmissiveSpectralPoint, child_list, none), lmx::k_no_flag, lmx::position_of(k_ColorSpaceEmissiveSpectralType_elements, element_EmissiveSpectralPoint), lmx::position_of(k_ColorSpaceEmissiveSpectralType_elements, element_EmissiveSpectralPoint, 1), &EmissiveSpectralPointType::k_class, nullptr, {}},
+};
+constinit const lmx::s_class ColorSpaceEmissiveSpectralType::k_class = {
+    .name = "ColorSpaceEmissiveSpectralType",
+    .qualified_name = "Vyr:ColorSpaceEmissiveSpectralType",
+    .base = &ColorSpaceType::k_class,
+    .content = lmx::content_kind::children,
+    .may_be_empty = false,
+    .ns_map = k_ns_map,
+    .nil_flag = lmx::k_no_flag,
+    .choice = lmx::k_no_flag,
+    .id = &ColorSpaceEmissiveSpectralType::id,
+    .xsi_type = "Vyr:ColorSpaceEmissiveSpectralType",
+    .attributes = std::span(k_items).first(std::size(k_ColorSpaceEmissiveSpectralType_attributes) - 1),
+    .elements = std::span(k_items).subspan(std::size(k_ColorSpaceEmissiveSpectralType_attributes) - 1),
+    .attribute_map = k_ColorSpaceEmissiveSpectralType_attributes,
+    .element_map = k_ColorSpaceEmissiveSpectralType_elements,
+    .operations = &lmx::k_operations<ColorSpaceEmissiveSpectralType>,
+};
+
+ColorSpaceEmissiveSpectralType::ColorSpaceEmissiveSpectralType() = default;
+ColorSpaceEmissiveSpectralType::ColorSpaceEmissiveSpectralType(const ColorSpaceEmissiveSpectralType& other) : ColorSpaceType() { lmx::copy(k_class, this, &other); }
+ColorSpaceEmissiveSpectralType::~ColorSpaceEmissiveSpectralType() = default;
+ColorSpaceEmissiveSpectralType& ColorSpaceEmissiveSpectralType::operator=(const ColorSpaceEmissiveSpectralType& other) { ColorSpaceEmissiveSpectralType copy(other); swap(copy); return *this; }
+void ColorSpaceEmissiveSpectralType::swap(ColorSpaceEmissiveSpectralType& other) { lmx::swap(k_class, this, &other); }
+void ColorSpaceEmissiveSpectralType::reset() { ColorSpaceEmissiveSpectralType fresh; swap(fresh); }
+bool ColorSpaceEmissiveSpectralType::is_occurs_ok() const { return lmx::is_occurs_ok(k_class, this); }
+lmx::elmx_error ColorSpaceEmissiveSpectralType::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
+lmx::elmx_error ColorSpaceEmissiveSpectralType::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
+void ColorSpaceEmissiveSpectralType::marshal_attributes(lmx::c_xml_writer& writer) const { lmx::marshal_attributes(k_class, this, writer); }
+lmx::elmx_error ColorSpaceEmissiveSpectralType::marshal_child_elements(lmx::c_xml_writer& writer) const { return lmx::marshal_child_elements(k_class, this, writer); }
+bool ColorSpaceEmissiveSpectralType::unmarshal_attributes(lmx::c_xml_reader& reader, const std::string& name, lmx::elmx_error* error) { return lmx::unmarshal_attribute(k_class, this, reader, name, error); }
+lmx::elmx_error ColorSpaceEmissiveSpectralType::unmarshal_attributes_check(lmx::c_xml_reader& reader) { return lmx::check_required_attributes(k_class, this, reader); }
+bool ColorSpaceEmissiveSpectralType::unmarshal_body(lmx::c_xml_reader& reader, std::string* name, lmx::elmx_error* error) { return lmx::unmarshal_body(k_class, this, reader, name, error); }
+namespace { const char k_ColorSpaceEmissiveSpectralType_id[] = "ColorSpaceEmissiveSpectralType"; }
+const char* ColorSpaceEmissiveSpectralType::id = k_ColorSpaceEmissiveSpectralType_id;
+ColorSpaceEmissiveSpectralType* ColorSpaceEmissiveSpectralType::clone() const { return new ColorSpaceEmissiveSpectralType(*this); }
+const char* ColorSpaceEmissiveSpectralType::getid() const { return id; }
+bool ColorSpaceEmissiveSpectralType::has_id(const char* identity) const { return identity == id || ColorSpaceType::has_id(identity); }
+lmx::elmx_error ColorSpaceEmissiveSpectralType::set_Name(const std::u16string& value) { return lmx::set_item(k_class, k_items[item_Name], this, value); }
+ColorSpaceSpecificationEmissiveSpectral& ColorSpaceEmissiveSpectralType::assign_ColorSpaceSpecificationEmissiveSpectral(const ColorSpaceSpecificationEmissiveSpectral& value) { return get_ColorSpaceSpecificationEmissiveSpectral() = value; }
+EmissiveSpectralPointType& ColorSpaceEmissiveSpectralType::get_EmissiveSpectralPoint(std::size_t index) { return m_EmissiveSpectralPoint.grow_to(index); }
+EmissiveSpectralPointType& ColorSpaceEmissiveSpectralType::assign_EmissiveSpectralPoint(std::size_t index, const EmissiveSpectralPointType& value) { return get_EmissiveSpectralPoint(index) = value; }
+lmx::elmx_error ColorSpaceEmissiveSpectralType::append_EmissiveSpectralPoint() { m_EmissiveSpectralPoint.append(); return lmx::ELMX_OK; }
+lmx::elmx_error ColorSpaceEmissiveSpectralType::insert_EmissiveSpectralPoint(std::size_t index) { m_EmissiveSpectralPoint.insert(index); return lmx::ELMX_OK; }
+void ColorSpaceEmissiveSpectralType::delete_EmissiveSpectralPoint(std::size_t index) { m_EmissiveSpectralPoint.erase(index); }
+void ColorSpaceEmissiveSpectralType::clear_EmissiveSpectralPoint() { m_EmissiveSpectralPoint.clear(); }
+
+// ColorSpaceGenericType
+
+namespace {
+constexpr lmx::s_event_map k_ColorSpaceGenericType_attributes[] = {
+    lmx::attribute_event("Name", attribute_Name),
+    lmx::k_end_of_map,
+};
+constexpr lmx::s_event_map k_ColorSpaceGenericType_elements[] = {
+    lmx::element_event("ColorSpaceSpecificationSpectrumGeneric", element_ColorSpaceSpecificationSpectrumGeneric),
+    lmx::element_event("Axis", element_Axis),
+    lmx::k_end_of_map,
+};
+}  // namespace
+
+constinit const lmx::s_item ColorSpaceGenericType::k_items[] = {
+    {lmx::item_kind::attribute, lmx::value_kind::text, lmx::use_required, lmx::ELMX_WS_PRESERVE, "Name", attribute_Name, LMX_OFFSET(ColorSpaceGenericType, m_Name, attribute, text), LMX_FLAG(ColorSpaceGenericType, m_isset_Name), 0, 0, nullptr, nullptr, {}},
+    {lmx::item_kind::child, lmx::value_kind::none, lmx::use_required, lmx::ELMX_WS_PRESERVE, "Vyr:ColorSpaceSpecificationSpectrumGeneric", element_ColorSpaceSpecificationSpectrumGeneric, LMX_OFFSET(ColorSpaceGenericType, m_ColorSpaceSpecificationSpectrumGeneric, child, none), LMX_FLAG(ColorSpaceGenericType, m_isset_ColorSpaceSpecificationSpectrumGeneric), lmx::position_of(k_ColorSpaceGenericType_elements, element_ColorSpaceSpecificationSpectrumGeneric), lmx::position_of(k_ColorSpaceGenericType_elements, element_ColorSpaceSpecificationSpectrumGeneric, 1), &ColorSpaceSpecificationSpectrumGeneric::k_class, nullptr, {}},
+    {lmx::item_kind::child_list, lmx::value_kind::none, lmx::use_demanded | lmx::use_asked, lmx::ELMX_WS_PRESERVE, "Vyr:Axis", element_Axis, LMX_OFFSET(ColorSpaceGenericType, m_Axis, child_list, none), lmx::k_no_flag, lmx::position_of(k_ColorSpaceGenericType_elements, element_Axis), lmx::position_of(k_ColorSpaceGenericType_elements, element_Axis, 1), &AxisType::k_class, nullptr, {}},
+};
+constinit const lmx::s_class ColorSpaceGenericType::k_class = {
+    .name = "ColorSpaceGenericType",
+    .qualified_name = "Vyr:ColorSpaceGenericType",
+    .base = &ColorSpaceType::k_class,
+    .content = lmx::content_kind::children,
+    .may_be_empty = false,
+    .ns_map = k_ns_map,
+    .nil_flag = lmx::k_no_flag,
+    .choice = lmx::k_no_flag,
+    .id = &ColorSpaceGenericType::id,
+    .xsi_type = "Vyr:ColorSpaceGenericType",
+    .attributes = std::span(k_items).first(std::size(k_ColorSpaceGenericType_attributes) - 1),
+    .elements = std::span(k_items).subspan(std::size(k_ColorSpaceGenericType_attributes) - 1),
+    .attribute_map = k_ColorSpaceGenericType_attributes,
+    .element_map = k_ColorSpaceGenericType_elements,
+    .operations = &lmx::k_operations<ColorSpaceGenericType>,
+};
+
+ColorSpaceGenericType::ColorSpaceGenericType() = default;
+ColorSpaceGenericType::ColorSpaceGenericType(const ColorSpaceGenericType& other) : ColorSpaceType() { lmx::copy(k_class, this, &other); }
+ColorSpaceGenericType::~ColorSpaceGenericType() = default;
+ColorSpaceGenericType& ColorSpaceGenericType::operator=(const ColorSpaceGenericType& other) { ColorSpaceGenericType copy(other); swap(copy); return *this; }
+void ColorSpaceGenericType::swap(ColorSpaceGenericType& other) { lmx::swap(k_class, this, &other); }
+void ColorSpaceGenericType::reset() { ColorSpaceGenericType fresh; swap(fresh); }
+bool ColorSpaceGenericType::is_occurs_ok() const { return lmx::is_occurs_ok(k_class, this); }
+lmx::elmx_error ColorSpaceGenericType::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
+lmx::elmx_error ColorSpaceGenericType::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
+void ColorSpaceGenericType::marshal_attributes(lmx::c_xml_writer& writer) const { lmx::marshal_attributes(k_class, this, writer); }
+lmx::elmx_error ColorSpaceGenericType::marshal_child_elements(lmx::c_xml_writer& writer) const { return lmx::marshal_child_elements(k_class, this, writer); }
+bool ColorSpaceGenericType::unmarshal_attributes(lmx::c_xml_reader& reader, const std::string& name, lmx::elmx_error* error) { return lmx::unmarshal_attribute(k_class, this, reader, name, error); }
+lmx::elmx_error ColorSpaceGenericType::unmarshal_attributes_check(lmx::c_xml_reader& reader) { return lmx::check_required_attributes(k_class, this, reader); }
+bool ColorSpaceGenericType::unmarshal_body(lmx::c_xml_reader& reader, std::string* name, lmx::elmx_error* error) { return lmx::unmarshal_body(k_class, this, reader, name, error); }
+namespace { const char k_ColorSpaceGenericType_id[] = "ColorSpaceGenericType"; }
+const char* ColorSpaceGenericType::id = k_ColorSpaceGenericType_id;
+ColorSpaceGenericType* ColorSpaceGenericType::clone() const { return new ColorSpaceGenericType(*this); }
+const char* ColorSpaceGenericType::getid() const { return id; }
+bool ColorSpaceGenericType::has_id(const char* identity) const { return identity == id || ColorSpaceType::has_id(identity); }
+lmx::elmx_error ColorSpaceGenericType::set_Name(const std::u16string& value) { return lmx::set_item(k_class, k_items[item_Name], this, value); }
+ColorSpaceSpecificationSpectrumGeneric& ColorSpaceGenericType::assign_ColorSpaceSpecificationSpectrumGeneric(const ColorSpaceSpecificationSpectrumGeneric& value) { return get_ColorSpaceSpecificationSpectrumGeneric() = value; }
+AxisType& ColorSpaceGenericType::get_Axis(std::size_t index) { return m_Axis.grow_to(index); }
+AxisType& ColorSpaceGenericType::assign_Axis(std::size_t index, const AxisType& value) { return get_Axis(index) = value; }
+lmx::elmx_error ColorSpaceGenericType::append_Axis() { m_Axis.append(); return lmx::ELMX_OK; }
+lmx::elmx_error ColorSpaceGenericType::insert_Axis(std::size_t index) { m_Axis.insert(index); return lmx::ELMX_OK; }
+void ColorSpaceGenericType::delete_Axis(std::size_t index) { m_Axis.erase(index); }
+void ColorSpaceGenericType::clear_Axis() { m_Axis.clear(); }
+
+// ColorSpaceEmissiveGenericType
+
+namespace {
+constexpr lmx::s_event_map k_ColorSpaceEmissiveGenericType_attributes[] = {
+    lmx::attribute_event("Name", attribute_Name),
+    lmx::k_end_of_map,
+};
+constexpr lmx::s_event_map k_ColorSpaceEmissiveGenericType_elements[] = {
+    lmx::element_event("ColorSpaceSpecificationEmissiveGeneric", element_ColorSpaceSpecificationEmissiveGeneric),
+    lmx::element_event("Axis", element_Axis),
+    lmx::k_end_of_map,
+};
+}  // namespace
+
+constinit const lmx::s_item ColorSpaceEmissiveGenericType::k_items[] = {
+    {lmx::item_kind::attribute, lmx::value_kind::text, lmx::use_required, lmx::ELMX_WS_PRESERVE, "Name", attribute_Name, LMX_OFFSET(ColorSpaceEmissiveGenericType, m_Name, attribute, text), LMX_FLAG(ColorSpaceEmissiveGenericType, m_isset_Name), 0, 0, nullptr, nullptr, {}},
+    {lmx::item_kind::child, lmx::value_kind::none, lmx::use_required, lmx::ELMX_WS_PRESERVE, "Vyr:ColorSpaceSpecificationEmissiveGeneric", element_ColorSpaceSpecificationEmissiveGeneric, LMX_OFFSET(ColorSpaceEmissiveGenericType, m_ColorSpaceSpecificationEmissiveGeneric, child, none), LMX_FLAG(ColorSpaceEmissiveGenericType, m_isset_ColorSpaceSpecificationEmissiveGeneric), lmx::position_of(k_ColorSpaceEmissiveGenericType_elements, element_ColorSpaceSpecificationEmissiveGeneric), lmx::position_of(k_ColorSpaceEmissiveGenericType_elements, element_ColorSpaceSpecificationEmissiveGeneric, 1), &ColorSpaceSpecificationEmissiveGeneric::k_class, nullptr, {}},
+    {lmx::item_kind::child_list, lmx::value_kind::none, lmx::use_demanded | lmx::use_asked, lmx::ELMX_WS_PRESERVE, "Vyr:Axis", element_Axis, LMX_OFFSET(ColorSpaceEmissiveGenericType, m_Axis, child_list, none), lmx::k_no_flag, lmx::position_of(k_ColorSpaceEmissiveGenericType_elements, element_Axis), lmx::position_of(k_ColorSpaceEmissiveGenericType_elements, element_Axis, 1), &AxisType::k_class, nullptr, {}},
+};
+constinit const lmx::s_class ColorSpaceEmissiveGenericType::k_class = {
+    .name = "ColorSpaceEmissiveGenericType",
+    .qualified_name = "Vyr:ColorSpaceEmissiveGenericType",
+    .base = &ColorSpaceType::k_class,
+    .content = lmx::content_kind::children,
+    .may_be_empty = false,
+    .ns_map = k_ns_map,
+    .nil_flag = lmx::k_no_flag,
+    .choice = lmx::k_no_flag,
+    .id = &ColorSpaceEmissiveGenericType::id,
+    .xsi_type = "Vyr:ColorSpaceEmissiveGenericType",
+    .attributes = std::span(k_items).first(std::size(k_ColorSpaceEmissiveGenericType_attributes) - 1),
+    .elements = std::span(k_items).subspan(std::size(k_ColorSpaceEmissiveGenericType_attributes) - 1),
+    .attribute_map = k_ColorSpaceEmissiveGenericType_attributes,
+    .element_map = k_ColorSpaceEmissiveGenericType_elements,
+    .operations = &lmx::k_operations<ColorSpaceEmissiveGenericType>,
+};
+
+ColorSpaceEmissiveGenericType::ColorSpaceEmissiveGenericType() = default;
+ColorSpaceEmissiveGenericType::ColorSpaceEmissiveGenericType(const ColorSpaceEmissiveGenericType& other) : ColorSpaceType() { lmx::copy(k_class, this, &other); }
+ColorSpaceEmissiveGenericType::~ColorSpaceEmissiveGenericType() = default;
+ColorSpaceEmissiveGenericType& ColorSpaceEmissiveGenericType::operator=(const ColorSpaceEmissiveGenericType& other) { ColorSpaceEmissiveGenericType copy(other); swap(copy); return *this; }
+void ColorSpaceEmissiveGenericType::swap(ColorSpaceEmissiveGenericType& other) { lmx::swap(k_class, this, &other); }
+void ColorSpaceEmissiveGenericType::reset() { ColorSpaceEmissiveGenericType fresh; swap(fresh); }
+bool ColorSpaceEmissiveGenericType::is_occurs_ok() const { return lmx::is_occurs_ok(k_class, this); }
+lmx::elmx_error ColorSpaceEmissiveGenericType::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
+lmx::elmx_error ColorSpaceEmissiveGenericType::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
+void ColorSpaceEmissiveGenericType::marshal_attributes(lmx::c_xml_writer& writer) const { lmx::marshal_attributes(k_class, this, writer); }
+lmx::elmx_error ColorSpaceEmissiveGenericType::marshal_child_elements(lmx::c_xml_writer& writer) const { return lmx::marshal_child_elements(k_class, this, writer); }
+bool ColorSpaceEmissiveGenericType::unmarshal_attributes(lmx::c_xml_reader& reader, const std::string& name, lmx::elmx_error* error) { return lmx::unmarshal_attribute(k_class, this, reader, name, error); }
+lmx::elmx_error ColorSpaceEmissiveGenericType::unmarshal_attributes_check(lmx::c_xml_reader& reader) { return lmx::check_required_attributes(k_class, this, reader); }
+bool ColorSpaceEmissiveGenericType::unmarshal_body(lmx::c_xml_reader& reader, std::string* name, lmx::elmx_error* error) { return lmx::unmarshal_body(k_class, this, reader, name, error); }
+namespace { const char k_ColorSpaceEmissiveGenericType_id[] = "ColorSpaceEmissiveGenericType"; }
+const char* ColorSpaceEmissiveGenericType::id = k_ColorSpaceEmissiveGenericType_id;
+ColorSpaceEmissiveGenericType* ColorSpaceEmissiveGenericType::clone() const { return new ColorSpaceEmissiveGenericType(*this); }
+const char* ColorSpaceEmissiveGenericType::getid() const { return id; }
+bool ColorSpaceEmissiveGenericType::has_id(const char* identity) const { return identity == id || ColorSpaceType::has_id(identity); }
+lmx::elmx_error ColorSpaceEmissiveGenericType::set_Name(const std::u16string& value) { return lmx::set_item(k_class, k_items[item_Name], this, value); }
+ColorSpaceSpecificationEmissiveGeneric& ColorSpaceEmissiveGenericType::assign_ColorSpaceSpecificationEmissiveGeneric(const ColorSpaceSpecificationEmissiveGeneric& value) { return get_ColorSpaceSpecificationEmissiveGeneric() = value; }
+AxisType& ColorSpaceEmissiveGenericType::get_Axis(std::size_t index) { return m_Axis.grow_to(index); }
+AxisType& ColorSpaceEmissiveGenericType::assign_Axis(std::size_t index, const AxisType& value) { return get_Axis(index) = value; }
+lmx::elmx_error ColorSpaceEmissiveGenericType::append_Axis() { m_Axis.append(); return lmx::ELMX_OK; }
+lmx::elmx_error ColorSpaceEmissiveGenericType::insert_Axis(std::size_t index) { m_Axis.insert(index); return lmx::ELMX_OK; }
+void ColorSpaceEmissiveGenericType::delete_Axis(std::size_t index) { m_Axis.erase(index); }
+void ColorSpaceEmissiveGenericType::clear_Axis() { m_Axis.clear(); }
+
+// ColorSpaceGeneric
+
+lmx::elmx_error ColorSpaceGeneric::marshal(lmx::c_xml_writer& writer, const char* name) const {
+    writer.conditionally_select_ns_map(k_ns_map);
+    return ColorSpaceGenericType::marshal(writer, name);
+}
+lmx::elmx_error ColorSpaceGeneric::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return ColorSpaceGenericType::unmarshal(reader, name); }
+const lmx::s_document ColorSpaceGeneric::k_document = {"Vyr:ColorSpaceGeneric", "ColorSpaceGeneric", k_ns_map, &lmx::k_operations<ColorSpaceGeneric>};
+const lmx::s_ns_map* ColorSpaceGeneric::ns_map() { return k_ns_map; }
+lmx::elmx_error ColorSpaceGeneric::unmarshal(lmx::c_xml_reader& reader) { return lmx::unmarshal_document(k_document, this, reader); }
+ColorSpaceGeneric::ColorSpaceGeneric(const char* file_name, lmx::elmx_error* error) : ColorSpaceGeneric() { *error = unmarshal(file_name); }
+lmx::elmx_error ColorSpaceGeneric::unmarshal(const char* file_name) { return lmx::unmarshal_document(k_document, this, file_name); }
+ColorSpaceGeneric::ColorSpaceGeneric(const char* data, std::size_t size, lmx::elmx_error* error) : ColorSpaceGeneric() { *error = unmarshal(data, size); }
+lmx::elmx_error ColorSpaceGeneric::unmarshal(const char* data, std::size_t size) { return lmx::unmarshal_document(k_document, this, data, size); }
+ColorSpaceGeneric::ColorSpaceGeneric(const std::string& text, lmx::elmx_error* error) : ColorSpaceGeneric() { *error = unmarshal(text.data(), text.size()); }
+lmx::elmx_error ColorSpaceGeneric::unmarshal(const std::string& text) { return lmx::unmarshal_document(k_document, this, text.data(), text.size()); }
+lmx::elmx_error ColorSpaceGeneric::marshal(const char* file_name) const { return lmx::marshal_document(k_document, this, file_name); }
+lmx::elmx_error ColorSpaceGeneric::marshal(std::string* text) const { return lmx::marshal_document(k_document, this, text); }
+lmx::elmx_error ColorSpaceGeneric::marshal(std::ostream& stream) const { return lmx::marshal_document(k_document, this, stream); }
+
+// ColorSpaceEmissiveGeneric
+
+lmx::elmx_error ColorSpaceEmissiveGeneric::marshal(lmx::c_xml_writer& writer, const char* name) const {
+    writer.conditionally_select_ns_map(k_ns_map);
+    return ColorSpaceEmissiveGenericType::marshal(writer, name);
+}
+lmx::elmx_error ColorSpaceEmissiveGeneric::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return ColorSpaceEmissiveGenericType::unmarshal(reader, name); }
+const lmx::s_document ColorSpaceEmissiveGeneric::k_document = {"Vyr:ColorSpaceEmissiveGeneric", "ColorSpaceEmissiveGeneric", k_ns_map, &lmx::k_operations<ColorSpaceEmissiveGeneric>};
+const lmx::s_ns_map* ColorSpaceEmissiveGeneric::ns_map() { return k_ns_map; }
+lmx::elmx_error ColorSpaceEmissiveGeneric::unmarshal(lmx::c_xml_reader& reader) { return lmx::unmarshal_document(k_document, this, reader); }
+ColorSpaceEmissiveGeneric::ColorSpaceEmissiveGeneric(const char* file_name, lmx::elmx_error* error) : ColorSpaceEmissiveGeneric() { *error = unmarshal(file_name); }
+lmx::elmx_error ColorSpaceEmissiveGeneric::unmarshal(const char* file_name) { return lmx::unmarshal_document(k_document, this, file_name); }
+ColorSpaceEmissiveGeneric::ColorSpaceEmissiveGeneric(const char* data, std::size_t size, lmx::elmx_error* error) : ColorSpaceEmissiveGeneric() { *error = unmarshal(data, size); }
+lmx::elmx_error ColorSpaceEmissiveGeneric::unmarshal(const char* data, std::size_t size) { return lmx::unmarshal_document(k_document, this, data, size); }
+ColorSpaceEmissiveGeneric::ColorSpaceEmissiveGeneric(const std::string& text, lmx::elmx_error* error) : ColorSpaceEmissiveGeneric() { *error = unmarshal(text.data(), text.size()); }
+lmx::elmx_error ColorSpaceEmissiveGeneric::unmarshal(const std::string& text) { return lmx::unmarshal_document(k_document, this, text.data(), text.size()); }
+lmx::elmx_error ColorSpaceEmissiveGeneric::marshal(const char* file_name) const { return lmx::marshal_document(k_document, this, file_name); }
+lmx::elmx_error ColorSpaceEmissiveGeneric::marshal(std::string* text) const { return lmx::marshal_document(k_document, this, text); }
+lmx::elmx_error ColorSpaceEmissiveGeneric::marshal(std::ostream& stream) const { return lmx::marshal_document(k_document, this, stream); }
+
+// ColorSpaceDensity
+
+lmx::elmx_error ColorSpaceDensity::marshal(lmx::c_xml_writer& writer, const char* name) const {
+    writer.conditionally_select_ns_map(k_ns_map);
+    return ColorSpaceDensityType::marshal(writer, name);
+}
+lmx::elmx_error ColorSpaceDensity::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return ColorSpaceDensityType::unmarshal(reader, name); }
+const lmx::s_document ColorSpaceDensity::k_document = {"Vyr:ColorSpaceDensity", "ColorSpaceDensity", k_ns_map, &lmx::k_operations<ColorSpaceDensity>};
+const lmx::s_ns_map* ColorSpaceDensity::ns_map() { return k_ns_map; }
+lmx::elmx_error ColorSpaceDensity::unmarshal(lmx::c_xml_reader& reader) { return lmx::unmarshal_document(k_document, this, reader); }
+ColorSpaceDensity::ColorSpaceDensity(const char* file_name, lmx::elmx_error* error) : ColorSpaceDensity() { *error = unmarshal(file_name); }
+lmx::elmx_error ColorSpaceDensity::unmarshal(const char* file_name) { return lmx::unmarshal_document(k_document, this, file_name); }
+ColorSpaceDensity::ColorSpaceDensity(const char* data, std::size_t size, lmx::elmx_error* error) : ColorSpaceDensity() { *error = unmarshal(data, size); }
+lmx::elmx_error ColorSpaceDensity::unmarshal(const char* data, std::size_t size) { return lmx::unmarshal_document(k_document, this, data, size); }
+ColorSpaceDensity::ColorSpaceDensity(const std::string& text, lmx::elmx_error* error) : ColorSpaceDensity() { *error = unmarshal(text.data(), text.size()); }
+lmx::elmx_error ColorSpaceDensity::unmarshal(const std::string& text) { return lmx::unmarshal_document(k_document, this, text.data(), text.size()); }
+lmx::elmx_error ColorSpaceDensity::marshal(const char* file_name) const { return lmx::marshal_document(k_document, this, file_name); }
+lmx::elmx_error ColorSpaceDensity::marshal(std::string* text) const { return lmx::marshal_document(k_document, this, text); }
+lmx::elmx_error ColorSpaceDensity::marshal(std::ostream& stream) const { return lmx::marshal_document(k_document, this, stream); }
+
+// ColorSpaceSpectral
+
+lmx::elmx_error ColorSpaceSpectral::marshal(lmx::c_xml_writer& writer, const char* name) const {
+    writer.conditionally_select_ns_map(k_ns_map);
+    return ColorSpaceSpectralType::marshal(writer, name);
+}
+lmx::elmx_error ColorSpaceSpectral::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return ColorSpaceSpectralType::unmarshal(reader, name); }
+const lmx::s_document ColorSpaceSpectral::k_document = {"Vyr:ColorSpaceSpectral", "ColorSpaceSpectral", k_ns_map, &lmx::k_operations<ColorSpaceSpectral>};
+const lmx::s_ns_map* ColorSpaceSpectral::ns_map() { return k_ns_map; }
+lmx::elmx_error ColorSpaceSpectral::unmarshal(lmx::c_xml_reader& reader) { return lmx::unmarshal_document(k_document, this, reader); }
+ColorSpaceSpectral::ColorSpaceSpectral(const char* file_name, lmx::elmx_error* error) : ColorSpaceSpectral() { *error = unmarshal(file_name); }
+lmx::elmx_error ColorSpaceSpectral::unmarshal(const char* file_name) { return lmx::unmarshal_document(k_document, this, file_name); }
+ColorSpaceSpectral::ColorSpaceSpectral(const char* data, std::size_t size, lmx::elmx_error* error) : ColorSpaceSpectral() { *error = unmarshal(data, size); }
+lmx::elmx_error ColorSpaceSpectral::unmarshal(const char* data, std::size_t size) { return lmx::unmarshal_document(k_document, this, data, size); }
+ColorSpaceSpectral::ColorSpaceSpectral(const std::string& text, lmx::elmx_error* error) : ColorSpaceSpectral() { *error = unmarshal(text.data(), text.size()); }
+lmx::elmx_error ColorSpaceSpectral::unmarshal(const std::string& text) { return lmx::unmarshal_document(k_document, this, text.data(), text.size()); }
+lmx::elmx_error ColorSpaceSpectral::marshal(const char* file_name) const { return lmx::marshal_document(k_document, this, file_name); }
+lmx::elmx_error ColorSpaceSpectral::marshal(std::string* text) const { return lmx::marshal_document(k_document, this, text); }
+lmx::elmx_error ColorSpaceSpectral::marshal(std::ostream& stream) const { return lmx::marshal_document(k_document, this, stream); }
+
+// ColorSpaceEmissiveSpectral
+
+lmx::elmx_error ColorSpaceEmissiveSpectral::marshal(lmx::c_xml_writer& writer, const char* name) const {
+    writer.conditionally_select_ns_map(k_ns_map);
+    return ColorSpaceEmissiveSpectralType::marshal(writer, name);
+}
+lmx::elmx_error ColorSpaceEmissiveSpectral::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return ColorSpaceEmissiveSpectralType::unmarshal(reader, name); }
+const lmx::s_document ColorSpaceEmissiveSpectral::k_document = {"Vyr:ColorSpaceEmissiveSpectral", "ColorSpaceEmissiveSpectral", k_ns_map, &lmx::k_operations<ColorSpaceEmissiveSpectral>};
+const lmx::s_ns_map* ColorSpaceEmissiveSpectral::ns_map() { return k_ns_map; }
+lmx::elmx_error ColorSpaceEmissiveSpectral::unmarshal(lmx::c_xml_reader& reader) { return lmx::unmarshal_document(k_document, this, reader); }
+ColorSpaceEmissiveSpectral::ColorSpaceEmissiveSpectral(const char* file_name, lmx::elmx_error* error) : ColorSpaceEmissiveSpectral() { *error = unmarshal(file_name); }
+lmx::elmx_error ColorSpaceEmissiveSpectral::unmarshal(const char* file_name) { return lmx::unmarshal_document(k_document, this, file_name); }
+ColorSpaceEmissiveSpectral::ColorSpaceEmissiveSpectral(const char* data, std::size_t size, lmx::elmx_error* error) : ColorSpaceEmissiveSpectral() { *error = unmarshal(data, size); }
+lmx::elmx_error ColorSpaceEmissiveSpectral::unmarshal(const char* data, std::size_t size) { return lmx::unmarshal_document(k_document, this, data, size); }
+ColorSpaceEmissiveSpectral::ColorSpaceEmissiveSpectral(const std::string& text, lmx::elmx_error* error) : ColorSpaceEmissiveSpectral() { *error = unmarshal(text.data(), text.size()); }
+lmx::elmx_error ColorSpaceEmissiveSpectral::unmarshal(const std::string& text) { return lmx::unmarshal_document(k_document, this, text.data(), text.size()); }
+lmx::elmx_error ColorSpaceEmissiveSpectral::marshal(const char* file_name) const { return lmx::marshal_document(k_document, this, file_name); }
+lmx::elmx_error ColorSpaceEmissiveSpectral::marshal(std::string* text) const { return lmx::marshal_document(k_document, this, text); }
+lmx::elmx_error ColorSpaceEmissiveSpectral::marshal(std::ostream& stream) const { return lmx::marshal_document(k_document, this, stream); }
+
+// ReflectancePointType
+
+namespace {
+constexpr lmx::s_event_map k_ReflectancePointType_attributes[] = {
+    lmx::attribute_event("Wavelength", attribute_Wavelength),
+    lmx::k_end_of_map,
+};
+}  // namespace
+
+constinit const lmx::s_item ReflectancePointType::k_items[] = {
+    {lmx::item_kind::attribute, lmx::value_kind::number, lmx::use_required, lmx::ELMX_WS_COLLAPSE, "Wavelength", attribute_Wavelength, LMX_OFFSET(ReflectancePointType, m_Wavelength, attribute, number), LMX_FLAG(ReflectancePointType, m_isset_Wavelength), 0, 0, nullptr, &facets::Wavelength, {}},
+    {lmx::item_kind::content, lmx::value_kind::number, lmx::use_required, lmx::ELMX_WS_COLLAPSE, "", 0, LMX_OFFSET(ReflectancePointType, m_ReflectancePointType, content, number), LMX_FLAG(ReflectancePointType, m_isset_ReflectancePointType), 0, 0, nullptr, &facets::Reflectance, {}},
+};
+constinit const lmx::s_class ReflectancePointType::k_class = {
+    .name = "ReflectancePointType",
+    .qualified_name = "Vyr:ReflectancePointType",
+    .base = nullptr,
+    .content = lmx::content_kind::simple,
+    .may_be_empty = false,
+    .ns_map = k_ns_map,
+    .nil_flag = lmx::k_no_flag,
+    .choice = lmx::k_no_flag,
+    .id = nullptr,
+    .xsi_type = nullptr,
+    .attributes = std::span(k_items).first(std::size(k_ReflectancePointType_attributes) - 1),
+    .elements = std::span(k_items).subspan(std::size(k_ReflectancePointType_attributes) - 1),
+    .attribute_map = k_ReflectancePointType_attributes,
+    .element_map = lmx::k_no_events,
+    .operations = &lmx::k_operations<ReflectancePointType>,
+};
+
+ReflectancePointType::ReflectancePointType() = default;
+ReflectancePointType::ReflectancePointType(const ReflectancePointType& other) { lmx::copy(k_class, this, &other); }
+ReflectancePointType::~ReflectancePointType() = default;
+ReflectancePointType& ReflectancePointType::operator=(const ReflectancePointType& other) { ReflectancePointType copy(other); swap(copy); return *this; }
+void ReflectancePointType::swap(ReflectancePointType& other) { lmx::swap(k_class, this, &other); }
+void ReflectancePointType::reset() { ReflectancePointType fresh; swap(fresh); }
+bool ReflectancePointType::is_occurs_ok() const { return lmx::is_occurs_ok(k_class, this); }
+lmx::elmx_error ReflectancePointType::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
+lmx::elmx_error ReflectancePointType::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
+void ReflectancePointType::marshal_attributes(lmx::c_xml_writer& writer) const { lmx::marshal_attributes(k_class, this, writer); }
+lmx::elmx_error ReflectancePointType::marshal_child_elements(lmx::c_xml_writer& writer) const { return lmx::marshal_child_elements(k_class, this, writer); }
+bool ReflectancePointType::unmarshal_attributes(lmx::c_xml_reader& reader, const std::string& name, lmx::elmx_error* error) { return lmx::unmarshal_attribute(k_class, this, reader, name, error); }
+lmx::elmx_error ReflectancePointType::unmarshal_attributes_check(lmx::c_xml_reader& reader) { return lmx::check_required_attributes(k_class, this, reader); }
+bool ReflectancePointType::unmarshal_body(lmx::c_xml_reader& reader, std::string* name, lmx::elmx_error* error, bool has_body) { return lmx::unmarshal_content(k_class, this, reader, name, error, has_body); }
+lmx::elmx_error ReflectancePointType::set_Wavelength(double value) { return lmx::set_item(k_class, k_items[item_Wavelength], this, value); }
+lmx::elmx_error ReflectancePointType::set_ReflectancePointType(double value) { return lmx::set_item(k_class, k_items[item_ReflectancePointType], this, value); }
+
+// EmissiveSpectralPointType
+
+namespace {
+constexpr lmx::s_event_map k_EmissiveSpectralPointType_attributes[] = {
+    lmx::attribute_event("Wavelength", attribute_Wavelength),
+    lmx::k_end_of_map,
+};
+}  // namespace
+
+constinit const lmx::s_item EmissiveSpectralPointType::k_items[] = {
+    {lmx::item_kind::attribute, lmx::value_kind::number, lmx::use_required, lmx::ELMX_WS_COLLAPSE, "Wavelength", attribute_Wavelength, LMX_OFFSET(EmissiveSpectralPointType, m_Wavelength, attribute, number), LMX_FLAG(EmissiveSpectralPointType, m_isset_Wavelength), 0, 0, nullptr, &facets::Wavelength, {}},
+    {lmx::item_kind::content, lmx::value_kind::number, lmx::use_required, lmx::ELMX_WS_COLLAPSE, "", 0, LMX_OFFSET(EmissiveSpectralPointType, m_EmissiveSpectralPointType, content, number), LMX_FLAG(EmissiveSpectralPointType, m_isset_EmissiveSpectralPointType), 0, 0, nullptr, nullptr, {}},
+};
+constinit const lmx::s_class EmissiveSpectralPointType::k_class = {
+    .name = "EmissiveSpectralPointType",
+    .qualified_name = "Vyr:EmissiveSpectralPointType",
+    .base = nullptr,
+    .content = lmx::content_kind::simple,
+    .may_be_empty = false,
+    .ns_map = k_ns_map,
+    .nil_flag = lmx::k_no_flag,
+    .choice = lmx::k_no_flag,
+    .id = nullptr,
+    .xsi_type = nullptr,
+    .attributes = std::span(k_items).first(std::size(k_EmissiveSpectralPointType_attributes) - 1),
+    .elements = std::span(k_items).subspan(std::size(k_EmissiveSpectralPointType_attributes) - 1),
+    .attribute_map = k_EmissiveSpectralPointType_attributes,
+    .element_map = lmx::k_no_events,
+    .operations = &lmx::k_operations<EmissiveSpectralPointType>,
+};
+
+EmissiveSpectralPointType::EmissiveSpectralPointType() = default;
+EmissiveSpectralPointType::EmissiveSpectralPointType(const EmissiveSpectralPointType& other) { lmx::copy(k_class, this, &other); }
+EmissiveSpectralPointType::~EmissiveSpectralPointType() = default;
+EmissiveSpectralPointType& EmissiveSpectralPointType::operator=(const EmissiveSpectralPointType& other) { EmissiveSpectralPointType copy(other); swap(copy); return *this; }
+void EmissiveSpectralPointType::swap(EmissiveSpectralPointType& other) { lmx::swap(k_class, this, &other); }
+void EmissiveSpectralPointType::reset() { EmissiveSpectralPointType fresh; swap(fresh); }
+bool EmissiveSpectralPointType::is_occurs_ok() const { return lmx::is_occurs_ok(k_class, this); }
+lmx::elmx_error EmissiveSpectralPointType::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
+lmx::elmx_error EmissiveSpectralPointType::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
+void EmissiveSpectralPointType::marshal_attributes(lmx::c_xml_writer& writer) const { lmx::marshal_attributes(k_class, this, writer); }
+lmx::elmx_error EmissiveSpectralPointType::marshal_child_elements(lmx::c_xml_writer& writer) const { return lmx::marshal_child_elements(k_class, this, writer); }
+bool EmissiveSpectralPointType::unmarshal_attributes(lmx::c_xml_reader& reader, const std::string& name, lmx::elmx_error* error) { return lmx::unmarshal_attribute(k_class, this, reader, name, error); }
+lmx::elmx_error EmissiveSpectralPointType::unmarshal_attributes_check(lmx::c_xml_reader& reader) { return lmx::check_required_attributes(k_class, this, reader); }
+bool EmissiveSpectralPointType::unmarshal_body(lmx::c_xml_reader& reader, std::string* name, lmx::elmx_error* error, bool has_body) { return lmx::unmarshal_content(k_class, this, reader, name, error, has_body); }
+lmx::elmx_error EmissiveSpectralPointType::set_Wavelength(double value) { return lmx::set_item(k_class, k_items[item_Wavelength], this, value); }
+lmx::elmx_error EmissiveSpectralPointType::set_EmissiveSpectralPointType(double value) { return lmx::set_item(k_class, k_items[item_EmissiveSpectralPointType], this, value); }
+
+// AxisValueChoice
+
+namespace {
+constexpr lmx::s_event_map k_AxisValueChoice_elements[] = {
+    lmx::element_event("AxisFloatingPointValue", element_AxisFloatingPointValue),
+    lmx::element_event("AxisStringValue", element_AxisStringValue),
+    lmx::k_end_of_map,
+};
+}  // namespace
+
+constinit const lmx::s_item AxisValueChoice::k_items[] = {
+    {lmx::item_kind::alternative, lmx::value_kind::none, lmx::use_optional, lmx::ELMX_WS_PRESERVE, "Vyr:AxisFloatingPointValue", element_AxisFloatingPointValue, 0, lmx::k_no_flag, lmx::position_of(k_AxisValueChoice_elements, element_AxisFloatingPointValue), lmx::position_of(k_AxisValueChoice_elements, element_AxisFloatingPointValue, 1), &FloatingPointValueType::k_class, nullptr, {}},
+    {lmx::item_kind::alternative, lmx::value_kind::text, lmx::use_optional, lmx::ELMX_WS_PRESERVE, "Vyr:AxisStringValue", element_AxisStringValue, 0, lmx::k_no_flag, lmx::position_of(k_AxisValueChoice_elements, element_AxisStringValue), lmx::position_of(k_AxisValueChoice_elements, element_AxisStringValue, 1), nullptr, nullptr, {}},
+};
+constinit const lmx::s_class AxisValueChoice::k_class = {
+    .name = "AxisValueChoice",
+    .qualified_name = "Vyr:AxisValueChoice",
+    .base = nullptr,
+    .content = lmx::content_kind::choice,
+    .may_be_empty = false,
+    .ns_map = nullptr,
+    .nil_flag = lmx::k_no_flag,
+    .choice = LMX_CHOICE(AxisValueChoice, m_choice),
+    .id = nullptr,
+    .xsi_type = nullptr,
+    .attributes = std::span(k_items).first(std::size(lmx::k_no_events) - 1),
+    .elements = std::span(k_items).subspan(std::size(lmx::k_no_events) - 1),
+    .attribute_map = lmx::k_no_events,
+    .element_map = k_AxisValueChoice_elements,
+    .operations = &lmx::k_operations<AxisValueChoice>,
+};
+
+AxisValueChoice::AxisValueChoice() = default;
+AxisValueChoice::AxisValueChoice(const AxisValueChoice& other) { lmx::copy(k_class, this, &other); }
+AxisValueChoice::~AxisValueChoice() { lmx::release_choice(k_class, this); }
+AxisValueChoice& AxisValueChoice::operator=(const AxisValueChoice& other) { AxisValueChoice copy(other); swap(copy); return *this; }
+void AxisValueChoice::swap(AxisValueChoice& other) { lmx::swap(k_class, this, &other); }
+void AxisValueChoice::reset() { AxisValueChoice fresh; swap(fresh); }
+bool AxisValueChoice::is_occurs_ok() const { return lmx::is_occurs_ok(k_class, this); }
+lmx::elmx_error AxisValueChoice::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
+lmx::elmx_error AxisValueChoice::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
+void AxisValueChoice::marshal_attributes(lmx::c_xml_writer& writer) const { lmx::marshal_attributes(k_class, this, writer); }
+lmx::elmx_error AxisValueChoice::marshal_child_elements(lmx::c_xml_writer& writer) const { return lmx::marshal_child_elements(k_class, this, writer); }
+bool AxisValueChoice::unmarshal_attributes(lmx::c_xml_reader& reader, const std::string& name, lmx::elmx_error* error) { return lmx::unmarshal_attribute(k_class, this, reader, name, error); }
+lmx::elmx_error AxisValueChoice::unmarshal_attributes_check(lmx::c_xml_reader& reader) { return lmx::check_required_attributes(k_class, this, reader); }
+bool AxisValueChoice::unmarshal_body(lmx::c_xml_reader& reader, std::string* name, lmx::elmx_error* error) { return lmx::unmarshal_body(k_class, this, reader, name, error); }
+FloatingPointValueType& AxisValueChoice::get_AxisFloatingPointValue() { return *static_cast<FloatingPointValueType*>(lmx::choose(k_class, k_items[item_AxisFloatingPointValue], this)); }
+FloatingPointValueType& AxisValueChoice::assign_AxisFloatingPointValue(const FloatingPointValueType& value) { return get_AxisFloatingPointValue() = value; }
+const std::u16string& AxisValueChoice::get_AxisStringValue() const { return lmx::chosen_text(k_class, k_items[item_AxisStringValue], this); }
+lmx::elmx_error AxisValueChoice::set_AxisStringValue(const std::u16string& value) { return lmx::set_item(k_class, k_items[item_AxisStringValue], this, value); }
+
+// AxisType
+
+namespace {
+constexpr lmx::s_event_map k_AxisType_elements[] = {
+    lmx::element_event("AxisName", element_AxisName),
+    lmx::element_event("AxisValueChoice", element_AxisValueChoice),
+    lmx::k_end_of_map,
+};
+}  // namespace
+
+constinit const lmx::s_item AxisType::k_items[] = {
+    {lmx::item_kind::element, lmx::value_kind::text, lmx::use_required, lmx::ELMX_WS_PRESERVE, "Vyr:AxisName", element_AxisName, LMX_OFFSET(AxisType, m_AxisName, element, text), LMX_FLAG(AxisType, m_isset_AxisName), lmx::position_of(k_AxisType_elements, element_AxisName), lmx::position_of(k_AxisType_elements, element_AxisName, 1), nullptr, nullptr, {}},
+    {lmx::item_kind::child, lmx::value_kind::none, lmx::use_required, lmx::ELMX_WS_PRESERVE, "Vyr:AxisValueChoice", element_AxisValueChoice, LMX_OFFSET(AxisType, m_AxisValueChoice, child, none), LMX_FLAG(AxisType, m_isset_AxisValueChoice), lmx::position_of(k_AxisType_elements, element_AxisValueChoice), lmx::position_of(k_AxisType_elements, element_AxisValueChoice, 1), &AxisValueChoice::k_class, nullptr, {}},
+};
+constinit const lmx::s_class AxisType::k_class = {
+    .name = "AxisType",
+    .qualified_name = "Vyr:AxisType",
+    .base = nullptr,
+    .content = lmx::content_kind::children,
+    .may_be_empty = false,
+    .ns_map = k_ns_map,
+    .nil_flag = lmx::k_no_flag,
+    .choice = lmx::k_no_flag,
+    .id = nullptr,
+    .xsi_type = nullptr,
+    .attributes = std::span(k_items).first(std::size(lmx::k_no_events) - 1),
+    .elements = std::span(k_items).subspan(std::size(lmx::k_no_events) - 1),
+    .attribute_map = lmx::k_no_events,
+    .element_map = k_AxisType_elements,
+    .operations = &lmx::k_operations<AxisType>,
+};
+
+AxisType::AxisType() = default;
+AxisType::AxisType(const AxisType& other) { lmx::copy(k_class, this, &other); }
+AxisType::~AxisType() = default;
+AxisType& AxisType::operator=(const AxisType& other) { AxisType copy(other); swap(copy); return *this; }
+void AxisType::swap(AxisType& other) { lmx::swap(k_class, this, &other); }
+void AxisType::reset() { AxisType fresh; swap(fresh); }
+bool AxisType::is_occurs_ok() const { return lmx::is_occurs_ok(k_class, this); }
+lmx::elmx_error AxisType::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
+lmx::elmx_error AxisType::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
+void AxisType::marshal_attributes(lmx::c_xml_writer& writer) const { lmx::marshal_attributes(k_class, this, writer); }
+lmx::elmx_error AxisType::marshal_child_elements(lmx::c_xml_writer& writer) const { return lmx::marshal_child_elements(k_class, this, writer); }
+bool AxisType::unmarshal_attributes(lmx::c_xml_reader& reader, const std::string& name, lmx::elmx_error* error) { return lmx::unmarshal_attribute(k_class, this, reader, name, error); }
+lmx::elmx_error AxisType::unmarshal_attributes_check(lmx::c_xml_reader& reader) { return lmx::check_required_attributes(k_class, this, reader); }
+bool AxisType::unmarshal_body(lmx::c_xml_reader& reader, std::string* name, lmx::elmx_error* error) { return lmx::unmarshal_body(k_class, this, reader, name, error); }
+lmx::elmx_error AxisType::set_AxisName(const std::u16string& value) { return lmx::set_item(k_class, k_items[item_AxisName], this, value); }
+AxisValueChoice& AxisType::assign_AxisValueChoice(const AxisValueChoice& value) { return get_AxisValueChoice() = value; }
+
+// FloatingPointValueType
+
+namespace {
+constexpr lmx::s_event_map k_FloatingPointValueType_attributes[] = {
+    lmx::attribute_event("AxisNominalMax", attribute_AxisNominalMax),
+    lmx::attribute_event("AxisNominalMin", attribute_AxisNominalMin),
+    lmx::attribute_event("AxisNominalScale", attribute_AxisNominalScale),
+    lmx::k_end_of_map,
+};
+}  // namespace
+
+constinit const lmx::s_item FloatingPointValueType::k_items[] = {
+    {lmx::item_kind::attribute, lmx::value_kind::number, lmx::use_required, lmx::ELMX_WS_COLLAPSE, "AxisNominalMax", attribute_AxisNominalMax, LMX_OFFSET(FloatingPointValueType, m_AxisNominalMax, attribute, number), LMX_FLAG(FloatingPointValueType, m_isset_AxisNominalMax), 0, 0, nullptr, nullptr, {}},
+    {lmx::item_kind::attribute, lmx::value_kind::number, lmx::use_required, lmx::ELMX_WS_COLLAPSE, "AxisNominalMin", attribute_AxisNominalMin, LMX_OFFSET(FloatingPointValueType, m_AxisNominalMin, attribute, number), LMX_FLAG(FloatingPointValueType, m_isset_AxisNominalMin), 0, 0, nullptr, nullptr, {}},
+    {lmx::item_kind::attribute, lmx::value_kind::text, lmx::use_optional, lmx::ELMX_WS_PRESERVE, "AxisNominalScale", attribute_AxisNominalScale, LMX_OFFSET(FloatingPointValueType, m_AxisNominalScale, attribute, text), LMX_FLAG(FloatingPointValueType, m_isset_AxisNominalScale), 0, 0, nullptr, &facets::AxisScaleKind, {}},
+    {lmx::item_kind::content, lmx::value_kind::number, lmx::use_required, lmx::ELMX_WS_COLLAPSE, "", 0, LMX_OFFSET(FloatingPointValueType, m_FloatingPointValueType, content, number), LMX_FLAG(FloatingPointValueType, m_isset_FloatingPointValueType), 0, 0, nullptr, nullptr, {}},
+};
+constinit const lmx::s_class FloatingPointValueType::k_class = {
+    .name = "FloatingPointValueType",
+    .qualified_name = "Vyr:FloatingPointValueType",
+    .base = nullptr,
+    .content = lmx::content_kind::simple,
+    .may_be_empty = false,
+    .ns_map = k_ns_map,
+    .nil_flag = lmx::k_no_flag,
+    .choice = lmx::k_no_flag,
+    .id = nullptr,
+    .xsi_type = nullptr,
+    .attributes = std::span(k_items).first(std::size(k_FloatingPointValueType_attributes) - 1),
+    .elements = std::span(k_items).subspan(std::size(k_FloatingPointValueType_attributes) - 1),
+    .attribute_map = k_FloatingPointValueType_attributes,
+    .element_map = lmx::k_no_events,
+    .operations = &lmx::k_operations<FloatingPointValueType>,
+};
+
+FloatingPointValueType::FloatingPointValueType() = default;
+FloatingPointValueType::FloatingPointValueType(const FloatingPointValueType& other) { lmx::copy(k_class, this, &other); }
+FloatingPointValueType::~FloatingPointValueType() = default;
+FloatingPointValueType& FloatingPointValueType::operator=(const FloatingPointValueType& other) { FloatingPointValueType copy(other); swap(copy); return *this; }
+void FloatingPointValueType::swap(FloatingPointValueType& other) { lmx::swap(k_class, this, &other); }
+void FloatingPointValueType::reset() { FloatingPointValueType fresh; swap(fresh); }
+bool FloatingPointValueType::is_occurs_ok() const { return lmx::is_occurs_ok(k_class, this); }
+lmx::elmx_error FloatingPointValueType::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
+lmx::elmx_error FloatingPointValueType::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
+void FloatingPointValueType::marshal_attributes(lmx::c_xml_writer& writer) const { lmx::marshal_attributes(k_class, this, writer); }
+lmx::elmx_error FloatingPointValueType::marshal_child_elements(lmx::c_xml_writer& writer) const { return lmx::marshal_child_elements(k_class, this, writer); }
+bool FloatingPointValueType::unmarshal_attributes(lmx::c_xml_reader& reader, const std::string& name, lmx::elmx_error* error) { return lmx::unmarshal_attribute(k_class, this, reader, name, error); }
+lmx::elmx_error FloatingPointValueType::unmarshal_attributes_check(lmx::c_xml_reader& reader) { return lmx::check_required_attributes(k_class, this, reader); }
+bool FloatingPointValueType::unmarshal_body(lmx::c_xml_reader& reader, std::string* name, lmx::elmx_error* error, bool has_body) { return lmx::unmarshal_content(k_class, this, reader, name, error, has_body); }
+lmx::elmx_error FloatingPointValueType::set_AxisNominalMax(double value) { return lmx::set_item(k_class, k_items[item_AxisNominalMax], this, value); }
+lmx::elmx_error FloatingPointValueType::set_AxisNominalMin(double value) { return lmx::set_item(k_class, k_items[item_AxisNominalMin], this, value); }
+lmx::elmx_error FloatingPointValueType::set_AxisNominalScale(const std::u16string& value) { return lmx::set_item(k_class, k_items[item_AxisNominalScale], this, value); }
+Eenum_AxisNominalScale FloatingPointValueType::getenum_AxisNominalScale() const { return static_cast<Eenum_AxisNominalScale>(lmx::enumerated_number(k_items[item_AxisNominalScale], get_AxisNominalScale())); }
+bool FloatingPointValueType::setenum_AxisNominalScale(std::int32_t number) { return lmx::set_enumerated(k_class, k_items[item_AxisNominalScale], this, number); }
+lmx::elmx_error FloatingPointValueType::set_FloatingPointValueType(double value) { return lmx::set_item(k_class, k_items[item_FloatingPointValueType], this, value); }
+
+// DensityType
+
+namespace {
+constexpr lmx::s_event_map k_DensityType_attributes[] = {
+    lmx::attribute_event("DensityStatus", attribute_DensityStatus),
+    lmx::attribute_event("DensityFilter", attribute_DensityFilter),
+    lmx::k_end_of_map,
+};
+}  // namespace
+
+constinit const lmx::s_item DensityType::k_items[] = {
+    {lmx::item_kind::attribute, lmx::value_kind::text, lmx::use_required, lmx::ELMX_WS_PRESERVE, "DensityStatus", attribute_DensityStatus, LMX_OFFSET(DensityType, m_DensityStatus, attribute, text), LMX_FLAG(DensityType, m_isset_DensityStatus), 0, 0, nullptr, &facets::DensityStatusKind, {}},
+    {lmx::item_kind::attribute, lmx::value_kind::text, lmx::use_required, lmx::ELMX_WS_PRESERVE, "DensityFilter", attribute_DensityFilter, LMX_OFFSET(DensityType, m_DensityFilter, attribute, text), LMX_FLAG(DensityType, m_isset_DensityFilter), 0, 0, nullptr, &facets::DensityFilterKind, {}},
+    {lmx::item_kind::content, lmx::value_kind::number, lmx::use_required, lmx::ELMX_WS_COLLAPSE, "", 0, LMX_OFFSET(DensityType, m_DensityType, content, number), LMX_FLAG(DensityType, m_isset_DensityType), 0, 0, nullptr, nullptr, {}},
+};
+constinit const lmx::s_class DensityType::k_class = {
+    .name = "DensityType",
+    .qualified_name = "Vyr:DensityType",
+    .base = nullptr,
+    .content = lmx::content_kind::simple,
+    .may_be_empty = false,
+    .ns_map = k_ns_map,
+    .nil_flag = lmx::k_no_flag,
+    .choice = lmx::k_no_flag,
+    .id = nullptr,
+    .xsi_type = nullptr,
+    .attributes = std::span(k_items).first(std::size(k_DensityType_attributes) - 1),
+    .elements = std::span(k_items).subspan(std::size(k_DensityType_attributes) - 1),
+    .attribute_map = k_DensityType_attributes,
+    .element_map = lmx::k_no_events,
+    .operations = &lmx::k_operations<DensityType>,
+};
+
+DensityType::DensityType() = default;
+DensityType::DensityType(const DensityType& other) { lmx::copy(k_class, this, &other); }
+DensityType::~DensityType() = default;
+DensityType& DensityType::operator=(const DensityType& other) { DensityType copy(other); swap(copy); return *this; }
+void DensityType::swap(DensityType& other) { lmx::swap(k_class, this, &other); }
+void DensityType::reset() { DensityType fresh; swap(fresh); }
+bool DensityType::is_occurs_ok() const { return lmx::is_occurs_ok(k_class, this); }
+lmx::elmx_error DensityType::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
+lmx::elmx_error DensityType::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
+void DensityType::marshal_attributes(lmx::c_xml_writer& writer) const { lmx::marshal_attributes(k_class, this, writer); }
+lmx::elmx_error DensityType::marshal_child_elements(lmx::c_xml_writer& writer) const { return lmx::marshal_child_elements(k_class, this, writer); }
+bool DensityType::unmarshal_attributes(lmx::c_xml_reader& reader, const std::string& name, lmx::elmx_error* error) { return lmx::unmarshal_attribute(k_class, this, reader, name, error); }
+lmx::elmx_error DensityType::unmarshal_attributes_check(lmx::c_xml_reader& reader) { return lmx::check_required_attributes(k_class, this, reader); }
+bool DensityType::unmarshal_body(lmx::c_xml_reader& reader, std::string* name, lmx::elmx_error* error, bool has_body) { return lmx::unmarshal_content(k_class, this, reader, name, error, has_body); }
+lmx::elmx_error DensityType::set_DensityStatus(const std::u16string& value) { return lmx::set_item(k_class, k_items[item_DensityStatus], this, value); }
+Eenum_DensityStatus DensityType::getenum_DensityStatus() const { return static_cast<Eenum_DensityStatus>(lmx::enumerated_number(k_items[item_DensityStatus], get_DensityStatus())); }
+bool DensityType::setenum_DensityStatus(std::int32_t number) { return lmx::set_enumerated(k_class, k_items[item_DensityStatus], this, number); }
+lmx::elmx_error DensityType::set_DensityFilter(const std::u16string& value) { return lmx::set_item(k_class, k_items[item_DensityFilter], this, value); }
+Eenum_DensityFilter DensityType::getenum_DensityFilter() const { return static_cast<Eenum_DensityFilter>(lmx::enumerated_number(k_items[item_DensityFilter], get_DensityFilter())); }
+bool DensityType::setenum_DensityFilter(std::int32_t number) { return lmx::set_enumerated(k_class, k_items[item_DensityFilter], this, number); }
+lmx::elmx_error DensityType::set_DensityType(double value) { return lmx::set_item(k_class, k_items[item_DensityType], this, value); }
+
+}  // namespace com_vyrgraph_v2

@@ -1,0 +1,322 @@
+// Copyright 2026 The Vyr Authors
+// SPDX-License-Identifier: Apache-2.0
+//
+// Made by schema/generator/generate.py from schema/vyr.xsd and schema/binding.toml. Change those instead.
+// clang-format off
+
+/// Tables and members of the classes in samples.h.
+
+#include "schema/generated/samples.h"
+#include "lmx/binding/binding.h"
+#include "lmx/binding/rows.h"
+#include "schema/generated/groups.h"
+#include "schema/generated/header.h"
+#include "schema/generated/tables.h"
+
+// Offsets of members of classes with virtual functions: both compilers define them, and the macros check them.
+#pragma GCC diagnostic ignored "-Winvalid-offsetof"
+
+namespace com_vyrgraph_v2 {
+
+static_assert(lmx::k_binding_version == 1, "run schema/generator/generate.py");
+
+// SampleType
+
+namespace {
+constexpr lmx::s_event_map k_SampleType_elements[] = {
+    lmx::element_event("CustomAttribute", element_CustomAttribute),
+    lmx::element_event("SubstratePaper", element_SubstratePaper),
+    lmx::element_event("SubstrateGeneric", element_SubstrateGeneric),
+    lmx::element_event("SubstrateMetal", element_SubstrateMetal),
+    lmx::element_event("SubstratePlastic", element_SubstratePlastic),
+    lmx::element_event("SubstrateWood", element_SubstrateWood),
+    lmx::element_event("SubstrateVinyl", element_SubstrateVinyl),
+    lmx::element_event("SubstrateTile", element_SubstrateTile),
+    lmx::element_event("SubstrateFilm", element_SubstrateFilm),
+    lmx::element_event("SubstrateTextile", element_SubstrateTextile),
+    lmx::element_event("Backing", element_Backing),
+    lmx::element_event("Manufacturer", element_Manufacturer),
+    lmx::element_event("ProductionDate", element_ProductionDate),
+    lmx::element_event("SerialNumber", element_SerialNumber),
+    lmx::element_event("Comment", element_Comment),
+    lmx::k_end_of_map,
+};
+}  // namespace
+
+constinit const lmx::s_item SampleType::k_items[] = {
+    {lmx::item_kind::child_list, lmx::value_kind::none, lmx::use_optional, lmx::ELMX_WS_PRESERVE, "Vyr:CustomAttribute", element_CustomAttribute, LMX_OFFSET(SampleType, m_CustomAttribute, child_list, none), lmx::k_no_flag, lmx::position_of(k_SampleType_elements, element_CustomAttribute), lmx::position_of(k_SampleType_elements, element_CustomAttribute, 1), &CustomAttributeType::k_class, nullptr, {}},
+    {lmx::item_kind::group, lmx::value_kind::none, lmx::use_asked | lmx::use_written | lmx::use_copied | lmx::use_lax, lmx::ELMX_WS_PRESERVE, "Vyr:Substrate", 0, LMX_OFFSET(SampleType, m_Substrate, group, none), LMX_FLAG(SampleType, m_isset_Substrate), lmx::position_of(k_SampleType_elements, element_SubstratePaper), lmx::position_of(k_SampleType_elements, element_SubstratePaper, 9), &sg_Substrate::k_class, nullptr, {}},
+    {lmx::item_kind::element, lmx::value_kind::text, lmx::use_optional, lmx::ELMX_WS_PRESERVE, "Vyr:Backing", element_Backing, LMX_OFFSET(SampleType, m_Backing, element, text), LMX_FLAG(SampleType, m_isset_Backing), lmx::position_of(k_SampleType_elements, element_Backing), lmx::position_of(k_SampleType_elements, element_Backing, 1), nullptr, &facets::BackingKind, {}},
+    {lmx::item_kind::element, lmx::value_kind::text, lmx::use_optional, lmx::ELMX_WS_PRESERVE, "Vyr:Manufacturer", element_Manufacturer, LMX_OFFSET(SampleType, m_Manufacturer, element, text), LMX_FLAG(SampleType, m_isset_Manufacturer), lmx::position_of(k_SampleType_elements, element_Manufacturer), lmx::position_of(k_SampleType_elements, element_Manufacturer, 1), nullptr, nullptr, {}},
+    {lmx::item_kind::element, lmx::value_kind::datetime, lmx::use_optional, lmx::ELMX_WS_COLLAPSE, "Vyr:ProductionDate", element_ProductionDate, LMX_OFFSET(SampleType, m_ProductionDate, element, datetime), LMX_FLAG(SampleType, m_isset_ProductionDate), lmx::position_of(k_SampleType_elements, element_ProductionDate), lmx::position_of(k_SampleType_elements, element_ProductionDate, 1), nullptr, &facets::DateTimeZone, {}},
+    {lmx::item_kind::element, lmx::value_kind::text, lmx::use_optional, lmx::ELMX_WS_PRESERVE, "Vyr:SerialNumber", element_SerialNumber, LMX_OFFSET(SampleType, m_SerialNumber, element, text), LMX_FLAG(SampleType, m_isset_SerialNumber), lmx::position_of(k_SampleType_elements, element_SerialNumber), lmx::position_of(k_SampleType_elements, element_SerialNumber, 1), nullptr, nullptr, {}},
+    {lmx::item_kind::element, lmx::value_kind::text, lmx::use_optional, lmx::ELMX_WS_PRESERVE, "Vyr:Comment", element_Comment, LMX_OFFSET(SampleType, m_Comment, element, text), LMX_FLAG(SampleType, m_isset_Comment), lmx::position_of(k_SampleType_elements, element_Comment), lmx::position_of(k_SampleType_elements, element_Comment, 1), nullptr, nullptr, {}},
+};
+constinit const lmx::s_factory_row SampleType::k_factory[] = {
+    {"SampleSpotType", &SampleSpotType::k_class},
+    {"SampleTargetType", &SampleTargetType::k_class},
+};
+constinit const lmx::s_class SampleType::k_class = {
+    .name = "SampleType",
+    .qualified_name = "Vyr:SampleType",
+    .base = nullptr,
+    .content = lmx::content_kind::children,
+    .may_be_empty = false,
+    .ns_map = k_ns_map,
+    .nil_flag = lmx::k_no_flag,
+    .choice = lmx::k_no_flag,
+    .id = &SampleType::id,
+    .xsi_type = "Vyr:SampleType",
+    .attributes = std::span(k_items).first(std::size(lmx::k_no_events) - 1),
+    .elements = std::span(k_items).subspan(std::size(lmx::k_no_events) - 1),
+    .attribute_map = lmx::k_no_events,
+    .element_map = k_SampleType_elements,
+    .operations = &lmx::k_operations<SampleType>,
+};
+
+SampleType::SampleType() = default;
+SampleType::SampleType(const SampleType& other) { lmx::copy(k_class, this, &other); }
+SampleType::~SampleType() = default;
+SampleType& SampleType::operator=(const SampleType& other) { SampleType copy(other); swap(copy); return *this; }
+void SampleType::swap(SampleType& other) { lmx::swap(k_class, this, &other); }
+void SampleType::reset() { SampleType fresh; swap(fresh); }
+bool SampleType::is_occurs_ok() const { return lmx::is_occurs_ok(k_class, this); }
+lmx::elmx_error SampleType::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
+lmx::elmx_error SampleType::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
+void SampleType::marshal_attributes(lmx::c_xml_writer& writer) const { lmx::marshal_attributes(k_class, this, writer); }
+lmx::elmx_error SampleType::marshal_child_elements(lmx::c_xml_writer& writer) const { return lmx::marshal_child_elements(k_class, this, writer); }
+bool SampleType::unmarshal_attributes(lmx::c_xml_reader& reader, const std::string& name, lmx::elmx_error* error) { return lmx::unmarshal_attribute(k_class, this, reader, name, error); }
+lmx::elmx_error SampleType::unmarshal_attributes_check(lmx::c_xml_reader& reader) { return lmx::check_required_attributes(k_class, this, reader); }
+bool SampleType::unmarshal_body(lmx::c_xml_reader& reader, std::string* name, lmx::elmx_error* error) { return lmx::unmarshal_body(k_class, this, reader, name, error); }
+namespace { const char k_SampleType_id[] = "SampleType"; }
+const char* SampleType::id = k_SampleType_id;
+SampleType* SampleType::clone() const { return new SampleType(*this); }
+const char* SampleType::getid() const { return id; }
+bool SampleType::has_id(const char* identity) const { return identity == id; }
+SampleType* SampleType::factory(int ns_id, const std::string& name) { return static_cast<SampleType*>(lmx::create_by_name(k_factory, ns_id, name)); }
+CustomAttributeType& SampleType::get_CustomAttribute(std::size_t index) { return m_CustomAttribute.grow_to(index); }
+CustomAttributeType& SampleType::assign_CustomAttribute(std::size_t index, const CustomAttributeType& value) { return get_CustomAttribute(index) = value; }
+lmx::elmx_error SampleType::append_CustomAttribute() { m_CustomAttribute.append(); return lmx::ELMX_OK; }
+lmx::elmx_error SampleType::insert_CustomAttribute(std::size_t index) { m_CustomAttribute.insert(index); return lmx::ELMX_OK; }
+void SampleType::delete_CustomAttribute(std::size_t index) { m_CustomAttribute.erase(index); }
+void SampleType::clear_CustomAttribute() { m_CustomAttribute.clear(); }
+sg_Substrate& SampleType::assign_Substrate(const sg_Substrate& value) { return get_Substrate() = value; }
+lmx::elmx_error SampleType::set_Backing(const std::u16string& value) { return lmx::set_item(k_class, k_items[item_Backing], this, value); }
+Eenum_Backing SampleType::getenum_Backing() const { return static_cast<Eenum_Backing>(lmx::enumerated_number(k_items[item_Backing], get_Backing())); }
+bool SampleType::setenum_Backing(std::int32_t number) { return lmx::set_enumerated(k_class, k_items[item_Backing], this, number); }
+lmx::elmx_error SampleType::set_Manufacturer(const std::u16string& value) { return lmx::set_item(k_class, k_items[item_Manufacturer], this, value); }
+lmx::elmx_error SampleType::set_ProductionDate(const lmx::c_datetime& value) { return lmx::set_item(k_class, k_items[item_ProductionDate], this, value); }
+lmx::elmx_error SampleType::set_SerialNumber(const std::u16string& value) { return lmx::set_item(k_class, k_items[item_SerialNumber], this, value); }
+lmx::elmx_error SampleType::set_Comment(const std::u16string& value) { return lmx::set_item(k_class, k_items[item_Comment], this, value); }
+
+// Sample
+
+lmx::elmx_error Sample::marshal(lmx::c_xml_writer& writer, const char* name) const {
+    writer.conditionally_select_ns_map(k_ns_map);
+    return SampleType::marshal(writer, name);
+}
+lmx::elmx_error Sample::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return SampleType::unmarshal(reader, name); }
+const lmx::s_document Sample::k_document = {"Vyr:Sample", "Sample", k_ns_map, &lmx::k_operations<Sample>};
+const lmx::s_ns_map* Sample::ns_map() { return k_ns_map; }
+lmx::elmx_error Sample::unmarshal(lmx::c_xml_reader& reader) { return lmx::unmarshal_document(k_document, this, reader); }
+
+// Specification
+
+namespace {
+constexpr lmx::s_event_map k_Specification_elements[] = {
+    lmx::element_event("SampleWidth", element_SampleWidth),
+    lmx::element_event("SampleHeight", element_SampleHeight),
+    lmx::k_end_of_map,
+};
+}  // namespace
+
+constinit const lmx::s_item Specification::k_items[] = {
+    {lmx::item_kind::element, lmx::value_kind::number, lmx::use_required, lmx::ELMX_WS_COLLAPSE, "Vyr:SampleWidth", element_SampleWidth, LMX_OFFSET(Specification, m_SampleWidth, element, number), LMX_FLAG(Specification, m_isset_SampleWidth), lmx::position_of(k_Specification_elements, element_SampleWidth), lmx::position_of(k_Specification_elements, element_SampleWidth, 1), nullptr, nullptr, {}},
+    {lmx::item_kind::element, lmx::value_kind::number, lmx::use_required, lmx::ELMX_WS_COLLAPSE, "Vyr:SampleHeight", element_SampleHeight, LMX_OFFSET(Specification, m_SampleHeight, element, number), LMX_FLAG(Specification, m_isset_SampleHeight), lmx::position_of(k_Specification_elements, element_SampleHeight), lmx::position_of(k_Specification_elements, element_SampleHeight, 1), nullptr, nullptr, {}},
+};
+constinit const lmx::s_class Specification::k_class = {
+    .name = "Specification",
+    .qualified_name = "Vyr:Specification",
+    .base = nullptr,
+    .content = lmx::content_kind::children,
+    .may_be_empty = false,
+    .ns_map = nullptr,
+    .nil_flag = lmx::k_no_flag,
+    .choice = lmx::k_no_flag,
+    .id = nullptr,
+    .xsi_type = nullptr,
+    .attributes = std::span(k_items).first(std::size(lmx::k_no_events) - 1),
+    .elements = std::span(k_items).subspan(std::size(lmx::k_no_events) - 1),
+    .attribute_map = lmx::k_no_events,
+    .element_map = k_Specification_elements,
+    .operations = &lmx::k_operations<Specification>,
+};
+
+Specification::Specification() = default;
+Specification::Specification(const Specification& other) { lmx::copy(k_class, this, &other); }
+Specification::~Specification() = default;
+Specification& Specification::operator=(const Specification& other) { Specification copy(other); swap(copy); return *this; }
+void Specification::swap(Specification& other) { lmx::swap(k_class, this, &other); }
+void Specification::reset() { Specification fresh; swap(fresh); }
+bool Specification::is_occurs_ok() const { return lmx::is_occurs_ok(k_class, this); }
+lmx::elmx_error Specification::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
+lmx::elmx_error Specification::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
+void Specification::marshal_attributes(lmx::c_xml_writer& writer) const { lmx::marshal_attributes(k_class, this, writer); }
+lmx::elmx_error Specification::marshal_child_elements(lmx::c_xml_writer& writer) const { return lmx::marshal_child_elements(k_class, this, writer); }
+bool Specification::unmarshal_attributes(lmx::c_xml_reader& reader, const std::string& name, lmx::elmx_error* error) { return lmx::unmarshal_attribute(k_class, this, reader, name, error); }
+lmx::elmx_error Specification::unmarshal_attributes_check(lmx::c_xml_reader& reader) { return lmx::check_required_attributes(k_class, this, reader); }
+bool Specification::unmarshal_body(lmx::c_xml_reader& reader, std::string* name, lmx::elmx_error* error) { return lmx::unmarshal_body(k_class, this, reader, name, error); }
+lmx::elmx_error Specification::set_SampleWidth(double value) { return lmx::set_item(k_class, k_items[item_SampleWidth], this, value); }
+lmx::elmx_error Specification::set_SampleHeight(double value) { return lmx::set_item(k_class, k_items[item_SampleHeight], this, value); }
+
+// SampleSpotType
+
+namespace {
+constexpr lmx::s_event_map k_SampleSpotType_elements[] = {
+    lmx::element_event("Specification", element_Specification),
+    lmx::k_end_of_map,
+};
+}  // namespace
+
+constinit const lmx::s_item SampleSpotType::k_items[] = {
+    {lmx::item_kind::child, lmx::value_kind::none, lmx::use_required, lmx::ELMX_WS_PRESERVE, "Vyr:Specification", element_Specification, LMX_OFFSET(SampleSpotType, m_Specification, child, none), LMX_FLAG(SampleSpotType, m_isset_Specification), lmx::position_of(k_SampleSpotType_elements, element_Specification), lmx::position_of(k_SampleSpotType_elements, element_Specification, 1), &Specification::k_class, nullptr, {}},
+};
+constinit const lmx::s_class SampleSpotType::k_class = {
+    .name = "SampleSpotType",
+    .qualified_name = "Vyr:SampleSpotType",
+    .base = &SampleType::k_class,
+    .content = lmx::content_kind::children,
+    .may_be_empty = false,
+    .ns_map = k_ns_map,
+    .nil_flag = lmx::k_no_flag,
+    .choice = lmx::k_no_flag,
+    .id = &SampleSpotType::id,
+    .xsi_type = "Vyr:SampleSpotType",
+    .attributes = std::span(k_items).first(std::size(lmx::k_no_events) - 1),
+    .elements = std::span(k_items).subspan(std::size(lmx::k_no_events) - 1),
+    .attribute_map = lmx::k_no_events,
+    .element_map = k_SampleSpotType_elements,
+    .operations = &lmx::k_operations<SampleSpotType>,
+};
+
+SampleSpotType::SampleSpotType() = default;
+SampleSpotType::SampleSpotType(const SampleSpotType& other) : SampleType() { lmx::copy(k_class, this, &other); }
+SampleSpotType::~SampleSpotType() = default;
+SampleSpotType& SampleSpotType::operator=(const SampleSpotType& other) { SampleSpotType copy(other); swap(copy); return *this; }
+void SampleSpotType::swap(SampleSpotType& other) { lmx::swap(k_class, this, &other); }
+void SampleSpotType::reset() { SampleSpotType fresh; swap(fresh); }
+bool SampleSpotType::is_occurs_ok() const { return lmx::is_occurs_ok(k_class, this); }
+lmx::elmx_error SampleSpotType::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
+lmx::elmx_error SampleSpotType::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
+void SampleSpotType::marshal_attributes(lmx::c_xml_writer& writer) const { lmx::marshal_attributes(k_class, this, writer); }
+lmx::elmx_error SampleSpotType::marshal_child_elements(lmx::c_xml_writer& writer) const { return lmx::marshal_child_elements(k_class, this, writer); }
+bool SampleSpotType::unmarshal_attributes(lmx::c_xml_reader& reader, const std::string& name, lmx::elmx_error* error) { return lmx::unmarshal_attribute(k_class, this, reader, name, error); }
+lmx::elmx_error SampleSpotType::unmarshal_attributes_check(lmx::c_xml_reader& reader) { return lmx::check_required_attributes(k_class, this, reader); }
+bool SampleSpotType::unmarshal_body(lmx::c_xml_reader& reader, std::string* name, lmx::elmx_error* error) { return lmx::unmarshal_body(k_class, this, reader, name, error); }
+namespace { const char k_SampleSpotType_id[] = "SampleSpotType"; }
+const char* SampleSpotType::id = k_SampleSpotType_id;
+SampleSpotType* SampleSpotType::clone() const { return new SampleSpotType(*this); }
+const char* SampleSpotType::getid() const { return id; }
+bool SampleSpotType::has_id(const char* identity) const { return identity == id || SampleType::has_id(identity); }
+Specification& SampleSpotType::assign_Specification(const Specification& value) { return get_Specification() = value; }
+
+// SampleTargetType
+
+namespace {
+constexpr lmx::s_event_map k_SampleTargetType_attributes[] = {
+    lmx::attribute_event("CustomTarget", attribute_CustomTarget),
+    lmx::k_end_of_map,
+};
+constexpr lmx::s_event_map k_SampleTargetType_elements[] = {
+    lmx::element_event("Target", element_Target),
+    lmx::k_end_of_map,
+};
+}  // namespace
+
+constinit const lmx::s_item SampleTargetType::k_items[] = {
+    {lmx::item_kind::attribute, lmx::value_kind::text, lmx::use_optional, lmx::ELMX_WS_PRESERVE, "CustomTarget", attribute_CustomTarget, LMX_OFFSET(SampleTargetType, m_CustomTarget, attribute, text), LMX_FLAG(SampleTargetType, m_isset_CustomTarget), 0, 0, nullptr, nullptr, {}},
+    {lmx::item_kind::element, lmx::value_kind::text, lmx::use_required, lmx::ELMX_WS_PRESERVE, "Vyr:Target", element_Target, LMX_OFFSET(SampleTargetType, m_Target, element, text), LMX_FLAG(SampleTargetType, m_isset_Target), lmx::position_of(k_SampleTargetType_elements, element_Target), lmx::position_of(k_SampleTargetType_elements, element_Target, 1), nullptr, &facets::TargetKind, {}},
+};
+constinit const lmx::s_class SampleTargetType::k_class = {
+    .name = "SampleTargetType",
+    .qualified_name = "Vyr:SampleTargetType",
+    .base = &SampleType::k_class,
+    .content = lmx::content_kind::children,
+    .may_be_empty = false,
+    .ns_map = k_ns_map,
+    .nil_flag = lmx::k_no_flag,
+    .choice = lmx::k_no_flag,
+    .id = &SampleTargetType::id,
+    .xsi_type = "Vyr:SampleTargetType",
+    .attributes = std::span(k_items).first(std::size(k_SampleTargetType_attributes) - 1),
+    .elements = std::span(k_items).subspan(std::size(k_SampleTargetType_attributes) - 1),
+    .attribute_map = k_SampleTargetType_attributes,
+    .element_map = k_SampleTargetType_elements,
+    .operations = &lmx::k_operations<SampleTargetType>,
+};
+
+SampleTargetType::SampleTargetType() = default;
+SampleTargetType::SampleTargetType(const SampleTargetType& other) : SampleType() { lmx::copy(k_class, this, &other); }
+SampleTargetType::~SampleTargetType() = default;
+SampleTargetType& SampleTargetType::operator=(const SampleTargetType& other) { SampleTargetType copy(other); swap(copy); return *this; }
+void SampleTargetType::swap(SampleTargetType& other) { lmx::swap(k_class, this, &other); }
+void SampleTargetType::reset() { SampleTargetType fresh; swap(fresh); }
+bool SampleTargetType::is_occurs_ok() const { return lmx::is_occurs_ok(k_class, this); }
+lmx::elmx_error SampleTargetType::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
+lmx::elmx_error SampleTargetType::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
+void SampleTargetType::marshal_attributes(lmx::c_xml_writer& writer) const { lmx::marshal_attributes(k_class, this, writer); }
+lmx::elmx_error SampleTargetType::marshal_child_elements(lmx::c_xml_writer& writer) const { return lmx::marshal_child_elements(k_class, this, writer); }
+bool SampleTargetType::unmarshal_attributes(lmx::c_xml_reader& reader, const std::string& name, lmx::elmx_error* error) { return lmx::unmarshal_attribute(k_class, this, reader, name, error); }
+lmx::elmx_error SampleTargetType::unmarshal_attributes_check(lmx::c_xml_reader& reader) { return lmx::check_required_attributes(k_class, this, reader); }
+bool SampleTargetType::unmarshal_body(lmx::c_xml_reader& reader, std::string* name, lmx::elmx_error* error) { return lmx::unmarshal_body(k_class, this, reader, name, error); }
+namespace { const char k_SampleTargetType_id[] = "SampleTargetType"; }
+const char* SampleTargetType::id = k_SampleTargetType_id;
+SampleTargetType* SampleTargetType::clone() const { return new SampleTargetType(*this); }
+const char* SampleTargetType::getid() const { return id; }
+bool SampleTargetType::has_id(const char* identity) const { return identity == id || SampleType::has_id(identity); }
+lmx::elmx_error SampleTargetType::set_CustomTarget(const std::u16string& value) { return lmx::set_item(k_class, k_items[item_CustomTarget], this, value); }
+lmx::elmx_error SampleTargetType::set_Target(const std::u16string& value) { return lmx::set_item(k_class, k_items[item_Target], this, value); }
+Eenum_Target SampleTargetType::getenum_Target() const { return static_cast<Eenum_Target>(lmx::enumerated_number(k_items[item_Target], get_Target())); }
+bool SampleTargetType::setenum_Target(std::int32_t number) { return lmx::set_enumerated(k_class, k_items[item_Target], this, number); }
+
+// SampleSpot
+
+lmx::elmx_error SampleSpot::marshal(lmx::c_xml_writer& writer, const char* name) const {
+    writer.conditionally_select_ns_map(k_ns_map);
+    return SampleSpotType::marshal(writer, name);
+}
+lmx::elmx_error SampleSpot::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return SampleSpotType::unmarshal(reader, name); }
+const lmx::s_document SampleSpot::k_document = {"Vyr:SampleSpot", "SampleSpot", k_ns_map, &lmx::k_operations<SampleSpot>};
+const lmx::s_ns_map* SampleSpot::ns_map() { return k_ns_map; }
+lmx::elmx_error SampleSpot::unmarshal(lmx::c_xml_reader& reader) { return lmx::unmarshal_document(k_document, this, reader); }
+SampleSpot::SampleSpot(const char* file_name, lmx::elmx_error* error) : SampleSpot() { *error = unmarshal(file_name); }
+lmx::elmx_error SampleSpot::unmarshal(const char* file_name) { return lmx::unmarshal_document(k_document, this, file_name); }
+SampleSpot::SampleSpot(const char* data, std::size_t size, lmx::elmx_error* error) : SampleSpot() { *error = unmarshal(data, size); }
+lmx::elmx_error SampleSpot::unmarshal(const char* data, std::size_t size) { return lmx::unmarshal_document(k_document, this, data, size); }
+SampleSpot::SampleSpot(const std::string& text, lmx::elmx_error* error) : SampleSpot() { *error = unmarshal(text.data(), text.size()); }
+lmx::elmx_error SampleSpot::unmarshal(const std::string& text) { return lmx::unmarshal_document(k_document, this, text.data(), text.size()); }
+lmx::elmx_error SampleSpot::marshal(const char* file_name) const { return lmx::marshal_document(k_document, this, file_name); }
+lmx::elmx_error SampleSpot::marshal(std::string* text) const { return lmx::marshal_document(k_document, this, text); }
+lmx::elmx_error SampleSpot::marshal(std::ostream& stream) const { return lmx::marshal_document(k_document, this, stream); }
+
+// SampleTarget
+
+lmx::elmx_error SampleTarget::marshal(lmx::c_xml_writer& writer, const char* name) const {
+    writer.conditionally_select_ns_map(k_ns_map);
+    return SampleTargetType::marshal(writer, name);
+}
+lmx::elmx_error SampleTarget::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return SampleTargetType::unmarshal(reader, name); }
+const lmx::s_document SampleTarget::k_document = {"Vyr:SampleTarget", "SampleTarget", k_ns_map, &lmx::k_operations<SampleTarget>};
+const lmx::s_ns_map* SampleTarget::ns_map() { return k_ns_map; }
+lmx::elmx_error SampleTarget::unmarshal(lmx::c_xml_reader& reader) { return lmx::unmarshal_document(k_document, this, reader); }
+SampleTarget::SampleTarget(const char* file_name, lmx::elmx_error* error) : SampleTarget() { *error = unmarshal(file_name); }
+lmx::elmx_error SampleTarget::unmarshal(const char* file_name) { return lmx::unmarshal_document(k_document, this, file_name); }
+SampleTarget::SampleTarget(const char* data, std::size_t size, lmx::elmx_error* error) : SampleTarget() { *error = unmarshal(data, size); }
+lmx::elmx_error SampleTarget::unmarshal(const char* data, std::size_t size) { return lmx::unmarshal_document(k_document, this, data, size); }
+SampleTarget::SampleTarget(const std::string& text, lmx::elmx_error* error) : SampleTarget() { *error = unmarshal(text.data(), text.size()); }
+lmx::elmx_error SampleTarget::unmarshal(const std::string& text) { return lmx::unmarshal_document(k_document, this, text.data(), text.size()); }
+lmx::elmx_error SampleTarget::marshal(const char* file_name) const { return lmx::marshal_document(k_document, this, file_name); }
+lmx::elmx_error SampleTarget::marshal(std::string* text) const { return lmx::marshal_document(k_document, this, text); }
+lmx::elmx_error SampleTarget::marshal(std::ostream& stream) const { return lmx::marshal_document(k_document, this, stream); }
+
+}  // namespace com_vyrgraph_v2

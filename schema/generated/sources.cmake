@@ -1,0 +1,19 @@
+# Made by python3 schema/generator/generate.py.
+set(generated_sources
+    generated/class_list.cpp
+    generated/color_values.cpp
+    generated/device_color_values.cpp
+    generated/devices.cpp
+    generated/functions.cpp
+    generated/groups.cpp
+    generated/header.cpp
+    generated/palettes.cpp
+    generated/quality_control.cpp
+    generated/recipes.cpp
+    generated/sampled_color_values.cpp
+    generated/samples.cpp
+    generated/specifications.cpp
+    generated/statistics.cpp
+    generated/substrates.cpp
+    generated/tables.cpp
+)

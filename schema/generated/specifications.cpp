@@ -1,0 +1,1453 @@
+// Copyright 2026 The Vyr Authors
+// SPDX-License-Identifier: Apache-2.0
+//
+// Made by schema/generator/generate.py from schema/vyr.xsd and schema/binding.toml. Change those instead.
+// clang-format off
+
+/// Tables and members of the classes in specifications.h.
+
+#include "schema/generated/specifications.h"
+#include "lmx/binding/binding.h"
+#include "lmx/binding/rows.h"
+#include "schema/generated/devices.h"
+#include "schema/generated/header.h"
+#include "schema/generated/tables.h"
+
+// Offsets of members of classes with virtual functions: both compilers define them, and the macros check them.
+#pragma GCC diagnostic ignored "-Winvalid-offsetof"
+
+namespace com_vyrgraph_v2 {
+
+static_assert(lmx::k_binding_version == 1, "run schema/generator/generate.py");
+
+// DeviceFilterType
+
+namespace {
+constexpr lmx::s_event_map k_DeviceFilterType_attributes[] = {
+    lmx::attribute_event("CustomOrPartial", attribute_CustomOrPartial),
+    lmx::k_end_of_map,
+};
+}  // namespace
+
+constinit const lmx::s_item DeviceFilterType::k_items[] = {
+    {lmx::item_kind::attribute, lmx::value_kind::text, lmx::use_optional, lmx::ELMX_WS_PRESERVE, "CustomOrPartial", attribute_CustomOrPartial, LMX_OFFSET(DeviceFilterType, m_CustomOrPartial, attribute, text), LMX_FLAG(DeviceFilterType, m_isset_CustomOrPartial), 0, 0, nullptr, nullptr, {}},
+    {lmx::item_kind::content, lmx::value_kind::text, lmx::use_required, lmx::ELMX_WS_PRESERVE, "", 0, LMX_OFFSET(DeviceFilterType, m_DeviceFilterType, content, text), LMX_FLAG(DeviceFilterType, m_isset_DeviceFilterType), 0, 0, nullptr, &facets::DeviceFilterKind, {}},
+};
+constinit const lmx::s_class DeviceFilterType::k_class = {
+    .name = "DeviceFilterType",
+    .qualified_name = "Vyr:DeviceFilterType",
+    .base = nullptr,
+    .content = lmx::content_kind::simple,
+    .may_be_empty = false,
+    .ns_map = k_ns_map,
+    .nil_flag = lmx::k_no_flag,
+    .choice = lmx::k_no_flag,
+    .id = nullptr,
+    .xsi_type = nullptr,
+    .attributes = std::span(k_items).first(std::size(k_DeviceFilterType_attributes) - 1),
+    .elements = std::span(k_items).subspan(std::size(k_DeviceFilterType_attributes) - 1),
+    .attribute_map = k_DeviceFilterType_attributes,
+    .element_map = lmx::k_no_events,
+    .operations = &lmx::k_operations<DeviceFilterType>,
+};
+
+DeviceFilterType::DeviceFilterType() = default;
+DeviceFilterType::DeviceFilterType(const DeviceFilterType& other) { lmx::copy(k_class, this, &other); }
+DeviceFilterType::~DeviceFilterType() = default;
+DeviceFilterType& DeviceFilterType::operator=(const DeviceFilterType& other) { DeviceFilterType copy(other); swap(copy); return *this; }
+void DeviceFilterType::swap(DeviceFilterType& other) { lmx::swap(k_class, this, &other); }
+void DeviceFilterType::reset() { DeviceFilterType fresh; swap(fresh); }
+bool DeviceFilterType::is_occurs_ok() const { return lmx::is_occurs_ok(k_class, this); }
+lmx::elmx_error DeviceFilterType::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
+lmx::elmx_error DeviceFilterType::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
+void DeviceFilterType::marshal_attributes(lmx::c_xml_writer& writer) const { lmx::marshal_attributes(k_class, this, writer); }
+lmx::elmx_error DeviceFilterType::marshal_child_elements(lmx::c_xml_writer& writer) const { return lmx::marshal_child_elements(k_class, this, writer); }
+bool DeviceFilterType::unmarshal_attributes(lmx::c_xml_reader& reader, const std::string& name, lmx::elmx_error* error) { return lmx::unmarshal_attribute(k_class, this, reader, name, error); }
+lmx::elmx_error DeviceFilterType::unmarshal_attributes_check(lmx::c_xml_reader& reader) { return lmx::check_required_attributes(k_class, this, reader); }
+bool DeviceFilterType::unmarshal_body(lmx::c_xml_reader& reader, std::string* name, lmx::elmx_error* error, bool has_body) { return lmx::unmarshal_content(k_class, this, reader, name, error, has_body); }
+lmx::elmx_error DeviceFilterType::set_CustomOrPartial(const std::u16string& value) { return lmx::set_item(k_class, k_items[item_CustomOrPartial], this, value); }
+lmx::elmx_error DeviceFilterType::set_DeviceFilterType(const std::u16string& value) { return lmx::set_item(k_class, k_items[item_DeviceFilterType], this, value); }
+Eenum_DeviceFilterType DeviceFilterType::getenum_DeviceFilterType() const { return static_cast<Eenum_DeviceFilterType>(lmx::enumerated_number(k_items[item_DeviceFilterType], get_DeviceFilterType())); }
+bool DeviceFilterType::setenum_DeviceFilterType(std::int32_t number) { return lmx::set_enumerated(k_class, k_items[item_DeviceFilterType], this, number); }
+
+// DeviceFilter
+
+constinit const lmx::s_class DeviceFilter::k_class = {
+    .name = "DeviceFilter",
+    .qualified_name = "Vyr:DeviceFilter",
+    .base = &DeviceFilterType::k_class,
+    .content = lmx::content_kind::simple,
+    .may_be_empty = false,
+    .ns_map = nullptr,
+    .nil_flag = LMX_FLAG(DeviceFilter, m_isnil),
+    .choice = lmx::k_no_flag,
+    .id = nullptr,
+    .xsi_type = nullptr,
+    .attributes = {},
+    .elements = {},
+    .attribute_map = lmx::k_no_events,
+    .element_map = lmx::k_no_events,
+    .operations = &lmx::k_operations<DeviceFilter>,
+};
+
+DeviceFilter::DeviceFilter() = default;
+DeviceFilter::DeviceFilter(const DeviceFilter& other) : DeviceFilterType() { lmx::copy(k_class, this, &other); }
+DeviceFilter::~DeviceFilter() = default;
+DeviceFilter& DeviceFilter::operator=(const DeviceFilter& other) { DeviceFilter copy(other); swap(copy); return *this; }
+void DeviceFilter::swap(DeviceFilter& other) { lmx::swap(k_class, this, &other); }
+void DeviceFilter::reset() { DeviceFilter fresh; swap(fresh); }
+bool DeviceFilter::is_occurs_ok() const { return lmx::is_occurs_ok(k_class, this); }
+lmx::elmx_error DeviceFilter::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
+lmx::elmx_error DeviceFilter::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
+void DeviceFilter::marshal_attributes(lmx::c_xml_writer& writer) const { lmx::marshal_attributes(k_class, this, writer); }
+lmx::elmx_error DeviceFilter::marshal_child_elements(lmx::c_xml_writer& writer) const { return lmx::marshal_child_elements(k_class, this, writer); }
+bool DeviceFilter::unmarshal_attributes(lmx::c_xml_reader& reader, const std::string& name, lmx::elmx_error* error) { return lmx::unmarshal_attribute(k_class, this, reader, name, error); }
+lmx::elmx_error DeviceFilter::unmarshal_attributes_check(lmx::c_xml_reader& reader) { return lmx::check_required_attributes(k_class, this, reader); }
+bool DeviceFilter::unmarshal_body(lmx::c_xml_reader& reader, std::string* name, lmx::elmx_error* error, bool has_body) { return lmx::unmarshal_content(k_class, this, reader, name, error, has_body); }
+lmx::elmx_error DeviceFilter::set_DeviceFilterType(const std::u16string& value) {
+    const lmx::elmx_error error = DeviceFilterType::set_DeviceFilterType(value);
+    if (error == lmx::ELMX_OK) m_isnil = false;
+    return error;
+}
+bool DeviceFilter::setenum_DeviceFilterType(std::int32_t number) {
+    const bool is_set = DeviceFilterType::setenum_DeviceFilterType(number);
+    if (is_set) m_isnil = false;
+    return is_set;
+}
+
+// DevicePolarization
+
+constinit const lmx::s_item DevicePolarization::k_items[] = {
+    {lmx::item_kind::content, lmx::value_kind::boolean, lmx::use_required, lmx::ELMX_WS_COLLAPSE, "", 0, LMX_OFFSET(DevicePolarization, m_DevicePolarization, content, boolean), LMX_FLAG(DevicePolarization, m_isset_DevicePolarization), 0, 0, nullptr, nullptr, {}},
+};
+constinit const lmx::s_class DevicePolarization::k_class = {
+    .name = "DevicePolarization",
+    .qualified_name = "Vyr:DevicePolarization",
+    .base = nullptr,
+    .content = lmx::content_kind::simple,
+    .may_be_empty = false,
+    .ns_map = nullptr,
+    .nil_flag = LMX_FLAG(DevicePolarization, m_isnil),
+    .choice = lmx::k_no_flag,
+    .id = nullptr,
+    .xsi_type = nullptr,
+    .attributes = std::span(k_items).first(std::size(lmx::k_no_events) - 1),
+    .elements = std::span(k_items).subspan(std::size(lmx::k_no_events) - 1),
+    .attribute_map = lmx::k_no_events,
+    .element_map = lmx::k_no_events,
+    .operations = &lmx::k_operations<DevicePolarization>,
+};
+
+DevicePolarization::DevicePolarization() = default;
+DevicePolarization::DevicePolarization(const DevicePolarization& other) { lmx::copy(k_class, this, &other); }
+DevicePolarization::~DevicePolarization() = default;
+DevicePolarization& DevicePolarization::operator=(const DevicePolarization& other) { DevicePolarization copy(other); swap(copy); return *this; }
+void DevicePolarization::swap(DevicePolarization& other) { lmx::swap(k_class, this, &other); }
+void DevicePolarization::reset() { DevicePolarization fresh; swap(fresh); }
+bool DevicePolarization::is_occurs_ok() const { return lmx::is_occurs_ok(k_class, this); }
+lmx::elmx_error DevicePolarization::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
+lmx::elmx_error DevicePolarization::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
+void DevicePolarization::marshal_attributes(lmx::c_xml_writer& writer) const { lmx::marshal_attributes(k_class, this, writer); }
+lmx::elmx_error DevicePolarization::marshal_child_elements(lmx::c_xml_writer& writer) const { return lmx::marshal_child_elements(k_class, this, writer); }
+bool DevicePolarization::unmarshal_attributes(lmx::c_xml_reader& reader, const std::string& name, lmx::elmx_error* error) { return lmx::unmarshal_attribute(k_class, this, reader, name, error); }
+lmx::elmx_error DevicePolarization::unmarshal_attributes_check(lmx::c_xml_reader& reader) { return lmx::check_required_attributes(k_class, this, reader); }
+bool DevicePolarization::unmarshal_body(lmx::c_xml_reader& reader, std::string* name, lmx::elmx_error* error, bool has_body) { return lmx::unmarshal_content(k_class, this, reader, name, error, has_body); }
+lmx::elmx_error DevicePolarization::set_DevicePolarization(bool value) { return lmx::set_item(k_class, k_items[item_DevicePolarization], this, value); }
+
+// ColorSpaceSpecificationType
+
+namespace {
+constexpr lmx::s_event_map k_ColorSpaceSpecificationType_attributes[] = {
+    lmx::attribute_event("Comments", attribute_Comments),
+    lmx::attribute_event("UniqueID", attribute_UniqueID),
+    lmx::k_end_of_map,
+};
+constexpr lmx::s_event_map k_ColorSpaceSpecificationType_elements[] = {
+    lmx::element_event("CustomAttribute", element_CustomAttribute),
+    lmx::element_event("Profile", element_Profile),
+    lmx::element_event("Device", element_Device),
+    lmx::element_event("DeviceFilter", element_DeviceFilter),
+    lmx::element_event("DevicePolarization", element_DevicePolarization),
+    lmx::element_event("ChangeHistory", element_ChangeHistory),
+    lmx::k_end_of_map,
+};
+}  // namespace
+
+constinit const lmx::s_item ColorSpaceSpecificationType::k_items[] = {
+    {lmx::item_kind::attribute, lmx::value_kind::text, lmx::use_optional, lmx::ELMX_WS_PRESERVE, "Comments", attribute_Comments, LMX_OFFSET(ColorSpaceSpecificationType, m_Comments, attribute, text), LMX_FLAG(ColorSpaceSpecificationType, m_isset_Comments), 0, 0, nullptr, nullptr, {}},
+    {lmx::item_kind::attribute, lmx::value_kind::text, lmx::use_optional, lmx::ELMX_WS_PRESERVE, "UniqueID", attribute_UniqueID, LMX_OFFSET(ColorSpaceSpecificationType, m_UniqueID, attribute, text), LMX_FLAG(ColorSpaceSpecificationType, m_isset_UniqueID), 0, 0, nullptr, nullptr, {}},
+    {lmx::item_kind::child_list, lmx::value_kind::none, lmx::use_optional, lmx::ELMX_WS_PRESERVE, "Vyr:CustomAttribute", element_CustomAttribute, LMX_OFFSET(ColorSpaceSpecificationType, m_CustomAttribute, child_list, none), lmx::k_no_flag, lmx::position_of(k_ColorSpaceSpecificationType_elements, element_CustomAttribute), lmx::position_of(k_ColorSpaceSpecificationType_elements, element_CustomAttribute, 1), &CustomAttributeType::k_class, nullptr, {}},
+    {lmx::item_kind::child, lmx::value_kind::none, lmx::use_optional, lmx::ELMX_WS_PRESERVE, "Vyr:Profile", element_Profile, LMX_OFFSET(ColorSpaceSpecificationType, m_Profile, child, none), LMX_FLAG(ColorSpaceSpecificationType, m_isset_Profile), lmx::position_of(k_ColorSpaceSpecificationType_elements, element_Profile), lmx::position_of(k_ColorSpaceSpecificationType_elements, element_Profile, 1), &ProfileType::k_class, nullptr, {}},
+    {lmx::item_kind::child, lmx::value_kind::none, lmx::use_optional, lmx::ELMX_WS_PRESERVE, "Vyr:Device", element_Device, LMX_OFFSET(ColorSpaceSpecificationType, m_Device, child, none), LMX_FLAG(ColorSpaceSpecificationType, m_isset_Device), lmx::position_of(k_ColorSpaceSpecificationType_elements, element_Device), lmx::position_of(k_ColorSpaceSpecificationType_elements, element_Device, 1), &DeviceType::k_class, nullptr, {}},
+    {lmx::item_kind::child, lmx::value_kind::none, lmx::use_written, lmx::ELMX_WS_PRESERVE, "Vyr:DeviceFilter", element_DeviceFilter, LMX_OFFSET(ColorSpaceSpecificationType, m_DeviceFilter, child, none), LMX_FLAG(ColorSpaceSpecificationType, m_isset_DeviceFilter), lmx::position_of(k_ColorSpaceSpecificationType_elements, element_DeviceFilter), lmx::position_of(k_ColorSpaceSpecificationType_elements, element_DeviceFilter, 1), &DeviceFilter::k_class, nullptr, {}},
+    {lmx::item_kind::child, lmx::value_kind::none, lmx::use_required, lmx::ELMX_WS_PRESERVE, "Vyr:DevicePolarization", element_DevicePolarization, LMX_OFFSET(ColorSpaceSpecificationType, m_DevicePolarization, child, none), LMX_FLAG(ColorSpaceSpecificationType, m_isset_DevicePolarization), lmx::position_of(k_ColorSpaceSpecificationType_elements, element_DevicePolarization), lmx::position_of(k_ColorSpaceSpecificationType_elements, element_DevicePolarization, 1), &DevicePolarization::k_class, nullptr, {}},
+    {lmx::item_kind::element_list, lmx::value_kind::datetime, lmx::use_demanded | lmx::use_asked, lmx::ELMX_WS_COLLAPSE, "Vyr:ChangeHistory", element_ChangeHistory, LMX_OFFSET(ColorSpaceSpecificationType, m_ChangeHistory, element_list, datetime), lmx::k_no_flag, lmx::position_of(k_ColorSpaceSpecificationType_elements, element_ChangeHistory), lmx::position_of(k_ColorSpaceSpecificationType_elements, element_ChangeHistory, 1), nullptr, &facets::DateTimeZone, {}},
+};
+constinit const lmx::s_factory_row ColorSpaceSpecificationType::k_factory[] = {
+    {"ColorSpaceSpecificationSpectrumType", &ColorSpaceSpecificationSpectrumType::k_class},
+    {"ColorSpaceSpecificationSpectrumGenericType", &ColorSpaceSpecificationSpectrumGenericType::k_class},
+    {"ColorSpaceSpecificationSpectrumTristimulusType", &ColorSpaceSpecificationSpectrumTristimulusType::k_class},
+    {"ColorSpaceSpecificationSpectrumSpectralType", &ColorSpaceSpecificationSpectrumSpectralType::k_class},
+    {"ColorSpaceSpecificationEmissiveType", &ColorSpaceSpecificationEmissiveType::k_class},
+    {"ColorSpaceSpecificationEmissiveGenericType", &ColorSpaceSpecificationEmissiveGenericType::k_class},
+    {"ColorSpaceSpecificationEmissiveTristimulusType", &ColorSpaceSpecificationEmissiveTristimulusType::k_class},
+    {"ColorSpaceSpecificationEmissiveSpectralType", &ColorSpaceSpecificationEmissiveSpectralType::k_class},
+};
+constinit const lmx::s_class ColorSpaceSpecificationType::k_class = {
+    .name = "ColorSpaceSpecificationType",
+    .qualified_name = "Vyr:ColorSpaceSpecificationType",
+    .base = nullptr,
+    .content = lmx::content_kind::children,
+    .may_be_empty = false,
+    .ns_map = k_ns_map,
+    .nil_flag = lmx::k_no_flag,
+    .choice = lmx::k_no_flag,
+    .id = &ColorSpaceSpecificationType::id,
+    .xsi_type = "Vyr:ColorSpaceSpecificationType",
+    .attributes = std::span(k_items).first(std::size(k_ColorSpaceSpecificationType_attributes) - 1),
+    .elements = std::span(k_items).subspan(std::size(k_ColorSpaceSpecificationType_attributes) - 1),
+    .attribute_map = k_ColorSpaceSpecificationType_attributes,
+    .element_map = k_ColorSpaceSpecificationType_elements,
+    .operations = &lmx::k_operations<ColorSpaceSpecificationType>,
+};
+
+ColorSpaceSpecificationType::ColorSpaceSpecificationType() = default;
+ColorSpaceSpecificationType::ColorSpaceSpecificationType(const ColorSpaceSpecificationType& other) { lmx::copy(k_class, this, &other); }
+ColorSpaceSpecificationType::~ColorSpaceSpecificationType() = default;
+ColorSpaceSpecificationType& ColorSpaceSpecificationType::operator=(const ColorSpaceSpecificationType& other) { ColorSpaceSpecificationType copy(other); swap(copy); return *this; }
+void ColorSpaceSpecificationType::swap(ColorSpaceSpecificationType& other) { lmx::swap(k_class, this, &other); }
+void ColorSpaceSpecificationType::reset() { ColorSpaceSpecificationType fresh; swap(fresh); }
+bool ColorSpaceSpecificationType::is_occurs_ok() const { return lmx::is_occurs_ok(k_class, this); }
+lmx::elmx_error ColorSpaceSpecificationType::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
+lmx::elmx_error ColorSpaceSpecificationType::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
+void ColorSpaceSpecificationType::marshal_attributes(lmx::c_xml_writer& writer) const { lmx::marshal_attributes(k_class, this, writer); }
+lmx::elmx_error ColorSpaceSpecificationType::marshal_child_elements(lmx::c_xml_writer& writer) const { return lmx::marshal_child_elements(k_class, this, writer); }
+bool ColorSpaceSpecificationType::unmarshal_attributes(lmx::c_xml_reader& reader, const std::string& name, lmx::elmx_error* error) { return lmx::unmarshal_attribute(k_class, this, reader, name, error); }
+lmx::elmx_error ColorSpaceSpecificationType::unmarshal_attributes_check(lmx::c_xml_reader& reader) { return lmx::check_required_attributes(k_class, this, reader); }
+bool ColorSpaceSpecificationType::unmarshal_body(lmx::c_xml_reader& reader, std::string* name, lmx::elmx_error* error) { return lmx::unmarshal_body(k_class, this, reader, name, error); }
+namespace { const char k_ColorSpaceSpecificationType_id[] = "ColorSpaceSpecificationType"; }
+const char* ColorSpaceSpecificationType::id = k_ColorSpaceSpecificationType_id;
+ColorSpaceSpecificationType* ColorSpaceSpecificationType::clone() const { return new ColorSpaceSpecificationType(*this); }
+const char* ColorSpaceSpecificationType::getid() const { return id; }
+bool ColorSpaceSpecificationType::has_id(const char* identity) const { return identity == id; }
+ColorSpaceSpecificationType* ColorSpaceSpecificationType::factory(int ns_id, const std::string& name) { return static_cast<ColorSpaceSpecificationType*>(lmx::create_by_name(k_factory, ns_id, name)); }
+lmx::elmx_error ColorSpaceSpecificationType::set_Comments(const std::u16string& value) { return lmx::set_item(k_class, k_items[item_Comments], this, value); }
+lmx::elmx_error ColorSpaceSpecificationType::set_UniqueID(const std::u16string& value) { return lmx::set_item(k_class, k_items[item_UniqueID], this, value); }
+CustomAttributeType& ColorSpaceSpecificationType::get_CustomAttribute(std::size_t index) { return m_CustomAttribute.grow_to(index); }
+CustomAttributeType& ColorSpaceSpecificationType::assign_CustomAttribute(std::size_t index, const CustomAttributeType& value) { return get_CustomAttribute(index) = value; }
+lmx::elmx_error ColorSpaceSpecificationType::append_CustomAttribute() { m_CustomAttribute.append(); return lmx::ELMX_OK; }
+lmx::elmx_error ColorSpaceSpecificationType::insert_CustomAttribute(std::size_t index) { m_CustomAttribute.insert(index); return lmx::ELMX_OK; }
+void ColorSpaceSpecificationType::delete_CustomAttribute(std::size_t index) { m_CustomAttribute.erase(index); }
+void ColorSpaceSpecificationType::clear_CustomAttribute() { m_CustomAttribute.clear(); }
+ProfileType& ColorSpaceSpecificationType::assign_Profile(const ProfileType& value) { return get_Profile() = value; }
+DeviceType& ColorSpaceSpecificationType::assign_Device(const DeviceType& value) { return get_Device() = value; }
+DeviceFilter& ColorSpaceSpecificationType::assign_DeviceFilter(const DeviceFilter& value) { return get_DeviceFilter() = value; }
+DevicePolarization& ColorSpaceSpecificationType::assign_DevicePolarization(const DevicePolarization& value) { return get_DevicePolarization() = value; }
+lmx::elmx_error ColorSpaceSpecificationType::set_ChangeHistory(std::size_t index, const lmx::c_datetime& value) { return lmx::set_entry(k_items[item_ChangeHistory], this, index, value); }
+lmx::elmx_error ColorSpaceSpecificationType::append_ChangeHistory(const lmx::c_datetime& value) { return lmx::insert_entry(k_items[item_ChangeHistory], this, size_ChangeHistory(), value); }
+lmx::elmx_error ColorSpaceSpecificationType::insert_ChangeHistory(std::size_t index, const lmx::c_datetime& value) { return lmx::insert_entry(k_items[item_ChangeHistory], this, index, value); }
+void ColorSpaceSpecificationType::delete_ChangeHistory(std::size_t index) { m_ChangeHistory.erase(index); }
+void ColorSpaceSpecificationType::clear_ChangeHistory() { m_ChangeHistory.clear(); }
+
+// SpectrumType
+
+namespace {
+constexpr lmx::s_event_map k_SpectrumType_attributes[] = {
+    lmx::attribute_event("CustomTypeName", attribute_CustomTypeName),
+    lmx::k_end_of_map,
+};
+}  // namespace
+
+constinit const lmx::s_item SpectrumType::k_items[] = {
+    {lmx::item_kind::attribute, lmx::value_kind::text, lmx::use_optional, lmx::ELMX_WS_PRESERVE, "CustomTypeName", attribute_CustomTypeName, LMX_OFFSET(SpectrumType, m_CustomTypeName, attribute, text), LMX_FLAG(SpectrumType, m_isset_CustomTypeName), 0, 0, nullptr, nullptr, {}},
+    {lmx::item_kind::content, lmx::value_kind::text, lmx::use_required, lmx::ELMX_WS_PRESERVE, "", 0, LMX_OFFSET(SpectrumType, m_SpectrumType, content, text), LMX_FLAG(SpectrumType, m_isset_SpectrumType), 0, 0, nullptr, &facets::SpectrumKind, {}},
+};
+constinit const lmx::s_class SpectrumType::k_class = {
+    .name = "SpectrumType",
+    .qualified_name = "Vyr:SpectrumType",
+    .base = nullptr,
+    .content = lmx::content_kind::simple,
+    .may_be_empty = false,
+    .ns_map = k_ns_map,
+    .nil_flag = lmx::k_no_flag,
+    .choice = lmx::k_no_flag,
+    .id = nullptr,
+    .xsi_type = nullptr,
+    .attributes = std::span(k_items).first(std::size(k_SpectrumType_attributes) - 1),
+    .elements = std::span(k_items).subspan(std::size(k_SpectrumType_attributes) - 1),
+    .attribute_map = k_SpectrumType_attributes,
+    .element_map = lmx::k_no_events,
+    .operations = &lmx::k_operations<SpectrumType>,
+};
+
+SpectrumType::SpectrumType() = default;
+SpectrumType::SpectrumType(const SpectrumType& other) { lmx::copy(k_class, this, &other); }
+SpectrumType::~SpectrumType() = default;
+SpectrumType& SpectrumType::operator=(const SpectrumType& other) { SpectrumType copy(other); swap(copy); return *this; }
+void SpectrumType::swap(SpectrumType& other) { lmx::swap(k_class, this, &other); }
+void SpectrumType::reset() { SpectrumType fresh; swap(fresh); }
+bool SpectrumType::is_occurs_ok() const { return lmx::is_occurs_ok(k_class, this); }
+lmx::elmx_error SpectrumType::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
+lmx::elmx_error SpectrumType::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
+void SpectrumType::marshal_attributes(lmx::c_xml_writer& writer) const { lmx::marshal_attributes(k_class, this, writer); }
+lmx::elmx_error SpectrumType::marshal_child_elements(lmx::c_xml_writer& writer) const { return lmx::marshal_child_elements(k_class, this, writer); }
+bool SpectrumType::unmarshal_attributes(lmx::c_xml_reader& reader, const std::string& name, lmx::elmx_error* error) { return lmx::unmarshal_attribute(k_class, this, reader, name, error); }
+lmx::elmx_error SpectrumType::unmarshal_attributes_check(lmx::c_xml_reader& reader) { return lmx::check_required_attributes(k_class, this, reader); }
+bool SpectrumType::unmarshal_body(lmx::c_xml_reader& reader, std::string* name, lmx::elmx_error* error, bool has_body) { return lmx::unmarshal_content(k_class, this, reader, name, error, has_body); }
+lmx::elmx_error SpectrumType::set_CustomTypeName(const std::u16string& value) { return lmx::set_item(k_class, k_items[item_CustomTypeName], this, value); }
+lmx::elmx_error SpectrumType::set_SpectrumType(const std::u16string& value) { return lmx::set_item(k_class, k_items[item_SpectrumType], this, value); }
+Eenum_SpectrumType SpectrumType::getenum_SpectrumType() const { return static_cast<Eenum_SpectrumType>(lmx::enumerated_number(k_items[item_SpectrumType], get_SpectrumType())); }
+bool SpectrumType::setenum_SpectrumType(std::int32_t number) { return lmx::set_enumerated(k_class, k_items[item_SpectrumType], this, number); }
+
+// ColorSpaceSpecificationSpectrumType
+
+namespace {
+constexpr lmx::s_event_map k_ColorSpaceSpecificationSpectrumType_elements[] = {
+    lmx::element_event("Spectrum", element_Spectrum),
+    lmx::k_end_of_map,
+};
+}  // namespace
+
+constinit const lmx::s_item ColorSpaceSpecificationSpectrumType::k_items[] = {
+    {lmx::item_kind::child, lmx::value_kind::none, lmx::use_required, lmx::ELMX_WS_PRESERVE, "Vyr:Spectrum", element_Spectrum, LMX_OFFSET(ColorSpaceSpecificationSpectrumType, m_Spectrum, child, none), LMX_FLAG(ColorSpaceSpecificationSpectrumType, m_isset_Spectrum), lmx::position_of(k_ColorSpaceSpecificationSpectrumType_elements, element_Spectrum), lmx::position_of(k_ColorSpaceSpecificationSpectrumType_elements, element_Spectrum, 1), &SpectrumType::k_class, nullptr, {}},
+};
+constinit const lmx::s_factory_row ColorSpaceSpecificationSpectrumType::k_factory[] = {
+    {"ColorSpaceSpecificationSpectrumType", &ColorSpaceSpecificationSpectrumType::k_class},
+    {"ColorSpaceSpecificationSpectrumGenericType", &ColorSpaceSpecificationSpectrumGenericType::k_class},
+    {"ColorSpaceSpecificationSpectrumTristimulusType", &ColorSpaceSpecificationSpectrumTristimulusType::k_class},
+    {"ColorSpaceSpecificationSpectrumSpectralType", &ColorSpaceSpecificationSpectrumSpectralType::k_class},
+};
+constinit const lmx::s_class ColorSpaceSpecificationSpectrumType::k_class = {
+    .name = "ColorSpaceSpecificationSpectrumType",
+    .qualified_name = "Vyr:ColorSpaceSpecificationSpectrumType",
+    .base = &ColorSpaceSpecificationType::k_class,
+    .content = lmx::content_kind::children,
+    .may_be_empty = false,
+    .ns_map = k_ns_map,
+    .nil_flag = lmx::k_no_flag,
+    .choice = lmx::k_no_flag,
+    .id = &ColorSpaceSpecificationSpectrumType::id,
+    .xsi_type = "Vyr:ColorSpaceSpecificationSpectrumType",
+    .attributes = std::span(k_items).first(std::size(lmx::k_no_events) - 1),
+    .elements = std::span(k_items).subspan(std::size(lmx::k_no_events) - 1),
+    .attribute_map = lmx::k_no_events,
+    .element_map = k_ColorSpaceSpecificationSpectrumType_elements,
+    .operations = &lmx::k_operations<ColorSpaceSpecificationSpectrumType>,
+};
+
+ColorSpaceSpecificationSpectrumType::ColorSpaceSpecificationSpectrumType() = default;
+ColorSpaceSpecificationSpectrumType::ColorSpaceSpecificationSpectrumType(const ColorSpaceSpecificationSpectrumType& other) : ColorSpaceSpecificationType() { lmx::copy(k_class, this, &other); }
+ColorSpaceSpecificationSpectrumType::~ColorSpaceSpecificationSpectrumType() = default;
+ColorSpaceSpecificationSpectrumType& ColorSpaceSpecificationSpectrumType::operator=(const ColorSpaceSpecificationSpectrumType& other) { ColorSpaceSpecificationSpectrumType copy(other); swap(copy); return *this; }
+void ColorSpaceSpecificationSpectrumType::swap(ColorSpaceSpecificationSpectrumType& other) { lmx::swap(k_class, this, &other); }
+void ColorSpaceSpecificationSpectrumType::reset() { ColorSpaceSpecificationSpectrumType fresh; swap(fresh); }
+bool ColorSpaceSpecificationSpectrumType::is_occurs_ok() const { return lmx::is_occurs_ok(k_class, this); }
+lmx::elmx_error ColorSpaceSpecificationSpectrumType::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
+lmx::elmx_error ColorSpaceSpecificationSpectrumType::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
+void ColorSpaceSpecificationSpectrumType::marshal_attributes(lmx::c_xml_writer& writer) const { lmx::marshal_attributes(k_class, this, writer); }
+lmx::elmx_error ColorSpaceSpecificationSpectrumType::marshal_child_elements(lmx::c_xml_writer& writer) const { return lmx::marshal_child_elements(k_class, this, writer); }
+bool ColorSpaceSpecificationSpectrumType::unmarshal_attributes(lmx::c_xml_reader& reader, const std::string& name, lmx::elmx_error* error) { return lmx::unmarshal_attribute(k_class, this, reader, name, error); }
+lmx::elmx_error ColorSpaceSpecificationSpectrumType::unmarshal_attributes_check(lmx::c_xml_reader& reader) { return lmx::check_required_attributes(k_class, this, reader); }
+bool ColorSpaceSpecificationSpectrumType::unmarshal_body(lmx::c_xml_reader& reader, std::string* name, lmx::elmx_error* error) { return lmx::unmarshal_body(k_class, this, reader, name, error); }
+namespace { const char k_ColorSpaceSpecificationSpectrumType_id[] = "ColorSpaceSpecificationSpectrumType"; }
+const char* ColorSpaceSpecificationSpectrumType::id = k_ColorSpaceSpecificationSpectrumType_id;
+ColorSpaceSpecificationSpectrumType* ColorSpaceSpecificationSpectrumType::clone() const { return new ColorSpaceSpecificationSpectrumType(*this); }
+const char* ColorSpaceSpecificationSpectrumType::getid() const { return id; }
+bool ColorSpaceSpecificationSpectrumType::has_id(const char* identity) const { return identity == id || ColorSpaceSpecificationType::has_id(identity); }
+ColorSpaceSpecificationSpectrumType* ColorSpaceSpecificationSpectrumType::factory(int ns_id, const std::string& name) { return static_cast<ColorSpaceSpecificationSpectrumType*>(lmx::create_by_name(k_factory, ns_id, name)); }
+SpectrumType& ColorSpaceSpecificationSpectrumType::assign_Spectrum(const SpectrumType& value) { return get_Spectrum() = value; }
+
+// ColorSpaceSpecificationEmissiveType
+
+namespace {
+constexpr lmx::s_event_map k_ColorSpaceSpecificationEmissiveType_elements[] = {
+    lmx::element_event("EmissiveType", element_EmissiveType),
+    lmx::element_event("EmissiveMode", element_EmissiveMode),
+    lmx::k_end_of_map,
+};
+}  // namespace
+
+constinit const lmx::s_item ColorSpaceSpecificationEmissiveType::k_items[] = {
+    {lmx::item_kind::element, lmx::value_kind::text, lmx::use_required, lmx::ELMX_WS_PRESERVE, "Vyr:EmissiveType", element_EmissiveType, LMX_OFFSET(ColorSpaceSpecificationEmissiveType, m_EmissiveType, element, text), LMX_FLAG(ColorSpaceSpecificationEmissiveType, m_isset_EmissiveType), lmx::position_of(k_ColorSpaceSpecificationEmissiveType_elements, element_EmissiveType), lmx::position_of(k_ColorSpaceSpecificationEmissiveType_elements, element_EmissiveType, 1), nullptr, &facets::EmissiveKind, {}},
+    {lmx::item_kind::element, lmx::value_kind::text, lmx::use_required, lmx::ELMX_WS_PRESERVE, "Vyr:EmissiveMode", element_EmissiveMode, LMX_OFFSET(ColorSpaceSpecificationEmissiveType, m_EmissiveMode, element, text), LMX_FLAG(ColorSpaceSpecificationEmissiveType, m_isset_EmissiveMode), lmx::position_of(k_ColorSpaceSpecificationEmissiveType_elements, element_EmissiveMode), lmx::position_of(k_ColorSpaceSpecificationEmissiveType_elements, element_EmissiveMode, 1), nullptr, &facets::EmissiveModeKind, {}},
+};
+constinit const lmx::s_factory_row ColorSpaceSpecificationEmissiveType::k_factory[] = {
+    {"ColorSpaceSpecificationEmissiveType", &ColorSpaceSpecificationEmissiveType::k_class},
+    {"ColorSpaceSpecificationEmissiveGenericType", &ColorSpaceSpecificationEmissiveGenericType::k_class},
+    {"ColorSpaceSpecificationEmissiveTristimulusType", &ColorSpaceSpecificationEmissiveTristimulusType::k_class},
+    {"ColorSpaceSpecificationEmissiveSpectralType", &ColorSpaceSpecificationEmissiveSpectralType::k_class},
+};
+constinit const lmx::s_class ColorSpaceSpecificationEmissiveType::k_class = {
+    .name = "ColorSpaceSpecificationEmissiveType",
+    .qualified_name = "Vyr:ColorSpaceSpecificationEmissiveType",
+    .base = &ColorSpaceSpecificationType::k_class,
+    .content = lmx::content_kind::children,
+    .may_be_empty = false,
+    .ns_map = k_ns_map,
+    .nil_flag = lmx::k_no_flag,
+    .choice = lmx::k_no_flag,
+    .id = &ColorSpaceSpecificationEmissiveType::id,
+    .xsi_type = "Vyr:ColorSpaceSpecificationEmissiveType",
+    .attributes = std::span(k_items).first(std::size(lmx::k_no_events) - 1),
+    .elements = std::span(k_items).subspan(std::size(lmx::k_no_events) - 1),
+    .attribute_map = lmx::k_no_events,
+    .element_map = k_ColorSpaceSpecificationEmissiveType_elements,
+    .operations = &lmx::k_operations<ColorSpaceSpecificationEmissiveType>,
+};
+
+ColorSpaceSpecificationEmissiveType::ColorSpaceSpecificationEmissiveType() = default;
+ColorSpaceSpecificationEmissiveType::ColorSpaceSpecificationEmissiveType(const ColorSpaceSpecificationEmissiveType& other) : ColorSpaceSpecificationType() { lmx::copy(k_class, this, &other); }
+ColorSpaceSpecificationEmissiveType::~ColorSpaceSpecificationEmissiveType() = default;
+ColorSpaceSpecificationEmissiveType& ColorSpaceSpecificationEmissiveType::operator=(const ColorSpaceSpecificationEmissiveType& other) { ColorSpaceSpecificationEmissiveType copy(other); swap(copy); return *this; }
+void ColorSpaceSpecificationEmissiveType::swap(ColorSpaceSpecificationEmissiveType& other) { lmx::swap(k_class, this, &other); }
+void ColorSpaceSpecificationEmissiveType::reset() { ColorSpaceSpecificationEmissiveType fresh; swap(fresh); }
+bool ColorSpaceSpecificationEmissiveType::is_occurs_ok() const { return lmx::is_occurs_ok(k_class, this); }
+lmx::elmx_error ColorSpaceSpecificationEmissiveType::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
+lmx::elmx_error ColorSpaceSpecificationEmissiveType::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
+void ColorSpaceSpecificationEmissiveType::marshal_attributes(lmx::c_xml_writer& writer) const { lmx::marshal_attributes(k_class, this, writer); }
+lmx::elmx_error ColorSpaceSpecificationEmissiveType::marshal_child_elements(lmx::c_xml_writer& writer) const { return lmx::marshal_child_elements(k_class, this, writer); }
+bool ColorSpaceSpecificationEmissiveType::unmarshal_attributes(lmx::c_xml_reader& reader, const std::string& name, lmx::elmx_error* error) { return lmx::unmarshal_attribute(k_class, this, reader, name, error); }
+lmx::elmx_error ColorSpaceSpecificationEmissiveType::unmarshal_attributes_check(lmx::c_xml_reader& reader) { return lmx::check_required_attributes(k_class, this, reader); }
+bool ColorSpaceSpecificationEmissiveType::unmarshal_body(lmx::c_xml_reader& reader, std::string* name, lmx::elmx_error* error) { return lmx::unmarshal_body(k_class, this, reader, name, error); }
+namespace { const char k_ColorSpaceSpecificationEmissiveType_id[] = "ColorSpaceSpecificationEmissiveType"; }
+const char* ColorSpaceSpecificationEmissiveType::id = k_ColorSpaceSpecificationEmissiveType_id;
+ColorSpaceSpecificationEmissiveType* ColorSpaceSpecificationEmissiveType::clone() const { return new ColorSpaceSpecificationEmissiveType(*this); }
+const char* ColorSpaceSpecificationEmissiveType::getid() const { return id; }
+bool ColorSpaceSpecificationEmissiveType::has_id(const char* identity) const { return identity == id || ColorSpaceSpecificationType::has_id(identity); }
+ColorSpaceSpecificationEmissiveType* ColorSpaceSpecificationEmissiveType::factory(int ns_id, const std::string& name) { return static_cast<ColorSpaceSpecificationEmissiveType*>(lmx::create_by_name(k_factory, ns_id, name)); }
+lmx::elmx_error ColorSpaceSpecificationEmissiveType::set_EmissiveType(const std::u16string& value) { return lmx::set_item(k_class, k_items[item_EmissiveType], this, value); }
+Eenum_EmissiveType ColorSpaceSpecificationEmissiveType::getenum_EmissiveType() const { return static_cast<Eenum_EmissiveType>(lmx::enumerated_number(k_items[item_EmissiveType], get_EmissiveType())); }
+bool ColorSpaceSpecificationEmissiveType::setenum_EmissiveType(std::int32_t number) { return lmx::set_enumerated(k_class, k_items[item_EmissiveType], this, number); }
+lmx::elmx_error ColorSpaceSpecificationEmissiveType::set_EmissiveMode(const std::u16string& value) { return lmx::set_item(k_class, k_items[item_EmissiveMode], this, value); }
+Eenum_EmissiveMode ColorSpaceSpecificationEmissiveType::getenum_EmissiveMode() const { return static_cast<Eenum_EmissiveMode>(lmx::enumerated_number(k_items[item_EmissiveMode], get_EmissiveMode())); }
+bool ColorSpaceSpecificationEmissiveType::setenum_EmissiveMode(std::int32_t number) { return lmx::set_enumerated(k_class, k_items[item_EmissiveMode], this, number); }
+
+// GeometryChoiceType
+
+namespace {
+constexpr lmx::s_event_map k_GeometryChoiceType_elements[] = {
+    lmx::element_event("SphereGeometry", element_SphereGeometry),
+    lmx::element_event("Angle", element_Angle),
+    lmx::element_event("UnknownGeometry", element_UnknownGeometry),
+    lmx::element_event("BSDFAngle", element_BSDFAngle),
+    lmx::k_end_of_map,
+};
+}  // namespace
+
+constinit const lmx::s_item GeometryChoiceType::k_items[] = {
+    {lmx::item_kind::alternative, lmx::value_kind::text, lmx::use_optional, lmx::ELMX_WS_PRESERVE, "Vyr:SphereGeometry", element_SphereGeometry, 0, lmx::k_no_flag, lmx::position_of(k_GeometryChoiceType_elements, element_SphereGeometry), lmx::position_of(k_GeometryChoiceType_elements, element_SphereGeometry, 1), nullptr, &facets::SphereGeometryKind, {}},
+    {lmx::item_kind::alternative, lmx::value_kind::number, lmx::use_optional, lmx::ELMX_WS_COLLAPSE, "Vyr:Angle", element_Angle, 0, lmx::k_no_flag, lmx::position_of(k_GeometryChoiceType_elements, element_Angle), lmx::position_of(k_GeometryChoiceType_elements, element_Angle, 1), nullptr, nullptr, {}},
+    {lmx::item_kind::alternative, lmx::value_kind::text, lmx::use_optional, lmx::ELMX_WS_PRESERVE, "Vyr:UnknownGeometry", element_UnknownGeometry, 0, lmx::k_no_flag, lmx::position_of(k_GeometryChoiceType_elements, element_UnknownGeometry), lmx::position_of(k_GeometryChoiceType_elements, element_UnknownGeometry, 1), nullptr, &facets::NonEmptyString, {}},
+    {lmx::item_kind::alternative, lmx::value_kind::none, lmx::use_optional, lmx::ELMX_WS_PRESERVE, "Vyr:BSDFAngle", element_BSDFAngle, 0, lmx::k_no_flag, lmx::position_of(k_GeometryChoiceType_elements, element_BSDFAngle), lmx::position_of(k_GeometryChoiceType_elements, element_BSDFAngle, 1), &BSDFAngle::k_class, nullptr, {}},
+};
+constinit const lmx::s_class GeometryChoiceType::k_class = {
+    .name = "GeometryChoiceType",
+    .qualified_name = "Vyr:GeometryChoiceType",
+    .base = nullptr,
+    .content = lmx::content_kind::choice,
+    .may_be_empty = false,
+    .ns_map = k_ns_map,
+    .nil_flag = lmx::k_no_flag,
+    .choice = LMX_CHOICE(GeometryChoiceType, m_choice),
+    .id = nullptr,
+    .xsi_type = nullptr,
+    .attributes = std::span(k_items).first(std::size(lmx::k_no_events) - 1),
+    .elements = std::span(k_items).subspan(std::size(lmx::k_no_events) - 1),
+    .attribute_map = lmx::k_no_events,
+    .element_map = k_GeometryChoiceType_elements,
+    .operations = &lmx::k_operations<GeometryChoiceType>,
+};
+
+GeometryChoiceType::GeometryChoiceType() = default;
+GeometryChoiceType::GeometryChoiceType(const GeometryChoiceType& other) { lmx::copy(k_class, this, &other); }
+GeometryChoiceType::~GeometryChoiceType() { lmx::release_choice(k_class, this); }
+GeometryChoiceType& GeometryChoiceType::operator=(const GeometryChoiceType& other) { GeometryChoiceType copy(other); swap(copy); return *this; }
+void GeometryChoiceType::swap(GeometryChoiceType& other) { lmx::swap(k_class, this, &other); }
+void GeometryChoiceType::reset() { GeometryChoiceType fresh; swap(fresh); }
+bool GeometryChoiceType::is_occurs_ok() const { return lmx::is_occurs_ok(k_class, this); }
+lmx::elmx_error GeometryChoiceType::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
+lmx::elmx_error GeometryChoiceType::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
+void GeometryChoiceType::marshal_attributes(lmx::c_xml_writer& writer) const { lmx::marshal_attributes(k_class, this, writer); }
+lmx::elmx_error GeometryChoiceType::marshal_child_elements(lmx::c_xml_writer& writer) const { return lmx::marshal_child_elements(k_class, this, writer); }
+bool GeometryChoiceType::unmarshal_attributes(lmx::c_xml_reader& reader, const std::string& name, lmx::elmx_error* error) { return lmx::unmarshal_attribute(k_class, this, reader, name, error); }
+lmx::elmx_error GeometryChoiceType::unmarshal_attributes_check(lmx::c_xml_reader& reader) { return lmx::check_required_attributes(k_class, this, reader); }
+bool GeometryChoiceType::unmarshal_body(lmx::c_xml_reader& reader, std::string* name, lmx::elmx_error* error) { return lmx::unmarshal_body(k_class, this, reader, name, error); }
+const std::u16string& GeometryChoiceType::get_SphereGeometry() const { return lmx::chosen_text(k_class, k_items[item_SphereGeometry], this); }
+lmx::elmx_error GeometryChoiceType::set_SphereGeometry(const std::u16string& value) { return lmx::set_item(k_class, k_items[item_SphereGeometry], this, value); }
+Eenum_SphereGeometry GeometryChoiceType::getenum_SphereGeometry() const { return static_cast<Eenum_SphereGeometry>(lmx::enumerated_number(k_items[item_SphereGeometry], get_SphereGeometry())); }
+bool GeometryChoiceType::setenum_SphereGeometry(std::int32_t number) { return lmx::set_enumerated(k_class, k_items[item_SphereGeometry], this, number); }
+lmx::elmx_error GeometryChoiceType::set_Angle(double value) { return lmx::set_item(k_class, k_items[item_Angle], this, value); }
+const std::u16string& GeometryChoiceType::get_UnknownGeometry() const { return lmx::chosen_text(k_class, k_items[item_UnknownGeometry], this); }
+lmx::elmx_error GeometryChoiceType::set_UnknownGeometry(const std::u16string& value) { return lmx::set_item(k_class, k_items[item_UnknownGeometry], this, value); }
+BSDFAngle& GeometryChoiceType::get_BSDFAngle() { return *static_cast<BSDFAngle*>(lmx::choose(k_class, k_items[item_BSDFAngle], this)); }
+BSDFAngle& GeometryChoiceType::assign_BSDFAngle(const BSDFAngle& value) { return get_BSDFAngle() = value; }
+
+// IlluminationOptionsType
+
+namespace {
+constexpr lmx::s_event_map k_IlluminationOptionsType_attributes[] = {
+    lmx::attribute_event("Description", attribute_Description),
+    lmx::k_end_of_map,
+};
+constexpr lmx::s_event_map k_IlluminationOptionsType_elements[] = {
+    lmx::element_event("Illuminant", element_Illuminant),
+    lmx::element_event("WhitePointChromaticity", element_WhitePointChromaticity),
+    lmx::element_event("ColorTemperature", element_ColorTemperature),
+    lmx::k_end_of_map,
+};
+}  // namespace
+
+constinit const lmx::s_item IlluminationOptionsType::k_items[] = {
+    {lmx::item_kind::attribute, lmx::value_kind::text, lmx::use_optional, lmx::ELMX_WS_PRESERVE, "Description", attribute_Description, LMX_OFFSET(IlluminationOptionsType, m_Description, attribute, text), LMX_FLAG(IlluminationOptionsType, m_isset_Description), 0, 0, nullptr, nullptr, {}},
+    {lmx::item_kind::alternative, lmx::value_kind::none, lmx::use_optional, lmx::ELMX_WS_PRESERVE, "Vyr:Illuminant", element_Illuminant, 0, lmx::k_no_flag, lmx::position_of(k_IlluminationOptionsType_elements, element_Illuminant), lmx::position_of(k_IlluminationOptionsType_elements, element_Illuminant, 1), &Illuminant::k_class, nullptr, {}},
+    {lmx::item_kind::alternative, lmx::value_kind::none, lmx::use_optional, lmx::ELMX_WS_PRESERVE, "Vyr:WhitePointChromaticity", element_WhitePointChromaticity, 0, lmx::k_no_flag, lmx::position_of(k_IlluminationOptionsType_elements, element_WhitePointChromaticity), lmx::position_of(k_IlluminationOptionsType_elements, element_WhitePointChromaticity, 1), &WhitePointChromaticity::k_class, nullptr, {}},
+    {lmx::item_kind::alternative, lmx::value_kind::uint32, lmx::use_optional, lmx::ELMX_WS_COLLAPSE, "Vyr:ColorTemperature", element_ColorTemperature, 0, lmx::k_no_flag, lmx::position_of(k_IlluminationOptionsType_elements, element_ColorTemperature), lmx::position_of(k_IlluminationOptionsType_elements, element_ColorTemperature, 1), nullptr, &facets::PositiveInt32, {}},
+};
+constinit const lmx::s_class IlluminationOptionsType::k_class = {
+    .name = "IlluminationOptionsType",
+    .qualified_name = "Vyr:IlluminationOptionsType",
+    .base = nullptr,
+    .content = lmx::content_kind::choice,
+    .may_be_empty = false,
+    .ns_map = k_ns_map,
+    .nil_flag = lmx::k_no_flag,
+    .choice = LMX_CHOICE(IlluminationOptionsType, m_choice),
+    .id = nullptr,
+    .xsi_type = nullptr,
+    .attributes = std::span(k_items).first(std::size(k_IlluminationOptionsType_attributes) - 1),
+    .elements = std::span(k_items).subspan(std::size(k_IlluminationOptionsType_attributes) - 1),
+    .attribute_map = k_IlluminationOptionsType_attributes,
+    .element_map = k_IlluminationOptionsType_elements,
+    .operations = &lmx::k_operations<IlluminationOptionsType>,
+};
+
+IlluminationOptionsType::IlluminationOptionsType() = default;
+IlluminationOptionsType::IlluminationOptionsType(const IlluminationOptionsType& other) { lmx::copy(k_class, this, &other); }
+IlluminationOptionsType::~IlluminationOptionsType() { lmx::release_choice(k_class, this); }
+IlluminationOptionsType& IlluminationOptionsType::operator=(const IlluminationOptionsType& other) { IlluminationOptionsType copy(other); swap(copy); return *this; }
+void IlluminationOptionsType::swap(IlluminationOptionsType& other) { lmx::swap(k_class, this, &other); }
+void IlluminationOptionsType::reset() { IlluminationOptionsType fresh; swap(fresh); }
+bool IlluminationOptionsType::is_occurs_ok() const { return lmx::is_occurs_ok(k_class, this); }
+lmx::elmx_error IlluminationOptionsType::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
+lmx::elmx_error IlluminationOptionsType::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
+void IlluminationOptionsType::marshal_attributes(lmx::c_xml_writer& writer) const { lmx::marshal_attributes(k_class, this, writer); }
+lmx::elmx_error IlluminationOptionsType::marshal_child_elements(lmx::c_xml_writer& writer) const { return lmx::marshal_child_elements(k_class, this, writer); }
+bool IlluminationOptionsType::unmarshal_attributes(lmx::c_xml_reader& reader, const std::string& name, lmx::elmx_error* error) { return lmx::unmarshal_attribute(k_class, this, reader, name, error); }
+lmx::elmx_error IlluminationOptionsType::unmarshal_attributes_check(lmx::c_xml_reader& reader) { return lmx::check_required_attributes(k_class, this, reader); }
+bool IlluminationOptionsType::unmarshal_body(lmx::c_xml_reader& reader, std::string* name, lmx::elmx_error* error) { return lmx::unmarshal_body(k_class, this, reader, name, error); }
+lmx::elmx_error IlluminationOptionsType::set_Description(const std::u16string& value) { return lmx::set_item(k_class, k_items[item_Description], this, value); }
+Illuminant& IlluminationOptionsType::get_Illuminant() { return *static_cast<Illuminant*>(lmx::choose(k_class, k_items[item_Illuminant], this)); }
+Illuminant& IlluminationOptionsType::assign_Illuminant(const Illuminant& value) { return get_Illuminant() = value; }
+WhitePointChromaticity& IlluminationOptionsType::get_WhitePointChromaticity() { return *static_cast<WhitePointChromaticity*>(lmx::choose(k_class, k_items[item_WhitePointChromaticity], this)); }
+WhitePointChromaticity& IlluminationOptionsType::assign_WhitePointChromaticity(const WhitePointChromaticity& value) { return get_WhitePointChromaticity() = value; }
+lmx::elmx_error IlluminationOptionsType::set_ColorTemperature(std::uint32_t value) { return lmx::set_item(k_class, k_items[item_ColorTemperature], this, value); }
+
+// ColorSpaceSpecificationSpectrumGenericType
+
+namespace {
+constexpr lmx::s_event_map k_ColorSpaceSpecificationSpectrumGenericType_elements[] = {
+    lmx::element_event("GeometryChoice", element_GeometryChoice),
+    lmx::element_event("IlluminationOptions", element_IlluminationOptions),
+    lmx::element_event("FieldOfView", element_FieldOfView),
+    lmx::element_event("ASTM_Table", element_ASTM_Table),
+    lmx::element_event("Gamma", element_Gamma),
+    lmx::element_event("DensityStatus", element_DensityStatus),
+    lmx::k_end_of_map,
+};
+}  // namespace
+
+constinit const lmx::s_item ColorSpaceSpecificationSpectrumGenericType::k_items[] = {
+    {lmx::item_kind::child, lmx::value_kind::none, lmx::use_optional, lmx::ELMX_WS_PRESERVE, "Vyr:GeometryChoice", element_GeometryChoice, LMX_OFFSET(ColorSpaceSpecificationSpectrumGenericType, m_GeometryChoice, child, none), LMX_FLAG(ColorSpaceSpecificationSpectrumGenericType, m_isset_GeometryChoice), lmx::position_of(k_ColorSpaceSpecificationSpectrumGenericType_elements, element_GeometryChoice), lmx::position_of(k_ColorSpaceSpecificationSpectrumGenericType_elements, element_GeometryChoice, 1), &GeometryChoiceType::k_class, nullptr, {}},
+    {lmx::item_kind::child, lmx::value_kind::none, lmx::use_optional, lmx::ELMX_WS_PRESERVE, "Vyr:IlluminationOptions", element_IlluminationOptions, LMX_OFFSET(ColorSpaceSpecificationSpectrumGenericType, m_IlluminationOptions, child, none), LMX_FLAG(ColorSpaceSpecificationSpectrumGenericType, m_isset_IlluminationOptions), lmx::position_of(k_ColorSpaceSpecificationSpectrumGenericType_elements, element_IlluminationOptions), lmx::position_of(k_ColorSpaceSpecificationSpectrumGenericType_elements, element_IlluminationOptions, 1), &IlluminationOptionsType::k_class, nullptr, {}},
+    {lmx::item_kind::element, lmx::value_kind::text, lmx::use_optional, lmx::ELMX_WS_PRESERVE, "Vyr:FieldOfView", element_FieldOfView, LMX_OFFSET(ColorSpaceSpecificationSpectrumGenericType, m_FieldOfView, element, text), LMX_FLAG(ColorSpaceSpecificationSpectrumGenericType, m_isset_FieldOfView), lmx::position_of(k_ColorSpaceSpecificationSpectrumGenericType_elements, element_FieldOfView), lmx::position_of(k_ColorSpaceSpecificationSpectrumGenericType_elements, element_FieldOfView, 1), nullptr, &facets::ObserverKind, {}},
+    {lmx::item_kind::element, lmx::value_kind::text, lmx::use_optional, lmx::ELMX_WS_PRESERVE, "Vyr:ASTM_Table", element_ASTM_Table, LMX_OFFSET(ColorSpaceSpecificationSpectrumGenericType, m_ASTM_Table, element, text), LMX_FLAG(ColorSpaceSpecificationSpectrumGenericType, m_isset_ASTM_Table), lmx::position_of(k_ColorSpaceSpecificationSpectrumGenericType_elements, element_ASTM_Table), lmx::position_of(k_ColorSpaceSpecificationSpectrumGenericType_elements, element_ASTM_Table, 1), nullptr, &facets::AstmTableKind, {}},
+    {lmx::item_kind::element, lmx::value_kind::number, lmx::use_optional, lmx::ELMX_WS_COLLAPSE, "Vyr:Gamma", element_Gamma, LMX_OFFSET(ColorSpaceSpecificationSpectrumGenericType, m_Gamma, element, number), LMX_FLAG(ColorSpaceSpecificationSpectrumGenericType, m_isset_Gamma), lmx::position_of(k_ColorSpaceSpecificationSpectrumGenericType_elements, element_Gamma), lmx::position_of(k_ColorSpaceSpecificationSpectrumGenericType_elements, element_Gamma, 1), nullptr, nullptr, {}},
+    {lmx::item_kind::element, lmx::value_kind::text, lmx::use_optional, lmx::ELMX_WS_PRESERVE, "Vyr:DensityStatus", element_DensityStatus, LMX_OFFSET(ColorSpaceSpecificationSpectrumGenericType, m_DensityStatus, element, text), LMX_FLAG(ColorSpaceSpecificationSpectrumGenericType, m_isset_DensityStatus), lmx::position_of(k_ColorSpaceSpecificationSpectrumGenericType_elements, element_DensityStatus), lmx::position_of(k_ColorSpaceSpecificationSpectrumGenericType_elements, element_DensityStatus, 1), nullptr, &facets::DensityStatusKind, {}},
+};
+constinit const lmx::s_class ColorSpaceSpecificationSpectrumGenericType::k_class = {
+    .name = "ColorSpaceSpecificationSpectrumGenericType",
+    .qualified_name = "Vyr:ColorSpaceSpecificationSpectrumGenericType",
+    .base = &ColorSpaceSpecificationSpectrumType::k_class,
+    .content = lmx::content_kind::children,
+    .may_be_empty = false,
+    .ns_map = k_ns_map,
+    .nil_flag = lmx::k_no_flag,
+    .choice = lmx::k_no_flag,
+    .id = &ColorSpaceSpecificationSpectrumGenericType::id,
+    .xsi_type = "Vyr:ColorSpaceSpecificationSpectrumGenericType",
+    .attributes = std::span(k_items).first(std::size(lmx::k_no_events) - 1),
+    .elements = std::span(k_items).subspan(std::size(lmx::k_no_events) - 1),
+    .attribute_map = lmx::k_no_events,
+    .element_map = k_ColorSpaceSpecificationSpectrumGenericType_elements,
+    .operations = &lmx::k_operations<ColorSpaceSpecificationSpectrumGenericType>,
+};
+
+ColorSpaceSpecificationSpectrumGenericType::ColorSpaceSpecificationSpectrumGenericType() = default;
+ColorSpaceSpecificationSpectrumGenericType::ColorSpaceSpecificationSpectrumGenericType(const ColorSpaceSpecificationSpectrumGenericType& other) : ColorSpaceSpecificationSpectrumType() { lmx::copy(k_class, this, &other); }
+ColorSpaceSpecificationSpectrumGenericType::~ColorSpaceSpecificationSpectrumGenericType() = default;
+ColorSpaceSpecificationSpectrumGenericType& ColorSpaceSpecificationSpectrumGenericType::operator=(const ColorSpaceSpecificationSpectrumGenericType& other) { ColorSpaceSpecificationSpectrumGenericType copy(other); swap(copy); return *this; }
+void ColorSpaceSpecificationSpectrumGenericType::swap(ColorSpaceSpecificationSpectrumGenericType& other) { lmx::swap(k_class, this, &other); }
+void ColorSpaceSpecificationSpectrumGenericType::reset() { ColorSpaceSpecificationSpectrumGenericType fresh; swap(fresh); }
+bool ColorSpaceSpecificationSpectrumGenericType::is_occurs_ok() const { return lmx::is_occurs_ok(k_class, this); }
+lmx::elmx_error ColorSpaceSpecificationSpectrumGenericType::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
+lmx::elmx_error ColorSpaceSpecificationSpectrumGenericType::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
+void ColorSpaceSpecificationSpectrumGenericType::marshal_attributes(lmx::c_xml_writer& writer) const { lmx::marshal_attributes(k_class, this, writer); }
+lmx::elmx_error ColorSpaceSpecificationSpectrumGenericType::marshal_child_elements(lmx::c_xml_writer& writer) const { return lmx::marshal_child_elements(k_class, this, writer); }
+bool ColorSpaceSpecificationSpectrumGenericType::unmarshal_attributes(lmx::c_xml_reader& reader, const std::string& name, lmx::elmx_error* error) { return lmx::unmarshal_attribute(k_class, this, reader, name, error); }
+lmx::elmx_error ColorSpaceSpecificationSpectrumGenericType::unmarshal_attributes_check(lmx::c_xml_reader& reader) { return lmx::check_required_attributes(k_class, this, reader); }
+bool ColorSpaceSpecificationSpectrumGenericType::unmarshal_body(lmx::c_xml_reader& reader, std::string* name, lmx::elmx_error* error) { return lmx::unmarshal_body(k_class, this, reader, name, error); }
+namespace { const char k_ColorSpaceSpecificationSpectrumGenericType_id[] = "ColorSpaceSpecificationSpectrumGenericType"; }
+const char* ColorSpaceSpecificationSpectrumGenericType::id = k_ColorSpaceSpecificationSpectrumGenericType_id;
+ColorSpaceSpecificationSpectrumGenericType* ColorSpaceSpecificationSpectrumGenericType::clone() const { return new ColorSpaceSpecificationSpectrumGenericType(*this); }
+const char* ColorSpaceSpecificationSpectrumGenericType::getid() const { return id; }
+bool ColorSpaceSpecificationSpectrumGenericType::has_id(const char* identity) const { return identity == id || ColorSpaceSpecificationSpectrumType::has_id(identity); }
+GeometryChoiceType& ColorSpaceSpecificationSpectrumGenericType::assign_GeometryChoice(const GeometryChoiceType& value) { return get_GeometryChoice() = value; }
+IlluminationOptionsType& ColorSpaceSpecificationSpectrumGenericType::assign_IlluminationOptions(const IlluminationOptionsType& value) { return get_IlluminationOptions() = value; }
+lmx::elmx_error ColorSpaceSpecificationSpectrumGenericType::set_FieldOfView(const std::u16string& value) { return lmx::set_item(k_class, k_items[item_FieldOfView], this, value); }
+Eenum_FieldOfView ColorSpaceSpecificationSpectrumGenericType::getenum_FieldOfView() const { return static_cast<Eenum_FieldOfView>(lmx::enumerated_number(k_items[item_FieldOfView], get_FieldOfView())); }
+bool ColorSpaceSpecificationSpectrumGenericType::setenum_FieldOfView(std::int32_t number) { return lmx::set_enumerated(k_class, k_items[item_FieldOfView], this, number); }
+lmx::elmx_error ColorSpaceSpecificationSpectrumGenericType::set_ASTM_Table(const std::u16string& value) { return lmx::set_item(k_class, k_items[item_ASTM_Table], this, value); }
+Eenum_ASTM_Table ColorSpaceSpecificationSpectrumGenericType::getenum_ASTM_Table() const { return static_cast<Eenum_ASTM_Table>(lmx::enumerated_number(k_items[item_ASTM_Table], get_ASTM_Table())); }
+bool ColorSpaceSpecificationSpectrumGenericType::setenum_ASTM_Table(std::int32_t number) { return lmx::set_enumerated(k_class, k_items[item_ASTM_Table], this, number); }
+lmx::elmx_error ColorSpaceSpecificationSpectrumGenericType::set_Gamma(double value) { return lmx::set_item(k_class, k_items[item_Gamma], this, value); }
+lmx::elmx_error ColorSpaceSpecificationSpectrumGenericType::set_DensityStatus(const std::u16string& value) { return lmx::set_item(k_class, k_items[item_DensityStatus], this, value); }
+Eenum_DensityStatus ColorSpaceSpecificationSpectrumGenericType::getenum_DensityStatus() const { return static_cast<Eenum_DensityStatus>(lmx::enumerated_number(k_items[item_DensityStatus], get_DensityStatus())); }
+bool ColorSpaceSpecificationSpectrumGenericType::setenum_DensityStatus(std::int32_t number) { return lmx::set_enumerated(k_class, k_items[item_DensityStatus], this, number); }
+
+// ColorSpaceSpecificationSpectrumTristimulusType
+
+namespace {
+constexpr lmx::s_event_map k_ColorSpaceSpecificationSpectrumTristimulusType_elements[] = {
+    lmx::element_event("IlluminationOptions", element_IlluminationOptions),
+    lmx::element_event("FieldOfView", element_FieldOfView),
+    lmx::element_event("GeometryChoice", element_GeometryChoice),
+    lmx::element_event("ASTM_Table", element_ASTM_Table),
+    lmx::element_event("Gamma", element_Gamma),
+    lmx::k_end_of_map,
+};
+}  // namespace
+
+constinit const lmx::s_item ColorSpaceSpecificationSpectrumTristimulusType::k_items[] = {
+    {lmx::item_kind::child, lmx::value_kind::none, lmx::use_required, lmx::ELMX_WS_PRESERVE, "Vyr:IlluminationOptions", element_IlluminationOptions, LMX_OFFSET(ColorSpaceSpecificationSpectrumTristimulusType, m_IlluminationOptions, child, none), LMX_FLAG(ColorSpaceSpecificationSpectrumTristimulusType, m_isset_IlluminationOptions), lmx::position_of(k_ColorSpaceSpecificationSpectrumTristimulusType_elements, element_IlluminationOptions), lmx::position_of(k_ColorSpaceSpecificationSpectrumTristimulusType_elements, element_IlluminationOptions, 1), &IlluminationOptionsType::k_class, nullptr, {}},
+    {lmx::item_kind::element, lmx::value_kind::text, lmx::use_required, lmx::ELMX_WS_PRESERVE, "Vyr:FieldOfView", element_FieldOfView, LMX_OFFSET(ColorSpaceSpecificationSpectrumTristimulusType, m_FieldOfView, element, text), LMX_FLAG(ColorSpaceSpecificationSpectrumTristimulusType, m_isset_FieldOfView), lmx::position_of(k_ColorSpaceSpecificationSpectrumTristimulusType_elements, element_FieldOfView), lmx::position_of(k_ColorSpaceSpecificationSpectrumTristimulusType_elements, element_FieldOfView, 1), nullptr, &facets::ObserverKind, {}},
+    {lmx::item_kind::child, lmx::value_kind::none, lmx::use_optional, lmx::ELMX_WS_PRESERVE, "Vyr:GeometryChoice", element_GeometryChoice, LMX_OFFSET(ColorSpaceSpecificationSpectrumTristimulusType, m_GeometryChoice, child, none), LMX_FLAG(ColorSpaceSpecificationSpectrumTristimulusType, m_isset_GeometryChoice), lmx::position_of(k_ColorSpaceSpecificationSpectrumTristimulusType_elements, element_GeometryChoice), lmx::position_of(k_ColorSpaceSpecificationSpectrumTristimulusType_elements, element_GeometryChoice, 1), &GeometryChoiceType::k_class, nullptr, {}},
+    {lmx::item_kind::element, lmx::value_kind::text, lmx::use_optional, lmx::ELMX_WS_PRESERVE, "Vyr:ASTM_Table", element_ASTM_Table, LMX_OFFSET(ColorSpaceSpecificationSpectrumTristimulusType, m_ASTM_Table, element, text), LMX_FLAG(ColorSpaceSpecificationSpectrumTristimulusType, m_isset_ASTM_Table), lmx::position_of(k_ColorSpaceSpecificationSpectrumTristimulusType_elements, element_ASTM_Table), lmx::position_of(k_ColorSpaceSpecificationSpectrumTristimulusType_elements, element_ASTM_Table, 1), nullptr, &facets::AstmTableKind, {}},
+    {lmx::item_kind::element, lmx::value_kind::number, lmx::use_optional, lmx::ELMX_WS_COLLAPSE, "Vyr:Gamma", element_Gamma, LMX_OFFSET(ColorSpaceSpecificationSpectrumTristimulusType, m_Gamma, element, number), LMX_FLAG(ColorSpaceSpecificationSpectrumTristimulusType, m_isset_Gamma), lmx::position_of(k_ColorSpaceSpecificationSpectrumTristimulusType_elements, element_Gamma), lmx::position_of(k_ColorSpaceSpecificationSpectrumTristimulusType_elements, element_Gamma, 1), nullptr, nullptr, {}},
+};
+constinit const lmx::s_class ColorSpaceSpecificationSpectrumTristimulusType::k_class = {
+    .name = "ColorSpaceSpecificationSpectrumTristimulusType",
+    .qualified_name = "Vyr:ColorSpaceSpecificationSpectrumTristimulusType",
+    .base = &ColorSpaceSpecificationSpectrumType::k_class,
+    .content = lmx::content_kind::children,
+    .may_be_empty = false,
+    .ns_map = k_ns_map,
+    .nil_flag = lmx::k_no_flag,
+    .choice = lmx::k_no_flag,
+    .id = &ColorSpaceSpecificationSpectrumTristimulusType::id,
+    .xsi_type = "Vyr:ColorSpaceSpecificationSpectrumTristimulusType",
+    .attributes = std::span(k_items).first(std::size(lmx::k_no_events) - 1),
+    .elements = std::span(k_items).subspan(std::size(lmx::k_no_events) - 1),
+    .attribute_map = lmx::k_no_events,
+    .element_map = k_ColorSpaceSpecificationSpectrumTristimulusType_elements,
+    .operations = &lmx::k_operations<ColorSpaceSpecificationSpectrumTristimulusType>,
+};
+
+ColorSpaceSpecificationSpectrumTristimulusType::ColorSpaceSpecificationSpectrumTristimulusType() = default;
+ColorSpaceSpecificationSpectrumTristimulusType::ColorSpaceSpecificationSpectrumTristimulusType(const ColorSpaceSpecificationSpectrumTristimulusType& other) : ColorSpaceSpecificationSpectrumType() { lmx::copy(k_class, this, &other); }
+ColorSpaceSpecificationSpectrumTristimulusType::~ColorSpaceSpecificationSpectrumTristimulusType() = default;
+ColorSpaceSpecificationSpectrumTristimulusType& ColorSpaceSpecificationSpectrumTristimulusType::operator=(const ColorSpaceSpecificationSpectrumTristimulusType& other) { ColorSpaceSpecificationSpectrumTristimulusType copy(other); swap(copy); return *this; }
+void ColorSpaceSpecificationSpectrumTristimulusType::swap(ColorSpaceSpecificationSpectrumTristimulusType& other) { lmx::swap(k_class, this, &other); }
+void ColorSpaceSpecificationSpectrumTristimulusType::reset() { ColorSpaceSpecificationSpectrumTristimulusType fresh; swap(fresh); }
+bool ColorSpaceSpecificationSpectrumTristimulusType::is_occurs_ok() const { return lmx::is_occurs_ok(k_class, this); }
+lmx::elmx_error ColorSpaceSpecificationSpectrumTristimulusType::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
+lmx::elmx_error ColorSpaceSpecificationSpectrumTristimulusType::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
+void ColorSpaceSpecificationSpectrumTristimulusType::marshal_attributes(lmx::c_xml_writer& writer) const { lmx::marshal_attributes(k_class, this, writer); }
+lmx::elmx_error ColorSpaceSpecificationSpectrumTristimulusType::marshal_child_elements(lmx::c_xml_writer& writer) const { return lmx::marshal_child_elements(k_class, this, writer); }
+bool ColorSpaceSpecificationSpectrumTristimulusType::unmarshal_attributes(lmx::c_xml_reader& reader, const std::string& name, lmx::elmx_error* error) { return lmx::unmarshal_attribute(k_class, this, reader, name, error); }
+lmx::elmx_error ColorSpaceSpecificationSpectrumTristimulusType::unmarshal_attributes_check(lmx::c_xml_reader& reader) { return lmx::check_required_attributes(k_class, this, reader); }
+bool ColorSpaceSpecificationSpectrumTristimulusType::unmarshal_body(lmx::c_xml_reader& reader, std::string* name, lmx::elmx_error* error) { return lmx::unmarshal_body(k_class, this, reader, name, error); }
+namespace { const char k_ColorSpaceSpecificationSpectrumTristimulusType_id[] = "ColorSpaceSpecificationSpectrumTristimulusType"; }
+const char* ColorSpaceSpecificationSpectrumTristimulusType::id = k_ColorSpaceSpecificationSpectrumTristimulusType_id;
+ColorSpaceSpecificationSpectrumTristimulusType* ColorSpaceSpecificationSpectrumTristimulusType::clone() const { return new ColorSpaceSpecificationSpectrumTristimulusType(*this); }
+const char* ColorSpaceSpecificationSpectrumTristimulusType::getid() const { return id; }
+bool ColorSpaceSpecificationSpectrumTristimulusType::has_id(const char* identity) const { return identity == id || ColorSpaceSpecificationSpectrumType::has_id(identity); }
+IlluminationOptionsType& ColorSpaceSpecificationSpectrumTristimulusType::assign_IlluminationOptions(const IlluminationOptionsType& value) { return get_IlluminationOptions() = value; }
+lmx::elmx_error ColorSpaceSpecificationSpectrumTristimulusType::set_FieldOfView(const std::u16string& value) { return lmx::set_item(k_class, k_items[item_FieldOfView], this, value); }
+Eenum_FieldOfView ColorSpaceSpecificationSpectrumTristimulusType::getenum_FieldOfView() const { return static_cast<Eenum_FieldOfView>(lmx::enumerated_number(k_items[item_FieldOfView], get_FieldOfView())); }
+bool ColorSpaceSpecificationSpectrumTristimulusType::setenum_FieldOfView(std::int32_t number) { return lmx::set_enumerated(k_class, k_items[item_FieldOfView], this, number); }
+GeometryChoiceType& ColorSpaceSpecificationSpectrumTristimulusType::assign_GeometryChoice(const GeometryChoiceType& value) { return get_GeometryChoice() = value; }
+lmx::elmx_error ColorSpaceSpecificationSpectrumTristimulusType::set_ASTM_Table(const std::u16string& value) { return lmx::set_item(k_class, k_items[item_ASTM_Table], this, value); }
+Eenum_ASTM_Table ColorSpaceSpecificationSpectrumTristimulusType::getenum_ASTM_Table() const { return static_cast<Eenum_ASTM_Table>(lmx::enumerated_number(k_items[item_ASTM_Table], get_ASTM_Table())); }
+bool ColorSpaceSpecificationSpectrumTristimulusType::setenum_ASTM_Table(std::int32_t number) { return lmx::set_enumerated(k_class, k_items[item_ASTM_Table], this, number); }
+lmx::elmx_error ColorSpaceSpecificationSpectrumTristimulusType::set_Gamma(double value) { return lmx::set_item(k_class, k_items[item_Gamma], this, value); }
+
+// ColorSpaceSpecificationSpectrumSpectralType
+
+namespace {
+constexpr lmx::s_event_map k_ColorSpaceSpecificationSpectrumSpectralType_elements[] = {
+    lmx::element_event("GeometryChoice", element_GeometryChoice),
+    lmx::element_event("ASTM_Table", element_ASTM_Table),
+    lmx::k_end_of_map,
+};
+}  // namespace
+
+constinit const lmx::s_item ColorSpaceSpecificationSpectrumSpectralType::k_items[] = {
+    {lmx::item_kind::child, lmx::value_kind::none, lmx::use_required, lmx::ELMX_WS_PRESERVE, "Vyr:GeometryChoice", element_GeometryChoice, LMX_OFFSET(ColorSpaceSpecificationSpectrumSpectralType, m_GeometryChoice, child, none), LMX_FLAG(ColorSpaceSpecificationSpectrumSpectralType, m_isset_GeometryChoice), lmx::position_of(k_ColorSpaceSpecificationSpectrumSpectralType_elements, element_GeometryChoice), lmx::position_of(k_ColorSpaceSpecificationSpectrumSpectralType_elements, element_GeometryChoice, 1), &GeometryChoiceType::k_class, nullptr, {}},
+    {lmx::item_kind::element, lmx::value_kind::text, lmx::use_optional, lmx::ELMX_WS_PRESERVE, "Vyr:ASTM_Table", element_ASTM_Table, LMX_OFFSET(ColorSpaceSpecificationSpectrumSpectralType, m_ASTM_Table, element, text), LMX_FLAG(ColorSpaceSpecificationSpectrumSpectralType, m_isset_ASTM_Table), lmx::position_of(k_ColorSpaceSpecificationSpectrumSpectralType_elements, element_ASTM_Table), lmx::position_of(k_ColorSpaceSpecificationSpectrumSpectralType_elements, element_ASTM_Table, 1), nullptr, &facets::AstmTableKind, {}},
+};
+constinit const lmx::s_class ColorSpaceSpecificationSpectrumSpectralType::k_class = {
+    .name = "ColorSpaceSpecificationSpectrumSpectralType",
+    .qualified_name = "Vyr:ColorSpaceSpecificationSpectrumSpectralType",
+    .base = &ColorSpaceSpecificationSpectrumType::k_class,
+    .content = lmx::content_kind::children,
+    .may_be_empty = false,
+    .ns_map = k_ns_map,
+    .nil_flag = lmx::k_no_flag,
+    .choice = lmx::k_no_flag,
+    .id = &ColorSpaceSpecificationSpectrumSpectralType::id,
+    .xsi_type = "Vyr:ColorSpaceSpecificationSpectrumSpectralType",
+    .attributes = std::span(k_items).first(std::size(lmx::k_no_events) - 1),
+    .elements = std::span(k_items).subspan(std::size(lmx::k_no_events) - 1),
+    .attribute_map = lmx::k_no_events,
+    .element_map = k_ColorSpaceSpecificationSpectrumSpectralType_elements,
+    .operations = &lmx::k_operations<ColorSpaceSpecificationSpectrumSpectralType>,
+};
+
+ColorSpaceSpecificationSpectrumSpectralType::ColorSpaceSpecificationSpectrumSpectralType() = default;
+ColorSpaceSpecificationSpectrumSpectralType::ColorSpaceSpecificationSpectrumSpectralType(const ColorSpaceSpecificationSpectrumSpectralType& other) : ColorSpaceSpecificationSpectrumType() { lmx::copy(k_class, this, &other); }
+ColorSpaceSpecificationSpectrumSpectralType::~ColorSpaceSpecificationSpectrumSpectralType() = default;
+ColorSpaceSpecificationSpectrumSpectralType& ColorSpaceSpecificationSpectrumSpectralType::operator=(const ColorSpaceSpecificationSpectrumSpectralType& other) { ColorSpaceSpecificationSpectrumSpectralType copy(other); swap(copy); return *this; }
+void ColorSpaceSpecificationSpectrumSpectralType::swap(ColorSpaceSpecificationSpectrumSpectralType& other) { lmx::swap(k_class, this, &other); }
+void ColorSpaceSpecificationSpectrumSpectralType::reset() { ColorSpaceSpecificationSpectrumSpectralType fresh; swap(fresh); }
+bool ColorSpaceSpecificationSpectrumSpectralType::is_occurs_ok() const { return lmx::is_occurs_ok(k_class, this); }
+lmx::elmx_error ColorSpaceSpecificationSpectrumSpectralType::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
+lmx::elmx_error ColorSpaceSpecificationSpectrumSpectralType::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
+void ColorSpaceSpecificationSpectrumSpectralType::marshal_attributes(lmx::c_xml_writer& writer) const { lmx::marshal_attributes(k_class, this, writer); }
+lmx::elmx_error ColorSpaceSpecificationSpectrumSpectralType::marshal_child_elements(lmx::c_xml_writer& writer) const { return lmx::marshal_child_elements(k_class, this, writer); }
+bool ColorSpaceSpecificationSpectrumSpectralType::unmarshal_attributes(lmx::c_xml_reader& reader, const std::string& name, lmx::elmx_error* error) { return lmx::unmarshal_attribute(k_class, this, reader, name, error); }
+lmx::elmx_error ColorSpaceSpecificationSpectrumSpectralType::unmarshal_attributes_check(lmx::c_xml_reader& reader) { return lmx::check_required_attributes(k_class, this, reader); }
+bool ColorSpaceSpecificationSpectrumSpectralType::unmarshal_body(lmx::c_xml_reader& reader, std::string* name, lmx::elmx_error* error) { return lmx::unmarshal_body(k_class, this, reader, name, error); }
+namespace { const char k_ColorSpaceSpecificationSpectrumSpectralType_id[] = "ColorSpaceSpecificationSpectrumSpectralType"; }
+const char* ColorSpaceSpecificationSpectrumSpectralType::id = k_ColorSpaceSpecificationSpectrumSpectralType_id;
+ColorSpaceSpecificationSpectrumSpectralType* ColorSpaceSpecificationSpectrumSpectralType::clone() const { return new ColorSpaceSpecificationSpectrumSpectralType(*this); }
+const char* ColorSpaceSpecificationSpectrumSpectralType::getid() const { return id; }
+bool ColorSpaceSpecificationSpectrumSpectralType::has_id(const char* identity) const { return identity == id || ColorSpaceSpecificationSpectrumType::has_id(identity); }
+GeometryChoiceType& ColorSpaceSpecificationSpectrumSpectralType::assign_GeometryChoice(const GeometryChoiceType& value) { return get_GeometryChoice() = value; }
+lmx::elmx_error ColorSpaceSpecificationSpectrumSpectralType::set_ASTM_Table(const std::u16string& value) { return lmx::set_item(k_class, k_items[item_ASTM_Table], this, value); }
+Eenum_ASTM_Table ColorSpaceSpecificationSpectrumSpectralType::getenum_ASTM_Table() const { return static_cast<Eenum_ASTM_Table>(lmx::enumerated_number(k_items[item_ASTM_Table], get_ASTM_Table())); }
+bool ColorSpaceSpecificationSpectrumSpectralType::setenum_ASTM_Table(std::int32_t number) { return lmx::set_enumerated(k_class, k_items[item_ASTM_Table], this, number); }
+
+// ColorSpaceSpecificationEmissiveGenericType
+
+namespace {
+constexpr lmx::s_event_map k_ColorSpaceSpecificationEmissiveGenericType_elements[] = {
+    lmx::element_event("GeometryChoice", element_GeometryChoice),
+    lmx::element_event("IlluminationOptions", element_IlluminationOptions),
+    lmx::element_event("FieldOfView", element_FieldOfView),
+    lmx::element_event("ASTM_Table", element_ASTM_Table),
+    lmx::element_event("Gamma", element_Gamma),
+    lmx::element_event("DensityStatus", element_DensityStatus),
+    lmx::k_end_of_map,
+};
+}  // namespace
+
+constinit const lmx::s_item ColorSpaceSpecificationEmissiveGenericType::k_items[] = {
+    {lmx::item_kind::child, lmx::value_kind::none, lmx::use_optional, lmx::ELMX_WS_PRESERVE, "Vyr:GeometryChoice", element_GeometryChoice, LMX_OFFSET(ColorSpaceSpecificationEmissiveGenericType, m_GeometryChoice, child, none), LMX_FLAG(ColorSpaceSpecificationEmissiveGenericType, m_isset_GeometryChoice), lmx::position_of(k_ColorSpaceSpecificationEmissiveGenericType_elements, element_GeometryChoice), lmx::position_of(k_ColorSpaceSpecificationEmissiveGenericType_elements, element_GeometryChoice, 1), &GeometryChoiceType::k_class, nullptr, {}},
+    {lmx::item_kind::child, lmx::value_kind::none, lmx::use_optional, lmx::ELMX_WS_PRESERVE, "Vyr:IlluminationOptions", element_IlluminationOptions, LMX_OFFSET(ColorSpaceSpecificationEmissiveGenericType, m_IlluminationOptions, child, none), LMX_FLAG(ColorSpaceSpecificationEmissiveGenericType, m_isset_IlluminationOptions), lmx::position_of(k_ColorSpaceSpecificationEmissiveGenericType_elements, element_IlluminationOptions), lmx::position_of(k_ColorSpaceSpecificationEmissiveGenericType_elements, element_IlluminationOptions, 1), &IlluminationOptionsType::k_class, nullptr, {}},
+    {lmx::item_kind::element, lmx::value_kind::text, lmx::use_optional, lmx::ELMX_WS_PRESERVE, "Vyr:FieldOfView", element_FieldOfView, LMX_OFFSET(ColorSpaceSpecificationEmissiveGenericType, m_FieldOfView, element, text), LMX_FLAG(ColorSpaceSpecificationEmissiveGenericType, m_isset_FieldOfView), lmx::position_of(k_ColorSpaceSpecificationEmissiveGenericType_elements, element_FieldOfView), lmx::position_of(k_ColorSpaceSpecificationEmissiveGenericType_elements, element_FieldOfView, 1), nullptr, &facets::ObserverKind, {}},
+    {lmx::item_kind::element, lmx::value_kind::text, lmx::use_optional, lmx::ELMX_WS_PRESERVE, "Vyr:ASTM_Table", element_ASTM_Table, LMX_OFFSET(ColorSpaceSpecificationEmissiveGenericType, m_ASTM_Table, element, text), LMX_FLAG(ColorSpaceSpecificationEmissiveGenericType, m_isset_ASTM_Table), lmx::position_of(k_ColorSpaceSpecificationEmissiveGenericType_elements, element_ASTM_Table), lmx::position_of(k_ColorSpaceSpecificationEmissiveGenericType_elements, element_ASTM_Table, 1), nullptr, &facets::AstmTableKind, {}},
+    {lmx::item_kind::element, lmx::value_kind::number, lmx::use_optional, lmx::ELMX_WS_COLLAPSE, "Vyr:Gamma", element_Gamma, LMX_OFFSET(ColorSpaceSpecificationEmissiveGenericType, m_Gamma, element, number), LMX_FLAG(ColorSpaceSpecificationEmissiveGenericType, m_isset_Gamma), lmx::position_of(k_ColorSpaceSpecificationEmissiveGenericType_elements, element_Gamma), lmx::position_of(k_ColorSpaceSpecificationEmissiveGenericType_elements, element_Gamma, 1), nullptr, nullptr, {}},
+    {lmx::item_kind::element, lmx::value_kind::text, lmx::use_optional, lmx::ELMX_WS_PRESERVE, "Vyr:DensityStatus", element_DensityStatus, LMX_OFFSET(ColorSpaceSpecificationEmissiveGenericType, m_DensityStatus, element, text), LMX_FLAG(ColorSpaceSpecificationEmissiveGenericType, m_isset_DensityStatus), lmx::position_of(k_ColorSpaceSpecificationEmissiveGenericType_elements, element_DensityStatus), lmx::position_of(k_ColorSpaceSpecificationEmissiveGenericType_elements, element_DensityStatus, 1), nullptr, &facets::DensityStatusKind, {}},
+};
+constinit const lmx::s_class ColorSpaceSpecificationEmissiveGenericType::k_class = {
+    .name = "ColorSpaceSpecificationEmissiveGenericType",
+    .qualified_name = "Vyr:ColorSpaceSpecificationEmissiveGenericType",
+    .base = &ColorSpaceSpecificationEmissiveType::k_class,
+    .content = lmx::content_kind::children,
+    .may_be_empty = false,
+    .ns_map = k_ns_map,
+    .nil_flag = lmx::k_no_flag,
+    .choice = lmx::k_no_flag,
+    .id = &ColorSpaceSpecificationEmissiveGenericType::id,
+    .xsi_type = "Vyr:ColorSpaceSpecificationEmissiveGenericType",
+    .attributes = std::span(k_items).first(std::size(lmx::k_no_events) - 1),
+    .elements = std::span(k_items).subspan(std::size(lmx::k_no_events) - 1),
+    .attribute_map = lmx::k_no_events,
+    .element_map = k_ColorSpaceSpecificationEmissiveGenericType_elements,
+    .operations = &lmx::k_operations<ColorSpaceSpecificationEmissiveGenericType>,
+};
+
+ColorSpaceSpecificationEmissiveGenericType::ColorSpaceSpecificationEmissiveGenericType() = default;
+ColorSpaceSpecificationEmissiveGenericType::ColorSpaceSpecificationEmissiveGenericType(const ColorSpaceSpecificationEmissiveGenericType& other) : ColorSpaceSpecificationEmissiveType() { lmx::copy(k_class, this, &other); }
+ColorSpaceSpecificationEmissiveGenericType::~ColorSpaceSpecificationEmissiveGenericType() = default;
+ColorSpaceSpecificationEmissiveGenericType& ColorSpaceSpecificationEmissiveGenericType::operator=(const ColorSpaceSpecificationEmissiveGenericType& other) { ColorSpaceSpecificationEmissiveGenericType copy(other); swap(copy); return *this; }
+void ColorSpaceSpecificationEmissiveGenericType::swap(ColorSpaceSpecificationEmissiveGenericType& other) { lmx::swap(k_class, this, &other); }
+void ColorSpaceSpecificationEmissiveGenericType::reset() { ColorSpaceSpecificationEmissiveGenericType fresh; swap(fresh); }
+bool ColorSpaceSpecificationEmissiveGenericType::is_occurs_ok() const { return lmx::is_occurs_ok(k_class, this); }
+lmx::elmx_error ColorSpaceSpecificationEmissiveGenericType::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
+lmx::elmx_error ColorSpaceSpecificationEmissiveGenericType::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
+void ColorSpaceSpecificationEmissiveGenericType::marshal_attributes(lmx::c_xml_writer& writer) const { lmx::marshal_attributes(k_class, this, writer); }
+lmx::elmx_error ColorSpaceSpecificationEmissiveGenericType::marshal_child_elements(lmx::c_xml_writer& writer) const { return lmx::marshal_child_elements(k_class, this, writer); }
+bool ColorSpaceSpecificationEmissiveGenericType::unmarshal_attributes(lmx::c_xml_reader& reader, const std::string& name, lmx::elmx_error* error) { return lmx::unmarshal_attribute(k_class, this, reader, name, error); }
+lmx::elmx_error ColorSpaceSpecificationEmissiveGenericType::unmarshal_attributes_check(lmx::c_xml_reader& reader) { return lmx::check_required_attributes(k_class, this, reader); }
+bool ColorSpaceSpecificationEmissiveGenericType::unmarshal_body(lmx::c_xml_reader& reader, std::string* name, lmx::elmx_error* error) { return lmx::unmarshal_body(k_class, this, reader, name, error); }
+namespace { const char k_ColorSpaceSpecificationEmissiveGenericType_id[] = "ColorSpaceSpecificationEmissiveGenericType"; }
+const char* ColorSpaceSpecificationEmissiveGenericType::id = k_ColorSpaceSpecificationEmissiveGenericType_id;
+ColorSpaceSpecificationEmissiveGenericType* ColorSpaceSpecificationEmissiveGenericType::clone() const { return new ColorSpaceSpecificationEmissiveGenericType(*this); }
+const char* ColorSpaceSpecificationEmissiveGenericType::getid() const { return id; }
+bool ColorSpaceSpecificationEmissiveGenericType::has_id(const char* identity) const { return identity == id || ColorSpaceSpecificationEmissiveType::has_id(identity); }
+GeometryChoiceType& ColorSpaceSpecificationEmissiveGenericType::assign_GeometryChoice(const GeometryChoiceType& value) { return get_GeometryChoice() = value; }
+IlluminationOptionsType& ColorSpaceSpecificationEmissiveGenericType::assign_IlluminationOptions(const IlluminationOptionsType& value) { return get_IlluminationOptions() = value; }
+lmx::elmx_error ColorSpaceSpecificationEmissiveGenericType::set_FieldOfView(const std::u16string& value) { return lmx::set_item(k_class, k_items[item_FieldOfView], this, value); }
+Eenum_FieldOfView ColorSpaceSpecificationEmissiveGenericType::getenum_FieldOfView() const { return static_cast<Eenum_FieldOfView>(lmx::enumerated_number(k_items[item_FieldOfView], get_FieldOfView())); }
+bool ColorSpaceSpecificationEmissiveGenericType::setenum_FieldOfView(std::int32_t number) { return lmx::set_enumerated(k_class, k_items[item_FieldOfView], this, number); }
+lmx::elmx_error ColorSpaceSpecificationEmissiveGenericType::set_ASTM_Table(const std::u16string& value) { return lmx::set_item(k_class, k_items[item_ASTM_Table], this, value); }
+Eenum_ASTM_Table ColorSpaceSpecificationEmissiveGenericType::getenum_ASTM_Table() const { return static_cast<Eenum_ASTM_Table>(lmx::enumerated_number(k_items[item_ASTM_Table], get_ASTM_Table())); }
+bool ColorSpaceSpecificationEmissiveGenericType::setenum_ASTM_Table(std::int32_t number) { return lmx::set_enumerated(k_class, k_items[item_ASTM_Table], this, number); }
+lmx::elmx_error ColorSpaceSpecificationEmissiveGenericType::set_Gamma(double value) { return lmx::set_item(k_class, k_items[item_Gamma], this, value); }
+lmx::elmx_error ColorSpaceSpecificationEmissiveGenericType::set_DensityStatus(const std::u16string& value) { return lmx::set_item(k_class, k_items[item_DensityStatus], this, value); }
+Eenum_DensityStatus ColorSpaceSpecificationEmissiveGenericType::getenum_DensityStatus() const { return static_cast<Eenum_DensityStatus>(lmx::enumerated_number(k_items[item_DensityStatus], get_DensityStatus())); }
+bool ColorSpaceSpecificationEmissiveGenericType::setenum_DensityStatus(std::int32_t number) { return lmx::set_enumerated(k_class, k_items[item_DensityStatus], this, number); }
+
+// ColorSpaceSpecificationEmissiveTristimulusType
+
+namespace {
+constexpr lmx::s_event_map k_ColorSpaceSpecificationEmissiveTristimulusType_elements[] = {
+    lmx::element_event("IlluminationOptions", element_IlluminationOptions),
+    lmx::element_event("FieldOfView", element_FieldOfView),
+    lmx::element_event("GeometryChoice", element_GeometryChoice),
+    lmx::element_event("ASTM_Table", element_ASTM_Table),
+    lmx::element_event("Gamma", element_Gamma),
+    lmx::k_end_of_map,
+};
+}  // namespace
+
+constinit const lmx::s_item ColorSpaceSpecificationEmissiveTristimulusType::k_items[] = {
+    {lmx::item_kind::child, lmx::value_kind::none, lmx::use_required, lmx::ELMX_WS_PRESERVE, "Vyr:IlluminationOptions", element_IlluminationOptions, LMX_OFFSET(ColorSpaceSpecificationEmissiveTristimulusType, m_IlluminationOptions, child, none), LMX_FLAG(ColorSpaceSpecificationEmissiveTristimulusType, m_isset_IlluminationOptions), lmx::position_of(k_ColorSpaceSpecificationEmissiveTristimulusType_elements, element_IlluminationOptions), lmx::position_of(k_ColorSpaceSpecificationEmissiveTristimulusType_elements, element_IlluminationOptions, 1), &IlluminationOptionsType::k_class, nullptr, {}},
+    {lmx::item_kind::element, lmx::value_kind::text, lmx::use_required, lmx::ELMX_WS_PRESERVE, "Vyr:FieldOfView", element_FieldOfView, LMX_OFFSET(ColorSpaceSpecificationEmissiveTristimulusType, m_FieldOfView, element, text), LMX_FLAG(ColorSpaceSpecificationEmissiveTristimulusType, m_isset_FieldOfView), lmx::position_of(k_ColorSpaceSpecificationEmissiveTristimulusType_elements, element_FieldOfView), lmx::position_of(k_ColorSpaceSpecificationEmissiveTristimulusType_elements, element_FieldOfView, 1), nullptr, &facets::ObserverKind, {}},
+    {lmx::item_kind::child, lmx::value_kind::none, lmx::use_optional, lmx::ELMX_WS_PRESERVE, "Vyr:GeometryChoice", element_GeometryChoice, LMX_OFFSET(ColorSpaceSpecificationEmissiveTristimulusType, m_GeometryChoice, child, none), LMX_FLAG(ColorSpaceSpecificationEmissiveTristimulusType, m_isset_GeometryChoice), lmx::position_of(k_ColorSpaceSpecificationEmissiveTristimulusType_elements, element_GeometryChoice), lmx::position_of(k_ColorSpaceSpecificationEmissiveTristimulusType_elements, element_GeometryChoice, 1), &GeometryChoiceType::k_class, nullptr, {}},
+    {lmx::item_kind::element, lmx::value_kind::text, lmx::use_optional, lmx::ELMX_WS_PRESERVE, "Vyr:ASTM_Table", element_ASTM_Table, LMX_OFFSET(ColorSpaceSpecificationEmissiveTristimulusType, m_ASTM_Table, element, text), LMX_FLAG(ColorSpaceSpecificationEmissiveTristimulusType, m_isset_ASTM_Table), lmx::position_of(k_ColorSpaceSpecificationEmissiveTristimulusType_elements, element_ASTM_Table), lmx::position_of(k_ColorSpaceSpecificationEmissiveTristimulusType_elements, element_ASTM_Table, 1), nullptr, &facets::AstmTableKind, {}},
+    {lmx::item_kind::element, lmx::value_kind::number, lmx::use_optional, lmx::ELMX_WS_COLLAPSE, "Vyr:Gamma", element_Gamma, LMX_OFFSET(ColorSpaceSpecificationEmissiveTristimulusType, m_Gamma, element, number), LMX_FLAG(ColorSpaceSpecificationEmissiveTristimulusType, m_isset_Gamma), lmx::position_of(k_ColorSpaceSpecificationEmissiveTristimulusType_elements, element_Gamma), lmx::position_of(k_ColorSpaceSpecificationEmissiveTristimulusType_elements, element_Gamma, 1), nullptr, nullptr, {}},
+};
+constinit const lmx::s_class ColorSpaceSpecificationEmissiveTristimulusType::k_class = {
+    .name = "ColorSpaceSpecificationEmissiveTristimulusType",
+    .qualified_name = "Vyr:ColorSpaceSpecificationEmissiveTristimulusType",
+    .base = &ColorSpaceSpecificationEmissiveType::k_class,
+    .content = lmx::content_kind::children,
+    .may_be_empty = false,
+    .ns_map = k_ns_map,
+    .nil_flag = lmx::k_no_flag,
+    .choice = lmx::k_no_flag,
+    .id = &ColorSpaceSpecificationEmissiveTristimulusType::id,
+    .xsi_type = "Vyr:ColorSpaceSpecificationEmissiveTristimulusType",
+    .attributes = std::span(k_items).first(std::size(lmx::k_no_events) - 1),
+    .elements = std::span(k_items).subspan(std::size(lmx::k_no_events) - 1),
+    .attribute_map = lmx::k_no_events,
+    .element_map = k_ColorSpaceSpecificationEmissiveTristimulusType_elements,
+    .operations = &lmx::k_operations<ColorSpaceSpecificationEmissiveTristimulusType>,
+};
+
+ColorSpaceSpecificationEmissiveTristimulusType::ColorSpaceSpecificationEmissiveTristimulusType() = default;
+ColorSpaceSpecificationEmissiveTristimulusType::ColorSpaceSpecificationEmissiveTristimulusType(const ColorSpaceSpecificationEmissiveTristimulusType& other) : ColorSpaceSpecificationEmissiveType() { lmx::copy(k_class, this, &other); }
+ColorSpaceSpecificationEmissiveTristimulusType::~ColorSpaceSpecificationEmissiveTristimulusType() = default;
+ColorSpaceSpecificationEmissiveTristimulusType& ColorSpaceSpecificationEmissiveTristimulusType::operator=(const ColorSpaceSpecificationEmissiveTristimulusType& other) { ColorSpaceSpecificationEmissiveTristimulusType copy(other); swap(copy); return *this; }
+void ColorSpaceSpecificationEmissiveTristimulusType::swap(ColorSpaceSpecificationEmissiveTristimulusType& other) { lmx::swap(k_class, this, &other); }
+void ColorSpaceSpecificationEmissiveTristimulusType::reset() { ColorSpaceSpecificationEmissiveTristimulusType fresh; swap(fresh); }
+bool ColorSpaceSpecificationEmissiveTristimulusType::is_occurs_ok() const { return lmx::is_occurs_ok(k_class, this); }
+lmx::elmx_error ColorSpaceSpecificationEmissiveTristimulusType::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
+lmx::elmx_error ColorSpaceSpecificationEmissiveTristimulusType::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
+void ColorSpaceSpecificationEmissiveTristimulusType::marshal_attributes(lmx::c_xml_writer& writer) const { lmx::marshal_attributes(k_class, this, writer); }
+lmx::elmx_error ColorSpaceSpecificationEmissiveTristimulusType::marshal_child_elements(lmx::c_xml_writer& writer) const { return lmx::marshal_child_elements(k_class, this, writer); }
+bool ColorSpaceSpecificationEmissiveTristimulusType::unmarshal_attributes(lmx::c_xml_reader& reader, const std::string& name, lmx::elmx_error* error) { return lmx::unmarshal_attribute(k_class, this, reader, name, error); }
+lmx::elmx_error ColorSpaceSpecificationEmissiveTristimulusType::unmarshal_attributes_check(lmx::c_xml_reader& reader) { return lmx::check_required_attributes(k_class, this, reader); }
+bool ColorSpaceSpecificationEmissiveTristimulusType::unmarshal_body(lmx::c_xml_reader& reader, std::string* name, lmx::elmx_error* error) { return lmx::unmarshal_body(k_class, this, reader, name, error); }
+namespace { const char k_ColorSpaceSpecificationEmissiveTristimulusType_id[] = "ColorSpaceSpecificationEmissiveTristimulusType"; }
+const char* ColorSpaceSpecificationEmissiveTristimulusType::id = k_ColorSpaceSpecificationEmissiveTristimulusType_id;
+ColorSpaceSpecificationEmissiveTristimulusType* ColorSpaceSpecificationEmissiveTristimulusType::clone() const { return new ColorSpaceSpecificationEmissiveTristimulusType(*this); }
+const char* ColorSpaceSpecificationEmissiveTristimulusType::getid() const { return id; }
+bool ColorSpaceSpecificationEmissiveTristimulusType::has_id(const char* identity) const { return identity == id || ColorSpaceSpecificationEmissiveType::has_id(identity); }
+IlluminationOptionsType& ColorSpaceSpecificationEmissiveTristimulusType::assign_IlluminationOptions(const IlluminationOptionsType& value) { return get_IlluminationOptions() = value; }
+lmx::elmx_error ColorSpaceSpecificationEmissiveTristimulusType::set_FieldOfView(const std::u16string& value) { return lmx::set_item(k_class, k_items[item_FieldOfView], this, value); }
+Eenum_FieldOfView ColorSpaceSpecificationEmissiveTristimulusType::getenum_FieldOfView() const { return static_cast<Eenum_FieldOfView>(lmx::enumerated_number(k_items[item_FieldOfView], get_FieldOfView())); }
+bool ColorSpaceSpecificationEmissiveTristimulusType::setenum_FieldOfView(std::int32_t number) { return lmx::set_enumerated(k_class, k_items[item_FieldOfView], this, number); }
+GeometryChoiceType& ColorSpaceSpecificationEmissiveTristimulusType::assign_GeometryChoice(const GeometryChoiceType& value) { return get_GeometryChoice() = value; }
+lmx::elmx_error ColorSpaceSpecificationEmissiveTristimulusType::set_ASTM_Table(const std::u16string& value) { return lmx::set_item(k_class, k_items[item_ASTM_Table], this, value); }
+Eenum_ASTM_Table ColorSpaceSpecificationEmissiveTristimulusType::getenum_ASTM_Table() const { return static_cast<Eenum_ASTM_Table>(lmx::enumerated_number(k_items[item_ASTM_Table], get_ASTM_Table())); }
+bool ColorSpaceSpecificationEmissiveTristimulusType::setenum_ASTM_Table(std::int32_t number) { return lmx::set_enumerated(k_class, k_items[item_ASTM_Table], this, number); }
+lmx::elmx_error ColorSpaceSpecificationEmissiveTristimulusType::set_Gamma(double value) { return lmx::set_item(k_class, k_items[item_Gamma], this, value); }
+
+// ColorSpaceSpecificationEmissiveSpectralType
+
+namespace {
+constexpr lmx::s_event_map k_ColorSpaceSpecificationEmissiveSpectralType_elements[] = {
+    lmx::element_event("GeometryChoice", element_GeometryChoice),
+    lmx::element_event("ASTM_Table", element_ASTM_Table),
+    lmx::k_end_of_map,
+};
+}  // namespace
+
+constinit const lmx::s_item ColorSpaceSpecificationEmissiveSpectralType::k_items[] = {
+    {lmx::item_kind::child, lmx::value_kind::none, lmx::use_required, lmx::ELMX_WS_PRESERVE, "Vyr:GeometryChoice", element_GeometryChoice, LMX_OFFSET(ColorSpaceSpecificationEmissiveSpectralType, m_GeometryChoice, child, none), LMX_FLAG(ColorSpaceSpecificationEmissiveSpectralType, m_isset_GeometryChoice), lmx::position_of(k_ColorSpaceSpecificationEmissiveSpectralType_elements, element_GeometryChoice), lmx::position_of(k_ColorSpaceSpecificationEmissiveSpectralType_elements, element_GeometryChoice, 1), &GeometryChoiceType::k_class, nullptr, {}},
+    {lmx::item_kind::element, lmx::value_kind::text, lmx::use_optional, lmx::ELMX_WS_PRESERVE, "Vyr:ASTM_Table", element_ASTM_Table, LMX_OFFSET(ColorSpaceSpecificationEmissiveSpectralType, m_ASTM_Table, element, text), LMX_FLAG(ColorSpaceSpecificationEmissiveSpectralType, m_isset_ASTM_Table), lmx::position_of(k_ColorSpaceSpecificationEmissiveSpectralType_elements, element_ASTM_Table), lmx::position_of(k_ColorSpaceSpecificationEmissiveSpectralType_elements, element_ASTM_Table, 1), nullptr, &facets::AstmTableKind, {}},
+};
+constinit const lmx::s_class ColorSpaceSpecificationEmissiveSpectralType::k_class = {
+    .name = "ColorSpaceSpecificationEmissiveSpectralType",
+    .qualified_name = "Vyr:ColorSpaceSpecificationEmissiveSpectralType",
+    .base = &ColorSpaceSpecificationEmissiveType::k_class,
+    .content = lmx::content_kind::children,
+    .may_be_empty = false,
+    .ns_map = k_ns_map,
+    .nil_flag = lmx::k_no_flag,
+    .choice = lmx::k_no_flag,
+    .id = &ColorSpaceSpecificationEmissiveSpectralType::id,
+    .xsi_type = "Vyr:ColorSpaceSpecificationEmissiveSpectralType",
+    .attributes = std::span(k_items).first(std::size(lmx::k_no_events) - 1),
+    .elements = std::span(k_items).subspan(std::size(lmx::k_no_events) - 1),
+    .attribute_map = lmx::k_no_events,
+    .element_map = k_ColorSpaceSpecificationEmissiveSpectralType_elements,
+    .operations = &lmx::k_operations<ColorSpaceSpecificationEmissiveSpectralType>,
+};
+
+ColorSpaceSpecificationEmissiveSpectralType::ColorSpaceSpecificationEmissiveSpectralType() = default;
+ColorSpaceSpecificationEmissiveSpectralType::ColorSpaceSpecificationEmissiveSpectralType(const ColorSpaceSpecificationEmissiveSpectralType& other) : ColorSpaceSpecificationEmissiveType() { lmx::copy(k_class, this, &other); }
+ColorSpaceSpecificationEmissiveSpectralType::~ColorSpaceSpecificationEmissiveSpectralType() = default;
+ColorSpaceSpecificationEmissiveSpectralType& ColorSpaceSpecificationEmissiveSpectralType::operator=(const ColorSpaceSpecificationEmissiveSpectralType& other) { ColorSpaceSpecificationEmissiveSpectralType copy(other); swap(copy); return *this; }
+void ColorSpaceSpecificationEmissiveSpectralType::swap(ColorSpaceSpecificationEmissiveSpectralType& other) { lmx::swap(k_class, this, &other); }
+void ColorSpaceSpecificationEmissiveSpectralType::reset() { ColorSpaceSpecificationEmissiveSpectralType fresh; swap(fresh); }
+bool ColorSpaceSpecificationEmissiveSpectralType::is_occurs_ok() const { return lmx::is_occurs_ok(k_class, this); }
+lmx::elmx_error ColorSpaceSpecificationEmissiveSpectralType::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
+lmx::elmx_error ColorSpaceSpecificationEmissiveSpectralType::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
+void ColorSpaceSpecificationEmissiveSpectralType::marshal_attributes(lmx::c_xml_writer& writer) const { lmx::marshal_attributes(k_class, this, writer); }
+lmx::elmx_error ColorSpaceSpecificationEmissiveSpectralType::marshal_child_elements(lmx::c_xml_writer& writer) const { return lmx::marshal_child_elements(k_class, this, writer); }
+bool ColorSpaceSpecificationEmissiveSpectralType::unmarshal_attributes(lmx::c_xml_reader& reader, const std::string& name, lmx::elmx_error* error) { return lmx::unmarshal_attribute(k_class, this, reader, name, error); }
+lmx::elmx_error ColorSpaceSpecificationEmissiveSpectralType::unmarshal_attributes_check(lmx::c_xml_reader& reader) { return lmx::check_required_attributes(k_class, this, reader); }
+bool ColorSpaceSpecificationEmissiveSpectralType::unmarshal_body(lmx::c_xml_reader& reader, std::string* name, lmx::elmx_error* error) { return lmx::unmarshal_body(k_class, this, reader, name, error); }
+namespace { const char k_ColorSpaceSpecificationEmissiveSpectralType_id[] = "ColorSpaceSpecificationEmissiveSpectralType"; }
+const char* ColorSpaceSpecificationEmissiveSpectralType::id = k_ColorSpaceSpecificationEmissiveSpectralType_id;
+ColorSpaceSpecificationEmissiveSpectralType* ColorSpaceSpecificationEmissiveSpectralType::clone() const { return new ColorSpaceSpecificationEmissiveSpectralType(*this); }
+const char* ColorSpaceSpecificationEmissiveSpectralType::getid() const { return id; }
+bool ColorSpaceSpecificationEmissiveSpectralType::has_id(const char* identity) const { return identity == id || ColorSpaceSpecificationEmissiveType::has_id(identity); }
+GeometryChoiceType& ColorSpaceSpecificationEmissiveSpectralType::assign_GeometryChoice(const GeometryChoiceType& value) { return get_GeometryChoice() = value; }
+lmx::elmx_error ColorSpaceSpecificationEmissiveSpectralType::set_ASTM_Table(const std::u16string& value) { return lmx::set_item(k_class, k_items[item_ASTM_Table], this, value); }
+Eenum_ASTM_Table ColorSpaceSpecificationEmissiveSpectralType::getenum_ASTM_Table() const { return static_cast<Eenum_ASTM_Table>(lmx::enumerated_number(k_items[item_ASTM_Table], get_ASTM_Table())); }
+bool ColorSpaceSpecificationEmissiveSpectralType::setenum_ASTM_Table(std::int32_t number) { return lmx::set_enumerated(k_class, k_items[item_ASTM_Table], this, number); }
+
+// ColorSpaceSpecification
+
+lmx::elmx_error ColorSpaceSpecification::marshal(lmx::c_xml_writer& writer, const char* name) const {
+    writer.conditionally_select_ns_map(k_ns_map);
+    return ColorSpaceSpecificationType::marshal(writer, name);
+}
+lmx::elmx_error ColorSpaceSpecification::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return ColorSpaceSpecificationType::unmarshal(reader, name); }
+const lmx::s_document ColorSpaceSpecification::k_document = {"Vyr:ColorSpaceSpecification", "ColorSpaceSpecification", k_ns_map, &lmx::k_operations<ColorSpaceSpecification>};
+const lmx::s_ns_map* ColorSpaceSpecification::ns_map() { return k_ns_map; }
+lmx::elmx_error ColorSpaceSpecification::unmarshal(lmx::c_xml_reader& reader) { return lmx::unmarshal_document(k_document, this, reader); }
+
+// ColorSpaceSpecificationSpectrum
+
+lmx::elmx_error ColorSpaceSpecificationSpectrum::marshal(lmx::c_xml_writer& writer, const char* name) const {
+    writer.conditionally_select_ns_map(k_ns_map);
+    return ColorSpaceSpecificationSpectrumType::marshal(writer, name);
+}
+lmx::elmx_error ColorSpaceSpecificationSpectrum::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return ColorSpaceSpecificationSpectrumType::unmarshal(reader, name); }
+const lmx::s_document ColorSpaceSpecificationSpectrum::k_document = {"Vyr:ColorSpaceSpecificationSpectrum", "ColorSpaceSpecificationSpectrum", k_ns_map, &lmx::k_operations<ColorSpaceSpecificationSpectrum>};
+const lmx::s_ns_map* ColorSpaceSpecificationSpectrum::ns_map() { return k_ns_map; }
+lmx::elmx_error ColorSpaceSpecificationSpectrum::unmarshal(lmx::c_xml_reader& reader) { return lmx::unmarshal_document(k_document, this, reader); }
+ColorSpaceSpecificationSpectrum::ColorSpaceSpecificationSpectrum(const char* file_name, lmx::elmx_error* error) : ColorSpaceSpecificationSpectrum() { *error = unmarshal(file_name); }
+lmx::elmx_error ColorSpaceSpecificationSpectrum::unmarshal(const char* file_name) { return lmx::unmarshal_document(k_document, this, file_name); }
+ColorSpaceSpecificationSpectrum::ColorSpaceSpecificationSpectrum(const char* data, std::size_t size, lmx::elmx_error* error) : ColorSpaceSpecificationSpectrum() { *error = unmarshal(data, size); }
+lmx::elmx_error ColorSpaceSpecificationSpectrum::unmarshal(const char* data, std::size_t size) { return lmx::unmarshal_document(k_document, this, data, size); }
+ColorSpaceSpecificationSpectrum::ColorSpaceSpecificationSpectrum(const std::string& text, lmx::elmx_error* error) : ColorSpaceSpecificationSpectrum() { *error = unmarshal(text.data(), text.size()); }
+lmx::elmx_error ColorSpaceSpecificationSpectrum::unmarshal(const std::string& text) { return lmx::unmarshal_document(k_document, this, text.data(), text.size()); }
+lmx::elmx_error ColorSpaceSpecificationSpectrum::marshal(const char* file_name) const { return lmx::marshal_document(k_document, this, file_name); }
+lmx::elmx_error ColorSpaceSpecificationSpectrum::marshal(std::string* text) const { return lmx::marshal_document(k_document, this, text); }
+lmx::elmx_error ColorSpaceSpecificationSpectrum::marshal(std::ostream& stream) const { return lmx::marshal_document(k_document, this, stream); }
+
+// ColorSpaceSpecificationSpectrumGeneric
+
+constinit const lmx::s_class ColorSpaceSpecificationSpectrumGeneric::k_class = {
+    .name = "ColorSpaceSpecificationSpectrumGeneric",
+    .qualified_name = "Vyr:ColorSpaceSpecificationSpectrumGeneric",
+    .base = &ColorSpaceSpecificationSpectrumGenericType::k_class,
+    .content = lmx::content_kind::children,
+    .may_be_empty = false,
+    .ns_map = k_ns_map,
+    .nil_flag = LMX_FLAG(ColorSpaceSpecificationSpectrumGeneric, m_isnil),
+    .choice = lmx::k_no_flag,
+    .id = &ColorSpaceSpecificationSpectrumGenericType::id,
+    .xsi_type = "Vyr:ColorSpaceSpecificationSpectrumGenericType",
+    .attributes = {},
+    .elements = {},
+    .attribute_map = lmx::k_no_events,
+    .element_map = lmx::k_no_events,
+    .operations = &lmx::k_operations<ColorSpaceSpecificationSpectrumGeneric>,
+};
+
+ColorSpaceSpecificationSpectrumGeneric::ColorSpaceSpecificationSpectrumGeneric() = default;
+ColorSpaceSpecificationSpectrumGeneric::ColorSpaceSpecificationSpectrumGeneric(const ColorSpaceSpecificationSpectrumGeneric& other) : ColorSpaceSpecificationSpectrumGenericType() { lmx::copy(k_class, this, &other); }
+ColorSpaceSpecificationSpectrumGeneric::~ColorSpaceSpecificationSpectrumGeneric() = default;
+ColorSpaceSpecificationSpectrumGeneric& ColorSpaceSpecificationSpectrumGeneric::operator=(const ColorSpaceSpecificationSpectrumGeneric& other) { ColorSpaceSpecificationSpectrumGeneric copy(other); swap(copy); return *this; }
+void ColorSpaceSpecificationSpectrumGeneric::swap(ColorSpaceSpecificationSpectrumGeneric& other) { lmx::swap(k_class, this, &other); }
+void ColorSpaceSpecificationSpectrumGeneric::reset() { ColorSpaceSpecificationSpectrumGeneric fresh; swap(fresh); }
+bool ColorSpaceSpecificationSpectrumGeneric::is_occurs_ok() const { return lmx::is_occurs_ok(k_class, this); }
+lmx::elmx_error ColorSpaceSpecificationSpectrumGeneric::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
+lmx::elmx_error ColorSpaceSpecificationSpectrumGeneric::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
+void ColorSpaceSpecificationSpectrumGeneric::marshal_attributes(lmx::c_xml_writer& writer) const { lmx::marshal_attributes(k_class, this, writer); }
+lmx::elmx_error ColorSpaceSpecificationSpectrumGeneric::marshal_child_elements(lmx::c_xml_writer& writer) const { return lmx::marshal_child_elements(k_class, this, writer); }
+bool ColorSpaceSpecificationSpectrumGeneric::unmarshal_attributes(lmx::c_xml_reader& reader, const std::string& name, lmx::elmx_error* error) { return lmx::unmarshal_attribute(k_class, this, reader, name, error); }
+lmx::elmx_error ColorSpaceSpecificationSpectrumGeneric::unmarshal_attributes_check(lmx::c_xml_reader& reader) { return lmx::check_required_attributes(k_class, this, reader); }
+bool ColorSpaceSpecificationSpectrumGeneric::unmarshal_body(lmx::c_xml_reader& reader, std::string* name, lmx::elmx_error* error) { return lmx::unmarshal_body(k_class, this, reader, name, error); }
+const lmx::s_document ColorSpaceSpecificationSpectrumGeneric::k_document = {"Vyr:ColorSpaceSpecificationSpectrumGeneric", "ColorSpaceSpecificationSpectrumGeneric", k_ns_map, &lmx::k_operations<ColorSpaceSpecificationSpectrumGeneric>};
+const lmx::s_ns_map* ColorSpaceSpecificationSpectrumGeneric::ns_map() { return k_ns_map; }
+lmx::elmx_error ColorSpaceSpecificationSpectrumGeneric::unmarshal(lmx::c_xml_reader& reader) { return lmx::unmarshal_document(k_document, this, reader); }
+ColorSpaceSpecificationSpectrumGeneric::ColorSpaceSpecificationSpectrumGeneric(const char* file_name, lmx::elmx_error* error) : ColorSpaceSpecificationSpectrumGeneric() { *error = lmx::ELMX_UNDEFINED_ERROR; *error = unmarshal(file_name); }
+lmx::elmx_error ColorSpaceSpecificationSpectrumGeneric::unmarshal(const char* file_name) { return lmx::unmarshal_document(k_document, this, file_name); }
+ColorSpaceSpecificationSpectrumGeneric::ColorSpaceSpecificationSpectrumGeneric(const char* data, std::size_t size, lmx::elmx_error* error) : ColorSpaceSpecificationSpectrumGeneric() { *error = lmx::ELMX_UNDEFINED_ERROR; *error = unmarshal(data, size); }
+lmx::elmx_error ColorSpaceSpecificationSpectrumGeneric::unmarshal(const char* data, std::size_t size) { return lmx::unmarshal_document(k_document, this, data, size); }
+ColorSpaceSpecificationSpectrumGeneric::ColorSpaceSpecificationSpectrumGeneric(const std::string& text, lmx::elmx_error* error) : ColorSpaceSpecificationSpectrumGeneric() { *error = lmx::ELMX_UNDEFINED_ERROR; *error = unmarshal(text.data(), text.size()); }
+lmx::elmx_error ColorSpaceSpecificationSpectrumGeneric::unmarshal(const std::string& text) { return lmx::unmarshal_document(k_document, this, text.data(), text.size()); }
+lmx::elmx_error ColorSpaceSpecificationSpectrumGeneric::marshal(const char* file_name) const { return lmx::marshal_document(k_document, this, file_name); }
+lmx::elmx_error ColorSpaceSpecificationSpectrumGeneric::marshal(std::string* text) const { return lmx::marshal_document(k_document, this, text); }
+lmx::elmx_error ColorSpaceSpecificationSpectrumGeneric::marshal(std::ostream& stream) const { return lmx::marshal_document(k_document, this, stream); }
+
+// ColorSpaceSpecificationSpectrumTristimulus
+
+constinit const lmx::s_class ColorSpaceSpecificationSpectrumTristimulus::k_class = {
+    .name = "ColorSpaceSpecificationSpectrumTristimulus",
+    .qualified_name = "Vyr:ColorSpaceSpecificationSpectrumTristimulus",
+    .base = &ColorSpaceSpecificationSpectrumTristimulusType::k_class,
+    .content = lmx::content_kind::children,
+    .may_be_empty = false,
+    .ns_map = k_ns_map,
+    .nil_flag = LMX_FLAG(ColorSpaceSpecificationSpectrumTristimulus, m_isnil),
+    .choice = lmx::k_no_flag,
+    .id = &ColorSpaceSpecificationSpectrumTristimulusType::id,
+    .xsi_type = "Vyr:ColorSpaceSpecificationSpectrumTristimulusType",
+    .attributes = {},
+    .elements = {},
+    .attribute_map = lmx::k_no_events,
+    .element_map = lmx::k_no_events,
+    .operations = &lmx::k_operations<ColorSpaceSpecificationSpectrumTristimulus>,
+};
+
+ColorSpaceSpecificationSpectrumTristimulus::ColorSpaceSpecificationSpectrumTristimulus() = default;
+ColorSpaceSpecificationSpectrumTristimulus::ColorSpaceSpecificationSpectrumTristimulus(const ColorSpaceSpecificationSpectrumTristimulus& other) : ColorSpaceSpecificationSpectrumTristimulusType() { lmx::copy(k_class, this, &other); }
+ColorSpaceSpecificationSpectrumTristimulus::~ColorSpaceSpecificationSpectrumTristimulus() = default;
+ColorSpaceSpecificationSpectrumTristimulus& ColorSpaceSpecificationSpectrumTristimulus::operator=(const ColorSpaceSpecificationSpectrumTristimulus& other) { ColorSpaceSpecificationSpectrumTristimulus copy(other); swap(copy); return *this; }
+void ColorSpaceSpecificationSpectrumTristimulus::swap(ColorSpaceSpecificationSpectrumTristimulus& other) { lmx::swap(k_class, this, &other); }
+void ColorSpaceSpecificationSpectrumTristimulus::reset() { ColorSpaceSpecificationSpectrumTristimulus fresh; swap(fresh); }
+bool ColorSpaceSpecificationSpectrumTristimulus::is_occurs_ok() const { return lmx::is_occurs_ok(k_class, this); }
+lmx::elmx_error ColorSpaceSpecificationSpectrumTristimulus::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
+lmx::elmx_error ColorSpaceSpecificationSpectrumTristimulus::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
+void ColorSpaceSpecificationSpectrumTristimulus::marshal_attributes(lmx::c_xml_writer& writer) const { lmx::marshal_attributes(k_class, this, writer); }
+lmx::elmx_error ColorSpaceSpecificationSpectrumTristimulus::marshal_child_elements(lmx::c_xml_writer& writer) const { return lmx::marshal_child_elements(k_class, this, writer); }
+bool ColorSpaceSpecificationSpectrumTristimulus::unmarshal_attributes(lmx::c_xml_reader& reader, const std::string& name, lmx::elmx_error* error) { return lmx::unmarshal_attribute(k_class, this, reader, name, error); }
+lmx::elmx_error ColorSpaceSpecificationSpectrumTristimulus::unmarshal_attributes_check(lmx::c_xml_reader& reader) { return lmx::check_required_attributes(k_class, this, reader); }
+bool ColorSpaceSpecificationSpectrumTristimulus::unmarshal_body(lmx::c_xml_reader& reader, std::string* name, lmx::elmx_error* error) { return lmx::unmarshal_body(k_class, this, reader, name, error); }
+const lmx::s_document ColorSpaceSpecificationSpectrumTristimulus::k_document = {"Vyr:ColorSpaceSpecificationSpectrumTristimulus", "ColorSpaceSpecificationSpectrumTristimulus", k_ns_map, &lmx::k_operations<ColorSpaceSpecificationSpectrumTristimulus>};
+const lmx::s_ns_map* ColorSpaceSpecificationSpectrumTristimulus::ns_map() { return k_ns_map; }
+lmx::elmx_error ColorSpaceSpecificationSpectrumTristimulus::unmarshal(lmx::c_xml_reader& reader) { return lmx::unmarshal_document(k_document, this, reader); }
+ColorSpaceSpecificationSpectrumTristimulus::ColorSpaceSpecificationSpectrumTristimulus(const char* file_name, lmx::elmx_error* error) : ColorSpaceSpecificationSpectrumTristimulus() { *error = lmx::ELMX_UNDEFINED_ERROR; *error = unmarshal(file_name); }
+lmx::elmx_error ColorSpaceSpecificationSpectrumTristimulus::unmarshal(const char* file_name) { return lmx::unmarshal_document(k_document, this, file_name); }
+ColorSpaceSpecificationSpectrumTristimulus::ColorSpaceSpecificationSpectrumTristimulus(const char* data, std::size_t size, lmx::elmx_error* error) : ColorSpaceSpecificationSpectrumTristimulus() { *error = lmx::ELMX_UNDEFINED_ERROR; *error = unmarshal(data, size); }
+lmx::elmx_error ColorSpaceSpecificationSpectrumTristimulus::unmarshal(const char* data, std::size_t size) { return lmx::unmarshal_document(k_document, this, data, size); }
+ColorSpaceSpecificationSpectrumTristimulus::ColorSpaceSpecificationSpectrumTristimulus(const std::string& text, lmx::elmx_error* error) : ColorSpaceSpecificationSpectrumTristimulus() { *error = lmx::ELMX_UNDEFINED_ERROR; *error = unmarshal(text.data(), text.size()); }
+lmx::elmx_error ColorSpaceSpecificationSpectrumTristimulus::unmarshal(const std::string& text) { return lmx::unmarshal_document(k_document, this, text.data(), text.size()); }
+lmx::elmx_error ColorSpaceSpecificationSpectrumTristimulus::marshal(const char* file_name) const { return lmx::marshal_document(k_document, this, file_name); }
+lmx::elmx_error ColorSpaceSpecificationSpectrumTristimulus::marshal(std::string* text) const { return lmx::marshal_document(k_document, this, text); }
+lmx::elmx_error ColorSpaceSpecificationSpectrumTristimulus::marshal(std::ostream& stream) const { return lmx::marshal_document(k_document, this, stream); }
+
+// ColorSpaceSpecificationSpectrumSpectral
+
+constinit const lmx::s_class ColorSpaceSpecificationSpectrumSpectral::k_class = {
+    .name = "ColorSpaceSpecificationSpectrumSpectral",
+    .qualified_name = "Vyr:ColorSpaceSpecificationSpectrumSpectral",
+    .base = &ColorSpaceSpecificationSpectrumSpectralType::k_class,
+    .content = lmx::content_kind::children,
+    .may_be_empty = false,
+    .ns_map = k_ns_map,
+    .nil_flag = LMX_FLAG(ColorSpaceSpecificationSpectrumSpectral, m_isnil),
+    .choice = lmx::k_no_flag,
+    .id = &ColorSpaceSpecificationSpectrumSpectralType::id,
+    .xsi_type = "Vyr:ColorSpaceSpecificationSpectrumSpectralType",
+    .attributes = {},
+    .elements = {},
+    .attribute_map = lmx::k_no_events,
+    .element_map = lmx::k_no_events,
+    .operations = &lmx::k_operations<ColorSpaceSpecificationSpectrumSpectral>,
+};
+
+ColorSpaceSpecificationSpectrumSpectral::ColorSpaceSpecificationSpectrumSpectral() = default;
+ColorSpaceSpecificationSpectrumSpectral::ColorSpaceSpecificationSpectrumSpectral(const ColorSpaceSpecificationSpectrumSpectral& other) : ColorSpaceSpecificationSpectrumSpectralType() { lmx::copy(k_class, this, &other); }
+ColorSpaceSpecificationSpectrumSpectral::~ColorSpaceSpecificationSpectrumSpectral() = default;
+ColorSpaceSpecificationSpectrumSpectral& ColorSpaceSpecificationSpectrumSpectral::operator=(const ColorSpaceSpecificationSpectrumSpectral& other) { ColorSpaceSpecificationSpectrumSpectral copy(other); swap(copy); return *this; }
+void ColorSpaceSpecificationSpectrumSpectral::swap(ColorSpaceSpecificationSpectrumSpectral& other) { lmx::swap(k_class, this, &other); }
+void ColorSpaceSpecificationSpectrumSpectral::reset() { ColorSpaceSpecificationSpectrumSpectral fresh; swap(fresh); }
+bool ColorSpaceSpecificationSpectrumSpectral::is_occurs_ok() const { return lmx::is_occurs_ok(k_class, this); }
+lmx::elmx_error ColorSpaceSpecificationSpectrumSpectral::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
+lmx::elmx_error ColorSpaceSpecificationSpectrumSpectral::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
+void ColorSpaceSpecificationSpectrumSpectral::marshal_attributes(lmx::c_xml_writer& writer) const { lmx::marshal_attributes(k_class, this, writer); }
+lmx::elmx_error ColorSpaceSpecificationSpectrumSpectral::marshal_child_elements(lmx::c_xml_writer& writer) const { return lmx::marshal_child_elements(k_class, this, writer); }
+bool ColorSpaceSpecificationSpectrumSpectral::unmarshal_attributes(lmx::c_xml_reader& reader, const std::string& name, lmx::elmx_error* error) { return lmx::unmarshal_attribute(k_class, this, reader, name, error); }
+lmx::elmx_error ColorSpaceSpecificationSpectrumSpectral::unmarshal_attributes_check(lmx::c_xml_reader& reader) { return lmx::check_required_attributes(k_class, this, reader); }
+bool ColorSpaceSpecificationSpectrumSpectral::unmarshal_body(lmx::c_xml_reader& reader, std::string* name, lmx::elmx_error* error) { return lmx::unmarshal_body(k_class, this, reader, name, error); }
+const lmx::s_document ColorSpaceSpecificationSpectrumSpectral::k_document = {"Vyr:ColorSpaceSpecificationSpectrumSpectral", "ColorSpaceSpecificationSpectrumSpectral", k_ns_map, &lmx::k_operations<ColorSpaceSpecificationSpectrumSpectral>};
+const lmx::s_ns_map* ColorSpaceSpecificationSpectrumSpectral::ns_map() { return k_ns_map; }
+lmx::elmx_error ColorSpaceSpecificationSpectrumSpectral::unmarshal(lmx::c_xml_reader& reader) { return lmx::unmarshal_document(k_document, this, reader); }
+ColorSpaceSpecificationSpectrumSpectral::ColorSpaceSpecificationSpectrumSpectral(const char* file_name, lmx::elmx_error* error) : ColorSpaceSpecificationSpectrumSpectral() { *error = lmx::ELMX_UNDEFINED_ERROR; *error = unmarshal(file_name); }
+lmx::elmx_error ColorSpaceSpecificationSpectrumSpectral::unmarshal(const char* file_name) { return lmx::unmarshal_document(k_document, this, file_name); }
+ColorSpaceSpecificationSpectrumSpectral::ColorSpaceSpecificationSpectrumSpectral(const char* data, std::size_t size, lmx::elmx_error* error) : ColorSpaceSpecificationSpectrumSpectral() { *error = lmx::ELMX_UNDEFINED_ERROR; *error = unmarshal(data, size); }
+lmx::elmx_error ColorSpaceSpecificationSpectrumSpectral::unmarshal(const char* data, std::size_t size) { return lmx::unmarshal_document(k_document, this, data, size); }
+ColorSpaceSpecificationSpectrumSpectral::ColorSpaceSpecificationSpectrumSpectral(const std::string& text, lmx::elmx_error* error) : ColorSpaceSpecificationSpectrumSpectral() { *error = lmx::ELMX_UNDEFINED_ERROR; *error = unmarshal(text.data(), text.size()); }
+lmx::elmx_error ColorSpaceSpecificationSpectrumSpectral::unmarshal(const std::string& text) { return lmx::unmarshal_document(k_document, this, text.data(), text.size()); }
+lmx::elmx_error ColorSpaceSpecificationSpectrumSpectral::marshal(const char* file_name) const { return lmx::marshal_document(k_document, this, file_name); }
+lmx::elmx_error ColorSpaceSpecificationSpectrumSpectral::marshal(std::string* text) const { return lmx::marshal_document(k_document, this, text); }
+lmx::elmx_error ColorSpaceSpecificationSpectrumSpectral::marshal(std::ostream& stream) const { return lmx::marshal_document(k_document, this, stream); }
+
+// ColorSpaceSpecificationEmissive
+
+lmx::elmx_error ColorSpaceSpecificationEmissive::marshal(lmx::c_xml_writer& writer, const char* name) const {
+    writer.conditionally_select_ns_map(k_ns_map);
+    return ColorSpaceSpecificationEmissiveType::marshal(writer, name);
+}
+lmx::elmx_error ColorSpaceSpecificationEmissive::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return ColorSpaceSpecificationEmissiveType::unmarshal(reader, name); }
+const lmx::s_document ColorSpaceSpecificationEmissive::k_document = {"Vyr:ColorSpaceSpecificationEmissive", "ColorSpaceSpecificationEmissive", k_ns_map, &lmx::k_operations<ColorSpaceSpecificationEmissive>};
+const lmx::s_ns_map* ColorSpaceSpecificationEmissive::ns_map() { return k_ns_map; }
+lmx::elmx_error ColorSpaceSpecificationEmissive::unmarshal(lmx::c_xml_reader& reader) { return lmx::unmarshal_document(k_document, this, reader); }
+ColorSpaceSpecificationEmissive::ColorSpaceSpecificationEmissive(const char* file_name, lmx::elmx_error* error) : ColorSpaceSpecificationEmissive() { *error = unmarshal(file_name); }
+lmx::elmx_error ColorSpaceSpecificationEmissive::unmarshal(const char* file_name) { return lmx::unmarshal_document(k_document, this, file_name); }
+ColorSpaceSpecificationEmissive::ColorSpaceSpecificationEmissive(const char* data, std::size_t size, lmx::elmx_error* error) : ColorSpaceSpecificationEmissive() { *error = unmarshal(data, size); }
+lmx::elmx_error ColorSpaceSpecificationEmissive::unmarshal(const char* data, std::size_t size) { return lmx::unmarshal_document(k_document, this, data, size); }
+ColorSpaceSpecificationEmissive::ColorSpaceSpecificationEmissive(const std::string& text, lmx::elmx_error* error) : ColorSpaceSpecificationEmissive() { *error = unmarshal(text.data(), text.size()); }
+lmx::elmx_error ColorSpaceSpecificationEmissive::unmarshal(const std::string& text) { return lmx::unmarshal_document(k_document, this, text.data(), text.size()); }
+lmx::elmx_error ColorSpaceSpecificationEmissive::marshal(const char* file_name) const { return lmx::marshal_document(k_document, this, file_name); }
+lmx::elmx_error ColorSpaceSpecificationEmissive::marshal(std::string* text) const { return lmx::marshal_document(k_document, this, text); }
+lmx::elmx_error ColorSpaceSpecificationEmissive::marshal(std::ostream& stream) const { return lmx::marshal_document(k_document, this, stream); }
+
+// ColorSpaceSpecificationEmissiveGeneric
+
+constinit const lmx::s_class ColorSpaceSpecificationEmissiveGeneric::k_class = {
+    .name = "ColorSpaceSpecificationEmissiveGeneric",
+    .qualified_name = "Vyr:ColorSpaceSpecificationEmissiveGeneric",
+    .base = &ColorSpaceSpecificationEmissiveGenericType::k_class,
+    .content = lmx::content_kind::children,
+    .may_be_empty = false,
+    .ns_map = k_ns_map,
+    .nil_flag = LMX_FLAG(ColorSpaceSpecificationEmissiveGeneric, m_isnil),
+    .choice = lmx::k_no_flag,
+    .id = &ColorSpaceSpecificationEmissiveGenericType::id,
+    .xsi_type = "Vyr:ColorSpaceSpecificationEmissiveGenericType",
+    .attributes = {},
+    .elements = {},
+    .attribute_map = lmx::k_no_events,
+    .element_map = lmx::k_no_events,
+    .operations = &lmx::k_operations<ColorSpaceSpecificationEmissiveGeneric>,
+};
+
+ColorSpaceSpecificationEmissiveGeneric::ColorSpaceSpecificationEmissiveGeneric() = default;
+ColorSpaceSpecificationEmissiveGeneric::ColorSpaceSpecificationEmissiveGeneric(const ColorSpaceSpecificationEmissiveGeneric& other) : ColorSpaceSpecificationEmissiveGenericType() { lmx::copy(k_class, this, &other); }
+ColorSpaceSpecificationEmissiveGeneric::~ColorSpaceSpecificationEmissiveGeneric() = default;
+ColorSpaceSpecificationEmissiveGeneric& ColorSpaceSpecificationEmissiveGeneric::operator=(const ColorSpaceSpecificationEmissiveGeneric& other) { ColorSpaceSpecificationEmissiveGeneric copy(other); swap(copy); return *this; }
+void ColorSpaceSpecificationEmissiveGeneric::swap(ColorSpaceSpecificationEmissiveGeneric& other) { lmx::swap(k_class, this, &other); }
+void ColorSpaceSpecificationEmissiveGeneric::reset() { ColorSpaceSpecificationEmissiveGeneric fresh; swap(fresh); }
+bool ColorSpaceSpecificationEmissiveGeneric::is_occurs_ok() const { return lmx::is_occurs_ok(k_class, this); }
+lmx::elmx_error ColorSpaceSpecificationEmissiveGeneric::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
+lmx::elmx_error ColorSpaceSpecificationEmissiveGeneric::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
+void ColorSpaceSpecificationEmissiveGeneric::marshal_attributes(lmx::c_xml_writer& writer) const { lmx::marshal_attributes(k_class, this, writer); }
+lmx::elmx_error ColorSpaceSpecificationEmissiveGeneric::marshal_child_elements(lmx::c_xml_writer& writer) const { return lmx::marshal_child_elements(k_class, this, writer); }
+bool ColorSpaceSpecificationEmissiveGeneric::unmarshal_attributes(lmx::c_xml_reader& reader, const std::string& name, lmx::elmx_error* error) { return lmx::unmarshal_attribute(k_class, this, reader, name, error); }
+lmx::elmx_error ColorSpaceSpecificationEmissiveGeneric::unmarshal_attributes_check(lmx::c_xml_reader& reader) { return lmx::check_required_attributes(k_class, this, reader); }
+bool ColorSpaceSpecificationEmissiveGeneric::unmarshal_body(lmx::c_xml_reader& reader, std::string* name, lmx::elmx_error* error) { return lmx::unmarshal_body(k_class, this, reader, name, error); }
+const lmx::s_document ColorSpaceSpecificationEmissiveGeneric::k_document = {"Vyr:ColorSpaceSpecificationEmissiveGeneric", "ColorSpaceSpecificationEmissiveGeneric", k_ns_map, &lmx::k_operations<ColorSpaceSpecificationEmissiveGeneric>};
+const lmx::s_ns_map* ColorSpaceSpecificationEmissiveGeneric::ns_map() { return k_ns_map; }
+lmx::elmx_error ColorSpaceSpecificationEmissiveGeneric::unmarshal(lmx::c_xml_reader& reader) { return lmx::unmarshal_document(k_document, this, reader); }
+ColorSpaceSpecificationEmissiveGeneric::ColorSpaceSpecificationEmissiveGeneric(const char* file_name, lmx::elmx_error* error) : ColorSpaceSpecificationEmissiveGeneric() { *error = lmx::ELMX_UNDEFINED_ERROR; *error = unmarshal(file_name); }
+lmx::elmx_error ColorSpaceSpecificationEmissiveGeneric::unmarshal(const char* file_name) { return lmx::unmarshal_document(k_document, this, file_name); }
+ColorSpaceSpecificationEmissiveGeneric::ColorSpaceSpecificationEmissiveGeneric(const char* data, std::size_t size, lmx::elmx_error* error) : ColorSpaceSpecificationEmissiveGeneric() { *error = lmx::ELMX_UNDEFINED_ERROR; *error = unmarshal(data, size); }
+lmx::elmx_error ColorSpaceSpecificationEmissiveGeneric::unmarshal(const char* data, std::size_t size) { return lmx::unmarshal_document(k_document, this, data, size); }
+ColorSpaceSpecificationEmissiveGeneric::ColorSpaceSpecificationEmissiveGeneric(const std::string& text, lmx::elmx_error* error) : ColorSpaceSpecificationEmissiveGeneric() { *error = lmx::ELMX_UNDEFINED_ERROR; *error = unmarshal(text.data(), text.size()); }
+lmx::elmx_error ColorSpaceSpecificationEmissiveGeneric::unmarshal(const std::string& text) { return lmx::unmarshal_document(k_document, this, text.data(), text.size()); }
+lmx::elmx_error ColorSpaceSpecificationEmissiveGeneric::marshal(const char* file_name) const { return lmx::marshal_document(k_document, this, file_name); }
+lmx::elmx_error ColorSpaceSpecificationEmissiveGeneric::marshal(std::string* text) const { return lmx::marshal_document(k_document, this, text); }
+lmx::elmx_error ColorSpaceSpecificationEmissiveGeneric::marshal(std::ostream& stream) const { return lmx::marshal_document(k_document, this, stream); }
+
+// ColorSpaceSpecificationEmissiveTristimulus
+
+constinit const lmx::s_class ColorSpaceSpecificationEmissiveTristimulus::k_class = {
+    .name = "ColorSpaceSpecificationEmissiveTristimulus",
+    .qualified_name = "Vyr:ColorSpaceSpecificationEmissiveTristimulus",
+    .base = &ColorSpaceSpecificationEmissiveTristimulusType::k_class,
+    .content = lmx::content_kind::children,
+    .may_be_empty = false,
+    .ns_map = k_ns_map,
+    .nil_flag = LMX_FLAG(ColorSpaceSpecificationEmissiveTristimulus, m_isnil),
+    .choice = lmx::k_no_flag,
+    .id = &ColorSpaceSpecificationEmissiveTristimulusType::id,
+    .xsi_type = "Vyr:ColorSpaceSpecificationEmissiveTristimulusType",
+    .attributes = {},
+    .elements = {},
+    .attribute_map = lmx::k_no_events,
+    .element_map = lmx::k_no_events,
+    .operations = &lmx::k_operations<ColorSpaceSpecificationEmissiveTristimulus>,
+};
+
+ColorSpaceSpecificationEmissiveTristimulus::ColorSpaceSpecificationEmissiveTristimulus() = default;
+ColorSpaceSpecificationEmissiveTristimulus::ColorSpaceSpecificationEmissiveTristimulus(const ColorSpaceSpecificationEmissiveTristimulus& other) : ColorSpaceSpecificationEmissiveTristimulusType() { lmx::copy(k_class, this, &other); }
+ColorSpaceSpecificationEmissiveTristimulus::~ColorSpaceSpecificationEmissiveTristimulus() = default;
+ColorSpaceSpecificationEmissiveTristimulus& ColorSpaceSpecificationEmissiveTristimulus::operator=(const ColorSpaceSpecificationEmissiveTristimulus& other) { ColorSpaceSpecificationEmissiveTristimulus copy(other); swap(copy); return *this; }
+void ColorSpaceSpecificationEmissiveTristimulus::swap(ColorSpaceSpecificationEmissiveTristimulus& other) { lmx::swap(k_class, this, &other); }
+void ColorSpaceSpecificationEmissiveTristimulus::reset() { ColorSpaceSpecificationEmissiveTristimulus fresh; swap(fresh); }
+bool ColorSpaceSpecificationEmissiveTristimulus::is_occurs_ok() const { return lmx::is_occurs_ok(k_class, this); }
+lmx::elmx_error ColorSpaceSpecificationEmissiveTristimulus::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
+lmx::elmx_error ColorSpaceSpecificationEmissiveTristimulus::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
+void ColorSpaceSpecificationEmissiveTristimulus::marshal_attributes(lmx::c_xml_writer& writer) const { lmx::marshal_attributes(k_class, this, writer); }
+lmx::elmx_error ColorSpaceSpecificationEmissiveTristimulus::marshal_child_elements(lmx::c_xml_writer& writer) const { return lmx::marshal_child_elements(k_class, this, writer); }
+bool ColorSpaceSpecificationEmissiveTristimulus::unmarshal_attributes(lmx::c_xml_reader& reader, const std::string& name, lmx::elmx_error* error) { return lmx::unmarshal_attribute(k_class, this, reader, name, error); }
+lmx::elmx_error ColorSpaceSpecificationEmissiveTristimulus::unmarshal_attributes_check(lmx::c_xml_reader& reader) { return lmx::check_required_attributes(k_class, this, reader); }
+bool ColorSpaceSpecificationEmissiveTristimulus::unmarshal_body(lmx::c_xml_reader& reader, std::string* name, lmx::elmx_error* error) { return lmx::unmarshal_body(k_class, this, reader, name, error); }
+const lmx::s_document ColorSpaceSpecificationEmissiveTristimulus::k_document = {"Vyr:ColorSpaceSpecificationEmissiveTristimulus", "ColorSpaceSpecificationEmissiveTristimulus", k_ns_map, &lmx::k_operations<ColorSpaceSpecificationEmissiveTristimulus>};
+const lmx::s_ns_map* ColorSpaceSpecificationEmissiveTristimulus::ns_map() { return k_ns_map; }
+lmx::elmx_error ColorSpaceSpecificationEmissiveTristimulus::unmarshal(lmx::c_xml_reader& reader) { return lmx::unmarshal_document(k_document, this, reader); }
+ColorSpaceSpecificationEmissiveTristimulus::ColorSpaceSpecificationEmissiveTristimulus(const char* file_name, lmx::elmx_error* error) : ColorSpaceSpecificationEmissiveTristimulus() { *error = lmx::ELMX_UNDEFINED_ERROR; *error = unmarshal(file_name); }
+lmx::elmx_error ColorSpaceSpecificationEmissiveTristimulus::unmarshal(const char* file_name) { return lmx::unmarshal_document(k_document, this, file_name); }
+ColorSpaceSpecificationEmissiveTristimulus::ColorSpaceSpecificationEmissiveTristimulus(const char* data, std::size_t size, lmx::elmx_error* error) : ColorSpaceSpecificationEmissiveTristimulus() { *error = lmx::ELMX_UNDEFINED_ERROR; *error = unmarshal(data, size); }
+lmx::elmx_error ColorSpaceSpecificationEmissiveTristimulus::unmarshal(const char* data, std::size_t size) { return lmx::unmarshal_document(k_document, this, data, size); }
+ColorSpaceSpecificationEmissiveTristimulus::ColorSpaceSpecificationEmissiveTristimulus(const std::string& text, lmx::elmx_error* error) : ColorSpaceSpecificationEmissiveTristimulus() { *error = lmx::ELMX_UNDEFINED_ERROR; *error = unmarshal(text.data(), text.size()); }
+lmx::elmx_error ColorSpaceSpecificationEmissiveTristimulus::unmarshal(const std::string& text) { return lmx::unmarshal_document(k_document, this, text.data(), text.size()); }
+lmx::elmx_error ColorSpaceSpecificationEmissiveTristimulus::marshal(const char* file_name) const { return lmx::marshal_document(k_document, this, file_name); }
+lmx::elmx_error ColorSpaceSpecificationEmissiveTristimulus::marshal(std::string* text) const { return lmx::marshal_document(k_document, this, text); }
+lmx::elmx_error ColorSpaceSpecificationEmissiveTristimulus::marshal(std::ostream& stream) const { return lmx::marshal_document(k_document, this, stream); }
+
+// ColorSpaceSpecificationEmissiveSpectral
+
+constinit const lmx::s_class ColorSpaceSpecificationEmissiveSpectral::k_class = {
+    .name = "ColorSpaceSpecificationEmissiveSpectral",
+    .qualified_name = "Vyr:ColorSpaceSpecificationEmissiveSpectral",
+    .base = &ColorSpaceSpecificationEmissiveSpectralType::k_class,
+    .content = lmx::content_kind::children,
+    .may_be_empty = false,
+    .ns_map = k_ns_map,
+    .nil_flag = LMX_FLAG(ColorSpaceSpecificationEmissiveSpectral, m_isnil),
+    .choice = lmx::k_no_flag,
+    .id = &ColorSpaceSpecificationEmissiveSpectralType::id,
+    .xsi_type = "Vyr:ColorSpaceSpecificationEmissiveSpectralType",
+    .attributes = {},
+    .elements = {},
+    .attribute_map = lmx::k_no_events,
+    .element_map = lmx::k_no_events,
+    .operations = &lmx::k_operations<ColorSpaceSpecificationEmissiveSpectral>,
+};
+
+ColorSpaceSpecificationEmissiveSpectral::ColorSpaceSpecificationEmissiveSpectral() = default;
+ColorSpaceSpecificationEmissiveSpectral::ColorSpaceSpecificationEmissiveSpectral(const ColorSpaceSpecificationEmissiveSpectral& other) : ColorSpaceSpecificationEmissiveSpectralType() { lmx::copy(k_class, this, &other); }
+ColorSpaceSpecificationEmissiveSpectral::~ColorSpaceSpecificationEmissiveSpectral() = default;
+ColorSpaceSpecificationEmissiveSpectral& ColorSpaceSpecificationEmissiveSpectral::operator=(const ColorSpaceSpecificationEmissiveSpectral& other) { ColorSpaceSpecificationEmissiveSpectral copy(other); swap(copy); return *this; }
+void ColorSpaceSpecificationEmissiveSpectral::swap(ColorSpaceSpecificationEmissiveSpectral& other) { lmx::swap(k_class, this, &other); }
+void ColorSpaceSpecificationEmissiveSpectral::reset() { ColorSpaceSpecificationEmissiveSpectral fresh; swap(fresh); }
+bool ColorSpaceSpecificationEmissiveSpectral::is_occurs_ok() const { return lmx::is_occurs_ok(k_class, this); }
+lmx::elmx_error ColorSpaceSpecificationEmissiveSpectral::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
+lmx::elmx_error ColorSpaceSpecificationEmissiveSpectral::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
+void ColorSpaceSpecificationEmissiveSpectral::marshal_attributes(lmx::c_xml_writer& writer) const { lmx::marshal_attributes(k_class, this, writer); }
+lmx::elmx_error ColorSpaceSpecificationEmissiveSpectral::marshal_child_elements(lmx::c_xml_writer& writer) const { return lmx::marshal_child_elements(k_class, this, writer); }
+bool ColorSpaceSpecificationEmissiveSpectral::unmarshal_attributes(lmx::c_xml_reader& reader, const std::string& name, lmx::elmx_error* error) { return lmx::unmarshal_attribute(k_class, this, reader, name, error); }
+lmx::elmx_error ColorSpaceSpecificationEmissiveSpectral::unmarshal_attributes_check(lmx::c_xml_reader& reader) { return lmx::check_required_attributes(k_class, this, reader); }
+bool ColorSpaceSpecificationEmissiveSpectral::unmarshal_body(lmx::c_xml_reader& reader, std::string* name, lmx::elmx_error* error) { return lmx::unmarshal_body(k_class, this, reader, name, error); }
+const lmx::s_document ColorSpaceSpecificationEmissiveSpectral::k_document = {"Vyr:ColorSpaceSpecificationEmissiveSpectral", "ColorSpaceSpecificationEmissiveSpectral", k_ns_map, &lmx::k_operations<ColorSpaceSpecificationEmissiveSpectral>};
+const lmx::s_ns_map* ColorSpaceSpecificationEmissiveSpectral::ns_map() { return k_ns_map; }
+lmx::elmx_error ColorSpaceSpecificationEmissiveSpectral::unmarshal(lmx::c_xml_reader& reader) { return lmx::unmarshal_document(k_document, this, reader); }
+ColorSpaceSpecificationEmissiveSpectral::ColorSpaceSpecificationEmissiveSpectral(const char* file_name, lmx::elmx_error* error) : ColorSpaceSpecificationEmissiveSpectral() { *error = lmx::ELMX_UNDEFINED_ERROR; *error = unmarshal(file_name); }
+lmx::elmx_error ColorSpaceSpecificationEmissiveSpectral::unmarshal(const char* file_name) { return lmx::unmarshal_document(k_document, this, file_name); }
+ColorSpaceSpecificationEmissiveSpectral::ColorSpaceSpecificationEmissiveSpectral(const char* data, std::size_t size, lmx::elmx_error* error) : ColorSpaceSpecificationEmissiveSpectral() { *error = lmx::ELMX_UNDEFINED_ERROR; *error = unmarshal(data, size); }
+lmx::elmx_error ColorSpaceSpecificationEmissiveSpectral::unmarshal(const char* data, std::size_t size) { return lmx::unmarshal_document(k_document, this, data, size); }
+ColorSpaceSpecificationEmissiveSpectral::ColorSpaceSpecificationEmissiveSpectral(const std::string& text, lmx::elmx_error* error) : ColorSpaceSpecificationEmissiveSpectral() { *error = lmx::ELMX_UNDEFINED_ERROR; *error = unmarshal(text.data(), text.size()); }
+lmx::elmx_error ColorSpaceSpecificationEmissiveSpectral::unmarshal(const std::string& text) { return lmx::unmarshal_document(k_document, this, text.data(), text.size()); }
+lmx::elmx_error ColorSpaceSpecificationEmissiveSpectral::marshal(const char* file_name) const { return lmx::marshal_document(k_document, this, file_name); }
+lmx::elmx_error ColorSpaceSpecificationEmissiveSpectral::marshal(std::string* text) const { return lmx::marshal_document(k_document, this, text); }
+lmx::elmx_error ColorSpaceSpecificationEmissiveSpectral::marshal(std::ostream& stream) const { return lmx::marshal_document(k_document, this, stream); }
+
+// Illuminant
+
+namespace {
+constexpr lmx::s_event_map k_Illuminant_attributes[] = {
+    lmx::attribute_event("CustomName", attribute_CustomName),
+    lmx::k_end_of_map,
+};
+}  // namespace
+
+constinit const lmx::s_item Illuminant::k_items[] = {
+    {lmx::item_kind::attribute, lmx::value_kind::text, lmx::use_optional, lmx::ELMX_WS_PRESERVE, "CustomName", attribute_CustomName, LMX_OFFSET(Illuminant, m_CustomName, attribute, text), LMX_FLAG(Illuminant, m_isset_CustomName), 0, 0, nullptr, nullptr, {}},
+    {lmx::item_kind::content, lmx::value_kind::text, lmx::use_required, lmx::ELMX_WS_PRESERVE, "", 0, LMX_OFFSET(Illuminant, m_Illuminant, content, text), LMX_FLAG(Illuminant, m_isset_Illuminant), 0, 0, nullptr, &facets::IlluminantKind, {}},
+};
+constinit const lmx::s_class Illuminant::k_class = {
+    .name = "Illuminant",
+    .qualified_name = "Vyr:Illuminant",
+    .base = nullptr,
+    .content = lmx::content_kind::simple,
+    .may_be_empty = false,
+    .ns_map = nullptr,
+    .nil_flag = lmx::k_no_flag,
+    .choice = lmx::k_no_flag,
+    .id = nullptr,
+    .xsi_type = nullptr,
+    .attributes = std::span(k_items).first(std::size(k_Illuminant_attributes) - 1),
+    .elements = std::span(k_items).subspan(std::size(k_Illuminant_attributes) - 1),
+    .attribute_map = k_Illuminant_attributes,
+    .element_map = lmx::k_no_events,
+    .operations = &lmx::k_operations<Illuminant>,
+};
+
+Illuminant::Illuminant() = default;
+Illuminant::Illuminant(const Illuminant& other) { lmx::copy(k_class, this, &other); }
+Illuminant::~Illuminant() = default;
+Illuminant& Illuminant::operator=(const Illuminant& other) { Illuminant copy(other); swap(copy); return *this; }
+void Illuminant::swap(Illuminant& other) { lmx::swap(k_class, this, &other); }
+void Illuminant::reset() { Illuminant fresh; swap(fresh); }
+bool Illuminant::is_occurs_ok() const { return lmx::is_occurs_ok(k_class, this); }
+lmx::elmx_error Illuminant::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
+lmx::elmx_error Illuminant::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
+void Illuminant::marshal_attributes(lmx::c_xml_writer& writer) const { lmx::marshal_attributes(k_class, this, writer); }
+lmx::elmx_error Illuminant::marshal_child_elements(lmx::c_xml_writer& writer) const { return lmx::marshal_child_elements(k_class, this, writer); }
+bool Illuminant::unmarshal_attributes(lmx::c_xml_reader& reader, const std::string& name, lmx::elmx_error* error) { return lmx::unmarshal_attribute(k_class, this, reader, name, error); }
+lmx::elmx_error Illuminant::unmarshal_attributes_check(lmx::c_xml_reader& reader) { return lmx::check_required_attributes(k_class, this, reader); }
+bool Illuminant::unmarshal_body(lmx::c_xml_reader& reader, std::string* name, lmx::elmx_error* error, bool has_body) { return lmx::unmarshal_content(k_class, this, reader, name, error, has_body); }
+lmx::elmx_error Illuminant::set_CustomName(const std::u16string& value) { return lmx::set_item(k_class, k_items[item_CustomName], this, value); }
+lmx::elmx_error Illuminant::set_Illuminant(const std::u16string& value) { return lmx::set_item(k_class, k_items[item_Illuminant], this, value); }
+Eenum_Illuminant Illuminant::getenum_Illuminant() const { return static_cast<Eenum_Illuminant>(lmx::enumerated_number(k_items[item_Illuminant], get_Illuminant())); }
+bool Illuminant::setenum_Illuminant(std::int32_t number) { return lmx::set_enumerated(k_class, k_items[item_Illuminant], this, number); }
+
+// WhitePointChromaticity
+
+namespace {
+constexpr lmx::s_event_map k_WhitePointChromaticity_elements[] = {
+    lmx::element_event("CoordinateX", element_CoordinateX),
+    lmx::element_event("CoordinateY", element_CoordinateY),
+    lmx::k_end_of_map,
+};
+}  // namespace
+
+constinit const lmx::s_item WhitePointChromaticity::k_items[] = {
+    {lmx::item_kind::element, lmx::value_kind::number, lmx::use_required, lmx::ELMX_WS_COLLAPSE, "Vyr:CoordinateX", element_CoordinateX, LMX_OFFSET(WhitePointChromaticity, m_CoordinateX, element, number), LMX_FLAG(WhitePointChromaticity, m_isset_CoordinateX), lmx::position_of(k_WhitePointChromaticity_elements, element_CoordinateX), lmx::position_of(k_WhitePointChromaticity_elements, element_CoordinateX, 1), nullptr, &facets::Fraction, {}},
+    {lmx::item_kind::element, lmx::value_kind::number, lmx::use_required, lmx::ELMX_WS_COLLAPSE, "Vyr:CoordinateY", element_CoordinateY, LMX_OFFSET(WhitePointChromaticity, m_CoordinateY, element, number), LMX_FLAG(WhitePointChromaticity, m_isset_CoordinateY), lmx::position_of(k_WhitePointChromaticity_elements, element_CoordinateY), lmx::position_of(k_WhitePointChromaticity_elements, element_CoordinateY, 1), nullptr, &facets::Fraction, {}},
+};
+constinit const lmx::s_class WhitePointChromaticity::k_class = {
+    .name = "WhitePointChromaticity",
+    .qualified_name = "Vyr:WhitePointChromaticity",
+    .base = nullptr,
+    .content = lmx::content_kind::children,
+    .may_be_empty = false,
+    .ns_map = nullptr,
+    .nil_flag = lmx::k_no_flag,
+    .choice = lmx::k_no_flag,
+    .id = nullptr,
+    .xsi_type = nullptr,
+    .attributes = std::span(k_items).first(std::size(lmx::k_no_events) - 1),
+    .elements = std::span(k_items).subspan(std::size(lmx::k_no_events) - 1),
+    .attribute_map = lmx::k_no_events,
+    .element_map = k_WhitePointChromaticity_elements,
+    .operations = &lmx::k_operations<WhitePointChromaticity>,
+};
+
+WhitePointChromaticity::WhitePointChromaticity() = default;
+WhitePointChromaticity::WhitePointChromaticity(const WhitePointChromaticity& other) { lmx::copy(k_class, this, &other); }
+WhitePointChromaticity::~WhitePointChromaticity() = default;
+WhitePointChromaticity& WhitePointChromaticity::operator=(const WhitePointChromaticity& other) { WhitePointChromaticity copy(other); swap(copy); return *this; }
+void WhitePointChromaticity::swap(WhitePointChromaticity& other) { lmx::swap(k_class, this, &other); }
+void WhitePointChromaticity::reset() { WhitePointChromaticity fresh; swap(fresh); }
+bool WhitePointChromaticity::is_occurs_ok() const { return lmx::is_occurs_ok(k_class, this); }
+lmx::elmx_error WhitePointChromaticity::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
+lmx::elmx_error WhitePointChromaticity::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
+void WhitePointChromaticity::marshal_attributes(lmx::c_xml_writer& writer) const { lmx::marshal_attributes(k_class, this, writer); }
+lmx::elmx_error WhitePointChromaticity::marshal_child_elements(lmx::c_xml_writer& writer) const { return lmx::marshal_child_elements(k_class, this, writer); }
+bool WhitePointChromaticity::unmarshal_attributes(lmx::c_xml_reader& reader, const std::string& name, lmx::elmx_error* error) { return lmx::unmarshal_attribute(k_class, this, reader, name, error); }
+lmx::elmx_error WhitePointChromaticity::unmarshal_attributes_check(lmx::c_xml_reader& reader) { return lmx::check_required_attributes(k_class, this, reader); }
+bool WhitePointChromaticity::unmarshal_body(lmx::c_xml_reader& reader, std::string* name, lmx::elmx_error* error) { return lmx::unmarshal_body(k_class, this, reader, name, error); }
+lmx::elmx_error WhitePointChromaticity::set_CoordinateX(double value) { return lmx::set_item(k_class, k_items[item_CoordinateX], this, value); }
+lmx::elmx_error WhitePointChromaticity::set_CoordinateY(double value) { return lmx::set_item(k_class, k_items[item_CoordinateY], this, value); }
+
+// BSDFAngle
+
+namespace {
+constexpr lmx::s_event_map k_BSDFAngle_elements[] = {
+    lmx::element_event("IlluminantAngle", element_IlluminantAngle),
+    lmx::element_event("Aspecular", element_Aspecular),
+    lmx::element_event("Azimuth", element_Azimuth),
+    lmx::k_end_of_map,
+};
+}  // namespace
+
+constinit const lmx::s_item BSDFAngle::k_items[] = {
+    {lmx::item_kind::element, lmx::value_kind::number, lmx::use_required, lmx::ELMX_WS_COLLAPSE, "Vyr:IlluminantAngle", element_IlluminantAngle, LMX_OFFSET(BSDFAngle, m_IlluminantAngle, element, number), LMX_FLAG(BSDFAngle, m_isset_IlluminantAngle), lmx::position_of(k_BSDFAngle_elements, element_IlluminantAngle), lmx::position_of(k_BSDFAngle_elements, element_IlluminantAngle, 1), nullptr, nullptr, {}},
+    {lmx::item_kind::element, lmx::value_kind::number, lmx::use_required, lmx::ELMX_WS_COLLAPSE, "Vyr:Aspecular", element_Aspecular, LMX_OFFSET(BSDFAngle, m_Aspecular, element, number), LMX_FLAG(BSDFAngle, m_isset_Aspecular), lmx::position_of(k_BSDFAngle_elements, element_Aspecular), lmx::position_of(k_BSDFAngle_elements, element_Aspecular, 1), nullptr, nullptr, {}},
+    {lmx::item_kind::marker, lmx::value_kind::none, lmx::use_written, lmx::ELMX_WS_PRESERVE, "Vyr:Azimuth", element_Azimuth, 0, lmx::k_no_flag, lmx::position_of(k_BSDFAngle_elements, element_Azimuth), lmx::position_of(k_BSDFAngle_elements, element_Azimuth, 1), nullptr, nullptr, {}},
+};
+constinit const lmx::s_class BSDFAngle::k_class = {
+    .name = "BSDFAngle",
+    .qualified_name = "Vyr:BSDFAngle",
+    .base = nullptr,
+    .content = lmx::content_kind::children,
+    .may_be_empty = false,
+    .ns_map = k_ns_map,
+    .nil_flag = lmx::k_no_flag,
+    .choice = lmx::k_no_flag,
+    .id = nullptr,
+    .xsi_type = nullptr,
+    .attributes = std::span(k_items).first(std::size(lmx::k_no_events) - 1),
+    .elements = std::span(k_items).subspan(std::size(lmx::k_no_events) - 1),
+    .attribute_map = lmx::k_no_events,
+    .element_map = k_BSDFAngle_elements,
+    .operations = &lmx::k_operations<BSDFAngle>,
+};
+
+BSDFAngle::BSDFAngle() = default;
+BSDFAngle::BSDFAngle(const BSDFAngle& other) { lmx::copy(k_class, this, &other); }
+BSDFAngle::~BSDFAngle() = default;
+BSDFAngle& BSDFAngle::operator=(const BSDFAngle& other) { BSDFAngle copy(other); swap(copy); return *this; }
+void BSDFAngle::swap(BSDFAngle& other) { lmx::swap(k_class, this, &other); }
+void BSDFAngle::reset() { BSDFAngle fresh; swap(fresh); }
+bool BSDFAngle::is_occurs_ok() const { return lmx::is_occurs_ok(k_class, this); }
+lmx::elmx_error BSDFAngle::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
+lmx::elmx_error BSDFAngle::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
+void BSDFAngle::marshal_attributes(lmx::c_xml_writer& writer) const { lmx::marshal_attributes(k_class, this, writer); }
+lmx::elmx_error BSDFAngle::marshal_child_elements(lmx::c_xml_writer& writer) const { return lmx::marshal_child_elements(k_class, this, writer); }
+bool BSDFAngle::unmarshal_attributes(lmx::c_xml_reader& reader, const std::string& name, lmx::elmx_error* error) { return lmx::unmarshal_attribute(k_class, this, reader, name, error); }
+lmx::elmx_error BSDFAngle::unmarshal_attributes_check(lmx::c_xml_reader& reader) { return lmx::check_required_attributes(k_class, this, reader); }
+bool BSDFAngle::unmarshal_body(lmx::c_xml_reader& reader, std::string* name, lmx::elmx_error* error) { return lmx::unmarshal_body(k_class, this, reader, name, error); }
+lmx::elmx_error BSDFAngle::set_IlluminantAngle(double value) { return lmx::set_item(k_class, k_items[item_IlluminantAngle], this, value); }
+lmx::elmx_error BSDFAngle::set_Aspecular(double value) { return lmx::set_item(k_class, k_items[item_Aspecular], this, value); }
+
+// Azimuth
+
+constinit const lmx::s_class Azimuth::k_class = {
+    .name = "Azimuth",
+    .qualified_name = "Vyr:Azimuth",
+    .base = nullptr,
+    .content = lmx::content_kind::empty,
+    .may_be_empty = false,
+    .ns_map = nullptr,
+    .nil_flag = lmx::k_no_flag,
+    .choice = lmx::k_no_flag,
+    .id = nullptr,
+    .xsi_type = nullptr,
+    .attributes = {},
+    .elements = {},
+    .attribute_map = lmx::k_no_events,
+    .element_map = lmx::k_no_events,
+    .operations = &lmx::k_operations<Azimuth>,
+};
+
+Azimuth::Azimuth() = default;
+Azimuth::Azimuth(const Azimuth& other) { lmx::copy(k_class, this, &other); }
+Azimuth::~Azimuth() = default;
+Azimuth& Azimuth::operator=(const Azimuth& other) { Azimuth copy(other); swap(copy); return *this; }
+void Azimuth::swap(Azimuth& other) { lmx::swap(k_class, this, &other); }
+void Azimuth::reset() { Azimuth fresh; swap(fresh); }
+bool Azimuth::is_occurs_ok() const { return lmx::is_occurs_ok(k_class, this); }
+lmx::elmx_error Azimuth::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
+lmx::elmx_error Azimuth::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
+void Azimuth::marshal_attributes(lmx::c_xml_writer& writer) const { lmx::marshal_attributes(k_class, this, writer); }
+lmx::elmx_error Azimuth::marshal_child_elements(lmx::c_xml_writer& writer) const { return lmx::marshal_child_elements(k_class, this, writer); }
+bool Azimuth::unmarshal_attributes(lmx::c_xml_reader& reader, const std::string& name, lmx::elmx_error* error) { return lmx::unmarshal_attribute(k_class, this, reader, name, error); }
+lmx::elmx_error Azimuth::unmarshal_attributes_check(lmx::c_xml_reader& reader) { return lmx::check_required_attributes(k_class, this, reader); }
+bool Azimuth::unmarshal_body(lmx::c_xml_reader& reader, std::string* name, lmx::elmx_error* error) { return lmx::unmarshal_body(k_class, this, reader, name, error); }
+
+}  // namespace com_vyrgraph_v2

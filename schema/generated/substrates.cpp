@@ -1,0 +1,771 @@
+// Copyright 2026 The Vyr Authors
+// SPDX-License-Identifier: Apache-2.0
+//
+// Made by schema/generator/generate.py from schema/vyr.xsd and schema/binding.toml. Change those instead.
+// clang-format off
+
+/// Tables and members of the classes in substrates.h.
+
+#include "schema/generated/substrates.h"
+#include "lmx/binding/binding.h"
+#include "lmx/binding/rows.h"
+#include "schema/generated/header.h"
+#include "schema/generated/palettes.h"
+#include "schema/generated/tables.h"
+
+// Offsets of members of classes with virtual functions: both compilers define them, and the macros check them.
+#pragma GCC diagnostic ignored "-Winvalid-offsetof"
+
+namespace com_vyrgraph_v2 {
+
+static_assert(lmx::k_binding_version == 1, "run schema/generator/generate.py");
+
+// SubstrateType
+
+namespace {
+constexpr lmx::s_event_map k_SubstrateType_elements[] = {
+    lmx::element_event("CustomAttribute", element_CustomAttribute),
+    lmx::element_event("PartNumber", element_PartNumber),
+    lmx::element_event("Color", element_Color),
+    lmx::k_end_of_map,
+};
+}  // namespace
+
+constinit const lmx::s_item SubstrateType::k_items[] = {
+    {lmx::item_kind::child_list, lmx::value_kind::none, lmx::use_optional, lmx::ELMX_WS_PRESERVE, "Vyr:CustomAttribute", element_CustomAttribute, LMX_OFFSET(SubstrateType, m_CustomAttribute, child_list, none), lmx::k_no_flag, lmx::position_of(k_SubstrateType_elements, element_CustomAttribute), lmx::position_of(k_SubstrateType_elements, element_CustomAttribute, 1), &CustomAttributeType::k_class, nullptr, {}},
+    {lmx::item_kind::element, lmx::value_kind::text, lmx::use_optional, lmx::ELMX_WS_PRESERVE, "Vyr:PartNumber", element_PartNumber, LMX_OFFSET(SubstrateType, m_PartNumber, element, text), LMX_FLAG(SubstrateType, m_isset_PartNumber), lmx::position_of(k_SubstrateType_elements, element_PartNumber), lmx::position_of(k_SubstrateType_elements, element_PartNumber, 1), nullptr, nullptr, {}},
+    {lmx::item_kind::child, lmx::value_kind::none, lmx::use_optional, lmx::ELMX_WS_PRESERVE, "Vyr:Color", element_Color, LMX_OFFSET(SubstrateType, m_Color, child, none), LMX_FLAG(SubstrateType, m_isset_Color), lmx::position_of(k_SubstrateType_elements, element_Color), lmx::position_of(k_SubstrateType_elements, element_Color, 1), &ColorType::k_class, nullptr, {}},
+};
+constinit const lmx::s_factory_row SubstrateType::k_factory[] = {
+    {"SubstratePaperType", &SubstratePaperType::k_class},
+    {"SubstrateGenericType", &SubstrateGenericType::k_class},
+    {"SubstrateMetalType", &SubstrateMetalType::k_class},
+    {"SubstratePlasticType", &SubstratePlasticType::k_class},
+    {"SubstrateWoodType", &SubstrateWoodType::k_class},
+    {"SubstrateVinylType", &SubstrateVinylType::k_class},
+    {"SubstrateTileType", &SubstrateTileType::k_class},
+    {"SubstrateFilmType", &SubstrateFilmType::k_class},
+    {"SubstrateTextileType", &SubstrateTextileType::k_class},
+};
+constinit const lmx::s_class SubstrateType::k_class = {
+    .name = "SubstrateType",
+    .qualified_name = "Vyr:SubstrateType",
+    .base = nullptr,
+    .content = lmx::content_kind::children,
+    .may_be_empty = true,
+    .ns_map = k_ns_map,
+    .nil_flag = lmx::k_no_flag,
+    .choice = lmx::k_no_flag,
+    .id = &SubstrateType::id,
+    .xsi_type = "Vyr:SubstrateType",
+    .attributes = std::span(k_items).first(std::size(lmx::k_no_events) - 1),
+    .elements = std::span(k_items).subspan(std::size(lmx::k_no_events) - 1),
+    .attribute_map = lmx::k_no_events,
+    .element_map = k_SubstrateType_elements,
+    .operations = &lmx::k_operations<SubstrateType>,
+};
+
+SubstrateType::SubstrateType() = default;
+SubstrateType::SubstrateType(const SubstrateType& other) { lmx::copy(k_class, this, &other); }
+SubstrateType::~SubstrateType() = default;
+SubstrateType& SubstrateType::operator=(const SubstrateType& other) { SubstrateType copy(other); swap(copy); return *this; }
+void SubstrateType::swap(SubstrateType& other) { lmx::swap(k_class, this, &other); }
+void SubstrateType::reset() { SubstrateType fresh; swap(fresh); }
+bool SubstrateType::is_occurs_ok() const { return lmx::is_occurs_ok(k_class, this); }
+lmx::elmx_error SubstrateType::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
+lmx::elmx_error SubstrateType::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
+void SubstrateType::marshal_attributes(lmx::c_xml_writer& writer) const { lmx::marshal_attributes(k_class, this, writer); }
+lmx::elmx_error SubstrateType::marshal_child_elements(lmx::c_xml_writer& writer) const { return lmx::marshal_child_elements(k_class, this, writer); }
+bool SubstrateType::unmarshal_attributes(lmx::c_xml_reader& reader, const std::string& name, lmx::elmx_error* error) { return lmx::unmarshal_attribute(k_class, this, reader, name, error); }
+lmx::elmx_error SubstrateType::unmarshal_attributes_check(lmx::c_xml_reader& reader) { return lmx::check_required_attributes(k_class, this, reader); }
+bool SubstrateType::unmarshal_body(lmx::c_xml_reader& reader, std::string* name, lmx::elmx_error* error) { return lmx::unmarshal_body(k_class, this, reader, name, error); }
+namespace { const char k_SubstrateType_id[] = "SubstrateType"; }
+const char* SubstrateType::id = k_SubstrateType_id;
+SubstrateType* SubstrateType::clone() const { return new SubstrateType(*this); }
+const char* SubstrateType::getid() const { return id; }
+bool SubstrateType::has_id(const char* identity) const { return identity == id; }
+SubstrateType* SubstrateType::factory(int ns_id, const std::string& name) { return static_cast<SubstrateType*>(lmx::create_by_name(k_factory, ns_id, name)); }
+CustomAttributeType& SubstrateType::get_CustomAttribute(std::size_t index) { return m_CustomAttribute.grow_to(index); }
+CustomAttributeType& SubstrateType::assign_CustomAttribute(std::size_t index, const CustomAttributeType& value) { return get_CustomAttribute(index) = value; }
+lmx::elmx_error SubstrateType::append_CustomAttribute() { m_CustomAttribute.append(); return lmx::ELMX_OK; }
+lmx::elmx_error SubstrateType::insert_CustomAttribute(std::size_t index) { m_CustomAttribute.insert(index); return lmx::ELMX_OK; }
+void SubstrateType::delete_CustomAttribute(std::size_t index) { m_CustomAttribute.erase(index); }
+void SubstrateType::clear_CustomAttribute() { m_CustomAttribute.clear(); }
+lmx::elmx_error SubstrateType::set_PartNumber(const std::u16string& value) { return lmx::set_item(k_class, k_items[item_PartNumber], this, value); }
+ColorType& SubstrateType::assign_Color(const ColorType& value) { return get_Color() = value; }
+
+// Substrate
+
+lmx::elmx_error Substrate::marshal(lmx::c_xml_writer& writer, const char* name) const {
+    writer.conditionally_select_ns_map(k_ns_map);
+    return SubstrateType::marshal(writer, name);
+}
+lmx::elmx_error Substrate::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return SubstrateType::unmarshal(reader, name); }
+const lmx::s_document Substrate::k_document = {"Vyr:Substrate", "Substrate", k_ns_map, &lmx::k_operations<Substrate>};
+const lmx::s_ns_map* Substrate::ns_map() { return k_ns_map; }
+lmx::elmx_error Substrate::unmarshal(lmx::c_xml_reader& reader) { return lmx::unmarshal_document(k_document, this, reader); }
+
+// SubstratePaperType
+
+namespace {
+constexpr lmx::s_event_map k_SubstratePaperType_elements[] = {
+    lmx::element_event("PaperThickness", element_PaperThickness),
+    lmx::element_event("PaperType", element_PaperType),
+    lmx::k_end_of_map,
+};
+}  // namespace
+
+constinit const lmx::s_item SubstratePaperType::k_items[] = {
+    {lmx::item_kind::element, lmx::value_kind::number, lmx::use_optional, lmx::ELMX_WS_COLLAPSE, "Vyr:PaperThickness", element_PaperThickness, LMX_OFFSET(SubstratePaperType, m_PaperThickness, element, number), LMX_FLAG(SubstratePaperType, m_isset_PaperThickness), lmx::position_of(k_SubstratePaperType_elements, element_PaperThickness), lmx::position_of(k_SubstratePaperType_elements, element_PaperThickness, 1), nullptr, nullptr, {}},
+    {lmx::item_kind::element, lmx::value_kind::text, lmx::use_optional, lmx::ELMX_WS_PRESERVE, "Vyr:PaperType", element_PaperType, LMX_OFFSET(SubstratePaperType, m_PaperType, element, text), LMX_FLAG(SubstratePaperType, m_isset_PaperType), lmx::position_of(k_SubstratePaperType_elements, element_PaperType), lmx::position_of(k_SubstratePaperType_elements, element_PaperType, 1), nullptr, nullptr, {}},
+};
+constinit const lmx::s_class SubstratePaperType::k_class = {
+    .name = "SubstratePaperType",
+    .qualified_name = "Vyr:SubstratePaperType",
+    .base = &SubstrateType::k_class,
+    .content = lmx::content_kind::children,
+    .may_be_empty = true,
+    .ns_map = k_ns_map,
+    .nil_flag = lmx::k_no_flag,
+    .choice = lmx::k_no_flag,
+    .id = &SubstratePaperType::id,
+    .xsi_type = "Vyr:SubstratePaperType",
+    .attributes = std::span(k_items).first(std::size(lmx::k_no_events) - 1),
+    .elements = std::span(k_items).subspan(std::size(lmx::k_no_events) - 1),
+    .attribute_map = lmx::k_no_events,
+    .element_map = k_SubstratePaperType_elements,
+    .operations = &lmx::k_operations<SubstratePaperType>,
+};
+
+SubstratePaperType::SubstratePaperType() = default;
+SubstratePaperType::SubstratePaperType(const SubstratePaperType& other) : SubstrateType() { lmx::copy(k_class, this, &other); }
+SubstratePaperType::~SubstratePaperType() = default;
+SubstratePaperType& SubstratePaperType::operator=(const SubstratePaperType& other) { SubstratePaperType copy(other); swap(copy); return *this; }
+void SubstratePaperType::swap(SubstratePaperType& other) { lmx::swap(k_class, this, &other); }
+void SubstratePaperType::reset() { SubstratePaperType fresh; swap(fresh); }
+bool SubstratePaperType::is_occurs_ok() const { return lmx::is_occurs_ok(k_class, this); }
+lmx::elmx_error SubstratePaperType::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
+lmx::elmx_error SubstratePaperType::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
+void SubstratePaperType::marshal_attributes(lmx::c_xml_writer& writer) const { lmx::marshal_attributes(k_class, this, writer); }
+lmx::elmx_error SubstratePaperType::marshal_child_elements(lmx::c_xml_writer& writer) const { return lmx::marshal_child_elements(k_class, this, writer); }
+bool SubstratePaperType::unmarshal_attributes(lmx::c_xml_reader& reader, const std::string& name, lmx::elmx_error* error) { return lmx::unmarshal_attribute(k_class, this, reader, name, error); }
+lmx::elmx_error SubstratePaperType::unmarshal_attributes_check(lmx::c_xml_reader& reader) { return lmx::check_required_attributes(k_class, this, reader); }
+bool SubstratePaperType::unmarshal_body(lmx::c_xml_reader& reader, std::string* name, lmx::elmx_error* error) { return lmx::unmarshal_body(k_class, this, reader, name, error); }
+namespace { const char k_SubstratePaperType_id[] = "SubstratePaperType"; }
+const char* SubstratePaperType::id = k_SubstratePaperType_id;
+SubstratePaperType* SubstratePaperType::clone() const { return new SubstratePaperType(*this); }
+const char* SubstratePaperType::getid() const { return id; }
+bool SubstratePaperType::has_id(const char* identity) const { return identity == id || SubstrateType::has_id(identity); }
+lmx::elmx_error SubstratePaperType::set_PaperThickness(double value) { return lmx::set_item(k_class, k_items[item_PaperThickness], this, value); }
+lmx::elmx_error SubstratePaperType::set_PaperType(const std::u16string& value) { return lmx::set_item(k_class, k_items[item_PaperType], this, value); }
+
+// SubstrateGenericType
+
+namespace {
+constexpr lmx::s_event_map k_SubstrateGenericType_elements[] = {
+    lmx::element_event("Type", element_Type),
+    lmx::k_end_of_map,
+};
+}  // namespace
+
+constinit const lmx::s_item SubstrateGenericType::k_items[] = {
+    {lmx::item_kind::element, lmx::value_kind::text, lmx::use_required, lmx::ELMX_WS_PRESERVE, "Vyr:Type", element_Type, LMX_OFFSET(SubstrateGenericType, m_Type, element, text), LMX_FLAG(SubstrateGenericType, m_isset_Type), lmx::position_of(k_SubstrateGenericType_elements, element_Type), lmx::position_of(k_SubstrateGenericType_elements, element_Type, 1), nullptr, &facets::NonEmptyString, {}},
+};
+constinit const lmx::s_class SubstrateGenericType::k_class = {
+    .name = "SubstrateGenericType",
+    .qualified_name = "Vyr:SubstrateGenericType",
+    .base = &SubstrateType::k_class,
+    .content = lmx::content_kind::children,
+    .may_be_empty = false,
+    .ns_map = k_ns_map,
+    .nil_flag = lmx::k_no_flag,
+    .choice = lmx::k_no_flag,
+    .id = &SubstrateGenericType::id,
+    .xsi_type = "Vyr:SubstrateGenericType",
+    .attributes = std::span(k_items).first(std::size(lmx::k_no_events) - 1),
+    .elements = std::span(k_items).subspan(std::size(lmx::k_no_events) - 1),
+    .attribute_map = lmx::k_no_events,
+    .element_map = k_SubstrateGenericType_elements,
+    .operations = &lmx::k_operations<SubstrateGenericType>,
+};
+
+SubstrateGenericType::SubstrateGenericType() = default;
+SubstrateGenericType::SubstrateGenericType(const SubstrateGenericType& other) : SubstrateType() { lmx::copy(k_class, this, &other); }
+SubstrateGenericType::~SubstrateGenericType() = default;
+SubstrateGenericType& SubstrateGenericType::operator=(const SubstrateGenericType& other) { SubstrateGenericType copy(other); swap(copy); return *this; }
+void SubstrateGenericType::swap(SubstrateGenericType& other) { lmx::swap(k_class, this, &other); }
+void SubstrateGenericType::reset() { SubstrateGenericType fresh; swap(fresh); }
+bool SubstrateGenericType::is_occurs_ok() const { return lmx::is_occurs_ok(k_class, this); }
+lmx::elmx_error SubstrateGenericType::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
+lmx::elmx_error SubstrateGenericType::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
+void SubstrateGenericType::marshal_attributes(lmx::c_xml_writer& writer) const { lmx::marshal_attributes(k_class, this, writer); }
+lmx::elmx_error SubstrateGenericType::marshal_child_elements(lmx::c_xml_writer& writer) const { return lmx::marshal_child_elements(k_class, this, writer); }
+bool SubstrateGenericType::unmarshal_attributes(lmx::c_xml_reader& reader, const std::string& name, lmx::elmx_error* error) { return lmx::unmarshal_attribute(k_class, this, reader, name, error); }
+lmx::elmx_error SubstrateGenericType::unmarshal_attributes_check(lmx::c_xml_reader& reader) { return lmx::check_required_attributes(k_class, this, reader); }
+bool SubstrateGenericType::unmarshal_body(lmx::c_xml_reader& reader, std::string* name, lmx::elmx_error* error) { return lmx::unmarshal_body(k_class, this, reader, name, error); }
+namespace { const char k_SubstrateGenericType_id[] = "SubstrateGenericType"; }
+const char* SubstrateGenericType::id = k_SubstrateGenericType_id;
+SubstrateGenericType* SubstrateGenericType::clone() const { return new SubstrateGenericType(*this); }
+const char* SubstrateGenericType::getid() const { return id; }
+bool SubstrateGenericType::has_id(const char* identity) const { return identity == id || SubstrateType::has_id(identity); }
+lmx::elmx_error SubstrateGenericType::set_Type(const std::u16string& value) { return lmx::set_item(k_class, k_items[item_Type], this, value); }
+
+// SubstrateMetalType
+
+namespace {
+constexpr lmx::s_event_map k_SubstrateMetalType_elements[] = {
+    lmx::element_event("MetalWeight", element_MetalWeight),
+    lmx::element_event("MetalType", element_MetalType),
+    lmx::k_end_of_map,
+};
+}  // namespace
+
+constinit const lmx::s_item SubstrateMetalType::k_items[] = {
+    {lmx::item_kind::element, lmx::value_kind::number, lmx::use_optional, lmx::ELMX_WS_COLLAPSE, "Vyr:MetalWeight", element_MetalWeight, LMX_OFFSET(SubstrateMetalType, m_MetalWeight, element, number), LMX_FLAG(SubstrateMetalType, m_isset_MetalWeight), lmx::position_of(k_SubstrateMetalType_elements, element_MetalWeight), lmx::position_of(k_SubstrateMetalType_elements, element_MetalWeight, 1), nullptr, nullptr, {}},
+    {lmx::item_kind::element, lmx::value_kind::text, lmx::use_optional, lmx::ELMX_WS_PRESERVE, "Vyr:MetalType", element_MetalType, LMX_OFFSET(SubstrateMetalType, m_MetalType, element, text), LMX_FLAG(SubstrateMetalType, m_isset_MetalType), lmx::position_of(k_SubstrateMetalType_elements, element_MetalType), lmx::position_of(k_SubstrateMetalType_elements, element_MetalType, 1), nullptr, nullptr, {}},
+};
+constinit const lmx::s_class SubstrateMetalType::k_class = {
+    .name = "SubstrateMetalType",
+    .qualified_name = "Vyr:SubstrateMetalType",
+    .base = &SubstrateType::k_class,
+    .content = lmx::content_kind::children,
+    .may_be_empty = true,
+    .ns_map = k_ns_map,
+    .nil_flag = lmx::k_no_flag,
+    .choice = lmx::k_no_flag,
+    .id = &SubstrateMetalType::id,
+    .xsi_type = "Vyr:SubstrateMetalType",
+    .attributes = std::span(k_items).first(std::size(lmx::k_no_events) - 1),
+    .elements = std::span(k_items).subspan(std::size(lmx::k_no_events) - 1),
+    .attribute_map = lmx::k_no_events,
+    .element_map = k_SubstrateMetalType_elements,
+    .operations = &lmx::k_operations<SubstrateMetalType>,
+};
+
+SubstrateMetalType::SubstrateMetalType() = default;
+SubstrateMetalType::SubstrateMetalType(const SubstrateMetalType& other) : SubstrateType() { lmx::copy(k_class, this, &other); }
+SubstrateMetalType::~SubstrateMetalType() = default;
+SubstrateMetalType& SubstrateMetalType::operator=(const SubstrateMetalType& other) { SubstrateMetalType copy(other); swap(copy); return *this; }
+void SubstrateMetalType::swap(SubstrateMetalType& other) { lmx::swap(k_class, this, &other); }
+void SubstrateMetalType::reset() { SubstrateMetalType fresh; swap(fresh); }
+bool SubstrateMetalType::is_occurs_ok() const { return lmx::is_occurs_ok(k_class, this); }
+lmx::elmx_error SubstrateMetalType::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
+lmx::elmx_error SubstrateMetalType::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
+void SubstrateMetalType::marshal_attributes(lmx::c_xml_writer& writer) const { lmx::marshal_attributes(k_class, this, writer); }
+lmx::elmx_error SubstrateMetalType::marshal_child_elements(lmx::c_xml_writer& writer) const { return lmx::marshal_child_elements(k_class, this, writer); }
+bool SubstrateMetalType::unmarshal_attributes(lmx::c_xml_reader& reader, const std::string& name, lmx::elmx_error* error) { return lmx::unmarshal_attribute(k_class, this, reader, name, error); }
+lmx::elmx_error SubstrateMetalType::unmarshal_attributes_check(lmx::c_xml_reader& reader) { return lmx::check_required_attributes(k_class, this, reader); }
+bool SubstrateMetalType::unmarshal_body(lmx::c_xml_reader& reader, std::string* name, lmx::elmx_error* error) { return lmx::unmarshal_body(k_class, this, reader, name, error); }
+namespace { const char k_SubstrateMetalType_id[] = "SubstrateMetalType"; }
+const char* SubstrateMetalType::id = k_SubstrateMetalType_id;
+SubstrateMetalType* SubstrateMetalType::clone() const { return new SubstrateMetalType(*this); }
+const char* SubstrateMetalType::getid() const { return id; }
+bool SubstrateMetalType::has_id(const char* identity) const { return identity == id || SubstrateType::has_id(identity); }
+lmx::elmx_error SubstrateMetalType::set_MetalWeight(double value) { return lmx::set_item(k_class, k_items[item_MetalWeight], this, value); }
+lmx::elmx_error SubstrateMetalType::set_MetalType(const std::u16string& value) { return lmx::set_item(k_class, k_items[item_MetalType], this, value); }
+
+// SubstratePlasticType
+
+namespace {
+constexpr lmx::s_event_map k_SubstratePlasticType_elements[] = {
+    lmx::element_event("PlasticWeight", element_PlasticWeight),
+    lmx::element_event("PlasticType", element_PlasticType),
+    lmx::k_end_of_map,
+};
+}  // namespace
+
+constinit const lmx::s_item SubstratePlasticType::k_items[] = {
+    {lmx::item_kind::element, lmx::value_kind::number, lmx::use_optional, lmx::ELMX_WS_COLLAPSE, "Vyr:PlasticWeight", element_PlasticWeight, LMX_OFFSET(SubstratePlasticType, m_PlasticWeight, element, number), LMX_FLAG(SubstratePlasticType, m_isset_PlasticWeight), lmx::position_of(k_SubstratePlasticType_elements, element_PlasticWeight), lmx::position_of(k_SubstratePlasticType_elements, element_PlasticWeight, 1), nullptr, nullptr, {}},
+    {lmx::item_kind::element, lmx::value_kind::text, lmx::use_optional, lmx::ELMX_WS_PRESERVE, "Vyr:PlasticType", element_PlasticType, LMX_OFFSET(SubstratePlasticType, m_PlasticType, element, text), LMX_FLAG(SubstratePlasticType, m_isset_PlasticType), lmx::position_of(k_SubstratePlasticType_elements, element_PlasticType), lmx::position_of(k_SubstratePlasticType_elements, element_PlasticType, 1), nullptr, nullptr, {}},
+};
+constinit const lmx::s_class SubstratePlasticType::k_class = {
+    .name = "SubstratePlasticType",
+    .qualified_name = "Vyr:SubstratePlasticType",
+    .base = &SubstrateType::k_class,
+    .content = lmx::content_kind::children,
+    .may_be_empty = true,
+    .ns_map = k_ns_map,
+    .nil_flag = lmx::k_no_flag,
+    .choice = lmx::k_no_flag,
+    .id = &SubstratePlasticType::id,
+    .xsi_type = "Vyr:SubstratePlasticType",
+    .attributes = std::span(k_items).first(std::size(lmx::k_no_events) - 1),
+    .elements = std::span(k_items).subspan(std::size(lmx::k_no_events) - 1),
+    .attribute_map = lmx::k_no_events,
+    .element_map = k_SubstratePlasticType_elements,
+    .operations = &lmx::k_operations<SubstratePlasticType>,
+};
+
+SubstratePlasticType::SubstratePlasticType() = default;
+SubstratePlasticType::SubstratePlasticType(const SubstratePlasticType& other) : SubstrateType() { lmx::copy(k_class, this, &other); }
+SubstratePlasticType::~SubstratePlasticType() = default;
+SubstratePlasticType& SubstratePlasticType::operator=(const SubstratePlasticType& other) { SubstratePlasticType copy(other); swap(copy); return *this; }
+void SubstratePlasticType::swap(SubstratePlasticType& other) { lmx::swap(k_class, this, &other); }
+void SubstratePlasticType::reset() { SubstratePlasticType fresh; swap(fresh); }
+bool SubstratePlasticType::is_occurs_ok() const { return lmx::is_occurs_ok(k_class, this); }
+lmx::elmx_error SubstratePlasticType::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
+lmx::elmx_error SubstratePlasticType::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
+void SubstratePlasticType::marshal_attributes(lmx::c_xml_writer& writer) const { lmx::marshal_attributes(k_class, this, writer); }
+lmx::elmx_error SubstratePlasticType::marshal_child_elements(lmx::c_xml_writer& writer) const { return lmx::marshal_child_elements(k_class, this, writer); }
+bool SubstratePlasticType::unmarshal_attributes(lmx::c_xml_reader& reader, const std::string& name, lmx::elmx_error* error) { return lmx::unmarshal_attribute(k_class, this, reader, name, error); }
+lmx::elmx_error SubstratePlasticType::unmarshal_attributes_check(lmx::c_xml_reader& reader) { return lmx::check_required_attributes(k_class, this, reader); }
+bool SubstratePlasticType::unmarshal_body(lmx::c_xml_reader& reader, std::string* name, lmx::elmx_error* error) { return lmx::unmarshal_body(k_class, this, reader, name, error); }
+namespace { const char k_SubstratePlasticType_id[] = "SubstratePlasticType"; }
+const char* SubstratePlasticType::id = k_SubstratePlasticType_id;
+SubstratePlasticType* SubstratePlasticType::clone() const { return new SubstratePlasticType(*this); }
+const char* SubstratePlasticType::getid() const { return id; }
+bool SubstratePlasticType::has_id(const char* identity) const { return identity == id || SubstrateType::has_id(identity); }
+lmx::elmx_error SubstratePlasticType::set_PlasticWeight(double value) { return lmx::set_item(k_class, k_items[item_PlasticWeight], this, value); }
+lmx::elmx_error SubstratePlasticType::set_PlasticType(const std::u16string& value) { return lmx::set_item(k_class, k_items[item_PlasticType], this, value); }
+
+// SubstrateWoodType
+
+namespace {
+constexpr lmx::s_event_map k_SubstrateWoodType_elements[] = {
+    lmx::element_event("WoodWeight", element_WoodWeight),
+    lmx::element_event("WoodType", element_WoodType),
+    lmx::k_end_of_map,
+};
+}  // namespace
+
+constinit const lmx::s_item SubstrateWoodType::k_items[] = {
+    {lmx::item_kind::element, lmx::value_kind::number, lmx::use_optional, lmx::ELMX_WS_COLLAPSE, "Vyr:WoodWeight", element_WoodWeight, LMX_OFFSET(SubstrateWoodType, m_WoodWeight, element, number), LMX_FLAG(SubstrateWoodType, m_isset_WoodWeight), lmx::position_of(k_SubstrateWoodType_elements, element_WoodWeight), lmx::position_of(k_SubstrateWoodType_elements, element_WoodWeight, 1), nullptr, nullptr, {}},
+    {lmx::item_kind::element, lmx::value_kind::text, lmx::use_optional, lmx::ELMX_WS_PRESERVE, "Vyr:WoodType", element_WoodType, LMX_OFFSET(SubstrateWoodType, m_WoodType, element, text), LMX_FLAG(SubstrateWoodType, m_isset_WoodType), lmx::position_of(k_SubstrateWoodType_elements, element_WoodType), lmx::position_of(k_SubstrateWoodType_elements, element_WoodType, 1), nullptr, nullptr, {}},
+};
+constinit const lmx::s_class SubstrateWoodType::k_class = {
+    .name = "SubstrateWoodType",
+    .qualified_name = "Vyr:SubstrateWoodType",
+    .base = &SubstrateType::k_class,
+    .content = lmx::content_kind::children,
+    .may_be_empty = true,
+    .ns_map = k_ns_map,
+    .nil_flag = lmx::k_no_flag,
+    .choice = lmx::k_no_flag,
+    .id = &SubstrateWoodType::id,
+    .xsi_type = "Vyr:SubstrateWoodType",
+    .attributes = std::span(k_items).first(std::size(lmx::k_no_events) - 1),
+    .elements = std::span(k_items).subspan(std::size(lmx::k_no_events) - 1),
+    .attribute_map = lmx::k_no_events,
+    .element_map = k_SubstrateWoodType_elements,
+    .operations = &lmx::k_operations<SubstrateWoodType>,
+};
+
+SubstrateWoodType::SubstrateWoodType() = default;
+SubstrateWoodType::SubstrateWoodType(const SubstrateWoodType& other) : SubstrateType() { lmx::copy(k_class, this, &other); }
+SubstrateWoodType::~SubstrateWoodType() = default;
+SubstrateWoodType& SubstrateWoodType::operator=(const SubstrateWoodType& other) { SubstrateWoodType copy(other); swap(copy); return *this; }
+void SubstrateWoodType::swap(SubstrateWoodType& other) { lmx::swap(k_class, this, &other); }
+void SubstrateWoodType::reset() { SubstrateWoodType fresh; swap(fresh); }
+bool SubstrateWoodType::is_occurs_ok() const { return lmx::is_occurs_ok(k_class, this); }
+lmx::elmx_error SubstrateWoodType::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
+lmx::elmx_error SubstrateWoodType::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
+void SubstrateWoodType::marshal_attributes(lmx::c_xml_writer& writer) const { lmx::marshal_attributes(k_class, this, writer); }
+lmx::elmx_error SubstrateWoodType::marshal_child_elements(lmx::c_xml_writer& writer) const { return lmx::marshal_child_elements(k_class, this, writer); }
+bool SubstrateWoodType::unmarshal_attributes(lmx::c_xml_reader& reader, const std::string& name, lmx::elmx_error* error) { return lmx::unmarshal_attribute(k_class, this, reader, name, error); }
+lmx::elmx_error SubstrateWoodType::unmarshal_attributes_check(lmx::c_xml_reader& reader) { return lmx::check_required_attributes(k_class, this, reader); }
+bool SubstrateWoodType::unmarshal_body(lmx::c_xml_reader& reader, std::string* name, lmx::elmx_error* error) { return lmx::unmarshal_body(k_class, this, reader, name, error); }
+namespace { const char k_SubstrateWoodType_id[] = "SubstrateWoodType"; }
+const char* SubstrateWoodType::id = k_SubstrateWoodType_id;
+SubstrateWoodType* SubstrateWoodType::clone() const { return new SubstrateWoodType(*this); }
+const char* SubstrateWoodType::getid() const { return id; }
+bool SubstrateWoodType::has_id(const char* identity) const { return identity == id || SubstrateType::has_id(identity); }
+lmx::elmx_error SubstrateWoodType::set_WoodWeight(double value) { return lmx::set_item(k_class, k_items[item_WoodWeight], this, value); }
+lmx::elmx_error SubstrateWoodType::set_WoodType(const std::u16string& value) { return lmx::set_item(k_class, k_items[item_WoodType], this, value); }
+
+// SubstrateVinylType
+
+namespace {
+constexpr lmx::s_event_map k_SubstrateVinylType_elements[] = {
+    lmx::element_event("VinylWeight", element_VinylWeight),
+    lmx::element_event("VinylType", element_VinylType),
+    lmx::k_end_of_map,
+};
+}  // namespace
+
+constinit const lmx::s_item SubstrateVinylType::k_items[] = {
+    {lmx::item_kind::element, lmx::value_kind::number, lmx::use_optional, lmx::ELMX_WS_COLLAPSE, "Vyr:VinylWeight", element_VinylWeight, LMX_OFFSET(SubstrateVinylType, m_VinylWeight, element, number), LMX_FLAG(SubstrateVinylType, m_isset_VinylWeight), lmx::position_of(k_SubstrateVinylType_elements, element_VinylWeight), lmx::position_of(k_SubstrateVinylType_elements, element_VinylWeight, 1), nullptr, nullptr, {}},
+    {lmx::item_kind::element, lmx::value_kind::text, lmx::use_optional, lmx::ELMX_WS_PRESERVE, "Vyr:VinylType", element_VinylType, LMX_OFFSET(SubstrateVinylType, m_VinylType, element, text), LMX_FLAG(SubstrateVinylType, m_isset_VinylType), lmx::position_of(k_SubstrateVinylType_elements, element_VinylType), lmx::position_of(k_SubstrateVinylType_elements, element_VinylType, 1), nullptr, nullptr, {}},
+};
+constinit const lmx::s_class SubstrateVinylType::k_class = {
+    .name = "SubstrateVinylType",
+    .qualified_name = "Vyr:SubstrateVinylType",
+    .base = &SubstrateType::k_class,
+    .content = lmx::content_kind::children,
+    .may_be_empty = true,
+    .ns_map = k_ns_map,
+    .nil_flag = lmx::k_no_flag,
+    .choice = lmx::k_no_flag,
+    .id = &SubstrateVinylType::id,
+    .xsi_type = "Vyr:SubstrateVinylType",
+    .attributes = std::span(k_items).first(std::size(lmx::k_no_events) - 1),
+    .elements = std::span(k_items).subspan(std::size(lmx::k_no_events) - 1),
+    .attribute_map = lmx::k_no_events,
+    .element_map = k_SubstrateVinylType_elements,
+    .operations = &lmx::k_operations<SubstrateVinylType>,
+};
+
+SubstrateVinylType::SubstrateVinylType() = default;
+SubstrateVinylType::SubstrateVinylType(const SubstrateVinylType& other) : SubstrateType() { lmx::copy(k_class, this, &other); }
+SubstrateVinylType::~SubstrateVinylType() = default;
+SubstrateVinylType& SubstrateVinylType::operator=(const SubstrateVinylType& other) { SubstrateVinylType copy(other); swap(copy); return *this; }
+void SubstrateVinylType::swap(SubstrateVinylType& other) { lmx::swap(k_class, this, &other); }
+void SubstrateVinylType::reset() { SubstrateVinylType fresh; swap(fresh); }
+bool SubstrateVinylType::is_occurs_ok() const { return lmx::is_occurs_ok(k_class, this); }
+lmx::elmx_error SubstrateVinylType::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
+lmx::elmx_error SubstrateVinylType::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
+void SubstrateVinylType::marshal_attributes(lmx::c_xml_writer& writer) const { lmx::marshal_attributes(k_class, this, writer); }
+lmx::elmx_error SubstrateVinylType::marshal_child_elements(lmx::c_xml_writer& writer) const { return lmx::marshal_child_elements(k_class, this, writer); }
+bool SubstrateVinylType::unmarshal_attributes(lmx::c_xml_reader& reader, const std::string& name, lmx::elmx_error* error) { return lmx::unmarshal_attribute(k_class, this, reader, name, error); }
+lmx::elmx_error SubstrateVinylType::unmarshal_attributes_check(lmx::c_xml_reader& reader) { return lmx::check_required_attributes(k_class, this, reader); }
+bool SubstrateVinylType::unmarshal_body(lmx::c_xml_reader& reader, std::string* name, lmx::elmx_error* error) { return lmx::unmarshal_body(k_class, this, reader, name, error); }
+namespace { const char k_SubstrateVinylType_id[] = "SubstrateVinylType"; }
+const char* SubstrateVinylType::id = k_SubstrateVinylType_id;
+SubstrateVinylType* SubstrateVinylType::clone() const { return new SubstrateVinylType(*this); }
+const char* SubstrateVinylType::getid() const { return id; }
+bool SubstrateVinylType::has_id(const char* identity) const { return identity == id || SubstrateType::has_id(identity); }
+lmx::elmx_error SubstrateVinylType::set_VinylWeight(double value) { return lmx::set_item(k_class, k_items[item_VinylWeight], this, value); }
+lmx::elmx_error SubstrateVinylType::set_VinylType(const std::u16string& value) { return lmx::set_item(k_class, k_items[item_VinylType], this, value); }
+
+// SubstrateTileType
+
+namespace {
+constexpr lmx::s_event_map k_SubstrateTileType_elements[] = {
+    lmx::element_event("TileWeight", element_TileWeight),
+    lmx::element_event("TileType", element_TileType),
+    lmx::k_end_of_map,
+};
+}  // namespace
+
+constinit const lmx::s_item SubstrateTileType::k_items[] = {
+    {lmx::item_kind::element, lmx::value_kind::number, lmx::use_optional, lmx::ELMX_WS_COLLAPSE, "Vyr:TileWeight", element_TileWeight, LMX_OFFSET(SubstrateTileType, m_TileWeight, element, number), LMX_FLAG(SubstrateTileType, m_isset_TileWeight), lmx::position_of(k_SubstrateTileType_elements, element_TileWeight), lmx::position_of(k_SubstrateTileType_elements, element_TileWeight, 1), nullptr, nullptr, {}},
+    {lmx::item_kind::element, lmx::value_kind::text, lmx::use_optional, lmx::ELMX_WS_PRESERVE, "Vyr:TileType", element_TileType, LMX_OFFSET(SubstrateTileType, m_TileType, element, text), LMX_FLAG(SubstrateTileType, m_isset_TileType), lmx::position_of(k_SubstrateTileType_elements, element_TileType), lmx::position_of(k_SubstrateTileType_elements, element_TileType, 1), nullptr, nullptr, {}},
+};
+constinit const lmx::s_class SubstrateTileType::k_class = {
+    .name = "SubstrateTileType",
+    .qualified_name = "Vyr:SubstrateTileType",
+    .base = &SubstrateType::k_class,
+    .content = lmx::content_kind::children,
+    .may_be_empty = true,
+    .ns_map = k_ns_map,
+    .nil_flag = lmx::k_no_flag,
+    .choice = lmx::k_no_flag,
+    .id = &SubstrateTileType::id,
+    .xsi_type = "Vyr:SubstrateTileType",
+    .attributes = std::span(k_items).first(std::size(lmx::k_no_events) - 1),
+    .elements = std::span(k_items).subspan(std::size(lmx::k_no_events) - 1),
+    .attribute_map = lmx::k_no_events,
+    .element_map = k_SubstrateTileType_elements,
+    .operations = &lmx::k_operations<SubstrateTileType>,
+};
+
+SubstrateTileType::SubstrateTileType() = default;
+SubstrateTileType::SubstrateTileType(const SubstrateTileType& other) : SubstrateType() { lmx::copy(k_class, this, &other); }
+SubstrateTileType::~SubstrateTileType() = default;
+SubstrateTileType& SubstrateTileType::operator=(const SubstrateTileType& other) { SubstrateTileType copy(other); swap(copy); return *this; }
+void SubstrateTileType::swap(SubstrateTileType& other) { lmx::swap(k_class, this, &other); }
+void SubstrateTileType::reset() { SubstrateTileType fresh; swap(fresh); }
+bool SubstrateTileType::is_occurs_ok() const { return lmx::is_occurs_ok(k_class, this); }
+lmx::elmx_error SubstrateTileType::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
+lmx::elmx_error SubstrateTileType::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
+void SubstrateTileType::marshal_attributes(lmx::c_xml_writer& writer) const { lmx::marshal_attributes(k_class, this, writer); }
+lmx::elmx_error SubstrateTileType::marshal_child_elements(lmx::c_xml_writer& writer) const { return lmx::marshal_child_elements(k_class, this, writer); }
+bool SubstrateTileType::unmarshal_attributes(lmx::c_xml_reader& reader, const std::string& name, lmx::elmx_error* error) { return lmx::unmarshal_attribute(k_class, this, reader, name, error); }
+lmx::elmx_error SubstrateTileType::unmarshal_attributes_check(lmx::c_xml_reader& reader) { return lmx::check_required_attributes(k_class, this, reader); }
+bool SubstrateTileType::unmarshal_body(lmx::c_xml_reader& reader, std::string* name, lmx::elmx_error* error) { return lmx::unmarshal_body(k_class, this, reader, name, error); }
+namespace { const char k_SubstrateTileType_id[] = "SubstrateTileType"; }
+const char* SubstrateTileType::id = k_SubstrateTileType_id;
+SubstrateTileType* SubstrateTileType::clone() const { return new SubstrateTileType(*this); }
+const char* SubstrateTileType::getid() const { return id; }
+bool SubstrateTileType::has_id(const char* identity) const { return identity == id || SubstrateType::has_id(identity); }
+lmx::elmx_error SubstrateTileType::set_TileWeight(double value) { return lmx::set_item(k_class, k_items[item_TileWeight], this, value); }
+lmx::elmx_error SubstrateTileType::set_TileType(const std::u16string& value) { return lmx::set_item(k_class, k_items[item_TileType], this, value); }
+
+// SubstrateFilmType
+
+namespace {
+constexpr lmx::s_event_map k_SubstrateFilmType_elements[] = {
+    lmx::element_event("FilmWeight", element_FilmWeight),
+    lmx::element_event("FilmType", element_FilmType),
+    lmx::k_end_of_map,
+};
+}  // namespace
+
+constinit const lmx::s_item SubstrateFilmType::k_items[] = {
+    {lmx::item_kind::element, lmx::value_kind::number, lmx::use_optional, lmx::ELMX_WS_COLLAPSE, "Vyr:FilmWeight", element_FilmWeight, LMX_OFFSET(SubstrateFilmType, m_FilmWeight, element, number), LMX_FLAG(SubstrateFilmType, m_isset_FilmWeight), lmx::position_of(k_SubstrateFilmType_elements, element_FilmWeight), lmx::position_of(k_SubstrateFilmType_elements, element_FilmWeight, 1), nullptr, nullptr, {}},
+    {lmx::item_kind::element, lmx::value_kind::text, lmx::use_optional, lmx::ELMX_WS_PRESERVE, "Vyr:FilmType", element_FilmType, LMX_OFFSET(SubstrateFilmType, m_FilmType, element, text), LMX_FLAG(SubstrateFilmType, m_isset_FilmType), lmx::position_of(k_SubstrateFilmType_elements, element_FilmType), lmx::position_of(k_SubstrateFilmType_elements, element_FilmType, 1), nullptr, nullptr, {}},
+};
+constinit const lmx::s_class SubstrateFilmType::k_class = {
+    .name = "SubstrateFilmType",
+    .qualified_name = "Vyr:SubstrateFilmType",
+    .base = &SubstrateType::k_class,
+    .content = lmx::content_kind::children,
+    .may_be_empty = true,
+    .ns_map = k_ns_map,
+    .nil_flag = lmx::k_no_flag,
+    .choice = lmx::k_no_flag,
+    .id = &SubstrateFilmType::id,
+    .xsi_type = "Vyr:SubstrateFilmType",
+    .attributes = std::span(k_items).first(std::size(lmx::k_no_events) - 1),
+    .elements = std::span(k_items).subspan(std::size(lmx::k_no_events) - 1),
+    .attribute_map = lmx::k_no_events,
+    .element_map = k_SubstrateFilmType_elements,
+    .operations = &lmx::k_operations<SubstrateFilmType>,
+};
+
+SubstrateFilmType::SubstrateFilmType() = default;
+SubstrateFilmType::SubstrateFilmType(const SubstrateFilmType& other) : SubstrateType() { lmx::copy(k_class, this, &other); }
+SubstrateFilmType::~SubstrateFilmType() = default;
+SubstrateFilmType& SubstrateFilmType::operator=(const SubstrateFilmType& other) { SubstrateFilmType copy(other); swap(copy); return *this; }
+void SubstrateFilmType::swap(SubstrateFilmType& other) { lmx::swap(k_class, this, &other); }
+void SubstrateFilmType::reset() { SubstrateFilmType fresh; swap(fresh); }
+bool SubstrateFilmType::is_occurs_ok() const { return lmx::is_occurs_ok(k_class, this); }
+lmx::elmx_error SubstrateFilmType::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
+lmx::elmx_error SubstrateFilmType::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
+void SubstrateFilmType::marshal_attributes(lmx::c_xml_writer& writer) const { lmx::marshal_attributes(k_class, this, writer); }
+lmx::elmx_error SubstrateFilmType::marshal_child_elements(lmx::c_xml_writer& writer) const { return lmx::marshal_child_elements(k_class, this, writer); }
+bool SubstrateFilmType::unmarshal_attributes(lmx::c_xml_reader& reader, const std::string& name, lmx::elmx_error* error) { return lmx::unmarshal_attribute(k_class, this, reader, name, error); }
+lmx::elmx_error SubstrateFilmType::unmarshal_attributes_check(lmx::c_xml_reader& reader) { return lmx::check_required_attributes(k_class, this, reader); }
+bool SubstrateFilmType::unmarshal_body(lmx::c_xml_reader& reader, std::string* name, lmx::elmx_error* error) { return lmx::unmarshal_body(k_class, this, reader, name, error); }
+namespace { const char k_SubstrateFilmType_id[] = "SubstrateFilmType"; }
+const char* SubstrateFilmType::id = k_SubstrateFilmType_id;
+SubstrateFilmType* SubstrateFilmType::clone() const { return new SubstrateFilmType(*this); }
+const char* SubstrateFilmType::getid() const { return id; }
+bool SubstrateFilmType::has_id(const char* identity) const { return identity == id || SubstrateType::has_id(identity); }
+lmx::elmx_error SubstrateFilmType::set_FilmWeight(double value) { return lmx::set_item(k_class, k_items[item_FilmWeight], this, value); }
+lmx::elmx_error SubstrateFilmType::set_FilmType(const std::u16string& value) { return lmx::set_item(k_class, k_items[item_FilmType], this, value); }
+
+// SubstrateTextileType
+
+namespace {
+constexpr lmx::s_event_map k_SubstrateTextileType_elements[] = {
+    lmx::element_event("TextileWeight", element_TextileWeight),
+    lmx::element_event("TextileType", element_TextileType),
+    lmx::k_end_of_map,
+};
+}  // namespace
+
+constinit const lmx::s_item SubstrateTextileType::k_items[] = {
+    {lmx::item_kind::element, lmx::value_kind::number, lmx::use_optional, lmx::ELMX_WS_COLLAPSE, "Vyr:TextileWeight", element_TextileWeight, LMX_OFFSET(SubstrateTextileType, m_TextileWeight, element, number), LMX_FLAG(SubstrateTextileType, m_isset_TextileWeight), lmx::position_of(k_SubstrateTextileType_elements, element_TextileWeight), lmx::position_of(k_SubstrateTextileType_elements, element_TextileWeight, 1), nullptr, nullptr, {}},
+    {lmx::item_kind::element, lmx::value_kind::text, lmx::use_optional, lmx::ELMX_WS_PRESERVE, "Vyr:TextileType", element_TextileType, LMX_OFFSET(SubstrateTextileType, m_TextileType, element, text), LMX_FLAG(SubstrateTextileType, m_isset_TextileType), lmx::position_of(k_SubstrateTextileType_elements, element_TextileType), lmx::position_of(k_SubstrateTextileType_elements, element_TextileType, 1), nullptr, nullptr, {}},
+};
+constinit const lmx::s_class SubstrateTextileType::k_class = {
+    .name = "SubstrateTextileType",
+    .qualified_name = "Vyr:SubstrateTextileType",
+    .base = &SubstrateType::k_class,
+    .content = lmx::content_kind::children,
+    .may_be_empty = true,
+    .ns_map = k_ns_map,
+    .nil_flag = lmx::k_no_flag,
+    .choice = lmx::k_no_flag,
+    .id = &SubstrateTextileType::id,
+    .xsi_type = "Vyr:SubstrateTextileType",
+    .attributes = std::span(k_items).first(std::size(lmx::k_no_events) - 1),
+    .elements = std::span(k_items).subspan(std::size(lmx::k_no_events) - 1),
+    .attribute_map = lmx::k_no_events,
+    .element_map = k_SubstrateTextileType_elements,
+    .operations = &lmx::k_operations<SubstrateTextileType>,
+};
+
+SubstrateTextileType::SubstrateTextileType() = default;
+SubstrateTextileType::SubstrateTextileType(const SubstrateTextileType& other) : SubstrateType() { lmx::copy(k_class, this, &other); }
+SubstrateTextileType::~SubstrateTextileType() = default;
+SubstrateTextileType& SubstrateTextileType::operator=(const SubstrateTextileType& other) { SubstrateTextileType copy(other); swap(copy); return *this; }
+void SubstrateTextileType::swap(SubstrateTextileType& other) { lmx::swap(k_class, this, &other); }
+void SubstrateTextileType::reset() { SubstrateTextileType fresh; swap(fresh); }
+bool SubstrateTextileType::is_occurs_ok() const { return lmx::is_occurs_ok(k_class, this); }
+lmx::elmx_error SubstrateTextileType::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
+lmx::elmx_error SubstrateTextileType::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
+void SubstrateTextileType::marshal_attributes(lmx::c_xml_writer& writer) const { lmx::marshal_attributes(k_class, this, writer); }
+lmx::elmx_error SubstrateTextileType::marshal_child_elements(lmx::c_xml_writer& writer) const { return lmx::marshal_child_elements(k_class, this, writer); }
+bool SubstrateTextileType::unmarshal_attributes(lmx::c_xml_reader& reader, const std::string& name, lmx::elmx_error* error) { return lmx::unmarshal_attribute(k_class, this, reader, name, error); }
+lmx::elmx_error SubstrateTextileType::unmarshal_attributes_check(lmx::c_xml_reader& reader) { return lmx::check_required_attributes(k_class, this, reader); }
+bool SubstrateTextileType::unmarshal_body(lmx::c_xml_reader& reader, std::string* name, lmx::elmx_error* error) { return lmx::unmarshal_body(k_class, this, reader, name, error); }
+namespace { const char k_SubstrateTextileType_id[] = "SubstrateTextileType"; }
+const char* SubstrateTextileType::id = k_SubstrateTextileType_id;
+SubstrateTextileType* SubstrateTextileType::clone() const { return new SubstrateTextileType(*this); }
+const char* SubstrateTextileType::getid() const { return id; }
+bool SubstrateTextileType::has_id(const char* identity) const { return identity == id || SubstrateType::has_id(identity); }
+lmx::elmx_error SubstrateTextileType::set_TextileWeight(double value) { return lmx::set_item(k_class, k_items[item_TextileWeight], this, value); }
+lmx::elmx_error SubstrateTextileType::set_TextileType(const std::u16string& value) { return lmx::set_item(k_class, k_items[item_TextileType], this, value); }
+
+// SubstratePaper
+
+lmx::elmx_error SubstratePaper::marshal(lmx::c_xml_writer& writer, const char* name) const {
+    writer.conditionally_select_ns_map(k_ns_map);
+    return SubstratePaperType::marshal(writer, name);
+}
+lmx::elmx_error SubstratePaper::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return SubstratePaperType::unmarshal(reader, name); }
+const lmx::s_document SubstratePaper::k_document = {"Vyr:SubstratePaper", "SubstratePaper", k_ns_map, &lmx::k_operations<SubstratePaper>};
+const lmx::s_ns_map* SubstratePaper::ns_map() { return k_ns_map; }
+lmx::elmx_error SubstratePaper::unmarshal(lmx::c_xml_reader& reader) { return lmx::unmarshal_document(k_document, this, reader); }
+SubstratePaper::SubstratePaper(const char* file_name, lmx::elmx_error* error) : SubstratePaper() { *error = unmarshal(file_name); }
+lmx::elmx_error SubstratePaper::unmarshal(const char* file_name) { return lmx::unmarshal_document(k_document, this, file_name); }
+SubstratePaper::SubstratePaper(const char* data, std::size_t size, lmx::elmx_error* error) : SubstratePaper() { *error = unmarshal(data, size); }
+lmx::elmx_error SubstratePaper::unmarshal(const char* data, std::size_t size) { return lmx::unmarshal_document(k_document, this, data, size); }
+SubstratePaper::SubstratePaper(const std::string& text, lmx::elmx_error* error) : SubstratePaper() { *error = unmarshal(text.data(), text.size()); }
+lmx::elmx_error SubstratePaper::unmarshal(const std::string& text) { return lmx::unmarshal_document(k_document, this, text.data(), text.size()); }
+lmx::elmx_error SubstratePaper::marshal(const char* file_name) const { return lmx::marshal_document(k_document, this, file_name); }
+lmx::elmx_error SubstratePaper::marshal(std::string* text) const { return lmx::marshal_document(k_document, this, text); }
+lmx::elmx_error SubstratePaper::marshal(std::ostream& stream) const { return lmx::marshal_document(k_document, this, stream); }
+
+// SubstrateGeneric
+
+lmx::elmx_error SubstrateGeneric::marshal(lmx::c_xml_writer& writer, const char* name) const {
+    writer.conditionally_select_ns_map(k_ns_map);
+    return SubstrateGenericType::marshal(writer, name);
+}
+lmx::elmx_error SubstrateGeneric::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return SubstrateGenericType::unmarshal(reader, name); }
+const lmx::s_document SubstrateGeneric::k_document = {"Vyr:SubstrateGeneric", "SubstrateGeneric", k_ns_map, &lmx::k_operations<SubstrateGeneric>};
+const lmx::s_ns_map* SubstrateGeneric::ns_map() { return k_ns_map; }
+lmx::elmx_error SubstrateGeneric::unmarshal(lmx::c_xml_reader& reader) { return lmx::unmarshal_document(k_document, this, reader); }
+SubstrateGeneric::SubstrateGeneric(const char* file_name, lmx::elmx_error* error) : SubstrateGeneric() { *error = unmarshal(file_name); }
+lmx::elmx_error SubstrateGeneric::unmarshal(const char* file_name) { return lmx::unmarshal_document(k_document, this, file_name); }
+SubstrateGeneric::SubstrateGeneric(const char* data, std::size_t size, lmx::elmx_error* error) : SubstrateGeneric() { *error = unmarshal(data, size); }
+lmx::elmx_error SubstrateGeneric::unmarshal(const char* data, std::size_t size) { return lmx::unmarshal_document(k_document, this, data, size); }
+SubstrateGeneric::SubstrateGeneric(const std::string& text, lmx::elmx_error* error) : SubstrateGeneric() { *error = unmarshal(text.data(), text.size()); }
+lmx::elmx_error SubstrateGeneric::unmarshal(const std::string& text) { return lmx::unmarshal_document(k_document, this, text.data(), text.size()); }
+lmx::elmx_error SubstrateGeneric::marshal(const char* file_name) const { return lmx::marshal_document(k_document, this, file_name); }
+lmx::elmx_error SubstrateGeneric::marshal(std::string* text) const { return lmx::marshal_document(k_document, this, text); }
+lmx::elmx_error SubstrateGeneric::marshal(std::ostream& stream) const { return lmx::marshal_document(k_document, this, stream); }
+
+// SubstrateMetal
+
+lmx::elmx_error SubstrateMetal::marshal(lmx::c_xml_writer& writer, const char* name) const {
+    writer.conditionally_select_ns_map(k_ns_map);
+    return SubstrateMetalType::marshal(writer, name);
+}
+lmx::elmx_error SubstrateMetal::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return SubstrateMetalType::unmarshal(reader, name); }
+const lmx::s_document SubstrateMetal::k_document = {"Vyr:SubstrateMetal", "SubstrateMetal", k_ns_map, &lmx::k_operations<SubstrateMetal>};
+const lmx::s_ns_map* SubstrateMetal::ns_map() { return k_ns_map; }
+lmx::elmx_error SubstrateMetal::unmarshal(lmx::c_xml_reader& reader) { return lmx::unmarshal_document(k_document, this, reader); }
+SubstrateMetal::SubstrateMetal(const char* file_name, lmx::elmx_error* error) : SubstrateMetal() { *error = unmarshal(file_name); }
+lmx::elmx_error SubstrateMetal::unmarshal(const char* file_name) { return lmx::unmarshal_document(k_document, this, file_name); }
+SubstrateMetal::SubstrateMetal(const char* data, std::size_t size, lmx::elmx_error* error) : SubstrateMetal() { *error = unmarshal(data, size); }
+lmx::elmx_error SubstrateMetal::unmarshal(const char* data, std::size_t size) { return lmx::unmarshal_document(k_document, this, data, size); }
+SubstrateMetal::SubstrateMetal(const std::string& text, lmx::elmx_error* error) : SubstrateMetal() { *error = unmarshal(text.data(), text.size()); }
+lmx::elmx_error SubstrateMetal::unmarshal(const std::string& text) { return lmx::unmarshal_document(k_document, this, text.data(), text.size()); }
+lmx::elmx_error SubstrateMetal::marshal(const char* file_name) const { return lmx::marshal_document(k_document, this, file_name); }
+lmx::elmx_error SubstrateMetal::marshal(std::string* text) const { return lmx::marshal_document(k_document, this, text); }
+lmx::elmx_error SubstrateMetal::marshal(std::ostream& stream) const { return lmx::marshal_document(k_document, this, stream); }
+
+// SubstratePlastic
+
+lmx::elmx_error SubstratePlastic::marshal(lmx::c_xml_writer& writer, const char* name) const {
+    writer.conditionally_select_ns_map(k_ns_map);
+    return SubstratePlasticType::marshal(writer, name);
+}
+lmx::elmx_error SubstratePlastic::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return SubstratePlasticType::unmarshal(reader, name); }
+const lmx::s_document SubstratePlastic::k_document = {"Vyr:SubstratePlastic", "SubstratePlastic", k_ns_map, &lmx::k_operations<SubstratePlastic>};
+const lmx::s_ns_map* SubstratePlastic::ns_map() { return k_ns_map; }
+lmx::elmx_error SubstratePlastic::unmarshal(lmx::c_xml_reader& reader) { return lmx::unmarshal_document(k_document, this, reader); }
+SubstratePlastic::SubstratePlastic(const char* file_name, lmx::elmx_error* error) : SubstratePlastic() { *error = unmarshal(file_name); }
+lmx::elmx_error SubstratePlastic::unmarshal(const char* file_name) { return lmx::unmarshal_document(k_document, this, file_name); }
+SubstratePlastic::SubstratePlastic(const char* data, std::size_t size, lmx::elmx_error* error) : SubstratePlastic() { *error = unmarshal(data, size); }
+lmx::elmx_error SubstratePlastic::unmarshal(const char* data, std::size_t size) { return lmx::unmarshal_document(k_document, this, data, size); }
+SubstratePlastic::SubstratePlastic(const std::string& text, lmx::elmx_error* error) : SubstratePlastic() { *error = unmarshal(text.data(), text.size()); }
+lmx::elmx_error SubstratePlastic::unmarshal(const std::string& text) { return lmx::unmarshal_document(k_document, this, text.data(), text.size()); }
+lmx::elmx_error SubstratePlastic::marshal(const char* file_name) const { return lmx::marshal_document(k_document, this, file_name); }
+lmx::elmx_error SubstratePlastic::marshal(std::string* text) const { return lmx::marshal_document(k_document, this, text); }
+lmx::elmx_error SubstratePlastic::marshal(std::ostream& stream) const { return lmx::marshal_document(k_document, this, stream); }
+
+// SubstrateWood
+
+lmx::elmx_error SubstrateWood::marshal(lmx::c_xml_writer& writer, const char* name) const {
+    writer.conditionally_select_ns_map(k_ns_map);
+    return SubstrateWoodType::marshal(writer, name);
+}
+lmx::elmx_error SubstrateWood::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return SubstrateWoodType::unmarshal(reader, name); }
+const lmx::s_document SubstrateWood::k_document = {"Vyr:SubstrateWood", "SubstrateWood", k_ns_map, &lmx::k_operations<SubstrateWood>};
+const lmx::s_ns_map* SubstrateWood::ns_map() { return k_ns_map; }
+lmx::elmx_error SubstrateWood::unmarshal(lmx::c_xml_reader& reader) { return lmx::unmarshal_document(k_document, this, reader); }
+SubstrateWood::SubstrateWood(const char* file_name, lmx::elmx_error* error) : SubstrateWood() { *error = unmarshal(file_name); }
+lmx::elmx_error SubstrateWood::unmarshal(const char* file_name) { return lmx::unmarshal_document(k_document, this, file_name); }
+SubstrateWood::SubstrateWood(const char* data, std::size_t size, lmx::elmx_error* error) : SubstrateWood() { *error = unmarshal(data, size); }
+lmx::elmx_error SubstrateWood::unmarshal(const char* data, std::size_t size) { return lmx::unmarshal_document(k_document, this, data, size); }
+SubstrateWood::SubstrateWood(const std::string& text, lmx::elmx_error* error) : SubstrateWood() { *error = unmarshal(text.data(), text.size()); }
+lmx::elmx_error SubstrateWood::unmarshal(const std::string& text) { return lmx::unmarshal_document(k_document, this, text.data(), text.size()); }
+lmx::elmx_error SubstrateWood::marshal(const char* file_name) const { return lmx::marshal_document(k_document, this, file_name); }
+lmx::elmx_error SubstrateWood::marshal(std::string* text) const { return lmx::marshal_document(k_document, this, text); }
+lmx::elmx_error SubstrateWood::marshal(std::ostream& stream) const { return lmx::marshal_document(k_document, this, stream); }
+
+// SubstrateVinyl
+
+lmx::elmx_error SubstrateVinyl::marshal(lmx::c_xml_writer& writer, const char* name) const {
+    writer.conditionally_select_ns_map(k_ns_map);
+    return SubstrateVinylType::marshal(writer, name);
+}
+lmx::elmx_error SubstrateVinyl::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return SubstrateVinylType::unmarshal(reader, name); }
+const lmx::s_document SubstrateVinyl::k_document = {"Vyr:SubstrateVinyl", "SubstrateVinyl", k_ns_map, &lmx::k_operations<SubstrateVinyl>};
+const lmx::s_ns_map* SubstrateVinyl::ns_map() { return k_ns_map; }
+lmx::elmx_error SubstrateVinyl::unmarshal(lmx::c_xml_reader& reader) { return lmx::unmarshal_document(k_document, this, reader); }
+SubstrateVinyl::SubstrateVinyl(const char* file_name, lmx::elmx_error* error) : SubstrateVinyl() { *error = unmarshal(file_name); }
+lmx::elmx_error SubstrateVinyl::unmarshal(const char* file_name) { return lmx::unmarshal_document(k_document, this, file_name); }
+SubstrateVinyl::SubstrateVinyl(const char* data, std::size_t size, lmx::elmx_error* error) : SubstrateVinyl() { *error = unmarshal(data, size); }
+lmx::elmx_error SubstrateVinyl::unmarshal(const char* data, std::size_t size) { return lmx::unmarshal_document(k_document, this, data, size); }
+SubstrateVinyl::SubstrateVinyl(const std::string& text, lmx::elmx_error* error) : SubstrateVinyl() { *error = unmarshal(text.data(), text.size()); }
+lmx::elmx_error SubstrateVinyl::unmarshal(const std::string& text) { return lmx::unmarshal_document(k_document, this, text.data(), text.size()); }
+lmx::elmx_error SubstrateVinyl::marshal(const char* file_name) const { return lmx::marshal_document(k_document, this, file_name); }
+lmx::elmx_error SubstrateVinyl::marshal(std::string* text) const { return lmx::marshal_document(k_document, this, text); }
+lmx::elmx_error SubstrateVinyl::marshal(std::ostream& stream) const { return lmx::marshal_document(k_document, this, stream); }
+
+// SubstrateTile
+
+lmx::elmx_error SubstrateTile::marshal(lmx::c_xml_writer& writer, const char* name) const {
+    writer.conditionally_select_ns_map(k_ns_map);
+    return SubstrateTileType::marshal(writer, name);
+}
+lmx::elmx_error SubstrateTile::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return SubstrateTileType::unmarshal(reader, name); }
+const lmx::s_document SubstrateTile::k_document = {"Vyr:SubstrateTile", "SubstrateTile", k_ns_map, &lmx::k_operations<SubstrateTile>};
+const lmx::s_ns_map* SubstrateTile::ns_map() { return k_ns_map; }
+lmx::elmx_error SubstrateTile::unmarshal(lmx::c_xml_reader& reader) { return lmx::unmarshal_document(k_document, this, reader); }
+SubstrateTile::SubstrateTile(const char* file_name, lmx::elmx_error* error) : SubstrateTile() { *error = unmarshal(file_name); }
+lmx::elmx_error SubstrateTile::unmarshal(const char* file_name) { return lmx::unmarshal_document(k_document, this, file_name); }
+SubstrateTile::SubstrateTile(const char* data, std::size_t size, lmx::elmx_error* error) : SubstrateTile() { *error = unmarshal(data, size); }
+lmx::elmx_error SubstrateTile::unmarshal(const char* data, std::size_t size) { return lmx::unmarshal_document(k_document, this, data, size); }
+SubstrateTile::SubstrateTile(const std::string& text, lmx::elmx_error* error) : SubstrateTile() { *error = unmarshal(text.data(), text.size()); }
+lmx::elmx_error SubstrateTile::unmarshal(const std::string& text) { return lmx::unmarshal_document(k_document, this, text.data(), text.size()); }
+lmx::elmx_error SubstrateTile::marshal(const char* file_name) const { return lmx::marshal_document(k_document, this, file_name); }
+lmx::elmx_error SubstrateTile::marshal(std::string* text) const { return lmx::marshal_document(k_document, this, text); }
+lmx::elmx_error SubstrateTile::marshal(std::ostream& stream) const { return lmx::marshal_document(k_document, this, stream); }
+
+// SubstrateFilm
+
+lmx::elmx_error SubstrateFilm::marshal(lmx::c_xml_writer& writer, const char* name) const {
+    writer.conditionally_select_ns_map(k_ns_map);
+    return SubstrateFilmType::marshal(writer, name);
+}
+lmx::elmx_error SubstrateFilm::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return SubstrateFilmType::unmarshal(reader, name); }
+const lmx::s_document SubstrateFilm::k_document = {"Vyr:SubstrateFilm", "SubstrateFilm", k_ns_map, &lmx::k_operations<SubstrateFilm>};
+const lmx::s_ns_map* SubstrateFilm::ns_map() { return k_ns_map; }
+lmx::elmx_error SubstrateFilm::unmarshal(lmx::c_xml_reader& reader) { return lmx::unmarshal_document(k_document, this, reader); }
+SubstrateFilm::SubstrateFilm(const char* file_name, lmx::elmx_error* error) : SubstrateFilm() { *error = unmarshal(file_name); }
+lmx::elmx_error SubstrateFilm::unmarshal(const char* file_name) { return lmx::unmarshal_document(k_document, this, file_name); }
+SubstrateFilm::SubstrateFilm(const char* data, std::size_t size, lmx::elmx_error* error) : SubstrateFilm() { *error = unmarshal(data, size); }
+lmx::elmx_error SubstrateFilm::unmarshal(const char* data, std::size_t size) { return lmx::unmarshal_document(k_document, this, data, size); }
+SubstrateFilm::SubstrateFilm(const std::string& text, lmx::elmx_error* error) : SubstrateFilm() { *error = unmarshal(text.data(), text.size()); }
+lmx::elmx_error SubstrateFilm::unmarshal(const std::string& text) { return lmx::unmarshal_document(k_document, this, text.data(), text.size()); }
+lmx::elmx_error SubstrateFilm::marshal(const char* file_name) const { return lmx::marshal_document(k_document, this, file_name); }
+lmx::elmx_error SubstrateFilm::marshal(std::string* text) const { return lmx::marshal_document(k_document, this, text); }
+lmx::elmx_error SubstrateFilm::marshal(std::ostream& stream) const { return lmx::marshal_document(k_document, this, stream); }
+
+// SubstrateTextile
+
+lmx::elmx_error SubstrateTextile::marshal(lmx::c_xml_writer& writer, const char* name) const {
+    writer.conditionally_select_ns_map(k_ns_map);
+    return SubstrateTextileType::marshal(writer, name);
+}
+lmx::elmx_error SubstrateTextile::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return SubstrateTextileType::unmarshal(reader, name); }
+const lmx::s_document SubstrateTextile::k_document = {"Vyr:SubstrateTextile", "SubstrateTextile", k_ns_map, &lmx::k_operations<SubstrateTextile>};
+const lmx::s_ns_map* SubstrateTextile::ns_map() { return k_ns_map; }
+lmx::elmx_error SubstrateTextile::unmarshal(lmx::c_xml_reader& reader) { return lmx::unmarshal_document(k_document, this, reader); }
+SubstrateTextile::SubstrateTextile(const char* file_name, lmx::elmx_error* error) : SubstrateTextile() { *error = unmarshal(file_name); }
+lmx::elmx_error SubstrateTextile::unmarshal(const char* file_name) { return lmx::unmarshal_document(k_document, this, file_name); }
+SubstrateTextile::SubstrateTextile(const char* data, std::size_t size, lmx::elmx_error* error) : SubstrateTextile() { *error = unmarshal(data, size); }
+lmx::elmx_error SubstrateTextile::unmarshal(const char* data, std::size_t size) { return lmx::unmarshal_document(k_document, this, data, size); }
+SubstrateTextile::SubstrateTextile(const std::string& text, lmx::elmx_error* error) : SubstrateTextile() { *error = unmarshal(text.data(), text.size()); }
+lmx::elmx_error SubstrateTextile::unmarshal(const std::string& text) { return lmx::unmarshal_document(k_document, this, text.data(), text.size()); }
+lmx::elmx_error SubstrateTextile::marshal(const char* file_name) const { return lmx::marshal_document(k_document, this, file_name); }
+lmx::elmx_error SubstrateTextile::marshal(std::string* text) const { return lmx::marshal_document(k_document, this, text); }
+lmx::elmx_error SubstrateTextile::marshal(std::ostream& stream) const { return lmx::marshal_document(k_document, this, stream); }
+
+}  // namespace com_vyrgraph_v2

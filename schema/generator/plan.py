@@ -1,0 +1,125 @@
+# Copyright 2026 The Vyr Authors
+# SPDX-License-Identifier: Apache-2.0
+"""What follows from the model for the C++ side: order of definitions, includes, tokens, maps, identities."""
+
+from dataclasses import dataclass
+
+from model import Class, Item, Model
+from source import SchemaError
+
+# Kinds of item whose object lies in the class itself: its type must be complete there.
+BY_VALUE = ("child", "group")
+HAS_TOKEN = ("attribute", "element", "element_list", "child", "child_list", "marker", "alternative")
+
+
+@dataclass(frozen=True)
+class Topic:
+    """One header and one source."""
+
+    name: str
+    classes: tuple  # each after those it needs complete
+    header_needs: tuple  # topics whose headers the header includes
+    source_needs: tuple  # topics whose headers the source includes besides its own
+
+
+class Plan:
+    def __init__(self, model: Model):
+        self.model = model
+        self.by_name = {made.name: made for made in model.classes}
+        items = [item for made in model.classes for item in made.items]
+        self.tokens = sorted({self.token(item) for item in items if item.kind in HAS_TOKEN})
+        self.facets = [simple for simple in model.simple_types if simple.facets()]
+        self.enumerations = {item.accessor: item.value for item in items if item.enumerated}
+        self.topics = [self.topic(name) for name in model.topics]
+        self.check_cycles()
+
+    @staticmethod
+    def token(item: Item):
+        return f"{'attribute' if item.kind == 'attribute' else 'element'}_{item.name}"
+
+    def base(self, made: Class):
+        return self.by_name[made.base] if made.base else None
+
+    def identity(self, made: Class):
+        """The class whose identity text a class answers with, or None outside the type families."""
+        while made is not None and not made.named:
+            made = self.base(made)
+        return made
+
+    def table(self, made: Class):
+        """The class whose table a class uses: wrappers add nothing to their type."""
+        return self.base(made) if made.wrapper else made
+
+    def table_base(self, made: Class):
+        return None if made.derives_from_group else made.base
+
+    def derived(self, made: Class):
+        """The family members below a class, depth first in schema order."""
+        found = []
+        for other in self.model.classes:
+            if other.named and other.base == made.name:
+                found += [other, *self.derived(other)]
+        return found
+
+    def factory(self, made: Class):
+        """What the factory of a class knows; empty where there's none."""
+        below = self.derived(made) if made.named else []
+        return below if not below or made.abstract else [made, *below]
+
+    def content_item(self, made: Class):
+        """The row of simple content that a class inherits, if it has none of its own."""
+        base = self.base(made)
+        while base is not None and not made.elements:
+            if base.content == "simple" and base.elements:
+                return base, base.elements[0]
+            base = self.base(base)
+        return None
+
+    def map_items(self, item: Item):
+        """The elements that stand for an item in its class's element map."""
+        if item.kind in ("group", "group_list"):
+            return self.by_name[item.type].elements
+        return (item,) if item.kind in HAS_TOKEN else ()
+
+    # Order
+
+    def complete_types(self, made: Class):
+        return [made.base] * bool(made.base) + [item.type for item in made.items if item.kind in BY_VALUE]
+
+    def mentioned_types(self, made: Class):
+        """All classes that the source of a class works with."""
+        return self.complete_types(made) + [item.type for item in made.items if item.type] + \
+            [known.name for known in self.factory(made)]
+
+    def topic(self, name):
+        members = [made for made in self.model.classes if made.topic == name]
+        ordered = []
+
+        def place(made, path):
+            if made in ordered:
+                return
+            if made in path:
+                raise SchemaError("vyr.xsd", 0, f"class {made.name} would contain itself")
+            for needed in map(self.by_name.get, self.complete_types(made)):
+                if needed.topic == name:
+                    place(needed, [*path, made])
+            ordered.append(made)
+
+        for made in members:
+            place(made, [])
+
+        def topics_of(types):
+            found = {self.by_name[t].topic for made in members for t in types(made)} - {name}
+            return tuple(sorted(found))
+
+        return Topic(name, tuple(ordered), topics_of(self.complete_types), topics_of(self.mentioned_types))
+
+    def check_cycles(self):
+        """Headers include each other as far as members by value ask for it; that must not go round."""
+        needs = {topic.name: set(topic.header_needs) for topic in self.topics}
+        while needs:
+            free = [name for name, others in needs.items() if not others & needs.keys()]
+            if not free:
+                raise SchemaError("binding.toml", 0, f"topics {', '.join(needs)} need each other's headers")
+            for name in free:
+                del needs[name]
