@@ -22,63 +22,66 @@
 
 namespace com_vyrgraph_v2 {
 
-static_assert(lmx::k_binding_version == 1, "run schema/generator/generate.py");
+using namespace lmx;  // for the tables' sake
+
+static_assert(k_binding_version == 1, "run schema/generator/generate.py");
 
 // ParentColorSpace
 
 namespace {
-constexpr lmx::s_event_map k_ParentColorSpace_elements[] = {
-    lmx::element_event("ColorSpaceRecipe", element_ColorSpaceRecipe),
-    lmx::element_event("ColorSpaceTINTORA", element_ColorSpaceTINTORA),
-    lmx::element_event("ColorSpaceGeneric", element_ColorSpaceGeneric),
-    lmx::element_event("ColorSpaceEmissiveGeneric", element_ColorSpaceEmissiveGeneric),
-    lmx::element_event("ColorSpaceDensity", element_ColorSpaceDensity),
-    lmx::element_event("ColorSpaceRGB", element_ColorSpaceRGB),
-    lmx::element_event("ColorSpaceSRGB", element_ColorSpaceSRGB),
-    lmx::element_event("ColorSpaceAdobeRGB", element_ColorSpaceAdobeRGB),
-    lmx::element_event("ColorSpaceCMYKPlusN", element_ColorSpaceCMYKPlusN),
-    lmx::element_event("ColorSpaceAdobeWideGamutRGB", element_ColorSpaceAdobeWideGamutRGB),
-    lmx::element_event("ColorSpaceSpectral", element_ColorSpaceSpectral),
-    lmx::element_event("ColorSpaceEmissiveSpectral", element_ColorSpaceEmissiveSpectral),
-    lmx::element_event("ColorSpaceCIELab", element_ColorSpaceCIELab),
-    lmx::element_event("ColorSpaceCIELCh", element_ColorSpaceCIELCh),
-    lmx::element_event("ColorSpaceCIEXYZ", element_ColorSpaceCIEXYZ),
-    lmx::element_event("ColorSpaceEmissiveCIEXYZ", element_ColorSpaceEmissiveCIEXYZ),
-    lmx::element_event("ColorSpaceCIExyY", element_ColorSpaceCIExyY),
-    lmx::element_event("ColorSpaceEmissiveCIExyY", element_ColorSpaceEmissiveCIExyY),
-    lmx::element_event("ColorSpaceCIELuv", element_ColorSpaceCIELuv),
-    lmx::element_event("ColorSpaceHSL", element_ColorSpaceHSL),
-    lmx::element_event("ColorSpaceHSV", element_ColorSpaceHSV),
-    lmx::element_event("ColorSpaceCMYK", element_ColorSpaceCMYK),
-    lmx::element_event("ColorSpaceTINTORAOctavantic", element_ColorSpaceTINTORAOctavantic),
-    lmx::element_event("ColorSpaceYUV", element_ColorSpaceYUV),
-    lmx::element_event("ColorSpaceYIQ", element_ColorSpaceYIQ),
-    lmx::element_event("ColorSpaceYBR", element_ColorSpaceYBR),
-    lmx::element_event("ColorSpaceNCS", element_ColorSpaceNCS),
-    lmx::element_event("ColorSpaceMunsell", element_ColorSpaceMunsell),
-    lmx::k_end_of_map,
+constexpr s_event_map k_ParentColorSpace_elements[] = {
+    element_event("ColorSpaceRecipe", element_ColorSpaceRecipe),
+    element_event("ColorSpaceTINTORA", element_ColorSpaceTINTORA),
+    element_event("ColorSpaceGeneric", element_ColorSpaceGeneric),
+    element_event("ColorSpaceEmissiveGeneric", element_ColorSpaceEmissiveGeneric),
+    element_event("ColorSpaceDensity", element_ColorSpaceDensity),
+    element_event("ColorSpaceRGB", element_ColorSpaceRGB),
+    element_event("ColorSpaceSRGB", element_ColorSpaceSRGB),
+    element_event("ColorSpaceAdobeRGB", element_ColorSpaceAdobeRGB),
+    element_event("ColorSpaceCMYKPlusN", element_ColorSpaceCMYKPlusN),
+    element_event("ColorSpaceAdobeWideGamutRGB", element_ColorSpaceAdobeWideGamutRGB),
+    element_event("ColorSpaceSpectral", element_ColorSpaceSpectral),
+    element_event("ColorSpaceEmissiveSpectral", element_ColorSpaceEmissiveSpectral),
+    element_event("ColorSpaceCIELab", element_ColorSpaceCIELab),
+    element_event("ColorSpaceCIELCh", element_ColorSpaceCIELCh),
+    element_event("ColorSpaceCIEXYZ", element_ColorSpaceCIEXYZ),
+    element_event("ColorSpaceEmissiveCIEXYZ", element_ColorSpaceEmissiveCIEXYZ),
+    element_event("ColorSpaceCIExyY", element_ColorSpaceCIExyY),
+    element_event("ColorSpaceEmissiveCIExyY", element_ColorSpaceEmissiveCIExyY),
+    element_event("ColorSpaceCIELuv", element_ColorSpaceCIELuv),
+    element_event("ColorSpaceHSL", element_ColorSpaceHSL),
+    element_event("ColorSpaceHSV", element_ColorSpaceHSV),
+    element_event("ColorSpaceCMYK", element_ColorSpaceCMYK),
+    element_event("ColorSpaceTINTORAOctavantic", element_ColorSpaceTINTORAOctavantic),
+    element_event("ColorSpaceYUV", element_ColorSpaceYUV),
+    element_event("ColorSpaceYIQ", element_ColorSpaceYIQ),
+    element_event("ColorSpaceYBR", element_ColorSpaceYBR),
+    element_event("ColorSpaceNCS", element_ColorSpaceNCS),
+    element_event("ColorSpaceMunsell", element_ColorSpaceMunsell),
+    k_end_of_map,
 };
 }  // namespace
 
-constinit const lmx::s_item ParentColorSpace::k_items[] = {
-    {lmx::item_kind::group, lmx::value_kind::none, lmx::use_asked | lmx::use_written | lmx::use_copied | lmx::use_lax, lmx::ELMX_WS_PRESERVE, "Vyr:ColorSpace", 0, 0, LMX_FLAG(ParentColorSpace, m_isset_ColorSpace), lmx::position_of(k_ParentColorSpace_elements, element_ColorSpaceRecipe), lmx::position_of(k_ParentColorSpace_elements, element_ColorSpaceRecipe, 28), &sg_ColorSpace::k_class, nullptr, {}},
+constinit const s_item ParentColorSpace::k_items[] = {
+    {item_kind::group, value_kind::none, use_asked | use_written | use_copied | use_lax, ELMX_WS_PRESERVE, "Vyr:ColorSpace", 0,
+     0, LMX_FLAG(ParentColorSpace, m_isset_ColorSpace), position_of(k_ParentColorSpace_elements, element_ColorSpaceRecipe), position_of(k_ParentColorSpace_elements, element_ColorSpaceRecipe, 28), &sg_ColorSpace::k_class, nullptr, {}},
 };
-constinit const lmx::s_class ParentColorSpace::k_class = {
+constinit const s_class ParentColorSpace::k_class = {
     .name = "ParentColorSpace",
     .qualified_name = "Vyr:ParentColorSpace",
     .base = nullptr,
-    .content = lmx::content_kind::children,
+    .content = content_kind::children,
     .may_be_empty = false,
     .ns_map = nullptr,
     .nil_flag = LMX_FLAG(ParentColorSpace, m_isnil),
-    .choice = lmx::k_no_flag,
+    .choice = k_no_flag,
     .id = nullptr,
     .xsi_type = nullptr,
-    .attributes = std::span(k_items).first(std::size(lmx::k_no_events) - 1),
-    .elements = std::span(k_items).subspan(std::size(lmx::k_no_events) - 1),
-    .attribute_map = lmx::k_no_events,
+    .attributes = std::span(k_items).first(std::size(k_no_events) - 1),
+    .elements = std::span(k_items).subspan(std::size(k_no_events) - 1),
+    .attribute_map = k_no_events,
     .element_map = k_ParentColorSpace_elements,
-    .operations = &lmx::k_operations<ParentColorSpace>,
+    .operations = &k_operations<ParentColorSpace>,
 };
 
 ParentColorSpace::ParentColorSpace() = default;
@@ -100,27 +103,32 @@ sg_ColorSpace& ParentColorSpace::assign_ColorSpace(const sg_ColorSpace& value) {
 // ColorSpaceType
 
 namespace {
-constexpr lmx::s_event_map k_ColorSpaceType_attributes[] = {
-    lmx::attribute_event("Comments", attribute_Comments),
-    lmx::attribute_event("UniqueID", attribute_UniqueID),
-    lmx::k_end_of_map,
+constexpr s_event_map k_ColorSpaceType_attributes[] = {
+    attribute_event("Comments", attribute_Comments),
+    attribute_event("UniqueID", attribute_UniqueID),
+    k_end_of_map,
 };
-constexpr lmx::s_event_map k_ColorSpaceType_elements[] = {
-    lmx::element_event("CustomAttribute", element_CustomAttribute),
-    lmx::element_event("ParentColorSpace", element_ParentColorSpace),
-    lmx::element_event("ChangeHistory", element_ChangeHistory),
-    lmx::k_end_of_map,
+constexpr s_event_map k_ColorSpaceType_elements[] = {
+    element_event("CustomAttribute", element_CustomAttribute),
+    element_event("ParentColorSpace", element_ParentColorSpace),
+    element_event("ChangeHistory", element_ChangeHistory),
+    k_end_of_map,
 };
 }  // namespace
 
-constinit const lmx::s_item ColorSpaceType::k_items[] = {
-    {lmx::item_kind::attribute, lmx::value_kind::text, lmx::use_optional, lmx::ELMX_WS_PRESERVE, "Comments", attribute_Comments, LMX_OFFSET(ColorSpaceType, m_Comments, attribute, text), LMX_FLAG(ColorSpaceType, m_isset_Comments), 0, 0, nullptr, nullptr, {}},
-    {lmx::item_kind::attribute, lmx::value_kind::text, lmx::use_optional, lmx::ELMX_WS_PRESERVE, "UniqueID", attribute_UniqueID, LMX_OFFSET(ColorSpaceType, m_UniqueID, attribute, text), LMX_FLAG(ColorSpaceType, m_isset_UniqueID), 0, 0, nullptr, nullptr, {}},
-    {lmx::item_kind::child_list, lmx::value_kind::none, lmx::use_optional, lmx::ELMX_WS_PRESERVE, "Vyr:CustomAttribute", element_CustomAttribute, LMX_OFFSET(ColorSpaceType, m_CustomAttribute, child_list, none), lmx::k_no_flag, lmx::position_of(k_ColorSpaceType_elements, element_CustomAttribute), lmx::position_of(k_ColorSpaceType_elements, element_CustomAttribute, 1), &CustomAttributeType::k_class, nullptr, {}},
-    {lmx::item_kind::child, lmx::value_kind::none, lmx::use_optional, lmx::ELMX_WS_PRESERVE, "Vyr:ParentColorSpace", element_ParentColorSpace, LMX_OFFSET(ColorSpaceType, m_ParentColorSpace, child, none), LMX_FLAG(ColorSpaceType, m_isset_ParentColorSpace), lmx::position_of(k_ColorSpaceType_elements, element_ParentColorSpace), lmx::position_of(k_ColorSpaceType_elements, element_ParentColorSpace, 1), &ParentColorSpace::k_class, nullptr, {}},
-    {lmx::item_kind::element_list, lmx::value_kind::datetime, lmx::use_demanded | lmx::use_asked, lmx::ELMX_WS_COLLAPSE, "Vyr:ChangeHistory", element_ChangeHistory, LMX_OFFSET(ColorSpaceType, m_ChangeHistory, element_list, datetime), lmx::k_no_flag, lmx::position_of(k_ColorSpaceType_elements, element_ChangeHistory), lmx::position_of(k_ColorSpaceType_elements, element_ChangeHistory, 1), nullptr, &facets::DateTimeZone, {}},
+constinit const s_item ColorSpaceType::k_items[] = {
+    {item_kind::attribute, value_kind::text, use_optional, ELMX_WS_PRESERVE, "Comments", attribute_Comments,
+     LMX_OFFSET(ColorSpaceType, m_Comments, attribute, text), LMX_FLAG(ColorSpaceType, m_isset_Comments), 0, 0, nullptr, nullptr, {}},
+    {item_kind::attribute, value_kind::text, use_optional, ELMX_WS_PRESERVE, "UniqueID", attribute_UniqueID,
+     LMX_OFFSET(ColorSpaceType, m_UniqueID, attribute, text), LMX_FLAG(ColorSpaceType, m_isset_UniqueID), 0, 0, nullptr, nullptr, {}},
+    {item_kind::child_list, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:CustomAttribute", element_CustomAttribute,
+     LMX_OFFSET(ColorSpaceType, m_CustomAttribute, child_list, none), k_no_flag, position_of(k_ColorSpaceType_elements, element_CustomAttribute), position_of(k_ColorSpaceType_elements, element_CustomAttribute, 1), &CustomAttributeType::k_class, nullptr, {}},
+    {item_kind::child, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:ParentColorSpace", element_ParentColorSpace,
+     LMX_OFFSET(ColorSpaceType, m_ParentColorSpace, child, none), LMX_FLAG(ColorSpaceType, m_isset_ParentColorSpace), position_of(k_ColorSpaceType_elements, element_ParentColorSpace), position_of(k_ColorSpaceType_elements, element_ParentColorSpace, 1), &ParentColorSpace::k_class, nullptr, {}},
+    {item_kind::element_list, value_kind::datetime, use_demanded | use_asked, ELMX_WS_COLLAPSE, "Vyr:ChangeHistory", element_ChangeHistory,
+     LMX_OFFSET(ColorSpaceType, m_ChangeHistory, element_list, datetime), k_no_flag, position_of(k_ColorSpaceType_elements, element_ChangeHistory), position_of(k_ColorSpaceType_elements, element_ChangeHistory, 1), nullptr, &facets::DateTimeZone, {}},
 };
-constinit const lmx::s_factory_row ColorSpaceType::k_factory[] = {
+constinit const s_factory_row ColorSpaceType::k_factory[] = {
     {"ColorSpaceCIELabType", &ColorSpaceCIELabType::k_class},
     {"ColorSpaceCIELChType", &ColorSpaceCIELChType::k_class},
     {"ColorSpaceCIELuvType", &ColorSpaceCIELuvType::k_class},
@@ -150,22 +158,22 @@ constinit const lmx::s_factory_row ColorSpaceType::k_factory[] = {
     {"ColorSpaceGenericType", &ColorSpaceGenericType::k_class},
     {"ColorSpaceEmissiveGenericType", &ColorSpaceEmissiveGenericType::k_class},
 };
-constinit const lmx::s_class ColorSpaceType::k_class = {
+constinit const s_class ColorSpaceType::k_class = {
     .name = "ColorSpaceType",
     .qualified_name = "Vyr:ColorSpaceType",
     .base = nullptr,
-    .content = lmx::content_kind::children,
+    .content = content_kind::children,
     .may_be_empty = false,
     .ns_map = k_ns_map,
-    .nil_flag = lmx::k_no_flag,
-    .choice = lmx::k_no_flag,
+    .nil_flag = k_no_flag,
+    .choice = k_no_flag,
     .id = &ColorSpaceType::id,
     .xsi_type = "Vyr:ColorSpaceType",
     .attributes = std::span(k_items).first(std::size(k_ColorSpaceType_attributes) - 1),
     .elements = std::span(k_items).subspan(std::size(k_ColorSpaceType_attributes) - 1),
     .attribute_map = k_ColorSpaceType_attributes,
     .element_map = k_ColorSpaceType_elements,
-    .operations = &lmx::k_operations<ColorSpaceType>,
+    .operations = &k_operations<ColorSpaceType>,
 };
 
 ColorSpaceType::ColorSpaceType() = default;
@@ -210,49 +218,54 @@ lmx::elmx_error ColorSpace::marshal(lmx::c_xml_writer& writer, const char* name)
     return ColorSpaceType::marshal(writer, name);
 }
 lmx::elmx_error ColorSpace::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return ColorSpaceType::unmarshal(reader, name); }
-const lmx::s_document ColorSpace::k_document = {"Vyr:ColorSpace", "ColorSpace", k_ns_map, &lmx::k_operations<ColorSpace>};
+constinit const lmx::s_document ColorSpace::k_document = {"Vyr:ColorSpace", "ColorSpace", k_ns_map, &lmx::k_operations<ColorSpace>};
 const lmx::s_ns_map* ColorSpace::ns_map() { return k_ns_map; }
 lmx::elmx_error ColorSpace::unmarshal(lmx::c_xml_reader& reader) { return lmx::unmarshal_document(k_document, this, reader); }
 
 // ColorSpaceCIELabType
 
 namespace {
-constexpr lmx::s_event_map k_ColorSpaceCIELabType_attributes[] = {
-    lmx::attribute_event("Name", attribute_Name),
-    lmx::k_end_of_map,
+constexpr s_event_map k_ColorSpaceCIELabType_attributes[] = {
+    attribute_event("Name", attribute_Name),
+    k_end_of_map,
 };
-constexpr lmx::s_event_map k_ColorSpaceCIELabType_elements[] = {
-    lmx::element_event("ColorSpaceSpecificationSpectrumTristimulus", element_ColorSpaceSpecificationSpectrumTristimulus),
-    lmx::element_event("L", element_L),
-    lmx::element_event("A", element_A),
-    lmx::element_event("B", element_B),
-    lmx::k_end_of_map,
+constexpr s_event_map k_ColorSpaceCIELabType_elements[] = {
+    element_event("ColorSpaceSpecificationSpectrumTristimulus", element_ColorSpaceSpecificationSpectrumTristimulus),
+    element_event("L", element_L),
+    element_event("A", element_A),
+    element_event("B", element_B),
+    k_end_of_map,
 };
 }  // namespace
 
-constinit const lmx::s_item ColorSpaceCIELabType::k_items[] = {
-    {lmx::item_kind::attribute, lmx::value_kind::text, lmx::use_optional, lmx::ELMX_WS_PRESERVE, "Name", attribute_Name, LMX_OFFSET(ColorSpaceCIELabType, m_Name, attribute, text), LMX_FLAG(ColorSpaceCIELabType, m_isset_Name), 0, 0, nullptr, nullptr, {}},
-    {lmx::item_kind::child, lmx::value_kind::none, lmx::use_required, lmx::ELMX_WS_PRESERVE, "Vyr:ColorSpaceSpecificationSpectrumTristimulus", element_ColorSpaceSpecificationSpectrumTristimulus, LMX_OFFSET(ColorSpaceCIELabType, m_ColorSpaceSpecificationSpectrumTristimulus, child, none), LMX_FLAG(ColorSpaceCIELabType, m_isset_ColorSpaceSpecificationSpectrumTristimulus), lmx::position_of(k_ColorSpaceCIELabType_elements, element_ColorSpaceSpecificationSpectrumTristimulus), lmx::position_of(k_ColorSpaceCIELabType_elements, element_ColorSpaceSpecificationSpectrumTristimulus, 1), &ColorSpaceSpecificationSpectrumTristimulus::k_class, nullptr, {}},
-    {lmx::item_kind::element, lmx::value_kind::number, lmx::use_required, lmx::ELMX_WS_COLLAPSE, "Vyr:L", element_L, LMX_OFFSET(ColorSpaceCIELabType, m_L, element, number), LMX_FLAG(ColorSpaceCIELabType, m_isset_L), lmx::position_of(k_ColorSpaceCIELabType_elements, element_L), lmx::position_of(k_ColorSpaceCIELabType_elements, element_L, 1), nullptr, &facets::LabLightness, {}},
-    {lmx::item_kind::element, lmx::value_kind::number, lmx::use_required, lmx::ELMX_WS_COLLAPSE, "Vyr:A", element_A, LMX_OFFSET(ColorSpaceCIELabType, m_A, element, number), LMX_FLAG(ColorSpaceCIELabType, m_isset_A), lmx::position_of(k_ColorSpaceCIELabType_elements, element_A), lmx::position_of(k_ColorSpaceCIELabType_elements, element_A, 1), nullptr, &facets::LabOpponent, {}},
-    {lmx::item_kind::element, lmx::value_kind::number, lmx::use_required, lmx::ELMX_WS_COLLAPSE, "Vyr:B", element_B, LMX_OFFSET(ColorSpaceCIELabType, m_B, element, number), LMX_FLAG(ColorSpaceCIELabType, m_isset_B), lmx::position_of(k_ColorSpaceCIELabType_elements, element_B), lmx::position_of(k_ColorSpaceCIELabType_elements, element_B, 1), nullptr, &facets::LabOpponent, {}},
+constinit const s_item ColorSpaceCIELabType::k_items[] = {
+    {item_kind::attribute, value_kind::text, use_optional, ELMX_WS_PRESERVE, "Name", attribute_Name,
+     LMX_OFFSET(ColorSpaceCIELabType, m_Name, attribute, text), LMX_FLAG(ColorSpaceCIELabType, m_isset_Name), 0, 0, nullptr, nullptr, {}},
+    {item_kind::child, value_kind::none, use_required, ELMX_WS_PRESERVE, "Vyr:ColorSpaceSpecificationSpectrumTristimulus", element_ColorSpaceSpecificationSpectrumTristimulus,
+     LMX_OFFSET(ColorSpaceCIELabType, m_ColorSpaceSpecificationSpectrumTristimulus, child, none), LMX_FLAG(ColorSpaceCIELabType, m_isset_ColorSpaceSpecificationSpectrumTristimulus), position_of(k_ColorSpaceCIELabType_elements, element_ColorSpaceSpecificationSpectrumTristimulus), position_of(k_ColorSpaceCIELabType_elements, element_ColorSpaceSpecificationSpectrumTristimulus, 1), &ColorSpaceSpecificationSpectrumTristimulus::k_class, nullptr, {}},
+    {item_kind::element, value_kind::number, use_required, ELMX_WS_COLLAPSE, "Vyr:L", element_L,
+     LMX_OFFSET(ColorSpaceCIELabType, m_L, element, number), LMX_FLAG(ColorSpaceCIELabType, m_isset_L), position_of(k_ColorSpaceCIELabType_elements, element_L), position_of(k_ColorSpaceCIELabType_elements, element_L, 1), nullptr, &facets::LabLightness, {}},
+    {item_kind::element, value_kind::number, use_required, ELMX_WS_COLLAPSE, "Vyr:A", element_A,
+     LMX_OFFSET(ColorSpaceCIELabType, m_A, element, number), LMX_FLAG(ColorSpaceCIELabType, m_isset_A), position_of(k_ColorSpaceCIELabType_elements, element_A), position_of(k_ColorSpaceCIELabType_elements, element_A, 1), nullptr, &facets::LabOpponent, {}},
+    {item_kind::element, value_kind::number, use_required, ELMX_WS_COLLAPSE, "Vyr:B", element_B,
+     LMX_OFFSET(ColorSpaceCIELabType, m_B, element, number), LMX_FLAG(ColorSpaceCIELabType, m_isset_B), position_of(k_ColorSpaceCIELabType_elements, element_B), position_of(k_ColorSpaceCIELabType_elements, element_B, 1), nullptr, &facets::LabOpponent, {}},
 };
-constinit const lmx::s_class ColorSpaceCIELabType::k_class = {
+constinit const s_class ColorSpaceCIELabType::k_class = {
     .name = "ColorSpaceCIELabType",
     .qualified_name = "Vyr:ColorSpaceCIELabType",
     .base = &ColorSpaceType::k_class,
-    .content = lmx::content_kind::children,
+    .content = content_kind::children,
     .may_be_empty = false,
     .ns_map = k_ns_map,
-    .nil_flag = lmx::k_no_flag,
-    .choice = lmx::k_no_flag,
+    .nil_flag = k_no_flag,
+    .choice = k_no_flag,
     .id = &ColorSpaceCIELabType::id,
     .xsi_type = "Vyr:ColorSpaceCIELabType",
     .attributes = std::span(k_items).first(std::size(k_ColorSpaceCIELabType_attributes) - 1),
     .elements = std::span(k_items).subspan(std::size(k_ColorSpaceCIELabType_attributes) - 1),
     .attribute_map = k_ColorSpaceCIELabType_attributes,
     .element_map = k_ColorSpaceCIELabType_elements,
-    .operations = &lmx::k_operations<ColorSpaceCIELabType>,
+    .operations = &k_operations<ColorSpaceCIELabType>,
 };
 
 ColorSpaceCIELabType::ColorSpaceCIELabType() = default;
@@ -283,42 +296,47 @@ lmx::elmx_error ColorSpaceCIELabType::set_B(double value) { return lmx::set_item
 // ColorSpaceCIELChType
 
 namespace {
-constexpr lmx::s_event_map k_ColorSpaceCIELChType_attributes[] = {
-    lmx::attribute_event("Name", attribute_Name),
-    lmx::k_end_of_map,
+constexpr s_event_map k_ColorSpaceCIELChType_attributes[] = {
+    attribute_event("Name", attribute_Name),
+    k_end_of_map,
 };
-constexpr lmx::s_event_map k_ColorSpaceCIELChType_elements[] = {
-    lmx::element_event("ColorSpaceSpecificationSpectrumTristimulus", element_ColorSpaceSpecificationSpectrumTristimulus),
-    lmx::element_event("L", element_L),
-    lmx::element_event("C", element_C),
-    lmx::element_event("H", element_H),
-    lmx::k_end_of_map,
+constexpr s_event_map k_ColorSpaceCIELChType_elements[] = {
+    element_event("ColorSpaceSpecificationSpectrumTristimulus", element_ColorSpaceSpecificationSpectrumTristimulus),
+    element_event("L", element_L),
+    element_event("C", element_C),
+    element_event("H", element_H),
+    k_end_of_map,
 };
 }  // namespace
 
-constinit const lmx::s_item ColorSpaceCIELChType::k_items[] = {
-    {lmx::item_kind::attribute, lmx::value_kind::text, lmx::use_optional, lmx::ELMX_WS_PRESERVE, "Name", attribute_Name, LMX_OFFSET(ColorSpaceCIELChType, m_Name, attribute, text), LMX_FLAG(ColorSpaceCIELChType, m_isset_Name), 0, 0, nullptr, nullptr, {}},
-    {lmx::item_kind::child, lmx::value_kind::none, lmx::use_required, lmx::ELMX_WS_PRESERVE, "Vyr:ColorSpaceSpecificationSpectrumTristimulus", element_ColorSpaceSpecificationSpectrumTristimulus, LMX_OFFSET(ColorSpaceCIELChType, m_ColorSpaceSpecificationSpectrumTristimulus, child, none), LMX_FLAG(ColorSpaceCIELChType, m_isset_ColorSpaceSpecificationSpectrumTristimulus), lmx::position_of(k_ColorSpaceCIELChType_elements, element_ColorSpaceSpecificationSpectrumTristimulus), lmx::position_of(k_ColorSpaceCIELChType_elements, element_ColorSpaceSpecificationSpectrumTristimulus, 1), &ColorSpaceSpecificationSpectrumTristimulus::k_class, nullptr, {}},
-    {lmx::item_kind::element, lmx::value_kind::number, lmx::use_required, lmx::ELMX_WS_COLLAPSE, "Vyr:L", element_L, LMX_OFFSET(ColorSpaceCIELChType, m_L, element, number), LMX_FLAG(ColorSpaceCIELChType, m_isset_L), lmx::position_of(k_ColorSpaceCIELChType_elements, element_L), lmx::position_of(k_ColorSpaceCIELChType_elements, element_L, 1), nullptr, &facets::Lightness, {}},
-    {lmx::item_kind::element, lmx::value_kind::number, lmx::use_required, lmx::ELMX_WS_COLLAPSE, "Vyr:C", element_C, LMX_OFFSET(ColorSpaceCIELChType, m_C, element, number), LMX_FLAG(ColorSpaceCIELChType, m_isset_C), lmx::position_of(k_ColorSpaceCIELChType_elements, element_C), lmx::position_of(k_ColorSpaceCIELChType_elements, element_C, 1), nullptr, &facets::Chroma, {}},
-    {lmx::item_kind::element, lmx::value_kind::number, lmx::use_required, lmx::ELMX_WS_COLLAPSE, "Vyr:H", element_H, LMX_OFFSET(ColorSpaceCIELChType, m_H, element, number), LMX_FLAG(ColorSpaceCIELChType, m_isset_H), lmx::position_of(k_ColorSpaceCIELChType_elements, element_H), lmx::position_of(k_ColorSpaceCIELChType_elements, element_H, 1), nullptr, &facets::HueAngle, {}},
+constinit const s_item ColorSpaceCIELChType::k_items[] = {
+    {item_kind::attribute, value_kind::text, use_optional, ELMX_WS_PRESERVE, "Name", attribute_Name,
+     LMX_OFFSET(ColorSpaceCIELChType, m_Name, attribute, text), LMX_FLAG(ColorSpaceCIELChType, m_isset_Name), 0, 0, nullptr, nullptr, {}},
+    {item_kind::child, value_kind::none, use_required, ELMX_WS_PRESERVE, "Vyr:ColorSpaceSpecificationSpectrumTristimulus", element_ColorSpaceSpecificationSpectrumTristimulus,
+     LMX_OFFSET(ColorSpaceCIELChType, m_ColorSpaceSpecificationSpectrumTristimulus, child, none), LMX_FLAG(ColorSpaceCIELChType, m_isset_ColorSpaceSpecificationSpectrumTristimulus), position_of(k_ColorSpaceCIELChType_elements, element_ColorSpaceSpecificationSpectrumTristimulus), position_of(k_ColorSpaceCIELChType_elements, element_ColorSpaceSpecificationSpectrumTristimulus, 1), &ColorSpaceSpecificationSpectrumTristimulus::k_class, nullptr, {}},
+    {item_kind::element, value_kind::number, use_required, ELMX_WS_COLLAPSE, "Vyr:L", element_L,
+     LMX_OFFSET(ColorSpaceCIELChType, m_L, element, number), LMX_FLAG(ColorSpaceCIELChType, m_isset_L), position_of(k_ColorSpaceCIELChType_elements, element_L), position_of(k_ColorSpaceCIELChType_elements, element_L, 1), nullptr, &facets::Lightness, {}},
+    {item_kind::element, value_kind::number, use_required, ELMX_WS_COLLAPSE, "Vyr:C", element_C,
+     LMX_OFFSET(ColorSpaceCIELChType, m_C, element, number), LMX_FLAG(ColorSpaceCIELChType, m_isset_C), position_of(k_ColorSpaceCIELChType_elements, element_C), position_of(k_ColorSpaceCIELChType_elements, element_C, 1), nullptr, &facets::Chroma, {}},
+    {item_kind::element, value_kind::number, use_required, ELMX_WS_COLLAPSE, "Vyr:H", element_H,
+     LMX_OFFSET(ColorSpaceCIELChType, m_H, element, number), LMX_FLAG(ColorSpaceCIELChType, m_isset_H), position_of(k_ColorSpaceCIELChType_elements, element_H), position_of(k_ColorSpaceCIELChType_elements, element_H, 1), nullptr, &facets::HueAngle, {}},
 };
-constinit const lmx::s_class ColorSpaceCIELChType::k_class = {
+constinit const s_class ColorSpaceCIELChType::k_class = {
     .name = "ColorSpaceCIELChType",
     .qualified_name = "Vyr:ColorSpaceCIELChType",
     .base = &ColorSpaceType::k_class,
-    .content = lmx::content_kind::children,
+    .content = content_kind::children,
     .may_be_empty = false,
     .ns_map = k_ns_map,
-    .nil_flag = lmx::k_no_flag,
-    .choice = lmx::k_no_flag,
+    .nil_flag = k_no_flag,
+    .choice = k_no_flag,
     .id = &ColorSpaceCIELChType::id,
     .xsi_type = "Vyr:ColorSpaceCIELChType",
     .attributes = std::span(k_items).first(std::size(k_ColorSpaceCIELChType_attributes) - 1),
     .elements = std::span(k_items).subspan(std::size(k_ColorSpaceCIELChType_attributes) - 1),
     .attribute_map = k_ColorSpaceCIELChType_attributes,
     .element_map = k_ColorSpaceCIELChType_elements,
-    .operations = &lmx::k_operations<ColorSpaceCIELChType>,
+    .operations = &k_operations<ColorSpaceCIELChType>,
 };
 
 ColorSpaceCIELChType::ColorSpaceCIELChType() = default;
@@ -349,42 +367,47 @@ lmx::elmx_error ColorSpaceCIELChType::set_H(double value) { return lmx::set_item
 // ColorSpaceCIELuvType
 
 namespace {
-constexpr lmx::s_event_map k_ColorSpaceCIELuvType_attributes[] = {
-    lmx::attribute_event("Name", attribute_Name),
-    lmx::k_end_of_map,
+constexpr s_event_map k_ColorSpaceCIELuvType_attributes[] = {
+    attribute_event("Name", attribute_Name),
+    k_end_of_map,
 };
-constexpr lmx::s_event_map k_ColorSpaceCIELuvType_elements[] = {
-    lmx::element_event("ColorSpaceSpecificationSpectrumTristimulus", element_ColorSpaceSpecificationSpectrumTristimulus),
-    lmx::element_event("L", element_L),
-    lmx::element_event("U", element_U),
-    lmx::element_event("V", element_V),
-    lmx::k_end_of_map,
+constexpr s_event_map k_ColorSpaceCIELuvType_elements[] = {
+    element_event("ColorSpaceSpecificationSpectrumTristimulus", element_ColorSpaceSpecificationSpectrumTristimulus),
+    element_event("L", element_L),
+    element_event("U", element_U),
+    element_event("V", element_V),
+    k_end_of_map,
 };
 }  // namespace
 
-constinit const lmx::s_item ColorSpaceCIELuvType::k_items[] = {
-    {lmx::item_kind::attribute, lmx::value_kind::text, lmx::use_optional, lmx::ELMX_WS_PRESERVE, "Name", attribute_Name, LMX_OFFSET(ColorSpaceCIELuvType, m_Name, attribute, text), LMX_FLAG(ColorSpaceCIELuvType, m_isset_Name), 0, 0, nullptr, nullptr, {}},
-    {lmx::item_kind::child, lmx::value_kind::none, lmx::use_required, lmx::ELMX_WS_PRESERVE, "Vyr:ColorSpaceSpecificationSpectrumTristimulus", element_ColorSpaceSpecificationSpectrumTristimulus, LMX_OFFSET(ColorSpaceCIELuvType, m_ColorSpaceSpecificationSpectrumTristimulus, child, none), LMX_FLAG(ColorSpaceCIELuvType, m_isset_ColorSpaceSpecificationSpectrumTristimulus), lmx::position_of(k_ColorSpaceCIELuvType_elements, element_ColorSpaceSpecificationSpectrumTristimulus), lmx::position_of(k_ColorSpaceCIELuvType_elements, element_ColorSpaceSpecificationSpectrumTristimulus, 1), &ColorSpaceSpecificationSpectrumTristimulus::k_class, nullptr, {}},
-    {lmx::item_kind::element, lmx::value_kind::number, lmx::use_required, lmx::ELMX_WS_COLLAPSE, "Vyr:L", element_L, LMX_OFFSET(ColorSpaceCIELuvType, m_L, element, number), LMX_FLAG(ColorSpaceCIELuvType, m_isset_L), lmx::position_of(k_ColorSpaceCIELuvType_elements, element_L), lmx::position_of(k_ColorSpaceCIELuvType_elements, element_L, 1), nullptr, &facets::Lightness, {}},
-    {lmx::item_kind::element, lmx::value_kind::number, lmx::use_required, lmx::ELMX_WS_COLLAPSE, "Vyr:U", element_U, LMX_OFFSET(ColorSpaceCIELuvType, m_U, element, number), LMX_FLAG(ColorSpaceCIELuvType, m_isset_U), lmx::position_of(k_ColorSpaceCIELuvType_elements, element_U), lmx::position_of(k_ColorSpaceCIELuvType_elements, element_U, 1), nullptr, &facets::LuvU, {}},
-    {lmx::item_kind::element, lmx::value_kind::number, lmx::use_required, lmx::ELMX_WS_COLLAPSE, "Vyr:V", element_V, LMX_OFFSET(ColorSpaceCIELuvType, m_V, element, number), LMX_FLAG(ColorSpaceCIELuvType, m_isset_V), lmx::position_of(k_ColorSpaceCIELuvType_elements, element_V), lmx::position_of(k_ColorSpaceCIELuvType_elements, element_V, 1), nullptr, &facets::LuvV, {}},
+constinit const s_item ColorSpaceCIELuvType::k_items[] = {
+    {item_kind::attribute, value_kind::text, use_optional, ELMX_WS_PRESERVE, "Name", attribute_Name,
+     LMX_OFFSET(ColorSpaceCIELuvType, m_Name, attribute, text), LMX_FLAG(ColorSpaceCIELuvType, m_isset_Name), 0, 0, nullptr, nullptr, {}},
+    {item_kind::child, value_kind::none, use_required, ELMX_WS_PRESERVE, "Vyr:ColorSpaceSpecificationSpectrumTristimulus", element_ColorSpaceSpecificationSpectrumTristimulus,
+     LMX_OFFSET(ColorSpaceCIELuvType, m_ColorSpaceSpecificationSpectrumTristimulus, child, none), LMX_FLAG(ColorSpaceCIELuvType, m_isset_ColorSpaceSpecificationSpectrumTristimulus), position_of(k_ColorSpaceCIELuvType_elements, element_ColorSpaceSpecificationSpectrumTristimulus), position_of(k_ColorSpaceCIELuvType_elements, element_ColorSpaceSpecificationSpectrumTristimulus, 1), &ColorSpaceSpecificationSpectrumTristimulus::k_class, nullptr, {}},
+    {item_kind::element, value_kind::number, use_required, ELMX_WS_COLLAPSE, "Vyr:L", element_L,
+     LMX_OFFSET(ColorSpaceCIELuvType, m_L, element, number), LMX_FLAG(ColorSpaceCIELuvType, m_isset_L), position_of(k_ColorSpaceCIELuvType_elements, element_L), position_of(k_ColorSpaceCIELuvType_elements, element_L, 1), nullptr, &facets::Lightness, {}},
+    {item_kind::element, value_kind::number, use_required, ELMX_WS_COLLAPSE, "Vyr:U", element_U,
+     LMX_OFFSET(ColorSpaceCIELuvType, m_U, element, number), LMX_FLAG(ColorSpaceCIELuvType, m_isset_U), position_of(k_ColorSpaceCIELuvType_elements, element_U), position_of(k_ColorSpaceCIELuvType_elements, element_U, 1), nullptr, &facets::LuvU, {}},
+    {item_kind::element, value_kind::number, use_required, ELMX_WS_COLLAPSE, "Vyr:V", element_V,
+     LMX_OFFSET(ColorSpaceCIELuvType, m_V, element, number), LMX_FLAG(ColorSpaceCIELuvType, m_isset_V), position_of(k_ColorSpaceCIELuvType_elements, element_V), position_of(k_ColorSpaceCIELuvType_elements, element_V, 1), nullptr, &facets::LuvV, {}},
 };
-constinit const lmx::s_class ColorSpaceCIELuvType::k_class = {
+constinit const s_class ColorSpaceCIELuvType::k_class = {
     .name = "ColorSpaceCIELuvType",
     .qualified_name = "Vyr:ColorSpaceCIELuvType",
     .base = &ColorSpaceType::k_class,
-    .content = lmx::content_kind::children,
+    .content = content_kind::children,
     .may_be_empty = false,
     .ns_map = k_ns_map,
-    .nil_flag = lmx::k_no_flag,
-    .choice = lmx::k_no_flag,
+    .nil_flag = k_no_flag,
+    .choice = k_no_flag,
     .id = &ColorSpaceCIELuvType::id,
     .xsi_type = "Vyr:ColorSpaceCIELuvType",
     .attributes = std::span(k_items).first(std::size(k_ColorSpaceCIELuvType_attributes) - 1),
     .elements = std::span(k_items).subspan(std::size(k_ColorSpaceCIELuvType_attributes) - 1),
     .attribute_map = k_ColorSpaceCIELuvType_attributes,
     .element_map = k_ColorSpaceCIELuvType_elements,
-    .operations = &lmx::k_operations<ColorSpaceCIELuvType>,
+    .operations = &k_operations<ColorSpaceCIELuvType>,
 };
 
 ColorSpaceCIELuvType::ColorSpaceCIELuvType() = default;
@@ -415,42 +438,47 @@ lmx::elmx_error ColorSpaceCIELuvType::set_V(double value) { return lmx::set_item
 // ColorSpaceCIEXYZType
 
 namespace {
-constexpr lmx::s_event_map k_ColorSpaceCIEXYZType_attributes[] = {
-    lmx::attribute_event("Name", attribute_Name),
-    lmx::k_end_of_map,
+constexpr s_event_map k_ColorSpaceCIEXYZType_attributes[] = {
+    attribute_event("Name", attribute_Name),
+    k_end_of_map,
 };
-constexpr lmx::s_event_map k_ColorSpaceCIEXYZType_elements[] = {
-    lmx::element_event("ColorSpaceSpecificationSpectrumTristimulus", element_ColorSpaceSpecificationSpectrumTristimulus),
-    lmx::element_event("X", element_X),
-    lmx::element_event("Y", element_Y),
-    lmx::element_event("Z", element_Z),
-    lmx::k_end_of_map,
+constexpr s_event_map k_ColorSpaceCIEXYZType_elements[] = {
+    element_event("ColorSpaceSpecificationSpectrumTristimulus", element_ColorSpaceSpecificationSpectrumTristimulus),
+    element_event("X", element_X),
+    element_event("Y", element_Y),
+    element_event("Z", element_Z),
+    k_end_of_map,
 };
 }  // namespace
 
-constinit const lmx::s_item ColorSpaceCIEXYZType::k_items[] = {
-    {lmx::item_kind::attribute, lmx::value_kind::text, lmx::use_optional, lmx::ELMX_WS_PRESERVE, "Name", attribute_Name, LMX_OFFSET(ColorSpaceCIEXYZType, m_Name, attribute, text), LMX_FLAG(ColorSpaceCIEXYZType, m_isset_Name), 0, 0, nullptr, nullptr, {}},
-    {lmx::item_kind::child, lmx::value_kind::none, lmx::use_required, lmx::ELMX_WS_PRESERVE, "Vyr:ColorSpaceSpecificationSpectrumTristimulus", element_ColorSpaceSpecificationSpectrumTristimulus, LMX_OFFSET(ColorSpaceCIEXYZType, m_ColorSpaceSpecificationSpectrumTristimulus, child, none), LMX_FLAG(ColorSpaceCIEXYZType, m_isset_ColorSpaceSpecificationSpectrumTristimulus), lmx::position_of(k_ColorSpaceCIEXYZType_elements, element_ColorSpaceSpecificationSpectrumTristimulus), lmx::position_of(k_ColorSpaceCIEXYZType_elements, element_ColorSpaceSpecificationSpectrumTristimulus, 1), &ColorSpaceSpecificationSpectrumTristimulus::k_class, nullptr, {}},
-    {lmx::item_kind::element, lmx::value_kind::number, lmx::use_required, lmx::ELMX_WS_COLLAPSE, "Vyr:X", element_X, LMX_OFFSET(ColorSpaceCIEXYZType, m_X, element, number), LMX_FLAG(ColorSpaceCIEXYZType, m_isset_X), lmx::position_of(k_ColorSpaceCIEXYZType_elements, element_X), lmx::position_of(k_ColorSpaceCIEXYZType_elements, element_X, 1), nullptr, &facets::Fraction, {}},
-    {lmx::item_kind::element, lmx::value_kind::number, lmx::use_required, lmx::ELMX_WS_COLLAPSE, "Vyr:Y", element_Y, LMX_OFFSET(ColorSpaceCIEXYZType, m_Y, element, number), LMX_FLAG(ColorSpaceCIEXYZType, m_isset_Y), lmx::position_of(k_ColorSpaceCIEXYZType_elements, element_Y), lmx::position_of(k_ColorSpaceCIEXYZType_elements, element_Y, 1), nullptr, &facets::Fraction, {}},
-    {lmx::item_kind::element, lmx::value_kind::number, lmx::use_required, lmx::ELMX_WS_COLLAPSE, "Vyr:Z", element_Z, LMX_OFFSET(ColorSpaceCIEXYZType, m_Z, element, number), LMX_FLAG(ColorSpaceCIEXYZType, m_isset_Z), lmx::position_of(k_ColorSpaceCIEXYZType_elements, element_Z), lmx::position_of(k_ColorSpaceCIEXYZType_elements, element_Z, 1), nullptr, &facets::Fraction, {}},
+constinit const s_item ColorSpaceCIEXYZType::k_items[] = {
+    {item_kind::attribute, value_kind::text, use_optional, ELMX_WS_PRESERVE, "Name", attribute_Name,
+     LMX_OFFSET(ColorSpaceCIEXYZType, m_Name, attribute, text), LMX_FLAG(ColorSpaceCIEXYZType, m_isset_Name), 0, 0, nullptr, nullptr, {}},
+    {item_kind::child, value_kind::none, use_required, ELMX_WS_PRESERVE, "Vyr:ColorSpaceSpecificationSpectrumTristimulus", element_ColorSpaceSpecificationSpectrumTristimulus,
+     LMX_OFFSET(ColorSpaceCIEXYZType, m_ColorSpaceSpecificationSpectrumTristimulus, child, none), LMX_FLAG(ColorSpaceCIEXYZType, m_isset_ColorSpaceSpecificationSpectrumTristimulus), position_of(k_ColorSpaceCIEXYZType_elements, element_ColorSpaceSpecificationSpectrumTristimulus), position_of(k_ColorSpaceCIEXYZType_elements, element_ColorSpaceSpecificationSpectrumTristimulus, 1), &ColorSpaceSpecificationSpectrumTristimulus::k_class, nullptr, {}},
+    {item_kind::element, value_kind::number, use_required, ELMX_WS_COLLAPSE, "Vyr:X", element_X,
+     LMX_OFFSET(ColorSpaceCIEXYZType, m_X, element, number), LMX_FLAG(ColorSpaceCIEXYZType, m_isset_X), position_of(k_ColorSpaceCIEXYZType_elements, element_X), position_of(k_ColorSpaceCIEXYZType_elements, element_X, 1), nullptr, &facets::Fraction, {}},
+    {item_kind::element, value_kind::number, use_required, ELMX_WS_COLLAPSE, "Vyr:Y", element_Y,
+     LMX_OFFSET(ColorSpaceCIEXYZType, m_Y, element, number), LMX_FLAG(ColorSpaceCIEXYZType, m_isset_Y), position_of(k_ColorSpaceCIEXYZType_elements, element_Y), position_of(k_ColorSpaceCIEXYZType_elements, element_Y, 1), nullptr, &facets::Fraction, {}},
+    {item_kind::element, value_kind::number, use_required, ELMX_WS_COLLAPSE, "Vyr:Z", element_Z,
+     LMX_OFFSET(ColorSpaceCIEXYZType, m_Z, element, number), LMX_FLAG(ColorSpaceCIEXYZType, m_isset_Z), position_of(k_ColorSpaceCIEXYZType_elements, element_Z), position_of(k_ColorSpaceCIEXYZType_elements, element_Z, 1), nullptr, &facets::Fraction, {}},
 };
-constinit const lmx::s_class ColorSpaceCIEXYZType::k_class = {
+constinit const s_class ColorSpaceCIEXYZType::k_class = {
     .name = "ColorSpaceCIEXYZType",
     .qualified_name = "Vyr:ColorSpaceCIEXYZType",
     .base = &ColorSpaceType::k_class,
-    .content = lmx::content_kind::children,
+    .content = content_kind::children,
     .may_be_empty = false,
     .ns_map = k_ns_map,
-    .nil_flag = lmx::k_no_flag,
-    .choice = lmx::k_no_flag,
+    .nil_flag = k_no_flag,
+    .choice = k_no_flag,
     .id = &ColorSpaceCIEXYZType::id,
     .xsi_type = "Vyr:ColorSpaceCIEXYZType",
     .attributes = std::span(k_items).first(std::size(k_ColorSpaceCIEXYZType_attributes) - 1),
     .elements = std::span(k_items).subspan(std::size(k_ColorSpaceCIEXYZType_attributes) - 1),
     .attribute_map = k_ColorSpaceCIEXYZType_attributes,
     .element_map = k_ColorSpaceCIEXYZType_elements,
-    .operations = &lmx::k_operations<ColorSpaceCIEXYZType>,
+    .operations = &k_operations<ColorSpaceCIEXYZType>,
 };
 
 ColorSpaceCIEXYZType::ColorSpaceCIEXYZType() = default;
@@ -481,42 +509,47 @@ lmx::elmx_error ColorSpaceCIEXYZType::set_Z(double value) { return lmx::set_item
 // ColorSpaceCIExyYType
 
 namespace {
-constexpr lmx::s_event_map k_ColorSpaceCIExyYType_attributes[] = {
-    lmx::attribute_event("Name", attribute_Name),
-    lmx::k_end_of_map,
+constexpr s_event_map k_ColorSpaceCIExyYType_attributes[] = {
+    attribute_event("Name", attribute_Name),
+    k_end_of_map,
 };
-constexpr lmx::s_event_map k_ColorSpaceCIExyYType_elements[] = {
-    lmx::element_event("ColorSpaceSpecificationSpectrumTristimulus", element_ColorSpaceSpecificationSpectrumTristimulus),
-    lmx::element_event("X", element_X),
-    lmx::element_event("Y", element_Y),
-    lmx::element_event("CapY", element_CapY),
-    lmx::k_end_of_map,
+constexpr s_event_map k_ColorSpaceCIExyYType_elements[] = {
+    element_event("ColorSpaceSpecificationSpectrumTristimulus", element_ColorSpaceSpecificationSpectrumTristimulus),
+    element_event("X", element_X),
+    element_event("Y", element_Y),
+    element_event("CapY", element_CapY),
+    k_end_of_map,
 };
 }  // namespace
 
-constinit const lmx::s_item ColorSpaceCIExyYType::k_items[] = {
-    {lmx::item_kind::attribute, lmx::value_kind::text, lmx::use_optional, lmx::ELMX_WS_PRESERVE, "Name", attribute_Name, LMX_OFFSET(ColorSpaceCIExyYType, m_Name, attribute, text), LMX_FLAG(ColorSpaceCIExyYType, m_isset_Name), 0, 0, nullptr, nullptr, {}},
-    {lmx::item_kind::child, lmx::value_kind::none, lmx::use_required, lmx::ELMX_WS_PRESERVE, "Vyr:ColorSpaceSpecificationSpectrumTristimulus", element_ColorSpaceSpecificationSpectrumTristimulus, LMX_OFFSET(ColorSpaceCIExyYType, m_ColorSpaceSpecificationSpectrumTristimulus, child, none), LMX_FLAG(ColorSpaceCIExyYType, m_isset_ColorSpaceSpecificationSpectrumTristimulus), lmx::position_of(k_ColorSpaceCIExyYType_elements, element_ColorSpaceSpecificationSpectrumTristimulus), lmx::position_of(k_ColorSpaceCIExyYType_elements, element_ColorSpaceSpecificationSpectrumTristimulus, 1), &ColorSpaceSpecificationSpectrumTristimulus::k_class, nullptr, {}},
-    {lmx::item_kind::element, lmx::value_kind::number, lmx::use_required, lmx::ELMX_WS_COLLAPSE, "Vyr:X", element_X, LMX_OFFSET(ColorSpaceCIExyYType, m_X, element, number), LMX_FLAG(ColorSpaceCIExyYType, m_isset_X), lmx::position_of(k_ColorSpaceCIExyYType_elements, element_X), lmx::position_of(k_ColorSpaceCIExyYType_elements, element_X, 1), nullptr, &facets::Fraction, {}},
-    {lmx::item_kind::element, lmx::value_kind::number, lmx::use_required, lmx::ELMX_WS_COLLAPSE, "Vyr:Y", element_Y, LMX_OFFSET(ColorSpaceCIExyYType, m_Y, element, number), LMX_FLAG(ColorSpaceCIExyYType, m_isset_Y), lmx::position_of(k_ColorSpaceCIExyYType_elements, element_Y), lmx::position_of(k_ColorSpaceCIExyYType_elements, element_Y, 1), nullptr, &facets::Fraction, {}},
-    {lmx::item_kind::element, lmx::value_kind::number, lmx::use_required, lmx::ELMX_WS_COLLAPSE, "Vyr:CapY", element_CapY, LMX_OFFSET(ColorSpaceCIExyYType, m_CapY, element, number), LMX_FLAG(ColorSpaceCIExyYType, m_isset_CapY), lmx::position_of(k_ColorSpaceCIExyYType_elements, element_CapY), lmx::position_of(k_ColorSpaceCIExyYType_elements, element_CapY, 1), nullptr, &facets::Fraction, {}},
+constinit const s_item ColorSpaceCIExyYType::k_items[] = {
+    {item_kind::attribute, value_kind::text, use_optional, ELMX_WS_PRESERVE, "Name", attribute_Name,
+     LMX_OFFSET(ColorSpaceCIExyYType, m_Name, attribute, text), LMX_FLAG(ColorSpaceCIExyYType, m_isset_Name), 0, 0, nullptr, nullptr, {}},
+    {item_kind::child, value_kind::none, use_required, ELMX_WS_PRESERVE, "Vyr:ColorSpaceSpecificationSpectrumTristimulus", element_ColorSpaceSpecificationSpectrumTristimulus,
+     LMX_OFFSET(ColorSpaceCIExyYType, m_ColorSpaceSpecificationSpectrumTristimulus, child, none), LMX_FLAG(ColorSpaceCIExyYType, m_isset_ColorSpaceSpecificationSpectrumTristimulus), position_of(k_ColorSpaceCIExyYType_elements, element_ColorSpaceSpecificationSpectrumTristimulus), position_of(k_ColorSpaceCIExyYType_elements, element_ColorSpaceSpecificationSpectrumTristimulus, 1), &ColorSpaceSpecificationSpectrumTristimulus::k_class, nullptr, {}},
+    {item_kind::element, value_kind::number, use_required, ELMX_WS_COLLAPSE, "Vyr:X", element_X,
+     LMX_OFFSET(ColorSpaceCIExyYType, m_X, element, number), LMX_FLAG(ColorSpaceCIExyYType, m_isset_X), position_of(k_ColorSpaceCIExyYType_elements, element_X), position_of(k_ColorSpaceCIExyYType_elements, element_X, 1), nullptr, &facets::Fraction, {}},
+    {item_kind::element, value_kind::number, use_required, ELMX_WS_COLLAPSE, "Vyr:Y", element_Y,
+     LMX_OFFSET(ColorSpaceCIExyYType, m_Y, element, number), LMX_FLAG(ColorSpaceCIExyYType, m_isset_Y), position_of(k_ColorSpaceCIExyYType_elements, element_Y), position_of(k_ColorSpaceCIExyYType_elements, element_Y, 1), nullptr, &facets::Fraction, {}},
+    {item_kind::element, value_kind::number, use_required, ELMX_WS_COLLAPSE, "Vyr:CapY", element_CapY,
+     LMX_OFFSET(ColorSpaceCIExyYType, m_CapY, element, number), LMX_FLAG(ColorSpaceCIExyYType, m_isset_CapY), position_of(k_ColorSpaceCIExyYType_elements, element_CapY), position_of(k_ColorSpaceCIExyYType_elements, element_CapY, 1), nullptr, &facets::Fraction, {}},
 };
-constinit const lmx::s_class ColorSpaceCIExyYType::k_class = {
+constinit const s_class ColorSpaceCIExyYType::k_class = {
     .name = "ColorSpaceCIExyYType",
     .qualified_name = "Vyr:ColorSpaceCIExyYType",
     .base = &ColorSpaceType::k_class,
-    .content = lmx::content_kind::children,
+    .content = content_kind::children,
     .may_be_empty = false,
     .ns_map = k_ns_map,
-    .nil_flag = lmx::k_no_flag,
-    .choice = lmx::k_no_flag,
+    .nil_flag = k_no_flag,
+    .choice = k_no_flag,
     .id = &ColorSpaceCIExyYType::id,
     .xsi_type = "Vyr:ColorSpaceCIExyYType",
     .attributes = std::span(k_items).first(std::size(k_ColorSpaceCIExyYType_attributes) - 1),
     .elements = std::span(k_items).subspan(std::size(k_ColorSpaceCIExyYType_attributes) - 1),
     .attribute_map = k_ColorSpaceCIExyYType_attributes,
     .element_map = k_ColorSpaceCIExyYType_elements,
-    .operations = &lmx::k_operations<ColorSpaceCIExyYType>,
+    .operations = &k_operations<ColorSpaceCIExyYType>,
 };
 
 ColorSpaceCIExyYType::ColorSpaceCIExyYType() = default;
@@ -547,42 +580,47 @@ lmx::elmx_error ColorSpaceCIExyYType::set_CapY(double value) { return lmx::set_i
 // ColorSpaceEmissiveCIEXYZType
 
 namespace {
-constexpr lmx::s_event_map k_ColorSpaceEmissiveCIEXYZType_attributes[] = {
-    lmx::attribute_event("Name", attribute_Name),
-    lmx::k_end_of_map,
+constexpr s_event_map k_ColorSpaceEmissiveCIEXYZType_attributes[] = {
+    attribute_event("Name", attribute_Name),
+    k_end_of_map,
 };
-constexpr lmx::s_event_map k_ColorSpaceEmissiveCIEXYZType_elements[] = {
-    lmx::element_event("ColorSpaceSpecificationEmissiveTristimulus", element_ColorSpaceSpecificationEmissiveTristimulus),
-    lmx::element_event("X", element_X),
-    lmx::element_event("Y", element_Y),
-    lmx::element_event("Z", element_Z),
-    lmx::k_end_of_map,
+constexpr s_event_map k_ColorSpaceEmissiveCIEXYZType_elements[] = {
+    element_event("ColorSpaceSpecificationEmissiveTristimulus", element_ColorSpaceSpecificationEmissiveTristimulus),
+    element_event("X", element_X),
+    element_event("Y", element_Y),
+    element_event("Z", element_Z),
+    k_end_of_map,
 };
 }  // namespace
 
-constinit const lmx::s_item ColorSpaceEmissiveCIEXYZType::k_items[] = {
-    {lmx::item_kind::attribute, lmx::value_kind::text, lmx::use_optional, lmx::ELMX_WS_PRESERVE, "Name", attribute_Name, LMX_OFFSET(ColorSpaceEmissiveCIEXYZType, m_Name, attribute, text), LMX_FLAG(ColorSpaceEmissiveCIEXYZType, m_isset_Name), 0, 0, nullptr, nullptr, {}},
-    {lmx::item_kind::child, lmx::value_kind::none, lmx::use_required, lmx::ELMX_WS_PRESERVE, "Vyr:ColorSpaceSpecificationEmissiveTristimulus", element_ColorSpaceSpecificationEmissiveTristimulus, LMX_OFFSET(ColorSpaceEmissiveCIEXYZType, m_ColorSpaceSpecificationEmissiveTristimulus, child, none), LMX_FLAG(ColorSpaceEmissiveCIEXYZType, m_isset_ColorSpaceSpecificationEmissiveTristimulus), lmx::position_of(k_ColorSpaceEmissiveCIEXYZType_elements, element_ColorSpaceSpecificationEmissiveTristimulus), lmx::position_of(k_ColorSpaceEmissiveCIEXYZType_elements, element_ColorSpaceSpecificationEmissiveTristimulus, 1), &ColorSpaceSpecificationEmissiveTristimulus::k_class, nullptr, {}},
-    {lmx::item_kind::element, lmx::value_kind::number, lmx::use_required, lmx::ELMX_WS_COLLAPSE, "Vyr:X", element_X, LMX_OFFSET(ColorSpaceEmissiveCIEXYZType, m_X, element, number), LMX_FLAG(ColorSpaceEmissiveCIEXYZType, m_isset_X), lmx::position_of(k_ColorSpaceEmissiveCIEXYZType_elements, element_X), lmx::position_of(k_ColorSpaceEmissiveCIEXYZType_elements, element_X, 1), nullptr, &facets::NonNegative, {}},
-    {lmx::item_kind::element, lmx::value_kind::number, lmx::use_required, lmx::ELMX_WS_COLLAPSE, "Vyr:Y", element_Y, LMX_OFFSET(ColorSpaceEmissiveCIEXYZType, m_Y, element, number), LMX_FLAG(ColorSpaceEmissiveCIEXYZType, m_isset_Y), lmx::position_of(k_ColorSpaceEmissiveCIEXYZType_elements, element_Y), lmx::position_of(k_ColorSpaceEmissiveCIEXYZType_elements, element_Y, 1), nullptr, &facets::NonNegative, {}},
-    {lmx::item_kind::element, lmx::value_kind::number, lmx::use_required, lmx::ELMX_WS_COLLAPSE, "Vyr:Z", element_Z, LMX_OFFSET(ColorSpaceEmissiveCIEXYZType, m_Z, element, number), LMX_FLAG(ColorSpaceEmissiveCIEXYZType, m_isset_Z), lmx::position_of(k_ColorSpaceEmissiveCIEXYZType_elements, element_Z), lmx::position_of(k_ColorSpaceEmissiveCIEXYZType_elements, element_Z, 1), nullptr, &facets::NonNegative, {}},
+constinit const s_item ColorSpaceEmissiveCIEXYZType::k_items[] = {
+    {item_kind::attribute, value_kind::text, use_optional, ELMX_WS_PRESERVE, "Name", attribute_Name,
+     LMX_OFFSET(ColorSpaceEmissiveCIEXYZType, m_Name, attribute, text), LMX_FLAG(ColorSpaceEmissiveCIEXYZType, m_isset_Name), 0, 0, nullptr, nullptr, {}},
+    {item_kind::child, value_kind::none, use_required, ELMX_WS_PRESERVE, "Vyr:ColorSpaceSpecificationEmissiveTristimulus", element_ColorSpaceSpecificationEmissiveTristimulus,
+     LMX_OFFSET(ColorSpaceEmissiveCIEXYZType, m_ColorSpaceSpecificationEmissiveTristimulus, child, none), LMX_FLAG(ColorSpaceEmissiveCIEXYZType, m_isset_ColorSpaceSpecificationEmissiveTristimulus), position_of(k_ColorSpaceEmissiveCIEXYZType_elements, element_ColorSpaceSpecificationEmissiveTristimulus), position_of(k_ColorSpaceEmissiveCIEXYZType_elements, element_ColorSpaceSpecificationEmissiveTristimulus, 1), &ColorSpaceSpecificationEmissiveTristimulus::k_class, nullptr, {}},
+    {item_kind::element, value_kind::number, use_required, ELMX_WS_COLLAPSE, "Vyr:X", element_X,
+     LMX_OFFSET(ColorSpaceEmissiveCIEXYZType, m_X, element, number), LMX_FLAG(ColorSpaceEmissiveCIEXYZType, m_isset_X), position_of(k_ColorSpaceEmissiveCIEXYZType_elements, element_X), position_of(k_ColorSpaceEmissiveCIEXYZType_elements, element_X, 1), nullptr, &facets::NonNegative, {}},
+    {item_kind::element, value_kind::number, use_required, ELMX_WS_COLLAPSE, "Vyr:Y", element_Y,
+     LMX_OFFSET(ColorSpaceEmissiveCIEXYZType, m_Y, element, number), LMX_FLAG(ColorSpaceEmissiveCIEXYZType, m_isset_Y), position_of(k_ColorSpaceEmissiveCIEXYZType_elements, element_Y), position_of(k_ColorSpaceEmissiveCIEXYZType_elements, element_Y, 1), nullptr, &facets::NonNegative, {}},
+    {item_kind::element, value_kind::number, use_required, ELMX_WS_COLLAPSE, "Vyr:Z", element_Z,
+     LMX_OFFSET(ColorSpaceEmissiveCIEXYZType, m_Z, element, number), LMX_FLAG(ColorSpaceEmissiveCIEXYZType, m_isset_Z), position_of(k_ColorSpaceEmissiveCIEXYZType_elements, element_Z), position_of(k_ColorSpaceEmissiveCIEXYZType_elements, element_Z, 1), nullptr, &facets::NonNegative, {}},
 };
-constinit const lmx::s_class ColorSpaceEmissiveCIEXYZType::k_class = {
+constinit const s_class ColorSpaceEmissiveCIEXYZType::k_class = {
     .name = "ColorSpaceEmissiveCIEXYZType",
     .qualified_name = "Vyr:ColorSpaceEmissiveCIEXYZType",
     .base = &ColorSpaceType::k_class,
-    .content = lmx::content_kind::children,
+    .content = content_kind::children,
     .may_be_empty = false,
     .ns_map = k_ns_map,
-    .nil_flag = lmx::k_no_flag,
-    .choice = lmx::k_no_flag,
+    .nil_flag = k_no_flag,
+    .choice = k_no_flag,
     .id = &ColorSpaceEmissiveCIEXYZType::id,
     .xsi_type = "Vyr:ColorSpaceEmissiveCIEXYZType",
     .attributes = std::span(k_items).first(std::size(k_ColorSpaceEmissiveCIEXYZType_attributes) - 1),
     .elements = std::span(k_items).subspan(std::size(k_ColorSpaceEmissiveCIEXYZType_attributes) - 1),
     .attribute_map = k_ColorSpaceEmissiveCIEXYZType_attributes,
     .element_map = k_ColorSpaceEmissiveCIEXYZType_elements,
-    .operations = &lmx::k_operations<ColorSpaceEmissiveCIEXYZType>,
+    .operations = &k_operations<ColorSpaceEmissiveCIEXYZType>,
 };
 
 ColorSpaceEmissiveCIEXYZType::ColorSpaceEmissiveCIEXYZType() = default;
@@ -613,42 +651,47 @@ lmx::elmx_error ColorSpaceEmissiveCIEXYZType::set_Z(double value) { return lmx::
 // ColorSpaceEmissiveCIExyYType
 
 namespace {
-constexpr lmx::s_event_map k_ColorSpaceEmissiveCIExyYType_attributes[] = {
-    lmx::attribute_event("Name", attribute_Name),
-    lmx::k_end_of_map,
+constexpr s_event_map k_ColorSpaceEmissiveCIExyYType_attributes[] = {
+    attribute_event("Name", attribute_Name),
+    k_end_of_map,
 };
-constexpr lmx::s_event_map k_ColorSpaceEmissiveCIExyYType_elements[] = {
-    lmx::element_event("ColorSpaceSpecificationEmissiveTristimulus", element_ColorSpaceSpecificationEmissiveTristimulus),
-    lmx::element_event("X", element_X),
-    lmx::element_event("Y", element_Y),
-    lmx::element_event("CapY", element_CapY),
-    lmx::k_end_of_map,
+constexpr s_event_map k_ColorSpaceEmissiveCIExyYType_elements[] = {
+    element_event("ColorSpaceSpecificationEmissiveTristimulus", element_ColorSpaceSpecificationEmissiveTristimulus),
+    element_event("X", element_X),
+    element_event("Y", element_Y),
+    element_event("CapY", element_CapY),
+    k_end_of_map,
 };
 }  // namespace
 
-constinit const lmx::s_item ColorSpaceEmissiveCIExyYType::k_items[] = {
-    {lmx::item_kind::attribute, lmx::value_kind::text, lmx::use_optional, lmx::ELMX_WS_PRESERVE, "Name", attribute_Name, LMX_OFFSET(ColorSpaceEmissiveCIExyYType, m_Name, attribute, text), LMX_FLAG(ColorSpaceEmissiveCIExyYType, m_isset_Name), 0, 0, nullptr, nullptr, {}},
-    {lmx::item_kind::child, lmx::value_kind::none, lmx::use_required, lmx::ELMX_WS_PRESERVE, "Vyr:ColorSpaceSpecificationEmissiveTristimulus", element_ColorSpaceSpecificationEmissiveTristimulus, LMX_OFFSET(ColorSpaceEmissiveCIExyYType, m_ColorSpaceSpecificationEmissiveTristimulus, child, none), LMX_FLAG(ColorSpaceEmissiveCIExyYType, m_isset_ColorSpaceSpecificationEmissiveTristimulus), lmx::position_of(k_ColorSpaceEmissiveCIExyYType_elements, element_ColorSpaceSpecificationEmissiveTristimulus), lmx::position_of(k_ColorSpaceEmissiveCIExyYType_elements, element_ColorSpaceSpecificationEmissiveTristimulus, 1), &ColorSpaceSpecificationEmissiveTristimulus::k_class, nullptr, {}},
-    {lmx::item_kind::element, lmx::value_kind::number, lmx::use_required, lmx::ELMX_WS_COLLAPSE, "Vyr:X", element_X, LMX_OFFSET(ColorSpaceEmissiveCIExyYType, m_X, element, number), LMX_FLAG(ColorSpaceEmissiveCIExyYType, m_isset_X), lmx::position_of(k_ColorSpaceEmissiveCIExyYType_elements, element_X), lmx::position_of(k_ColorSpaceEmissiveCIExyYType_elements, element_X, 1), nullptr, &facets::Fraction, {}},
-    {lmx::item_kind::element, lmx::value_kind::number, lmx::use_required, lmx::ELMX_WS_COLLAPSE, "Vyr:Y", element_Y, LMX_OFFSET(ColorSpaceEmissiveCIExyYType, m_Y, element, number), LMX_FLAG(ColorSpaceEmissiveCIExyYType, m_isset_Y), lmx::position_of(k_ColorSpaceEmissiveCIExyYType_elements, element_Y), lmx::position_of(k_ColorSpaceEmissiveCIExyYType_elements, element_Y, 1), nullptr, &facets::Fraction, {}},
-    {lmx::item_kind::element, lmx::value_kind::number, lmx::use_required, lmx::ELMX_WS_COLLAPSE, "Vyr:CapY", element_CapY, LMX_OFFSET(ColorSpaceEmissiveCIExyYType, m_CapY, element, number), LMX_FLAG(ColorSpaceEmissiveCIExyYType, m_isset_CapY), lmx::position_of(k_ColorSpaceEmissiveCIExyYType_elements, element_CapY), lmx::position_of(k_ColorSpaceEmissiveCIExyYType_elements, element_CapY, 1), nullptr, &facets::NonNegative, {}},
+constinit const s_item ColorSpaceEmissiveCIExyYType::k_items[] = {
+    {item_kind::attribute, value_kind::text, use_optional, ELMX_WS_PRESERVE, "Name", attribute_Name,
+     LMX_OFFSET(ColorSpaceEmissiveCIExyYType, m_Name, attribute, text), LMX_FLAG(ColorSpaceEmissiveCIExyYType, m_isset_Name), 0, 0, nullptr, nullptr, {}},
+    {item_kind::child, value_kind::none, use_required, ELMX_WS_PRESERVE, "Vyr:ColorSpaceSpecificationEmissiveTristimulus", element_ColorSpaceSpecificationEmissiveTristimulus,
+     LMX_OFFSET(ColorSpaceEmissiveCIExyYType, m_ColorSpaceSpecificationEmissiveTristimulus, child, none), LMX_FLAG(ColorSpaceEmissiveCIExyYType, m_isset_ColorSpaceSpecificationEmissiveTristimulus), position_of(k_ColorSpaceEmissiveCIExyYType_elements, element_ColorSpaceSpecificationEmissiveTristimulus), position_of(k_ColorSpaceEmissiveCIExyYType_elements, element_ColorSpaceSpecificationEmissiveTristimulus, 1), &ColorSpaceSpecificationEmissiveTristimulus::k_class, nullptr, {}},
+    {item_kind::element, value_kind::number, use_required, ELMX_WS_COLLAPSE, "Vyr:X", element_X,
+     LMX_OFFSET(ColorSpaceEmissiveCIExyYType, m_X, element, number), LMX_FLAG(ColorSpaceEmissiveCIExyYType, m_isset_X), position_of(k_ColorSpaceEmissiveCIExyYType_elements, element_X), position_of(k_ColorSpaceEmissiveCIExyYType_elements, element_X, 1), nullptr, &facets::Fraction, {}},
+    {item_kind::element, value_kind::number, use_required, ELMX_WS_COLLAPSE, "Vyr:Y", element_Y,
+     LMX_OFFSET(ColorSpaceEmissiveCIExyYType, m_Y, element, number), LMX_FLAG(ColorSpaceEmissiveCIExyYType, m_isset_Y), position_of(k_ColorSpaceEmissiveCIExyYType_elements, element_Y), position_of(k_ColorSpaceEmissiveCIExyYType_elements, element_Y, 1), nullptr, &facets::Fraction, {}},
+    {item_kind::element, value_kind::number, use_required, ELMX_WS_COLLAPSE, "Vyr:CapY", element_CapY,
+     LMX_OFFSET(ColorSpaceEmissiveCIExyYType, m_CapY, element, number), LMX_FLAG(ColorSpaceEmissiveCIExyYType, m_isset_CapY), position_of(k_ColorSpaceEmissiveCIExyYType_elements, element_CapY), position_of(k_ColorSpaceEmissiveCIExyYType_elements, element_CapY, 1), nullptr, &facets::NonNegative, {}},
 };
-constinit const lmx::s_class ColorSpaceEmissiveCIExyYType::k_class = {
+constinit const s_class ColorSpaceEmissiveCIExyYType::k_class = {
     .name = "ColorSpaceEmissiveCIExyYType",
     .qualified_name = "Vyr:ColorSpaceEmissiveCIExyYType",
     .base = &ColorSpaceType::k_class,
-    .content = lmx::content_kind::children,
+    .content = content_kind::children,
     .may_be_empty = false,
     .ns_map = k_ns_map,
-    .nil_flag = lmx::k_no_flag,
-    .choice = lmx::k_no_flag,
+    .nil_flag = k_no_flag,
+    .choice = k_no_flag,
     .id = &ColorSpaceEmissiveCIExyYType::id,
     .xsi_type = "Vyr:ColorSpaceEmissiveCIExyYType",
     .attributes = std::span(k_items).first(std::size(k_ColorSpaceEmissiveCIExyYType_attributes) - 1),
     .elements = std::span(k_items).subspan(std::size(k_ColorSpaceEmissiveCIExyYType_attributes) - 1),
     .attribute_map = k_ColorSpaceEmissiveCIExyYType_attributes,
     .element_map = k_ColorSpaceEmissiveCIExyYType_elements,
-    .operations = &lmx::k_operations<ColorSpaceEmissiveCIExyYType>,
+    .operations = &k_operations<ColorSpaceEmissiveCIExyYType>,
 };
 
 ColorSpaceEmissiveCIExyYType::ColorSpaceEmissiveCIExyYType() = default;
@@ -683,7 +726,7 @@ lmx::elmx_error ColorSpaceCIELab::marshal(lmx::c_xml_writer& writer, const char*
     return ColorSpaceCIELabType::marshal(writer, name);
 }
 lmx::elmx_error ColorSpaceCIELab::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return ColorSpaceCIELabType::unmarshal(reader, name); }
-const lmx::s_document ColorSpaceCIELab::k_document = {"Vyr:ColorSpaceCIELab", "ColorSpaceCIELab", k_ns_map, &lmx::k_operations<ColorSpaceCIELab>};
+constinit const lmx::s_document ColorSpaceCIELab::k_document = {"Vyr:ColorSpaceCIELab", "ColorSpaceCIELab", k_ns_map, &lmx::k_operations<ColorSpaceCIELab>};
 const lmx::s_ns_map* ColorSpaceCIELab::ns_map() { return k_ns_map; }
 lmx::elmx_error ColorSpaceCIELab::unmarshal(lmx::c_xml_reader& reader) { return lmx::unmarshal_document(k_document, this, reader); }
 ColorSpaceCIELab::ColorSpaceCIELab(const char* file_name, lmx::elmx_error* error) : ColorSpaceCIELab() { *error = unmarshal(file_name); }
@@ -703,7 +746,7 @@ lmx::elmx_error ColorSpaceCIELCh::marshal(lmx::c_xml_writer& writer, const char*
     return ColorSpaceCIELChType::marshal(writer, name);
 }
 lmx::elmx_error ColorSpaceCIELCh::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return ColorSpaceCIELChType::unmarshal(reader, name); }
-const lmx::s_document ColorSpaceCIELCh::k_document = {"Vyr:ColorSpaceCIELCh", "ColorSpaceCIELCh", k_ns_map, &lmx::k_operations<ColorSpaceCIELCh>};
+constinit const lmx::s_document ColorSpaceCIELCh::k_document = {"Vyr:ColorSpaceCIELCh", "ColorSpaceCIELCh", k_ns_map, &lmx::k_operations<ColorSpaceCIELCh>};
 const lmx::s_ns_map* ColorSpaceCIELCh::ns_map() { return k_ns_map; }
 lmx::elmx_error ColorSpaceCIELCh::unmarshal(lmx::c_xml_reader& reader) { return lmx::unmarshal_document(k_document, this, reader); }
 ColorSpaceCIELCh::ColorSpaceCIELCh(const char* file_name, lmx::elmx_error* error) : ColorSpaceCIELCh() { *error = unmarshal(file_name); }
@@ -723,7 +766,7 @@ lmx::elmx_error ColorSpaceCIEXYZ::marshal(lmx::c_xml_writer& writer, const char*
     return ColorSpaceCIEXYZType::marshal(writer, name);
 }
 lmx::elmx_error ColorSpaceCIEXYZ::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return ColorSpaceCIEXYZType::unmarshal(reader, name); }
-const lmx::s_document ColorSpaceCIEXYZ::k_document = {"Vyr:ColorSpaceCIEXYZ", "ColorSpaceCIEXYZ", k_ns_map, &lmx::k_operations<ColorSpaceCIEXYZ>};
+constinit const lmx::s_document ColorSpaceCIEXYZ::k_document = {"Vyr:ColorSpaceCIEXYZ", "ColorSpaceCIEXYZ", k_ns_map, &lmx::k_operations<ColorSpaceCIEXYZ>};
 const lmx::s_ns_map* ColorSpaceCIEXYZ::ns_map() { return k_ns_map; }
 lmx::elmx_error ColorSpaceCIEXYZ::unmarshal(lmx::c_xml_reader& reader) { return lmx::unmarshal_document(k_document, this, reader); }
 ColorSpaceCIEXYZ::ColorSpaceCIEXYZ(const char* file_name, lmx::elmx_error* error) : ColorSpaceCIEXYZ() { *error = unmarshal(file_name); }
@@ -743,7 +786,7 @@ lmx::elmx_error ColorSpaceEmissiveCIEXYZ::marshal(lmx::c_xml_writer& writer, con
     return ColorSpaceEmissiveCIEXYZType::marshal(writer, name);
 }
 lmx::elmx_error ColorSpaceEmissiveCIEXYZ::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return ColorSpaceEmissiveCIEXYZType::unmarshal(reader, name); }
-const lmx::s_document ColorSpaceEmissiveCIEXYZ::k_document = {"Vyr:ColorSpaceEmissiveCIEXYZ", "ColorSpaceEmissiveCIEXYZ", k_ns_map, &lmx::k_operations<ColorSpaceEmissiveCIEXYZ>};
+constinit const lmx::s_document ColorSpaceEmissiveCIEXYZ::k_document = {"Vyr:ColorSpaceEmissiveCIEXYZ", "ColorSpaceEmissiveCIEXYZ", k_ns_map, &lmx::k_operations<ColorSpaceEmissiveCIEXYZ>};
 const lmx::s_ns_map* ColorSpaceEmissiveCIEXYZ::ns_map() { return k_ns_map; }
 lmx::elmx_error ColorSpaceEmissiveCIEXYZ::unmarshal(lmx::c_xml_reader& reader) { return lmx::unmarshal_document(k_document, this, reader); }
 ColorSpaceEmissiveCIEXYZ::ColorSpaceEmissiveCIEXYZ(const char* file_name, lmx::elmx_error* error) : ColorSpaceEmissiveCIEXYZ() { *error = unmarshal(file_name); }
@@ -763,7 +806,7 @@ lmx::elmx_error ColorSpaceCIExyY::marshal(lmx::c_xml_writer& writer, const char*
     return ColorSpaceCIExyYType::marshal(writer, name);
 }
 lmx::elmx_error ColorSpaceCIExyY::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return ColorSpaceCIExyYType::unmarshal(reader, name); }
-const lmx::s_document ColorSpaceCIExyY::k_document = {"Vyr:ColorSpaceCIExyY", "ColorSpaceCIExyY", k_ns_map, &lmx::k_operations<ColorSpaceCIExyY>};
+constinit const lmx::s_document ColorSpaceCIExyY::k_document = {"Vyr:ColorSpaceCIExyY", "ColorSpaceCIExyY", k_ns_map, &lmx::k_operations<ColorSpaceCIExyY>};
 const lmx::s_ns_map* ColorSpaceCIExyY::ns_map() { return k_ns_map; }
 lmx::elmx_error ColorSpaceCIExyY::unmarshal(lmx::c_xml_reader& reader) { return lmx::unmarshal_document(k_document, this, reader); }
 ColorSpaceCIExyY::ColorSpaceCIExyY(const char* file_name, lmx::elmx_error* error) : ColorSpaceCIExyY() { *error = unmarshal(file_name); }
@@ -783,7 +826,7 @@ lmx::elmx_error ColorSpaceEmissiveCIExyY::marshal(lmx::c_xml_writer& writer, con
     return ColorSpaceEmissiveCIExyYType::marshal(writer, name);
 }
 lmx::elmx_error ColorSpaceEmissiveCIExyY::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return ColorSpaceEmissiveCIExyYType::unmarshal(reader, name); }
-const lmx::s_document ColorSpaceEmissiveCIExyY::k_document = {"Vyr:ColorSpaceEmissiveCIExyY", "ColorSpaceEmissiveCIExyY", k_ns_map, &lmx::k_operations<ColorSpaceEmissiveCIExyY>};
+constinit const lmx::s_document ColorSpaceEmissiveCIExyY::k_document = {"Vyr:ColorSpaceEmissiveCIExyY", "ColorSpaceEmissiveCIExyY", k_ns_map, &lmx::k_operations<ColorSpaceEmissiveCIExyY>};
 const lmx::s_ns_map* ColorSpaceEmissiveCIExyY::ns_map() { return k_ns_map; }
 lmx::elmx_error ColorSpaceEmissiveCIExyY::unmarshal(lmx::c_xml_reader& reader) { return lmx::unmarshal_document(k_document, this, reader); }
 ColorSpaceEmissiveCIExyY::ColorSpaceEmissiveCIExyY(const char* file_name, lmx::elmx_error* error) : ColorSpaceEmissiveCIExyY() { *error = unmarshal(file_name); }
@@ -803,7 +846,7 @@ lmx::elmx_error ColorSpaceCIELuv::marshal(lmx::c_xml_writer& writer, const char*
     return ColorSpaceCIELuvType::marshal(writer, name);
 }
 lmx::elmx_error ColorSpaceCIELuv::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return ColorSpaceCIELuvType::unmarshal(reader, name); }
-const lmx::s_document ColorSpaceCIELuv::k_document = {"Vyr:ColorSpaceCIELuv", "ColorSpaceCIELuv", k_ns_map, &lmx::k_operations<ColorSpaceCIELuv>};
+constinit const lmx::s_document ColorSpaceCIELuv::k_document = {"Vyr:ColorSpaceCIELuv", "ColorSpaceCIELuv", k_ns_map, &lmx::k_operations<ColorSpaceCIELuv>};
 const lmx::s_ns_map* ColorSpaceCIELuv::ns_map() { return k_ns_map; }
 lmx::elmx_error ColorSpaceCIELuv::unmarshal(lmx::c_xml_reader& reader) { return lmx::unmarshal_document(k_document, this, reader); }
 ColorSpaceCIELuv::ColorSpaceCIELuv(const char* file_name, lmx::elmx_error* error) : ColorSpaceCIELuv() { *error = unmarshal(file_name); }

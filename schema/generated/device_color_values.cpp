@@ -18,51 +18,60 @@
 
 namespace com_vyrgraph_v2 {
 
-static_assert(lmx::k_binding_version == 1, "run schema/generator/generate.py");
+using namespace lmx;  // for the tables' sake
+
+static_assert(k_binding_version == 1, "run schema/generator/generate.py");
 
 // ColorSpaceRGBType
 
 namespace {
-constexpr lmx::s_event_map k_ColorSpaceRGBType_attributes[] = {
-    lmx::attribute_event("Name", attribute_Name),
-    lmx::k_end_of_map,
+constexpr s_event_map k_ColorSpaceRGBType_attributes[] = {
+    attribute_event("Name", attribute_Name),
+    k_end_of_map,
 };
-constexpr lmx::s_event_map k_ColorSpaceRGBType_elements[] = {
-    lmx::element_event("ColorSpaceSpecificationSpectrumTristimulus", element_ColorSpaceSpecificationSpectrumTristimulus),
-    lmx::element_event("Red", element_Red),
-    lmx::element_event("Green", element_Green),
-    lmx::element_event("Blue", element_Blue),
-    lmx::element_event("Alpha", element_Alpha),
-    lmx::element_event("ColorDepth", element_ColorDepth),
-    lmx::k_end_of_map,
+constexpr s_event_map k_ColorSpaceRGBType_elements[] = {
+    element_event("ColorSpaceSpecificationSpectrumTristimulus", element_ColorSpaceSpecificationSpectrumTristimulus),
+    element_event("Red", element_Red),
+    element_event("Green", element_Green),
+    element_event("Blue", element_Blue),
+    element_event("Alpha", element_Alpha),
+    element_event("ColorDepth", element_ColorDepth),
+    k_end_of_map,
 };
 }  // namespace
 
-constinit const lmx::s_item ColorSpaceRGBType::k_items[] = {
-    {lmx::item_kind::attribute, lmx::value_kind::text, lmx::use_optional, lmx::ELMX_WS_PRESERVE, "Name", attribute_Name, LMX_OFFSET(ColorSpaceRGBType, m_Name, attribute, text), LMX_FLAG(ColorSpaceRGBType, m_isset_Name), 0, 0, nullptr, nullptr, {}},
-    {lmx::item_kind::child, lmx::value_kind::none, lmx::use_required, lmx::ELMX_WS_PRESERVE, "Vyr:ColorSpaceSpecificationSpectrumTristimulus", element_ColorSpaceSpecificationSpectrumTristimulus, LMX_OFFSET(ColorSpaceRGBType, m_ColorSpaceSpecificationSpectrumTristimulus, child, none), LMX_FLAG(ColorSpaceRGBType, m_isset_ColorSpaceSpecificationSpectrumTristimulus), lmx::position_of(k_ColorSpaceRGBType_elements, element_ColorSpaceSpecificationSpectrumTristimulus), lmx::position_of(k_ColorSpaceRGBType_elements, element_ColorSpaceSpecificationSpectrumTristimulus, 1), &ColorSpaceSpecificationSpectrumTristimulus::k_class, nullptr, {}},
-    {lmx::item_kind::element, lmx::value_kind::number, lmx::use_required, lmx::ELMX_WS_COLLAPSE, "Vyr:Red", element_Red, LMX_OFFSET(ColorSpaceRGBType, m_Red, element, number), LMX_FLAG(ColorSpaceRGBType, m_isset_Red), lmx::position_of(k_ColorSpaceRGBType_elements, element_Red), lmx::position_of(k_ColorSpaceRGBType_elements, element_Red, 1), nullptr, &facets::Fraction, {}},
-    {lmx::item_kind::element, lmx::value_kind::number, lmx::use_required, lmx::ELMX_WS_COLLAPSE, "Vyr:Green", element_Green, LMX_OFFSET(ColorSpaceRGBType, m_Green, element, number), LMX_FLAG(ColorSpaceRGBType, m_isset_Green), lmx::position_of(k_ColorSpaceRGBType_elements, element_Green), lmx::position_of(k_ColorSpaceRGBType_elements, element_Green, 1), nullptr, &facets::Fraction, {}},
-    {lmx::item_kind::element, lmx::value_kind::number, lmx::use_required, lmx::ELMX_WS_COLLAPSE, "Vyr:Blue", element_Blue, LMX_OFFSET(ColorSpaceRGBType, m_Blue, element, number), LMX_FLAG(ColorSpaceRGBType, m_isset_Blue), lmx::position_of(k_ColorSpaceRGBType_elements, element_Blue), lmx::position_of(k_ColorSpaceRGBType_elements, element_Blue, 1), nullptr, &facets::Fraction, {}},
-    {lmx::item_kind::element, lmx::value_kind::number, lmx::use_optional, lmx::ELMX_WS_COLLAPSE, "Vyr:Alpha", element_Alpha, LMX_OFFSET(ColorSpaceRGBType, m_Alpha, element, number), LMX_FLAG(ColorSpaceRGBType, m_isset_Alpha), lmx::position_of(k_ColorSpaceRGBType_elements, element_Alpha), lmx::position_of(k_ColorSpaceRGBType_elements, element_Alpha, 1), nullptr, &facets::Fraction, {}},
-    {lmx::item_kind::element, lmx::value_kind::text, lmx::use_required, lmx::ELMX_WS_PRESERVE, "Vyr:ColorDepth", element_ColorDepth, LMX_OFFSET(ColorSpaceRGBType, m_ColorDepth, element, text), LMX_FLAG(ColorSpaceRGBType, m_isset_ColorDepth), lmx::position_of(k_ColorSpaceRGBType_elements, element_ColorDepth), lmx::position_of(k_ColorSpaceRGBType_elements, element_ColorDepth, 1), nullptr, &facets::ColorDepthKind, {}},
+constinit const s_item ColorSpaceRGBType::k_items[] = {
+    {item_kind::attribute, value_kind::text, use_optional, ELMX_WS_PRESERVE, "Name", attribute_Name,
+     LMX_OFFSET(ColorSpaceRGBType, m_Name, attribute, text), LMX_FLAG(ColorSpaceRGBType, m_isset_Name), 0, 0, nullptr, nullptr, {}},
+    {item_kind::child, value_kind::none, use_required, ELMX_WS_PRESERVE, "Vyr:ColorSpaceSpecificationSpectrumTristimulus", element_ColorSpaceSpecificationSpectrumTristimulus,
+     LMX_OFFSET(ColorSpaceRGBType, m_ColorSpaceSpecificationSpectrumTristimulus, child, none), LMX_FLAG(ColorSpaceRGBType, m_isset_ColorSpaceSpecificationSpectrumTristimulus), position_of(k_ColorSpaceRGBType_elements, element_ColorSpaceSpecificationSpectrumTristimulus), position_of(k_ColorSpaceRGBType_elements, element_ColorSpaceSpecificationSpectrumTristimulus, 1), &ColorSpaceSpecificationSpectrumTristimulus::k_class, nullptr, {}},
+    {item_kind::element, value_kind::number, use_required, ELMX_WS_COLLAPSE, "Vyr:Red", element_Red,
+     LMX_OFFSET(ColorSpaceRGBType, m_Red, element, number), LMX_FLAG(ColorSpaceRGBType, m_isset_Red), position_of(k_ColorSpaceRGBType_elements, element_Red), position_of(k_ColorSpaceRGBType_elements, element_Red, 1), nullptr, &facets::Fraction, {}},
+    {item_kind::element, value_kind::number, use_required, ELMX_WS_COLLAPSE, "Vyr:Green", element_Green,
+     LMX_OFFSET(ColorSpaceRGBType, m_Green, element, number), LMX_FLAG(ColorSpaceRGBType, m_isset_Green), position_of(k_ColorSpaceRGBType_elements, element_Green), position_of(k_ColorSpaceRGBType_elements, element_Green, 1), nullptr, &facets::Fraction, {}},
+    {item_kind::element, value_kind::number, use_required, ELMX_WS_COLLAPSE, "Vyr:Blue", element_Blue,
+     LMX_OFFSET(ColorSpaceRGBType, m_Blue, element, number), LMX_FLAG(ColorSpaceRGBType, m_isset_Blue), position_of(k_ColorSpaceRGBType_elements, element_Blue), position_of(k_ColorSpaceRGBType_elements, element_Blue, 1), nullptr, &facets::Fraction, {}},
+    {item_kind::element, value_kind::number, use_optional, ELMX_WS_COLLAPSE, "Vyr:Alpha", element_Alpha,
+     LMX_OFFSET(ColorSpaceRGBType, m_Alpha, element, number), LMX_FLAG(ColorSpaceRGBType, m_isset_Alpha), position_of(k_ColorSpaceRGBType_elements, element_Alpha), position_of(k_ColorSpaceRGBType_elements, element_Alpha, 1), nullptr, &facets::Fraction, {}},
+    {item_kind::element, value_kind::text, use_required, ELMX_WS_PRESERVE, "Vyr:ColorDepth", element_ColorDepth,
+     LMX_OFFSET(ColorSpaceRGBType, m_ColorDepth, element, text), LMX_FLAG(ColorSpaceRGBType, m_isset_ColorDepth), position_of(k_ColorSpaceRGBType_elements, element_ColorDepth), position_of(k_ColorSpaceRGBType_elements, element_ColorDepth, 1), nullptr, &facets::ColorDepthKind, {}},
 };
-constinit const lmx::s_class ColorSpaceRGBType::k_class = {
+constinit const s_class ColorSpaceRGBType::k_class = {
     .name = "ColorSpaceRGBType",
     .qualified_name = "Vyr:ColorSpaceRGBType",
     .base = &ColorSpaceType::k_class,
-    .content = lmx::content_kind::children,
+    .content = content_kind::children,
     .may_be_empty = false,
     .ns_map = k_ns_map,
-    .nil_flag = lmx::k_no_flag,
-    .choice = lmx::k_no_flag,
+    .nil_flag = k_no_flag,
+    .choice = k_no_flag,
     .id = &ColorSpaceRGBType::id,
     .xsi_type = "Vyr:ColorSpaceRGBType",
     .attributes = std::span(k_items).first(std::size(k_ColorSpaceRGBType_attributes) - 1),
     .elements = std::span(k_items).subspan(std::size(k_ColorSpaceRGBType_attributes) - 1),
     .attribute_map = k_ColorSpaceRGBType_attributes,
     .element_map = k_ColorSpaceRGBType_elements,
-    .operations = &lmx::k_operations<ColorSpaceRGBType>,
+    .operations = &k_operations<ColorSpaceRGBType>,
 };
 
 ColorSpaceRGBType::ColorSpaceRGBType() = default;
@@ -97,46 +106,53 @@ bool ColorSpaceRGBType::setenum_ColorDepth(std::int32_t number) { return lmx::se
 // ColorSpaceSRGBType
 
 namespace {
-constexpr lmx::s_event_map k_ColorSpaceSRGBType_attributes[] = {
-    lmx::attribute_event("Name", attribute_Name),
-    lmx::k_end_of_map,
+constexpr s_event_map k_ColorSpaceSRGBType_attributes[] = {
+    attribute_event("Name", attribute_Name),
+    k_end_of_map,
 };
-constexpr lmx::s_event_map k_ColorSpaceSRGBType_elements[] = {
-    lmx::element_event("ColorSpaceSpecificationSpectrumTristimulus", element_ColorSpaceSpecificationSpectrumTristimulus),
-    lmx::element_event("Red", element_Red),
-    lmx::element_event("Green", element_Green),
-    lmx::element_event("Blue", element_Blue),
-    lmx::element_event("Alpha", element_Alpha),
-    lmx::element_event("ColorDepth", element_ColorDepth),
-    lmx::k_end_of_map,
+constexpr s_event_map k_ColorSpaceSRGBType_elements[] = {
+    element_event("ColorSpaceSpecificationSpectrumTristimulus", element_ColorSpaceSpecificationSpectrumTristimulus),
+    element_event("Red", element_Red),
+    element_event("Green", element_Green),
+    element_event("Blue", element_Blue),
+    element_event("Alpha", element_Alpha),
+    element_event("ColorDepth", element_ColorDepth),
+    k_end_of_map,
 };
 }  // namespace
 
-constinit const lmx::s_item ColorSpaceSRGBType::k_items[] = {
-    {lmx::item_kind::attribute, lmx::value_kind::text, lmx::use_optional, lmx::ELMX_WS_PRESERVE, "Name", attribute_Name, LMX_OFFSET(ColorSpaceSRGBType, m_Name, attribute, text), LMX_FLAG(ColorSpaceSRGBType, m_isset_Name), 0, 0, nullptr, nullptr, {}},
-    {lmx::item_kind::child, lmx::value_kind::none, lmx::use_required, lmx::ELMX_WS_PRESERVE, "Vyr:ColorSpaceSpecificationSpectrumTristimulus", element_ColorSpaceSpecificationSpectrumTristimulus, LMX_OFFSET(ColorSpaceSRGBType, m_ColorSpaceSpecificationSpectrumTristimulus, child, none), LMX_FLAG(ColorSpaceSRGBType, m_isset_ColorSpaceSpecificationSpectrumTristimulus), lmx::position_of(k_ColorSpaceSRGBType_elements, element_ColorSpaceSpecificationSpectrumTristimulus), lmx::position_of(k_ColorSpaceSRGBType_elements, element_ColorSpaceSpecificationSpectrumTristimulus, 1), &ColorSpaceSpecificationSpectrumTristimulus::k_class, nullptr, {}},
-    {lmx::item_kind::element, lmx::value_kind::number, lmx::use_required, lmx::ELMX_WS_COLLAPSE, "Vyr:Red", element_Red, LMX_OFFSET(ColorSpaceSRGBType, m_Red, element, number), LMX_FLAG(ColorSpaceSRGBType, m_isset_Red), lmx::position_of(k_ColorSpaceSRGBType_elements, element_Red), lmx::position_of(k_ColorSpaceSRGBType_elements, element_Red, 1), nullptr, &facets::Fraction, {}},
-    {lmx::item_kind::element, lmx::value_kind::number, lmx::use_required, lmx::ELMX_WS_COLLAPSE, "Vyr:Green", element_Green, LMX_OFFSET(ColorSpaceSRGBType, m_Green, element, number), LMX_FLAG(ColorSpaceSRGBType, m_isset_Green), lmx::position_of(k_ColorSpaceSRGBType_elements, element_Green), lmx::position_of(k_ColorSpaceSRGBType_elements, element_Green, 1), nullptr, &facets::Fraction, {}},
-    {lmx::item_kind::element, lmx::value_kind::number, lmx::use_required, lmx::ELMX_WS_COLLAPSE, "Vyr:Blue", element_Blue, LMX_OFFSET(ColorSpaceSRGBType, m_Blue, element, number), LMX_FLAG(ColorSpaceSRGBType, m_isset_Blue), lmx::position_of(k_ColorSpaceSRGBType_elements, element_Blue), lmx::position_of(k_ColorSpaceSRGBType_elements, element_Blue, 1), nullptr, &facets::Fraction, {}},
-    {lmx::item_kind::element, lmx::value_kind::number, lmx::use_optional, lmx::ELMX_WS_COLLAPSE, "Vyr:Alpha", element_Alpha, LMX_OFFSET(ColorSpaceSRGBType, m_Alpha, element, number), LMX_FLAG(ColorSpaceSRGBType, m_isset_Alpha), lmx::position_of(k_ColorSpaceSRGBType_elements, element_Alpha), lmx::position_of(k_ColorSpaceSRGBType_elements, element_Alpha, 1), nullptr, &facets::Fraction, {}},
-    {lmx::item_kind::element, lmx::value_kind::text, lmx::use_required, lmx::ELMX_WS_PRESERVE, "Vyr:ColorDepth", element_ColorDepth, LMX_OFFSET(ColorSpaceSRGBType, m_ColorDepth, element, text), LMX_FLAG(ColorSpaceSRGBType, m_isset_ColorDepth), lmx::position_of(k_ColorSpaceSRGBType_elements, element_ColorDepth), lmx::position_of(k_ColorSpaceSRGBType_elements, element_ColorDepth, 1), nullptr, &facets::ColorDepthKind, {}},
+constinit const s_item ColorSpaceSRGBType::k_items[] = {
+    {item_kind::attribute, value_kind::text, use_optional, ELMX_WS_PRESERVE, "Name", attribute_Name,
+     LMX_OFFSET(ColorSpaceSRGBType, m_Name, attribute, text), LMX_FLAG(ColorSpaceSRGBType, m_isset_Name), 0, 0, nullptr, nullptr, {}},
+    {item_kind::child, value_kind::none, use_required, ELMX_WS_PRESERVE, "Vyr:ColorSpaceSpecificationSpectrumTristimulus", element_ColorSpaceSpecificationSpectrumTristimulus,
+     LMX_OFFSET(ColorSpaceSRGBType, m_ColorSpaceSpecificationSpectrumTristimulus, child, none), LMX_FLAG(ColorSpaceSRGBType, m_isset_ColorSpaceSpecificationSpectrumTristimulus), position_of(k_ColorSpaceSRGBType_elements, element_ColorSpaceSpecificationSpectrumTristimulus), position_of(k_ColorSpaceSRGBType_elements, element_ColorSpaceSpecificationSpectrumTristimulus, 1), &ColorSpaceSpecificationSpectrumTristimulus::k_class, nullptr, {}},
+    {item_kind::element, value_kind::number, use_required, ELMX_WS_COLLAPSE, "Vyr:Red", element_Red,
+     LMX_OFFSET(ColorSpaceSRGBType, m_Red, element, number), LMX_FLAG(ColorSpaceSRGBType, m_isset_Red), position_of(k_ColorSpaceSRGBType_elements, element_Red), position_of(k_ColorSpaceSRGBType_elements, element_Red, 1), nullptr, &facets::Fraction, {}},
+    {item_kind::element, value_kind::number, use_required, ELMX_WS_COLLAPSE, "Vyr:Green", element_Green,
+     LMX_OFFSET(ColorSpaceSRGBType, m_Green, element, number), LMX_FLAG(ColorSpaceSRGBType, m_isset_Green), position_of(k_ColorSpaceSRGBType_elements, element_Green), position_of(k_ColorSpaceSRGBType_elements, element_Green, 1), nullptr, &facets::Fraction, {}},
+    {item_kind::element, value_kind::number, use_required, ELMX_WS_COLLAPSE, "Vyr:Blue", element_Blue,
+     LMX_OFFSET(ColorSpaceSRGBType, m_Blue, element, number), LMX_FLAG(ColorSpaceSRGBType, m_isset_Blue), position_of(k_ColorSpaceSRGBType_elements, element_Blue), position_of(k_ColorSpaceSRGBType_elements, element_Blue, 1), nullptr, &facets::Fraction, {}},
+    {item_kind::element, value_kind::number, use_optional, ELMX_WS_COLLAPSE, "Vyr:Alpha", element_Alpha,
+     LMX_OFFSET(ColorSpaceSRGBType, m_Alpha, element, number), LMX_FLAG(ColorSpaceSRGBType, m_isset_Alpha), position_of(k_ColorSpaceSRGBType_elements, element_Alpha), position_of(k_ColorSpaceSRGBType_elements, element_Alpha, 1), nullptr, &facets::Fraction, {}},
+    {item_kind::element, value_kind::text, use_required, ELMX_WS_PRESERVE, "Vyr:ColorDepth", element_ColorDepth,
+     LMX_OFFSET(ColorSpaceSRGBType, m_ColorDepth, element, text), LMX_FLAG(ColorSpaceSRGBType, m_isset_ColorDepth), position_of(k_ColorSpaceSRGBType_elements, element_ColorDepth), position_of(k_ColorSpaceSRGBType_elements, element_ColorDepth, 1), nullptr, &facets::ColorDepthKind, {}},
 };
-constinit const lmx::s_class ColorSpaceSRGBType::k_class = {
+constinit const s_class ColorSpaceSRGBType::k_class = {
     .name = "ColorSpaceSRGBType",
     .qualified_name = "Vyr:ColorSpaceSRGBType",
     .base = &ColorSpaceType::k_class,
-    .content = lmx::content_kind::children,
+    .content = content_kind::children,
     .may_be_empty = false,
     .ns_map = k_ns_map,
-    .nil_flag = lmx::k_no_flag,
-    .choice = lmx::k_no_flag,
+    .nil_flag = k_no_flag,
+    .choice = k_no_flag,
     .id = &ColorSpaceSRGBType::id,
     .xsi_type = "Vyr:ColorSpaceSRGBType",
     .attributes = std::span(k_items).first(std::size(k_ColorSpaceSRGBType_attributes) - 1),
     .elements = std::span(k_items).subspan(std::size(k_ColorSpaceSRGBType_attributes) - 1),
     .attribute_map = k_ColorSpaceSRGBType_attributes,
     .element_map = k_ColorSpaceSRGBType_elements,
-    .operations = &lmx::k_operations<ColorSpaceSRGBType>,
+    .operations = &k_operations<ColorSpaceSRGBType>,
 };
 
 ColorSpaceSRGBType::ColorSpaceSRGBType() = default;
@@ -171,46 +187,53 @@ bool ColorSpaceSRGBType::setenum_ColorDepth(std::int32_t number) { return lmx::s
 // ColorSpaceAdobeRGBType
 
 namespace {
-constexpr lmx::s_event_map k_ColorSpaceAdobeRGBType_attributes[] = {
-    lmx::attribute_event("Name", attribute_Name),
-    lmx::k_end_of_map,
+constexpr s_event_map k_ColorSpaceAdobeRGBType_attributes[] = {
+    attribute_event("Name", attribute_Name),
+    k_end_of_map,
 };
-constexpr lmx::s_event_map k_ColorSpaceAdobeRGBType_elements[] = {
-    lmx::element_event("ColorSpaceSpecificationSpectrumTristimulus", element_ColorSpaceSpecificationSpectrumTristimulus),
-    lmx::element_event("Red", element_Red),
-    lmx::element_event("Green", element_Green),
-    lmx::element_event("Blue", element_Blue),
-    lmx::element_event("Alpha", element_Alpha),
-    lmx::element_event("ColorDepth", element_ColorDepth),
-    lmx::k_end_of_map,
+constexpr s_event_map k_ColorSpaceAdobeRGBType_elements[] = {
+    element_event("ColorSpaceSpecificationSpectrumTristimulus", element_ColorSpaceSpecificationSpectrumTristimulus),
+    element_event("Red", element_Red),
+    element_event("Green", element_Green),
+    element_event("Blue", element_Blue),
+    element_event("Alpha", element_Alpha),
+    element_event("ColorDepth", element_ColorDepth),
+    k_end_of_map,
 };
 }  // namespace
 
-constinit const lmx::s_item ColorSpaceAdobeRGBType::k_items[] = {
-    {lmx::item_kind::attribute, lmx::value_kind::text, lmx::use_optional, lmx::ELMX_WS_PRESERVE, "Name", attribute_Name, LMX_OFFSET(ColorSpaceAdobeRGBType, m_Name, attribute, text), LMX_FLAG(ColorSpaceAdobeRGBType, m_isset_Name), 0, 0, nullptr, nullptr, {}},
-    {lmx::item_kind::child, lmx::value_kind::none, lmx::use_required, lmx::ELMX_WS_PRESERVE, "Vyr:ColorSpaceSpecificationSpectrumTristimulus", element_ColorSpaceSpecificationSpectrumTristimulus, LMX_OFFSET(ColorSpaceAdobeRGBType, m_ColorSpaceSpecificationSpectrumTristimulus, child, none), LMX_FLAG(ColorSpaceAdobeRGBType, m_isset_ColorSpaceSpecificationSpectrumTristimulus), lmx::position_of(k_ColorSpaceAdobeRGBType_elements, element_ColorSpaceSpecificationSpectrumTristimulus), lmx::position_of(k_ColorSpaceAdobeRGBType_elements, element_ColorSpaceSpecificationSpectrumTristimulus, 1), &ColorSpaceSpecificationSpectrumTristimulus::k_class, nullptr, {}},
-    {lmx::item_kind::element, lmx::value_kind::number, lmx::use_required, lmx::ELMX_WS_COLLAPSE, "Vyr:Red", element_Red, LMX_OFFSET(ColorSpaceAdobeRGBType, m_Red, element, number), LMX_FLAG(ColorSpaceAdobeRGBType, m_isset_Red), lmx::position_of(k_ColorSpaceAdobeRGBType_elements, element_Red), lmx::position_of(k_ColorSpaceAdobeRGBType_elements, element_Red, 1), nullptr, &facets::Fraction, {}},
-    {lmx::item_kind::element, lmx::value_kind::number, lmx::use_required, lmx::ELMX_WS_COLLAPSE, "Vyr:Green", element_Green, LMX_OFFSET(ColorSpaceAdobeRGBType, m_Green, element, number), LMX_FLAG(ColorSpaceAdobeRGBType, m_isset_Green), lmx::position_of(k_ColorSpaceAdobeRGBType_elements, element_Green), lmx::position_of(k_ColorSpaceAdobeRGBType_elements, element_Green, 1), nullptr, &facets::Fraction, {}},
-    {lmx::item_kind::element, lmx::value_kind::number, lmx::use_required, lmx::ELMX_WS_COLLAPSE, "Vyr:Blue", element_Blue, LMX_OFFSET(ColorSpaceAdobeRGBType, m_Blue, element, number), LMX_FLAG(ColorSpaceAdobeRGBType, m_isset_Blue), lmx::position_of(k_ColorSpaceAdobeRGBType_elements, element_Blue), lmx::position_of(k_ColorSpaceAdobeRGBType_elements, element_Blue, 1), nullptr, &facets::Fraction, {}},
-    {lmx::item_kind::element, lmx::value_kind::number, lmx::use_optional, lmx::ELMX_WS_COLLAPSE, "Vyr:Alpha", element_Alpha, LMX_OFFSET(ColorSpaceAdobeRGBType, m_Alpha, element, number), LMX_FLAG(ColorSpaceAdobeRGBType, m_isset_Alpha), lmx::position_of(k_ColorSpaceAdobeRGBType_elements, element_Alpha), lmx::position_of(k_ColorSpaceAdobeRGBType_elements, element_Alpha, 1), nullptr, &facets::Fraction, {}},
-    {lmx::item_kind::element, lmx::value_kind::text, lmx::use_required, lmx::ELMX_WS_PRESERVE, "Vyr:ColorDepth", element_ColorDepth, LMX_OFFSET(ColorSpaceAdobeRGBType, m_ColorDepth, element, text), LMX_FLAG(ColorSpaceAdobeRGBType, m_isset_ColorDepth), lmx::position_of(k_ColorSpaceAdobeRGBType_elements, element_ColorDepth), lmx::position_of(k_ColorSpaceAdobeRGBType_elements, element_ColorDepth, 1), nullptr, &facets::ColorDepthKind, {}},
+constinit const s_item ColorSpaceAdobeRGBType::k_items[] = {
+    {item_kind::attribute, value_kind::text, use_optional, ELMX_WS_PRESERVE, "Name", attribute_Name,
+     LMX_OFFSET(ColorSpaceAdobeRGBType, m_Name, attribute, text), LMX_FLAG(ColorSpaceAdobeRGBType, m_isset_Name), 0, 0, nullptr, nullptr, {}},
+    {item_kind::child, value_kind::none, use_required, ELMX_WS_PRESERVE, "Vyr:ColorSpaceSpecificationSpectrumTristimulus", element_ColorSpaceSpecificationSpectrumTristimulus,
+     LMX_OFFSET(ColorSpaceAdobeRGBType, m_ColorSpaceSpecificationSpectrumTristimulus, child, none), LMX_FLAG(ColorSpaceAdobeRGBType, m_isset_ColorSpaceSpecificationSpectrumTristimulus), position_of(k_ColorSpaceAdobeRGBType_elements, element_ColorSpaceSpecificationSpectrumTristimulus), position_of(k_ColorSpaceAdobeRGBType_elements, element_ColorSpaceSpecificationSpectrumTristimulus, 1), &ColorSpaceSpecificationSpectrumTristimulus::k_class, nullptr, {}},
+    {item_kind::element, value_kind::number, use_required, ELMX_WS_COLLAPSE, "Vyr:Red", element_Red,
+     LMX_OFFSET(ColorSpaceAdobeRGBType, m_Red, element, number), LMX_FLAG(ColorSpaceAdobeRGBType, m_isset_Red), position_of(k_ColorSpaceAdobeRGBType_elements, element_Red), position_of(k_ColorSpaceAdobeRGBType_elements, element_Red, 1), nullptr, &facets::Fraction, {}},
+    {item_kind::element, value_kind::number, use_required, ELMX_WS_COLLAPSE, "Vyr:Green", element_Green,
+     LMX_OFFSET(ColorSpaceAdobeRGBType, m_Green, element, number), LMX_FLAG(ColorSpaceAdobeRGBType, m_isset_Green), position_of(k_ColorSpaceAdobeRGBType_elements, element_Green), position_of(k_ColorSpaceAdobeRGBType_elements, element_Green, 1), nullptr, &facets::Fraction, {}},
+    {item_kind::element, value_kind::number, use_required, ELMX_WS_COLLAPSE, "Vyr:Blue", element_Blue,
+     LMX_OFFSET(ColorSpaceAdobeRGBType, m_Blue, element, number), LMX_FLAG(ColorSpaceAdobeRGBType, m_isset_Blue), position_of(k_ColorSpaceAdobeRGBType_elements, element_Blue), position_of(k_ColorSpaceAdobeRGBType_elements, element_Blue, 1), nullptr, &facets::Fraction, {}},
+    {item_kind::element, value_kind::number, use_optional, ELMX_WS_COLLAPSE, "Vyr:Alpha", element_Alpha,
+     LMX_OFFSET(ColorSpaceAdobeRGBType, m_Alpha, element, number), LMX_FLAG(ColorSpaceAdobeRGBType, m_isset_Alpha), position_of(k_ColorSpaceAdobeRGBType_elements, element_Alpha), position_of(k_ColorSpaceAdobeRGBType_elements, element_Alpha, 1), nullptr, &facets::Fraction, {}},
+    {item_kind::element, value_kind::text, use_required, ELMX_WS_PRESERVE, "Vyr:ColorDepth", element_ColorDepth,
+     LMX_OFFSET(ColorSpaceAdobeRGBType, m_ColorDepth, element, text), LMX_FLAG(ColorSpaceAdobeRGBType, m_isset_ColorDepth), position_of(k_ColorSpaceAdobeRGBType_elements, element_ColorDepth), position_of(k_ColorSpaceAdobeRGBType_elements, element_ColorDepth, 1), nullptr, &facets::ColorDepthKind, {}},
 };
-constinit const lmx::s_class ColorSpaceAdobeRGBType::k_class = {
+constinit const s_class ColorSpaceAdobeRGBType::k_class = {
     .name = "ColorSpaceAdobeRGBType",
     .qualified_name = "Vyr:ColorSpaceAdobeRGBType",
     .base = &ColorSpaceType::k_class,
-    .content = lmx::content_kind::children,
+    .content = content_kind::children,
     .may_be_empty = false,
     .ns_map = k_ns_map,
-    .nil_flag = lmx::k_no_flag,
-    .choice = lmx::k_no_flag,
+    .nil_flag = k_no_flag,
+    .choice = k_no_flag,
     .id = &ColorSpaceAdobeRGBType::id,
     .xsi_type = "Vyr:ColorSpaceAdobeRGBType",
     .attributes = std::span(k_items).first(std::size(k_ColorSpaceAdobeRGBType_attributes) - 1),
     .elements = std::span(k_items).subspan(std::size(k_ColorSpaceAdobeRGBType_attributes) - 1),
     .attribute_map = k_ColorSpaceAdobeRGBType_attributes,
     .element_map = k_ColorSpaceAdobeRGBType_elements,
-    .operations = &lmx::k_operations<ColorSpaceAdobeRGBType>,
+    .operations = &k_operations<ColorSpaceAdobeRGBType>,
 };
 
 ColorSpaceAdobeRGBType::ColorSpaceAdobeRGBType() = default;
@@ -245,46 +268,53 @@ bool ColorSpaceAdobeRGBType::setenum_ColorDepth(std::int32_t number) { return lm
 // ColorSpaceAdobeWideGamutRGBType
 
 namespace {
-constexpr lmx::s_event_map k_ColorSpaceAdobeWideGamutRGBType_attributes[] = {
-    lmx::attribute_event("Name", attribute_Name),
-    lmx::k_end_of_map,
+constexpr s_event_map k_ColorSpaceAdobeWideGamutRGBType_attributes[] = {
+    attribute_event("Name", attribute_Name),
+    k_end_of_map,
 };
-constexpr lmx::s_event_map k_ColorSpaceAdobeWideGamutRGBType_elements[] = {
-    lmx::element_event("ColorSpaceSpecificationSpectrumTristimulus", element_ColorSpaceSpecificationSpectrumTristimulus),
-    lmx::element_event("Red", element_Red),
-    lmx::element_event("Green", element_Green),
-    lmx::element_event("Blue", element_Blue),
-    lmx::element_event("Alpha", element_Alpha),
-    lmx::element_event("ColorDepth", element_ColorDepth),
-    lmx::k_end_of_map,
+constexpr s_event_map k_ColorSpaceAdobeWideGamutRGBType_elements[] = {
+    element_event("ColorSpaceSpecificationSpectrumTristimulus", element_ColorSpaceSpecificationSpectrumTristimulus),
+    element_event("Red", element_Red),
+    element_event("Green", element_Green),
+    element_event("Blue", element_Blue),
+    element_event("Alpha", element_Alpha),
+    element_event("ColorDepth", element_ColorDepth),
+    k_end_of_map,
 };
 }  // namespace
 
-constinit const lmx::s_item ColorSpaceAdobeWideGamutRGBType::k_items[] = {
-    {lmx::item_kind::attribute, lmx::value_kind::text, lmx::use_optional, lmx::ELMX_WS_PRESERVE, "Name", attribute_Name, LMX_OFFSET(ColorSpaceAdobeWideGamutRGBType, m_Name, attribute, text), LMX_FLAG(ColorSpaceAdobeWideGamutRGBType, m_isset_Name), 0, 0, nullptr, nullptr, {}},
-    {lmx::item_kind::child, lmx::value_kind::none, lmx::use_required, lmx::ELMX_WS_PRESERVE, "Vyr:ColorSpaceSpecificationSpectrumTristimulus", element_ColorSpaceSpecificationSpectrumTristimulus, LMX_OFFSET(ColorSpaceAdobeWideGamutRGBType, m_ColorSpaceSpecificationSpectrumTristimulus, child, none), LMX_FLAG(ColorSpaceAdobeWideGamutRGBType, m_isset_ColorSpaceSpecificationSpectrumTristimulus), lmx::position_of(k_ColorSpaceAdobeWideGamutRGBType_elements, element_ColorSpaceSpecificationSpectrumTristimulus), lmx::position_of(k_ColorSpaceAdobeWideGamutRGBType_elements, element_ColorSpaceSpecificationSpectrumTristimulus, 1), &ColorSpaceSpecificationSpectrumTristimulus::k_class, nullptr, {}},
-    {lmx::item_kind::element, lmx::value_kind::number, lmx::use_required, lmx::ELMX_WS_COLLAPSE, "Vyr:Red", element_Red, LMX_OFFSET(ColorSpaceAdobeWideGamutRGBType, m_Red, element, number), LMX_FLAG(ColorSpaceAdobeWideGamutRGBType, m_isset_Red), lmx::position_of(k_ColorSpaceAdobeWideGamutRGBType_elements, element_Red), lmx::position_of(k_ColorSpaceAdobeWideGamutRGBType_elements, element_Red, 1), nullptr, &facets::Fraction, {}},
-    {lmx::item_kind::element, lmx::value_kind::number, lmx::use_required, lmx::ELMX_WS_COLLAPSE, "Vyr:Green", element_Green, LMX_OFFSET(ColorSpaceAdobeWideGamutRGBType, m_Green, element, number), LMX_FLAG(ColorSpaceAdobeWideGamutRGBType, m_isset_Green), lmx::position_of(k_ColorSpaceAdobeWideGamutRGBType_elements, element_Green), lmx::position_of(k_ColorSpaceAdobeWideGamutRGBType_elements, element_Green, 1), nullptr, &facets::Fraction, {}},
-    {lmx::item_kind::element, lmx::value_kind::number, lmx::use_required, lmx::ELMX_WS_COLLAPSE, "Vyr:Blue", element_Blue, LMX_OFFSET(ColorSpaceAdobeWideGamutRGBType, m_Blue, element, number), LMX_FLAG(ColorSpaceAdobeWideGamutRGBType, m_isset_Blue), lmx::position_of(k_ColorSpaceAdobeWideGamutRGBType_elements, element_Blue), lmx::position_of(k_ColorSpaceAdobeWideGamutRGBType_elements, element_Blue, 1), nullptr, &facets::Fraction, {}},
-    {lmx::item_kind::element, lmx::value_kind::number, lmx::use_optional, lmx::ELMX_WS_COLLAPSE, "Vyr:Alpha", element_Alpha, LMX_OFFSET(ColorSpaceAdobeWideGamutRGBType, m_Alpha, element, number), LMX_FLAG(ColorSpaceAdobeWideGamutRGBType, m_isset_Alpha), lmx::position_of(k_ColorSpaceAdobeWideGamutRGBType_elements, element_Alpha), lmx::position_of(k_ColorSpaceAdobeWideGamutRGBType_elements, element_Alpha, 1), nullptr, &facets::Fraction, {}},
-    {lmx::item_kind::element, lmx::value_kind::text, lmx::use_required, lmx::ELMX_WS_PRESERVE, "Vyr:ColorDepth", element_ColorDepth, LMX_OFFSET(ColorSpaceAdobeWideGamutRGBType, m_ColorDepth, element, text), LMX_FLAG(ColorSpaceAdobeWideGamutRGBType, m_isset_ColorDepth), lmx::position_of(k_ColorSpaceAdobeWideGamutRGBType_elements, element_ColorDepth), lmx::position_of(k_ColorSpaceAdobeWideGamutRGBType_elements, element_ColorDepth, 1), nullptr, &facets::ColorDepthKind, {}},
+constinit const s_item ColorSpaceAdobeWideGamutRGBType::k_items[] = {
+    {item_kind::attribute, value_kind::text, use_optional, ELMX_WS_PRESERVE, "Name", attribute_Name,
+     LMX_OFFSET(ColorSpaceAdobeWideGamutRGBType, m_Name, attribute, text), LMX_FLAG(ColorSpaceAdobeWideGamutRGBType, m_isset_Name), 0, 0, nullptr, nullptr, {}},
+    {item_kind::child, value_kind::none, use_required, ELMX_WS_PRESERVE, "Vyr:ColorSpaceSpecificationSpectrumTristimulus", element_ColorSpaceSpecificationSpectrumTristimulus,
+     LMX_OFFSET(ColorSpaceAdobeWideGamutRGBType, m_ColorSpaceSpecificationSpectrumTristimulus, child, none), LMX_FLAG(ColorSpaceAdobeWideGamutRGBType, m_isset_ColorSpaceSpecificationSpectrumTristimulus), position_of(k_ColorSpaceAdobeWideGamutRGBType_elements, element_ColorSpaceSpecificationSpectrumTristimulus), position_of(k_ColorSpaceAdobeWideGamutRGBType_elements, element_ColorSpaceSpecificationSpectrumTristimulus, 1), &ColorSpaceSpecificationSpectrumTristimulus::k_class, nullptr, {}},
+    {item_kind::element, value_kind::number, use_required, ELMX_WS_COLLAPSE, "Vyr:Red", element_Red,
+     LMX_OFFSET(ColorSpaceAdobeWideGamutRGBType, m_Red, element, number), LMX_FLAG(ColorSpaceAdobeWideGamutRGBType, m_isset_Red), position_of(k_ColorSpaceAdobeWideGamutRGBType_elements, element_Red), position_of(k_ColorSpaceAdobeWideGamutRGBType_elements, element_Red, 1), nullptr, &facets::Fraction, {}},
+    {item_kind::element, value_kind::number, use_required, ELMX_WS_COLLAPSE, "Vyr:Green", element_Green,
+     LMX_OFFSET(ColorSpaceAdobeWideGamutRGBType, m_Green, element, number), LMX_FLAG(ColorSpaceAdobeWideGamutRGBType, m_isset_Green), position_of(k_ColorSpaceAdobeWideGamutRGBType_elements, element_Green), position_of(k_ColorSpaceAdobeWideGamutRGBType_elements, element_Green, 1), nullptr, &facets::Fraction, {}},
+    {item_kind::element, value_kind::number, use_required, ELMX_WS_COLLAPSE, "Vyr:Blue", element_Blue,
+     LMX_OFFSET(ColorSpaceAdobeWideGamutRGBType, m_Blue, element, number), LMX_FLAG(ColorSpaceAdobeWideGamutRGBType, m_isset_Blue), position_of(k_ColorSpaceAdobeWideGamutRGBType_elements, element_Blue), position_of(k_ColorSpaceAdobeWideGamutRGBType_elements, element_Blue, 1), nullptr, &facets::Fraction, {}},
+    {item_kind::element, value_kind::number, use_optional, ELMX_WS_COLLAPSE, "Vyr:Alpha", element_Alpha,
+     LMX_OFFSET(ColorSpaceAdobeWideGamutRGBType, m_Alpha, element, number), LMX_FLAG(ColorSpaceAdobeWideGamutRGBType, m_isset_Alpha), position_of(k_ColorSpaceAdobeWideGamutRGBType_elements, element_Alpha), position_of(k_ColorSpaceAdobeWideGamutRGBType_elements, element_Alpha, 1), nullptr, &facets::Fraction, {}},
+    {item_kind::element, value_kind::text, use_required, ELMX_WS_PRESERVE, "Vyr:ColorDepth", element_ColorDepth,
+     LMX_OFFSET(ColorSpaceAdobeWideGamutRGBType, m_ColorDepth, element, text), LMX_FLAG(ColorSpaceAdobeWideGamutRGBType, m_isset_ColorDepth), position_of(k_ColorSpaceAdobeWideGamutRGBType_elements, element_ColorDepth), position_of(k_ColorSpaceAdobeWideGamutRGBType_elements, element_ColorDepth, 1), nullptr, &facets::ColorDepthKind, {}},
 };
-constinit const lmx::s_class ColorSpaceAdobeWideGamutRGBType::k_class = {
+constinit const s_class ColorSpaceAdobeWideGamutRGBType::k_class = {
     .name = "ColorSpaceAdobeWideGamutRGBType",
     .qualified_name = "Vyr:ColorSpaceAdobeWideGamutRGBType",
     .base = &ColorSpaceType::k_class,
-    .content = lmx::content_kind::children,
+    .content = content_kind::children,
     .may_be_empty = false,
     .ns_map = k_ns_map,
-    .nil_flag = lmx::k_no_flag,
-    .choice = lmx::k_no_flag,
+    .nil_flag = k_no_flag,
+    .choice = k_no_flag,
     .id = &ColorSpaceAdobeWideGamutRGBType::id,
     .xsi_type = "Vyr:ColorSpaceAdobeWideGamutRGBType",
     .attributes = std::span(k_items).first(std::size(k_ColorSpaceAdobeWideGamutRGBType_attributes) - 1),
     .elements = std::span(k_items).subspan(std::size(k_ColorSpaceAdobeWideGamutRGBType_attributes) - 1),
     .attribute_map = k_ColorSpaceAdobeWideGamutRGBType_attributes,
     .element_map = k_ColorSpaceAdobeWideGamutRGBType_elements,
-    .operations = &lmx::k_operations<ColorSpaceAdobeWideGamutRGBType>,
+    .operations = &k_operations<ColorSpaceAdobeWideGamutRGBType>,
 };
 
 ColorSpaceAdobeWideGamutRGBType::ColorSpaceAdobeWideGamutRGBType() = default;
@@ -319,50 +349,57 @@ bool ColorSpaceAdobeWideGamutRGBType::setenum_ColorDepth(std::int32_t number) { 
 // ColorSpaceCMYKType
 
 namespace {
-constexpr lmx::s_event_map k_ColorSpaceCMYKType_attributes[] = {
-    lmx::attribute_event("Name", attribute_Name),
-    lmx::k_end_of_map,
+constexpr s_event_map k_ColorSpaceCMYKType_attributes[] = {
+    attribute_event("Name", attribute_Name),
+    k_end_of_map,
 };
-constexpr lmx::s_event_map k_ColorSpaceCMYKType_elements[] = {
-    lmx::element_event("ColorSpaceSpecificationSpectrumGeneric", element_ColorSpaceSpecificationSpectrumGeneric),
-    lmx::element_event("Cyan", element_Cyan),
-    lmx::element_event("Magenta", element_Magenta),
-    lmx::element_event("Yellow", element_Yellow),
-    lmx::element_event("Black", element_Black),
-    lmx::element_event("SpotColor", element_SpotColor),
-    lmx::k_end_of_map,
+constexpr s_event_map k_ColorSpaceCMYKType_elements[] = {
+    element_event("ColorSpaceSpecificationSpectrumGeneric", element_ColorSpaceSpecificationSpectrumGeneric),
+    element_event("Cyan", element_Cyan),
+    element_event("Magenta", element_Magenta),
+    element_event("Yellow", element_Yellow),
+    element_event("Black", element_Black),
+    element_event("SpotColor", element_SpotColor),
+    k_end_of_map,
 };
 }  // namespace
 
-constinit const lmx::s_item ColorSpaceCMYKType::k_items[] = {
-    {lmx::item_kind::attribute, lmx::value_kind::text, lmx::use_optional, lmx::ELMX_WS_PRESERVE, "Name", attribute_Name, LMX_OFFSET(ColorSpaceCMYKType, m_Name, attribute, text), LMX_FLAG(ColorSpaceCMYKType, m_isset_Name), 0, 0, nullptr, nullptr, {}},
-    {lmx::item_kind::child, lmx::value_kind::none, lmx::use_required, lmx::ELMX_WS_PRESERVE, "Vyr:ColorSpaceSpecificationSpectrumGeneric", element_ColorSpaceSpecificationSpectrumGeneric, LMX_OFFSET(ColorSpaceCMYKType, m_ColorSpaceSpecificationSpectrumGeneric, child, none), LMX_FLAG(ColorSpaceCMYKType, m_isset_ColorSpaceSpecificationSpectrumGeneric), lmx::position_of(k_ColorSpaceCMYKType_elements, element_ColorSpaceSpecificationSpectrumGeneric), lmx::position_of(k_ColorSpaceCMYKType_elements, element_ColorSpaceSpecificationSpectrumGeneric, 1), &ColorSpaceSpecificationSpectrumGeneric::k_class, nullptr, {}},
-    {lmx::item_kind::element, lmx::value_kind::number, lmx::use_required, lmx::ELMX_WS_COLLAPSE, "Vyr:Cyan", element_Cyan, LMX_OFFSET(ColorSpaceCMYKType, m_Cyan, element, number), LMX_FLAG(ColorSpaceCMYKType, m_isset_Cyan), lmx::position_of(k_ColorSpaceCMYKType_elements, element_Cyan), lmx::position_of(k_ColorSpaceCMYKType_elements, element_Cyan, 1), nullptr, &facets::Percentage, {}},
-    {lmx::item_kind::element, lmx::value_kind::number, lmx::use_required, lmx::ELMX_WS_COLLAPSE, "Vyr:Magenta", element_Magenta, LMX_OFFSET(ColorSpaceCMYKType, m_Magenta, element, number), LMX_FLAG(ColorSpaceCMYKType, m_isset_Magenta), lmx::position_of(k_ColorSpaceCMYKType_elements, element_Magenta), lmx::position_of(k_ColorSpaceCMYKType_elements, element_Magenta, 1), nullptr, &facets::Percentage, {}},
-    {lmx::item_kind::element, lmx::value_kind::number, lmx::use_required, lmx::ELMX_WS_COLLAPSE, "Vyr:Yellow", element_Yellow, LMX_OFFSET(ColorSpaceCMYKType, m_Yellow, element, number), LMX_FLAG(ColorSpaceCMYKType, m_isset_Yellow), lmx::position_of(k_ColorSpaceCMYKType_elements, element_Yellow), lmx::position_of(k_ColorSpaceCMYKType_elements, element_Yellow, 1), nullptr, &facets::Percentage, {}},
-    {lmx::item_kind::element, lmx::value_kind::number, lmx::use_required, lmx::ELMX_WS_COLLAPSE, "Vyr:Black", element_Black, LMX_OFFSET(ColorSpaceCMYKType, m_Black, element, number), LMX_FLAG(ColorSpaceCMYKType, m_isset_Black), lmx::position_of(k_ColorSpaceCMYKType_elements, element_Black), lmx::position_of(k_ColorSpaceCMYKType_elements, element_Black, 1), nullptr, &facets::Percentage, {}},
-    {lmx::item_kind::child_list, lmx::value_kind::none, lmx::use_optional, lmx::ELMX_WS_PRESERVE, "Vyr:SpotColor", element_SpotColor, LMX_OFFSET(ColorSpaceCMYKType, m_SpotColor, child_list, none), lmx::k_no_flag, lmx::position_of(k_ColorSpaceCMYKType_elements, element_SpotColor), lmx::position_of(k_ColorSpaceCMYKType_elements, element_SpotColor, 1), &SpotColorType::k_class, nullptr, {}},
+constinit const s_item ColorSpaceCMYKType::k_items[] = {
+    {item_kind::attribute, value_kind::text, use_optional, ELMX_WS_PRESERVE, "Name", attribute_Name,
+     LMX_OFFSET(ColorSpaceCMYKType, m_Name, attribute, text), LMX_FLAG(ColorSpaceCMYKType, m_isset_Name), 0, 0, nullptr, nullptr, {}},
+    {item_kind::child, value_kind::none, use_required, ELMX_WS_PRESERVE, "Vyr:ColorSpaceSpecificationSpectrumGeneric", element_ColorSpaceSpecificationSpectrumGeneric,
+     LMX_OFFSET(ColorSpaceCMYKType, m_ColorSpaceSpecificationSpectrumGeneric, child, none), LMX_FLAG(ColorSpaceCMYKType, m_isset_ColorSpaceSpecificationSpectrumGeneric), position_of(k_ColorSpaceCMYKType_elements, element_ColorSpaceSpecificationSpectrumGeneric), position_of(k_ColorSpaceCMYKType_elements, element_ColorSpaceSpecificationSpectrumGeneric, 1), &ColorSpaceSpecificationSpectrumGeneric::k_class, nullptr, {}},
+    {item_kind::element, value_kind::number, use_required, ELMX_WS_COLLAPSE, "Vyr:Cyan", element_Cyan,
+     LMX_OFFSET(ColorSpaceCMYKType, m_Cyan, element, number), LMX_FLAG(ColorSpaceCMYKType, m_isset_Cyan), position_of(k_ColorSpaceCMYKType_elements, element_Cyan), position_of(k_ColorSpaceCMYKType_elements, element_Cyan, 1), nullptr, &facets::Percentage, {}},
+    {item_kind::element, value_kind::number, use_required, ELMX_WS_COLLAPSE, "Vyr:Magenta", element_Magenta,
+     LMX_OFFSET(ColorSpaceCMYKType, m_Magenta, element, number), LMX_FLAG(ColorSpaceCMYKType, m_isset_Magenta), position_of(k_ColorSpaceCMYKType_elements, element_Magenta), position_of(k_ColorSpaceCMYKType_elements, element_Magenta, 1), nullptr, &facets::Percentage, {}},
+    {item_kind::element, value_kind::number, use_required, ELMX_WS_COLLAPSE, "Vyr:Yellow", element_Yellow,
+     LMX_OFFSET(ColorSpaceCMYKType, m_Yellow, element, number), LMX_FLAG(ColorSpaceCMYKType, m_isset_Yellow), position_of(k_ColorSpaceCMYKType_elements, element_Yellow), position_of(k_ColorSpaceCMYKType_elements, element_Yellow, 1), nullptr, &facets::Percentage, {}},
+    {item_kind::element, value_kind::number, use_required, ELMX_WS_COLLAPSE, "Vyr:Black", element_Black,
+     LMX_OFFSET(ColorSpaceCMYKType, m_Black, element, number), LMX_FLAG(ColorSpaceCMYKType, m_isset_Black), position_of(k_ColorSpaceCMYKType_elements, element_Black), position_of(k_ColorSpaceCMYKType_elements, element_Black, 1), nullptr, &facets::Percentage, {}},
+    {item_kind::child_list, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:SpotColor", element_SpotColor,
+     LMX_OFFSET(ColorSpaceCMYKType, m_SpotColor, child_list, none), k_no_flag, position_of(k_ColorSpaceCMYKType_elements, element_SpotColor), position_of(k_ColorSpaceCMYKType_elements, element_SpotColor, 1), &SpotColorType::k_class, nullptr, {}},
 };
-constinit const lmx::s_factory_row ColorSpaceCMYKType::k_factory[] = {
+constinit const s_factory_row ColorSpaceCMYKType::k_factory[] = {
     {"ColorSpaceCMYKType", &ColorSpaceCMYKType::k_class},
     {"ColorSpaceCMYKPlusNType", &ColorSpaceCMYKPlusNType::k_class},
 };
-constinit const lmx::s_class ColorSpaceCMYKType::k_class = {
+constinit const s_class ColorSpaceCMYKType::k_class = {
     .name = "ColorSpaceCMYKType",
     .qualified_name = "Vyr:ColorSpaceCMYKType",
     .base = &ColorSpaceType::k_class,
-    .content = lmx::content_kind::children,
+    .content = content_kind::children,
     .may_be_empty = false,
     .ns_map = k_ns_map,
-    .nil_flag = lmx::k_no_flag,
-    .choice = lmx::k_no_flag,
+    .nil_flag = k_no_flag,
+    .choice = k_no_flag,
     .id = &ColorSpaceCMYKType::id,
     .xsi_type = "Vyr:ColorSpaceCMYKType",
     .attributes = std::span(k_items).first(std::size(k_ColorSpaceCMYKType_attributes) - 1),
     .elements = std::span(k_items).subspan(std::size(k_ColorSpaceCMYKType_attributes) - 1),
     .attribute_map = k_ColorSpaceCMYKType_attributes,
     .element_map = k_ColorSpaceCMYKType_elements,
-    .operations = &lmx::k_operations<ColorSpaceCMYKType>,
+    .operations = &k_operations<ColorSpaceCMYKType>,
 };
 
 ColorSpaceCMYKType::ColorSpaceCMYKType() = default;
@@ -401,33 +438,35 @@ void ColorSpaceCMYKType::clear_SpotColor() { m_SpotColor.clear(); }
 // ColorSpaceCMYKPlusNType
 
 namespace {
-constexpr lmx::s_event_map k_ColorSpaceCMYKPlusNType_elements[] = {
-    lmx::element_event("ColorSpaceName", element_ColorSpaceName),
-    lmx::element_event("Color", element_Color),
-    lmx::k_end_of_map,
+constexpr s_event_map k_ColorSpaceCMYKPlusNType_elements[] = {
+    element_event("ColorSpaceName", element_ColorSpaceName),
+    element_event("Color", element_Color),
+    k_end_of_map,
 };
 }  // namespace
 
-constinit const lmx::s_item ColorSpaceCMYKPlusNType::k_items[] = {
-    {lmx::item_kind::element, lmx::value_kind::text, lmx::use_optional, lmx::ELMX_WS_PRESERVE, "Vyr:ColorSpaceName", element_ColorSpaceName, LMX_OFFSET(ColorSpaceCMYKPlusNType, m_ColorSpaceName, element, text), LMX_FLAG(ColorSpaceCMYKPlusNType, m_isset_ColorSpaceName), lmx::position_of(k_ColorSpaceCMYKPlusNType_elements, element_ColorSpaceName), lmx::position_of(k_ColorSpaceCMYKPlusNType_elements, element_ColorSpaceName, 1), nullptr, nullptr, {}},
-    {lmx::item_kind::child_list, lmx::value_kind::none, lmx::use_demanded | lmx::use_asked, lmx::ELMX_WS_PRESERVE, "Vyr:Color", element_Color, LMX_OFFSET(ColorSpaceCMYKPlusNType, m_Color, child_list, none), lmx::k_no_flag, lmx::position_of(k_ColorSpaceCMYKPlusNType_elements, element_Color), lmx::position_of(k_ColorSpaceCMYKPlusNType_elements, element_Color, 1), &Color::k_class, nullptr, {}},
+constinit const s_item ColorSpaceCMYKPlusNType::k_items[] = {
+    {item_kind::element, value_kind::text, use_optional, ELMX_WS_PRESERVE, "Vyr:ColorSpaceName", element_ColorSpaceName,
+     LMX_OFFSET(ColorSpaceCMYKPlusNType, m_ColorSpaceName, element, text), LMX_FLAG(ColorSpaceCMYKPlusNType, m_isset_ColorSpaceName), position_of(k_ColorSpaceCMYKPlusNType_elements, element_ColorSpaceName), position_of(k_ColorSpaceCMYKPlusNType_elements, element_ColorSpaceName, 1), nullptr, nullptr, {}},
+    {item_kind::child_list, value_kind::none, use_demanded | use_asked, ELMX_WS_PRESERVE, "Vyr:Color", element_Color,
+     LMX_OFFSET(ColorSpaceCMYKPlusNType, m_Color, child_list, none), k_no_flag, position_of(k_ColorSpaceCMYKPlusNType_elements, element_Color), position_of(k_ColorSpaceCMYKPlusNType_elements, element_Color, 1), &Color::k_class, nullptr, {}},
 };
-constinit const lmx::s_class ColorSpaceCMYKPlusNType::k_class = {
+constinit const s_class ColorSpaceCMYKPlusNType::k_class = {
     .name = "ColorSpaceCMYKPlusNType",
     .qualified_name = "Vyr:ColorSpaceCMYKPlusNType",
     .base = &ColorSpaceCMYKType::k_class,
-    .content = lmx::content_kind::children,
+    .content = content_kind::children,
     .may_be_empty = false,
     .ns_map = k_ns_map,
-    .nil_flag = lmx::k_no_flag,
-    .choice = lmx::k_no_flag,
+    .nil_flag = k_no_flag,
+    .choice = k_no_flag,
     .id = &ColorSpaceCMYKPlusNType::id,
     .xsi_type = "Vyr:ColorSpaceCMYKPlusNType",
-    .attributes = std::span(k_items).first(std::size(lmx::k_no_events) - 1),
-    .elements = std::span(k_items).subspan(std::size(lmx::k_no_events) - 1),
-    .attribute_map = lmx::k_no_events,
+    .attributes = std::span(k_items).first(std::size(k_no_events) - 1),
+    .elements = std::span(k_items).subspan(std::size(k_no_events) - 1),
+    .attribute_map = k_no_events,
     .element_map = k_ColorSpaceCMYKPlusNType_elements,
-    .operations = &lmx::k_operations<ColorSpaceCMYKPlusNType>,
+    .operations = &k_operations<ColorSpaceCMYKPlusNType>,
 };
 
 ColorSpaceCMYKPlusNType::ColorSpaceCMYKPlusNType() = default;
@@ -460,33 +499,35 @@ void ColorSpaceCMYKPlusNType::clear_Color() { m_Color.clear(); }
 // Color
 
 namespace {
-constexpr lmx::s_event_map k_Color_elements[] = {
-    lmx::element_event("Name", element_Name),
-    lmx::element_event("Value", element_Value),
-    lmx::k_end_of_map,
+constexpr s_event_map k_Color_elements[] = {
+    element_event("Name", element_Name),
+    element_event("Value", element_Value),
+    k_end_of_map,
 };
 }  // namespace
 
-constinit const lmx::s_item Color::k_items[] = {
-    {lmx::item_kind::element, lmx::value_kind::text, lmx::use_required, lmx::ELMX_WS_PRESERVE, "Vyr:Name", element_Name, LMX_OFFSET(Color, m_Name, element, text), LMX_FLAG(Color, m_isset_Name), lmx::position_of(k_Color_elements, element_Name), lmx::position_of(k_Color_elements, element_Name, 1), nullptr, nullptr, {}},
-    {lmx::item_kind::element, lmx::value_kind::number, lmx::use_required, lmx::ELMX_WS_COLLAPSE, "Vyr:Value", element_Value, LMX_OFFSET(Color, m_Value, element, number), LMX_FLAG(Color, m_isset_Value), lmx::position_of(k_Color_elements, element_Value), lmx::position_of(k_Color_elements, element_Value, 1), nullptr, nullptr, {}},
+constinit const s_item Color::k_items[] = {
+    {item_kind::element, value_kind::text, use_required, ELMX_WS_PRESERVE, "Vyr:Name", element_Name,
+     LMX_OFFSET(Color, m_Name, element, text), LMX_FLAG(Color, m_isset_Name), position_of(k_Color_elements, element_Name), position_of(k_Color_elements, element_Name, 1), nullptr, nullptr, {}},
+    {item_kind::element, value_kind::number, use_required, ELMX_WS_COLLAPSE, "Vyr:Value", element_Value,
+     LMX_OFFSET(Color, m_Value, element, number), LMX_FLAG(Color, m_isset_Value), position_of(k_Color_elements, element_Value), position_of(k_Color_elements, element_Value, 1), nullptr, nullptr, {}},
 };
-constinit const lmx::s_class Color::k_class = {
+constinit const s_class Color::k_class = {
     .name = "Color",
     .qualified_name = "Vyr:Color",
     .base = nullptr,
-    .content = lmx::content_kind::children,
+    .content = content_kind::children,
     .may_be_empty = false,
     .ns_map = nullptr,
-    .nil_flag = lmx::k_no_flag,
-    .choice = lmx::k_no_flag,
+    .nil_flag = k_no_flag,
+    .choice = k_no_flag,
     .id = nullptr,
     .xsi_type = nullptr,
-    .attributes = std::span(k_items).first(std::size(lmx::k_no_events) - 1),
-    .elements = std::span(k_items).subspan(std::size(lmx::k_no_events) - 1),
-    .attribute_map = lmx::k_no_events,
+    .attributes = std::span(k_items).first(std::size(k_no_events) - 1),
+    .elements = std::span(k_items).subspan(std::size(k_no_events) - 1),
+    .attribute_map = k_no_events,
     .element_map = k_Color_elements,
-    .operations = &lmx::k_operations<Color>,
+    .operations = &k_operations<Color>,
 };
 
 Color::Color() = default;
@@ -509,50 +550,59 @@ lmx::elmx_error Color::set_Value(double value) { return lmx::set_item(k_class, k
 // ColorSpaceTINTORAOctavanticType
 
 namespace {
-constexpr lmx::s_event_map k_ColorSpaceTINTORAOctavanticType_attributes[] = {
-    lmx::attribute_event("Name", attribute_Name),
-    lmx::k_end_of_map,
+constexpr s_event_map k_ColorSpaceTINTORAOctavanticType_attributes[] = {
+    attribute_event("Name", attribute_Name),
+    k_end_of_map,
 };
-constexpr lmx::s_event_map k_ColorSpaceTINTORAOctavanticType_elements[] = {
-    lmx::element_event("ColorSpaceSpecificationSpectrumGeneric", element_ColorSpaceSpecificationSpectrumGeneric),
-    lmx::element_event("Cyan", element_Cyan),
-    lmx::element_event("Magenta", element_Magenta),
-    lmx::element_event("Yellow", element_Yellow),
-    lmx::element_event("Black", element_Black),
-    lmx::element_event("Orange", element_Orange),
-    lmx::element_event("Green", element_Green),
-    lmx::element_event("SpotColor", element_SpotColor),
-    lmx::k_end_of_map,
+constexpr s_event_map k_ColorSpaceTINTORAOctavanticType_elements[] = {
+    element_event("ColorSpaceSpecificationSpectrumGeneric", element_ColorSpaceSpecificationSpectrumGeneric),
+    element_event("Cyan", element_Cyan),
+    element_event("Magenta", element_Magenta),
+    element_event("Yellow", element_Yellow),
+    element_event("Black", element_Black),
+    element_event("Orange", element_Orange),
+    element_event("Green", element_Green),
+    element_event("SpotColor", element_SpotColor),
+    k_end_of_map,
 };
 }  // namespace
 
-constinit const lmx::s_item ColorSpaceTINTORAOctavanticType::k_items[] = {
-    {lmx::item_kind::attribute, lmx::value_kind::text, lmx::use_optional, lmx::ELMX_WS_PRESERVE, "Name", attribute_Name, LMX_OFFSET(ColorSpaceTINTORAOctavanticType, m_Name, attribute, text), LMX_FLAG(ColorSpaceTINTORAOctavanticType, m_isset_Name), 0, 0, nullptr, nullptr, {}},
-    {lmx::item_kind::child, lmx::value_kind::none, lmx::use_required, lmx::ELMX_WS_PRESERVE, "Vyr:ColorSpaceSpecificationSpectrumGeneric", element_ColorSpaceSpecificationSpectrumGeneric, LMX_OFFSET(ColorSpaceTINTORAOctavanticType, m_ColorSpaceSpecificationSpectrumGeneric, child, none), LMX_FLAG(ColorSpaceTINTORAOctavanticType, m_isset_ColorSpaceSpecificationSpectrumGeneric), lmx::position_of(k_ColorSpaceTINTORAOctavanticType_elements, element_ColorSpaceSpecificationSpectrumGeneric), lmx::position_of(k_ColorSpaceTINTORAOctavanticType_elements, element_ColorSpaceSpecificationSpectrumGeneric, 1), &ColorSpaceSpecificationSpectrumGeneric::k_class, nullptr, {}},
-    {lmx::item_kind::element, lmx::value_kind::number, lmx::use_required, lmx::ELMX_WS_COLLAPSE, "Vyr:Cyan", element_Cyan, LMX_OFFSET(ColorSpaceTINTORAOctavanticType, m_Cyan, element, number), LMX_FLAG(ColorSpaceTINTORAOctavanticType, m_isset_Cyan), lmx::position_of(k_ColorSpaceTINTORAOctavanticType_elements, element_Cyan), lmx::position_of(k_ColorSpaceTINTORAOctavanticType_elements, element_Cyan, 1), nullptr, &facets::Percentage, {}},
-    {lmx::item_kind::element, lmx::value_kind::number, lmx::use_required, lmx::ELMX_WS_COLLAPSE, "Vyr:Magenta", element_Magenta, LMX_OFFSET(ColorSpaceTINTORAOctavanticType, m_Magenta, element, number), LMX_FLAG(ColorSpaceTINTORAOctavanticType, m_isset_Magenta), lmx::position_of(k_ColorSpaceTINTORAOctavanticType_elements, element_Magenta), lmx::position_of(k_ColorSpaceTINTORAOctavanticType_elements, element_Magenta, 1), nullptr, &facets::Percentage, {}},
-    {lmx::item_kind::element, lmx::value_kind::number, lmx::use_required, lmx::ELMX_WS_COLLAPSE, "Vyr:Yellow", element_Yellow, LMX_OFFSET(ColorSpaceTINTORAOctavanticType, m_Yellow, element, number), LMX_FLAG(ColorSpaceTINTORAOctavanticType, m_isset_Yellow), lmx::position_of(k_ColorSpaceTINTORAOctavanticType_elements, element_Yellow), lmx::position_of(k_ColorSpaceTINTORAOctavanticType_elements, element_Yellow, 1), nullptr, &facets::Percentage, {}},
-    {lmx::item_kind::element, lmx::value_kind::number, lmx::use_required, lmx::ELMX_WS_COLLAPSE, "Vyr:Black", element_Black, LMX_OFFSET(ColorSpaceTINTORAOctavanticType, m_Black, element, number), LMX_FLAG(ColorSpaceTINTORAOctavanticType, m_isset_Black), lmx::position_of(k_ColorSpaceTINTORAOctavanticType_elements, element_Black), lmx::position_of(k_ColorSpaceTINTORAOctavanticType_elements, element_Black, 1), nullptr, &facets::Percentage, {}},
-    {lmx::item_kind::element, lmx::value_kind::number, lmx::use_required, lmx::ELMX_WS_COLLAPSE, "Vyr:Orange", element_Orange, LMX_OFFSET(ColorSpaceTINTORAOctavanticType, m_Orange, element, number), LMX_FLAG(ColorSpaceTINTORAOctavanticType, m_isset_Orange), lmx::position_of(k_ColorSpaceTINTORAOctavanticType_elements, element_Orange), lmx::position_of(k_ColorSpaceTINTORAOctavanticType_elements, element_Orange, 1), nullptr, &facets::Percentage, {}},
-    {lmx::item_kind::element, lmx::value_kind::number, lmx::use_required, lmx::ELMX_WS_COLLAPSE, "Vyr:Green", element_Green, LMX_OFFSET(ColorSpaceTINTORAOctavanticType, m_Green, element, number), LMX_FLAG(ColorSpaceTINTORAOctavanticType, m_isset_Green), lmx::position_of(k_ColorSpaceTINTORAOctavanticType_elements, element_Green), lmx::position_of(k_ColorSpaceTINTORAOctavanticType_elements, element_Green, 1), nullptr, &facets::Percentage, {}},
-    {lmx::item_kind::child_list, lmx::value_kind::none, lmx::use_optional, lmx::ELMX_WS_PRESERVE, "Vyr:SpotColor", element_SpotColor, LMX_OFFSET(ColorSpaceTINTORAOctavanticType, m_SpotColor, child_list, none), lmx::k_no_flag, lmx::position_of(k_ColorSpaceTINTORAOctavanticType_elements, element_SpotColor), lmx::position_of(k_ColorSpaceTINTORAOctavanticType_elements, element_SpotColor, 1), &SpotColorType::k_class, nullptr, {}},
+constinit const s_item ColorSpaceTINTORAOctavanticType::k_items[] = {
+    {item_kind::attribute, value_kind::text, use_optional, ELMX_WS_PRESERVE, "Name", attribute_Name,
+     LMX_OFFSET(ColorSpaceTINTORAOctavanticType, m_Name, attribute, text), LMX_FLAG(ColorSpaceTINTORAOctavanticType, m_isset_Name), 0, 0, nullptr, nullptr, {}},
+    {item_kind::child, value_kind::none, use_required, ELMX_WS_PRESERVE, "Vyr:ColorSpaceSpecificationSpectrumGeneric", element_ColorSpaceSpecificationSpectrumGeneric,
+     LMX_OFFSET(ColorSpaceTINTORAOctavanticType, m_ColorSpaceSpecificationSpectrumGeneric, child, none), LMX_FLAG(ColorSpaceTINTORAOctavanticType, m_isset_ColorSpaceSpecificationSpectrumGeneric), position_of(k_ColorSpaceTINTORAOctavanticType_elements, element_ColorSpaceSpecificationSpectrumGeneric), position_of(k_ColorSpaceTINTORAOctavanticType_elements, element_ColorSpaceSpecificationSpectrumGeneric, 1), &ColorSpaceSpecificationSpectrumGeneric::k_class, nullptr, {}},
+    {item_kind::element, value_kind::number, use_required, ELMX_WS_COLLAPSE, "Vyr:Cyan", element_Cyan,
+     LMX_OFFSET(ColorSpaceTINTORAOctavanticType, m_Cyan, element, number), LMX_FLAG(ColorSpaceTINTORAOctavanticType, m_isset_Cyan), position_of(k_ColorSpaceTINTORAOctavanticType_elements, element_Cyan), position_of(k_ColorSpaceTINTORAOctavanticType_elements, element_Cyan, 1), nullptr, &facets::Percentage, {}},
+    {item_kind::element, value_kind::number, use_required, ELMX_WS_COLLAPSE, "Vyr:Magenta", element_Magenta,
+     LMX_OFFSET(ColorSpaceTINTORAOctavanticType, m_Magenta, element, number), LMX_FLAG(ColorSpaceTINTORAOctavanticType, m_isset_Magenta), position_of(k_ColorSpaceTINTORAOctavanticType_elements, element_Magenta), position_of(k_ColorSpaceTINTORAOctavanticType_elements, element_Magenta, 1), nullptr, &facets::Percentage, {}},
+    {item_kind::element, value_kind::number, use_required, ELMX_WS_COLLAPSE, "Vyr:Yellow", element_Yellow,
+     LMX_OFFSET(ColorSpaceTINTORAOctavanticType, m_Yellow, element, number), LMX_FLAG(ColorSpaceTINTORAOctavanticType, m_isset_Yellow), position_of(k_ColorSpaceTINTORAOctavanticType_elements, element_Yellow), position_of(k_ColorSpaceTINTORAOctavanticType_elements, element_Yellow, 1), nullptr, &facets::Percentage, {}},
+    {item_kind::element, value_kind::number, use_required, ELMX_WS_COLLAPSE, "Vyr:Black", element_Black,
+     LMX_OFFSET(ColorSpaceTINTORAOctavanticType, m_Black, element, number), LMX_FLAG(ColorSpaceTINTORAOctavanticType, m_isset_Black), position_of(k_ColorSpaceTINTORAOctavanticType_elements, element_Black), position_of(k_ColorSpaceTINTORAOctavanticType_elements, element_Black, 1), nullptr, &facets::Percentage, {}},
+    {item_kind::element, value_kind::number, use_required, ELMX_WS_COLLAPSE, "Vyr:Orange", element_Orange,
+     LMX_OFFSET(ColorSpaceTINTORAOctavanticType, m_Orange, element, number), LMX_FLAG(ColorSpaceTINTORAOctavanticType, m_isset_Orange), position_of(k_ColorSpaceTINTORAOctavanticType_elements, element_Orange), position_of(k_ColorSpaceTINTORAOctavanticType_elements, element_Orange, 1), nullptr, &facets::Percentage, {}},
+    {item_kind::element, value_kind::number, use_required, ELMX_WS_COLLAPSE, "Vyr:Green", element_Green,
+     LMX_OFFSET(ColorSpaceTINTORAOctavanticType, m_Green, element, number), LMX_FLAG(ColorSpaceTINTORAOctavanticType, m_isset_Green), position_of(k_ColorSpaceTINTORAOctavanticType_elements, element_Green), position_of(k_ColorSpaceTINTORAOctavanticType_elements, element_Green, 1), nullptr, &facets::Percentage, {}},
+    {item_kind::child_list, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:SpotColor", element_SpotColor,
+     LMX_OFFSET(ColorSpaceTINTORAOctavanticType, m_SpotColor, child_list, none), k_no_flag, position_of(k_ColorSpaceTINTORAOctavanticType_elements, element_SpotColor), position_of(k_ColorSpaceTINTORAOctavanticType_elements, element_SpotColor, 1), &SpotColorType::k_class, nullptr, {}},
 };
-constinit const lmx::s_class ColorSpaceTINTORAOctavanticType::k_class = {
+constinit const s_class ColorSpaceTINTORAOctavanticType::k_class = {
     .name = "ColorSpaceTINTORAOctavanticType",
     .qualified_name = "Vyr:ColorSpaceTINTORAOctavanticType",
     .base = &ColorSpaceType::k_class,
-    .content = lmx::content_kind::children,
+    .content = content_kind::children,
     .may_be_empty = false,
     .ns_map = k_ns_map,
-    .nil_flag = lmx::k_no_flag,
-    .choice = lmx::k_no_flag,
+    .nil_flag = k_no_flag,
+    .choice = k_no_flag,
     .id = &ColorSpaceTINTORAOctavanticType::id,
     .xsi_type = "Vyr:ColorSpaceTINTORAOctavanticType",
     .attributes = std::span(k_items).first(std::size(k_ColorSpaceTINTORAOctavanticType_attributes) - 1),
     .elements = std::span(k_items).subspan(std::size(k_ColorSpaceTINTORAOctavanticType_attributes) - 1),
     .attribute_map = k_ColorSpaceTINTORAOctavanticType_attributes,
     .element_map = k_ColorSpaceTINTORAOctavanticType_elements,
-    .operations = &lmx::k_operations<ColorSpaceTINTORAOctavanticType>,
+    .operations = &k_operations<ColorSpaceTINTORAOctavanticType>,
 };
 
 ColorSpaceTINTORAOctavanticType::ColorSpaceTINTORAOctavanticType() = default;
@@ -592,42 +642,47 @@ void ColorSpaceTINTORAOctavanticType::clear_SpotColor() { m_SpotColor.clear(); }
 // ColorSpaceHSLType
 
 namespace {
-constexpr lmx::s_event_map k_ColorSpaceHSLType_attributes[] = {
-    lmx::attribute_event("Name", attribute_Name),
-    lmx::k_end_of_map,
+constexpr s_event_map k_ColorSpaceHSLType_attributes[] = {
+    attribute_event("Name", attribute_Name),
+    k_end_of_map,
 };
-constexpr lmx::s_event_map k_ColorSpaceHSLType_elements[] = {
-    lmx::element_event("ColorSpaceSpecificationSpectrumGeneric", element_ColorSpaceSpecificationSpectrumGeneric),
-    lmx::element_event("Hue", element_Hue),
-    lmx::element_event("Saturation", element_Saturation),
-    lmx::element_event("Lightness", element_Lightness),
-    lmx::k_end_of_map,
+constexpr s_event_map k_ColorSpaceHSLType_elements[] = {
+    element_event("ColorSpaceSpecificationSpectrumGeneric", element_ColorSpaceSpecificationSpectrumGeneric),
+    element_event("Hue", element_Hue),
+    element_event("Saturation", element_Saturation),
+    element_event("Lightness", element_Lightness),
+    k_end_of_map,
 };
 }  // namespace
 
-constinit const lmx::s_item ColorSpaceHSLType::k_items[] = {
-    {lmx::item_kind::attribute, lmx::value_kind::text, lmx::use_optional, lmx::ELMX_WS_PRESERVE, "Name", attribute_Name, LMX_OFFSET(ColorSpaceHSLType, m_Name, attribute, text), LMX_FLAG(ColorSpaceHSLType, m_isset_Name), 0, 0, nullptr, nullptr, {}},
-    {lmx::item_kind::child, lmx::value_kind::none, lmx::use_required, lmx::ELMX_WS_PRESERVE, "Vyr:ColorSpaceSpecificationSpectrumGeneric", element_ColorSpaceSpecificationSpectrumGeneric, LMX_OFFSET(ColorSpaceHSLType, m_ColorSpaceSpecificationSpectrumGeneric, child, none), LMX_FLAG(ColorSpaceHSLType, m_isset_ColorSpaceSpecificationSpectrumGeneric), lmx::position_of(k_ColorSpaceHSLType_elements, element_ColorSpaceSpecificationSpectrumGeneric), lmx::position_of(k_ColorSpaceHSLType_elements, element_ColorSpaceSpecificationSpectrumGeneric, 1), &ColorSpaceSpecificationSpectrumGeneric::k_class, nullptr, {}},
-    {lmx::item_kind::element, lmx::value_kind::number, lmx::use_required, lmx::ELMX_WS_COLLAPSE, "Vyr:Hue", element_Hue, LMX_OFFSET(ColorSpaceHSLType, m_Hue, element, number), LMX_FLAG(ColorSpaceHSLType, m_isset_Hue), lmx::position_of(k_ColorSpaceHSLType_elements, element_Hue), lmx::position_of(k_ColorSpaceHSLType_elements, element_Hue, 1), nullptr, &facets::HueAngle, {}},
-    {lmx::item_kind::element, lmx::value_kind::number, lmx::use_required, lmx::ELMX_WS_COLLAPSE, "Vyr:Saturation", element_Saturation, LMX_OFFSET(ColorSpaceHSLType, m_Saturation, element, number), LMX_FLAG(ColorSpaceHSLType, m_isset_Saturation), lmx::position_of(k_ColorSpaceHSLType_elements, element_Saturation), lmx::position_of(k_ColorSpaceHSLType_elements, element_Saturation, 1), nullptr, &facets::Fraction, {}},
-    {lmx::item_kind::element, lmx::value_kind::number, lmx::use_required, lmx::ELMX_WS_COLLAPSE, "Vyr:Lightness", element_Lightness, LMX_OFFSET(ColorSpaceHSLType, m_Lightness, element, number), LMX_FLAG(ColorSpaceHSLType, m_isset_Lightness), lmx::position_of(k_ColorSpaceHSLType_elements, element_Lightness), lmx::position_of(k_ColorSpaceHSLType_elements, element_Lightness, 1), nullptr, &facets::Fraction, {}},
+constinit const s_item ColorSpaceHSLType::k_items[] = {
+    {item_kind::attribute, value_kind::text, use_optional, ELMX_WS_PRESERVE, "Name", attribute_Name,
+     LMX_OFFSET(ColorSpaceHSLType, m_Name, attribute, text), LMX_FLAG(ColorSpaceHSLType, m_isset_Name), 0, 0, nullptr, nullptr, {}},
+    {item_kind::child, value_kind::none, use_required, ELMX_WS_PRESERVE, "Vyr:ColorSpaceSpecificationSpectrumGeneric", element_ColorSpaceSpecificationSpectrumGeneric,
+     LMX_OFFSET(ColorSpaceHSLType, m_ColorSpaceSpecificationSpectrumGeneric, child, none), LMX_FLAG(ColorSpaceHSLType, m_isset_ColorSpaceSpecificationSpectrumGeneric), position_of(k_ColorSpaceHSLType_elements, element_ColorSpaceSpecificationSpectrumGeneric), position_of(k_ColorSpaceHSLType_elements, element_ColorSpaceSpecificationSpectrumGeneric, 1), &ColorSpaceSpecificationSpectrumGeneric::k_class, nullptr, {}},
+    {item_kind::element, value_kind::number, use_required, ELMX_WS_COLLAPSE, "Vyr:Hue", element_Hue,
+     LMX_OFFSET(ColorSpaceHSLType, m_Hue, element, number), LMX_FLAG(ColorSpaceHSLType, m_isset_Hue), position_of(k_ColorSpaceHSLType_elements, element_Hue), position_of(k_ColorSpaceHSLType_elements, element_Hue, 1), nullptr, &facets::HueAngle, {}},
+    {item_kind::element, value_kind::number, use_required, ELMX_WS_COLLAPSE, "Vyr:Saturation", element_Saturation,
+     LMX_OFFSET(ColorSpaceHSLType, m_Saturation, element, number), LMX_FLAG(ColorSpaceHSLType, m_isset_Saturation), position_of(k_ColorSpaceHSLType_elements, element_Saturation), position_of(k_ColorSpaceHSLType_elements, element_Saturation, 1), nullptr, &facets::Fraction, {}},
+    {item_kind::element, value_kind::number, use_required, ELMX_WS_COLLAPSE, "Vyr:Lightness", element_Lightness,
+     LMX_OFFSET(ColorSpaceHSLType, m_Lightness, element, number), LMX_FLAG(ColorSpaceHSLType, m_isset_Lightness), position_of(k_ColorSpaceHSLType_elements, element_Lightness), position_of(k_ColorSpaceHSLType_elements, element_Lightness, 1), nullptr, &facets::Fraction, {}},
 };
-constinit const lmx::s_class ColorSpaceHSLType::k_class = {
+constinit const s_class ColorSpaceHSLType::k_class = {
     .name = "ColorSpaceHSLType",
     .qualified_name = "Vyr:ColorSpaceHSLType",
     .base = &ColorSpaceType::k_class,
-    .content = lmx::content_kind::children,
+    .content = content_kind::children,
     .may_be_empty = false,
     .ns_map = k_ns_map,
-    .nil_flag = lmx::k_no_flag,
-    .choice = lmx::k_no_flag,
+    .nil_flag = k_no_flag,
+    .choice = k_no_flag,
     .id = &ColorSpaceHSLType::id,
     .xsi_type = "Vyr:ColorSpaceHSLType",
     .attributes = std::span(k_items).first(std::size(k_ColorSpaceHSLType_attributes) - 1),
     .elements = std::span(k_items).subspan(std::size(k_ColorSpaceHSLType_attributes) - 1),
     .attribute_map = k_ColorSpaceHSLType_attributes,
     .element_map = k_ColorSpaceHSLType_elements,
-    .operations = &lmx::k_operations<ColorSpaceHSLType>,
+    .operations = &k_operations<ColorSpaceHSLType>,
 };
 
 ColorSpaceHSLType::ColorSpaceHSLType() = default;
@@ -658,42 +713,47 @@ lmx::elmx_error ColorSpaceHSLType::set_Lightness(double value) { return lmx::set
 // ColorSpaceHSVType
 
 namespace {
-constexpr lmx::s_event_map k_ColorSpaceHSVType_attributes[] = {
-    lmx::attribute_event("Name", attribute_Name),
-    lmx::k_end_of_map,
+constexpr s_event_map k_ColorSpaceHSVType_attributes[] = {
+    attribute_event("Name", attribute_Name),
+    k_end_of_map,
 };
-constexpr lmx::s_event_map k_ColorSpaceHSVType_elements[] = {
-    lmx::element_event("ColorSpaceSpecificationSpectrumGeneric", element_ColorSpaceSpecificationSpectrumGeneric),
-    lmx::element_event("Hue", element_Hue),
-    lmx::element_event("Saturation", element_Saturation),
-    lmx::element_event("Value", element_Value),
-    lmx::k_end_of_map,
+constexpr s_event_map k_ColorSpaceHSVType_elements[] = {
+    element_event("ColorSpaceSpecificationSpectrumGeneric", element_ColorSpaceSpecificationSpectrumGeneric),
+    element_event("Hue", element_Hue),
+    element_event("Saturation", element_Saturation),
+    element_event("Value", element_Value),
+    k_end_of_map,
 };
 }  // namespace
 
-constinit const lmx::s_item ColorSpaceHSVType::k_items[] = {
-    {lmx::item_kind::attribute, lmx::value_kind::text, lmx::use_optional, lmx::ELMX_WS_PRESERVE, "Name", attribute_Name, LMX_OFFSET(ColorSpaceHSVType, m_Name, attribute, text), LMX_FLAG(ColorSpaceHSVType, m_isset_Name), 0, 0, nullptr, nullptr, {}},
-    {lmx::item_kind::child, lmx::value_kind::none, lmx::use_required, lmx::ELMX_WS_PRESERVE, "Vyr:ColorSpaceSpecificationSpectrumGeneric", element_ColorSpaceSpecificationSpectrumGeneric, LMX_OFFSET(ColorSpaceHSVType, m_ColorSpaceSpecificationSpectrumGeneric, child, none), LMX_FLAG(ColorSpaceHSVType, m_isset_ColorSpaceSpecificationSpectrumGeneric), lmx::position_of(k_ColorSpaceHSVType_elements, element_ColorSpaceSpecificationSpectrumGeneric), lmx::position_of(k_ColorSpaceHSVType_elements, element_ColorSpaceSpecificationSpectrumGeneric, 1), &ColorSpaceSpecificationSpectrumGeneric::k_class, nullptr, {}},
-    {lmx::item_kind::element, lmx::value_kind::number, lmx::use_required, lmx::ELMX_WS_COLLAPSE, "Vyr:Hue", element_Hue, LMX_OFFSET(ColorSpaceHSVType, m_Hue, element, number), LMX_FLAG(ColorSpaceHSVType, m_isset_Hue), lmx::position_of(k_ColorSpaceHSVType_elements, element_Hue), lmx::position_of(k_ColorSpaceHSVType_elements, element_Hue, 1), nullptr, &facets::HueAngle, {}},
-    {lmx::item_kind::element, lmx::value_kind::number, lmx::use_required, lmx::ELMX_WS_COLLAPSE, "Vyr:Saturation", element_Saturation, LMX_OFFSET(ColorSpaceHSVType, m_Saturation, element, number), LMX_FLAG(ColorSpaceHSVType, m_isset_Saturation), lmx::position_of(k_ColorSpaceHSVType_elements, element_Saturation), lmx::position_of(k_ColorSpaceHSVType_elements, element_Saturation, 1), nullptr, &facets::Fraction, {}},
-    {lmx::item_kind::element, lmx::value_kind::number, lmx::use_required, lmx::ELMX_WS_COLLAPSE, "Vyr:Value", element_Value, LMX_OFFSET(ColorSpaceHSVType, m_Value, element, number), LMX_FLAG(ColorSpaceHSVType, m_isset_Value), lmx::position_of(k_ColorSpaceHSVType_elements, element_Value), lmx::position_of(k_ColorSpaceHSVType_elements, element_Value, 1), nullptr, &facets::Fraction, {}},
+constinit const s_item ColorSpaceHSVType::k_items[] = {
+    {item_kind::attribute, value_kind::text, use_optional, ELMX_WS_PRESERVE, "Name", attribute_Name,
+     LMX_OFFSET(ColorSpaceHSVType, m_Name, attribute, text), LMX_FLAG(ColorSpaceHSVType, m_isset_Name), 0, 0, nullptr, nullptr, {}},
+    {item_kind::child, value_kind::none, use_required, ELMX_WS_PRESERVE, "Vyr:ColorSpaceSpecificationSpectrumGeneric", element_ColorSpaceSpecificationSpectrumGeneric,
+     LMX_OFFSET(ColorSpaceHSVType, m_ColorSpaceSpecificationSpectrumGeneric, child, none), LMX_FLAG(ColorSpaceHSVType, m_isset_ColorSpaceSpecificationSpectrumGeneric), position_of(k_ColorSpaceHSVType_elements, element_ColorSpaceSpecificationSpectrumGeneric), position_of(k_ColorSpaceHSVType_elements, element_ColorSpaceSpecificationSpectrumGeneric, 1), &ColorSpaceSpecificationSpectrumGeneric::k_class, nullptr, {}},
+    {item_kind::element, value_kind::number, use_required, ELMX_WS_COLLAPSE, "Vyr:Hue", element_Hue,
+     LMX_OFFSET(ColorSpaceHSVType, m_Hue, element, number), LMX_FLAG(ColorSpaceHSVType, m_isset_Hue), position_of(k_ColorSpaceHSVType_elements, element_Hue), position_of(k_ColorSpaceHSVType_elements, element_Hue, 1), nullptr, &facets::HueAngle, {}},
+    {item_kind::element, value_kind::number, use_required, ELMX_WS_COLLAPSE, "Vyr:Saturation", element_Saturation,
+     LMX_OFFSET(ColorSpaceHSVType, m_Saturation, element, number), LMX_FLAG(ColorSpaceHSVType, m_isset_Saturation), position_of(k_ColorSpaceHSVType_elements, element_Saturation), position_of(k_ColorSpaceHSVType_elements, element_Saturation, 1), nullptr, &facets::Fraction, {}},
+    {item_kind::element, value_kind::number, use_required, ELMX_WS_COLLAPSE, "Vyr:Value", element_Value,
+     LMX_OFFSET(ColorSpaceHSVType, m_Value, element, number), LMX_FLAG(ColorSpaceHSVType, m_isset_Value), position_of(k_ColorSpaceHSVType_elements, element_Value), position_of(k_ColorSpaceHSVType_elements, element_Value, 1), nullptr, &facets::Fraction, {}},
 };
-constinit const lmx::s_class ColorSpaceHSVType::k_class = {
+constinit const s_class ColorSpaceHSVType::k_class = {
     .name = "ColorSpaceHSVType",
     .qualified_name = "Vyr:ColorSpaceHSVType",
     .base = &ColorSpaceType::k_class,
-    .content = lmx::content_kind::children,
+    .content = content_kind::children,
     .may_be_empty = false,
     .ns_map = k_ns_map,
-    .nil_flag = lmx::k_no_flag,
-    .choice = lmx::k_no_flag,
+    .nil_flag = k_no_flag,
+    .choice = k_no_flag,
     .id = &ColorSpaceHSVType::id,
     .xsi_type = "Vyr:ColorSpaceHSVType",
     .attributes = std::span(k_items).first(std::size(k_ColorSpaceHSVType_attributes) - 1),
     .elements = std::span(k_items).subspan(std::size(k_ColorSpaceHSVType_attributes) - 1),
     .attribute_map = k_ColorSpaceHSVType_attributes,
     .element_map = k_ColorSpaceHSVType_elements,
-    .operations = &lmx::k_operations<ColorSpaceHSVType>,
+    .operations = &k_operations<ColorSpaceHSVType>,
 };
 
 ColorSpaceHSVType::ColorSpaceHSVType() = default;
@@ -724,42 +784,47 @@ lmx::elmx_error ColorSpaceHSVType::set_Value(double value) { return lmx::set_ite
 // ColorSpaceYUVType
 
 namespace {
-constexpr lmx::s_event_map k_ColorSpaceYUVType_attributes[] = {
-    lmx::attribute_event("Name", attribute_Name),
-    lmx::k_end_of_map,
+constexpr s_event_map k_ColorSpaceYUVType_attributes[] = {
+    attribute_event("Name", attribute_Name),
+    k_end_of_map,
 };
-constexpr lmx::s_event_map k_ColorSpaceYUVType_elements[] = {
-    lmx::element_event("ColorSpaceSpecificationSpectrumGeneric", element_ColorSpaceSpecificationSpectrumGeneric),
-    lmx::element_event("Y", element_Y),
-    lmx::element_event("U", element_U),
-    lmx::element_event("V", element_V),
-    lmx::k_end_of_map,
+constexpr s_event_map k_ColorSpaceYUVType_elements[] = {
+    element_event("ColorSpaceSpecificationSpectrumGeneric", element_ColorSpaceSpecificationSpectrumGeneric),
+    element_event("Y", element_Y),
+    element_event("U", element_U),
+    element_event("V", element_V),
+    k_end_of_map,
 };
 }  // namespace
 
-constinit const lmx::s_item ColorSpaceYUVType::k_items[] = {
-    {lmx::item_kind::attribute, lmx::value_kind::text, lmx::use_optional, lmx::ELMX_WS_PRESERVE, "Name", attribute_Name, LMX_OFFSET(ColorSpaceYUVType, m_Name, attribute, text), LMX_FLAG(ColorSpaceYUVType, m_isset_Name), 0, 0, nullptr, nullptr, {}},
-    {lmx::item_kind::child, lmx::value_kind::none, lmx::use_required, lmx::ELMX_WS_PRESERVE, "Vyr:ColorSpaceSpecificationSpectrumGeneric", element_ColorSpaceSpecificationSpectrumGeneric, LMX_OFFSET(ColorSpaceYUVType, m_ColorSpaceSpecificationSpectrumGeneric, child, none), LMX_FLAG(ColorSpaceYUVType, m_isset_ColorSpaceSpecificationSpectrumGeneric), lmx::position_of(k_ColorSpaceYUVType_elements, element_ColorSpaceSpecificationSpectrumGeneric), lmx::position_of(k_ColorSpaceYUVType_elements, element_ColorSpaceSpecificationSpectrumGeneric, 1), &ColorSpaceSpecificationSpectrumGeneric::k_class, nullptr, {}},
-    {lmx::item_kind::element, lmx::value_kind::number, lmx::use_required, lmx::ELMX_WS_COLLAPSE, "Vyr:Y", element_Y, LMX_OFFSET(ColorSpaceYUVType, m_Y, element, number), LMX_FLAG(ColorSpaceYUVType, m_isset_Y), lmx::position_of(k_ColorSpaceYUVType_elements, element_Y), lmx::position_of(k_ColorSpaceYUVType_elements, element_Y, 1), nullptr, &facets::Fraction, {}},
-    {lmx::item_kind::element, lmx::value_kind::number, lmx::use_required, lmx::ELMX_WS_COLLAPSE, "Vyr:U", element_U, LMX_OFFSET(ColorSpaceYUVType, m_U, element, number), LMX_FLAG(ColorSpaceYUVType, m_isset_U), lmx::position_of(k_ColorSpaceYUVType_elements, element_U), lmx::position_of(k_ColorSpaceYUVType_elements, element_U, 1), nullptr, &facets::YUVChromaU, {}},
-    {lmx::item_kind::element, lmx::value_kind::number, lmx::use_required, lmx::ELMX_WS_COLLAPSE, "Vyr:V", element_V, LMX_OFFSET(ColorSpaceYUVType, m_V, element, number), LMX_FLAG(ColorSpaceYUVType, m_isset_V), lmx::position_of(k_ColorSpaceYUVType_elements, element_V), lmx::position_of(k_ColorSpaceYUVType_elements, element_V, 1), nullptr, &facets::YUVChromaV, {}},
+constinit const s_item ColorSpaceYUVType::k_items[] = {
+    {item_kind::attribute, value_kind::text, use_optional, ELMX_WS_PRESERVE, "Name", attribute_Name,
+     LMX_OFFSET(ColorSpaceYUVType, m_Name, attribute, text), LMX_FLAG(ColorSpaceYUVType, m_isset_Name), 0, 0, nullptr, nullptr, {}},
+    {item_kind::child, value_kind::none, use_required, ELMX_WS_PRESERVE, "Vyr:ColorSpaceSpecificationSpectrumGeneric", element_ColorSpaceSpecificationSpectrumGeneric,
+     LMX_OFFSET(ColorSpaceYUVType, m_ColorSpaceSpecificationSpectrumGeneric, child, none), LMX_FLAG(ColorSpaceYUVType, m_isset_ColorSpaceSpecificationSpectrumGeneric), position_of(k_ColorSpaceYUVType_elements, element_ColorSpaceSpecificationSpectrumGeneric), position_of(k_ColorSpaceYUVType_elements, element_ColorSpaceSpecificationSpectrumGeneric, 1), &ColorSpaceSpecificationSpectrumGeneric::k_class, nullptr, {}},
+    {item_kind::element, value_kind::number, use_required, ELMX_WS_COLLAPSE, "Vyr:Y", element_Y,
+     LMX_OFFSET(ColorSpaceYUVType, m_Y, element, number), LMX_FLAG(ColorSpaceYUVType, m_isset_Y), position_of(k_ColorSpaceYUVType_elements, element_Y), position_of(k_ColorSpaceYUVType_elements, element_Y, 1), nullptr, &facets::Fraction, {}},
+    {item_kind::element, value_kind::number, use_required, ELMX_WS_COLLAPSE, "Vyr:U", element_U,
+     LMX_OFFSET(ColorSpaceYUVType, m_U, element, number), LMX_FLAG(ColorSpaceYUVType, m_isset_U), position_of(k_ColorSpaceYUVType_elements, element_U), position_of(k_ColorSpaceYUVType_elements, element_U, 1), nullptr, &facets::YUVChromaU, {}},
+    {item_kind::element, value_kind::number, use_required, ELMX_WS_COLLAPSE, "Vyr:V", element_V,
+     LMX_OFFSET(ColorSpaceYUVType, m_V, element, number), LMX_FLAG(ColorSpaceYUVType, m_isset_V), position_of(k_ColorSpaceYUVType_elements, element_V), position_of(k_ColorSpaceYUVType_elements, element_V, 1), nullptr, &facets::YUVChromaV, {}},
 };
-constinit const lmx::s_class ColorSpaceYUVType::k_class = {
+constinit const s_class ColorSpaceYUVType::k_class = {
     .name = "ColorSpaceYUVType",
     .qualified_name = "Vyr:ColorSpaceYUVType",
     .base = &ColorSpaceType::k_class,
-    .content = lmx::content_kind::children,
+    .content = content_kind::children,
     .may_be_empty = false,
     .ns_map = k_ns_map,
-    .nil_flag = lmx::k_no_flag,
-    .choice = lmx::k_no_flag,
+    .nil_flag = k_no_flag,
+    .choice = k_no_flag,
     .id = &ColorSpaceYUVType::id,
     .xsi_type = "Vyr:ColorSpaceYUVType",
     .attributes = std::span(k_items).first(std::size(k_ColorSpaceYUVType_attributes) - 1),
     .elements = std::span(k_items).subspan(std::size(k_ColorSpaceYUVType_attributes) - 1),
     .attribute_map = k_ColorSpaceYUVType_attributes,
     .element_map = k_ColorSpaceYUVType_elements,
-    .operations = &lmx::k_operations<ColorSpaceYUVType>,
+    .operations = &k_operations<ColorSpaceYUVType>,
 };
 
 ColorSpaceYUVType::ColorSpaceYUVType() = default;
@@ -790,42 +855,47 @@ lmx::elmx_error ColorSpaceYUVType::set_V(double value) { return lmx::set_item(k_
 // ColorSpaceYIQType
 
 namespace {
-constexpr lmx::s_event_map k_ColorSpaceYIQType_attributes[] = {
-    lmx::attribute_event("Name", attribute_Name),
-    lmx::k_end_of_map,
+constexpr s_event_map k_ColorSpaceYIQType_attributes[] = {
+    attribute_event("Name", attribute_Name),
+    k_end_of_map,
 };
-constexpr lmx::s_event_map k_ColorSpaceYIQType_elements[] = {
-    lmx::element_event("ColorSpaceSpecificationSpectrumGeneric", element_ColorSpaceSpecificationSpectrumGeneric),
-    lmx::element_event("Y", element_Y),
-    lmx::element_event("I", element_I),
-    lmx::element_event("Q", element_Q),
-    lmx::k_end_of_map,
+constexpr s_event_map k_ColorSpaceYIQType_elements[] = {
+    element_event("ColorSpaceSpecificationSpectrumGeneric", element_ColorSpaceSpecificationSpectrumGeneric),
+    element_event("Y", element_Y),
+    element_event("I", element_I),
+    element_event("Q", element_Q),
+    k_end_of_map,
 };
 }  // namespace
 
-constinit const lmx::s_item ColorSpaceYIQType::k_items[] = {
-    {lmx::item_kind::attribute, lmx::value_kind::text, lmx::use_optional, lmx::ELMX_WS_PRESERVE, "Name", attribute_Name, LMX_OFFSET(ColorSpaceYIQType, m_Name, attribute, text), LMX_FLAG(ColorSpaceYIQType, m_isset_Name), 0, 0, nullptr, nullptr, {}},
-    {lmx::item_kind::child, lmx::value_kind::none, lmx::use_required, lmx::ELMX_WS_PRESERVE, "Vyr:ColorSpaceSpecificationSpectrumGeneric", element_ColorSpaceSpecificationSpectrumGeneric, LMX_OFFSET(ColorSpaceYIQType, m_ColorSpaceSpecificationSpectrumGeneric, child, none), LMX_FLAG(ColorSpaceYIQType, m_isset_ColorSpaceSpecificationSpectrumGeneric), lmx::position_of(k_ColorSpaceYIQType_elements, element_ColorSpaceSpecificationSpectrumGeneric), lmx::position_of(k_ColorSpaceYIQType_elements, element_ColorSpaceSpecificationSpectrumGeneric, 1), &ColorSpaceSpecificationSpectrumGeneric::k_class, nullptr, {}},
-    {lmx::item_kind::element, lmx::value_kind::number, lmx::use_required, lmx::ELMX_WS_COLLAPSE, "Vyr:Y", element_Y, LMX_OFFSET(ColorSpaceYIQType, m_Y, element, number), LMX_FLAG(ColorSpaceYIQType, m_isset_Y), lmx::position_of(k_ColorSpaceYIQType_elements, element_Y), lmx::position_of(k_ColorSpaceYIQType_elements, element_Y, 1), nullptr, &facets::Fraction, {}},
-    {lmx::item_kind::element, lmx::value_kind::number, lmx::use_required, lmx::ELMX_WS_COLLAPSE, "Vyr:I", element_I, LMX_OFFSET(ColorSpaceYIQType, m_I, element, number), LMX_FLAG(ColorSpaceYIQType, m_isset_I), lmx::position_of(k_ColorSpaceYIQType_elements, element_I), lmx::position_of(k_ColorSpaceYIQType_elements, element_I, 1), nullptr, &facets::YIQInPhase, {}},
-    {lmx::item_kind::element, lmx::value_kind::number, lmx::use_required, lmx::ELMX_WS_COLLAPSE, "Vyr:Q", element_Q, LMX_OFFSET(ColorSpaceYIQType, m_Q, element, number), LMX_FLAG(ColorSpaceYIQType, m_isset_Q), lmx::position_of(k_ColorSpaceYIQType_elements, element_Q), lmx::position_of(k_ColorSpaceYIQType_elements, element_Q, 1), nullptr, &facets::YIQQuadrature, {}},
+constinit const s_item ColorSpaceYIQType::k_items[] = {
+    {item_kind::attribute, value_kind::text, use_optional, ELMX_WS_PRESERVE, "Name", attribute_Name,
+     LMX_OFFSET(ColorSpaceYIQType, m_Name, attribute, text), LMX_FLAG(ColorSpaceYIQType, m_isset_Name), 0, 0, nullptr, nullptr, {}},
+    {item_kind::child, value_kind::none, use_required, ELMX_WS_PRESERVE, "Vyr:ColorSpaceSpecificationSpectrumGeneric", element_ColorSpaceSpecificationSpectrumGeneric,
+     LMX_OFFSET(ColorSpaceYIQType, m_ColorSpaceSpecificationSpectrumGeneric, child, none), LMX_FLAG(ColorSpaceYIQType, m_isset_ColorSpaceSpecificationSpectrumGeneric), position_of(k_ColorSpaceYIQType_elements, element_ColorSpaceSpecificationSpectrumGeneric), position_of(k_ColorSpaceYIQType_elements, element_ColorSpaceSpecificationSpectrumGeneric, 1), &ColorSpaceSpecificationSpectrumGeneric::k_class, nullptr, {}},
+    {item_kind::element, value_kind::number, use_required, ELMX_WS_COLLAPSE, "Vyr:Y", element_Y,
+     LMX_OFFSET(ColorSpaceYIQType, m_Y, element, number), LMX_FLAG(ColorSpaceYIQType, m_isset_Y), position_of(k_ColorSpaceYIQType_elements, element_Y), position_of(k_ColorSpaceYIQType_elements, element_Y, 1), nullptr, &facets::Fraction, {}},
+    {item_kind::element, value_kind::number, use_required, ELMX_WS_COLLAPSE, "Vyr:I", element_I,
+     LMX_OFFSET(ColorSpaceYIQType, m_I, element, number), LMX_FLAG(ColorSpaceYIQType, m_isset_I), position_of(k_ColorSpaceYIQType_elements, element_I), position_of(k_ColorSpaceYIQType_elements, element_I, 1), nullptr, &facets::YIQInPhase, {}},
+    {item_kind::element, value_kind::number, use_required, ELMX_WS_COLLAPSE, "Vyr:Q", element_Q,
+     LMX_OFFSET(ColorSpaceYIQType, m_Q, element, number), LMX_FLAG(ColorSpaceYIQType, m_isset_Q), position_of(k_ColorSpaceYIQType_elements, element_Q), position_of(k_ColorSpaceYIQType_elements, element_Q, 1), nullptr, &facets::YIQQuadrature, {}},
 };
-constinit const lmx::s_class ColorSpaceYIQType::k_class = {
+constinit const s_class ColorSpaceYIQType::k_class = {
     .name = "ColorSpaceYIQType",
     .qualified_name = "Vyr:ColorSpaceYIQType",
     .base = &ColorSpaceType::k_class,
-    .content = lmx::content_kind::children,
+    .content = content_kind::children,
     .may_be_empty = false,
     .ns_map = k_ns_map,
-    .nil_flag = lmx::k_no_flag,
-    .choice = lmx::k_no_flag,
+    .nil_flag = k_no_flag,
+    .choice = k_no_flag,
     .id = &ColorSpaceYIQType::id,
     .xsi_type = "Vyr:ColorSpaceYIQType",
     .attributes = std::span(k_items).first(std::size(k_ColorSpaceYIQType_attributes) - 1),
     .elements = std::span(k_items).subspan(std::size(k_ColorSpaceYIQType_attributes) - 1),
     .attribute_map = k_ColorSpaceYIQType_attributes,
     .element_map = k_ColorSpaceYIQType_elements,
-    .operations = &lmx::k_operations<ColorSpaceYIQType>,
+    .operations = &k_operations<ColorSpaceYIQType>,
 };
 
 ColorSpaceYIQType::ColorSpaceYIQType() = default;
@@ -856,42 +926,47 @@ lmx::elmx_error ColorSpaceYIQType::set_Q(double value) { return lmx::set_item(k_
 // ColorSpaceYBRType
 
 namespace {
-constexpr lmx::s_event_map k_ColorSpaceYBRType_attributes[] = {
-    lmx::attribute_event("Name", attribute_Name),
-    lmx::k_end_of_map,
+constexpr s_event_map k_ColorSpaceYBRType_attributes[] = {
+    attribute_event("Name", attribute_Name),
+    k_end_of_map,
 };
-constexpr lmx::s_event_map k_ColorSpaceYBRType_elements[] = {
-    lmx::element_event("ColorSpaceSpecificationSpectrumGeneric", element_ColorSpaceSpecificationSpectrumGeneric),
-    lmx::element_event("Y", element_Y),
-    lmx::element_event("B", element_B),
-    lmx::element_event("R", element_R),
-    lmx::k_end_of_map,
+constexpr s_event_map k_ColorSpaceYBRType_elements[] = {
+    element_event("ColorSpaceSpecificationSpectrumGeneric", element_ColorSpaceSpecificationSpectrumGeneric),
+    element_event("Y", element_Y),
+    element_event("B", element_B),
+    element_event("R", element_R),
+    k_end_of_map,
 };
 }  // namespace
 
-constinit const lmx::s_item ColorSpaceYBRType::k_items[] = {
-    {lmx::item_kind::attribute, lmx::value_kind::text, lmx::use_optional, lmx::ELMX_WS_PRESERVE, "Name", attribute_Name, LMX_OFFSET(ColorSpaceYBRType, m_Name, attribute, text), LMX_FLAG(ColorSpaceYBRType, m_isset_Name), 0, 0, nullptr, nullptr, {}},
-    {lmx::item_kind::child, lmx::value_kind::none, lmx::use_required, lmx::ELMX_WS_PRESERVE, "Vyr:ColorSpaceSpecificationSpectrumGeneric", element_ColorSpaceSpecificationSpectrumGeneric, LMX_OFFSET(ColorSpaceYBRType, m_ColorSpaceSpecificationSpectrumGeneric, child, none), LMX_FLAG(ColorSpaceYBRType, m_isset_ColorSpaceSpecificationSpectrumGeneric), lmx::position_of(k_ColorSpaceYBRType_elements, element_ColorSpaceSpecificationSpectrumGeneric), lmx::position_of(k_ColorSpaceYBRType_elements, element_ColorSpaceSpecificationSpectrumGeneric, 1), &ColorSpaceSpecificationSpectrumGeneric::k_class, nullptr, {}},
-    {lmx::item_kind::element, lmx::value_kind::number, lmx::use_required, lmx::ELMX_WS_COLLAPSE, "Vyr:Y", element_Y, LMX_OFFSET(ColorSpaceYBRType, m_Y, element, number), LMX_FLAG(ColorSpaceYBRType, m_isset_Y), lmx::position_of(k_ColorSpaceYBRType_elements, element_Y), lmx::position_of(k_ColorSpaceYBRType_elements, element_Y, 1), nullptr, &facets::Fraction, {}},
-    {lmx::item_kind::element, lmx::value_kind::number, lmx::use_required, lmx::ELMX_WS_COLLAPSE, "Vyr:B", element_B, LMX_OFFSET(ColorSpaceYBRType, m_B, element, number), LMX_FLAG(ColorSpaceYBRType, m_isset_B), lmx::position_of(k_ColorSpaceYBRType_elements, element_B), lmx::position_of(k_ColorSpaceYBRType_elements, element_B, 1), nullptr, &facets::Fraction, {}},
-    {lmx::item_kind::element, lmx::value_kind::number, lmx::use_required, lmx::ELMX_WS_COLLAPSE, "Vyr:R", element_R, LMX_OFFSET(ColorSpaceYBRType, m_R, element, number), LMX_FLAG(ColorSpaceYBRType, m_isset_R), lmx::position_of(k_ColorSpaceYBRType_elements, element_R), lmx::position_of(k_ColorSpaceYBRType_elements, element_R, 1), nullptr, &facets::Fraction, {}},
+constinit const s_item ColorSpaceYBRType::k_items[] = {
+    {item_kind::attribute, value_kind::text, use_optional, ELMX_WS_PRESERVE, "Name", attribute_Name,
+     LMX_OFFSET(ColorSpaceYBRType, m_Name, attribute, text), LMX_FLAG(ColorSpaceYBRType, m_isset_Name), 0, 0, nullptr, nullptr, {}},
+    {item_kind::child, value_kind::none, use_required, ELMX_WS_PRESERVE, "Vyr:ColorSpaceSpecificationSpectrumGeneric", element_ColorSpaceSpecificationSpectrumGeneric,
+     LMX_OFFSET(ColorSpaceYBRType, m_ColorSpaceSpecificationSpectrumGeneric, child, none), LMX_FLAG(ColorSpaceYBRType, m_isset_ColorSpaceSpecificationSpectrumGeneric), position_of(k_ColorSpaceYBRType_elements, element_ColorSpaceSpecificationSpectrumGeneric), position_of(k_ColorSpaceYBRType_elements, element_ColorSpaceSpecificationSpectrumGeneric, 1), &ColorSpaceSpecificationSpectrumGeneric::k_class, nullptr, {}},
+    {item_kind::element, value_kind::number, use_required, ELMX_WS_COLLAPSE, "Vyr:Y", element_Y,
+     LMX_OFFSET(ColorSpaceYBRType, m_Y, element, number), LMX_FLAG(ColorSpaceYBRType, m_isset_Y), position_of(k_ColorSpaceYBRType_elements, element_Y), position_of(k_ColorSpaceYBRType_elements, element_Y, 1), nullptr, &facets::Fraction, {}},
+    {item_kind::element, value_kind::number, use_required, ELMX_WS_COLLAPSE, "Vyr:B", element_B,
+     LMX_OFFSET(ColorSpaceYBRType, m_B, element, number), LMX_FLAG(ColorSpaceYBRType, m_isset_B), position_of(k_ColorSpaceYBRType_elements, element_B), position_of(k_ColorSpaceYBRType_elements, element_B, 1), nullptr, &facets::Fraction, {}},
+    {item_kind::element, value_kind::number, use_required, ELMX_WS_COLLAPSE, "Vyr:R", element_R,
+     LMX_OFFSET(ColorSpaceYBRType, m_R, element, number), LMX_FLAG(ColorSpaceYBRType, m_isset_R), position_of(k_ColorSpaceYBRType_elements, element_R), position_of(k_ColorSpaceYBRType_elements, element_R, 1), nullptr, &facets::Fraction, {}},
 };
-constinit const lmx::s_class ColorSpaceYBRType::k_class = {
+constinit const s_class ColorSpaceYBRType::k_class = {
     .name = "ColorSpaceYBRType",
     .qualified_name = "Vyr:ColorSpaceYBRType",
     .base = &ColorSpaceType::k_class,
-    .content = lmx::content_kind::children,
+    .content = content_kind::children,
     .may_be_empty = false,
     .ns_map = k_ns_map,
-    .nil_flag = lmx::k_no_flag,
-    .choice = lmx::k_no_flag,
+    .nil_flag = k_no_flag,
+    .choice = k_no_flag,
     .id = &ColorSpaceYBRType::id,
     .xsi_type = "Vyr:ColorSpaceYBRType",
     .attributes = std::span(k_items).first(std::size(k_ColorSpaceYBRType_attributes) - 1),
     .elements = std::span(k_items).subspan(std::size(k_ColorSpaceYBRType_attributes) - 1),
     .attribute_map = k_ColorSpaceYBRType_attributes,
     .element_map = k_ColorSpaceYBRType_elements,
-    .operations = &lmx::k_operations<ColorSpaceYBRType>,
+    .operations = &k_operations<ColorSpaceYBRType>,
 };
 
 ColorSpaceYBRType::ColorSpaceYBRType() = default;
@@ -926,7 +1001,7 @@ lmx::elmx_error ColorSpaceRGB::marshal(lmx::c_xml_writer& writer, const char* na
     return ColorSpaceRGBType::marshal(writer, name);
 }
 lmx::elmx_error ColorSpaceRGB::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return ColorSpaceRGBType::unmarshal(reader, name); }
-const lmx::s_document ColorSpaceRGB::k_document = {"Vyr:ColorSpaceRGB", "ColorSpaceRGB", k_ns_map, &lmx::k_operations<ColorSpaceRGB>};
+constinit const lmx::s_document ColorSpaceRGB::k_document = {"Vyr:ColorSpaceRGB", "ColorSpaceRGB", k_ns_map, &lmx::k_operations<ColorSpaceRGB>};
 const lmx::s_ns_map* ColorSpaceRGB::ns_map() { return k_ns_map; }
 lmx::elmx_error ColorSpaceRGB::unmarshal(lmx::c_xml_reader& reader) { return lmx::unmarshal_document(k_document, this, reader); }
 ColorSpaceRGB::ColorSpaceRGB(const char* file_name, lmx::elmx_error* error) : ColorSpaceRGB() { *error = unmarshal(file_name); }
@@ -946,7 +1021,7 @@ lmx::elmx_error ColorSpaceSRGB::marshal(lmx::c_xml_writer& writer, const char* n
     return ColorSpaceSRGBType::marshal(writer, name);
 }
 lmx::elmx_error ColorSpaceSRGB::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return ColorSpaceSRGBType::unmarshal(reader, name); }
-const lmx::s_document ColorSpaceSRGB::k_document = {"Vyr:ColorSpaceSRGB", "ColorSpaceSRGB", k_ns_map, &lmx::k_operations<ColorSpaceSRGB>};
+constinit const lmx::s_document ColorSpaceSRGB::k_document = {"Vyr:ColorSpaceSRGB", "ColorSpaceSRGB", k_ns_map, &lmx::k_operations<ColorSpaceSRGB>};
 const lmx::s_ns_map* ColorSpaceSRGB::ns_map() { return k_ns_map; }
 lmx::elmx_error ColorSpaceSRGB::unmarshal(lmx::c_xml_reader& reader) { return lmx::unmarshal_document(k_document, this, reader); }
 ColorSpaceSRGB::ColorSpaceSRGB(const char* file_name, lmx::elmx_error* error) : ColorSpaceSRGB() { *error = unmarshal(file_name); }
@@ -966,7 +1041,7 @@ lmx::elmx_error ColorSpaceAdobeRGB::marshal(lmx::c_xml_writer& writer, const cha
     return ColorSpaceAdobeRGBType::marshal(writer, name);
 }
 lmx::elmx_error ColorSpaceAdobeRGB::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return ColorSpaceAdobeRGBType::unmarshal(reader, name); }
-const lmx::s_document ColorSpaceAdobeRGB::k_document = {"Vyr:ColorSpaceAdobeRGB", "ColorSpaceAdobeRGB", k_ns_map, &lmx::k_operations<ColorSpaceAdobeRGB>};
+constinit const lmx::s_document ColorSpaceAdobeRGB::k_document = {"Vyr:ColorSpaceAdobeRGB", "ColorSpaceAdobeRGB", k_ns_map, &lmx::k_operations<ColorSpaceAdobeRGB>};
 const lmx::s_ns_map* ColorSpaceAdobeRGB::ns_map() { return k_ns_map; }
 lmx::elmx_error ColorSpaceAdobeRGB::unmarshal(lmx::c_xml_reader& reader) { return lmx::unmarshal_document(k_document, this, reader); }
 ColorSpaceAdobeRGB::ColorSpaceAdobeRGB(const char* file_name, lmx::elmx_error* error) : ColorSpaceAdobeRGB() { *error = unmarshal(file_name); }
@@ -986,7 +1061,7 @@ lmx::elmx_error ColorSpaceCMYKPlusN::marshal(lmx::c_xml_writer& writer, const ch
     return ColorSpaceCMYKPlusNType::marshal(writer, name);
 }
 lmx::elmx_error ColorSpaceCMYKPlusN::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return ColorSpaceCMYKPlusNType::unmarshal(reader, name); }
-const lmx::s_document ColorSpaceCMYKPlusN::k_document = {"Vyr:ColorSpaceCMYKPlusN", "ColorSpaceCMYKPlusN", k_ns_map, &lmx::k_operations<ColorSpaceCMYKPlusN>};
+constinit const lmx::s_document ColorSpaceCMYKPlusN::k_document = {"Vyr:ColorSpaceCMYKPlusN", "ColorSpaceCMYKPlusN", k_ns_map, &lmx::k_operations<ColorSpaceCMYKPlusN>};
 const lmx::s_ns_map* ColorSpaceCMYKPlusN::ns_map() { return k_ns_map; }
 lmx::elmx_error ColorSpaceCMYKPlusN::unmarshal(lmx::c_xml_reader& reader) { return lmx::unmarshal_document(k_document, this, reader); }
 ColorSpaceCMYKPlusN::ColorSpaceCMYKPlusN(const char* file_name, lmx::elmx_error* error) : ColorSpaceCMYKPlusN() { *error = unmarshal(file_name); }
@@ -1006,7 +1081,7 @@ lmx::elmx_error ColorSpaceAdobeWideGamutRGB::marshal(lmx::c_xml_writer& writer, 
     return ColorSpaceAdobeWideGamutRGBType::marshal(writer, name);
 }
 lmx::elmx_error ColorSpaceAdobeWideGamutRGB::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return ColorSpaceAdobeWideGamutRGBType::unmarshal(reader, name); }
-const lmx::s_document ColorSpaceAdobeWideGamutRGB::k_document = {"Vyr:ColorSpaceAdobeWideGamutRGB", "ColorSpaceAdobeWideGamutRGB", k_ns_map, &lmx::k_operations<ColorSpaceAdobeWideGamutRGB>};
+constinit const lmx::s_document ColorSpaceAdobeWideGamutRGB::k_document = {"Vyr:ColorSpaceAdobeWideGamutRGB", "ColorSpaceAdobeWideGamutRGB", k_ns_map, &lmx::k_operations<ColorSpaceAdobeWideGamutRGB>};
 const lmx::s_ns_map* ColorSpaceAdobeWideGamutRGB::ns_map() { return k_ns_map; }
 lmx::elmx_error ColorSpaceAdobeWideGamutRGB::unmarshal(lmx::c_xml_reader& reader) { return lmx::unmarshal_document(k_document, this, reader); }
 ColorSpaceAdobeWideGamutRGB::ColorSpaceAdobeWideGamutRGB(const char* file_name, lmx::elmx_error* error) : ColorSpaceAdobeWideGamutRGB() { *error = unmarshal(file_name); }
@@ -1026,7 +1101,7 @@ lmx::elmx_error ColorSpaceHSL::marshal(lmx::c_xml_writer& writer, const char* na
     return ColorSpaceHSLType::marshal(writer, name);
 }
 lmx::elmx_error ColorSpaceHSL::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return ColorSpaceHSLType::unmarshal(reader, name); }
-const lmx::s_document ColorSpaceHSL::k_document = {"Vyr:ColorSpaceHSL", "ColorSpaceHSL", k_ns_map, &lmx::k_operations<ColorSpaceHSL>};
+constinit const lmx::s_document ColorSpaceHSL::k_document = {"Vyr:ColorSpaceHSL", "ColorSpaceHSL", k_ns_map, &lmx::k_operations<ColorSpaceHSL>};
 const lmx::s_ns_map* ColorSpaceHSL::ns_map() { return k_ns_map; }
 lmx::elmx_error ColorSpaceHSL::unmarshal(lmx::c_xml_reader& reader) { return lmx::unmarshal_document(k_document, this, reader); }
 ColorSpaceHSL::ColorSpaceHSL(const char* file_name, lmx::elmx_error* error) : ColorSpaceHSL() { *error = unmarshal(file_name); }
@@ -1046,7 +1121,7 @@ lmx::elmx_error ColorSpaceHSV::marshal(lmx::c_xml_writer& writer, const char* na
     return ColorSpaceHSVType::marshal(writer, name);
 }
 lmx::elmx_error ColorSpaceHSV::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return ColorSpaceHSVType::unmarshal(reader, name); }
-const lmx::s_document ColorSpaceHSV::k_document = {"Vyr:ColorSpaceHSV", "ColorSpaceHSV", k_ns_map, &lmx::k_operations<ColorSpaceHSV>};
+constinit const lmx::s_document ColorSpaceHSV::k_document = {"Vyr:ColorSpaceHSV", "ColorSpaceHSV", k_ns_map, &lmx::k_operations<ColorSpaceHSV>};
 const lmx::s_ns_map* ColorSpaceHSV::ns_map() { return k_ns_map; }
 lmx::elmx_error ColorSpaceHSV::unmarshal(lmx::c_xml_reader& reader) { return lmx::unmarshal_document(k_document, this, reader); }
 ColorSpaceHSV::ColorSpaceHSV(const char* file_name, lmx::elmx_error* error) : ColorSpaceHSV() { *error = unmarshal(file_name); }
@@ -1066,7 +1141,7 @@ lmx::elmx_error ColorSpaceCMYK::marshal(lmx::c_xml_writer& writer, const char* n
     return ColorSpaceCMYKType::marshal(writer, name);
 }
 lmx::elmx_error ColorSpaceCMYK::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return ColorSpaceCMYKType::unmarshal(reader, name); }
-const lmx::s_document ColorSpaceCMYK::k_document = {"Vyr:ColorSpaceCMYK", "ColorSpaceCMYK", k_ns_map, &lmx::k_operations<ColorSpaceCMYK>};
+constinit const lmx::s_document ColorSpaceCMYK::k_document = {"Vyr:ColorSpaceCMYK", "ColorSpaceCMYK", k_ns_map, &lmx::k_operations<ColorSpaceCMYK>};
 const lmx::s_ns_map* ColorSpaceCMYK::ns_map() { return k_ns_map; }
 lmx::elmx_error ColorSpaceCMYK::unmarshal(lmx::c_xml_reader& reader) { return lmx::unmarshal_document(k_document, this, reader); }
 ColorSpaceCMYK::ColorSpaceCMYK(const char* file_name, lmx::elmx_error* error) : ColorSpaceCMYK() { *error = unmarshal(file_name); }
@@ -1086,7 +1161,7 @@ lmx::elmx_error ColorSpaceTINTORAOctavantic::marshal(lmx::c_xml_writer& writer, 
     return ColorSpaceTINTORAOctavanticType::marshal(writer, name);
 }
 lmx::elmx_error ColorSpaceTINTORAOctavantic::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return ColorSpaceTINTORAOctavanticType::unmarshal(reader, name); }
-const lmx::s_document ColorSpaceTINTORAOctavantic::k_document = {"Vyr:ColorSpaceTINTORAOctavantic", "ColorSpaceTINTORAOctavantic", k_ns_map, &lmx::k_operations<ColorSpaceTINTORAOctavantic>};
+constinit const lmx::s_document ColorSpaceTINTORAOctavantic::k_document = {"Vyr:ColorSpaceTINTORAOctavantic", "ColorSpaceTINTORAOctavantic", k_ns_map, &lmx::k_operations<ColorSpaceTINTORAOctavantic>};
 const lmx::s_ns_map* ColorSpaceTINTORAOctavantic::ns_map() { return k_ns_map; }
 lmx::elmx_error ColorSpaceTINTORAOctavantic::unmarshal(lmx::c_xml_reader& reader) { return lmx::unmarshal_document(k_document, this, reader); }
 ColorSpaceTINTORAOctavantic::ColorSpaceTINTORAOctavantic(const char* file_name, lmx::elmx_error* error) : ColorSpaceTINTORAOctavantic() { *error = unmarshal(file_name); }
@@ -1106,7 +1181,7 @@ lmx::elmx_error ColorSpaceYUV::marshal(lmx::c_xml_writer& writer, const char* na
     return ColorSpaceYUVType::marshal(writer, name);
 }
 lmx::elmx_error ColorSpaceYUV::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return ColorSpaceYUVType::unmarshal(reader, name); }
-const lmx::s_document ColorSpaceYUV::k_document = {"Vyr:ColorSpaceYUV", "ColorSpaceYUV", k_ns_map, &lmx::k_operations<ColorSpaceYUV>};
+constinit const lmx::s_document ColorSpaceYUV::k_document = {"Vyr:ColorSpaceYUV", "ColorSpaceYUV", k_ns_map, &lmx::k_operations<ColorSpaceYUV>};
 const lmx::s_ns_map* ColorSpaceYUV::ns_map() { return k_ns_map; }
 lmx::elmx_error ColorSpaceYUV::unmarshal(lmx::c_xml_reader& reader) { return lmx::unmarshal_document(k_document, this, reader); }
 ColorSpaceYUV::ColorSpaceYUV(const char* file_name, lmx::elmx_error* error) : ColorSpaceYUV() { *error = unmarshal(file_name); }
@@ -1126,7 +1201,7 @@ lmx::elmx_error ColorSpaceYIQ::marshal(lmx::c_xml_writer& writer, const char* na
     return ColorSpaceYIQType::marshal(writer, name);
 }
 lmx::elmx_error ColorSpaceYIQ::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return ColorSpaceYIQType::unmarshal(reader, name); }
-const lmx::s_document ColorSpaceYIQ::k_document = {"Vyr:ColorSpaceYIQ", "ColorSpaceYIQ", k_ns_map, &lmx::k_operations<ColorSpaceYIQ>};
+constinit const lmx::s_document ColorSpaceYIQ::k_document = {"Vyr:ColorSpaceYIQ", "ColorSpaceYIQ", k_ns_map, &lmx::k_operations<ColorSpaceYIQ>};
 const lmx::s_ns_map* ColorSpaceYIQ::ns_map() { return k_ns_map; }
 lmx::elmx_error ColorSpaceYIQ::unmarshal(lmx::c_xml_reader& reader) { return lmx::unmarshal_document(k_document, this, reader); }
 ColorSpaceYIQ::ColorSpaceYIQ(const char* file_name, lmx::elmx_error* error) : ColorSpaceYIQ() { *error = unmarshal(file_name); }
@@ -1146,7 +1221,7 @@ lmx::elmx_error ColorSpaceYBR::marshal(lmx::c_xml_writer& writer, const char* na
     return ColorSpaceYBRType::marshal(writer, name);
 }
 lmx::elmx_error ColorSpaceYBR::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return ColorSpaceYBRType::unmarshal(reader, name); }
-const lmx::s_document ColorSpaceYBR::k_document = {"Vyr:ColorSpaceYBR", "ColorSpaceYBR", k_ns_map, &lmx::k_operations<ColorSpaceYBR>};
+constinit const lmx::s_document ColorSpaceYBR::k_document = {"Vyr:ColorSpaceYBR", "ColorSpaceYBR", k_ns_map, &lmx::k_operations<ColorSpaceYBR>};
 const lmx::s_ns_map* ColorSpaceYBR::ns_map() { return k_ns_map; }
 lmx::elmx_error ColorSpaceYBR::unmarshal(lmx::c_xml_reader& reader) { return lmx::unmarshal_document(k_document, this, reader); }
 ColorSpaceYBR::ColorSpaceYBR(const char* file_name, lmx::elmx_error* error) : ColorSpaceYBR() { *error = unmarshal(file_name); }
@@ -1162,33 +1237,35 @@ lmx::elmx_error ColorSpaceYBR::marshal(std::ostream& stream) const { return lmx:
 // SpotColorType
 
 namespace {
-constexpr lmx::s_event_map k_SpotColorType_elements[] = {
-    lmx::element_event("Name", element_Name),
-    lmx::element_event("Percentage", element_Percentage),
-    lmx::k_end_of_map,
+constexpr s_event_map k_SpotColorType_elements[] = {
+    element_event("Name", element_Name),
+    element_event("Percentage", element_Percentage),
+    k_end_of_map,
 };
 }  // namespace
 
-constinit const lmx::s_item SpotColorType::k_items[] = {
-    {lmx::item_kind::element, lmx::value_kind::text, lmx::use_required, lmx::ELMX_WS_PRESERVE, "Vyr:Name", element_Name, LMX_OFFSET(SpotColorType, m_Name, element, text), LMX_FLAG(SpotColorType, m_isset_Name), lmx::position_of(k_SpotColorType_elements, element_Name), lmx::position_of(k_SpotColorType_elements, element_Name, 1), nullptr, &facets::NonEmptyString, {}},
-    {lmx::item_kind::element, lmx::value_kind::number, lmx::use_required, lmx::ELMX_WS_COLLAPSE, "Vyr:Percentage", element_Percentage, LMX_OFFSET(SpotColorType, m_Percentage, element, number), LMX_FLAG(SpotColorType, m_isset_Percentage), lmx::position_of(k_SpotColorType_elements, element_Percentage), lmx::position_of(k_SpotColorType_elements, element_Percentage, 1), nullptr, &facets::Percentage, {}},
+constinit const s_item SpotColorType::k_items[] = {
+    {item_kind::element, value_kind::text, use_required, ELMX_WS_PRESERVE, "Vyr:Name", element_Name,
+     LMX_OFFSET(SpotColorType, m_Name, element, text), LMX_FLAG(SpotColorType, m_isset_Name), position_of(k_SpotColorType_elements, element_Name), position_of(k_SpotColorType_elements, element_Name, 1), nullptr, &facets::NonEmptyString, {}},
+    {item_kind::element, value_kind::number, use_required, ELMX_WS_COLLAPSE, "Vyr:Percentage", element_Percentage,
+     LMX_OFFSET(SpotColorType, m_Percentage, element, number), LMX_FLAG(SpotColorType, m_isset_Percentage), position_of(k_SpotColorType_elements, element_Percentage), position_of(k_SpotColorType_elements, element_Percentage, 1), nullptr, &facets::Percentage, {}},
 };
-constinit const lmx::s_class SpotColorType::k_class = {
+constinit const s_class SpotColorType::k_class = {
     .name = "SpotColorType",
     .qualified_name = "Vyr:SpotColorType",
     .base = nullptr,
-    .content = lmx::content_kind::children,
+    .content = content_kind::children,
     .may_be_empty = false,
     .ns_map = k_ns_map,
-    .nil_flag = lmx::k_no_flag,
-    .choice = lmx::k_no_flag,
+    .nil_flag = k_no_flag,
+    .choice = k_no_flag,
     .id = nullptr,
     .xsi_type = nullptr,
-    .attributes = std::span(k_items).first(std::size(lmx::k_no_events) - 1),
-    .elements = std::span(k_items).subspan(std::size(lmx::k_no_events) - 1),
-    .attribute_map = lmx::k_no_events,
+    .attributes = std::span(k_items).first(std::size(k_no_events) - 1),
+    .elements = std::span(k_items).subspan(std::size(k_no_events) - 1),
+    .attribute_map = k_no_events,
     .element_map = k_SpotColorType_elements,
-    .operations = &lmx::k_operations<SpotColorType>,
+    .operations = &k_operations<SpotColorType>,
 };
 
 SpotColorType::SpotColorType() = default;

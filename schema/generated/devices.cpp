@@ -17,37 +17,41 @@
 
 namespace com_vyrgraph_v2 {
 
-static_assert(lmx::k_binding_version == 1, "run schema/generator/generate.py");
+using namespace lmx;  // for the tables' sake
+
+static_assert(k_binding_version == 1, "run schema/generator/generate.py");
 
 // CalibrationStateType
 
 namespace {
-constexpr lmx::s_event_map k_CalibrationStateType_attributes[] = {
-    lmx::attribute_event("CalibrationDateTime", attribute_CalibrationDateTime),
-    lmx::k_end_of_map,
+constexpr s_event_map k_CalibrationStateType_attributes[] = {
+    attribute_event("CalibrationDateTime", attribute_CalibrationDateTime),
+    k_end_of_map,
 };
 }  // namespace
 
-constinit const lmx::s_item CalibrationStateType::k_items[] = {
-    {lmx::item_kind::attribute, lmx::value_kind::datetime, lmx::use_optional, lmx::ELMX_WS_COLLAPSE, "CalibrationDateTime", attribute_CalibrationDateTime, LMX_OFFSET(CalibrationStateType, m_CalibrationDateTime, attribute, datetime), LMX_FLAG(CalibrationStateType, m_isset_CalibrationDateTime), 0, 0, nullptr, &facets::DateTimeZone, {}},
-    {lmx::item_kind::content, lmx::value_kind::text, lmx::use_required, lmx::ELMX_WS_PRESERVE, "", 0, LMX_OFFSET(CalibrationStateType, m_CalibrationStateType, content, text), LMX_FLAG(CalibrationStateType, m_isset_CalibrationStateType), 0, 0, nullptr, &facets::CalibrationKind, {}},
+constinit const s_item CalibrationStateType::k_items[] = {
+    {item_kind::attribute, value_kind::datetime, use_optional, ELMX_WS_COLLAPSE, "CalibrationDateTime", attribute_CalibrationDateTime,
+     LMX_OFFSET(CalibrationStateType, m_CalibrationDateTime, attribute, datetime), LMX_FLAG(CalibrationStateType, m_isset_CalibrationDateTime), 0, 0, nullptr, &facets::DateTimeZone, {}},
+    {item_kind::content, value_kind::text, use_required, ELMX_WS_PRESERVE, "", 0,
+     LMX_OFFSET(CalibrationStateType, m_CalibrationStateType, content, text), LMX_FLAG(CalibrationStateType, m_isset_CalibrationStateType), 0, 0, nullptr, &facets::CalibrationKind, {}},
 };
-constinit const lmx::s_class CalibrationStateType::k_class = {
+constinit const s_class CalibrationStateType::k_class = {
     .name = "CalibrationStateType",
     .qualified_name = "Vyr:CalibrationStateType",
     .base = nullptr,
-    .content = lmx::content_kind::simple,
+    .content = content_kind::simple,
     .may_be_empty = false,
     .ns_map = k_ns_map,
-    .nil_flag = lmx::k_no_flag,
-    .choice = lmx::k_no_flag,
+    .nil_flag = k_no_flag,
+    .choice = k_no_flag,
     .id = nullptr,
     .xsi_type = nullptr,
     .attributes = std::span(k_items).first(std::size(k_CalibrationStateType_attributes) - 1),
     .elements = std::span(k_items).subspan(std::size(k_CalibrationStateType_attributes) - 1),
     .attribute_map = k_CalibrationStateType_attributes,
-    .element_map = lmx::k_no_events,
-    .operations = &lmx::k_operations<CalibrationStateType>,
+    .element_map = k_no_events,
+    .operations = &k_operations<CalibrationStateType>,
 };
 
 CalibrationStateType::CalibrationStateType() = default;
@@ -72,32 +76,34 @@ bool CalibrationStateType::setenum_CalibrationStateType(std::int32_t number) { r
 // GlossCompensation
 
 namespace {
-constexpr lmx::s_event_map k_GlossCompensation_attributes[] = {
-    lmx::attribute_event("CompensationValue", attribute_CompensationValue),
-    lmx::k_end_of_map,
+constexpr s_event_map k_GlossCompensation_attributes[] = {
+    attribute_event("CompensationValue", attribute_CompensationValue),
+    k_end_of_map,
 };
 }  // namespace
 
-constinit const lmx::s_item GlossCompensation::k_items[] = {
-    {lmx::item_kind::attribute, lmx::value_kind::number, lmx::use_required, lmx::ELMX_WS_COLLAPSE, "CompensationValue", attribute_CompensationValue, LMX_OFFSET(GlossCompensation, m_CompensationValue, attribute, number), LMX_FLAG(GlossCompensation, m_isset_CompensationValue), 0, 0, nullptr, nullptr, {}},
-    {lmx::item_kind::content, lmx::value_kind::boolean, lmx::use_optional, lmx::ELMX_WS_COLLAPSE, "", 0, LMX_OFFSET(GlossCompensation, m_GlossCompensation, content, boolean), LMX_FLAG(GlossCompensation, m_isset_GlossCompensation), 0, 0, nullptr, nullptr, {}},
+constinit const s_item GlossCompensation::k_items[] = {
+    {item_kind::attribute, value_kind::number, use_required, ELMX_WS_COLLAPSE, "CompensationValue", attribute_CompensationValue,
+     LMX_OFFSET(GlossCompensation, m_CompensationValue, attribute, number), LMX_FLAG(GlossCompensation, m_isset_CompensationValue), 0, 0, nullptr, nullptr, {}},
+    {item_kind::content, value_kind::boolean, use_optional, ELMX_WS_COLLAPSE, "", 0,
+     LMX_OFFSET(GlossCompensation, m_GlossCompensation, content, boolean), LMX_FLAG(GlossCompensation, m_isset_GlossCompensation), 0, 0, nullptr, nullptr, {}},
 };
-constinit const lmx::s_class GlossCompensation::k_class = {
+constinit const s_class GlossCompensation::k_class = {
     .name = "GlossCompensation",
     .qualified_name = "Vyr:GlossCompensation",
     .base = nullptr,
-    .content = lmx::content_kind::simple,
+    .content = content_kind::simple,
     .may_be_empty = false,
     .ns_map = nullptr,
-    .nil_flag = lmx::k_no_flag,
-    .choice = lmx::k_no_flag,
+    .nil_flag = k_no_flag,
+    .choice = k_no_flag,
     .id = nullptr,
     .xsi_type = nullptr,
     .attributes = std::span(k_items).first(std::size(k_GlossCompensation_attributes) - 1),
     .elements = std::span(k_items).subspan(std::size(k_GlossCompensation_attributes) - 1),
     .attribute_map = k_GlossCompensation_attributes,
-    .element_map = lmx::k_no_events,
-    .operations = &lmx::k_operations<GlossCompensation>,
+    .element_map = k_no_events,
+    .operations = &k_operations<GlossCompensation>,
 };
 
 GlossCompensation::GlossCompensation() = default;
@@ -120,32 +126,34 @@ lmx::elmx_error GlossCompensation::set_GlossCompensation(bool value) { return lm
 // Averaging
 
 namespace {
-constexpr lmx::s_event_map k_Averaging_attributes[] = {
-    lmx::attribute_event("AveragingValue", attribute_AveragingValue),
-    lmx::k_end_of_map,
+constexpr s_event_map k_Averaging_attributes[] = {
+    attribute_event("AveragingValue", attribute_AveragingValue),
+    k_end_of_map,
 };
 }  // namespace
 
-constinit const lmx::s_item Averaging::k_items[] = {
-    {lmx::item_kind::attribute, lmx::value_kind::uint8, lmx::use_required, lmx::ELMX_WS_COLLAPSE, "AveragingValue", attribute_AveragingValue, LMX_OFFSET(Averaging, m_AveragingValue, attribute, uint8), LMX_FLAG(Averaging, m_isset_AveragingValue), 0, 0, nullptr, &facets::AveragingCount, {}},
-    {lmx::item_kind::content, lmx::value_kind::boolean, lmx::use_optional, lmx::ELMX_WS_COLLAPSE, "", 0, LMX_OFFSET(Averaging, m_Averaging, content, boolean), LMX_FLAG(Averaging, m_isset_Averaging), 0, 0, nullptr, nullptr, {}},
+constinit const s_item Averaging::k_items[] = {
+    {item_kind::attribute, value_kind::uint8, use_required, ELMX_WS_COLLAPSE, "AveragingValue", attribute_AveragingValue,
+     LMX_OFFSET(Averaging, m_AveragingValue, attribute, uint8), LMX_FLAG(Averaging, m_isset_AveragingValue), 0, 0, nullptr, &facets::AveragingCount, {}},
+    {item_kind::content, value_kind::boolean, use_optional, ELMX_WS_COLLAPSE, "", 0,
+     LMX_OFFSET(Averaging, m_Averaging, content, boolean), LMX_FLAG(Averaging, m_isset_Averaging), 0, 0, nullptr, nullptr, {}},
 };
-constinit const lmx::s_class Averaging::k_class = {
+constinit const s_class Averaging::k_class = {
     .name = "Averaging",
     .qualified_name = "Vyr:Averaging",
     .base = nullptr,
-    .content = lmx::content_kind::simple,
+    .content = content_kind::simple,
     .may_be_empty = false,
     .ns_map = nullptr,
-    .nil_flag = lmx::k_no_flag,
-    .choice = lmx::k_no_flag,
+    .nil_flag = k_no_flag,
+    .choice = k_no_flag,
     .id = nullptr,
     .xsi_type = nullptr,
     .attributes = std::span(k_items).first(std::size(k_Averaging_attributes) - 1),
     .elements = std::span(k_items).subspan(std::size(k_Averaging_attributes) - 1),
     .attribute_map = k_Averaging_attributes,
-    .element_map = lmx::k_no_events,
-    .operations = &lmx::k_operations<Averaging>,
+    .element_map = k_no_events,
+    .operations = &k_operations<Averaging>,
 };
 
 Averaging::Averaging() = default;
@@ -168,43 +176,50 @@ lmx::elmx_error Averaging::set_Averaging(bool value) { return lmx::set_item(k_cl
 // DeviceSettings
 
 namespace {
-constexpr lmx::s_event_map k_DeviceSettings_elements[] = {
-    lmx::element_event("CustomAttribute", element_CustomAttribute),
-    lmx::element_event("Aperture", element_Aperture),
-    lmx::element_event("LensPosition", element_LensPosition),
-    lmx::element_event("GlassCompensation", element_GlassCompensation),
-    lmx::element_event("GlossCompensation", element_GlossCompensation),
-    lmx::element_event("Averaging", element_Averaging),
-    lmx::element_event("LinkTrimmer", element_LinkTrimmer),
-    lmx::k_end_of_map,
+constexpr s_event_map k_DeviceSettings_elements[] = {
+    element_event("CustomAttribute", element_CustomAttribute),
+    element_event("Aperture", element_Aperture),
+    element_event("LensPosition", element_LensPosition),
+    element_event("GlassCompensation", element_GlassCompensation),
+    element_event("GlossCompensation", element_GlossCompensation),
+    element_event("Averaging", element_Averaging),
+    element_event("LinkTrimmer", element_LinkTrimmer),
+    k_end_of_map,
 };
 }  // namespace
 
-constinit const lmx::s_item DeviceSettings::k_items[] = {
-    {lmx::item_kind::child_list, lmx::value_kind::none, lmx::use_optional, lmx::ELMX_WS_PRESERVE, "Vyr:CustomAttribute", element_CustomAttribute, LMX_OFFSET(DeviceSettings, m_CustomAttribute, child_list, none), lmx::k_no_flag, lmx::position_of(k_DeviceSettings_elements, element_CustomAttribute), lmx::position_of(k_DeviceSettings_elements, element_CustomAttribute, 1), &CustomAttributeType::k_class, nullptr, {}},
-    {lmx::item_kind::element, lmx::value_kind::uint32, lmx::use_optional, lmx::ELMX_WS_COLLAPSE, "Vyr:Aperture", element_Aperture, LMX_OFFSET(DeviceSettings, m_Aperture, element, uint32), LMX_FLAG(DeviceSettings, m_isset_Aperture), lmx::position_of(k_DeviceSettings_elements, element_Aperture), lmx::position_of(k_DeviceSettings_elements, element_Aperture, 1), nullptr, &facets::PositiveInt32, {}},
-    {lmx::item_kind::element, lmx::value_kind::int32, lmx::use_optional, lmx::ELMX_WS_COLLAPSE, "Vyr:LensPosition", element_LensPosition, LMX_OFFSET(DeviceSettings, m_LensPosition, element, int32), LMX_FLAG(DeviceSettings, m_isset_LensPosition), lmx::position_of(k_DeviceSettings_elements, element_LensPosition), lmx::position_of(k_DeviceSettings_elements, element_LensPosition, 1), nullptr, &facets::Int32, {}},
-    {lmx::item_kind::element, lmx::value_kind::boolean, lmx::use_optional, lmx::ELMX_WS_COLLAPSE, "Vyr:GlassCompensation", element_GlassCompensation, LMX_OFFSET(DeviceSettings, m_GlassCompensation, element, boolean), LMX_FLAG(DeviceSettings, m_isset_GlassCompensation), lmx::position_of(k_DeviceSettings_elements, element_GlassCompensation), lmx::position_of(k_DeviceSettings_elements, element_GlassCompensation, 1), nullptr, nullptr, {}},
-    {lmx::item_kind::child, lmx::value_kind::none, lmx::use_optional, lmx::ELMX_WS_PRESERVE, "Vyr:GlossCompensation", element_GlossCompensation, LMX_OFFSET(DeviceSettings, m_GlossCompensation, child, none), LMX_FLAG(DeviceSettings, m_isset_GlossCompensation), lmx::position_of(k_DeviceSettings_elements, element_GlossCompensation), lmx::position_of(k_DeviceSettings_elements, element_GlossCompensation, 1), &GlossCompensation::k_class, nullptr, {}},
-    {lmx::item_kind::child, lmx::value_kind::none, lmx::use_optional, lmx::ELMX_WS_PRESERVE, "Vyr:Averaging", element_Averaging, LMX_OFFSET(DeviceSettings, m_Averaging, child, none), LMX_FLAG(DeviceSettings, m_isset_Averaging), lmx::position_of(k_DeviceSettings_elements, element_Averaging), lmx::position_of(k_DeviceSettings_elements, element_Averaging, 1), &Averaging::k_class, nullptr, {}},
-    {lmx::item_kind::element, lmx::value_kind::boolean, lmx::use_optional, lmx::ELMX_WS_COLLAPSE, "Vyr:LinkTrimmer", element_LinkTrimmer, LMX_OFFSET(DeviceSettings, m_LinkTrimmer, element, boolean), LMX_FLAG(DeviceSettings, m_isset_LinkTrimmer), lmx::position_of(k_DeviceSettings_elements, element_LinkTrimmer), lmx::position_of(k_DeviceSettings_elements, element_LinkTrimmer, 1), nullptr, nullptr, {}},
+constinit const s_item DeviceSettings::k_items[] = {
+    {item_kind::child_list, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:CustomAttribute", element_CustomAttribute,
+     LMX_OFFSET(DeviceSettings, m_CustomAttribute, child_list, none), k_no_flag, position_of(k_DeviceSettings_elements, element_CustomAttribute), position_of(k_DeviceSettings_elements, element_CustomAttribute, 1), &CustomAttributeType::k_class, nullptr, {}},
+    {item_kind::element, value_kind::uint32, use_optional, ELMX_WS_COLLAPSE, "Vyr:Aperture", element_Aperture,
+     LMX_OFFSET(DeviceSettings, m_Aperture, element, uint32), LMX_FLAG(DeviceSettings, m_isset_Aperture), position_of(k_DeviceSettings_elements, element_Aperture), position_of(k_DeviceSettings_elements, element_Aperture, 1), nullptr, &facets::PositiveInt32, {}},
+    {item_kind::element, value_kind::int32, use_optional, ELMX_WS_COLLAPSE, "Vyr:LensPosition", element_LensPosition,
+     LMX_OFFSET(DeviceSettings, m_LensPosition, element, int32), LMX_FLAG(DeviceSettings, m_isset_LensPosition), position_of(k_DeviceSettings_elements, element_LensPosition), position_of(k_DeviceSettings_elements, element_LensPosition, 1), nullptr, &facets::Int32, {}},
+    {item_kind::element, value_kind::boolean, use_optional, ELMX_WS_COLLAPSE, "Vyr:GlassCompensation", element_GlassCompensation,
+     LMX_OFFSET(DeviceSettings, m_GlassCompensation, element, boolean), LMX_FLAG(DeviceSettings, m_isset_GlassCompensation), position_of(k_DeviceSettings_elements, element_GlassCompensation), position_of(k_DeviceSettings_elements, element_GlassCompensation, 1), nullptr, nullptr, {}},
+    {item_kind::child, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:GlossCompensation", element_GlossCompensation,
+     LMX_OFFSET(DeviceSettings, m_GlossCompensation, child, none), LMX_FLAG(DeviceSettings, m_isset_GlossCompensation), position_of(k_DeviceSettings_elements, element_GlossCompensation), position_of(k_DeviceSettings_elements, element_GlossCompensation, 1), &GlossCompensation::k_class, nullptr, {}},
+    {item_kind::child, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:Averaging", element_Averaging,
+     LMX_OFFSET(DeviceSettings, m_Averaging, child, none), LMX_FLAG(DeviceSettings, m_isset_Averaging), position_of(k_DeviceSettings_elements, element_Averaging), position_of(k_DeviceSettings_elements, element_Averaging, 1), &Averaging::k_class, nullptr, {}},
+    {item_kind::element, value_kind::boolean, use_optional, ELMX_WS_COLLAPSE, "Vyr:LinkTrimmer", element_LinkTrimmer,
+     LMX_OFFSET(DeviceSettings, m_LinkTrimmer, element, boolean), LMX_FLAG(DeviceSettings, m_isset_LinkTrimmer), position_of(k_DeviceSettings_elements, element_LinkTrimmer), position_of(k_DeviceSettings_elements, element_LinkTrimmer, 1), nullptr, nullptr, {}},
 };
-constinit const lmx::s_class DeviceSettings::k_class = {
+constinit const s_class DeviceSettings::k_class = {
     .name = "DeviceSettings",
     .qualified_name = "Vyr:DeviceSettings",
     .base = nullptr,
-    .content = lmx::content_kind::children,
+    .content = content_kind::children,
     .may_be_empty = true,
     .ns_map = nullptr,
-    .nil_flag = lmx::k_no_flag,
-    .choice = lmx::k_no_flag,
+    .nil_flag = k_no_flag,
+    .choice = k_no_flag,
     .id = nullptr,
     .xsi_type = nullptr,
-    .attributes = std::span(k_items).first(std::size(lmx::k_no_events) - 1),
-    .elements = std::span(k_items).subspan(std::size(lmx::k_no_events) - 1),
-    .attribute_map = lmx::k_no_events,
+    .attributes = std::span(k_items).first(std::size(k_no_events) - 1),
+    .elements = std::span(k_items).subspan(std::size(k_no_events) - 1),
+    .attribute_map = k_no_events,
     .element_map = k_DeviceSettings_elements,
-    .operations = &lmx::k_operations<DeviceSettings>,
+    .operations = &k_operations<DeviceSettings>,
 };
 
 DeviceSettings::DeviceSettings() = default;
@@ -237,47 +252,56 @@ lmx::elmx_error DeviceSettings::set_LinkTrimmer(bool value) { return lmx::set_it
 // DeviceType
 
 namespace {
-constexpr lmx::s_event_map k_DeviceType_elements[] = {
-    lmx::element_event("CustomAttribute", element_CustomAttribute),
-    lmx::element_event("Manufacturer", element_Manufacturer),
-    lmx::element_event("Model", element_Model),
-    lmx::element_event("SerialNumber", element_SerialNumber),
-    lmx::element_event("DeviceClass", element_DeviceClass),
-    lmx::element_event("FirmwareVersion", element_FirmwareVersion),
-    lmx::element_event("BootFirmwareVersion", element_BootFirmwareVersion),
-    lmx::element_event("CalibrationState", element_CalibrationState),
-    lmx::element_event("DeviceSettings", element_DeviceSettings),
-    lmx::k_end_of_map,
+constexpr s_event_map k_DeviceType_elements[] = {
+    element_event("CustomAttribute", element_CustomAttribute),
+    element_event("Manufacturer", element_Manufacturer),
+    element_event("Model", element_Model),
+    element_event("SerialNumber", element_SerialNumber),
+    element_event("DeviceClass", element_DeviceClass),
+    element_event("FirmwareVersion", element_FirmwareVersion),
+    element_event("BootFirmwareVersion", element_BootFirmwareVersion),
+    element_event("CalibrationState", element_CalibrationState),
+    element_event("DeviceSettings", element_DeviceSettings),
+    k_end_of_map,
 };
 }  // namespace
 
-constinit const lmx::s_item DeviceType::k_items[] = {
-    {lmx::item_kind::child_list, lmx::value_kind::none, lmx::use_optional, lmx::ELMX_WS_PRESERVE, "Vyr:CustomAttribute", element_CustomAttribute, LMX_OFFSET(DeviceType, m_CustomAttribute, child_list, none), lmx::k_no_flag, lmx::position_of(k_DeviceType_elements, element_CustomAttribute), lmx::position_of(k_DeviceType_elements, element_CustomAttribute, 1), &CustomAttributeType::k_class, nullptr, {}},
-    {lmx::item_kind::element, lmx::value_kind::text, lmx::use_required, lmx::ELMX_WS_PRESERVE, "Vyr:Manufacturer", element_Manufacturer, LMX_OFFSET(DeviceType, m_Manufacturer, element, text), LMX_FLAG(DeviceType, m_isset_Manufacturer), lmx::position_of(k_DeviceType_elements, element_Manufacturer), lmx::position_of(k_DeviceType_elements, element_Manufacturer, 1), nullptr, nullptr, {}},
-    {lmx::item_kind::element, lmx::value_kind::text, lmx::use_required, lmx::ELMX_WS_PRESERVE, "Vyr:Model", element_Model, LMX_OFFSET(DeviceType, m_Model, element, text), LMX_FLAG(DeviceType, m_isset_Model), lmx::position_of(k_DeviceType_elements, element_Model), lmx::position_of(k_DeviceType_elements, element_Model, 1), nullptr, nullptr, {}},
-    {lmx::item_kind::element, lmx::value_kind::text, lmx::use_required, lmx::ELMX_WS_PRESERVE, "Vyr:SerialNumber", element_SerialNumber, LMX_OFFSET(DeviceType, m_SerialNumber, element, text), LMX_FLAG(DeviceType, m_isset_SerialNumber), lmx::position_of(k_DeviceType_elements, element_SerialNumber), lmx::position_of(k_DeviceType_elements, element_SerialNumber, 1), nullptr, nullptr, {}},
-    {lmx::item_kind::element, lmx::value_kind::text, lmx::use_optional, lmx::ELMX_WS_PRESERVE, "Vyr:DeviceClass", element_DeviceClass, LMX_OFFSET(DeviceType, m_DeviceClass, element, text), LMX_FLAG(DeviceType, m_isset_DeviceClass), lmx::position_of(k_DeviceType_elements, element_DeviceClass), lmx::position_of(k_DeviceType_elements, element_DeviceClass, 1), nullptr, &facets::DeviceClassKind, {}},
-    {lmx::item_kind::element, lmx::value_kind::text, lmx::use_optional, lmx::ELMX_WS_PRESERVE, "Vyr:FirmwareVersion", element_FirmwareVersion, LMX_OFFSET(DeviceType, m_FirmwareVersion, element, text), LMX_FLAG(DeviceType, m_isset_FirmwareVersion), lmx::position_of(k_DeviceType_elements, element_FirmwareVersion), lmx::position_of(k_DeviceType_elements, element_FirmwareVersion, 1), nullptr, nullptr, {}},
-    {lmx::item_kind::element, lmx::value_kind::text, lmx::use_optional, lmx::ELMX_WS_PRESERVE, "Vyr:BootFirmwareVersion", element_BootFirmwareVersion, LMX_OFFSET(DeviceType, m_BootFirmwareVersion, element, text), LMX_FLAG(DeviceType, m_isset_BootFirmwareVersion), lmx::position_of(k_DeviceType_elements, element_BootFirmwareVersion), lmx::position_of(k_DeviceType_elements, element_BootFirmwareVersion, 1), nullptr, nullptr, {}},
-    {lmx::item_kind::child, lmx::value_kind::none, lmx::use_optional, lmx::ELMX_WS_PRESERVE, "Vyr:CalibrationState", element_CalibrationState, LMX_OFFSET(DeviceType, m_CalibrationState, child, none), LMX_FLAG(DeviceType, m_isset_CalibrationState), lmx::position_of(k_DeviceType_elements, element_CalibrationState), lmx::position_of(k_DeviceType_elements, element_CalibrationState, 1), &CalibrationStateType::k_class, nullptr, {}},
-    {lmx::item_kind::child, lmx::value_kind::none, lmx::use_optional, lmx::ELMX_WS_PRESERVE, "Vyr:DeviceSettings", element_DeviceSettings, LMX_OFFSET(DeviceType, m_DeviceSettings, child, none), LMX_FLAG(DeviceType, m_isset_DeviceSettings), lmx::position_of(k_DeviceType_elements, element_DeviceSettings), lmx::position_of(k_DeviceType_elements, element_DeviceSettings, 1), &DeviceSettings::k_class, nullptr, {}},
+constinit const s_item DeviceType::k_items[] = {
+    {item_kind::child_list, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:CustomAttribute", element_CustomAttribute,
+     LMX_OFFSET(DeviceType, m_CustomAttribute, child_list, none), k_no_flag, position_of(k_DeviceType_elements, element_CustomAttribute), position_of(k_DeviceType_elements, element_CustomAttribute, 1), &CustomAttributeType::k_class, nullptr, {}},
+    {item_kind::element, value_kind::text, use_required, ELMX_WS_PRESERVE, "Vyr:Manufacturer", element_Manufacturer,
+     LMX_OFFSET(DeviceType, m_Manufacturer, element, text), LMX_FLAG(DeviceType, m_isset_Manufacturer), position_of(k_DeviceType_elements, element_Manufacturer), position_of(k_DeviceType_elements, element_Manufacturer, 1), nullptr, nullptr, {}},
+    {item_kind::element, value_kind::text, use_required, ELMX_WS_PRESERVE, "Vyr:Model", element_Model,
+     LMX_OFFSET(DeviceType, m_Model, element, text), LMX_FLAG(DeviceType, m_isset_Model), position_of(k_DeviceType_elements, element_Model), position_of(k_DeviceType_elements, element_Model, 1), nullptr, nullptr, {}},
+    {item_kind::element, value_kind::text, use_required, ELMX_WS_PRESERVE, "Vyr:SerialNumber", element_SerialNumber,
+     LMX_OFFSET(DeviceType, m_SerialNumber, element, text), LMX_FLAG(DeviceType, m_isset_SerialNumber), position_of(k_DeviceType_elements, element_SerialNumber), position_of(k_DeviceType_elements, element_SerialNumber, 1), nullptr, nullptr, {}},
+    {item_kind::element, value_kind::text, use_optional, ELMX_WS_PRESERVE, "Vyr:DeviceClass", element_DeviceClass,
+     LMX_OFFSET(DeviceType, m_DeviceClass, element, text), LMX_FLAG(DeviceType, m_isset_DeviceClass), position_of(k_DeviceType_elements, element_DeviceClass), position_of(k_DeviceType_elements, element_DeviceClass, 1), nullptr, &facets::DeviceClassKind, {}},
+    {item_kind::element, value_kind::text, use_optional, ELMX_WS_PRESERVE, "Vyr:FirmwareVersion", element_FirmwareVersion,
+     LMX_OFFSET(DeviceType, m_FirmwareVersion, element, text), LMX_FLAG(DeviceType, m_isset_FirmwareVersion), position_of(k_DeviceType_elements, element_FirmwareVersion), position_of(k_DeviceType_elements, element_FirmwareVersion, 1), nullptr, nullptr, {}},
+    {item_kind::element, value_kind::text, use_optional, ELMX_WS_PRESERVE, "Vyr:BootFirmwareVersion", element_BootFirmwareVersion,
+     LMX_OFFSET(DeviceType, m_BootFirmwareVersion, element, text), LMX_FLAG(DeviceType, m_isset_BootFirmwareVersion), position_of(k_DeviceType_elements, element_BootFirmwareVersion), position_of(k_DeviceType_elements, element_BootFirmwareVersion, 1), nullptr, nullptr, {}},
+    {item_kind::child, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:CalibrationState", element_CalibrationState,
+     LMX_OFFSET(DeviceType, m_CalibrationState, child, none), LMX_FLAG(DeviceType, m_isset_CalibrationState), position_of(k_DeviceType_elements, element_CalibrationState), position_of(k_DeviceType_elements, element_CalibrationState, 1), &CalibrationStateType::k_class, nullptr, {}},
+    {item_kind::child, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:DeviceSettings", element_DeviceSettings,
+     LMX_OFFSET(DeviceType, m_DeviceSettings, child, none), LMX_FLAG(DeviceType, m_isset_DeviceSettings), position_of(k_DeviceType_elements, element_DeviceSettings), position_of(k_DeviceType_elements, element_DeviceSettings, 1), &DeviceSettings::k_class, nullptr, {}},
 };
-constinit const lmx::s_class DeviceType::k_class = {
+constinit const s_class DeviceType::k_class = {
     .name = "DeviceType",
     .qualified_name = "Vyr:DeviceType",
     .base = nullptr,
-    .content = lmx::content_kind::children,
+    .content = content_kind::children,
     .may_be_empty = false,
     .ns_map = k_ns_map,
-    .nil_flag = lmx::k_no_flag,
-    .choice = lmx::k_no_flag,
+    .nil_flag = k_no_flag,
+    .choice = k_no_flag,
     .id = nullptr,
     .xsi_type = nullptr,
-    .attributes = std::span(k_items).first(std::size(lmx::k_no_events) - 1),
-    .elements = std::span(k_items).subspan(std::size(lmx::k_no_events) - 1),
-    .attribute_map = lmx::k_no_events,
+    .attributes = std::span(k_items).first(std::size(k_no_events) - 1),
+    .elements = std::span(k_items).subspan(std::size(k_no_events) - 1),
+    .attribute_map = k_no_events,
     .element_map = k_DeviceType_elements,
-    .operations = &lmx::k_operations<DeviceType>,
+    .operations = &k_operations<DeviceType>,
 };
 
 DeviceType::DeviceType() = default;
@@ -314,33 +338,35 @@ DeviceSettings& DeviceType::assign_DeviceSettings(const DeviceSettings& value) {
 // ProfileChoice
 
 namespace {
-constexpr lmx::s_event_map k_ProfileChoice_elements[] = {
-    lmx::element_event("ProfileFile", element_ProfileFile),
-    lmx::element_event("ProfileURI", element_ProfileURI),
-    lmx::k_end_of_map,
+constexpr s_event_map k_ProfileChoice_elements[] = {
+    element_event("ProfileFile", element_ProfileFile),
+    element_event("ProfileURI", element_ProfileURI),
+    k_end_of_map,
 };
 }  // namespace
 
-constinit const lmx::s_item ProfileChoice::k_items[] = {
-    {lmx::item_kind::alternative, lmx::value_kind::none, lmx::use_optional, lmx::ELMX_WS_PRESERVE, "Vyr:ProfileFile", element_ProfileFile, 0, lmx::k_no_flag, lmx::position_of(k_ProfileChoice_elements, element_ProfileFile), lmx::position_of(k_ProfileChoice_elements, element_ProfileFile, 1), &ProfileFile::k_class, nullptr, {}},
-    {lmx::item_kind::alternative, lmx::value_kind::text, lmx::use_optional, lmx::ELMX_WS_COLLAPSE, "Vyr:ProfileURI", element_ProfileURI, 0, lmx::k_no_flag, lmx::position_of(k_ProfileChoice_elements, element_ProfileURI), lmx::position_of(k_ProfileChoice_elements, element_ProfileURI, 1), nullptr, nullptr, {}},
+constinit const s_item ProfileChoice::k_items[] = {
+    {item_kind::alternative, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:ProfileFile", element_ProfileFile,
+     0, k_no_flag, position_of(k_ProfileChoice_elements, element_ProfileFile), position_of(k_ProfileChoice_elements, element_ProfileFile, 1), &ProfileFile::k_class, nullptr, {}},
+    {item_kind::alternative, value_kind::text, use_optional, ELMX_WS_COLLAPSE, "Vyr:ProfileURI", element_ProfileURI,
+     0, k_no_flag, position_of(k_ProfileChoice_elements, element_ProfileURI), position_of(k_ProfileChoice_elements, element_ProfileURI, 1), nullptr, nullptr, {}},
 };
-constinit const lmx::s_class ProfileChoice::k_class = {
+constinit const s_class ProfileChoice::k_class = {
     .name = "ProfileChoice",
     .qualified_name = "Vyr:ProfileChoice",
     .base = nullptr,
-    .content = lmx::content_kind::choice,
+    .content = content_kind::choice,
     .may_be_empty = false,
     .ns_map = nullptr,
-    .nil_flag = lmx::k_no_flag,
+    .nil_flag = k_no_flag,
     .choice = LMX_CHOICE(ProfileChoice, m_choice),
     .id = nullptr,
     .xsi_type = nullptr,
-    .attributes = std::span(k_items).first(std::size(lmx::k_no_events) - 1),
-    .elements = std::span(k_items).subspan(std::size(lmx::k_no_events) - 1),
-    .attribute_map = lmx::k_no_events,
+    .attributes = std::span(k_items).first(std::size(k_no_events) - 1),
+    .elements = std::span(k_items).subspan(std::size(k_no_events) - 1),
+    .attribute_map = k_no_events,
     .element_map = k_ProfileChoice_elements,
-    .operations = &lmx::k_operations<ProfileChoice>,
+    .operations = &k_operations<ProfileChoice>,
 };
 
 ProfileChoice::ProfileChoice() = default;
@@ -365,40 +391,44 @@ lmx::elmx_error ProfileChoice::set_ProfileURI(const std::u16string& value) { ret
 // ProfileType
 
 namespace {
-constexpr lmx::s_event_map k_ProfileType_attributes[] = {
-    lmx::attribute_event("Direction", attribute_Direction),
-    lmx::k_end_of_map,
+constexpr s_event_map k_ProfileType_attributes[] = {
+    attribute_event("Direction", attribute_Direction),
+    k_end_of_map,
 };
-constexpr lmx::s_event_map k_ProfileType_elements[] = {
-    lmx::element_event("ProfileChoice", element_ProfileChoice),
-    lmx::element_event("Parameters", element_Parameters),
-    lmx::element_event("Created", element_Created),
-    lmx::k_end_of_map,
+constexpr s_event_map k_ProfileType_elements[] = {
+    element_event("ProfileChoice", element_ProfileChoice),
+    element_event("Parameters", element_Parameters),
+    element_event("Created", element_Created),
+    k_end_of_map,
 };
 }  // namespace
 
-constinit const lmx::s_item ProfileType::k_items[] = {
-    {lmx::item_kind::attribute, lmx::value_kind::text, lmx::use_required, lmx::ELMX_WS_PRESERVE, "Direction", attribute_Direction, LMX_OFFSET(ProfileType, m_Direction, attribute, text), LMX_FLAG(ProfileType, m_isset_Direction), 0, 0, nullptr, &facets::ProfileDirectionKind, {}},
-    {lmx::item_kind::child, lmx::value_kind::none, lmx::use_required, lmx::ELMX_WS_PRESERVE, "Vyr:ProfileChoice", element_ProfileChoice, LMX_OFFSET(ProfileType, m_ProfileChoice, child, none), LMX_FLAG(ProfileType, m_isset_ProfileChoice), lmx::position_of(k_ProfileType_elements, element_ProfileChoice), lmx::position_of(k_ProfileType_elements, element_ProfileChoice, 1), &ProfileChoice::k_class, nullptr, {}},
-    {lmx::item_kind::child_list, lmx::value_kind::none, lmx::use_optional, lmx::ELMX_WS_PRESERVE, "Vyr:Parameters", element_Parameters, LMX_OFFSET(ProfileType, m_Parameters, child_list, none), lmx::k_no_flag, lmx::position_of(k_ProfileType_elements, element_Parameters), lmx::position_of(k_ProfileType_elements, element_Parameters, 1), &ProfileType_Parameters::k_class, nullptr, {}},
-    {lmx::item_kind::element, lmx::value_kind::datetime, lmx::use_optional, lmx::ELMX_WS_COLLAPSE, "Vyr:Created", element_Created, LMX_OFFSET(ProfileType, m_Created, element, datetime), LMX_FLAG(ProfileType, m_isset_Created), lmx::position_of(k_ProfileType_elements, element_Created), lmx::position_of(k_ProfileType_elements, element_Created, 1), nullptr, &facets::DateTimeZone, {}},
+constinit const s_item ProfileType::k_items[] = {
+    {item_kind::attribute, value_kind::text, use_required, ELMX_WS_PRESERVE, "Direction", attribute_Direction,
+     LMX_OFFSET(ProfileType, m_Direction, attribute, text), LMX_FLAG(ProfileType, m_isset_Direction), 0, 0, nullptr, &facets::ProfileDirectionKind, {}},
+    {item_kind::child, value_kind::none, use_required, ELMX_WS_PRESERVE, "Vyr:ProfileChoice", element_ProfileChoice,
+     LMX_OFFSET(ProfileType, m_ProfileChoice, child, none), LMX_FLAG(ProfileType, m_isset_ProfileChoice), position_of(k_ProfileType_elements, element_ProfileChoice), position_of(k_ProfileType_elements, element_ProfileChoice, 1), &ProfileChoice::k_class, nullptr, {}},
+    {item_kind::child_list, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:Parameters", element_Parameters,
+     LMX_OFFSET(ProfileType, m_Parameters, child_list, none), k_no_flag, position_of(k_ProfileType_elements, element_Parameters), position_of(k_ProfileType_elements, element_Parameters, 1), &ProfileType_Parameters::k_class, nullptr, {}},
+    {item_kind::element, value_kind::datetime, use_optional, ELMX_WS_COLLAPSE, "Vyr:Created", element_Created,
+     LMX_OFFSET(ProfileType, m_Created, element, datetime), LMX_FLAG(ProfileType, m_isset_Created), position_of(k_ProfileType_elements, element_Created), position_of(k_ProfileType_elements, element_Created, 1), nullptr, &facets::DateTimeZone, {}},
 };
-constinit const lmx::s_class ProfileType::k_class = {
+constinit const s_class ProfileType::k_class = {
     .name = "ProfileType",
     .qualified_name = "Vyr:ProfileType",
     .base = nullptr,
-    .content = lmx::content_kind::children,
+    .content = content_kind::children,
     .may_be_empty = false,
     .ns_map = k_ns_map,
-    .nil_flag = lmx::k_no_flag,
-    .choice = lmx::k_no_flag,
+    .nil_flag = k_no_flag,
+    .choice = k_no_flag,
     .id = nullptr,
     .xsi_type = nullptr,
     .attributes = std::span(k_items).first(std::size(k_ProfileType_attributes) - 1),
     .elements = std::span(k_items).subspan(std::size(k_ProfileType_attributes) - 1),
     .attribute_map = k_ProfileType_attributes,
     .element_map = k_ProfileType_elements,
-    .operations = &lmx::k_operations<ProfileType>,
+    .operations = &k_operations<ProfileType>,
 };
 
 ProfileType::ProfileType() = default;
@@ -430,32 +460,34 @@ lmx::elmx_error ProfileType::set_Created(const lmx::c_datetime& value) { return 
 // ProfileFile
 
 namespace {
-constexpr lmx::s_event_map k_ProfileFile_attributes[] = {
-    lmx::attribute_event("ProfileName", attribute_ProfileName),
-    lmx::k_end_of_map,
+constexpr s_event_map k_ProfileFile_attributes[] = {
+    attribute_event("ProfileName", attribute_ProfileName),
+    k_end_of_map,
 };
 }  // namespace
 
-constinit const lmx::s_item ProfileFile::k_items[] = {
-    {lmx::item_kind::attribute, lmx::value_kind::text, lmx::use_optional, lmx::ELMX_WS_PRESERVE, "ProfileName", attribute_ProfileName, LMX_OFFSET(ProfileFile, m_ProfileName, attribute, text), LMX_FLAG(ProfileFile, m_isset_ProfileName), 0, 0, nullptr, nullptr, {}},
-    {lmx::item_kind::content, lmx::value_kind::binary, lmx::use_required, lmx::ELMX_WS_COLLAPSE, "", 0, LMX_OFFSET(ProfileFile, m_ProfileFile, content, binary), LMX_FLAG(ProfileFile, m_isset_ProfileFile), 0, 0, nullptr, nullptr, {}},
+constinit const s_item ProfileFile::k_items[] = {
+    {item_kind::attribute, value_kind::text, use_optional, ELMX_WS_PRESERVE, "ProfileName", attribute_ProfileName,
+     LMX_OFFSET(ProfileFile, m_ProfileName, attribute, text), LMX_FLAG(ProfileFile, m_isset_ProfileName), 0, 0, nullptr, nullptr, {}},
+    {item_kind::content, value_kind::binary, use_required, ELMX_WS_COLLAPSE, "", 0,
+     LMX_OFFSET(ProfileFile, m_ProfileFile, content, binary), LMX_FLAG(ProfileFile, m_isset_ProfileFile), 0, 0, nullptr, nullptr, {}},
 };
-constinit const lmx::s_class ProfileFile::k_class = {
+constinit const s_class ProfileFile::k_class = {
     .name = "ProfileFile",
     .qualified_name = "Vyr:ProfileFile",
     .base = nullptr,
-    .content = lmx::content_kind::simple,
+    .content = content_kind::simple,
     .may_be_empty = false,
     .ns_map = nullptr,
-    .nil_flag = lmx::k_no_flag,
-    .choice = lmx::k_no_flag,
+    .nil_flag = k_no_flag,
+    .choice = k_no_flag,
     .id = nullptr,
     .xsi_type = nullptr,
     .attributes = std::span(k_items).first(std::size(k_ProfileFile_attributes) - 1),
     .elements = std::span(k_items).subspan(std::size(k_ProfileFile_attributes) - 1),
     .attribute_map = k_ProfileFile_attributes,
-    .element_map = lmx::k_no_events,
-    .operations = &lmx::k_operations<ProfileFile>,
+    .element_map = k_no_events,
+    .operations = &k_operations<ProfileFile>,
 };
 
 ProfileFile::ProfileFile() = default;
@@ -478,35 +510,38 @@ lmx::elmx_error ProfileFile::set_ProfileFile(const lmx::c_binary& value) { retur
 // ProfileType_Parameters_ValueChoice
 
 namespace {
-constexpr lmx::s_event_map k_ProfileType_Parameters_ValueChoice_elements[] = {
-    lmx::element_event("DoubleValue", element_DoubleValue),
-    lmx::element_event("IntegerValue", element_IntegerValue),
-    lmx::element_event("StringValue", element_StringValue),
-    lmx::k_end_of_map,
+constexpr s_event_map k_ProfileType_Parameters_ValueChoice_elements[] = {
+    element_event("DoubleValue", element_DoubleValue),
+    element_event("IntegerValue", element_IntegerValue),
+    element_event("StringValue", element_StringValue),
+    k_end_of_map,
 };
 }  // namespace
 
-constinit const lmx::s_item ProfileType_Parameters_ValueChoice::k_items[] = {
-    {lmx::item_kind::alternative, lmx::value_kind::number, lmx::use_optional, lmx::ELMX_WS_COLLAPSE, "Vyr:DoubleValue", element_DoubleValue, 0, lmx::k_no_flag, lmx::position_of(k_ProfileType_Parameters_ValueChoice_elements, element_DoubleValue), lmx::position_of(k_ProfileType_Parameters_ValueChoice_elements, element_DoubleValue, 1), nullptr, nullptr, {}},
-    {lmx::item_kind::alternative, lmx::value_kind::int32, lmx::use_optional, lmx::ELMX_WS_COLLAPSE, "Vyr:IntegerValue", element_IntegerValue, 0, lmx::k_no_flag, lmx::position_of(k_ProfileType_Parameters_ValueChoice_elements, element_IntegerValue), lmx::position_of(k_ProfileType_Parameters_ValueChoice_elements, element_IntegerValue, 1), nullptr, &facets::Int32, {}},
-    {lmx::item_kind::alternative, lmx::value_kind::text, lmx::use_optional, lmx::ELMX_WS_PRESERVE, "Vyr:StringValue", element_StringValue, 0, lmx::k_no_flag, lmx::position_of(k_ProfileType_Parameters_ValueChoice_elements, element_StringValue), lmx::position_of(k_ProfileType_Parameters_ValueChoice_elements, element_StringValue, 1), nullptr, nullptr, {}},
+constinit const s_item ProfileType_Parameters_ValueChoice::k_items[] = {
+    {item_kind::alternative, value_kind::number, use_optional, ELMX_WS_COLLAPSE, "Vyr:DoubleValue", element_DoubleValue,
+     0, k_no_flag, position_of(k_ProfileType_Parameters_ValueChoice_elements, element_DoubleValue), position_of(k_ProfileType_Parameters_ValueChoice_elements, element_DoubleValue, 1), nullptr, nullptr, {}},
+    {item_kind::alternative, value_kind::int32, use_optional, ELMX_WS_COLLAPSE, "Vyr:IntegerValue", element_IntegerValue,
+     0, k_no_flag, position_of(k_ProfileType_Parameters_ValueChoice_elements, element_IntegerValue), position_of(k_ProfileType_Parameters_ValueChoice_elements, element_IntegerValue, 1), nullptr, &facets::Int32, {}},
+    {item_kind::alternative, value_kind::text, use_optional, ELMX_WS_PRESERVE, "Vyr:StringValue", element_StringValue,
+     0, k_no_flag, position_of(k_ProfileType_Parameters_ValueChoice_elements, element_StringValue), position_of(k_ProfileType_Parameters_ValueChoice_elements, element_StringValue, 1), nullptr, nullptr, {}},
 };
-constinit const lmx::s_class ProfileType_Parameters_ValueChoice::k_class = {
+constinit const s_class ProfileType_Parameters_ValueChoice::k_class = {
     .name = "ProfileType_Parameters_ValueChoice",
     .qualified_name = "Vyr:ValueChoice",
     .base = nullptr,
-    .content = lmx::content_kind::choice,
+    .content = content_kind::choice,
     .may_be_empty = false,
     .ns_map = nullptr,
-    .nil_flag = lmx::k_no_flag,
+    .nil_flag = k_no_flag,
     .choice = LMX_CHOICE(ProfileType_Parameters_ValueChoice, m_choice),
     .id = nullptr,
     .xsi_type = nullptr,
-    .attributes = std::span(k_items).first(std::size(lmx::k_no_events) - 1),
-    .elements = std::span(k_items).subspan(std::size(lmx::k_no_events) - 1),
-    .attribute_map = lmx::k_no_events,
+    .attributes = std::span(k_items).first(std::size(k_no_events) - 1),
+    .elements = std::span(k_items).subspan(std::size(k_no_events) - 1),
+    .attribute_map = k_no_events,
     .element_map = k_ProfileType_Parameters_ValueChoice_elements,
-    .operations = &lmx::k_operations<ProfileType_Parameters_ValueChoice>,
+    .operations = &k_operations<ProfileType_Parameters_ValueChoice>,
 };
 
 ProfileType_Parameters_ValueChoice::ProfileType_Parameters_ValueChoice() = default;
@@ -531,33 +566,35 @@ lmx::elmx_error ProfileType_Parameters_ValueChoice::set_StringValue(const std::u
 // ProfileType_Parameters
 
 namespace {
-constexpr lmx::s_event_map k_ProfileType_Parameters_elements[] = {
-    lmx::element_event("Name", element_Name),
-    lmx::element_event("ValueChoice", element_ValueChoice),
-    lmx::k_end_of_map,
+constexpr s_event_map k_ProfileType_Parameters_elements[] = {
+    element_event("Name", element_Name),
+    element_event("ValueChoice", element_ValueChoice),
+    k_end_of_map,
 };
 }  // namespace
 
-constinit const lmx::s_item ProfileType_Parameters::k_items[] = {
-    {lmx::item_kind::element, lmx::value_kind::text, lmx::use_required, lmx::ELMX_WS_PRESERVE, "Vyr:Name", element_Name, LMX_OFFSET(ProfileType_Parameters, m_Name, element, text), LMX_FLAG(ProfileType_Parameters, m_isset_Name), lmx::position_of(k_ProfileType_Parameters_elements, element_Name), lmx::position_of(k_ProfileType_Parameters_elements, element_Name, 1), nullptr, &facets::SingleCharacter, {}},
-    {lmx::item_kind::child, lmx::value_kind::none, lmx::use_required, lmx::ELMX_WS_PRESERVE, "Vyr:ValueChoice", element_ValueChoice, LMX_OFFSET(ProfileType_Parameters, m_ValueChoice, child, none), LMX_FLAG(ProfileType_Parameters, m_isset_ValueChoice), lmx::position_of(k_ProfileType_Parameters_elements, element_ValueChoice), lmx::position_of(k_ProfileType_Parameters_elements, element_ValueChoice, 1), &ProfileType_Parameters_ValueChoice::k_class, nullptr, {}},
+constinit const s_item ProfileType_Parameters::k_items[] = {
+    {item_kind::element, value_kind::text, use_required, ELMX_WS_PRESERVE, "Vyr:Name", element_Name,
+     LMX_OFFSET(ProfileType_Parameters, m_Name, element, text), LMX_FLAG(ProfileType_Parameters, m_isset_Name), position_of(k_ProfileType_Parameters_elements, element_Name), position_of(k_ProfileType_Parameters_elements, element_Name, 1), nullptr, &facets::SingleCharacter, {}},
+    {item_kind::child, value_kind::none, use_required, ELMX_WS_PRESERVE, "Vyr:ValueChoice", element_ValueChoice,
+     LMX_OFFSET(ProfileType_Parameters, m_ValueChoice, child, none), LMX_FLAG(ProfileType_Parameters, m_isset_ValueChoice), position_of(k_ProfileType_Parameters_elements, element_ValueChoice), position_of(k_ProfileType_Parameters_elements, element_ValueChoice, 1), &ProfileType_Parameters_ValueChoice::k_class, nullptr, {}},
 };
-constinit const lmx::s_class ProfileType_Parameters::k_class = {
+constinit const s_class ProfileType_Parameters::k_class = {
     .name = "ProfileType_Parameters",
     .qualified_name = "Vyr:Parameters",
     .base = nullptr,
-    .content = lmx::content_kind::children,
+    .content = content_kind::children,
     .may_be_empty = true,
     .ns_map = nullptr,
-    .nil_flag = lmx::k_no_flag,
-    .choice = lmx::k_no_flag,
+    .nil_flag = k_no_flag,
+    .choice = k_no_flag,
     .id = nullptr,
     .xsi_type = nullptr,
-    .attributes = std::span(k_items).first(std::size(lmx::k_no_events) - 1),
-    .elements = std::span(k_items).subspan(std::size(lmx::k_no_events) - 1),
-    .attribute_map = lmx::k_no_events,
+    .attributes = std::span(k_items).first(std::size(k_no_events) - 1),
+    .elements = std::span(k_items).subspan(std::size(k_no_events) - 1),
+    .attribute_map = k_no_events,
     .element_map = k_ProfileType_Parameters_elements,
-    .operations = &lmx::k_operations<ProfileType_Parameters>,
+    .operations = &k_operations<ProfileType_Parameters>,
 };
 
 ProfileType_Parameters::ProfileType_Parameters() = default;

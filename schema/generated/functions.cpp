@@ -18,23 +18,27 @@
 
 namespace com_vyrgraph_v2 {
 
-static_assert(lmx::k_binding_version == 1, "run schema/generator/generate.py");
+using namespace lmx;  // for the tables' sake
+
+static_assert(k_binding_version == 1, "run schema/generator/generate.py");
 
 // FunctionType
 
 namespace {
-constexpr lmx::s_event_map k_FunctionType_elements[] = {
-    lmx::element_event("CustomAttribute", element_CustomAttribute),
-    lmx::element_event("Result", element_Result),
-    lmx::k_end_of_map,
+constexpr s_event_map k_FunctionType_elements[] = {
+    element_event("CustomAttribute", element_CustomAttribute),
+    element_event("Result", element_Result),
+    k_end_of_map,
 };
 }  // namespace
 
-constinit const lmx::s_item FunctionType::k_items[] = {
-    {lmx::item_kind::child_list, lmx::value_kind::none, lmx::use_optional, lmx::ELMX_WS_PRESERVE, "Vyr:CustomAttribute", element_CustomAttribute, LMX_OFFSET(FunctionType, m_CustomAttribute, child_list, none), lmx::k_no_flag, lmx::position_of(k_FunctionType_elements, element_CustomAttribute), lmx::position_of(k_FunctionType_elements, element_CustomAttribute, 1), &CustomAttributeType::k_class, nullptr, {}},
-    {lmx::item_kind::element, lmx::value_kind::number, lmx::use_optional, lmx::ELMX_WS_COLLAPSE, "Vyr:Result", element_Result, LMX_OFFSET(FunctionType, m_Result, element, number), LMX_FLAG(FunctionType, m_isset_Result), lmx::position_of(k_FunctionType_elements, element_Result), lmx::position_of(k_FunctionType_elements, element_Result, 1), nullptr, nullptr, {}},
+constinit const s_item FunctionType::k_items[] = {
+    {item_kind::child_list, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:CustomAttribute", element_CustomAttribute,
+     LMX_OFFSET(FunctionType, m_CustomAttribute, child_list, none), k_no_flag, position_of(k_FunctionType_elements, element_CustomAttribute), position_of(k_FunctionType_elements, element_CustomAttribute, 1), &CustomAttributeType::k_class, nullptr, {}},
+    {item_kind::element, value_kind::number, use_optional, ELMX_WS_COLLAPSE, "Vyr:Result", element_Result,
+     LMX_OFFSET(FunctionType, m_Result, element, number), LMX_FLAG(FunctionType, m_isset_Result), position_of(k_FunctionType_elements, element_Result), position_of(k_FunctionType_elements, element_Result, 1), nullptr, nullptr, {}},
 };
-constinit const lmx::s_factory_row FunctionType::k_factory[] = {
+constinit const s_factory_row FunctionType::k_factory[] = {
     {"FunctionGenericType", &FunctionGenericType::k_class},
     {"FunctionDEType", &FunctionDEType::k_class},
     {"FunctionMeanDEType", &FunctionMeanDEType::k_class},
@@ -54,22 +58,22 @@ constinit const lmx::s_factory_row FunctionType::k_factory[] = {
     {"FunctionAverageStdDevBType", &FunctionAverageStdDevBType::k_class},
     {"FunctionTolerance", &FunctionTolerance::k_class},
 };
-constinit const lmx::s_class FunctionType::k_class = {
+constinit const s_class FunctionType::k_class = {
     .name = "FunctionType",
     .qualified_name = "Vyr:FunctionType",
     .base = nullptr,
-    .content = lmx::content_kind::children,
+    .content = content_kind::children,
     .may_be_empty = true,
     .ns_map = k_ns_map,
-    .nil_flag = lmx::k_no_flag,
-    .choice = lmx::k_no_flag,
+    .nil_flag = k_no_flag,
+    .choice = k_no_flag,
     .id = &FunctionType::id,
     .xsi_type = "Vyr:FunctionType",
-    .attributes = std::span(k_items).first(std::size(lmx::k_no_events) - 1),
-    .elements = std::span(k_items).subspan(std::size(lmx::k_no_events) - 1),
-    .attribute_map = lmx::k_no_events,
+    .attributes = std::span(k_items).first(std::size(k_no_events) - 1),
+    .elements = std::span(k_items).subspan(std::size(k_no_events) - 1),
+    .attribute_map = k_no_events,
     .element_map = k_FunctionType_elements,
-    .operations = &lmx::k_operations<FunctionType>,
+    .operations = &k_operations<FunctionType>,
 };
 
 FunctionType::FunctionType() = default;
@@ -107,7 +111,7 @@ lmx::elmx_error Function::marshal(lmx::c_xml_writer& writer, const char* name) c
     return FunctionType::marshal(writer, name);
 }
 lmx::elmx_error Function::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return FunctionType::unmarshal(reader, name); }
-const lmx::s_document Function::k_document = {"Vyr:Function", "Function", k_ns_map, &lmx::k_operations<Function>};
+constinit const lmx::s_document Function::k_document = {"Vyr:Function", "Function", k_ns_map, &lmx::k_operations<Function>};
 const lmx::s_ns_map* Function::ns_map() { return k_ns_map; }
 lmx::elmx_error Function::unmarshal(lmx::c_xml_reader& reader) { return lmx::unmarshal_document(k_document, this, reader); }
 Function::Function(const char* file_name, lmx::elmx_error* error) : Function() { *error = unmarshal(file_name); }
@@ -123,33 +127,35 @@ lmx::elmx_error Function::marshal(std::ostream& stream) const { return lmx::mars
 // FunctionGenericType
 
 namespace {
-constexpr lmx::s_event_map k_FunctionGenericType_elements[] = {
-    lmx::element_event("Name", element_Name),
-    lmx::element_event("Parameters", element_Parameters),
-    lmx::k_end_of_map,
+constexpr s_event_map k_FunctionGenericType_elements[] = {
+    element_event("Name", element_Name),
+    element_event("Parameters", element_Parameters),
+    k_end_of_map,
 };
 }  // namespace
 
-constinit const lmx::s_item FunctionGenericType::k_items[] = {
-    {lmx::item_kind::element, lmx::value_kind::text, lmx::use_required, lmx::ELMX_WS_COLLAPSE, "Vyr:Name", element_Name, LMX_OFFSET(FunctionGenericType, m_Name, element, text), LMX_FLAG(FunctionGenericType, m_isset_Name), lmx::position_of(k_FunctionGenericType_elements, element_Name), lmx::position_of(k_FunctionGenericType_elements, element_Name, 1), nullptr, &facets::NonEmptyToken, {}},
-    {lmx::item_kind::child_list, lmx::value_kind::none, lmx::use_optional, lmx::ELMX_WS_PRESERVE, "Vyr:Parameters", element_Parameters, LMX_OFFSET(FunctionGenericType, m_Parameters, child_list, none), lmx::k_no_flag, lmx::position_of(k_FunctionGenericType_elements, element_Parameters), lmx::position_of(k_FunctionGenericType_elements, element_Parameters, 1), &Parameters::k_class, nullptr, {}},
+constinit const s_item FunctionGenericType::k_items[] = {
+    {item_kind::element, value_kind::text, use_required, ELMX_WS_COLLAPSE, "Vyr:Name", element_Name,
+     LMX_OFFSET(FunctionGenericType, m_Name, element, text), LMX_FLAG(FunctionGenericType, m_isset_Name), position_of(k_FunctionGenericType_elements, element_Name), position_of(k_FunctionGenericType_elements, element_Name, 1), nullptr, &facets::NonEmptyToken, {}},
+    {item_kind::child_list, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:Parameters", element_Parameters,
+     LMX_OFFSET(FunctionGenericType, m_Parameters, child_list, none), k_no_flag, position_of(k_FunctionGenericType_elements, element_Parameters), position_of(k_FunctionGenericType_elements, element_Parameters, 1), &Parameters::k_class, nullptr, {}},
 };
-constinit const lmx::s_class FunctionGenericType::k_class = {
+constinit const s_class FunctionGenericType::k_class = {
     .name = "FunctionGenericType",
     .qualified_name = "Vyr:FunctionGenericType",
     .base = &FunctionType::k_class,
-    .content = lmx::content_kind::children,
+    .content = content_kind::children,
     .may_be_empty = false,
     .ns_map = k_ns_map,
-    .nil_flag = lmx::k_no_flag,
-    .choice = lmx::k_no_flag,
+    .nil_flag = k_no_flag,
+    .choice = k_no_flag,
     .id = &FunctionGenericType::id,
     .xsi_type = "Vyr:FunctionGenericType",
-    .attributes = std::span(k_items).first(std::size(lmx::k_no_events) - 1),
-    .elements = std::span(k_items).subspan(std::size(lmx::k_no_events) - 1),
-    .attribute_map = lmx::k_no_events,
+    .attributes = std::span(k_items).first(std::size(k_no_events) - 1),
+    .elements = std::span(k_items).subspan(std::size(k_no_events) - 1),
+    .attribute_map = k_no_events,
     .element_map = k_FunctionGenericType_elements,
-    .operations = &lmx::k_operations<FunctionGenericType>,
+    .operations = &k_operations<FunctionGenericType>,
 };
 
 FunctionGenericType::FunctionGenericType() = default;
@@ -182,33 +188,35 @@ void FunctionGenericType::clear_Parameters() { m_Parameters.clear(); }
 // ValueChoice
 
 namespace {
-constexpr lmx::s_event_map k_ValueChoice_elements[] = {
-    lmx::element_event("Double", element_Double),
-    lmx::element_event("String", element_String),
-    lmx::k_end_of_map,
+constexpr s_event_map k_ValueChoice_elements[] = {
+    element_event("Double", element_Double),
+    element_event("String", element_String),
+    k_end_of_map,
 };
 }  // namespace
 
-constinit const lmx::s_item ValueChoice::k_items[] = {
-    {lmx::item_kind::alternative, lmx::value_kind::number, lmx::use_optional, lmx::ELMX_WS_COLLAPSE, "Vyr:Double", element_Double, 0, lmx::k_no_flag, lmx::position_of(k_ValueChoice_elements, element_Double), lmx::position_of(k_ValueChoice_elements, element_Double, 1), nullptr, nullptr, {}},
-    {lmx::item_kind::alternative, lmx::value_kind::text, lmx::use_optional, lmx::ELMX_WS_PRESERVE, "Vyr:String", element_String, 0, lmx::k_no_flag, lmx::position_of(k_ValueChoice_elements, element_String), lmx::position_of(k_ValueChoice_elements, element_String, 1), nullptr, nullptr, {}},
+constinit const s_item ValueChoice::k_items[] = {
+    {item_kind::alternative, value_kind::number, use_optional, ELMX_WS_COLLAPSE, "Vyr:Double", element_Double,
+     0, k_no_flag, position_of(k_ValueChoice_elements, element_Double), position_of(k_ValueChoice_elements, element_Double, 1), nullptr, nullptr, {}},
+    {item_kind::alternative, value_kind::text, use_optional, ELMX_WS_PRESERVE, "Vyr:String", element_String,
+     0, k_no_flag, position_of(k_ValueChoice_elements, element_String), position_of(k_ValueChoice_elements, element_String, 1), nullptr, nullptr, {}},
 };
-constinit const lmx::s_class ValueChoice::k_class = {
+constinit const s_class ValueChoice::k_class = {
     .name = "ValueChoice",
     .qualified_name = "Vyr:ValueChoice",
     .base = nullptr,
-    .content = lmx::content_kind::choice,
+    .content = content_kind::choice,
     .may_be_empty = false,
     .ns_map = nullptr,
-    .nil_flag = lmx::k_no_flag,
+    .nil_flag = k_no_flag,
     .choice = LMX_CHOICE(ValueChoice, m_choice),
     .id = nullptr,
     .xsi_type = nullptr,
-    .attributes = std::span(k_items).first(std::size(lmx::k_no_events) - 1),
-    .elements = std::span(k_items).subspan(std::size(lmx::k_no_events) - 1),
-    .attribute_map = lmx::k_no_events,
+    .attributes = std::span(k_items).first(std::size(k_no_events) - 1),
+    .elements = std::span(k_items).subspan(std::size(k_no_events) - 1),
+    .attribute_map = k_no_events,
     .element_map = k_ValueChoice_elements,
-    .operations = &lmx::k_operations<ValueChoice>,
+    .operations = &k_operations<ValueChoice>,
 };
 
 ValueChoice::ValueChoice() = default;
@@ -232,33 +240,35 @@ lmx::elmx_error ValueChoice::set_String(const std::u16string& value) { return lm
 // Parameters
 
 namespace {
-constexpr lmx::s_event_map k_Parameters_elements[] = {
-    lmx::element_event("Name", element_Name),
-    lmx::element_event("ValueChoice", element_ValueChoice),
-    lmx::k_end_of_map,
+constexpr s_event_map k_Parameters_elements[] = {
+    element_event("Name", element_Name),
+    element_event("ValueChoice", element_ValueChoice),
+    k_end_of_map,
 };
 }  // namespace
 
-constinit const lmx::s_item Parameters::k_items[] = {
-    {lmx::item_kind::element, lmx::value_kind::text, lmx::use_required, lmx::ELMX_WS_PRESERVE, "Vyr:Name", element_Name, LMX_OFFSET(Parameters, m_Name, element, text), LMX_FLAG(Parameters, m_isset_Name), lmx::position_of(k_Parameters_elements, element_Name), lmx::position_of(k_Parameters_elements, element_Name, 1), nullptr, nullptr, {}},
-    {lmx::item_kind::child, lmx::value_kind::none, lmx::use_required, lmx::ELMX_WS_PRESERVE, "Vyr:ValueChoice", element_ValueChoice, LMX_OFFSET(Parameters, m_ValueChoice, child, none), LMX_FLAG(Parameters, m_isset_ValueChoice), lmx::position_of(k_Parameters_elements, element_ValueChoice), lmx::position_of(k_Parameters_elements, element_ValueChoice, 1), &ValueChoice::k_class, nullptr, {}},
+constinit const s_item Parameters::k_items[] = {
+    {item_kind::element, value_kind::text, use_required, ELMX_WS_PRESERVE, "Vyr:Name", element_Name,
+     LMX_OFFSET(Parameters, m_Name, element, text), LMX_FLAG(Parameters, m_isset_Name), position_of(k_Parameters_elements, element_Name), position_of(k_Parameters_elements, element_Name, 1), nullptr, nullptr, {}},
+    {item_kind::child, value_kind::none, use_required, ELMX_WS_PRESERVE, "Vyr:ValueChoice", element_ValueChoice,
+     LMX_OFFSET(Parameters, m_ValueChoice, child, none), LMX_FLAG(Parameters, m_isset_ValueChoice), position_of(k_Parameters_elements, element_ValueChoice), position_of(k_Parameters_elements, element_ValueChoice, 1), &ValueChoice::k_class, nullptr, {}},
 };
-constinit const lmx::s_class Parameters::k_class = {
+constinit const s_class Parameters::k_class = {
     .name = "Parameters",
     .qualified_name = "Vyr:Parameters",
     .base = nullptr,
-    .content = lmx::content_kind::children,
+    .content = content_kind::children,
     .may_be_empty = true,
     .ns_map = nullptr,
-    .nil_flag = lmx::k_no_flag,
-    .choice = lmx::k_no_flag,
+    .nil_flag = k_no_flag,
+    .choice = k_no_flag,
     .id = nullptr,
     .xsi_type = nullptr,
-    .attributes = std::span(k_items).first(std::size(lmx::k_no_events) - 1),
-    .elements = std::span(k_items).subspan(std::size(lmx::k_no_events) - 1),
-    .attribute_map = lmx::k_no_events,
+    .attributes = std::span(k_items).first(std::size(k_no_events) - 1),
+    .elements = std::span(k_items).subspan(std::size(k_no_events) - 1),
+    .attribute_map = k_no_events,
     .element_map = k_Parameters_elements,
-    .operations = &lmx::k_operations<Parameters>,
+    .operations = &k_operations<Parameters>,
 };
 
 Parameters::Parameters() = default;
@@ -280,22 +290,22 @@ ValueChoice& Parameters::assign_ValueChoice(const ValueChoice& value) { return g
 
 // FunctionDEType
 
-constinit const lmx::s_class FunctionDEType::k_class = {
+constinit const s_class FunctionDEType::k_class = {
     .name = "FunctionDEType",
     .qualified_name = "Vyr:FunctionDEType",
     .base = &FunctionType::k_class,
-    .content = lmx::content_kind::children,
+    .content = content_kind::children,
     .may_be_empty = true,
     .ns_map = k_ns_map,
-    .nil_flag = lmx::k_no_flag,
-    .choice = lmx::k_no_flag,
+    .nil_flag = k_no_flag,
+    .choice = k_no_flag,
     .id = &FunctionDEType::id,
     .xsi_type = "Vyr:FunctionDEType",
     .attributes = {},
     .elements = {},
-    .attribute_map = lmx::k_no_events,
-    .element_map = lmx::k_no_events,
-    .operations = &lmx::k_operations<FunctionDEType>,
+    .attribute_map = k_no_events,
+    .element_map = k_no_events,
+    .operations = &k_operations<FunctionDEType>,
 };
 
 FunctionDEType::FunctionDEType() = default;
@@ -320,22 +330,22 @@ bool FunctionDEType::has_id(const char* identity) const { return identity == id 
 
 // FunctionMeanDEType
 
-constinit const lmx::s_class FunctionMeanDEType::k_class = {
+constinit const s_class FunctionMeanDEType::k_class = {
     .name = "FunctionMeanDEType",
     .qualified_name = "Vyr:FunctionMeanDEType",
     .base = &FunctionType::k_class,
-    .content = lmx::content_kind::children,
+    .content = content_kind::children,
     .may_be_empty = true,
     .ns_map = k_ns_map,
-    .nil_flag = lmx::k_no_flag,
-    .choice = lmx::k_no_flag,
+    .nil_flag = k_no_flag,
+    .choice = k_no_flag,
     .id = &FunctionMeanDEType::id,
     .xsi_type = "Vyr:FunctionMeanDEType",
     .attributes = {},
     .elements = {},
-    .attribute_map = lmx::k_no_events,
-    .element_map = lmx::k_no_events,
-    .operations = &lmx::k_operations<FunctionMeanDEType>,
+    .attribute_map = k_no_events,
+    .element_map = k_no_events,
+    .operations = &k_operations<FunctionMeanDEType>,
 };
 
 FunctionMeanDEType::FunctionMeanDEType() = default;
@@ -361,35 +371,38 @@ bool FunctionMeanDEType::has_id(const char* identity) const { return identity ==
 // FunctionDE94Type
 
 namespace {
-constexpr lmx::s_event_map k_FunctionDE94Type_elements[] = {
-    lmx::element_event("Param_l", element_Param_l),
-    lmx::element_event("Param_c", element_Param_c),
-    lmx::element_event("Param_h", element_Param_h),
-    lmx::k_end_of_map,
+constexpr s_event_map k_FunctionDE94Type_elements[] = {
+    element_event("Param_l", element_Param_l),
+    element_event("Param_c", element_Param_c),
+    element_event("Param_h", element_Param_h),
+    k_end_of_map,
 };
 }  // namespace
 
-constinit const lmx::s_item FunctionDE94Type::k_items[] = {
-    {lmx::item_kind::element, lmx::value_kind::number, lmx::use_required, lmx::ELMX_WS_COLLAPSE, "Vyr:Param_l", element_Param_l, LMX_OFFSET(FunctionDE94Type, m_Param_l, element, number), LMX_FLAG(FunctionDE94Type, m_isset_Param_l), lmx::position_of(k_FunctionDE94Type_elements, element_Param_l), lmx::position_of(k_FunctionDE94Type_elements, element_Param_l, 1), nullptr, &facets::NonNegative, {}},
-    {lmx::item_kind::element, lmx::value_kind::number, lmx::use_required, lmx::ELMX_WS_COLLAPSE, "Vyr:Param_c", element_Param_c, LMX_OFFSET(FunctionDE94Type, m_Param_c, element, number), LMX_FLAG(FunctionDE94Type, m_isset_Param_c), lmx::position_of(k_FunctionDE94Type_elements, element_Param_c), lmx::position_of(k_FunctionDE94Type_elements, element_Param_c, 1), nullptr, &facets::NonNegative, {}},
-    {lmx::item_kind::element, lmx::value_kind::number, lmx::use_required, lmx::ELMX_WS_COLLAPSE, "Vyr:Param_h", element_Param_h, LMX_OFFSET(FunctionDE94Type, m_Param_h, element, number), LMX_FLAG(FunctionDE94Type, m_isset_Param_h), lmx::position_of(k_FunctionDE94Type_elements, element_Param_h), lmx::position_of(k_FunctionDE94Type_elements, element_Param_h, 1), nullptr, &facets::NonNegative, {}},
+constinit const s_item FunctionDE94Type::k_items[] = {
+    {item_kind::element, value_kind::number, use_required, ELMX_WS_COLLAPSE, "Vyr:Param_l", element_Param_l,
+     LMX_OFFSET(FunctionDE94Type, m_Param_l, element, number), LMX_FLAG(FunctionDE94Type, m_isset_Param_l), position_of(k_FunctionDE94Type_elements, element_Param_l), position_of(k_FunctionDE94Type_elements, element_Param_l, 1), nullptr, &facets::NonNegative, {}},
+    {item_kind::element, value_kind::number, use_required, ELMX_WS_COLLAPSE, "Vyr:Param_c", element_Param_c,
+     LMX_OFFSET(FunctionDE94Type, m_Param_c, element, number), LMX_FLAG(FunctionDE94Type, m_isset_Param_c), position_of(k_FunctionDE94Type_elements, element_Param_c), position_of(k_FunctionDE94Type_elements, element_Param_c, 1), nullptr, &facets::NonNegative, {}},
+    {item_kind::element, value_kind::number, use_required, ELMX_WS_COLLAPSE, "Vyr:Param_h", element_Param_h,
+     LMX_OFFSET(FunctionDE94Type, m_Param_h, element, number), LMX_FLAG(FunctionDE94Type, m_isset_Param_h), position_of(k_FunctionDE94Type_elements, element_Param_h), position_of(k_FunctionDE94Type_elements, element_Param_h, 1), nullptr, &facets::NonNegative, {}},
 };
-constinit const lmx::s_class FunctionDE94Type::k_class = {
+constinit const s_class FunctionDE94Type::k_class = {
     .name = "FunctionDE94Type",
     .qualified_name = "Vyr:FunctionDE94Type",
     .base = &FunctionType::k_class,
-    .content = lmx::content_kind::children,
+    .content = content_kind::children,
     .may_be_empty = false,
     .ns_map = k_ns_map,
-    .nil_flag = lmx::k_no_flag,
-    .choice = lmx::k_no_flag,
+    .nil_flag = k_no_flag,
+    .choice = k_no_flag,
     .id = &FunctionDE94Type::id,
     .xsi_type = "Vyr:FunctionDE94Type",
-    .attributes = std::span(k_items).first(std::size(lmx::k_no_events) - 1),
-    .elements = std::span(k_items).subspan(std::size(lmx::k_no_events) - 1),
-    .attribute_map = lmx::k_no_events,
+    .attributes = std::span(k_items).first(std::size(k_no_events) - 1),
+    .elements = std::span(k_items).subspan(std::size(k_no_events) - 1),
+    .attribute_map = k_no_events,
     .element_map = k_FunctionDE94Type_elements,
-    .operations = &lmx::k_operations<FunctionDE94Type>,
+    .operations = &k_operations<FunctionDE94Type>,
 };
 
 FunctionDE94Type::FunctionDE94Type() = default;
@@ -418,35 +431,38 @@ lmx::elmx_error FunctionDE94Type::set_Param_h(double value) { return lmx::set_it
 // FunctionDE2000Type
 
 namespace {
-constexpr lmx::s_event_map k_FunctionDE2000Type_elements[] = {
-    lmx::element_event("Param_l", element_Param_l),
-    lmx::element_event("Param_c", element_Param_c),
-    lmx::element_event("Param_h", element_Param_h),
-    lmx::k_end_of_map,
+constexpr s_event_map k_FunctionDE2000Type_elements[] = {
+    element_event("Param_l", element_Param_l),
+    element_event("Param_c", element_Param_c),
+    element_event("Param_h", element_Param_h),
+    k_end_of_map,
 };
 }  // namespace
 
-constinit const lmx::s_item FunctionDE2000Type::k_items[] = {
-    {lmx::item_kind::element, lmx::value_kind::number, lmx::use_required, lmx::ELMX_WS_COLLAPSE, "Vyr:Param_l", element_Param_l, LMX_OFFSET(FunctionDE2000Type, m_Param_l, element, number), LMX_FLAG(FunctionDE2000Type, m_isset_Param_l), lmx::position_of(k_FunctionDE2000Type_elements, element_Param_l), lmx::position_of(k_FunctionDE2000Type_elements, element_Param_l, 1), nullptr, &facets::NonNegative, {}},
-    {lmx::item_kind::element, lmx::value_kind::number, lmx::use_required, lmx::ELMX_WS_COLLAPSE, "Vyr:Param_c", element_Param_c, LMX_OFFSET(FunctionDE2000Type, m_Param_c, element, number), LMX_FLAG(FunctionDE2000Type, m_isset_Param_c), lmx::position_of(k_FunctionDE2000Type_elements, element_Param_c), lmx::position_of(k_FunctionDE2000Type_elements, element_Param_c, 1), nullptr, &facets::NonNegative, {}},
-    {lmx::item_kind::element, lmx::value_kind::number, lmx::use_required, lmx::ELMX_WS_COLLAPSE, "Vyr:Param_h", element_Param_h, LMX_OFFSET(FunctionDE2000Type, m_Param_h, element, number), LMX_FLAG(FunctionDE2000Type, m_isset_Param_h), lmx::position_of(k_FunctionDE2000Type_elements, element_Param_h), lmx::position_of(k_FunctionDE2000Type_elements, element_Param_h, 1), nullptr, &facets::NonNegative, {}},
+constinit const s_item FunctionDE2000Type::k_items[] = {
+    {item_kind::element, value_kind::number, use_required, ELMX_WS_COLLAPSE, "Vyr:Param_l", element_Param_l,
+     LMX_OFFSET(FunctionDE2000Type, m_Param_l, element, number), LMX_FLAG(FunctionDE2000Type, m_isset_Param_l), position_of(k_FunctionDE2000Type_elements, element_Param_l), position_of(k_FunctionDE2000Type_elements, element_Param_l, 1), nullptr, &facets::NonNegative, {}},
+    {item_kind::element, value_kind::number, use_required, ELMX_WS_COLLAPSE, "Vyr:Param_c", element_Param_c,
+     LMX_OFFSET(FunctionDE2000Type, m_Param_c, element, number), LMX_FLAG(FunctionDE2000Type, m_isset_Param_c), position_of(k_FunctionDE2000Type_elements, element_Param_c), position_of(k_FunctionDE2000Type_elements, element_Param_c, 1), nullptr, &facets::NonNegative, {}},
+    {item_kind::element, value_kind::number, use_required, ELMX_WS_COLLAPSE, "Vyr:Param_h", element_Param_h,
+     LMX_OFFSET(FunctionDE2000Type, m_Param_h, element, number), LMX_FLAG(FunctionDE2000Type, m_isset_Param_h), position_of(k_FunctionDE2000Type_elements, element_Param_h), position_of(k_FunctionDE2000Type_elements, element_Param_h, 1), nullptr, &facets::NonNegative, {}},
 };
-constinit const lmx::s_class FunctionDE2000Type::k_class = {
+constinit const s_class FunctionDE2000Type::k_class = {
     .name = "FunctionDE2000Type",
     .qualified_name = "Vyr:FunctionDE2000Type",
     .base = &FunctionType::k_class,
-    .content = lmx::content_kind::children,
+    .content = content_kind::children,
     .may_be_empty = false,
     .ns_map = k_ns_map,
-    .nil_flag = lmx::k_no_flag,
-    .choice = lmx::k_no_flag,
+    .nil_flag = k_no_flag,
+    .choice = k_no_flag,
     .id = &FunctionDE2000Type::id,
     .xsi_type = "Vyr:FunctionDE2000Type",
-    .attributes = std::span(k_items).first(std::size(lmx::k_no_events) - 1),
-    .elements = std::span(k_items).subspan(std::size(lmx::k_no_events) - 1),
-    .attribute_map = lmx::k_no_events,
+    .attributes = std::span(k_items).first(std::size(k_no_events) - 1),
+    .elements = std::span(k_items).subspan(std::size(k_no_events) - 1),
+    .attribute_map = k_no_events,
     .element_map = k_FunctionDE2000Type_elements,
-    .operations = &lmx::k_operations<FunctionDE2000Type>,
+    .operations = &k_operations<FunctionDE2000Type>,
 };
 
 FunctionDE2000Type::FunctionDE2000Type() = default;
@@ -475,33 +491,35 @@ lmx::elmx_error FunctionDE2000Type::set_Param_h(double value) { return lmx::set_
 // FunctionDEcmcType
 
 namespace {
-constexpr lmx::s_event_map k_FunctionDEcmcType_elements[] = {
-    lmx::element_event("Param_l", element_Param_l),
-    lmx::element_event("Param_c", element_Param_c),
-    lmx::k_end_of_map,
+constexpr s_event_map k_FunctionDEcmcType_elements[] = {
+    element_event("Param_l", element_Param_l),
+    element_event("Param_c", element_Param_c),
+    k_end_of_map,
 };
 }  // namespace
 
-constinit const lmx::s_item FunctionDEcmcType::k_items[] = {
-    {lmx::item_kind::element, lmx::value_kind::number, lmx::use_required, lmx::ELMX_WS_COLLAPSE, "Vyr:Param_l", element_Param_l, LMX_OFFSET(FunctionDEcmcType, m_Param_l, element, number), LMX_FLAG(FunctionDEcmcType, m_isset_Param_l), lmx::position_of(k_FunctionDEcmcType_elements, element_Param_l), lmx::position_of(k_FunctionDEcmcType_elements, element_Param_l, 1), nullptr, &facets::NonNegative, {}},
-    {lmx::item_kind::element, lmx::value_kind::number, lmx::use_required, lmx::ELMX_WS_COLLAPSE, "Vyr:Param_c", element_Param_c, LMX_OFFSET(FunctionDEcmcType, m_Param_c, element, number), LMX_FLAG(FunctionDEcmcType, m_isset_Param_c), lmx::position_of(k_FunctionDEcmcType_elements, element_Param_c), lmx::position_of(k_FunctionDEcmcType_elements, element_Param_c, 1), nullptr, &facets::NonNegative, {}},
+constinit const s_item FunctionDEcmcType::k_items[] = {
+    {item_kind::element, value_kind::number, use_required, ELMX_WS_COLLAPSE, "Vyr:Param_l", element_Param_l,
+     LMX_OFFSET(FunctionDEcmcType, m_Param_l, element, number), LMX_FLAG(FunctionDEcmcType, m_isset_Param_l), position_of(k_FunctionDEcmcType_elements, element_Param_l), position_of(k_FunctionDEcmcType_elements, element_Param_l, 1), nullptr, &facets::NonNegative, {}},
+    {item_kind::element, value_kind::number, use_required, ELMX_WS_COLLAPSE, "Vyr:Param_c", element_Param_c,
+     LMX_OFFSET(FunctionDEcmcType, m_Param_c, element, number), LMX_FLAG(FunctionDEcmcType, m_isset_Param_c), position_of(k_FunctionDEcmcType_elements, element_Param_c), position_of(k_FunctionDEcmcType_elements, element_Param_c, 1), nullptr, &facets::NonNegative, {}},
 };
-constinit const lmx::s_class FunctionDEcmcType::k_class = {
+constinit const s_class FunctionDEcmcType::k_class = {
     .name = "FunctionDEcmcType",
     .qualified_name = "Vyr:FunctionDEcmcType",
     .base = &FunctionType::k_class,
-    .content = lmx::content_kind::children,
+    .content = content_kind::children,
     .may_be_empty = false,
     .ns_map = k_ns_map,
-    .nil_flag = lmx::k_no_flag,
-    .choice = lmx::k_no_flag,
+    .nil_flag = k_no_flag,
+    .choice = k_no_flag,
     .id = &FunctionDEcmcType::id,
     .xsi_type = "Vyr:FunctionDEcmcType",
-    .attributes = std::span(k_items).first(std::size(lmx::k_no_events) - 1),
-    .elements = std::span(k_items).subspan(std::size(lmx::k_no_events) - 1),
-    .attribute_map = lmx::k_no_events,
+    .attributes = std::span(k_items).first(std::size(k_no_events) - 1),
+    .elements = std::span(k_items).subspan(std::size(k_no_events) - 1),
+    .attribute_map = k_no_events,
     .element_map = k_FunctionDEcmcType_elements,
-    .operations = &lmx::k_operations<FunctionDEcmcType>,
+    .operations = &k_operations<FunctionDEcmcType>,
 };
 
 FunctionDEcmcType::FunctionDEcmcType() = default;
@@ -533,7 +551,7 @@ lmx::elmx_error FunctionGeneric::marshal(lmx::c_xml_writer& writer, const char* 
     return FunctionGenericType::marshal(writer, name);
 }
 lmx::elmx_error FunctionGeneric::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return FunctionGenericType::unmarshal(reader, name); }
-const lmx::s_document FunctionGeneric::k_document = {"Vyr:FunctionGeneric", "FunctionGeneric", k_ns_map, &lmx::k_operations<FunctionGeneric>};
+constinit const lmx::s_document FunctionGeneric::k_document = {"Vyr:FunctionGeneric", "FunctionGeneric", k_ns_map, &lmx::k_operations<FunctionGeneric>};
 const lmx::s_ns_map* FunctionGeneric::ns_map() { return k_ns_map; }
 lmx::elmx_error FunctionGeneric::unmarshal(lmx::c_xml_reader& reader) { return lmx::unmarshal_document(k_document, this, reader); }
 FunctionGeneric::FunctionGeneric(const char* file_name, lmx::elmx_error* error) : FunctionGeneric() { *error = unmarshal(file_name); }
@@ -553,7 +571,7 @@ lmx::elmx_error FunctionDE::marshal(lmx::c_xml_writer& writer, const char* name)
     return FunctionDEType::marshal(writer, name);
 }
 lmx::elmx_error FunctionDE::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return FunctionDEType::unmarshal(reader, name); }
-const lmx::s_document FunctionDE::k_document = {"Vyr:FunctionDE", "FunctionDE", k_ns_map, &lmx::k_operations<FunctionDE>};
+constinit const lmx::s_document FunctionDE::k_document = {"Vyr:FunctionDE", "FunctionDE", k_ns_map, &lmx::k_operations<FunctionDE>};
 const lmx::s_ns_map* FunctionDE::ns_map() { return k_ns_map; }
 lmx::elmx_error FunctionDE::unmarshal(lmx::c_xml_reader& reader) { return lmx::unmarshal_document(k_document, this, reader); }
 FunctionDE::FunctionDE(const char* file_name, lmx::elmx_error* error) : FunctionDE() { *error = unmarshal(file_name); }
@@ -573,7 +591,7 @@ lmx::elmx_error FunctionMeanDE::marshal(lmx::c_xml_writer& writer, const char* n
     return FunctionMeanDEType::marshal(writer, name);
 }
 lmx::elmx_error FunctionMeanDE::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return FunctionMeanDEType::unmarshal(reader, name); }
-const lmx::s_document FunctionMeanDE::k_document = {"Vyr:FunctionMeanDE", "FunctionMeanDE", k_ns_map, &lmx::k_operations<FunctionMeanDE>};
+constinit const lmx::s_document FunctionMeanDE::k_document = {"Vyr:FunctionMeanDE", "FunctionMeanDE", k_ns_map, &lmx::k_operations<FunctionMeanDE>};
 const lmx::s_ns_map* FunctionMeanDE::ns_map() { return k_ns_map; }
 lmx::elmx_error FunctionMeanDE::unmarshal(lmx::c_xml_reader& reader) { return lmx::unmarshal_document(k_document, this, reader); }
 FunctionMeanDE::FunctionMeanDE(const char* file_name, lmx::elmx_error* error) : FunctionMeanDE() { *error = unmarshal(file_name); }
@@ -593,7 +611,7 @@ lmx::elmx_error FunctionDE94::marshal(lmx::c_xml_writer& writer, const char* nam
     return FunctionDE94Type::marshal(writer, name);
 }
 lmx::elmx_error FunctionDE94::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return FunctionDE94Type::unmarshal(reader, name); }
-const lmx::s_document FunctionDE94::k_document = {"Vyr:FunctionDE94", "FunctionDE94", k_ns_map, &lmx::k_operations<FunctionDE94>};
+constinit const lmx::s_document FunctionDE94::k_document = {"Vyr:FunctionDE94", "FunctionDE94", k_ns_map, &lmx::k_operations<FunctionDE94>};
 const lmx::s_ns_map* FunctionDE94::ns_map() { return k_ns_map; }
 lmx::elmx_error FunctionDE94::unmarshal(lmx::c_xml_reader& reader) { return lmx::unmarshal_document(k_document, this, reader); }
 FunctionDE94::FunctionDE94(const char* file_name, lmx::elmx_error* error) : FunctionDE94() { *error = unmarshal(file_name); }
@@ -613,7 +631,7 @@ lmx::elmx_error FunctionDE2000::marshal(lmx::c_xml_writer& writer, const char* n
     return FunctionDE2000Type::marshal(writer, name);
 }
 lmx::elmx_error FunctionDE2000::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return FunctionDE2000Type::unmarshal(reader, name); }
-const lmx::s_document FunctionDE2000::k_document = {"Vyr:FunctionDE2000", "FunctionDE2000", k_ns_map, &lmx::k_operations<FunctionDE2000>};
+constinit const lmx::s_document FunctionDE2000::k_document = {"Vyr:FunctionDE2000", "FunctionDE2000", k_ns_map, &lmx::k_operations<FunctionDE2000>};
 const lmx::s_ns_map* FunctionDE2000::ns_map() { return k_ns_map; }
 lmx::elmx_error FunctionDE2000::unmarshal(lmx::c_xml_reader& reader) { return lmx::unmarshal_document(k_document, this, reader); }
 FunctionDE2000::FunctionDE2000(const char* file_name, lmx::elmx_error* error) : FunctionDE2000() { *error = unmarshal(file_name); }
@@ -633,7 +651,7 @@ lmx::elmx_error FunctionDECMC::marshal(lmx::c_xml_writer& writer, const char* na
     return FunctionDEcmcType::marshal(writer, name);
 }
 lmx::elmx_error FunctionDECMC::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return FunctionDEcmcType::unmarshal(reader, name); }
-const lmx::s_document FunctionDECMC::k_document = {"Vyr:FunctionDECMC", "FunctionDECMC", k_ns_map, &lmx::k_operations<FunctionDECMC>};
+constinit const lmx::s_document FunctionDECMC::k_document = {"Vyr:FunctionDECMC", "FunctionDECMC", k_ns_map, &lmx::k_operations<FunctionDECMC>};
 const lmx::s_ns_map* FunctionDECMC::ns_map() { return k_ns_map; }
 lmx::elmx_error FunctionDECMC::unmarshal(lmx::c_xml_reader& reader) { return lmx::unmarshal_document(k_document, this, reader); }
 FunctionDECMC::FunctionDECMC(const char* file_name, lmx::elmx_error* error) : FunctionDECMC() { *error = unmarshal(file_name); }
@@ -649,33 +667,35 @@ lmx::elmx_error FunctionDECMC::marshal(std::ostream& stream) const { return lmx:
 // FunctionTolerance
 
 namespace {
-constexpr lmx::s_event_map k_FunctionTolerance_elements[] = {
-    lmx::element_event("ToleranceType", element_ToleranceType),
-    lmx::element_event("Parameters", element_Parameters),
-    lmx::k_end_of_map,
+constexpr s_event_map k_FunctionTolerance_elements[] = {
+    element_event("ToleranceType", element_ToleranceType),
+    element_event("Parameters", element_Parameters),
+    k_end_of_map,
 };
 }  // namespace
 
-constinit const lmx::s_item FunctionTolerance::k_items[] = {
-    {lmx::item_kind::element, lmx::value_kind::text, lmx::use_required, lmx::ELMX_WS_PRESERVE, "Vyr:ToleranceType", element_ToleranceType, LMX_OFFSET(FunctionTolerance, m_ToleranceType, element, text), LMX_FLAG(FunctionTolerance, m_isset_ToleranceType), lmx::position_of(k_FunctionTolerance_elements, element_ToleranceType), lmx::position_of(k_FunctionTolerance_elements, element_ToleranceType, 1), nullptr, &facets::ToleranceFormulaKind, {}},
-    {lmx::item_kind::child_list, lmx::value_kind::none, lmx::use_demanded | lmx::use_asked, lmx::ELMX_WS_PRESERVE, "Vyr:Parameters", element_Parameters, LMX_OFFSET(FunctionTolerance, m_Parameters, child_list, none), lmx::k_no_flag, lmx::position_of(k_FunctionTolerance_elements, element_Parameters), lmx::position_of(k_FunctionTolerance_elements, element_Parameters, 1), &ToleranceParameterType::k_class, nullptr, {}},
+constinit const s_item FunctionTolerance::k_items[] = {
+    {item_kind::element, value_kind::text, use_required, ELMX_WS_PRESERVE, "Vyr:ToleranceType", element_ToleranceType,
+     LMX_OFFSET(FunctionTolerance, m_ToleranceType, element, text), LMX_FLAG(FunctionTolerance, m_isset_ToleranceType), position_of(k_FunctionTolerance_elements, element_ToleranceType), position_of(k_FunctionTolerance_elements, element_ToleranceType, 1), nullptr, &facets::ToleranceFormulaKind, {}},
+    {item_kind::child_list, value_kind::none, use_demanded | use_asked, ELMX_WS_PRESERVE, "Vyr:Parameters", element_Parameters,
+     LMX_OFFSET(FunctionTolerance, m_Parameters, child_list, none), k_no_flag, position_of(k_FunctionTolerance_elements, element_Parameters), position_of(k_FunctionTolerance_elements, element_Parameters, 1), &ToleranceParameterType::k_class, nullptr, {}},
 };
-constinit const lmx::s_class FunctionTolerance::k_class = {
+constinit const s_class FunctionTolerance::k_class = {
     .name = "FunctionTolerance",
     .qualified_name = "Vyr:FunctionTolerance",
     .base = &FunctionType::k_class,
-    .content = lmx::content_kind::children,
+    .content = content_kind::children,
     .may_be_empty = false,
     .ns_map = k_ns_map,
-    .nil_flag = lmx::k_no_flag,
-    .choice = lmx::k_no_flag,
+    .nil_flag = k_no_flag,
+    .choice = k_no_flag,
     .id = &FunctionTolerance::id,
     .xsi_type = "Vyr:FunctionTolerance",
-    .attributes = std::span(k_items).first(std::size(lmx::k_no_events) - 1),
-    .elements = std::span(k_items).subspan(std::size(lmx::k_no_events) - 1),
-    .attribute_map = lmx::k_no_events,
+    .attributes = std::span(k_items).first(std::size(k_no_events) - 1),
+    .elements = std::span(k_items).subspan(std::size(k_no_events) - 1),
+    .attribute_map = k_no_events,
     .element_map = k_FunctionTolerance_elements,
-    .operations = &lmx::k_operations<FunctionTolerance>,
+    .operations = &k_operations<FunctionTolerance>,
 };
 
 FunctionTolerance::FunctionTolerance() = default;
@@ -710,35 +730,38 @@ void FunctionTolerance::clear_Parameters() { m_Parameters.clear(); }
 // ToleranceParameterType
 
 namespace {
-constexpr lmx::s_event_map k_ToleranceParameterType_elements[] = {
-    lmx::element_event("HighValue", element_HighValue),
-    lmx::element_event("ToleranceParameter", element_ToleranceParameter),
-    lmx::element_event("LowValue", element_LowValue),
-    lmx::k_end_of_map,
+constexpr s_event_map k_ToleranceParameterType_elements[] = {
+    element_event("HighValue", element_HighValue),
+    element_event("ToleranceParameter", element_ToleranceParameter),
+    element_event("LowValue", element_LowValue),
+    k_end_of_map,
 };
 }  // namespace
 
-constinit const lmx::s_item ToleranceParameterType::k_items[] = {
-    {lmx::item_kind::element, lmx::value_kind::number, lmx::use_optional, lmx::ELMX_WS_COLLAPSE, "Vyr:HighValue", element_HighValue, LMX_OFFSET(ToleranceParameterType, m_HighValue, element, number), LMX_FLAG(ToleranceParameterType, m_isset_HighValue), lmx::position_of(k_ToleranceParameterType_elements, element_HighValue), lmx::position_of(k_ToleranceParameterType_elements, element_HighValue, 1), nullptr, nullptr, {}},
-    {lmx::item_kind::element, lmx::value_kind::text, lmx::use_optional, lmx::ELMX_WS_PRESERVE, "Vyr:ToleranceParameter", element_ToleranceParameter, LMX_OFFSET(ToleranceParameterType, m_ToleranceParameter, element, text), LMX_FLAG(ToleranceParameterType, m_isset_ToleranceParameter), lmx::position_of(k_ToleranceParameterType_elements, element_ToleranceParameter), lmx::position_of(k_ToleranceParameterType_elements, element_ToleranceParameter, 1), nullptr, &facets::ToleranceParameterKind, {}},
-    {lmx::item_kind::element, lmx::value_kind::number, lmx::use_required, lmx::ELMX_WS_COLLAPSE, "Vyr:LowValue", element_LowValue, LMX_OFFSET(ToleranceParameterType, m_LowValue, element, number), LMX_FLAG(ToleranceParameterType, m_isset_LowValue), lmx::position_of(k_ToleranceParameterType_elements, element_LowValue), lmx::position_of(k_ToleranceParameterType_elements, element_LowValue, 1), nullptr, nullptr, {}},
+constinit const s_item ToleranceParameterType::k_items[] = {
+    {item_kind::element, value_kind::number, use_optional, ELMX_WS_COLLAPSE, "Vyr:HighValue", element_HighValue,
+     LMX_OFFSET(ToleranceParameterType, m_HighValue, element, number), LMX_FLAG(ToleranceParameterType, m_isset_HighValue), position_of(k_ToleranceParameterType_elements, element_HighValue), position_of(k_ToleranceParameterType_elements, element_HighValue, 1), nullptr, nullptr, {}},
+    {item_kind::element, value_kind::text, use_optional, ELMX_WS_PRESERVE, "Vyr:ToleranceParameter", element_ToleranceParameter,
+     LMX_OFFSET(ToleranceParameterType, m_ToleranceParameter, element, text), LMX_FLAG(ToleranceParameterType, m_isset_ToleranceParameter), position_of(k_ToleranceParameterType_elements, element_ToleranceParameter), position_of(k_ToleranceParameterType_elements, element_ToleranceParameter, 1), nullptr, &facets::ToleranceParameterKind, {}},
+    {item_kind::element, value_kind::number, use_required, ELMX_WS_COLLAPSE, "Vyr:LowValue", element_LowValue,
+     LMX_OFFSET(ToleranceParameterType, m_LowValue, element, number), LMX_FLAG(ToleranceParameterType, m_isset_LowValue), position_of(k_ToleranceParameterType_elements, element_LowValue), position_of(k_ToleranceParameterType_elements, element_LowValue, 1), nullptr, nullptr, {}},
 };
-constinit const lmx::s_class ToleranceParameterType::k_class = {
+constinit const s_class ToleranceParameterType::k_class = {
     .name = "ToleranceParameterType",
     .qualified_name = "Vyr:ToleranceParameterType",
     .base = nullptr,
-    .content = lmx::content_kind::children,
+    .content = content_kind::children,
     .may_be_empty = false,
     .ns_map = k_ns_map,
-    .nil_flag = lmx::k_no_flag,
-    .choice = lmx::k_no_flag,
+    .nil_flag = k_no_flag,
+    .choice = k_no_flag,
     .id = nullptr,
     .xsi_type = nullptr,
-    .attributes = std::span(k_items).first(std::size(lmx::k_no_events) - 1),
-    .elements = std::span(k_items).subspan(std::size(lmx::k_no_events) - 1),
-    .attribute_map = lmx::k_no_events,
+    .attributes = std::span(k_items).first(std::size(k_no_events) - 1),
+    .elements = std::span(k_items).subspan(std::size(k_no_events) - 1),
+    .attribute_map = k_no_events,
     .element_map = k_ToleranceParameterType_elements,
-    .operations = &lmx::k_operations<ToleranceParameterType>,
+    .operations = &k_operations<ToleranceParameterType>,
 };
 
 ToleranceParameterType::ToleranceParameterType() = default;

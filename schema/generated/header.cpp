@@ -18,29 +18,32 @@
 
 namespace com_vyrgraph_v2 {
 
-static_assert(lmx::k_binding_version == 1, "run schema/generator/generate.py");
+using namespace lmx;  // for the tables' sake
+
+static_assert(k_binding_version == 1, "run schema/generator/generate.py");
 
 // SDKVersion
 
-constinit const lmx::s_item SDKVersion::k_items[] = {
-    {lmx::item_kind::content, lmx::value_kind::text, lmx::use_required, lmx::ELMX_WS_PRESERVE, "", 0, LMX_OFFSET(SDKVersion, m_SDKVersion, content, text), LMX_FLAG(SDKVersion, m_isset_SDKVersion), 0, 0, nullptr, nullptr, {}},
+constinit const s_item SDKVersion::k_items[] = {
+    {item_kind::content, value_kind::text, use_required, ELMX_WS_PRESERVE, "", 0,
+     LMX_OFFSET(SDKVersion, m_SDKVersion, content, text), LMX_FLAG(SDKVersion, m_isset_SDKVersion), 0, 0, nullptr, nullptr, {}},
 };
-constinit const lmx::s_class SDKVersion::k_class = {
+constinit const s_class SDKVersion::k_class = {
     .name = "SDKVersion",
     .qualified_name = "Vyr:SDKVersion",
     .base = nullptr,
-    .content = lmx::content_kind::simple,
+    .content = content_kind::simple,
     .may_be_empty = false,
     .ns_map = nullptr,
     .nil_flag = LMX_FLAG(SDKVersion, m_isnil),
-    .choice = lmx::k_no_flag,
+    .choice = k_no_flag,
     .id = nullptr,
     .xsi_type = nullptr,
-    .attributes = std::span(k_items).first(std::size(lmx::k_no_events) - 1),
-    .elements = std::span(k_items).subspan(std::size(lmx::k_no_events) - 1),
-    .attribute_map = lmx::k_no_events,
-    .element_map = lmx::k_no_events,
-    .operations = &lmx::k_operations<SDKVersion>,
+    .attributes = std::span(k_items).first(std::size(k_no_events) - 1),
+    .elements = std::span(k_items).subspan(std::size(k_no_events) - 1),
+    .attribute_map = k_no_events,
+    .element_map = k_no_events,
+    .operations = &k_operations<SDKVersion>,
 };
 
 SDKVersion::SDKVersion() = default;
@@ -62,33 +65,35 @@ lmx::elmx_error SDKVersion::set_SDKVersion(const std::u16string& value) { return
 // SDKType
 
 namespace {
-constexpr lmx::s_event_map k_SDKType_elements[] = {
-    lmx::element_event("SDKName", element_SDKName),
-    lmx::element_event("SDKVersion", element_SDKVersion),
-    lmx::k_end_of_map,
+constexpr s_event_map k_SDKType_elements[] = {
+    element_event("SDKName", element_SDKName),
+    element_event("SDKVersion", element_SDKVersion),
+    k_end_of_map,
 };
 }  // namespace
 
-constinit const lmx::s_item SDKType::k_items[] = {
-    {lmx::item_kind::element, lmx::value_kind::text, lmx::use_required, lmx::ELMX_WS_PRESERVE, "Vyr:SDKName", element_SDKName, LMX_OFFSET(SDKType, m_SDKName, element, text), LMX_FLAG(SDKType, m_isset_SDKName), lmx::position_of(k_SDKType_elements, element_SDKName), lmx::position_of(k_SDKType_elements, element_SDKName, 1), nullptr, nullptr, {}},
-    {lmx::item_kind::child, lmx::value_kind::none, lmx::use_required, lmx::ELMX_WS_PRESERVE, "Vyr:SDKVersion", element_SDKVersion, LMX_OFFSET(SDKType, m_SDKVersion, child, none), LMX_FLAG(SDKType, m_isset_SDKVersion), lmx::position_of(k_SDKType_elements, element_SDKVersion), lmx::position_of(k_SDKType_elements, element_SDKVersion, 1), &SDKVersion::k_class, nullptr, {}},
+constinit const s_item SDKType::k_items[] = {
+    {item_kind::element, value_kind::text, use_required, ELMX_WS_PRESERVE, "Vyr:SDKName", element_SDKName,
+     LMX_OFFSET(SDKType, m_SDKName, element, text), LMX_FLAG(SDKType, m_isset_SDKName), position_of(k_SDKType_elements, element_SDKName), position_of(k_SDKType_elements, element_SDKName, 1), nullptr, nullptr, {}},
+    {item_kind::child, value_kind::none, use_required, ELMX_WS_PRESERVE, "Vyr:SDKVersion", element_SDKVersion,
+     LMX_OFFSET(SDKType, m_SDKVersion, child, none), LMX_FLAG(SDKType, m_isset_SDKVersion), position_of(k_SDKType_elements, element_SDKVersion), position_of(k_SDKType_elements, element_SDKVersion, 1), &SDKVersion::k_class, nullptr, {}},
 };
-constinit const lmx::s_class SDKType::k_class = {
+constinit const s_class SDKType::k_class = {
     .name = "SDKType",
     .qualified_name = "Vyr:SDKType",
     .base = nullptr,
-    .content = lmx::content_kind::children,
+    .content = content_kind::children,
     .may_be_empty = false,
     .ns_map = k_ns_map,
-    .nil_flag = lmx::k_no_flag,
-    .choice = lmx::k_no_flag,
+    .nil_flag = k_no_flag,
+    .choice = k_no_flag,
     .id = nullptr,
     .xsi_type = nullptr,
-    .attributes = std::span(k_items).first(std::size(lmx::k_no_events) - 1),
-    .elements = std::span(k_items).subspan(std::size(lmx::k_no_events) - 1),
-    .attribute_map = lmx::k_no_events,
+    .attributes = std::span(k_items).first(std::size(k_no_events) - 1),
+    .elements = std::span(k_items).subspan(std::size(k_no_events) - 1),
+    .attribute_map = k_no_events,
     .element_map = k_SDKType_elements,
-    .operations = &lmx::k_operations<SDKType>,
+    .operations = &k_operations<SDKType>,
 };
 
 SDKType::SDKType() = default;
@@ -111,33 +116,35 @@ SDKVersion& SDKType::assign_SDKVersion(const SDKVersion& value) { return get_SDK
 // PlatformType
 
 namespace {
-constexpr lmx::s_event_map k_PlatformType_elements[] = {
-    lmx::element_event("OperatingSystem", element_OperatingSystem),
-    lmx::element_event("OperatingSystemVersion", element_OperatingSystemVersion),
-    lmx::k_end_of_map,
+constexpr s_event_map k_PlatformType_elements[] = {
+    element_event("OperatingSystem", element_OperatingSystem),
+    element_event("OperatingSystemVersion", element_OperatingSystemVersion),
+    k_end_of_map,
 };
 }  // namespace
 
-constinit const lmx::s_item PlatformType::k_items[] = {
-    {lmx::item_kind::element, lmx::value_kind::text, lmx::use_required, lmx::ELMX_WS_PRESERVE, "Vyr:OperatingSystem", element_OperatingSystem, LMX_OFFSET(PlatformType, m_OperatingSystem, element, text), LMX_FLAG(PlatformType, m_isset_OperatingSystem), lmx::position_of(k_PlatformType_elements, element_OperatingSystem), lmx::position_of(k_PlatformType_elements, element_OperatingSystem, 1), nullptr, nullptr, {}},
-    {lmx::item_kind::element, lmx::value_kind::text, lmx::use_required, lmx::ELMX_WS_PRESERVE, "Vyr:OperatingSystemVersion", element_OperatingSystemVersion, LMX_OFFSET(PlatformType, m_OperatingSystemVersion, element, text), LMX_FLAG(PlatformType, m_isset_OperatingSystemVersion), lmx::position_of(k_PlatformType_elements, element_OperatingSystemVersion), lmx::position_of(k_PlatformType_elements, element_OperatingSystemVersion, 1), nullptr, nullptr, {}},
+constinit const s_item PlatformType::k_items[] = {
+    {item_kind::element, value_kind::text, use_required, ELMX_WS_PRESERVE, "Vyr:OperatingSystem", element_OperatingSystem,
+     LMX_OFFSET(PlatformType, m_OperatingSystem, element, text), LMX_FLAG(PlatformType, m_isset_OperatingSystem), position_of(k_PlatformType_elements, element_OperatingSystem), position_of(k_PlatformType_elements, element_OperatingSystem, 1), nullptr, nullptr, {}},
+    {item_kind::element, value_kind::text, use_required, ELMX_WS_PRESERVE, "Vyr:OperatingSystemVersion", element_OperatingSystemVersion,
+     LMX_OFFSET(PlatformType, m_OperatingSystemVersion, element, text), LMX_FLAG(PlatformType, m_isset_OperatingSystemVersion), position_of(k_PlatformType_elements, element_OperatingSystemVersion), position_of(k_PlatformType_elements, element_OperatingSystemVersion, 1), nullptr, nullptr, {}},
 };
-constinit const lmx::s_class PlatformType::k_class = {
+constinit const s_class PlatformType::k_class = {
     .name = "PlatformType",
     .qualified_name = "Vyr:PlatformType",
     .base = nullptr,
-    .content = lmx::content_kind::children,
+    .content = content_kind::children,
     .may_be_empty = false,
     .ns_map = k_ns_map,
-    .nil_flag = lmx::k_no_flag,
-    .choice = lmx::k_no_flag,
+    .nil_flag = k_no_flag,
+    .choice = k_no_flag,
     .id = nullptr,
     .xsi_type = nullptr,
-    .attributes = std::span(k_items).first(std::size(lmx::k_no_events) - 1),
-    .elements = std::span(k_items).subspan(std::size(lmx::k_no_events) - 1),
-    .attribute_map = lmx::k_no_events,
+    .attributes = std::span(k_items).first(std::size(k_no_events) - 1),
+    .elements = std::span(k_items).subspan(std::size(k_no_events) - 1),
+    .attribute_map = k_no_events,
     .element_map = k_PlatformType_elements,
-    .operations = &lmx::k_operations<PlatformType>,
+    .operations = &k_operations<PlatformType>,
 };
 
 PlatformType::PlatformType() = default;
@@ -160,53 +167,65 @@ lmx::elmx_error PlatformType::set_OperatingSystemVersion(const std::u16string& v
 // Header
 
 namespace {
-constexpr lmx::s_event_map k_Header_elements[] = {
-    lmx::element_event("CustomAttribute", element_CustomAttribute),
-    lmx::element_event("Creator", element_Creator),
-    lmx::element_event("CreatorVersion", element_CreatorVersion),
-    lmx::element_event("ChangeHistory", element_ChangeHistory),
-    lmx::element_event("Purpose", element_Purpose),
-    lmx::element_event("Name", element_Name),
-    lmx::element_event("Comments", element_Comments),
-    lmx::element_event("ReadSDKInformation", element_ReadSDKInformation),
-    lmx::element_event("WriteSDKInformation", element_WriteSDKInformation),
-    lmx::element_event("ReadPlatformInformation", element_ReadPlatformInformation),
-    lmx::element_event("WritePlatformInformation", element_WritePlatformInformation),
-    lmx::element_event("Revision", element_Revision),
-    lmx::k_end_of_map,
+constexpr s_event_map k_Header_elements[] = {
+    element_event("CustomAttribute", element_CustomAttribute),
+    element_event("Creator", element_Creator),
+    element_event("CreatorVersion", element_CreatorVersion),
+    element_event("ChangeHistory", element_ChangeHistory),
+    element_event("Purpose", element_Purpose),
+    element_event("Name", element_Name),
+    element_event("Comments", element_Comments),
+    element_event("ReadSDKInformation", element_ReadSDKInformation),
+    element_event("WriteSDKInformation", element_WriteSDKInformation),
+    element_event("ReadPlatformInformation", element_ReadPlatformInformation),
+    element_event("WritePlatformInformation", element_WritePlatformInformation),
+    element_event("Revision", element_Revision),
+    k_end_of_map,
 };
 }  // namespace
 
-constinit const lmx::s_item Header::k_items[] = {
-    {lmx::item_kind::child_list, lmx::value_kind::none, lmx::use_optional, lmx::ELMX_WS_PRESERVE, "Vyr:CustomAttribute", element_CustomAttribute, LMX_OFFSET(Header, m_CustomAttribute, child_list, none), lmx::k_no_flag, lmx::position_of(k_Header_elements, element_CustomAttribute), lmx::position_of(k_Header_elements, element_CustomAttribute, 1), &CustomAttributeType::k_class, nullptr, {}},
-    {lmx::item_kind::element, lmx::value_kind::text, lmx::use_required, lmx::ELMX_WS_PRESERVE, "Vyr:Creator", element_Creator, LMX_OFFSET(Header, m_Creator, element, text), LMX_FLAG(Header, m_isset_Creator), lmx::position_of(k_Header_elements, element_Creator), lmx::position_of(k_Header_elements, element_Creator, 1), nullptr, nullptr, {}},
-    {lmx::item_kind::element, lmx::value_kind::text, lmx::use_required, lmx::ELMX_WS_PRESERVE, "Vyr:CreatorVersion", element_CreatorVersion, LMX_OFFSET(Header, m_CreatorVersion, element, text), LMX_FLAG(Header, m_isset_CreatorVersion), lmx::position_of(k_Header_elements, element_CreatorVersion), lmx::position_of(k_Header_elements, element_CreatorVersion, 1), nullptr, nullptr, {}},
-    {lmx::item_kind::element_list, lmx::value_kind::datetime, lmx::use_demanded | lmx::use_asked, lmx::ELMX_WS_COLLAPSE, "Vyr:ChangeHistory", element_ChangeHistory, LMX_OFFSET(Header, m_ChangeHistory, element_list, datetime), lmx::k_no_flag, lmx::position_of(k_Header_elements, element_ChangeHistory), lmx::position_of(k_Header_elements, element_ChangeHistory, 1), nullptr, &facets::DateTimeZone, {}},
-    {lmx::item_kind::element, lmx::value_kind::text, lmx::use_required, lmx::ELMX_WS_PRESERVE, "Vyr:Purpose", element_Purpose, LMX_OFFSET(Header, m_Purpose, element, text), LMX_FLAG(Header, m_isset_Purpose), lmx::position_of(k_Header_elements, element_Purpose), lmx::position_of(k_Header_elements, element_Purpose, 1), nullptr, nullptr, {}},
-    {lmx::item_kind::element, lmx::value_kind::text, lmx::use_optional, lmx::ELMX_WS_PRESERVE, "Vyr:Name", element_Name, LMX_OFFSET(Header, m_Name, element, text), LMX_FLAG(Header, m_isset_Name), lmx::position_of(k_Header_elements, element_Name), lmx::position_of(k_Header_elements, element_Name, 1), nullptr, nullptr, {}},
-    {lmx::item_kind::element, lmx::value_kind::text, lmx::use_optional, lmx::ELMX_WS_PRESERVE, "Vyr:Comments", element_Comments, LMX_OFFSET(Header, m_Comments, element, text), LMX_FLAG(Header, m_isset_Comments), lmx::position_of(k_Header_elements, element_Comments), lmx::position_of(k_Header_elements, element_Comments, 1), nullptr, nullptr, {}},
-    {lmx::item_kind::child, lmx::value_kind::none, lmx::use_optional, lmx::ELMX_WS_PRESERVE, "Vyr:ReadSDKInformation", element_ReadSDKInformation, LMX_OFFSET(Header, m_ReadSDKInformation, child, none), LMX_FLAG(Header, m_isset_ReadSDKInformation), lmx::position_of(k_Header_elements, element_ReadSDKInformation), lmx::position_of(k_Header_elements, element_ReadSDKInformation, 1), &SDKType::k_class, nullptr, {}},
-    {lmx::item_kind::child, lmx::value_kind::none, lmx::use_optional, lmx::ELMX_WS_PRESERVE, "Vyr:WriteSDKInformation", element_WriteSDKInformation, LMX_OFFSET(Header, m_WriteSDKInformation, child, none), LMX_FLAG(Header, m_isset_WriteSDKInformation), lmx::position_of(k_Header_elements, element_WriteSDKInformation), lmx::position_of(k_Header_elements, element_WriteSDKInformation, 1), &SDKType::k_class, nullptr, {}},
-    {lmx::item_kind::child, lmx::value_kind::none, lmx::use_optional, lmx::ELMX_WS_PRESERVE, "Vyr:ReadPlatformInformation", element_ReadPlatformInformation, LMX_OFFSET(Header, m_ReadPlatformInformation, child, none), LMX_FLAG(Header, m_isset_ReadPlatformInformation), lmx::position_of(k_Header_elements, element_ReadPlatformInformation), lmx::position_of(k_Header_elements, element_ReadPlatformInformation, 1), &PlatformType::k_class, nullptr, {}},
-    {lmx::item_kind::child, lmx::value_kind::none, lmx::use_optional, lmx::ELMX_WS_PRESERVE, "Vyr:WritePlatformInformation", element_WritePlatformInformation, LMX_OFFSET(Header, m_WritePlatformInformation, child, none), LMX_FLAG(Header, m_isset_WritePlatformInformation), lmx::position_of(k_Header_elements, element_WritePlatformInformation), lmx::position_of(k_Header_elements, element_WritePlatformInformation, 1), &PlatformType::k_class, nullptr, {}},
-    {lmx::item_kind::child_list, lmx::value_kind::none, lmx::use_optional, lmx::ELMX_WS_PRESERVE, "Vyr:Revision", element_Revision, LMX_OFFSET(Header, m_Revision, child_list, none), lmx::k_no_flag, lmx::position_of(k_Header_elements, element_Revision), lmx::position_of(k_Header_elements, element_Revision, 1), &Revision::k_class, nullptr, {}},
+constinit const s_item Header::k_items[] = {
+    {item_kind::child_list, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:CustomAttribute", element_CustomAttribute,
+     LMX_OFFSET(Header, m_CustomAttribute, child_list, none), k_no_flag, position_of(k_Header_elements, element_CustomAttribute), position_of(k_Header_elements, element_CustomAttribute, 1), &CustomAttributeType::k_class, nullptr, {}},
+    {item_kind::element, value_kind::text, use_required, ELMX_WS_PRESERVE, "Vyr:Creator", element_Creator,
+     LMX_OFFSET(Header, m_Creator, element, text), LMX_FLAG(Header, m_isset_Creator), position_of(k_Header_elements, element_Creator), position_of(k_Header_elements, element_Creator, 1), nullptr, nullptr, {}},
+    {item_kind::element, value_kind::text, use_required, ELMX_WS_PRESERVE, "Vyr:CreatorVersion", element_CreatorVersion,
+     LMX_OFFSET(Header, m_CreatorVersion, element, text), LMX_FLAG(Header, m_isset_CreatorVersion), position_of(k_Header_elements, element_CreatorVersion), position_of(k_Header_elements, element_CreatorVersion, 1), nullptr, nullptr, {}},
+    {item_kind::element_list, value_kind::datetime, use_demanded | use_asked, ELMX_WS_COLLAPSE, "Vyr:ChangeHistory", element_ChangeHistory,
+     LMX_OFFSET(Header, m_ChangeHistory, element_list, datetime), k_no_flag, position_of(k_Header_elements, element_ChangeHistory), position_of(k_Header_elements, element_ChangeHistory, 1), nullptr, &facets::DateTimeZone, {}},
+    {item_kind::element, value_kind::text, use_required, ELMX_WS_PRESERVE, "Vyr:Purpose", element_Purpose,
+     LMX_OFFSET(Header, m_Purpose, element, text), LMX_FLAG(Header, m_isset_Purpose), position_of(k_Header_elements, element_Purpose), position_of(k_Header_elements, element_Purpose, 1), nullptr, nullptr, {}},
+    {item_kind::element, value_kind::text, use_optional, ELMX_WS_PRESERVE, "Vyr:Name", element_Name,
+     LMX_OFFSET(Header, m_Name, element, text), LMX_FLAG(Header, m_isset_Name), position_of(k_Header_elements, element_Name), position_of(k_Header_elements, element_Name, 1), nullptr, nullptr, {}},
+    {item_kind::element, value_kind::text, use_optional, ELMX_WS_PRESERVE, "Vyr:Comments", element_Comments,
+     LMX_OFFSET(Header, m_Comments, element, text), LMX_FLAG(Header, m_isset_Comments), position_of(k_Header_elements, element_Comments), position_of(k_Header_elements, element_Comments, 1), nullptr, nullptr, {}},
+    {item_kind::child, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:ReadSDKInformation", element_ReadSDKInformation,
+     LMX_OFFSET(Header, m_ReadSDKInformation, child, none), LMX_FLAG(Header, m_isset_ReadSDKInformation), position_of(k_Header_elements, element_ReadSDKInformation), position_of(k_Header_elements, element_ReadSDKInformation, 1), &SDKType::k_class, nullptr, {}},
+    {item_kind::child, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:WriteSDKInformation", element_WriteSDKInformation,
+     LMX_OFFSET(Header, m_WriteSDKInformation, child, none), LMX_FLAG(Header, m_isset_WriteSDKInformation), position_of(k_Header_elements, element_WriteSDKInformation), position_of(k_Header_elements, element_WriteSDKInformation, 1), &SDKType::k_class, nullptr, {}},
+    {item_kind::child, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:ReadPlatformInformation", element_ReadPlatformInformation,
+     LMX_OFFSET(Header, m_ReadPlatformInformation, child, none), LMX_FLAG(Header, m_isset_ReadPlatformInformation), position_of(k_Header_elements, element_ReadPlatformInformation), position_of(k_Header_elements, element_ReadPlatformInformation, 1), &PlatformType::k_class, nullptr, {}},
+    {item_kind::child, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:WritePlatformInformation", element_WritePlatformInformation,
+     LMX_OFFSET(Header, m_WritePlatformInformation, child, none), LMX_FLAG(Header, m_isset_WritePlatformInformation), position_of(k_Header_elements, element_WritePlatformInformation), position_of(k_Header_elements, element_WritePlatformInformation, 1), &PlatformType::k_class, nullptr, {}},
+    {item_kind::child_list, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:Revision", element_Revision,
+     LMX_OFFSET(Header, m_Revision, child_list, none), k_no_flag, position_of(k_Header_elements, element_Revision), position_of(k_Header_elements, element_Revision, 1), &Revision::k_class, nullptr, {}},
 };
-constinit const lmx::s_class Header::k_class = {
+constinit const s_class Header::k_class = {
     .name = "Header",
     .qualified_name = "Vyr:Header",
     .base = nullptr,
-    .content = lmx::content_kind::children,
+    .content = content_kind::children,
     .may_be_empty = false,
     .ns_map = nullptr,
-    .nil_flag = lmx::k_no_flag,
-    .choice = lmx::k_no_flag,
+    .nil_flag = k_no_flag,
+    .choice = k_no_flag,
     .id = nullptr,
     .xsi_type = nullptr,
-    .attributes = std::span(k_items).first(std::size(lmx::k_no_events) - 1),
-    .elements = std::span(k_items).subspan(std::size(lmx::k_no_events) - 1),
-    .attribute_map = lmx::k_no_events,
+    .attributes = std::span(k_items).first(std::size(k_no_events) - 1),
+    .elements = std::span(k_items).subspan(std::size(k_no_events) - 1),
+    .attribute_map = k_no_events,
     .element_map = k_Header_elements,
-    .operations = &lmx::k_operations<Header>,
+    .operations = &k_operations<Header>,
 };
 
 Header::Header() = default;
@@ -253,37 +272,41 @@ void Header::clear_Revision() { m_Revision.clear(); }
 // OwnerType
 
 namespace {
-constexpr lmx::s_event_map k_OwnerType_elements[] = {
-    lmx::element_event("CustomAttribute", element_CustomAttribute),
-    lmx::element_event("Person", element_Person),
-    lmx::element_event("Copyright", element_Copyright),
-    lmx::element_event("Company", element_Company),
-    lmx::k_end_of_map,
+constexpr s_event_map k_OwnerType_elements[] = {
+    element_event("CustomAttribute", element_CustomAttribute),
+    element_event("Person", element_Person),
+    element_event("Copyright", element_Copyright),
+    element_event("Company", element_Company),
+    k_end_of_map,
 };
 }  // namespace
 
-constinit const lmx::s_item OwnerType::k_items[] = {
-    {lmx::item_kind::child_list, lmx::value_kind::none, lmx::use_optional, lmx::ELMX_WS_PRESERVE, "Vyr:CustomAttribute", element_CustomAttribute, LMX_OFFSET(OwnerType, m_CustomAttribute, child_list, none), lmx::k_no_flag, lmx::position_of(k_OwnerType_elements, element_CustomAttribute), lmx::position_of(k_OwnerType_elements, element_CustomAttribute, 1), &CustomAttributeType::k_class, nullptr, {}},
-    {lmx::item_kind::child_list, lmx::value_kind::none, lmx::use_optional, lmx::ELMX_WS_PRESERVE, "Vyr:Person", element_Person, LMX_OFFSET(OwnerType, m_Person, child_list, none), lmx::k_no_flag, lmx::position_of(k_OwnerType_elements, element_Person), lmx::position_of(k_OwnerType_elements, element_Person, 1), &Person::k_class, nullptr, {}},
-    {lmx::item_kind::element_list, lmx::value_kind::text, lmx::use_optional, lmx::ELMX_WS_PRESERVE, "Vyr:Copyright", element_Copyright, LMX_OFFSET(OwnerType, m_Copyright, element_list, text), lmx::k_no_flag, lmx::position_of(k_OwnerType_elements, element_Copyright), lmx::position_of(k_OwnerType_elements, element_Copyright, 1), nullptr, nullptr, {}},
-    {lmx::item_kind::element_list, lmx::value_kind::text, lmx::use_optional, lmx::ELMX_WS_PRESERVE, "Vyr:Company", element_Company, LMX_OFFSET(OwnerType, m_Company, element_list, text), lmx::k_no_flag, lmx::position_of(k_OwnerType_elements, element_Company), lmx::position_of(k_OwnerType_elements, element_Company, 1), nullptr, nullptr, {}},
+constinit const s_item OwnerType::k_items[] = {
+    {item_kind::child_list, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:CustomAttribute", element_CustomAttribute,
+     LMX_OFFSET(OwnerType, m_CustomAttribute, child_list, none), k_no_flag, position_of(k_OwnerType_elements, element_CustomAttribute), position_of(k_OwnerType_elements, element_CustomAttribute, 1), &CustomAttributeType::k_class, nullptr, {}},
+    {item_kind::child_list, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:Person", element_Person,
+     LMX_OFFSET(OwnerType, m_Person, child_list, none), k_no_flag, position_of(k_OwnerType_elements, element_Person), position_of(k_OwnerType_elements, element_Person, 1), &Person::k_class, nullptr, {}},
+    {item_kind::element_list, value_kind::text, use_optional, ELMX_WS_PRESERVE, "Vyr:Copyright", element_Copyright,
+     LMX_OFFSET(OwnerType, m_Copyright, element_list, text), k_no_flag, position_of(k_OwnerType_elements, element_Copyright), position_of(k_OwnerType_elements, element_Copyright, 1), nullptr, nullptr, {}},
+    {item_kind::element_list, value_kind::text, use_optional, ELMX_WS_PRESERVE, "Vyr:Company", element_Company,
+     LMX_OFFSET(OwnerType, m_Company, element_list, text), k_no_flag, position_of(k_OwnerType_elements, element_Company), position_of(k_OwnerType_elements, element_Company, 1), nullptr, nullptr, {}},
 };
-constinit const lmx::s_class OwnerType::k_class = {
+constinit const s_class OwnerType::k_class = {
     .name = "OwnerType",
     .qualified_name = "Vyr:OwnerType",
     .base = nullptr,
-    .content = lmx::content_kind::children,
+    .content = content_kind::children,
     .may_be_empty = true,
     .ns_map = k_ns_map,
-    .nil_flag = lmx::k_no_flag,
-    .choice = lmx::k_no_flag,
+    .nil_flag = k_no_flag,
+    .choice = k_no_flag,
     .id = nullptr,
     .xsi_type = nullptr,
-    .attributes = std::span(k_items).first(std::size(lmx::k_no_events) - 1),
-    .elements = std::span(k_items).subspan(std::size(lmx::k_no_events) - 1),
-    .attribute_map = lmx::k_no_events,
+    .attributes = std::span(k_items).first(std::size(k_no_events) - 1),
+    .elements = std::span(k_items).subspan(std::size(k_no_events) - 1),
+    .attribute_map = k_no_events,
     .element_map = k_OwnerType_elements,
-    .operations = &lmx::k_operations<OwnerType>,
+    .operations = &k_operations<OwnerType>,
 };
 
 OwnerType::OwnerType() = default;
@@ -326,35 +349,38 @@ void OwnerType::clear_Company() { m_Company.clear(); }
 // Version
 
 namespace {
-constexpr lmx::s_event_map k_Version_elements[] = {
-    lmx::element_event("CustomAttribute", element_CustomAttribute),
-    lmx::element_event("Version", element_Version),
-    lmx::element_event("Predecessor", element_Predecessor),
-    lmx::k_end_of_map,
+constexpr s_event_map k_Version_elements[] = {
+    element_event("CustomAttribute", element_CustomAttribute),
+    element_event("Version", element_Version),
+    element_event("Predecessor", element_Predecessor),
+    k_end_of_map,
 };
 }  // namespace
 
-constinit const lmx::s_item Version::k_items[] = {
-    {lmx::item_kind::child_list, lmx::value_kind::none, lmx::use_optional, lmx::ELMX_WS_PRESERVE, "Vyr:CustomAttribute", element_CustomAttribute, LMX_OFFSET(Version, m_CustomAttribute, child_list, none), lmx::k_no_flag, lmx::position_of(k_Version_elements, element_CustomAttribute), lmx::position_of(k_Version_elements, element_CustomAttribute, 1), &CustomAttributeType::k_class, nullptr, {}},
-    {lmx::item_kind::element, lmx::value_kind::text, lmx::use_required, lmx::ELMX_WS_PRESERVE, "Vyr:Version", element_Version, LMX_OFFSET(Version, m_Version, element, text), LMX_FLAG(Version, m_isset_Version), lmx::position_of(k_Version_elements, element_Version), lmx::position_of(k_Version_elements, element_Version, 1), nullptr, nullptr, {}},
-    {lmx::item_kind::element_list, lmx::value_kind::text, lmx::use_optional, lmx::ELMX_WS_COLLAPSE, "Vyr:Predecessor", element_Predecessor, LMX_OFFSET(Version, m_Predecessor, element_list, text), lmx::k_no_flag, lmx::position_of(k_Version_elements, element_Predecessor), lmx::position_of(k_Version_elements, element_Predecessor, 1), nullptr, nullptr, {}},
+constinit const s_item Version::k_items[] = {
+    {item_kind::child_list, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:CustomAttribute", element_CustomAttribute,
+     LMX_OFFSET(Version, m_CustomAttribute, child_list, none), k_no_flag, position_of(k_Version_elements, element_CustomAttribute), position_of(k_Version_elements, element_CustomAttribute, 1), &CustomAttributeType::k_class, nullptr, {}},
+    {item_kind::element, value_kind::text, use_required, ELMX_WS_PRESERVE, "Vyr:Version", element_Version,
+     LMX_OFFSET(Version, m_Version, element, text), LMX_FLAG(Version, m_isset_Version), position_of(k_Version_elements, element_Version), position_of(k_Version_elements, element_Version, 1), nullptr, nullptr, {}},
+    {item_kind::element_list, value_kind::text, use_optional, ELMX_WS_COLLAPSE, "Vyr:Predecessor", element_Predecessor,
+     LMX_OFFSET(Version, m_Predecessor, element_list, text), k_no_flag, position_of(k_Version_elements, element_Predecessor), position_of(k_Version_elements, element_Predecessor, 1), nullptr, nullptr, {}},
 };
-constinit const lmx::s_class Version::k_class = {
+constinit const s_class Version::k_class = {
     .name = "Version",
     .qualified_name = "Vyr:Version",
     .base = nullptr,
-    .content = lmx::content_kind::children,
+    .content = content_kind::children,
     .may_be_empty = true,
     .ns_map = nullptr,
-    .nil_flag = lmx::k_no_flag,
-    .choice = lmx::k_no_flag,
+    .nil_flag = k_no_flag,
+    .choice = k_no_flag,
     .id = nullptr,
     .xsi_type = nullptr,
-    .attributes = std::span(k_items).first(std::size(lmx::k_no_events) - 1),
-    .elements = std::span(k_items).subspan(std::size(lmx::k_no_events) - 1),
-    .attribute_map = lmx::k_no_events,
+    .attributes = std::span(k_items).first(std::size(k_no_events) - 1),
+    .elements = std::span(k_items).subspan(std::size(k_no_events) - 1),
+    .attribute_map = k_no_events,
     .element_map = k_Version_elements,
-    .operations = &lmx::k_operations<Version>,
+    .operations = &k_operations<Version>,
 };
 
 Version::Version() = default;
@@ -387,35 +413,38 @@ void Version::clear_Predecessor() { m_Predecessor.clear(); }
 // Preamble
 
 namespace {
-constexpr lmx::s_event_map k_Preamble_elements[] = {
-    lmx::element_event("Header", element_Header),
-    lmx::element_event("Owner", element_Owner),
-    lmx::element_event("Version", element_Version),
-    lmx::k_end_of_map,
+constexpr s_event_map k_Preamble_elements[] = {
+    element_event("Header", element_Header),
+    element_event("Owner", element_Owner),
+    element_event("Version", element_Version),
+    k_end_of_map,
 };
 }  // namespace
 
-constinit const lmx::s_item Preamble::k_items[] = {
-    {lmx::item_kind::child, lmx::value_kind::none, lmx::use_required, lmx::ELMX_WS_PRESERVE, "Vyr:Header", element_Header, LMX_OFFSET(Preamble, m_Header, child, none), LMX_FLAG(Preamble, m_isset_Header), lmx::position_of(k_Preamble_elements, element_Header), lmx::position_of(k_Preamble_elements, element_Header, 1), &Header::k_class, nullptr, {}},
-    {lmx::item_kind::child, lmx::value_kind::none, lmx::use_optional, lmx::ELMX_WS_PRESERVE, "Vyr:Owner", element_Owner, LMX_OFFSET(Preamble, m_Owner, child, none), LMX_FLAG(Preamble, m_isset_Owner), lmx::position_of(k_Preamble_elements, element_Owner), lmx::position_of(k_Preamble_elements, element_Owner, 1), &OwnerType::k_class, nullptr, {}},
-    {lmx::item_kind::child, lmx::value_kind::none, lmx::use_optional, lmx::ELMX_WS_PRESERVE, "Vyr:Version", element_Version, LMX_OFFSET(Preamble, m_Version, child, none), LMX_FLAG(Preamble, m_isset_Version), lmx::position_of(k_Preamble_elements, element_Version), lmx::position_of(k_Preamble_elements, element_Version, 1), &Version::k_class, nullptr, {}},
+constinit const s_item Preamble::k_items[] = {
+    {item_kind::child, value_kind::none, use_required, ELMX_WS_PRESERVE, "Vyr:Header", element_Header,
+     LMX_OFFSET(Preamble, m_Header, child, none), LMX_FLAG(Preamble, m_isset_Header), position_of(k_Preamble_elements, element_Header), position_of(k_Preamble_elements, element_Header, 1), &Header::k_class, nullptr, {}},
+    {item_kind::child, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:Owner", element_Owner,
+     LMX_OFFSET(Preamble, m_Owner, child, none), LMX_FLAG(Preamble, m_isset_Owner), position_of(k_Preamble_elements, element_Owner), position_of(k_Preamble_elements, element_Owner, 1), &OwnerType::k_class, nullptr, {}},
+    {item_kind::child, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:Version", element_Version,
+     LMX_OFFSET(Preamble, m_Version, child, none), LMX_FLAG(Preamble, m_isset_Version), position_of(k_Preamble_elements, element_Version), position_of(k_Preamble_elements, element_Version, 1), &Version::k_class, nullptr, {}},
 };
-constinit const lmx::s_class Preamble::k_class = {
+constinit const s_class Preamble::k_class = {
     .name = "Preamble",
     .qualified_name = "Vyr:Preamble",
     .base = nullptr,
-    .content = lmx::content_kind::children,
+    .content = content_kind::children,
     .may_be_empty = false,
     .ns_map = nullptr,
-    .nil_flag = lmx::k_no_flag,
-    .choice = lmx::k_no_flag,
+    .nil_flag = k_no_flag,
+    .choice = k_no_flag,
     .id = nullptr,
     .xsi_type = nullptr,
-    .attributes = std::span(k_items).first(std::size(lmx::k_no_events) - 1),
-    .elements = std::span(k_items).subspan(std::size(lmx::k_no_events) - 1),
-    .attribute_map = lmx::k_no_events,
+    .attributes = std::span(k_items).first(std::size(k_no_events) - 1),
+    .elements = std::span(k_items).subspan(std::size(k_no_events) - 1),
+    .attribute_map = k_no_events,
     .element_map = k_Preamble_elements,
-    .operations = &lmx::k_operations<Preamble>,
+    .operations = &k_operations<Preamble>,
 };
 
 Preamble::Preamble() = default;
@@ -439,37 +468,41 @@ Version& Preamble::assign_Version(const Version& value) { return get_Version() =
 // Vyr
 
 namespace {
-constexpr lmx::s_event_map k_Vyr_elements[] = {
-    lmx::element_event("Preamble", element_Preamble),
-    lmx::element_event("Color", element_Color),
-    lmx::element_event("Palette", element_Palette),
-    lmx::element_event("ColorQualityControl", element_ColorQualityControl),
-    lmx::k_end_of_map,
+constexpr s_event_map k_Vyr_elements[] = {
+    element_event("Preamble", element_Preamble),
+    element_event("Color", element_Color),
+    element_event("Palette", element_Palette),
+    element_event("ColorQualityControl", element_ColorQualityControl),
+    k_end_of_map,
 };
 }  // namespace
 
-constinit const lmx::s_item Vyr::k_items[] = {
-    {lmx::item_kind::child, lmx::value_kind::none, lmx::use_required, lmx::ELMX_WS_PRESERVE, "Vyr:Preamble", element_Preamble, LMX_OFFSET(Vyr, m_Preamble, child, none), LMX_FLAG(Vyr, m_isset_Preamble), lmx::position_of(k_Vyr_elements, element_Preamble), lmx::position_of(k_Vyr_elements, element_Preamble, 1), &Preamble::k_class, nullptr, {}},
-    {lmx::item_kind::child_list, lmx::value_kind::none, lmx::use_optional, lmx::ELMX_WS_PRESERVE, "Vyr:Color", element_Color, LMX_OFFSET(Vyr, m_Color, child_list, none), lmx::k_no_flag, lmx::position_of(k_Vyr_elements, element_Color), lmx::position_of(k_Vyr_elements, element_Color, 1), &ColorType::k_class, nullptr, {}},
-    {lmx::item_kind::child_list, lmx::value_kind::none, lmx::use_optional, lmx::ELMX_WS_PRESERVE, "Vyr:Palette", element_Palette, LMX_OFFSET(Vyr, m_Palette, child_list, none), lmx::k_no_flag, lmx::position_of(k_Vyr_elements, element_Palette), lmx::position_of(k_Vyr_elements, element_Palette, 1), &PaletteType::k_class, nullptr, {}},
-    {lmx::item_kind::child_list, lmx::value_kind::none, lmx::use_optional, lmx::ELMX_WS_PRESERVE, "Vyr:ColorQualityControl", element_ColorQualityControl, LMX_OFFSET(Vyr, m_ColorQualityControl, child_list, none), lmx::k_no_flag, lmx::position_of(k_Vyr_elements, element_ColorQualityControl), lmx::position_of(k_Vyr_elements, element_ColorQualityControl, 1), &ColorQualityControlType::k_class, nullptr, {}},
+constinit const s_item Vyr::k_items[] = {
+    {item_kind::child, value_kind::none, use_required, ELMX_WS_PRESERVE, "Vyr:Preamble", element_Preamble,
+     LMX_OFFSET(Vyr, m_Preamble, child, none), LMX_FLAG(Vyr, m_isset_Preamble), position_of(k_Vyr_elements, element_Preamble), position_of(k_Vyr_elements, element_Preamble, 1), &Preamble::k_class, nullptr, {}},
+    {item_kind::child_list, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:Color", element_Color,
+     LMX_OFFSET(Vyr, m_Color, child_list, none), k_no_flag, position_of(k_Vyr_elements, element_Color), position_of(k_Vyr_elements, element_Color, 1), &ColorType::k_class, nullptr, {}},
+    {item_kind::child_list, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:Palette", element_Palette,
+     LMX_OFFSET(Vyr, m_Palette, child_list, none), k_no_flag, position_of(k_Vyr_elements, element_Palette), position_of(k_Vyr_elements, element_Palette, 1), &PaletteType::k_class, nullptr, {}},
+    {item_kind::child_list, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:ColorQualityControl", element_ColorQualityControl,
+     LMX_OFFSET(Vyr, m_ColorQualityControl, child_list, none), k_no_flag, position_of(k_Vyr_elements, element_ColorQualityControl), position_of(k_Vyr_elements, element_ColorQualityControl, 1), &ColorQualityControlType::k_class, nullptr, {}},
 };
-constinit const lmx::s_class Vyr::k_class = {
+constinit const s_class Vyr::k_class = {
     .name = "Vyr",
     .qualified_name = "Vyr:Vyr",
     .base = nullptr,
-    .content = lmx::content_kind::children,
+    .content = content_kind::children,
     .may_be_empty = false,
     .ns_map = k_ns_map,
-    .nil_flag = lmx::k_no_flag,
-    .choice = lmx::k_no_flag,
+    .nil_flag = k_no_flag,
+    .choice = k_no_flag,
     .id = nullptr,
     .xsi_type = nullptr,
-    .attributes = std::span(k_items).first(std::size(lmx::k_no_events) - 1),
-    .elements = std::span(k_items).subspan(std::size(lmx::k_no_events) - 1),
-    .attribute_map = lmx::k_no_events,
+    .attributes = std::span(k_items).first(std::size(k_no_events) - 1),
+    .elements = std::span(k_items).subspan(std::size(k_no_events) - 1),
+    .attribute_map = k_no_events,
     .element_map = k_Vyr_elements,
-    .operations = &lmx::k_operations<Vyr>,
+    .operations = &k_operations<Vyr>,
 };
 
 Vyr::Vyr() { init(); }
@@ -486,7 +519,7 @@ lmx::elmx_error Vyr::marshal_child_elements(lmx::c_xml_writer& writer) const { r
 bool Vyr::unmarshal_attributes(lmx::c_xml_reader& reader, const std::string& name, lmx::elmx_error* error) { return lmx::unmarshal_attribute(k_class, this, reader, name, error); }
 lmx::elmx_error Vyr::unmarshal_attributes_check(lmx::c_xml_reader& reader) { return lmx::check_required_attributes(k_class, this, reader); }
 bool Vyr::unmarshal_body(lmx::c_xml_reader& reader, std::string* name, lmx::elmx_error* error) { return lmx::unmarshal_body(k_class, this, reader, name, error); }
-const lmx::s_document Vyr::k_document = {"Vyr:Vyr", "Vyr", k_ns_map, &lmx::k_operations<Vyr>};
+constinit const lmx::s_document Vyr::k_document = {"Vyr:Vyr", "Vyr", k_ns_map, &lmx::k_operations<Vyr>};
 const lmx::s_ns_map* Vyr::ns_map() { return k_ns_map; }
 lmx::elmx_error Vyr::unmarshal(lmx::c_xml_reader& reader) { return lmx::unmarshal_document(k_document, this, reader); }
 Vyr::Vyr(const char* file_name, lmx::elmx_error* error) : Vyr() { *error = lmx::ELMX_UNDEFINED_ERROR; *error = unmarshal(file_name); init(); }
@@ -520,25 +553,26 @@ void Vyr::clear_ColorQualityControl() { m_ColorQualityControl.clear(); }
 
 // Revision
 
-constinit const lmx::s_item Revision::k_items[] = {
-    {lmx::item_kind::any, lmx::value_kind::none, lmx::use_demanded | lmx::use_asked, lmx::ELMX_WS_PRESERVE, "Vyr:", 0, LMX_OFFSET(Revision, m_any, any, none), lmx::k_no_flag, 0, 0, nullptr, nullptr, {}},
+constinit const s_item Revision::k_items[] = {
+    {item_kind::any, value_kind::none, use_demanded | use_asked, ELMX_WS_PRESERVE, "Vyr:", 0,
+     LMX_OFFSET(Revision, m_any, any, none), k_no_flag, 0, 0, nullptr, nullptr, {}},
 };
-constinit const lmx::s_class Revision::k_class = {
+constinit const s_class Revision::k_class = {
     .name = "Revision",
     .qualified_name = "Vyr:Revision",
     .base = nullptr,
-    .content = lmx::content_kind::children,
+    .content = content_kind::children,
     .may_be_empty = true,
     .ns_map = nullptr,
-    .nil_flag = lmx::k_no_flag,
-    .choice = lmx::k_no_flag,
+    .nil_flag = k_no_flag,
+    .choice = k_no_flag,
     .id = nullptr,
     .xsi_type = nullptr,
-    .attributes = std::span(k_items).first(std::size(lmx::k_no_events) - 1),
-    .elements = std::span(k_items).subspan(std::size(lmx::k_no_events) - 1),
-    .attribute_map = lmx::k_no_events,
-    .element_map = lmx::k_no_events,
-    .operations = &lmx::k_operations<Revision>,
+    .attributes = std::span(k_items).first(std::size(k_no_events) - 1),
+    .elements = std::span(k_items).subspan(std::size(k_no_events) - 1),
+    .attribute_map = k_no_events,
+    .element_map = k_no_events,
+    .operations = &k_operations<Revision>,
 };
 
 Revision::Revision() = default;
@@ -568,33 +602,35 @@ void Revision::clear_any() { m_any.clear(); }
 // Person
 
 namespace {
-constexpr lmx::s_event_map k_Person_elements[] = {
-    lmx::element_event("Name", element_Name),
-    lmx::element_event("ContactInfo", element_ContactInfo),
-    lmx::k_end_of_map,
+constexpr s_event_map k_Person_elements[] = {
+    element_event("Name", element_Name),
+    element_event("ContactInfo", element_ContactInfo),
+    k_end_of_map,
 };
 }  // namespace
 
-constinit const lmx::s_item Person::k_items[] = {
-    {lmx::item_kind::element, lmx::value_kind::text, lmx::use_required, lmx::ELMX_WS_PRESERVE, "Vyr:Name", element_Name, LMX_OFFSET(Person, m_Name, element, text), LMX_FLAG(Person, m_isset_Name), lmx::position_of(k_Person_elements, element_Name), lmx::position_of(k_Person_elements, element_Name, 1), nullptr, nullptr, {}},
-    {lmx::item_kind::element, lmx::value_kind::text, lmx::use_optional, lmx::ELMX_WS_PRESERVE, "Vyr:ContactInfo", element_ContactInfo, LMX_OFFSET(Person, m_ContactInfo, element, text), LMX_FLAG(Person, m_isset_ContactInfo), lmx::position_of(k_Person_elements, element_ContactInfo), lmx::position_of(k_Person_elements, element_ContactInfo, 1), nullptr, nullptr, {}},
+constinit const s_item Person::k_items[] = {
+    {item_kind::element, value_kind::text, use_required, ELMX_WS_PRESERVE, "Vyr:Name", element_Name,
+     LMX_OFFSET(Person, m_Name, element, text), LMX_FLAG(Person, m_isset_Name), position_of(k_Person_elements, element_Name), position_of(k_Person_elements, element_Name, 1), nullptr, nullptr, {}},
+    {item_kind::element, value_kind::text, use_optional, ELMX_WS_PRESERVE, "Vyr:ContactInfo", element_ContactInfo,
+     LMX_OFFSET(Person, m_ContactInfo, element, text), LMX_FLAG(Person, m_isset_ContactInfo), position_of(k_Person_elements, element_ContactInfo), position_of(k_Person_elements, element_ContactInfo, 1), nullptr, nullptr, {}},
 };
-constinit const lmx::s_class Person::k_class = {
+constinit const s_class Person::k_class = {
     .name = "Person",
     .qualified_name = "Vyr:Person",
     .base = nullptr,
-    .content = lmx::content_kind::children,
+    .content = content_kind::children,
     .may_be_empty = true,
     .ns_map = nullptr,
-    .nil_flag = lmx::k_no_flag,
-    .choice = lmx::k_no_flag,
+    .nil_flag = k_no_flag,
+    .choice = k_no_flag,
     .id = nullptr,
     .xsi_type = nullptr,
-    .attributes = std::span(k_items).first(std::size(lmx::k_no_events) - 1),
-    .elements = std::span(k_items).subspan(std::size(lmx::k_no_events) - 1),
-    .attribute_map = lmx::k_no_events,
+    .attributes = std::span(k_items).first(std::size(k_no_events) - 1),
+    .elements = std::span(k_items).subspan(std::size(k_no_events) - 1),
+    .attribute_map = k_no_events,
     .element_map = k_Person_elements,
-    .operations = &lmx::k_operations<Person>,
+    .operations = &k_operations<Person>,
 };
 
 Person::Person() = default;
@@ -617,35 +653,38 @@ lmx::elmx_error Person::set_ContactInfo(const std::u16string& value) { return lm
 // CustomAttributeType_ValueChoice
 
 namespace {
-constexpr lmx::s_event_map k_CustomAttributeType_ValueChoice_elements[] = {
-    lmx::element_event("DoubleValue", element_DoubleValue),
-    lmx::element_event("IntegerValue", element_IntegerValue),
-    lmx::element_event("StringValue", element_StringValue),
-    lmx::k_end_of_map,
+constexpr s_event_map k_CustomAttributeType_ValueChoice_elements[] = {
+    element_event("DoubleValue", element_DoubleValue),
+    element_event("IntegerValue", element_IntegerValue),
+    element_event("StringValue", element_StringValue),
+    k_end_of_map,
 };
 }  // namespace
 
-constinit const lmx::s_item CustomAttributeType_ValueChoice::k_items[] = {
-    {lmx::item_kind::alternative, lmx::value_kind::number, lmx::use_optional, lmx::ELMX_WS_COLLAPSE, "Vyr:DoubleValue", element_DoubleValue, 0, lmx::k_no_flag, lmx::position_of(k_CustomAttributeType_ValueChoice_elements, element_DoubleValue), lmx::position_of(k_CustomAttributeType_ValueChoice_elements, element_DoubleValue, 1), nullptr, nullptr, {}},
-    {lmx::item_kind::alternative, lmx::value_kind::int32, lmx::use_optional, lmx::ELMX_WS_COLLAPSE, "Vyr:IntegerValue", element_IntegerValue, 0, lmx::k_no_flag, lmx::position_of(k_CustomAttributeType_ValueChoice_elements, element_IntegerValue), lmx::position_of(k_CustomAttributeType_ValueChoice_elements, element_IntegerValue, 1), nullptr, &facets::Int32, {}},
-    {lmx::item_kind::alternative, lmx::value_kind::text, lmx::use_optional, lmx::ELMX_WS_PRESERVE, "Vyr:StringValue", element_StringValue, 0, lmx::k_no_flag, lmx::position_of(k_CustomAttributeType_ValueChoice_elements, element_StringValue), lmx::position_of(k_CustomAttributeType_ValueChoice_elements, element_StringValue, 1), nullptr, nullptr, {}},
+constinit const s_item CustomAttributeType_ValueChoice::k_items[] = {
+    {item_kind::alternative, value_kind::number, use_optional, ELMX_WS_COLLAPSE, "Vyr:DoubleValue", element_DoubleValue,
+     0, k_no_flag, position_of(k_CustomAttributeType_ValueChoice_elements, element_DoubleValue), position_of(k_CustomAttributeType_ValueChoice_elements, element_DoubleValue, 1), nullptr, nullptr, {}},
+    {item_kind::alternative, value_kind::int32, use_optional, ELMX_WS_COLLAPSE, "Vyr:IntegerValue", element_IntegerValue,
+     0, k_no_flag, position_of(k_CustomAttributeType_ValueChoice_elements, element_IntegerValue), position_of(k_CustomAttributeType_ValueChoice_elements, element_IntegerValue, 1), nullptr, &facets::Int32, {}},
+    {item_kind::alternative, value_kind::text, use_optional, ELMX_WS_PRESERVE, "Vyr:StringValue", element_StringValue,
+     0, k_no_flag, position_of(k_CustomAttributeType_ValueChoice_elements, element_StringValue), position_of(k_CustomAttributeType_ValueChoice_elements, element_StringValue, 1), nullptr, nullptr, {}},
 };
-constinit const lmx::s_class CustomAttributeType_ValueChoice::k_class = {
+constinit const s_class CustomAttributeType_ValueChoice::k_class = {
     .name = "CustomAttributeType_ValueChoice",
     .qualified_name = "Vyr:ValueChoice",
     .base = nullptr,
-    .content = lmx::content_kind::choice,
+    .content = content_kind::choice,
     .may_be_empty = false,
     .ns_map = nullptr,
-    .nil_flag = lmx::k_no_flag,
+    .nil_flag = k_no_flag,
     .choice = LMX_CHOICE(CustomAttributeType_ValueChoice, m_choice),
     .id = nullptr,
     .xsi_type = nullptr,
-    .attributes = std::span(k_items).first(std::size(lmx::k_no_events) - 1),
-    .elements = std::span(k_items).subspan(std::size(lmx::k_no_events) - 1),
-    .attribute_map = lmx::k_no_events,
+    .attributes = std::span(k_items).first(std::size(k_no_events) - 1),
+    .elements = std::span(k_items).subspan(std::size(k_no_events) - 1),
+    .attribute_map = k_no_events,
     .element_map = k_CustomAttributeType_ValueChoice_elements,
-    .operations = &lmx::k_operations<CustomAttributeType_ValueChoice>,
+    .operations = &k_operations<CustomAttributeType_ValueChoice>,
 };
 
 CustomAttributeType_ValueChoice::CustomAttributeType_ValueChoice() = default;
@@ -670,33 +709,35 @@ lmx::elmx_error CustomAttributeType_ValueChoice::set_StringValue(const std::u16s
 // CustomAttributeType
 
 namespace {
-constexpr lmx::s_event_map k_CustomAttributeType_elements[] = {
-    lmx::element_event("Name", element_Name),
-    lmx::element_event("ValueChoice", element_ValueChoice),
-    lmx::k_end_of_map,
+constexpr s_event_map k_CustomAttributeType_elements[] = {
+    element_event("Name", element_Name),
+    element_event("ValueChoice", element_ValueChoice),
+    k_end_of_map,
 };
 }  // namespace
 
-constinit const lmx::s_item CustomAttributeType::k_items[] = {
-    {lmx::item_kind::element, lmx::value_kind::text, lmx::use_required, lmx::ELMX_WS_PRESERVE, "Vyr:Name", element_Name, LMX_OFFSET(CustomAttributeType, m_Name, element, text), LMX_FLAG(CustomAttributeType, m_isset_Name), lmx::position_of(k_CustomAttributeType_elements, element_Name), lmx::position_of(k_CustomAttributeType_elements, element_Name, 1), nullptr, &facets::NonEmptyString, {}},
-    {lmx::item_kind::child, lmx::value_kind::none, lmx::use_required, lmx::ELMX_WS_PRESERVE, "Vyr:ValueChoice", element_ValueChoice, LMX_OFFSET(CustomAttributeType, m_ValueChoice, child, none), LMX_FLAG(CustomAttributeType, m_isset_ValueChoice), lmx::position_of(k_CustomAttributeType_elements, element_ValueChoice), lmx::position_of(k_CustomAttributeType_elements, element_ValueChoice, 1), &CustomAttributeType_ValueChoice::k_class, nullptr, {}},
+constinit const s_item CustomAttributeType::k_items[] = {
+    {item_kind::element, value_kind::text, use_required, ELMX_WS_PRESERVE, "Vyr:Name", element_Name,
+     LMX_OFFSET(CustomAttributeType, m_Name, element, text), LMX_FLAG(CustomAttributeType, m_isset_Name), position_of(k_CustomAttributeType_elements, element_Name), position_of(k_CustomAttributeType_elements, element_Name, 1), nullptr, &facets::NonEmptyString, {}},
+    {item_kind::child, value_kind::none, use_required, ELMX_WS_PRESERVE, "Vyr:ValueChoice", element_ValueChoice,
+     LMX_OFFSET(CustomAttributeType, m_ValueChoice, child, none), LMX_FLAG(CustomAttributeType, m_isset_ValueChoice), position_of(k_CustomAttributeType_elements, element_ValueChoice), position_of(k_CustomAttributeType_elements, element_ValueChoice, 1), &CustomAttributeType_ValueChoice::k_class, nullptr, {}},
 };
-constinit const lmx::s_class CustomAttributeType::k_class = {
+constinit const s_class CustomAttributeType::k_class = {
     .name = "CustomAttributeType",
     .qualified_name = "Vyr:CustomAttributeType",
     .base = nullptr,
-    .content = lmx::content_kind::children,
+    .content = content_kind::children,
     .may_be_empty = false,
     .ns_map = k_ns_map,
-    .nil_flag = lmx::k_no_flag,
-    .choice = lmx::k_no_flag,
+    .nil_flag = k_no_flag,
+    .choice = k_no_flag,
     .id = nullptr,
     .xsi_type = nullptr,
-    .attributes = std::span(k_items).first(std::size(lmx::k_no_events) - 1),
-    .elements = std::span(k_items).subspan(std::size(lmx::k_no_events) - 1),
-    .attribute_map = lmx::k_no_events,
+    .attributes = std::span(k_items).first(std::size(k_no_events) - 1),
+    .elements = std::span(k_items).subspan(std::size(k_no_events) - 1),
+    .attribute_map = k_no_events,
     .element_map = k_CustomAttributeType_elements,
-    .operations = &lmx::k_operations<CustomAttributeType>,
+    .operations = &k_operations<CustomAttributeType>,
 };
 
 CustomAttributeType::CustomAttributeType() = default;
@@ -719,33 +760,35 @@ CustomAttributeType_ValueChoice& CustomAttributeType::assign_ValueChoice(const C
 // TagCategory
 
 namespace {
-constexpr lmx::s_event_map k_TagCategory_attributes[] = {
-    lmx::attribute_event("UniqueID", attribute_UniqueID),
-    lmx::attribute_event("Name", attribute_Name),
-    lmx::k_end_of_map,
+constexpr s_event_map k_TagCategory_attributes[] = {
+    attribute_event("UniqueID", attribute_UniqueID),
+    attribute_event("Name", attribute_Name),
+    k_end_of_map,
 };
 }  // namespace
 
-constinit const lmx::s_item TagCategory::k_items[] = {
-    {lmx::item_kind::attribute, lmx::value_kind::text, lmx::use_optional, lmx::ELMX_WS_PRESERVE, "UniqueID", attribute_UniqueID, LMX_OFFSET(TagCategory, m_UniqueID, attribute, text), LMX_FLAG(TagCategory, m_isset_UniqueID), 0, 0, nullptr, nullptr, {}},
-    {lmx::item_kind::attribute, lmx::value_kind::text, lmx::use_optional, lmx::ELMX_WS_PRESERVE, "Name", attribute_Name, LMX_OFFSET(TagCategory, m_Name, attribute, text), LMX_FLAG(TagCategory, m_isset_Name), 0, 0, nullptr, nullptr, {}},
+constinit const s_item TagCategory::k_items[] = {
+    {item_kind::attribute, value_kind::text, use_optional, ELMX_WS_PRESERVE, "UniqueID", attribute_UniqueID,
+     LMX_OFFSET(TagCategory, m_UniqueID, attribute, text), LMX_FLAG(TagCategory, m_isset_UniqueID), 0, 0, nullptr, nullptr, {}},
+    {item_kind::attribute, value_kind::text, use_optional, ELMX_WS_PRESERVE, "Name", attribute_Name,
+     LMX_OFFSET(TagCategory, m_Name, attribute, text), LMX_FLAG(TagCategory, m_isset_Name), 0, 0, nullptr, nullptr, {}},
 };
-constinit const lmx::s_class TagCategory::k_class = {
+constinit const s_class TagCategory::k_class = {
     .name = "TagCategory",
     .qualified_name = "Vyr:TagCategory",
     .base = nullptr,
-    .content = lmx::content_kind::empty,
+    .content = content_kind::empty,
     .may_be_empty = false,
     .ns_map = k_ns_map,
-    .nil_flag = lmx::k_no_flag,
-    .choice = lmx::k_no_flag,
+    .nil_flag = k_no_flag,
+    .choice = k_no_flag,
     .id = nullptr,
     .xsi_type = nullptr,
     .attributes = std::span(k_items).first(std::size(k_TagCategory_attributes) - 1),
     .elements = std::span(k_items).subspan(std::size(k_TagCategory_attributes) - 1),
     .attribute_map = k_TagCategory_attributes,
-    .element_map = lmx::k_no_events,
-    .operations = &lmx::k_operations<TagCategory>,
+    .element_map = k_no_events,
+    .operations = &k_operations<TagCategory>,
 };
 
 TagCategory::TagCategory() = default;
@@ -768,38 +811,41 @@ lmx::elmx_error TagCategory::set_Name(const std::u16string& value) { return lmx:
 // Tag
 
 namespace {
-constexpr lmx::s_event_map k_Tag_attributes[] = {
-    lmx::attribute_event("Name", attribute_Name),
-    lmx::attribute_event("UniqueID", attribute_UniqueID),
-    lmx::k_end_of_map,
+constexpr s_event_map k_Tag_attributes[] = {
+    attribute_event("Name", attribute_Name),
+    attribute_event("UniqueID", attribute_UniqueID),
+    k_end_of_map,
 };
-constexpr lmx::s_event_map k_Tag_elements[] = {
-    lmx::element_event("Category", element_Category),
-    lmx::k_end_of_map,
+constexpr s_event_map k_Tag_elements[] = {
+    element_event("Category", element_Category),
+    k_end_of_map,
 };
 }  // namespace
 
-constinit const lmx::s_item Tag::k_items[] = {
-    {lmx::item_kind::attribute, lmx::value_kind::text, lmx::use_optional, lmx::ELMX_WS_PRESERVE, "Name", attribute_Name, LMX_OFFSET(Tag, m_Name, attribute, text), LMX_FLAG(Tag, m_isset_Name), 0, 0, nullptr, nullptr, {}},
-    {lmx::item_kind::attribute, lmx::value_kind::text, lmx::use_optional, lmx::ELMX_WS_PRESERVE, "UniqueID", attribute_UniqueID, LMX_OFFSET(Tag, m_UniqueID, attribute, text), LMX_FLAG(Tag, m_isset_UniqueID), 0, 0, nullptr, nullptr, {}},
-    {lmx::item_kind::child, lmx::value_kind::none, lmx::use_written | lmx::use_copied, lmx::ELMX_WS_PRESERVE, "Vyr:Category", element_Category, LMX_OFFSET(Tag, m_Category, child, none), LMX_FLAG(Tag, m_isset_Category), lmx::position_of(k_Tag_elements, element_Category), lmx::position_of(k_Tag_elements, element_Category, 1), &TagCategory::k_class, nullptr, {}},
+constinit const s_item Tag::k_items[] = {
+    {item_kind::attribute, value_kind::text, use_optional, ELMX_WS_PRESERVE, "Name", attribute_Name,
+     LMX_OFFSET(Tag, m_Name, attribute, text), LMX_FLAG(Tag, m_isset_Name), 0, 0, nullptr, nullptr, {}},
+    {item_kind::attribute, value_kind::text, use_optional, ELMX_WS_PRESERVE, "UniqueID", attribute_UniqueID,
+     LMX_OFFSET(Tag, m_UniqueID, attribute, text), LMX_FLAG(Tag, m_isset_UniqueID), 0, 0, nullptr, nullptr, {}},
+    {item_kind::child, value_kind::none, use_written | use_copied, ELMX_WS_PRESERVE, "Vyr:Category", element_Category,
+     LMX_OFFSET(Tag, m_Category, child, none), LMX_FLAG(Tag, m_isset_Category), position_of(k_Tag_elements, element_Category), position_of(k_Tag_elements, element_Category, 1), &TagCategory::k_class, nullptr, {}},
 };
-constinit const lmx::s_class Tag::k_class = {
+constinit const s_class Tag::k_class = {
     .name = "Tag",
     .qualified_name = "Vyr:Tag",
     .base = nullptr,
-    .content = lmx::content_kind::children,
+    .content = content_kind::children,
     .may_be_empty = false,
     .ns_map = k_ns_map,
-    .nil_flag = lmx::k_no_flag,
-    .choice = lmx::k_no_flag,
+    .nil_flag = k_no_flag,
+    .choice = k_no_flag,
     .id = nullptr,
     .xsi_type = nullptr,
     .attributes = std::span(k_items).first(std::size(k_Tag_attributes) - 1),
     .elements = std::span(k_items).subspan(std::size(k_Tag_attributes) - 1),
     .attribute_map = k_Tag_attributes,
     .element_map = k_Tag_elements,
-    .operations = &lmx::k_operations<Tag>,
+    .operations = &k_operations<Tag>,
 };
 
 Tag::Tag() = default;
@@ -823,33 +869,35 @@ TagCategory& Tag::assign_Category(const TagCategory& value) { return get_Categor
 // anon_TextValue
 
 namespace {
-constexpr lmx::s_event_map k_anon_TextValue_elements[] = {
-    lmx::element_event("TextValue", element_TextValue),
-    lmx::element_event("NumberValue", element_NumberValue),
-    lmx::k_end_of_map,
+constexpr s_event_map k_anon_TextValue_elements[] = {
+    element_event("TextValue", element_TextValue),
+    element_event("NumberValue", element_NumberValue),
+    k_end_of_map,
 };
 }  // namespace
 
-constinit const lmx::s_item anon_TextValue::k_items[] = {
-    {lmx::item_kind::alternative, lmx::value_kind::text, lmx::use_optional, lmx::ELMX_WS_PRESERVE, "Vyr:TextValue", element_TextValue, 0, lmx::k_no_flag, lmx::position_of(k_anon_TextValue_elements, element_TextValue), lmx::position_of(k_anon_TextValue_elements, element_TextValue, 1), nullptr, nullptr, {}},
-    {lmx::item_kind::alternative, lmx::value_kind::number, lmx::use_optional, lmx::ELMX_WS_COLLAPSE, "Vyr:NumberValue", element_NumberValue, 0, lmx::k_no_flag, lmx::position_of(k_anon_TextValue_elements, element_NumberValue), lmx::position_of(k_anon_TextValue_elements, element_NumberValue, 1), nullptr, nullptr, {}},
+constinit const s_item anon_TextValue::k_items[] = {
+    {item_kind::alternative, value_kind::text, use_optional, ELMX_WS_PRESERVE, "Vyr:TextValue", element_TextValue,
+     0, k_no_flag, position_of(k_anon_TextValue_elements, element_TextValue), position_of(k_anon_TextValue_elements, element_TextValue, 1), nullptr, nullptr, {}},
+    {item_kind::alternative, value_kind::number, use_optional, ELMX_WS_COLLAPSE, "Vyr:NumberValue", element_NumberValue,
+     0, k_no_flag, position_of(k_anon_TextValue_elements, element_NumberValue), position_of(k_anon_TextValue_elements, element_NumberValue, 1), nullptr, nullptr, {}},
 };
-constinit const lmx::s_class anon_TextValue::k_class = {
+constinit const s_class anon_TextValue::k_class = {
     .name = "anon_TextValue",
     .qualified_name = "",
     .base = nullptr,
-    .content = lmx::content_kind::choice,
+    .content = content_kind::choice,
     .may_be_empty = false,
     .ns_map = nullptr,
-    .nil_flag = lmx::k_no_flag,
+    .nil_flag = k_no_flag,
     .choice = LMX_CHOICE(anon_TextValue, m_choice),
     .id = nullptr,
     .xsi_type = nullptr,
-    .attributes = std::span(k_items).first(std::size(lmx::k_no_events) - 1),
-    .elements = std::span(k_items).subspan(std::size(lmx::k_no_events) - 1),
-    .attribute_map = lmx::k_no_events,
+    .attributes = std::span(k_items).first(std::size(k_no_events) - 1),
+    .elements = std::span(k_items).subspan(std::size(k_no_events) - 1),
+    .attribute_map = k_no_events,
     .element_map = k_anon_TextValue_elements,
-    .operations = &lmx::k_operations<anon_TextValue>,
+    .operations = &k_operations<anon_TextValue>,
 };
 
 anon_TextValue::anon_TextValue() = default;
@@ -871,39 +919,42 @@ lmx::elmx_error anon_TextValue::set_NumberValue(double value) { return lmx::set_
 // TagValue
 
 namespace {
-constexpr lmx::s_event_map k_TagValue_attributes[] = {
-    lmx::attribute_event("UniqueID", attribute_UniqueID),
-    lmx::k_end_of_map,
+constexpr s_event_map k_TagValue_attributes[] = {
+    attribute_event("UniqueID", attribute_UniqueID),
+    k_end_of_map,
 };
-constexpr lmx::s_event_map k_TagValue_elements[] = {
-    lmx::element_event("Tag", element_Tag),
-    lmx::element_event("TextValue", element_TextValue),
-    lmx::element_event("NumberValue", element_NumberValue),
-    lmx::k_end_of_map,
+constexpr s_event_map k_TagValue_elements[] = {
+    element_event("Tag", element_Tag),
+    element_event("TextValue", element_TextValue),
+    element_event("NumberValue", element_NumberValue),
+    k_end_of_map,
 };
 }  // namespace
 
-constinit const lmx::s_item TagValue::k_items[] = {
-    {lmx::item_kind::attribute, lmx::value_kind::text, lmx::use_optional, lmx::ELMX_WS_PRESERVE, "UniqueID", attribute_UniqueID, LMX_OFFSET(TagValue, m_UniqueID, attribute, text), LMX_FLAG(TagValue, m_isset_UniqueID), 0, 0, nullptr, nullptr, {}},
-    {lmx::item_kind::child, lmx::value_kind::none, lmx::use_required, lmx::ELMX_WS_PRESERVE, "Vyr:Tag", element_Tag, LMX_OFFSET(TagValue, m_Tag, child, none), LMX_FLAG(TagValue, m_isset_Tag), lmx::position_of(k_TagValue_elements, element_Tag), lmx::position_of(k_TagValue_elements, element_Tag, 1), &Tag::k_class, nullptr, {}},
-    {lmx::item_kind::group, lmx::value_kind::none, lmx::use_required, lmx::ELMX_WS_PRESERVE, "", 0, LMX_OFFSET(TagValue, m_anon_TextValue, group, none), LMX_FLAG(TagValue, m_isset_anon_TextValue), lmx::position_of(k_TagValue_elements, element_TextValue), lmx::position_of(k_TagValue_elements, element_TextValue, 2), &anon_TextValue::k_class, nullptr, {}},
+constinit const s_item TagValue::k_items[] = {
+    {item_kind::attribute, value_kind::text, use_optional, ELMX_WS_PRESERVE, "UniqueID", attribute_UniqueID,
+     LMX_OFFSET(TagValue, m_UniqueID, attribute, text), LMX_FLAG(TagValue, m_isset_UniqueID), 0, 0, nullptr, nullptr, {}},
+    {item_kind::child, value_kind::none, use_required, ELMX_WS_PRESERVE, "Vyr:Tag", element_Tag,
+     LMX_OFFSET(TagValue, m_Tag, child, none), LMX_FLAG(TagValue, m_isset_Tag), position_of(k_TagValue_elements, element_Tag), position_of(k_TagValue_elements, element_Tag, 1), &Tag::k_class, nullptr, {}},
+    {item_kind::group, value_kind::none, use_required, ELMX_WS_PRESERVE, "", 0,
+     LMX_OFFSET(TagValue, m_anon_TextValue, group, none), LMX_FLAG(TagValue, m_isset_anon_TextValue), position_of(k_TagValue_elements, element_TextValue), position_of(k_TagValue_elements, element_TextValue, 2), &anon_TextValue::k_class, nullptr, {}},
 };
-constinit const lmx::s_class TagValue::k_class = {
+constinit const s_class TagValue::k_class = {
     .name = "TagValue",
     .qualified_name = "Vyr:TagValue",
     .base = nullptr,
-    .content = lmx::content_kind::children,
+    .content = content_kind::children,
     .may_be_empty = false,
     .ns_map = k_ns_map,
-    .nil_flag = lmx::k_no_flag,
-    .choice = lmx::k_no_flag,
+    .nil_flag = k_no_flag,
+    .choice = k_no_flag,
     .id = nullptr,
     .xsi_type = nullptr,
     .attributes = std::span(k_items).first(std::size(k_TagValue_attributes) - 1),
     .elements = std::span(k_items).subspan(std::size(k_TagValue_attributes) - 1),
     .attribute_map = k_TagValue_attributes,
     .element_map = k_TagValue_elements,
-    .operations = &lmx::k_operations<TagValue>,
+    .operations = &k_operations<TagValue>,
 };
 
 TagValue::TagValue() = default;

@@ -19,46 +19,54 @@
 
 namespace com_vyrgraph_v2 {
 
-static_assert(lmx::k_binding_version == 1, "run schema/generator/generate.py");
+using namespace lmx;  // for the tables' sake
+
+static_assert(k_binding_version == 1, "run schema/generator/generate.py");
 
 // CollectionColorSpaceSpecificationType
 
 namespace {
-constexpr lmx::s_event_map k_CollectionColorSpaceSpecificationType_elements[] = {
-    lmx::element_event("ColorSpaceSpecificationSpectrumGeneric", element_ColorSpaceSpecificationSpectrumGeneric),
-    lmx::element_event("ColorSpaceSpecificationSpectrumSpectral", element_ColorSpaceSpecificationSpectrumSpectral),
-    lmx::element_event("ColorSpaceSpecificationSpectrumTristimulus", element_ColorSpaceSpecificationSpectrumTristimulus),
-    lmx::element_event("ColorSpaceSpecificationEmissiveGeneric", element_ColorSpaceSpecificationEmissiveGeneric),
-    lmx::element_event("ColorSpaceSpecificationEmissiveSpectral", element_ColorSpaceSpecificationEmissiveSpectral),
-    lmx::element_event("ColorSpaceSpecificationEmissiveTristimulus", element_ColorSpaceSpecificationEmissiveTristimulus),
-    lmx::k_end_of_map,
+constexpr s_event_map k_CollectionColorSpaceSpecificationType_elements[] = {
+    element_event("ColorSpaceSpecificationSpectrumGeneric", element_ColorSpaceSpecificationSpectrumGeneric),
+    element_event("ColorSpaceSpecificationSpectrumSpectral", element_ColorSpaceSpecificationSpectrumSpectral),
+    element_event("ColorSpaceSpecificationSpectrumTristimulus", element_ColorSpaceSpecificationSpectrumTristimulus),
+    element_event("ColorSpaceSpecificationEmissiveGeneric", element_ColorSpaceSpecificationEmissiveGeneric),
+    element_event("ColorSpaceSpecificationEmissiveSpectral", element_ColorSpaceSpecificationEmissiveSpectral),
+    element_event("ColorSpaceSpecificationEmissiveTristimulus", element_ColorSpaceSpecificationEmissiveTristimulus),
+    k_end_of_map,
 };
 }  // namespace
 
-constinit const lmx::s_item CollectionColorSpaceSpecificationType::k_items[] = {
-    {lmx::item_kind::child, lmx::value_kind::none, lmx::use_optional, lmx::ELMX_WS_PRESERVE, "Vyr:ColorSpaceSpecificationSpectrumGeneric", element_ColorSpaceSpecificationSpectrumGeneric, LMX_OFFSET(CollectionColorSpaceSpecificationType, m_ColorSpaceSpecificationSpectrumGeneric, child, none), LMX_FLAG(CollectionColorSpaceSpecificationType, m_isset_ColorSpaceSpecificationSpectrumGeneric), lmx::position_of(k_CollectionColorSpaceSpecificationType_elements, element_ColorSpaceSpecificationSpectrumGeneric), lmx::position_of(k_CollectionColorSpaceSpecificationType_elements, element_ColorSpaceSpecificationSpectrumGeneric, 1), &ColorSpaceSpecificationSpectrumGeneric::k_class, nullptr, {}},
-    {lmx::item_kind::child, lmx::value_kind::none, lmx::use_optional, lmx::ELMX_WS_PRESERVE, "Vyr:ColorSpaceSpecificationSpectrumSpectral", element_ColorSpaceSpecificationSpectrumSpectral, LMX_OFFSET(CollectionColorSpaceSpecificationType, m_ColorSpaceSpecificationSpectrumSpectral, child, none), LMX_FLAG(CollectionColorSpaceSpecificationType, m_isset_ColorSpaceSpecificationSpectrumSpectral), lmx::position_of(k_CollectionColorSpaceSpecificationType_elements, element_ColorSpaceSpecificationSpectrumSpectral), lmx::position_of(k_CollectionColorSpaceSpecificationType_elements, element_ColorSpaceSpecificationSpectrumSpectral, 1), &ColorSpaceSpecificationSpectrumSpectral::k_class, nullptr, {}},
-    {lmx::item_kind::child, lmx::value_kind::none, lmx::use_optional, lmx::ELMX_WS_PRESERVE, "Vyr:ColorSpaceSpecificationSpectrumTristimulus", element_ColorSpaceSpecificationSpectrumTristimulus, LMX_OFFSET(CollectionColorSpaceSpecificationType, m_ColorSpaceSpecificationSpectrumTristimulus, child, none), LMX_FLAG(CollectionColorSpaceSpecificationType, m_isset_ColorSpaceSpecificationSpectrumTristimulus), lmx::position_of(k_CollectionColorSpaceSpecificationType_elements, element_ColorSpaceSpecificationSpectrumTristimulus), lmx::position_of(k_CollectionColorSpaceSpecificationType_elements, element_ColorSpaceSpecificationSpectrumTristimulus, 1), &ColorSpaceSpecificationSpectrumTristimulus::k_class, nullptr, {}},
-    {lmx::item_kind::child, lmx::value_kind::none, lmx::use_optional, lmx::ELMX_WS_PRESERVE, "Vyr:ColorSpaceSpecificationEmissiveGeneric", element_ColorSpaceSpecificationEmissiveGeneric, LMX_OFFSET(CollectionColorSpaceSpecificationType, m_ColorSpaceSpecificationEmissiveGeneric, child, none), LMX_FLAG(CollectionColorSpaceSpecificationType, m_isset_ColorSpaceSpecificationEmissiveGeneric), lmx::position_of(k_CollectionColorSpaceSpecificationType_elements, element_ColorSpaceSpecificationEmissiveGeneric), lmx::position_of(k_CollectionColorSpaceSpecificationType_elements, element_ColorSpaceSpecificationEmissiveGeneric, 1), &ColorSpaceSpecificationEmissiveGeneric::k_class, nullptr, {}},
-    {lmx::item_kind::child, lmx::value_kind::none, lmx::use_optional, lmx::ELMX_WS_PRESERVE, "Vyr:ColorSpaceSpecificationEmissiveSpectral", element_ColorSpaceSpecificationEmissiveSpectral, LMX_OFFSET(CollectionColorSpaceSpecificationType, m_ColorSpaceSpecificationEmissiveSpectral, child, none), LMX_FLAG(CollectionColorSpaceSpecificationType, m_isset_ColorSpaceSpecificationEmissiveSpectral), lmx::position_of(k_CollectionColorSpaceSpecificationType_elements, element_ColorSpaceSpecificationEmissiveSpectral), lmx::position_of(k_CollectionColorSpaceSpecificationType_elements, element_ColorSpaceSpecificationEmissiveSpectral, 1), &ColorSpaceSpecificationEmissiveSpectral::k_class, nullptr, {}},
-    {lmx::item_kind::child, lmx::value_kind::none, lmx::use_optional, lmx::ELMX_WS_PRESERVE, "Vyr:ColorSpaceSpecificationEmissiveTristimulus", element_ColorSpaceSpecificationEmissiveTristimulus, LMX_OFFSET(CollectionColorSpaceSpecificationType, m_ColorSpaceSpecificationEmissiveTristimulus, child, none), LMX_FLAG(CollectionColorSpaceSpecificationType, m_isset_ColorSpaceSpecificationEmissiveTristimulus), lmx::position_of(k_CollectionColorSpaceSpecificationType_elements, element_ColorSpaceSpecificationEmissiveTristimulus), lmx::position_of(k_CollectionColorSpaceSpecificationType_elements, element_ColorSpaceSpecificationEmissiveTristimulus, 1), &ColorSpaceSpecificationEmissiveTristimulus::k_class, nullptr, {}},
+constinit const s_item CollectionColorSpaceSpecificationType::k_items[] = {
+    {item_kind::child, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:ColorSpaceSpecificationSpectrumGeneric", element_ColorSpaceSpecificationSpectrumGeneric,
+     LMX_OFFSET(CollectionColorSpaceSpecificationType, m_ColorSpaceSpecificationSpectrumGeneric, child, none), LMX_FLAG(CollectionColorSpaceSpecificationType, m_isset_ColorSpaceSpecificationSpectrumGeneric), position_of(k_CollectionColorSpaceSpecificationType_elements, element_ColorSpaceSpecificationSpectrumGeneric), position_of(k_CollectionColorSpaceSpecificationType_elements, element_ColorSpaceSpecificationSpectrumGeneric, 1), &ColorSpaceSpecificationSpectrumGeneric::k_class, nullptr, {}},
+    {item_kind::child, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:ColorSpaceSpecificationSpectrumSpectral", element_ColorSpaceSpecificationSpectrumSpectral,
+     LMX_OFFSET(CollectionColorSpaceSpecificationType, m_ColorSpaceSpecificationSpectrumSpectral, child, none), LMX_FLAG(CollectionColorSpaceSpecificationType, m_isset_ColorSpaceSpecificationSpectrumSpectral), position_of(k_CollectionColorSpaceSpecificationType_elements, element_ColorSpaceSpecificationSpectrumSpectral), position_of(k_CollectionColorSpaceSpecificationType_elements, element_ColorSpaceSpecificationSpectrumSpectral, 1), &ColorSpaceSpecificationSpectrumSpectral::k_class, nullptr, {}},
+    {item_kind::child, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:ColorSpaceSpecificationSpectrumTristimulus", element_ColorSpaceSpecificationSpectrumTristimulus,
+     LMX_OFFSET(CollectionColorSpaceSpecificationType, m_ColorSpaceSpecificationSpectrumTristimulus, child, none), LMX_FLAG(CollectionColorSpaceSpecificationType, m_isset_ColorSpaceSpecificationSpectrumTristimulus), position_of(k_CollectionColorSpaceSpecificationType_elements, element_ColorSpaceSpecificationSpectrumTristimulus), position_of(k_CollectionColorSpaceSpecificationType_elements, element_ColorSpaceSpecificationSpectrumTristimulus, 1), &ColorSpaceSpecificationSpectrumTristimulus::k_class, nullptr, {}},
+    {item_kind::child, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:ColorSpaceSpecificationEmissiveGeneric", element_ColorSpaceSpecificationEmissiveGeneric,
+     LMX_OFFSET(CollectionColorSpaceSpecificationType, m_ColorSpaceSpecificationEmissiveGeneric, child, none), LMX_FLAG(CollectionColorSpaceSpecificationType, m_isset_ColorSpaceSpecificationEmissiveGeneric), position_of(k_CollectionColorSpaceSpecificationType_elements, element_ColorSpaceSpecificationEmissiveGeneric), position_of(k_CollectionColorSpaceSpecificationType_elements, element_ColorSpaceSpecificationEmissiveGeneric, 1), &ColorSpaceSpecificationEmissiveGeneric::k_class, nullptr, {}},
+    {item_kind::child, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:ColorSpaceSpecificationEmissiveSpectral", element_ColorSpaceSpecificationEmissiveSpectral,
+     LMX_OFFSET(CollectionColorSpaceSpecificationType, m_ColorSpaceSpecificationEmissiveSpectral, child, none), LMX_FLAG(CollectionColorSpaceSpecificationType, m_isset_ColorSpaceSpecificationEmissiveSpectral), position_of(k_CollectionColorSpaceSpecificationType_elements, element_ColorSpaceSpecificationEmissiveSpectral), position_of(k_CollectionColorSpaceSpecificationType_elements, element_ColorSpaceSpecificationEmissiveSpectral, 1), &ColorSpaceSpecificationEmissiveSpectral::k_class, nullptr, {}},
+    {item_kind::child, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:ColorSpaceSpecificationEmissiveTristimulus", element_ColorSpaceSpecificationEmissiveTristimulus,
+     LMX_OFFSET(CollectionColorSpaceSpecificationType, m_ColorSpaceSpecificationEmissiveTristimulus, child, none), LMX_FLAG(CollectionColorSpaceSpecificationType, m_isset_ColorSpaceSpecificationEmissiveTristimulus), position_of(k_CollectionColorSpaceSpecificationType_elements, element_ColorSpaceSpecificationEmissiveTristimulus), position_of(k_CollectionColorSpaceSpecificationType_elements, element_ColorSpaceSpecificationEmissiveTristimulus, 1), &ColorSpaceSpecificationEmissiveTristimulus::k_class, nullptr, {}},
 };
-constinit const lmx::s_class CollectionColorSpaceSpecificationType::k_class = {
+constinit const s_class CollectionColorSpaceSpecificationType::k_class = {
     .name = "CollectionColorSpaceSpecificationType",
     .qualified_name = "Vyr:CollectionColorSpaceSpecificationType",
     .base = nullptr,
-    .content = lmx::content_kind::children,
+    .content = content_kind::children,
     .may_be_empty = true,
     .ns_map = k_ns_map,
-    .nil_flag = lmx::k_no_flag,
-    .choice = lmx::k_no_flag,
+    .nil_flag = k_no_flag,
+    .choice = k_no_flag,
     .id = nullptr,
     .xsi_type = nullptr,
-    .attributes = std::span(k_items).first(std::size(lmx::k_no_events) - 1),
-    .elements = std::span(k_items).subspan(std::size(lmx::k_no_events) - 1),
-    .attribute_map = lmx::k_no_events,
+    .attributes = std::span(k_items).first(std::size(k_no_events) - 1),
+    .elements = std::span(k_items).subspan(std::size(k_no_events) - 1),
+    .attribute_map = k_no_events,
     .element_map = k_CollectionColorSpaceSpecificationType_elements,
-    .operations = &lmx::k_operations<CollectionColorSpaceSpecificationType>,
+    .operations = &k_operations<CollectionColorSpaceSpecificationType>,
 };
 
 CollectionColorSpaceSpecificationType::CollectionColorSpaceSpecificationType() = default;
@@ -85,54 +93,65 @@ ColorSpaceSpecificationEmissiveTristimulus& CollectionColorSpaceSpecificationTyp
 // PaletteType
 
 namespace {
-constexpr lmx::s_event_map k_PaletteType_attributes[] = {
-    lmx::attribute_event("PaletteName", attribute_PaletteName),
-    lmx::attribute_event("PalettePartNumber", attribute_PalettePartNumber),
-    lmx::attribute_event("PaletteVersion", attribute_PaletteVersion),
-    lmx::attribute_event("UniqueID", attribute_UniqueID),
-    lmx::attribute_event("Comments", attribute_Comments),
-    lmx::k_end_of_map,
+constexpr s_event_map k_PaletteType_attributes[] = {
+    attribute_event("PaletteName", attribute_PaletteName),
+    attribute_event("PalettePartNumber", attribute_PalettePartNumber),
+    attribute_event("PaletteVersion", attribute_PaletteVersion),
+    attribute_event("UniqueID", attribute_UniqueID),
+    attribute_event("Comments", attribute_Comments),
+    k_end_of_map,
 };
-constexpr lmx::s_event_map k_PaletteType_elements[] = {
-    lmx::element_event("CustomAttribute", element_CustomAttribute),
-    lmx::element_event("ChangeHistory", element_ChangeHistory),
-    lmx::element_event("Owner", element_Owner),
-    lmx::element_event("SemanticAssociation", element_SemanticAssociation),
-    lmx::element_event("CollectionColorSpaceSpecification", element_CollectionColorSpaceSpecification),
-    lmx::element_event("ColorSet", element_ColorSet),
-    lmx::k_end_of_map,
+constexpr s_event_map k_PaletteType_elements[] = {
+    element_event("CustomAttribute", element_CustomAttribute),
+    element_event("ChangeHistory", element_ChangeHistory),
+    element_event("Owner", element_Owner),
+    element_event("SemanticAssociation", element_SemanticAssociation),
+    element_event("CollectionColorSpaceSpecification", element_CollectionColorSpaceSpecification),
+    element_event("ColorSet", element_ColorSet),
+    k_end_of_map,
 };
 }  // namespace
 
-constinit const lmx::s_item PaletteType::k_items[] = {
-    {lmx::item_kind::attribute, lmx::value_kind::text, lmx::use_required, lmx::ELMX_WS_PRESERVE, "PaletteName", attribute_PaletteName, LMX_OFFSET(PaletteType, m_PaletteName, attribute, text), LMX_FLAG(PaletteType, m_isset_PaletteName), 0, 0, nullptr, nullptr, {}},
-    {lmx::item_kind::attribute, lmx::value_kind::text, lmx::use_optional, lmx::ELMX_WS_PRESERVE, "PalettePartNumber", attribute_PalettePartNumber, LMX_OFFSET(PaletteType, m_PalettePartNumber, attribute, text), LMX_FLAG(PaletteType, m_isset_PalettePartNumber), 0, 0, nullptr, nullptr, {}},
-    {lmx::item_kind::attribute, lmx::value_kind::text, lmx::use_optional, lmx::ELMX_WS_PRESERVE, "PaletteVersion", attribute_PaletteVersion, LMX_OFFSET(PaletteType, m_PaletteVersion, attribute, text), LMX_FLAG(PaletteType, m_isset_PaletteVersion), 0, 0, nullptr, nullptr, {}},
-    {lmx::item_kind::attribute, lmx::value_kind::text, lmx::use_optional, lmx::ELMX_WS_PRESERVE, "UniqueID", attribute_UniqueID, LMX_OFFSET(PaletteType, m_UniqueID, attribute, text), LMX_FLAG(PaletteType, m_isset_UniqueID), 0, 0, nullptr, nullptr, {}},
-    {lmx::item_kind::attribute, lmx::value_kind::text, lmx::use_optional, lmx::ELMX_WS_PRESERVE, "Comments", attribute_Comments, LMX_OFFSET(PaletteType, m_Comments, attribute, text), LMX_FLAG(PaletteType, m_isset_Comments), 0, 0, nullptr, nullptr, {}},
-    {lmx::item_kind::child_list, lmx::value_kind::none, lmx::use_optional, lmx::ELMX_WS_PRESERVE, "Vyr:CustomAttribute", element_CustomAttribute, LMX_OFFSET(PaletteType, m_CustomAttribute, child_list, none), lmx::k_no_flag, lmx::position_of(k_PaletteType_elements, element_CustomAttribute), lmx::position_of(k_PaletteType_elements, element_CustomAttribute, 1), &CustomAttributeType::k_class, nullptr, {}},
-    {lmx::item_kind::element_list, lmx::value_kind::datetime, lmx::use_demanded | lmx::use_asked, lmx::ELMX_WS_COLLAPSE, "Vyr:ChangeHistory", element_ChangeHistory, LMX_OFFSET(PaletteType, m_ChangeHistory, element_list, datetime), lmx::k_no_flag, lmx::position_of(k_PaletteType_elements, element_ChangeHistory), lmx::position_of(k_PaletteType_elements, element_ChangeHistory, 1), nullptr, &facets::DateTimeZone, {}},
-    {lmx::item_kind::child, lmx::value_kind::none, lmx::use_optional, lmx::ELMX_WS_PRESERVE, "Vyr:Owner", element_Owner, LMX_OFFSET(PaletteType, m_Owner, child, none), LMX_FLAG(PaletteType, m_isset_Owner), lmx::position_of(k_PaletteType_elements, element_Owner), lmx::position_of(k_PaletteType_elements, element_Owner, 1), &OwnerType::k_class, nullptr, {}},
-    {lmx::item_kind::element_list, lmx::value_kind::text, lmx::use_optional, lmx::ELMX_WS_PRESERVE, "Vyr:SemanticAssociation", element_SemanticAssociation, LMX_OFFSET(PaletteType, m_SemanticAssociation, element_list, text), lmx::k_no_flag, lmx::position_of(k_PaletteType_elements, element_SemanticAssociation), lmx::position_of(k_PaletteType_elements, element_SemanticAssociation, 1), nullptr, nullptr, {}},
-    {lmx::item_kind::child, lmx::value_kind::none, lmx::use_optional, lmx::ELMX_WS_PRESERVE, "Vyr:CollectionColorSpaceSpecification", element_CollectionColorSpaceSpecification, LMX_OFFSET(PaletteType, m_CollectionColorSpaceSpecification, child, none), LMX_FLAG(PaletteType, m_isset_CollectionColorSpaceSpecification), lmx::position_of(k_PaletteType_elements, element_CollectionColorSpaceSpecification), lmx::position_of(k_PaletteType_elements, element_CollectionColorSpaceSpecification, 1), &CollectionColorSpaceSpecificationType::k_class, nullptr, {}},
-    {lmx::item_kind::child_list, lmx::value_kind::none, lmx::use_optional, lmx::ELMX_WS_PRESERVE, "Vyr:ColorSet", element_ColorSet, LMX_OFFSET(PaletteType, m_ColorSet, child_list, none), lmx::k_no_flag, lmx::position_of(k_PaletteType_elements, element_ColorSet), lmx::position_of(k_PaletteType_elements, element_ColorSet, 1), &ColorSetType::k_class, nullptr, {}},
+constinit const s_item PaletteType::k_items[] = {
+    {item_kind::attribute, value_kind::text, use_required, ELMX_WS_PRESERVE, "PaletteName", attribute_PaletteName,
+     LMX_OFFSET(PaletteType, m_PaletteName, attribute, text), LMX_FLAG(PaletteType, m_isset_PaletteName), 0, 0, nullptr, nullptr, {}},
+    {item_kind::attribute, value_kind::text, use_optional, ELMX_WS_PRESERVE, "PalettePartNumber", attribute_PalettePartNumber,
+     LMX_OFFSET(PaletteType, m_PalettePartNumber, attribute, text), LMX_FLAG(PaletteType, m_isset_PalettePartNumber), 0, 0, nullptr, nullptr, {}},
+    {item_kind::attribute, value_kind::text, use_optional, ELMX_WS_PRESERVE, "PaletteVersion", attribute_PaletteVersion,
+     LMX_OFFSET(PaletteType, m_PaletteVersion, attribute, text), LMX_FLAG(PaletteType, m_isset_PaletteVersion), 0, 0, nullptr, nullptr, {}},
+    {item_kind::attribute, value_kind::text, use_optional, ELMX_WS_PRESERVE, "UniqueID", attribute_UniqueID,
+     LMX_OFFSET(PaletteType, m_UniqueID, attribute, text), LMX_FLAG(PaletteType, m_isset_UniqueID), 0, 0, nullptr, nullptr, {}},
+    {item_kind::attribute, value_kind::text, use_optional, ELMX_WS_PRESERVE, "Comments", attribute_Comments,
+     LMX_OFFSET(PaletteType, m_Comments, attribute, text), LMX_FLAG(PaletteType, m_isset_Comments), 0, 0, nullptr, nullptr, {}},
+    {item_kind::child_list, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:CustomAttribute", element_CustomAttribute,
+     LMX_OFFSET(PaletteType, m_CustomAttribute, child_list, none), k_no_flag, position_of(k_PaletteType_elements, element_CustomAttribute), position_of(k_PaletteType_elements, element_CustomAttribute, 1), &CustomAttributeType::k_class, nullptr, {}},
+    {item_kind::element_list, value_kind::datetime, use_demanded | use_asked, ELMX_WS_COLLAPSE, "Vyr:ChangeHistory", element_ChangeHistory,
+     LMX_OFFSET(PaletteType, m_ChangeHistory, element_list, datetime), k_no_flag, position_of(k_PaletteType_elements, element_ChangeHistory), position_of(k_PaletteType_elements, element_ChangeHistory, 1), nullptr, &facets::DateTimeZone, {}},
+    {item_kind::child, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:Owner", element_Owner,
+     LMX_OFFSET(PaletteType, m_Owner, child, none), LMX_FLAG(PaletteType, m_isset_Owner), position_of(k_PaletteType_elements, element_Owner), position_of(k_PaletteType_elements, element_Owner, 1), &OwnerType::k_class, nullptr, {}},
+    {item_kind::element_list, value_kind::text, use_optional, ELMX_WS_PRESERVE, "Vyr:SemanticAssociation", element_SemanticAssociation,
+     LMX_OFFSET(PaletteType, m_SemanticAssociation, element_list, text), k_no_flag, position_of(k_PaletteType_elements, element_SemanticAssociation), position_of(k_PaletteType_elements, element_SemanticAssociation, 1), nullptr, nullptr, {}},
+    {item_kind::child, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:CollectionColorSpaceSpecification", element_CollectionColorSpaceSpecification,
+     LMX_OFFSET(PaletteType, m_CollectionColorSpaceSpecification, child, none), LMX_FLAG(PaletteType, m_isset_CollectionColorSpaceSpecification), position_of(k_PaletteType_elements, element_CollectionColorSpaceSpecification), position_of(k_PaletteType_elements, element_CollectionColorSpaceSpecification, 1), &CollectionColorSpaceSpecificationType::k_class, nullptr, {}},
+    {item_kind::child_list, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:ColorSet", element_ColorSet,
+     LMX_OFFSET(PaletteType, m_ColorSet, child_list, none), k_no_flag, position_of(k_PaletteType_elements, element_ColorSet), position_of(k_PaletteType_elements, element_ColorSet, 1), &ColorSetType::k_class, nullptr, {}},
 };
-constinit const lmx::s_class PaletteType::k_class = {
+constinit const s_class PaletteType::k_class = {
     .name = "PaletteType",
     .qualified_name = "Vyr:PaletteType",
     .base = nullptr,
-    .content = lmx::content_kind::children,
+    .content = content_kind::children,
     .may_be_empty = false,
     .ns_map = k_ns_map,
-    .nil_flag = lmx::k_no_flag,
-    .choice = lmx::k_no_flag,
+    .nil_flag = k_no_flag,
+    .choice = k_no_flag,
     .id = nullptr,
     .xsi_type = nullptr,
     .attributes = std::span(k_items).first(std::size(k_PaletteType_attributes) - 1),
     .elements = std::span(k_items).subspan(std::size(k_PaletteType_attributes) - 1),
     .attribute_map = k_PaletteType_attributes,
     .element_map = k_PaletteType_elements,
-    .operations = &lmx::k_operations<PaletteType>,
+    .operations = &k_operations<PaletteType>,
 };
 
 PaletteType::PaletteType() = default;
@@ -182,62 +201,73 @@ void PaletteType::clear_ColorSet() { m_ColorSet.clear(); }
 // ColorSetType
 
 namespace {
-constexpr lmx::s_event_map k_ColorSetType_attributes[] = {
-    lmx::attribute_event("ColorSetName", attribute_ColorSetName),
-    lmx::attribute_event("UniqueID", attribute_UniqueID),
-    lmx::attribute_event("PartNumber", attribute_PartNumber),
-    lmx::attribute_event("Comments", attribute_Comments),
-    lmx::k_end_of_map,
+constexpr s_event_map k_ColorSetType_attributes[] = {
+    attribute_event("ColorSetName", attribute_ColorSetName),
+    attribute_event("UniqueID", attribute_UniqueID),
+    attribute_event("PartNumber", attribute_PartNumber),
+    attribute_event("Comments", attribute_Comments),
+    k_end_of_map,
 };
-constexpr lmx::s_event_map k_ColorSetType_elements[] = {
-    lmx::element_event("CustomAttribute", element_CustomAttribute),
-    lmx::element_event("ChangeHistory", element_ChangeHistory),
-    lmx::element_event("Owner", element_Owner),
-    lmx::element_event("SemanticAssociation", element_SemanticAssociation),
-    lmx::element_event("CollectionColorSpaceSpecification", element_CollectionColorSpaceSpecification),
-    lmx::element_event("Color", element_Color),
-    lmx::element_event("SubstratePaper", element_SubstratePaper),
-    lmx::element_event("SubstrateGeneric", element_SubstrateGeneric),
-    lmx::element_event("SubstrateMetal", element_SubstrateMetal),
-    lmx::element_event("SubstratePlastic", element_SubstratePlastic),
-    lmx::element_event("SubstrateWood", element_SubstrateWood),
-    lmx::element_event("SubstrateVinyl", element_SubstrateVinyl),
-    lmx::element_event("SubstrateTile", element_SubstrateTile),
-    lmx::element_event("SubstrateFilm", element_SubstrateFilm),
-    lmx::element_event("SubstrateTextile", element_SubstrateTextile),
-    lmx::k_end_of_map,
+constexpr s_event_map k_ColorSetType_elements[] = {
+    element_event("CustomAttribute", element_CustomAttribute),
+    element_event("ChangeHistory", element_ChangeHistory),
+    element_event("Owner", element_Owner),
+    element_event("SemanticAssociation", element_SemanticAssociation),
+    element_event("CollectionColorSpaceSpecification", element_CollectionColorSpaceSpecification),
+    element_event("Color", element_Color),
+    element_event("SubstratePaper", element_SubstratePaper),
+    element_event("SubstrateGeneric", element_SubstrateGeneric),
+    element_event("SubstrateMetal", element_SubstrateMetal),
+    element_event("SubstratePlastic", element_SubstratePlastic),
+    element_event("SubstrateWood", element_SubstrateWood),
+    element_event("SubstrateVinyl", element_SubstrateVinyl),
+    element_event("SubstrateTile", element_SubstrateTile),
+    element_event("SubstrateFilm", element_SubstrateFilm),
+    element_event("SubstrateTextile", element_SubstrateTextile),
+    k_end_of_map,
 };
 }  // namespace
 
-constinit const lmx::s_item ColorSetType::k_items[] = {
-    {lmx::item_kind::attribute, lmx::value_kind::text, lmx::use_required, lmx::ELMX_WS_PRESERVE, "ColorSetName", attribute_ColorSetName, LMX_OFFSET(ColorSetType, m_ColorSetName, attribute, text), LMX_FLAG(ColorSetType, m_isset_ColorSetName), 0, 0, nullptr, nullptr, {}},
-    {lmx::item_kind::attribute, lmx::value_kind::text, lmx::use_optional, lmx::ELMX_WS_PRESERVE, "UniqueID", attribute_UniqueID, LMX_OFFSET(ColorSetType, m_UniqueID, attribute, text), LMX_FLAG(ColorSetType, m_isset_UniqueID), 0, 0, nullptr, nullptr, {}},
-    {lmx::item_kind::attribute, lmx::value_kind::text, lmx::use_optional, lmx::ELMX_WS_PRESERVE, "PartNumber", attribute_PartNumber, LMX_OFFSET(ColorSetType, m_PartNumber, attribute, text), LMX_FLAG(ColorSetType, m_isset_PartNumber), 0, 0, nullptr, nullptr, {}},
-    {lmx::item_kind::attribute, lmx::value_kind::text, lmx::use_optional, lmx::ELMX_WS_PRESERVE, "Comments", attribute_Comments, LMX_OFFSET(ColorSetType, m_Comments, attribute, text), LMX_FLAG(ColorSetType, m_isset_Comments), 0, 0, nullptr, nullptr, {}},
-    {lmx::item_kind::child_list, lmx::value_kind::none, lmx::use_optional, lmx::ELMX_WS_PRESERVE, "Vyr:CustomAttribute", element_CustomAttribute, LMX_OFFSET(ColorSetType, m_CustomAttribute, child_list, none), lmx::k_no_flag, lmx::position_of(k_ColorSetType_elements, element_CustomAttribute), lmx::position_of(k_ColorSetType_elements, element_CustomAttribute, 1), &CustomAttributeType::k_class, nullptr, {}},
-    {lmx::item_kind::element_list, lmx::value_kind::datetime, lmx::use_demanded | lmx::use_asked, lmx::ELMX_WS_COLLAPSE, "Vyr:ChangeHistory", element_ChangeHistory, LMX_OFFSET(ColorSetType, m_ChangeHistory, element_list, datetime), lmx::k_no_flag, lmx::position_of(k_ColorSetType_elements, element_ChangeHistory), lmx::position_of(k_ColorSetType_elements, element_ChangeHistory, 1), nullptr, &facets::DateTimeZone, {}},
-    {lmx::item_kind::child, lmx::value_kind::none, lmx::use_optional, lmx::ELMX_WS_PRESERVE, "Vyr:Owner", element_Owner, LMX_OFFSET(ColorSetType, m_Owner, child, none), LMX_FLAG(ColorSetType, m_isset_Owner), lmx::position_of(k_ColorSetType_elements, element_Owner), lmx::position_of(k_ColorSetType_elements, element_Owner, 1), &OwnerType::k_class, nullptr, {}},
-    {lmx::item_kind::element_list, lmx::value_kind::text, lmx::use_optional, lmx::ELMX_WS_PRESERVE, "Vyr:SemanticAssociation", element_SemanticAssociation, LMX_OFFSET(ColorSetType, m_SemanticAssociation, element_list, text), lmx::k_no_flag, lmx::position_of(k_ColorSetType_elements, element_SemanticAssociation), lmx::position_of(k_ColorSetType_elements, element_SemanticAssociation, 1), nullptr, nullptr, {}},
-    {lmx::item_kind::child, lmx::value_kind::none, lmx::use_optional, lmx::ELMX_WS_PRESERVE, "Vyr:CollectionColorSpaceSpecification", element_CollectionColorSpaceSpecification, LMX_OFFSET(ColorSetType, m_CollectionColorSpaceSpecification, child, none), LMX_FLAG(ColorSetType, m_isset_CollectionColorSpaceSpecification), lmx::position_of(k_ColorSetType_elements, element_CollectionColorSpaceSpecification), lmx::position_of(k_ColorSetType_elements, element_CollectionColorSpaceSpecification, 1), &CollectionColorSpaceSpecificationType::k_class, nullptr, {}},
-    {lmx::item_kind::child_list, lmx::value_kind::none, lmx::use_optional, lmx::ELMX_WS_PRESERVE, "Vyr:Color", element_Color, LMX_OFFSET(ColorSetType, m_Color, child_list, none), lmx::k_no_flag, lmx::position_of(k_ColorSetType_elements, element_Color), lmx::position_of(k_ColorSetType_elements, element_Color, 1), &ColorType::k_class, nullptr, {}},
-    {lmx::item_kind::group, lmx::value_kind::none, lmx::use_optional, lmx::ELMX_WS_PRESERVE, "Vyr:Substrate", 0, LMX_OFFSET(ColorSetType, m_Substrate, group, none), LMX_FLAG(ColorSetType, m_isset_Substrate), lmx::position_of(k_ColorSetType_elements, element_SubstratePaper), lmx::position_of(k_ColorSetType_elements, element_SubstratePaper, 9), &sg_Substrate::k_class, nullptr, {}},
+constinit const s_item ColorSetType::k_items[] = {
+    {item_kind::attribute, value_kind::text, use_required, ELMX_WS_PRESERVE, "ColorSetName", attribute_ColorSetName,
+     LMX_OFFSET(ColorSetType, m_ColorSetName, attribute, text), LMX_FLAG(ColorSetType, m_isset_ColorSetName), 0, 0, nullptr, nullptr, {}},
+    {item_kind::attribute, value_kind::text, use_optional, ELMX_WS_PRESERVE, "UniqueID", attribute_UniqueID,
+     LMX_OFFSET(ColorSetType, m_UniqueID, attribute, text), LMX_FLAG(ColorSetType, m_isset_UniqueID), 0, 0, nullptr, nullptr, {}},
+    {item_kind::attribute, value_kind::text, use_optional, ELMX_WS_PRESERVE, "PartNumber", attribute_PartNumber,
+     LMX_OFFSET(ColorSetType, m_PartNumber, attribute, text), LMX_FLAG(ColorSetType, m_isset_PartNumber), 0, 0, nullptr, nullptr, {}},
+    {item_kind::attribute, value_kind::text, use_optional, ELMX_WS_PRESERVE, "Comments", attribute_Comments,
+     LMX_OFFSET(ColorSetType, m_Comments, attribute, text), LMX_FLAG(ColorSetType, m_isset_Comments), 0, 0, nullptr, nullptr, {}},
+    {item_kind::child_list, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:CustomAttribute", element_CustomAttribute,
+     LMX_OFFSET(ColorSetType, m_CustomAttribute, child_list, none), k_no_flag, position_of(k_ColorSetType_elements, element_CustomAttribute), position_of(k_ColorSetType_elements, element_CustomAttribute, 1), &CustomAttributeType::k_class, nullptr, {}},
+    {item_kind::element_list, value_kind::datetime, use_demanded | use_asked, ELMX_WS_COLLAPSE, "Vyr:ChangeHistory", element_ChangeHistory,
+     LMX_OFFSET(ColorSetType, m_ChangeHistory, element_list, datetime), k_no_flag, position_of(k_ColorSetType_elements, element_ChangeHistory), position_of(k_ColorSetType_elements, element_ChangeHistory, 1), nullptr, &facets::DateTimeZone, {}},
+    {item_kind::child, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:Owner", element_Owner,
+     LMX_OFFSET(ColorSetType, m_Owner, child, none), LMX_FLAG(ColorSetType, m_isset_Owner), position_of(k_ColorSetType_elements, element_Owner), position_of(k_ColorSetType_elements, element_Owner, 1), &OwnerType::k_class, nullptr, {}},
+    {item_kind::element_list, value_kind::text, use_optional, ELMX_WS_PRESERVE, "Vyr:SemanticAssociation", element_SemanticAssociation,
+     LMX_OFFSET(ColorSetType, m_SemanticAssociation, element_list, text), k_no_flag, position_of(k_ColorSetType_elements, element_SemanticAssociation), position_of(k_ColorSetType_elements, element_SemanticAssociation, 1), nullptr, nullptr, {}},
+    {item_kind::child, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:CollectionColorSpaceSpecification", element_CollectionColorSpaceSpecification,
+     LMX_OFFSET(ColorSetType, m_CollectionColorSpaceSpecification, child, none), LMX_FLAG(ColorSetType, m_isset_CollectionColorSpaceSpecification), position_of(k_ColorSetType_elements, element_CollectionColorSpaceSpecification), position_of(k_ColorSetType_elements, element_CollectionColorSpaceSpecification, 1), &CollectionColorSpaceSpecificationType::k_class, nullptr, {}},
+    {item_kind::child_list, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:Color", element_Color,
+     LMX_OFFSET(ColorSetType, m_Color, child_list, none), k_no_flag, position_of(k_ColorSetType_elements, element_Color), position_of(k_ColorSetType_elements, element_Color, 1), &ColorType::k_class, nullptr, {}},
+    {item_kind::group, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:Substrate", 0,
+     LMX_OFFSET(ColorSetType, m_Substrate, group, none), LMX_FLAG(ColorSetType, m_isset_Substrate), position_of(k_ColorSetType_elements, element_SubstratePaper), position_of(k_ColorSetType_elements, element_SubstratePaper, 9), &sg_Substrate::k_class, nullptr, {}},
 };
-constinit const lmx::s_class ColorSetType::k_class = {
+constinit const s_class ColorSetType::k_class = {
     .name = "ColorSetType",
     .qualified_name = "Vyr:ColorSetType",
     .base = nullptr,
-    .content = lmx::content_kind::children,
+    .content = content_kind::children,
     .may_be_empty = false,
     .ns_map = k_ns_map,
-    .nil_flag = lmx::k_no_flag,
-    .choice = lmx::k_no_flag,
+    .nil_flag = k_no_flag,
+    .choice = k_no_flag,
     .id = nullptr,
     .xsi_type = nullptr,
     .attributes = std::span(k_items).first(std::size(k_ColorSetType_attributes) - 1),
     .elements = std::span(k_items).subspan(std::size(k_ColorSetType_attributes) - 1),
     .attribute_map = k_ColorSetType_attributes,
     .element_map = k_ColorSetType_elements,
-    .operations = &lmx::k_operations<ColorSetType>,
+    .operations = &k_operations<ColorSetType>,
 };
 
 ColorSetType::ColorSetType() = default;
@@ -287,89 +317,100 @@ sg_Substrate& ColorSetType::assign_Substrate(const sg_Substrate& value) { return
 // ColorType
 
 namespace {
-constexpr lmx::s_event_map k_ColorType_attributes[] = {
-    lmx::attribute_event("ColorName", attribute_ColorName),
-    lmx::attribute_event("UniqueID", attribute_UniqueID),
-    lmx::attribute_event("ColorNumber", attribute_ColorNumber),
-    lmx::attribute_event("Comments", attribute_Comments),
-    lmx::k_end_of_map,
+constexpr s_event_map k_ColorType_attributes[] = {
+    attribute_event("ColorName", attribute_ColorName),
+    attribute_event("UniqueID", attribute_UniqueID),
+    attribute_event("ColorNumber", attribute_ColorNumber),
+    attribute_event("Comments", attribute_Comments),
+    k_end_of_map,
 };
-constexpr lmx::s_event_map k_ColorType_elements[] = {
-    lmx::element_event("CustomAttribute", element_CustomAttribute),
-    lmx::element_event("ChangeHistory", element_ChangeHistory),
-    lmx::element_event("Owner", element_Owner),
-    lmx::element_event("SemanticAssociation", element_SemanticAssociation),
-    lmx::element_event("ColorSpaceRecipe", element_ColorSpaceRecipe),
-    lmx::element_event("ColorSpaceTINTORA", element_ColorSpaceTINTORA),
-    lmx::element_event("ColorSpaceGeneric", element_ColorSpaceGeneric),
-    lmx::element_event("ColorSpaceEmissiveGeneric", element_ColorSpaceEmissiveGeneric),
-    lmx::element_event("ColorSpaceDensity", element_ColorSpaceDensity),
-    lmx::element_event("ColorSpaceRGB", element_ColorSpaceRGB),
-    lmx::element_event("ColorSpaceSRGB", element_ColorSpaceSRGB),
-    lmx::element_event("ColorSpaceAdobeRGB", element_ColorSpaceAdobeRGB),
-    lmx::element_event("ColorSpaceCMYKPlusN", element_ColorSpaceCMYKPlusN),
-    lmx::element_event("ColorSpaceAdobeWideGamutRGB", element_ColorSpaceAdobeWideGamutRGB),
-    lmx::element_event("ColorSpaceSpectral", element_ColorSpaceSpectral),
-    lmx::element_event("ColorSpaceEmissiveSpectral", element_ColorSpaceEmissiveSpectral),
-    lmx::element_event("ColorSpaceCIELab", element_ColorSpaceCIELab),
-    lmx::element_event("ColorSpaceCIELCh", element_ColorSpaceCIELCh),
-    lmx::element_event("ColorSpaceCIEXYZ", element_ColorSpaceCIEXYZ),
-    lmx::element_event("ColorSpaceEmissiveCIEXYZ", element_ColorSpaceEmissiveCIEXYZ),
-    lmx::element_event("ColorSpaceCIExyY", element_ColorSpaceCIExyY),
-    lmx::element_event("ColorSpaceEmissiveCIExyY", element_ColorSpaceEmissiveCIExyY),
-    lmx::element_event("ColorSpaceCIELuv", element_ColorSpaceCIELuv),
-    lmx::element_event("ColorSpaceHSL", element_ColorSpaceHSL),
-    lmx::element_event("ColorSpaceHSV", element_ColorSpaceHSV),
-    lmx::element_event("ColorSpaceCMYK", element_ColorSpaceCMYK),
-    lmx::element_event("ColorSpaceTINTORAOctavantic", element_ColorSpaceTINTORAOctavantic),
-    lmx::element_event("ColorSpaceYUV", element_ColorSpaceYUV),
-    lmx::element_event("ColorSpaceYIQ", element_ColorSpaceYIQ),
-    lmx::element_event("ColorSpaceYBR", element_ColorSpaceYBR),
-    lmx::element_event("ColorSpaceNCS", element_ColorSpaceNCS),
-    lmx::element_event("ColorSpaceMunsell", element_ColorSpaceMunsell),
-    lmx::element_event("SubstratePaper", element_SubstratePaper),
-    lmx::element_event("SubstrateGeneric", element_SubstrateGeneric),
-    lmx::element_event("SubstrateMetal", element_SubstrateMetal),
-    lmx::element_event("SubstratePlastic", element_SubstratePlastic),
-    lmx::element_event("SubstrateWood", element_SubstrateWood),
-    lmx::element_event("SubstrateVinyl", element_SubstrateVinyl),
-    lmx::element_event("SubstrateTile", element_SubstrateTile),
-    lmx::element_event("SubstrateFilm", element_SubstrateFilm),
-    lmx::element_event("SubstrateTextile", element_SubstrateTextile),
-    lmx::element_event("TagValues", element_TagValues),
-    lmx::k_end_of_map,
+constexpr s_event_map k_ColorType_elements[] = {
+    element_event("CustomAttribute", element_CustomAttribute),
+    element_event("ChangeHistory", element_ChangeHistory),
+    element_event("Owner", element_Owner),
+    element_event("SemanticAssociation", element_SemanticAssociation),
+    element_event("ColorSpaceRecipe", element_ColorSpaceRecipe),
+    element_event("ColorSpaceTINTORA", element_ColorSpaceTINTORA),
+    element_event("ColorSpaceGeneric", element_ColorSpaceGeneric),
+    element_event("ColorSpaceEmissiveGeneric", element_ColorSpaceEmissiveGeneric),
+    element_event("ColorSpaceDensity", element_ColorSpaceDensity),
+    element_event("ColorSpaceRGB", element_ColorSpaceRGB),
+    element_event("ColorSpaceSRGB", element_ColorSpaceSRGB),
+    element_event("ColorSpaceAdobeRGB", element_ColorSpaceAdobeRGB),
+    element_event("ColorSpaceCMYKPlusN", element_ColorSpaceCMYKPlusN),
+    element_event("ColorSpaceAdobeWideGamutRGB", element_ColorSpaceAdobeWideGamutRGB),
+    element_event("ColorSpaceSpectral", element_ColorSpaceSpectral),
+    element_event("ColorSpaceEmissiveSpectral", element_ColorSpaceEmissiveSpectral),
+    element_event("ColorSpaceCIELab", element_ColorSpaceCIELab),
+    element_event("ColorSpaceCIELCh", element_ColorSpaceCIELCh),
+    element_event("ColorSpaceCIEXYZ", element_ColorSpaceCIEXYZ),
+    element_event("ColorSpaceEmissiveCIEXYZ", element_ColorSpaceEmissiveCIEXYZ),
+    element_event("ColorSpaceCIExyY", element_ColorSpaceCIExyY),
+    element_event("ColorSpaceEmissiveCIExyY", element_ColorSpaceEmissiveCIExyY),
+    element_event("ColorSpaceCIELuv", element_ColorSpaceCIELuv),
+    element_event("ColorSpaceHSL", element_ColorSpaceHSL),
+    element_event("ColorSpaceHSV", element_ColorSpaceHSV),
+    element_event("ColorSpaceCMYK", element_ColorSpaceCMYK),
+    element_event("ColorSpaceTINTORAOctavantic", element_ColorSpaceTINTORAOctavantic),
+    element_event("ColorSpaceYUV", element_ColorSpaceYUV),
+    element_event("ColorSpaceYIQ", element_ColorSpaceYIQ),
+    element_event("ColorSpaceYBR", element_ColorSpaceYBR),
+    element_event("ColorSpaceNCS", element_ColorSpaceNCS),
+    element_event("ColorSpaceMunsell", element_ColorSpaceMunsell),
+    element_event("SubstratePaper", element_SubstratePaper),
+    element_event("SubstrateGeneric", element_SubstrateGeneric),
+    element_event("SubstrateMetal", element_SubstrateMetal),
+    element_event("SubstratePlastic", element_SubstratePlastic),
+    element_event("SubstrateWood", element_SubstrateWood),
+    element_event("SubstrateVinyl", element_SubstrateVinyl),
+    element_event("SubstrateTile", element_SubstrateTile),
+    element_event("SubstrateFilm", element_SubstrateFilm),
+    element_event("SubstrateTextile", element_SubstrateTextile),
+    element_event("TagValues", element_TagValues),
+    k_end_of_map,
 };
 }  // namespace
 
-constinit const lmx::s_item ColorType::k_items[] = {
-    {lmx::item_kind::attribute, lmx::value_kind::text, lmx::use_required, lmx::ELMX_WS_PRESERVE, "ColorName", attribute_ColorName, LMX_OFFSET(ColorType, m_ColorName, attribute, text), LMX_FLAG(ColorType, m_isset_ColorName), 0, 0, nullptr, nullptr, {}},
-    {lmx::item_kind::attribute, lmx::value_kind::text, lmx::use_optional, lmx::ELMX_WS_PRESERVE, "UniqueID", attribute_UniqueID, LMX_OFFSET(ColorType, m_UniqueID, attribute, text), LMX_FLAG(ColorType, m_isset_UniqueID), 0, 0, nullptr, nullptr, {}},
-    {lmx::item_kind::attribute, lmx::value_kind::text, lmx::use_optional, lmx::ELMX_WS_PRESERVE, "ColorNumber", attribute_ColorNumber, LMX_OFFSET(ColorType, m_ColorNumber, attribute, text), LMX_FLAG(ColorType, m_isset_ColorNumber), 0, 0, nullptr, nullptr, {}},
-    {lmx::item_kind::attribute, lmx::value_kind::text, lmx::use_optional, lmx::ELMX_WS_PRESERVE, "Comments", attribute_Comments, LMX_OFFSET(ColorType, m_Comments, attribute, text), LMX_FLAG(ColorType, m_isset_Comments), 0, 0, nullptr, nullptr, {}},
-    {lmx::item_kind::child_list, lmx::value_kind::none, lmx::use_optional, lmx::ELMX_WS_PRESERVE, "Vyr:CustomAttribute", element_CustomAttribute, LMX_OFFSET(ColorType, m_CustomAttribute, child_list, none), lmx::k_no_flag, lmx::position_of(k_ColorType_elements, element_CustomAttribute), lmx::position_of(k_ColorType_elements, element_CustomAttribute, 1), &CustomAttributeType::k_class, nullptr, {}},
-    {lmx::item_kind::element_list, lmx::value_kind::datetime, lmx::use_demanded | lmx::use_asked, lmx::ELMX_WS_COLLAPSE, "Vyr:ChangeHistory", element_ChangeHistory, LMX_OFFSET(ColorType, m_ChangeHistory, element_list, datetime), lmx::k_no_flag, lmx::position_of(k_ColorType_elements, element_ChangeHistory), lmx::position_of(k_ColorType_elements, element_ChangeHistory, 1), nullptr, &facets::DateTimeZone, {}},
-    {lmx::item_kind::child, lmx::value_kind::none, lmx::use_optional, lmx::ELMX_WS_PRESERVE, "Vyr:Owner", element_Owner, LMX_OFFSET(ColorType, m_Owner, child, none), LMX_FLAG(ColorType, m_isset_Owner), lmx::position_of(k_ColorType_elements, element_Owner), lmx::position_of(k_ColorType_elements, element_Owner, 1), &OwnerType::k_class, nullptr, {}},
-    {lmx::item_kind::element_list, lmx::value_kind::text, lmx::use_optional, lmx::ELMX_WS_PRESERVE, "Vyr:SemanticAssociation", element_SemanticAssociation, LMX_OFFSET(ColorType, m_SemanticAssociation, element_list, text), lmx::k_no_flag, lmx::position_of(k_ColorType_elements, element_SemanticAssociation), lmx::position_of(k_ColorType_elements, element_SemanticAssociation, 1), nullptr, nullptr, {}},
-    {lmx::item_kind::group_list, lmx::value_kind::none, lmx::use_demanded | lmx::use_asked, lmx::ELMX_WS_PRESERVE, "Vyr:ColorSpace", 0, LMX_OFFSET(ColorType, m_ColorSpace, group_list, none), lmx::k_no_flag, lmx::position_of(k_ColorType_elements, element_ColorSpaceRecipe), lmx::position_of(k_ColorType_elements, element_ColorSpaceRecipe, 28), &sg_ColorSpace::k_class, nullptr, {}},
-    {lmx::item_kind::group, lmx::value_kind::none, lmx::use_optional, lmx::ELMX_WS_PRESERVE, "Vyr:Substrate", 0, LMX_OFFSET(ColorType, m_Substrate, group, none), LMX_FLAG(ColorType, m_isset_Substrate), lmx::position_of(k_ColorType_elements, element_SubstratePaper), lmx::position_of(k_ColorType_elements, element_SubstratePaper, 9), &sg_Substrate::k_class, nullptr, {}},
-    {lmx::item_kind::child_list, lmx::value_kind::none, lmx::use_optional, lmx::ELMX_WS_PRESERVE, "Vyr:TagValues", element_TagValues, LMX_OFFSET(ColorType, m_TagValues, child_list, none), lmx::k_no_flag, lmx::position_of(k_ColorType_elements, element_TagValues), lmx::position_of(k_ColorType_elements, element_TagValues, 1), &TagValue::k_class, nullptr, {}},
+constinit const s_item ColorType::k_items[] = {
+    {item_kind::attribute, value_kind::text, use_required, ELMX_WS_PRESERVE, "ColorName", attribute_ColorName,
+     LMX_OFFSET(ColorType, m_ColorName, attribute, text), LMX_FLAG(ColorType, m_isset_ColorName), 0, 0, nullptr, nullptr, {}},
+    {item_kind::attribute, value_kind::text, use_optional, ELMX_WS_PRESERVE, "UniqueID", attribute_UniqueID,
+     LMX_OFFSET(ColorType, m_UniqueID, attribute, text), LMX_FLAG(ColorType, m_isset_UniqueID), 0, 0, nullptr, nullptr, {}},
+    {item_kind::attribute, value_kind::text, use_optional, ELMX_WS_PRESERVE, "ColorNumber", attribute_ColorNumber,
+     LMX_OFFSET(ColorType, m_ColorNumber, attribute, text), LMX_FLAG(ColorType, m_isset_ColorNumber), 0, 0, nullptr, nullptr, {}},
+    {item_kind::attribute, value_kind::text, use_optional, ELMX_WS_PRESERVE, "Comments", attribute_Comments,
+     LMX_OFFSET(ColorType, m_Comments, attribute, text), LMX_FLAG(ColorType, m_isset_Comments), 0, 0, nullptr, nullptr, {}},
+    {item_kind::child_list, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:CustomAttribute", element_CustomAttribute,
+     LMX_OFFSET(ColorType, m_CustomAttribute, child_list, none), k_no_flag, position_of(k_ColorType_elements, element_CustomAttribute), position_of(k_ColorType_elements, element_CustomAttribute, 1), &CustomAttributeType::k_class, nullptr, {}},
+    {item_kind::element_list, value_kind::datetime, use_demanded | use_asked, ELMX_WS_COLLAPSE, "Vyr:ChangeHistory", element_ChangeHistory,
+     LMX_OFFSET(ColorType, m_ChangeHistory, element_list, datetime), k_no_flag, position_of(k_ColorType_elements, element_ChangeHistory), position_of(k_ColorType_elements, element_ChangeHistory, 1), nullptr, &facets::DateTimeZone, {}},
+    {item_kind::child, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:Owner", element_Owner,
+     LMX_OFFSET(ColorType, m_Owner, child, none), LMX_FLAG(ColorType, m_isset_Owner), position_of(k_ColorType_elements, element_Owner), position_of(k_ColorType_elements, element_Owner, 1), &OwnerType::k_class, nullptr, {}},
+    {item_kind::element_list, value_kind::text, use_optional, ELMX_WS_PRESERVE, "Vyr:SemanticAssociation", element_SemanticAssociation,
+     LMX_OFFSET(ColorType, m_SemanticAssociation, element_list, text), k_no_flag, position_of(k_ColorType_elements, element_SemanticAssociation), position_of(k_ColorType_elements, element_SemanticAssociation, 1), nullptr, nullptr, {}},
+    {item_kind::group_list, value_kind::none, use_demanded | use_asked, ELMX_WS_PRESERVE, "Vyr:ColorSpace", 0,
+     LMX_OFFSET(ColorType, m_ColorSpace, group_list, none), k_no_flag, position_of(k_ColorType_elements, element_ColorSpaceRecipe), position_of(k_ColorType_elements, element_ColorSpaceRecipe, 28), &sg_ColorSpace::k_class, nullptr, {}},
+    {item_kind::group, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:Substrate", 0,
+     LMX_OFFSET(ColorType, m_Substrate, group, none), LMX_FLAG(ColorType, m_isset_Substrate), position_of(k_ColorType_elements, element_SubstratePaper), position_of(k_ColorType_elements, element_SubstratePaper, 9), &sg_Substrate::k_class, nullptr, {}},
+    {item_kind::child_list, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:TagValues", element_TagValues,
+     LMX_OFFSET(ColorType, m_TagValues, child_list, none), k_no_flag, position_of(k_ColorType_elements, element_TagValues), position_of(k_ColorType_elements, element_TagValues, 1), &TagValue::k_class, nullptr, {}},
 };
-constinit const lmx::s_class ColorType::k_class = {
+constinit const s_class ColorType::k_class = {
     .name = "ColorType",
     .qualified_name = "Vyr:ColorType",
     .base = nullptr,
-    .content = lmx::content_kind::children,
+    .content = content_kind::children,
     .may_be_empty = false,
     .ns_map = k_ns_map,
-    .nil_flag = lmx::k_no_flag,
-    .choice = lmx::k_no_flag,
+    .nil_flag = k_no_flag,
+    .choice = k_no_flag,
     .id = nullptr,
     .xsi_type = nullptr,
     .attributes = std::span(k_items).first(std::size(k_ColorType_attributes) - 1),
     .elements = std::span(k_items).subspan(std::size(k_ColorType_attributes) - 1),
     .attribute_map = k_ColorType_attributes,
     .element_map = k_ColorType_elements,
-    .operations = &lmx::k_operations<ColorType>,
+    .operations = &k_operations<ColorType>,
 };
 
 ColorType::ColorType() = default;
@@ -428,7 +469,7 @@ lmx::elmx_error CollectionColorSpaceSpecification::marshal(lmx::c_xml_writer& wr
     return CollectionColorSpaceSpecificationType::marshal(writer, name);
 }
 lmx::elmx_error CollectionColorSpaceSpecification::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return CollectionColorSpaceSpecificationType::unmarshal(reader, name); }
-const lmx::s_document CollectionColorSpaceSpecification::k_document = {"Vyr:CollectionColorSpaceSpecification", "CollectionColorSpaceSpecification", k_ns_map, &lmx::k_operations<CollectionColorSpaceSpecification>};
+constinit const lmx::s_document CollectionColorSpaceSpecification::k_document = {"Vyr:CollectionColorSpaceSpecification", "CollectionColorSpaceSpecification", k_ns_map, &lmx::k_operations<CollectionColorSpaceSpecification>};
 const lmx::s_ns_map* CollectionColorSpaceSpecification::ns_map() { return k_ns_map; }
 lmx::elmx_error CollectionColorSpaceSpecification::unmarshal(lmx::c_xml_reader& reader) { return lmx::unmarshal_document(k_document, this, reader); }
 CollectionColorSpaceSpecification::CollectionColorSpaceSpecification(const char* file_name, lmx::elmx_error* error) : CollectionColorSpaceSpecification() { *error = unmarshal(file_name); }

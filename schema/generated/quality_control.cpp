@@ -21,40 +21,45 @@
 
 namespace com_vyrgraph_v2 {
 
-static_assert(lmx::k_binding_version == 1, "run schema/generator/generate.py");
+using namespace lmx;  // for the tables' sake
+
+static_assert(k_binding_version == 1, "run schema/generator/generate.py");
 
 // LimitsType
 
 namespace {
-constexpr lmx::s_event_map k_LimitsType_elements[] = {
-    lmx::element_event("CustomAttribute", element_CustomAttribute),
-    lmx::element_event("HighTolerance", element_HighTolerance),
-    lmx::element_event("LowTolerance", element_LowTolerance),
-    lmx::k_end_of_map,
+constexpr s_event_map k_LimitsType_elements[] = {
+    element_event("CustomAttribute", element_CustomAttribute),
+    element_event("HighTolerance", element_HighTolerance),
+    element_event("LowTolerance", element_LowTolerance),
+    k_end_of_map,
 };
 }  // namespace
 
-constinit const lmx::s_item LimitsType::k_items[] = {
-    {lmx::item_kind::child_list, lmx::value_kind::none, lmx::use_optional, lmx::ELMX_WS_PRESERVE, "Vyr:CustomAttribute", element_CustomAttribute, LMX_OFFSET(LimitsType, m_CustomAttribute, child_list, none), lmx::k_no_flag, lmx::position_of(k_LimitsType_elements, element_CustomAttribute), lmx::position_of(k_LimitsType_elements, element_CustomAttribute, 1), &CustomAttributeType::k_class, nullptr, {}},
-    {lmx::item_kind::element, lmx::value_kind::number, lmx::use_required, lmx::ELMX_WS_COLLAPSE, "Vyr:HighTolerance", element_HighTolerance, LMX_OFFSET(LimitsType, m_HighTolerance, element, number), LMX_FLAG(LimitsType, m_isset_HighTolerance), lmx::position_of(k_LimitsType_elements, element_HighTolerance), lmx::position_of(k_LimitsType_elements, element_HighTolerance, 1), nullptr, nullptr, {}},
-    {lmx::item_kind::element, lmx::value_kind::number, lmx::use_optional, lmx::ELMX_WS_COLLAPSE, "Vyr:LowTolerance", element_LowTolerance, LMX_OFFSET(LimitsType, m_LowTolerance, element, number), LMX_FLAG(LimitsType, m_isset_LowTolerance), lmx::position_of(k_LimitsType_elements, element_LowTolerance), lmx::position_of(k_LimitsType_elements, element_LowTolerance, 1), nullptr, nullptr, {}},
+constinit const s_item LimitsType::k_items[] = {
+    {item_kind::child_list, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:CustomAttribute", element_CustomAttribute,
+     LMX_OFFSET(LimitsType, m_CustomAttribute, child_list, none), k_no_flag, position_of(k_LimitsType_elements, element_CustomAttribute), position_of(k_LimitsType_elements, element_CustomAttribute, 1), &CustomAttributeType::k_class, nullptr, {}},
+    {item_kind::element, value_kind::number, use_required, ELMX_WS_COLLAPSE, "Vyr:HighTolerance", element_HighTolerance,
+     LMX_OFFSET(LimitsType, m_HighTolerance, element, number), LMX_FLAG(LimitsType, m_isset_HighTolerance), position_of(k_LimitsType_elements, element_HighTolerance), position_of(k_LimitsType_elements, element_HighTolerance, 1), nullptr, nullptr, {}},
+    {item_kind::element, value_kind::number, use_optional, ELMX_WS_COLLAPSE, "Vyr:LowTolerance", element_LowTolerance,
+     LMX_OFFSET(LimitsType, m_LowTolerance, element, number), LMX_FLAG(LimitsType, m_isset_LowTolerance), position_of(k_LimitsType_elements, element_LowTolerance), position_of(k_LimitsType_elements, element_LowTolerance, 1), nullptr, nullptr, {}},
 };
-constinit const lmx::s_class LimitsType::k_class = {
+constinit const s_class LimitsType::k_class = {
     .name = "LimitsType",
     .qualified_name = "Vyr:LimitsType",
     .base = nullptr,
-    .content = lmx::content_kind::children,
+    .content = content_kind::children,
     .may_be_empty = false,
     .ns_map = k_ns_map,
-    .nil_flag = lmx::k_no_flag,
-    .choice = lmx::k_no_flag,
+    .nil_flag = k_no_flag,
+    .choice = k_no_flag,
     .id = nullptr,
     .xsi_type = nullptr,
-    .attributes = std::span(k_items).first(std::size(lmx::k_no_events) - 1),
-    .elements = std::span(k_items).subspan(std::size(lmx::k_no_events) - 1),
-    .attribute_map = lmx::k_no_events,
+    .attributes = std::span(k_items).first(std::size(k_no_events) - 1),
+    .elements = std::span(k_items).subspan(std::size(k_no_events) - 1),
+    .attribute_map = k_no_events,
     .element_map = k_LimitsType_elements,
-    .operations = &lmx::k_operations<LimitsType>,
+    .operations = &k_operations<LimitsType>,
 };
 
 LimitsType::LimitsType() = default;
@@ -83,73 +88,85 @@ lmx::elmx_error LimitsType::set_LowTolerance(double value) { return lmx::set_ite
 // ToleranceType
 
 namespace {
-constexpr lmx::s_event_map k_ToleranceType_attributes[] = {
-    lmx::attribute_event("Name", attribute_Name),
-    lmx::k_end_of_map,
+constexpr s_event_map k_ToleranceType_attributes[] = {
+    attribute_event("Name", attribute_Name),
+    k_end_of_map,
 };
-constexpr lmx::s_event_map k_ToleranceType_elements[] = {
-    lmx::element_event("CustomAttribute", element_CustomAttribute),
-    lmx::element_event("Function", element_Function),
-    lmx::element_event("FunctionGeneric", element_FunctionGeneric),
-    lmx::element_event("FunctionDE", element_FunctionDE),
-    lmx::element_event("FunctionMeanDE", element_FunctionMeanDE),
-    lmx::element_event("FunctionDE94", element_FunctionDE94),
-    lmx::element_event("FunctionDE2000", element_FunctionDE2000),
-    lmx::element_event("FunctionDECMC", element_FunctionDECMC),
-    lmx::element_event("FunctionStdDevX", element_FunctionStdDevX),
-    lmx::element_event("FunctionStdDevY", element_FunctionStdDevY),
-    lmx::element_event("FunctionStdDevZ", element_FunctionStdDevZ),
-    lmx::element_event("FunctionStdDevL", element_FunctionStdDevL),
-    lmx::element_event("FunctionStdDevA", element_FunctionStdDevA),
-    lmx::element_event("FunctionStdDevB", element_FunctionStdDevB),
-    lmx::element_event("FunctionStdDevC", element_FunctionStdDevC),
-    lmx::element_event("FunctionStdDevH", element_FunctionStdDevH),
-    lmx::element_event("FunctionAverageStdDevL", element_FunctionAverageStdDevL),
-    lmx::element_event("FunctionAverageStdDevA", element_FunctionAverageStdDevA),
-    lmx::element_event("FunctionAverageStdDevB", element_FunctionAverageStdDevB),
-    lmx::element_event("Limits", element_Limits),
-    lmx::element_event("PrimaryIlluminant", element_PrimaryIlluminant),
-    lmx::element_event("SecondaryIlluminant", element_SecondaryIlluminant),
-    lmx::element_event("TertiaryIlluminant", element_TertiaryIlluminant),
-    lmx::element_event("FieldOfView", element_FieldOfView),
-    lmx::element_event("WarningLevel", element_WarningLevel),
-    lmx::element_event("UniqueID", element_UniqueID),
-    lmx::element_event("Global", element_Global),
-    lmx::element_event("Geometry", element_Geometry),
-    lmx::k_end_of_map,
+constexpr s_event_map k_ToleranceType_elements[] = {
+    element_event("CustomAttribute", element_CustomAttribute),
+    element_event("Function", element_Function),
+    element_event("FunctionGeneric", element_FunctionGeneric),
+    element_event("FunctionDE", element_FunctionDE),
+    element_event("FunctionMeanDE", element_FunctionMeanDE),
+    element_event("FunctionDE94", element_FunctionDE94),
+    element_event("FunctionDE2000", element_FunctionDE2000),
+    element_event("FunctionDECMC", element_FunctionDECMC),
+    element_event("FunctionStdDevX", element_FunctionStdDevX),
+    element_event("FunctionStdDevY", element_FunctionStdDevY),
+    element_event("FunctionStdDevZ", element_FunctionStdDevZ),
+    element_event("FunctionStdDevL", element_FunctionStdDevL),
+    element_event("FunctionStdDevA", element_FunctionStdDevA),
+    element_event("FunctionStdDevB", element_FunctionStdDevB),
+    element_event("FunctionStdDevC", element_FunctionStdDevC),
+    element_event("FunctionStdDevH", element_FunctionStdDevH),
+    element_event("FunctionAverageStdDevL", element_FunctionAverageStdDevL),
+    element_event("FunctionAverageStdDevA", element_FunctionAverageStdDevA),
+    element_event("FunctionAverageStdDevB", element_FunctionAverageStdDevB),
+    element_event("Limits", element_Limits),
+    element_event("PrimaryIlluminant", element_PrimaryIlluminant),
+    element_event("SecondaryIlluminant", element_SecondaryIlluminant),
+    element_event("TertiaryIlluminant", element_TertiaryIlluminant),
+    element_event("FieldOfView", element_FieldOfView),
+    element_event("WarningLevel", element_WarningLevel),
+    element_event("UniqueID", element_UniqueID),
+    element_event("Global", element_Global),
+    element_event("Geometry", element_Geometry),
+    k_end_of_map,
 };
 }  // namespace
 
-constinit const lmx::s_item ToleranceType::k_items[] = {
-    {lmx::item_kind::attribute, lmx::value_kind::text, lmx::use_optional, lmx::ELMX_WS_PRESERVE, "Name", attribute_Name, LMX_OFFSET(ToleranceType, m_Name, attribute, text), LMX_FLAG(ToleranceType, m_isset_Name), 0, 0, nullptr, nullptr, {}},
-    {lmx::item_kind::child_list, lmx::value_kind::none, lmx::use_optional, lmx::ELMX_WS_PRESERVE, "Vyr:CustomAttribute", element_CustomAttribute, LMX_OFFSET(ToleranceType, m_CustomAttribute, child_list, none), lmx::k_no_flag, lmx::position_of(k_ToleranceType_elements, element_CustomAttribute), lmx::position_of(k_ToleranceType_elements, element_CustomAttribute, 1), &CustomAttributeType::k_class, nullptr, {}},
-    {lmx::item_kind::group, lmx::value_kind::none, lmx::use_asked | lmx::use_written | lmx::use_copied | lmx::use_lax, lmx::ELMX_WS_PRESERVE, "Vyr:Function", 0, LMX_OFFSET(ToleranceType, m_Function, group, none), LMX_FLAG(ToleranceType, m_isset_Function), lmx::position_of(k_ToleranceType_elements, element_Function), lmx::position_of(k_ToleranceType_elements, element_Function, 18), &sg_Function::k_class, nullptr, {}},
-    {lmx::item_kind::child, lmx::value_kind::none, lmx::use_optional, lmx::ELMX_WS_PRESERVE, "Vyr:Limits", element_Limits, LMX_OFFSET(ToleranceType, m_Limits, child, none), LMX_FLAG(ToleranceType, m_isset_Limits), lmx::position_of(k_ToleranceType_elements, element_Limits), lmx::position_of(k_ToleranceType_elements, element_Limits, 1), &LimitsType::k_class, nullptr, {}},
-    {lmx::item_kind::element, lmx::value_kind::text, lmx::use_optional, lmx::ELMX_WS_PRESERVE, "Vyr:PrimaryIlluminant", element_PrimaryIlluminant, LMX_OFFSET(ToleranceType, m_PrimaryIlluminant, element, text), LMX_FLAG(ToleranceType, m_isset_PrimaryIlluminant), lmx::position_of(k_ToleranceType_elements, element_PrimaryIlluminant), lmx::position_of(k_ToleranceType_elements, element_PrimaryIlluminant, 1), nullptr, &facets::IlluminantKind, {}},
-    {lmx::item_kind::element, lmx::value_kind::text, lmx::use_optional, lmx::ELMX_WS_PRESERVE, "Vyr:SecondaryIlluminant", element_SecondaryIlluminant, LMX_OFFSET(ToleranceType, m_SecondaryIlluminant, element, text), LMX_FLAG(ToleranceType, m_isset_SecondaryIlluminant), lmx::position_of(k_ToleranceType_elements, element_SecondaryIlluminant), lmx::position_of(k_ToleranceType_elements, element_SecondaryIlluminant, 1), nullptr, &facets::IlluminantKind, {}},
-    {lmx::item_kind::element, lmx::value_kind::text, lmx::use_optional, lmx::ELMX_WS_PRESERVE, "Vyr:TertiaryIlluminant", element_TertiaryIlluminant, LMX_OFFSET(ToleranceType, m_TertiaryIlluminant, element, text), LMX_FLAG(ToleranceType, m_isset_TertiaryIlluminant), lmx::position_of(k_ToleranceType_elements, element_TertiaryIlluminant), lmx::position_of(k_ToleranceType_elements, element_TertiaryIlluminant, 1), nullptr, &facets::IlluminantKind, {}},
-    {lmx::item_kind::element, lmx::value_kind::text, lmx::use_optional, lmx::ELMX_WS_PRESERVE, "Vyr:FieldOfView", element_FieldOfView, LMX_OFFSET(ToleranceType, m_FieldOfView, element, text), LMX_FLAG(ToleranceType, m_isset_FieldOfView), lmx::position_of(k_ToleranceType_elements, element_FieldOfView), lmx::position_of(k_ToleranceType_elements, element_FieldOfView, 1), nullptr, &facets::ObserverKind, {}},
-    {lmx::item_kind::element, lmx::value_kind::number, lmx::use_optional, lmx::ELMX_WS_COLLAPSE, "Vyr:WarningLevel", element_WarningLevel, LMX_OFFSET(ToleranceType, m_WarningLevel, element, number), LMX_FLAG(ToleranceType, m_isset_WarningLevel), lmx::position_of(k_ToleranceType_elements, element_WarningLevel), lmx::position_of(k_ToleranceType_elements, element_WarningLevel, 1), nullptr, nullptr, {}},
-    {lmx::item_kind::element, lmx::value_kind::text, lmx::use_optional, lmx::ELMX_WS_PRESERVE, "Vyr:UniqueID", element_UniqueID, LMX_OFFSET(ToleranceType, m_UniqueID, element, text), LMX_FLAG(ToleranceType, m_isset_UniqueID), lmx::position_of(k_ToleranceType_elements, element_UniqueID), lmx::position_of(k_ToleranceType_elements, element_UniqueID, 1), nullptr, nullptr, {}},
-    {lmx::item_kind::element, lmx::value_kind::boolean, lmx::use_optional, lmx::ELMX_WS_COLLAPSE, "Vyr:Global", element_Global, LMX_OFFSET(ToleranceType, m_Global, element, boolean), LMX_FLAG(ToleranceType, m_isset_Global), lmx::position_of(k_ToleranceType_elements, element_Global), lmx::position_of(k_ToleranceType_elements, element_Global, 1), nullptr, nullptr, {}},
-    {lmx::item_kind::child, lmx::value_kind::none, lmx::use_optional, lmx::ELMX_WS_PRESERVE, "Vyr:Geometry", element_Geometry, LMX_OFFSET(ToleranceType, m_Geometry, child, none), LMX_FLAG(ToleranceType, m_isset_Geometry), lmx::position_of(k_ToleranceType_elements, element_Geometry), lmx::position_of(k_ToleranceType_elements, element_Geometry, 1), &GeometryChoiceType::k_class, nullptr, {}},
+constinit const s_item ToleranceType::k_items[] = {
+    {item_kind::attribute, value_kind::text, use_optional, ELMX_WS_PRESERVE, "Name", attribute_Name,
+     LMX_OFFSET(ToleranceType, m_Name, attribute, text), LMX_FLAG(ToleranceType, m_isset_Name), 0, 0, nullptr, nullptr, {}},
+    {item_kind::child_list, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:CustomAttribute", element_CustomAttribute,
+     LMX_OFFSET(ToleranceType, m_CustomAttribute, child_list, none), k_no_flag, position_of(k_ToleranceType_elements, element_CustomAttribute), position_of(k_ToleranceType_elements, element_CustomAttribute, 1), &CustomAttributeType::k_class, nullptr, {}},
+    {item_kind::group, value_kind::none, use_asked | use_written | use_copied | use_lax, ELMX_WS_PRESERVE, "Vyr:Function", 0,
+     LMX_OFFSET(ToleranceType, m_Function, group, none), LMX_FLAG(ToleranceType, m_isset_Function), position_of(k_ToleranceType_elements, element_Function), position_of(k_ToleranceType_elements, element_Function, 18), &sg_Function::k_class, nullptr, {}},
+    {item_kind::child, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:Limits", element_Limits,
+     LMX_OFFSET(ToleranceType, m_Limits, child, none), LMX_FLAG(ToleranceType, m_isset_Limits), position_of(k_ToleranceType_elements, element_Limits), position_of(k_ToleranceType_elements, element_Limits, 1), &LimitsType::k_class, nullptr, {}},
+    {item_kind::element, value_kind::text, use_optional, ELMX_WS_PRESERVE, "Vyr:PrimaryIlluminant", element_PrimaryIlluminant,
+     LMX_OFFSET(ToleranceType, m_PrimaryIlluminant, element, text), LMX_FLAG(ToleranceType, m_isset_PrimaryIlluminant), position_of(k_ToleranceType_elements, element_PrimaryIlluminant), position_of(k_ToleranceType_elements, element_PrimaryIlluminant, 1), nullptr, &facets::IlluminantKind, {}},
+    {item_kind::element, value_kind::text, use_optional, ELMX_WS_PRESERVE, "Vyr:SecondaryIlluminant", element_SecondaryIlluminant,
+     LMX_OFFSET(ToleranceType, m_SecondaryIlluminant, element, text), LMX_FLAG(ToleranceType, m_isset_SecondaryIlluminant), position_of(k_ToleranceType_elements, element_SecondaryIlluminant), position_of(k_ToleranceType_elements, element_SecondaryIlluminant, 1), nullptr, &facets::IlluminantKind, {}},
+    {item_kind::element, value_kind::text, use_optional, ELMX_WS_PRESERVE, "Vyr:TertiaryIlluminant", element_TertiaryIlluminant,
+     LMX_OFFSET(ToleranceType, m_TertiaryIlluminant, element, text), LMX_FLAG(ToleranceType, m_isset_TertiaryIlluminant), position_of(k_ToleranceType_elements, element_TertiaryIlluminant), position_of(k_ToleranceType_elements, element_TertiaryIlluminant, 1), nullptr, &facets::IlluminantKind, {}},
+    {item_kind::element, value_kind::text, use_optional, ELMX_WS_PRESERVE, "Vyr:FieldOfView", element_FieldOfView,
+     LMX_OFFSET(ToleranceType, m_FieldOfView, element, text), LMX_FLAG(ToleranceType, m_isset_FieldOfView), position_of(k_ToleranceType_elements, element_FieldOfView), position_of(k_ToleranceType_elements, element_FieldOfView, 1), nullptr, &facets::ObserverKind, {}},
+    {item_kind::element, value_kind::number, use_optional, ELMX_WS_COLLAPSE, "Vyr:WarningLevel", element_WarningLevel,
+     LMX_OFFSET(ToleranceType, m_WarningLevel, element, number), LMX_FLAG(ToleranceType, m_isset_WarningLevel), position_of(k_ToleranceType_elements, element_WarningLevel), position_of(k_ToleranceType_elements, element_WarningLevel, 1), nullptr, nullptr, {}},
+    {item_kind::element, value_kind::text, use_optional, ELMX_WS_PRESERVE, "Vyr:UniqueID", element_UniqueID,
+     LMX_OFFSET(ToleranceType, m_UniqueID, element, text), LMX_FLAG(ToleranceType, m_isset_UniqueID), position_of(k_ToleranceType_elements, element_UniqueID), position_of(k_ToleranceType_elements, element_UniqueID, 1), nullptr, nullptr, {}},
+    {item_kind::element, value_kind::boolean, use_optional, ELMX_WS_COLLAPSE, "Vyr:Global", element_Global,
+     LMX_OFFSET(ToleranceType, m_Global, element, boolean), LMX_FLAG(ToleranceType, m_isset_Global), position_of(k_ToleranceType_elements, element_Global), position_of(k_ToleranceType_elements, element_Global, 1), nullptr, nullptr, {}},
+    {item_kind::child, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:Geometry", element_Geometry,
+     LMX_OFFSET(ToleranceType, m_Geometry, child, none), LMX_FLAG(ToleranceType, m_isset_Geometry), position_of(k_ToleranceType_elements, element_Geometry), position_of(k_ToleranceType_elements, element_Geometry, 1), &GeometryChoiceType::k_class, nullptr, {}},
 };
-constinit const lmx::s_class ToleranceType::k_class = {
+constinit const s_class ToleranceType::k_class = {
     .name = "ToleranceType",
     .qualified_name = "Vyr:ToleranceType",
     .base = nullptr,
-    .content = lmx::content_kind::children,
+    .content = content_kind::children,
     .may_be_empty = false,
     .ns_map = k_ns_map,
-    .nil_flag = lmx::k_no_flag,
-    .choice = lmx::k_no_flag,
+    .nil_flag = k_no_flag,
+    .choice = k_no_flag,
     .id = nullptr,
     .xsi_type = nullptr,
     .attributes = std::span(k_items).first(std::size(k_ToleranceType_attributes) - 1),
     .elements = std::span(k_items).subspan(std::size(k_ToleranceType_attributes) - 1),
     .attribute_map = k_ToleranceType_attributes,
     .element_map = k_ToleranceType_elements,
-    .operations = &lmx::k_operations<ToleranceType>,
+    .operations = &k_operations<ToleranceType>,
 };
 
 ToleranceType::ToleranceType() = default;
@@ -195,33 +212,35 @@ GeometryChoiceType& ToleranceType::assign_Geometry(const GeometryChoiceType& val
 // Process
 
 namespace {
-constexpr lmx::s_event_map k_Process_elements[] = {
-    lmx::element_event("Name", element_Name),
-    lmx::element_event("Thickness", element_Thickness),
-    lmx::k_end_of_map,
+constexpr s_event_map k_Process_elements[] = {
+    element_event("Name", element_Name),
+    element_event("Thickness", element_Thickness),
+    k_end_of_map,
 };
 }  // namespace
 
-constinit const lmx::s_item Process::k_items[] = {
-    {lmx::item_kind::element, lmx::value_kind::text, lmx::use_required, lmx::ELMX_WS_PRESERVE, "Vyr:Name", element_Name, LMX_OFFSET(Process, m_Name, element, text), LMX_FLAG(Process, m_isset_Name), lmx::position_of(k_Process_elements, element_Name), lmx::position_of(k_Process_elements, element_Name, 1), nullptr, &facets::NonEmptyString, {}},
-    {lmx::item_kind::element, lmx::value_kind::number, lmx::use_optional, lmx::ELMX_WS_COLLAPSE, "Vyr:Thickness", element_Thickness, LMX_OFFSET(Process, m_Thickness, element, number), LMX_FLAG(Process, m_isset_Thickness), lmx::position_of(k_Process_elements, element_Thickness), lmx::position_of(k_Process_elements, element_Thickness, 1), nullptr, &facets::NonNegative, {}},
+constinit const s_item Process::k_items[] = {
+    {item_kind::element, value_kind::text, use_required, ELMX_WS_PRESERVE, "Vyr:Name", element_Name,
+     LMX_OFFSET(Process, m_Name, element, text), LMX_FLAG(Process, m_isset_Name), position_of(k_Process_elements, element_Name), position_of(k_Process_elements, element_Name, 1), nullptr, &facets::NonEmptyString, {}},
+    {item_kind::element, value_kind::number, use_optional, ELMX_WS_COLLAPSE, "Vyr:Thickness", element_Thickness,
+     LMX_OFFSET(Process, m_Thickness, element, number), LMX_FLAG(Process, m_isset_Thickness), position_of(k_Process_elements, element_Thickness), position_of(k_Process_elements, element_Thickness, 1), nullptr, &facets::NonNegative, {}},
 };
-constinit const lmx::s_class Process::k_class = {
+constinit const s_class Process::k_class = {
     .name = "Process",
     .qualified_name = "Vyr:Process",
     .base = nullptr,
-    .content = lmx::content_kind::children,
+    .content = content_kind::children,
     .may_be_empty = true,
     .ns_map = nullptr,
-    .nil_flag = lmx::k_no_flag,
-    .choice = lmx::k_no_flag,
+    .nil_flag = k_no_flag,
+    .choice = k_no_flag,
     .id = nullptr,
     .xsi_type = nullptr,
-    .attributes = std::span(k_items).first(std::size(lmx::k_no_events) - 1),
-    .elements = std::span(k_items).subspan(std::size(lmx::k_no_events) - 1),
-    .attribute_map = lmx::k_no_events,
+    .attributes = std::span(k_items).first(std::size(k_no_events) - 1),
+    .elements = std::span(k_items).subspan(std::size(k_no_events) - 1),
+    .attribute_map = k_no_events,
     .element_map = k_Process_elements,
-    .operations = &lmx::k_operations<Process>,
+    .operations = &k_operations<Process>,
 };
 
 Process::Process() = default;
@@ -244,38 +263,42 @@ lmx::elmx_error Process::set_Thickness(double value) { return lmx::set_item(k_cl
 // PhysicalSampleType
 
 namespace {
-constexpr lmx::s_event_map k_PhysicalSampleType_elements[] = {
-    lmx::element_event("CustomAttribute", element_CustomAttribute),
-    lmx::element_event("Coating", element_Coating),
-    lmx::element_event("Process", element_Process),
-    lmx::element_event("SampleSpot", element_SampleSpot),
-    lmx::element_event("SampleTarget", element_SampleTarget),
-    lmx::k_end_of_map,
+constexpr s_event_map k_PhysicalSampleType_elements[] = {
+    element_event("CustomAttribute", element_CustomAttribute),
+    element_event("Coating", element_Coating),
+    element_event("Process", element_Process),
+    element_event("SampleSpot", element_SampleSpot),
+    element_event("SampleTarget", element_SampleTarget),
+    k_end_of_map,
 };
 }  // namespace
 
-constinit const lmx::s_item PhysicalSampleType::k_items[] = {
-    {lmx::item_kind::child_list, lmx::value_kind::none, lmx::use_optional, lmx::ELMX_WS_PRESERVE, "Vyr:CustomAttribute", element_CustomAttribute, LMX_OFFSET(PhysicalSampleType, m_CustomAttribute, child_list, none), lmx::k_no_flag, lmx::position_of(k_PhysicalSampleType_elements, element_CustomAttribute), lmx::position_of(k_PhysicalSampleType_elements, element_CustomAttribute, 1), &CustomAttributeType::k_class, nullptr, {}},
-    {lmx::item_kind::element, lmx::value_kind::text, lmx::use_optional, lmx::ELMX_WS_PRESERVE, "Vyr:Coating", element_Coating, LMX_OFFSET(PhysicalSampleType, m_Coating, element, text), LMX_FLAG(PhysicalSampleType, m_isset_Coating), lmx::position_of(k_PhysicalSampleType_elements, element_Coating), lmx::position_of(k_PhysicalSampleType_elements, element_Coating, 1), nullptr, nullptr, {}},
-    {lmx::item_kind::child, lmx::value_kind::none, lmx::use_optional, lmx::ELMX_WS_PRESERVE, "Vyr:Process", element_Process, LMX_OFFSET(PhysicalSampleType, m_Process, child, none), LMX_FLAG(PhysicalSampleType, m_isset_Process), lmx::position_of(k_PhysicalSampleType_elements, element_Process), lmx::position_of(k_PhysicalSampleType_elements, element_Process, 1), &Process::k_class, nullptr, {}},
-    {lmx::item_kind::group, lmx::value_kind::none, lmx::use_asked | lmx::use_written | lmx::use_copied | lmx::use_lax, lmx::ELMX_WS_PRESERVE, "Vyr:Sample", 0, LMX_OFFSET(PhysicalSampleType, m_Sample, group, none), LMX_FLAG(PhysicalSampleType, m_isset_Sample), lmx::position_of(k_PhysicalSampleType_elements, element_SampleSpot), lmx::position_of(k_PhysicalSampleType_elements, element_SampleSpot, 2), &sg_Sample::k_class, nullptr, {}},
+constinit const s_item PhysicalSampleType::k_items[] = {
+    {item_kind::child_list, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:CustomAttribute", element_CustomAttribute,
+     LMX_OFFSET(PhysicalSampleType, m_CustomAttribute, child_list, none), k_no_flag, position_of(k_PhysicalSampleType_elements, element_CustomAttribute), position_of(k_PhysicalSampleType_elements, element_CustomAttribute, 1), &CustomAttributeType::k_class, nullptr, {}},
+    {item_kind::element, value_kind::text, use_optional, ELMX_WS_PRESERVE, "Vyr:Coating", element_Coating,
+     LMX_OFFSET(PhysicalSampleType, m_Coating, element, text), LMX_FLAG(PhysicalSampleType, m_isset_Coating), position_of(k_PhysicalSampleType_elements, element_Coating), position_of(k_PhysicalSampleType_elements, element_Coating, 1), nullptr, nullptr, {}},
+    {item_kind::child, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:Process", element_Process,
+     LMX_OFFSET(PhysicalSampleType, m_Process, child, none), LMX_FLAG(PhysicalSampleType, m_isset_Process), position_of(k_PhysicalSampleType_elements, element_Process), position_of(k_PhysicalSampleType_elements, element_Process, 1), &Process::k_class, nullptr, {}},
+    {item_kind::group, value_kind::none, use_asked | use_written | use_copied | use_lax, ELMX_WS_PRESERVE, "Vyr:Sample", 0,
+     LMX_OFFSET(PhysicalSampleType, m_Sample, group, none), LMX_FLAG(PhysicalSampleType, m_isset_Sample), position_of(k_PhysicalSampleType_elements, element_SampleSpot), position_of(k_PhysicalSampleType_elements, element_SampleSpot, 2), &sg_Sample::k_class, nullptr, {}},
 };
-constinit const lmx::s_class PhysicalSampleType::k_class = {
+constinit const s_class PhysicalSampleType::k_class = {
     .name = "PhysicalSampleType",
     .qualified_name = "Vyr:PhysicalSampleType",
     .base = nullptr,
-    .content = lmx::content_kind::children,
+    .content = content_kind::children,
     .may_be_empty = false,
     .ns_map = k_ns_map,
-    .nil_flag = lmx::k_no_flag,
-    .choice = lmx::k_no_flag,
+    .nil_flag = k_no_flag,
+    .choice = k_no_flag,
     .id = nullptr,
     .xsi_type = nullptr,
-    .attributes = std::span(k_items).first(std::size(lmx::k_no_events) - 1),
-    .elements = std::span(k_items).subspan(std::size(lmx::k_no_events) - 1),
-    .attribute_map = lmx::k_no_events,
+    .attributes = std::span(k_items).first(std::size(k_no_events) - 1),
+    .elements = std::span(k_items).subspan(std::size(k_no_events) - 1),
+    .attribute_map = k_no_events,
     .element_map = k_PhysicalSampleType_elements,
-    .operations = &lmx::k_operations<PhysicalSampleType>,
+    .operations = &k_operations<PhysicalSampleType>,
 };
 
 PhysicalSampleType::PhysicalSampleType() = default;
@@ -305,50 +328,59 @@ sg_Sample& PhysicalSampleType::assign_Sample(const sg_Sample& value) { return ge
 // ColorQualityControlType
 
 namespace {
-constexpr lmx::s_event_map k_ColorQualityControlType_attributes[] = {
-    lmx::attribute_event("Name", attribute_Name),
-    lmx::attribute_event("Description", attribute_Description),
-    lmx::attribute_event("UniqueID", attribute_UniqueID),
-    lmx::attribute_event("Comments", attribute_Comments),
-    lmx::k_end_of_map,
+constexpr s_event_map k_ColorQualityControlType_attributes[] = {
+    attribute_event("Name", attribute_Name),
+    attribute_event("Description", attribute_Description),
+    attribute_event("UniqueID", attribute_UniqueID),
+    attribute_event("Comments", attribute_Comments),
+    k_end_of_map,
 };
-constexpr lmx::s_event_map k_ColorQualityControlType_elements[] = {
-    lmx::element_event("CustomAttribute", element_CustomAttribute),
-    lmx::element_event("ChangeHistory", element_ChangeHistory),
-    lmx::element_event("StandardAndMeasurement", element_StandardAndMeasurement),
-    lmx::element_event("PhysicalSample", element_PhysicalSample),
-    lmx::element_event("Tolerance", element_Tolerance),
-    lmx::k_end_of_map,
+constexpr s_event_map k_ColorQualityControlType_elements[] = {
+    element_event("CustomAttribute", element_CustomAttribute),
+    element_event("ChangeHistory", element_ChangeHistory),
+    element_event("StandardAndMeasurement", element_StandardAndMeasurement),
+    element_event("PhysicalSample", element_PhysicalSample),
+    element_event("Tolerance", element_Tolerance),
+    k_end_of_map,
 };
 }  // namespace
 
-constinit const lmx::s_item ColorQualityControlType::k_items[] = {
-    {lmx::item_kind::attribute, lmx::value_kind::text, lmx::use_optional, lmx::ELMX_WS_PRESERVE, "Name", attribute_Name, LMX_OFFSET(ColorQualityControlType, m_Name, attribute, text), LMX_FLAG(ColorQualityControlType, m_isset_Name), 0, 0, nullptr, nullptr, {}},
-    {lmx::item_kind::attribute, lmx::value_kind::text, lmx::use_optional, lmx::ELMX_WS_PRESERVE, "Description", attribute_Description, LMX_OFFSET(ColorQualityControlType, m_Description, attribute, text), LMX_FLAG(ColorQualityControlType, m_isset_Description), 0, 0, nullptr, nullptr, {}},
-    {lmx::item_kind::attribute, lmx::value_kind::text, lmx::use_optional, lmx::ELMX_WS_PRESERVE, "UniqueID", attribute_UniqueID, LMX_OFFSET(ColorQualityControlType, m_UniqueID, attribute, text), LMX_FLAG(ColorQualityControlType, m_isset_UniqueID), 0, 0, nullptr, nullptr, {}},
-    {lmx::item_kind::attribute, lmx::value_kind::text, lmx::use_optional, lmx::ELMX_WS_PRESERVE, "Comments", attribute_Comments, LMX_OFFSET(ColorQualityControlType, m_Comments, attribute, text), LMX_FLAG(ColorQualityControlType, m_isset_Comments), 0, 0, nullptr, nullptr, {}},
-    {lmx::item_kind::child_list, lmx::value_kind::none, lmx::use_optional, lmx::ELMX_WS_PRESERVE, "Vyr:CustomAttribute", element_CustomAttribute, LMX_OFFSET(ColorQualityControlType, m_CustomAttribute, child_list, none), lmx::k_no_flag, lmx::position_of(k_ColorQualityControlType_elements, element_CustomAttribute), lmx::position_of(k_ColorQualityControlType_elements, element_CustomAttribute, 1), &CustomAttributeType::k_class, nullptr, {}},
-    {lmx::item_kind::element_list, lmx::value_kind::datetime, lmx::use_demanded | lmx::use_asked, lmx::ELMX_WS_COLLAPSE, "Vyr:ChangeHistory", element_ChangeHistory, LMX_OFFSET(ColorQualityControlType, m_ChangeHistory, element_list, datetime), lmx::k_no_flag, lmx::position_of(k_ColorQualityControlType_elements, element_ChangeHistory), lmx::position_of(k_ColorQualityControlType_elements, element_ChangeHistory, 1), nullptr, &facets::DateTimeZone, {}},
-    {lmx::item_kind::child_list, lmx::value_kind::none, lmx::use_demanded | lmx::use_asked, lmx::ELMX_WS_PRESERVE, "Vyr:StandardAndMeasurement", element_StandardAndMeasurement, LMX_OFFSET(ColorQualityControlType, m_StandardAndMeasurement, child_list, none), lmx::k_no_flag, lmx::position_of(k_ColorQualityControlType_elements, element_StandardAndMeasurement), lmx::position_of(k_ColorQualityControlType_elements, element_StandardAndMeasurement, 1), &StandardAndMeasurementType::k_class, nullptr, {}},
-    {lmx::item_kind::child, lmx::value_kind::none, lmx::use_optional, lmx::ELMX_WS_PRESERVE, "Vyr:PhysicalSample", element_PhysicalSample, LMX_OFFSET(ColorQualityControlType, m_PhysicalSample, child, none), LMX_FLAG(ColorQualityControlType, m_isset_PhysicalSample), lmx::position_of(k_ColorQualityControlType_elements, element_PhysicalSample), lmx::position_of(k_ColorQualityControlType_elements, element_PhysicalSample, 1), &PhysicalSampleType::k_class, nullptr, {}},
-    {lmx::item_kind::child_list, lmx::value_kind::none, lmx::use_optional, lmx::ELMX_WS_PRESERVE, "Vyr:Tolerance", element_Tolerance, LMX_OFFSET(ColorQualityControlType, m_Tolerance, child_list, none), lmx::k_no_flag, lmx::position_of(k_ColorQualityControlType_elements, element_Tolerance), lmx::position_of(k_ColorQualityControlType_elements, element_Tolerance, 1), &ToleranceType::k_class, nullptr, {}},
+constinit const s_item ColorQualityControlType::k_items[] = {
+    {item_kind::attribute, value_kind::text, use_optional, ELMX_WS_PRESERVE, "Name", attribute_Name,
+     LMX_OFFSET(ColorQualityControlType, m_Name, attribute, text), LMX_FLAG(ColorQualityControlType, m_isset_Name), 0, 0, nullptr, nullptr, {}},
+    {item_kind::attribute, value_kind::text, use_optional, ELMX_WS_PRESERVE, "Description", attribute_Description,
+     LMX_OFFSET(ColorQualityControlType, m_Description, attribute, text), LMX_FLAG(ColorQualityControlType, m_isset_Description), 0, 0, nullptr, nullptr, {}},
+    {item_kind::attribute, value_kind::text, use_optional, ELMX_WS_PRESERVE, "UniqueID", attribute_UniqueID,
+     LMX_OFFSET(ColorQualityControlType, m_UniqueID, attribute, text), LMX_FLAG(ColorQualityControlType, m_isset_UniqueID), 0, 0, nullptr, nullptr, {}},
+    {item_kind::attribute, value_kind::text, use_optional, ELMX_WS_PRESERVE, "Comments", attribute_Comments,
+     LMX_OFFSET(ColorQualityControlType, m_Comments, attribute, text), LMX_FLAG(ColorQualityControlType, m_isset_Comments), 0, 0, nullptr, nullptr, {}},
+    {item_kind::child_list, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:CustomAttribute", element_CustomAttribute,
+     LMX_OFFSET(ColorQualityControlType, m_CustomAttribute, child_list, none), k_no_flag, position_of(k_ColorQualityControlType_elements, element_CustomAttribute), position_of(k_ColorQualityControlType_elements, element_CustomAttribute, 1), &CustomAttributeType::k_class, nullptr, {}},
+    {item_kind::element_list, value_kind::datetime, use_demanded | use_asked, ELMX_WS_COLLAPSE, "Vyr:ChangeHistory", element_ChangeHistory,
+     LMX_OFFSET(ColorQualityControlType, m_ChangeHistory, element_list, datetime), k_no_flag, position_of(k_ColorQualityControlType_elements, element_ChangeHistory), position_of(k_ColorQualityControlType_elements, element_ChangeHistory, 1), nullptr, &facets::DateTimeZone, {}},
+    {item_kind::child_list, value_kind::none, use_demanded | use_asked, ELMX_WS_PRESERVE, "Vyr:StandardAndMeasurement", element_StandardAndMeasurement,
+     LMX_OFFSET(ColorQualityControlType, m_StandardAndMeasurement, child_list, none), k_no_flag, position_of(k_ColorQualityControlType_elements, element_StandardAndMeasurement), position_of(k_ColorQualityControlType_elements, element_StandardAndMeasurement, 1), &StandardAndMeasurementType::k_class, nullptr, {}},
+    {item_kind::child, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:PhysicalSample", element_PhysicalSample,
+     LMX_OFFSET(ColorQualityControlType, m_PhysicalSample, child, none), LMX_FLAG(ColorQualityControlType, m_isset_PhysicalSample), position_of(k_ColorQualityControlType_elements, element_PhysicalSample), position_of(k_ColorQualityControlType_elements, element_PhysicalSample, 1), &PhysicalSampleType::k_class, nullptr, {}},
+    {item_kind::child_list, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:Tolerance", element_Tolerance,
+     LMX_OFFSET(ColorQualityControlType, m_Tolerance, child_list, none), k_no_flag, position_of(k_ColorQualityControlType_elements, element_Tolerance), position_of(k_ColorQualityControlType_elements, element_Tolerance, 1), &ToleranceType::k_class, nullptr, {}},
 };
-constinit const lmx::s_class ColorQualityControlType::k_class = {
+constinit const s_class ColorQualityControlType::k_class = {
     .name = "ColorQualityControlType",
     .qualified_name = "Vyr:ColorQualityControlType",
     .base = nullptr,
-    .content = lmx::content_kind::children,
+    .content = content_kind::children,
     .may_be_empty = false,
     .ns_map = k_ns_map,
-    .nil_flag = lmx::k_no_flag,
-    .choice = lmx::k_no_flag,
+    .nil_flag = k_no_flag,
+    .choice = k_no_flag,
     .id = nullptr,
     .xsi_type = nullptr,
     .attributes = std::span(k_items).first(std::size(k_ColorQualityControlType_attributes) - 1),
     .elements = std::span(k_items).subspan(std::size(k_ColorQualityControlType_attributes) - 1),
     .attribute_map = k_ColorQualityControlType_attributes,
     .element_map = k_ColorQualityControlType_elements,
-    .operations = &lmx::k_operations<ColorQualityControlType>,
+    .operations = &k_operations<ColorQualityControlType>,
 };
 
 ColorQualityControlType::ColorQualityControlType() = default;
@@ -397,54 +429,58 @@ void ColorQualityControlType::clear_Tolerance() { m_Tolerance.clear(); }
 // Measurement
 
 namespace {
-constexpr lmx::s_event_map k_Measurement_elements[] = {
-    lmx::element_event("CustomAttribute", element_CustomAttribute),
-    lmx::element_event("Device", element_Device),
-    lmx::element_event("Color", element_Color),
-    lmx::element_event("Function", element_Function),
-    lmx::element_event("FunctionGeneric", element_FunctionGeneric),
-    lmx::element_event("FunctionDE", element_FunctionDE),
-    lmx::element_event("FunctionMeanDE", element_FunctionMeanDE),
-    lmx::element_event("FunctionDE94", element_FunctionDE94),
-    lmx::element_event("FunctionDE2000", element_FunctionDE2000),
-    lmx::element_event("FunctionDECMC", element_FunctionDECMC),
-    lmx::element_event("FunctionStdDevX", element_FunctionStdDevX),
-    lmx::element_event("FunctionStdDevY", element_FunctionStdDevY),
-    lmx::element_event("FunctionStdDevZ", element_FunctionStdDevZ),
-    lmx::element_event("FunctionStdDevL", element_FunctionStdDevL),
-    lmx::element_event("FunctionStdDevA", element_FunctionStdDevA),
-    lmx::element_event("FunctionStdDevB", element_FunctionStdDevB),
-    lmx::element_event("FunctionStdDevC", element_FunctionStdDevC),
-    lmx::element_event("FunctionStdDevH", element_FunctionStdDevH),
-    lmx::element_event("FunctionAverageStdDevL", element_FunctionAverageStdDevL),
-    lmx::element_event("FunctionAverageStdDevA", element_FunctionAverageStdDevA),
-    lmx::element_event("FunctionAverageStdDevB", element_FunctionAverageStdDevB),
-    lmx::k_end_of_map,
+constexpr s_event_map k_Measurement_elements[] = {
+    element_event("CustomAttribute", element_CustomAttribute),
+    element_event("Device", element_Device),
+    element_event("Color", element_Color),
+    element_event("Function", element_Function),
+    element_event("FunctionGeneric", element_FunctionGeneric),
+    element_event("FunctionDE", element_FunctionDE),
+    element_event("FunctionMeanDE", element_FunctionMeanDE),
+    element_event("FunctionDE94", element_FunctionDE94),
+    element_event("FunctionDE2000", element_FunctionDE2000),
+    element_event("FunctionDECMC", element_FunctionDECMC),
+    element_event("FunctionStdDevX", element_FunctionStdDevX),
+    element_event("FunctionStdDevY", element_FunctionStdDevY),
+    element_event("FunctionStdDevZ", element_FunctionStdDevZ),
+    element_event("FunctionStdDevL", element_FunctionStdDevL),
+    element_event("FunctionStdDevA", element_FunctionStdDevA),
+    element_event("FunctionStdDevB", element_FunctionStdDevB),
+    element_event("FunctionStdDevC", element_FunctionStdDevC),
+    element_event("FunctionStdDevH", element_FunctionStdDevH),
+    element_event("FunctionAverageStdDevL", element_FunctionAverageStdDevL),
+    element_event("FunctionAverageStdDevA", element_FunctionAverageStdDevA),
+    element_event("FunctionAverageStdDevB", element_FunctionAverageStdDevB),
+    k_end_of_map,
 };
 }  // namespace
 
-constinit const lmx::s_item Measurement::k_items[] = {
-    {lmx::item_kind::child_list, lmx::value_kind::none, lmx::use_optional, lmx::ELMX_WS_PRESERVE, "Vyr:CustomAttribute", element_CustomAttribute, LMX_OFFSET(Measurement, m_CustomAttribute, child_list, none), lmx::k_no_flag, lmx::position_of(k_Measurement_elements, element_CustomAttribute), lmx::position_of(k_Measurement_elements, element_CustomAttribute, 1), &CustomAttributeType::k_class, nullptr, {}},
-    {lmx::item_kind::child, lmx::value_kind::none, lmx::use_required, lmx::ELMX_WS_PRESERVE, "Vyr:Device", element_Device, LMX_OFFSET(Measurement, m_Device, child, none), LMX_FLAG(Measurement, m_isset_Device), lmx::position_of(k_Measurement_elements, element_Device), lmx::position_of(k_Measurement_elements, element_Device, 1), &DeviceType::k_class, nullptr, {}},
-    {lmx::item_kind::child, lmx::value_kind::none, lmx::use_required, lmx::ELMX_WS_PRESERVE, "Vyr:Color", element_Color, LMX_OFFSET(Measurement, m_Color, child, none), LMX_FLAG(Measurement, m_isset_Color), lmx::position_of(k_Measurement_elements, element_Color), lmx::position_of(k_Measurement_elements, element_Color, 1), &ColorType::k_class, nullptr, {}},
-    {lmx::item_kind::group_list, lmx::value_kind::none, lmx::use_optional, lmx::ELMX_WS_PRESERVE, "Vyr:Function", 0, LMX_OFFSET(Measurement, m_Function, group_list, none), lmx::k_no_flag, lmx::position_of(k_Measurement_elements, element_Function), lmx::position_of(k_Measurement_elements, element_Function, 18), &sg_Function::k_class, nullptr, {}},
+constinit const s_item Measurement::k_items[] = {
+    {item_kind::child_list, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:CustomAttribute", element_CustomAttribute,
+     LMX_OFFSET(Measurement, m_CustomAttribute, child_list, none), k_no_flag, position_of(k_Measurement_elements, element_CustomAttribute), position_of(k_Measurement_elements, element_CustomAttribute, 1), &CustomAttributeType::k_class, nullptr, {}},
+    {item_kind::child, value_kind::none, use_required, ELMX_WS_PRESERVE, "Vyr:Device", element_Device,
+     LMX_OFFSET(Measurement, m_Device, child, none), LMX_FLAG(Measurement, m_isset_Device), position_of(k_Measurement_elements, element_Device), position_of(k_Measurement_elements, element_Device, 1), &DeviceType::k_class, nullptr, {}},
+    {item_kind::child, value_kind::none, use_required, ELMX_WS_PRESERVE, "Vyr:Color", element_Color,
+     LMX_OFFSET(Measurement, m_Color, child, none), LMX_FLAG(Measurement, m_isset_Color), position_of(k_Measurement_elements, element_Color), position_of(k_Measurement_elements, element_Color, 1), &ColorType::k_class, nullptr, {}},
+    {item_kind::group_list, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:Function", 0,
+     LMX_OFFSET(Measurement, m_Function, group_list, none), k_no_flag, position_of(k_Measurement_elements, element_Function), position_of(k_Measurement_elements, element_Function, 18), &sg_Function::k_class, nullptr, {}},
 };
-constinit const lmx::s_class Measurement::k_class = {
+constinit const s_class Measurement::k_class = {
     .name = "Measurement",
     .qualified_name = "Vyr:Measurement",
     .base = nullptr,
-    .content = lmx::content_kind::children,
+    .content = content_kind::children,
     .may_be_empty = false,
     .ns_map = k_ns_map,
-    .nil_flag = lmx::k_no_flag,
-    .choice = lmx::k_no_flag,
+    .nil_flag = k_no_flag,
+    .choice = k_no_flag,
     .id = nullptr,
     .xsi_type = nullptr,
-    .attributes = std::span(k_items).first(std::size(lmx::k_no_events) - 1),
-    .elements = std::span(k_items).subspan(std::size(lmx::k_no_events) - 1),
-    .attribute_map = lmx::k_no_events,
+    .attributes = std::span(k_items).first(std::size(k_no_events) - 1),
+    .elements = std::span(k_items).subspan(std::size(k_no_events) - 1),
+    .attribute_map = k_no_events,
     .element_map = k_Measurement_elements,
-    .operations = &lmx::k_operations<Measurement>,
+    .operations = &k_operations<Measurement>,
 };
 
 Measurement::Measurement() = default;
@@ -461,7 +497,7 @@ lmx::elmx_error Measurement::marshal_child_elements(lmx::c_xml_writer& writer) c
 bool Measurement::unmarshal_attributes(lmx::c_xml_reader& reader, const std::string& name, lmx::elmx_error* error) { return lmx::unmarshal_attribute(k_class, this, reader, name, error); }
 lmx::elmx_error Measurement::unmarshal_attributes_check(lmx::c_xml_reader& reader) { return lmx::check_required_attributes(k_class, this, reader); }
 bool Measurement::unmarshal_body(lmx::c_xml_reader& reader, std::string* name, lmx::elmx_error* error) { return lmx::unmarshal_body(k_class, this, reader, name, error); }
-const lmx::s_document Measurement::k_document = {"Vyr:Measurement", "Measurement", k_ns_map, &lmx::k_operations<Measurement>};
+constinit const lmx::s_document Measurement::k_document = {"Vyr:Measurement", "Measurement", k_ns_map, &lmx::k_operations<Measurement>};
 const lmx::s_ns_map* Measurement::ns_map() { return k_ns_map; }
 lmx::elmx_error Measurement::unmarshal(lmx::c_xml_reader& reader) { return lmx::unmarshal_document(k_document, this, reader); }
 Measurement::Measurement(const char* file_name, lmx::elmx_error* error) : Measurement() { *error = lmx::ELMX_UNDEFINED_ERROR; *error = unmarshal(file_name); }
@@ -491,37 +527,41 @@ void Measurement::clear_Function() { m_Function.clear(); }
 // Standard
 
 namespace {
-constexpr lmx::s_event_map k_Standard_elements[] = {
-    lmx::element_event("CustomAttribute", element_CustomAttribute),
-    lmx::element_event("Device", element_Device),
-    lmx::element_event("Color", element_Color),
-    lmx::element_event("Tolerance", element_Tolerance),
-    lmx::k_end_of_map,
+constexpr s_event_map k_Standard_elements[] = {
+    element_event("CustomAttribute", element_CustomAttribute),
+    element_event("Device", element_Device),
+    element_event("Color", element_Color),
+    element_event("Tolerance", element_Tolerance),
+    k_end_of_map,
 };
 }  // namespace
 
-constinit const lmx::s_item Standard::k_items[] = {
-    {lmx::item_kind::child_list, lmx::value_kind::none, lmx::use_optional, lmx::ELMX_WS_PRESERVE, "Vyr:CustomAttribute", element_CustomAttribute, LMX_OFFSET(Standard, m_CustomAttribute, child_list, none), lmx::k_no_flag, lmx::position_of(k_Standard_elements, element_CustomAttribute), lmx::position_of(k_Standard_elements, element_CustomAttribute, 1), &CustomAttributeType::k_class, nullptr, {}},
-    {lmx::item_kind::child, lmx::value_kind::none, lmx::use_required, lmx::ELMX_WS_PRESERVE, "Vyr:Device", element_Device, LMX_OFFSET(Standard, m_Device, child, none), LMX_FLAG(Standard, m_isset_Device), lmx::position_of(k_Standard_elements, element_Device), lmx::position_of(k_Standard_elements, element_Device, 1), &DeviceType::k_class, nullptr, {}},
-    {lmx::item_kind::child, lmx::value_kind::none, lmx::use_required, lmx::ELMX_WS_PRESERVE, "Vyr:Color", element_Color, LMX_OFFSET(Standard, m_Color, child, none), LMX_FLAG(Standard, m_isset_Color), lmx::position_of(k_Standard_elements, element_Color), lmx::position_of(k_Standard_elements, element_Color, 1), &ColorType::k_class, nullptr, {}},
-    {lmx::item_kind::child_list, lmx::value_kind::none, lmx::use_optional, lmx::ELMX_WS_PRESERVE, "Vyr:Tolerance", element_Tolerance, LMX_OFFSET(Standard, m_Tolerance, child_list, none), lmx::k_no_flag, lmx::position_of(k_Standard_elements, element_Tolerance), lmx::position_of(k_Standard_elements, element_Tolerance, 1), &ToleranceType::k_class, nullptr, {}},
+constinit const s_item Standard::k_items[] = {
+    {item_kind::child_list, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:CustomAttribute", element_CustomAttribute,
+     LMX_OFFSET(Standard, m_CustomAttribute, child_list, none), k_no_flag, position_of(k_Standard_elements, element_CustomAttribute), position_of(k_Standard_elements, element_CustomAttribute, 1), &CustomAttributeType::k_class, nullptr, {}},
+    {item_kind::child, value_kind::none, use_required, ELMX_WS_PRESERVE, "Vyr:Device", element_Device,
+     LMX_OFFSET(Standard, m_Device, child, none), LMX_FLAG(Standard, m_isset_Device), position_of(k_Standard_elements, element_Device), position_of(k_Standard_elements, element_Device, 1), &DeviceType::k_class, nullptr, {}},
+    {item_kind::child, value_kind::none, use_required, ELMX_WS_PRESERVE, "Vyr:Color", element_Color,
+     LMX_OFFSET(Standard, m_Color, child, none), LMX_FLAG(Standard, m_isset_Color), position_of(k_Standard_elements, element_Color), position_of(k_Standard_elements, element_Color, 1), &ColorType::k_class, nullptr, {}},
+    {item_kind::child_list, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:Tolerance", element_Tolerance,
+     LMX_OFFSET(Standard, m_Tolerance, child_list, none), k_no_flag, position_of(k_Standard_elements, element_Tolerance), position_of(k_Standard_elements, element_Tolerance, 1), &ToleranceType::k_class, nullptr, {}},
 };
-constinit const lmx::s_class Standard::k_class = {
+constinit const s_class Standard::k_class = {
     .name = "Standard",
     .qualified_name = "Vyr:Standard",
     .base = nullptr,
-    .content = lmx::content_kind::children,
+    .content = content_kind::children,
     .may_be_empty = false,
     .ns_map = k_ns_map,
     .nil_flag = LMX_FLAG(Standard, m_isnil),
-    .choice = lmx::k_no_flag,
+    .choice = k_no_flag,
     .id = nullptr,
     .xsi_type = nullptr,
-    .attributes = std::span(k_items).first(std::size(lmx::k_no_events) - 1),
-    .elements = std::span(k_items).subspan(std::size(lmx::k_no_events) - 1),
-    .attribute_map = lmx::k_no_events,
+    .attributes = std::span(k_items).first(std::size(k_no_events) - 1),
+    .elements = std::span(k_items).subspan(std::size(k_no_events) - 1),
+    .attribute_map = k_no_events,
     .element_map = k_Standard_elements,
-    .operations = &lmx::k_operations<Standard>,
+    .operations = &k_operations<Standard>,
 };
 
 Standard::Standard() = default;
@@ -538,7 +578,7 @@ lmx::elmx_error Standard::marshal_child_elements(lmx::c_xml_writer& writer) cons
 bool Standard::unmarshal_attributes(lmx::c_xml_reader& reader, const std::string& name, lmx::elmx_error* error) { return lmx::unmarshal_attribute(k_class, this, reader, name, error); }
 lmx::elmx_error Standard::unmarshal_attributes_check(lmx::c_xml_reader& reader) { return lmx::check_required_attributes(k_class, this, reader); }
 bool Standard::unmarshal_body(lmx::c_xml_reader& reader, std::string* name, lmx::elmx_error* error) { return lmx::unmarshal_body(k_class, this, reader, name, error); }
-const lmx::s_document Standard::k_document = {"Vyr:Standard", "Standard", k_ns_map, &lmx::k_operations<Standard>};
+constinit const lmx::s_document Standard::k_document = {"Vyr:Standard", "Standard", k_ns_map, &lmx::k_operations<Standard>};
 const lmx::s_ns_map* Standard::ns_map() { return k_ns_map; }
 lmx::elmx_error Standard::unmarshal(lmx::c_xml_reader& reader) { return lmx::unmarshal_document(k_document, this, reader); }
 Standard::Standard(const char* file_name, lmx::elmx_error* error) : Standard() { *error = lmx::ELMX_UNDEFINED_ERROR; *error = unmarshal(file_name); }
@@ -568,35 +608,38 @@ void Standard::clear_Tolerance() { m_Tolerance.clear(); }
 // StandardAndMeasurementType
 
 namespace {
-constexpr lmx::s_event_map k_StandardAndMeasurementType_elements[] = {
-    lmx::element_event("CustomAttribute", element_CustomAttribute),
-    lmx::element_event("Measurement", element_Measurement),
-    lmx::element_event("Standard", element_Standard),
-    lmx::k_end_of_map,
+constexpr s_event_map k_StandardAndMeasurementType_elements[] = {
+    element_event("CustomAttribute", element_CustomAttribute),
+    element_event("Measurement", element_Measurement),
+    element_event("Standard", element_Standard),
+    k_end_of_map,
 };
 }  // namespace
 
-constinit const lmx::s_item StandardAndMeasurementType::k_items[] = {
-    {lmx::item_kind::child_list, lmx::value_kind::none, lmx::use_optional, lmx::ELMX_WS_PRESERVE, "Vyr:CustomAttribute", element_CustomAttribute, LMX_OFFSET(StandardAndMeasurementType, m_CustomAttribute, child_list, none), lmx::k_no_flag, lmx::position_of(k_StandardAndMeasurementType_elements, element_CustomAttribute), lmx::position_of(k_StandardAndMeasurementType_elements, element_CustomAttribute, 1), &CustomAttributeType::k_class, nullptr, {}},
-    {lmx::item_kind::child_list, lmx::value_kind::none, lmx::use_optional, lmx::ELMX_WS_PRESERVE, "Vyr:Measurement", element_Measurement, LMX_OFFSET(StandardAndMeasurementType, m_Measurement, child_list, none), lmx::k_no_flag, lmx::position_of(k_StandardAndMeasurementType_elements, element_Measurement), lmx::position_of(k_StandardAndMeasurementType_elements, element_Measurement, 1), &Measurement::k_class, nullptr, {}},
-    {lmx::item_kind::child, lmx::value_kind::none, lmx::use_required, lmx::ELMX_WS_PRESERVE, "Vyr:Standard", element_Standard, LMX_OFFSET(StandardAndMeasurementType, m_Standard, child, none), LMX_FLAG(StandardAndMeasurementType, m_isset_Standard), lmx::position_of(k_StandardAndMeasurementType_elements, element_Standard), lmx::position_of(k_StandardAndMeasurementType_elements, element_Standard, 1), &Standard::k_class, nullptr, {}},
+constinit const s_item StandardAndMeasurementType::k_items[] = {
+    {item_kind::child_list, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:CustomAttribute", element_CustomAttribute,
+     LMX_OFFSET(StandardAndMeasurementType, m_CustomAttribute, child_list, none), k_no_flag, position_of(k_StandardAndMeasurementType_elements, element_CustomAttribute), position_of(k_StandardAndMeasurementType_elements, element_CustomAttribute, 1), &CustomAttributeType::k_class, nullptr, {}},
+    {item_kind::child_list, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:Measurement", element_Measurement,
+     LMX_OFFSET(StandardAndMeasurementType, m_Measurement, child_list, none), k_no_flag, position_of(k_StandardAndMeasurementType_elements, element_Measurement), position_of(k_StandardAndMeasurementType_elements, element_Measurement, 1), &Measurement::k_class, nullptr, {}},
+    {item_kind::child, value_kind::none, use_required, ELMX_WS_PRESERVE, "Vyr:Standard", element_Standard,
+     LMX_OFFSET(StandardAndMeasurementType, m_Standard, child, none), LMX_FLAG(StandardAndMeasurementType, m_isset_Standard), position_of(k_StandardAndMeasurementType_elements, element_Standard), position_of(k_StandardAndMeasurementType_elements, element_Standard, 1), &Standard::k_class, nullptr, {}},
 };
-constinit const lmx::s_class StandardAndMeasurementType::k_class = {
+constinit const s_class StandardAndMeasurementType::k_class = {
     .name = "StandardAndMeasurementType",
     .qualified_name = "Vyr:StandardAndMeasurementType",
     .base = nullptr,
-    .content = lmx::content_kind::children,
+    .content = content_kind::children,
     .may_be_empty = false,
     .ns_map = k_ns_map,
-    .nil_flag = lmx::k_no_flag,
-    .choice = lmx::k_no_flag,
+    .nil_flag = k_no_flag,
+    .choice = k_no_flag,
     .id = nullptr,
     .xsi_type = nullptr,
-    .attributes = std::span(k_items).first(std::size(lmx::k_no_events) - 1),
-    .elements = std::span(k_items).subspan(std::size(lmx::k_no_events) - 1),
-    .attribute_map = lmx::k_no_events,
+    .attributes = std::span(k_items).first(std::size(k_no_events) - 1),
+    .elements = std::span(k_items).subspan(std::size(k_no_events) - 1),
+    .attribute_map = k_no_events,
     .element_map = k_StandardAndMeasurementType_elements,
-    .operations = &lmx::k_operations<StandardAndMeasurementType>,
+    .operations = &k_operations<StandardAndMeasurementType>,
 };
 
 StandardAndMeasurementType::StandardAndMeasurementType() = default;

@@ -20,40 +20,45 @@
 
 namespace com_vyrgraph_v2 {
 
-static_assert(lmx::k_binding_version == 1, "run schema/generator/generate.py");
+using namespace lmx;  // for the tables' sake
+
+static_assert(k_binding_version == 1, "run schema/generator/generate.py");
 
 // ColorName
 
 namespace {
-constexpr lmx::s_event_map k_ColorName_elements[] = {
-    lmx::element_event("PrefixName", element_PrefixName),
-    lmx::element_event("BaseName", element_BaseName),
-    lmx::element_event("SuffixName", element_SuffixName),
-    lmx::k_end_of_map,
+constexpr s_event_map k_ColorName_elements[] = {
+    element_event("PrefixName", element_PrefixName),
+    element_event("BaseName", element_BaseName),
+    element_event("SuffixName", element_SuffixName),
+    k_end_of_map,
 };
 }  // namespace
 
-constinit const lmx::s_item ColorName::k_items[] = {
-    {lmx::item_kind::element, lmx::value_kind::text, lmx::use_required, lmx::ELMX_WS_PRESERVE, "Vyr:PrefixName", element_PrefixName, LMX_OFFSET(ColorName, m_PrefixName, element, text), LMX_FLAG(ColorName, m_isset_PrefixName), lmx::position_of(k_ColorName_elements, element_PrefixName), lmx::position_of(k_ColorName_elements, element_PrefixName, 1), nullptr, nullptr, {}},
-    {lmx::item_kind::element, lmx::value_kind::text, lmx::use_required, lmx::ELMX_WS_PRESERVE, "Vyr:BaseName", element_BaseName, LMX_OFFSET(ColorName, m_BaseName, element, text), LMX_FLAG(ColorName, m_isset_BaseName), lmx::position_of(k_ColorName_elements, element_BaseName), lmx::position_of(k_ColorName_elements, element_BaseName, 1), nullptr, nullptr, {}},
-    {lmx::item_kind::element, lmx::value_kind::text, lmx::use_required, lmx::ELMX_WS_PRESERVE, "Vyr:SuffixName", element_SuffixName, LMX_OFFSET(ColorName, m_SuffixName, element, text), LMX_FLAG(ColorName, m_isset_SuffixName), lmx::position_of(k_ColorName_elements, element_SuffixName), lmx::position_of(k_ColorName_elements, element_SuffixName, 1), nullptr, nullptr, {}},
+constinit const s_item ColorName::k_items[] = {
+    {item_kind::element, value_kind::text, use_required, ELMX_WS_PRESERVE, "Vyr:PrefixName", element_PrefixName,
+     LMX_OFFSET(ColorName, m_PrefixName, element, text), LMX_FLAG(ColorName, m_isset_PrefixName), position_of(k_ColorName_elements, element_PrefixName), position_of(k_ColorName_elements, element_PrefixName, 1), nullptr, nullptr, {}},
+    {item_kind::element, value_kind::text, use_required, ELMX_WS_PRESERVE, "Vyr:BaseName", element_BaseName,
+     LMX_OFFSET(ColorName, m_BaseName, element, text), LMX_FLAG(ColorName, m_isset_BaseName), position_of(k_ColorName_elements, element_BaseName), position_of(k_ColorName_elements, element_BaseName, 1), nullptr, nullptr, {}},
+    {item_kind::element, value_kind::text, use_required, ELMX_WS_PRESERVE, "Vyr:SuffixName", element_SuffixName,
+     LMX_OFFSET(ColorName, m_SuffixName, element, text), LMX_FLAG(ColorName, m_isset_SuffixName), position_of(k_ColorName_elements, element_SuffixName), position_of(k_ColorName_elements, element_SuffixName, 1), nullptr, nullptr, {}},
 };
-constinit const lmx::s_class ColorName::k_class = {
+constinit const s_class ColorName::k_class = {
     .name = "ColorName",
     .qualified_name = "Vyr:ColorName",
     .base = nullptr,
-    .content = lmx::content_kind::children,
+    .content = content_kind::children,
     .may_be_empty = false,
     .ns_map = nullptr,
-    .nil_flag = lmx::k_no_flag,
-    .choice = lmx::k_no_flag,
+    .nil_flag = k_no_flag,
+    .choice = k_no_flag,
     .id = nullptr,
     .xsi_type = nullptr,
-    .attributes = std::span(k_items).first(std::size(lmx::k_no_events) - 1),
-    .elements = std::span(k_items).subspan(std::size(lmx::k_no_events) - 1),
-    .attribute_map = lmx::k_no_events,
+    .attributes = std::span(k_items).first(std::size(k_no_events) - 1),
+    .elements = std::span(k_items).subspan(std::size(k_no_events) - 1),
+    .attribute_map = k_no_events,
     .element_map = k_ColorName_elements,
-    .operations = &lmx::k_operations<ColorName>,
+    .operations = &k_operations<ColorName>,
 };
 
 ColorName::ColorName() = default;
@@ -77,31 +82,32 @@ lmx::elmx_error ColorName::set_SuffixName(const std::u16string& value) { return 
 // Recipe
 
 namespace {
-constexpr lmx::s_event_map k_Recipe_elements[] = {
-    lmx::element_event("ColorantElement", element_ColorantElement),
-    lmx::k_end_of_map,
+constexpr s_event_map k_Recipe_elements[] = {
+    element_event("ColorantElement", element_ColorantElement),
+    k_end_of_map,
 };
 }  // namespace
 
-constinit const lmx::s_item Recipe::k_items[] = {
-    {lmx::item_kind::child_list, lmx::value_kind::none, lmx::use_demanded | lmx::use_asked, lmx::ELMX_WS_PRESERVE, "Vyr:ColorantElement", element_ColorantElement, LMX_OFFSET(Recipe, m_ColorantElement, child_list, none), lmx::k_no_flag, lmx::position_of(k_Recipe_elements, element_ColorantElement), lmx::position_of(k_Recipe_elements, element_ColorantElement, 1), &ColorantElement::k_class, nullptr, {}},
+constinit const s_item Recipe::k_items[] = {
+    {item_kind::child_list, value_kind::none, use_demanded | use_asked, ELMX_WS_PRESERVE, "Vyr:ColorantElement", element_ColorantElement,
+     LMX_OFFSET(Recipe, m_ColorantElement, child_list, none), k_no_flag, position_of(k_Recipe_elements, element_ColorantElement), position_of(k_Recipe_elements, element_ColorantElement, 1), &ColorantElement::k_class, nullptr, {}},
 };
-constinit const lmx::s_class Recipe::k_class = {
+constinit const s_class Recipe::k_class = {
     .name = "Recipe",
     .qualified_name = "Vyr:Recipe",
     .base = nullptr,
-    .content = lmx::content_kind::children,
+    .content = content_kind::children,
     .may_be_empty = true,
     .ns_map = nullptr,
-    .nil_flag = lmx::k_no_flag,
-    .choice = lmx::k_no_flag,
+    .nil_flag = k_no_flag,
+    .choice = k_no_flag,
     .id = nullptr,
     .xsi_type = nullptr,
-    .attributes = std::span(k_items).first(std::size(lmx::k_no_events) - 1),
-    .elements = std::span(k_items).subspan(std::size(lmx::k_no_events) - 1),
-    .attribute_map = lmx::k_no_events,
+    .attributes = std::span(k_items).first(std::size(k_no_events) - 1),
+    .elements = std::span(k_items).subspan(std::size(k_no_events) - 1),
+    .attribute_map = k_no_events,
     .element_map = k_Recipe_elements,
-    .operations = &lmx::k_operations<Recipe>,
+    .operations = &k_operations<Recipe>,
 };
 
 Recipe::Recipe() = default;
@@ -128,46 +134,53 @@ void Recipe::clear_ColorantElement() { m_ColorantElement.clear(); }
 // ColorSpaceTINTORAType
 
 namespace {
-constexpr lmx::s_event_map k_ColorSpaceTINTORAType_attributes[] = {
-    lmx::attribute_event("Name", attribute_Name),
-    lmx::k_end_of_map,
+constexpr s_event_map k_ColorSpaceTINTORAType_attributes[] = {
+    attribute_event("Name", attribute_Name),
+    k_end_of_map,
 };
-constexpr lmx::s_event_map k_ColorSpaceTINTORAType_elements[] = {
-    lmx::element_event("FamilyName", element_FamilyName),
-    lmx::element_event("ColorName", element_ColorName),
-    lmx::element_event("Page", element_Page),
-    lmx::element_event("Gamut", element_Gamut),
-    lmx::element_event("Recipe", element_Recipe),
-    lmx::element_event("ColorAndFinish", element_ColorAndFinish),
-    lmx::k_end_of_map,
+constexpr s_event_map k_ColorSpaceTINTORAType_elements[] = {
+    element_event("FamilyName", element_FamilyName),
+    element_event("ColorName", element_ColorName),
+    element_event("Page", element_Page),
+    element_event("Gamut", element_Gamut),
+    element_event("Recipe", element_Recipe),
+    element_event("ColorAndFinish", element_ColorAndFinish),
+    k_end_of_map,
 };
 }  // namespace
 
-constinit const lmx::s_item ColorSpaceTINTORAType::k_items[] = {
-    {lmx::item_kind::attribute, lmx::value_kind::text, lmx::use_optional, lmx::ELMX_WS_PRESERVE, "Name", attribute_Name, LMX_OFFSET(ColorSpaceTINTORAType, m_Name, attribute, text), LMX_FLAG(ColorSpaceTINTORAType, m_isset_Name), 0, 0, nullptr, nullptr, {}},
-    {lmx::item_kind::element, lmx::value_kind::text, lmx::use_required, lmx::ELMX_WS_PRESERVE, "Vyr:FamilyName", element_FamilyName, LMX_OFFSET(ColorSpaceTINTORAType, m_FamilyName, element, text), LMX_FLAG(ColorSpaceTINTORAType, m_isset_FamilyName), lmx::position_of(k_ColorSpaceTINTORAType_elements, element_FamilyName), lmx::position_of(k_ColorSpaceTINTORAType_elements, element_FamilyName, 1), nullptr, nullptr, {}},
-    {lmx::item_kind::child, lmx::value_kind::none, lmx::use_required, lmx::ELMX_WS_PRESERVE, "Vyr:ColorName", element_ColorName, LMX_OFFSET(ColorSpaceTINTORAType, m_ColorName, child, none), LMX_FLAG(ColorSpaceTINTORAType, m_isset_ColorName), lmx::position_of(k_ColorSpaceTINTORAType_elements, element_ColorName), lmx::position_of(k_ColorSpaceTINTORAType_elements, element_ColorName, 1), &ColorName::k_class, nullptr, {}},
-    {lmx::item_kind::element, lmx::value_kind::text, lmx::use_required, lmx::ELMX_WS_PRESERVE, "Vyr:Page", element_Page, LMX_OFFSET(ColorSpaceTINTORAType, m_Page, element, text), LMX_FLAG(ColorSpaceTINTORAType, m_isset_Page), lmx::position_of(k_ColorSpaceTINTORAType_elements, element_Page), lmx::position_of(k_ColorSpaceTINTORAType_elements, element_Page, 1), nullptr, nullptr, {}},
-    {lmx::item_kind::element, lmx::value_kind::text, lmx::use_required, lmx::ELMX_WS_PRESERVE, "Vyr:Gamut", element_Gamut, LMX_OFFSET(ColorSpaceTINTORAType, m_Gamut, element, text), LMX_FLAG(ColorSpaceTINTORAType, m_isset_Gamut), lmx::position_of(k_ColorSpaceTINTORAType_elements, element_Gamut), lmx::position_of(k_ColorSpaceTINTORAType_elements, element_Gamut, 1), nullptr, &facets::GamutKind, {}},
-    {lmx::item_kind::child, lmx::value_kind::none, lmx::use_optional, lmx::ELMX_WS_PRESERVE, "Vyr:Recipe", element_Recipe, LMX_OFFSET(ColorSpaceTINTORAType, m_Recipe, child, none), LMX_FLAG(ColorSpaceTINTORAType, m_isset_Recipe), lmx::position_of(k_ColorSpaceTINTORAType_elements, element_Recipe), lmx::position_of(k_ColorSpaceTINTORAType_elements, element_Recipe, 1), &Recipe::k_class, nullptr, {}},
-    {lmx::item_kind::child_list, lmx::value_kind::none, lmx::use_optional, lmx::ELMX_WS_PRESERVE, "Vyr:ColorAndFinish", element_ColorAndFinish, LMX_OFFSET(ColorSpaceTINTORAType, m_ColorAndFinish, child_list, none), lmx::k_no_flag, lmx::position_of(k_ColorSpaceTINTORAType_elements, element_ColorAndFinish), lmx::position_of(k_ColorSpaceTINTORAType_elements, element_ColorAndFinish, 1), &ColorAndFinish::k_class, nullptr, {}},
+constinit const s_item ColorSpaceTINTORAType::k_items[] = {
+    {item_kind::attribute, value_kind::text, use_optional, ELMX_WS_PRESERVE, "Name", attribute_Name,
+     LMX_OFFSET(ColorSpaceTINTORAType, m_Name, attribute, text), LMX_FLAG(ColorSpaceTINTORAType, m_isset_Name), 0, 0, nullptr, nullptr, {}},
+    {item_kind::element, value_kind::text, use_required, ELMX_WS_PRESERVE, "Vyr:FamilyName", element_FamilyName,
+     LMX_OFFSET(ColorSpaceTINTORAType, m_FamilyName, element, text), LMX_FLAG(ColorSpaceTINTORAType, m_isset_FamilyName), position_of(k_ColorSpaceTINTORAType_elements, element_FamilyName), position_of(k_ColorSpaceTINTORAType_elements, element_FamilyName, 1), nullptr, nullptr, {}},
+    {item_kind::child, value_kind::none, use_required, ELMX_WS_PRESERVE, "Vyr:ColorName", element_ColorName,
+     LMX_OFFSET(ColorSpaceTINTORAType, m_ColorName, child, none), LMX_FLAG(ColorSpaceTINTORAType, m_isset_ColorName), position_of(k_ColorSpaceTINTORAType_elements, element_ColorName), position_of(k_ColorSpaceTINTORAType_elements, element_ColorName, 1), &ColorName::k_class, nullptr, {}},
+    {item_kind::element, value_kind::text, use_required, ELMX_WS_PRESERVE, "Vyr:Page", element_Page,
+     LMX_OFFSET(ColorSpaceTINTORAType, m_Page, element, text), LMX_FLAG(ColorSpaceTINTORAType, m_isset_Page), position_of(k_ColorSpaceTINTORAType_elements, element_Page), position_of(k_ColorSpaceTINTORAType_elements, element_Page, 1), nullptr, nullptr, {}},
+    {item_kind::element, value_kind::text, use_required, ELMX_WS_PRESERVE, "Vyr:Gamut", element_Gamut,
+     LMX_OFFSET(ColorSpaceTINTORAType, m_Gamut, element, text), LMX_FLAG(ColorSpaceTINTORAType, m_isset_Gamut), position_of(k_ColorSpaceTINTORAType_elements, element_Gamut), position_of(k_ColorSpaceTINTORAType_elements, element_Gamut, 1), nullptr, &facets::GamutKind, {}},
+    {item_kind::child, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:Recipe", element_Recipe,
+     LMX_OFFSET(ColorSpaceTINTORAType, m_Recipe, child, none), LMX_FLAG(ColorSpaceTINTORAType, m_isset_Recipe), position_of(k_ColorSpaceTINTORAType_elements, element_Recipe), position_of(k_ColorSpaceTINTORAType_elements, element_Recipe, 1), &Recipe::k_class, nullptr, {}},
+    {item_kind::child_list, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:ColorAndFinish", element_ColorAndFinish,
+     LMX_OFFSET(ColorSpaceTINTORAType, m_ColorAndFinish, child_list, none), k_no_flag, position_of(k_ColorSpaceTINTORAType_elements, element_ColorAndFinish), position_of(k_ColorSpaceTINTORAType_elements, element_ColorAndFinish, 1), &ColorAndFinish::k_class, nullptr, {}},
 };
-constinit const lmx::s_class ColorSpaceTINTORAType::k_class = {
+constinit const s_class ColorSpaceTINTORAType::k_class = {
     .name = "ColorSpaceTINTORAType",
     .qualified_name = "Vyr:ColorSpaceTINTORAType",
     .base = &ColorSpaceType::k_class,
-    .content = lmx::content_kind::children,
+    .content = content_kind::children,
     .may_be_empty = false,
     .ns_map = k_ns_map,
-    .nil_flag = lmx::k_no_flag,
-    .choice = lmx::k_no_flag,
+    .nil_flag = k_no_flag,
+    .choice = k_no_flag,
     .id = &ColorSpaceTINTORAType::id,
     .xsi_type = "Vyr:ColorSpaceTINTORAType",
     .attributes = std::span(k_items).first(std::size(k_ColorSpaceTINTORAType_attributes) - 1),
     .elements = std::span(k_items).subspan(std::size(k_ColorSpaceTINTORAType_attributes) - 1),
     .attribute_map = k_ColorSpaceTINTORAType_attributes,
     .element_map = k_ColorSpaceTINTORAType_elements,
-    .operations = &lmx::k_operations<ColorSpaceTINTORAType>,
+    .operations = &k_operations<ColorSpaceTINTORAType>,
 };
 
 ColorSpaceTINTORAType::ColorSpaceTINTORAType() = default;
@@ -207,39 +220,44 @@ void ColorSpaceTINTORAType::clear_ColorAndFinish() { m_ColorAndFinish.clear(); }
 // Colorant
 
 namespace {
-constexpr lmx::s_event_map k_Colorant_elements[] = {
-    lmx::element_event("CustomAttributes", element_CustomAttributes),
-    lmx::element_event("Name", element_Name),
-    lmx::element_event("Manufacturer", element_Manufacturer),
-    lmx::element_event("PartNumber", element_PartNumber),
-    lmx::element_event("Density", element_Density),
-    lmx::k_end_of_map,
+constexpr s_event_map k_Colorant_elements[] = {
+    element_event("CustomAttributes", element_CustomAttributes),
+    element_event("Name", element_Name),
+    element_event("Manufacturer", element_Manufacturer),
+    element_event("PartNumber", element_PartNumber),
+    element_event("Density", element_Density),
+    k_end_of_map,
 };
 }  // namespace
 
-constinit const lmx::s_item Colorant::k_items[] = {
-    {lmx::item_kind::child_list, lmx::value_kind::none, lmx::use_optional, lmx::ELMX_WS_PRESERVE, "Vyr:CustomAttributes", element_CustomAttributes, LMX_OFFSET(Colorant, m_CustomAttributes, child_list, none), lmx::k_no_flag, lmx::position_of(k_Colorant_elements, element_CustomAttributes), lmx::position_of(k_Colorant_elements, element_CustomAttributes, 1), &CustomAttributes::k_class, nullptr, {}},
-    {lmx::item_kind::element, lmx::value_kind::text, lmx::use_required, lmx::ELMX_WS_PRESERVE, "Vyr:Name", element_Name, LMX_OFFSET(Colorant, m_Name, element, text), LMX_FLAG(Colorant, m_isset_Name), lmx::position_of(k_Colorant_elements, element_Name), lmx::position_of(k_Colorant_elements, element_Name, 1), nullptr, &facets::NonEmptyString, {}},
-    {lmx::item_kind::element, lmx::value_kind::text, lmx::use_optional, lmx::ELMX_WS_PRESERVE, "Vyr:Manufacturer", element_Manufacturer, LMX_OFFSET(Colorant, m_Manufacturer, element, text), LMX_FLAG(Colorant, m_isset_Manufacturer), lmx::position_of(k_Colorant_elements, element_Manufacturer), lmx::position_of(k_Colorant_elements, element_Manufacturer, 1), nullptr, &facets::NonEmptyString, {}},
-    {lmx::item_kind::element, lmx::value_kind::text, lmx::use_optional, lmx::ELMX_WS_PRESERVE, "Vyr:PartNumber", element_PartNumber, LMX_OFFSET(Colorant, m_PartNumber, element, text), LMX_FLAG(Colorant, m_isset_PartNumber), lmx::position_of(k_Colorant_elements, element_PartNumber), lmx::position_of(k_Colorant_elements, element_PartNumber, 1), nullptr, &facets::NonEmptyString, {}},
-    {lmx::item_kind::element, lmx::value_kind::number, lmx::use_optional, lmx::ELMX_WS_COLLAPSE, "Vyr:Density", element_Density, LMX_OFFSET(Colorant, m_Density, element, number), LMX_FLAG(Colorant, m_isset_Density), lmx::position_of(k_Colorant_elements, element_Density), lmx::position_of(k_Colorant_elements, element_Density, 1), nullptr, &facets::Positive, {}},
+constinit const s_item Colorant::k_items[] = {
+    {item_kind::child_list, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:CustomAttributes", element_CustomAttributes,
+     LMX_OFFSET(Colorant, m_CustomAttributes, child_list, none), k_no_flag, position_of(k_Colorant_elements, element_CustomAttributes), position_of(k_Colorant_elements, element_CustomAttributes, 1), &CustomAttributes::k_class, nullptr, {}},
+    {item_kind::element, value_kind::text, use_required, ELMX_WS_PRESERVE, "Vyr:Name", element_Name,
+     LMX_OFFSET(Colorant, m_Name, element, text), LMX_FLAG(Colorant, m_isset_Name), position_of(k_Colorant_elements, element_Name), position_of(k_Colorant_elements, element_Name, 1), nullptr, &facets::NonEmptyString, {}},
+    {item_kind::element, value_kind::text, use_optional, ELMX_WS_PRESERVE, "Vyr:Manufacturer", element_Manufacturer,
+     LMX_OFFSET(Colorant, m_Manufacturer, element, text), LMX_FLAG(Colorant, m_isset_Manufacturer), position_of(k_Colorant_elements, element_Manufacturer), position_of(k_Colorant_elements, element_Manufacturer, 1), nullptr, &facets::NonEmptyString, {}},
+    {item_kind::element, value_kind::text, use_optional, ELMX_WS_PRESERVE, "Vyr:PartNumber", element_PartNumber,
+     LMX_OFFSET(Colorant, m_PartNumber, element, text), LMX_FLAG(Colorant, m_isset_PartNumber), position_of(k_Colorant_elements, element_PartNumber), position_of(k_Colorant_elements, element_PartNumber, 1), nullptr, &facets::NonEmptyString, {}},
+    {item_kind::element, value_kind::number, use_optional, ELMX_WS_COLLAPSE, "Vyr:Density", element_Density,
+     LMX_OFFSET(Colorant, m_Density, element, number), LMX_FLAG(Colorant, m_isset_Density), position_of(k_Colorant_elements, element_Density), position_of(k_Colorant_elements, element_Density, 1), nullptr, &facets::Positive, {}},
 };
-constinit const lmx::s_class Colorant::k_class = {
+constinit const s_class Colorant::k_class = {
     .name = "Colorant",
     .qualified_name = "Vyr:Colorant",
     .base = nullptr,
-    .content = lmx::content_kind::children,
+    .content = content_kind::children,
     .may_be_empty = false,
     .ns_map = nullptr,
-    .nil_flag = lmx::k_no_flag,
-    .choice = lmx::k_no_flag,
+    .nil_flag = k_no_flag,
+    .choice = k_no_flag,
     .id = nullptr,
     .xsi_type = nullptr,
-    .attributes = std::span(k_items).first(std::size(lmx::k_no_events) - 1),
-    .elements = std::span(k_items).subspan(std::size(lmx::k_no_events) - 1),
-    .attribute_map = lmx::k_no_events,
+    .attributes = std::span(k_items).first(std::size(k_no_events) - 1),
+    .elements = std::span(k_items).subspan(std::size(k_no_events) - 1),
+    .attribute_map = k_no_events,
     .element_map = k_Colorant_elements,
-    .operations = &lmx::k_operations<Colorant>,
+    .operations = &k_operations<Colorant>,
 };
 
 Colorant::Colorant() = default;
@@ -270,33 +288,35 @@ lmx::elmx_error Colorant::set_Density(double value) { return lmx::set_item(k_cla
 // ColorantElement
 
 namespace {
-constexpr lmx::s_event_map k_ColorantElement_elements[] = {
-    lmx::element_event("Colorant", element_Colorant),
-    lmx::element_event("Contribution", element_Contribution),
-    lmx::k_end_of_map,
+constexpr s_event_map k_ColorantElement_elements[] = {
+    element_event("Colorant", element_Colorant),
+    element_event("Contribution", element_Contribution),
+    k_end_of_map,
 };
 }  // namespace
 
-constinit const lmx::s_item ColorantElement::k_items[] = {
-    {lmx::item_kind::child, lmx::value_kind::none, lmx::use_required, lmx::ELMX_WS_PRESERVE, "Vyr:Colorant", element_Colorant, LMX_OFFSET(ColorantElement, m_Colorant, child, none), LMX_FLAG(ColorantElement, m_isset_Colorant), lmx::position_of(k_ColorantElement_elements, element_Colorant), lmx::position_of(k_ColorantElement_elements, element_Colorant, 1), &Colorant::k_class, nullptr, {}},
-    {lmx::item_kind::element, lmx::value_kind::number, lmx::use_required, lmx::ELMX_WS_COLLAPSE, "Vyr:Contribution", element_Contribution, LMX_OFFSET(ColorantElement, m_Contribution, element, number), LMX_FLAG(ColorantElement, m_isset_Contribution), lmx::position_of(k_ColorantElement_elements, element_Contribution), lmx::position_of(k_ColorantElement_elements, element_Contribution, 1), nullptr, &facets::NonNegative, {}},
+constinit const s_item ColorantElement::k_items[] = {
+    {item_kind::child, value_kind::none, use_required, ELMX_WS_PRESERVE, "Vyr:Colorant", element_Colorant,
+     LMX_OFFSET(ColorantElement, m_Colorant, child, none), LMX_FLAG(ColorantElement, m_isset_Colorant), position_of(k_ColorantElement_elements, element_Colorant), position_of(k_ColorantElement_elements, element_Colorant, 1), &Colorant::k_class, nullptr, {}},
+    {item_kind::element, value_kind::number, use_required, ELMX_WS_COLLAPSE, "Vyr:Contribution", element_Contribution,
+     LMX_OFFSET(ColorantElement, m_Contribution, element, number), LMX_FLAG(ColorantElement, m_isset_Contribution), position_of(k_ColorantElement_elements, element_Contribution), position_of(k_ColorantElement_elements, element_Contribution, 1), nullptr, &facets::NonNegative, {}},
 };
-constinit const lmx::s_class ColorantElement::k_class = {
+constinit const s_class ColorantElement::k_class = {
     .name = "ColorantElement",
     .qualified_name = "Vyr:ColorantElement",
     .base = nullptr,
-    .content = lmx::content_kind::children,
+    .content = content_kind::children,
     .may_be_empty = false,
     .ns_map = nullptr,
-    .nil_flag = lmx::k_no_flag,
-    .choice = lmx::k_no_flag,
+    .nil_flag = k_no_flag,
+    .choice = k_no_flag,
     .id = nullptr,
     .xsi_type = nullptr,
-    .attributes = std::span(k_items).first(std::size(lmx::k_no_events) - 1),
-    .elements = std::span(k_items).subspan(std::size(lmx::k_no_events) - 1),
-    .attribute_map = lmx::k_no_events,
+    .attributes = std::span(k_items).first(std::size(k_no_events) - 1),
+    .elements = std::span(k_items).subspan(std::size(k_no_events) - 1),
+    .attribute_map = k_no_events,
     .element_map = k_ColorantElement_elements,
-    .operations = &lmx::k_operations<ColorantElement>,
+    .operations = &k_operations<ColorantElement>,
 };
 
 ColorantElement::ColorantElement() = default;
@@ -319,31 +339,32 @@ lmx::elmx_error ColorantElement::set_Contribution(double value) { return lmx::se
 // CustomAttributes
 
 namespace {
-constexpr lmx::s_event_map k_CustomAttributes_elements[] = {
-    lmx::element_event("CustomAttribute", element_CustomAttribute),
-    lmx::k_end_of_map,
+constexpr s_event_map k_CustomAttributes_elements[] = {
+    element_event("CustomAttribute", element_CustomAttribute),
+    k_end_of_map,
 };
 }  // namespace
 
-constinit const lmx::s_item CustomAttributes::k_items[] = {
-    {lmx::item_kind::child, lmx::value_kind::none, lmx::use_required, lmx::ELMX_WS_PRESERVE, "Vyr:CustomAttribute", element_CustomAttribute, LMX_OFFSET(CustomAttributes, m_CustomAttribute, child, none), LMX_FLAG(CustomAttributes, m_isset_CustomAttribute), lmx::position_of(k_CustomAttributes_elements, element_CustomAttribute), lmx::position_of(k_CustomAttributes_elements, element_CustomAttribute, 1), &CustomAttributeType::k_class, nullptr, {}},
+constinit const s_item CustomAttributes::k_items[] = {
+    {item_kind::child, value_kind::none, use_required, ELMX_WS_PRESERVE, "Vyr:CustomAttribute", element_CustomAttribute,
+     LMX_OFFSET(CustomAttributes, m_CustomAttribute, child, none), LMX_FLAG(CustomAttributes, m_isset_CustomAttribute), position_of(k_CustomAttributes_elements, element_CustomAttribute), position_of(k_CustomAttributes_elements, element_CustomAttribute, 1), &CustomAttributeType::k_class, nullptr, {}},
 };
-constinit const lmx::s_class CustomAttributes::k_class = {
+constinit const s_class CustomAttributes::k_class = {
     .name = "CustomAttributes",
     .qualified_name = "Vyr:CustomAttributes",
     .base = nullptr,
-    .content = lmx::content_kind::children,
+    .content = content_kind::children,
     .may_be_empty = true,
     .ns_map = nullptr,
-    .nil_flag = lmx::k_no_flag,
-    .choice = lmx::k_no_flag,
+    .nil_flag = k_no_flag,
+    .choice = k_no_flag,
     .id = nullptr,
     .xsi_type = nullptr,
-    .attributes = std::span(k_items).first(std::size(lmx::k_no_events) - 1),
-    .elements = std::span(k_items).subspan(std::size(lmx::k_no_events) - 1),
-    .attribute_map = lmx::k_no_events,
+    .attributes = std::span(k_items).first(std::size(k_no_events) - 1),
+    .elements = std::span(k_items).subspan(std::size(k_no_events) - 1),
+    .attribute_map = k_no_events,
     .element_map = k_CustomAttributes_elements,
-    .operations = &lmx::k_operations<CustomAttributes>,
+    .operations = &k_operations<CustomAttributes>,
 };
 
 CustomAttributes::CustomAttributes() = default;
@@ -365,33 +386,35 @@ CustomAttributeType& CustomAttributes::assign_CustomAttribute(const CustomAttrib
 // ColorAndFinish
 
 namespace {
-constexpr lmx::s_event_map k_ColorAndFinish_elements[] = {
-    lmx::element_event("Finish", element_Finish),
-    lmx::element_event("ColorSpaceSpectral", element_ColorSpaceSpectral),
-    lmx::k_end_of_map,
+constexpr s_event_map k_ColorAndFinish_elements[] = {
+    element_event("Finish", element_Finish),
+    element_event("ColorSpaceSpectral", element_ColorSpaceSpectral),
+    k_end_of_map,
 };
 }  // namespace
 
-constinit const lmx::s_item ColorAndFinish::k_items[] = {
-    {lmx::item_kind::element, lmx::value_kind::text, lmx::use_required, lmx::ELMX_WS_PRESERVE, "Vyr:Finish", element_Finish, LMX_OFFSET(ColorAndFinish, m_Finish, element, text), LMX_FLAG(ColorAndFinish, m_isset_Finish), lmx::position_of(k_ColorAndFinish_elements, element_Finish), lmx::position_of(k_ColorAndFinish_elements, element_Finish, 1), nullptr, &facets::FinishKind, {}},
-    {lmx::item_kind::child, lmx::value_kind::none, lmx::use_required, lmx::ELMX_WS_PRESERVE, "Vyr:ColorSpaceSpectral", element_ColorSpaceSpectral, LMX_OFFSET(ColorAndFinish, m_ColorSpaceSpectral, child, none), LMX_FLAG(ColorAndFinish, m_isset_ColorSpaceSpectral), lmx::position_of(k_ColorAndFinish_elements, element_ColorSpaceSpectral), lmx::position_of(k_ColorAndFinish_elements, element_ColorSpaceSpectral, 1), &ColorSpaceSpectralType::k_class, nullptr, {}},
+constinit const s_item ColorAndFinish::k_items[] = {
+    {item_kind::element, value_kind::text, use_required, ELMX_WS_PRESERVE, "Vyr:Finish", element_Finish,
+     LMX_OFFSET(ColorAndFinish, m_Finish, element, text), LMX_FLAG(ColorAndFinish, m_isset_Finish), position_of(k_ColorAndFinish_elements, element_Finish), position_of(k_ColorAndFinish_elements, element_Finish, 1), nullptr, &facets::FinishKind, {}},
+    {item_kind::child, value_kind::none, use_required, ELMX_WS_PRESERVE, "Vyr:ColorSpaceSpectral", element_ColorSpaceSpectral,
+     LMX_OFFSET(ColorAndFinish, m_ColorSpaceSpectral, child, none), LMX_FLAG(ColorAndFinish, m_isset_ColorSpaceSpectral), position_of(k_ColorAndFinish_elements, element_ColorSpaceSpectral), position_of(k_ColorAndFinish_elements, element_ColorSpaceSpectral, 1), &ColorSpaceSpectralType::k_class, nullptr, {}},
 };
-constinit const lmx::s_class ColorAndFinish::k_class = {
+constinit const s_class ColorAndFinish::k_class = {
     .name = "ColorAndFinish",
     .qualified_name = "Vyr:ColorAndFinish",
     .base = nullptr,
-    .content = lmx::content_kind::children,
+    .content = content_kind::children,
     .may_be_empty = true,
     .ns_map = nullptr,
-    .nil_flag = lmx::k_no_flag,
-    .choice = lmx::k_no_flag,
+    .nil_flag = k_no_flag,
+    .choice = k_no_flag,
     .id = nullptr,
     .xsi_type = nullptr,
-    .attributes = std::span(k_items).first(std::size(lmx::k_no_events) - 1),
-    .elements = std::span(k_items).subspan(std::size(lmx::k_no_events) - 1),
-    .attribute_map = lmx::k_no_events,
+    .attributes = std::span(k_items).first(std::size(k_no_events) - 1),
+    .elements = std::span(k_items).subspan(std::size(k_no_events) - 1),
+    .attribute_map = k_no_events,
     .element_map = k_ColorAndFinish_elements,
-    .operations = &lmx::k_operations<ColorAndFinish>,
+    .operations = &k_operations<ColorAndFinish>,
 };
 
 ColorAndFinish::ColorAndFinish() = default;
@@ -416,38 +439,41 @@ ColorSpaceSpectralType& ColorAndFinish::assign_ColorSpaceSpectral(const ColorSpa
 // ColorSpaceNCSType
 
 namespace {
-constexpr lmx::s_event_map k_ColorSpaceNCSType_attributes[] = {
-    lmx::attribute_event("Name", attribute_Name),
-    lmx::k_end_of_map,
+constexpr s_event_map k_ColorSpaceNCSType_attributes[] = {
+    attribute_event("Name", attribute_Name),
+    k_end_of_map,
 };
-constexpr lmx::s_event_map k_ColorSpaceNCSType_elements[] = {
-    lmx::element_event("ColorSpaceSpecificationSpectrumGeneric", element_ColorSpaceSpecificationSpectrumGeneric),
-    lmx::element_event("ColorName", element_ColorName),
-    lmx::k_end_of_map,
+constexpr s_event_map k_ColorSpaceNCSType_elements[] = {
+    element_event("ColorSpaceSpecificationSpectrumGeneric", element_ColorSpaceSpecificationSpectrumGeneric),
+    element_event("ColorName", element_ColorName),
+    k_end_of_map,
 };
 }  // namespace
 
-constinit const lmx::s_item ColorSpaceNCSType::k_items[] = {
-    {lmx::item_kind::attribute, lmx::value_kind::text, lmx::use_optional, lmx::ELMX_WS_PRESERVE, "Name", attribute_Name, LMX_OFFSET(ColorSpaceNCSType, m_Name, attribute, text), LMX_FLAG(ColorSpaceNCSType, m_isset_Name), 0, 0, nullptr, nullptr, {}},
-    {lmx::item_kind::child, lmx::value_kind::none, lmx::use_required, lmx::ELMX_WS_PRESERVE, "Vyr:ColorSpaceSpecificationSpectrumGeneric", element_ColorSpaceSpecificationSpectrumGeneric, LMX_OFFSET(ColorSpaceNCSType, m_ColorSpaceSpecificationSpectrumGeneric, child, none), LMX_FLAG(ColorSpaceNCSType, m_isset_ColorSpaceSpecificationSpectrumGeneric), lmx::position_of(k_ColorSpaceNCSType_elements, element_ColorSpaceSpecificationSpectrumGeneric), lmx::position_of(k_ColorSpaceNCSType_elements, element_ColorSpaceSpecificationSpectrumGeneric, 1), &ColorSpaceSpecificationSpectrumGeneric::k_class, nullptr, {}},
-    {lmx::item_kind::element, lmx::value_kind::text, lmx::use_required, lmx::ELMX_WS_PRESERVE, "Vyr:ColorName", element_ColorName, LMX_OFFSET(ColorSpaceNCSType, m_ColorName, element, text), LMX_FLAG(ColorSpaceNCSType, m_isset_ColorName), lmx::position_of(k_ColorSpaceNCSType_elements, element_ColorName), lmx::position_of(k_ColorSpaceNCSType_elements, element_ColorName, 1), nullptr, nullptr, {}},
+constinit const s_item ColorSpaceNCSType::k_items[] = {
+    {item_kind::attribute, value_kind::text, use_optional, ELMX_WS_PRESERVE, "Name", attribute_Name,
+     LMX_OFFSET(ColorSpaceNCSType, m_Name, attribute, text), LMX_FLAG(ColorSpaceNCSType, m_isset_Name), 0, 0, nullptr, nullptr, {}},
+    {item_kind::child, value_kind::none, use_required, ELMX_WS_PRESERVE, "Vyr:ColorSpaceSpecificationSpectrumGeneric", element_ColorSpaceSpecificationSpectrumGeneric,
+     LMX_OFFSET(ColorSpaceNCSType, m_ColorSpaceSpecificationSpectrumGeneric, child, none), LMX_FLAG(ColorSpaceNCSType, m_isset_ColorSpaceSpecificationSpectrumGeneric), position_of(k_ColorSpaceNCSType_elements, element_ColorSpaceSpecificationSpectrumGeneric), position_of(k_ColorSpaceNCSType_elements, element_ColorSpaceSpecificationSpectrumGeneric, 1), &ColorSpaceSpecificationSpectrumGeneric::k_class, nullptr, {}},
+    {item_kind::element, value_kind::text, use_required, ELMX_WS_PRESERVE, "Vyr:ColorName", element_ColorName,
+     LMX_OFFSET(ColorSpaceNCSType, m_ColorName, element, text), LMX_FLAG(ColorSpaceNCSType, m_isset_ColorName), position_of(k_ColorSpaceNCSType_elements, element_ColorName), position_of(k_ColorSpaceNCSType_elements, element_ColorName, 1), nullptr, nullptr, {}},
 };
-constinit const lmx::s_class ColorSpaceNCSType::k_class = {
+constinit const s_class ColorSpaceNCSType::k_class = {
     .name = "ColorSpaceNCSType",
     .qualified_name = "Vyr:ColorSpaceNCSType",
     .base = &ColorSpaceType::k_class,
-    .content = lmx::content_kind::children,
+    .content = content_kind::children,
     .may_be_empty = false,
     .ns_map = k_ns_map,
-    .nil_flag = lmx::k_no_flag,
-    .choice = lmx::k_no_flag,
+    .nil_flag = k_no_flag,
+    .choice = k_no_flag,
     .id = &ColorSpaceNCSType::id,
     .xsi_type = "Vyr:ColorSpaceNCSType",
     .attributes = std::span(k_items).first(std::size(k_ColorSpaceNCSType_attributes) - 1),
     .elements = std::span(k_items).subspan(std::size(k_ColorSpaceNCSType_attributes) - 1),
     .attribute_map = k_ColorSpaceNCSType_attributes,
     .element_map = k_ColorSpaceNCSType_elements,
-    .operations = &lmx::k_operations<ColorSpaceNCSType>,
+    .operations = &k_operations<ColorSpaceNCSType>,
 };
 
 ColorSpaceNCSType::ColorSpaceNCSType() = default;
@@ -476,40 +502,44 @@ lmx::elmx_error ColorSpaceNCSType::set_ColorName(const std::u16string& value) { 
 // ColorSpaceMunsellType
 
 namespace {
-constexpr lmx::s_event_map k_ColorSpaceMunsellType_attributes[] = {
-    lmx::attribute_event("Name", attribute_Name),
-    lmx::k_end_of_map,
+constexpr s_event_map k_ColorSpaceMunsellType_attributes[] = {
+    attribute_event("Name", attribute_Name),
+    k_end_of_map,
 };
-constexpr lmx::s_event_map k_ColorSpaceMunsellType_elements[] = {
-    lmx::element_event("ColorSpaceSpecificationSpectrumGeneric", element_ColorSpaceSpecificationSpectrumGeneric),
-    lmx::element_event("CollectionName", element_CollectionName),
-    lmx::element_event("ColorName", element_ColorName),
-    lmx::k_end_of_map,
+constexpr s_event_map k_ColorSpaceMunsellType_elements[] = {
+    element_event("ColorSpaceSpecificationSpectrumGeneric", element_ColorSpaceSpecificationSpectrumGeneric),
+    element_event("CollectionName", element_CollectionName),
+    element_event("ColorName", element_ColorName),
+    k_end_of_map,
 };
 }  // namespace
 
-constinit const lmx::s_item ColorSpaceMunsellType::k_items[] = {
-    {lmx::item_kind::attribute, lmx::value_kind::text, lmx::use_optional, lmx::ELMX_WS_PRESERVE, "Name", attribute_Name, LMX_OFFSET(ColorSpaceMunsellType, m_Name, attribute, text), LMX_FLAG(ColorSpaceMunsellType, m_isset_Name), 0, 0, nullptr, nullptr, {}},
-    {lmx::item_kind::child, lmx::value_kind::none, lmx::use_required, lmx::ELMX_WS_PRESERVE, "Vyr:ColorSpaceSpecificationSpectrumGeneric", element_ColorSpaceSpecificationSpectrumGeneric, LMX_OFFSET(ColorSpaceMunsellType, m_ColorSpaceSpecificationSpectrumGeneric, child, none), LMX_FLAG(ColorSpaceMunsellType, m_isset_ColorSpaceSpecificationSpectrumGeneric), lmx::position_of(k_ColorSpaceMunsellType_elements, element_ColorSpaceSpecificationSpectrumGeneric), lmx::position_of(k_ColorSpaceMunsellType_elements, element_ColorSpaceSpecificationSpectrumGeneric, 1), &ColorSpaceSpecificationSpectrumGeneric::k_class, nullptr, {}},
-    {lmx::item_kind::element, lmx::value_kind::text, lmx::use_required, lmx::ELMX_WS_PRESERVE, "Vyr:CollectionName", element_CollectionName, LMX_OFFSET(ColorSpaceMunsellType, m_CollectionName, element, text), LMX_FLAG(ColorSpaceMunsellType, m_isset_CollectionName), lmx::position_of(k_ColorSpaceMunsellType_elements, element_CollectionName), lmx::position_of(k_ColorSpaceMunsellType_elements, element_CollectionName, 1), nullptr, &facets::NonEmptyString, {}},
-    {lmx::item_kind::element, lmx::value_kind::text, lmx::use_required, lmx::ELMX_WS_PRESERVE, "Vyr:ColorName", element_ColorName, LMX_OFFSET(ColorSpaceMunsellType, m_ColorName, element, text), LMX_FLAG(ColorSpaceMunsellType, m_isset_ColorName), lmx::position_of(k_ColorSpaceMunsellType_elements, element_ColorName), lmx::position_of(k_ColorSpaceMunsellType_elements, element_ColorName, 1), nullptr, &facets::NonEmptyString, {}},
+constinit const s_item ColorSpaceMunsellType::k_items[] = {
+    {item_kind::attribute, value_kind::text, use_optional, ELMX_WS_PRESERVE, "Name", attribute_Name,
+     LMX_OFFSET(ColorSpaceMunsellType, m_Name, attribute, text), LMX_FLAG(ColorSpaceMunsellType, m_isset_Name), 0, 0, nullptr, nullptr, {}},
+    {item_kind::child, value_kind::none, use_required, ELMX_WS_PRESERVE, "Vyr:ColorSpaceSpecificationSpectrumGeneric", element_ColorSpaceSpecificationSpectrumGeneric,
+     LMX_OFFSET(ColorSpaceMunsellType, m_ColorSpaceSpecificationSpectrumGeneric, child, none), LMX_FLAG(ColorSpaceMunsellType, m_isset_ColorSpaceSpecificationSpectrumGeneric), position_of(k_ColorSpaceMunsellType_elements, element_ColorSpaceSpecificationSpectrumGeneric), position_of(k_ColorSpaceMunsellType_elements, element_ColorSpaceSpecificationSpectrumGeneric, 1), &ColorSpaceSpecificationSpectrumGeneric::k_class, nullptr, {}},
+    {item_kind::element, value_kind::text, use_required, ELMX_WS_PRESERVE, "Vyr:CollectionName", element_CollectionName,
+     LMX_OFFSET(ColorSpaceMunsellType, m_CollectionName, element, text), LMX_FLAG(ColorSpaceMunsellType, m_isset_CollectionName), position_of(k_ColorSpaceMunsellType_elements, element_CollectionName), position_of(k_ColorSpaceMunsellType_elements, element_CollectionName, 1), nullptr, &facets::NonEmptyString, {}},
+    {item_kind::element, value_kind::text, use_required, ELMX_WS_PRESERVE, "Vyr:ColorName", element_ColorName,
+     LMX_OFFSET(ColorSpaceMunsellType, m_ColorName, element, text), LMX_FLAG(ColorSpaceMunsellType, m_isset_ColorName), position_of(k_ColorSpaceMunsellType_elements, element_ColorName), position_of(k_ColorSpaceMunsellType_elements, element_ColorName, 1), nullptr, &facets::NonEmptyString, {}},
 };
-constinit const lmx::s_class ColorSpaceMunsellType::k_class = {
+constinit const s_class ColorSpaceMunsellType::k_class = {
     .name = "ColorSpaceMunsellType",
     .qualified_name = "Vyr:ColorSpaceMunsellType",
     .base = &ColorSpaceType::k_class,
-    .content = lmx::content_kind::children,
+    .content = content_kind::children,
     .may_be_empty = false,
     .ns_map = k_ns_map,
-    .nil_flag = lmx::k_no_flag,
-    .choice = lmx::k_no_flag,
+    .nil_flag = k_no_flag,
+    .choice = k_no_flag,
     .id = &ColorSpaceMunsellType::id,
     .xsi_type = "Vyr:ColorSpaceMunsellType",
     .attributes = std::span(k_items).first(std::size(k_ColorSpaceMunsellType_attributes) - 1),
     .elements = std::span(k_items).subspan(std::size(k_ColorSpaceMunsellType_attributes) - 1),
     .attribute_map = k_ColorSpaceMunsellType_attributes,
     .element_map = k_ColorSpaceMunsellType_elements,
-    .operations = &lmx::k_operations<ColorSpaceMunsellType>,
+    .operations = &k_operations<ColorSpaceMunsellType>,
 };
 
 ColorSpaceMunsellType::ColorSpaceMunsellType() = default;
@@ -539,39 +569,44 @@ lmx::elmx_error ColorSpaceMunsellType::set_ColorName(const std::u16string& value
 // Base
 
 namespace {
-constexpr lmx::s_event_map k_Base_elements[] = {
-    lmx::element_event("CustomAttribute", element_CustomAttribute),
-    lmx::element_event("Name", element_Name),
-    lmx::element_event("Manufacturer", element_Manufacturer),
-    lmx::element_event("PartNumber", element_PartNumber),
-    lmx::element_event("Density", element_Density),
-    lmx::k_end_of_map,
+constexpr s_event_map k_Base_elements[] = {
+    element_event("CustomAttribute", element_CustomAttribute),
+    element_event("Name", element_Name),
+    element_event("Manufacturer", element_Manufacturer),
+    element_event("PartNumber", element_PartNumber),
+    element_event("Density", element_Density),
+    k_end_of_map,
 };
 }  // namespace
 
-constinit const lmx::s_item Base::k_items[] = {
-    {lmx::item_kind::child_list, lmx::value_kind::none, lmx::use_optional, lmx::ELMX_WS_PRESERVE, "Vyr:CustomAttribute", element_CustomAttribute, LMX_OFFSET(Base, m_CustomAttribute, child_list, none), lmx::k_no_flag, lmx::position_of(k_Base_elements, element_CustomAttribute), lmx::position_of(k_Base_elements, element_CustomAttribute, 1), &CustomAttributeType::k_class, nullptr, {}},
-    {lmx::item_kind::element, lmx::value_kind::text, lmx::use_required, lmx::ELMX_WS_PRESERVE, "Vyr:Name", element_Name, LMX_OFFSET(Base, m_Name, element, text), LMX_FLAG(Base, m_isset_Name), lmx::position_of(k_Base_elements, element_Name), lmx::position_of(k_Base_elements, element_Name, 1), nullptr, &facets::NonEmptyString, {}},
-    {lmx::item_kind::element, lmx::value_kind::text, lmx::use_required, lmx::ELMX_WS_PRESERVE, "Vyr:Manufacturer", element_Manufacturer, LMX_OFFSET(Base, m_Manufacturer, element, text), LMX_FLAG(Base, m_isset_Manufacturer), lmx::position_of(k_Base_elements, element_Manufacturer), lmx::position_of(k_Base_elements, element_Manufacturer, 1), nullptr, &facets::NonEmptyString, {}},
-    {lmx::item_kind::element, lmx::value_kind::text, lmx::use_required, lmx::ELMX_WS_PRESERVE, "Vyr:PartNumber", element_PartNumber, LMX_OFFSET(Base, m_PartNumber, element, text), LMX_FLAG(Base, m_isset_PartNumber), lmx::position_of(k_Base_elements, element_PartNumber), lmx::position_of(k_Base_elements, element_PartNumber, 1), nullptr, &facets::NonEmptyString, {}},
-    {lmx::item_kind::element, lmx::value_kind::number, lmx::use_optional, lmx::ELMX_WS_COLLAPSE, "Vyr:Density", element_Density, LMX_OFFSET(Base, m_Density, element, number), LMX_FLAG(Base, m_isset_Density), lmx::position_of(k_Base_elements, element_Density), lmx::position_of(k_Base_elements, element_Density, 1), nullptr, &facets::Positive, {}},
+constinit const s_item Base::k_items[] = {
+    {item_kind::child_list, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:CustomAttribute", element_CustomAttribute,
+     LMX_OFFSET(Base, m_CustomAttribute, child_list, none), k_no_flag, position_of(k_Base_elements, element_CustomAttribute), position_of(k_Base_elements, element_CustomAttribute, 1), &CustomAttributeType::k_class, nullptr, {}},
+    {item_kind::element, value_kind::text, use_required, ELMX_WS_PRESERVE, "Vyr:Name", element_Name,
+     LMX_OFFSET(Base, m_Name, element, text), LMX_FLAG(Base, m_isset_Name), position_of(k_Base_elements, element_Name), position_of(k_Base_elements, element_Name, 1), nullptr, &facets::NonEmptyString, {}},
+    {item_kind::element, value_kind::text, use_required, ELMX_WS_PRESERVE, "Vyr:Manufacturer", element_Manufacturer,
+     LMX_OFFSET(Base, m_Manufacturer, element, text), LMX_FLAG(Base, m_isset_Manufacturer), position_of(k_Base_elements, element_Manufacturer), position_of(k_Base_elements, element_Manufacturer, 1), nullptr, &facets::NonEmptyString, {}},
+    {item_kind::element, value_kind::text, use_required, ELMX_WS_PRESERVE, "Vyr:PartNumber", element_PartNumber,
+     LMX_OFFSET(Base, m_PartNumber, element, text), LMX_FLAG(Base, m_isset_PartNumber), position_of(k_Base_elements, element_PartNumber), position_of(k_Base_elements, element_PartNumber, 1), nullptr, &facets::NonEmptyString, {}},
+    {item_kind::element, value_kind::number, use_optional, ELMX_WS_COLLAPSE, "Vyr:Density", element_Density,
+     LMX_OFFSET(Base, m_Density, element, number), LMX_FLAG(Base, m_isset_Density), position_of(k_Base_elements, element_Density), position_of(k_Base_elements, element_Density, 1), nullptr, &facets::Positive, {}},
 };
-constinit const lmx::s_class Base::k_class = {
+constinit const s_class Base::k_class = {
     .name = "Base",
     .qualified_name = "Vyr:Base",
     .base = nullptr,
-    .content = lmx::content_kind::children,
+    .content = content_kind::children,
     .may_be_empty = false,
     .ns_map = nullptr,
-    .nil_flag = lmx::k_no_flag,
-    .choice = lmx::k_no_flag,
+    .nil_flag = k_no_flag,
+    .choice = k_no_flag,
     .id = nullptr,
     .xsi_type = nullptr,
-    .attributes = std::span(k_items).first(std::size(lmx::k_no_events) - 1),
-    .elements = std::span(k_items).subspan(std::size(lmx::k_no_events) - 1),
-    .attribute_map = lmx::k_no_events,
+    .attributes = std::span(k_items).first(std::size(k_no_events) - 1),
+    .elements = std::span(k_items).subspan(std::size(k_no_events) - 1),
+    .attribute_map = k_no_events,
     .element_map = k_Base_elements,
-    .operations = &lmx::k_operations<Base>,
+    .operations = &k_operations<Base>,
 };
 
 Base::Base() = default;
@@ -602,33 +637,35 @@ lmx::elmx_error Base::set_Density(double value) { return lmx::set_item(k_class, 
 // BaseElementType
 
 namespace {
-constexpr lmx::s_event_map k_BaseElementType_elements[] = {
-    lmx::element_event("Base", element_Base),
-    lmx::element_event("Contribution", element_Contribution),
-    lmx::k_end_of_map,
+constexpr s_event_map k_BaseElementType_elements[] = {
+    element_event("Base", element_Base),
+    element_event("Contribution", element_Contribution),
+    k_end_of_map,
 };
 }  // namespace
 
-constinit const lmx::s_item BaseElementType::k_items[] = {
-    {lmx::item_kind::child, lmx::value_kind::none, lmx::use_required, lmx::ELMX_WS_PRESERVE, "Vyr:Base", element_Base, LMX_OFFSET(BaseElementType, m_Base, child, none), LMX_FLAG(BaseElementType, m_isset_Base), lmx::position_of(k_BaseElementType_elements, element_Base), lmx::position_of(k_BaseElementType_elements, element_Base, 1), &Base::k_class, nullptr, {}},
-    {lmx::item_kind::element, lmx::value_kind::number, lmx::use_required, lmx::ELMX_WS_COLLAPSE, "Vyr:Contribution", element_Contribution, LMX_OFFSET(BaseElementType, m_Contribution, element, number), LMX_FLAG(BaseElementType, m_isset_Contribution), lmx::position_of(k_BaseElementType_elements, element_Contribution), lmx::position_of(k_BaseElementType_elements, element_Contribution, 1), nullptr, &facets::NonNegative, {}},
+constinit const s_item BaseElementType::k_items[] = {
+    {item_kind::child, value_kind::none, use_required, ELMX_WS_PRESERVE, "Vyr:Base", element_Base,
+     LMX_OFFSET(BaseElementType, m_Base, child, none), LMX_FLAG(BaseElementType, m_isset_Base), position_of(k_BaseElementType_elements, element_Base), position_of(k_BaseElementType_elements, element_Base, 1), &Base::k_class, nullptr, {}},
+    {item_kind::element, value_kind::number, use_required, ELMX_WS_COLLAPSE, "Vyr:Contribution", element_Contribution,
+     LMX_OFFSET(BaseElementType, m_Contribution, element, number), LMX_FLAG(BaseElementType, m_isset_Contribution), position_of(k_BaseElementType_elements, element_Contribution), position_of(k_BaseElementType_elements, element_Contribution, 1), nullptr, &facets::NonNegative, {}},
 };
-constinit const lmx::s_class BaseElementType::k_class = {
+constinit const s_class BaseElementType::k_class = {
     .name = "BaseElementType",
     .qualified_name = "Vyr:BaseElementType",
     .base = nullptr,
-    .content = lmx::content_kind::children,
+    .content = content_kind::children,
     .may_be_empty = false,
     .ns_map = k_ns_map,
-    .nil_flag = lmx::k_no_flag,
-    .choice = lmx::k_no_flag,
+    .nil_flag = k_no_flag,
+    .choice = k_no_flag,
     .id = nullptr,
     .xsi_type = nullptr,
-    .attributes = std::span(k_items).first(std::size(lmx::k_no_events) - 1),
-    .elements = std::span(k_items).subspan(std::size(lmx::k_no_events) - 1),
-    .attribute_map = lmx::k_no_events,
+    .attributes = std::span(k_items).first(std::size(k_no_events) - 1),
+    .elements = std::span(k_items).subspan(std::size(k_no_events) - 1),
+    .attribute_map = k_no_events,
     .element_map = k_BaseElementType_elements,
-    .operations = &lmx::k_operations<BaseElementType>,
+    .operations = &k_operations<BaseElementType>,
 };
 
 BaseElementType::BaseElementType() = default;
@@ -651,40 +688,44 @@ lmx::elmx_error BaseElementType::set_Contribution(double value) { return lmx::se
 // ColorSpaceRecipeType
 
 namespace {
-constexpr lmx::s_event_map k_ColorSpaceRecipeType_attributes[] = {
-    lmx::attribute_event("Name", attribute_Name),
-    lmx::k_end_of_map,
+constexpr s_event_map k_ColorSpaceRecipeType_attributes[] = {
+    attribute_event("Name", attribute_Name),
+    k_end_of_map,
 };
-constexpr lmx::s_event_map k_ColorSpaceRecipeType_elements[] = {
-    lmx::element_event("ColorSpaceSpecificationSpectrumGeneric", element_ColorSpaceSpecificationSpectrumGeneric),
-    lmx::element_event("ColorantElement", element_ColorantElement),
-    lmx::element_event("BaseElement", element_BaseElement),
-    lmx::k_end_of_map,
+constexpr s_event_map k_ColorSpaceRecipeType_elements[] = {
+    element_event("ColorSpaceSpecificationSpectrumGeneric", element_ColorSpaceSpecificationSpectrumGeneric),
+    element_event("ColorantElement", element_ColorantElement),
+    element_event("BaseElement", element_BaseElement),
+    k_end_of_map,
 };
 }  // namespace
 
-constinit const lmx::s_item ColorSpaceRecipeType::k_items[] = {
-    {lmx::item_kind::attribute, lmx::value_kind::text, lmx::use_optional, lmx::ELMX_WS_PRESERVE, "Name", attribute_Name, LMX_OFFSET(ColorSpaceRecipeType, m_Name, attribute, text), LMX_FLAG(ColorSpaceRecipeType, m_isset_Name), 0, 0, nullptr, nullptr, {}},
-    {lmx::item_kind::child, lmx::value_kind::none, lmx::use_required, lmx::ELMX_WS_PRESERVE, "Vyr:ColorSpaceSpecificationSpectrumGeneric", element_ColorSpaceSpecificationSpectrumGeneric, LMX_OFFSET(ColorSpaceRecipeType, m_ColorSpaceSpecificationSpectrumGeneric, child, none), LMX_FLAG(ColorSpaceRecipeType, m_isset_ColorSpaceSpecificationSpectrumGeneric), lmx::position_of(k_ColorSpaceRecipeType_elements, element_ColorSpaceSpecificationSpectrumGeneric), lmx::position_of(k_ColorSpaceRecipeType_elements, element_ColorSpaceSpecificationSpectrumGeneric, 1), &ColorSpaceSpecificationSpectrumGeneric::k_class, nullptr, {}},
-    {lmx::item_kind::child_list, lmx::value_kind::none, lmx::use_demanded | lmx::use_asked, lmx::ELMX_WS_PRESERVE, "Vyr:ColorantElement", element_ColorantElement, LMX_OFFSET(ColorSpaceRecipeType, m_ColorantElement, child_list, none), lmx::k_no_flag, lmx::position_of(k_ColorSpaceRecipeType_elements, element_ColorantElement), lmx::position_of(k_ColorSpaceRecipeType_elements, element_ColorantElement, 1), &ColorantElementType::k_class, nullptr, {}},
-    {lmx::item_kind::child, lmx::value_kind::none, lmx::use_optional, lmx::ELMX_WS_PRESERVE, "Vyr:BaseElement", element_BaseElement, LMX_OFFSET(ColorSpaceRecipeType, m_BaseElement, child, none), LMX_FLAG(ColorSpaceRecipeType, m_isset_BaseElement), lmx::position_of(k_ColorSpaceRecipeType_elements, element_BaseElement), lmx::position_of(k_ColorSpaceRecipeType_elements, element_BaseElement, 1), &BaseElementType::k_class, nullptr, {}},
+constinit const s_item ColorSpaceRecipeType::k_items[] = {
+    {item_kind::attribute, value_kind::text, use_optional, ELMX_WS_PRESERVE, "Name", attribute_Name,
+     LMX_OFFSET(ColorSpaceRecipeType, m_Name, attribute, text), LMX_FLAG(ColorSpaceRecipeType, m_isset_Name), 0, 0, nullptr, nullptr, {}},
+    {item_kind::child, value_kind::none, use_required, ELMX_WS_PRESERVE, "Vyr:ColorSpaceSpecificationSpectrumGeneric", element_ColorSpaceSpecificationSpectrumGeneric,
+     LMX_OFFSET(ColorSpaceRecipeType, m_ColorSpaceSpecificationSpectrumGeneric, child, none), LMX_FLAG(ColorSpaceRecipeType, m_isset_ColorSpaceSpecificationSpectrumGeneric), position_of(k_ColorSpaceRecipeType_elements, element_ColorSpaceSpecificationSpectrumGeneric), position_of(k_ColorSpaceRecipeType_elements, element_ColorSpaceSpecificationSpectrumGeneric, 1), &ColorSpaceSpecificationSpectrumGeneric::k_class, nullptr, {}},
+    {item_kind::child_list, value_kind::none, use_demanded | use_asked, ELMX_WS_PRESERVE, "Vyr:ColorantElement", element_ColorantElement,
+     LMX_OFFSET(ColorSpaceRecipeType, m_ColorantElement, child_list, none), k_no_flag, position_of(k_ColorSpaceRecipeType_elements, element_ColorantElement), position_of(k_ColorSpaceRecipeType_elements, element_ColorantElement, 1), &ColorantElementType::k_class, nullptr, {}},
+    {item_kind::child, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:BaseElement", element_BaseElement,
+     LMX_OFFSET(ColorSpaceRecipeType, m_BaseElement, child, none), LMX_FLAG(ColorSpaceRecipeType, m_isset_BaseElement), position_of(k_ColorSpaceRecipeType_elements, element_BaseElement), position_of(k_ColorSpaceRecipeType_elements, element_BaseElement, 1), &BaseElementType::k_class, nullptr, {}},
 };
-constinit const lmx::s_class ColorSpaceRecipeType::k_class = {
+constinit const s_class ColorSpaceRecipeType::k_class = {
     .name = "ColorSpaceRecipeType",
     .qualified_name = "Vyr:ColorSpaceRecipeType",
     .base = &ColorSpaceType::k_class,
-    .content = lmx::content_kind::children,
+    .content = content_kind::children,
     .may_be_empty = false,
     .ns_map = k_ns_map,
-    .nil_flag = lmx::k_no_flag,
-    .choice = lmx::k_no_flag,
+    .nil_flag = k_no_flag,
+    .choice = k_no_flag,
     .id = &ColorSpaceRecipeType::id,
     .xsi_type = "Vyr:ColorSpaceRecipeType",
     .attributes = std::span(k_items).first(std::size(k_ColorSpaceRecipeType_attributes) - 1),
     .elements = std::span(k_items).subspan(std::size(k_ColorSpaceRecipeType_attributes) - 1),
     .attribute_map = k_ColorSpaceRecipeType_attributes,
     .element_map = k_ColorSpaceRecipeType_elements,
-    .operations = &lmx::k_operations<ColorSpaceRecipeType>,
+    .operations = &k_operations<ColorSpaceRecipeType>,
 };
 
 ColorSpaceRecipeType::ColorSpaceRecipeType() = default;
@@ -723,7 +764,7 @@ lmx::elmx_error ColorSpaceRecipe::marshal(lmx::c_xml_writer& writer, const char*
     return ColorSpaceRecipeType::marshal(writer, name);
 }
 lmx::elmx_error ColorSpaceRecipe::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return ColorSpaceRecipeType::unmarshal(reader, name); }
-const lmx::s_document ColorSpaceRecipe::k_document = {"Vyr:ColorSpaceRecipe", "ColorSpaceRecipe", k_ns_map, &lmx::k_operations<ColorSpaceRecipe>};
+constinit const lmx::s_document ColorSpaceRecipe::k_document = {"Vyr:ColorSpaceRecipe", "ColorSpaceRecipe", k_ns_map, &lmx::k_operations<ColorSpaceRecipe>};
 const lmx::s_ns_map* ColorSpaceRecipe::ns_map() { return k_ns_map; }
 lmx::elmx_error ColorSpaceRecipe::unmarshal(lmx::c_xml_reader& reader) { return lmx::unmarshal_document(k_document, this, reader); }
 ColorSpaceRecipe::ColorSpaceRecipe(const char* file_name, lmx::elmx_error* error) : ColorSpaceRecipe() { *error = unmarshal(file_name); }
@@ -743,7 +784,7 @@ lmx::elmx_error ColorSpaceTINTORA::marshal(lmx::c_xml_writer& writer, const char
     return ColorSpaceTINTORAType::marshal(writer, name);
 }
 lmx::elmx_error ColorSpaceTINTORA::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return ColorSpaceTINTORAType::unmarshal(reader, name); }
-const lmx::s_document ColorSpaceTINTORA::k_document = {"Vyr:ColorSpaceTINTORA", "ColorSpaceTINTORA", k_ns_map, &lmx::k_operations<ColorSpaceTINTORA>};
+constinit const lmx::s_document ColorSpaceTINTORA::k_document = {"Vyr:ColorSpaceTINTORA", "ColorSpaceTINTORA", k_ns_map, &lmx::k_operations<ColorSpaceTINTORA>};
 const lmx::s_ns_map* ColorSpaceTINTORA::ns_map() { return k_ns_map; }
 lmx::elmx_error ColorSpaceTINTORA::unmarshal(lmx::c_xml_reader& reader) { return lmx::unmarshal_document(k_document, this, reader); }
 ColorSpaceTINTORA::ColorSpaceTINTORA(const char* file_name, lmx::elmx_error* error) : ColorSpaceTINTORA() { *error = unmarshal(file_name); }
@@ -763,7 +804,7 @@ lmx::elmx_error ColorSpaceNCS::marshal(lmx::c_xml_writer& writer, const char* na
     return ColorSpaceNCSType::marshal(writer, name);
 }
 lmx::elmx_error ColorSpaceNCS::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return ColorSpaceNCSType::unmarshal(reader, name); }
-const lmx::s_document ColorSpaceNCS::k_document = {"Vyr:ColorSpaceNCS", "ColorSpaceNCS", k_ns_map, &lmx::k_operations<ColorSpaceNCS>};
+constinit const lmx::s_document ColorSpaceNCS::k_document = {"Vyr:ColorSpaceNCS", "ColorSpaceNCS", k_ns_map, &lmx::k_operations<ColorSpaceNCS>};
 const lmx::s_ns_map* ColorSpaceNCS::ns_map() { return k_ns_map; }
 lmx::elmx_error ColorSpaceNCS::unmarshal(lmx::c_xml_reader& reader) { return lmx::unmarshal_document(k_document, this, reader); }
 ColorSpaceNCS::ColorSpaceNCS(const char* file_name, lmx::elmx_error* error) : ColorSpaceNCS() { *error = unmarshal(file_name); }
@@ -783,7 +824,7 @@ lmx::elmx_error ColorSpaceMunsell::marshal(lmx::c_xml_writer& writer, const char
     return ColorSpaceMunsellType::marshal(writer, name);
 }
 lmx::elmx_error ColorSpaceMunsell::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return ColorSpaceMunsellType::unmarshal(reader, name); }
-const lmx::s_document ColorSpaceMunsell::k_document = {"Vyr:ColorSpaceMunsell", "ColorSpaceMunsell", k_ns_map, &lmx::k_operations<ColorSpaceMunsell>};
+constinit const lmx::s_document ColorSpaceMunsell::k_document = {"Vyr:ColorSpaceMunsell", "ColorSpaceMunsell", k_ns_map, &lmx::k_operations<ColorSpaceMunsell>};
 const lmx::s_ns_map* ColorSpaceMunsell::ns_map() { return k_ns_map; }
 lmx::elmx_error ColorSpaceMunsell::unmarshal(lmx::c_xml_reader& reader) { return lmx::unmarshal_document(k_document, this, reader); }
 ColorSpaceMunsell::ColorSpaceMunsell(const char* file_name, lmx::elmx_error* error) : ColorSpaceMunsell() { *error = unmarshal(file_name); }
@@ -798,25 +839,26 @@ lmx::elmx_error ColorSpaceMunsell::marshal(std::ostream& stream) const { return 
 
 // Density
 
-constinit const lmx::s_item Density::k_items[] = {
-    {lmx::item_kind::content, lmx::value_kind::number, lmx::use_required, lmx::ELMX_WS_COLLAPSE, "", 0, LMX_OFFSET(Density, m_Density, content, number), LMX_FLAG(Density, m_isset_Density), 0, 0, nullptr, &facets::Positive, {}},
+constinit const s_item Density::k_items[] = {
+    {item_kind::content, value_kind::number, use_required, ELMX_WS_COLLAPSE, "", 0,
+     LMX_OFFSET(Density, m_Density, content, number), LMX_FLAG(Density, m_isset_Density), 0, 0, nullptr, &facets::Positive, {}},
 };
-constinit const lmx::s_class Density::k_class = {
+constinit const s_class Density::k_class = {
     .name = "Density",
     .qualified_name = "Vyr:Density",
     .base = nullptr,
-    .content = lmx::content_kind::simple,
+    .content = content_kind::simple,
     .may_be_empty = false,
     .ns_map = nullptr,
     .nil_flag = LMX_FLAG(Density, m_isnil),
-    .choice = lmx::k_no_flag,
+    .choice = k_no_flag,
     .id = nullptr,
     .xsi_type = nullptr,
-    .attributes = std::span(k_items).first(std::size(lmx::k_no_events) - 1),
-    .elements = std::span(k_items).subspan(std::size(lmx::k_no_events) - 1),
-    .attribute_map = lmx::k_no_events,
-    .element_map = lmx::k_no_events,
-    .operations = &lmx::k_operations<Density>,
+    .attributes = std::span(k_items).first(std::size(k_no_events) - 1),
+    .elements = std::span(k_items).subspan(std::size(k_no_events) - 1),
+    .attribute_map = k_no_events,
+    .element_map = k_no_events,
+    .operations = &k_operations<Density>,
 };
 
 Density::Density() = default;
@@ -838,39 +880,44 @@ lmx::elmx_error Density::set_Density(double value) { return lmx::set_item(k_clas
 // ColorantElementType_Colorant
 
 namespace {
-constexpr lmx::s_event_map k_ColorantElementType_Colorant_elements[] = {
-    lmx::element_event("CustomAttribute", element_CustomAttribute),
-    lmx::element_event("Name", element_Name),
-    lmx::element_event("Manufacturer", element_Manufacturer),
-    lmx::element_event("PartNumber", element_PartNumber),
-    lmx::element_event("Density", element_Density),
-    lmx::k_end_of_map,
+constexpr s_event_map k_ColorantElementType_Colorant_elements[] = {
+    element_event("CustomAttribute", element_CustomAttribute),
+    element_event("Name", element_Name),
+    element_event("Manufacturer", element_Manufacturer),
+    element_event("PartNumber", element_PartNumber),
+    element_event("Density", element_Density),
+    k_end_of_map,
 };
 }  // namespace
 
-constinit const lmx::s_item ColorantElementType_Colorant::k_items[] = {
-    {lmx::item_kind::child_list, lmx::value_kind::none, lmx::use_optional, lmx::ELMX_WS_PRESERVE, "Vyr:CustomAttribute", element_CustomAttribute, LMX_OFFSET(ColorantElementType_Colorant, m_CustomAttribute, child_list, none), lmx::k_no_flag, lmx::position_of(k_ColorantElementType_Colorant_elements, element_CustomAttribute), lmx::position_of(k_ColorantElementType_Colorant_elements, element_CustomAttribute, 1), &CustomAttributeType::k_class, nullptr, {}},
-    {lmx::item_kind::element, lmx::value_kind::text, lmx::use_required, lmx::ELMX_WS_PRESERVE, "Vyr:Name", element_Name, LMX_OFFSET(ColorantElementType_Colorant, m_Name, element, text), LMX_FLAG(ColorantElementType_Colorant, m_isset_Name), lmx::position_of(k_ColorantElementType_Colorant_elements, element_Name), lmx::position_of(k_ColorantElementType_Colorant_elements, element_Name, 1), nullptr, &facets::NonEmptyString, {}},
-    {lmx::item_kind::element, lmx::value_kind::text, lmx::use_required, lmx::ELMX_WS_PRESERVE, "Vyr:Manufacturer", element_Manufacturer, LMX_OFFSET(ColorantElementType_Colorant, m_Manufacturer, element, text), LMX_FLAG(ColorantElementType_Colorant, m_isset_Manufacturer), lmx::position_of(k_ColorantElementType_Colorant_elements, element_Manufacturer), lmx::position_of(k_ColorantElementType_Colorant_elements, element_Manufacturer, 1), nullptr, &facets::NonEmptyString, {}},
-    {lmx::item_kind::element, lmx::value_kind::text, lmx::use_required, lmx::ELMX_WS_PRESERVE, "Vyr:PartNumber", element_PartNumber, LMX_OFFSET(ColorantElementType_Colorant, m_PartNumber, element, text), LMX_FLAG(ColorantElementType_Colorant, m_isset_PartNumber), lmx::position_of(k_ColorantElementType_Colorant_elements, element_PartNumber), lmx::position_of(k_ColorantElementType_Colorant_elements, element_PartNumber, 1), nullptr, &facets::NonEmptyString, {}},
-    {lmx::item_kind::child, lmx::value_kind::none, lmx::use_required, lmx::ELMX_WS_PRESERVE, "Vyr:Density", element_Density, LMX_OFFSET(ColorantElementType_Colorant, m_Density, child, none), LMX_FLAG(ColorantElementType_Colorant, m_isset_Density), lmx::position_of(k_ColorantElementType_Colorant_elements, element_Density), lmx::position_of(k_ColorantElementType_Colorant_elements, element_Density, 1), &Density::k_class, nullptr, {}},
+constinit const s_item ColorantElementType_Colorant::k_items[] = {
+    {item_kind::child_list, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:CustomAttribute", element_CustomAttribute,
+     LMX_OFFSET(ColorantElementType_Colorant, m_CustomAttribute, child_list, none), k_no_flag, position_of(k_ColorantElementType_Colorant_elements, element_CustomAttribute), position_of(k_ColorantElementType_Colorant_elements, element_CustomAttribute, 1), &CustomAttributeType::k_class, nullptr, {}},
+    {item_kind::element, value_kind::text, use_required, ELMX_WS_PRESERVE, "Vyr:Name", element_Name,
+     LMX_OFFSET(ColorantElementType_Colorant, m_Name, element, text), LMX_FLAG(ColorantElementType_Colorant, m_isset_Name), position_of(k_ColorantElementType_Colorant_elements, element_Name), position_of(k_ColorantElementType_Colorant_elements, element_Name, 1), nullptr, &facets::NonEmptyString, {}},
+    {item_kind::element, value_kind::text, use_required, ELMX_WS_PRESERVE, "Vyr:Manufacturer", element_Manufacturer,
+     LMX_OFFSET(ColorantElementType_Colorant, m_Manufacturer, element, text), LMX_FLAG(ColorantElementType_Colorant, m_isset_Manufacturer), position_of(k_ColorantElementType_Colorant_elements, element_Manufacturer), position_of(k_ColorantElementType_Colorant_elements, element_Manufacturer, 1), nullptr, &facets::NonEmptyString, {}},
+    {item_kind::element, value_kind::text, use_required, ELMX_WS_PRESERVE, "Vyr:PartNumber", element_PartNumber,
+     LMX_OFFSET(ColorantElementType_Colorant, m_PartNumber, element, text), LMX_FLAG(ColorantElementType_Colorant, m_isset_PartNumber), position_of(k_ColorantElementType_Colorant_elements, element_PartNumber), position_of(k_ColorantElementType_Colorant_elements, element_PartNumber, 1), nullptr, &facets::NonEmptyString, {}},
+    {item_kind::child, value_kind::none, use_required, ELMX_WS_PRESERVE, "Vyr:Density", element_Density,
+     LMX_OFFSET(ColorantElementType_Colorant, m_Density, child, none), LMX_FLAG(ColorantElementType_Colorant, m_isset_Density), position_of(k_ColorantElementType_Colorant_elements, element_Density), position_of(k_ColorantElementType_Colorant_elements, element_Density, 1), &Density::k_class, nullptr, {}},
 };
-constinit const lmx::s_class ColorantElementType_Colorant::k_class = {
+constinit const s_class ColorantElementType_Colorant::k_class = {
     .name = "ColorantElementType_Colorant",
     .qualified_name = "Vyr:Colorant",
     .base = nullptr,
-    .content = lmx::content_kind::children,
+    .content = content_kind::children,
     .may_be_empty = false,
     .ns_map = nullptr,
-    .nil_flag = lmx::k_no_flag,
-    .choice = lmx::k_no_flag,
+    .nil_flag = k_no_flag,
+    .choice = k_no_flag,
     .id = nullptr,
     .xsi_type = nullptr,
-    .attributes = std::span(k_items).first(std::size(lmx::k_no_events) - 1),
-    .elements = std::span(k_items).subspan(std::size(lmx::k_no_events) - 1),
-    .attribute_map = lmx::k_no_events,
+    .attributes = std::span(k_items).first(std::size(k_no_events) - 1),
+    .elements = std::span(k_items).subspan(std::size(k_no_events) - 1),
+    .attribute_map = k_no_events,
     .element_map = k_ColorantElementType_Colorant_elements,
-    .operations = &lmx::k_operations<ColorantElementType_Colorant>,
+    .operations = &k_operations<ColorantElementType_Colorant>,
 };
 
 ColorantElementType_Colorant::ColorantElementType_Colorant() = default;
@@ -901,33 +948,35 @@ Density& ColorantElementType_Colorant::assign_Density(const Density& value) { re
 // ColorantElementType
 
 namespace {
-constexpr lmx::s_event_map k_ColorantElementType_elements[] = {
-    lmx::element_event("Colorant", element_Colorant),
-    lmx::element_event("Contribution", element_Contribution),
-    lmx::k_end_of_map,
+constexpr s_event_map k_ColorantElementType_elements[] = {
+    element_event("Colorant", element_Colorant),
+    element_event("Contribution", element_Contribution),
+    k_end_of_map,
 };
 }  // namespace
 
-constinit const lmx::s_item ColorantElementType::k_items[] = {
-    {lmx::item_kind::child, lmx::value_kind::none, lmx::use_required, lmx::ELMX_WS_PRESERVE, "Vyr:Colorant", element_Colorant, LMX_OFFSET(ColorantElementType, m_Colorant, child, none), LMX_FLAG(ColorantElementType, m_isset_Colorant), lmx::position_of(k_ColorantElementType_elements, element_Colorant), lmx::position_of(k_ColorantElementType_elements, element_Colorant, 1), &ColorantElementType_Colorant::k_class, nullptr, {}},
-    {lmx::item_kind::element, lmx::value_kind::number, lmx::use_required, lmx::ELMX_WS_COLLAPSE, "Vyr:Contribution", element_Contribution, LMX_OFFSET(ColorantElementType, m_Contribution, element, number), LMX_FLAG(ColorantElementType, m_isset_Contribution), lmx::position_of(k_ColorantElementType_elements, element_Contribution), lmx::position_of(k_ColorantElementType_elements, element_Contribution, 1), nullptr, &facets::Fraction, {}},
+constinit const s_item ColorantElementType::k_items[] = {
+    {item_kind::child, value_kind::none, use_required, ELMX_WS_PRESERVE, "Vyr:Colorant", element_Colorant,
+     LMX_OFFSET(ColorantElementType, m_Colorant, child, none), LMX_FLAG(ColorantElementType, m_isset_Colorant), position_of(k_ColorantElementType_elements, element_Colorant), position_of(k_ColorantElementType_elements, element_Colorant, 1), &ColorantElementType_Colorant::k_class, nullptr, {}},
+    {item_kind::element, value_kind::number, use_required, ELMX_WS_COLLAPSE, "Vyr:Contribution", element_Contribution,
+     LMX_OFFSET(ColorantElementType, m_Contribution, element, number), LMX_FLAG(ColorantElementType, m_isset_Contribution), position_of(k_ColorantElementType_elements, element_Contribution), position_of(k_ColorantElementType_elements, element_Contribution, 1), nullptr, &facets::Fraction, {}},
 };
-constinit const lmx::s_class ColorantElementType::k_class = {
+constinit const s_class ColorantElementType::k_class = {
     .name = "ColorantElementType",
     .qualified_name = "Vyr:ColorantElementType",
     .base = nullptr,
-    .content = lmx::content_kind::children,
+    .content = content_kind::children,
     .may_be_empty = false,
     .ns_map = k_ns_map,
-    .nil_flag = lmx::k_no_flag,
-    .choice = lmx::k_no_flag,
+    .nil_flag = k_no_flag,
+    .choice = k_no_flag,
     .id = nullptr,
     .xsi_type = nullptr,
-    .attributes = std::span(k_items).first(std::size(lmx::k_no_events) - 1),
-    .elements = std::span(k_items).subspan(std::size(lmx::k_no_events) - 1),
-    .attribute_map = lmx::k_no_events,
+    .attributes = std::span(k_items).first(std::size(k_no_events) - 1),
+    .elements = std::span(k_items).subspan(std::size(k_no_events) - 1),
+    .attribute_map = k_no_events,
     .element_map = k_ColorantElementType_elements,
-    .operations = &lmx::k_operations<ColorantElementType>,
+    .operations = &k_operations<ColorantElementType>,
 };
 
 ColorantElementType::ColorantElementType() = default;

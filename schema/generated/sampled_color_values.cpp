@@ -18,43 +18,48 @@
 
 namespace com_vyrgraph_v2 {
 
-static_assert(lmx::k_binding_version == 1, "run schema/generator/generate.py");
+using namespace lmx;  // for the tables' sake
+
+static_assert(k_binding_version == 1, "run schema/generator/generate.py");
 
 // ColorSpaceDensityType
 
 namespace {
-constexpr lmx::s_event_map k_ColorSpaceDensityType_attributes[] = {
-    lmx::attribute_event("Name", attribute_Name),
-    lmx::k_end_of_map,
+constexpr s_event_map k_ColorSpaceDensityType_attributes[] = {
+    attribute_event("Name", attribute_Name),
+    k_end_of_map,
 };
-constexpr lmx::s_event_map k_ColorSpaceDensityType_elements[] = {
-    lmx::element_event("ColorSpaceSpecificationSpectrumGeneric", element_ColorSpaceSpecificationSpectrumGeneric),
-    lmx::element_event("Density", element_Density),
-    lmx::k_end_of_map,
+constexpr s_event_map k_ColorSpaceDensityType_elements[] = {
+    element_event("ColorSpaceSpecificationSpectrumGeneric", element_ColorSpaceSpecificationSpectrumGeneric),
+    element_event("Density", element_Density),
+    k_end_of_map,
 };
 }  // namespace
 
-constinit const lmx::s_item ColorSpaceDensityType::k_items[] = {
-    {lmx::item_kind::attribute, lmx::value_kind::text, lmx::use_optional, lmx::ELMX_WS_PRESERVE, "Name", attribute_Name, LMX_OFFSET(ColorSpaceDensityType, m_Name, attribute, text), LMX_FLAG(ColorSpaceDensityType, m_isset_Name), 0, 0, nullptr, nullptr, {}},
-    {lmx::item_kind::child, lmx::value_kind::none, lmx::use_required, lmx::ELMX_WS_PRESERVE, "Vyr:ColorSpaceSpecificationSpectrumGeneric", element_ColorSpaceSpecificationSpectrumGeneric, LMX_OFFSET(ColorSpaceDensityType, m_ColorSpaceSpecificationSpectrumGeneric, child, none), LMX_FLAG(ColorSpaceDensityType, m_isset_ColorSpaceSpecificationSpectrumGeneric), lmx::position_of(k_ColorSpaceDensityType_elements, element_ColorSpaceSpecificationSpectrumGeneric), lmx::position_of(k_ColorSpaceDensityType_elements, element_ColorSpaceSpecificationSpectrumGeneric, 1), &ColorSpaceSpecificationSpectrumGeneric::k_class, nullptr, {}},
-    {lmx::item_kind::child_list, lmx::value_kind::none, lmx::use_demanded | lmx::use_asked, lmx::ELMX_WS_PRESERVE, "Vyr:Density", element_Density, LMX_OFFSET(ColorSpaceDensityType, m_Density, child_list, none), lmx::k_no_flag, lmx::position_of(k_ColorSpaceDensityType_elements, element_Density), lmx::position_of(k_ColorSpaceDensityType_elements, element_Density, 1), &DensityType::k_class, nullptr, {}},
+constinit const s_item ColorSpaceDensityType::k_items[] = {
+    {item_kind::attribute, value_kind::text, use_optional, ELMX_WS_PRESERVE, "Name", attribute_Name,
+     LMX_OFFSET(ColorSpaceDensityType, m_Name, attribute, text), LMX_FLAG(ColorSpaceDensityType, m_isset_Name), 0, 0, nullptr, nullptr, {}},
+    {item_kind::child, value_kind::none, use_required, ELMX_WS_PRESERVE, "Vyr:ColorSpaceSpecificationSpectrumGeneric", element_ColorSpaceSpecificationSpectrumGeneric,
+     LMX_OFFSET(ColorSpaceDensityType, m_ColorSpaceSpecificationSpectrumGeneric, child, none), LMX_FLAG(ColorSpaceDensityType, m_isset_ColorSpaceSpecificationSpectrumGeneric), position_of(k_ColorSpaceDensityType_elements, element_ColorSpaceSpecificationSpectrumGeneric), position_of(k_ColorSpaceDensityType_elements, element_ColorSpaceSpecificationSpectrumGeneric, 1), &ColorSpaceSpecificationSpectrumGeneric::k_class, nullptr, {}},
+    {item_kind::child_list, value_kind::none, use_demanded | use_asked, ELMX_WS_PRESERVE, "Vyr:Density", element_Density,
+     LMX_OFFSET(ColorSpaceDensityType, m_Density, child_list, none), k_no_flag, position_of(k_ColorSpaceDensityType_elements, element_Density), position_of(k_ColorSpaceDensityType_elements, element_Density, 1), &DensityType::k_class, nullptr, {}},
 };
-constinit const lmx::s_class ColorSpaceDensityType::k_class = {
+constinit const s_class ColorSpaceDensityType::k_class = {
     .name = "ColorSpaceDensityType",
     .qualified_name = "Vyr:ColorSpaceDensityType",
     .base = &ColorSpaceType::k_class,
-    .content = lmx::content_kind::children,
+    .content = content_kind::children,
     .may_be_empty = false,
     .ns_map = k_ns_map,
-    .nil_flag = lmx::k_no_flag,
-    .choice = lmx::k_no_flag,
+    .nil_flag = k_no_flag,
+    .choice = k_no_flag,
     .id = &ColorSpaceDensityType::id,
     .xsi_type = "Vyr:ColorSpaceDensityType",
     .attributes = std::span(k_items).first(std::size(k_ColorSpaceDensityType_attributes) - 1),
     .elements = std::span(k_items).subspan(std::size(k_ColorSpaceDensityType_attributes) - 1),
     .attribute_map = k_ColorSpaceDensityType_attributes,
     .element_map = k_ColorSpaceDensityType_elements,
-    .operations = &lmx::k_operations<ColorSpaceDensityType>,
+    .operations = &k_operations<ColorSpaceDensityType>,
 };
 
 ColorSpaceDensityType::ColorSpaceDensityType() = default;
@@ -88,38 +93,41 @@ void ColorSpaceDensityType::clear_Density() { m_Density.clear(); }
 // ColorSpaceSpectralType
 
 namespace {
-constexpr lmx::s_event_map k_ColorSpaceSpectralType_attributes[] = {
-    lmx::attribute_event("Name", attribute_Name),
-    lmx::k_end_of_map,
+constexpr s_event_map k_ColorSpaceSpectralType_attributes[] = {
+    attribute_event("Name", attribute_Name),
+    k_end_of_map,
 };
-constexpr lmx::s_event_map k_ColorSpaceSpectralType_elements[] = {
-    lmx::element_event("ColorSpaceSpecificationSpectrumSpectral", element_ColorSpaceSpecificationSpectrumSpectral),
-    lmx::element_event("ReflectancePoint", element_ReflectancePoint),
-    lmx::k_end_of_map,
+constexpr s_event_map k_ColorSpaceSpectralType_elements[] = {
+    element_event("ColorSpaceSpecificationSpectrumSpectral", element_ColorSpaceSpecificationSpectrumSpectral),
+    element_event("ReflectancePoint", element_ReflectancePoint),
+    k_end_of_map,
 };
 }  // namespace
 
-constinit const lmx::s_item ColorSpaceSpectralType::k_items[] = {
-    {lmx::item_kind::attribute, lmx::value_kind::text, lmx::use_optional, lmx::ELMX_WS_PRESERVE, "Name", attribute_Name, LMX_OFFSET(ColorSpaceSpectralType, m_Name, attribute, text), LMX_FLAG(ColorSpaceSpectralType, m_isset_Name), 0, 0, nullptr, nullptr, {}},
-    {lmx::item_kind::child, lmx::value_kind::none, lmx::use_required, lmx::ELMX_WS_PRESERVE, "Vyr:ColorSpaceSpecificationSpectrumSpectral", element_ColorSpaceSpecificationSpectrumSpectral, LMX_OFFSET(ColorSpaceSpectralType, m_ColorSpaceSpecificationSpectrumSpectral, child, none), LMX_FLAG(ColorSpaceSpectralType, m_isset_ColorSpaceSpecificationSpectrumSpectral), lmx::position_of(k_ColorSpaceSpectralType_elements, element_ColorSpaceSpecificationSpectrumSpectral), lmx::position_of(k_ColorSpaceSpectralType_elements, element_ColorSpaceSpecificationSpectrumSpectral, 1), &ColorSpaceSpecificationSpectrumSpectral::k_class, nullptr, {}},
-    {lmx::item_kind::child_list, lmx::value_kind::none, lmx::use_demanded | lmx::use_asked, lmx::ELMX_WS_PRESERVE, "Vyr:ReflectancePoint", element_ReflectancePoint, LMX_OFFSET(ColorSpaceSpectralType, m_ReflectancePoint, child_list, none), lmx::k_no_flag, lmx::position_of(k_ColorSpaceSpectralType_elements, element_ReflectancePoint), lmx::position_of(k_ColorSpaceSpectralType_elements, element_ReflectancePoint, 1), &ReflectancePointType::k_class, nullptr, {}},
+constinit const s_item ColorSpaceSpectralType::k_items[] = {
+    {item_kind::attribute, value_kind::text, use_optional, ELMX_WS_PRESERVE, "Name", attribute_Name,
+     LMX_OFFSET(ColorSpaceSpectralType, m_Name, attribute, text), LMX_FLAG(ColorSpaceSpectralType, m_isset_Name), 0, 0, nullptr, nullptr, {}},
+    {item_kind::child, value_kind::none, use_required, ELMX_WS_PRESERVE, "Vyr:ColorSpaceSpecificationSpectrumSpectral", element_ColorSpaceSpecificationSpectrumSpectral,
+     LMX_OFFSET(ColorSpaceSpectralType, m_ColorSpaceSpecificationSpectrumSpectral, child, none), LMX_FLAG(ColorSpaceSpectralType, m_isset_ColorSpaceSpecificationSpectrumSpectral), position_of(k_ColorSpaceSpectralType_elements, element_ColorSpaceSpecificationSpectrumSpectral), position_of(k_ColorSpaceSpectralType_elements, element_ColorSpaceSpecificationSpectrumSpectral, 1), &ColorSpaceSpecificationSpectrumSpectral::k_class, nullptr, {}},
+    {item_kind::child_list, value_kind::none, use_demanded | use_asked, ELMX_WS_PRESERVE, "Vyr:ReflectancePoint", element_ReflectancePoint,
+     LMX_OFFSET(ColorSpaceSpectralType, m_ReflectancePoint, child_list, none), k_no_flag, position_of(k_ColorSpaceSpectralType_elements, element_ReflectancePoint), position_of(k_ColorSpaceSpectralType_elements, element_ReflectancePoint, 1), &ReflectancePointType::k_class, nullptr, {}},
 };
-constinit const lmx::s_class ColorSpaceSpectralType::k_class = {
+constinit const s_class ColorSpaceSpectralType::k_class = {
     .name = "ColorSpaceSpectralType",
     .qualified_name = "Vyr:ColorSpaceSpectralType",
     .base = &ColorSpaceType::k_class,
-    .content = lmx::content_kind::children,
+    .content = content_kind::children,
     .may_be_empty = false,
     .ns_map = k_ns_map,
-    .nil_flag = lmx::k_no_flag,
-    .choice = lmx::k_no_flag,
+    .nil_flag = k_no_flag,
+    .choice = k_no_flag,
     .id = &ColorSpaceSpectralType::id,
     .xsi_type = "Vyr:ColorSpaceSpectralType",
     .attributes = std::span(k_items).first(std::size(k_ColorSpaceSpectralType_attributes) - 1),
     .elements = std::span(k_items).subspan(std::size(k_ColorSpaceSpectralType_attributes) - 1),
     .attribute_map = k_ColorSpaceSpectralType_attributes,
     .element_map = k_ColorSpaceSpectralType_elements,
-    .operations = &lmx::k_operations<ColorSpaceSpectralType>,
+    .operations = &k_operations<ColorSpaceSpectralType>,
 };
 
 ColorSpaceSpectralType::ColorSpaceSpectralType() = default;
@@ -153,38 +161,41 @@ void ColorSpaceSpectralType::clear_ReflectancePoint() { m_ReflectancePoint.clear
 // ColorSpaceEmissiveSpectralType
 
 namespace {
-constexpr lmx::s_event_map k_ColorSpaceEmissiveSpectralType_attributes[] = {
-    lmx::attribute_event("Name", attribute_Name),
-    lmx::k_end_of_map,
+constexpr s_event_map k_ColorSpaceEmissiveSpectralType_attributes[] = {
+    attribute_event("Name", attribute_Name),
+    k_end_of_map,
 };
-constexpr lmx::s_event_map k_ColorSpaceEmissiveSpectralType_elements[] = {
-    lmx::element_event("ColorSpaceSpecificationEmissiveSpectral", element_ColorSpaceSpecificationEmissiveSpectral),
-    lmx::element_event("EmissiveSpectralPoint", element_EmissiveSpectralPoint),
-    lmx::k_end_of_map,
+constexpr s_event_map k_ColorSpaceEmissiveSpectralType_elements[] = {
+    element_event("ColorSpaceSpecificationEmissiveSpectral", element_ColorSpaceSpecificationEmissiveSpectral),
+    element_event("EmissiveSpectralPoint", element_EmissiveSpectralPoint),
+    k_end_of_map,
 };
 }  // namespace
 
-constinit const lmx::s_item ColorSpaceEmissiveSpectralType::k_items[] = {
-    {lmx::item_kind::attribute, lmx::value_kind::text, lmx::use_optional, lmx::ELMX_WS_PRESERVE, "Name", attribute_Name, LMX_OFFSET(ColorSpaceEmissiveSpectralType, m_Name, attribute, text), LMX_FLAG(ColorSpaceEmissiveSpectralType, m_isset_Name), 0, 0, nullptr, nullptr, {}},
-    {lmx::item_kind::child, lmx::value_kind::none, lmx::use_required, lmx::ELMX_WS_PRESERVE, "Vyr:ColorSpaceSpecificationEmissiveSpectral", element_ColorSpaceSpecificationEmissiveSpectral, LMX_OFFSET(ColorSpaceEmissiveSpectralType, m_ColorSpaceSpecificationEmissiveSpectral, child, none), LMX_FLAG(ColorSpaceEmissiveSpectralType, m_isset_ColorSpaceSpecificationEmissiveSpectral), lmx::position_of(k_ColorSpaceEmissiveSpectralType_elements, element_ColorSpaceSpecificationEmissiveSpectral), lmx::position_of(k_ColorSpaceEmissiveSpectralType_elements, element_ColorSpaceSpecificationEmissiveSpectral, 1), &ColorSpaceSpecificationEmissiveSpectral::k_class, nullptr, {}},
-    {lmx::item_kind::child_list, lmx::value_kind::none, lmx::use_demanded | lmx::use_asked, lmx::ELMX_WS_PRESERVE, "Vyr:EmissiveSpectralPoint", element_EmissiveSpectralPoint, LMX_OFFSET(ColorSpaceEmissiveSpectralType, m_EmissiveSpectralPoint, child_list, none), lmx::k_no_flag, lmx::position_of(k_ColorSpaceEmissiveSpectralType_elements, element_EmissiveSpectralPoint), lmx::position_of(k_ColorSpaceEmissiveSpectralType_elements, element_EmissiveSpectralPoint, 1), &EmissiveSpectralPointType::k_class, nullptr, {}},
+constinit const s_item ColorSpaceEmissiveSpectralType::k_items[] = {
+    {item_kind::attribute, value_kind::text, use_optional, ELMX_WS_PRESERVE, "Name", attribute_Name,
+     LMX_OFFSET(ColorSpaceEmissiveSpectralType, m_Name, attribute, text), LMX_FLAG(ColorSpaceEmissiveSpectralType, m_isset_Name), 0, 0, nullptr, nullptr, {}},
+    {item_kind::child, value_kind::none, use_required, ELMX_WS_PRESERVE, "Vyr:ColorSpaceSpecificationEmissiveSpectral", element_ColorSpaceSpecificationEmissiveSpectral,
+     LMX_OFFSET(ColorSpaceEmissiveSpectralType, m_ColorSpaceSpecificationEmissiveSpectral, child, none), LMX_FLAG(ColorSpaceEmissiveSpectralType, m_isset_ColorSpaceSpecificationEmissiveSpectral), position_of(k_ColorSpaceEmissiveSpectralType_elements, element_ColorSpaceSpecificationEmissiveSpectral), position_of(k_ColorSpaceEmissiveSpectralType_elements, element_ColorSpaceSpecificationEmissiveSpectral, 1), &ColorSpaceSpecificationEmissiveSpectral::k_class, nullptr, {}},
+    {item_kind::child_list, value_kind::none, use_demanded | use_asked, ELMX_WS_PRESERVE, "Vyr:EmissiveSpectralPoint", element_EmissiveSpectralPoint,
+     LMX_OFFSET(ColorSpaceEmissiveSpectralType, m_EmissiveSpectralPoint, child_list, none), k_no_flag, position_of(k_ColorSpaceEmissiveSpectralType_elements, element_EmissiveSpectralPoint), position_of(k_ColorSpaceEmissiveSpectralType_elements, element_EmissiveSpectralPoint, 1), &EmissiveSpectralPointType::k_class, nullptr, {}},
 };
-constinit const lmx::s_class ColorSpaceEmissiveSpectralType::k_class = {
+constinit const s_class ColorSpaceEmissiveSpectralType::k_class = {
     .name = "ColorSpaceEmissiveSpectralType",
     .qualified_name = "Vyr:ColorSpaceEmissiveSpectralType",
     .base = &ColorSpaceType::k_class,
-    .content = lmx::content_kind::children,
+    .content = content_kind::children,
     .may_be_empty = false,
     .ns_map = k_ns_map,
-    .nil_flag = lmx::k_no_flag,
-    .choice = lmx::k_no_flag,
+    .nil_flag = k_no_flag,
+    .choice = k_no_flag,
     .id = &ColorSpaceEmissiveSpectralType::id,
     .xsi_type = "Vyr:ColorSpaceEmissiveSpectralType",
     .attributes = std::span(k_items).first(std::size(k_ColorSpaceEmissiveSpectralType_attributes) - 1),
     .elements = std::span(k_items).subspan(std::size(k_ColorSpaceEmissiveSpectralType_attributes) - 1),
     .attribute_map = k_ColorSpaceEmissiveSpectralType_attributes,
     .element_map = k_ColorSpaceEmissiveSpectralType_elements,
-    .operations = &lmx::k_operations<ColorSpaceEmissiveSpectralType>,
+    .operations = &k_operations<ColorSpaceEmissiveSpectralType>,
 };
 
 ColorSpaceEmissiveSpectralType::ColorSpaceEmissiveSpectralType() = default;
@@ -218,38 +229,41 @@ void ColorSpaceEmissiveSpectralType::clear_EmissiveSpectralPoint() { m_EmissiveS
 // ColorSpaceGenericType
 
 namespace {
-constexpr lmx::s_event_map k_ColorSpaceGenericType_attributes[] = {
-    lmx::attribute_event("Name", attribute_Name),
-    lmx::k_end_of_map,
+constexpr s_event_map k_ColorSpaceGenericType_attributes[] = {
+    attribute_event("Name", attribute_Name),
+    k_end_of_map,
 };
-constexpr lmx::s_event_map k_ColorSpaceGenericType_elements[] = {
-    lmx::element_event("ColorSpaceSpecificationSpectrumGeneric", element_ColorSpaceSpecificationSpectrumGeneric),
-    lmx::element_event("Axis", element_Axis),
-    lmx::k_end_of_map,
+constexpr s_event_map k_ColorSpaceGenericType_elements[] = {
+    element_event("ColorSpaceSpecificationSpectrumGeneric", element_ColorSpaceSpecificationSpectrumGeneric),
+    element_event("Axis", element_Axis),
+    k_end_of_map,
 };
 }  // namespace
 
-constinit const lmx::s_item ColorSpaceGenericType::k_items[] = {
-    {lmx::item_kind::attribute, lmx::value_kind::text, lmx::use_required, lmx::ELMX_WS_PRESERVE, "Name", attribute_Name, LMX_OFFSET(ColorSpaceGenericType, m_Name, attribute, text), LMX_FLAG(ColorSpaceGenericType, m_isset_Name), 0, 0, nullptr, nullptr, {}},
-    {lmx::item_kind::child, lmx::value_kind::none, lmx::use_required, lmx::ELMX_WS_PRESERVE, "Vyr:ColorSpaceSpecificationSpectrumGeneric", element_ColorSpaceSpecificationSpectrumGeneric, LMX_OFFSET(ColorSpaceGenericType, m_ColorSpaceSpecificationSpectrumGeneric, child, none), LMX_FLAG(ColorSpaceGenericType, m_isset_ColorSpaceSpecificationSpectrumGeneric), lmx::position_of(k_ColorSpaceGenericType_elements, element_ColorSpaceSpecificationSpectrumGeneric), lmx::position_of(k_ColorSpaceGenericType_elements, element_ColorSpaceSpecificationSpectrumGeneric, 1), &ColorSpaceSpecificationSpectrumGeneric::k_class, nullptr, {}},
-    {lmx::item_kind::child_list, lmx::value_kind::none, lmx::use_demanded | lmx::use_asked, lmx::ELMX_WS_PRESERVE, "Vyr:Axis", element_Axis, LMX_OFFSET(ColorSpaceGenericType, m_Axis, child_list, none), lmx::k_no_flag, lmx::position_of(k_ColorSpaceGenericType_elements, element_Axis), lmx::position_of(k_ColorSpaceGenericType_elements, element_Axis, 1), &AxisType::k_class, nullptr, {}},
+constinit const s_item ColorSpaceGenericType::k_items[] = {
+    {item_kind::attribute, value_kind::text, use_required, ELMX_WS_PRESERVE, "Name", attribute_Name,
+     LMX_OFFSET(ColorSpaceGenericType, m_Name, attribute, text), LMX_FLAG(ColorSpaceGenericType, m_isset_Name), 0, 0, nullptr, nullptr, {}},
+    {item_kind::child, value_kind::none, use_required, ELMX_WS_PRESERVE, "Vyr:ColorSpaceSpecificationSpectrumGeneric", element_ColorSpaceSpecificationSpectrumGeneric,
+     LMX_OFFSET(ColorSpaceGenericType, m_ColorSpaceSpecificationSpectrumGeneric, child, none), LMX_FLAG(ColorSpaceGenericType, m_isset_ColorSpaceSpecificationSpectrumGeneric), position_of(k_ColorSpaceGenericType_elements, element_ColorSpaceSpecificationSpectrumGeneric), position_of(k_ColorSpaceGenericType_elements, element_ColorSpaceSpecificationSpectrumGeneric, 1), &ColorSpaceSpecificationSpectrumGeneric::k_class, nullptr, {}},
+    {item_kind::child_list, value_kind::none, use_demanded | use_asked, ELMX_WS_PRESERVE, "Vyr:Axis", element_Axis,
+     LMX_OFFSET(ColorSpaceGenericType, m_Axis, child_list, none), k_no_flag, position_of(k_ColorSpaceGenericType_elements, element_Axis), position_of(k_ColorSpaceGenericType_elements, element_Axis, 1), &AxisType::k_class, nullptr, {}},
 };
-constinit const lmx::s_class ColorSpaceGenericType::k_class = {
+constinit const s_class ColorSpaceGenericType::k_class = {
     .name = "ColorSpaceGenericType",
     .qualified_name = "Vyr:ColorSpaceGenericType",
     .base = &ColorSpaceType::k_class,
-    .content = lmx::content_kind::children,
+    .content = content_kind::children,
     .may_be_empty = false,
     .ns_map = k_ns_map,
-    .nil_flag = lmx::k_no_flag,
-    .choice = lmx::k_no_flag,
+    .nil_flag = k_no_flag,
+    .choice = k_no_flag,
     .id = &ColorSpaceGenericType::id,
     .xsi_type = "Vyr:ColorSpaceGenericType",
     .attributes = std::span(k_items).first(std::size(k_ColorSpaceGenericType_attributes) - 1),
     .elements = std::span(k_items).subspan(std::size(k_ColorSpaceGenericType_attributes) - 1),
     .attribute_map = k_ColorSpaceGenericType_attributes,
     .element_map = k_ColorSpaceGenericType_elements,
-    .operations = &lmx::k_operations<ColorSpaceGenericType>,
+    .operations = &k_operations<ColorSpaceGenericType>,
 };
 
 ColorSpaceGenericType::ColorSpaceGenericType() = default;
@@ -283,38 +297,41 @@ void ColorSpaceGenericType::clear_Axis() { m_Axis.clear(); }
 // ColorSpaceEmissiveGenericType
 
 namespace {
-constexpr lmx::s_event_map k_ColorSpaceEmissiveGenericType_attributes[] = {
-    lmx::attribute_event("Name", attribute_Name),
-    lmx::k_end_of_map,
+constexpr s_event_map k_ColorSpaceEmissiveGenericType_attributes[] = {
+    attribute_event("Name", attribute_Name),
+    k_end_of_map,
 };
-constexpr lmx::s_event_map k_ColorSpaceEmissiveGenericType_elements[] = {
-    lmx::element_event("ColorSpaceSpecificationEmissiveGeneric", element_ColorSpaceSpecificationEmissiveGeneric),
-    lmx::element_event("Axis", element_Axis),
-    lmx::k_end_of_map,
+constexpr s_event_map k_ColorSpaceEmissiveGenericType_elements[] = {
+    element_event("ColorSpaceSpecificationEmissiveGeneric", element_ColorSpaceSpecificationEmissiveGeneric),
+    element_event("Axis", element_Axis),
+    k_end_of_map,
 };
 }  // namespace
 
-constinit const lmx::s_item ColorSpaceEmissiveGenericType::k_items[] = {
-    {lmx::item_kind::attribute, lmx::value_kind::text, lmx::use_required, lmx::ELMX_WS_PRESERVE, "Name", attribute_Name, LMX_OFFSET(ColorSpaceEmissiveGenericType, m_Name, attribute, text), LMX_FLAG(ColorSpaceEmissiveGenericType, m_isset_Name), 0, 0, nullptr, nullptr, {}},
-    {lmx::item_kind::child, lmx::value_kind::none, lmx::use_required, lmx::ELMX_WS_PRESERVE, "Vyr:ColorSpaceSpecificationEmissiveGeneric", element_ColorSpaceSpecificationEmissiveGeneric, LMX_OFFSET(ColorSpaceEmissiveGenericType, m_ColorSpaceSpecificationEmissiveGeneric, child, none), LMX_FLAG(ColorSpaceEmissiveGenericType, m_isset_ColorSpaceSpecificationEmissiveGeneric), lmx::position_of(k_ColorSpaceEmissiveGenericType_elements, element_ColorSpaceSpecificationEmissiveGeneric), lmx::position_of(k_ColorSpaceEmissiveGenericType_elements, element_ColorSpaceSpecificationEmissiveGeneric, 1), &ColorSpaceSpecificationEmissiveGeneric::k_class, nullptr, {}},
-    {lmx::item_kind::child_list, lmx::value_kind::none, lmx::use_demanded | lmx::use_asked, lmx::ELMX_WS_PRESERVE, "Vyr:Axis", element_Axis, LMX_OFFSET(ColorSpaceEmissiveGenericType, m_Axis, child_list, none), lmx::k_no_flag, lmx::position_of(k_ColorSpaceEmissiveGenericType_elements, element_Axis), lmx::position_of(k_ColorSpaceEmissiveGenericType_elements, element_Axis, 1), &AxisType::k_class, nullptr, {}},
+constinit const s_item ColorSpaceEmissiveGenericType::k_items[] = {
+    {item_kind::attribute, value_kind::text, use_required, ELMX_WS_PRESERVE, "Name", attribute_Name,
+     LMX_OFFSET(ColorSpaceEmissiveGenericType, m_Name, attribute, text), LMX_FLAG(ColorSpaceEmissiveGenericType, m_isset_Name), 0, 0, nullptr, nullptr, {}},
+    {item_kind::child, value_kind::none, use_required, ELMX_WS_PRESERVE, "Vyr:ColorSpaceSpecificationEmissiveGeneric", element_ColorSpaceSpecificationEmissiveGeneric,
+     LMX_OFFSET(ColorSpaceEmissiveGenericType, m_ColorSpaceSpecificationEmissiveGeneric, child, none), LMX_FLAG(ColorSpaceEmissiveGenericType, m_isset_ColorSpaceSpecificationEmissiveGeneric), position_of(k_ColorSpaceEmissiveGenericType_elements, element_ColorSpaceSpecificationEmissiveGeneric), position_of(k_ColorSpaceEmissiveGenericType_elements, element_ColorSpaceSpecificationEmissiveGeneric, 1), &ColorSpaceSpecificationEmissiveGeneric::k_class, nullptr, {}},
+    {item_kind::child_list, value_kind::none, use_demanded | use_asked, ELMX_WS_PRESERVE, "Vyr:Axis", element_Axis,
+     LMX_OFFSET(ColorSpaceEmissiveGenericType, m_Axis, child_list, none), k_no_flag, position_of(k_ColorSpaceEmissiveGenericType_elements, element_Axis), position_of(k_ColorSpaceEmissiveGenericType_elements, element_Axis, 1), &AxisType::k_class, nullptr, {}},
 };
-constinit const lmx::s_class ColorSpaceEmissiveGenericType::k_class = {
+constinit const s_class ColorSpaceEmissiveGenericType::k_class = {
     .name = "ColorSpaceEmissiveGenericType",
     .qualified_name = "Vyr:ColorSpaceEmissiveGenericType",
     .base = &ColorSpaceType::k_class,
-    .content = lmx::content_kind::children,
+    .content = content_kind::children,
     .may_be_empty = false,
     .ns_map = k_ns_map,
-    .nil_flag = lmx::k_no_flag,
-    .choice = lmx::k_no_flag,
+    .nil_flag = k_no_flag,
+    .choice = k_no_flag,
     .id = &ColorSpaceEmissiveGenericType::id,
     .xsi_type = "Vyr:ColorSpaceEmissiveGenericType",
     .attributes = std::span(k_items).first(std::size(k_ColorSpaceEmissiveGenericType_attributes) - 1),
     .elements = std::span(k_items).subspan(std::size(k_ColorSpaceEmissiveGenericType_attributes) - 1),
     .attribute_map = k_ColorSpaceEmissiveGenericType_attributes,
     .element_map = k_ColorSpaceEmissiveGenericType_elements,
-    .operations = &lmx::k_operations<ColorSpaceEmissiveGenericType>,
+    .operations = &k_operations<ColorSpaceEmissiveGenericType>,
 };
 
 ColorSpaceEmissiveGenericType::ColorSpaceEmissiveGenericType() = default;
@@ -352,7 +369,7 @@ lmx::elmx_error ColorSpaceGeneric::marshal(lmx::c_xml_writer& writer, const char
     return ColorSpaceGenericType::marshal(writer, name);
 }
 lmx::elmx_error ColorSpaceGeneric::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return ColorSpaceGenericType::unmarshal(reader, name); }
-const lmx::s_document ColorSpaceGeneric::k_document = {"Vyr:ColorSpaceGeneric", "ColorSpaceGeneric", k_ns_map, &lmx::k_operations<ColorSpaceGeneric>};
+constinit const lmx::s_document ColorSpaceGeneric::k_document = {"Vyr:ColorSpaceGeneric", "ColorSpaceGeneric", k_ns_map, &lmx::k_operations<ColorSpaceGeneric>};
 const lmx::s_ns_map* ColorSpaceGeneric::ns_map() { return k_ns_map; }
 lmx::elmx_error ColorSpaceGeneric::unmarshal(lmx::c_xml_reader& reader) { return lmx::unmarshal_document(k_document, this, reader); }
 ColorSpaceGeneric::ColorSpaceGeneric(const char* file_name, lmx::elmx_error* error) : ColorSpaceGeneric() { *error = unmarshal(file_name); }
@@ -372,7 +389,7 @@ lmx::elmx_error ColorSpaceEmissiveGeneric::marshal(lmx::c_xml_writer& writer, co
     return ColorSpaceEmissiveGenericType::marshal(writer, name);
 }
 lmx::elmx_error ColorSpaceEmissiveGeneric::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return ColorSpaceEmissiveGenericType::unmarshal(reader, name); }
-const lmx::s_document ColorSpaceEmissiveGeneric::k_document = {"Vyr:ColorSpaceEmissiveGeneric", "ColorSpaceEmissiveGeneric", k_ns_map, &lmx::k_operations<ColorSpaceEmissiveGeneric>};
+constinit const lmx::s_document ColorSpaceEmissiveGeneric::k_document = {"Vyr:ColorSpaceEmissiveGeneric", "ColorSpaceEmissiveGeneric", k_ns_map, &lmx::k_operations<ColorSpaceEmissiveGeneric>};
 const lmx::s_ns_map* ColorSpaceEmissiveGeneric::ns_map() { return k_ns_map; }
 lmx::elmx_error ColorSpaceEmissiveGeneric::unmarshal(lmx::c_xml_reader& reader) { return lmx::unmarshal_document(k_document, this, reader); }
 ColorSpaceEmissiveGeneric::ColorSpaceEmissiveGeneric(const char* file_name, lmx::elmx_error* error) : ColorSpaceEmissiveGeneric() { *error = unmarshal(file_name); }
@@ -392,7 +409,7 @@ lmx::elmx_error ColorSpaceDensity::marshal(lmx::c_xml_writer& writer, const char
     return ColorSpaceDensityType::marshal(writer, name);
 }
 lmx::elmx_error ColorSpaceDensity::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return ColorSpaceDensityType::unmarshal(reader, name); }
-const lmx::s_document ColorSpaceDensity::k_document = {"Vyr:ColorSpaceDensity", "ColorSpaceDensity", k_ns_map, &lmx::k_operations<ColorSpaceDensity>};
+constinit const lmx::s_document ColorSpaceDensity::k_document = {"Vyr:ColorSpaceDensity", "ColorSpaceDensity", k_ns_map, &lmx::k_operations<ColorSpaceDensity>};
 const lmx::s_ns_map* ColorSpaceDensity::ns_map() { return k_ns_map; }
 lmx::elmx_error ColorSpaceDensity::unmarshal(lmx::c_xml_reader& reader) { return lmx::unmarshal_document(k_document, this, reader); }
 ColorSpaceDensity::ColorSpaceDensity(const char* file_name, lmx::elmx_error* error) : ColorSpaceDensity() { *error = unmarshal(file_name); }
@@ -412,7 +429,7 @@ lmx::elmx_error ColorSpaceSpectral::marshal(lmx::c_xml_writer& writer, const cha
     return ColorSpaceSpectralType::marshal(writer, name);
 }
 lmx::elmx_error ColorSpaceSpectral::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return ColorSpaceSpectralType::unmarshal(reader, name); }
-const lmx::s_document ColorSpaceSpectral::k_document = {"Vyr:ColorSpaceSpectral", "ColorSpaceSpectral", k_ns_map, &lmx::k_operations<ColorSpaceSpectral>};
+constinit const lmx::s_document ColorSpaceSpectral::k_document = {"Vyr:ColorSpaceSpectral", "ColorSpaceSpectral", k_ns_map, &lmx::k_operations<ColorSpaceSpectral>};
 const lmx::s_ns_map* ColorSpaceSpectral::ns_map() { return k_ns_map; }
 lmx::elmx_error ColorSpaceSpectral::unmarshal(lmx::c_xml_reader& reader) { return lmx::unmarshal_document(k_document, this, reader); }
 ColorSpaceSpectral::ColorSpaceSpectral(const char* file_name, lmx::elmx_error* error) : ColorSpaceSpectral() { *error = unmarshal(file_name); }
@@ -432,7 +449,7 @@ lmx::elmx_error ColorSpaceEmissiveSpectral::marshal(lmx::c_xml_writer& writer, c
     return ColorSpaceEmissiveSpectralType::marshal(writer, name);
 }
 lmx::elmx_error ColorSpaceEmissiveSpectral::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return ColorSpaceEmissiveSpectralType::unmarshal(reader, name); }
-const lmx::s_document ColorSpaceEmissiveSpectral::k_document = {"Vyr:ColorSpaceEmissiveSpectral", "ColorSpaceEmissiveSpectral", k_ns_map, &lmx::k_operations<ColorSpaceEmissiveSpectral>};
+constinit const lmx::s_document ColorSpaceEmissiveSpectral::k_document = {"Vyr:ColorSpaceEmissiveSpectral", "ColorSpaceEmissiveSpectral", k_ns_map, &lmx::k_operations<ColorSpaceEmissiveSpectral>};
 const lmx::s_ns_map* ColorSpaceEmissiveSpectral::ns_map() { return k_ns_map; }
 lmx::elmx_error ColorSpaceEmissiveSpectral::unmarshal(lmx::c_xml_reader& reader) { return lmx::unmarshal_document(k_document, this, reader); }
 ColorSpaceEmissiveSpectral::ColorSpaceEmissiveSpectral(const char* file_name, lmx::elmx_error* error) : ColorSpaceEmissiveSpectral() { *error = unmarshal(file_name); }
@@ -448,32 +465,34 @@ lmx::elmx_error ColorSpaceEmissiveSpectral::marshal(std::ostream& stream) const 
 // ReflectancePointType
 
 namespace {
-constexpr lmx::s_event_map k_ReflectancePointType_attributes[] = {
-    lmx::attribute_event("Wavelength", attribute_Wavelength),
-    lmx::k_end_of_map,
+constexpr s_event_map k_ReflectancePointType_attributes[] = {
+    attribute_event("Wavelength", attribute_Wavelength),
+    k_end_of_map,
 };
 }  // namespace
 
-constinit const lmx::s_item ReflectancePointType::k_items[] = {
-    {lmx::item_kind::attribute, lmx::value_kind::number, lmx::use_required, lmx::ELMX_WS_COLLAPSE, "Wavelength", attribute_Wavelength, LMX_OFFSET(ReflectancePointType, m_Wavelength, attribute, number), LMX_FLAG(ReflectancePointType, m_isset_Wavelength), 0, 0, nullptr, &facets::Wavelength, {}},
-    {lmx::item_kind::content, lmx::value_kind::number, lmx::use_required, lmx::ELMX_WS_COLLAPSE, "", 0, LMX_OFFSET(ReflectancePointType, m_ReflectancePointType, content, number), LMX_FLAG(ReflectancePointType, m_isset_ReflectancePointType), 0, 0, nullptr, &facets::Reflectance, {}},
+constinit const s_item ReflectancePointType::k_items[] = {
+    {item_kind::attribute, value_kind::number, use_required, ELMX_WS_COLLAPSE, "Wavelength", attribute_Wavelength,
+     LMX_OFFSET(ReflectancePointType, m_Wavelength, attribute, number), LMX_FLAG(ReflectancePointType, m_isset_Wavelength), 0, 0, nullptr, &facets::Wavelength, {}},
+    {item_kind::content, value_kind::number, use_required, ELMX_WS_COLLAPSE, "", 0,
+     LMX_OFFSET(ReflectancePointType, m_ReflectancePointType, content, number), LMX_FLAG(ReflectancePointType, m_isset_ReflectancePointType), 0, 0, nullptr, &facets::Reflectance, {}},
 };
-constinit const lmx::s_class ReflectancePointType::k_class = {
+constinit const s_class ReflectancePointType::k_class = {
     .name = "ReflectancePointType",
     .qualified_name = "Vyr:ReflectancePointType",
     .base = nullptr,
-    .content = lmx::content_kind::simple,
+    .content = content_kind::simple,
     .may_be_empty = false,
     .ns_map = k_ns_map,
-    .nil_flag = lmx::k_no_flag,
-    .choice = lmx::k_no_flag,
+    .nil_flag = k_no_flag,
+    .choice = k_no_flag,
     .id = nullptr,
     .xsi_type = nullptr,
     .attributes = std::span(k_items).first(std::size(k_ReflectancePointType_attributes) - 1),
     .elements = std::span(k_items).subspan(std::size(k_ReflectancePointType_attributes) - 1),
     .attribute_map = k_ReflectancePointType_attributes,
-    .element_map = lmx::k_no_events,
-    .operations = &lmx::k_operations<ReflectancePointType>,
+    .element_map = k_no_events,
+    .operations = &k_operations<ReflectancePointType>,
 };
 
 ReflectancePointType::ReflectancePointType() = default;
@@ -496,32 +515,34 @@ lmx::elmx_error ReflectancePointType::set_ReflectancePointType(double value) { r
 // EmissiveSpectralPointType
 
 namespace {
-constexpr lmx::s_event_map k_EmissiveSpectralPointType_attributes[] = {
-    lmx::attribute_event("Wavelength", attribute_Wavelength),
-    lmx::k_end_of_map,
+constexpr s_event_map k_EmissiveSpectralPointType_attributes[] = {
+    attribute_event("Wavelength", attribute_Wavelength),
+    k_end_of_map,
 };
 }  // namespace
 
-constinit const lmx::s_item EmissiveSpectralPointType::k_items[] = {
-    {lmx::item_kind::attribute, lmx::value_kind::number, lmx::use_required, lmx::ELMX_WS_COLLAPSE, "Wavelength", attribute_Wavelength, LMX_OFFSET(EmissiveSpectralPointType, m_Wavelength, attribute, number), LMX_FLAG(EmissiveSpectralPointType, m_isset_Wavelength), 0, 0, nullptr, &facets::Wavelength, {}},
-    {lmx::item_kind::content, lmx::value_kind::number, lmx::use_required, lmx::ELMX_WS_COLLAPSE, "", 0, LMX_OFFSET(EmissiveSpectralPointType, m_EmissiveSpectralPointType, content, number), LMX_FLAG(EmissiveSpectralPointType, m_isset_EmissiveSpectralPointType), 0, 0, nullptr, nullptr, {}},
+constinit const s_item EmissiveSpectralPointType::k_items[] = {
+    {item_kind::attribute, value_kind::number, use_required, ELMX_WS_COLLAPSE, "Wavelength", attribute_Wavelength,
+     LMX_OFFSET(EmissiveSpectralPointType, m_Wavelength, attribute, number), LMX_FLAG(EmissiveSpectralPointType, m_isset_Wavelength), 0, 0, nullptr, &facets::Wavelength, {}},
+    {item_kind::content, value_kind::number, use_required, ELMX_WS_COLLAPSE, "", 0,
+     LMX_OFFSET(EmissiveSpectralPointType, m_EmissiveSpectralPointType, content, number), LMX_FLAG(EmissiveSpectralPointType, m_isset_EmissiveSpectralPointType), 0, 0, nullptr, nullptr, {}},
 };
-constinit const lmx::s_class EmissiveSpectralPointType::k_class = {
+constinit const s_class EmissiveSpectralPointType::k_class = {
     .name = "EmissiveSpectralPointType",
     .qualified_name = "Vyr:EmissiveSpectralPointType",
     .base = nullptr,
-    .content = lmx::content_kind::simple,
+    .content = content_kind::simple,
     .may_be_empty = false,
     .ns_map = k_ns_map,
-    .nil_flag = lmx::k_no_flag,
-    .choice = lmx::k_no_flag,
+    .nil_flag = k_no_flag,
+    .choice = k_no_flag,
     .id = nullptr,
     .xsi_type = nullptr,
     .attributes = std::span(k_items).first(std::size(k_EmissiveSpectralPointType_attributes) - 1),
     .elements = std::span(k_items).subspan(std::size(k_EmissiveSpectralPointType_attributes) - 1),
     .attribute_map = k_EmissiveSpectralPointType_attributes,
-    .element_map = lmx::k_no_events,
-    .operations = &lmx::k_operations<EmissiveSpectralPointType>,
+    .element_map = k_no_events,
+    .operations = &k_operations<EmissiveSpectralPointType>,
 };
 
 EmissiveSpectralPointType::EmissiveSpectralPointType() = default;
@@ -544,33 +565,35 @@ lmx::elmx_error EmissiveSpectralPointType::set_EmissiveSpectralPointType(double 
 // AxisValueChoice
 
 namespace {
-constexpr lmx::s_event_map k_AxisValueChoice_elements[] = {
-    lmx::element_event("AxisFloatingPointValue", element_AxisFloatingPointValue),
-    lmx::element_event("AxisStringValue", element_AxisStringValue),
-    lmx::k_end_of_map,
+constexpr s_event_map k_AxisValueChoice_elements[] = {
+    element_event("AxisFloatingPointValue", element_AxisFloatingPointValue),
+    element_event("AxisStringValue", element_AxisStringValue),
+    k_end_of_map,
 };
 }  // namespace
 
-constinit const lmx::s_item AxisValueChoice::k_items[] = {
-    {lmx::item_kind::alternative, lmx::value_kind::none, lmx::use_optional, lmx::ELMX_WS_PRESERVE, "Vyr:AxisFloatingPointValue", element_AxisFloatingPointValue, 0, lmx::k_no_flag, lmx::position_of(k_AxisValueChoice_elements, element_AxisFloatingPointValue), lmx::position_of(k_AxisValueChoice_elements, element_AxisFloatingPointValue, 1), &FloatingPointValueType::k_class, nullptr, {}},
-    {lmx::item_kind::alternative, lmx::value_kind::text, lmx::use_optional, lmx::ELMX_WS_PRESERVE, "Vyr:AxisStringValue", element_AxisStringValue, 0, lmx::k_no_flag, lmx::position_of(k_AxisValueChoice_elements, element_AxisStringValue), lmx::position_of(k_AxisValueChoice_elements, element_AxisStringValue, 1), nullptr, nullptr, {}},
+constinit const s_item AxisValueChoice::k_items[] = {
+    {item_kind::alternative, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:AxisFloatingPointValue", element_AxisFloatingPointValue,
+     0, k_no_flag, position_of(k_AxisValueChoice_elements, element_AxisFloatingPointValue), position_of(k_AxisValueChoice_elements, element_AxisFloatingPointValue, 1), &FloatingPointValueType::k_class, nullptr, {}},
+    {item_kind::alternative, value_kind::text, use_optional, ELMX_WS_PRESERVE, "Vyr:AxisStringValue", element_AxisStringValue,
+     0, k_no_flag, position_of(k_AxisValueChoice_elements, element_AxisStringValue), position_of(k_AxisValueChoice_elements, element_AxisStringValue, 1), nullptr, nullptr, {}},
 };
-constinit const lmx::s_class AxisValueChoice::k_class = {
+constinit const s_class AxisValueChoice::k_class = {
     .name = "AxisValueChoice",
     .qualified_name = "Vyr:AxisValueChoice",
     .base = nullptr,
-    .content = lmx::content_kind::choice,
+    .content = content_kind::choice,
     .may_be_empty = false,
     .ns_map = nullptr,
-    .nil_flag = lmx::k_no_flag,
+    .nil_flag = k_no_flag,
     .choice = LMX_CHOICE(AxisValueChoice, m_choice),
     .id = nullptr,
     .xsi_type = nullptr,
-    .attributes = std::span(k_items).first(std::size(lmx::k_no_events) - 1),
-    .elements = std::span(k_items).subspan(std::size(lmx::k_no_events) - 1),
-    .attribute_map = lmx::k_no_events,
+    .attributes = std::span(k_items).first(std::size(k_no_events) - 1),
+    .elements = std::span(k_items).subspan(std::size(k_no_events) - 1),
+    .attribute_map = k_no_events,
     .element_map = k_AxisValueChoice_elements,
-    .operations = &lmx::k_operations<AxisValueChoice>,
+    .operations = &k_operations<AxisValueChoice>,
 };
 
 AxisValueChoice::AxisValueChoice() = default;
@@ -595,33 +618,35 @@ lmx::elmx_error AxisValueChoice::set_AxisStringValue(const std::u16string& value
 // AxisType
 
 namespace {
-constexpr lmx::s_event_map k_AxisType_elements[] = {
-    lmx::element_event("AxisName", element_AxisName),
-    lmx::element_event("AxisValueChoice", element_AxisValueChoice),
-    lmx::k_end_of_map,
+constexpr s_event_map k_AxisType_elements[] = {
+    element_event("AxisName", element_AxisName),
+    element_event("AxisValueChoice", element_AxisValueChoice),
+    k_end_of_map,
 };
 }  // namespace
 
-constinit const lmx::s_item AxisType::k_items[] = {
-    {lmx::item_kind::element, lmx::value_kind::text, lmx::use_required, lmx::ELMX_WS_PRESERVE, "Vyr:AxisName", element_AxisName, LMX_OFFSET(AxisType, m_AxisName, element, text), LMX_FLAG(AxisType, m_isset_AxisName), lmx::position_of(k_AxisType_elements, element_AxisName), lmx::position_of(k_AxisType_elements, element_AxisName, 1), nullptr, nullptr, {}},
-    {lmx::item_kind::child, lmx::value_kind::none, lmx::use_required, lmx::ELMX_WS_PRESERVE, "Vyr:AxisValueChoice", element_AxisValueChoice, LMX_OFFSET(AxisType, m_AxisValueChoice, child, none), LMX_FLAG(AxisType, m_isset_AxisValueChoice), lmx::position_of(k_AxisType_elements, element_AxisValueChoice), lmx::position_of(k_AxisType_elements, element_AxisValueChoice, 1), &AxisValueChoice::k_class, nullptr, {}},
+constinit const s_item AxisType::k_items[] = {
+    {item_kind::element, value_kind::text, use_required, ELMX_WS_PRESERVE, "Vyr:AxisName", element_AxisName,
+     LMX_OFFSET(AxisType, m_AxisName, element, text), LMX_FLAG(AxisType, m_isset_AxisName), position_of(k_AxisType_elements, element_AxisName), position_of(k_AxisType_elements, element_AxisName, 1), nullptr, nullptr, {}},
+    {item_kind::child, value_kind::none, use_required, ELMX_WS_PRESERVE, "Vyr:AxisValueChoice", element_AxisValueChoice,
+     LMX_OFFSET(AxisType, m_AxisValueChoice, child, none), LMX_FLAG(AxisType, m_isset_AxisValueChoice), position_of(k_AxisType_elements, element_AxisValueChoice), position_of(k_AxisType_elements, element_AxisValueChoice, 1), &AxisValueChoice::k_class, nullptr, {}},
 };
-constinit const lmx::s_class AxisType::k_class = {
+constinit const s_class AxisType::k_class = {
     .name = "AxisType",
     .qualified_name = "Vyr:AxisType",
     .base = nullptr,
-    .content = lmx::content_kind::children,
+    .content = content_kind::children,
     .may_be_empty = false,
     .ns_map = k_ns_map,
-    .nil_flag = lmx::k_no_flag,
-    .choice = lmx::k_no_flag,
+    .nil_flag = k_no_flag,
+    .choice = k_no_flag,
     .id = nullptr,
     .xsi_type = nullptr,
-    .attributes = std::span(k_items).first(std::size(lmx::k_no_events) - 1),
-    .elements = std::span(k_items).subspan(std::size(lmx::k_no_events) - 1),
-    .attribute_map = lmx::k_no_events,
+    .attributes = std::span(k_items).first(std::size(k_no_events) - 1),
+    .elements = std::span(k_items).subspan(std::size(k_no_events) - 1),
+    .attribute_map = k_no_events,
     .element_map = k_AxisType_elements,
-    .operations = &lmx::k_operations<AxisType>,
+    .operations = &k_operations<AxisType>,
 };
 
 AxisType::AxisType() = default;
@@ -644,36 +669,40 @@ AxisValueChoice& AxisType::assign_AxisValueChoice(const AxisValueChoice& value) 
 // FloatingPointValueType
 
 namespace {
-constexpr lmx::s_event_map k_FloatingPointValueType_attributes[] = {
-    lmx::attribute_event("AxisNominalMax", attribute_AxisNominalMax),
-    lmx::attribute_event("AxisNominalMin", attribute_AxisNominalMin),
-    lmx::attribute_event("AxisNominalScale", attribute_AxisNominalScale),
-    lmx::k_end_of_map,
+constexpr s_event_map k_FloatingPointValueType_attributes[] = {
+    attribute_event("AxisNominalMax", attribute_AxisNominalMax),
+    attribute_event("AxisNominalMin", attribute_AxisNominalMin),
+    attribute_event("AxisNominalScale", attribute_AxisNominalScale),
+    k_end_of_map,
 };
 }  // namespace
 
-constinit const lmx::s_item FloatingPointValueType::k_items[] = {
-    {lmx::item_kind::attribute, lmx::value_kind::number, lmx::use_required, lmx::ELMX_WS_COLLAPSE, "AxisNominalMax", attribute_AxisNominalMax, LMX_OFFSET(FloatingPointValueType, m_AxisNominalMax, attribute, number), LMX_FLAG(FloatingPointValueType, m_isset_AxisNominalMax), 0, 0, nullptr, nullptr, {}},
-    {lmx::item_kind::attribute, lmx::value_kind::number, lmx::use_required, lmx::ELMX_WS_COLLAPSE, "AxisNominalMin", attribute_AxisNominalMin, LMX_OFFSET(FloatingPointValueType, m_AxisNominalMin, attribute, number), LMX_FLAG(FloatingPointValueType, m_isset_AxisNominalMin), 0, 0, nullptr, nullptr, {}},
-    {lmx::item_kind::attribute, lmx::value_kind::text, lmx::use_optional, lmx::ELMX_WS_PRESERVE, "AxisNominalScale", attribute_AxisNominalScale, LMX_OFFSET(FloatingPointValueType, m_AxisNominalScale, attribute, text), LMX_FLAG(FloatingPointValueType, m_isset_AxisNominalScale), 0, 0, nullptr, &facets::AxisScaleKind, {}},
-    {lmx::item_kind::content, lmx::value_kind::number, lmx::use_required, lmx::ELMX_WS_COLLAPSE, "", 0, LMX_OFFSET(FloatingPointValueType, m_FloatingPointValueType, content, number), LMX_FLAG(FloatingPointValueType, m_isset_FloatingPointValueType), 0, 0, nullptr, nullptr, {}},
+constinit const s_item FloatingPointValueType::k_items[] = {
+    {item_kind::attribute, value_kind::number, use_required, ELMX_WS_COLLAPSE, "AxisNominalMax", attribute_AxisNominalMax,
+     LMX_OFFSET(FloatingPointValueType, m_AxisNominalMax, attribute, number), LMX_FLAG(FloatingPointValueType, m_isset_AxisNominalMax), 0, 0, nullptr, nullptr, {}},
+    {item_kind::attribute, value_kind::number, use_required, ELMX_WS_COLLAPSE, "AxisNominalMin", attribute_AxisNominalMin,
+     LMX_OFFSET(FloatingPointValueType, m_AxisNominalMin, attribute, number), LMX_FLAG(FloatingPointValueType, m_isset_AxisNominalMin), 0, 0, nullptr, nullptr, {}},
+    {item_kind::attribute, value_kind::text, use_optional, ELMX_WS_PRESERVE, "AxisNominalScale", attribute_AxisNominalScale,
+     LMX_OFFSET(FloatingPointValueType, m_AxisNominalScale, attribute, text), LMX_FLAG(FloatingPointValueType, m_isset_AxisNominalScale), 0, 0, nullptr, &facets::AxisScaleKind, {}},
+    {item_kind::content, value_kind::number, use_required, ELMX_WS_COLLAPSE, "", 0,
+     LMX_OFFSET(FloatingPointValueType, m_FloatingPointValueType, content, number), LMX_FLAG(FloatingPointValueType, m_isset_FloatingPointValueType), 0, 0, nullptr, nullptr, {}},
 };
-constinit const lmx::s_class FloatingPointValueType::k_class = {
+constinit const s_class FloatingPointValueType::k_class = {
     .name = "FloatingPointValueType",
     .qualified_name = "Vyr:FloatingPointValueType",
     .base = nullptr,
-    .content = lmx::content_kind::simple,
+    .content = content_kind::simple,
     .may_be_empty = false,
     .ns_map = k_ns_map,
-    .nil_flag = lmx::k_no_flag,
-    .choice = lmx::k_no_flag,
+    .nil_flag = k_no_flag,
+    .choice = k_no_flag,
     .id = nullptr,
     .xsi_type = nullptr,
     .attributes = std::span(k_items).first(std::size(k_FloatingPointValueType_attributes) - 1),
     .elements = std::span(k_items).subspan(std::size(k_FloatingPointValueType_attributes) - 1),
     .attribute_map = k_FloatingPointValueType_attributes,
-    .element_map = lmx::k_no_events,
-    .operations = &lmx::k_operations<FloatingPointValueType>,
+    .element_map = k_no_events,
+    .operations = &k_operations<FloatingPointValueType>,
 };
 
 FloatingPointValueType::FloatingPointValueType() = default;
@@ -700,34 +729,37 @@ lmx::elmx_error FloatingPointValueType::set_FloatingPointValueType(double value)
 // DensityType
 
 namespace {
-constexpr lmx::s_event_map k_DensityType_attributes[] = {
-    lmx::attribute_event("DensityStatus", attribute_DensityStatus),
-    lmx::attribute_event("DensityFilter", attribute_DensityFilter),
-    lmx::k_end_of_map,
+constexpr s_event_map k_DensityType_attributes[] = {
+    attribute_event("DensityStatus", attribute_DensityStatus),
+    attribute_event("DensityFilter", attribute_DensityFilter),
+    k_end_of_map,
 };
 }  // namespace
 
-constinit const lmx::s_item DensityType::k_items[] = {
-    {lmx::item_kind::attribute, lmx::value_kind::text, lmx::use_required, lmx::ELMX_WS_PRESERVE, "DensityStatus", attribute_DensityStatus, LMX_OFFSET(DensityType, m_DensityStatus, attribute, text), LMX_FLAG(DensityType, m_isset_DensityStatus), 0, 0, nullptr, &facets::DensityStatusKind, {}},
-    {lmx::item_kind::attribute, lmx::value_kind::text, lmx::use_required, lmx::ELMX_WS_PRESERVE, "DensityFilter", attribute_DensityFilter, LMX_OFFSET(DensityType, m_DensityFilter, attribute, text), LMX_FLAG(DensityType, m_isset_DensityFilter), 0, 0, nullptr, &facets::DensityFilterKind, {}},
-    {lmx::item_kind::content, lmx::value_kind::number, lmx::use_required, lmx::ELMX_WS_COLLAPSE, "", 0, LMX_OFFSET(DensityType, m_DensityType, content, number), LMX_FLAG(DensityType, m_isset_DensityType), 0, 0, nullptr, nullptr, {}},
+constinit const s_item DensityType::k_items[] = {
+    {item_kind::attribute, value_kind::text, use_required, ELMX_WS_PRESERVE, "DensityStatus", attribute_DensityStatus,
+     LMX_OFFSET(DensityType, m_DensityStatus, attribute, text), LMX_FLAG(DensityType, m_isset_DensityStatus), 0, 0, nullptr, &facets::DensityStatusKind, {}},
+    {item_kind::attribute, value_kind::text, use_required, ELMX_WS_PRESERVE, "DensityFilter", attribute_DensityFilter,
+     LMX_OFFSET(DensityType, m_DensityFilter, attribute, text), LMX_FLAG(DensityType, m_isset_DensityFilter), 0, 0, nullptr, &facets::DensityFilterKind, {}},
+    {item_kind::content, value_kind::number, use_required, ELMX_WS_COLLAPSE, "", 0,
+     LMX_OFFSET(DensityType, m_DensityType, content, number), LMX_FLAG(DensityType, m_isset_DensityType), 0, 0, nullptr, nullptr, {}},
 };
-constinit const lmx::s_class DensityType::k_class = {
+constinit const s_class DensityType::k_class = {
     .name = "DensityType",
     .qualified_name = "Vyr:DensityType",
     .base = nullptr,
-    .content = lmx::content_kind::simple,
+    .content = content_kind::simple,
     .may_be_empty = false,
     .ns_map = k_ns_map,
-    .nil_flag = lmx::k_no_flag,
-    .choice = lmx::k_no_flag,
+    .nil_flag = k_no_flag,
+    .choice = k_no_flag,
     .id = nullptr,
     .xsi_type = nullptr,
     .attributes = std::span(k_items).first(std::size(k_DensityType_attributes) - 1),
     .elements = std::span(k_items).subspan(std::size(k_DensityType_attributes) - 1),
     .attribute_map = k_DensityType_attributes,
-    .element_map = lmx::k_no_events,
-    .operations = &lmx::k_operations<DensityType>,
+    .element_map = k_no_events,
+    .operations = &k_operations<DensityType>,
 };
 
 DensityType::DensityType() = default;

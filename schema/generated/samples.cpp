@@ -18,60 +18,69 @@
 
 namespace com_vyrgraph_v2 {
 
-static_assert(lmx::k_binding_version == 1, "run schema/generator/generate.py");
+using namespace lmx;  // for the tables' sake
+
+static_assert(k_binding_version == 1, "run schema/generator/generate.py");
 
 // SampleType
 
 namespace {
-constexpr lmx::s_event_map k_SampleType_elements[] = {
-    lmx::element_event("CustomAttribute", element_CustomAttribute),
-    lmx::element_event("SubstratePaper", element_SubstratePaper),
-    lmx::element_event("SubstrateGeneric", element_SubstrateGeneric),
-    lmx::element_event("SubstrateMetal", element_SubstrateMetal),
-    lmx::element_event("SubstratePlastic", element_SubstratePlastic),
-    lmx::element_event("SubstrateWood", element_SubstrateWood),
-    lmx::element_event("SubstrateVinyl", element_SubstrateVinyl),
-    lmx::element_event("SubstrateTile", element_SubstrateTile),
-    lmx::element_event("SubstrateFilm", element_SubstrateFilm),
-    lmx::element_event("SubstrateTextile", element_SubstrateTextile),
-    lmx::element_event("Backing", element_Backing),
-    lmx::element_event("Manufacturer", element_Manufacturer),
-    lmx::element_event("ProductionDate", element_ProductionDate),
-    lmx::element_event("SerialNumber", element_SerialNumber),
-    lmx::element_event("Comment", element_Comment),
-    lmx::k_end_of_map,
+constexpr s_event_map k_SampleType_elements[] = {
+    element_event("CustomAttribute", element_CustomAttribute),
+    element_event("SubstratePaper", element_SubstratePaper),
+    element_event("SubstrateGeneric", element_SubstrateGeneric),
+    element_event("SubstrateMetal", element_SubstrateMetal),
+    element_event("SubstratePlastic", element_SubstratePlastic),
+    element_event("SubstrateWood", element_SubstrateWood),
+    element_event("SubstrateVinyl", element_SubstrateVinyl),
+    element_event("SubstrateTile", element_SubstrateTile),
+    element_event("SubstrateFilm", element_SubstrateFilm),
+    element_event("SubstrateTextile", element_SubstrateTextile),
+    element_event("Backing", element_Backing),
+    element_event("Manufacturer", element_Manufacturer),
+    element_event("ProductionDate", element_ProductionDate),
+    element_event("SerialNumber", element_SerialNumber),
+    element_event("Comment", element_Comment),
+    k_end_of_map,
 };
 }  // namespace
 
-constinit const lmx::s_item SampleType::k_items[] = {
-    {lmx::item_kind::child_list, lmx::value_kind::none, lmx::use_optional, lmx::ELMX_WS_PRESERVE, "Vyr:CustomAttribute", element_CustomAttribute, LMX_OFFSET(SampleType, m_CustomAttribute, child_list, none), lmx::k_no_flag, lmx::position_of(k_SampleType_elements, element_CustomAttribute), lmx::position_of(k_SampleType_elements, element_CustomAttribute, 1), &CustomAttributeType::k_class, nullptr, {}},
-    {lmx::item_kind::group, lmx::value_kind::none, lmx::use_asked | lmx::use_written | lmx::use_copied | lmx::use_lax, lmx::ELMX_WS_PRESERVE, "Vyr:Substrate", 0, LMX_OFFSET(SampleType, m_Substrate, group, none), LMX_FLAG(SampleType, m_isset_Substrate), lmx::position_of(k_SampleType_elements, element_SubstratePaper), lmx::position_of(k_SampleType_elements, element_SubstratePaper, 9), &sg_Substrate::k_class, nullptr, {}},
-    {lmx::item_kind::element, lmx::value_kind::text, lmx::use_optional, lmx::ELMX_WS_PRESERVE, "Vyr:Backing", element_Backing, LMX_OFFSET(SampleType, m_Backing, element, text), LMX_FLAG(SampleType, m_isset_Backing), lmx::position_of(k_SampleType_elements, element_Backing), lmx::position_of(k_SampleType_elements, element_Backing, 1), nullptr, &facets::BackingKind, {}},
-    {lmx::item_kind::element, lmx::value_kind::text, lmx::use_optional, lmx::ELMX_WS_PRESERVE, "Vyr:Manufacturer", element_Manufacturer, LMX_OFFSET(SampleType, m_Manufacturer, element, text), LMX_FLAG(SampleType, m_isset_Manufacturer), lmx::position_of(k_SampleType_elements, element_Manufacturer), lmx::position_of(k_SampleType_elements, element_Manufacturer, 1), nullptr, nullptr, {}},
-    {lmx::item_kind::element, lmx::value_kind::datetime, lmx::use_optional, lmx::ELMX_WS_COLLAPSE, "Vyr:ProductionDate", element_ProductionDate, LMX_OFFSET(SampleType, m_ProductionDate, element, datetime), LMX_FLAG(SampleType, m_isset_ProductionDate), lmx::position_of(k_SampleType_elements, element_ProductionDate), lmx::position_of(k_SampleType_elements, element_ProductionDate, 1), nullptr, &facets::DateTimeZone, {}},
-    {lmx::item_kind::element, lmx::value_kind::text, lmx::use_optional, lmx::ELMX_WS_PRESERVE, "Vyr:SerialNumber", element_SerialNumber, LMX_OFFSET(SampleType, m_SerialNumber, element, text), LMX_FLAG(SampleType, m_isset_SerialNumber), lmx::position_of(k_SampleType_elements, element_SerialNumber), lmx::position_of(k_SampleType_elements, element_SerialNumber, 1), nullptr, nullptr, {}},
-    {lmx::item_kind::element, lmx::value_kind::text, lmx::use_optional, lmx::ELMX_WS_PRESERVE, "Vyr:Comment", element_Comment, LMX_OFFSET(SampleType, m_Comment, element, text), LMX_FLAG(SampleType, m_isset_Comment), lmx::position_of(k_SampleType_elements, element_Comment), lmx::position_of(k_SampleType_elements, element_Comment, 1), nullptr, nullptr, {}},
+constinit const s_item SampleType::k_items[] = {
+    {item_kind::child_list, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:CustomAttribute", element_CustomAttribute,
+     LMX_OFFSET(SampleType, m_CustomAttribute, child_list, none), k_no_flag, position_of(k_SampleType_elements, element_CustomAttribute), position_of(k_SampleType_elements, element_CustomAttribute, 1), &CustomAttributeType::k_class, nullptr, {}},
+    {item_kind::group, value_kind::none, use_asked | use_written | use_copied | use_lax, ELMX_WS_PRESERVE, "Vyr:Substrate", 0,
+     LMX_OFFSET(SampleType, m_Substrate, group, none), LMX_FLAG(SampleType, m_isset_Substrate), position_of(k_SampleType_elements, element_SubstratePaper), position_of(k_SampleType_elements, element_SubstratePaper, 9), &sg_Substrate::k_class, nullptr, {}},
+    {item_kind::element, value_kind::text, use_optional, ELMX_WS_PRESERVE, "Vyr:Backing", element_Backing,
+     LMX_OFFSET(SampleType, m_Backing, element, text), LMX_FLAG(SampleType, m_isset_Backing), position_of(k_SampleType_elements, element_Backing), position_of(k_SampleType_elements, element_Backing, 1), nullptr, &facets::BackingKind, {}},
+    {item_kind::element, value_kind::text, use_optional, ELMX_WS_PRESERVE, "Vyr:Manufacturer", element_Manufacturer,
+     LMX_OFFSET(SampleType, m_Manufacturer, element, text), LMX_FLAG(SampleType, m_isset_Manufacturer), position_of(k_SampleType_elements, element_Manufacturer), position_of(k_SampleType_elements, element_Manufacturer, 1), nullptr, nullptr, {}},
+    {item_kind::element, value_kind::datetime, use_optional, ELMX_WS_COLLAPSE, "Vyr:ProductionDate", element_ProductionDate,
+     LMX_OFFSET(SampleType, m_ProductionDate, element, datetime), LMX_FLAG(SampleType, m_isset_ProductionDate), position_of(k_SampleType_elements, element_ProductionDate), position_of(k_SampleType_elements, element_ProductionDate, 1), nullptr, &facets::DateTimeZone, {}},
+    {item_kind::element, value_kind::text, use_optional, ELMX_WS_PRESERVE, "Vyr:SerialNumber", element_SerialNumber,
+     LMX_OFFSET(SampleType, m_SerialNumber, element, text), LMX_FLAG(SampleType, m_isset_SerialNumber), position_of(k_SampleType_elements, element_SerialNumber), position_of(k_SampleType_elements, element_SerialNumber, 1), nullptr, nullptr, {}},
+    {item_kind::element, value_kind::text, use_optional, ELMX_WS_PRESERVE, "Vyr:Comment", element_Comment,
+     LMX_OFFSET(SampleType, m_Comment, element, text), LMX_FLAG(SampleType, m_isset_Comment), position_of(k_SampleType_elements, element_Comment), position_of(k_SampleType_elements, element_Comment, 1), nullptr, nullptr, {}},
 };
-constinit const lmx::s_factory_row SampleType::k_factory[] = {
+constinit const s_factory_row SampleType::k_factory[] = {
     {"SampleSpotType", &SampleSpotType::k_class},
     {"SampleTargetType", &SampleTargetType::k_class},
 };
-constinit const lmx::s_class SampleType::k_class = {
+constinit const s_class SampleType::k_class = {
     .name = "SampleType",
     .qualified_name = "Vyr:SampleType",
     .base = nullptr,
-    .content = lmx::content_kind::children,
+    .content = content_kind::children,
     .may_be_empty = false,
     .ns_map = k_ns_map,
-    .nil_flag = lmx::k_no_flag,
-    .choice = lmx::k_no_flag,
+    .nil_flag = k_no_flag,
+    .choice = k_no_flag,
     .id = &SampleType::id,
     .xsi_type = "Vyr:SampleType",
-    .attributes = std::span(k_items).first(std::size(lmx::k_no_events) - 1),
-    .elements = std::span(k_items).subspan(std::size(lmx::k_no_events) - 1),
-    .attribute_map = lmx::k_no_events,
+    .attributes = std::span(k_items).first(std::size(k_no_events) - 1),
+    .elements = std::span(k_items).subspan(std::size(k_no_events) - 1),
+    .attribute_map = k_no_events,
     .element_map = k_SampleType_elements,
-    .operations = &lmx::k_operations<SampleType>,
+    .operations = &k_operations<SampleType>,
 };
 
 SampleType::SampleType() = default;
@@ -116,40 +125,42 @@ lmx::elmx_error Sample::marshal(lmx::c_xml_writer& writer, const char* name) con
     return SampleType::marshal(writer, name);
 }
 lmx::elmx_error Sample::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return SampleType::unmarshal(reader, name); }
-const lmx::s_document Sample::k_document = {"Vyr:Sample", "Sample", k_ns_map, &lmx::k_operations<Sample>};
+constinit const lmx::s_document Sample::k_document = {"Vyr:Sample", "Sample", k_ns_map, &lmx::k_operations<Sample>};
 const lmx::s_ns_map* Sample::ns_map() { return k_ns_map; }
 lmx::elmx_error Sample::unmarshal(lmx::c_xml_reader& reader) { return lmx::unmarshal_document(k_document, this, reader); }
 
 // Specification
 
 namespace {
-constexpr lmx::s_event_map k_Specification_elements[] = {
-    lmx::element_event("SampleWidth", element_SampleWidth),
-    lmx::element_event("SampleHeight", element_SampleHeight),
-    lmx::k_end_of_map,
+constexpr s_event_map k_Specification_elements[] = {
+    element_event("SampleWidth", element_SampleWidth),
+    element_event("SampleHeight", element_SampleHeight),
+    k_end_of_map,
 };
 }  // namespace
 
-constinit const lmx::s_item Specification::k_items[] = {
-    {lmx::item_kind::element, lmx::value_kind::number, lmx::use_required, lmx::ELMX_WS_COLLAPSE, "Vyr:SampleWidth", element_SampleWidth, LMX_OFFSET(Specification, m_SampleWidth, element, number), LMX_FLAG(Specification, m_isset_SampleWidth), lmx::position_of(k_Specification_elements, element_SampleWidth), lmx::position_of(k_Specification_elements, element_SampleWidth, 1), nullptr, nullptr, {}},
-    {lmx::item_kind::element, lmx::value_kind::number, lmx::use_required, lmx::ELMX_WS_COLLAPSE, "Vyr:SampleHeight", element_SampleHeight, LMX_OFFSET(Specification, m_SampleHeight, element, number), LMX_FLAG(Specification, m_isset_SampleHeight), lmx::position_of(k_Specification_elements, element_SampleHeight), lmx::position_of(k_Specification_elements, element_SampleHeight, 1), nullptr, nullptr, {}},
+constinit const s_item Specification::k_items[] = {
+    {item_kind::element, value_kind::number, use_required, ELMX_WS_COLLAPSE, "Vyr:SampleWidth", element_SampleWidth,
+     LMX_OFFSET(Specification, m_SampleWidth, element, number), LMX_FLAG(Specification, m_isset_SampleWidth), position_of(k_Specification_elements, element_SampleWidth), position_of(k_Specification_elements, element_SampleWidth, 1), nullptr, nullptr, {}},
+    {item_kind::element, value_kind::number, use_required, ELMX_WS_COLLAPSE, "Vyr:SampleHeight", element_SampleHeight,
+     LMX_OFFSET(Specification, m_SampleHeight, element, number), LMX_FLAG(Specification, m_isset_SampleHeight), position_of(k_Specification_elements, element_SampleHeight), position_of(k_Specification_elements, element_SampleHeight, 1), nullptr, nullptr, {}},
 };
-constinit const lmx::s_class Specification::k_class = {
+constinit const s_class Specification::k_class = {
     .name = "Specification",
     .qualified_name = "Vyr:Specification",
     .base = nullptr,
-    .content = lmx::content_kind::children,
+    .content = content_kind::children,
     .may_be_empty = false,
     .ns_map = nullptr,
-    .nil_flag = lmx::k_no_flag,
-    .choice = lmx::k_no_flag,
+    .nil_flag = k_no_flag,
+    .choice = k_no_flag,
     .id = nullptr,
     .xsi_type = nullptr,
-    .attributes = std::span(k_items).first(std::size(lmx::k_no_events) - 1),
-    .elements = std::span(k_items).subspan(std::size(lmx::k_no_events) - 1),
-    .attribute_map = lmx::k_no_events,
+    .attributes = std::span(k_items).first(std::size(k_no_events) - 1),
+    .elements = std::span(k_items).subspan(std::size(k_no_events) - 1),
+    .attribute_map = k_no_events,
     .element_map = k_Specification_elements,
-    .operations = &lmx::k_operations<Specification>,
+    .operations = &k_operations<Specification>,
 };
 
 Specification::Specification() = default;
@@ -172,31 +183,32 @@ lmx::elmx_error Specification::set_SampleHeight(double value) { return lmx::set_
 // SampleSpotType
 
 namespace {
-constexpr lmx::s_event_map k_SampleSpotType_elements[] = {
-    lmx::element_event("Specification", element_Specification),
-    lmx::k_end_of_map,
+constexpr s_event_map k_SampleSpotType_elements[] = {
+    element_event("Specification", element_Specification),
+    k_end_of_map,
 };
 }  // namespace
 
-constinit const lmx::s_item SampleSpotType::k_items[] = {
-    {lmx::item_kind::child, lmx::value_kind::none, lmx::use_required, lmx::ELMX_WS_PRESERVE, "Vyr:Specification", element_Specification, LMX_OFFSET(SampleSpotType, m_Specification, child, none), LMX_FLAG(SampleSpotType, m_isset_Specification), lmx::position_of(k_SampleSpotType_elements, element_Specification), lmx::position_of(k_SampleSpotType_elements, element_Specification, 1), &Specification::k_class, nullptr, {}},
+constinit const s_item SampleSpotType::k_items[] = {
+    {item_kind::child, value_kind::none, use_required, ELMX_WS_PRESERVE, "Vyr:Specification", element_Specification,
+     LMX_OFFSET(SampleSpotType, m_Specification, child, none), LMX_FLAG(SampleSpotType, m_isset_Specification), position_of(k_SampleSpotType_elements, element_Specification), position_of(k_SampleSpotType_elements, element_Specification, 1), &Specification::k_class, nullptr, {}},
 };
-constinit const lmx::s_class SampleSpotType::k_class = {
+constinit const s_class SampleSpotType::k_class = {
     .name = "SampleSpotType",
     .qualified_name = "Vyr:SampleSpotType",
     .base = &SampleType::k_class,
-    .content = lmx::content_kind::children,
+    .content = content_kind::children,
     .may_be_empty = false,
     .ns_map = k_ns_map,
-    .nil_flag = lmx::k_no_flag,
-    .choice = lmx::k_no_flag,
+    .nil_flag = k_no_flag,
+    .choice = k_no_flag,
     .id = &SampleSpotType::id,
     .xsi_type = "Vyr:SampleSpotType",
-    .attributes = std::span(k_items).first(std::size(lmx::k_no_events) - 1),
-    .elements = std::span(k_items).subspan(std::size(lmx::k_no_events) - 1),
-    .attribute_map = lmx::k_no_events,
+    .attributes = std::span(k_items).first(std::size(k_no_events) - 1),
+    .elements = std::span(k_items).subspan(std::size(k_no_events) - 1),
+    .attribute_map = k_no_events,
     .element_map = k_SampleSpotType_elements,
-    .operations = &lmx::k_operations<SampleSpotType>,
+    .operations = &k_operations<SampleSpotType>,
 };
 
 SampleSpotType::SampleSpotType() = default;
@@ -223,36 +235,38 @@ Specification& SampleSpotType::assign_Specification(const Specification& value) 
 // SampleTargetType
 
 namespace {
-constexpr lmx::s_event_map k_SampleTargetType_attributes[] = {
-    lmx::attribute_event("CustomTarget", attribute_CustomTarget),
-    lmx::k_end_of_map,
+constexpr s_event_map k_SampleTargetType_attributes[] = {
+    attribute_event("CustomTarget", attribute_CustomTarget),
+    k_end_of_map,
 };
-constexpr lmx::s_event_map k_SampleTargetType_elements[] = {
-    lmx::element_event("Target", element_Target),
-    lmx::k_end_of_map,
+constexpr s_event_map k_SampleTargetType_elements[] = {
+    element_event("Target", element_Target),
+    k_end_of_map,
 };
 }  // namespace
 
-constinit const lmx::s_item SampleTargetType::k_items[] = {
-    {lmx::item_kind::attribute, lmx::value_kind::text, lmx::use_optional, lmx::ELMX_WS_PRESERVE, "CustomTarget", attribute_CustomTarget, LMX_OFFSET(SampleTargetType, m_CustomTarget, attribute, text), LMX_FLAG(SampleTargetType, m_isset_CustomTarget), 0, 0, nullptr, nullptr, {}},
-    {lmx::item_kind::element, lmx::value_kind::text, lmx::use_required, lmx::ELMX_WS_PRESERVE, "Vyr:Target", element_Target, LMX_OFFSET(SampleTargetType, m_Target, element, text), LMX_FLAG(SampleTargetType, m_isset_Target), lmx::position_of(k_SampleTargetType_elements, element_Target), lmx::position_of(k_SampleTargetType_elements, element_Target, 1), nullptr, &facets::TargetKind, {}},
+constinit const s_item SampleTargetType::k_items[] = {
+    {item_kind::attribute, value_kind::text, use_optional, ELMX_WS_PRESERVE, "CustomTarget", attribute_CustomTarget,
+     LMX_OFFSET(SampleTargetType, m_CustomTarget, attribute, text), LMX_FLAG(SampleTargetType, m_isset_CustomTarget), 0, 0, nullptr, nullptr, {}},
+    {item_kind::element, value_kind::text, use_required, ELMX_WS_PRESERVE, "Vyr:Target", element_Target,
+     LMX_OFFSET(SampleTargetType, m_Target, element, text), LMX_FLAG(SampleTargetType, m_isset_Target), position_of(k_SampleTargetType_elements, element_Target), position_of(k_SampleTargetType_elements, element_Target, 1), nullptr, &facets::TargetKind, {}},
 };
-constinit const lmx::s_class SampleTargetType::k_class = {
+constinit const s_class SampleTargetType::k_class = {
     .name = "SampleTargetType",
     .qualified_name = "Vyr:SampleTargetType",
     .base = &SampleType::k_class,
-    .content = lmx::content_kind::children,
+    .content = content_kind::children,
     .may_be_empty = false,
     .ns_map = k_ns_map,
-    .nil_flag = lmx::k_no_flag,
-    .choice = lmx::k_no_flag,
+    .nil_flag = k_no_flag,
+    .choice = k_no_flag,
     .id = &SampleTargetType::id,
     .xsi_type = "Vyr:SampleTargetType",
     .attributes = std::span(k_items).first(std::size(k_SampleTargetType_attributes) - 1),
     .elements = std::span(k_items).subspan(std::size(k_SampleTargetType_attributes) - 1),
     .attribute_map = k_SampleTargetType_attributes,
     .element_map = k_SampleTargetType_elements,
-    .operations = &lmx::k_operations<SampleTargetType>,
+    .operations = &k_operations<SampleTargetType>,
 };
 
 SampleTargetType::SampleTargetType() = default;
@@ -286,7 +300,7 @@ lmx::elmx_error SampleSpot::marshal(lmx::c_xml_writer& writer, const char* name)
     return SampleSpotType::marshal(writer, name);
 }
 lmx::elmx_error SampleSpot::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return SampleSpotType::unmarshal(reader, name); }
-const lmx::s_document SampleSpot::k_document = {"Vyr:SampleSpot", "SampleSpot", k_ns_map, &lmx::k_operations<SampleSpot>};
+constinit const lmx::s_document SampleSpot::k_document = {"Vyr:SampleSpot", "SampleSpot", k_ns_map, &lmx::k_operations<SampleSpot>};
 const lmx::s_ns_map* SampleSpot::ns_map() { return k_ns_map; }
 lmx::elmx_error SampleSpot::unmarshal(lmx::c_xml_reader& reader) { return lmx::unmarshal_document(k_document, this, reader); }
 SampleSpot::SampleSpot(const char* file_name, lmx::elmx_error* error) : SampleSpot() { *error = unmarshal(file_name); }
@@ -306,7 +320,7 @@ lmx::elmx_error SampleTarget::marshal(lmx::c_xml_writer& writer, const char* nam
     return SampleTargetType::marshal(writer, name);
 }
 lmx::elmx_error SampleTarget::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return SampleTargetType::unmarshal(reader, name); }
-const lmx::s_document SampleTarget::k_document = {"Vyr:SampleTarget", "SampleTarget", k_ns_map, &lmx::k_operations<SampleTarget>};
+constinit const lmx::s_document SampleTarget::k_document = {"Vyr:SampleTarget", "SampleTarget", k_ns_map, &lmx::k_operations<SampleTarget>};
 const lmx::s_ns_map* SampleTarget::ns_map() { return k_ns_map; }
 lmx::elmx_error SampleTarget::unmarshal(lmx::c_xml_reader& reader) { return lmx::unmarshal_document(k_document, this, reader); }
 SampleTarget::SampleTarget(const char* file_name, lmx::elmx_error* error) : SampleTarget() { *error = unmarshal(file_name); }

@@ -18,37 +18,41 @@
 
 namespace com_vyrgraph_v2 {
 
-static_assert(lmx::k_binding_version == 1, "run schema/generator/generate.py");
+using namespace lmx;  // for the tables' sake
+
+static_assert(k_binding_version == 1, "run schema/generator/generate.py");
 
 // DeviceFilterType
 
 namespace {
-constexpr lmx::s_event_map k_DeviceFilterType_attributes[] = {
-    lmx::attribute_event("CustomOrPartial", attribute_CustomOrPartial),
-    lmx::k_end_of_map,
+constexpr s_event_map k_DeviceFilterType_attributes[] = {
+    attribute_event("CustomOrPartial", attribute_CustomOrPartial),
+    k_end_of_map,
 };
 }  // namespace
 
-constinit const lmx::s_item DeviceFilterType::k_items[] = {
-    {lmx::item_kind::attribute, lmx::value_kind::text, lmx::use_optional, lmx::ELMX_WS_PRESERVE, "CustomOrPartial", attribute_CustomOrPartial, LMX_OFFSET(DeviceFilterType, m_CustomOrPartial, attribute, text), LMX_FLAG(DeviceFilterType, m_isset_CustomOrPartial), 0, 0, nullptr, nullptr, {}},
-    {lmx::item_kind::content, lmx::value_kind::text, lmx::use_required, lmx::ELMX_WS_PRESERVE, "", 0, LMX_OFFSET(DeviceFilterType, m_DeviceFilterType, content, text), LMX_FLAG(DeviceFilterType, m_isset_DeviceFilterType), 0, 0, nullptr, &facets::DeviceFilterKind, {}},
+constinit const s_item DeviceFilterType::k_items[] = {
+    {item_kind::attribute, value_kind::text, use_optional, ELMX_WS_PRESERVE, "CustomOrPartial", attribute_CustomOrPartial,
+     LMX_OFFSET(DeviceFilterType, m_CustomOrPartial, attribute, text), LMX_FLAG(DeviceFilterType, m_isset_CustomOrPartial), 0, 0, nullptr, nullptr, {}},
+    {item_kind::content, value_kind::text, use_required, ELMX_WS_PRESERVE, "", 0,
+     LMX_OFFSET(DeviceFilterType, m_DeviceFilterType, content, text), LMX_FLAG(DeviceFilterType, m_isset_DeviceFilterType), 0, 0, nullptr, &facets::DeviceFilterKind, {}},
 };
-constinit const lmx::s_class DeviceFilterType::k_class = {
+constinit const s_class DeviceFilterType::k_class = {
     .name = "DeviceFilterType",
     .qualified_name = "Vyr:DeviceFilterType",
     .base = nullptr,
-    .content = lmx::content_kind::simple,
+    .content = content_kind::simple,
     .may_be_empty = false,
     .ns_map = k_ns_map,
-    .nil_flag = lmx::k_no_flag,
-    .choice = lmx::k_no_flag,
+    .nil_flag = k_no_flag,
+    .choice = k_no_flag,
     .id = nullptr,
     .xsi_type = nullptr,
     .attributes = std::span(k_items).first(std::size(k_DeviceFilterType_attributes) - 1),
     .elements = std::span(k_items).subspan(std::size(k_DeviceFilterType_attributes) - 1),
     .attribute_map = k_DeviceFilterType_attributes,
-    .element_map = lmx::k_no_events,
-    .operations = &lmx::k_operations<DeviceFilterType>,
+    .element_map = k_no_events,
+    .operations = &k_operations<DeviceFilterType>,
 };
 
 DeviceFilterType::DeviceFilterType() = default;
@@ -72,22 +76,22 @@ bool DeviceFilterType::setenum_DeviceFilterType(std::int32_t number) { return lm
 
 // DeviceFilter
 
-constinit const lmx::s_class DeviceFilter::k_class = {
+constinit const s_class DeviceFilter::k_class = {
     .name = "DeviceFilter",
     .qualified_name = "Vyr:DeviceFilter",
     .base = &DeviceFilterType::k_class,
-    .content = lmx::content_kind::simple,
+    .content = content_kind::simple,
     .may_be_empty = false,
     .ns_map = nullptr,
     .nil_flag = LMX_FLAG(DeviceFilter, m_isnil),
-    .choice = lmx::k_no_flag,
+    .choice = k_no_flag,
     .id = nullptr,
     .xsi_type = nullptr,
     .attributes = {},
     .elements = {},
-    .attribute_map = lmx::k_no_events,
-    .element_map = lmx::k_no_events,
-    .operations = &lmx::k_operations<DeviceFilter>,
+    .attribute_map = k_no_events,
+    .element_map = k_no_events,
+    .operations = &k_operations<DeviceFilter>,
 };
 
 DeviceFilter::DeviceFilter() = default;
@@ -117,25 +121,26 @@ bool DeviceFilter::setenum_DeviceFilterType(std::int32_t number) {
 
 // DevicePolarization
 
-constinit const lmx::s_item DevicePolarization::k_items[] = {
-    {lmx::item_kind::content, lmx::value_kind::boolean, lmx::use_required, lmx::ELMX_WS_COLLAPSE, "", 0, LMX_OFFSET(DevicePolarization, m_DevicePolarization, content, boolean), LMX_FLAG(DevicePolarization, m_isset_DevicePolarization), 0, 0, nullptr, nullptr, {}},
+constinit const s_item DevicePolarization::k_items[] = {
+    {item_kind::content, value_kind::boolean, use_required, ELMX_WS_COLLAPSE, "", 0,
+     LMX_OFFSET(DevicePolarization, m_DevicePolarization, content, boolean), LMX_FLAG(DevicePolarization, m_isset_DevicePolarization), 0, 0, nullptr, nullptr, {}},
 };
-constinit const lmx::s_class DevicePolarization::k_class = {
+constinit const s_class DevicePolarization::k_class = {
     .name = "DevicePolarization",
     .qualified_name = "Vyr:DevicePolarization",
     .base = nullptr,
-    .content = lmx::content_kind::simple,
+    .content = content_kind::simple,
     .may_be_empty = false,
     .ns_map = nullptr,
     .nil_flag = LMX_FLAG(DevicePolarization, m_isnil),
-    .choice = lmx::k_no_flag,
+    .choice = k_no_flag,
     .id = nullptr,
     .xsi_type = nullptr,
-    .attributes = std::span(k_items).first(std::size(lmx::k_no_events) - 1),
-    .elements = std::span(k_items).subspan(std::size(lmx::k_no_events) - 1),
-    .attribute_map = lmx::k_no_events,
-    .element_map = lmx::k_no_events,
-    .operations = &lmx::k_operations<DevicePolarization>,
+    .attributes = std::span(k_items).first(std::size(k_no_events) - 1),
+    .elements = std::span(k_items).subspan(std::size(k_no_events) - 1),
+    .attribute_map = k_no_events,
+    .element_map = k_no_events,
+    .operations = &k_operations<DevicePolarization>,
 };
 
 DevicePolarization::DevicePolarization() = default;
@@ -157,33 +162,41 @@ lmx::elmx_error DevicePolarization::set_DevicePolarization(bool value) { return 
 // ColorSpaceSpecificationType
 
 namespace {
-constexpr lmx::s_event_map k_ColorSpaceSpecificationType_attributes[] = {
-    lmx::attribute_event("Comments", attribute_Comments),
-    lmx::attribute_event("UniqueID", attribute_UniqueID),
-    lmx::k_end_of_map,
+constexpr s_event_map k_ColorSpaceSpecificationType_attributes[] = {
+    attribute_event("Comments", attribute_Comments),
+    attribute_event("UniqueID", attribute_UniqueID),
+    k_end_of_map,
 };
-constexpr lmx::s_event_map k_ColorSpaceSpecificationType_elements[] = {
-    lmx::element_event("CustomAttribute", element_CustomAttribute),
-    lmx::element_event("Profile", element_Profile),
-    lmx::element_event("Device", element_Device),
-    lmx::element_event("DeviceFilter", element_DeviceFilter),
-    lmx::element_event("DevicePolarization", element_DevicePolarization),
-    lmx::element_event("ChangeHistory", element_ChangeHistory),
-    lmx::k_end_of_map,
+constexpr s_event_map k_ColorSpaceSpecificationType_elements[] = {
+    element_event("CustomAttribute", element_CustomAttribute),
+    element_event("Profile", element_Profile),
+    element_event("Device", element_Device),
+    element_event("DeviceFilter", element_DeviceFilter),
+    element_event("DevicePolarization", element_DevicePolarization),
+    element_event("ChangeHistory", element_ChangeHistory),
+    k_end_of_map,
 };
 }  // namespace
 
-constinit const lmx::s_item ColorSpaceSpecificationType::k_items[] = {
-    {lmx::item_kind::attribute, lmx::value_kind::text, lmx::use_optional, lmx::ELMX_WS_PRESERVE, "Comments", attribute_Comments, LMX_OFFSET(ColorSpaceSpecificationType, m_Comments, attribute, text), LMX_FLAG(ColorSpaceSpecificationType, m_isset_Comments), 0, 0, nullptr, nullptr, {}},
-    {lmx::item_kind::attribute, lmx::value_kind::text, lmx::use_optional, lmx::ELMX_WS_PRESERVE, "UniqueID", attribute_UniqueID, LMX_OFFSET(ColorSpaceSpecificationType, m_UniqueID, attribute, text), LMX_FLAG(ColorSpaceSpecificationType, m_isset_UniqueID), 0, 0, nullptr, nullptr, {}},
-    {lmx::item_kind::child_list, lmx::value_kind::none, lmx::use_optional, lmx::ELMX_WS_PRESERVE, "Vyr:CustomAttribute", element_CustomAttribute, LMX_OFFSET(ColorSpaceSpecificationType, m_CustomAttribute, child_list, none), lmx::k_no_flag, lmx::position_of(k_ColorSpaceSpecificationType_elements, element_CustomAttribute), lmx::position_of(k_ColorSpaceSpecificationType_elements, element_CustomAttribute, 1), &CustomAttributeType::k_class, nullptr, {}},
-    {lmx::item_kind::child, lmx::value_kind::none, lmx::use_optional, lmx::ELMX_WS_PRESERVE, "Vyr:Profile", element_Profile, LMX_OFFSET(ColorSpaceSpecificationType, m_Profile, child, none), LMX_FLAG(ColorSpaceSpecificationType, m_isset_Profile), lmx::position_of(k_ColorSpaceSpecificationType_elements, element_Profile), lmx::position_of(k_ColorSpaceSpecificationType_elements, element_Profile, 1), &ProfileType::k_class, nullptr, {}},
-    {lmx::item_kind::child, lmx::value_kind::none, lmx::use_optional, lmx::ELMX_WS_PRESERVE, "Vyr:Device", element_Device, LMX_OFFSET(ColorSpaceSpecificationType, m_Device, child, none), LMX_FLAG(ColorSpaceSpecificationType, m_isset_Device), lmx::position_of(k_ColorSpaceSpecificationType_elements, element_Device), lmx::position_of(k_ColorSpaceSpecificationType_elements, element_Device, 1), &DeviceType::k_class, nullptr, {}},
-    {lmx::item_kind::child, lmx::value_kind::none, lmx::use_written, lmx::ELMX_WS_PRESERVE, "Vyr:DeviceFilter", element_DeviceFilter, LMX_OFFSET(ColorSpaceSpecificationType, m_DeviceFilter, child, none), LMX_FLAG(ColorSpaceSpecificationType, m_isset_DeviceFilter), lmx::position_of(k_ColorSpaceSpecificationType_elements, element_DeviceFilter), lmx::position_of(k_ColorSpaceSpecificationType_elements, element_DeviceFilter, 1), &DeviceFilter::k_class, nullptr, {}},
-    {lmx::item_kind::child, lmx::value_kind::none, lmx::use_required, lmx::ELMX_WS_PRESERVE, "Vyr:DevicePolarization", element_DevicePolarization, LMX_OFFSET(ColorSpaceSpecificationType, m_DevicePolarization, child, none), LMX_FLAG(ColorSpaceSpecificationType, m_isset_DevicePolarization), lmx::position_of(k_ColorSpaceSpecificationType_elements, element_DevicePolarization), lmx::position_of(k_ColorSpaceSpecificationType_elements, element_DevicePolarization, 1), &DevicePolarization::k_class, nullptr, {}},
-    {lmx::item_kind::element_list, lmx::value_kind::datetime, lmx::use_demanded | lmx::use_asked, lmx::ELMX_WS_COLLAPSE, "Vyr:ChangeHistory", element_ChangeHistory, LMX_OFFSET(ColorSpaceSpecificationType, m_ChangeHistory, element_list, datetime), lmx::k_no_flag, lmx::position_of(k_ColorSpaceSpecificationType_elements, element_ChangeHistory), lmx::position_of(k_ColorSpaceSpecificationType_elements, element_ChangeHistory, 1), nullptr, &facets::DateTimeZone, {}},
+constinit const s_item ColorSpaceSpecificationType::k_items[] = {
+    {item_kind::attribute, value_kind::text, use_optional, ELMX_WS_PRESERVE, "Comments", attribute_Comments,
+     LMX_OFFSET(ColorSpaceSpecificationType, m_Comments, attribute, text), LMX_FLAG(ColorSpaceSpecificationType, m_isset_Comments), 0, 0, nullptr, nullptr, {}},
+    {item_kind::attribute, value_kind::text, use_optional, ELMX_WS_PRESERVE, "UniqueID", attribute_UniqueID,
+     LMX_OFFSET(ColorSpaceSpecificationType, m_UniqueID, attribute, text), LMX_FLAG(ColorSpaceSpecificationType, m_isset_UniqueID), 0, 0, nullptr, nullptr, {}},
+    {item_kind::child_list, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:CustomAttribute", element_CustomAttribute,
+     LMX_OFFSET(ColorSpaceSpecificationType, m_CustomAttribute, child_list, none), k_no_flag, position_of(k_ColorSpaceSpecificationType_elements, element_CustomAttribute), position_of(k_ColorSpaceSpecificationType_elements, element_CustomAttribute, 1), &CustomAttributeType::k_class, nullptr, {}},
+    {item_kind::child, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:Profile", element_Profile,
+     LMX_OFFSET(ColorSpaceSpecificationType, m_Profile, child, none), LMX_FLAG(ColorSpaceSpecificationType, m_isset_Profile), position_of(k_ColorSpaceSpecificationType_elements, element_Profile), position_of(k_ColorSpaceSpecificationType_elements, element_Profile, 1), &ProfileType::k_class, nullptr, {}},
+    {item_kind::child, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:Device", element_Device,
+     LMX_OFFSET(ColorSpaceSpecificationType, m_Device, child, none), LMX_FLAG(ColorSpaceSpecificationType, m_isset_Device), position_of(k_ColorSpaceSpecificationType_elements, element_Device), position_of(k_ColorSpaceSpecificationType_elements, element_Device, 1), &DeviceType::k_class, nullptr, {}},
+    {item_kind::child, value_kind::none, use_written, ELMX_WS_PRESERVE, "Vyr:DeviceFilter", element_DeviceFilter,
+     LMX_OFFSET(ColorSpaceSpecificationType, m_DeviceFilter, child, none), LMX_FLAG(ColorSpaceSpecificationType, m_isset_DeviceFilter), position_of(k_ColorSpaceSpecificationType_elements, element_DeviceFilter), position_of(k_ColorSpaceSpecificationType_elements, element_DeviceFilter, 1), &DeviceFilter::k_class, nullptr, {}},
+    {item_kind::child, value_kind::none, use_required, ELMX_WS_PRESERVE, "Vyr:DevicePolarization", element_DevicePolarization,
+     LMX_OFFSET(ColorSpaceSpecificationType, m_DevicePolarization, child, none), LMX_FLAG(ColorSpaceSpecificationType, m_isset_DevicePolarization), position_of(k_ColorSpaceSpecificationType_elements, element_DevicePolarization), position_of(k_ColorSpaceSpecificationType_elements, element_DevicePolarization, 1), &DevicePolarization::k_class, nullptr, {}},
+    {item_kind::element_list, value_kind::datetime, use_demanded | use_asked, ELMX_WS_COLLAPSE, "Vyr:ChangeHistory", element_ChangeHistory,
+     LMX_OFFSET(ColorSpaceSpecificationType, m_ChangeHistory, element_list, datetime), k_no_flag, position_of(k_ColorSpaceSpecificationType_elements, element_ChangeHistory), position_of(k_ColorSpaceSpecificationType_elements, element_ChangeHistory, 1), nullptr, &facets::DateTimeZone, {}},
 };
-constinit const lmx::s_factory_row ColorSpaceSpecificationType::k_factory[] = {
+constinit const s_factory_row ColorSpaceSpecificationType::k_factory[] = {
     {"ColorSpaceSpecificationSpectrumType", &ColorSpaceSpecificationSpectrumType::k_class},
     {"ColorSpaceSpecificationSpectrumGenericType", &ColorSpaceSpecificationSpectrumGenericType::k_class},
     {"ColorSpaceSpecificationSpectrumTristimulusType", &ColorSpaceSpecificationSpectrumTristimulusType::k_class},
@@ -193,22 +206,22 @@ constinit const lmx::s_factory_row ColorSpaceSpecificationType::k_factory[] = {
     {"ColorSpaceSpecificationEmissiveTristimulusType", &ColorSpaceSpecificationEmissiveTristimulusType::k_class},
     {"ColorSpaceSpecificationEmissiveSpectralType", &ColorSpaceSpecificationEmissiveSpectralType::k_class},
 };
-constinit const lmx::s_class ColorSpaceSpecificationType::k_class = {
+constinit const s_class ColorSpaceSpecificationType::k_class = {
     .name = "ColorSpaceSpecificationType",
     .qualified_name = "Vyr:ColorSpaceSpecificationType",
     .base = nullptr,
-    .content = lmx::content_kind::children,
+    .content = content_kind::children,
     .may_be_empty = false,
     .ns_map = k_ns_map,
-    .nil_flag = lmx::k_no_flag,
-    .choice = lmx::k_no_flag,
+    .nil_flag = k_no_flag,
+    .choice = k_no_flag,
     .id = &ColorSpaceSpecificationType::id,
     .xsi_type = "Vyr:ColorSpaceSpecificationType",
     .attributes = std::span(k_items).first(std::size(k_ColorSpaceSpecificationType_attributes) - 1),
     .elements = std::span(k_items).subspan(std::size(k_ColorSpaceSpecificationType_attributes) - 1),
     .attribute_map = k_ColorSpaceSpecificationType_attributes,
     .element_map = k_ColorSpaceSpecificationType_elements,
-    .operations = &lmx::k_operations<ColorSpaceSpecificationType>,
+    .operations = &k_operations<ColorSpaceSpecificationType>,
 };
 
 ColorSpaceSpecificationType::ColorSpaceSpecificationType() = default;
@@ -252,32 +265,34 @@ void ColorSpaceSpecificationType::clear_ChangeHistory() { m_ChangeHistory.clear(
 // SpectrumType
 
 namespace {
-constexpr lmx::s_event_map k_SpectrumType_attributes[] = {
-    lmx::attribute_event("CustomTypeName", attribute_CustomTypeName),
-    lmx::k_end_of_map,
+constexpr s_event_map k_SpectrumType_attributes[] = {
+    attribute_event("CustomTypeName", attribute_CustomTypeName),
+    k_end_of_map,
 };
 }  // namespace
 
-constinit const lmx::s_item SpectrumType::k_items[] = {
-    {lmx::item_kind::attribute, lmx::value_kind::text, lmx::use_optional, lmx::ELMX_WS_PRESERVE, "CustomTypeName", attribute_CustomTypeName, LMX_OFFSET(SpectrumType, m_CustomTypeName, attribute, text), LMX_FLAG(SpectrumType, m_isset_CustomTypeName), 0, 0, nullptr, nullptr, {}},
-    {lmx::item_kind::content, lmx::value_kind::text, lmx::use_required, lmx::ELMX_WS_PRESERVE, "", 0, LMX_OFFSET(SpectrumType, m_SpectrumType, content, text), LMX_FLAG(SpectrumType, m_isset_SpectrumType), 0, 0, nullptr, &facets::SpectrumKind, {}},
+constinit const s_item SpectrumType::k_items[] = {
+    {item_kind::attribute, value_kind::text, use_optional, ELMX_WS_PRESERVE, "CustomTypeName", attribute_CustomTypeName,
+     LMX_OFFSET(SpectrumType, m_CustomTypeName, attribute, text), LMX_FLAG(SpectrumType, m_isset_CustomTypeName), 0, 0, nullptr, nullptr, {}},
+    {item_kind::content, value_kind::text, use_required, ELMX_WS_PRESERVE, "", 0,
+     LMX_OFFSET(SpectrumType, m_SpectrumType, content, text), LMX_FLAG(SpectrumType, m_isset_SpectrumType), 0, 0, nullptr, &facets::SpectrumKind, {}},
 };
-constinit const lmx::s_class SpectrumType::k_class = {
+constinit const s_class SpectrumType::k_class = {
     .name = "SpectrumType",
     .qualified_name = "Vyr:SpectrumType",
     .base = nullptr,
-    .content = lmx::content_kind::simple,
+    .content = content_kind::simple,
     .may_be_empty = false,
     .ns_map = k_ns_map,
-    .nil_flag = lmx::k_no_flag,
-    .choice = lmx::k_no_flag,
+    .nil_flag = k_no_flag,
+    .choice = k_no_flag,
     .id = nullptr,
     .xsi_type = nullptr,
     .attributes = std::span(k_items).first(std::size(k_SpectrumType_attributes) - 1),
     .elements = std::span(k_items).subspan(std::size(k_SpectrumType_attributes) - 1),
     .attribute_map = k_SpectrumType_attributes,
-    .element_map = lmx::k_no_events,
-    .operations = &lmx::k_operations<SpectrumType>,
+    .element_map = k_no_events,
+    .operations = &k_operations<SpectrumType>,
 };
 
 SpectrumType::SpectrumType() = default;
@@ -302,37 +317,38 @@ bool SpectrumType::setenum_SpectrumType(std::int32_t number) { return lmx::set_e
 // ColorSpaceSpecificationSpectrumType
 
 namespace {
-constexpr lmx::s_event_map k_ColorSpaceSpecificationSpectrumType_elements[] = {
-    lmx::element_event("Spectrum", element_Spectrum),
-    lmx::k_end_of_map,
+constexpr s_event_map k_ColorSpaceSpecificationSpectrumType_elements[] = {
+    element_event("Spectrum", element_Spectrum),
+    k_end_of_map,
 };
 }  // namespace
 
-constinit const lmx::s_item ColorSpaceSpecificationSpectrumType::k_items[] = {
-    {lmx::item_kind::child, lmx::value_kind::none, lmx::use_required, lmx::ELMX_WS_PRESERVE, "Vyr:Spectrum", element_Spectrum, LMX_OFFSET(ColorSpaceSpecificationSpectrumType, m_Spectrum, child, none), LMX_FLAG(ColorSpaceSpecificationSpectrumType, m_isset_Spectrum), lmx::position_of(k_ColorSpaceSpecificationSpectrumType_elements, element_Spectrum), lmx::position_of(k_ColorSpaceSpecificationSpectrumType_elements, element_Spectrum, 1), &SpectrumType::k_class, nullptr, {}},
+constinit const s_item ColorSpaceSpecificationSpectrumType::k_items[] = {
+    {item_kind::child, value_kind::none, use_required, ELMX_WS_PRESERVE, "Vyr:Spectrum", element_Spectrum,
+     LMX_OFFSET(ColorSpaceSpecificationSpectrumType, m_Spectrum, child, none), LMX_FLAG(ColorSpaceSpecificationSpectrumType, m_isset_Spectrum), position_of(k_ColorSpaceSpecificationSpectrumType_elements, element_Spectrum), position_of(k_ColorSpaceSpecificationSpectrumType_elements, element_Spectrum, 1), &SpectrumType::k_class, nullptr, {}},
 };
-constinit const lmx::s_factory_row ColorSpaceSpecificationSpectrumType::k_factory[] = {
+constinit const s_factory_row ColorSpaceSpecificationSpectrumType::k_factory[] = {
     {"ColorSpaceSpecificationSpectrumType", &ColorSpaceSpecificationSpectrumType::k_class},
     {"ColorSpaceSpecificationSpectrumGenericType", &ColorSpaceSpecificationSpectrumGenericType::k_class},
     {"ColorSpaceSpecificationSpectrumTristimulusType", &ColorSpaceSpecificationSpectrumTristimulusType::k_class},
     {"ColorSpaceSpecificationSpectrumSpectralType", &ColorSpaceSpecificationSpectrumSpectralType::k_class},
 };
-constinit const lmx::s_class ColorSpaceSpecificationSpectrumType::k_class = {
+constinit const s_class ColorSpaceSpecificationSpectrumType::k_class = {
     .name = "ColorSpaceSpecificationSpectrumType",
     .qualified_name = "Vyr:ColorSpaceSpecificationSpectrumType",
     .base = &ColorSpaceSpecificationType::k_class,
-    .content = lmx::content_kind::children,
+    .content = content_kind::children,
     .may_be_empty = false,
     .ns_map = k_ns_map,
-    .nil_flag = lmx::k_no_flag,
-    .choice = lmx::k_no_flag,
+    .nil_flag = k_no_flag,
+    .choice = k_no_flag,
     .id = &ColorSpaceSpecificationSpectrumType::id,
     .xsi_type = "Vyr:ColorSpaceSpecificationSpectrumType",
-    .attributes = std::span(k_items).first(std::size(lmx::k_no_events) - 1),
-    .elements = std::span(k_items).subspan(std::size(lmx::k_no_events) - 1),
-    .attribute_map = lmx::k_no_events,
+    .attributes = std::span(k_items).first(std::size(k_no_events) - 1),
+    .elements = std::span(k_items).subspan(std::size(k_no_events) - 1),
+    .attribute_map = k_no_events,
     .element_map = k_ColorSpaceSpecificationSpectrumType_elements,
-    .operations = &lmx::k_operations<ColorSpaceSpecificationSpectrumType>,
+    .operations = &k_operations<ColorSpaceSpecificationSpectrumType>,
 };
 
 ColorSpaceSpecificationSpectrumType::ColorSpaceSpecificationSpectrumType() = default;
@@ -360,39 +376,41 @@ SpectrumType& ColorSpaceSpecificationSpectrumType::assign_Spectrum(const Spectru
 // ColorSpaceSpecificationEmissiveType
 
 namespace {
-constexpr lmx::s_event_map k_ColorSpaceSpecificationEmissiveType_elements[] = {
-    lmx::element_event("EmissiveType", element_EmissiveType),
-    lmx::element_event("EmissiveMode", element_EmissiveMode),
-    lmx::k_end_of_map,
+constexpr s_event_map k_ColorSpaceSpecificationEmissiveType_elements[] = {
+    element_event("EmissiveType", element_EmissiveType),
+    element_event("EmissiveMode", element_EmissiveMode),
+    k_end_of_map,
 };
 }  // namespace
 
-constinit const lmx::s_item ColorSpaceSpecificationEmissiveType::k_items[] = {
-    {lmx::item_kind::element, lmx::value_kind::text, lmx::use_required, lmx::ELMX_WS_PRESERVE, "Vyr:EmissiveType", element_EmissiveType, LMX_OFFSET(ColorSpaceSpecificationEmissiveType, m_EmissiveType, element, text), LMX_FLAG(ColorSpaceSpecificationEmissiveType, m_isset_EmissiveType), lmx::position_of(k_ColorSpaceSpecificationEmissiveType_elements, element_EmissiveType), lmx::position_of(k_ColorSpaceSpecificationEmissiveType_elements, element_EmissiveType, 1), nullptr, &facets::EmissiveKind, {}},
-    {lmx::item_kind::element, lmx::value_kind::text, lmx::use_required, lmx::ELMX_WS_PRESERVE, "Vyr:EmissiveMode", element_EmissiveMode, LMX_OFFSET(ColorSpaceSpecificationEmissiveType, m_EmissiveMode, element, text), LMX_FLAG(ColorSpaceSpecificationEmissiveType, m_isset_EmissiveMode), lmx::position_of(k_ColorSpaceSpecificationEmissiveType_elements, element_EmissiveMode), lmx::position_of(k_ColorSpaceSpecificationEmissiveType_elements, element_EmissiveMode, 1), nullptr, &facets::EmissiveModeKind, {}},
+constinit const s_item ColorSpaceSpecificationEmissiveType::k_items[] = {
+    {item_kind::element, value_kind::text, use_required, ELMX_WS_PRESERVE, "Vyr:EmissiveType", element_EmissiveType,
+     LMX_OFFSET(ColorSpaceSpecificationEmissiveType, m_EmissiveType, element, text), LMX_FLAG(ColorSpaceSpecificationEmissiveType, m_isset_EmissiveType), position_of(k_ColorSpaceSpecificationEmissiveType_elements, element_EmissiveType), position_of(k_ColorSpaceSpecificationEmissiveType_elements, element_EmissiveType, 1), nullptr, &facets::EmissiveKind, {}},
+    {item_kind::element, value_kind::text, use_required, ELMX_WS_PRESERVE, "Vyr:EmissiveMode", element_EmissiveMode,
+     LMX_OFFSET(ColorSpaceSpecificationEmissiveType, m_EmissiveMode, element, text), LMX_FLAG(ColorSpaceSpecificationEmissiveType, m_isset_EmissiveMode), position_of(k_ColorSpaceSpecificationEmissiveType_elements, element_EmissiveMode), position_of(k_ColorSpaceSpecificationEmissiveType_elements, element_EmissiveMode, 1), nullptr, &facets::EmissiveModeKind, {}},
 };
-constinit const lmx::s_factory_row ColorSpaceSpecificationEmissiveType::k_factory[] = {
+constinit const s_factory_row ColorSpaceSpecificationEmissiveType::k_factory[] = {
     {"ColorSpaceSpecificationEmissiveType", &ColorSpaceSpecificationEmissiveType::k_class},
     {"ColorSpaceSpecificationEmissiveGenericType", &ColorSpaceSpecificationEmissiveGenericType::k_class},
     {"ColorSpaceSpecificationEmissiveTristimulusType", &ColorSpaceSpecificationEmissiveTristimulusType::k_class},
     {"ColorSpaceSpecificationEmissiveSpectralType", &ColorSpaceSpecificationEmissiveSpectralType::k_class},
 };
-constinit const lmx::s_class ColorSpaceSpecificationEmissiveType::k_class = {
+constinit const s_class ColorSpaceSpecificationEmissiveType::k_class = {
     .name = "ColorSpaceSpecificationEmissiveType",
     .qualified_name = "Vyr:ColorSpaceSpecificationEmissiveType",
     .base = &ColorSpaceSpecificationType::k_class,
-    .content = lmx::content_kind::children,
+    .content = content_kind::children,
     .may_be_empty = false,
     .ns_map = k_ns_map,
-    .nil_flag = lmx::k_no_flag,
-    .choice = lmx::k_no_flag,
+    .nil_flag = k_no_flag,
+    .choice = k_no_flag,
     .id = &ColorSpaceSpecificationEmissiveType::id,
     .xsi_type = "Vyr:ColorSpaceSpecificationEmissiveType",
-    .attributes = std::span(k_items).first(std::size(lmx::k_no_events) - 1),
-    .elements = std::span(k_items).subspan(std::size(lmx::k_no_events) - 1),
-    .attribute_map = lmx::k_no_events,
+    .attributes = std::span(k_items).first(std::size(k_no_events) - 1),
+    .elements = std::span(k_items).subspan(std::size(k_no_events) - 1),
+    .attribute_map = k_no_events,
     .element_map = k_ColorSpaceSpecificationEmissiveType_elements,
-    .operations = &lmx::k_operations<ColorSpaceSpecificationEmissiveType>,
+    .operations = &k_operations<ColorSpaceSpecificationEmissiveType>,
 };
 
 ColorSpaceSpecificationEmissiveType::ColorSpaceSpecificationEmissiveType() = default;
@@ -425,37 +443,41 @@ bool ColorSpaceSpecificationEmissiveType::setenum_EmissiveMode(std::int32_t numb
 // GeometryChoiceType
 
 namespace {
-constexpr lmx::s_event_map k_GeometryChoiceType_elements[] = {
-    lmx::element_event("SphereGeometry", element_SphereGeometry),
-    lmx::element_event("Angle", element_Angle),
-    lmx::element_event("UnknownGeometry", element_UnknownGeometry),
-    lmx::element_event("BSDFAngle", element_BSDFAngle),
-    lmx::k_end_of_map,
+constexpr s_event_map k_GeometryChoiceType_elements[] = {
+    element_event("SphereGeometry", element_SphereGeometry),
+    element_event("Angle", element_Angle),
+    element_event("UnknownGeometry", element_UnknownGeometry),
+    element_event("BSDFAngle", element_BSDFAngle),
+    k_end_of_map,
 };
 }  // namespace
 
-constinit const lmx::s_item GeometryChoiceType::k_items[] = {
-    {lmx::item_kind::alternative, lmx::value_kind::text, lmx::use_optional, lmx::ELMX_WS_PRESERVE, "Vyr:SphereGeometry", element_SphereGeometry, 0, lmx::k_no_flag, lmx::position_of(k_GeometryChoiceType_elements, element_SphereGeometry), lmx::position_of(k_GeometryChoiceType_elements, element_SphereGeometry, 1), nullptr, &facets::SphereGeometryKind, {}},
-    {lmx::item_kind::alternative, lmx::value_kind::number, lmx::use_optional, lmx::ELMX_WS_COLLAPSE, "Vyr:Angle", element_Angle, 0, lmx::k_no_flag, lmx::position_of(k_GeometryChoiceType_elements, element_Angle), lmx::position_of(k_GeometryChoiceType_elements, element_Angle, 1), nullptr, nullptr, {}},
-    {lmx::item_kind::alternative, lmx::value_kind::text, lmx::use_optional, lmx::ELMX_WS_PRESERVE, "Vyr:UnknownGeometry", element_UnknownGeometry, 0, lmx::k_no_flag, lmx::position_of(k_GeometryChoiceType_elements, element_UnknownGeometry), lmx::position_of(k_GeometryChoiceType_elements, element_UnknownGeometry, 1), nullptr, &facets::NonEmptyString, {}},
-    {lmx::item_kind::alternative, lmx::value_kind::none, lmx::use_optional, lmx::ELMX_WS_PRESERVE, "Vyr:BSDFAngle", element_BSDFAngle, 0, lmx::k_no_flag, lmx::position_of(k_GeometryChoiceType_elements, element_BSDFAngle), lmx::position_of(k_GeometryChoiceType_elements, element_BSDFAngle, 1), &BSDFAngle::k_class, nullptr, {}},
+constinit const s_item GeometryChoiceType::k_items[] = {
+    {item_kind::alternative, value_kind::text, use_optional, ELMX_WS_PRESERVE, "Vyr:SphereGeometry", element_SphereGeometry,
+     0, k_no_flag, position_of(k_GeometryChoiceType_elements, element_SphereGeometry), position_of(k_GeometryChoiceType_elements, element_SphereGeometry, 1), nullptr, &facets::SphereGeometryKind, {}},
+    {item_kind::alternative, value_kind::number, use_optional, ELMX_WS_COLLAPSE, "Vyr:Angle", element_Angle,
+     0, k_no_flag, position_of(k_GeometryChoiceType_elements, element_Angle), position_of(k_GeometryChoiceType_elements, element_Angle, 1), nullptr, nullptr, {}},
+    {item_kind::alternative, value_kind::text, use_optional, ELMX_WS_PRESERVE, "Vyr:UnknownGeometry", element_UnknownGeometry,
+     0, k_no_flag, position_of(k_GeometryChoiceType_elements, element_UnknownGeometry), position_of(k_GeometryChoiceType_elements, element_UnknownGeometry, 1), nullptr, &facets::NonEmptyString, {}},
+    {item_kind::alternative, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:BSDFAngle", element_BSDFAngle,
+     0, k_no_flag, position_of(k_GeometryChoiceType_elements, element_BSDFAngle), position_of(k_GeometryChoiceType_elements, element_BSDFAngle, 1), &BSDFAngle::k_class, nullptr, {}},
 };
-constinit const lmx::s_class GeometryChoiceType::k_class = {
+constinit const s_class GeometryChoiceType::k_class = {
     .name = "GeometryChoiceType",
     .qualified_name = "Vyr:GeometryChoiceType",
     .base = nullptr,
-    .content = lmx::content_kind::choice,
+    .content = content_kind::choice,
     .may_be_empty = false,
     .ns_map = k_ns_map,
-    .nil_flag = lmx::k_no_flag,
+    .nil_flag = k_no_flag,
     .choice = LMX_CHOICE(GeometryChoiceType, m_choice),
     .id = nullptr,
     .xsi_type = nullptr,
-    .attributes = std::span(k_items).first(std::size(lmx::k_no_events) - 1),
-    .elements = std::span(k_items).subspan(std::size(lmx::k_no_events) - 1),
-    .attribute_map = lmx::k_no_events,
+    .attributes = std::span(k_items).first(std::size(k_no_events) - 1),
+    .elements = std::span(k_items).subspan(std::size(k_no_events) - 1),
+    .attribute_map = k_no_events,
     .element_map = k_GeometryChoiceType_elements,
-    .operations = &lmx::k_operations<GeometryChoiceType>,
+    .operations = &k_operations<GeometryChoiceType>,
 };
 
 GeometryChoiceType::GeometryChoiceType() = default;
@@ -485,32 +507,36 @@ BSDFAngle& GeometryChoiceType::assign_BSDFAngle(const BSDFAngle& value) { return
 // IlluminationOptionsType
 
 namespace {
-constexpr lmx::s_event_map k_IlluminationOptionsType_attributes[] = {
-    lmx::attribute_event("Description", attribute_Description),
-    lmx::k_end_of_map,
+constexpr s_event_map k_IlluminationOptionsType_attributes[] = {
+    attribute_event("Description", attribute_Description),
+    k_end_of_map,
 };
-constexpr lmx::s_event_map k_IlluminationOptionsType_elements[] = {
-    lmx::element_event("Illuminant", element_Illuminant),
-    lmx::element_event("WhitePointChromaticity", element_WhitePointChromaticity),
-    lmx::element_event("ColorTemperature", element_ColorTemperature),
-    lmx::k_end_of_map,
+constexpr s_event_map k_IlluminationOptionsType_elements[] = {
+    element_event("Illuminant", element_Illuminant),
+    element_event("WhitePointChromaticity", element_WhitePointChromaticity),
+    element_event("ColorTemperature", element_ColorTemperature),
+    k_end_of_map,
 };
 }  // namespace
 
-constinit const lmx::s_item IlluminationOptionsType::k_items[] = {
-    {lmx::item_kind::attribute, lmx::value_kind::text, lmx::use_optional, lmx::ELMX_WS_PRESERVE, "Description", attribute_Description, LMX_OFFSET(IlluminationOptionsType, m_Description, attribute, text), LMX_FLAG(IlluminationOptionsType, m_isset_Description), 0, 0, nullptr, nullptr, {}},
-    {lmx::item_kind::alternative, lmx::value_kind::none, lmx::use_optional, lmx::ELMX_WS_PRESERVE, "Vyr:Illuminant", element_Illuminant, 0, lmx::k_no_flag, lmx::position_of(k_IlluminationOptionsType_elements, element_Illuminant), lmx::position_of(k_IlluminationOptionsType_elements, element_Illuminant, 1), &Illuminant::k_class, nullptr, {}},
-    {lmx::item_kind::alternative, lmx::value_kind::none, lmx::use_optional, lmx::ELMX_WS_PRESERVE, "Vyr:WhitePointChromaticity", element_WhitePointChromaticity, 0, lmx::k_no_flag, lmx::position_of(k_IlluminationOptionsType_elements, element_WhitePointChromaticity), lmx::position_of(k_IlluminationOptionsType_elements, element_WhitePointChromaticity, 1), &WhitePointChromaticity::k_class, nullptr, {}},
-    {lmx::item_kind::alternative, lmx::value_kind::uint32, lmx::use_optional, lmx::ELMX_WS_COLLAPSE, "Vyr:ColorTemperature", element_ColorTemperature, 0, lmx::k_no_flag, lmx::position_of(k_IlluminationOptionsType_elements, element_ColorTemperature), lmx::position_of(k_IlluminationOptionsType_elements, element_ColorTemperature, 1), nullptr, &facets::PositiveInt32, {}},
+constinit const s_item IlluminationOptionsType::k_items[] = {
+    {item_kind::attribute, value_kind::text, use_optional, ELMX_WS_PRESERVE, "Description", attribute_Description,
+     LMX_OFFSET(IlluminationOptionsType, m_Description, attribute, text), LMX_FLAG(IlluminationOptionsType, m_isset_Description), 0, 0, nullptr, nullptr, {}},
+    {item_kind::alternative, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:Illuminant", element_Illuminant,
+     0, k_no_flag, position_of(k_IlluminationOptionsType_elements, element_Illuminant), position_of(k_IlluminationOptionsType_elements, element_Illuminant, 1), &Illuminant::k_class, nullptr, {}},
+    {item_kind::alternative, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:WhitePointChromaticity", element_WhitePointChromaticity,
+     0, k_no_flag, position_of(k_IlluminationOptionsType_elements, element_WhitePointChromaticity), position_of(k_IlluminationOptionsType_elements, element_WhitePointChromaticity, 1), &WhitePointChromaticity::k_class, nullptr, {}},
+    {item_kind::alternative, value_kind::uint32, use_optional, ELMX_WS_COLLAPSE, "Vyr:ColorTemperature", element_ColorTemperature,
+     0, k_no_flag, position_of(k_IlluminationOptionsType_elements, element_ColorTemperature), position_of(k_IlluminationOptionsType_elements, element_ColorTemperature, 1), nullptr, &facets::PositiveInt32, {}},
 };
-constinit const lmx::s_class IlluminationOptionsType::k_class = {
+constinit const s_class IlluminationOptionsType::k_class = {
     .name = "IlluminationOptionsType",
     .qualified_name = "Vyr:IlluminationOptionsType",
     .base = nullptr,
-    .content = lmx::content_kind::choice,
+    .content = content_kind::choice,
     .may_be_empty = false,
     .ns_map = k_ns_map,
-    .nil_flag = lmx::k_no_flag,
+    .nil_flag = k_no_flag,
     .choice = LMX_CHOICE(IlluminationOptionsType, m_choice),
     .id = nullptr,
     .xsi_type = nullptr,
@@ -518,7 +544,7 @@ constinit const lmx::s_class IlluminationOptionsType::k_class = {
     .elements = std::span(k_items).subspan(std::size(k_IlluminationOptionsType_attributes) - 1),
     .attribute_map = k_IlluminationOptionsType_attributes,
     .element_map = k_IlluminationOptionsType_elements,
-    .operations = &lmx::k_operations<IlluminationOptionsType>,
+    .operations = &k_operations<IlluminationOptionsType>,
 };
 
 IlluminationOptionsType::IlluminationOptionsType() = default;
@@ -545,41 +571,47 @@ lmx::elmx_error IlluminationOptionsType::set_ColorTemperature(std::uint32_t valu
 // ColorSpaceSpecificationSpectrumGenericType
 
 namespace {
-constexpr lmx::s_event_map k_ColorSpaceSpecificationSpectrumGenericType_elements[] = {
-    lmx::element_event("GeometryChoice", element_GeometryChoice),
-    lmx::element_event("IlluminationOptions", element_IlluminationOptions),
-    lmx::element_event("FieldOfView", element_FieldOfView),
-    lmx::element_event("ASTM_Table", element_ASTM_Table),
-    lmx::element_event("Gamma", element_Gamma),
-    lmx::element_event("DensityStatus", element_DensityStatus),
-    lmx::k_end_of_map,
+constexpr s_event_map k_ColorSpaceSpecificationSpectrumGenericType_elements[] = {
+    element_event("GeometryChoice", element_GeometryChoice),
+    element_event("IlluminationOptions", element_IlluminationOptions),
+    element_event("FieldOfView", element_FieldOfView),
+    element_event("ASTM_Table", element_ASTM_Table),
+    element_event("Gamma", element_Gamma),
+    element_event("DensityStatus", element_DensityStatus),
+    k_end_of_map,
 };
 }  // namespace
 
-constinit const lmx::s_item ColorSpaceSpecificationSpectrumGenericType::k_items[] = {
-    {lmx::item_kind::child, lmx::value_kind::none, lmx::use_optional, lmx::ELMX_WS_PRESERVE, "Vyr:GeometryChoice", element_GeometryChoice, LMX_OFFSET(ColorSpaceSpecificationSpectrumGenericType, m_GeometryChoice, child, none), LMX_FLAG(ColorSpaceSpecificationSpectrumGenericType, m_isset_GeometryChoice), lmx::position_of(k_ColorSpaceSpecificationSpectrumGenericType_elements, element_GeometryChoice), lmx::position_of(k_ColorSpaceSpecificationSpectrumGenericType_elements, element_GeometryChoice, 1), &GeometryChoiceType::k_class, nullptr, {}},
-    {lmx::item_kind::child, lmx::value_kind::none, lmx::use_optional, lmx::ELMX_WS_PRESERVE, "Vyr:IlluminationOptions", element_IlluminationOptions, LMX_OFFSET(ColorSpaceSpecificationSpectrumGenericType, m_IlluminationOptions, child, none), LMX_FLAG(ColorSpaceSpecificationSpectrumGenericType, m_isset_IlluminationOptions), lmx::position_of(k_ColorSpaceSpecificationSpectrumGenericType_elements, element_IlluminationOptions), lmx::position_of(k_ColorSpaceSpecificationSpectrumGenericType_elements, element_IlluminationOptions, 1), &IlluminationOptionsType::k_class, nullptr, {}},
-    {lmx::item_kind::element, lmx::value_kind::text, lmx::use_optional, lmx::ELMX_WS_PRESERVE, "Vyr:FieldOfView", element_FieldOfView, LMX_OFFSET(ColorSpaceSpecificationSpectrumGenericType, m_FieldOfView, element, text), LMX_FLAG(ColorSpaceSpecificationSpectrumGenericType, m_isset_FieldOfView), lmx::position_of(k_ColorSpaceSpecificationSpectrumGenericType_elements, element_FieldOfView), lmx::position_of(k_ColorSpaceSpecificationSpectrumGenericType_elements, element_FieldOfView, 1), nullptr, &facets::ObserverKind, {}},
-    {lmx::item_kind::element, lmx::value_kind::text, lmx::use_optional, lmx::ELMX_WS_PRESERVE, "Vyr:ASTM_Table", element_ASTM_Table, LMX_OFFSET(ColorSpaceSpecificationSpectrumGenericType, m_ASTM_Table, element, text), LMX_FLAG(ColorSpaceSpecificationSpectrumGenericType, m_isset_ASTM_Table), lmx::position_of(k_ColorSpaceSpecificationSpectrumGenericType_elements, element_ASTM_Table), lmx::position_of(k_ColorSpaceSpecificationSpectrumGenericType_elements, element_ASTM_Table, 1), nullptr, &facets::AstmTableKind, {}},
-    {lmx::item_kind::element, lmx::value_kind::number, lmx::use_optional, lmx::ELMX_WS_COLLAPSE, "Vyr:Gamma", element_Gamma, LMX_OFFSET(ColorSpaceSpecificationSpectrumGenericType, m_Gamma, element, number), LMX_FLAG(ColorSpaceSpecificationSpectrumGenericType, m_isset_Gamma), lmx::position_of(k_ColorSpaceSpecificationSpectrumGenericType_elements, element_Gamma), lmx::position_of(k_ColorSpaceSpecificationSpectrumGenericType_elements, element_Gamma, 1), nullptr, nullptr, {}},
-    {lmx::item_kind::element, lmx::value_kind::text, lmx::use_optional, lmx::ELMX_WS_PRESERVE, "Vyr:DensityStatus", element_DensityStatus, LMX_OFFSET(ColorSpaceSpecificationSpectrumGenericType, m_DensityStatus, element, text), LMX_FLAG(ColorSpaceSpecificationSpectrumGenericType, m_isset_DensityStatus), lmx::position_of(k_ColorSpaceSpecificationSpectrumGenericType_elements, element_DensityStatus), lmx::position_of(k_ColorSpaceSpecificationSpectrumGenericType_elements, element_DensityStatus, 1), nullptr, &facets::DensityStatusKind, {}},
+constinit const s_item ColorSpaceSpecificationSpectrumGenericType::k_items[] = {
+    {item_kind::child, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:GeometryChoice", element_GeometryChoice,
+     LMX_OFFSET(ColorSpaceSpecificationSpectrumGenericType, m_GeometryChoice, child, none), LMX_FLAG(ColorSpaceSpecificationSpectrumGenericType, m_isset_GeometryChoice), position_of(k_ColorSpaceSpecificationSpectrumGenericType_elements, element_GeometryChoice), position_of(k_ColorSpaceSpecificationSpectrumGenericType_elements, element_GeometryChoice, 1), &GeometryChoiceType::k_class, nullptr, {}},
+    {item_kind::child, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:IlluminationOptions", element_IlluminationOptions,
+     LMX_OFFSET(ColorSpaceSpecificationSpectrumGenericType, m_IlluminationOptions, child, none), LMX_FLAG(ColorSpaceSpecificationSpectrumGenericType, m_isset_IlluminationOptions), position_of(k_ColorSpaceSpecificationSpectrumGenericType_elements, element_IlluminationOptions), position_of(k_ColorSpaceSpecificationSpectrumGenericType_elements, element_IlluminationOptions, 1), &IlluminationOptionsType::k_class, nullptr, {}},
+    {item_kind::element, value_kind::text, use_optional, ELMX_WS_PRESERVE, "Vyr:FieldOfView", element_FieldOfView,
+     LMX_OFFSET(ColorSpaceSpecificationSpectrumGenericType, m_FieldOfView, element, text), LMX_FLAG(ColorSpaceSpecificationSpectrumGenericType, m_isset_FieldOfView), position_of(k_ColorSpaceSpecificationSpectrumGenericType_elements, element_FieldOfView), position_of(k_ColorSpaceSpecificationSpectrumGenericType_elements, element_FieldOfView, 1), nullptr, &facets::ObserverKind, {}},
+    {item_kind::element, value_kind::text, use_optional, ELMX_WS_PRESERVE, "Vyr:ASTM_Table", element_ASTM_Table,
+     LMX_OFFSET(ColorSpaceSpecificationSpectrumGenericType, m_ASTM_Table, element, text), LMX_FLAG(ColorSpaceSpecificationSpectrumGenericType, m_isset_ASTM_Table), position_of(k_ColorSpaceSpecificationSpectrumGenericType_elements, element_ASTM_Table), position_of(k_ColorSpaceSpecificationSpectrumGenericType_elements, element_ASTM_Table, 1), nullptr, &facets::AstmTableKind, {}},
+    {item_kind::element, value_kind::number, use_optional, ELMX_WS_COLLAPSE, "Vyr:Gamma", element_Gamma,
+     LMX_OFFSET(ColorSpaceSpecificationSpectrumGenericType, m_Gamma, element, number), LMX_FLAG(ColorSpaceSpecificationSpectrumGenericType, m_isset_Gamma), position_of(k_ColorSpaceSpecificationSpectrumGenericType_elements, element_Gamma), position_of(k_ColorSpaceSpecificationSpectrumGenericType_elements, element_Gamma, 1), nullptr, nullptr, {}},
+    {item_kind::element, value_kind::text, use_optional, ELMX_WS_PRESERVE, "Vyr:DensityStatus", element_DensityStatus,
+     LMX_OFFSET(ColorSpaceSpecificationSpectrumGenericType, m_DensityStatus, element, text), LMX_FLAG(ColorSpaceSpecificationSpectrumGenericType, m_isset_DensityStatus), position_of(k_ColorSpaceSpecificationSpectrumGenericType_elements, element_DensityStatus), position_of(k_ColorSpaceSpecificationSpectrumGenericType_elements, element_DensityStatus, 1), nullptr, &facets::DensityStatusKind, {}},
 };
-constinit const lmx::s_class ColorSpaceSpecificationSpectrumGenericType::k_class = {
+constinit const s_class ColorSpaceSpecificationSpectrumGenericType::k_class = {
     .name = "ColorSpaceSpecificationSpectrumGenericType",
     .qualified_name = "Vyr:ColorSpaceSpecificationSpectrumGenericType",
     .base = &ColorSpaceSpecificationSpectrumType::k_class,
-    .content = lmx::content_kind::children,
+    .content = content_kind::children,
     .may_be_empty = false,
     .ns_map = k_ns_map,
-    .nil_flag = lmx::k_no_flag,
-    .choice = lmx::k_no_flag,
+    .nil_flag = k_no_flag,
+    .choice = k_no_flag,
     .id = &ColorSpaceSpecificationSpectrumGenericType::id,
     .xsi_type = "Vyr:ColorSpaceSpecificationSpectrumGenericType",
-    .attributes = std::span(k_items).first(std::size(lmx::k_no_events) - 1),
-    .elements = std::span(k_items).subspan(std::size(lmx::k_no_events) - 1),
-    .attribute_map = lmx::k_no_events,
+    .attributes = std::span(k_items).first(std::size(k_no_events) - 1),
+    .elements = std::span(k_items).subspan(std::size(k_no_events) - 1),
+    .attribute_map = k_no_events,
     .element_map = k_ColorSpaceSpecificationSpectrumGenericType_elements,
-    .operations = &lmx::k_operations<ColorSpaceSpecificationSpectrumGenericType>,
+    .operations = &k_operations<ColorSpaceSpecificationSpectrumGenericType>,
 };
 
 ColorSpaceSpecificationSpectrumGenericType::ColorSpaceSpecificationSpectrumGenericType() = default;
@@ -617,39 +649,44 @@ bool ColorSpaceSpecificationSpectrumGenericType::setenum_DensityStatus(std::int3
 // ColorSpaceSpecificationSpectrumTristimulusType
 
 namespace {
-constexpr lmx::s_event_map k_ColorSpaceSpecificationSpectrumTristimulusType_elements[] = {
-    lmx::element_event("IlluminationOptions", element_IlluminationOptions),
-    lmx::element_event("FieldOfView", element_FieldOfView),
-    lmx::element_event("GeometryChoice", element_GeometryChoice),
-    lmx::element_event("ASTM_Table", element_ASTM_Table),
-    lmx::element_event("Gamma", element_Gamma),
-    lmx::k_end_of_map,
+constexpr s_event_map k_ColorSpaceSpecificationSpectrumTristimulusType_elements[] = {
+    element_event("IlluminationOptions", element_IlluminationOptions),
+    element_event("FieldOfView", element_FieldOfView),
+    element_event("GeometryChoice", element_GeometryChoice),
+    element_event("ASTM_Table", element_ASTM_Table),
+    element_event("Gamma", element_Gamma),
+    k_end_of_map,
 };
 }  // namespace
 
-constinit const lmx::s_item ColorSpaceSpecificationSpectrumTristimulusType::k_items[] = {
-    {lmx::item_kind::child, lmx::value_kind::none, lmx::use_required, lmx::ELMX_WS_PRESERVE, "Vyr:IlluminationOptions", element_IlluminationOptions, LMX_OFFSET(ColorSpaceSpecificationSpectrumTristimulusType, m_IlluminationOptions, child, none), LMX_FLAG(ColorSpaceSpecificationSpectrumTristimulusType, m_isset_IlluminationOptions), lmx::position_of(k_ColorSpaceSpecificationSpectrumTristimulusType_elements, element_IlluminationOptions), lmx::position_of(k_ColorSpaceSpecificationSpectrumTristimulusType_elements, element_IlluminationOptions, 1), &IlluminationOptionsType::k_class, nullptr, {}},
-    {lmx::item_kind::element, lmx::value_kind::text, lmx::use_required, lmx::ELMX_WS_PRESERVE, "Vyr:FieldOfView", element_FieldOfView, LMX_OFFSET(ColorSpaceSpecificationSpectrumTristimulusType, m_FieldOfView, element, text), LMX_FLAG(ColorSpaceSpecificationSpectrumTristimulusType, m_isset_FieldOfView), lmx::position_of(k_ColorSpaceSpecificationSpectrumTristimulusType_elements, element_FieldOfView), lmx::position_of(k_ColorSpaceSpecificationSpectrumTristimulusType_elements, element_FieldOfView, 1), nullptr, &facets::ObserverKind, {}},
-    {lmx::item_kind::child, lmx::value_kind::none, lmx::use_optional, lmx::ELMX_WS_PRESERVE, "Vyr:GeometryChoice", element_GeometryChoice, LMX_OFFSET(ColorSpaceSpecificationSpectrumTristimulusType, m_GeometryChoice, child, none), LMX_FLAG(ColorSpaceSpecificationSpectrumTristimulusType, m_isset_GeometryChoice), lmx::position_of(k_ColorSpaceSpecificationSpectrumTristimulusType_elements, element_GeometryChoice), lmx::position_of(k_ColorSpaceSpecificationSpectrumTristimulusType_elements, element_GeometryChoice, 1), &GeometryChoiceType::k_class, nullptr, {}},
-    {lmx::item_kind::element, lmx::value_kind::text, lmx::use_optional, lmx::ELMX_WS_PRESERVE, "Vyr:ASTM_Table", element_ASTM_Table, LMX_OFFSET(ColorSpaceSpecificationSpectrumTristimulusType, m_ASTM_Table, element, text), LMX_FLAG(ColorSpaceSpecificationSpectrumTristimulusType, m_isset_ASTM_Table), lmx::position_of(k_ColorSpaceSpecificationSpectrumTristimulusType_elements, element_ASTM_Table), lmx::position_of(k_ColorSpaceSpecificationSpectrumTristimulusType_elements, element_ASTM_Table, 1), nullptr, &facets::AstmTableKind, {}},
-    {lmx::item_kind::element, lmx::value_kind::number, lmx::use_optional, lmx::ELMX_WS_COLLAPSE, "Vyr:Gamma", element_Gamma, LMX_OFFSET(ColorSpaceSpecificationSpectrumTristimulusType, m_Gamma, element, number), LMX_FLAG(ColorSpaceSpecificationSpectrumTristimulusType, m_isset_Gamma), lmx::position_of(k_ColorSpaceSpecificationSpectrumTristimulusType_elements, element_Gamma), lmx::position_of(k_ColorSpaceSpecificationSpectrumTristimulusType_elements, element_Gamma, 1), nullptr, nullptr, {}},
+constinit const s_item ColorSpaceSpecificationSpectrumTristimulusType::k_items[] = {
+    {item_kind::child, value_kind::none, use_required, ELMX_WS_PRESERVE, "Vyr:IlluminationOptions", element_IlluminationOptions,
+     LMX_OFFSET(ColorSpaceSpecificationSpectrumTristimulusType, m_IlluminationOptions, child, none), LMX_FLAG(ColorSpaceSpecificationSpectrumTristimulusType, m_isset_IlluminationOptions), position_of(k_ColorSpaceSpecificationSpectrumTristimulusType_elements, element_IlluminationOptions), position_of(k_ColorSpaceSpecificationSpectrumTristimulusType_elements, element_IlluminationOptions, 1), &IlluminationOptionsType::k_class, nullptr, {}},
+    {item_kind::element, value_kind::text, use_required, ELMX_WS_PRESERVE, "Vyr:FieldOfView", element_FieldOfView,
+     LMX_OFFSET(ColorSpaceSpecificationSpectrumTristimulusType, m_FieldOfView, element, text), LMX_FLAG(ColorSpaceSpecificationSpectrumTristimulusType, m_isset_FieldOfView), position_of(k_ColorSpaceSpecificationSpectrumTristimulusType_elements, element_FieldOfView), position_of(k_ColorSpaceSpecificationSpectrumTristimulusType_elements, element_FieldOfView, 1), nullptr, &facets::ObserverKind, {}},
+    {item_kind::child, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:GeometryChoice", element_GeometryChoice,
+     LMX_OFFSET(ColorSpaceSpecificationSpectrumTristimulusType, m_GeometryChoice, child, none), LMX_FLAG(ColorSpaceSpecificationSpectrumTristimulusType, m_isset_GeometryChoice), position_of(k_ColorSpaceSpecificationSpectrumTristimulusType_elements, element_GeometryChoice), position_of(k_ColorSpaceSpecificationSpectrumTristimulusType_elements, element_GeometryChoice, 1), &GeometryChoiceType::k_class, nullptr, {}},
+    {item_kind::element, value_kind::text, use_optional, ELMX_WS_PRESERVE, "Vyr:ASTM_Table", element_ASTM_Table,
+     LMX_OFFSET(ColorSpaceSpecificationSpectrumTristimulusType, m_ASTM_Table, element, text), LMX_FLAG(ColorSpaceSpecificationSpectrumTristimulusType, m_isset_ASTM_Table), position_of(k_ColorSpaceSpecificationSpectrumTristimulusType_elements, element_ASTM_Table), position_of(k_ColorSpaceSpecificationSpectrumTristimulusType_elements, element_ASTM_Table, 1), nullptr, &facets::AstmTableKind, {}},
+    {item_kind::element, value_kind::number, use_optional, ELMX_WS_COLLAPSE, "Vyr:Gamma", element_Gamma,
+     LMX_OFFSET(ColorSpaceSpecificationSpectrumTristimulusType, m_Gamma, element, number), LMX_FLAG(ColorSpaceSpecificationSpectrumTristimulusType, m_isset_Gamma), position_of(k_ColorSpaceSpecificationSpectrumTristimulusType_elements, element_Gamma), position_of(k_ColorSpaceSpecificationSpectrumTristimulusType_elements, element_Gamma, 1), nullptr, nullptr, {}},
 };
-constinit const lmx::s_class ColorSpaceSpecificationSpectrumTristimulusType::k_class = {
+constinit const s_class ColorSpaceSpecificationSpectrumTristimulusType::k_class = {
     .name = "ColorSpaceSpecificationSpectrumTristimulusType",
     .qualified_name = "Vyr:ColorSpaceSpecificationSpectrumTristimulusType",
     .base = &ColorSpaceSpecificationSpectrumType::k_class,
-    .content = lmx::content_kind::children,
+    .content = content_kind::children,
     .may_be_empty = false,
     .ns_map = k_ns_map,
-    .nil_flag = lmx::k_no_flag,
-    .choice = lmx::k_no_flag,
+    .nil_flag = k_no_flag,
+    .choice = k_no_flag,
     .id = &ColorSpaceSpecificationSpectrumTristimulusType::id,
     .xsi_type = "Vyr:ColorSpaceSpecificationSpectrumTristimulusType",
-    .attributes = std::span(k_items).first(std::size(lmx::k_no_events) - 1),
-    .elements = std::span(k_items).subspan(std::size(lmx::k_no_events) - 1),
-    .attribute_map = lmx::k_no_events,
+    .attributes = std::span(k_items).first(std::size(k_no_events) - 1),
+    .elements = std::span(k_items).subspan(std::size(k_no_events) - 1),
+    .attribute_map = k_no_events,
     .element_map = k_ColorSpaceSpecificationSpectrumTristimulusType_elements,
-    .operations = &lmx::k_operations<ColorSpaceSpecificationSpectrumTristimulusType>,
+    .operations = &k_operations<ColorSpaceSpecificationSpectrumTristimulusType>,
 };
 
 ColorSpaceSpecificationSpectrumTristimulusType::ColorSpaceSpecificationSpectrumTristimulusType() = default;
@@ -684,33 +721,35 @@ lmx::elmx_error ColorSpaceSpecificationSpectrumTristimulusType::set_Gamma(double
 // ColorSpaceSpecificationSpectrumSpectralType
 
 namespace {
-constexpr lmx::s_event_map k_ColorSpaceSpecificationSpectrumSpectralType_elements[] = {
-    lmx::element_event("GeometryChoice", element_GeometryChoice),
-    lmx::element_event("ASTM_Table", element_ASTM_Table),
-    lmx::k_end_of_map,
+constexpr s_event_map k_ColorSpaceSpecificationSpectrumSpectralType_elements[] = {
+    element_event("GeometryChoice", element_GeometryChoice),
+    element_event("ASTM_Table", element_ASTM_Table),
+    k_end_of_map,
 };
 }  // namespace
 
-constinit const lmx::s_item ColorSpaceSpecificationSpectrumSpectralType::k_items[] = {
-    {lmx::item_kind::child, lmx::value_kind::none, lmx::use_required, lmx::ELMX_WS_PRESERVE, "Vyr:GeometryChoice", element_GeometryChoice, LMX_OFFSET(ColorSpaceSpecificationSpectrumSpectralType, m_GeometryChoice, child, none), LMX_FLAG(ColorSpaceSpecificationSpectrumSpectralType, m_isset_GeometryChoice), lmx::position_of(k_ColorSpaceSpecificationSpectrumSpectralType_elements, element_GeometryChoice), lmx::position_of(k_ColorSpaceSpecificationSpectrumSpectralType_elements, element_GeometryChoice, 1), &GeometryChoiceType::k_class, nullptr, {}},
-    {lmx::item_kind::element, lmx::value_kind::text, lmx::use_optional, lmx::ELMX_WS_PRESERVE, "Vyr:ASTM_Table", element_ASTM_Table, LMX_OFFSET(ColorSpaceSpecificationSpectrumSpectralType, m_ASTM_Table, element, text), LMX_FLAG(ColorSpaceSpecificationSpectrumSpectralType, m_isset_ASTM_Table), lmx::position_of(k_ColorSpaceSpecificationSpectrumSpectralType_elements, element_ASTM_Table), lmx::position_of(k_ColorSpaceSpecificationSpectrumSpectralType_elements, element_ASTM_Table, 1), nullptr, &facets::AstmTableKind, {}},
+constinit const s_item ColorSpaceSpecificationSpectrumSpectralType::k_items[] = {
+    {item_kind::child, value_kind::none, use_required, ELMX_WS_PRESERVE, "Vyr:GeometryChoice", element_GeometryChoice,
+     LMX_OFFSET(ColorSpaceSpecificationSpectrumSpectralType, m_GeometryChoice, child, none), LMX_FLAG(ColorSpaceSpecificationSpectrumSpectralType, m_isset_GeometryChoice), position_of(k_ColorSpaceSpecificationSpectrumSpectralType_elements, element_GeometryChoice), position_of(k_ColorSpaceSpecificationSpectrumSpectralType_elements, element_GeometryChoice, 1), &GeometryChoiceType::k_class, nullptr, {}},
+    {item_kind::element, value_kind::text, use_optional, ELMX_WS_PRESERVE, "Vyr:ASTM_Table", element_ASTM_Table,
+     LMX_OFFSET(ColorSpaceSpecificationSpectrumSpectralType, m_ASTM_Table, element, text), LMX_FLAG(ColorSpaceSpecificationSpectrumSpectralType, m_isset_ASTM_Table), position_of(k_ColorSpaceSpecificationSpectrumSpectralType_elements, element_ASTM_Table), position_of(k_ColorSpaceSpecificationSpectrumSpectralType_elements, element_ASTM_Table, 1), nullptr, &facets::AstmTableKind, {}},
 };
-constinit const lmx::s_class ColorSpaceSpecificationSpectrumSpectralType::k_class = {
+constinit const s_class ColorSpaceSpecificationSpectrumSpectralType::k_class = {
     .name = "ColorSpaceSpecificationSpectrumSpectralType",
     .qualified_name = "Vyr:ColorSpaceSpecificationSpectrumSpectralType",
     .base = &ColorSpaceSpecificationSpectrumType::k_class,
-    .content = lmx::content_kind::children,
+    .content = content_kind::children,
     .may_be_empty = false,
     .ns_map = k_ns_map,
-    .nil_flag = lmx::k_no_flag,
-    .choice = lmx::k_no_flag,
+    .nil_flag = k_no_flag,
+    .choice = k_no_flag,
     .id = &ColorSpaceSpecificationSpectrumSpectralType::id,
     .xsi_type = "Vyr:ColorSpaceSpecificationSpectrumSpectralType",
-    .attributes = std::span(k_items).first(std::size(lmx::k_no_events) - 1),
-    .elements = std::span(k_items).subspan(std::size(lmx::k_no_events) - 1),
-    .attribute_map = lmx::k_no_events,
+    .attributes = std::span(k_items).first(std::size(k_no_events) - 1),
+    .elements = std::span(k_items).subspan(std::size(k_no_events) - 1),
+    .attribute_map = k_no_events,
     .element_map = k_ColorSpaceSpecificationSpectrumSpectralType_elements,
-    .operations = &lmx::k_operations<ColorSpaceSpecificationSpectrumSpectralType>,
+    .operations = &k_operations<ColorSpaceSpecificationSpectrumSpectralType>,
 };
 
 ColorSpaceSpecificationSpectrumSpectralType::ColorSpaceSpecificationSpectrumSpectralType() = default;
@@ -740,41 +779,47 @@ bool ColorSpaceSpecificationSpectrumSpectralType::setenum_ASTM_Table(std::int32_
 // ColorSpaceSpecificationEmissiveGenericType
 
 namespace {
-constexpr lmx::s_event_map k_ColorSpaceSpecificationEmissiveGenericType_elements[] = {
-    lmx::element_event("GeometryChoice", element_GeometryChoice),
-    lmx::element_event("IlluminationOptions", element_IlluminationOptions),
-    lmx::element_event("FieldOfView", element_FieldOfView),
-    lmx::element_event("ASTM_Table", element_ASTM_Table),
-    lmx::element_event("Gamma", element_Gamma),
-    lmx::element_event("DensityStatus", element_DensityStatus),
-    lmx::k_end_of_map,
+constexpr s_event_map k_ColorSpaceSpecificationEmissiveGenericType_elements[] = {
+    element_event("GeometryChoice", element_GeometryChoice),
+    element_event("IlluminationOptions", element_IlluminationOptions),
+    element_event("FieldOfView", element_FieldOfView),
+    element_event("ASTM_Table", element_ASTM_Table),
+    element_event("Gamma", element_Gamma),
+    element_event("DensityStatus", element_DensityStatus),
+    k_end_of_map,
 };
 }  // namespace
 
-constinit const lmx::s_item ColorSpaceSpecificationEmissiveGenericType::k_items[] = {
-    {lmx::item_kind::child, lmx::value_kind::none, lmx::use_optional, lmx::ELMX_WS_PRESERVE, "Vyr:GeometryChoice", element_GeometryChoice, LMX_OFFSET(ColorSpaceSpecificationEmissiveGenericType, m_GeometryChoice, child, none), LMX_FLAG(ColorSpaceSpecificationEmissiveGenericType, m_isset_GeometryChoice), lmx::position_of(k_ColorSpaceSpecificationEmissiveGenericType_elements, element_GeometryChoice), lmx::position_of(k_ColorSpaceSpecificationEmissiveGenericType_elements, element_GeometryChoice, 1), &GeometryChoiceType::k_class, nullptr, {}},
-    {lmx::item_kind::child, lmx::value_kind::none, lmx::use_optional, lmx::ELMX_WS_PRESERVE, "Vyr:IlluminationOptions", element_IlluminationOptions, LMX_OFFSET(ColorSpaceSpecificationEmissiveGenericType, m_IlluminationOptions, child, none), LMX_FLAG(ColorSpaceSpecificationEmissiveGenericType, m_isset_IlluminationOptions), lmx::position_of(k_ColorSpaceSpecificationEmissiveGenericType_elements, element_IlluminationOptions), lmx::position_of(k_ColorSpaceSpecificationEmissiveGenericType_elements, element_IlluminationOptions, 1), &IlluminationOptionsType::k_class, nullptr, {}},
-    {lmx::item_kind::element, lmx::value_kind::text, lmx::use_optional, lmx::ELMX_WS_PRESERVE, "Vyr:FieldOfView", element_FieldOfView, LMX_OFFSET(ColorSpaceSpecificationEmissiveGenericType, m_FieldOfView, element, text), LMX_FLAG(ColorSpaceSpecificationEmissiveGenericType, m_isset_FieldOfView), lmx::position_of(k_ColorSpaceSpecificationEmissiveGenericType_elements, element_FieldOfView), lmx::position_of(k_ColorSpaceSpecificationEmissiveGenericType_elements, element_FieldOfView, 1), nullptr, &facets::ObserverKind, {}},
-    {lmx::item_kind::element, lmx::value_kind::text, lmx::use_optional, lmx::ELMX_WS_PRESERVE, "Vyr:ASTM_Table", element_ASTM_Table, LMX_OFFSET(ColorSpaceSpecificationEmissiveGenericType, m_ASTM_Table, element, text), LMX_FLAG(ColorSpaceSpecificationEmissiveGenericType, m_isset_ASTM_Table), lmx::position_of(k_ColorSpaceSpecificationEmissiveGenericType_elements, element_ASTM_Table), lmx::position_of(k_ColorSpaceSpecificationEmissiveGenericType_elements, element_ASTM_Table, 1), nullptr, &facets::AstmTableKind, {}},
-    {lmx::item_kind::element, lmx::value_kind::number, lmx::use_optional, lmx::ELMX_WS_COLLAPSE, "Vyr:Gamma", element_Gamma, LMX_OFFSET(ColorSpaceSpecificationEmissiveGenericType, m_Gamma, element, number), LMX_FLAG(ColorSpaceSpecificationEmissiveGenericType, m_isset_Gamma), lmx::position_of(k_ColorSpaceSpecificationEmissiveGenericType_elements, element_Gamma), lmx::position_of(k_ColorSpaceSpecificationEmissiveGenericType_elements, element_Gamma, 1), nullptr, nullptr, {}},
-    {lmx::item_kind::element, lmx::value_kind::text, lmx::use_optional, lmx::ELMX_WS_PRESERVE, "Vyr:DensityStatus", element_DensityStatus, LMX_OFFSET(ColorSpaceSpecificationEmissiveGenericType, m_DensityStatus, element, text), LMX_FLAG(ColorSpaceSpecificationEmissiveGenericType, m_isset_DensityStatus), lmx::position_of(k_ColorSpaceSpecificationEmissiveGenericType_elements, element_DensityStatus), lmx::position_of(k_ColorSpaceSpecificationEmissiveGenericType_elements, element_DensityStatus, 1), nullptr, &facets::DensityStatusKind, {}},
+constinit const s_item ColorSpaceSpecificationEmissiveGenericType::k_items[] = {
+    {item_kind::child, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:GeometryChoice", element_GeometryChoice,
+     LMX_OFFSET(ColorSpaceSpecificationEmissiveGenericType, m_GeometryChoice, child, none), LMX_FLAG(ColorSpaceSpecificationEmissiveGenericType, m_isset_GeometryChoice), position_of(k_ColorSpaceSpecificationEmissiveGenericType_elements, element_GeometryChoice), position_of(k_ColorSpaceSpecificationEmissiveGenericType_elements, element_GeometryChoice, 1), &GeometryChoiceType::k_class, nullptr, {}},
+    {item_kind::child, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:IlluminationOptions", element_IlluminationOptions,
+     LMX_OFFSET(ColorSpaceSpecificationEmissiveGenericType, m_IlluminationOptions, child, none), LMX_FLAG(ColorSpaceSpecificationEmissiveGenericType, m_isset_IlluminationOptions), position_of(k_ColorSpaceSpecificationEmissiveGenericType_elements, element_IlluminationOptions), position_of(k_ColorSpaceSpecificationEmissiveGenericType_elements, element_IlluminationOptions, 1), &IlluminationOptionsType::k_class, nullptr, {}},
+    {item_kind::element, value_kind::text, use_optional, ELMX_WS_PRESERVE, "Vyr:FieldOfView", element_FieldOfView,
+     LMX_OFFSET(ColorSpaceSpecificationEmissiveGenericType, m_FieldOfView, element, text), LMX_FLAG(ColorSpaceSpecificationEmissiveGenericType, m_isset_FieldOfView), position_of(k_ColorSpaceSpecificationEmissiveGenericType_elements, element_FieldOfView), position_of(k_ColorSpaceSpecificationEmissiveGenericType_elements, element_FieldOfView, 1), nullptr, &facets::ObserverKind, {}},
+    {item_kind::element, value_kind::text, use_optional, ELMX_WS_PRESERVE, "Vyr:ASTM_Table", element_ASTM_Table,
+     LMX_OFFSET(ColorSpaceSpecificationEmissiveGenericType, m_ASTM_Table, element, text), LMX_FLAG(ColorSpaceSpecificationEmissiveGenericType, m_isset_ASTM_Table), position_of(k_ColorSpaceSpecificationEmissiveGenericType_elements, element_ASTM_Table), position_of(k_ColorSpaceSpecificationEmissiveGenericType_elements, element_ASTM_Table, 1), nullptr, &facets::AstmTableKind, {}},
+    {item_kind::element, value_kind::number, use_optional, ELMX_WS_COLLAPSE, "Vyr:Gamma", element_Gamma,
+     LMX_OFFSET(ColorSpaceSpecificationEmissiveGenericType, m_Gamma, element, number), LMX_FLAG(ColorSpaceSpecificationEmissiveGenericType, m_isset_Gamma), position_of(k_ColorSpaceSpecificationEmissiveGenericType_elements, element_Gamma), position_of(k_ColorSpaceSpecificationEmissiveGenericType_elements, element_Gamma, 1), nullptr, nullptr, {}},
+    {item_kind::element, value_kind::text, use_optional, ELMX_WS_PRESERVE, "Vyr:DensityStatus", element_DensityStatus,
+     LMX_OFFSET(ColorSpaceSpecificationEmissiveGenericType, m_DensityStatus, element, text), LMX_FLAG(ColorSpaceSpecificationEmissiveGenericType, m_isset_DensityStatus), position_of(k_ColorSpaceSpecificationEmissiveGenericType_elements, element_DensityStatus), position_of(k_ColorSpaceSpecificationEmissiveGenericType_elements, element_DensityStatus, 1), nullptr, &facets::DensityStatusKind, {}},
 };
-constinit const lmx::s_class ColorSpaceSpecificationEmissiveGenericType::k_class = {
+constinit const s_class ColorSpaceSpecificationEmissiveGenericType::k_class = {
     .name = "ColorSpaceSpecificationEmissiveGenericType",
     .qualified_name = "Vyr:ColorSpaceSpecificationEmissiveGenericType",
     .base = &ColorSpaceSpecificationEmissiveType::k_class,
-    .content = lmx::content_kind::children,
+    .content = content_kind::children,
     .may_be_empty = false,
     .ns_map = k_ns_map,
-    .nil_flag = lmx::k_no_flag,
-    .choice = lmx::k_no_flag,
+    .nil_flag = k_no_flag,
+    .choice = k_no_flag,
     .id = &ColorSpaceSpecificationEmissiveGenericType::id,
     .xsi_type = "Vyr:ColorSpaceSpecificationEmissiveGenericType",
-    .attributes = std::span(k_items).first(std::size(lmx::k_no_events) - 1),
-    .elements = std::span(k_items).subspan(std::size(lmx::k_no_events) - 1),
-    .attribute_map = lmx::k_no_events,
+    .attributes = std::span(k_items).first(std::size(k_no_events) - 1),
+    .elements = std::span(k_items).subspan(std::size(k_no_events) - 1),
+    .attribute_map = k_no_events,
     .element_map = k_ColorSpaceSpecificationEmissiveGenericType_elements,
-    .operations = &lmx::k_operations<ColorSpaceSpecificationEmissiveGenericType>,
+    .operations = &k_operations<ColorSpaceSpecificationEmissiveGenericType>,
 };
 
 ColorSpaceSpecificationEmissiveGenericType::ColorSpaceSpecificationEmissiveGenericType() = default;
@@ -812,39 +857,44 @@ bool ColorSpaceSpecificationEmissiveGenericType::setenum_DensityStatus(std::int3
 // ColorSpaceSpecificationEmissiveTristimulusType
 
 namespace {
-constexpr lmx::s_event_map k_ColorSpaceSpecificationEmissiveTristimulusType_elements[] = {
-    lmx::element_event("IlluminationOptions", element_IlluminationOptions),
-    lmx::element_event("FieldOfView", element_FieldOfView),
-    lmx::element_event("GeometryChoice", element_GeometryChoice),
-    lmx::element_event("ASTM_Table", element_ASTM_Table),
-    lmx::element_event("Gamma", element_Gamma),
-    lmx::k_end_of_map,
+constexpr s_event_map k_ColorSpaceSpecificationEmissiveTristimulusType_elements[] = {
+    element_event("IlluminationOptions", element_IlluminationOptions),
+    element_event("FieldOfView", element_FieldOfView),
+    element_event("GeometryChoice", element_GeometryChoice),
+    element_event("ASTM_Table", element_ASTM_Table),
+    element_event("Gamma", element_Gamma),
+    k_end_of_map,
 };
 }  // namespace
 
-constinit const lmx::s_item ColorSpaceSpecificationEmissiveTristimulusType::k_items[] = {
-    {lmx::item_kind::child, lmx::value_kind::none, lmx::use_required, lmx::ELMX_WS_PRESERVE, "Vyr:IlluminationOptions", element_IlluminationOptions, LMX_OFFSET(ColorSpaceSpecificationEmissiveTristimulusType, m_IlluminationOptions, child, none), LMX_FLAG(ColorSpaceSpecificationEmissiveTristimulusType, m_isset_IlluminationOptions), lmx::position_of(k_ColorSpaceSpecificationEmissiveTristimulusType_elements, element_IlluminationOptions), lmx::position_of(k_ColorSpaceSpecificationEmissiveTristimulusType_elements, element_IlluminationOptions, 1), &IlluminationOptionsType::k_class, nullptr, {}},
-    {lmx::item_kind::element, lmx::value_kind::text, lmx::use_required, lmx::ELMX_WS_PRESERVE, "Vyr:FieldOfView", element_FieldOfView, LMX_OFFSET(ColorSpaceSpecificationEmissiveTristimulusType, m_FieldOfView, element, text), LMX_FLAG(ColorSpaceSpecificationEmissiveTristimulusType, m_isset_FieldOfView), lmx::position_of(k_ColorSpaceSpecificationEmissiveTristimulusType_elements, element_FieldOfView), lmx::position_of(k_ColorSpaceSpecificationEmissiveTristimulusType_elements, element_FieldOfView, 1), nullptr, &facets::ObserverKind, {}},
-    {lmx::item_kind::child, lmx::value_kind::none, lmx::use_optional, lmx::ELMX_WS_PRESERVE, "Vyr:GeometryChoice", element_GeometryChoice, LMX_OFFSET(ColorSpaceSpecificationEmissiveTristimulusType, m_GeometryChoice, child, none), LMX_FLAG(ColorSpaceSpecificationEmissiveTristimulusType, m_isset_GeometryChoice), lmx::position_of(k_ColorSpaceSpecificationEmissiveTristimulusType_elements, element_GeometryChoice), lmx::position_of(k_ColorSpaceSpecificationEmissiveTristimulusType_elements, element_GeometryChoice, 1), &GeometryChoiceType::k_class, nullptr, {}},
-    {lmx::item_kind::element, lmx::value_kind::text, lmx::use_optional, lmx::ELMX_WS_PRESERVE, "Vyr:ASTM_Table", element_ASTM_Table, LMX_OFFSET(ColorSpaceSpecificationEmissiveTristimulusType, m_ASTM_Table, element, text), LMX_FLAG(ColorSpaceSpecificationEmissiveTristimulusType, m_isset_ASTM_Table), lmx::position_of(k_ColorSpaceSpecificationEmissiveTristimulusType_elements, element_ASTM_Table), lmx::position_of(k_ColorSpaceSpecificationEmissiveTristimulusType_elements, element_ASTM_Table, 1), nullptr, &facets::AstmTableKind, {}},
-    {lmx::item_kind::element, lmx::value_kind::number, lmx::use_optional, lmx::ELMX_WS_COLLAPSE, "Vyr:Gamma", element_Gamma, LMX_OFFSET(ColorSpaceSpecificationEmissiveTristimulusType, m_Gamma, element, number), LMX_FLAG(ColorSpaceSpecificationEmissiveTristimulusType, m_isset_Gamma), lmx::position_of(k_ColorSpaceSpecificationEmissiveTristimulusType_elements, element_Gamma), lmx::position_of(k_ColorSpaceSpecificationEmissiveTristimulusType_elements, element_Gamma, 1), nullptr, nullptr, {}},
+constinit const s_item ColorSpaceSpecificationEmissiveTristimulusType::k_items[] = {
+    {item_kind::child, value_kind::none, use_required, ELMX_WS_PRESERVE, "Vyr:IlluminationOptions", element_IlluminationOptions,
+     LMX_OFFSET(ColorSpaceSpecificationEmissiveTristimulusType, m_IlluminationOptions, child, none), LMX_FLAG(ColorSpaceSpecificationEmissiveTristimulusType, m_isset_IlluminationOptions), position_of(k_ColorSpaceSpecificationEmissiveTristimulusType_elements, element_IlluminationOptions), position_of(k_ColorSpaceSpecificationEmissiveTristimulusType_elements, element_IlluminationOptions, 1), &IlluminationOptionsType::k_class, nullptr, {}},
+    {item_kind::element, value_kind::text, use_required, ELMX_WS_PRESERVE, "Vyr:FieldOfView", element_FieldOfView,
+     LMX_OFFSET(ColorSpaceSpecificationEmissiveTristimulusType, m_FieldOfView, element, text), LMX_FLAG(ColorSpaceSpecificationEmissiveTristimulusType, m_isset_FieldOfView), position_of(k_ColorSpaceSpecificationEmissiveTristimulusType_elements, element_FieldOfView), position_of(k_ColorSpaceSpecificationEmissiveTristimulusType_elements, element_FieldOfView, 1), nullptr, &facets::ObserverKind, {}},
+    {item_kind::child, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:GeometryChoice", element_GeometryChoice,
+     LMX_OFFSET(ColorSpaceSpecificationEmissiveTristimulusType, m_GeometryChoice, child, none), LMX_FLAG(ColorSpaceSpecificationEmissiveTristimulusType, m_isset_GeometryChoice), position_of(k_ColorSpaceSpecificationEmissiveTristimulusType_elements, element_GeometryChoice), position_of(k_ColorSpaceSpecificationEmissiveTristimulusType_elements, element_GeometryChoice, 1), &GeometryChoiceType::k_class, nullptr, {}},
+    {item_kind::element, value_kind::text, use_optional, ELMX_WS_PRESERVE, "Vyr:ASTM_Table", element_ASTM_Table,
+     LMX_OFFSET(ColorSpaceSpecificationEmissiveTristimulusType, m_ASTM_Table, element, text), LMX_FLAG(ColorSpaceSpecificationEmissiveTristimulusType, m_isset_ASTM_Table), position_of(k_ColorSpaceSpecificationEmissiveTristimulusType_elements, element_ASTM_Table), position_of(k_ColorSpaceSpecificationEmissiveTristimulusType_elements, element_ASTM_Table, 1), nullptr, &facets::AstmTableKind, {}},
+    {item_kind::element, value_kind::number, use_optional, ELMX_WS_COLLAPSE, "Vyr:Gamma", element_Gamma,
+     LMX_OFFSET(ColorSpaceSpecificationEmissiveTristimulusType, m_Gamma, element, number), LMX_FLAG(ColorSpaceSpecificationEmissiveTristimulusType, m_isset_Gamma), position_of(k_ColorSpaceSpecificationEmissiveTristimulusType_elements, element_Gamma), position_of(k_ColorSpaceSpecificationEmissiveTristimulusType_elements, element_Gamma, 1), nullptr, nullptr, {}},
 };
-constinit const lmx::s_class ColorSpaceSpecificationEmissiveTristimulusType::k_class = {
+constinit const s_class ColorSpaceSpecificationEmissiveTristimulusType::k_class = {
     .name = "ColorSpaceSpecificationEmissiveTristimulusType",
     .qualified_name = "Vyr:ColorSpaceSpecificationEmissiveTristimulusType",
     .base = &ColorSpaceSpecificationEmissiveType::k_class,
-    .content = lmx::content_kind::children,
+    .content = content_kind::children,
     .may_be_empty = false,
     .ns_map = k_ns_map,
-    .nil_flag = lmx::k_no_flag,
-    .choice = lmx::k_no_flag,
+    .nil_flag = k_no_flag,
+    .choice = k_no_flag,
     .id = &ColorSpaceSpecificationEmissiveTristimulusType::id,
     .xsi_type = "Vyr:ColorSpaceSpecificationEmissiveTristimulusType",
-    .attributes = std::span(k_items).first(std::size(lmx::k_no_events) - 1),
-    .elements = std::span(k_items).subspan(std::size(lmx::k_no_events) - 1),
-    .attribute_map = lmx::k_no_events,
+    .attributes = std::span(k_items).first(std::size(k_no_events) - 1),
+    .elements = std::span(k_items).subspan(std::size(k_no_events) - 1),
+    .attribute_map = k_no_events,
     .element_map = k_ColorSpaceSpecificationEmissiveTristimulusType_elements,
-    .operations = &lmx::k_operations<ColorSpaceSpecificationEmissiveTristimulusType>,
+    .operations = &k_operations<ColorSpaceSpecificationEmissiveTristimulusType>,
 };
 
 ColorSpaceSpecificationEmissiveTristimulusType::ColorSpaceSpecificationEmissiveTristimulusType() = default;
@@ -879,33 +929,35 @@ lmx::elmx_error ColorSpaceSpecificationEmissiveTristimulusType::set_Gamma(double
 // ColorSpaceSpecificationEmissiveSpectralType
 
 namespace {
-constexpr lmx::s_event_map k_ColorSpaceSpecificationEmissiveSpectralType_elements[] = {
-    lmx::element_event("GeometryChoice", element_GeometryChoice),
-    lmx::element_event("ASTM_Table", element_ASTM_Table),
-    lmx::k_end_of_map,
+constexpr s_event_map k_ColorSpaceSpecificationEmissiveSpectralType_elements[] = {
+    element_event("GeometryChoice", element_GeometryChoice),
+    element_event("ASTM_Table", element_ASTM_Table),
+    k_end_of_map,
 };
 }  // namespace
 
-constinit const lmx::s_item ColorSpaceSpecificationEmissiveSpectralType::k_items[] = {
-    {lmx::item_kind::child, lmx::value_kind::none, lmx::use_required, lmx::ELMX_WS_PRESERVE, "Vyr:GeometryChoice", element_GeometryChoice, LMX_OFFSET(ColorSpaceSpecificationEmissiveSpectralType, m_GeometryChoice, child, none), LMX_FLAG(ColorSpaceSpecificationEmissiveSpectralType, m_isset_GeometryChoice), lmx::position_of(k_ColorSpaceSpecificationEmissiveSpectralType_elements, element_GeometryChoice), lmx::position_of(k_ColorSpaceSpecificationEmissiveSpectralType_elements, element_GeometryChoice, 1), &GeometryChoiceType::k_class, nullptr, {}},
-    {lmx::item_kind::element, lmx::value_kind::text, lmx::use_optional, lmx::ELMX_WS_PRESERVE, "Vyr:ASTM_Table", element_ASTM_Table, LMX_OFFSET(ColorSpaceSpecificationEmissiveSpectralType, m_ASTM_Table, element, text), LMX_FLAG(ColorSpaceSpecificationEmissiveSpectralType, m_isset_ASTM_Table), lmx::position_of(k_ColorSpaceSpecificationEmissiveSpectralType_elements, element_ASTM_Table), lmx::position_of(k_ColorSpaceSpecificationEmissiveSpectralType_elements, element_ASTM_Table, 1), nullptr, &facets::AstmTableKind, {}},
+constinit const s_item ColorSpaceSpecificationEmissiveSpectralType::k_items[] = {
+    {item_kind::child, value_kind::none, use_required, ELMX_WS_PRESERVE, "Vyr:GeometryChoice", element_GeometryChoice,
+     LMX_OFFSET(ColorSpaceSpecificationEmissiveSpectralType, m_GeometryChoice, child, none), LMX_FLAG(ColorSpaceSpecificationEmissiveSpectralType, m_isset_GeometryChoice), position_of(k_ColorSpaceSpecificationEmissiveSpectralType_elements, element_GeometryChoice), position_of(k_ColorSpaceSpecificationEmissiveSpectralType_elements, element_GeometryChoice, 1), &GeometryChoiceType::k_class, nullptr, {}},
+    {item_kind::element, value_kind::text, use_optional, ELMX_WS_PRESERVE, "Vyr:ASTM_Table", element_ASTM_Table,
+     LMX_OFFSET(ColorSpaceSpecificationEmissiveSpectralType, m_ASTM_Table, element, text), LMX_FLAG(ColorSpaceSpecificationEmissiveSpectralType, m_isset_ASTM_Table), position_of(k_ColorSpaceSpecificationEmissiveSpectralType_elements, element_ASTM_Table), position_of(k_ColorSpaceSpecificationEmissiveSpectralType_elements, element_ASTM_Table, 1), nullptr, &facets::AstmTableKind, {}},
 };
-constinit const lmx::s_class ColorSpaceSpecificationEmissiveSpectralType::k_class = {
+constinit const s_class ColorSpaceSpecificationEmissiveSpectralType::k_class = {
     .name = "ColorSpaceSpecificationEmissiveSpectralType",
     .qualified_name = "Vyr:ColorSpaceSpecificationEmissiveSpectralType",
     .base = &ColorSpaceSpecificationEmissiveType::k_class,
-    .content = lmx::content_kind::children,
+    .content = content_kind::children,
     .may_be_empty = false,
     .ns_map = k_ns_map,
-    .nil_flag = lmx::k_no_flag,
-    .choice = lmx::k_no_flag,
+    .nil_flag = k_no_flag,
+    .choice = k_no_flag,
     .id = &ColorSpaceSpecificationEmissiveSpectralType::id,
     .xsi_type = "Vyr:ColorSpaceSpecificationEmissiveSpectralType",
-    .attributes = std::span(k_items).first(std::size(lmx::k_no_events) - 1),
-    .elements = std::span(k_items).subspan(std::size(lmx::k_no_events) - 1),
-    .attribute_map = lmx::k_no_events,
+    .attributes = std::span(k_items).first(std::size(k_no_events) - 1),
+    .elements = std::span(k_items).subspan(std::size(k_no_events) - 1),
+    .attribute_map = k_no_events,
     .element_map = k_ColorSpaceSpecificationEmissiveSpectralType_elements,
-    .operations = &lmx::k_operations<ColorSpaceSpecificationEmissiveSpectralType>,
+    .operations = &k_operations<ColorSpaceSpecificationEmissiveSpectralType>,
 };
 
 ColorSpaceSpecificationEmissiveSpectralType::ColorSpaceSpecificationEmissiveSpectralType() = default;
@@ -939,7 +991,7 @@ lmx::elmx_error ColorSpaceSpecification::marshal(lmx::c_xml_writer& writer, cons
     return ColorSpaceSpecificationType::marshal(writer, name);
 }
 lmx::elmx_error ColorSpaceSpecification::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return ColorSpaceSpecificationType::unmarshal(reader, name); }
-const lmx::s_document ColorSpaceSpecification::k_document = {"Vyr:ColorSpaceSpecification", "ColorSpaceSpecification", k_ns_map, &lmx::k_operations<ColorSpaceSpecification>};
+constinit const lmx::s_document ColorSpaceSpecification::k_document = {"Vyr:ColorSpaceSpecification", "ColorSpaceSpecification", k_ns_map, &lmx::k_operations<ColorSpaceSpecification>};
 const lmx::s_ns_map* ColorSpaceSpecification::ns_map() { return k_ns_map; }
 lmx::elmx_error ColorSpaceSpecification::unmarshal(lmx::c_xml_reader& reader) { return lmx::unmarshal_document(k_document, this, reader); }
 
@@ -950,7 +1002,7 @@ lmx::elmx_error ColorSpaceSpecificationSpectrum::marshal(lmx::c_xml_writer& writ
     return ColorSpaceSpecificationSpectrumType::marshal(writer, name);
 }
 lmx::elmx_error ColorSpaceSpecificationSpectrum::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return ColorSpaceSpecificationSpectrumType::unmarshal(reader, name); }
-const lmx::s_document ColorSpaceSpecificationSpectrum::k_document = {"Vyr:ColorSpaceSpecificationSpectrum", "ColorSpaceSpecificationSpectrum", k_ns_map, &lmx::k_operations<ColorSpaceSpecificationSpectrum>};
+constinit const lmx::s_document ColorSpaceSpecificationSpectrum::k_document = {"Vyr:ColorSpaceSpecificationSpectrum", "ColorSpaceSpecificationSpectrum", k_ns_map, &lmx::k_operations<ColorSpaceSpecificationSpectrum>};
 const lmx::s_ns_map* ColorSpaceSpecificationSpectrum::ns_map() { return k_ns_map; }
 lmx::elmx_error ColorSpaceSpecificationSpectrum::unmarshal(lmx::c_xml_reader& reader) { return lmx::unmarshal_document(k_document, this, reader); }
 ColorSpaceSpecificationSpectrum::ColorSpaceSpecificationSpectrum(const char* file_name, lmx::elmx_error* error) : ColorSpaceSpecificationSpectrum() { *error = unmarshal(file_name); }
@@ -965,22 +1017,22 @@ lmx::elmx_error ColorSpaceSpecificationSpectrum::marshal(std::ostream& stream) c
 
 // ColorSpaceSpecificationSpectrumGeneric
 
-constinit const lmx::s_class ColorSpaceSpecificationSpectrumGeneric::k_class = {
+constinit const s_class ColorSpaceSpecificationSpectrumGeneric::k_class = {
     .name = "ColorSpaceSpecificationSpectrumGeneric",
     .qualified_name = "Vyr:ColorSpaceSpecificationSpectrumGeneric",
     .base = &ColorSpaceSpecificationSpectrumGenericType::k_class,
-    .content = lmx::content_kind::children,
+    .content = content_kind::children,
     .may_be_empty = false,
     .ns_map = k_ns_map,
     .nil_flag = LMX_FLAG(ColorSpaceSpecificationSpectrumGeneric, m_isnil),
-    .choice = lmx::k_no_flag,
+    .choice = k_no_flag,
     .id = &ColorSpaceSpecificationSpectrumGenericType::id,
     .xsi_type = "Vyr:ColorSpaceSpecificationSpectrumGenericType",
     .attributes = {},
     .elements = {},
-    .attribute_map = lmx::k_no_events,
-    .element_map = lmx::k_no_events,
-    .operations = &lmx::k_operations<ColorSpaceSpecificationSpectrumGeneric>,
+    .attribute_map = k_no_events,
+    .element_map = k_no_events,
+    .operations = &k_operations<ColorSpaceSpecificationSpectrumGeneric>,
 };
 
 ColorSpaceSpecificationSpectrumGeneric::ColorSpaceSpecificationSpectrumGeneric() = default;
@@ -997,7 +1049,7 @@ lmx::elmx_error ColorSpaceSpecificationSpectrumGeneric::marshal_child_elements(l
 bool ColorSpaceSpecificationSpectrumGeneric::unmarshal_attributes(lmx::c_xml_reader& reader, const std::string& name, lmx::elmx_error* error) { return lmx::unmarshal_attribute(k_class, this, reader, name, error); }
 lmx::elmx_error ColorSpaceSpecificationSpectrumGeneric::unmarshal_attributes_check(lmx::c_xml_reader& reader) { return lmx::check_required_attributes(k_class, this, reader); }
 bool ColorSpaceSpecificationSpectrumGeneric::unmarshal_body(lmx::c_xml_reader& reader, std::string* name, lmx::elmx_error* error) { return lmx::unmarshal_body(k_class, this, reader, name, error); }
-const lmx::s_document ColorSpaceSpecificationSpectrumGeneric::k_document = {"Vyr:ColorSpaceSpecificationSpectrumGeneric", "ColorSpaceSpecificationSpectrumGeneric", k_ns_map, &lmx::k_operations<ColorSpaceSpecificationSpectrumGeneric>};
+constinit const lmx::s_document ColorSpaceSpecificationSpectrumGeneric::k_document = {"Vyr:ColorSpaceSpecificationSpectrumGeneric", "ColorSpaceSpecificationSpectrumGeneric", k_ns_map, &lmx::k_operations<ColorSpaceSpecificationSpectrumGeneric>};
 const lmx::s_ns_map* ColorSpaceSpecificationSpectrumGeneric::ns_map() { return k_ns_map; }
 lmx::elmx_error ColorSpaceSpecificationSpectrumGeneric::unmarshal(lmx::c_xml_reader& reader) { return lmx::unmarshal_document(k_document, this, reader); }
 ColorSpaceSpecificationSpectrumGeneric::ColorSpaceSpecificationSpectrumGeneric(const char* file_name, lmx::elmx_error* error) : ColorSpaceSpecificationSpectrumGeneric() { *error = lmx::ELMX_UNDEFINED_ERROR; *error = unmarshal(file_name); }
@@ -1012,22 +1064,22 @@ lmx::elmx_error ColorSpaceSpecificationSpectrumGeneric::marshal(std::ostream& st
 
 // ColorSpaceSpecificationSpectrumTristimulus
 
-constinit const lmx::s_class ColorSpaceSpecificationSpectrumTristimulus::k_class = {
+constinit const s_class ColorSpaceSpecificationSpectrumTristimulus::k_class = {
     .name = "ColorSpaceSpecificationSpectrumTristimulus",
     .qualified_name = "Vyr:ColorSpaceSpecificationSpectrumTristimulus",
     .base = &ColorSpaceSpecificationSpectrumTristimulusType::k_class,
-    .content = lmx::content_kind::children,
+    .content = content_kind::children,
     .may_be_empty = false,
     .ns_map = k_ns_map,
     .nil_flag = LMX_FLAG(ColorSpaceSpecificationSpectrumTristimulus, m_isnil),
-    .choice = lmx::k_no_flag,
+    .choice = k_no_flag,
     .id = &ColorSpaceSpecificationSpectrumTristimulusType::id,
     .xsi_type = "Vyr:ColorSpaceSpecificationSpectrumTristimulusType",
     .attributes = {},
     .elements = {},
-    .attribute_map = lmx::k_no_events,
-    .element_map = lmx::k_no_events,
-    .operations = &lmx::k_operations<ColorSpaceSpecificationSpectrumTristimulus>,
+    .attribute_map = k_no_events,
+    .element_map = k_no_events,
+    .operations = &k_operations<ColorSpaceSpecificationSpectrumTristimulus>,
 };
 
 ColorSpaceSpecificationSpectrumTristimulus::ColorSpaceSpecificationSpectrumTristimulus() = default;
@@ -1044,7 +1096,7 @@ lmx::elmx_error ColorSpaceSpecificationSpectrumTristimulus::marshal_child_elemen
 bool ColorSpaceSpecificationSpectrumTristimulus::unmarshal_attributes(lmx::c_xml_reader& reader, const std::string& name, lmx::elmx_error* error) { return lmx::unmarshal_attribute(k_class, this, reader, name, error); }
 lmx::elmx_error ColorSpaceSpecificationSpectrumTristimulus::unmarshal_attributes_check(lmx::c_xml_reader& reader) { return lmx::check_required_attributes(k_class, this, reader); }
 bool ColorSpaceSpecificationSpectrumTristimulus::unmarshal_body(lmx::c_xml_reader& reader, std::string* name, lmx::elmx_error* error) { return lmx::unmarshal_body(k_class, this, reader, name, error); }
-const lmx::s_document ColorSpaceSpecificationSpectrumTristimulus::k_document = {"Vyr:ColorSpaceSpecificationSpectrumTristimulus", "ColorSpaceSpecificationSpectrumTristimulus", k_ns_map, &lmx::k_operations<ColorSpaceSpecificationSpectrumTristimulus>};
+constinit const lmx::s_document ColorSpaceSpecificationSpectrumTristimulus::k_document = {"Vyr:ColorSpaceSpecificationSpectrumTristimulus", "ColorSpaceSpecificationSpectrumTristimulus", k_ns_map, &lmx::k_operations<ColorSpaceSpecificationSpectrumTristimulus>};
 const lmx::s_ns_map* ColorSpaceSpecificationSpectrumTristimulus::ns_map() { return k_ns_map; }
 lmx::elmx_error ColorSpaceSpecificationSpectrumTristimulus::unmarshal(lmx::c_xml_reader& reader) { return lmx::unmarshal_document(k_document, this, reader); }
 ColorSpaceSpecificationSpectrumTristimulus::ColorSpaceSpecificationSpectrumTristimulus(const char* file_name, lmx::elmx_error* error) : ColorSpaceSpecificationSpectrumTristimulus() { *error = lmx::ELMX_UNDEFINED_ERROR; *error = unmarshal(file_name); }
@@ -1059,22 +1111,22 @@ lmx::elmx_error ColorSpaceSpecificationSpectrumTristimulus::marshal(std::ostream
 
 // ColorSpaceSpecificationSpectrumSpectral
 
-constinit const lmx::s_class ColorSpaceSpecificationSpectrumSpectral::k_class = {
+constinit const s_class ColorSpaceSpecificationSpectrumSpectral::k_class = {
     .name = "ColorSpaceSpecificationSpectrumSpectral",
     .qualified_name = "Vyr:ColorSpaceSpecificationSpectrumSpectral",
     .base = &ColorSpaceSpecificationSpectrumSpectralType::k_class,
-    .content = lmx::content_kind::children,
+    .content = content_kind::children,
     .may_be_empty = false,
     .ns_map = k_ns_map,
     .nil_flag = LMX_FLAG(ColorSpaceSpecificationSpectrumSpectral, m_isnil),
-    .choice = lmx::k_no_flag,
+    .choice = k_no_flag,
     .id = &ColorSpaceSpecificationSpectrumSpectralType::id,
     .xsi_type = "Vyr:ColorSpaceSpecificationSpectrumSpectralType",
     .attributes = {},
     .elements = {},
-    .attribute_map = lmx::k_no_events,
-    .element_map = lmx::k_no_events,
-    .operations = &lmx::k_operations<ColorSpaceSpecificationSpectrumSpectral>,
+    .attribute_map = k_no_events,
+    .element_map = k_no_events,
+    .operations = &k_operations<ColorSpaceSpecificationSpectrumSpectral>,
 };
 
 ColorSpaceSpecificationSpectrumSpectral::ColorSpaceSpecificationSpectrumSpectral() = default;
@@ -1091,7 +1143,7 @@ lmx::elmx_error ColorSpaceSpecificationSpectrumSpectral::marshal_child_elements(
 bool ColorSpaceSpecificationSpectrumSpectral::unmarshal_attributes(lmx::c_xml_reader& reader, const std::string& name, lmx::elmx_error* error) { return lmx::unmarshal_attribute(k_class, this, reader, name, error); }
 lmx::elmx_error ColorSpaceSpecificationSpectrumSpectral::unmarshal_attributes_check(lmx::c_xml_reader& reader) { return lmx::check_required_attributes(k_class, this, reader); }
 bool ColorSpaceSpecificationSpectrumSpectral::unmarshal_body(lmx::c_xml_reader& reader, std::string* name, lmx::elmx_error* error) { return lmx::unmarshal_body(k_class, this, reader, name, error); }
-const lmx::s_document ColorSpaceSpecificationSpectrumSpectral::k_document = {"Vyr:ColorSpaceSpecificationSpectrumSpectral", "ColorSpaceSpecificationSpectrumSpectral", k_ns_map, &lmx::k_operations<ColorSpaceSpecificationSpectrumSpectral>};
+constinit const lmx::s_document ColorSpaceSpecificationSpectrumSpectral::k_document = {"Vyr:ColorSpaceSpecificationSpectrumSpectral", "ColorSpaceSpecificationSpectrumSpectral", k_ns_map, &lmx::k_operations<ColorSpaceSpecificationSpectrumSpectral>};
 const lmx::s_ns_map* ColorSpaceSpecificationSpectrumSpectral::ns_map() { return k_ns_map; }
 lmx::elmx_error ColorSpaceSpecificationSpectrumSpectral::unmarshal(lmx::c_xml_reader& reader) { return lmx::unmarshal_document(k_document, this, reader); }
 ColorSpaceSpecificationSpectrumSpectral::ColorSpaceSpecificationSpectrumSpectral(const char* file_name, lmx::elmx_error* error) : ColorSpaceSpecificationSpectrumSpectral() { *error = lmx::ELMX_UNDEFINED_ERROR; *error = unmarshal(file_name); }
@@ -1111,7 +1163,7 @@ lmx::elmx_error ColorSpaceSpecificationEmissive::marshal(lmx::c_xml_writer& writ
     return ColorSpaceSpecificationEmissiveType::marshal(writer, name);
 }
 lmx::elmx_error ColorSpaceSpecificationEmissive::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return ColorSpaceSpecificationEmissiveType::unmarshal(reader, name); }
-const lmx::s_document ColorSpaceSpecificationEmissive::k_document = {"Vyr:ColorSpaceSpecificationEmissive", "ColorSpaceSpecificationEmissive", k_ns_map, &lmx::k_operations<ColorSpaceSpecificationEmissive>};
+constinit const lmx::s_document ColorSpaceSpecificationEmissive::k_document = {"Vyr:ColorSpaceSpecificationEmissive", "ColorSpaceSpecificationEmissive", k_ns_map, &lmx::k_operations<ColorSpaceSpecificationEmissive>};
 const lmx::s_ns_map* ColorSpaceSpecificationEmissive::ns_map() { return k_ns_map; }
 lmx::elmx_error ColorSpaceSpecificationEmissive::unmarshal(lmx::c_xml_reader& reader) { return lmx::unmarshal_document(k_document, this, reader); }
 ColorSpaceSpecificationEmissive::ColorSpaceSpecificationEmissive(const char* file_name, lmx::elmx_error* error) : ColorSpaceSpecificationEmissive() { *error = unmarshal(file_name); }
@@ -1126,22 +1178,22 @@ lmx::elmx_error ColorSpaceSpecificationEmissive::marshal(std::ostream& stream) c
 
 // ColorSpaceSpecificationEmissiveGeneric
 
-constinit const lmx::s_class ColorSpaceSpecificationEmissiveGeneric::k_class = {
+constinit const s_class ColorSpaceSpecificationEmissiveGeneric::k_class = {
     .name = "ColorSpaceSpecificationEmissiveGeneric",
     .qualified_name = "Vyr:ColorSpaceSpecificationEmissiveGeneric",
     .base = &ColorSpaceSpecificationEmissiveGenericType::k_class,
-    .content = lmx::content_kind::children,
+    .content = content_kind::children,
     .may_be_empty = false,
     .ns_map = k_ns_map,
     .nil_flag = LMX_FLAG(ColorSpaceSpecificationEmissiveGeneric, m_isnil),
-    .choice = lmx::k_no_flag,
+    .choice = k_no_flag,
     .id = &ColorSpaceSpecificationEmissiveGenericType::id,
     .xsi_type = "Vyr:ColorSpaceSpecificationEmissiveGenericType",
     .attributes = {},
     .elements = {},
-    .attribute_map = lmx::k_no_events,
-    .element_map = lmx::k_no_events,
-    .operations = &lmx::k_operations<ColorSpaceSpecificationEmissiveGeneric>,
+    .attribute_map = k_no_events,
+    .element_map = k_no_events,
+    .operations = &k_operations<ColorSpaceSpecificationEmissiveGeneric>,
 };
 
 ColorSpaceSpecificationEmissiveGeneric::ColorSpaceSpecificationEmissiveGeneric() = default;
@@ -1158,7 +1210,7 @@ lmx::elmx_error ColorSpaceSpecificationEmissiveGeneric::marshal_child_elements(l
 bool ColorSpaceSpecificationEmissiveGeneric::unmarshal_attributes(lmx::c_xml_reader& reader, const std::string& name, lmx::elmx_error* error) { return lmx::unmarshal_attribute(k_class, this, reader, name, error); }
 lmx::elmx_error ColorSpaceSpecificationEmissiveGeneric::unmarshal_attributes_check(lmx::c_xml_reader& reader) { return lmx::check_required_attributes(k_class, this, reader); }
 bool ColorSpaceSpecificationEmissiveGeneric::unmarshal_body(lmx::c_xml_reader& reader, std::string* name, lmx::elmx_error* error) { return lmx::unmarshal_body(k_class, this, reader, name, error); }
-const lmx::s_document ColorSpaceSpecificationEmissiveGeneric::k_document = {"Vyr:ColorSpaceSpecificationEmissiveGeneric", "ColorSpaceSpecificationEmissiveGeneric", k_ns_map, &lmx::k_operations<ColorSpaceSpecificationEmissiveGeneric>};
+constinit const lmx::s_document ColorSpaceSpecificationEmissiveGeneric::k_document = {"Vyr:ColorSpaceSpecificationEmissiveGeneric", "ColorSpaceSpecificationEmissiveGeneric", k_ns_map, &lmx::k_operations<ColorSpaceSpecificationEmissiveGeneric>};
 const lmx::s_ns_map* ColorSpaceSpecificationEmissiveGeneric::ns_map() { return k_ns_map; }
 lmx::elmx_error ColorSpaceSpecificationEmissiveGeneric::unmarshal(lmx::c_xml_reader& reader) { return lmx::unmarshal_document(k_document, this, reader); }
 ColorSpaceSpecificationEmissiveGeneric::ColorSpaceSpecificationEmissiveGeneric(const char* file_name, lmx::elmx_error* error) : ColorSpaceSpecificationEmissiveGeneric() { *error = lmx::ELMX_UNDEFINED_ERROR; *error = unmarshal(file_name); }
@@ -1173,22 +1225,22 @@ lmx::elmx_error ColorSpaceSpecificationEmissiveGeneric::marshal(std::ostream& st
 
 // ColorSpaceSpecificationEmissiveTristimulus
 
-constinit const lmx::s_class ColorSpaceSpecificationEmissiveTristimulus::k_class = {
+constinit const s_class ColorSpaceSpecificationEmissiveTristimulus::k_class = {
     .name = "ColorSpaceSpecificationEmissiveTristimulus",
     .qualified_name = "Vyr:ColorSpaceSpecificationEmissiveTristimulus",
     .base = &ColorSpaceSpecificationEmissiveTristimulusType::k_class,
-    .content = lmx::content_kind::children,
+    .content = content_kind::children,
     .may_be_empty = false,
     .ns_map = k_ns_map,
     .nil_flag = LMX_FLAG(ColorSpaceSpecificationEmissiveTristimulus, m_isnil),
-    .choice = lmx::k_no_flag,
+    .choice = k_no_flag,
     .id = &ColorSpaceSpecificationEmissiveTristimulusType::id,
     .xsi_type = "Vyr:ColorSpaceSpecificationEmissiveTristimulusType",
     .attributes = {},
     .elements = {},
-    .attribute_map = lmx::k_no_events,
-    .element_map = lmx::k_no_events,
-    .operations = &lmx::k_operations<ColorSpaceSpecificationEmissiveTristimulus>,
+    .attribute_map = k_no_events,
+    .element_map = k_no_events,
+    .operations = &k_operations<ColorSpaceSpecificationEmissiveTristimulus>,
 };
 
 ColorSpaceSpecificationEmissiveTristimulus::ColorSpaceSpecificationEmissiveTristimulus() = default;
@@ -1205,7 +1257,7 @@ lmx::elmx_error ColorSpaceSpecificationEmissiveTristimulus::marshal_child_elemen
 bool ColorSpaceSpecificationEmissiveTristimulus::unmarshal_attributes(lmx::c_xml_reader& reader, const std::string& name, lmx::elmx_error* error) { return lmx::unmarshal_attribute(k_class, this, reader, name, error); }
 lmx::elmx_error ColorSpaceSpecificationEmissiveTristimulus::unmarshal_attributes_check(lmx::c_xml_reader& reader) { return lmx::check_required_attributes(k_class, this, reader); }
 bool ColorSpaceSpecificationEmissiveTristimulus::unmarshal_body(lmx::c_xml_reader& reader, std::string* name, lmx::elmx_error* error) { return lmx::unmarshal_body(k_class, this, reader, name, error); }
-const lmx::s_document ColorSpaceSpecificationEmissiveTristimulus::k_document = {"Vyr:ColorSpaceSpecificationEmissiveTristimulus", "ColorSpaceSpecificationEmissiveTristimulus", k_ns_map, &lmx::k_operations<ColorSpaceSpecificationEmissiveTristimulus>};
+constinit const lmx::s_document ColorSpaceSpecificationEmissiveTristimulus::k_document = {"Vyr:ColorSpaceSpecificationEmissiveTristimulus", "ColorSpaceSpecificationEmissiveTristimulus", k_ns_map, &lmx::k_operations<ColorSpaceSpecificationEmissiveTristimulus>};
 const lmx::s_ns_map* ColorSpaceSpecificationEmissiveTristimulus::ns_map() { return k_ns_map; }
 lmx::elmx_error ColorSpaceSpecificationEmissiveTristimulus::unmarshal(lmx::c_xml_reader& reader) { return lmx::unmarshal_document(k_document, this, reader); }
 ColorSpaceSpecificationEmissiveTristimulus::ColorSpaceSpecificationEmissiveTristimulus(const char* file_name, lmx::elmx_error* error) : ColorSpaceSpecificationEmissiveTristimulus() { *error = lmx::ELMX_UNDEFINED_ERROR; *error = unmarshal(file_name); }
@@ -1220,22 +1272,22 @@ lmx::elmx_error ColorSpaceSpecificationEmissiveTristimulus::marshal(std::ostream
 
 // ColorSpaceSpecificationEmissiveSpectral
 
-constinit const lmx::s_class ColorSpaceSpecificationEmissiveSpectral::k_class = {
+constinit const s_class ColorSpaceSpecificationEmissiveSpectral::k_class = {
     .name = "ColorSpaceSpecificationEmissiveSpectral",
     .qualified_name = "Vyr:ColorSpaceSpecificationEmissiveSpectral",
     .base = &ColorSpaceSpecificationEmissiveSpectralType::k_class,
-    .content = lmx::content_kind::children,
+    .content = content_kind::children,
     .may_be_empty = false,
     .ns_map = k_ns_map,
     .nil_flag = LMX_FLAG(ColorSpaceSpecificationEmissiveSpectral, m_isnil),
-    .choice = lmx::k_no_flag,
+    .choice = k_no_flag,
     .id = &ColorSpaceSpecificationEmissiveSpectralType::id,
     .xsi_type = "Vyr:ColorSpaceSpecificationEmissiveSpectralType",
     .attributes = {},
     .elements = {},
-    .attribute_map = lmx::k_no_events,
-    .element_map = lmx::k_no_events,
-    .operations = &lmx::k_operations<ColorSpaceSpecificationEmissiveSpectral>,
+    .attribute_map = k_no_events,
+    .element_map = k_no_events,
+    .operations = &k_operations<ColorSpaceSpecificationEmissiveSpectral>,
 };
 
 ColorSpaceSpecificationEmissiveSpectral::ColorSpaceSpecificationEmissiveSpectral() = default;
@@ -1252,7 +1304,7 @@ lmx::elmx_error ColorSpaceSpecificationEmissiveSpectral::marshal_child_elements(
 bool ColorSpaceSpecificationEmissiveSpectral::unmarshal_attributes(lmx::c_xml_reader& reader, const std::string& name, lmx::elmx_error* error) { return lmx::unmarshal_attribute(k_class, this, reader, name, error); }
 lmx::elmx_error ColorSpaceSpecificationEmissiveSpectral::unmarshal_attributes_check(lmx::c_xml_reader& reader) { return lmx::check_required_attributes(k_class, this, reader); }
 bool ColorSpaceSpecificationEmissiveSpectral::unmarshal_body(lmx::c_xml_reader& reader, std::string* name, lmx::elmx_error* error) { return lmx::unmarshal_body(k_class, this, reader, name, error); }
-const lmx::s_document ColorSpaceSpecificationEmissiveSpectral::k_document = {"Vyr:ColorSpaceSpecificationEmissiveSpectral", "ColorSpaceSpecificationEmissiveSpectral", k_ns_map, &lmx::k_operations<ColorSpaceSpecificationEmissiveSpectral>};
+constinit const lmx::s_document ColorSpaceSpecificationEmissiveSpectral::k_document = {"Vyr:ColorSpaceSpecificationEmissiveSpectral", "ColorSpaceSpecificationEmissiveSpectral", k_ns_map, &lmx::k_operations<ColorSpaceSpecificationEmissiveSpectral>};
 const lmx::s_ns_map* ColorSpaceSpecificationEmissiveSpectral::ns_map() { return k_ns_map; }
 lmx::elmx_error ColorSpaceSpecificationEmissiveSpectral::unmarshal(lmx::c_xml_reader& reader) { return lmx::unmarshal_document(k_document, this, reader); }
 ColorSpaceSpecificationEmissiveSpectral::ColorSpaceSpecificationEmissiveSpectral(const char* file_name, lmx::elmx_error* error) : ColorSpaceSpecificationEmissiveSpectral() { *error = lmx::ELMX_UNDEFINED_ERROR; *error = unmarshal(file_name); }
@@ -1268,32 +1320,34 @@ lmx::elmx_error ColorSpaceSpecificationEmissiveSpectral::marshal(std::ostream& s
 // Illuminant
 
 namespace {
-constexpr lmx::s_event_map k_Illuminant_attributes[] = {
-    lmx::attribute_event("CustomName", attribute_CustomName),
-    lmx::k_end_of_map,
+constexpr s_event_map k_Illuminant_attributes[] = {
+    attribute_event("CustomName", attribute_CustomName),
+    k_end_of_map,
 };
 }  // namespace
 
-constinit const lmx::s_item Illuminant::k_items[] = {
-    {lmx::item_kind::attribute, lmx::value_kind::text, lmx::use_optional, lmx::ELMX_WS_PRESERVE, "CustomName", attribute_CustomName, LMX_OFFSET(Illuminant, m_CustomName, attribute, text), LMX_FLAG(Illuminant, m_isset_CustomName), 0, 0, nullptr, nullptr, {}},
-    {lmx::item_kind::content, lmx::value_kind::text, lmx::use_required, lmx::ELMX_WS_PRESERVE, "", 0, LMX_OFFSET(Illuminant, m_Illuminant, content, text), LMX_FLAG(Illuminant, m_isset_Illuminant), 0, 0, nullptr, &facets::IlluminantKind, {}},
+constinit const s_item Illuminant::k_items[] = {
+    {item_kind::attribute, value_kind::text, use_optional, ELMX_WS_PRESERVE, "CustomName", attribute_CustomName,
+     LMX_OFFSET(Illuminant, m_CustomName, attribute, text), LMX_FLAG(Illuminant, m_isset_CustomName), 0, 0, nullptr, nullptr, {}},
+    {item_kind::content, value_kind::text, use_required, ELMX_WS_PRESERVE, "", 0,
+     LMX_OFFSET(Illuminant, m_Illuminant, content, text), LMX_FLAG(Illuminant, m_isset_Illuminant), 0, 0, nullptr, &facets::IlluminantKind, {}},
 };
-constinit const lmx::s_class Illuminant::k_class = {
+constinit const s_class Illuminant::k_class = {
     .name = "Illuminant",
     .qualified_name = "Vyr:Illuminant",
     .base = nullptr,
-    .content = lmx::content_kind::simple,
+    .content = content_kind::simple,
     .may_be_empty = false,
     .ns_map = nullptr,
-    .nil_flag = lmx::k_no_flag,
-    .choice = lmx::k_no_flag,
+    .nil_flag = k_no_flag,
+    .choice = k_no_flag,
     .id = nullptr,
     .xsi_type = nullptr,
     .attributes = std::span(k_items).first(std::size(k_Illuminant_attributes) - 1),
     .elements = std::span(k_items).subspan(std::size(k_Illuminant_attributes) - 1),
     .attribute_map = k_Illuminant_attributes,
-    .element_map = lmx::k_no_events,
-    .operations = &lmx::k_operations<Illuminant>,
+    .element_map = k_no_events,
+    .operations = &k_operations<Illuminant>,
 };
 
 Illuminant::Illuminant() = default;
@@ -1318,33 +1372,35 @@ bool Illuminant::setenum_Illuminant(std::int32_t number) { return lmx::set_enume
 // WhitePointChromaticity
 
 namespace {
-constexpr lmx::s_event_map k_WhitePointChromaticity_elements[] = {
-    lmx::element_event("CoordinateX", element_CoordinateX),
-    lmx::element_event("CoordinateY", element_CoordinateY),
-    lmx::k_end_of_map,
+constexpr s_event_map k_WhitePointChromaticity_elements[] = {
+    element_event("CoordinateX", element_CoordinateX),
+    element_event("CoordinateY", element_CoordinateY),
+    k_end_of_map,
 };
 }  // namespace
 
-constinit const lmx::s_item WhitePointChromaticity::k_items[] = {
-    {lmx::item_kind::element, lmx::value_kind::number, lmx::use_required, lmx::ELMX_WS_COLLAPSE, "Vyr:CoordinateX", element_CoordinateX, LMX_OFFSET(WhitePointChromaticity, m_CoordinateX, element, number), LMX_FLAG(WhitePointChromaticity, m_isset_CoordinateX), lmx::position_of(k_WhitePointChromaticity_elements, element_CoordinateX), lmx::position_of(k_WhitePointChromaticity_elements, element_CoordinateX, 1), nullptr, &facets::Fraction, {}},
-    {lmx::item_kind::element, lmx::value_kind::number, lmx::use_required, lmx::ELMX_WS_COLLAPSE, "Vyr:CoordinateY", element_CoordinateY, LMX_OFFSET(WhitePointChromaticity, m_CoordinateY, element, number), LMX_FLAG(WhitePointChromaticity, m_isset_CoordinateY), lmx::position_of(k_WhitePointChromaticity_elements, element_CoordinateY), lmx::position_of(k_WhitePointChromaticity_elements, element_CoordinateY, 1), nullptr, &facets::Fraction, {}},
+constinit const s_item WhitePointChromaticity::k_items[] = {
+    {item_kind::element, value_kind::number, use_required, ELMX_WS_COLLAPSE, "Vyr:CoordinateX", element_CoordinateX,
+     LMX_OFFSET(WhitePointChromaticity, m_CoordinateX, element, number), LMX_FLAG(WhitePointChromaticity, m_isset_CoordinateX), position_of(k_WhitePointChromaticity_elements, element_CoordinateX), position_of(k_WhitePointChromaticity_elements, element_CoordinateX, 1), nullptr, &facets::Fraction, {}},
+    {item_kind::element, value_kind::number, use_required, ELMX_WS_COLLAPSE, "Vyr:CoordinateY", element_CoordinateY,
+     LMX_OFFSET(WhitePointChromaticity, m_CoordinateY, element, number), LMX_FLAG(WhitePointChromaticity, m_isset_CoordinateY), position_of(k_WhitePointChromaticity_elements, element_CoordinateY), position_of(k_WhitePointChromaticity_elements, element_CoordinateY, 1), nullptr, &facets::Fraction, {}},
 };
-constinit const lmx::s_class WhitePointChromaticity::k_class = {
+constinit const s_class WhitePointChromaticity::k_class = {
     .name = "WhitePointChromaticity",
     .qualified_name = "Vyr:WhitePointChromaticity",
     .base = nullptr,
-    .content = lmx::content_kind::children,
+    .content = content_kind::children,
     .may_be_empty = false,
     .ns_map = nullptr,
-    .nil_flag = lmx::k_no_flag,
-    .choice = lmx::k_no_flag,
+    .nil_flag = k_no_flag,
+    .choice = k_no_flag,
     .id = nullptr,
     .xsi_type = nullptr,
-    .attributes = std::span(k_items).first(std::size(lmx::k_no_events) - 1),
-    .elements = std::span(k_items).subspan(std::size(lmx::k_no_events) - 1),
-    .attribute_map = lmx::k_no_events,
+    .attributes = std::span(k_items).first(std::size(k_no_events) - 1),
+    .elements = std::span(k_items).subspan(std::size(k_no_events) - 1),
+    .attribute_map = k_no_events,
     .element_map = k_WhitePointChromaticity_elements,
-    .operations = &lmx::k_operations<WhitePointChromaticity>,
+    .operations = &k_operations<WhitePointChromaticity>,
 };
 
 WhitePointChromaticity::WhitePointChromaticity() = default;
@@ -1367,35 +1423,38 @@ lmx::elmx_error WhitePointChromaticity::set_CoordinateY(double value) { return l
 // BSDFAngle
 
 namespace {
-constexpr lmx::s_event_map k_BSDFAngle_elements[] = {
-    lmx::element_event("IlluminantAngle", element_IlluminantAngle),
-    lmx::element_event("Aspecular", element_Aspecular),
-    lmx::element_event("Azimuth", element_Azimuth),
-    lmx::k_end_of_map,
+constexpr s_event_map k_BSDFAngle_elements[] = {
+    element_event("IlluminantAngle", element_IlluminantAngle),
+    element_event("Aspecular", element_Aspecular),
+    element_event("Azimuth", element_Azimuth),
+    k_end_of_map,
 };
 }  // namespace
 
-constinit const lmx::s_item BSDFAngle::k_items[] = {
-    {lmx::item_kind::element, lmx::value_kind::number, lmx::use_required, lmx::ELMX_WS_COLLAPSE, "Vyr:IlluminantAngle", element_IlluminantAngle, LMX_OFFSET(BSDFAngle, m_IlluminantAngle, element, number), LMX_FLAG(BSDFAngle, m_isset_IlluminantAngle), lmx::position_of(k_BSDFAngle_elements, element_IlluminantAngle), lmx::position_of(k_BSDFAngle_elements, element_IlluminantAngle, 1), nullptr, nullptr, {}},
-    {lmx::item_kind::element, lmx::value_kind::number, lmx::use_required, lmx::ELMX_WS_COLLAPSE, "Vyr:Aspecular", element_Aspecular, LMX_OFFSET(BSDFAngle, m_Aspecular, element, number), LMX_FLAG(BSDFAngle, m_isset_Aspecular), lmx::position_of(k_BSDFAngle_elements, element_Aspecular), lmx::position_of(k_BSDFAngle_elements, element_Aspecular, 1), nullptr, nullptr, {}},
-    {lmx::item_kind::marker, lmx::value_kind::none, lmx::use_written, lmx::ELMX_WS_PRESERVE, "Vyr:Azimuth", element_Azimuth, 0, lmx::k_no_flag, lmx::position_of(k_BSDFAngle_elements, element_Azimuth), lmx::position_of(k_BSDFAngle_elements, element_Azimuth, 1), nullptr, nullptr, {}},
+constinit const s_item BSDFAngle::k_items[] = {
+    {item_kind::element, value_kind::number, use_required, ELMX_WS_COLLAPSE, "Vyr:IlluminantAngle", element_IlluminantAngle,
+     LMX_OFFSET(BSDFAngle, m_IlluminantAngle, element, number), LMX_FLAG(BSDFAngle, m_isset_IlluminantAngle), position_of(k_BSDFAngle_elements, element_IlluminantAngle), position_of(k_BSDFAngle_elements, element_IlluminantAngle, 1), nullptr, nullptr, {}},
+    {item_kind::element, value_kind::number, use_required, ELMX_WS_COLLAPSE, "Vyr:Aspecular", element_Aspecular,
+     LMX_OFFSET(BSDFAngle, m_Aspecular, element, number), LMX_FLAG(BSDFAngle, m_isset_Aspecular), position_of(k_BSDFAngle_elements, element_Aspecular), position_of(k_BSDFAngle_elements, element_Aspecular, 1), nullptr, nullptr, {}},
+    {item_kind::marker, value_kind::none, use_written, ELMX_WS_PRESERVE, "Vyr:Azimuth", element_Azimuth,
+     0, k_no_flag, position_of(k_BSDFAngle_elements, element_Azimuth), position_of(k_BSDFAngle_elements, element_Azimuth, 1), nullptr, nullptr, {}},
 };
-constinit const lmx::s_class BSDFAngle::k_class = {
+constinit const s_class BSDFAngle::k_class = {
     .name = "BSDFAngle",
     .qualified_name = "Vyr:BSDFAngle",
     .base = nullptr,
-    .content = lmx::content_kind::children,
+    .content = content_kind::children,
     .may_be_empty = false,
     .ns_map = k_ns_map,
-    .nil_flag = lmx::k_no_flag,
-    .choice = lmx::k_no_flag,
+    .nil_flag = k_no_flag,
+    .choice = k_no_flag,
     .id = nullptr,
     .xsi_type = nullptr,
-    .attributes = std::span(k_items).first(std::size(lmx::k_no_events) - 1),
-    .elements = std::span(k_items).subspan(std::size(lmx::k_no_events) - 1),
-    .attribute_map = lmx::k_no_events,
+    .attributes = std::span(k_items).first(std::size(k_no_events) - 1),
+    .elements = std::span(k_items).subspan(std::size(k_no_events) - 1),
+    .attribute_map = k_no_events,
     .element_map = k_BSDFAngle_elements,
-    .operations = &lmx::k_operations<BSDFAngle>,
+    .operations = &k_operations<BSDFAngle>,
 };
 
 BSDFAngle::BSDFAngle() = default;
@@ -1417,22 +1476,22 @@ lmx::elmx_error BSDFAngle::set_Aspecular(double value) { return lmx::set_item(k_
 
 // Azimuth
 
-constinit const lmx::s_class Azimuth::k_class = {
+constinit const s_class Azimuth::k_class = {
     .name = "Azimuth",
     .qualified_name = "Vyr:Azimuth",
     .base = nullptr,
-    .content = lmx::content_kind::empty,
+    .content = content_kind::empty,
     .may_be_empty = false,
     .ns_map = nullptr,
-    .nil_flag = lmx::k_no_flag,
-    .choice = lmx::k_no_flag,
+    .nil_flag = k_no_flag,
+    .choice = k_no_flag,
     .id = nullptr,
     .xsi_type = nullptr,
     .attributes = {},
     .elements = {},
-    .attribute_map = lmx::k_no_events,
-    .element_map = lmx::k_no_events,
-    .operations = &lmx::k_operations<Azimuth>,
+    .attribute_map = k_no_events,
+    .element_map = k_no_events,
+    .operations = &k_operations<Azimuth>,
 };
 
 Azimuth::Azimuth() = default;

@@ -17,26 +17,28 @@
 
 namespace com_vyrgraph_v2 {
 
-static_assert(lmx::k_binding_version == 1, "run schema/generator/generate.py");
+using namespace lmx;  // for the tables' sake
+
+static_assert(k_binding_version == 1, "run schema/generator/generate.py");
 
 // FunctionStdDevXType
 
-constinit const lmx::s_class FunctionStdDevXType::k_class = {
+constinit const s_class FunctionStdDevXType::k_class = {
     .name = "FunctionStdDevXType",
     .qualified_name = "Vyr:FunctionStdDevXType",
     .base = &FunctionType::k_class,
-    .content = lmx::content_kind::children,
+    .content = content_kind::children,
     .may_be_empty = true,
     .ns_map = k_ns_map,
-    .nil_flag = lmx::k_no_flag,
-    .choice = lmx::k_no_flag,
+    .nil_flag = k_no_flag,
+    .choice = k_no_flag,
     .id = &FunctionStdDevXType::id,
     .xsi_type = "Vyr:FunctionStdDevXType",
     .attributes = {},
     .elements = {},
-    .attribute_map = lmx::k_no_events,
-    .element_map = lmx::k_no_events,
-    .operations = &lmx::k_operations<FunctionStdDevXType>,
+    .attribute_map = k_no_events,
+    .element_map = k_no_events,
+    .operations = &k_operations<FunctionStdDevXType>,
 };
 
 FunctionStdDevXType::FunctionStdDevXType() = default;
@@ -61,22 +63,22 @@ bool FunctionStdDevXType::has_id(const char* identity) const { return identity =
 
 // FunctionStdDevYType
 
-constinit const lmx::s_class FunctionStdDevYType::k_class = {
+constinit const s_class FunctionStdDevYType::k_class = {
     .name = "FunctionStdDevYType",
     .qualified_name = "Vyr:FunctionStdDevYType",
     .base = &FunctionType::k_class,
-    .content = lmx::content_kind::children,
+    .content = content_kind::children,
     .may_be_empty = true,
     .ns_map = k_ns_map,
-    .nil_flag = lmx::k_no_flag,
-    .choice = lmx::k_no_flag,
+    .nil_flag = k_no_flag,
+    .choice = k_no_flag,
     .id = &FunctionStdDevYType::id,
     .xsi_type = "Vyr:FunctionStdDevYType",
     .attributes = {},
     .elements = {},
-    .attribute_map = lmx::k_no_events,
-    .element_map = lmx::k_no_events,
-    .operations = &lmx::k_operations<FunctionStdDevYType>,
+    .attribute_map = k_no_events,
+    .element_map = k_no_events,
+    .operations = &k_operations<FunctionStdDevYType>,
 };
 
 FunctionStdDevYType::FunctionStdDevYType() = default;
@@ -101,22 +103,22 @@ bool FunctionStdDevYType::has_id(const char* identity) const { return identity =
 
 // FunctionStdDevZType
 
-constinit const lmx::s_class FunctionStdDevZType::k_class = {
+constinit const s_class FunctionStdDevZType::k_class = {
     .name = "FunctionStdDevZType",
     .qualified_name = "Vyr:FunctionStdDevZType",
     .base = &FunctionType::k_class,
-    .content = lmx::content_kind::children,
+    .content = content_kind::children,
     .may_be_empty = true,
     .ns_map = k_ns_map,
-    .nil_flag = lmx::k_no_flag,
-    .choice = lmx::k_no_flag,
+    .nil_flag = k_no_flag,
+    .choice = k_no_flag,
     .id = &FunctionStdDevZType::id,
     .xsi_type = "Vyr:FunctionStdDevZType",
     .attributes = {},
     .elements = {},
-    .attribute_map = lmx::k_no_events,
-    .element_map = lmx::k_no_events,
-    .operations = &lmx::k_operations<FunctionStdDevZType>,
+    .attribute_map = k_no_events,
+    .element_map = k_no_events,
+    .operations = &k_operations<FunctionStdDevZType>,
 };
 
 FunctionStdDevZType::FunctionStdDevZType() = default;
@@ -141,22 +143,22 @@ bool FunctionStdDevZType::has_id(const char* identity) const { return identity =
 
 // FunctionStdDevLType
 
-constinit const lmx::s_class FunctionStdDevLType::k_class = {
+constinit const s_class FunctionStdDevLType::k_class = {
     .name = "FunctionStdDevLType",
     .qualified_name = "Vyr:FunctionStdDevLType",
     .base = &FunctionType::k_class,
-    .content = lmx::content_kind::children,
+    .content = content_kind::children,
     .may_be_empty = true,
     .ns_map = k_ns_map,
-    .nil_flag = lmx::k_no_flag,
-    .choice = lmx::k_no_flag,
+    .nil_flag = k_no_flag,
+    .choice = k_no_flag,
     .id = &FunctionStdDevLType::id,
     .xsi_type = "Vyr:FunctionStdDevLType",
     .attributes = {},
     .elements = {},
-    .attribute_map = lmx::k_no_events,
-    .element_map = lmx::k_no_events,
-    .operations = &lmx::k_operations<FunctionStdDevLType>,
+    .attribute_map = k_no_events,
+    .element_map = k_no_events,
+    .operations = &k_operations<FunctionStdDevLType>,
 };
 
 FunctionStdDevLType::FunctionStdDevLType() = default;
@@ -181,22 +183,22 @@ bool FunctionStdDevLType::has_id(const char* identity) const { return identity =
 
 // FunctionStdDevAType
 
-constinit const lmx::s_class FunctionStdDevAType::k_class = {
+constinit const s_class FunctionStdDevAType::k_class = {
     .name = "FunctionStdDevAType",
     .qualified_name = "Vyr:FunctionStdDevAType",
     .base = &FunctionType::k_class,
-    .content = lmx::content_kind::children,
+    .content = content_kind::children,
     .may_be_empty = true,
     .ns_map = k_ns_map,
-    .nil_flag = lmx::k_no_flag,
-    .choice = lmx::k_no_flag,
+    .nil_flag = k_no_flag,
+    .choice = k_no_flag,
     .id = &FunctionStdDevAType::id,
     .xsi_type = "Vyr:FunctionStdDevAType",
     .attributes = {},
     .elements = {},
-    .attribute_map = lmx::k_no_events,
-    .element_map = lmx::k_no_events,
-    .operations = &lmx::k_operations<FunctionStdDevAType>,
+    .attribute_map = k_no_events,
+    .element_map = k_no_events,
+    .operations = &k_operations<FunctionStdDevAType>,
 };
 
 FunctionStdDevAType::FunctionStdDevAType() = default;
@@ -221,22 +223,22 @@ bool FunctionStdDevAType::has_id(const char* identity) const { return identity =
 
 // FunctionStdDevBType
 
-constinit const lmx::s_class FunctionStdDevBType::k_class = {
+constinit const s_class FunctionStdDevBType::k_class = {
     .name = "FunctionStdDevBType",
     .qualified_name = "Vyr:FunctionStdDevBType",
     .base = &FunctionType::k_class,
-    .content = lmx::content_kind::children,
+    .content = content_kind::children,
     .may_be_empty = true,
     .ns_map = k_ns_map,
-    .nil_flag = lmx::k_no_flag,
-    .choice = lmx::k_no_flag,
+    .nil_flag = k_no_flag,
+    .choice = k_no_flag,
     .id = &FunctionStdDevBType::id,
     .xsi_type = "Vyr:FunctionStdDevBType",
     .attributes = {},
     .elements = {},
-    .attribute_map = lmx::k_no_events,
-    .element_map = lmx::k_no_events,
-    .operations = &lmx::k_operations<FunctionStdDevBType>,
+    .attribute_map = k_no_events,
+    .element_map = k_no_events,
+    .operations = &k_operations<FunctionStdDevBType>,
 };
 
 FunctionStdDevBType::FunctionStdDevBType() = default;
@@ -261,22 +263,22 @@ bool FunctionStdDevBType::has_id(const char* identity) const { return identity =
 
 // FunctionStdDevCType
 
-constinit const lmx::s_class FunctionStdDevCType::k_class = {
+constinit const s_class FunctionStdDevCType::k_class = {
     .name = "FunctionStdDevCType",
     .qualified_name = "Vyr:FunctionStdDevCType",
     .base = &FunctionType::k_class,
-    .content = lmx::content_kind::children,
+    .content = content_kind::children,
     .may_be_empty = true,
     .ns_map = k_ns_map,
-    .nil_flag = lmx::k_no_flag,
-    .choice = lmx::k_no_flag,
+    .nil_flag = k_no_flag,
+    .choice = k_no_flag,
     .id = &FunctionStdDevCType::id,
     .xsi_type = "Vyr:FunctionStdDevCType",
     .attributes = {},
     .elements = {},
-    .attribute_map = lmx::k_no_events,
-    .element_map = lmx::k_no_events,
-    .operations = &lmx::k_operations<FunctionStdDevCType>,
+    .attribute_map = k_no_events,
+    .element_map = k_no_events,
+    .operations = &k_operations<FunctionStdDevCType>,
 };
 
 FunctionStdDevCType::FunctionStdDevCType() = default;
@@ -301,22 +303,22 @@ bool FunctionStdDevCType::has_id(const char* identity) const { return identity =
 
 // FunctionStdDevHType
 
-constinit const lmx::s_class FunctionStdDevHType::k_class = {
+constinit const s_class FunctionStdDevHType::k_class = {
     .name = "FunctionStdDevHType",
     .qualified_name = "Vyr:FunctionStdDevHType",
     .base = &FunctionType::k_class,
-    .content = lmx::content_kind::children,
+    .content = content_kind::children,
     .may_be_empty = true,
     .ns_map = k_ns_map,
-    .nil_flag = lmx::k_no_flag,
-    .choice = lmx::k_no_flag,
+    .nil_flag = k_no_flag,
+    .choice = k_no_flag,
     .id = &FunctionStdDevHType::id,
     .xsi_type = "Vyr:FunctionStdDevHType",
     .attributes = {},
     .elements = {},
-    .attribute_map = lmx::k_no_events,
-    .element_map = lmx::k_no_events,
-    .operations = &lmx::k_operations<FunctionStdDevHType>,
+    .attribute_map = k_no_events,
+    .element_map = k_no_events,
+    .operations = &k_operations<FunctionStdDevHType>,
 };
 
 FunctionStdDevHType::FunctionStdDevHType() = default;
@@ -341,22 +343,22 @@ bool FunctionStdDevHType::has_id(const char* identity) const { return identity =
 
 // FunctionAverageStdDevLType
 
-constinit const lmx::s_class FunctionAverageStdDevLType::k_class = {
+constinit const s_class FunctionAverageStdDevLType::k_class = {
     .name = "FunctionAverageStdDevLType",
     .qualified_name = "Vyr:FunctionAverageStdDevLType",
     .base = &FunctionType::k_class,
-    .content = lmx::content_kind::children,
+    .content = content_kind::children,
     .may_be_empty = true,
     .ns_map = k_ns_map,
-    .nil_flag = lmx::k_no_flag,
-    .choice = lmx::k_no_flag,
+    .nil_flag = k_no_flag,
+    .choice = k_no_flag,
     .id = &FunctionAverageStdDevLType::id,
     .xsi_type = "Vyr:FunctionAverageStdDevLType",
     .attributes = {},
     .elements = {},
-    .attribute_map = lmx::k_no_events,
-    .element_map = lmx::k_no_events,
-    .operations = &lmx::k_operations<FunctionAverageStdDevLType>,
+    .attribute_map = k_no_events,
+    .element_map = k_no_events,
+    .operations = &k_operations<FunctionAverageStdDevLType>,
 };
 
 FunctionAverageStdDevLType::FunctionAverageStdDevLType() = default;
@@ -381,22 +383,22 @@ bool FunctionAverageStdDevLType::has_id(const char* identity) const { return ide
 
 // FunctionAverageStdDevAType
 
-constinit const lmx::s_class FunctionAverageStdDevAType::k_class = {
+constinit const s_class FunctionAverageStdDevAType::k_class = {
     .name = "FunctionAverageStdDevAType",
     .qualified_name = "Vyr:FunctionAverageStdDevAType",
     .base = &FunctionType::k_class,
-    .content = lmx::content_kind::children,
+    .content = content_kind::children,
     .may_be_empty = true,
     .ns_map = k_ns_map,
-    .nil_flag = lmx::k_no_flag,
-    .choice = lmx::k_no_flag,
+    .nil_flag = k_no_flag,
+    .choice = k_no_flag,
     .id = &FunctionAverageStdDevAType::id,
     .xsi_type = "Vyr:FunctionAverageStdDevAType",
     .attributes = {},
     .elements = {},
-    .attribute_map = lmx::k_no_events,
-    .element_map = lmx::k_no_events,
-    .operations = &lmx::k_operations<FunctionAverageStdDevAType>,
+    .attribute_map = k_no_events,
+    .element_map = k_no_events,
+    .operations = &k_operations<FunctionAverageStdDevAType>,
 };
 
 FunctionAverageStdDevAType::FunctionAverageStdDevAType() = default;
@@ -421,22 +423,22 @@ bool FunctionAverageStdDevAType::has_id(const char* identity) const { return ide
 
 // FunctionAverageStdDevBType
 
-constinit const lmx::s_class FunctionAverageStdDevBType::k_class = {
+constinit const s_class FunctionAverageStdDevBType::k_class = {
     .name = "FunctionAverageStdDevBType",
     .qualified_name = "Vyr:FunctionAverageStdDevBType",
     .base = &FunctionType::k_class,
-    .content = lmx::content_kind::children,
+    .content = content_kind::children,
     .may_be_empty = true,
     .ns_map = k_ns_map,
-    .nil_flag = lmx::k_no_flag,
-    .choice = lmx::k_no_flag,
+    .nil_flag = k_no_flag,
+    .choice = k_no_flag,
     .id = &FunctionAverageStdDevBType::id,
     .xsi_type = "Vyr:FunctionAverageStdDevBType",
     .attributes = {},
     .elements = {},
-    .attribute_map = lmx::k_no_events,
-    .element_map = lmx::k_no_events,
-    .operations = &lmx::k_operations<FunctionAverageStdDevBType>,
+    .attribute_map = k_no_events,
+    .element_map = k_no_events,
+    .operations = &k_operations<FunctionAverageStdDevBType>,
 };
 
 FunctionAverageStdDevBType::FunctionAverageStdDevBType() = default;
@@ -466,7 +468,7 @@ lmx::elmx_error FunctionStdDevX::marshal(lmx::c_xml_writer& writer, const char* 
     return FunctionStdDevXType::marshal(writer, name);
 }
 lmx::elmx_error FunctionStdDevX::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return FunctionStdDevXType::unmarshal(reader, name); }
-const lmx::s_document FunctionStdDevX::k_document = {"Vyr:FunctionStdDevX", "FunctionStdDevX", k_ns_map, &lmx::k_operations<FunctionStdDevX>};
+constinit const lmx::s_document FunctionStdDevX::k_document = {"Vyr:FunctionStdDevX", "FunctionStdDevX", k_ns_map, &lmx::k_operations<FunctionStdDevX>};
 const lmx::s_ns_map* FunctionStdDevX::ns_map() { return k_ns_map; }
 lmx::elmx_error FunctionStdDevX::unmarshal(lmx::c_xml_reader& reader) { return lmx::unmarshal_document(k_document, this, reader); }
 FunctionStdDevX::FunctionStdDevX(const char* file_name, lmx::elmx_error* error) : FunctionStdDevX() { *error = unmarshal(file_name); }
@@ -486,7 +488,7 @@ lmx::elmx_error FunctionStdDevY::marshal(lmx::c_xml_writer& writer, const char* 
     return FunctionStdDevYType::marshal(writer, name);
 }
 lmx::elmx_error FunctionStdDevY::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return FunctionStdDevYType::unmarshal(reader, name); }
-const lmx::s_document FunctionStdDevY::k_document = {"Vyr:FunctionStdDevY", "FunctionStdDevY", k_ns_map, &lmx::k_operations<FunctionStdDevY>};
+constinit const lmx::s_document FunctionStdDevY::k_document = {"Vyr:FunctionStdDevY", "FunctionStdDevY", k_ns_map, &lmx::k_operations<FunctionStdDevY>};
 const lmx::s_ns_map* FunctionStdDevY::ns_map() { return k_ns_map; }
 lmx::elmx_error FunctionStdDevY::unmarshal(lmx::c_xml_reader& reader) { return lmx::unmarshal_document(k_document, this, reader); }
 FunctionStdDevY::FunctionStdDevY(const char* file_name, lmx::elmx_error* error) : FunctionStdDevY() { *error = unmarshal(file_name); }
@@ -506,7 +508,7 @@ lmx::elmx_error FunctionStdDevZ::marshal(lmx::c_xml_writer& writer, const char* 
     return FunctionStdDevZType::marshal(writer, name);
 }
 lmx::elmx_error FunctionStdDevZ::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return FunctionStdDevZType::unmarshal(reader, name); }
-const lmx::s_document FunctionStdDevZ::k_document = {"Vyr:FunctionStdDevZ", "FunctionStdDevZ", k_ns_map, &lmx::k_operations<FunctionStdDevZ>};
+constinit const lmx::s_document FunctionStdDevZ::k_document = {"Vyr:FunctionStdDevZ", "FunctionStdDevZ", k_ns_map, &lmx::k_operations<FunctionStdDevZ>};
 const lmx::s_ns_map* FunctionStdDevZ::ns_map() { return k_ns_map; }
 lmx::elmx_error FunctionStdDevZ::unmarshal(lmx::c_xml_reader& reader) { return lmx::unmarshal_document(k_document, this, reader); }
 FunctionStdDevZ::FunctionStdDevZ(const char* file_name, lmx::elmx_error* error) : FunctionStdDevZ() { *error = unmarshal(file_name); }
@@ -526,7 +528,7 @@ lmx::elmx_error FunctionStdDevL::marshal(lmx::c_xml_writer& writer, const char* 
     return FunctionStdDevLType::marshal(writer, name);
 }
 lmx::elmx_error FunctionStdDevL::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return FunctionStdDevLType::unmarshal(reader, name); }
-const lmx::s_document FunctionStdDevL::k_document = {"Vyr:FunctionStdDevL", "FunctionStdDevL", k_ns_map, &lmx::k_operations<FunctionStdDevL>};
+constinit const lmx::s_document FunctionStdDevL::k_document = {"Vyr:FunctionStdDevL", "FunctionStdDevL", k_ns_map, &lmx::k_operations<FunctionStdDevL>};
 const lmx::s_ns_map* FunctionStdDevL::ns_map() { return k_ns_map; }
 lmx::elmx_error FunctionStdDevL::unmarshal(lmx::c_xml_reader& reader) { return lmx::unmarshal_document(k_document, this, reader); }
 FunctionStdDevL::FunctionStdDevL(const char* file_name, lmx::elmx_error* error) : FunctionStdDevL() { *error = unmarshal(file_name); }
@@ -546,7 +548,7 @@ lmx::elmx_error FunctionStdDevA::marshal(lmx::c_xml_writer& writer, const char* 
     return FunctionStdDevAType::marshal(writer, name);
 }
 lmx::elmx_error FunctionStdDevA::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return FunctionStdDevAType::unmarshal(reader, name); }
-const lmx::s_document FunctionStdDevA::k_document = {"Vyr:FunctionStdDevA", "FunctionStdDevA", k_ns_map, &lmx::k_operations<FunctionStdDevA>};
+constinit const lmx::s_document FunctionStdDevA::k_document = {"Vyr:FunctionStdDevA", "FunctionStdDevA", k_ns_map, &lmx::k_operations<FunctionStdDevA>};
 const lmx::s_ns_map* FunctionStdDevA::ns_map() { return k_ns_map; }
 lmx::elmx_error FunctionStdDevA::unmarshal(lmx::c_xml_reader& reader) { return lmx::unmarshal_document(k_document, this, reader); }
 FunctionStdDevA::FunctionStdDevA(const char* file_name, lmx::elmx_error* error) : FunctionStdDevA() { *error = unmarshal(file_name); }
@@ -566,7 +568,7 @@ lmx::elmx_error FunctionStdDevB::marshal(lmx::c_xml_writer& writer, const char* 
     return FunctionStdDevBType::marshal(writer, name);
 }
 lmx::elmx_error FunctionStdDevB::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return FunctionStdDevBType::unmarshal(reader, name); }
-const lmx::s_document FunctionStdDevB::k_document = {"Vyr:FunctionStdDevB", "FunctionStdDevB", k_ns_map, &lmx::k_operations<FunctionStdDevB>};
+constinit const lmx::s_document FunctionStdDevB::k_document = {"Vyr:FunctionStdDevB", "FunctionStdDevB", k_ns_map, &lmx::k_operations<FunctionStdDevB>};
 const lmx::s_ns_map* FunctionStdDevB::ns_map() { return k_ns_map; }
 lmx::elmx_error FunctionStdDevB::unmarshal(lmx::c_xml_reader& reader) { return lmx::unmarshal_document(k_document, this, reader); }
 FunctionStdDevB::FunctionStdDevB(const char* file_name, lmx::elmx_error* error) : FunctionStdDevB() { *error = unmarshal(file_name); }
@@ -586,7 +588,7 @@ lmx::elmx_error FunctionStdDevC::marshal(lmx::c_xml_writer& writer, const char* 
     return FunctionStdDevCType::marshal(writer, name);
 }
 lmx::elmx_error FunctionStdDevC::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return FunctionStdDevCType::unmarshal(reader, name); }
-const lmx::s_document FunctionStdDevC::k_document = {"Vyr:FunctionStdDevC", "FunctionStdDevC", k_ns_map, &lmx::k_operations<FunctionStdDevC>};
+constinit const lmx::s_document FunctionStdDevC::k_document = {"Vyr:FunctionStdDevC", "FunctionStdDevC", k_ns_map, &lmx::k_operations<FunctionStdDevC>};
 const lmx::s_ns_map* FunctionStdDevC::ns_map() { return k_ns_map; }
 lmx::elmx_error FunctionStdDevC::unmarshal(lmx::c_xml_reader& reader) { return lmx::unmarshal_document(k_document, this, reader); }
 FunctionStdDevC::FunctionStdDevC(const char* file_name, lmx::elmx_error* error) : FunctionStdDevC() { *error = unmarshal(file_name); }
@@ -606,7 +608,7 @@ lmx::elmx_error FunctionStdDevH::marshal(lmx::c_xml_writer& writer, const char* 
     return FunctionStdDevHType::marshal(writer, name);
 }
 lmx::elmx_error FunctionStdDevH::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return FunctionStdDevHType::unmarshal(reader, name); }
-const lmx::s_document FunctionStdDevH::k_document = {"Vyr:FunctionStdDevH", "FunctionStdDevH", k_ns_map, &lmx::k_operations<FunctionStdDevH>};
+constinit const lmx::s_document FunctionStdDevH::k_document = {"Vyr:FunctionStdDevH", "FunctionStdDevH", k_ns_map, &lmx::k_operations<FunctionStdDevH>};
 const lmx::s_ns_map* FunctionStdDevH::ns_map() { return k_ns_map; }
 lmx::elmx_error FunctionStdDevH::unmarshal(lmx::c_xml_reader& reader) { return lmx::unmarshal_document(k_document, this, reader); }
 FunctionStdDevH::FunctionStdDevH(const char* file_name, lmx::elmx_error* error) : FunctionStdDevH() { *error = unmarshal(file_name); }
@@ -626,7 +628,7 @@ lmx::elmx_error FunctionAverageStdDevL::marshal(lmx::c_xml_writer& writer, const
     return FunctionAverageStdDevLType::marshal(writer, name);
 }
 lmx::elmx_error FunctionAverageStdDevL::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return FunctionAverageStdDevLType::unmarshal(reader, name); }
-const lmx::s_document FunctionAverageStdDevL::k_document = {"Vyr:FunctionAverageStdDevL", "FunctionAverageStdDevL", k_ns_map, &lmx::k_operations<FunctionAverageStdDevL>};
+constinit const lmx::s_document FunctionAverageStdDevL::k_document = {"Vyr:FunctionAverageStdDevL", "FunctionAverageStdDevL", k_ns_map, &lmx::k_operations<FunctionAverageStdDevL>};
 const lmx::s_ns_map* FunctionAverageStdDevL::ns_map() { return k_ns_map; }
 lmx::elmx_error FunctionAverageStdDevL::unmarshal(lmx::c_xml_reader& reader) { return lmx::unmarshal_document(k_document, this, reader); }
 FunctionAverageStdDevL::FunctionAverageStdDevL(const char* file_name, lmx::elmx_error* error) : FunctionAverageStdDevL() { *error = unmarshal(file_name); }
@@ -646,7 +648,7 @@ lmx::elmx_error FunctionAverageStdDevA::marshal(lmx::c_xml_writer& writer, const
     return FunctionAverageStdDevAType::marshal(writer, name);
 }
 lmx::elmx_error FunctionAverageStdDevA::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return FunctionAverageStdDevAType::unmarshal(reader, name); }
-const lmx::s_document FunctionAverageStdDevA::k_document = {"Vyr:FunctionAverageStdDevA", "FunctionAverageStdDevA", k_ns_map, &lmx::k_operations<FunctionAverageStdDevA>};
+constinit const lmx::s_document FunctionAverageStdDevA::k_document = {"Vyr:FunctionAverageStdDevA", "FunctionAverageStdDevA", k_ns_map, &lmx::k_operations<FunctionAverageStdDevA>};
 const lmx::s_ns_map* FunctionAverageStdDevA::ns_map() { return k_ns_map; }
 lmx::elmx_error FunctionAverageStdDevA::unmarshal(lmx::c_xml_reader& reader) { return lmx::unmarshal_document(k_document, this, reader); }
 FunctionAverageStdDevA::FunctionAverageStdDevA(const char* file_name, lmx::elmx_error* error) : FunctionAverageStdDevA() { *error = unmarshal(file_name); }
@@ -666,7 +668,7 @@ lmx::elmx_error FunctionAverageStdDevB::marshal(lmx::c_xml_writer& writer, const
     return FunctionAverageStdDevBType::marshal(writer, name);
 }
 lmx::elmx_error FunctionAverageStdDevB::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return FunctionAverageStdDevBType::unmarshal(reader, name); }
-const lmx::s_document FunctionAverageStdDevB::k_document = {"Vyr:FunctionAverageStdDevB", "FunctionAverageStdDevB", k_ns_map, &lmx::k_operations<FunctionAverageStdDevB>};
+constinit const lmx::s_document FunctionAverageStdDevB::k_document = {"Vyr:FunctionAverageStdDevB", "FunctionAverageStdDevB", k_ns_map, &lmx::k_operations<FunctionAverageStdDevB>};
 const lmx::s_ns_map* FunctionAverageStdDevB::ns_map() { return k_ns_map; }
 lmx::elmx_error FunctionAverageStdDevB::unmarshal(lmx::c_xml_reader& reader) { return lmx::unmarshal_document(k_document, this, reader); }
 FunctionAverageStdDevB::FunctionAverageStdDevB(const char* file_name, lmx::elmx_error* error) : FunctionAverageStdDevB() { *error = unmarshal(file_name); }

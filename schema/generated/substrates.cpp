@@ -18,25 +18,30 @@
 
 namespace com_vyrgraph_v2 {
 
-static_assert(lmx::k_binding_version == 1, "run schema/generator/generate.py");
+using namespace lmx;  // for the tables' sake
+
+static_assert(k_binding_version == 1, "run schema/generator/generate.py");
 
 // SubstrateType
 
 namespace {
-constexpr lmx::s_event_map k_SubstrateType_elements[] = {
-    lmx::element_event("CustomAttribute", element_CustomAttribute),
-    lmx::element_event("PartNumber", element_PartNumber),
-    lmx::element_event("Color", element_Color),
-    lmx::k_end_of_map,
+constexpr s_event_map k_SubstrateType_elements[] = {
+    element_event("CustomAttribute", element_CustomAttribute),
+    element_event("PartNumber", element_PartNumber),
+    element_event("Color", element_Color),
+    k_end_of_map,
 };
 }  // namespace
 
-constinit const lmx::s_item SubstrateType::k_items[] = {
-    {lmx::item_kind::child_list, lmx::value_kind::none, lmx::use_optional, lmx::ELMX_WS_PRESERVE, "Vyr:CustomAttribute", element_CustomAttribute, LMX_OFFSET(SubstrateType, m_CustomAttribute, child_list, none), lmx::k_no_flag, lmx::position_of(k_SubstrateType_elements, element_CustomAttribute), lmx::position_of(k_SubstrateType_elements, element_CustomAttribute, 1), &CustomAttributeType::k_class, nullptr, {}},
-    {lmx::item_kind::element, lmx::value_kind::text, lmx::use_optional, lmx::ELMX_WS_PRESERVE, "Vyr:PartNumber", element_PartNumber, LMX_OFFSET(SubstrateType, m_PartNumber, element, text), LMX_FLAG(SubstrateType, m_isset_PartNumber), lmx::position_of(k_SubstrateType_elements, element_PartNumber), lmx::position_of(k_SubstrateType_elements, element_PartNumber, 1), nullptr, nullptr, {}},
-    {lmx::item_kind::child, lmx::value_kind::none, lmx::use_optional, lmx::ELMX_WS_PRESERVE, "Vyr:Color", element_Color, LMX_OFFSET(SubstrateType, m_Color, child, none), LMX_FLAG(SubstrateType, m_isset_Color), lmx::position_of(k_SubstrateType_elements, element_Color), lmx::position_of(k_SubstrateType_elements, element_Color, 1), &ColorType::k_class, nullptr, {}},
+constinit const s_item SubstrateType::k_items[] = {
+    {item_kind::child_list, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:CustomAttribute", element_CustomAttribute,
+     LMX_OFFSET(SubstrateType, m_CustomAttribute, child_list, none), k_no_flag, position_of(k_SubstrateType_elements, element_CustomAttribute), position_of(k_SubstrateType_elements, element_CustomAttribute, 1), &CustomAttributeType::k_class, nullptr, {}},
+    {item_kind::element, value_kind::text, use_optional, ELMX_WS_PRESERVE, "Vyr:PartNumber", element_PartNumber,
+     LMX_OFFSET(SubstrateType, m_PartNumber, element, text), LMX_FLAG(SubstrateType, m_isset_PartNumber), position_of(k_SubstrateType_elements, element_PartNumber), position_of(k_SubstrateType_elements, element_PartNumber, 1), nullptr, nullptr, {}},
+    {item_kind::child, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:Color", element_Color,
+     LMX_OFFSET(SubstrateType, m_Color, child, none), LMX_FLAG(SubstrateType, m_isset_Color), position_of(k_SubstrateType_elements, element_Color), position_of(k_SubstrateType_elements, element_Color, 1), &ColorType::k_class, nullptr, {}},
 };
-constinit const lmx::s_factory_row SubstrateType::k_factory[] = {
+constinit const s_factory_row SubstrateType::k_factory[] = {
     {"SubstratePaperType", &SubstratePaperType::k_class},
     {"SubstrateGenericType", &SubstrateGenericType::k_class},
     {"SubstrateMetalType", &SubstrateMetalType::k_class},
@@ -47,22 +52,22 @@ constinit const lmx::s_factory_row SubstrateType::k_factory[] = {
     {"SubstrateFilmType", &SubstrateFilmType::k_class},
     {"SubstrateTextileType", &SubstrateTextileType::k_class},
 };
-constinit const lmx::s_class SubstrateType::k_class = {
+constinit const s_class SubstrateType::k_class = {
     .name = "SubstrateType",
     .qualified_name = "Vyr:SubstrateType",
     .base = nullptr,
-    .content = lmx::content_kind::children,
+    .content = content_kind::children,
     .may_be_empty = true,
     .ns_map = k_ns_map,
-    .nil_flag = lmx::k_no_flag,
-    .choice = lmx::k_no_flag,
+    .nil_flag = k_no_flag,
+    .choice = k_no_flag,
     .id = &SubstrateType::id,
     .xsi_type = "Vyr:SubstrateType",
-    .attributes = std::span(k_items).first(std::size(lmx::k_no_events) - 1),
-    .elements = std::span(k_items).subspan(std::size(lmx::k_no_events) - 1),
-    .attribute_map = lmx::k_no_events,
+    .attributes = std::span(k_items).first(std::size(k_no_events) - 1),
+    .elements = std::span(k_items).subspan(std::size(k_no_events) - 1),
+    .attribute_map = k_no_events,
     .element_map = k_SubstrateType_elements,
-    .operations = &lmx::k_operations<SubstrateType>,
+    .operations = &k_operations<SubstrateType>,
 };
 
 SubstrateType::SubstrateType() = default;
@@ -101,40 +106,42 @@ lmx::elmx_error Substrate::marshal(lmx::c_xml_writer& writer, const char* name) 
     return SubstrateType::marshal(writer, name);
 }
 lmx::elmx_error Substrate::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return SubstrateType::unmarshal(reader, name); }
-const lmx::s_document Substrate::k_document = {"Vyr:Substrate", "Substrate", k_ns_map, &lmx::k_operations<Substrate>};
+constinit const lmx::s_document Substrate::k_document = {"Vyr:Substrate", "Substrate", k_ns_map, &lmx::k_operations<Substrate>};
 const lmx::s_ns_map* Substrate::ns_map() { return k_ns_map; }
 lmx::elmx_error Substrate::unmarshal(lmx::c_xml_reader& reader) { return lmx::unmarshal_document(k_document, this, reader); }
 
 // SubstratePaperType
 
 namespace {
-constexpr lmx::s_event_map k_SubstratePaperType_elements[] = {
-    lmx::element_event("PaperThickness", element_PaperThickness),
-    lmx::element_event("PaperType", element_PaperType),
-    lmx::k_end_of_map,
+constexpr s_event_map k_SubstratePaperType_elements[] = {
+    element_event("PaperThickness", element_PaperThickness),
+    element_event("PaperType", element_PaperType),
+    k_end_of_map,
 };
 }  // namespace
 
-constinit const lmx::s_item SubstratePaperType::k_items[] = {
-    {lmx::item_kind::element, lmx::value_kind::number, lmx::use_optional, lmx::ELMX_WS_COLLAPSE, "Vyr:PaperThickness", element_PaperThickness, LMX_OFFSET(SubstratePaperType, m_PaperThickness, element, number), LMX_FLAG(SubstratePaperType, m_isset_PaperThickness), lmx::position_of(k_SubstratePaperType_elements, element_PaperThickness), lmx::position_of(k_SubstratePaperType_elements, element_PaperThickness, 1), nullptr, nullptr, {}},
-    {lmx::item_kind::element, lmx::value_kind::text, lmx::use_optional, lmx::ELMX_WS_PRESERVE, "Vyr:PaperType", element_PaperType, LMX_OFFSET(SubstratePaperType, m_PaperType, element, text), LMX_FLAG(SubstratePaperType, m_isset_PaperType), lmx::position_of(k_SubstratePaperType_elements, element_PaperType), lmx::position_of(k_SubstratePaperType_elements, element_PaperType, 1), nullptr, nullptr, {}},
+constinit const s_item SubstratePaperType::k_items[] = {
+    {item_kind::element, value_kind::number, use_optional, ELMX_WS_COLLAPSE, "Vyr:PaperThickness", element_PaperThickness,
+     LMX_OFFSET(SubstratePaperType, m_PaperThickness, element, number), LMX_FLAG(SubstratePaperType, m_isset_PaperThickness), position_of(k_SubstratePaperType_elements, element_PaperThickness), position_of(k_SubstratePaperType_elements, element_PaperThickness, 1), nullptr, nullptr, {}},
+    {item_kind::element, value_kind::text, use_optional, ELMX_WS_PRESERVE, "Vyr:PaperType", element_PaperType,
+     LMX_OFFSET(SubstratePaperType, m_PaperType, element, text), LMX_FLAG(SubstratePaperType, m_isset_PaperType), position_of(k_SubstratePaperType_elements, element_PaperType), position_of(k_SubstratePaperType_elements, element_PaperType, 1), nullptr, nullptr, {}},
 };
-constinit const lmx::s_class SubstratePaperType::k_class = {
+constinit const s_class SubstratePaperType::k_class = {
     .name = "SubstratePaperType",
     .qualified_name = "Vyr:SubstratePaperType",
     .base = &SubstrateType::k_class,
-    .content = lmx::content_kind::children,
+    .content = content_kind::children,
     .may_be_empty = true,
     .ns_map = k_ns_map,
-    .nil_flag = lmx::k_no_flag,
-    .choice = lmx::k_no_flag,
+    .nil_flag = k_no_flag,
+    .choice = k_no_flag,
     .id = &SubstratePaperType::id,
     .xsi_type = "Vyr:SubstratePaperType",
-    .attributes = std::span(k_items).first(std::size(lmx::k_no_events) - 1),
-    .elements = std::span(k_items).subspan(std::size(lmx::k_no_events) - 1),
-    .attribute_map = lmx::k_no_events,
+    .attributes = std::span(k_items).first(std::size(k_no_events) - 1),
+    .elements = std::span(k_items).subspan(std::size(k_no_events) - 1),
+    .attribute_map = k_no_events,
     .element_map = k_SubstratePaperType_elements,
-    .operations = &lmx::k_operations<SubstratePaperType>,
+    .operations = &k_operations<SubstratePaperType>,
 };
 
 SubstratePaperType::SubstratePaperType() = default;
@@ -162,31 +169,32 @@ lmx::elmx_error SubstratePaperType::set_PaperType(const std::u16string& value) {
 // SubstrateGenericType
 
 namespace {
-constexpr lmx::s_event_map k_SubstrateGenericType_elements[] = {
-    lmx::element_event("Type", element_Type),
-    lmx::k_end_of_map,
+constexpr s_event_map k_SubstrateGenericType_elements[] = {
+    element_event("Type", element_Type),
+    k_end_of_map,
 };
 }  // namespace
 
-constinit const lmx::s_item SubstrateGenericType::k_items[] = {
-    {lmx::item_kind::element, lmx::value_kind::text, lmx::use_required, lmx::ELMX_WS_PRESERVE, "Vyr:Type", element_Type, LMX_OFFSET(SubstrateGenericType, m_Type, element, text), LMX_FLAG(SubstrateGenericType, m_isset_Type), lmx::position_of(k_SubstrateGenericType_elements, element_Type), lmx::position_of(k_SubstrateGenericType_elements, element_Type, 1), nullptr, &facets::NonEmptyString, {}},
+constinit const s_item SubstrateGenericType::k_items[] = {
+    {item_kind::element, value_kind::text, use_required, ELMX_WS_PRESERVE, "Vyr:Type", element_Type,
+     LMX_OFFSET(SubstrateGenericType, m_Type, element, text), LMX_FLAG(SubstrateGenericType, m_isset_Type), position_of(k_SubstrateGenericType_elements, element_Type), position_of(k_SubstrateGenericType_elements, element_Type, 1), nullptr, &facets::NonEmptyString, {}},
 };
-constinit const lmx::s_class SubstrateGenericType::k_class = {
+constinit const s_class SubstrateGenericType::k_class = {
     .name = "SubstrateGenericType",
     .qualified_name = "Vyr:SubstrateGenericType",
     .base = &SubstrateType::k_class,
-    .content = lmx::content_kind::children,
+    .content = content_kind::children,
     .may_be_empty = false,
     .ns_map = k_ns_map,
-    .nil_flag = lmx::k_no_flag,
-    .choice = lmx::k_no_flag,
+    .nil_flag = k_no_flag,
+    .choice = k_no_flag,
     .id = &SubstrateGenericType::id,
     .xsi_type = "Vyr:SubstrateGenericType",
-    .attributes = std::span(k_items).first(std::size(lmx::k_no_events) - 1),
-    .elements = std::span(k_items).subspan(std::size(lmx::k_no_events) - 1),
-    .attribute_map = lmx::k_no_events,
+    .attributes = std::span(k_items).first(std::size(k_no_events) - 1),
+    .elements = std::span(k_items).subspan(std::size(k_no_events) - 1),
+    .attribute_map = k_no_events,
     .element_map = k_SubstrateGenericType_elements,
-    .operations = &lmx::k_operations<SubstrateGenericType>,
+    .operations = &k_operations<SubstrateGenericType>,
 };
 
 SubstrateGenericType::SubstrateGenericType() = default;
@@ -213,33 +221,35 @@ lmx::elmx_error SubstrateGenericType::set_Type(const std::u16string& value) { re
 // SubstrateMetalType
 
 namespace {
-constexpr lmx::s_event_map k_SubstrateMetalType_elements[] = {
-    lmx::element_event("MetalWeight", element_MetalWeight),
-    lmx::element_event("MetalType", element_MetalType),
-    lmx::k_end_of_map,
+constexpr s_event_map k_SubstrateMetalType_elements[] = {
+    element_event("MetalWeight", element_MetalWeight),
+    element_event("MetalType", element_MetalType),
+    k_end_of_map,
 };
 }  // namespace
 
-constinit const lmx::s_item SubstrateMetalType::k_items[] = {
-    {lmx::item_kind::element, lmx::value_kind::number, lmx::use_optional, lmx::ELMX_WS_COLLAPSE, "Vyr:MetalWeight", element_MetalWeight, LMX_OFFSET(SubstrateMetalType, m_MetalWeight, element, number), LMX_FLAG(SubstrateMetalType, m_isset_MetalWeight), lmx::position_of(k_SubstrateMetalType_elements, element_MetalWeight), lmx::position_of(k_SubstrateMetalType_elements, element_MetalWeight, 1), nullptr, nullptr, {}},
-    {lmx::item_kind::element, lmx::value_kind::text, lmx::use_optional, lmx::ELMX_WS_PRESERVE, "Vyr:MetalType", element_MetalType, LMX_OFFSET(SubstrateMetalType, m_MetalType, element, text), LMX_FLAG(SubstrateMetalType, m_isset_MetalType), lmx::position_of(k_SubstrateMetalType_elements, element_MetalType), lmx::position_of(k_SubstrateMetalType_elements, element_MetalType, 1), nullptr, nullptr, {}},
+constinit const s_item SubstrateMetalType::k_items[] = {
+    {item_kind::element, value_kind::number, use_optional, ELMX_WS_COLLAPSE, "Vyr:MetalWeight", element_MetalWeight,
+     LMX_OFFSET(SubstrateMetalType, m_MetalWeight, element, number), LMX_FLAG(SubstrateMetalType, m_isset_MetalWeight), position_of(k_SubstrateMetalType_elements, element_MetalWeight), position_of(k_SubstrateMetalType_elements, element_MetalWeight, 1), nullptr, nullptr, {}},
+    {item_kind::element, value_kind::text, use_optional, ELMX_WS_PRESERVE, "Vyr:MetalType", element_MetalType,
+     LMX_OFFSET(SubstrateMetalType, m_MetalType, element, text), LMX_FLAG(SubstrateMetalType, m_isset_MetalType), position_of(k_SubstrateMetalType_elements, element_MetalType), position_of(k_SubstrateMetalType_elements, element_MetalType, 1), nullptr, nullptr, {}},
 };
-constinit const lmx::s_class SubstrateMetalType::k_class = {
+constinit const s_class SubstrateMetalType::k_class = {
     .name = "SubstrateMetalType",
     .qualified_name = "Vyr:SubstrateMetalType",
     .base = &SubstrateType::k_class,
-    .content = lmx::content_kind::children,
+    .content = content_kind::children,
     .may_be_empty = true,
     .ns_map = k_ns_map,
-    .nil_flag = lmx::k_no_flag,
-    .choice = lmx::k_no_flag,
+    .nil_flag = k_no_flag,
+    .choice = k_no_flag,
     .id = &SubstrateMetalType::id,
     .xsi_type = "Vyr:SubstrateMetalType",
-    .attributes = std::span(k_items).first(std::size(lmx::k_no_events) - 1),
-    .elements = std::span(k_items).subspan(std::size(lmx::k_no_events) - 1),
-    .attribute_map = lmx::k_no_events,
+    .attributes = std::span(k_items).first(std::size(k_no_events) - 1),
+    .elements = std::span(k_items).subspan(std::size(k_no_events) - 1),
+    .attribute_map = k_no_events,
     .element_map = k_SubstrateMetalType_elements,
-    .operations = &lmx::k_operations<SubstrateMetalType>,
+    .operations = &k_operations<SubstrateMetalType>,
 };
 
 SubstrateMetalType::SubstrateMetalType() = default;
@@ -267,33 +277,35 @@ lmx::elmx_error SubstrateMetalType::set_MetalType(const std::u16string& value) {
 // SubstratePlasticType
 
 namespace {
-constexpr lmx::s_event_map k_SubstratePlasticType_elements[] = {
-    lmx::element_event("PlasticWeight", element_PlasticWeight),
-    lmx::element_event("PlasticType", element_PlasticType),
-    lmx::k_end_of_map,
+constexpr s_event_map k_SubstratePlasticType_elements[] = {
+    element_event("PlasticWeight", element_PlasticWeight),
+    element_event("PlasticType", element_PlasticType),
+    k_end_of_map,
 };
 }  // namespace
 
-constinit const lmx::s_item SubstratePlasticType::k_items[] = {
-    {lmx::item_kind::element, lmx::value_kind::number, lmx::use_optional, lmx::ELMX_WS_COLLAPSE, "Vyr:PlasticWeight", element_PlasticWeight, LMX_OFFSET(SubstratePlasticType, m_PlasticWeight, element, number), LMX_FLAG(SubstratePlasticType, m_isset_PlasticWeight), lmx::position_of(k_SubstratePlasticType_elements, element_PlasticWeight), lmx::position_of(k_SubstratePlasticType_elements, element_PlasticWeight, 1), nullptr, nullptr, {}},
-    {lmx::item_kind::element, lmx::value_kind::text, lmx::use_optional, lmx::ELMX_WS_PRESERVE, "Vyr:PlasticType", element_PlasticType, LMX_OFFSET(SubstratePlasticType, m_PlasticType, element, text), LMX_FLAG(SubstratePlasticType, m_isset_PlasticType), lmx::position_of(k_SubstratePlasticType_elements, element_PlasticType), lmx::position_of(k_SubstratePlasticType_elements, element_PlasticType, 1), nullptr, nullptr, {}},
+constinit const s_item SubstratePlasticType::k_items[] = {
+    {item_kind::element, value_kind::number, use_optional, ELMX_WS_COLLAPSE, "Vyr:PlasticWeight", element_PlasticWeight,
+     LMX_OFFSET(SubstratePlasticType, m_PlasticWeight, element, number), LMX_FLAG(SubstratePlasticType, m_isset_PlasticWeight), position_of(k_SubstratePlasticType_elements, element_PlasticWeight), position_of(k_SubstratePlasticType_elements, element_PlasticWeight, 1), nullptr, nullptr, {}},
+    {item_kind::element, value_kind::text, use_optional, ELMX_WS_PRESERVE, "Vyr:PlasticType", element_PlasticType,
+     LMX_OFFSET(SubstratePlasticType, m_PlasticType, element, text), LMX_FLAG(SubstratePlasticType, m_isset_PlasticType), position_of(k_SubstratePlasticType_elements, element_PlasticType), position_of(k_SubstratePlasticType_elements, element_PlasticType, 1), nullptr, nullptr, {}},
 };
-constinit const lmx::s_class SubstratePlasticType::k_class = {
+constinit const s_class SubstratePlasticType::k_class = {
     .name = "SubstratePlasticType",
     .qualified_name = "Vyr:SubstratePlasticType",
     .base = &SubstrateType::k_class,
-    .content = lmx::content_kind::children,
+    .content = content_kind::children,
     .may_be_empty = true,
     .ns_map = k_ns_map,
-    .nil_flag = lmx::k_no_flag,
-    .choice = lmx::k_no_flag,
+    .nil_flag = k_no_flag,
+    .choice = k_no_flag,
     .id = &SubstratePlasticType::id,
     .xsi_type = "Vyr:SubstratePlasticType",
-    .attributes = std::span(k_items).first(std::size(lmx::k_no_events) - 1),
-    .elements = std::span(k_items).subspan(std::size(lmx::k_no_events) - 1),
-    .attribute_map = lmx::k_no_events,
+    .attributes = std::span(k_items).first(std::size(k_no_events) - 1),
+    .elements = std::span(k_items).subspan(std::size(k_no_events) - 1),
+    .attribute_map = k_no_events,
     .element_map = k_SubstratePlasticType_elements,
-    .operations = &lmx::k_operations<SubstratePlasticType>,
+    .operations = &k_operations<SubstratePlasticType>,
 };
 
 SubstratePlasticType::SubstratePlasticType() = default;
@@ -321,33 +333,35 @@ lmx::elmx_error SubstratePlasticType::set_PlasticType(const std::u16string& valu
 // SubstrateWoodType
 
 namespace {
-constexpr lmx::s_event_map k_SubstrateWoodType_elements[] = {
-    lmx::element_event("WoodWeight", element_WoodWeight),
-    lmx::element_event("WoodType", element_WoodType),
-    lmx::k_end_of_map,
+constexpr s_event_map k_SubstrateWoodType_elements[] = {
+    element_event("WoodWeight", element_WoodWeight),
+    element_event("WoodType", element_WoodType),
+    k_end_of_map,
 };
 }  // namespace
 
-constinit const lmx::s_item SubstrateWoodType::k_items[] = {
-    {lmx::item_kind::element, lmx::value_kind::number, lmx::use_optional, lmx::ELMX_WS_COLLAPSE, "Vyr:WoodWeight", element_WoodWeight, LMX_OFFSET(SubstrateWoodType, m_WoodWeight, element, number), LMX_FLAG(SubstrateWoodType, m_isset_WoodWeight), lmx::position_of(k_SubstrateWoodType_elements, element_WoodWeight), lmx::position_of(k_SubstrateWoodType_elements, element_WoodWeight, 1), nullptr, nullptr, {}},
-    {lmx::item_kind::element, lmx::value_kind::text, lmx::use_optional, lmx::ELMX_WS_PRESERVE, "Vyr:WoodType", element_WoodType, LMX_OFFSET(SubstrateWoodType, m_WoodType, element, text), LMX_FLAG(SubstrateWoodType, m_isset_WoodType), lmx::position_of(k_SubstrateWoodType_elements, element_WoodType), lmx::position_of(k_SubstrateWoodType_elements, element_WoodType, 1), nullptr, nullptr, {}},
+constinit const s_item SubstrateWoodType::k_items[] = {
+    {item_kind::element, value_kind::number, use_optional, ELMX_WS_COLLAPSE, "Vyr:WoodWeight", element_WoodWeight,
+     LMX_OFFSET(SubstrateWoodType, m_WoodWeight, element, number), LMX_FLAG(SubstrateWoodType, m_isset_WoodWeight), position_of(k_SubstrateWoodType_elements, element_WoodWeight), position_of(k_SubstrateWoodType_elements, element_WoodWeight, 1), nullptr, nullptr, {}},
+    {item_kind::element, value_kind::text, use_optional, ELMX_WS_PRESERVE, "Vyr:WoodType", element_WoodType,
+     LMX_OFFSET(SubstrateWoodType, m_WoodType, element, text), LMX_FLAG(SubstrateWoodType, m_isset_WoodType), position_of(k_SubstrateWoodType_elements, element_WoodType), position_of(k_SubstrateWoodType_elements, element_WoodType, 1), nullptr, nullptr, {}},
 };
-constinit const lmx::s_class SubstrateWoodType::k_class = {
+constinit const s_class SubstrateWoodType::k_class = {
     .name = "SubstrateWoodType",
     .qualified_name = "Vyr:SubstrateWoodType",
     .base = &SubstrateType::k_class,
-    .content = lmx::content_kind::children,
+    .content = content_kind::children,
     .may_be_empty = true,
     .ns_map = k_ns_map,
-    .nil_flag = lmx::k_no_flag,
-    .choice = lmx::k_no_flag,
+    .nil_flag = k_no_flag,
+    .choice = k_no_flag,
     .id = &SubstrateWoodType::id,
     .xsi_type = "Vyr:SubstrateWoodType",
-    .attributes = std::span(k_items).first(std::size(lmx::k_no_events) - 1),
-    .elements = std::span(k_items).subspan(std::size(lmx::k_no_events) - 1),
-    .attribute_map = lmx::k_no_events,
+    .attributes = std::span(k_items).first(std::size(k_no_events) - 1),
+    .elements = std::span(k_items).subspan(std::size(k_no_events) - 1),
+    .attribute_map = k_no_events,
     .element_map = k_SubstrateWoodType_elements,
-    .operations = &lmx::k_operations<SubstrateWoodType>,
+    .operations = &k_operations<SubstrateWoodType>,
 };
 
 SubstrateWoodType::SubstrateWoodType() = default;
@@ -375,33 +389,35 @@ lmx::elmx_error SubstrateWoodType::set_WoodType(const std::u16string& value) { r
 // SubstrateVinylType
 
 namespace {
-constexpr lmx::s_event_map k_SubstrateVinylType_elements[] = {
-    lmx::element_event("VinylWeight", element_VinylWeight),
-    lmx::element_event("VinylType", element_VinylType),
-    lmx::k_end_of_map,
+constexpr s_event_map k_SubstrateVinylType_elements[] = {
+    element_event("VinylWeight", element_VinylWeight),
+    element_event("VinylType", element_VinylType),
+    k_end_of_map,
 };
 }  // namespace
 
-constinit const lmx::s_item SubstrateVinylType::k_items[] = {
-    {lmx::item_kind::element, lmx::value_kind::number, lmx::use_optional, lmx::ELMX_WS_COLLAPSE, "Vyr:VinylWeight", element_VinylWeight, LMX_OFFSET(SubstrateVinylType, m_VinylWeight, element, number), LMX_FLAG(SubstrateVinylType, m_isset_VinylWeight), lmx::position_of(k_SubstrateVinylType_elements, element_VinylWeight), lmx::position_of(k_SubstrateVinylType_elements, element_VinylWeight, 1), nullptr, nullptr, {}},
-    {lmx::item_kind::element, lmx::value_kind::text, lmx::use_optional, lmx::ELMX_WS_PRESERVE, "Vyr:VinylType", element_VinylType, LMX_OFFSET(SubstrateVinylType, m_VinylType, element, text), LMX_FLAG(SubstrateVinylType, m_isset_VinylType), lmx::position_of(k_SubstrateVinylType_elements, element_VinylType), lmx::position_of(k_SubstrateVinylType_elements, element_VinylType, 1), nullptr, nullptr, {}},
+constinit const s_item SubstrateVinylType::k_items[] = {
+    {item_kind::element, value_kind::number, use_optional, ELMX_WS_COLLAPSE, "Vyr:VinylWeight", element_VinylWeight,
+     LMX_OFFSET(SubstrateVinylType, m_VinylWeight, element, number), LMX_FLAG(SubstrateVinylType, m_isset_VinylWeight), position_of(k_SubstrateVinylType_elements, element_VinylWeight), position_of(k_SubstrateVinylType_elements, element_VinylWeight, 1), nullptr, nullptr, {}},
+    {item_kind::element, value_kind::text, use_optional, ELMX_WS_PRESERVE, "Vyr:VinylType", element_VinylType,
+     LMX_OFFSET(SubstrateVinylType, m_VinylType, element, text), LMX_FLAG(SubstrateVinylType, m_isset_VinylType), position_of(k_SubstrateVinylType_elements, element_VinylType), position_of(k_SubstrateVinylType_elements, element_VinylType, 1), nullptr, nullptr, {}},
 };
-constinit const lmx::s_class SubstrateVinylType::k_class = {
+constinit const s_class SubstrateVinylType::k_class = {
     .name = "SubstrateVinylType",
     .qualified_name = "Vyr:SubstrateVinylType",
     .base = &SubstrateType::k_class,
-    .content = lmx::content_kind::children,
+    .content = content_kind::children,
     .may_be_empty = true,
     .ns_map = k_ns_map,
-    .nil_flag = lmx::k_no_flag,
-    .choice = lmx::k_no_flag,
+    .nil_flag = k_no_flag,
+    .choice = k_no_flag,
     .id = &SubstrateVinylType::id,
     .xsi_type = "Vyr:SubstrateVinylType",
-    .attributes = std::span(k_items).first(std::size(lmx::k_no_events) - 1),
-    .elements = std::span(k_items).subspan(std::size(lmx::k_no_events) - 1),
-    .attribute_map = lmx::k_no_events,
+    .attributes = std::span(k_items).first(std::size(k_no_events) - 1),
+    .elements = std::span(k_items).subspan(std::size(k_no_events) - 1),
+    .attribute_map = k_no_events,
     .element_map = k_SubstrateVinylType_elements,
-    .operations = &lmx::k_operations<SubstrateVinylType>,
+    .operations = &k_operations<SubstrateVinylType>,
 };
 
 SubstrateVinylType::SubstrateVinylType() = default;
@@ -429,33 +445,35 @@ lmx::elmx_error SubstrateVinylType::set_VinylType(const std::u16string& value) {
 // SubstrateTileType
 
 namespace {
-constexpr lmx::s_event_map k_SubstrateTileType_elements[] = {
-    lmx::element_event("TileWeight", element_TileWeight),
-    lmx::element_event("TileType", element_TileType),
-    lmx::k_end_of_map,
+constexpr s_event_map k_SubstrateTileType_elements[] = {
+    element_event("TileWeight", element_TileWeight),
+    element_event("TileType", element_TileType),
+    k_end_of_map,
 };
 }  // namespace
 
-constinit const lmx::s_item SubstrateTileType::k_items[] = {
-    {lmx::item_kind::element, lmx::value_kind::number, lmx::use_optional, lmx::ELMX_WS_COLLAPSE, "Vyr:TileWeight", element_TileWeight, LMX_OFFSET(SubstrateTileType, m_TileWeight, element, number), LMX_FLAG(SubstrateTileType, m_isset_TileWeight), lmx::position_of(k_SubstrateTileType_elements, element_TileWeight), lmx::position_of(k_SubstrateTileType_elements, element_TileWeight, 1), nullptr, nullptr, {}},
-    {lmx::item_kind::element, lmx::value_kind::text, lmx::use_optional, lmx::ELMX_WS_PRESERVE, "Vyr:TileType", element_TileType, LMX_OFFSET(SubstrateTileType, m_TileType, element, text), LMX_FLAG(SubstrateTileType, m_isset_TileType), lmx::position_of(k_SubstrateTileType_elements, element_TileType), lmx::position_of(k_SubstrateTileType_elements, element_TileType, 1), nullptr, nullptr, {}},
+constinit const s_item SubstrateTileType::k_items[] = {
+    {item_kind::element, value_kind::number, use_optional, ELMX_WS_COLLAPSE, "Vyr:TileWeight", element_TileWeight,
+     LMX_OFFSET(SubstrateTileType, m_TileWeight, element, number), LMX_FLAG(SubstrateTileType, m_isset_TileWeight), position_of(k_SubstrateTileType_elements, element_TileWeight), position_of(k_SubstrateTileType_elements, element_TileWeight, 1), nullptr, nullptr, {}},
+    {item_kind::element, value_kind::text, use_optional, ELMX_WS_PRESERVE, "Vyr:TileType", element_TileType,
+     LMX_OFFSET(SubstrateTileType, m_TileType, element, text), LMX_FLAG(SubstrateTileType, m_isset_TileType), position_of(k_SubstrateTileType_elements, element_TileType), position_of(k_SubstrateTileType_elements, element_TileType, 1), nullptr, nullptr, {}},
 };
-constinit const lmx::s_class SubstrateTileType::k_class = {
+constinit const s_class SubstrateTileType::k_class = {
     .name = "SubstrateTileType",
     .qualified_name = "Vyr:SubstrateTileType",
     .base = &SubstrateType::k_class,
-    .content = lmx::content_kind::children,
+    .content = content_kind::children,
     .may_be_empty = true,
     .ns_map = k_ns_map,
-    .nil_flag = lmx::k_no_flag,
-    .choice = lmx::k_no_flag,
+    .nil_flag = k_no_flag,
+    .choice = k_no_flag,
     .id = &SubstrateTileType::id,
     .xsi_type = "Vyr:SubstrateTileType",
-    .attributes = std::span(k_items).first(std::size(lmx::k_no_events) - 1),
-    .elements = std::span(k_items).subspan(std::size(lmx::k_no_events) - 1),
-    .attribute_map = lmx::k_no_events,
+    .attributes = std::span(k_items).first(std::size(k_no_events) - 1),
+    .elements = std::span(k_items).subspan(std::size(k_no_events) - 1),
+    .attribute_map = k_no_events,
     .element_map = k_SubstrateTileType_elements,
-    .operations = &lmx::k_operations<SubstrateTileType>,
+    .operations = &k_operations<SubstrateTileType>,
 };
 
 SubstrateTileType::SubstrateTileType() = default;
@@ -483,33 +501,35 @@ lmx::elmx_error SubstrateTileType::set_TileType(const std::u16string& value) { r
 // SubstrateFilmType
 
 namespace {
-constexpr lmx::s_event_map k_SubstrateFilmType_elements[] = {
-    lmx::element_event("FilmWeight", element_FilmWeight),
-    lmx::element_event("FilmType", element_FilmType),
-    lmx::k_end_of_map,
+constexpr s_event_map k_SubstrateFilmType_elements[] = {
+    element_event("FilmWeight", element_FilmWeight),
+    element_event("FilmType", element_FilmType),
+    k_end_of_map,
 };
 }  // namespace
 
-constinit const lmx::s_item SubstrateFilmType::k_items[] = {
-    {lmx::item_kind::element, lmx::value_kind::number, lmx::use_optional, lmx::ELMX_WS_COLLAPSE, "Vyr:FilmWeight", element_FilmWeight, LMX_OFFSET(SubstrateFilmType, m_FilmWeight, element, number), LMX_FLAG(SubstrateFilmType, m_isset_FilmWeight), lmx::position_of(k_SubstrateFilmType_elements, element_FilmWeight), lmx::position_of(k_SubstrateFilmType_elements, element_FilmWeight, 1), nullptr, nullptr, {}},
-    {lmx::item_kind::element, lmx::value_kind::text, lmx::use_optional, lmx::ELMX_WS_PRESERVE, "Vyr:FilmType", element_FilmType, LMX_OFFSET(SubstrateFilmType, m_FilmType, element, text), LMX_FLAG(SubstrateFilmType, m_isset_FilmType), lmx::position_of(k_SubstrateFilmType_elements, element_FilmType), lmx::position_of(k_SubstrateFilmType_elements, element_FilmType, 1), nullptr, nullptr, {}},
+constinit const s_item SubstrateFilmType::k_items[] = {
+    {item_kind::element, value_kind::number, use_optional, ELMX_WS_COLLAPSE, "Vyr:FilmWeight", element_FilmWeight,
+     LMX_OFFSET(SubstrateFilmType, m_FilmWeight, element, number), LMX_FLAG(SubstrateFilmType, m_isset_FilmWeight), position_of(k_SubstrateFilmType_elements, element_FilmWeight), position_of(k_SubstrateFilmType_elements, element_FilmWeight, 1), nullptr, nullptr, {}},
+    {item_kind::element, value_kind::text, use_optional, ELMX_WS_PRESERVE, "Vyr:FilmType", element_FilmType,
+     LMX_OFFSET(SubstrateFilmType, m_FilmType, element, text), LMX_FLAG(SubstrateFilmType, m_isset_FilmType), position_of(k_SubstrateFilmType_elements, element_FilmType), position_of(k_SubstrateFilmType_elements, element_FilmType, 1), nullptr, nullptr, {}},
 };
-constinit const lmx::s_class SubstrateFilmType::k_class = {
+constinit const s_class SubstrateFilmType::k_class = {
     .name = "SubstrateFilmType",
     .qualified_name = "Vyr:SubstrateFilmType",
     .base = &SubstrateType::k_class,
-    .content = lmx::content_kind::children,
+    .content = content_kind::children,
     .may_be_empty = true,
     .ns_map = k_ns_map,
-    .nil_flag = lmx::k_no_flag,
-    .choice = lmx::k_no_flag,
+    .nil_flag = k_no_flag,
+    .choice = k_no_flag,
     .id = &SubstrateFilmType::id,
     .xsi_type = "Vyr:SubstrateFilmType",
-    .attributes = std::span(k_items).first(std::size(lmx::k_no_events) - 1),
-    .elements = std::span(k_items).subspan(std::size(lmx::k_no_events) - 1),
-    .attribute_map = lmx::k_no_events,
+    .attributes = std::span(k_items).first(std::size(k_no_events) - 1),
+    .elements = std::span(k_items).subspan(std::size(k_no_events) - 1),
+    .attribute_map = k_no_events,
     .element_map = k_SubstrateFilmType_elements,
-    .operations = &lmx::k_operations<SubstrateFilmType>,
+    .operations = &k_operations<SubstrateFilmType>,
 };
 
 SubstrateFilmType::SubstrateFilmType() = default;
@@ -537,33 +557,35 @@ lmx::elmx_error SubstrateFilmType::set_FilmType(const std::u16string& value) { r
 // SubstrateTextileType
 
 namespace {
-constexpr lmx::s_event_map k_SubstrateTextileType_elements[] = {
-    lmx::element_event("TextileWeight", element_TextileWeight),
-    lmx::element_event("TextileType", element_TextileType),
-    lmx::k_end_of_map,
+constexpr s_event_map k_SubstrateTextileType_elements[] = {
+    element_event("TextileWeight", element_TextileWeight),
+    element_event("TextileType", element_TextileType),
+    k_end_of_map,
 };
 }  // namespace
 
-constinit const lmx::s_item SubstrateTextileType::k_items[] = {
-    {lmx::item_kind::element, lmx::value_kind::number, lmx::use_optional, lmx::ELMX_WS_COLLAPSE, "Vyr:TextileWeight", element_TextileWeight, LMX_OFFSET(SubstrateTextileType, m_TextileWeight, element, number), LMX_FLAG(SubstrateTextileType, m_isset_TextileWeight), lmx::position_of(k_SubstrateTextileType_elements, element_TextileWeight), lmx::position_of(k_SubstrateTextileType_elements, element_TextileWeight, 1), nullptr, nullptr, {}},
-    {lmx::item_kind::element, lmx::value_kind::text, lmx::use_optional, lmx::ELMX_WS_PRESERVE, "Vyr:TextileType", element_TextileType, LMX_OFFSET(SubstrateTextileType, m_TextileType, element, text), LMX_FLAG(SubstrateTextileType, m_isset_TextileType), lmx::position_of(k_SubstrateTextileType_elements, element_TextileType), lmx::position_of(k_SubstrateTextileType_elements, element_TextileType, 1), nullptr, nullptr, {}},
+constinit const s_item SubstrateTextileType::k_items[] = {
+    {item_kind::element, value_kind::number, use_optional, ELMX_WS_COLLAPSE, "Vyr:TextileWeight", element_TextileWeight,
+     LMX_OFFSET(SubstrateTextileType, m_TextileWeight, element, number), LMX_FLAG(SubstrateTextileType, m_isset_TextileWeight), position_of(k_SubstrateTextileType_elements, element_TextileWeight), position_of(k_SubstrateTextileType_elements, element_TextileWeight, 1), nullptr, nullptr, {}},
+    {item_kind::element, value_kind::text, use_optional, ELMX_WS_PRESERVE, "Vyr:TextileType", element_TextileType,
+     LMX_OFFSET(SubstrateTextileType, m_TextileType, element, text), LMX_FLAG(SubstrateTextileType, m_isset_TextileType), position_of(k_SubstrateTextileType_elements, element_TextileType), position_of(k_SubstrateTextileType_elements, element_TextileType, 1), nullptr, nullptr, {}},
 };
-constinit const lmx::s_class SubstrateTextileType::k_class = {
+constinit const s_class SubstrateTextileType::k_class = {
     .name = "SubstrateTextileType",
     .qualified_name = "Vyr:SubstrateTextileType",
     .base = &SubstrateType::k_class,
-    .content = lmx::content_kind::children,
+    .content = content_kind::children,
     .may_be_empty = true,
     .ns_map = k_ns_map,
-    .nil_flag = lmx::k_no_flag,
-    .choice = lmx::k_no_flag,
+    .nil_flag = k_no_flag,
+    .choice = k_no_flag,
     .id = &SubstrateTextileType::id,
     .xsi_type = "Vyr:SubstrateTextileType",
-    .attributes = std::span(k_items).first(std::size(lmx::k_no_events) - 1),
-    .elements = std::span(k_items).subspan(std::size(lmx::k_no_events) - 1),
-    .attribute_map = lmx::k_no_events,
+    .attributes = std::span(k_items).first(std::size(k_no_events) - 1),
+    .elements = std::span(k_items).subspan(std::size(k_no_events) - 1),
+    .attribute_map = k_no_events,
     .element_map = k_SubstrateTextileType_elements,
-    .operations = &lmx::k_operations<SubstrateTextileType>,
+    .operations = &k_operations<SubstrateTextileType>,
 };
 
 SubstrateTextileType::SubstrateTextileType() = default;
@@ -595,7 +617,7 @@ lmx::elmx_error SubstratePaper::marshal(lmx::c_xml_writer& writer, const char* n
     return SubstratePaperType::marshal(writer, name);
 }
 lmx::elmx_error SubstratePaper::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return SubstratePaperType::unmarshal(reader, name); }
-const lmx::s_document SubstratePaper::k_document = {"Vyr:SubstratePaper", "SubstratePaper", k_ns_map, &lmx::k_operations<SubstratePaper>};
+constinit const lmx::s_document SubstratePaper::k_document = {"Vyr:SubstratePaper", "SubstratePaper", k_ns_map, &lmx::k_operations<SubstratePaper>};
 const lmx::s_ns_map* SubstratePaper::ns_map() { return k_ns_map; }
 lmx::elmx_error SubstratePaper::unmarshal(lmx::c_xml_reader& reader) { return lmx::unmarshal_document(k_document, this, reader); }
 SubstratePaper::SubstratePaper(const char* file_name, lmx::elmx_error* error) : SubstratePaper() { *error = unmarshal(file_name); }
@@ -615,7 +637,7 @@ lmx::elmx_error SubstrateGeneric::marshal(lmx::c_xml_writer& writer, const char*
     return SubstrateGenericType::marshal(writer, name);
 }
 lmx::elmx_error SubstrateGeneric::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return SubstrateGenericType::unmarshal(reader, name); }
-const lmx::s_document SubstrateGeneric::k_document = {"Vyr:SubstrateGeneric", "SubstrateGeneric", k_ns_map, &lmx::k_operations<SubstrateGeneric>};
+constinit const lmx::s_document SubstrateGeneric::k_document = {"Vyr:SubstrateGeneric", "SubstrateGeneric", k_ns_map, &lmx::k_operations<SubstrateGeneric>};
 const lmx::s_ns_map* SubstrateGeneric::ns_map() { return k_ns_map; }
 lmx::elmx_error SubstrateGeneric::unmarshal(lmx::c_xml_reader& reader) { return lmx::unmarshal_document(k_document, this, reader); }
 SubstrateGeneric::SubstrateGeneric(const char* file_name, lmx::elmx_error* error) : SubstrateGeneric() { *error = unmarshal(file_name); }
@@ -635,7 +657,7 @@ lmx::elmx_error SubstrateMetal::marshal(lmx::c_xml_writer& writer, const char* n
     return SubstrateMetalType::marshal(writer, name);
 }
 lmx::elmx_error SubstrateMetal::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return SubstrateMetalType::unmarshal(reader, name); }
-const lmx::s_document SubstrateMetal::k_document = {"Vyr:SubstrateMetal", "SubstrateMetal", k_ns_map, &lmx::k_operations<SubstrateMetal>};
+constinit const lmx::s_document SubstrateMetal::k_document = {"Vyr:SubstrateMetal", "SubstrateMetal", k_ns_map, &lmx::k_operations<SubstrateMetal>};
 const lmx::s_ns_map* SubstrateMetal::ns_map() { return k_ns_map; }
 lmx::elmx_error SubstrateMetal::unmarshal(lmx::c_xml_reader& reader) { return lmx::unmarshal_document(k_document, this, reader); }
 SubstrateMetal::SubstrateMetal(const char* file_name, lmx::elmx_error* error) : SubstrateMetal() { *error = unmarshal(file_name); }
@@ -655,7 +677,7 @@ lmx::elmx_error SubstratePlastic::marshal(lmx::c_xml_writer& writer, const char*
     return SubstratePlasticType::marshal(writer, name);
 }
 lmx::elmx_error SubstratePlastic::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return SubstratePlasticType::unmarshal(reader, name); }
-const lmx::s_document SubstratePlastic::k_document = {"Vyr:SubstratePlastic", "SubstratePlastic", k_ns_map, &lmx::k_operations<SubstratePlastic>};
+constinit const lmx::s_document SubstratePlastic::k_document = {"Vyr:SubstratePlastic", "SubstratePlastic", k_ns_map, &lmx::k_operations<SubstratePlastic>};
 const lmx::s_ns_map* SubstratePlastic::ns_map() { return k_ns_map; }
 lmx::elmx_error SubstratePlastic::unmarshal(lmx::c_xml_reader& reader) { return lmx::unmarshal_document(k_document, this, reader); }
 SubstratePlastic::SubstratePlastic(const char* file_name, lmx::elmx_error* error) : SubstratePlastic() { *error = unmarshal(file_name); }
@@ -675,7 +697,7 @@ lmx::elmx_error SubstrateWood::marshal(lmx::c_xml_writer& writer, const char* na
     return SubstrateWoodType::marshal(writer, name);
 }
 lmx::elmx_error SubstrateWood::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return SubstrateWoodType::unmarshal(reader, name); }
-const lmx::s_document SubstrateWood::k_document = {"Vyr:SubstrateWood", "SubstrateWood", k_ns_map, &lmx::k_operations<SubstrateWood>};
+constinit const lmx::s_document SubstrateWood::k_document = {"Vyr:SubstrateWood", "SubstrateWood", k_ns_map, &lmx::k_operations<SubstrateWood>};
 const lmx::s_ns_map* SubstrateWood::ns_map() { return k_ns_map; }
 lmx::elmx_error SubstrateWood::unmarshal(lmx::c_xml_reader& reader) { return lmx::unmarshal_document(k_document, this, reader); }
 SubstrateWood::SubstrateWood(const char* file_name, lmx::elmx_error* error) : SubstrateWood() { *error = unmarshal(file_name); }
@@ -695,7 +717,7 @@ lmx::elmx_error SubstrateVinyl::marshal(lmx::c_xml_writer& writer, const char* n
     return SubstrateVinylType::marshal(writer, name);
 }
 lmx::elmx_error SubstrateVinyl::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return SubstrateVinylType::unmarshal(reader, name); }
-const lmx::s_document SubstrateVinyl::k_document = {"Vyr:SubstrateVinyl", "SubstrateVinyl", k_ns_map, &lmx::k_operations<SubstrateVinyl>};
+constinit const lmx::s_document SubstrateVinyl::k_document = {"Vyr:SubstrateVinyl", "SubstrateVinyl", k_ns_map, &lmx::k_operations<SubstrateVinyl>};
 const lmx::s_ns_map* SubstrateVinyl::ns_map() { return k_ns_map; }
 lmx::elmx_error SubstrateVinyl::unmarshal(lmx::c_xml_reader& reader) { return lmx::unmarshal_document(k_document, this, reader); }
 SubstrateVinyl::SubstrateVinyl(const char* file_name, lmx::elmx_error* error) : SubstrateVinyl() { *error = unmarshal(file_name); }
@@ -715,7 +737,7 @@ lmx::elmx_error SubstrateTile::marshal(lmx::c_xml_writer& writer, const char* na
     return SubstrateTileType::marshal(writer, name);
 }
 lmx::elmx_error SubstrateTile::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return SubstrateTileType::unmarshal(reader, name); }
-const lmx::s_document SubstrateTile::k_document = {"Vyr:SubstrateTile", "SubstrateTile", k_ns_map, &lmx::k_operations<SubstrateTile>};
+constinit const lmx::s_document SubstrateTile::k_document = {"Vyr:SubstrateTile", "SubstrateTile", k_ns_map, &lmx::k_operations<SubstrateTile>};
 const lmx::s_ns_map* SubstrateTile::ns_map() { return k_ns_map; }
 lmx::elmx_error SubstrateTile::unmarshal(lmx::c_xml_reader& reader) { return lmx::unmarshal_document(k_document, this, reader); }
 SubstrateTile::SubstrateTile(const char* file_name, lmx::elmx_error* error) : SubstrateTile() { *error = unmarshal(file_name); }
@@ -735,7 +757,7 @@ lmx::elmx_error SubstrateFilm::marshal(lmx::c_xml_writer& writer, const char* na
     return SubstrateFilmType::marshal(writer, name);
 }
 lmx::elmx_error SubstrateFilm::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return SubstrateFilmType::unmarshal(reader, name); }
-const lmx::s_document SubstrateFilm::k_document = {"Vyr:SubstrateFilm", "SubstrateFilm", k_ns_map, &lmx::k_operations<SubstrateFilm>};
+constinit const lmx::s_document SubstrateFilm::k_document = {"Vyr:SubstrateFilm", "SubstrateFilm", k_ns_map, &lmx::k_operations<SubstrateFilm>};
 const lmx::s_ns_map* SubstrateFilm::ns_map() { return k_ns_map; }
 lmx::elmx_error SubstrateFilm::unmarshal(lmx::c_xml_reader& reader) { return lmx::unmarshal_document(k_document, this, reader); }
 SubstrateFilm::SubstrateFilm(const char* file_name, lmx::elmx_error* error) : SubstrateFilm() { *error = unmarshal(file_name); }
@@ -755,7 +777,7 @@ lmx::elmx_error SubstrateTextile::marshal(lmx::c_xml_writer& writer, const char*
     return SubstrateTextileType::marshal(writer, name);
 }
 lmx::elmx_error SubstrateTextile::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return SubstrateTextileType::unmarshal(reader, name); }
-const lmx::s_document SubstrateTextile::k_document = {"Vyr:SubstrateTextile", "SubstrateTextile", k_ns_map, &lmx::k_operations<SubstrateTextile>};
+constinit const lmx::s_document SubstrateTextile::k_document = {"Vyr:SubstrateTextile", "SubstrateTextile", k_ns_map, &lmx::k_operations<SubstrateTextile>};
 const lmx::s_ns_map* SubstrateTextile::ns_map() { return k_ns_map; }
 lmx::elmx_error SubstrateTextile::unmarshal(lmx::c_xml_reader& reader) { return lmx::unmarshal_document(k_document, this, reader); }
 SubstrateTextile::SubstrateTextile(const char* file_name, lmx::elmx_error* error) : SubstrateTextile() { *error = unmarshal(file_name); }

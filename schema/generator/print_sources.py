@@ -13,21 +13,21 @@ VERSION = 1  # of the runtime's tables, lmx::k_binding_version
 
 
 def event_rows(kind, items):
-    return [f'    lmx::{kind}_event("{item.name}", {kind}_{item.name}),' for item in items]
+    return [f'    {kind}_event("{item.name}", {kind}_{item.name}),' for item in items]
 
 
 def event_map(made, part, rows):
     """A map and its name; classes without rows share the empty one."""
     if not rows:
-        return [], "lmx::k_no_events"
+        return [], "k_no_events"
     name = f"k_{made.name}_{part}"
-    return [f"constexpr lmx::s_event_map {name}[] = {{", *rows, "    lmx::k_end_of_map,", "};"], name
+    return [f"constexpr s_event_map {name}[] = {{", *rows, "    k_end_of_map,", "};"], name
 
 
 def use_mask(item):
     if item.use == REQUIRED:
-        return "lmx::use_required"
-    return " | ".join(f"lmx::use_{use}" for use in item.use) or "lmx::use_optional"
+        return "use_required"
+    return " | ".join(f"use_{use}" for use in item.use) or "use_optional"
 
 
 def facets_of(item):
@@ -37,7 +37,7 @@ def facets_of(item):
 def row(plan, made, item, map_name):
     value = item.value.value if item.value and item.kind != "marker" else "none"
     stored_type = f"&{item.type}::k_class" if item.type and item.kind != "marker" else "nullptr"
-    mode = "lmx::ELMX_WS_COLLAPSE" if item.value and item.value.collapse else "lmx::ELMX_WS_PRESERVE"
+    mode = "ELMX_WS_COLLAPSE" if item.value and item.value.collapse else "ELMX_WS_PRESERVE"
     name = {"attribute": item.name, "content": "", "group": "", "group_list": ""}.get(item.kind, PREFIX + item.name)
     if item.kind in ("group", "group_list") and item.name:
         name = PREFIX + item.name
@@ -46,8 +46,8 @@ def row(plan, made, item, map_name):
     position = "0, 0"
     if elements and item.kind != "attribute":
         first = plan.token(elements[0])
-        position = ", ".join(f"lmx::position_of({map_name}, {first}{width})" for width in ("", f", {len(elements)}"))
-    offset, flag = "0", "lmx::k_no_flag"
+        position = ", ".join(f"position_of({map_name}, {first}{width})" for width in ("", f", {len(elements)}"))
+    offset, flag = "0", "k_no_flag"
     if has_flag(item):
         flag = f"LMX_FLAG({made.name}, m_isset_{item.accessor})"
     if item.kind not in ("alternative", "marker") and not made.derives_from_group:
@@ -55,8 +55,8 @@ def row(plan, made, item, map_name):
     factory = "{}"
     if item.kind == "alternative" and item.type and plan.factory(plan.by_name[item.type]):
         factory = f"{item.type}::k_factory"
-    return (f'    {{lmx::item_kind::{item.kind}, lmx::value_kind::{value}, {use_mask(item)}, {mode}, "{name}", '
-            f"{token}, {offset}, {flag}, {position}, {stored_type}, {facets_of(item)}, {factory}}},")
+    return (f'    {{item_kind::{item.kind}, value_kind::{value}, {use_mask(item)}, {mode}, "{name}", {token},\n'
+            f"     {offset}, {flag}, {position}, {stored_type}, {facets_of(item)}, {factory}}},")
 
 
 def class_table(plan, made):
@@ -68,11 +68,11 @@ def class_table(plan, made):
     if maps:
         yield from ("namespace {", *maps, "}  // namespace", "")
     if made.items:
-        yield f"constinit const lmx::s_item {name}::k_items[] = {{"
+        yield f"constinit const s_item {name}::k_items[] = {{"
         yield from (row(plan, made, item, children) for item in made.items)
         yield "};"
     if known := plan.factory(made):
-        yield f"constinit const lmx::s_factory_row {name}::k_factory[] = {{"
+        yield f"constinit const s_factory_row {name}::k_factory[] = {{"
         yield from (f'    {{"{other.name}", &{other.name}::k_class}},' for other in known)
         yield "};"
     base, identity = plan.table_base(made), plan.identity(made)
@@ -81,20 +81,20 @@ def class_table(plan, made):
         "name": f'"{name}"',
         "qualified_name": f'"{made.qualified_name}"',
         "base": f"&{base}::k_class" if base else "nullptr",
-        "content": f"lmx::content_kind::{made.content}",
+        "content": f"content_kind::{made.content}",
         "may_be_empty": str(made.may_be_empty).lower(),
         "ns_map": "nullptr" if made.local or made.inline else "k_ns_map",
-        "nil_flag": f"LMX_FLAG({name}, m_isnil)" if made.nillable else "lmx::k_no_flag",
-        "choice": f"LMX_CHOICE({name}, m_choice)" if own_choice(made) else "lmx::k_no_flag",
+        "nil_flag": f"LMX_FLAG({name}, m_isnil)" if made.nillable else "k_no_flag",
+        "choice": f"LMX_CHOICE({name}, m_choice)" if own_choice(made) else "k_no_flag",
         "id": f"&{identity.name}::id" if identity else "nullptr",
         "xsi_type": f'"{PREFIX}{identity.name}"' if identity else "nullptr",
         "attributes": f"std::span(k_items).first({count})" if made.items else "{}",
         "elements": f"std::span(k_items).subspan({count})" if made.items else "{}",
         "attribute_map": attributes,
         "element_map": children,
-        "operations": f"&lmx::k_operations<{name}>",
+        "operations": f"&k_operations<{name}>",
     }
-    yield f"constinit const lmx::s_class {name}::k_class = {{"
+    yield f"constinit const s_class {name}::k_class = {{"
     yield from (f"    .{field} = {value}," for field, value in fields.items())
     yield "};"
 
@@ -112,7 +112,7 @@ def document_part(made):
     ending = " init();" if made.init else ""
     forms = {"const char* file_name": "file_name", "const char* data, std::size_t size": "data, size",
              "const std::string& text": "text.data(), text.size()"}
-    yield f'const lmx::s_document {name}::k_document = {{"{PREFIX}{made.element}", "{made.element}", k_ns_map, ' \
+    yield f'constinit const lmx::s_document {name}::k_document = {{"{PREFIX}{made.element}", "{made.element}", k_ns_map, ' \
           f"&lmx::k_operations<{name}>}};"
     yield f"const lmx::s_ns_map* {name}::ns_map() {{ return k_ns_map; }}"
     yield f"lmx::elmx_error {name}::unmarshal(lmx::c_xml_reader& reader) " \
@@ -285,7 +285,8 @@ def inherited_content(plan, made):
 
 
 def print_source(plan, topic):
-    body = [f'static_assert(lmx::k_binding_version == {VERSION}, "run schema/generator/generate.py");', ""]
+    body = ["using namespace lmx;  // for the tables' sake", "",
+            f'static_assert(k_binding_version == {VERSION}, "run schema/generator/generate.py");', ""]
     for made in topic.classes:
         body.append(f"// {made.name}")
         body.append("")
