@@ -1,0 +1,96 @@
+// Copyright 2026 The Vyr Authors
+// SPDX-License-Identifier: Apache-2.0
+
+/// Bytes and their base64 text.
+
+#include "lmx/values/binary.h"
+
+#include <gtest/gtest.h>
+
+#include <sstream>
+#include <stdexcept>
+
+namespace {
+
+using lmx::c_binary;
+
+c_binary bytes(const std::string& text) {
+    return c_binary(reinterpret_cast<const unsigned char*>(text.data()), text.size());
+}
+
+std::string base64(const c_binary& value) {
+    std::string appended = "old ";
+    value.append_base64(&appended);
+    std::ostringstream stream;
+    value.out_base64(stream);
+    EXPECT_EQ(appended, "old " + stream.str());
+    return stream.str();
+}
+
+TEST(Binary, CheckOfBase64CountsCharacters) {
+    // White space counts for nothing up to the first "="; behind it two characters may follow, and white space there
+    // ends the check at once.
+    for (const char* text :
+         {"", "TWFu", "TQ==", "TWE=", "TWFu\n", "TW\nFu", " TWFu ", "    ", "  ", "TWFuT Q=\n", "TW= "}) {
+        EXPECT_TRUE(c_binary::is_valid_base64(text)) << text;
+    }
+    for (const char* text : {"A", "AB", "ABC", " ", "=", "==", "A===", "TQ==\n", "AB  ", "TQ=x", "TWFu=", "T-Fu",
+                             "TW\xC3\xA4", "TQ==TWFu", "TWE=TQ"}) {
+        EXPECT_FALSE(c_binary::is_valid_base64(text)) << text;
+    }
+}
+
+TEST(Binary, Base64DecodesAndEncodes) {
+    const struct {
+        const char* text;
+        const char* bytes;
+        const char* canonical;
+    } cases[] = {{"", "", ""},
+                 {"TWFu", "Man", "TWFu"},
+                 {"TWE=", "Ma", "TWE="},
+                 {"TQ==", "M", "TQ=="},
+                 {"T W\nF\tu", "Man", "TWFu"},
+                 {"-_TWFu!", "Man", "TWFu"},
+                 {"TWFuT", "ManL", "TWFuTA=="},
+                 {"++//", "\xFB\xEF\xFF", "++//"}};
+    for (const auto& row : cases) {
+        c_binary value = bytes("old");
+        value.from_base64(row.text);
+        EXPECT_EQ(value, bytes(row.bytes)) << row.text;
+        EXPECT_EQ(base64(value), row.canonical) << row.text;
+    }
+}
+
+TEST(Binary, LongValuesRoundTripOnOneLine) {
+    c_binary value;
+    for (unsigned i = 0; i < 1000; ++i) value += static_cast<unsigned char>(i * 7);
+    const std::string text = base64(value);
+    EXPECT_EQ(text.size(), 1336U);
+    EXPECT_EQ(text.find('\n'), std::string::npos);
+    EXPECT_TRUE(c_binary::is_valid_base64(text));
+    c_binary back;
+    back.from_base64(text);
+    EXPECT_TRUE(back == value);
+}
+
+TEST(Binary, CopiesAreDeepAndAccessIsChecked) {
+    c_binary one = bytes("abc");
+    c_binary other = one;
+    other.at(0) = 'x';
+    other.append('d');
+    EXPECT_TRUE(one == bytes("abc") && other == bytes("xbcd") && one != other);
+    one.swap(other);
+    EXPECT_EQ(one[3], 'd');
+    one = *&one;
+    EXPECT_EQ(one.size(), 4U);
+    try {
+        static_cast<void>(static_cast<const c_binary&>(one).at(4));
+        FAIL();
+    } catch (const std::out_of_range& error) {
+        EXPECT_STREQ(error.what(), "invalid vector<T> subscript");
+    }
+    EXPECT_THROW(c_binary(one.data(), SIZE_MAX), std::length_error);
+    EXPECT_TRUE(c_binary(nullptr, 0) == c_binary());
+}
+
+}  // namespace

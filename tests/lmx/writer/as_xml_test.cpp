@@ -1,0 +1,180 @@
+// Copyright 2026 The Vyr Authors
+// SPDX-License-Identifier: Apache-2.0
+
+/// Text forms: numbers against the C library, escapes and transcoding against a plain reference.
+
+#include "lmx/writer/as_xml.h"
+
+#include <gtest/gtest.h>
+
+#include <bit>
+#include <cmath>
+#include <cstdio>
+#include <limits>
+#include <random>
+#include <sstream>
+
+#include "tests/lmx/comma_locale.h"
+
+namespace {
+
+/// Both roads to the text; they must agree.
+template <class T>
+std::string as_xml(const T& value) {
+    std::string appended = "old ";
+    lmx::append_as_xml(appended, value);
+    std::ostringstream stream;
+    stream.precision(3);
+    stream << lmx::c_as_xml<T>(value);
+    EXPECT_EQ(stream.precision(), 3);
+    EXPECT_EQ(appended, "old " + stream.str());
+    return stream.str();
+}
+
+TEST(AsXml, SpecialNumbersHaveTheirOwnForms) {
+    const double nan = std::numeric_limits<double>::quiet_NaN();
+    const double infinity = std::numeric_limits<double>::infinity();
+    const struct {
+        double value;
+        const char* text;
+    } cases[] = {{nan, "NaN"},      {-nan, "NaN"},       {std::numeric_limits<double>::signaling_NaN(), "NaN"},
+                 {infinity, "INF"}, {-infinity, "-INF"}, {0.0, "0.0"},
+                 {-0.0, "-0.0"}};
+    for (const auto& row : cases) {
+        EXPECT_EQ(as_xml(row.value), row.text);
+        EXPECT_EQ(as_xml(static_cast<float>(row.value)), row.text);
+    }
+}
+
+TEST(AsXml, NumbersHaveAtMostFourteenOrSevenDigits) {
+    const struct {
+        double value;
+        const char* text;
+    } doubles[] = {{1.5, "1.5"},
+                   {100, "100"},
+                   {-0.1, "-0.1"},
+                   {1.0 / 3, "0.33333333333333"},
+                   {9999.9999999999, "9999.9999999999"},
+                   {9999.99999999999, "10000"},
+                   {0.0001, "0.0001"},
+                   {0.00009, "9e-05"},
+                   {1e14, "1e+14"},
+                   {99999999999999.0, "99999999999999"},
+                   {1e21, "1e+21"},
+                   {-1e-300, "-1e-300"},
+                   {5e-324, "4.9406564584125e-324"}};
+    for (const auto& row : doubles) EXPECT_EQ(as_xml(row.value), row.text);
+    const struct {
+        float value;
+        const char* text;
+    } floats[] = {{0.1F, "0.1"}, {16777216.0F, "1.677722e+07"}, {1e-45F, "1.401298e-45"}, {1.5F, "1.5"}};
+    for (const auto& row : floats) EXPECT_EQ(as_xml(row.value), row.text);
+}
+
+TEST(AsXml, NumbersAgreeWithTheCLibrary) {
+    std::mt19937_64 random(3);
+    const auto check = [](double value) {
+        char expected[64];
+        std::snprintf(expected, sizeof expected, "%.14g", value);
+        char text[lmx::k_number_text_size];
+        const std::size_t size = lmx::format_as_xml(text, value);
+        ASSERT_EQ(std::string(text, size), expected);
+    };
+    constexpr double powers[] = {1, 1e1, 1e2, 1e3, 1e4, 1e5, 1e6, 1e7, 1e8, 1e9, 1e10, 1e11, 1e12, 1e13};
+    for (int round = 0; round < 200000; ++round) {
+        // Short decimals and their neighbours, borders of the digit counts, and any bits at all.
+        const double decimal = static_cast<double>(random() % 100'000'000'000'000) /
+                               powers[random() % std::size(powers)] / (random() % 2 == 0 ? 1.0 : 1e8);
+        const double any = std::bit_cast<double>(random());
+        for (const double value : {decimal, -decimal, std::nextafter(decimal, HUGE_VAL),
+                                   static_cast<double>(random() % 100000) / 1e4, any}) {
+            if (std::isfinite(value) && value != 0) check(value);
+        }
+        if (HasFatalFailure()) return;
+    }
+}
+
+TEST(AsXml, NumbersIgnoreLocaleAndFlagsOfTheStream) {
+    std::ostringstream stream;
+    stream.imbue(make_comma_locale());
+    stream << std::fixed << std::showpos << lmx::c_as_xml(12345.5) << ' ' << lmx::c_as_xml(1.5F);
+    EXPECT_EQ(stream.str(), "12345.5 1.5");
+}
+
+TEST(AsXml, BooleansAndBytes) {
+    EXPECT_EQ(as_xml(true), "true");
+    EXPECT_EQ(as_xml(false), "false");
+    std::ostringstream stream;
+    stream << lmx::c_as_bool_digit(true) << lmx::c_as_bool_digit(false);
+    const lmx::c_binary bytes(reinterpret_cast<const unsigned char*>("Ma"), 2);
+    stream << lmx::c_as_base64(bytes);
+    EXPECT_EQ(stream.str(), "10TWE=");
+}
+
+TEST(AsXml, FourCharactersAreEscapedAndNoOthers) {
+    EXPECT_EQ(as_xml(std::string()), "");
+    EXPECT_EQ(as_xml(std::string("&\"'<>\t\r\n\x01")), "&amp;&quot;&apos;&lt;>\t\r\n\x01");
+    EXPECT_EQ(as_xml(std::u16string(u"&\"'<>\t\r\n\x01")), "&amp;&quot;&apos;&lt;>\t\r\n\x01");
+    EXPECT_EQ(as_xml(std::string("bad \xFF\x80 stays")), "bad \xFF\x80 stays");
+    EXPECT_EQ(as_xml(std::string("a\0b", 3)), std::string("a\0b", 3));
+    const std::string text = "R&D";
+    std::ostringstream stream;
+    stream << lmx::c_as_escaped<std::string>(text);
+    EXPECT_EQ(stream.str(), "R&amp;D");
+}
+
+TEST(AsXml, HighSurrogateWithoutPartnerDropsTheRest) {
+    EXPECT_EQ(as_xml(std::u16string(u"\u00E4\u20AC\U0001F600")), "\xC3\xA4\xE2\x82\xAC\xF0\x9F\x98\x80");
+    EXPECT_EQ(as_xml(std::u16string{'a', 0xD83D}), "a");
+    EXPECT_EQ(as_xml(std::u16string{'a', 0xD83D, 'b', 'c'}), "a");
+    EXPECT_EQ(as_xml(std::u16string{'a', 0xD83D, 0xD83D, 0xDE00}), "a");
+    EXPECT_EQ(as_xml(std::u16string{'a', 0xDE00, 'b'}),
+              "a\xED\xB8\x80"
+              "b");
+}
+
+/// Unit by unit, as the text form is defined.
+std::string reference(const std::u16string& text) {
+    std::string out;
+    for (std::size_t i = 0; i < text.size(); ++i) {
+        int c = text[i];
+        if (c >= 0xD800 && c <= 0xDBFF) {
+            if (i + 1 == text.size() || text[i + 1] < 0xDC00 || text[i + 1] > 0xDFFF) break;
+            c = 0x10000 + (c - 0xD800) * 1024 + (text[++i] - 0xDC00);
+        }
+        if (c == '"') out += "&quot;";
+        if (c == '\'') out += "&apos;";
+        if (c == '&') out += "&amp;";
+        if (c == '<') out += "&lt;";
+        if (c == '"' || c == '\'' || c == '&' || c == '<') continue;
+        const int count = c < 0x80 ? 0 : c < 0x800 ? 1 : c < 0x10000 ? 2 : 3;  // of bytes behind the first
+        const int marks[] = {0, 0xC0, 0xE0, 0xF0};
+        out += static_cast<char>(marks[count] + (c >> (6 * count)));
+        for (int k = count - 1; k >= 0; --k) out += static_cast<char>(0x80 + (c >> (6 * k)) % 64);
+    }
+    return out;
+}
+
+TEST(AsXml, RandomTextIsWrittenAsTheReferenceDoes) {
+    std::mt19937 engine(5);
+    const auto random = [&] { return static_cast<unsigned>(engine()); };
+    for (int round = 0; round < 4000; ++round) {
+        // Mostly plain text, long enough to fill the piece buffer again and again.
+        const unsigned odd = 1 + random() % 200;
+        std::u16string text;
+        for (unsigned n = random() % 2000; n > 0; --n) {
+            if (random() % odd != 0) {
+                text += static_cast<char16_t>('a' + random() % 26);
+            } else if (random() % 40 == 0) {
+                text += static_cast<char16_t>(0xD800 + random() % 0x800);
+            } else if (random() % 4 == 0) {
+                text += u"\U0001F600";
+            } else {
+                text += static_cast<char16_t>(random() % 2 == 0 ? random() % 0x80 : random() % 0xD800);
+            }
+        }
+        ASSERT_EQ(as_xml(text), reference(text));
+    }
+}
+
+}  // namespace

@@ -1,0 +1,173 @@
+// Copyright 2026 The Vyr Authors
+// SPDX-License-Identifier: Apache-2.0
+
+/// The writer: declaration, layout, namespace attributes, errors.
+
+#include "lmx/writer/xml_writer.h"
+
+#include <gtest/gtest.h>
+
+#include <locale>
+#include <sstream>
+
+#include "tests/lmx/comma_locale.h"
+
+namespace {
+
+using lmx::c_xml_writer;
+
+constexpr lmx::s_ns_map k_map[] = {{1000, "Vyr", "http://example.com/v2"}, {0, nullptr, nullptr}};
+constexpr lmx::s_ns_map k_other_map[] = {{1001, "", "urn:other"}, {1002, "two", "urn:two"}, {0, nullptr, nullptr}};
+const std::string k_xsi = " xmlns:xsi=\"http://www.w3.org/2001/XMLSchema-instance\"";
+
+TEST(XmlWriter, OptionsDecideOnTheDeclaration) {
+    const struct {
+        int options;
+        const char* text;
+    } cases[] = {{0, ""},
+                 {c_xml_writer::include_xml_decl, "<?xml version=\"1.0\" encoding=\"UTF-8\"?>|"},
+                 {c_xml_writer::include_standalone, "<?xml version=\"1.0\" encoding=\"UTF-8\" standalone=\"yes\"?>|"},
+                 {3, "<?xml version=\"1.0\" encoding=\"UTF-8\" standalone=\"yes\"?>|"},
+                 {4, ""}};
+    for (const auto& row : cases) {
+        std::ostringstream stream;
+        const c_xml_writer writer(stream, row.options, "\t", "|");
+        EXPECT_EQ(stream.str(), row.text) << row.options;
+    }
+    std::ostringstream stream;
+    const c_xml_writer writer(stream, "\t", "|");
+    EXPECT_EQ(stream.str(), "");
+}
+
+TEST(XmlWriter, StreamGetsTheClassicLocaleForGood) {
+    std::ostringstream stream;
+    stream.imbue(make_comma_locale());
+    { const c_xml_writer writer(stream, "\t", "\n"); }
+    stream << 1.5;
+    EXPECT_EQ(stream.str(), "1.5");
+    EXPECT_EQ(stream.getloc(), std::locale::classic());
+}
+
+TEST(XmlWriter, LayoutFollowsTheIndentLevel) {
+    std::ostringstream stream;
+    c_xml_writer w(stream, "--", "\n");
+    w.undent();  // stays at 0
+    w(true) << "<a" << std::string();
+    w(false) << ">" << w.endl();
+    w.indent();
+    w(true) << "<b></b>" << w.endl();
+    w.indent();
+    w(true) << "x" << w.endl();
+    w.undent();
+    w.undent();
+    w(true) << "</a>" << w.endl();
+    EXPECT_EQ(stream.str(), "<a>\n--<b></b>\n----x\n</a>\n");
+    EXPECT_EQ(&w(false), &stream);
+}
+
+TEST(XmlWriter, LayoutCanBeOverridden) {
+    class c_flat : public c_xml_writer {
+    public:
+        using c_xml_writer::c_xml_writer;
+        const char* endl() override {
+            ++line_ends;
+            return "";
+        }
+        void nest() override { (*this)(false) << '.'; }
+        int line_ends = 0;
+    };
+    std::ostringstream stream;
+    c_flat w(stream, "\t", "\n");
+    w.indent();
+    w.indent();
+    w(true) << "<a>" << w.endl();
+    EXPECT_EQ(stream.str(), "..<a>");
+    w.conditionally_write_ns_attrs(false);
+    EXPECT_EQ(w.line_ends, 2);  // asked once more, though nothing is printed
+    w.conditionally_write_ns_attrs(false);
+    EXPECT_EQ(w.line_ends, 2);
+}
+
+TEST(XmlWriter, NamespacesComeOnceInOrder) {
+    std::ostringstream stream;
+    c_xml_writer w(stream, "\t", "\n");
+    w.add_namespace("p", "urn:p");
+    w.add_default_namespace("urn:d&<");
+    w.add_namespace("p", "urn:p");
+    w.conditionally_select_ns_map(k_map);
+    w.conditionally_select_ns_map(k_other_map);
+    w.conditionally_write_ns_attrs(false);
+    const std::string added = " xmlns:p=\"urn:p\" xmlns=\"urn:d&<\" xmlns:p=\"urn:p\"";
+    EXPECT_EQ(stream.str(), " xmlns:Vyr=\"http://example.com/v2\"" + added);
+    w.conditionally_write_ns_attrs(true);
+    EXPECT_EQ(stream.str(), " xmlns:Vyr=\"http://example.com/v2\"" + added);
+
+    EXPECT_STREQ(w.get_namespace_prefix("http://example.com/v2"), "Vyr");
+    EXPECT_STREQ(w.get_namespace_prefix("urn:p"), "p");
+    EXPECT_STREQ(w.get_namespace_prefix("urn:d&<"), "");
+    EXPECT_EQ(w.get_namespace_prefix("urn:other"), nullptr);
+
+    stream.str("");
+    w.reenable_ns_map_output();
+    w.conditionally_select_ns_map(k_other_map);
+    w.conditionally_write_ns_attrs(true);
+    EXPECT_EQ(stream.str(), " xmlns=\"urn:other\" xmlns:two=\"urn:two\"" + added + k_xsi);
+}
+
+TEST(XmlWriter, SchemaLocationsBringTheirNamespace) {
+    const auto print = [](std::initializer_list<std::pair<const char*, const char*>> locations) {
+        std::ostringstream stream;
+        c_xml_writer w(stream, "\t", "\n");
+        for (const auto& [ns, location] : locations) w.add_schema_location(ns, location);
+        w.conditionally_write_ns_attrs(false);
+        return stream.str();
+    };
+    EXPECT_EQ(print({}), "");
+    EXPECT_EQ(print({{"a", "b"}, {"c", "d"}}), k_xsi + " xsi:schemaLocation=\"a b c d\"");
+    EXPECT_EQ(print({{"", "b"}, {"c", "d"}}), k_xsi + " xsi:noNamespaceSchemaLocation=\"b\"");
+    EXPECT_EQ(print({{"a", "b"}, {"", "d"}}), k_xsi + " xsi:schemaLocation=\"a b  d\"");
+    std::ostringstream stream;
+    c_xml_writer w(stream, "\t", "\n");
+    w.add_no_namespace_schema_location("x.xsd");
+    w.conditionally_write_ns_attrs(true);
+    EXPECT_EQ(stream.str(), k_xsi + " xsi:noNamespaceSchemaLocation=\"x.xsd\"");
+}
+
+TEST(XmlWriter, ErrorsAreRecordedWithTheirItem) {
+    std::ostringstream stream;
+    c_xml_writer w(stream, "\t", "\n");
+    std::string message = "old";
+    EXPECT_EQ(w.get_error_message(&message), "No Error");
+    EXPECT_EQ(w.handle_error(lmx::ELMX_TYPE_NOT_SET, "Vyr:Color", "file", 1), lmx::ELMX_TYPE_NOT_SET);
+    EXPECT_EQ(&w.get_error_message(&message), &message);
+    EXPECT_EQ(message, "'Vyr:Color'-Type not set");
+    EXPECT_EQ(w.get_error_item_name(), "Vyr:Color");
+    EXPECT_EQ(w.handle_error(static_cast<lmx::elmx_error>(47), w.get_error_item_name(), "file", 1), 47);
+    EXPECT_EQ(w.get_error_message(&message), "'Vyr:Color'-");
+
+    lmx::elmx_error_type type = lmx::ELMX_TYPE_NOTE;
+    lmx::elmx_error code = lmx::ELMX_NO_FILE;
+    int line = 77;
+    EXPECT_FALSE(w.get_error_info(&type, &code, &line));
+    EXPECT_TRUE(type == lmx::ELMX_TYPE_NOTE && code == lmx::ELMX_NO_FILE && line == 77);
+}
+
+TEST(XmlWriter, HandlersMayDropOrChangeErrors) {
+    class c_lenient : public c_xml_writer {
+    public:
+        using c_xml_writer::c_xml_writer;
+        lmx::elmx_error user_handle_error(lmx::elmx_error code) override {
+            return code == lmx::ELMX_TYPE_NOT_SET ? lmx::ELMX_OK : lmx::ELMX_USER_DEFINED_3;
+        }
+    };
+    std::ostringstream stream;
+    c_lenient w(stream, "\t", "\n");
+    std::string message;
+    EXPECT_EQ(w.handle_error(lmx::ELMX_TYPE_NOT_SET, "one", "file", 1), lmx::ELMX_OK);
+    EXPECT_EQ(w.get_error_message(&message), "No Error");
+    EXPECT_EQ(w.get_error_item_name(), "one");
+    EXPECT_EQ(w.handle_error(lmx::ELMX_BAD_CHOICE, "two", "file", 1), lmx::ELMX_USER_DEFINED_3);
+    EXPECT_EQ(w.get_error_message(&message), "'two'-User defined error 3");
+}
+
+}  // namespace
