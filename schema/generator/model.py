@@ -6,8 +6,8 @@ Printers read nothing but this model and the plan made from it. Every construct 
 here is refused, with file and line; nothing here knows a particular type.
 """
 
+import re
 from dataclasses import dataclass, replace
-from fractions import Fraction
 
 from source import Node, Overlay, SchemaError, read_xml
 
@@ -89,7 +89,7 @@ class Class:
     nillable: bool = False
     may_be_empty: bool = False
     abstract: bool = False
-    named: bool = False  # a named type of the schema
+    named: bool = False  # a named type among others that derive from each other: it has an identity
     wrapper: bool = False  # a global element's class that adds nothing to its type
     element: str | None = None  # the global element
     is_document: bool = False  # the element can be a whole document
@@ -101,10 +101,6 @@ class Class:
     @property
     def items(self):
         return self.attributes + self.elements
-
-    @property
-    def identified(self):
-        return self.named
 
 
 @dataclass(frozen=True)
@@ -177,6 +173,8 @@ class Builder:
 
     def simple_type(self, node, name):
         """The simple type of a name as written in the schema, or None if that's a complex type."""
+        if name is None:
+            raise node.error(f"xs:{node.tag} {node.get('name', '')} needs a named type")
         if name.startswith("xs:"):
             if name[3:] not in BUILT_IN:
                 raise node.error(f"the built-in type {name} is not supported")
@@ -202,7 +200,9 @@ class Builder:
         facets = {"enumeration": tuple(f.get("value") for f in restriction.all("enumeration"))}
         for facet in restriction.children:
             facet.check("value", "")
-            tag, value = facet.tag, facet.get("value")
+            tag, value = facet.tag, facet.get("value", "")
+            if tag not in ("enumeration", "pattern") and not re.fullmatch(r"-?\d+(\.\d+)?", value):
+                raise facet.error(f"'{value}' is no plain decimal number")
             if tag in ("minInclusive", "minExclusive"):
                 facets |= {"minimum": value, "minimum_exclusive": tag == "minExclusive"}
             elif tag in ("maxInclusive", "maxExclusive"):
