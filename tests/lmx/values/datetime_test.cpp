@@ -104,6 +104,7 @@ TEST(Datetime, AssignmentStopsAtTheFirstMismatch) {
     } cases[] = {{"", "-2001-02-03T04:05:06+01:00"},
                  {"x", "-2001-02-03T04:05:06+01:00"},
                  {"2010", "2010-02-03T04:05:06+01:00"},
+                 {"201-10-11T12:13:14Z", "0201-02-03T04:05:06+01:00"},
                  {"-2010-10", "2010-10-03T04:05:06+01:00"},  // the sign comes last, and is never reached
                  {"2010-10-11 12", "2010-10-11T04:05:06+01:00"},
                  {"2010-10-11T12:13:1", "2010-10-11T12:13:01+01:00"},
@@ -116,6 +117,9 @@ TEST(Datetime, AssignmentStopsAtTheFirstMismatch) {
         value = row.text;
         EXPECT_EQ(value.get_as_string(), row.result) << row.text;
     }
+    c_datetime utc("2010-10-11T12:13:14Z");
+    utc = "2010-10-11T12:13:14+01:00";
+    EXPECT_EQ(utc.get_as_string(), "2010-10-11T12:13:14+01:00");
 }
 
 TEST(Datetime, OffsetsFollowTheSignOfTheHours) {
