@@ -371,7 +371,7 @@ elmx_error read_children(const s_class& type, void* object, c_xml_reader& reader
         return error == ELMX_OK ? check_end(reader, node) : error;
     }
     if (is_empty) {
-        if (type.may_be_empty) return ELMX_OK;
+        if (type.may_be_empty || type.content == content_kind::empty) return ELMX_OK;
         return reader.handle_error(ELMX_UNEXPECTED_EMPTY_ELEMENT, node.get_str(), k_source_file, __LINE__);
     }
     if (!unmarshal_body(type, object, reader, &reader.m_name, &error)) return error;

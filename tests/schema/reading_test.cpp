@@ -212,7 +212,7 @@ TEST(Reading, XsiTypeSpecialisesTwoGroupMembers) {
     EXPECT_EQ(read(tolerance, element("Tolerance", "<Vyr:Function/>")).code, ELMX_UNKNOWN_XSI_TYPE);
     v2::ToleranceType typed;
     const std::string function =
-        "<Vyr:Function xsi:type=\"Vyr:FunctionDE94Type\"><Vyr:Param_l>0</Vyr:Param_l>"
+        "<Vyr:Function xsi:type=\"Vyr:FunctionDE94Type\"><Vyr:Param_l>0.5</Vyr:Param_l>"
         "<Vyr:Param_c>1</Vyr:Param_c><Vyr:Param_h>2</Vyr:Param_h></Vyr:Function>";
     ASSERT_EQ(read(typed, element("Tolerance", function)), s_outcome{});
     EXPECT_EQ(write(typed, "Vyr:Tolerance"), element("Tolerance", function));
@@ -370,7 +370,7 @@ TEST(Reading, NestingIsBounded) {
     v2::ColorSpaceYBR deep;
     EXPECT_EQ(read(deep, nested(255)), s_outcome{});
     v2::ColorSpaceYBR too_deep;
-    EXPECT_EQ(read(too_deep, nested(257)), failure(ELMX_BADLY_FORMED, "Vyr:ParentColorSpace"));
+    EXPECT_EQ(read(too_deep, nested(257)), failure(ELMX_BADLY_FORMED, "Vyr:ColorSpaceNCS"));
     const v2::ColorSpaceYBR copy(too_deep);
 }
 

@@ -1,0 +1,280 @@
+// Copyright 2026 The Vyr Authors
+// SPDX-License-Identifier: Apache-2.0
+
+#include "lmx/reader/get_as_utf8.h"
+
+#include <algorithm>
+#include <cstring>
+
+#include "lmx/values/characters.h"
+#include "lmx/values/unicode.h"
+
+namespace lmx {
+namespace {
+
+constexpr int k_next_line = 0x85;
+constexpr int k_line_separator = 0x2028;
+
+int sequence_length(int lead) {
+    if (lead < 0xC0) return 1;
+    if (lead < 0xE0) return 2;
+    if (lead < 0xF0) return 3;
+    if (lead < 0xF8) return 4;
+    return lead < 0xFC ? 5 : 6;
+}
+
+bool is_line_end(const char* sequence) {
+    return std::strcmp(sequence, "\xC2\x85") == 0 || std::strcmp(sequence, "\xE2\x80\xA8") == 0;
+}
+
+bool is_within(int value, int low, int high) { return value >= low && value <= high; }
+
+bool equals_ignoring_case(const char* name, const char* upper) {
+    for (; *name != 0 && *upper != 0; ++name, ++upper) {
+        const char c = is_within(*name, 'a', 'z') ? static_cast<char>(*name - 'a' + 'A') : *name;
+        if (c != *upper) return false;
+    }
+    return *name == *upper;
+}
+
+}  // namespace
+
+void c_unget_buffer::unget(int value) {
+    if (m_count == 3) {
+        std::copy(m_values + 1, m_values + 3, m_values);
+        --m_count;
+    }
+    m_values[m_count++] = value;
+}
+
+c_get_as_utf8::c_get_as_utf8(c_read& reader, c_error& error)
+    : m_reader(reader), m_error(error), m_error_binder(error) {
+    m_error_binder.bind(this);
+}
+
+c_get_as_utf8::~c_get_as_utf8() = default;
+
+void c_get_as_utf8::error(elmx_error_type type, elmx_error code, const char* text) {
+    m_error.error(type, code, get_source_id(), m_line_num, text);
+}
+
+bool c_get_as_utf8::at_end_of_input() const {
+    return m_error.is_fatal_errored() || (m_is_source_at_end && m_unget.empty() && m_pending == nullptr);
+}
+
+void c_get_as_utf8::rewind() {
+    m_encoding = enc_unknown;
+    m_last_char = 0;
+    m_unget.clear();
+    m_utf8_char[0] = 0;
+    m_pending = nullptr;
+    m_line_num = 1;
+    m_is_source_at_end = false;
+    m_reader.rewind();
+}
+
+int c_get_as_utf8::get() {
+    int c = raw_step();
+    if (c == '\n' && m_last_char == '\r') c = raw_step();
+    m_last_char = c;
+    if (c == '\r') {
+        ++m_line_num;
+        return '\n';
+    }
+    if (c == '\n') ++m_line_num;
+    return c;
+}
+
+int c_get_as_utf8::read_byte() {
+    const int byte = m_reader.read();
+    if (byte < 0) {
+        m_is_source_at_end = true;
+        return -1;
+    }
+    ++m_bytes_read;
+    return byte;
+}
+
+int c_get_as_utf8::raw_step() {
+    if (m_error.is_fatal_errored()) return -1;
+    if (!m_unget.empty()) return m_unget.get();
+    if (m_pending != nullptr) {
+        const int byte = static_cast<unsigned char>(*m_pending++);
+        if (*m_pending == 0) m_pending = nullptr;
+        return byte;
+    }
+    const int byte = read_byte();
+    if (byte < 0) return -1;
+    switch (m_encoding) {
+        case enc_single_byte:
+            return byte > 126 ? encode(byte) : byte;
+        case enc_utf8:
+            return byte > 127 ? decode_utf8(byte) : byte;
+        case enc_utf16_be:
+        case enc_utf16_le:
+            return decode_utf16(byte, m_encoding == enc_utf16_be);
+        case enc_ucs2_be:
+        case enc_ucs2_le: {
+            const int unit = read_unit(byte, m_encoding == enc_ucs2_be);
+            return unit < 0 ? -1 : encode(unit);
+        }
+        default:
+            return detect_encoding(byte);
+    }
+}
+
+int c_get_as_utf8::encode(int code_point) {
+    if (code_point == k_next_line || code_point == k_line_separator) return '\n';
+    unicode_char_to_utf8(code_point, m_utf8_char);
+    m_pending = m_utf8_char[0] != 0 && m_utf8_char[1] != 0 ? m_utf8_char + 1 : nullptr;
+    return static_cast<unsigned char>(m_utf8_char[0]);
+}
+
+/// The further bytes of a sequence are taken as they come: the check looks at the first two only.
+int c_get_as_utf8::decode_utf8(int lead) {
+    const int length = sequence_length(lead);
+    m_utf8_char[0] = static_cast<char>(lead);
+    bool is_void = false;
+    for (int i = 1; i < length; ++i) {
+        const int byte = read_byte();
+        is_void = byte < 0;
+        m_utf8_char[i] = static_cast<char>(byte);
+    }
+    m_utf8_char[length] = 0;
+    if (!is_void && is_line_end(m_utf8_char)) {
+        m_utf8_char[0] = '\n';
+        m_utf8_char[1] = 0;
+    }
+    if (is_void || !is_valid_utf8_char_sequence(m_utf8_char)) {
+        m_utf8_char[0] = 0;
+        m_utf8_char[1] = 0;
+        return -1;
+    }
+    m_pending = m_utf8_char[0] != 0 && m_utf8_char[1] != 0 ? m_utf8_char + 1 : nullptr;
+    return static_cast<unsigned char>(m_utf8_char[0]);
+}
+
+int c_get_as_utf8::read_unit(int first, bool is_big_endian) {
+    const int second = read_byte();
+    if (second < 0) return -1;
+    return is_big_endian ? (first << 8) | second : (second << 8) | first;
+}
+
+int c_get_as_utf8::decode_utf16(int first, bool is_big_endian) {
+    const int unit = read_unit(first, is_big_endian);
+    if (unit < 0) return -1;
+    if (!is_within(unit, 0xD800, 0xDBFF)) return encode(unit);
+    const int next_first = read_byte();
+    if (next_first < 0) return -1;
+    const int next = read_unit(next_first, is_big_endian);
+    if (next < 0) return -1;
+    if (!is_within(next, 0xDC00, 0xDFFF)) return refuse_encoding();
+    return encode(((unit & 0x3FF) + 0x40) * 1024 + (next & 0x3FF));
+}
+
+int c_get_as_utf8::refuse_encoding() {
+    error(ELMX_TYPE_FATAL, ELMX_BAD_CHAR_ENCODING, "Unrecognised character encoding");
+    return -1;
+}
+
+int c_get_as_utf8::detect_encoding(int first) {
+    const auto is_start = [](int c) { return xisspace(c) || c == '<'; };
+    if (first == 0xFF && read_byte() == 0xFE) {
+        const int low = read_byte();
+        const int high = read_byte();
+        if (is_within(low, 1, 127) && high == 0) {
+            m_encoding = enc_utf16_le;
+            return low;
+        }
+    } else if (first == 0xFE && read_byte() == 0xFF) {
+        const int high = read_byte();
+        const int low = read_byte();
+        if (high == 0 && is_within(low, 1, 127)) {
+            m_encoding = enc_utf16_be;
+            return low;
+        }
+    } else if (first == 0xEF && read_byte() == 0xBB && read_byte() == 0xBF) {
+        m_encoding = enc_utf8;
+        return read_byte();
+    } else if (is_start(first)) {
+        const int second = read_byte();
+        m_encoding = second == 0 ? enc_utf16_le : enc_utf8;
+        if (second > 0) {
+            decode_utf8(second);
+            m_pending = m_utf8_char;
+        }
+        return first;
+    } else if (first == 0) {
+        const int second = read_byte();
+        if (is_start(second)) {
+            m_encoding = enc_utf16_be;
+            return second;
+        }
+    }
+    return refuse_encoding();
+}
+
+bool c_get_as_utf8::set_encoding(const char* name) {
+    const bool is_utf16 = m_encoding == enc_utf16_be || m_encoding == enc_utf16_le;
+    bool is_accepted = false;
+    if (equals_ignoring_case(name, "ISO-10646-UCS-2")) {
+        is_accepted = is_utf16;
+        if (is_utf16) m_encoding = m_encoding == enc_utf16_be ? enc_ucs2_be : enc_ucs2_le;
+    } else if (equals_ignoring_case(name, "ISO-8859-1") || equals_ignoring_case(name, "US-ASCII")) {
+        is_accepted = m_encoding == enc_utf8;
+        m_encoding = enc_single_byte;
+    } else if (equals_ignoring_case(name, "UTF-8")) {
+        is_accepted = m_encoding == enc_utf8;
+    } else if (equals_ignoring_case(name, "UTF-16")) {
+        is_accepted = is_utf16;
+    } else {
+        error(ELMX_TYPE_FATAL, ELMX_BAD_CHAR_ENCODING, "Unknown character encoding specified");
+        return false;
+    }
+    if (!is_accepted) {
+        error(ELMX_TYPE_FATAL, ELMX_ENCODING_MISMATCH, "Mis-match between specfied encoding and byte format");
+    }
+    return is_accepted;
+}
+
+/// The bytes that `get` would deliver unchanged: ASCII, and whole UTF-8 characters other than line ends.
+std::size_t c_get_as_utf8::run_length(std::string_view bytes, const byte_set& stops) const {
+    std::size_t i = 0;
+    for (;;) {
+        while (i < bytes.size() && !stops[static_cast<unsigned char>(bytes[i])]) ++i;
+        if (i == bytes.size() || m_encoding != enc_utf8) return i;
+        const int lead = static_cast<unsigned char>(bytes[i]);
+        const auto length = static_cast<std::size_t>(sequence_length(lead));
+        // A set that stops at all bytes over 127 but takes ASCII punctuation is one of text, which may go on.
+        if (lead < 0xC2 || lead > 0xF4 || bytes.size() - i < length || stops[';']) return i;
+        char sequence[5] = {};
+        for (std::size_t k = 0; k < length; ++k) {
+            sequence[k] = bytes[i + k];
+            if (k > 0 && (static_cast<unsigned char>(sequence[k]) & 0xC0) != 0x80) return i;
+        }
+        if (!is_valid_utf8_char_sequence(sequence) || is_line_end(sequence)) return i;
+        i += length;
+    }
+}
+
+void c_get_as_utf8::take_run(const byte_set& stops, std::string* out) {
+    const bool is_plain = m_encoding == enc_utf8 || m_encoding == enc_single_byte;
+    if (!is_plain || m_last_char == '\r' || !m_unget.empty() || m_pending != nullptr || m_error.is_fatal_errored()) {
+        return;
+    }
+    for (;;) {
+        const std::string_view window = m_reader.window();
+        const std::size_t length = run_length(window, stops);
+        if (length == 0) return;
+        const std::string_view run = window.substr(0, length);
+        if (out != nullptr) out->append(run);
+        m_line_num += static_cast<int>(std::count(run.begin(), run.end(), '\n'));
+        m_last_char = static_cast<unsigned char>(run.back());
+        m_bytes_read += length;
+        const bool is_all = length == window.size();
+        m_reader.consume(length);
+        if (!is_all) return;
+    }
+}
+
+}  // namespace lmx

@@ -1,0 +1,160 @@
+// Copyright 2026 The Vyr Authors
+// SPDX-License-Identifier: Apache-2.0
+
+#include "lmx/reader/internal_dtd.h"
+
+#include "lmx/reader/get_for_xml.h"
+
+namespace lmx {
+
+int c_dtd_util::get() { return m_getter.get(); }
+void c_dtd_util::unget(int c) { m_getter.unget(c); }
+
+bool c_dtd_util::select_parameter_entity() {
+    std::string name;
+    int c = get();
+    for (; is_name_char(c); c = get()) name += static_cast<char>(c);
+    if (c != ';') unget(c);
+    const std::string* const value = m_getter.parameter_entities().find(name);
+    if (value == nullptr) {
+        m_getter.error(ELMX_TYPE_ERROR, ELMX_ENTITY_NOT_FOUND, "Entity '%" + name + "' not found");
+        return true;
+    }
+    return m_getter.charge_reference(value->size()) && m_getter.push_entity(*value);
+}
+
+bool c_dtd_util::get_entity_value(std::string* out) {
+    out->clear();
+    int c = m_getter.get_non_ws();
+    if (c == -1) return false;
+    for (; c != -1 && c != '>' && !xisspace(c); c = get()) {
+        if (c != '%') {
+            *out += static_cast<char>(c);
+        } else if (!select_parameter_entity()) {
+            return false;
+        }
+    }
+    unget(c);
+    return true;
+}
+
+bool c_dtd_util::get_quoted_entity_value(std::string* out) {
+    const int quote = m_getter.get_non_ws();
+    if (quote != '"' && quote != '\'') return false;
+    out->clear();
+    c_stream_name_reader stream(m_getter);
+    const std::size_t depth = m_getter.get_entity_stack_depth();
+    for (int c = get(); c != -1; c = get()) {
+        // The same quote inside the text of a parameter entity is content.
+        if (c == quote && m_getter.get_entity_stack_depth() == depth) return true;
+        if (c == '%') {
+            if (!select_parameter_entity()) return false;
+        } else if (c == '&') {
+            const int next = get();
+            if (next == '#') {
+                if (!m_getter.insert_character_entity(stream, out)) return false;
+            } else if (next != -1) {
+                *out += '&';
+                *out += static_cast<char>(next);
+            }
+        } else {
+            *out += static_cast<char>(c);
+        }
+    }
+    return true;
+}
+
+void c_dtd_util::skip_declaration() {
+    int quote = 0;
+    for (int c = get(); c != -1; c = get()) {
+        if (quote != 0) {
+            if (c == quote) quote = 0;
+        } else if (c == '"' || c == '\'') {
+            quote = c;
+        } else if (c == '>') {
+            return;
+        }
+    }
+}
+
+void c_dtd_util::define_entity(bool is_parameter, const std::string& name, const std::string& value) {
+    (is_parameter ? m_getter.parameter_entities() : m_getter.general_entities()).add(name, value);
+}
+
+bool c_internal_dtd::read_doctype_decl() {
+    int c = get();
+    while (c != '[' && c != '>' && c != -1) c = get();
+    if (c != '[') return c == '>';
+    if (!read_subset()) return false;
+    c = getter().get_non_ws();
+    return c == '>' || refuse("DTD not Well Formed (expected '>', got ", c);
+}
+
+bool c_internal_dtd::refuse(const char* text, int c) {
+    std::string message = text;
+    if (c != -1) message += static_cast<char>(c);
+    getter().error(ELMX_TYPE_FATAL, ELMX_BAD_DTD, message + ")");
+    return false;
+}
+
+bool c_internal_dtd::read_subset() {
+    for (;;) {
+        const int c = getter().get_non_ws();
+        switch (c) {
+            case '<':
+                if (!read_markup()) return false;
+                break;
+            case '%':
+                if (!select_parameter_entity()) return false;
+                break;
+            case ']':
+                return true;
+            default:
+                return refuse("DTD not Well Formed (got ", c);
+        }
+    }
+}
+
+bool c_internal_dtd::read_markup() {
+    std::string keyword;
+    int c = get();
+    for (; c != -1 && c != '[' && c != '>' && !xisspace(c); c = get()) {
+        keyword += static_cast<char>(c);
+        if (keyword == "!--") return getter().skip_comment();
+    }
+    unget(c);
+    if (keyword == "!ENTITY") return read_entity_decl();
+    if (keyword.starts_with('?')) return getter().skip_PI();
+    skip_declaration();
+    return true;
+}
+
+bool c_internal_dtd::read_entity_decl() {
+    bool is_parameter = false;
+    std::string name;
+    std::string value;
+    const bool is_read = read_entity_definition(&is_parameter, &name, &value);
+    if (is_read) define_entity(is_parameter, name, value);
+    skip_declaration();
+    return is_read;
+}
+
+bool c_internal_dtd::read_entity_definition(bool* is_parameter, std::string* name, std::string* value) {
+    int c = getter().get_non_ws();
+    *is_parameter = c == '%';
+    if (!*is_parameter) unget(c);
+    if (!get_entity_value(name)) return false;
+    c = getter().get_non_ws();
+    unget(c);
+    if (c == '"' || c == '\'') return get_quoted_entity_value(value);
+    if (!get_entity_value(value)) return false;
+    // An external entity is never fetched; the word that announces it becomes its value.
+    if (*value == "SYSTEM" || *value == "PUBLIC") {
+        getter().error(ELMX_TYPE_WARNING, ELMX_EXTERNAL_ENTITY, "External Entity definitions not supported");
+    } else {
+        getter().error(ELMX_TYPE_ERROR, ELMX_UNEXPECTED_ENTITY, "Unexpected value in Entity definition: " + *value);
+    }
+    return true;
+}
+
+}  // namespace lmx

@@ -1,0 +1,64 @@
+// Copyright 2026 The Vyr Authors
+// SPDX-License-Identifier: Apache-2.0
+
+#include "lmx/reader/read.h"
+
+#include "lmx/values/unicode.h"
+
+namespace lmx {
+namespace {
+
+std::FILE* open_utf16(const char16_t* path) {
+#if defined(_WIN32)
+    return _wfopen(reinterpret_cast<const wchar_t*>(path), L"rb");
+#else
+    std::string system_path;
+    convert(&system_path, path);
+    return std::fopen(system_path.c_str(), "rb");
+#endif
+}
+
+}  // namespace
+
+c_read::~c_read() = default;
+
+void c_read::consume(std::size_t) {}
+
+c_read_file::c_read_file(const char* path) : m_name(path), m_file(std::fopen(path, "rb")) {}
+
+c_read_file::c_read_file(const char16_t* path) : m_file(open_utf16(path)) {
+    char utf8[5];
+    for (; *path != 0; ++path) m_name += unicode_char_to_utf8(*path, utf8);
+}
+
+c_read_file::~c_read_file() {
+    if (m_close_on_delete) close();
+}
+
+void c_read_file::close() {
+    if (m_file != nullptr) std::fclose(m_file);
+    m_file = nullptr;
+}
+
+bool c_read_file::refill() {
+    if (m_file == nullptr) return false;
+    m_buffer_index = 0;
+    m_buffer_count = std::fread(m_buffer, 1, sizeof m_buffer, m_file);
+    return m_buffer_count > 0;
+}
+
+int c_read_file::read() {
+    if (m_file == nullptr || (m_buffer_index == m_buffer_count && !refill())) return -1;
+    return static_cast<unsigned char>(m_buffer[m_buffer_index++]);
+}
+
+std::string_view c_read_file::window() {
+    if (m_file == nullptr || (m_buffer_index == m_buffer_count && !refill())) return {};
+    return {m_buffer + m_buffer_index, m_buffer_count - m_buffer_index};
+}
+
+void c_read_file::rewind() {
+    if (m_file != nullptr) std::fseek(m_file, 0, SEEK_SET);
+}
+
+}  // namespace lmx

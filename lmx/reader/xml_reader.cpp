@@ -1,0 +1,298 @@
+// Copyright 2026 The Vyr Authors
+// SPDX-License-Identifier: Apache-2.0
+
+#include "lmx/reader/xml_reader.h"
+
+#include <algorithm>
+#include <cstring>
+#include <memory>
+
+#include "lmx/values/characters.h"
+
+namespace lmx {
+
+const std::string k_namespace_not_found = " ";
+
+namespace {
+
+template <class Row>
+bool is_row_of(const Row& row, int ns_id, const std::string& name) {
+    return row.ns_id == ns_id && row.name[0] == name[0] && row.name_length == name.size() &&
+           std::memcmp(row.name, name.data(), name.size()) == 0;
+}
+
+int xsi_event(const std::string& local_name) {
+    if (local_name == "type") return ELXP_XSI_TYPE;
+    if (local_name == "nil") return ELXP_XSI_NIL;
+    if (local_name == "noNamespaceSchemaLocation") return ELXP_XSI_NO_NAMESPACE_SCHEMA_LOCATION;
+    if (local_name == "schemaLocation") return ELXP_XSI_SCHEMA_LOCATION;
+    return ELXP_UNKNOWN;
+}
+
+bool is_ncname(const std::string& name) {
+    const auto is_start = [](char c) { return xisalpha(c) || c == '_' || c == ':'; };
+    const auto is_part = [](char c) { return xisalnum(c) || c == '.' || c == '-' || c == '_'; };
+    return !name.empty() && is_start(name.front()) && std::all_of(name.begin() + 1, name.end(), is_part);
+}
+
+}  // namespace
+
+c_xml_reader_local::~c_xml_reader_local() {
+    if (m_reader != nullptr) m_reader->set_reader_local(m_saved_local);
+}
+
+void c_xml_reader_local::set_reader(c_xml_reader& reader) {
+    m_reader = &reader;
+    m_saved_local = reader.get_reader_local();
+    set_parent(m_saved_local);
+    reader.set_reader_local(this);
+}
+
+c_xml_reader::c_xml_reader(c_read& source) : c_xml(source, m_collector, true) { m_root_local.set_reader(*this); }
+
+c_xml_reader::~c_xml_reader() = default;
+
+elmx_error c_xml_reader::user_handle_error(elmx_error code, const std::string&, const char*, int) {
+    return user_handle_error(code);
+}
+
+elmx_error c_xml_reader::user_handle_error(elmx_error code) { return code; }
+
+std::string& c_xml_reader::get_error_message(std::string* out) const {
+    if (m_last_error == ELMX_OK) return *out = get_error_description(ELMX_OK);
+    return *out = "line:" + std::to_string(get_line_no()) + "-'" + m_error_item_name + "'-" +
+                  get_error_description(m_last_error);
+}
+
+elmx_error c_xml_reader::handle_error(elmx_error code, const std::string& item_name, const char* file, int line) {
+    m_last_error = code;
+    m_error_item_name = item_name;
+    m_last_error = user_handle_error(code, item_name, file, line);
+    return m_last_error;
+}
+
+void c_xml_reader::set_ns_map(const s_ns_map* map) {
+    for (; map->uri != nullptr; ++map) add_namespace(map->uri, map->ns_id);
+    for (const auto& [prefix, uri] : m_ns_mappings) m_root_local.add_namespace(prefix, add_namespace(uri.c_str()));
+}
+
+void c_xml_reader::tokenise(const s_event_map* map, elxp_attr_elem kind) {
+    int ns_id = m_cracked_name.get_ns_id();
+    if (!m_cracked_name.get_has_ns_prefix() && (kind == ELXP_ATTRIBUTE || ns_id == k_unbound_ns)) ns_id = k_no_ns;
+    const std::string& name = m_cracked_name.get_local_name();
+    if (ns_id == k_xsi_ns) {
+        m_current_event = xsi_event(name);
+        return;
+    }
+    while (map->name != nullptr && !is_row_of(*map, ns_id, name)) ++map;
+    m_current_event = map->name != nullptr ? map->token : ELXP_UNKNOWN;
+}
+
+/// The code of the current event: what the scanner last reported for an error, which is 0 if it made no report.
+elmx_error c_xml_reader::event_error() const {
+    if (is_error_event(m_current_event)) return m_collector.get_last_error();
+    return m_current_event == ELXP_END_OF_INPUT ? ELMX_UNEXPECTED_END_OF_MESSAGE : ELMX_OK;
+}
+
+void c_xml_reader::get_element_event(const s_event_map* map, elmx_error* error, std::string* name) {
+    // The scope serves one sibling after the other: declarations don't outlive their element.
+    m_local->clear();
+    m_current_event = get_element_name(m_local, name);
+    if (m_current_event == ELXP_NAME) {
+        m_cracked_name.set(m_local, *name);
+        if (map != nullptr) tokenise(map, ELXP_ELEMENT);
+    } else if (is_error_event(m_current_event) || m_current_event == ELXP_END_OF_INPUT) {
+        *error = event_error();
+    }
+}
+
+bool c_xml_reader::get_attribute_event(const s_event_map* map, elmx_error* error, std::string* name) {
+    m_current_event = get_attribute_name(name, false);
+    *error = event_error();
+    if (m_current_event == ELXP_NAME) {
+        m_cracked_name.set(m_local, *name);
+        if (map != nullptr) tokenise(map, ELXP_ATTRIBUTE);
+        return true;
+    }
+    return is_error_event(m_current_event) || m_current_event == ELXP_END_OF_INPUT;
+}
+
+void c_xml_reader::get_known_element_event(const s_event_map* map, elmx_error* error, std::string* name) {
+    for (;;) {
+        get_element_event(nullptr, error, name);
+        if (m_current_event != ELXP_NAME) return;
+        if (map != nullptr) {
+            tokenise(map, ELXP_ELEMENT);
+            if (m_current_event != ELXP_UNKNOWN) return;
+        }
+        const int ns_id = get_element_ns_id();
+        for (const s_known_elements* known = m_known_elements; known->name != nullptr; ++known) {
+            if (is_row_of(*known, ns_id, get_local_name())) return;
+        }
+        bool is_empty = false;
+        if (!move_to_start_tag_end(&is_empty) || (!is_empty && !skip_element_body(*name))) {
+            *error = ELMX_BADLY_FORMED;
+            return;
+        }
+    }
+}
+
+bool c_xml_reader::get_simple_type_value(const std::string& name, elmx_whitespace mode, std::string* value,
+                                         elmx_error* error, bool* is_empty) {
+    value->clear();
+    if (!move_to_start_tag_end(is_empty)) {
+        *error = ELMX_BAD_START_TAG_END;
+    } else if (*is_empty) {
+        return true;
+    } else if (!get_element_value(value, mode, true)) {
+        *error = ELMX_UNABLE_TO_READ_ELEMENT_VALUE;
+    } else if (!is_element_end_tag(name)) {
+        *error = ELMX_BAD_END_OF_ELEMENT;
+    } else {
+        return true;
+    }
+    return false;
+}
+
+bool c_xml_reader::get_element_ur_value(const std::string& name, std::string* value, elmx_error* error,
+                                        bool* is_empty) {
+    value->clear();
+    std::string end_name;
+    if (!move_to_start_tag_end(is_empty)) {
+        *error = ELMX_BAD_START_TAG_END;
+    } else if (*is_empty) {
+        return true;
+    } else if (!get_nested_element_value(value, &end_name, ELMX_WS_PRESERVE, true)) {
+        *error = ELMX_UNABLE_TO_READ_ELEMENT_VALUE;
+    } else if (end_name != name) {
+        *error = ELMX_BAD_END_OF_ELEMENT;
+    } else {
+        return true;
+    }
+    return false;
+}
+
+bool c_xml_reader::get_nested_element_value(std::string* value, std::string* end_name, elmx_whitespace mode,
+                                            bool expand_entities) {
+    if (!c_xml::get_nested_element_value(value, end_name, mode, expand_entities)) return false;
+    m_current_event = ELXP_END_TAG;
+    return true;
+}
+
+bool c_xml_reader::is_valid_qname(const std::string& qname) const {
+    c_cracked_name name;
+    name.set(m_local, qname);
+    if (name.get_ns_id() == k_unbound_ns) return false;
+    return (!name.get_has_ns_prefix() || is_ncname(name.get_ns_prefix())) && is_ncname(name.get_local_name());
+}
+
+std::string& c_xml_reader::get_namespace(const std::string& qname, std::string* out) const {
+    const int ns_id = c_xml::get_ns_id(m_local, qname);
+    if (ns_id == k_no_ns) return *out = std::string();
+    const char* const uri = ns_id == k_unbound_ns ? nullptr : find_namespace_from_id(ns_id);
+    return *out = uri == nullptr ? k_namespace_not_found : uri;
+}
+
+bool c_xml_list_tokeniser::get(std::string* item) {
+    while (m_position < m_text.size() && xisspace(m_text[m_position])) ++m_position;
+    const std::size_t start = m_position;
+    while (m_position < m_text.size() && !xisspace(m_text[m_position])) ++m_position;
+    item->assign(m_text, start, m_position - start);
+    return m_position > start;
+}
+
+bool get_instance_namespace(c_xml_reader& reader, std::string* ns) {
+    const c_xml_reader_local scope(reader);
+    elmx_error error = ELMX_OK;
+    reader.get_element_event(nullptr, &error, &reader.m_name);
+    const bool is_found = reader.get_current_event() == ELXP_NAME;
+    if (is_found) reader.get_namespace(reader.m_name, ns);
+    reader.rewind();
+    return is_found && *ns != k_namespace_not_found;
+}
+
+namespace {
+
+/// Looks at the attributes of the start tag at hand and moves to its end. 1 if that fails.
+elmx_must_understand evaluate_start_tag(c_xml_reader& reader, const std::string& uri, const std::string& local_name,
+                                        elmx_must_understand (*evaluate)(const std::string&)) {
+    elmx_error error = ELMX_OK;
+    while (reader.get_attribute_event(nullptr, &error, &reader.m_attr_name)) {
+        if (error != ELMX_OK || reader.get_current_event() != ELXP_NAME) return ELMX_MUST_UNDERSTAND_UNKNOWN;
+        // The document may only just have declared the namespace.
+        const int ns_id = uri.empty() ? static_cast<int>(k_no_ns) : reader.find_enumerated_namespace(uri);
+        const int found_id = reader.get_has_ns_prefix() ? reader.get_ns_id() : static_cast<int>(k_no_ns);
+        if (ns_id == k_unbound_ns || found_id != ns_id || reader.get_local_name() != local_name) {
+            reader.skip_attribute_value();
+            continue;
+        }
+        if (!reader.get_attribute_value(&reader.m_value, ELMX_WS_COLLAPSE)) return ELMX_MUST_UNDERSTAND_UNKNOWN;
+        const elmx_must_understand answer = evaluate(reader.m_value);
+        if (answer != ELMX_MUST_UNDERSTAND_NO) return answer;
+    }
+    return ELMX_MUST_UNDERSTAND_NO;
+}
+
+elmx_must_understand search_element(c_xml_reader& reader, const std::string& uri, const std::string& local_name,
+                                    elmx_must_understand (*evaluate)(const std::string&)) {
+    /// Open elements that declare namespaces; the others need no scope.
+    struct s_scope {
+        std::size_t depth;
+        std::unique_ptr<c_xml_reader_local> local;
+    };
+    std::vector<s_scope> scopes;
+    c_string_stack names;
+    std::vector<std::size_t> open;
+    auto current = std::make_unique<c_xml_reader_local>(reader);
+    for (bool is_first = true;; is_first = false) {
+        if (!is_first) {
+            elmx_error error = ELMX_OK;
+            reader.get_element_event(nullptr, &error, &reader.m_name);
+            if (error != ELMX_OK) return ELMX_MUST_UNDERSTAND_UNKNOWN;
+        }
+        const int event = reader.get_current_event();
+        if (event == ELXP_TEXT) continue;
+        bool is_closed = event == ELXP_END_TAG;
+        if (is_closed) {
+            if (reader.m_name != names.get_str(open.back())) return ELMX_MUST_UNDERSTAND_UNKNOWN;
+            names.cut(open.back());
+            open.pop_back();
+            current.reset();
+            while (!scopes.empty() && scopes.back().depth > open.size()) scopes.pop_back();
+            current = std::make_unique<c_xml_reader_local>(reader);
+        } else {
+            if (event != ELXP_NAME) return ELMX_MUST_UNDERSTAND_UNKNOWN;
+            const elmx_must_understand answer = evaluate_start_tag(reader, uri, local_name, evaluate);
+            if (answer != ELMX_MUST_UNDERSTAND_NO) return answer;
+            is_closed = reader.get_current_event() == ELXP_END_TAG;
+            if (!is_closed) {
+                open.push_back(names.get_stack_size());
+                names.push(reader.m_name);
+                // What the first element declares stands in the caller's scope already.
+                if (!is_first && current->has_bindings()) {
+                    scopes.push_back({open.size(), std::move(current)});
+                    current = std::make_unique<c_xml_reader_local>(reader);
+                }
+            }
+        }
+        if (is_closed && open.empty()) return ELMX_MUST_UNDERSTAND_NO;
+    }
+}
+
+}  // namespace
+
+elmx_must_understand has_must_understand(c_xml_reader& reader, const std::string& uri, const std::string& local_name,
+                                         elmx_must_understand (*evaluate)(const std::string&)) {
+    elmx_must_understand answer = ELMX_MUST_UNDERSTAND_UNKNOWN;
+    {
+        const c_xml_reader_local scope(reader);
+        elmx_error error = ELMX_OK;
+        reader.get_element_event(nullptr, &error, &reader.m_name);
+        if (reader.get_current_event() != ELXP_NAME) return answer;
+        answer = search_element(reader, uri, local_name, evaluate);
+    }
+    reader.rewind();
+    return answer;
+}
+
+}  // namespace lmx

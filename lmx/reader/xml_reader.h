@@ -1,0 +1,222 @@
+// Copyright 2026 The Vyr Authors
+// SPDX-License-Identifier: Apache-2.0
+
+/// The pull reader that schema-bound classes drive: numbered events, namespace scopes, the current name, and the
+/// policy for errors.
+
+#pragma once
+
+#include <cstddef>
+#include <cstdio>
+#include <string>
+#include <utility>
+#include <vector>
+
+#include "lmx/error.h"
+#include "lmx/export.h"
+#include "lmx/ns_map.h"
+#include "lmx/reader/cracked_name.h"
+#include "lmx/reader/event_map.h"
+#include "lmx/reader/string_stack.h"
+#include "lmx/reader/xml.h"
+
+namespace lmx {
+
+class c_xml_reader;
+
+/// What `c_xml_reader::get_namespace` gives for an unbound prefix: a blank, which no URI is.
+VYR_EXPORT extern const std::string k_namespace_not_found;
+
+/// A scope that is the reader's current one for as long as it lives.
+class VYR_EXPORT c_xml_reader_local : public c_xml_local {
+public:
+    c_xml_reader_local() = default;
+    explicit c_xml_reader_local(c_xml_reader& reader) { set_reader(reader); }
+    ~c_xml_reader_local();
+    void set_reader(c_xml_reader& reader);
+
+private:
+    c_xml_local* m_saved_local = nullptr;
+    c_xml_reader* m_reader = nullptr;
+};
+
+namespace detail {
+
+/// Holds the collector of reports ahead of the scanner, which registers with it when it is built.
+struct s_error_holder {
+    c_error m_collector;
+};
+
+}  // namespace detail
+
+/// Serves one document. Belongs to one thread at a time.
+class VYR_EXPORT c_xml_reader : private detail::s_error_holder, public c_xml {
+public:
+    /// The source is borrowed, and first used when something is read.
+    explicit c_xml_reader(c_read& source);
+    virtual ~c_xml_reader();
+
+    /// Decides what becomes of a failure: `ELMX_OK` swallows it and reading goes on, any other code ends the read
+    /// with that code. The default keeps the code. `item_name` is the element or attribute, `file` and `line` the
+    /// place of the check in the library's source.
+    virtual elmx_error user_handle_error(elmx_error code, const std::string& item_name, const char* file, int line);
+    virtual elmx_error user_handle_error(elmx_error code);
+    /// Line, item and text of the last failure, such as "line:12-'Vyr:Color'-Mandatory element missing", or
+    /// "No Error". Returns `*out`.
+    virtual std::string& get_error_message(std::string* out) const;
+
+    /// Records a failure and asks the handler.
+    elmx_error handle_error(elmx_error code, const std::string& item_name, const char* file, int line);
+    elmx_error get_error() const { return m_last_error; }
+    const std::string& get_error_item_name() const { return m_error_item_name; }
+    /// The scanner's last report; false while there has been none.
+    bool get_error_info(elmx_error_type* type, elmx_error* code, int* line) const {
+        return m_collector.get_error_info(type, code, line);
+    }
+    /// The current line, from 1.
+    int get_line_no() const { return get_line_num(); }
+
+    /// Gives the table's numbers to its URIs, and binds the mappings asked for.
+    void set_ns_map(const s_ns_map* map);
+    /// Asks for a prefix to be bound in the outermost scope by the next `set_ns_map`.
+    void add_namespace_mapping(const std::string& prefix, const std::string& uri) {
+        m_ns_mappings.emplace_back(prefix, uri);
+    }
+    void add_default_namespace_mapping(const std::string& uri) { add_namespace_mapping(std::string(), uri); }
+
+    /// Sets the event from the current name: the token of the row that matches, or `ELXP_UNKNOWN`.
+    void tokenise(const s_event_map* map, elxp_attr_elem kind);
+    /// The next event between tags; a name is tokenised if `map` isn't null. `*error` is set on failure only.
+    void get_element_event(const s_event_map* map, elmx_error* error, std::string* name);
+    /// The next attribute; false at the end of the start tag. `*error` is 0 or the failure.
+    bool get_attribute_event(const s_event_map* map, elmx_error* error, std::string* name);
+    /// As `get_element_event`, skipping elements that neither `map` nor the known elements name.
+    void get_known_element_event(const s_event_map* map, elmx_error* error, std::string* name);
+    /// The value of a simple element, through its end tag.
+    bool get_simple_type_value(const std::string& name, elmx_whitespace mode, std::string* value, elmx_error* error,
+                               bool* is_empty);
+    /// Any content as text, through the end tag.
+    bool get_element_ur_value(const std::string& name, std::string* value, elmx_error* error, bool* is_empty);
+    bool get_nested_element_value(std::string* value, std::string* end_name, elmx_whitespace mode, bool);
+
+    using c_xml::get_named_attribute;
+    using c_xml::get_xsi_type;
+    using c_xml::is_xsi_attribute;
+    bool get_xsi_type(int* ns_id, std::string* type_name) { return c_xml::get_xsi_type(m_local, ns_id, type_name); }
+    bool get_named_attribute(int ns_id, const std::string& local_name, std::string* value) {
+        return c_xml::get_named_attribute(m_local, ns_id, local_name, value);
+    }
+    bool is_xsi_attribute(const std::string& name) const { return c_xml::is_xsi_attribute(m_local, name); }
+    /// Whether a name is a qualified name in the current scope. Only ASCII letters count.
+    bool is_valid_qname(const std::string& qname) const;
+    /// The URI of a name's prefix; empty for no namespace, `k_namespace_not_found` for an unbound prefix.
+    std::string& get_namespace(const std::string& qname, std::string* out) const;
+
+    int get_current_event() const { return m_current_event; }
+    void restore_event(int event) { m_current_event = event; }
+    bool is_current_event_tokenisable() const {
+        return m_current_event == ELXP_NAME || m_current_event == ELXP_UNKNOWN || m_current_event >= k_first_token;
+    }
+
+    using c_xml::get_local_name;
+    using c_xml::get_ns_id;
+    const std::string& get_full_name() const { return m_cracked_name.get_full_name(); }
+    const std::string& get_local_name() const { return m_cracked_name.get_local_name(); }
+    bool get_has_ns_prefix() const { return m_cracked_name.get_has_ns_prefix(); }
+    int get_ns_id() const { return m_cracked_name.get_ns_id(); }
+    int get_element_ns_id() const { return m_cracked_name.get_element_ns_id(); }
+
+    c_string_stack& get_element_name_stack() { return m_element_name_stack; }
+    c_xml_local* get_reader_local() const { return m_local; }
+    void set_reader_local(c_xml_local* local) { m_local = local; }
+    const s_known_elements* get_known_elements() const { return m_known_elements; }
+    void set_known_elements(const s_known_elements* known) { m_known_elements = known; }
+
+private:
+    elmx_error event_error() const;
+
+    c_xml_local* m_local = nullptr;
+    c_xml_reader_local m_root_local;
+    elmx_error m_last_error = ELMX_OK;
+    std::string m_error_item_name;
+    c_string_stack m_element_name_stack;
+    c_cracked_name m_cracked_name;
+    int m_current_event = ELXP_END_OF_INPUT;
+    std::vector<std::pair<std::string, std::string>> m_ns_mappings;  ///< prefix, uri
+    const s_known_elements* m_known_elements = nullptr;
+
+public:
+    // Work strings of whoever reads: the element's name, a value's text, the attribute's name.
+    std::string m_name;
+    std::string m_value;
+    std::string m_attr_name;
+};
+
+/// A reader on a file.
+class VYR_EXPORT c_xml_reader_file : public c_xml_reader {
+public:
+    /// Named in UTF-8.
+    explicit c_xml_reader_file(const char* path) : c_xml_reader(m_source), m_source(path) {}
+    explicit c_xml_reader_file(const char16_t* path) : c_xml_reader(m_source), m_source(path) {}
+    /// Takes the open file and closes it.
+    explicit c_xml_reader_file(std::FILE* file) : c_xml_reader(m_source), m_source(file) {}
+
+    bool is_open() const { return m_source.is_open(); }
+
+private:
+    c_read_file m_source;
+};
+
+/// A reader on bytes in memory, borrowed.
+class VYR_EXPORT c_xml_reader_memory : public c_xml_reader {
+public:
+    c_xml_reader_memory(const char* data, std::size_t length) : c_xml_reader(m_source), m_source(data, length) {}
+
+    bool is_open() const { return m_source.is_open(); }
+
+private:
+    c_read_memory m_source;
+};
+
+/// Sets the elements that `get_known_element_event` doesn't skip, for as long as it lives.
+class c_known_elements_selector {
+public:
+    c_known_elements_selector(c_xml_reader& reader, const s_known_elements* known)
+        : m_reader(reader), m_saved(reader.get_known_elements()) {
+        reader.set_known_elements(known);
+    }
+    c_known_elements_selector(const c_known_elements_selector&) = delete;
+    c_known_elements_selector& operator=(const c_known_elements_selector&) = delete;
+    ~c_known_elements_selector() { m_reader.set_known_elements(m_saved); }
+
+private:
+    c_xml_reader& m_reader;
+    const s_known_elements* m_saved;
+};
+
+/// Splits a list value at white space.
+class VYR_EXPORT c_xml_list_tokeniser {
+public:
+    explicit c_xml_list_tokeniser(const std::string& text) { set(text); }
+    void set(const std::string& text) {
+        m_text = text;
+        m_position = 0;
+    }
+    /// False when nothing is left.
+    bool get(std::string* item);
+
+private:
+    std::string m_text;
+    std::size_t m_position = 0;
+};
+
+/// The namespace of the document element. False if there is none or its prefix isn't bound. Rewinds.
+VYR_EXPORT bool get_instance_namespace(c_xml_reader& reader, std::string* ns);
+
+/// Looks through a whole document for attributes of that name and hands their values to `evaluate`: the first
+/// answer other than 0, 1 if the document can't be read, 0 if nothing was found. Rewinds.
+VYR_EXPORT elmx_must_understand has_must_understand(c_xml_reader& reader, const std::string& uri,
+                                                    const std::string& local_name,
+                                                    elmx_must_understand (*evaluate)(const std::string&));
+
+}  // namespace lmx
