@@ -3,6 +3,15 @@
 find_package(GTest REQUIRED)
 include(GoogleTest)
 
+# Number texts must not depend on the machine's locale. A bare machine has none with a decimal comma, so one is made
+# from the system's sources; without those the tests say that they skip it.
+find_program(VYR_LOCALEDEF localedef)
+set(vyr_locales ${PROJECT_BINARY_DIR}/locales)
+if(VYR_LOCALEDEF AND EXISTS /usr/share/i18n/locales/de_DE AND NOT EXISTS ${vyr_locales}/de_DE.UTF-8)
+  file(MAKE_DIRECTORY ${vyr_locales})
+  execute_process(COMMAND ${VYR_LOCALEDEF} -i de_DE -f UTF-8 ${vyr_locales}/de_DE.UTF-8 OUTPUT_QUIET)
+endif()
+
 # vyr_add_test(NAME <executable> SOURCES <file>... [LIBRARIES <target>...])
 #
 # Documents that a test reads lie in tests/documents/; the test finds them through VYR_TEST_DOCUMENTS, an absolute path
@@ -19,5 +28,5 @@ function(vyr_add_test)
   file(MAKE_DIRECTORY ${scratch})
   # The cases are listed when ctest starts, so that a build does not run what it has just built.
   gtest_discover_tests(${arg_NAME} WORKING_DIRECTORY ${scratch} DISCOVERY_MODE PRE_TEST DISCOVERY_TIMEOUT 60
-                                   PROPERTIES TIMEOUT 300)
+                                   PROPERTIES TIMEOUT 300 ENVIRONMENT "LOCPATH=${vyr_locales}")
 endfunction()

@@ -31,7 +31,7 @@ template <class Value, const Value& (sg_ColorSpace::*Get)() const, auto... Chann
 std::string channels(const sg_ColorSpace& space) {
     const Value& value = (space.*Get)();
     std::string text;
-    ((text += (text.empty() ? "" : " ") + short_number((value.*Channel)())), ...);
+    ((text.append(text.empty() ? "" : " ").append(short_number((value.*Channel)()))), ...);
     return text;
 }
 
@@ -186,7 +186,8 @@ std::string values_of(const ColorType& color) {
         const auto chosen = static_cast<std::size_t>(space.getchosen());
         if (chosen >= k_space_count) continue;
         const std::string value = k_spaces[chosen].value(space);
-        text += (text.empty() ? "" : "; ") + std::string(k_spaces[chosen].name) + (value.empty() ? "" : " ") + value;
+        text.append(text.empty() ? "" : "; ").append(k_spaces[chosen].name);
+        if (!value.empty()) text.append(" ").append(value);
     }
     return text;
 }
