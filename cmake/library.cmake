@@ -9,3 +9,7 @@ target_include_directories(vyr PUBLIC $<BUILD_INTERFACE:${PROJECT_SOURCE_DIR}>
 target_compile_features(vyr PUBLIC cxx_std_20)
 target_compile_definitions(vyr PRIVATE VYR_BUILDING)
 target_link_libraries(vyr PRIVATE LibXml2::LibXml2 $<BUILD_INTERFACE:vyr_warnings>)
+
+# Calls inside the library are to its own functions: none goes through the loader's table, and all may be inlined.
+target_compile_options(vyr PRIVATE $<$<CXX_COMPILER_ID:GNU,Clang>:-fno-semantic-interposition>)
+target_link_options(vyr PRIVATE $<$<PLATFORM_ID:Linux>:LINKER:-Bsymbolic-functions>)

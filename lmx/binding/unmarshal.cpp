@@ -40,7 +40,8 @@ const s_item* find_token(std::span<const s_item> items, int token) {
 
 // Values: the text to check and store is always the reader's value work string.
 
-bool is_lexically_valid(value_kind kind, const std::string& text) {
+/// `*has_zone` is set for a valid dateTime that names a time zone.
+bool is_lexically_valid(value_kind kind, const std::string& text, bool* has_zone) {
     switch (kind) {
         case value_kind::boolean:
             return is_valid_bool(text);
@@ -51,7 +52,7 @@ bool is_lexically_valid(value_kind kind, const std::string& text) {
         case value_kind::uint8:
             return is_valid_integer(text);
         case value_kind::datetime:
-            return c_datetime::is_valid(text);
+            return c_datetime::is_valid(text, has_zone);
         case value_kind::binary:
             return c_binary::is_valid_base64(text);
         case value_kind::text:
@@ -64,12 +65,14 @@ bool is_lexically_valid(value_kind kind, const std::string& text) {
 /// The checks that look at the text, in the order in which they report.
 bool check_text(c_xml_reader& reader, const s_item& item, const std::string& item_name, elmx_error* error) {
     const std::string& text = reader.m_value;
-    const bool is_valid = is_lexically_valid(item.value, text);
+    bool has_zone = false;
+    const bool is_valid = is_lexically_valid(item.value, text, &has_zone);
     if (!is_valid && !goes_on(reader, ELMX_VALUE_BAD_FORMAT, item_name, error, __LINE__)) return false;
     if (item.facets == nullptr) return true;
     const s_facets& facets = *item.facets;
     // The pattern engine is quadratic on some texts; one that failed the check above is none of its business.
-    if (facets.pattern != nullptr && is_valid && !facets.pattern->is_match(text) &&
+    const bool is_matched = !is_valid || facets.pattern == nullptr || (has_zone && facets.pattern_takes_zoned);
+    if (!is_matched && !facets.pattern->is_match(text) &&
         !goes_on(reader, ELMX_NO_PATTERN_MATCHED, item_name, error, __LINE__)) {
         return false;
     }
@@ -306,12 +309,6 @@ const s_class& content_owner(const s_class& type) {
     return type.elements.empty() && type.base != nullptr ? content_owner(*type.base) : type;
 }
 
-bool has_required_attributes(const s_class& type) {
-    return std::any_of(type.attributes.begin(), type.attributes.end(),
-                       [](const s_item& item) { return (item.use & use_demanded) != 0; }) ||
-           (type.base != nullptr && has_required_attributes(*type.base));
-}
-
 elmx_error read_attributes(const s_class& type, void* object, c_xml_reader& reader, const std::string& name) {
     elmx_error error = ELMX_OK;
     while (reader.get_attribute_event(nullptr, &error, &reader.m_attr_name)) {
@@ -328,7 +325,7 @@ elmx_error read_attributes(const s_class& type, void* object, c_xml_reader& read
         }
         reader.skip_attribute_value();
     }
-    return has_required_attributes(type) ? check_required_attributes(type, object, reader) : ELMX_OK;
+    return check_required_attributes(type, object, reader);
 }
 
 /// The element must end here, under the name it began with.

@@ -63,17 +63,37 @@ bool c_get_as_utf8::at_end_of_input() const {
 }
 
 void c_get_as_utf8::rewind() {
-    m_encoding = enc_unknown;
+    set_form(enc_unknown);
     m_last_char = 0;
     m_unget.clear();
     m_utf8_char[0] = 0;
     m_pending = nullptr;
     m_line_num = 1;
     m_is_source_at_end = false;
+    // A source may serve what is left of its buffer first: it must know what that is.
+    const std::uint64_t bytes_read = get_bytes_read();
+    if (bytes_read != m_bytes_taken) m_reader.give_back(static_cast<std::size_t>(m_bytes_taken - bytes_read));
+    m_bytes_taken = bytes_read;
+    m_begin = m_current = m_end = m_furthest = nullptr;
     m_reader.rewind();
 }
 
-int c_get_as_utf8::get() {
+void c_get_as_utf8::set_form(int form) {
+    m_encoding = form;
+    m_is_plain = form == enc_utf8 || form == enc_single_byte;
+}
+
+void c_get_as_utf8::unget(int c) {
+    // The last character read can stay in the window, unless giving it back counts a line anew.
+    if (c >= ' ' && c < 127 && is_fast() && m_current != m_begin && m_current[-1] == c) {
+        if (m_furthest < m_current) m_furthest = m_current;
+        --m_current;
+        return;
+    }
+    m_unget.unget(c);
+}
+
+int c_get_as_utf8::get_slowly() {
     int c = raw_step();
     if (c == '\n' && m_last_char == '\r') c = raw_step();
     m_last_char = c;
@@ -85,13 +105,30 @@ int c_get_as_utf8::get() {
     return c;
 }
 
+std::uint64_t c_get_as_utf8::get_bytes_read() const {
+    return m_bytes_taken - static_cast<std::uint64_t>(m_end - (m_furthest > m_current ? m_furthest : m_current));
+}
+
 int c_get_as_utf8::read_byte() {
+    return m_current < m_end ? static_cast<unsigned char>(*m_current++) : read_byte_slowly();
+}
+
+int c_get_as_utf8::read_byte_slowly() {
+    const std::string_view window = m_reader.take_window();
+    m_furthest = nullptr;
+    if (!window.empty()) {
+        m_begin = m_current = window.data();
+        m_end = m_current + window.size();
+        m_bytes_taken += window.size();
+        return static_cast<unsigned char>(*m_current++);
+    }
+    m_begin = m_current = m_end = nullptr;
     const int byte = m_reader.read();
     if (byte < 0) {
         m_is_source_at_end = true;
         return -1;
     }
-    ++m_bytes_read;
+    ++m_bytes_taken;
     return byte;
 }
 
@@ -147,7 +184,6 @@ int c_get_as_utf8::decode_utf8(int lead) {
     }
     if (is_void || !is_valid_utf8_char_sequence(m_utf8_char)) {
         m_utf8_char[0] = 0;
-        m_utf8_char[1] = 0;
         return -1;
     }
     m_pending = m_utf8_char[0] != 0 && m_utf8_char[1] != 0 ? m_utf8_char + 1 : nullptr;
@@ -183,22 +219,22 @@ int c_get_as_utf8::detect_encoding(int first) {
         const int low = read_byte();
         const int high = read_byte();
         if (is_within(low, 1, 127) && high == 0) {
-            m_encoding = enc_utf16_le;
+            set_form(enc_utf16_le);
             return low;
         }
     } else if (first == 0xFE && read_byte() == 0xFF) {
         const int high = read_byte();
         const int low = read_byte();
         if (high == 0 && is_within(low, 1, 127)) {
-            m_encoding = enc_utf16_be;
+            set_form(enc_utf16_be);
             return low;
         }
     } else if (first == 0xEF && read_byte() == 0xBB && read_byte() == 0xBF) {
-        m_encoding = enc_utf8;
+        set_form(enc_utf8);
         return read_byte();
     } else if (is_start(first)) {
         const int second = read_byte();
-        m_encoding = second == 0 ? enc_utf16_le : enc_utf8;
+        set_form(second == 0 ? enc_utf16_le : enc_utf8);
         if (second > 0) {
             decode_utf8(second);
             m_pending = m_utf8_char;
@@ -207,7 +243,7 @@ int c_get_as_utf8::detect_encoding(int first) {
     } else if (first == 0) {
         const int second = read_byte();
         if (is_start(second)) {
-            m_encoding = enc_utf16_be;
+            set_form(enc_utf16_be);
             return second;
         }
     }
@@ -219,10 +255,10 @@ bool c_get_as_utf8::set_encoding(const char* name) {
     bool is_accepted = false;
     if (equals_ignoring_case(name, "ISO-10646-UCS-2")) {
         is_accepted = is_utf16;
-        if (is_utf16) m_encoding = m_encoding == enc_utf16_be ? enc_ucs2_be : enc_ucs2_le;
+        if (is_utf16) set_form(m_encoding == enc_utf16_be ? enc_ucs2_be : enc_ucs2_le);
     } else if (equals_ignoring_case(name, "ISO-8859-1") || equals_ignoring_case(name, "US-ASCII")) {
         is_accepted = m_encoding == enc_utf8;
-        m_encoding = enc_single_byte;
+        set_form(enc_single_byte);
     } else if (equals_ignoring_case(name, "UTF-8")) {
         is_accepted = m_encoding == enc_utf8;
     } else if (equals_ignoring_case(name, "UTF-16")) {
@@ -258,23 +294,15 @@ std::size_t c_get_as_utf8::run_length(std::string_view bytes, const byte_set& st
 }
 
 void c_get_as_utf8::take_run(const byte_set& stops, std::string* out) {
-    const bool is_plain = m_encoding == enc_utf8 || m_encoding == enc_single_byte;
-    if (!is_plain || m_last_char == '\r' || !m_unget.empty() || m_pending != nullptr || m_error.is_fatal_errored()) {
-        return;
-    }
-    for (;;) {
-        const std::string_view window = m_reader.window();
-        const std::size_t length = run_length(window, stops);
-        if (length == 0) return;
-        const std::string_view run = window.substr(0, length);
-        if (out != nullptr) out->append(run);
-        m_line_num += static_cast<int>(std::count(run.begin(), run.end(), '\n'));
-        m_last_char = static_cast<unsigned char>(run.back());
-        m_bytes_read += length;
-        const bool is_all = length == window.size();
-        m_reader.consume(length);
-        if (!is_all) return;
-    }
+    if (!is_fast() || m_last_char == '\r') return;
+    const std::string_view window(m_current, static_cast<std::size_t>(m_end - m_current));
+    const std::size_t length = run_length(window, stops);
+    if (length == 0) return;
+    const std::string_view run = window.substr(0, length);
+    if (out != nullptr) out->append(run);
+    if (!stops['\n']) m_line_num += static_cast<int>(std::count(run.begin(), run.end(), '\n'));
+    m_last_char = static_cast<unsigned char>(run.back());
+    m_current += length;
 }
 
 }  // namespace lmx

@@ -9,6 +9,7 @@
 #include <cstddef>
 #include <cstdint>
 #include <string>
+#include <string_view>
 
 #include "lmx/error.h"
 #include "lmx/export.h"
@@ -44,7 +45,8 @@ enum encoding : int {
 
 class VYR_EXPORT c_get_as_utf8 {
 public:
-    /// Neither is owned. Registers itself in `error` for its lifetime.
+    /// Neither is owned. A source that hands out windows is read ahead of what `get` has delivered: it belongs to
+    /// this object until that is gone or rewound. Registers itself in `error` for its lifetime.
     c_get_as_utf8(c_read& reader, c_error& error);
     c_get_as_utf8(const c_get_as_utf8&) = delete;
     c_get_as_utf8& operator=(const c_get_as_utf8&) = delete;
@@ -52,8 +54,19 @@ public:
 
     /// The next byte of the document as UTF-8, 0 to 255, with line feeds as line ends; -1 at the end of input,
     /// after a fatal report and for an illegal UTF-8 sequence.
-    int get();
-    void unget(int c) { m_unget.unget(c); }
+    int get() {
+        // Anything from a blank up to 127 stands for itself and is no line end.
+        if (is_fast() && m_current < m_end) {
+            const int byte = static_cast<unsigned char>(*m_current);
+            if (byte >= ' ' && byte < 128) {
+                m_last_char = byte;
+                ++m_current;
+                return byte;
+            }
+        }
+        return get_slowly();
+    }
+    void unget(int c);
     void rewind();
     /// Takes the encoding's name from the XML declaration. False, with a fatal report, for an unknown name or one
     /// that contradicts the bytes.
@@ -70,15 +83,46 @@ public:
     bool at_end_of_input() const;
 
 protected:
-    /// Takes the run of characters ahead that `get` would deliver one by one, up to one in `stops`; appends it to
-    /// `out` unless that is null. Takes what it can see in a row, which may be nothing: callers go on with `get`.
-    void take_run(const byte_set& stops, std::string* out);
+    // Short cuts through the window. Each does what calls of `get` and `unget` would do, or nothing, when the state
+    // or the window's end doesn't let it see enough: callers go on with `get`.
 
-    /// Bytes taken from the source so far.
-    std::uint64_t get_bytes_read() const { return m_bytes_read; }
+    /// Takes the run of characters ahead, up to one in `stops`; appends it to `out` unless that is null.
+    void take_run(const byte_set& stops, std::string* out);
+    /// Whether the text, which holds no line end, lies ahead; false also when that can't be seen.
+    bool is_ahead(std::string_view text) const {
+        return is_fast() && static_cast<std::size_t>(m_end - m_current) >= text.size() &&
+               text == std::string_view(m_current, text.size());
+    }
+    /// Takes the text if it lies ahead.
+    bool take_if_ahead(std::string_view text) {
+        if (!is_ahead(text)) return false;
+        m_current += text.size();
+        m_last_char = m_current[-1];
+        return true;
+    }
+    /// The same with a text in three parts.
+    bool take_if_ahead(std::string_view head, std::string_view body, std::string_view tail) {
+        const std::size_t size = head.size() + body.size() + tail.size();
+        if (!is_ahead(head) || static_cast<std::size_t>(m_end - m_current) < size) return false;
+        const std::string_view rest(m_current + head.size(), size - head.size());
+        if (!rest.starts_with(body) || !rest.ends_with(tail)) return false;
+        m_current += size;
+        m_last_char = m_current[-1];
+        return true;
+    }
+
+    /// Bytes taken from the source so far, those given back included.
+    std::uint64_t get_bytes_read() const;
 
 private:
+    /// Whether the next character comes from the window, byte by byte as it stands there if it is ASCII.
+    bool is_fast() const { return m_is_plain && m_unget.empty() && m_pending == nullptr && !is_shut(); }
+    bool is_shut() const { return m_error.is_fatal_errored(); }
+    void set_form(int form);
+
+    int get_slowly();
     int read_byte();
+    int read_byte_slowly();
     int raw_step();
     int detect_encoding(int first);
     int refuse_encoding();
@@ -97,7 +141,12 @@ private:
     char m_utf8_char[8] = {};
     const char* m_pending = nullptr;
     int m_line_num = 1;
-    std::uint64_t m_bytes_read = 0;
+    const char* m_begin = nullptr;     ///< the window in use
+    const char* m_current = nullptr;   ///< its unread part
+    const char* m_end = nullptr;       ///< its end
+    const char* m_furthest = nullptr;  ///< the furthest place read in the window, when behind `m_current`
+    std::uint64_t m_bytes_taken = 0;   ///< handed out by the source, the window's unread part included
+    bool m_is_plain = false;           ///< one byte per ASCII character
     bool m_is_source_at_end = false;
 };
 

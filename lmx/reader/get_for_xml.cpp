@@ -69,10 +69,11 @@ void c_get_for_xml::take_plain_text(std::string* out) {
     }
 }
 
-int c_get_for_xml::get_non_ws() {
-    take_run(k_stops_of_blanks, nullptr);
-    int c = get();
-    while (xisspace(c)) c = get();
+int c_get_for_xml::get_non_ws_behind(int c) {
+    while (xisspace(c)) {
+        take_run(k_stops_of_blanks, nullptr);
+        c = get();
+    }
     return c;
 }
 
@@ -114,12 +115,16 @@ bool c_get_for_xml::read_xml_decl() {
         c = get_non_ws();
     }
     if (c == 's') {
-        if (!read_decl_value("tandalone", &value)) return false;
-        if (value == "no") {
-            error(ELMX_TYPE_ERROR, ELMX_BAD_XML_DECL, "XML Document is not standalone");
-            return false;
-        }
+        if (!read_specified_string_from_input("tandalone")) return false;
         c = get_non_ws();
+        if (c == '=') {
+            if (!get_simple_quoted_value(&value)) return false;
+            if (value == "no") {
+                error(ELMX_TYPE_ERROR, ELMX_BAD_XML_DECL, "XML Document is not standalone");
+                return false;
+            }
+            c = get_non_ws();
+        }
     }
     return c == '?' && get() == '>';
 }
@@ -154,6 +159,10 @@ bool c_get_for_xml::skip_PI() {
 }
 
 bool c_get_for_xml::move_to_start_tag_end(bool* is_empty) {
+    if (take_if_ahead(">")) {
+        if (is_empty != nullptr) *is_empty = false;
+        return true;
+    }
     int quote = 0;
     for (int c = get(); c != -1; c = get()) {
         if (quote != 0) {

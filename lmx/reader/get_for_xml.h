@@ -56,7 +56,10 @@ public:
     void append_verbatim(std::string* out, std::string_view text);
 
     /// The next character that is no white space.
-    int get_non_ws();
+    int get_non_ws() {
+        const int c = get();
+        return c > ' ' ? c : get_non_ws_behind(c);
+    }
     /// Reads and compares, up to the first difference.
     bool read_specified_string_from_input(const char* text);
     bool get_simple_quoted_value(std::string* out);
@@ -80,6 +83,8 @@ protected:
 
 private:
     friend class c_dtd_util;
+
+    int get_non_ws_behind(int c);
 
     bool read_decl_value(const char* rest_of_name, std::string* value);
 

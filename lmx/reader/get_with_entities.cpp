@@ -21,7 +21,7 @@ const std::string* c_entity_table::find(std::string_view name) const {
 
 void c_entity_table::clear() { m_values.clear(); }
 
-int c_get_with_entities::get() {
+int c_get_with_entities::get_from_entity() {
     while (!m_entity_stack.empty()) {
         s_entity_input& top = m_entity_stack.back();
         if (is_shut()) return -1;
@@ -36,12 +36,13 @@ int c_get_with_entities::get() {
     return c_get_as_utf8::get();
 }
 
-void c_get_with_entities::unget(int c) {
-    if (m_entity_stack.empty()) {
-        c_get_as_utf8::unget(c);
-    } else {
-        m_entity_stack.back().m_unget.unget(c);
-    }
+bool c_get_with_entities::at_end_of_input() const {
+    // An entity that was read to its end leaves the stack at the next character only.
+    const auto is_used_up = [](const s_entity_input& input) {
+        return input.m_next == input.m_end && input.m_unget.empty();
+    };
+    return is_shut() || (std::all_of(m_entity_stack.begin(), m_entity_stack.end(), is_used_up) &&
+                         c_get_as_utf8::at_end_of_input());
 }
 
 bool c_get_with_entities::push_entity(const char* value, std::size_t size) {

@@ -51,8 +51,14 @@ public:
 
     /// As in the layer below, with entity text on top. Bytes of entity text over 127 come as negative values; 0xFF,
     /// which would be -1, comes as -257. Neither lines nor line ends count in entity text.
-    int get();
-    void unget(int c);
+    int get() { return m_entity_stack.empty() ? c_get_as_utf8::get() : get_from_entity(); }
+    void unget(int c) {
+        if (m_entity_stack.empty()) {
+            c_get_as_utf8::unget(c);
+        } else {
+            m_entity_stack.back().m_unget.unget(c);
+        }
+    }
 
     /// Pushes a text, borrowed and null-terminated. False, with a fatal report, if that very text is open already.
     bool set_input_entity_value(const char* value) {
@@ -68,11 +74,16 @@ public:
     /// Forgets all entities and goes back to the start of the input. Open entities stay open.
     void rewind();
 
-    bool at_end_of_input() const { return m_entity_stack.empty() ? c_get_as_utf8::at_end_of_input() : is_shut(); }
+    bool at_end_of_input() const;
 
 protected:
     void take_run(const byte_set& stops, std::string* out) {
         if (m_entity_stack.empty()) c_get_as_utf8::take_run(stops, out);
+    }
+    bool is_ahead(std::string_view text) const { return m_entity_stack.empty() && c_get_as_utf8::is_ahead(text); }
+    bool take_if_ahead(std::string_view text) { return m_entity_stack.empty() && c_get_as_utf8::take_if_ahead(text); }
+    bool take_if_ahead(std::string_view head, std::string_view body, std::string_view tail) {
+        return m_entity_stack.empty() && c_get_as_utf8::take_if_ahead(head, body, tail);
     }
     bool push_entity(const std::string& value) { return push_entity(value.data(), value.size()); }
     /// Accounts for one reference to a text of that size. False, with a fatal report, past the limit.
@@ -83,6 +94,8 @@ protected:
     c_entity_table& parameter_entities() { return m_parameter_entities; }
 
 private:
+    int get_from_entity();
+
     struct s_entity_input {
         const char* m_next;
         const char* m_end;

@@ -122,6 +122,8 @@ bool c_internal_dtd::read_markup() {
         keyword += static_cast<char>(c);
         if (keyword == "!--") return getter().skip_comment();
     }
+    // An instruction without data ends with its target.
+    if (c == '>' && keyword.size() > 1 && keyword.starts_with('?') && keyword.ends_with('?')) return true;
     unget(c);
     if (keyword == "!ENTITY") return read_entity_decl();
     if (keyword.starts_with('?')) return getter().skip_PI();

@@ -8,28 +8,29 @@
 namespace lmx {
 
 int* c_name_table::find(std::string_view name) {
-    if (m_index.empty()) {
+    if (m_index == nullptr) {
         const auto row =
             std::find_if(m_rows.begin(), m_rows.end(), [name](const auto& pair) { return pair.first == name; });
         return row == m_rows.end() ? nullptr : &row->second;
     }
-    const auto entry = m_index.find(std::string(name));
-    return entry == m_index.end() ? nullptr : &m_rows[entry->second].second;
+    const auto entry = m_index->find(std::string(name));
+    return entry == m_index->end() ? nullptr : &m_rows[entry->second].second;
 }
 
 void c_name_table::add(std::string_view name, int id) {
     m_rows.emplace_back(name, id);
     if (m_rows.size() <= k_few) return;
-    if (m_index.empty()) {
-        for (std::size_t i = 0; i < m_rows.size(); ++i) m_index.emplace(m_rows[i].first, i);
+    if (m_index == nullptr) {
+        m_index = std::make_unique<std::unordered_map<std::string, std::size_t>>();
+        for (std::size_t i = 0; i < m_rows.size(); ++i) m_index->emplace(m_rows[i].first, i);
     } else {
-        m_index.emplace(name, m_rows.size() - 1);
+        m_index->emplace(name, m_rows.size() - 1);
     }
 }
 
 void c_name_table::clear() {
     m_rows.clear();
-    m_index.clear();
+    m_index.reset();
 }
 
 const char* c_name_table::find_name(int id) const {
@@ -104,7 +105,7 @@ const char* c_xml_local::find_first_namespace_prefix(int id) const {
 }
 
 void c_xml_local::clear() {
-    if (m_bindings.empty()) return;
+    if (m_bindings.rows().empty()) return;
     m_bindings.clear();
     m_bindings_owner = m_parent == nullptr ? nullptr : m_parent->m_bindings_owner;
 }

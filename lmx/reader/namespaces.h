@@ -6,6 +6,7 @@
 #pragma once
 
 #include <cstddef>
+#include <memory>
 #include <string>
 #include <string_view>
 #include <unordered_map>
@@ -31,7 +32,7 @@ public:
     /// The name must be new.
     void add(std::string_view name, int id);
     void clear();
-    bool empty() const { return m_rows.empty(); }
+    const std::vector<std::pair<std::string, int>>& rows() const { return m_rows; }
     /// The first name with that number, or null.
     const char* find_name(int id) const;
 
@@ -39,7 +40,7 @@ private:
     static constexpr std::size_t k_few = 12;
 
     std::vector<std::pair<std::string, int>> m_rows;
-    std::unordered_map<std::string, std::size_t> m_index;  ///< in use beyond a few rows
+    std::unique_ptr<std::unordered_map<std::string, std::size_t>> m_index;  ///< beyond a few rows
 };
 
 /// URIs of a document and of the generated tables, by number.
@@ -82,7 +83,8 @@ public:
     const char* find_first_namespace_prefix(int id) const;
     /// Drops this scope's bindings.
     void clear();
-    bool has_bindings() const { return !m_bindings.empty(); }
+    /// This scope's prefixes and their numbers.
+    const std::vector<std::pair<std::string, int>>& get_bindings() const { return m_bindings.rows(); }
 
 protected:
     void set_parent(c_xml_local* parent);

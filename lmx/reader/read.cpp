@@ -22,7 +22,7 @@ std::FILE* open_utf16(const char16_t* path) {
 
 c_read::~c_read() = default;
 
-void c_read::consume(std::size_t) {}
+void c_read::give_back(std::size_t) {}
 
 c_read_file::c_read_file(const char* path) : m_name(path), m_file(std::fopen(path, "rb")) {}
 
@@ -52,9 +52,11 @@ int c_read_file::read() {
     return static_cast<unsigned char>(m_buffer[m_buffer_index++]);
 }
 
-std::string_view c_read_file::window() {
+std::string_view c_read_file::take_window() {
     if (m_file == nullptr || (m_buffer_index == m_buffer_count && !refill())) return {};
-    return {m_buffer + m_buffer_index, m_buffer_count - m_buffer_index};
+    const std::string_view rest(m_buffer + m_buffer_index, m_buffer_count - m_buffer_index);
+    m_buffer_index = m_buffer_count;
+    return rest;
 }
 
 void c_read_file::rewind() {

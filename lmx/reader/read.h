@@ -15,7 +15,7 @@
 namespace lmx {
 
 /// A source of bytes. A source that has only `read` and `rewind` is complete; one that holds bytes in a row may
-/// show them, and the reader then scans them in place.
+/// hand them out as a window, and the reader then scans them in place.
 class VYR_EXPORT c_read {
 public:
     virtual bool is_open() const { return true; }
@@ -27,11 +27,11 @@ public:
     virtual void rewind() = 0;
     virtual ~c_read();
 
-    /// Bytes that `read` would deliver next, in a row; empty if there are none or the source doesn't show them.
-    /// Good until the next call on the source.
-    virtual std::string_view window() { return {}; }
-    /// Steps over bytes of the window, at most its size.
-    virtual void consume(std::size_t count);
+    /// Bytes that `read` would deliver next, in a row, which count as read then; empty if there are none or the
+    /// source doesn't show them. Good until the next call on the source.
+    virtual std::string_view take_window() { return {}; }
+    /// Takes back the last bytes of the window just handed out: they count as unread.
+    virtual void give_back(std::size_t count);
 };
 
 /// Bytes in memory. Borrowed: they must outlive the source.
@@ -41,8 +41,12 @@ public:
 
     int read() override { return m_current == m_end ? -1 : static_cast<unsigned char>(*m_current++); }
     void rewind() override { m_current = m_begin; }
-    std::string_view window() override { return {m_current, static_cast<std::size_t>(m_end - m_current)}; }
-    void consume(std::size_t count) override { m_current += count; }
+    std::string_view take_window() override {
+        const std::string_view rest(m_current, static_cast<std::size_t>(m_end - m_current));
+        m_current = m_end;
+        return rest;
+    }
+    void give_back(std::size_t count) override { m_current -= count; }
 
 private:
     const char* m_begin;
@@ -77,8 +81,8 @@ public:
     const char* get_source_id() override { return m_name.c_str(); }
     /// Only seeks: bytes that were buffered and not yet read come first.
     void rewind() override;
-    std::string_view window() override;
-    void consume(std::size_t count) override { m_buffer_index += count; }
+    std::string_view take_window() override;
+    void give_back(std::size_t count) override { m_buffer_index -= count; }
 
 private:
     bool refill();

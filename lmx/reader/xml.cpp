@@ -3,6 +3,8 @@
 
 #include "lmx/reader/xml.h"
 
+#include <algorithm>
+#include <iterator>
 #include <string_view>
 #include <unordered_set>
 
@@ -15,8 +17,16 @@ struct s_predefined_entity {
     std::string_view name;
     char character;
 };
+// These names can't be redefined: whatever the document defines for them is never looked at.
 constexpr s_predefined_entity k_predefined_entities[] = {
     {"lt", '<'}, {"gt", '>'}, {"amp", '&'}, {"apos", '\''}, {"quot", '"'}};
+
+const s_predefined_entity* find_predefined(std::string_view name) {
+    const auto* const end = std::end(k_predefined_entities);
+    const auto* const entity = std::find_if(std::begin(k_predefined_entities), end,
+                                            [name](const s_predefined_entity& row) { return row.name == name; });
+    return entity == end ? nullptr : entity;
+}
 
 std::string_view prefix_of(std::string_view name) {
     const std::size_t colon = name.find(':');
@@ -116,8 +126,15 @@ elxp_xml_event c_xml::get_element_name(c_xml_local* local, std::string* name) {
                     if (!read_cdata(name)) return ELXP_ERROR;
                     return deliver(ELXP_TEXT);
                 }
-                if (c == '-' ? get() == '-' && skip_comment() : c == 'D' && scan_doctype()) break;
-                return ELXP_ERROR;
+                if (c == '-' && get() == '-') {
+                    if (!skip_comment()) return ELXP_ERROR;
+                } else if (c == 'D' && read_specified_string_from_input("OCTYPE")) {
+                    if (!scan_doctype()) return ELXP_ERROR;
+                } else {
+                    move_to_start_tag_end(nullptr);
+                    return ELXP_ERROR;
+                }
+                break;
             default:
                 report_not_well_formed("XML not Well-Formed");
                 move_to_start_tag_end(nullptr);
@@ -174,7 +191,8 @@ bool c_xml::scan_instruction() {
     for (const char expected : std::string_view("xml")) {
         const int c = get();
         if (c == expected) continue;
-        unget(c);
+        // It may be the first half of the end.
+        if (c == '?') unget(c);
         return skip_PI();
     }
     if (!m_content_seen) return read_xml_decl();
@@ -231,6 +249,7 @@ void c_xml::clear_attributes() {
 
 bool c_xml::read_attributes(c_xml_local* local) {
     clear_attributes();
+    if (is_ahead(">")) return true;
     for (;;) {
         int c = get_non_ws();
         if (!is_name_start(c)) {
@@ -400,9 +419,8 @@ bool c_xml::read_reference(c_entity_name_reader& reader, std::string* out) {
         m_entity_name += static_cast<char>(c);
         has_semicolon = read_entity_name(reader);
     }
-    for (const s_predefined_entity& entity : k_predefined_entities) {
-        if (m_entity_name != entity.name) continue;
-        append_verbatim(out, std::string_view(&entity.character, 1));
+    if (const s_predefined_entity* const entity = find_predefined(m_entity_name)) {
+        append_verbatim(out, std::string_view(&entity->character, 1));
         return charge_reference(0);
     }
     const std::string* const value = general_entities().find(m_entity_name);
@@ -451,18 +469,14 @@ bool c_xml::expand_in_place(const std::string& entity, std::string* out) {
             m_entity_name.clear();
             m_entity_name += static_cast<char>(reader.get());
             const bool has_semicolon = read_entity_name(reader);
-            if (const std::string* const value = general_entities().find(m_entity_name)) {
+            if (const s_predefined_entity* const predefined = find_predefined(m_entity_name)) {
+                append_verbatim(out, std::string_view(&predefined->character, 1));
+                if (!charge_reference(0)) return false;
+            } else if (const std::string* const value = general_entities().find(m_entity_name)) {
                 if (!enter(*value)) return false;
-                continue;
+            } else {
+                return keep_unresolved(has_semicolon, out);
             }
-            bool is_predefined = false;
-            for (const s_predefined_entity& row : k_predefined_entities) {
-                if (m_entity_name != row.name) continue;
-                append_verbatim(out, std::string_view(&row.character, 1));
-                is_predefined = true;
-            }
-            if (!is_predefined) return keep_unresolved(has_semicolon, out);
-            if (!charge_reference(0)) return false;
         } else if (!read_reference(reader, out)) {
             return false;
         }
@@ -477,6 +491,7 @@ bool c_xml::get_element_value(std::string* value, elmx_whitespace mode, bool exp
     set_ws_mode(mode);
     for (;;) {
         take_plain_text(value);
+        if (is_ahead("</")) return true;
         int c = get();
         if (c == -1) {
             error(ELMX_TYPE_ERROR, ELMX_UNEXPECTED_END_OF_MESSAGE, "Premature end of file encountered");
@@ -494,12 +509,12 @@ bool c_xml::get_element_value(std::string* value, elmx_whitespace mode, bool exp
                 if (c == '[') {
                     if (!read_cdata(value)) return false;
                 } else if (c == '-' && get() == '-') {
-                    if (!skip_comment()) return false;
+                    if (!skip_comment() && !at_end_of_input()) return false;
                 } else {
                     return report_not_well_formed("XML not well-formed");
                 }
             } else if (c == '?') {
-                if (!skip_PI()) return false;
+                if (!skip_PI() && !at_end_of_input()) return false;
             } else {
                 unget(c);
                 unget('<');
@@ -510,6 +525,7 @@ bool c_xml::get_element_value(std::string* value, elmx_whitespace mode, bool exp
 }
 
 bool c_xml::is_element_end_tag(const std::string& name) {
+    if (take_if_ahead("</", name, ">")) return true;
     if (get_non_ws() != '<' || get() != '/') return false;
     for (const char expected : name) {
         const int c = get();
@@ -678,7 +694,6 @@ bool c_xml::get_any_element(const std::string& name, std::string* xml, elmx_whit
 
 bool c_xml::get_nested_element_value(std::string* value, std::string* end_name, elmx_whitespace mode, bool) {
     set_ws_mode(mode);
-    value->clear();
     clear_attributes();
     return copy_content(value, end_name);
 }

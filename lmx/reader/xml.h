@@ -58,7 +58,7 @@ public:
     bool skip_element_body(const std::string& name);
     /// The element whose start tag was just read, as text. The last argument has no effect.
     bool get_any_element(const std::string& name, std::string* xml, elmx_whitespace mode, bool);
-    /// Text and elements up to the first end tag that closes none of them. The last argument has no effect.
+    /// Appends text and elements up to the first end tag that closes none of them. The last argument has no effect.
     bool get_nested_element_value(std::string* value, std::string* end_name, elmx_whitespace mode, bool);
 
     /// Looks through the attributes from the current one on; the first attribute is the current one afterwards.

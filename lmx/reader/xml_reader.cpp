@@ -5,7 +5,6 @@
 
 #include <algorithm>
 #include <cstring>
-#include <memory>
 
 #include "lmx/values/characters.h"
 
@@ -16,12 +15,12 @@ const std::string k_namespace_not_found = " ";
 namespace {
 
 template <class Row>
-bool is_row_of(const Row& row, int ns_id, const std::string& name) {
-    return row.ns_id == ns_id && row.name[0] == name[0] && row.name_length == name.size() &&
+bool is_row_of(const Row& row, int ns_id, std::string_view name) {
+    return row.ns_id == ns_id && row.name[0] == name.data()[0] && row.name_length == name.size() &&
            std::memcmp(row.name, name.data(), name.size()) == 0;
 }
 
-int xsi_event(const std::string& local_name) {
+int xsi_event(std::string_view local_name) {
     if (local_name == "type") return ELXP_XSI_TYPE;
     if (local_name == "nil") return ELXP_XSI_NIL;
     if (local_name == "noNamespaceSchemaLocation") return ELXP_XSI_NO_NAMESPACE_SCHEMA_LOCATION;
@@ -29,7 +28,7 @@ int xsi_event(const std::string& local_name) {
     return ELXP_UNKNOWN;
 }
 
-bool is_ncname(const std::string& name) {
+bool is_ncname(std::string_view name) {
     const auto is_start = [](char c) { return xisalpha(c) || c == '_' || c == ':'; };
     const auto is_part = [](char c) { return xisalnum(c) || c == '.' || c == '-' || c == '_'; };
     return !name.empty() && is_start(name.front()) && std::all_of(name.begin() + 1, name.end(), is_part);
@@ -79,7 +78,7 @@ void c_xml_reader::set_ns_map(const s_ns_map* map) {
 void c_xml_reader::tokenise(const s_event_map* map, elxp_attr_elem kind) {
     int ns_id = m_cracked_name.get_ns_id();
     if (!m_cracked_name.get_has_ns_prefix() && (kind == ELXP_ATTRIBUTE || ns_id == k_unbound_ns)) ns_id = k_no_ns;
-    const std::string& name = m_cracked_name.get_local_name();
+    const std::string_view name = m_cracked_name.get_local_view();
     if (ns_id == k_xsi_ns) {
         m_current_event = xsi_event(name);
         return;
@@ -233,49 +232,60 @@ elmx_must_understand evaluate_start_tag(c_xml_reader& reader, const std::string&
     return ELMX_MUST_UNDERSTAND_NO;
 }
 
-elmx_must_understand search_element(c_xml_reader& reader, const std::string& uri, const std::string& local_name,
+/// Keeps the bindings that are in force at any depth in one scope, so that a lookup doesn't climb.
+class c_visible_bindings {
+public:
+    explicit c_visible_bindings(c_xml_local& scope) : m_scope(scope) {}
+
+    /// Makes the declarations of an element visible to what is in it.
+    void enter(const c_xml_local& declared) {
+        for (const auto& [prefix, id] : declared.get_bindings()) {
+            m_replaced.emplace_back(prefix, m_scope.find_namespace_id(prefix));
+            m_scope.add_namespace(prefix, id);
+        }
+        m_marks.push_back(m_replaced.size() - declared.get_bindings().size());
+    }
+    void leave() {
+        for (; m_replaced.size() > m_marks.back(); m_replaced.pop_back()) {
+            m_scope.add_namespace(m_replaced.back().first, m_replaced.back().second);
+        }
+        m_marks.pop_back();
+    }
+
+private:
+    c_xml_local& m_scope;
+    std::vector<std::pair<std::string, int>> m_replaced;
+    std::vector<std::size_t> m_marks;
+};
+
+/// Looks through the element whose start tag was read. What it declares stands in `scope`.
+elmx_must_understand search_element(c_xml_reader& reader, c_xml_local& scope, const std::string& uri,
+                                    const std::string& local_name,
                                     elmx_must_understand (*evaluate)(const std::string&)) {
-    /// Open elements that declare namespaces; the others need no scope.
-    struct s_scope {
-        std::size_t depth;
-        std::unique_ptr<c_xml_reader_local> local;
-    };
-    std::vector<s_scope> scopes;
+    const c_xml_reader_local current(reader);
+    c_visible_bindings visible(scope);
     c_string_stack names;
     std::vector<std::size_t> open;
-    auto current = std::make_unique<c_xml_reader_local>(reader);
-    for (bool is_first = true;; is_first = false) {
-        if (!is_first) {
-            elmx_error error = ELMX_OK;
-            reader.get_element_event(nullptr, &error, &reader.m_name);
-            if (error != ELMX_OK) return ELMX_MUST_UNDERSTAND_UNKNOWN;
-        }
-        const int event = reader.get_current_event();
-        if (event == ELXP_TEXT) continue;
-        bool is_closed = event == ELXP_END_TAG;
-        if (is_closed) {
+    for (;;) {
+        if (reader.get_current_event() == ELXP_NAME) {
+            const elmx_must_understand answer = evaluate_start_tag(reader, uri, local_name, evaluate);
+            if (answer != ELMX_MUST_UNDERSTAND_NO) return answer;
+            if (reader.get_current_event() != ELXP_END_TAG) {
+                open.push_back(names.get_stack_size());
+                names.push(reader.m_name);
+                visible.enter(current);
+            }
+        } else if (reader.get_current_event() == ELXP_END_TAG) {
             if (reader.m_name != names.get_str(open.back())) return ELMX_MUST_UNDERSTAND_UNKNOWN;
             names.cut(open.back());
             open.pop_back();
-            current.reset();
-            while (!scopes.empty() && scopes.back().depth > open.size()) scopes.pop_back();
-            current = std::make_unique<c_xml_reader_local>(reader);
-        } else {
-            if (event != ELXP_NAME) return ELMX_MUST_UNDERSTAND_UNKNOWN;
-            const elmx_must_understand answer = evaluate_start_tag(reader, uri, local_name, evaluate);
-            if (answer != ELMX_MUST_UNDERSTAND_NO) return answer;
-            is_closed = reader.get_current_event() == ELXP_END_TAG;
-            if (!is_closed) {
-                open.push_back(names.get_stack_size());
-                names.push(reader.m_name);
-                // What the first element declares stands in the caller's scope already.
-                if (!is_first && current->has_bindings()) {
-                    scopes.push_back({open.size(), std::move(current)});
-                    current = std::make_unique<c_xml_reader_local>(reader);
-                }
-            }
+            visible.leave();
         }
-        if (is_closed && open.empty()) return ELMX_MUST_UNDERSTAND_NO;
+        if (open.empty()) return ELMX_MUST_UNDERSTAND_NO;
+        elmx_error error = ELMX_OK;
+        reader.get_element_event(nullptr, &error, &reader.m_name);
+        if (error != ELMX_OK || c_xml::is_error_event(reader.get_current_event()))
+            return ELMX_MUST_UNDERSTAND_UNKNOWN;
     }
 }
 
@@ -285,11 +295,11 @@ elmx_must_understand has_must_understand(c_xml_reader& reader, const std::string
                                          elmx_must_understand (*evaluate)(const std::string&)) {
     elmx_must_understand answer = ELMX_MUST_UNDERSTAND_UNKNOWN;
     {
-        const c_xml_reader_local scope(reader);
+        c_xml_reader_local scope(reader);
         elmx_error error = ELMX_OK;
         reader.get_element_event(nullptr, &error, &reader.m_name);
         if (reader.get_current_event() != ELXP_NAME) return answer;
-        answer = search_element(reader, uri, local_name, evaluate);
+        answer = search_element(reader, scope, uri, local_name, evaluate);
     }
     reader.rewind();
     return answer;

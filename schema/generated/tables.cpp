@@ -193,6 +193,7 @@ constexpr std::string_view k_ProfileDirectionKind_texts[] = {
 namespace facets {
 /// A date and time that names its time zone.
 constinit const lmx::s_facets DateTimeZone = {
+    .pattern_takes_zoned = true,
     .pattern = &k_DateTimeZone_pattern,
 };
 /// A text of at least one character.

@@ -28,6 +28,7 @@ class SimpleType:
     minimum_exclusive: bool = False
     maximum_exclusive: bool = False
     setter_skips_minimum: bool = False
+    pattern_takes_zoned: bool = False
     minimum_length: int = 0
     maximum_length: int | None = None
     pattern: str | None = None
@@ -211,7 +212,7 @@ class Builder:
                 facets[tag.replace("Length", "imum_length")] = int(value)
             elif tag == "pattern":
                 facets["pattern"] = value
-        keys = self.options("facets", node.get("name"), ("setter_skips_minimum",))
+        keys = self.options("facets", node.get("name"), ("setter_skips_minimum", "pattern_takes_zoned"))
         made = replace(base, name=node.get("name"), doc=self.doc(node), **facets, **keys)
         return replace(made, value=self.integer_kind(node, made)) if base.value == "integer" else made
 

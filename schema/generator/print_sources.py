@@ -341,7 +341,7 @@ def print_tables_source(plan):
         for end in ("minimum", "maximum"):
             if getattr(simple, end) is not None:
                 fields[end] = getattr(simple, end)
-        for flag in ("minimum_exclusive", "maximum_exclusive", "setter_skips_minimum"):
+        for flag in ("minimum_exclusive", "maximum_exclusive", "setter_skips_minimum", "pattern_takes_zoned"):
             if getattr(simple, flag):
                 fields[flag] = "true"
         if simple.minimum_length:
