@@ -15,7 +15,7 @@ void c_entity_table::add(std::string_view name, std::string_view value) {
 }
 
 const std::string* c_entity_table::find(std::string_view name) const {
-    const auto row = m_values.find(std::string(name));
+    const auto row = m_values.find(name);
     return row == m_values.end() ? nullptr : row->second;
 }
 

@@ -8,10 +8,11 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <functional>
+#include <map>
 #include <memory>
 #include <string>
 #include <string_view>
-#include <unordered_map>
 #include <unordered_set>
 #include <vector>
 
@@ -35,7 +36,8 @@ public:
     virtual void clear();
 
 private:
-    std::unordered_map<std::string, const std::string*> m_values;
+    // A tree, because a document's author chooses the names and could choose those of one hash.
+    std::map<std::string, const std::string*, std::less<>> m_values;
     std::vector<std::unique_ptr<const std::string>> m_storage;
 };
 

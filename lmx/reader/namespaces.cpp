@@ -13,7 +13,7 @@ int* c_name_table::find(std::string_view name) {
             std::find_if(m_rows.begin(), m_rows.end(), [name](const auto& pair) { return pair.first == name; });
         return row == m_rows.end() ? nullptr : &row->second;
     }
-    const auto entry = m_index->find(std::string(name));
+    const auto entry = m_index->find(name);
     return entry == m_index->end() ? nullptr : &m_rows[entry->second].second;
 }
 
@@ -21,7 +21,7 @@ void c_name_table::add(std::string_view name, int id) {
     m_rows.emplace_back(name, id);
     if (m_rows.size() <= k_few) return;
     if (m_index == nullptr) {
-        m_index = std::make_unique<std::unordered_map<std::string, std::size_t>>();
+        m_index = std::make_unique<std::map<std::string, std::size_t, std::less<>>>();
         for (std::size_t i = 0; i < m_rows.size(); ++i) m_index->emplace(m_rows[i].first, i);
     } else {
         m_index->emplace(name, m_rows.size() - 1);
@@ -38,8 +38,13 @@ const char* c_name_table::find_name(int id) const {
     return row == m_rows.end() ? nullptr : row->first.c_str();
 }
 
-void c_enumerated_namespaces::start() {
+void c_enumerated_namespaces::clear() {
     m_uris.clear();
+    m_rows_by_id.clear();
+}
+
+void c_enumerated_namespaces::start() {
+    clear();
     m_next_id = k_first_free_ns;
     add_namespace(k_xsi_uri, k_xsi_ns);
     add_namespace(k_xml_uri, k_xml_ns);
@@ -47,13 +52,23 @@ void c_enumerated_namespaces::start() {
 
 int c_enumerated_namespaces::add_namespace(std::string_view uri) {
     if (const int* const id = m_uris.find(uri)) return *id;
-    m_uris.add(uri, m_next_id);
+    record(uri, m_next_id);
     return m_next_id++;
 }
 
 void c_enumerated_namespaces::add_namespace(std::string_view uri, int id) {
-    if (m_uris.find(uri) == nullptr) m_uris.add(uri, id);
+    if (m_uris.find(uri) == nullptr) record(uri, id);
     m_next_id = std::max(m_next_id, id + 1);
+}
+
+void c_enumerated_namespaces::record(std::string_view uri, int id) {
+    m_rows_by_id.emplace(id, m_uris.rows().size());
+    m_uris.add(uri, id);
+}
+
+const char* c_enumerated_namespaces::find_namespace_from_id(int id) const {
+    const auto row = m_rows_by_id.find(id);
+    return row == m_rows_by_id.end() ? nullptr : m_uris.rows()[row->second].first.c_str();
 }
 
 int c_enumerated_namespaces::find_namespace(std::string_view uri) const {

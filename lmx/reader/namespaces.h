@@ -6,6 +6,8 @@
 #pragma once
 
 #include <cstddef>
+#include <functional>
+#include <map>
 #include <memory>
 #include <string>
 #include <string_view>
@@ -23,7 +25,8 @@ inline constexpr char k_xsi_uri[] = "http://www.w3.org/2001/XMLSchema-instance";
 /// Numbers with a meaning of their own; documents' own URIs get 1000 and up.
 enum namespace_id : int { k_unbound_ns = 0, k_no_ns = 1, k_xml_ns = 2, k_xsi_ns = 5, k_first_free_ns = 1000 };
 
-/// Pairs of a text and a number in order of entry: searched in place while few, by hash when there are many.
+/// Pairs of a text and a number in order of entry: searched in place while few, by tree when there are many
+/// (the author of a document could choose names of one hash).
 class VYR_EXPORT c_name_table {
 public:
     /// The number, or null.
@@ -40,7 +43,7 @@ private:
     static constexpr std::size_t k_few = 12;
 
     std::vector<std::pair<std::string, int>> m_rows;
-    std::unique_ptr<std::unordered_map<std::string, std::size_t>> m_index;  ///< beyond a few rows
+    std::unique_ptr<std::map<std::string, std::size_t, std::less<>>> m_index;  ///< beyond a few rows
 };
 
 /// URIs of a document and of the generated tables, by number.
@@ -55,15 +58,18 @@ public:
     /// 0 when unknown.
     int find_namespace(std::string_view uri) const;
     /// Null when unknown.
-    const char* find_namespace_from_id(int id) const { return m_uris.find_name(id); }
+    const char* find_namespace_from_id(int id) const;
     /// Empties the table only.
-    void clear() { m_uris.clear(); }
+    void clear();
     /// Back to what a new table holds.
     void start();
 
 private:
+    void record(std::string_view uri, int id);
+
     int m_next_id = k_first_free_ns;
     c_name_table m_uris;
+    std::unordered_map<int, std::size_t> m_rows_by_id;
 };
 
 /// One namespace scope. Scopes without declarations are skipped by lookups.

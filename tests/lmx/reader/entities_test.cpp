@@ -1,0 +1,205 @@
+// Copyright 2026 The Vyr Authors
+// SPDX-License-Identifier: Apache-2.0
+
+/// The document type declaration, entities in content and in attributes, and the bounds on their expansion.
+
+#include <gtest/gtest.h>
+
+#include "tests/lmx/reader/support.h"
+
+namespace {
+
+using namespace lmx;
+using namespace lmx_test;
+
+struct s_read_all {
+    std::string content;     ///< of all text events, with tags in angle brackets
+    std::string attributes;  ///< all values, each with a semicolon, failed ones with an exclamation mark
+    std::string reports;
+    int line;
+};
+
+s_read_all read_all(const std::string& document) {
+    s_scanner scanner(document);
+    s_read_all result;
+    std::string text;
+    for (;;) {
+        const int event = scanner.xml.get_element_name(&scanner.scope, &text);
+        if (event == ELXP_END_OF_INPUT || event == ELXP_ERROR) {
+            result.reports = scanner.reports.m_log;
+            result.line = scanner.xml.get_line_num();
+            result.content += event == ELXP_ERROR ? "!" : "";
+            return result;
+        }
+        result.content += event == ELXP_TEXT ? text : (event == ELXP_NAME ? "<" : "</") + text + ">";
+        while (event == ELXP_NAME && scanner.xml.get_attribute_name(&text, false) == ELXP_NAME) {
+            const bool is_read = scanner.xml.get_attribute_value(&text, ELMX_WS_PRESERVE);
+            result.attributes += text + (is_read ? ";" : "!");
+        }
+    }
+}
+
+struct s_case {
+    std::string subset;
+    std::string document;
+    std::string content;
+    std::string attributes;
+    std::string reports;
+};
+
+void check(const std::vector<s_case>& cases) {
+    for (const s_case& row : cases) {
+        const s_read_all found = read_all("<!DOCTYPE a [" + row.subset + "]>" + row.document);
+        EXPECT_EQ(found.content, row.content) << row.subset << row.document;
+        EXPECT_EQ(found.attributes, row.attributes) << row.subset << row.document;
+        EXPECT_EQ(found.reports, row.reports) << row.subset << row.document;
+    }
+}
+
+TEST(Entities, StandInForDocumentText) {
+    const std::string external = "2/17@1:External Entity definitions not supported;";
+    check({
+        {"<!ENTITY e \"x\">", "<a b='&e;&e'>&e;y&e</a>", "<a>xyx</a>", "xx;", ""},
+        {"<!ENTITY e '<b/>'>", "<a b='&e;'>&e;</a>", "<a><b></a>", "<b/>;", ""},
+        {"<!ENTITY e '1'><!ENTITY e \"2\">", "<a b='&e;'>&e;</a>", "<a>2</a>", "2;", ""},
+        {"<!ENTITY e '&#65;&f;'><!ENTITY f '&lt;B&#38;gt;'>", "<a b='&e;'>&e;</a>", "<a>A<B></a>", "A<B>;", ""},
+        {"<!ENTITY lt 'x'><!ENTITY amp 'y'>", "<a b='&lt;&amp;'>&lt;&amp;</a>", "<a><&</a>", "<&;", ""},
+        {"<!ENTITY % p '<!ENTITY q \"y\">'> %p;", "<a>&q;</a>", "<a>y</a>", "", ""},
+        {"<!ENTITY % p '1\"2'><!ENTITY q \"<%p;>\">", "<a b='&q;'/>", "<a>", "<1\"2>;", ""},
+        {"<!ENTITY % p 'x'>%p", "", "!", "", "0/9@1:DTD not Well Formed (got x);"},
+        {"<!ENTITY e SYSTEM 'f>'><!ENTITY f PUBLIC 'g' \"h\" NDATA i>", "<a>&e;&f;</a>", "<a>SYSTEMPUBLIC</a>", "",
+         external + external},
+        {"<!ENTITY e other>", "<a>&e;</a>", "<a>other</a>", "",
+         "1/33@1:Unexpected value in Entity definition: other;"},
+        {"%none;<!ENTITY e '%none;x'>", "<a>&e;</a>", "<a>x</a>", "",
+         "1/41@1:Entity '%none' not found;1/41@1:Entity '%none' not found;"},
+        {"<!-- ]> --><?pi ]> ?><?pi?><!ELEMENT a ANY><!ATTLIST a b CDATA '>'><![IGNORE[>", "<a/>", "<a>", "", ""},
+        {"<!ENTITY e 'a%'>", "<a b='&e;'/>", "<a>", "a;", "1/41@1:Entity '%' not found;"},
+        // At use, a per cent sign begins a reference inside an attribute and is plain text in content.
+        {"<!ENTITY e '1&#37;lt;2'>", "<a b='&e;'>&e;</a>", "<a>1%lt;2</a>", "1<2;", ""},
+    });
+}
+
+TEST(Entities, ThatAreNotFoundStayInTheText) {
+    check({
+        {"<!ENTITY e 'x&u;y'>", "<a b='&e;' c='1'/>", "<a>", "x&u;!1;", ""},
+        {"<!ENTITY e 'x'>", "<a>1&u;2</a>", "<a>!", "", ""},
+    });
+}
+
+TEST(Entities, MustNotContainThemselves) {
+    const auto recursive = [](const std::string& value) {
+        return "0/9@1:Recursive entity definition for: " + value + ";";
+    };
+    check({
+        {"<!ENTITY e '&e;'>", "<a>&e;</a>", "<a>", "", recursive("&e;")},
+        {"<!ENTITY e '1&f;'><!ENTITY f '2&e;'>", "<a>&e;</a>", "<a>12", "", recursive("1&f;")},
+        {"<!ENTITY e '1&f;'><!ENTITY f '2&e;'>", "<a b='&e;'/>", "<a>", "12!", recursive("1&f;")},
+        {"<!ENTITY e '<b c=\"&e;\"/>'>", "<a>&e;</a>", "<a><b>", "<b c=\"!", recursive("<b c=\"&e;\"/>")},
+        {"<!ENTITY e '1'><!ENTITY f '&e;&e;'>", "<a b='&f;&f;'>&f;&f;</a>", "<a>1111</a>", "1111;", ""},
+    });
+    const std::string cycle = "<!DOCTYPE a [<!ENTITY % p '&#37;p;'>%p;]><a/>";
+    EXPECT_EQ(read_all(cycle).reports, recursive("%p;"));
+    const std::string namespaces = "<!DOCTYPE a [<!ENTITY e '&f;'><!ENTITY f '&e;'>]><a xmlns='&e;'/>";
+    EXPECT_EQ(read_all(namespaces).reports, recursive("&f;"));
+}
+
+TEST(Entities, MayBeReplacedWhileTheyAreRead) {
+    const std::string document = "<!DOCTYPE a [<!ENTITY % p '<!ENTITY &#37; p \"\"><!ENTITY e \"kept " +
+                                 std::string(200, 'x') + "\">'>%p;%p;]><a>&e;</a>";
+    EXPECT_EQ(read_all(document).content, "<a>kept " + std::string(200, 'x') + "</a>");
+    EXPECT_EQ(read_all(document).reports, "");
+
+    const std::string text = "<a>&e;</a>";
+    s_scanner scanner(text);
+    scanner.xml.add_general_entity("e", std::string(300, 'y') + "<b/>");
+    std::string name;
+    scanner.xml.get_element_name(&scanner.scope, &name);
+    scanner.xml.move_to_start_tag_end(nullptr);
+    EXPECT_EQ(scanner.xml.get_element_name(&scanner.scope, &name), ELXP_TEXT);
+    EXPECT_EQ(scanner.xml.get_entity_stack_depth(), 1U);
+    scanner.xml.add_general_entity("e", "new");
+    scanner.xml.rewind();  // leaves what is open
+    EXPECT_EQ(scanner.xml.get_element_name(&scanner.scope, &name), ELXP_NAME);
+    EXPECT_EQ(name, "b");
+    const char* value = nullptr;
+    EXPECT_FALSE(scanner.xml.get_general_entity("e", &value));
+}
+
+TEST(Entities, HoldAnyByte) {
+    const std::string value(
+        "1\xFF\0\xC3\xA9"
+        "2",
+        6);
+    const std::string document = "<a b='&e;'>&e;</a>";
+    s_scanner scanner(document);
+    scanner.xml.add_general_entity("e", value);
+    std::string text;
+    scanner.xml.get_element_name(&scanner.scope, &text);
+    scanner.xml.get_attribute_name(&text, false);
+    EXPECT_TRUE(scanner.xml.get_attribute_value(&text, ELMX_WS_COLLAPSE));
+    EXPECT_EQ(text, value);
+    scanner.xml.move_to_start_tag_end(nullptr);
+    EXPECT_TRUE(scanner.xml.get_element_value(&text, ELMX_WS_COLLAPSE, true));
+    EXPECT_EQ(text, value);
+    EXPECT_TRUE(scanner.xml.is_element_end_tag("a"));
+    // A byte over 127 of an entity's text is no character of a name; in the document it is.
+    EXPECT_EQ(read_all("<!DOCTYPE a [<!ENTITY e '<\xC3\xA9/>'>]><a>&e;</a>").content, "<a>!");
+}
+
+TEST(Entities, CountNoLines) { EXPECT_EQ(read_all("<!DOCTYPE a [<!ENTITY e 'x\n\ny'>]>\n<a>&e;&e;\n</a>").line, 5); }
+
+TEST(Subsets, MustBeWellFormed) {
+    const std::string got = "0/9@1:DTD not Well Formed (got ";
+    const struct {
+        std::string document;
+        std::string reports;
+    } cases[] = {
+        {"<!DOCTYPE a [ x ]>", got + "x);"},
+        {"<!DOCTYPE a [ ", got + ");"},
+        {"<!DOCTYPE a [ <!ELEMENT a", got + ");"},
+        {"<!DOCTYPE a [ ] x>", "0/9@1:DTD not Well Formed (expected '>', got x);"},
+        {"<!DOCTYPE a [ ]", "0/9@1:DTD not Well Formed (expected '>', got );"},
+        {"<!DOCTYPE a ", ""},
+        {"<!DOCTYPE a [<!-- ", ""},
+        {"<!DOCTYPE a [<!ENTITY ", ""},
+        {"<!DOCTYPE a [<!ENTITY e ", ""},
+        {"<!DOCTYPE a [<!ENTITY e '&#x;'>]>", ""},
+        {"<!DOCTYPE a [<!ENTITY e 'x", got + ");"},
+    };
+    for (const auto& row : cases) {
+        const s_read_all found = read_all(row.document);
+        EXPECT_EQ(found.content, "!") << row.document;
+        EXPECT_EQ(found.reports, row.reports) << row.document;
+    }
+}
+
+TEST(Expansion, IsBounded) {
+    const std::string excess = "0/9@1:Entity expansion too large;";
+    // Ten levels of ten references each: a thousand millions of characters, were it let.
+    std::string bomb = "<!ENTITY e0 'ha'>";
+    for (int i = 1; i < 10; ++i) {
+        bomb += "<!ENTITY e" + std::to_string(i) + " '" + repeat("&e" + std::to_string(i - 1) + ";", 10) + "'>";
+    }
+    // The same in parameter entities, which expand where they are defined.
+    std::string parameters = "<!ENTITY % p0 'hahahahahahahahahaha'>";
+    for (int i = 1; i < 10; ++i) {
+        parameters +=
+            "<!ENTITY % p" + std::to_string(i) + " '" + repeat("%p" + std::to_string(i - 1) + ";", 10) + "'>";
+    }
+    for (const std::string& document :
+         {"<!DOCTYPE a [" + bomb + "]><a>&e9;</a>", "<!DOCTYPE a [" + bomb + "]><a b='&e9;'/>",
+          "<!DOCTYPE a [" + bomb + "]><a xmlns='&e9;'/>", "<!DOCTYPE a [" + parameters + "]><a/>",
+          "<!DOCTYPE a [<!ENTITY % p '&#37;q;&#37;q;'><!ENTITY % q '" + repeat("&#37;r;", 1000) + "'><!ENTITY % r '" +
+              std::string(1000, ' ') + "'>%p;]><a/>",
+          "<!DOCTYPE a [<!ENTITY e '" + std::string(100000, 'x') + "'>]><a>" + repeat("&e;", 30) + "</a>"}) {
+        EXPECT_EQ(read_all(document).reports, excess) << document.substr(0, 200);
+    }
+    // What a document spells out itself pays for the references that it takes to say so.
+    const std::string honest = "<!DOCTYPE a [<!ENTITY e 'x'>]><a>" + repeat("&lt;&e; ", 300000) + "</a>";
+    EXPECT_EQ(read_all(honest).reports, "");
+    const std::string escaped = "<a>" + repeat("&amp;&#65;", 300000) + "</a>";
+    EXPECT_EQ(read_all(escaped).reports, "");
+}
+
+}  // namespace

@@ -1,0 +1,270 @@
+// Copyright 2026 The Vyr Authors
+// SPDX-License-Identifier: Apache-2.0
+
+/// Byte sources and their decoding: encodings, line ends, line numbers, characters given back.
+
+#include <gtest/gtest.h>
+
+#include "tests/lmx/reader/support.h"
+
+namespace {
+
+using namespace lmx;
+using namespace lmx_test;
+using namespace std::string_literals;
+
+struct s_decoded {
+    std::string text;
+    int line;
+    std::string reports;
+};
+
+/// With `encoding`, that name is declared behind the first character.
+s_decoded decode(const std::string& bytes, const char* encoding = nullptr) {
+    c_read_string source(bytes);
+    c_recorder reports;
+    c_get_as_utf8 input(source, reports);
+    s_decoded result;
+    int c = input.get();
+    if (encoding != nullptr) {
+        const bool is_accepted = input.set_encoding(encoding);
+        EXPECT_EQ(is_accepted, !reports.is_errored());
+    }
+    for (; c != -1; c = input.get()) result.text += static_cast<char>(c);
+    result.line = input.get_line_num();
+    result.reports = reports.m_log;
+    return result;
+}
+
+TEST(Encodings, AreToldByTheFirstBytes) {
+    const std::string unrecognised = "0/6@1:Unrecognised character encoding;";
+    const struct {
+        std::string bytes;
+        std::string text;
+        std::string reports;
+    } cases[] = {
+        {"", "", ""},
+        {"<a>\xC3\xA9", "<a>\xC3\xA9", ""},
+        {" \xC3\xA9", " \xC3\xA9", ""},
+        {"\xEF\xBB\xBF<a>", "<a>", ""},
+        {"\xEF\xBB\xBF\xC3\xA9", "\xC3", ""},  // the lead byte comes raw, and its tail is no character by itself
+        {"\xFF\xFE" + widen("<a>", false), "<a>", ""},
+        {"\xFE\xFF" + widen("<a>", true), "<a>", ""},
+        {widen("<a>", false), "<a>", ""},
+        {widen("\t<a>", true), "\t<a>", ""},
+        {widen("<", true) + "\xD8\x3D\xDE\x00"s, "<\xF0\x9F\x98\x80", ""},
+        {widen("<", false) + "\x00\xDC"s + widen("x", false), "<\xED\xB0\x80x", ""},
+        {widen("<", true) + "\xD8\x3D\x00\x41"s, "<", unrecognised},
+        {widen("<a", true) + "\x00"s, "<a", ""},
+        {widen("<", true) + "\xD8\x3D"s, "<", ""},
+        {"a", "", unrecognised},
+        {"\xFF\xFF<", "", unrecognised},
+        {"\xFF\xFE\xE9\x01"s, "", unrecognised},
+        {"\xFE\xFF\x00\xE9"s, "", unrecognised},
+        {"\x00x"s, "", unrecognised},
+        {"\xEF\xBB<", "", unrecognised},
+    };
+    for (const auto& row : cases) {
+        const s_decoded decoded = decode(row.bytes);
+        EXPECT_EQ(decoded.text, row.text) << testing::PrintToString(row.bytes);
+        EXPECT_EQ(decoded.reports, row.reports) << testing::PrintToString(row.bytes);
+    }
+}
+
+TEST(Encodings, CanBeDeclared) {
+    const std::string mismatch = "0/15@1:Mis-match between specfied encoding and byte format;";
+    const std::string wide = widen("<", true);
+    const struct {
+        std::string bytes;
+        const char* name;
+        std::string text;
+        std::string reports;
+    } cases[] = {
+        {"<a\xE9", "iso-8859-1", "<a\xC3\xA9", ""},
+        {"<a\xE9\x7F", "US-ASCII", "<a\xC3\xA9\x7F", ""},
+        {"\xEF\xBB\xBF<\xE9", "ISO-8859-1", "<\xC3\xA9", ""},
+        {"<a\xC3\xA9", "utf-8", "<a\xC3\xA9", ""},
+        {wide + "\xD8\x3D\xDE\x00"s, "ISO-10646-UCS-2", "<\xED\xA0\xBD\xED\xB8\x80", ""},
+        {wide + "\xD8\x3D\xDE\x00"s, "Utf-16", "<\xF0\x9F\x98\x80", ""},
+        {"<a", "UTF-16", "<", mismatch},
+        {"<a", "ISO-10646-UCS-2", "<", mismatch},
+        {wide, "UTF-8", "<", mismatch},
+        {wide, "ISO-8859-1", "<", mismatch},
+        {"<a", "UTF-7", "<", "0/6@1:Unknown character encoding specified;"},
+        {"<a", "UTF-88", "<", "0/6@1:Unknown character encoding specified;"},
+    };
+    for (const auto& row : cases) {
+        const s_decoded decoded = decode(row.bytes, row.name);
+        EXPECT_EQ(decoded.text, row.text) << row.name;
+        EXPECT_EQ(decoded.reports, row.reports) << row.name;
+    }
+}
+
+TEST(Encodings, RefuseIllegalSequencesAsTheEndOfInput) {
+    for (const char* bytes : {"<\x80", "<a\xC1\x81", "<a\xE0\x9F\xBF", "<a\xED\xA0\x80", "<a\xF0\x8F\xBF\xBF",
+                              "<a\xF4\x90\x80\x80", "<a\xF5\x80\x80\x80", "<a\xFF", "<a\xE2\x82"}) {
+        c_read_memory source(bytes, std::char_traits<char>::length(bytes));
+        c_recorder reports;
+        c_get_as_utf8 input(source, reports);
+        EXPECT_EQ(input.get(), '<');
+        if (bytes[1] == 'a') {
+            EXPECT_EQ(input.get(), 'a');
+            EXPECT_EQ(input.get(), -1) << testing::PrintToString(bytes);
+        }
+        EXPECT_EQ(reports.m_log, "");
+    }
+    // Only the two first bytes are looked at, and what stands behind an illegal sequence is still read.
+    EXPECT_EQ(decode("<a\xE2\x82z").text, "<a\xE2\x82z");
+    const std::string text = "<a\xFF+++++b";
+    c_read_string source(text);
+    c_error reports;
+    c_get_as_utf8 input(source, reports);
+    input.get();
+    input.get();
+    EXPECT_EQ(input.get(), -1);
+    EXPECT_FALSE(input.at_end_of_input());
+    EXPECT_EQ(input.get(), 'b');
+    EXPECT_EQ(input.get(), -1);
+    EXPECT_TRUE(input.at_end_of_input());
+}
+
+TEST(Lines, EndInManyWays) {
+    const struct {
+        std::string bytes;
+        std::string text;
+        int line;
+    } cases[] = {
+        {"<\nb", "<\nb", 2},
+        {"<\rb", "<\nb", 2},
+        {"<\r\nb", "<\nb", 2},
+        {"<\n\rb", "<\n\nb", 3},
+        {"<\r\r\n\nb", "<\n\n\nb", 4},
+        {"<\r\n\r\nb", "<\n\nb", 3},
+        {"<\r\n", "<\n", 2},
+        {"<\xC2\x85z\xE2\x80\xA8z\xE2\x80\xA9", "<\nz\nz\xE2\x80\xA9", 3},
+        {"<\r\xC2\x85z", "<\nz", 2},  // a line end of any form is the second half of a pair
+        {widen("<", true) + "\x00\x85\x20\x28\x20\x29"s, "<\n\n\xE2\x80\xA9", 3},
+        {widen("<\r\n\r", false), "<\n\n", 3},
+    };
+    for (const auto& row : cases) {
+        const s_decoded decoded = decode(row.bytes);
+        EXPECT_EQ(decoded.text, row.text) << testing::PrintToString(row.bytes);
+        EXPECT_EQ(decoded.line, row.line) << testing::PrintToString(row.bytes);
+    }
+    EXPECT_EQ(decode("<a\x85z", "ISO-8859-1").text, "<a\nz");
+    EXPECT_EQ(decode("<a\x85z", "ISO-8859-1").line, 2);
+}
+
+TEST(Lines, CountAgainWhenGivenBack) {
+    const struct {
+        const char* bytes;
+        std::string rest;
+        int line;
+    } cases[] = {
+        {"<\nb", "\nb", 3},
+        {"<\rb", "b", 2},      // dropped as the second half of a pair
+        {"<\r\nb", "\nb", 3},  // ... whose place the true second half takes
+        {"<\r\rb", "\nb", 3},
+    };
+    for (const auto& row : cases) {
+        const std::string bytes = row.bytes;
+        c_read_string source(bytes);
+        c_error reports;
+        c_get_as_utf8 input(source, reports);
+        input.get();
+        EXPECT_EQ(input.get(), '\n');
+        input.unget('\n');
+        std::string rest;
+        for (int c = input.get(); c != -1; c = input.get()) rest += static_cast<char>(c);
+        EXPECT_EQ(rest, row.rest) << testing::PrintToString(bytes);
+        EXPECT_EQ(input.get_line_num(), row.line) << testing::PrintToString(bytes);
+    }
+}
+
+TEST(GivingBack, IsAStackOfThreeThatAFatalReportCloses) {
+    const std::string text = "<abc";
+    c_read_string source(text);
+    c_recorder reports;
+    c_get_as_utf8 input(source, reports);
+    EXPECT_EQ(input.get(), '<');
+    for (const int c : std::initializer_list<int>{-1, 'x', 'y'}) input.unget(c);
+    for (const int c : std::initializer_list<int>{'y', 'x', -1, 'a'}) EXPECT_EQ(input.get(), c);
+    input.unget('a');
+    input.error(ELMX_TYPE_FATAL, ELMX_BAD_DTD, "closed");
+    EXPECT_EQ(input.get(), -1);
+    EXPECT_TRUE(input.at_end_of_input());
+
+    c_unget_buffer buffer;
+    for (const int c : {1, 2, 3, 4}) buffer.unget(c);
+    EXPECT_EQ(buffer.get(), 4);
+    EXPECT_EQ(buffer.get(), 3);
+    buffer.clear();
+    EXPECT_TRUE(buffer.empty());
+}
+
+TEST(Rewinding, StartsDetectionAndLinesAnew) {
+    const std::string text = "\xFF\xFE" + widen("<\n\nab", false);
+    c_read_string source(text);
+    c_recorder reports;
+    c_get_as_utf8 input(source, reports);
+    for (int i = 0; i < 4; ++i) input.get();
+    EXPECT_EQ(input.get_line_num(), 3);
+    input.unget('z');
+    input.rewind();
+    EXPECT_EQ(input.get_line_num(), 1);
+    std::string again;
+    for (int c = input.get(); c != -1; c = input.get()) again += static_cast<char>(c);
+    EXPECT_EQ(again, "<\n\nab");
+}
+
+TEST(Files, AreReadWholeAroundTheirBlockSize) {
+    for (const std::size_t size : {0U, 1U, 511U, 512U, 513U, 1024U, 1537U}) {
+        std::string bytes;
+        for (std::size_t i = 0; i < size; ++i) bytes += static_cast<char>(i * 7);
+        const c_scratch_file scratch(bytes);
+        c_read_file file(scratch.k_name);
+        std::string found;
+        for (int c = file.read(); c != -1; c = file.read()) found += static_cast<char>(c);
+        EXPECT_EQ(found, bytes);
+        EXPECT_EQ(file.read(), -1);
+        file.rewind();
+        EXPECT_EQ(file.read(), size == 0 ? -1 : 0);
+    }
+}
+
+TEST(Files, ServeWhatIsBufferedAheadOfARewind) {
+    const c_scratch_file scratch("<abc");
+    c_read_file file(scratch.k_name);
+    EXPECT_EQ(file.read(), '<');
+    file.rewind();
+    std::string found;
+    for (int c = file.read(); c != -1; c = file.read()) found += static_cast<char>(c);
+    EXPECT_EQ(found, "abc<abc");
+}
+
+TEST(Files, HaveNamesAndMayBeMissing) {
+    c_read_file missing("no such file");
+    EXPECT_FALSE(missing.is_open());
+    EXPECT_EQ(missing.read(), -1);
+    missing.rewind();
+    EXPECT_STREQ(missing.get_source_id(), "no such file");
+    c_read_file wide(u"no \u00E9 \U0001F600");
+    EXPECT_FALSE(wide.is_open());
+    EXPECT_STREQ(wide.get_source_id(), "no \xC3\xA9 \xED\xA0\xBD\xED\xB8\x80");
+
+    const c_scratch_file scratch("<a");
+    std::FILE* const handle = std::fopen(scratch.k_name, "rb");
+    {
+        c_read_file kept(handle);
+        kept.leave_file_open_on_delete(true);
+        EXPECT_STREQ(kept.get_source_id(), "");
+        EXPECT_EQ(kept.read(), '<');
+    }
+    EXPECT_EQ(std::fclose(handle), 0);
+    c_read_file closed(scratch.k_name);
+    closed.close();
+    EXPECT_FALSE(closed.is_open());
+    EXPECT_EQ(closed.read(), -1);
+}
+
+}  // namespace

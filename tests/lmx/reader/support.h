@@ -1,0 +1,96 @@
+// Copyright 2026 The Vyr Authors
+// SPDX-License-Identifier: Apache-2.0
+
+/// Sources and recorders that the reader's tests share.
+
+#pragma once
+
+#include <algorithm>
+#include <cstdio>
+#include <string>
+#include <string_view>
+
+#include "lmx/reader/xml.h"
+
+namespace lmx_test {
+
+/// Hands on a source's bytes one by one: what any subclass with only `read` and `rewind` gives.
+class c_bytes_only : public lmx::c_read {
+public:
+    explicit c_bytes_only(lmx::c_read& source) : m_source(source) {}
+    int read() override { return m_source.read(); }
+    void rewind() override { m_source.rewind(); }
+
+private:
+    lmx::c_read& m_source;
+};
+
+/// Shows windows of a few bytes, so that every construct meets a border at every place.
+class c_small_windows : public lmx::c_read_memory {
+public:
+    c_small_windows(const std::string& text, std::size_t size)
+        : c_read_memory(text.data(), text.size()), m_size(size) {}
+    std::string_view take_window() override {
+        const std::string_view rest = c_read_memory::take_window();
+        if (rest.size() <= m_size) return rest;
+        c_read_memory::give_back(rest.size() - m_size);
+        return rest.substr(0, m_size);
+    }
+
+private:
+    std::size_t m_size;
+};
+
+/// Writes every report down as "type/code@line:text;".
+class c_recorder : public lmx::c_error {
+public:
+    void report_error(lmx::elmx_error_type type, lmx::elmx_error code, const char*, int line,
+                      const char* text) override {
+        m_log += std::to_string(type) + '/' + std::to_string(code) + '@' + std::to_string(line) + ':' + text + ';';
+    }
+    std::string m_log;
+};
+
+/// A scanner on a text, with its reports.
+struct s_scanner {
+    explicit s_scanner(const std::string& text) : source(text), xml(source, reports, true) {}
+    lmx::c_read_string source;
+    c_recorder reports;
+    lmx::c_xml xml;
+    lmx::c_xml_local scope;
+};
+
+/// A file that is removed again. Its name is unique in the test's working directory.
+class c_scratch_file {
+public:
+    explicit c_scratch_file(std::string_view bytes) {
+        std::FILE* const file = std::fopen(k_name, "wb");
+        std::fwrite(bytes.data(), 1, bytes.size(), file);
+        std::fclose(file);
+    }
+    ~c_scratch_file() { std::remove(k_name); }
+    c_scratch_file(const c_scratch_file&) = delete;
+    c_scratch_file& operator=(const c_scratch_file&) = delete;
+
+    static constexpr char k_name[] = "reader_scratch.xml";
+};
+
+/// ASCII text as pairs of bytes.
+inline std::string widen(std::string_view text, bool is_big_endian) {
+    std::string bytes;
+    for (const char c : text) {
+        if (is_big_endian) bytes += '\0';
+        bytes += c;
+        if (!is_big_endian) bytes += '\0';
+    }
+    return bytes;
+}
+
+inline std::string repeat(std::string_view text, std::size_t count) {
+    std::string all;
+    all.reserve(text.size() * count);
+    while (count-- > 0) all += text;
+    return all;
+}
+
+}  // namespace lmx_test
