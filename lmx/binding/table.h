@@ -77,7 +77,7 @@ struct s_facets {
     bool maximum_exclusive = false;
     bool setter_skips_minimum = false;
     bool pattern_takes_zoned = false;  ///< the pattern takes every valid dateTime that names a time zone
-    std::size_t minimum_length = 0;  ///< in code points
+    std::size_t minimum_length = 0;    ///< in code points
     std::size_t maximum_length = std::numeric_limits<std::size_t>::max();
     const c_big_int* minimum_integer = nullptr;  ///< for integers: the bounds that a text is compared with
     const c_big_int* maximum_integer = nullptr;

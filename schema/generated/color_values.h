@@ -41,6 +41,8 @@ public:
     const sg_ColorSpace& get_ColorSpace() const { return *this; }
     sg_ColorSpace& get_ColorSpace() { m_isset_ColorSpace = true; return *this; }
     sg_ColorSpace& assign_ColorSpace(const sg_ColorSpace& value);
+    bool isset_ColorSpace() const { return m_isset_ColorSpace; }
+    void unset_ColorSpace() { m_isset_ColorSpace = false; }
 
     /// The `xsi:nil` state: an element without a value.
     bool isnil_ParentColorSpace() const { return m_isnil; }

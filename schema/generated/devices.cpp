@@ -384,7 +384,7 @@ bool ProfileChoice::unmarshal_attributes(lmx::c_xml_reader& reader, const std::s
 lmx::elmx_error ProfileChoice::unmarshal_attributes_check(lmx::c_xml_reader& reader) { return lmx::check_required_attributes(k_class, this, reader); }
 bool ProfileChoice::unmarshal_body(lmx::c_xml_reader& reader, std::string* name, lmx::elmx_error* error) { return lmx::unmarshal_body(k_class, this, reader, name, error); }
 ProfileFile& ProfileChoice::get_ProfileFile() { return *static_cast<ProfileFile*>(lmx::choose(k_class, k_items[item_ProfileFile], this)); }
-ProfileFile& ProfileChoice::assign_ProfileFile(const ProfileFile& value) { return get_ProfileFile() = value; }
+ProfileFile& ProfileChoice::assign_ProfileFile(const ProfileFile& value) { ProfileFile copy(value); ProfileFile& target = get_ProfileFile(); target.swap(copy); return target; }
 const std::u16string& ProfileChoice::get_ProfileURI() const { return lmx::chosen_text(k_class, k_items[item_ProfileURI], this); }
 lmx::elmx_error ProfileChoice::set_ProfileURI(const std::u16string& value) { return lmx::set_item(k_class, k_items[item_ProfileURI], this, value); }
 

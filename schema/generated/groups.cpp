@@ -153,62 +153,62 @@ bool sg_ColorSpace::unmarshal(lmx::c_xml_reader& reader, std::string* name, lmx:
 void sg_ColorSpace::marshal_attributes(lmx::c_xml_writer& writer) const { lmx::marshal_attributes(k_class, this, writer); }
 lmx::elmx_error sg_ColorSpace::marshal_child_elements(lmx::c_xml_writer& writer) const { return lmx::marshal_child_elements(k_class, this, writer); }
 ColorSpaceRecipeType& sg_ColorSpace::get_ColorSpaceRecipe() { return *static_cast<ColorSpaceRecipeType*>(lmx::choose(k_class, k_items[item_ColorSpaceRecipe], this)); }
-ColorSpaceRecipeType& sg_ColorSpace::assign_ColorSpaceRecipe(const ColorSpaceRecipeType& value) { return get_ColorSpaceRecipe() = value; }
+ColorSpaceRecipeType& sg_ColorSpace::assign_ColorSpaceRecipe(const ColorSpaceRecipeType& value) { ColorSpaceRecipeType copy(value); ColorSpaceRecipeType& target = get_ColorSpaceRecipe(); target.swap(copy); return target; }
 ColorSpaceTINTORAType& sg_ColorSpace::get_ColorSpaceTINTORA() { return *static_cast<ColorSpaceTINTORAType*>(lmx::choose(k_class, k_items[item_ColorSpaceTINTORA], this)); }
-ColorSpaceTINTORAType& sg_ColorSpace::assign_ColorSpaceTINTORA(const ColorSpaceTINTORAType& value) { return get_ColorSpaceTINTORA() = value; }
+ColorSpaceTINTORAType& sg_ColorSpace::assign_ColorSpaceTINTORA(const ColorSpaceTINTORAType& value) { ColorSpaceTINTORAType copy(value); ColorSpaceTINTORAType& target = get_ColorSpaceTINTORA(); target.swap(copy); return target; }
 ColorSpaceGenericType& sg_ColorSpace::get_ColorSpaceGeneric() { return *static_cast<ColorSpaceGenericType*>(lmx::choose(k_class, k_items[item_ColorSpaceGeneric], this)); }
-ColorSpaceGenericType& sg_ColorSpace::assign_ColorSpaceGeneric(const ColorSpaceGenericType& value) { return get_ColorSpaceGeneric() = value; }
+ColorSpaceGenericType& sg_ColorSpace::assign_ColorSpaceGeneric(const ColorSpaceGenericType& value) { ColorSpaceGenericType copy(value); ColorSpaceGenericType& target = get_ColorSpaceGeneric(); target.swap(copy); return target; }
 ColorSpaceEmissiveGenericType& sg_ColorSpace::get_ColorSpaceEmissiveGeneric() { return *static_cast<ColorSpaceEmissiveGenericType*>(lmx::choose(k_class, k_items[item_ColorSpaceEmissiveGeneric], this)); }
-ColorSpaceEmissiveGenericType& sg_ColorSpace::assign_ColorSpaceEmissiveGeneric(const ColorSpaceEmissiveGenericType& value) { return get_ColorSpaceEmissiveGeneric() = value; }
+ColorSpaceEmissiveGenericType& sg_ColorSpace::assign_ColorSpaceEmissiveGeneric(const ColorSpaceEmissiveGenericType& value) { ColorSpaceEmissiveGenericType copy(value); ColorSpaceEmissiveGenericType& target = get_ColorSpaceEmissiveGeneric(); target.swap(copy); return target; }
 ColorSpaceDensityType& sg_ColorSpace::get_ColorSpaceDensity() { return *static_cast<ColorSpaceDensityType*>(lmx::choose(k_class, k_items[item_ColorSpaceDensity], this)); }
-ColorSpaceDensityType& sg_ColorSpace::assign_ColorSpaceDensity(const ColorSpaceDensityType& value) { return get_ColorSpaceDensity() = value; }
+ColorSpaceDensityType& sg_ColorSpace::assign_ColorSpaceDensity(const ColorSpaceDensityType& value) { ColorSpaceDensityType copy(value); ColorSpaceDensityType& target = get_ColorSpaceDensity(); target.swap(copy); return target; }
 ColorSpaceRGBType& sg_ColorSpace::get_ColorSpaceRGB() { return *static_cast<ColorSpaceRGBType*>(lmx::choose(k_class, k_items[item_ColorSpaceRGB], this)); }
-ColorSpaceRGBType& sg_ColorSpace::assign_ColorSpaceRGB(const ColorSpaceRGBType& value) { return get_ColorSpaceRGB() = value; }
+ColorSpaceRGBType& sg_ColorSpace::assign_ColorSpaceRGB(const ColorSpaceRGBType& value) { ColorSpaceRGBType copy(value); ColorSpaceRGBType& target = get_ColorSpaceRGB(); target.swap(copy); return target; }
 ColorSpaceSRGBType& sg_ColorSpace::get_ColorSpaceSRGB() { return *static_cast<ColorSpaceSRGBType*>(lmx::choose(k_class, k_items[item_ColorSpaceSRGB], this)); }
-ColorSpaceSRGBType& sg_ColorSpace::assign_ColorSpaceSRGB(const ColorSpaceSRGBType& value) { return get_ColorSpaceSRGB() = value; }
+ColorSpaceSRGBType& sg_ColorSpace::assign_ColorSpaceSRGB(const ColorSpaceSRGBType& value) { ColorSpaceSRGBType copy(value); ColorSpaceSRGBType& target = get_ColorSpaceSRGB(); target.swap(copy); return target; }
 ColorSpaceAdobeRGBType& sg_ColorSpace::get_ColorSpaceAdobeRGB() { return *static_cast<ColorSpaceAdobeRGBType*>(lmx::choose(k_class, k_items[item_ColorSpaceAdobeRGB], this)); }
-ColorSpaceAdobeRGBType& sg_ColorSpace::assign_ColorSpaceAdobeRGB(const ColorSpaceAdobeRGBType& value) { return get_ColorSpaceAdobeRGB() = value; }
+ColorSpaceAdobeRGBType& sg_ColorSpace::assign_ColorSpaceAdobeRGB(const ColorSpaceAdobeRGBType& value) { ColorSpaceAdobeRGBType copy(value); ColorSpaceAdobeRGBType& target = get_ColorSpaceAdobeRGB(); target.swap(copy); return target; }
 ColorSpaceCMYKPlusNType& sg_ColorSpace::get_ColorSpaceCMYKPlusN() { return *static_cast<ColorSpaceCMYKPlusNType*>(lmx::choose(k_class, k_items[item_ColorSpaceCMYKPlusN], this)); }
-ColorSpaceCMYKPlusNType& sg_ColorSpace::assign_ColorSpaceCMYKPlusN(const ColorSpaceCMYKPlusNType& value) { return get_ColorSpaceCMYKPlusN() = value; }
+ColorSpaceCMYKPlusNType& sg_ColorSpace::assign_ColorSpaceCMYKPlusN(const ColorSpaceCMYKPlusNType& value) { ColorSpaceCMYKPlusNType copy(value); ColorSpaceCMYKPlusNType& target = get_ColorSpaceCMYKPlusN(); target.swap(copy); return target; }
 ColorSpaceAdobeWideGamutRGBType& sg_ColorSpace::get_ColorSpaceAdobeWideGamutRGB() { return *static_cast<ColorSpaceAdobeWideGamutRGBType*>(lmx::choose(k_class, k_items[item_ColorSpaceAdobeWideGamutRGB], this)); }
-ColorSpaceAdobeWideGamutRGBType& sg_ColorSpace::assign_ColorSpaceAdobeWideGamutRGB(const ColorSpaceAdobeWideGamutRGBType& value) { return get_ColorSpaceAdobeWideGamutRGB() = value; }
+ColorSpaceAdobeWideGamutRGBType& sg_ColorSpace::assign_ColorSpaceAdobeWideGamutRGB(const ColorSpaceAdobeWideGamutRGBType& value) { ColorSpaceAdobeWideGamutRGBType copy(value); ColorSpaceAdobeWideGamutRGBType& target = get_ColorSpaceAdobeWideGamutRGB(); target.swap(copy); return target; }
 ColorSpaceSpectralType& sg_ColorSpace::get_ColorSpaceSpectral() { return *static_cast<ColorSpaceSpectralType*>(lmx::choose(k_class, k_items[item_ColorSpaceSpectral], this)); }
-ColorSpaceSpectralType& sg_ColorSpace::assign_ColorSpaceSpectral(const ColorSpaceSpectralType& value) { return get_ColorSpaceSpectral() = value; }
+ColorSpaceSpectralType& sg_ColorSpace::assign_ColorSpaceSpectral(const ColorSpaceSpectralType& value) { ColorSpaceSpectralType copy(value); ColorSpaceSpectralType& target = get_ColorSpaceSpectral(); target.swap(copy); return target; }
 ColorSpaceEmissiveSpectralType& sg_ColorSpace::get_ColorSpaceEmissiveSpectral() { return *static_cast<ColorSpaceEmissiveSpectralType*>(lmx::choose(k_class, k_items[item_ColorSpaceEmissiveSpectral], this)); }
-ColorSpaceEmissiveSpectralType& sg_ColorSpace::assign_ColorSpaceEmissiveSpectral(const ColorSpaceEmissiveSpectralType& value) { return get_ColorSpaceEmissiveSpectral() = value; }
+ColorSpaceEmissiveSpectralType& sg_ColorSpace::assign_ColorSpaceEmissiveSpectral(const ColorSpaceEmissiveSpectralType& value) { ColorSpaceEmissiveSpectralType copy(value); ColorSpaceEmissiveSpectralType& target = get_ColorSpaceEmissiveSpectral(); target.swap(copy); return target; }
 ColorSpaceCIELabType& sg_ColorSpace::get_ColorSpaceCIELab() { return *static_cast<ColorSpaceCIELabType*>(lmx::choose(k_class, k_items[item_ColorSpaceCIELab], this)); }
-ColorSpaceCIELabType& sg_ColorSpace::assign_ColorSpaceCIELab(const ColorSpaceCIELabType& value) { return get_ColorSpaceCIELab() = value; }
+ColorSpaceCIELabType& sg_ColorSpace::assign_ColorSpaceCIELab(const ColorSpaceCIELabType& value) { ColorSpaceCIELabType copy(value); ColorSpaceCIELabType& target = get_ColorSpaceCIELab(); target.swap(copy); return target; }
 ColorSpaceCIELChType& sg_ColorSpace::get_ColorSpaceCIELCh() { return *static_cast<ColorSpaceCIELChType*>(lmx::choose(k_class, k_items[item_ColorSpaceCIELCh], this)); }
-ColorSpaceCIELChType& sg_ColorSpace::assign_ColorSpaceCIELCh(const ColorSpaceCIELChType& value) { return get_ColorSpaceCIELCh() = value; }
+ColorSpaceCIELChType& sg_ColorSpace::assign_ColorSpaceCIELCh(const ColorSpaceCIELChType& value) { ColorSpaceCIELChType copy(value); ColorSpaceCIELChType& target = get_ColorSpaceCIELCh(); target.swap(copy); return target; }
 ColorSpaceCIEXYZType& sg_ColorSpace::get_ColorSpaceCIEXYZ() { return *static_cast<ColorSpaceCIEXYZType*>(lmx::choose(k_class, k_items[item_ColorSpaceCIEXYZ], this)); }
-ColorSpaceCIEXYZType& sg_ColorSpace::assign_ColorSpaceCIEXYZ(const ColorSpaceCIEXYZType& value) { return get_ColorSpaceCIEXYZ() = value; }
+ColorSpaceCIEXYZType& sg_ColorSpace::assign_ColorSpaceCIEXYZ(const ColorSpaceCIEXYZType& value) { ColorSpaceCIEXYZType copy(value); ColorSpaceCIEXYZType& target = get_ColorSpaceCIEXYZ(); target.swap(copy); return target; }
 ColorSpaceEmissiveCIEXYZType& sg_ColorSpace::get_ColorSpaceEmissiveCIEXYZ() { return *static_cast<ColorSpaceEmissiveCIEXYZType*>(lmx::choose(k_class, k_items[item_ColorSpaceEmissiveCIEXYZ], this)); }
-ColorSpaceEmissiveCIEXYZType& sg_ColorSpace::assign_ColorSpaceEmissiveCIEXYZ(const ColorSpaceEmissiveCIEXYZType& value) { return get_ColorSpaceEmissiveCIEXYZ() = value; }
+ColorSpaceEmissiveCIEXYZType& sg_ColorSpace::assign_ColorSpaceEmissiveCIEXYZ(const ColorSpaceEmissiveCIEXYZType& value) { ColorSpaceEmissiveCIEXYZType copy(value); ColorSpaceEmissiveCIEXYZType& target = get_ColorSpaceEmissiveCIEXYZ(); target.swap(copy); return target; }
 ColorSpaceCIExyYType& sg_ColorSpace::get_ColorSpaceCIExyY() { return *static_cast<ColorSpaceCIExyYType*>(lmx::choose(k_class, k_items[item_ColorSpaceCIExyY], this)); }
-ColorSpaceCIExyYType& sg_ColorSpace::assign_ColorSpaceCIExyY(const ColorSpaceCIExyYType& value) { return get_ColorSpaceCIExyY() = value; }
+ColorSpaceCIExyYType& sg_ColorSpace::assign_ColorSpaceCIExyY(const ColorSpaceCIExyYType& value) { ColorSpaceCIExyYType copy(value); ColorSpaceCIExyYType& target = get_ColorSpaceCIExyY(); target.swap(copy); return target; }
 ColorSpaceEmissiveCIExyYType& sg_ColorSpace::get_ColorSpaceEmissiveCIExyY() { return *static_cast<ColorSpaceEmissiveCIExyYType*>(lmx::choose(k_class, k_items[item_ColorSpaceEmissiveCIExyY], this)); }
-ColorSpaceEmissiveCIExyYType& sg_ColorSpace::assign_ColorSpaceEmissiveCIExyY(const ColorSpaceEmissiveCIExyYType& value) { return get_ColorSpaceEmissiveCIExyY() = value; }
+ColorSpaceEmissiveCIExyYType& sg_ColorSpace::assign_ColorSpaceEmissiveCIExyY(const ColorSpaceEmissiveCIExyYType& value) { ColorSpaceEmissiveCIExyYType copy(value); ColorSpaceEmissiveCIExyYType& target = get_ColorSpaceEmissiveCIExyY(); target.swap(copy); return target; }
 ColorSpaceCIELuvType& sg_ColorSpace::get_ColorSpaceCIELuv() { return *static_cast<ColorSpaceCIELuvType*>(lmx::choose(k_class, k_items[item_ColorSpaceCIELuv], this)); }
-ColorSpaceCIELuvType& sg_ColorSpace::assign_ColorSpaceCIELuv(const ColorSpaceCIELuvType& value) { return get_ColorSpaceCIELuv() = value; }
+ColorSpaceCIELuvType& sg_ColorSpace::assign_ColorSpaceCIELuv(const ColorSpaceCIELuvType& value) { ColorSpaceCIELuvType copy(value); ColorSpaceCIELuvType& target = get_ColorSpaceCIELuv(); target.swap(copy); return target; }
 ColorSpaceHSLType& sg_ColorSpace::get_ColorSpaceHSL() { return *static_cast<ColorSpaceHSLType*>(lmx::choose(k_class, k_items[item_ColorSpaceHSL], this)); }
-ColorSpaceHSLType& sg_ColorSpace::assign_ColorSpaceHSL(const ColorSpaceHSLType& value) { return get_ColorSpaceHSL() = value; }
+ColorSpaceHSLType& sg_ColorSpace::assign_ColorSpaceHSL(const ColorSpaceHSLType& value) { ColorSpaceHSLType copy(value); ColorSpaceHSLType& target = get_ColorSpaceHSL(); target.swap(copy); return target; }
 ColorSpaceHSVType& sg_ColorSpace::get_ColorSpaceHSV() { return *static_cast<ColorSpaceHSVType*>(lmx::choose(k_class, k_items[item_ColorSpaceHSV], this)); }
-ColorSpaceHSVType& sg_ColorSpace::assign_ColorSpaceHSV(const ColorSpaceHSVType& value) { return get_ColorSpaceHSV() = value; }
+ColorSpaceHSVType& sg_ColorSpace::assign_ColorSpaceHSV(const ColorSpaceHSVType& value) { ColorSpaceHSVType copy(value); ColorSpaceHSVType& target = get_ColorSpaceHSV(); target.swap(copy); return target; }
 ColorSpaceCMYKType& sg_ColorSpace::get_ColorSpaceCMYK() { return *static_cast<ColorSpaceCMYKType*>(lmx::choose(k_class, k_items[item_ColorSpaceCMYK], this)); }
-ColorSpaceCMYKType& sg_ColorSpace::assign_ColorSpaceCMYK(const ColorSpaceCMYKType& value) { return get_ColorSpaceCMYK() = value; }
-ColorSpaceCMYKType& sg_ColorSpace::assign_ColorSpaceCMYK(ColorSpaceCMYKType* value) { lmx::adopt(k_class, k_items[item_ColorSpaceCMYK], this, value); return *value; }
+ColorSpaceCMYKType& sg_ColorSpace::assign_ColorSpaceCMYK(const ColorSpaceCMYKType& value) { ColorSpaceCMYKType copy(value); ColorSpaceCMYKType& target = get_ColorSpaceCMYK(); target.swap(copy); return target; }
+ColorSpaceCMYKType& sg_ColorSpace::assign_ColorSpaceCMYK(ColorSpaceCMYKType* value) { static ColorSpaceCMYKType nothing; lmx::adopt(k_class, k_items[item_ColorSpaceCMYK], this, value); return value == nullptr ? nothing : *value; }
 ColorSpaceTINTORAOctavanticType& sg_ColorSpace::get_ColorSpaceTINTORAOctavantic() { return *static_cast<ColorSpaceTINTORAOctavanticType*>(lmx::choose(k_class, k_items[item_ColorSpaceTINTORAOctavantic], this)); }
-ColorSpaceTINTORAOctavanticType& sg_ColorSpace::assign_ColorSpaceTINTORAOctavantic(const ColorSpaceTINTORAOctavanticType& value) { return get_ColorSpaceTINTORAOctavantic() = value; }
+ColorSpaceTINTORAOctavanticType& sg_ColorSpace::assign_ColorSpaceTINTORAOctavantic(const ColorSpaceTINTORAOctavanticType& value) { ColorSpaceTINTORAOctavanticType copy(value); ColorSpaceTINTORAOctavanticType& target = get_ColorSpaceTINTORAOctavantic(); target.swap(copy); return target; }
 ColorSpaceYUVType& sg_ColorSpace::get_ColorSpaceYUV() { return *static_cast<ColorSpaceYUVType*>(lmx::choose(k_class, k_items[item_ColorSpaceYUV], this)); }
-ColorSpaceYUVType& sg_ColorSpace::assign_ColorSpaceYUV(const ColorSpaceYUVType& value) { return get_ColorSpaceYUV() = value; }
+ColorSpaceYUVType& sg_ColorSpace::assign_ColorSpaceYUV(const ColorSpaceYUVType& value) { ColorSpaceYUVType copy(value); ColorSpaceYUVType& target = get_ColorSpaceYUV(); target.swap(copy); return target; }
 ColorSpaceYIQType& sg_ColorSpace::get_ColorSpaceYIQ() { return *static_cast<ColorSpaceYIQType*>(lmx::choose(k_class, k_items[item_ColorSpaceYIQ], this)); }
-ColorSpaceYIQType& sg_ColorSpace::assign_ColorSpaceYIQ(const ColorSpaceYIQType& value) { return get_ColorSpaceYIQ() = value; }
+ColorSpaceYIQType& sg_ColorSpace::assign_ColorSpaceYIQ(const ColorSpaceYIQType& value) { ColorSpaceYIQType copy(value); ColorSpaceYIQType& target = get_ColorSpaceYIQ(); target.swap(copy); return target; }
 ColorSpaceYBRType& sg_ColorSpace::get_ColorSpaceYBR() { return *static_cast<ColorSpaceYBRType*>(lmx::choose(k_class, k_items[item_ColorSpaceYBR], this)); }
-ColorSpaceYBRType& sg_ColorSpace::assign_ColorSpaceYBR(const ColorSpaceYBRType& value) { return get_ColorSpaceYBR() = value; }
+ColorSpaceYBRType& sg_ColorSpace::assign_ColorSpaceYBR(const ColorSpaceYBRType& value) { ColorSpaceYBRType copy(value); ColorSpaceYBRType& target = get_ColorSpaceYBR(); target.swap(copy); return target; }
 ColorSpaceNCSType& sg_ColorSpace::get_ColorSpaceNCS() { return *static_cast<ColorSpaceNCSType*>(lmx::choose(k_class, k_items[item_ColorSpaceNCS], this)); }
-ColorSpaceNCSType& sg_ColorSpace::assign_ColorSpaceNCS(const ColorSpaceNCSType& value) { return get_ColorSpaceNCS() = value; }
+ColorSpaceNCSType& sg_ColorSpace::assign_ColorSpaceNCS(const ColorSpaceNCSType& value) { ColorSpaceNCSType copy(value); ColorSpaceNCSType& target = get_ColorSpaceNCS(); target.swap(copy); return target; }
 ColorSpaceMunsellType& sg_ColorSpace::get_ColorSpaceMunsell() { return *static_cast<ColorSpaceMunsellType*>(lmx::choose(k_class, k_items[item_ColorSpaceMunsell], this)); }
-ColorSpaceMunsellType& sg_ColorSpace::assign_ColorSpaceMunsell(const ColorSpaceMunsellType& value) { return get_ColorSpaceMunsell() = value; }
+ColorSpaceMunsellType& sg_ColorSpace::assign_ColorSpaceMunsell(const ColorSpaceMunsellType& value) { ColorSpaceMunsellType copy(value); ColorSpaceMunsellType& target = get_ColorSpaceMunsell(); target.swap(copy); return target; }
 
 // sg_Substrate
 
@@ -278,23 +278,23 @@ bool sg_Substrate::unmarshal(lmx::c_xml_reader& reader, std::string* name, lmx::
 void sg_Substrate::marshal_attributes(lmx::c_xml_writer& writer) const { lmx::marshal_attributes(k_class, this, writer); }
 lmx::elmx_error sg_Substrate::marshal_child_elements(lmx::c_xml_writer& writer) const { return lmx::marshal_child_elements(k_class, this, writer); }
 SubstratePaperType& sg_Substrate::get_SubstratePaper() { return *static_cast<SubstratePaperType*>(lmx::choose(k_class, k_items[item_SubstratePaper], this)); }
-SubstratePaperType& sg_Substrate::assign_SubstratePaper(const SubstratePaperType& value) { return get_SubstratePaper() = value; }
+SubstratePaperType& sg_Substrate::assign_SubstratePaper(const SubstratePaperType& value) { SubstratePaperType copy(value); SubstratePaperType& target = get_SubstratePaper(); target.swap(copy); return target; }
 SubstrateGenericType& sg_Substrate::get_SubstrateGeneric() { return *static_cast<SubstrateGenericType*>(lmx::choose(k_class, k_items[item_SubstrateGeneric], this)); }
-SubstrateGenericType& sg_Substrate::assign_SubstrateGeneric(const SubstrateGenericType& value) { return get_SubstrateGeneric() = value; }
+SubstrateGenericType& sg_Substrate::assign_SubstrateGeneric(const SubstrateGenericType& value) { SubstrateGenericType copy(value); SubstrateGenericType& target = get_SubstrateGeneric(); target.swap(copy); return target; }
 SubstrateMetalType& sg_Substrate::get_SubstrateMetal() { return *static_cast<SubstrateMetalType*>(lmx::choose(k_class, k_items[item_SubstrateMetal], this)); }
-SubstrateMetalType& sg_Substrate::assign_SubstrateMetal(const SubstrateMetalType& value) { return get_SubstrateMetal() = value; }
+SubstrateMetalType& sg_Substrate::assign_SubstrateMetal(const SubstrateMetalType& value) { SubstrateMetalType copy(value); SubstrateMetalType& target = get_SubstrateMetal(); target.swap(copy); return target; }
 SubstratePlasticType& sg_Substrate::get_SubstratePlastic() { return *static_cast<SubstratePlasticType*>(lmx::choose(k_class, k_items[item_SubstratePlastic], this)); }
-SubstratePlasticType& sg_Substrate::assign_SubstratePlastic(const SubstratePlasticType& value) { return get_SubstratePlastic() = value; }
+SubstratePlasticType& sg_Substrate::assign_SubstratePlastic(const SubstratePlasticType& value) { SubstratePlasticType copy(value); SubstratePlasticType& target = get_SubstratePlastic(); target.swap(copy); return target; }
 SubstrateWoodType& sg_Substrate::get_SubstrateWood() { return *static_cast<SubstrateWoodType*>(lmx::choose(k_class, k_items[item_SubstrateWood], this)); }
-SubstrateWoodType& sg_Substrate::assign_SubstrateWood(const SubstrateWoodType& value) { return get_SubstrateWood() = value; }
+SubstrateWoodType& sg_Substrate::assign_SubstrateWood(const SubstrateWoodType& value) { SubstrateWoodType copy(value); SubstrateWoodType& target = get_SubstrateWood(); target.swap(copy); return target; }
 SubstrateVinylType& sg_Substrate::get_SubstrateVinyl() { return *static_cast<SubstrateVinylType*>(lmx::choose(k_class, k_items[item_SubstrateVinyl], this)); }
-SubstrateVinylType& sg_Substrate::assign_SubstrateVinyl(const SubstrateVinylType& value) { return get_SubstrateVinyl() = value; }
+SubstrateVinylType& sg_Substrate::assign_SubstrateVinyl(const SubstrateVinylType& value) { SubstrateVinylType copy(value); SubstrateVinylType& target = get_SubstrateVinyl(); target.swap(copy); return target; }
 SubstrateTileType& sg_Substrate::get_SubstrateTile() { return *static_cast<SubstrateTileType*>(lmx::choose(k_class, k_items[item_SubstrateTile], this)); }
-SubstrateTileType& sg_Substrate::assign_SubstrateTile(const SubstrateTileType& value) { return get_SubstrateTile() = value; }
+SubstrateTileType& sg_Substrate::assign_SubstrateTile(const SubstrateTileType& value) { SubstrateTileType copy(value); SubstrateTileType& target = get_SubstrateTile(); target.swap(copy); return target; }
 SubstrateFilmType& sg_Substrate::get_SubstrateFilm() { return *static_cast<SubstrateFilmType*>(lmx::choose(k_class, k_items[item_SubstrateFilm], this)); }
-SubstrateFilmType& sg_Substrate::assign_SubstrateFilm(const SubstrateFilmType& value) { return get_SubstrateFilm() = value; }
+SubstrateFilmType& sg_Substrate::assign_SubstrateFilm(const SubstrateFilmType& value) { SubstrateFilmType copy(value); SubstrateFilmType& target = get_SubstrateFilm(); target.swap(copy); return target; }
 SubstrateTextileType& sg_Substrate::get_SubstrateTextile() { return *static_cast<SubstrateTextileType*>(lmx::choose(k_class, k_items[item_SubstrateTextile], this)); }
-SubstrateTextileType& sg_Substrate::assign_SubstrateTextile(const SubstrateTextileType& value) { return get_SubstrateTextile() = value; }
+SubstrateTextileType& sg_Substrate::assign_SubstrateTextile(const SubstrateTextileType& value) { SubstrateTextileType copy(value); SubstrateTextileType& target = get_SubstrateTextile(); target.swap(copy); return target; }
 
 // sg_Sample
 
@@ -343,9 +343,9 @@ bool sg_Sample::unmarshal(lmx::c_xml_reader& reader, std::string* name, lmx::elm
 void sg_Sample::marshal_attributes(lmx::c_xml_writer& writer) const { lmx::marshal_attributes(k_class, this, writer); }
 lmx::elmx_error sg_Sample::marshal_child_elements(lmx::c_xml_writer& writer) const { return lmx::marshal_child_elements(k_class, this, writer); }
 SampleSpotType& sg_Sample::get_SampleSpot() { return *static_cast<SampleSpotType*>(lmx::choose(k_class, k_items[item_SampleSpot], this)); }
-SampleSpotType& sg_Sample::assign_SampleSpot(const SampleSpotType& value) { return get_SampleSpot() = value; }
+SampleSpotType& sg_Sample::assign_SampleSpot(const SampleSpotType& value) { SampleSpotType copy(value); SampleSpotType& target = get_SampleSpot(); target.swap(copy); return target; }
 SampleTargetType& sg_Sample::get_SampleTarget() { return *static_cast<SampleTargetType*>(lmx::choose(k_class, k_items[item_SampleTarget], this)); }
-SampleTargetType& sg_Sample::assign_SampleTarget(const SampleTargetType& value) { return get_SampleTarget() = value; }
+SampleTargetType& sg_Sample::assign_SampleTarget(const SampleTargetType& value) { SampleTargetType copy(value); SampleTargetType& target = get_SampleTarget(); target.swap(copy); return target; }
 
 // sg_Function
 
@@ -442,41 +442,41 @@ bool sg_Function::unmarshal(lmx::c_xml_reader& reader, std::string* name, lmx::e
 void sg_Function::marshal_attributes(lmx::c_xml_writer& writer) const { lmx::marshal_attributes(k_class, this, writer); }
 lmx::elmx_error sg_Function::marshal_child_elements(lmx::c_xml_writer& writer) const { return lmx::marshal_child_elements(k_class, this, writer); }
 FunctionType& sg_Function::get_Function() { return *static_cast<FunctionType*>(lmx::choose(k_class, k_items[item_Function], this)); }
-FunctionType& sg_Function::assign_Function(const FunctionType& value) { return get_Function() = value; }
-FunctionType& sg_Function::assign_Function(FunctionType* value) { lmx::adopt(k_class, k_items[item_Function], this, value); return *value; }
+FunctionType& sg_Function::assign_Function(const FunctionType& value) { FunctionType copy(value); FunctionType& target = get_Function(); target.swap(copy); return target; }
+FunctionType& sg_Function::assign_Function(FunctionType* value) { static FunctionType nothing; lmx::adopt(k_class, k_items[item_Function], this, value); return value == nullptr ? nothing : *value; }
 FunctionGenericType& sg_Function::get_FunctionGeneric() { return *static_cast<FunctionGenericType*>(lmx::choose(k_class, k_items[item_FunctionGeneric], this)); }
-FunctionGenericType& sg_Function::assign_FunctionGeneric(const FunctionGenericType& value) { return get_FunctionGeneric() = value; }
+FunctionGenericType& sg_Function::assign_FunctionGeneric(const FunctionGenericType& value) { FunctionGenericType copy(value); FunctionGenericType& target = get_FunctionGeneric(); target.swap(copy); return target; }
 FunctionDEType& sg_Function::get_FunctionDE() { return *static_cast<FunctionDEType*>(lmx::choose(k_class, k_items[item_FunctionDE], this)); }
-FunctionDEType& sg_Function::assign_FunctionDE(const FunctionDEType& value) { return get_FunctionDE() = value; }
+FunctionDEType& sg_Function::assign_FunctionDE(const FunctionDEType& value) { FunctionDEType copy(value); FunctionDEType& target = get_FunctionDE(); target.swap(copy); return target; }
 FunctionMeanDEType& sg_Function::get_FunctionMeanDE() { return *static_cast<FunctionMeanDEType*>(lmx::choose(k_class, k_items[item_FunctionMeanDE], this)); }
-FunctionMeanDEType& sg_Function::assign_FunctionMeanDE(const FunctionMeanDEType& value) { return get_FunctionMeanDE() = value; }
+FunctionMeanDEType& sg_Function::assign_FunctionMeanDE(const FunctionMeanDEType& value) { FunctionMeanDEType copy(value); FunctionMeanDEType& target = get_FunctionMeanDE(); target.swap(copy); return target; }
 FunctionDE94Type& sg_Function::get_FunctionDE94() { return *static_cast<FunctionDE94Type*>(lmx::choose(k_class, k_items[item_FunctionDE94], this)); }
-FunctionDE94Type& sg_Function::assign_FunctionDE94(const FunctionDE94Type& value) { return get_FunctionDE94() = value; }
+FunctionDE94Type& sg_Function::assign_FunctionDE94(const FunctionDE94Type& value) { FunctionDE94Type copy(value); FunctionDE94Type& target = get_FunctionDE94(); target.swap(copy); return target; }
 FunctionDE2000Type& sg_Function::get_FunctionDE2000() { return *static_cast<FunctionDE2000Type*>(lmx::choose(k_class, k_items[item_FunctionDE2000], this)); }
-FunctionDE2000Type& sg_Function::assign_FunctionDE2000(const FunctionDE2000Type& value) { return get_FunctionDE2000() = value; }
+FunctionDE2000Type& sg_Function::assign_FunctionDE2000(const FunctionDE2000Type& value) { FunctionDE2000Type copy(value); FunctionDE2000Type& target = get_FunctionDE2000(); target.swap(copy); return target; }
 FunctionDEcmcType& sg_Function::get_FunctionDECMC() { return *static_cast<FunctionDEcmcType*>(lmx::choose(k_class, k_items[item_FunctionDECMC], this)); }
-FunctionDEcmcType& sg_Function::assign_FunctionDECMC(const FunctionDEcmcType& value) { return get_FunctionDECMC() = value; }
+FunctionDEcmcType& sg_Function::assign_FunctionDECMC(const FunctionDEcmcType& value) { FunctionDEcmcType copy(value); FunctionDEcmcType& target = get_FunctionDECMC(); target.swap(copy); return target; }
 FunctionStdDevXType& sg_Function::get_FunctionStdDevX() { return *static_cast<FunctionStdDevXType*>(lmx::choose(k_class, k_items[item_FunctionStdDevX], this)); }
-FunctionStdDevXType& sg_Function::assign_FunctionStdDevX(const FunctionStdDevXType& value) { return get_FunctionStdDevX() = value; }
+FunctionStdDevXType& sg_Function::assign_FunctionStdDevX(const FunctionStdDevXType& value) { FunctionStdDevXType copy(value); FunctionStdDevXType& target = get_FunctionStdDevX(); target.swap(copy); return target; }
 FunctionStdDevYType& sg_Function::get_FunctionStdDevY() { return *static_cast<FunctionStdDevYType*>(lmx::choose(k_class, k_items[item_FunctionStdDevY], this)); }
-FunctionStdDevYType& sg_Function::assign_FunctionStdDevY(const FunctionStdDevYType& value) { return get_FunctionStdDevY() = value; }
+FunctionStdDevYType& sg_Function::assign_FunctionStdDevY(const FunctionStdDevYType& value) { FunctionStdDevYType copy(value); FunctionStdDevYType& target = get_FunctionStdDevY(); target.swap(copy); return target; }
 FunctionStdDevZType& sg_Function::get_FunctionStdDevZ() { return *static_cast<FunctionStdDevZType*>(lmx::choose(k_class, k_items[item_FunctionStdDevZ], this)); }
-FunctionStdDevZType& sg_Function::assign_FunctionStdDevZ(const FunctionStdDevZType& value) { return get_FunctionStdDevZ() = value; }
+FunctionStdDevZType& sg_Function::assign_FunctionStdDevZ(const FunctionStdDevZType& value) { FunctionStdDevZType copy(value); FunctionStdDevZType& target = get_FunctionStdDevZ(); target.swap(copy); return target; }
 FunctionStdDevLType& sg_Function::get_FunctionStdDevL() { return *static_cast<FunctionStdDevLType*>(lmx::choose(k_class, k_items[item_FunctionStdDevL], this)); }
-FunctionStdDevLType& sg_Function::assign_FunctionStdDevL(const FunctionStdDevLType& value) { return get_FunctionStdDevL() = value; }
+FunctionStdDevLType& sg_Function::assign_FunctionStdDevL(const FunctionStdDevLType& value) { FunctionStdDevLType copy(value); FunctionStdDevLType& target = get_FunctionStdDevL(); target.swap(copy); return target; }
 FunctionStdDevAType& sg_Function::get_FunctionStdDevA() { return *static_cast<FunctionStdDevAType*>(lmx::choose(k_class, k_items[item_FunctionStdDevA], this)); }
-FunctionStdDevAType& sg_Function::assign_FunctionStdDevA(const FunctionStdDevAType& value) { return get_FunctionStdDevA() = value; }
+FunctionStdDevAType& sg_Function::assign_FunctionStdDevA(const FunctionStdDevAType& value) { FunctionStdDevAType copy(value); FunctionStdDevAType& target = get_FunctionStdDevA(); target.swap(copy); return target; }
 FunctionStdDevBType& sg_Function::get_FunctionStdDevB() { return *static_cast<FunctionStdDevBType*>(lmx::choose(k_class, k_items[item_FunctionStdDevB], this)); }
-FunctionStdDevBType& sg_Function::assign_FunctionStdDevB(const FunctionStdDevBType& value) { return get_FunctionStdDevB() = value; }
+FunctionStdDevBType& sg_Function::assign_FunctionStdDevB(const FunctionStdDevBType& value) { FunctionStdDevBType copy(value); FunctionStdDevBType& target = get_FunctionStdDevB(); target.swap(copy); return target; }
 FunctionStdDevCType& sg_Function::get_FunctionStdDevC() { return *static_cast<FunctionStdDevCType*>(lmx::choose(k_class, k_items[item_FunctionStdDevC], this)); }
-FunctionStdDevCType& sg_Function::assign_FunctionStdDevC(const FunctionStdDevCType& value) { return get_FunctionStdDevC() = value; }
+FunctionStdDevCType& sg_Function::assign_FunctionStdDevC(const FunctionStdDevCType& value) { FunctionStdDevCType copy(value); FunctionStdDevCType& target = get_FunctionStdDevC(); target.swap(copy); return target; }
 FunctionStdDevHType& sg_Function::get_FunctionStdDevH() { return *static_cast<FunctionStdDevHType*>(lmx::choose(k_class, k_items[item_FunctionStdDevH], this)); }
-FunctionStdDevHType& sg_Function::assign_FunctionStdDevH(const FunctionStdDevHType& value) { return get_FunctionStdDevH() = value; }
+FunctionStdDevHType& sg_Function::assign_FunctionStdDevH(const FunctionStdDevHType& value) { FunctionStdDevHType copy(value); FunctionStdDevHType& target = get_FunctionStdDevH(); target.swap(copy); return target; }
 FunctionAverageStdDevLType& sg_Function::get_FunctionAverageStdDevL() { return *static_cast<FunctionAverageStdDevLType*>(lmx::choose(k_class, k_items[item_FunctionAverageStdDevL], this)); }
-FunctionAverageStdDevLType& sg_Function::assign_FunctionAverageStdDevL(const FunctionAverageStdDevLType& value) { return get_FunctionAverageStdDevL() = value; }
+FunctionAverageStdDevLType& sg_Function::assign_FunctionAverageStdDevL(const FunctionAverageStdDevLType& value) { FunctionAverageStdDevLType copy(value); FunctionAverageStdDevLType& target = get_FunctionAverageStdDevL(); target.swap(copy); return target; }
 FunctionAverageStdDevAType& sg_Function::get_FunctionAverageStdDevA() { return *static_cast<FunctionAverageStdDevAType*>(lmx::choose(k_class, k_items[item_FunctionAverageStdDevA], this)); }
-FunctionAverageStdDevAType& sg_Function::assign_FunctionAverageStdDevA(const FunctionAverageStdDevAType& value) { return get_FunctionAverageStdDevA() = value; }
+FunctionAverageStdDevAType& sg_Function::assign_FunctionAverageStdDevA(const FunctionAverageStdDevAType& value) { FunctionAverageStdDevAType copy(value); FunctionAverageStdDevAType& target = get_FunctionAverageStdDevA(); target.swap(copy); return target; }
 FunctionAverageStdDevBType& sg_Function::get_FunctionAverageStdDevB() { return *static_cast<FunctionAverageStdDevBType*>(lmx::choose(k_class, k_items[item_FunctionAverageStdDevB], this)); }
-FunctionAverageStdDevBType& sg_Function::assign_FunctionAverageStdDevB(const FunctionAverageStdDevBType& value) { return get_FunctionAverageStdDevB() = value; }
+FunctionAverageStdDevBType& sg_Function::assign_FunctionAverageStdDevB(const FunctionAverageStdDevBType& value) { FunctionAverageStdDevBType copy(value); FunctionAverageStdDevBType& target = get_FunctionAverageStdDevB(); target.swap(copy); return target; }
 
 }  // namespace com_vyrgraph_v2

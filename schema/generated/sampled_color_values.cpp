@@ -611,7 +611,7 @@ bool AxisValueChoice::unmarshal_attributes(lmx::c_xml_reader& reader, const std:
 lmx::elmx_error AxisValueChoice::unmarshal_attributes_check(lmx::c_xml_reader& reader) { return lmx::check_required_attributes(k_class, this, reader); }
 bool AxisValueChoice::unmarshal_body(lmx::c_xml_reader& reader, std::string* name, lmx::elmx_error* error) { return lmx::unmarshal_body(k_class, this, reader, name, error); }
 FloatingPointValueType& AxisValueChoice::get_AxisFloatingPointValue() { return *static_cast<FloatingPointValueType*>(lmx::choose(k_class, k_items[item_AxisFloatingPointValue], this)); }
-FloatingPointValueType& AxisValueChoice::assign_AxisFloatingPointValue(const FloatingPointValueType& value) { return get_AxisFloatingPointValue() = value; }
+FloatingPointValueType& AxisValueChoice::assign_AxisFloatingPointValue(const FloatingPointValueType& value) { FloatingPointValueType copy(value); FloatingPointValueType& target = get_AxisFloatingPointValue(); target.swap(copy); return target; }
 const std::u16string& AxisValueChoice::get_AxisStringValue() const { return lmx::chosen_text(k_class, k_items[item_AxisStringValue], this); }
 lmx::elmx_error AxisValueChoice::set_AxisStringValue(const std::u16string& value) { return lmx::set_item(k_class, k_items[item_AxisStringValue], this, value); }
 

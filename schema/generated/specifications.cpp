@@ -502,7 +502,7 @@ lmx::elmx_error GeometryChoiceType::set_Angle(double value) { return lmx::set_it
 const std::u16string& GeometryChoiceType::get_UnknownGeometry() const { return lmx::chosen_text(k_class, k_items[item_UnknownGeometry], this); }
 lmx::elmx_error GeometryChoiceType::set_UnknownGeometry(const std::u16string& value) { return lmx::set_item(k_class, k_items[item_UnknownGeometry], this, value); }
 BSDFAngle& GeometryChoiceType::get_BSDFAngle() { return *static_cast<BSDFAngle*>(lmx::choose(k_class, k_items[item_BSDFAngle], this)); }
-BSDFAngle& GeometryChoiceType::assign_BSDFAngle(const BSDFAngle& value) { return get_BSDFAngle() = value; }
+BSDFAngle& GeometryChoiceType::assign_BSDFAngle(const BSDFAngle& value) { BSDFAngle copy(value); BSDFAngle& target = get_BSDFAngle(); target.swap(copy); return target; }
 
 // IlluminationOptionsType
 
@@ -563,9 +563,9 @@ lmx::elmx_error IlluminationOptionsType::unmarshal_attributes_check(lmx::c_xml_r
 bool IlluminationOptionsType::unmarshal_body(lmx::c_xml_reader& reader, std::string* name, lmx::elmx_error* error) { return lmx::unmarshal_body(k_class, this, reader, name, error); }
 lmx::elmx_error IlluminationOptionsType::set_Description(const std::u16string& value) { return lmx::set_item(k_class, k_items[item_Description], this, value); }
 Illuminant& IlluminationOptionsType::get_Illuminant() { return *static_cast<Illuminant*>(lmx::choose(k_class, k_items[item_Illuminant], this)); }
-Illuminant& IlluminationOptionsType::assign_Illuminant(const Illuminant& value) { return get_Illuminant() = value; }
+Illuminant& IlluminationOptionsType::assign_Illuminant(const Illuminant& value) { Illuminant copy(value); Illuminant& target = get_Illuminant(); target.swap(copy); return target; }
 WhitePointChromaticity& IlluminationOptionsType::get_WhitePointChromaticity() { return *static_cast<WhitePointChromaticity*>(lmx::choose(k_class, k_items[item_WhitePointChromaticity], this)); }
-WhitePointChromaticity& IlluminationOptionsType::assign_WhitePointChromaticity(const WhitePointChromaticity& value) { return get_WhitePointChromaticity() = value; }
+WhitePointChromaticity& IlluminationOptionsType::assign_WhitePointChromaticity(const WhitePointChromaticity& value) { WhitePointChromaticity copy(value); WhitePointChromaticity& target = get_WhitePointChromaticity(); target.swap(copy); return target; }
 lmx::elmx_error IlluminationOptionsType::set_ColorTemperature(std::uint32_t value) { return lmx::set_item(k_class, k_items[item_ColorTemperature], this, value); }
 
 // ColorSpaceSpecificationSpectrumGenericType

@@ -207,6 +207,8 @@ public:
     const DeviceFilter& get_DeviceFilter() const { return m_DeviceFilter; }
     DeviceFilter& get_DeviceFilter() { m_isset_DeviceFilter = true; return m_DeviceFilter; }
     DeviceFilter& assign_DeviceFilter(const DeviceFilter& value);
+    bool isset_DeviceFilter() const { return m_isset_DeviceFilter; }
+    void unset_DeviceFilter() { m_isset_DeviceFilter = false; }
 
     /// Whether polarising filters were used, or nil where it is unknown.
     const DevicePolarization& get_DevicePolarization() const { return m_DevicePolarization; }

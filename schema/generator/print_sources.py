@@ -251,10 +251,14 @@ def item_members(plan, made, item):
         row_name = f"k_items[item_{x}]"
         yield f"{kind}& {owner}::get_{x}() " \
               f"{{ return *static_cast<{kind}*>(lmx::choose(k_class, {row_name}, this)); }}"
-        yield f"{kind}& {owner}::assign_{x}(const {kind}& value) {{ return get_{x}() = value; }}"
+        # The copy comes first: choosing frees the former alternative, which the value may be a part of.
+        yield f"{kind}& {owner}::assign_{x}(const {kind}& value) " \
+              f"{{ {kind} copy(value); {kind}& target = get_{x}(); target.swap(copy); return target; }}"
         if plan.factory(plan.by_name[kind]):
+            # Null chooses the member without a value, which no reference can stand for.
             yield f"{kind}& {owner}::assign_{x}({kind}* value) " \
-                  f"{{ lmx::adopt(k_class, {row_name}, this, value); return *value; }}"
+                  f"{{ static {kind} nothing; lmx::adopt(k_class, {row_name}, this, value); " \
+                  f"return value == nullptr ? nothing : *value; }}"
     elif made.derives_from_group:
         yield f"{kind}& {owner}::assign_{x}(const {kind}& value) {{ return get_{x}().{kind}::operator=(value); }}"
     elif kind:
