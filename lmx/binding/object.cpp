@@ -46,9 +46,19 @@ void copy_list(const s_item& item, void* target, const void* source) {
     }
 }
 
+bool is_item_there(const s_item& item, const void* object) {
+    if (is_repeating(item)) return list_of(item, object).size() > 0;
+    if (is_set(item, object)) return true;
+    // A class that is a holder itself can be filled through the members it inherits, which know no flag.
+    return item.kind == item_kind::group && item.type->content == content_kind::group &&
+           is_occurs_ok(*item.type, &member<std::byte>(object, item.offset));
+}
+
 void copy_single(const s_item& item, void* target, const void* source) {
     if (item.kind == item_kind::marker) return;
-    if ((item.use & use_copied) == 0 && !is_set(item, source)) return;
+    // What is written without a look at its flag may be there without it.
+    const bool is_there = (item.use & use_written) != 0 ? is_item_there(item, source) : is_set(item, source);
+    if ((item.use & use_copied) == 0 && !is_there) return;
     if (item.type != nullptr) {
         item.type->operations->assign(&member<std::byte>(target, item.offset),
                                       &member<std::byte>(source, item.offset));
@@ -79,14 +89,6 @@ void copy_choice(const s_class& type, void* target, const void* source) {
     } else {
         choice_of(type, target) = from;
     }
-}
-
-bool is_item_there(const s_item& item, const void* object) {
-    if (is_repeating(item)) return list_of(item, object).size() > 0;
-    if (is_set(item, object)) return true;
-    // A class that is a holder itself can be filled through the members it inherits, which know no flag.
-    return item.kind == item_kind::group && item.type->content == content_kind::group &&
-           is_occurs_ok(*item.type, &member<std::byte>(object, item.offset));
 }
 
 bool has_asked_items(std::span<const s_item> items, const void* object) {
@@ -152,7 +154,13 @@ elmx_error set_simple(const s_class& type, const s_item& item, void* object, con
         const elmx_error code = check_value(*item.facets, value);
         if (code != ELMX_OK) return code;
     }
-    simple_storage<T>(type, item, object) = value;
+    // Choosing an alternative frees the former one, which the value may be a part of.
+    if (item.kind == item_kind::alternative) {
+        T copy = value;
+        simple_storage<T>(type, item, object) = std::move(copy);
+    } else {
+        simple_storage<T>(type, item, object) = value;
+    }
     mark_set(item, object);
     if (item.kind == item_kind::content && type.nil_flag != k_no_flag) {
         member<bool>(object, type.nil_flag) = false;

@@ -260,6 +260,33 @@ TEST(Objects, HoldersReplaceTheirMember) {
     EXPECT_EQ(v2::ParentColorSpace(parent).get_ColorSpace().getchosen(), 26);
 }
 
+TEST(Objects, AHolderThatIsAnElementKnowsAFlagAndItsMember) {
+    v2::ParentColorSpace parent;
+    EXPECT_FALSE(v2::ParentColorSpace(parent).is_occurs_ok());
+    parent.get_ColorSpaceNCS();
+    EXPECT_FALSE(parent.isset_ColorSpace());
+    EXPECT_TRUE(parent.is_occurs_ok());
+    EXPECT_EQ(v2::ParentColorSpace(parent).getchosen(), v2::sg_ColorSpace::e_ColorSpaceNCS);
+    parent.reset();
+    parent.get_ColorSpace();
+    EXPECT_TRUE(parent.isset_ColorSpace());
+    EXPECT_TRUE(parent.is_occurs_ok());
+    parent.unset_ColorSpace();
+    EXPECT_FALSE(parent.is_occurs_ok());
+}
+
+TEST(Objects, AnAlternativeMayBeSetFromAPartOfTheOneItReplaces) {
+    v2::sg_ColorSpace value;
+    auto& inner = value.get_ColorSpaceCMYK().get_ParentColorSpace().get_ColorSpaceNCS();
+    inner.set_ColorName(u"a name that is too long to lie in the string itself");
+    value.assign_ColorSpaceNCS(inner);
+    EXPECT_EQ(value.get_ColorSpaceNCS().get_ColorName(), u"a name that is too long to lie in the string itself");
+    v2::GeometryChoiceType geometry;
+    geometry.set_SphereGeometry(u"Sphere_Included");
+    geometry.set_UnknownGeometry(geometry.get_SphereGeometry());
+    EXPECT_EQ(geometry.get_UnknownGeometry(), u"Sphere_Included");
+}
+
 TEST(Objects, IdentitiesCompareByAddress) {
     const v2::ColorSpaceCMYK element;
     EXPECT_EQ(element.getid(), v2::ColorSpaceCMYKType::id);
