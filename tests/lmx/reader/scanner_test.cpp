@@ -192,7 +192,7 @@ TEST(Values, FollowTheWhiteSpaceMode) {
     const std::string text = "<a>  a \n\t&lt;b&#32;&#32;c&#x9;&#233; &#133;d  </a>";
     EXPECT_EQ(value_of(text, ELMX_WS_PRESERVE), "  a \n\t<b  c\t\xC3\xA9 \nd  |");
     EXPECT_EQ(value_of(text, ELMX_WS_REPLACE), "  a   <b  c \xC3\xA9  d  |");
-    // What stands for itself is no white space, but an owed blank comes ahead of it.
+    // A blank ahead of an escaped character is part of the value: it must come back as it was written.
     EXPECT_EQ(value_of(text, ELMX_WS_COLLAPSE), "a <b c \xC3\xA9 d|");
     EXPECT_EQ(value_of("<a>  a \n b  </a>", ELMX_WS_COLLAPSE), "a b|");
     EXPECT_EQ(value_of("<a>a<![CDATA[ \t ]]> b</a>", ELMX_WS_COLLAPSE), "a \t  b|");
