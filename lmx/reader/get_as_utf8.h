@@ -20,7 +20,7 @@ namespace lmx {
 
 /// Values that were given back, last in, first out. Three is the most that any layer gives back; a fourth would
 /// push out the oldest.
-class c_unget_buffer {
+class VYR_EXPORT c_unget_buffer {
 public:
     bool empty() const { return m_count == 0; }
     void clear() { m_count = 0; }

@@ -50,15 +50,15 @@ void c_get_for_xml::add_char_wsp(std::string* out, int c, bool from_char_ref) {
                 m_ws_pending = true;
                 break;
             }
-            append_behind_owed_blank(out, byte);
+            append_verbatim(out, std::string_view(&byte, 1));
             break;
     }
 }
 
-void c_get_for_xml::append_behind_owed_blank(std::string* out, char c) {
+void c_get_for_xml::append_verbatim(std::string* out, std::string_view text) {
     if (m_ws_pending && !out->empty()) *out += ' ';
     m_ws_pending = false;
-    *out += c;
+    *out += text;
 }
 
 void c_get_for_xml::take_plain_text(std::string* out) {
@@ -205,14 +205,13 @@ bool c_get_for_xml::insert_character_entity(c_entity_name_reader& reader, std::s
     if (value > k_highest_char_ref) return false;
     if (value == k_next_line || value == k_line_separator) {
         if (m_ws_mode == ELMX_WS_COLLAPSE && !m_normalise_char_refs) {
-            append_behind_owed_blank(out, '\n');
+            append_verbatim(out, "\n");
         } else {
             add_char_wsp(out, '\n', true);
         }
     } else if (value > 127) {
         char utf8[5];
-        // Stands for itself: a blank that is owed stays owed, and comes behind it.
-        *out += unicode_char_to_utf8(static_cast<int>(value), utf8);
+        append_verbatim(out, unicode_char_to_utf8(static_cast<int>(value), utf8));
     } else {
         add_char_wsp(out, static_cast<int>(value), true);
     }

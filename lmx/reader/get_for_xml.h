@@ -52,6 +52,10 @@ public:
     /// Appends a character by the mode in force.
     void add_char_wsp(std::string* out, int c, bool from_char_ref);
 
+    /// Appends what a reference stands for, white space or not: only a blank that is owed comes first. Collapsed
+    /// values must come back as they were written, and a blank ahead of an escaped character is part of them.
+    void append_verbatim(std::string* out, std::string_view text);
+
     /// The next character that is no white space.
     int get_non_ws() {
         const int c = get();
@@ -82,7 +86,6 @@ private:
     friend class c_dtd_util;
 
     int get_non_ws_behind(int c);
-    void append_behind_owed_blank(std::string* out, char c);
 
     bool read_decl_value(const char* rest_of_name, std::string* value);
 

@@ -420,7 +420,7 @@ bool c_xml::read_reference(c_entity_name_reader& reader, std::string* out) {
         has_semicolon = read_entity_name(reader);
     }
     if (const s_predefined_entity* const entity = find_predefined(m_entity_name)) {
-        *out += entity->character;
+        append_verbatim(out, std::string_view(&entity->character, 1));
         return charge_reference(0);
     }
     const std::string* const value = general_entities().find(m_entity_name);
@@ -470,7 +470,7 @@ bool c_xml::expand_in_place(const std::string& entity, std::string* out) {
             m_entity_name += static_cast<char>(reader.get());
             const bool has_semicolon = read_entity_name(reader);
             if (const s_predefined_entity* const predefined = find_predefined(m_entity_name)) {
-                *out += predefined->character;
+                append_verbatim(out, std::string_view(&predefined->character, 1));
                 if (!charge_reference(0)) return false;
             } else if (const std::string* const value = general_entities().find(m_entity_name)) {
                 if (!enter(*value)) return false;
