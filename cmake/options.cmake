@@ -26,6 +26,4 @@ endif()
 
 add_library(vyr_warnings INTERFACE)
 target_compile_options(vyr_warnings INTERFACE -Wall -Wextra -Wpedantic -Wconversion -Wshadow -Wnon-virtual-dtor
-                                              # g++ 12 sees overlaps in its own string concatenation
-                                              $<$<CXX_COMPILER_ID:GNU>:-Wno-restrict>
                                               $<$<BOOL:${VYR_WARNINGS_AS_ERRORS}>:-Werror>)
