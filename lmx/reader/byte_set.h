@@ -35,7 +35,12 @@ constexpr byte_set stops_outside(std::string_view bytes) {
 
 }  // namespace detail
 
-inline constexpr std::string_view k_white_space = " \t\n\v\f\r";
+/// The end of the run from `from` on: the first byte in `stops`, or the size.
+inline std::size_t run_length(std::string_view bytes, std::size_t from, const byte_set& stops) {
+    while (from < bytes.size() && !stops[static_cast<unsigned char>(bytes[from])]) ++from;
+    return from;
+}
+
 inline constexpr std::string_view k_name_bytes = "ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz0123456789.-_:";
 
 inline constexpr byte_set k_stops_of_text = detail::stops_at("<&");

@@ -273,36 +273,33 @@ bool c_get_as_utf8::set_encoding(const char* name) {
     return is_accepted;
 }
 
-/// The bytes that `get` would deliver unchanged: ASCII, and whole UTF-8 characters other than line ends.
-std::size_t c_get_as_utf8::run_length(std::string_view bytes, const byte_set& stops) const {
-    std::size_t i = 0;
-    for (;;) {
-        while (i < bytes.size() && !stops[static_cast<unsigned char>(bytes[i])]) ++i;
-        if (i == bytes.size() || m_encoding != enc_utf8) return i;
-        const int lead = static_cast<unsigned char>(bytes[i]);
-        const auto length = static_cast<std::size_t>(sequence_length(lead));
-        // A set that stops at all bytes over 127 but takes ASCII punctuation is one of text, which may go on.
-        if (lead < 0xC2 || lead > 0xF4 || bytes.size() - i < length || stops[';']) return i;
-        char sequence[5] = {};
-        for (std::size_t k = 0; k < length; ++k) {
-            sequence[k] = bytes[i + k];
-            if (k > 0 && (static_cast<unsigned char>(sequence[k]) & 0xC0) != 0x80) return i;
-        }
-        if (!is_valid_utf8_char_sequence(sequence) || is_line_end(sequence)) return i;
-        i += length;
+/// The length of the UTF-8 character that `get` would deliver as it stands; 0 if it wouldn't, or can't be seen whole.
+std::size_t c_get_as_utf8::plain_length(std::string_view bytes) const {
+    const int lead = static_cast<unsigned char>(bytes[0]);
+    const auto length = static_cast<std::size_t>(sequence_length(lead));
+    if (m_encoding != enc_utf8 || lead < 0xC2 || lead > 0xF4 || bytes.size() < length) return 0;
+    char sequence[5] = {bytes[0]};
+    for (std::size_t k = 1; k < length; ++k) {
+        sequence[k] = bytes[k];
+        if ((static_cast<unsigned char>(sequence[k]) & 0xC0) != 0x80) return 0;
     }
+    return is_valid_utf8_char_sequence(sequence) && !is_line_end(sequence) ? length : 0;
 }
 
 void c_get_as_utf8::take_run(const byte_set& stops, std::string* out) {
-    if (!is_fast() || m_last_char == '\r') return;
-    const std::string_view window(m_current, static_cast<std::size_t>(m_end - m_current));
-    const std::size_t length = run_length(window, stops);
-    if (length == 0) return;
-    const std::string_view run = window.substr(0, length);
+    const std::string_view bytes = ahead();
+    // A set that stops at all bytes over 127 but takes ASCII punctuation is one of text, which may go on.
+    const bool is_text = !stops[';'];
+    std::size_t size = run_length(bytes, 0, stops);
+    while (size < bytes.size() && is_text && static_cast<signed char>(bytes[size]) < 0) {
+        const std::size_t length = plain_length(bytes.substr(size));
+        if (length == 0) break;
+        size = run_length(bytes, size + length, stops);
+    }
+    if (size == 0) return;
+    const std::string_view run = bytes.substr(0, size);
     if (out != nullptr) out->append(run);
-    if (!stops['\n']) m_line_num += static_cast<int>(std::count(run.begin(), run.end(), '\n'));
-    m_last_char = static_cast<unsigned char>(run.back());
-    m_current += length;
+    take_ahead(size, stops['\n'] ? 0 : static_cast<int>(std::count(run.begin(), run.end(), '\n')));
 }
 
 }  // namespace lmx

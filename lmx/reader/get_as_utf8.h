@@ -86,6 +86,21 @@ protected:
     // Short cuts through the window. Each does what calls of `get` and `unget` would do, or nothing, when the state
     // or the window's end doesn't let it see enough: callers go on with `get`.
 
+    /// The bytes ahead in the window; empty when the next character may not be what stands there.
+    std::string_view ahead() const {
+        if (!is_fast() || m_last_char == '\r') return {};
+        return {m_current, static_cast<std::size_t>(m_end - m_current)};
+    }
+    /// Takes bytes that lie ahead, at least one: without carriage returns, and with so many line feeds.
+    void take_ahead(std::size_t count, int line_feeds) {
+        m_current += count;
+        m_last_char = static_cast<unsigned char>(m_current[-1]);
+        m_line_num += line_feeds;
+    }
+    /// As if the next byte, which lies ahead, had been read and given back.
+    void touch_ahead() {
+        if (m_furthest <= m_current) m_furthest = m_current + 1;
+    }
     /// Takes the run of characters ahead, up to one in `stops`; appends it to `out` unless that is null.
     void take_run(const byte_set& stops, std::string* out);
     /// Whether the text, which holds no line end, lies ahead; false also when that can't be seen.
@@ -132,7 +147,7 @@ private:
     int decode_utf8(int lead);
     int read_unit(int first, bool is_big_endian);
     int decode_utf16(int first, bool is_big_endian);
-    std::size_t run_length(std::string_view bytes, const byte_set& stops) const;
+    std::size_t plain_length(std::string_view bytes) const;
 
     c_read& m_reader;
     c_error& m_error;

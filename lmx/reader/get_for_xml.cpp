@@ -61,17 +61,19 @@ void c_get_for_xml::append_verbatim(std::string* out, std::string_view text) {
     *out += text;
 }
 
-void c_get_for_xml::take_plain_text(std::string* out) {
-    if (m_ws_mode == ELMX_WS_PRESERVE) {
-        take_run(k_stops_of_text, out);
-    } else if (!m_ws_pending) {
-        take_run(k_stops_of_words, out);
+void c_get_for_xml::skip_blanks_ahead() {
+    const std::string_view text = ahead();
+    std::size_t size = 0;
+    int line_feeds = 0;
+    for (; size < text.size() && !k_stops_of_blanks[static_cast<unsigned char>(text[size])]; ++size) {
+        line_feeds += static_cast<int>(text[size] == '\n');
     }
+    if (size > 0) take_ahead(size, line_feeds);
 }
 
 int c_get_for_xml::get_non_ws_behind(int c) {
     while (xisspace(c)) {
-        take_run(k_stops_of_blanks, nullptr);
+        skip_blanks_ahead();
         c = get();
     }
     return c;

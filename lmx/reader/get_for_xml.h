@@ -58,6 +58,7 @@ public:
 
     /// The next character that is no white space.
     int get_non_ws() {
+        skip_blanks_ahead();
         const int c = get();
         return c > ' ' ? c : get_non_ws_behind(c);
     }
@@ -77,8 +78,15 @@ public:
     void rewind();
 
 protected:
+    /// Where text that needs no treatment ends, in the mode in force; null when every character needs some.
+    const byte_set* stops_of_plain_text() const {
+        if (m_ws_mode == ELMX_WS_PRESERVE) return &k_stops_of_text;
+        return m_ws_pending ? nullptr : &k_stops_of_words;
+    }
     /// Takes what lies ahead and needs no treatment in the mode in force.
-    void take_plain_text(std::string* out);
+    void take_plain_text(std::string* out) {
+        if (const byte_set* const stops = stops_of_plain_text()) take_run(*stops, out);
+    }
 
     elmx_whitespace get_ws_mode() const { return m_ws_mode; }
 
@@ -86,6 +94,7 @@ private:
     friend class c_dtd_util;
 
     int get_non_ws_behind(int c);
+    void skip_blanks_ahead();
 
     bool read_decl_value(const char* rest_of_name, std::string* value);
 

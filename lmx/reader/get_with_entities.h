@@ -82,6 +82,7 @@ protected:
     void take_run(const byte_set& stops, std::string* out) {
         if (m_entity_stack.empty()) c_get_as_utf8::take_run(stops, out);
     }
+    std::string_view ahead() const { return m_entity_stack.empty() ? c_get_as_utf8::ahead() : std::string_view(); }
     bool is_ahead(std::string_view text) const { return m_entity_stack.empty() && c_get_as_utf8::is_ahead(text); }
     bool take_if_ahead(std::string_view text) { return m_entity_stack.empty() && c_get_as_utf8::take_if_ahead(text); }
     bool take_if_ahead(std::string_view head, std::string_view body, std::string_view tail) {

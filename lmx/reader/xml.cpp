@@ -112,6 +112,8 @@ elxp_xml_event c_xml::get_element_name(c_xml_local* local, std::string* name) {
             *name += static_cast<char>(c);
             return scan_text(name);
         }
+        if (take_start_tag(name)) return deliver(ELXP_NAME);
+        if (take_end_tag(name)) return deliver(ELXP_END_TAG);
         c = get();
         if (is_name_start(c)) return scan_start_tag(local, c, name);
         switch (c) {
@@ -372,13 +374,16 @@ bool c_xml::expand_raw_text(const char* text, std::size_t size, std::size_t* pos
                             bool is_plain) {
     c_text_name_reader reader(text, size, position);
     while (*position < size) {
+        const std::string_view rest(text + *position, size - *position);
+        std::size_t length = 0;
         if (is_plain || get_ws_mode() == ELMX_WS_PRESERVE) {
-            const std::string_view rest(text + *position, size - *position);
-            const std::size_t length = std::min(rest.find('&'), rest.size());
-            out->append(rest.substr(0, length));
-            *position += length;
-            if (*position == size) break;
+            length = std::min(rest.find('&'), rest.size());
+        } else if (const byte_set* const stops = stops_of_plain_text()) {
+            length = run_length(rest, 0, *stops);
         }
+        out->append(rest.substr(0, length));
+        *position += length;
+        if (*position == size) break;
         const char c = text[(*position)++];
         if (c == '&') {
             if (!read_reference(reader, out)) return false;

@@ -106,6 +106,10 @@ private:
     bool report_not_well_formed(const char* text);
     elxp_xml_event deliver(elxp_xml_event event);
 
+    /// Take a tag of the common form that lies ahead as a whole, behind the `<`; otherwise they do nothing.
+    bool take_start_tag(std::string* name);
+    bool take_end_tag(std::string* name);
+
     elxp_xml_event scan_start_tag(c_xml_local* local, int c, std::string* name);
     elxp_xml_event scan_end_tag(std::string* name);
     elxp_xml_event scan_text(std::string* name);
@@ -141,6 +145,7 @@ private:
     std::string m_attr_buffer;  ///< the start tag's names and raw values
     attributes m_attributes;
     attributes m_ns_attributes;
+    attributes m_attributes_ahead;       ///< of a start tag that may yet turn out not to be plain
     std::size_t m_attr_index = 0;        ///< the attribute to be named next
     std::size_t m_value_index = k_none;  ///< the attribute whose value is due
     std::size_t m_value_position = 0;    ///< how far that was read
