@@ -13,7 +13,9 @@ endif()
 # Every header of these folders is public; a private one would lie in a folder of its own.
 foreach(folder lmx schema document)
   install(DIRECTORY ${PROJECT_SOURCE_DIR}/${folder} DESTINATION ${vyr_include_dir} FILES_MATCHING PATTERN "*.h"
-          PATTERN "generator" EXCLUDE)
+          PATTERN "generator" EXCLUDE
+          # of the library's own sources only
+          PATTERN "storage.h" EXCLUDE PATTERN "file_name.h" EXCLUDE)
 endforeach()
 install(FILES ${PROJECT_SOURCE_DIR}/schema/vyr.xsd DESTINATION ${CMAKE_INSTALL_DATADIR}/vyr)
 

@@ -66,11 +66,7 @@ void print_element(c_xml_writer& writer, const s_item& item, const void* storage
 }
 
 void print_content(c_xml_writer& writer, const s_class& type, const void* object) {
-    if (type.elements.empty()) {
-        print_content(writer, *type.base, object);
-        return;
-    }
-    const s_item& item = type.elements.front();
+    const s_item& item = content_owner(type).elements.front();
     // A content that may be missing prints no text then.
     if (is_set(item, object)) c_line(writer, false).value(item, &member<std::byte>(object, item.offset));
 }
@@ -200,13 +196,13 @@ void marshal_attributes(const s_class& type, const void* object, c_xml_writer& w
 
 elmx_error marshal_child_elements(const s_class& type, const void* object, c_xml_writer& writer) {
     if (type.choice != k_no_flag) return print_chosen(writer, type, object);
-    if (type.base != nullptr) {
-        const elmx_error error = marshal_child_elements(*type.base, object, writer);
-        if (error != ELMX_OK) return error;
-    }
     if (type.content == content_kind::simple) {
         print_content(writer, type, object);
         return ELMX_OK;
+    }
+    if (type.base != nullptr) {
+        const elmx_error error = marshal_child_elements(*type.base, object, writer);
+        if (error != ELMX_OK) return error;
     }
     for (const s_item& item : type.elements) {
         const elmx_error error = print_item(writer, item, object);

@@ -92,6 +92,13 @@ decltype(auto) with_value_type(value_kind kind, Action&& action) {
     return action(static_cast<std::u16string*>(nullptr));
 }
 
+/// The class whose first row is the element's own content: the class itself, or a base of it.
+inline const s_class& content_owner(const s_class& type) {
+    const s_class* owner = &type;
+    while (owner->elements.empty() && owner->base != nullptr) owner = owner->base;
+    return *owner;
+}
+
 /// A new entry at the end of a repeating item; a default value or object.
 void* append_default(const s_item& item, void* object);
 

@@ -304,11 +304,6 @@ bool read_nil(const s_class& type, void* object, c_xml_reader& reader, const std
     return true;
 }
 
-/// The row of the element's own content, which a derived class finds in its base.
-const s_class& content_owner(const s_class& type) {
-    return type.elements.empty() && type.base != nullptr ? content_owner(*type.base) : type;
-}
-
 elmx_error read_attributes(const s_class& type, void* object, c_xml_reader& reader, const std::string& name) {
     elmx_error error = ELMX_OK;
     while (reader.get_attribute_event(nullptr, &error, &reader.m_attr_name)) {

@@ -195,7 +195,8 @@ TEST(Objects, ChoicesHoldOneAlternative) {
     copy.swap(other);
     EXPECT_EQ(copy.get_StringValue(), u"s");
     EXPECT_EQ(other.get_IntegerValue(), -5);
-    copy = copy;
+    const auto& same = copy;
+    copy = same;
     EXPECT_EQ(copy.get_StringValue(), u"s");
     copy.reset();
     EXPECT_EQ(copy.getchosen(), 3);
