@@ -32,18 +32,18 @@ SDKType make_stamp() {
     return stamp;
 }
 
-lmx::elmx_error marshal_stamped(const Vyr& document, std::ostream& stream) {
+/// Writing is constant to its caller; the stamp in the preamble is the one thing that it leaves behind.
+lmx::elmx_error marshal_stamped(const Vyr& document, Preamble& preamble, std::ostream& stream) {
     lmx::c_xml_writer writer(stream, lmx::c_xml_writer::include_xml_decl, "\t", "\n");
-    // Writing is a constant operation to its caller; the stamp is the one thing that it leaves behind.
-    const_cast<Vyr&>(document).get_Preamble().get_Header().assign_WriteSDKInformation(make_stamp());
+    preamble.get_Header().assign_WriteSDKInformation(make_stamp());
     return document.marshal(writer, k_root_element);
 }
 
 /// The state of the stream isn't looked at: a file that can't be opened stays unwritten, and the write succeeds.
-lmx::elmx_error write_plain_file(const Vyr& document, std::u16string_view path) {
+lmx::elmx_error write_plain_file(const Vyr& document, Preamble& preamble, std::u16string_view path) {
     const std::string system_path = to_system_path(path).value_or(std::string());
     std::ofstream stream(system_path);
-    const lmx::elmx_error error = marshal_stamped(document, stream);
+    const lmx::elmx_error error = marshal_stamped(document, preamble, stream);
     stream.close();
     if (error != lmx::ELMX_OK) std::remove(system_path.c_str());
     return error;
@@ -72,7 +72,7 @@ lmx::elmx_error Vyr::loadFile(const std::u16string& path) {
 
 XMLDocumentResult Vyr::writeString() const {
     std::ostringstream stream;
-    const lmx::elmx_error error = marshal_stamped(*this, stream);
+    const lmx::elmx_error error = marshal_stamped(*this, m_Preamble, stream);
     std::u16string text;
     if (error == lmx::ELMX_OK) lmx::convert(&text, std::move(stream).str());
     return XMLDocumentResult(text, error);
@@ -81,7 +81,7 @@ XMLDocumentResult Vyr::writeString() const {
 lmx::elmx_error Vyr::writeFile(const std::u16string& path) const {
     if (path.ends_with(k_container_ending)) return lmx::ELMX_USER_DEFINED_1;
     if (!path.ends_with(k_plain_ending)) return lmx::ELMX_USER_DEFINED_2;
-    return write_plain_file(*this, path);
+    return write_plain_file(*this, m_Preamble, path);
 }
 
 }  // namespace com_vyrgraph_v2

@@ -548,15 +548,16 @@ public:
     /// Reads a document from its text. Appends to lists: `reset` an object before using it again.
     lmx::elmx_error loadString(const std::u16string& document);
 
-    /// Reads a document from a file: from the first entry of an archive if the path ends in ".vyrz", else as XML. Throws
-    /// `CZipException` if an archive can't be opened.
+    /// Reads a document from an XML file. A path that ends in ".vyrz" gives `ELMX_USER_DEFINED_1`: containers aren't read
+    /// yet.
     lmx::elmx_error loadFile(const std::u16string& path);
 
     /// Writes the document as text, after stamping `WriteSDKInformation`.
     XMLDocumentResult writeString() const;
 
-    /// Writes a ".vyr" file or a ".vyrz" archive, after stamping `WriteSDKInformation`; any other ending is
-    /// `ELMX_USER_DEFINED_2`. Throws `CZipException` if an archive can't be created.
+    /// Writes a ".vyr" file, after stamping `WriteSDKInformation`. ".vyrz" gives `ELMX_USER_DEFINED_1`, as containers
+    /// aren't written yet, any other ending `ELMX_USER_DEFINED_2`. A file that can't be opened stays unwritten without a
+    /// failure.
     lmx::elmx_error writeFile(const std::u16string& path) const;
 
     static const lmx::s_class k_class;
@@ -578,7 +579,7 @@ private:
         item_ColorQualityControl,
     };
     static const lmx::s_item k_items[];
-    Preamble m_Preamble;
+    mutable Preamble m_Preamble;
     lmx::c_list<ColorType> m_Color;
     lmx::c_list<PaletteType> m_Palette;
     lmx::c_list<ColorQualityControlType> m_ColorQualityControl;

@@ -68,6 +68,7 @@ class Item:
     use: tuple = ()
     presence: bool = False
     initial: str | None = None
+    mutable: bool = False
 
     @property
     def enumerated(self):
@@ -409,7 +410,7 @@ class Builder:
     def finish(self, owner, item):
         """Settles an item's kind and use, and applies what the overlay says of it."""
         name = f"{owner}.{item.name}"
-        options = self.options("items", name, ("use", "presence", "marker", "initial"))
+        options = self.options("items", name, ("use", "presence", "marker", "initial", "mutable"))
         kind = item.kind
         if kind == "element" and item.type is not None:
             kind = "child"
@@ -432,7 +433,8 @@ class Builder:
         if options.get("initial") is not None and item.value is None:
             raise self.overlay.error("items", name, "only a simple item can have an initial value")
         return replace(item, kind=kind, use=tuple(options.get("use", use)),
-                       presence=options.get("presence", presence), initial=options.get("initial"))
+                       presence=options.get("presence", presence), initial=options.get("initial"),
+                       mutable=options.get("mutable", False))
 
     # What follows from the whole
 

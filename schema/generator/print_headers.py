@@ -118,7 +118,8 @@ def member(item):
     type_name = item.type or MEMBER_TYPES[item.value.value]
     if item.kind in LISTS:
         return f"lmx::c_list<{type_name}> m_{item.accessor};"
-    return f"{type_name} m_{item.accessor}{'' if item.type else initial_value(item)};"
+    prefix = "mutable " if item.mutable else ""
+    return f"{prefix}{type_name} m_{item.accessor}{'' if item.type else initial_value(item)};"
 
 
 def has_flag(item):
