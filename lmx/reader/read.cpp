@@ -12,6 +12,7 @@ std::FILE* open_utf16(const char16_t* path) {
 #if defined(_WIN32)
     return _wfopen(reinterpret_cast<const wchar_t*>(path), L"rb");
 #else
+    if (!is_well_formed(path)) return nullptr;
     std::string system_path;
     convert(&system_path, path);
     return std::fopen(system_path.c_str(), "rb");

@@ -65,7 +65,8 @@ class VYR_EXPORT c_read_file : public c_read {
 public:
     /// Opens a file named in UTF-8.
     explicit c_read_file(const char* path);
-    /// Opens a file named in UTF-16. Its name for reports is made unit by unit.
+    /// Opens a file named in UTF-16; a name that is no valid text fails like a missing file. The name for reports is
+    /// made unit by unit.
     explicit c_read_file(const char16_t* path);
     /// Takes an open file, without a name, and closes it at deletion unless told not to.
     explicit c_read_file(std::FILE* file) : m_file(file) {}

@@ -225,4 +225,14 @@ bool is_max_length_ok(const std::string& text, std::size_t maximum) {
     return length(text) <= maximum;
 }
 
+bool is_well_formed(std::u16string_view text) {
+    for (std::size_t i = 0; i < text.size(); ++i) {
+        if (is_low_surrogate(text[i])) return false;
+        if (!is_high_surrogate(text[i])) continue;
+        ++i;
+        if (i == text.size() || !is_low_surrogate(text[i])) return false;
+    }
+    return true;
+}
+
 }  // namespace lmx

@@ -10,6 +10,7 @@
 
 #include <cstddef>
 #include <string>
+#include <string_view>
 
 #include "lmx/export.h"
 
@@ -46,5 +47,8 @@ VYR_EXPORT std::size_t length(const std::string& text);
 /// Whether the text has at least, or at most, so many characters; most texts need no counting.
 VYR_EXPORT bool is_min_length_ok(const std::string& text, std::size_t minimum);
 VYR_EXPORT bool is_max_length_ok(const std::string& text, std::size_t maximum);
+
+/// Whether each surrogate of a UTF-16 text is half of a pair.
+VYR_EXPORT bool is_well_formed(std::u16string_view text);
 
 }  // namespace lmx

@@ -241,4 +241,14 @@ TEST(Unicode, LengthBoundsDecideByBytesWhereTheyCan) {
     EXPECT_TRUE(lmx::is_max_length_ok("abc", std::size_t{1} << 63));
 }
 
+TEST(Utf16, IsWellFormedWithoutHalfPairs) {
+    for (const char16_t* const text : {u"", u"a\u00E9", u"\U0001F3A8", u"\U0001F3A8\U0001F3A8x"}) {
+        EXPECT_TRUE(lmx::is_well_formed(text));
+    }
+    const std::u16string high(1, 0xD83C), low(1, 0xDFA8);
+    for (const std::u16string& text : {high, low, u"x" + high, high + u"x", low + high, high + high + low}) {
+        EXPECT_FALSE(lmx::is_well_formed(text));
+    }
+}
+
 }  // namespace
