@@ -3,8 +3,10 @@
 
 #include "tools/document_file.h"
 
+#include <filesystem>
 #include <fstream>
 #include <iostream>
+#include <system_error>
 
 #include "lmx/lmx.h"
 
@@ -46,6 +48,9 @@ exit_code read_document(const std::string& file_name, com_vyrgraph_v2::Vyr& docu
         const lmx::elmx_error code = document.loadFile(widen(file_name));
         return code == lmx::ELMX_OK ? exit_ok : report_container(file_name, code);
     }
+    // Which opens like a file, and would then look like an empty document.
+    std::error_code ignored;
+    if (std::filesystem::is_directory(file_name, ignored)) return report_file(file_name, "is a directory");
     // The document calls keep no message, so the command has a reader of its own and asks it.
     lmx::c_xml_reader_file reader(file_name.c_str());
     if (!reader.is_open()) return report_file(file_name, lmx::get_error_description(lmx::ELMX_NO_FILE));

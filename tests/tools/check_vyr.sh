@@ -33,6 +33,7 @@ expect 1 "broken.vyr:$line: Vyr:Red: Value greater than specified maximum" check
 expect 1 "broken.vyr:$line: *" check good.vyr broken.vyr good.vyr
 expect 2 '*broken.vyr:*absent.vyr: Unable to open file*' check broken.vyr absent.vyr
 expect 2 '*.vyrz: *not supported*' check good.vyrz
+expect 2 '*.: is a directory' check .
 
 expect 0 '' convert good.vyr copy.vyr
 cmp good.vyr copy.vyr || failures=$((failures + 1))
