@@ -14,4 +14,7 @@ struct s_ns_map {
     const char* uri;
 };
 
+/// The namespace of `xsi:type`, `xsi:nil` and the schema locations.
+inline constexpr char k_xsi_uri[] = "http://www.w3.org/2001/XMLSchema-instance";
+
 }  // namespace lmx

@@ -13,9 +13,6 @@
 namespace lmx {
 namespace {
 
-template <class T>
-using c_values = c_list<T>;
-
 /// Repeating simple items hold texts or dates; the other types occur singly.
 template <class Action>
 void with_entry_type(value_kind kind, Action&& action) {
@@ -97,33 +94,31 @@ bool has_asked_items(std::span<const s_item> items, const void* object) {
     });
 }
 
+/// The number of an enumerated text, from 1; 0 if it is none.
+std::int32_t literal_number(const s_facets& facets, const std::u16string& text) {
+    const auto& literals = facets.enumeration;
+    const auto literal = std::find_if(literals.begin(), literals.end(), [&](std::string_view candidate) {
+        return std::equal(candidate.begin(), candidate.end(), text.begin(), text.end(),
+                          [](char a, char16_t b) { return static_cast<char16_t>(a) == b; });
+    });
+    return literal == literals.end() ? 0 : static_cast<std::int32_t>(literal - literals.begin()) + 1;
+}
+
 template <class Number>
 elmx_error check_value(const s_facets& facets, Number value) requires(std::is_arithmetic_v<Number>) {
     const auto number = static_cast<double>(value);
-    if (!facets.setter_skips_minimum &&
-        (number < facets.minimum || (facets.minimum_exclusive && number == facets.minimum))) {
-        return ELMX_VALUE_BELOW_MIN;
-    }
-    if (number > facets.maximum || (facets.maximum_exclusive && number == facets.maximum)) {
-        return ELMX_VALUE_EXCEEDS_MAX;
-    }
+    if (!facets.setter_skips_minimum && facets.is_below(number)) return ELMX_VALUE_BELOW_MIN;
+    if (facets.is_above(number)) return ELMX_VALUE_EXCEEDS_MAX;
     return ELMX_OK;
 }
 
 elmx_error check_value(const s_facets& facets, const std::u16string& value) {
-    if (!facets.enumeration.empty()) {
-        const auto is_value = [&](std::string_view text) {
-            return std::equal(text.begin(), text.end(), value.begin(), value.end(),
-                              [](char a, char16_t b) { return static_cast<char16_t>(a) == b; });
-        };
-        if (std::none_of(facets.enumeration.begin(), facets.enumeration.end(), is_value)) {
-            return ELMX_VALUE_NOT_ENUMERATED;
-        }
-    }
+    if (!facets.enumeration.empty() && literal_number(facets, value) == 0) return ELMX_VALUE_NOT_ENUMERATED;
     if (facets.minimum_length == 0 && facets.maximum_length == s_facets{}.maximum_length) return ELMX_OK;
     std::string text;
     convert(&text, value);
-    return check_length(facets, text);
+    if (!is_min_length_ok(text, facets.minimum_length)) return ELMX_LENGTH_TOO_SHORT;
+    return is_max_length_ok(text, facets.maximum_length) ? ELMX_OK : ELMX_LENGTH_TOO_LONG;
 }
 
 elmx_error check_value(const s_facets&, bool) { return ELMX_OK; }
@@ -171,13 +166,13 @@ elmx_error set_simple(const s_class& type, const s_item& item, void* object, con
 template <class T>
 elmx_error insert_simple(const s_item& item, void* object, std::size_t index, const T& value) {
     const elmx_error code = item.facets == nullptr ? ELMX_OK : check_value(*item.facets, value);
-    if (code == ELMX_OK) member<c_values<T>>(object, item.offset).insert(index) = value;
+    if (code == ELMX_OK) member<c_list<T>>(object, item.offset).insert(index) = value;
     return code;
 }
 
 template <class T>
 elmx_error set_entry_value(const s_item& item, void* object, std::size_t index, const T& value) {
-    auto& values = member<c_values<T>>(object, item.offset);
+    auto& values = member<c_list<T>>(object, item.offset);
     if (index >= values.size()) return insert_simple(item, object, index, value);
     const elmx_error code = item.facets == nullptr ? ELMX_OK : check_value(*item.facets, value);
     if (code == ELMX_OK) values[index] = value;
@@ -203,12 +198,6 @@ void* append_default(const s_item& item, void* object) {
             entries.push(item.type->operations->create());
     }
     return entries.entry(entries.size() - 1);
-}
-
-elmx_error check_length(const s_facets& facets, const std::string& text) {
-    if (!is_min_length_ok(text, facets.minimum_length)) return ELMX_LENGTH_TOO_SHORT;
-    if (!is_max_length_ok(text, facets.maximum_length)) return ELMX_LENGTH_TOO_LONG;
-    return ELMX_OK;
 }
 
 void copy(const s_class& type, void* target, const void* source) {
@@ -300,15 +289,7 @@ elmx_error insert_entry(const s_item& item, void* object, std::size_t index, con
 }
 
 std::int32_t enumerated_number(const s_item& item, const std::u16string& text) {
-    std::int32_t number = 0;
-    for (const std::string_view literal : item.facets->enumeration) {
-        ++number;
-        if (std::equal(literal.begin(), literal.end(), text.begin(), text.end(),
-                       [](char a, char16_t b) { return static_cast<char16_t>(a) == b; })) {
-            return number;
-        }
-    }
-    return 0;
+    return literal_number(*item.facets, text);
 }
 
 bool set_enumerated(const s_class& type, const s_item& item, void* object, std::int32_t number) {

@@ -102,7 +102,4 @@ inline const s_class& content_owner(const s_class& type) {
 /// A new entry at the end of a repeating item; a default value or object.
 void* append_default(const s_item& item, void* object);
 
-/// True if the code points of a text lie within an item's length facets; otherwise `*code` says which failed.
-elmx_error check_length(const s_facets& facets, const std::string& text);
-
 }  // namespace lmx

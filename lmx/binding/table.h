@@ -82,6 +82,14 @@ struct s_facets {
     const c_big_int* minimum_integer = nullptr;  ///< for integers: the bounds that a text is compared with
     const c_big_int* maximum_integer = nullptr;
     const c_pattern* pattern = nullptr;
+
+    /// Whether a number breaks a bound. NaN breaks none.
+    constexpr bool is_below(double number) const {
+        return number < minimum || (minimum_exclusive && number == minimum);
+    }
+    constexpr bool is_above(double number) const {
+        return number > maximum || (maximum_exclusive && number == maximum);
+    }
 };
 
 /// One class that a factory knows, by its local type name.

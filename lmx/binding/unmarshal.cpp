@@ -107,12 +107,8 @@ bool check_number(c_xml_reader& reader, const s_item& item, double number, const
                   elmx_error* error) {
     if (item.facets == nullptr) return true;
     const s_facets& facets = *item.facets;
-    if ((number < facets.minimum || (facets.minimum_exclusive && number == facets.minimum)) &&
-        !goes_on(reader, ELMX_VALUE_BELOW_MIN, item_name, error, __LINE__)) {
-        return false;
-    }
-    return (number <= facets.maximum && !(facets.maximum_exclusive && number == facets.maximum)) ||
-           number != number || goes_on(reader, ELMX_VALUE_EXCEEDS_MAX, item_name, error, __LINE__);
+    if (facets.is_below(number) && !goes_on(reader, ELMX_VALUE_BELOW_MIN, item_name, error, __LINE__)) return false;
+    return !facets.is_above(number) || goes_on(reader, ELMX_VALUE_EXCEEDS_MAX, item_name, error, __LINE__);
 }
 
 /// Where a checked value goes: into the object, to the end of a list, or into the slot of a choice.

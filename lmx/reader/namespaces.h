@@ -16,11 +16,11 @@
 #include <vector>
 
 #include "lmx/export.h"
+#include "lmx/ns_map.h"
 
 namespace lmx {
 
 inline constexpr char k_xml_uri[] = "http://www.w3.org/XML/1998/namespace";
-inline constexpr char k_xsi_uri[] = "http://www.w3.org/2001/XMLSchema-instance";
 
 /// Numbers with a meaning of their own; documents' own URIs get 1000 and up.
 enum namespace_id : int { k_unbound_ns = 0, k_no_ns = 1, k_xml_ns = 2, k_xsi_ns = 5, k_first_free_ns = 1000 };

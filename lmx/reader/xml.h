@@ -149,7 +149,6 @@ private:
     std::size_t m_attr_index = 0;        ///< the attribute to be named next
     std::size_t m_value_index = k_none;  ///< the attribute whose value is due
     std::size_t m_value_position = 0;    ///< how far that was read
-    std::string m_prefix_text;
     std::string m_uri;
     std::string m_work_name;
 };

@@ -13,8 +13,6 @@ namespace lmx {
 
 namespace {
 
-constexpr const char* k_xsi_uri = "http://www.w3.org/2001/XMLSchema-instance";
-
 void write_namespace(std::ostream& os, std::string_view prefix, std::string_view uri) {
     os << " xmlns";
     if (!prefix.empty()) os << ':' << prefix;

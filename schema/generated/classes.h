@@ -9,6 +9,7 @@
 #pragma once
 
 #include "schema/generated/color_values.h"
+#include "schema/generated/conditions.h"
 #include "schema/generated/device_color_values.h"
 #include "schema/generated/devices.h"
 #include "schema/generated/functions.h"
@@ -19,7 +20,6 @@
 #include "schema/generated/recipes.h"
 #include "schema/generated/sampled_color_values.h"
 #include "schema/generated/samples.h"
-#include "schema/generated/specifications.h"
 #include "schema/generated/statistics.h"
 #include "schema/generated/substrates.h"
 

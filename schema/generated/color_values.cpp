@@ -9,12 +9,12 @@
 #include "schema/generated/color_values.h"
 #include "lmx/binding/binding.h"
 #include "lmx/binding/rows.h"
+#include "schema/generated/conditions.h"
 #include "schema/generated/device_color_values.h"
 #include "schema/generated/groups.h"
 #include "schema/generated/header.h"
 #include "schema/generated/recipes.h"
 #include "schema/generated/sampled_color_values.h"
-#include "schema/generated/specifications.h"
 #include "schema/generated/tables.h"
 
 // Offsets of members of classes with virtual functions: both compilers define them, and the macros check them.

@@ -17,10 +17,10 @@
 
 #include "lmx/binding/table.h"
 #include "lmx/export.h"
+#include "schema/generated/conditions.h"
 #include "schema/generated/enumerations.h"
 #include "schema/generated/forward.h"
 #include "schema/generated/groups.h"
-#include "schema/generated/specifications.h"
 
 namespace com_vyrgraph_v2 {
 

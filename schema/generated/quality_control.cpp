@@ -9,11 +9,11 @@
 #include "schema/generated/quality_control.h"
 #include "lmx/binding/binding.h"
 #include "lmx/binding/rows.h"
+#include "schema/generated/conditions.h"
 #include "schema/generated/devices.h"
 #include "schema/generated/groups.h"
 #include "schema/generated/header.h"
 #include "schema/generated/palettes.h"
-#include "schema/generated/specifications.h"
 #include "schema/generated/tables.h"
 
 // Offsets of members of classes with virtual functions: both compilers define them, and the macros check them.

@@ -17,11 +17,11 @@
 #include "lmx/binding/table.h"
 #include "lmx/export.h"
 #include "schema/generated/color_values.h"
+#include "schema/generated/conditions.h"
 #include "schema/generated/enumerations.h"
 #include "schema/generated/forward.h"
 #include "schema/generated/header.h"
 #include "schema/generated/sampled_color_values.h"
-#include "schema/generated/specifications.h"
 
 namespace com_vyrgraph_v2 {
 

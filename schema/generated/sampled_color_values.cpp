@@ -10,7 +10,7 @@
 #include "lmx/binding/binding.h"
 #include "lmx/binding/rows.h"
 #include "schema/generated/color_values.h"
-#include "schema/generated/specifications.h"
+#include "schema/generated/conditions.h"
 #include "schema/generated/tables.h"
 
 // Offsets of members of classes with virtual functions: both compilers define them, and the macros check them.

@@ -2,6 +2,7 @@
 set(generated_sources
     generated/class_list.cpp
     generated/color_values.cpp
+    generated/conditions.cpp
     generated/device_color_values.cpp
     generated/devices.cpp
     generated/functions.cpp
@@ -12,7 +13,6 @@ set(generated_sources
     generated/recipes.cpp
     generated/sampled_color_values.cpp
     generated/samples.cpp
-    generated/specifications.cpp
     generated/statistics.cpp
     generated/substrates.cpp
     generated/tables.cpp

@@ -4,9 +4,9 @@
 // Made by schema/generator/generate.py from schema/vyr.xsd and schema/binding.toml. Change those instead.
 // clang-format off
 
-/// Tables and members of the classes in specifications.h.
+/// Tables and members of the classes in conditions.h.
 
-#include "schema/generated/specifications.h"
+#include "schema/generated/conditions.h"
 #include "lmx/binding/binding.h"
 #include "lmx/binding/rows.h"
 #include "schema/generated/devices.h"

@@ -4,7 +4,7 @@
 // Made by schema/generator/generate.py from schema/vyr.xsd and schema/binding.toml. Change those instead.
 // clang-format off
 
-/// Classes of the topic specifications: DeviceFilterType, ColorSpaceSpecificationType, SpectrumType,
+/// Classes of the topic conditions: DeviceFilterType, ColorSpaceSpecificationType, SpectrumType,
 /// ColorSpaceSpecificationSpectrumType, ColorSpaceSpecificationEmissiveType, GeometryChoiceType,
 /// IlluminationOptionsType, ColorSpaceSpecificationSpectrumGenericType,
 /// ColorSpaceSpecificationSpectrumTristimulusType, ColorSpaceSpecificationSpectrumSpectralType,
