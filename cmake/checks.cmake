@@ -16,6 +16,7 @@ vyr_add_check(generator ${Python3_EXECUTABLE} ${checks}/schema/generator_test.py
 if(VYR_BUILD_TOOLS)
   set(palette ${PROJECT_SOURCE_DIR}/examples/css-colors.vyr)
   add_test(NAME tools_vyr COMMAND ${checks}/tools/check_vyr.sh $<TARGET_FILE:vyr_tool> ${palette})
+  vyr_add_check(foreign_archives ${checks}/zip/check_archives.sh $<TARGET_FILE:vyr_tool> ${palette})
   vyr_add_check(written_documents ${checks}/written/check_written.sh $<TARGET_FILE:vyr_tool>
                 ${PROJECT_SOURCE_DIR}/schema/vyr.xsd ${PROJECT_SOURCE_DIR}/examples ${checks}/documents)
   vyr_add_check(installed_tree ${checks}/install/check_install.sh ${CMAKE_COMMAND} ${PROJECT_BINARY_DIR}

@@ -10,12 +10,15 @@ if(VYR_BUILD_TOOLS)
   install(TARGETS vyr_tool RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR})
 endif()
 
-# Every header of these folders is public; a private one would lie in a folder of its own.
-foreach(folder lmx schema document)
+# The runtime and the classes are public but for a few headers of the library's own sources; of the other folders it
+# is the other way round.
+foreach(folder lmx schema)
   install(DIRECTORY ${PROJECT_SOURCE_DIR}/${folder} DESTINATION ${vyr_include_dir} FILES_MATCHING PATTERN "*.h"
-          PATTERN "generator" EXCLUDE
-          # of the library's own sources only
-          PATTERN "storage.h" EXCLUDE PATTERN "file_name.h" EXCLUDE)
+          PATTERN "generator" EXCLUDE PATTERN "storage.h" EXCLUDE PATTERN "file_name.h" EXCLUDE)
+endforeach()
+foreach(header document/result.h zip/add_request.h zip/container.h zip/entry_header.h zip/exception.h)
+  cmake_path(GET header PARENT_PATH folder)
+  install(FILES ${PROJECT_SOURCE_DIR}/${header} DESTINATION ${vyr_include_dir}/${folder})
 endforeach()
 install(FILES ${PROJECT_SOURCE_DIR}/schema/vyr.xsd DESTINATION ${CMAKE_INSTALL_DATADIR}/vyr)
 

@@ -3,6 +3,7 @@
 
 #include "lmx/reader/read.h"
 
+#include "lmx/file_name.h"
 #include "lmx/values/unicode.h"
 
 namespace lmx {
@@ -12,10 +13,8 @@ std::FILE* open_utf16(const char16_t* path) {
 #if defined(_WIN32)
     return _wfopen(reinterpret_cast<const wchar_t*>(path), L"rb");
 #else
-    if (!is_well_formed(path)) return nullptr;
-    std::string system_path;
-    convert(&system_path, path);
-    return std::fopen(system_path.c_str(), "rb");
+    const std::optional<std::string> system_path = to_system_path(path);
+    return system_path ? std::fopen(system_path->c_str(), "rb") : nullptr;
 #endif
 }
 

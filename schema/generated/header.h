@@ -548,16 +548,19 @@ public:
     /// Reads a document from its text. Appends to lists: `reset` an object before using it again.
     lmx::elmx_error loadString(const std::u16string& document);
 
-    /// Reads a document from an XML file. A path that ends in ".vyrz" gives `ELMX_USER_DEFINED_1`: containers aren't read
-    /// yet.
+    /// Reads a document from an XML file, or, if the path ends in exactly ".vyrz", from the first entry of a ZIP archive.
+    /// An archive that can't be opened is a `CZipException`; one whose entry isn't what its header says gives
+    /// `ELMX_USER_DEFINED_1`. Appends to lists, like `loadString`.
     lmx::elmx_error loadFile(const std::u16string& path);
 
     /// Writes the document as text, after stamping `WriteSDKInformation`.
     XMLDocumentResult writeString() const;
 
-    /// Writes a ".vyr" file, after stamping `WriteSDKInformation`. ".vyrz" gives `ELMX_USER_DEFINED_1`, as containers
-    /// aren't written yet, any other ending `ELMX_USER_DEFINED_2`. A file that can't be opened stays unwritten without a
-    /// failure.
+    /// Writes a document, after stamping `WriteSDKInformation`, to a path that ends in ".vyr", or into a new ZIP archive
+    /// if it ends in ".vyrz"; any other ending gives `ELMX_USER_DEFINED_2`. A ".vyr" file that can't be opened stays
+    /// unwritten without a failure. An archive is made of a ".vyr" file beside it, of the same stem: one that is there
+    /// already is lost. An archive that can't be created is a `CZipException`; any later failure gives
+    /// `ELMX_USER_DEFINED_1` and leaves the ".vyr" file.
     lmx::elmx_error writeFile(const std::u16string& path) const;
 
     static const lmx::s_class k_class;

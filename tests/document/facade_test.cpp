@@ -5,11 +5,13 @@
 
 #include <gtest/gtest.h>
 
+#include <cerrno>
 #include <filesystem>
 #include <fstream>
-#include <sstream>
+#include <iterator>
 
 #include "schema/Vyr.h"
+#include "zip/container.h"
 
 namespace vyr_test {
 namespace {
@@ -37,6 +39,10 @@ protected:
     }
     std::u16string path(const char* name) const { return (m_folder / name).u16string(); }
     bool is_there(const char* name) const { return fs::exists(m_folder / name); }
+    std::string bytes_of(const char* name) const {
+        std::ifstream file(m_folder / name, std::ios::binary);
+        return {std::istreambuf_iterator<char>(file), {}};
+    }
     const fs::path m_folder = fs::path("facade") / testing::UnitTest::GetInstance()->current_test_info()->name();
 };
 
@@ -83,8 +89,77 @@ TEST_F(Facade, EndingsAreComparedExactly) {
     fs::rename(m_folder / "\xC3\xA9.vyr", m_folder / "b.xml");
     Vyr back;
     EXPECT_EQ(back.loadFile(path("b.xml")), ELMX_OK);
-    EXPECT_EQ(document.writeFile(path("c.vyrz")), ELMX_USER_DEFINED_1);
-    EXPECT_EQ(back.loadFile(path("c.vyrz")), ELMX_USER_DEFINED_1);
+    // An archive under another ending is no XML.
+    ASSERT_EQ(document.writeFile(path("c.vyrz")), ELMX_OK);
+    fs::rename(m_folder / "c.vyrz", m_folder / "c.VYRZ");
+    EXPECT_EQ(back.loadFile(path("c.VYRZ")), ELMX_UNEXPECTED_END_OF_MESSAGE);
+}
+
+TEST_F(Facade, AContainerHoldsThePlainDocumentAndLeavesNoOther) {
+    const Vyr document = minimal_document();
+    ASSERT_EQ(document.writeFile(path("a.vyr")), ELMX_OK);
+    const std::string plain = bytes_of("a.vyr");
+    ASSERT_EQ(document.writeFile(path("a.vyrz")), ELMX_OK);
+    EXPECT_FALSE(is_there("a.vyr"));
+    CZipContainer archive;
+    ASSERT_TRUE(archive.OpenContainer(path("a.vyrz"), zip_open_read));
+    EXPECT_EQ(archive.GetEntryCount(), 1U);
+    EXPECT_EQ(archive.GetEntryHeader(0)->file_name, "a.vyr");
+    std::string inside(plain.size() + 1, '\0');
+    ASSERT_TRUE(archive.OpenEntry(0));
+    inside.resize(archive.ReadEntry(inside.data(), inside.size()));
+    EXPECT_EQ(inside, plain);
+    Vyr back;
+    ASSERT_EQ(back.loadFile(path("a.vyrz")), ELMX_OK);
+    EXPECT_EQ(back.writeString().getXmlDocument(), document.writeString().getXmlDocument());
+    EXPECT_EQ(back.loadFile(path("a.vyrz")), ELMX_OK);
+    EXPECT_EQ(back.get_Preamble().get_Header().size_ChangeHistory(), 2U);
+
+    EXPECT_EQ(Vyr().writeFile(path("b.vyrz")), ELMX_OCCURS_ERROR_ON_MARSHAL);
+    EXPECT_FALSE(is_there("b.vyr") || is_there("b.vyrz"));
+}
+
+TEST_F(Facade, AnArchiveIsOpenedBeforeFailuresBecomeACode) {
+    Vyr document = minimal_document();
+    std::ofstream(m_folder / "text.vyrz") << "no archive";
+    std::ofstream(m_folder / "empty.vyrz") << "PK\5\6" << std::string(18, '\0');
+    for (const auto& [name, cause] : {std::pair("missing.vyrz", ENOENT), std::pair("text.vyrz", 118)}) {
+        try {
+            document.loadFile(path(name));
+            ADD_FAILURE() << name;
+        } catch (const CZipException& failure) {
+            EXPECT_EQ(failure.GetCause(), cause);
+            EXPECT_EQ(failure.GetFileName(), path(name));
+        }
+    }
+    EXPECT_EQ(document.loadFile(path("empty.vyrz")), ELMX_USER_DEFINED_1);
+    // What can't be created leaves the plain file; what can't be prepared leaves an archive of nothing.
+    fs::create_directory(m_folder / "folder.vyrz");
+    EXPECT_THROW(document.writeFile(path("folder.vyrz")), CZipException);
+    EXPECT_TRUE(is_there("folder.vyr"));
+    EXPECT_THROW(document.writeFile(path("missing/a.vyrz")), CZipException);
+    fs::create_directory(m_folder / "taken.vyr");
+    EXPECT_EQ(document.writeFile(path("taken.vyrz")), ELMX_USER_DEFINED_1);
+    EXPECT_EQ(bytes_of("taken.vyrz"), "");
+    EXPECT_TRUE(is_there("taken.vyr"));
+    // Each byte of an archive matters: a changed one gives the code, the exception or, where only names, times and
+    // attributes stand, the document.
+    ASSERT_EQ(document.writeFile(path("a.vyrz")), ELMX_OK);
+    const std::string good = bytes_of("a.vyrz");
+    for (std::size_t i = 0; i < good.size(); ++i) {
+        std::string bytes = good;
+        bytes[i] = static_cast<char>(~bytes[i]);
+        std::ofstream(m_folder / "b.vyrz", std::ios::binary) << bytes;
+        Vyr back;
+        try {
+            const elmx_error code = back.loadFile(path("b.vyrz"));
+            EXPECT_TRUE(code == ELMX_OK || code == ELMX_USER_DEFINED_1) << i << ": " << code;
+            if (code != ELMX_OK) continue;
+            EXPECT_EQ(back.get_Preamble().get_Header().get_Creator(), u"Gr\u00FCn") << i;
+        } catch (const CZipException& failure) {
+            EXPECT_GE(i, good.size() - 22 - 46 - 5) << failure.what();
+        }
+    }
 }
 
 TEST_F(Facade, FilesThatCantBeOpened) {

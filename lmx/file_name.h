@@ -1,7 +1,7 @@
 // Copyright 2026 The Vyr Authors
 // SPDX-License-Identifier: Apache-2.0
 
-/// File names of the document calls: which kind of file they ask for, and their form for the operating system.
+/// File names: from the wide form of the interface to the operating system's.
 
 #pragma once
 
@@ -9,12 +9,9 @@
 #include <string>
 #include <string_view>
 
-namespace com_vyrgraph_v2 {
-
-inline constexpr std::u16string_view k_plain_ending = u".vyr";
-inline constexpr std::u16string_view k_container_ending = u".vyrz";
+namespace lmx {
 
 /// The UTF-8 form of a path; nothing if the path is no valid text (a lone surrogate, a null inside).
 std::optional<std::string> to_system_path(std::u16string_view path);
 
-}  // namespace com_vyrgraph_v2
+}  // namespace lmx
