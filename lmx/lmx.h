@@ -12,6 +12,7 @@
 #include "lmx/values/big_int.h"
 #include "lmx/values/binary.h"
 #include "lmx/values/datetime.h"
+#include "lmx/values/decimal.h"
 #include "lmx/values/pattern.h"
 #include "lmx/values/scalars.h"
 #include "lmx/values/unicode.h"

@@ -5,6 +5,7 @@
 
 #include "lmx/values/big_int.h"
 
+#include <algorithm>
 #include <utility>
 
 #include "lmx/values/characters.h"
@@ -22,15 +23,20 @@ std::string_view significant(std::string_view text) {
     return start == std::string_view::npos ? std::string_view() : text.substr(start);
 }
 
-std::string canonical(std::string_view text) {
+/// The digits that a value is read from.
+std::string_view leading_digits(std::string_view text) {
     const std::string_view rest = significant(text);
-    std::size_t digits = 0;
-    while (digits < rest.size() && xisdigit(rest[digits])) ++digits;
-    if (digits == 0) return "0";
+    return rest.substr(0,
+                       static_cast<std::size_t>(std::find_if_not(rest.begin(), rest.end(), xisdigit) - rest.begin()));
+}
+
+std::string canonical(std::string_view text) {
+    const std::string_view digits = leading_digits(text);
+    if (digits.empty()) return "0";
     std::string result;
-    result.reserve(digits + 1);
+    result.reserve(digits.size() + 1);
     if (is_negative(text)) result += '-';
-    return result += rest.substr(0, digits);
+    return result += digits;
 }
 
 }  // namespace
@@ -40,18 +46,8 @@ c_big_int::c_big_int(const std::string& text) : m_text(canonical(text)) {}
 c_big_int::c_big_int(long value) : m_text(std::to_string(value)) {}
 
 std::int32_t c_big_int::get(bool* overflow) const {
-    // Unsigned, so that a value out of range wraps; the bound is that of positive numbers for both signs.
-    constexpr std::uint32_t maximum = 0x7FFFFFFF;
-    std::uint32_t sum = 0;
-    bool is_over = false;
-    for (const char c : significant(m_text)) {
-        const auto digit = static_cast<std::uint32_t>(c - '0');
-        if (sum > maximum / 10) is_over = true;
-        sum *= 10;
-        if (sum > maximum || maximum - sum < digit) is_over = true;
-        sum += digit;
-    }
-    if (overflow != nullptr) *overflow = is_over;
+    // The bound is that of positive numbers for both signs.
+    const std::uint32_t sum = detail::sum_digits(significant(m_text), INT32_MAX, overflow);
     return static_cast<std::int32_t>(is_negative(m_text) ? 0U - sum : sum);
 }
 
@@ -64,7 +60,7 @@ double c_big_int::get_as_float() const {
 bool c_big_int::is_equal(std::string_view text) const {
     if (text.empty()) return false;
     if (is_negative(m_text) != is_negative(text)) {
-        return text.starts_with("-0") && m_text == "0" && canonical(text.substr(1)) == "0";
+        return text.starts_with("-0") && m_text == "0" && leading_digits(text.substr(1)).empty();
     }
     return significant(text) == significant(m_text);
 }
@@ -73,12 +69,29 @@ bool c_big_int::is_greater(std::string_view text) const {
     if (text.empty()) return false;
     const bool negative = is_negative(m_text);
     if (negative != is_negative(text)) return !negative && !is_equal(text);
-    std::string_view mine = significant(m_text);
+    std::string_view mine = std::string_view(m_text).substr(negative ? 1 : 0);
     std::string_view theirs = significant(text);
+    if (theirs.empty()) return !negative && m_text != "0";
     if (negative) std::swap(mine, theirs);  // the longer one is the lesser
     return mine.size() != theirs.size() ? mine.size() > theirs.size() : mine > theirs;
 }
 
 std::ostream& operator<<(std::ostream& stream, const c_big_int& value) { return stream << value.get_as_string(); }
+
+namespace detail {
+
+std::uint32_t sum_digits(std::string_view digits, std::uint32_t maximum, bool* overflow) {
+    std::uint32_t sum = 0;
+    bool is_over = false;
+    for (const char c : digits) {
+        const std::uint64_t next = std::uint64_t{sum} * 10 + static_cast<std::uint64_t>(c - '0');
+        if (next > maximum) is_over = true;
+        sum = static_cast<std::uint32_t>(next);
+    }
+    if (overflow != nullptr) *overflow = is_over;
+    return sum;
+}
+
+}  // namespace detail
 
 }  // namespace lmx

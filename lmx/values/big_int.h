@@ -26,23 +26,29 @@ public:
     c_big_int(const std::string& text);
     c_big_int(long value);
     c_big_int(int value) : c_big_int(static_cast<long>(value)) {}
-
-    c_big_int& operator=(const char* text) { return *this = c_big_int(text); }
-    c_big_int& operator=(const std::string& text) { return *this = c_big_int(text); }
-    c_big_int& operator=(long value) { return *this = c_big_int(value); }
-    c_big_int& operator=(int value) { return *this = c_big_int(value); }
+    /// There is no move, which would leave an empty text behind.
+    c_big_int(const c_big_int&) = default;
+    /// Takes whatever a constructor takes. Leaves the target alone if the value can't be made.
+    c_big_int& operator=(c_big_int value) noexcept {
+        swap(value);
+        return *this;
+    }
+    ~c_big_int() = default;
 
     void swap(c_big_int& other) noexcept { m_text.swap(other.m_text); }
 
-    const std::string& get_as_string() const { return m_text; }
+    std::string get_as_string() const { return m_text; }
     /// The low 32 bits, signed. `*overflow`, if given, tells whether the magnitude passes 2147483647; it does so
     /// for -2147483648 too.
-    std::int32_t get(bool* overflow) const;
+    std::int32_t get(bool* overflow = nullptr) const;
     double get_as_float() const;
 
     /// The two comparisons that the operators are made of. An empty text equals nothing, and nothing exceeds it.
     bool is_equal(std::string_view text) const;
     bool is_greater(std::string_view text) const;
+
+    friend bool operator==(const c_big_int& a, const c_big_int& b) { return a.m_text == b.m_text; }
+    friend bool operator>(const c_big_int& a, const c_big_int& b) { return a.is_greater(b.m_text); }
 
 private:
     std::string m_text;
@@ -57,11 +63,12 @@ concept big_int_text = std::convertible_to<const T&, const char*> || std::same_a
 inline std::string_view text_of(const char* text) { return text == nullptr ? "0" : text; }
 inline std::string_view text_of(const std::string& text) { return text; }
 
+/// The value of digits modulo 2^32. `*overflow`, if given, tells whether it passes `maximum`.
+std::uint32_t sum_digits(std::string_view digits, std::uint32_t maximum, bool* overflow);
+
 }  // namespace detail
 
-inline bool operator==(const c_big_int& a, const c_big_int& b) { return a.get_as_string() == b.get_as_string(); }
 inline bool operator!=(const c_big_int& a, const c_big_int& b) { return !(a == b); }
-inline bool operator>(const c_big_int& a, const c_big_int& b) { return a.is_greater(b.get_as_string()); }
 inline bool operator>=(const c_big_int& a, const c_big_int& b) { return a == b || a > b; }
 inline bool operator<(const c_big_int& a, const c_big_int& b) { return !(a >= b); }
 inline bool operator<=(const c_big_int& a, const c_big_int& b) { return !(a > b); }

@@ -1,13 +1,14 @@
 // Copyright 2026 The Vyr Authors
 // SPDX-License-Identifier: Apache-2.0
 
-/// Bytes and their base64 text.
+/// Bytes and their hexadecimal and base64 text.
 
 #include "lmx/values/binary.h"
 
 #include <algorithm>
 #include <array>
 #include <cstdint>
+#include <iomanip>
 #include <stdexcept>
 #include <string_view>
 #include <utility>
@@ -52,18 +53,38 @@ void encode(const std::vector<unsigned char>& bytes, Write write) {
     }
 }
 
-const unsigned char* checked_data(const unsigned char* data, std::size_t size) {
+/// What a digit stands for. Anything else is taken for an upper-case letter; the check keeps it out.
+unsigned hex_value(char c) {
+    if (xisdigit(c)) return static_cast<unsigned>(c - '0');
+    return static_cast<unsigned>(c >= 'a' && c <= 'f' ? c - 'a' + 10 : c - 'A' + 10);
+}
+
+std::vector<unsigned char> copy_of(const unsigned char* data, std::size_t size) {
     if (size > std::vector<unsigned char>().max_size()) throw std::length_error("vector<T> too long");
-    return data;
+    return {data, data + size};
 }
 
 }  // namespace
 
-c_binary::c_binary(const unsigned char* data, std::size_t size) : m_bytes(checked_data(data, size), data + size) {}
+c_binary::c_binary(const unsigned char* data, std::size_t size) : m_bytes(copy_of(data, size)) {}
 
 c_binary& c_binary::operator=(const c_binary& other) {
     c_binary(other).swap(*this);
     return *this;
+}
+
+c_binary& c_binary::set(const unsigned char* data, std::size_t size) {
+    m_bytes = copy_of(data, size);
+    return *this;
+}
+
+unsigned char* c_binary::get(unsigned char* buffer, std::size_t size) const {
+    std::copy_n(m_bytes.begin(), std::min(size, m_bytes.size()), buffer);
+    return buffer;
+}
+
+bool c_binary::equal(const unsigned char* data, std::size_t size) const {
+    return size == m_bytes.size() && std::equal(m_bytes.begin(), m_bytes.end(), data);
 }
 
 const unsigned char& c_binary::at(std::size_t index) const {
@@ -78,6 +99,27 @@ unsigned char& c_binary::at(std::size_t index) {
 c_binary& c_binary::append(unsigned char byte) {
     m_bytes.push_back(byte);
     return *this;
+}
+
+bool c_binary::is_valid_hex(const std::string& text) {
+    return text.size() % 2 == 0 && std::all_of(text.begin(), text.end(), [](char c) { return xisxdigit(c); });
+}
+
+void c_binary::from_hex(const std::string& text) {
+    std::vector<unsigned char> bytes(text.size() / 2);
+    for (std::size_t i = 0; i < bytes.size(); ++i) {
+        bytes[i] = static_cast<unsigned char>((hex_value(text[2 * i]) << 4) | hex_value(text[2 * i + 1]));
+    }
+    m_bytes = std::move(bytes);
+}
+
+void c_binary::out_hex(std::ostream& stream) const {
+    constexpr std::string_view k_hex_digits = "0123456789ABCDEF";
+    stream.fill('0');  // and it stays, as after any number of two digits
+    for (const unsigned char byte : m_bytes) {
+        const std::array<char, 2> text{k_hex_digits[byte >> 4], k_hex_digits[byte & 0xFU]};
+        stream << std::setw(2) << std::string_view(text.data(), text.size());
+    }
 }
 
 bool c_binary::is_valid_base64(const std::string& text) {

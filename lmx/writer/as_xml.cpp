@@ -234,6 +234,11 @@ std::ostream& operator<<(std::ostream& stream, const c_as_bool_digit& value) {
     return stream << (value.get() ? '1' : '0');
 }
 
+std::ostream& operator<<(std::ostream& stream, const c_as_hex<c_binary>& value) {
+    value.get().out_hex(stream);
+    return stream;
+}
+
 std::ostream& operator<<(std::ostream& stream, const c_as_base64<c_binary>& value) {
     value.get().out_base64(stream);
     return stream;

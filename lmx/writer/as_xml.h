@@ -78,6 +78,19 @@ private:
 
 VYR_EXPORT std::ostream& operator<<(std::ostream& stream, const c_as_bool_digit& value);
 
+/// Bytes as hexadecimal digits in upper case. Borrows the value.
+template <class T>
+class c_as_hex {
+public:
+    explicit c_as_hex(const T& value) : m_value(&value) {}
+    const T& get() const { return *m_value; }
+
+private:
+    const T* m_value;
+};
+
+VYR_EXPORT std::ostream& operator<<(std::ostream& stream, const c_as_hex<c_binary>& value);
+
 /// Bytes as base64. Borrows the value.
 template <class T>
 class c_as_base64 {

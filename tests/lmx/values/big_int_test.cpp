@@ -119,6 +119,9 @@ TEST(BigInt, NullIsZeroAndNothingEqualsTheEmptyText) {
     EXPECT_FALSE(c_big_int(5) > "");
     EXPECT_TRUE(c_big_int(5) < "");
     EXPECT_TRUE(c_big_int(5) != std::string());
+    // Text that is no integer is taken as it stands.
+    EXPECT_TRUE(c_big_int(0) == "+" && c_big_int(0) > "+." && c_big_int(0) < "+:" && c_big_int(0) == "-0x");
+    EXPECT_TRUE(c_big_int(5) < "5 " && c_big_int(-5) > "-5 " && c_big_int(-5) < "-");
 }
 
 }  // namespace

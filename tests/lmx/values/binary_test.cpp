@@ -1,12 +1,13 @@
 // Copyright 2026 The Vyr Authors
 // SPDX-License-Identifier: Apache-2.0
 
-/// Bytes and their base64 text.
+/// Bytes and their hexadecimal and base64 text.
 
 #include "lmx/values/binary.h"
 
 #include <gtest/gtest.h>
 
+#include <array>
 #include <sstream>
 #include <stdexcept>
 
@@ -25,6 +26,27 @@ std::string base64(const c_binary& value) {
     value.out_base64(stream);
     EXPECT_EQ(appended, "old " + stream.str());
     return stream.str();
+}
+
+TEST(Binary, HexDigitsMakeBytes) {
+    const struct {
+        const char* text;
+        const char* written;
+        bool is_valid;
+    } cases[] = {{"", "", true},          {"ABcd", "ABCD", true}, {"0009afAF", "0009AFAF", true},
+                 {"abc", "AB", false},    {"a", "", false},       {"0g", "30", false},
+                 {" 0A ", "90E9", false}, {"0A\n", "0A", false},  {"\xC3\xA9", "F2", false}};
+    for (const auto& row : cases) {
+        EXPECT_EQ(c_binary::is_valid_hex(row.text), row.is_valid) << row.text;
+        c_binary value = bytes("old");
+        value.from_hex(row.text);
+        std::ostringstream stream;
+        stream << std::showbase << std::left << std::scientific;
+        const auto flags = stream.flags();
+        value.out_hex(stream);
+        EXPECT_EQ(stream.str(), row.written) << row.text;
+        EXPECT_TRUE(stream.flags() == flags && stream.fill() == '0');
+    }
 }
 
 TEST(Binary, CheckOfBase64CountsCharacters) {
@@ -89,8 +111,22 @@ TEST(Binary, CopiesAreDeepAndAccessIsChecked) {
     } catch (const std::out_of_range& error) {
         EXPECT_STREQ(error.what(), "invalid vector<T> subscript");
     }
-    EXPECT_THROW(c_binary(one.data(), SIZE_MAX), std::length_error);
-    EXPECT_TRUE(c_binary(nullptr, 0) == c_binary());
+    try {
+        one.set(one.data(), SIZE_MAX);
+        FAIL();
+    } catch (const std::length_error& error) {
+        EXPECT_STREQ(error.what(), "vector<T> too long");
+    }
+    EXPECT_TRUE(c_binary(nullptr, 0) == c_binary() && c_binary().equal(nullptr, 0));
+
+    one.set(one.data() + 1, 3);
+    EXPECT_TRUE(one == bytes("bcd"));
+    std::array<unsigned char, 4> buffer{'1', '2', '3', '4'};
+    EXPECT_EQ(one.get(buffer.data(), 2), buffer.data());
+    EXPECT_EQ(buffer, (std::array<unsigned char, 4>{'b', 'c', '3', '4'}));
+    one.get(buffer.data(), 4);
+    EXPECT_TRUE(one.equal(buffer.data(), 3) && buffer[3] == '4');
+    EXPECT_FALSE(one.equal(buffer.data(), 4) || one.equal(buffer.data() + 1, 3));
 }
 
 }  // namespace

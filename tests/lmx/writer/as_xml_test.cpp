@@ -107,8 +107,8 @@ TEST(AsXml, BooleansAndBytes) {
     std::ostringstream stream;
     stream << lmx::c_as_bool_digit(true) << lmx::c_as_bool_digit(false);
     const lmx::c_binary bytes(reinterpret_cast<const unsigned char*>("Ma"), 2);
-    stream << lmx::c_as_base64(bytes);
-    EXPECT_EQ(stream.str(), "10TWE=");
+    stream << lmx::c_as_base64(bytes) << lmx::c_as_hex(bytes);
+    EXPECT_EQ(stream.str(), "10TWE=4D61");
 }
 
 TEST(AsXml, FourCharactersAreEscapedAndNoOthers) {
