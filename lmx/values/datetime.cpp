@@ -5,46 +5,104 @@
 
 #include "lmx/values/datetime.h"
 
-#include <array>
 #include <charconv>
-#include <cstddef>
 #include <iomanip>
+#include <type_traits>
 
 #include "lmx/values/characters.h"
+#include "lmx/values/seconds.h"
 
 namespace lmx {
 
-namespace {
+static_assert(std::is_trivially_copyable_v<c_datetime> && std::is_trivially_destructible_v<c_datetime>);
 
-/// The general format might print seconds below a thousandth with an exponent.
-bool needs_fixed(float secs) { return secs != 0.0F && secs < 0.001F; }
+namespace {
 
 bool skip_two_digits(const char** cursor) { return skip_digits(cursor) == 2; }
 bool parse_two_digits(const char** cursor, std::uint32_t* value) { return parse_uint(cursor, value) == 2; }
 
-std::uint32_t magnitude(std::int32_t value) {
-    const auto bits = static_cast<std::uint32_t>(value);
-    return value < 0 ? 0U - bits : bits;
+bool match_char(const char** cursor, char c) {
+    if (**cursor != c) return false;
+    ++*cursor;
+    return true;
 }
 
-/// Appends a number with zeros to its left, ahead of a sign too.
-template <class Number>
-void append_padded(std::string* out, Number value, std::size_t width) {
-    std::array<char, 16> text;
-    const char* const end = std::to_chars(text.data(), text.data() + text.size(), value).ptr;
-    const auto size = static_cast<std::size_t>(end - text.data());
-    if (size < width) out->append(width - size, '0');
-    out->append(text.data(), size);
+/// Steps over one part of a form; returns whether all of it was there.
+bool skip_part(char part, const char** cursor) {
+    switch (part) {
+        case 'Y':
+            return skip_digits(cursor) >= 4;
+        case 'M':
+        case 'D':
+        case 'd':
+        case 'h':
+        case 'm':
+            return skip_two_digits(cursor);
+        case 's':
+            if (!skip_two_digits(cursor)) return false;
+            if (match_char(cursor, '.')) skip_digits(cursor);
+            return true;
+        default:
+            return match_char(cursor, part);
+    }
 }
 
-void append_seconds(std::string* out, float secs) {
-    if (secs < 10.0F) *out += '0';
-    std::array<char, 64> text;  // the longest: a sign, the 39 digits of the greatest float, a point, 6 digits
-    const auto format = needs_fixed(secs) ? std::chars_format::fixed : std::chars_format::general;
-    // As a double, which is what a stream formats.
-    char* const end = std::to_chars(text.data(), text.data() + text.size(), static_cast<double>(secs), format, 6).ptr;
-    out->append(text.data(), end);
+/// Whether `[text, end)` is empty or a zone; `*has_zone` tells which.
+bool is_valid_zone(const char* text, const char* end, bool* has_zone) {
+    *has_zone = text != end;
+    if (text == end) return true;
+    if (match_char(&text, 'Z')) return text == end;
+    return skip_sign(&text) && skip_two_digits(&text) && match_char(&text, ':') && skip_two_digits(&text) &&
+           text == end;
 }
+
+std::int32_t negated(std::int32_t value) { return static_cast<std::int32_t>(0U - static_cast<std::uint32_t>(value)); }
+
+/// Appends as a stream does in its default state and the classic locale.
+class c_string_sink {
+public:
+    explicit c_string_sink(std::string* out) : m_out(out) {}
+
+    void put(char c) { *m_out += c; }
+
+    /// With zeros to its left, ahead of a sign too.
+    template <class Number>
+    void put(Number value, std::size_t width) {
+        std::array<char, 16> text;
+        const char* const end = std::to_chars(text.data(), text.data() + text.size(), value).ptr;
+        const auto size = static_cast<std::size_t>(end - text.data());
+        if (size < width) m_out->append(width - size, '0');
+        m_out->append(text.data(), size);
+    }
+
+    void put_seconds(float secs) {
+        std::array<char, 64> text;  // the longest: a sign, the 39 digits of the greatest float, a point, 6 digits
+        const auto format = needs_fixed(secs) ? std::chars_format::fixed : std::chars_format::general;
+        // As a double, which is what a stream formats.
+        const auto value = static_cast<double>(secs);
+        m_out->append(text.data(), std::to_chars(text.data(), text.data() + text.size(), value, format, 6).ptr);
+    }
+
+private:
+    std::string* m_out;
+};
+
+class c_stream_sink {
+public:
+    explicit c_stream_sink(std::ostream* stream) : m_stream(stream) { m_stream->fill('0'); }
+
+    void put(char c) { *m_stream << c; }
+
+    template <class Number>
+    void put(Number value, int width) {
+        *m_stream << std::setw(width) << value;
+    }
+
+    void put_seconds(float secs) { write_seconds(*m_stream, secs); }
+
+private:
+    std::ostream* m_stream;
+};
 
 }  // namespace
 
@@ -54,28 +112,64 @@ void c_datetime_base::set_offset(std::int32_t hours, std::uint32_t minutes) {
     m_is_utc = m_total_offset_mins == 0;
 }
 
-bool c_datetime_base::is_equal(const c_datetime_base& other) const {
-    return m_year == other.m_year && m_month == other.m_month && m_day == other.m_day && m_hours == other.m_hours &&
-           m_mins == other.m_mins && m_secs == other.m_secs;
+bool operator==(const c_datetime_base& a, const c_datetime_base& b) { return (a <=> b) == 0; }
+
+std::weak_ordering operator<=>(const c_datetime_base& a, const c_datetime_base& b) {
+    if (a.m_year != b.m_year) return a.m_year <=> b.m_year;
+    if (a.m_month != b.m_month) return a.m_month <=> b.m_month;
+    if (a.m_day != b.m_day) return a.m_day <=> b.m_day;
+    if (a.m_hours != b.m_hours) return a.m_hours <=> b.m_hours;
+    if (a.m_mins != b.m_mins) return a.m_mins <=> b.m_mins;
+    if (a.m_secs == b.m_secs) return std::weak_ordering::equivalent;
+    return a.m_secs > b.m_secs ? std::weak_ordering::greater : std::weak_ordering::less;
 }
 
-bool c_datetime_base::is_greater(const c_datetime_base& other) const {
-    if (m_year != other.m_year) return m_year > other.m_year;
-    if (m_month != other.m_month) return m_month > other.m_month;
-    if (m_day != other.m_day) return m_day > other.m_day;
-    if (m_hours != other.m_hours) return m_hours > other.m_hours;
-    if (m_mins != other.m_mins) return m_mins > other.m_mins;
-    return m_secs > other.m_secs;
+bool c_datetime_base::is_valid(const s_calendar_form& form, const std::string& text, bool* has_zone) {
+    const char* cursor = text.c_str();
+    if (form.sign != calendar_sign::none) skip_sign(&cursor);
+    for (const char part : form.body) {
+        if (!skip_part(part, &cursor)) return false;
+    }
+    return is_valid_zone(cursor, text.c_str() + text.size(), has_zone);
 }
 
-bool c_datetime_base::is_valid_zone(const char* text, const char* end, bool* has_zone) {
-    *has_zone = text != end;
-    if (text == end) return true;
-    if (match_literal(&text, "Z")) return text == end;
-    return skip_sign(&text) && skip_two_digits(&text) && match_literal(&text, ":") && skip_two_digits(&text) &&
-           text == end;
+void c_datetime_base::assign(const s_calendar_form& form, const char* text) {
+    const bool is_signed = form.sign == calendar_sign::taken;
+    const bool is_negative = is_signed && *text == '-';
+    if (is_signed) skip_sign(&text);
+    for (const char part : form.body) {
+        if (!parse_part(part, &text)) return;
+    }
+    if (is_negative) m_year = negated(m_year);
+    parse_zone(text);
 }
 
+bool c_datetime_base::parse_part(char part, const char** cursor) {
+    switch (part) {
+        case 'Y': {
+            auto year = static_cast<std::uint32_t>(m_year);
+            const std::size_t digits = parse_uint(cursor, &year);
+            m_year = static_cast<std::int32_t>(year);
+            return digits >= 4;
+        }
+        case 'M':
+            return parse_two_digits(cursor, &m_month);
+        case 'D':
+            return parse_two_digits(cursor, &m_day);
+        case 'd':
+            return parse_uint(cursor, &m_day) >= 1;
+        case 'h':
+            return parse_two_digits(cursor, &m_hours);
+        case 'm':
+            return parse_two_digits(cursor, &m_mins);
+        case 's':
+            return parse_seconds(cursor, &m_secs) >= 2;
+        default:
+            return match_char(cursor, part);
+    }
+}
+
+/// Takes the zone from the rest of a text; anything else than a zone or nothing changes nothing.
 void c_datetime_base::parse_zone(const char* text) {
     if (*text == '\0') {
         m_total_offset_mins = 0;
@@ -90,7 +184,7 @@ void c_datetime_base::parse_zone(const char* text) {
     const bool is_west = *text == '-';
     std::uint32_t hours = 0;
     std::uint32_t minutes = 0;
-    if (skip_sign(&text) && parse_two_digits(&text, &hours) && match_literal(&text, ":") &&
+    if (skip_sign(&text) && parse_two_digits(&text, &hours) && match_char(&text, ':') &&
         parse_two_digits(&text, &minutes) && *text == '\0') {
         const auto total = static_cast<std::int32_t>(hours * 60 + minutes);
         m_total_offset_mins = is_west ? -total : total;
@@ -98,123 +192,50 @@ void c_datetime_base::parse_zone(const char* text) {
     }
 }
 
-bool c_datetime_base::parse_date(const char** cursor) {
-    auto year = static_cast<std::uint32_t>(m_year);
-    const std::size_t digits = parse_uint(cursor, &year);
-    m_year = static_cast<std::int32_t>(year);
-    return digits >= 4 && match_literal(cursor, "-") && parse_two_digits(cursor, &m_month) &&
-           match_literal(cursor, "-") && parse_two_digits(cursor, &m_day);
-}
-
-bool c_datetime_base::parse_time(const char** cursor) {
-    return parse_two_digits(cursor, &m_hours) && match_literal(cursor, ":") && parse_two_digits(cursor, &m_mins) &&
-           match_literal(cursor, ":") && parse_seconds(cursor, &m_secs) >= 2;
-}
-
-void c_datetime_base::append_date(std::string* out) const {
-    append_padded(out, m_year, 4);
-    *out += '-';
-    append_padded(out, m_month, 2);
-    *out += '-';
-    append_padded(out, m_day, 2);
-}
-
-void c_datetime_base::append_time(std::string* out) const {
-    append_padded(out, m_hours, 2);
-    *out += ':';
-    append_padded(out, m_mins, 2);
-    *out += ':';
-    append_seconds(out, m_secs);
-}
-
-void c_datetime_base::append_zone(std::string* out) const {
+template <class Sink>
+void c_datetime_base::print(const s_calendar_form& form, Sink sink) const {
+    for (const char part : form.body) {
+        switch (part) {
+            case 'Y':
+                sink.put(m_year, 4);
+                break;
+            case 'M':
+                sink.put(m_month, 2);
+                break;
+            case 'D':
+            case 'd':
+                sink.put(m_day, 2);
+                break;
+            case 'h':
+                sink.put(m_hours, 2);
+                break;
+            case 'm':
+                sink.put(m_mins, 2);
+                break;
+            case 's':
+                if (m_secs < 10.0F) sink.put('0');
+                sink.put_seconds(m_secs);
+                break;
+            default:
+                sink.put(part);
+        }
+    }
     if (m_is_utc) {
-        *out += 'Z';
+        sink.put('Z');
     } else if (m_total_offset_mins != 0) {
-        *out += m_total_offset_mins < 0 ? '-' : '+';
-        append_padded(out, magnitude(m_total_offset_mins) / 60, 2);
-        *out += ':';
-        append_padded(out, magnitude(m_total_offset_mins) % 60, 2);
+        const bool is_west = m_total_offset_mins < 0;
+        const auto minutes = static_cast<std::uint32_t>(is_west ? negated(m_total_offset_mins) : m_total_offset_mins);
+        sink.put(is_west ? '-' : '+');
+        sink.put(minutes / 60, 2);
+        sink.put(':');
+        sink.put(minutes % 60, 2);
     }
 }
 
-bool c_datetime_base::skip_date(const char** cursor) {
-    skip_sign(cursor);
-    return skip_digits(cursor) >= 4 && match_literal(cursor, "-") && skip_two_digits(cursor) &&
-           match_literal(cursor, "-") && skip_two_digits(cursor);
-}
+void c_datetime_base::append(const s_calendar_form& form, std::string* out) const { print(form, c_string_sink(out)); }
 
-bool c_datetime_base::skip_time(const char** cursor) {
-    if (!skip_two_digits(cursor) || !match_literal(cursor, ":") || !skip_two_digits(cursor) ||
-        !match_literal(cursor, ":") || !skip_two_digits(cursor)) {
-        return false;
-    }
-    if (match_literal(cursor, ".")) skip_digits(cursor);
-    return true;
-}
-
-c_datetime& c_datetime::operator=(const char* text) {
-    const bool is_negative = *text == '-';
-    skip_sign(&text);
-    if (!parse_date(&text) || !match_literal(&text, "T") || !parse_time(&text)) return *this;
-    if (is_negative) m_year = static_cast<std::int32_t>(0U - static_cast<std::uint32_t>(m_year));
-    parse_zone(text);
-    return *this;
-}
-
-bool c_datetime::is_valid(const std::string& text) {
-    bool has_zone = false;
-    return is_valid(text, &has_zone);
-}
-
-bool c_datetime::is_valid(const std::string& text, bool* has_zone) {
-    const char* cursor = text.c_str();
-    return skip_date(&cursor) && match_literal(&cursor, "T") && skip_time(&cursor) &&
-           is_valid_zone(cursor, text.c_str() + text.size(), has_zone);
-}
-
-std::string c_datetime::get_as_string() const {
-    std::string text;
-    append_to(&text);
-    return text;
-}
-
-void c_datetime::append_to(std::string* out) const {
-    append_date(out);
-    *out += 'T';
-    append_time(out);
-    append_zone(out);
-}
-
-void c_datetime_base::write_date(std::ostream& stream) const {
-    stream << std::setw(4) << m_year << '-' << std::setw(2) << m_month << '-' << std::setw(2) << m_day;
-}
-
-void c_datetime_base::write_time(std::ostream& stream) const {
-    stream << std::setw(2) << m_hours << ':' << std::setw(2) << m_mins << ':';
-    if (m_secs < 10.0F) stream << '0';
-    if (needs_fixed(m_secs)) stream.setf(std::ios_base::fixed, std::ios_base::floatfield);
-    stream << m_secs;
-    stream.unsetf(std::ios_base::fixed);
-}
-
-void c_datetime_base::write_zone(std::ostream& stream) const {
-    if (m_is_utc) {
-        stream << 'Z';
-    } else if (m_total_offset_mins != 0) {
-        const std::uint32_t minutes = magnitude(m_total_offset_mins);
-        stream << (m_total_offset_mins < 0 ? '-' : '+') << std::setw(2) << minutes / 60 << ':' << std::setw(2)
-               << minutes % 60;
-    }
-}
-
-std::ostream& operator<<(std::ostream& stream, const c_datetime& value) {
-    stream.fill('0');
-    value.write_date(stream);
-    stream << 'T';
-    value.write_time(stream);
-    value.write_zone(stream);
-    return stream;
+void c_datetime_base::write(const s_calendar_form& form, std::ostream& stream) const {
+    print(form, c_stream_sink(&stream));
 }
 
 }  // namespace lmx

@@ -1,25 +1,67 @@
 // Copyright 2026 The Vyr Authors
 // SPDX-License-Identifier: Apache-2.0
 
-/// Calendar values: points in time as the document writes them, without any calendar arithmetic.
+/// Calendar values: dates, times and parts of them as documents write them, without any calendar arithmetic.
 ///
 /// A check looks at the shape of the text only, never at the calendar: month 13 and second 61 are fine. An
-/// assignment never fails; on bad text it stops, keeps what it has stored, and leaves the rest as it was.
+/// assignment never fails; on bad text it stops, keeps what it has stored, and leaves the rest as it was. The types
+/// differ in nothing but their row of `k_calendar_forms`.
 
 #pragma once
 
-#include <concepts>
+#include <array>
+#include <compare>
+#include <cstddef>
 #include <cstdint>
 #include <ostream>
+#include <sstream>
 #include <string>
+#include <string_view>
 
 #include "lmx/export.h"
 
 namespace lmx {
 
-/// The fields of all calendar types, and what those types share: the zone, comparison, pieces of text.
+enum class calendar_type : std::uint8_t { datetime, date, time, gyearmonth, gyear, gmonthday, gday, gmonth };
+
+/// What a type does with a sign at the start of a text. `checked`: only the check lets it pass, an assignment stops.
+enum class calendar_sign : std::uint8_t { none, checked, taken };
+
+/// How the texts of a calendar type are made, but for the zone at their end.
+struct s_calendar_form {
+    calendar_sign sign;
+    /// The letters are fields: "Y" the year (4 digits at least), "M" month, "D" day, "h" hours, "m" minutes (2 digits
+    /// each), "s" seconds with their fraction; "d" is a day of which an assignment takes any number of digits. All
+    /// else stands for itself, "T" too.
+    std::string_view body;
+};
+
+/// In the order of `calendar_type`.
+inline constexpr std::array<s_calendar_form, 8> k_calendar_forms{{
+    {calendar_sign::taken, "Y-M-DTh:m:s"},
+    {calendar_sign::taken, "Y-M-D"},
+    {calendar_sign::checked, "h:m:s"},
+    {calendar_sign::taken, "Y-M"},
+    {calendar_sign::taken, "Y"},
+    {calendar_sign::none, "--M-d"},
+    {calendar_sign::none, "---d"},
+    {calendar_sign::none, "--M--"},
+}};
+
+constexpr const s_calendar_form& form_of(calendar_type type) {
+    return k_calendar_forms[static_cast<std::size_t>(type)];
+}
+
+/// Whether texts of the type hold one of the fields, given as letters of `s_calendar_form`.
+constexpr bool has_field(calendar_type type, std::string_view letters) {
+    return form_of(type).body.find_first_of(letters) != std::string_view::npos;
+}
+
+/// The fields of all calendar types, and what works the same on all of them.
 class VYR_EXPORT c_datetime_base {
 public:
+    c_datetime_base() = default;
+
     /// Offset from UTC in minutes, east positive.
     std::int32_t get_total_offset_mins() const { return m_total_offset_mins; }
     void set_total_offset_mins(std::int32_t minutes) { m_total_offset_mins = minutes; }
@@ -31,33 +73,16 @@ public:
     void set_offset_mins(std::int32_t hours, std::uint32_t minutes) { set_offset(hours, minutes); }
 
     /// Compare the fields from the year down to the seconds. The zone takes no part: 12:00:00Z equals
-    /// 12:00:00+05:00.
-    bool is_equal(const c_datetime_base& other) const;
-    bool is_greater(const c_datetime_base& other) const;
+    /// 12:00:00+05:00. Seconds that are no number make a value less than any other, itself included.
+    VYR_EXPORT friend bool operator==(const c_datetime_base& a, const c_datetime_base& b);
+    VYR_EXPORT friend std::weak_ordering operator<=>(const c_datetime_base& a, const c_datetime_base& b);
 
 protected:
-    c_datetime_base() = default;
-
-    // The pieces of text that the types are made of. "skip" checks them, "parse" takes them, both stop at the first
-    // character that doesn't fit and answer whether all was there; "append" and "write" give the same text.
-
-    /// A sign, a year, "-", month, "-", day.
-    static bool skip_date(const char** cursor);
-    /// Hours, ":", minutes, ":", seconds with an optional fraction.
-    static bool skip_time(const char** cursor);
-    /// Whether `[text, end)` is empty or a zone; `*has_zone` tells which.
-    static bool is_valid_zone(const char* text, const char* end, bool* has_zone);
-    /// Takes the zone from the rest of a text; anything else than a zone or nothing changes nothing.
-    void parse_zone(const char* text);
-    /// Starts behind the sign.
-    bool parse_date(const char** cursor);
-    bool parse_time(const char** cursor);
-    void append_date(std::string* out) const;
-    void append_time(std::string* out) const;
-    void append_zone(std::string* out) const;
-    void write_date(std::ostream& stream) const;
-    void write_time(std::ostream& stream) const;
-    void write_zone(std::ostream& stream) const;
+    /// `*has_zone` is set only for valid text.
+    static bool is_valid(const s_calendar_form& form, const std::string& text, bool* has_zone);
+    void assign(const s_calendar_form& form, const char* text);
+    void append(const s_calendar_form& form, std::string* out) const;
+    void write(const s_calendar_form& form, std::ostream& stream) const;
 
     std::int32_t m_year = 1;  ///< negative before the common era
     std::uint32_t m_month = 0;
@@ -67,66 +92,75 @@ protected:
     float m_secs = 0.0F;  ///< whole and fraction
     std::int32_t m_total_offset_mins = 0;
     bool m_is_utc = false;
+
+private:
+    bool parse_part(char part, const char** cursor);
+    void parse_zone(const char* text);
+    template <class Sink>
+    void print(const s_calendar_form& form, Sink sink) const;
 };
 
-/// The comparison operators of every calendar type, for two operands of the same type.
-template <std::derived_from<c_datetime_base> T>
-bool operator==(const T& a, const T& b) {
-    return a.is_equal(b);
-}
-template <std::derived_from<c_datetime_base> T>
-bool operator!=(const T& a, const T& b) {
-    return !a.is_equal(b);
-}
-template <std::derived_from<c_datetime_base> T>
-bool operator>(const T& a, const T& b) {
-    return a.is_greater(b);
-}
-template <std::derived_from<c_datetime_base> T>
-bool operator>=(const T& a, const T& b) {
-    return a.is_equal(b) || a.is_greater(b);
-}
-template <std::derived_from<c_datetime_base> T>
-bool operator<(const T& a, const T& b) {
-    return !(a >= b);
-}
-template <std::derived_from<c_datetime_base> T>
-bool operator<=(const T& a, const T& b) {
-    return !a.is_greater(b);
-}
-
-/// A date, a time of day and an optional zone, such as "2005-02-28T10:00:00Z".
-class VYR_EXPORT c_datetime : public c_datetime_base {
+/// A calendar value: the fields that its type writes, and a zone.
+template <calendar_type Type>
+class VYR_EXPORT c_calendar : public c_datetime_base {
 public:
-    c_datetime() = default;
-    c_datetime(const char* text) { *this = text; }
-    c_datetime(const std::string& text) { *this = text; }
-    c_datetime& operator=(const char* text);
-    c_datetime& operator=(const std::string& text) { return *this = text.c_str(); }
+    c_calendar() = default;
+    c_calendar(const char* text) { assign(form_of(Type), text); }
+    c_calendar(const std::string& text) { assign(form_of(Type), text.c_str()); }
+    c_calendar& operator=(const char* text) {
+        assign(form_of(Type), text);
+        return *this;
+    }
+    c_calendar& operator=(const std::string& text) { return *this = text.c_str(); }
 
-    static bool is_valid(const std::string& text);
+    static bool is_valid(const std::string& text) {
+        bool has_zone = false;
+        return is_valid(text, &has_zone);
+    }
     /// The same check, which also tells whether the text names a zone. `*has_zone` is set only for valid text.
-    static bool is_valid(const std::string& text, bool* has_zone);
+    static bool is_valid(const std::string& text, bool* has_zone) {
+        return c_datetime_base::is_valid(form_of(Type), text, has_zone);
+    }
 
-    std::string get_as_string() const;
-    /// Appends what `operator<<` writes to a stream in its default state; much faster.
-    void append_to(std::string* out) const;
-
-    std::int32_t get_year() const { return m_year; }
-    std::uint32_t get_month() const { return m_month; }
-    std::uint32_t get_day() const { return m_day; }
-    std::uint32_t get_hours() const { return m_hours; }
-    std::uint32_t get_mins() const { return m_mins; }
-    float get_secs() const { return m_secs; }
-    void set_year(std::int32_t year) { m_year = year; }
-    void set_month(std::uint32_t month) { m_month = month; }
-    void set_day(std::uint32_t day) { m_day = day; }
-    void set_hours(std::uint32_t hours) { m_hours = hours; }
-    void set_mins(std::uint32_t mins) { m_mins = mins; }
-    void set_secs(float secs) { m_secs = secs; }
+    /// What `operator<<` writes to a new stream, which formats numbers by the program's global C++ locale.
+    std::string get_as_string() const {
+        std::ostringstream stream;
+        stream << *this;
+        return stream.str();
+    }
+    /// Appends what `operator<<` writes to a new stream in the classic locale; much faster.
+    void append_to(std::string* out) const { append(form_of(Type), out); }
 
     /// Leaves the stream's fill character at "0".
-    VYR_EXPORT friend std::ostream& operator<<(std::ostream& stream, const c_datetime& value);
+    friend std::ostream& operator<<(std::ostream& stream, const c_calendar& value) {
+        value.write(form_of(Type), stream);
+        return stream;
+    }
+
+    // Each type has the accessors of its own fields only.
+    // clang-format off
+    std::int32_t get_year() const requires(has_field(Type, "Y")) { return m_year; }
+    std::uint32_t get_month() const requires(has_field(Type, "M")) { return m_month; }
+    std::uint32_t get_day() const requires(has_field(Type, "Dd")) { return m_day; }
+    std::uint32_t get_hours() const requires(has_field(Type, "h")) { return m_hours; }
+    std::uint32_t get_mins() const requires(has_field(Type, "m")) { return m_mins; }
+    float get_secs() const requires(has_field(Type, "s")) { return m_secs; }
+    void set_year(std::int32_t year) requires(has_field(Type, "Y")) { m_year = year; }
+    void set_month(std::uint32_t month) requires(has_field(Type, "M")) { m_month = month; }
+    void set_day(std::uint32_t day) requires(has_field(Type, "Dd")) { m_day = day; }
+    void set_hours(std::uint32_t hours) requires(has_field(Type, "h")) { m_hours = hours; }
+    void set_mins(std::uint32_t mins) requires(has_field(Type, "m")) { m_mins = mins; }
+    void set_secs(float secs) requires(has_field(Type, "s")) { m_secs = secs; }
+    // clang-format on
 };
+
+using c_datetime = c_calendar<calendar_type::datetime>;      ///< "2005-02-28T10:00:00Z"
+using c_date = c_calendar<calendar_type::date>;              ///< "2005-02-28"
+using c_time = c_calendar<calendar_type::time>;              ///< "10:00:00.5"
+using c_gyearmonth = c_calendar<calendar_type::gyearmonth>;  ///< "2005-02"
+using c_gyear = c_calendar<calendar_type::gyear>;            ///< "2005"
+using c_gmonthday = c_calendar<calendar_type::gmonthday>;    ///< "--02-28"
+using c_gday = c_calendar<calendar_type::gday>;              ///< "---28"
+using c_gmonth = c_calendar<calendar_type::gmonth>;          ///< "--02--", the older form with two hyphens behind
 
 }  // namespace lmx
