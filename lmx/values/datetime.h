@@ -138,7 +138,6 @@ public:
     }
 
     // Each type has the accessors of its own fields only.
-    // clang-format off
     std::int32_t get_year() const requires(has_field(Type, "Y")) { return m_year; }
     std::uint32_t get_month() const requires(has_field(Type, "M")) { return m_month; }
     std::uint32_t get_day() const requires(has_field(Type, "Dd")) { return m_day; }
@@ -151,7 +150,6 @@ public:
     void set_hours(std::uint32_t hours) requires(has_field(Type, "h")) { m_hours = hours; }
     void set_mins(std::uint32_t mins) requires(has_field(Type, "m")) { m_mins = mins; }
     void set_secs(float secs) requires(has_field(Type, "s")) { m_secs = secs; }
-    // clang-format on
 };
 
 using c_datetime = c_calendar<calendar_type::datetime>;      ///< "2005-02-28T10:00:00Z"
