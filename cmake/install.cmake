@@ -14,7 +14,8 @@ endif()
 # is the other way round.
 foreach(folder lmx schema)
   install(DIRECTORY ${PROJECT_SOURCE_DIR}/${folder} DESTINATION ${vyr_include_dir} FILES_MATCHING PATTERN "*.h"
-          PATTERN "generator" EXCLUDE PATTERN "storage.h" EXCLUDE PATTERN "file_name.h" EXCLUDE)
+          PATTERN "generator" EXCLUDE PATTERN "storage.h" EXCLUDE PATTERN "file_name.h" EXCLUDE
+          PATTERN "seconds.h" EXCLUDE)
 endforeach()
 foreach(header document/result.h zip/add_request.h zip/container.h zip/entry_header.h zip/exception.h)
   cmake_path(GET header PARENT_PATH folder)

@@ -1,7 +1,7 @@
 // Copyright 2026 The Vyr Authors
 // SPDX-License-Identifier: Apache-2.0
 
-/// The seconds of calendar values and durations on a stream.
+/// The seconds of calendar values and durations on a stream; of this folder only.
 
 #pragma once
 
