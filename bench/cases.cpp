@@ -3,10 +3,15 @@
 
 #include "bench/cases.h"
 
+#include <zlib.h>
 #include <pugixml.hpp>
+
+#include <fstream>
+#include <iterator>
 
 #include "lmx/lmx.h"
 #include "schema/Vyr.h"
+#include "zip/container.h"
 
 namespace vyr_bench {
 
@@ -26,12 +31,47 @@ operation vyr_load_memory(const s_input& input) {
     return [&input] { return load_from_memory(input.bytes); };
 }
 
+std::u16string wide(const std::string& text) {
+    std::u16string utf16;
+    return lmx::convert(&utf16, text);
+}
+
 operation vyr_load_file(const s_input& input) {
-    std::u16string path;
-    lmx::convert(&path, input.path);
-    return [path]() -> result {
+    return [path = wide(input.path)]() -> result {
         auto document = std::make_shared<Vyr>();
         return document->loadFile(path) == lmx::ELMX_OK ? document : nullptr;
+    };
+}
+
+operation vyr_load_container(const s_input& input) {
+    return [path = wide(input.container_path)]() -> result {
+        auto document = std::make_shared<Vyr>();
+        return document->loadFile(path) == lmx::ELMX_OK ? document : nullptr;
+    };
+}
+
+/// The least that a load from a container has to do: inflating all data in one step, and parsing.
+operation inflate_and_load(const s_input& input) {
+    CZipContainer archive;
+    archive.OpenContainer(wide(input.container_path), zip_open_read);
+    const CZipEntryHeader header = *archive.GetEntryHeader(0);
+    return [header, path = input.container_path]() -> result {
+        std::ifstream file(path, std::ios::binary);
+        file.seekg(30 + static_cast<std::streamoff>(header.file_name.size()));
+        std::string stored(header.compressed_size, '\0');
+        file.read(stored.data(), header.compressed_size);
+        const auto bytes = std::make_unique_for_overwrite<char[]>(header.uncompressed_size);
+        z_stream stream{};
+        stream.next_in = reinterpret_cast<Bytef*>(stored.data());
+        stream.avail_in = header.compressed_size;
+        stream.next_out = reinterpret_cast<Bytef*>(bytes.get());
+        stream.avail_out = header.uncompressed_size;
+        inflateInit2(&stream, -15);
+        const int code = inflate(&stream, Z_FINISH);
+        inflateEnd(&stream);
+        auto document = std::make_shared<Vyr>();
+        lmx::c_xml_reader_memory reader(bytes.get(), header.uncompressed_size);
+        return code == Z_STREAM_END && document->unmarshal(reader) == lmx::ELMX_OK ? document : nullptr;
     };
 }
 
@@ -82,16 +122,20 @@ const std::vector<s_case>& cases() {
         {"pugixml load memory", pugixml_load_memory},
         {"vyr load file", vyr_load_file},
         {"pugixml load file", pugixml_load_file},
+        {"vyr load container", vyr_load_container},
+        {"zlib + load", inflate_and_load},
         {"vyr save", vyr_save},
         {"pugixml save", pugixml_save},
     };
     return rows;
 }
 
-bool is_sound(const std::string& text) {
+bool is_sound(const std::string& text, const std::string& container_path) {
     const auto document = load_from_memory(text);
     std::string written;
-    return document && static_cast<const Vyr*>(document.get())->marshal(&written) == lmx::ELMX_OK && written == text;
+    const auto* const loaded = static_cast<const Vyr*>(document.get());
+    return loaded != nullptr && loaded->marshal(&written) == lmx::ELMX_OK && written == text &&
+           loaded->writeFile(wide(container_path)) == lmx::ELMX_OK;
 }
 
 }  // namespace vyr_bench

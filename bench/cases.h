@@ -12,10 +12,11 @@
 
 namespace vyr_bench {
 
-/// The document, as bytes and as a file with the same bytes.
+/// The document: as bytes, as a file with the same bytes, and in a container.
 struct s_input {
     std::string bytes;
     std::string path;
+    std::string container_path;
 };
 
 /// One measured operation: `prepare` is not timed and returns what is. What that call returns keeps its result alive,
@@ -25,10 +26,11 @@ struct s_case {
     std::function<std::function<std::shared_ptr<void>()>(const s_input&)> prepare;
 };
 
-/// Pairs: each operation of the library is followed by the other parser's.
+/// Pairs: each operation of the library is followed by what it is measured against: the bare parser's, or the parts
+/// that it is made of.
 const std::vector<s_case>& cases();
 
-/// True if the text loads without an error and is written back byte for byte.
-bool is_sound(const std::string& text);
+/// Writes the text's document into a container; true if it loads without an error and is written back byte for byte.
+bool is_sound(const std::string& text, const std::string& container_path);
 
 }  // namespace vyr_bench

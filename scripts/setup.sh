@@ -10,7 +10,7 @@ set -euo pipefail
 
 declare -A packages=(
     [build]="g++ cmake ninja-build libxml2-dev zlib1g-dev libbz2-dev"
-    [test]="libgtest-dev libxml2-utils pkg-config python3 clang-format-14 locales"
+    [test]="libgtest-dev unzip libarchive-tools libxml2-utils pkg-config python3 clang-format-14 locales"
     [bench]="libbenchmark-dev libpugixml-dev"
     [fuzz]="clang-14 clang libclang-rt-14-dev"
 )

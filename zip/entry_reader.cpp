@@ -14,7 +14,7 @@ namespace zip {
 namespace {
 
 /// Check sums are taken of pieces that are still in the cache.
-constexpr std::size_t k_piece_size = 4 * k_block_size;
+constexpr std::size_t k_piece_size = 16 * k_block_size;
 
 bool agree(const CZipEntryHeader& local, const CZipEntryHeader& central) {
     constexpr unsigned compared_flags = 0x0F;

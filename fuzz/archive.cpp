@@ -1,0 +1,56 @@
+// Copyright 2026 The Vyr Authors
+// SPDX-License-Identifier: Apache-2.0
+
+/// Any bytes as an archive: every entry is read, and the document call takes the file as well.
+
+#include <sys/mman.h>
+#include <unistd.h>
+
+#include <cstddef>
+#include <cstdint>
+#include <cstdlib>
+#include <string>
+#include <vector>
+
+#include "schema/Vyr.h"
+#include "zip/container.h"
+
+namespace {
+
+/// Enough for any document of a fuzzer's corpus; what claims to be larger is read in part.
+constexpr std::size_t k_read_limit = std::size_t{1} << 20U;
+
+void read_all(const std::u16string& path) {
+    CZipContainer archive;
+    archive.OpenContainer(path, zip_open_read);
+    std::vector<char> data(k_read_limit);
+    for (std::size_t i = 0; i < archive.GetEntryCount(); ++i) {
+        static_cast<void>(archive.GetEntryHeader(i)->GetFileName());
+        if (!archive.OpenEntry(i)) continue;
+        archive.ReadEntry(data.data(), data.size());
+        archive.CloseEntry(nullptr, true);
+    }
+}
+
+}  // namespace
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* bytes, std::size_t size) {
+    static const int file = memfd_create("fuzz.vyrz", 0);
+    if (ftruncate(file, 0) != 0 || pwrite(file, bytes, size, 0) != static_cast<ssize_t>(size)) std::abort();
+    std::u16string path;
+    lmx::convert(&path, "/proc/self/fd/" + std::to_string(file));
+    try {
+        read_all(path);
+    } catch (const CZipException&) {
+    }
+    // The document call knows a container by its name.
+    static const bool is_linked = symlink(std::string("/proc/self/fd/" + std::to_string(file)).c_str(),
+                                          ("fuzz." + std::to_string(getpid()) + ".vyrz").c_str()) == 0;
+    if (!is_linked) std::abort();
+    lmx::convert(&path, "fuzz." + std::to_string(getpid()) + ".vyrz");
+    try {
+        static_cast<void>(com_vyrgraph_v2::Vyr().loadFile(path));
+    } catch (const CZipException&) {
+    }
+    return 0;
+}
