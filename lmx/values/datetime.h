@@ -14,7 +14,6 @@
 #include <cstddef>
 #include <cstdint>
 #include <ostream>
-#include <sstream>
 #include <string>
 #include <string_view>
 
@@ -122,13 +121,13 @@ public:
         return c_datetime_base::is_valid(form_of(Type), text, has_zone);
     }
 
-    /// What `operator<<` writes to a new stream, which formats numbers by the program's global C++ locale.
+    /// What `operator<<` writes to a new stream in the classic locale, whatever the program's own is.
     std::string get_as_string() const {
-        std::ostringstream stream;
-        stream << *this;
-        return stream.str();
+        std::string text;
+        append_to(&text);
+        return text;
     }
-    /// Appends what `operator<<` writes to a new stream in the classic locale; much faster.
+    /// Appends the same text.
     void append_to(std::string* out) const { append(form_of(Type), out); }
 
     /// Leaves the stream's fill character at "0".

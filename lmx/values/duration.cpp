@@ -8,6 +8,7 @@
 #include <array>
 #include <cmath>
 #include <cstdlib>
+#include <locale>
 #include <sstream>
 #include <type_traits>
 
@@ -153,6 +154,7 @@ std::partial_ordering operator<=>(const c_duration& a, const c_duration& b) {
 
 std::string c_duration::get_as_string() const {
     std::ostringstream stream;
+    stream.imbue(std::locale::classic());
     stream << *this;
     return stream.str();
 }

@@ -31,7 +31,7 @@ public:
     static bool is_valid(const std::string& text);
     static bool is_valid(const char* text);
 
-    /// What `operator<<` writes to a new stream, which formats numbers by the program's global C++ locale.
+    /// What `operator<<` writes to a new stream in the classic locale, whatever the program's own is.
     std::string get_as_string() const;
 
     bool get_is_neg() const { return m_is_neg; }

@@ -10,6 +10,7 @@
 #include <limits>
 #include <sstream>
 
+#include "lmx/values/duration.h"
 #include "tests/lmx/comma_locale.h"
 
 namespace {
@@ -183,13 +184,14 @@ TEST(Calendar, OddSecondsKeepTheTextFormsAlike) {
     }
 }
 
-TEST(Calendar, OnlyTheStreamFormsFollowTheGlobalLocale) {
+TEST(Calendar, OnlyAStreamHasALocale) {
     const c_global_comma_locale comma;
     const c_datetime value("12005-01-01T10:00:01.5Z");
-    std::string appended;
-    value.append_to(&appended);
-    EXPECT_EQ(appended, "12005-01-01T10:00:01.5Z");
-    EXPECT_EQ(value.get_as_string(), "12.005-01-01T10:00:01,5Z");
+    EXPECT_EQ(value.get_as_string(), "12005-01-01T10:00:01.5Z");
+    EXPECT_EQ(lmx::c_duration("P12005YT1M").get_as_string(), "P12005YT1M");
+    std::ostringstream stream;
+    stream << value;
+    EXPECT_EQ(stream.str(), "12.005-01-01T10:00:01,5Z");
 }
 
 }  // namespace
