@@ -11,6 +11,8 @@
 #include "lmx/reader/xml_reader.h"
 #include "lmx/values/big_int.h"
 #include "lmx/values/binary.h"
+#include "lmx/values/char_classes.h"
+#include "lmx/values/characters.h"
 #include "lmx/values/datetime.h"
 #include "lmx/values/decimal.h"
 #include "lmx/values/duration.h"

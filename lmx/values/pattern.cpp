@@ -20,7 +20,7 @@ const xmlChar* as_xml_chars(const std::string& text) { return reinterpret_cast<c
 class c_silence {
 public:
     c_silence() : m_handler(xmlStructuredError), m_context(xmlStructuredErrorContext) {
-        xmlSetStructuredErrorFunc(nullptr, [](void*, xmlErrorPtr) {});
+        xmlSetStructuredErrorFunc(nullptr, [](void*, auto) {});
     }
     c_silence(const c_silence&) = delete;
     c_silence& operator=(const c_silence&) = delete;
@@ -45,6 +45,8 @@ c_regex::~c_regex() { xmlRegFreeRegexp(m_compiled); }
 bool c_regex::is_match(const std::string& text) const {
     return m_compiled != nullptr && xmlRegexpExec(m_compiled, as_xml_chars(text)) != 0;
 }
+
+int xmlRegexpIsDeterminist(_xmlRegexp* compiled) { return ::xmlRegexpIsDeterminist(compiled); }
 
 bool c_pattern::is_match(const std::u16string& text) const {
     std::string narrow;

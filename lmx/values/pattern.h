@@ -29,6 +29,10 @@ private:
     _xmlRegexp* m_compiled;
 };
 
+/// 1 if an expression that libxml2 compiled never leaves a choice of ways through it, 0 if it does; negative on a
+/// failure, also for null. libxml2's function of that name.
+VYR_EXPORT int xmlRegexpIsDeterminist(_xmlRegexp* compiled);
+
 /// A pattern facet.
 class VYR_EXPORT c_pattern {
 public:
@@ -39,6 +43,13 @@ public:
 
 private:
     c_regex m_regex;
+};
+
+/// Stands where a type has no pattern facet: every text matches.
+class c_pattern_null {
+public:
+    bool is_match(const std::string&) const { return true; }
+    bool is_match(const std::u16string&) const { return true; }
 };
 
 }  // namespace lmx

@@ -40,6 +40,16 @@ VYR_EXPORT std::string& convert(std::string* target, const std::u16string& sourc
 /// The same as `vtostring`.
 VYR_EXPORT std::u16string& convert(std::u16string* target, const std::string& source);
 
+/// The same by value.
+inline std::string convert_to_narrow(const std::u16string& source) {
+    std::string target;
+    return convert(&target, source);
+}
+inline std::u16string convert_to_wide(const std::string& source) {
+    std::u16string target;
+    return convert(&target, source);
+}
+
 /// The number of characters. A surrogate pair written as two sequences counts once; a byte that can't start a
 /// character counts once and ends the count.
 VYR_EXPORT std::size_t length(const std::string& text);

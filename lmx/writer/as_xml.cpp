@@ -230,6 +230,10 @@ std::ostream& operator<<(std::ostream& stream, const c_as_escaped<std::string>& 
     return stream << c_as_xml(value.get());
 }
 
+std::ostream& operator<<(std::ostream& stream, const c_as_ascii<std::string>& value) {
+    return stream.write(value.get().data(), static_cast<std::streamsize>(value.get().size()));
+}
+
 std::ostream& operator<<(std::ostream& stream, const c_as_bool_digit& value) {
     return stream << (value.get() ? '1' : '0');
 }

@@ -66,6 +66,19 @@ private:
 
 VYR_EXPORT std::ostream& operator<<(std::ostream& stream, const c_as_escaped<std::string>& value);
 
+/// Text that is known to hold nothing to escape: it goes out as it stands. Borrows the value.
+template <class T>
+class c_as_ascii {
+public:
+    explicit c_as_ascii(const T& value) : m_value(&value) {}
+    const T& get() const { return *m_value; }
+
+private:
+    const T* m_value;
+};
+
+VYR_EXPORT std::ostream& operator<<(std::ostream& stream, const c_as_ascii<std::string>& value);
+
 /// A boolean as "1" or "0".
 class c_as_bool_digit {
 public:

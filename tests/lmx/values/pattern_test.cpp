@@ -36,6 +36,11 @@ TEST(Pattern, WideTextIsSeenInCharacters) {
     EXPECT_FALSE(one.is_match(std::u16string(u"\U0001F600a")));
 }
 
+TEST(Pattern, NullPatternLetsEverythingPass) {
+    const lmx::c_pattern_null none;
+    EXPECT_TRUE(none.is_match(std::string()) && none.is_match(std::u16string(u"x")));
+}
+
 TEST(Pattern, BadPatternMatchesNothingAndKeepsQuiet) {
     testing::internal::CaptureStderr();
     const lmx::c_regex bad("[a-");
