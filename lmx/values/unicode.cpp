@@ -19,6 +19,7 @@ constexpr std::size_t k_block = 16;
 
 constexpr bool is_high_surrogate(unsigned c) { return c >= 0xD800 && c <= 0xDBFF; }
 constexpr bool is_low_surrogate(unsigned c) { return c >= 0xDC00 && c <= 0xDFFF; }
+constexpr bool is_ascii(char c) { return static_cast<unsigned char>(c) < 0x80; }
 constexpr bool is_continuation(char c) { return (static_cast<unsigned char>(c) & 0xC0) == 0x80; }
 
 /// The number of bytes that a lead byte announces; 0 for a byte that is none.
@@ -45,14 +46,17 @@ bool is_ascii_block(const Unit* units) {
     return all < 0x80;
 }
 
-/// Copies blocks of ASCII for as long as they last.
+/// Copies blocks of ASCII for as long as they last. Returns where to look for them again: where one block isn't
+/// ASCII, the next ones on its units mostly aren't.
 template <class From, class To>
-void copy_ascii_blocks(const From** from, const From* end, To** to) {
-    while (static_cast<std::size_t>(end - *from) >= k_block && is_ascii_block(*from)) {
+const From* copy_ascii_blocks(const From** from, const From* end, To** to) {
+    while (static_cast<std::size_t>(end - *from) >= k_block) {
+        if (!is_ascii_block(*from)) return *from + k_block;
         for (std::size_t i = 0; i < k_block; ++i) (*to)[i] = static_cast<To>((*from)[i]);
         *from += k_block;
         *to += k_block;
     }
+    return end;
 }
 
 /// Writes a character and returns the place behind it. A value above the Unicode range keeps its low bits.
@@ -79,10 +83,17 @@ char* write_utf8(std::uint32_t c, char* out) {
 /// Decodes `[from, end)` into `out` up to the first fault; returns the place behind the last unit.
 char16_t* decode_utf8(const char* from, const char* end, char16_t* out) {
     std::uint32_t pending = 0;  // a high surrogate that waits for its partner
+    const char* next_block = from;
     while (from != end) {
         if (pending == 0) {
-            copy_ascii_blocks(&from, end, &out);
-            if (from == end) break;
+            if (from >= next_block) {
+                next_block = copy_ascii_blocks(&from, end, &out);
+                if (from == end) break;
+            }
+            if (is_ascii(*from)) {
+                *out++ = static_cast<char16_t>(*from++);
+                continue;
+            }
         }
         const std::size_t size = sequence_size(*from);
         if (size == 0 || size > static_cast<std::size_t>(end - from)) break;
@@ -181,9 +192,12 @@ std::string& convert(std::string* target, const std::u16string& source) {
     char* out = target->data();
     const char16_t* from = source.data();
     const char16_t* const end = from + source.size();
+    const char16_t* next_block = from;
     while (from != end) {
-        copy_ascii_blocks(&from, end, &out);
-        if (from == end) break;
+        if (from >= next_block) {
+            next_block = copy_ascii_blocks(&from, end, &out);
+            if (from == end) break;
+        }
         std::uint32_t c = *from++;
         if (is_high_surrogate(c) && from != end) {
             // The unit behind a high surrogate is consumed whether or not it's the partner.

@@ -7,8 +7,7 @@
 
 #include <algorithm>
 #include <array>
-#include <charconv>
-#include <cmath>
+#include <cstddef>
 #include <cstdint>
 #include <cstring>
 #include <type_traits>
@@ -16,59 +15,6 @@
 namespace lmx {
 
 namespace {
-
-std::size_t copy_text(char* buffer, std::string_view text) {
-    std::memcpy(buffer, text.data(), text.size());
-    return text.size();
-}
-
-/// Writes a number of at most 4 digits before and 10 behind the point, if `value` is one that short; else returns 0.
-///
-/// Almost all numbers in documents are, and this takes a fraction of the general conversion's time. It is exact: a
-/// correctly rounded quotient that gives the value back proves that the value is the double nearest to that decimal,
-/// and with at most 14 digits no other decimal of 14 digits is nearer.
-std::size_t format_short(char* buffer, double value) {
-    constexpr double scale = 1e10;
-    constexpr std::uint64_t integer_scale = 10'000'000'000;
-    const double size = std::fabs(value);
-    if (!(size >= 1e-4 && size < 10000.0)) return 0;  // below, the general format has an exponent
-    const auto scaled = static_cast<std::uint64_t>(size * scale + 0.5);
-    if (static_cast<double>(scaled) / scale != size) return 0;
-
-    char* out = buffer;
-    if (value < 0) *out++ = '-';
-    out = std::to_chars(out, out + 4, scaled / integer_scale).ptr;
-    std::uint64_t fraction = scaled % integer_scale;
-    if (fraction == 0) return static_cast<std::size_t>(out - buffer);
-    *out++ = '.';
-    std::size_t digits = 10;
-    while (fraction % 10 == 0) {
-        fraction /= 10;
-        --digits;
-    }
-    for (std::size_t i = digits; i > 0; --i) {
-        out[i - 1] = static_cast<char>('0' + fraction % 10);
-        fraction /= 10;
-    }
-    return static_cast<std::size_t>(out - buffer) + digits;
-}
-
-template <class Number>
-std::size_t format_number(char* buffer, Number value, int precision) {
-    switch (std::fpclassify(value)) {
-        case FP_NAN:
-            return copy_text(buffer, "NaN");
-        case FP_INFINITE:
-            return copy_text(buffer, value < 0 ? "-INF" : "INF");
-        case FP_ZERO:
-            return copy_text(buffer, std::signbit(value) ? "-0.0" : "0.0");
-        default:
-            break;
-    }
-    char* const end = buffer + k_number_text_size;
-    return static_cast<std::size_t>(std::to_chars(buffer, end, value, std::chars_format::general, precision).ptr -
-                                    buffer);
-}
 
 /// The escape of a character, or an empty text.
 constexpr std::string_view escape_of(unsigned c) {
@@ -101,6 +47,12 @@ bool is_plain_block(const Unit* units) {
     return is_plain;
 }
 
+/// The units up to the next test of a block: where one block isn't plain, the next ones on its units mostly aren't.
+template <class Unit>
+std::size_t block_at(const Unit* at, const Unit* end) {
+    return std::min(k_block, static_cast<std::size_t>(end - at));
+}
+
 /// Hands the escaped text on in pieces.
 template <class Write>
 void escape(std::string_view text, Write write) {
@@ -112,48 +64,57 @@ void escape(std::string_view text, Write write) {
             at += k_block;
             continue;
         }
-        const std::string_view escaped = escape_of(static_cast<unsigned char>(*at));
-        if (!escaped.empty()) {
+        for (const char* const stop = at + block_at(at, end); at != stop; ++at) {
+            const std::string_view escaped = escape_of(static_cast<unsigned char>(*at));
+            if (escaped.empty()) continue;
             write(start, static_cast<std::size_t>(at - start));
             write(escaped.data(), escaped.size());
             start = at + 1;
         }
-        ++at;
     }
     write(start, static_cast<std::size_t>(end - start));
 }
 
 template <class Write>
 void escape(std::u16string_view text, Write write) {
+    constexpr std::size_t most_bytes = 6;  // of a unit: "&quot;"
     std::array<char, 512> buffer;
     std::size_t size = 0;
     const auto put = [&](std::uint32_t byte) { buffer[size++] = static_cast<char>(byte); };
     const char16_t* at = text.data();
     const char16_t* const end = at + text.size();
+    const char16_t* next_block = at;
     while (at != end) {
-        if (buffer.size() - size < k_block) {
-            write(buffer.data(), size);
-            size = 0;
-        }
-        if (static_cast<std::size_t>(end - at) >= k_block && is_plain_block(at)) {
-            for (std::size_t i = 0; i < k_block; ++i) buffer[size + i] = static_cast<char>(at[i]);
-            size += k_block;
-            at += k_block;
-            continue;
+        if (at >= next_block) {
+            if (buffer.size() - size < k_block * most_bytes) {
+                write(buffer.data(), size);
+                size = 0;
+            }
+            if (static_cast<std::size_t>(end - at) >= k_block && is_plain_block(at)) {
+                for (std::size_t i = 0; i < k_block; ++i) buffer[size + i] = static_cast<char>(at[i]);
+                size += k_block;
+                at += k_block;
+                next_block = at;
+                continue;
+            }
+            next_block = at + block_at(at, end);
         }
         std::uint32_t c = *at++;
-        if (c >= 0xD800 && c <= 0xDBFF) {
-            if (at == end || *at < 0xDC00 || *at > 0xDFFF) break;  // the rest can't be told: it is dropped
-            c = (((c & 0x3FFU) + 0x40U) << 10) + (*at++ & 0x3FFU);
-        }
         if (c < 0x80) {
             const std::string_view escaped = escape_of(c);
             if (escaped.empty()) {
                 put(c);
             } else {
-                size += copy_text(buffer.data() + size, escaped);
+                escaped.copy(buffer.data() + size, escaped.size());
+                size += escaped.size();
             }
-        } else if (c < 0x800) {
+            continue;
+        }
+        if (c >= 0xD800 && c <= 0xDBFF) {
+            if (at == end || *at < 0xDC00 || *at > 0xDFFF) break;  // the rest can't be told: it is dropped
+            c = (((c & 0x3FFU) + 0x40U) << 10) + (*at++ & 0x3FFU);
+        }
+        if (c < 0x800) {
             put(0xC0U | (c >> 6));
             put(0x80U | (c & 0x3FU));
         } else if (c < 0x10000) {
@@ -184,13 +145,6 @@ std::ostream& write_number(std::ostream& stream, Number value) {
 }
 
 }  // namespace
-
-std::size_t format_as_xml(char* buffer, double value) {
-    const std::size_t size = format_short(buffer, value);
-    return size != 0 ? size : format_number(buffer, value, 14);
-}
-
-std::size_t format_as_xml(char* buffer, float value) { return format_number(buffer, value, 7); }
 
 void append_as_xml(std::string& out, double value) {
     std::array<char, k_number_text_size> buffer;

@@ -135,6 +135,11 @@ TEST(TextToDouble, KeepsTheDecimalPointUnderADecimalComma) {
         EXPECT_EQ(lmx::text_to_double("1.5"), 1.5);
         EXPECT_EQ(lmx::text_to_double(" 1.5x"), 1.5);
         EXPECT_EQ(lmx::text_to_double("1,5"), 1.0);
+        for (const std::size_t size : {28U, 29U, 30U, 31U, 32U, 1000U}) {
+            const std::string text = "1." + std::string(size, '5');
+            EXPECT_EQ(lmx::text_to_double(text), 14.0 / 9) << size;
+            EXPECT_EQ(lmx::text_to_double(text + 'x'), 14.0 / 9) << size;
+        }
         EXPECT_EQ(lmx::text_to_double("1.5e999"), HUGE_VAL);
         EXPECT_TRUE(lmx::is_valid_float("1.5") && !lmx::is_valid_float("1,5"));
     };

@@ -14,6 +14,7 @@
 #include <random>
 #include <sstream>
 
+#include "lmx/writer/xml_writer.h"
 #include "tests/lmx/comma_locale.h"
 
 namespace {
@@ -81,13 +82,18 @@ TEST(AsXml, NumbersAgreeWithTheCLibrary) {
         ASSERT_EQ(std::string(text, size), expected);
     };
     constexpr double powers[] = {1, 1e1, 1e2, 1e3, 1e4, 1e5, 1e6, 1e7, 1e8, 1e9, 1e10, 1e11, 1e12, 1e13};
-    for (int round = 0; round < 200000; ++round) {
-        // Short decimals and their neighbours, borders of the digit counts, and any bits at all.
+    for (int round = 0; round < 80000; ++round) {
+        // Short decimals and their neighbours, halves of the last digit, borders of the digit counts, any bits at
+        // all.
         const double decimal = static_cast<double>(random() % 100'000'000'000'000) /
                                powers[random() % std::size(powers)] / (random() % 2 == 0 ? 1.0 : 1e8);
         const double any = std::bit_cast<double>(random());
+        const double computed = std::ldexp(static_cast<double>(random() >> 11), -static_cast<int>(random() % 70));
+        const double half = std::ldexp(static_cast<double>(random() % 40'000'000'000'000 + 1), -1);
+        const double border =
+            powers[random() % std::size(powers)] * (1 - std::ldexp(static_cast<double>(random() % 64), -53));
         for (const double value : {decimal, -decimal, std::nextafter(decimal, HUGE_VAL),
-                                   static_cast<double>(random() % 100000) / 1e4, any}) {
+                                   static_cast<double>(random() % 100000) / 1e4, any, computed, half, border}) {
             if (std::isfinite(value) && value != 0) check(value);
         }
         if (HasFatalFailure()) return;
@@ -95,10 +101,17 @@ TEST(AsXml, NumbersAgreeWithTheCLibrary) {
 }
 
 TEST(AsXml, NumbersIgnoreLocaleAndFlagsOfTheStream) {
-    std::ostringstream stream;
-    stream.imbue(make_comma_locale());
-    stream << std::fixed << std::showpos << lmx::c_as_xml(12345.5) << ' ' << lmx::c_as_xml(1.5F);
-    EXPECT_EQ(stream.str(), "12345.5 1.5");
+    for (const char separator : {'.', ' '}) {
+        const c_global_comma_locale comma(separator);
+        std::ostringstream stream;  // takes the global locale
+        stream << std::fixed << std::showpos << lmx::c_as_xml(12345.5) << '|' << lmx::c_as_xml(1.5F) << '|'
+               << lmx::c_as_xml(-1234567.0123456789) << '|' << lmx::c_as_xml(1234567e30);
+        EXPECT_EQ(stream.str(), "12345.5|1.5|-1234567.0123457|1.234567e+36");
+        std::ostringstream document;
+        lmx::c_xml_writer writer(document, "", "");
+        writer(false) << 1234567 << '|' << 1234.5;
+        EXPECT_EQ(document.str(), "1234567|1234.5");
+    }
 }
 
 TEST(AsXml, BooleansAndBytes) {
