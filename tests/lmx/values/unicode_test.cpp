@@ -190,7 +190,7 @@ TEST(Unicode, RandomTextConvertsAsTheReferenceDoes) {
         if (!text.empty() && below(2) == 0)
             text[below(static_cast<unsigned>(text.size()))] = static_cast<char>(below(256));
         if (!text.empty() && below(4) == 0) text.resize(below(static_cast<unsigned>(text.size())));
-        ASSERT_EQ(wide(text), reference_wide(text)) << testing::PrintToString(text);
+        ASSERT_EQ(lmx::convert_to_wide(text), reference_wide(text)) << testing::PrintToString(text);
 
         std::u16string units;
         for (unsigned n = below(60); n > 0; --n) {
@@ -200,7 +200,7 @@ TEST(Unicode, RandomTextConvertsAsTheReferenceDoes) {
                                            : kind == 2 ? below(0x10000)
                                                        : below(0x80));
         }
-        ASSERT_EQ(narrow(units), reference_narrow(units)) << testing::PrintToString(units);
+        ASSERT_EQ(lmx::convert_to_narrow(units), reference_narrow(units)) << testing::PrintToString(units);
     }
 }
 

@@ -132,8 +132,8 @@ TEST(AsXml, FourCharactersAreEscapedAndNoOthers) {
     EXPECT_EQ(as_xml(std::string("a\0b", 3)), std::string("a\0b", 3));
     const std::string text = "R&D";
     std::ostringstream stream;
-    stream << lmx::c_as_escaped<std::string>(text);
-    EXPECT_EQ(stream.str(), "R&amp;D");
+    stream << lmx::c_as_escaped<std::string>(text) << lmx::c_as_ascii<std::string>(text);
+    EXPECT_EQ(stream.str(), "R&amp;DR&D");
 }
 
 TEST(AsXml, HighSurrogateWithoutPartnerDropsTheRest) {
