@@ -43,12 +43,11 @@ std::unique_ptr<char[]> make_buffer(std::size_t size) {
 }  // namespace
 
 s_document_bytes read_first_entry(CZipContainer& archive, const std::u16string& path) {
-    archive.OpenEntry(0);
-    const CZipEntryHeader* const header = archive.GetEntryHeader(0);
-    require(header != nullptr && archive.IsSizePossible(0), path);
+    require(archive.OpenEntry(0) && archive.IsSizePossible(0), path);
 
-    const std::size_t size = header->uncompressed_size;
-    std::size_t capacity = header->method == k_bzip2 ? std::min(size, k_first_capacity) : size;
+    const CZipEntryHeader& header = *archive.GetEntryHeader(0);
+    const std::size_t size = header.uncompressed_size;
+    std::size_t capacity = header.method == k_bzip2 ? std::min(size, k_first_capacity) : size;
     s_document_bytes bytes{make_buffer(capacity), 0};
     bytes.size = archive.ReadEntry(bytes.data.get(), capacity);
     while (bytes.size == capacity && capacity < size) {

@@ -187,7 +187,7 @@ bool can_inflate_to(std::uint16_t method, std::uint64_t stored, std::uint64_t or
         case method_deflated:
             return original <= k_deflate_limit * stored;
         default:
-            return true;
+            return method == method_bzip2;
     }
 }
 

@@ -318,6 +318,19 @@ TEST_F(Archive, EveryLieHasItsCause) {
         bytes.replace(central + lie.offset + 2, lie.bytes.size(), lie.bytes);
         EXPECT_EQ(read_back(bytes), lie.expected) << lie.what;
     }
+    // What the stored bytes can become, which is asked before memory is taken for it.
+    const std::size_t stored = central - 30 - name_size;
+    for (const auto& [method, limit] : {std::pair<int, std::size_t>(0, stored), {8, 1032 * stored}, {9, 0}}) {
+        for (const std::size_t size : {limit, limit + 1}) {
+            std::string bytes = good;
+            bytes.replace(central + 10, 2, little(static_cast<unsigned>(method), 2));
+            bytes.replace(central + 24, 4, little(size, 4));
+            write_file(path("size.zip"), bytes);
+            CZipContainer archive;
+            ASSERT_TRUE(archive.OpenContainer(path("size.zip").u16string(), zip_open_read));
+            EXPECT_EQ(archive.IsSizePossible(0), method != 9 && size == limit) << method << ' ' << size;
+        }
+    }
     for (std::size_t size = 0; size < good.size(); ++size) {
         EXPECT_EQ(read_back(good.substr(0, size)), size < end + 4 ? "cause 118" : damaged) << size;
     }
