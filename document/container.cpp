@@ -65,9 +65,10 @@ s_document_bytes read_first_entry(CZipContainer& archive, const std::u16string& 
     return bytes;
 }
 
-void write_only_entry(CZipContainer& archive, const std::u16string& path) {
+void write_only_entry(CZipContainer& archive, const std::u16string& path, std::int64_t size) {
     archive.SetCompressionMethod(k_deflate);
     require(archive.AddFileEntry(path), path);
+    require(archive.GetEntryHeader(0)->uncompressed_size == size, path);
     archive.CloseContainer(zip_close_normal);
 }
 

@@ -6,6 +6,7 @@
 #pragma once
 
 #include <cstddef>
+#include <cstdint>
 #include <memory>
 #include <string>
 
@@ -23,7 +24,9 @@ struct s_document_bytes {
 /// `CZipException`. Memory is taken for no more than the stored bytes can become.
 s_document_bytes read_first_entry(CZipContainer& archive, const std::u16string& path);
 
-/// Adds a file as the only entry of a new archive, and closes the archive. Anything but success is a `CZipException`.
-void write_only_entry(CZipContainer& archive, const std::u16string& path);
+/// Adds a file of so many bytes as the only entry of a new archive, and closes the archive. Anything but success is a
+/// `CZipException`, a file of another size included: a full disk has cut it short, or the archive has overwritten it,
+/// being the same file under another name.
+void write_only_entry(CZipContainer& archive, const std::u16string& path, std::int64_t size);
 
 }  // namespace com_vyrgraph_v2

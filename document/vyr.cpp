@@ -45,16 +45,17 @@ lmx::elmx_error marshal_stamped(const Vyr& document, Preamble& preamble, std::os
 
 struct s_plain_file {
     lmx::elmx_error error;
-    /// False for a file that couldn't be opened or written in full, which is no failure of a plain document.
-    bool is_whole;
+    /// In bytes; -1 for a file that couldn't be opened or written in full, which is no failure of a plain document.
+    std::streamoff size;
 };
 
 s_plain_file write_plain_file(const Vyr& document, Preamble& preamble, const std::string& system_path) {
     std::ofstream stream(system_path);
     const lmx::elmx_error error = marshal_stamped(document, preamble, stream);
+    const std::streamoff size = stream.tellp();
     stream.close();
     if (error != lmx::ELMX_OK) std::remove(system_path.c_str());
-    return {error, stream.good()};
+    return {error, stream.good() ? size : -1};
 }
 
 /// Everything but the opening of the archive: whatever is thrown here becomes one code, and its cause is lost.
@@ -69,11 +70,9 @@ lmx::elmx_error load_from_container(Vyr& document, CZipContainer& archive, const
     }
 }
 
-lmx::elmx_error write_to_container(CZipContainer& archive, const std::u16string& plain_path, bool is_whole) {
+lmx::elmx_error write_to_container(CZipContainer& archive, const std::u16string& plain_path, std::streamoff size) {
     try {
-        // A document that was cut short by a full disk must not become an archive in good order.
-        if (!is_whole) throw CZipException(zip_generic, plain_path);
-        write_only_entry(archive, plain_path);
+        write_only_entry(archive, plain_path, size);
         return lmx::ELMX_OK;
     } catch (...) {
         archive.CloseContainer(zip_close_forced);
@@ -123,7 +122,7 @@ lmx::elmx_error Vyr::writeFile(const std::u16string& path) const {
 
     CZipContainer archive;
     if (archive.OpenContainer(path, zip_open_create)) {
-        const lmx::elmx_error error = write_to_container(archive, plain_path, plain.is_whole);
+        const lmx::elmx_error error = write_to_container(archive, plain_path, plain.size);
         if (error != lmx::ELMX_OK) return error;
     }
     std::remove(system_path.c_str());
