@@ -4,6 +4,7 @@
 #include "zip/entry_set.h"
 
 #include <algorithm>
+#include <cerrno>
 
 #include "zip/exception.h"
 #include "zip/records.h"
@@ -120,9 +121,11 @@ void CZipEntrySet::ReadHeaders(c_storage& storage, std::int64_t position, std::i
 void CZipEntrySet::Write(c_storage& storage) const {
     const std::int64_t offset = storage.size();
     for (const CZipEntryHeader& header : m_headers) storage.append(print_central(header));
+    const std::int64_t size = storage.size() - offset;
+    if (static_cast<std::uint64_t>(std::max(offset, size)) > k_size_limit) storage.fail(EFBIG);
     s_end_record end;
     end.entries = end.entries_on_disk = static_cast<std::uint16_t>(m_headers.size());
     end.directory_offset = static_cast<std::uint32_t>(offset);
-    end.directory_size = static_cast<std::uint32_t>(storage.size() - offset);
+    end.directory_size = static_cast<std::uint32_t>(size);
     storage.append(print(end));
 }

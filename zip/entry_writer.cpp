@@ -16,8 +16,6 @@
 namespace zip {
 namespace {
 
-/// Sizes and offsets of an archive have 32 bits.
-constexpr std::uint64_t k_size_limit = 0xFFFFFFFF;
 /// Versions are told times ten. The one that wrote is 4.6; the ones needed depend on what an entry uses.
 constexpr std::uint16_t k_version_made_by = 46;
 constexpr std::uint16_t k_version_of_folders = 10;

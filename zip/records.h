@@ -29,6 +29,9 @@ inline constexpr std::size_t k_end_size = 22;
 inline constexpr std::size_t k_sums_offset = 14;
 inline constexpr std::size_t k_sums_size = 12;
 
+/// Sizes and offsets have 32 bits, and the highest number says that a greater one stands elsewhere.
+inline constexpr std::uint64_t k_size_limit = 0xFFFFFFFE;
+
 /// The longest text that a record's length can announce.
 inline constexpr std::size_t k_text_limit = 0xFFFF;
 
