@@ -93,6 +93,8 @@ void CZipEntrySet::Read(c_storage& storage) {
 }
 
 void CZipEntrySet::ReadHeaders(c_storage& storage, std::int64_t position, std::int64_t end, std::size_t count) {
+    if (static_cast<std::int64_t>(count * k_central_size) > end - position) storage.fail(zip_bad_structure);
+    m_headers.reserve(count);
     while (m_headers.size() < count) {
         char bytes[k_central_size];
         position = storage.read_record(position, bytes, sizeof bytes);
