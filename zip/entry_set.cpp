@@ -79,7 +79,8 @@ void CZipEntrySet::Read(c_storage& storage) {
     const std::int64_t comment_position = storage.read_record(end_position, bytes, sizeof bytes);
     s_end_record end;
     parse(bytes, end);
-    if (end.comment_length > 0) m_comment = read_text(storage, comment_position, end.comment_length);
+    // The comment means nothing here, but it has to be there.
+    read_text(storage, comment_position, end.comment_length);
     refuse_zip64(storage, end, end_position);
     // One file is one disk: the others of a split archive can't be asked for.
     if (end.disk != 0 || end.directory_disk != 0) storage.fail(zip_bad_structure);

@@ -7,7 +7,6 @@
 
 #include <cstddef>
 #include <cstdint>
-#include <string>
 #include <vector>
 
 #include "zip/entry_header.h"
@@ -33,12 +32,10 @@ public:
 
     /// Where offsets of the archive count from: not 0 if foreign bytes stand ahead of it.
     std::int64_t GetStart() const { return m_start; }
-    const std::string& GetComment() const { return m_comment; }
 
 private:
     void ReadHeaders(zip::c_storage& storage, std::int64_t position, std::int64_t end, std::size_t count);
 
     std::vector<CZipEntryHeader> m_headers;
-    std::string m_comment;
     std::int64_t m_start = 0;
 };

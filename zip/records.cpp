@@ -88,11 +88,6 @@ void parse(const char* bytes, s_end_record& end) {
     end_fields(taker, end);
 }
 
-void parse_sums(const char* bytes, CZipEntryHeader& header) {
-    c_taker taker(bytes);
-    sum_fields(taker, header);
-}
-
 std::vector<CZipExtraField> parse_extra(std::string_view data) {
     std::vector<CZipExtraField> fields;
     constexpr std::size_t head_size = 4;

@@ -57,8 +57,6 @@ struct s_end_record {
 void parse(const char* bytes, CZipEntryHeader& header, s_text_lengths& lengths);
 void parse_local(const char* bytes, CZipEntryHeader& header, s_text_lengths& lengths);
 void parse(const char* bytes, s_end_record& end);
-/// Check sum, compressed and uncompressed size.
-void parse_sums(const char* bytes, CZipEntryHeader& header);
 /// A field that passes the end of the data ends the list.
 std::vector<CZipExtraField> parse_extra(std::string_view data);
 

@@ -23,7 +23,6 @@ class c_storage {
 public:
     void open(const std::u16string& path);
     void create(const std::u16string& path);
-    bool is_open() const { return m_file.is_open(); }
     const std::u16string& path() const { return m_file.path(); }
     /// Throws the cause with the file's name.
     [[noreturn]] void fail(int cause) const;
@@ -39,7 +38,6 @@ public:
     std::int64_t find_last(std::string_view text, std::int64_t begin, std::int64_t end);
 
     void append(std::string_view data);
-    void flush();
     /// Writes over bytes that were appended before, and goes back to the end.
     void overwrite(std::int64_t position, std::string_view data);
     /// Drops what was appended from that place on.
@@ -51,6 +49,8 @@ public:
     void abandon() noexcept;
 
 private:
+    void flush();
+
     c_file m_file;
     std::vector<char> m_pending;
     std::int64_t m_size = 0;
