@@ -15,3 +15,7 @@ target_link_libraries(vyr PRIVATE LibXml2::LibXml2 ZLIB::ZLIB BZip2::BZip2 $<BUI
 # Calls inside the library are to its own functions: none goes through the loader's table, and all may be inlined.
 target_compile_options(vyr PRIVATE $<$<CXX_COMPILER_ID:GNU,Clang>:-fno-semantic-interposition>)
 target_link_options(vyr PRIVATE $<$<PLATFORM_ID:Linux>:LINKER:-Bsymbolic-functions>)
+
+set(exports_map ${CMAKE_CURRENT_LIST_DIR}/exports.map)
+target_link_options(vyr PRIVATE $<$<PLATFORM_ID:Linux>:LINKER:--version-script=${exports_map}>)
+set_target_properties(vyr PROPERTIES LINK_DEPENDS ${exports_map})

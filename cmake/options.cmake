@@ -1,5 +1,6 @@
 # What a builder may choose, and what every target gets.
 
+option(VYR_BUILD_FLAT "Build the flat functions for C# hosts into the library" ON)
 option(VYR_BUILD_TOOLS "Build the vyr command" ON)
 option(VYR_BUILD_TESTS "Build the tests" ${PROJECT_IS_TOP_LEVEL})
 option(VYR_BUILD_BENCH "Build the benchmarks" OFF)

@@ -38,8 +38,8 @@ public:
     bool is_occurs_ok() const;
 
     /// The parent's value; the element's name says in which colour space.
-    const sg_ColorSpace& get_ColorSpace() const { return *this; }
     sg_ColorSpace& get_ColorSpace() { m_isset_ColorSpace = true; return *this; }
+    const sg_ColorSpace& get_ColorSpace() const { return *this; }
     sg_ColorSpace& assign_ColorSpace(const sg_ColorSpace& value);
     bool isset_ColorSpace() const { return m_isset_ColorSpace; }
     void unset_ColorSpace() { m_isset_ColorSpace = false; }
@@ -97,8 +97,8 @@ public:
 
     /// A named value of the user's own.
     std::size_t size_CustomAttribute() const { return m_CustomAttribute.size(); }
-    const CustomAttributeType& get_CustomAttribute(std::size_t index) const { return m_CustomAttribute[index]; }
     CustomAttributeType& get_CustomAttribute(std::size_t index);
+    const CustomAttributeType& get_CustomAttribute(std::size_t index) const { return m_CustomAttribute[index]; }
     CustomAttributeType& assign_CustomAttribute(std::size_t index, const CustomAttributeType& value);
     lmx::elmx_error append_CustomAttribute();
     lmx::elmx_error insert_CustomAttribute(std::size_t index);
@@ -107,8 +107,8 @@ public:
     void clear_CustomAttribute();
 
     /// The value that this one was computed from.
-    const ParentColorSpace& get_ParentColorSpace() const { return m_ParentColorSpace; }
     ParentColorSpace& get_ParentColorSpace() { m_isset_ParentColorSpace = true; return m_ParentColorSpace; }
+    const ParentColorSpace& get_ParentColorSpace() const { return m_ParentColorSpace; }
     ParentColorSpace& assign_ParentColorSpace(const ParentColorSpace& value);
     bool isset_ParentColorSpace() const { return m_isset_ParentColorSpace; }
     void unset_ParentColorSpace() { m_isset_ParentColorSpace = false; }
@@ -160,10 +160,10 @@ private:
 /// Head of the colour values: any of them can stand in its place.
 class VYR_EXPORT ColorSpace : public ColorSpaceType {
 public:
-    lmx::elmx_error marshal(lmx::c_xml_writer& writer, const char* name) const override;
-    lmx::elmx_error unmarshal(lmx::c_xml_reader& reader, const std::string& name) override;
     static const lmx::s_ns_map* ns_map();
     lmx::elmx_error unmarshal(lmx::c_xml_reader& reader);
+    lmx::elmx_error marshal(lmx::c_xml_writer& writer, const char* name) const override;
+    lmx::elmx_error unmarshal(lmx::c_xml_reader& reader, const std::string& name) override;
     static const lmx::s_document k_document;
 };
 
@@ -191,8 +191,8 @@ public:
     void unset_Name() { m_isset_Name = false; }
 
     /// Conditions under which the value holds.
-    const ColorSpaceSpecificationSpectrumTristimulus& get_ColorSpaceSpecificationSpectrumTristimulus() const { return m_ColorSpaceSpecificationSpectrumTristimulus; }
     ColorSpaceSpecificationSpectrumTristimulus& get_ColorSpaceSpecificationSpectrumTristimulus() { m_isset_ColorSpaceSpecificationSpectrumTristimulus = true; return m_ColorSpaceSpecificationSpectrumTristimulus; }
+    const ColorSpaceSpecificationSpectrumTristimulus& get_ColorSpaceSpecificationSpectrumTristimulus() const { return m_ColorSpaceSpecificationSpectrumTristimulus; }
     ColorSpaceSpecificationSpectrumTristimulus& assign_ColorSpaceSpecificationSpectrumTristimulus(const ColorSpaceSpecificationSpectrumTristimulus& value);
 
     /// Lightness L*, 0 (black) to 150; 100 is the perfect diffuser.
@@ -264,8 +264,8 @@ public:
     void unset_Name() { m_isset_Name = false; }
 
     /// Conditions under which the value holds.
-    const ColorSpaceSpecificationSpectrumTristimulus& get_ColorSpaceSpecificationSpectrumTristimulus() const { return m_ColorSpaceSpecificationSpectrumTristimulus; }
     ColorSpaceSpecificationSpectrumTristimulus& get_ColorSpaceSpecificationSpectrumTristimulus() { m_isset_ColorSpaceSpecificationSpectrumTristimulus = true; return m_ColorSpaceSpecificationSpectrumTristimulus; }
+    const ColorSpaceSpecificationSpectrumTristimulus& get_ColorSpaceSpecificationSpectrumTristimulus() const { return m_ColorSpaceSpecificationSpectrumTristimulus; }
     ColorSpaceSpecificationSpectrumTristimulus& assign_ColorSpaceSpecificationSpectrumTristimulus(const ColorSpaceSpecificationSpectrumTristimulus& value);
 
     /// Lightness L*, 0 to 100.
@@ -337,8 +337,8 @@ public:
     void unset_Name() { m_isset_Name = false; }
 
     /// Conditions under which the value holds.
-    const ColorSpaceSpecificationSpectrumTristimulus& get_ColorSpaceSpecificationSpectrumTristimulus() const { return m_ColorSpaceSpecificationSpectrumTristimulus; }
     ColorSpaceSpecificationSpectrumTristimulus& get_ColorSpaceSpecificationSpectrumTristimulus() { m_isset_ColorSpaceSpecificationSpectrumTristimulus = true; return m_ColorSpaceSpecificationSpectrumTristimulus; }
+    const ColorSpaceSpecificationSpectrumTristimulus& get_ColorSpaceSpecificationSpectrumTristimulus() const { return m_ColorSpaceSpecificationSpectrumTristimulus; }
     ColorSpaceSpecificationSpectrumTristimulus& assign_ColorSpaceSpecificationSpectrumTristimulus(const ColorSpaceSpecificationSpectrumTristimulus& value);
 
     /// Lightness L*, 0 to 100.
@@ -410,8 +410,8 @@ public:
     void unset_Name() { m_isset_Name = false; }
 
     /// Conditions under which the value holds.
-    const ColorSpaceSpecificationSpectrumTristimulus& get_ColorSpaceSpecificationSpectrumTristimulus() const { return m_ColorSpaceSpecificationSpectrumTristimulus; }
     ColorSpaceSpecificationSpectrumTristimulus& get_ColorSpaceSpecificationSpectrumTristimulus() { m_isset_ColorSpaceSpecificationSpectrumTristimulus = true; return m_ColorSpaceSpecificationSpectrumTristimulus; }
+    const ColorSpaceSpecificationSpectrumTristimulus& get_ColorSpaceSpecificationSpectrumTristimulus() const { return m_ColorSpaceSpecificationSpectrumTristimulus; }
     ColorSpaceSpecificationSpectrumTristimulus& assign_ColorSpaceSpecificationSpectrumTristimulus(const ColorSpaceSpecificationSpectrumTristimulus& value);
 
     /// Tristimulus value X, 0 to 1.
@@ -483,8 +483,8 @@ public:
     void unset_Name() { m_isset_Name = false; }
 
     /// Conditions under which the value holds.
-    const ColorSpaceSpecificationSpectrumTristimulus& get_ColorSpaceSpecificationSpectrumTristimulus() const { return m_ColorSpaceSpecificationSpectrumTristimulus; }
     ColorSpaceSpecificationSpectrumTristimulus& get_ColorSpaceSpecificationSpectrumTristimulus() { m_isset_ColorSpaceSpecificationSpectrumTristimulus = true; return m_ColorSpaceSpecificationSpectrumTristimulus; }
+    const ColorSpaceSpecificationSpectrumTristimulus& get_ColorSpaceSpecificationSpectrumTristimulus() const { return m_ColorSpaceSpecificationSpectrumTristimulus; }
     ColorSpaceSpecificationSpectrumTristimulus& assign_ColorSpaceSpecificationSpectrumTristimulus(const ColorSpaceSpecificationSpectrumTristimulus& value);
 
     /// Chromaticity coordinate x, 0 to 1.
@@ -556,8 +556,8 @@ public:
     void unset_Name() { m_isset_Name = false; }
 
     /// Conditions under which the value holds.
-    const ColorSpaceSpecificationEmissiveTristimulus& get_ColorSpaceSpecificationEmissiveTristimulus() const { return m_ColorSpaceSpecificationEmissiveTristimulus; }
     ColorSpaceSpecificationEmissiveTristimulus& get_ColorSpaceSpecificationEmissiveTristimulus() { m_isset_ColorSpaceSpecificationEmissiveTristimulus = true; return m_ColorSpaceSpecificationEmissiveTristimulus; }
+    const ColorSpaceSpecificationEmissiveTristimulus& get_ColorSpaceSpecificationEmissiveTristimulus() const { return m_ColorSpaceSpecificationEmissiveTristimulus; }
     ColorSpaceSpecificationEmissiveTristimulus& assign_ColorSpaceSpecificationEmissiveTristimulus(const ColorSpaceSpecificationEmissiveTristimulus& value);
 
     /// Tristimulus value X, 0 or more.
@@ -629,8 +629,8 @@ public:
     void unset_Name() { m_isset_Name = false; }
 
     /// Conditions under which the value holds.
-    const ColorSpaceSpecificationEmissiveTristimulus& get_ColorSpaceSpecificationEmissiveTristimulus() const { return m_ColorSpaceSpecificationEmissiveTristimulus; }
     ColorSpaceSpecificationEmissiveTristimulus& get_ColorSpaceSpecificationEmissiveTristimulus() { m_isset_ColorSpaceSpecificationEmissiveTristimulus = true; return m_ColorSpaceSpecificationEmissiveTristimulus; }
+    const ColorSpaceSpecificationEmissiveTristimulus& get_ColorSpaceSpecificationEmissiveTristimulus() const { return m_ColorSpaceSpecificationEmissiveTristimulus; }
     ColorSpaceSpecificationEmissiveTristimulus& assign_ColorSpaceSpecificationEmissiveTristimulus(const ColorSpaceSpecificationEmissiveTristimulus& value);
 
     /// Chromaticity coordinate x, 0 to 1.
@@ -686,8 +686,6 @@ public:
     ColorSpaceCIELab(const char* file_name, lmx::elmx_error* error);
     ColorSpaceCIELab(const char* data, std::size_t size, lmx::elmx_error* error);
     ColorSpaceCIELab(const std::string& text, lmx::elmx_error* error);
-    lmx::elmx_error marshal(lmx::c_xml_writer& writer, const char* name) const override;
-    lmx::elmx_error unmarshal(lmx::c_xml_reader& reader, const std::string& name) override;
     static const lmx::s_ns_map* ns_map();
     lmx::elmx_error unmarshal(const char* file_name);
     lmx::elmx_error unmarshal(const char* data, std::size_t size);
@@ -696,6 +694,8 @@ public:
     lmx::elmx_error marshal(const char* file_name) const;
     lmx::elmx_error marshal(std::string* text) const;
     lmx::elmx_error marshal(std::ostream& stream) const;
+    lmx::elmx_error marshal(lmx::c_xml_writer& writer, const char* name) const override;
+    lmx::elmx_error unmarshal(lmx::c_xml_reader& reader, const std::string& name) override;
     static const lmx::s_document k_document;
 };
 
@@ -707,8 +707,6 @@ public:
     ColorSpaceCIELCh(const char* file_name, lmx::elmx_error* error);
     ColorSpaceCIELCh(const char* data, std::size_t size, lmx::elmx_error* error);
     ColorSpaceCIELCh(const std::string& text, lmx::elmx_error* error);
-    lmx::elmx_error marshal(lmx::c_xml_writer& writer, const char* name) const override;
-    lmx::elmx_error unmarshal(lmx::c_xml_reader& reader, const std::string& name) override;
     static const lmx::s_ns_map* ns_map();
     lmx::elmx_error unmarshal(const char* file_name);
     lmx::elmx_error unmarshal(const char* data, std::size_t size);
@@ -717,6 +715,8 @@ public:
     lmx::elmx_error marshal(const char* file_name) const;
     lmx::elmx_error marshal(std::string* text) const;
     lmx::elmx_error marshal(std::ostream& stream) const;
+    lmx::elmx_error marshal(lmx::c_xml_writer& writer, const char* name) const override;
+    lmx::elmx_error unmarshal(lmx::c_xml_reader& reader, const std::string& name) override;
     static const lmx::s_document k_document;
 };
 
@@ -728,8 +728,6 @@ public:
     ColorSpaceCIEXYZ(const char* file_name, lmx::elmx_error* error);
     ColorSpaceCIEXYZ(const char* data, std::size_t size, lmx::elmx_error* error);
     ColorSpaceCIEXYZ(const std::string& text, lmx::elmx_error* error);
-    lmx::elmx_error marshal(lmx::c_xml_writer& writer, const char* name) const override;
-    lmx::elmx_error unmarshal(lmx::c_xml_reader& reader, const std::string& name) override;
     static const lmx::s_ns_map* ns_map();
     lmx::elmx_error unmarshal(const char* file_name);
     lmx::elmx_error unmarshal(const char* data, std::size_t size);
@@ -738,6 +736,8 @@ public:
     lmx::elmx_error marshal(const char* file_name) const;
     lmx::elmx_error marshal(std::string* text) const;
     lmx::elmx_error marshal(std::ostream& stream) const;
+    lmx::elmx_error marshal(lmx::c_xml_writer& writer, const char* name) const override;
+    lmx::elmx_error unmarshal(lmx::c_xml_reader& reader, const std::string& name) override;
     static const lmx::s_document k_document;
 };
 
@@ -749,8 +749,6 @@ public:
     ColorSpaceEmissiveCIEXYZ(const char* file_name, lmx::elmx_error* error);
     ColorSpaceEmissiveCIEXYZ(const char* data, std::size_t size, lmx::elmx_error* error);
     ColorSpaceEmissiveCIEXYZ(const std::string& text, lmx::elmx_error* error);
-    lmx::elmx_error marshal(lmx::c_xml_writer& writer, const char* name) const override;
-    lmx::elmx_error unmarshal(lmx::c_xml_reader& reader, const std::string& name) override;
     static const lmx::s_ns_map* ns_map();
     lmx::elmx_error unmarshal(const char* file_name);
     lmx::elmx_error unmarshal(const char* data, std::size_t size);
@@ -759,6 +757,8 @@ public:
     lmx::elmx_error marshal(const char* file_name) const;
     lmx::elmx_error marshal(std::string* text) const;
     lmx::elmx_error marshal(std::ostream& stream) const;
+    lmx::elmx_error marshal(lmx::c_xml_writer& writer, const char* name) const override;
+    lmx::elmx_error unmarshal(lmx::c_xml_reader& reader, const std::string& name) override;
     static const lmx::s_document k_document;
 };
 
@@ -770,8 +770,6 @@ public:
     ColorSpaceCIExyY(const char* file_name, lmx::elmx_error* error);
     ColorSpaceCIExyY(const char* data, std::size_t size, lmx::elmx_error* error);
     ColorSpaceCIExyY(const std::string& text, lmx::elmx_error* error);
-    lmx::elmx_error marshal(lmx::c_xml_writer& writer, const char* name) const override;
-    lmx::elmx_error unmarshal(lmx::c_xml_reader& reader, const std::string& name) override;
     static const lmx::s_ns_map* ns_map();
     lmx::elmx_error unmarshal(const char* file_name);
     lmx::elmx_error unmarshal(const char* data, std::size_t size);
@@ -780,6 +778,8 @@ public:
     lmx::elmx_error marshal(const char* file_name) const;
     lmx::elmx_error marshal(std::string* text) const;
     lmx::elmx_error marshal(std::ostream& stream) const;
+    lmx::elmx_error marshal(lmx::c_xml_writer& writer, const char* name) const override;
+    lmx::elmx_error unmarshal(lmx::c_xml_reader& reader, const std::string& name) override;
     static const lmx::s_document k_document;
 };
 
@@ -791,8 +791,6 @@ public:
     ColorSpaceEmissiveCIExyY(const char* file_name, lmx::elmx_error* error);
     ColorSpaceEmissiveCIExyY(const char* data, std::size_t size, lmx::elmx_error* error);
     ColorSpaceEmissiveCIExyY(const std::string& text, lmx::elmx_error* error);
-    lmx::elmx_error marshal(lmx::c_xml_writer& writer, const char* name) const override;
-    lmx::elmx_error unmarshal(lmx::c_xml_reader& reader, const std::string& name) override;
     static const lmx::s_ns_map* ns_map();
     lmx::elmx_error unmarshal(const char* file_name);
     lmx::elmx_error unmarshal(const char* data, std::size_t size);
@@ -801,6 +799,8 @@ public:
     lmx::elmx_error marshal(const char* file_name) const;
     lmx::elmx_error marshal(std::string* text) const;
     lmx::elmx_error marshal(std::ostream& stream) const;
+    lmx::elmx_error marshal(lmx::c_xml_writer& writer, const char* name) const override;
+    lmx::elmx_error unmarshal(lmx::c_xml_reader& reader, const std::string& name) override;
     static const lmx::s_document k_document;
 };
 
@@ -812,8 +812,6 @@ public:
     ColorSpaceCIELuv(const char* file_name, lmx::elmx_error* error);
     ColorSpaceCIELuv(const char* data, std::size_t size, lmx::elmx_error* error);
     ColorSpaceCIELuv(const std::string& text, lmx::elmx_error* error);
-    lmx::elmx_error marshal(lmx::c_xml_writer& writer, const char* name) const override;
-    lmx::elmx_error unmarshal(lmx::c_xml_reader& reader, const std::string& name) override;
     static const lmx::s_ns_map* ns_map();
     lmx::elmx_error unmarshal(const char* file_name);
     lmx::elmx_error unmarshal(const char* data, std::size_t size);
@@ -822,6 +820,8 @@ public:
     lmx::elmx_error marshal(const char* file_name) const;
     lmx::elmx_error marshal(std::string* text) const;
     lmx::elmx_error marshal(std::ostream& stream) const;
+    lmx::elmx_error marshal(lmx::c_xml_writer& writer, const char* name) const override;
+    lmx::elmx_error unmarshal(lmx::c_xml_reader& reader, const std::string& name) override;
     static const lmx::s_document k_document;
 };
 

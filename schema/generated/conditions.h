@@ -180,8 +180,8 @@ public:
 
     /// A named value of the user's own.
     std::size_t size_CustomAttribute() const { return m_CustomAttribute.size(); }
-    const CustomAttributeType& get_CustomAttribute(std::size_t index) const { return m_CustomAttribute[index]; }
     CustomAttributeType& get_CustomAttribute(std::size_t index);
+    const CustomAttributeType& get_CustomAttribute(std::size_t index) const { return m_CustomAttribute[index]; }
     CustomAttributeType& assign_CustomAttribute(std::size_t index, const CustomAttributeType& value);
     lmx::elmx_error append_CustomAttribute();
     lmx::elmx_error insert_CustomAttribute(std::size_t index);
@@ -190,29 +190,29 @@ public:
     void clear_CustomAttribute();
 
     /// Profile of the device.
-    const ProfileType& get_Profile() const { return m_Profile; }
     ProfileType& get_Profile() { m_isset_Profile = true; return m_Profile; }
+    const ProfileType& get_Profile() const { return m_Profile; }
     ProfileType& assign_Profile(const ProfileType& value);
     bool isset_Profile() const { return m_isset_Profile; }
     void unset_Profile() { m_isset_Profile = false; }
 
     /// Instrument that measured, or device that shows the colour.
-    const DeviceType& get_Device() const { return m_Device; }
     DeviceType& get_Device() { m_isset_Device = true; return m_Device; }
+    const DeviceType& get_Device() const { return m_Device; }
     DeviceType& assign_Device(const DeviceType& value);
     bool isset_Device() const { return m_isset_Device; }
     void unset_Device() { m_isset_Device = false; }
 
     /// Filter in the light path of the instrument, or nil. Readers may meet none; a writer needs the filter or nil.
-    const DeviceFilter& get_DeviceFilter() const { return m_DeviceFilter; }
     DeviceFilter& get_DeviceFilter() { m_isset_DeviceFilter = true; return m_DeviceFilter; }
+    const DeviceFilter& get_DeviceFilter() const { return m_DeviceFilter; }
     DeviceFilter& assign_DeviceFilter(const DeviceFilter& value);
     bool isset_DeviceFilter() const { return m_isset_DeviceFilter; }
     void unset_DeviceFilter() { m_isset_DeviceFilter = false; }
 
     /// Whether polarising filters were used, or nil where it is unknown.
-    const DevicePolarization& get_DevicePolarization() const { return m_DevicePolarization; }
     DevicePolarization& get_DevicePolarization() { m_isset_DevicePolarization = true; return m_DevicePolarization; }
+    const DevicePolarization& get_DevicePolarization() const { return m_DevicePolarization; }
     DevicePolarization& assign_DevicePolarization(const DevicePolarization& value);
 
     /// Time of one change, with time zone.
@@ -332,8 +332,8 @@ public:
     bool is_occurs_ok() const;
 
     /// Which spectral quantity was measured.
-    const SpectrumType& get_Spectrum() const { return m_Spectrum; }
     SpectrumType& get_Spectrum() { m_isset_Spectrum = true; return m_Spectrum; }
+    const SpectrumType& get_Spectrum() const { return m_Spectrum; }
     SpectrumType& assign_Spectrum(const SpectrumType& value);
 
     /// The class's identity; `getid` and `has_id` work on its address.
@@ -450,8 +450,8 @@ public:
     lmx::elmx_error set_UnknownGeometry(const std::u16string& value);
 
     /// Angles of a multi-angle measurement.
-    const BSDFAngle& get_BSDFAngle() const { return *static_cast<const BSDFAngle*>(m_choice.object); }
     BSDFAngle& get_BSDFAngle();
+    const BSDFAngle& get_BSDFAngle() const { return *static_cast<const BSDFAngle*>(m_choice.object); }
     BSDFAngle& assign_BSDFAngle(const BSDFAngle& value);
 
     static const lmx::s_class k_class;
@@ -498,13 +498,13 @@ public:
     void unset_Description() { m_isset_Description = false; }
 
     /// The illumination as a standard illuminant.
-    const Illuminant& get_Illuminant() const { return *static_cast<const Illuminant*>(m_choice.object); }
     Illuminant& get_Illuminant();
+    const Illuminant& get_Illuminant() const { return *static_cast<const Illuminant*>(m_choice.object); }
     Illuminant& assign_Illuminant(const Illuminant& value);
 
     /// The illumination by the chromaticity of its white.
-    const WhitePointChromaticity& get_WhitePointChromaticity() const { return *static_cast<const WhitePointChromaticity*>(m_choice.object); }
     WhitePointChromaticity& get_WhitePointChromaticity();
+    const WhitePointChromaticity& get_WhitePointChromaticity() const { return *static_cast<const WhitePointChromaticity*>(m_choice.object); }
     WhitePointChromaticity& assign_WhitePointChromaticity(const WhitePointChromaticity& value);
 
     /// The illumination by correlated colour temperature in kelvins, above 0.
@@ -551,15 +551,15 @@ public:
     bool is_occurs_ok() const;
 
     /// Measuring geometry.
-    const GeometryChoiceType& get_GeometryChoice() const { return m_GeometryChoice; }
     GeometryChoiceType& get_GeometryChoice() { m_isset_GeometryChoice = true; return m_GeometryChoice; }
+    const GeometryChoiceType& get_GeometryChoice() const { return m_GeometryChoice; }
     GeometryChoiceType& assign_GeometryChoice(const GeometryChoiceType& value);
     bool isset_GeometryChoice() const { return m_isset_GeometryChoice; }
     void unset_GeometryChoice() { m_isset_GeometryChoice = false; }
 
     /// Illumination that the value holds for.
-    const IlluminationOptionsType& get_IlluminationOptions() const { return m_IlluminationOptions; }
     IlluminationOptionsType& get_IlluminationOptions() { m_isset_IlluminationOptions = true; return m_IlluminationOptions; }
+    const IlluminationOptionsType& get_IlluminationOptions() const { return m_IlluminationOptions; }
     IlluminationOptionsType& assign_IlluminationOptions(const IlluminationOptionsType& value);
     bool isset_IlluminationOptions() const { return m_isset_IlluminationOptions; }
     void unset_IlluminationOptions() { m_isset_IlluminationOptions = false; }
@@ -648,8 +648,8 @@ public:
     bool is_occurs_ok() const;
 
     /// Illumination that the value holds for.
-    const IlluminationOptionsType& get_IlluminationOptions() const { return m_IlluminationOptions; }
     IlluminationOptionsType& get_IlluminationOptions() { m_isset_IlluminationOptions = true; return m_IlluminationOptions; }
+    const IlluminationOptionsType& get_IlluminationOptions() const { return m_IlluminationOptions; }
     IlluminationOptionsType& assign_IlluminationOptions(const IlluminationOptionsType& value);
 
     /// Standard observer that the value holds for.
@@ -659,8 +659,8 @@ public:
     bool setenum_FieldOfView(std::int32_t number);
 
     /// Measuring geometry.
-    const GeometryChoiceType& get_GeometryChoice() const { return m_GeometryChoice; }
     GeometryChoiceType& get_GeometryChoice() { m_isset_GeometryChoice = true; return m_GeometryChoice; }
+    const GeometryChoiceType& get_GeometryChoice() const { return m_GeometryChoice; }
     GeometryChoiceType& assign_GeometryChoice(const GeometryChoiceType& value);
     bool isset_GeometryChoice() const { return m_isset_GeometryChoice; }
     void unset_GeometryChoice() { m_isset_GeometryChoice = false; }
@@ -730,8 +730,8 @@ public:
     bool is_occurs_ok() const;
 
     /// Measuring geometry.
-    const GeometryChoiceType& get_GeometryChoice() const { return m_GeometryChoice; }
     GeometryChoiceType& get_GeometryChoice() { m_isset_GeometryChoice = true; return m_GeometryChoice; }
+    const GeometryChoiceType& get_GeometryChoice() const { return m_GeometryChoice; }
     GeometryChoiceType& assign_GeometryChoice(const GeometryChoiceType& value);
 
     /// Weighting tables for a later tristimulus integration.
@@ -784,15 +784,15 @@ public:
     bool is_occurs_ok() const;
 
     /// Measuring geometry.
-    const GeometryChoiceType& get_GeometryChoice() const { return m_GeometryChoice; }
     GeometryChoiceType& get_GeometryChoice() { m_isset_GeometryChoice = true; return m_GeometryChoice; }
+    const GeometryChoiceType& get_GeometryChoice() const { return m_GeometryChoice; }
     GeometryChoiceType& assign_GeometryChoice(const GeometryChoiceType& value);
     bool isset_GeometryChoice() const { return m_isset_GeometryChoice; }
     void unset_GeometryChoice() { m_isset_GeometryChoice = false; }
 
     /// Illumination that the value holds for.
-    const IlluminationOptionsType& get_IlluminationOptions() const { return m_IlluminationOptions; }
     IlluminationOptionsType& get_IlluminationOptions() { m_isset_IlluminationOptions = true; return m_IlluminationOptions; }
+    const IlluminationOptionsType& get_IlluminationOptions() const { return m_IlluminationOptions; }
     IlluminationOptionsType& assign_IlluminationOptions(const IlluminationOptionsType& value);
     bool isset_IlluminationOptions() const { return m_isset_IlluminationOptions; }
     void unset_IlluminationOptions() { m_isset_IlluminationOptions = false; }
@@ -881,8 +881,8 @@ public:
     bool is_occurs_ok() const;
 
     /// Illumination that the value holds for.
-    const IlluminationOptionsType& get_IlluminationOptions() const { return m_IlluminationOptions; }
     IlluminationOptionsType& get_IlluminationOptions() { m_isset_IlluminationOptions = true; return m_IlluminationOptions; }
+    const IlluminationOptionsType& get_IlluminationOptions() const { return m_IlluminationOptions; }
     IlluminationOptionsType& assign_IlluminationOptions(const IlluminationOptionsType& value);
 
     /// Standard observer that the value holds for.
@@ -892,8 +892,8 @@ public:
     bool setenum_FieldOfView(std::int32_t number);
 
     /// Measuring geometry.
-    const GeometryChoiceType& get_GeometryChoice() const { return m_GeometryChoice; }
     GeometryChoiceType& get_GeometryChoice() { m_isset_GeometryChoice = true; return m_GeometryChoice; }
+    const GeometryChoiceType& get_GeometryChoice() const { return m_GeometryChoice; }
     GeometryChoiceType& assign_GeometryChoice(const GeometryChoiceType& value);
     bool isset_GeometryChoice() const { return m_isset_GeometryChoice; }
     void unset_GeometryChoice() { m_isset_GeometryChoice = false; }
@@ -963,8 +963,8 @@ public:
     bool is_occurs_ok() const;
 
     /// Measuring geometry.
-    const GeometryChoiceType& get_GeometryChoice() const { return m_GeometryChoice; }
     GeometryChoiceType& get_GeometryChoice() { m_isset_GeometryChoice = true; return m_GeometryChoice; }
+    const GeometryChoiceType& get_GeometryChoice() const { return m_GeometryChoice; }
     GeometryChoiceType& assign_GeometryChoice(const GeometryChoiceType& value);
 
     /// Weighting tables for a later tristimulus integration.
@@ -1002,10 +1002,10 @@ private:
 /// Head of the specifications.
 class VYR_EXPORT ColorSpaceSpecification : public ColorSpaceSpecificationType {
 public:
-    lmx::elmx_error marshal(lmx::c_xml_writer& writer, const char* name) const override;
-    lmx::elmx_error unmarshal(lmx::c_xml_reader& reader, const std::string& name) override;
     static const lmx::s_ns_map* ns_map();
     lmx::elmx_error unmarshal(lmx::c_xml_reader& reader);
+    lmx::elmx_error marshal(lmx::c_xml_writer& writer, const char* name) const override;
+    lmx::elmx_error unmarshal(lmx::c_xml_reader& reader, const std::string& name) override;
     static const lmx::s_document k_document;
 };
 
@@ -1017,8 +1017,6 @@ public:
     ColorSpaceSpecificationSpectrum(const char* file_name, lmx::elmx_error* error);
     ColorSpaceSpecificationSpectrum(const char* data, std::size_t size, lmx::elmx_error* error);
     ColorSpaceSpecificationSpectrum(const std::string& text, lmx::elmx_error* error);
-    lmx::elmx_error marshal(lmx::c_xml_writer& writer, const char* name) const override;
-    lmx::elmx_error unmarshal(lmx::c_xml_reader& reader, const std::string& name) override;
     static const lmx::s_ns_map* ns_map();
     lmx::elmx_error unmarshal(const char* file_name);
     lmx::elmx_error unmarshal(const char* data, std::size_t size);
@@ -1027,6 +1025,8 @@ public:
     lmx::elmx_error marshal(const char* file_name) const;
     lmx::elmx_error marshal(std::string* text) const;
     lmx::elmx_error marshal(std::ostream& stream) const;
+    lmx::elmx_error marshal(lmx::c_xml_writer& writer, const char* name) const override;
+    lmx::elmx_error unmarshal(lmx::c_xml_reader& reader, const std::string& name) override;
     static const lmx::s_document k_document;
 };
 
@@ -1041,8 +1041,6 @@ public:
     ColorSpaceSpecificationSpectrumGeneric(const std::string& text, lmx::elmx_error* error);
     ~ColorSpaceSpecificationSpectrumGeneric() override;
     ColorSpaceSpecificationSpectrumGeneric& operator=(const ColorSpaceSpecificationSpectrumGeneric& other);
-    lmx::elmx_error marshal(lmx::c_xml_writer& writer, const char* name) const override;
-    lmx::elmx_error unmarshal(lmx::c_xml_reader& reader, const std::string& name) override;
     static const lmx::s_ns_map* ns_map();
     lmx::elmx_error unmarshal(const char* file_name);
     lmx::elmx_error unmarshal(const char* data, std::size_t size);
@@ -1051,6 +1049,8 @@ public:
     lmx::elmx_error marshal(const char* file_name) const;
     lmx::elmx_error marshal(std::string* text) const;
     lmx::elmx_error marshal(std::ostream& stream) const;
+    lmx::elmx_error marshal(lmx::c_xml_writer& writer, const char* name) const override;
+    lmx::elmx_error unmarshal(lmx::c_xml_reader& reader, const std::string& name) override;
     static const lmx::s_document k_document;
     void swap(ColorSpaceSpecificationSpectrumGeneric& other);
     void reset();
@@ -1084,8 +1084,6 @@ public:
     ColorSpaceSpecificationSpectrumTristimulus(const std::string& text, lmx::elmx_error* error);
     ~ColorSpaceSpecificationSpectrumTristimulus() override;
     ColorSpaceSpecificationSpectrumTristimulus& operator=(const ColorSpaceSpecificationSpectrumTristimulus& other);
-    lmx::elmx_error marshal(lmx::c_xml_writer& writer, const char* name) const override;
-    lmx::elmx_error unmarshal(lmx::c_xml_reader& reader, const std::string& name) override;
     static const lmx::s_ns_map* ns_map();
     lmx::elmx_error unmarshal(const char* file_name);
     lmx::elmx_error unmarshal(const char* data, std::size_t size);
@@ -1094,6 +1092,8 @@ public:
     lmx::elmx_error marshal(const char* file_name) const;
     lmx::elmx_error marshal(std::string* text) const;
     lmx::elmx_error marshal(std::ostream& stream) const;
+    lmx::elmx_error marshal(lmx::c_xml_writer& writer, const char* name) const override;
+    lmx::elmx_error unmarshal(lmx::c_xml_reader& reader, const std::string& name) override;
     static const lmx::s_document k_document;
     void swap(ColorSpaceSpecificationSpectrumTristimulus& other);
     void reset();
@@ -1127,8 +1127,6 @@ public:
     ColorSpaceSpecificationSpectrumSpectral(const std::string& text, lmx::elmx_error* error);
     ~ColorSpaceSpecificationSpectrumSpectral() override;
     ColorSpaceSpecificationSpectrumSpectral& operator=(const ColorSpaceSpecificationSpectrumSpectral& other);
-    lmx::elmx_error marshal(lmx::c_xml_writer& writer, const char* name) const override;
-    lmx::elmx_error unmarshal(lmx::c_xml_reader& reader, const std::string& name) override;
     static const lmx::s_ns_map* ns_map();
     lmx::elmx_error unmarshal(const char* file_name);
     lmx::elmx_error unmarshal(const char* data, std::size_t size);
@@ -1137,6 +1135,8 @@ public:
     lmx::elmx_error marshal(const char* file_name) const;
     lmx::elmx_error marshal(std::string* text) const;
     lmx::elmx_error marshal(std::ostream& stream) const;
+    lmx::elmx_error marshal(lmx::c_xml_writer& writer, const char* name) const override;
+    lmx::elmx_error unmarshal(lmx::c_xml_reader& reader, const std::string& name) override;
     static const lmx::s_document k_document;
     void swap(ColorSpaceSpecificationSpectrumSpectral& other);
     void reset();
@@ -1167,8 +1167,6 @@ public:
     ColorSpaceSpecificationEmissive(const char* file_name, lmx::elmx_error* error);
     ColorSpaceSpecificationEmissive(const char* data, std::size_t size, lmx::elmx_error* error);
     ColorSpaceSpecificationEmissive(const std::string& text, lmx::elmx_error* error);
-    lmx::elmx_error marshal(lmx::c_xml_writer& writer, const char* name) const override;
-    lmx::elmx_error unmarshal(lmx::c_xml_reader& reader, const std::string& name) override;
     static const lmx::s_ns_map* ns_map();
     lmx::elmx_error unmarshal(const char* file_name);
     lmx::elmx_error unmarshal(const char* data, std::size_t size);
@@ -1177,6 +1175,8 @@ public:
     lmx::elmx_error marshal(const char* file_name) const;
     lmx::elmx_error marshal(std::string* text) const;
     lmx::elmx_error marshal(std::ostream& stream) const;
+    lmx::elmx_error marshal(lmx::c_xml_writer& writer, const char* name) const override;
+    lmx::elmx_error unmarshal(lmx::c_xml_reader& reader, const std::string& name) override;
     static const lmx::s_document k_document;
 };
 
@@ -1191,8 +1191,6 @@ public:
     ColorSpaceSpecificationEmissiveGeneric(const std::string& text, lmx::elmx_error* error);
     ~ColorSpaceSpecificationEmissiveGeneric() override;
     ColorSpaceSpecificationEmissiveGeneric& operator=(const ColorSpaceSpecificationEmissiveGeneric& other);
-    lmx::elmx_error marshal(lmx::c_xml_writer& writer, const char* name) const override;
-    lmx::elmx_error unmarshal(lmx::c_xml_reader& reader, const std::string& name) override;
     static const lmx::s_ns_map* ns_map();
     lmx::elmx_error unmarshal(const char* file_name);
     lmx::elmx_error unmarshal(const char* data, std::size_t size);
@@ -1201,6 +1199,8 @@ public:
     lmx::elmx_error marshal(const char* file_name) const;
     lmx::elmx_error marshal(std::string* text) const;
     lmx::elmx_error marshal(std::ostream& stream) const;
+    lmx::elmx_error marshal(lmx::c_xml_writer& writer, const char* name) const override;
+    lmx::elmx_error unmarshal(lmx::c_xml_reader& reader, const std::string& name) override;
     static const lmx::s_document k_document;
     void swap(ColorSpaceSpecificationEmissiveGeneric& other);
     void reset();
@@ -1234,8 +1234,6 @@ public:
     ColorSpaceSpecificationEmissiveTristimulus(const std::string& text, lmx::elmx_error* error);
     ~ColorSpaceSpecificationEmissiveTristimulus() override;
     ColorSpaceSpecificationEmissiveTristimulus& operator=(const ColorSpaceSpecificationEmissiveTristimulus& other);
-    lmx::elmx_error marshal(lmx::c_xml_writer& writer, const char* name) const override;
-    lmx::elmx_error unmarshal(lmx::c_xml_reader& reader, const std::string& name) override;
     static const lmx::s_ns_map* ns_map();
     lmx::elmx_error unmarshal(const char* file_name);
     lmx::elmx_error unmarshal(const char* data, std::size_t size);
@@ -1244,6 +1242,8 @@ public:
     lmx::elmx_error marshal(const char* file_name) const;
     lmx::elmx_error marshal(std::string* text) const;
     lmx::elmx_error marshal(std::ostream& stream) const;
+    lmx::elmx_error marshal(lmx::c_xml_writer& writer, const char* name) const override;
+    lmx::elmx_error unmarshal(lmx::c_xml_reader& reader, const std::string& name) override;
     static const lmx::s_document k_document;
     void swap(ColorSpaceSpecificationEmissiveTristimulus& other);
     void reset();
@@ -1277,8 +1277,6 @@ public:
     ColorSpaceSpecificationEmissiveSpectral(const std::string& text, lmx::elmx_error* error);
     ~ColorSpaceSpecificationEmissiveSpectral() override;
     ColorSpaceSpecificationEmissiveSpectral& operator=(const ColorSpaceSpecificationEmissiveSpectral& other);
-    lmx::elmx_error marshal(lmx::c_xml_writer& writer, const char* name) const override;
-    lmx::elmx_error unmarshal(lmx::c_xml_reader& reader, const std::string& name) override;
     static const lmx::s_ns_map* ns_map();
     lmx::elmx_error unmarshal(const char* file_name);
     lmx::elmx_error unmarshal(const char* data, std::size_t size);
@@ -1287,6 +1285,8 @@ public:
     lmx::elmx_error marshal(const char* file_name) const;
     lmx::elmx_error marshal(std::string* text) const;
     lmx::elmx_error marshal(std::ostream& stream) const;
+    lmx::elmx_error marshal(lmx::c_xml_writer& writer, const char* name) const override;
+    lmx::elmx_error unmarshal(lmx::c_xml_reader& reader, const std::string& name) override;
     static const lmx::s_document k_document;
     void swap(ColorSpaceSpecificationEmissiveSpectral& other);
     void reset();

@@ -48,8 +48,8 @@ public:
     void unset_Name() { m_isset_Name = false; }
 
     /// Conditions under which the value holds.
-    const ColorSpaceSpecificationSpectrumTristimulus& get_ColorSpaceSpecificationSpectrumTristimulus() const { return m_ColorSpaceSpecificationSpectrumTristimulus; }
     ColorSpaceSpecificationSpectrumTristimulus& get_ColorSpaceSpecificationSpectrumTristimulus() { m_isset_ColorSpaceSpecificationSpectrumTristimulus = true; return m_ColorSpaceSpecificationSpectrumTristimulus; }
+    const ColorSpaceSpecificationSpectrumTristimulus& get_ColorSpaceSpecificationSpectrumTristimulus() const { return m_ColorSpaceSpecificationSpectrumTristimulus; }
     ColorSpaceSpecificationSpectrumTristimulus& assign_ColorSpaceSpecificationSpectrumTristimulus(const ColorSpaceSpecificationSpectrumTristimulus& value);
 
     /// Red channel, 0 to 1.
@@ -139,8 +139,8 @@ public:
     void unset_Name() { m_isset_Name = false; }
 
     /// Conditions under which the value holds.
-    const ColorSpaceSpecificationSpectrumTristimulus& get_ColorSpaceSpecificationSpectrumTristimulus() const { return m_ColorSpaceSpecificationSpectrumTristimulus; }
     ColorSpaceSpecificationSpectrumTristimulus& get_ColorSpaceSpecificationSpectrumTristimulus() { m_isset_ColorSpaceSpecificationSpectrumTristimulus = true; return m_ColorSpaceSpecificationSpectrumTristimulus; }
+    const ColorSpaceSpecificationSpectrumTristimulus& get_ColorSpaceSpecificationSpectrumTristimulus() const { return m_ColorSpaceSpecificationSpectrumTristimulus; }
     ColorSpaceSpecificationSpectrumTristimulus& assign_ColorSpaceSpecificationSpectrumTristimulus(const ColorSpaceSpecificationSpectrumTristimulus& value);
 
     /// Red channel, 0 to 1.
@@ -230,8 +230,8 @@ public:
     void unset_Name() { m_isset_Name = false; }
 
     /// Conditions under which the value holds.
-    const ColorSpaceSpecificationSpectrumTristimulus& get_ColorSpaceSpecificationSpectrumTristimulus() const { return m_ColorSpaceSpecificationSpectrumTristimulus; }
     ColorSpaceSpecificationSpectrumTristimulus& get_ColorSpaceSpecificationSpectrumTristimulus() { m_isset_ColorSpaceSpecificationSpectrumTristimulus = true; return m_ColorSpaceSpecificationSpectrumTristimulus; }
+    const ColorSpaceSpecificationSpectrumTristimulus& get_ColorSpaceSpecificationSpectrumTristimulus() const { return m_ColorSpaceSpecificationSpectrumTristimulus; }
     ColorSpaceSpecificationSpectrumTristimulus& assign_ColorSpaceSpecificationSpectrumTristimulus(const ColorSpaceSpecificationSpectrumTristimulus& value);
 
     /// Red channel, 0 to 1.
@@ -321,8 +321,8 @@ public:
     void unset_Name() { m_isset_Name = false; }
 
     /// Conditions under which the value holds.
-    const ColorSpaceSpecificationSpectrumTristimulus& get_ColorSpaceSpecificationSpectrumTristimulus() const { return m_ColorSpaceSpecificationSpectrumTristimulus; }
     ColorSpaceSpecificationSpectrumTristimulus& get_ColorSpaceSpecificationSpectrumTristimulus() { m_isset_ColorSpaceSpecificationSpectrumTristimulus = true; return m_ColorSpaceSpecificationSpectrumTristimulus; }
+    const ColorSpaceSpecificationSpectrumTristimulus& get_ColorSpaceSpecificationSpectrumTristimulus() const { return m_ColorSpaceSpecificationSpectrumTristimulus; }
     ColorSpaceSpecificationSpectrumTristimulus& assign_ColorSpaceSpecificationSpectrumTristimulus(const ColorSpaceSpecificationSpectrumTristimulus& value);
 
     /// Red channel, 0 to 1.
@@ -412,8 +412,8 @@ public:
     void unset_Name() { m_isset_Name = false; }
 
     /// Conditions under which the value holds.
-    const ColorSpaceSpecificationSpectrumGeneric& get_ColorSpaceSpecificationSpectrumGeneric() const { return m_ColorSpaceSpecificationSpectrumGeneric; }
     ColorSpaceSpecificationSpectrumGeneric& get_ColorSpaceSpecificationSpectrumGeneric() { m_isset_ColorSpaceSpecificationSpectrumGeneric = true; return m_ColorSpaceSpecificationSpectrumGeneric; }
+    const ColorSpaceSpecificationSpectrumGeneric& get_ColorSpaceSpecificationSpectrumGeneric() const { return m_ColorSpaceSpecificationSpectrumGeneric; }
     ColorSpaceSpecificationSpectrumGeneric& assign_ColorSpaceSpecificationSpectrumGeneric(const ColorSpaceSpecificationSpectrumGeneric& value);
 
     /// Cyan in percent, 0 to 100.
@@ -434,8 +434,8 @@ public:
 
     /// A spot ink printed besides the process inks.
     std::size_t size_SpotColor() const { return m_SpotColor.size(); }
-    const SpotColorType& get_SpotColor(std::size_t index) const { return m_SpotColor[index]; }
     SpotColorType& get_SpotColor(std::size_t index);
+    const SpotColorType& get_SpotColor(std::size_t index) const { return m_SpotColor[index]; }
     SpotColorType& assign_SpotColor(std::size_t index, const SpotColorType& value);
     lmx::elmx_error append_SpotColor();
     lmx::elmx_error insert_SpotColor(std::size_t index);
@@ -510,8 +510,8 @@ public:
 
     /// One further channel.
     std::size_t size_Color() const { return m_Color.size(); }
-    const Color& get_Color(std::size_t index) const { return m_Color[index]; }
     Color& get_Color(std::size_t index);
+    const Color& get_Color(std::size_t index) const { return m_Color[index]; }
     Color& assign_Color(std::size_t index, const Color& value);
     lmx::elmx_error append_Color();
     lmx::elmx_error insert_Color(std::size_t index);
@@ -608,8 +608,8 @@ public:
     void unset_Name() { m_isset_Name = false; }
 
     /// Conditions under which the value holds.
-    const ColorSpaceSpecificationSpectrumGeneric& get_ColorSpaceSpecificationSpectrumGeneric() const { return m_ColorSpaceSpecificationSpectrumGeneric; }
     ColorSpaceSpecificationSpectrumGeneric& get_ColorSpaceSpecificationSpectrumGeneric() { m_isset_ColorSpaceSpecificationSpectrumGeneric = true; return m_ColorSpaceSpecificationSpectrumGeneric; }
+    const ColorSpaceSpecificationSpectrumGeneric& get_ColorSpaceSpecificationSpectrumGeneric() const { return m_ColorSpaceSpecificationSpectrumGeneric; }
     ColorSpaceSpecificationSpectrumGeneric& assign_ColorSpaceSpecificationSpectrumGeneric(const ColorSpaceSpecificationSpectrumGeneric& value);
 
     /// Cyan in percent, 0 to 100.
@@ -638,8 +638,8 @@ public:
 
     /// A spot ink printed besides the process inks.
     std::size_t size_SpotColor() const { return m_SpotColor.size(); }
-    const SpotColorType& get_SpotColor(std::size_t index) const { return m_SpotColor[index]; }
     SpotColorType& get_SpotColor(std::size_t index);
+    const SpotColorType& get_SpotColor(std::size_t index) const { return m_SpotColor[index]; }
     SpotColorType& assign_SpotColor(std::size_t index, const SpotColorType& value);
     lmx::elmx_error append_SpotColor();
     lmx::elmx_error insert_SpotColor(std::size_t index);
@@ -715,8 +715,8 @@ public:
     void unset_Name() { m_isset_Name = false; }
 
     /// Conditions under which the value holds.
-    const ColorSpaceSpecificationSpectrumGeneric& get_ColorSpaceSpecificationSpectrumGeneric() const { return m_ColorSpaceSpecificationSpectrumGeneric; }
     ColorSpaceSpecificationSpectrumGeneric& get_ColorSpaceSpecificationSpectrumGeneric() { m_isset_ColorSpaceSpecificationSpectrumGeneric = true; return m_ColorSpaceSpecificationSpectrumGeneric; }
+    const ColorSpaceSpecificationSpectrumGeneric& get_ColorSpaceSpecificationSpectrumGeneric() const { return m_ColorSpaceSpecificationSpectrumGeneric; }
     ColorSpaceSpecificationSpectrumGeneric& assign_ColorSpaceSpecificationSpectrumGeneric(const ColorSpaceSpecificationSpectrumGeneric& value);
 
     /// Hue angle in degrees, from 0 to below 360.
@@ -788,8 +788,8 @@ public:
     void unset_Name() { m_isset_Name = false; }
 
     /// Conditions under which the value holds.
-    const ColorSpaceSpecificationSpectrumGeneric& get_ColorSpaceSpecificationSpectrumGeneric() const { return m_ColorSpaceSpecificationSpectrumGeneric; }
     ColorSpaceSpecificationSpectrumGeneric& get_ColorSpaceSpecificationSpectrumGeneric() { m_isset_ColorSpaceSpecificationSpectrumGeneric = true; return m_ColorSpaceSpecificationSpectrumGeneric; }
+    const ColorSpaceSpecificationSpectrumGeneric& get_ColorSpaceSpecificationSpectrumGeneric() const { return m_ColorSpaceSpecificationSpectrumGeneric; }
     ColorSpaceSpecificationSpectrumGeneric& assign_ColorSpaceSpecificationSpectrumGeneric(const ColorSpaceSpecificationSpectrumGeneric& value);
 
     /// Hue angle in degrees, from 0 to below 360.
@@ -861,8 +861,8 @@ public:
     void unset_Name() { m_isset_Name = false; }
 
     /// Conditions under which the value holds.
-    const ColorSpaceSpecificationSpectrumGeneric& get_ColorSpaceSpecificationSpectrumGeneric() const { return m_ColorSpaceSpecificationSpectrumGeneric; }
     ColorSpaceSpecificationSpectrumGeneric& get_ColorSpaceSpecificationSpectrumGeneric() { m_isset_ColorSpaceSpecificationSpectrumGeneric = true; return m_ColorSpaceSpecificationSpectrumGeneric; }
+    const ColorSpaceSpecificationSpectrumGeneric& get_ColorSpaceSpecificationSpectrumGeneric() const { return m_ColorSpaceSpecificationSpectrumGeneric; }
     ColorSpaceSpecificationSpectrumGeneric& assign_ColorSpaceSpecificationSpectrumGeneric(const ColorSpaceSpecificationSpectrumGeneric& value);
 
     /// Luma, 0 to 1.
@@ -934,8 +934,8 @@ public:
     void unset_Name() { m_isset_Name = false; }
 
     /// Conditions under which the value holds.
-    const ColorSpaceSpecificationSpectrumGeneric& get_ColorSpaceSpecificationSpectrumGeneric() const { return m_ColorSpaceSpecificationSpectrumGeneric; }
     ColorSpaceSpecificationSpectrumGeneric& get_ColorSpaceSpecificationSpectrumGeneric() { m_isset_ColorSpaceSpecificationSpectrumGeneric = true; return m_ColorSpaceSpecificationSpectrumGeneric; }
+    const ColorSpaceSpecificationSpectrumGeneric& get_ColorSpaceSpecificationSpectrumGeneric() const { return m_ColorSpaceSpecificationSpectrumGeneric; }
     ColorSpaceSpecificationSpectrumGeneric& assign_ColorSpaceSpecificationSpectrumGeneric(const ColorSpaceSpecificationSpectrumGeneric& value);
 
     /// Luma, 0 to 1.
@@ -1007,8 +1007,8 @@ public:
     void unset_Name() { m_isset_Name = false; }
 
     /// Conditions under which the value holds.
-    const ColorSpaceSpecificationSpectrumGeneric& get_ColorSpaceSpecificationSpectrumGeneric() const { return m_ColorSpaceSpecificationSpectrumGeneric; }
     ColorSpaceSpecificationSpectrumGeneric& get_ColorSpaceSpecificationSpectrumGeneric() { m_isset_ColorSpaceSpecificationSpectrumGeneric = true; return m_ColorSpaceSpecificationSpectrumGeneric; }
+    const ColorSpaceSpecificationSpectrumGeneric& get_ColorSpaceSpecificationSpectrumGeneric() const { return m_ColorSpaceSpecificationSpectrumGeneric; }
     ColorSpaceSpecificationSpectrumGeneric& assign_ColorSpaceSpecificationSpectrumGeneric(const ColorSpaceSpecificationSpectrumGeneric& value);
 
     /// Luma, 0 to 1.
@@ -1064,8 +1064,6 @@ public:
     ColorSpaceRGB(const char* file_name, lmx::elmx_error* error);
     ColorSpaceRGB(const char* data, std::size_t size, lmx::elmx_error* error);
     ColorSpaceRGB(const std::string& text, lmx::elmx_error* error);
-    lmx::elmx_error marshal(lmx::c_xml_writer& writer, const char* name) const override;
-    lmx::elmx_error unmarshal(lmx::c_xml_reader& reader, const std::string& name) override;
     static const lmx::s_ns_map* ns_map();
     lmx::elmx_error unmarshal(const char* file_name);
     lmx::elmx_error unmarshal(const char* data, std::size_t size);
@@ -1074,6 +1072,8 @@ public:
     lmx::elmx_error marshal(const char* file_name) const;
     lmx::elmx_error marshal(std::string* text) const;
     lmx::elmx_error marshal(std::ostream& stream) const;
+    lmx::elmx_error marshal(lmx::c_xml_writer& writer, const char* name) const override;
+    lmx::elmx_error unmarshal(lmx::c_xml_reader& reader, const std::string& name) override;
     static const lmx::s_document k_document;
 };
 
@@ -1085,8 +1085,6 @@ public:
     ColorSpaceSRGB(const char* file_name, lmx::elmx_error* error);
     ColorSpaceSRGB(const char* data, std::size_t size, lmx::elmx_error* error);
     ColorSpaceSRGB(const std::string& text, lmx::elmx_error* error);
-    lmx::elmx_error marshal(lmx::c_xml_writer& writer, const char* name) const override;
-    lmx::elmx_error unmarshal(lmx::c_xml_reader& reader, const std::string& name) override;
     static const lmx::s_ns_map* ns_map();
     lmx::elmx_error unmarshal(const char* file_name);
     lmx::elmx_error unmarshal(const char* data, std::size_t size);
@@ -1095,6 +1093,8 @@ public:
     lmx::elmx_error marshal(const char* file_name) const;
     lmx::elmx_error marshal(std::string* text) const;
     lmx::elmx_error marshal(std::ostream& stream) const;
+    lmx::elmx_error marshal(lmx::c_xml_writer& writer, const char* name) const override;
+    lmx::elmx_error unmarshal(lmx::c_xml_reader& reader, const std::string& name) override;
     static const lmx::s_document k_document;
 };
 
@@ -1106,8 +1106,6 @@ public:
     ColorSpaceAdobeRGB(const char* file_name, lmx::elmx_error* error);
     ColorSpaceAdobeRGB(const char* data, std::size_t size, lmx::elmx_error* error);
     ColorSpaceAdobeRGB(const std::string& text, lmx::elmx_error* error);
-    lmx::elmx_error marshal(lmx::c_xml_writer& writer, const char* name) const override;
-    lmx::elmx_error unmarshal(lmx::c_xml_reader& reader, const std::string& name) override;
     static const lmx::s_ns_map* ns_map();
     lmx::elmx_error unmarshal(const char* file_name);
     lmx::elmx_error unmarshal(const char* data, std::size_t size);
@@ -1116,6 +1114,8 @@ public:
     lmx::elmx_error marshal(const char* file_name) const;
     lmx::elmx_error marshal(std::string* text) const;
     lmx::elmx_error marshal(std::ostream& stream) const;
+    lmx::elmx_error marshal(lmx::c_xml_writer& writer, const char* name) const override;
+    lmx::elmx_error unmarshal(lmx::c_xml_reader& reader, const std::string& name) override;
     static const lmx::s_document k_document;
 };
 
@@ -1127,8 +1127,6 @@ public:
     ColorSpaceCMYKPlusN(const char* file_name, lmx::elmx_error* error);
     ColorSpaceCMYKPlusN(const char* data, std::size_t size, lmx::elmx_error* error);
     ColorSpaceCMYKPlusN(const std::string& text, lmx::elmx_error* error);
-    lmx::elmx_error marshal(lmx::c_xml_writer& writer, const char* name) const override;
-    lmx::elmx_error unmarshal(lmx::c_xml_reader& reader, const std::string& name) override;
     static const lmx::s_ns_map* ns_map();
     lmx::elmx_error unmarshal(const char* file_name);
     lmx::elmx_error unmarshal(const char* data, std::size_t size);
@@ -1137,6 +1135,8 @@ public:
     lmx::elmx_error marshal(const char* file_name) const;
     lmx::elmx_error marshal(std::string* text) const;
     lmx::elmx_error marshal(std::ostream& stream) const;
+    lmx::elmx_error marshal(lmx::c_xml_writer& writer, const char* name) const override;
+    lmx::elmx_error unmarshal(lmx::c_xml_reader& reader, const std::string& name) override;
     static const lmx::s_document k_document;
 };
 
@@ -1148,8 +1148,6 @@ public:
     ColorSpaceAdobeWideGamutRGB(const char* file_name, lmx::elmx_error* error);
     ColorSpaceAdobeWideGamutRGB(const char* data, std::size_t size, lmx::elmx_error* error);
     ColorSpaceAdobeWideGamutRGB(const std::string& text, lmx::elmx_error* error);
-    lmx::elmx_error marshal(lmx::c_xml_writer& writer, const char* name) const override;
-    lmx::elmx_error unmarshal(lmx::c_xml_reader& reader, const std::string& name) override;
     static const lmx::s_ns_map* ns_map();
     lmx::elmx_error unmarshal(const char* file_name);
     lmx::elmx_error unmarshal(const char* data, std::size_t size);
@@ -1158,6 +1156,8 @@ public:
     lmx::elmx_error marshal(const char* file_name) const;
     lmx::elmx_error marshal(std::string* text) const;
     lmx::elmx_error marshal(std::ostream& stream) const;
+    lmx::elmx_error marshal(lmx::c_xml_writer& writer, const char* name) const override;
+    lmx::elmx_error unmarshal(lmx::c_xml_reader& reader, const std::string& name) override;
     static const lmx::s_document k_document;
 };
 
@@ -1169,8 +1169,6 @@ public:
     ColorSpaceHSL(const char* file_name, lmx::elmx_error* error);
     ColorSpaceHSL(const char* data, std::size_t size, lmx::elmx_error* error);
     ColorSpaceHSL(const std::string& text, lmx::elmx_error* error);
-    lmx::elmx_error marshal(lmx::c_xml_writer& writer, const char* name) const override;
-    lmx::elmx_error unmarshal(lmx::c_xml_reader& reader, const std::string& name) override;
     static const lmx::s_ns_map* ns_map();
     lmx::elmx_error unmarshal(const char* file_name);
     lmx::elmx_error unmarshal(const char* data, std::size_t size);
@@ -1179,6 +1177,8 @@ public:
     lmx::elmx_error marshal(const char* file_name) const;
     lmx::elmx_error marshal(std::string* text) const;
     lmx::elmx_error marshal(std::ostream& stream) const;
+    lmx::elmx_error marshal(lmx::c_xml_writer& writer, const char* name) const override;
+    lmx::elmx_error unmarshal(lmx::c_xml_reader& reader, const std::string& name) override;
     static const lmx::s_document k_document;
 };
 
@@ -1190,8 +1190,6 @@ public:
     ColorSpaceHSV(const char* file_name, lmx::elmx_error* error);
     ColorSpaceHSV(const char* data, std::size_t size, lmx::elmx_error* error);
     ColorSpaceHSV(const std::string& text, lmx::elmx_error* error);
-    lmx::elmx_error marshal(lmx::c_xml_writer& writer, const char* name) const override;
-    lmx::elmx_error unmarshal(lmx::c_xml_reader& reader, const std::string& name) override;
     static const lmx::s_ns_map* ns_map();
     lmx::elmx_error unmarshal(const char* file_name);
     lmx::elmx_error unmarshal(const char* data, std::size_t size);
@@ -1200,6 +1198,8 @@ public:
     lmx::elmx_error marshal(const char* file_name) const;
     lmx::elmx_error marshal(std::string* text) const;
     lmx::elmx_error marshal(std::ostream& stream) const;
+    lmx::elmx_error marshal(lmx::c_xml_writer& writer, const char* name) const override;
+    lmx::elmx_error unmarshal(lmx::c_xml_reader& reader, const std::string& name) override;
     static const lmx::s_document k_document;
 };
 
@@ -1211,8 +1211,6 @@ public:
     ColorSpaceCMYK(const char* file_name, lmx::elmx_error* error);
     ColorSpaceCMYK(const char* data, std::size_t size, lmx::elmx_error* error);
     ColorSpaceCMYK(const std::string& text, lmx::elmx_error* error);
-    lmx::elmx_error marshal(lmx::c_xml_writer& writer, const char* name) const override;
-    lmx::elmx_error unmarshal(lmx::c_xml_reader& reader, const std::string& name) override;
     static const lmx::s_ns_map* ns_map();
     lmx::elmx_error unmarshal(const char* file_name);
     lmx::elmx_error unmarshal(const char* data, std::size_t size);
@@ -1221,6 +1219,8 @@ public:
     lmx::elmx_error marshal(const char* file_name) const;
     lmx::elmx_error marshal(std::string* text) const;
     lmx::elmx_error marshal(std::ostream& stream) const;
+    lmx::elmx_error marshal(lmx::c_xml_writer& writer, const char* name) const override;
+    lmx::elmx_error unmarshal(lmx::c_xml_reader& reader, const std::string& name) override;
     static const lmx::s_document k_document;
 };
 
@@ -1232,8 +1232,6 @@ public:
     ColorSpaceTINTORAOctavantic(const char* file_name, lmx::elmx_error* error);
     ColorSpaceTINTORAOctavantic(const char* data, std::size_t size, lmx::elmx_error* error);
     ColorSpaceTINTORAOctavantic(const std::string& text, lmx::elmx_error* error);
-    lmx::elmx_error marshal(lmx::c_xml_writer& writer, const char* name) const override;
-    lmx::elmx_error unmarshal(lmx::c_xml_reader& reader, const std::string& name) override;
     static const lmx::s_ns_map* ns_map();
     lmx::elmx_error unmarshal(const char* file_name);
     lmx::elmx_error unmarshal(const char* data, std::size_t size);
@@ -1242,6 +1240,8 @@ public:
     lmx::elmx_error marshal(const char* file_name) const;
     lmx::elmx_error marshal(std::string* text) const;
     lmx::elmx_error marshal(std::ostream& stream) const;
+    lmx::elmx_error marshal(lmx::c_xml_writer& writer, const char* name) const override;
+    lmx::elmx_error unmarshal(lmx::c_xml_reader& reader, const std::string& name) override;
     static const lmx::s_document k_document;
 };
 
@@ -1253,8 +1253,6 @@ public:
     ColorSpaceYUV(const char* file_name, lmx::elmx_error* error);
     ColorSpaceYUV(const char* data, std::size_t size, lmx::elmx_error* error);
     ColorSpaceYUV(const std::string& text, lmx::elmx_error* error);
-    lmx::elmx_error marshal(lmx::c_xml_writer& writer, const char* name) const override;
-    lmx::elmx_error unmarshal(lmx::c_xml_reader& reader, const std::string& name) override;
     static const lmx::s_ns_map* ns_map();
     lmx::elmx_error unmarshal(const char* file_name);
     lmx::elmx_error unmarshal(const char* data, std::size_t size);
@@ -1263,6 +1261,8 @@ public:
     lmx::elmx_error marshal(const char* file_name) const;
     lmx::elmx_error marshal(std::string* text) const;
     lmx::elmx_error marshal(std::ostream& stream) const;
+    lmx::elmx_error marshal(lmx::c_xml_writer& writer, const char* name) const override;
+    lmx::elmx_error unmarshal(lmx::c_xml_reader& reader, const std::string& name) override;
     static const lmx::s_document k_document;
 };
 
@@ -1274,8 +1274,6 @@ public:
     ColorSpaceYIQ(const char* file_name, lmx::elmx_error* error);
     ColorSpaceYIQ(const char* data, std::size_t size, lmx::elmx_error* error);
     ColorSpaceYIQ(const std::string& text, lmx::elmx_error* error);
-    lmx::elmx_error marshal(lmx::c_xml_writer& writer, const char* name) const override;
-    lmx::elmx_error unmarshal(lmx::c_xml_reader& reader, const std::string& name) override;
     static const lmx::s_ns_map* ns_map();
     lmx::elmx_error unmarshal(const char* file_name);
     lmx::elmx_error unmarshal(const char* data, std::size_t size);
@@ -1284,6 +1282,8 @@ public:
     lmx::elmx_error marshal(const char* file_name) const;
     lmx::elmx_error marshal(std::string* text) const;
     lmx::elmx_error marshal(std::ostream& stream) const;
+    lmx::elmx_error marshal(lmx::c_xml_writer& writer, const char* name) const override;
+    lmx::elmx_error unmarshal(lmx::c_xml_reader& reader, const std::string& name) override;
     static const lmx::s_document k_document;
 };
 
@@ -1295,8 +1295,6 @@ public:
     ColorSpaceYBR(const char* file_name, lmx::elmx_error* error);
     ColorSpaceYBR(const char* data, std::size_t size, lmx::elmx_error* error);
     ColorSpaceYBR(const std::string& text, lmx::elmx_error* error);
-    lmx::elmx_error marshal(lmx::c_xml_writer& writer, const char* name) const override;
-    lmx::elmx_error unmarshal(lmx::c_xml_reader& reader, const std::string& name) override;
     static const lmx::s_ns_map* ns_map();
     lmx::elmx_error unmarshal(const char* file_name);
     lmx::elmx_error unmarshal(const char* data, std::size_t size);
@@ -1305,6 +1303,8 @@ public:
     lmx::elmx_error marshal(const char* file_name) const;
     lmx::elmx_error marshal(std::string* text) const;
     lmx::elmx_error marshal(std::ostream& stream) const;
+    lmx::elmx_error marshal(lmx::c_xml_writer& writer, const char* name) const override;
+    lmx::elmx_error unmarshal(lmx::c_xml_reader& reader, const std::string& name) override;
     static const lmx::s_document k_document;
 };
 

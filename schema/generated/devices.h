@@ -169,8 +169,8 @@ public:
 
     /// A named value of the user's own.
     std::size_t size_CustomAttribute() const { return m_CustomAttribute.size(); }
-    const CustomAttributeType& get_CustomAttribute(std::size_t index) const { return m_CustomAttribute[index]; }
     CustomAttributeType& get_CustomAttribute(std::size_t index);
+    const CustomAttributeType& get_CustomAttribute(std::size_t index) const { return m_CustomAttribute[index]; }
     CustomAttributeType& assign_CustomAttribute(std::size_t index, const CustomAttributeType& value);
     lmx::elmx_error append_CustomAttribute();
     lmx::elmx_error insert_CustomAttribute(std::size_t index);
@@ -197,15 +197,15 @@ public:
     void unset_GlassCompensation() { m_isset_GlassCompensation = false; }
 
     /// Whether the reading is corrected for gloss, and by how much.
-    const GlossCompensation& get_GlossCompensation() const { return m_GlossCompensation; }
     GlossCompensation& get_GlossCompensation() { m_isset_GlossCompensation = true; return m_GlossCompensation; }
+    const GlossCompensation& get_GlossCompensation() const { return m_GlossCompensation; }
     GlossCompensation& assign_GlossCompensation(const GlossCompensation& value);
     bool isset_GlossCompensation() const { return m_isset_GlossCompensation; }
     void unset_GlossCompensation() { m_isset_GlossCompensation = false; }
 
     /// Whether readings are averaged, and how many.
-    const Averaging& get_Averaging() const { return m_Averaging; }
     Averaging& get_Averaging() { m_isset_Averaging = true; return m_Averaging; }
+    const Averaging& get_Averaging() const { return m_Averaging; }
     Averaging& assign_Averaging(const Averaging& value);
     bool isset_Averaging() const { return m_isset_Averaging; }
     void unset_Averaging() { m_isset_Averaging = false; }
@@ -266,8 +266,8 @@ public:
 
     /// A named value of the user's own.
     std::size_t size_CustomAttribute() const { return m_CustomAttribute.size(); }
-    const CustomAttributeType& get_CustomAttribute(std::size_t index) const { return m_CustomAttribute[index]; }
     CustomAttributeType& get_CustomAttribute(std::size_t index);
+    const CustomAttributeType& get_CustomAttribute(std::size_t index) const { return m_CustomAttribute[index]; }
     CustomAttributeType& assign_CustomAttribute(std::size_t index, const CustomAttributeType& value);
     lmx::elmx_error append_CustomAttribute();
     lmx::elmx_error insert_CustomAttribute(std::size_t index);
@@ -308,15 +308,15 @@ public:
     void unset_BootFirmwareVersion() { m_isset_BootFirmwareVersion = false; }
 
     /// Whether and when the device was calibrated.
-    const CalibrationStateType& get_CalibrationState() const { return m_CalibrationState; }
     CalibrationStateType& get_CalibrationState() { m_isset_CalibrationState = true; return m_CalibrationState; }
+    const CalibrationStateType& get_CalibrationState() const { return m_CalibrationState; }
     CalibrationStateType& assign_CalibrationState(const CalibrationStateType& value);
     bool isset_CalibrationState() const { return m_isset_CalibrationState; }
     void unset_CalibrationState() { m_isset_CalibrationState = false; }
 
     /// How the device was set.
-    const DeviceSettings& get_DeviceSettings() const { return m_DeviceSettings; }
     DeviceSettings& get_DeviceSettings() { m_isset_DeviceSettings = true; return m_DeviceSettings; }
+    const DeviceSettings& get_DeviceSettings() const { return m_DeviceSettings; }
     DeviceSettings& assign_DeviceSettings(const DeviceSettings& value);
     bool isset_DeviceSettings() const { return m_isset_DeviceSettings; }
     void unset_DeviceSettings() { m_isset_DeviceSettings = false; }
@@ -380,8 +380,8 @@ public:
     elmx_chosen getchosen() const { return static_cast<elmx_chosen>(m_choice.chosen); }
 
     /// The profile inline.
-    const ProfileFile& get_ProfileFile() const { return *static_cast<const ProfileFile*>(m_choice.object); }
     ProfileFile& get_ProfileFile();
+    const ProfileFile& get_ProfileFile() const { return *static_cast<const ProfileFile*>(m_choice.object); }
     ProfileFile& assign_ProfileFile(const ProfileFile& value);
 
     /// Where the profile can be found.
@@ -426,14 +426,14 @@ public:
     bool setenum_Direction(std::int32_t number);
 
     /// The profile's data, or where to find it.
-    const ProfileChoice& get_ProfileChoice() const { return m_ProfileChoice; }
     ProfileChoice& get_ProfileChoice() { m_isset_ProfileChoice = true; return m_ProfileChoice; }
+    const ProfileChoice& get_ProfileChoice() const { return m_ProfileChoice; }
     ProfileChoice& assign_ProfileChoice(const ProfileChoice& value);
 
     /// A parameter of the profile.
     std::size_t size_Parameters() const { return m_Parameters.size(); }
-    const ProfileType_Parameters& get_Parameters(std::size_t index) const { return m_Parameters[index]; }
     ProfileType_Parameters& get_Parameters(std::size_t index);
+    const ProfileType_Parameters& get_Parameters(std::size_t index) const { return m_Parameters[index]; }
     ProfileType_Parameters& assign_Parameters(std::size_t index, const ProfileType_Parameters& value);
     lmx::elmx_error append_Parameters();
     lmx::elmx_error insert_Parameters(std::size_t index);
@@ -583,8 +583,8 @@ public:
     lmx::elmx_error set_Name(const std::u16string& value);
 
     /// Value of the parameter.
-    const ProfileType_Parameters_ValueChoice& get_ValueChoice() const { return m_ValueChoice; }
     ProfileType_Parameters_ValueChoice& get_ValueChoice() { m_isset_ValueChoice = true; return m_ValueChoice; }
+    const ProfileType_Parameters_ValueChoice& get_ValueChoice() const { return m_ValueChoice; }
     ProfileType_Parameters_ValueChoice& assign_ValueChoice(const ProfileType_Parameters_ValueChoice& value);
 
     static const lmx::s_class k_class;

@@ -40,8 +40,8 @@ public:
 
     /// A named value of the user's own.
     std::size_t size_CustomAttribute() const { return m_CustomAttribute.size(); }
-    const CustomAttributeType& get_CustomAttribute(std::size_t index) const { return m_CustomAttribute[index]; }
     CustomAttributeType& get_CustomAttribute(std::size_t index);
+    const CustomAttributeType& get_CustomAttribute(std::size_t index) const { return m_CustomAttribute[index]; }
     CustomAttributeType& assign_CustomAttribute(std::size_t index, const CustomAttributeType& value);
     lmx::elmx_error append_CustomAttribute();
     lmx::elmx_error insert_CustomAttribute(std::size_t index);
@@ -90,8 +90,6 @@ public:
     Function(const char* file_name, lmx::elmx_error* error);
     Function(const char* data, std::size_t size, lmx::elmx_error* error);
     Function(const std::string& text, lmx::elmx_error* error);
-    lmx::elmx_error marshal(lmx::c_xml_writer& writer, const char* name) const override;
-    lmx::elmx_error unmarshal(lmx::c_xml_reader& reader, const std::string& name) override;
     static const lmx::s_ns_map* ns_map();
     lmx::elmx_error unmarshal(const char* file_name);
     lmx::elmx_error unmarshal(const char* data, std::size_t size);
@@ -100,6 +98,8 @@ public:
     lmx::elmx_error marshal(const char* file_name) const;
     lmx::elmx_error marshal(std::string* text) const;
     lmx::elmx_error marshal(std::ostream& stream) const;
+    lmx::elmx_error marshal(lmx::c_xml_writer& writer, const char* name) const override;
+    lmx::elmx_error unmarshal(lmx::c_xml_reader& reader, const std::string& name) override;
     static const lmx::s_document k_document;
 };
 
@@ -126,8 +126,8 @@ public:
 
     /// A parameter of the function.
     std::size_t size_Parameters() const { return m_Parameters.size(); }
-    const Parameters& get_Parameters(std::size_t index) const { return m_Parameters[index]; }
     Parameters& get_Parameters(std::size_t index);
+    const Parameters& get_Parameters(std::size_t index) const { return m_Parameters[index]; }
     Parameters& assign_Parameters(std::size_t index, const Parameters& value);
     lmx::elmx_error append_Parameters();
     lmx::elmx_error insert_Parameters(std::size_t index);
@@ -219,8 +219,8 @@ public:
     lmx::elmx_error set_Name(const std::u16string& value);
 
     /// Value of the parameter.
-    const ValueChoice& get_ValueChoice() const { return m_ValueChoice; }
     ValueChoice& get_ValueChoice() { m_isset_ValueChoice = true; return m_ValueChoice; }
+    const ValueChoice& get_ValueChoice() const { return m_ValueChoice; }
     ValueChoice& assign_ValueChoice(const ValueChoice& value);
 
     static const lmx::s_class k_class;
@@ -473,8 +473,6 @@ public:
     FunctionGeneric(const char* file_name, lmx::elmx_error* error);
     FunctionGeneric(const char* data, std::size_t size, lmx::elmx_error* error);
     FunctionGeneric(const std::string& text, lmx::elmx_error* error);
-    lmx::elmx_error marshal(lmx::c_xml_writer& writer, const char* name) const override;
-    lmx::elmx_error unmarshal(lmx::c_xml_reader& reader, const std::string& name) override;
     static const lmx::s_ns_map* ns_map();
     lmx::elmx_error unmarshal(const char* file_name);
     lmx::elmx_error unmarshal(const char* data, std::size_t size);
@@ -483,6 +481,8 @@ public:
     lmx::elmx_error marshal(const char* file_name) const;
     lmx::elmx_error marshal(std::string* text) const;
     lmx::elmx_error marshal(std::ostream& stream) const;
+    lmx::elmx_error marshal(lmx::c_xml_writer& writer, const char* name) const override;
+    lmx::elmx_error unmarshal(lmx::c_xml_reader& reader, const std::string& name) override;
     static const lmx::s_document k_document;
 };
 
@@ -494,8 +494,6 @@ public:
     FunctionDE(const char* file_name, lmx::elmx_error* error);
     FunctionDE(const char* data, std::size_t size, lmx::elmx_error* error);
     FunctionDE(const std::string& text, lmx::elmx_error* error);
-    lmx::elmx_error marshal(lmx::c_xml_writer& writer, const char* name) const override;
-    lmx::elmx_error unmarshal(lmx::c_xml_reader& reader, const std::string& name) override;
     static const lmx::s_ns_map* ns_map();
     lmx::elmx_error unmarshal(const char* file_name);
     lmx::elmx_error unmarshal(const char* data, std::size_t size);
@@ -504,6 +502,8 @@ public:
     lmx::elmx_error marshal(const char* file_name) const;
     lmx::elmx_error marshal(std::string* text) const;
     lmx::elmx_error marshal(std::ostream& stream) const;
+    lmx::elmx_error marshal(lmx::c_xml_writer& writer, const char* name) const override;
+    lmx::elmx_error unmarshal(lmx::c_xml_reader& reader, const std::string& name) override;
     static const lmx::s_document k_document;
 };
 
@@ -515,8 +515,6 @@ public:
     FunctionMeanDE(const char* file_name, lmx::elmx_error* error);
     FunctionMeanDE(const char* data, std::size_t size, lmx::elmx_error* error);
     FunctionMeanDE(const std::string& text, lmx::elmx_error* error);
-    lmx::elmx_error marshal(lmx::c_xml_writer& writer, const char* name) const override;
-    lmx::elmx_error unmarshal(lmx::c_xml_reader& reader, const std::string& name) override;
     static const lmx::s_ns_map* ns_map();
     lmx::elmx_error unmarshal(const char* file_name);
     lmx::elmx_error unmarshal(const char* data, std::size_t size);
@@ -525,6 +523,8 @@ public:
     lmx::elmx_error marshal(const char* file_name) const;
     lmx::elmx_error marshal(std::string* text) const;
     lmx::elmx_error marshal(std::ostream& stream) const;
+    lmx::elmx_error marshal(lmx::c_xml_writer& writer, const char* name) const override;
+    lmx::elmx_error unmarshal(lmx::c_xml_reader& reader, const std::string& name) override;
     static const lmx::s_document k_document;
 };
 
@@ -536,8 +536,6 @@ public:
     FunctionDE94(const char* file_name, lmx::elmx_error* error);
     FunctionDE94(const char* data, std::size_t size, lmx::elmx_error* error);
     FunctionDE94(const std::string& text, lmx::elmx_error* error);
-    lmx::elmx_error marshal(lmx::c_xml_writer& writer, const char* name) const override;
-    lmx::elmx_error unmarshal(lmx::c_xml_reader& reader, const std::string& name) override;
     static const lmx::s_ns_map* ns_map();
     lmx::elmx_error unmarshal(const char* file_name);
     lmx::elmx_error unmarshal(const char* data, std::size_t size);
@@ -546,6 +544,8 @@ public:
     lmx::elmx_error marshal(const char* file_name) const;
     lmx::elmx_error marshal(std::string* text) const;
     lmx::elmx_error marshal(std::ostream& stream) const;
+    lmx::elmx_error marshal(lmx::c_xml_writer& writer, const char* name) const override;
+    lmx::elmx_error unmarshal(lmx::c_xml_reader& reader, const std::string& name) override;
     static const lmx::s_document k_document;
 };
 
@@ -557,8 +557,6 @@ public:
     FunctionDE2000(const char* file_name, lmx::elmx_error* error);
     FunctionDE2000(const char* data, std::size_t size, lmx::elmx_error* error);
     FunctionDE2000(const std::string& text, lmx::elmx_error* error);
-    lmx::elmx_error marshal(lmx::c_xml_writer& writer, const char* name) const override;
-    lmx::elmx_error unmarshal(lmx::c_xml_reader& reader, const std::string& name) override;
     static const lmx::s_ns_map* ns_map();
     lmx::elmx_error unmarshal(const char* file_name);
     lmx::elmx_error unmarshal(const char* data, std::size_t size);
@@ -567,6 +565,8 @@ public:
     lmx::elmx_error marshal(const char* file_name) const;
     lmx::elmx_error marshal(std::string* text) const;
     lmx::elmx_error marshal(std::ostream& stream) const;
+    lmx::elmx_error marshal(lmx::c_xml_writer& writer, const char* name) const override;
+    lmx::elmx_error unmarshal(lmx::c_xml_reader& reader, const std::string& name) override;
     static const lmx::s_document k_document;
 };
 
@@ -578,8 +578,6 @@ public:
     FunctionDECMC(const char* file_name, lmx::elmx_error* error);
     FunctionDECMC(const char* data, std::size_t size, lmx::elmx_error* error);
     FunctionDECMC(const std::string& text, lmx::elmx_error* error);
-    lmx::elmx_error marshal(lmx::c_xml_writer& writer, const char* name) const override;
-    lmx::elmx_error unmarshal(lmx::c_xml_reader& reader, const std::string& name) override;
     static const lmx::s_ns_map* ns_map();
     lmx::elmx_error unmarshal(const char* file_name);
     lmx::elmx_error unmarshal(const char* data, std::size_t size);
@@ -588,6 +586,8 @@ public:
     lmx::elmx_error marshal(const char* file_name) const;
     lmx::elmx_error marshal(std::string* text) const;
     lmx::elmx_error marshal(std::ostream& stream) const;
+    lmx::elmx_error marshal(lmx::c_xml_writer& writer, const char* name) const override;
+    lmx::elmx_error unmarshal(lmx::c_xml_reader& reader, const std::string& name) override;
     static const lmx::s_document k_document;
 };
 
@@ -616,8 +616,8 @@ public:
 
     /// Limits of one parameter.
     std::size_t size_Parameters() const { return m_Parameters.size(); }
-    const ToleranceParameterType& get_Parameters(std::size_t index) const { return m_Parameters[index]; }
     ToleranceParameterType& get_Parameters(std::size_t index);
+    const ToleranceParameterType& get_Parameters(std::size_t index) const { return m_Parameters[index]; }
     ToleranceParameterType& assign_Parameters(std::size_t index, const ToleranceParameterType& value);
     lmx::elmx_error append_Parameters();
     lmx::elmx_error insert_Parameters(std::size_t index);

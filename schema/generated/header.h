@@ -79,8 +79,8 @@ public:
     lmx::elmx_error set_SDKName(const std::u16string& value);
 
     /// Version of the library, or nil where it is unknown.
-    const SDKVersion& get_SDKVersion() const { return m_SDKVersion; }
     SDKVersion& get_SDKVersion() { m_isset_SDKVersion = true; return m_SDKVersion; }
+    const SDKVersion& get_SDKVersion() const { return m_SDKVersion; }
     SDKVersion& assign_SDKVersion(const SDKVersion& value);
 
     static const lmx::s_class k_class;
@@ -161,8 +161,8 @@ public:
 
     /// A named value of the user's own.
     std::size_t size_CustomAttribute() const { return m_CustomAttribute.size(); }
-    const CustomAttributeType& get_CustomAttribute(std::size_t index) const { return m_CustomAttribute[index]; }
     CustomAttributeType& get_CustomAttribute(std::size_t index);
+    const CustomAttributeType& get_CustomAttribute(std::size_t index) const { return m_CustomAttribute[index]; }
     CustomAttributeType& assign_CustomAttribute(std::size_t index, const CustomAttributeType& value);
     lmx::elmx_error append_CustomAttribute();
     lmx::elmx_error insert_CustomAttribute(std::size_t index);
@@ -204,37 +204,37 @@ public:
     void unset_Comments() { m_isset_Comments = false; }
 
     /// Library that last read the document into memory.
-    const SDKType& get_ReadSDKInformation() const { return m_ReadSDKInformation; }
     SDKType& get_ReadSDKInformation() { m_isset_ReadSDKInformation = true; return m_ReadSDKInformation; }
+    const SDKType& get_ReadSDKInformation() const { return m_ReadSDKInformation; }
     SDKType& assign_ReadSDKInformation(const SDKType& value);
     bool isset_ReadSDKInformation() const { return m_isset_ReadSDKInformation; }
     void unset_ReadSDKInformation() { m_isset_ReadSDKInformation = false; }
 
     /// Library that last wrote the document.
-    const SDKType& get_WriteSDKInformation() const { return m_WriteSDKInformation; }
     SDKType& get_WriteSDKInformation() { m_isset_WriteSDKInformation = true; return m_WriteSDKInformation; }
+    const SDKType& get_WriteSDKInformation() const { return m_WriteSDKInformation; }
     SDKType& assign_WriteSDKInformation(const SDKType& value);
     bool isset_WriteSDKInformation() const { return m_isset_WriteSDKInformation; }
     void unset_WriteSDKInformation() { m_isset_WriteSDKInformation = false; }
 
     /// Platform on which the document was last read.
-    const PlatformType& get_ReadPlatformInformation() const { return m_ReadPlatformInformation; }
     PlatformType& get_ReadPlatformInformation() { m_isset_ReadPlatformInformation = true; return m_ReadPlatformInformation; }
+    const PlatformType& get_ReadPlatformInformation() const { return m_ReadPlatformInformation; }
     PlatformType& assign_ReadPlatformInformation(const PlatformType& value);
     bool isset_ReadPlatformInformation() const { return m_isset_ReadPlatformInformation; }
     void unset_ReadPlatformInformation() { m_isset_ReadPlatformInformation = false; }
 
     /// Platform on which the document was last written.
-    const PlatformType& get_WritePlatformInformation() const { return m_WritePlatformInformation; }
     PlatformType& get_WritePlatformInformation() { m_isset_WritePlatformInformation = true; return m_WritePlatformInformation; }
+    const PlatformType& get_WritePlatformInformation() const { return m_WritePlatformInformation; }
     PlatformType& assign_WritePlatformInformation(const PlatformType& value);
     bool isset_WritePlatformInformation() const { return m_isset_WritePlatformInformation; }
     void unset_WritePlatformInformation() { m_isset_WritePlatformInformation = false; }
 
     /// Notes on one revision, in markup of the user's own.
     std::size_t size_Revision() const { return m_Revision.size(); }
-    const Revision& get_Revision(std::size_t index) const { return m_Revision[index]; }
     Revision& get_Revision(std::size_t index);
+    const Revision& get_Revision(std::size_t index) const { return m_Revision[index]; }
     Revision& assign_Revision(std::size_t index, const Revision& value);
     lmx::elmx_error append_Revision();
     lmx::elmx_error insert_Revision(std::size_t index);
@@ -305,8 +305,8 @@ public:
 
     /// A named value of the user's own.
     std::size_t size_CustomAttribute() const { return m_CustomAttribute.size(); }
-    const CustomAttributeType& get_CustomAttribute(std::size_t index) const { return m_CustomAttribute[index]; }
     CustomAttributeType& get_CustomAttribute(std::size_t index);
+    const CustomAttributeType& get_CustomAttribute(std::size_t index) const { return m_CustomAttribute[index]; }
     CustomAttributeType& assign_CustomAttribute(std::size_t index, const CustomAttributeType& value);
     lmx::elmx_error append_CustomAttribute();
     lmx::elmx_error insert_CustomAttribute(std::size_t index);
@@ -316,8 +316,8 @@ public:
 
     /// A person among the owners.
     std::size_t size_Person() const { return m_Person.size(); }
-    const Person& get_Person(std::size_t index) const { return m_Person[index]; }
     Person& get_Person(std::size_t index);
+    const Person& get_Person(std::size_t index) const { return m_Person[index]; }
     Person& assign_Person(std::size_t index, const Person& value);
     lmx::elmx_error append_Person();
     lmx::elmx_error insert_Person(std::size_t index);
@@ -381,8 +381,8 @@ public:
 
     /// A named value of the user's own.
     std::size_t size_CustomAttribute() const { return m_CustomAttribute.size(); }
-    const CustomAttributeType& get_CustomAttribute(std::size_t index) const { return m_CustomAttribute[index]; }
     CustomAttributeType& get_CustomAttribute(std::size_t index);
+    const CustomAttributeType& get_CustomAttribute(std::size_t index) const { return m_CustomAttribute[index]; }
     CustomAttributeType& assign_CustomAttribute(std::size_t index, const CustomAttributeType& value);
     lmx::elmx_error append_CustomAttribute();
     lmx::elmx_error insert_CustomAttribute(std::size_t index);
@@ -439,20 +439,20 @@ public:
     bool is_occurs_ok() const;
 
     /// Provenance of the document.
-    const Header& get_Header() const { return m_Header; }
     Header& get_Header() { m_isset_Header = true; return m_Header; }
+    const Header& get_Header() const { return m_Header; }
     Header& assign_Header(const Header& value);
 
     /// Who owns the document.
-    const OwnerType& get_Owner() const { return m_Owner; }
     OwnerType& get_Owner() { m_isset_Owner = true; return m_Owner; }
+    const OwnerType& get_Owner() const { return m_Owner; }
     OwnerType& assign_Owner(const OwnerType& value);
     bool isset_Owner() const { return m_isset_Owner; }
     void unset_Owner() { m_isset_Owner = false; }
 
     /// Version of the document.
-    const Version& get_Version() const { return m_Version; }
     Version& get_Version() { m_isset_Version = true; return m_Version; }
+    const Version& get_Version() const { return m_Version; }
     Version& assign_Version(const Version& value);
     bool isset_Version() const { return m_isset_Version; }
     void unset_Version() { m_isset_Version = false; }
@@ -492,8 +492,6 @@ public:
     Vyr(const std::string& text, lmx::elmx_error* error);
     virtual ~Vyr();
     Vyr& operator=(const Vyr& other);
-    lmx::elmx_error marshal(lmx::c_xml_writer& writer, const char* name) const;
-    lmx::elmx_error unmarshal(lmx::c_xml_reader& reader, const std::string& name);
     static const lmx::s_ns_map* ns_map();
     lmx::elmx_error unmarshal(const char* file_name);
     lmx::elmx_error unmarshal(const char* data, std::size_t size);
@@ -502,20 +500,22 @@ public:
     lmx::elmx_error marshal(const char* file_name) const;
     lmx::elmx_error marshal(std::string* text) const;
     lmx::elmx_error marshal(std::ostream& stream) const;
+    lmx::elmx_error marshal(lmx::c_xml_writer& writer, const char* name) const;
+    lmx::elmx_error unmarshal(lmx::c_xml_reader& reader, const std::string& name);
     static const lmx::s_document k_document;
     void swap(Vyr& other);
     void reset();
     bool is_occurs_ok() const;
 
     /// Where the document comes from; the only part that every document has.
-    const Preamble& get_Preamble() const { return m_Preamble; }
     Preamble& get_Preamble() { m_isset_Preamble = true; return m_Preamble; }
+    const Preamble& get_Preamble() const { return m_Preamble; }
     Preamble& assign_Preamble(const Preamble& value);
 
     /// A loose colour that belongs to no palette.
     std::size_t size_Color() const { return m_Color.size(); }
-    const ColorType& get_Color(std::size_t index) const { return m_Color[index]; }
     ColorType& get_Color(std::size_t index);
+    const ColorType& get_Color(std::size_t index) const { return m_Color[index]; }
     ColorType& assign_Color(std::size_t index, const ColorType& value);
     lmx::elmx_error append_Color();
     lmx::elmx_error insert_Color(std::size_t index);
@@ -525,8 +525,8 @@ public:
 
     /// A palette of colour sets.
     std::size_t size_Palette() const { return m_Palette.size(); }
-    const PaletteType& get_Palette(std::size_t index) const { return m_Palette[index]; }
     PaletteType& get_Palette(std::size_t index);
+    const PaletteType& get_Palette(std::size_t index) const { return m_Palette[index]; }
     PaletteType& assign_Palette(std::size_t index, const PaletteType& value);
     lmx::elmx_error append_Palette();
     lmx::elmx_error insert_Palette(std::size_t index);
@@ -536,8 +536,8 @@ public:
 
     /// A comparison of measurements with a standard.
     std::size_t size_ColorQualityControl() const { return m_ColorQualityControl.size(); }
-    const ColorQualityControlType& get_ColorQualityControl(std::size_t index) const { return m_ColorQualityControl[index]; }
     ColorQualityControlType& get_ColorQualityControl(std::size_t index);
+    const ColorQualityControlType& get_ColorQualityControl(std::size_t index) const { return m_ColorQualityControl[index]; }
     ColorQualityControlType& assign_ColorQualityControl(std::size_t index, const ColorQualityControlType& value);
     lmx::elmx_error append_ColorQualityControl();
     lmx::elmx_error insert_ColorQualityControl(std::size_t index);
@@ -737,8 +737,8 @@ public:
     lmx::elmx_error set_Name(const std::u16string& value);
 
     /// Value of the attribute.
-    const CustomAttributeType_ValueChoice& get_ValueChoice() const { return m_ValueChoice; }
     CustomAttributeType_ValueChoice& get_ValueChoice() { m_isset_ValueChoice = true; return m_ValueChoice; }
+    const CustomAttributeType_ValueChoice& get_ValueChoice() const { return m_ValueChoice; }
     CustomAttributeType_ValueChoice& assign_ValueChoice(const CustomAttributeType_ValueChoice& value);
 
     static const lmx::s_class k_class;
@@ -834,8 +834,8 @@ public:
     void unset_UniqueID() { m_isset_UniqueID = false; }
 
     /// Category of the tag; always written, if need be as an empty element.
-    const TagCategory& get_Category() const { return m_Category; }
     TagCategory& get_Category() { m_isset_Category = true; return m_Category; }
+    const TagCategory& get_Category() const { return m_Category; }
     TagCategory& assign_Category(const TagCategory& value);
 
     static const lmx::s_class k_class;
@@ -924,13 +924,13 @@ public:
     void unset_UniqueID() { m_isset_UniqueID = false; }
 
     /// The tag that is valued.
-    const Tag& get_Tag() const { return m_Tag; }
     Tag& get_Tag() { m_isset_Tag = true; return m_Tag; }
+    const Tag& get_Tag() const { return m_Tag; }
     Tag& assign_Tag(const Tag& value);
 
     /// A text or a number, as the tag asks.
-    const anon_TextValue& get_anon_TextValue() const { return m_anon_TextValue; }
     anon_TextValue& get_anon_TextValue() { m_isset_anon_TextValue = true; return m_anon_TextValue; }
+    const anon_TextValue& get_anon_TextValue() const { return m_anon_TextValue; }
     anon_TextValue& assign_anon_TextValue(const anon_TextValue& value);
 
     static const lmx::s_class k_class;

@@ -37,43 +37,43 @@ public:
     bool is_occurs_ok() const;
 
     /// Default for reflective values without fixed conditions.
-    const ColorSpaceSpecificationSpectrumGeneric& get_ColorSpaceSpecificationSpectrumGeneric() const { return m_ColorSpaceSpecificationSpectrumGeneric; }
     ColorSpaceSpecificationSpectrumGeneric& get_ColorSpaceSpecificationSpectrumGeneric() { m_isset_ColorSpaceSpecificationSpectrumGeneric = true; return m_ColorSpaceSpecificationSpectrumGeneric; }
+    const ColorSpaceSpecificationSpectrumGeneric& get_ColorSpaceSpecificationSpectrumGeneric() const { return m_ColorSpaceSpecificationSpectrumGeneric; }
     ColorSpaceSpecificationSpectrumGeneric& assign_ColorSpaceSpecificationSpectrumGeneric(const ColorSpaceSpecificationSpectrumGeneric& value);
     bool isset_ColorSpaceSpecificationSpectrumGeneric() const { return m_isset_ColorSpaceSpecificationSpectrumGeneric; }
     void unset_ColorSpaceSpecificationSpectrumGeneric() { m_isset_ColorSpaceSpecificationSpectrumGeneric = false; }
 
     /// Default for reflectance spectra.
-    const ColorSpaceSpecificationSpectrumSpectral& get_ColorSpaceSpecificationSpectrumSpectral() const { return m_ColorSpaceSpecificationSpectrumSpectral; }
     ColorSpaceSpecificationSpectrumSpectral& get_ColorSpaceSpecificationSpectrumSpectral() { m_isset_ColorSpaceSpecificationSpectrumSpectral = true; return m_ColorSpaceSpecificationSpectrumSpectral; }
+    const ColorSpaceSpecificationSpectrumSpectral& get_ColorSpaceSpecificationSpectrumSpectral() const { return m_ColorSpaceSpecificationSpectrumSpectral; }
     ColorSpaceSpecificationSpectrumSpectral& assign_ColorSpaceSpecificationSpectrumSpectral(const ColorSpaceSpecificationSpectrumSpectral& value);
     bool isset_ColorSpaceSpecificationSpectrumSpectral() const { return m_isset_ColorSpaceSpecificationSpectrumSpectral; }
     void unset_ColorSpaceSpecificationSpectrumSpectral() { m_isset_ColorSpaceSpecificationSpectrumSpectral = false; }
 
     /// Default for reflective tristimulus values.
-    const ColorSpaceSpecificationSpectrumTristimulus& get_ColorSpaceSpecificationSpectrumTristimulus() const { return m_ColorSpaceSpecificationSpectrumTristimulus; }
     ColorSpaceSpecificationSpectrumTristimulus& get_ColorSpaceSpecificationSpectrumTristimulus() { m_isset_ColorSpaceSpecificationSpectrumTristimulus = true; return m_ColorSpaceSpecificationSpectrumTristimulus; }
+    const ColorSpaceSpecificationSpectrumTristimulus& get_ColorSpaceSpecificationSpectrumTristimulus() const { return m_ColorSpaceSpecificationSpectrumTristimulus; }
     ColorSpaceSpecificationSpectrumTristimulus& assign_ColorSpaceSpecificationSpectrumTristimulus(const ColorSpaceSpecificationSpectrumTristimulus& value);
     bool isset_ColorSpaceSpecificationSpectrumTristimulus() const { return m_isset_ColorSpaceSpecificationSpectrumTristimulus; }
     void unset_ColorSpaceSpecificationSpectrumTristimulus() { m_isset_ColorSpaceSpecificationSpectrumTristimulus = false; }
 
     /// Default for emissive values without fixed conditions.
-    const ColorSpaceSpecificationEmissiveGeneric& get_ColorSpaceSpecificationEmissiveGeneric() const { return m_ColorSpaceSpecificationEmissiveGeneric; }
     ColorSpaceSpecificationEmissiveGeneric& get_ColorSpaceSpecificationEmissiveGeneric() { m_isset_ColorSpaceSpecificationEmissiveGeneric = true; return m_ColorSpaceSpecificationEmissiveGeneric; }
+    const ColorSpaceSpecificationEmissiveGeneric& get_ColorSpaceSpecificationEmissiveGeneric() const { return m_ColorSpaceSpecificationEmissiveGeneric; }
     ColorSpaceSpecificationEmissiveGeneric& assign_ColorSpaceSpecificationEmissiveGeneric(const ColorSpaceSpecificationEmissiveGeneric& value);
     bool isset_ColorSpaceSpecificationEmissiveGeneric() const { return m_isset_ColorSpaceSpecificationEmissiveGeneric; }
     void unset_ColorSpaceSpecificationEmissiveGeneric() { m_isset_ColorSpaceSpecificationEmissiveGeneric = false; }
 
     /// Default for emission spectra.
-    const ColorSpaceSpecificationEmissiveSpectral& get_ColorSpaceSpecificationEmissiveSpectral() const { return m_ColorSpaceSpecificationEmissiveSpectral; }
     ColorSpaceSpecificationEmissiveSpectral& get_ColorSpaceSpecificationEmissiveSpectral() { m_isset_ColorSpaceSpecificationEmissiveSpectral = true; return m_ColorSpaceSpecificationEmissiveSpectral; }
+    const ColorSpaceSpecificationEmissiveSpectral& get_ColorSpaceSpecificationEmissiveSpectral() const { return m_ColorSpaceSpecificationEmissiveSpectral; }
     ColorSpaceSpecificationEmissiveSpectral& assign_ColorSpaceSpecificationEmissiveSpectral(const ColorSpaceSpecificationEmissiveSpectral& value);
     bool isset_ColorSpaceSpecificationEmissiveSpectral() const { return m_isset_ColorSpaceSpecificationEmissiveSpectral; }
     void unset_ColorSpaceSpecificationEmissiveSpectral() { m_isset_ColorSpaceSpecificationEmissiveSpectral = false; }
 
     /// Default for emissive tristimulus values.
-    const ColorSpaceSpecificationEmissiveTristimulus& get_ColorSpaceSpecificationEmissiveTristimulus() const { return m_ColorSpaceSpecificationEmissiveTristimulus; }
     ColorSpaceSpecificationEmissiveTristimulus& get_ColorSpaceSpecificationEmissiveTristimulus() { m_isset_ColorSpaceSpecificationEmissiveTristimulus = true; return m_ColorSpaceSpecificationEmissiveTristimulus; }
+    const ColorSpaceSpecificationEmissiveTristimulus& get_ColorSpaceSpecificationEmissiveTristimulus() const { return m_ColorSpaceSpecificationEmissiveTristimulus; }
     ColorSpaceSpecificationEmissiveTristimulus& assign_ColorSpaceSpecificationEmissiveTristimulus(const ColorSpaceSpecificationEmissiveTristimulus& value);
     bool isset_ColorSpaceSpecificationEmissiveTristimulus() const { return m_isset_ColorSpaceSpecificationEmissiveTristimulus; }
     void unset_ColorSpaceSpecificationEmissiveTristimulus() { m_isset_ColorSpaceSpecificationEmissiveTristimulus = false; }
@@ -154,8 +154,8 @@ public:
 
     /// A named value of the user's own.
     std::size_t size_CustomAttribute() const { return m_CustomAttribute.size(); }
-    const CustomAttributeType& get_CustomAttribute(std::size_t index) const { return m_CustomAttribute[index]; }
     CustomAttributeType& get_CustomAttribute(std::size_t index);
+    const CustomAttributeType& get_CustomAttribute(std::size_t index) const { return m_CustomAttribute[index]; }
     CustomAttributeType& assign_CustomAttribute(std::size_t index, const CustomAttributeType& value);
     lmx::elmx_error append_CustomAttribute();
     lmx::elmx_error insert_CustomAttribute(std::size_t index);
@@ -173,8 +173,8 @@ public:
     void clear_ChangeHistory();
 
     /// Who owns the palette.
-    const OwnerType& get_Owner() const { return m_Owner; }
     OwnerType& get_Owner() { m_isset_Owner = true; return m_Owner; }
+    const OwnerType& get_Owner() const { return m_Owner; }
     OwnerType& assign_Owner(const OwnerType& value);
     bool isset_Owner() const { return m_isset_Owner; }
     void unset_Owner() { m_isset_Owner = false; }
@@ -189,16 +189,16 @@ public:
     void clear_SemanticAssociation();
 
     /// Default measuring conditions for the colours below.
-    const CollectionColorSpaceSpecificationType& get_CollectionColorSpaceSpecification() const { return m_CollectionColorSpaceSpecification; }
     CollectionColorSpaceSpecificationType& get_CollectionColorSpaceSpecification() { m_isset_CollectionColorSpaceSpecification = true; return m_CollectionColorSpaceSpecification; }
+    const CollectionColorSpaceSpecificationType& get_CollectionColorSpaceSpecification() const { return m_CollectionColorSpaceSpecification; }
     CollectionColorSpaceSpecificationType& assign_CollectionColorSpaceSpecification(const CollectionColorSpaceSpecificationType& value);
     bool isset_CollectionColorSpaceSpecification() const { return m_isset_CollectionColorSpaceSpecification; }
     void unset_CollectionColorSpaceSpecification() { m_isset_CollectionColorSpaceSpecification = false; }
 
     /// A colour set of the palette.
     std::size_t size_ColorSet() const { return m_ColorSet.size(); }
-    const ColorSetType& get_ColorSet(std::size_t index) const { return m_ColorSet[index]; }
     ColorSetType& get_ColorSet(std::size_t index);
+    const ColorSetType& get_ColorSet(std::size_t index) const { return m_ColorSet[index]; }
     ColorSetType& assign_ColorSet(std::size_t index, const ColorSetType& value);
     lmx::elmx_error append_ColorSet();
     lmx::elmx_error insert_ColorSet(std::size_t index);
@@ -287,8 +287,8 @@ public:
 
     /// A named value of the user's own.
     std::size_t size_CustomAttribute() const { return m_CustomAttribute.size(); }
-    const CustomAttributeType& get_CustomAttribute(std::size_t index) const { return m_CustomAttribute[index]; }
     CustomAttributeType& get_CustomAttribute(std::size_t index);
+    const CustomAttributeType& get_CustomAttribute(std::size_t index) const { return m_CustomAttribute[index]; }
     CustomAttributeType& assign_CustomAttribute(std::size_t index, const CustomAttributeType& value);
     lmx::elmx_error append_CustomAttribute();
     lmx::elmx_error insert_CustomAttribute(std::size_t index);
@@ -306,8 +306,8 @@ public:
     void clear_ChangeHistory();
 
     /// Who owns the colour set.
-    const OwnerType& get_Owner() const { return m_Owner; }
     OwnerType& get_Owner() { m_isset_Owner = true; return m_Owner; }
+    const OwnerType& get_Owner() const { return m_Owner; }
     OwnerType& assign_Owner(const OwnerType& value);
     bool isset_Owner() const { return m_isset_Owner; }
     void unset_Owner() { m_isset_Owner = false; }
@@ -322,16 +322,16 @@ public:
     void clear_SemanticAssociation();
 
     /// Default measuring conditions for the colours below.
-    const CollectionColorSpaceSpecificationType& get_CollectionColorSpaceSpecification() const { return m_CollectionColorSpaceSpecification; }
     CollectionColorSpaceSpecificationType& get_CollectionColorSpaceSpecification() { m_isset_CollectionColorSpaceSpecification = true; return m_CollectionColorSpaceSpecification; }
+    const CollectionColorSpaceSpecificationType& get_CollectionColorSpaceSpecification() const { return m_CollectionColorSpaceSpecification; }
     CollectionColorSpaceSpecificationType& assign_CollectionColorSpaceSpecification(const CollectionColorSpaceSpecificationType& value);
     bool isset_CollectionColorSpaceSpecification() const { return m_isset_CollectionColorSpaceSpecification; }
     void unset_CollectionColorSpaceSpecification() { m_isset_CollectionColorSpaceSpecification = false; }
 
     /// A colour of the set.
     std::size_t size_Color() const { return m_Color.size(); }
-    const ColorType& get_Color(std::size_t index) const { return m_Color[index]; }
     ColorType& get_Color(std::size_t index);
+    const ColorType& get_Color(std::size_t index) const { return m_Color[index]; }
     ColorType& assign_Color(std::size_t index, const ColorType& value);
     lmx::elmx_error append_Color();
     lmx::elmx_error insert_Color(std::size_t index);
@@ -340,8 +340,8 @@ public:
     void clear_Color();
 
     /// What the colours of the set are printed on or coated onto.
-    const sg_Substrate& get_Substrate() const { return m_Substrate; }
     sg_Substrate& get_Substrate() { m_isset_Substrate = true; return m_Substrate; }
+    const sg_Substrate& get_Substrate() const { return m_Substrate; }
     sg_Substrate& assign_Substrate(const sg_Substrate& value);
     bool isset_Substrate() const { return m_isset_Substrate; }
     void unset_Substrate() { m_isset_Substrate = false; }
@@ -427,8 +427,8 @@ public:
 
     /// A named value of the user's own.
     std::size_t size_CustomAttribute() const { return m_CustomAttribute.size(); }
-    const CustomAttributeType& get_CustomAttribute(std::size_t index) const { return m_CustomAttribute[index]; }
     CustomAttributeType& get_CustomAttribute(std::size_t index);
+    const CustomAttributeType& get_CustomAttribute(std::size_t index) const { return m_CustomAttribute[index]; }
     CustomAttributeType& assign_CustomAttribute(std::size_t index, const CustomAttributeType& value);
     lmx::elmx_error append_CustomAttribute();
     lmx::elmx_error insert_CustomAttribute(std::size_t index);
@@ -446,8 +446,8 @@ public:
     void clear_ChangeHistory();
 
     /// Who owns the colour.
-    const OwnerType& get_Owner() const { return m_Owner; }
     OwnerType& get_Owner() { m_isset_Owner = true; return m_Owner; }
+    const OwnerType& get_Owner() const { return m_Owner; }
     OwnerType& assign_Owner(const OwnerType& value);
     bool isset_Owner() const { return m_isset_Owner; }
     void unset_Owner() { m_isset_Owner = false; }
@@ -463,8 +463,8 @@ public:
 
     /// The colour's value in one colour space; the element's name says which.
     std::size_t size_ColorSpace() const { return m_ColorSpace.size(); }
-    const sg_ColorSpace& get_ColorSpace(std::size_t index) const { return m_ColorSpace[index]; }
     sg_ColorSpace& get_ColorSpace(std::size_t index);
+    const sg_ColorSpace& get_ColorSpace(std::size_t index) const { return m_ColorSpace[index]; }
     sg_ColorSpace& assign_ColorSpace(std::size_t index, const sg_ColorSpace& value);
     lmx::elmx_error append_ColorSpace();
     lmx::elmx_error insert_ColorSpace(std::size_t index);
@@ -473,16 +473,16 @@ public:
     void clear_ColorSpace();
 
     /// What the colour is printed on, coated onto or measured on.
-    const sg_Substrate& get_Substrate() const { return m_Substrate; }
     sg_Substrate& get_Substrate() { m_isset_Substrate = true; return m_Substrate; }
+    const sg_Substrate& get_Substrate() const { return m_Substrate; }
     sg_Substrate& assign_Substrate(const sg_Substrate& value);
     bool isset_Substrate() const { return m_isset_Substrate; }
     void unset_Substrate() { m_isset_Substrate = false; }
 
     /// Value of the colour under one tag.
     std::size_t size_TagValues() const { return m_TagValues.size(); }
-    const TagValue& get_TagValues(std::size_t index) const { return m_TagValues[index]; }
     TagValue& get_TagValues(std::size_t index);
+    const TagValue& get_TagValues(std::size_t index) const { return m_TagValues[index]; }
     TagValue& assign_TagValues(std::size_t index, const TagValue& value);
     lmx::elmx_error append_TagValues();
     lmx::elmx_error insert_TagValues(std::size_t index);
@@ -541,8 +541,6 @@ public:
     CollectionColorSpaceSpecification(const char* file_name, lmx::elmx_error* error);
     CollectionColorSpaceSpecification(const char* data, std::size_t size, lmx::elmx_error* error);
     CollectionColorSpaceSpecification(const std::string& text, lmx::elmx_error* error);
-    lmx::elmx_error marshal(lmx::c_xml_writer& writer, const char* name) const;
-    lmx::elmx_error unmarshal(lmx::c_xml_reader& reader, const std::string& name);
     static const lmx::s_ns_map* ns_map();
     lmx::elmx_error unmarshal(const char* file_name);
     lmx::elmx_error unmarshal(const char* data, std::size_t size);
@@ -551,6 +549,8 @@ public:
     lmx::elmx_error marshal(const char* file_name) const;
     lmx::elmx_error marshal(std::string* text) const;
     lmx::elmx_error marshal(std::ostream& stream) const;
+    lmx::elmx_error marshal(lmx::c_xml_writer& writer, const char* name) const;
+    lmx::elmx_error unmarshal(lmx::c_xml_reader& reader, const std::string& name);
     static const lmx::s_document k_document;
 };
 

@@ -40,8 +40,8 @@ public:
 
     /// A named value of the user's own.
     std::size_t size_CustomAttribute() const { return m_CustomAttribute.size(); }
-    const CustomAttributeType& get_CustomAttribute(std::size_t index) const { return m_CustomAttribute[index]; }
     CustomAttributeType& get_CustomAttribute(std::size_t index);
+    const CustomAttributeType& get_CustomAttribute(std::size_t index) const { return m_CustomAttribute[index]; }
     CustomAttributeType& assign_CustomAttribute(std::size_t index, const CustomAttributeType& value);
     lmx::elmx_error append_CustomAttribute();
     lmx::elmx_error insert_CustomAttribute(std::size_t index);
@@ -103,8 +103,8 @@ public:
 
     /// A named value of the user's own.
     std::size_t size_CustomAttribute() const { return m_CustomAttribute.size(); }
-    const CustomAttributeType& get_CustomAttribute(std::size_t index) const { return m_CustomAttribute[index]; }
     CustomAttributeType& get_CustomAttribute(std::size_t index);
+    const CustomAttributeType& get_CustomAttribute(std::size_t index) const { return m_CustomAttribute[index]; }
     CustomAttributeType& assign_CustomAttribute(std::size_t index, const CustomAttributeType& value);
     lmx::elmx_error append_CustomAttribute();
     lmx::elmx_error insert_CustomAttribute(std::size_t index);
@@ -113,13 +113,13 @@ public:
     void clear_CustomAttribute();
 
     /// The function whose result is limited.
-    const sg_Function& get_Function() const { return m_Function; }
     sg_Function& get_Function() { m_isset_Function = true; return m_Function; }
+    const sg_Function& get_Function() const { return m_Function; }
     sg_Function& assign_Function(const sg_Function& value);
 
     /// Limits of the result.
-    const LimitsType& get_Limits() const { return m_Limits; }
     LimitsType& get_Limits() { m_isset_Limits = true; return m_Limits; }
+    const LimitsType& get_Limits() const { return m_Limits; }
     LimitsType& assign_Limits(const LimitsType& value);
     bool isset_Limits() const { return m_isset_Limits; }
     void unset_Limits() { m_isset_Limits = false; }
@@ -175,8 +175,8 @@ public:
     void unset_Global() { m_isset_Global = false; }
 
     /// Measuring geometry that the tolerance holds for.
-    const GeometryChoiceType& get_Geometry() const { return m_Geometry; }
     GeometryChoiceType& get_Geometry() { m_isset_Geometry = true; return m_Geometry; }
+    const GeometryChoiceType& get_Geometry() const { return m_Geometry; }
     GeometryChoiceType& assign_Geometry(const GeometryChoiceType& value);
     bool isset_Geometry() const { return m_isset_Geometry; }
     void unset_Geometry() { m_isset_Geometry = false; }
@@ -290,8 +290,8 @@ public:
 
     /// A named value of the user's own.
     std::size_t size_CustomAttribute() const { return m_CustomAttribute.size(); }
-    const CustomAttributeType& get_CustomAttribute(std::size_t index) const { return m_CustomAttribute[index]; }
     CustomAttributeType& get_CustomAttribute(std::size_t index);
+    const CustomAttributeType& get_CustomAttribute(std::size_t index) const { return m_CustomAttribute[index]; }
     CustomAttributeType& assign_CustomAttribute(std::size_t index, const CustomAttributeType& value);
     lmx::elmx_error append_CustomAttribute();
     lmx::elmx_error insert_CustomAttribute(std::size_t index);
@@ -306,15 +306,15 @@ public:
     void unset_Coating() { m_isset_Coating = false; }
 
     /// How the sample was made.
-    const Process& get_Process() const { return m_Process; }
     Process& get_Process() { m_isset_Process = true; return m_Process; }
+    const Process& get_Process() const { return m_Process; }
     Process& assign_Process(const Process& value);
     bool isset_Process() const { return m_isset_Process; }
     void unset_Process() { m_isset_Process = false; }
 
     /// The sample: a spot or a target.
-    const sg_Sample& get_Sample() const { return m_Sample; }
     sg_Sample& get_Sample() { m_isset_Sample = true; return m_Sample; }
+    const sg_Sample& get_Sample() const { return m_Sample; }
     sg_Sample& assign_Sample(const sg_Sample& value);
 
     static const lmx::s_class k_class;
@@ -382,8 +382,8 @@ public:
 
     /// A named value of the user's own.
     std::size_t size_CustomAttribute() const { return m_CustomAttribute.size(); }
-    const CustomAttributeType& get_CustomAttribute(std::size_t index) const { return m_CustomAttribute[index]; }
     CustomAttributeType& get_CustomAttribute(std::size_t index);
+    const CustomAttributeType& get_CustomAttribute(std::size_t index) const { return m_CustomAttribute[index]; }
     CustomAttributeType& assign_CustomAttribute(std::size_t index, const CustomAttributeType& value);
     lmx::elmx_error append_CustomAttribute();
     lmx::elmx_error insert_CustomAttribute(std::size_t index);
@@ -402,8 +402,8 @@ public:
 
     /// A standard with what was measured against it.
     std::size_t size_StandardAndMeasurement() const { return m_StandardAndMeasurement.size(); }
-    const StandardAndMeasurementType& get_StandardAndMeasurement(std::size_t index) const { return m_StandardAndMeasurement[index]; }
     StandardAndMeasurementType& get_StandardAndMeasurement(std::size_t index);
+    const StandardAndMeasurementType& get_StandardAndMeasurement(std::size_t index) const { return m_StandardAndMeasurement[index]; }
     StandardAndMeasurementType& assign_StandardAndMeasurement(std::size_t index, const StandardAndMeasurementType& value);
     lmx::elmx_error append_StandardAndMeasurement();
     lmx::elmx_error insert_StandardAndMeasurement(std::size_t index);
@@ -412,16 +412,16 @@ public:
     void clear_StandardAndMeasurement();
 
     /// The physical sample that was measured.
-    const PhysicalSampleType& get_PhysicalSample() const { return m_PhysicalSample; }
     PhysicalSampleType& get_PhysicalSample() { m_isset_PhysicalSample = true; return m_PhysicalSample; }
+    const PhysicalSampleType& get_PhysicalSample() const { return m_PhysicalSample; }
     PhysicalSampleType& assign_PhysicalSample(const PhysicalSampleType& value);
     bool isset_PhysicalSample() const { return m_isset_PhysicalSample; }
     void unset_PhysicalSample() { m_isset_PhysicalSample = false; }
 
     /// A tolerance for all comparisons of the record.
     std::size_t size_Tolerance() const { return m_Tolerance.size(); }
-    const ToleranceType& get_Tolerance(std::size_t index) const { return m_Tolerance[index]; }
     ToleranceType& get_Tolerance(std::size_t index);
+    const ToleranceType& get_Tolerance(std::size_t index) const { return m_Tolerance[index]; }
     ToleranceType& assign_Tolerance(std::size_t index, const ToleranceType& value);
     lmx::elmx_error append_Tolerance();
     lmx::elmx_error insert_Tolerance(std::size_t index);
@@ -478,8 +478,6 @@ public:
     Measurement(const std::string& text, lmx::elmx_error* error);
     virtual ~Measurement();
     Measurement& operator=(const Measurement& other);
-    lmx::elmx_error marshal(lmx::c_xml_writer& writer, const char* name) const;
-    lmx::elmx_error unmarshal(lmx::c_xml_reader& reader, const std::string& name);
     static const lmx::s_ns_map* ns_map();
     lmx::elmx_error unmarshal(const char* file_name);
     lmx::elmx_error unmarshal(const char* data, std::size_t size);
@@ -488,6 +486,8 @@ public:
     lmx::elmx_error marshal(const char* file_name) const;
     lmx::elmx_error marshal(std::string* text) const;
     lmx::elmx_error marshal(std::ostream& stream) const;
+    lmx::elmx_error marshal(lmx::c_xml_writer& writer, const char* name) const;
+    lmx::elmx_error unmarshal(lmx::c_xml_reader& reader, const std::string& name);
     static const lmx::s_document k_document;
     void swap(Measurement& other);
     void reset();
@@ -495,8 +495,8 @@ public:
 
     /// A named value of the user's own.
     std::size_t size_CustomAttribute() const { return m_CustomAttribute.size(); }
-    const CustomAttributeType& get_CustomAttribute(std::size_t index) const { return m_CustomAttribute[index]; }
     CustomAttributeType& get_CustomAttribute(std::size_t index);
+    const CustomAttributeType& get_CustomAttribute(std::size_t index) const { return m_CustomAttribute[index]; }
     CustomAttributeType& assign_CustomAttribute(std::size_t index, const CustomAttributeType& value);
     lmx::elmx_error append_CustomAttribute();
     lmx::elmx_error insert_CustomAttribute(std::size_t index);
@@ -505,19 +505,19 @@ public:
     void clear_CustomAttribute();
 
     /// Instrument of the measurement.
-    const DeviceType& get_Device() const { return m_Device; }
     DeviceType& get_Device() { m_isset_Device = true; return m_Device; }
+    const DeviceType& get_Device() const { return m_Device; }
     DeviceType& assign_Device(const DeviceType& value);
 
     /// The colour measured.
-    const ColorType& get_Color() const { return m_Color; }
     ColorType& get_Color() { m_isset_Color = true; return m_Color; }
+    const ColorType& get_Color() const { return m_Color; }
     ColorType& assign_Color(const ColorType& value);
 
     /// A function of this measurement and its standard.
     std::size_t size_Function() const { return m_Function.size(); }
-    const sg_Function& get_Function(std::size_t index) const { return m_Function[index]; }
     sg_Function& get_Function(std::size_t index);
+    const sg_Function& get_Function(std::size_t index) const { return m_Function[index]; }
     sg_Function& assign_Function(std::size_t index, const sg_Function& value);
     lmx::elmx_error append_Function();
     lmx::elmx_error insert_Function(std::size_t index);
@@ -561,8 +561,6 @@ public:
     Standard(const std::string& text, lmx::elmx_error* error);
     virtual ~Standard();
     Standard& operator=(const Standard& other);
-    lmx::elmx_error marshal(lmx::c_xml_writer& writer, const char* name) const;
-    lmx::elmx_error unmarshal(lmx::c_xml_reader& reader, const std::string& name);
     static const lmx::s_ns_map* ns_map();
     lmx::elmx_error unmarshal(const char* file_name);
     lmx::elmx_error unmarshal(const char* data, std::size_t size);
@@ -571,6 +569,8 @@ public:
     lmx::elmx_error marshal(const char* file_name) const;
     lmx::elmx_error marshal(std::string* text) const;
     lmx::elmx_error marshal(std::ostream& stream) const;
+    lmx::elmx_error marshal(lmx::c_xml_writer& writer, const char* name) const;
+    lmx::elmx_error unmarshal(lmx::c_xml_reader& reader, const std::string& name);
     static const lmx::s_document k_document;
     void swap(Standard& other);
     void reset();
@@ -578,8 +578,8 @@ public:
 
     /// A named value of the user's own.
     std::size_t size_CustomAttribute() const { return m_CustomAttribute.size(); }
-    const CustomAttributeType& get_CustomAttribute(std::size_t index) const { return m_CustomAttribute[index]; }
     CustomAttributeType& get_CustomAttribute(std::size_t index);
+    const CustomAttributeType& get_CustomAttribute(std::size_t index) const { return m_CustomAttribute[index]; }
     CustomAttributeType& assign_CustomAttribute(std::size_t index, const CustomAttributeType& value);
     lmx::elmx_error append_CustomAttribute();
     lmx::elmx_error insert_CustomAttribute(std::size_t index);
@@ -588,19 +588,19 @@ public:
     void clear_CustomAttribute();
 
     /// Instrument that measured the standard.
-    const DeviceType& get_Device() const { return m_Device; }
     DeviceType& get_Device() { m_isset_Device = true; return m_Device; }
+    const DeviceType& get_Device() const { return m_Device; }
     DeviceType& assign_Device(const DeviceType& value);
 
     /// The target colour.
-    const ColorType& get_Color() const { return m_Color; }
     ColorType& get_Color() { m_isset_Color = true; return m_Color; }
+    const ColorType& get_Color() const { return m_Color; }
     ColorType& assign_Color(const ColorType& value);
 
     /// A tolerance around the target.
     std::size_t size_Tolerance() const { return m_Tolerance.size(); }
-    const ToleranceType& get_Tolerance(std::size_t index) const { return m_Tolerance[index]; }
     ToleranceType& get_Tolerance(std::size_t index);
+    const ToleranceType& get_Tolerance(std::size_t index) const { return m_Tolerance[index]; }
     ToleranceType& assign_Tolerance(std::size_t index, const ToleranceType& value);
     lmx::elmx_error append_Tolerance();
     lmx::elmx_error insert_Tolerance(std::size_t index);
@@ -653,8 +653,8 @@ public:
 
     /// A named value of the user's own.
     std::size_t size_CustomAttribute() const { return m_CustomAttribute.size(); }
-    const CustomAttributeType& get_CustomAttribute(std::size_t index) const { return m_CustomAttribute[index]; }
     CustomAttributeType& get_CustomAttribute(std::size_t index);
+    const CustomAttributeType& get_CustomAttribute(std::size_t index) const { return m_CustomAttribute[index]; }
     CustomAttributeType& assign_CustomAttribute(std::size_t index, const CustomAttributeType& value);
     lmx::elmx_error append_CustomAttribute();
     lmx::elmx_error insert_CustomAttribute(std::size_t index);
@@ -664,8 +664,8 @@ public:
 
     /// A measurement.
     std::size_t size_Measurement() const { return m_Measurement.size(); }
-    const Measurement& get_Measurement(std::size_t index) const { return m_Measurement[index]; }
     Measurement& get_Measurement(std::size_t index);
+    const Measurement& get_Measurement(std::size_t index) const { return m_Measurement[index]; }
     Measurement& assign_Measurement(std::size_t index, const Measurement& value);
     lmx::elmx_error append_Measurement();
     lmx::elmx_error insert_Measurement(std::size_t index);
@@ -674,8 +674,8 @@ public:
     void clear_Measurement();
 
     /// The standard.
-    const Standard& get_Standard() const { return m_Standard; }
     Standard& get_Standard() { m_isset_Standard = true; return m_Standard; }
+    const Standard& get_Standard() const { return m_Standard; }
     Standard& assign_Standard(const Standard& value);
 
     static const lmx::s_class k_class;

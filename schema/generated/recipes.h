@@ -89,8 +89,8 @@ public:
 
     /// One colorant with its share.
     std::size_t size_ColorantElement() const { return m_ColorantElement.size(); }
-    const ColorantElement& get_ColorantElement(std::size_t index) const { return m_ColorantElement[index]; }
     ColorantElement& get_ColorantElement(std::size_t index);
+    const ColorantElement& get_ColorantElement(std::size_t index) const { return m_ColorantElement[index]; }
     ColorantElement& assign_ColorantElement(std::size_t index, const ColorantElement& value);
     lmx::elmx_error append_ColorantElement();
     lmx::elmx_error insert_ColorantElement(std::size_t index);
@@ -143,8 +143,8 @@ public:
     lmx::elmx_error set_FamilyName(const std::u16string& value);
 
     /// Name of the colour in its three parts.
-    const ColorName& get_ColorName() const { return m_ColorName; }
     ColorName& get_ColorName() { m_isset_ColorName = true; return m_ColorName; }
+    const ColorName& get_ColorName() const { return m_ColorName; }
     ColorName& assign_ColorName(const ColorName& value);
 
     /// Page of the guide that shows the colour.
@@ -158,16 +158,16 @@ public:
     bool setenum_Gamut(std::int32_t number);
 
     /// How the colour is mixed.
-    const Recipe& get_Recipe() const { return m_Recipe; }
     Recipe& get_Recipe() { m_isset_Recipe = true; return m_Recipe; }
+    const Recipe& get_Recipe() const { return m_Recipe; }
     Recipe& assign_Recipe(const Recipe& value);
     bool isset_Recipe() const { return m_isset_Recipe; }
     void unset_Recipe() { m_isset_Recipe = false; }
 
     /// Spectrum of the colour in one finish.
     std::size_t size_ColorAndFinish() const { return m_ColorAndFinish.size(); }
-    const ColorAndFinish& get_ColorAndFinish(std::size_t index) const { return m_ColorAndFinish[index]; }
     ColorAndFinish& get_ColorAndFinish(std::size_t index);
+    const ColorAndFinish& get_ColorAndFinish(std::size_t index) const { return m_ColorAndFinish[index]; }
     ColorAndFinish& assign_ColorAndFinish(std::size_t index, const ColorAndFinish& value);
     lmx::elmx_error append_ColorAndFinish();
     lmx::elmx_error insert_ColorAndFinish(std::size_t index);
@@ -228,8 +228,8 @@ public:
 
     /// A named value of the user's own.
     std::size_t size_CustomAttributes() const { return m_CustomAttributes.size(); }
-    const CustomAttributes& get_CustomAttributes(std::size_t index) const { return m_CustomAttributes[index]; }
     CustomAttributes& get_CustomAttributes(std::size_t index);
+    const CustomAttributes& get_CustomAttributes(std::size_t index) const { return m_CustomAttributes[index]; }
     CustomAttributes& assign_CustomAttributes(std::size_t index, const CustomAttributes& value);
     lmx::elmx_error append_CustomAttributes();
     lmx::elmx_error insert_CustomAttributes(std::size_t index);
@@ -302,8 +302,8 @@ public:
     bool is_occurs_ok() const;
 
     /// The colorant.
-    const Colorant& get_Colorant() const { return m_Colorant; }
     Colorant& get_Colorant() { m_isset_Colorant = true; return m_Colorant; }
+    const Colorant& get_Colorant() const { return m_Colorant; }
     Colorant& assign_Colorant(const Colorant& value);
 
     /// Share of the colorant, 0 or more, in the unit of the recipe.
@@ -345,8 +345,8 @@ public:
     bool is_occurs_ok() const;
 
     /// The named value.
-    const CustomAttributeType& get_CustomAttribute() const { return m_CustomAttribute; }
     CustomAttributeType& get_CustomAttribute() { m_isset_CustomAttribute = true; return m_CustomAttribute; }
+    const CustomAttributeType& get_CustomAttribute() const { return m_CustomAttribute; }
     CustomAttributeType& assign_CustomAttribute(const CustomAttributeType& value);
 
     static const lmx::s_class k_class;
@@ -387,8 +387,8 @@ public:
     bool setenum_Finish(std::int32_t number);
 
     /// Reflectance spectrum in that finish.
-    const ColorSpaceSpectralType& get_ColorSpaceSpectral() const { return m_ColorSpaceSpectral; }
     ColorSpaceSpectralType& get_ColorSpaceSpectral() { m_isset_ColorSpaceSpectral = true; return m_ColorSpaceSpectral; }
+    const ColorSpaceSpectralType& get_ColorSpaceSpectral() const { return m_ColorSpaceSpectral; }
     ColorSpaceSpectralType& assign_ColorSpaceSpectral(const ColorSpaceSpectralType& value);
 
     static const lmx::s_class k_class;
@@ -436,8 +436,8 @@ public:
     void unset_Name() { m_isset_Name = false; }
 
     /// Conditions under which the value holds.
-    const ColorSpaceSpecificationSpectrumGeneric& get_ColorSpaceSpecificationSpectrumGeneric() const { return m_ColorSpaceSpecificationSpectrumGeneric; }
     ColorSpaceSpecificationSpectrumGeneric& get_ColorSpaceSpecificationSpectrumGeneric() { m_isset_ColorSpaceSpecificationSpectrumGeneric = true; return m_ColorSpaceSpecificationSpectrumGeneric; }
+    const ColorSpaceSpecificationSpectrumGeneric& get_ColorSpaceSpecificationSpectrumGeneric() const { return m_ColorSpaceSpecificationSpectrumGeneric; }
     ColorSpaceSpecificationSpectrumGeneric& assign_ColorSpaceSpecificationSpectrumGeneric(const ColorSpaceSpecificationSpectrumGeneric& value);
 
     /// The notation.
@@ -495,8 +495,8 @@ public:
     void unset_Name() { m_isset_Name = false; }
 
     /// Conditions under which the value holds.
-    const ColorSpaceSpecificationSpectrumGeneric& get_ColorSpaceSpecificationSpectrumGeneric() const { return m_ColorSpaceSpecificationSpectrumGeneric; }
     ColorSpaceSpecificationSpectrumGeneric& get_ColorSpaceSpecificationSpectrumGeneric() { m_isset_ColorSpaceSpecificationSpectrumGeneric = true; return m_ColorSpaceSpecificationSpectrumGeneric; }
+    const ColorSpaceSpecificationSpectrumGeneric& get_ColorSpaceSpecificationSpectrumGeneric() const { return m_ColorSpaceSpecificationSpectrumGeneric; }
     ColorSpaceSpecificationSpectrumGeneric& assign_ColorSpaceSpecificationSpectrumGeneric(const ColorSpaceSpecificationSpectrumGeneric& value);
 
     /// Which Munsell collection; not empty.
@@ -552,8 +552,8 @@ public:
 
     /// A named value of the user's own.
     std::size_t size_CustomAttribute() const { return m_CustomAttribute.size(); }
-    const CustomAttributeType& get_CustomAttribute(std::size_t index) const { return m_CustomAttribute[index]; }
     CustomAttributeType& get_CustomAttribute(std::size_t index);
+    const CustomAttributeType& get_CustomAttribute(std::size_t index) const { return m_CustomAttribute[index]; }
     CustomAttributeType& assign_CustomAttribute(std::size_t index, const CustomAttributeType& value);
     lmx::elmx_error append_CustomAttribute();
     lmx::elmx_error insert_CustomAttribute(std::size_t index);
@@ -622,8 +622,8 @@ public:
     bool is_occurs_ok() const;
 
     /// The base.
-    const Base& get_Base() const { return m_Base; }
     Base& get_Base() { m_isset_Base = true; return m_Base; }
+    const Base& get_Base() const { return m_Base; }
     Base& assign_Base(const Base& value);
 
     /// Share of the base, 0 or more, in the unit of the recipe.
@@ -675,14 +675,14 @@ public:
     void unset_Name() { m_isset_Name = false; }
 
     /// Conditions under which the value holds.
-    const ColorSpaceSpecificationSpectrumGeneric& get_ColorSpaceSpecificationSpectrumGeneric() const { return m_ColorSpaceSpecificationSpectrumGeneric; }
     ColorSpaceSpecificationSpectrumGeneric& get_ColorSpaceSpecificationSpectrumGeneric() { m_isset_ColorSpaceSpecificationSpectrumGeneric = true; return m_ColorSpaceSpecificationSpectrumGeneric; }
+    const ColorSpaceSpecificationSpectrumGeneric& get_ColorSpaceSpecificationSpectrumGeneric() const { return m_ColorSpaceSpecificationSpectrumGeneric; }
     ColorSpaceSpecificationSpectrumGeneric& assign_ColorSpaceSpecificationSpectrumGeneric(const ColorSpaceSpecificationSpectrumGeneric& value);
 
     /// One colorant with its share.
     std::size_t size_ColorantElement() const { return m_ColorantElement.size(); }
-    const ColorantElementType& get_ColorantElement(std::size_t index) const { return m_ColorantElement[index]; }
     ColorantElementType& get_ColorantElement(std::size_t index);
+    const ColorantElementType& get_ColorantElement(std::size_t index) const { return m_ColorantElement[index]; }
     ColorantElementType& assign_ColorantElement(std::size_t index, const ColorantElementType& value);
     lmx::elmx_error append_ColorantElement();
     lmx::elmx_error insert_ColorantElement(std::size_t index);
@@ -691,8 +691,8 @@ public:
     void clear_ColorantElement();
 
     /// The base that the colorants are mixed into.
-    const BaseElementType& get_BaseElement() const { return m_BaseElement; }
     BaseElementType& get_BaseElement() { m_isset_BaseElement = true; return m_BaseElement; }
+    const BaseElementType& get_BaseElement() const { return m_BaseElement; }
     BaseElementType& assign_BaseElement(const BaseElementType& value);
     bool isset_BaseElement() const { return m_isset_BaseElement; }
     void unset_BaseElement() { m_isset_BaseElement = false; }
@@ -734,8 +734,6 @@ public:
     ColorSpaceRecipe(const char* file_name, lmx::elmx_error* error);
     ColorSpaceRecipe(const char* data, std::size_t size, lmx::elmx_error* error);
     ColorSpaceRecipe(const std::string& text, lmx::elmx_error* error);
-    lmx::elmx_error marshal(lmx::c_xml_writer& writer, const char* name) const override;
-    lmx::elmx_error unmarshal(lmx::c_xml_reader& reader, const std::string& name) override;
     static const lmx::s_ns_map* ns_map();
     lmx::elmx_error unmarshal(const char* file_name);
     lmx::elmx_error unmarshal(const char* data, std::size_t size);
@@ -744,6 +742,8 @@ public:
     lmx::elmx_error marshal(const char* file_name) const;
     lmx::elmx_error marshal(std::string* text) const;
     lmx::elmx_error marshal(std::ostream& stream) const;
+    lmx::elmx_error marshal(lmx::c_xml_writer& writer, const char* name) const override;
+    lmx::elmx_error unmarshal(lmx::c_xml_reader& reader, const std::string& name) override;
     static const lmx::s_document k_document;
 };
 
@@ -755,8 +755,6 @@ public:
     ColorSpaceTINTORA(const char* file_name, lmx::elmx_error* error);
     ColorSpaceTINTORA(const char* data, std::size_t size, lmx::elmx_error* error);
     ColorSpaceTINTORA(const std::string& text, lmx::elmx_error* error);
-    lmx::elmx_error marshal(lmx::c_xml_writer& writer, const char* name) const override;
-    lmx::elmx_error unmarshal(lmx::c_xml_reader& reader, const std::string& name) override;
     static const lmx::s_ns_map* ns_map();
     lmx::elmx_error unmarshal(const char* file_name);
     lmx::elmx_error unmarshal(const char* data, std::size_t size);
@@ -765,6 +763,8 @@ public:
     lmx::elmx_error marshal(const char* file_name) const;
     lmx::elmx_error marshal(std::string* text) const;
     lmx::elmx_error marshal(std::ostream& stream) const;
+    lmx::elmx_error marshal(lmx::c_xml_writer& writer, const char* name) const override;
+    lmx::elmx_error unmarshal(lmx::c_xml_reader& reader, const std::string& name) override;
     static const lmx::s_document k_document;
 };
 
@@ -776,8 +776,6 @@ public:
     ColorSpaceNCS(const char* file_name, lmx::elmx_error* error);
     ColorSpaceNCS(const char* data, std::size_t size, lmx::elmx_error* error);
     ColorSpaceNCS(const std::string& text, lmx::elmx_error* error);
-    lmx::elmx_error marshal(lmx::c_xml_writer& writer, const char* name) const override;
-    lmx::elmx_error unmarshal(lmx::c_xml_reader& reader, const std::string& name) override;
     static const lmx::s_ns_map* ns_map();
     lmx::elmx_error unmarshal(const char* file_name);
     lmx::elmx_error unmarshal(const char* data, std::size_t size);
@@ -786,6 +784,8 @@ public:
     lmx::elmx_error marshal(const char* file_name) const;
     lmx::elmx_error marshal(std::string* text) const;
     lmx::elmx_error marshal(std::ostream& stream) const;
+    lmx::elmx_error marshal(lmx::c_xml_writer& writer, const char* name) const override;
+    lmx::elmx_error unmarshal(lmx::c_xml_reader& reader, const std::string& name) override;
     static const lmx::s_document k_document;
 };
 
@@ -797,8 +797,6 @@ public:
     ColorSpaceMunsell(const char* file_name, lmx::elmx_error* error);
     ColorSpaceMunsell(const char* data, std::size_t size, lmx::elmx_error* error);
     ColorSpaceMunsell(const std::string& text, lmx::elmx_error* error);
-    lmx::elmx_error marshal(lmx::c_xml_writer& writer, const char* name) const override;
-    lmx::elmx_error unmarshal(lmx::c_xml_reader& reader, const std::string& name) override;
     static const lmx::s_ns_map* ns_map();
     lmx::elmx_error unmarshal(const char* file_name);
     lmx::elmx_error unmarshal(const char* data, std::size_t size);
@@ -807,6 +805,8 @@ public:
     lmx::elmx_error marshal(const char* file_name) const;
     lmx::elmx_error marshal(std::string* text) const;
     lmx::elmx_error marshal(std::ostream& stream) const;
+    lmx::elmx_error marshal(lmx::c_xml_writer& writer, const char* name) const override;
+    lmx::elmx_error unmarshal(lmx::c_xml_reader& reader, const std::string& name) override;
     static const lmx::s_document k_document;
 };
 
@@ -865,8 +865,8 @@ public:
 
     /// A named value of the user's own.
     std::size_t size_CustomAttribute() const { return m_CustomAttribute.size(); }
-    const CustomAttributeType& get_CustomAttribute(std::size_t index) const { return m_CustomAttribute[index]; }
     CustomAttributeType& get_CustomAttribute(std::size_t index);
+    const CustomAttributeType& get_CustomAttribute(std::size_t index) const { return m_CustomAttribute[index]; }
     CustomAttributeType& assign_CustomAttribute(std::size_t index, const CustomAttributeType& value);
     lmx::elmx_error append_CustomAttribute();
     lmx::elmx_error insert_CustomAttribute(std::size_t index);
@@ -887,8 +887,8 @@ public:
     lmx::elmx_error set_PartNumber(const std::u16string& value);
 
     /// Density of the colorant, above 0 and without a stated unit, or nil where it is unknown.
-    const Density& get_Density() const { return m_Density; }
     Density& get_Density() { m_isset_Density = true; return m_Density; }
+    const Density& get_Density() const { return m_Density; }
     Density& assign_Density(const Density& value);
 
     static const lmx::s_class k_class;
@@ -934,8 +934,8 @@ public:
     bool is_occurs_ok() const;
 
     /// The colorant.
-    const ColorantElementType_Colorant& get_Colorant() const { return m_Colorant; }
     ColorantElementType_Colorant& get_Colorant() { m_isset_Colorant = true; return m_Colorant; }
+    const ColorantElementType_Colorant& get_Colorant() const { return m_Colorant; }
     ColorantElementType_Colorant& assign_Colorant(const ColorantElementType_Colorant& value);
 
     /// Share of the colorant in the mixture, 0 to 1.

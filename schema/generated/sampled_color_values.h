@@ -48,14 +48,14 @@ public:
     void unset_Name() { m_isset_Name = false; }
 
     /// Conditions under which the value holds.
-    const ColorSpaceSpecificationSpectrumGeneric& get_ColorSpaceSpecificationSpectrumGeneric() const { return m_ColorSpaceSpecificationSpectrumGeneric; }
     ColorSpaceSpecificationSpectrumGeneric& get_ColorSpaceSpecificationSpectrumGeneric() { m_isset_ColorSpaceSpecificationSpectrumGeneric = true; return m_ColorSpaceSpecificationSpectrumGeneric; }
+    const ColorSpaceSpecificationSpectrumGeneric& get_ColorSpaceSpecificationSpectrumGeneric() const { return m_ColorSpaceSpecificationSpectrumGeneric; }
     ColorSpaceSpecificationSpectrumGeneric& assign_ColorSpaceSpecificationSpectrumGeneric(const ColorSpaceSpecificationSpectrumGeneric& value);
 
     /// Density through one filter.
     std::size_t size_Density() const { return m_Density.size(); }
-    const DensityType& get_Density(std::size_t index) const { return m_Density[index]; }
     DensityType& get_Density(std::size_t index);
+    const DensityType& get_Density(std::size_t index) const { return m_Density[index]; }
     DensityType& assign_Density(std::size_t index, const DensityType& value);
     lmx::elmx_error append_Density();
     lmx::elmx_error insert_Density(std::size_t index);
@@ -113,14 +113,14 @@ public:
     void unset_Name() { m_isset_Name = false; }
 
     /// Conditions under which the value holds.
-    const ColorSpaceSpecificationSpectrumSpectral& get_ColorSpaceSpecificationSpectrumSpectral() const { return m_ColorSpaceSpecificationSpectrumSpectral; }
     ColorSpaceSpecificationSpectrumSpectral& get_ColorSpaceSpecificationSpectrumSpectral() { m_isset_ColorSpaceSpecificationSpectrumSpectral = true; return m_ColorSpaceSpecificationSpectrumSpectral; }
+    const ColorSpaceSpecificationSpectrumSpectral& get_ColorSpaceSpecificationSpectrumSpectral() const { return m_ColorSpaceSpecificationSpectrumSpectral; }
     ColorSpaceSpecificationSpectrumSpectral& assign_ColorSpaceSpecificationSpectrumSpectral(const ColorSpaceSpecificationSpectrumSpectral& value);
 
     /// One sample, in document order.
     std::size_t size_ReflectancePoint() const { return m_ReflectancePoint.size(); }
-    const ReflectancePointType& get_ReflectancePoint(std::size_t index) const { return m_ReflectancePoint[index]; }
     ReflectancePointType& get_ReflectancePoint(std::size_t index);
+    const ReflectancePointType& get_ReflectancePoint(std::size_t index) const { return m_ReflectancePoint[index]; }
     ReflectancePointType& assign_ReflectancePoint(std::size_t index, const ReflectancePointType& value);
     lmx::elmx_error append_ReflectancePoint();
     lmx::elmx_error insert_ReflectancePoint(std::size_t index);
@@ -178,14 +178,14 @@ public:
     void unset_Name() { m_isset_Name = false; }
 
     /// Conditions under which the value holds.
-    const ColorSpaceSpecificationEmissiveSpectral& get_ColorSpaceSpecificationEmissiveSpectral() const { return m_ColorSpaceSpecificationEmissiveSpectral; }
     ColorSpaceSpecificationEmissiveSpectral& get_ColorSpaceSpecificationEmissiveSpectral() { m_isset_ColorSpaceSpecificationEmissiveSpectral = true; return m_ColorSpaceSpecificationEmissiveSpectral; }
+    const ColorSpaceSpecificationEmissiveSpectral& get_ColorSpaceSpecificationEmissiveSpectral() const { return m_ColorSpaceSpecificationEmissiveSpectral; }
     ColorSpaceSpecificationEmissiveSpectral& assign_ColorSpaceSpecificationEmissiveSpectral(const ColorSpaceSpecificationEmissiveSpectral& value);
 
     /// One sample, in document order.
     std::size_t size_EmissiveSpectralPoint() const { return m_EmissiveSpectralPoint.size(); }
-    const EmissiveSpectralPointType& get_EmissiveSpectralPoint(std::size_t index) const { return m_EmissiveSpectralPoint[index]; }
     EmissiveSpectralPointType& get_EmissiveSpectralPoint(std::size_t index);
+    const EmissiveSpectralPointType& get_EmissiveSpectralPoint(std::size_t index) const { return m_EmissiveSpectralPoint[index]; }
     EmissiveSpectralPointType& assign_EmissiveSpectralPoint(std::size_t index, const EmissiveSpectralPointType& value);
     lmx::elmx_error append_EmissiveSpectralPoint();
     lmx::elmx_error insert_EmissiveSpectralPoint(std::size_t index);
@@ -241,14 +241,14 @@ public:
     lmx::elmx_error set_Name(const std::u16string& value);
 
     /// Conditions under which the value holds.
-    const ColorSpaceSpecificationSpectrumGeneric& get_ColorSpaceSpecificationSpectrumGeneric() const { return m_ColorSpaceSpecificationSpectrumGeneric; }
     ColorSpaceSpecificationSpectrumGeneric& get_ColorSpaceSpecificationSpectrumGeneric() { m_isset_ColorSpaceSpecificationSpectrumGeneric = true; return m_ColorSpaceSpecificationSpectrumGeneric; }
+    const ColorSpaceSpecificationSpectrumGeneric& get_ColorSpaceSpecificationSpectrumGeneric() const { return m_ColorSpaceSpecificationSpectrumGeneric; }
     ColorSpaceSpecificationSpectrumGeneric& assign_ColorSpaceSpecificationSpectrumGeneric(const ColorSpaceSpecificationSpectrumGeneric& value);
 
     /// Value on one axis.
     std::size_t size_Axis() const { return m_Axis.size(); }
-    const AxisType& get_Axis(std::size_t index) const { return m_Axis[index]; }
     AxisType& get_Axis(std::size_t index);
+    const AxisType& get_Axis(std::size_t index) const { return m_Axis[index]; }
     AxisType& assign_Axis(std::size_t index, const AxisType& value);
     lmx::elmx_error append_Axis();
     lmx::elmx_error insert_Axis(std::size_t index);
@@ -304,14 +304,14 @@ public:
     lmx::elmx_error set_Name(const std::u16string& value);
 
     /// Conditions under which the value holds.
-    const ColorSpaceSpecificationEmissiveGeneric& get_ColorSpaceSpecificationEmissiveGeneric() const { return m_ColorSpaceSpecificationEmissiveGeneric; }
     ColorSpaceSpecificationEmissiveGeneric& get_ColorSpaceSpecificationEmissiveGeneric() { m_isset_ColorSpaceSpecificationEmissiveGeneric = true; return m_ColorSpaceSpecificationEmissiveGeneric; }
+    const ColorSpaceSpecificationEmissiveGeneric& get_ColorSpaceSpecificationEmissiveGeneric() const { return m_ColorSpaceSpecificationEmissiveGeneric; }
     ColorSpaceSpecificationEmissiveGeneric& assign_ColorSpaceSpecificationEmissiveGeneric(const ColorSpaceSpecificationEmissiveGeneric& value);
 
     /// Value on one axis.
     std::size_t size_Axis() const { return m_Axis.size(); }
-    const AxisType& get_Axis(std::size_t index) const { return m_Axis[index]; }
     AxisType& get_Axis(std::size_t index);
+    const AxisType& get_Axis(std::size_t index) const { return m_Axis[index]; }
     AxisType& assign_Axis(std::size_t index, const AxisType& value);
     lmx::elmx_error append_Axis();
     lmx::elmx_error insert_Axis(std::size_t index);
@@ -353,8 +353,6 @@ public:
     ColorSpaceGeneric(const char* file_name, lmx::elmx_error* error);
     ColorSpaceGeneric(const char* data, std::size_t size, lmx::elmx_error* error);
     ColorSpaceGeneric(const std::string& text, lmx::elmx_error* error);
-    lmx::elmx_error marshal(lmx::c_xml_writer& writer, const char* name) const override;
-    lmx::elmx_error unmarshal(lmx::c_xml_reader& reader, const std::string& name) override;
     static const lmx::s_ns_map* ns_map();
     lmx::elmx_error unmarshal(const char* file_name);
     lmx::elmx_error unmarshal(const char* data, std::size_t size);
@@ -363,6 +361,8 @@ public:
     lmx::elmx_error marshal(const char* file_name) const;
     lmx::elmx_error marshal(std::string* text) const;
     lmx::elmx_error marshal(std::ostream& stream) const;
+    lmx::elmx_error marshal(lmx::c_xml_writer& writer, const char* name) const override;
+    lmx::elmx_error unmarshal(lmx::c_xml_reader& reader, const std::string& name) override;
     static const lmx::s_document k_document;
 };
 
@@ -374,8 +374,6 @@ public:
     ColorSpaceEmissiveGeneric(const char* file_name, lmx::elmx_error* error);
     ColorSpaceEmissiveGeneric(const char* data, std::size_t size, lmx::elmx_error* error);
     ColorSpaceEmissiveGeneric(const std::string& text, lmx::elmx_error* error);
-    lmx::elmx_error marshal(lmx::c_xml_writer& writer, const char* name) const override;
-    lmx::elmx_error unmarshal(lmx::c_xml_reader& reader, const std::string& name) override;
     static const lmx::s_ns_map* ns_map();
     lmx::elmx_error unmarshal(const char* file_name);
     lmx::elmx_error unmarshal(const char* data, std::size_t size);
@@ -384,6 +382,8 @@ public:
     lmx::elmx_error marshal(const char* file_name) const;
     lmx::elmx_error marshal(std::string* text) const;
     lmx::elmx_error marshal(std::ostream& stream) const;
+    lmx::elmx_error marshal(lmx::c_xml_writer& writer, const char* name) const override;
+    lmx::elmx_error unmarshal(lmx::c_xml_reader& reader, const std::string& name) override;
     static const lmx::s_document k_document;
 };
 
@@ -395,8 +395,6 @@ public:
     ColorSpaceDensity(const char* file_name, lmx::elmx_error* error);
     ColorSpaceDensity(const char* data, std::size_t size, lmx::elmx_error* error);
     ColorSpaceDensity(const std::string& text, lmx::elmx_error* error);
-    lmx::elmx_error marshal(lmx::c_xml_writer& writer, const char* name) const override;
-    lmx::elmx_error unmarshal(lmx::c_xml_reader& reader, const std::string& name) override;
     static const lmx::s_ns_map* ns_map();
     lmx::elmx_error unmarshal(const char* file_name);
     lmx::elmx_error unmarshal(const char* data, std::size_t size);
@@ -405,6 +403,8 @@ public:
     lmx::elmx_error marshal(const char* file_name) const;
     lmx::elmx_error marshal(std::string* text) const;
     lmx::elmx_error marshal(std::ostream& stream) const;
+    lmx::elmx_error marshal(lmx::c_xml_writer& writer, const char* name) const override;
+    lmx::elmx_error unmarshal(lmx::c_xml_reader& reader, const std::string& name) override;
     static const lmx::s_document k_document;
 };
 
@@ -416,8 +416,6 @@ public:
     ColorSpaceSpectral(const char* file_name, lmx::elmx_error* error);
     ColorSpaceSpectral(const char* data, std::size_t size, lmx::elmx_error* error);
     ColorSpaceSpectral(const std::string& text, lmx::elmx_error* error);
-    lmx::elmx_error marshal(lmx::c_xml_writer& writer, const char* name) const override;
-    lmx::elmx_error unmarshal(lmx::c_xml_reader& reader, const std::string& name) override;
     static const lmx::s_ns_map* ns_map();
     lmx::elmx_error unmarshal(const char* file_name);
     lmx::elmx_error unmarshal(const char* data, std::size_t size);
@@ -426,6 +424,8 @@ public:
     lmx::elmx_error marshal(const char* file_name) const;
     lmx::elmx_error marshal(std::string* text) const;
     lmx::elmx_error marshal(std::ostream& stream) const;
+    lmx::elmx_error marshal(lmx::c_xml_writer& writer, const char* name) const override;
+    lmx::elmx_error unmarshal(lmx::c_xml_reader& reader, const std::string& name) override;
     static const lmx::s_document k_document;
 };
 
@@ -437,8 +437,6 @@ public:
     ColorSpaceEmissiveSpectral(const char* file_name, lmx::elmx_error* error);
     ColorSpaceEmissiveSpectral(const char* data, std::size_t size, lmx::elmx_error* error);
     ColorSpaceEmissiveSpectral(const std::string& text, lmx::elmx_error* error);
-    lmx::elmx_error marshal(lmx::c_xml_writer& writer, const char* name) const override;
-    lmx::elmx_error unmarshal(lmx::c_xml_reader& reader, const std::string& name) override;
     static const lmx::s_ns_map* ns_map();
     lmx::elmx_error unmarshal(const char* file_name);
     lmx::elmx_error unmarshal(const char* data, std::size_t size);
@@ -447,6 +445,8 @@ public:
     lmx::elmx_error marshal(const char* file_name) const;
     lmx::elmx_error marshal(std::string* text) const;
     lmx::elmx_error marshal(std::ostream& stream) const;
+    lmx::elmx_error marshal(lmx::c_xml_writer& writer, const char* name) const override;
+    lmx::elmx_error unmarshal(lmx::c_xml_reader& reader, const std::string& name) override;
     static const lmx::s_document k_document;
 };
 
@@ -553,8 +553,8 @@ public:
     elmx_chosen getchosen() const { return static_cast<elmx_chosen>(m_choice.chosen); }
 
     /// The coordinate as a number.
-    const FloatingPointValueType& get_AxisFloatingPointValue() const { return *static_cast<const FloatingPointValueType*>(m_choice.object); }
     FloatingPointValueType& get_AxisFloatingPointValue();
+    const FloatingPointValueType& get_AxisFloatingPointValue() const { return *static_cast<const FloatingPointValueType*>(m_choice.object); }
     FloatingPointValueType& assign_AxisFloatingPointValue(const FloatingPointValueType& value);
 
     /// The coordinate as a text.
@@ -597,8 +597,8 @@ public:
     lmx::elmx_error set_AxisName(const std::u16string& value);
 
     /// Value on the axis.
-    const AxisValueChoice& get_AxisValueChoice() const { return m_AxisValueChoice; }
     AxisValueChoice& get_AxisValueChoice() { m_isset_AxisValueChoice = true; return m_AxisValueChoice; }
+    const AxisValueChoice& get_AxisValueChoice() const { return m_AxisValueChoice; }
     AxisValueChoice& assign_AxisValueChoice(const AxisValueChoice& value);
 
     static const lmx::s_class k_class;

@@ -40,8 +40,8 @@ public:
 
     /// A named value of the user's own.
     std::size_t size_CustomAttribute() const { return m_CustomAttribute.size(); }
-    const CustomAttributeType& get_CustomAttribute(std::size_t index) const { return m_CustomAttribute[index]; }
     CustomAttributeType& get_CustomAttribute(std::size_t index);
+    const CustomAttributeType& get_CustomAttribute(std::size_t index) const { return m_CustomAttribute[index]; }
     CustomAttributeType& assign_CustomAttribute(std::size_t index, const CustomAttributeType& value);
     lmx::elmx_error append_CustomAttribute();
     lmx::elmx_error insert_CustomAttribute(std::size_t index);
@@ -50,8 +50,8 @@ public:
     void clear_CustomAttribute();
 
     /// Material of the sample.
-    const sg_Substrate& get_Substrate() const { return m_Substrate; }
     sg_Substrate& get_Substrate() { m_isset_Substrate = true; return m_Substrate; }
+    const sg_Substrate& get_Substrate() const { return m_Substrate; }
     sg_Substrate& assign_Substrate(const sg_Substrate& value);
 
     /// What lay behind the sample while it was measured.
@@ -131,10 +131,10 @@ private:
 /// Head of the samples: any of them can stand in its place.
 class VYR_EXPORT Sample : public SampleType {
 public:
-    lmx::elmx_error marshal(lmx::c_xml_writer& writer, const char* name) const override;
-    lmx::elmx_error unmarshal(lmx::c_xml_reader& reader, const std::string& name) override;
     static const lmx::s_ns_map* ns_map();
     lmx::elmx_error unmarshal(lmx::c_xml_reader& reader);
+    lmx::elmx_error marshal(lmx::c_xml_writer& writer, const char* name) const override;
+    lmx::elmx_error unmarshal(lmx::c_xml_reader& reader, const std::string& name) override;
     static const lmx::s_document k_document;
 };
 
@@ -198,8 +198,8 @@ public:
     bool is_occurs_ok() const;
 
     /// Size of the patch.
-    const Specification& get_Specification() const { return m_Specification; }
     Specification& get_Specification() { m_isset_Specification = true; return m_Specification; }
+    const Specification& get_Specification() const { return m_Specification; }
     Specification& assign_Specification(const Specification& value);
 
     /// The class's identity; `getid` and `has_id` work on its address.
@@ -284,8 +284,6 @@ public:
     SampleSpot(const char* file_name, lmx::elmx_error* error);
     SampleSpot(const char* data, std::size_t size, lmx::elmx_error* error);
     SampleSpot(const std::string& text, lmx::elmx_error* error);
-    lmx::elmx_error marshal(lmx::c_xml_writer& writer, const char* name) const override;
-    lmx::elmx_error unmarshal(lmx::c_xml_reader& reader, const std::string& name) override;
     static const lmx::s_ns_map* ns_map();
     lmx::elmx_error unmarshal(const char* file_name);
     lmx::elmx_error unmarshal(const char* data, std::size_t size);
@@ -294,6 +292,8 @@ public:
     lmx::elmx_error marshal(const char* file_name) const;
     lmx::elmx_error marshal(std::string* text) const;
     lmx::elmx_error marshal(std::ostream& stream) const;
+    lmx::elmx_error marshal(lmx::c_xml_writer& writer, const char* name) const override;
+    lmx::elmx_error unmarshal(lmx::c_xml_reader& reader, const std::string& name) override;
     static const lmx::s_document k_document;
 };
 
@@ -305,8 +305,6 @@ public:
     SampleTarget(const char* file_name, lmx::elmx_error* error);
     SampleTarget(const char* data, std::size_t size, lmx::elmx_error* error);
     SampleTarget(const std::string& text, lmx::elmx_error* error);
-    lmx::elmx_error marshal(lmx::c_xml_writer& writer, const char* name) const override;
-    lmx::elmx_error unmarshal(lmx::c_xml_reader& reader, const std::string& name) override;
     static const lmx::s_ns_map* ns_map();
     lmx::elmx_error unmarshal(const char* file_name);
     lmx::elmx_error unmarshal(const char* data, std::size_t size);
@@ -315,6 +313,8 @@ public:
     lmx::elmx_error marshal(const char* file_name) const;
     lmx::elmx_error marshal(std::string* text) const;
     lmx::elmx_error marshal(std::ostream& stream) const;
+    lmx::elmx_error marshal(lmx::c_xml_writer& writer, const char* name) const override;
+    lmx::elmx_error unmarshal(lmx::c_xml_reader& reader, const std::string& name) override;
     static const lmx::s_document k_document;
 };
 

@@ -11,7 +11,7 @@ def class_title(made):
 
 
 # Accessors: each function returns lines without indentation; definitions that need a complete type, or would make
-# the header heavy, are left to the source.
+# the header heavy, are left to the source. The order of overloads gives them their numbers in the flat interface.
 
 
 def simple_accessors(item):
@@ -29,8 +29,8 @@ def enumeration_accessors(item):
 
 def object_accessors(item):
     x, kind = item.accessor, item.type
-    yield f"const {kind}& get_{x}() const {{ return m_{x}; }}"
     yield f"{kind}& get_{x}() {{ m_isset_{x} = true; return m_{x}; }}"
+    yield f"const {kind}& get_{x}() const {{ return m_{x}; }}"
     yield f"{kind}& assign_{x}(const {kind}& value);"
 
 
@@ -50,8 +50,8 @@ def list_accessors(item):
         yield f"lmx::elmx_error append_{x}({value} value);"
         yield f"lmx::elmx_error insert_{x}(std::size_t index, {value} value);"
     else:
-        yield f"const {item.type}& get_{x}(std::size_t index) const {{ return m_{x}[index]; }}"
         yield f"{item.type}& get_{x}(std::size_t index);"
+        yield f"const {item.type}& get_{x}(std::size_t index) const {{ return m_{x}[index]; }}"
         yield f"{item.type}& assign_{x}(std::size_t index, const {item.type}& value);"
         yield f"lmx::elmx_error append_{x}();"
         yield f"lmx::elmx_error insert_{x}(std::size_t index);"
@@ -72,8 +72,8 @@ def any_accessors(_):
 def alternative_accessors(item):
     x = item.accessor
     if item.type is not None:
-        yield f"const {item.type}& get_{x}() const {{ return *static_cast<const {item.type}*>(m_choice.object); }}"
         yield f"{item.type}& get_{x}();"
+        yield f"const {item.type}& get_{x}() const {{ return *static_cast<const {item.type}*>(m_choice.object); }}"
         yield f"{item.type}& assign_{x}(const {item.type}& value);"
         return
     kind = item.value.value
@@ -89,8 +89,8 @@ def alternative_accessors(item):
 def base_group_accessors(item):
     """Of a class that is a holder itself."""
     x, kind = item.accessor, item.type
-    yield f"const {kind}& get_{x}() const {{ return *this; }}"
     yield f"{kind}& get_{x}() {{ m_isset_{x} = true; return *this; }}"
+    yield f"const {kind}& get_{x}() const {{ return *this; }}"
     yield f"{kind}& assign_{x}(const {kind}& value);"
 
 
@@ -154,9 +154,9 @@ def wrapper_class(plan, made):
     yield from comment(made.doc)
     yield class_title(made)
     yield "public:"
-    body = [f"{made.name}() = default;" if constructors else None, *constructors,
+    body = [f"{made.name}() = default;" if constructors else None, *constructors, *documents[:-1],
             f"lmx::elmx_error marshal(lmx::c_xml_writer& writer, const char* name) const{override};",
-            f"lmx::elmx_error unmarshal(lmx::c_xml_reader& reader, const std::string& name){override};", *documents]
+            f"lmx::elmx_error unmarshal(lmx::c_xml_reader& reader, const std::string& name){override};", documents[-1]]
     yield from (f"    {line}" for line in body if line)
     yield "};"
 
@@ -180,6 +180,7 @@ def own_class(plan, made):
         public += [f"{virtual}const char* getid() const{override};",
                    "/// True for the identity of this class and of those that it derives from, as pointers.",
                    f"{virtual}bool has_id(const char* identity) const{override};"]
+    public += documents[:-1]
     marshal = "lmx::elmx_error marshal(lmx::c_xml_writer& writer, const char* name) const"
     if made.inline:
         public += [
@@ -191,7 +192,7 @@ def own_class(plan, made):
     else:
         public += [f"{virtual}{marshal}{override};",
                    f"{virtual}lmx::elmx_error unmarshal(lmx::c_xml_reader& reader, const std::string& name){override};"]
-    public += documents
+    public += documents[-1:]
     public += [f"void swap({name}& other);", "void reset();", "bool is_occurs_ok() const;"]
     if made.content in ("choice", "group") and not made.derives_from_group:
         names = ", ".join(f"e_{item.accessor}" for item in made.elements)

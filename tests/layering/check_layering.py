@@ -27,6 +27,7 @@ BELOW = {
     # The container knows nothing of XML: of the runtime it takes text and names.
     "zip": {"lmx/values/unicode.h", "lmx/file_name.h", "lmx/export.h"},
     "document": {"schema", "zip", "lmx"},
+    "flat": {"document", "schema", "lmx"},
     # The chief header is the host's one include, so it alone names the document calls as well.
     "schema/Vyr.h": {"schema", "document", "zip/exception.h", "lmx"},
 }
@@ -70,7 +71,7 @@ def main():
     root = pathlib.Path(sys.argv[1])
     files = sorted(
         file.relative_to(root).as_posix()
-        for folder in ("lmx", "schema", "zip", "document")
+        for folder in ("lmx", "schema", "zip", "document", "flat")
         for pattern in ("*.h", "*.cpp")
         for file in (root / folder).rglob(pattern)
     )

@@ -16,6 +16,7 @@ sys.path.insert(0, str(ROOT / "schema" / "generator"))
 from generate import print_files  # noqa: E402
 from model import read_model  # noqa: E402
 from plan import Plan  # noqa: E402
+from print_members import Members  # noqa: E402
 from source import SchemaError  # noqa: E402
 
 SOURCES = {name: (ROOT / "schema" / name).read_text(encoding="utf-8") for name in ("vyr.xsd", "binding.toml")}
@@ -79,8 +80,9 @@ class AddedField(unittest.TestCase):
         old = '<xs:element name="PaperType" type="xs:string" minOccurs="0">'
         new = ('<xs:element name="PaperGrain" type="Fraction" minOccurs="0"><xs:annotation><xs:documentation>Grain.'
                "</xs:documentation></xs:annotation></xs:element>" + old)
-        before = print_files(plan_of(SOURCES))
-        after = print_files(plan_of(changed("vyr.xsd", old, new)[0]))
+        members = Members(ROOT / "flat" / "members.toml")
+        before = print_files(plan_of(SOURCES), members)
+        after = print_files(plan_of(changed("vyr.xsd", old, new)[0]), members)
         self.assertEqual(before.keys(), after.keys())
         counts = {}
         for name in before:
@@ -89,8 +91,12 @@ class AddedField(unittest.TestCase):
             self.assertFalse([line for line in lines if line[0] == "-"], name)
             if lines:
                 counts[name] = len(lines)
-        self.assertEqual(counts.keys(), {"model.txt", "substrates.h", "substrates.cpp", "tables.h"})
-        self.assertEqual((counts["model.txt"], counts["tables.h"]), (1, 1))
+        schema, flat = "schema/generated", "flat/generated"
+        self.assertEqual(counts.keys(), {
+            f"{schema}/model.txt", f"{schema}/substrates.h", f"{schema}/substrates.cpp", f"{schema}/tables.h",
+            f"{flat}/substrates.cpp", f"{flat}/exports.txt"})
+        self.assertEqual((counts[f"{schema}/model.txt"], counts[f"{schema}/tables.h"]), (1, 1))
+        self.assertEqual((counts[f"{flat}/substrates.cpp"], counts[f"{flat}/exports.txt"]), (4, 4))
 
 
 if __name__ == "__main__":
