@@ -16,6 +16,7 @@
 #include "lmx/values/datetime.h"
 #include "lmx/values/decimal.h"
 #include "lmx/values/duration.h"
+#include "lmx/values/empty.h"
 #include "lmx/values/pattern.h"
 #include "lmx/values/scalars.h"
 #include "lmx/values/unicode.h"

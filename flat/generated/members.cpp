@@ -13,6 +13,9 @@
 #include "lmx/values/binary.h"
 #include "lmx/values/characters.h"
 #include "lmx/values/datetime.h"
+#include "lmx/values/decimal.h"
+#include "lmx/values/duration.h"
+#include "lmx/values/empty.h"
 #include "lmx/values/pattern.h"
 #include "lmx/values/scalars.h"
 #include "lmx/values/unicode.h"
@@ -55,10 +58,35 @@ VYR_FLAT(void) CSharp_delete_c_binary(void* self) { destroy<lmx::c_binary>(self)
 VYR_FLAT(void*) CSharp_new_c_binary__SWIG_2(void* a, std::uint32_t b) { return guarded(+[](void* u, std::uint32_t v) -> void* { return new lmx::c_binary(static_cast<unsigned char*>(u), v); }, a, b); }
 VYR_FLAT(void) CSharp_c_binary_swap(void* self, void* a) { if (is_null(a, "lmx::c_binary & type is null")) return; guarded(+[](void* s, void* u) { as<lmx::c_binary>(s).swap(as<lmx::c_binary>(u)); }, self, a); }
 VYR_FLAT(std::uint32_t) CSharp_c_binary_size(void* self) { return guarded(+[](void* s) { return static_cast<std::uint32_t>(as<lmx::c_binary>(s).size()); }, self); }
+VYR_FLAT(void) CSharp_c_binary_set(void* self, void* a, std::uint32_t b) { guarded(+[](void* s, void* u, std::uint32_t v) { as<lmx::c_binary>(s).set(static_cast<unsigned char*>(u), v); }, self, a, b); }
+VYR_FLAT(void*) CSharp_c_binary_get(void* self, void* a, std::uint32_t b) { return guarded(+[](void* s, void* u, std::uint32_t v) -> void* { return as<lmx::c_binary>(s).get(static_cast<unsigned char*>(u), v); }, self, a, b); }
+VYR_FLAT(std::int32_t) CSharp_c_binary_equal(void* self, void* a, std::uint32_t b) { return guarded(+[](void* s, void* u, std::uint32_t v) { return as<lmx::c_binary>(s).equal(static_cast<unsigned char*>(u), v); }, self, a, b); }
 VYR_FLAT(void*) CSharp_c_binary_at__SWIG_0(void* self, std::uint32_t a) { return guarded(+[](void* s, std::uint32_t u) -> void* { return &as<lmx::c_binary>(s).at(u); }, self, a); }
 VYR_FLAT(void) CSharp_c_binary_append(void* self, std::uint32_t a) { guarded(+[](void* s, std::uint32_t u) { as<lmx::c_binary>(s).append(static_cast<std::uint8_t>(u)); }, self, a); }
+VYR_FLAT(std::int32_t) CSharp_c_binary_is_valid_hex(const char* a) { if (is_null(a, k_null_string)) return {}; return guarded(+[](const char* u) { return lmx::c_binary::is_valid_hex(u); }, a); }
 VYR_FLAT(std::int32_t) CSharp_c_binary_is_valid_base64(const char* a) { if (is_null(a, k_null_string)) return {}; return guarded(+[](const char* u) { return lmx::c_binary::is_valid_base64(u); }, a); }
+VYR_FLAT(void) CSharp_c_binary_from_hex(void* self, const char* a) { if (is_null(a, k_null_string)) return; guarded(+[](void* s, const char* u) { as<lmx::c_binary>(s).from_hex(u); }, self, a); }
 VYR_FLAT(void) CSharp_c_binary_from_base64(void* self, const char* a) { if (is_null(a, k_null_string)) return; guarded(+[](void* s, const char* u) { as<lmx::c_binary>(s).from_base64(u); }, self, a); }
+
+// lmx::c_date
+VYR_FLAT(void*) CSharp_new_c_date__SWIG_0() { return guarded(+[]() -> void* { return new lmx::c_date(); }); }
+VYR_FLAT(void*) CSharp_new_c_date__SWIG_1(void* a) { if (is_null(a, "lmx::c_date const & type is null")) return {}; return guarded(+[](void* u) -> void* { return new lmx::c_date(as<lmx::c_date>(u)); }, a); }
+VYR_FLAT(void) CSharp_delete_c_date(void* self) { destroy<lmx::c_date>(self); }
+VYR_FLAT(void*) CSharp_new_c_date__SWIG_3(const char* a) { if (is_null(a, k_null_string)) return {}; return guarded(+[](const char* u) -> void* { return new lmx::c_date(u); }, a); }
+VYR_FLAT(std::int32_t) CSharp_c_date_is_valid(const char* a) { if (is_null(a, k_null_string)) return {}; return guarded(+[](const char* u) { return lmx::c_date::is_valid(u); }, a); }
+VYR_FLAT(char*) CSharp_c_date_get_as_string(void* self) { return guarded(+[](void* s) { return new_string(as<lmx::c_date>(s).get_as_string()); }, self); }
+VYR_FLAT(std::int32_t) CSharp_c_date_get_total_offset_mins(void* self) { return guarded(+[](void* s) { return as<lmx::c_date>(s).get_total_offset_mins(); }, self); }
+VYR_FLAT(void) CSharp_c_date_set_total_offset_mins(void* self, std::int32_t a) { guarded(+[](void* s, std::int32_t u) { as<lmx::c_date>(s).set_total_offset_mins(u); }, self, a); }
+VYR_FLAT(std::int32_t) CSharp_c_date_get_is_utc(void* self) { return guarded(+[](void* s) { return as<lmx::c_date>(s).get_is_utc(); }, self); }
+VYR_FLAT(void) CSharp_c_date_set_is_utc(void* self, std::uint32_t a) { guarded(+[](void* s, std::uint32_t u) { as<lmx::c_date>(s).set_is_utc(to_bool(u)); }, self, a); }
+VYR_FLAT(void) CSharp_c_date_set_offset(void* self, std::int32_t a, std::uint32_t b) { guarded(+[](void* s, std::int32_t u, std::uint32_t v) { as<lmx::c_date>(s).set_offset(u, v); }, self, a, b); }
+VYR_FLAT(void) CSharp_c_date_set_offset_mins(void* self, std::int32_t a, std::uint32_t b) { guarded(+[](void* s, std::int32_t u, std::uint32_t v) { as<lmx::c_date>(s).set_offset_mins(u, v); }, self, a, b); }
+VYR_FLAT(std::int32_t) CSharp_c_date_get_year(void* self) { return guarded(+[](void* s) { return as<lmx::c_date>(s).get_year(); }, self); }
+VYR_FLAT(void) CSharp_c_date_set_year(void* self, std::int32_t a) { guarded(+[](void* s, std::int32_t u) { as<lmx::c_date>(s).set_year(u); }, self, a); }
+VYR_FLAT(std::uint32_t) CSharp_c_date_get_month(void* self) { return guarded(+[](void* s) { return static_cast<std::uint32_t>(as<lmx::c_date>(s).get_month()); }, self); }
+VYR_FLAT(void) CSharp_c_date_set_month(void* self, std::uint32_t a) { guarded(+[](void* s, std::uint32_t u) { as<lmx::c_date>(s).set_month(u); }, self, a); }
+VYR_FLAT(std::uint32_t) CSharp_c_date_get_day(void* self) { return guarded(+[](void* s) { return static_cast<std::uint32_t>(as<lmx::c_date>(s).get_day()); }, self); }
+VYR_FLAT(void) CSharp_c_date_set_day(void* self, std::uint32_t a) { guarded(+[](void* s, std::uint32_t u) { as<lmx::c_date>(s).set_day(u); }, self, a); }
 
 // lmx::c_datetime
 VYR_FLAT(void*) CSharp_new_c_datetime__SWIG_0() { return guarded(+[]() -> void* { return new lmx::c_datetime(); }); }
@@ -85,6 +113,168 @@ VYR_FLAT(std::uint32_t) CSharp_c_datetime_get_mins(void* self) { return guarded(
 VYR_FLAT(void) CSharp_c_datetime_set_mins(void* self, std::uint32_t a) { guarded(+[](void* s, std::uint32_t u) { as<lmx::c_datetime>(s).set_mins(u); }, self, a); }
 VYR_FLAT(float) CSharp_c_datetime_get_secs(void* self) { return guarded(+[](void* s) { return as<lmx::c_datetime>(s).get_secs(); }, self); }
 VYR_FLAT(void) CSharp_c_datetime_set_secs(void* self, float a) { guarded(+[](void* s, float u) { as<lmx::c_datetime>(s).set_secs(u); }, self, a); }
+
+// lmx::c_datetime_base
+VYR_FLAT(void*) CSharp_new_c_datetime_base__SWIG_0() { return guarded(+[]() -> void* { return new lmx::c_datetime_base(); }); }
+VYR_FLAT(void*) CSharp_new_c_datetime_base__SWIG_1(void* a) { if (is_null(a, "lmx::c_datetime_base const & type is null")) return {}; return guarded(+[](void* u) -> void* { return new lmx::c_datetime_base(as<lmx::c_datetime_base>(u)); }, a); }
+VYR_FLAT(void) CSharp_delete_c_datetime_base(void* self) { destroy<lmx::c_datetime_base>(self); }
+
+// lmx::c_decimal
+VYR_FLAT(void*) CSharp_new_c_decimal__SWIG_0() { return guarded(+[]() -> void* { return new lmx::c_decimal(); }); }
+VYR_FLAT(void*) CSharp_new_c_decimal__SWIG_1(void* a) { if (is_null(a, "lmx::c_decimal const & type is null")) return {}; return guarded(+[](void* u) -> void* { return new lmx::c_decimal(as<lmx::c_decimal>(u)); }, a); }
+VYR_FLAT(void) CSharp_delete_c_decimal(void* self) { destroy<lmx::c_decimal>(self); }
+VYR_FLAT(void*) CSharp_new_c_decimal__SWIG_3(const char* a) { if (is_null(a, k_null_string)) return {}; return guarded(+[](const char* u) -> void* { return new lmx::c_decimal(u); }, a); }
+VYR_FLAT(void*) CSharp_new_c_decimal__SWIG_4(std::int32_t a, std::int32_t b) { return guarded(+[](std::int32_t u, std::int32_t v) -> void* { return new lmx::c_decimal(u, v); }, a, b); }
+VYR_FLAT(void*) CSharp_new_c_decimal__SWIG_5(double a, std::uint32_t b) { return guarded(+[](double u, std::uint32_t v) -> void* { return new lmx::c_decimal(u, v); }, a, b); }
+VYR_FLAT(std::int32_t) CSharp_c_decimal_is_valid(const char* a) { if (is_null(a, k_null_string)) return {}; return guarded(+[](const char* u) { return lmx::c_decimal::is_valid(u); }, a); }
+VYR_FLAT(void) CSharp_c_decimal_swap(void* self, void* a) { if (is_null(a, "lmx::c_decimal & type is null")) return; guarded(+[](void* s, void* u) { as<lmx::c_decimal>(s).swap(as<lmx::c_decimal>(u)); }, self, a); }
+VYR_FLAT(std::int32_t) CSharp_c_decimal_get_integral(void* self, void* a) { return guarded(+[](void* s, void* u) { return as<lmx::c_decimal>(s).get_integral(static_cast<bool*>(u)); }, self, a); }
+VYR_FLAT(void) CSharp_c_decimal_set_integral(void* self, std::int32_t a) { guarded(+[](void* s, std::int32_t u) { as<lmx::c_decimal>(s).set_integral(u); }, self, a); }
+VYR_FLAT(std::uint32_t) CSharp_c_decimal_get_fractional(void* self, std::int32_t a, void* b) { return guarded(+[](void* s, std::int32_t u, void* v) { return static_cast<std::uint32_t>(as<lmx::c_decimal>(s).get_fractional(u, static_cast<bool*>(v))); }, self, a, b); }
+VYR_FLAT(void) CSharp_c_decimal_set_fractional(void* self, std::uint32_t a, std::uint32_t b) { guarded(+[](void* s, std::uint32_t u, std::uint32_t v) { as<lmx::c_decimal>(s).set_fractional(u, v); }, self, a, b); }
+VYR_FLAT(std::int32_t) CSharp_c_decimal_get_scaled(void* self, std::int32_t a, void* b) { return guarded(+[](void* s, std::int32_t u, void* v) { return as<lmx::c_decimal>(s).get_scaled(u, static_cast<bool*>(v)); }, self, a, b); }
+VYR_FLAT(void) CSharp_c_decimal_set_scaled(void* self, std::int32_t a, std::int32_t b) { guarded(+[](void* s, std::int32_t u, std::int32_t v) { as<lmx::c_decimal>(s).set_scaled(u, v); }, self, a, b); }
+VYR_FLAT(void) CSharp_c_decimal_set(void* self, double a, std::uint32_t b) { guarded(+[](void* s, double u, std::uint32_t v) { as<lmx::c_decimal>(s).set(u, v); }, self, a, b); }
+VYR_FLAT(double) CSharp_c_decimal_get_as_float(void* self) { return guarded(+[](void* s) { return as<lmx::c_decimal>(s).get_as_float(); }, self); }
+VYR_FLAT(char*) CSharp_c_decimal_get_as_string(void* self) { return guarded(+[](void* s) { return new_string(as<lmx::c_decimal>(s).get_as_string()); }, self); }
+
+// lmx::c_duration
+VYR_FLAT(void*) CSharp_new_c_duration__SWIG_0() { return guarded(+[]() -> void* { return new lmx::c_duration(); }); }
+VYR_FLAT(void*) CSharp_new_c_duration__SWIG_1(void* a) { if (is_null(a, "lmx::c_duration const & type is null")) return {}; return guarded(+[](void* u) -> void* { return new lmx::c_duration(as<lmx::c_duration>(u)); }, a); }
+VYR_FLAT(void) CSharp_delete_c_duration(void* self) { destroy<lmx::c_duration>(self); }
+VYR_FLAT(void*) CSharp_new_c_duration__SWIG_3(const char* a) { if (is_null(a, k_null_string)) return {}; return guarded(+[](const char* u) -> void* { return new lmx::c_duration(u); }, a); }
+VYR_FLAT(std::int32_t) CSharp_c_duration_is_valid__SWIG_0(const char* a) { if (is_null(a, k_null_string)) return {}; return guarded(+[](const char* u) { return lmx::c_duration::is_valid(u); }, a); }
+VYR_FLAT(char*) CSharp_c_duration_get_as_string(void* self) { return guarded(+[](void* s) { return new_string(as<lmx::c_duration>(s).get_as_string()); }, self); }
+VYR_FLAT(std::int32_t) CSharp_c_duration_get_is_neg(void* self) { return guarded(+[](void* s) { return as<lmx::c_duration>(s).get_is_neg(); }, self); }
+VYR_FLAT(void) CSharp_c_duration_set_is_neg(void* self, std::uint32_t a) { guarded(+[](void* s, std::uint32_t u) { as<lmx::c_duration>(s).set_is_neg(to_bool(u)); }, self, a); }
+VYR_FLAT(std::uint32_t) CSharp_c_duration_get_years(void* self) { return guarded(+[](void* s) { return static_cast<std::uint32_t>(as<lmx::c_duration>(s).get_years()); }, self); }
+VYR_FLAT(void) CSharp_c_duration_set_years(void* self, std::uint32_t a) { guarded(+[](void* s, std::uint32_t u) { as<lmx::c_duration>(s).set_years(u); }, self, a); }
+VYR_FLAT(std::uint32_t) CSharp_c_duration_get_months(void* self) { return guarded(+[](void* s) { return static_cast<std::uint32_t>(as<lmx::c_duration>(s).get_months()); }, self); }
+VYR_FLAT(void) CSharp_c_duration_set_months(void* self, std::uint32_t a) { guarded(+[](void* s, std::uint32_t u) { as<lmx::c_duration>(s).set_months(u); }, self, a); }
+VYR_FLAT(std::uint32_t) CSharp_c_duration_get_days(void* self) { return guarded(+[](void* s) { return static_cast<std::uint32_t>(as<lmx::c_duration>(s).get_days()); }, self); }
+VYR_FLAT(void) CSharp_c_duration_set_days(void* self, std::uint32_t a) { guarded(+[](void* s, std::uint32_t u) { as<lmx::c_duration>(s).set_days(u); }, self, a); }
+VYR_FLAT(std::uint32_t) CSharp_c_duration_get_hours(void* self) { return guarded(+[](void* s) { return static_cast<std::uint32_t>(as<lmx::c_duration>(s).get_hours()); }, self); }
+VYR_FLAT(void) CSharp_c_duration_set_hours(void* self, std::uint32_t a) { guarded(+[](void* s, std::uint32_t u) { as<lmx::c_duration>(s).set_hours(u); }, self, a); }
+VYR_FLAT(std::uint32_t) CSharp_c_duration_get_mins(void* self) { return guarded(+[](void* s) { return static_cast<std::uint32_t>(as<lmx::c_duration>(s).get_mins()); }, self); }
+VYR_FLAT(void) CSharp_c_duration_set_mins(void* self, std::uint32_t a) { guarded(+[](void* s, std::uint32_t u) { as<lmx::c_duration>(s).set_mins(u); }, self, a); }
+VYR_FLAT(float) CSharp_c_duration_get_secs(void* self) { return guarded(+[](void* s) { return as<lmx::c_duration>(s).get_secs(); }, self); }
+VYR_FLAT(void) CSharp_c_duration_set_secs(void* self, float a) { guarded(+[](void* s, float u) { as<lmx::c_duration>(s).set_secs(u); }, self, a); }
+VYR_FLAT(void) CSharp_c_duration_normalize(void* self) { guarded(+[](void* s) { as<lmx::c_duration>(s).normalize(); }, self); }
+
+// lmx::c_empty
+VYR_FLAT(void*) CSharp_new_c_empty__SWIG_0() { return guarded(+[]() -> void* { return new lmx::c_empty(); }); }
+VYR_FLAT(void*) CSharp_new_c_empty__SWIG_1(void* a) { if (is_null(a, "lmx::c_empty const & type is null")) return {}; return guarded(+[](void* u) -> void* { return new lmx::c_empty(as<lmx::c_empty>(u)); }, a); }
+VYR_FLAT(void) CSharp_delete_c_empty(void* self) { destroy<lmx::c_empty>(self); }
+
+// lmx::c_gday
+VYR_FLAT(void*) CSharp_new_c_gday__SWIG_0() { return guarded(+[]() -> void* { return new lmx::c_gday(); }); }
+VYR_FLAT(void*) CSharp_new_c_gday__SWIG_1(void* a) { if (is_null(a, "lmx::c_gday const & type is null")) return {}; return guarded(+[](void* u) -> void* { return new lmx::c_gday(as<lmx::c_gday>(u)); }, a); }
+VYR_FLAT(void) CSharp_delete_c_gday(void* self) { destroy<lmx::c_gday>(self); }
+VYR_FLAT(void*) CSharp_new_c_gday__SWIG_3(const char* a) { if (is_null(a, k_null_string)) return {}; return guarded(+[](const char* u) -> void* { return new lmx::c_gday(u); }, a); }
+VYR_FLAT(std::int32_t) CSharp_c_gday_is_valid(const char* a) { if (is_null(a, k_null_string)) return {}; return guarded(+[](const char* u) { return lmx::c_gday::is_valid(u); }, a); }
+VYR_FLAT(char*) CSharp_c_gday_get_as_string(void* self) { return guarded(+[](void* s) { return new_string(as<lmx::c_gday>(s).get_as_string()); }, self); }
+VYR_FLAT(std::int32_t) CSharp_c_gday_get_total_offset_mins(void* self) { return guarded(+[](void* s) { return as<lmx::c_gday>(s).get_total_offset_mins(); }, self); }
+VYR_FLAT(void) CSharp_c_gday_set_total_offset_mins(void* self, std::int32_t a) { guarded(+[](void* s, std::int32_t u) { as<lmx::c_gday>(s).set_total_offset_mins(u); }, self, a); }
+VYR_FLAT(std::int32_t) CSharp_c_gday_get_is_utc(void* self) { return guarded(+[](void* s) { return as<lmx::c_gday>(s).get_is_utc(); }, self); }
+VYR_FLAT(void) CSharp_c_gday_set_is_utc(void* self, std::uint32_t a) { guarded(+[](void* s, std::uint32_t u) { as<lmx::c_gday>(s).set_is_utc(to_bool(u)); }, self, a); }
+VYR_FLAT(void) CSharp_c_gday_set_offset(void* self, std::int32_t a, std::uint32_t b) { guarded(+[](void* s, std::int32_t u, std::uint32_t v) { as<lmx::c_gday>(s).set_offset(u, v); }, self, a, b); }
+VYR_FLAT(void) CSharp_c_gday_set_offset_mins(void* self, std::int32_t a, std::uint32_t b) { guarded(+[](void* s, std::int32_t u, std::uint32_t v) { as<lmx::c_gday>(s).set_offset_mins(u, v); }, self, a, b); }
+VYR_FLAT(std::uint32_t) CSharp_c_gday_get_day(void* self) { return guarded(+[](void* s) { return static_cast<std::uint32_t>(as<lmx::c_gday>(s).get_day()); }, self); }
+VYR_FLAT(void) CSharp_c_gday_set_day(void* self, std::uint32_t a) { guarded(+[](void* s, std::uint32_t u) { as<lmx::c_gday>(s).set_day(u); }, self, a); }
+
+// lmx::c_gmonth
+VYR_FLAT(void*) CSharp_new_c_gmonth__SWIG_0() { return guarded(+[]() -> void* { return new lmx::c_gmonth(); }); }
+VYR_FLAT(void*) CSharp_new_c_gmonth__SWIG_1(void* a) { if (is_null(a, "lmx::c_gmonth const & type is null")) return {}; return guarded(+[](void* u) -> void* { return new lmx::c_gmonth(as<lmx::c_gmonth>(u)); }, a); }
+VYR_FLAT(void) CSharp_delete_c_gmonth(void* self) { destroy<lmx::c_gmonth>(self); }
+VYR_FLAT(void*) CSharp_new_c_gmonth__SWIG_3(const char* a) { if (is_null(a, k_null_string)) return {}; return guarded(+[](const char* u) -> void* { return new lmx::c_gmonth(u); }, a); }
+VYR_FLAT(std::int32_t) CSharp_c_gmonth_is_valid(const char* a) { if (is_null(a, k_null_string)) return {}; return guarded(+[](const char* u) { return lmx::c_gmonth::is_valid(u); }, a); }
+VYR_FLAT(char*) CSharp_c_gmonth_get_as_string(void* self) { return guarded(+[](void* s) { return new_string(as<lmx::c_gmonth>(s).get_as_string()); }, self); }
+VYR_FLAT(std::int32_t) CSharp_c_gmonth_get_total_offset_mins(void* self) { return guarded(+[](void* s) { return as<lmx::c_gmonth>(s).get_total_offset_mins(); }, self); }
+VYR_FLAT(void) CSharp_c_gmonth_set_total_offset_mins(void* self, std::int32_t a) { guarded(+[](void* s, std::int32_t u) { as<lmx::c_gmonth>(s).set_total_offset_mins(u); }, self, a); }
+VYR_FLAT(std::int32_t) CSharp_c_gmonth_get_is_utc(void* self) { return guarded(+[](void* s) { return as<lmx::c_gmonth>(s).get_is_utc(); }, self); }
+VYR_FLAT(void) CSharp_c_gmonth_set_is_utc(void* self, std::uint32_t a) { guarded(+[](void* s, std::uint32_t u) { as<lmx::c_gmonth>(s).set_is_utc(to_bool(u)); }, self, a); }
+VYR_FLAT(void) CSharp_c_gmonth_set_offset(void* self, std::int32_t a, std::uint32_t b) { guarded(+[](void* s, std::int32_t u, std::uint32_t v) { as<lmx::c_gmonth>(s).set_offset(u, v); }, self, a, b); }
+VYR_FLAT(void) CSharp_c_gmonth_set_offset_mins(void* self, std::int32_t a, std::uint32_t b) { guarded(+[](void* s, std::int32_t u, std::uint32_t v) { as<lmx::c_gmonth>(s).set_offset_mins(u, v); }, self, a, b); }
+VYR_FLAT(std::uint32_t) CSharp_c_gmonth_get_month(void* self) { return guarded(+[](void* s) { return static_cast<std::uint32_t>(as<lmx::c_gmonth>(s).get_month()); }, self); }
+VYR_FLAT(void) CSharp_c_gmonth_set_month(void* self, std::uint32_t a) { guarded(+[](void* s, std::uint32_t u) { as<lmx::c_gmonth>(s).set_month(u); }, self, a); }
+
+// lmx::c_gmonthday
+VYR_FLAT(void*) CSharp_new_c_gmonthday__SWIG_0() { return guarded(+[]() -> void* { return new lmx::c_gmonthday(); }); }
+VYR_FLAT(void*) CSharp_new_c_gmonthday__SWIG_1(void* a) { if (is_null(a, "lmx::c_gmonthday const & type is null")) return {}; return guarded(+[](void* u) -> void* { return new lmx::c_gmonthday(as<lmx::c_gmonthday>(u)); }, a); }
+VYR_FLAT(void) CSharp_delete_c_gmonthday(void* self) { destroy<lmx::c_gmonthday>(self); }
+VYR_FLAT(void*) CSharp_new_c_gmonthday__SWIG_3(const char* a) { if (is_null(a, k_null_string)) return {}; return guarded(+[](const char* u) -> void* { return new lmx::c_gmonthday(u); }, a); }
+VYR_FLAT(std::int32_t) CSharp_c_gmonthday_is_valid(const char* a) { if (is_null(a, k_null_string)) return {}; return guarded(+[](const char* u) { return lmx::c_gmonthday::is_valid(u); }, a); }
+VYR_FLAT(char*) CSharp_c_gmonthday_get_as_string(void* self) { return guarded(+[](void* s) { return new_string(as<lmx::c_gmonthday>(s).get_as_string()); }, self); }
+VYR_FLAT(std::int32_t) CSharp_c_gmonthday_get_total_offset_mins(void* self) { return guarded(+[](void* s) { return as<lmx::c_gmonthday>(s).get_total_offset_mins(); }, self); }
+VYR_FLAT(void) CSharp_c_gmonthday_set_total_offset_mins(void* self, std::int32_t a) { guarded(+[](void* s, std::int32_t u) { as<lmx::c_gmonthday>(s).set_total_offset_mins(u); }, self, a); }
+VYR_FLAT(std::int32_t) CSharp_c_gmonthday_get_is_utc(void* self) { return guarded(+[](void* s) { return as<lmx::c_gmonthday>(s).get_is_utc(); }, self); }
+VYR_FLAT(void) CSharp_c_gmonthday_set_is_utc(void* self, std::uint32_t a) { guarded(+[](void* s, std::uint32_t u) { as<lmx::c_gmonthday>(s).set_is_utc(to_bool(u)); }, self, a); }
+VYR_FLAT(void) CSharp_c_gmonthday_set_offset(void* self, std::int32_t a, std::uint32_t b) { guarded(+[](void* s, std::int32_t u, std::uint32_t v) { as<lmx::c_gmonthday>(s).set_offset(u, v); }, self, a, b); }
+VYR_FLAT(void) CSharp_c_gmonthday_set_offset_mins(void* self, std::int32_t a, std::uint32_t b) { guarded(+[](void* s, std::int32_t u, std::uint32_t v) { as<lmx::c_gmonthday>(s).set_offset_mins(u, v); }, self, a, b); }
+VYR_FLAT(std::uint32_t) CSharp_c_gmonthday_get_month(void* self) { return guarded(+[](void* s) { return static_cast<std::uint32_t>(as<lmx::c_gmonthday>(s).get_month()); }, self); }
+VYR_FLAT(void) CSharp_c_gmonthday_set_month(void* self, std::uint32_t a) { guarded(+[](void* s, std::uint32_t u) { as<lmx::c_gmonthday>(s).set_month(u); }, self, a); }
+VYR_FLAT(std::uint32_t) CSharp_c_gmonthday_get_day(void* self) { return guarded(+[](void* s) { return static_cast<std::uint32_t>(as<lmx::c_gmonthday>(s).get_day()); }, self); }
+VYR_FLAT(void) CSharp_c_gmonthday_set_day(void* self, std::uint32_t a) { guarded(+[](void* s, std::uint32_t u) { as<lmx::c_gmonthday>(s).set_day(u); }, self, a); }
+
+// lmx::c_gyear
+VYR_FLAT(void*) CSharp_new_c_gyear__SWIG_0() { return guarded(+[]() -> void* { return new lmx::c_gyear(); }); }
+VYR_FLAT(void*) CSharp_new_c_gyear__SWIG_1(void* a) { if (is_null(a, "lmx::c_gyear const & type is null")) return {}; return guarded(+[](void* u) -> void* { return new lmx::c_gyear(as<lmx::c_gyear>(u)); }, a); }
+VYR_FLAT(void) CSharp_delete_c_gyear(void* self) { destroy<lmx::c_gyear>(self); }
+VYR_FLAT(void*) CSharp_new_c_gyear__SWIG_3(const char* a) { if (is_null(a, k_null_string)) return {}; return guarded(+[](const char* u) -> void* { return new lmx::c_gyear(u); }, a); }
+VYR_FLAT(std::int32_t) CSharp_c_gyear_is_valid(const char* a) { if (is_null(a, k_null_string)) return {}; return guarded(+[](const char* u) { return lmx::c_gyear::is_valid(u); }, a); }
+VYR_FLAT(char*) CSharp_c_gyear_get_as_string(void* self) { return guarded(+[](void* s) { return new_string(as<lmx::c_gyear>(s).get_as_string()); }, self); }
+VYR_FLAT(std::int32_t) CSharp_c_gyear_get_total_offset_mins(void* self) { return guarded(+[](void* s) { return as<lmx::c_gyear>(s).get_total_offset_mins(); }, self); }
+VYR_FLAT(void) CSharp_c_gyear_set_total_offset_mins(void* self, std::int32_t a) { guarded(+[](void* s, std::int32_t u) { as<lmx::c_gyear>(s).set_total_offset_mins(u); }, self, a); }
+VYR_FLAT(std::int32_t) CSharp_c_gyear_get_is_utc(void* self) { return guarded(+[](void* s) { return as<lmx::c_gyear>(s).get_is_utc(); }, self); }
+VYR_FLAT(void) CSharp_c_gyear_set_is_utc(void* self, std::uint32_t a) { guarded(+[](void* s, std::uint32_t u) { as<lmx::c_gyear>(s).set_is_utc(to_bool(u)); }, self, a); }
+VYR_FLAT(void) CSharp_c_gyear_set_offset(void* self, std::int32_t a, std::uint32_t b) { guarded(+[](void* s, std::int32_t u, std::uint32_t v) { as<lmx::c_gyear>(s).set_offset(u, v); }, self, a, b); }
+VYR_FLAT(void) CSharp_c_gyear_set_offset_mins(void* self, std::int32_t a, std::uint32_t b) { guarded(+[](void* s, std::int32_t u, std::uint32_t v) { as<lmx::c_gyear>(s).set_offset_mins(u, v); }, self, a, b); }
+VYR_FLAT(std::int32_t) CSharp_c_gyear_get_year(void* self) { return guarded(+[](void* s) { return as<lmx::c_gyear>(s).get_year(); }, self); }
+VYR_FLAT(void) CSharp_c_gyear_set_year(void* self, std::int32_t a) { guarded(+[](void* s, std::int32_t u) { as<lmx::c_gyear>(s).set_year(u); }, self, a); }
+
+// lmx::c_gyearmonth
+VYR_FLAT(void*) CSharp_new_c_gyearmonth__SWIG_0() { return guarded(+[]() -> void* { return new lmx::c_gyearmonth(); }); }
+VYR_FLAT(void*) CSharp_new_c_gyearmonth__SWIG_1(void* a) { if (is_null(a, "lmx::c_gyearmonth const & type is null")) return {}; return guarded(+[](void* u) -> void* { return new lmx::c_gyearmonth(as<lmx::c_gyearmonth>(u)); }, a); }
+VYR_FLAT(void) CSharp_delete_c_gyearmonth(void* self) { destroy<lmx::c_gyearmonth>(self); }
+VYR_FLAT(void*) CSharp_new_c_gyearmonth__SWIG_3(const char* a) { if (is_null(a, k_null_string)) return {}; return guarded(+[](const char* u) -> void* { return new lmx::c_gyearmonth(u); }, a); }
+VYR_FLAT(std::int32_t) CSharp_c_gyearmonth_is_valid(const char* a) { if (is_null(a, k_null_string)) return {}; return guarded(+[](const char* u) { return lmx::c_gyearmonth::is_valid(u); }, a); }
+VYR_FLAT(char*) CSharp_c_gyearmonth_get_as_string(void* self) { return guarded(+[](void* s) { return new_string(as<lmx::c_gyearmonth>(s).get_as_string()); }, self); }
+VYR_FLAT(std::int32_t) CSharp_c_gyearmonth_get_total_offset_mins(void* self) { return guarded(+[](void* s) { return as<lmx::c_gyearmonth>(s).get_total_offset_mins(); }, self); }
+VYR_FLAT(void) CSharp_c_gyearmonth_set_total_offset_mins(void* self, std::int32_t a) { guarded(+[](void* s, std::int32_t u) { as<lmx::c_gyearmonth>(s).set_total_offset_mins(u); }, self, a); }
+VYR_FLAT(std::int32_t) CSharp_c_gyearmonth_get_is_utc(void* self) { return guarded(+[](void* s) { return as<lmx::c_gyearmonth>(s).get_is_utc(); }, self); }
+VYR_FLAT(void) CSharp_c_gyearmonth_set_is_utc(void* self, std::uint32_t a) { guarded(+[](void* s, std::uint32_t u) { as<lmx::c_gyearmonth>(s).set_is_utc(to_bool(u)); }, self, a); }
+VYR_FLAT(void) CSharp_c_gyearmonth_set_offset(void* self, std::int32_t a, std::uint32_t b) { guarded(+[](void* s, std::int32_t u, std::uint32_t v) { as<lmx::c_gyearmonth>(s).set_offset(u, v); }, self, a, b); }
+VYR_FLAT(void) CSharp_c_gyearmonth_set_offset_mins(void* self, std::int32_t a, std::uint32_t b) { guarded(+[](void* s, std::int32_t u, std::uint32_t v) { as<lmx::c_gyearmonth>(s).set_offset_mins(u, v); }, self, a, b); }
+VYR_FLAT(std::int32_t) CSharp_c_gyearmonth_get_year(void* self) { return guarded(+[](void* s) { return as<lmx::c_gyearmonth>(s).get_year(); }, self); }
+VYR_FLAT(void) CSharp_c_gyearmonth_set_year(void* self, std::int32_t a) { guarded(+[](void* s, std::int32_t u) { as<lmx::c_gyearmonth>(s).set_year(u); }, self, a); }
+VYR_FLAT(std::uint32_t) CSharp_c_gyearmonth_get_month(void* self) { return guarded(+[](void* s) { return static_cast<std::uint32_t>(as<lmx::c_gyearmonth>(s).get_month()); }, self); }
+VYR_FLAT(void) CSharp_c_gyearmonth_set_month(void* self, std::uint32_t a) { guarded(+[](void* s, std::uint32_t u) { as<lmx::c_gyearmonth>(s).set_month(u); }, self, a); }
+
+// lmx::c_pattern
+VYR_FLAT(void*) CSharp_new_c_pattern(const char* a) { return guarded(+[](const char* u) -> void* { return new lmx::c_pattern(u); }, a); }
+VYR_FLAT(void) CSharp_delete_c_pattern(void* self) { destroy<lmx::c_pattern>(self); }
+VYR_FLAT(std::int32_t) CSharp_c_pattern_is_match__SWIG_0(void* self, const char* a) { if (is_null(a, k_null_string)) return {}; return guarded(+[](void* s, const char* u) { return as<lmx::c_pattern>(s).is_match(u); }, self, a); }
+VYR_FLAT(std::int32_t) CSharp_c_pattern_is_match__SWIG_1(void* self, const char16_t* a) { return guarded(+[](void* s, const char16_t* u) { return as<lmx::c_pattern>(s).is_match(wide(u)); }, self, a); }
+
+// lmx::c_time
+VYR_FLAT(void*) CSharp_new_c_time__SWIG_0() { return guarded(+[]() -> void* { return new lmx::c_time(); }); }
+VYR_FLAT(void*) CSharp_new_c_time__SWIG_1(void* a) { if (is_null(a, "lmx::c_time const & type is null")) return {}; return guarded(+[](void* u) -> void* { return new lmx::c_time(as<lmx::c_time>(u)); }, a); }
+VYR_FLAT(void) CSharp_delete_c_time(void* self) { destroy<lmx::c_time>(self); }
+VYR_FLAT(void*) CSharp_new_c_time__SWIG_3(const char* a) { if (is_null(a, k_null_string)) return {}; return guarded(+[](const char* u) -> void* { return new lmx::c_time(u); }, a); }
+VYR_FLAT(std::int32_t) CSharp_c_time_is_valid(const char* a) { if (is_null(a, k_null_string)) return {}; return guarded(+[](const char* u) { return lmx::c_time::is_valid(u); }, a); }
+VYR_FLAT(char*) CSharp_c_time_get_as_string(void* self) { return guarded(+[](void* s) { return new_string(as<lmx::c_time>(s).get_as_string()); }, self); }
+VYR_FLAT(std::int32_t) CSharp_c_time_get_total_offset_mins(void* self) { return guarded(+[](void* s) { return as<lmx::c_time>(s).get_total_offset_mins(); }, self); }
+VYR_FLAT(void) CSharp_c_time_set_total_offset_mins(void* self, std::int32_t a) { guarded(+[](void* s, std::int32_t u) { as<lmx::c_time>(s).set_total_offset_mins(u); }, self, a); }
+VYR_FLAT(std::int32_t) CSharp_c_time_get_is_utc(void* self) { return guarded(+[](void* s) { return as<lmx::c_time>(s).get_is_utc(); }, self); }
+VYR_FLAT(void) CSharp_c_time_set_is_utc(void* self, std::uint32_t a) { guarded(+[](void* s, std::uint32_t u) { as<lmx::c_time>(s).set_is_utc(to_bool(u)); }, self, a); }
+VYR_FLAT(void) CSharp_c_time_set_offset(void* self, std::int32_t a, std::uint32_t b) { guarded(+[](void* s, std::int32_t u, std::uint32_t v) { as<lmx::c_time>(s).set_offset(u, v); }, self, a, b); }
+VYR_FLAT(void) CSharp_c_time_set_offset_mins(void* self, std::int32_t a, std::uint32_t b) { guarded(+[](void* s, std::int32_t u, std::uint32_t v) { as<lmx::c_time>(s).set_offset_mins(u, v); }, self, a, b); }
+VYR_FLAT(std::uint32_t) CSharp_c_time_get_hours(void* self) { return guarded(+[](void* s) { return static_cast<std::uint32_t>(as<lmx::c_time>(s).get_hours()); }, self); }
+VYR_FLAT(void) CSharp_c_time_set_hours(void* self, std::uint32_t a) { guarded(+[](void* s, std::uint32_t u) { as<lmx::c_time>(s).set_hours(u); }, self, a); }
+VYR_FLAT(std::uint32_t) CSharp_c_time_get_mins(void* self) { return guarded(+[](void* s) { return static_cast<std::uint32_t>(as<lmx::c_time>(s).get_mins()); }, self); }
+VYR_FLAT(void) CSharp_c_time_set_mins(void* self, std::uint32_t a) { guarded(+[](void* s, std::uint32_t u) { as<lmx::c_time>(s).set_mins(u); }, self, a); }
+VYR_FLAT(float) CSharp_c_time_get_secs(void* self) { return guarded(+[](void* s) { return as<lmx::c_time>(s).get_secs(); }, self); }
+VYR_FLAT(void) CSharp_c_time_set_secs(void* self, float a) { guarded(+[](void* s, float u) { as<lmx::c_time>(s).set_secs(u); }, self, a); }
 
 // com_vyrgraph_v2::XMLDocumentResult
 VYR_FLAT(void*) CSharp_new_XMLDocumentResult(const char16_t* a, std::int32_t b) { return guarded(+[](const char16_t* u, std::int32_t v) -> void* { return new com_vyrgraph_v2::XMLDocumentResult(wide(u), static_cast<lmx::elmx_error>(v)); }, a, b); }
