@@ -22,3 +22,11 @@ if(VYR_BUILD_TOOLS)
   vyr_add_check(installed_tree ${checks}/install/check_install.sh ${CMAKE_COMMAND} ${PROJECT_BINARY_DIR}
                 ${PROJECT_SOURCE_DIR} ${CMAKE_CXX_COMPILER})
 endif()
+if(VYR_BUILD_FLAT)
+  set(flat_list ${PROJECT_SOURCE_DIR}/flat/generated/exports.txt)
+  vyr_add_check(flat_exports ${checks}/flat/check_exports.sh $<TARGET_FILE:vyr> ${flat_list})
+  vyr_add_check(flat_csharp ${checks}/flat/check_csharp.sh $<TARGET_FILE_DIR:vyr> ${PROJECT_SOURCE_DIR}
+                ${Python3_EXECUTABLE})
+  vyr_add_check(flat_windows ${checks}/flat/check_windows.sh ${PROJECT_SOURCE_DIR})
+  set_tests_properties(flat_csharp flat_windows PROPERTIES SKIP_RETURN_CODE 77)
+endif()

@@ -5,9 +5,12 @@ include(CMakePackageConfigHelpers)
 set(vyr_include_dir ${CMAKE_INSTALL_INCLUDEDIR}/vyr)
 set(vyr_package_dir ${CMAKE_INSTALL_LIBDIR}/cmake/vyr)
 
-install(TARGETS vyr EXPORT vyr-targets LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR})
+# Headers, the schema and what finds the library are for building programs; the rest is for running them.
+set(CMAKE_INSTALL_DEFAULT_COMPONENT_NAME development)
+install(TARGETS vyr EXPORT vyr-targets LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR} COMPONENT runtime
+                                               NAMELINK_COMPONENT development)
 if(VYR_BUILD_TOOLS)
-  install(TARGETS vyr_tool RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR})
+  install(TARGETS vyr_tool RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR} COMPONENT runtime)
 endif()
 
 # The runtime and the classes are public but for a few headers of the library's own sources; of the other folders it

@@ -28,6 +28,8 @@ fail() { echo "check_install.sh: $*"; exit 1; }
 
 [[ -f $prefix/share/vyr/vyr.xsd ]] || fail "the schema file is missing"
 "$prefix/bin/vyr" check "$palette" || fail "the installed command does not run"
+"$cmake" --install "$build" --prefix "$work/runtime" --component runtime >> install.log
+[[ -f $work/runtime/${libdir#"$prefix/"}/libVyrModule.so ]] || fail "C# programs do not find the library at run time"
 ! find "$prefix" -name '*.py' | grep . || fail "the generator was installed"
 
 mkdir consumer
