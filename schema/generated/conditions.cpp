@@ -481,7 +481,7 @@ constinit const s_class GeometryChoiceType::k_class = {
 };
 
 GeometryChoiceType::GeometryChoiceType() = default;
-GeometryChoiceType::GeometryChoiceType(const GeometryChoiceType& other) { lmx::copy(k_class, this, &other); }
+GeometryChoiceType::GeometryChoiceType(const GeometryChoiceType& other) : GeometryChoiceType() { lmx::copy(k_class, this, &other); }
 GeometryChoiceType::~GeometryChoiceType() { lmx::release_choice(k_class, this); }
 GeometryChoiceType& GeometryChoiceType::operator=(const GeometryChoiceType& other) { GeometryChoiceType copy(other); swap(copy); return *this; }
 void GeometryChoiceType::swap(GeometryChoiceType& other) { lmx::swap(k_class, this, &other); }
@@ -548,7 +548,7 @@ constinit const s_class IlluminationOptionsType::k_class = {
 };
 
 IlluminationOptionsType::IlluminationOptionsType() = default;
-IlluminationOptionsType::IlluminationOptionsType(const IlluminationOptionsType& other) { lmx::copy(k_class, this, &other); }
+IlluminationOptionsType::IlluminationOptionsType(const IlluminationOptionsType& other) : IlluminationOptionsType() { lmx::copy(k_class, this, &other); }
 IlluminationOptionsType::~IlluminationOptionsType() { lmx::release_choice(k_class, this); }
 IlluminationOptionsType& IlluminationOptionsType::operator=(const IlluminationOptionsType& other) { IlluminationOptionsType copy(other); swap(copy); return *this; }
 void IlluminationOptionsType::swap(IlluminationOptionsType& other) { lmx::swap(k_class, this, &other); }

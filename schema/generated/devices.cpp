@@ -370,7 +370,7 @@ constinit const s_class ProfileChoice::k_class = {
 };
 
 ProfileChoice::ProfileChoice() = default;
-ProfileChoice::ProfileChoice(const ProfileChoice& other) { lmx::copy(k_class, this, &other); }
+ProfileChoice::ProfileChoice(const ProfileChoice& other) : ProfileChoice() { lmx::copy(k_class, this, &other); }
 ProfileChoice::~ProfileChoice() { lmx::release_choice(k_class, this); }
 ProfileChoice& ProfileChoice::operator=(const ProfileChoice& other) { ProfileChoice copy(other); swap(copy); return *this; }
 void ProfileChoice::swap(ProfileChoice& other) { lmx::swap(k_class, this, &other); }
@@ -545,7 +545,7 @@ constinit const s_class ProfileType_Parameters_ValueChoice::k_class = {
 };
 
 ProfileType_Parameters_ValueChoice::ProfileType_Parameters_ValueChoice() = default;
-ProfileType_Parameters_ValueChoice::ProfileType_Parameters_ValueChoice(const ProfileType_Parameters_ValueChoice& other) { lmx::copy(k_class, this, &other); }
+ProfileType_Parameters_ValueChoice::ProfileType_Parameters_ValueChoice(const ProfileType_Parameters_ValueChoice& other) : ProfileType_Parameters_ValueChoice() { lmx::copy(k_class, this, &other); }
 ProfileType_Parameters_ValueChoice::~ProfileType_Parameters_ValueChoice() { lmx::release_choice(k_class, this); }
 ProfileType_Parameters_ValueChoice& ProfileType_Parameters_ValueChoice::operator=(const ProfileType_Parameters_ValueChoice& other) { ProfileType_Parameters_ValueChoice copy(other); swap(copy); return *this; }
 void ProfileType_Parameters_ValueChoice::swap(ProfileType_Parameters_ValueChoice& other) { lmx::swap(k_class, this, &other); }

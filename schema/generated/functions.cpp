@@ -220,7 +220,7 @@ constinit const s_class ValueChoice::k_class = {
 };
 
 ValueChoice::ValueChoice() = default;
-ValueChoice::ValueChoice(const ValueChoice& other) { lmx::copy(k_class, this, &other); }
+ValueChoice::ValueChoice(const ValueChoice& other) : ValueChoice() { lmx::copy(k_class, this, &other); }
 ValueChoice::~ValueChoice() { lmx::release_choice(k_class, this); }
 ValueChoice& ValueChoice::operator=(const ValueChoice& other) { ValueChoice copy(other); swap(copy); return *this; }
 void ValueChoice::swap(ValueChoice& other) { lmx::swap(k_class, this, &other); }

@@ -141,7 +141,7 @@ constinit const s_class sg_ColorSpace::k_class = {
 };
 
 sg_ColorSpace::sg_ColorSpace() = default;
-sg_ColorSpace::sg_ColorSpace(const sg_ColorSpace& other) { lmx::copy(k_class, this, &other); }
+sg_ColorSpace::sg_ColorSpace(const sg_ColorSpace& other) : sg_ColorSpace() { lmx::copy(k_class, this, &other); }
 sg_ColorSpace::~sg_ColorSpace() { lmx::release_choice(k_class, this); }
 sg_ColorSpace& sg_ColorSpace::operator=(const sg_ColorSpace& other) { sg_ColorSpace copy(other); swap(copy); return *this; }
 void sg_ColorSpace::swap(sg_ColorSpace& other) { lmx::swap(k_class, this, &other); }
@@ -266,7 +266,7 @@ constinit const s_class sg_Substrate::k_class = {
 };
 
 sg_Substrate::sg_Substrate() = default;
-sg_Substrate::sg_Substrate(const sg_Substrate& other) { lmx::copy(k_class, this, &other); }
+sg_Substrate::sg_Substrate(const sg_Substrate& other) : sg_Substrate() { lmx::copy(k_class, this, &other); }
 sg_Substrate::~sg_Substrate() { lmx::release_choice(k_class, this); }
 sg_Substrate& sg_Substrate::operator=(const sg_Substrate& other) { sg_Substrate copy(other); swap(copy); return *this; }
 void sg_Substrate::swap(sg_Substrate& other) { lmx::swap(k_class, this, &other); }
@@ -331,7 +331,7 @@ constinit const s_class sg_Sample::k_class = {
 };
 
 sg_Sample::sg_Sample() = default;
-sg_Sample::sg_Sample(const sg_Sample& other) { lmx::copy(k_class, this, &other); }
+sg_Sample::sg_Sample(const sg_Sample& other) : sg_Sample() { lmx::copy(k_class, this, &other); }
 sg_Sample::~sg_Sample() { lmx::release_choice(k_class, this); }
 sg_Sample& sg_Sample::operator=(const sg_Sample& other) { sg_Sample copy(other); swap(copy); return *this; }
 void sg_Sample::swap(sg_Sample& other) { lmx::swap(k_class, this, &other); }
@@ -430,7 +430,7 @@ constinit const s_class sg_Function::k_class = {
 };
 
 sg_Function::sg_Function() = default;
-sg_Function::sg_Function(const sg_Function& other) { lmx::copy(k_class, this, &other); }
+sg_Function::sg_Function(const sg_Function& other) : sg_Function() { lmx::copy(k_class, this, &other); }
 sg_Function::~sg_Function() { lmx::release_choice(k_class, this); }
 sg_Function& sg_Function::operator=(const sg_Function& other) { sg_Function copy(other); swap(copy); return *this; }
 void sg_Function::swap(sg_Function& other) { lmx::swap(k_class, this, &other); }

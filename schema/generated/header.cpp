@@ -688,7 +688,7 @@ constinit const s_class CustomAttributeType_ValueChoice::k_class = {
 };
 
 CustomAttributeType_ValueChoice::CustomAttributeType_ValueChoice() = default;
-CustomAttributeType_ValueChoice::CustomAttributeType_ValueChoice(const CustomAttributeType_ValueChoice& other) { lmx::copy(k_class, this, &other); }
+CustomAttributeType_ValueChoice::CustomAttributeType_ValueChoice(const CustomAttributeType_ValueChoice& other) : CustomAttributeType_ValueChoice() { lmx::copy(k_class, this, &other); }
 CustomAttributeType_ValueChoice::~CustomAttributeType_ValueChoice() { lmx::release_choice(k_class, this); }
 CustomAttributeType_ValueChoice& CustomAttributeType_ValueChoice::operator=(const CustomAttributeType_ValueChoice& other) { CustomAttributeType_ValueChoice copy(other); swap(copy); return *this; }
 void CustomAttributeType_ValueChoice::swap(CustomAttributeType_ValueChoice& other) { lmx::swap(k_class, this, &other); }
@@ -901,7 +901,7 @@ constinit const s_class anon_TextValue::k_class = {
 };
 
 anon_TextValue::anon_TextValue() = default;
-anon_TextValue::anon_TextValue(const anon_TextValue& other) { lmx::copy(k_class, this, &other); }
+anon_TextValue::anon_TextValue(const anon_TextValue& other) : anon_TextValue() { lmx::copy(k_class, this, &other); }
 anon_TextValue::~anon_TextValue() { lmx::release_choice(k_class, this); }
 anon_TextValue& anon_TextValue::operator=(const anon_TextValue& other) { anon_TextValue copy(other); swap(copy); return *this; }
 void anon_TextValue::swap(anon_TextValue& other) { lmx::swap(k_class, this, &other); }

@@ -597,7 +597,7 @@ constinit const s_class AxisValueChoice::k_class = {
 };
 
 AxisValueChoice::AxisValueChoice() = default;
-AxisValueChoice::AxisValueChoice(const AxisValueChoice& other) { lmx::copy(k_class, this, &other); }
+AxisValueChoice::AxisValueChoice(const AxisValueChoice& other) : AxisValueChoice() { lmx::copy(k_class, this, &other); }
 AxisValueChoice::~AxisValueChoice() { lmx::release_choice(k_class, this); }
 AxisValueChoice& AxisValueChoice::operator=(const AxisValueChoice& other) { AxisValueChoice copy(other); swap(copy); return *this; }
 void AxisValueChoice::swap(AxisValueChoice& other) { lmx::swap(k_class, this, &other); }

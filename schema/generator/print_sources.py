@@ -144,6 +144,8 @@ def life_cycle(made):
     name = made.name
     init = " init();" if made.init else ""
     base = f" : {made.base}()" if made.base else ""
+    if own_choice(made):
+        base = f" : {name}()"  # so that the destructor frees what is chosen if the copy can't be finished
     yield f"{name}::{name}() {{{init} }}" if init else f"{name}::{name}() = default;"
     yield f"{name}::{name}(const {name}& other){base} {{ lmx::copy(k_class, this, &other);{init} }}"
     yield f"{name}::~{name}() {{ lmx::release_choice(k_class, this); }}" if own_choice(made) \
