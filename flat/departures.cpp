@@ -36,28 +36,12 @@ CSharp_Revision_get_any(void* self, std::uint32_t index, const char* ns, const c
         self, index);
 }
 
-VYR_FLAT(char*) CSharp_convert_to_narrow__SWIG_0(const char16_t* source) {
-    return guarded(
-        +[](const char16_t* text) {
-            std::string target;
-            return new_string(lmx::convert(&target, wide(text)));
-        },
-        source);
-}
-
-VYR_FLAT(char16_t*) CSharp_convert_to_wide__SWIG_0(const char* source) {
-    return checked(
-        k_null_string,
-        +[](const char* text) {
-            std::u16string target;
-            return new_string(lmx::convert(&target, text));
-        },
-        source);
-}
-
 /// The target comes back as the result.
 VYR_FLAT(char*) CSharp_convert__SWIG_0(const char* target, const char16_t* source) {
-    return is_null(target, k_null_string) ? nullptr : CSharp_convert_to_narrow__SWIG_0(source);
+    return checked(
+        k_null_string,
+        +[](const char*, const char16_t* text) { return new_string(lmx::convert_to_narrow(wide(text))); }, target,
+        source);
 }
 
 }  // extern "C"

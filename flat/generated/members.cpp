@@ -256,6 +256,13 @@ VYR_FLAT(void) CSharp_delete_c_pattern(void* self) { destroy<lmx::c_pattern>(sel
 VYR_FLAT(std::int32_t) CSharp_c_pattern_is_match__SWIG_0(void* self, const char* a) { if (is_null(a, k_null_string)) return {}; return guarded(+[](void* s, const char* u) { return as<lmx::c_pattern>(s).is_match(u); }, self, a); }
 VYR_FLAT(std::int32_t) CSharp_c_pattern_is_match__SWIG_1(void* self, const char16_t* a) { return guarded(+[](void* s, const char16_t* u) { return as<lmx::c_pattern>(s).is_match(wide(u)); }, self, a); }
 
+// lmx::c_pattern_null
+VYR_FLAT(void*) CSharp_new_c_pattern_null__SWIG_0() { return guarded(+[]() -> void* { return new lmx::c_pattern_null(); }); }
+VYR_FLAT(void*) CSharp_new_c_pattern_null__SWIG_1(void* a) { if (is_null(a, "lmx::c_pattern_null const & type is null")) return {}; return guarded(+[](void* u) -> void* { return new lmx::c_pattern_null(as<lmx::c_pattern_null>(u)); }, a); }
+VYR_FLAT(void) CSharp_delete_c_pattern_null(void* self) { destroy<lmx::c_pattern_null>(self); }
+VYR_FLAT(std::int32_t) CSharp_c_pattern_null_is_match__SWIG_0(void* self, const char* a) { if (is_null(a, k_null_string)) return {}; return guarded(+[](void* s, const char* u) { return as<lmx::c_pattern_null>(s).is_match(u); }, self, a); }
+VYR_FLAT(std::int32_t) CSharp_c_pattern_null_is_match__SWIG_1(void* self, const char16_t* a) { return guarded(+[](void* s, const char16_t* u) { return as<lmx::c_pattern_null>(s).is_match(wide(u)); }, self, a); }
+
 // lmx::c_time
 VYR_FLAT(void*) CSharp_new_c_time__SWIG_0() { return guarded(+[]() -> void* { return new lmx::c_time(); }); }
 VYR_FLAT(void*) CSharp_new_c_time__SWIG_1(void* a) { if (is_null(a, "lmx::c_time const & type is null")) return {}; return guarded(+[](void* u) -> void* { return new lmx::c_time(as<lmx::c_time>(u)); }, a); }
@@ -292,6 +299,8 @@ VYR_FLAT(void*) CSharp_new_ColorSpaceCMYKPlusN__SWIG_2(const char* a, void* b) {
 VYR_FLAT(void*) CSharp_new_ColorSpaceCMYKPlusN__SWIG_3(const char* a, std::uint32_t b, void* c) { return guarded(+[](const char* u, std::uint32_t v, void* w) -> void* { return new com_vyrgraph_v2::ColorSpaceCMYKPlusN(u, v, static_cast<lmx::elmx_error*>(w)); }, a, b, c); }
 
 // lmx
+VYR_FLAT(char*) CSharp_convert_to_narrow__SWIG_0(const char16_t* a) { return guarded(+[](const char16_t* u) { return new_string(lmx::convert_to_narrow(wide(u))); }, a); }
+VYR_FLAT(char16_t*) CSharp_convert_to_wide__SWIG_0(const char* a) { if (is_null(a, k_null_string)) return {}; return guarded(+[](const char* u) { return new_string(lmx::convert_to_wide(u)); }, a); }
 VYR_FLAT(std::int32_t) CSharp_fraction_digits(const char* a) { if (is_null(a, k_null_string)) return {}; return guarded(+[](const char* u) { return lmx::fraction_digits(u); }, a); }
 VYR_FLAT(const char*) CSharp_get_error_description(std::int32_t a) { return guarded(+[](std::int32_t u) { return lmx::get_error_description(static_cast<lmx::elmx_error>(u)); }, a); }
 VYR_FLAT(std::int32_t) CSharp_is_max_length_ok(const char* a, std::uint32_t b) { if (is_null(a, k_null_string)) return {}; return guarded(+[](const char* u, std::uint32_t v) { return lmx::is_max_length_ok(u, v); }, a, b); }

@@ -141,7 +141,7 @@ class Calls:
         for name, report in checks.items():
             null = {**arguments, name: "IntPtr.Zero" if dict(map(reversed, made.parameters))[name] == "void*" else "null"}
             text = f"{made.stem}({', '.join(null.values())})"
-            zero = {"void": None, "void*": "IntPtr.Zero", "char*": "IntPtr.Zero"}.get(made.result, "0")
+            zero = {"void": None, "void*": "IntPtr.Zero", "char*": "IntPtr.Zero", "char16_t*": "null"}.get(made.result, "0")
             report = '"null string"' if report == "k_null_string" else report
             yield f"{text}; CheckReport(true, {report}, {what});" if zero is None else \
                 f"CheckReport({text} == {zero}, {report}, {what});"
