@@ -14,7 +14,7 @@
 /// 4. Callbacks are registered before the first call. Only that for null arguments is ever called.
 /// 5. Strings that are returned belong to the caller: the length in bytes as a 32-bit number right ahead of the
 ///    text, and two zero bytes behind it. A managed marshaller frees them; others call VyrModule_FreeString.
-///    Identities and error descriptions aren't copied and stay the library's.
+///    What id_get and get_error_description return isn't copied and stays the library's.
 /// 6. Encoding. Wide text is UTF-16 and ends with a zero unit, narrow text is UTF-8 and ends with a zero byte.
 /// 7. Widths. Integers, enumerations and result codes have 32 bits, sizes and indexes too, unsigned. A boolean
 ///    result is a whole 32-bit 0 or 1; of a boolean argument only the low byte counts.

@@ -14,6 +14,8 @@ namespace flat {
 /// what 32 bits can say.
 char16_t* new_string(std::u16string_view text);
 char* new_string(std::string_view text);
+/// Null stays null.
+inline char* new_string(const char* text) { return text == nullptr ? nullptr : new_string(std::string_view(text)); }
 
 /// The text of a wide argument: null is empty.
 std::u16string wide(const char16_t* text);

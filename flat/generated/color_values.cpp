@@ -44,7 +44,7 @@ VYR_FLAT(void) CSharp_ColorSpaceType_swap(void* self, void* other) { checked("co
 VYR_FLAT(void) CSharp_ColorSpaceType_reset(void* self) { guarded(+[](void* s) { return as<ColorSpaceType>(s).reset(); }, self); }
 VYR_FLAT(std::int32_t) CSharp_ColorSpaceType_is_occurs_ok(void* self) { return as<ColorSpaceType>(self).is_occurs_ok(); }
 VYR_FLAT(void*) CSharp_ColorSpaceType_clone(void* self) { return guarded(+[](void* s) -> void* { return as<ColorSpaceType>(s).clone(); }, self); }
-VYR_FLAT(const char*) CSharp_ColorSpaceType_getid(void* self) { return as<ColorSpaceType>(self).getid(); }
+VYR_FLAT(char*) CSharp_ColorSpaceType_getid(void* self) { return new_string(as<ColorSpaceType>(self).getid()); }
 VYR_FLAT(std::int32_t) CSharp_ColorSpaceType_has_id(void* self, const char* identity) { return as<ColorSpaceType>(self).has_id(identity); }
 VYR_FLAT(const char*) CSharp_ColorSpaceType_id_get() { return ColorSpaceType::id; }
 VYR_FLAT(void) CSharp_ColorSpaceType_id_set(const char* identity) { set_identity(&ColorSpaceType::id, identity); }
@@ -90,7 +90,7 @@ VYR_FLAT(void) CSharp_ColorSpaceCIELabType_swap(void* self, void* other) { check
 VYR_FLAT(void) CSharp_ColorSpaceCIELabType_reset(void* self) { guarded(+[](void* s) { return as<ColorSpaceCIELabType>(s).reset(); }, self); }
 VYR_FLAT(std::int32_t) CSharp_ColorSpaceCIELabType_is_occurs_ok(void* self) { return as<ColorSpaceCIELabType>(self).is_occurs_ok(); }
 VYR_FLAT(void*) CSharp_ColorSpaceCIELabType_clone(void* self) { return guarded(+[](void* s) -> void* { return as<ColorSpaceCIELabType>(s).clone(); }, self); }
-VYR_FLAT(const char*) CSharp_ColorSpaceCIELabType_getid(void* self) { return as<ColorSpaceCIELabType>(self).getid(); }
+VYR_FLAT(char*) CSharp_ColorSpaceCIELabType_getid(void* self) { return new_string(as<ColorSpaceCIELabType>(self).getid()); }
 VYR_FLAT(std::int32_t) CSharp_ColorSpaceCIELabType_has_id(void* self, const char* identity) { return as<ColorSpaceCIELabType>(self).has_id(identity); }
 VYR_FLAT(const char*) CSharp_ColorSpaceCIELabType_id_get() { return ColorSpaceCIELabType::id; }
 VYR_FLAT(void) CSharp_ColorSpaceCIELabType_id_set(const char* identity) { set_identity(&ColorSpaceCIELabType::id, identity); }
@@ -116,7 +116,7 @@ VYR_FLAT(void) CSharp_ColorSpaceCIELChType_swap(void* self, void* other) { check
 VYR_FLAT(void) CSharp_ColorSpaceCIELChType_reset(void* self) { guarded(+[](void* s) { return as<ColorSpaceCIELChType>(s).reset(); }, self); }
 VYR_FLAT(std::int32_t) CSharp_ColorSpaceCIELChType_is_occurs_ok(void* self) { return as<ColorSpaceCIELChType>(self).is_occurs_ok(); }
 VYR_FLAT(void*) CSharp_ColorSpaceCIELChType_clone(void* self) { return guarded(+[](void* s) -> void* { return as<ColorSpaceCIELChType>(s).clone(); }, self); }
-VYR_FLAT(const char*) CSharp_ColorSpaceCIELChType_getid(void* self) { return as<ColorSpaceCIELChType>(self).getid(); }
+VYR_FLAT(char*) CSharp_ColorSpaceCIELChType_getid(void* self) { return new_string(as<ColorSpaceCIELChType>(self).getid()); }
 VYR_FLAT(std::int32_t) CSharp_ColorSpaceCIELChType_has_id(void* self, const char* identity) { return as<ColorSpaceCIELChType>(self).has_id(identity); }
 VYR_FLAT(const char*) CSharp_ColorSpaceCIELChType_id_get() { return ColorSpaceCIELChType::id; }
 VYR_FLAT(void) CSharp_ColorSpaceCIELChType_id_set(const char* identity) { set_identity(&ColorSpaceCIELChType::id, identity); }
@@ -142,7 +142,7 @@ VYR_FLAT(void) CSharp_ColorSpaceCIELuvType_swap(void* self, void* other) { check
 VYR_FLAT(void) CSharp_ColorSpaceCIELuvType_reset(void* self) { guarded(+[](void* s) { return as<ColorSpaceCIELuvType>(s).reset(); }, self); }
 VYR_FLAT(std::int32_t) CSharp_ColorSpaceCIELuvType_is_occurs_ok(void* self) { return as<ColorSpaceCIELuvType>(self).is_occurs_ok(); }
 VYR_FLAT(void*) CSharp_ColorSpaceCIELuvType_clone(void* self) { return guarded(+[](void* s) -> void* { return as<ColorSpaceCIELuvType>(s).clone(); }, self); }
-VYR_FLAT(const char*) CSharp_ColorSpaceCIELuvType_getid(void* self) { return as<ColorSpaceCIELuvType>(self).getid(); }
+VYR_FLAT(char*) CSharp_ColorSpaceCIELuvType_getid(void* self) { return new_string(as<ColorSpaceCIELuvType>(self).getid()); }
 VYR_FLAT(std::int32_t) CSharp_ColorSpaceCIELuvType_has_id(void* self, const char* identity) { return as<ColorSpaceCIELuvType>(self).has_id(identity); }
 VYR_FLAT(const char*) CSharp_ColorSpaceCIELuvType_id_get() { return ColorSpaceCIELuvType::id; }
 VYR_FLAT(void) CSharp_ColorSpaceCIELuvType_id_set(const char* identity) { set_identity(&ColorSpaceCIELuvType::id, identity); }
@@ -168,7 +168,7 @@ VYR_FLAT(void) CSharp_ColorSpaceCIEXYZType_swap(void* self, void* other) { check
 VYR_FLAT(void) CSharp_ColorSpaceCIEXYZType_reset(void* self) { guarded(+[](void* s) { return as<ColorSpaceCIEXYZType>(s).reset(); }, self); }
 VYR_FLAT(std::int32_t) CSharp_ColorSpaceCIEXYZType_is_occurs_ok(void* self) { return as<ColorSpaceCIEXYZType>(self).is_occurs_ok(); }
 VYR_FLAT(void*) CSharp_ColorSpaceCIEXYZType_clone(void* self) { return guarded(+[](void* s) -> void* { return as<ColorSpaceCIEXYZType>(s).clone(); }, self); }
-VYR_FLAT(const char*) CSharp_ColorSpaceCIEXYZType_getid(void* self) { return as<ColorSpaceCIEXYZType>(self).getid(); }
+VYR_FLAT(char*) CSharp_ColorSpaceCIEXYZType_getid(void* self) { return new_string(as<ColorSpaceCIEXYZType>(self).getid()); }
 VYR_FLAT(std::int32_t) CSharp_ColorSpaceCIEXYZType_has_id(void* self, const char* identity) { return as<ColorSpaceCIEXYZType>(self).has_id(identity); }
 VYR_FLAT(const char*) CSharp_ColorSpaceCIEXYZType_id_get() { return ColorSpaceCIEXYZType::id; }
 VYR_FLAT(void) CSharp_ColorSpaceCIEXYZType_id_set(const char* identity) { set_identity(&ColorSpaceCIEXYZType::id, identity); }
@@ -194,7 +194,7 @@ VYR_FLAT(void) CSharp_ColorSpaceCIExyYType_swap(void* self, void* other) { check
 VYR_FLAT(void) CSharp_ColorSpaceCIExyYType_reset(void* self) { guarded(+[](void* s) { return as<ColorSpaceCIExyYType>(s).reset(); }, self); }
 VYR_FLAT(std::int32_t) CSharp_ColorSpaceCIExyYType_is_occurs_ok(void* self) { return as<ColorSpaceCIExyYType>(self).is_occurs_ok(); }
 VYR_FLAT(void*) CSharp_ColorSpaceCIExyYType_clone(void* self) { return guarded(+[](void* s) -> void* { return as<ColorSpaceCIExyYType>(s).clone(); }, self); }
-VYR_FLAT(const char*) CSharp_ColorSpaceCIExyYType_getid(void* self) { return as<ColorSpaceCIExyYType>(self).getid(); }
+VYR_FLAT(char*) CSharp_ColorSpaceCIExyYType_getid(void* self) { return new_string(as<ColorSpaceCIExyYType>(self).getid()); }
 VYR_FLAT(std::int32_t) CSharp_ColorSpaceCIExyYType_has_id(void* self, const char* identity) { return as<ColorSpaceCIExyYType>(self).has_id(identity); }
 VYR_FLAT(const char*) CSharp_ColorSpaceCIExyYType_id_get() { return ColorSpaceCIExyYType::id; }
 VYR_FLAT(void) CSharp_ColorSpaceCIExyYType_id_set(const char* identity) { set_identity(&ColorSpaceCIExyYType::id, identity); }
@@ -220,7 +220,7 @@ VYR_FLAT(void) CSharp_ColorSpaceEmissiveCIEXYZType_swap(void* self, void* other)
 VYR_FLAT(void) CSharp_ColorSpaceEmissiveCIEXYZType_reset(void* self) { guarded(+[](void* s) { return as<ColorSpaceEmissiveCIEXYZType>(s).reset(); }, self); }
 VYR_FLAT(std::int32_t) CSharp_ColorSpaceEmissiveCIEXYZType_is_occurs_ok(void* self) { return as<ColorSpaceEmissiveCIEXYZType>(self).is_occurs_ok(); }
 VYR_FLAT(void*) CSharp_ColorSpaceEmissiveCIEXYZType_clone(void* self) { return guarded(+[](void* s) -> void* { return as<ColorSpaceEmissiveCIEXYZType>(s).clone(); }, self); }
-VYR_FLAT(const char*) CSharp_ColorSpaceEmissiveCIEXYZType_getid(void* self) { return as<ColorSpaceEmissiveCIEXYZType>(self).getid(); }
+VYR_FLAT(char*) CSharp_ColorSpaceEmissiveCIEXYZType_getid(void* self) { return new_string(as<ColorSpaceEmissiveCIEXYZType>(self).getid()); }
 VYR_FLAT(std::int32_t) CSharp_ColorSpaceEmissiveCIEXYZType_has_id(void* self, const char* identity) { return as<ColorSpaceEmissiveCIEXYZType>(self).has_id(identity); }
 VYR_FLAT(const char*) CSharp_ColorSpaceEmissiveCIEXYZType_id_get() { return ColorSpaceEmissiveCIEXYZType::id; }
 VYR_FLAT(void) CSharp_ColorSpaceEmissiveCIEXYZType_id_set(const char* identity) { set_identity(&ColorSpaceEmissiveCIEXYZType::id, identity); }
@@ -246,7 +246,7 @@ VYR_FLAT(void) CSharp_ColorSpaceEmissiveCIExyYType_swap(void* self, void* other)
 VYR_FLAT(void) CSharp_ColorSpaceEmissiveCIExyYType_reset(void* self) { guarded(+[](void* s) { return as<ColorSpaceEmissiveCIExyYType>(s).reset(); }, self); }
 VYR_FLAT(std::int32_t) CSharp_ColorSpaceEmissiveCIExyYType_is_occurs_ok(void* self) { return as<ColorSpaceEmissiveCIExyYType>(self).is_occurs_ok(); }
 VYR_FLAT(void*) CSharp_ColorSpaceEmissiveCIExyYType_clone(void* self) { return guarded(+[](void* s) -> void* { return as<ColorSpaceEmissiveCIExyYType>(s).clone(); }, self); }
-VYR_FLAT(const char*) CSharp_ColorSpaceEmissiveCIExyYType_getid(void* self) { return as<ColorSpaceEmissiveCIExyYType>(self).getid(); }
+VYR_FLAT(char*) CSharp_ColorSpaceEmissiveCIExyYType_getid(void* self) { return new_string(as<ColorSpaceEmissiveCIExyYType>(self).getid()); }
 VYR_FLAT(std::int32_t) CSharp_ColorSpaceEmissiveCIExyYType_has_id(void* self, const char* identity) { return as<ColorSpaceEmissiveCIExyYType>(self).has_id(identity); }
 VYR_FLAT(const char*) CSharp_ColorSpaceEmissiveCIExyYType_id_get() { return ColorSpaceEmissiveCIExyYType::id; }
 VYR_FLAT(void) CSharp_ColorSpaceEmissiveCIExyYType_id_set(const char* identity) { set_identity(&ColorSpaceEmissiveCIExyYType::id, identity); }

@@ -66,7 +66,7 @@ VYR_FLAT(void) CSharp_ColorSpaceSpecificationType_swap(void* self, void* other) 
 VYR_FLAT(void) CSharp_ColorSpaceSpecificationType_reset(void* self) { guarded(+[](void* s) { return as<ColorSpaceSpecificationType>(s).reset(); }, self); }
 VYR_FLAT(std::int32_t) CSharp_ColorSpaceSpecificationType_is_occurs_ok(void* self) { return as<ColorSpaceSpecificationType>(self).is_occurs_ok(); }
 VYR_FLAT(void*) CSharp_ColorSpaceSpecificationType_clone(void* self) { return guarded(+[](void* s) -> void* { return as<ColorSpaceSpecificationType>(s).clone(); }, self); }
-VYR_FLAT(const char*) CSharp_ColorSpaceSpecificationType_getid(void* self) { return as<ColorSpaceSpecificationType>(self).getid(); }
+VYR_FLAT(char*) CSharp_ColorSpaceSpecificationType_getid(void* self) { return new_string(as<ColorSpaceSpecificationType>(self).getid()); }
 VYR_FLAT(std::int32_t) CSharp_ColorSpaceSpecificationType_has_id(void* self, const char* identity) { return as<ColorSpaceSpecificationType>(self).has_id(identity); }
 VYR_FLAT(const char*) CSharp_ColorSpaceSpecificationType_id_get() { return ColorSpaceSpecificationType::id; }
 VYR_FLAT(void) CSharp_ColorSpaceSpecificationType_id_set(const char* identity) { set_identity(&ColorSpaceSpecificationType::id, identity); }
@@ -134,7 +134,7 @@ VYR_FLAT(void) CSharp_ColorSpaceSpecificationSpectrumType_swap(void* self, void*
 VYR_FLAT(void) CSharp_ColorSpaceSpecificationSpectrumType_reset(void* self) { guarded(+[](void* s) { return as<ColorSpaceSpecificationSpectrumType>(s).reset(); }, self); }
 VYR_FLAT(std::int32_t) CSharp_ColorSpaceSpecificationSpectrumType_is_occurs_ok(void* self) { return as<ColorSpaceSpecificationSpectrumType>(self).is_occurs_ok(); }
 VYR_FLAT(void*) CSharp_ColorSpaceSpecificationSpectrumType_clone(void* self) { return guarded(+[](void* s) -> void* { return as<ColorSpaceSpecificationSpectrumType>(s).clone(); }, self); }
-VYR_FLAT(const char*) CSharp_ColorSpaceSpecificationSpectrumType_getid(void* self) { return as<ColorSpaceSpecificationSpectrumType>(self).getid(); }
+VYR_FLAT(char*) CSharp_ColorSpaceSpecificationSpectrumType_getid(void* self) { return new_string(as<ColorSpaceSpecificationSpectrumType>(self).getid()); }
 VYR_FLAT(std::int32_t) CSharp_ColorSpaceSpecificationSpectrumType_has_id(void* self, const char* identity) { return as<ColorSpaceSpecificationSpectrumType>(self).has_id(identity); }
 VYR_FLAT(const char*) CSharp_ColorSpaceSpecificationSpectrumType_id_get() { return ColorSpaceSpecificationSpectrumType::id; }
 VYR_FLAT(void) CSharp_ColorSpaceSpecificationSpectrumType_id_set(const char* identity) { set_identity(&ColorSpaceSpecificationSpectrumType::id, identity); }
@@ -151,7 +151,7 @@ VYR_FLAT(void) CSharp_ColorSpaceSpecificationEmissiveType_swap(void* self, void*
 VYR_FLAT(void) CSharp_ColorSpaceSpecificationEmissiveType_reset(void* self) { guarded(+[](void* s) { return as<ColorSpaceSpecificationEmissiveType>(s).reset(); }, self); }
 VYR_FLAT(std::int32_t) CSharp_ColorSpaceSpecificationEmissiveType_is_occurs_ok(void* self) { return as<ColorSpaceSpecificationEmissiveType>(self).is_occurs_ok(); }
 VYR_FLAT(void*) CSharp_ColorSpaceSpecificationEmissiveType_clone(void* self) { return guarded(+[](void* s) -> void* { return as<ColorSpaceSpecificationEmissiveType>(s).clone(); }, self); }
-VYR_FLAT(const char*) CSharp_ColorSpaceSpecificationEmissiveType_getid(void* self) { return as<ColorSpaceSpecificationEmissiveType>(self).getid(); }
+VYR_FLAT(char*) CSharp_ColorSpaceSpecificationEmissiveType_getid(void* self) { return new_string(as<ColorSpaceSpecificationEmissiveType>(self).getid()); }
 VYR_FLAT(std::int32_t) CSharp_ColorSpaceSpecificationEmissiveType_has_id(void* self, const char* identity) { return as<ColorSpaceSpecificationEmissiveType>(self).has_id(identity); }
 VYR_FLAT(const char*) CSharp_ColorSpaceSpecificationEmissiveType_id_get() { return ColorSpaceSpecificationEmissiveType::id; }
 VYR_FLAT(void) CSharp_ColorSpaceSpecificationEmissiveType_id_set(const char* identity) { set_identity(&ColorSpaceSpecificationEmissiveType::id, identity); }
@@ -212,7 +212,7 @@ VYR_FLAT(void) CSharp_ColorSpaceSpecificationSpectrumGenericType_swap(void* self
 VYR_FLAT(void) CSharp_ColorSpaceSpecificationSpectrumGenericType_reset(void* self) { guarded(+[](void* s) { return as<ColorSpaceSpecificationSpectrumGenericType>(s).reset(); }, self); }
 VYR_FLAT(std::int32_t) CSharp_ColorSpaceSpecificationSpectrumGenericType_is_occurs_ok(void* self) { return as<ColorSpaceSpecificationSpectrumGenericType>(self).is_occurs_ok(); }
 VYR_FLAT(void*) CSharp_ColorSpaceSpecificationSpectrumGenericType_clone(void* self) { return guarded(+[](void* s) -> void* { return as<ColorSpaceSpecificationSpectrumGenericType>(s).clone(); }, self); }
-VYR_FLAT(const char*) CSharp_ColorSpaceSpecificationSpectrumGenericType_getid(void* self) { return as<ColorSpaceSpecificationSpectrumGenericType>(self).getid(); }
+VYR_FLAT(char*) CSharp_ColorSpaceSpecificationSpectrumGenericType_getid(void* self) { return new_string(as<ColorSpaceSpecificationSpectrumGenericType>(self).getid()); }
 VYR_FLAT(std::int32_t) CSharp_ColorSpaceSpecificationSpectrumGenericType_has_id(void* self, const char* identity) { return as<ColorSpaceSpecificationSpectrumGenericType>(self).has_id(identity); }
 VYR_FLAT(const char*) CSharp_ColorSpaceSpecificationSpectrumGenericType_id_get() { return ColorSpaceSpecificationSpectrumGenericType::id; }
 VYR_FLAT(void) CSharp_ColorSpaceSpecificationSpectrumGenericType_id_set(const char* identity) { set_identity(&ColorSpaceSpecificationSpectrumGenericType::id, identity); }
@@ -256,7 +256,7 @@ VYR_FLAT(void) CSharp_ColorSpaceSpecificationSpectrumTristimulusType_swap(void* 
 VYR_FLAT(void) CSharp_ColorSpaceSpecificationSpectrumTristimulusType_reset(void* self) { guarded(+[](void* s) { return as<ColorSpaceSpecificationSpectrumTristimulusType>(s).reset(); }, self); }
 VYR_FLAT(std::int32_t) CSharp_ColorSpaceSpecificationSpectrumTristimulusType_is_occurs_ok(void* self) { return as<ColorSpaceSpecificationSpectrumTristimulusType>(self).is_occurs_ok(); }
 VYR_FLAT(void*) CSharp_ColorSpaceSpecificationSpectrumTristimulusType_clone(void* self) { return guarded(+[](void* s) -> void* { return as<ColorSpaceSpecificationSpectrumTristimulusType>(s).clone(); }, self); }
-VYR_FLAT(const char*) CSharp_ColorSpaceSpecificationSpectrumTristimulusType_getid(void* self) { return as<ColorSpaceSpecificationSpectrumTristimulusType>(self).getid(); }
+VYR_FLAT(char*) CSharp_ColorSpaceSpecificationSpectrumTristimulusType_getid(void* self) { return new_string(as<ColorSpaceSpecificationSpectrumTristimulusType>(self).getid()); }
 VYR_FLAT(std::int32_t) CSharp_ColorSpaceSpecificationSpectrumTristimulusType_has_id(void* self, const char* identity) { return as<ColorSpaceSpecificationSpectrumTristimulusType>(self).has_id(identity); }
 VYR_FLAT(const char*) CSharp_ColorSpaceSpecificationSpectrumTristimulusType_id_get() { return ColorSpaceSpecificationSpectrumTristimulusType::id; }
 VYR_FLAT(void) CSharp_ColorSpaceSpecificationSpectrumTristimulusType_id_set(const char* identity) { set_identity(&ColorSpaceSpecificationSpectrumTristimulusType::id, identity); }
@@ -290,7 +290,7 @@ VYR_FLAT(void) CSharp_ColorSpaceSpecificationSpectrumSpectralType_swap(void* sel
 VYR_FLAT(void) CSharp_ColorSpaceSpecificationSpectrumSpectralType_reset(void* self) { guarded(+[](void* s) { return as<ColorSpaceSpecificationSpectrumSpectralType>(s).reset(); }, self); }
 VYR_FLAT(std::int32_t) CSharp_ColorSpaceSpecificationSpectrumSpectralType_is_occurs_ok(void* self) { return as<ColorSpaceSpecificationSpectrumSpectralType>(self).is_occurs_ok(); }
 VYR_FLAT(void*) CSharp_ColorSpaceSpecificationSpectrumSpectralType_clone(void* self) { return guarded(+[](void* s) -> void* { return as<ColorSpaceSpecificationSpectrumSpectralType>(s).clone(); }, self); }
-VYR_FLAT(const char*) CSharp_ColorSpaceSpecificationSpectrumSpectralType_getid(void* self) { return as<ColorSpaceSpecificationSpectrumSpectralType>(self).getid(); }
+VYR_FLAT(char*) CSharp_ColorSpaceSpecificationSpectrumSpectralType_getid(void* self) { return new_string(as<ColorSpaceSpecificationSpectrumSpectralType>(self).getid()); }
 VYR_FLAT(std::int32_t) CSharp_ColorSpaceSpecificationSpectrumSpectralType_has_id(void* self, const char* identity) { return as<ColorSpaceSpecificationSpectrumSpectralType>(self).has_id(identity); }
 VYR_FLAT(const char*) CSharp_ColorSpaceSpecificationSpectrumSpectralType_id_get() { return ColorSpaceSpecificationSpectrumSpectralType::id; }
 VYR_FLAT(void) CSharp_ColorSpaceSpecificationSpectrumSpectralType_id_set(const char* identity) { set_identity(&ColorSpaceSpecificationSpectrumSpectralType::id, identity); }
@@ -312,7 +312,7 @@ VYR_FLAT(void) CSharp_ColorSpaceSpecificationEmissiveGenericType_swap(void* self
 VYR_FLAT(void) CSharp_ColorSpaceSpecificationEmissiveGenericType_reset(void* self) { guarded(+[](void* s) { return as<ColorSpaceSpecificationEmissiveGenericType>(s).reset(); }, self); }
 VYR_FLAT(std::int32_t) CSharp_ColorSpaceSpecificationEmissiveGenericType_is_occurs_ok(void* self) { return as<ColorSpaceSpecificationEmissiveGenericType>(self).is_occurs_ok(); }
 VYR_FLAT(void*) CSharp_ColorSpaceSpecificationEmissiveGenericType_clone(void* self) { return guarded(+[](void* s) -> void* { return as<ColorSpaceSpecificationEmissiveGenericType>(s).clone(); }, self); }
-VYR_FLAT(const char*) CSharp_ColorSpaceSpecificationEmissiveGenericType_getid(void* self) { return as<ColorSpaceSpecificationEmissiveGenericType>(self).getid(); }
+VYR_FLAT(char*) CSharp_ColorSpaceSpecificationEmissiveGenericType_getid(void* self) { return new_string(as<ColorSpaceSpecificationEmissiveGenericType>(self).getid()); }
 VYR_FLAT(std::int32_t) CSharp_ColorSpaceSpecificationEmissiveGenericType_has_id(void* self, const char* identity) { return as<ColorSpaceSpecificationEmissiveGenericType>(self).has_id(identity); }
 VYR_FLAT(const char*) CSharp_ColorSpaceSpecificationEmissiveGenericType_id_get() { return ColorSpaceSpecificationEmissiveGenericType::id; }
 VYR_FLAT(void) CSharp_ColorSpaceSpecificationEmissiveGenericType_id_set(const char* identity) { set_identity(&ColorSpaceSpecificationEmissiveGenericType::id, identity); }
@@ -356,7 +356,7 @@ VYR_FLAT(void) CSharp_ColorSpaceSpecificationEmissiveTristimulusType_swap(void* 
 VYR_FLAT(void) CSharp_ColorSpaceSpecificationEmissiveTristimulusType_reset(void* self) { guarded(+[](void* s) { return as<ColorSpaceSpecificationEmissiveTristimulusType>(s).reset(); }, self); }
 VYR_FLAT(std::int32_t) CSharp_ColorSpaceSpecificationEmissiveTristimulusType_is_occurs_ok(void* self) { return as<ColorSpaceSpecificationEmissiveTristimulusType>(self).is_occurs_ok(); }
 VYR_FLAT(void*) CSharp_ColorSpaceSpecificationEmissiveTristimulusType_clone(void* self) { return guarded(+[](void* s) -> void* { return as<ColorSpaceSpecificationEmissiveTristimulusType>(s).clone(); }, self); }
-VYR_FLAT(const char*) CSharp_ColorSpaceSpecificationEmissiveTristimulusType_getid(void* self) { return as<ColorSpaceSpecificationEmissiveTristimulusType>(self).getid(); }
+VYR_FLAT(char*) CSharp_ColorSpaceSpecificationEmissiveTristimulusType_getid(void* self) { return new_string(as<ColorSpaceSpecificationEmissiveTristimulusType>(self).getid()); }
 VYR_FLAT(std::int32_t) CSharp_ColorSpaceSpecificationEmissiveTristimulusType_has_id(void* self, const char* identity) { return as<ColorSpaceSpecificationEmissiveTristimulusType>(self).has_id(identity); }
 VYR_FLAT(const char*) CSharp_ColorSpaceSpecificationEmissiveTristimulusType_id_get() { return ColorSpaceSpecificationEmissiveTristimulusType::id; }
 VYR_FLAT(void) CSharp_ColorSpaceSpecificationEmissiveTristimulusType_id_set(const char* identity) { set_identity(&ColorSpaceSpecificationEmissiveTristimulusType::id, identity); }
@@ -390,7 +390,7 @@ VYR_FLAT(void) CSharp_ColorSpaceSpecificationEmissiveSpectralType_swap(void* sel
 VYR_FLAT(void) CSharp_ColorSpaceSpecificationEmissiveSpectralType_reset(void* self) { guarded(+[](void* s) { return as<ColorSpaceSpecificationEmissiveSpectralType>(s).reset(); }, self); }
 VYR_FLAT(std::int32_t) CSharp_ColorSpaceSpecificationEmissiveSpectralType_is_occurs_ok(void* self) { return as<ColorSpaceSpecificationEmissiveSpectralType>(self).is_occurs_ok(); }
 VYR_FLAT(void*) CSharp_ColorSpaceSpecificationEmissiveSpectralType_clone(void* self) { return guarded(+[](void* s) -> void* { return as<ColorSpaceSpecificationEmissiveSpectralType>(s).clone(); }, self); }
-VYR_FLAT(const char*) CSharp_ColorSpaceSpecificationEmissiveSpectralType_getid(void* self) { return as<ColorSpaceSpecificationEmissiveSpectralType>(self).getid(); }
+VYR_FLAT(char*) CSharp_ColorSpaceSpecificationEmissiveSpectralType_getid(void* self) { return new_string(as<ColorSpaceSpecificationEmissiveSpectralType>(self).getid()); }
 VYR_FLAT(std::int32_t) CSharp_ColorSpaceSpecificationEmissiveSpectralType_has_id(void* self, const char* identity) { return as<ColorSpaceSpecificationEmissiveSpectralType>(self).has_id(identity); }
 VYR_FLAT(const char*) CSharp_ColorSpaceSpecificationEmissiveSpectralType_id_get() { return ColorSpaceSpecificationEmissiveSpectralType::id; }
 VYR_FLAT(void) CSharp_ColorSpaceSpecificationEmissiveSpectralType_id_set(const char* identity) { set_identity(&ColorSpaceSpecificationEmissiveSpectralType::id, identity); }

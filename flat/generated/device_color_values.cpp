@@ -26,7 +26,7 @@ VYR_FLAT(void) CSharp_ColorSpaceRGBType_swap(void* self, void* other) { checked(
 VYR_FLAT(void) CSharp_ColorSpaceRGBType_reset(void* self) { guarded(+[](void* s) { return as<ColorSpaceRGBType>(s).reset(); }, self); }
 VYR_FLAT(std::int32_t) CSharp_ColorSpaceRGBType_is_occurs_ok(void* self) { return as<ColorSpaceRGBType>(self).is_occurs_ok(); }
 VYR_FLAT(void*) CSharp_ColorSpaceRGBType_clone(void* self) { return guarded(+[](void* s) -> void* { return as<ColorSpaceRGBType>(s).clone(); }, self); }
-VYR_FLAT(const char*) CSharp_ColorSpaceRGBType_getid(void* self) { return as<ColorSpaceRGBType>(self).getid(); }
+VYR_FLAT(char*) CSharp_ColorSpaceRGBType_getid(void* self) { return new_string(as<ColorSpaceRGBType>(self).getid()); }
 VYR_FLAT(std::int32_t) CSharp_ColorSpaceRGBType_has_id(void* self, const char* identity) { return as<ColorSpaceRGBType>(self).has_id(identity); }
 VYR_FLAT(const char*) CSharp_ColorSpaceRGBType_id_get() { return ColorSpaceRGBType::id; }
 VYR_FLAT(void) CSharp_ColorSpaceRGBType_id_set(const char* identity) { set_identity(&ColorSpaceRGBType::id, identity); }
@@ -60,7 +60,7 @@ VYR_FLAT(void) CSharp_ColorSpaceSRGBType_swap(void* self, void* other) { checked
 VYR_FLAT(void) CSharp_ColorSpaceSRGBType_reset(void* self) { guarded(+[](void* s) { return as<ColorSpaceSRGBType>(s).reset(); }, self); }
 VYR_FLAT(std::int32_t) CSharp_ColorSpaceSRGBType_is_occurs_ok(void* self) { return as<ColorSpaceSRGBType>(self).is_occurs_ok(); }
 VYR_FLAT(void*) CSharp_ColorSpaceSRGBType_clone(void* self) { return guarded(+[](void* s) -> void* { return as<ColorSpaceSRGBType>(s).clone(); }, self); }
-VYR_FLAT(const char*) CSharp_ColorSpaceSRGBType_getid(void* self) { return as<ColorSpaceSRGBType>(self).getid(); }
+VYR_FLAT(char*) CSharp_ColorSpaceSRGBType_getid(void* self) { return new_string(as<ColorSpaceSRGBType>(self).getid()); }
 VYR_FLAT(std::int32_t) CSharp_ColorSpaceSRGBType_has_id(void* self, const char* identity) { return as<ColorSpaceSRGBType>(self).has_id(identity); }
 VYR_FLAT(const char*) CSharp_ColorSpaceSRGBType_id_get() { return ColorSpaceSRGBType::id; }
 VYR_FLAT(void) CSharp_ColorSpaceSRGBType_id_set(const char* identity) { set_identity(&ColorSpaceSRGBType::id, identity); }
@@ -94,7 +94,7 @@ VYR_FLAT(void) CSharp_ColorSpaceAdobeRGBType_swap(void* self, void* other) { che
 VYR_FLAT(void) CSharp_ColorSpaceAdobeRGBType_reset(void* self) { guarded(+[](void* s) { return as<ColorSpaceAdobeRGBType>(s).reset(); }, self); }
 VYR_FLAT(std::int32_t) CSharp_ColorSpaceAdobeRGBType_is_occurs_ok(void* self) { return as<ColorSpaceAdobeRGBType>(self).is_occurs_ok(); }
 VYR_FLAT(void*) CSharp_ColorSpaceAdobeRGBType_clone(void* self) { return guarded(+[](void* s) -> void* { return as<ColorSpaceAdobeRGBType>(s).clone(); }, self); }
-VYR_FLAT(const char*) CSharp_ColorSpaceAdobeRGBType_getid(void* self) { return as<ColorSpaceAdobeRGBType>(self).getid(); }
+VYR_FLAT(char*) CSharp_ColorSpaceAdobeRGBType_getid(void* self) { return new_string(as<ColorSpaceAdobeRGBType>(self).getid()); }
 VYR_FLAT(std::int32_t) CSharp_ColorSpaceAdobeRGBType_has_id(void* self, const char* identity) { return as<ColorSpaceAdobeRGBType>(self).has_id(identity); }
 VYR_FLAT(const char*) CSharp_ColorSpaceAdobeRGBType_id_get() { return ColorSpaceAdobeRGBType::id; }
 VYR_FLAT(void) CSharp_ColorSpaceAdobeRGBType_id_set(const char* identity) { set_identity(&ColorSpaceAdobeRGBType::id, identity); }
@@ -128,7 +128,7 @@ VYR_FLAT(void) CSharp_ColorSpaceAdobeWideGamutRGBType_swap(void* self, void* oth
 VYR_FLAT(void) CSharp_ColorSpaceAdobeWideGamutRGBType_reset(void* self) { guarded(+[](void* s) { return as<ColorSpaceAdobeWideGamutRGBType>(s).reset(); }, self); }
 VYR_FLAT(std::int32_t) CSharp_ColorSpaceAdobeWideGamutRGBType_is_occurs_ok(void* self) { return as<ColorSpaceAdobeWideGamutRGBType>(self).is_occurs_ok(); }
 VYR_FLAT(void*) CSharp_ColorSpaceAdobeWideGamutRGBType_clone(void* self) { return guarded(+[](void* s) -> void* { return as<ColorSpaceAdobeWideGamutRGBType>(s).clone(); }, self); }
-VYR_FLAT(const char*) CSharp_ColorSpaceAdobeWideGamutRGBType_getid(void* self) { return as<ColorSpaceAdobeWideGamutRGBType>(self).getid(); }
+VYR_FLAT(char*) CSharp_ColorSpaceAdobeWideGamutRGBType_getid(void* self) { return new_string(as<ColorSpaceAdobeWideGamutRGBType>(self).getid()); }
 VYR_FLAT(std::int32_t) CSharp_ColorSpaceAdobeWideGamutRGBType_has_id(void* self, const char* identity) { return as<ColorSpaceAdobeWideGamutRGBType>(self).has_id(identity); }
 VYR_FLAT(const char*) CSharp_ColorSpaceAdobeWideGamutRGBType_id_get() { return ColorSpaceAdobeWideGamutRGBType::id; }
 VYR_FLAT(void) CSharp_ColorSpaceAdobeWideGamutRGBType_id_set(const char* identity) { set_identity(&ColorSpaceAdobeWideGamutRGBType::id, identity); }
@@ -162,7 +162,7 @@ VYR_FLAT(void) CSharp_ColorSpaceCMYKType_swap(void* self, void* other) { checked
 VYR_FLAT(void) CSharp_ColorSpaceCMYKType_reset(void* self) { guarded(+[](void* s) { return as<ColorSpaceCMYKType>(s).reset(); }, self); }
 VYR_FLAT(std::int32_t) CSharp_ColorSpaceCMYKType_is_occurs_ok(void* self) { return as<ColorSpaceCMYKType>(self).is_occurs_ok(); }
 VYR_FLAT(void*) CSharp_ColorSpaceCMYKType_clone(void* self) { return guarded(+[](void* s) -> void* { return as<ColorSpaceCMYKType>(s).clone(); }, self); }
-VYR_FLAT(const char*) CSharp_ColorSpaceCMYKType_getid(void* self) { return as<ColorSpaceCMYKType>(self).getid(); }
+VYR_FLAT(char*) CSharp_ColorSpaceCMYKType_getid(void* self) { return new_string(as<ColorSpaceCMYKType>(self).getid()); }
 VYR_FLAT(std::int32_t) CSharp_ColorSpaceCMYKType_has_id(void* self, const char* identity) { return as<ColorSpaceCMYKType>(self).has_id(identity); }
 VYR_FLAT(const char*) CSharp_ColorSpaceCMYKType_id_get() { return ColorSpaceCMYKType::id; }
 VYR_FLAT(void) CSharp_ColorSpaceCMYKType_id_set(const char* identity) { set_identity(&ColorSpaceCMYKType::id, identity); }
@@ -199,7 +199,7 @@ VYR_FLAT(void) CSharp_ColorSpaceCMYKPlusNType_swap(void* self, void* other) { ch
 VYR_FLAT(void) CSharp_ColorSpaceCMYKPlusNType_reset(void* self) { guarded(+[](void* s) { return as<ColorSpaceCMYKPlusNType>(s).reset(); }, self); }
 VYR_FLAT(std::int32_t) CSharp_ColorSpaceCMYKPlusNType_is_occurs_ok(void* self) { return as<ColorSpaceCMYKPlusNType>(self).is_occurs_ok(); }
 VYR_FLAT(void*) CSharp_ColorSpaceCMYKPlusNType_clone(void* self) { return guarded(+[](void* s) -> void* { return as<ColorSpaceCMYKPlusNType>(s).clone(); }, self); }
-VYR_FLAT(const char*) CSharp_ColorSpaceCMYKPlusNType_getid(void* self) { return as<ColorSpaceCMYKPlusNType>(self).getid(); }
+VYR_FLAT(char*) CSharp_ColorSpaceCMYKPlusNType_getid(void* self) { return new_string(as<ColorSpaceCMYKPlusNType>(self).getid()); }
 VYR_FLAT(std::int32_t) CSharp_ColorSpaceCMYKPlusNType_has_id(void* self, const char* identity) { return as<ColorSpaceCMYKPlusNType>(self).has_id(identity); }
 VYR_FLAT(const char*) CSharp_ColorSpaceCMYKPlusNType_id_get() { return ColorSpaceCMYKPlusNType::id; }
 VYR_FLAT(void) CSharp_ColorSpaceCMYKPlusNType_id_set(const char* identity) { set_identity(&ColorSpaceCMYKPlusNType::id, identity); }
@@ -237,7 +237,7 @@ VYR_FLAT(void) CSharp_ColorSpaceTINTORAOctavanticType_swap(void* self, void* oth
 VYR_FLAT(void) CSharp_ColorSpaceTINTORAOctavanticType_reset(void* self) { guarded(+[](void* s) { return as<ColorSpaceTINTORAOctavanticType>(s).reset(); }, self); }
 VYR_FLAT(std::int32_t) CSharp_ColorSpaceTINTORAOctavanticType_is_occurs_ok(void* self) { return as<ColorSpaceTINTORAOctavanticType>(self).is_occurs_ok(); }
 VYR_FLAT(void*) CSharp_ColorSpaceTINTORAOctavanticType_clone(void* self) { return guarded(+[](void* s) -> void* { return as<ColorSpaceTINTORAOctavanticType>(s).clone(); }, self); }
-VYR_FLAT(const char*) CSharp_ColorSpaceTINTORAOctavanticType_getid(void* self) { return as<ColorSpaceTINTORAOctavanticType>(self).getid(); }
+VYR_FLAT(char*) CSharp_ColorSpaceTINTORAOctavanticType_getid(void* self) { return new_string(as<ColorSpaceTINTORAOctavanticType>(self).getid()); }
 VYR_FLAT(std::int32_t) CSharp_ColorSpaceTINTORAOctavanticType_has_id(void* self, const char* identity) { return as<ColorSpaceTINTORAOctavanticType>(self).has_id(identity); }
 VYR_FLAT(const char*) CSharp_ColorSpaceTINTORAOctavanticType_id_get() { return ColorSpaceTINTORAOctavanticType::id; }
 VYR_FLAT(void) CSharp_ColorSpaceTINTORAOctavanticType_id_set(const char* identity) { set_identity(&ColorSpaceTINTORAOctavanticType::id, identity); }
@@ -277,7 +277,7 @@ VYR_FLAT(void) CSharp_ColorSpaceHSLType_swap(void* self, void* other) { checked(
 VYR_FLAT(void) CSharp_ColorSpaceHSLType_reset(void* self) { guarded(+[](void* s) { return as<ColorSpaceHSLType>(s).reset(); }, self); }
 VYR_FLAT(std::int32_t) CSharp_ColorSpaceHSLType_is_occurs_ok(void* self) { return as<ColorSpaceHSLType>(self).is_occurs_ok(); }
 VYR_FLAT(void*) CSharp_ColorSpaceHSLType_clone(void* self) { return guarded(+[](void* s) -> void* { return as<ColorSpaceHSLType>(s).clone(); }, self); }
-VYR_FLAT(const char*) CSharp_ColorSpaceHSLType_getid(void* self) { return as<ColorSpaceHSLType>(self).getid(); }
+VYR_FLAT(char*) CSharp_ColorSpaceHSLType_getid(void* self) { return new_string(as<ColorSpaceHSLType>(self).getid()); }
 VYR_FLAT(std::int32_t) CSharp_ColorSpaceHSLType_has_id(void* self, const char* identity) { return as<ColorSpaceHSLType>(self).has_id(identity); }
 VYR_FLAT(const char*) CSharp_ColorSpaceHSLType_id_get() { return ColorSpaceHSLType::id; }
 VYR_FLAT(void) CSharp_ColorSpaceHSLType_id_set(const char* identity) { set_identity(&ColorSpaceHSLType::id, identity); }
@@ -303,7 +303,7 @@ VYR_FLAT(void) CSharp_ColorSpaceHSVType_swap(void* self, void* other) { checked(
 VYR_FLAT(void) CSharp_ColorSpaceHSVType_reset(void* self) { guarded(+[](void* s) { return as<ColorSpaceHSVType>(s).reset(); }, self); }
 VYR_FLAT(std::int32_t) CSharp_ColorSpaceHSVType_is_occurs_ok(void* self) { return as<ColorSpaceHSVType>(self).is_occurs_ok(); }
 VYR_FLAT(void*) CSharp_ColorSpaceHSVType_clone(void* self) { return guarded(+[](void* s) -> void* { return as<ColorSpaceHSVType>(s).clone(); }, self); }
-VYR_FLAT(const char*) CSharp_ColorSpaceHSVType_getid(void* self) { return as<ColorSpaceHSVType>(self).getid(); }
+VYR_FLAT(char*) CSharp_ColorSpaceHSVType_getid(void* self) { return new_string(as<ColorSpaceHSVType>(self).getid()); }
 VYR_FLAT(std::int32_t) CSharp_ColorSpaceHSVType_has_id(void* self, const char* identity) { return as<ColorSpaceHSVType>(self).has_id(identity); }
 VYR_FLAT(const char*) CSharp_ColorSpaceHSVType_id_get() { return ColorSpaceHSVType::id; }
 VYR_FLAT(void) CSharp_ColorSpaceHSVType_id_set(const char* identity) { set_identity(&ColorSpaceHSVType::id, identity); }
@@ -329,7 +329,7 @@ VYR_FLAT(void) CSharp_ColorSpaceYUVType_swap(void* self, void* other) { checked(
 VYR_FLAT(void) CSharp_ColorSpaceYUVType_reset(void* self) { guarded(+[](void* s) { return as<ColorSpaceYUVType>(s).reset(); }, self); }
 VYR_FLAT(std::int32_t) CSharp_ColorSpaceYUVType_is_occurs_ok(void* self) { return as<ColorSpaceYUVType>(self).is_occurs_ok(); }
 VYR_FLAT(void*) CSharp_ColorSpaceYUVType_clone(void* self) { return guarded(+[](void* s) -> void* { return as<ColorSpaceYUVType>(s).clone(); }, self); }
-VYR_FLAT(const char*) CSharp_ColorSpaceYUVType_getid(void* self) { return as<ColorSpaceYUVType>(self).getid(); }
+VYR_FLAT(char*) CSharp_ColorSpaceYUVType_getid(void* self) { return new_string(as<ColorSpaceYUVType>(self).getid()); }
 VYR_FLAT(std::int32_t) CSharp_ColorSpaceYUVType_has_id(void* self, const char* identity) { return as<ColorSpaceYUVType>(self).has_id(identity); }
 VYR_FLAT(const char*) CSharp_ColorSpaceYUVType_id_get() { return ColorSpaceYUVType::id; }
 VYR_FLAT(void) CSharp_ColorSpaceYUVType_id_set(const char* identity) { set_identity(&ColorSpaceYUVType::id, identity); }
@@ -355,7 +355,7 @@ VYR_FLAT(void) CSharp_ColorSpaceYIQType_swap(void* self, void* other) { checked(
 VYR_FLAT(void) CSharp_ColorSpaceYIQType_reset(void* self) { guarded(+[](void* s) { return as<ColorSpaceYIQType>(s).reset(); }, self); }
 VYR_FLAT(std::int32_t) CSharp_ColorSpaceYIQType_is_occurs_ok(void* self) { return as<ColorSpaceYIQType>(self).is_occurs_ok(); }
 VYR_FLAT(void*) CSharp_ColorSpaceYIQType_clone(void* self) { return guarded(+[](void* s) -> void* { return as<ColorSpaceYIQType>(s).clone(); }, self); }
-VYR_FLAT(const char*) CSharp_ColorSpaceYIQType_getid(void* self) { return as<ColorSpaceYIQType>(self).getid(); }
+VYR_FLAT(char*) CSharp_ColorSpaceYIQType_getid(void* self) { return new_string(as<ColorSpaceYIQType>(self).getid()); }
 VYR_FLAT(std::int32_t) CSharp_ColorSpaceYIQType_has_id(void* self, const char* identity) { return as<ColorSpaceYIQType>(self).has_id(identity); }
 VYR_FLAT(const char*) CSharp_ColorSpaceYIQType_id_get() { return ColorSpaceYIQType::id; }
 VYR_FLAT(void) CSharp_ColorSpaceYIQType_id_set(const char* identity) { set_identity(&ColorSpaceYIQType::id, identity); }
@@ -381,7 +381,7 @@ VYR_FLAT(void) CSharp_ColorSpaceYBRType_swap(void* self, void* other) { checked(
 VYR_FLAT(void) CSharp_ColorSpaceYBRType_reset(void* self) { guarded(+[](void* s) { return as<ColorSpaceYBRType>(s).reset(); }, self); }
 VYR_FLAT(std::int32_t) CSharp_ColorSpaceYBRType_is_occurs_ok(void* self) { return as<ColorSpaceYBRType>(self).is_occurs_ok(); }
 VYR_FLAT(void*) CSharp_ColorSpaceYBRType_clone(void* self) { return guarded(+[](void* s) -> void* { return as<ColorSpaceYBRType>(s).clone(); }, self); }
-VYR_FLAT(const char*) CSharp_ColorSpaceYBRType_getid(void* self) { return as<ColorSpaceYBRType>(self).getid(); }
+VYR_FLAT(char*) CSharp_ColorSpaceYBRType_getid(void* self) { return new_string(as<ColorSpaceYBRType>(self).getid()); }
 VYR_FLAT(std::int32_t) CSharp_ColorSpaceYBRType_has_id(void* self, const char* identity) { return as<ColorSpaceYBRType>(self).has_id(identity); }
 VYR_FLAT(const char*) CSharp_ColorSpaceYBRType_id_get() { return ColorSpaceYBRType::id; }
 VYR_FLAT(void) CSharp_ColorSpaceYBRType_id_set(const char* identity) { set_identity(&ColorSpaceYBRType::id, identity); }

@@ -25,7 +25,7 @@ VYR_FLAT(void) CSharp_FunctionType_swap(void* self, void* other) { checked("com_
 VYR_FLAT(void) CSharp_FunctionType_reset(void* self) { guarded(+[](void* s) { return as<FunctionType>(s).reset(); }, self); }
 VYR_FLAT(std::int32_t) CSharp_FunctionType_is_occurs_ok(void* self) { return as<FunctionType>(self).is_occurs_ok(); }
 VYR_FLAT(void*) CSharp_FunctionType_clone(void* self) { return guarded(+[](void* s) -> void* { return as<FunctionType>(s).clone(); }, self); }
-VYR_FLAT(const char*) CSharp_FunctionType_getid(void* self) { return as<FunctionType>(self).getid(); }
+VYR_FLAT(char*) CSharp_FunctionType_getid(void* self) { return new_string(as<FunctionType>(self).getid()); }
 VYR_FLAT(std::int32_t) CSharp_FunctionType_has_id(void* self, const char* identity) { return as<FunctionType>(self).has_id(identity); }
 VYR_FLAT(const char*) CSharp_FunctionType_id_get() { return FunctionType::id; }
 VYR_FLAT(void) CSharp_FunctionType_id_set(const char* identity) { set_identity(&FunctionType::id, identity); }
@@ -62,7 +62,7 @@ VYR_FLAT(void) CSharp_FunctionGenericType_swap(void* self, void* other) { checke
 VYR_FLAT(void) CSharp_FunctionGenericType_reset(void* self) { guarded(+[](void* s) { return as<FunctionGenericType>(s).reset(); }, self); }
 VYR_FLAT(std::int32_t) CSharp_FunctionGenericType_is_occurs_ok(void* self) { return as<FunctionGenericType>(self).is_occurs_ok(); }
 VYR_FLAT(void*) CSharp_FunctionGenericType_clone(void* self) { return guarded(+[](void* s) -> void* { return as<FunctionGenericType>(s).clone(); }, self); }
-VYR_FLAT(const char*) CSharp_FunctionGenericType_getid(void* self) { return as<FunctionGenericType>(self).getid(); }
+VYR_FLAT(char*) CSharp_FunctionGenericType_getid(void* self) { return new_string(as<FunctionGenericType>(self).getid()); }
 VYR_FLAT(std::int32_t) CSharp_FunctionGenericType_has_id(void* self, const char* identity) { return as<FunctionGenericType>(self).has_id(identity); }
 VYR_FLAT(const char*) CSharp_FunctionGenericType_id_get() { return FunctionGenericType::id; }
 VYR_FLAT(void) CSharp_FunctionGenericType_id_set(const char* identity) { set_identity(&FunctionGenericType::id, identity); }
@@ -111,7 +111,7 @@ VYR_FLAT(void) CSharp_FunctionDEType_swap(void* self, void* other) { checked("co
 VYR_FLAT(void) CSharp_FunctionDEType_reset(void* self) { guarded(+[](void* s) { return as<FunctionDEType>(s).reset(); }, self); }
 VYR_FLAT(std::int32_t) CSharp_FunctionDEType_is_occurs_ok(void* self) { return as<FunctionDEType>(self).is_occurs_ok(); }
 VYR_FLAT(void*) CSharp_FunctionDEType_clone(void* self) { return guarded(+[](void* s) -> void* { return as<FunctionDEType>(s).clone(); }, self); }
-VYR_FLAT(const char*) CSharp_FunctionDEType_getid(void* self) { return as<FunctionDEType>(self).getid(); }
+VYR_FLAT(char*) CSharp_FunctionDEType_getid(void* self) { return new_string(as<FunctionDEType>(self).getid()); }
 VYR_FLAT(std::int32_t) CSharp_FunctionDEType_has_id(void* self, const char* identity) { return as<FunctionDEType>(self).has_id(identity); }
 VYR_FLAT(const char*) CSharp_FunctionDEType_id_get() { return FunctionDEType::id; }
 VYR_FLAT(void) CSharp_FunctionDEType_id_set(const char* identity) { set_identity(&FunctionDEType::id, identity); }
@@ -125,7 +125,7 @@ VYR_FLAT(void) CSharp_FunctionMeanDEType_swap(void* self, void* other) { checked
 VYR_FLAT(void) CSharp_FunctionMeanDEType_reset(void* self) { guarded(+[](void* s) { return as<FunctionMeanDEType>(s).reset(); }, self); }
 VYR_FLAT(std::int32_t) CSharp_FunctionMeanDEType_is_occurs_ok(void* self) { return as<FunctionMeanDEType>(self).is_occurs_ok(); }
 VYR_FLAT(void*) CSharp_FunctionMeanDEType_clone(void* self) { return guarded(+[](void* s) -> void* { return as<FunctionMeanDEType>(s).clone(); }, self); }
-VYR_FLAT(const char*) CSharp_FunctionMeanDEType_getid(void* self) { return as<FunctionMeanDEType>(self).getid(); }
+VYR_FLAT(char*) CSharp_FunctionMeanDEType_getid(void* self) { return new_string(as<FunctionMeanDEType>(self).getid()); }
 VYR_FLAT(std::int32_t) CSharp_FunctionMeanDEType_has_id(void* self, const char* identity) { return as<FunctionMeanDEType>(self).has_id(identity); }
 VYR_FLAT(const char*) CSharp_FunctionMeanDEType_id_get() { return FunctionMeanDEType::id; }
 VYR_FLAT(void) CSharp_FunctionMeanDEType_id_set(const char* identity) { set_identity(&FunctionMeanDEType::id, identity); }
@@ -139,7 +139,7 @@ VYR_FLAT(void) CSharp_FunctionDE94Type_swap(void* self, void* other) { checked("
 VYR_FLAT(void) CSharp_FunctionDE94Type_reset(void* self) { guarded(+[](void* s) { return as<FunctionDE94Type>(s).reset(); }, self); }
 VYR_FLAT(std::int32_t) CSharp_FunctionDE94Type_is_occurs_ok(void* self) { return as<FunctionDE94Type>(self).is_occurs_ok(); }
 VYR_FLAT(void*) CSharp_FunctionDE94Type_clone(void* self) { return guarded(+[](void* s) -> void* { return as<FunctionDE94Type>(s).clone(); }, self); }
-VYR_FLAT(const char*) CSharp_FunctionDE94Type_getid(void* self) { return as<FunctionDE94Type>(self).getid(); }
+VYR_FLAT(char*) CSharp_FunctionDE94Type_getid(void* self) { return new_string(as<FunctionDE94Type>(self).getid()); }
 VYR_FLAT(std::int32_t) CSharp_FunctionDE94Type_has_id(void* self, const char* identity) { return as<FunctionDE94Type>(self).has_id(identity); }
 VYR_FLAT(const char*) CSharp_FunctionDE94Type_id_get() { return FunctionDE94Type::id; }
 VYR_FLAT(void) CSharp_FunctionDE94Type_id_set(const char* identity) { set_identity(&FunctionDE94Type::id, identity); }
@@ -159,7 +159,7 @@ VYR_FLAT(void) CSharp_FunctionDE2000Type_swap(void* self, void* other) { checked
 VYR_FLAT(void) CSharp_FunctionDE2000Type_reset(void* self) { guarded(+[](void* s) { return as<FunctionDE2000Type>(s).reset(); }, self); }
 VYR_FLAT(std::int32_t) CSharp_FunctionDE2000Type_is_occurs_ok(void* self) { return as<FunctionDE2000Type>(self).is_occurs_ok(); }
 VYR_FLAT(void*) CSharp_FunctionDE2000Type_clone(void* self) { return guarded(+[](void* s) -> void* { return as<FunctionDE2000Type>(s).clone(); }, self); }
-VYR_FLAT(const char*) CSharp_FunctionDE2000Type_getid(void* self) { return as<FunctionDE2000Type>(self).getid(); }
+VYR_FLAT(char*) CSharp_FunctionDE2000Type_getid(void* self) { return new_string(as<FunctionDE2000Type>(self).getid()); }
 VYR_FLAT(std::int32_t) CSharp_FunctionDE2000Type_has_id(void* self, const char* identity) { return as<FunctionDE2000Type>(self).has_id(identity); }
 VYR_FLAT(const char*) CSharp_FunctionDE2000Type_id_get() { return FunctionDE2000Type::id; }
 VYR_FLAT(void) CSharp_FunctionDE2000Type_id_set(const char* identity) { set_identity(&FunctionDE2000Type::id, identity); }
@@ -179,7 +179,7 @@ VYR_FLAT(void) CSharp_FunctionDEcmcType_swap(void* self, void* other) { checked(
 VYR_FLAT(void) CSharp_FunctionDEcmcType_reset(void* self) { guarded(+[](void* s) { return as<FunctionDEcmcType>(s).reset(); }, self); }
 VYR_FLAT(std::int32_t) CSharp_FunctionDEcmcType_is_occurs_ok(void* self) { return as<FunctionDEcmcType>(self).is_occurs_ok(); }
 VYR_FLAT(void*) CSharp_FunctionDEcmcType_clone(void* self) { return guarded(+[](void* s) -> void* { return as<FunctionDEcmcType>(s).clone(); }, self); }
-VYR_FLAT(const char*) CSharp_FunctionDEcmcType_getid(void* self) { return as<FunctionDEcmcType>(self).getid(); }
+VYR_FLAT(char*) CSharp_FunctionDEcmcType_getid(void* self) { return new_string(as<FunctionDEcmcType>(self).getid()); }
 VYR_FLAT(std::int32_t) CSharp_FunctionDEcmcType_has_id(void* self, const char* identity) { return as<FunctionDEcmcType>(self).has_id(identity); }
 VYR_FLAT(const char*) CSharp_FunctionDEcmcType_id_get() { return FunctionDEcmcType::id; }
 VYR_FLAT(void) CSharp_FunctionDEcmcType_id_set(const char* identity) { set_identity(&FunctionDEcmcType::id, identity); }
@@ -257,7 +257,7 @@ VYR_FLAT(void) CSharp_FunctionTolerance_swap(void* self, void* other) { checked(
 VYR_FLAT(void) CSharp_FunctionTolerance_reset(void* self) { guarded(+[](void* s) { return as<FunctionTolerance>(s).reset(); }, self); }
 VYR_FLAT(std::int32_t) CSharp_FunctionTolerance_is_occurs_ok(void* self) { return as<FunctionTolerance>(self).is_occurs_ok(); }
 VYR_FLAT(void*) CSharp_FunctionTolerance_clone(void* self) { return guarded(+[](void* s) -> void* { return as<FunctionTolerance>(s).clone(); }, self); }
-VYR_FLAT(const char*) CSharp_FunctionTolerance_getid(void* self) { return as<FunctionTolerance>(self).getid(); }
+VYR_FLAT(char*) CSharp_FunctionTolerance_getid(void* self) { return new_string(as<FunctionTolerance>(self).getid()); }
 VYR_FLAT(std::int32_t) CSharp_FunctionTolerance_has_id(void* self, const char* identity) { return as<FunctionTolerance>(self).has_id(identity); }
 VYR_FLAT(const char*) CSharp_FunctionTolerance_id_get() { return FunctionTolerance::id; }
 VYR_FLAT(void) CSharp_FunctionTolerance_id_set(const char* identity) { set_identity(&FunctionTolerance::id, identity); }

@@ -58,7 +58,7 @@ VYR_FLAT(void) CSharp_ColorSpaceTINTORAType_swap(void* self, void* other) { chec
 VYR_FLAT(void) CSharp_ColorSpaceTINTORAType_reset(void* self) { guarded(+[](void* s) { return as<ColorSpaceTINTORAType>(s).reset(); }, self); }
 VYR_FLAT(std::int32_t) CSharp_ColorSpaceTINTORAType_is_occurs_ok(void* self) { return as<ColorSpaceTINTORAType>(self).is_occurs_ok(); }
 VYR_FLAT(void*) CSharp_ColorSpaceTINTORAType_clone(void* self) { return guarded(+[](void* s) -> void* { return as<ColorSpaceTINTORAType>(s).clone(); }, self); }
-VYR_FLAT(const char*) CSharp_ColorSpaceTINTORAType_getid(void* self) { return as<ColorSpaceTINTORAType>(self).getid(); }
+VYR_FLAT(char*) CSharp_ColorSpaceTINTORAType_getid(void* self) { return new_string(as<ColorSpaceTINTORAType>(self).getid()); }
 VYR_FLAT(std::int32_t) CSharp_ColorSpaceTINTORAType_has_id(void* self, const char* identity) { return as<ColorSpaceTINTORAType>(self).has_id(identity); }
 VYR_FLAT(const char*) CSharp_ColorSpaceTINTORAType_id_get() { return ColorSpaceTINTORAType::id; }
 VYR_FLAT(void) CSharp_ColorSpaceTINTORAType_id_set(const char* identity) { set_identity(&ColorSpaceTINTORAType::id, identity); }
@@ -164,7 +164,7 @@ VYR_FLAT(void) CSharp_ColorSpaceNCSType_swap(void* self, void* other) { checked(
 VYR_FLAT(void) CSharp_ColorSpaceNCSType_reset(void* self) { guarded(+[](void* s) { return as<ColorSpaceNCSType>(s).reset(); }, self); }
 VYR_FLAT(std::int32_t) CSharp_ColorSpaceNCSType_is_occurs_ok(void* self) { return as<ColorSpaceNCSType>(self).is_occurs_ok(); }
 VYR_FLAT(void*) CSharp_ColorSpaceNCSType_clone(void* self) { return guarded(+[](void* s) -> void* { return as<ColorSpaceNCSType>(s).clone(); }, self); }
-VYR_FLAT(const char*) CSharp_ColorSpaceNCSType_getid(void* self) { return as<ColorSpaceNCSType>(self).getid(); }
+VYR_FLAT(char*) CSharp_ColorSpaceNCSType_getid(void* self) { return new_string(as<ColorSpaceNCSType>(self).getid()); }
 VYR_FLAT(std::int32_t) CSharp_ColorSpaceNCSType_has_id(void* self, const char* identity) { return as<ColorSpaceNCSType>(self).has_id(identity); }
 VYR_FLAT(const char*) CSharp_ColorSpaceNCSType_id_get() { return ColorSpaceNCSType::id; }
 VYR_FLAT(void) CSharp_ColorSpaceNCSType_id_set(const char* identity) { set_identity(&ColorSpaceNCSType::id, identity); }
@@ -186,7 +186,7 @@ VYR_FLAT(void) CSharp_ColorSpaceMunsellType_swap(void* self, void* other) { chec
 VYR_FLAT(void) CSharp_ColorSpaceMunsellType_reset(void* self) { guarded(+[](void* s) { return as<ColorSpaceMunsellType>(s).reset(); }, self); }
 VYR_FLAT(std::int32_t) CSharp_ColorSpaceMunsellType_is_occurs_ok(void* self) { return as<ColorSpaceMunsellType>(self).is_occurs_ok(); }
 VYR_FLAT(void*) CSharp_ColorSpaceMunsellType_clone(void* self) { return guarded(+[](void* s) -> void* { return as<ColorSpaceMunsellType>(s).clone(); }, self); }
-VYR_FLAT(const char*) CSharp_ColorSpaceMunsellType_getid(void* self) { return as<ColorSpaceMunsellType>(self).getid(); }
+VYR_FLAT(char*) CSharp_ColorSpaceMunsellType_getid(void* self) { return new_string(as<ColorSpaceMunsellType>(self).getid()); }
 VYR_FLAT(std::int32_t) CSharp_ColorSpaceMunsellType_has_id(void* self, const char* identity) { return as<ColorSpaceMunsellType>(self).has_id(identity); }
 VYR_FLAT(const char*) CSharp_ColorSpaceMunsellType_id_get() { return ColorSpaceMunsellType::id; }
 VYR_FLAT(void) CSharp_ColorSpaceMunsellType_id_set(const char* identity) { set_identity(&ColorSpaceMunsellType::id, identity); }
@@ -248,7 +248,7 @@ VYR_FLAT(void) CSharp_ColorSpaceRecipeType_swap(void* self, void* other) { check
 VYR_FLAT(void) CSharp_ColorSpaceRecipeType_reset(void* self) { guarded(+[](void* s) { return as<ColorSpaceRecipeType>(s).reset(); }, self); }
 VYR_FLAT(std::int32_t) CSharp_ColorSpaceRecipeType_is_occurs_ok(void* self) { return as<ColorSpaceRecipeType>(self).is_occurs_ok(); }
 VYR_FLAT(void*) CSharp_ColorSpaceRecipeType_clone(void* self) { return guarded(+[](void* s) -> void* { return as<ColorSpaceRecipeType>(s).clone(); }, self); }
-VYR_FLAT(const char*) CSharp_ColorSpaceRecipeType_getid(void* self) { return as<ColorSpaceRecipeType>(self).getid(); }
+VYR_FLAT(char*) CSharp_ColorSpaceRecipeType_getid(void* self) { return new_string(as<ColorSpaceRecipeType>(self).getid()); }
 VYR_FLAT(std::int32_t) CSharp_ColorSpaceRecipeType_has_id(void* self, const char* identity) { return as<ColorSpaceRecipeType>(self).has_id(identity); }
 VYR_FLAT(const char*) CSharp_ColorSpaceRecipeType_id_get() { return ColorSpaceRecipeType::id; }
 VYR_FLAT(void) CSharp_ColorSpaceRecipeType_id_set(const char* identity) { set_identity(&ColorSpaceRecipeType::id, identity); }

@@ -26,7 +26,7 @@ VYR_FLAT(void) CSharp_ColorSpaceDensityType_swap(void* self, void* other) { chec
 VYR_FLAT(void) CSharp_ColorSpaceDensityType_reset(void* self) { guarded(+[](void* s) { return as<ColorSpaceDensityType>(s).reset(); }, self); }
 VYR_FLAT(std::int32_t) CSharp_ColorSpaceDensityType_is_occurs_ok(void* self) { return as<ColorSpaceDensityType>(self).is_occurs_ok(); }
 VYR_FLAT(void*) CSharp_ColorSpaceDensityType_clone(void* self) { return guarded(+[](void* s) -> void* { return as<ColorSpaceDensityType>(s).clone(); }, self); }
-VYR_FLAT(const char*) CSharp_ColorSpaceDensityType_getid(void* self) { return as<ColorSpaceDensityType>(self).getid(); }
+VYR_FLAT(char*) CSharp_ColorSpaceDensityType_getid(void* self) { return new_string(as<ColorSpaceDensityType>(self).getid()); }
 VYR_FLAT(std::int32_t) CSharp_ColorSpaceDensityType_has_id(void* self, const char* identity) { return as<ColorSpaceDensityType>(self).has_id(identity); }
 VYR_FLAT(const char*) CSharp_ColorSpaceDensityType_id_get() { return ColorSpaceDensityType::id; }
 VYR_FLAT(void) CSharp_ColorSpaceDensityType_id_set(const char* identity) { set_identity(&ColorSpaceDensityType::id, identity); }
@@ -54,7 +54,7 @@ VYR_FLAT(void) CSharp_ColorSpaceSpectralType_swap(void* self, void* other) { che
 VYR_FLAT(void) CSharp_ColorSpaceSpectralType_reset(void* self) { guarded(+[](void* s) { return as<ColorSpaceSpectralType>(s).reset(); }, self); }
 VYR_FLAT(std::int32_t) CSharp_ColorSpaceSpectralType_is_occurs_ok(void* self) { return as<ColorSpaceSpectralType>(self).is_occurs_ok(); }
 VYR_FLAT(void*) CSharp_ColorSpaceSpectralType_clone(void* self) { return guarded(+[](void* s) -> void* { return as<ColorSpaceSpectralType>(s).clone(); }, self); }
-VYR_FLAT(const char*) CSharp_ColorSpaceSpectralType_getid(void* self) { return as<ColorSpaceSpectralType>(self).getid(); }
+VYR_FLAT(char*) CSharp_ColorSpaceSpectralType_getid(void* self) { return new_string(as<ColorSpaceSpectralType>(self).getid()); }
 VYR_FLAT(std::int32_t) CSharp_ColorSpaceSpectralType_has_id(void* self, const char* identity) { return as<ColorSpaceSpectralType>(self).has_id(identity); }
 VYR_FLAT(const char*) CSharp_ColorSpaceSpectralType_id_get() { return ColorSpaceSpectralType::id; }
 VYR_FLAT(void) CSharp_ColorSpaceSpectralType_id_set(const char* identity) { set_identity(&ColorSpaceSpectralType::id, identity); }
@@ -82,7 +82,7 @@ VYR_FLAT(void) CSharp_ColorSpaceEmissiveSpectralType_swap(void* self, void* othe
 VYR_FLAT(void) CSharp_ColorSpaceEmissiveSpectralType_reset(void* self) { guarded(+[](void* s) { return as<ColorSpaceEmissiveSpectralType>(s).reset(); }, self); }
 VYR_FLAT(std::int32_t) CSharp_ColorSpaceEmissiveSpectralType_is_occurs_ok(void* self) { return as<ColorSpaceEmissiveSpectralType>(self).is_occurs_ok(); }
 VYR_FLAT(void*) CSharp_ColorSpaceEmissiveSpectralType_clone(void* self) { return guarded(+[](void* s) -> void* { return as<ColorSpaceEmissiveSpectralType>(s).clone(); }, self); }
-VYR_FLAT(const char*) CSharp_ColorSpaceEmissiveSpectralType_getid(void* self) { return as<ColorSpaceEmissiveSpectralType>(self).getid(); }
+VYR_FLAT(char*) CSharp_ColorSpaceEmissiveSpectralType_getid(void* self) { return new_string(as<ColorSpaceEmissiveSpectralType>(self).getid()); }
 VYR_FLAT(std::int32_t) CSharp_ColorSpaceEmissiveSpectralType_has_id(void* self, const char* identity) { return as<ColorSpaceEmissiveSpectralType>(self).has_id(identity); }
 VYR_FLAT(const char*) CSharp_ColorSpaceEmissiveSpectralType_id_get() { return ColorSpaceEmissiveSpectralType::id; }
 VYR_FLAT(void) CSharp_ColorSpaceEmissiveSpectralType_id_set(const char* identity) { set_identity(&ColorSpaceEmissiveSpectralType::id, identity); }
@@ -110,7 +110,7 @@ VYR_FLAT(void) CSharp_ColorSpaceGenericType_swap(void* self, void* other) { chec
 VYR_FLAT(void) CSharp_ColorSpaceGenericType_reset(void* self) { guarded(+[](void* s) { return as<ColorSpaceGenericType>(s).reset(); }, self); }
 VYR_FLAT(std::int32_t) CSharp_ColorSpaceGenericType_is_occurs_ok(void* self) { return as<ColorSpaceGenericType>(self).is_occurs_ok(); }
 VYR_FLAT(void*) CSharp_ColorSpaceGenericType_clone(void* self) { return guarded(+[](void* s) -> void* { return as<ColorSpaceGenericType>(s).clone(); }, self); }
-VYR_FLAT(const char*) CSharp_ColorSpaceGenericType_getid(void* self) { return as<ColorSpaceGenericType>(self).getid(); }
+VYR_FLAT(char*) CSharp_ColorSpaceGenericType_getid(void* self) { return new_string(as<ColorSpaceGenericType>(self).getid()); }
 VYR_FLAT(std::int32_t) CSharp_ColorSpaceGenericType_has_id(void* self, const char* identity) { return as<ColorSpaceGenericType>(self).has_id(identity); }
 VYR_FLAT(const char*) CSharp_ColorSpaceGenericType_id_get() { return ColorSpaceGenericType::id; }
 VYR_FLAT(void) CSharp_ColorSpaceGenericType_id_set(const char* identity) { set_identity(&ColorSpaceGenericType::id, identity); }
@@ -136,7 +136,7 @@ VYR_FLAT(void) CSharp_ColorSpaceEmissiveGenericType_swap(void* self, void* other
 VYR_FLAT(void) CSharp_ColorSpaceEmissiveGenericType_reset(void* self) { guarded(+[](void* s) { return as<ColorSpaceEmissiveGenericType>(s).reset(); }, self); }
 VYR_FLAT(std::int32_t) CSharp_ColorSpaceEmissiveGenericType_is_occurs_ok(void* self) { return as<ColorSpaceEmissiveGenericType>(self).is_occurs_ok(); }
 VYR_FLAT(void*) CSharp_ColorSpaceEmissiveGenericType_clone(void* self) { return guarded(+[](void* s) -> void* { return as<ColorSpaceEmissiveGenericType>(s).clone(); }, self); }
-VYR_FLAT(const char*) CSharp_ColorSpaceEmissiveGenericType_getid(void* self) { return as<ColorSpaceEmissiveGenericType>(self).getid(); }
+VYR_FLAT(char*) CSharp_ColorSpaceEmissiveGenericType_getid(void* self) { return new_string(as<ColorSpaceEmissiveGenericType>(self).getid()); }
 VYR_FLAT(std::int32_t) CSharp_ColorSpaceEmissiveGenericType_has_id(void* self, const char* identity) { return as<ColorSpaceEmissiveGenericType>(self).has_id(identity); }
 VYR_FLAT(const char*) CSharp_ColorSpaceEmissiveGenericType_id_get() { return ColorSpaceEmissiveGenericType::id; }
 VYR_FLAT(void) CSharp_ColorSpaceEmissiveGenericType_id_set(const char* identity) { set_identity(&ColorSpaceEmissiveGenericType::id, identity); }

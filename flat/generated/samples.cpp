@@ -25,7 +25,7 @@ VYR_FLAT(void) CSharp_SampleType_swap(void* self, void* other) { checked("com_vy
 VYR_FLAT(void) CSharp_SampleType_reset(void* self) { guarded(+[](void* s) { return as<SampleType>(s).reset(); }, self); }
 VYR_FLAT(std::int32_t) CSharp_SampleType_is_occurs_ok(void* self) { return as<SampleType>(self).is_occurs_ok(); }
 VYR_FLAT(void*) CSharp_SampleType_clone(void* self) { return guarded(+[](void* s) -> void* { return as<SampleType>(s).clone(); }, self); }
-VYR_FLAT(const char*) CSharp_SampleType_getid(void* self) { return as<SampleType>(self).getid(); }
+VYR_FLAT(char*) CSharp_SampleType_getid(void* self) { return new_string(as<SampleType>(self).getid()); }
 VYR_FLAT(std::int32_t) CSharp_SampleType_has_id(void* self, const char* identity) { return as<SampleType>(self).has_id(identity); }
 VYR_FLAT(const char*) CSharp_SampleType_id_get() { return SampleType::id; }
 VYR_FLAT(void) CSharp_SampleType_id_set(const char* identity) { set_identity(&SampleType::id, identity); }
@@ -88,7 +88,7 @@ VYR_FLAT(void) CSharp_SampleSpotType_swap(void* self, void* other) { checked("co
 VYR_FLAT(void) CSharp_SampleSpotType_reset(void* self) { guarded(+[](void* s) { return as<SampleSpotType>(s).reset(); }, self); }
 VYR_FLAT(std::int32_t) CSharp_SampleSpotType_is_occurs_ok(void* self) { return as<SampleSpotType>(self).is_occurs_ok(); }
 VYR_FLAT(void*) CSharp_SampleSpotType_clone(void* self) { return guarded(+[](void* s) -> void* { return as<SampleSpotType>(s).clone(); }, self); }
-VYR_FLAT(const char*) CSharp_SampleSpotType_getid(void* self) { return as<SampleSpotType>(self).getid(); }
+VYR_FLAT(char*) CSharp_SampleSpotType_getid(void* self) { return new_string(as<SampleSpotType>(self).getid()); }
 VYR_FLAT(std::int32_t) CSharp_SampleSpotType_has_id(void* self, const char* identity) { return as<SampleSpotType>(self).has_id(identity); }
 VYR_FLAT(const char*) CSharp_SampleSpotType_id_get() { return SampleSpotType::id; }
 VYR_FLAT(void) CSharp_SampleSpotType_id_set(const char* identity) { set_identity(&SampleSpotType::id, identity); }
@@ -104,7 +104,7 @@ VYR_FLAT(void) CSharp_SampleTargetType_swap(void* self, void* other) { checked("
 VYR_FLAT(void) CSharp_SampleTargetType_reset(void* self) { guarded(+[](void* s) { return as<SampleTargetType>(s).reset(); }, self); }
 VYR_FLAT(std::int32_t) CSharp_SampleTargetType_is_occurs_ok(void* self) { return as<SampleTargetType>(self).is_occurs_ok(); }
 VYR_FLAT(void*) CSharp_SampleTargetType_clone(void* self) { return guarded(+[](void* s) -> void* { return as<SampleTargetType>(s).clone(); }, self); }
-VYR_FLAT(const char*) CSharp_SampleTargetType_getid(void* self) { return as<SampleTargetType>(self).getid(); }
+VYR_FLAT(char*) CSharp_SampleTargetType_getid(void* self) { return new_string(as<SampleTargetType>(self).getid()); }
 VYR_FLAT(std::int32_t) CSharp_SampleTargetType_has_id(void* self, const char* identity) { return as<SampleTargetType>(self).has_id(identity); }
 VYR_FLAT(const char*) CSharp_SampleTargetType_id_get() { return SampleTargetType::id; }
 VYR_FLAT(void) CSharp_SampleTargetType_id_set(const char* identity) { set_identity(&SampleTargetType::id, identity); }

@@ -25,7 +25,7 @@ VYR_FLAT(void) CSharp_FunctionStdDevXType_swap(void* self, void* other) { checke
 VYR_FLAT(void) CSharp_FunctionStdDevXType_reset(void* self) { guarded(+[](void* s) { return as<FunctionStdDevXType>(s).reset(); }, self); }
 VYR_FLAT(std::int32_t) CSharp_FunctionStdDevXType_is_occurs_ok(void* self) { return as<FunctionStdDevXType>(self).is_occurs_ok(); }
 VYR_FLAT(void*) CSharp_FunctionStdDevXType_clone(void* self) { return guarded(+[](void* s) -> void* { return as<FunctionStdDevXType>(s).clone(); }, self); }
-VYR_FLAT(const char*) CSharp_FunctionStdDevXType_getid(void* self) { return as<FunctionStdDevXType>(self).getid(); }
+VYR_FLAT(char*) CSharp_FunctionStdDevXType_getid(void* self) { return new_string(as<FunctionStdDevXType>(self).getid()); }
 VYR_FLAT(std::int32_t) CSharp_FunctionStdDevXType_has_id(void* self, const char* identity) { return as<FunctionStdDevXType>(self).has_id(identity); }
 VYR_FLAT(const char*) CSharp_FunctionStdDevXType_id_get() { return FunctionStdDevXType::id; }
 VYR_FLAT(void) CSharp_FunctionStdDevXType_id_set(const char* identity) { set_identity(&FunctionStdDevXType::id, identity); }
@@ -39,7 +39,7 @@ VYR_FLAT(void) CSharp_FunctionStdDevYType_swap(void* self, void* other) { checke
 VYR_FLAT(void) CSharp_FunctionStdDevYType_reset(void* self) { guarded(+[](void* s) { return as<FunctionStdDevYType>(s).reset(); }, self); }
 VYR_FLAT(std::int32_t) CSharp_FunctionStdDevYType_is_occurs_ok(void* self) { return as<FunctionStdDevYType>(self).is_occurs_ok(); }
 VYR_FLAT(void*) CSharp_FunctionStdDevYType_clone(void* self) { return guarded(+[](void* s) -> void* { return as<FunctionStdDevYType>(s).clone(); }, self); }
-VYR_FLAT(const char*) CSharp_FunctionStdDevYType_getid(void* self) { return as<FunctionStdDevYType>(self).getid(); }
+VYR_FLAT(char*) CSharp_FunctionStdDevYType_getid(void* self) { return new_string(as<FunctionStdDevYType>(self).getid()); }
 VYR_FLAT(std::int32_t) CSharp_FunctionStdDevYType_has_id(void* self, const char* identity) { return as<FunctionStdDevYType>(self).has_id(identity); }
 VYR_FLAT(const char*) CSharp_FunctionStdDevYType_id_get() { return FunctionStdDevYType::id; }
 VYR_FLAT(void) CSharp_FunctionStdDevYType_id_set(const char* identity) { set_identity(&FunctionStdDevYType::id, identity); }
@@ -53,7 +53,7 @@ VYR_FLAT(void) CSharp_FunctionStdDevZType_swap(void* self, void* other) { checke
 VYR_FLAT(void) CSharp_FunctionStdDevZType_reset(void* self) { guarded(+[](void* s) { return as<FunctionStdDevZType>(s).reset(); }, self); }
 VYR_FLAT(std::int32_t) CSharp_FunctionStdDevZType_is_occurs_ok(void* self) { return as<FunctionStdDevZType>(self).is_occurs_ok(); }
 VYR_FLAT(void*) CSharp_FunctionStdDevZType_clone(void* self) { return guarded(+[](void* s) -> void* { return as<FunctionStdDevZType>(s).clone(); }, self); }
-VYR_FLAT(const char*) CSharp_FunctionStdDevZType_getid(void* self) { return as<FunctionStdDevZType>(self).getid(); }
+VYR_FLAT(char*) CSharp_FunctionStdDevZType_getid(void* self) { return new_string(as<FunctionStdDevZType>(self).getid()); }
 VYR_FLAT(std::int32_t) CSharp_FunctionStdDevZType_has_id(void* self, const char* identity) { return as<FunctionStdDevZType>(self).has_id(identity); }
 VYR_FLAT(const char*) CSharp_FunctionStdDevZType_id_get() { return FunctionStdDevZType::id; }
 VYR_FLAT(void) CSharp_FunctionStdDevZType_id_set(const char* identity) { set_identity(&FunctionStdDevZType::id, identity); }
@@ -67,7 +67,7 @@ VYR_FLAT(void) CSharp_FunctionStdDevLType_swap(void* self, void* other) { checke
 VYR_FLAT(void) CSharp_FunctionStdDevLType_reset(void* self) { guarded(+[](void* s) { return as<FunctionStdDevLType>(s).reset(); }, self); }
 VYR_FLAT(std::int32_t) CSharp_FunctionStdDevLType_is_occurs_ok(void* self) { return as<FunctionStdDevLType>(self).is_occurs_ok(); }
 VYR_FLAT(void*) CSharp_FunctionStdDevLType_clone(void* self) { return guarded(+[](void* s) -> void* { return as<FunctionStdDevLType>(s).clone(); }, self); }
-VYR_FLAT(const char*) CSharp_FunctionStdDevLType_getid(void* self) { return as<FunctionStdDevLType>(self).getid(); }
+VYR_FLAT(char*) CSharp_FunctionStdDevLType_getid(void* self) { return new_string(as<FunctionStdDevLType>(self).getid()); }
 VYR_FLAT(std::int32_t) CSharp_FunctionStdDevLType_has_id(void* self, const char* identity) { return as<FunctionStdDevLType>(self).has_id(identity); }
 VYR_FLAT(const char*) CSharp_FunctionStdDevLType_id_get() { return FunctionStdDevLType::id; }
 VYR_FLAT(void) CSharp_FunctionStdDevLType_id_set(const char* identity) { set_identity(&FunctionStdDevLType::id, identity); }
@@ -81,7 +81,7 @@ VYR_FLAT(void) CSharp_FunctionStdDevAType_swap(void* self, void* other) { checke
 VYR_FLAT(void) CSharp_FunctionStdDevAType_reset(void* self) { guarded(+[](void* s) { return as<FunctionStdDevAType>(s).reset(); }, self); }
 VYR_FLAT(std::int32_t) CSharp_FunctionStdDevAType_is_occurs_ok(void* self) { return as<FunctionStdDevAType>(self).is_occurs_ok(); }
 VYR_FLAT(void*) CSharp_FunctionStdDevAType_clone(void* self) { return guarded(+[](void* s) -> void* { return as<FunctionStdDevAType>(s).clone(); }, self); }
-VYR_FLAT(const char*) CSharp_FunctionStdDevAType_getid(void* self) { return as<FunctionStdDevAType>(self).getid(); }
+VYR_FLAT(char*) CSharp_FunctionStdDevAType_getid(void* self) { return new_string(as<FunctionStdDevAType>(self).getid()); }
 VYR_FLAT(std::int32_t) CSharp_FunctionStdDevAType_has_id(void* self, const char* identity) { return as<FunctionStdDevAType>(self).has_id(identity); }
 VYR_FLAT(const char*) CSharp_FunctionStdDevAType_id_get() { return FunctionStdDevAType::id; }
 VYR_FLAT(void) CSharp_FunctionStdDevAType_id_set(const char* identity) { set_identity(&FunctionStdDevAType::id, identity); }
@@ -95,7 +95,7 @@ VYR_FLAT(void) CSharp_FunctionStdDevBType_swap(void* self, void* other) { checke
 VYR_FLAT(void) CSharp_FunctionStdDevBType_reset(void* self) { guarded(+[](void* s) { return as<FunctionStdDevBType>(s).reset(); }, self); }
 VYR_FLAT(std::int32_t) CSharp_FunctionStdDevBType_is_occurs_ok(void* self) { return as<FunctionStdDevBType>(self).is_occurs_ok(); }
 VYR_FLAT(void*) CSharp_FunctionStdDevBType_clone(void* self) { return guarded(+[](void* s) -> void* { return as<FunctionStdDevBType>(s).clone(); }, self); }
-VYR_FLAT(const char*) CSharp_FunctionStdDevBType_getid(void* self) { return as<FunctionStdDevBType>(self).getid(); }
+VYR_FLAT(char*) CSharp_FunctionStdDevBType_getid(void* self) { return new_string(as<FunctionStdDevBType>(self).getid()); }
 VYR_FLAT(std::int32_t) CSharp_FunctionStdDevBType_has_id(void* self, const char* identity) { return as<FunctionStdDevBType>(self).has_id(identity); }
 VYR_FLAT(const char*) CSharp_FunctionStdDevBType_id_get() { return FunctionStdDevBType::id; }
 VYR_FLAT(void) CSharp_FunctionStdDevBType_id_set(const char* identity) { set_identity(&FunctionStdDevBType::id, identity); }
@@ -109,7 +109,7 @@ VYR_FLAT(void) CSharp_FunctionStdDevCType_swap(void* self, void* other) { checke
 VYR_FLAT(void) CSharp_FunctionStdDevCType_reset(void* self) { guarded(+[](void* s) { return as<FunctionStdDevCType>(s).reset(); }, self); }
 VYR_FLAT(std::int32_t) CSharp_FunctionStdDevCType_is_occurs_ok(void* self) { return as<FunctionStdDevCType>(self).is_occurs_ok(); }
 VYR_FLAT(void*) CSharp_FunctionStdDevCType_clone(void* self) { return guarded(+[](void* s) -> void* { return as<FunctionStdDevCType>(s).clone(); }, self); }
-VYR_FLAT(const char*) CSharp_FunctionStdDevCType_getid(void* self) { return as<FunctionStdDevCType>(self).getid(); }
+VYR_FLAT(char*) CSharp_FunctionStdDevCType_getid(void* self) { return new_string(as<FunctionStdDevCType>(self).getid()); }
 VYR_FLAT(std::int32_t) CSharp_FunctionStdDevCType_has_id(void* self, const char* identity) { return as<FunctionStdDevCType>(self).has_id(identity); }
 VYR_FLAT(const char*) CSharp_FunctionStdDevCType_id_get() { return FunctionStdDevCType::id; }
 VYR_FLAT(void) CSharp_FunctionStdDevCType_id_set(const char* identity) { set_identity(&FunctionStdDevCType::id, identity); }
@@ -123,7 +123,7 @@ VYR_FLAT(void) CSharp_FunctionStdDevHType_swap(void* self, void* other) { checke
 VYR_FLAT(void) CSharp_FunctionStdDevHType_reset(void* self) { guarded(+[](void* s) { return as<FunctionStdDevHType>(s).reset(); }, self); }
 VYR_FLAT(std::int32_t) CSharp_FunctionStdDevHType_is_occurs_ok(void* self) { return as<FunctionStdDevHType>(self).is_occurs_ok(); }
 VYR_FLAT(void*) CSharp_FunctionStdDevHType_clone(void* self) { return guarded(+[](void* s) -> void* { return as<FunctionStdDevHType>(s).clone(); }, self); }
-VYR_FLAT(const char*) CSharp_FunctionStdDevHType_getid(void* self) { return as<FunctionStdDevHType>(self).getid(); }
+VYR_FLAT(char*) CSharp_FunctionStdDevHType_getid(void* self) { return new_string(as<FunctionStdDevHType>(self).getid()); }
 VYR_FLAT(std::int32_t) CSharp_FunctionStdDevHType_has_id(void* self, const char* identity) { return as<FunctionStdDevHType>(self).has_id(identity); }
 VYR_FLAT(const char*) CSharp_FunctionStdDevHType_id_get() { return FunctionStdDevHType::id; }
 VYR_FLAT(void) CSharp_FunctionStdDevHType_id_set(const char* identity) { set_identity(&FunctionStdDevHType::id, identity); }
@@ -137,7 +137,7 @@ VYR_FLAT(void) CSharp_FunctionAverageStdDevLType_swap(void* self, void* other) {
 VYR_FLAT(void) CSharp_FunctionAverageStdDevLType_reset(void* self) { guarded(+[](void* s) { return as<FunctionAverageStdDevLType>(s).reset(); }, self); }
 VYR_FLAT(std::int32_t) CSharp_FunctionAverageStdDevLType_is_occurs_ok(void* self) { return as<FunctionAverageStdDevLType>(self).is_occurs_ok(); }
 VYR_FLAT(void*) CSharp_FunctionAverageStdDevLType_clone(void* self) { return guarded(+[](void* s) -> void* { return as<FunctionAverageStdDevLType>(s).clone(); }, self); }
-VYR_FLAT(const char*) CSharp_FunctionAverageStdDevLType_getid(void* self) { return as<FunctionAverageStdDevLType>(self).getid(); }
+VYR_FLAT(char*) CSharp_FunctionAverageStdDevLType_getid(void* self) { return new_string(as<FunctionAverageStdDevLType>(self).getid()); }
 VYR_FLAT(std::int32_t) CSharp_FunctionAverageStdDevLType_has_id(void* self, const char* identity) { return as<FunctionAverageStdDevLType>(self).has_id(identity); }
 VYR_FLAT(const char*) CSharp_FunctionAverageStdDevLType_id_get() { return FunctionAverageStdDevLType::id; }
 VYR_FLAT(void) CSharp_FunctionAverageStdDevLType_id_set(const char* identity) { set_identity(&FunctionAverageStdDevLType::id, identity); }
@@ -151,7 +151,7 @@ VYR_FLAT(void) CSharp_FunctionAverageStdDevAType_swap(void* self, void* other) {
 VYR_FLAT(void) CSharp_FunctionAverageStdDevAType_reset(void* self) { guarded(+[](void* s) { return as<FunctionAverageStdDevAType>(s).reset(); }, self); }
 VYR_FLAT(std::int32_t) CSharp_FunctionAverageStdDevAType_is_occurs_ok(void* self) { return as<FunctionAverageStdDevAType>(self).is_occurs_ok(); }
 VYR_FLAT(void*) CSharp_FunctionAverageStdDevAType_clone(void* self) { return guarded(+[](void* s) -> void* { return as<FunctionAverageStdDevAType>(s).clone(); }, self); }
-VYR_FLAT(const char*) CSharp_FunctionAverageStdDevAType_getid(void* self) { return as<FunctionAverageStdDevAType>(self).getid(); }
+VYR_FLAT(char*) CSharp_FunctionAverageStdDevAType_getid(void* self) { return new_string(as<FunctionAverageStdDevAType>(self).getid()); }
 VYR_FLAT(std::int32_t) CSharp_FunctionAverageStdDevAType_has_id(void* self, const char* identity) { return as<FunctionAverageStdDevAType>(self).has_id(identity); }
 VYR_FLAT(const char*) CSharp_FunctionAverageStdDevAType_id_get() { return FunctionAverageStdDevAType::id; }
 VYR_FLAT(void) CSharp_FunctionAverageStdDevAType_id_set(const char* identity) { set_identity(&FunctionAverageStdDevAType::id, identity); }
@@ -165,7 +165,7 @@ VYR_FLAT(void) CSharp_FunctionAverageStdDevBType_swap(void* self, void* other) {
 VYR_FLAT(void) CSharp_FunctionAverageStdDevBType_reset(void* self) { guarded(+[](void* s) { return as<FunctionAverageStdDevBType>(s).reset(); }, self); }
 VYR_FLAT(std::int32_t) CSharp_FunctionAverageStdDevBType_is_occurs_ok(void* self) { return as<FunctionAverageStdDevBType>(self).is_occurs_ok(); }
 VYR_FLAT(void*) CSharp_FunctionAverageStdDevBType_clone(void* self) { return guarded(+[](void* s) -> void* { return as<FunctionAverageStdDevBType>(s).clone(); }, self); }
-VYR_FLAT(const char*) CSharp_FunctionAverageStdDevBType_getid(void* self) { return as<FunctionAverageStdDevBType>(self).getid(); }
+VYR_FLAT(char*) CSharp_FunctionAverageStdDevBType_getid(void* self) { return new_string(as<FunctionAverageStdDevBType>(self).getid()); }
 VYR_FLAT(std::int32_t) CSharp_FunctionAverageStdDevBType_has_id(void* self, const char* identity) { return as<FunctionAverageStdDevBType>(self).has_id(identity); }
 VYR_FLAT(const char*) CSharp_FunctionAverageStdDevBType_id_get() { return FunctionAverageStdDevBType::id; }
 VYR_FLAT(void) CSharp_FunctionAverageStdDevBType_id_set(const char* identity) { set_identity(&FunctionAverageStdDevBType::id, identity); }

@@ -25,7 +25,7 @@ VYR_FLAT(void) CSharp_SubstrateType_swap(void* self, void* other) { checked("com
 VYR_FLAT(void) CSharp_SubstrateType_reset(void* self) { guarded(+[](void* s) { return as<SubstrateType>(s).reset(); }, self); }
 VYR_FLAT(std::int32_t) CSharp_SubstrateType_is_occurs_ok(void* self) { return as<SubstrateType>(self).is_occurs_ok(); }
 VYR_FLAT(void*) CSharp_SubstrateType_clone(void* self) { return guarded(+[](void* s) -> void* { return as<SubstrateType>(s).clone(); }, self); }
-VYR_FLAT(const char*) CSharp_SubstrateType_getid(void* self) { return as<SubstrateType>(self).getid(); }
+VYR_FLAT(char*) CSharp_SubstrateType_getid(void* self) { return new_string(as<SubstrateType>(self).getid()); }
 VYR_FLAT(std::int32_t) CSharp_SubstrateType_has_id(void* self, const char* identity) { return as<SubstrateType>(self).has_id(identity); }
 VYR_FLAT(const char*) CSharp_SubstrateType_id_get() { return SubstrateType::id; }
 VYR_FLAT(void) CSharp_SubstrateType_id_set(const char* identity) { set_identity(&SubstrateType::id, identity); }
@@ -60,7 +60,7 @@ VYR_FLAT(void) CSharp_SubstratePaperType_swap(void* self, void* other) { checked
 VYR_FLAT(void) CSharp_SubstratePaperType_reset(void* self) { guarded(+[](void* s) { return as<SubstratePaperType>(s).reset(); }, self); }
 VYR_FLAT(std::int32_t) CSharp_SubstratePaperType_is_occurs_ok(void* self) { return as<SubstratePaperType>(self).is_occurs_ok(); }
 VYR_FLAT(void*) CSharp_SubstratePaperType_clone(void* self) { return guarded(+[](void* s) -> void* { return as<SubstratePaperType>(s).clone(); }, self); }
-VYR_FLAT(const char*) CSharp_SubstratePaperType_getid(void* self) { return as<SubstratePaperType>(self).getid(); }
+VYR_FLAT(char*) CSharp_SubstratePaperType_getid(void* self) { return new_string(as<SubstratePaperType>(self).getid()); }
 VYR_FLAT(std::int32_t) CSharp_SubstratePaperType_has_id(void* self, const char* identity) { return as<SubstratePaperType>(self).has_id(identity); }
 VYR_FLAT(const char*) CSharp_SubstratePaperType_id_get() { return SubstratePaperType::id; }
 VYR_FLAT(void) CSharp_SubstratePaperType_id_set(const char* identity) { set_identity(&SubstratePaperType::id, identity); }
@@ -82,7 +82,7 @@ VYR_FLAT(void) CSharp_SubstrateGenericType_swap(void* self, void* other) { check
 VYR_FLAT(void) CSharp_SubstrateGenericType_reset(void* self) { guarded(+[](void* s) { return as<SubstrateGenericType>(s).reset(); }, self); }
 VYR_FLAT(std::int32_t) CSharp_SubstrateGenericType_is_occurs_ok(void* self) { return as<SubstrateGenericType>(self).is_occurs_ok(); }
 VYR_FLAT(void*) CSharp_SubstrateGenericType_clone(void* self) { return guarded(+[](void* s) -> void* { return as<SubstrateGenericType>(s).clone(); }, self); }
-VYR_FLAT(const char*) CSharp_SubstrateGenericType_getid(void* self) { return as<SubstrateGenericType>(self).getid(); }
+VYR_FLAT(char*) CSharp_SubstrateGenericType_getid(void* self) { return new_string(as<SubstrateGenericType>(self).getid()); }
 VYR_FLAT(std::int32_t) CSharp_SubstrateGenericType_has_id(void* self, const char* identity) { return as<SubstrateGenericType>(self).has_id(identity); }
 VYR_FLAT(const char*) CSharp_SubstrateGenericType_id_get() { return SubstrateGenericType::id; }
 VYR_FLAT(void) CSharp_SubstrateGenericType_id_set(const char* identity) { set_identity(&SubstrateGenericType::id, identity); }
@@ -98,7 +98,7 @@ VYR_FLAT(void) CSharp_SubstrateMetalType_swap(void* self, void* other) { checked
 VYR_FLAT(void) CSharp_SubstrateMetalType_reset(void* self) { guarded(+[](void* s) { return as<SubstrateMetalType>(s).reset(); }, self); }
 VYR_FLAT(std::int32_t) CSharp_SubstrateMetalType_is_occurs_ok(void* self) { return as<SubstrateMetalType>(self).is_occurs_ok(); }
 VYR_FLAT(void*) CSharp_SubstrateMetalType_clone(void* self) { return guarded(+[](void* s) -> void* { return as<SubstrateMetalType>(s).clone(); }, self); }
-VYR_FLAT(const char*) CSharp_SubstrateMetalType_getid(void* self) { return as<SubstrateMetalType>(self).getid(); }
+VYR_FLAT(char*) CSharp_SubstrateMetalType_getid(void* self) { return new_string(as<SubstrateMetalType>(self).getid()); }
 VYR_FLAT(std::int32_t) CSharp_SubstrateMetalType_has_id(void* self, const char* identity) { return as<SubstrateMetalType>(self).has_id(identity); }
 VYR_FLAT(const char*) CSharp_SubstrateMetalType_id_get() { return SubstrateMetalType::id; }
 VYR_FLAT(void) CSharp_SubstrateMetalType_id_set(const char* identity) { set_identity(&SubstrateMetalType::id, identity); }
@@ -120,7 +120,7 @@ VYR_FLAT(void) CSharp_SubstratePlasticType_swap(void* self, void* other) { check
 VYR_FLAT(void) CSharp_SubstratePlasticType_reset(void* self) { guarded(+[](void* s) { return as<SubstratePlasticType>(s).reset(); }, self); }
 VYR_FLAT(std::int32_t) CSharp_SubstratePlasticType_is_occurs_ok(void* self) { return as<SubstratePlasticType>(self).is_occurs_ok(); }
 VYR_FLAT(void*) CSharp_SubstratePlasticType_clone(void* self) { return guarded(+[](void* s) -> void* { return as<SubstratePlasticType>(s).clone(); }, self); }
-VYR_FLAT(const char*) CSharp_SubstratePlasticType_getid(void* self) { return as<SubstratePlasticType>(self).getid(); }
+VYR_FLAT(char*) CSharp_SubstratePlasticType_getid(void* self) { return new_string(as<SubstratePlasticType>(self).getid()); }
 VYR_FLAT(std::int32_t) CSharp_SubstratePlasticType_has_id(void* self, const char* identity) { return as<SubstratePlasticType>(self).has_id(identity); }
 VYR_FLAT(const char*) CSharp_SubstratePlasticType_id_get() { return SubstratePlasticType::id; }
 VYR_FLAT(void) CSharp_SubstratePlasticType_id_set(const char* identity) { set_identity(&SubstratePlasticType::id, identity); }
@@ -142,7 +142,7 @@ VYR_FLAT(void) CSharp_SubstrateWoodType_swap(void* self, void* other) { checked(
 VYR_FLAT(void) CSharp_SubstrateWoodType_reset(void* self) { guarded(+[](void* s) { return as<SubstrateWoodType>(s).reset(); }, self); }
 VYR_FLAT(std::int32_t) CSharp_SubstrateWoodType_is_occurs_ok(void* self) { return as<SubstrateWoodType>(self).is_occurs_ok(); }
 VYR_FLAT(void*) CSharp_SubstrateWoodType_clone(void* self) { return guarded(+[](void* s) -> void* { return as<SubstrateWoodType>(s).clone(); }, self); }
-VYR_FLAT(const char*) CSharp_SubstrateWoodType_getid(void* self) { return as<SubstrateWoodType>(self).getid(); }
+VYR_FLAT(char*) CSharp_SubstrateWoodType_getid(void* self) { return new_string(as<SubstrateWoodType>(self).getid()); }
 VYR_FLAT(std::int32_t) CSharp_SubstrateWoodType_has_id(void* self, const char* identity) { return as<SubstrateWoodType>(self).has_id(identity); }
 VYR_FLAT(const char*) CSharp_SubstrateWoodType_id_get() { return SubstrateWoodType::id; }
 VYR_FLAT(void) CSharp_SubstrateWoodType_id_set(const char* identity) { set_identity(&SubstrateWoodType::id, identity); }
@@ -164,7 +164,7 @@ VYR_FLAT(void) CSharp_SubstrateVinylType_swap(void* self, void* other) { checked
 VYR_FLAT(void) CSharp_SubstrateVinylType_reset(void* self) { guarded(+[](void* s) { return as<SubstrateVinylType>(s).reset(); }, self); }
 VYR_FLAT(std::int32_t) CSharp_SubstrateVinylType_is_occurs_ok(void* self) { return as<SubstrateVinylType>(self).is_occurs_ok(); }
 VYR_FLAT(void*) CSharp_SubstrateVinylType_clone(void* self) { return guarded(+[](void* s) -> void* { return as<SubstrateVinylType>(s).clone(); }, self); }
-VYR_FLAT(const char*) CSharp_SubstrateVinylType_getid(void* self) { return as<SubstrateVinylType>(self).getid(); }
+VYR_FLAT(char*) CSharp_SubstrateVinylType_getid(void* self) { return new_string(as<SubstrateVinylType>(self).getid()); }
 VYR_FLAT(std::int32_t) CSharp_SubstrateVinylType_has_id(void* self, const char* identity) { return as<SubstrateVinylType>(self).has_id(identity); }
 VYR_FLAT(const char*) CSharp_SubstrateVinylType_id_get() { return SubstrateVinylType::id; }
 VYR_FLAT(void) CSharp_SubstrateVinylType_id_set(const char* identity) { set_identity(&SubstrateVinylType::id, identity); }
@@ -186,7 +186,7 @@ VYR_FLAT(void) CSharp_SubstrateTileType_swap(void* self, void* other) { checked(
 VYR_FLAT(void) CSharp_SubstrateTileType_reset(void* self) { guarded(+[](void* s) { return as<SubstrateTileType>(s).reset(); }, self); }
 VYR_FLAT(std::int32_t) CSharp_SubstrateTileType_is_occurs_ok(void* self) { return as<SubstrateTileType>(self).is_occurs_ok(); }
 VYR_FLAT(void*) CSharp_SubstrateTileType_clone(void* self) { return guarded(+[](void* s) -> void* { return as<SubstrateTileType>(s).clone(); }, self); }
-VYR_FLAT(const char*) CSharp_SubstrateTileType_getid(void* self) { return as<SubstrateTileType>(self).getid(); }
+VYR_FLAT(char*) CSharp_SubstrateTileType_getid(void* self) { return new_string(as<SubstrateTileType>(self).getid()); }
 VYR_FLAT(std::int32_t) CSharp_SubstrateTileType_has_id(void* self, const char* identity) { return as<SubstrateTileType>(self).has_id(identity); }
 VYR_FLAT(const char*) CSharp_SubstrateTileType_id_get() { return SubstrateTileType::id; }
 VYR_FLAT(void) CSharp_SubstrateTileType_id_set(const char* identity) { set_identity(&SubstrateTileType::id, identity); }
@@ -208,7 +208,7 @@ VYR_FLAT(void) CSharp_SubstrateFilmType_swap(void* self, void* other) { checked(
 VYR_FLAT(void) CSharp_SubstrateFilmType_reset(void* self) { guarded(+[](void* s) { return as<SubstrateFilmType>(s).reset(); }, self); }
 VYR_FLAT(std::int32_t) CSharp_SubstrateFilmType_is_occurs_ok(void* self) { return as<SubstrateFilmType>(self).is_occurs_ok(); }
 VYR_FLAT(void*) CSharp_SubstrateFilmType_clone(void* self) { return guarded(+[](void* s) -> void* { return as<SubstrateFilmType>(s).clone(); }, self); }
-VYR_FLAT(const char*) CSharp_SubstrateFilmType_getid(void* self) { return as<SubstrateFilmType>(self).getid(); }
+VYR_FLAT(char*) CSharp_SubstrateFilmType_getid(void* self) { return new_string(as<SubstrateFilmType>(self).getid()); }
 VYR_FLAT(std::int32_t) CSharp_SubstrateFilmType_has_id(void* self, const char* identity) { return as<SubstrateFilmType>(self).has_id(identity); }
 VYR_FLAT(const char*) CSharp_SubstrateFilmType_id_get() { return SubstrateFilmType::id; }
 VYR_FLAT(void) CSharp_SubstrateFilmType_id_set(const char* identity) { set_identity(&SubstrateFilmType::id, identity); }
@@ -230,7 +230,7 @@ VYR_FLAT(void) CSharp_SubstrateTextileType_swap(void* self, void* other) { check
 VYR_FLAT(void) CSharp_SubstrateTextileType_reset(void* self) { guarded(+[](void* s) { return as<SubstrateTextileType>(s).reset(); }, self); }
 VYR_FLAT(std::int32_t) CSharp_SubstrateTextileType_is_occurs_ok(void* self) { return as<SubstrateTextileType>(self).is_occurs_ok(); }
 VYR_FLAT(void*) CSharp_SubstrateTextileType_clone(void* self) { return guarded(+[](void* s) -> void* { return as<SubstrateTextileType>(s).clone(); }, self); }
-VYR_FLAT(const char*) CSharp_SubstrateTextileType_getid(void* self) { return as<SubstrateTextileType>(self).getid(); }
+VYR_FLAT(char*) CSharp_SubstrateTextileType_getid(void* self) { return new_string(as<SubstrateTextileType>(self).getid()); }
 VYR_FLAT(std::int32_t) CSharp_SubstrateTextileType_has_id(void* self, const char* identity) { return as<SubstrateTextileType>(self).has_id(identity); }
 VYR_FLAT(const char*) CSharp_SubstrateTextileType_id_get() { return SubstrateTextileType::id; }
 VYR_FLAT(void) CSharp_SubstrateTextileType_id_set(const char* identity) { set_identity(&SubstrateTextileType::id, identity); }

@@ -117,7 +117,7 @@ def contract(printer, made):
 def family(printer, plan, made):
     if made.named:
         printer.guarded("clone", OBJECT, f"{printer.self}.clone()")
-        printer.plain("getid", NARROW, "getid()")
+        printer.plain("getid", NARROW_RESULT, "getid()", convert="new_string({})")
         printer.plain("has_id", FLAG, "has_id(identity)", (NARROW, "identity"))
         printer.add("id_get", NARROW, (), f"{made.name}::id")
         printer.add("id_set", "void", ((NARROW, "identity"),), f"set_identity(&{made.name}::id, identity)")
