@@ -9,7 +9,7 @@ set -euo pipefail
 cd "$(dirname "$0")/.."
 
 mapfile -d '' files < <(find lmx schema zip document flat tools tests bench fuzz examples -name generated -prune -o \
-    \( -name '*.h' -o -name '*.cpp' \) -print0)
+    \( -name '*.h' -o -name '*.cpp' -o -name '*.c' \) -print0)
 if [[ ${#files[@]} -eq 0 ]]; then
     echo "check_format.sh: found no file" >&2
     exit 1

@@ -19,7 +19,7 @@ work=$(mktemp -d)
 trap 'rm -rf "$work"' EXIT
 cd "$work"
 
-run() { LD_LIBRARY_PATH=$library LD_PRELOAD=libc_malloc_debug.so.0 MALLOC_CHECK_=3 mono "$@"; }
+run() { LC_ALL=C.UTF-8 LD_LIBRARY_PATH=$library LD_PRELOAD=libc_malloc_debug.so.0 MALLOC_CHECK_=3 mono "$@"; }
 
 mcs -out:Palette.exe "$source/examples/csharp/Palette.cs"
 run Palette.exe "$source/examples/css-colors.vyr" changed.vyrz > said
