@@ -337,6 +337,18 @@ TEST(Reading, SwallowedErrorsGoOn) {
     EXPECT_EQ(reader.get_error_item_name(), "Vyr:ColorType");
     ASSERT_EQ(color.size_ColorSpace(), 1U);
     EXPECT_EQ(color.get_ColorSpace(0).get_ColorSpaceCIELab().get_L(), 151);
+
+    // The pattern is asked even about what is no date, but not about a text that would take it minutes.
+    std::string dates;
+    for (const std::string& date : {std::string("2009"), std::string("1T2Z"), std::string(1'000'000, 'T')}) {
+        dates += element("ChangeHistory", date);
+    }
+    const std::string dated = with_declarations(element("Color", dates, " ColorName=\"c\""));
+    c_swallowing_reader second(dated);
+    EXPECT_EQ(read_with(second, color).code, ELMX_OK);
+    const s_outcome no_date = failure(ELMX_VALUE_BAD_FORMAT, "Vyr:ChangeHistory");
+    const s_outcome no_match = failure(ELMX_NO_PATTERN_MATCHED, "Vyr:ChangeHistory");
+    EXPECT_EQ(second.swallowed, (std::vector<s_outcome>{no_date, no_match, no_date, no_date}));
 }
 
 TEST(Reading, AHandlerThatSwallowsEverythingStillComesToAnEnd) {
