@@ -5,6 +5,7 @@
 
 #pragma once
 
+#include <compare>
 #include <concepts>
 #include <cstdint>
 #include <ostream>
@@ -14,6 +15,20 @@
 #include "lmx/export.h"
 
 namespace lmx {
+
+namespace detail {
+
+template <class T>
+concept big_int_text = std::convertible_to<const T&, const char*> || std::same_as<T, std::string>;
+
+/// A null pointer counts as zero.
+inline std::string_view text_of(const char* text) { return text == nullptr ? "0" : text; }
+inline std::string_view text_of(const std::string& text) { return text; }
+
+/// The value of digits modulo 2^32. `*overflow`, if given, tells whether it passes `maximum`.
+std::uint32_t sum_digits(std::string_view digits, std::uint32_t maximum, bool* overflow);
+
+}  // namespace detail
 
 /// An integer in canonical form: an optional "-" and digits without leading zeros; zero is "0".
 ///
@@ -47,81 +62,28 @@ public:
     bool is_equal(std::string_view text) const;
     bool is_greater(std::string_view text) const;
 
+    /// Compare with another value or a text, on either side. Found only where one side is a `c_big_int`: elsewhere
+    /// they would compete for texts.
     friend bool operator==(const c_big_int& a, const c_big_int& b) { return a.m_text == b.m_text; }
-    friend bool operator>(const c_big_int& a, const c_big_int& b) { return a.is_greater(b.m_text); }
+    friend std::weak_ordering operator<=>(const c_big_int& a, const c_big_int& b) { return a.order(b.m_text); }
+    template <detail::big_int_text T>
+    friend bool operator==(const c_big_int& value, const T& text) {
+        return value.is_equal(detail::text_of(text));
+    }
+    template <detail::big_int_text T>
+    friend std::weak_ordering operator<=>(const c_big_int& value, const T& text) {
+        return value.order(detail::text_of(text));
+    }
 
 private:
+    /// What is neither equal nor greater is less.
+    std::weak_ordering order(std::string_view text) const {
+        if (is_equal(text)) return std::weak_ordering::equivalent;
+        return is_greater(text) ? std::weak_ordering::greater : std::weak_ordering::less;
+    }
+
     std::string m_text;
 };
-
-namespace detail {
-
-template <class T>
-concept big_int_text = std::convertible_to<const T&, const char*> || std::same_as<T, std::string>;
-
-/// A null pointer counts as zero.
-inline std::string_view text_of(const char* text) { return text == nullptr ? "0" : text; }
-inline std::string_view text_of(const std::string& text) { return text; }
-
-/// The value of digits modulo 2^32. `*overflow`, if given, tells whether it passes `maximum`.
-std::uint32_t sum_digits(std::string_view digits, std::uint32_t maximum, bool* overflow);
-
-}  // namespace detail
-
-inline bool operator!=(const c_big_int& a, const c_big_int& b) { return !(a == b); }
-inline bool operator>=(const c_big_int& a, const c_big_int& b) { return a == b || a > b; }
-inline bool operator<(const c_big_int& a, const c_big_int& b) { return !(a >= b); }
-inline bool operator<=(const c_big_int& a, const c_big_int& b) { return !(a > b); }
-
-template <detail::big_int_text T>
-bool operator==(const c_big_int& value, const T& text) {
-    return value.is_equal(detail::text_of(text));
-}
-template <detail::big_int_text T>
-bool operator!=(const c_big_int& value, const T& text) {
-    return !(value == text);
-}
-template <detail::big_int_text T>
-bool operator>(const c_big_int& value, const T& text) {
-    return value.is_greater(detail::text_of(text));
-}
-template <detail::big_int_text T>
-bool operator>=(const c_big_int& value, const T& text) {
-    return value == text || value > text;
-}
-template <detail::big_int_text T>
-bool operator<(const c_big_int& value, const T& text) {
-    return !(value >= text);
-}
-template <detail::big_int_text T>
-bool operator<=(const c_big_int& value, const T& text) {
-    return !(value > text);
-}
-
-template <detail::big_int_text T>
-bool operator==(const T& text, const c_big_int& value) {
-    return value == text;
-}
-template <detail::big_int_text T>
-bool operator!=(const T& text, const c_big_int& value) {
-    return !(value == text);
-}
-template <detail::big_int_text T>
-bool operator>(const T& text, const c_big_int& value) {
-    return value < text;
-}
-template <detail::big_int_text T>
-bool operator>=(const T& text, const c_big_int& value) {
-    return !(value > text);
-}
-template <detail::big_int_text T>
-bool operator<(const T& text, const c_big_int& value) {
-    return value > text;
-}
-template <detail::big_int_text T>
-bool operator<=(const T& text, const c_big_int& value) {
-    return value == text || value > text;
-}
 
 VYR_EXPORT std::ostream& operator<<(std::ostream& stream, const c_big_int& value);
 
