@@ -111,6 +111,7 @@ public:
         return *this;
     }
     c_calendar& operator=(const std::string& text) { return *this = text.c_str(); }
+    c_calendar& operator=(std::nullptr_t) = delete;  // which `value = {}` would mean
 
     static bool is_valid(const std::string& text) {
         bool has_zone = false;

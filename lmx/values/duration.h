@@ -9,6 +9,7 @@
 #pragma once
 
 #include <compare>
+#include <cstddef>
 #include <cstdint>
 #include <ostream>
 #include <string>
@@ -27,6 +28,7 @@ public:
     /// fraction behind a point is lost.
     c_duration& operator=(const char* text);
     c_duration& operator=(const std::string& text) { return *this = text.c_str(); }
+    c_duration& operator=(std::nullptr_t) = delete;  // which `value = {}` would mean
 
     static bool is_valid(const std::string& text);
     static bool is_valid(const char* text);
