@@ -52,10 +52,7 @@ TEST(Scalars, IntegerForms) {
     for (const char* text : {"", "-", "+", "1.", "1e5", " 1", "1 ", "+-1", "0x1", "\xD9\xA1"}) {
         EXPECT_FALSE(lmx::is_valid_integer(text)) << text;
     }
-    EXPECT_FALSE(
-        lmx::is_valid_integer(std::string("1\0"
-                                          "2",
-                                          3)));
+    EXPECT_FALSE(lmx::is_valid_integer(std::string("1\0+", 3)));
 }
 
 TEST(Scalars, DigitCountsStripNothing) {
@@ -108,10 +105,7 @@ TEST(TextToDouble, AgreesWithTheCLibraryBitForBit) {
           "inf", "-infinity", "1.5 2", "1e5e5", "+ 5", ". 5"}) {
         expect_like_c_library(text);
     }
-    EXPECT_EQ(lmx::text_to_double(std::string("1\0"
-                                              "2",
-                                              3)),
-              1.0);
+    EXPECT_EQ(lmx::text_to_double(std::string("1\0.5", 4)), 1.0);
     for (const std::size_t size : {31U, 32U, 33U, 800U, 100000U}) {
         expect_like_c_library("0." + std::string(size, '3'));
         expect_like_c_library(std::string(size, '7') + ".5");

@@ -141,9 +141,7 @@ TEST(AsXml, HighSurrogateWithoutPartnerDropsTheRest) {
     EXPECT_EQ(as_xml(std::u16string{'a', 0xD83D}), "a");
     EXPECT_EQ(as_xml(std::u16string{'a', 0xD83D, 'b', 'c'}), "a");
     EXPECT_EQ(as_xml(std::u16string{'a', 0xD83D, 0xD83D, 0xDE00}), "a");
-    EXPECT_EQ(as_xml(std::u16string{'a', 0xDE00, 'b'}),
-              "a\xED\xB8\x80"
-              "b");
+    EXPECT_EQ(as_xml(std::u16string{'a', 0xDE00, 'z'}), "a\xED\xB8\x80z");
 }
 
 /// Unit by unit, as the text form is defined.
