@@ -17,30 +17,9 @@ std::u16string reference_wide(const std::string& source) {
     int pending = 0;
     for (std::size_t i = 0; i < source.size();) {
         const auto lead = static_cast<unsigned char>(source[i]);
-        std::size_t size = 0;
         int c = 0;
-        if (lead < 0x80) {
-            size = 1;
-            c = lead;
-        } else if (lead >= 0xC0 && lead < 0xE0) {
-            size = 2;
-            c = lead - 0xC0;
-        } else if (lead >= 0xE0 && lead < 0xF0) {
-            size = 3;
-            c = lead - 0xE0;
-        } else if (lead >= 0xF0 && lead < 0xF8) {
-            size = 4;
-            c = lead - 0xF0;
-        } else {
-            return target;
-        }
-        if (i + size > source.size()) return target;
-        for (std::size_t k = 1; k < size; ++k) {
-            const auto byte = static_cast<unsigned char>(source[i + k]);
-            if (byte < 0x80 || byte > 0xBF) return target;
-            c = c * 64 + (byte - 0x80);
-        }
-        i += size;
+        if (!lmx::utf8_to_unicode_char(source.c_str() + i, &c)) return target;  // also where the text breaks off
+        i += lead < 0x80 ? 1 : lead < 0xE0 ? 2 : lead < 0xF0 ? 3 : 4;
         if (pending != 0) {
             if (c < 0xDC00 || c > 0xDFFF) return target;
             target += static_cast<char16_t>(pending);
