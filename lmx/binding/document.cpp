@@ -7,6 +7,7 @@
 #include <fstream>
 #include <sstream>
 
+#include "lmx/binding/open_element.h"
 #include "lmx/writer/xml_writer.h"
 
 namespace lmx {
@@ -33,7 +34,8 @@ elmx_error unmarshal_document(const s_document& document, void* object, c_xml_re
     const bool is_document =
         reader.get_element_ns_id() == document.ns_map->ns_id && reader.get_local_name() == document.local_name;
     if (!is_document) {
-        error = reader.handle_error(ELMX_ELEMENT_NOT_FOUND, reader.m_name, k_source_file, __LINE__);
+        const s_fault_site site{nullptr, nullptr, nullptr, &document};
+        error = report_at(reader, site, ELMX_ELEMENT_NOT_FOUND, reader.m_name, k_source_file, __LINE__);
         if (error != ELMX_OK) return error;
     }
     return document.operations->unmarshal(object, reader, reader.m_name);

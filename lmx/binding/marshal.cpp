@@ -9,6 +9,7 @@
 
 #include "lmx/binding/any_info.h"
 #include "lmx/binding/object.h"
+#include "lmx/binding/open_element.h"
 #include "lmx/binding/storage.h"
 #include "lmx/writer/as_xml.h"
 
@@ -127,14 +128,16 @@ elmx_error print_chosen(c_xml_writer& writer, const s_class& type, const void* o
     const s_choice& choice = choice_of(type, object);
     const s_item* const alternative = chosen_row(type, choice);
     if (alternative == nullptr) {
-        return writer.handle_error(ELMX_BAD_CHOICE, type.qualified_name, k_source_file, __LINE__);
+        return report_at(writer, {&type}, ELMX_BAD_CHOICE, type.qualified_name, k_source_file, __LINE__);
     }
     if (alternative->type == nullptr) {
         const bool is_text = alternative->value == value_kind::text;
         print_element(writer, *alternative, is_text ? choice.object : &choice.number);
         return ELMX_OK;
     }
-    if (choice.object == nullptr) return ELMX_TYPE_NOT_SET;
+    if (choice.object == nullptr) {
+        return report_unhandled(writer, {&type, alternative}, ELMX_TYPE_NOT_SET, std::string(alternative->name));
+    }
     if (!alternative->factory.empty()) writer.set_expected_class_identity(*alternative->type->id);
     return alternative->type->operations->marshal(choice.object, writer, alternative->name.data());
 }
@@ -150,8 +153,11 @@ void print_xsi_type(c_xml_writer& writer, const s_class& type) {
 }  // namespace
 
 elmx_error marshal_element(const s_class& type, const void* object, c_xml_writer& writer, const char* name) {
+    const c_open_element open(writer, {writer.get_open_element(), &type, object, nullptr, name, 0});
     // A choice that holds nothing is found and named where it is printed.
-    if (type.content != content_kind::choice && !is_occurs_ok(type, object)) return ELMX_OCCURS_ERROR_ON_MARSHAL;
+    if (type.content != content_kind::choice && !is_occurs_ok(type, object)) {
+        return report_unhandled(writer, {&type, nullptr, object}, ELMX_OCCURS_ERROR_ON_MARSHAL, name);
+    }
     c_line(writer, true) << "<" << name;
     if (type.ns_map != nullptr) {
         writer.conditionally_select_ns_map(type.ns_map);
@@ -212,7 +218,9 @@ elmx_error marshal_child_elements(const s_class& type, const void* object, c_xml
 }
 
 elmx_error marshal_group(const s_class& type, const void* object, c_xml_writer& writer) {
-    if (!is_occurs_ok(type, object)) return ELMX_OCCURS_ERROR_ON_MARSHAL;
+    if (!is_occurs_ok(type, object)) {
+        return report_unhandled(writer, {&type, nullptr, object}, ELMX_OCCURS_ERROR_ON_MARSHAL, type.name);
+    }
     return marshal_child_elements(type, object, writer);
 }
 

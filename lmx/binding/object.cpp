@@ -43,14 +43,6 @@ void copy_list(const s_item& item, void* target, const void* source) {
     }
 }
 
-bool is_item_there(const s_item& item, const void* object) {
-    if (is_repeating(item)) return list_of(item, object).size() > 0;
-    if (is_set(item, object)) return true;
-    // A class that is a holder itself can be filled through the members it inherits, which know no flag.
-    return item.kind == item_kind::group && item.type->content == content_kind::group &&
-           is_occurs_ok(*item.type, &member<std::byte>(object, item.offset));
-}
-
 void copy_single(const s_item& item, void* target, const void* source) {
     if (item.kind == item_kind::marker) return;
     // What is written without a look at its flag may be there without it.
@@ -180,6 +172,14 @@ elmx_error set_entry_value(const s_item& item, void* object, std::size_t index, 
 }
 
 }  // namespace
+
+bool is_item_there(const s_item& item, const void* object) {
+    if (is_repeating(item)) return list_of(item, object).size() > 0;
+    if (is_set(item, object)) return true;
+    // A class that is a holder itself can be filled through the members it inherits, which know no flag.
+    return item.kind == item_kind::group && item.type->content == content_kind::group &&
+           is_occurs_ok(*item.type, &member<std::byte>(object, item.offset));
+}
 
 void* append_default(const s_item& item, void* object) {
     auto& entries = member<c_list_base>(object, item.offset);

@@ -99,6 +99,9 @@ inline const s_class& content_owner(const s_class& type) {
     return *owner;
 }
 
+/// Whether an item that must be there is there.
+bool is_item_there(const s_item& item, const void* object);
+
 /// A new entry at the end of a repeating item; a default value or object.
 void* append_default(const s_item& item, void* object);
 

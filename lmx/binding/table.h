@@ -64,6 +64,7 @@ enum item_use : std::uint8_t {
     use_written = 4,   ///< the writer prints it without asking for the flag
     use_copied = 8,    ///< a copy takes it without asking for the flag, and raises the flag
     use_lax = 16,      ///< a group that is read without asking whether the element is a member
+    use_name = 32,     ///< its text names the object in reports
     use_required = use_demanded | use_asked | use_written | use_copied,
 };
 

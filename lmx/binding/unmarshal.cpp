@@ -7,6 +7,7 @@
 
 #include "lmx/binding/any_info.h"
 #include "lmx/binding/object.h"
+#include "lmx/binding/open_element.h"
 #include "lmx/binding/storage.h"
 #include "lmx/values/unicode.h"
 
@@ -17,9 +18,17 @@ constexpr char k_source_file[] = "lmx/binding/unmarshal.cpp";
 
 /// Passes a failure to the reader's handler. True if the handler swallowed it and reading goes on; `*error` is the
 /// handler's answer.
-bool goes_on(c_xml_reader& reader, elmx_error code, const std::string& item_name, elmx_error* error, int line) {
-    *error = reader.handle_error(code, item_name, k_source_file, line);
+bool goes_on(c_xml_reader& reader, const s_fault_site& site, elmx_error code, const std::string& item_name,
+             elmx_error* error, int line) {
+    *error = report_at(reader, site, code, item_name, k_source_file, line);
     return *error == ELMX_OK;
+}
+bool goes_on(c_xml_reader& reader, elmx_error code, const std::string& item_name, elmx_error* error, int line) {
+    return goes_on(reader, {}, code, item_name, error, line);
+}
+
+void note_item(c_xml_reader& reader, const s_item& item) {
+    if (s_open_element* const element = reader.get_open_element()) element->last_item = &item;
 }
 
 bool next_element(c_xml_reader& reader, const s_event_map* map, std::string* name, elmx_error* error) {
@@ -63,11 +72,12 @@ bool is_lexically_valid(value_kind kind, const std::string& text, bool* has_zone
 }
 
 /// The checks that look at the text, in the order in which they report.
-bool check_text(c_xml_reader& reader, const s_item& item, const std::string& item_name, elmx_error* error) {
+bool check_text(c_xml_reader& reader, const s_fault_site& site, const std::string& item_name, elmx_error* error) {
+    const s_item& item = *site.item;
     const std::string& text = reader.m_value;
     bool has_zone = false;
     const bool is_valid = is_lexically_valid(item.value, text, &has_zone);
-    if (!is_valid && !goes_on(reader, ELMX_VALUE_BAD_FORMAT, item_name, error, __LINE__)) return false;
+    if (!is_valid && !goes_on(reader, site, ELMX_VALUE_BAD_FORMAT, item_name, error, __LINE__)) return false;
     if (item.facets == nullptr) return true;
     const s_facets& facets = *item.facets;
     // The pattern engine is quadratic on texts that fail the check above. It gives up on long ones, which counts as a
@@ -76,42 +86,43 @@ bool check_text(c_xml_reader& reader, const s_item& item, const std::string& ite
     const bool is_matched = facets.pattern == nullptr || (has_zone && facets.pattern_takes_zoned) ||
                             (!is_valid && text.size() > longest_odd_text);
     if (!is_matched && !facets.pattern->is_match(text) &&
-        !goes_on(reader, ELMX_NO_PATTERN_MATCHED, item_name, error, __LINE__)) {
+        !goes_on(reader, site, ELMX_NO_PATTERN_MATCHED, item_name, error, __LINE__)) {
         return false;
     }
     if (!facets.enumeration.empty() &&
         std::find(facets.enumeration.begin(), facets.enumeration.end(), text) == facets.enumeration.end() &&
-        !goes_on(reader, ELMX_VALUE_NOT_ENUMERATED, item_name, error, __LINE__)) {
+        !goes_on(reader, site, ELMX_VALUE_NOT_ENUMERATED, item_name, error, __LINE__)) {
         return false;
     }
     if (!is_min_length_ok(text, facets.minimum_length) &&
-        !goes_on(reader, ELMX_LENGTH_TOO_SHORT, item_name, error, __LINE__)) {
+        !goes_on(reader, site, ELMX_LENGTH_TOO_SHORT, item_name, error, __LINE__)) {
         return false;
     }
     if (!is_max_length_ok(text, facets.maximum_length) &&
-        !goes_on(reader, ELMX_LENGTH_TOO_LONG, item_name, error, __LINE__)) {
+        !goes_on(reader, site, ELMX_LENGTH_TOO_LONG, item_name, error, __LINE__)) {
         return false;
     }
     // Integers are compared as text, so that one of any length gets the right verdict.
     if (facets.minimum_integer != nullptr) {
         const bool is_below =
             facets.minimum_exclusive ? text <= *facets.minimum_integer : text < *facets.minimum_integer;
-        if (is_below && !goes_on(reader, ELMX_VALUE_BELOW_MIN, item_name, error, __LINE__)) return false;
+        if (is_below && !goes_on(reader, site, ELMX_VALUE_BELOW_MIN, item_name, error, __LINE__)) return false;
     }
     if (facets.maximum_integer != nullptr) {
         const bool is_above =
             facets.maximum_exclusive ? text >= *facets.maximum_integer : text > *facets.maximum_integer;
-        if (is_above && !goes_on(reader, ELMX_VALUE_EXCEEDS_MAX, item_name, error, __LINE__)) return false;
+        if (is_above && !goes_on(reader, site, ELMX_VALUE_EXCEEDS_MAX, item_name, error, __LINE__)) return false;
     }
     return true;
 }
 
-bool check_number(c_xml_reader& reader, const s_item& item, double number, const std::string& item_name,
+bool check_number(c_xml_reader& reader, const s_fault_site& site, double number, const std::string& item_name,
                   elmx_error* error) {
-    if (item.facets == nullptr) return true;
-    const s_facets& facets = *item.facets;
-    if (facets.is_below(number) && !goes_on(reader, ELMX_VALUE_BELOW_MIN, item_name, error, __LINE__)) return false;
-    return !facets.is_above(number) || goes_on(reader, ELMX_VALUE_EXCEEDS_MAX, item_name, error, __LINE__);
+    if (site.item->facets == nullptr) return true;
+    const s_facets& facets = *site.item->facets;
+    if (facets.is_below(number) && !goes_on(reader, site, ELMX_VALUE_BELOW_MIN, item_name, error, __LINE__))
+        return false;
+    return !facets.is_above(number) || goes_on(reader, site, ELMX_VALUE_EXCEEDS_MAX, item_name, error, __LINE__);
 }
 
 /// Where a checked value goes: into the object, to the end of a list, or into the slot of a choice.
@@ -125,12 +136,13 @@ void* locate(const s_class& type, const s_item& item, void* object) {
 /// Checks the text, converts it, stores it and raises the flag. A swallowed failure stores all the same.
 bool store_value(const s_class& type, const s_item& item, void* object, c_xml_reader& reader,
                  const std::string& item_name, elmx_error* error) {
-    if (!check_text(reader, item, item_name, error)) return false;
+    const s_fault_site site{&type, &item, object};
+    if (!check_text(reader, site, item_name, error)) return false;
     const std::string& text = reader.m_value;
     switch (item.value) {
         case value_kind::number: {
             const double number = text_to_double(text);
-            if (!check_number(reader, item, number, item_name, error)) return false;
+            if (!check_number(reader, site, number, item_name, error)) return false;
             *static_cast<double*>(locate(type, item, object)) = number;
             break;
         }
@@ -166,8 +178,9 @@ bool read_simple_element(const s_class& type, const s_item& item, void* object, 
                          const std::string& name, elmx_error* error) {
     bool is_empty = false;
     *error = ELMX_OK;
+    reader.set_value_faulty(false);
     if (!reader.get_simple_type_value(name, item.whitespace, &reader.m_value, error, &is_empty)) {
-        return goes_on(reader, *error, name, error, __LINE__);
+        return goes_on(reader, {&type, &item, object}, *error, name, error, __LINE__);
     }
     return store_value(type, item, object, reader, name, error);
 }
@@ -176,7 +189,7 @@ bool read_simple_element(const s_class& type, const s_item& item, void* object, 
 
 bool report_missing(c_xml_reader& reader, const s_item& item, elmx_error* error) {
     if ((item.use & use_demanded) == 0) return true;
-    return goes_on(reader, ELMX_MANDATORY_ELEMENT_MISSING, std::string(item.name), error, __LINE__);
+    return goes_on(reader, {nullptr, &item}, ELMX_MANDATORY_ELEMENT_MISSING, std::string(item.name), error, __LINE__);
 }
 
 bool read_single(const s_class& type, const s_item& item, void* object, c_xml_reader& reader, std::string* name,
@@ -189,9 +202,10 @@ bool read_single(const s_class& type, const s_item& item, void* object, c_xml_re
         if (*error != ELMX_OK) return false;
         mark_set(item, object);
     } else if (!reader.skip_rest_of_empty_element(*name) &&
-               !goes_on(reader, ELMX_BAD_END_OF_ELEMENT, *name, error, __LINE__)) {
+               !goes_on(reader, {&type, &item, object}, ELMX_BAD_END_OF_ELEMENT, *name, error, __LINE__)) {
         return false;
     }
+    note_item(reader, item);
     return next_element(reader, type.element_map + item.next_position, name, error);
 }
 
@@ -207,6 +221,7 @@ bool read_list(const s_class& type, const s_item& item, void* object, c_xml_read
             *error = item.type->operations->unmarshal(child, reader, *name);
             if (*error != ELMX_OK) return false;
         }
+        note_item(reader, item);
         if (!next_element(reader, type.element_map + item.position, name, error)) return false;
     } while (reader.get_current_event() == item.token);
     return true;
@@ -217,6 +232,7 @@ bool read_group(const s_class& type, const s_item& item, void* object, c_xml_rea
     const bool is_member = is_group_member(*item.type, reader);
     if (!is_member && (item.use & use_lax) == 0) return report_missing(reader, item, error);
     void* const holder = &member<std::byte>(object, item.offset);
+    if (is_member) note_item(reader, item);
     if (!item.type->operations->unmarshal_part(holder, reader, name, error)) return false;
     mark_set(item, object);
     tokenise_again(reader, type.element_map + item.next_position);
@@ -226,6 +242,7 @@ bool read_group(const s_class& type, const s_item& item, void* object, c_xml_rea
 bool read_group_list(const s_class& type, const s_item& item, void* object, c_xml_reader& reader, std::string* name,
                      elmx_error* error) {
     while (is_group_member(*item.type, reader)) {
+        note_item(reader, item);
         void* const holder = append_default(item, object);
         if (!item.type->operations->unmarshal_part(holder, reader, name, error)) return false;
         tokenise_again(reader, type.element_map + item.next_position);
@@ -270,18 +287,21 @@ bool read_item(const s_class& type, const s_item& item, void* object, c_xml_read
 
 /// A list that stayed too short is reported under the class's name; a plain list was reported at its own turn too.
 bool check_lists(const s_class& type, const void* object, c_xml_reader& reader, elmx_error* error) {
-    const bool is_short = std::any_of(type.elements.begin(), type.elements.end(), [&](const s_item& item) {
+    const auto short_list = std::find_if(type.elements.begin(), type.elements.end(), [&](const s_item& item) {
         return is_repeating(item) && (item.use & use_asked) != 0 && list_of(item, object).size() == 0;
     });
-    return !is_short || goes_on(reader, ELMX_MANDATORY_ELEMENT_MISSING, type.qualified_name, error, __LINE__);
+    if (short_list == type.elements.end()) return true;
+    return goes_on(reader, {&type, &*short_list}, ELMX_MANDATORY_ELEMENT_MISSING, type.qualified_name, error,
+                   __LINE__);
 }
 
 bool read_choice(const s_class& type, void* object, c_xml_reader& reader, std::string* name, elmx_error* error) {
     reader.tokenise(type.element_map, ELXP_ELEMENT);
     const s_item* const alternative = find_token(type.elements, reader.get_current_event());
     if (alternative == nullptr) {
-        return goes_on(reader, ELMX_UNKNOWN_ELEMENT_IN_COMPLEX_CONTENT, *name, error, __LINE__);
+        return goes_on(reader, {&type}, ELMX_UNKNOWN_ELEMENT_IN_COMPLEX_CONTENT, *name, error, __LINE__);
     }
+    note_item(reader, *alternative);
     // Alternatives with storage of their own are chosen before they are read, so that a half-read one stays.
     if (alternative->type != nullptr) {
         release_choice(type, object);
@@ -313,7 +333,7 @@ elmx_error read_attributes(const s_class& type, void* object, c_xml_reader& read
         if (unmarshal_attribute(type, object, reader, reader.m_attr_name, &error)) continue;
         if (error != ELMX_OK) return error;
         if (!reader.is_xsi_attribute(reader.m_attr_name) &&
-            !goes_on(reader, ELMX_UNEXPECTED_ATTRIBUTE, reader.m_name, &error, __LINE__)) {
+            !goes_on(reader, {&type}, ELMX_UNEXPECTED_ATTRIBUTE, reader.m_name, &error, __LINE__)) {
             return error;
         }
         reader.skip_attribute_value();
@@ -381,6 +401,8 @@ elmx_error unmarshal_element(const s_class& type, void* object, c_xml_reader& re
     if (reader.get_element_name_stack().get_depth() >= k_maximum_nesting) return refuse_nesting(reader, name);
     // The name argument is the reader's work string, and every event below overwrites it.
     const c_string_stack_node node(reader.get_element_name_stack(), name);
+    const c_open_element open(reader,
+                              {reader.get_open_element(), &type, object, &node, nullptr, reader.get_event_line()});
     const elmx_error error = read_attributes(type, object, reader, name);
     if (error != ELMX_OK) return error;
     return type.content == content_kind::simple ? read_simple_content(type, object, reader, node)
@@ -390,6 +412,7 @@ elmx_error unmarshal_element(const s_class& type, void* object, c_xml_reader& re
 bool unmarshal_attribute(const s_class& type, void* object, c_xml_reader& reader, const std::string& name,
                          elmx_error* error) {
     *error = ELMX_OK;
+    reader.set_value_faulty(false);
     reader.tokenise(type.attribute_map, ELXP_ATTRIBUTE);
     if (type.nil_flag != k_no_flag && reader.get_current_event() == ELXP_XSI_NIL) {
         return read_nil(type, object, reader, name, error);
@@ -398,9 +421,11 @@ bool unmarshal_attribute(const s_class& type, void* object, c_xml_reader& reader
     if (item == nullptr) {
         return type.base != nullptr && unmarshal_attribute(*type.base, object, reader, name, error);
     }
-    if (is_set(*item, object) && !goes_on(reader, ELMX_ATTRIBUTE_ALREADY_READ, name, error, __LINE__)) return false;
+    const s_fault_site site{&type, item, object};
+    if (is_set(*item, object) && !goes_on(reader, site, ELMX_ATTRIBUTE_ALREADY_READ, name, error, __LINE__))
+        return false;
     if (!reader.get_attribute_value(&reader.m_value, item->whitespace)) {
-        if (!goes_on(reader, ELMX_UNABLE_TO_READ_ATTRIBUTE_VALUE, name, error, __LINE__)) return false;
+        if (!goes_on(reader, site, ELMX_UNABLE_TO_READ_ATTRIBUTE_VALUE, name, error, __LINE__)) return false;
         // The reader stands inside the value; the next attribute begins behind it.
         reader.skip_attribute_value();
         return true;
@@ -415,7 +440,8 @@ elmx_error check_required_attributes(const s_class& type, const void* object, c_
     }
     for (const s_item& item : type.attributes) {
         if ((item.use & use_demanded) != 0 && !is_set(item, object)) {
-            return reader.handle_error(ELMX_REQUIRED_ATTRIBUTES_MISSING, type.name, k_source_file, __LINE__);
+            return report_at(reader, {&type, &item, object}, ELMX_REQUIRED_ATTRIBUTES_MISSING, type.name,
+                             k_source_file, __LINE__);
         }
     }
     return ELMX_OK;
@@ -443,10 +469,11 @@ bool unmarshal_content(const s_class& type, void* object, c_xml_reader& reader, 
     *error = ELMX_OK;
     const s_class& owner = content_owner(type);
     const s_item& item = owner.elements.front();
+    reader.set_value_faulty(false);
     if (!has_body) {
         reader.m_value.clear();
     } else if (!reader.get_element_value(&reader.m_value, item.whitespace, true)) {
-        return goes_on(reader, ELMX_UNABLE_TO_READ_ELEMENT_VALUE, *name, error, __LINE__);
+        return goes_on(reader, {&owner, &item, object}, ELMX_UNABLE_TO_READ_ELEMENT_VALUE, *name, error, __LINE__);
     }
     return store_value(owner, item, object, reader, *name, error);
 }
@@ -471,7 +498,7 @@ bool unmarshal_group(const s_class& type, void* object, c_xml_reader& reader, st
         if (has_type) typed = create_by_name(alternative->factory, ns_id, type_name);
         if (typed == nullptr && (has_type || (alternative->use & use_demanded) != 0)) {
             // The one failure that goes around the handler: nothing could be read in its place.
-            *error = ELMX_UNKNOWN_XSI_TYPE;
+            *error = report_unhandled(reader, {&type, alternative}, ELMX_UNKNOWN_XSI_TYPE, *name);
             return false;
         }
     }

@@ -81,6 +81,8 @@ public:
 
     /// True once nothing more can come: the source has ended or a fatal report has shut the reader.
     bool at_end_of_input() const;
+    /// True once the source had no further byte to give.
+    bool has_source_ended() const { return m_is_source_at_end; }
 
 protected:
     // Short cuts through the window. Each does what calls of `get` and `unget` would do, or nothing, when the state

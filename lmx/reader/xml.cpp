@@ -101,6 +101,7 @@ elxp_xml_event c_xml::get_element_name(c_xml_local* local, std::string* name) {
     for (;;) {
         name->clear();
         int c = get_non_ws();
+        m_event_line = get_line_num();
         if (c == -1) return deliver(ELXP_END_OF_INPUT);
         if (c == '&') {
             c_stream_name_reader stream(*this);
@@ -258,7 +259,7 @@ bool c_xml::read_attributes(c_xml_local* local) {
             unget(c);
             return c != -1;
         }
-        s_attribute attribute{m_attr_buffer.size(), 0, 0, 0, 0};
+        s_attribute attribute{m_attr_buffer.size(), 0, 0, 0, 0, get_line_num()};
         m_attr_buffer += static_cast<char>(c);
         take_run(k_stops_of_names, &m_attr_buffer);
         for (c = get(); is_name_char(c); c = get()) m_attr_buffer += static_cast<char>(c);
@@ -707,6 +708,18 @@ bool c_xml::get_nested_element_value(std::string* value, std::string* end_name, 
 
 int c_xml::get_ns_id(const c_xml_local* local, const std::string& name) const {
     return local->find_namespace_id(prefix_of(name));
+}
+
+std::string_view c_xml::get_raw_attribute_value() const {
+    return m_attr_index == 0 ? std::string_view() : raw_value_of(m_attributes[m_attr_index - 1]);
+}
+
+std::string_view c_xml::find_raw_attribute_value(std::string_view name) const {
+    const auto is_it = [&](const s_attribute& row) {
+        return std::string_view(m_attr_buffer).substr(row.name, row.name_length) == name;
+    };
+    const auto found = std::find_if(m_attributes.begin(), m_attributes.end(), is_it);
+    return found == m_attributes.end() ? std::string_view() : raw_value_of(*found);
 }
 
 bool c_xml::is_xsi_attribute(const c_xml_local* local, const std::string& name) const {

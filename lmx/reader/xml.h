@@ -8,6 +8,7 @@
 
 #include <cstddef>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "lmx/export.h"
@@ -68,6 +69,15 @@ public:
     /// The number of a name's prefix, or of the default namespace.
     int get_ns_id(const c_xml_local* local, const std::string& name) const;
 
+    /// The line where the event that `get_element_name` delivered last, or failed to, begins.
+    int get_event_line() const { return m_event_line; }
+    /// The line of the attribute that was named last.
+    int get_attribute_line() const { return m_attr_index == 0 ? m_event_line : m_attributes[m_attr_index - 1].line; }
+    /// The values of the attribute that was named last, and of the first one of that full name in the last start tag,
+    /// with references as they stand there; without data if there's none. Good until the next event.
+    std::string_view get_raw_attribute_value() const;
+    std::string_view find_raw_attribute_value(std::string_view name) const;
+
     int add_namespace(const char* uri) { return m_namespaces.add_namespace(uri); }
     void add_namespace(const char* uri, int id) { m_namespaces.add_namespace(uri, id); }
     int find_enumerated_namespace(const std::string& uri) const { return m_namespaces.find_namespace(uri); }
@@ -96,6 +106,7 @@ private:
         std::size_t value;
         std::size_t value_length;
         char quote;
+        int line;
     };
     using attributes = std::vector<s_attribute>;
     static constexpr std::size_t k_none = static_cast<std::size_t>(-1);
@@ -134,6 +145,9 @@ private:
     e_piece next_piece(std::string* out, std::string* name);
     bool copy_rest_of_start_tag(std::string* out, bool* is_empty);
     bool copy_content(std::string* out, std::string* end_name);
+    std::string_view raw_value_of(const s_attribute& attribute) const {
+        return std::string_view(m_attr_buffer).substr(attribute.value, attribute.value_length);
+    }
     void append_attributes(const attributes& list, std::string* out) const;
     void clear_attributes();
 
@@ -142,6 +156,7 @@ private:
     c_enumerated_namespaces m_namespaces;
     bool m_doctype_read = false;
     bool m_content_seen = false;
+    int m_event_line = 1;
     std::string m_attr_buffer;  ///< the start tag's names and raw values
     attributes m_attributes;
     attributes m_ns_attributes;

@@ -41,6 +41,7 @@ bool c_xml::take_start_tag(std::string* name) {
         if (text[at] == '>' || text[at] == '/') break;
         if (!is_plain_name_start(text[at])) return false;
         const std::size_t start = at;
+        const int line = get_line_num() + line_feeds;
         at = run_length(text, at, k_stops_of_names);
         if (text.size() - at < 2 || text[at] != '=' || text.substr(start, 5) == "xmlns") return false;
         const std::size_t length = at - start;
@@ -52,7 +53,7 @@ bool c_xml::take_start_tag(std::string* name) {
         if (at == text.size() || text[at] != quote) return false;
         line_feeds += static_cast<int>(std::count(text.begin() + value, text.begin() + at, '\n'));
         // Both lie in the buffer as they do in the tag.
-        m_attributes_ahead.push_back({start - name_length, length, value - name_length, at - value, quote});
+        m_attributes_ahead.push_back({start - name_length, length, value - name_length, at - value, quote, line});
         ++at;
     }
     name->assign(text, 0, name_length);

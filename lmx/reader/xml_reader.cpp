@@ -36,6 +36,13 @@ bool is_ncname(std::string_view name) {
 
 }  // namespace
 
+void detail::c_scanner_errors::report_error(elmx_error_type type, elmx_error, const char*, int line,
+                                            const char* text) {
+    if (type != ELMX_TYPE_FATAL && type != ELMX_TYPE_ERROR) return;
+    m_text = text;
+    m_line = line;
+}
+
 c_xml_reader_local::~c_xml_reader_local() {
     if (m_reader != nullptr) m_reader->set_reader_local(m_saved_local);
 }
@@ -56,6 +63,8 @@ elmx_error c_xml_reader::user_handle_error(elmx_error code, const std::string&, 
 }
 
 elmx_error c_xml_reader::user_handle_error(elmx_error code) { return code; }
+
+void c_xml_reader::see_unhandled_error(elmx_error, const std::string&) {}
 
 std::string& c_xml_reader::get_error_message(std::string* out) const {
     if (m_last_error == ELMX_OK) return *out = get_error_description(ELMX_OK);
@@ -96,7 +105,7 @@ elmx_error c_xml_reader::event_error() const {
 void c_xml_reader::get_element_event(const s_event_map* map, elmx_error* error, std::string* name) {
     // The scope serves one sibling after the other: declarations don't outlive their element.
     m_local->clear();
-    m_current_event = get_element_name(m_local, name);
+    m_current_event = m_scanned_event = get_element_name(m_local, name);
     if (m_current_event == ELXP_NAME) {
         m_cracked_name.set(m_local, *name);
         if (map != nullptr) tokenise(map, ELXP_ELEMENT);

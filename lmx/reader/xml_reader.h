@@ -42,12 +42,25 @@ private:
 
 namespace detail {
 
-/// Holds the collector of reports ahead of the scanner, which registers with it when it is built.
+/// The collector of the scanner's reports, which keeps the text of the last error.
+class VYR_EXPORT c_scanner_errors : public c_error {
+public:
+    void report_error(elmx_error_type type, elmx_error code, const char* source_id, int line,
+                      const char* text) override;
+
+    std::string m_text;  ///< empty while there was none
+    int m_line = 0;
+};
+
+/// Holds the collector ahead of the scanner, which registers with it when it is built.
 struct s_error_holder {
-    c_error m_collector;
+    c_scanner_errors m_collector;
 };
 
 }  // namespace detail
+
+struct s_open_element;
+struct s_fault_site;
 
 /// Serves one document. Belongs to one thread at a time.
 class VYR_EXPORT c_xml_reader : private detail::s_error_holder, public c_xml {
@@ -64,6 +77,8 @@ public:
     /// Line, item and text of the last failure, such as "line:12-'Vyr:Color'-Mandatory element missing", or
     /// "No Error". Returns `*out`.
     virtual std::string& get_error_message(std::string* out) const;
+    /// Sees a failure that goes around the handler and ends the read. The default does nothing.
+    virtual void see_unhandled_error(elmx_error code, const std::string& item_name);
 
     /// Records a failure and asks the handler.
     elmx_error handle_error(elmx_error code, const std::string& item_name, const char* file, int line);
@@ -73,6 +88,9 @@ public:
     bool get_error_info(elmx_error_type* type, elmx_error* code, int* line) const {
         return m_collector.get_error_info(type, code, line);
     }
+    /// What the scanner said in its last report of an error, and the line; empty while there was none.
+    const std::string& get_scanner_text() const { return m_collector.m_text; }
+    int get_scanner_line() const { return m_collector.m_line; }
     /// The current line, from 1.
     int get_line_no() const { return get_line_num(); }
 
@@ -113,6 +131,8 @@ public:
     std::string& get_namespace(const std::string& qname, std::string* out) const;
 
     int get_current_event() const { return m_current_event; }
+    /// What `get_element_event` last delivered, before anything was tokenised.
+    int get_scanned_event() const { return m_scanned_event; }
     void restore_event(int event) { m_current_event = event; }
     bool is_current_event_tokenisable() const {
         return m_current_event == ELXP_NAME || m_current_event == ELXP_UNKNOWN || m_current_event >= k_first_token;
@@ -132,6 +152,16 @@ public:
     const s_known_elements* get_known_elements() const { return m_known_elements; }
     void set_known_elements(const s_known_elements* known) { m_known_elements = known; }
 
+    // What a failure is described with, by those who read elements: the innermost open one, and while the handler is
+    // asked, what the failure is about. Both may be null.
+    s_open_element* get_open_element() const { return m_open_element; }
+    void set_open_element(s_open_element* element) { m_open_element = element; }
+    const s_fault_site* get_fault_site() const { return m_fault_site; }
+    void set_fault_site(const s_fault_site* site) { m_fault_site = site; }
+    /// Whether the value or attribute at hand was found wrong; for handlers that let more than one failure pass.
+    bool is_value_faulty() const { return m_is_value_faulty; }
+    void set_value_faulty(bool is_faulty) { m_is_value_faulty = is_faulty; }
+
 private:
     elmx_error event_error() const;
 
@@ -142,8 +172,12 @@ private:
     c_string_stack m_element_name_stack;
     c_cracked_name m_cracked_name;
     int m_current_event = ELXP_END_OF_INPUT;
+    int m_scanned_event = ELXP_END_OF_INPUT;
     std::vector<std::pair<std::string, std::string>> m_ns_mappings;  ///< prefix, uri
     const s_known_elements* m_known_elements = nullptr;
+    s_open_element* m_open_element = nullptr;
+    const s_fault_site* m_fault_site = nullptr;
+    bool m_is_value_faulty = false;
 
 public:
     // Work strings of whoever reads: the element's name, a value's text, the attribute's name.

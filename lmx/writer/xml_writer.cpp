@@ -40,6 +40,8 @@ elmx_error c_xml_writer::user_handle_error(elmx_error code, const std::string&, 
 
 elmx_error c_xml_writer::user_handle_error(elmx_error code) { return code; }
 
+void c_xml_writer::see_unhandled_error(elmx_error, const std::string&) {}
+
 std::string& c_xml_writer::get_error_message(std::string* out) const {
     const char* const text = get_error_description(m_last_error);
     if (m_last_error == ELMX_OK) return *out = text;

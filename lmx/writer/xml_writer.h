@@ -19,6 +19,9 @@
 
 namespace lmx {
 
+struct s_open_element;
+struct s_fault_site;
+
 /// One write to one stream. Neither flushes nor closes the stream; a failed stream goes unnoticed.
 class VYR_EXPORT c_xml_writer {
 public:
@@ -44,6 +47,8 @@ public:
     virtual const char* endl();
     /// Prints one indent step.
     virtual void nest();
+    /// Sees a failure that goes around the handler and ends the write. The default does nothing.
+    virtual void see_unhandled_error(elmx_error code, const std::string& item_name);
 
     /// The stream; at the start of a line indented to the current depth.
     std::ostream& operator()(bool at_line_start);
@@ -87,6 +92,13 @@ public:
         return m_error.get_error_info(type, code, line);
     }
 
+    // What a failure is described with, by those who print elements: the innermost open one, and while the failure is
+    // passed on, what it is about. Both may be null.
+    s_open_element* get_open_element() const { return m_open_element; }
+    void set_open_element(s_open_element* element) { m_open_element = element; }
+    const s_fault_site* get_fault_site() const { return m_fault_site; }
+    void set_fault_site(const s_fault_site* site) { m_fault_site = site; }
+
     /// Work string of whoever prints: a line is put together here, so that printing allocates nothing once the
     /// string has grown.
     std::string m_line;
@@ -108,6 +120,8 @@ private:
     std::vector<string_pair> m_namespaces;        ///< prefix, uri
     std::vector<string_pair> m_schema_locations;  ///< namespace, location
     const char* m_expected_class_identity = nullptr;
+    s_open_element* m_open_element = nullptr;
+    const s_fault_site* m_fault_site = nullptr;
 };
 
 }  // namespace lmx

@@ -239,7 +239,7 @@ constexpr s_event_map k_ColorSpaceCIELabType_elements[] = {
 }  // namespace
 
 constinit const s_item ColorSpaceCIELabType::k_items[] = {
-    {item_kind::attribute, value_kind::text, use_optional, ELMX_WS_PRESERVE, "Name", attribute_Name,
+    {item_kind::attribute, value_kind::text, use_name, ELMX_WS_PRESERVE, "Name", attribute_Name,
      LMX_OFFSET(ColorSpaceCIELabType, m_Name, attribute, text), LMX_FLAG(ColorSpaceCIELabType, m_isset_Name), 0, 0, nullptr, nullptr, {}},
     {item_kind::child, value_kind::none, use_required, ELMX_WS_PRESERVE, "Vyr:ColorSpaceSpecificationSpectrumTristimulus", element_ColorSpaceSpecificationSpectrumTristimulus,
      LMX_OFFSET(ColorSpaceCIELabType, m_ColorSpaceSpecificationSpectrumTristimulus, child, none), LMX_FLAG(ColorSpaceCIELabType, m_isset_ColorSpaceSpecificationSpectrumTristimulus), position_of(k_ColorSpaceCIELabType_elements, element_ColorSpaceSpecificationSpectrumTristimulus), position_of(k_ColorSpaceCIELabType_elements, element_ColorSpaceSpecificationSpectrumTristimulus, 1), &ColorSpaceSpecificationSpectrumTristimulus::k_class, nullptr, {}},
@@ -310,7 +310,7 @@ constexpr s_event_map k_ColorSpaceCIELChType_elements[] = {
 }  // namespace
 
 constinit const s_item ColorSpaceCIELChType::k_items[] = {
-    {item_kind::attribute, value_kind::text, use_optional, ELMX_WS_PRESERVE, "Name", attribute_Name,
+    {item_kind::attribute, value_kind::text, use_name, ELMX_WS_PRESERVE, "Name", attribute_Name,
      LMX_OFFSET(ColorSpaceCIELChType, m_Name, attribute, text), LMX_FLAG(ColorSpaceCIELChType, m_isset_Name), 0, 0, nullptr, nullptr, {}},
     {item_kind::child, value_kind::none, use_required, ELMX_WS_PRESERVE, "Vyr:ColorSpaceSpecificationSpectrumTristimulus", element_ColorSpaceSpecificationSpectrumTristimulus,
      LMX_OFFSET(ColorSpaceCIELChType, m_ColorSpaceSpecificationSpectrumTristimulus, child, none), LMX_FLAG(ColorSpaceCIELChType, m_isset_ColorSpaceSpecificationSpectrumTristimulus), position_of(k_ColorSpaceCIELChType_elements, element_ColorSpaceSpecificationSpectrumTristimulus), position_of(k_ColorSpaceCIELChType_elements, element_ColorSpaceSpecificationSpectrumTristimulus, 1), &ColorSpaceSpecificationSpectrumTristimulus::k_class, nullptr, {}},
@@ -381,7 +381,7 @@ constexpr s_event_map k_ColorSpaceCIELuvType_elements[] = {
 }  // namespace
 
 constinit const s_item ColorSpaceCIELuvType::k_items[] = {
-    {item_kind::attribute, value_kind::text, use_optional, ELMX_WS_PRESERVE, "Name", attribute_Name,
+    {item_kind::attribute, value_kind::text, use_name, ELMX_WS_PRESERVE, "Name", attribute_Name,
      LMX_OFFSET(ColorSpaceCIELuvType, m_Name, attribute, text), LMX_FLAG(ColorSpaceCIELuvType, m_isset_Name), 0, 0, nullptr, nullptr, {}},
     {item_kind::child, value_kind::none, use_required, ELMX_WS_PRESERVE, "Vyr:ColorSpaceSpecificationSpectrumTristimulus", element_ColorSpaceSpecificationSpectrumTristimulus,
      LMX_OFFSET(ColorSpaceCIELuvType, m_ColorSpaceSpecificationSpectrumTristimulus, child, none), LMX_FLAG(ColorSpaceCIELuvType, m_isset_ColorSpaceSpecificationSpectrumTristimulus), position_of(k_ColorSpaceCIELuvType_elements, element_ColorSpaceSpecificationSpectrumTristimulus), position_of(k_ColorSpaceCIELuvType_elements, element_ColorSpaceSpecificationSpectrumTristimulus, 1), &ColorSpaceSpecificationSpectrumTristimulus::k_class, nullptr, {}},
@@ -452,7 +452,7 @@ constexpr s_event_map k_ColorSpaceCIEXYZType_elements[] = {
 }  // namespace
 
 constinit const s_item ColorSpaceCIEXYZType::k_items[] = {
-    {item_kind::attribute, value_kind::text, use_optional, ELMX_WS_PRESERVE, "Name", attribute_Name,
+    {item_kind::attribute, value_kind::text, use_name, ELMX_WS_PRESERVE, "Name", attribute_Name,
      LMX_OFFSET(ColorSpaceCIEXYZType, m_Name, attribute, text), LMX_FLAG(ColorSpaceCIEXYZType, m_isset_Name), 0, 0, nullptr, nullptr, {}},
     {item_kind::child, value_kind::none, use_required, ELMX_WS_PRESERVE, "Vyr:ColorSpaceSpecificationSpectrumTristimulus", element_ColorSpaceSpecificationSpectrumTristimulus,
      LMX_OFFSET(ColorSpaceCIEXYZType, m_ColorSpaceSpecificationSpectrumTristimulus, child, none), LMX_FLAG(ColorSpaceCIEXYZType, m_isset_ColorSpaceSpecificationSpectrumTristimulus), position_of(k_ColorSpaceCIEXYZType_elements, element_ColorSpaceSpecificationSpectrumTristimulus), position_of(k_ColorSpaceCIEXYZType_elements, element_ColorSpaceSpecificationSpectrumTristimulus, 1), &ColorSpaceSpecificationSpectrumTristimulus::k_class, nullptr, {}},
@@ -523,7 +523,7 @@ constexpr s_event_map k_ColorSpaceCIExyYType_elements[] = {
 }  // namespace
 
 constinit const s_item ColorSpaceCIExyYType::k_items[] = {
-    {item_kind::attribute, value_kind::text, use_optional, ELMX_WS_PRESERVE, "Name", attribute_Name,
+    {item_kind::attribute, value_kind::text, use_name, ELMX_WS_PRESERVE, "Name", attribute_Name,
      LMX_OFFSET(ColorSpaceCIExyYType, m_Name, attribute, text), LMX_FLAG(ColorSpaceCIExyYType, m_isset_Name), 0, 0, nullptr, nullptr, {}},
     {item_kind::child, value_kind::none, use_required, ELMX_WS_PRESERVE, "Vyr:ColorSpaceSpecificationSpectrumTristimulus", element_ColorSpaceSpecificationSpectrumTristimulus,
      LMX_OFFSET(ColorSpaceCIExyYType, m_ColorSpaceSpecificationSpectrumTristimulus, child, none), LMX_FLAG(ColorSpaceCIExyYType, m_isset_ColorSpaceSpecificationSpectrumTristimulus), position_of(k_ColorSpaceCIExyYType_elements, element_ColorSpaceSpecificationSpectrumTristimulus), position_of(k_ColorSpaceCIExyYType_elements, element_ColorSpaceSpecificationSpectrumTristimulus, 1), &ColorSpaceSpecificationSpectrumTristimulus::k_class, nullptr, {}},
@@ -594,7 +594,7 @@ constexpr s_event_map k_ColorSpaceEmissiveCIEXYZType_elements[] = {
 }  // namespace
 
 constinit const s_item ColorSpaceEmissiveCIEXYZType::k_items[] = {
-    {item_kind::attribute, value_kind::text, use_optional, ELMX_WS_PRESERVE, "Name", attribute_Name,
+    {item_kind::attribute, value_kind::text, use_name, ELMX_WS_PRESERVE, "Name", attribute_Name,
      LMX_OFFSET(ColorSpaceEmissiveCIEXYZType, m_Name, attribute, text), LMX_FLAG(ColorSpaceEmissiveCIEXYZType, m_isset_Name), 0, 0, nullptr, nullptr, {}},
     {item_kind::child, value_kind::none, use_required, ELMX_WS_PRESERVE, "Vyr:ColorSpaceSpecificationEmissiveTristimulus", element_ColorSpaceSpecificationEmissiveTristimulus,
      LMX_OFFSET(ColorSpaceEmissiveCIEXYZType, m_ColorSpaceSpecificationEmissiveTristimulus, child, none), LMX_FLAG(ColorSpaceEmissiveCIEXYZType, m_isset_ColorSpaceSpecificationEmissiveTristimulus), position_of(k_ColorSpaceEmissiveCIEXYZType_elements, element_ColorSpaceSpecificationEmissiveTristimulus), position_of(k_ColorSpaceEmissiveCIEXYZType_elements, element_ColorSpaceSpecificationEmissiveTristimulus, 1), &ColorSpaceSpecificationEmissiveTristimulus::k_class, nullptr, {}},
@@ -665,7 +665,7 @@ constexpr s_event_map k_ColorSpaceEmissiveCIExyYType_elements[] = {
 }  // namespace
 
 constinit const s_item ColorSpaceEmissiveCIExyYType::k_items[] = {
-    {item_kind::attribute, value_kind::text, use_optional, ELMX_WS_PRESERVE, "Name", attribute_Name,
+    {item_kind::attribute, value_kind::text, use_name, ELMX_WS_PRESERVE, "Name", attribute_Name,
      LMX_OFFSET(ColorSpaceEmissiveCIExyYType, m_Name, attribute, text), LMX_FLAG(ColorSpaceEmissiveCIExyYType, m_isset_Name), 0, 0, nullptr, nullptr, {}},
     {item_kind::child, value_kind::none, use_required, ELMX_WS_PRESERVE, "Vyr:ColorSpaceSpecificationEmissiveTristimulus", element_ColorSpaceSpecificationEmissiveTristimulus,
      LMX_OFFSET(ColorSpaceEmissiveCIExyYType, m_ColorSpaceSpecificationEmissiveTristimulus, child, none), LMX_FLAG(ColorSpaceEmissiveCIExyYType, m_isset_ColorSpaceSpecificationEmissiveTristimulus), position_of(k_ColorSpaceEmissiveCIExyYType_elements, element_ColorSpaceSpecificationEmissiveTristimulus), position_of(k_ColorSpaceEmissiveCIExyYType_elements, element_ColorSpaceSpecificationEmissiveTristimulus, 1), &ColorSpaceSpecificationEmissiveTristimulus::k_class, nullptr, {}},

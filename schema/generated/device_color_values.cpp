@@ -41,7 +41,7 @@ constexpr s_event_map k_ColorSpaceRGBType_elements[] = {
 }  // namespace
 
 constinit const s_item ColorSpaceRGBType::k_items[] = {
-    {item_kind::attribute, value_kind::text, use_optional, ELMX_WS_PRESERVE, "Name", attribute_Name,
+    {item_kind::attribute, value_kind::text, use_name, ELMX_WS_PRESERVE, "Name", attribute_Name,
      LMX_OFFSET(ColorSpaceRGBType, m_Name, attribute, text), LMX_FLAG(ColorSpaceRGBType, m_isset_Name), 0, 0, nullptr, nullptr, {}},
     {item_kind::child, value_kind::none, use_required, ELMX_WS_PRESERVE, "Vyr:ColorSpaceSpecificationSpectrumTristimulus", element_ColorSpaceSpecificationSpectrumTristimulus,
      LMX_OFFSET(ColorSpaceRGBType, m_ColorSpaceSpecificationSpectrumTristimulus, child, none), LMX_FLAG(ColorSpaceRGBType, m_isset_ColorSpaceSpecificationSpectrumTristimulus), position_of(k_ColorSpaceRGBType_elements, element_ColorSpaceSpecificationSpectrumTristimulus), position_of(k_ColorSpaceRGBType_elements, element_ColorSpaceSpecificationSpectrumTristimulus, 1), &ColorSpaceSpecificationSpectrumTristimulus::k_class, nullptr, {}},
@@ -122,7 +122,7 @@ constexpr s_event_map k_ColorSpaceSRGBType_elements[] = {
 }  // namespace
 
 constinit const s_item ColorSpaceSRGBType::k_items[] = {
-    {item_kind::attribute, value_kind::text, use_optional, ELMX_WS_PRESERVE, "Name", attribute_Name,
+    {item_kind::attribute, value_kind::text, use_name, ELMX_WS_PRESERVE, "Name", attribute_Name,
      LMX_OFFSET(ColorSpaceSRGBType, m_Name, attribute, text), LMX_FLAG(ColorSpaceSRGBType, m_isset_Name), 0, 0, nullptr, nullptr, {}},
     {item_kind::child, value_kind::none, use_required, ELMX_WS_PRESERVE, "Vyr:ColorSpaceSpecificationSpectrumTristimulus", element_ColorSpaceSpecificationSpectrumTristimulus,
      LMX_OFFSET(ColorSpaceSRGBType, m_ColorSpaceSpecificationSpectrumTristimulus, child, none), LMX_FLAG(ColorSpaceSRGBType, m_isset_ColorSpaceSpecificationSpectrumTristimulus), position_of(k_ColorSpaceSRGBType_elements, element_ColorSpaceSpecificationSpectrumTristimulus), position_of(k_ColorSpaceSRGBType_elements, element_ColorSpaceSpecificationSpectrumTristimulus, 1), &ColorSpaceSpecificationSpectrumTristimulus::k_class, nullptr, {}},
@@ -203,7 +203,7 @@ constexpr s_event_map k_ColorSpaceAdobeRGBType_elements[] = {
 }  // namespace
 
 constinit const s_item ColorSpaceAdobeRGBType::k_items[] = {
-    {item_kind::attribute, value_kind::text, use_optional, ELMX_WS_PRESERVE, "Name", attribute_Name,
+    {item_kind::attribute, value_kind::text, use_name, ELMX_WS_PRESERVE, "Name", attribute_Name,
      LMX_OFFSET(ColorSpaceAdobeRGBType, m_Name, attribute, text), LMX_FLAG(ColorSpaceAdobeRGBType, m_isset_Name), 0, 0, nullptr, nullptr, {}},
     {item_kind::child, value_kind::none, use_required, ELMX_WS_PRESERVE, "Vyr:ColorSpaceSpecificationSpectrumTristimulus", element_ColorSpaceSpecificationSpectrumTristimulus,
      LMX_OFFSET(ColorSpaceAdobeRGBType, m_ColorSpaceSpecificationSpectrumTristimulus, child, none), LMX_FLAG(ColorSpaceAdobeRGBType, m_isset_ColorSpaceSpecificationSpectrumTristimulus), position_of(k_ColorSpaceAdobeRGBType_elements, element_ColorSpaceSpecificationSpectrumTristimulus), position_of(k_ColorSpaceAdobeRGBType_elements, element_ColorSpaceSpecificationSpectrumTristimulus, 1), &ColorSpaceSpecificationSpectrumTristimulus::k_class, nullptr, {}},
@@ -284,7 +284,7 @@ constexpr s_event_map k_ColorSpaceAdobeWideGamutRGBType_elements[] = {
 }  // namespace
 
 constinit const s_item ColorSpaceAdobeWideGamutRGBType::k_items[] = {
-    {item_kind::attribute, value_kind::text, use_optional, ELMX_WS_PRESERVE, "Name", attribute_Name,
+    {item_kind::attribute, value_kind::text, use_name, ELMX_WS_PRESERVE, "Name", attribute_Name,
      LMX_OFFSET(ColorSpaceAdobeWideGamutRGBType, m_Name, attribute, text), LMX_FLAG(ColorSpaceAdobeWideGamutRGBType, m_isset_Name), 0, 0, nullptr, nullptr, {}},
     {item_kind::child, value_kind::none, use_required, ELMX_WS_PRESERVE, "Vyr:ColorSpaceSpecificationSpectrumTristimulus", element_ColorSpaceSpecificationSpectrumTristimulus,
      LMX_OFFSET(ColorSpaceAdobeWideGamutRGBType, m_ColorSpaceSpecificationSpectrumTristimulus, child, none), LMX_FLAG(ColorSpaceAdobeWideGamutRGBType, m_isset_ColorSpaceSpecificationSpectrumTristimulus), position_of(k_ColorSpaceAdobeWideGamutRGBType_elements, element_ColorSpaceSpecificationSpectrumTristimulus), position_of(k_ColorSpaceAdobeWideGamutRGBType_elements, element_ColorSpaceSpecificationSpectrumTristimulus, 1), &ColorSpaceSpecificationSpectrumTristimulus::k_class, nullptr, {}},
@@ -365,7 +365,7 @@ constexpr s_event_map k_ColorSpaceCMYKType_elements[] = {
 }  // namespace
 
 constinit const s_item ColorSpaceCMYKType::k_items[] = {
-    {item_kind::attribute, value_kind::text, use_optional, ELMX_WS_PRESERVE, "Name", attribute_Name,
+    {item_kind::attribute, value_kind::text, use_name, ELMX_WS_PRESERVE, "Name", attribute_Name,
      LMX_OFFSET(ColorSpaceCMYKType, m_Name, attribute, text), LMX_FLAG(ColorSpaceCMYKType, m_isset_Name), 0, 0, nullptr, nullptr, {}},
     {item_kind::child, value_kind::none, use_required, ELMX_WS_PRESERVE, "Vyr:ColorSpaceSpecificationSpectrumGeneric", element_ColorSpaceSpecificationSpectrumGeneric,
      LMX_OFFSET(ColorSpaceCMYKType, m_ColorSpaceSpecificationSpectrumGeneric, child, none), LMX_FLAG(ColorSpaceCMYKType, m_isset_ColorSpaceSpecificationSpectrumGeneric), position_of(k_ColorSpaceCMYKType_elements, element_ColorSpaceSpecificationSpectrumGeneric), position_of(k_ColorSpaceCMYKType_elements, element_ColorSpaceSpecificationSpectrumGeneric, 1), &ColorSpaceSpecificationSpectrumGeneric::k_class, nullptr, {}},
@@ -507,7 +507,7 @@ constexpr s_event_map k_Color_elements[] = {
 }  // namespace
 
 constinit const s_item Color::k_items[] = {
-    {item_kind::element, value_kind::text, use_required, ELMX_WS_PRESERVE, "Vyr:Name", element_Name,
+    {item_kind::element, value_kind::text, use_required | use_name, ELMX_WS_PRESERVE, "Vyr:Name", element_Name,
      LMX_OFFSET(Color, m_Name, element, text), LMX_FLAG(Color, m_isset_Name), position_of(k_Color_elements, element_Name), position_of(k_Color_elements, element_Name, 1), nullptr, nullptr, {}},
     {item_kind::element, value_kind::number, use_required, ELMX_WS_COLLAPSE, "Vyr:Value", element_Value,
      LMX_OFFSET(Color, m_Value, element, number), LMX_FLAG(Color, m_isset_Value), position_of(k_Color_elements, element_Value), position_of(k_Color_elements, element_Value, 1), nullptr, nullptr, {}},
@@ -568,7 +568,7 @@ constexpr s_event_map k_ColorSpaceTINTORAOctavanticType_elements[] = {
 }  // namespace
 
 constinit const s_item ColorSpaceTINTORAOctavanticType::k_items[] = {
-    {item_kind::attribute, value_kind::text, use_optional, ELMX_WS_PRESERVE, "Name", attribute_Name,
+    {item_kind::attribute, value_kind::text, use_name, ELMX_WS_PRESERVE, "Name", attribute_Name,
      LMX_OFFSET(ColorSpaceTINTORAOctavanticType, m_Name, attribute, text), LMX_FLAG(ColorSpaceTINTORAOctavanticType, m_isset_Name), 0, 0, nullptr, nullptr, {}},
     {item_kind::child, value_kind::none, use_required, ELMX_WS_PRESERVE, "Vyr:ColorSpaceSpecificationSpectrumGeneric", element_ColorSpaceSpecificationSpectrumGeneric,
      LMX_OFFSET(ColorSpaceTINTORAOctavanticType, m_ColorSpaceSpecificationSpectrumGeneric, child, none), LMX_FLAG(ColorSpaceTINTORAOctavanticType, m_isset_ColorSpaceSpecificationSpectrumGeneric), position_of(k_ColorSpaceTINTORAOctavanticType_elements, element_ColorSpaceSpecificationSpectrumGeneric), position_of(k_ColorSpaceTINTORAOctavanticType_elements, element_ColorSpaceSpecificationSpectrumGeneric, 1), &ColorSpaceSpecificationSpectrumGeneric::k_class, nullptr, {}},
@@ -656,7 +656,7 @@ constexpr s_event_map k_ColorSpaceHSLType_elements[] = {
 }  // namespace
 
 constinit const s_item ColorSpaceHSLType::k_items[] = {
-    {item_kind::attribute, value_kind::text, use_optional, ELMX_WS_PRESERVE, "Name", attribute_Name,
+    {item_kind::attribute, value_kind::text, use_name, ELMX_WS_PRESERVE, "Name", attribute_Name,
      LMX_OFFSET(ColorSpaceHSLType, m_Name, attribute, text), LMX_FLAG(ColorSpaceHSLType, m_isset_Name), 0, 0, nullptr, nullptr, {}},
     {item_kind::child, value_kind::none, use_required, ELMX_WS_PRESERVE, "Vyr:ColorSpaceSpecificationSpectrumGeneric", element_ColorSpaceSpecificationSpectrumGeneric,
      LMX_OFFSET(ColorSpaceHSLType, m_ColorSpaceSpecificationSpectrumGeneric, child, none), LMX_FLAG(ColorSpaceHSLType, m_isset_ColorSpaceSpecificationSpectrumGeneric), position_of(k_ColorSpaceHSLType_elements, element_ColorSpaceSpecificationSpectrumGeneric), position_of(k_ColorSpaceHSLType_elements, element_ColorSpaceSpecificationSpectrumGeneric, 1), &ColorSpaceSpecificationSpectrumGeneric::k_class, nullptr, {}},
@@ -727,7 +727,7 @@ constexpr s_event_map k_ColorSpaceHSVType_elements[] = {
 }  // namespace
 
 constinit const s_item ColorSpaceHSVType::k_items[] = {
-    {item_kind::attribute, value_kind::text, use_optional, ELMX_WS_PRESERVE, "Name", attribute_Name,
+    {item_kind::attribute, value_kind::text, use_name, ELMX_WS_PRESERVE, "Name", attribute_Name,
      LMX_OFFSET(ColorSpaceHSVType, m_Name, attribute, text), LMX_FLAG(ColorSpaceHSVType, m_isset_Name), 0, 0, nullptr, nullptr, {}},
     {item_kind::child, value_kind::none, use_required, ELMX_WS_PRESERVE, "Vyr:ColorSpaceSpecificationSpectrumGeneric", element_ColorSpaceSpecificationSpectrumGeneric,
      LMX_OFFSET(ColorSpaceHSVType, m_ColorSpaceSpecificationSpectrumGeneric, child, none), LMX_FLAG(ColorSpaceHSVType, m_isset_ColorSpaceSpecificationSpectrumGeneric), position_of(k_ColorSpaceHSVType_elements, element_ColorSpaceSpecificationSpectrumGeneric), position_of(k_ColorSpaceHSVType_elements, element_ColorSpaceSpecificationSpectrumGeneric, 1), &ColorSpaceSpecificationSpectrumGeneric::k_class, nullptr, {}},
@@ -798,7 +798,7 @@ constexpr s_event_map k_ColorSpaceYUVType_elements[] = {
 }  // namespace
 
 constinit const s_item ColorSpaceYUVType::k_items[] = {
-    {item_kind::attribute, value_kind::text, use_optional, ELMX_WS_PRESERVE, "Name", attribute_Name,
+    {item_kind::attribute, value_kind::text, use_name, ELMX_WS_PRESERVE, "Name", attribute_Name,
      LMX_OFFSET(ColorSpaceYUVType, m_Name, attribute, text), LMX_FLAG(ColorSpaceYUVType, m_isset_Name), 0, 0, nullptr, nullptr, {}},
     {item_kind::child, value_kind::none, use_required, ELMX_WS_PRESERVE, "Vyr:ColorSpaceSpecificationSpectrumGeneric", element_ColorSpaceSpecificationSpectrumGeneric,
      LMX_OFFSET(ColorSpaceYUVType, m_ColorSpaceSpecificationSpectrumGeneric, child, none), LMX_FLAG(ColorSpaceYUVType, m_isset_ColorSpaceSpecificationSpectrumGeneric), position_of(k_ColorSpaceYUVType_elements, element_ColorSpaceSpecificationSpectrumGeneric), position_of(k_ColorSpaceYUVType_elements, element_ColorSpaceSpecificationSpectrumGeneric, 1), &ColorSpaceSpecificationSpectrumGeneric::k_class, nullptr, {}},
@@ -869,7 +869,7 @@ constexpr s_event_map k_ColorSpaceYIQType_elements[] = {
 }  // namespace
 
 constinit const s_item ColorSpaceYIQType::k_items[] = {
-    {item_kind::attribute, value_kind::text, use_optional, ELMX_WS_PRESERVE, "Name", attribute_Name,
+    {item_kind::attribute, value_kind::text, use_name, ELMX_WS_PRESERVE, "Name", attribute_Name,
      LMX_OFFSET(ColorSpaceYIQType, m_Name, attribute, text), LMX_FLAG(ColorSpaceYIQType, m_isset_Name), 0, 0, nullptr, nullptr, {}},
     {item_kind::child, value_kind::none, use_required, ELMX_WS_PRESERVE, "Vyr:ColorSpaceSpecificationSpectrumGeneric", element_ColorSpaceSpecificationSpectrumGeneric,
      LMX_OFFSET(ColorSpaceYIQType, m_ColorSpaceSpecificationSpectrumGeneric, child, none), LMX_FLAG(ColorSpaceYIQType, m_isset_ColorSpaceSpecificationSpectrumGeneric), position_of(k_ColorSpaceYIQType_elements, element_ColorSpaceSpecificationSpectrumGeneric), position_of(k_ColorSpaceYIQType_elements, element_ColorSpaceSpecificationSpectrumGeneric, 1), &ColorSpaceSpecificationSpectrumGeneric::k_class, nullptr, {}},
@@ -940,7 +940,7 @@ constexpr s_event_map k_ColorSpaceYBRType_elements[] = {
 }  // namespace
 
 constinit const s_item ColorSpaceYBRType::k_items[] = {
-    {item_kind::attribute, value_kind::text, use_optional, ELMX_WS_PRESERVE, "Name", attribute_Name,
+    {item_kind::attribute, value_kind::text, use_name, ELMX_WS_PRESERVE, "Name", attribute_Name,
      LMX_OFFSET(ColorSpaceYBRType, m_Name, attribute, text), LMX_FLAG(ColorSpaceYBRType, m_isset_Name), 0, 0, nullptr, nullptr, {}},
     {item_kind::child, value_kind::none, use_required, ELMX_WS_PRESERVE, "Vyr:ColorSpaceSpecificationSpectrumGeneric", element_ColorSpaceSpecificationSpectrumGeneric,
      LMX_OFFSET(ColorSpaceYBRType, m_ColorSpaceSpecificationSpectrumGeneric, child, none), LMX_FLAG(ColorSpaceYBRType, m_isset_ColorSpaceSpecificationSpectrumGeneric), position_of(k_ColorSpaceYBRType_elements, element_ColorSpaceSpecificationSpectrumGeneric), position_of(k_ColorSpaceYBRType_elements, element_ColorSpaceSpecificationSpectrumGeneric, 1), &ColorSpaceSpecificationSpectrumGeneric::k_class, nullptr, {}},
@@ -1245,7 +1245,7 @@ constexpr s_event_map k_SpotColorType_elements[] = {
 }  // namespace
 
 constinit const s_item SpotColorType::k_items[] = {
-    {item_kind::element, value_kind::text, use_required, ELMX_WS_PRESERVE, "Vyr:Name", element_Name,
+    {item_kind::element, value_kind::text, use_required | use_name, ELMX_WS_PRESERVE, "Vyr:Name", element_Name,
      LMX_OFFSET(SpotColorType, m_Name, element, text), LMX_FLAG(SpotColorType, m_isset_Name), position_of(k_SpotColorType_elements, element_Name), position_of(k_SpotColorType_elements, element_Name, 1), nullptr, &facets::NonEmptyString, {}},
     {item_kind::element, value_kind::number, use_required, ELMX_WS_COLLAPSE, "Vyr:Percentage", element_Percentage,
      LMX_OFFSET(SpotColorType, m_Percentage, element, number), LMX_FLAG(SpotColorType, m_isset_Percentage), position_of(k_SpotColorType_elements, element_Percentage), position_of(k_SpotColorType_elements, element_Percentage, 1), nullptr, &facets::Percentage, {}},

@@ -574,7 +574,7 @@ constexpr s_event_map k_ProfileType_Parameters_elements[] = {
 }  // namespace
 
 constinit const s_item ProfileType_Parameters::k_items[] = {
-    {item_kind::element, value_kind::text, use_required, ELMX_WS_PRESERVE, "Vyr:Name", element_Name,
+    {item_kind::element, value_kind::text, use_required | use_name, ELMX_WS_PRESERVE, "Vyr:Name", element_Name,
      LMX_OFFSET(ProfileType_Parameters, m_Name, element, text), LMX_FLAG(ProfileType_Parameters, m_isset_Name), position_of(k_ProfileType_Parameters_elements, element_Name), position_of(k_ProfileType_Parameters_elements, element_Name, 1), nullptr, &facets::SingleCharacter, {}},
     {item_kind::child, value_kind::none, use_required, ELMX_WS_PRESERVE, "Vyr:ValueChoice", element_ValueChoice,
      LMX_OFFSET(ProfileType_Parameters, m_ValueChoice, child, none), LMX_FLAG(ProfileType_Parameters, m_isset_ValueChoice), position_of(k_ProfileType_Parameters_elements, element_ValueChoice), position_of(k_ProfileType_Parameters_elements, element_ValueChoice, 1), &ProfileType_Parameters_ValueChoice::k_class, nullptr, {}},

@@ -135,7 +135,7 @@ constexpr s_event_map k_FunctionGenericType_elements[] = {
 }  // namespace
 
 constinit const s_item FunctionGenericType::k_items[] = {
-    {item_kind::element, value_kind::text, use_required, ELMX_WS_COLLAPSE, "Vyr:Name", element_Name,
+    {item_kind::element, value_kind::text, use_required | use_name, ELMX_WS_COLLAPSE, "Vyr:Name", element_Name,
      LMX_OFFSET(FunctionGenericType, m_Name, element, text), LMX_FLAG(FunctionGenericType, m_isset_Name), position_of(k_FunctionGenericType_elements, element_Name), position_of(k_FunctionGenericType_elements, element_Name, 1), nullptr, &facets::NonEmptyToken, {}},
     {item_kind::child_list, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:Parameters", element_Parameters,
      LMX_OFFSET(FunctionGenericType, m_Parameters, child_list, none), k_no_flag, position_of(k_FunctionGenericType_elements, element_Parameters), position_of(k_FunctionGenericType_elements, element_Parameters, 1), &Parameters::k_class, nullptr, {}},
@@ -248,7 +248,7 @@ constexpr s_event_map k_Parameters_elements[] = {
 }  // namespace
 
 constinit const s_item Parameters::k_items[] = {
-    {item_kind::element, value_kind::text, use_required, ELMX_WS_PRESERVE, "Vyr:Name", element_Name,
+    {item_kind::element, value_kind::text, use_required | use_name, ELMX_WS_PRESERVE, "Vyr:Name", element_Name,
      LMX_OFFSET(Parameters, m_Name, element, text), LMX_FLAG(Parameters, m_isset_Name), position_of(k_Parameters_elements, element_Name), position_of(k_Parameters_elements, element_Name, 1), nullptr, nullptr, {}},
     {item_kind::child, value_kind::none, use_required, ELMX_WS_PRESERVE, "Vyr:ValueChoice", element_ValueChoice,
      LMX_OFFSET(Parameters, m_ValueChoice, child, none), LMX_FLAG(Parameters, m_isset_ValueChoice), position_of(k_Parameters_elements, element_ValueChoice), position_of(k_Parameters_elements, element_ValueChoice, 1), &ValueChoice::k_class, nullptr, {}},

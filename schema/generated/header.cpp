@@ -73,7 +73,7 @@ constexpr s_event_map k_SDKType_elements[] = {
 }  // namespace
 
 constinit const s_item SDKType::k_items[] = {
-    {item_kind::element, value_kind::text, use_required, ELMX_WS_PRESERVE, "Vyr:SDKName", element_SDKName,
+    {item_kind::element, value_kind::text, use_required | use_name, ELMX_WS_PRESERVE, "Vyr:SDKName", element_SDKName,
      LMX_OFFSET(SDKType, m_SDKName, element, text), LMX_FLAG(SDKType, m_isset_SDKName), position_of(k_SDKType_elements, element_SDKName), position_of(k_SDKType_elements, element_SDKName, 1), nullptr, nullptr, {}},
     {item_kind::child, value_kind::none, use_required, ELMX_WS_PRESERVE, "Vyr:SDKVersion", element_SDKVersion,
      LMX_OFFSET(SDKType, m_SDKVersion, child, none), LMX_FLAG(SDKType, m_isset_SDKVersion), position_of(k_SDKType_elements, element_SDKVersion), position_of(k_SDKType_elements, element_SDKVersion, 1), &SDKVersion::k_class, nullptr, {}},
@@ -195,7 +195,7 @@ constinit const s_item Header::k_items[] = {
      LMX_OFFSET(Header, m_ChangeHistory, element_list, datetime), k_no_flag, position_of(k_Header_elements, element_ChangeHistory), position_of(k_Header_elements, element_ChangeHistory, 1), nullptr, &facets::DateTimeZone, {}},
     {item_kind::element, value_kind::text, use_required, ELMX_WS_PRESERVE, "Vyr:Purpose", element_Purpose,
      LMX_OFFSET(Header, m_Purpose, element, text), LMX_FLAG(Header, m_isset_Purpose), position_of(k_Header_elements, element_Purpose), position_of(k_Header_elements, element_Purpose, 1), nullptr, nullptr, {}},
-    {item_kind::element, value_kind::text, use_optional, ELMX_WS_PRESERVE, "Vyr:Name", element_Name,
+    {item_kind::element, value_kind::text, use_name, ELMX_WS_PRESERVE, "Vyr:Name", element_Name,
      LMX_OFFSET(Header, m_Name, element, text), LMX_FLAG(Header, m_isset_Name), position_of(k_Header_elements, element_Name), position_of(k_Header_elements, element_Name, 1), nullptr, nullptr, {}},
     {item_kind::element, value_kind::text, use_optional, ELMX_WS_PRESERVE, "Vyr:Comments", element_Comments,
      LMX_OFFSET(Header, m_Comments, element, text), LMX_FLAG(Header, m_isset_Comments), position_of(k_Header_elements, element_Comments), position_of(k_Header_elements, element_Comments, 1), nullptr, nullptr, {}},
@@ -610,7 +610,7 @@ constexpr s_event_map k_Person_elements[] = {
 }  // namespace
 
 constinit const s_item Person::k_items[] = {
-    {item_kind::element, value_kind::text, use_required, ELMX_WS_PRESERVE, "Vyr:Name", element_Name,
+    {item_kind::element, value_kind::text, use_required | use_name, ELMX_WS_PRESERVE, "Vyr:Name", element_Name,
      LMX_OFFSET(Person, m_Name, element, text), LMX_FLAG(Person, m_isset_Name), position_of(k_Person_elements, element_Name), position_of(k_Person_elements, element_Name, 1), nullptr, nullptr, {}},
     {item_kind::element, value_kind::text, use_optional, ELMX_WS_PRESERVE, "Vyr:ContactInfo", element_ContactInfo,
      LMX_OFFSET(Person, m_ContactInfo, element, text), LMX_FLAG(Person, m_isset_ContactInfo), position_of(k_Person_elements, element_ContactInfo), position_of(k_Person_elements, element_ContactInfo, 1), nullptr, nullptr, {}},
@@ -717,7 +717,7 @@ constexpr s_event_map k_CustomAttributeType_elements[] = {
 }  // namespace
 
 constinit const s_item CustomAttributeType::k_items[] = {
-    {item_kind::element, value_kind::text, use_required, ELMX_WS_PRESERVE, "Vyr:Name", element_Name,
+    {item_kind::element, value_kind::text, use_required | use_name, ELMX_WS_PRESERVE, "Vyr:Name", element_Name,
      LMX_OFFSET(CustomAttributeType, m_Name, element, text), LMX_FLAG(CustomAttributeType, m_isset_Name), position_of(k_CustomAttributeType_elements, element_Name), position_of(k_CustomAttributeType_elements, element_Name, 1), nullptr, &facets::NonEmptyString, {}},
     {item_kind::child, value_kind::none, use_required, ELMX_WS_PRESERVE, "Vyr:ValueChoice", element_ValueChoice,
      LMX_OFFSET(CustomAttributeType, m_ValueChoice, child, none), LMX_FLAG(CustomAttributeType, m_isset_ValueChoice), position_of(k_CustomAttributeType_elements, element_ValueChoice), position_of(k_CustomAttributeType_elements, element_ValueChoice, 1), &CustomAttributeType_ValueChoice::k_class, nullptr, {}},
@@ -770,7 +770,7 @@ constexpr s_event_map k_TagCategory_attributes[] = {
 constinit const s_item TagCategory::k_items[] = {
     {item_kind::attribute, value_kind::text, use_optional, ELMX_WS_PRESERVE, "UniqueID", attribute_UniqueID,
      LMX_OFFSET(TagCategory, m_UniqueID, attribute, text), LMX_FLAG(TagCategory, m_isset_UniqueID), 0, 0, nullptr, nullptr, {}},
-    {item_kind::attribute, value_kind::text, use_optional, ELMX_WS_PRESERVE, "Name", attribute_Name,
+    {item_kind::attribute, value_kind::text, use_name, ELMX_WS_PRESERVE, "Name", attribute_Name,
      LMX_OFFSET(TagCategory, m_Name, attribute, text), LMX_FLAG(TagCategory, m_isset_Name), 0, 0, nullptr, nullptr, {}},
 };
 constinit const s_class TagCategory::k_class = {
@@ -823,7 +823,7 @@ constexpr s_event_map k_Tag_elements[] = {
 }  // namespace
 
 constinit const s_item Tag::k_items[] = {
-    {item_kind::attribute, value_kind::text, use_optional, ELMX_WS_PRESERVE, "Name", attribute_Name,
+    {item_kind::attribute, value_kind::text, use_name, ELMX_WS_PRESERVE, "Name", attribute_Name,
      LMX_OFFSET(Tag, m_Name, attribute, text), LMX_FLAG(Tag, m_isset_Name), 0, 0, nullptr, nullptr, {}},
     {item_kind::attribute, value_kind::text, use_optional, ELMX_WS_PRESERVE, "UniqueID", attribute_UniqueID,
      LMX_OFFSET(Tag, m_UniqueID, attribute, text), LMX_FLAG(Tag, m_isset_UniqueID), 0, 0, nullptr, nullptr, {}},

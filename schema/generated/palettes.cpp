@@ -113,7 +113,7 @@ constexpr s_event_map k_PaletteType_elements[] = {
 }  // namespace
 
 constinit const s_item PaletteType::k_items[] = {
-    {item_kind::attribute, value_kind::text, use_required, ELMX_WS_PRESERVE, "PaletteName", attribute_PaletteName,
+    {item_kind::attribute, value_kind::text, use_required | use_name, ELMX_WS_PRESERVE, "PaletteName", attribute_PaletteName,
      LMX_OFFSET(PaletteType, m_PaletteName, attribute, text), LMX_FLAG(PaletteType, m_isset_PaletteName), 0, 0, nullptr, nullptr, {}},
     {item_kind::attribute, value_kind::text, use_optional, ELMX_WS_PRESERVE, "PalettePartNumber", attribute_PalettePartNumber,
      LMX_OFFSET(PaletteType, m_PalettePartNumber, attribute, text), LMX_FLAG(PaletteType, m_isset_PalettePartNumber), 0, 0, nullptr, nullptr, {}},
@@ -229,7 +229,7 @@ constexpr s_event_map k_ColorSetType_elements[] = {
 }  // namespace
 
 constinit const s_item ColorSetType::k_items[] = {
-    {item_kind::attribute, value_kind::text, use_required, ELMX_WS_PRESERVE, "ColorSetName", attribute_ColorSetName,
+    {item_kind::attribute, value_kind::text, use_required | use_name, ELMX_WS_PRESERVE, "ColorSetName", attribute_ColorSetName,
      LMX_OFFSET(ColorSetType, m_ColorSetName, attribute, text), LMX_FLAG(ColorSetType, m_isset_ColorSetName), 0, 0, nullptr, nullptr, {}},
     {item_kind::attribute, value_kind::text, use_optional, ELMX_WS_PRESERVE, "UniqueID", attribute_UniqueID,
      LMX_OFFSET(ColorSetType, m_UniqueID, attribute, text), LMX_FLAG(ColorSetType, m_isset_UniqueID), 0, 0, nullptr, nullptr, {}},
@@ -372,7 +372,7 @@ constexpr s_event_map k_ColorType_elements[] = {
 }  // namespace
 
 constinit const s_item ColorType::k_items[] = {
-    {item_kind::attribute, value_kind::text, use_required, ELMX_WS_PRESERVE, "ColorName", attribute_ColorName,
+    {item_kind::attribute, value_kind::text, use_required | use_name, ELMX_WS_PRESERVE, "ColorName", attribute_ColorName,
      LMX_OFFSET(ColorType, m_ColorName, attribute, text), LMX_FLAG(ColorType, m_isset_ColorName), 0, 0, nullptr, nullptr, {}},
     {item_kind::attribute, value_kind::text, use_optional, ELMX_WS_PRESERVE, "UniqueID", attribute_UniqueID,
      LMX_OFFSET(ColorType, m_UniqueID, attribute, text), LMX_FLAG(ColorType, m_isset_UniqueID), 0, 0, nullptr, nullptr, {}},

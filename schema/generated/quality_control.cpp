@@ -126,7 +126,7 @@ constexpr s_event_map k_ToleranceType_elements[] = {
 }  // namespace
 
 constinit const s_item ToleranceType::k_items[] = {
-    {item_kind::attribute, value_kind::text, use_optional, ELMX_WS_PRESERVE, "Name", attribute_Name,
+    {item_kind::attribute, value_kind::text, use_name, ELMX_WS_PRESERVE, "Name", attribute_Name,
      LMX_OFFSET(ToleranceType, m_Name, attribute, text), LMX_FLAG(ToleranceType, m_isset_Name), 0, 0, nullptr, nullptr, {}},
     {item_kind::child_list, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:CustomAttribute", element_CustomAttribute,
      LMX_OFFSET(ToleranceType, m_CustomAttribute, child_list, none), k_no_flag, position_of(k_ToleranceType_elements, element_CustomAttribute), position_of(k_ToleranceType_elements, element_CustomAttribute, 1), &CustomAttributeType::k_class, nullptr, {}},
@@ -220,7 +220,7 @@ constexpr s_event_map k_Process_elements[] = {
 }  // namespace
 
 constinit const s_item Process::k_items[] = {
-    {item_kind::element, value_kind::text, use_required, ELMX_WS_PRESERVE, "Vyr:Name", element_Name,
+    {item_kind::element, value_kind::text, use_required | use_name, ELMX_WS_PRESERVE, "Vyr:Name", element_Name,
      LMX_OFFSET(Process, m_Name, element, text), LMX_FLAG(Process, m_isset_Name), position_of(k_Process_elements, element_Name), position_of(k_Process_elements, element_Name, 1), nullptr, &facets::NonEmptyString, {}},
     {item_kind::element, value_kind::number, use_optional, ELMX_WS_COLLAPSE, "Vyr:Thickness", element_Thickness,
      LMX_OFFSET(Process, m_Thickness, element, number), LMX_FLAG(Process, m_isset_Thickness), position_of(k_Process_elements, element_Thickness), position_of(k_Process_elements, element_Thickness, 1), nullptr, &facets::NonNegative, {}},
@@ -346,7 +346,7 @@ constexpr s_event_map k_ColorQualityControlType_elements[] = {
 }  // namespace
 
 constinit const s_item ColorQualityControlType::k_items[] = {
-    {item_kind::attribute, value_kind::text, use_optional, ELMX_WS_PRESERVE, "Name", attribute_Name,
+    {item_kind::attribute, value_kind::text, use_name, ELMX_WS_PRESERVE, "Name", attribute_Name,
      LMX_OFFSET(ColorQualityControlType, m_Name, attribute, text), LMX_FLAG(ColorQualityControlType, m_isset_Name), 0, 0, nullptr, nullptr, {}},
     {item_kind::attribute, value_kind::text, use_optional, ELMX_WS_PRESERVE, "Description", attribute_Description,
      LMX_OFFSET(ColorQualityControlType, m_Description, attribute, text), LMX_FLAG(ColorQualityControlType, m_isset_Description), 0, 0, nullptr, nullptr, {}},

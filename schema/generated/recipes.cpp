@@ -150,7 +150,7 @@ constexpr s_event_map k_ColorSpaceTINTORAType_elements[] = {
 }  // namespace
 
 constinit const s_item ColorSpaceTINTORAType::k_items[] = {
-    {item_kind::attribute, value_kind::text, use_optional, ELMX_WS_PRESERVE, "Name", attribute_Name,
+    {item_kind::attribute, value_kind::text, use_name, ELMX_WS_PRESERVE, "Name", attribute_Name,
      LMX_OFFSET(ColorSpaceTINTORAType, m_Name, attribute, text), LMX_FLAG(ColorSpaceTINTORAType, m_isset_Name), 0, 0, nullptr, nullptr, {}},
     {item_kind::element, value_kind::text, use_required, ELMX_WS_PRESERVE, "Vyr:FamilyName", element_FamilyName,
      LMX_OFFSET(ColorSpaceTINTORAType, m_FamilyName, element, text), LMX_FLAG(ColorSpaceTINTORAType, m_isset_FamilyName), position_of(k_ColorSpaceTINTORAType_elements, element_FamilyName), position_of(k_ColorSpaceTINTORAType_elements, element_FamilyName, 1), nullptr, nullptr, {}},
@@ -233,7 +233,7 @@ constexpr s_event_map k_Colorant_elements[] = {
 constinit const s_item Colorant::k_items[] = {
     {item_kind::child_list, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:CustomAttributes", element_CustomAttributes,
      LMX_OFFSET(Colorant, m_CustomAttributes, child_list, none), k_no_flag, position_of(k_Colorant_elements, element_CustomAttributes), position_of(k_Colorant_elements, element_CustomAttributes, 1), &CustomAttributes::k_class, nullptr, {}},
-    {item_kind::element, value_kind::text, use_required, ELMX_WS_PRESERVE, "Vyr:Name", element_Name,
+    {item_kind::element, value_kind::text, use_required | use_name, ELMX_WS_PRESERVE, "Vyr:Name", element_Name,
      LMX_OFFSET(Colorant, m_Name, element, text), LMX_FLAG(Colorant, m_isset_Name), position_of(k_Colorant_elements, element_Name), position_of(k_Colorant_elements, element_Name, 1), nullptr, &facets::NonEmptyString, {}},
     {item_kind::element, value_kind::text, use_optional, ELMX_WS_PRESERVE, "Vyr:Manufacturer", element_Manufacturer,
      LMX_OFFSET(Colorant, m_Manufacturer, element, text), LMX_FLAG(Colorant, m_isset_Manufacturer), position_of(k_Colorant_elements, element_Manufacturer), position_of(k_Colorant_elements, element_Manufacturer, 1), nullptr, &facets::NonEmptyString, {}},
@@ -451,7 +451,7 @@ constexpr s_event_map k_ColorSpaceNCSType_elements[] = {
 }  // namespace
 
 constinit const s_item ColorSpaceNCSType::k_items[] = {
-    {item_kind::attribute, value_kind::text, use_optional, ELMX_WS_PRESERVE, "Name", attribute_Name,
+    {item_kind::attribute, value_kind::text, use_name, ELMX_WS_PRESERVE, "Name", attribute_Name,
      LMX_OFFSET(ColorSpaceNCSType, m_Name, attribute, text), LMX_FLAG(ColorSpaceNCSType, m_isset_Name), 0, 0, nullptr, nullptr, {}},
     {item_kind::child, value_kind::none, use_required, ELMX_WS_PRESERVE, "Vyr:ColorSpaceSpecificationSpectrumGeneric", element_ColorSpaceSpecificationSpectrumGeneric,
      LMX_OFFSET(ColorSpaceNCSType, m_ColorSpaceSpecificationSpectrumGeneric, child, none), LMX_FLAG(ColorSpaceNCSType, m_isset_ColorSpaceSpecificationSpectrumGeneric), position_of(k_ColorSpaceNCSType_elements, element_ColorSpaceSpecificationSpectrumGeneric), position_of(k_ColorSpaceNCSType_elements, element_ColorSpaceSpecificationSpectrumGeneric, 1), &ColorSpaceSpecificationSpectrumGeneric::k_class, nullptr, {}},
@@ -515,7 +515,7 @@ constexpr s_event_map k_ColorSpaceMunsellType_elements[] = {
 }  // namespace
 
 constinit const s_item ColorSpaceMunsellType::k_items[] = {
-    {item_kind::attribute, value_kind::text, use_optional, ELMX_WS_PRESERVE, "Name", attribute_Name,
+    {item_kind::attribute, value_kind::text, use_name, ELMX_WS_PRESERVE, "Name", attribute_Name,
      LMX_OFFSET(ColorSpaceMunsellType, m_Name, attribute, text), LMX_FLAG(ColorSpaceMunsellType, m_isset_Name), 0, 0, nullptr, nullptr, {}},
     {item_kind::child, value_kind::none, use_required, ELMX_WS_PRESERVE, "Vyr:ColorSpaceSpecificationSpectrumGeneric", element_ColorSpaceSpecificationSpectrumGeneric,
      LMX_OFFSET(ColorSpaceMunsellType, m_ColorSpaceSpecificationSpectrumGeneric, child, none), LMX_FLAG(ColorSpaceMunsellType, m_isset_ColorSpaceSpecificationSpectrumGeneric), position_of(k_ColorSpaceMunsellType_elements, element_ColorSpaceSpecificationSpectrumGeneric), position_of(k_ColorSpaceMunsellType_elements, element_ColorSpaceSpecificationSpectrumGeneric, 1), &ColorSpaceSpecificationSpectrumGeneric::k_class, nullptr, {}},
@@ -582,7 +582,7 @@ constexpr s_event_map k_Base_elements[] = {
 constinit const s_item Base::k_items[] = {
     {item_kind::child_list, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:CustomAttribute", element_CustomAttribute,
      LMX_OFFSET(Base, m_CustomAttribute, child_list, none), k_no_flag, position_of(k_Base_elements, element_CustomAttribute), position_of(k_Base_elements, element_CustomAttribute, 1), &CustomAttributeType::k_class, nullptr, {}},
-    {item_kind::element, value_kind::text, use_required, ELMX_WS_PRESERVE, "Vyr:Name", element_Name,
+    {item_kind::element, value_kind::text, use_required | use_name, ELMX_WS_PRESERVE, "Vyr:Name", element_Name,
      LMX_OFFSET(Base, m_Name, element, text), LMX_FLAG(Base, m_isset_Name), position_of(k_Base_elements, element_Name), position_of(k_Base_elements, element_Name, 1), nullptr, &facets::NonEmptyString, {}},
     {item_kind::element, value_kind::text, use_required, ELMX_WS_PRESERVE, "Vyr:Manufacturer", element_Manufacturer,
      LMX_OFFSET(Base, m_Manufacturer, element, text), LMX_FLAG(Base, m_isset_Manufacturer), position_of(k_Base_elements, element_Manufacturer), position_of(k_Base_elements, element_Manufacturer, 1), nullptr, &facets::NonEmptyString, {}},
@@ -701,7 +701,7 @@ constexpr s_event_map k_ColorSpaceRecipeType_elements[] = {
 }  // namespace
 
 constinit const s_item ColorSpaceRecipeType::k_items[] = {
-    {item_kind::attribute, value_kind::text, use_optional, ELMX_WS_PRESERVE, "Name", attribute_Name,
+    {item_kind::attribute, value_kind::text, use_name, ELMX_WS_PRESERVE, "Name", attribute_Name,
      LMX_OFFSET(ColorSpaceRecipeType, m_Name, attribute, text), LMX_FLAG(ColorSpaceRecipeType, m_isset_Name), 0, 0, nullptr, nullptr, {}},
     {item_kind::child, value_kind::none, use_required, ELMX_WS_PRESERVE, "Vyr:ColorSpaceSpecificationSpectrumGeneric", element_ColorSpaceSpecificationSpectrumGeneric,
      LMX_OFFSET(ColorSpaceRecipeType, m_ColorSpaceSpecificationSpectrumGeneric, child, none), LMX_FLAG(ColorSpaceRecipeType, m_isset_ColorSpaceSpecificationSpectrumGeneric), position_of(k_ColorSpaceRecipeType_elements, element_ColorSpaceSpecificationSpectrumGeneric), position_of(k_ColorSpaceRecipeType_elements, element_ColorSpaceSpecificationSpectrumGeneric, 1), &ColorSpaceSpecificationSpectrumGeneric::k_class, nullptr, {}},
@@ -893,7 +893,7 @@ constexpr s_event_map k_ColorantElementType_Colorant_elements[] = {
 constinit const s_item ColorantElementType_Colorant::k_items[] = {
     {item_kind::child_list, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:CustomAttribute", element_CustomAttribute,
      LMX_OFFSET(ColorantElementType_Colorant, m_CustomAttribute, child_list, none), k_no_flag, position_of(k_ColorantElementType_Colorant_elements, element_CustomAttribute), position_of(k_ColorantElementType_Colorant_elements, element_CustomAttribute, 1), &CustomAttributeType::k_class, nullptr, {}},
-    {item_kind::element, value_kind::text, use_required, ELMX_WS_PRESERVE, "Vyr:Name", element_Name,
+    {item_kind::element, value_kind::text, use_required | use_name, ELMX_WS_PRESERVE, "Vyr:Name", element_Name,
      LMX_OFFSET(ColorantElementType_Colorant, m_Name, element, text), LMX_FLAG(ColorantElementType_Colorant, m_isset_Name), position_of(k_ColorantElementType_Colorant_elements, element_Name), position_of(k_ColorantElementType_Colorant_elements, element_Name, 1), nullptr, &facets::NonEmptyString, {}},
     {item_kind::element, value_kind::text, use_required, ELMX_WS_PRESERVE, "Vyr:Manufacturer", element_Manufacturer,
      LMX_OFFSET(ColorantElementType_Colorant, m_Manufacturer, element, text), LMX_FLAG(ColorantElementType_Colorant, m_isset_Manufacturer), position_of(k_ColorantElementType_Colorant_elements, element_Manufacturer), position_of(k_ColorantElementType_Colorant_elements, element_Manufacturer, 1), nullptr, &facets::NonEmptyString, {}},

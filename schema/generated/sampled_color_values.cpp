@@ -37,7 +37,7 @@ constexpr s_event_map k_ColorSpaceDensityType_elements[] = {
 }  // namespace
 
 constinit const s_item ColorSpaceDensityType::k_items[] = {
-    {item_kind::attribute, value_kind::text, use_optional, ELMX_WS_PRESERVE, "Name", attribute_Name,
+    {item_kind::attribute, value_kind::text, use_name, ELMX_WS_PRESERVE, "Name", attribute_Name,
      LMX_OFFSET(ColorSpaceDensityType, m_Name, attribute, text), LMX_FLAG(ColorSpaceDensityType, m_isset_Name), 0, 0, nullptr, nullptr, {}},
     {item_kind::child, value_kind::none, use_required, ELMX_WS_PRESERVE, "Vyr:ColorSpaceSpecificationSpectrumGeneric", element_ColorSpaceSpecificationSpectrumGeneric,
      LMX_OFFSET(ColorSpaceDensityType, m_ColorSpaceSpecificationSpectrumGeneric, child, none), LMX_FLAG(ColorSpaceDensityType, m_isset_ColorSpaceSpecificationSpectrumGeneric), position_of(k_ColorSpaceDensityType_elements, element_ColorSpaceSpecificationSpectrumGeneric), position_of(k_ColorSpaceDensityType_elements, element_ColorSpaceSpecificationSpectrumGeneric, 1), &ColorSpaceSpecificationSpectrumGeneric::k_class, nullptr, {}},
@@ -105,7 +105,7 @@ constexpr s_event_map k_ColorSpaceSpectralType_elements[] = {
 }  // namespace
 
 constinit const s_item ColorSpaceSpectralType::k_items[] = {
-    {item_kind::attribute, value_kind::text, use_optional, ELMX_WS_PRESERVE, "Name", attribute_Name,
+    {item_kind::attribute, value_kind::text, use_name, ELMX_WS_PRESERVE, "Name", attribute_Name,
      LMX_OFFSET(ColorSpaceSpectralType, m_Name, attribute, text), LMX_FLAG(ColorSpaceSpectralType, m_isset_Name), 0, 0, nullptr, nullptr, {}},
     {item_kind::child, value_kind::none, use_required, ELMX_WS_PRESERVE, "Vyr:ColorSpaceSpecificationSpectrumSpectral", element_ColorSpaceSpecificationSpectrumSpectral,
      LMX_OFFSET(ColorSpaceSpectralType, m_ColorSpaceSpecificationSpectrumSpectral, child, none), LMX_FLAG(ColorSpaceSpectralType, m_isset_ColorSpaceSpecificationSpectrumSpectral), position_of(k_ColorSpaceSpectralType_elements, element_ColorSpaceSpecificationSpectrumSpectral), position_of(k_ColorSpaceSpectralType_elements, element_ColorSpaceSpecificationSpectrumSpectral, 1), &ColorSpaceSpecificationSpectrumSpectral::k_class, nullptr, {}},
@@ -173,7 +173,7 @@ constexpr s_event_map k_ColorSpaceEmissiveSpectralType_elements[] = {
 }  // namespace
 
 constinit const s_item ColorSpaceEmissiveSpectralType::k_items[] = {
-    {item_kind::attribute, value_kind::text, use_optional, ELMX_WS_PRESERVE, "Name", attribute_Name,
+    {item_kind::attribute, value_kind::text, use_name, ELMX_WS_PRESERVE, "Name", attribute_Name,
      LMX_OFFSET(ColorSpaceEmissiveSpectralType, m_Name, attribute, text), LMX_FLAG(ColorSpaceEmissiveSpectralType, m_isset_Name), 0, 0, nullptr, nullptr, {}},
     {item_kind::child, value_kind::none, use_required, ELMX_WS_PRESERVE, "Vyr:ColorSpaceSpecificationEmissiveSpectral", element_ColorSpaceSpecificationEmissiveSpectral,
      LMX_OFFSET(ColorSpaceEmissiveSpectralType, m_ColorSpaceSpecificationEmissiveSpectral, child, none), LMX_FLAG(ColorSpaceEmissiveSpectralType, m_isset_ColorSpaceSpecificationEmissiveSpectral), position_of(k_ColorSpaceEmissiveSpectralType_elements, element_ColorSpaceSpecificationEmissiveSpectral), position_of(k_ColorSpaceEmissiveSpectralType_elements, element_ColorSpaceSpecificationEmissiveSpectral, 1), &ColorSpaceSpecificationEmissiveSpectral::k_class, nullptr, {}},
@@ -241,7 +241,7 @@ constexpr s_event_map k_ColorSpaceGenericType_elements[] = {
 }  // namespace
 
 constinit const s_item ColorSpaceGenericType::k_items[] = {
-    {item_kind::attribute, value_kind::text, use_required, ELMX_WS_PRESERVE, "Name", attribute_Name,
+    {item_kind::attribute, value_kind::text, use_required | use_name, ELMX_WS_PRESERVE, "Name", attribute_Name,
      LMX_OFFSET(ColorSpaceGenericType, m_Name, attribute, text), LMX_FLAG(ColorSpaceGenericType, m_isset_Name), 0, 0, nullptr, nullptr, {}},
     {item_kind::child, value_kind::none, use_required, ELMX_WS_PRESERVE, "Vyr:ColorSpaceSpecificationSpectrumGeneric", element_ColorSpaceSpecificationSpectrumGeneric,
      LMX_OFFSET(ColorSpaceGenericType, m_ColorSpaceSpecificationSpectrumGeneric, child, none), LMX_FLAG(ColorSpaceGenericType, m_isset_ColorSpaceSpecificationSpectrumGeneric), position_of(k_ColorSpaceGenericType_elements, element_ColorSpaceSpecificationSpectrumGeneric), position_of(k_ColorSpaceGenericType_elements, element_ColorSpaceSpecificationSpectrumGeneric, 1), &ColorSpaceSpecificationSpectrumGeneric::k_class, nullptr, {}},
@@ -309,7 +309,7 @@ constexpr s_event_map k_ColorSpaceEmissiveGenericType_elements[] = {
 }  // namespace
 
 constinit const s_item ColorSpaceEmissiveGenericType::k_items[] = {
-    {item_kind::attribute, value_kind::text, use_required, ELMX_WS_PRESERVE, "Name", attribute_Name,
+    {item_kind::attribute, value_kind::text, use_required | use_name, ELMX_WS_PRESERVE, "Name", attribute_Name,
      LMX_OFFSET(ColorSpaceEmissiveGenericType, m_Name, attribute, text), LMX_FLAG(ColorSpaceEmissiveGenericType, m_isset_Name), 0, 0, nullptr, nullptr, {}},
     {item_kind::child, value_kind::none, use_required, ELMX_WS_PRESERVE, "Vyr:ColorSpaceSpecificationEmissiveGeneric", element_ColorSpaceSpecificationEmissiveGeneric,
      LMX_OFFSET(ColorSpaceEmissiveGenericType, m_ColorSpaceSpecificationEmissiveGeneric, child, none), LMX_FLAG(ColorSpaceEmissiveGenericType, m_isset_ColorSpaceSpecificationEmissiveGeneric), position_of(k_ColorSpaceEmissiveGenericType_elements, element_ColorSpaceSpecificationEmissiveGeneric), position_of(k_ColorSpaceEmissiveGenericType_elements, element_ColorSpaceSpecificationEmissiveGeneric, 1), &ColorSpaceSpecificationEmissiveGeneric::k_class, nullptr, {}},
@@ -626,7 +626,7 @@ constexpr s_event_map k_AxisType_elements[] = {
 }  // namespace
 
 constinit const s_item AxisType::k_items[] = {
-    {item_kind::element, value_kind::text, use_required, ELMX_WS_PRESERVE, "Vyr:AxisName", element_AxisName,
+    {item_kind::element, value_kind::text, use_required | use_name, ELMX_WS_PRESERVE, "Vyr:AxisName", element_AxisName,
      LMX_OFFSET(AxisType, m_AxisName, element, text), LMX_FLAG(AxisType, m_isset_AxisName), position_of(k_AxisType_elements, element_AxisName), position_of(k_AxisType_elements, element_AxisName, 1), nullptr, nullptr, {}},
     {item_kind::child, value_kind::none, use_required, ELMX_WS_PRESERVE, "Vyr:AxisValueChoice", element_AxisValueChoice,
      LMX_OFFSET(AxisType, m_AxisValueChoice, child, none), LMX_FLAG(AxisType, m_isset_AxisValueChoice), position_of(k_AxisType_elements, element_AxisValueChoice), position_of(k_AxisType_elements, element_AxisValueChoice, 1), &AxisValueChoice::k_class, nullptr, {}},

@@ -104,6 +104,13 @@ class Class:
     def items(self):
         return self.attributes + self.elements
 
+    @property
+    def name_item(self):
+        """The item whose text names an object in reports: "Name", or of PaletteType "PaletteName"."""
+        names = ("Name", self.name.removesuffix("Type") + "Name")
+        found = (item for item in self.items if item.kind in ("attribute", "element") and item.name in names)
+        return next((item for item in found if item.value.value == "text"), None)
+
 
 @dataclass(frozen=True)
 class Model:

@@ -30,6 +30,8 @@ def item_line(made, item):
         words.append(item.value.value)
     if item.presence:
         words.append("presence")
+    if item is made.name_item:
+        words.append("names")
     if item.initial is not None:
         words.append(f"initially {item.initial}")
     return "    " + "  ".join(words)

@@ -24,10 +24,11 @@ def event_map(made, part, rows):
     return [f"constexpr s_event_map {name}[] = {{", *rows, "    k_end_of_map,", "};"], name
 
 
-def use_mask(item):
-    if item.use == REQUIRED:
-        return "use_required"
-    return " | ".join(f"use_{use}" for use in item.use) or "use_optional"
+def use_mask(made, item):
+    uses = ("required",) if item.use == REQUIRED else item.use
+    if item is made.name_item:
+        uses += ("name",)
+    return " | ".join(f"use_{use}" for use in uses) or "use_optional"
 
 
 def facets_of(item):
@@ -55,7 +56,7 @@ def row(plan, made, item, map_name):
     factory = "{}"
     if item.kind == "alternative" and item.type and plan.factory(plan.by_name[item.type]):
         factory = f"{item.type}::k_factory"
-    return (f'    {{item_kind::{item.kind}, value_kind::{value}, {use_mask(item)}, {mode}, "{name}", {token},\n'
+    return (f'    {{item_kind::{item.kind}, value_kind::{value}, {use_mask(made, item)}, {mode}, "{name}", {token},\n'
             f"     {offset}, {flag}, {position}, {stored_type}, {facets_of(item)}, {factory}}},")
 
 

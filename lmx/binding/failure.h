@@ -1,0 +1,31 @@
+// Copyright 2026 The Vyr Authors
+// SPDX-License-Identifier: Apache-2.0
+
+/// Where a failure is and what is wrong, in words: made from what a reader or a writer has at hand while it passes
+/// the failure on, so that a load or a save that doesn't fail pays nothing for it.
+
+#pragma once
+
+#include <string>
+
+#include "lmx/error.h"
+#include "lmx/reader/xml_reader.h"
+#include "lmx/writer/xml_writer.h"
+
+namespace lmx {
+
+/// All texts are fit to be printed.
+struct s_failure {
+    int line = 0;        ///< where what is wrong begins; 0 of a save
+    std::string item;    ///< as the handler got it; of a save, what is missing
+    std::string path;    ///< "Palette "Inks" / ColorSet[2] / @ColorSetName"
+    std::string value;   ///< the offending text
+    std::string detail;  ///< what would be right
+};
+
+/// To be called from the handler of the reader.
+s_failure describe_failure(const c_xml_reader& reader, elmx_error code, const std::string& item_name);
+/// To be called from the handler of the writer.
+s_failure describe_failure(const c_xml_writer& writer, elmx_error code, const std::string& item_name);
+
+}  // namespace lmx
