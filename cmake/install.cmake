@@ -18,9 +18,10 @@ endif()
 foreach(folder lmx schema)
   install(DIRECTORY ${PROJECT_SOURCE_DIR}/${folder} DESTINATION ${vyr_include_dir} FILES_MATCHING PATTERN "*.h"
           PATTERN "generator" EXCLUDE PATTERN "storage.h" EXCLUDE PATTERN "file_name.h" EXCLUDE
-          PATTERN "seconds.h" EXCLUDE)
+          PATTERN "seconds.h" EXCLUDE PATTERN "failure*.h" EXCLUDE PATTERN "open_element.h" EXCLUDE
+          PATTERN "shown_text.h" EXCLUDE)
 endforeach()
-foreach(header document/result.h zip/add_request.h zip/container.h zip/entry_header.h zip/exception.h)
+foreach(header document/report.h document/result.h zip/add_request.h zip/container.h zip/entry_header.h zip/exception.h)
   cmake_path(GET header PARENT_PATH folder)
   install(FILES ${PROJECT_SOURCE_DIR}/${header} DESTINATION ${vyr_include_dir}/${folder})
 endforeach()

@@ -6,11 +6,16 @@
 
 #include "schema/Vyr.h"
 
+#include <cerrno>
 #include <cstdio>
+#include <filesystem>
 #include <fstream>
 #include <sstream>
+#include <system_error>
 
 #include "document/container.h"
+#include "document/document_calls.h"
+#include "document/report_builder.h"
 #include "document/result.h"
 #include "lmx/file_name.h"
 #include "lmx/reader/xml_reader.h"
@@ -36,10 +41,11 @@ SDKType make_stamp() {
     return stamp;
 }
 
-/// Writing is constant to its caller; the stamp in the preamble is the one thing that it leaves behind.
-lmx::elmx_error marshal_stamped(const Vyr& document, Preamble& preamble, std::ostream& stream) {
-    lmx::c_xml_writer writer(stream, lmx::c_xml_writer::include_xml_decl, "\t", "\n");
-    preamble.get_Header().assign_WriteSDKInformation(make_stamp());
+/// Writing is constant to its caller; the stamp in the preamble, a mutable member, is the one thing that it leaves
+/// behind.
+lmx::elmx_error marshal_stamped(const Vyr& document, std::ostream& stream, c_report_builder* report) {
+    c_reporting<lmx::c_xml_writer> writer(report, stream, lmx::c_xml_writer::include_xml_decl, "\t", "\n");
+    const_cast<Preamble&>(document.get_Preamble()).get_Header().assign_WriteSDKInformation(make_stamp());
     return document.marshal(writer, k_root_element);
 }
 
@@ -49,84 +55,126 @@ struct s_plain_file {
     std::streamoff size;
 };
 
-s_plain_file write_plain_file(const Vyr& document, Preamble& preamble, const std::string& system_path) {
+s_plain_file write_plain_file(const Vyr& document, const std::string& system_path, c_report_builder* report) {
     std::ofstream stream(system_path);
-    const lmx::elmx_error error = marshal_stamped(document, preamble, stream);
+    const lmx::elmx_error error = marshal_stamped(document, stream, report);
     const std::streamoff size = stream.tellp();
     stream.close();
     if (error != lmx::ELMX_OK) std::remove(system_path.c_str());
     return {error, stream.good() ? size : -1};
 }
 
-/// Everything but the opening of the archive: whatever is thrown here becomes one code, and its cause is lost.
-lmx::elmx_error load_from_container(Vyr& document, CZipContainer& archive, const std::u16string& path) {
+/// Whatever is thrown at a container that is open becomes one code. Only a report keeps its cause.
+lmx::elmx_error give_up(CZipContainer& archive, c_report_builder* report) {
+    if (report != nullptr) report->add_exception(lmx::ELMX_USER_DEFINED_1);
+    archive.CloseContainer(zip_close_forced);
+    return lmx::ELMX_USER_DEFINED_1;
+}
+
+lmx::elmx_error load_from_container(Vyr& document, CZipContainer& archive, const std::u16string& path,
+                                    c_report_builder* report) {
     try {
         const s_document_bytes bytes = read_first_entry(archive, path);
-        lmx::c_xml_reader_memory reader(bytes.data.get(), bytes.size);
-        return document.unmarshal(reader);
+        return load_memory(document, bytes.data.get(), bytes.size, report);
     } catch (...) {
-        archive.CloseContainer(zip_close_forced);
-        return lmx::ELMX_USER_DEFINED_1;
+        return give_up(archive, report);
     }
 }
 
-lmx::elmx_error write_to_container(CZipContainer& archive, const std::u16string& plain_path, std::streamoff size) {
+lmx::elmx_error write_to_container(CZipContainer& archive, const std::u16string& plain_path, std::streamoff size,
+                                   c_report_builder* report) {
     try {
         write_only_entry(archive, plain_path, size);
         return lmx::ELMX_OK;
     } catch (...) {
-        archive.CloseContainer(zip_close_forced);
-        return lmx::ELMX_USER_DEFINED_1;
+        return give_up(archive, report);
     }
+}
+
+lmx::elmx_error refuse_file(c_report_builder* report, const std::string& detail) {
+    if (report != nullptr) report->add(lmx::ELMX_NO_FILE, detail);
+    return lmx::ELMX_NO_FILE;
 }
 
 }  // namespace
 
-void Vyr::init() { get_Preamble().get_Header().assign_ReadSDKInformation(make_stamp()); }
+lmx::elmx_error load_memory(Vyr& document, const char* data, std::size_t size, c_report_builder* report) {
+    c_reporting<lmx::c_xml_reader_memory> reader(report, data, size);
+    return document.unmarshal(reader);
+}
 
-lmx::elmx_error Vyr::loadString(const std::u16string& text) {
+lmx::elmx_error load_string(Vyr& document, const std::u16string& text, c_report_builder* report) {
     std::string bytes;
     lmx::convert(&bytes, text);
-    lmx::c_xml_reader_memory reader(bytes.data(), bytes.size());
-    return unmarshal(reader);
+    return load_memory(document, bytes.data(), bytes.size(), report);
 }
 
-lmx::elmx_error Vyr::loadFile(const std::u16string& path) {
+lmx::elmx_error load_plain_file(Vyr& document, const std::string& system_path, c_report_builder* report) {
+    c_reporting<lmx::c_xml_reader_file> reader(report, system_path.c_str());
+    if (!reader.is_open()) return refuse_file(report, std::generic_category().message(errno));
+    const lmx::elmx_error error = document.unmarshal(reader);
+    std::error_code ignored;
+    // Which opens like a file, and then looks like an empty document.
+    if (error != lmx::ELMX_OK && report != nullptr && std::filesystem::is_directory(system_path, ignored)) {
+        report->explain_last("it is a directory");
+    }
+    return error;
+}
+
+lmx::elmx_error load_file(Vyr& document, const std::u16string& path, c_report_builder* report) {
     if (path.ends_with(k_container_ending)) {
         CZipContainer archive;
-        if (archive.OpenContainer(path, zip_open_read)) return load_from_container(*this, archive, path);
+        if (archive.OpenContainer(path, zip_open_read)) return load_from_container(document, archive, path, report);
     }
     const std::optional<std::string> system_path = lmx::to_system_path(path);
-    if (!system_path) return lmx::ELMX_NO_FILE;
-    lmx::c_xml_reader_file reader(system_path->c_str());
-    if (!reader.is_open()) return lmx::ELMX_NO_FILE;
-    return unmarshal(reader);
+    if (!system_path) return refuse_file(report, "the name is no text that a file can have");
+    return load_plain_file(document, *system_path, report);
 }
 
-XMLDocumentResult Vyr::writeString() const {
+lmx::elmx_error write_string(const Vyr& document, std::u16string* text, c_report_builder* report) {
     std::ostringstream stream;
-    const lmx::elmx_error error = marshal_stamped(*this, m_Preamble, stream);
-    std::u16string text;
-    if (error == lmx::ELMX_OK) lmx::convert(&text, std::move(stream).str());
-    return XMLDocumentResult(text, error);
+    const lmx::elmx_error error = marshal_stamped(document, stream, report);
+    if (error == lmx::ELMX_OK) lmx::convert(text, std::move(stream).str());
+    return error;
 }
 
-lmx::elmx_error Vyr::writeFile(const std::u16string& path) const {
+lmx::elmx_error write_file(const Vyr& document, const std::u16string& path, c_report_builder* report) {
     const bool is_container = path.ends_with(k_container_ending);
-    if (!is_container && !path.ends_with(k_plain_ending)) return lmx::ELMX_USER_DEFINED_2;
+    if (!is_container && !path.ends_with(k_plain_ending)) {
+        if (report != nullptr) report->add(lmx::ELMX_USER_DEFINED_2, "the name must end in .vyr or .vyrz");
+        return lmx::ELMX_USER_DEFINED_2;
+    }
     const std::size_t ending_length = is_container ? k_container_ending.size() : k_plain_ending.size();
     const std::u16string plain_path = path.substr(0, path.size() - ending_length).append(k_plain_ending);
     const std::string system_path = lmx::to_system_path(plain_path).value_or(std::string());
-    const s_plain_file plain = write_plain_file(*this, m_Preamble, system_path);
-    if (!is_container || plain.error != lmx::ELMX_OK) return plain.error;
+    const s_plain_file plain = write_plain_file(document, system_path, report);
+    if (!is_container || plain.error != lmx::ELMX_OK) {
+        // For the plain call this is no failure.
+        if (plain.error == lmx::ELMX_OK && plain.size < 0) refuse_file(report, "not written, or not in full");
+        return plain.error;
+    }
 
     CZipContainer archive;
     if (archive.OpenContainer(path, zip_open_create)) {
-        const lmx::elmx_error error = write_to_container(archive, plain_path, plain.size);
+        const lmx::elmx_error error = write_to_container(archive, plain_path, plain.size, report);
         if (error != lmx::ELMX_OK) return error;
     }
     std::remove(system_path.c_str());
     return lmx::ELMX_OK;
 }
+
+void Vyr::init() { get_Preamble().get_Header().assign_ReadSDKInformation(make_stamp()); }
+
+lmx::elmx_error Vyr::loadString(const std::u16string& text) { return load_string(*this, text, nullptr); }
+
+lmx::elmx_error Vyr::loadFile(const std::u16string& path) { return load_file(*this, path, nullptr); }
+
+XMLDocumentResult Vyr::writeString() const {
+    std::u16string text;
+    const lmx::elmx_error error = write_string(*this, &text, nullptr);
+    return XMLDocumentResult(text, error);
+}
+
+lmx::elmx_error Vyr::writeFile(const std::u16string& path) const { return write_file(*this, path, nullptr); }
 
 }  // namespace com_vyrgraph_v2

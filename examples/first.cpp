@@ -7,13 +7,13 @@
 
 int main(int argc, char** argv) {
     if (argc != 2) return 2;
-    lmx::c_xml_reader_file reader(argv[1]);
     com_vyrgraph_v2::Vyr document;
-    std::string text;
-    if (!reader.is_open() || document.unmarshal(reader) != lmx::ELMX_OK) {
-        std::cerr << reader.get_error_message(&text) << '\n';
+    const com_vyrgraph_v2::DocumentReport report = loadFileWithReport(document, std::string(argv[1]));
+    if (!report.isOk()) {
+        std::cerr << report.toString();
         return 1;
     }
+    std::string text;
     for (std::size_t i = 0; i < document.size_Palette(); ++i) {
         const com_vyrgraph_v2::PaletteType& palette = document.get_Palette(i);
         std::cout << lmx::convert(&text, palette.get_PaletteName()) << ": ";

@@ -1,0 +1,29 @@
+// Copyright 2026 The Vyr Authors
+// SPDX-License-Identifier: Apache-2.0
+
+/// The roads of a load and of a save, which the calls with a report take as well as the plain ones.
+
+#pragma once
+
+#include <cstddef>
+#include <string>
+
+#include "lmx/error.h"
+
+namespace com_vyrgraph_v2 {
+
+class Vyr;
+class c_report_builder;
+
+// Without a report the builder is null. Everything but the report is the same.
+
+lmx::elmx_error load_file(Vyr& document, const std::u16string& path, c_report_builder* report);
+/// A plain document; the path in the system's form.
+lmx::elmx_error load_plain_file(Vyr& document, const std::string& system_path, c_report_builder* report);
+lmx::elmx_error load_memory(Vyr& document, const char* data, std::size_t size, c_report_builder* report);
+lmx::elmx_error load_string(Vyr& document, const std::u16string& text, c_report_builder* report);
+lmx::elmx_error write_file(const Vyr& document, const std::u16string& path, c_report_builder* report);
+/// Assigns the text on success only.
+lmx::elmx_error write_string(const Vyr& document, std::u16string* text, c_report_builder* report);
+
+}  // namespace com_vyrgraph_v2

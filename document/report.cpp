@@ -1,0 +1,203 @@
+// Copyright 2026 The Vyr Authors
+// SPDX-License-Identifier: Apache-2.0
+
+#include "document/report.h"
+
+#include <exception>
+#include <utility>
+
+#include "document/document_calls.h"
+#include "document/report_builder.h"
+#include "lmx/binding/failure.h"
+#include "lmx/binding/shown_text.h"
+#include "lmx/values/unicode.h"
+#include "zip/exception.h"
+
+namespace com_vyrgraph_v2 {
+namespace {
+
+using namespace lmx;
+
+constexpr std::size_t k_longest_path = 4096;
+
+/// What a load may pass over and go on.
+bool is_passable(elmx_error code) {
+    switch (code) {
+        case ELMX_ATTRIBUTE_ALREADY_READ:
+        case ELMX_LENGTH_TOO_LONG:
+        case ELMX_LENGTH_TOO_SHORT:
+        case ELMX_NO_PATTERN_MATCHED:
+        case ELMX_VALUE_BAD_FORMAT:
+        case ELMX_VALUE_EXCEEDS_MAX:
+        case ELMX_VALUE_BELOW_MIN:
+        case ELMX_VALUE_NOT_ENUMERATED:
+        case ELMX_UNEXPECTED_ATTRIBUTE:
+            return true;
+        default:
+            return false;
+    }
+}
+
+/// A code in words: of those that are free for hosts, what the document calls mean by them.
+const char* text_of(elmx_error code) {
+    switch (code) {
+        case ELMX_USER_DEFINED_1:
+            return "Container can't be read or written";
+        case ELMX_USER_DEFINED_2:
+            return "Unknown ending of a file name";
+        default:
+            return get_error_description(code);
+    }
+}
+
+std::string narrow(const std::u16string& text) {
+    std::string bytes;
+    return convert(&bytes, text);
+}
+
+DocumentFault make_fault(elmx_error code, const std::string& file, s_failure&& failure) {
+    DocumentFault fault;
+    fault.code = code;
+    fault.text = text_of(code);
+    fault.file = file;
+    fault.line = failure.line;
+    fault.item = std::move(failure.item);
+    fault.path = std::move(failure.path);
+    fault.value = std::move(failure.value);
+    fault.detail = std::move(failure.detail);
+    return fault;
+}
+
+/// Runs a load or a save. What is thrown by a container becomes a fault.
+template <class Call>
+DocumentReport report_on(const ReportOptions& options, const std::string& file, Call&& call) {
+    c_report_builder builder(options, file);
+    try {
+        call(&builder);
+    } catch (const CZipException& failure) {
+        const bool is_of_system = failure.GetCause() > 0 && failure.GetCause() < zip_generic;
+        builder.add_exception(is_of_system ? ELMX_NO_FILE : ELMX_USER_DEFINED_1);
+    }
+    return builder.take();
+}
+
+}  // namespace
+
+c_report_builder::c_report_builder(ReportOptions options, const std::string& file)
+    : m_options(std::move(options)), m_file(shown(file, k_longest_path)) {}
+
+/// Whether a fault is to be kept.
+bool c_report_builder::count(elmx_error code) {
+    if (m_report.m_total++ == 0) m_report.m_code = code;
+    return m_report.m_faults.size() < m_options.limit;
+}
+
+elmx_error c_report_builder::see(c_xml_reader& reader, elmx_error code, const std::string& item_name) {
+    const bool goes_on = m_options.collect && is_passable(code);
+    // A value that is wrong in one way is wrong in another as well; the first says it.
+    if (goes_on && reader.is_value_faulty()) return ELMX_OK;
+    if (count(code)) {
+        m_report.m_faults.push_back(make_fault(code, m_file, describe_failure(reader, code, item_name)));
+    }
+    reader.set_value_faulty(true);
+    m_report.m_is_read_to_end = goes_on;
+    return goes_on ? ELMX_OK : code;
+}
+
+elmx_error c_report_builder::see(c_xml_writer& writer, elmx_error code, const std::string& item_name) {
+    if (count(code)) {
+        m_report.m_faults.push_back(make_fault(code, m_file, describe_failure(writer, code, item_name)));
+    }
+    m_report.m_is_read_to_end = false;
+    return code;
+}
+
+void c_report_builder::add(elmx_error code, const std::string& detail) {
+    if (count(code)) {
+        DocumentFault fault;
+        fault.code = code;
+        fault.text = text_of(code);
+        fault.detail = shown(detail, k_longest_path);
+        fault.file = m_file;
+        m_report.m_faults.push_back(std::move(fault));
+    }
+    m_report.m_is_read_to_end = false;
+}
+
+void c_report_builder::explain_last(const std::string& detail) {
+    if (!m_report.m_faults.empty()) m_report.m_faults.back().detail = detail;
+}
+
+void c_report_builder::add_exception(elmx_error code) {
+    try {
+        throw;
+    } catch (const CZipException& failure) {
+        // Its words begin with the name of a file, which is told already if it is that of the report.
+        const std::string words = failure.what();
+        const std::string name = narrow(failure.GetFileName());
+        add(code, shown(name, k_longest_path) == m_file ? words.substr(name.size() + 2) : words);
+    } catch (const std::exception& failure) {
+        add(code, failure.what());
+    }
+}
+
+const DocumentFault& DocumentReport::getFault(std::size_t index) const {
+    static const DocumentFault k_none;
+    return index < m_faults.size() ? m_faults[index] : k_none;
+}
+
+std::string DocumentReport::toString() const {
+    std::string lines;
+    for (const DocumentFault& fault : m_faults) lines += formatFault(fault) + '\n';
+    return lines;
+}
+
+std::string formatFault(const DocumentFault& fault) {
+    std::string line;
+    if (!fault.file.empty()) line = fault.file + (fault.line > 0 ? ':' + std::to_string(fault.line) : "") + ": ";
+    if (fault.file.empty() && fault.line > 0) line = "line " + std::to_string(fault.line) + ": ";
+    if (!fault.path.empty()) line += fault.path + ": ";
+    line += fault.text;
+    // Where the sentence names it, it would only be said twice.
+    const bool is_said = fault.detail.find('<' + fault.value + '>') != fault.detail.npos;
+    if (!fault.value.empty() && !is_said) line += " (" + fault.value + ")";
+    if (!fault.detail.empty()) line += ": " + fault.detail;
+    return line;
+}
+
+DocumentReport loadFileWithReport(Vyr& document, const std::u16string& path, const ReportOptions& options) {
+    return report_on(options, narrow(path), [&](c_report_builder* report) { load_file(document, path, report); });
+}
+
+DocumentReport loadFileWithReport(Vyr& document, const std::string& path, const ReportOptions& options) {
+    std::u16string wide;
+    const bool is_text = narrow(vtostring(wide, path)) == path;
+    return report_on(options, path, [&](c_report_builder* report) {
+        if (is_text) {
+            load_file(document, wide, report);
+        } else if (!path.ends_with(".vyrz")) {
+            load_plain_file(document, path, report);
+        } else {
+            report->add(ELMX_NO_FILE, "the name of a container must be UTF-8");
+        }
+    });
+}
+
+DocumentReport loadStringWithReport(Vyr& document, const std::u16string& text, const ReportOptions& options) {
+    return report_on(options, options.name, [&](c_report_builder* report) { load_string(document, text, report); });
+}
+
+DocumentReport loadMemoryWithReport(Vyr& document, const char* data, std::size_t size, const ReportOptions& options) {
+    return report_on(options, options.name,
+                     [&](c_report_builder* report) { load_memory(document, data, size, report); });
+}
+
+DocumentReport writeFileWithReport(const Vyr& document, const std::u16string& path) {
+    return report_on({}, narrow(path), [&](c_report_builder* report) { write_file(document, path, report); });
+}
+
+DocumentReport writeStringWithReport(const Vyr& document, std::u16string* text) {
+    return report_on({}, {}, [&](c_report_builder* report) { write_string(document, text, report); });
+}
+
+}  // namespace com_vyrgraph_v2

@@ -1,0 +1,61 @@
+// Copyright 2026 The Vyr Authors
+// SPDX-License-Identifier: Apache-2.0
+
+/// Gathers the faults of one load or save, and the reader and the writer that hand them over.
+
+#pragma once
+
+#include <string>
+#include <utility>
+
+#include "document/report.h"
+#include "lmx/reader/xml_reader.h"
+#include "lmx/writer/xml_writer.h"
+
+namespace com_vyrgraph_v2 {
+
+class c_report_builder {
+public:
+    /// `file` as the faults shall name it.
+    c_report_builder(ReportOptions options, const std::string& file);
+
+    /// Takes a failure of the reader; the handler's answer.
+    lmx::elmx_error see(lmx::c_xml_reader& reader, lmx::elmx_error code, const std::string& item_name);
+    lmx::elmx_error see(lmx::c_xml_writer& writer, lmx::elmx_error code, const std::string& item_name);
+    /// Takes a failure without a place in a document. It ends the load or save.
+    void add(lmx::elmx_error code, const std::string& detail);
+    /// Says more of the fault that was taken last.
+    void explain_last(const std::string& detail);
+    /// The same as `add` for the exception that is being handled.
+    void add_exception(lmx::elmx_error code);
+
+    DocumentReport take() { return std::move(m_report); }
+
+private:
+    bool count(lmx::elmx_error code);
+
+    ReportOptions m_options;
+    std::string m_file;
+    DocumentReport m_report;
+};
+
+/// A reader or a writer whose failures go to a report, if there is one.
+template <class Stream>
+class c_reporting : public Stream {
+public:
+    template <class... Arguments>
+    explicit c_reporting(c_report_builder* report, Arguments&&... arguments)
+        : Stream(std::forward<Arguments>(arguments)...), m_report(report) {}
+
+    lmx::elmx_error user_handle_error(lmx::elmx_error code, const std::string& item_name, const char*, int) override {
+        return m_report == nullptr ? code : m_report->see(*this, code, item_name);
+    }
+    void see_unhandled_error(lmx::elmx_error code, const std::string& item_name) override {
+        if (m_report != nullptr) m_report->see(*this, code, item_name);
+    }
+
+private:
+    c_report_builder* m_report;
+};
+
+}  // namespace com_vyrgraph_v2

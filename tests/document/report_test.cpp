@@ -1,0 +1,355 @@
+// Copyright 2026 The Vyr Authors
+// SPDX-License-Identifier: Apache-2.0
+
+/// Reports, as whoever has to mend a document reads them: one line for each fault.
+
+#include <gtest/gtest.h>
+
+#include <filesystem>
+#include <fstream>
+#include <functional>
+#include <iterator>
+#include <map>
+#include <sstream>
+
+#include "schema/Vyr.h"
+
+namespace vyr_test {
+namespace {
+
+using namespace lmx;
+using namespace com_vyrgraph_v2;
+namespace fs = std::filesystem;
+
+/// Lines 1 to 5 are the preamble, "Inks" begins in line 6, "Ink 1" in line 10, its L stands in line 14.
+const std::string k_document = R"(<?xml version="1.0" encoding="UTF-8"?>
+<Vyr:Vyr xmlns:Vyr="http://vyrgraph.com/v2" xmlns:xsi="http://www.w3.org/2001/XMLSchema-instance">
+	<Vyr:Preamble><Vyr:Header><Vyr:Creator>me</Vyr:Creator><Vyr:CreatorVersion>1</Vyr:CreatorVersion>
+		<Vyr:ChangeHistory>2024-05-01T09:30:00Z</Vyr:ChangeHistory><Vyr:Purpose>test</Vyr:Purpose></Vyr:Header>
+	</Vyr:Preamble>
+	<Vyr:Palette PaletteName="Inks">
+		<Vyr:ChangeHistory>2024-05-01T09:30:00Z</Vyr:ChangeHistory>
+		<Vyr:ColorSet ColorSetName="All">
+			<Vyr:ChangeHistory>2024-05-01T09:30:00Z</Vyr:ChangeHistory>
+			<Vyr:Color ColorName="Ink 1">
+				<Vyr:ChangeHistory>2024-05-01T09:30:00Z</Vyr:ChangeHistory>
+				<Vyr:ColorSpaceCIELab><Vyr:ChangeHistory>2024-05-01T09:30:00Z</Vyr:ChangeHistory>
+					<Vyr:ColorSpaceSpecificationSpectrumTristimulus xsi:nil="true"/>
+					<Vyr:L>50</Vyr:L>
+					<Vyr:A>1</Vyr:A>
+					<Vyr:B>2</Vyr:B>
+				</Vyr:ColorSpaceCIELab>
+			</Vyr:Color>
+		</Vyr:ColorSet>
+	</Vyr:Palette>
+</Vyr:Vyr>
+)";
+const std::string k_ink = "Palette \"Inks\" / ColorSet \"All\" / Color \"Ink 1\"";
+const std::string k_lab = k_ink + " / ColorSpaceCIELab";
+
+std::string replaced(std::string text, const std::string& from, const std::string& to) {
+    const std::size_t position = text.find(from);
+    EXPECT_NE(position, text.npos) << from;
+    return position == text.npos ? text : text.replace(position, from.size(), to);
+}
+
+DocumentReport report_of(const std::string& bytes, const ReportOptions& options = {.collect = true}) {
+    Vyr document;
+    const DocumentReport report = loadMemoryWithReport(document, bytes.data(), bytes.size(), options);
+    Vyr plain;
+    EXPECT_EQ(report.getCode(), plain.unmarshal(bytes));
+    return report;
+}
+
+TEST(Report, SaysOfEachBadDocumentWhereAndWhy) {
+    // One line of lines.txt for each fault; adding a case is adding a file and its lines.
+    const fs::path folder = fs::path(VYR_TEST_DOCUMENTS) / "invalid";
+    std::ifstream table(folder / "lines.txt");
+    std::map<std::string, std::string> lines;
+    for (std::string line; std::getline(table, line);) lines[line.substr(0, line.find(':'))] += line + '\n';
+    EXPECT_GE(lines.size(), 70U);
+    for (const auto& [file, text] : lines) {
+        Vyr document;
+        const std::string path = (folder / file).string();
+        const DocumentReport report = loadFileWithReport(document, path, {.collect = true});
+        std::string expected;
+        std::istringstream rows(text);
+        for (std::string row; std::getline(rows, row);) expected += (folder / row).string() + '\n';
+        EXPECT_EQ(report.toString(), expected);
+        Vyr plain;
+        EXPECT_EQ(report.getCode(), plain.unmarshal(path.c_str()));
+    }
+}
+
+TEST(Report, OfOneChangeToAGoodDocument) {
+    const struct {
+        std::string from, to, report;
+    } rows[] = {
+        {"50", "\n\n 500 \n",
+         "line 14: " + k_lab + " / L: Value greater than specified maximum (500): it must be at most 150"},
+        {"50", "\u00FC\x01\t\xE2\x80\xAE",
+         "line 14: " + k_lab +
+             " / L: Invalid value format for this type (\u00FC\\u0001 \\u202e): a number is expected"},
+        {"ColorName=\"Ink 1\"", "Colour='1'\n ColorName='Ink 1'",
+         "line 10: " + k_ink +
+             " / @Colour: Unexpected attribute (1): Color takes ColorName, UniqueID, ColorNumber and Comments"},
+        {"\"Ink 1\"", "\"Ink 1\"\n\n  UniqueId='7'",
+         "line 12: " + k_ink +
+             " / @UniqueId: Unexpected attribute (7): Color takes ColorName, UniqueID, ColorNumber and Comments; is "
+             "UniqueID meant?"},
+        {"\"Ink 1\"", "\"Ink 1\" ColorName='b'",
+         "line 10: " + k_ink + " / @ColorName: Attribute has already been read (b): the attribute is given twice"},
+        {"Ink 1", "A &amp; \\ &quot;B&quot;\" x=\"",
+         "line 10: Palette \"Inks\" / ColorSet \"All\" / Color \"A & \\\\ \\\"B\\\"\" / @x: Unexpected attribute: "
+         "Color takes ColorName, UniqueID, ColorNumber and Comments"},
+        {"ColorName=\"Ink 1\"", "",
+         "line 10: Palette \"Inks\" / ColorSet \"All\" / Color[1]: Required attribute(s) missing: the attribute "
+         "ColorName is missing"},
+        {"ColorName=\"Ink 1\"", "ColorName",
+         "line 10: Palette \"Inks\" / ColorSet \"All\": Not well formed (Vyr:Color): an attribute must have a value, "
+         "in quotes behind an equals sign"},
+        {"\"Ink 1\"", "\"Ink 1",
+         "line 10: Palette \"Inks\" / ColorSet \"All\": Not well formed (Vyr:Color): an attribute must have a value, "
+         "in quotes behind an equals sign, as noticed in line 13"},
+        {"Ink 1", "Ink & 1",
+         "line 10: " + replaced(k_ink, "Ink 1", "Ink & 1") +
+             " / @ColorName: Unable to read attribute value (Ink & 1): & 1 is no known reference; an & in text is "
+             "written &amp;"},
+        {"Ink 1", "Ink \xFF",
+         "line 10: Palette \"Inks\" / ColorSet \"All\": Not well formed (Vyr:Color): the bytes that follow are not "
+         "UTF-8"},
+        {"test", "te\xFFst",
+         "line 4: Preamble / Header / Purpose: Unable to read element value (te): the bytes that follow are not "
+         "UTF-8"},
+        {"test", "a\n&b;",
+         "line 5: Preamble / Header / Purpose: Unable to read element value (a\\n&b;): &b; is no known reference; an "
+         "& in text is written &amp;"},
+        {"</Vyr:L>", "",
+         "line 14: " + k_lab +
+             " / L: Bad end of element (50): only a value may stand in it, and then its end tag </Vyr:L>"},
+        {"<Vyr:L>50", "&x;<Vyr:L>50",
+         "line 14: " + k_lab +
+             ": Mandatory element missing (&x;): &x; is no known reference; an & in text is written &amp;"},
+        {"<Vyr:L>50", "<!-- <Vyr:L>50",
+         "line 14: " + k_lab + ": Mandatory element missing: the document ends before what begins here does"},
+        {"<Vyr:A>1</Vyr:A>", "",
+         "line 16: " + k_lab + ": Mandatory element missing: the element A is missing; <Vyr:B> stands here"},
+        {"Vyr:L>50</Vyr:L", "Vyr:l>50</Vyr:l",
+         "line 14: " + k_lab +
+             ": Mandatory element missing: the element L is missing; <Vyr:l> stands here; is L meant?"},
+        {"<Vyr:L>", "<L>",
+         "line 14: " + k_lab +
+             ": Mandatory element missing: the element L is missing; <L> stands here, which is not in the namespace "
+             "http://vyrgraph.com/v2"},
+        {"<Vyr:Preamble>", "<Vyr:Preamble><Vyr:Owner/>",
+         "line 3: Preamble: Mandatory element missing: the element Header is missing; <Vyr:Owner> stands here"},
+        {"</Vyr:B>", "</Vyr:B><Vyr:B>3</Vyr:B>",
+         "line 16: " + k_lab +
+             ": Bad end of element (Vyr:B): B may stand here only once; the end of ColorSpaceCIELab is expected"},
+        {"</Vyr:Header>", "<Vyr:Creator/></Vyr:Header>",
+         "line 4: Preamble / Header: Bad end of element (Vyr:Creator): Creator must stand before Purpose; Name, "
+         "Comments, ReadSDKInformation, WriteSDKInformation, ReadPlatformInformation, WritePlatformInformation, "
+         "Revision or the end of Header is expected"},
+        {"<Vyr:ColorSet ", "stray <Vyr:ColorSet ",
+         "line 8: Palette \"Inks\": Bad end of element (stray): no text may stand between elements"},
+        {"</Vyr:Color>", "</Vyr:ColorSet>",
+         "line 18: " + k_ink +
+             ": Bad end of element (</Vyr:ColorSet>): the end tag of Color, which begins in line 10, is expected"},
+        {"</Vyr:Vyr>", "",
+         "line 22: Vyr: Unexpected end of message: the document ends before Vyr does, which begins in line 2"},
+        {"UTF-8", "UTF-16",
+         "line 1: Mis-match between specified char encoding and read bytes: the XML declaration names another "
+         "encoding than the one that the bytes have"},
+        {"/v2", "/v1",
+         "line 2: Element not found (Vyr:Vyr): the document must begin with the element Vyr in the namespace "
+         "http://vyrgraph.com/v2"},
+        {k_document, "", "line 1: Unexpected end of message: the document holds no element"},
+        {k_document, "text",
+         "line 1: Unexpected end of message: the text does not begin like XML, or its encoding is none of UTF-8, "
+         "UTF-16, ISO-8859-1 and US-ASCII"},
+    };
+    ASSERT_EQ(report_of(k_document).toString(), "");
+    for (const auto& [from, to, expected] : rows) {
+        const DocumentReport report = report_of(replaced(k_document, from, to));
+        EXPECT_EQ(report.toString(), expected + '\n');
+        EXPECT_EQ(report.isOk(), report.isReadToEnd() && report.getFaultCount() == 0);
+    }
+    const std::string cmyk = "<Vyr:ColorSpaceCMYK xsi:type=\"Vyr:Foo\"/>";
+    EXPECT_EQ(report_of(replaced(k_document, "<Vyr:ColorSpaceCIELab>", cmyk + "<Vyr:ColorSpaceCIELab>")).toString(),
+              "line 12: " + k_ink +
+                  " / ColorSpaceCMYK: Unknown xsi:type (Vyr:Foo): one of ColorSpaceCMYKType or "
+                  "ColorSpaceCMYKPlusNType, with the prefix of the document's namespace, is expected\n");
+}
+
+TEST(Report, GathersFaultsOfValuesAndAttributesUpToALimit) {
+    std::string text = replaced(k_document, "<Vyr:L>50", "<Vyr:L>x");  // neither a number nor within bounds
+    text = replaced(text, "<Vyr:A>1", "<Vyr:A>");
+    text = replaced(text, "2024-05-01T09:30:00Z", "2024-05-01T09:30:00");
+    text = replaced(text, "\"Inks\"", "\"Inks\" a='1' PaletteVersion='1' PaletteVersion='2'");
+    const DocumentReport all = report_of(text, {.collect = true, .name = "a.xml"});
+    EXPECT_EQ(
+        all.toString(),
+        "a.xml:4: Preamble / Header / ChangeHistory[1]: No pattern matched (2024-05-01T09:30:00): a time zone is "
+        "missing: Z, or one such as +01:00\n"
+        "a.xml:6: Palette \"Inks\" / @a: Unexpected attribute (1): Palette takes PaletteName, PalettePartNumber, "
+        "PaletteVersion, UniqueID and Comments\n"
+        "a.xml:6: Palette \"Inks\" / @PaletteVersion: Attribute has already been read (2): the attribute is given "
+        "twice\n"
+        "a.xml:14: " +
+            k_lab +
+            " / L: Invalid value format for this type (x): a number is expected\n"
+            "a.xml:15: " +
+            k_lab +
+            " / A: Invalid value format for this type: a number is expected; nothing stands "
+            "here\n");
+    EXPECT_TRUE(all.isReadToEnd() && !all.hasMore() && !all.isOk());
+    EXPECT_EQ(all.getFault(3).item, "Vyr:L");
+    EXPECT_EQ(all.getFault(5).code, ELMX_OK);
+
+    const DocumentReport some = report_of(text, {.collect = true, .limit = 2});
+    EXPECT_EQ(some.getFaultCount(), 2U);
+    EXPECT_EQ(some.getTotalCount(), 5U);
+    EXPECT_TRUE(some.hasMore() && some.isReadToEnd());
+    EXPECT_EQ(report_of(text, {.collect = true, .limit = 0}).getCode(), ELMX_NO_PATTERN_MATCHED);
+    const DocumentReport first = report_of(text, {});
+    EXPECT_EQ(first.getFaultCount(), 1U);
+    EXPECT_FALSE(first.hasMore() || first.isReadToEnd());
+    // What ends the load comes last.
+    const DocumentReport ended = report_of(replaced(text, "</Vyr:Color>", ""));
+    EXPECT_EQ(ended.getFaultCount(), 6U);
+    EXPECT_EQ(ended.getFault(5).code, ELMX_BAD_END_OF_ELEMENT);
+    EXPECT_FALSE(ended.isReadToEnd());
+}
+
+TEST(Report, StaysSmallWhateverTheDocumentHolds) {
+    std::string many = "<Vyr:ChangeHistory>";
+    std::string deep;
+    for (int i = 0; i < 300; ++i)
+        deep += "<Vyr:ColorSpaceRGB Comments=\"" + std::string(1000, '<') + "\"><Vyr:ParentColorSpace>";
+    for (int i = 0; i < 100000; ++i) many += "x</Vyr:ChangeHistory><Vyr:ChangeHistory>";
+    const DocumentReport faults = report_of(replaced(k_document, "<Vyr:ChangeHistory>", many));
+    EXPECT_EQ(faults.getFaultCount(), 100U);
+    EXPECT_EQ(faults.getTotalCount(), 100000U);
+    EXPECT_EQ(faults.getFault(99).path, "Preamble / Header / ChangeHistory[100]");
+    const std::string name(1000000, '"');
+    for (const std::string& text : {replaced(k_document, "<Vyr:ColorSpaceCIELab>", deep),
+                                    replaced(replaced(k_document, "\"Ink 1\"", "'" + name + "'"), "50", name),
+                                    replaced(k_document, "Vyr:L>", name), replaced(k_document, "<Vyr:L", "<" + name),
+                                    replaced(k_document, "<Vyr:L", "<L" + std::string(1000000, 'x'))}) {
+        const DocumentReport report = report_of(text);
+        ASSERT_EQ(report.getFaultCount(), 1U);
+        EXPECT_LT(report.toString().size(), 10000U);
+    }
+}
+
+TEST(Report, SaysWhatASaveLacks) {
+    const auto complete = [] {
+        Vyr document;
+        EXPECT_EQ(document.unmarshal(k_document), ELMX_OK);
+        return document;
+    };
+    const struct {
+        std::function<void(Vyr&)> change;
+        std::string report;
+    } rows[] = {
+        {[](Vyr&) {}, ""},
+        {[](Vyr& document) { document.reset(); },
+         "Preamble / Header: min/max occurs error on marshaling: the element Creator, the element CreatorVersion, "
+         "the "
+         "element ChangeHistory and the element Purpose are missing\n"},
+        {[](Vyr& document) { document.append_Palette(); },
+         "Palette[2]: min/max occurs error on marshaling: the attribute PaletteName and the element ChangeHistory "
+         "are "
+         "missing\n"},
+        {[](Vyr& document) { document.get_Palette(0).get_ColorSet(0).get_Color(0).append_ColorSpace(); },
+         k_ink +
+             ": min/max occurs error on marshaling: one of ColorSpaceRecipe, ColorSpaceTINTORA, ColorSpaceGeneric, "
+             "ColorSpaceEmissiveGeneric, ColorSpaceDensity, ColorSpaceRGB, ColorSpaceSRGB, ColorSpaceAdobeRGB, "
+             "ColorSpaceCMYKPlusN, ColorSpaceAdobeWideGamutRGB or 18 others is missing\n"},
+        {[](Vyr& document) {
+             auto& color = document.get_Palette(0).get_ColorSet(0).get_Color(0);
+             color.append_ColorSpace();
+             color.get_ColorSpace(1).get_ColorSpaceCIELab().set_Name(u"D50");
+         },
+         k_ink + " / ColorSpaceCIELab \"D50\": min/max occurs error on marshaling: the element ChangeHistory, the "
+                 "element "
+                 "ColorSpaceSpecificationSpectrumTristimulus, the element L, the element A and the element B are "
+                 "missing\n"},
+        {[](Vyr& document) {
+             document.append_Color();
+             document.back_Color().set_ColorName(u"c");
+             document.back_Color().append_CustomAttribute();
+             document.back_Color().get_CustomAttribute(0).set_Name(u"n");
+             document.back_Color().append_ChangeHistory(c_datetime("2024-05-01T09:30:00Z"));
+             document.back_Color().append_ColorSpace();
+         },
+         "Color \"c\" / CustomAttribute \"n\": min/max occurs error on marshaling: the element ValueChoice is "
+         "missing\n"},
+        {[](Vyr& document) {
+             auto& header = document.get_Preamble().get_Header();
+             header.append_CustomAttribute();
+             header.get_CustomAttribute(0).set_Name(u"n");
+             header.get_CustomAttribute(0).assign_ValueChoice(CustomAttributeType_ValueChoice());
+         },
+         "Preamble / Header / CustomAttribute \"n\" / ValueChoice: Inappropriate choice option selected: one of "
+         "DoubleValue, IntegerValue or StringValue is missing\n"},
+        {[](Vyr& document) {
+             auto& color = document.get_Palette(0).get_ColorSet(0).get_Color(0);
+             color.append_ColorSpace();
+             color.get_ColorSpace(1).assign_ColorSpaceCMYK(static_cast<ColorSpaceCMYKType*>(nullptr));
+         },
+         k_ink + ": Type not set: the element ColorSpaceCMYK is chosen but has no object\n"},
+    };
+    for (const auto& [change, expected] : rows) {
+        Vyr document = complete();
+        change(document);
+        std::u16string text;
+        const DocumentReport report = writeStringWithReport(document, &text);
+        EXPECT_EQ(report.toString(), expected);
+        EXPECT_EQ(report.getCode(), document.writeString().getElmxError());
+        EXPECT_EQ(text, document.writeString().getXmlDocument());
+    }
+    Vyr lacking;
+    EXPECT_EQ(writeFileWithReport(lacking, u"lacking.vyrz").getFault(0).item, "Vyr:Creator");
+    EXPECT_FALSE(fs::exists("lacking.vyr") || fs::exists("lacking.vyrz"));
+}
+
+TEST(Report, NamesFilesAndContainers) {
+    Vyr document;
+    ASSERT_EQ(document.unmarshal(k_document), ELMX_OK);
+    EXPECT_EQ(writeFileWithReport(document, u"good.vyrz").toString(), "");
+    EXPECT_EQ(loadFileWithReport(document, u"good.vyrz").toString(), "");
+    const std::string bad = replaced(k_document, "50", "500");
+    std::ofstream("bad.vyr") << bad;
+    std::ifstream good("good.vyrz", std::ios::binary);
+    std::string bytes(std::istreambuf_iterator<char>(good), {});
+    bytes[60] = static_cast<char>(~bytes[60]);
+    std::ofstream("damaged.vyrz", std::ios::binary) << bytes;
+    std::ofstream("text.vyrz") << "text";
+    fs::create_directories("folder.vyr");
+    fs::create_directories("taken.vyrz");
+    const auto load = [](const auto& path) {
+        Vyr target;
+        return loadFileWithReport(target, path).toString();
+    };
+    EXPECT_EQ(load(u"missing.vyr"), "missing.vyr: Unable to open file: No such file or directory\n");
+    EXPECT_EQ(load(u"missing.vyrz"), "missing.vyrz: Unable to open file: No such file or directory\n");
+    EXPECT_EQ(load(std::string("\xFF.vyr")), "\\xff.vyr: Unable to open file: No such file or directory\n");
+    EXPECT_EQ(load(std::string("\xFF.vyrz")),
+              "\\xff.vyrz: Unable to open file: the name of a container must be UTF-8\n");
+    EXPECT_EQ(load(u"a\xD800"), "a\\xed\\xa0\\x80: Unable to open file: the name is no text that a file can have\n");
+    EXPECT_EQ(load(u"folder.vyr"), "folder.vyr:1: Unexpected end of message: it is a directory\n");
+    EXPECT_EQ(load(u"text.vyrz"), "text.vyrz: Container can't be read or written: not a ZIP archive\n");
+    EXPECT_EQ(load(u"damaged.vyrz").find("damaged.vyrz: Container can't be read or written: "), 0U);
+    EXPECT_EQ(load(std::string("bad.vyr")),
+              "bad.vyr:14: " + k_lab + " / L: Value greater than specified maximum (500): it must be at most 150\n");
+    const auto write = [&](const std::u16string& path) { return writeFileWithReport(document, path).toString(); };
+    EXPECT_EQ(write(u"a.xml"), "a.xml: Unknown ending of a file name: the name must end in .vyr or .vyrz\n");
+    EXPECT_EQ(write(u"missing/a.vyr"), "missing/a.vyr: Unable to open file: not written, or not in full\n");
+    EXPECT_EQ(write(u"missing/a.vyrz"), "missing/a.vyrz: Unable to open file: No such file or directory\n");
+    EXPECT_EQ(write(u"taken.vyrz"), "taken.vyrz: Unable to open file: Is a directory\n");
+    EXPECT_EQ(write(u"folder.vyrz").find("folder.vyrz: Container can't be read or written: "), 0U);
+}
+
+}  // namespace
+}  // namespace vyr_test
