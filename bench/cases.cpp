@@ -43,6 +43,15 @@ operation vyr_load_file(const s_input& input) {
     };
 }
 
+operation vyr_load_report(const s_input& input) {
+    return [&input]() -> result {
+        auto document = std::make_shared<Vyr>();
+        const auto report =
+            loadMemoryWithReport(*document, input.bytes.data(), input.bytes.size(), {.collect = true});
+        return report.isOk() ? document : nullptr;
+    };
+}
+
 operation vyr_load_container(const s_input& input) {
     return [path = wide(input.container_path)]() -> result {
         auto document = std::make_shared<Vyr>();
@@ -122,6 +131,8 @@ const std::vector<s_case>& cases() {
         {"pugixml load memory", pugixml_load_memory},
         {"vyr load file", vyr_load_file},
         {"pugixml load file", pugixml_load_file},
+        {"vyr load report", vyr_load_report},
+        {"plain load", vyr_load_memory},
         {"vyr load container", vyr_load_container},
         {"zlib + load", inflate_and_load},
         {"vyr save", vyr_save},
