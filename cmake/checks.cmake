@@ -15,7 +15,9 @@ vyr_add_check(generated_files ${Python3_EXECUTABLE} ${PROJECT_SOURCE_DIR}/schema
 vyr_add_check(generator ${Python3_EXECUTABLE} ${checks}/schema/generator_test.py)
 if(VYR_BUILD_TOOLS)
   set(palette ${PROJECT_SOURCE_DIR}/examples/css-colors.vyr)
-  add_test(NAME tools_vyr COMMAND ${checks}/tools/check_vyr.sh $<TARGET_FILE:vyr_tool> ${palette})
+  add_test(NAME tools_vyr COMMAND ${Python3_EXECUTABLE} ${checks}/tools/check_vyr.py $<TARGET_FILE:vyr_tool> ${palette})
+  vyr_add_check(tools_papers ${Python3_EXECUTABLE} ${checks}/tools/check_papers.py $<TARGET_FILE:vyr_tool>
+                ${PROJECT_SOURCE_DIR})
   vyr_add_check(foreign_archives ${checks}/zip/check_archives.sh $<TARGET_FILE:vyr_tool> ${palette})
   vyr_add_check(written_documents ${checks}/written/check_written.sh $<TARGET_FILE:vyr_tool>
                 ${PROJECT_SOURCE_DIR}/schema/vyr.xsd ${PROJECT_SOURCE_DIR}/examples ${checks}/documents)

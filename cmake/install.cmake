@@ -11,6 +11,12 @@ install(TARGETS vyr EXPORT vyr-targets LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDI
                                                NAMELINK_COMPONENT development)
 if(VYR_BUILD_TOOLS)
   install(TARGETS vyr_tool RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR} COMPONENT runtime)
+  install(FILES ${PROJECT_SOURCE_DIR}/tools/vyr.1 DESTINATION ${CMAKE_INSTALL_MANDIR}/man1 COMPONENT runtime)
+  set(completion ${PROJECT_SOURCE_DIR}/tools/completion)
+  install(FILES ${completion}/vyr.bash DESTINATION ${CMAKE_INSTALL_DATADIR}/bash-completion/completions RENAME vyr
+          COMPONENT runtime)
+  install(FILES ${completion}/_vyr DESTINATION ${CMAKE_INSTALL_DATADIR}/zsh/site-functions COMPONENT runtime)
+  install(FILES ${completion}/vyr.fish DESTINATION ${CMAKE_INSTALL_DATADIR}/fish/vendor_completions.d COMPONENT runtime)
 endif()
 
 # The runtime and the classes are public but for a few headers of the library's own sources; of the other folders it

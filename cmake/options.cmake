@@ -28,3 +28,10 @@ endif()
 add_library(vyr_warnings INTERFACE)
 target_compile_options(vyr_warnings INTERFACE -Wall -Wextra -Wpedantic -Wconversion -Wshadow -Wnon-virtual-dtor
                                               $<$<BOOL:${VYR_WARNINGS_AS_ERRORS}>:-Werror>)
+
+# g++ 12 takes `"text" + std::string` for an overlapping copy (gcc bug 105651); for targets that are full of that.
+function(vyr_allow_concatenation target)
+  if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU" AND CMAKE_CXX_COMPILER_VERSION VERSION_LESS 13)
+    target_compile_options(${target} PRIVATE -Wno-restrict)
+  endif()
+endfunction()

@@ -24,10 +24,7 @@ function(vyr_add_test)
   add_executable(${arg_NAME} ${arg_SOURCES})
   target_link_libraries(${arg_NAME} PRIVATE vyr::vyr vyr_warnings GTest::gtest_main ${arg_LIBRARIES})
   target_compile_definitions(${arg_NAME} PRIVATE "VYR_TEST_DOCUMENTS=\"${PROJECT_SOURCE_DIR}/tests/documents\"")
-  # g++ 12 takes `"text" + std::string` for an overlapping copy (gcc bug 105651); tests are full of that.
-  if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU" AND CMAKE_CXX_COMPILER_VERSION VERSION_LESS 13)
-    target_compile_options(${arg_NAME} PRIVATE -Wno-restrict)
-  endif()
+  vyr_allow_concatenation(${arg_NAME})
   set(scratch ${CMAKE_CURRENT_BINARY_DIR}/${arg_NAME}.scratch)
   file(MAKE_DIRECTORY ${scratch})
   # The cases are listed when ctest starts, so that a build does not run what it has just built.

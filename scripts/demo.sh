@@ -11,7 +11,7 @@ cd "$(dirname "$0")/.."
 step() { printf '\n== %s\n' "$*"; }
 
 step "Setting up and building"
-scripts/setup.sh build
+scripts/setup.sh build tool
 cmake --preset release -DVYR_BUILD_TESTS=OFF > /dev/null
 cmake --build --preset release --target vyr_tool
 
@@ -26,6 +26,9 @@ echo "valid"
 
 step "vyr info $palette"
 "$vyr" info "$palette"
+
+step "vyr list --name '*blue' $palette"
+"$vyr" list --name '*blue' "$palette"
 
 step "vyr convert $palette css-colors.vyr"
 "$vyr" convert "$palette" "$work/css-colors.vyr"

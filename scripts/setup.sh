@@ -4,12 +4,13 @@
 #
 # Installs what is missing to work on Vyr on a Debian 12 machine; does nothing, quickly, when nothing is missing.
 #
-#   scripts/setup.sh [build] [test] [csharp] [windows] [bench] [fuzz]      (without arguments: build)
+#   scripts/setup.sh [build] [tool] [test] [csharp] [windows] [bench] [fuzz]      (without arguments: build)
 
 set -euo pipefail
 
 declare -A packages=(
     [build]="g++ cmake ninja-build libxml2-dev zlib1g-dev libbz2-dev"
+    [tool]="libcli11-dev nlohmann-json3-dev"
     [test]="libgtest-dev unzip libarchive-tools libxml2-utils pkg-config python3 clang-format-14 locales"
     [csharp]="mono-mcs mono-runtime"
     [windows]="g++-mingw-w64-i686-posix"

@@ -10,7 +10,7 @@
 set -euo pipefail
 cd "$(dirname "$0")/.."
 
-scripts/setup.sh build test
+scripts/setup.sh build tool test
 scripts/setup.sh csharp || echo "test.sh: there is no C# to be had; the tests that need it are skipped"
 
 presets=("$@")

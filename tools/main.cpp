@@ -1,94 +1,226 @@
 // Copyright 2026 The Vyr Authors
 // SPDX-License-Identifier: Apache-2.0
 
-/// The command `vyr`: checks, converts and describes documents. All knowledge of the format is the library's.
+/// The command `vyr`: its command line. The one source that takes the parser of command lines in.
 
-#include <algorithm>
+#include <unistd.h>
+
+#include <CLI/CLI.hpp>
+#include <array>
+#include <cerrno>
+#include <cstring>
 #include <iostream>
-#include <span>
+#include <memory>
+#include <new>
+#include <streambuf>
 #include <string>
-#include <string_view>
 
-#include "tools/document_file.h"
-#include "tools/info.h"
+#include "tools/commands.h"
+#include "tools/text.h"
 
 namespace {
 
-using vyr_tool::exit_code;
-using arguments = std::span<const char* const>;
+using namespace vyr_tool;
 
-exit_code check(arguments files) {
-    exit_code result = vyr_tool::exit_ok;
-    for (const char* file : files) {
-        com_vyrgraph_v2::Vyr document;
-        result = std::max(result, vyr_tool::read_document(file, document));
+constexpr char k_exit_codes[] =
+    "Exit codes:\n"
+    "  0  all is well\n"
+    "  1  a document fails; diff: the documents differ\n"
+    "  2  wrong usage, or a file that can't be read or written; diff: or a document that fails\n";
+
+void add_file(CLI::App& command, const char* name, std::string& file, const char* text) {
+    command.add_option(name, file, text)->required()->option_text(" ");
+}
+
+void add_json(CLI::App& command, bool& json) { command.add_flag("--json", json, "Print JSON"); }
+
+void add_color(CLI::App& command, color_mode& mode) {
+    command.add_option("--color", mode, "Colours in the output: auto, always or never")
+        ->check(CLI::IsMember({"auto", "always", "never"}))
+        ->option_text("WHEN");
+}
+
+void add_check(CLI::App& command, check_options& options) {
+    command
+        .add_option("FILE", options.files, "Documents, folders that are searched for them, or - for standard input")
+        ->required()
+        ->option_text("...");
+    command.add_option("-j,--jobs", options.jobs, "Check N files at a time; 0: one per processor")->option_text("N");
+    command.add_option("--limit", options.limit, "Report at most N faults of a file (100)")->option_text("N");
+    add_json(command, options.json);
+    command.add_flag("-q,--quiet", options.quiet, "Print nothing; the exit code tells");
+    command.footer(
+        "Each fault is a line: file:line: path: what is wrong. Faults of values and attributes are\n"
+        "reported together; any other ends the check of its file.\n\n"
+        "Examples:\n"
+        "  vyr check inks.vyr\n"
+        "  vyr check -j 4 palettes/           all .vyr and .vyrz files below a folder\n"
+        "  curl -s $URL | vyr check -\n"
+        "  vyr check --json *.vyr | jq '.files[] | select(.status != \"valid\") | .file'\n");
+}
+
+void add_info(CLI::App& command, info_options& options) {
+    add_file(command, "FILE", options.file, "A document, or - for standard input");
+    command.add_option("--depth", options.depth, "Count elements down to this level below the root (4)")
+        ->check(CLI::Range(0, 100))
+        ->option_text("N");
+    add_json(command, options.json);
+    command.footer(
+        "Examples:\n"
+        "  vyr info inks.vyr\n"
+        "  vyr info --depth 2 inks.vyrz\n"
+        "  vyr info --json inks.vyr | jq .colors\n");
+}
+
+void add_list(CLI::App& command, list_options& options) {
+    add_file(command, "FILE", options.file, "A document, or - for standard input");
+    const auto add_pattern = [&](const char* name, std::string& pattern, const char* text) {
+        command.add_option(name, pattern, text)->option_text("PATTERN");
+    };
+    add_pattern("--palette", options.palette, "Only colours of palettes with such a name");
+    add_pattern("--set", options.set, "Only colours of colour sets with such a name");
+    add_pattern("--name", options.name, "Only colours with such a name");
+    add_color(command, options.color);
+    add_json(command, options.json);
+    command.footer(
+        "A pattern is one as of the shell and fits the whole name: 'Ink*' fits \"Ink 17\".\n"
+        "On a terminal with 24-bit colours a swatch stands beside each colour with an RGB value.\n\n"
+        "Examples:\n"
+        "  vyr list inks.vyr\n"
+        "  vyr list --palette Spot --name '*blue*' inks.vyr\n"
+        "  vyr list --color always inks.vyr | less -R\n"
+        "  vyr list --json inks.vyr | jq -r '.[].name'\n");
+}
+
+void add_convert(CLI::App& command, convert_options& options) {
+    add_file(command, "IN", options.in, "A document, or - for standard input");
+    add_file(command, "OUT", options.out, "A name that ends in .vyr or .vyrz, or - for standard output");
+    command.add_option("--to", options.format, "Write this format, whatever OUT is called: vyr or vyrz")
+        ->check(CLI::IsMember({"vyr", "vyrz"}))
+        ->option_text("FORMAT");
+    command.footer(
+        "The output takes its place only when it is complete; until then an existing file stays as it is.\n\n"
+        "Examples:\n"
+        "  vyr convert inks.vyr inks.vyrz\n"
+        "  vyr convert inks.vyr inks.vyr      lay a document out anew\n"
+        "  vyr convert inks.vyrz - | less\n"
+        "  vyr convert --to vyrz - - < inks.vyr > inks.vyrz\n");
+}
+
+void add_codes(CLI::App& command, codes_options& options) {
+    command.add_option("CODE", options.codes, "Numbers or names of codes; all by default")->option_text("...");
+    add_json(command, options.json);
+    command.footer(
+        "Examples:\n"
+        "  vyr codes\n"
+        "  vyr codes 36 ELMX_NO_FILE\n");
+}
+
+void add_diff(CLI::App& command, diff_options& options) {
+    add_file(command, "BEFORE", options.before, "A document, or - for standard input");
+    add_file(command, "AFTER", options.after, "Another");
+    add_color(command, options.color);
+    add_json(command, options.json);
+    command.add_flag("-q,--quiet", options.quiet, "Print nothing; the exit code tells");
+    command.footer(
+        "Each difference is a line: - removed, + added, ~ changed, > moved. Elements are matched by their\n"
+        "identities, names and contents. Layout and notation make no difference.\n\n"
+        "Examples:\n"
+        "  vyr diff inks-2023.vyr inks-2024.vyr\n"
+        "  vyr diff old.vyr new.vyrz | grep '^[-+] .*Color '\n"
+        "  vyr diff --quiet a.vyr b.vyr && echo the same\n");
+}
+
+/// Standard output that remembers why it failed, which a stream does not.
+class c_output : public std::streambuf {
+public:
+    c_output() { setp(m_buffer.data(), m_buffer.data() + m_buffer.size()); }
+    int error() const { return m_error; }
+
+protected:
+    int_type overflow(int_type c) override {
+        if (sync() != 0) return traits_type::eof();
+        if (!traits_type::eq_int_type(c, traits_type::eof())) sputc(traits_type::to_char_type(c));
+        return traits_type::not_eof(c);
     }
-    return result;
-}
+    int sync() override {
+        for (const char* next = pbase(); next < pptr() && m_error == 0;) {
+            const ssize_t count = write(STDOUT_FILENO, next, static_cast<std::size_t>(pptr() - next));
+            if (count >= 0) {
+                next += count;
+            } else if (errno != EINTR) {
+                m_error = errno;
+            }
+        }
+        setp(m_buffer.data(), m_buffer.data() + m_buffer.size());
+        return m_error == 0 ? 0 : -1;
+    }
 
-exit_code convert(arguments files) {
-    com_vyrgraph_v2::Vyr document;
-    const exit_code result = vyr_tool::read_document(files[0], document);
-    return result == vyr_tool::exit_ok ? vyr_tool::write_document(files[1], document) : result;
-}
-
-exit_code info(arguments files) {
-    com_vyrgraph_v2::Vyr document;
-    const exit_code result = vyr_tool::read_document(files[0], document);
-    if (result == vyr_tool::exit_ok) vyr_tool::print_info(document, std::cout);
-    return result;
-}
-
-struct subcommand {
-    std::string_view name;
-    std::string_view usage;
-    std::string_view summary;
-    std::size_t least;  ///< number of arguments
-    std::size_t most;
-    exit_code (*run)(arguments);
+private:
+    std::array<char, 65536> m_buffer{};
+    int m_error = 0;
 };
 
-constexpr std::size_t k_any_number = static_cast<std::size_t>(-1);
-
-constexpr subcommand k_subcommands[] = {
-    {"check", "FILE...", "read and validate; print file:line: item: text for each document that fails", 1,
-     k_any_number, check},
-    {"convert", "IN OUT", "read IN and write it as OUT, in the library's own layout", 2, 2, convert},
-    {"info", "FILE", "print what a document holds, and its palettes with their colours", 1, 1, info},
-};
-
-void print_usage(std::ostream& stream) {
-    stream << "usage: vyr <command> <arguments>\n\n";
-    for (const subcommand& row : k_subcommands) {
-        const std::string call = std::string(row.name) + " " + std::string(row.usage);
-        stream << "  " << call << std::string(call.size() < 16 ? 16 - call.size() : 1, ' ') << row.summary << '\n';
+void explain_usage(const CLI::App& app, const CLI::ParseError& error, const std::string& first) {
+    const std::vector<CLI::App*> chosen = app.get_subcommands();
+    if (first.empty()) {
+        std::cerr << app.help();
+    } else if (chosen.empty() && !first.starts_with('-')) {
+        std::cerr << "vyr: there is no command " << quoted(first) << "; 'vyr --help' lists them\n";
+    } else {
+        const std::string command = chosen.empty() ? "vyr" : "vyr " + chosen.front()->get_name();
+        std::cerr << command << ": " << printable(error.what()) << "; '" << command << " --help' says more\n";
     }
-    stream << "  --help          print this text\n"
-              "  --version       print the version\n\n"
-              "exit codes: 0 all is well; 1 a document fails; 2 wrong usage, or a file that can't be opened or "
-              "written\n";
+}
+
+exit_code run(int argc, char** argv) {
+    CLI::App app("Checks, describes, compares and converts colour-data documents (.vyr, .vyrz).", "vyr");
+    app.require_subcommand(1);
+    app.set_version_flag("--version", "vyr " VYR_TOOL_VERSION, "Print the version");
+    app.set_help_flag("-h,--help", "Print this text");
+    app.footer(std::string("'vyr COMMAND --help' says more of each command, with examples.\n\n") + k_exit_codes);
+
+    exit_code result = exit_ok;
+    const auto add = [&]<class Options>(const char* name, const char* text, exit_code (*call)(const Options&),
+                                        void (*declare)(CLI::App&, Options&)) {
+        const auto options = std::make_shared<Options>();
+        CLI::App& command = *app.add_subcommand(name, text);
+        declare(command, *options);
+        command.callback([&result, options, call] { result = call(*options); });
+    };
+    add("check", "Validate documents and say what is wrong with them, and where", &check, &add_check);
+    add("info", "Say what a document holds", &info, &add_info);
+    add("list", "List the colours of a document with their values", &list, &add_list);
+    add("convert", "Write a document as a plain one or as a container, in the library's layout", &convert,
+        &add_convert);
+    add("diff", "Say in what two documents differ", &diff, &add_diff);
+    add("codes", "List the result codes of the library", &codes, &add_codes);
+    try {
+        app.parse(argc, argv);
+    } catch (const CLI::ParseError& error) {
+        // Asking for help or for the version ends here as well.
+        if (error.get_exit_code() == 0) return app.exit(error), exit_ok;
+        explain_usage(app, error, argc > 1 ? argv[1] : "");
+        return exit_usage_or_file;
+    }
+    return result;
 }
 
 }  // namespace
 
 int main(int argc, char** argv) {
-    const arguments all(argv, static_cast<std::size_t>(argc));
-    const std::string_view name = all.size() > 1 ? all[1] : "";
-    if (name == "--help" || name == "-h") {
-        print_usage(std::cout);
-        return vyr_tool::exit_ok;
+    c_output output;
+    std::streambuf* const before = std::cout.rdbuf(&output);
+    exit_code result = exit_usage_or_file;
+    try {
+        result = run(argc, argv);
+    } catch (const std::bad_alloc&) {
+        std::cerr << "vyr: not enough memory\n";
     }
-    if (name == "--version") {
-        std::cout << "vyr " VYR_TOOL_VERSION "\n";
-        return vyr_tool::exit_ok;
-    }
-    const auto* found = std::ranges::find(k_subcommands, name, &subcommand::name);
-    if (found != std::end(k_subcommands)) {
-        const arguments rest = all.subspan(2);
-        if (rest.size() >= found->least && rest.size() <= found->most) return found->run(rest);
-    } else if (!name.empty()) {
-        std::cerr << "vyr: unknown command '" << name << "'\n";
-    }
-    print_usage(std::cerr);
-    return vyr_tool::exit_usage_or_file;
+    std::cout.flush();
+    std::cout.rdbuf(before);
+    // A reader that has gone away has read enough.
+    if (output.error() == 0 || output.error() == EPIPE) return result;
+    std::cerr << "vyr: standard output: " << std::strerror(output.error()) << '\n';
+    return exit_usage_or_file;
 }

@@ -1,0 +1,256 @@
+#!/usr/bin/env python3
+# Copyright 2026 The Vyr Authors
+# SPDX-License-Identifier: Apache-2.0
+"""The command line as a user meets it: output, exit code, and what stands in files afterwards.
+
+Usage: check_vyr.py VYR PALETTE      (the command, and a valid document in the library's own layout)
+"""
+
+import json
+import os
+import pathlib
+import pty
+import re
+import shutil
+import subprocess
+import sys
+import tempfile
+
+vyr, palette = (pathlib.Path(argument).resolve() for argument in sys.argv[1:3])
+failures = []
+
+
+def fail(text):
+    failures.append(text)
+
+
+def run(*arguments, stdin=b"", **more):
+    done = subprocess.run([vyr, *arguments], input=stdin, capture_output=True, timeout=120, **more)
+    return done.returncode, done.stdout.decode(errors="replace"), done.stderr.decode(errors="replace")
+
+
+def expect(code, out, err, *arguments, **more):
+    """`out` and `err` are patterns for all of either stream."""
+    got = run(*arguments, **more)
+    if got[0] != code or not re.fullmatch(out, got[1], re.S) or not re.fullmatch(err, got[2], re.S):
+        fail(f"vyr {arguments}\n  expected {code}: {out!r} and {err!r}\n  got {got[0]}: {got[1]!r} and {got[2]!r}")
+
+
+def on_terminal(*arguments, **environment):
+    """What a terminal gets, and the exit code."""
+    master, slave = pty.openpty()
+    child = subprocess.Popen([vyr, *arguments], stdin=slave, stdout=slave, stderr=slave,
+                             env={**os.environ, "TERM": "xterm", "NO_COLOR": "", **environment})
+    os.close(slave)
+    text = b""
+    try:
+        while piece := os.read(master, 65536):
+            text += piece
+    except OSError:
+        pass  # the other end is closed
+    os.close(master)
+    return text.decode(errors="replace"), child.wait(120)
+
+
+def make_documents():
+    text = palette.read_text()
+    line = text[: text.index("<Vyr:Red>")].count("\n") + 1
+    broken = re.sub(r"<Vyr:Red>[^<]*", "<Vyr:Red>1.5", text, count=1)
+    broken = re.sub(r"<Vyr:Green>[^<]*", "<Vyr:Green>x", broken, count=3)
+    colors = re.findall(r"\t*<Vyr:Color .*?</Vyr:Color>\n", text, re.S)
+    other = text.replace(colors[6], "").replace(colors[7], "").replace("</Vyr:ColorSet>", colors[7] + "</Vyr:ColorSet>")
+    other = other.replace(">0.94117647058824<", ">0.5<", 1).replace('Name="beige"', 'Name="sand"')
+    other = other.replace('<Vyr:Color ColorName="azure"', '<Vyr:Color UniqueID="7" ColorName="azure"')
+    other = other.replace(colors[20], colors[20] + colors[9].replace('Name="blue"', 'Name="new"').replace(">1<", ">.9<"))
+    other = other.replace("<Vyr:Palette ", '<Vyr:Palette Comments="new" ')
+    for name, content in {
+        "good.vyr": text,
+        "broken.vyr": broken,
+        "other.vyr": other,
+        "layout.vyr": text.replace("\t", " ").replace("<Vyr:Blue>1<", "<Vyr:Blue> 1.00 <"),
+        "hostile.vyr": text.replace("aliceblue", "\u202e\u009b31m&#9;&lt;b>", 1),
+        "empty.vyr": "",
+    }.items():
+        pathlib.Path(name).write_text(content)
+    pathlib.Path("junk.vyrz").write_bytes(bytes(range(256)) * 9)
+    return line
+
+
+def check_check(line):
+    place = f'broken.vyr:{line}: Palette "CSS" / ColorSet "Named" / Color "aliceblue" / ColorSpaceSRGB / Red: '
+    faults = re.escape(place) + "Value greater than specified maximum.*1\\.5.*\n(broken[^\n]*x[^\n]*\n){3}"
+    expect(0, "", "", "check", "good.vyr")
+    expect(1, faults, "", "check", "good.vyr", "broken.vyr", "-j", "4", "good.vyr")
+    expect(1, "[^\n]*1\\.5[^\n]*\nbroken.vyr: 3 more; [^\n]*\n", "", "check", "--limit=1", "broken.vyr")
+    expect(1, "", "", "check", "-q", "broken.vyr")
+    expect(1, "empty.vyr:1: [^\n]*\njunk.vyrz: [^\n]*not a ZIP archive\n", "", "check", "empty.vyr", "junk.vyrz")
+    expect(2, "broken.*", "vyr: absent: No such file or directory\nvyr: none: has no file that ends in .*",
+           "check", "broken.vyr", "absent", "none", "good.vyr")
+    expect(0, "", "", "check", "-", stdin=palette.read_bytes())
+    expect(1, "standard input:1: .*", "", "check", "-")
+
+    os.makedirs("tree/deep/b.vyr")
+    os.symlink("..", "tree/deep/circle")
+    os.mkfifo("tree/pipe.vyr")
+    shutil.copy("broken.vyr", "tree/deep/b.vyr/z.vyr")
+    for name in (b"a.vyr", b"caf\xe9.vyr", b"\xe9.vyrz", "größe.vyrz".encode(), b"\x1b[31m\n.vyr", b"--json"):
+        target = b"tree/" + name
+        expect(0, "", "", "convert", "--to", "vyrz" if name.endswith(b"z") else "vyr", "--", "good.vyr", target)
+    expect(1, "tree/deep/b.vyr/z.vyr:.*", "", "check", "-j0", "tree")
+    expect(2, "", r"vyr: x\\xE9\\u\{1B\}\[31m: No such .*", "check", b"x\xe9\x1b[31m")
+    code, out, _ = run("check", "--json", "-j3", b"x\xe9\x1b", "tree", "broken.vyr", "empty.vyr")
+    answer = json.loads(out)
+    got = (code, answer["valid"], answer["invalid"], answer["unreadable"], answer["files"][0]["status"],
+           [fault["value"] for fault in answer["files"][-2]["faults"]], answer["files"][-2]["faults"][0]["line"])
+    if got != (2, 5, 3, 1, "unreadable", ["1.5", "x", "x", "x"], line):
+        fail(f"check --json: {got}")
+    # Not even the superuser's tests may read everything.
+    os.chmod("tree/a.vyr", 0)
+    demote = {"user": 65534} if os.getuid() == 0 else {}
+    expect(2, "", "vyr: tree/a.vyr: Permission denied\n", "check", "tree/a.vyr", **demote)
+    os.remove("tree/pipe.vyr")
+
+
+def check_convert():
+    good = palette.read_bytes()
+
+    def holds(name, content):
+        if pathlib.Path(name).read_bytes() != content:
+            fail(f"{name} holds something else")
+
+    os.umask(0o027)
+    pathlib.Path("a.vyr").write_text("in the way")
+    expect(0, "", "", "convert", "good.vyr", "a.vyrz")
+    holds("a.vyr", b"in the way")
+    expect(0, "", "", "convert", "a.vyrz", "b.vyr")
+    holds("b.vyr", good)
+    os.chmod("b.vyr", 0o604)
+    os.symlink("b.vyr", "link.vyr")
+    os.symlink("c.vyr", "dangling.vyr")
+    for target in ("link.vyr", "b.vyr", "dangling.vyr"):
+        expect(0, "", "", "convert", "layout.vyr" if target == "link.vyr" else "b.vyr", target)
+    holds("b.vyr", good)
+    holds("c.vyr", good)
+    modes = [oct(os.stat(name).st_mode & 0o777) for name in ("b.vyr", "c.vyr", "a.vyrz")]
+    if modes != ["0o604", "0o640", "0o640"] or not os.path.islink("link.vyr"):
+        fail(f"permissions {modes}")
+    packed = subprocess.run([vyr, "convert", "--to=vyrz", "-", "-"], input=good, capture_output=True).stdout
+    plain = subprocess.run([vyr, "convert", "-", "-"], input=packed, capture_output=True).stdout
+    if not packed.startswith(b"PK") or plain != good:
+        fail("convert between pipes")
+    for arguments, code, text in (
+        (("good.vyr", "no/such/folder.vyr"), 2, "vyr: no/such/folder.vyr: No such file or directory"),
+        (("good.vyr", "none"), 2, "vyr: none: the name .*"),
+        (("--to", "vyr", "good.vyr", "none"), 2, "vyr: none: is a directory"),
+        (("good.vyr", "--to=vyr", "/dev/full"), 2, "vyr: /dev/full: No space left on device"),
+        (("absent.vyr", "b.vyr"), 2, "vyr: absent.vyr: No such .*"),
+        (("broken.vyr", "b.vyr"), 1, "broken.vyr:.*"),
+    ):
+        expect(code, "", text + "\n", "convert", *arguments)
+    holds("b.vyr", good)
+    left = [name for name in os.listdir(".") if name.startswith(".vyr-")]
+    if left or os.path.exists("never.vyr"):
+        fail(f"a conversion left {left}")
+
+
+def check_info_and_list():
+    expect(0, "good.vyr: 138874 bytes, .* 148 colours\n.* 148  SRGB\n.*Palette \"CSS\": 1 colour set\n"
+              ".*148  in ColorSet \"Named\"\n.* 148        Color\n.*", "", "info", "good.vyr")
+    answer = json.loads(run("info", "--json", "--depth=1", "good.vyr")[1])
+    if (answer["colors"], answer["spaces"], answer["palettes"][0]["sets"], len(answer["tree"]["parts"])) != (
+            148, {"SRGB": 148}, [{"name": "Named", "colors": 148}], 2):
+        fail(f"info --json: {answer}")
+    expect(0, "Palette \"CSS\" / ColorSet \"Named\"\n +SRGB Red +Green +Blue\n  navy +0 +0 +0\\.501961\n", "",
+           "list", "--name=navy", "--set", "N*", "--palette", "?SS", "good.vyr")
+    expect(0, "", ".*no such colour\n", "list", "--name=nav", "good.vyr")
+    # A name can't steer the terminal, in either form.
+    expect(0, r".*\\u\{202E\}\\u\{9B\}31m\\u\{9\}<b>.*", "", "list", "hostile.vyr")
+    code, out, _ = run("list", "--json", "hostile.vyr")
+    colors = json.loads(out)
+    if "\u202e" in out or colors[0]["name"] != "\u202e\u009b31m\t<b>" or len(colors) != 148 or \
+            colors[1]["values"][0] != {"space": "SRGB", "Red": 0.98039215686275, "Green": 0.92156862745098,
+                                       "Blue": 0.84313725490196}:
+        fail(f"list --json: {colors[:2]}")
+    expect(1, "", "broken.vyr:.*", "list", "broken.vyr")
+    expect(2, "", "vyr: absent: .*", "info", "absent")
+
+
+def check_diff():
+    here = 'Palette "CSS" / ColorSet "Named" / Color '
+    lines = ['+ Palette "CSS" / @Comments: "new"',
+             f'~ {here}"aliceblue" / ColorSpaceSRGB / Red: "0.94117647058824" -> "0.5"',
+             f'+ {here}"azure" / @UniqueID: "7"',
+             f'~ {here}"beige" / @ColorName: "beige" -> "sand"',
+             f'- {here}"bisque" (15 elements in it)',
+             f'+ {here}"new" (15 elements in it)',
+             f'> {here}"black": from place 8 to 148']
+    expect(1, re.escape("\n".join(lines) + "\n"), "", "diff", "good.vyr", "other.vyr")
+    answer = json.loads(run("diff", "--json", "good.vyr", "other.vyr")[1])
+    kinds = [row["change"] for row in answer]
+    if kinds != ["added", "changed", "added", "changed", "removed", "added", "moved"] or answer[1]["after"] != "0.5":
+        fail(f"diff --json: {answer}")
+    expect(0, "", "", "diff", "good.vyr", "layout.vyr")
+    expect(0, r"\[\n\]\n", "", "diff", "--json", "-", "good.vyr", stdin=palette.read_bytes())
+    expect(1, "", "", "diff", "-q", "good.vyr", "other.vyr")
+    expect(2, "", "broken.vyr:.*", "diff", "good.vyr", "broken.vyr")
+
+
+def check_usage():
+    expect(0, ".*check.*Exit codes:.*", "", "--help")
+    expect(0, r"vyr \d+\.\d+\.\d+\n", "", "--version")
+    expect(2, "", ".*Usage: vyr .*")
+    expect(2, "", "vyr: there is no command \"delete\"; .*", "delete", "good.vyr")
+    expect(2, "", "vyr convert: OUT is required; .*", "convert", "one")
+    expect(2, "", "vyr info: .*two.*", "info", "one", "two")
+    expect(2, "", "vyr list: .*--color.*", "list", "--color=blue", "good.vyr")
+    expect(0, " +36  ELMX_VALUE_EXCEEDS_MAX +Value greater than .*", "", "codes", "36")
+    expect(2, "", ".*no result code \"99\".*", "codes", "36", "99")
+
+
+def check_streams():
+    # Whoever stops reading is no fault, a full disk is one.
+    reader, writer = os.pipe()
+    os.close(reader)
+    for restore in (True, False):
+        done = subprocess.run([vyr, "list", "good.vyr"], stdout=writer, stderr=subprocess.PIPE, restore_signals=restore)
+        if done.stderr or done.returncode not in (0, -13):
+            fail(f"a closed pipe: {done}")
+    with open("/dev/full", "wb") as full:
+        done = subprocess.run([vyr, "list", "good.vyr"], stdout=full, stderr=subprocess.PIPE)
+        if done.returncode != 2 or b"No space left" not in done.stderr:
+            fail(f"a full disk: {done}")
+
+    navy = "\x1b[48;2;0;0;128m  \x1b[0m navy"
+    for announced, has_swatch in (("truecolor", True), ("", False)):
+        text, code = on_terminal("list", "--name=navy", "good.vyr", COLORTERM=announced)
+        if code != 0 or (navy in text) != has_swatch or "\x1b" in text and not has_swatch:
+            fail(f"list on a terminal ({announced}): {text!r}")
+    for arguments, environment, has_color in ((["--color=never"], {}, False), ([], {"NO_COLOR": "1"}, False), ([], {}, True)):
+        text, code = on_terminal("diff", *arguments, "good.vyr", "other.vyr", **environment)
+        if code != 1 or ("\x1b[32m+ " in text) != has_color:
+            fail(f"diff on a terminal ({arguments}, {environment}): {text!r}")
+    text, code = on_terminal("check", "good.vyr", "good.vyr")
+    if (text, code) != ("2 valid documents\r\n", 0):
+        fail(f"check on a terminal: {text!r}")
+    os.mkfifo("slow.vyr")
+    feeder = subprocess.Popen(["sh", "-c", "sleep 1.6; cat good.vyr > slow.vyr"])
+    text, code = on_terminal("check", "good.vyr", "slow.vyr")
+    feeder.wait()
+    if code != 0 or "\r2 of 2: checking slow.vyr" not in text or not text.endswith("\r\x1b[K2 valid documents\r\n"):
+        fail(f"check of a slow pipe on a terminal: {text!r}")
+
+
+with tempfile.TemporaryDirectory() as work:
+    os.chmod(work, 0o755)
+    os.chdir(work)
+    os.mkdir("none")
+    first_line = make_documents()
+    check_usage()
+    check_check(first_line)
+    check_convert()
+    check_info_and_list()
+    check_diff()
+    check_streams()
+    os.chdir("/")
+print("\n".join(failures) or "the command behaves")
+sys.exit(bool(failures))

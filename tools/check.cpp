@@ -1,0 +1,232 @@
+// Copyright 2026 The Vyr Authors
+// SPDX-License-Identifier: Apache-2.0
+
+/// `vyr check`: validates files and all documents in folders, several at once, and reports in the order of the
+/// command line.
+
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <algorithm>
+#include <atomic>
+#include <chrono>
+#include <condition_variable>
+#include <filesystem>
+#include <iostream>
+#include <mutex>
+#include <optional>
+#include <system_error>
+#include <thread>
+
+#include "tools/commands.h"
+#include "tools/files.h"
+#include "tools/json.h"
+#include "tools/text.h"
+
+namespace vyr_tool {
+
+namespace {
+
+namespace fs = std::filesystem;
+using com_vyrgraph_v2::DocumentFault;
+using com_vyrgraph_v2::DocumentReport;
+
+/// A file to check, or a place where none could be looked for.
+struct s_job {
+    std::string file;
+    std::string refusal;
+};
+
+bool is_document_name(const std::string& file) { return file.ends_with(".vyr") || is_container_name(file); }
+
+/// All documents below a folder, by name. Links to folders are not followed, so there are no circles.
+void find_documents(const std::string& folder, std::vector<s_job>& jobs) {
+    const std::size_t before = jobs.size();
+    std::vector<std::string> pending = {folder};
+    while (!pending.empty()) {
+        const std::string current = std::move(pending.back());
+        pending.pop_back();
+        std::error_code refused;
+        std::vector<std::string> files;
+        std::vector<std::string> folders;
+        fs::directory_iterator entry(current, refused);
+        while (!refused && entry != fs::directory_iterator()) {
+            std::error_code none;
+            const std::string name = entry->path().string();
+            if (entry->is_directory(none) && !entry->is_symlink(none)) {
+                folders.push_back(name);
+            } else if (is_document_name(name) && (entry->is_regular_file(none) || !entry->exists(none))) {
+                files.push_back(name);
+            }
+            entry.increment(refused);
+        }
+        if (refused) jobs.push_back({current, refused.message()});
+        std::ranges::sort(files);
+        for (std::string& file : files) jobs.push_back({std::move(file), {}});
+        std::ranges::sort(folders, std::greater());
+        std::ranges::move(folders, std::back_inserter(pending));
+    }
+    if (jobs.size() == before) jobs.push_back({folder, "has no file that ends in .vyr or .vyrz"});
+}
+
+std::vector<s_job> find_jobs(const std::vector<std::string>& files) {
+    std::vector<s_job> jobs;
+    for (const std::string& file : files) {
+        std::error_code none;
+        if (file != k_standard_stream && fs::is_directory(file, none)) {
+            find_documents(file, jobs);
+        } else {
+            jobs.push_back({file, {}});
+        }
+    }
+    return jobs;
+}
+
+s_reading run(const s_job& job, const check_options& options) {
+    if (!job.refusal.empty()) return {.refusal = job.refusal, .report = {}};
+    com_vyrgraph_v2::ReportOptions how;
+    how.collect = true;
+    how.limit = options.limit;
+    com_vyrgraph_v2::Vyr document;
+    return read_document(job.file, document, how);
+}
+
+/// One line on the terminal's last row that says how far the work is; none for work that is done soon.
+class c_progress {
+public:
+    using clock = std::chrono::steady_clock;
+
+    c_progress(std::size_t count, bool is_wanted) : m_count(count), m_is_wanted(is_wanted) {}
+    void show(std::size_t done, const std::string& file) {
+        if (!m_is_wanted || clock::now() - m_start < std::chrono::seconds(1)) return;
+        std::string text = "checking " + shown_name(file);
+        if (m_count > 1) text = std::to_string(done + 1) + " of " + std::to_string(m_count) + ": " + text;
+        constexpr std::size_t k_widest = 76;
+        while (width(text) > k_widest) text.pop_back();
+        std::cerr << '\r' << printable(text) << "\x1B[K" << std::flush;
+        m_is_shown = true;
+    }
+    void clear() {
+        if (m_is_shown) std::cerr << "\r\x1B[K" << std::flush;
+        m_is_shown = false;
+    }
+
+private:
+    std::size_t m_count;
+    bool m_is_wanted;
+    bool m_is_shown = false;
+    clock::time_point m_start = clock::now();
+};
+
+/// Runs all jobs on several threads and hands the results over on the calling one, in the order of the jobs.
+template <class Take>
+void run_all(const std::vector<s_job>& jobs, const check_options& options, Take take) {
+    std::vector<std::optional<s_reading>> results(jobs.size());
+    std::mutex mutex;
+    std::condition_variable changed;
+    std::atomic<std::size_t> next = 0;
+    std::size_t wanted = options.jobs != 0 ? options.jobs : std::max(1U, std::thread::hardware_concurrency());
+    std::vector<std::jthread> workers;
+    for (wanted = std::min(wanted, jobs.size()); workers.size() < wanted;) {
+        workers.emplace_back([&] {
+            for (std::size_t i = next++; i < jobs.size(); i = next++) {
+                s_reading reading = run(jobs[i], options);
+                const std::scoped_lock lock(mutex);
+                results[i] = std::move(reading);
+                changed.notify_one();
+            }
+        });
+    }
+    c_progress progress(jobs.size(), isatty(STDERR_FILENO) != 0 && !options.quiet);
+    for (std::size_t i = 0; i < jobs.size(); ++i) {
+        std::unique_lock lock(mutex);
+        const auto is_there = [&] { return results[i].has_value(); };
+        while (!changed.wait_for(lock, std::chrono::milliseconds(200), is_there)) progress.show(i, jobs[i].file);
+        const s_reading reading = std::move(*std::exchange(results[i], std::nullopt));
+        lock.unlock();
+        progress.clear();
+        take(jobs[i].file, reading);
+    }
+}
+
+struct s_counts {
+    std::size_t valid = 0;
+    std::size_t invalid = 0;
+    std::size_t unreadable = 0;
+
+    exit_code result() const {
+        return unreadable != 0 ? exit_usage_or_file : invalid != 0 ? exit_document_fails : exit_ok;
+    }
+};
+
+void print_text(const std::string& file, const s_reading& reading) {
+    const DocumentReport& report = reading.report;
+    if (!reading.refusal.empty()) return complain(file, reading.refusal);
+    for (std::size_t i = 0; i < report.getFaultCount(); ++i) {
+        const DocumentFault& fault = report.getFault(i);
+        const bool is_end = i + 1 == report.getTotalCount() && fault.line != 0 && !report.isReadToEnd();
+        std::cout << fault_text(file, fault) << (is_end ? " [the check ends here]\n" : "\n");
+    }
+    if (!report.hasMore()) return;
+    std::cout << shown_name(file) << ": " << report.getTotalCount() - report.getFaultCount()
+              << " more; --limit shows them\n";
+}
+
+json to_json(const DocumentFault& fault) {
+    json object = {{"code", fault.code}, {"text", fault.text}};
+    if (fault.line > 0) object["line"] = fault.line;
+    const std::pair<const char*, const std::string*> texts[] = {
+        {"detail", &fault.detail}, {"item", &fault.item}, {"path", &fault.path}, {"value", &fault.value}};
+    for (const auto& [name, text] : texts) {
+        if (!text->empty()) object[name] = *text;
+    }
+    return object;
+}
+
+json to_json(const std::string& file, const s_reading& reading) {
+    json object = {{"file", file}, {"status", reading.is_ok() ? "valid" : "invalid"}};
+    if (!reading.refusal.empty()) {
+        object["status"] = "unreadable";
+        object["reason"] = reading.refusal;
+    } else if (!reading.is_ok()) {
+        json faults = json::array();
+        for (const DocumentFault& fault : reading.report.getFaults()) faults.push_back(to_json(fault));
+        object["faults"] = std::move(faults);
+        object["total"] = reading.report.getTotalCount();
+        object["complete"] = reading.report.isReadToEnd();
+    }
+    return object;
+}
+
+void print_summary(const s_counts& counts) {
+    std::cerr << counted(counts.valid, "valid document", "valid documents");
+    if (counts.invalid != 0) std::cerr << ", " << counts.invalid << " not valid";
+    if (counts.unreadable != 0) std::cerr << ", " << counts.unreadable << " not readable";
+    std::cerr << '\n';
+}
+
+}  // namespace
+
+exit_code check(const check_options& options) {
+    s_counts counts;
+    if (options.json) std::cout << "{\"files\": [";
+    const char* separator = "\n";
+    run_all(find_jobs(options.files), options, [&](const std::string& file, const s_reading& reading) {
+        ++(!reading.refusal.empty() ? counts.unreadable : reading.is_ok() ? counts.valid : counts.invalid);
+        if (options.json) {
+            std::cout << std::exchange(separator, ",\n") << to_text(to_json(file, reading));
+        } else if (!options.quiet) {
+            print_text(file, reading);
+        }
+        std::cout.flush();
+    });
+    if (options.json) {
+        std::cout << "\n],\n\"valid\": " << counts.valid << ", \"invalid\": " << counts.invalid
+                  << ", \"unreadable\": " << counts.unreadable << "}\n";
+    } else if (!options.quiet && isatty(STDOUT_FILENO) != 0) {
+        print_summary(counts);
+    }
+    return counts.result();
+}
+
+}  // namespace vyr_tool

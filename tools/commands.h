@@ -1,0 +1,75 @@
+// Copyright 2026 The Vyr Authors
+// SPDX-License-Identifier: Apache-2.0
+
+/// The subcommands, each with what its command line can ask for. Each prints its result on standard output, says on
+/// standard error what stood in its way, and lives in the source of its name.
+
+#pragma once
+
+#include <cstddef>
+#include <string>
+#include <vector>
+
+namespace vyr_tool {
+
+/// The command's exit codes; of several documents the highest counts.
+enum exit_code : int {
+    exit_ok = 0,
+    exit_document_fails = 1,  ///< of `diff`: the documents differ
+    exit_usage_or_file = 2,   ///< of `diff`: also a document that fails
+};
+
+/// Whether to send colours to the terminal: "auto", "always" or "never".
+using color_mode = std::string;
+
+struct check_options {
+    std::vector<std::string> files;
+    std::size_t jobs = 1;  ///< 0: one per processor
+    std::size_t limit = 100;
+    bool json = false;
+    bool quiet = false;
+};
+
+struct info_options {
+    std::string file;
+    std::size_t depth = 4;
+    bool json = false;
+};
+
+/// Patterns as the shell's, matched with the whole name; empty ones match everything.
+struct list_options {
+    std::string file;
+    std::string palette;
+    std::string set;
+    std::string name;
+    color_mode color = "auto";
+    bool json = false;
+};
+
+struct convert_options {
+    std::string in;
+    std::string out;
+    std::string format;  ///< "vyr" or "vyrz"; empty: what the name of the output says
+};
+
+struct codes_options {
+    std::vector<std::string> codes;  ///< numbers or names; none: all
+    bool json = false;
+};
+
+struct diff_options {
+    std::string before;
+    std::string after;
+    color_mode color = "auto";
+    bool json = false;
+    bool quiet = false;
+};
+
+exit_code check(const check_options& options);
+exit_code info(const info_options& options);
+exit_code list(const list_options& options);
+exit_code convert(const convert_options& options);
+exit_code codes(const codes_options& options);
+exit_code diff(const diff_options& options);
+
+}  // namespace vyr_tool

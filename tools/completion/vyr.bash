@@ -1,0 +1,52 @@
+# Copyright 2026 The Vyr Authors
+# SPDX-License-Identifier: Apache-2.0
+# Completion of the command vyr for bash.
+
+_vyr() {
+    local -A options=(
+        [vyr]="--version --help -h"
+        [check]="--jobs -j --limit --json --quiet -q --help -h"
+        [info]="--depth --json --help -h"
+        [list]="--palette --set --name --color --json --help -h"
+        [convert]="--to --help -h"
+        [diff]="--color --json --quiet -q --help -h"
+        [codes]="--json --help -h"
+    )
+    local commands="check info list convert diff codes"
+    local word=${COMP_WORDS[COMP_CWORD]} before=${COMP_WORDS[COMP_CWORD - 1]} command=vyr i
+    for ((i = 1; i < COMP_CWORD; ++i)); do
+        if [[ " $commands " == *" ${COMP_WORDS[i]} "* ]]; then
+            command=${COMP_WORDS[i]}
+            break
+        fi
+    done
+    # `--color=always` arrives as three words.
+    if [[ $word == "=" ]]; then
+        word=
+    elif [[ $before == "=" ]]; then
+        before=${COMP_WORDS[COMP_CWORD - 2]}
+    fi
+    local words=
+    case $before in
+        --color) words="auto always never" ;;
+        --to) words="vyr vyrz" ;;
+        --jobs | -j | --limit | --depth | --palette | --set | --name) return ;;
+        *)
+            if [[ $word == -* ]]; then
+                words=${options[$command]}
+            elif [[ $command == vyr ]]; then
+                words=$commands
+            elif [[ $command != codes ]]; then
+                compopt -o filenames 2> /dev/null
+                mapfile -t COMPREPLY < <(
+                    compgen -d -- "$word"
+                    compgen -f -X '!*.vyr' -- "$word"
+                    compgen -f -X '!*.vyrz' -- "$word"
+                )
+                return
+            fi
+            ;;
+    esac
+    mapfile -t COMPREPLY < <(compgen -W "$words" -- "$word")
+}
+complete -F _vyr vyr

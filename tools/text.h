@@ -1,0 +1,39 @@
+// Copyright 2026 The Vyr Authors
+// SPDX-License-Identifier: Apache-2.0
+
+/// Text on its way to a person: what a stranger's file or name may not do to a terminal, and how wide it is there.
+
+#pragma once
+
+#include <cstddef>
+#include <string>
+#include <string_view>
+
+#include "tools/commands.h"
+
+namespace vyr_tool {
+
+/// The text with everything that could steer a terminal or turn the writing direction as `\u{9B}`, and each byte that
+/// is no UTF-8 as `\xFF`.
+std::string printable(std::string_view text);
+
+/// JSON text with the same characters as `\u009b`. They stand in its strings only.
+std::string printable_json(std::string_view json);
+
+/// The text in double quotes, printable.
+std::string quoted(std::string_view text);
+
+/// The columns that printable text takes.
+std::size_t width(std::string_view text);
+
+/// "1 colour", "2 colours"
+std::string counted(std::size_t count, std::string_view one, std::string_view many);
+
+/// Whether to send colours to standard output: asked for, or left open and it is a terminal that can, and nobody set
+/// NO_COLOR.
+bool use_color(const color_mode& mode);
+
+/// The same for colours of 24 bits, which a terminal announces.
+bool use_true_color(const color_mode& mode);
+
+}  // namespace vyr_tool
