@@ -3,6 +3,8 @@
 
 /// `vyr convert`: a document in the library's own layout, plain or in a container.
 
+#include <unistd.h>
+
 #include <filesystem>
 #include <optional>
 
@@ -31,6 +33,9 @@ exit_code refuse(const std::string& file, const std::string& text, exit_code res
 exit_code convert(const convert_options& options) {
     const std::optional<std::string> format = format_of(options);
     if (!format) return refuse(options.out, "the name of a document ends in .vyr or .vyrz; for others say --to");
+    if (*format == "vyrz" && options.out == k_standard_stream && isatty(STDOUT_FILENO) != 0) {
+        return refuse(options.out, "a container is no text for a terminal");
+    }
     com_vyrgraph_v2::Vyr document;
     const exit_code result = read_or_explain(options.in, document);
     if (result != exit_ok) return result;

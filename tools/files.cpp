@@ -294,6 +294,8 @@ exit_code read_tree(const std::string& file, c_tree& tree, std::size_t* size) {
             complain(file, writer.get_error_message(&message));
             return exit_document_fails;
         }
+        // A stream keeps quiet about memory that ran out.
+        if (!stream.good()) throw std::bad_alloc();
         xml = std::move(stream).str();
     }
     const lmx::elmx_error code = tree.read(xml);

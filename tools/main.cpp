@@ -9,6 +9,7 @@
 #include <array>
 #include <cerrno>
 #include <cstring>
+#include <exception>
 #include <iostream>
 #include <memory>
 #include <new>
@@ -45,7 +46,9 @@ void add_check(CLI::App& command, check_options& options) {
         .add_option("FILE", options.files, "Documents, folders that are searched for them, or - for standard input")
         ->required()
         ->option_text("...");
-    command.add_option("-j,--jobs", options.jobs, "Check N files at a time; 0: one per processor")->option_text("N");
+    command.add_option("-j,--jobs", options.jobs, "Check N files at a time; 0: one per processor")
+        ->check(CLI::Range(0, 256))
+        ->option_text("N");
     command.add_option("--limit", options.limit, "Report at most N faults of a file (100)")->option_text("N");
     add_json(command, options.json);
     command.add_flag("-q,--quiet", options.quiet, "Print nothing; the exit code tells");
@@ -216,6 +219,8 @@ int main(int argc, char** argv) {
         result = run(argc, argv);
     } catch (const std::bad_alloc&) {
         std::cerr << "vyr: not enough memory\n";
+    } catch (const std::exception& error) {
+        std::cerr << "vyr: " << error.what() << '\n';
     }
     std::cout.flush();
     std::cout.rdbuf(before);

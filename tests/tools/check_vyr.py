@@ -232,6 +232,9 @@ def check_streams():
     text, code = on_terminal("check", "good.vyr", "good.vyr")
     if (text, code) != ("2 valid documents\r\n", 0):
         fail(f"check on a terminal: {text!r}")
+    text, code = on_terminal("convert", "--to=vyrz", "good.vyr", "-")
+    if (text, code) != ("vyr: standard output: a container is no text for a terminal\r\n", 2):
+        fail(f"a container on a terminal: {text!r}")
     os.mkfifo("slow.vyr")
     feeder = subprocess.Popen(["sh", "-c", "sleep 1.6; cat good.vyr > slow.vyr"])
     text, code = on_terminal("check", "good.vyr", "slow.vyr")
