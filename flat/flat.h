@@ -6,8 +6,10 @@
 ///
 /// 1. Names. CSharp_<class>_<member>; CSharp_new_<class>, CSharp_delete_<class>, CSharp_<class>Upcast to the base
 ///    class. Overloads end in __SWIG_<n>, n being the member's place among those of its name in the class.
+///    VyrModule_<what> stands for what no class has: strings, loads and saves with a report (flat/report.cpp).
 /// 2. Ownership. The caller owns what new_, clone, factory and writeString return, and releases it with the delete_
-///    of its class. Every other object is part of the one that it came from and lives as long as that keeps it.
+///    of its class, and reports, for which there is VyrModule_DeleteReport. Every other object is part of the one
+///    that it came from and lives as long as that keeps it.
 /// 3. Null. `self` isn't checked. A null object or narrow text is reported to the argument-null callback, with
 ///    "<type> is null" or "null string" and a null parameter name; the function then does nothing and returns 0.
 ///    Null wide text is empty text; file names, buffers and identities pass as they are; delete_ ignores null.

@@ -1,7 +1,8 @@
 // Copyright 2026 The Vyr Authors
 // SPDX-License-Identifier: Apache-2.0
 //
-// Loads a palette, walks it, changes a colour, saves it as a container and loads that again.
+// Loads a palette, walks it, changes a colour, saves it as a container and loads that again. Of a document that can't be
+// loaded it says what is wrong and where.
 //
 //     mcs Palette.cs && LD_LIBRARY_PATH=<folder of libVyrModule.so> mono Palette.exe <palette.vyr> <new.vyrz>
 
@@ -38,6 +39,20 @@ static class Native
     [return: MarshalAs(Bstr)]
     [DllImport(Module)] public static extern string CSharp_XMLDocumentResult_getXmlDocument(IntPtr self);
     [DllImport(Module)] public static extern IntPtr CSharp_get_error_description(int code);
+
+    [DllImport(Module)] public static extern IntPtr VyrModule_LoadFile(
+        IntPtr self, [MarshalAs(Wide)] string path, int collect, uint limit);
+    [DllImport(Module)] public static extern void VyrModule_DeleteReport(IntPtr report);
+    [DllImport(Module)] public static extern int VyrModule_ReportCode(IntPtr report);
+    [DllImport(Module)] public static extern uint VyrModule_ReportFaultCount(IntPtr report);
+    [DllImport(Module)] public static extern uint VyrModule_ReportTotalCount(IntPtr report);
+    [DllImport(Module)] public static extern int VyrModule_FaultLine(IntPtr report, uint index);
+    [return: MarshalAs(Bstr)]
+    [DllImport(Module)] public static extern string VyrModule_FaultPath(IntPtr report, uint index);
+    [return: MarshalAs(Bstr)]
+    [DllImport(Module)] public static extern string VyrModule_FaultText(IntPtr report, uint index);
+    [return: MarshalAs(Bstr)]
+    [DllImport(Module)] public static extern string VyrModule_FaultDetail(IntPtr report, uint index);
 
     [DllImport(Module)] public static extern uint CSharp_Vyr_size_Palette(IntPtr self);
     [DllImport(Module)] public static extern IntPtr CSharp_Vyr_get_Palette__SWIG_0(IntPtr self, uint index);
@@ -104,6 +119,21 @@ static class Program
         throw new Exception(what + " failed with " + code + ": " + text);
     }
 
+    /// Loads with a report that gathers up to twenty faults, and prints them.
+    static bool Load(IntPtr document, string path)
+    {
+        IntPtr report = Native.VyrModule_LoadFile(document, path, 1, 20);
+        if (report == IntPtr.Zero) throw new OutOfMemoryException();
+        bool isOk = Native.VyrModule_ReportCode(report) == 0;
+        for (uint i = 0; i < Native.VyrModule_ReportFaultCount(report); ++i)
+            Console.WriteLine("line {0}: {1}\n    {2}: {3}", Native.VyrModule_FaultLine(report, i),
+                              Native.VyrModule_FaultPath(report, i), Native.VyrModule_FaultText(report, i),
+                              Native.VyrModule_FaultDetail(report, i));
+        if (!isOk) Console.WriteLine("{0} fault(s) in all", Native.VyrModule_ReportTotalCount(report));
+        Native.VyrModule_DeleteReport(report);
+        return isOk;
+    }
+
     static IntPtr FirstColor(IntPtr document)
     {
         IntPtr palette = Native.CSharp_Vyr_get_Palette__SWIG_0(document, 0);
@@ -140,7 +170,7 @@ static class Program
         Pending.Register();
 
         IntPtr document = Native.CSharp_new_Vyr__SWIG_0();
-        Demand(Native.CSharp_Vyr_loadFile(document, arguments[0]), "loading");
+        if (!Load(document, arguments[0])) return 1;
         Walk(document);
 
         // Objects that a getter returned are part of the document and aren't deleted.

@@ -34,6 +34,17 @@ first: bleu pâle 🎨, red 0.25
 SAID
 [[ $(head -c 2 changed.vyrz) == PK ]]
 
+# Two wrong values: both are reported, and the program ends with 1.
+sed '0,/Red>[0-9.]*/s//Red>1.5/; 0,/Green>[0-9.]*/s//Green>none/' "$source/examples/css-colors.vyr" > bad.vyr
+if run Palette.exe bad.vyr never.vyrz > said; then exit 1; fi
+diff said - << 'SAID'
+line 39: Palette "CSS" / ColorSet "Named" / Color "aliceblue" / ColorSpaceSRGB / Red
+    Value greater than specified maximum: it must be at most 1
+line 40: Palette "CSS" / ColorSet "Named" / Color "aliceblue" / ColorSpaceSRGB / Green
+    Invalid value format for this type: a number is expected
+2 fault(s) in all
+SAID
+
 "$python" "$source/tests/flat/every_function.py" > Every.cs
 mcs -nowarn:219,649 -out:Every.exe Every.cs
 run Every.exe

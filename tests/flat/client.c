@@ -77,6 +77,24 @@ extern void CSharp_delete_DevicePolarization(void* self);
 extern int32_t CSharp_DevicePolarization_set_DevicePolarization(void* self, uint32_t value);
 extern int32_t CSharp_DevicePolarization_get_DevicePolarization(void* self);
 
+extern void* VyrModule_LoadFile(void* self, const char16_t* path, uint32_t collect, uint32_t limit);
+extern void* VyrModule_LoadString(void* self, const char16_t* text, uint32_t collect, uint32_t limit);
+extern void* VyrModule_WriteFile(void* self, const char16_t* path);
+extern void VyrModule_DeleteReport(void* report);
+extern int32_t VyrModule_ReportCode(void* report);
+extern int32_t VyrModule_ReportIsReadToEnd(void* report);
+extern uint32_t VyrModule_ReportFaultCount(void* report);
+extern uint32_t VyrModule_ReportTotalCount(void* report);
+extern char16_t* VyrModule_ReportText(void* report);
+extern int32_t VyrModule_FaultCode(void* report, uint32_t index);
+extern int32_t VyrModule_FaultLine(void* report, uint32_t index);
+extern char16_t* VyrModule_FaultText(void* report, uint32_t index);
+extern char16_t* VyrModule_FaultDetail(void* report, uint32_t index);
+extern char16_t* VyrModule_FaultFile(void* report, uint32_t index);
+extern char16_t* VyrModule_FaultItem(void* report, uint32_t index);
+extern char16_t* VyrModule_FaultPath(void* report, uint32_t index);
+extern char16_t* VyrModule_FaultValue(void* report, uint32_t index);
+
 extern char* CSharp_convert_to_narrow__SWIG_0(const char16_t* source);
 extern char* CSharp_convert__SWIG_0(const char* target, const char16_t* source);
 extern char16_t* CSharp_convert_to_wide__SWIG_0(const char* source);
@@ -256,6 +274,51 @@ static void documents(const char* palette, long rounds) {
     }
 }
 
+/* A new string must be this text. */
+static void check_text(char16_t* text, const char16_t* expected, int line) {
+    size_t units = 0;
+    while (expected[units] != 0) ++units;
+    check(byte_length(text) == 2 * units && memcmp(text, expected, 2 * units + 2) == 0, "another text", line);
+    VyrModule_FreeString(text);
+}
+#define CHECK_TEXT(text, expected) check_text(text, expected, __LINE__)
+
+static void reports(void) {
+    static const char16_t text[] =
+        u"<v:Vyr xmlns:v='http://vyrgraph.com/v2'>\n<v:Preamble x\u00E9='1'>\n<v:Header y='2'/></v:Preamble></v:Vyr>";
+    void* document = CSharp_new_Vyr__SWIG_0();
+    void* report = VyrModule_LoadString(document, text, 0x101, 1);
+    CHECK(VyrModule_ReportCode(report) == 39 && VyrModule_ReportIsReadToEnd(report) == 0);
+    CHECK(VyrModule_ReportFaultCount(report) == 1 && VyrModule_ReportTotalCount(report) == 3);
+    CHECK(VyrModule_FaultCode(report, 0) == 39 && VyrModule_FaultLine(report, 0) == 2);
+    CHECK_TEXT(VyrModule_FaultText(report, 0), u"Unexpected attribute");
+    CHECK_TEXT(VyrModule_FaultDetail(report, 0), u"Preamble takes no attributes");
+    CHECK_TEXT(VyrModule_FaultFile(report, 0), u"");
+    CHECK_TEXT(VyrModule_FaultItem(report, 0), u"v:Preamble");
+    CHECK_TEXT(VyrModule_FaultPath(report, 0), u"Preamble / @x\u00E9");
+    CHECK_TEXT(VyrModule_FaultValue(report, 0), u"1");
+    CHECK(VyrModule_FaultCode(report, UINT32_MAX) == 0 && VyrModule_FaultLine(report, 1) == 0);
+    CHECK_TEXT(VyrModule_FaultPath(report, UINT32_MAX), u"");
+    VyrModule_DeleteReport(report);
+    VyrModule_DeleteReport(NULL);
+
+    /* The low byte of the flag decides: the first fault ends the load. */
+    report = VyrModule_LoadString(document, text, 0x100, 5);
+    CHECK(VyrModule_ReportTotalCount(report) == 1);
+    VyrModule_DeleteReport(report);
+
+    report = VyrModule_LoadFile(document, u"no such file.vyrz", 0, 5);
+    CHECK(VyrModule_FaultLine(report, 0) == 0 && VyrModule_ReportCode(report) == VyrModule_FaultCode(report, 0));
+    CHECK_TEXT(VyrModule_FaultFile(report, 0), u"no such file.vyrz");
+    CHECK_TEXT(VyrModule_ReportText(report), u"no such file.vyrz: Unable to open file: No such file or directory\n");
+    VyrModule_DeleteReport(report);
+    report = VyrModule_WriteFile(document, u"document.txt");
+    CHECK(VyrModule_ReportCode(report) == 1001);
+    VyrModule_DeleteReport(report);
+
+    CSharp_delete_Vyr(document);
+}
+
 int main(int count, char** arguments) {
     CHECK(count == 3);
     SWIGRegisterExceptionCallbacks_VyrModule(on_exception, on_exception, on_exception, on_exception, on_exception,
@@ -268,5 +331,6 @@ int main(int count, char** arguments) {
     strings(8);
     nulls_and_results();
     documents(arguments[1], atol(arguments[2]));
+    reports();
     return 0;
 }

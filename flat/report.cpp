@@ -1,0 +1,111 @@
+// Copyright 2026 The Vyr Authors
+// SPDX-License-Identifier: Apache-2.0
+
+/// Loads and saves with a report for hosts: the report as an opaque object, its faults by index. All texts are wide,
+/// as hosts take them without effort.
+
+#include "document/report.h"
+
+#include "flat/call.h"
+#include "lmx/values/unicode.h"
+#include "schema/generated/header.h"
+
+namespace flat {
+namespace {
+
+using com_vyrgraph_v2::DocumentFault;
+using com_vyrgraph_v2::DocumentReport;
+using com_vyrgraph_v2::ReportOptions;
+using com_vyrgraph_v2::Vyr;
+
+ReportOptions options(std::uint32_t collect, std::uint32_t limit) {
+    ReportOptions made;
+    made.collect = to_bool(collect);
+    made.limit = limit;
+    return made;
+}
+
+const DocumentFault& fault(void* report, std::uint32_t index) { return as<DocumentReport>(report).getFault(index); }
+
+char16_t* new_wide(const std::string& text) { return new_string(lmx::convert_to_wide(text)); }
+
+char16_t* text_of(void* report, std::uint32_t index, std::string DocumentFault::*member) {
+    return guarded(
+        +[](void* r, std::uint32_t i, std::string DocumentFault::*m) { return new_wide(fault(r, i).*m); }, report,
+        index, member);
+}
+
+}  // namespace
+
+extern "C" {
+
+// The caller deletes the report. It is null only if memory has run out.
+
+/// With `collect`, goes on after faults of values and attributes. Faults beyond `limit` are counted only.
+VYR_FLAT(void*)
+VyrModule_LoadFile(void* self, const char16_t* path, std::uint32_t collect, std::uint32_t limit) {
+    return guarded(
+        +[](void* s, const char16_t* p, std::uint32_t c, std::uint32_t l) -> void* {
+            return new DocumentReport(loadFileWithReport(as<Vyr>(s), wide(p), options(c, l)));
+        },
+        self, path, collect, limit);
+}
+
+VYR_FLAT(void*)
+VyrModule_LoadString(void* self, const char16_t* text, std::uint32_t collect, std::uint32_t limit) {
+    return guarded(
+        +[](void* s, const char16_t* t, std::uint32_t c, std::uint32_t l) -> void* {
+            return new DocumentReport(loadStringWithReport(as<Vyr>(s), wide(t), options(c, l)));
+        },
+        self, text, collect, limit);
+}
+
+VYR_FLAT(void*) VyrModule_WriteFile(void* self, const char16_t* path) {
+    return guarded(
+        +[](void* s, const char16_t* p) -> void* {
+            return new DocumentReport(writeFileWithReport(as<Vyr>(s), wide(p)));
+        },
+        self, path);
+}
+
+VYR_FLAT(void) VyrModule_DeleteReport(void* report) { destroy<DocumentReport>(report); }
+
+VYR_FLAT(std::int32_t) VyrModule_ReportCode(void* report) { return as<DocumentReport>(report).getCode(); }
+VYR_FLAT(std::int32_t) VyrModule_ReportIsReadToEnd(void* report) { return as<DocumentReport>(report).isReadToEnd(); }
+VYR_FLAT(std::uint32_t) VyrModule_ReportFaultCount(void* report) {
+    return static_cast<std::uint32_t>(as<DocumentReport>(report).getFaultCount());
+}
+VYR_FLAT(std::uint32_t) VyrModule_ReportTotalCount(void* report) {
+    return static_cast<std::uint32_t>(as<DocumentReport>(report).getTotalCount());
+}
+/// One line for each fault that was kept.
+VYR_FLAT(char16_t*) VyrModule_ReportText(void* report) {
+    return guarded(
+        +[](void* r) { return new_wide(as<DocumentReport>(r).toString()); }, report);
+}
+
+// For an index that is too high: 0 and empty text.
+
+VYR_FLAT(std::int32_t) VyrModule_FaultCode(void* report, std::uint32_t index) { return fault(report, index).code; }
+VYR_FLAT(std::int32_t) VyrModule_FaultLine(void* report, std::uint32_t index) { return fault(report, index).line; }
+VYR_FLAT(char16_t*) VyrModule_FaultText(void* report, std::uint32_t index) {
+    return text_of(report, index, &DocumentFault::text);
+}
+VYR_FLAT(char16_t*) VyrModule_FaultDetail(void* report, std::uint32_t index) {
+    return text_of(report, index, &DocumentFault::detail);
+}
+VYR_FLAT(char16_t*) VyrModule_FaultFile(void* report, std::uint32_t index) {
+    return text_of(report, index, &DocumentFault::file);
+}
+VYR_FLAT(char16_t*) VyrModule_FaultItem(void* report, std::uint32_t index) {
+    return text_of(report, index, &DocumentFault::item);
+}
+VYR_FLAT(char16_t*) VyrModule_FaultPath(void* report, std::uint32_t index) {
+    return text_of(report, index, &DocumentFault::path);
+}
+VYR_FLAT(char16_t*) VyrModule_FaultValue(void* report, std::uint32_t index) {
+    return text_of(report, index, &DocumentFault::value);
+}
+
+}  // extern "C"
+}  // namespace flat
