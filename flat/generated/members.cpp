@@ -58,11 +58,11 @@ VYR_FLAT(void) CSharp_delete_c_binary(void* self) { destroy<lmx::c_binary>(self)
 VYR_FLAT(void*) CSharp_new_c_binary__SWIG_2(void* a, std::uint32_t b) { return guarded(+[](void* u, std::uint32_t v) -> void* { return new lmx::c_binary(static_cast<unsigned char*>(u), v); }, a, b); }
 VYR_FLAT(void) CSharp_c_binary_swap(void* self, void* a) { if (is_null(a, "lmx::c_binary & type is null")) return; guarded(+[](void* s, void* u) { as<lmx::c_binary>(s).swap(as<lmx::c_binary>(u)); }, self, a); }
 VYR_FLAT(std::uint32_t) CSharp_c_binary_size(void* self) { return guarded(+[](void* s) { return static_cast<std::uint32_t>(as<lmx::c_binary>(s).size()); }, self); }
-VYR_FLAT(void) CSharp_c_binary_set(void* self, void* a, std::uint32_t b) { guarded(+[](void* s, void* u, std::uint32_t v) { as<lmx::c_binary>(s).set(static_cast<unsigned char*>(u), v); }, self, a, b); }
+VYR_FLAT(void*) CSharp_c_binary_set(void* self, void* a, std::uint32_t b) { return guarded(+[](void* s, void* u, std::uint32_t v) -> void* { return &as<lmx::c_binary>(s).set(static_cast<unsigned char*>(u), v); }, self, a, b); }
 VYR_FLAT(void*) CSharp_c_binary_get(void* self, void* a, std::uint32_t b) { return guarded(+[](void* s, void* u, std::uint32_t v) -> void* { return as<lmx::c_binary>(s).get(static_cast<unsigned char*>(u), v); }, self, a, b); }
 VYR_FLAT(std::int32_t) CSharp_c_binary_equal(void* self, void* a, std::uint32_t b) { return guarded(+[](void* s, void* u, std::uint32_t v) { return as<lmx::c_binary>(s).equal(static_cast<unsigned char*>(u), v); }, self, a, b); }
 VYR_FLAT(void*) CSharp_c_binary_at__SWIG_0(void* self, std::uint32_t a) { return guarded(+[](void* s, std::uint32_t u) -> void* { return &as<lmx::c_binary>(s).at(u); }, self, a); }
-VYR_FLAT(void) CSharp_c_binary_append(void* self, std::uint32_t a) { guarded(+[](void* s, std::uint32_t u) { as<lmx::c_binary>(s).append(static_cast<std::uint8_t>(u)); }, self, a); }
+VYR_FLAT(void*) CSharp_c_binary_append(void* self, std::uint32_t a) { return guarded(+[](void* s, std::uint32_t u) -> void* { return &as<lmx::c_binary>(s).append(static_cast<std::uint8_t>(u)); }, self, a); }
 VYR_FLAT(std::int32_t) CSharp_c_binary_is_valid_hex(const char* a) { if (is_null(a, k_null_string)) return {}; return guarded(+[](const char* u) { return lmx::c_binary::is_valid_hex(u); }, a); }
 VYR_FLAT(std::int32_t) CSharp_c_binary_is_valid_base64(const char* a) { if (is_null(a, k_null_string)) return {}; return guarded(+[](const char* u) { return lmx::c_binary::is_valid_base64(u); }, a); }
 VYR_FLAT(void) CSharp_c_binary_from_hex(void* self, const char* a) { if (is_null(a, k_null_string)) return; guarded(+[](void* s, const char* u) { as<lmx::c_binary>(s).from_hex(u); }, self, a); }
