@@ -44,6 +44,7 @@ VYR_FLAT(void) CSharp_c_any_info_set_value(void* self, const char* a) { if (is_n
 VYR_FLAT(void*) CSharp_new_c_big_int__SWIG_0() { return guarded(+[]() -> void* { return new lmx::c_big_int(); }); }
 VYR_FLAT(void*) CSharp_new_c_big_int__SWIG_1(void* a) { if (is_null(a, "lmx::c_big_int const & type is null")) return {}; return guarded(+[](void* u) -> void* { return new lmx::c_big_int(as<lmx::c_big_int>(u)); }, a); }
 VYR_FLAT(void) CSharp_delete_c_big_int(void* self) { destroy<lmx::c_big_int>(self); }
+VYR_FLAT(void*) CSharp_new_c_big_int__SWIG_2(const char* a) { if (is_null(a, k_null_string)) return {}; return guarded(+[](const char* u) -> void* { return new lmx::c_big_int(u); }, a); }
 VYR_FLAT(void*) CSharp_new_c_big_int__SWIG_3(const char* a) { if (is_null(a, k_null_string)) return {}; return guarded(+[](const char* u) -> void* { return new lmx::c_big_int(u); }, a); }
 VYR_FLAT(void*) CSharp_new_c_big_int__SWIG_4(std::int32_t a) { return guarded(+[](std::int32_t u) -> void* { return new lmx::c_big_int(u); }, a); }
 VYR_FLAT(void) CSharp_c_big_int_swap(void* self, void* a) { if (is_null(a, "lmx::c_big_int & type is null")) return; guarded(+[](void* s, void* u) { as<lmx::c_big_int>(s).swap(as<lmx::c_big_int>(u)); }, self, a); }
@@ -72,6 +73,7 @@ VYR_FLAT(void) CSharp_c_binary_from_base64(void* self, const char* a) { if (is_n
 VYR_FLAT(void*) CSharp_new_c_date__SWIG_0() { return guarded(+[]() -> void* { return new lmx::c_date(); }); }
 VYR_FLAT(void*) CSharp_new_c_date__SWIG_1(void* a) { if (is_null(a, "lmx::c_date const & type is null")) return {}; return guarded(+[](void* u) -> void* { return new lmx::c_date(as<lmx::c_date>(u)); }, a); }
 VYR_FLAT(void) CSharp_delete_c_date(void* self) { destroy<lmx::c_date>(self); }
+VYR_FLAT(void*) CSharp_new_c_date__SWIG_2(const char* a) { if (is_null(a, k_null_string)) return {}; return guarded(+[](const char* u) -> void* { return new lmx::c_date(u); }, a); }
 VYR_FLAT(void*) CSharp_new_c_date__SWIG_3(const char* a) { if (is_null(a, k_null_string)) return {}; return guarded(+[](const char* u) -> void* { return new lmx::c_date(u); }, a); }
 VYR_FLAT(std::int32_t) CSharp_c_date_is_valid(const char* a) { if (is_null(a, k_null_string)) return {}; return guarded(+[](const char* u) { return lmx::c_date::is_valid(u); }, a); }
 VYR_FLAT(char*) CSharp_c_date_get_as_string(void* self) { return guarded(+[](void* s) { return new_string(as<lmx::c_date>(s).get_as_string()); }, self); }
@@ -92,6 +94,7 @@ VYR_FLAT(void) CSharp_c_date_set_day(void* self, std::uint32_t a) { guarded(+[](
 VYR_FLAT(void*) CSharp_new_c_datetime__SWIG_0() { return guarded(+[]() -> void* { return new lmx::c_datetime(); }); }
 VYR_FLAT(void*) CSharp_new_c_datetime__SWIG_1(void* a) { if (is_null(a, "lmx::c_datetime const & type is null")) return {}; return guarded(+[](void* u) -> void* { return new lmx::c_datetime(as<lmx::c_datetime>(u)); }, a); }
 VYR_FLAT(void) CSharp_delete_c_datetime(void* self) { destroy<lmx::c_datetime>(self); }
+VYR_FLAT(void*) CSharp_new_c_datetime__SWIG_2(const char* a) { if (is_null(a, k_null_string)) return {}; return guarded(+[](const char* u) -> void* { return new lmx::c_datetime(u); }, a); }
 VYR_FLAT(void*) CSharp_new_c_datetime__SWIG_3(const char* a) { if (is_null(a, k_null_string)) return {}; return guarded(+[](const char* u) -> void* { return new lmx::c_datetime(u); }, a); }
 VYR_FLAT(std::int32_t) CSharp_c_datetime_is_valid(const char* a) { if (is_null(a, k_null_string)) return {}; return guarded(+[](const char* u) { return lmx::c_datetime::is_valid(u); }, a); }
 VYR_FLAT(char*) CSharp_c_datetime_get_as_string(void* self) { return guarded(+[](void* s) { return new_string(as<lmx::c_datetime>(s).get_as_string()); }, self); }
@@ -123,6 +126,7 @@ VYR_FLAT(void) CSharp_delete_c_datetime_base(void* self) { destroy<lmx::c_dateti
 VYR_FLAT(void*) CSharp_new_c_decimal__SWIG_0() { return guarded(+[]() -> void* { return new lmx::c_decimal(); }); }
 VYR_FLAT(void*) CSharp_new_c_decimal__SWIG_1(void* a) { if (is_null(a, "lmx::c_decimal const & type is null")) return {}; return guarded(+[](void* u) -> void* { return new lmx::c_decimal(as<lmx::c_decimal>(u)); }, a); }
 VYR_FLAT(void) CSharp_delete_c_decimal(void* self) { destroy<lmx::c_decimal>(self); }
+VYR_FLAT(void*) CSharp_new_c_decimal__SWIG_2(const char* a) { if (is_null(a, k_null_string)) return {}; return guarded(+[](const char* u) -> void* { return new lmx::c_decimal(u); }, a); }
 VYR_FLAT(void*) CSharp_new_c_decimal__SWIG_3(const char* a) { if (is_null(a, k_null_string)) return {}; return guarded(+[](const char* u) -> void* { return new lmx::c_decimal(u); }, a); }
 VYR_FLAT(void*) CSharp_new_c_decimal__SWIG_4(std::int32_t a, std::int32_t b) { return guarded(+[](std::int32_t u, std::int32_t v) -> void* { return new lmx::c_decimal(u, v); }, a, b); }
 VYR_FLAT(void*) CSharp_new_c_decimal__SWIG_5(double a, std::uint32_t b) { return guarded(+[](double u, std::uint32_t v) -> void* { return new lmx::c_decimal(u, v); }, a, b); }
@@ -142,6 +146,7 @@ VYR_FLAT(char*) CSharp_c_decimal_get_as_string(void* self) { return guarded(+[](
 VYR_FLAT(void*) CSharp_new_c_duration__SWIG_0() { return guarded(+[]() -> void* { return new lmx::c_duration(); }); }
 VYR_FLAT(void*) CSharp_new_c_duration__SWIG_1(void* a) { if (is_null(a, "lmx::c_duration const & type is null")) return {}; return guarded(+[](void* u) -> void* { return new lmx::c_duration(as<lmx::c_duration>(u)); }, a); }
 VYR_FLAT(void) CSharp_delete_c_duration(void* self) { destroy<lmx::c_duration>(self); }
+VYR_FLAT(void*) CSharp_new_c_duration__SWIG_2(const char* a) { if (is_null(a, k_null_string)) return {}; return guarded(+[](const char* u) -> void* { return new lmx::c_duration(u); }, a); }
 VYR_FLAT(void*) CSharp_new_c_duration__SWIG_3(const char* a) { if (is_null(a, k_null_string)) return {}; return guarded(+[](const char* u) -> void* { return new lmx::c_duration(u); }, a); }
 VYR_FLAT(std::int32_t) CSharp_c_duration_is_valid__SWIG_0(const char* a) { if (is_null(a, k_null_string)) return {}; return guarded(+[](const char* u) { return lmx::c_duration::is_valid(u); }, a); }
 VYR_FLAT(char*) CSharp_c_duration_get_as_string(void* self) { return guarded(+[](void* s) { return new_string(as<lmx::c_duration>(s).get_as_string()); }, self); }
@@ -170,6 +175,7 @@ VYR_FLAT(void) CSharp_delete_c_empty(void* self) { destroy<lmx::c_empty>(self); 
 VYR_FLAT(void*) CSharp_new_c_gday__SWIG_0() { return guarded(+[]() -> void* { return new lmx::c_gday(); }); }
 VYR_FLAT(void*) CSharp_new_c_gday__SWIG_1(void* a) { if (is_null(a, "lmx::c_gday const & type is null")) return {}; return guarded(+[](void* u) -> void* { return new lmx::c_gday(as<lmx::c_gday>(u)); }, a); }
 VYR_FLAT(void) CSharp_delete_c_gday(void* self) { destroy<lmx::c_gday>(self); }
+VYR_FLAT(void*) CSharp_new_c_gday__SWIG_2(const char* a) { if (is_null(a, k_null_string)) return {}; return guarded(+[](const char* u) -> void* { return new lmx::c_gday(u); }, a); }
 VYR_FLAT(void*) CSharp_new_c_gday__SWIG_3(const char* a) { if (is_null(a, k_null_string)) return {}; return guarded(+[](const char* u) -> void* { return new lmx::c_gday(u); }, a); }
 VYR_FLAT(std::int32_t) CSharp_c_gday_is_valid(const char* a) { if (is_null(a, k_null_string)) return {}; return guarded(+[](const char* u) { return lmx::c_gday::is_valid(u); }, a); }
 VYR_FLAT(char*) CSharp_c_gday_get_as_string(void* self) { return guarded(+[](void* s) { return new_string(as<lmx::c_gday>(s).get_as_string()); }, self); }
@@ -186,6 +192,7 @@ VYR_FLAT(void) CSharp_c_gday_set_day(void* self, std::uint32_t a) { guarded(+[](
 VYR_FLAT(void*) CSharp_new_c_gmonth__SWIG_0() { return guarded(+[]() -> void* { return new lmx::c_gmonth(); }); }
 VYR_FLAT(void*) CSharp_new_c_gmonth__SWIG_1(void* a) { if (is_null(a, "lmx::c_gmonth const & type is null")) return {}; return guarded(+[](void* u) -> void* { return new lmx::c_gmonth(as<lmx::c_gmonth>(u)); }, a); }
 VYR_FLAT(void) CSharp_delete_c_gmonth(void* self) { destroy<lmx::c_gmonth>(self); }
+VYR_FLAT(void*) CSharp_new_c_gmonth__SWIG_2(const char* a) { if (is_null(a, k_null_string)) return {}; return guarded(+[](const char* u) -> void* { return new lmx::c_gmonth(u); }, a); }
 VYR_FLAT(void*) CSharp_new_c_gmonth__SWIG_3(const char* a) { if (is_null(a, k_null_string)) return {}; return guarded(+[](const char* u) -> void* { return new lmx::c_gmonth(u); }, a); }
 VYR_FLAT(std::int32_t) CSharp_c_gmonth_is_valid(const char* a) { if (is_null(a, k_null_string)) return {}; return guarded(+[](const char* u) { return lmx::c_gmonth::is_valid(u); }, a); }
 VYR_FLAT(char*) CSharp_c_gmonth_get_as_string(void* self) { return guarded(+[](void* s) { return new_string(as<lmx::c_gmonth>(s).get_as_string()); }, self); }
@@ -202,6 +209,7 @@ VYR_FLAT(void) CSharp_c_gmonth_set_month(void* self, std::uint32_t a) { guarded(
 VYR_FLAT(void*) CSharp_new_c_gmonthday__SWIG_0() { return guarded(+[]() -> void* { return new lmx::c_gmonthday(); }); }
 VYR_FLAT(void*) CSharp_new_c_gmonthday__SWIG_1(void* a) { if (is_null(a, "lmx::c_gmonthday const & type is null")) return {}; return guarded(+[](void* u) -> void* { return new lmx::c_gmonthday(as<lmx::c_gmonthday>(u)); }, a); }
 VYR_FLAT(void) CSharp_delete_c_gmonthday(void* self) { destroy<lmx::c_gmonthday>(self); }
+VYR_FLAT(void*) CSharp_new_c_gmonthday__SWIG_2(const char* a) { if (is_null(a, k_null_string)) return {}; return guarded(+[](const char* u) -> void* { return new lmx::c_gmonthday(u); }, a); }
 VYR_FLAT(void*) CSharp_new_c_gmonthday__SWIG_3(const char* a) { if (is_null(a, k_null_string)) return {}; return guarded(+[](const char* u) -> void* { return new lmx::c_gmonthday(u); }, a); }
 VYR_FLAT(std::int32_t) CSharp_c_gmonthday_is_valid(const char* a) { if (is_null(a, k_null_string)) return {}; return guarded(+[](const char* u) { return lmx::c_gmonthday::is_valid(u); }, a); }
 VYR_FLAT(char*) CSharp_c_gmonthday_get_as_string(void* self) { return guarded(+[](void* s) { return new_string(as<lmx::c_gmonthday>(s).get_as_string()); }, self); }
@@ -220,6 +228,7 @@ VYR_FLAT(void) CSharp_c_gmonthday_set_day(void* self, std::uint32_t a) { guarded
 VYR_FLAT(void*) CSharp_new_c_gyear__SWIG_0() { return guarded(+[]() -> void* { return new lmx::c_gyear(); }); }
 VYR_FLAT(void*) CSharp_new_c_gyear__SWIG_1(void* a) { if (is_null(a, "lmx::c_gyear const & type is null")) return {}; return guarded(+[](void* u) -> void* { return new lmx::c_gyear(as<lmx::c_gyear>(u)); }, a); }
 VYR_FLAT(void) CSharp_delete_c_gyear(void* self) { destroy<lmx::c_gyear>(self); }
+VYR_FLAT(void*) CSharp_new_c_gyear__SWIG_2(const char* a) { if (is_null(a, k_null_string)) return {}; return guarded(+[](const char* u) -> void* { return new lmx::c_gyear(u); }, a); }
 VYR_FLAT(void*) CSharp_new_c_gyear__SWIG_3(const char* a) { if (is_null(a, k_null_string)) return {}; return guarded(+[](const char* u) -> void* { return new lmx::c_gyear(u); }, a); }
 VYR_FLAT(std::int32_t) CSharp_c_gyear_is_valid(const char* a) { if (is_null(a, k_null_string)) return {}; return guarded(+[](const char* u) { return lmx::c_gyear::is_valid(u); }, a); }
 VYR_FLAT(char*) CSharp_c_gyear_get_as_string(void* self) { return guarded(+[](void* s) { return new_string(as<lmx::c_gyear>(s).get_as_string()); }, self); }
@@ -236,6 +245,7 @@ VYR_FLAT(void) CSharp_c_gyear_set_year(void* self, std::int32_t a) { guarded(+[]
 VYR_FLAT(void*) CSharp_new_c_gyearmonth__SWIG_0() { return guarded(+[]() -> void* { return new lmx::c_gyearmonth(); }); }
 VYR_FLAT(void*) CSharp_new_c_gyearmonth__SWIG_1(void* a) { if (is_null(a, "lmx::c_gyearmonth const & type is null")) return {}; return guarded(+[](void* u) -> void* { return new lmx::c_gyearmonth(as<lmx::c_gyearmonth>(u)); }, a); }
 VYR_FLAT(void) CSharp_delete_c_gyearmonth(void* self) { destroy<lmx::c_gyearmonth>(self); }
+VYR_FLAT(void*) CSharp_new_c_gyearmonth__SWIG_2(const char* a) { if (is_null(a, k_null_string)) return {}; return guarded(+[](const char* u) -> void* { return new lmx::c_gyearmonth(u); }, a); }
 VYR_FLAT(void*) CSharp_new_c_gyearmonth__SWIG_3(const char* a) { if (is_null(a, k_null_string)) return {}; return guarded(+[](const char* u) -> void* { return new lmx::c_gyearmonth(u); }, a); }
 VYR_FLAT(std::int32_t) CSharp_c_gyearmonth_is_valid(const char* a) { if (is_null(a, k_null_string)) return {}; return guarded(+[](const char* u) { return lmx::c_gyearmonth::is_valid(u); }, a); }
 VYR_FLAT(char*) CSharp_c_gyearmonth_get_as_string(void* self) { return guarded(+[](void* s) { return new_string(as<lmx::c_gyearmonth>(s).get_as_string()); }, self); }
@@ -267,6 +277,7 @@ VYR_FLAT(std::int32_t) CSharp_c_pattern_null_is_match__SWIG_1(void* self, const 
 VYR_FLAT(void*) CSharp_new_c_time__SWIG_0() { return guarded(+[]() -> void* { return new lmx::c_time(); }); }
 VYR_FLAT(void*) CSharp_new_c_time__SWIG_1(void* a) { if (is_null(a, "lmx::c_time const & type is null")) return {}; return guarded(+[](void* u) -> void* { return new lmx::c_time(as<lmx::c_time>(u)); }, a); }
 VYR_FLAT(void) CSharp_delete_c_time(void* self) { destroy<lmx::c_time>(self); }
+VYR_FLAT(void*) CSharp_new_c_time__SWIG_2(const char* a) { if (is_null(a, k_null_string)) return {}; return guarded(+[](const char* u) -> void* { return new lmx::c_time(u); }, a); }
 VYR_FLAT(void*) CSharp_new_c_time__SWIG_3(const char* a) { if (is_null(a, k_null_string)) return {}; return guarded(+[](const char* u) -> void* { return new lmx::c_time(u); }, a); }
 VYR_FLAT(std::int32_t) CSharp_c_time_is_valid(const char* a) { if (is_null(a, k_null_string)) return {}; return guarded(+[](const char* u) { return lmx::c_time::is_valid(u); }, a); }
 VYR_FLAT(char*) CSharp_c_time_get_as_string(void* self) { return guarded(+[](void* s) { return new_string(as<lmx::c_time>(s).get_as_string()); }, self); }
