@@ -1,11 +1,14 @@
-# The one shared library: its name, version, include root and the libraries it stands on.
+# The one library, shared or static: its name, version, include root and the libraries it stands on.
 
 include(GNUInstallDirs)
 find_package(LibXml2 REQUIRED)
 find_package(ZLIB REQUIRED)
 find_package(BZip2 REQUIRED)
 
-set_target_properties(vyr PROPERTIES VERSION ${PROJECT_VERSION} SOVERSION ${PROJECT_VERSION_MAJOR} EXPORT_NAME vyr)
+# Until 1.0 a minor version may change the interface, so programs ask for the very one that they were built with.
+# Objects are the same for both kinds of library: a static one may become part of another's shared library.
+set_target_properties(vyr PROPERTIES VERSION ${PROJECT_VERSION} EXPORT_NAME vyr POSITION_INDEPENDENT_CODE ON
+                                     SOVERSION ${PROJECT_VERSION_MAJOR}.${PROJECT_VERSION_MINOR})
 target_include_directories(vyr PUBLIC $<BUILD_INTERFACE:${PROJECT_SOURCE_DIR}>
                                       $<INSTALL_INTERFACE:${CMAKE_INSTALL_INCLUDEDIR}/vyr>)
 target_compile_features(vyr PUBLIC cxx_std_20)

@@ -1,5 +1,8 @@
 # What a builder may choose, and what every target gets.
 
+if(PROJECT_IS_TOP_LEVEL)
+  option(BUILD_SHARED_LIBS "Build the shared library, not the static one" ON)
+endif()
 option(VYR_BUILD_FLAT "Build the flat functions for C# hosts into the library" ON)
 option(VYR_BUILD_TOOLS "Build the vyr command" ON)
 option(VYR_BUILD_TESTS "Build the tests" ${PROJECT_IS_TOP_LEVEL})

@@ -4,16 +4,17 @@
 #
 # Installs what is missing to work on Vyr on a Debian 12 machine; does nothing, quickly, when nothing is missing.
 #
-#   scripts/setup.sh [build] [tool] [test] [csharp] [windows] [bench] [fuzz]      (without arguments: build)
+#   scripts/setup.sh [build] [tool] [test] [csharp] [windows] [bench] [fuzz] [package]      (without arguments: build)
 
 set -euo pipefail
 
 declare -A packages=(
     [build]="g++ cmake ninja-build libxml2-dev zlib1g-dev libbz2-dev"
     [tool]="libcli11-dev nlohmann-json3-dev"
-    [test]="libgtest-dev unzip libarchive-tools libxml2-utils pkg-config python3 clang-format-14 locales"
+    [test]="libgtest-dev unzip libarchive-tools libxml2-utils pkg-config python3 clang-format-14 locales dpkg-dev"
     [csharp]="mono-mcs mono-runtime"
     [windows]="g++-mingw-w64-i686-posix"
+    [package]="dpkg-dev"
     [bench]="libbenchmark-dev libpugixml-dev"
     [fuzz]="clang-14 clang libclang-rt-14-dev"
 )

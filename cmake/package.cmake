@@ -1,0 +1,79 @@
+# The Debian packages that cpack makes: libvyr<major>.<minor>, libvyr-dev and vyr-tools, each of one group of the
+# components that cmake/install.cmake fills. scripts/package.sh builds them.
+
+set(library_package libvyr${PROJECT_VERSION_MAJOR}.${PROJECT_VERSION_MINOR})
+set(same_version "${library_package} (= ${PROJECT_VERSION})")
+
+set(CPACK_GENERATOR DEB)
+set(CPACK_PACKAGE_NAME vyr)
+set(CPACK_PACKAGE_CONTACT "The Vyr Authors <authors@vyr.invalid>")
+set(CPACK_PACKAGE_DESCRIPTION_SUMMARY "")
+set(CPACK_STRIP_FILES ON)
+set(CPACK_DEB_COMPONENT_INSTALL ON)
+set(CPACK_DEBIAN_FILE_NAME DEB-DEFAULT)
+set(CPACK_DEBIAN_COMPRESSION_TYPE xz)
+set(CPACK_DEBIAN_PACKAGE_CONTROL_STRICT_PERMISSION ON)
+# What the library and the command need of the system, by dpkg-shlibdeps, which finds the library where it was built.
+set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
+set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS_PRIVATE_DIRS ${PROJECT_BINARY_DIR})
+set(CPACK_DEBIAN_PACKAGE_GENERATE_SHLIBS ON)
+
+set(about "Vyr reads documents of measured and specified colours, palettes, recipes and
+quality-control records, checks every value against the format's schema, holds
+a document as a tree of plain classes, and writes it back.
+.")
+
+set(CPACK_DEBIAN_LIBRARY_PACKAGE_NAME ${library_package})
+set(CPACK_DEBIAN_LIBRARY_PACKAGE_SECTION libs)
+set(CPACK_DEBIAN_LIBRARY_DESCRIPTION "reads, checks and writes colour-data documents
+${about}
+This package holds the shared library, for programs in C++ and for C#.")
+if(VYR_BUILD_FLAT)
+  # libVyrModule.so has the same name in every version.
+  foreach(relation PROVIDES CONFLICTS REPLACES)
+    set(CPACK_DEBIAN_LIBRARY_PACKAGE_${relation} libvyr-module)
+  endforeach()
+endif()
+
+set(CPACK_DEBIAN_DEVELOPMENT_PACKAGE_NAME libvyr-dev)
+set(CPACK_DEBIAN_DEVELOPMENT_PACKAGE_SECTION libdevel)
+# vyr.pc names the others' .pc files, and a static link needs the libraries.
+set(CPACK_DEBIAN_DEVELOPMENT_PACKAGE_DEPENDS "${same_version}, libxml2-dev, zlib1g-dev, libbz2-dev")
+set(CPACK_DEBIAN_DEVELOPMENT_PACKAGE_SHLIBDEPS OFF)
+set(CPACK_DEBIAN_DEVELOPMENT_DESCRIPTION "reads, checks and writes colour-data documents - development files
+${about}
+This package holds the headers, the format's schema, what CMake and pkg-config
+need to find the library, guides and examples.")
+
+set(CPACK_DEBIAN_TOOL_PACKAGE_NAME vyr-tools)
+set(CPACK_DEBIAN_TOOL_PACKAGE_SECTION utils)
+set(CPACK_DEBIAN_TOOL_PACKAGE_DEPENDS ${same_version})
+set(CPACK_DEBIAN_TOOL_DESCRIPTION "checks and converts colour-data documents
+${about}
+This package holds the command vyr.")
+
+# Every package says where it comes from; other installations need no such file.
+set(packages LIBRARY DEVELOPMENT)
+if(VYR_BUILD_TOOLS)
+  list(APPEND packages TOOL)
+endif()
+foreach(package ${packages})
+  string(TOLOWER ${package}_copyright component)
+  install(FILES cmake/debian-copyright DESTINATION ${CMAKE_INSTALL_DATADIR}/doc/${CPACK_DEBIAN_${package}_PACKAGE_NAME}
+          RENAME copyright COMPONENT ${component} EXCLUDE_FROM_ALL)
+  list(APPEND CPACK_COMPONENTS_ALL ${component})
+endforeach()
+list(APPEND CPACK_COMPONENTS_ALL runtime development documentation)
+if(VYR_BUILD_TOOLS)
+  list(APPEND CPACK_COMPONENTS_ALL tool)
+endif()
+
+include(CPack)
+cpack_add_component(runtime GROUP library)
+cpack_add_component(library_copyright GROUP library)
+foreach(component development documentation development_copyright)
+  cpack_add_component(${component} GROUP development)
+endforeach()
+foreach(component tool tool_copyright)
+  cpack_add_component(${component} GROUP tool)
+endforeach()
