@@ -21,10 +21,15 @@ if(VYR_BUILD_TOOLS)
   vyr_add_check(foreign_archives ${checks}/zip/check_archives.sh $<TARGET_FILE:vyr_tool> ${palette})
   vyr_add_check(written_documents ${checks}/written/check_written.sh $<TARGET_FILE:vyr_tool>
                 ${PROJECT_SOURCE_DIR}/schema/vyr.xsd ${PROJECT_SOURCE_DIR}/examples ${checks}/documents)
-  vyr_add_check(installed_tree ${checks}/install/check_install.sh ${CMAKE_COMMAND} ${PROJECT_BINARY_DIR}
-                ${PROJECT_SOURCE_DIR} ${CMAKE_CXX_COMPILER})
 endif()
-if(VYR_BUILD_FLAT)
+if(VYR_BUILD_TOOLS AND VYR_BUILD_FLAT AND BUILD_SHARED_LIBS)
+  vyr_add_check(installed_tree ${checks}/install/check_install.sh ${CMAKE_COMMAND} ${PROJECT_BINARY_DIR}
+                ${PROJECT_SOURCE_DIR} ${CMAKE_CXX_COMPILER} ${CMAKE_INSTALL_LIBDIR} $<TARGET_SONAME_FILE_NAME:vyr>)
+  vyr_add_check(debian_packages ${checks}/install/check_packages.sh ${CMAKE_CPACK_COMMAND} ${PROJECT_BINARY_DIR}
+                ${PROJECT_SOURCE_DIR})
+  set_tests_properties(debian_packages PROPERTIES SKIP_RETURN_CODE 77)
+endif()
+if(VYR_BUILD_FLAT AND BUILD_SHARED_LIBS)
   set(flat_list ${PROJECT_SOURCE_DIR}/flat/generated/exports.txt)
   vyr_add_check(flat_exports ${checks}/flat/check_exports.sh $<TARGET_FILE:vyr> ${flat_list})
   vyr_add_check(flat_csharp ${checks}/flat/check_csharp.sh $<TARGET_FILE_DIR:vyr> ${PROJECT_SOURCE_DIR}

@@ -2,60 +2,100 @@
 # Copyright 2026 The Vyr Authors
 # SPDX-License-Identifier: Apache-2.0
 #
-# Installs into a scratch prefix, moves it, and builds and runs the README's first program against it: once through
-# find_package, once through pkg-config. Every installed header is compiled as well.
+# Installs into a scratch prefix, moves it, looks at what is there, and builds and runs the README's first program
+# against it by the README's own words: through find_package and through pkg-config, with the shared library and with
+# the static one. Every installed header is compiled as well.
 #
-#   check_install.sh CMAKE BUILD_FOLDER SOURCE_FOLDER COMPILER
+#   check_install.sh CMAKE BUILD_FOLDER SOURCE_FOLDER COMPILER LIBDIR SONAME
 
 set -euo pipefail
 cmake=$1
 build=$2
 source=$3
 compiler=$4
+libdir=$5
+soname=$6
 work=$(mktemp -d)
 trap 'rm -rf "$work"' EXIT
 cd "$work"
-
-# An installed tree has to work wherever it is put.
-"$cmake" --install "$build" --prefix "$work/first" > install.log
-mv first prefix
-prefix=$work/prefix
-libdir=$(dirname "$(find "$prefix" -name libvyr.so)")
 palette=$source/examples/css-colors.vyr
-expected='CSS: 1 colour set(s)'
 
 fail() { echo "check_install.sh: $*"; exit 1; }
 
-[[ -f $prefix/share/vyr/vyr.xsd ]] || fail "the schema file is missing"
-"$prefix/bin/vyr" check "$palette" || fail "the installed command does not run"
-"$cmake" --install "$build" --prefix "$work/runtime" --component runtime >> install.log
-[[ -f $work/runtime/${libdir#"$prefix/"}/libVyrModule.so ]] || fail "C# programs do not find the library at run time"
-! find "$prefix" -name '*.py' | grep . || fail "the generator was installed"
+# What each component holds, but for headers and guides. An installed tree has to work wherever it is put.
+library=$libdir/$soname
+version=$("$build/bin/vyr" --version | grep -o '[0-9.]*$')
+for component in runtime tool development documentation; do
+    "$cmake" --install "$build" --prefix "$work/$component" --component "$component" > install.log
+done
+listed() { (cd "$1" && find . -type f -o -type l) | cut -c 3- | grep -vE '^include/|^share/doc/' | sort; }
+diff <(listed runtime; listed tool; listed development) - << LIST || fail "> is missing, < is not in the list"
+$libdir/libVyrModule.so
+$library
+$libdir/libvyr.so.$version
+bin/vyr
+$libdir/cmake/vyr/vyr-config-version.cmake
+$libdir/cmake/vyr/vyr-config.cmake
+$libdir/cmake/vyr/vyr-targets-release.cmake
+$libdir/cmake/vyr/vyr-targets.cmake
+$libdir/libvyr.so
+$libdir/pkgconfig/vyr.pc
+share/vyr/vyr.xsd
+LIST
+[[ -f documentation/share/doc/vyr/docs/reading.md ]] || fail "the guides are missing"
+"$cmake" --install "$build" --prefix "$work/first" > install.log
+mv first shared
+[[ $(find shared -type f | wc -l) == $(find runtime tool development documentation -type f | wc -l) ]] ||
+    fail "a file belongs to no component"
+"shared/bin/vyr" check "$palette" || fail "the installed command does not run"
 
-mkdir consumer
-cat > consumer/CMakeLists.txt <<'CMAKE'
-cmake_minimum_required(VERSION 3.25)
-project(consumer LANGUAGES CXX)
-find_package(vyr 0.1 REQUIRED)
-add_executable(first first.cpp)
-target_link_libraries(first PRIVATE vyr::vyr)
-CMAKE
-cp "$source/examples/first.cpp" consumer/
-"$cmake" -G Ninja -S consumer -B by_package -DCMAKE_PREFIX_PATH="$prefix" -DCMAKE_CXX_COMPILER="$compiler" > package.log
-"$cmake" --build by_package >> package.log || { cat package.log; fail "does not build with find_package"; }
-[[ $(by_package/first "$palette") == "$expected" ]] || fail "the program built with find_package answers otherwise"
+# The library asks for what it is made from and no more.
+needed() { objdump -p "$1" | awk '$1 == "NEEDED" {print $2}' | sort | paste -s -d ' '; }
+[[ $(objdump -p "shared/$library" | awk '$1 == "SONAME" {print $2}') == "$soname" ]] || fail "it is not called $soname"
+for name in $(needed "shared/$library"); do
+    [[ $name =~ ^lib(bz2|c|gcc_s|m|stdc\+\+|xml2|z)\.so ]] || fail "the library needs $name"
+done
+! ldd "shared/$library" "shared/bin/vyr" | grep 'not found' || fail "a library is missing"
 
-export PKG_CONFIG_PATH=$libdir/pkgconfig
-# shellcheck disable=SC2046  # the flags are words
-"$compiler" -std=c++20 consumer/first.cpp $(pkg-config --cflags --libs vyr) -o by_pkgconfig
-[[ $(LD_LIBRARY_PATH=$libdir ./by_pkgconfig "$palette") == "$expected" ]] ||
-    fail "the program built with pkg-config answers otherwise"
-
-# Each header stands on its own and needs nothing that is not installed.
-(cd "$prefix/include/vyr" && find . -name '*.h') |
-    xargs -P "$(nproc)" -I {} "$compiler" -std=c++20 -fsyntax-only -Wall -Wextra -Werror -I "$prefix/include/vyr" \
+# Each header stands on its own and needs nothing that is not installed, and what is exported stands in one of them.
+(cd shared/include/vyr && find . -name '*.h') |
+    xargs -P "$(nproc)" -I {} "$compiler" -std=c++20 -fsyntax-only -Wall -Wextra -Werror -I shared/include/vyr \
         -include {} -x c++ /dev/null || fail "a header does not compile on its own"
+nm --dynamic --defined-only --demangle "shared/$library" | grep -oE '(lmx|com_vyrgraph_v2)::[A-Za-z_0-9]+|\bCZip\w+' |
+    sed 's/.*:://' | sort -u > exported
+grep -rhoE '\w+' shared/include/vyr | sort -u | comm -23 exported - > unknown
+[[ -s exported && ! -s unknown ]] || fail "exported, but in no public header: $(paste -s -d ' ' unknown)"
 
-# The README shows this very program.
-awk '/^```cpp$/ {inside = 1; next} /^```$/ {inside = 0} inside' "$source/README.md" > shown.cpp
-sed '1,/^$/d' "$source/examples/first.cpp" | diff shown.cpp - || fail "README.md shows another program"
+# The README shows the program of the examples, and how it is built.
+shown() { awk -v "start=^\`\`\`$1\$" '$0 ~ start {inside = 1; next} /^```$/ {inside = 0} inside' "$source/README.md"; }
+sed '1,/^$/d' "$source/examples/first.cpp" | diff <(shown cpp) - || fail "README.md shows another program"
+mkdir consumer
+cp "$source/examples/first.cpp" consumer/
+shown cmake > consumer/CMakeLists.txt
+
+consume() {
+    local kind=$1
+    local expected='CSS: 1 colour set(s)'
+    shift
+    "$cmake" -G Ninja -S consumer -B "by_package_$kind" -DCMAKE_PREFIX_PATH="$work/$kind" \
+        -DCMAKE_CXX_COMPILER="$compiler" > log && "$cmake" --build "by_package_$kind" >> log ||
+        { cat log; fail "does not build with find_package, $kind"; }
+    [[ $("by_package_$kind/first" "$palette") == "$expected" ]] || fail "built with find_package, $kind, it says otherwise"
+
+    export PKG_CONFIG_PATH=$work/$kind/$libdir/pkgconfig
+    # shellcheck disable=SC2046  # the flags are words
+    "$compiler" -std=c++20 consumer/first.cpp $(pkg-config "$@" --cflags --libs vyr) -o "by_pkgconfig_$kind"
+    [[ $(LD_LIBRARY_PATH=$work/$kind/$libdir "./by_pkgconfig_$kind" "$palette") == "$expected" ]] ||
+        fail "built with pkg-config, $kind, it says otherwise"
+}
+consume shared
+needed by_package_shared/first | grep -q "$soname" || fail "the program does not ask for $soname"
+
+# The static library would be made of the same objects: they are taken from this build, not compiled again.
+"$cmake" -G Ninja -S "$source" -B static_build -DCMAKE_CXX_COMPILER="$compiler" -DCMAKE_BUILD_TYPE=Release \
+    -DBUILD_SHARED_LIBS=OFF -DVYR_BUILD_TESTS=OFF -DVYR_BUILD_TOOLS=OFF -DVYR_BUILD_FLAT=OFF > log
+find "$build/CMakeFiles/vyr.dir" -name '*.o' -print0 | xargs -0 ar -qc static_build/libvyr.a
+"$cmake" --install static_build --prefix "$work/static" > install.log
+! find static -name '*.so*' | grep . || fail "a static installation holds a shared library"
+consume static --static
+! needed by_package_static/first | grep libvyr || fail "the program with the static library asks for the shared one"
