@@ -25,6 +25,7 @@ fail() { echo "check_install.sh: $*"; exit 1; }
 # What each component holds, but for headers and guides. An installed tree has to work wherever it is put.
 library=$libdir/$soname
 version=$("$build/bin/vyr" --version | grep -o '[0-9.]*$')
+grep -q "\"version-semver\": \"$version\"" "$source/vcpkg.json" || fail "vcpkg.json gives another version"
 for component in runtime tool development documentation; do
     "$cmake" --install "$build" --prefix "$work/$component" --component "$component" > install.log
 done
