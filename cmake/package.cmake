@@ -25,6 +25,7 @@ a document as a tree of plain classes, and writes it back.
 
 set(CPACK_DEBIAN_LIBRARY_PACKAGE_NAME ${library_package})
 set(CPACK_DEBIAN_LIBRARY_PACKAGE_SECTION libs)
+set(CPACK_DEBIAN_LIBRARY_PACKAGE_CONTROL_EXTRA ${PROJECT_SOURCE_DIR}/cmake/debian/triggers)
 set(CPACK_DEBIAN_LIBRARY_DESCRIPTION "reads, checks and writes colour-data documents
 ${about}
 This package holds the shared library, for programs in C++ and for C#.")
@@ -37,8 +38,8 @@ endif()
 
 set(CPACK_DEBIAN_DEVELOPMENT_PACKAGE_NAME libvyr-dev)
 set(CPACK_DEBIAN_DEVELOPMENT_PACKAGE_SECTION libdevel)
-# vyr.pc names the others' .pc files, and a static link needs the libraries.
-set(CPACK_DEBIAN_DEVELOPMENT_PACKAGE_DEPENDS "${same_version}, libxml2-dev, zlib1g-dev, libbz2-dev")
+# vyr.pc names the others' .pc files, and a static link needs the libraries, one of them for libxml2.
+set(CPACK_DEBIAN_DEVELOPMENT_PACKAGE_DEPENDS "${same_version}, libxml2-dev, zlib1g-dev, libbz2-dev, liblzma-dev")
 set(CPACK_DEBIAN_DEVELOPMENT_PACKAGE_SHLIBDEPS OFF)
 set(CPACK_DEBIAN_DEVELOPMENT_DESCRIPTION "reads, checks and writes colour-data documents - development files
 ${about}
@@ -52,28 +53,30 @@ set(CPACK_DEBIAN_TOOL_DESCRIPTION "checks and converts colour-data documents
 ${about}
 This package holds the command vyr.")
 
-# Every package says where it comes from; other installations need no such file.
-set(packages LIBRARY DEVELOPMENT)
-if(VYR_BUILD_TOOLS)
-  list(APPEND packages TOOL)
-endif()
-foreach(package ${packages})
-  string(TOLOWER ${package}_copyright component)
-  install(FILES cmake/debian-copyright DESTINATION ${CMAKE_INSTALL_DATADIR}/doc/${CPACK_DEBIAN_${package}_PACKAGE_NAME}
-          RENAME copyright COMPONENT ${component} EXCLUDE_FROM_ALL)
-  list(APPEND CPACK_COMPONENTS_ALL ${component})
-endforeach()
-list(APPEND CPACK_COMPONENTS_ALL runtime development documentation)
+# What the system asks of every package; other installations need no such file.
+string(TIMESTAMP build_time "%a, %d %b %Y %H:%M:%S +0000" UTC)
+configure_file(cmake/debian/changelog.in changelog @ONLY)
+file(ARCHIVE_CREATE OUTPUT ${PROJECT_BINARY_DIR}/changelog.gz PATHS ${PROJECT_BINARY_DIR}/changelog FORMAT raw
+     COMPRESSION GZip COMPRESSION_LEVEL 9)
+set(CPACK_COMPONENTS_ALL runtime development documentation)
+set(groups library development)
 if(VYR_BUILD_TOOLS)
   list(APPEND CPACK_COMPONENTS_ALL tool)
+  list(APPEND groups tool)
 endif()
+foreach(group ${groups})
+  string(TOUPPER ${group} variables)
+  set(folder ${CMAKE_INSTALL_DATADIR}/doc/${CPACK_DEBIAN_${variables}_PACKAGE_NAME})
+  install(FILES cmake/debian/copyright ${PROJECT_BINARY_DIR}/changelog.gz DESTINATION ${folder}
+          COMPONENT ${group}_papers EXCLUDE_FROM_ALL)
+  list(APPEND CPACK_COMPONENTS_ALL ${group}_papers)
+endforeach()
 
 include(CPack)
 cpack_add_component(runtime GROUP library)
-cpack_add_component(library_copyright GROUP library)
-foreach(component development documentation development_copyright)
-  cpack_add_component(${component} GROUP development)
-endforeach()
-foreach(component tool tool_copyright)
-  cpack_add_component(${component} GROUP tool)
+cpack_add_component(development GROUP development)
+cpack_add_component(documentation GROUP development)
+cpack_add_component(tool GROUP tool)
+foreach(group ${groups})
+  cpack_add_component(${group}_papers GROUP ${group})
 endforeach()

@@ -30,13 +30,13 @@ while read -r package needs file; do
         [[ ", $depends" == *", $need"* ]] || fail "$package does not ask for $need: $depends"
     done
     dpkg-deb -x "$deb" "root_$package"
-    for path in "$file" "share/doc/$package/copyright"; do
+    for path in "$file" "share/doc/$package/"{copyright,changelog.gz}; do
         compgen -G "root_$package/usr/$path" > /dev/null || fail "$package lacks $path"
     done
     cp -a "root_$package/." root
 done << TABLE
 $library libc6,libstdc++6,libxml2,zlib1g,libbz2 lib*/libVyrModule.so
-libvyr-dev $library,libxml2-dev,zlib1g-dev,libbz2-dev share/vyr/vyr.xsd
+libvyr-dev $library,libxml2-dev,zlib1g-dev,libbz2-dev,liblzma-dev share/vyr/vyr.xsd
 vyr-tools $library,libc6,libstdc++6 bin/vyr
 TABLE
 # No file is in two packages.
