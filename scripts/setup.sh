@@ -9,9 +9,8 @@
 set -euo pipefail
 
 declare -A packages=(
-    [build]="g++ cmake ninja-build libxml2-dev zlib1g-dev libbz2-dev liblzma-dev"
+    [build]="g++ cmake ninja-build pkg-config libxml2-dev zlib1g-dev libbz2-dev liblzma-dev"
     [tool]="libcli11-dev nlohmann-json3-dev"
-    [test]="libgtest-dev unzip libarchive-tools libxml2-utils pkg-config python3 clang-format-14 locales dpkg-dev"
     [csharp]="mono-mcs mono-runtime"
     [windows]="g++-mingw-w64-i686-posix"
     [package]="dpkg-dev"

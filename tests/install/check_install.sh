@@ -19,6 +19,9 @@ work=$(mktemp -d)
 trap 'rm -rf "$work"' EXIT
 cd "$work"
 palette=$source/examples/css-colors.vyr
+# Objects of this build may need what it links them with.
+CXXFLAGS=$(sed -n 's/^CMAKE_CXX_FLAGS:.*=//p' "$build/CMakeCache.txt")
+export CXXFLAGS
 
 fail() { echo "check_install.sh: $*"; exit 1; }
 
@@ -30,6 +33,7 @@ for component in runtime tool development documentation; do
     "$cmake" --install "$build" --prefix "$work/$component" --component "$component" > install.log
 done
 listed() { (cd "$1" && find . -type f -o -type l) | cut -c 3- | grep -vE '^include/|^share/doc/' | sort; }
+config=$(sed -n 's/^CMAKE_BUILD_TYPE:.*=//p' "$build/CMakeCache.txt")
 diff <(listed runtime; listed tool; listed development) - << LIST || fail "> is missing, < is not in the list"
 $libdir/libVyrModule.so
 $library
@@ -37,7 +41,7 @@ $libdir/libvyr.so.$version
 bin/vyr
 $libdir/cmake/vyr/vyr-config-version.cmake
 $libdir/cmake/vyr/vyr-config.cmake
-$libdir/cmake/vyr/vyr-targets-release.cmake
+$libdir/cmake/vyr/vyr-targets-${config,,}.cmake
 $libdir/cmake/vyr/vyr-targets.cmake
 $libdir/libvyr.so
 $libdir/pkgconfig/vyr.pc
@@ -84,8 +88,8 @@ consume() {
     [[ $("by_package_$kind/first" "$palette") == "$expected" ]] || fail "built with find_package, $kind, it says otherwise"
 
     export PKG_CONFIG_PATH=$work/$kind/$libdir/pkgconfig
-    # shellcheck disable=SC2046  # the flags are words
-    "$compiler" -std=c++20 consumer/first.cpp $(pkg-config "$@" --cflags --libs vyr) -o "by_pkgconfig_$kind"
+    # shellcheck disable=SC2046,SC2086  # the flags are words
+    "$compiler" $CXXFLAGS -std=c++20 consumer/first.cpp $(pkg-config "$@" --cflags --libs vyr) -o "by_pkgconfig_$kind"
     [[ $(LD_LIBRARY_PATH=$work/$kind/$libdir "./by_pkgconfig_$kind" "$palette") == "$expected" ]] ||
         fail "built with pkg-config, $kind, it says otherwise"
 }
