@@ -8,7 +8,7 @@
 #   check_packages.sh CPACK BUILD_FOLDER SOURCE_FOLDER
 
 set -euo pipefail
-for tool in dpkg-deb dpkg-shlibdeps; do
+for tool in dpkg-deb dpkg-shlibdeps file; do
     command -v "$tool" > /dev/null || { echo "check_packages.sh: skipped, there is no $tool"; exit 77; }
 done
 work=$(mktemp -d)
