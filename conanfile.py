@@ -35,6 +35,9 @@ class VyrConan(ConanFile):
         self.requires("libxml2/[>=2.9.10 <3]")
         self.requires("zlib/[>=1.2.11 <2]")
         self.requires("bzip2/[>=1.0.8 <2]")
+        if self.options.tools:
+            self.requires("cli11/[>=2.3 <3]", visible=False)
+            self.requires("nlohmann_json/[>=3.11 <4]", visible=False)
 
     def validate(self):
         check_min_cppstd(self, 20)

@@ -7,7 +7,7 @@
 set -euo pipefail
 cd "$(dirname "$0")/.."
 
-scripts/setup.sh build package
+scripts/setup.sh build tool package
 cmake --preset package > /dev/null
 cmake --build --preset package
 rm -f build/package/*.deb
