@@ -29,6 +29,13 @@ if(VYR_BUILD_TOOLS AND VYR_BUILD_FLAT AND BUILD_SHARED_LIBS)
                 ${PROJECT_SOURCE_DIR})
   set_tests_properties(debian_packages PROPERTIES SKIP_RETURN_CODE 77)
 endif()
+if(VYR_BUILD_TOOLS)
+  # Under every preset: the programs that the guides run are checked as they run.
+  add_test(NAME guides_blocks COMMAND ${Python3_EXECUTABLE} ${checks}/docs/check_guides.py ${PROJECT_SOURCE_DIR}
+                                      ${PROJECT_BINARY_DIR}/examples $<TARGET_FILE:vyr_tool>)
+  add_test(NAME guides_samples COMMAND doc_guides ${PROJECT_SOURCE_DIR}/examples/css-colors.vyr
+           WORKING_DIRECTORY ${PROJECT_BINARY_DIR}/docs/samples)
+endif()
 if(VYR_BUILD_FLAT AND BUILD_SHARED_LIBS)
   set(flat_list ${PROJECT_SOURCE_DIR}/flat/generated/exports.txt)
   vyr_add_check(flat_exports ${checks}/flat/check_exports.sh $<TARGET_FILE:vyr> ${flat_list})

@@ -36,7 +36,8 @@ install(FILES schema/vyr.xsd DESTINATION ${CMAKE_INSTALL_DATADIR}/vyr COMPONENT 
 # As the guides lie in the sources, so that their links hold.
 install(FILES README.md CONTRIBUTING.md SECURITY.md CHANGELOG.md LICENSE DESTINATION ${CMAKE_INSTALL_DOCDIR}
         COMPONENT documentation)
-install(DIRECTORY docs examples DESTINATION ${CMAKE_INSTALL_DOCDIR} COMPONENT documentation)
+install(DIRECTORY docs examples DESTINATION ${CMAKE_INSTALL_DOCDIR} COMPONENT documentation
+        REGEX "docs/(samples/CMakeLists.txt|[^/]*[.](in|py|cmake))$" EXCLUDE)
 
 install(EXPORT vyr-targets NAMESPACE vyr:: DESTINATION ${vyr_package_dir} COMPONENT development)
 configure_package_config_file(cmake/vyr-config.cmake.in vyr-config.cmake INSTALL_DESTINATION ${vyr_package_dir})

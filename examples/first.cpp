@@ -8,15 +8,14 @@
 int main(int argc, char** argv) {
     if (argc != 2) return 2;
     com_vyrgraph_v2::Vyr document;
-    const com_vyrgraph_v2::DocumentReport report = loadFileWithReport(document, std::string(argv[1]));
+    const auto report = com_vyrgraph_v2::loadFileWithReport(document, std::string(argv[1]));
     if (!report.isOk()) {
         std::cerr << report.toString();
         return 1;
     }
-    std::string text;
     for (std::size_t i = 0; i < document.size_Palette(); ++i) {
         const com_vyrgraph_v2::PaletteType& palette = document.get_Palette(i);
-        std::cout << lmx::convert(&text, palette.get_PaletteName()) << ": ";
+        std::cout << lmx::convert_to_narrow(palette.get_PaletteName()) << ": ";
         std::cout << palette.size_ColorSet() << " colour set(s)\n";
     }
 }

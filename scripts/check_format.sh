@@ -8,7 +8,7 @@
 set -euo pipefail
 cd "$(dirname "$0")/.."
 
-mapfile -d '' files < <(find lmx schema zip document flat tools tests bench fuzz examples -name generated -prune -o \
+mapfile -d '' files < <(find lmx schema zip document flat tools tests bench fuzz examples docs -name generated -prune -o \
     \( -name '*.h' -o -name '*.cpp' -o -name '*.c' \) -print0)
 if [[ ${#files[@]} -eq 0 ]]; then
     echo "check_format.sh: found no file" >&2

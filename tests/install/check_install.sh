@@ -51,7 +51,7 @@ $libdir/libvyr.so
 $libdir/pkgconfig/vyr.pc
 share/vyr/vyr.xsd
 LIST
-[[ -f documentation/share/doc/vyr/docs/reading.md ]] || fail "the guides are missing"
+[[ -f documentation/share/doc/vyr/docs/format.md ]] || fail "the guides are missing"
 "$cmake" --install "$build" --prefix "$work/first" > install.log
 mv first shared
 [[ $(find shared -type f | wc -l) == $(find runtime tool development documentation -type f | wc -l) ]] ||
