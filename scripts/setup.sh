@@ -4,7 +4,7 @@
 #
 # Installs what is missing to work on Vyr on a Debian 12 machine; does nothing, quickly, when nothing is missing.
 #
-#   scripts/setup.sh [build] [tool] [test] [csharp] [windows] [bench] [fuzz] [package]      (without arguments: build)
+#   scripts/setup.sh [build] [tool] [test] [csharp] [windows] [bench] [docs] [fuzz] [package]   (without any: build)
 
 set -euo pipefail
 
@@ -16,6 +16,7 @@ declare -A packages=(
     [windows]="g++-mingw-w64-i686-posix"
     [package]="dpkg-dev file"
     [bench]="libbenchmark-dev libpugixml-dev"
+    [docs]="doxygen python3"
     [fuzz]="clang-14 clang libclang-rt-14-dev"
 )
 
