@@ -171,6 +171,27 @@ void gather(const std::string& path) {
     expect(report.isOk(), "the palette is valid");
 }
 
+// docs/reports.md
+
+void gather_lines(const std::string& path) {
+    com_vyrgraph_v2::Vyr document;
+    const auto report = com_vyrgraph_v2::loadFileWithReport(document, path, {.collect = true});
+    for (const com_vyrgraph_v2::DocumentFault& fault : report.getFaults()) {
+        std::cerr << com_vyrgraph_v2::formatFault(fault) << "\n";
+    }
+    expect(report.isOk(), "the palette is valid");
+
+    document.append_Palette();
+    std::u16string text;
+    const std::string said = com_vyrgraph_v2::writeStringWithReport(document, &text).toString();
+    expect(
+        said.starts_with("Palette[2]: min/max occurs error on marshaling: the attribute PaletteName and the element "
+                         "ChangeHistory are missing"),
+        "what a palette lacks");
+}
+
+// docs/errors.md, again
+
 void load_plainly() {
     com_vyrgraph_v2::Vyr document;
     const lmx::elmx_error code = document.loadFile(u"inks.vyr");
@@ -293,6 +314,7 @@ int main(int argc, char** argv) {
 
     load_with_report(path);
     gather(path);
+    gather_lines(path);
     load_plainly();
     read_with_a_reader();
     read_twice(lmx::convert_to_wide(path));

@@ -134,7 +134,10 @@ for page in pages:
             blocks += 1
             where = f"{page.relative_to(source)}:{text.count(chr(10), 0, block.start()) + 1}"
             check_block(block[1], block[2].splitlines(), scratch, where)
-    check_links(page, re.sub(r"^```.*?^```$", "", text, flags=re.MULTILINE | re.DOTALL))
+    prose = re.sub(r"^```.*?^```$", "", text, flags=re.MULTILINE | re.DOTALL)
+    check_links(page, prose)
+    if re.search(r"^    ", prose, re.MULTILINE):
+        problems.append(f"{page.relative_to(source)}: a block that is indented, not fenced, is checked by nobody")
 for page in source.glob("*/**/README.md"):
     if "build" not in page.relative_to(source).parts:
         check_links(page, page.read_text())
