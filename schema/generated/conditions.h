@@ -580,7 +580,7 @@ public:
     bool isset_ASTM_Table() const { return m_isset_ASTM_Table; }
     void unset_ASTM_Table() { m_isset_ASTM_Table = false; }
 
-    /// Gamma of the device.
+    /// Gamma of the device, the exponent of its tone curve.
     double get_Gamma() const { return m_Gamma; }
     lmx::elmx_error set_Gamma(double value);
     bool isset_Gamma() const { return m_isset_Gamma; }
@@ -673,7 +673,7 @@ public:
     bool isset_ASTM_Table() const { return m_isset_ASTM_Table; }
     void unset_ASTM_Table() { m_isset_ASTM_Table = false; }
 
-    /// Gamma of the device.
+    /// Gamma of the device, the exponent of its tone curve.
     double get_Gamma() const { return m_Gamma; }
     lmx::elmx_error set_Gamma(double value);
     bool isset_Gamma() const { return m_isset_Gamma; }
@@ -813,7 +813,7 @@ public:
     bool isset_ASTM_Table() const { return m_isset_ASTM_Table; }
     void unset_ASTM_Table() { m_isset_ASTM_Table = false; }
 
-    /// Gamma of the device.
+    /// Gamma of the device, the exponent of its tone curve.
     double get_Gamma() const { return m_Gamma; }
     lmx::elmx_error set_Gamma(double value);
     bool isset_Gamma() const { return m_isset_Gamma; }
@@ -906,7 +906,7 @@ public:
     bool isset_ASTM_Table() const { return m_isset_ASTM_Table; }
     void unset_ASTM_Table() { m_isset_ASTM_Table = false; }
 
-    /// Gamma of the device.
+    /// Gamma of the device, the exponent of its tone curve.
     double get_Gamma() const { return m_Gamma; }
     lmx::elmx_error set_Gamma(double value);
     bool isset_Gamma() const { return m_isset_Gamma; }

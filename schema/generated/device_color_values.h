@@ -559,7 +559,7 @@ public:
     const std::u16string& get_Name() const { return m_Name; }
     lmx::elmx_error set_Name(const std::u16string& value);
 
-    /// Amount of the ink.
+    /// Amount of the ink; no unit is stated.
     double get_Value() const { return m_Value; }
     lmx::elmx_error set_Value(double value);
 

@@ -49,7 +49,7 @@ public:
     void delete_CustomAttribute(std::size_t index);
     void clear_CustomAttribute();
 
-    /// Value of the function.
+    /// Value of the function, in the unit of its formula.
     double get_Result() const { return m_Result; }
     lmx::elmx_error set_Result(double value);
     bool isset_Result() const { return m_isset_Result; }
@@ -661,7 +661,7 @@ public:
     void reset();
     bool is_occurs_ok() const;
 
-    /// Upper limit.
+    /// Upper limit, in the unit of the parameter.
     double get_HighValue() const { return m_HighValue; }
     lmx::elmx_error set_HighValue(double value);
     bool isset_HighValue() const { return m_isset_HighValue; }
@@ -675,7 +675,7 @@ public:
     bool isset_ToleranceParameter() const { return m_isset_ToleranceParameter; }
     void unset_ToleranceParameter() { m_isset_ToleranceParameter = false; }
 
-    /// Lower limit.
+    /// Lower limit, in the unit of the parameter.
     double get_LowValue() const { return m_LowValue; }
     lmx::elmx_error set_LowValue(double value);
 

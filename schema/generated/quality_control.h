@@ -49,11 +49,11 @@ public:
     void delete_CustomAttribute(std::size_t index);
     void clear_CustomAttribute();
 
-    /// Upper limit.
+    /// Upper limit, in the unit of the result.
     double get_HighTolerance() const { return m_HighTolerance; }
     lmx::elmx_error set_HighTolerance(double value);
 
-    /// Lower limit.
+    /// Lower limit, in the unit of the result.
     double get_LowTolerance() const { return m_LowTolerance; }
     lmx::elmx_error set_LowTolerance(double value);
     bool isset_LowTolerance() const { return m_isset_LowTolerance; }

@@ -23,6 +23,7 @@ class SimpleType:
     collapse: bool
     doc: str = ""
     enumeration: tuple = ()
+    enumeration_docs: tuple = ()
     minimum: str | None = None
     maximum: str | None = None
     minimum_exclusive: bool = False
@@ -206,9 +207,11 @@ class Builder:
         base = self.simple_type(restriction, restriction.get("base"))
         if base is None or not base.name.startswith("xs:"):
             raise restriction.error("only built-in types can be restricted")
-        facets = {"enumeration": tuple(f.get("value") for f in restriction.all("enumeration"))}
+        texts = restriction.all("enumeration")
+        facets = {"enumeration": tuple(f.get("value") for f in texts),
+                  "enumeration_docs": tuple(self.doc(f) for f in texts)}
         for facet in restriction.children:
-            facet.check("value", "")
+            facet.check("value", "annotation" if facet.tag == "enumeration" else "")
             tag, value = facet.tag, facet.get("value", "")
             if tag not in ("enumeration", "pattern") and not re.fullmatch(r"-?\d+(\.\d+)?", value):
                 raise facet.error(f"'{value}' is no plain decimal number")

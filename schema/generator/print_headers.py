@@ -287,9 +287,12 @@ def enumerator(name, text):
 def print_enumerations(plan):
     body = []
     for name, simple in sorted(plan.enumerations.items()):
-        names = [enumerator(name, text) for text in simple.enumeration]
-        body += [*comment(simple.doc), f"enum Eenum_{name} : std::int32_t {{",
-                 *(f"    {n}{' = 1' if n == names[0] else ''}," for n in names), "};", ""]
+        body += [*comment(simple.doc), f"enum Eenum_{name} : std::int32_t {{"]
+        start = " = 1"
+        for text, doc in zip(simple.enumeration, simple.enumeration_docs):
+            body += [f"    {enumerator(name, text)}{start},  ///< {doc}"]
+            start = ""
+        body += ["};", ""]
     return frame("Numbers of the enumerated texts, from 1; 0 stands for any other text.", ["#pragma once", ""],
                  ["<cstdint>"], body[:-1])
 
