@@ -282,7 +282,7 @@ private:
         const std::string& text = m_reader.get_scanner_text();
         const bool has_ended = m_reader.has_source_ended();
         if (m_code == ELMX_UNABLE_TO_READ_ELEMENT_VALUE) {
-            if (!has_ended) failure.line = m_reader.get_line_no();
+            if (!has_ended) failure.line = m_reader.get_text_line();
             failure.detail = text.empty() && !has_ended ? unresolved(m_reader.m_value)
                              : has_read_bad_bytes()     ? std::string(k_bad_bytes)
                              : text.empty()             ? std::string("the document ends within it")

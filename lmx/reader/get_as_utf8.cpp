@@ -69,6 +69,8 @@ void c_get_as_utf8::rewind() {
     m_utf8_char[0] = 0;
     m_pending = nullptr;
     m_line_num = 1;
+    m_recounted = 0;
+    m_returned_feeds = 0;
     m_is_source_at_end = false;
     // A source may serve what is left of its buffer first: it must know what that is.
     const std::uint64_t bytes_read = get_bytes_read();
@@ -90,6 +92,7 @@ void c_get_as_utf8::unget(int c) {
         --m_current;
         return;
     }
+    m_returned_feeds += static_cast<int>(c == '\n');
     m_unget.unget(c);
 }
 
@@ -97,6 +100,12 @@ int c_get_as_utf8::get_slowly() {
     int c = raw_step();
     if (c == '\n' && m_last_char == '\r') c = raw_step();
     m_last_char = c;
+    if (c == '\n' && m_returned_feeds > 0) {
+        --m_returned_feeds;
+        ++m_recounted;
+    }
+    // One that came from a lone carriage return never comes back.
+    if (m_unget.empty()) m_returned_feeds = 0;
     if (c == '\r') {
         ++m_line_num;
         return '\n';

@@ -72,7 +72,10 @@ public:
     /// that contradicts the bytes.
     bool set_encoding(const char* name);
 
+    /// From 1; a line feed that is given back counts again.
     int get_line_num() const { return m_line_num; }
+    /// The line as an editor shows it: each line end counts once.
+    int get_text_line() const { return m_line_num - m_recounted; }
     const char* get_source_id() const { return m_reader.get_source_id(); }
     c_error& get_error_handler() const { return m_error; }
 
@@ -160,6 +163,8 @@ private:
     char m_utf8_char[8] = {};
     const char* m_pending = nullptr;
     int m_line_num = 1;
+    int m_recounted = 0;       ///< line feeds that `m_line_num` counts a second time
+    int m_returned_feeds = 0;  ///< those among what was given back
     const char* m_begin = nullptr;     ///< the window in use
     const char* m_current = nullptr;   ///< its unread part
     const char* m_end = nullptr;       ///< its end

@@ -101,7 +101,7 @@ elxp_xml_event c_xml::get_element_name(c_xml_local* local, std::string* name) {
     for (;;) {
         name->clear();
         int c = get_non_ws();
-        m_event_line = get_line_num();
+        m_event_line = get_text_line();
         if (c == -1) return deliver(ELXP_END_OF_INPUT);
         if (c == '&') {
             c_stream_name_reader stream(*this);
@@ -259,7 +259,7 @@ bool c_xml::read_attributes(c_xml_local* local) {
             unget(c);
             return c != -1;
         }
-        s_attribute attribute{m_attr_buffer.size(), 0, 0, 0, 0, get_line_num()};
+        s_attribute attribute{m_attr_buffer.size(), 0, 0, 0, 0, get_text_line()};
         m_attr_buffer += static_cast<char>(c);
         take_run(k_stops_of_names, &m_attr_buffer);
         for (c = get(); is_name_char(c); c = get()) m_attr_buffer += static_cast<char>(c);

@@ -41,7 +41,7 @@ bool c_xml::take_start_tag(std::string* name) {
         if (text[at] == '>' || text[at] == '/') break;
         if (!is_plain_name_start(text[at])) return false;
         const std::size_t start = at;
-        const int line = get_line_num() + line_feeds;
+        const int line = get_text_line() + line_feeds;
         at = run_length(text, at, k_stops_of_names);
         if (text.size() - at < 2 || text[at] != '=' || text.substr(start, 5) == "xmlns") return false;
         const std::size_t length = at - start;

@@ -88,9 +88,10 @@ public:
     bool get_error_info(elmx_error_type* type, elmx_error* code, int* line) const {
         return m_collector.get_error_info(type, code, line);
     }
-    /// What the scanner said in its last report of an error, and the line; empty while there was none.
+    /// What the scanner said in its last report of an error, which is the latest thing that it did, and the line as
+    /// an editor shows it; empty while there was none.
     const std::string& get_scanner_text() const { return m_collector.m_text; }
-    int get_scanner_line() const { return m_collector.m_line; }
+    int get_scanner_line() const { return m_collector.m_line - (get_line_num() - get_text_line()); }
     /// The current line, from 1.
     int get_line_no() const { return get_line_num(); }
 

@@ -160,11 +160,12 @@ TEST(Lines, CountAgainWhenGivenBack) {
         const char* bytes;
         std::string rest;
         int line;
+        int text_line;
     } cases[] = {
-        {"<\nb", "\nb", 3},
-        {"<\rb", "b", 2},      // dropped as the second half of a pair
-        {"<\r\nb", "\nb", 3},  // ... whose place the true second half takes
-        {"<\r\rb", "\nb", 3},
+        {"<\nb", "\nb", 3, 2},
+        {"<\rb", "b", 2, 2},      // dropped as the second half of a pair
+        {"<\r\nb", "\nb", 3, 2},  // ... whose place the true second half takes
+        {"<\r\rb", "\nb", 3, 3},
     };
     for (const auto& row : cases) {
         const std::string bytes = row.bytes;
@@ -178,6 +179,7 @@ TEST(Lines, CountAgainWhenGivenBack) {
         for (int c = input.get(); c != -1; c = input.get()) rest += static_cast<char>(c);
         EXPECT_EQ(rest, row.rest) << testing::PrintToString(bytes);
         EXPECT_EQ(input.get_line_num(), row.line) << testing::PrintToString(bytes);
+        EXPECT_EQ(input.get_text_line(), row.text_line) << testing::PrintToString(bytes);
     }
 }
 
