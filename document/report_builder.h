@@ -36,6 +36,12 @@ private:
 
     ReportOptions m_options;
     std::string m_file;
+    /// Of the attribute with an unknown name that was taken last: its element, and the name that it resembles.
+    struct {
+        const void* object = nullptr;
+        int line = 0;
+        std::string meant{};
+    } m_mistyped;
     DocumentReport m_report;
 };
 

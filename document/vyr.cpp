@@ -77,7 +77,10 @@ lmx::elmx_error load_from_container(Vyr& document, CZipContainer& archive, const
         const s_document_bytes bytes = read_first_entry(archive, path);
         return load_memory(document, bytes.data.get(), bytes.size, report);
     } catch (...) {
-        return give_up(archive, report);
+        const bool is_empty = archive.GetEntryCount() == 0;
+        const lmx::elmx_error error = give_up(archive, report);
+        if (is_empty && report != nullptr) report->explain_last("the archive holds no file");
+        return error;
     }
 }
 
@@ -89,6 +92,12 @@ lmx::elmx_error write_to_container(CZipContainer& archive, const std::u16string&
     } catch (...) {
         return give_up(archive, report);
     }
+}
+
+bool is_archive(const std::string& system_path) {
+    constexpr std::string_view k_signature = "PK\x03\x04";
+    std::string start(k_signature.size(), '\0');
+    return std::ifstream(system_path, std::ios::binary).read(start.data(), 4) && start == k_signature;
 }
 
 lmx::elmx_error refuse_file(c_report_builder* report, const std::string& detail) {
@@ -117,6 +126,8 @@ lmx::elmx_error load_plain_file(Vyr& document, const std::string& system_path, c
     // Which opens like a file, and then looks like an empty document.
     if (error != lmx::ELMX_OK && report != nullptr && std::filesystem::is_directory(system_path, ignored)) {
         report->explain_last("it is a directory");
+    } else if (error != lmx::ELMX_OK && report != nullptr && is_archive(system_path)) {
+        report->explain_last("it is a ZIP archive; the name of a container must end in .vyrz");
     }
     return error;
 }

@@ -100,7 +100,10 @@ std::string length_limit(const char* start, std::size_t limit, const std::string
 /// What would be right in place of a value that failed a check.
 std::string allowed_value(const s_item& item, elmx_error code, const std::string& text) {
     const char* const ending = text.empty() ? "; nothing stands here" : "";
-    if (code == ELMX_VALUE_BAD_FORMAT) return joined({expected_form(item), ending});
+    if (code == ELMX_VALUE_BAD_FORMAT) {
+        const bool has_comma = item.value == value_kind::number && text.find(',') != text.npos;
+        return joined({expected_form(item), has_comma ? ", with a point and no comma" : ending});
+    }
     if (item.facets == nullptr) return {};
     const s_facets& facets = *item.facets;
     switch (code) {
@@ -161,6 +164,7 @@ constexpr s_scanner_sentence k_scanner_sentences[] = {
      "an attribute's value must stand in quotes, and the quotes must end"},
     {"Unexpected end of file", "the document ends within a start tag"},
     {"Premature end of file", "the document ends within a value"},
+    {"Illegal character(s) after /", "a tag is broken, or a < begins none: in text it is written &lt;"},
 };
 
 std::string scanner_sentence(std::string_view text) {
@@ -240,7 +244,7 @@ private:
 
     std::string unresolved(std::string_view text) const {
         const std::string_view reference = trailing_reference(text);
-        if (reference.empty()) return "a reference to a character in it is none";
+        if (reference.empty()) return "a reference that follows, &# and a number, names no character";
         return joined({shown(reference), " is no known reference; an & in text is written &amp;"});
     }
 
@@ -259,8 +263,11 @@ private:
         } else if (m_code == ELMX_UNEXPECTED_ATTRIBUTE) {
             names all;
             for (const s_item* item : all_rows(*m_site.type, &s_class::attributes)) add_names(*item, &all);
+            const std::string local(local_part(name));
+            const bool is_known = std::find(all.begin(), all.end(), local) != all.end();
+            failure.meant = is_known ? local : nearest(local, all);
             failure.detail = joined({open_name(), " takes ", all.empty() ? "no attributes" : listed(all, "and"),
-                                     meant(local_part(name), all)});
+                                     is_known ? ", without a prefix" : meant(local, all)});
         } else if (m_code == ELMX_UNABLE_TO_READ_ATTRIBUTE_VALUE) {
             const std::string& text = m_reader.get_scanner_text();
             failure.detail = text.empty() ? unresolved(m_reader.m_value) : scanner_sentence(text);
@@ -288,8 +295,10 @@ private:
                              : text.empty()             ? std::string("the document ends within it")
                                                         : scanner_sentence(text);
         } else if (m_code == ELMX_BAD_END_OF_ELEMENT) {
-            failure.detail =
-                joined({"only a value may stand in it, and then its end tag </", shown(m_reader.m_name), ">"});
+            failure.detail = has_ended ? std::string("the document ends within it")
+                                       : joined({"only a value may stand in it, with each < written &lt;, and then "
+                                                 "its end tag </",
+                                                 shown(m_reader.m_name), ">"});
         } else {
             failure.detail = text.empty() ? k_unended : scanner_sentence(text);
         }
@@ -348,6 +357,12 @@ private:
         const bool is_own = m_open != nullptr && m_reader.m_name == m_open->get_name();
         return is_own ? "" : joined({"</", shown(m_reader.m_name), ">"});
     }
+    /// What should stand once has just been read.
+    bool is_repeated() const {
+        const s_item* const last = m_open == nullptr ? nullptr : m_open->last_item;
+        return last != nullptr && !last->name.empty() && !is_foreign() &&
+               local_part(m_reader.m_name) == local_part(last->name);
+    }
     /// `all` may have been meant.
     std::string found(const names& all = {}) const {
         if (m_event == ELXP_TEXT) return "text stands here";
@@ -355,7 +370,7 @@ private:
             const std::string text = found_text();
             return text.empty() ? joined({open_name(), " ends here"}) : joined({text, " stands here"});
         }
-        const std::string text = joined({"<", found_text(), "> stands here"});
+        const std::string text = joined({"<", found_text(), "> stands here", is_repeated() ? " again" : ""});
         if (!is_foreign()) return joined({text, meant(local_part(m_reader.m_name), all)});
         return joined({text, ", which is not in the namespace ", format_namespace(namespace_of_open())});
     }
@@ -382,14 +397,19 @@ private:
                 failure.detail = joined({"the document must begin with the element ", m_site.document->local_name,
                                          " in the namespace ", format_namespace(m_site.document->ns_map->ns_id)});
                 break;
-            case ELMX_MANDATORY_ELEMENT_MISSING:
-                failure.detail =
-                    sentence(m_site.item != nullptr ? missing({&m_site.item, 1}) : "", found(expected_names()));
+            case ELMX_MANDATORY_ELEMENT_MISSING: {
+                // Of names that are equally near the one that is missing comes first.
+                names all;
+                if (m_site.item != nullptr) add_names(*m_site.item, &all);
+                for (std::string& other : expected_names()) all.push_back(std::move(other));
+                failure.detail = sentence(m_site.item != nullptr ? missing({&m_site.item, 1}) : "", found(all));
                 break;
+            }
             case ELMX_REQUIRED_ATTRIBUTES_MISSING:
                 failure.line = m_open->line;
                 failure.value.clear();
                 failure.detail = missing(absent_attributes());
+                if (absent_attributes().size() == 1) failure.meant = local_part(absent_attributes().front()->name);
                 break;
             case ELMX_UNKNOWN_ELEMENT_IN_COMPLEX_CONTENT:
                 failure.detail = sentence(missing_choice(*m_site.type), found(expected_names()));

@@ -21,6 +21,7 @@ struct s_failure {
     std::string path;    ///< "Palette "Inks" / ColorSet[2] / @ColorSetName"
     std::string value;   ///< the offending text
     std::string detail;  ///< what would be right
+    std::string meant;   ///< the attribute that is missing, if it is but one, or that a name resembles
 };
 
 /// To be called from the handler of the reader.

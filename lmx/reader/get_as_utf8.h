@@ -163,8 +163,8 @@ private:
     char m_utf8_char[8] = {};
     const char* m_pending = nullptr;
     int m_line_num = 1;
-    int m_recounted = 0;       ///< line feeds that `m_line_num` counts a second time
-    int m_returned_feeds = 0;  ///< those among what was given back
+    int m_recounted = 0;               ///< line feeds that `m_line_num` counts a second time
+    int m_returned_feeds = 0;          ///< those among what was given back
     const char* m_begin = nullptr;     ///< the window in use
     const char* m_current = nullptr;   ///< its unread part
     const char* m_end = nullptr;       ///< its end

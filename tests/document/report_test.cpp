@@ -105,6 +105,10 @@ TEST(Report, OfOneChangeToAGoodDocument) {
         {"ColorName=\"Ink 1\"", "",
          "line 10: Palette \"Inks\" / ColorSet \"All\" / Color[1]: Required attribute(s) missing: the attribute "
          "ColorName is missing"},
+        {"ColorName=", "\n Vyr:ColorName=",
+         "line 11: Palette \"Inks\" / ColorSet \"All\" / Color[1] / @Vyr:ColorName: Unexpected attribute (Ink 1): "
+         "Color "
+         "takes ColorName, UniqueID, ColorNumber and Comments, without a prefix"},
         {"ColorName=\"Ink 1\"", "ColorName",
          "line 10: Palette \"Inks\" / ColorSet \"All\": Not well formed (Vyr:Color): an attribute must have a value, "
          "in quotes behind an equals sign"},
@@ -126,7 +130,9 @@ TEST(Report, OfOneChangeToAGoodDocument) {
          "& in text is written &amp;"},
         {"</Vyr:L>", "",
          "line 14: " + k_lab +
-             " / L: Bad end of element (50): only a value may stand in it, and then its end tag </Vyr:L>"},
+             " / L: Bad end of element (50): only a value may stand in it, with each < written &lt;, and then its "
+             "end "
+             "tag </Vyr:L>"},
         {"<Vyr:L>50", "&x;<Vyr:L>50",
          "line 14: " + k_lab +
              ": Mandatory element missing (&x;): &x; is no known reference; an & in text is written &amp;"},
@@ -137,6 +143,11 @@ TEST(Report, OfOneChangeToAGoodDocument) {
         {"Vyr:L>50</Vyr:L", "Vyr:l>50</Vyr:l",
          "line 14: " + k_lab +
              ": Mandatory element missing: the element L is missing; <Vyr:l> stands here; is L meant?"},
+        {"Vyr:B>2</Vyr:B", "Vyr:AB>2</Vyr:AB",
+         "line 16: " + k_lab +
+             ": Mandatory element missing: the element B is missing; <Vyr:AB> stands here; is B meant?"},
+        {"Vyr:B>2</Vyr:B", "Vyr:A>2</Vyr:A",
+         "line 16: " + k_lab + ": Mandatory element missing: the element B is missing; <Vyr:A> stands here again"},
         {"<Vyr:L>", "<L>",
          "line 14: " + k_lab +
              ": Mandatory element missing: the element L is missing; <L> stands here, which is not in the namespace "
