@@ -10,6 +10,7 @@
 #include <cstdio>
 #include <filesystem>
 #include <fstream>
+#include <new>
 #include <sstream>
 #include <system_error>
 
@@ -145,7 +146,10 @@ lmx::elmx_error load_file(Vyr& document, const std::u16string& path, c_report_bu
 lmx::elmx_error write_string(const Vyr& document, std::u16string* text, c_report_builder* report) {
     std::ostringstream stream;
     const lmx::elmx_error error = marshal_stamped(document, stream, report);
-    if (error == lmx::ELMX_OK) lmx::convert(text, std::move(stream).str());
+    if (error != lmx::ELMX_OK) return error;
+    // A stream keeps quiet about memory that ran out.
+    if (!stream.good()) throw std::bad_alloc();
+    lmx::convert(text, std::move(stream).str());
     return error;
 }
 
