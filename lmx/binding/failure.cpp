@@ -66,7 +66,7 @@ std::string sentence(const std::string& start, const std::string& rest) {
 
 std::string meant(std::string_view text, const names& all) {
     const std::string name = nearest(text, all);
-    return name.empty() ? name : joined({"; is ", name, " meant?"});
+    return name.empty() ? name : joined({" (is ", name, " meant?)"});
 }
 
 // Values.

@@ -95,8 +95,8 @@ TEST(Report, OfOneChangeToAGoodDocument) {
              " / @Colour: Unexpected attribute (1): Color takes ColorName, UniqueID, ColorNumber and Comments"},
         {"\"Ink 1\"", "\"Ink 1\"\n\n  UniqueId='7'",
          "line 12: " + k_ink +
-             " / @UniqueId: Unexpected attribute (7): Color takes ColorName, UniqueID, ColorNumber and Comments; is "
-             "UniqueID meant?"},
+             " / @UniqueId: Unexpected attribute (7): Color takes ColorName, UniqueID, ColorNumber and Comments (is "
+             "UniqueID meant?)"},
         {"\"Ink 1\"", "\"Ink 1\" ColorName='b'",
          "line 10: " + k_ink + " / @ColorName: Attribute has already been read (b): the attribute is given twice"},
         {"Ink 1", "A &amp; \\ &quot;B&quot;\" x=\"",
@@ -142,10 +142,10 @@ TEST(Report, OfOneChangeToAGoodDocument) {
          "line 16: " + k_lab + ": Mandatory element missing: the element A is missing; <Vyr:B> stands here"},
         {"Vyr:L>50</Vyr:L", "Vyr:l>50</Vyr:l",
          "line 14: " + k_lab +
-             ": Mandatory element missing: the element L is missing; <Vyr:l> stands here; is L meant?"},
+             ": Mandatory element missing: the element L is missing; <Vyr:l> stands here (is L meant?)"},
         {"Vyr:B>2</Vyr:B", "Vyr:AB>2</Vyr:AB",
          "line 16: " + k_lab +
-             ": Mandatory element missing: the element B is missing; <Vyr:AB> stands here; is B meant?"},
+             ": Mandatory element missing: the element B is missing; <Vyr:AB> stands here (is B meant?)"},
         {"Vyr:B>2</Vyr:B", "Vyr:A>2</Vyr:A",
          "line 16: " + k_lab + ": Mandatory element missing: the element B is missing; <Vyr:A> stands here again"},
         {"<Vyr:L>", "<L>",
