@@ -23,20 +23,7 @@ constexpr std::size_t k_longest_path = 4096;
 
 /// What a load may pass over and go on.
 bool is_passable(elmx_error code) {
-    switch (code) {
-        case ELMX_ATTRIBUTE_ALREADY_READ:
-        case ELMX_LENGTH_TOO_LONG:
-        case ELMX_LENGTH_TOO_SHORT:
-        case ELMX_NO_PATTERN_MATCHED:
-        case ELMX_VALUE_BAD_FORMAT:
-        case ELMX_VALUE_EXCEEDS_MAX:
-        case ELMX_VALUE_BELOW_MIN:
-        case ELMX_VALUE_NOT_ENUMERATED:
-        case ELMX_UNEXPECTED_ATTRIBUTE:
-            return true;
-        default:
-            return false;
-    }
+    return is_of_value(code) || code == ELMX_ATTRIBUTE_ALREADY_READ || code == ELMX_UNEXPECTED_ATTRIBUTE;
 }
 
 /// A code in words: of those that are free for hosts, what the document calls mean by them.

@@ -14,7 +14,7 @@ constexpr std::pair<int, const char*> k_texts[] = {
     {zip_generic, "the archive's entry is damaged or was not added"},
     {zip_bad_structure, "the archive's structure is damaged"},
     {zip_bad_crc, "the check sum of the archive's entry is wrong"},
-    {zip_misuse, "the archive object is in another state"},
+    {zip_misuse, "the archive object can not serve this call"},
     {zip_too_long, "a name, comment or extra field is over 65535 bytes"},
     {zip_truncate_failed, "the archive could not be cut"},
     {zip_encrypted, "the archive's entry is encrypted"},

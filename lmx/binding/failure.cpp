@@ -130,21 +130,6 @@ std::string allowed_value(const s_item& item, elmx_error code, const std::string
     }
 }
 
-bool is_of_value(elmx_error code) {
-    switch (code) {
-        case ELMX_LENGTH_TOO_LONG:
-        case ELMX_LENGTH_TOO_SHORT:
-        case ELMX_NO_PATTERN_MATCHED:
-        case ELMX_VALUE_BAD_FORMAT:
-        case ELMX_VALUE_EXCEEDS_MAX:
-        case ELMX_VALUE_BELOW_MIN:
-        case ELMX_VALUE_NOT_ENUMERATED:
-            return true;
-        default:
-            return false;
-    }
-}
-
 // The scanner's words, put so that they can be followed.
 
 struct s_scanner_sentence {
@@ -526,6 +511,21 @@ std::vector<const s_item*> absent_items(const s_class& type, const void* object)
 }
 
 }  // namespace
+
+bool is_of_value(elmx_error code) {
+    switch (code) {
+        case ELMX_LENGTH_TOO_LONG:
+        case ELMX_LENGTH_TOO_SHORT:
+        case ELMX_NO_PATTERN_MATCHED:
+        case ELMX_VALUE_BAD_FORMAT:
+        case ELMX_VALUE_EXCEEDS_MAX:
+        case ELMX_VALUE_BELOW_MIN:
+        case ELMX_VALUE_NOT_ENUMERATED:
+            return true;
+        default:
+            return false;
+    }
+}
 
 s_failure describe_failure(const c_xml_reader& reader, elmx_error code, const std::string& item_name) {
     return c_reading(reader, code).describe(item_name);

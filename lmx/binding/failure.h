@@ -24,6 +24,9 @@ struct s_failure {
     std::string meant;   ///< the attribute that is missing, if it is but one, or that a name resembles
 };
 
+/// Whether the code says that a value, of an element or an attribute, isn't what its type allows.
+bool is_of_value(elmx_error code);
+
 /// To be called from the handler of the reader.
 s_failure describe_failure(const c_xml_reader& reader, elmx_error code, const std::string& item_name);
 /// To be called from the handler of the writer.
