@@ -37,7 +37,8 @@ bool next_element(c_xml_reader& reader, const s_event_map* map, std::string* nam
     return *error == ELMX_OK || goes_on(reader, *error, *name, error, __LINE__);
 }
 
-void tokenise_again(c_xml_reader& reader, const s_event_map* map) {
+/// Text and ends have no name: the one at hand is that of an element or attribute before them.
+void tokenise_element(c_xml_reader& reader, const s_event_map* map) {
     if (reader.is_current_event_tokenisable()) reader.tokenise(map, ELXP_ELEMENT);
 }
 
@@ -235,7 +236,7 @@ bool read_group(const s_class& type, const s_item& item, void* object, c_xml_rea
     if (is_member) note_item(reader, item);
     if (!item.type->operations->unmarshal_part(holder, reader, name, error)) return false;
     mark_set(item, object);
-    tokenise_again(reader, type.element_map + item.next_position);
+    tokenise_element(reader, type.element_map + item.next_position);
     return true;
 }
 
@@ -245,7 +246,7 @@ bool read_group_list(const s_class& type, const s_item& item, void* object, c_xm
         note_item(reader, item);
         void* const holder = append_default(item, object);
         if (!item.type->operations->unmarshal_part(holder, reader, name, error)) return false;
-        tokenise_again(reader, type.element_map + item.next_position);
+        tokenise_element(reader, type.element_map + item.next_position);
     }
     return true;
 }
@@ -296,7 +297,7 @@ bool check_lists(const s_class& type, const void* object, c_xml_reader& reader, 
 }
 
 bool read_choice(const s_class& type, void* object, c_xml_reader& reader, std::string* name, elmx_error* error) {
-    reader.tokenise(type.element_map, ELXP_ELEMENT);
+    tokenise_element(reader, type.element_map);
     const s_item* const alternative = find_token(type.elements, reader.get_current_event());
     if (alternative == nullptr) {
         return goes_on(reader, {&type}, ELMX_UNKNOWN_ELEMENT_IN_COMPLEX_CONTENT, *name, error, __LINE__);
@@ -341,10 +342,14 @@ elmx_error read_attributes(const s_class& type, void* object, c_xml_reader& read
     return check_required_attributes(type, object, reader);
 }
 
+elmx_error refuse_end(c_xml_reader& reader, const c_string_stack_node& node) {
+    return reader.handle_error(ELMX_BAD_END_OF_ELEMENT, node.get_str(), k_source_file, __LINE__);
+}
+
 /// The element must end here, under the name it began with.
 elmx_error check_end(c_xml_reader& reader, const c_string_stack_node& node) {
-    if (reader.get_current_event() == ELXP_END_TAG && node == reader.m_name) return ELMX_OK;
-    return reader.handle_error(ELMX_BAD_END_OF_ELEMENT, node.get_str(), k_source_file, __LINE__);
+    const bool is_ended = reader.get_current_event() == ELXP_END_TAG && node == reader.m_name;
+    return is_ended ? ELMX_OK : refuse_end(reader, node);
 }
 
 /// Reads the next event of an element whose own name is `node`; failures are reported under that name.
@@ -370,18 +375,16 @@ elmx_error read_simple_content(const s_class& type, void* object, c_xml_reader& 
 elmx_error read_children(const s_class& type, void* object, c_xml_reader& reader, const c_string_stack_node& node) {
     const c_xml_reader_local scope(reader);
     elmx_error error = ELMX_OK;
-    if (reader.get_current_event() != ELXP_END_TAG) {
+    const bool is_empty_tag = reader.get_current_event() == ELXP_END_TAG;
+    if (!is_empty_tag) {
         error = read_event(reader, node);
         if (error != ELMX_OK) return error;
     }
     const bool is_empty = reader.get_current_event() == ELXP_END_TAG;
-    if (is_nil(type, object)) {
-        if (is_empty) return ELMX_OK;
-        error = read_event(reader, node);
-        return error == ELMX_OK ? check_end(reader, node) : error;
-    }
+    const bool is_misnamed = is_empty && !is_empty_tag && node != reader.m_name;
+    if (is_misnamed || (is_nil(type, object) && !is_empty)) return refuse_end(reader, node);
     if (is_empty) {
-        if (type.may_be_empty || type.content == content_kind::empty) return ELMX_OK;
+        if (is_nil(type, object) || type.may_be_empty || type.content == content_kind::empty) return ELMX_OK;
         return reader.handle_error(ELMX_UNEXPECTED_EMPTY_ELEMENT, node.get_str(), k_source_file, __LINE__);
     }
     if (!unmarshal_body(type, object, reader, &reader.m_name, &error)) return error;
@@ -452,11 +455,11 @@ bool unmarshal_body(const s_class& type, void* object, c_xml_reader& reader, std
     if (type.content == content_kind::choice) return read_choice(type, object, reader, name, error);
     if (type.base != nullptr) {
         if (!unmarshal_body(*type.base, object, reader, name, error)) return false;
-        tokenise_again(reader, type.element_map);
+        tokenise_element(reader, type.element_map);
     } else if (!type.elements.empty() && type.elements.front().kind == item_kind::any) {
         return read_any(type, type.elements.front(), object, reader, name, error);
     } else {
-        reader.tokenise(type.element_map, ELXP_ELEMENT);
+        tokenise_element(reader, type.element_map);
     }
     for (const s_item& item : type.elements) {
         if (!read_item(type, item, object, reader, name, error)) return false;
@@ -480,14 +483,13 @@ bool unmarshal_content(const s_class& type, void* object, c_xml_reader& reader, 
 
 bool unmarshal_group(const s_class& type, void* object, c_xml_reader& reader, std::string* name, elmx_error* error) {
     *error = ELMX_OK;
-    reader.tokenise(type.element_map, ELXP_ELEMENT);
+    tokenise_element(reader, type.element_map);
     const s_item* const alternative = find_token(type.elements, reader.get_current_event());
     if (alternative == nullptr) {
         release_choice(type, object);
-        if (!reader.skip_rest_of_element(*name) &&
-            !goes_on(reader, ELMX_BAD_END_OF_ELEMENT, *name, error, __LINE__)) {
-            return false;
-        }
+        // Only an element can be passed over.
+        const bool is_skipped = reader.get_scanned_event() == ELXP_NAME && reader.skip_rest_of_element(*name);
+        if (!is_skipped && !goes_on(reader, ELMX_BAD_END_OF_ELEMENT, *name, error, __LINE__)) return false;
         return next_element(reader, type.element_map, name, error);
     }
     void* typed = nullptr;

@@ -6,6 +6,8 @@
 #pragma once
 
 #include <array>
+#include <cstdint>
+#include <cstring>
 #include <string_view>
 
 #include "lmx/values/characters.h"
@@ -39,6 +41,16 @@ constexpr byte_set stops_outside(std::string_view bytes) {
 inline std::size_t run_length(std::string_view bytes, std::size_t from, const byte_set& stops) {
     while (from < bytes.size() && !stops[static_cast<unsigned char>(bytes[from])]) ++from;
     return from;
+}
+
+inline bool is_ascii(std::string_view bytes) {
+    std::uint64_t all = 0;
+    for (std::uint64_t block = 0; bytes.size() >= sizeof block; bytes.remove_prefix(sizeof block)) {
+        std::memcpy(&block, bytes.data(), sizeof block);
+        all |= block;
+    }
+    for (const char c : bytes) all |= static_cast<unsigned char>(c);
+    return (all & 0x8080808080808080) == 0;
 }
 
 inline constexpr std::string_view k_name_bytes = "ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz0123456789.-_:";

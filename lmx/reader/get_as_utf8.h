@@ -120,14 +120,12 @@ protected:
         m_last_char = m_current[-1];
         return true;
     }
-    /// The same with a text in three parts, any characters among them: only in UTF-8 do they stand there as they are.
+    /// The same with a text in three parts. Where `body` isn't ASCII, its last byte may reach into what is behind it.
     bool take_if_ahead(std::string_view head, std::string_view body, std::string_view tail) {
         const std::size_t size = head.size() + body.size() + tail.size();
-        if (m_encoding != enc_utf8 || !is_ahead(head) || static_cast<std::size_t>(m_end - m_current) < size) {
-            return false;
-        }
+        if (!is_ahead(head) || static_cast<std::size_t>(m_end - m_current) < size) return false;
         const std::string_view rest(m_current + head.size(), size - head.size());
-        if (!rest.starts_with(body) || !rest.ends_with(tail)) return false;
+        if (!rest.starts_with(body) || !rest.ends_with(tail) || !is_ascii(body)) return false;
         m_current += size;
         m_last_char = m_current[-1];
         return true;

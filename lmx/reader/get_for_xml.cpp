@@ -61,6 +61,12 @@ void c_get_for_xml::append_verbatim(std::string* out, std::string_view text) {
     *out += text;
 }
 
+void c_get_for_xml::pay_blank_ahead_of(std::size_t start, std::string* out) {
+    if (out->size() == start) return;
+    if (m_ws_pending && start > 0) out->insert(start, 1, ' ');
+    m_ws_pending = false;
+}
+
 void c_get_for_xml::skip_blanks_ahead() {
     const std::string_view text = ahead();
     std::size_t size = 0;
@@ -191,7 +197,9 @@ bool c_get_for_xml::move_to_start_tag_end(bool* is_empty) {
 
 bool c_get_for_xml::insert_character_entity(c_entity_name_reader& reader, std::string* out) {
     m_char_ref_text.clear();
-    if (!charge_reference(0)) return false;
+    // No character takes more bytes than a reference to it: in the document, that has paid for itself.
+    const bool is_written = !reader.m_is_entity_text && is_in_document();
+    if (!is_written && !charge_reference(1, 0)) return false;
     int c = reader.get();
     const bool is_hexadecimal = c == 'x';
     if (!is_hexadecimal) {

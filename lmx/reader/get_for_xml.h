@@ -18,13 +18,16 @@ namespace lmx {
 /// Where the characters of a reference come from.
 class VYR_EXPORT c_entity_name_reader {
 public:
-    explicit c_entity_name_reader(bool can_push_input) : m_can_push_input(can_push_input) {}
+    explicit c_entity_name_reader(bool can_push_input, bool is_entity_text = false)
+        : m_can_push_input(can_push_input), m_is_entity_text(is_entity_text) {}
     virtual ~c_entity_name_reader();
     virtual int get() = 0;
     virtual void unget(int c) = 0;
 
     /// Whether an entity's text may be pushed on the input and be scanned like the document.
     const bool m_can_push_input;
+    /// Whether they are known to come from an entity's text; the input tells of itself.
+    const bool m_is_entity_text;
 };
 
 /// References in text: read from the input; what they name may be pushed there.
@@ -55,6 +58,8 @@ public:
     /// Appends what a reference stands for, white space or not: only a blank that is owed comes first. Collapsed
     /// values must come back as they were written, and a blank ahead of an escaped character is part of them.
     void append_verbatim(std::string* out, std::string_view text);
+    /// The same for text that stands at the end of `out` already, from `start` on; nothing is owed to an empty one.
+    void pay_blank_ahead_of(std::size_t start, std::string* out);
 
     /// The next character that is no white space.
     int get_non_ws() {

@@ -42,7 +42,8 @@ private:
 };
 
 /// The total work that references may cause: a base for small documents, and so much for each byte of input that no
-/// document without nested definitions comes near it.
+/// document without nested definitions comes near it. A reference that stands in the document and gives no more than
+/// it took to write costs nothing. In an entity's text each one counts: a chain of short ones is work without growth.
 inline constexpr std::uint64_t k_expansion_base = 1000000;
 inline constexpr std::uint64_t k_expansion_per_byte = 5;
 inline constexpr std::uint64_t k_least_reference_cost = 20;
@@ -89,8 +90,11 @@ protected:
         return m_entity_stack.empty() && c_get_as_utf8::take_if_ahead(head, body, tail);
     }
     bool push_entity(const std::string& value) { return push_entity(value.data(), value.size()); }
-    /// Accounts for one reference to a text of that size. False, with a fatal report, past the limit.
-    bool charge_reference(std::size_t size);
+    /// Whether no entity's text is open: what was read last came from the document itself.
+    bool is_in_document() const { return m_entity_stack.empty(); }
+    /// Accounts for one reference to a text of that size. `written` is its own length where it stands in the
+    /// document, 0 in an entity's text. False, with a fatal report, past the limit.
+    bool charge_reference(std::size_t size, std::size_t written);
     void report_recursion(std::string_view value);
 
     c_entity_table& general_entities() { return m_general_entities; }

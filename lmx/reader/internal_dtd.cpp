@@ -11,6 +11,8 @@ int c_dtd_util::get() { return m_getter.get(); }
 void c_dtd_util::unget(int c) { m_getter.unget(c); }
 
 bool c_dtd_util::select_parameter_entity() {
+    // Asked before anything is read: the `%` may have been the last of an entity's text.
+    const bool is_written = m_getter.is_in_document();
     std::string name;
     int c = get();
     for (; is_name_char(c); c = get()) name += static_cast<char>(c);
@@ -20,7 +22,8 @@ bool c_dtd_util::select_parameter_entity() {
         m_getter.error(ELMX_TYPE_ERROR, ELMX_ENTITY_NOT_FOUND, "Entity '%" + name + "' not found");
         return true;
     }
-    return m_getter.charge_reference(value->size()) && m_getter.push_entity(*value);
+    const std::size_t written = is_written ? name.size() + (c == ';' ? 2 : 1) : 0;
+    return m_getter.charge_reference(value->size(), written) && m_getter.push_entity(*value);
 }
 
 bool c_dtd_util::get_entity_value(std::string* out) {
@@ -123,7 +126,7 @@ bool c_internal_dtd::read_markup() {
         if (keyword == "!--") return getter().skip_comment();
     }
     // An instruction without data ends with its target.
-    if (c == '>' && keyword.size() > 1 && keyword.starts_with('?') && keyword.ends_with('?')) return true;
+    if (c == '>' && keyword.size() > 2 && keyword.starts_with('?') && keyword.ends_with('?')) return true;
     unget(c);
     if (keyword == "!ENTITY") return read_entity_decl();
     if (keyword.starts_with('?')) return getter().skip_PI();

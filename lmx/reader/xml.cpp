@@ -47,8 +47,8 @@ void append_char(std::string* text, int c) {
 /// References in a text that lies in memory: an attribute's raw value or an entity's text.
 class c_xml::c_text_name_reader : public c_entity_name_reader {
 public:
-    c_text_name_reader(const char* text, std::size_t size, std::size_t* position)
-        : c_entity_name_reader(false), m_text(text), m_size(size), m_position(position) {}
+    c_text_name_reader(const char* text, std::size_t size, std::size_t* position, bool is_entity_text)
+        : c_entity_name_reader(false, is_entity_text), m_text(text), m_size(size), m_position(position) {}
 
     int get() override {
         if (*m_position == m_size) {
@@ -191,11 +191,12 @@ elxp_xml_event c_xml::scan_text(std::string* name) {
 
 /// Any target that begins with "xml" is taken for the declaration.
 bool c_xml::scan_instruction() {
-    for (const char expected : std::string_view("xml")) {
+    constexpr std::string_view declaration = "xml";
+    for (std::size_t matched = 0; matched < declaration.size(); ++matched) {
         const int c = get();
-        if (c == expected) continue;
-        // It may be the first half of the end.
-        if (c == '?') unget(c);
+        if (c == declaration[matched]) continue;
+        // It may be the first half of the end, behind a target.
+        if (c == '?' && matched > 0) unget(c);
         return skip_PI();
     }
     if (!m_content_seen) return read_xml_decl();
@@ -218,6 +219,13 @@ bool c_xml::scan_doctype() {
 /// With the input behind `<![`. At the end of input the section ends without an error.
 bool c_xml::read_cdata(std::string* out) {
     if (!read_specified_string_from_input("CDATA[")) return report_not_well_formed("XML not Well-Formed");
+    const std::size_t start = out->size();
+    read_cdata_text(out);
+    pay_blank_ahead_of(start, out);
+    return true;
+}
+
+void c_xml::read_cdata_text(std::string* out) {
     std::size_t brackets = 0;
     for (;;) {
         if (brackets == 0) take_run(k_stops_of_cdata, out);
@@ -228,11 +236,11 @@ bool c_xml::read_cdata(std::string* out) {
         }
         if (c == -1) {
             if (brackets > 2) out->append(brackets - 2, ']');
-            return true;
+            return;
         }
         if (c == '>' && brackets >= 2) {
             out->append(brackets - 2, ']');
-            return true;
+            return;
         }
         out->append(brackets, ']');
         brackets = 0;
@@ -373,7 +381,7 @@ bool c_xml::skip_attribute_value() {
 /// `is_plain`: characters are appended as they are.
 bool c_xml::expand_raw_text(const char* text, std::size_t size, std::size_t* position, std::string* out,
                             bool is_plain) {
-    c_text_name_reader reader(text, size, position);
+    c_text_name_reader reader(text, size, position, false);
     while (*position < size) {
         const std::string_view rest(text + *position, size - *position);
         std::size_t length = 0;
@@ -415,6 +423,8 @@ bool c_xml::keep_unresolved(bool has_semicolon, std::string* out) {
 
 /// With the reader behind `&`. A missing semicolon passes.
 bool c_xml::read_reference(c_entity_name_reader& reader, std::string* out) {
+    // Asked before anything is read: the `&` may have been the last of an entity's text.
+    const bool is_written = !reader.m_is_entity_text && is_in_document();
     const int c = reader.get();
     if (c == '#') return insert_character_entity(reader, out);
     m_entity_name.clear();
@@ -425,19 +435,22 @@ bool c_xml::read_reference(c_entity_name_reader& reader, std::string* out) {
         m_entity_name += static_cast<char>(c);
         has_semicolon = read_entity_name(reader);
     }
+    const std::size_t written = is_written ? m_entity_name.size() + (has_semicolon ? 2 : 1) : 0;
     if (const s_predefined_entity* const entity = find_predefined(m_entity_name)) {
         append_verbatim(out, std::string_view(&entity->character, 1));
-        return charge_reference(0);
+        return charge_reference(1, written);
     }
     const std::string* const value = general_entities().find(m_entity_name);
     if (value == nullptr) return keep_unresolved(has_semicolon, out);
-    if (!reader.m_can_push_input) return expand_in_place(*value, out);
+    const bool is_paid = charge_reference(value->size(), written);
+    if (!reader.m_can_push_input) return is_paid && expand_in_place(*value, out);
     // A recursion or an excess is reported, and shows as the end of input.
-    if (charge_reference(value->size())) push_entity(*value);
+    if (is_paid) push_entity(*value);
     return true;
 }
 
-/// Expands an entity inside an attribute's value, with all that it refers to, without recursion.
+/// Expands an entity inside an attribute's value, with all that it refers to, without recursion. The reference to
+/// it has been paid for.
 bool c_xml::expand_in_place(const std::string& entity, std::string* out) {
     struct s_open_text {
         const std::string* text;
@@ -446,7 +459,6 @@ bool c_xml::expand_in_place(const std::string& entity, std::string* out) {
     std::vector<s_open_text> open;
     std::unordered_set<const std::string*> open_texts;
     const auto enter = [&](const std::string& text) {
-        if (!charge_reference(text.size())) return false;
         if (!open_texts.insert(&text).second) {
             report_recursion(text);
             return false;
@@ -468,7 +480,7 @@ bool c_xml::expand_in_place(const std::string& entity, std::string* out) {
             add_char_wsp(out, c, false);
             continue;
         }
-        c_text_name_reader reader(text.data(), text.size(), &position);
+        c_text_name_reader reader(text.data(), text.size(), &position, true);
         const int next = reader.get();
         reader.unget(next);
         if (next != -1 && next != '#') {
@@ -477,9 +489,9 @@ bool c_xml::expand_in_place(const std::string& entity, std::string* out) {
             const bool has_semicolon = read_entity_name(reader);
             if (const s_predefined_entity* const predefined = find_predefined(m_entity_name)) {
                 append_verbatim(out, std::string_view(&predefined->character, 1));
-                if (!charge_reference(0)) return false;
+                if (!charge_reference(1, 0)) return false;
             } else if (const std::string* const value = general_entities().find(m_entity_name)) {
-                if (!enter(*value)) return false;
+                if (!charge_reference(value->size(), 0) || !enter(*value)) return false;
             } else {
                 return keep_unresolved(has_semicolon, out);
             }
@@ -616,26 +628,29 @@ c_xml::e_piece c_xml::next_piece(std::string* out, std::string* name) {
     c = get();
     if (c == '-' && get() == '-') return skip_comment() ? e_piece::text : e_piece::error;
     if (c != '[') return e_piece::error;
-    *out += "<![CDATA[";
+    append_verbatim(out, "<![CDATA[");
     if (!read_cdata(out)) return e_piece::error;
     *out += "]]>";
     return e_piece::text;
 }
 
+/// White space between the `/` and the `>` is no part of the copy, which shall be well-formed.
 bool c_xml::copy_rest_of_start_tag(std::string* out, bool* is_empty) {
     int quote = 0;
+    std::size_t slash_end = k_none;
     for (;;) {
         const int c = get();
         if (c == -1) return false;
+        *is_empty = c == '>' && slash_end != k_none;
+        if (*is_empty) out->resize(slash_end);
         *out += static_cast<char>(c);
         if (quote != 0) {
             if (c == quote) quote = 0;
-        } else if (c == '"' || c == '\'') {
-            quote = c;
-        } else if (c == '>') {
-            *is_empty = out->size() > 1 && (*out)[out->size() - 2] == '/';
-            return true;
+            continue;
         }
+        if (c == '>') return true;
+        if (c == '"' || c == '\'') quote = c;
+        if (!xisspace(c)) slash_end = c == '/' ? out->size() : k_none;
     }
 }
 

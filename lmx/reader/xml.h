@@ -131,6 +131,7 @@ private:
     void read_name(int first, std::string* out);
     bool read_end_tag(std::string* name);
     bool read_cdata(std::string* out);
+    void read_cdata_text(std::string* out);
     bool read_attributes(c_xml_local* local);
     bool read_raw_value(s_attribute* attribute);
     void declare_namespace(c_xml_local* local, const s_attribute& attribute);

@@ -286,6 +286,59 @@ TEST_F(AllClasses, AreAllThere) {
     EXPECT_EQ(documents, 69U);
 }
 
+/// The sample without children: its start tag, with `attribute` in it, up to the `>` or the `/>`.
+std::string bare_start_tag(const c_sample& minimal, const std::string& attribute = "") {
+    std::string text = minimal.text();
+    text.resize(std::min(text.find('>'), text.find("/>")));
+    return text + attribute;
+}
+
+TEST_F(AllClasses, EndUnderTheNameTheyBeganWith) {
+    std::size_t closed_at_once = 0;
+    std::size_t nil = 0;
+    for_each_class([&](const s_named_class& named, const c_sample& minimal) {
+        const s_outcome refused = failure(ELMX_BAD_END_OF_ELEMENT, minimal.name());
+        const std::string start = bare_start_tag(minimal);
+        const std::string end = "</" + minimal.name() + ">";
+        for (const char* const other : {"</Vyr:Other>", "</x>"}) {
+            const std::string whole = minimal.text();
+            if (whole.ends_with(end)) {
+                EXPECT_EQ(outcome_of(named, whole.substr(0, whole.size() - end.size()) + other), refused) << whole;
+            }
+            if (named.type->content == content_kind::simple) continue;
+            EXPECT_EQ(outcome_of(named, start + ">" + other), refused) << start;
+            EXPECT_EQ(outcome_of(named, start + "> <!-- --> " + other), refused) << start;
+        }
+        if (named.type->content != content_kind::simple && outcome_of(named, start + ">" + end) == s_outcome{}) {
+            EXPECT_EQ(outcome_of(named, start + "/>"), s_outcome{});
+            ++closed_at_once;
+        }
+        if (named.type->nil_flag == k_no_flag) return;
+        ++nil;
+        const std::string nil_start = bare_start_tag(minimal, " xsi:nil=\"true\"");
+        EXPECT_EQ(outcome_of(named, nil_start + "/>"), s_outcome{});
+        EXPECT_EQ(outcome_of(named, nil_start + ">\n" + end), s_outcome{});
+        for (const std::string body : {"</Vyr:Other>", "text", "&#65;", "<![CDATA[]]>", "<Vyr:Other/>"}) {
+            EXPECT_EQ(outcome_of(named, nil_start + ">" + body + end), refused) << body;
+        }
+    });
+    EXPECT_EQ(closed_at_once, 61U);
+    EXPECT_EQ(nil, 12U);
+}
+
+TEST_F(AllClasses, TakeNoTextForAnElementNamedBefore) {
+    for_each_class([](const s_named_class& named, const c_sample& minimal) {
+        if (named.type->content == content_kind::simple) return;
+        // The element's own name, that of an attribute and that of a child are what the reader has at hand.
+        const std::string end = "</" + minimal.name() + ">";
+        const s_outcome outcome = outcome_of(named, bare_start_tag(minimal) + ">text" + end);
+        EXPECT_NE(outcome, s_outcome{});
+        for (const std::string body : {"x<b/>", "x<b></b>", "x <b/>", "&lt;<b/>"}) {
+            EXPECT_EQ(outcome_of(named, bare_start_tag(minimal) + ">" + body + end).code, outcome.code) << body;
+        }
+    });
+}
+
 TEST_F(AllClasses, RoundTrip) {
     for_each_class([](const s_named_class& named, const c_sample& sample) {
         expect_round_trip(named, sample);

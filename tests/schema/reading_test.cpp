@@ -38,6 +38,15 @@ TEST(Reading, AnEmptyElementIsRefusedOrAcceptedByItsContentModel) {
     EXPECT_EQ(read(category, "<Vyr:Category>x</Vyr:Category>"), failure(ELMX_BAD_END_OF_ELEMENT, "Vyr:Category"));
 }
 
+TEST(Reading, TextHasNoName) {
+    const s_outcome missing = failure(ELMX_MANDATORY_ELEMENT_MISSING, "Vyr:Version");
+    for (const char* const body : {"x", "x<b/>", "x<Vyr:Version>1</Vyr:Version>", "<![CDATA[x]]>/>", "&lt;/>"}) {
+        v2::Version version;
+        EXPECT_EQ(read(version, element("Version", body)), missing) << body;
+        EXPECT_EQ(version.get_Version(), u"") << body;
+    }
+}
+
 TEST(Reading, MisplacedChildrenAreMissingOrBreakTheEnd) {
     v2::Person person;
     EXPECT_EQ(read(person, element("Person", "<Vyr:ContactInfo>c</Vyr:ContactInfo><Vyr:Name>n</Vyr:Name>")),
@@ -161,6 +170,16 @@ TEST(Reading, AForeignElementInAGroupsPlaceIsSkippedAndCantBeWritten) {
     write(physical, "Vyr:PhysicalSample", &code);
     EXPECT_EQ(code, ELMX_OCCURS_ERROR_ON_MARSHAL);
 
+    EXPECT_EQ(read(physical, element("PhysicalSample", "<xsi:type>1</xsi:type>")), s_outcome{});
+
+    // Neither text nor the owner's end is an element.
+    const std::string process = "<Vyr:Process/>";
+    for (const std::string& body : {"x<b/>" + std::string(), process + "x<b/>", process}) {
+        const std::string more = body == process ? "<b/></Vyr:PhysicalSample>" : "";
+        const std::string text = "<Vyr:PhysicalSample>" + body + "</Vyr:PhysicalSample>" + more;
+        EXPECT_EQ(read(physical, text).code, ELMX_BAD_END_OF_ELEMENT) << text;
+    }
+
     v2::ParentColorSpace parent;
     EXPECT_EQ(read(parent, element("ParentColorSpace", "<Vyr:Foreign/>")), s_outcome{});
     EXPECT_EQ(parent.getchosen(), 29);
@@ -237,6 +256,8 @@ TEST(Reading, NilElements) {
               failure(ELMX_BAD_END_OF_ELEMENT, "Vyr:Standard"));
     EXPECT_EQ(read(standard, "<Vyr:Standard xsi:nil=\"true\"></Vyr:Standard>"), s_outcome{});
     EXPECT_TRUE(standard.is_occurs_ok());
+    EXPECT_EQ(read(standard, "<Vyr:Standard xsi:nil=\"true\">text</Vyr:Standard>"),
+              failure(ELMX_BAD_END_OF_ELEMENT, "Vyr:Standard"));
     v2::DeviceFilter filter;
     filter.setnil_DeviceFilter();
     EXPECT_TRUE(filter.is_occurs_ok());

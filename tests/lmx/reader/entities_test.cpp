@@ -166,6 +166,7 @@ TEST(Subsets, MustBeWellFormed) {
         {"<!DOCTYPE a [<!ENTITY e ", ""},
         {"<!DOCTYPE a [<!ENTITY e '&#x;'>]>", ""},
         {"<!DOCTYPE a [<!ENTITY e 'x", got + ");"},
+        {"<!DOCTYPE a [<?\?>]><a/>", ""},
     };
     for (const auto& row : cases) {
         const s_read_all found = read_all(row.document);
@@ -200,6 +201,36 @@ TEST(Expansion, IsBounded) {
     EXPECT_EQ(read_all(honest).reports, "");
     const std::string escaped = "<a>" + repeat("&amp;&#65;", 300000) + "</a>";
     EXPECT_EQ(read_all(escaped).reports, "");
+}
+
+TEST(Expansion, CostsNothingWhereTheDocumentGainsNothing) {
+    constexpr std::size_t count = 500000;
+    const std::string subset =
+        "<!DOCTYPE a [<!ENTITY o ''><!ENTITY p 'xyz'><!ENTITY long ' 23456 '><!ENTITY % q ' '>";
+    for (const char* const piece : {"&o;", "&p;", "&o ", "&lt", "&#9", "&long;"}) {
+        const std::string run = repeat(piece, count);
+        EXPECT_EQ(read_all(subset + "]><a>" + run + "</a>").reports, "") << piece;
+        EXPECT_EQ(read_all(subset + "]><a b='" + run + "'/>").reports, "") << piece;
+    }
+    EXPECT_EQ(read_all(subset + repeat("%q;", count) + "]><a/>").reports, "");
+    EXPECT_EQ(read_all(subset + "<!ENTITY r '" + repeat("&#9", count) + "'>]><a/>").reports, "");
+
+    // A text that is longer counts, however little; so does any reference in an entity's text, also one whose `&` or
+    // name is the last of it.
+    const std::string excess = "0/9@1:Entity expansion too large;";
+    EXPECT_EQ(read_all("<!DOCTYPE a [<!ENTITY o 'wxyz'>]><a>" + repeat("&o;", count) + "</a>").reports, excess);
+    for (const char* const end : {";", ""}) {
+        std::string chain = "<!ENTITY e100 ''>";
+        for (int i = 101; i < 300; ++i) {
+            chain += "<!ENTITY e" + std::to_string(i) + " '&e" + std::to_string(i - 1) + end + "'>";
+        }
+        const std::string run = repeat("&e299; ", 30000);
+        EXPECT_EQ(read_all("<!DOCTYPE a [" + chain + "]><a>" + run + "</a>").reports, excess) << end;
+        EXPECT_EQ(read_all("<!DOCTYPE a [" + chain + "]><a b='" + run + "'/>").reports, excess) << end;
+    }
+    const std::string split =
+        "<!DOCTYPE a [<!ENTITY p '&#38;'><!ENTITY o '&p;'>]><a>" + repeat("&o;amp;", 30) + "</a>";
+    EXPECT_EQ(read_all(split).content, "<a>" + std::string(30, '&') + "</a>");
 }
 
 }  // namespace

@@ -103,6 +103,8 @@ TEST(Scanning, RefusesBrokenMarkup) {
         {"<!-- x", "!", ""},
         {"<?pi", "!", ""},
         {"<a>&undefined;</a>", "<a>!", ""},
+        {"<a><?\?><b/></a>", "<a>!", ""},
+        {"<a><?\?><b/>?></a>", "<a></a>$", ""},
         {"<a>x & y</a>", "<a>!", ""},
     });
     // The scan goes on behind the tag that was refused.
@@ -196,6 +198,17 @@ TEST(Values, FollowTheWhiteSpaceMode) {
     EXPECT_EQ(value_of(text, ELMX_WS_COLLAPSE), "a <b c \xC3\xA9 d|");
     EXPECT_EQ(value_of("<a>  a \n b  </a>", ELMX_WS_COLLAPSE), "a b|");
     EXPECT_EQ(value_of("<a>a<![CDATA[ \t ]]> b</a>", ELMX_WS_COLLAPSE), "a \t  b|");
+    for (const auto& [document, value] : std::vector<std::pair<std::string, std::string>>{
+             {"<a>x <![CDATA[c]]> y</a>", "x c y|"},
+             {"<a>x &lt;<![CDATA[c]]>y</a>", "x <cy|"},
+             {"<a> <![CDATA[c]]> </a>", "c|"},
+             {"<a>x <![CDATA[]]> </a>", "x|"},
+             {"<a>x <![CDATA[]]>y</a>", "x y|"},
+             {"<a>x <![CDATA[]]>&#233;</a>", "x \xC3\xA9|"},
+             {"<a>x <![CDATA[ ]]></a>", "x  |"},
+             {"<a>x <!-- --><![CDATA[]]]]><![CDATA[>]]></a>", "x ]]>|"}}) {
+        EXPECT_EQ(value_of(document, ELMX_WS_COLLAPSE), value) << document;
+    }
 
     // Without normalisation, white space from a reference is a character like any other, but for the blank.
     const std::string document = "<a>&#32;x&#9;&#32;&#10;&#133;y</a>";
@@ -378,6 +391,11 @@ TEST(Wildcards, AreCopiedAsText) {
         {"<a c=\"'\" xmlns:p='u' b='&lt;&u;\"' />", "<a xmlns:p='u' c=\"'\" b='&lt;&u;\"'/>"},
         {"<a><a x='>' y=\"/>\"  >1</a><b/> &amp;&u;<a/></a>", "<a><a x='>' y=\"/>\"  >1</a><b/> &amp;&u;<a/></a>"},
         {"<a>x<!-- <b> --><?p <b>?>y</a>", "<a>xy</a>"},
+        {"<a><b/ ><b c='/'>/</b><b c='1' /\n></a / >", "!"},
+        {"<a><b/ ><b c='/'>/</b><b c='1' /\n><b / c=/ ></b / c=/ ></a>", "!"},
+        {"<a><b/ ><b c='/'>/</b><b c='1' /\r\n><b c='>'/ ></a>", "<a><b/><b c='/'>/</b><b c='1' /><b c='>'/></a>"},
+        {"<a><b /x></b></a>", "<a><b /x></b></a>"},
+        {"<a / >", "<a/>"},
         {"<a><![CDATA[</a>]]]></a >", "<a><![CDATA[</a>]]]></a>"},
         {"<a>\r\n \xC3\xA9</a>", "<a>\n \xC3\xA9</a>"},
         {"<a><b></a></b>", "!"},
