@@ -112,16 +112,14 @@ void c_datetime_base::set_offset(std::int32_t hours, std::uint32_t minutes) {
     m_is_utc = m_total_offset_mins == 0;
 }
 
-bool operator==(const c_datetime_base& a, const c_datetime_base& b) { return (a <=> b) == 0; }
-
-std::weak_ordering operator<=>(const c_datetime_base& a, const c_datetime_base& b) {
-    if (a.m_year != b.m_year) return a.m_year <=> b.m_year;
-    if (a.m_month != b.m_month) return a.m_month <=> b.m_month;
-    if (a.m_day != b.m_day) return a.m_day <=> b.m_day;
-    if (a.m_hours != b.m_hours) return a.m_hours <=> b.m_hours;
-    if (a.m_mins != b.m_mins) return a.m_mins <=> b.m_mins;
-    if (a.m_secs == b.m_secs) return std::weak_ordering::equivalent;
-    return a.m_secs > b.m_secs ? std::weak_ordering::greater : std::weak_ordering::less;
+std::weak_ordering c_datetime_base::compare(const c_datetime_base& other) const {
+    if (m_year != other.m_year) return m_year <=> other.m_year;
+    if (m_month != other.m_month) return m_month <=> other.m_month;
+    if (m_day != other.m_day) return m_day <=> other.m_day;
+    if (m_hours != other.m_hours) return m_hours <=> other.m_hours;
+    if (m_mins != other.m_mins) return m_mins <=> other.m_mins;
+    if (m_secs == other.m_secs) return std::weak_ordering::equivalent;
+    return m_secs > other.m_secs ? std::weak_ordering::greater : std::weak_ordering::less;
 }
 
 bool c_datetime_base::is_valid(const s_calendar_form& form, const std::string& text, bool* has_zone) {

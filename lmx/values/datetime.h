@@ -71,12 +71,8 @@ public:
     void set_offset(std::int32_t hours, std::uint32_t minutes);
     void set_offset_mins(std::int32_t hours, std::uint32_t minutes) { set_offset(hours, minutes); }
 
-    /// Compare the fields from the year down to the seconds. The zone takes no part: 12:00:00Z equals
-    /// 12:00:00+05:00. Seconds that are no number make a value less than any other, itself included.
-    VYR_EXPORT friend bool operator==(const c_datetime_base& a, const c_datetime_base& b);
-    VYR_EXPORT friend std::weak_ordering operator<=>(const c_datetime_base& a, const c_datetime_base& b);
-
 protected:
+    std::weak_ordering compare(const c_datetime_base& other) const;
     /// `*has_zone` is set only for valid text.
     static bool is_valid(const s_calendar_form& form, const std::string& text, bool* has_zone);
     void assign(const s_calendar_form& form, const char* text);
@@ -99,19 +95,19 @@ private:
     void print(const s_calendar_form& form, Sink sink) const;
 };
 
-/// A calendar value: the fields that its type writes, and a zone.
-template <calendar_type Type>
-class VYR_EXPORT c_calendar : public c_datetime_base {
+/// What the calendar types have besides: the fields that the type writes, and a zone. `T` is the type itself.
+template <class T, calendar_type Type>
+class c_calendar : public c_datetime_base {
 public:
     c_calendar() = default;
     c_calendar(const char* text) { assign(form_of(Type), text); }
     c_calendar(const std::string& text) { assign(form_of(Type), text.c_str()); }
-    c_calendar& operator=(const char* text) {
+    T& operator=(const char* text) {
         assign(form_of(Type), text);
-        return *this;
+        return static_cast<T&>(*this);
     }
-    c_calendar& operator=(const std::string& text) { return *this = text.c_str(); }
-    c_calendar& operator=(std::nullptr_t) = delete;  // which `value = {}` would mean
+    T& operator=(const std::string& text) { return *this = text.c_str(); }
+    T& operator=(std::nullptr_t) = delete;  // which `value = {}` would mean
 
     static bool is_valid(const std::string& text) {
         bool has_zone = false;
@@ -132,10 +128,16 @@ public:
     void append_to(std::string* out) const { append(form_of(Type), out); }
 
     /// Leaves the stream's fill character at "0".
-    friend std::ostream& operator<<(std::ostream& stream, const c_calendar& value) {
+    friend std::ostream& operator<<(std::ostream& stream, const T& value) {
         value.write(form_of(Type), stream);
         return stream;
     }
+
+    /// Compare the fields from the year down to the seconds, with another value of the type or a text. The zone takes
+    /// no part: 12:00:00Z equals 12:00:00+05:00. Seconds that are no number make a value less than any other, itself
+    /// included.
+    friend bool operator==(const T& a, const T& b) { return a.compare(b) == 0; }
+    friend std::weak_ordering operator<=>(const T& a, const T& b) { return a.compare(b); }
 
     // Each type has the accessors of its own fields only.
     std::int32_t get_year() const requires(has_field(Type, "Y")) { return m_year; }
@@ -152,13 +154,60 @@ public:
     void set_secs(float secs) requires(has_field(Type, "s")) { m_secs = secs; }
 };
 
-using c_datetime = c_calendar<calendar_type::datetime>;      ///< "2005-02-28T10:00:00Z"
-using c_date = c_calendar<calendar_type::date>;              ///< "2005-02-28"
-using c_time = c_calendar<calendar_type::time>;              ///< "10:00:00.5"
-using c_gyearmonth = c_calendar<calendar_type::gyearmonth>;  ///< "2005-02"
-using c_gyear = c_calendar<calendar_type::gyear>;            ///< "2005"
-using c_gmonthday = c_calendar<calendar_type::gmonthday>;    ///< "--02-28"
-using c_gday = c_calendar<calendar_type::gday>;              ///< "---28"
-using c_gmonth = c_calendar<calendar_type::gmonth>;          ///< "--02--", the older form with two hyphens behind
+/// "2005-02-28T10:00:00Z"
+class VYR_EXPORT c_datetime : public c_calendar<c_datetime, calendar_type::datetime> {
+public:
+    using c_calendar::c_calendar;
+    using c_calendar::operator=;
+};
+
+/// "2005-02-28"
+class VYR_EXPORT c_date : public c_calendar<c_date, calendar_type::date> {
+public:
+    using c_calendar::c_calendar;
+    using c_calendar::operator=;
+};
+
+/// "10:00:00.5"
+class VYR_EXPORT c_time : public c_calendar<c_time, calendar_type::time> {
+public:
+    using c_calendar::c_calendar;
+    using c_calendar::operator=;
+};
+
+/// "2005-02"
+class VYR_EXPORT c_gyearmonth : public c_calendar<c_gyearmonth, calendar_type::gyearmonth> {
+public:
+    using c_calendar::c_calendar;
+    using c_calendar::operator=;
+};
+
+/// "2005"
+class VYR_EXPORT c_gyear : public c_calendar<c_gyear, calendar_type::gyear> {
+public:
+    using c_calendar::c_calendar;
+    using c_calendar::operator=;
+};
+
+/// "--02-28"
+class VYR_EXPORT c_gmonthday : public c_calendar<c_gmonthday, calendar_type::gmonthday> {
+public:
+    using c_calendar::c_calendar;
+    using c_calendar::operator=;
+};
+
+/// "---28"
+class VYR_EXPORT c_gday : public c_calendar<c_gday, calendar_type::gday> {
+public:
+    using c_calendar::c_calendar;
+    using c_calendar::operator=;
+};
+
+/// "--02--", the older form with two hyphens behind
+class VYR_EXPORT c_gmonth : public c_calendar<c_gmonth, calendar_type::gmonth> {
+public:
+    using c_calendar::c_calendar;
+    using c_calendar::operator=;
+};
 
 }  // namespace lmx

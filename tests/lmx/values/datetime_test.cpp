@@ -3,13 +3,26 @@
 
 /// The eight calendar types: shapes, assignment, text, comparison.
 
-#include "lmx/values/datetime.h"
+// What a host may write in a header of its own.
+namespace lmx {
+class c_datetime;
+class c_date;
+class c_time;
+class c_gyearmonth;
+class c_gyear;
+class c_gmonthday;
+class c_gday;
+class c_gmonth;
+class c_duration;
+}  // namespace lmx
 
 #include <gtest/gtest.h>
 
 #include <limits>
 #include <sstream>
+#include <type_traits>
 
+#include "lmx/values/datetime.h"
 #include "lmx/values/duration.h"
 #include "tests/lmx/comma_locale.h"
 
@@ -170,6 +183,41 @@ TEST(Calendar, OrderIgnoresTheZone) {
     const lmx::c_time east("12:00:00+05:00");
     EXPECT_TRUE(utc == east && utc <= east && utc >= east);
     EXPECT_FALSE(utc != east || utc < east || utc > east);
+}
+
+template <class One, class Other>
+concept comparable = requires(const One& a, const Other& b) {
+    a == b;
+    a != b;
+    a < b;
+    a <= b;
+    a > b;
+    a >= b;
+};
+
+template <class T, class... Others>
+constexpr bool k_takes = ((comparable<T, Others> && comparable<Others, T>)&&...);
+
+// A text is as good as the value it makes; another type is not.
+template <class T>
+constexpr bool compares_as_told() {
+    return k_takes<T, T, const char*, std::string> && !k_takes<T, int> && !k_takes<T, lmx::c_datetime_base>;
+}
+static_assert(compares_as_told<c_datetime>() && compares_as_told<lmx::c_date>() && compares_as_told<lmx::c_time>());
+static_assert(compares_as_told<lmx::c_gyearmonth>() && compares_as_told<lmx::c_gyear>());
+static_assert(compares_as_told<lmx::c_gmonthday>() && compares_as_told<lmx::c_gday>());
+static_assert(compares_as_told<lmx::c_gmonth>() && compares_as_told<lmx::c_duration>());
+static_assert(!comparable<lmx::c_date, lmx::c_time> && !comparable<c_datetime, lmx::c_date>);
+static_assert(!comparable<lmx::c_gday, lmx::c_gmonth> && !comparable<lmx::c_time, lmx::c_duration>);
+static_assert(!std::is_assignable_v<lmx::c_date&, lmx::c_time> && !std::is_constructible_v<lmx::c_date, lmx::c_time>);
+static_assert(std::is_same_v<decltype(std::declval<lmx::c_date&>() = "2005-02-28"), lmx::c_date&>);
+
+TEST(Calendar, ComparesWithTexts) {
+    const c_datetime value("2005-01-01T10:00:00+01:00");
+    const std::string later = "2005-01-01T10:00:00.5Z";
+    EXPECT_TRUE(value == "2005-01-01T10:00:00Z" && "2005-01-01T10:00:00Z" == value && value != later);
+    EXPECT_TRUE(value < later && later > value && value >= "2005-01-01T10:00:00" && "2005" <= value);
+    EXPECT_TRUE(lmx::c_duration("PT90M") == "PT1H30M" && "P1M" != lmx::c_duration("P30D"));
 }
 
 TEST(Calendar, OddSecondsKeepTheTextFormsAlike) {
