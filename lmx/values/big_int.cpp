@@ -43,7 +43,6 @@ std::string canonical(std::string_view text) {
 
 c_big_int::c_big_int(const char* text) : m_text(canonical(detail::text_of(text))) {}
 c_big_int::c_big_int(const std::string& text) : m_text(canonical(text)) {}
-c_big_int::c_big_int(long value) : m_text(std::to_string(value)) {}
 
 std::int32_t c_big_int::get(bool* overflow) const {
     // The bound is that of positive numbers for both signs.

@@ -39,8 +39,7 @@ public:
     c_big_int() : m_text("0") {}
     c_big_int(const char* text);
     c_big_int(const std::string& text);
-    c_big_int(long value);
-    c_big_int(int value) : c_big_int(static_cast<long>(value)) {}
+    c_big_int(std::integral auto value) : m_text(std::to_string(value)) {}
     /// There is no move, which would leave an empty text behind.
     c_big_int(const c_big_int&) = default;
     /// Takes whatever a constructor takes. Leaves the target alone if the value can't be made.

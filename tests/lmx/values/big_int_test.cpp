@@ -27,7 +27,10 @@ TEST(BigInt, ParsingTakesTheLeadingInteger) {
     }
     EXPECT_EQ(c_big_int().get_as_string(), "0");
     EXPECT_EQ(c_big_int(LONG_MIN).get_as_string(), std::to_string(LONG_MIN));
-    c_big_int value = 0;
+    EXPECT_EQ(c_big_int(ULLONG_MAX).get_as_string(), std::to_string(ULLONG_MAX));
+    c_big_int value = 5U;
+    EXPECT_TRUE(value == 5ULL && value == std::int8_t{5} && value < std::size_t{6});
+    value = 0;
     value = "99999999999999999999";
     std::ostringstream stream;
     stream << value;
