@@ -127,7 +127,13 @@ std::int32_t text_to_int(const std::string& text) {
 std::uint8_t text_to_byte(const std::string& text) { return static_cast<std::uint8_t>(text_to_int(text)); }
 
 std::uint32_t text_to_unsigned(const std::string& text) {
-    return static_cast<std::uint32_t>(std::strtoull(text.c_str(), nullptr, 10));
+    // As where an unsigned long has 32 bits: what passes them is held at the greatest number, whatever its sign.
+    const char* start = text.c_str();
+    while (xisspace(*start)) ++start;
+    const bool is_negative = *start == '-';
+    const std::uint64_t value = std::strtoull(start, nullptr, 10);
+    const std::uint64_t magnitude = is_negative ? 0 - value : value;
+    return magnitude > UINT32_MAX ? UINT32_MAX : static_cast<std::uint32_t>(value);
 }
 
 bool text_to_bool(const std::string& text) { return text == "true" || text == "1"; }

@@ -60,9 +60,10 @@ VYR_EXPORT int fraction_digits(const std::string& text);
 /// The nearest double. A number out of range gives an infinity or what is left near zero; text that is no number
 /// gives what its longest leading number gives, or 0. Never depends on the host's locale.
 VYR_EXPORT double text_to_double(const std::string& text);
-/// The leading integer, cut to the low bits of the result: 32 signed, 8 unsigned, 32 unsigned. 0 without one.
+/// The leading integer, cut to the low bits of the result: 32 signed, 8 unsigned. 0 without one.
 VYR_EXPORT std::int32_t text_to_int(const std::string& text);
 VYR_EXPORT std::uint8_t text_to_byte(const std::string& text);
+/// The leading integer, modulo 2^32 if it is negative; 4294967295 if its magnitude passes that. 0 without one.
 VYR_EXPORT std::uint32_t text_to_unsigned(const std::string& text);
 /// True for "true" and "1" only.
 VYR_EXPORT bool text_to_bool(const std::string& text);

@@ -64,7 +64,7 @@ TEST(Scalars, DigitCountsStripNothing) {
     EXPECT_EQ(lmx::fraction_digits("1.2.34"), 3);
 }
 
-TEST(Scalars, IntegersKeepTheirLowBits) {
+TEST(Scalars, IntegersKeepTheirLowBitsOrAreHeldAtTheGreatest) {
     EXPECT_EQ(lmx::text_to_int("-2147483648"), INT32_MIN);
     EXPECT_EQ(lmx::text_to_int("2147483647"), INT32_MAX);
     EXPECT_EQ(lmx::text_to_int("4294967297"), 1);
@@ -76,7 +76,12 @@ TEST(Scalars, IntegersKeepTheirLowBits) {
     EXPECT_EQ(lmx::text_to_byte("257"), 1);
     EXPECT_EQ(lmx::text_to_unsigned("4294967295"), UINT32_MAX);
     EXPECT_EQ(lmx::text_to_unsigned("-1"), UINT32_MAX);
-    EXPECT_EQ(lmx::text_to_unsigned("99999999999999999999"), UINT32_MAX);
+    EXPECT_EQ(lmx::text_to_unsigned(" -4294967295x"), 1U);
+    for (const char* text :
+         {"4294967296", "+4294967301", "-4294967296", "18446744073709551615", "-18446744073709551615",
+          "18446744073709551617", "-99999999999999999999", "99999999999999999999"}) {
+        EXPECT_EQ(lmx::text_to_unsigned(text), UINT32_MAX) << text;
+    }
 }
 
 bool same_bits(double a, double b) { return std::bit_cast<std::uint64_t>(a) == std::bit_cast<std::uint64_t>(b); }
