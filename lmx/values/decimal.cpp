@@ -20,13 +20,16 @@ namespace {
 /// No more zeros behind a number change it modulo 2^32, or whether it passes 32 bits.
 constexpr std::size_t k_telling_zeros = 32;
 
+/// Zeros beyond these are left out of a text, which would otherwise be as long as a number given to a setter says.
+constexpr std::size_t k_most_zeros = 1'000'000;
+
 std::string text_of_magnitude(long value) {
     const auto bits = static_cast<unsigned long>(value);
     return std::to_string(value < 0 ? 0UL - bits : bits);
 }
 
 void pad_in_front(std::string* digits, std::size_t width) {
-    if (digits->size() < width) digits->insert(0, width - digits->size(), '0');
+    if (digits->size() < width) digits->insert(0, std::min(width - digits->size(), k_most_zeros), '0');
 }
 
 /// The first `count` digits, with zeros in place of those that are missing.
@@ -78,7 +81,7 @@ c_decimal::c_decimal(long value, int scale) : m_is_neg(value < 0) {
     const auto count =
         static_cast<std::size_t>(scale < 0 ? 0U - static_cast<unsigned>(scale) : static_cast<unsigned>(scale));
     if (scale <= 0) {
-        m_integral = digits.append(count, '0');
+        m_integral = digits.append(std::min(count, k_most_zeros), '0');
         return;
     }
     const std::size_t point = digits.size() - std::min(digits.size(), count);
@@ -119,7 +122,7 @@ std::uint32_t c_decimal::get_fractional(int digits, bool* overflow) const {
 void c_decimal::set_fractional(unsigned long value, unsigned digits) {
     std::string text = std::to_string(value);
     pad_in_front(&text, digits);
-    text.resize(digits);
+    text.resize(std::min<std::size_t>(text.size(), digits));
     m_fractional.swap(text);
 }
 

@@ -26,7 +26,8 @@ public:
     /// A null pointer gives 0.
     c_decimal(const char* text);
     c_decimal(const std::string& text);
-    /// `value` times ten to the power of minus `scale`.
+    /// `value` times ten to the power of minus `scale`. Of zeros, at most a million are put behind its digits, or
+    /// between the point and them.
     c_decimal(long value, int scale);
     /// `value` rounded to `digits` digits behind the point, but to 15 at most.
     c_decimal(double value, unsigned digits);
@@ -55,11 +56,12 @@ public:
     /// The first `digits` digits behind the point as a number, missing ones taken for 0.
     std::uint32_t get_fractional(int digits, bool* overflow = nullptr) const;
     /// Replaces the digits behind the point by those of `value`: by its first `digits` if it has more, with zeros
-    /// put before them if it has fewer.
+    /// put before them if it has fewer, but at most a million.
     void set_fractional(unsigned long value, unsigned digits);
 
     /// The value times ten to the power of `scale`, without what is then behind the point.
     std::int32_t get_scaled(int scale, bool* overflow = nullptr) const;
+    /// As the constructor of the same arguments.
     void set_scaled(long value, int scale) { *this = c_decimal(value, scale); }
 
     void set(double value, unsigned digits) { *this = c_decimal(value, digits); }

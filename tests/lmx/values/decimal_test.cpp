@@ -83,6 +83,18 @@ TEST(Decimal, NativeNumbersBecomeText) {
     for (const auto& [value, text] : cases) EXPECT_EQ(value.get_as_string(), text);
 }
 
+TEST(Decimal, NoNumberAsksForATextOfItsOwnSize) {
+    const std::string zeros(1000000, '0');
+    c_decimal value;
+    value.set_scaled(-7, INT_MIN);
+    EXPECT_TRUE(value.get_as_string() == "-7" + zeros);
+    value.set_scaled(7, INT_MAX);
+    EXPECT_TRUE(value.get_as_string() == "." + zeros + "7");
+    value.set_fractional(12, UINT_MAX);
+    EXPECT_TRUE(value.get_as_string() == "." + zeros + "12");
+    EXPECT_EQ(value.get_fractional(INT_MAX), 0U);
+}
+
 TEST(Decimal, PartsWrapAtThirtyTwoBits) {
     const struct {
         const char* text;
