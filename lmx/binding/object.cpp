@@ -45,9 +45,7 @@ void copy_list(const s_item& item, void* target, const void* source) {
 
 void copy_single(const s_item& item, void* target, const void* source) {
     if (item.kind == item_kind::marker) return;
-    // What is written without a look at its flag may be there without it.
-    const bool is_there = (item.use & use_written) != 0 ? is_item_there(item, source) : is_set(item, source);
-    if ((item.use & use_copied) == 0 && !is_there) return;
+    if ((item.use & use_copied) == 0 && !is_set(item, source)) return;
     if (item.type != nullptr) {
         item.type->operations->assign(&member<std::byte>(target, item.offset),
                                       &member<std::byte>(source, item.offset));
@@ -174,11 +172,7 @@ elmx_error set_entry_value(const s_item& item, void* object, std::size_t index, 
 }  // namespace
 
 bool is_item_there(const s_item& item, const void* object) {
-    if (is_repeating(item)) return list_of(item, object).size() > 0;
-    if (is_set(item, object)) return true;
-    // A class that is a holder itself can be filled through the members it inherits, which know no flag.
-    return item.kind == item_kind::group && item.type->content == content_kind::group &&
-           is_occurs_ok(*item.type, &member<std::byte>(object, item.offset));
+    return is_repeating(item) ? list_of(item, object).size() > 0 : is_set(item, object);
 }
 
 void* append_default(const s_item& item, void* object) {
@@ -236,7 +230,11 @@ void swap(const s_class& type, void* one, void* other) {
     };
     std::for_each(type.attributes.begin(), type.attributes.end(), swap_item);
     if (type.choice != k_no_flag) {
-        std::swap(choice_of(type, one), choice_of(type, other));
+        s_choice& choice = choice_of(type, one);
+        s_choice& other_choice = choice_of(type, other);
+        std::swap(choice, other_choice);
+        // The flag goes with the item that it is of.
+        std::swap(choice.is_touched, other_choice.is_touched);
     } else {
         std::for_each(type.elements.begin(), type.elements.end(), swap_item);
     }
@@ -304,7 +302,8 @@ void* choose(const s_class& type, const s_item& alternative, void* object) {
     s_choice& choice = choice_of(type, object);
     const std::int32_t number = alternative_number(type, alternative);
     const bool is_owned = alternative.type != nullptr || alternative.value == value_kind::text;
-    if (choice.chosen != number) {
+    // An adopted null is no object to hand out.
+    if (choice.chosen != number || (is_owned && choice.object == nullptr)) {
         release_choice(type, object);
         if (alternative.type != nullptr) {
             choice.object = alternative.type->operations->create();
@@ -313,6 +312,7 @@ void* choose(const s_class& type, const s_item& alternative, void* object) {
         }
         choice.chosen = number;
     }
+    choice.is_touched = true;
     return is_owned ? choice.object : nullptr;
 }
 
@@ -322,6 +322,7 @@ void adopt(const s_class& type, const s_item& alternative, void* object, void* o
     if (choice.chosen != number) release_choice(type, object);
     choice.object = owned;
     choice.chosen = number;
+    choice.is_touched = true;
 }
 
 void release_choice(const s_class& type, void* object) {
@@ -333,7 +334,7 @@ void release_choice(const s_class& type, void* object) {
             delete static_cast<std::u16string*>(choice.object);
         }
     }
-    choice = {none_chosen(type), {}};
+    choice = {none_chosen(type), choice.is_touched, {}};
 }
 
 const std::u16string& chosen_text(const s_class& type, const s_item& alternative, const void* object) {

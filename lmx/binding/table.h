@@ -165,6 +165,7 @@ struct s_class {
 /// Numbers and booleans lie in the slot; texts and objects are owned through it.
 struct s_choice {
     std::int32_t chosen;
+    bool is_touched;  ///< raised with every choice: the present flag of a class that is a holder itself
     union {
         double number;
         std::int32_t int32;

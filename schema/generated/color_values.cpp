@@ -64,7 +64,7 @@ constexpr s_event_map k_ParentColorSpace_elements[] = {
 
 constinit const s_item ParentColorSpace::k_items[] = {
     {item_kind::group, value_kind::none, use_asked | use_written | use_lax, ELMX_WS_PRESERVE, "Vyr:ColorSpace", 0,
-     0, LMX_FLAG(ParentColorSpace, m_isset_ColorSpace), position_of(k_ParentColorSpace_elements, element_ColorSpaceRecipe), position_of(k_ParentColorSpace_elements, element_ColorSpaceRecipe, 28), &sg_ColorSpace::k_class, nullptr, {}},
+     0, LMX_FLAG(ParentColorSpace, m_choice.is_touched), position_of(k_ParentColorSpace_elements, element_ColorSpaceRecipe), position_of(k_ParentColorSpace_elements, element_ColorSpaceRecipe, 28), &sg_ColorSpace::k_class, nullptr, {}},
 };
 constinit const s_class ParentColorSpace::k_class = {
     .name = "ParentColorSpace",

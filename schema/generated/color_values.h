@@ -38,11 +38,11 @@ public:
     bool is_occurs_ok() const;
 
     /// The parent's value; the element's name says in which colour space.
-    sg_ColorSpace& get_ColorSpace() { m_isset_ColorSpace = true; return *this; }
+    sg_ColorSpace& get_ColorSpace() { m_choice.is_touched = true; return *this; }
     const sg_ColorSpace& get_ColorSpace() const { return *this; }
     sg_ColorSpace& assign_ColorSpace(const sg_ColorSpace& value);
-    bool isset_ColorSpace() const { return m_isset_ColorSpace; }
-    void unset_ColorSpace() { m_isset_ColorSpace = false; }
+    bool isset_ColorSpace() const { return m_choice.is_touched; }
+    void unset_ColorSpace() { m_choice.is_touched = false; }
 
     /// The `xsi:nil` state: an element without a value.
     bool isnil_ParentColorSpace() const { return m_isnil; }
@@ -63,7 +63,6 @@ private:
     };
     static const lmx::s_item k_items[];
     bool m_isnil = false;
-    bool m_isset_ColorSpace = false;
 };
 
 /// A colour value in some colour space.

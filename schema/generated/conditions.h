@@ -471,7 +471,7 @@ private:
         item_BSDFAngle,
     };
     static const lmx::s_item k_items[];
-    lmx::s_choice m_choice{e_none, {}};
+    lmx::s_choice m_choice{e_none, false, {}};
 };
 
 /// Illumination by standard illuminant, chromaticity or colour temperature.
@@ -528,7 +528,7 @@ private:
         item_ColorTemperature,
     };
     static const lmx::s_item k_items[];
-    lmx::s_choice m_choice{e_none, {}};
+    lmx::s_choice m_choice{e_none, false, {}};
     std::u16string m_Description;
     bool m_isset_Description = false;
 };

@@ -403,7 +403,7 @@ private:
         item_ProfileURI,
     };
     static const lmx::s_item k_items[];
-    lmx::s_choice m_choice{e_none, {}};
+    lmx::s_choice m_choice{e_none, false, {}};
 };
 
 /// Colour profile of a device, by reference or inline.
@@ -562,7 +562,7 @@ private:
         item_StringValue,
     };
     static const lmx::s_item k_items[];
-    lmx::s_choice m_choice{e_none, {}};
+    lmx::s_choice m_choice{e_none, false, {}};
 };
 
 /// A parameter of a profile, by a name of one letter and a value.

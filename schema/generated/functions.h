@@ -198,7 +198,7 @@ private:
         item_String,
     };
     static const lmx::s_item k_items[];
-    lmx::s_choice m_choice{e_none, {}};
+    lmx::s_choice m_choice{e_none, false, {}};
 };
 
 /// A parameter of a function, by name and value.

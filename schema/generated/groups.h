@@ -148,7 +148,8 @@ public:
     ColorSpaceCMYKType& get_ColorSpaceCMYK();
     const ColorSpaceCMYKType& get_ColorSpaceCMYK() const { return *static_cast<const ColorSpaceCMYKType*>(m_choice.object); }
     ColorSpaceCMYKType& assign_ColorSpaceCMYK(const ColorSpaceCMYKType& value);
-    /// Takes an object, which may be of a derived class.
+    /// Takes an object, which may be of a derived class. Null leaves the member without one, which can't be written; the
+    /// reference is then to an object of the calling thread that belongs to nothing.
     ColorSpaceCMYKType& assign_ColorSpaceCMYK(ColorSpaceCMYKType* value);
 
     /// A process colour of six inks: cyan, magenta, yellow, black, orange and green.
@@ -186,6 +187,7 @@ public:
 protected:
     void marshal_attributes(lmx::c_xml_writer& writer) const;
     lmx::elmx_error marshal_child_elements(lmx::c_xml_writer& writer) const;
+    lmx::s_choice m_choice{e_none, false, {}};
 
 private:
     enum item : std::size_t {
@@ -219,7 +221,6 @@ private:
         item_ColorSpaceMunsell,
     };
     static const lmx::s_item k_items[];
-    lmx::s_choice m_choice{e_none, {}};
 };
 
 /// One element of the group Substrate: which, and its value.
@@ -291,6 +292,7 @@ public:
 protected:
     void marshal_attributes(lmx::c_xml_writer& writer) const;
     lmx::elmx_error marshal_child_elements(lmx::c_xml_writer& writer) const;
+    lmx::s_choice m_choice{e_none, false, {}};
 
 private:
     enum item : std::size_t {
@@ -305,7 +307,6 @@ private:
         item_SubstrateTextile,
     };
     static const lmx::s_item k_items[];
-    lmx::s_choice m_choice{e_none, {}};
 };
 
 /// One element of the group Sample: which, and its value.
@@ -342,6 +343,7 @@ public:
 protected:
     void marshal_attributes(lmx::c_xml_writer& writer) const;
     lmx::elmx_error marshal_child_elements(lmx::c_xml_writer& writer) const;
+    lmx::s_choice m_choice{e_none, false, {}};
 
 private:
     enum item : std::size_t {
@@ -349,7 +351,6 @@ private:
         item_SampleTarget,
     };
     static const lmx::s_item k_items[];
-    lmx::s_choice m_choice{e_none, {}};
 };
 
 /// One element of the group Function: which, and its value.
@@ -375,7 +376,8 @@ public:
     FunctionType& get_Function();
     const FunctionType& get_Function() const { return *static_cast<const FunctionType*>(m_choice.object); }
     FunctionType& assign_Function(const FunctionType& value);
-    /// Takes an object, which may be of a derived class.
+    /// Takes an object, which may be of a derived class. Null leaves the member without one, which can't be written; the
+    /// reference is then to an object of the calling thread that belongs to nothing.
     FunctionType& assign_Function(FunctionType* value);
 
     /// A function that the format doesn't know, by name and parameters.
@@ -468,6 +470,7 @@ public:
 protected:
     void marshal_attributes(lmx::c_xml_writer& writer) const;
     lmx::elmx_error marshal_child_elements(lmx::c_xml_writer& writer) const;
+    lmx::s_choice m_choice{e_none, false, {}};
 
 private:
     enum item : std::size_t {
@@ -491,7 +494,6 @@ private:
         item_FunctionAverageStdDevB,
     };
     static const lmx::s_item k_items[];
-    lmx::s_choice m_choice{e_none, {}};
 };
 
 }  // namespace com_vyrgraph_v2

@@ -716,7 +716,7 @@ private:
         item_StringValue,
     };
     static const lmx::s_item k_items[];
-    lmx::s_choice m_choice{e_none, {}};
+    lmx::s_choice m_choice{e_none, false, {}};
 };
 
 /// A named value of the user's own, kept by the format without a meaning of its own.
@@ -901,7 +901,7 @@ private:
         item_NumberValue,
     };
     static const lmx::s_item k_items[];
-    lmx::s_choice m_choice{e_none, {}};
+    lmx::s_choice m_choice{e_none, false, {}};
 };
 
 /// Value that a colour has under one tag: a text or a number.

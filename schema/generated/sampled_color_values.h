@@ -576,7 +576,7 @@ private:
         item_AxisStringValue,
     };
     static const lmx::s_item k_items[];
-    lmx::s_choice m_choice{e_none, {}};
+    lmx::s_choice m_choice{e_none, false, {}};
 };
 
 /// Value on one axis of a colour space that the format doesn't know.

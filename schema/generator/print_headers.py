@@ -5,6 +5,9 @@
 from cpp import FOLDER, LISTS, MEMBER_TYPES, SLOT_FIELDS, comment, frame, initial_value, parameter_type
 
 
+CHOICE = "lmx::s_choice m_choice{e_none, false, {}};"
+
+
 def class_title(made):
     base = f" : public {made.base}" if made.base else ""
     return f"class VYR_EXPORT {made.name}{base} {{"
@@ -34,10 +37,16 @@ def object_accessors(item):
     yield f"{kind}& assign_{x}(const {kind}& value);"
 
 
-def presence_accessors(item):
+def flag_member(made, item):
+    """The present flag; of a class that is a holder itself, its choice's, which inherited accessors raise too."""
+    return "m_choice.is_touched" if made.derives_from_group else f"m_isset_{item.accessor}"
+
+
+def presence_accessors(made, item):
     if item.presence:
-        yield f"bool isset_{item.accessor}() const {{ return m_isset_{item.accessor}; }}"
-        yield f"void unset_{item.accessor}() {{ m_isset_{item.accessor} = false; }}"
+        flag = flag_member(made, item)
+        yield f"bool isset_{item.accessor}() const {{ return {flag}; }}"
+        yield f"void unset_{item.accessor}() {{ {flag} = false; }}"
 
 
 def list_accessors(item):
@@ -86,10 +95,10 @@ def alternative_accessors(item):
     yield from enumeration_accessors(item)
 
 
-def base_group_accessors(item):
+def base_group_accessors(made, item):
     """Of a class that is a holder itself."""
     x, kind = item.accessor, item.type
-    yield f"{kind}& get_{x}() {{ m_isset_{x} = true; return *this; }}"
+    yield f"{kind}& get_{x}() {{ {flag_member(made, item)} = true; return *this; }}"
     yield f"const {kind}& get_{x}() const {{ return *this; }}"
     yield f"{kind}& assign_{x}(const {kind}& value);"
 
@@ -102,7 +111,7 @@ def accessors(made, item):
     if item.kind in LISTS:
         return list_accessors(item)
     if made.derives_from_group:
-        return base_group_accessors(item)
+        return base_group_accessors(made, item)
     return object_accessors(item) if item.type else simple_accessors(item)
 
 
@@ -201,9 +210,11 @@ def own_class(plan, made):
         public.append("elmx_chosen getchosen() const { return static_cast<elmx_chosen>(m_choice.chosen); }")
     for item in made.items:
         if item.accessor:
-            public += ["", *comment(item.doc), *accessors(made, item), *presence_accessors(item)]
+            public += ["", *comment(item.doc), *accessors(made, item), *presence_accessors(made, item)]
             if item.kind == "alternative" and item.type and plan.factory(plan.by_name[item.type]):
-                public += ["/// Takes an object, which may be of a derived class.",
+                public += [*comment("Takes an object, which may be of a derived class. Null leaves the member without "
+                                    "one, which can't be written; the reference is then to an object of the calling "
+                                    "thread that belongs to nothing."),
                            f"{item.type}& assign_{item.accessor}({item.type}* value);"]
     if inherited := plan.content_item(made):
         item = inherited[1]
@@ -236,6 +247,8 @@ def own_class(plan, made):
         yield "    lmx::elmx_error unmarshal_attributes_check(lmx::c_xml_reader& reader);"
         yield (f"    bool unmarshal_body(lmx::c_xml_reader& reader, std::string* name, lmx::elmx_error* error"
                f"{body_flag});")
+    if made.content == "group" and not made.derives_from_group:
+        yield f"    {CHOICE}"
     yield from private_part(made)
     yield "};"
 
@@ -250,12 +263,12 @@ def private_part(made):
         lines += ["};", "static const lmx::s_item k_items[];"]
     if made.nillable:
         lines.append("bool m_isnil = false;")
-    if made.content in ("choice", "group") and not made.derives_from_group:
-        lines.append("lmx::s_choice m_choice{e_none, {}};")
+    if made.content == "choice":
+        lines.append(CHOICE)
     if not made.derives_from_group:
         lines += [member(item) for item in made.items if member(item)]
-    # Flags lie together at the end, where they take a byte each.
-    lines += [f"bool m_isset_{item.accessor} = false;" for item in made.items if has_flag(item)]
+        # Flags lie together at the end, where they take a byte each.
+        lines += [f"bool m_isset_{item.accessor} = false;" for item in made.items if has_flag(item)]
     if lines:
         yield ""
         yield "private:"

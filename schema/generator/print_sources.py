@@ -4,7 +4,7 @@
 
 from cpp import FOLDER, LISTS, comment, frame, own_source, parameter_type
 from model import PREFIX, REQUIRED
-from print_headers import has_flag
+from print_headers import flag_member, has_flag
 
 VERSION = 1  # of the runtime's tables, lmx::k_binding_version
 
@@ -50,7 +50,7 @@ def row(plan, made, item, map_name):
         position = ", ".join(f"position_of({map_name}, {first}{width})" for width in ("", f", {len(elements)}"))
     offset, flag = "0", "k_no_flag"
     if has_flag(item):
-        flag = f"LMX_FLAG({made.name}, m_isset_{item.accessor})"
+        flag = f"LMX_FLAG({made.name}, {flag_member(made, item)})"
     if item.kind not in ("alternative", "marker") and not made.derives_from_group:
         offset = f"LMX_OFFSET({made.name}, m_{item.accessor}, {item.kind}, {value})"
     factory = "{}"
@@ -260,8 +260,8 @@ def item_members(plan, made, item):
         if plan.factory(plan.by_name[kind]):
             # Null chooses the member without a value, which no reference can stand for.
             yield f"{kind}& {owner}::assign_{x}({kind}* value) " \
-                  f"{{ static {kind} nothing; lmx::adopt(k_class, {row_name}, this, value); " \
-                  f"return value == nullptr ? nothing : *value; }}"
+                  f"{{ lmx::adopt(k_class, {row_name}, this, value); if (value != nullptr) return *value; " \
+                  f"thread_local {kind} nothing; nothing.reset(); return nothing; }}"
     elif made.derives_from_group:
         yield f"{kind}& {owner}::assign_{x}(const {kind}& value) {{ return get_{x}().{kind}::operator=(value); }}"
     elif kind:

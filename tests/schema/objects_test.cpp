@@ -6,6 +6,7 @@
 #include <gtest/gtest.h>
 
 #include <limits>
+#include <thread>
 
 #include "tests/schema/support.h"
 
@@ -264,16 +265,62 @@ TEST(Objects, HoldersReplaceTheirMember) {
 TEST(Objects, AHolderThatIsAnElementKnowsAFlagAndItsMember) {
     v2::ParentColorSpace parent;
     EXPECT_FALSE(v2::ParentColorSpace(parent).is_occurs_ok());
-    parent.get_ColorSpaceNCS();
-    EXPECT_FALSE(parent.isset_ColorSpace());
-    EXPECT_TRUE(parent.is_occurs_ok());
-    EXPECT_EQ(v2::ParentColorSpace(parent).getchosen(), v2::sg_ColorSpace::e_ColorSpaceNCS);
-    parent.reset();
-    parent.get_ColorSpace();
-    EXPECT_TRUE(parent.isset_ColorSpace());
-    EXPECT_TRUE(parent.is_occurs_ok());
+    const auto expect_flag = [&](bool is_set) {
+        EXPECT_EQ(parent.isset_ColorSpace(), is_set);
+        EXPECT_EQ(parent.is_occurs_ok(), is_set);
+        EXPECT_EQ(v2::ParentColorSpace(parent).isset_ColorSpace(), is_set);
+        const bool is_held = parent.getchosen() == v2::sg_ColorSpace::e_ColorSpaceNCS;
+        EXPECT_EQ(v2::ParentColorSpace(parent).getchosen() == v2::sg_ColorSpace::e_ColorSpaceNCS, is_set && is_held);
+    };
+    expect_flag(false);
+    // Touching is setting, through the members that it inherits too.
+    parent.get_ColorSpaceNCS().set_ColorName(u"n");
+    expect_flag(true);
     parent.unset_ColorSpace();
-    EXPECT_FALSE(parent.is_occurs_ok());
+    expect_flag(false);
+    EXPECT_EQ(write_code(parent, "Vyr:ParentColorSpace"), ELMX_OCCURS_ERROR_ON_MARSHAL);
+    // The value stands.
+    EXPECT_EQ(parent.get_ColorSpace().get_ColorSpaceNCS().get_ColorName(), u"n");
+    expect_flag(true);
+    v2::ParentColorSpace other;
+    other.get_ColorSpaceNCS();
+    other.unset_ColorSpace();
+    parent.swap(other);
+    expect_flag(false);
+    EXPECT_EQ(other.get_ColorSpace().get_ColorSpaceNCS().get_ColorName(), u"n");
+    parent = other;
+    expect_flag(true);
+    parent.unset_ColorSpace();
+    parent.assign_ColorSpace(v2::sg_ColorSpace());
+    EXPECT_TRUE(parent.isset_ColorSpace());
+    parent.reset();
+    expect_flag(false);
+    parent.assign_ColorSpaceCMYK(new v2::ColorSpaceCMYKType());
+    EXPECT_TRUE(parent.isset_ColorSpace());
+}
+
+TEST(Objects, ANullMemberIsHarmless) {
+    v2::sg_Function holder;
+    const auto assign_null = [](v2::sg_Function& target) {
+        return &target.assign_Function(static_cast<v2::FunctionType*>(nullptr));
+    };
+    v2::FunctionType* const nothing = assign_null(holder);
+    nothing->set_Result(1);
+    v2::FunctionType* other = nullptr;
+    std::thread([&] {
+        v2::sg_Function another;
+        other = assign_null(another);
+        EXPECT_FALSE(other->isset_Result());
+    }).join();
+    EXPECT_NE(nothing, other);
+    EXPECT_FALSE(assign_null(holder)->isset_Result());
+    EXPECT_EQ(holder.getchosen(), v2::sg_Function::e_Function);
+    // Touching makes an object again.
+    holder.get_Function().set_Result(2);
+    EXPECT_EQ(v2::sg_Function(holder).get_Function().get_Result(), 2);
+    v2::sg_Function again;
+    assign_null(again);
+    EXPECT_FALSE(again.assign_Function(v2::FunctionType()).isset_Result());
 }
 
 TEST(Objects, AnAlternativeMayBeSetFromAPartOfTheOneItReplaces) {
