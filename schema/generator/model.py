@@ -346,13 +346,16 @@ class Builder:
     # Items
 
     def attribute(self, owner, node):
-        node.check("name type use", "annotation")
+        node.check("name type use default", "annotation")
         simple = self.simple_type(node, node.get("type"))
         if simple is None:
             raise node.error("an attribute must have a simple type")
+        initial = node.get("default")
+        if initial is not None and initial not in simple.enumeration:
+            raise node.error("a default must be one of the texts of an enumeration")
         minimum = 1 if node.get("use") == "required" else 0
         return self.finish(owner, Item("attribute", node.get("name"), node.get("name"), self.doc(node), simple,
-                                       minimum=minimum))
+                                       minimum=minimum, initial=initial))
 
     def occurrence(self, node):
         least, most = node.get("minOccurs", "1"), node.get("maxOccurs", "1")
@@ -443,7 +446,7 @@ class Builder:
         if options.get("initial") is not None and item.value is None:
             raise self.overlay.error("items", name, "only a simple item can have an initial value")
         return replace(item, kind=kind, use=tuple(options.get("use", use)),
-                       presence=options.get("presence", presence), initial=options.get("initial"),
+                       presence=options.get("presence", presence), initial=options.get("initial", item.initial),
                        mutable=options.get("mutable", False))
 
     # What follows from the whole

@@ -69,6 +69,11 @@ class Refusals(unittest.TestCase):
         self.refused("binding.toml", '"BSDFAngle.Azimuth" = { marker', '"BSDFAngle.Aspecular" = { marker',
                      "only a single child can be a marker")
 
+    def test_of_defaults(self):
+        scale = 'type="AxisScaleKind" default="Scale_Linear"'
+        self.refused("vyr.xsd", scale, scale.replace("Linear", "Bogus"),
+                     "a default must be one of the texts of an enumeration")
+
     def test_of_clashing_class_names(self):
         sources, _ = changed("binding.toml", '"ProfileType/Parameters" = "ProfileType_Parameters"', "")
         with self.assertRaisesRegex(SchemaError, r"^vyr.xsd:\d+: a second class Parameters"):
