@@ -72,21 +72,24 @@ bool is_lexically_valid(value_kind kind, const std::string& text, bool* has_zone
     return true;
 }
 
-/// The checks that look at the text, in the order in which they report.
-bool check_text(c_xml_reader& reader, const s_fault_site& site, const std::string& item_name, elmx_error* error) {
+bool is_pattern_met(const s_facets& facets, const std::string& text, bool is_valid, bool has_zone) {
+    // The pattern engine is quadratic on texts that fail the lexical check. It gives up on long ones, which counts as
+    // a match; so do they here, at a length that costs nothing yet.
+    constexpr std::size_t longest_odd_text = 128;
+    return facets.pattern == nullptr || (has_zone && facets.pattern_takes_zoned) ||
+           (!is_valid && text.size() > longest_odd_text) || facets.pattern->is_match(text);
+}
+
+/// The checks that look at the text, in the order in which they report. `*has_zone` is set as by the lexical one.
+bool check_text(c_xml_reader& reader, const s_fault_site& site, const std::string& item_name, elmx_error* error,
+                bool* has_zone) {
     const s_item& item = *site.item;
     const std::string& text = reader.m_value;
-    bool has_zone = false;
-    const bool is_valid = is_lexically_valid(item.value, text, &has_zone);
+    const bool is_valid = is_lexically_valid(item.value, text, has_zone);
     if (!is_valid && !goes_on(reader, site, ELMX_VALUE_BAD_FORMAT, item_name, error, __LINE__)) return false;
     if (item.facets == nullptr) return true;
     const s_facets& facets = *item.facets;
-    // The pattern engine is quadratic on texts that fail the check above. It gives up on long ones, which counts as a
-    // match; so do they here, at a length that costs nothing yet.
-    constexpr std::size_t longest_odd_text = 128;
-    const bool is_matched = facets.pattern == nullptr || (has_zone && facets.pattern_takes_zoned) ||
-                            (!is_valid && text.size() > longest_odd_text);
-    if (!is_matched && !facets.pattern->is_match(text) &&
+    if (!is_pattern_met(facets, text, is_valid, *has_zone) &&
         !goes_on(reader, site, ELMX_NO_PATTERN_MATCHED, item_name, error, __LINE__)) {
         return false;
     }
@@ -138,7 +141,8 @@ void* locate(const s_class& type, const s_item& item, void* object) {
 bool store_value(const s_class& type, const s_item& item, void* object, c_xml_reader& reader,
                  const std::string& item_name, elmx_error* error) {
     const s_fault_site site{&type, &item, object};
-    if (!check_text(reader, site, item_name, error)) return false;
+    bool has_zone = false;
+    if (!check_text(reader, site, item_name, error, &has_zone)) return false;
     const std::string& text = reader.m_value;
     switch (item.value) {
         case value_kind::number: {
@@ -159,9 +163,14 @@ bool store_value(const s_class& type, const s_item& item, void* object, c_xml_re
         case value_kind::uint8:
             *static_cast<std::uint8_t*>(locate(type, item, object)) = text_to_byte(text);
             break;
-        case value_kind::datetime:
-            *static_cast<c_datetime*>(locate(type, item, object)) = text;
+        case value_kind::datetime: {
+            c_datetime& value = *static_cast<c_datetime*>(locate(type, item, object));
+            value = text;
+            // An offset of zero prints as no zone, unless it is that of "Z": the value could not be read again.
+            const bool needs_zone = item.facets != nullptr && item.facets->pattern_takes_zoned;
+            if (needs_zone && has_zone && value.get_total_offset_mins() == 0) value.set_is_utc(true);
             break;
+        }
         case value_kind::binary:
             static_cast<c_binary*>(locate(type, item, object))->from_base64(text);
             break;

@@ -47,6 +47,35 @@ TEST(Reading, TextHasNoName) {
     }
 }
 
+TEST(Reading, AZoneOfZeroMinutesComesBackAsUtc) {
+    const std::string date = "2024-05-01T09:30:00";
+    const auto read_lab = [&](v2::ColorSpaceCIELabType& lab, const std::string& zone) {
+        std::string text = k_lab;
+        return read(lab, text.replace(text.find(date), date.size() + 1, date + zone));
+    };
+    for (const std::string zone : {"+00:00", "-00:00", "Z"}) {
+        v2::ColorSpaceCIELabType lab;
+        EXPECT_EQ(read_lab(lab, zone), s_outcome{}) << zone;
+        EXPECT_EQ(write(lab, "Vyr:ColorSpaceCIELab"), k_lab) << zone;
+        const std::string state =
+            element("CalibrationState", "CalibrationState_NA", " CalibrationDateTime=\"" + date + zone + "\"");
+        v2::CalibrationStateType calibration;
+        EXPECT_EQ(read(calibration, state), s_outcome{}) << zone;
+        EXPECT_TRUE(calibration.get_CalibrationDateTime().get_is_utc()) << zone;
+    }
+    v2::ColorSpaceCIELabType lab;
+    EXPECT_EQ(read_lab(lab, "+00:01"), s_outcome{});
+    EXPECT_FALSE(lab.get_ChangeHistory(0).get_is_utc());
+    // What a handler lets in without a zone is not given one.
+    const std::string without = with_declarations(
+        element("CalibrationState", "CalibrationState_NA", " CalibrationDateTime=\"" + date + "\""));
+    c_swallowing_reader reader(without);
+    v2::CalibrationStateType calibration;
+    EXPECT_EQ(read_with(reader, calibration).code, ELMX_OK);
+    EXPECT_EQ(reader.swallowed.size(), 1U);
+    EXPECT_FALSE(calibration.get_CalibrationDateTime().get_is_utc());
+}
+
 TEST(Reading, MisplacedChildrenAreMissingOrBreakTheEnd) {
     v2::Person person;
     EXPECT_EQ(read(person, element("Person", "<Vyr:ContactInfo>c</Vyr:ContactInfo><Vyr:Name>n</Vyr:Name>")),
