@@ -105,7 +105,8 @@ elmx_error c_report_builder::see(c_xml_writer& writer, elmx_error code, const st
     if (count(code)) {
         m_report.m_faults.push_back(make_fault(code, m_file, describe_failure(writer, code, item_name)));
     }
-    m_report.m_is_read_to_end = false;
+    // A value is written as it is; anything else ends the write.
+    m_report.m_is_read_to_end = is_of_value(code);
     return code;
 }
 

@@ -3,8 +3,9 @@
 
 /// Loading and saving with a report: not a bare code, but where and why, for whoever has to mend the document.
 ///
-/// The calls do what `Vyr::loadFile`, `loadString`, `writeFile` and `writeString` do, to the byte and the code. They
-/// throw nothing but `std::bad_alloc`: a failure of a container is a fault like any other.
+/// The calls do what `Vyr::loadFile`, `loadString`, `writeFile` and `writeString` do, to the byte and, but for two
+/// faults of a save that those pass over, to the code. They throw nothing but `std::bad_alloc`: a failure of a
+/// container is a fault like any other.
 
 #pragma once
 
@@ -51,8 +52,8 @@ struct DocumentFault {
 /// What a load or a save has to say: nothing, if all went well.
 class VYR_EXPORT DocumentReport {
 public:
-    /// What the plain call gives: 0, or the code of the first fault. Where the plain call throws, 1 if the system
-    /// refuses the file, and otherwise 1000.
+    /// The code of the first fault, or 0. It is what the plain call gives but for what a save alone reports: see
+    /// `writeFileWithReport`. Where the plain call throws, 1 if the system refuses the file, and otherwise 1000.
     lmx::elmx_error getCode() const { return m_code; }
     bool isOk() const { return m_code == lmx::ELMX_OK; }
 
@@ -65,7 +66,7 @@ public:
     /// How many there were with those that the limit left out.
     std::size_t getTotalCount() const { return m_total; }
     bool hasMore() const { return m_total > m_faults.size(); }
-    /// False if a fault ended the load: whatever follows it in the document was not looked at.
+    /// False if a fault ended the load or save: whatever follows it in the document was not looked at.
     bool isReadToEnd() const { return m_is_read_to_end; }
 
     /// One line for each fault, as `formatFault` gives them.
@@ -104,10 +105,12 @@ VYR_EXPORT DocumentReport loadStringWithReport(Vyr& document, const std::u16stri
 VYR_EXPORT DocumentReport loadMemoryWithReport(Vyr& document, const char* data, std::size_t size,
                                                const ReportOptions& options = {});
 
-/// `Vyr::writeFile` with a report: which element can't be written, and what it lacks. A plain file that can't be
-/// written in full, which is no failure of `writeFile`, is one here: 1.
+/// `Vyr::writeFile` with a report: which element can't be written, and what it lacks. Two things that are no failure
+/// of `writeFile` are one here: a plain file that can't be written in full (1), and each date and time that reading
+/// would refuse (22, 35), since setters take any. Such a date doesn't keep the file from being written, and ends
+/// nothing.
 VYR_EXPORT DocumentReport writeFileWithReport(const Vyr& document, const std::u16string& path);
-/// `Vyr::writeString` with a report. `*text` is assigned only on success.
+/// `Vyr::writeString` with a report. `*text` is assigned unless a fault ended the save.
 VYR_EXPORT DocumentReport writeStringWithReport(const Vyr& document, std::u16string* text);
 
 /// `file:line: path: text: detail (value)`, without the parts that are empty; no line break at the end.

@@ -6,6 +6,7 @@
 #pragma once
 
 #include <string>
+#include <type_traits>
 #include <utility>
 
 #include "document/report.h"
@@ -51,7 +52,11 @@ class c_reporting : public Stream {
 public:
     template <class... Arguments>
     explicit c_reporting(c_report_builder* report, Arguments&&... arguments)
-        : Stream(std::forward<Arguments>(arguments)...), m_report(report) {}
+        : Stream(std::forward<Arguments>(arguments)...), m_report(report) {
+        if constexpr (std::is_base_of_v<lmx::c_xml_writer, Stream>) {
+            if (report != nullptr) this->check_values();
+        }
+    }
 
     lmx::elmx_error user_handle_error(lmx::elmx_error code, const std::string& item_name, const char*, int) override {
         return m_report == nullptr ? code : m_report->see(*this, code, item_name);

@@ -7,6 +7,8 @@
 
 #include <filesystem>
 #include <optional>
+#include <sstream>
+#include <string>
 
 #include "tools/commands.h"
 #include "tools/files.h"
@@ -23,8 +25,12 @@ std::optional<std::string> format_of(const convert_options& options) {
     return std::nullopt;
 }
 
+/// Every line of the text is a complaint of its own.
 exit_code refuse(const std::string& file, const std::string& text, exit_code result = exit_usage_or_file) {
-    complain(file == k_standard_stream ? "standard output" : file, text);
+    std::istringstream lines(text);
+    for (std::string line; std::getline(lines, line);) {
+        complain(file == k_standard_stream ? "standard output" : file, line);
+    }
     return result;
 }
 

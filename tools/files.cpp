@@ -208,12 +208,18 @@ std::string replace_file(const fs::path& target, const struct stat* existing, co
     return refusal;
 }
 
-/// A code of the document calls is the system's doing, any other the document's.
-exit_code explain_failed_write(const DocumentReport& report, std::string* reason) {
-    com_vyrgraph_v2::DocumentFault fault = report.getFault(0);
-    fault.file.clear();
-    *reason = com_vyrgraph_v2::formatFault(fault);
-    const bool is_of_system = fault.code == lmx::ELMX_NO_FILE || fault.code == lmx::ELMX_USER_DEFINED_1;
+/// A code of the document calls is the system's doing, any other the document's. `*reasons` gets a line for each
+/// fault.
+exit_code explain_failed_write(const DocumentReport& report, std::string* reasons) {
+    reasons->clear();
+    for (com_vyrgraph_v2::DocumentFault fault : report.getFaults()) {
+        fault.file.clear();
+        if (!reasons->empty()) *reasons += '\n';
+        *reasons += com_vyrgraph_v2::formatFault(fault);
+    }
+    const std::size_t more = report.getTotalCount() - report.getFaultCount();
+    if (more > 0) *reasons += '\n' + std::to_string(more) + " more";
+    const bool is_of_system = report.getCode() == lmx::ELMX_NO_FILE || report.getCode() == lmx::ELMX_USER_DEFINED_1;
     return is_of_system ? exit_usage_or_file : exit_document_fails;
 }
 

@@ -537,6 +537,13 @@ s_failure describe_failure(const c_xml_writer& writer, elmx_error code, const st
     failure.path = path_of(writer.get_open_element(), {}, {});
     const s_fault_site* const site = writer.get_fault_site();
     if (site == nullptr) return failure;
+    if (is_of_value(code)) {
+        const char* const mark = site->item->kind == item_kind::attribute ? "@" : "";
+        failure.path = path_of(writer.get_open_element(), joined({mark, step_of(*site)}), {});
+        failure.value = shown(site->text);
+        failure.detail = allowed_value(*site->item, code, std::string(site->text));
+        return failure;
+    }
     const std::vector<const s_item*> absent =
         code == ELMX_OCCURS_ERROR_ON_MARSHAL ? absent_items(*site->type, site->object) : std::vector<const s_item*>();
     if (!absent.empty()) {

@@ -11,6 +11,7 @@
 #include "lmx/binding/object.h"
 #include "lmx/binding/open_element.h"
 #include "lmx/binding/storage.h"
+#include "lmx/binding/unmarshal.h"
 #include "lmx/writer/as_xml.h"
 
 namespace lmx {
@@ -35,10 +36,18 @@ void append_simple(std::string& line, const s_item& item, const void* value) {
     });
 }
 
+/// Setters take every date and time; reading doesn't.
+void report_odd_datetime(c_xml_writer& writer, const s_item& item, const std::string& text, std::size_t number) {
+    const elmx_error code = check_datetime(item, text);
+    if (code == ELMX_OK) return;
+    report_unhandled(writer, {nullptr, &item, nullptr, nullptr, text, number}, code, std::string(item.name));
+}
+
 /// One piece of output, put together in the writer's work string and printed at once.
 class c_line {
 public:
-    c_line(c_xml_writer& writer, bool at_line_start) : m_stream(writer(at_line_start)), m_text(writer.m_line) {
+    c_line(c_xml_writer& writer, bool at_line_start)
+        : m_writer(writer), m_stream(writer(at_line_start)), m_text(writer.m_line) {
         m_text.clear();
     }
     c_line(const c_line&) = delete;
@@ -49,21 +58,27 @@ public:
         m_text += text;
         return *this;
     }
-    c_line& value(const s_item& item, const void* storage) {
+    /// `number` is that of an entry of a repeating item, from 1.
+    c_line& value(const s_item& item, const void* storage, std::size_t number = 0) {
+        const std::size_t start = m_text.size();
         append_simple(m_text, item, storage);
+        if (item.value == value_kind::datetime && m_writer.checks_values()) {
+            report_odd_datetime(m_writer, item, m_text.substr(start), number);
+        }
         return *this;
     }
 
 private:
+    c_xml_writer& m_writer;
     std::ostream& m_stream;
     std::string& m_text;
 };
 
 /// `<Vyr:Name>value</Vyr:Name>` on a line of its own.
-void print_element(c_xml_writer& writer, const s_item& item, const void* storage) {
+void print_element(c_xml_writer& writer, const s_item& item, const void* storage, std::size_t number = 0) {
     c_line line(writer, true);
     line << "<" << item.name << ">";
-    line.value(item, storage) << "</" << item.name << ">" << writer.endl();
+    line.value(item, storage, number) << "</" << item.name << ">" << writer.endl();
 }
 
 void print_content(c_xml_writer& writer, const s_class& type, const void* object) {
@@ -74,7 +89,7 @@ void print_content(c_xml_writer& writer, const s_class& type, const void* object
 
 void print_simple_list(c_xml_writer& writer, const s_item& item, const void* object) {
     const c_list_base& entries = list_of(item, object);
-    for (std::size_t i = 0; i < entries.size(); ++i) print_element(writer, item, entries.entry(i));
+    for (std::size_t i = 0; i < entries.size(); ++i) print_element(writer, item, entries.entry(i), i + 1);
 }
 
 void print_any(c_xml_writer& writer, const s_item& item, const void* object) {

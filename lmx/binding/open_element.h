@@ -6,6 +6,10 @@
 
 #pragma once
 
+#include <cstddef>
+#include <string>
+#include <string_view>
+
 #include "lmx/binding/document.h"
 #include "lmx/binding/table.h"
 #include "lmx/reader/string_stack.h"
@@ -33,6 +37,8 @@ struct s_fault_site {
     const s_item* item = nullptr;   ///< the value, or what is missing
     const void* object = nullptr;   ///< of the class
     const s_document* document = nullptr;
+    std::string_view text{};  ///< of a save: the value as it is printed
+    std::size_t number = 0;   ///< of a save: the value's place in a repeating item, from 1
 };
 
 /// Makes an element the innermost open one for as long as this lives.

@@ -409,6 +409,13 @@ elmx_error refuse_nesting(c_xml_reader& reader, const std::string& name) {
 
 }  // namespace
 
+elmx_error check_datetime(const s_item& item, const std::string& text) {
+    bool has_zone = false;
+    if (!c_datetime::is_valid(text, &has_zone)) return ELMX_VALUE_BAD_FORMAT;
+    const bool is_met = item.facets == nullptr || is_pattern_met(*item.facets, text, true, has_zone);
+    return is_met ? ELMX_OK : ELMX_NO_PATTERN_MATCHED;
+}
+
 elmx_error unmarshal_element(const s_class& type, void* object, c_xml_reader& reader, const std::string& name) {
     if (reader.get_element_name_stack().get_depth() >= k_maximum_nesting) return refuse_nesting(reader, name);
     // The name argument is the reader's work string, and every event below overwrites it.

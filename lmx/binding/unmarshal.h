@@ -17,6 +17,9 @@
 
 namespace lmx {
 
+/// The code of the first check of reading that the text of a dateTime fails; `ELMX_OK` if it passes them all.
+elmx_error check_datetime(const s_item& item, const std::string& text);
+
 /// Elements of schema-bound classes may nest this deep. The recursion of a load follows the nesting, and 256
 /// levels fit a stack of 512 KiB with room to spare; no sensible document comes near it.
 inline constexpr std::size_t k_maximum_nesting = 256;

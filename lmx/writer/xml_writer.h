@@ -47,8 +47,14 @@ public:
     virtual const char* endl();
     /// Prints one indent step.
     virtual void nest();
-    /// Sees a failure that goes around the handler and ends the write. The default does nothing.
+    /// Sees a failure that goes around the handler and ends the write, and what `check_values` asks for. The default
+    /// does nothing.
     virtual void see_unhandled_error(elmx_error code, const std::string& item_name);
+
+    /// Asks for the dateTimes that a reader would refuse: each is passed to `see_unhandled_error` with the code that
+    /// reading would give, and written all the same.
+    void check_values() { m_checks_values = true; }
+    bool checks_values() const { return m_checks_values; }
 
     /// The stream; at the start of a line indented to the current depth.
     std::ostream& operator()(bool at_line_start);
@@ -113,6 +119,7 @@ private:
     const char* m_tab;
     const char* m_nl;
     bool m_ns_attrs_written = false;
+    bool m_checks_values = false;
     c_error m_error;
     elmx_error m_last_error = ELMX_OK;
     std::string m_error_item_name;

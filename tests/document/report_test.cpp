@@ -325,6 +325,87 @@ TEST(Report, SaysWhatASaveLacks) {
     EXPECT_FALSE(fs::exists("lacking.vyr") || fs::exists("lacking.vyrz"));
 }
 
+TEST(Report, SaysWhichDatesOfASaveCouldNotBeReadAgain) {
+    const auto utc = [](std::int32_t year, float secs) {
+        c_datetime value("2024-05-01T09:30:00Z");
+        value.set_year(year);
+        value.set_secs(secs);
+        return value;
+    };
+    const std::string no_zone = "No pattern matched (%): a time zone is missing: Z, or one such as +01:00";
+    const std::string no_date =
+        "Invalid value format for this type (%): a date and time is expected, such as 2024-05-31T12:30:00Z";
+    const struct {
+        c_datetime value;
+        std::string printed;
+        std::string fault;
+    } rows[] = {
+        {"2024-05-01T09:30:00Z", "2024-05-01T09:30:00Z", ""},
+        {utc(-2024, 5.5F), "-2024-05-01T09:30:05.5Z", ""},
+        {"yesterday", "0001-00-00T00:00:00", no_zone},
+        {"2024-05-01T09:30:00", "2024-05-01T09:30:00", no_zone},
+        {"205-05-01T09:30:00Z", "0205-00-00T00:00:00", no_zone},
+        {"2024-05-01T09:30:00+99:99", "2024-05-01T09:30:00+100:39", no_date},
+        {utc(-24, 0), "0-24-05-01T09:30:00Z", no_date},
+        {utc(2024, 9.9999999F), "2024-05-01T09:30:10Z", ""},
+        {utc(2024, 9.999999F), "2024-05-01T09:30:010Z", no_date},
+        {utc(2024, 1e9F), "2024-05-01T09:30:1e+09Z", no_date},
+    };
+    for (const auto& row : rows) {
+        Vyr document;
+        ASSERT_EQ(document.unmarshal(k_document), ELMX_OK);
+        auto& color = document.get_Palette(0).get_ColorSet(0).get_Color(0);
+        EXPECT_EQ(color.append_ChangeHistory(row.value), ELMX_OK);
+        EXPECT_EQ(row.value.get_as_string(), row.printed);
+        std::u16string text;
+        const DocumentReport report = writeStringWithReport(document, &text);
+        const std::string expected = row.fault.empty() ? "" : replaced(row.fault, "%", row.printed) + '\n';
+        EXPECT_EQ(report.toString(), expected.empty() ? "" : k_ink + " / ChangeHistory[2]: " + expected);
+        // The save is that of the plain call, and the fault is what reading gives.
+        EXPECT_EQ(document.writeString().getElmxError(), ELMX_OK);
+        EXPECT_EQ(text, document.writeString().getXmlDocument());
+        Vyr again;
+        EXPECT_EQ(again.loadString(text), report.getCode()) << row.printed;
+        EXPECT_TRUE(report.isReadToEnd());
+    }
+
+    // All of them, in attributes too, until something ends the save; the file is written, as by the plain call.
+    Vyr document;
+    ASSERT_EQ(document.unmarshal(k_document), ELMX_OK);
+    document.get_Preamble().get_Header().set_ChangeHistory(0, "yesterday");
+    EXPECT_EQ(
+        writeFileWithReport(document, u"dates.vyr").toString(),
+        "dates.vyr: Preamble / Header / ChangeHistory[1]: " + replaced(no_zone, "%", "0001-00-00T00:00:00") + '\n');
+    EXPECT_EQ(writeFileWithReport(document, u"packed-dates.vyrz").getFault(0).value, "0001-00-00T00:00:00");
+    EXPECT_TRUE(fs::exists("dates.vyr") && fs::exists("packed-dates.vyrz"));
+    document.append_ColorQualityControl();
+    auto& control = document.back_ColorQualityControl();
+    for (int i = 0; i < 200; ++i) control.append_ChangeHistory("2024-05-01T09:30:00");
+    control.append_StandardAndMeasurement();
+    auto& standard = control.get_StandardAndMeasurement(0).get_Standard();
+    standard.get_Color();
+    for (auto set : {&DeviceType::set_Manufacturer, &DeviceType::set_Model, &DeviceType::set_SerialNumber})
+        (standard.get_Device().*set)(u"d");
+    auto& state = standard.get_Device().get_CalibrationState();
+    state.set_CalibrationStateType(u"CalibrationState_Calibrated");
+    state.set_CalibrationDateTime("2024-05-01T09:30:00");
+    std::u16string untouched = u"untouched";
+    const DocumentReport report = writeStringWithReport(document, &untouched);
+    EXPECT_EQ(report.getCode(), ELMX_NO_PATTERN_MATCHED);
+    EXPECT_EQ(report.getFaultCount(), 100U);
+    EXPECT_EQ(report.getFault(99).path, "ColorQualityControl[1] / ChangeHistory[99]");
+    EXPECT_EQ(report.getTotalCount(), 203U);
+    EXPECT_FALSE(report.isReadToEnd());
+    EXPECT_EQ(untouched, u"untouched");
+    control.clear_ChangeHistory();
+    control.append_ChangeHistory("2024-05-01T09:30:00Z");
+    const DocumentReport fewer = writeStringWithReport(document, &untouched);
+    const std::string place = "ColorQualityControl[1] / StandardAndMeasurement[1] / Standard / ";
+    EXPECT_EQ(fewer.getFault(1).path, place + "Device / CalibrationState / @CalibrationDateTime");
+    EXPECT_EQ(fewer.getFault(1).value, "2024-05-01T09:30:00");
+    EXPECT_EQ(fewer.getFault(2).code, ELMX_OCCURS_ERROR_ON_MARSHAL);
+}
+
 TEST(Report, NamesFilesAndContainers) {
     Vyr document;
     ASSERT_EQ(document.unmarshal(k_document), ELMX_OK);

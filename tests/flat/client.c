@@ -34,6 +34,11 @@ extern void* CSharp_Vyr_writeString(void* self);
 extern int32_t CSharp_Vyr_unmarshal__SWIG_1(void* self, const char* data, uint32_t size);
 extern int32_t CSharp_Vyr_marshal__SWIG_0(void* self, const char* path);
 extern uint32_t CSharp_Vyr_size_Palette(void* self);
+extern int32_t CSharp_Vyr_unmarshal__SWIG_0(void* self, const char* path);
+extern void* CSharp_Vyr_get_Palette__SWIG_0(void* self, uint32_t index);
+extern int32_t CSharp_PaletteType_append_ChangeHistory(void* self, void* value);
+extern void* CSharp_new_c_datetime__SWIG_2(const char* text);
+extern void CSharp_delete_c_datetime(void* self);
 extern void* CSharp_new_XMLDocumentResult(const char16_t* text, int32_t code);
 extern void CSharp_delete_XMLDocumentResult(void* self);
 extern char16_t* CSharp_XMLDocumentResult_getXmlDocument(void* self);
@@ -283,7 +288,7 @@ static void check_text(char16_t* text, const char16_t* expected, int line) {
 }
 #define CHECK_TEXT(text, expected) check_text(text, expected, __LINE__)
 
-static void reports(void) {
+static void reports(const char* palette) {
     static const char16_t text[] =
         u"<v:Vyr xmlns:v='http://vyrgraph.com/v2'>\n<v:Preamble x\u00E9='1'>\n<v:Header y='2'/></v:Preamble></v:Vyr>";
     void* document = CSharp_new_Vyr__SWIG_0();
@@ -315,7 +320,21 @@ static void reports(void) {
     report = VyrModule_WriteFile(document, u"document.txt");
     CHECK(VyrModule_ReportCode(report) == 1001);
     VyrModule_DeleteReport(report);
+    CSharp_delete_Vyr(document);
 
+    /* Setters take every date; a save tells of those that can't be read again, and writes them. */
+    document = CSharp_new_Vyr__SWIG_0();
+    CHECK(CSharp_Vyr_unmarshal__SWIG_0(document, palette) == 0);
+    void* date = CSharp_new_c_datetime__SWIG_2("2024-05-01T09:30:00");
+    CHECK(CSharp_PaletteType_append_ChangeHistory(CSharp_Vyr_get_Palette__SWIG_0(document, 0), date) == 0);
+    CHECK(CSharp_Vyr_writeFile(document, u"client-date.vyr") == 0);
+    report = VyrModule_WriteFile(document, u"client-date.vyr");
+    CHECK(VyrModule_ReportCode(report) == 35 && VyrModule_ReportTotalCount(report) == 1);
+    CHECK_TEXT(VyrModule_FaultPath(report, 0), u"Palette \"CSS\" / ChangeHistory[2]");
+    CHECK_TEXT(VyrModule_FaultValue(report, 0), u"2024-05-01T09:30:00");
+    CHECK(CSharp_Vyr_loadFile(document, u"client-date.vyr") == 35);
+    VyrModule_DeleteReport(report);
+    CSharp_delete_c_datetime(date);
     CSharp_delete_Vyr(document);
 }
 
@@ -331,6 +350,6 @@ int main(int count, char** arguments) {
     strings(8);
     nulls_and_results();
     documents(arguments[1], atol(arguments[2]));
-    reports();
+    reports(arguments[1]);
     return 0;
 }
