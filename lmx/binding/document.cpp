@@ -5,6 +5,7 @@
 
 #include <cstdio>
 #include <fstream>
+#include <new>
 #include <sstream>
 
 #include "lmx/binding/open_element.h"
@@ -66,7 +67,10 @@ elmx_error marshal_document(const s_document& document, const void* object, cons
 elmx_error marshal_document(const s_document& document, const void* object, std::string* text) {
     std::ostringstream stream;
     const elmx_error error = marshal_whole(document, object, stream);
-    if (error == ELMX_OK) *text = std::move(stream).str();
+    if (error != ELMX_OK) return error;
+    // A stream keeps quiet about memory that ran out.
+    if (!stream.good()) throw std::bad_alloc();
+    *text = std::move(stream).str();
     return error;
 }
 

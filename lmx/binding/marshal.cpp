@@ -43,7 +43,8 @@ void report_odd_datetime(c_xml_writer& writer, const s_item& item, const std::st
     report_unhandled(writer, {nullptr, &item, nullptr, nullptr, text, number}, code, std::string(item.name));
 }
 
-/// One piece of output, put together in the writer's work string and printed at once.
+/// One piece of output, put together in the writer's work string and printed at once by `print`: in an ordinary call,
+/// because a stream may throw.
 class c_line {
 public:
     c_line(c_xml_writer& writer, bool at_line_start)
@@ -52,7 +53,8 @@ public:
     }
     c_line(const c_line&) = delete;
     c_line& operator=(const c_line&) = delete;
-    ~c_line() { m_stream.write(m_text.data(), static_cast<std::streamsize>(m_text.size())); }
+
+    void print() { m_stream.write(m_text.data(), static_cast<std::streamsize>(m_text.size())); }
 
     c_line& operator<<(std::string_view text) {
         m_text += text;
@@ -79,12 +81,13 @@ void print_element(c_xml_writer& writer, const s_item& item, const void* storage
     c_line line(writer, true);
     line << "<" << item.name << ">";
     line.value(item, storage, number) << "</" << item.name << ">" << writer.endl();
+    line.print();
 }
 
 void print_content(c_xml_writer& writer, const s_class& type, const void* object) {
     const s_item& item = content_owner(type).elements.front();
     // A content that may be missing prints no text then.
-    if (is_set(item, object)) c_line(writer, false).value(item, &member<std::byte>(object, item.offset));
+    if (is_set(item, object)) c_line(writer, false).value(item, &member<std::byte>(object, item.offset)).print();
 }
 
 void print_simple_list(c_xml_writer& writer, const s_item& item, const void* object) {
@@ -96,7 +99,7 @@ void print_any(c_xml_writer& writer, const s_item& item, const void* object) {
     const auto& entries = member<c_list<c_any_info>>(object, item.offset);
     // The markup is in the value already.
     for (std::size_t i = 0; i < entries.size(); ++i) {
-        c_line(writer, true) << entries[i].get_value() << writer.endl();
+        (c_line(writer, true) << entries[i].get_value() << writer.endl()).print();
     }
 }
 
@@ -126,7 +129,7 @@ elmx_error print_item(c_xml_writer& writer, const s_item& item, const void* obje
         case item_kind::group_list:
             return print_list(writer, item, object);
         case item_kind::marker:
-            c_line(writer, true) << "<" << item.name << "/>" << writer.endl();
+            (c_line(writer, true) << "<" << item.name << "/>" << writer.endl()).print();
             return ELMX_OK;
         case item_kind::any:
             print_any(writer, item, object);
@@ -161,7 +164,7 @@ elmx_error print_chosen(c_xml_writer& writer, const s_class& type, const void* o
 void print_xsi_type(c_xml_writer& writer, const s_class& type) {
     const char* const expected = writer.get_expected_class_identity();
     if (type.id == nullptr || expected == nullptr || expected == *type.id) return;
-    c_line(writer, false) << " xsi:type=\"" << type.xsi_type << "\"";
+    (c_line(writer, false) << " xsi:type=\"" << type.xsi_type << "\"").print();
     writer.clear_expected_class_identity();
 }
 
@@ -173,7 +176,7 @@ elmx_error marshal_element(const s_class& type, const void* object, c_xml_writer
     if (type.content != content_kind::choice && !is_occurs_ok(type, object)) {
         return report_unhandled(writer, {&type, nullptr, object}, ELMX_OCCURS_ERROR_ON_MARSHAL, name);
     }
-    c_line(writer, true) << "<" << name;
+    (c_line(writer, true) << "<" << name).print();
     if (type.ns_map != nullptr) {
         writer.conditionally_select_ns_map(type.ns_map);
         writer.conditionally_write_ns_attrs(true);
@@ -181,27 +184,27 @@ elmx_error marshal_element(const s_class& type, const void* object, c_xml_writer
     print_xsi_type(writer, type);
     marshal_attributes(type, object, writer);
     if (is_nil(type, object)) {
-        c_line(writer, false) << " xsi:nil=\"true\"/>" << writer.endl();
+        (c_line(writer, false) << " xsi:nil=\"true\"/>" << writer.endl()).print();
         return ELMX_OK;
     }
     switch (type.content) {
         case content_kind::empty:
-            c_line(writer, false) << "/>" << writer.endl();
+            (c_line(writer, false) << "/>" << writer.endl()).print();
             return ELMX_OK;
         case content_kind::simple:
-            c_line(writer, false) << ">";
+            (c_line(writer, false) << ">").print();
             print_content(writer, type, object);
-            c_line(writer, false) << "</" << name << ">" << writer.endl();
+            (c_line(writer, false) << "</" << name << ">" << writer.endl()).print();
             return ELMX_OK;
         default:
             break;
     }
-    c_line(writer, false) << ">" << writer.endl();
+    (c_line(writer, false) << ">" << writer.endl()).print();
     writer.indent();
     const elmx_error error = marshal_child_elements(type, object, writer);
     if (error != ELMX_OK) return error;
     writer.undent();
-    c_line(writer, true) << "</" << name << ">" << writer.endl();
+    (c_line(writer, true) << "</" << name << ">" << writer.endl()).print();
     return ELMX_OK;
 }
 
@@ -212,6 +215,7 @@ void marshal_attributes(const s_class& type, const void* object, c_xml_writer& w
         c_line line(writer, false);
         line << " " << item.name << "=\"";
         line.value(item, &member<std::byte>(object, item.offset)) << "\"";
+        line.print();
     }
 }
 

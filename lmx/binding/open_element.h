@@ -57,22 +57,32 @@ private:
     s_open_element m_element;
 };
 
+/// Tells what a failure is about for as long as this lives: a handler may throw.
+template <class Stream>
+class c_told_site {
+public:
+    c_told_site(Stream& stream, const s_fault_site& site) : m_stream(stream) { stream.set_fault_site(&site); }
+    c_told_site(const c_told_site&) = delete;
+    c_told_site& operator=(const c_told_site&) = delete;
+    ~c_told_site() { m_stream.set_fault_site(nullptr); }
+
+private:
+    Stream& m_stream;
+};
+
 /// Passes a failure with its site to the handler; the handler's answer.
 template <class Stream>
 elmx_error report_at(Stream& stream, const s_fault_site& site, elmx_error code, const std::string& item_name,
                      const char* file, int line) {
-    stream.set_fault_site(&site);
-    const elmx_error answer = stream.handle_error(code, item_name, file, line);
-    stream.set_fault_site(nullptr);
-    return answer;
+    const c_told_site told(stream, site);
+    return stream.handle_error(code, item_name, file, line);
 }
 
 /// The same for a failure that goes around the handler; the code.
 template <class Stream>
 elmx_error report_unhandled(Stream& stream, const s_fault_site& site, elmx_error code, const std::string& item_name) {
-    stream.set_fault_site(&site);
+    const c_told_site told(stream, site);
     stream.see_unhandled_error(code, item_name);
-    stream.set_fault_site(nullptr);
     return code;
 }
 

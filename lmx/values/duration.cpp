@@ -155,6 +155,8 @@ std::partial_ordering operator<=>(const c_duration& a, const c_duration& b) {
 std::string c_duration::get_as_string() const {
     std::ostringstream stream;
     stream.imbue(std::locale::classic());
+    // Memory that runs out shall be told, not cut the text.
+    stream.exceptions(std::ios_base::badbit);
     stream << *this;
     return stream.str();
 }
