@@ -1,0 +1,47 @@
+#!/usr/bin/env bash
+# Copyright 2026 The Vyr Authors
+# SPDX-License-Identifier: Apache-2.0
+#
+# Makes a release, without tests and files, of a copy of the sources: no place keeps the version of before, and what
+# must not be released is refused.
+#
+#   check_release.sh ROOT
+
+set -euo pipefail
+root=$1
+work=$(mktemp -d)
+trap 'rm -rf "$work"' EXIT
+fail() { echo "check_release.sh: $*" >&2; exit 1; }
+
+[[ -e $root/.git ]] || { echo "these sources are no clone"; exit 77; }
+mkdir "$work/clone"
+# As they lie there, changes that aren't committed included.
+cd "$root"
+git ls-files -z | tar --create --null --files-from=- --ignore-failed-read | tar --extract --directory "$work/clone"
+cd "$work/clone"
+export GIT_CONFIG_GLOBAL=/dev/null GIT_AUTHOR_NAME=test GIT_AUTHOR_EMAIL=test@vyr.invalid
+export GIT_COMMITTER_NAME=test GIT_COMMITTER_EMAIL=test@vyr.invalid
+git init --quiet
+git add --all
+git commit --quiet --message "Begin"
+
+current=$(sed -n 's/^project(vyr VERSION \([0-9.]*\) .*/\1/p' CMakeLists.txt)
+sed -i 's/^## \[Unreleased\]$/&\n\n- A line of this test/' CHANGELOG.md
+if scripts/release.sh 9.8.7 --prepare 2> "$work/refusal"; then fail "a work tree with changes is released"; fi
+grep --quiet "has changes" "$work/refusal" || fail "refused for another reason: $(cat "$work/refusal")"
+git commit --all --quiet --message "Go on"
+if scripts/release.sh 0.0.1 --prepare 2> "$work/refusal"; then fail "an older version is released"; fi
+grep --quiet "does not come behind" "$work/refusal" || fail "refused for another reason: $(cat "$work/refusal")"
+
+scripts/release.sh 9.8.7 --prepare
+[[ -z $(git status --porcelain) ]] || fail "changes are left behind"
+[[ $(git describe) == v9.8.7 ]] || fail "the commit has no tag"
+git tag --list --format='%(contents)' v9.8.7 | grep --quiet "A line of this test" || fail "the tag has no notes"
+# Every place that a version is written in: the changelog alone may still name the former one.
+left=$(git grep --fixed-strings --line-number -e "VERSION $current" -e "\"$current\"" -e "vyr ${current%.*} " \
+    -e "libvyr${current%.*}" -e "libvyr.so.${current%.*}" -- ':!CHANGELOG.md' ':!tests' || true)
+[[ -z $left ]] || fail "the former version is left:"$'\n'"$left"
+[[ $(sed -n '/^## \[Unreleased\]/,/^## \[9/{/^## /d;/./p}' CHANGELOG.md) == "" ]] || fail "notes stay unreleased"
+if scripts/release.sh 9.8.8 --prepare 2> "$work/refusal"; then fail "a release without notes is made"; fi
+grep --quiet "nothing under" "$work/refusal" || fail "refused for another reason: $(cat "$work/refusal")"
+echo "released 9.8.7 from $current"
