@@ -4,7 +4,7 @@
 #
 # Installs what is missing to work on Vyr on a Debian 12 machine; does nothing, quickly, when nothing is missing.
 #
-#   scripts/setup.sh [build] [tool] [test] [csharp] [windows] [bench] [docs] [fuzz] [package]   (without any: build)
+#   scripts/setup.sh [build] [tool] [test] [csharp] [windows] [bench] [docs] [clang] [tidy] [package]   (without any: build)
 
 set -euo pipefail
 
@@ -17,7 +17,8 @@ declare -A packages=(
     [package]="dpkg-dev file"
     [bench]="libbenchmark-dev libpugixml-dev"
     [docs]="doxygen python3"
-    [fuzz]="clang-14 clang libclang-rt-14-dev"
+    [clang]="clang-14 clang libclang-rt-14-dev"
+    [tidy]="clang-tidy-14"
 )
 
 wanted=${packages[build]}
