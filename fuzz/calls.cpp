@@ -45,8 +45,10 @@ enum class e_way : std::uint8_t {
     set_value,       ///< a date with time, or bytes
     set_enumerated,  ///< the number of a text
     look,            ///< nothing: an integer is the result
+    look_uint,
     look_number,
     look_text,
+    look_narrow,
     look_text_at,
     act,        ///< nothing, and no result
     swap,       ///< an object of the same class
@@ -117,8 +119,8 @@ public:
     c_session& operator=(const c_session&) = delete;
 
     void run() {
-        for (int calls = 0; calls < 300 && m_input.remaining_bytes() > 0; ++calls) {
-            switch (below(16)) {
+        for (int calls = 0; calls < 200 && m_input.remaining_bytes() > 0; ++calls) {
+            switch (below(80)) {
                 case 0:
                     keep_copy(walk());
                     break;
@@ -306,11 +308,17 @@ private:
             case e_way::look_number:
                 call<double>(made.function, self);
                 return;
+            case e_way::look_uint:
+                call<std::uint32_t>(made.function, self);
+                return;
             case e_way::look_text:
-                VyrModule_FreeString(call<void*>(made.function, self));
+                VyrModule_FreeString(call<char16_t*>(made.function, self));
+                return;
+            case e_way::look_narrow:
+                VyrModule_FreeString(call<char*>(made.function, self));
                 return;
             case e_way::look_text_at:
-                if (size > 0) VyrModule_FreeString(call<void*>(made.function, self, index_below(size)));
+                if (size > 0) VyrModule_FreeString(call<char16_t*>(made.function, self, index_below(size)));
                 return;
             case e_way::act:
                 call<void>(made.function, self);
@@ -378,8 +386,8 @@ private:
         return code;
     }
 
-    static std::u16string take_text(void* text) {
-        std::u16string taken = static_cast<const char16_t*>(text);
+    static std::u16string take_text(char16_t* text) {
+        std::u16string taken = text;
         VyrModule_FreeString(text);
         return taken;
     }
@@ -390,9 +398,9 @@ private:
             call<std::int32_t>(made.function, self, value.c_str());
             return;
         }
-        const std::u16string before = take_text(call<void*>(made.partner, self));
+        const std::u16string before = take_text(call<char16_t*>(made.partner, self));
         const auto code = call<std::int32_t>(made.function, self, value.c_str());
-        const std::u16string after = take_text(call<void*>(made.partner, self));
+        const std::u16string after = take_text(call<char16_t*>(made.partner, self));
         require(after == (code == 0 ? std::u16string(value.c_str()) : before), "another text is stored", made.name);
     }
 
@@ -428,15 +436,27 @@ private:
         return written;
     }
 
+    /// A document that is made, by copying too, has the library's stamp as that of what read it.
+    static s_written without_stamp(s_written written) {
+        static constexpr std::string_view k_name = "Vyr:ReadSDKInformation>\n";
+        const std::size_t from = written.text.find(k_name);
+        if (from == std::string::npos) return written;
+        const std::size_t to = written.text.find(k_name, from + 1);
+        written.text.erase(from, to - from);
+        return written;
+    }
+
     static void check_copy(const Vyr& document) {
         const s_written written = write(document);
         const Vyr copy(document);
+        const s_written copied = write(copy);
         // A copy takes what is required as present, so that it may be written where the original isn't.
-        if (written.code == lmx::ELMX_OK)
-            require(write(copy) == written, "a copy is written differently", written.text);
+        if (written.code == lmx::ELMX_OK && without_stamp(written) != without_stamp(copied)) {
+            fail("a copy is written differently", written.text + "\nand\n" + copied.text);
+        }
         Vyr assigned;
         assigned = copy;
-        require(write(assigned) == write(copy), "a copy of a copy is written differently");
+        require(write(assigned) == copied, "a copy of a copy is written differently");
     }
 
     void check_swap() {
