@@ -9,12 +9,14 @@
 #include <cstdint>
 #include <deque>
 #include <iostream>
+#include <limits>
 #include <map>
 #include <optional>
 #include <utility>
 #include <vector>
 
 #include "tools/commands.h"
+#include "tools/diff.h"
 #include "tools/files.h"
 #include "tools/json.h"
 #include "tools/text.h"
@@ -42,33 +44,37 @@ constexpr s_change_form k_forms[] = {{'-', "removed", "\x1B[31m"},
 /// Prints changes as they are found.
 class c_changes {
 public:
-    explicit c_changes(const diff_options& options) : m_options(options), m_has_color(use_color(options.color)) {
-        if (m_options.json) std::cout << "[";
+    c_changes(const diff_options& options, std::ostream& out, std::size_t limit)
+        : m_options(options), m_out(out), m_limit(limit), m_has_color(use_color(options.color)) {
+        if (m_options.json) m_out << "[";
     }
     /// `before` and `after` are a simple value on each side, `note` is for people only.
     void add(e_change kind, const std::string& path, std::optional<std::string_view> before,
              std::optional<std::string_view> after, const std::string& note = {});
     void finish() const {
-        if (m_options.json) std::cout << "\n]\n";
+        if (m_options.json) m_out << "\n]\n";
+        if (m_count > m_limit) m_out << m_count - m_limit << " more\n";
     }
-    bool is_any() const { return m_is_any; }
+    bool is_any() const { return m_count > 0; }
 
 private:
     const diff_options& m_options;
+    std::ostream& m_out;
+    std::size_t m_limit;
     bool m_has_color;
-    bool m_is_any = false;
+    std::size_t m_count = 0;
 };
 
 void c_changes::add(e_change kind, const std::string& path, std::optional<std::string_view> before,
                     std::optional<std::string_view> after, const std::string& note) {
-    const bool is_first = !std::exchange(m_is_any, true);
+    const bool is_first = m_count++ == 0;
     const s_change_form& form = k_forms[static_cast<std::size_t>(kind)];
-    if (m_options.quiet) return;
+    if (m_options.quiet || m_count > m_limit) return;
     if (m_options.json) {
         json object = {{"change", form.name}, {"path", path}};
         if (before) object["before"] = *before;
         if (after) object["after"] = *after;
-        std::cout << (is_first ? "\n" : ",\n") << to_text(object, true);
+        m_out << (is_first ? "\n" : ",\n") << to_text(object, true);
         return;
     }
     std::string line = form.sign + (" " + path);
@@ -77,7 +83,7 @@ void c_changes::add(e_change kind, const std::string& path, std::optional<std::s
     if (before && after) line += " ->";
     if (after) line += " " + quoted(*after);
     line += note;
-    std::cout << (m_has_color ? form.color + line + "\x1B[0m" : line) << '\n';
+    m_out << (m_has_color ? form.color + line + "\x1B[0m" : line) << '\n';
 }
 
 /// Elements nest no deeper in the format itself; foreign content below is compared as a whole.
@@ -318,6 +324,14 @@ private:
 
 }  // namespace
 
+void print_differences(const c_tree& before, const c_tree& after, std::ostream& out, std::size_t limit) {
+    diff_options options;
+    options.color = "never";
+    c_changes changes(options, out, limit);
+    c_comparison(before, after, changes).compare(0, 0, {}, 0);
+    changes.finish();
+}
+
 exit_code diff(const diff_options& options) {
     c_tree before;
     c_tree after;
@@ -325,7 +339,7 @@ exit_code diff(const diff_options& options) {
     if (read_tree(options.before, before) != exit_ok || read_tree(options.after, after) != exit_ok) {
         return exit_usage_or_file;
     }
-    c_changes changes(options);
+    c_changes changes(options, std::cout, std::numeric_limits<std::size_t>::max());
     c_comparison(before, after, changes).compare(0, 0, {}, 0);
     changes.finish();
     return changes.is_any() ? exit_document_fails : exit_ok;

@@ -7,6 +7,7 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
+#include <algorithm>
 #include <cerrno>
 #include <csignal>
 #include <cstring>
@@ -143,11 +144,8 @@ void read_regular(const std::string& file, Vyr& document, const ReportOptions& o
     reading.report = com_vyrgraph_v2::loadFileWithReport(document, link.string(), options);
 }
 
-void read_stream(int descriptor, Vyr& document, const ReportOptions& options, s_reading& reading) {
-    std::string bytes;
-    reading.refusal = read_all(descriptor, bytes);
+void read_bytes(const std::string& bytes, Vyr& document, const ReportOptions& options, s_reading& reading) {
     reading.size = bytes.size();
-    if (!reading.refusal.empty()) return;
     if (!bytes.starts_with(k_archive_signature)) {
         reading.report = com_vyrgraph_v2::loadMemoryWithReport(document, bytes.data(), bytes.size(), options);
         return;
@@ -157,6 +155,12 @@ void read_stream(int descriptor, Vyr& document, const ReportOptions& options, s_
     reading.refusal = write_file(copy.string(), bytes);
     if (reading.refusal.empty())
         reading.report = com_vyrgraph_v2::loadFileWithReport(document, copy.string(), options);
+}
+
+void read_stream(int descriptor, Vyr& document, const ReportOptions& options, s_reading& reading) {
+    std::string bytes;
+    reading.refusal = read_all(descriptor, bytes);
+    if (reading.refusal.empty()) read_bytes(bytes, document, options, reading);
 }
 
 void read_any(const std::string& file, Vyr& document, const ReportOptions& options, s_reading& reading) {
@@ -170,8 +174,9 @@ void read_any(const std::string& file, Vyr& document, const ReportOptions& optio
     } else if (S_ISREG(state.st_mode)) {
         reading.size = static_cast<std::size_t>(state.st_size);
         read_regular(file, document, options, reading);
-        // The system's refusal of a file that it has just opened: of its content.
-        if (reading.report.getCode() == lmx::ELMX_NO_FILE) reading.refusal = reading.report.getFault(0).text;
+        // The system's refusal of a file that it has just opened: of its content. No fault of the document's.
+        const int refused = reading.report.getSystemError();
+        if (refused != 0) reading.refusal = std::strerror(refused);
     } else {
         read_stream(descriptor.get(), document, options, reading);
     }
@@ -188,11 +193,14 @@ fs::path behind_links(fs::path path) {
 }
 
 /// Writes a file of another name beside the target and lets it take the target's place.
-std::string replace_file(const fs::path& target, const struct stat* existing, const std::string& bytes) {
+std::string replace_file(const fs::path& target, const struct stat* existing, const std::string& bytes,
+                         const written_check& check) {
     const c_signals_held held;
     const fs::path folder = target.has_parent_path() ? target.parent_path() : fs::path(".");
-    std::string made = (folder / ".vyr-XXXXXX").string();
-    c_descriptor descriptor(mkostemp(made.data(), O_CLOEXEC));
+    // Whatever the target is called, the check knows a container by its ending.
+    const std::string ending = bytes.starts_with(k_archive_signature) ? ".vyrz" : ".vyr";
+    std::string made = (folder / ".vyr-XXXXXX").string() + ending;
+    c_descriptor descriptor(mkostemps(made.data(), static_cast<int>(ending.size()), O_CLOEXEC));
     if (descriptor.get() < 0) return system_text();
     const mode_t mask = umask(0);
     umask(mask);
@@ -200,9 +208,11 @@ std::string replace_file(const fs::path& target, const struct stat* existing, co
     // Only the superuser may give files away; for others the new file is their own.
     if (existing != nullptr && fchown(descriptor.get(), existing->st_uid, existing->st_gid) != 0) errno = 0;
     const mode_t mode = existing != nullptr ? existing->st_mode & 07777U : 0666U & ~mask;
-    const bool is_kept = refusal.empty() && fchmod(descriptor.get(), mode) == 0 && fsync(descriptor.get()) == 0 &&
-                         descriptor.close() && rename(made.c_str(), target.c_str()) == 0;
-    if (is_kept) return {};
+    const bool is_written =
+        refusal.empty() && fchmod(descriptor.get(), mode) == 0 && fsync(descriptor.get()) == 0 && descriptor.close();
+    if (refusal.empty() && !is_written) refusal = system_text();
+    if (is_written && check) refusal = check(made);
+    if (refusal.empty() && rename(made.c_str(), target.c_str()) == 0) return {};
     if (refusal.empty()) refusal = system_text();
     unlink(made.c_str());
     return refusal;
@@ -247,6 +257,12 @@ s_reading read_document(const std::string& file, Vyr& document, const ReportOpti
     } catch (const std::bad_alloc&) {
         reading.refusal = k_no_memory;
     }
+    return reading;
+}
+
+s_reading read_document_bytes(const std::string& bytes, Vyr& document) {
+    s_reading reading;
+    read_bytes(bytes, document, {}, reading);
     return reading;
 }
 
@@ -310,23 +326,26 @@ exit_code read_tree(const std::string& file, c_tree& tree, std::size_t* size) {
     return exit_document_fails;
 }
 
-std::string write_file(const std::string& file, const std::string& bytes) {
+std::string write_file(const std::string& file, const std::string& bytes, const written_check& check) {
+    const auto check_unwritten = [&] { return check ? check({}) : std::string(); };
     if (file == k_standard_stream) {
+        if (std::string refusal = check_unwritten(); !refusal.empty()) return refusal;
         const std::string refusal = write_all(STDOUT_FILENO, bytes);
         // Whoever closes the pipe has read enough.
         return !refusal.empty() && errno == EPIPE ? std::string() : refusal;
     }
     const fs::path target = behind_links(file);
     struct stat state {};
-    if (stat(target.c_str(), &state) != 0) return replace_file(target, nullptr, bytes);
+    if (stat(target.c_str(), &state) != 0) return replace_file(target, nullptr, bytes, check);
     if (S_ISDIR(state.st_mode)) return k_is_directory;
     if (S_ISREG(state.st_mode)) {
         // A file may be protected in a folder that isn't.
         if (faccessat(AT_FDCWD, target.c_str(), W_OK, AT_EACCESS) != 0) return system_text();
-        return replace_file(target, &state, bytes);
+        return replace_file(target, &state, bytes, check);
     }
     c_descriptor descriptor(open(target.c_str(), O_WRONLY | O_CLOEXEC));
     if (descriptor.get() < 0) return system_text();
+    if (std::string refusal = check_unwritten(); !refusal.empty()) return refusal;
     const std::string refusal = write_all(descriptor.get(), bytes);
     return refusal.empty() && !descriptor.close() ? system_text() : refusal;
 }

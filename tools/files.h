@@ -6,6 +6,7 @@
 #pragma once
 
 #include <cstddef>
+#include <functional>
 #include <string>
 
 #include "document/report.h"
@@ -40,14 +41,21 @@ exit_code read_or_explain(const std::string& file, com_vyrgraph_v2::Vyr& documen
 /// The same as a tree.
 exit_code read_tree(const std::string& file, c_tree& tree, std::size_t* size = nullptr);
 
+/// The same for a document whose bytes, those of a container or of a plain document, are at hand.
+s_reading read_document_bytes(const std::string& bytes, com_vyrgraph_v2::Vyr& document);
+
 /// The document in the form that the library writes, in UTF-8, or a container whose one entry is called after `stem`.
 /// On failure `*bytes` says why.
 exit_code document_bytes(const com_vyrgraph_v2::Vyr& document, std::string* bytes);
 exit_code container_bytes(const com_vyrgraph_v2::Vyr& document, const std::string& stem, std::string* bytes);
 
+/// Looks at what was written: at a file that holds it, or, where none does, with an empty name before anything is
+/// written. Returns why it must not stay, or nothing.
+using written_check = std::function<std::string(const std::string& file)>;
+
 /// Writes a file or "-": either all of it, or nothing that stays. An existing file keeps its permissions, a link
 /// stays one. Returns why it could not be done, or nothing.
-std::string write_file(const std::string& file, const std::string& bytes);
+std::string write_file(const std::string& file, const std::string& bytes, const written_check& check = {});
 
 /// A printable name for messages.
 std::string shown_name(const std::string& file);

@@ -102,7 +102,8 @@ void add_convert(CLI::App& command, convert_options& options) {
         ->check(CLI::IsMember({"vyr", "vyrz"}))
         ->option_text("FORMAT");
     command.footer(
-        "The output takes its place only when it is complete; until then an existing file stays as it is.\n\n"
+        "The output takes its place only when it is complete and was read back as the same document; until\n"
+        "then an existing file stays as it is. What would be lost is said, and nothing is written.\n\n"
         "Examples:\n"
         "  vyr convert inks.vyr inks.vyrz\n"
         "  vyr convert inks.vyr inks.vyr      lay a document out anew\n"
