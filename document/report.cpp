@@ -4,6 +4,7 @@
 #include "document/report.h"
 
 #include <exception>
+#include <system_error>
 #include <utility>
 
 #include "document/document_calls.h"
@@ -56,6 +57,14 @@ DocumentFault make_fault(elmx_error code, const std::string& file, s_failure&& f
     return fault;
 }
 
+/// Whether the cause is an `errno`.
+bool is_of_system(const CZipException& failure) { return failure.GetCause() > 0 && failure.GetCause() < zip_generic; }
+
+std::string with_reason(const std::string& what, int system_error) {
+    if (system_error == 0) return what;
+    return (what.empty() ? what : what + ": ") + std::generic_category().message(system_error);
+}
+
 /// Runs a load or a save. What is thrown by a container becomes a fault.
 template <class Call>
 DocumentReport report_on(const ReportOptions& options, const std::string& file, Call&& call) {
@@ -63,8 +72,7 @@ DocumentReport report_on(const ReportOptions& options, const std::string& file, 
     try {
         call(&builder);
     } catch (const CZipException& failure) {
-        const bool is_of_system = failure.GetCause() > 0 && failure.GetCause() < zip_generic;
-        builder.add_exception(is_of_system ? ELMX_NO_FILE : ELMX_USER_DEFINED_1);
+        builder.add_exception(is_of_system(failure) ? ELMX_NO_FILE : ELMX_USER_DEFINED_1);
     }
     return builder.take();
 }
@@ -74,10 +82,14 @@ DocumentReport report_on(const ReportOptions& options, const std::string& file, 
 c_report_builder::c_report_builder(ReportOptions options, const std::string& file)
     : m_options(std::move(options)), m_file(shown(file, k_longest_path)) {}
 
-/// Whether a fault is to be kept.
-bool c_report_builder::count(elmx_error code) {
-    if (m_report.m_total++ == 0) m_report.m_code = code;
-    return m_report.m_faults.size() < m_options.limit;
+/// Whether a fault is to be kept. The first that the plain call doesn't pass over, or else the first, gives the code.
+bool c_report_builder::count(elmx_error code, bool is_passed_over) {
+    if (m_report.m_total++ == 0 || (m_is_passed_over && !is_passed_over)) {
+        m_report.m_code = code;
+        m_is_passed_over = is_passed_over;
+    }
+    m_is_last_kept = m_report.m_faults.size() < m_options.limit;
+    return m_is_last_kept;
 }
 
 elmx_error c_report_builder::see(c_xml_reader& reader, elmx_error code, const std::string& item_name) {
@@ -102,11 +114,12 @@ elmx_error c_report_builder::see(c_xml_reader& reader, elmx_error code, const st
 }
 
 elmx_error c_report_builder::see(c_xml_writer& writer, elmx_error code, const std::string& item_name) {
-    if (count(code)) {
+    // A value that could not be read back is written all the same.
+    const bool is_written = is_of_value(code);
+    if (count(code, is_written)) {
         m_report.m_faults.push_back(make_fault(code, m_file, describe_failure(writer, code, item_name)));
     }
-    // A value is written as it is; anything else ends the write.
-    m_report.m_is_read_to_end = is_of_value(code);
+    if (!is_written) m_report.m_is_read_to_end = false;
     return code;
 }
 
@@ -122,8 +135,18 @@ void c_report_builder::add(elmx_error code, const std::string& detail) {
     m_report.m_is_read_to_end = false;
 }
 
+void c_report_builder::add(elmx_error code, const std::string& what, int system_error) {
+    m_report.m_system_error = system_error;
+    add(code, with_reason(what, system_error));
+}
+
 void c_report_builder::explain_last(const std::string& detail) {
-    if (!m_report.m_faults.empty()) m_report.m_faults.back().detail = detail;
+    if (m_is_last_kept) m_report.m_faults.back().detail = detail;
+}
+
+void c_report_builder::explain_last(const std::string& what, int system_error) {
+    m_report.m_system_error = system_error;
+    explain_last(with_reason(what, system_error));
 }
 
 void c_report_builder::add_exception(elmx_error code) {
@@ -131,6 +154,7 @@ void c_report_builder::add_exception(elmx_error code) {
         throw;
     } catch (const CZipException& failure) {
         // Its words begin with the name of a file, which is told already if it is that of the report.
+        if (is_of_system(failure)) m_report.m_system_error = failure.GetCause();
         const std::string words = failure.what();
         const std::string name = narrow(failure.GetFileName());
         add(code, shown(name, k_longest_path) == m_file ? words.substr(name.size() + 2) : words);

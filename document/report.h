@@ -27,8 +27,8 @@ struct DocumentFault {
     /// The code in words, such as "Value greater than specified maximum". Of the codes 1000 and 1001, what the
     /// document calls mean by them.
     std::string text;
-    /// What would be right or what exactly is missing, as a sentence: "at most 100 is allowed",
-    /// "the element Preamble is missing before Palette". Empty if there is no more to say than `text` does.
+    /// What would be right, what exactly is missing, or what was found instead: "it must be at most 100", "the
+    /// element Preamble is missing; <Vyr:Palette> stands here". Empty if there is no more to say than `text` does.
     std::string detail;
     /// The file as it was named in the call; of a container, the container. Empty for strings and memory, unless
     /// `ReportOptions::name` names them.
@@ -52,8 +52,9 @@ struct DocumentFault {
 /// What a load or a save has to say: nothing, if all went well.
 class VYR_EXPORT DocumentReport {
 public:
-    /// The code of the first fault, or 0. It is what the plain call gives but for what a save alone reports: see
-    /// `writeFileWithReport`. Where the plain call throws, 1 if the system refuses the file, and otherwise 1000.
+    /// What the plain call gives: 0, or the code of the first fault. Where the plain call throws, 1 if the system
+    /// refuses the file, and otherwise 1000. Of a save that the plain call has no fault to find with, the code of
+    /// what it passes over: a plain file that isn't written in full, or else a value that could not be read back.
     lmx::elmx_error getCode() const { return m_code; }
     bool isOk() const { return m_code == lmx::ELMX_OK; }
 
@@ -66,8 +67,12 @@ public:
     /// How many there were with those that the limit left out.
     std::size_t getTotalCount() const { return m_total; }
     bool hasMore() const { return m_total > m_faults.size(); }
-    /// False if a fault ended the load or save: whatever follows it in the document was not looked at.
+    /// False if a fault ended the load or the save: whatever follows it in the document was not looked at, or nothing
+    /// was written.
     bool isReadToEnd() const { return m_is_read_to_end; }
+    /// The `errno` with which the system refused to open, read or write the file; 0 if it didn't. Where it refused in
+    /// the middle of a document, the codes are those of a document that ends there.
+    int getSystemError() const { return m_system_error; }
 
     /// One line for each fault, as `formatFault` gives them.
     std::string toString() const;
@@ -78,6 +83,7 @@ private:
     std::vector<DocumentFault> m_faults;
     std::size_t m_total = 0;
     bool m_is_read_to_end = true;
+    int m_system_error = 0;
 };
 
 /// How to load.
@@ -106,14 +112,15 @@ VYR_EXPORT DocumentReport loadMemoryWithReport(Vyr& document, const char* data, 
                                                const ReportOptions& options = {});
 
 /// `Vyr::writeFile` with a report: which element can't be written, and what it lacks. Two things that are no failure
-/// of `writeFile` are one here: a plain file that can't be written in full (1), and each date and time that reading
-/// would refuse (22, 35), since setters take any. Such a date doesn't keep the file from being written, and ends
-/// nothing.
+/// of `writeFile` are faults here. A plain file that can't be written in full: 1. And a value that could not be read
+/// back, with the code of reading, or 35 for a text that would come back as another: the file is written all the
+/// same, as `isReadToEnd()` tells.
 VYR_EXPORT DocumentReport writeFileWithReport(const Vyr& document, const std::u16string& path);
-/// `Vyr::writeString` with a report. `*text` is assigned unless a fault ended the save.
+/// `Vyr::writeString` with a report. `*text` is assigned unless the plain call fails.
 VYR_EXPORT DocumentReport writeStringWithReport(const Vyr& document, std::u16string* text);
 
-/// `file:line: path: text: detail (value)`, without the parts that are empty; no line break at the end.
+/// `file:line: path: text (value): detail`, without the parts that are empty; no line break at the end. Without a
+/// file it begins with `line 12: `, and a value that `detail` names as a tag is not said twice.
 VYR_EXPORT std::string formatFault(const DocumentFault& fault);
 
 }  // namespace com_vyrgraph_v2

@@ -25,15 +25,20 @@ public:
     lmx::elmx_error see(lmx::c_xml_writer& writer, lmx::elmx_error code, const std::string& item_name);
     /// Takes a failure without a place in a document. It ends the load or save.
     void add(lmx::elmx_error code, const std::string& detail);
+    /// The same for a refusal of the system's. `what` it refused may be empty, and `system_error` 0 if it isn't
+    /// known.
+    void add(lmx::elmx_error code, const std::string& what, int system_error);
     /// Says more of the fault that was taken last.
     void explain_last(const std::string& detail);
+    /// The same where the system is to blame: what it refused, and why.
+    void explain_last(const std::string& what, int system_error);
     /// The same as `add` for the exception that is being handled.
     void add_exception(lmx::elmx_error code);
 
     DocumentReport take() { return std::move(m_report); }
 
 private:
-    bool count(lmx::elmx_error code);
+    bool count(lmx::elmx_error code, bool is_passed_over = false);
 
     ReportOptions m_options;
     std::string m_file;
@@ -43,6 +48,8 @@ private:
         int line = 0;
         std::string meant{};
     } m_mistyped;
+    bool m_is_last_kept = false;
+    bool m_is_passed_over = false;  ///< what gave the code is no failure of the plain call
     DocumentReport m_report;
 };
 
@@ -52,11 +59,7 @@ class c_reporting : public Stream {
 public:
     template <class... Arguments>
     explicit c_reporting(c_report_builder* report, Arguments&&... arguments)
-        : Stream(std::forward<Arguments>(arguments)...), m_report(report) {
-        if constexpr (std::is_base_of_v<lmx::c_xml_writer, Stream>) {
-            if (report != nullptr) this->check_values();
-        }
-    }
+        : Stream(std::forward<Arguments>(arguments)...), m_report(report) {}
 
     lmx::elmx_error user_handle_error(lmx::elmx_error code, const std::string& item_name, const char*, int) override {
         return m_report == nullptr ? code : m_report->see(*this, code, item_name);

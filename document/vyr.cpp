@@ -30,6 +30,7 @@ namespace {
 constexpr char16_t k_sdk_name[] = u"Vyr2-LMX-3.7.6";
 constexpr char16_t k_sdk_version[] = u"1.0";
 constexpr char k_root_element[] = "Vyr:Vyr";
+constexpr char k_not_written[] = "not written, or not in full";
 constexpr std::u16string_view k_plain_ending = u".vyr";
 constexpr std::u16string_view k_container_ending = u".vyrz";
 
@@ -46,6 +47,7 @@ SDKType make_stamp() {
 /// behind.
 lmx::elmx_error marshal_stamped(const Vyr& document, std::ostream& stream, c_report_builder* report) {
     c_reporting<lmx::c_xml_writer> writer(report, stream, lmx::c_xml_writer::include_xml_decl, "\t", "\n");
+    writer.set_checking(report != nullptr);
     const_cast<Preamble&>(document.get_Preamble()).get_Header().assign_WriteSDKInformation(make_stamp());
     return document.marshal(writer, k_root_element);
 }
@@ -54,15 +56,19 @@ struct s_plain_file {
     lmx::elmx_error error;
     /// In bytes; -1 for a file that couldn't be opened or written in full, which is no failure of a plain document.
     std::streamoff size;
+    int system_error;  ///< the `errno` of such a file
 };
 
 s_plain_file write_plain_file(const Vyr& document, const std::string& system_path, c_report_builder* report) {
+    errno = 0;
     std::ofstream stream(system_path);
     const lmx::elmx_error error = marshal_stamped(document, stream, report);
     const std::streamoff size = stream.tellp();
     stream.close();
+    const int system_error = errno;
     if (error != lmx::ELMX_OK) std::remove(system_path.c_str());
-    return {error, stream.good() ? size : -1};
+    if (stream.good()) return {error, size, 0};
+    return {error, -1, system_error};
 }
 
 /// Whatever is thrown at a container that is open becomes one code. Only a report keeps its cause.
@@ -121,13 +127,19 @@ lmx::elmx_error load_string(Vyr& document, const std::u16string& text, c_report_
 
 lmx::elmx_error load_plain_file(Vyr& document, const std::string& system_path, c_report_builder* report) {
     c_reporting<lmx::c_xml_reader_file> reader(report, system_path.c_str());
-    if (!reader.is_open()) return refuse_file(report, std::generic_category().message(errno));
+    if (!reader.is_open()) {
+        if (report != nullptr) report->add(lmx::ELMX_NO_FILE, {}, errno);
+        return lmx::ELMX_NO_FILE;
+    }
     const lmx::elmx_error error = document.unmarshal(reader);
+    if (error == lmx::ELMX_OK || report == nullptr) return error;
     std::error_code ignored;
-    // Which opens like a file, and then looks like an empty document.
-    if (error != lmx::ELMX_OK && report != nullptr && std::filesystem::is_directory(system_path, ignored)) {
+    // Which opens like a file, and then can't be read.
+    if (std::filesystem::is_directory(system_path, ignored)) {
         report->explain_last("it is a directory");
-    } else if (error != lmx::ELMX_OK && report != nullptr && is_archive(system_path)) {
+    } else if (reader.get_read_error() != 0) {
+        report->explain_last("the file could not be read to its end", reader.get_read_error());
+    } else if (is_archive(system_path)) {
         report->explain_last("it is a ZIP archive; the name of a container must end in .vyrz");
     }
     return error;
@@ -165,14 +177,19 @@ lmx::elmx_error write_file(const Vyr& document, const std::u16string& path, c_re
     const s_plain_file plain = write_plain_file(document, system_path, report);
     if (!is_container || plain.error != lmx::ELMX_OK) {
         // For the plain call this is no failure.
-        if (plain.error == lmx::ELMX_OK && plain.size < 0) refuse_file(report, "not written, or not in full");
+        if (plain.error == lmx::ELMX_OK && plain.size < 0 && report != nullptr) {
+            report->add(lmx::ELMX_NO_FILE, k_not_written, plain.system_error);
+        }
         return plain.error;
     }
 
     CZipContainer archive;
     if (archive.OpenContainer(path, zip_open_create)) {
         const lmx::elmx_error error = write_to_container(archive, plain_path, plain.size, report);
-        if (error != lmx::ELMX_OK) return error;
+        if (error != lmx::ELMX_OK) {
+            if (plain.size < 0 && report != nullptr) report->explain_last(k_not_written, plain.system_error);
+            return error;
+        }
     }
     std::remove(system_path.c_str());
     return lmx::ELMX_OK;

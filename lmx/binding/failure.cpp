@@ -10,10 +10,12 @@
 
 #include "lmx/binding/failure_path.h"
 #include "lmx/binding/open_element.h"
+#include "lmx/binding/read_back.h"
 #include "lmx/binding/shown_text.h"
 #include "lmx/binding/storage.h"
 #include "lmx/binding/unmarshal.h"
 #include "lmx/values/unicode.h"
+#include "lmx/writer/as_xml.h"
 
 namespace lmx {
 namespace {
@@ -59,6 +61,10 @@ std::string missing(std::span<const s_item* const> items) {
 }
 
 std::string missing_choice(const s_class& type) { return one_of(type.elements) + " is missing"; }
+
+std::string nested_too_deep() {
+    return joined({"elements nest more than ", std::to_string(k_maximum_nesting), " deep"});
+}
 
 std::string sentence(const std::string& start, const std::string& rest) {
     return joined({start, start.empty() || rest.empty() ? "" : "; ", rest});
@@ -410,7 +416,7 @@ private:
                 failure.detail = known_types();
                 break;
             case ELMX_BADLY_FORMED:
-                failure.detail = joined({"elements nest more than ", std::to_string(k_maximum_nesting), " deep"});
+                failure.detail = nested_too_deep();
                 break;
             default:
                 failure.detail = misplaced();
@@ -510,6 +516,40 @@ std::vector<const s_item*> absent_items(const s_class& type, const void* object)
     return rows;
 }
 
+/// The last step to a value of the open element that is being written.
+std::string written_step(const s_fault_site& site, const s_open_element* open) {
+    const s_item& item = *site.item;
+    if (item.kind == item_kind::content) return {};
+    const std::string_view name = local_part(item.name);
+    if (item.kind == item_kind::attribute) return joined({"@", name});
+    if (item.kind != item_kind::element_list) return std::string(name);
+    const c_list_base& entries = list_of(item, open->object);
+    std::size_t number = 1;
+    while (number < entries.size() && entries.entry(number - 1) != site.object) ++number;
+    return joined({name, "[", std::to_string(number), "]"});
+}
+
+/// A value in the form in which it is read.
+std::string written_text(const s_item& item, const void* value) {
+    std::string text;
+    with_value_type(item.value, [&](auto* type) {
+        using type_of_value = std::remove_pointer_t<decltype(type)>;
+        const auto& typed = *static_cast<const type_of_value*>(value);
+        if constexpr (std::is_same_v<type_of_value, std::u16string>) {
+            convert(&text, typed);
+        } else if constexpr (std::is_same_v<type_of_value, c_datetime>) {
+            typed.append_to(&text);
+        } else if constexpr (std::is_same_v<type_of_value, c_binary>) {
+            typed.append_base64(&text);
+        } else if constexpr (std::is_same_v<type_of_value, double>) {
+            append_as_xml(text, typed);
+        } else {
+            text = std::to_string(typed);
+        }
+    });
+    return text;
+}
+
 }  // namespace
 
 bool is_of_value(elmx_error code) {
@@ -538,10 +578,12 @@ s_failure describe_failure(const c_xml_writer& writer, elmx_error code, const st
     const s_fault_site* const site = writer.get_fault_site();
     if (site == nullptr) return failure;
     if (is_of_value(code)) {
-        const char* const mark = site->item->kind == item_kind::attribute ? "@" : "";
-        failure.path = path_of(writer.get_open_element(), joined({mark, step_of(*site)}), {});
-        failure.value = shown(site->text);
-        failure.detail = allowed_value(*site->item, code, std::string(site->text));
+        failure.path = path_of(writer.get_open_element(), written_step(*site, writer.get_open_element()), {});
+        const std::string text = written_text(*site->item, site->object);
+        failure.value = shown(text);
+        const bool is_text = site->item->value == value_kind::text && code == ELMX_VALUE_BAD_FORMAT;
+        failure.detail = is_text ? lost_in_text(*site->item, *static_cast<const std::u16string*>(site->object))
+                                 : allowed_value(*site->item, code, text);
         return failure;
     }
     const std::vector<const s_item*> absent =
@@ -549,6 +591,8 @@ s_failure describe_failure(const c_xml_writer& writer, elmx_error code, const st
     if (!absent.empty()) {
         failure.item = is_group(*absent.front()) ? shown(item_name) : shown(absent.front()->name);
         failure.detail = missing(absent);
+    } else if (code == ELMX_BADLY_FORMED) {
+        failure.detail = nested_too_deep();
     } else if (code == ELMX_TYPE_NOT_SET) {
         failure.detail = joined({"the element ", local_part(item_name), " is chosen but has no object"});
     } else {

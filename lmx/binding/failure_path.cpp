@@ -93,8 +93,7 @@ std::string step_of(const s_fault_site& site) {
     if (item.kind == item_kind::content) return {};
     const std::string_view name = local_part(item.name);
     if (item.kind != item_kind::element_list) return std::string(name);
-    const std::size_t number = site.number > 0 ? site.number : list_of(item, site.object).size() + 1;
-    return joined({name, "[", std::to_string(number), "]"});
+    return joined({name, "[", std::to_string(list_of(item, site.object).size() + 1), "]"});
 }
 
 std::string path_of(const s_open_element* element, std::string_view last_step, std::string_view own_name) {

@@ -10,6 +10,7 @@
 #include "lmx/binding/any_info.h"
 #include "lmx/binding/object.h"
 #include "lmx/binding/open_element.h"
+#include "lmx/binding/read_back.h"
 #include "lmx/binding/storage.h"
 #include "lmx/binding/unmarshal.h"
 #include "lmx/writer/as_xml.h"
@@ -36,11 +37,10 @@ void append_simple(std::string& line, const s_item& item, const void* value) {
     });
 }
 
-/// Setters take every date and time; reading doesn't.
-void report_odd_datetime(c_xml_writer& writer, const s_item& item, const std::string& text, std::size_t number) {
-    const elmx_error code = check_datetime(item, text);
-    if (code == ELMX_OK) return;
-    report_unhandled(writer, {nullptr, &item, nullptr, nullptr, text, number}, code, std::string(item.name));
+/// Tells of a value that could not be read back. It is written all the same.
+void check_value(c_xml_writer& writer, const s_item& item, const void* storage, std::string_view printed) {
+    const elmx_error code = code_of_reading(item, storage, printed);
+    if (code != ELMX_OK) report_unhandled(writer, {nullptr, &item, storage}, code, std::string(item.name));
 }
 
 /// One piece of output, put together in the writer's work string and printed at once by `print`: in an ordinary call,
@@ -60,13 +60,10 @@ public:
         m_text += text;
         return *this;
     }
-    /// `number` is that of an entry of a repeating item, from 1.
-    c_line& value(const s_item& item, const void* storage, std::size_t number = 0) {
+    c_line& value(const s_item& item, const void* storage) {
         const std::size_t start = m_text.size();
         append_simple(m_text, item, storage);
-        if (item.value == value_kind::datetime && m_writer.checks_values()) {
-            report_odd_datetime(m_writer, item, m_text.substr(start), number);
-        }
+        if (m_writer.is_checking()) check_value(m_writer, item, storage, std::string_view(m_text).substr(start));
         return *this;
     }
 
@@ -77,10 +74,10 @@ private:
 };
 
 /// `<Vyr:Name>value</Vyr:Name>` on a line of its own.
-void print_element(c_xml_writer& writer, const s_item& item, const void* storage, std::size_t number = 0) {
+void print_element(c_xml_writer& writer, const s_item& item, const void* storage) {
     c_line line(writer, true);
     line << "<" << item.name << ">";
-    line.value(item, storage, number) << "</" << item.name << ">" << writer.endl();
+    line.value(item, storage) << "</" << item.name << ">" << writer.endl();
     line.print();
 }
 
@@ -92,7 +89,7 @@ void print_content(c_xml_writer& writer, const s_class& type, const void* object
 
 void print_simple_list(c_xml_writer& writer, const s_item& item, const void* object) {
     const c_list_base& entries = list_of(item, object);
-    for (std::size_t i = 0; i < entries.size(); ++i) print_element(writer, item, entries.entry(i), i + 1);
+    for (std::size_t i = 0; i < entries.size(); ++i) print_element(writer, item, entries.entry(i));
 }
 
 void print_any(c_xml_writer& writer, const s_item& item, const void* object) {
@@ -172,6 +169,10 @@ void print_xsi_type(c_xml_writer& writer, const s_class& type) {
 
 elmx_error marshal_element(const s_class& type, const void* object, c_xml_writer& writer, const char* name) {
     const c_open_element open(writer, {writer.get_open_element(), &type, object, nullptr, name, 0});
+    // Around the handler: whoever swallowed it would use up the stack.
+    if (writer.get_open_element()->depth > k_maximum_nesting) {
+        return report_unhandled(writer, {&type, nullptr, object}, ELMX_BADLY_FORMED, name);
+    }
     // A choice that holds nothing is found and named where it is printed.
     if (type.content != content_kind::choice && !is_occurs_ok(type, object)) {
         return report_unhandled(writer, {&type, nullptr, object}, ELMX_OCCURS_ERROR_ON_MARSHAL, name);

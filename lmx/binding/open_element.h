@@ -27,6 +27,7 @@ struct s_open_element {
     const char* written_name;           ///< of a save
     int line;                           ///< of a load: where the start tag begins
     const s_item* last_item = nullptr;  ///< of a load: the item that was read last
+    std::size_t depth = outer == nullptr ? 1 : outer->depth + 1;
 
     const char* get_name() const { return node != nullptr ? node->get_str() : written_name; }
 };
@@ -37,8 +38,6 @@ struct s_fault_site {
     const s_item* item = nullptr;   ///< the value, or what is missing
     const void* object = nullptr;   ///< of the class
     const s_document* document = nullptr;
-    std::string_view text{};  ///< of a save: the value as it is printed
-    std::size_t number = 0;   ///< of a save: the value's place in a repeating item, from 1
 };
 
 /// Makes an element the innermost open one for as long as this lives.

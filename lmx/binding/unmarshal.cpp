@@ -72,61 +72,47 @@ bool is_lexically_valid(value_kind kind, const std::string& text, bool* has_zone
     return true;
 }
 
-bool is_pattern_met(const s_facets& facets, const std::string& text, bool is_valid, bool has_zone) {
-    // The pattern engine is quadratic on texts that fail the lexical check. It gives up on long ones, which counts as
-    // a match; so do they here, at a length that costs nothing yet.
-    constexpr std::size_t longest_odd_text = 128;
-    return facets.pattern == nullptr || (has_zone && facets.pattern_takes_zoned) ||
-           (!is_valid && text.size() > longest_odd_text) || facets.pattern->is_match(text);
-}
-
-/// The checks that look at the text, in the order in which they report. `*has_zone` is set as by the lexical one.
-bool check_text(c_xml_reader& reader, const s_fault_site& site, const std::string& item_name, elmx_error* error,
-                bool* has_zone) {
-    const s_item& item = *site.item;
-    const std::string& text = reader.m_value;
+/// The checks that look at the text, in the order in which they report. `let_pass` gets the code of each that fails
+/// and says whether to go on; false if it ended them. `*has_zone` is set as by the lexical check.
+template <class LetPass>
+bool check_text(const s_item& item, const std::string& text, LetPass&& let_pass, bool* has_zone) {
     const bool is_valid = is_lexically_valid(item.value, text, has_zone);
-    if (!is_valid && !goes_on(reader, site, ELMX_VALUE_BAD_FORMAT, item_name, error, __LINE__)) return false;
+    if (!is_valid && !let_pass(ELMX_VALUE_BAD_FORMAT, __LINE__)) return false;
     if (item.facets == nullptr) return true;
     const s_facets& facets = *item.facets;
-    if (!is_pattern_met(facets, text, is_valid, *has_zone) &&
-        !goes_on(reader, site, ELMX_NO_PATTERN_MATCHED, item_name, error, __LINE__)) {
-        return false;
-    }
+    // The pattern engine is quadratic on texts that fail the check above. It gives up on long ones, which counts as a
+    // match; so do they here, at a length that costs nothing yet.
+    constexpr std::size_t longest_odd_text = 128;
+    const bool is_matched = facets.pattern == nullptr || (*has_zone && facets.pattern_takes_zoned) ||
+                            (!is_valid && text.size() > longest_odd_text);
+    if (!is_matched && !facets.pattern->is_match(text) && !let_pass(ELMX_NO_PATTERN_MATCHED, __LINE__)) return false;
     if (!facets.enumeration.empty() &&
         std::find(facets.enumeration.begin(), facets.enumeration.end(), text) == facets.enumeration.end() &&
-        !goes_on(reader, site, ELMX_VALUE_NOT_ENUMERATED, item_name, error, __LINE__)) {
+        !let_pass(ELMX_VALUE_NOT_ENUMERATED, __LINE__)) {
         return false;
     }
-    if (!is_min_length_ok(text, facets.minimum_length) &&
-        !goes_on(reader, site, ELMX_LENGTH_TOO_SHORT, item_name, error, __LINE__)) {
-        return false;
-    }
-    if (!is_max_length_ok(text, facets.maximum_length) &&
-        !goes_on(reader, site, ELMX_LENGTH_TOO_LONG, item_name, error, __LINE__)) {
-        return false;
-    }
+    if (!is_min_length_ok(text, facets.minimum_length) && !let_pass(ELMX_LENGTH_TOO_SHORT, __LINE__)) return false;
+    if (!is_max_length_ok(text, facets.maximum_length) && !let_pass(ELMX_LENGTH_TOO_LONG, __LINE__)) return false;
     // Integers are compared as text, so that one of any length gets the right verdict.
     if (facets.minimum_integer != nullptr) {
         const bool is_below =
             facets.minimum_exclusive ? text <= *facets.minimum_integer : text < *facets.minimum_integer;
-        if (is_below && !goes_on(reader, site, ELMX_VALUE_BELOW_MIN, item_name, error, __LINE__)) return false;
+        if (is_below && !let_pass(ELMX_VALUE_BELOW_MIN, __LINE__)) return false;
     }
     if (facets.maximum_integer != nullptr) {
         const bool is_above =
             facets.maximum_exclusive ? text >= *facets.maximum_integer : text > *facets.maximum_integer;
-        if (is_above && !goes_on(reader, site, ELMX_VALUE_EXCEEDS_MAX, item_name, error, __LINE__)) return false;
+        if (is_above && !let_pass(ELMX_VALUE_EXCEEDS_MAX, __LINE__)) return false;
     }
     return true;
 }
 
-bool check_number(c_xml_reader& reader, const s_fault_site& site, double number, const std::string& item_name,
-                  elmx_error* error) {
-    if (site.item->facets == nullptr) return true;
-    const s_facets& facets = *site.item->facets;
-    if (facets.is_below(number) && !goes_on(reader, site, ELMX_VALUE_BELOW_MIN, item_name, error, __LINE__))
-        return false;
-    return !facets.is_above(number) || goes_on(reader, site, ELMX_VALUE_EXCEEDS_MAX, item_name, error, __LINE__);
+/// The same for the number that the text stands for.
+template <class LetPass>
+bool check_number(const s_item& item, double number, LetPass&& let_pass) {
+    if (item.facets == nullptr) return true;
+    if (item.facets->is_below(number) && !let_pass(ELMX_VALUE_BELOW_MIN, __LINE__)) return false;
+    return !item.facets->is_above(number) || let_pass(ELMX_VALUE_EXCEEDS_MAX, __LINE__);
 }
 
 /// Where a checked value goes: into the object, to the end of a list, or into the slot of a choice.
@@ -140,14 +126,16 @@ void* locate(const s_class& type, const s_item& item, void* object) {
 /// Checks the text, converts it, stores it and raises the flag. A swallowed failure stores all the same.
 bool store_value(const s_class& type, const s_item& item, void* object, c_xml_reader& reader,
                  const std::string& item_name, elmx_error* error) {
-    const s_fault_site site{&type, &item, object};
+    const auto let_pass = [&](elmx_error code, int line) {
+        return goes_on(reader, {&type, &item, object}, code, item_name, error, line);
+    };
     bool has_zone = false;
-    if (!check_text(reader, site, item_name, error, &has_zone)) return false;
     const std::string& text = reader.m_value;
+    if (!check_text(item, text, let_pass, &has_zone)) return false;
     switch (item.value) {
         case value_kind::number: {
             const double number = text_to_double(text);
-            if (!check_number(reader, site, number, item_name, error)) return false;
+            if (!check_number(item, number, let_pass)) return false;
             *static_cast<double*>(locate(type, item, object)) = number;
             break;
         }
@@ -409,11 +397,16 @@ elmx_error refuse_nesting(c_xml_reader& reader, const std::string& name) {
 
 }  // namespace
 
-elmx_error check_datetime(const s_item& item, const std::string& text) {
+elmx_error check_as_read(const s_item& item, const std::string& text) {
+    elmx_error first = ELMX_OK;
+    const auto stop = [&first](elmx_error code, int) {
+        first = code;
+        return false;
+    };
     bool has_zone = false;
-    if (!c_datetime::is_valid(text, &has_zone)) return ELMX_VALUE_BAD_FORMAT;
-    const bool is_met = item.facets == nullptr || is_pattern_met(*item.facets, text, true, has_zone);
-    return is_met ? ELMX_OK : ELMX_NO_PATTERN_MATCHED;
+    const bool is_valid = check_text(item, text, stop, &has_zone);
+    if (is_valid && item.value == value_kind::number) check_number(item, text_to_double(text), stop);
+    return first;
 }
 
 elmx_error unmarshal_element(const s_class& type, void* object, c_xml_reader& reader, const std::string& name) {

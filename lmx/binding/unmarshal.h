@@ -17,12 +17,12 @@
 
 namespace lmx {
 
-/// The code of the first check of reading that the text of a dateTime fails; `ELMX_OK` if it passes them all.
-elmx_error check_datetime(const s_item& item, const std::string& text);
-
 /// Elements of schema-bound classes may nest this deep. The recursion of a load follows the nesting, and 256
 /// levels fit a stack of 512 KiB with room to spare; no sensible document comes near it.
 inline constexpr std::size_t k_maximum_nesting = 256;
+
+/// The code of the first check that the text of a value fails when it is read; 0 if it passes.
+elmx_error check_as_read(const s_item& item, const std::string& text);
 
 /// Reads an element whose start tag name has just been delivered. `name` may be the reader's own work string.
 VYR_EXPORT elmx_error unmarshal_element(const s_class& type, void* object, c_xml_reader& reader,

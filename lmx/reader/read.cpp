@@ -3,6 +3,8 @@
 
 #include "lmx/reader/read.h"
 
+#include <cerrno>
+
 #include "lmx/file_name.h"
 #include "lmx/values/unicode.h"
 
@@ -44,6 +46,7 @@ bool c_read_file::refill() {
     if (m_file == nullptr) return false;
     m_buffer_index = 0;
     m_buffer_count = std::fread(m_buffer, 1, sizeof m_buffer, m_file);
+    if (m_buffer_count == 0 && std::ferror(m_file) != 0) m_read_error = errno;
     return m_buffer_count > 0;
 }
 

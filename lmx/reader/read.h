@@ -78,6 +78,8 @@ public:
     void close();
 
     bool is_open() const override { return m_file != nullptr; }
+    /// The `errno` of a read that the system refused, which looks like the end of input; 0 if none was.
+    int get_read_error() const { return m_read_error; }
     int read() override;
     const char* get_source_id() override { return m_name.c_str(); }
     /// Only seeks: bytes that were buffered and not yet read come first.
@@ -91,6 +93,7 @@ private:
     std::string m_name;
     std::FILE* m_file = nullptr;
     bool m_close_on_delete = true;
+    int m_read_error = 0;
     char m_buffer[512];
     std::size_t m_buffer_count = 0;
     std::size_t m_buffer_index = 0;

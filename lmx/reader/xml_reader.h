@@ -197,6 +197,8 @@ public:
     explicit c_xml_reader_file(std::FILE* file) : c_xml_reader(m_source), m_source(file) {}
 
     bool is_open() const { return m_source.is_open(); }
+    /// The `errno` of a read that the system refused: the document was cut short there. 0 if none was.
+    int get_read_error() const { return m_source.get_read_error(); }
 
 private:
     c_read_file m_source;

@@ -47,14 +47,12 @@ public:
     virtual const char* endl();
     /// Prints one indent step.
     virtual void nest();
-    /// Sees a failure that goes around the handler and ends the write, and what `check_values` asks for. The default
-    /// does nothing.
+    /// Sees a failure that goes around the handler and ends the write, and of a writer that checks, a value that
+    /// reading would refuse. The default does nothing.
     virtual void see_unhandled_error(elmx_error code, const std::string& item_name);
-
-    /// Asks for the dateTimes that a reader would refuse: each is passed to `see_unhandled_error` with the code that
-    /// reading would give, and written all the same.
-    void check_values() { m_checks_values = true; }
-    bool checks_values() const { return m_checks_values; }
+    /// Whether `see_unhandled_error` wants to know of values that are written and could not be read again.
+    bool is_checking() const { return m_is_checking; }
+    void set_checking(bool is_checking) { m_is_checking = is_checking; }
 
     /// The stream; at the start of a line indented to the current depth.
     std::ostream& operator()(bool at_line_start);
@@ -119,7 +117,7 @@ private:
     const char* m_tab;
     const char* m_nl;
     bool m_ns_attrs_written = false;
-    bool m_checks_values = false;
+    bool m_is_checking = false;
     c_error m_error;
     elmx_error m_last_error = ELMX_OK;
     std::string m_error_item_name;

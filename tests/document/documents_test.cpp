@@ -50,6 +50,7 @@ TEST(Documents, ValidOnesComeBackByEveryRoad) {
         Vyr from_string;
         ASSERT_EQ(from_string.loadString(text), ELMX_OK);
         EXPECT_EQ(from_string.writeString().getXmlDocument(), text);
+        EXPECT_EQ(writeStringWithReport(from_string, &text).toString(), "");
 
         Vyr unmarshalled;
         std::string written;

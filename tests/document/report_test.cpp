@@ -391,7 +391,7 @@ TEST(Report, SaysWhichDatesOfASaveCouldNotBeReadAgain) {
     state.set_CalibrationDateTime("2024-05-01T09:30:00");
     std::u16string untouched = u"untouched";
     const DocumentReport report = writeStringWithReport(document, &untouched);
-    EXPECT_EQ(report.getCode(), ELMX_NO_PATTERN_MATCHED);
+    EXPECT_EQ(report.getCode(), ELMX_OCCURS_ERROR_ON_MARSHAL);
     EXPECT_EQ(report.getFaultCount(), 100U);
     EXPECT_EQ(report.getFault(99).path, "ColorQualityControl[1] / ChangeHistory[99]");
     EXPECT_EQ(report.getTotalCount(), 203U);
@@ -404,6 +404,83 @@ TEST(Report, SaysWhichDatesOfASaveCouldNotBeReadAgain) {
     EXPECT_EQ(fewer.getFault(1).path, place + "Device / CalibrationState / @CalibrationDateTime");
     EXPECT_EQ(fewer.getFault(1).value, "2024-05-01T09:30:00");
     EXPECT_EQ(fewer.getFault(2).code, ELMX_OCCURS_ERROR_ON_MARSHAL);
+}
+
+/// The faults without their places.
+std::string without_lines(const DocumentReport& report) {
+    std::string text;
+    for (DocumentFault fault : report.getFaults()) {
+        fault.line = 0;
+        text += formatFault(fault) + '\n';
+    }
+    return text;
+}
+
+TEST(Report, OfASaveNamesWhatCouldNotBeReadBack) {
+    Vyr document;
+    ASSERT_EQ(document.unmarshal(k_document), ELMX_OK);
+    PaletteType& palette = document.get_Palette(0);
+    ColorType& color = palette.get_ColorSet(0).get_Color(0);
+    ColorSpaceCIELabType& lab = color.get_ColorSpace(0).get_ColorSpaceCIELab();
+
+    // What setters and copies let in, and reading refuses: the report is that of a load of what was written.
+    document.get_Preamble().get_Header().append_ChangeHistory(c_datetime("yesterday"));
+    palette.append_ChangeHistory(c_datetime("2024-05-01T09:30:00"));
+    CustomAttributeType unnamed;
+    unnamed.get_ValueChoice().set_StringValue(u"v");
+    color.append_CustomAttribute();
+    color.assign_CustomAttribute(0, unnamed);
+    auto& conditions = lab.get_ColorSpaceSpecificationSpectrumTristimulus();
+    conditions.reset();
+    conditions.get_DeviceFilter().set_DeviceFilterType(u"Filter_None");
+    conditions.get_DevicePolarization().set_DevicePolarization(false);
+    conditions.append_ChangeHistory(c_datetime("2024-05-01T09:30:00Z"));
+    conditions.get_Spectrum().set_SpectrumType(u"Spectrum_Reflectance");
+    ASSERT_EQ(conditions.get_IlluminationOptions().set_ColorTemperature(0), ELMX_OK);
+    conditions.set_FieldOfView(u"FieldOfView_2_Degree");
+    std::u16string text;
+    const DocumentReport report = writeStringWithReport(document, &text);
+    EXPECT_EQ(text, document.writeString().getXmlDocument());
+    EXPECT_EQ(report.getFaultCount(), 4U);
+    EXPECT_TRUE(report.isReadToEnd());
+    EXPECT_EQ(without_lines(report), without_lines(report_of(convert_to_narrow(text))));
+    EXPECT_EQ(report.getFault(2).path, k_ink + " / CustomAttribute[1] / Name");
+
+    EXPECT_EQ(writeFileWithReport(document, u"unreadable.vyr").getCode(), report.getCode());
+    EXPECT_EQ(document.writeFile(u"plain.vyr"), ELMX_OK);
+    const auto size = fs::file_size("plain.vyr");
+    EXPECT_EQ(fs::file_size("unreadable.vyr"), size);
+
+    // A text that is read as another one.
+    const char* const lines = "only the line feed is read back as a line end";
+    const char* const half = "the text ends at half a surrogate pair";
+    const struct {
+        std::u16string text;
+        const char* detail;
+    } rows[] = {{u"a plain text of some length", nullptr},
+                {u"\xFC\xD83D\xDE00", nullptr},
+                {u"ab\rc", lines},
+                {u"abcdefg\r", lines},
+                {u"a\x85", lines},
+                {u"a\x2028", lines},
+                {u"abcd\xD83D", half},
+                {u"a\xD83D\xD83D\xDE00", half},
+                {u"\xDE00", half},
+                {u"a\tb\nc \x0C", nullptr}};
+    for (const auto& row : rows) {
+        document.reset();
+        ASSERT_EQ(document.unmarshal(k_document), ELMX_OK);
+        document.get_Palette(0).set_Comments(row.text);
+        document.get_Palette(0).get_ColorSet(0).get_Color(0).set_ColorName(row.text);
+        const DocumentReport said = writeStringWithReport(document, &text);
+        EXPECT_EQ(said.getFaultCount(), row.detail == nullptr ? 0U : 2U);
+        EXPECT_EQ(said.getFault(0).detail, row.detail == nullptr ? "" : row.detail);
+        EXPECT_EQ(said.getFault(0).path, row.detail == nullptr ? "" : "Palette \"Inks\" / @Comments");
+        Vyr back;
+        const bool is_back = back.loadString(text) == ELMX_OK && back.get_Palette(0).get_Comments() == row.text &&
+                             back.get_Palette(0).get_ColorSet(0).get_Color(0).get_ColorName() == row.text;
+        EXPECT_EQ(is_back, row.detail == nullptr) << convert_to_narrow(row.text);
+    }
 }
 
 TEST(Report, NamesFilesAndContainers) {
@@ -437,7 +514,8 @@ TEST(Report, NamesFilesAndContainers) {
               "bad.vyr:14: " + k_lab + " / L: Value greater than specified maximum (500): it must be at most 150\n");
     const auto write = [&](const std::u16string& path) { return writeFileWithReport(document, path).toString(); };
     EXPECT_EQ(write(u"a.xml"), "a.xml: Unknown ending of a file name: the name must end in .vyr or .vyrz\n");
-    EXPECT_EQ(write(u"missing/a.vyr"), "missing/a.vyr: Unable to open file: not written, or not in full\n");
+    EXPECT_EQ(write(u"missing/a.vyr"),
+              "missing/a.vyr: Unable to open file: not written, or not in full: No such file or directory\n");
     EXPECT_EQ(write(u"missing/a.vyrz"), "missing/a.vyrz: Unable to open file: No such file or directory\n");
     EXPECT_EQ(write(u"taken.vyrz"), "taken.vyrz: Unable to open file: Is a directory\n");
     EXPECT_EQ(write(u"folder.vyrz").find("folder.vyrz: Container can't be read or written: "), 0U);

@@ -436,5 +436,40 @@ TEST(Reading, NestingIsBounded) {
     const v2::ColorSpaceYBR copy(too_deep);
 }
 
+TEST(Reading, WhatNestsTooDeepToBeReadIsNotWritten) {
+    const auto fill = [](v2::ColorSpaceYBRType& value) -> v2::ColorSpaceYBRType* {
+        value.append_ChangeHistory(c_datetime("2024-05-01T09:30:00Z"));
+        value.get_ColorSpaceSpecificationSpectrumGeneric().setnil_ColorSpaceSpecificationSpectrumGeneric();
+        value.set_Y(0);
+        value.set_B(0);
+        value.set_R(0);
+        return &value;
+    };
+    v2::ColorSpaceYBR tree;
+    v2::ColorSpaceYBRType* innermost = fill(tree);
+    const auto deepen = [&] {
+        innermost = fill(innermost->get_ParentColorSpace().get_ColorSpace().get_ColorSpaceYBR());
+    };
+    for (int levels = 1; levels < 255; levels += 2) deepen();
+    std::string text;
+    ASSERT_EQ(tree.marshal(&text), ELMX_OK);
+    EXPECT_EQ(v2::ColorSpaceYBR().unmarshal(text), ELMX_OK);
+    deepen();
+    EXPECT_EQ(tree.marshal(&text), ELMX_BADLY_FORMED);
+
+    // Nobody can let that pass.
+    class c_swallowing_writer : public c_xml_writer {
+    public:
+        using c_xml_writer::c_xml_writer;
+        using c_xml_writer::user_handle_error;
+        elmx_error user_handle_error(elmx_error, const std::string&, const char*, int) override { return ELMX_OK; }
+    };
+    std::ostringstream stream;
+    c_swallowing_writer writer(stream, "", "");
+    for (int levels = 257; levels < 2000; levels += 2) deepen();
+    const v2::ColorSpaceYBR copy(tree);
+    EXPECT_EQ(copy.marshal(writer, "Vyr:ColorSpaceYBR"), ELMX_BADLY_FORMED);
+}
+
 }  // namespace
 }  // namespace vyr_test

@@ -1,16 +1,20 @@
 // Copyright 2026 The Vyr Authors
 // SPDX-License-Identifier: Apache-2.0
 
-/// Saves during which the operating system refuses one call after another: none may look like a success.
+/// Saves during which the operating system refuses one call after another: none may look like a success. And loads
+/// that a disk ends too early.
 ///
 /// The program has its own forms of the calls that write files; the library's calls come here, since names of the
 /// program go before those of the C library.
 
+#include <dlfcn.h>
 #include <gtest/gtest.h>
 #include <sys/syscall.h>
 #include <unistd.h>
 
+#include <algorithm>
 #include <cerrno>
+#include <cstdio>
 #include <filesystem>
 #include <fstream>
 #include <string_view>
@@ -35,6 +39,22 @@ struct s_tap {
 };
 s_tap tap;
 
+/// What `fopen` opens while the tap is at "fread": so many bytes of the document, and then no more can be read.
+std::string_view disk;
+
+ssize_t read_from_disk(void*, char* buffer, std::size_t size) {
+    const auto left = static_cast<std::size_t>(tap.left);
+    if (left == 0) {
+        errno = EIO;
+        return -1;
+    }
+    const std::size_t count = std::min({size, left, disk.size()});
+    disk.copy(buffer, count);
+    disk.remove_prefix(count);
+    tap.left -= static_cast<int>(count);
+    return static_cast<ssize_t>(count);
+}
+
 }  // namespace
 
 // Hidden names would stay among the program's own.
@@ -51,6 +71,11 @@ off_t lseek(int file, off_t offset, int from) noexcept {
 }
 int ftruncate(int file, off_t size) noexcept {
     return tap.refuses("ftruncate") ? -1 : static_cast<int>(syscall(SYS_ftruncate, file, size));
+}
+FILE* fopen(const char* path, const char* mode) {
+    if (tap.call == "fread") return fopencookie(nullptr, "r", {read_from_disk, nullptr, nullptr, nullptr});
+    static const auto real = reinterpret_cast<FILE* (*)(const char*, const char*)>(dlsym(RTLD_NEXT, "fopen"));
+    return real(path, mode);
 }
 int close(int file) {
     const int result = static_cast<int>(syscall(SYS_close, file));
@@ -116,6 +141,50 @@ TEST(Failures, NoRefusedCallOfASaveGoesUnnoticed) {
             EXPECT_EQ(fs::exists(plain), code != lmx::ELMX_OK) << call << ' ' << refused;
         }
         EXPECT_GE(refused, 2) << call;
+    }
+}
+
+TEST(Failures, ADiskThatFailsIsNoFaultOfTheDocument) {
+    std::string text;
+    ASSERT_EQ(large_document().marshal(&text), lmx::ELMX_OK);
+    for (const std::size_t size : {std::size_t{0}, std::size_t{50}, std::size_t{3000}, text.size() - 9}) {
+        SCOPED_TRACE(size);
+        const std::string cut = text.substr(0, size);
+        Vyr document;
+        const auto whole = loadMemoryWithReport(document, cut.data(), cut.size());
+        tap = {"fread", static_cast<int>(size)};
+        disk = text;
+        document.reset();
+        const auto report = loadFileWithReport(document, u"disk.vyr", {.collect = true});
+        tap = {"fread", static_cast<int>(size)};
+        disk = text;
+        EXPECT_EQ(Vyr().loadFile(u"disk.vyr"), whole.getCode());
+        tap = {};
+        EXPECT_EQ(report.getCode(), whole.getCode());
+        EXPECT_EQ(report.getFault(0).line, whole.getFault(0).line);
+        EXPECT_EQ(report.getFault(0).detail, "the file could not be read to its end: Input/output error");
+        EXPECT_EQ(report.getSystemError(), EIO);
+        EXPECT_EQ(whole.getSystemError(), 0);
+    }
+    // A fault that was gathered before keeps its words, also when no more are kept.
+    const std::string faulty = text.insert(text.find("<Vyr:Header>") + 11, " a=''");
+    tap = {"fread", 3000};
+    disk = faulty;
+    Vyr document;
+    const auto report = loadFileWithReport(document, u"disk.vyr", {.collect = true, .limit = 1});
+    tap = {};
+    EXPECT_EQ(report.getTotalCount(), 2U);
+    EXPECT_EQ(report.getFault(0).code, lmx::ELMX_UNEXPECTED_ATTRIBUTE);
+    EXPECT_EQ(report.getFault(0).detail.find("could not be read"), std::string::npos);
+    EXPECT_EQ(report.getSystemError(), EIO);
+
+    // And of saves why they failed, also where the plain call passes it over.
+    for (const char16_t* const path : {u"full.vyr", u"full.vyrz"}) {
+        tap = {"write", 0};
+        const auto save = writeFileWithReport(large_document(), path);
+        tap = {};
+        EXPECT_EQ(save.getSystemError(), ENOSPC);
+        EXPECT_NE(save.toString().find("No space left on device"), std::string::npos) << save.toString();
     }
 }
 

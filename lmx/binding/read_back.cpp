@@ -1,0 +1,179 @@
+// Copyright 2026 The Vyr Authors
+// SPDX-License-Identifier: Apache-2.0
+
+#include "lmx/binding/read_back.h"
+
+#include <algorithm>
+#include <cmath>
+#include <cstdint>
+#include <cstring>
+#include <string>
+
+#include "lmx/binding/unmarshal.h"
+#include "lmx/values/unicode.h"
+
+namespace lmx {
+namespace {
+
+constexpr bool is_space(int c) { return c == ' ' || c == '\t' || c == '\n' || c == '\r'; }
+constexpr bool is_high(char16_t unit) { return unit >= 0xD800 && unit <= 0xDBFF; }
+constexpr bool is_low(char16_t unit) { return unit >= 0xDC00 && unit <= 0xDFFF; }
+
+constexpr bool is_line_end(char16_t unit) { return unit == u'\r' || unit == 0x85 || unit == 0x2028; }
+constexpr bool is_plain(char16_t unit) { return !is_line_end(unit) && !is_high(unit) && !is_low(unit); }
+
+/// Whether a text has neither a line end that reading replaces nor any surrogate: four units at a time, since this is
+/// asked of nearly all that is saved.
+bool is_plain(std::u16string_view text) {
+    constexpr std::size_t k_units = 4;
+    constexpr std::uint64_t k_ones = 0x0001000100010001;
+    // The top bit of each unit that is 0, and maybe of others behind such a one.
+    const auto zeros = [](std::uint64_t units) { return (units - k_ones) & ~units & (k_ones << 15U); };
+    const auto is_plain_at = [&](const char16_t* at) {
+        std::uint64_t units = 0;
+        std::memcpy(&units, at, sizeof units);
+        const std::uint64_t returns = zeros(units ^ (k_ones * u'\r'));
+        if (((units & (k_ones * 0xFF80)) | returns) == 0) return true;
+        return (returns | zeros(units ^ (k_ones * 0x85)) | zeros(units ^ (k_ones * 0x2028)) |
+                zeros((units & (k_ones * 0xF800)) ^ (k_ones * 0xD800))) == 0;
+    };
+    if (text.size() < k_units) {
+        return std::all_of(text.begin(), text.end(), [](char16_t unit) { return is_plain(unit); });
+    }
+    const char16_t* const last = text.data() + text.size() - k_units;
+    for (const char16_t* at = text.data(); at < last; at += k_units) {
+        if (!is_plain_at(at)) return false;
+    }
+    return is_plain_at(last);
+}
+
+/// Whether collapsing leaves a text alone.
+bool is_collapsed(std::u16string_view text) {
+    char16_t before = u' ';
+    for (const char16_t unit : text) {
+        if (is_space(unit) && (unit != u' ' || before == u' ')) return false;
+        before = unit;
+    }
+    return text.empty() || before != u' ';
+}
+
+std::string collapsed(const std::string& text) {
+    std::string result;
+    for (const char c : text) {
+        if (!is_space(c)) {
+            result += c;
+        } else if (!result.empty() && result.back() != ' ') {
+            result += ' ';
+        }
+    }
+    if (!result.empty() && result.back() == ' ') result.pop_back();
+    return result;
+}
+
+/// Whether nothing but the length is bounded, and the text is within the bounds however its characters are counted.
+bool has_plain_length(const s_facets& facets, const std::u16string& text) {
+    return facets.pattern == nullptr && facets.enumeration.empty() && facets.minimum_length <= 1 && !text.empty() &&
+           text.size() <= facets.maximum_length;
+}
+
+elmx_error check_text(const s_item& item, const std::u16string& value, std::string_view printed) {
+    const s_facets* const facets = item.facets;
+    if (facets == nullptr && item.whitespace == ELMX_WS_PRESERVE && is_plain(value)) return ELMX_OK;
+    if (facets != nullptr && !facets->enumeration.empty()) {
+        const auto& literals = facets->enumeration;
+        if (std::find(literals.begin(), literals.end(), printed) != literals.end()) return ELMX_OK;
+    }
+    const bool is_lost = lost_in_text(item, value) != nullptr;
+    const bool is_right = facets == nullptr || (!is_lost && has_plain_length(*facets, value));
+    if (!is_right) {
+        std::string text;
+        convert(&text, value);
+        const elmx_error code = check_as_read(item, item.whitespace == ELMX_WS_COLLAPSE ? collapsed(text) : text);
+        if (code != ELMX_OK) return code;
+    }
+    return is_lost ? ELMX_VALUE_BAD_FORMAT : ELMX_OK;
+}
+
+/// Whether eight bytes have the form, a digit for each 0 in it and else the same.
+bool has_form(const char* text, const char* form) {
+    constexpr std::uint64_t k_ones = 0x0101010101010101;
+    std::uint64_t bytes = 0;
+    std::uint64_t expected = 0;
+    std::memcpy(&bytes, text, sizeof bytes);
+    std::memcpy(&expected, form, sizeof expected);
+    // A digit's bits differ from those of 0 by its value.
+    const std::uint64_t different = bytes ^ expected;
+    const std::uint64_t is_digit = (expected ^ (k_ones * '0') ^ (k_ones * 0x7F)) + k_ones;
+    const std::uint64_t over = different + (k_ones * 0x7F) - (is_digit >> 7U & k_ones) * 9;
+    return ((different | over) & (k_ones << 7U)) == 0;
+}
+
+/// The form of nearly all dates: four digits of a year, a fraction or none, and a zone.
+bool is_common_datetime(std::string_view printed) {
+    constexpr std::string_view k_form = "0000-00-00T00:00:00";
+    constexpr std::size_t k_last = k_form.size() - 8;
+    const bool is_formed = printed.size() > k_form.size() && has_form(printed.data(), k_form.data()) &&
+                           has_form(printed.data() + 8, k_form.data() + 8) &&
+                           has_form(printed.data() + k_last, k_form.data() + k_last);
+    if (!is_formed) return false;
+    std::string_view rest = printed.substr(k_form.size());
+    if (rest.front() == '.') rest.remove_prefix(std::min(rest.size(), rest.find_first_not_of("0123456789", 1)));
+    if (rest == "Z") return true;
+    const auto is_digit = [&](std::size_t i) { return rest[i] >= '0' && rest[i] <= '9'; };
+    return rest.size() == 6 && (rest[0] == '+' || rest[0] == '-') && is_digit(1) && is_digit(2) && rest[3] == ':' &&
+           is_digit(4) && is_digit(5);
+}
+
+bool is_plainly_within(const s_facets& facets, double number) {
+    // What is printed may lie on a bound that the number comes near: it has fourteen digits.
+    constexpr double k_near = 1e-12;
+    const bool is_above = facets.minimum_exclusive ? number > facets.minimum + k_near * std::abs(facets.minimum)
+                                                   : number >= facets.minimum;
+    const bool is_below = facets.maximum_exclusive ? number < facets.maximum - k_near * std::abs(facets.maximum)
+                                                   : number <= facets.maximum;
+    return is_above && is_below;
+}
+
+}  // namespace
+
+const char* lost_in_text(const s_item& item, std::u16string_view text) {
+    if (item.whitespace == ELMX_WS_COLLAPSE && !is_collapsed(text)) {
+        return "of white space only single blanks between words are read back";
+    }
+    if (is_plain(text)) return nullptr;
+    for (std::size_t i = 0; i < text.size(); ++i) {
+        const char16_t unit = text[i];
+        if (is_line_end(unit)) return "only the line feed is read back as a line end";
+        if (is_high(unit) && i + 1 < text.size() && is_low(text[i + 1])) {
+            ++i;
+        } else if (is_high(unit) || is_low(unit)) {
+            return "the text ends at half a surrogate pair";
+        }
+    }
+    return nullptr;
+}
+
+elmx_error code_of_reading(const s_item& item, const void* value, std::string_view printed) {
+    switch (item.value) {
+        case value_kind::boolean:
+            return ELMX_OK;
+        case value_kind::text:
+            return check_text(item, *static_cast<const std::u16string*>(value), printed);
+        case value_kind::number:
+            // Any number has a form that is read.
+            if (item.facets == nullptr || is_plainly_within(*item.facets, *static_cast<const double*>(value))) {
+                return ELMX_OK;
+            }
+            break;
+        case value_kind::datetime:
+            if (is_common_datetime(printed) && (item.facets == nullptr || item.facets->pattern_takes_zoned)) {
+                return ELMX_OK;
+            }
+            break;
+        default:
+            break;
+    }
+    return check_as_read(item, std::string(printed));
+}
+
+}  // namespace lmx

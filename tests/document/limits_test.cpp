@@ -1,0 +1,98 @@
+// Copyright 2026 The Vyr Authors
+// SPDX-License-Identifier: Apache-2.0
+
+/// The memory that a document can make a load take, as `docs/limits.md` gives it. The program counts what is
+/// allocated.
+
+#include <gtest/gtest.h>
+#include <malloc.h>
+
+#include <algorithm>
+#include <atomic>
+#include <cstdlib>
+#include <fstream>
+#include <iterator>
+#include <new>
+#include <string>
+
+#include "schema/Vyr.h"
+#include "tests/schema/support.h"
+
+namespace {
+
+std::atomic<std::size_t> live = 0;
+std::atomic<std::size_t> peak = 0;
+
+/// What the allocator keeps beside each block.
+constexpr std::size_t k_overhead = 8;
+
+}  // namespace
+
+// Hidden names would stay among the program's own.
+#pragma GCC visibility push(default)
+void* operator new(std::size_t size) {
+    void* const block = std::malloc(size);
+    if (block == nullptr) throw std::bad_alloc();
+    live += malloc_usable_size(block) + k_overhead;
+    peak = std::max(peak.load(), live.load());
+    return block;
+}
+void operator delete(void* block) noexcept {
+    if (block != nullptr) live -= malloc_usable_size(block) + k_overhead;
+    std::free(block);
+}
+void operator delete(void* block, std::size_t) noexcept { operator delete(block); }
+#pragma GCC visibility pop
+
+namespace vyr_test {
+namespace {
+
+using namespace lmx;
+
+/// So many times the size of the text is what the load takes at most.
+template <class Load>
+double growth(const std::string& text, Load load) {
+    const std::size_t before = live;
+    peak = before;
+    load(text);
+    return static_cast<double>(peak - before) / static_cast<double>(text.size());
+}
+
+/// The figure ahead of a phrase of the guide.
+double figure(const std::string& phrase) {
+    std::ifstream file(std::string(VYR_TEST_DOCUMENTS) + "/../../docs/limits.md");
+    std::string text(std::istreambuf_iterator<char>(file), {});
+    std::replace(text.begin(), text.end(), '\n', ' ');
+    const std::size_t end = text.find(' ' + phrase);
+    EXPECT_NE(end, text.npos) << phrase;
+    return end == text.npos ? 0 : std::stod(text.substr(text.rfind(' ', end - 1) + 1));
+}
+
+TEST(Limits, MemoryIsWhatTheGuideSays) {
+    std::string many;
+    for (int i = 0; i < 20'000; ++i) many += "<Vyr:ColorAndFinish/>";
+    const std::string accepted = with_declarations(
+        "<Vyr:ColorSpaceTINTORA><Vyr:ChangeHistory>2024-05-01T09:30:00Z</Vyr:ChangeHistory><Vyr:FamilyName/>"
+        "<Vyr:ColorName><Vyr:PrefixName/><Vyr:BaseName/><Vyr:SuffixName/></Vyr:ColorName><Vyr:Page/>"
+        "<Vyr:Gamut>Gamut_CMYK</Vyr:Gamut>" +
+        many + "</Vyr:ColorSpaceTINTORA>");
+    const double largest = growth(
+        accepted, [](const std::string& text) { EXPECT_EQ(v2::ColorSpaceTINTORA().unmarshal(text), ELMX_OK); });
+    EXPECT_LE(largest, figure("times the size of a document that is accepted"));
+    EXPECT_GE(largest, 0.7 * figure("times the size of a document that is accepted"));
+
+    many.clear();
+    for (int i = 0; i < 20'000; ++i) many += "<Vyr:Palette/>";
+    const std::string lacking = with_declarations("<Vyr:Vyr>" + many + "</Vyr:Vyr>");
+    const double let_pass = growth(lacking, [](const std::string& text) {
+        c_swallowing_reader reader(text);
+        v2::Vyr document;
+        EXPECT_EQ(document.unmarshal(reader), ELMX_OK);
+        EXPECT_EQ(document.size_Palette(), 20'000U);
+    });
+    EXPECT_LE(let_pass, figure("times with all failures let pass"));
+    EXPECT_GE(let_pass, 0.7 * figure("times with all failures let pass"));
+}
+
+}  // namespace
+}  // namespace vyr_test
