@@ -243,7 +243,7 @@ void list_entries(const std::u16string& path) {
 }
 
 void use_containers() {
-    expect(build().writeFile(u"inks.vyrz") == lmx::ELMX_OK, "a container is written");
+    expect(com_vyrgraph_v2::writeFileWithReport(build(), u"inks.vyrz").isOk(), "a container is written");
     load_container(u"inks.vyrz");
     load_container(u"missing.vyrz");
     list_entries(u"inks.vyrz");
@@ -289,9 +289,11 @@ void share(const std::string& path) {
 
     // Writing stamps the document's header, so that each thread that writes has a copy.
     com_vyrgraph_v2::Vyr copy = document;
-    std::thread writer([&copy] { copy.writeFile(u"copy.vyr"); });
+    com_vyrgraph_v2::DocumentReport report;
+    std::thread writer([&copy, &report] { report = writeFileWithReport(copy, u"copy.vyr"); });
     count_colors(document);
     writer.join();
+    expect(report.isOk(), "a copy is saved beside others");
 }
 
 }  // namespace

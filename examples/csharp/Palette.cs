@@ -32,7 +32,6 @@ static class Native
     [DllImport(Module)] public static extern IntPtr CSharp_new_Vyr__SWIG_1(IntPtr source);
     [DllImport(Module)] public static extern void CSharp_delete_Vyr(IntPtr self);
     [DllImport(Module)] public static extern int CSharp_Vyr_loadFile(IntPtr self, [MarshalAs(Wide)] string path);
-    [DllImport(Module)] public static extern int CSharp_Vyr_writeFile(IntPtr self, [MarshalAs(Wide)] string path);
     [DllImport(Module)] public static extern IntPtr CSharp_Vyr_writeString(IntPtr self);
     [DllImport(Module)] public static extern void CSharp_delete_XMLDocumentResult(IntPtr self);
     [DllImport(Module)] public static extern int CSharp_XMLDocumentResult_getElmxError(IntPtr self);
@@ -42,7 +41,10 @@ static class Native
 
     [DllImport(Module)] public static extern IntPtr VyrModule_LoadFile(
         IntPtr self, [MarshalAs(Wide)] string path, int collect, uint limit);
+    [DllImport(Module)] public static extern IntPtr VyrModule_WriteFile(IntPtr self, [MarshalAs(Wide)] string path);
     [DllImport(Module)] public static extern void VyrModule_DeleteReport(IntPtr report);
+    [return: MarshalAs(Bstr)]
+    [DllImport(Module)] public static extern string VyrModule_ReportText(IntPtr report);
     [DllImport(Module)] public static extern int VyrModule_ReportCode(IntPtr report);
     [DllImport(Module)] public static extern uint VyrModule_ReportFaultCount(IntPtr report);
     [DllImport(Module)] public static extern uint VyrModule_ReportTotalCount(IntPtr report);
@@ -134,6 +136,16 @@ static class Program
         return isOk;
     }
 
+    /// Saves, or says why the file isn't what it should be, some of which the plain call's code leaves out.
+    static void Save(IntPtr document, string path)
+    {
+        IntPtr report = Native.VyrModule_WriteFile(document, path);
+        if (report == IntPtr.Zero) throw new OutOfMemoryException();
+        string faults = Native.VyrModule_ReportText(report);
+        Native.VyrModule_DeleteReport(report);
+        if (faults.Length != 0) throw new Exception(faults);
+    }
+
     static IntPtr FirstColor(IntPtr document)
     {
         IntPtr palette = Native.CSharp_Vyr_get_Palette__SWIG_0(document, 0);
@@ -198,7 +210,7 @@ static class Program
         Console.WriteLine("as text: {0}", Native.CSharp_XMLDocumentResult_getXmlDocument(result).Substring(0, 5));
         Native.CSharp_delete_XMLDocumentResult(result);
 
-        Demand(Native.CSharp_Vyr_writeFile(document, arguments[1]), "saving");
+        Save(document, arguments[1]);
         Native.CSharp_delete_Vyr(document);
 
         document = Native.CSharp_new_Vyr__SWIG_0();
