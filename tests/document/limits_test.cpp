@@ -11,7 +11,6 @@
 #include <atomic>
 #include <cstdlib>
 #include <fstream>
-#include <iterator>
 #include <new>
 #include <string>
 
@@ -61,8 +60,8 @@ double growth(const std::string& text, Load load) {
 /// The figure ahead of a phrase of the guide.
 double figure(const std::string& phrase) {
     std::ifstream file(std::string(VYR_TEST_DOCUMENTS) + "/../../docs/limits.md");
-    std::string text(std::istreambuf_iterator<char>(file), {});
-    std::replace(text.begin(), text.end(), '\n', ' ');
+    std::string text;
+    for (std::string word; file >> word;) text += word + ' ';
     const std::size_t end = text.find(' ' + phrase);
     EXPECT_NE(end, text.npos) << phrase;
     return end == text.npos ? 0 : std::stod(text.substr(text.rfind(' ', end - 1) + 1));
