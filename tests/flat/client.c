@@ -329,10 +329,10 @@ static void reports(const char* palette) {
     CHECK(CSharp_PaletteType_append_ChangeHistory(CSharp_Vyr_get_Palette__SWIG_0(document, 0), date) == 0);
     CHECK(CSharp_Vyr_writeFile(document, u"client-date.vyr") == 0);
     report = VyrModule_WriteFile(document, u"client-date.vyr");
-    CHECK(VyrModule_ReportCode(report) == 35 && VyrModule_ReportTotalCount(report) == 1);
+    CHECK(VyrModule_ReportCode(report) == 22 && VyrModule_ReportTotalCount(report) == 1);
     CHECK_TEXT(VyrModule_FaultPath(report, 0), u"Palette \"CSS\" / ChangeHistory[2]");
     CHECK_TEXT(VyrModule_FaultValue(report, 0), u"2024-05-01T09:30:00");
-    CHECK(CSharp_Vyr_loadFile(document, u"client-date.vyr") == 35);
+    CHECK(CSharp_Vyr_loadFile(document, u"client-date.vyr") == 22);
     VyrModule_DeleteReport(report);
     CSharp_delete_c_datetime(date);
     CSharp_delete_Vyr(document);
