@@ -7,7 +7,6 @@
 #include <sys/mman.h>
 #endif
 
-#include <algorithm>
 #include <cstdint>
 
 #include "zip/container.h"
@@ -16,10 +15,6 @@ namespace com_vyrgraph_v2 {
 namespace {
 
 constexpr std::uint16_t k_deflate = 8;
-constexpr std::uint16_t k_bzip2 = 12;
-/// Bzip2 makes a gigabyte of a thousand bytes, so its data, not its header, decides how far the memory grows from
-/// here.
-constexpr std::size_t k_first_capacity = std::size_t{1} << 20U;
 
 void require(bool is_met, const std::u16string& path) {
     if (!is_met) throw CZipException(zip_generic, path);
@@ -45,19 +40,9 @@ std::unique_ptr<char[]> make_buffer(std::size_t size) {
 s_document_bytes read_first_entry(CZipContainer& archive, const std::u16string& path) {
     require(archive.OpenEntry(0) && archive.IsSizePossible(0), path);
 
-    const CZipEntryHeader& header = *archive.GetEntryHeader(0);
-    const std::size_t size = header.uncompressed_size;
-    std::size_t capacity = header.method == k_bzip2 ? std::min(size, k_first_capacity) : size;
-    s_document_bytes bytes{make_buffer(capacity), 0};
-    bytes.size = archive.ReadEntry(bytes.data.get(), capacity);
-    while (bytes.size == capacity && capacity < size) {
-        capacity = std::min(size, 2 * capacity);
-        auto larger = make_buffer(capacity);
-        std::copy_n(bytes.data.get(), bytes.size, larger.get());
-        bytes.data = std::move(larger);
-        bytes.size += archive.ReadEntry(bytes.data.get() + bytes.size, capacity - bytes.size);
-    }
-    require(bytes.size == size, path);
+    const std::size_t size = archive.GetEntryHeader(0)->uncompressed_size;
+    s_document_bytes bytes{make_buffer(size), size};
+    require(archive.ReadEntry(bytes.data.get(), size) == size, path);
     char one_more = 0;
     require(archive.ReadEntry(&one_more, 1) == 0, path);
     require(archive.CloseEntry() == 1, path);

@@ -41,8 +41,8 @@ std::unique_ptr<c_codec> make_compressor(std::uint16_t method, int level);
 /// One step for the archive of that name, which a failure then carries.
 bool step(c_codec& codec, s_flow& flow, bool is_last, const std::u16string& path);
 
-/// Whether so many stored bytes can become that many by decompression, as far as the method bounds it. None can by a
-/// method that isn't known.
+/// Whether so many stored bytes may become that many by decompression: as many as deflate can make of them, for bzip2
+/// too. None may by a method that isn't known.
 bool can_inflate_to(std::uint16_t method, std::uint64_t stored, std::uint64_t original);
 
 /// The check sum of an archive, carried on over further data.
