@@ -8,37 +8,52 @@
 
 #include <cstddef>
 #include <cstdint>
-#include <functional>
-#include <map>
 #include <memory>
-#include <string>
 #include <string_view>
-#include <unordered_set>
 #include <vector>
 
 #include "lmx/export.h"
 #include "lmx/reader/get_as_utf8.h"
+#include "lmx/reader/name_table.h"
 
 namespace lmx {
 
+/// What an entity stands for.
+struct s_entity_text {
+    const char* data;  ///< null-terminated
+    std::size_t size;
+    // Where it is being read; it must not be met again there.
+    bool is_open_as_input = false;
+    bool is_open_in_place = false;
+
+    std::string_view view() const { return {data, size}; }
+};
+
 /// Entities by name; the last definition of a name wins.
 ///
-/// A value keeps its address for as long as the table lives, also when it is replaced or cleared: an entity can be
+/// A text keeps its address for as long as the table lives, also when it is replaced or cleared: an entity can be
 /// defined anew while its text is being read.
 class VYR_EXPORT c_entity_table {
 public:
+    c_entity_table() = default;
+    c_entity_table(const c_entity_table&) = delete;
+    c_entity_table& operator=(const c_entity_table&) = delete;
     virtual ~c_entity_table();
 
     void add(std::string_view name, std::string_view value);
     /// Null for a name that isn't defined.
-    const std::string* find(std::string_view name) const;
+    s_entity_text* find(std::string_view name) const;
     /// Forgets all names.
     virtual void clear();
 
 private:
-    // A tree, because a document's author chooses the names and could choose those of one hash.
-    std::map<std::string, const std::string*, std::less<>> m_values;
-    std::vector<std::unique_ptr<const std::string>> m_storage;
+    char* allocate(std::size_t size);
+
+    c_name_table m_names;  ///< numbered by their texts
+    std::vector<s_entity_text*> m_texts;
+    std::vector<std::unique_ptr<char[]>> m_chunks;  ///< texts, each behind its `s_entity_text`
+    char* m_free = nullptr;                         ///< what is left of a chunk
+    std::size_t m_free_size = 0;
 };
 
 /// The total work that references may cause: a base for small documents, and so much for each byte of input that no
@@ -59,14 +74,12 @@ public:
         if (m_entity_stack.empty()) {
             c_get_as_utf8::unget(c);
         } else {
-            m_entity_stack.back().m_unget.unget(c);
+            give_back(c);
         }
     }
 
     /// Pushes a text, borrowed and null-terminated. False, with a fatal report, if that very text is open already.
-    bool set_input_entity_value(const char* value) {
-        return push_entity(value, std::char_traits<char>::length(value));
-    }
+    bool set_input_entity_value(const char* value);
 
     void add_general_entity(const char* name, const char* value) { m_general_entities.add(name, value); }
     void add_parameter_entity(const char* name, const char* value) { m_parameter_entities.add(name, value); }
@@ -89,7 +102,8 @@ protected:
     bool take_if_ahead(std::string_view head, std::string_view body, std::string_view tail) {
         return m_entity_stack.empty() && c_get_as_utf8::take_if_ahead(head, body, tail);
     }
-    bool push_entity(const std::string& value) { return push_entity(value.data(), value.size()); }
+    /// The same for a text of a table.
+    bool push_entity(s_entity_text& text);
     /// Whether no entity's text is open: what was read last came from the document itself.
     bool is_in_document() const { return m_entity_stack.empty(); }
     /// Accounts for one reference to a text of that size. `written` is its own length where it stands in the
@@ -101,20 +115,24 @@ protected:
     c_entity_table& parameter_entities() { return m_parameter_entities; }
 
 private:
-    int get_from_entity();
-
     struct s_entity_input {
-        const char* m_next;
-        const char* m_end;
-        const char* m_start;
-        c_unget_buffer m_unget;
+        s_entity_text* text;
+        std::size_t position;
+    };
+    struct s_given_back {
+        std::size_t depth;  ///< of the text that it belongs to
+        int value;
     };
 
-    bool push_entity(const char* value, std::size_t size);
+    int get_from_entity();
+    void give_back(int value);
+    void open_entity(s_entity_text& text);
+    void close_entity();
     bool is_shut() const { return get_error_handler().is_fatal_errored(); }
 
     std::vector<s_entity_input> m_entity_stack;
-    std::unordered_set<const char*> m_open_texts;
+    std::vector<s_given_back> m_given_back;                  ///< to texts on the stack
+    std::vector<std::unique_ptr<s_entity_text>> m_borrowed;  ///< those on the stack that no table owns
     c_entity_table m_general_entities;
     c_entity_table m_parameter_entities;
     std::uint64_t m_expansion_work = 0;

@@ -17,13 +17,13 @@ bool c_dtd_util::select_parameter_entity() {
     int c = get();
     for (; is_name_char(c); c = get()) name += static_cast<char>(c);
     if (c != ';') unget(c);
-    const std::string* const value = m_getter.parameter_entities().find(name);
-    if (value == nullptr) {
+    s_entity_text* const text = m_getter.parameter_entities().find(name);
+    if (text == nullptr) {
         m_getter.error(ELMX_TYPE_ERROR, ELMX_ENTITY_NOT_FOUND, "Entity '%" + name + "' not found");
         return true;
     }
     const std::size_t written = is_written ? name.size() + (c == ';' ? 2 : 1) : 0;
-    return m_getter.charge_reference(value->size(), written) && m_getter.push_entity(*value);
+    return m_getter.charge_reference(text->size, written) && m_getter.push_entity(*text);
 }
 
 bool c_dtd_util::get_entity_value(std::string* out) {

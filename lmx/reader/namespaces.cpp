@@ -7,40 +7,10 @@
 
 namespace lmx {
 
-int* c_name_table::find(std::string_view name) {
-    if (m_index == nullptr) {
-        const auto row =
-            std::find_if(m_rows.begin(), m_rows.end(), [name](const auto& pair) { return pair.first == name; });
-        return row == m_rows.end() ? nullptr : &row->second;
-    }
-    const auto entry = m_index->find(name);
-    return entry == m_index->end() ? nullptr : &m_rows[entry->second].second;
-}
-
-void c_name_table::add(std::string_view name, int id) {
-    m_rows.emplace_back(name, id);
-    if (m_rows.size() <= k_few) return;
-    if (m_index == nullptr) {
-        m_index = std::make_unique<std::map<std::string, std::size_t, std::less<>>>();
-        for (std::size_t i = 0; i < m_rows.size(); ++i) m_index->emplace(m_rows[i].first, i);
-    } else {
-        m_index->emplace(name, m_rows.size() - 1);
-    }
-}
-
-void c_name_table::clear() {
-    m_rows.clear();
-    m_index.reset();
-}
-
-const char* c_name_table::find_name(int id) const {
-    const auto row = std::find_if(m_rows.begin(), m_rows.end(), [id](const auto& pair) { return pair.second == id; });
-    return row == m_rows.end() ? nullptr : row->first.c_str();
-}
-
 void c_enumerated_namespaces::clear() {
     m_uris.clear();
-    m_rows_by_id.clear();
+    m_numbered.clear();
+    m_given.clear();
 }
 
 void c_enumerated_namespaces::start() {
@@ -51,29 +21,33 @@ void c_enumerated_namespaces::start() {
 }
 
 int c_enumerated_namespaces::add_namespace(std::string_view uri) {
-    if (const int* const id = m_uris.find(uri)) return *id;
-    record(uri, m_next_id);
+    const auto [row, is_new] = m_uris.enter(uri, m_next_id);
+    if (!is_new) return m_uris.number(row);
+    make_room(&m_numbered, 1);
+    m_numbered.push_back(static_cast<std::uint32_t>(row));
     return m_next_id++;
 }
 
 void c_enumerated_namespaces::add_namespace(std::string_view uri, int id) {
-    if (m_uris.find(uri) == nullptr) record(uri, id);
+    const auto [row, is_new] = m_uris.enter(uri, id);
+    if (is_new) m_given.emplace(id, row);
     m_next_id = std::max(m_next_id, id + 1);
 }
 
-void c_enumerated_namespaces::record(std::string_view uri, int id) {
-    m_rows_by_id.emplace(id, m_uris.rows().size());
-    m_uris.add(uri, id);
-}
-
 const char* c_enumerated_namespaces::find_namespace_from_id(int id) const {
-    const auto row = m_rows_by_id.find(id);
-    return row == m_rows_by_id.end() ? nullptr : m_uris.rows()[row->second].first.c_str();
+    const auto numbered = std::lower_bound(m_numbered.begin(), m_numbered.end(), id,
+                                           [this](std::uint32_t row, int it) { return m_uris.number(row) < it; });
+    const bool is_numbered = numbered != m_numbered.end() && m_uris.number(*numbered) == id;
+    const auto given = m_given.find(id);
+    // Of several URIs of one number, the first.
+    std::size_t row = is_numbered ? *numbered : c_name_table::k_no_row;
+    if (given != m_given.end()) row = std::min(row, given->second);
+    return row == c_name_table::k_no_row ? nullptr : m_uris.name(row).data();
 }
 
 int c_enumerated_namespaces::find_namespace(std::string_view uri) const {
-    const int* const id = m_uris.find(uri);
-    return id == nullptr ? k_unbound_ns : *id;
+    const std::size_t row = m_uris.find(uri);
+    return row == c_name_table::k_no_row ? static_cast<int>(k_unbound_ns) : m_uris.number(row);
 }
 
 void c_xml_local::set_parent(c_xml_local* parent) {
@@ -83,11 +57,7 @@ void c_xml_local::set_parent(c_xml_local* parent) {
 
 void c_xml_local::add_namespace(std::string_view prefix, int id) {
     m_bindings_owner = this;
-    if (int* const bound = m_bindings.find(prefix)) {
-        *bound = id;
-    } else {
-        m_bindings.add(prefix, id);
-    }
+    m_bindings.set_number(m_bindings.enter(prefix, id).first, id);
 }
 
 const c_xml_local* c_xml_local::outer_owner() const {
@@ -97,7 +67,8 @@ const c_xml_local* c_xml_local::outer_owner() const {
 int c_xml_local::find_namespace_id(std::string_view prefix) const {
     if (prefix == "xml") return k_xml_ns;
     for (const c_xml_local* scope = m_bindings_owner; scope != nullptr; scope = scope->outer_owner()) {
-        if (const int* const id = scope->m_bindings.find(prefix)) return *id;
+        const std::size_t row = scope->m_bindings.find(prefix);
+        if (row != c_name_table::k_no_row) return scope->m_bindings.number(row);
     }
     return k_unbound_ns;
 }
@@ -105,7 +76,8 @@ int c_xml_local::find_namespace_id(std::string_view prefix) const {
 const char* c_xml_local::find_namespace_prefix(int id) const {
     if (id == k_xml_ns) return "xml";
     for (const c_xml_local* scope = m_bindings_owner; scope != nullptr; scope = scope->outer_owner()) {
-        if (const char* const prefix = scope->m_bindings.find_name(id)) return prefix;
+        const std::size_t row = scope->m_bindings.find_number(id);
+        if (row != c_name_table::k_no_row) return scope->m_bindings.name(row).data();
     }
     return nullptr;
 }
@@ -114,13 +86,14 @@ const char* c_xml_local::find_first_namespace_prefix(int id) const {
     if (id == k_xml_ns) return "xml";
     const char* outermost = nullptr;
     for (const c_xml_local* scope = m_bindings_owner; scope != nullptr; scope = scope->outer_owner()) {
-        if (const char* const prefix = scope->m_bindings.find_name(id)) outermost = prefix;
+        const std::size_t row = scope->m_bindings.find_number(id);
+        if (row != c_name_table::k_no_row) outermost = scope->m_bindings.name(row).data();
     }
     return outermost;
 }
 
 void c_xml_local::clear() {
-    if (m_bindings.rows().empty()) return;
+    if (m_bindings.size() == 0) return;
     m_bindings.clear();
     m_bindings_owner = m_parent == nullptr ? nullptr : m_parent->m_bindings_owner;
 }

@@ -6,17 +6,15 @@
 #pragma once
 
 #include <cstddef>
-#include <functional>
-#include <map>
-#include <memory>
+#include <cstdint>
 #include <string>
 #include <string_view>
 #include <unordered_map>
-#include <utility>
 #include <vector>
 
 #include "lmx/export.h"
 #include "lmx/ns_map.h"
+#include "lmx/reader/name_table.h"
 
 namespace lmx {
 
@@ -24,27 +22,6 @@ inline constexpr char k_xml_uri[] = "http://www.w3.org/XML/1998/namespace";
 
 /// Numbers with a meaning of their own; documents' own URIs get 1000 and up.
 enum namespace_id : int { k_unbound_ns = 0, k_no_ns = 1, k_xml_ns = 2, k_xsi_ns = 5, k_first_free_ns = 1000 };
-
-/// Pairs of a text and a number in order of entry: searched in place while few, by tree when there are many
-/// (the author of a document could choose names of one hash).
-class VYR_EXPORT c_name_table {
-public:
-    /// The number, or null.
-    int* find(std::string_view name);
-    const int* find(std::string_view name) const { return const_cast<c_name_table*>(this)->find(name); }
-    /// The name must be new.
-    void add(std::string_view name, int id);
-    void clear();
-    const std::vector<std::pair<std::string, int>>& rows() const { return m_rows; }
-    /// The first name with that number, or null.
-    const char* find_name(int id) const;
-
-private:
-    static constexpr std::size_t k_few = 12;
-
-    std::vector<std::pair<std::string, int>> m_rows;
-    std::unique_ptr<std::map<std::string, std::size_t, std::less<>>> m_index;  ///< beyond a few rows
-};
 
 /// URIs of a document and of the generated tables, by number.
 class VYR_EXPORT c_enumerated_namespaces {
@@ -65,11 +42,10 @@ public:
     void start();
 
 private:
-    void record(std::string_view uri, int id);
-
     int m_next_id = k_first_free_ns;
     c_name_table m_uris;
-    std::unordered_map<int, std::size_t> m_rows_by_id;
+    std::vector<std::uint32_t> m_numbered;         ///< rows that got the next free number, which grows with them
+    std::unordered_map<int, std::size_t> m_given;  ///< rows by the number that they were given
 };
 
 /// One namespace scope. Scopes without declarations are skipped by lookups.
@@ -90,7 +66,7 @@ public:
     /// Drops this scope's bindings.
     void clear();
     /// This scope's prefixes and their numbers.
-    const std::vector<std::pair<std::string, int>>& get_bindings() const { return m_bindings.rows(); }
+    const c_name_table& get_bindings() const { return m_bindings; }
 
 protected:
     void set_parent(c_xml_local* parent);

@@ -31,7 +31,14 @@ public:
     }
     const char* get_str(std::size_t offset) const { return m_bytes.data() + offset; }
 
+    /// The last name, which holds no null. There must be one.
+    const char* top() const { return get_str(top_offset()); }
+    void pop() { cut(top_offset()); }
+
 private:
+    /// Behind the null of the name before; the numbers would be larger than most names.
+    std::size_t top_offset() const { return m_bytes.size() == 1 ? 0 : m_bytes.rfind('\0', m_bytes.size() - 2) + 1; }
+
     std::string m_bytes;
     std::size_t m_depth = 0;
 };

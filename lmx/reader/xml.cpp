@@ -6,7 +6,8 @@
 #include <algorithm>
 #include <iterator>
 #include <string_view>
-#include <unordered_set>
+#include <utility>
+#include <vector>
 
 #include "lmx/values/characters.h"
 
@@ -38,6 +39,9 @@ std::string_view local_part_of(std::string_view name) {
     return colon == std::string_view::npos ? name : name.substr(colon + 1);
 }
 
+/// What an attribute as documents write it takes at most.
+constexpr std::size_t k_usual_attribute = 256;
+
 void append_char(std::string* text, int c) {
     if (c != -1) *text += static_cast<char>(c);
 }
@@ -67,6 +71,40 @@ private:
     std::size_t m_size;
     std::size_t* m_position;
     bool m_is_behind = false;
+};
+
+/// Entities that are being expanded inside an attribute's value, the innermost last.
+class c_texts_in_place {
+public:
+    struct s_place {
+        s_entity_text* text;
+        std::size_t position;
+    };
+
+    c_texts_in_place() = default;
+    c_texts_in_place(const c_texts_in_place&) = delete;
+    c_texts_in_place& operator=(const c_texts_in_place&) = delete;
+    ~c_texts_in_place() {
+        while (!empty()) pop();
+    }
+
+    bool empty() const { return m_places.empty(); }
+    s_place& top() { return m_places.back(); }
+    /// False for a text that is among them.
+    bool push(s_entity_text& text) {
+        if (text.is_open_in_place) return false;
+        make_room(&m_places, 1);
+        m_places.push_back({&text, 0});
+        text.is_open_in_place = true;
+        return true;
+    }
+    void pop() {
+        top().text->is_open_in_place = false;
+        m_places.pop_back();
+    }
+
+private:
+    std::vector<s_place> m_places;
 };
 
 std::string& c_xml::get_local_name(const std::string& qname, std::string* out) {
@@ -254,8 +292,8 @@ void c_xml::clear_attributes() {
     m_attr_buffer.clear();
     m_attributes.clear();
     m_ns_attributes.clear();
-    m_attr_index = 0;
-    m_value_index = k_none;
+    m_named = {};
+    m_is_value_due = false;
 }
 
 bool c_xml::read_attributes(c_xml_local* local) {
@@ -267,6 +305,7 @@ bool c_xml::read_attributes(c_xml_local* local) {
             unget(c);
             return c != -1;
         }
+        make_room(&m_attr_buffer, k_usual_attribute);
         s_attribute attribute{m_attr_buffer.size(), 0, 0, 0, 0, get_text_line()};
         m_attr_buffer += static_cast<char>(c);
         take_run(k_stops_of_names, &m_attr_buffer);
@@ -277,10 +316,10 @@ bool c_xml::read_attributes(c_xml_local* local) {
         const bool is_declaration = local != nullptr && (name == "xmlns" || name.starts_with("xmlns:"));
         if (!read_raw_value(&attribute)) return false;
         if (is_declaration) {
-            m_ns_attributes.push_back(attribute);
+            m_ns_attributes.add(attribute);
             declare_namespace(local, attribute);
         } else {
-            m_attributes.push_back(attribute);
+            m_attributes.add(attribute);
         }
     }
 }
@@ -322,9 +361,8 @@ bool c_xml::read_raw_value(s_attribute* attribute) {
 }
 
 void c_xml::declare_namespace(c_xml_local* local, const s_attribute& attribute) {
-    const std::string_view buffer = m_attr_buffer;
-    const std::string_view name = buffer.substr(attribute.name, attribute.name_length);
-    std::string_view uri = buffer.substr(attribute.value, attribute.value_length);
+    const std::string_view name = name_of(attribute);
+    std::string_view uri = raw_value_of(attribute);
     if (uri.find('&') != std::string_view::npos) {
         const elmx_whitespace mode = get_ws_mode();
         set_ws_mode(ELMX_WS_PRESERVE);
@@ -341,14 +379,12 @@ void c_xml::declare_namespace(c_xml_local* local, const s_attribute& attribute) 
 }
 
 elxp_xml_event c_xml::get_attribute_name(std::string* name, bool in_pi) {
-    if (m_attr_index < m_attributes.size()) {
-        const s_attribute& attribute = m_attributes[m_attr_index];
-        name->assign(m_attr_buffer, attribute.name, attribute.name_length);
-        m_value_index = m_attr_index++;
+    m_is_value_due = m_attributes.next(&m_named);
+    if (m_is_value_due) {
+        name->assign(m_attr_buffer, m_named.attribute.name, m_named.attribute.name_length);
         m_value_position = 0;
         return ELXP_NAME;
     }
-    m_value_index = k_none;
     int c = get_non_ws();
     if (c == '>') return ELXP_START_TAG_END;
     if (c == (in_pi ? '?' : '/')) {
@@ -362,18 +398,18 @@ elxp_xml_event c_xml::get_attribute_name(std::string* name, bool in_pi) {
 bool c_xml::get_attribute_value(std::string* value, elmx_whitespace mode) {
     value->clear();
     set_ws_mode(mode);
-    if (m_value_index == k_none) return false;
-    const s_attribute& attribute = m_attributes[m_value_index];
-    if (!expand_raw_text(m_attr_buffer.data() + attribute.value, attribute.value_length, &m_value_position, value,
-                         false)) {
-        return false;
-    }
-    m_value_index = k_none;
+    if (!m_is_value_due || !read_value_of(m_named.attribute, value)) return false;
+    m_is_value_due = false;
     return true;
 }
 
+bool c_xml::read_value_of(const s_attribute& attribute, std::string* value) {
+    return expand_raw_text(m_attr_buffer.data() + attribute.value, attribute.value_length, &m_value_position, value,
+                           false);
+}
+
 bool c_xml::skip_attribute_value() {
-    m_value_index = k_none;
+    m_is_value_due = false;
     return true;
 }
 
@@ -440,39 +476,30 @@ bool c_xml::read_reference(c_entity_name_reader& reader, std::string* out) {
         append_verbatim(out, std::string_view(&entity->character, 1));
         return charge_reference(1, written);
     }
-    const std::string* const value = general_entities().find(m_entity_name);
-    if (value == nullptr) return keep_unresolved(has_semicolon, out);
-    const bool is_paid = charge_reference(value->size(), written);
-    if (!reader.m_can_push_input) return is_paid && expand_in_place(*value, out);
+    s_entity_text* const text = general_entities().find(m_entity_name);
+    if (text == nullptr) return keep_unresolved(has_semicolon, out);
+    const bool is_paid = charge_reference(text->size, written);
+    if (!reader.m_can_push_input) return is_paid && expand_in_place(*text, out);
     // A recursion or an excess is reported, and shows as the end of input.
-    if (is_paid) push_entity(*value);
+    if (is_paid) push_entity(*text);
     return true;
 }
 
 /// Expands an entity inside an attribute's value, with all that it refers to, without recursion. The reference to
 /// it has been paid for.
-bool c_xml::expand_in_place(const std::string& entity, std::string* out) {
-    struct s_open_text {
-        const std::string* text;
-        std::size_t position;
-    };
-    std::vector<s_open_text> open;
-    std::unordered_set<const std::string*> open_texts;
-    const auto enter = [&](const std::string& text) {
-        if (!open_texts.insert(&text).second) {
-            report_recursion(text);
-            return false;
-        }
-        open.push_back({&text, 0});
-        return true;
+bool c_xml::expand_in_place(s_entity_text& entity, std::string* out) {
+    c_texts_in_place open;
+    const auto enter = [&](s_entity_text& text) {
+        if (open.push(text)) return true;
+        report_recursion(text.view());
+        return false;
     };
     if (!enter(entity)) return false;
     while (!open.empty()) {
-        const std::string& text = *open.back().text;
-        std::size_t& position = open.back().position;
+        const std::string_view text = open.top().text->view();
+        std::size_t& position = open.top().position;
         if (position == text.size()) {
-            open_texts.erase(&text);
-            open.pop_back();
+            open.pop();
             continue;
         }
         const int c = static_cast<signed char>(text[position++]);
@@ -490,8 +517,8 @@ bool c_xml::expand_in_place(const std::string& entity, std::string* out) {
             if (const s_predefined_entity* const predefined = find_predefined(m_entity_name)) {
                 append_verbatim(out, std::string_view(&predefined->character, 1));
                 if (!charge_reference(1, 0)) return false;
-            } else if (const std::string* const value = general_entities().find(m_entity_name)) {
-                if (!charge_reference(value->size(), 0) || !enter(*value)) return false;
+            } else if (s_entity_text* const inner = general_entities().find(m_entity_name)) {
+                if (!charge_reference(inner->size, 0) || !enter(*inner)) return false;
             } else {
                 return keep_unresolved(has_semicolon, out);
             }
@@ -564,12 +591,7 @@ bool c_xml::skip_rest_of_element(const std::string& name) {
 
 bool c_xml::skip_element_body(const std::string& name) {
     c_string_stack open;
-    std::vector<std::size_t> offsets;
-    const auto enter = [&](const std::string& element) {
-        offsets.push_back(open.get_stack_size());
-        open.push(element);
-    };
-    enter(name);
+    open.push(name);
     std::string found;
     for (;;) {
         c_xml_local scope;
@@ -578,19 +600,18 @@ bool c_xml::skip_element_body(const std::string& name) {
         if (event == ELXP_NAME) {
             bool is_empty = false;
             if (!move_to_start_tag_end(&is_empty)) return false;
-            if (!is_empty) enter(found);
+            if (!is_empty) open.push(found);
             continue;
         }
         if (event != ELXP_END_TAG) return false;
-        const char* const expected = open.get_str(offsets.back());
+        const char* const expected = open.top();
         if (found != expected) {
             error(ELMX_TYPE_ERROR, ELMX_NOT_WELL_FORMED,
                   std::string("Element start tag (") + expected + ") and end tag (" + found + ") do not match");
             return false;
         }
-        open.cut(offsets.back());
-        offsets.pop_back();
-        if (offsets.empty()) return true;
+        open.pop();
+        if (open.get_depth() == 0) return true;
     }
 }
 
@@ -656,7 +677,6 @@ bool c_xml::copy_rest_of_start_tag(std::string* out, bool* is_empty) {
 
 bool c_xml::copy_content(std::string* out, std::string* end_name) {
     c_string_stack open;
-    std::vector<std::size_t> offsets;
     for (;;) {
         switch (next_piece(out, &m_work_name)) {
             case e_piece::text:
@@ -668,33 +688,30 @@ bool c_xml::copy_content(std::string* out, std::string* end_name) {
                 *out += m_work_name;
                 bool is_empty = false;
                 if (!copy_rest_of_start_tag(out, &is_empty)) return false;
-                if (is_empty) break;
-                offsets.push_back(open.get_stack_size());
-                open.push(m_work_name);
+                if (!is_empty) open.push(m_work_name);
                 break;
             }
             case e_piece::end_tag:
-                if (offsets.empty()) {
+                if (open.get_depth() == 0) {
                     *end_name = m_work_name;
                     return true;
                 }
-                if (m_work_name != open.get_str(offsets.back())) return false;
+                if (m_work_name != open.top()) return false;
                 *out += "</" + m_work_name + ">";
-                open.cut(offsets.back());
-                offsets.pop_back();
+                open.pop();
                 break;
         }
     }
 }
 
-void c_xml::append_attributes(const attributes& list, std::string* out) const {
-    for (const s_attribute& attribute : list) {
+void c_xml::append_attributes(const c_attribute_list& list, std::string* out) const {
+    for (c_attribute_list::s_cursor cursor; list.next(&cursor);) {
         *out += ' ';
-        out->append(m_attr_buffer, attribute.name, attribute.name_length);
+        *out += name_of(cursor.attribute);
         *out += '=';
-        *out += attribute.quote;
-        out->append(m_attr_buffer, attribute.value, attribute.value_length);
-        *out += attribute.quote;
+        *out += cursor.attribute.quote;
+        *out += raw_value_of(cursor.attribute);
+        *out += cursor.attribute.quote;
     }
 }
 
@@ -726,15 +743,14 @@ int c_xml::get_ns_id(const c_xml_local* local, const std::string& name) const {
 }
 
 std::string_view c_xml::get_raw_attribute_value() const {
-    return m_attr_index == 0 ? std::string_view() : raw_value_of(m_attributes[m_attr_index - 1]);
+    return m_named.position == 0 ? std::string_view() : raw_value_of(m_named.attribute);
 }
 
 std::string_view c_xml::find_raw_attribute_value(std::string_view name) const {
-    const auto is_it = [&](const s_attribute& row) {
-        return std::string_view(m_attr_buffer).substr(row.name, row.name_length) == name;
-    };
-    const auto found = std::find_if(m_attributes.begin(), m_attributes.end(), is_it);
-    return found == m_attributes.end() ? std::string_view() : raw_value_of(*found);
+    for (c_attribute_list::s_cursor cursor; m_attributes.next(&cursor);) {
+        if (name_of(cursor.attribute) == name) return raw_value_of(cursor.attribute);
+    }
+    return {};
 }
 
 bool c_xml::is_xsi_attribute(const c_xml_local* local, const std::string& name) const {
@@ -743,21 +759,22 @@ bool c_xml::is_xsi_attribute(const c_xml_local* local, const std::string& name) 
 
 bool c_xml::get_named_attribute(const c_xml_local* local, int ns_id, const std::string& local_name,
                                 std::string* value) {
-    for (; m_attr_index < m_attributes.size(); ++m_attr_index) {
-        const s_attribute& attribute = m_attributes[m_attr_index];
-        const std::string_view name = std::string_view(m_attr_buffer).substr(attribute.name, attribute.name_length);
+    // The search goes on behind the attribute that was named last, and starts the walk anew.
+    c_attribute_list::s_cursor cursor = m_named;
+    m_named.position = 0;
+    while (m_attributes.next(&cursor)) {
+        const std::string_view name = name_of(cursor.attribute);
         if (local_part_of(name) != local_name) continue;
         const bool has_prefix = name.find(':') != std::string_view::npos;
         const int found_id = has_prefix ? local->find_namespace_id(prefix_of(name)) : k_no_ns;
         if (found_id != ns_id) continue;
-        m_value_index = m_attr_index;
+        value->clear();
+        set_ws_mode(ELMX_WS_PRESERVE);
         m_value_position = 0;
-        get_attribute_value(value, ELMX_WS_PRESERVE);
-        m_value_index = k_none;
-        m_attr_index = 0;
+        read_value_of(cursor.attribute, value);
+        m_is_value_due = false;
         return true;
     }
-    m_attr_index = 0;
     return false;
 }
 

@@ -9,9 +9,9 @@
 #include <cstddef>
 #include <string>
 #include <string_view>
-#include <vector>
 
 #include "lmx/export.h"
+#include "lmx/reader/attribute_list.h"
 #include "lmx/reader/get_for_xml.h"
 #include "lmx/reader/internal_dtd.h"
 #include "lmx/reader/namespaces.h"
@@ -72,7 +72,7 @@ public:
     /// The line where the event that `get_element_name` delivered last, or failed to, begins.
     int get_event_line() const { return m_event_line; }
     /// The line of the attribute that was named last.
-    int get_attribute_line() const { return m_attr_index == 0 ? m_event_line : m_attributes[m_attr_index - 1].line; }
+    int get_attribute_line() const { return m_named.position == 0 ? m_event_line : m_named.attribute.line; }
     /// The values of the attribute that was named last, and of the first one of that full name in the last start tag,
     /// with references as they stand there; without data if there's none. Good until the next event.
     std::string_view get_raw_attribute_value() const;
@@ -99,16 +99,6 @@ public:
     void rewind();
 
 private:
-    /// Where an attribute's name and its raw value lie in the buffer.
-    struct s_attribute {
-        std::size_t name;
-        std::size_t name_length;
-        std::size_t value;
-        std::size_t value_length;
-        char quote;
-        int line;
-    };
-    using attributes = std::vector<s_attribute>;
     static constexpr std::size_t k_none = static_cast<std::size_t>(-1);
 
     class c_text_name_reader;
@@ -140,16 +130,20 @@ private:
     bool read_reference(c_entity_name_reader& reader, std::string* out);
     bool read_entity_name(c_entity_name_reader& reader);
     bool keep_unresolved(bool has_semicolon, std::string* out);
-    bool expand_in_place(const std::string& entity, std::string* out);
+    bool expand_in_place(s_entity_text& entity, std::string* out);
     bool expand_raw_text(const char* text, std::size_t size, std::size_t* position, std::string* out, bool is_plain);
 
     e_piece next_piece(std::string* out, std::string* name);
     bool copy_rest_of_start_tag(std::string* out, bool* is_empty);
     bool copy_content(std::string* out, std::string* end_name);
+    std::string_view name_of(const s_attribute& attribute) const {
+        return std::string_view(m_attr_buffer).substr(attribute.name, attribute.name_length);
+    }
     std::string_view raw_value_of(const s_attribute& attribute) const {
         return std::string_view(m_attr_buffer).substr(attribute.value, attribute.value_length);
     }
-    void append_attributes(const attributes& list, std::string* out) const;
+    bool read_value_of(const s_attribute& attribute, std::string* value);
+    void append_attributes(const c_attribute_list& list, std::string* out) const;
     void clear_attributes();
 
     std::string m_entity_name;
@@ -159,12 +153,12 @@ private:
     bool m_content_seen = false;
     int m_event_line = 1;
     std::string m_attr_buffer;  ///< the start tag's names and raw values
-    attributes m_attributes;
-    attributes m_ns_attributes;
-    attributes m_attributes_ahead;       ///< of a start tag that may yet turn out not to be plain
-    std::size_t m_attr_index = 0;        ///< the attribute to be named next
-    std::size_t m_value_index = k_none;  ///< the attribute whose value is due
-    std::size_t m_value_position = 0;    ///< how far that was read
+    c_attribute_list m_attributes;
+    c_attribute_list m_ns_attributes;
+    c_attribute_list m_attributes_ahead;  ///< of a start tag that may yet turn out not to be plain
+    c_attribute_list::s_cursor m_named;   ///< the attribute that was named last; at the start if none was
+    bool m_is_value_due = false;          ///< that of the named one
+    std::size_t m_value_position = 0;     ///< how far that was read
     std::string m_uri;
     std::string m_work_name;
 };

@@ -53,7 +53,7 @@ bool c_xml::take_start_tag(std::string* name) {
         if (at == text.size() || text[at] != quote) return false;
         line_feeds += static_cast<int>(std::count(text.begin() + value, text.begin() + at, '\n'));
         // Both lie in the buffer as they do in the tag.
-        m_attributes_ahead.push_back({start - name_length, length, value - name_length, at - value, quote, line});
+        m_attributes_ahead.add({start - name_length, length, value - name_length, at - value, quote, line});
         ++at;
     }
     name->assign(text, 0, name_length);

@@ -248,11 +248,12 @@ public:
 
     /// Makes the declarations of an element visible to what is in it.
     void enter(const c_xml_local& declared) {
-        for (const auto& [prefix, id] : declared.get_bindings()) {
-            m_replaced.emplace_back(prefix, m_scope.find_namespace_id(prefix));
-            m_scope.add_namespace(prefix, id);
+        const c_name_table& bindings = declared.get_bindings();
+        for (std::size_t row = 0; row < bindings.size(); ++row) {
+            m_replaced.emplace_back(bindings.name(row), m_scope.find_namespace_id(bindings.name(row)));
+            m_scope.add_namespace(bindings.name(row), bindings.number(row));
         }
-        m_marks.push_back(m_replaced.size() - declared.get_bindings().size());
+        m_marks.push_back(m_replaced.size() - bindings.size());
     }
     void leave() {
         for (; m_replaced.size() > m_marks.back(); m_replaced.pop_back()) {
@@ -274,23 +275,20 @@ elmx_must_understand search_element(c_xml_reader& reader, c_xml_local& scope, co
     const c_xml_reader_local current(reader);
     c_visible_bindings visible(scope);
     c_string_stack names;
-    std::vector<std::size_t> open;
     for (;;) {
         if (reader.get_current_event() == ELXP_NAME) {
             const elmx_must_understand answer = evaluate_start_tag(reader, uri, local_name, evaluate);
             if (answer != ELMX_MUST_UNDERSTAND_NO) return answer;
             if (reader.get_current_event() != ELXP_END_TAG) {
-                open.push_back(names.get_stack_size());
                 names.push(reader.m_name);
                 visible.enter(current);
             }
         } else if (reader.get_current_event() == ELXP_END_TAG) {
-            if (reader.m_name != names.get_str(open.back())) return ELMX_MUST_UNDERSTAND_UNKNOWN;
-            names.cut(open.back());
-            open.pop_back();
+            if (reader.m_name != names.top()) return ELMX_MUST_UNDERSTAND_UNKNOWN;
+            names.pop();
             visible.leave();
         }
-        if (open.empty()) return ELMX_MUST_UNDERSTAND_NO;
+        if (names.get_depth() == 0) return ELMX_MUST_UNDERSTAND_NO;
         elmx_error error = ELMX_OK;
         reader.get_element_event(nullptr, &error, &reader.m_name);
         if (error != ELMX_OK || c_xml::is_error_event(reader.get_current_event()))

@@ -126,6 +126,47 @@ TEST(Entities, MayBeReplacedWhileTheyAreRead) {
     EXPECT_FALSE(scanner.xml.get_general_entity("e", &value));
 }
 
+TEST(Entities, OfACallerAreToldApartByTheirAddress) {
+    const std::string text = "<a>";
+    const std::string borrowed = "xy";
+    s_scanner scanner(text);
+    scanner.xml.add_general_entity("e", "12");
+    const char* own = nullptr;
+    ASSERT_TRUE(scanner.xml.get_general_entity("e", &own));
+    EXPECT_STREQ(own, "12");
+    EXPECT_EQ(scanner.xml.get(), '<');
+    // What is given back to a text comes from there, before what is given back to those below.
+    EXPECT_TRUE(scanner.xml.set_input_entity_value(own));
+    EXPECT_EQ(scanner.xml.get(), '1');
+    for (const int value : {7, 8, 9, 10}) scanner.xml.unget(value);
+    EXPECT_TRUE(scanner.xml.set_input_entity_value(borrowed.c_str()));
+    scanner.xml.unget(11);
+    for (const int value : {11, int{'x'}, int{'y'}, 10, 9, 8}) EXPECT_EQ(scanner.xml.get(), value);
+    EXPECT_FALSE(scanner.xml.at_end_of_input());
+    for (const int value : {'2', 'a'}) EXPECT_EQ(scanner.xml.get(), value);
+    EXPECT_EQ(scanner.xml.get_entity_stack_depth(), 0U);
+    // The same texts may come again, but not while they are open.
+    EXPECT_TRUE(scanner.xml.set_input_entity_value(borrowed.c_str()));
+    EXPECT_TRUE(scanner.xml.set_input_entity_value(own));
+    EXPECT_EQ(scanner.reports.m_log, "");
+    EXPECT_FALSE(scanner.xml.set_input_entity_value(borrowed.c_str()));
+    EXPECT_EQ(scanner.reports.m_log, "0/9@1:Recursive entity definition for: xy;");
+
+    const std::string reference = "<a>&e;</a>";
+    for (const bool is_own_first : {true, false}) {
+        s_scanner second(reference);
+        second.xml.add_general_entity("e", "&e;");
+        second.xml.get_general_entity("e", &own);
+        std::string name;
+        second.xml.get_element_name(&second.scope, &name);
+        second.xml.move_to_start_tag_end(nullptr);
+        EXPECT_TRUE(is_own_first || second.xml.set_input_entity_value(own));
+        second.xml.get_element_value(&name, ELMX_WS_PRESERVE, true);
+        EXPECT_EQ(second.reports.m_log, "0/9@1:Recursive entity definition for: &e;;");
+        EXPECT_EQ(second.xml.get_entity_stack_depth(), 1U);
+    }
+}
+
 TEST(Entities, HoldAnyByte) {
     const std::string value(
         "1\xFF\0\xC3\xA9"

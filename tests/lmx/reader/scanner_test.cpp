@@ -5,6 +5,8 @@
 
 #include <gtest/gtest.h>
 
+#include <functional>
+
 #include "tests/lmx/reader/support.h"
 
 namespace {
@@ -261,6 +263,35 @@ TEST(Attributes, WaitForTheirValueOnceTheyAreNamed) {
     EXPECT_EQ(scanner.xml.get_attribute_name(&text, false), ELXP_ERROR);
 }
 
+TEST(Attributes, MayBeOfAnyLength) {
+    const std::string tag = "<a xmlns:x='" + std::string(20000, 'u') + "' " + std::string(127, 'b') + "='1'" +
+                            std::string(300, '\n') + std::string(128, 'c') + " = \"" + std::string(16384, 'v') +
+                            "\" xmlns:y='w' d='" + std::string(3000000, '\n') + "'\ne=''";
+    s_scanner scanner(tag + "/>");
+    std::string text;
+    EXPECT_EQ(scanner.xml.get_element_name(&scanner.scope, &text), ELXP_NAME);
+    for (const auto& [name, value, line] :
+         std::vector<std::tuple<std::string, std::string, int>>{{std::string(127, 'b'), "1", 1},
+                                                                {std::string(128, 'c'), std::string(16384, 'v'), 301},
+                                                                {"d", std::string(3000000, '\n'), 301},
+                                                                {"e", "", 3000302}}) {
+        EXPECT_EQ(scanner.xml.get_attribute_name(&text, false), ELXP_NAME);
+        EXPECT_TRUE(text == name);
+        EXPECT_EQ(scanner.xml.get_attribute_line(), line);
+        EXPECT_TRUE(scanner.xml.get_raw_attribute_value() == value);
+        EXPECT_TRUE(scanner.xml.find_raw_attribute_value(name) == value);
+        // A search that fails leaves the value to be read.
+        EXPECT_FALSE(name == "d" && scanner.xml.get_named_attribute(&scanner.scope, 1, "none", &text));
+        EXPECT_TRUE(scanner.xml.get_attribute_value(&text, ELMX_WS_PRESERVE) && text == value);
+        if (name != "d") continue;
+        for (int skipped = 0; skipped < 3; ++skipped) scanner.xml.get_attribute_name(&text, false);
+    }
+    EXPECT_TRUE(scanner.xml.get_any_element("a", &text, ELMX_WS_PRESERVE, true));
+    EXPECT_TRUE(text == "<a xmlns:x='" + std::string(20000, 'u') + "' xmlns:y='w' " + std::string(127, 'b') +
+                            "='1' " + std::string(128, 'c') + "=\"" + std::string(16384, 'v') + "\" d='" +
+                            std::string(3000000, '\n') + "' e=''/>");
+}
+
 TEST(Attributes, AreFoundByNamespace) {
     const std::string document =
         "<a xmlns:x='http://www.w3.org/2001/XMLSchema-instance' xmlns:p='u' p:type='n' type='m' x:type='p:T' "
@@ -321,6 +352,35 @@ TEST(Namespaces, AreNumberedInOrderOfAppearance) {
     scanner.xml.rewind();
     EXPECT_EQ(scanner.xml.find_enumerated_namespace("y"), 0);
     EXPECT_EQ(scanner.xml.add_namespace("y"), 1000);
+}
+
+TEST(Namespaces, AreFoundHoweverManyThereAre) {
+    constexpr int count = 3000;
+    const auto name = [](int number) { return "p" + std::to_string(number); };
+    for (const auto& order : std::vector<std::function<int(int)>>{
+             [](int i) { return i; }, [](int i) { return count - 1 - i; }, [](int i) { return i * 1777 % count; },
+             [](int i) { return i % 2 == 0 ? i / 2 : count - 1 - i / 2; }}) {
+        c_xml_local scope;
+        c_enumerated_namespaces uris;
+        uris.add_namespace("given", 1500);
+        for (int i = 0; i < count; ++i) {
+            scope.add_namespace(name(order(i)), i + 10);
+            EXPECT_EQ(uris.add_namespace(name(order(i))), 1501 + i);
+            EXPECT_EQ(scope.find_namespace_id(name(order(i))), i + 10);
+            EXPECT_EQ(scope.find_namespace_id(name(count)), 0);
+        }
+        uris.add_namespace("late", 1600);
+        scope.add_namespace(name(order(7)), 5);
+        for (int i = 0; i < count; ++i) {
+            EXPECT_EQ(scope.find_namespace_id(name(order(i))), i == 7 ? 5 : i + 10);
+            EXPECT_EQ(uris.find_namespace(name(order(i))), 1501 + i);
+            EXPECT_EQ(uris.find_namespace_from_id(1501 + i), name(order(i)));
+        }
+        EXPECT_STREQ(uris.find_namespace_from_id(1500), "given");
+        EXPECT_EQ(uris.find_namespace("late"), 1600);
+        EXPECT_EQ(uris.find_namespace_from_id(1501 + count), nullptr);
+        EXPECT_EQ(uris.find_namespace("p"), 0);
+    }
 }
 
 TEST(Skipping, MatchesTags) {
