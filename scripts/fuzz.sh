@@ -18,7 +18,7 @@ fi
 fuzzers=("${@:2}")
 [[ ${#fuzzers[@]} -gt 0 ]] || fuzzers=(archive calls document dtd events values)
 
-scripts/setup.sh build clang
+scripts/setup.sh build test clang
 cmake --preset fuzz -DVYR_WARNINGS_AS_ERRORS=ON > /dev/null
 cmake --build --preset fuzz
 build=$PWD/build/fuzz

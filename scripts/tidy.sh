@@ -25,9 +25,9 @@ for entry in json.load(open("build/clang/compile_commands.json")):
 fi
 [[ ${#files[@]} -gt 0 ]] || { echo "tidy.sh: there is no file to look at" >&2; exit 1; }
 
-logs=$(mktemp -d)
-trap 'rm -rf "$logs"' EXIT
-export logs
+export logs=build/clang/tidy
+rm -rf "$logs"
+mkdir -p "$logs"
 check() {
     local log=$logs/${1//\//_}
     clang-tidy-14 -p build/clang --quiet --warnings-as-errors='*' "$1" > "$log" 2>&1 || echo "$1"
