@@ -135,8 +135,8 @@ const std::vector<s_case>& cases() {
         {"plain load", vyr_load_memory},
         {"vyr load container", vyr_load_container},
         {"zlib + load", inflate_and_load},
-        {"vyr save", vyr_save},
-        {"pugixml save", pugixml_save},
+        {"vyr save string", vyr_save},
+        {"pugixml save string", pugixml_save},
     };
     return rows;
 }

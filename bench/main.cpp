@@ -1,8 +1,8 @@
 // Copyright 2026 The Vyr Authors
 // SPDX-License-Identifier: Apache-2.0
 
-/// Runs the measured operations through Google Benchmark and closes with a table of the pairs: speed, ratio, and peak
-/// memory beside the document's own bytes.
+/// Runs the measured operations through Google Benchmark and closes with a table of the pairs: speed, instructions
+/// and cycles of an element, ratio, and peak memory beside the document's own bytes.
 ///
 /// Peak memory is the high-water mark of a whole process, so each operation gets a process of its own: the program
 /// starts itself again with `--peak <case> <file>`.
@@ -23,11 +23,13 @@
 #include <string>
 
 #include "bench/cases.h"
+#include "bench/cost_meter.h"
 #include "bench/palette_text.h"
 
 namespace {
 
 using vyr_bench::s_case;
+using vyr_bench::s_cost;
 using vyr_bench::s_input;
 
 constexpr double k_mega = 1e6;
@@ -64,32 +66,51 @@ double peak_of(std::size_t index, const std::string& path) {
     return pclose(pipe) == 0 ? bytes : -1;
 }
 
-/// Prints as usual and keeps the best time of each case.
+constexpr char k_instructions[] = "instructions";
+constexpr char k_cycles[] = "cycles";
+
+/// Prints as usual and keeps the best of each case's runs.
 class c_reporter : public benchmark::ConsoleReporter {
 public:
     void ReportRuns(const std::vector<Run>& runs) override {
         ConsoleReporter::ReportRuns(runs);
         for (const Run& run : runs) {
             if (run.run_type != Run::RT_Iteration || run.error_occurred) continue;
-            const double seconds = run.real_accumulated_time / static_cast<double>(run.iterations);
-            const auto [entry, is_new] = m_seconds.emplace(run.run_name.function_name, seconds);
-            if (!is_new) entry->second = std::min(entry->second, seconds);
+            const s_cost cost{run.real_accumulated_time / static_cast<double>(run.iterations),
+                              run.counters.at(k_instructions), run.counters.at(k_cycles)};
+            const auto [entry, is_new] = m_costs.emplace(run.run_name.function_name, cost);
+            s_cost& best = entry->second;
+            if (is_new) continue;
+            best.seconds = std::min(best.seconds, cost.seconds);
+            best.instructions = std::min(best.instructions, cost.instructions);
+            best.cycles = std::min(best.cycles, cost.cycles);
         }
     }
-    /// 0 for a case that did not run.
-    double seconds(const std::string& name) const {
-        const auto found = m_seconds.find(name);
-        return found == m_seconds.end() ? 0 : found->second;
+    /// Of one element, but for the seconds; null for a case that did not run.
+    const s_cost* find(const std::string& name) const {
+        const auto found = m_costs.find(name);
+        return found == m_costs.end() ? nullptr : &found->second;
     }
 
 private:
-    std::map<std::string, double> m_seconds;
+    std::map<std::string, s_cost> m_costs;
 };
+
+double count_elements(const std::string& text) {
+    double count = 0;
+    for (std::size_t at = text.find('<'); at != text.npos; at = text.find('<', at + 1)) {
+        if (text[at + 1] != '/' && text[at + 1] != '?') ++count;
+    }
+    return count;
+}
 
 void measure(benchmark::State& state, const s_case& row, const s_input& input) {
     const auto run = row.prepare(input);
+    vyr_bench::c_cost_meter meter;
     for (auto _ : state) {
+        meter.start();
         auto result = run();
+        meter.stop();
         state.PauseTiming();
         if (!result) {
             state.SkipWithError("the operation failed");
@@ -100,24 +121,40 @@ void measure(benchmark::State& state, const s_case& row, const s_input& input) {
     }
     state.SetBytesProcessed(static_cast<std::int64_t>(state.iterations()) *
                             static_cast<std::int64_t>(input.bytes.size()));
+    const s_cost cost = meter.total();
+    const double elements = count_elements(input.bytes) * static_cast<double>(state.iterations());
+    state.counters[k_instructions] = cost.instructions / elements;
+    state.counters[k_cycles] = cost.cycles / elements;
 }
 
+/// The ratio is that of the cycles, if they are counted, or of the time.
 void print_pairs(const c_reporter& reporter, const s_input& input) {
     const auto size = static_cast<double>(input.bytes.size());
+    const std::string scope = vyr_bench::c_cost_meter().scope();
     std::printf("\ndocument: %.1f MB; peak memory is beside the document, as a multiple of its size\n",
                 size / k_mega);
-    std::printf("%-16s%12s%16s%12s%8s%11s%11s\n", "", "vyr MB/s", "beside it", "MB/s", "ratio", "vyr peak",
-                "its peak");
+    if (scope.empty()) {
+        std::printf("the system counts no instructions; ratios are of time\n");
+    } else {
+        std::printf("instructions and cycles are those of one element, %s; ratios are of cycles\n", scope.c_str());
+    }
+    std::printf("%-16s%9s%8s%8s%9s%9s%9s%8s%8s%9s%7s\n", "", "vyr MB/s", "instr.", "cycles", "peak", "beside", "MB/s",
+                "instr.", "cycles", "peak", "ratio");
     const auto& rows = vyr_bench::cases();
     for (std::size_t i = 0; i + 1 < rows.size(); i += 2) {
-        const double vyr = reporter.seconds(rows[i].name);
-        const double other = reporter.seconds(rows[i + 1].name);
-        if (vyr == 0 || other == 0) continue;  // left out by --benchmark_filter
-        const std::array peaks = {peak_of(i, input.path), peak_of(i + 1, input.path)};
-        std::printf("%-16s%12.1f%16s%12.1f%8.2f", rows[i].name.substr(4).c_str(), size / vyr / k_mega,
-                    rows[i + 1].name.substr(0, rows[i + 1].name.find(' ')).c_str(), size / other / k_mega,
-                    other / vyr);
-        std::printf("%10.2fx%10.2fx\n", peaks[0] / size, peaks[1] / size);
+        const s_cost* const vyr = reporter.find(rows[i].name);
+        const s_cost* const other = reporter.find(rows[i + 1].name);
+        if (vyr == nullptr || other == nullptr) continue;  // left out by --benchmark_filter
+        const auto print_side = [&](const s_cost& cost, std::size_t index) {
+            std::printf("%9.1f%8.0f%8.0f%8.2fx", size / cost.seconds / k_mega, cost.instructions, cost.cycles,
+                        peak_of(index, input.path) / size);
+        };
+        const double ratio = vyr->cycles > 0 ? other->cycles / vyr->cycles : other->seconds / vyr->seconds;
+        std::printf("%-16s", rows[i].name.substr(4).c_str());
+        print_side(*vyr, i);
+        std::printf("%9s", rows[i + 1].name.substr(0, rows[i + 1].name.find(' ')).c_str());
+        print_side(*other, i + 1);
+        std::printf("%7.2f\n", ratio);
     }
 }
 
