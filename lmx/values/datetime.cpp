@@ -8,6 +8,7 @@
 #include <charconv>
 #include <iomanip>
 #include <type_traits>
+#include <utility>
 
 #include "lmx/values/characters.h"
 #include "lmx/values/seconds.h"
@@ -58,33 +59,57 @@ bool is_valid_zone(const char* text, const char* end, bool* has_zone) {
 
 std::int32_t negated(std::int32_t value) { return static_cast<std::int32_t>(0U - static_cast<std::uint32_t>(value)); }
 
-/// Appends as a stream does in its default state and the classic locale.
-class c_string_sink {
-public:
-    explicit c_string_sink(std::string* out) : m_out(out) {}
+/// Enough for every value: eight numbers, of which the seconds have the 39 digits of the greatest float, and marks.
+constexpr std::size_t k_text_size = 192;
 
-    void put(char c) { *m_out += c; }
+/// Writes as a stream does in its default state and the classic locale.
+class c_text_sink {
+public:
+    /// Moves `*at` on.
+    explicit c_text_sink(char** at) : m_at(at) {}
+
+    void put(char c) { *(*m_at)++ = c; }
 
     /// With zeros to its left, ahead of a sign too.
     template <class Number>
     void put(Number value, std::size_t width) {
+        if (width == 4 && value >= Number{0} && value < Number{10000}) {
+            put(value / Number{100}, 2);
+            put(value % Number{100}, 2);
+            return;
+        }
+        if (width == 2 && value >= Number{0} && value < Number{100}) {
+            put(digit(value / Number{10}));
+            put(digit(value % Number{10}));
+            return;
+        }
         std::array<char, 16> text;
         const char* const end = std::to_chars(text.data(), text.data() + text.size(), value).ptr;
         const auto size = static_cast<std::size_t>(end - text.data());
-        if (size < width) m_out->append(width - size, '0');
-        m_out->append(text.data(), size);
+        for (std::size_t zeros = size; zeros < width; ++zeros) put('0');
+        *m_at = std::copy(std::as_const(text).data(), end, *m_at);
     }
 
     void put_seconds(float secs) {
-        std::array<char, 64> text;  // the longest: a sign, the 39 digits of the greatest float, a point, 6 digits
+        const auto whole = secs >= 1.0F && secs < 100.0F ? static_cast<unsigned>(secs) : 0U;
+        if (whole != 0 && static_cast<float>(whole) == secs) {
+            if (whole >= 10) put(digit(whole / 10));
+            put(digit(whole % 10));
+            return;
+        }
+        constexpr std::ptrdiff_t most = 64;  // a sign, the digits, a point, 6 digits
         const auto format = needs_fixed(secs) ? std::chars_format::fixed : std::chars_format::general;
         // As a double, which is what a stream formats.
-        const auto value = static_cast<double>(secs);
-        m_out->append(text.data(), std::to_chars(text.data(), text.data() + text.size(), value, format, 6).ptr);
+        *m_at = std::to_chars(*m_at, *m_at + most, static_cast<double>(secs), format, 6).ptr;
     }
 
 private:
-    std::string* m_out;
+    template <class Number>
+    static char digit(Number value) {
+        return static_cast<char>('0' + static_cast<int>(value));
+    }
+
+    char** m_at;
 };
 
 class c_stream_sink {
@@ -230,7 +255,12 @@ void c_datetime_base::print(const s_calendar_form& form, Sink sink) const {
     }
 }
 
-void c_datetime_base::append(const s_calendar_form& form, std::string* out) const { print(form, c_string_sink(out)); }
+void c_datetime_base::append(const s_calendar_form& form, std::string* out) const {
+    std::array<char, k_text_size> text;
+    char* end = text.data();
+    print(form, c_text_sink(&end));
+    out->append(text.data(), end);
+}
 
 void c_datetime_base::write(const s_calendar_form& form, std::ostream& stream) const {
     print(form, c_stream_sink(&stream));

@@ -5,6 +5,7 @@
 
 #include "lmx/writer/as_xml.h"
 
+#include <algorithm>
 #include <array>
 #include <bit>
 #include <charconv>
@@ -21,37 +22,6 @@ namespace {
 std::size_t copy_text(char* buffer, std::string_view text) {
     std::memcpy(buffer, text.data(), text.size());
     return text.size();
-}
-
-/// Writes a number of at most 4 digits before and 10 behind the point, if `value` is one that short; else returns 0.
-///
-/// Almost all numbers in documents are, and this takes a fraction of the general conversion's time. It is exact: a
-/// correctly rounded quotient that gives the value back proves that the value is the double nearest to that decimal,
-/// and with at most 14 digits no other decimal of 14 digits is nearer.
-std::size_t format_short(char* buffer, double value) {
-    constexpr double scale = 1e10;
-    constexpr std::uint64_t integer_scale = 10'000'000'000;
-    const double size = std::fabs(value);
-    if (!(size >= 1e-4 && size < 10000.0)) return 0;  // below, the general format has an exponent
-    const auto scaled = static_cast<std::uint64_t>(size * scale + 0.5);
-    if (static_cast<double>(scaled) / scale != size) return 0;
-
-    char* out = buffer;
-    if (value < 0) *out++ = '-';
-    out = std::to_chars(out, out + 4, scaled / integer_scale).ptr;
-    std::uint64_t fraction = scaled % integer_scale;
-    if (fraction == 0) return static_cast<std::size_t>(out - buffer);
-    *out++ = '.';
-    std::size_t digits = 10;
-    while (fraction % 10 == 0) {
-        fraction /= 10;
-        --digits;
-    }
-    for (std::size_t i = digits; i > 0; --i) {
-        out[i - 1] = static_cast<char>('0' + fraction % 10);
-        fraction /= 10;
-    }
-    return static_cast<std::size_t>(out - buffer) + digits;
 }
 
 /// The powers of ten from 10^-4 on that border the numbers which the general format writes without an exponent. Each
@@ -114,6 +84,104 @@ std::uint64_t insert_point(std::uint64_t bytes, int index) {
     return (bytes & below) | (std::uint64_t{'.'} << (8 * index)) | ((bytes & ~below) << 8);
 }
 
+/// Fourteen decimal digits as text, the first in the lowest byte of `head`; `tail` has the last six.
+struct s_digits {
+    std::uint64_t head;
+    std::uint64_t tail;
+    int leading_zeros;  ///< of the first four digits
+    int count;          ///< without the zeros at the end
+
+    /// Of a number below 10^14 other than 0. The digits stay in registers: read back from memory, they would have to
+    /// wait for their own stores.
+    explicit s_digits(std::uint64_t number) {
+        constexpr std::uint64_t zeros = 0x3030303030303030;  // "00000000"
+        const std::uint64_t high = spread_digits(number / 100'000'000) >> 16;
+        const std::uint64_t low = spread_digits(number % 100'000'000);
+        head = zeros | high | (low << 48);
+        tail = zeros | (low >> 16);
+        constexpr std::uint64_t fifth_digit = std::uint64_t{1} << 32;
+        leading_zeros = std::countr_zero(high | fifth_digit) / 8;
+        count = k_digits - (low != 0 ? std::countl_zero(low) / 8 : 8 + std::countl_zero(high << 16) / 8);
+    }
+
+    /// Drops digits at the front, at most 7.
+    void drop(int digits) {
+        const int bits = 8 * digits;
+        head = (head >> bits) | ((tail << 1) << (63 - bits));
+        tail >>= bits;
+        count -= digits;
+    }
+
+    /// Writes 16 bytes or 17; returns the end of the number that has so many digits ahead of its point.
+    char* write(char* out, int integers) const {
+        if (integers < 8) {
+            store(out, insert_point(head, integers));
+            store(out + 8, (tail << 8) | (head >> 56));
+        } else {
+            store(out, head);
+            store(out + 8, insert_point(tail, integers - 8));
+        }
+        return out + (count <= integers ? integers : count + 1);
+    }
+};
+
+/// Whether a decimal of so many digits behind the point is the number; `*scaled` is the decimal without its point.
+///
+/// It is exact: a correctly rounded quotient that gives the value back proves that the value is the double nearest to
+/// that decimal, and with at most 14 digits no other decimal of 14 digits is nearer.
+bool is_decimal(double size, double scale, std::uint64_t* scaled) {
+    const auto nearest = static_cast<std::int64_t>(size * scale + 0.5);
+    *scaled = static_cast<std::uint64_t>(nearest);
+    return static_cast<double>(nearest) / scale == size;
+}
+
+/// Writes a number of at most 8 digits with those ahead of its point counted as 0, 2 or 4; returns 0 for others. Most
+/// numbers in documents are that short, and one word holds them.
+std::size_t format_eight(char* buffer, double value) {
+    constexpr std::uint64_t zeros = 0x3030303030303030;  // "00000000"
+    const double size = std::fabs(value);
+    const int integers = size < 1 ? 0 : size < 100 ? 2 : 4;
+    const double scale = size < 1 ? 1e8 : size < 100 ? 1e6 : 1e4;
+    std::uint64_t scaled = 0;
+    if (!(size >= 1e-4 && size < 10000.0) || !is_decimal(size, scale, &scaled)) return 0;
+
+    char* out = buffer;
+    *out = '-';
+    out += static_cast<int>(value < 0);
+    const std::uint64_t digits = spread_digits(scaled);
+    // The bits that are added change no answer and spare the question whether there are any.
+    const int count = 8 - std::countl_zero(digits | 1U) / 8;
+    if (integers == 0) {
+        std::memcpy(out, "0.", 2);
+        store(out + 2, zeros | digits);
+        return static_cast<std::size_t>(out + 2 + count - buffer);
+    }
+    // The first of them that isn't zero stands among those ahead of the point.
+    const int unused = std::countr_zero(digits | (std::uint64_t{1} << 63)) / 8;
+    const int ahead = integers - unused;
+    const std::uint64_t text = (zeros | digits) >> (8 * unused);
+    store(out, insert_point(text, ahead));
+    out[8] = static_cast<char>(text >> 56);
+    return static_cast<std::size_t>(out + (count <= integers ? ahead : count - unused + 1) - buffer);
+}
+
+/// The same of a number of at most 4 digits before and 10 behind the point.
+std::size_t format_short(char* buffer, double value) {
+    constexpr int integers = 4;
+    const double size = std::fabs(value);
+    std::uint64_t scaled = 0;
+    // Below, the general format has an exponent.
+    if (!(size >= 1e-4 && size < 10000.0) || !is_decimal(size, 1e10, &scaled)) return 0;
+
+    char* out = buffer;
+    *out = '-';
+    out += static_cast<int>(value < 0);
+    s_digits digits(scaled);
+    const int unused = std::min(digits.leading_zeros, integers - 1);
+    digits.drop(unused);
+    return static_cast<std::size_t>(digits.write(out, integers - unused) - buffer);
+}
+
 /// Writes a number that the general format of 14 digits writes without an exponent; returns 0 for others.
 ///
 /// Numbers that were computed, not measured, are mostly such. A double times a power of ten up to 10^17 fits two
@@ -135,34 +203,16 @@ std::size_t format_plain(char* buffer, double value) {
         number /= 10;
     }
 
-    // The digits fill one word and six bytes of another. They stay in registers: read back from memory, they would
-    // have to wait for their own stores.
-    constexpr std::uint64_t zeros = 0x3030303030303030;  // "00000000"
-    const std::uint64_t high = spread_digits(number / 100'000'000);
-    const std::uint64_t low = spread_digits(number % 100'000'000);
-    const int count = k_digits - (low != 0 ? std::countl_zero(low) : 64 + std::countl_zero(high)) / 8;
-    const std::uint64_t head = zeros | (high >> 16) | (low << 48);
-    const std::uint64_t tail = zeros | (low >> 16);
-
     char* out = buffer;
     *out = '-';
     out += static_cast<int>(value < 0);
-    if (exponent < 0) {
-        std::memcpy(out, "0.000", 5);
-        out += 1 - exponent;
-        store(out, head);
-        store(out + 8, tail);
-        return static_cast<std::size_t>(out + count - buffer);
-    }
-    const int integers = exponent + 1;
-    if (integers < 8) {
-        store(out, insert_point(head, integers));
-        store(out + 8, (tail << 8) | (head >> 56));
-    } else {
-        store(out, head);
-        store(out + 8, insert_point(tail, integers - 8));
-    }
-    return static_cast<std::size_t>(out + (count <= integers ? integers : count + 1) - buffer);
+    const s_digits digits(number);
+    if (exponent >= 0) return static_cast<std::size_t>(digits.write(out, exponent + 1) - buffer);
+    std::memcpy(out, "0.000", 5);
+    out += 1 - exponent;
+    store(out, digits.head);
+    store(out + 8, digits.tail);
+    return static_cast<std::size_t>(out + digits.count - buffer);
 }
 
 template <class Number>
@@ -185,6 +235,7 @@ std::size_t format_number(char* buffer, Number value, int precision) {
 }  // namespace
 
 std::size_t format_as_xml(char* buffer, double value) {
+    if (const std::size_t size = format_eight(buffer, value); size != 0) return size;
     if (const std::size_t size = format_short(buffer, value); size != 0) return size;
     if (const std::size_t size = format_plain(buffer, value); size != 0) return size;
     return format_number(buffer, value, k_digits);

@@ -88,13 +88,15 @@ TEST(AsXml, NumbersAgreeWithTheCLibrary) {
         // all.
         const double decimal = static_cast<double>(random() % 100'000'000'000'000) /
                                powers[random() % std::size(powers)] / (random() % 2 == 0 ? 1.0 : 1e8);
+        const double shorter = static_cast<double>(random() % 100'000'000) / powers[random() % 13];
         const double any = std::bit_cast<double>(random());
         const double computed = std::ldexp(static_cast<double>(random() >> 11), -static_cast<int>(random() % 70));
         const double half = std::ldexp(static_cast<double>(random() % 40'000'000'000'000 + 1), -1);
         const double border =
             powers[random() % std::size(powers)] * (1 - std::ldexp(static_cast<double>(random() % 64), -53));
-        for (const double value : {decimal, -decimal, std::nextafter(decimal, HUGE_VAL),
-                                   static_cast<double>(random() % 100000) / 1e4, any, computed, half, border}) {
+        for (const double value :
+             {decimal, -decimal, std::nextafter(decimal, HUGE_VAL), -shorter, std::nextafter(shorter, 0),
+              static_cast<double>(random() % 100000) / 1e4, any, computed, half, border}) {
             if (std::isfinite(value) && value != 0) check(value);
         }
         if (HasFatalFailure()) return;
