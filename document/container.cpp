@@ -3,12 +3,9 @@
 
 #include "document/container.h"
 
-#if defined(__linux__)
-#include <sys/mman.h>
-#endif
-
 #include <cstdint>
 
+#include "lmx/large_memory.h"
 #include "zip/container.h"
 
 namespace com_vyrgraph_v2 {
@@ -20,18 +17,9 @@ void require(bool is_met, const std::u16string& path) {
     if (!is_met) throw CZipException(zip_generic, path);
 }
 
-/// Memory for bytes that are about to be filled. The system hands out pages at their first touch, which costs more
-/// than the check sum of what is written there; in large pages it costs a tenth.
 std::unique_ptr<char[]> make_buffer(std::size_t size) {
     auto buffer = std::make_unique_for_overwrite<char[]>(size);
-#if defined(__linux__)
-    constexpr std::size_t large_page = std::size_t{2} << 20U;
-    const auto begin = reinterpret_cast<std::uintptr_t>(buffer.get());
-    const std::uintptr_t aligned = (begin + large_page - 1) / large_page * large_page;
-    const std::size_t skipped = aligned - begin;
-    // A wish: nothing depends on whether the system grants it.
-    if (size >= skipped + large_page) madvise(buffer.get() + skipped, size - skipped, MADV_HUGEPAGE);
-#endif
+    lmx::wish_for_large_pages(buffer.get(), size);
     return buffer;
 }
 

@@ -10,8 +10,6 @@
 #include <cstdio>
 #include <filesystem>
 #include <fstream>
-#include <new>
-#include <sstream>
 #include <system_error>
 
 #include "document/container.h"
@@ -45,8 +43,9 @@ SDKType make_stamp() {
 
 /// Writing is constant to its caller; the stamp in the preamble, a mutable member, is the one thing that it leaves
 /// behind.
-lmx::elmx_error marshal_stamped(const Vyr& document, std::ostream& stream, c_report_builder* report) {
-    c_reporting<lmx::c_xml_writer> writer(report, stream, lmx::c_xml_writer::include_xml_decl, "\t", "\n");
+template <class Target>
+lmx::elmx_error marshal_stamped(const Vyr& document, Target& target, c_report_builder* report) {
+    c_reporting<lmx::c_xml_writer> writer(report, target, lmx::c_xml_writer::include_xml_decl, "\t", "\n");
     writer.set_checking(report != nullptr);
     const_cast<Preamble&>(document.get_Preamble()).get_Header().assign_WriteSDKInformation(make_stamp());
     return document.marshal(writer, k_root_element);
@@ -156,12 +155,9 @@ lmx::elmx_error load_file(Vyr& document, const std::u16string& path, c_report_bu
 }
 
 lmx::elmx_error write_string(const Vyr& document, std::u16string* text, c_report_builder* report) {
-    std::ostringstream stream;
-    const lmx::elmx_error error = marshal_stamped(document, stream, report);
-    if (error != lmx::ELMX_OK) return error;
-    // A stream keeps quiet about memory that ran out.
-    if (!stream.good()) throw std::bad_alloc();
-    lmx::convert(text, std::move(stream).str());
+    std::string printed;
+    const lmx::elmx_error error = marshal_stamped(document, printed, report);
+    if (error == lmx::ELMX_OK) lmx::convert(text, printed);
     return error;
 }
 

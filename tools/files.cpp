@@ -15,7 +15,6 @@
 #include <iostream>
 #include <new>
 #include <optional>
-#include <sstream>
 #include <utility>
 
 #include "lmx/lmx.h"
@@ -309,16 +308,12 @@ exit_code read_tree(const std::string& file, c_tree& tree, std::size_t* size) {
         Vyr document;
         const exit_code result = read_or_explain(file, document, size);
         if (result != exit_ok) return result;
-        std::ostringstream stream;
-        lmx::c_xml_writer writer(stream, "", "\n");
+        lmx::c_xml_writer writer(xml, 0, "", "\n");
         if (document.marshal(writer, "Vyr:Vyr") != lmx::ELMX_OK) {
             std::string message;
             complain(file, writer.get_error_message(&message));
             return exit_document_fails;
         }
-        // A stream keeps quiet about memory that ran out.
-        if (!stream.good()) throw std::bad_alloc();
-        xml = std::move(stream).str();
     }
     const lmx::elmx_error code = tree.read(xml);
     if (code == lmx::ELMX_OK) return exit_ok;

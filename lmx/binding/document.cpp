@@ -5,8 +5,7 @@
 
 #include <cstdio>
 #include <fstream>
-#include <new>
-#include <sstream>
+#include <utility>
 
 #include "lmx/binding/open_element.h"
 #include "lmx/writer/xml_writer.h"
@@ -16,8 +15,9 @@ namespace {
 
 constexpr char k_source_file[] = "lmx/binding/document.cpp";
 
-elmx_error marshal_whole(const s_document& document, const void* object, std::ostream& stream) {
-    c_xml_writer writer(stream, c_xml_writer::include_xml_decl, "\t", "\n");
+template <class Target>
+elmx_error marshal_whole(const s_document& document, const void* object, Target& target) {
+    c_xml_writer writer(target, c_xml_writer::include_xml_decl, "\t", "\n");
     return document.operations->marshal(object, writer, document.element);
 }
 
@@ -65,12 +65,9 @@ elmx_error marshal_document(const s_document& document, const void* object, cons
 }
 
 elmx_error marshal_document(const s_document& document, const void* object, std::string* text) {
-    std::ostringstream stream;
-    const elmx_error error = marshal_whole(document, object, stream);
-    if (error != ELMX_OK) return error;
-    // A stream keeps quiet about memory that ran out.
-    if (!stream.good()) throw std::bad_alloc();
-    *text = std::move(stream).str();
+    std::string printed;
+    const elmx_error error = marshal_whole(document, object, printed);
+    if (error == ELMX_OK) *text = std::move(printed);
     return error;
 }
 

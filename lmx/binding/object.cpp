@@ -79,9 +79,10 @@ void copy_choice(const s_class& type, void* target, const void* source) {
 }
 
 bool has_asked_items(std::span<const s_item> items, const void* object) {
-    return std::all_of(items.begin(), items.end(), [&](const s_item& item) {
-        return (item.use & use_asked) == 0 || is_item_there(item, object);
-    });
+    for (const s_item& item : items) {
+        if ((item.use & use_asked) != 0 && !is_set(item, object) && !is_item_there(item, object)) return false;
+    }
+    return true;
 }
 
 /// The number of an enumerated text, from 1; 0 if it is none.

@@ -10,6 +10,7 @@
 #include <string>
 
 #include "lmx/binding/unmarshal.h"
+#include "lmx/binding/value_kinds.h"
 #include "lmx/values/unicode.h"
 
 namespace lmx {
@@ -76,13 +77,18 @@ bool has_plain_length(const s_facets& facets, const std::u16string& text) {
            text.size() <= facets.maximum_length;
 }
 
-elmx_error check_text(const s_item& item, const std::u16string& value, std::string_view printed) {
+bool is_literal(const s_facets& facets, const std::u16string& value) {
+    const auto is_value = [&](std::string_view literal) {
+        return std::equal(literal.begin(), literal.end(), value.begin(), value.end(),
+                          [](char one, char16_t other) { return static_cast<char16_t>(one) == other; });
+    };
+    return std::any_of(facets.enumeration.begin(), facets.enumeration.end(), is_value);
+}
+
+elmx_error check_text(const s_item& item, const std::u16string& value) {
     const s_facets* const facets = item.facets;
     if (facets == nullptr && item.whitespace == ELMX_WS_PRESERVE && is_plain(value)) return ELMX_OK;
-    if (facets != nullptr && !facets->enumeration.empty()) {
-        const auto& literals = facets->enumeration;
-        if (std::find(literals.begin(), literals.end(), printed) != literals.end()) return ELMX_OK;
-    }
+    if (facets != nullptr && is_literal(*facets, value)) return ELMX_OK;
     const bool is_lost = lost_in_text(item, value) != nullptr;
     const bool is_right = facets == nullptr || (!is_lost && has_plain_length(*facets, value));
     if (!is_right) {
@@ -153,12 +159,12 @@ const char* lost_in_text(const s_item& item, std::u16string_view text) {
     return nullptr;
 }
 
-elmx_error code_of_reading(const s_item& item, const void* value, std::string_view printed) {
+elmx_error code_of_reading(const s_item& item, const void* value, std::string* scratch) {
     switch (item.value) {
         case value_kind::boolean:
             return ELMX_OK;
         case value_kind::text:
-            return check_text(item, *static_cast<const std::u16string*>(value), printed);
+            return check_text(item, *static_cast<const std::u16string*>(value));
         case value_kind::number:
             // Any number has a form that is read.
             if (item.facets == nullptr || is_plainly_within(*item.facets, *static_cast<const double*>(value))) {
@@ -166,14 +172,18 @@ elmx_error code_of_reading(const s_item& item, const void* value, std::string_vi
             }
             break;
         case value_kind::datetime:
-            if (is_common_datetime(printed) && (item.facets == nullptr || item.facets->pattern_takes_zoned)) {
+            static_cast<const c_datetime*>(value)->append_to(scratch);
+            if (is_common_datetime(*scratch) && (item.facets == nullptr || item.facets->pattern_takes_zoned)) {
                 return ELMX_OK;
             }
-            break;
+            return check_as_read(item, *scratch);
         default:
             break;
     }
-    return check_as_read(item, std::string(printed));
+    c_output out(*scratch);
+    row_of(item.value).print(out, value);
+    out.flush();
+    return check_as_read(item, *scratch);
 }
 
 }  // namespace lmx

@@ -5,6 +5,7 @@
 
 #pragma once
 
+#include <string>
 #include <string_view>
 
 #include "lmx/binding/table.h"
@@ -12,10 +13,10 @@
 
 namespace lmx {
 
-/// The code with which reading would refuse a value; 0 if it would take it. `printed` is its text as written. A text
-/// that would come back as another is `ELMX_VALUE_BAD_FORMAT`. A value that is in order, as nearly all are, costs a
-/// fraction of its printing.
-elmx_error code_of_reading(const s_item& item, const void* value, std::string_view printed);
+/// The code with which reading would refuse a value; 0 if it would take it. A text that would come back as another is
+/// `ELMX_VALUE_BAD_FORMAT`. A value that is in order, as nearly all are, costs a fraction of its printing. `scratch`
+/// is an empty work string.
+elmx_error code_of_reading(const s_item& item, const void* value, std::string* scratch);
 
 /// Why a text would come back as another, as a sentence; null if it would not.
 const char* lost_in_text(const s_item& item, std::u16string_view text);

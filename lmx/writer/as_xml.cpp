@@ -32,14 +32,12 @@ constexpr std::string_view escape_of(unsigned c) {
     }
 }
 
-constexpr std::size_t k_block = 16;
-
-/// Whether a block can be printed as it is: no escapes, and for UTF-16 nothing but ASCII. One loop without an early
-/// exit, which the compiler turns into vector code.
-template <class Unit>
-bool is_plain_block(const Unit* units) {
+/// Whether a block of units can be printed as it is: no escapes, and for UTF-16 nothing but ASCII. One loop without
+/// an early exit, which the compiler turns into vector code.
+template <std::size_t Size, class Unit>
+bool is_plain(const Unit* units) {
     bool is_plain = true;
-    for (std::size_t i = 0; i < k_block; ++i) {
+    for (std::size_t i = 0; i < Size; ++i) {
         const Unit c = units[i];
         is_plain &= (sizeof(Unit) == 1 || static_cast<std::make_unsigned_t<Unit>>(c) < 0x80) & (c != '"') &
                     (c != '\'') & (c != '&') & (c != '<');
@@ -47,24 +45,20 @@ bool is_plain_block(const Unit* units) {
     return is_plain;
 }
 
-/// The units up to the next test of a block: where one block isn't plain, the next ones on its units mostly aren't.
-template <class Unit>
-std::size_t block_at(const Unit* at, const Unit* end) {
-    return std::min(k_block, static_cast<std::size_t>(end - at));
-}
-
 /// Hands the escaped text on in pieces.
 template <class Write>
 void escape(std::string_view text, Write write) {
+    constexpr std::size_t block = 16;
     const char* start = text.data();
     const char* const end = start + text.size();
     const char* at = start;
     while (at != end) {
-        if (static_cast<std::size_t>(end - at) >= k_block && is_plain_block(at)) {
-            at += k_block;
+        if (static_cast<std::size_t>(end - at) >= block && is_plain<block>(at)) {
+            at += block;
             continue;
         }
-        for (const char* const stop = at + block_at(at, end); at != stop; ++at) {
+        // Where one block isn't plain, the next ones on its units mostly aren't.
+        for (const char* const stop = at + std::min(block, static_cast<std::size_t>(end - at)); at != stop; ++at) {
             const std::string_view escaped = escape_of(static_cast<unsigned char>(*at));
             if (escaped.empty()) continue;
             write(start, static_cast<std::size_t>(at - start));
@@ -75,60 +69,87 @@ void escape(std::string_view text, Write write) {
     write(start, static_cast<std::size_t>(end - start));
 }
 
-template <class Write>
-void escape(std::u16string_view text, Write write) {
-    constexpr std::size_t most_bytes = 6;  // of a unit: "&quot;"
-    std::array<char, 512> buffer;
-    std::size_t size = 0;
-    const auto put = [&](std::uint32_t byte) { buffer[size++] = static_cast<char>(byte); };
-    const char16_t* at = text.data();
-    const char16_t* const end = at + text.size();
-    const char16_t* next_block = at;
-    while (at != end) {
-        if (at >= next_block) {
-            if (buffer.size() - size < k_block * most_bytes) {
-                write(buffer.data(), size);
-                size = 0;
-            }
-            if (static_cast<std::size_t>(end - at) >= k_block && is_plain_block(at)) {
-                for (std::size_t i = 0; i < k_block; ++i) buffer[size + i] = static_cast<char>(at[i]);
-                size += k_block;
-                at += k_block;
-                next_block = at;
-                continue;
-            }
-            next_block = at + block_at(at, end);
+constexpr std::size_t k_most_bytes = 6;  // of a unit: "&quot;"
+
+template <std::size_t Size>
+void narrow(const char16_t* units, char* out) {
+    for (std::size_t i = 0; i < Size; ++i) out[i] = static_cast<char>(units[i]);
+}
+
+/// Writes the UTF-8 of the unit at `*at`, or of the pair, with the escapes; returns its end. What can't be told moves
+/// `*at` to the end, and is dropped.
+char* escape_unit(const char16_t** at, const char16_t* end, char* out) {
+    const auto put = [&out](std::uint32_t byte) { *out++ = static_cast<char>(byte); };
+    std::uint32_t c = *(*at)++;
+    if (c < 0x80) {
+        const std::string_view escaped = escape_of(c);
+        if (escaped.empty()) {
+            put(c);
+            return out;
         }
-        std::uint32_t c = *at++;
-        if (c < 0x80) {
-            const std::string_view escaped = escape_of(c);
-            if (escaped.empty()) {
-                put(c);
-            } else {
-                escaped.copy(buffer.data() + size, escaped.size());
-                size += escaped.size();
-            }
-            continue;
+        return out + escaped.copy(out, escaped.size());
+    }
+    if (c >= 0xD800 && c <= 0xDBFF) {
+        if (*at == end || **at < 0xDC00 || **at > 0xDFFF) {
+            *at = end;
+            return out;
         }
-        if (c >= 0xD800 && c <= 0xDBFF) {
-            if (at == end || *at < 0xDC00 || *at > 0xDFFF) break;  // the rest can't be told: it is dropped
-            c = (((c & 0x3FFU) + 0x40U) << 10) + (*at++ & 0x3FFU);
-        }
-        if (c < 0x800) {
-            put(0xC0U | (c >> 6));
-            put(0x80U | (c & 0x3FU));
-        } else if (c < 0x10000) {
-            put(0xE0U | (c >> 12));
-            put(0x80U | ((c >> 6) & 0x3FU));
-            put(0x80U | (c & 0x3FU));
+        c = (((c & 0x3FFU) + 0x40U) << 10) + (*(*at)++ & 0x3FFU);
+    }
+    if (c < 0x800) {
+        put(0xC0U | (c >> 6));
+    } else if (c < 0x10000) {
+        put(0xE0U | (c >> 12));
+        put(0x80U | ((c >> 6) & 0x3FU));
+    } else {
+        put(0xF0U | (c >> 18));
+        put(0x80U | ((c >> 12) & 0x3FU));
+        put(0x80U | ((c >> 6) & 0x3FU));
+    }
+    put(0x80U | (c & 0x3FU));
+    return out;
+}
+
+/// Writes the units from `*start` on up to about `count` of them, for which there must be room, and a pair's other
+/// half; moves `*start` on and returns the end of what was written.
+char* escape_units(const char16_t** start, const char16_t* end, std::size_t count, char* out) {
+    constexpr std::ptrdiff_t large = 16;
+    constexpr std::ptrdiff_t small = 8;
+    const char16_t* at = *start;
+    const char16_t* const stop = at + std::min(count, static_cast<std::size_t>(end - at));
+    while (at < stop) {
+        const std::ptrdiff_t rest = stop - at;
+        if (rest >= large && is_plain<large>(at)) {
+            narrow<large>(at, out);
+            at += large;
+            out += large;
+        } else if (rest >= small && is_plain<small>(at)) {
+            narrow<small>(at, out);
+            at += small;
+            out += small;
+        } else if (rest < small && stop - *start >= small && is_plain<small>(stop - small)) {
+            // The units before the rest, being plain, are written once more to the same places.
+            narrow<small>(stop - small, out - (small - rest));
+            at = stop;
+            out += rest;
         } else {
-            put(0xF0U | (c >> 18));
-            put(0x80U | ((c >> 12) & 0x3FU));
-            put(0x80U | ((c >> 6) & 0x3FU));
-            put(0x80U | (c & 0x3FU));
+            for (const char16_t* const next = at + std::min(small, rest); at < next;)
+                out = escape_unit(&at, end, out);
         }
     }
-    write(buffer.data(), size);
+    *start = at;
+    return out;
+}
+
+template <class Write>
+void escape(std::u16string_view text, Write write) {
+    std::array<char, 512> buffer;
+    const char16_t* at = text.data();
+    const char16_t* const end = at + text.size();
+    while (at != end) {
+        char* const stop = escape_units(&at, end, buffer.size() / k_most_bytes, buffer.data());
+        write(buffer.data(), static_cast<std::size_t>(stop - buffer.data()));
+    }
 }
 
 template <class Text>
@@ -162,6 +183,21 @@ void append_as_xml(std::string& out, std::string_view value) {
 
 void append_as_xml(std::string& out, std::u16string_view value) {
     escape(value, [&](const char* piece, std::size_t size) { out.append(piece, size); });
+}
+
+void append_as_xml(c_output& out, double value) {
+    char* const at = out.room(k_number_text_size);
+    out.advance(at + format_as_xml(at, value));
+}
+
+void append_as_xml(c_output& out, std::u16string_view value) {
+    constexpr std::size_t piece = 1024;
+    const char16_t* at = value.data();
+    const char16_t* const end = at + value.size();
+    while (at != end) {
+        const std::size_t count = std::min(piece, static_cast<std::size_t>(end - at));
+        out.advance(escape_units(&at, end, count, out.room(count * k_most_bytes)));
+    }
 }
 
 std::ostream& operator<<(std::ostream& stream, const c_as_xml<double>& value) {

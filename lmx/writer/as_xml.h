@@ -4,7 +4,8 @@
 /// The text form of values in a document: numbers, booleans, and strings with the characters escaped that markup
 /// needs. Every form is the same whatever the locale of the host or of a stream.
 ///
-/// Each form comes twice: appended to a string, and as a wrapper to put on a stream.
+/// Each form comes twice: appended to a string, and as a wrapper to put on a stream. What documents are full of can
+/// be appended to an output too.
 
 #pragma once
 
@@ -16,6 +17,7 @@
 
 #include "lmx/export.h"
 #include "lmx/values/binary.h"
+#include "lmx/writer/output.h"
 
 namespace lmx {
 
@@ -35,6 +37,10 @@ VYR_EXPORT void append_as_xml(std::string& out, std::string_view value);
 VYR_EXPORT void append_as_xml(std::string& out, std::u16string_view value);
 /// "true" or "false". Takes nothing that would first have to become a `bool`.
 inline void append_as_xml(std::string& out, std::same_as<bool> auto value) { out += value ? "true" : "false"; }
+
+/// The same forms at the end of an output.
+void append_as_xml(c_output& out, double value);
+void append_as_xml(c_output& out, std::u16string_view value);
 
 /// Puts the text form of a value on a stream: `stream << c_as_xml(value)`. Borrows the value.
 template <class T>

@@ -130,7 +130,8 @@ struct s_digits {
 /// It is exact: a correctly rounded quotient that gives the value back proves that the value is the double nearest to
 /// that decimal, and with at most 14 digits no other decimal of 14 digits is nearer.
 bool is_decimal(double size, double scale, std::uint64_t* scaled) {
-    const auto nearest = static_cast<std::int64_t>(size * scale + 0.5);
+    constexpr double half = 0.5;
+    const auto nearest = static_cast<std::int64_t>(size * scale + half);
     *scaled = static_cast<std::uint64_t>(nearest);
     return static_cast<double>(nearest) / scale == size;
 }
@@ -152,7 +153,8 @@ std::size_t format_eight(char* buffer, double value) {
     // The bits that are added change no answer and spare the question whether there are any.
     const int count = 8 - std::countl_zero(digits | 1U) / 8;
     if (integers == 0) {
-        std::memcpy(out, "0.", 2);
+        out[0] = '0';
+        out[1] = '.';
         store(out + 2, zeros | digits);
         return static_cast<std::size_t>(out + 2 + count - buffer);
     }
@@ -208,7 +210,7 @@ std::size_t format_plain(char* buffer, double value) {
     out += static_cast<int>(value < 0);
     const s_digits digits(number);
     if (exponent >= 0) return static_cast<std::size_t>(digits.write(out, exponent + 1) - buffer);
-    std::memcpy(out, "0.000", 5);
+    copy_text(out, "0.000");
     out += 1 - exponent;
     store(out, digits.head);
     store(out + 8, digits.tail);

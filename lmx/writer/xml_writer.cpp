@@ -6,30 +6,30 @@
 #include "lmx/writer/xml_writer.h"
 
 #include <algorithm>
+#include <cstring>
 #include <locale>
-#include <string_view>
 
 namespace lmx {
-
-namespace {
-
-void write_namespace(std::ostream& os, std::string_view prefix, std::string_view uri) {
-    os << " xmlns";
-    if (!prefix.empty()) os << ':' << prefix;
-    os << "=\"" << uri << '"';
-}
-
-}  // namespace
 
 c_xml_writer::c_xml_writer(std::ostream& os, const char* tab, const char* nl) : c_xml_writer(os, 0, tab, nl) {}
 
 c_xml_writer::c_xml_writer(std::ostream& os, int options, const char* tab, const char* nl)
-    : m_os(os), m_tab(tab), m_nl(nl) {
-    m_os.imbue(std::locale::classic());
+    : m_output(os), m_tab(tab), m_nl(nl), m_own_layout(find_layout_functions()) {
+    os.imbue(std::locale::classic());
+    write_declaration(options);
+}
+
+c_xml_writer::c_xml_writer(std::string& text, int options, const char* tab, const char* nl)
+    : m_output(text), m_tab(tab), m_nl(nl), m_own_layout(find_layout_functions()) {
+    write_declaration(options);
+}
+
+void c_xml_writer::write_declaration(int options) {
     if ((options & (include_xml_decl | include_standalone)) == 0) return;
-    m_os << "<?xml version=\"1.0\" encoding=\"UTF-8\"";
-    if ((options & include_standalone) != 0) m_os << " standalone=\"yes\"";
-    m_os << "?>" << m_nl;
+    m_output.insert("<?xml version=\"1.0\" encoding=\"UTF-8\"");
+    if ((options & include_standalone) != 0) m_output.insert(" standalone=\"yes\"");
+    m_output.insert("?>");
+    m_output.insert(m_nl);
 }
 
 c_xml_writer::~c_xml_writer() = default;
@@ -50,13 +50,56 @@ std::string& c_xml_writer::get_error_message(std::string* out) const {
 
 const char* c_xml_writer::endl() { return m_nl; }
 
-void c_xml_writer::nest() { m_os << m_tab; }
+void c_xml_writer::nest() { m_output.insert(m_tab); }
 
 std::ostream& c_xml_writer::operator()(bool at_line_start) {
-    if (at_line_start) {
-        for (int level = 0; level < m_indent_level; ++level) nest();
+    if (at_line_start) nest_all();
+    return m_output.get_stream();
+}
+
+void c_xml_writer::nest_all() {
+    for (int level = 0; level < m_indent_level; ++level) nest();
+}
+
+/// A host that derives for the sake of the errors shall not be slower than one that doesn't derive, so the functions
+/// themselves are compared. They stand in this order, behind two destructors and three functions; a writer under
+/// construction has those of this class.
+c_xml_writer::layout_functions c_xml_writer::find_layout_functions() const {
+#if defined(__GXX_ABI_VERSION)
+    constexpr std::size_t endl_slot = 5;
+    const void* const* functions = nullptr;
+    std::memcpy(&functions, static_cast<const void*>(this), sizeof functions);
+    return {functions[endl_slot], functions[endl_slot + 1]};
+#else
+    return {};
+#endif
+}
+
+void c_xml_writer::begin_printing() {
+    const bool is_own = m_own_layout.front() != nullptr && find_layout_functions() == m_own_layout;
+    m_is_collecting = is_own && m_tab != nullptr && m_nl != nullptr && !m_output.is_padding();
+    if (!m_is_collecting) return;
+    m_collected_tab = m_tab;
+    m_collected_nl = m_nl;
+}
+
+void c_xml_writer::put(std::string_view text) {
+    if (m_is_collecting) {
+        m_output.append_long(text);
+    } else {
+        m_output.insert(text);
     }
-    return m_os;
+}
+
+void c_xml_writer::put_namespace(std::string_view prefix, std::string_view uri) {
+    put(" xmlns");
+    if (!prefix.empty()) {
+        put(":");
+        put(prefix);
+    }
+    put("=\"");
+    put(uri);
+    put("\"");
 }
 
 void c_xml_writer::add_namespace(const std::string& prefix, const std::string& uri) {
@@ -67,33 +110,37 @@ void c_xml_writer::add_schema_location(const std::string& ns, const std::string&
     m_schema_locations.emplace_back(ns, location);
 }
 
-void c_xml_writer::conditionally_write_ns_attrs(bool need_xsi) {
-    if (m_ns_attrs_written) return;
+void c_xml_writer::write_ns_attrs(bool need_xsi) {
     if (m_ns_map != nullptr) {
-        for (const s_ns_map* row = m_ns_map; row->uri != nullptr; ++row) write_namespace(m_os, row->prefix, row->uri);
+        for (const s_ns_map* row = m_ns_map; row->uri != nullptr; ++row) put_namespace(row->prefix, row->uri);
     }
-    for (const auto& [prefix, uri] : m_namespaces) write_namespace(m_os, prefix, uri);
-    if (need_xsi || !m_schema_locations.empty()) write_namespace(m_os, "xsi", k_xsi_uri);
-    if (!m_schema_locations.empty()) write_schema_locations();
+    for (const auto& [prefix, uri] : m_namespaces) put_namespace(prefix, uri);
+    if (need_xsi || !m_schema_locations.empty()) put_namespace("xsi", k_xsi_uri);
+    if (!m_schema_locations.empty()) put_schema_locations();
     m_ns_attrs_written = true;
     // Nothing is printed here: an override learns in this way that the attributes are through.
     endl();
 }
 
-void c_xml_writer::write_schema_locations() {
+void c_xml_writer::put_schema_locations() {
     const auto& [first_ns, first_location] = m_schema_locations.front();
     if (first_ns.empty()) {
         // One hint without a namespace excludes all others.
-        m_os << " xsi:noNamespaceSchemaLocation=\"" << first_location << '"';
+        put(" xsi:noNamespaceSchemaLocation=\"");
+        put(first_location);
+        put("\"");
         return;
     }
-    m_os << " xsi:schemaLocation=\"";
-    const char* separator = "";
+    put(" xsi:schemaLocation=\"");
+    std::string_view separator;
     for (const auto& [ns, location] : m_schema_locations) {
-        m_os << separator << ns << ' ' << location;
+        put(separator);
+        put(ns);
+        put(" ");
+        put(location);
         separator = " ";
     }
-    m_os << '"';
+    put("\"");
 }
 
 void c_xml_writer::reenable_ns_map_output() {
@@ -115,6 +162,16 @@ elmx_error c_xml_writer::handle_error(elmx_error code, const std::string& item_n
     m_error_item_name = item_name;
     m_last_error = user_handle_error(code, item_name, file, line);
     return m_last_error;
+}
+
+/// Behind an exception: what was printed before it stays printed, unless the stream itself threw.
+void c_printing::leave() noexcept {
+    m_writer.m_is_collecting = false;
+    try {
+        m_writer.m_output.flush();
+    } catch (...) {
+        // The one that is on its way is the caller's to hear.
+    }
 }
 
 }  // namespace lmx

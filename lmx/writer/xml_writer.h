@@ -3,26 +3,32 @@
 
 /// The output side of a document: layout, the declaration, namespace attributes, and the errors of a write.
 ///
-/// The writer knows nothing of well-formedness. Schema-bound classes print their markup themselves, straight into
-/// the stream that `operator()` hands them.
+/// The writer knows nothing of well-formedness. Schema-bound classes print their markup themselves: whole lines into
+/// the writer's output, or what a derived writer's layout wants to see line by line.
 
 #pragma once
 
+#include <array>
+#include <cstddef>
 #include <ostream>
 #include <string>
+#include <string_view>
 #include <utility>
 #include <vector>
 
 #include "lmx/error.h"
 #include "lmx/export.h"
 #include "lmx/ns_map.h"
+#include "lmx/writer/output.h"
 
 namespace lmx {
 
 struct s_open_element;
 struct s_fault_site;
 
-/// One write to one stream. Neither flushes nor closes the stream; a failed stream goes unnoticed.
+/// One write to one stream. Neither flushes nor closes the stream; a failed stream goes unnoticed, but one whose
+/// exceptions are enabled throws. Whatever was printed is in the stream when a call returns, and when a handler, an
+/// override or an object of the host's own class is called.
 class VYR_EXPORT c_xml_writer {
 public:
     /// Bits of the constructor's `options`; either of them asks for the XML declaration.
@@ -33,6 +39,8 @@ public:
     /// classic locale and keeps it.
     c_xml_writer(std::ostream& os, const char* tab, const char* nl);
     c_xml_writer(std::ostream& os, int options, const char* tab, const char* nl);
+    /// Appends to a string, which is borrowed, without a stream.
+    c_xml_writer(std::string& text, int options, const char* tab, const char* nl);
     c_xml_writer(const c_xml_writer&) = delete;
     c_xml_writer& operator=(const c_xml_writer&) = delete;
     virtual ~c_xml_writer();
@@ -76,7 +84,9 @@ public:
         if (m_ns_map == nullptr) m_ns_map = map;
     }
     /// Prints the namespace attributes, the first time only. Nothing in them is escaped.
-    void conditionally_write_ns_attrs(bool need_xsi);
+    void conditionally_write_ns_attrs(bool need_xsi) {
+        if (!m_ns_attrs_written) write_ns_attrs(need_xsi);
+    }
     /// Lets the next element select a table and print the attributes again.
     void reenable_ns_map_output();
     /// The prefix of a namespace, or null. A table must be selected.
@@ -103,19 +113,53 @@ public:
     const s_fault_site* get_fault_site() const { return m_fault_site; }
     void set_fault_site(const s_fault_site* site) { m_fault_site = site; }
 
-    /// Work string of whoever prints: a line is put together here, so that printing allocates nothing once the
-    /// string has grown.
-    std::string m_line;
+    // For those who print elements, within a `c_printing`. A piece is begun by `start_line` or by `get_output`, and
+    // asks for its line end before its text is put together.
+
+    c_output& get_output() { return m_output; }
+    /// Indents to the current depth.
+    c_output& start_line() {
+        if (!m_is_collecting) {
+            nest_all();
+        } else if (m_collected_tab.size() == 1) {
+            m_output.append_repeated(m_collected_tab.front(), static_cast<std::size_t>(m_indent_level));
+        } else {
+            for (int level = 0; level < m_indent_level; ++level) m_output.append(m_collected_tab);
+        }
+        return m_output;
+    }
+    std::string_view get_line_end() { return m_is_collecting ? m_collected_nl : std::string_view(endl()); }
+    /// An overridden layout sees all that was printed before it is asked.
+    void end_piece() {
+        if (!m_is_collecting) m_output.flush();
+    }
 
 private:
+    friend class c_printing;
+    friend class c_handed_over;
     using string_pair = std::pair<std::string, std::string>;
+    /// Where `endl` and `nest` are to be found; null where that can't be told.
+    using layout_functions = std::array<const void*, 2>;
 
-    void write_schema_locations();
+    layout_functions find_layout_functions() const;
+    void write_declaration(int options);
+    void write_ns_attrs(bool need_xsi);
+    void begin_printing();
+    void nest_all();
+    void put(std::string_view text);
+    void put_namespace(std::string_view prefix, std::string_view uri);
+    void put_schema_locations();
 
-    std::ostream& m_os;
+    c_output m_output;
     int m_indent_level = 0;
     const char* m_tab;
     const char* m_nl;
+    layout_functions m_own_layout;
+    int m_printing_depth = 0;
+    /// While printing: the layout is not overridden, and text may wait in the output.
+    bool m_is_collecting = false;
+    std::string_view m_collected_tab;
+    std::string_view m_collected_nl;
     bool m_ns_attrs_written = false;
     bool m_is_checking = false;
     c_error m_error;
@@ -127,6 +171,52 @@ private:
     const char* m_expected_class_identity = nullptr;
     s_open_element* m_open_element = nullptr;
     const s_fault_site* m_fault_site = nullptr;
+};
+
+/// A call that prints elements. They may be nested; when the outermost ends, everything is in the stream.
+class VYR_EXPORT c_printing {
+public:
+    explicit c_printing(c_xml_writer& writer) : m_writer(writer) {
+        if (writer.m_printing_depth++ == 0) writer.begin_printing();
+    }
+    c_printing(const c_printing&) = delete;
+    c_printing& operator=(const c_printing&) = delete;
+    ~c_printing() {
+        if (--m_writer.m_printing_depth == 0) leave();
+    }
+
+    /// What a stream throws comes from here.
+    void end() {
+        if (m_writer.m_printing_depth == 1) m_writer.m_output.flush();
+    }
+
+private:
+    void leave() noexcept;
+
+    c_xml_writer& m_writer;
+};
+
+/// A call to code that may be the host's own: it finds everything in the stream, and what it prints is there when it
+/// returns.
+class VYR_EXPORT c_handed_over {
+public:
+    explicit c_handed_over(c_xml_writer& writer)
+        : m_writer(writer), m_depth(writer.m_printing_depth), m_is_collecting(writer.m_is_collecting) {
+        writer.m_output.flush();
+        writer.m_printing_depth = 0;
+        writer.m_is_collecting = false;
+    }
+    c_handed_over(const c_handed_over&) = delete;
+    c_handed_over& operator=(const c_handed_over&) = delete;
+    ~c_handed_over() {
+        m_writer.m_printing_depth = m_depth;
+        m_writer.m_is_collecting = m_is_collecting;
+    }
+
+private:
+    c_xml_writer& m_writer;
+    int m_depth;
+    bool m_is_collecting;
 };
 
 }  // namespace lmx

@@ -1,7 +1,8 @@
 // Copyright 2026 The Vyr Authors
 // SPDX-License-Identifier: Apache-2.0
 
-/// Saving where something gives way: memory that runs out, streams that stop or throw, handlers that throw.
+/// Saving where something gives way: memory that runs out, streams that stop or throw, handlers that throw. And what
+/// a host's own code finds in the stream when it is called in the course of a save.
 
 #include <gtest/gtest.h>
 
@@ -12,6 +13,7 @@
 #include <new>
 #include <sstream>
 #include <stdexcept>
+#include <vector>
 
 #include "lmx/lmx.h"
 #include "schema/Vyr.h"
@@ -167,6 +169,192 @@ TEST(Saving, AHandlerMayThrow) {
     EXPECT_THROW(com_vyrgraph_v2::Person().marshal(writer, "a"), std::domain_error);
     EXPECT_EQ(writer.get_fault_site(), nullptr);
     EXPECT_EQ(writer.get_open_element(), nullptr);
+}
+
+/// Takes pieces whole and counts them.
+class c_counting_buffer : public std::stringbuf {
+public:
+    int pieces = 0;
+
+private:
+    std::streamsize xsputn(const char* text, std::streamsize size) override {
+        ++pieces;
+        return std::stringbuf::xsputn(text, size);
+    }
+};
+
+struct s_written {
+    std::string text;
+    int pieces;
+};
+
+template <class Writer>
+s_written write_with(const Vyr& document) {
+    c_counting_buffer buffer;
+    std::ostream stream(&buffer);
+    Writer writer(stream, c_xml_writer::include_xml_decl, "\t", "\n");
+    EXPECT_EQ(document.marshal(writer, "Vyr:Vyr"), lmx::ELMX_OK);
+    return {buffer.str(), buffer.pieces};
+}
+
+class c_own_handler : public c_xml_writer {
+public:
+    using c_xml_writer::c_xml_writer;
+    lmx::elmx_error user_handle_error(lmx::elmx_error code) override { return code; }
+    void see_unhandled_error(lmx::elmx_error, const std::string&) override {}
+    std::string& get_error_message(std::string* out) const override { return *out; }
+};
+
+class c_own_line_end : public c_xml_writer {
+public:
+    using c_xml_writer::c_xml_writer;
+    const char* endl() override { return "\n"; }
+};
+
+class c_own_nest : public c_xml_writer {
+public:
+    using c_xml_writer::c_xml_writer;
+    void nest() override { (*this)(false) << '\t'; }
+};
+
+TEST(Saving, OnlyAnOverriddenLayoutIsWrittenLineByLine) {
+    const std::string whole = whole_text();
+    const auto expect = [&](const s_written& written, bool is_piecemeal) {
+        EXPECT_EQ(written.text, whole);
+        EXPECT_EQ(written.pieces > 100, is_piecemeal) << written.pieces;
+    };
+    expect(write_with<c_xml_writer>(sample()), false);
+    expect(write_with<c_own_handler>(sample()), false);
+    expect(write_with<c_own_line_end>(sample()), true);
+    expect(write_with<c_own_nest>(sample()), true);
+}
+
+/// Keeps what the stream held at each call of its layout and its handler.
+class c_watching : public c_xml_writer {
+public:
+    explicit c_watching(std::ostringstream& stream) : c_xml_writer(stream, "\t", "|"), m_stream(stream) {}
+    const char* endl() override {
+        seen.push_back("E" + m_stream.str());
+        return c_xml_writer::endl();
+    }
+    void nest() override {
+        seen.push_back("N" + m_stream.str());
+        c_xml_writer::nest();
+        m_stream << '.';
+    }
+    std::vector<std::string> seen;
+
+private:
+    std::ostringstream& m_stream;
+};
+
+TEST(Saving, AnOverriddenLayoutSeesTheLinesBeforeIt) {
+    com_vyrgraph_v2::SDKType stamp;
+    com_vyrgraph_v2::SDKVersion version;
+    version.set_SDKVersion(u"1");
+    stamp.set_SDKName(u"n");
+    stamp.assign_SDKVersion(version);
+    std::ostringstream stream;
+    c_watching writer(stream);
+    writer.conditionally_write_ns_attrs(false);
+    stream.str("");
+    writer.seen.clear();
+    EXPECT_EQ(stamp.marshal(writer, "a"), lmx::ELMX_OK);
+    const std::string name = "<a>|\t.<Vyr:SDKName>n</Vyr:SDKName>|";
+    const std::string more = name + "\t.<Vyr:SDKVersion>1</Vyr:SDKVersion>|";
+    EXPECT_EQ(stream.str(), more + "</a>|");
+    const std::vector<std::string> expected = {
+        "E<a", "N<a>|", "E<a>|\t.", "N" + name, "E" + name + "\t.<Vyr:SDKVersion>1", "E" + more};
+    EXPECT_EQ(writer.seen, expected);
+}
+
+TEST(Saving, AHandlerSeesWhatWasPrintedBeforeAndPrintsBehindIt) {
+    class c_printing_handler : public c_xml_writer {
+    public:
+        explicit c_printing_handler(std::ostringstream& stream) : c_xml_writer(stream, " ", "|"), m_stream(stream) {}
+        lmx::elmx_error user_handle_error(lmx::elmx_error) override {
+            seen = m_stream.str();
+            nest();
+            m_stream << "<!--1-->";
+            (*this)(true) << "<!--2-->" << endl();
+            return lmx::ELMX_OK;
+        }
+        std::string seen;
+
+    private:
+        std::ostringstream& m_stream;
+    };
+    com_vyrgraph_v2::CustomAttributeType attribute;
+    attribute.set_Name(u"n");
+    attribute.get_ValueChoice();
+    std::ostringstream stream;
+    c_printing_handler writer(stream);
+    writer.conditionally_write_ns_attrs(false);
+    EXPECT_EQ(attribute.marshal(writer, "a"), lmx::ELMX_OK);
+    const std::string before = "<a>| <Vyr:Name>n</Vyr:Name>| <Vyr:ValueChoice>|";
+    EXPECT_EQ(writer.seen, before);
+    EXPECT_EQ(stream.str(), before + " <!--1-->  <!--2-->| </Vyr:ValueChoice>|</a>|");
+}
+
+/// Prints with the writer's stream and with one that was kept from before.
+class c_own_color : public com_vyrgraph_v2::ColorSpaceCMYKType {
+public:
+    explicit c_own_color(std::ostream& kept) : m_kept(kept) {}
+    lmx::elmx_error marshal(c_xml_writer& writer, const char*) const override {
+        m_kept << "[";
+        writer(true) << "<b";
+        marshal_attributes(writer);
+        m_kept << "*";
+        const lmx::elmx_error error = ColorSpaceCMYKType::marshal(writer, "c");
+        m_kept << "]";
+        return error;
+    }
+
+private:
+    std::ostream& m_kept;
+};
+
+TEST(Saving, AnObjectOfTheHostsClassFindsEverythingInTheStream) {
+    std::ostringstream stream;
+    com_vyrgraph_v2::sg_ColorSpace holder;
+    auto* const color = new c_own_color(stream);
+    color->append_ChangeHistory(lmx::c_datetime("2024-05-01T09:30:00Z"));
+    color->get_ColorSpaceSpecificationSpectrumGeneric().setnil_ColorSpaceSpecificationSpectrumGeneric();
+    for (const auto set :
+         {&c_own_color::set_Cyan, &c_own_color::set_Magenta, &c_own_color::set_Yellow, &c_own_color::set_Black}) {
+        (color->*set)(0);
+    }
+    color->set_UniqueID(u"u");
+    holder.assign_ColorSpaceCMYK(color);
+    com_vyrgraph_v2::ColorType parent;
+    parent.set_ColorName(u"n");
+    parent.append_ChangeHistory(lmx::c_datetime("2024-05-01T09:30:00Z"));
+    parent.append_ColorSpace();
+    parent.get_ColorSpace(0).swap(holder);
+    c_xml_writer writer(stream, "", "");
+    EXPECT_EQ(parent.marshal(writer, "a"), lmx::ELMX_OK);
+    const std::string text = stream.str();
+    EXPECT_NE(text.find("Z</Vyr:ChangeHistory>[<b UniqueID=\"u\"*<c UniqueID=\"u\">"), text.npos) << text;
+    EXPECT_NE(text.find("</c>]</a>"), text.npos) << text;
+}
+
+TEST(Saving, LinesOfAnyLengthComeThrough) {
+    // Longer and shorter than the pieces in which text is handed on, and at their borders.
+    for (const std::size_t size : {0, 1, 7, 8, 16, 1023, 65500, 65510, 65520, 65530, 65540, 200000}) {
+        const std::u16string value = std::u16string(size, u'x') + u"\U0001F600&" + std::u16string(size % 100, u'y');
+        com_vyrgraph_v2::OwnerType owner;
+        owner.append_Company(value);
+        owner.append_Company(u"z");
+        const std::string tab(size % 70000, '-');
+        std::string text;
+        c_xml_writer writer(text, 0, tab.c_str(), "|");
+        writer.conditionally_write_ns_attrs(false);
+        EXPECT_EQ(owner.marshal(writer, "a"), lmx::ELMX_OK);
+        const std::string lines = std::string(size, 'x') + "\xF0\x9F\x98\x80&amp;" + std::string(size % 100, 'y');
+        ASSERT_TRUE(text == "<a>|" + tab + "<Vyr:Company>" + lines + "</Vyr:Company>|" + tab +
+                                "<Vyr:Company>z</Vyr:Company>|</a>|")
+            << size;
+    }
 }
 
 }  // namespace

@@ -10,6 +10,7 @@
 #include <locale>
 #include <sstream>
 
+#include "lmx/writer/as_xml.h"
 #include "tests/lmx/comma_locale.h"
 
 namespace {
@@ -86,6 +87,21 @@ TEST(XmlWriter, LayoutCanBeOverridden) {
     EXPECT_EQ(w.line_ends, 2);  // asked once more, though nothing is printed
     w.conditionally_write_ns_attrs(false);
     EXPECT_EQ(w.line_ends, 2);
+}
+
+TEST(XmlWriter, AStringIsAppendedToWithoutAStream) {
+    std::string text = "kept ";
+    c_xml_writer w(text, c_xml_writer::include_xml_decl, "--", "|");
+    const std::string declared = "kept <?xml version=\"1.0\" encoding=\"UTF-8\"?>|";
+    EXPECT_EQ(text, declared);
+    w.indent();
+    w.nest();
+    EXPECT_EQ(text, declared + "--");
+    w(true) << 1234567 << '<' << lmx::c_as_xml(1.5);
+    w.conditionally_select_ns_map(k_map);
+    w.conditionally_write_ns_attrs(false);
+    w(false) << w.endl();
+    EXPECT_EQ(text, declared + "----1234567<1.5 xmlns:Vyr=\"http://example.com/v2\"|");
 }
 
 TEST(XmlWriter, NamespacesComeOnceInOrder) {
