@@ -4,24 +4,135 @@
 #include "lmx/binding/list.h"
 
 #include <algorithm>
+#include <memory>
+#include <new>
 
 namespace lmx {
+namespace {
 
-void c_list_base::reserve_one() {
-    if (m_entries.size() == m_entries.capacity()) {
-        m_entries.reserve(std::max<std::size_t>(4, m_entries.capacity() * 2));
+struct s_storage_deleter {
+    void operator()(void* storage) const { ::operator delete(storage); }
+};
+using storage = std::unique_ptr<void, s_storage_deleter>;
+
+storage allocate(std::size_t size) { return storage(::operator new(size)); }
+
+/// How many places a full list gets: spectra of 36 points fill theirs, and large entries are not kept waiting.
+std::size_t places_to_add(std::size_t size, std::size_t entry_size) {
+    constexpr std::size_t most_places = 32;
+    constexpr std::size_t most_bytes = 1024;
+    const std::size_t wanted = size == 1 ? 3 : std::min(2 * size, most_places);
+    return std::max<std::size_t>(1, std::min(wanted, most_bytes / entry_size));
+}
+
+}  // namespace
+
+/// Followed in memory by places for entries.
+struct c_list_base::s_block {
+    alignas(k_entry_alignment) s_block* next;
+};
+
+void* c_list_base::emplace(std::size_t index, const s_stored_type& type) {
+    if (m_storage == 0) {
+        storage only = allocate(type.size);
+        type.construct(only.get());
+        m_storage = reinterpret_cast<std::uintptr_t>(only.release());
+        return pointer(m_storage);
     }
+    reserve_place(type.size);
+    s_head& list = *head();
+    void* const place = list.freed != nullptr ? list.freed : list.unused;
+    void* const next_freed = list.freed != nullptr ? *static_cast<void**>(place) : nullptr;
+    try {
+        type.construct(place);
+    } catch (...) {
+        if (list.freed != nullptr) *static_cast<void**>(place) = next_freed;
+        throw;
+    }
+    if (list.freed != nullptr) {
+        list.freed = next_freed;
+    } else {
+        list.unused += type.size;
+        --list.unused_count;
+    }
+    void** const entries = list.entries();
+    void** const at = entries + std::min(index, list.size);
+    std::copy_backward(at, entries + list.size, entries + list.size + 1);
+    *at = place;
+    ++list.size;
+    return place;
 }
 
-void c_list_base::insert(std::size_t index, void* entry) {
-    const std::size_t place = std::min(index, m_entries.size());
-    m_entries.insert(m_entries.begin() + static_cast<std::ptrdiff_t>(place), entry);
+void c_list_base::remove(std::size_t index, const s_stored_type& type) noexcept {
+    void* const place = entry(index);
+    if (type.destroy != nullptr) type.destroy(place);
+    if (size() == 1) {
+        free_storage();
+        return;
+    }
+    s_head& list = *head();
+    void** const entries = list.entries();
+    std::copy(entries + index + 1, entries + list.size, entries + index);
+    --list.size;
+    *static_cast<void**>(place) = list.freed;
+    list.freed = place;
 }
 
-void* c_list_base::take(std::size_t index) {
-    void* const entry = m_entries[index];
-    m_entries.erase(m_entries.begin() + static_cast<std::ptrdiff_t>(index));
-    return entry;
+void c_list_base::clear(const s_stored_type& type) noexcept {
+    if (m_storage == 0) return;
+    if (type.destroy != nullptr) {
+        for (std::size_t i = size(); i-- > 0;) type.destroy(entry(i));
+    }
+    free_storage();
+}
+
+/// The index is a part of the head, so a larger one is another head.
+void c_list_base::reserve_index(std::size_t capacity) {
+    const std::size_t bytes = sizeof(s_head) + capacity * sizeof(void*);
+    auto* const larger = ::new (::operator new(bytes)) s_head{};
+    if (has_head()) {
+        s_head* const old = head();
+        *larger = *old;
+        std::copy(old->entries(), old->entries() + old->size, larger->entries());
+        ::operator delete(old);
+    } else {
+        larger->size = 1;
+        larger->first = pointer(m_storage);
+        larger->entries()[0] = larger->first;
+    }
+    larger->capacity = capacity;
+    m_storage = reinterpret_cast<std::uintptr_t>(larger) + 1;
+}
+
+/// Makes room for one more entry, in a place and in the index.
+void c_list_base::reserve_place(std::size_t entry_size) {
+    if (!has_head()) reserve_index(k_first_capacity);
+    if (head()->freed != nullptr || head()->unused_count > 0) return;
+    const std::size_t count = head()->size;
+    const std::size_t added = places_to_add(count, entry_size);
+    const std::size_t capacity = head()->capacity;
+    if (count + added > capacity) reserve_index(std::max(count + added, capacity + capacity / 2));
+    s_head& list = *head();
+    auto* const block = ::new (::operator new(sizeof(s_block) + added * entry_size)) s_block{list.blocks};
+    list.blocks = block;
+    list.unused = reinterpret_cast<std::byte*>(block + 1);
+    list.unused_count = added;
+}
+
+void c_list_base::free_storage() noexcept {
+    if (has_head()) {
+        s_head* const list = head();
+        while (list->blocks != nullptr) {
+            s_block* const block = list->blocks;
+            list->blocks = block->next;
+            ::operator delete(block);
+        }
+        ::operator delete(list->first);
+        ::operator delete(list);
+    } else {
+        ::operator delete(pointer(m_storage));
+    }
+    m_storage = 0;
 }
 
 }  // namespace lmx

@@ -1,45 +1,79 @@
 // Copyright 2026 The Vyr Authors
 // SPDX-License-Identifier: Apache-2.0
 
-/// The storage of a repeating item: a vector of owned objects, so that references to entries stay good while
-/// the list grows, shrinks or is reordered.
+/// The storage of a repeating item: entries in blocks and an index of them in order, so that no entry is ever moved:
+/// references stay good while the list grows, shrinks or is reordered.
 
 #pragma once
 
 #include <cstddef>
-#include <memory>
+#include <cstdint>
 #include <utility>
-#include <vector>
 
+#include "lmx/binding/stored_type.h"
 #include "lmx/export.h"
 
 namespace lmx {
 
 /// The part of a list that doesn't depend on the entries' type, for the functions that walk tables.
-/// Owns nothing: the typed list or the caller disposes of entries.
+///
+/// Most lists hold one entry: that one is allocated alone and is all that the list points to. A second entry brings
+/// a head with the index, and blocks of room for entries.
 class VYR_EXPORT c_list_base {
 public:
-    std::size_t size() const { return m_entries.size(); }
-    void* entry(std::size_t index) const { return m_entries[index]; }
-    /// Makes room for one more entry; after it, `push` can't fail.
-    void reserve_one();
-    /// Takes an entry that the list will own.
-    void push(void* entry) { m_entries.push_back(entry); }
-    void swap(c_list_base& other) noexcept { m_entries.swap(other.m_entries); }
+    std::size_t size() const {
+        if (m_storage == 0) return 0;
+        return has_head() ? head()->size : 1;
+    }
+    /// No bounds check.
+    void* entry(std::size_t index) const { return has_head() ? head()->entries()[index] : pointer(m_storage); }
+    void swap(c_list_base& other) noexcept { std::swap(m_storage, other.m_storage); }
+
+    // All entries of a list are made and ended with the same type.
+
+    /// Puts a default entry before `index`, or at the end if `index` is at or beyond it. Leaves the list as it was
+    /// if that fails.
+    void* emplace(std::size_t index, const s_stored_type& type);
+    void* append(const s_stored_type& type) { return emplace(size(), type); }
+    /// Ends an entry and closes the gap. No bounds check.
+    void remove(std::size_t index, const s_stored_type& type) noexcept;
+    /// Ends all entries, from the back, and frees their storage.
+    void clear(const s_stored_type& type) noexcept;
 
 protected:
+    static constexpr std::size_t k_entry_alignment = 8;
+
     c_list_base() = default;
     ~c_list_base() = default;
     c_list_base(const c_list_base&) = delete;
     c_list_base& operator=(const c_list_base&) = delete;
 
-    /// Puts an entry before `index`, or at the end if `index` is at or beyond it.
-    void insert(std::size_t index, void* entry);
-    /// Takes an entry out and closes the gap; the caller disposes of it.
-    void* take(std::size_t index);
-
 private:
-    std::vector<void*> m_entries;
+    struct s_block;
+    /// Followed in memory by the index, which has an element for each place at least.
+    struct s_head {
+        std::size_t size;
+        std::size_t capacity;      ///< of the index
+        std::size_t unused_count;  ///< places at the end of the last block that never held an entry
+        std::byte* unused;
+        void* freed;      ///< a place that held one; it begins with a pointer to the next
+        s_block* blocks;  ///< the last one first
+        void* first;      ///< the place that was allocated alone
+
+        void** entries() { return reinterpret_cast<void**>(this + 1); }
+    };
+
+    static constexpr std::size_t k_first_capacity = 4;
+
+    static void* pointer(std::uintptr_t storage) { return reinterpret_cast<void*>(storage); }
+    bool has_head() const { return (m_storage & 1) != 0; }
+    s_head* head() const { return static_cast<s_head*>(pointer(m_storage - 1)); }
+
+    void reserve_index(std::size_t capacity);
+    void reserve_place(std::size_t entry_size);
+    void free_storage() noexcept;
+
+    std::uintptr_t m_storage = 0;  ///< 0, the only entry, or the head plus one
 };
 
 /// A list that owns objects of type `T`. `T` may be incomplete where only `size` and const access are used.
@@ -60,23 +94,15 @@ public:
         while (size() <= index) append();
         return (*this)[index];
     }
-    T& append() {
-        reserve_one();
-        push(new T());
-        return back();
-    }
+    T& append() { return insert(size()); }
     T& insert(std::size_t index) {
-        reserve_one();
-        T* const entry = new T();
-        c_list_base::insert(index, entry);
-        return *entry;
+        static_assert(alignof(T) <= k_entry_alignment && sizeof(T) >= sizeof(void*));
+        return *static_cast<T*>(emplace(index, k_stored_type<T>));
     }
     /// No bounds check.
-    void erase(std::size_t index) { delete static_cast<T*>(take(index)); }
+    void erase(std::size_t index) { remove(index, k_stored_type<T>); }
     /// Deletes from the back.
-    void clear() {
-        while (size() > 0) erase(size() - 1);
-    }
+    void clear() { c_list_base::clear(k_stored_type<T>); }
 };
 
 }  // namespace lmx

@@ -178,21 +178,18 @@ bool is_item_there(const s_item& item, const void* object) {
 
 void* append_default(const s_item& item, void* object) {
     auto& entries = member<c_list_base>(object, item.offset);
-    entries.reserve_one();
     switch (item.kind) {
-        case item_kind::element_list:
-            with_entry_type(item.value, [&](auto* type) {
-                using value = std::remove_pointer_t<decltype(type)>;
-                entries.push(new value());
-            });
-            break;
+        case item_kind::element_list: {
+            const s_stored_type* stored = nullptr;
+            with_entry_type(item.value,
+                            [&](auto* type) { stored = &k_stored_type<std::remove_pointer_t<decltype(type)>>; });
+            return entries.append(*stored);
+        }
         case item_kind::any:
-            entries.push(new c_any_info());
-            break;
+            return entries.append(k_stored_type<c_any_info>);
         default:
-            entries.push(item.type->operations->create());
+            return entries.append(item.type->operations->stored);
     }
-    return entries.entry(entries.size() - 1);
 }
 
 void copy(const s_class& type, void* target, const void* source) {

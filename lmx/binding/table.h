@@ -11,13 +11,13 @@
 #include <cstddef>
 #include <cstdint>
 #include <limits>
-#include <new>
 #include <span>
 #include <string>
 #include <string_view>
 #include <type_traits>
 
 #include "lmx/binding/list.h"
+#include "lmx/binding/stored_type.h"
 #include "lmx/error.h"
 #include "lmx/ns_map.h"
 #include "lmx/reader/event_map.h"
@@ -129,8 +129,9 @@ enum class content_kind : std::uint8_t {
 
 /// The operations of a class that differ by type, with the type taken away.
 struct s_operations {
+    s_stored_type stored;
     void* (*create)();
-    void (*destroy)(void* object);
+    void (*destroy)(void* object);  ///< of one that `create` or `clone` made
     void (*assign)(void* target, const void* source);
     void (*swap)(void* one, void* other);
     /// The most derived copy; null for classes without `clone`.
@@ -217,7 +218,8 @@ elmx_error marshal(const void* object, c_xml_writer& writer, const char* name) {
 
 template <class T>
 constexpr s_operations make_operations() {
-    s_operations operations{create<T>, destroy<T>, assign<T>, swap<T>, nullptr, nullptr, nullptr, marshal<T>};
+    s_operations operations{k_stored_type<T>, create<T>, destroy<T>, assign<T>, swap<T>,
+                            nullptr,          nullptr,   nullptr,    marshal<T>};
     if constexpr (requires(const T& object) { object.clone(); }) operations.clone = clone<T>;
     if constexpr (requires(T & object, c_xml_reader & r, const std::string& n) { object.unmarshal(r, n); }) {
         operations.unmarshal = unmarshal<T>;
