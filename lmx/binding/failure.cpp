@@ -92,6 +92,7 @@ std::string expected_form(const s_item& item) {
         case value_kind::binary:
             return "Base64 is expected";
         case value_kind::text:
+        case value_kind::enumerated:
         case value_kind::none:
             break;
     }
@@ -537,6 +538,8 @@ std::string written_text(const s_item& item, const void* value) {
         const auto& typed = *static_cast<const type_of_value*>(value);
         if constexpr (std::is_same_v<type_of_value, std::u16string>) {
             convert(&text, typed);
+        } else if constexpr (std::is_same_v<type_of_value, c_enumerated>) {
+            convert(&text, typed.get());
         } else if constexpr (std::is_same_v<type_of_value, c_datetime>) {
             typed.append_to(&text);
         } else if constexpr (std::is_same_v<type_of_value, c_binary>) {
@@ -581,8 +584,8 @@ s_failure describe_failure(const c_xml_writer& writer, elmx_error code, const st
         failure.path = path_of(writer.get_open_element(), written_step(*site, writer.get_open_element()), {});
         const std::string text = written_text(*site->item, site->object);
         failure.value = shown(text);
-        const bool is_text = site->item->value == value_kind::text && code == ELMX_VALUE_BAD_FORMAT;
-        failure.detail = is_text ? lost_in_text(*site->item, *static_cast<const std::u16string*>(site->object))
+        const bool is_text = kind_of(*site->item).is_text && code == ELMX_VALUE_BAD_FORMAT;
+        failure.detail = is_text ? lost_in_text(*site->item, text_in(*site->item, site->object))
                                  : allowed_value(*site->item, code, text);
         return failure;
     }

@@ -34,7 +34,7 @@ void print_element(c_xml_writer& writer, const s_item& item, const void* storage
     check_value(writer, item, storage);
     const std::string_view line_end = writer.get_line_end();
     out.append("<", item.name, ">");
-    row_of(item.value).print(out, storage);
+    kind_of(item).print(out, storage);
     out.append("</", item.name, ">", line_end);
     writer.end_piece();
 }
@@ -45,7 +45,7 @@ void print_content(c_xml_writer& writer, const s_class& type, const void* object
     if (!is_set(item, object)) return;
     const void* const storage = &member<std::byte>(object, item.offset);
     check_value(writer, item, storage);
-    row_of(item.value).print(writer.get_output(), storage);
+    kind_of(item).print(writer.get_output(), storage);
     writer.end_piece();
 }
 
@@ -119,8 +119,7 @@ elmx_error print_chosen(c_xml_writer& writer, const s_class& type, const void* o
         return report_at(writer, {&type}, ELMX_BAD_CHOICE, type.qualified_name, k_source_file, __LINE__);
     }
     if (alternative->type == nullptr) {
-        const bool is_text = alternative->value == value_kind::text;
-        print_element(writer, *alternative, is_text ? choice.object : &choice.number);
+        print_element(writer, *alternative, alternative_storage(*alternative, choice));
         return ELMX_OK;
     }
     if (choice.object == nullptr) {
@@ -152,7 +151,7 @@ void print_attributes(c_xml_writer& writer, const s_class& type, const void* obj
         check_value(writer, item, storage);
         c_output& out = writer.get_output();
         out.append(" ", item.name, "=\"");
-        row_of(item.value).print(out, storage);
+        kind_of(item).print(out, storage);
         out.append("\"");
         writer.end_piece();
     }

@@ -13,26 +13,13 @@
 namespace lmx {
 namespace {
 
-/// Repeating simple items hold texts or dates; the other types occur singly.
-template <class Action>
-void with_entry_type(value_kind kind, Action&& action) {
-    if (kind == value_kind::datetime) {
-        action(static_cast<c_datetime*>(nullptr));
-    } else {
-        action(static_cast<std::u16string*>(nullptr));
-    }
-}
-
 void copy_list(const s_item& item, void* target, const void* source) {
     const c_list_base& entries = list_of(item, source);
     for (std::size_t i = 0; i < entries.size(); ++i) {
         void* const entry = append_default(item, target);
         switch (item.kind) {
             case item_kind::element_list:
-                with_entry_type(item.value, [&](auto* type) {
-                    using value = std::remove_pointer_t<decltype(type)>;
-                    *static_cast<value*>(entry) = *static_cast<const value*>(entries.entry(i));
-                });
+                kind_of(item).assign(entry, entries.entry(i));
                 break;
             case item_kind::any:
                 *static_cast<c_any_info*>(entry) = *static_cast<const c_any_info*>(entries.entry(i));
@@ -46,15 +33,8 @@ void copy_list(const s_item& item, void* target, const void* source) {
 void copy_single(const s_item& item, void* target, const void* source) {
     if (item.kind == item_kind::marker) return;
     if ((item.use & use_copied) == 0 && !is_set(item, source)) return;
-    if (item.type != nullptr) {
-        item.type->operations->assign(&member<std::byte>(target, item.offset),
-                                      &member<std::byte>(source, item.offset));
-    } else {
-        with_value_type(item.value, [&](auto* type) {
-            using value = std::remove_pointer_t<decltype(type)>;
-            member<value>(target, item.offset) = member<value>(source, item.offset);
-        });
-    }
+    const auto assign = item.type != nullptr ? item.type->operations->assign : kind_of(item).assign;
+    assign(&member<std::byte>(target, item.offset), &member<std::byte>(source, item.offset));
     mark_set(item, target);
 }
 
@@ -68,14 +48,9 @@ void copy_choice(const s_class& type, void* target, const void* source) {
         adopt(type, *alternative, target, object);
         return;
     }
-    void* const object = choose(type, *alternative, target);
-    if (alternative->type != nullptr) {
-        alternative->type->operations->assign(object, from.object);
-    } else if (alternative->value == value_kind::text) {
-        *static_cast<std::u16string*>(object) = *static_cast<const std::u16string*>(from.object);
-    } else {
-        choice_of(type, target) = from;
-    }
+    const auto assign =
+        alternative->type != nullptr ? alternative->type->operations->assign : kind_of(*alternative).assign;
+    assign(choose(type, *alternative, target), alternative_storage(*alternative, from));
 }
 
 bool has_asked_items(std::span<const s_item> items, const void* object) {
@@ -85,78 +60,98 @@ bool has_asked_items(std::span<const s_item> items, const void* object) {
     return true;
 }
 
-/// The number of an enumerated text, from 1; 0 if it is none.
-std::int32_t literal_number(const s_facets& facets, const std::u16string& text) {
-    const auto& literals = facets.enumeration;
-    const auto literal = std::find_if(literals.begin(), literals.end(), [&](std::string_view candidate) {
-        return std::equal(candidate.begin(), candidate.end(), text.begin(), text.end(),
-                          [](char a, char16_t b) { return static_cast<char16_t>(a) == b; });
-    });
-    return literal == literals.end() ? 0 : static_cast<std::int32_t>(literal - literals.begin()) + 1;
-}
-
-template <class Number>
-elmx_error check_value(const s_facets& facets, Number value) requires(std::is_arithmetic_v<Number>) {
-    const auto number = static_cast<double>(value);
-    if (!facets.setter_skips_minimum && facets.is_below(number)) return ELMX_VALUE_BELOW_MIN;
-    if (facets.is_above(number)) return ELMX_VALUE_EXCEEDS_MAX;
-    return ELMX_OK;
-}
-
-elmx_error check_value(const s_facets& facets, const std::u16string& value) {
-    if (!facets.enumeration.empty() && literal_number(facets, value) == 0) return ELMX_VALUE_NOT_ENUMERATED;
-    if (facets.minimum_length == 0 && facets.maximum_length == s_facets{}.maximum_length) return ELMX_OK;
-    std::string text;
-    convert(&text, value);
-    if (!is_min_length_ok(text, facets.minimum_length)) return ELMX_LENGTH_TOO_SHORT;
-    return is_max_length_ok(text, facets.maximum_length) ? ELMX_OK : ELMX_LENGTH_TOO_LONG;
-}
-
-elmx_error check_value(const s_facets&, bool) { return ELMX_OK; }
-elmx_error check_value(const s_facets&, const c_datetime&) { return ELMX_OK; }
-elmx_error check_value(const s_facets&, const c_binary&) { return ELMX_OK; }
-
-/// The storage of a simple item: in the object, or in the slot of a choice, which then chooses it.
+/// The checks of a value that is set. What has no facets of its own passes.
 template <class T>
-T& simple_storage(const s_class& type, const s_item& item, void* object) {
-    if (item.kind != item_kind::alternative) return member<T>(object, item.offset);
-    void* const owned = choose(type, item, object);
-    s_choice& choice = choice_of(type, object);
-    if constexpr (std::is_same_v<T, std::u16string>)
-        return *static_cast<std::u16string*>(owned);
-    else if constexpr (std::is_same_v<T, double>)
-        return choice.number;
-    else if constexpr (std::is_same_v<T, std::int32_t>)
-        return choice.int32;
-    else if constexpr (std::is_same_v<T, std::uint32_t>)
-        return choice.uint32;
-    else
-        return member<T>(object, item.offset);
+class c_set_checks {
+public:
+    c_set_checks(const s_facets* facets, const T& value) : m_facets(facets), m_value(value) {}
+
+    bool is_valid() const { return true; }
+    const s_facets* facets() const { return m_facets; }
+    bool is_matched(const s_facets&) const { return true; }
+    bool is_enumerated(const s_facets&) const { return true; }
+    bool is_too_short(const s_facets&) const { return false; }
+    bool is_too_long(const s_facets&) const { return false; }
+    bool is_below(const s_facets& facets) const {
+        if constexpr (!k_is_number)
+            return false;
+        else
+            return !facets.setter_skips_minimum && facets.is_below(static_cast<double>(m_value));
+    }
+    bool is_above(const s_facets& facets) const {
+        if constexpr (!k_is_number)
+            return false;
+        else
+            return facets.is_above(static_cast<double>(m_value));
+    }
+
+    void store(void* target) const { *static_cast<T*>(target) = m_value; }
+
+private:
+    static constexpr bool k_is_number = std::is_arithmetic_v<T> && !std::is_same_v<T, bool>;
+
+    const s_facets* m_facets;
+    const T& m_value;
+};
+
+template <>
+class c_set_checks<std::u16string> {
+public:
+    c_set_checks(const s_facets* facets, const std::u16string& value) : m_facets(facets), m_value(value) {
+        if (facets == nullptr) return;
+        if (facets->enumerated != nullptr) m_literal = facets->enumerated->find(std::u16string_view(value));
+        const bool has_limits = facets->minimum_length > 0 || facets->maximum_length < s_facets{}.maximum_length;
+        if (has_limits) convert(&m_narrow, value);
+    }
+
+    bool is_valid() const { return true; }
+    const s_facets* facets() const { return m_facets; }
+    bool is_matched(const s_facets&) const { return true; }
+    bool is_enumerated(const s_facets& facets) const { return facets.enumerated == nullptr || m_literal != nullptr; }
+    bool is_too_short(const s_facets& facets) const { return !is_min_length_ok(m_narrow, facets.minimum_length); }
+    bool is_too_long(const s_facets& facets) const { return !is_max_length_ok(m_narrow, facets.maximum_length); }
+    bool is_below(const s_facets&) const { return false; }
+    bool is_above(const s_facets&) const { return false; }
+
+    void store(void* target) const {
+        if (m_literal != nullptr) {
+            static_cast<c_enumerated*>(target)->set(m_literal);
+        } else {
+            *static_cast<std::u16string*>(target) = m_value;
+        }
+    }
+
+private:
+    const s_facets* m_facets;
+    const std::u16string& m_value;
+    const s_enumerated_text* m_literal = nullptr;
+    std::string m_narrow;
+};
+
+void mark_value_set(const s_class& type, const s_item& item, void* object) {
+    mark_set(item, object);
+    if (item.kind == item_kind::content && type.nil_flag != k_no_flag) member<bool>(object, type.nil_flag) = false;
 }
 
 template <class T>
 elmx_error set_simple(const s_class& type, const s_item& item, void* object, const T& value) {
-    if (item.facets != nullptr) {
-        const elmx_error code = check_value(*item.facets, value);
-        if (code != ELMX_OK) return code;
-    }
-    // Choosing an alternative frees the former one, which the value may be a part of.
+    const c_set_checks<T> checked(item.facets, value);
+    const elmx_error code = first_fault(checked);
+    if (code != ELMX_OK) return code;
     if (item.kind == item_kind::alternative) {
-        T copy = value;
-        simple_storage<T>(type, item, object) = std::move(copy);
+        // Choosing an alternative frees the former one, which the value may be a part of.
+        const T copy = value;
+        c_set_checks<T>(item.facets, copy).store(place_for_value(type, item, object));
     } else {
-        simple_storage<T>(type, item, object) = value;
+        checked.store(place_for_value(type, item, object));
     }
-    mark_set(item, object);
-    if (item.kind == item_kind::content && type.nil_flag != k_no_flag) {
-        member<bool>(object, type.nil_flag) = false;
-    }
+    mark_value_set(type, item, object);
     return ELMX_OK;
 }
 
 template <class T>
 elmx_error insert_simple(const s_item& item, void* object, std::size_t index, const T& value) {
-    const elmx_error code = item.facets == nullptr ? ELMX_OK : check_value(*item.facets, value);
+    const elmx_error code = first_fault(c_set_checks<T>(item.facets, value));
     if (code == ELMX_OK) member<c_list<T>>(object, item.offset).insert(index) = value;
     return code;
 }
@@ -165,7 +160,7 @@ template <class T>
 elmx_error set_entry_value(const s_item& item, void* object, std::size_t index, const T& value) {
     auto& values = member<c_list<T>>(object, item.offset);
     if (index >= values.size()) return insert_simple(item, object, index, value);
-    const elmx_error code = item.facets == nullptr ? ELMX_OK : check_value(*item.facets, value);
+    const elmx_error code = first_fault(c_set_checks<T>(item.facets, value));
     if (code == ELMX_OK) values[index] = value;
     return code;
 }
@@ -179,17 +174,19 @@ bool is_item_there(const s_item& item, const void* object) {
 void* append_default(const s_item& item, void* object) {
     auto& entries = member<c_list_base>(object, item.offset);
     switch (item.kind) {
-        case item_kind::element_list: {
-            const s_stored_type* stored = nullptr;
-            with_entry_type(item.value,
-                            [&](auto* type) { stored = &k_stored_type<std::remove_pointer_t<decltype(type)>>; });
-            return entries.append(*stored);
-        }
+        case item_kind::element_list:
+            return entries.append(kind_of(item).stored);
         case item_kind::any:
             return entries.append(k_stored_type<c_any_info>);
         default:
             return entries.append(item.type->operations->stored);
     }
+}
+
+void* place_for_value(const s_class& type, const s_item& item, void* object) {
+    if (item.kind == item_kind::element_list) return append_default(item, object);
+    if (item.kind == item_kind::alternative) return choose(type, item, object);
+    return &member<std::byte>(object, item.offset);
 }
 
 void copy(const s_class& type, void* target, const void* source) {
@@ -219,11 +216,7 @@ void swap(const s_class& type, void* one, void* other) {
         } else if (item.type != nullptr) {
             item.type->operations->swap(&member<std::byte>(one, item.offset), &member<std::byte>(other, item.offset));
         } else if (item.kind != item_kind::marker) {
-            with_value_type(item.value, [&](auto* value) {
-                using std::swap;
-                using simple = std::remove_pointer_t<decltype(value)>;
-                swap(member<simple>(one, item.offset), member<simple>(other, item.offset));
-            });
+            kind_of(item).swap(&member<std::byte>(one, item.offset), &member<std::byte>(other, item.offset));
         }
     };
     std::for_each(type.attributes.begin(), type.attributes.end(), swap_item);
@@ -284,34 +277,31 @@ elmx_error insert_entry(const s_item& item, void* object, std::size_t index, con
     return insert_simple(item, object, index, value);
 }
 
-std::int32_t enumerated_number(const s_item& item, const std::u16string& text) {
-    return literal_number(*item.facets, text);
-}
-
 bool set_enumerated(const s_class& type, const s_item& item, void* object, std::int32_t number) {
-    const auto& literals = item.facets->enumeration;
-    if (number < 1 || static_cast<std::size_t>(number) > literals.size()) return false;
-    const std::string_view literal = literals[static_cast<std::size_t>(number - 1)];
-    set_simple(type, item, object, std::u16string(literal.begin(), literal.end()));
+    const s_enumerated_text* const text = item.facets->enumerated->find(number);
+    if (text == nullptr) return false;
+    static_cast<c_enumerated*>(place_for_value(type, item, object))->set(text);
+    mark_value_set(type, item, object);
     return true;
 }
 
 void* choose(const s_class& type, const s_item& alternative, void* object) {
     s_choice& choice = choice_of(type, object);
     const std::int32_t number = alternative_number(type, alternative);
-    const bool is_owned = alternative.type != nullptr || alternative.value == value_kind::text;
     // An adopted null is no object to hand out.
-    if (choice.chosen != number || (is_owned && choice.object == nullptr)) {
+    if (choice.chosen != number || (alternative.type != nullptr && choice.object == nullptr)) {
         release_choice(type, object);
         if (alternative.type != nullptr) {
             choice.object = alternative.type->operations->create();
-        } else if (is_owned) {
-            choice.object = new std::u16string();
+        } else {
+            const s_value_kind& kind = kind_of(alternative);
+            if (!kind.lies_in_slot) choice.object = ::operator new(kind.stored.size);
+            kind.stored.construct(alternative_storage(alternative, choice));
         }
         choice.chosen = number;
     }
     choice.is_touched = true;
-    return is_owned ? choice.object : nullptr;
+    return alternative_storage(alternative, choice);
 }
 
 void adopt(const s_class& type, const s_item& alternative, void* object, void* owned) {
@@ -328,8 +318,10 @@ void release_choice(const s_class& type, void* object) {
     if (const s_item* const alternative = chosen_row(type, choice)) {
         if (alternative->type != nullptr) {
             alternative->type->operations->destroy(choice.object);
-        } else if (alternative->value == value_kind::text) {
-            delete static_cast<std::u16string*>(choice.object);
+        } else {
+            const s_value_kind& kind = kind_of(*alternative);
+            if (kind.stored.destroy != nullptr) kind.stored.destroy(alternative_storage(*alternative, choice));
+            if (!kind.lies_in_slot) ::operator delete(choice.object);
         }
     }
     choice = {none_chosen(type), choice.is_touched, {}};
@@ -339,7 +331,13 @@ const std::u16string& chosen_text(const s_class& type, const s_item& alternative
     static const std::u16string k_empty;
     const s_choice& choice = choice_of(type, object);
     if (choice.chosen != alternative_number(type, alternative)) return k_empty;
-    return *static_cast<const std::u16string*>(choice.object);
+    return text_in(alternative, alternative_storage(alternative, choice));
+}
+
+std::int32_t chosen_number(const s_class& type, const s_item& alternative, const void* object) {
+    const s_choice& choice = choice_of(type, object);
+    if (choice.chosen != alternative_number(type, alternative)) return 0;
+    return static_cast<const c_enumerated*>(alternative_storage(alternative, choice))->number();
 }
 
 void* create_by_name(std::span<const s_factory_row> rows, int ns_id, const std::string& name) {

@@ -47,13 +47,11 @@ VYR_EXPORT elmx_error set_entry(const s_item& item, void* object, std::size_t in
 VYR_EXPORT elmx_error insert_entry(const s_item& item, void* object, std::size_t index, const std::u16string& value);
 VYR_EXPORT elmx_error insert_entry(const s_item& item, void* object, std::size_t index, const c_datetime& value);
 
-/// The number of an enumerated item's text, from 1; 0 if the text is none of the enumeration.
-VYR_EXPORT std::int32_t enumerated_number(const s_item& item, const std::u16string& text);
 /// Stores the text of a number; false, changing nothing, for a number that isn't in the enumeration.
 VYR_EXPORT bool set_enumerated(const s_class& type, const s_item& item, void* object, std::int32_t number);
 
 /// Makes an alternative the chosen one: if it isn't yet, frees the former one and starts a default object.
-/// Returns the alternative's object (null for alternatives that lie in the slot).
+/// Returns where its object or value lies.
 VYR_EXPORT void* choose(const s_class& type, const s_item& alternative, void* object);
 /// Makes an alternative the chosen one and hands over its object. If it was chosen already, the former object is
 /// not deleted: a caller may still hold it.
@@ -62,6 +60,8 @@ VYR_EXPORT void adopt(const s_class& type, const s_item& alternative, void* obje
 VYR_EXPORT void release_choice(const s_class& type, void* object);
 /// The text of an alternative; the empty text while another one, or none, is chosen.
 VYR_EXPORT const std::u16string& chosen_text(const s_class& type, const s_item& alternative, const void* object);
+/// The number of an enumerated alternative's text, from 1; 0 while it is odd, or another one, or none, is chosen.
+VYR_EXPORT std::int32_t chosen_number(const s_class& type, const s_item& alternative, const void* object);
 
 /// A new default object of the class that the rows know by that local name in the document's namespace
 /// (number 1000); null otherwise. The caller owns it.

@@ -77,18 +77,9 @@ bool has_plain_length(const s_facets& facets, const std::u16string& text) {
            text.size() <= facets.maximum_length;
 }
 
-bool is_literal(const s_facets& facets, const std::u16string& value) {
-    const auto is_value = [&](std::string_view literal) {
-        return std::equal(literal.begin(), literal.end(), value.begin(), value.end(),
-                          [](char one, char16_t other) { return static_cast<char16_t>(one) == other; });
-    };
-    return std::any_of(facets.enumeration.begin(), facets.enumeration.end(), is_value);
-}
-
 elmx_error check_text(const s_item& item, const std::u16string& value) {
     const s_facets* const facets = item.facets;
     if (facets == nullptr && item.whitespace == ELMX_WS_PRESERVE && is_plain(value)) return ELMX_OK;
-    if (facets != nullptr && is_literal(*facets, value)) return ELMX_OK;
     const bool is_lost = lost_in_text(item, value) != nullptr;
     const bool is_right = facets == nullptr || (!is_lost && has_plain_length(*facets, value));
     if (!is_right) {
@@ -165,6 +156,10 @@ elmx_error code_of_reading(const s_item& item, const void* value, std::string* s
             return ELMX_OK;
         case value_kind::text:
             return check_text(item, *static_cast<const std::u16string*>(value));
+        case value_kind::enumerated: {
+            const auto& text = *static_cast<const c_enumerated*>(value);
+            return text.number() != 0 ? ELMX_OK : check_text(item, text.get());
+        }
         case value_kind::number:
             // Any number has a form that is read.
             if (item.facets == nullptr || is_plainly_within(*item.facets, *static_cast<const double*>(value))) {
@@ -181,7 +176,7 @@ elmx_error code_of_reading(const s_item& item, const void* value, std::string* s
             break;
     }
     c_output out(*scratch);
-    row_of(item.value).print(out, value);
+    kind_of(item).print(out, value);
     out.flush();
     return check_as_read(item, *scratch);
 }

@@ -10,6 +10,7 @@
 #include <string>
 
 #include "lmx/binding/table.h"
+#include "lmx/binding/value_kinds.h"
 
 namespace lmx {
 
@@ -66,11 +67,27 @@ inline const s_item* chosen_row(const s_class& type, const s_choice& choice) {
     return number < type.elements.size() ? &type.elements[number] : nullptr;
 }
 
+/// What the storage of a text or an enumerated text says.
+inline const std::u16string& text_in(const s_item& item, const void* storage) {
+    return item.value == value_kind::enumerated ? static_cast<const c_enumerated*>(storage)->get()
+                                                : *static_cast<const std::u16string*>(storage);
+}
+
+/// Where the value or object of the chosen alternative lies.
+inline void* alternative_storage(const s_item& alternative, s_choice& choice) {
+    const bool lies_in_slot = alternative.type == nullptr && kind_of(alternative).lies_in_slot;
+    return lies_in_slot ? &choice.number : choice.object;
+}
+inline const void* alternative_storage(const s_item& alternative, const s_choice& choice) {
+    return alternative_storage(alternative, const_cast<s_choice&>(choice));
+}
+
 /// Calls `action` with an object of the C++ type of a simple value, as `static_cast<T*>(nullptr)`.
-/// This is the one place that maps a value's kind to its type.
 template <class Action>
 decltype(auto) with_value_type(value_kind kind, Action&& action) {
     switch (kind) {
+        case value_kind::enumerated:
+            return action(static_cast<c_enumerated*>(nullptr));
         case value_kind::boolean:
             return action(static_cast<bool*>(nullptr));
         case value_kind::number:
@@ -104,5 +121,9 @@ bool is_item_there(const s_item& item, const void* object);
 
 /// A new entry at the end of a repeating item; a default value or object.
 void* append_default(const s_item& item, void* object);
+
+/// Where a value that passed its checks goes: into the object, to the end of a list, or into a choice, which then
+/// chooses the alternative.
+void* place_for_value(const s_class& type, const s_item& item, void* object);
 
 }  // namespace lmx

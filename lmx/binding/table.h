@@ -16,6 +16,7 @@
 #include <string_view>
 #include <type_traits>
 
+#include "lmx/binding/enumerated.h"
 #include "lmx/binding/list.h"
 #include "lmx/binding/stored_type.h"
 #include "lmx/error.h"
@@ -36,7 +37,7 @@ struct s_class;
 struct s_document;
 
 /// Raised whenever rows change their meaning: generated code asserts the value it was made for.
-inline constexpr int k_binding_version = 1;
+inline constexpr int k_binding_version = 2;
 
 /// What an item is, and with it how it's stored.
 enum class item_kind : std::uint8_t {
@@ -54,7 +55,18 @@ enum class item_kind : std::uint8_t {
 };
 
 /// The C++ type of a simple value.
-enum class value_kind : std::uint8_t { none, text, boolean, number, int32, uint32, uint8, datetime, binary };
+enum class value_kind : std::uint8_t {
+    none,
+    text,
+    enumerated,
+    boolean,
+    number,
+    int32,
+    uint32,
+    uint8,
+    datetime,
+    binary
+};
 
 /// How an item takes part in reading, checking, writing and copying; a mask.
 enum item_use : std::uint8_t {
@@ -72,6 +84,7 @@ enum item_use : std::uint8_t {
 /// setting. The defaults mean "no such facet".
 struct s_facets {
     std::span<const std::string_view> enumeration{};  ///< ASCII texts, numbered from 1
+    const c_enumeration* enumerated = nullptr;        ///< the same as items store them
     double minimum = -std::numeric_limits<double>::infinity();
     double maximum = std::numeric_limits<double>::infinity();
     bool minimum_exclusive = false;
@@ -163,7 +176,7 @@ struct s_class {
 };
 
 /// The state of a choice or of a holder: which alternative lives, and the alternative.
-/// Numbers and booleans lie in the slot; texts and objects are owned through it.
+/// Numbers, booleans and enumerated texts lie in the slot; texts and objects are owned through it.
 struct s_choice {
     std::int32_t chosen;
     bool is_touched;  ///< raised with every choice: the present flag of a class that is a holder itself
@@ -234,6 +247,8 @@ template <class Member>
 constexpr value_kind value_kind_of() {
     if constexpr (std::is_same_v<Member, std::u16string>)
         return value_kind::text;
+    else if constexpr (std::is_same_v<Member, c_enumerated>)
+        return value_kind::enumerated;
     else if constexpr (std::is_same_v<Member, bool>)
         return value_kind::boolean;
     else if constexpr (std::is_same_v<Member, double>)

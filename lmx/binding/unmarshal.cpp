@@ -9,7 +9,6 @@
 #include "lmx/binding/object.h"
 #include "lmx/binding/open_element.h"
 #include "lmx/binding/storage.h"
-#include "lmx/values/unicode.h"
 
 namespace lmx {
 namespace {
@@ -48,125 +47,21 @@ const s_item* find_token(std::span<const s_item> items, int token) {
     return item == items.end() ? nullptr : &*item;
 }
 
-// Values: the text to check and store is always the reader's value work string.
-
-/// `*has_zone` is set for a valid dateTime that names a time zone.
-bool is_lexically_valid(value_kind kind, const std::string& text, bool* has_zone) {
-    switch (kind) {
-        case value_kind::boolean:
-            return is_valid_bool(text);
-        case value_kind::number:
-            return is_valid_float(text);
-        case value_kind::int32:
-        case value_kind::uint32:
-        case value_kind::uint8:
-            return is_valid_integer(text);
-        case value_kind::datetime:
-            return c_datetime::is_valid(text, has_zone);
-        case value_kind::binary:
-            return c_binary::is_valid_base64(text);
-        case value_kind::text:
-        case value_kind::none:
-            break;
-    }
-    return true;
-}
-
-/// The checks that look at the text, in the order in which they report. `let_pass` gets the code of each that fails
-/// and says whether to go on; false if it ended them. `*has_zone` is set as by the lexical check.
-template <class LetPass>
-bool check_text(const s_item& item, const std::string& text, LetPass&& let_pass, bool* has_zone) {
-    const bool is_valid = is_lexically_valid(item.value, text, has_zone);
-    if (!is_valid && !let_pass(ELMX_VALUE_BAD_FORMAT, __LINE__)) return false;
-    if (item.facets == nullptr) return true;
-    const s_facets& facets = *item.facets;
-    // The pattern engine is quadratic on texts that fail the check above. It gives up on long ones, which counts as a
-    // match; so do they here, at a length that costs nothing yet.
-    constexpr std::size_t longest_odd_text = 128;
-    const bool is_matched = facets.pattern == nullptr || (*has_zone && facets.pattern_takes_zoned) ||
-                            (!is_valid && text.size() > longest_odd_text);
-    if (!is_matched && !facets.pattern->is_match(text) && !let_pass(ELMX_NO_PATTERN_MATCHED, __LINE__)) return false;
-    if (!facets.enumeration.empty() &&
-        std::find(facets.enumeration.begin(), facets.enumeration.end(), text) == facets.enumeration.end() &&
-        !let_pass(ELMX_VALUE_NOT_ENUMERATED, __LINE__)) {
-        return false;
-    }
-    if (!is_min_length_ok(text, facets.minimum_length) && !let_pass(ELMX_LENGTH_TOO_SHORT, __LINE__)) return false;
-    if (!is_max_length_ok(text, facets.maximum_length) && !let_pass(ELMX_LENGTH_TOO_LONG, __LINE__)) return false;
-    // Integers are compared as text, so that one of any length gets the right verdict.
-    if (facets.minimum_integer != nullptr) {
-        const bool is_below =
-            facets.minimum_exclusive ? text <= *facets.minimum_integer : text < *facets.minimum_integer;
-        if (is_below && !let_pass(ELMX_VALUE_BELOW_MIN, __LINE__)) return false;
-    }
-    if (facets.maximum_integer != nullptr) {
-        const bool is_above =
-            facets.maximum_exclusive ? text >= *facets.maximum_integer : text > *facets.maximum_integer;
-        if (is_above && !let_pass(ELMX_VALUE_EXCEEDS_MAX, __LINE__)) return false;
-    }
-    return true;
-}
-
-/// The same for the number that the text stands for.
-template <class LetPass>
-bool check_number(const s_item& item, double number, LetPass&& let_pass) {
-    if (item.facets == nullptr) return true;
-    if (item.facets->is_below(number) && !let_pass(ELMX_VALUE_BELOW_MIN, __LINE__)) return false;
-    return !item.facets->is_above(number) || let_pass(ELMX_VALUE_EXCEEDS_MAX, __LINE__);
-}
-
-/// Where a checked value goes: into the object, to the end of a list, or into the slot of a choice.
-void* locate(const s_class& type, const s_item& item, void* object) {
-    if (item.kind == item_kind::element_list) return append_default(item, object);
-    if (item.kind != item_kind::alternative) return &member<std::byte>(object, item.offset);
-    void* const owned = choose(type, item, object);
-    return owned != nullptr ? owned : &choice_of(type, object).number;
-}
-
 /// Checks the text, converts it, stores it and raises the flag. A swallowed failure stores all the same.
+/// The text is the reader's value work string.
 bool store_value(const s_class& type, const s_item& item, void* object, c_xml_reader& reader,
                  const std::string& item_name, elmx_error* error) {
-    const auto let_pass = [&](elmx_error code, int line) {
-        return goes_on(reader, {&type, &item, object}, code, item_name, error, line);
+    const s_fault_site site{&type, &item, object};
+    const s_value_kind& kind = kind_of(item);
+    s_read_value value{reader.m_value, item.facets};
+    kind.look(value);
+    const auto fault = [&](elmx_error code) {
+        if (!goes_on(reader, site, code, item_name, error, __LINE__)) return false;
+        kind.look(value);  // the handler may have mended the text
+        return true;
     };
-    bool has_zone = false;
-    const std::string& text = reader.m_value;
-    if (!check_text(item, text, let_pass, &has_zone)) return false;
-    switch (item.value) {
-        case value_kind::number: {
-            const double number = text_to_double(text);
-            if (!check_number(item, number, let_pass)) return false;
-            *static_cast<double*>(locate(type, item, object)) = number;
-            break;
-        }
-        case value_kind::boolean:
-            *static_cast<bool*>(locate(type, item, object)) = text_to_bool(text);
-            break;
-        case value_kind::int32:
-            *static_cast<std::int32_t*>(locate(type, item, object)) = text_to_int(text);
-            break;
-        case value_kind::uint32:
-            *static_cast<std::uint32_t*>(locate(type, item, object)) = text_to_unsigned(text);
-            break;
-        case value_kind::uint8:
-            *static_cast<std::uint8_t*>(locate(type, item, object)) = text_to_byte(text);
-            break;
-        case value_kind::datetime: {
-            c_datetime& value = *static_cast<c_datetime*>(locate(type, item, object));
-            value = text;
-            // An offset of zero prints as no zone, unless it is that of "Z": the value could not be read again.
-            const bool needs_zone = item.facets != nullptr && item.facets->pattern_takes_zoned;
-            if (needs_zone && has_zone && value.get_total_offset_mins() == 0) value.set_is_utc(true);
-            break;
-        }
-        case value_kind::binary:
-            static_cast<c_binary*>(locate(type, item, object))->from_base64(text);
-            break;
-        case value_kind::text:
-        case value_kind::none:
-            vtostring(*static_cast<std::u16string*>(locate(type, item, object)), text);
-            break;
-    }
+    if (!passes_checks(c_read_checks(item.value, value), fault)) return false;
+    kind.store(value, place_for_value(type, item, object));
     mark_set(item, object);
     return true;
 }
@@ -306,7 +201,7 @@ bool read_choice(const s_class& type, void* object, c_xml_reader& reader, std::s
         *error = alternative->type->operations->unmarshal(choose(type, *alternative, object), reader, *name);
         if (*error != ELMX_OK) return false;
     } else {
-        if (alternative->value == value_kind::text) choose(type, *alternative, object);
+        if (kind_of(*alternative).is_text) choose(type, *alternative, object);
         if (!read_simple_element(type, *alternative, object, reader, *name, error)) return false;
     }
     return next_element(reader, type.element_map, name, error);
@@ -398,15 +293,9 @@ elmx_error refuse_nesting(c_xml_reader& reader, const std::string& name) {
 }  // namespace
 
 elmx_error check_as_read(const s_item& item, const std::string& text) {
-    elmx_error first = ELMX_OK;
-    const auto stop = [&first](elmx_error code, int) {
-        first = code;
-        return false;
-    };
-    bool has_zone = false;
-    const bool is_valid = check_text(item, text, stop, &has_zone);
-    if (is_valid && item.value == value_kind::number) check_number(item, text_to_double(text), stop);
-    return first;
+    s_read_value value{text, item.facets};
+    kind_of(item).look(value);
+    return first_fault(c_read_checks(item.value, value));
 }
 
 elmx_error unmarshal_element(const s_class& type, void* object, c_xml_reader& reader, const std::string& name) {

@@ -20,7 +20,7 @@ namespace com_vyrgraph_v2 {
 
 using namespace lmx;  // for the tables' sake
 
-static_assert(k_binding_version == 1, "run schema/generator/generate.py");
+static_assert(k_binding_version == 2, "run schema/generator/generate.py");
 
 // DeviceFilterType
 
@@ -34,8 +34,8 @@ constexpr s_event_map k_DeviceFilterType_attributes[] = {
 constinit const s_item DeviceFilterType::k_items[] = {
     {item_kind::attribute, value_kind::text, use_optional, ELMX_WS_PRESERVE, "CustomOrPartial", attribute_CustomOrPartial,
      LMX_OFFSET(DeviceFilterType, m_CustomOrPartial, attribute, text), LMX_FLAG(DeviceFilterType, m_isset_CustomOrPartial), 0, 0, nullptr, nullptr, {}},
-    {item_kind::content, value_kind::text, use_required, ELMX_WS_PRESERVE, "", 0,
-     LMX_OFFSET(DeviceFilterType, m_DeviceFilterType, content, text), LMX_FLAG(DeviceFilterType, m_isset_DeviceFilterType), 0, 0, nullptr, &facets::DeviceFilterKind, {}},
+    {item_kind::content, value_kind::enumerated, use_required, ELMX_WS_PRESERVE, "", 0,
+     LMX_OFFSET(DeviceFilterType, m_DeviceFilterType, content, enumerated), LMX_FLAG(DeviceFilterType, m_isset_DeviceFilterType), 0, 0, nullptr, &facets::DeviceFilterKind, {}},
 };
 constinit const s_class DeviceFilterType::k_class = {
     .name = "DeviceFilterType",
@@ -71,7 +71,6 @@ lmx::elmx_error DeviceFilterType::unmarshal_attributes_check(lmx::c_xml_reader& 
 bool DeviceFilterType::unmarshal_body(lmx::c_xml_reader& reader, std::string* name, lmx::elmx_error* error, bool has_body) { return lmx::unmarshal_content(k_class, this, reader, name, error, has_body); }
 lmx::elmx_error DeviceFilterType::set_CustomOrPartial(const std::u16string& value) { return lmx::set_item(k_class, k_items[item_CustomOrPartial], this, value); }
 lmx::elmx_error DeviceFilterType::set_DeviceFilterType(const std::u16string& value) { return lmx::set_item(k_class, k_items[item_DeviceFilterType], this, value); }
-Eenum_DeviceFilterType DeviceFilterType::getenum_DeviceFilterType() const { return static_cast<Eenum_DeviceFilterType>(lmx::enumerated_number(k_items[item_DeviceFilterType], get_DeviceFilterType())); }
 bool DeviceFilterType::setenum_DeviceFilterType(std::int32_t number) { return lmx::set_enumerated(k_class, k_items[item_DeviceFilterType], this, number); }
 
 // DeviceFilter
@@ -274,8 +273,8 @@ constexpr s_event_map k_SpectrumType_attributes[] = {
 constinit const s_item SpectrumType::k_items[] = {
     {item_kind::attribute, value_kind::text, use_optional, ELMX_WS_PRESERVE, "CustomTypeName", attribute_CustomTypeName,
      LMX_OFFSET(SpectrumType, m_CustomTypeName, attribute, text), LMX_FLAG(SpectrumType, m_isset_CustomTypeName), 0, 0, nullptr, nullptr, {}},
-    {item_kind::content, value_kind::text, use_required, ELMX_WS_PRESERVE, "", 0,
-     LMX_OFFSET(SpectrumType, m_SpectrumType, content, text), LMX_FLAG(SpectrumType, m_isset_SpectrumType), 0, 0, nullptr, &facets::SpectrumKind, {}},
+    {item_kind::content, value_kind::enumerated, use_required, ELMX_WS_PRESERVE, "", 0,
+     LMX_OFFSET(SpectrumType, m_SpectrumType, content, enumerated), LMX_FLAG(SpectrumType, m_isset_SpectrumType), 0, 0, nullptr, &facets::SpectrumKind, {}},
 };
 constinit const s_class SpectrumType::k_class = {
     .name = "SpectrumType",
@@ -311,7 +310,6 @@ lmx::elmx_error SpectrumType::unmarshal_attributes_check(lmx::c_xml_reader& read
 bool SpectrumType::unmarshal_body(lmx::c_xml_reader& reader, std::string* name, lmx::elmx_error* error, bool has_body) { return lmx::unmarshal_content(k_class, this, reader, name, error, has_body); }
 lmx::elmx_error SpectrumType::set_CustomTypeName(const std::u16string& value) { return lmx::set_item(k_class, k_items[item_CustomTypeName], this, value); }
 lmx::elmx_error SpectrumType::set_SpectrumType(const std::u16string& value) { return lmx::set_item(k_class, k_items[item_SpectrumType], this, value); }
-Eenum_SpectrumType SpectrumType::getenum_SpectrumType() const { return static_cast<Eenum_SpectrumType>(lmx::enumerated_number(k_items[item_SpectrumType], get_SpectrumType())); }
 bool SpectrumType::setenum_SpectrumType(std::int32_t number) { return lmx::set_enumerated(k_class, k_items[item_SpectrumType], this, number); }
 
 // ColorSpaceSpecificationSpectrumType
@@ -384,10 +382,10 @@ constexpr s_event_map k_ColorSpaceSpecificationEmissiveType_elements[] = {
 }  // namespace
 
 constinit const s_item ColorSpaceSpecificationEmissiveType::k_items[] = {
-    {item_kind::element, value_kind::text, use_required, ELMX_WS_PRESERVE, "Vyr:EmissiveType", element_EmissiveType,
-     LMX_OFFSET(ColorSpaceSpecificationEmissiveType, m_EmissiveType, element, text), LMX_FLAG(ColorSpaceSpecificationEmissiveType, m_isset_EmissiveType), position_of(k_ColorSpaceSpecificationEmissiveType_elements, element_EmissiveType), position_of(k_ColorSpaceSpecificationEmissiveType_elements, element_EmissiveType, 1), nullptr, &facets::EmissiveKind, {}},
-    {item_kind::element, value_kind::text, use_required, ELMX_WS_PRESERVE, "Vyr:EmissiveMode", element_EmissiveMode,
-     LMX_OFFSET(ColorSpaceSpecificationEmissiveType, m_EmissiveMode, element, text), LMX_FLAG(ColorSpaceSpecificationEmissiveType, m_isset_EmissiveMode), position_of(k_ColorSpaceSpecificationEmissiveType_elements, element_EmissiveMode), position_of(k_ColorSpaceSpecificationEmissiveType_elements, element_EmissiveMode, 1), nullptr, &facets::EmissiveModeKind, {}},
+    {item_kind::element, value_kind::enumerated, use_required, ELMX_WS_PRESERVE, "Vyr:EmissiveType", element_EmissiveType,
+     LMX_OFFSET(ColorSpaceSpecificationEmissiveType, m_EmissiveType, element, enumerated), LMX_FLAG(ColorSpaceSpecificationEmissiveType, m_isset_EmissiveType), position_of(k_ColorSpaceSpecificationEmissiveType_elements, element_EmissiveType), position_of(k_ColorSpaceSpecificationEmissiveType_elements, element_EmissiveType, 1), nullptr, &facets::EmissiveKind, {}},
+    {item_kind::element, value_kind::enumerated, use_required, ELMX_WS_PRESERVE, "Vyr:EmissiveMode", element_EmissiveMode,
+     LMX_OFFSET(ColorSpaceSpecificationEmissiveType, m_EmissiveMode, element, enumerated), LMX_FLAG(ColorSpaceSpecificationEmissiveType, m_isset_EmissiveMode), position_of(k_ColorSpaceSpecificationEmissiveType_elements, element_EmissiveMode), position_of(k_ColorSpaceSpecificationEmissiveType_elements, element_EmissiveMode, 1), nullptr, &facets::EmissiveModeKind, {}},
 };
 constinit const s_factory_row ColorSpaceSpecificationEmissiveType::k_factory[] = {
     {"ColorSpaceSpecificationEmissiveType", &ColorSpaceSpecificationEmissiveType::k_class},
@@ -434,10 +432,8 @@ const char* ColorSpaceSpecificationEmissiveType::getid() const { return id; }
 bool ColorSpaceSpecificationEmissiveType::has_id(const char* identity) const { return identity == id || ColorSpaceSpecificationType::has_id(identity); }
 ColorSpaceSpecificationEmissiveType* ColorSpaceSpecificationEmissiveType::factory(int ns_id, const std::string& name) { return static_cast<ColorSpaceSpecificationEmissiveType*>(lmx::create_by_name(k_factory, ns_id, name)); }
 lmx::elmx_error ColorSpaceSpecificationEmissiveType::set_EmissiveType(const std::u16string& value) { return lmx::set_item(k_class, k_items[item_EmissiveType], this, value); }
-Eenum_EmissiveType ColorSpaceSpecificationEmissiveType::getenum_EmissiveType() const { return static_cast<Eenum_EmissiveType>(lmx::enumerated_number(k_items[item_EmissiveType], get_EmissiveType())); }
 bool ColorSpaceSpecificationEmissiveType::setenum_EmissiveType(std::int32_t number) { return lmx::set_enumerated(k_class, k_items[item_EmissiveType], this, number); }
 lmx::elmx_error ColorSpaceSpecificationEmissiveType::set_EmissiveMode(const std::u16string& value) { return lmx::set_item(k_class, k_items[item_EmissiveMode], this, value); }
-Eenum_EmissiveMode ColorSpaceSpecificationEmissiveType::getenum_EmissiveMode() const { return static_cast<Eenum_EmissiveMode>(lmx::enumerated_number(k_items[item_EmissiveMode], get_EmissiveMode())); }
 bool ColorSpaceSpecificationEmissiveType::setenum_EmissiveMode(std::int32_t number) { return lmx::set_enumerated(k_class, k_items[item_EmissiveMode], this, number); }
 
 // GeometryChoiceType
@@ -453,7 +449,7 @@ constexpr s_event_map k_GeometryChoiceType_elements[] = {
 }  // namespace
 
 constinit const s_item GeometryChoiceType::k_items[] = {
-    {item_kind::alternative, value_kind::text, use_optional, ELMX_WS_PRESERVE, "Vyr:SphereGeometry", element_SphereGeometry,
+    {item_kind::alternative, value_kind::enumerated, use_optional, ELMX_WS_PRESERVE, "Vyr:SphereGeometry", element_SphereGeometry,
      0, k_no_flag, position_of(k_GeometryChoiceType_elements, element_SphereGeometry), position_of(k_GeometryChoiceType_elements, element_SphereGeometry, 1), nullptr, &facets::SphereGeometryKind, {}},
     {item_kind::alternative, value_kind::number, use_optional, ELMX_WS_COLLAPSE, "Vyr:Angle", element_Angle,
      0, k_no_flag, position_of(k_GeometryChoiceType_elements, element_Angle), position_of(k_GeometryChoiceType_elements, element_Angle, 1), nullptr, nullptr, {}},
@@ -496,7 +492,7 @@ lmx::elmx_error GeometryChoiceType::unmarshal_attributes_check(lmx::c_xml_reader
 bool GeometryChoiceType::unmarshal_body(lmx::c_xml_reader& reader, std::string* name, lmx::elmx_error* error) { return lmx::unmarshal_body(k_class, this, reader, name, error); }
 const std::u16string& GeometryChoiceType::get_SphereGeometry() const { return lmx::chosen_text(k_class, k_items[item_SphereGeometry], this); }
 lmx::elmx_error GeometryChoiceType::set_SphereGeometry(const std::u16string& value) { return lmx::set_item(k_class, k_items[item_SphereGeometry], this, value); }
-Eenum_SphereGeometry GeometryChoiceType::getenum_SphereGeometry() const { return static_cast<Eenum_SphereGeometry>(lmx::enumerated_number(k_items[item_SphereGeometry], get_SphereGeometry())); }
+Eenum_SphereGeometry GeometryChoiceType::getenum_SphereGeometry() const { return static_cast<Eenum_SphereGeometry>(lmx::chosen_number(k_class, k_items[item_SphereGeometry], this)); }
 bool GeometryChoiceType::setenum_SphereGeometry(std::int32_t number) { return lmx::set_enumerated(k_class, k_items[item_SphereGeometry], this, number); }
 lmx::elmx_error GeometryChoiceType::set_Angle(double value) { return lmx::set_item(k_class, k_items[item_Angle], this, value); }
 const std::u16string& GeometryChoiceType::get_UnknownGeometry() const { return lmx::chosen_text(k_class, k_items[item_UnknownGeometry], this); }
@@ -587,14 +583,14 @@ constinit const s_item ColorSpaceSpecificationSpectrumGenericType::k_items[] = {
      LMX_OFFSET(ColorSpaceSpecificationSpectrumGenericType, m_GeometryChoice, child, none), LMX_FLAG(ColorSpaceSpecificationSpectrumGenericType, m_isset_GeometryChoice), position_of(k_ColorSpaceSpecificationSpectrumGenericType_elements, element_GeometryChoice), position_of(k_ColorSpaceSpecificationSpectrumGenericType_elements, element_GeometryChoice, 1), &GeometryChoiceType::k_class, nullptr, {}},
     {item_kind::child, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:IlluminationOptions", element_IlluminationOptions,
      LMX_OFFSET(ColorSpaceSpecificationSpectrumGenericType, m_IlluminationOptions, child, none), LMX_FLAG(ColorSpaceSpecificationSpectrumGenericType, m_isset_IlluminationOptions), position_of(k_ColorSpaceSpecificationSpectrumGenericType_elements, element_IlluminationOptions), position_of(k_ColorSpaceSpecificationSpectrumGenericType_elements, element_IlluminationOptions, 1), &IlluminationOptionsType::k_class, nullptr, {}},
-    {item_kind::element, value_kind::text, use_optional, ELMX_WS_PRESERVE, "Vyr:FieldOfView", element_FieldOfView,
-     LMX_OFFSET(ColorSpaceSpecificationSpectrumGenericType, m_FieldOfView, element, text), LMX_FLAG(ColorSpaceSpecificationSpectrumGenericType, m_isset_FieldOfView), position_of(k_ColorSpaceSpecificationSpectrumGenericType_elements, element_FieldOfView), position_of(k_ColorSpaceSpecificationSpectrumGenericType_elements, element_FieldOfView, 1), nullptr, &facets::ObserverKind, {}},
-    {item_kind::element, value_kind::text, use_optional, ELMX_WS_PRESERVE, "Vyr:ASTM_Table", element_ASTM_Table,
-     LMX_OFFSET(ColorSpaceSpecificationSpectrumGenericType, m_ASTM_Table, element, text), LMX_FLAG(ColorSpaceSpecificationSpectrumGenericType, m_isset_ASTM_Table), position_of(k_ColorSpaceSpecificationSpectrumGenericType_elements, element_ASTM_Table), position_of(k_ColorSpaceSpecificationSpectrumGenericType_elements, element_ASTM_Table, 1), nullptr, &facets::AstmTableKind, {}},
+    {item_kind::element, value_kind::enumerated, use_optional, ELMX_WS_PRESERVE, "Vyr:FieldOfView", element_FieldOfView,
+     LMX_OFFSET(ColorSpaceSpecificationSpectrumGenericType, m_FieldOfView, element, enumerated), LMX_FLAG(ColorSpaceSpecificationSpectrumGenericType, m_isset_FieldOfView), position_of(k_ColorSpaceSpecificationSpectrumGenericType_elements, element_FieldOfView), position_of(k_ColorSpaceSpecificationSpectrumGenericType_elements, element_FieldOfView, 1), nullptr, &facets::ObserverKind, {}},
+    {item_kind::element, value_kind::enumerated, use_optional, ELMX_WS_PRESERVE, "Vyr:ASTM_Table", element_ASTM_Table,
+     LMX_OFFSET(ColorSpaceSpecificationSpectrumGenericType, m_ASTM_Table, element, enumerated), LMX_FLAG(ColorSpaceSpecificationSpectrumGenericType, m_isset_ASTM_Table), position_of(k_ColorSpaceSpecificationSpectrumGenericType_elements, element_ASTM_Table), position_of(k_ColorSpaceSpecificationSpectrumGenericType_elements, element_ASTM_Table, 1), nullptr, &facets::AstmTableKind, {}},
     {item_kind::element, value_kind::number, use_optional, ELMX_WS_COLLAPSE, "Vyr:Gamma", element_Gamma,
      LMX_OFFSET(ColorSpaceSpecificationSpectrumGenericType, m_Gamma, element, number), LMX_FLAG(ColorSpaceSpecificationSpectrumGenericType, m_isset_Gamma), position_of(k_ColorSpaceSpecificationSpectrumGenericType_elements, element_Gamma), position_of(k_ColorSpaceSpecificationSpectrumGenericType_elements, element_Gamma, 1), nullptr, nullptr, {}},
-    {item_kind::element, value_kind::text, use_optional, ELMX_WS_PRESERVE, "Vyr:DensityStatus", element_DensityStatus,
-     LMX_OFFSET(ColorSpaceSpecificationSpectrumGenericType, m_DensityStatus, element, text), LMX_FLAG(ColorSpaceSpecificationSpectrumGenericType, m_isset_DensityStatus), position_of(k_ColorSpaceSpecificationSpectrumGenericType_elements, element_DensityStatus), position_of(k_ColorSpaceSpecificationSpectrumGenericType_elements, element_DensityStatus, 1), nullptr, &facets::DensityStatusKind, {}},
+    {item_kind::element, value_kind::enumerated, use_optional, ELMX_WS_PRESERVE, "Vyr:DensityStatus", element_DensityStatus,
+     LMX_OFFSET(ColorSpaceSpecificationSpectrumGenericType, m_DensityStatus, element, enumerated), LMX_FLAG(ColorSpaceSpecificationSpectrumGenericType, m_isset_DensityStatus), position_of(k_ColorSpaceSpecificationSpectrumGenericType_elements, element_DensityStatus), position_of(k_ColorSpaceSpecificationSpectrumGenericType_elements, element_DensityStatus, 1), nullptr, &facets::DensityStatusKind, {}},
 };
 constinit const s_class ColorSpaceSpecificationSpectrumGenericType::k_class = {
     .name = "ColorSpaceSpecificationSpectrumGenericType",
@@ -636,14 +632,11 @@ bool ColorSpaceSpecificationSpectrumGenericType::has_id(const char* identity) co
 GeometryChoiceType& ColorSpaceSpecificationSpectrumGenericType::assign_GeometryChoice(const GeometryChoiceType& value) { return get_GeometryChoice() = value; }
 IlluminationOptionsType& ColorSpaceSpecificationSpectrumGenericType::assign_IlluminationOptions(const IlluminationOptionsType& value) { return get_IlluminationOptions() = value; }
 lmx::elmx_error ColorSpaceSpecificationSpectrumGenericType::set_FieldOfView(const std::u16string& value) { return lmx::set_item(k_class, k_items[item_FieldOfView], this, value); }
-Eenum_FieldOfView ColorSpaceSpecificationSpectrumGenericType::getenum_FieldOfView() const { return static_cast<Eenum_FieldOfView>(lmx::enumerated_number(k_items[item_FieldOfView], get_FieldOfView())); }
 bool ColorSpaceSpecificationSpectrumGenericType::setenum_FieldOfView(std::int32_t number) { return lmx::set_enumerated(k_class, k_items[item_FieldOfView], this, number); }
 lmx::elmx_error ColorSpaceSpecificationSpectrumGenericType::set_ASTM_Table(const std::u16string& value) { return lmx::set_item(k_class, k_items[item_ASTM_Table], this, value); }
-Eenum_ASTM_Table ColorSpaceSpecificationSpectrumGenericType::getenum_ASTM_Table() const { return static_cast<Eenum_ASTM_Table>(lmx::enumerated_number(k_items[item_ASTM_Table], get_ASTM_Table())); }
 bool ColorSpaceSpecificationSpectrumGenericType::setenum_ASTM_Table(std::int32_t number) { return lmx::set_enumerated(k_class, k_items[item_ASTM_Table], this, number); }
 lmx::elmx_error ColorSpaceSpecificationSpectrumGenericType::set_Gamma(double value) { return lmx::set_item(k_class, k_items[item_Gamma], this, value); }
 lmx::elmx_error ColorSpaceSpecificationSpectrumGenericType::set_DensityStatus(const std::u16string& value) { return lmx::set_item(k_class, k_items[item_DensityStatus], this, value); }
-Eenum_DensityStatus ColorSpaceSpecificationSpectrumGenericType::getenum_DensityStatus() const { return static_cast<Eenum_DensityStatus>(lmx::enumerated_number(k_items[item_DensityStatus], get_DensityStatus())); }
 bool ColorSpaceSpecificationSpectrumGenericType::setenum_DensityStatus(std::int32_t number) { return lmx::set_enumerated(k_class, k_items[item_DensityStatus], this, number); }
 
 // ColorSpaceSpecificationSpectrumTristimulusType
@@ -662,12 +655,12 @@ constexpr s_event_map k_ColorSpaceSpecificationSpectrumTristimulusType_elements[
 constinit const s_item ColorSpaceSpecificationSpectrumTristimulusType::k_items[] = {
     {item_kind::child, value_kind::none, use_required, ELMX_WS_PRESERVE, "Vyr:IlluminationOptions", element_IlluminationOptions,
      LMX_OFFSET(ColorSpaceSpecificationSpectrumTristimulusType, m_IlluminationOptions, child, none), LMX_FLAG(ColorSpaceSpecificationSpectrumTristimulusType, m_isset_IlluminationOptions), position_of(k_ColorSpaceSpecificationSpectrumTristimulusType_elements, element_IlluminationOptions), position_of(k_ColorSpaceSpecificationSpectrumTristimulusType_elements, element_IlluminationOptions, 1), &IlluminationOptionsType::k_class, nullptr, {}},
-    {item_kind::element, value_kind::text, use_required, ELMX_WS_PRESERVE, "Vyr:FieldOfView", element_FieldOfView,
-     LMX_OFFSET(ColorSpaceSpecificationSpectrumTristimulusType, m_FieldOfView, element, text), LMX_FLAG(ColorSpaceSpecificationSpectrumTristimulusType, m_isset_FieldOfView), position_of(k_ColorSpaceSpecificationSpectrumTristimulusType_elements, element_FieldOfView), position_of(k_ColorSpaceSpecificationSpectrumTristimulusType_elements, element_FieldOfView, 1), nullptr, &facets::ObserverKind, {}},
+    {item_kind::element, value_kind::enumerated, use_required, ELMX_WS_PRESERVE, "Vyr:FieldOfView", element_FieldOfView,
+     LMX_OFFSET(ColorSpaceSpecificationSpectrumTristimulusType, m_FieldOfView, element, enumerated), LMX_FLAG(ColorSpaceSpecificationSpectrumTristimulusType, m_isset_FieldOfView), position_of(k_ColorSpaceSpecificationSpectrumTristimulusType_elements, element_FieldOfView), position_of(k_ColorSpaceSpecificationSpectrumTristimulusType_elements, element_FieldOfView, 1), nullptr, &facets::ObserverKind, {}},
     {item_kind::child, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:GeometryChoice", element_GeometryChoice,
      LMX_OFFSET(ColorSpaceSpecificationSpectrumTristimulusType, m_GeometryChoice, child, none), LMX_FLAG(ColorSpaceSpecificationSpectrumTristimulusType, m_isset_GeometryChoice), position_of(k_ColorSpaceSpecificationSpectrumTristimulusType_elements, element_GeometryChoice), position_of(k_ColorSpaceSpecificationSpectrumTristimulusType_elements, element_GeometryChoice, 1), &GeometryChoiceType::k_class, nullptr, {}},
-    {item_kind::element, value_kind::text, use_optional, ELMX_WS_PRESERVE, "Vyr:ASTM_Table", element_ASTM_Table,
-     LMX_OFFSET(ColorSpaceSpecificationSpectrumTristimulusType, m_ASTM_Table, element, text), LMX_FLAG(ColorSpaceSpecificationSpectrumTristimulusType, m_isset_ASTM_Table), position_of(k_ColorSpaceSpecificationSpectrumTristimulusType_elements, element_ASTM_Table), position_of(k_ColorSpaceSpecificationSpectrumTristimulusType_elements, element_ASTM_Table, 1), nullptr, &facets::AstmTableKind, {}},
+    {item_kind::element, value_kind::enumerated, use_optional, ELMX_WS_PRESERVE, "Vyr:ASTM_Table", element_ASTM_Table,
+     LMX_OFFSET(ColorSpaceSpecificationSpectrumTristimulusType, m_ASTM_Table, element, enumerated), LMX_FLAG(ColorSpaceSpecificationSpectrumTristimulusType, m_isset_ASTM_Table), position_of(k_ColorSpaceSpecificationSpectrumTristimulusType_elements, element_ASTM_Table), position_of(k_ColorSpaceSpecificationSpectrumTristimulusType_elements, element_ASTM_Table, 1), nullptr, &facets::AstmTableKind, {}},
     {item_kind::element, value_kind::number, use_optional, ELMX_WS_COLLAPSE, "Vyr:Gamma", element_Gamma,
      LMX_OFFSET(ColorSpaceSpecificationSpectrumTristimulusType, m_Gamma, element, number), LMX_FLAG(ColorSpaceSpecificationSpectrumTristimulusType, m_isset_Gamma), position_of(k_ColorSpaceSpecificationSpectrumTristimulusType_elements, element_Gamma), position_of(k_ColorSpaceSpecificationSpectrumTristimulusType_elements, element_Gamma, 1), nullptr, nullptr, {}},
 };
@@ -710,11 +703,9 @@ const char* ColorSpaceSpecificationSpectrumTristimulusType::getid() const { retu
 bool ColorSpaceSpecificationSpectrumTristimulusType::has_id(const char* identity) const { return identity == id || ColorSpaceSpecificationSpectrumType::has_id(identity); }
 IlluminationOptionsType& ColorSpaceSpecificationSpectrumTristimulusType::assign_IlluminationOptions(const IlluminationOptionsType& value) { return get_IlluminationOptions() = value; }
 lmx::elmx_error ColorSpaceSpecificationSpectrumTristimulusType::set_FieldOfView(const std::u16string& value) { return lmx::set_item(k_class, k_items[item_FieldOfView], this, value); }
-Eenum_FieldOfView ColorSpaceSpecificationSpectrumTristimulusType::getenum_FieldOfView() const { return static_cast<Eenum_FieldOfView>(lmx::enumerated_number(k_items[item_FieldOfView], get_FieldOfView())); }
 bool ColorSpaceSpecificationSpectrumTristimulusType::setenum_FieldOfView(std::int32_t number) { return lmx::set_enumerated(k_class, k_items[item_FieldOfView], this, number); }
 GeometryChoiceType& ColorSpaceSpecificationSpectrumTristimulusType::assign_GeometryChoice(const GeometryChoiceType& value) { return get_GeometryChoice() = value; }
 lmx::elmx_error ColorSpaceSpecificationSpectrumTristimulusType::set_ASTM_Table(const std::u16string& value) { return lmx::set_item(k_class, k_items[item_ASTM_Table], this, value); }
-Eenum_ASTM_Table ColorSpaceSpecificationSpectrumTristimulusType::getenum_ASTM_Table() const { return static_cast<Eenum_ASTM_Table>(lmx::enumerated_number(k_items[item_ASTM_Table], get_ASTM_Table())); }
 bool ColorSpaceSpecificationSpectrumTristimulusType::setenum_ASTM_Table(std::int32_t number) { return lmx::set_enumerated(k_class, k_items[item_ASTM_Table], this, number); }
 lmx::elmx_error ColorSpaceSpecificationSpectrumTristimulusType::set_Gamma(double value) { return lmx::set_item(k_class, k_items[item_Gamma], this, value); }
 
@@ -731,8 +722,8 @@ constexpr s_event_map k_ColorSpaceSpecificationSpectrumSpectralType_elements[] =
 constinit const s_item ColorSpaceSpecificationSpectrumSpectralType::k_items[] = {
     {item_kind::child, value_kind::none, use_required, ELMX_WS_PRESERVE, "Vyr:GeometryChoice", element_GeometryChoice,
      LMX_OFFSET(ColorSpaceSpecificationSpectrumSpectralType, m_GeometryChoice, child, none), LMX_FLAG(ColorSpaceSpecificationSpectrumSpectralType, m_isset_GeometryChoice), position_of(k_ColorSpaceSpecificationSpectrumSpectralType_elements, element_GeometryChoice), position_of(k_ColorSpaceSpecificationSpectrumSpectralType_elements, element_GeometryChoice, 1), &GeometryChoiceType::k_class, nullptr, {}},
-    {item_kind::element, value_kind::text, use_optional, ELMX_WS_PRESERVE, "Vyr:ASTM_Table", element_ASTM_Table,
-     LMX_OFFSET(ColorSpaceSpecificationSpectrumSpectralType, m_ASTM_Table, element, text), LMX_FLAG(ColorSpaceSpecificationSpectrumSpectralType, m_isset_ASTM_Table), position_of(k_ColorSpaceSpecificationSpectrumSpectralType_elements, element_ASTM_Table), position_of(k_ColorSpaceSpecificationSpectrumSpectralType_elements, element_ASTM_Table, 1), nullptr, &facets::AstmTableKind, {}},
+    {item_kind::element, value_kind::enumerated, use_optional, ELMX_WS_PRESERVE, "Vyr:ASTM_Table", element_ASTM_Table,
+     LMX_OFFSET(ColorSpaceSpecificationSpectrumSpectralType, m_ASTM_Table, element, enumerated), LMX_FLAG(ColorSpaceSpecificationSpectrumSpectralType, m_isset_ASTM_Table), position_of(k_ColorSpaceSpecificationSpectrumSpectralType_elements, element_ASTM_Table), position_of(k_ColorSpaceSpecificationSpectrumSpectralType_elements, element_ASTM_Table, 1), nullptr, &facets::AstmTableKind, {}},
 };
 constinit const s_class ColorSpaceSpecificationSpectrumSpectralType::k_class = {
     .name = "ColorSpaceSpecificationSpectrumSpectralType",
@@ -773,7 +764,6 @@ const char* ColorSpaceSpecificationSpectrumSpectralType::getid() const { return 
 bool ColorSpaceSpecificationSpectrumSpectralType::has_id(const char* identity) const { return identity == id || ColorSpaceSpecificationSpectrumType::has_id(identity); }
 GeometryChoiceType& ColorSpaceSpecificationSpectrumSpectralType::assign_GeometryChoice(const GeometryChoiceType& value) { return get_GeometryChoice() = value; }
 lmx::elmx_error ColorSpaceSpecificationSpectrumSpectralType::set_ASTM_Table(const std::u16string& value) { return lmx::set_item(k_class, k_items[item_ASTM_Table], this, value); }
-Eenum_ASTM_Table ColorSpaceSpecificationSpectrumSpectralType::getenum_ASTM_Table() const { return static_cast<Eenum_ASTM_Table>(lmx::enumerated_number(k_items[item_ASTM_Table], get_ASTM_Table())); }
 bool ColorSpaceSpecificationSpectrumSpectralType::setenum_ASTM_Table(std::int32_t number) { return lmx::set_enumerated(k_class, k_items[item_ASTM_Table], this, number); }
 
 // ColorSpaceSpecificationEmissiveGenericType
@@ -795,14 +785,14 @@ constinit const s_item ColorSpaceSpecificationEmissiveGenericType::k_items[] = {
      LMX_OFFSET(ColorSpaceSpecificationEmissiveGenericType, m_GeometryChoice, child, none), LMX_FLAG(ColorSpaceSpecificationEmissiveGenericType, m_isset_GeometryChoice), position_of(k_ColorSpaceSpecificationEmissiveGenericType_elements, element_GeometryChoice), position_of(k_ColorSpaceSpecificationEmissiveGenericType_elements, element_GeometryChoice, 1), &GeometryChoiceType::k_class, nullptr, {}},
     {item_kind::child, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:IlluminationOptions", element_IlluminationOptions,
      LMX_OFFSET(ColorSpaceSpecificationEmissiveGenericType, m_IlluminationOptions, child, none), LMX_FLAG(ColorSpaceSpecificationEmissiveGenericType, m_isset_IlluminationOptions), position_of(k_ColorSpaceSpecificationEmissiveGenericType_elements, element_IlluminationOptions), position_of(k_ColorSpaceSpecificationEmissiveGenericType_elements, element_IlluminationOptions, 1), &IlluminationOptionsType::k_class, nullptr, {}},
-    {item_kind::element, value_kind::text, use_optional, ELMX_WS_PRESERVE, "Vyr:FieldOfView", element_FieldOfView,
-     LMX_OFFSET(ColorSpaceSpecificationEmissiveGenericType, m_FieldOfView, element, text), LMX_FLAG(ColorSpaceSpecificationEmissiveGenericType, m_isset_FieldOfView), position_of(k_ColorSpaceSpecificationEmissiveGenericType_elements, element_FieldOfView), position_of(k_ColorSpaceSpecificationEmissiveGenericType_elements, element_FieldOfView, 1), nullptr, &facets::ObserverKind, {}},
-    {item_kind::element, value_kind::text, use_optional, ELMX_WS_PRESERVE, "Vyr:ASTM_Table", element_ASTM_Table,
-     LMX_OFFSET(ColorSpaceSpecificationEmissiveGenericType, m_ASTM_Table, element, text), LMX_FLAG(ColorSpaceSpecificationEmissiveGenericType, m_isset_ASTM_Table), position_of(k_ColorSpaceSpecificationEmissiveGenericType_elements, element_ASTM_Table), position_of(k_ColorSpaceSpecificationEmissiveGenericType_elements, element_ASTM_Table, 1), nullptr, &facets::AstmTableKind, {}},
+    {item_kind::element, value_kind::enumerated, use_optional, ELMX_WS_PRESERVE, "Vyr:FieldOfView", element_FieldOfView,
+     LMX_OFFSET(ColorSpaceSpecificationEmissiveGenericType, m_FieldOfView, element, enumerated), LMX_FLAG(ColorSpaceSpecificationEmissiveGenericType, m_isset_FieldOfView), position_of(k_ColorSpaceSpecificationEmissiveGenericType_elements, element_FieldOfView), position_of(k_ColorSpaceSpecificationEmissiveGenericType_elements, element_FieldOfView, 1), nullptr, &facets::ObserverKind, {}},
+    {item_kind::element, value_kind::enumerated, use_optional, ELMX_WS_PRESERVE, "Vyr:ASTM_Table", element_ASTM_Table,
+     LMX_OFFSET(ColorSpaceSpecificationEmissiveGenericType, m_ASTM_Table, element, enumerated), LMX_FLAG(ColorSpaceSpecificationEmissiveGenericType, m_isset_ASTM_Table), position_of(k_ColorSpaceSpecificationEmissiveGenericType_elements, element_ASTM_Table), position_of(k_ColorSpaceSpecificationEmissiveGenericType_elements, element_ASTM_Table, 1), nullptr, &facets::AstmTableKind, {}},
     {item_kind::element, value_kind::number, use_optional, ELMX_WS_COLLAPSE, "Vyr:Gamma", element_Gamma,
      LMX_OFFSET(ColorSpaceSpecificationEmissiveGenericType, m_Gamma, element, number), LMX_FLAG(ColorSpaceSpecificationEmissiveGenericType, m_isset_Gamma), position_of(k_ColorSpaceSpecificationEmissiveGenericType_elements, element_Gamma), position_of(k_ColorSpaceSpecificationEmissiveGenericType_elements, element_Gamma, 1), nullptr, nullptr, {}},
-    {item_kind::element, value_kind::text, use_optional, ELMX_WS_PRESERVE, "Vyr:DensityStatus", element_DensityStatus,
-     LMX_OFFSET(ColorSpaceSpecificationEmissiveGenericType, m_DensityStatus, element, text), LMX_FLAG(ColorSpaceSpecificationEmissiveGenericType, m_isset_DensityStatus), position_of(k_ColorSpaceSpecificationEmissiveGenericType_elements, element_DensityStatus), position_of(k_ColorSpaceSpecificationEmissiveGenericType_elements, element_DensityStatus, 1), nullptr, &facets::DensityStatusKind, {}},
+    {item_kind::element, value_kind::enumerated, use_optional, ELMX_WS_PRESERVE, "Vyr:DensityStatus", element_DensityStatus,
+     LMX_OFFSET(ColorSpaceSpecificationEmissiveGenericType, m_DensityStatus, element, enumerated), LMX_FLAG(ColorSpaceSpecificationEmissiveGenericType, m_isset_DensityStatus), position_of(k_ColorSpaceSpecificationEmissiveGenericType_elements, element_DensityStatus), position_of(k_ColorSpaceSpecificationEmissiveGenericType_elements, element_DensityStatus, 1), nullptr, &facets::DensityStatusKind, {}},
 };
 constinit const s_class ColorSpaceSpecificationEmissiveGenericType::k_class = {
     .name = "ColorSpaceSpecificationEmissiveGenericType",
@@ -844,14 +834,11 @@ bool ColorSpaceSpecificationEmissiveGenericType::has_id(const char* identity) co
 GeometryChoiceType& ColorSpaceSpecificationEmissiveGenericType::assign_GeometryChoice(const GeometryChoiceType& value) { return get_GeometryChoice() = value; }
 IlluminationOptionsType& ColorSpaceSpecificationEmissiveGenericType::assign_IlluminationOptions(const IlluminationOptionsType& value) { return get_IlluminationOptions() = value; }
 lmx::elmx_error ColorSpaceSpecificationEmissiveGenericType::set_FieldOfView(const std::u16string& value) { return lmx::set_item(k_class, k_items[item_FieldOfView], this, value); }
-Eenum_FieldOfView ColorSpaceSpecificationEmissiveGenericType::getenum_FieldOfView() const { return static_cast<Eenum_FieldOfView>(lmx::enumerated_number(k_items[item_FieldOfView], get_FieldOfView())); }
 bool ColorSpaceSpecificationEmissiveGenericType::setenum_FieldOfView(std::int32_t number) { return lmx::set_enumerated(k_class, k_items[item_FieldOfView], this, number); }
 lmx::elmx_error ColorSpaceSpecificationEmissiveGenericType::set_ASTM_Table(const std::u16string& value) { return lmx::set_item(k_class, k_items[item_ASTM_Table], this, value); }
-Eenum_ASTM_Table ColorSpaceSpecificationEmissiveGenericType::getenum_ASTM_Table() const { return static_cast<Eenum_ASTM_Table>(lmx::enumerated_number(k_items[item_ASTM_Table], get_ASTM_Table())); }
 bool ColorSpaceSpecificationEmissiveGenericType::setenum_ASTM_Table(std::int32_t number) { return lmx::set_enumerated(k_class, k_items[item_ASTM_Table], this, number); }
 lmx::elmx_error ColorSpaceSpecificationEmissiveGenericType::set_Gamma(double value) { return lmx::set_item(k_class, k_items[item_Gamma], this, value); }
 lmx::elmx_error ColorSpaceSpecificationEmissiveGenericType::set_DensityStatus(const std::u16string& value) { return lmx::set_item(k_class, k_items[item_DensityStatus], this, value); }
-Eenum_DensityStatus ColorSpaceSpecificationEmissiveGenericType::getenum_DensityStatus() const { return static_cast<Eenum_DensityStatus>(lmx::enumerated_number(k_items[item_DensityStatus], get_DensityStatus())); }
 bool ColorSpaceSpecificationEmissiveGenericType::setenum_DensityStatus(std::int32_t number) { return lmx::set_enumerated(k_class, k_items[item_DensityStatus], this, number); }
 
 // ColorSpaceSpecificationEmissiveTristimulusType
@@ -870,12 +857,12 @@ constexpr s_event_map k_ColorSpaceSpecificationEmissiveTristimulusType_elements[
 constinit const s_item ColorSpaceSpecificationEmissiveTristimulusType::k_items[] = {
     {item_kind::child, value_kind::none, use_required, ELMX_WS_PRESERVE, "Vyr:IlluminationOptions", element_IlluminationOptions,
      LMX_OFFSET(ColorSpaceSpecificationEmissiveTristimulusType, m_IlluminationOptions, child, none), LMX_FLAG(ColorSpaceSpecificationEmissiveTristimulusType, m_isset_IlluminationOptions), position_of(k_ColorSpaceSpecificationEmissiveTristimulusType_elements, element_IlluminationOptions), position_of(k_ColorSpaceSpecificationEmissiveTristimulusType_elements, element_IlluminationOptions, 1), &IlluminationOptionsType::k_class, nullptr, {}},
-    {item_kind::element, value_kind::text, use_required, ELMX_WS_PRESERVE, "Vyr:FieldOfView", element_FieldOfView,
-     LMX_OFFSET(ColorSpaceSpecificationEmissiveTristimulusType, m_FieldOfView, element, text), LMX_FLAG(ColorSpaceSpecificationEmissiveTristimulusType, m_isset_FieldOfView), position_of(k_ColorSpaceSpecificationEmissiveTristimulusType_elements, element_FieldOfView), position_of(k_ColorSpaceSpecificationEmissiveTristimulusType_elements, element_FieldOfView, 1), nullptr, &facets::ObserverKind, {}},
+    {item_kind::element, value_kind::enumerated, use_required, ELMX_WS_PRESERVE, "Vyr:FieldOfView", element_FieldOfView,
+     LMX_OFFSET(ColorSpaceSpecificationEmissiveTristimulusType, m_FieldOfView, element, enumerated), LMX_FLAG(ColorSpaceSpecificationEmissiveTristimulusType, m_isset_FieldOfView), position_of(k_ColorSpaceSpecificationEmissiveTristimulusType_elements, element_FieldOfView), position_of(k_ColorSpaceSpecificationEmissiveTristimulusType_elements, element_FieldOfView, 1), nullptr, &facets::ObserverKind, {}},
     {item_kind::child, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:GeometryChoice", element_GeometryChoice,
      LMX_OFFSET(ColorSpaceSpecificationEmissiveTristimulusType, m_GeometryChoice, child, none), LMX_FLAG(ColorSpaceSpecificationEmissiveTristimulusType, m_isset_GeometryChoice), position_of(k_ColorSpaceSpecificationEmissiveTristimulusType_elements, element_GeometryChoice), position_of(k_ColorSpaceSpecificationEmissiveTristimulusType_elements, element_GeometryChoice, 1), &GeometryChoiceType::k_class, nullptr, {}},
-    {item_kind::element, value_kind::text, use_optional, ELMX_WS_PRESERVE, "Vyr:ASTM_Table", element_ASTM_Table,
-     LMX_OFFSET(ColorSpaceSpecificationEmissiveTristimulusType, m_ASTM_Table, element, text), LMX_FLAG(ColorSpaceSpecificationEmissiveTristimulusType, m_isset_ASTM_Table), position_of(k_ColorSpaceSpecificationEmissiveTristimulusType_elements, element_ASTM_Table), position_of(k_ColorSpaceSpecificationEmissiveTristimulusType_elements, element_ASTM_Table, 1), nullptr, &facets::AstmTableKind, {}},
+    {item_kind::element, value_kind::enumerated, use_optional, ELMX_WS_PRESERVE, "Vyr:ASTM_Table", element_ASTM_Table,
+     LMX_OFFSET(ColorSpaceSpecificationEmissiveTristimulusType, m_ASTM_Table, element, enumerated), LMX_FLAG(ColorSpaceSpecificationEmissiveTristimulusType, m_isset_ASTM_Table), position_of(k_ColorSpaceSpecificationEmissiveTristimulusType_elements, element_ASTM_Table), position_of(k_ColorSpaceSpecificationEmissiveTristimulusType_elements, element_ASTM_Table, 1), nullptr, &facets::AstmTableKind, {}},
     {item_kind::element, value_kind::number, use_optional, ELMX_WS_COLLAPSE, "Vyr:Gamma", element_Gamma,
      LMX_OFFSET(ColorSpaceSpecificationEmissiveTristimulusType, m_Gamma, element, number), LMX_FLAG(ColorSpaceSpecificationEmissiveTristimulusType, m_isset_Gamma), position_of(k_ColorSpaceSpecificationEmissiveTristimulusType_elements, element_Gamma), position_of(k_ColorSpaceSpecificationEmissiveTristimulusType_elements, element_Gamma, 1), nullptr, nullptr, {}},
 };
@@ -918,11 +905,9 @@ const char* ColorSpaceSpecificationEmissiveTristimulusType::getid() const { retu
 bool ColorSpaceSpecificationEmissiveTristimulusType::has_id(const char* identity) const { return identity == id || ColorSpaceSpecificationEmissiveType::has_id(identity); }
 IlluminationOptionsType& ColorSpaceSpecificationEmissiveTristimulusType::assign_IlluminationOptions(const IlluminationOptionsType& value) { return get_IlluminationOptions() = value; }
 lmx::elmx_error ColorSpaceSpecificationEmissiveTristimulusType::set_FieldOfView(const std::u16string& value) { return lmx::set_item(k_class, k_items[item_FieldOfView], this, value); }
-Eenum_FieldOfView ColorSpaceSpecificationEmissiveTristimulusType::getenum_FieldOfView() const { return static_cast<Eenum_FieldOfView>(lmx::enumerated_number(k_items[item_FieldOfView], get_FieldOfView())); }
 bool ColorSpaceSpecificationEmissiveTristimulusType::setenum_FieldOfView(std::int32_t number) { return lmx::set_enumerated(k_class, k_items[item_FieldOfView], this, number); }
 GeometryChoiceType& ColorSpaceSpecificationEmissiveTristimulusType::assign_GeometryChoice(const GeometryChoiceType& value) { return get_GeometryChoice() = value; }
 lmx::elmx_error ColorSpaceSpecificationEmissiveTristimulusType::set_ASTM_Table(const std::u16string& value) { return lmx::set_item(k_class, k_items[item_ASTM_Table], this, value); }
-Eenum_ASTM_Table ColorSpaceSpecificationEmissiveTristimulusType::getenum_ASTM_Table() const { return static_cast<Eenum_ASTM_Table>(lmx::enumerated_number(k_items[item_ASTM_Table], get_ASTM_Table())); }
 bool ColorSpaceSpecificationEmissiveTristimulusType::setenum_ASTM_Table(std::int32_t number) { return lmx::set_enumerated(k_class, k_items[item_ASTM_Table], this, number); }
 lmx::elmx_error ColorSpaceSpecificationEmissiveTristimulusType::set_Gamma(double value) { return lmx::set_item(k_class, k_items[item_Gamma], this, value); }
 
@@ -939,8 +924,8 @@ constexpr s_event_map k_ColorSpaceSpecificationEmissiveSpectralType_elements[] =
 constinit const s_item ColorSpaceSpecificationEmissiveSpectralType::k_items[] = {
     {item_kind::child, value_kind::none, use_required, ELMX_WS_PRESERVE, "Vyr:GeometryChoice", element_GeometryChoice,
      LMX_OFFSET(ColorSpaceSpecificationEmissiveSpectralType, m_GeometryChoice, child, none), LMX_FLAG(ColorSpaceSpecificationEmissiveSpectralType, m_isset_GeometryChoice), position_of(k_ColorSpaceSpecificationEmissiveSpectralType_elements, element_GeometryChoice), position_of(k_ColorSpaceSpecificationEmissiveSpectralType_elements, element_GeometryChoice, 1), &GeometryChoiceType::k_class, nullptr, {}},
-    {item_kind::element, value_kind::text, use_optional, ELMX_WS_PRESERVE, "Vyr:ASTM_Table", element_ASTM_Table,
-     LMX_OFFSET(ColorSpaceSpecificationEmissiveSpectralType, m_ASTM_Table, element, text), LMX_FLAG(ColorSpaceSpecificationEmissiveSpectralType, m_isset_ASTM_Table), position_of(k_ColorSpaceSpecificationEmissiveSpectralType_elements, element_ASTM_Table), position_of(k_ColorSpaceSpecificationEmissiveSpectralType_elements, element_ASTM_Table, 1), nullptr, &facets::AstmTableKind, {}},
+    {item_kind::element, value_kind::enumerated, use_optional, ELMX_WS_PRESERVE, "Vyr:ASTM_Table", element_ASTM_Table,
+     LMX_OFFSET(ColorSpaceSpecificationEmissiveSpectralType, m_ASTM_Table, element, enumerated), LMX_FLAG(ColorSpaceSpecificationEmissiveSpectralType, m_isset_ASTM_Table), position_of(k_ColorSpaceSpecificationEmissiveSpectralType_elements, element_ASTM_Table), position_of(k_ColorSpaceSpecificationEmissiveSpectralType_elements, element_ASTM_Table, 1), nullptr, &facets::AstmTableKind, {}},
 };
 constinit const s_class ColorSpaceSpecificationEmissiveSpectralType::k_class = {
     .name = "ColorSpaceSpecificationEmissiveSpectralType",
@@ -981,7 +966,6 @@ const char* ColorSpaceSpecificationEmissiveSpectralType::getid() const { return 
 bool ColorSpaceSpecificationEmissiveSpectralType::has_id(const char* identity) const { return identity == id || ColorSpaceSpecificationEmissiveType::has_id(identity); }
 GeometryChoiceType& ColorSpaceSpecificationEmissiveSpectralType::assign_GeometryChoice(const GeometryChoiceType& value) { return get_GeometryChoice() = value; }
 lmx::elmx_error ColorSpaceSpecificationEmissiveSpectralType::set_ASTM_Table(const std::u16string& value) { return lmx::set_item(k_class, k_items[item_ASTM_Table], this, value); }
-Eenum_ASTM_Table ColorSpaceSpecificationEmissiveSpectralType::getenum_ASTM_Table() const { return static_cast<Eenum_ASTM_Table>(lmx::enumerated_number(k_items[item_ASTM_Table], get_ASTM_Table())); }
 bool ColorSpaceSpecificationEmissiveSpectralType::setenum_ASTM_Table(std::int32_t number) { return lmx::set_enumerated(k_class, k_items[item_ASTM_Table], this, number); }
 
 // ColorSpaceSpecification
@@ -1329,8 +1313,8 @@ constexpr s_event_map k_Illuminant_attributes[] = {
 constinit const s_item Illuminant::k_items[] = {
     {item_kind::attribute, value_kind::text, use_optional, ELMX_WS_PRESERVE, "CustomName", attribute_CustomName,
      LMX_OFFSET(Illuminant, m_CustomName, attribute, text), LMX_FLAG(Illuminant, m_isset_CustomName), 0, 0, nullptr, nullptr, {}},
-    {item_kind::content, value_kind::text, use_required, ELMX_WS_PRESERVE, "", 0,
-     LMX_OFFSET(Illuminant, m_Illuminant, content, text), LMX_FLAG(Illuminant, m_isset_Illuminant), 0, 0, nullptr, &facets::IlluminantKind, {}},
+    {item_kind::content, value_kind::enumerated, use_required, ELMX_WS_PRESERVE, "", 0,
+     LMX_OFFSET(Illuminant, m_Illuminant, content, enumerated), LMX_FLAG(Illuminant, m_isset_Illuminant), 0, 0, nullptr, &facets::IlluminantKind, {}},
 };
 constinit const s_class Illuminant::k_class = {
     .name = "Illuminant",
@@ -1366,7 +1350,6 @@ lmx::elmx_error Illuminant::unmarshal_attributes_check(lmx::c_xml_reader& reader
 bool Illuminant::unmarshal_body(lmx::c_xml_reader& reader, std::string* name, lmx::elmx_error* error, bool has_body) { return lmx::unmarshal_content(k_class, this, reader, name, error, has_body); }
 lmx::elmx_error Illuminant::set_CustomName(const std::u16string& value) { return lmx::set_item(k_class, k_items[item_CustomName], this, value); }
 lmx::elmx_error Illuminant::set_Illuminant(const std::u16string& value) { return lmx::set_item(k_class, k_items[item_Illuminant], this, value); }
-Eenum_Illuminant Illuminant::getenum_Illuminant() const { return static_cast<Eenum_Illuminant>(lmx::enumerated_number(k_items[item_Illuminant], get_Illuminant())); }
 bool Illuminant::setenum_Illuminant(std::int32_t number) { return lmx::set_enumerated(k_class, k_items[item_Illuminant], this, number); }
 
 // WhitePointChromaticity

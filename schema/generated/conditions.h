@@ -49,9 +49,9 @@ public:
     void unset_CustomOrPartial() { m_isset_CustomOrPartial = false; }
 
     /// The filter.
-    const std::u16string& get_DeviceFilterType() const { return m_DeviceFilterType; }
+    const std::u16string& get_DeviceFilterType() const { return m_DeviceFilterType.get(); }
     lmx::elmx_error set_DeviceFilterType(const std::u16string& value);
-    Eenum_DeviceFilterType getenum_DeviceFilterType() const;
+    Eenum_DeviceFilterType getenum_DeviceFilterType() const { return static_cast<Eenum_DeviceFilterType>(m_DeviceFilterType.number()); }
     bool setenum_DeviceFilterType(std::int32_t number);
 
     static const lmx::s_class k_class;
@@ -70,7 +70,7 @@ private:
     };
     static const lmx::s_item k_items[];
     std::u16string m_CustomOrPartial;
-    std::u16string m_DeviceFilterType;
+    lmx::c_enumerated m_DeviceFilterType;
     bool m_isset_CustomOrPartial = false;
     bool m_isset_DeviceFilterType = false;
 };
@@ -288,9 +288,9 @@ public:
     void unset_CustomTypeName() { m_isset_CustomTypeName = false; }
 
     /// The quantity.
-    const std::u16string& get_SpectrumType() const { return m_SpectrumType; }
+    const std::u16string& get_SpectrumType() const { return m_SpectrumType.get(); }
     lmx::elmx_error set_SpectrumType(const std::u16string& value);
-    Eenum_SpectrumType getenum_SpectrumType() const;
+    Eenum_SpectrumType getenum_SpectrumType() const { return static_cast<Eenum_SpectrumType>(m_SpectrumType.number()); }
     bool setenum_SpectrumType(std::int32_t number);
 
     static const lmx::s_class k_class;
@@ -309,7 +309,7 @@ private:
     };
     static const lmx::s_item k_items[];
     std::u16string m_CustomTypeName;
-    std::u16string m_SpectrumType;
+    lmx::c_enumerated m_SpectrumType;
     bool m_isset_CustomTypeName = false;
     bool m_isset_SpectrumType = false;
 };
@@ -379,15 +379,15 @@ public:
     bool is_occurs_ok() const;
 
     /// How the light source was measured.
-    const std::u16string& get_EmissiveType() const { return m_EmissiveType; }
+    const std::u16string& get_EmissiveType() const { return m_EmissiveType.get(); }
     lmx::elmx_error set_EmissiveType(const std::u16string& value);
-    Eenum_EmissiveType getenum_EmissiveType() const;
+    Eenum_EmissiveType getenum_EmissiveType() const { return static_cast<Eenum_EmissiveType>(m_EmissiveType.number()); }
     bool setenum_EmissiveType(std::int32_t number);
 
     /// Whether a diffuser was in place.
-    const std::u16string& get_EmissiveMode() const { return m_EmissiveMode; }
+    const std::u16string& get_EmissiveMode() const { return m_EmissiveMode.get(); }
     lmx::elmx_error set_EmissiveMode(const std::u16string& value);
-    Eenum_EmissiveMode getenum_EmissiveMode() const;
+    Eenum_EmissiveMode getenum_EmissiveMode() const { return static_cast<Eenum_EmissiveMode>(m_EmissiveMode.number()); }
     bool setenum_EmissiveMode(std::int32_t number);
 
     /// The class's identity; `getid` and `has_id` work on its address.
@@ -412,8 +412,8 @@ private:
         item_EmissiveMode,
     };
     static const lmx::s_item k_items[];
-    std::u16string m_EmissiveType;
-    std::u16string m_EmissiveMode;
+    lmx::c_enumerated m_EmissiveType;
+    lmx::c_enumerated m_EmissiveMode;
     bool m_isset_EmissiveType = false;
     bool m_isset_EmissiveMode = false;
 };
@@ -565,17 +565,17 @@ public:
     void unset_IlluminationOptions() { m_isset_IlluminationOptions = false; }
 
     /// Standard observer that the value holds for.
-    const std::u16string& get_FieldOfView() const { return m_FieldOfView; }
+    const std::u16string& get_FieldOfView() const { return m_FieldOfView.get(); }
     lmx::elmx_error set_FieldOfView(const std::u16string& value);
-    Eenum_FieldOfView getenum_FieldOfView() const;
+    Eenum_FieldOfView getenum_FieldOfView() const { return static_cast<Eenum_FieldOfView>(m_FieldOfView.number()); }
     bool setenum_FieldOfView(std::int32_t number);
     bool isset_FieldOfView() const { return m_isset_FieldOfView; }
     void unset_FieldOfView() { m_isset_FieldOfView = false; }
 
     /// Weighting tables used for the tristimulus integration.
-    const std::u16string& get_ASTM_Table() const { return m_ASTM_Table; }
+    const std::u16string& get_ASTM_Table() const { return m_ASTM_Table.get(); }
     lmx::elmx_error set_ASTM_Table(const std::u16string& value);
-    Eenum_ASTM_Table getenum_ASTM_Table() const;
+    Eenum_ASTM_Table getenum_ASTM_Table() const { return static_cast<Eenum_ASTM_Table>(m_ASTM_Table.number()); }
     bool setenum_ASTM_Table(std::int32_t number);
     bool isset_ASTM_Table() const { return m_isset_ASTM_Table; }
     void unset_ASTM_Table() { m_isset_ASTM_Table = false; }
@@ -587,9 +587,9 @@ public:
     void unset_Gamma() { m_isset_Gamma = false; }
 
     /// Density status that the value was computed with.
-    const std::u16string& get_DensityStatus() const { return m_DensityStatus; }
+    const std::u16string& get_DensityStatus() const { return m_DensityStatus.get(); }
     lmx::elmx_error set_DensityStatus(const std::u16string& value);
-    Eenum_DensityStatus getenum_DensityStatus() const;
+    Eenum_DensityStatus getenum_DensityStatus() const { return static_cast<Eenum_DensityStatus>(m_DensityStatus.number()); }
     bool setenum_DensityStatus(std::int32_t number);
     bool isset_DensityStatus() const { return m_isset_DensityStatus; }
     void unset_DensityStatus() { m_isset_DensityStatus = false; }
@@ -618,10 +618,10 @@ private:
     static const lmx::s_item k_items[];
     GeometryChoiceType m_GeometryChoice;
     IlluminationOptionsType m_IlluminationOptions;
-    std::u16string m_FieldOfView;
-    std::u16string m_ASTM_Table;
+    lmx::c_enumerated m_FieldOfView;
+    lmx::c_enumerated m_ASTM_Table;
     double m_Gamma = 0;
-    std::u16string m_DensityStatus;
+    lmx::c_enumerated m_DensityStatus;
     bool m_isset_GeometryChoice = false;
     bool m_isset_IlluminationOptions = false;
     bool m_isset_FieldOfView = false;
@@ -653,9 +653,9 @@ public:
     IlluminationOptionsType& assign_IlluminationOptions(const IlluminationOptionsType& value);
 
     /// Standard observer that the value holds for.
-    const std::u16string& get_FieldOfView() const { return m_FieldOfView; }
+    const std::u16string& get_FieldOfView() const { return m_FieldOfView.get(); }
     lmx::elmx_error set_FieldOfView(const std::u16string& value);
-    Eenum_FieldOfView getenum_FieldOfView() const;
+    Eenum_FieldOfView getenum_FieldOfView() const { return static_cast<Eenum_FieldOfView>(m_FieldOfView.number()); }
     bool setenum_FieldOfView(std::int32_t number);
 
     /// Measuring geometry.
@@ -666,9 +666,9 @@ public:
     void unset_GeometryChoice() { m_isset_GeometryChoice = false; }
 
     /// Weighting tables used for the tristimulus integration.
-    const std::u16string& get_ASTM_Table() const { return m_ASTM_Table; }
+    const std::u16string& get_ASTM_Table() const { return m_ASTM_Table.get(); }
     lmx::elmx_error set_ASTM_Table(const std::u16string& value);
-    Eenum_ASTM_Table getenum_ASTM_Table() const;
+    Eenum_ASTM_Table getenum_ASTM_Table() const { return static_cast<Eenum_ASTM_Table>(m_ASTM_Table.number()); }
     bool setenum_ASTM_Table(std::int32_t number);
     bool isset_ASTM_Table() const { return m_isset_ASTM_Table; }
     void unset_ASTM_Table() { m_isset_ASTM_Table = false; }
@@ -701,9 +701,9 @@ private:
     };
     static const lmx::s_item k_items[];
     IlluminationOptionsType m_IlluminationOptions;
-    std::u16string m_FieldOfView;
+    lmx::c_enumerated m_FieldOfView;
     GeometryChoiceType m_GeometryChoice;
-    std::u16string m_ASTM_Table;
+    lmx::c_enumerated m_ASTM_Table;
     double m_Gamma = 0;
     bool m_isset_IlluminationOptions = false;
     bool m_isset_FieldOfView = false;
@@ -735,9 +735,9 @@ public:
     GeometryChoiceType& assign_GeometryChoice(const GeometryChoiceType& value);
 
     /// Weighting tables for a later tristimulus integration.
-    const std::u16string& get_ASTM_Table() const { return m_ASTM_Table; }
+    const std::u16string& get_ASTM_Table() const { return m_ASTM_Table.get(); }
     lmx::elmx_error set_ASTM_Table(const std::u16string& value);
-    Eenum_ASTM_Table getenum_ASTM_Table() const;
+    Eenum_ASTM_Table getenum_ASTM_Table() const { return static_cast<Eenum_ASTM_Table>(m_ASTM_Table.number()); }
     bool setenum_ASTM_Table(std::int32_t number);
     bool isset_ASTM_Table() const { return m_isset_ASTM_Table; }
     void unset_ASTM_Table() { m_isset_ASTM_Table = false; }
@@ -761,7 +761,7 @@ private:
     };
     static const lmx::s_item k_items[];
     GeometryChoiceType m_GeometryChoice;
-    std::u16string m_ASTM_Table;
+    lmx::c_enumerated m_ASTM_Table;
     bool m_isset_GeometryChoice = false;
     bool m_isset_ASTM_Table = false;
 };
@@ -798,17 +798,17 @@ public:
     void unset_IlluminationOptions() { m_isset_IlluminationOptions = false; }
 
     /// Standard observer that the value holds for.
-    const std::u16string& get_FieldOfView() const { return m_FieldOfView; }
+    const std::u16string& get_FieldOfView() const { return m_FieldOfView.get(); }
     lmx::elmx_error set_FieldOfView(const std::u16string& value);
-    Eenum_FieldOfView getenum_FieldOfView() const;
+    Eenum_FieldOfView getenum_FieldOfView() const { return static_cast<Eenum_FieldOfView>(m_FieldOfView.number()); }
     bool setenum_FieldOfView(std::int32_t number);
     bool isset_FieldOfView() const { return m_isset_FieldOfView; }
     void unset_FieldOfView() { m_isset_FieldOfView = false; }
 
     /// Weighting tables used for the tristimulus integration.
-    const std::u16string& get_ASTM_Table() const { return m_ASTM_Table; }
+    const std::u16string& get_ASTM_Table() const { return m_ASTM_Table.get(); }
     lmx::elmx_error set_ASTM_Table(const std::u16string& value);
-    Eenum_ASTM_Table getenum_ASTM_Table() const;
+    Eenum_ASTM_Table getenum_ASTM_Table() const { return static_cast<Eenum_ASTM_Table>(m_ASTM_Table.number()); }
     bool setenum_ASTM_Table(std::int32_t number);
     bool isset_ASTM_Table() const { return m_isset_ASTM_Table; }
     void unset_ASTM_Table() { m_isset_ASTM_Table = false; }
@@ -820,9 +820,9 @@ public:
     void unset_Gamma() { m_isset_Gamma = false; }
 
     /// Density status that the value was computed with.
-    const std::u16string& get_DensityStatus() const { return m_DensityStatus; }
+    const std::u16string& get_DensityStatus() const { return m_DensityStatus.get(); }
     lmx::elmx_error set_DensityStatus(const std::u16string& value);
-    Eenum_DensityStatus getenum_DensityStatus() const;
+    Eenum_DensityStatus getenum_DensityStatus() const { return static_cast<Eenum_DensityStatus>(m_DensityStatus.number()); }
     bool setenum_DensityStatus(std::int32_t number);
     bool isset_DensityStatus() const { return m_isset_DensityStatus; }
     void unset_DensityStatus() { m_isset_DensityStatus = false; }
@@ -851,10 +851,10 @@ private:
     static const lmx::s_item k_items[];
     GeometryChoiceType m_GeometryChoice;
     IlluminationOptionsType m_IlluminationOptions;
-    std::u16string m_FieldOfView;
-    std::u16string m_ASTM_Table;
+    lmx::c_enumerated m_FieldOfView;
+    lmx::c_enumerated m_ASTM_Table;
     double m_Gamma = 0;
-    std::u16string m_DensityStatus;
+    lmx::c_enumerated m_DensityStatus;
     bool m_isset_GeometryChoice = false;
     bool m_isset_IlluminationOptions = false;
     bool m_isset_FieldOfView = false;
@@ -886,9 +886,9 @@ public:
     IlluminationOptionsType& assign_IlluminationOptions(const IlluminationOptionsType& value);
 
     /// Standard observer that the value holds for.
-    const std::u16string& get_FieldOfView() const { return m_FieldOfView; }
+    const std::u16string& get_FieldOfView() const { return m_FieldOfView.get(); }
     lmx::elmx_error set_FieldOfView(const std::u16string& value);
-    Eenum_FieldOfView getenum_FieldOfView() const;
+    Eenum_FieldOfView getenum_FieldOfView() const { return static_cast<Eenum_FieldOfView>(m_FieldOfView.number()); }
     bool setenum_FieldOfView(std::int32_t number);
 
     /// Measuring geometry.
@@ -899,9 +899,9 @@ public:
     void unset_GeometryChoice() { m_isset_GeometryChoice = false; }
 
     /// Weighting tables used for the tristimulus integration.
-    const std::u16string& get_ASTM_Table() const { return m_ASTM_Table; }
+    const std::u16string& get_ASTM_Table() const { return m_ASTM_Table.get(); }
     lmx::elmx_error set_ASTM_Table(const std::u16string& value);
-    Eenum_ASTM_Table getenum_ASTM_Table() const;
+    Eenum_ASTM_Table getenum_ASTM_Table() const { return static_cast<Eenum_ASTM_Table>(m_ASTM_Table.number()); }
     bool setenum_ASTM_Table(std::int32_t number);
     bool isset_ASTM_Table() const { return m_isset_ASTM_Table; }
     void unset_ASTM_Table() { m_isset_ASTM_Table = false; }
@@ -934,9 +934,9 @@ private:
     };
     static const lmx::s_item k_items[];
     IlluminationOptionsType m_IlluminationOptions;
-    std::u16string m_FieldOfView;
+    lmx::c_enumerated m_FieldOfView;
     GeometryChoiceType m_GeometryChoice;
-    std::u16string m_ASTM_Table;
+    lmx::c_enumerated m_ASTM_Table;
     double m_Gamma = 0;
     bool m_isset_IlluminationOptions = false;
     bool m_isset_FieldOfView = false;
@@ -968,9 +968,9 @@ public:
     GeometryChoiceType& assign_GeometryChoice(const GeometryChoiceType& value);
 
     /// Weighting tables for a later tristimulus integration.
-    const std::u16string& get_ASTM_Table() const { return m_ASTM_Table; }
+    const std::u16string& get_ASTM_Table() const { return m_ASTM_Table.get(); }
     lmx::elmx_error set_ASTM_Table(const std::u16string& value);
-    Eenum_ASTM_Table getenum_ASTM_Table() const;
+    Eenum_ASTM_Table getenum_ASTM_Table() const { return static_cast<Eenum_ASTM_Table>(m_ASTM_Table.number()); }
     bool setenum_ASTM_Table(std::int32_t number);
     bool isset_ASTM_Table() const { return m_isset_ASTM_Table; }
     void unset_ASTM_Table() { m_isset_ASTM_Table = false; }
@@ -994,7 +994,7 @@ private:
     };
     static const lmx::s_item k_items[];
     GeometryChoiceType m_GeometryChoice;
-    std::u16string m_ASTM_Table;
+    lmx::c_enumerated m_ASTM_Table;
     bool m_isset_GeometryChoice = false;
     bool m_isset_ASTM_Table = false;
 };
@@ -1329,9 +1329,9 @@ public:
     void unset_CustomName() { m_isset_CustomName = false; }
 
     /// The illuminant.
-    const std::u16string& get_Illuminant() const { return m_Illuminant; }
+    const std::u16string& get_Illuminant() const { return m_Illuminant.get(); }
     lmx::elmx_error set_Illuminant(const std::u16string& value);
-    Eenum_Illuminant getenum_Illuminant() const;
+    Eenum_Illuminant getenum_Illuminant() const { return static_cast<Eenum_Illuminant>(m_Illuminant.number()); }
     bool setenum_Illuminant(std::int32_t number);
 
     static const lmx::s_class k_class;
@@ -1350,7 +1350,7 @@ private:
     };
     static const lmx::s_item k_items[];
     std::u16string m_CustomName;
-    std::u16string m_Illuminant;
+    lmx::c_enumerated m_Illuminant;
     bool m_isset_CustomName = false;
     bool m_isset_Illuminant = false;
 };

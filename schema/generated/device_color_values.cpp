@@ -20,7 +20,7 @@ namespace com_vyrgraph_v2 {
 
 using namespace lmx;  // for the tables' sake
 
-static_assert(k_binding_version == 1, "run schema/generator/generate.py");
+static_assert(k_binding_version == 2, "run schema/generator/generate.py");
 
 // ColorSpaceRGBType
 
@@ -53,8 +53,8 @@ constinit const s_item ColorSpaceRGBType::k_items[] = {
      LMX_OFFSET(ColorSpaceRGBType, m_Blue, element, number), LMX_FLAG(ColorSpaceRGBType, m_isset_Blue), position_of(k_ColorSpaceRGBType_elements, element_Blue), position_of(k_ColorSpaceRGBType_elements, element_Blue, 1), nullptr, &facets::Fraction, {}},
     {item_kind::element, value_kind::number, use_optional, ELMX_WS_COLLAPSE, "Vyr:Alpha", element_Alpha,
      LMX_OFFSET(ColorSpaceRGBType, m_Alpha, element, number), LMX_FLAG(ColorSpaceRGBType, m_isset_Alpha), position_of(k_ColorSpaceRGBType_elements, element_Alpha), position_of(k_ColorSpaceRGBType_elements, element_Alpha, 1), nullptr, &facets::Fraction, {}},
-    {item_kind::element, value_kind::text, use_required, ELMX_WS_PRESERVE, "Vyr:ColorDepth", element_ColorDepth,
-     LMX_OFFSET(ColorSpaceRGBType, m_ColorDepth, element, text), LMX_FLAG(ColorSpaceRGBType, m_isset_ColorDepth), position_of(k_ColorSpaceRGBType_elements, element_ColorDepth), position_of(k_ColorSpaceRGBType_elements, element_ColorDepth, 1), nullptr, &facets::ColorDepthKind, {}},
+    {item_kind::element, value_kind::enumerated, use_required, ELMX_WS_PRESERVE, "Vyr:ColorDepth", element_ColorDepth,
+     LMX_OFFSET(ColorSpaceRGBType, m_ColorDepth, element, enumerated), LMX_FLAG(ColorSpaceRGBType, m_isset_ColorDepth), position_of(k_ColorSpaceRGBType_elements, element_ColorDepth), position_of(k_ColorSpaceRGBType_elements, element_ColorDepth, 1), nullptr, &facets::ColorDepthKind, {}},
 };
 constinit const s_class ColorSpaceRGBType::k_class = {
     .name = "ColorSpaceRGBType",
@@ -100,7 +100,6 @@ lmx::elmx_error ColorSpaceRGBType::set_Green(double value) { return lmx::set_ite
 lmx::elmx_error ColorSpaceRGBType::set_Blue(double value) { return lmx::set_item(k_class, k_items[item_Blue], this, value); }
 lmx::elmx_error ColorSpaceRGBType::set_Alpha(double value) { return lmx::set_item(k_class, k_items[item_Alpha], this, value); }
 lmx::elmx_error ColorSpaceRGBType::set_ColorDepth(const std::u16string& value) { return lmx::set_item(k_class, k_items[item_ColorDepth], this, value); }
-Eenum_ColorDepth ColorSpaceRGBType::getenum_ColorDepth() const { return static_cast<Eenum_ColorDepth>(lmx::enumerated_number(k_items[item_ColorDepth], get_ColorDepth())); }
 bool ColorSpaceRGBType::setenum_ColorDepth(std::int32_t number) { return lmx::set_enumerated(k_class, k_items[item_ColorDepth], this, number); }
 
 // ColorSpaceSRGBType
@@ -134,8 +133,8 @@ constinit const s_item ColorSpaceSRGBType::k_items[] = {
      LMX_OFFSET(ColorSpaceSRGBType, m_Blue, element, number), LMX_FLAG(ColorSpaceSRGBType, m_isset_Blue), position_of(k_ColorSpaceSRGBType_elements, element_Blue), position_of(k_ColorSpaceSRGBType_elements, element_Blue, 1), nullptr, &facets::Fraction, {}},
     {item_kind::element, value_kind::number, use_optional, ELMX_WS_COLLAPSE, "Vyr:Alpha", element_Alpha,
      LMX_OFFSET(ColorSpaceSRGBType, m_Alpha, element, number), LMX_FLAG(ColorSpaceSRGBType, m_isset_Alpha), position_of(k_ColorSpaceSRGBType_elements, element_Alpha), position_of(k_ColorSpaceSRGBType_elements, element_Alpha, 1), nullptr, &facets::Fraction, {}},
-    {item_kind::element, value_kind::text, use_required, ELMX_WS_PRESERVE, "Vyr:ColorDepth", element_ColorDepth,
-     LMX_OFFSET(ColorSpaceSRGBType, m_ColorDepth, element, text), LMX_FLAG(ColorSpaceSRGBType, m_isset_ColorDepth), position_of(k_ColorSpaceSRGBType_elements, element_ColorDepth), position_of(k_ColorSpaceSRGBType_elements, element_ColorDepth, 1), nullptr, &facets::ColorDepthKind, {}},
+    {item_kind::element, value_kind::enumerated, use_required, ELMX_WS_PRESERVE, "Vyr:ColorDepth", element_ColorDepth,
+     LMX_OFFSET(ColorSpaceSRGBType, m_ColorDepth, element, enumerated), LMX_FLAG(ColorSpaceSRGBType, m_isset_ColorDepth), position_of(k_ColorSpaceSRGBType_elements, element_ColorDepth), position_of(k_ColorSpaceSRGBType_elements, element_ColorDepth, 1), nullptr, &facets::ColorDepthKind, {}},
 };
 constinit const s_class ColorSpaceSRGBType::k_class = {
     .name = "ColorSpaceSRGBType",
@@ -181,7 +180,6 @@ lmx::elmx_error ColorSpaceSRGBType::set_Green(double value) { return lmx::set_it
 lmx::elmx_error ColorSpaceSRGBType::set_Blue(double value) { return lmx::set_item(k_class, k_items[item_Blue], this, value); }
 lmx::elmx_error ColorSpaceSRGBType::set_Alpha(double value) { return lmx::set_item(k_class, k_items[item_Alpha], this, value); }
 lmx::elmx_error ColorSpaceSRGBType::set_ColorDepth(const std::u16string& value) { return lmx::set_item(k_class, k_items[item_ColorDepth], this, value); }
-Eenum_ColorDepth ColorSpaceSRGBType::getenum_ColorDepth() const { return static_cast<Eenum_ColorDepth>(lmx::enumerated_number(k_items[item_ColorDepth], get_ColorDepth())); }
 bool ColorSpaceSRGBType::setenum_ColorDepth(std::int32_t number) { return lmx::set_enumerated(k_class, k_items[item_ColorDepth], this, number); }
 
 // ColorSpaceAdobeRGBType
@@ -215,8 +213,8 @@ constinit const s_item ColorSpaceAdobeRGBType::k_items[] = {
      LMX_OFFSET(ColorSpaceAdobeRGBType, m_Blue, element, number), LMX_FLAG(ColorSpaceAdobeRGBType, m_isset_Blue), position_of(k_ColorSpaceAdobeRGBType_elements, element_Blue), position_of(k_ColorSpaceAdobeRGBType_elements, element_Blue, 1), nullptr, &facets::Fraction, {}},
     {item_kind::element, value_kind::number, use_optional, ELMX_WS_COLLAPSE, "Vyr:Alpha", element_Alpha,
      LMX_OFFSET(ColorSpaceAdobeRGBType, m_Alpha, element, number), LMX_FLAG(ColorSpaceAdobeRGBType, m_isset_Alpha), position_of(k_ColorSpaceAdobeRGBType_elements, element_Alpha), position_of(k_ColorSpaceAdobeRGBType_elements, element_Alpha, 1), nullptr, &facets::Fraction, {}},
-    {item_kind::element, value_kind::text, use_required, ELMX_WS_PRESERVE, "Vyr:ColorDepth", element_ColorDepth,
-     LMX_OFFSET(ColorSpaceAdobeRGBType, m_ColorDepth, element, text), LMX_FLAG(ColorSpaceAdobeRGBType, m_isset_ColorDepth), position_of(k_ColorSpaceAdobeRGBType_elements, element_ColorDepth), position_of(k_ColorSpaceAdobeRGBType_elements, element_ColorDepth, 1), nullptr, &facets::ColorDepthKind, {}},
+    {item_kind::element, value_kind::enumerated, use_required, ELMX_WS_PRESERVE, "Vyr:ColorDepth", element_ColorDepth,
+     LMX_OFFSET(ColorSpaceAdobeRGBType, m_ColorDepth, element, enumerated), LMX_FLAG(ColorSpaceAdobeRGBType, m_isset_ColorDepth), position_of(k_ColorSpaceAdobeRGBType_elements, element_ColorDepth), position_of(k_ColorSpaceAdobeRGBType_elements, element_ColorDepth, 1), nullptr, &facets::ColorDepthKind, {}},
 };
 constinit const s_class ColorSpaceAdobeRGBType::k_class = {
     .name = "ColorSpaceAdobeRGBType",
@@ -262,7 +260,6 @@ lmx::elmx_error ColorSpaceAdobeRGBType::set_Green(double value) { return lmx::se
 lmx::elmx_error ColorSpaceAdobeRGBType::set_Blue(double value) { return lmx::set_item(k_class, k_items[item_Blue], this, value); }
 lmx::elmx_error ColorSpaceAdobeRGBType::set_Alpha(double value) { return lmx::set_item(k_class, k_items[item_Alpha], this, value); }
 lmx::elmx_error ColorSpaceAdobeRGBType::set_ColorDepth(const std::u16string& value) { return lmx::set_item(k_class, k_items[item_ColorDepth], this, value); }
-Eenum_ColorDepth ColorSpaceAdobeRGBType::getenum_ColorDepth() const { return static_cast<Eenum_ColorDepth>(lmx::enumerated_number(k_items[item_ColorDepth], get_ColorDepth())); }
 bool ColorSpaceAdobeRGBType::setenum_ColorDepth(std::int32_t number) { return lmx::set_enumerated(k_class, k_items[item_ColorDepth], this, number); }
 
 // ColorSpaceAdobeWideGamutRGBType
@@ -296,8 +293,8 @@ constinit const s_item ColorSpaceAdobeWideGamutRGBType::k_items[] = {
      LMX_OFFSET(ColorSpaceAdobeWideGamutRGBType, m_Blue, element, number), LMX_FLAG(ColorSpaceAdobeWideGamutRGBType, m_isset_Blue), position_of(k_ColorSpaceAdobeWideGamutRGBType_elements, element_Blue), position_of(k_ColorSpaceAdobeWideGamutRGBType_elements, element_Blue, 1), nullptr, &facets::Fraction, {}},
     {item_kind::element, value_kind::number, use_optional, ELMX_WS_COLLAPSE, "Vyr:Alpha", element_Alpha,
      LMX_OFFSET(ColorSpaceAdobeWideGamutRGBType, m_Alpha, element, number), LMX_FLAG(ColorSpaceAdobeWideGamutRGBType, m_isset_Alpha), position_of(k_ColorSpaceAdobeWideGamutRGBType_elements, element_Alpha), position_of(k_ColorSpaceAdobeWideGamutRGBType_elements, element_Alpha, 1), nullptr, &facets::Fraction, {}},
-    {item_kind::element, value_kind::text, use_required, ELMX_WS_PRESERVE, "Vyr:ColorDepth", element_ColorDepth,
-     LMX_OFFSET(ColorSpaceAdobeWideGamutRGBType, m_ColorDepth, element, text), LMX_FLAG(ColorSpaceAdobeWideGamutRGBType, m_isset_ColorDepth), position_of(k_ColorSpaceAdobeWideGamutRGBType_elements, element_ColorDepth), position_of(k_ColorSpaceAdobeWideGamutRGBType_elements, element_ColorDepth, 1), nullptr, &facets::ColorDepthKind, {}},
+    {item_kind::element, value_kind::enumerated, use_required, ELMX_WS_PRESERVE, "Vyr:ColorDepth", element_ColorDepth,
+     LMX_OFFSET(ColorSpaceAdobeWideGamutRGBType, m_ColorDepth, element, enumerated), LMX_FLAG(ColorSpaceAdobeWideGamutRGBType, m_isset_ColorDepth), position_of(k_ColorSpaceAdobeWideGamutRGBType_elements, element_ColorDepth), position_of(k_ColorSpaceAdobeWideGamutRGBType_elements, element_ColorDepth, 1), nullptr, &facets::ColorDepthKind, {}},
 };
 constinit const s_class ColorSpaceAdobeWideGamutRGBType::k_class = {
     .name = "ColorSpaceAdobeWideGamutRGBType",
@@ -343,7 +340,6 @@ lmx::elmx_error ColorSpaceAdobeWideGamutRGBType::set_Green(double value) { retur
 lmx::elmx_error ColorSpaceAdobeWideGamutRGBType::set_Blue(double value) { return lmx::set_item(k_class, k_items[item_Blue], this, value); }
 lmx::elmx_error ColorSpaceAdobeWideGamutRGBType::set_Alpha(double value) { return lmx::set_item(k_class, k_items[item_Alpha], this, value); }
 lmx::elmx_error ColorSpaceAdobeWideGamutRGBType::set_ColorDepth(const std::u16string& value) { return lmx::set_item(k_class, k_items[item_ColorDepth], this, value); }
-Eenum_ColorDepth ColorSpaceAdobeWideGamutRGBType::getenum_ColorDepth() const { return static_cast<Eenum_ColorDepth>(lmx::enumerated_number(k_items[item_ColorDepth], get_ColorDepth())); }
 bool ColorSpaceAdobeWideGamutRGBType::setenum_ColorDepth(std::int32_t number) { return lmx::set_enumerated(k_class, k_items[item_ColorDepth], this, number); }
 
 // ColorSpaceCMYKType

@@ -71,9 +71,9 @@ public:
     void unset_Alpha() { m_isset_Alpha = false; }
 
     /// Bits per channel that the value was quantised to.
-    const std::u16string& get_ColorDepth() const { return m_ColorDepth; }
+    const std::u16string& get_ColorDepth() const { return m_ColorDepth.get(); }
     lmx::elmx_error set_ColorDepth(const std::u16string& value);
-    Eenum_ColorDepth getenum_ColorDepth() const;
+    Eenum_ColorDepth getenum_ColorDepth() const { return static_cast<Eenum_ColorDepth>(m_ColorDepth.number()); }
     bool setenum_ColorDepth(std::int32_t number);
 
     /// The class's identity; `getid` and `has_id` work on its address.
@@ -105,7 +105,7 @@ private:
     double m_Green = 0;
     double m_Blue = 0;
     double m_Alpha = 0;
-    std::u16string m_ColorDepth;
+    lmx::c_enumerated m_ColorDepth;
     bool m_isset_Name = false;
     bool m_isset_ColorSpaceSpecificationSpectrumTristimulus = false;
     bool m_isset_Red = false;
@@ -162,9 +162,9 @@ public:
     void unset_Alpha() { m_isset_Alpha = false; }
 
     /// Bits per channel that the value was quantised to.
-    const std::u16string& get_ColorDepth() const { return m_ColorDepth; }
+    const std::u16string& get_ColorDepth() const { return m_ColorDepth.get(); }
     lmx::elmx_error set_ColorDepth(const std::u16string& value);
-    Eenum_ColorDepth getenum_ColorDepth() const;
+    Eenum_ColorDepth getenum_ColorDepth() const { return static_cast<Eenum_ColorDepth>(m_ColorDepth.number()); }
     bool setenum_ColorDepth(std::int32_t number);
 
     /// The class's identity; `getid` and `has_id` work on its address.
@@ -196,7 +196,7 @@ private:
     double m_Green = 0;
     double m_Blue = 0;
     double m_Alpha = 0;
-    std::u16string m_ColorDepth;
+    lmx::c_enumerated m_ColorDepth;
     bool m_isset_Name = false;
     bool m_isset_ColorSpaceSpecificationSpectrumTristimulus = false;
     bool m_isset_Red = false;
@@ -253,9 +253,9 @@ public:
     void unset_Alpha() { m_isset_Alpha = false; }
 
     /// Bits per channel that the value was quantised to.
-    const std::u16string& get_ColorDepth() const { return m_ColorDepth; }
+    const std::u16string& get_ColorDepth() const { return m_ColorDepth.get(); }
     lmx::elmx_error set_ColorDepth(const std::u16string& value);
-    Eenum_ColorDepth getenum_ColorDepth() const;
+    Eenum_ColorDepth getenum_ColorDepth() const { return static_cast<Eenum_ColorDepth>(m_ColorDepth.number()); }
     bool setenum_ColorDepth(std::int32_t number);
 
     /// The class's identity; `getid` and `has_id` work on its address.
@@ -287,7 +287,7 @@ private:
     double m_Green = 0;
     double m_Blue = 0;
     double m_Alpha = 0;
-    std::u16string m_ColorDepth;
+    lmx::c_enumerated m_ColorDepth;
     bool m_isset_Name = false;
     bool m_isset_ColorSpaceSpecificationSpectrumTristimulus = false;
     bool m_isset_Red = false;
@@ -344,9 +344,9 @@ public:
     void unset_Alpha() { m_isset_Alpha = false; }
 
     /// Bits per channel that the value was quantised to.
-    const std::u16string& get_ColorDepth() const { return m_ColorDepth; }
+    const std::u16string& get_ColorDepth() const { return m_ColorDepth.get(); }
     lmx::elmx_error set_ColorDepth(const std::u16string& value);
-    Eenum_ColorDepth getenum_ColorDepth() const;
+    Eenum_ColorDepth getenum_ColorDepth() const { return static_cast<Eenum_ColorDepth>(m_ColorDepth.number()); }
     bool setenum_ColorDepth(std::int32_t number);
 
     /// The class's identity; `getid` and `has_id` work on its address.
@@ -378,7 +378,7 @@ private:
     double m_Green = 0;
     double m_Blue = 0;
     double m_Alpha = 0;
-    std::u16string m_ColorDepth;
+    lmx::c_enumerated m_ColorDepth;
     bool m_isset_Name = false;
     bool m_isset_ColorSpaceSpecificationSpectrumTristimulus = false;
     bool m_isset_Red = false;

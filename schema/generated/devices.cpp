@@ -19,7 +19,7 @@ namespace com_vyrgraph_v2 {
 
 using namespace lmx;  // for the tables' sake
 
-static_assert(k_binding_version == 1, "run schema/generator/generate.py");
+static_assert(k_binding_version == 2, "run schema/generator/generate.py");
 
 // CalibrationStateType
 
@@ -33,8 +33,8 @@ constexpr s_event_map k_CalibrationStateType_attributes[] = {
 constinit const s_item CalibrationStateType::k_items[] = {
     {item_kind::attribute, value_kind::datetime, use_optional, ELMX_WS_COLLAPSE, "CalibrationDateTime", attribute_CalibrationDateTime,
      LMX_OFFSET(CalibrationStateType, m_CalibrationDateTime, attribute, datetime), LMX_FLAG(CalibrationStateType, m_isset_CalibrationDateTime), 0, 0, nullptr, &facets::DateTimeZone, {}},
-    {item_kind::content, value_kind::text, use_required, ELMX_WS_PRESERVE, "", 0,
-     LMX_OFFSET(CalibrationStateType, m_CalibrationStateType, content, text), LMX_FLAG(CalibrationStateType, m_isset_CalibrationStateType), 0, 0, nullptr, &facets::CalibrationKind, {}},
+    {item_kind::content, value_kind::enumerated, use_required, ELMX_WS_PRESERVE, "", 0,
+     LMX_OFFSET(CalibrationStateType, m_CalibrationStateType, content, enumerated), LMX_FLAG(CalibrationStateType, m_isset_CalibrationStateType), 0, 0, nullptr, &facets::CalibrationKind, {}},
 };
 constinit const s_class CalibrationStateType::k_class = {
     .name = "CalibrationStateType",
@@ -70,7 +70,6 @@ lmx::elmx_error CalibrationStateType::unmarshal_attributes_check(lmx::c_xml_read
 bool CalibrationStateType::unmarshal_body(lmx::c_xml_reader& reader, std::string* name, lmx::elmx_error* error, bool has_body) { return lmx::unmarshal_content(k_class, this, reader, name, error, has_body); }
 lmx::elmx_error CalibrationStateType::set_CalibrationDateTime(const lmx::c_datetime& value) { return lmx::set_item(k_class, k_items[item_CalibrationDateTime], this, value); }
 lmx::elmx_error CalibrationStateType::set_CalibrationStateType(const std::u16string& value) { return lmx::set_item(k_class, k_items[item_CalibrationStateType], this, value); }
-Eenum_CalibrationStateType CalibrationStateType::getenum_CalibrationStateType() const { return static_cast<Eenum_CalibrationStateType>(lmx::enumerated_number(k_items[item_CalibrationStateType], get_CalibrationStateType())); }
 bool CalibrationStateType::setenum_CalibrationStateType(std::int32_t number) { return lmx::set_enumerated(k_class, k_items[item_CalibrationStateType], this, number); }
 
 // GlossCompensation
@@ -275,8 +274,8 @@ constinit const s_item DeviceType::k_items[] = {
      LMX_OFFSET(DeviceType, m_Model, element, text), LMX_FLAG(DeviceType, m_isset_Model), position_of(k_DeviceType_elements, element_Model), position_of(k_DeviceType_elements, element_Model, 1), nullptr, nullptr, {}},
     {item_kind::element, value_kind::text, use_required, ELMX_WS_PRESERVE, "Vyr:SerialNumber", element_SerialNumber,
      LMX_OFFSET(DeviceType, m_SerialNumber, element, text), LMX_FLAG(DeviceType, m_isset_SerialNumber), position_of(k_DeviceType_elements, element_SerialNumber), position_of(k_DeviceType_elements, element_SerialNumber, 1), nullptr, nullptr, {}},
-    {item_kind::element, value_kind::text, use_optional, ELMX_WS_PRESERVE, "Vyr:DeviceClass", element_DeviceClass,
-     LMX_OFFSET(DeviceType, m_DeviceClass, element, text), LMX_FLAG(DeviceType, m_isset_DeviceClass), position_of(k_DeviceType_elements, element_DeviceClass), position_of(k_DeviceType_elements, element_DeviceClass, 1), nullptr, &facets::DeviceClassKind, {}},
+    {item_kind::element, value_kind::enumerated, use_optional, ELMX_WS_PRESERVE, "Vyr:DeviceClass", element_DeviceClass,
+     LMX_OFFSET(DeviceType, m_DeviceClass, element, enumerated), LMX_FLAG(DeviceType, m_isset_DeviceClass), position_of(k_DeviceType_elements, element_DeviceClass), position_of(k_DeviceType_elements, element_DeviceClass, 1), nullptr, &facets::DeviceClassKind, {}},
     {item_kind::element, value_kind::text, use_optional, ELMX_WS_PRESERVE, "Vyr:FirmwareVersion", element_FirmwareVersion,
      LMX_OFFSET(DeviceType, m_FirmwareVersion, element, text), LMX_FLAG(DeviceType, m_isset_FirmwareVersion), position_of(k_DeviceType_elements, element_FirmwareVersion), position_of(k_DeviceType_elements, element_FirmwareVersion, 1), nullptr, nullptr, {}},
     {item_kind::element, value_kind::text, use_optional, ELMX_WS_PRESERVE, "Vyr:BootFirmwareVersion", element_BootFirmwareVersion,
@@ -328,7 +327,6 @@ lmx::elmx_error DeviceType::set_Manufacturer(const std::u16string& value) { retu
 lmx::elmx_error DeviceType::set_Model(const std::u16string& value) { return lmx::set_item(k_class, k_items[item_Model], this, value); }
 lmx::elmx_error DeviceType::set_SerialNumber(const std::u16string& value) { return lmx::set_item(k_class, k_items[item_SerialNumber], this, value); }
 lmx::elmx_error DeviceType::set_DeviceClass(const std::u16string& value) { return lmx::set_item(k_class, k_items[item_DeviceClass], this, value); }
-Eenum_DeviceClass DeviceType::getenum_DeviceClass() const { return static_cast<Eenum_DeviceClass>(lmx::enumerated_number(k_items[item_DeviceClass], get_DeviceClass())); }
 bool DeviceType::setenum_DeviceClass(std::int32_t number) { return lmx::set_enumerated(k_class, k_items[item_DeviceClass], this, number); }
 lmx::elmx_error DeviceType::set_FirmwareVersion(const std::u16string& value) { return lmx::set_item(k_class, k_items[item_FirmwareVersion], this, value); }
 lmx::elmx_error DeviceType::set_BootFirmwareVersion(const std::u16string& value) { return lmx::set_item(k_class, k_items[item_BootFirmwareVersion], this, value); }
@@ -404,8 +402,8 @@ constexpr s_event_map k_ProfileType_elements[] = {
 }  // namespace
 
 constinit const s_item ProfileType::k_items[] = {
-    {item_kind::attribute, value_kind::text, use_required, ELMX_WS_PRESERVE, "Direction", attribute_Direction,
-     LMX_OFFSET(ProfileType, m_Direction, attribute, text), LMX_FLAG(ProfileType, m_isset_Direction), 0, 0, nullptr, &facets::ProfileDirectionKind, {}},
+    {item_kind::attribute, value_kind::enumerated, use_required, ELMX_WS_PRESERVE, "Direction", attribute_Direction,
+     LMX_OFFSET(ProfileType, m_Direction, attribute, enumerated), LMX_FLAG(ProfileType, m_isset_Direction), 0, 0, nullptr, &facets::ProfileDirectionKind, {}},
     {item_kind::child, value_kind::none, use_required, ELMX_WS_PRESERVE, "Vyr:ProfileChoice", element_ProfileChoice,
      LMX_OFFSET(ProfileType, m_ProfileChoice, child, none), LMX_FLAG(ProfileType, m_isset_ProfileChoice), position_of(k_ProfileType_elements, element_ProfileChoice), position_of(k_ProfileType_elements, element_ProfileChoice, 1), &ProfileChoice::k_class, nullptr, {}},
     {item_kind::child_list, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:Parameters", element_Parameters,
@@ -446,7 +444,6 @@ bool ProfileType::unmarshal_attributes(lmx::c_xml_reader& reader, const std::str
 lmx::elmx_error ProfileType::unmarshal_attributes_check(lmx::c_xml_reader& reader) { return lmx::check_required_attributes(k_class, this, reader); }
 bool ProfileType::unmarshal_body(lmx::c_xml_reader& reader, std::string* name, lmx::elmx_error* error) { return lmx::unmarshal_body(k_class, this, reader, name, error); }
 lmx::elmx_error ProfileType::set_Direction(const std::u16string& value) { return lmx::set_item(k_class, k_items[item_Direction], this, value); }
-Eenum_Direction ProfileType::getenum_Direction() const { return static_cast<Eenum_Direction>(lmx::enumerated_number(k_items[item_Direction], get_Direction())); }
 bool ProfileType::setenum_Direction(std::int32_t number) { return lmx::set_enumerated(k_class, k_items[item_Direction], this, number); }
 ProfileChoice& ProfileType::assign_ProfileChoice(const ProfileChoice& value) { return get_ProfileChoice() = value; }
 ProfileType_Parameters& ProfileType::get_Parameters(std::size_t index) { return m_Parameters.grow_to(index); }

@@ -40,9 +40,9 @@ public:
     void unset_CalibrationDateTime() { m_isset_CalibrationDateTime = false; }
 
     /// State of the calibration.
-    const std::u16string& get_CalibrationStateType() const { return m_CalibrationStateType; }
+    const std::u16string& get_CalibrationStateType() const { return m_CalibrationStateType.get(); }
     lmx::elmx_error set_CalibrationStateType(const std::u16string& value);
-    Eenum_CalibrationStateType getenum_CalibrationStateType() const;
+    Eenum_CalibrationStateType getenum_CalibrationStateType() const { return static_cast<Eenum_CalibrationStateType>(m_CalibrationStateType.number()); }
     bool setenum_CalibrationStateType(std::int32_t number);
 
     static const lmx::s_class k_class;
@@ -61,7 +61,7 @@ private:
     };
     static const lmx::s_item k_items[];
     lmx::c_datetime m_CalibrationDateTime;
-    std::u16string m_CalibrationStateType;
+    lmx::c_enumerated m_CalibrationStateType;
     bool m_isset_CalibrationDateTime = false;
     bool m_isset_CalibrationStateType = false;
 };
@@ -288,9 +288,9 @@ public:
     lmx::elmx_error set_SerialNumber(const std::u16string& value);
 
     /// Kind of instrument.
-    const std::u16string& get_DeviceClass() const { return m_DeviceClass; }
+    const std::u16string& get_DeviceClass() const { return m_DeviceClass.get(); }
     lmx::elmx_error set_DeviceClass(const std::u16string& value);
-    Eenum_DeviceClass getenum_DeviceClass() const;
+    Eenum_DeviceClass getenum_DeviceClass() const { return static_cast<Eenum_DeviceClass>(m_DeviceClass.number()); }
     bool setenum_DeviceClass(std::int32_t number);
     bool isset_DeviceClass() const { return m_isset_DeviceClass; }
     void unset_DeviceClass() { m_isset_DeviceClass = false; }
@@ -347,7 +347,7 @@ private:
     std::u16string m_Manufacturer;
     std::u16string m_Model;
     std::u16string m_SerialNumber;
-    std::u16string m_DeviceClass;
+    lmx::c_enumerated m_DeviceClass;
     std::u16string m_FirmwareVersion;
     std::u16string m_BootFirmwareVersion;
     CalibrationStateType m_CalibrationState;
@@ -420,9 +420,9 @@ public:
     bool is_occurs_ok() const;
 
     /// Which way the profile converts.
-    const std::u16string& get_Direction() const { return m_Direction; }
+    const std::u16string& get_Direction() const { return m_Direction.get(); }
     lmx::elmx_error set_Direction(const std::u16string& value);
-    Eenum_Direction getenum_Direction() const;
+    Eenum_Direction getenum_Direction() const { return static_cast<Eenum_Direction>(m_Direction.number()); }
     bool setenum_Direction(std::int32_t number);
 
     /// The profile's data, or where to find it.
@@ -464,7 +464,7 @@ private:
         item_Created,
     };
     static const lmx::s_item k_items[];
-    std::u16string m_Direction;
+    lmx::c_enumerated m_Direction;
     ProfileChoice m_ProfileChoice;
     lmx::c_list<ProfileType_Parameters> m_Parameters;
     lmx::c_datetime m_Created;

@@ -20,7 +20,7 @@ namespace com_vyrgraph_v2 {
 
 using namespace lmx;  // for the tables' sake
 
-static_assert(k_binding_version == 1, "run schema/generator/generate.py");
+static_assert(k_binding_version == 2, "run schema/generator/generate.py");
 
 // FunctionType
 
@@ -675,8 +675,8 @@ constexpr s_event_map k_FunctionTolerance_elements[] = {
 }  // namespace
 
 constinit const s_item FunctionTolerance::k_items[] = {
-    {item_kind::element, value_kind::text, use_required, ELMX_WS_PRESERVE, "Vyr:ToleranceType", element_ToleranceType,
-     LMX_OFFSET(FunctionTolerance, m_ToleranceType, element, text), LMX_FLAG(FunctionTolerance, m_isset_ToleranceType), position_of(k_FunctionTolerance_elements, element_ToleranceType), position_of(k_FunctionTolerance_elements, element_ToleranceType, 1), nullptr, &facets::ToleranceFormulaKind, {}},
+    {item_kind::element, value_kind::enumerated, use_required, ELMX_WS_PRESERVE, "Vyr:ToleranceType", element_ToleranceType,
+     LMX_OFFSET(FunctionTolerance, m_ToleranceType, element, enumerated), LMX_FLAG(FunctionTolerance, m_isset_ToleranceType), position_of(k_FunctionTolerance_elements, element_ToleranceType), position_of(k_FunctionTolerance_elements, element_ToleranceType, 1), nullptr, &facets::ToleranceFormulaKind, {}},
     {item_kind::child_list, value_kind::none, use_demanded | use_asked, ELMX_WS_PRESERVE, "Vyr:Parameters", element_Parameters,
      LMX_OFFSET(FunctionTolerance, m_Parameters, child_list, none), k_no_flag, position_of(k_FunctionTolerance_elements, element_Parameters), position_of(k_FunctionTolerance_elements, element_Parameters, 1), &ToleranceParameterType::k_class, nullptr, {}},
 };
@@ -718,7 +718,6 @@ FunctionTolerance* FunctionTolerance::clone() const { return new FunctionToleran
 const char* FunctionTolerance::getid() const { return id; }
 bool FunctionTolerance::has_id(const char* identity) const { return identity == id || FunctionType::has_id(identity); }
 lmx::elmx_error FunctionTolerance::set_ToleranceType(const std::u16string& value) { return lmx::set_item(k_class, k_items[item_ToleranceType], this, value); }
-Eenum_ToleranceType FunctionTolerance::getenum_ToleranceType() const { return static_cast<Eenum_ToleranceType>(lmx::enumerated_number(k_items[item_ToleranceType], get_ToleranceType())); }
 bool FunctionTolerance::setenum_ToleranceType(std::int32_t number) { return lmx::set_enumerated(k_class, k_items[item_ToleranceType], this, number); }
 ToleranceParameterType& FunctionTolerance::get_Parameters(std::size_t index) { return m_Parameters.grow_to(index); }
 ToleranceParameterType& FunctionTolerance::assign_Parameters(std::size_t index, const ToleranceParameterType& value) { return get_Parameters(index) = value; }
@@ -741,8 +740,8 @@ constexpr s_event_map k_ToleranceParameterType_elements[] = {
 constinit const s_item ToleranceParameterType::k_items[] = {
     {item_kind::element, value_kind::number, use_optional, ELMX_WS_COLLAPSE, "Vyr:HighValue", element_HighValue,
      LMX_OFFSET(ToleranceParameterType, m_HighValue, element, number), LMX_FLAG(ToleranceParameterType, m_isset_HighValue), position_of(k_ToleranceParameterType_elements, element_HighValue), position_of(k_ToleranceParameterType_elements, element_HighValue, 1), nullptr, nullptr, {}},
-    {item_kind::element, value_kind::text, use_optional, ELMX_WS_PRESERVE, "Vyr:ToleranceParameter", element_ToleranceParameter,
-     LMX_OFFSET(ToleranceParameterType, m_ToleranceParameter, element, text), LMX_FLAG(ToleranceParameterType, m_isset_ToleranceParameter), position_of(k_ToleranceParameterType_elements, element_ToleranceParameter), position_of(k_ToleranceParameterType_elements, element_ToleranceParameter, 1), nullptr, &facets::ToleranceParameterKind, {}},
+    {item_kind::element, value_kind::enumerated, use_optional, ELMX_WS_PRESERVE, "Vyr:ToleranceParameter", element_ToleranceParameter,
+     LMX_OFFSET(ToleranceParameterType, m_ToleranceParameter, element, enumerated), LMX_FLAG(ToleranceParameterType, m_isset_ToleranceParameter), position_of(k_ToleranceParameterType_elements, element_ToleranceParameter), position_of(k_ToleranceParameterType_elements, element_ToleranceParameter, 1), nullptr, &facets::ToleranceParameterKind, {}},
     {item_kind::element, value_kind::number, use_required, ELMX_WS_COLLAPSE, "Vyr:LowValue", element_LowValue,
      LMX_OFFSET(ToleranceParameterType, m_LowValue, element, number), LMX_FLAG(ToleranceParameterType, m_isset_LowValue), position_of(k_ToleranceParameterType_elements, element_LowValue), position_of(k_ToleranceParameterType_elements, element_LowValue, 1), nullptr, nullptr, {}},
 };
@@ -780,7 +779,6 @@ lmx::elmx_error ToleranceParameterType::unmarshal_attributes_check(lmx::c_xml_re
 bool ToleranceParameterType::unmarshal_body(lmx::c_xml_reader& reader, std::string* name, lmx::elmx_error* error) { return lmx::unmarshal_body(k_class, this, reader, name, error); }
 lmx::elmx_error ToleranceParameterType::set_HighValue(double value) { return lmx::set_item(k_class, k_items[item_HighValue], this, value); }
 lmx::elmx_error ToleranceParameterType::set_ToleranceParameter(const std::u16string& value) { return lmx::set_item(k_class, k_items[item_ToleranceParameter], this, value); }
-Eenum_ToleranceParameter ToleranceParameterType::getenum_ToleranceParameter() const { return static_cast<Eenum_ToleranceParameter>(lmx::enumerated_number(k_items[item_ToleranceParameter], get_ToleranceParameter())); }
 bool ToleranceParameterType::setenum_ToleranceParameter(std::int32_t number) { return lmx::set_enumerated(k_class, k_items[item_ToleranceParameter], this, number); }
 lmx::elmx_error ToleranceParameterType::set_LowValue(double value) { return lmx::set_item(k_class, k_items[item_LowValue], this, value); }
 

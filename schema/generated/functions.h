@@ -609,9 +609,9 @@ public:
     bool is_occurs_ok() const;
 
     /// The formula.
-    const std::u16string& get_ToleranceType() const { return m_ToleranceType; }
+    const std::u16string& get_ToleranceType() const { return m_ToleranceType.get(); }
     lmx::elmx_error set_ToleranceType(const std::u16string& value);
-    Eenum_ToleranceType getenum_ToleranceType() const;
+    Eenum_ToleranceType getenum_ToleranceType() const { return static_cast<Eenum_ToleranceType>(m_ToleranceType.number()); }
     bool setenum_ToleranceType(std::int32_t number);
 
     /// Limits of one parameter.
@@ -643,7 +643,7 @@ private:
         item_Parameters,
     };
     static const lmx::s_item k_items[];
-    std::u16string m_ToleranceType;
+    lmx::c_enumerated m_ToleranceType;
     lmx::c_list<ToleranceParameterType> m_Parameters;
     bool m_isset_ToleranceType = false;
 };
@@ -668,9 +668,9 @@ public:
     void unset_HighValue() { m_isset_HighValue = false; }
 
     /// Which parameter is limited.
-    const std::u16string& get_ToleranceParameter() const { return m_ToleranceParameter; }
+    const std::u16string& get_ToleranceParameter() const { return m_ToleranceParameter.get(); }
     lmx::elmx_error set_ToleranceParameter(const std::u16string& value);
-    Eenum_ToleranceParameter getenum_ToleranceParameter() const;
+    Eenum_ToleranceParameter getenum_ToleranceParameter() const { return static_cast<Eenum_ToleranceParameter>(m_ToleranceParameter.number()); }
     bool setenum_ToleranceParameter(std::int32_t number);
     bool isset_ToleranceParameter() const { return m_isset_ToleranceParameter; }
     void unset_ToleranceParameter() { m_isset_ToleranceParameter = false; }
@@ -696,7 +696,7 @@ private:
     };
     static const lmx::s_item k_items[];
     double m_HighValue = 0;
-    std::u16string m_ToleranceParameter;
+    lmx::c_enumerated m_ToleranceParameter;
     double m_LowValue = 0;
     bool m_isset_HighValue = false;
     bool m_isset_ToleranceParameter = false;

@@ -23,7 +23,7 @@ namespace com_vyrgraph_v2 {
 
 using namespace lmx;  // for the tables' sake
 
-static_assert(k_binding_version == 1, "run schema/generator/generate.py");
+static_assert(k_binding_version == 2, "run schema/generator/generate.py");
 
 // LimitsType
 
@@ -134,14 +134,14 @@ constinit const s_item ToleranceType::k_items[] = {
      LMX_OFFSET(ToleranceType, m_Function, group, none), LMX_FLAG(ToleranceType, m_isset_Function), position_of(k_ToleranceType_elements, element_Function), position_of(k_ToleranceType_elements, element_Function, 18), &sg_Function::k_class, nullptr, {}},
     {item_kind::child, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:Limits", element_Limits,
      LMX_OFFSET(ToleranceType, m_Limits, child, none), LMX_FLAG(ToleranceType, m_isset_Limits), position_of(k_ToleranceType_elements, element_Limits), position_of(k_ToleranceType_elements, element_Limits, 1), &LimitsType::k_class, nullptr, {}},
-    {item_kind::element, value_kind::text, use_optional, ELMX_WS_PRESERVE, "Vyr:PrimaryIlluminant", element_PrimaryIlluminant,
-     LMX_OFFSET(ToleranceType, m_PrimaryIlluminant, element, text), LMX_FLAG(ToleranceType, m_isset_PrimaryIlluminant), position_of(k_ToleranceType_elements, element_PrimaryIlluminant), position_of(k_ToleranceType_elements, element_PrimaryIlluminant, 1), nullptr, &facets::IlluminantKind, {}},
-    {item_kind::element, value_kind::text, use_optional, ELMX_WS_PRESERVE, "Vyr:SecondaryIlluminant", element_SecondaryIlluminant,
-     LMX_OFFSET(ToleranceType, m_SecondaryIlluminant, element, text), LMX_FLAG(ToleranceType, m_isset_SecondaryIlluminant), position_of(k_ToleranceType_elements, element_SecondaryIlluminant), position_of(k_ToleranceType_elements, element_SecondaryIlluminant, 1), nullptr, &facets::IlluminantKind, {}},
-    {item_kind::element, value_kind::text, use_optional, ELMX_WS_PRESERVE, "Vyr:TertiaryIlluminant", element_TertiaryIlluminant,
-     LMX_OFFSET(ToleranceType, m_TertiaryIlluminant, element, text), LMX_FLAG(ToleranceType, m_isset_TertiaryIlluminant), position_of(k_ToleranceType_elements, element_TertiaryIlluminant), position_of(k_ToleranceType_elements, element_TertiaryIlluminant, 1), nullptr, &facets::IlluminantKind, {}},
-    {item_kind::element, value_kind::text, use_optional, ELMX_WS_PRESERVE, "Vyr:FieldOfView", element_FieldOfView,
-     LMX_OFFSET(ToleranceType, m_FieldOfView, element, text), LMX_FLAG(ToleranceType, m_isset_FieldOfView), position_of(k_ToleranceType_elements, element_FieldOfView), position_of(k_ToleranceType_elements, element_FieldOfView, 1), nullptr, &facets::ObserverKind, {}},
+    {item_kind::element, value_kind::enumerated, use_optional, ELMX_WS_PRESERVE, "Vyr:PrimaryIlluminant", element_PrimaryIlluminant,
+     LMX_OFFSET(ToleranceType, m_PrimaryIlluminant, element, enumerated), LMX_FLAG(ToleranceType, m_isset_PrimaryIlluminant), position_of(k_ToleranceType_elements, element_PrimaryIlluminant), position_of(k_ToleranceType_elements, element_PrimaryIlluminant, 1), nullptr, &facets::IlluminantKind, {}},
+    {item_kind::element, value_kind::enumerated, use_optional, ELMX_WS_PRESERVE, "Vyr:SecondaryIlluminant", element_SecondaryIlluminant,
+     LMX_OFFSET(ToleranceType, m_SecondaryIlluminant, element, enumerated), LMX_FLAG(ToleranceType, m_isset_SecondaryIlluminant), position_of(k_ToleranceType_elements, element_SecondaryIlluminant), position_of(k_ToleranceType_elements, element_SecondaryIlluminant, 1), nullptr, &facets::IlluminantKind, {}},
+    {item_kind::element, value_kind::enumerated, use_optional, ELMX_WS_PRESERVE, "Vyr:TertiaryIlluminant", element_TertiaryIlluminant,
+     LMX_OFFSET(ToleranceType, m_TertiaryIlluminant, element, enumerated), LMX_FLAG(ToleranceType, m_isset_TertiaryIlluminant), position_of(k_ToleranceType_elements, element_TertiaryIlluminant), position_of(k_ToleranceType_elements, element_TertiaryIlluminant, 1), nullptr, &facets::IlluminantKind, {}},
+    {item_kind::element, value_kind::enumerated, use_optional, ELMX_WS_PRESERVE, "Vyr:FieldOfView", element_FieldOfView,
+     LMX_OFFSET(ToleranceType, m_FieldOfView, element, enumerated), LMX_FLAG(ToleranceType, m_isset_FieldOfView), position_of(k_ToleranceType_elements, element_FieldOfView), position_of(k_ToleranceType_elements, element_FieldOfView, 1), nullptr, &facets::ObserverKind, {}},
     {item_kind::element, value_kind::number, use_optional, ELMX_WS_COLLAPSE, "Vyr:WarningLevel", element_WarningLevel,
      LMX_OFFSET(ToleranceType, m_WarningLevel, element, number), LMX_FLAG(ToleranceType, m_isset_WarningLevel), position_of(k_ToleranceType_elements, element_WarningLevel), position_of(k_ToleranceType_elements, element_WarningLevel, 1), nullptr, nullptr, {}},
     {item_kind::element, value_kind::text, use_optional, ELMX_WS_PRESERVE, "Vyr:UniqueID", element_UniqueID,
@@ -193,16 +193,12 @@ void ToleranceType::clear_CustomAttribute() { m_CustomAttribute.clear(); }
 sg_Function& ToleranceType::assign_Function(const sg_Function& value) { return get_Function() = value; }
 LimitsType& ToleranceType::assign_Limits(const LimitsType& value) { return get_Limits() = value; }
 lmx::elmx_error ToleranceType::set_PrimaryIlluminant(const std::u16string& value) { return lmx::set_item(k_class, k_items[item_PrimaryIlluminant], this, value); }
-Eenum_PrimaryIlluminant ToleranceType::getenum_PrimaryIlluminant() const { return static_cast<Eenum_PrimaryIlluminant>(lmx::enumerated_number(k_items[item_PrimaryIlluminant], get_PrimaryIlluminant())); }
 bool ToleranceType::setenum_PrimaryIlluminant(std::int32_t number) { return lmx::set_enumerated(k_class, k_items[item_PrimaryIlluminant], this, number); }
 lmx::elmx_error ToleranceType::set_SecondaryIlluminant(const std::u16string& value) { return lmx::set_item(k_class, k_items[item_SecondaryIlluminant], this, value); }
-Eenum_SecondaryIlluminant ToleranceType::getenum_SecondaryIlluminant() const { return static_cast<Eenum_SecondaryIlluminant>(lmx::enumerated_number(k_items[item_SecondaryIlluminant], get_SecondaryIlluminant())); }
 bool ToleranceType::setenum_SecondaryIlluminant(std::int32_t number) { return lmx::set_enumerated(k_class, k_items[item_SecondaryIlluminant], this, number); }
 lmx::elmx_error ToleranceType::set_TertiaryIlluminant(const std::u16string& value) { return lmx::set_item(k_class, k_items[item_TertiaryIlluminant], this, value); }
-Eenum_TertiaryIlluminant ToleranceType::getenum_TertiaryIlluminant() const { return static_cast<Eenum_TertiaryIlluminant>(lmx::enumerated_number(k_items[item_TertiaryIlluminant], get_TertiaryIlluminant())); }
 bool ToleranceType::setenum_TertiaryIlluminant(std::int32_t number) { return lmx::set_enumerated(k_class, k_items[item_TertiaryIlluminant], this, number); }
 lmx::elmx_error ToleranceType::set_FieldOfView(const std::u16string& value) { return lmx::set_item(k_class, k_items[item_FieldOfView], this, value); }
-Eenum_FieldOfView ToleranceType::getenum_FieldOfView() const { return static_cast<Eenum_FieldOfView>(lmx::enumerated_number(k_items[item_FieldOfView], get_FieldOfView())); }
 bool ToleranceType::setenum_FieldOfView(std::int32_t number) { return lmx::set_enumerated(k_class, k_items[item_FieldOfView], this, number); }
 lmx::elmx_error ToleranceType::set_WarningLevel(double value) { return lmx::set_item(k_class, k_items[item_WarningLevel], this, value); }
 lmx::elmx_error ToleranceType::set_UniqueID(const std::u16string& value) { return lmx::set_item(k_class, k_items[item_UniqueID], this, value); }

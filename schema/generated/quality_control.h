@@ -125,33 +125,33 @@ public:
     void unset_Limits() { m_isset_Limits = false; }
 
     /// First illuminant of the evaluation.
-    const std::u16string& get_PrimaryIlluminant() const { return m_PrimaryIlluminant; }
+    const std::u16string& get_PrimaryIlluminant() const { return m_PrimaryIlluminant.get(); }
     lmx::elmx_error set_PrimaryIlluminant(const std::u16string& value);
-    Eenum_PrimaryIlluminant getenum_PrimaryIlluminant() const;
+    Eenum_PrimaryIlluminant getenum_PrimaryIlluminant() const { return static_cast<Eenum_PrimaryIlluminant>(m_PrimaryIlluminant.number()); }
     bool setenum_PrimaryIlluminant(std::int32_t number);
     bool isset_PrimaryIlluminant() const { return m_isset_PrimaryIlluminant; }
     void unset_PrimaryIlluminant() { m_isset_PrimaryIlluminant = false; }
 
     /// Second illuminant, for metamerism.
-    const std::u16string& get_SecondaryIlluminant() const { return m_SecondaryIlluminant; }
+    const std::u16string& get_SecondaryIlluminant() const { return m_SecondaryIlluminant.get(); }
     lmx::elmx_error set_SecondaryIlluminant(const std::u16string& value);
-    Eenum_SecondaryIlluminant getenum_SecondaryIlluminant() const;
+    Eenum_SecondaryIlluminant getenum_SecondaryIlluminant() const { return static_cast<Eenum_SecondaryIlluminant>(m_SecondaryIlluminant.number()); }
     bool setenum_SecondaryIlluminant(std::int32_t number);
     bool isset_SecondaryIlluminant() const { return m_isset_SecondaryIlluminant; }
     void unset_SecondaryIlluminant() { m_isset_SecondaryIlluminant = false; }
 
     /// Third illuminant, for metamerism.
-    const std::u16string& get_TertiaryIlluminant() const { return m_TertiaryIlluminant; }
+    const std::u16string& get_TertiaryIlluminant() const { return m_TertiaryIlluminant.get(); }
     lmx::elmx_error set_TertiaryIlluminant(const std::u16string& value);
-    Eenum_TertiaryIlluminant getenum_TertiaryIlluminant() const;
+    Eenum_TertiaryIlluminant getenum_TertiaryIlluminant() const { return static_cast<Eenum_TertiaryIlluminant>(m_TertiaryIlluminant.number()); }
     bool setenum_TertiaryIlluminant(std::int32_t number);
     bool isset_TertiaryIlluminant() const { return m_isset_TertiaryIlluminant; }
     void unset_TertiaryIlluminant() { m_isset_TertiaryIlluminant = false; }
 
     /// Standard observer of the evaluation.
-    const std::u16string& get_FieldOfView() const { return m_FieldOfView; }
+    const std::u16string& get_FieldOfView() const { return m_FieldOfView.get(); }
     lmx::elmx_error set_FieldOfView(const std::u16string& value);
-    Eenum_FieldOfView getenum_FieldOfView() const;
+    Eenum_FieldOfView getenum_FieldOfView() const { return static_cast<Eenum_FieldOfView>(m_FieldOfView.number()); }
     bool setenum_FieldOfView(std::int32_t number);
     bool isset_FieldOfView() const { return m_isset_FieldOfView; }
     void unset_FieldOfView() { m_isset_FieldOfView = false; }
@@ -210,10 +210,10 @@ private:
     lmx::c_list<CustomAttributeType> m_CustomAttribute;
     sg_Function m_Function;
     LimitsType m_Limits;
-    std::u16string m_PrimaryIlluminant;
-    std::u16string m_SecondaryIlluminant;
-    std::u16string m_TertiaryIlluminant;
-    std::u16string m_FieldOfView;
+    lmx::c_enumerated m_PrimaryIlluminant;
+    lmx::c_enumerated m_SecondaryIlluminant;
+    lmx::c_enumerated m_TertiaryIlluminant;
+    lmx::c_enumerated m_FieldOfView;
     double m_WarningLevel = 0;
     std::u16string m_UniqueID;
     bool m_Global = false;

@@ -22,7 +22,7 @@ namespace com_vyrgraph_v2 {
 
 using namespace lmx;  // for the tables' sake
 
-static_assert(k_binding_version == 1, "run schema/generator/generate.py");
+static_assert(k_binding_version == 2, "run schema/generator/generate.py");
 
 // ColorName
 
@@ -158,8 +158,8 @@ constinit const s_item ColorSpaceTINTORAType::k_items[] = {
      LMX_OFFSET(ColorSpaceTINTORAType, m_ColorName, child, none), LMX_FLAG(ColorSpaceTINTORAType, m_isset_ColorName), position_of(k_ColorSpaceTINTORAType_elements, element_ColorName), position_of(k_ColorSpaceTINTORAType_elements, element_ColorName, 1), &ColorName::k_class, nullptr, {}},
     {item_kind::element, value_kind::text, use_required, ELMX_WS_PRESERVE, "Vyr:Page", element_Page,
      LMX_OFFSET(ColorSpaceTINTORAType, m_Page, element, text), LMX_FLAG(ColorSpaceTINTORAType, m_isset_Page), position_of(k_ColorSpaceTINTORAType_elements, element_Page), position_of(k_ColorSpaceTINTORAType_elements, element_Page, 1), nullptr, nullptr, {}},
-    {item_kind::element, value_kind::text, use_required, ELMX_WS_PRESERVE, "Vyr:Gamut", element_Gamut,
-     LMX_OFFSET(ColorSpaceTINTORAType, m_Gamut, element, text), LMX_FLAG(ColorSpaceTINTORAType, m_isset_Gamut), position_of(k_ColorSpaceTINTORAType_elements, element_Gamut), position_of(k_ColorSpaceTINTORAType_elements, element_Gamut, 1), nullptr, &facets::GamutKind, {}},
+    {item_kind::element, value_kind::enumerated, use_required, ELMX_WS_PRESERVE, "Vyr:Gamut", element_Gamut,
+     LMX_OFFSET(ColorSpaceTINTORAType, m_Gamut, element, enumerated), LMX_FLAG(ColorSpaceTINTORAType, m_isset_Gamut), position_of(k_ColorSpaceTINTORAType_elements, element_Gamut), position_of(k_ColorSpaceTINTORAType_elements, element_Gamut, 1), nullptr, &facets::GamutKind, {}},
     {item_kind::child, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:Recipe", element_Recipe,
      LMX_OFFSET(ColorSpaceTINTORAType, m_Recipe, child, none), LMX_FLAG(ColorSpaceTINTORAType, m_isset_Recipe), position_of(k_ColorSpaceTINTORAType_elements, element_Recipe), position_of(k_ColorSpaceTINTORAType_elements, element_Recipe, 1), &Recipe::k_class, nullptr, {}},
     {item_kind::child_list, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:ColorAndFinish", element_ColorAndFinish,
@@ -207,7 +207,6 @@ lmx::elmx_error ColorSpaceTINTORAType::set_FamilyName(const std::u16string& valu
 ColorName& ColorSpaceTINTORAType::assign_ColorName(const ColorName& value) { return get_ColorName() = value; }
 lmx::elmx_error ColorSpaceTINTORAType::set_Page(const std::u16string& value) { return lmx::set_item(k_class, k_items[item_Page], this, value); }
 lmx::elmx_error ColorSpaceTINTORAType::set_Gamut(const std::u16string& value) { return lmx::set_item(k_class, k_items[item_Gamut], this, value); }
-Eenum_Gamut ColorSpaceTINTORAType::getenum_Gamut() const { return static_cast<Eenum_Gamut>(lmx::enumerated_number(k_items[item_Gamut], get_Gamut())); }
 bool ColorSpaceTINTORAType::setenum_Gamut(std::int32_t number) { return lmx::set_enumerated(k_class, k_items[item_Gamut], this, number); }
 Recipe& ColorSpaceTINTORAType::assign_Recipe(const Recipe& value) { return get_Recipe() = value; }
 ColorAndFinish& ColorSpaceTINTORAType::get_ColorAndFinish(std::size_t index) { return m_ColorAndFinish.grow_to(index); }
@@ -394,8 +393,8 @@ constexpr s_event_map k_ColorAndFinish_elements[] = {
 }  // namespace
 
 constinit const s_item ColorAndFinish::k_items[] = {
-    {item_kind::element, value_kind::text, use_required, ELMX_WS_PRESERVE, "Vyr:Finish", element_Finish,
-     LMX_OFFSET(ColorAndFinish, m_Finish, element, text), LMX_FLAG(ColorAndFinish, m_isset_Finish), position_of(k_ColorAndFinish_elements, element_Finish), position_of(k_ColorAndFinish_elements, element_Finish, 1), nullptr, &facets::FinishKind, {}},
+    {item_kind::element, value_kind::enumerated, use_required, ELMX_WS_PRESERVE, "Vyr:Finish", element_Finish,
+     LMX_OFFSET(ColorAndFinish, m_Finish, element, enumerated), LMX_FLAG(ColorAndFinish, m_isset_Finish), position_of(k_ColorAndFinish_elements, element_Finish), position_of(k_ColorAndFinish_elements, element_Finish, 1), nullptr, &facets::FinishKind, {}},
     {item_kind::child, value_kind::none, use_required, ELMX_WS_PRESERVE, "Vyr:ColorSpaceSpectral", element_ColorSpaceSpectral,
      LMX_OFFSET(ColorAndFinish, m_ColorSpaceSpectral, child, none), LMX_FLAG(ColorAndFinish, m_isset_ColorSpaceSpectral), position_of(k_ColorAndFinish_elements, element_ColorSpaceSpectral), position_of(k_ColorAndFinish_elements, element_ColorSpaceSpectral, 1), &ColorSpaceSpectralType::k_class, nullptr, {}},
 };
@@ -432,7 +431,6 @@ bool ColorAndFinish::unmarshal_attributes(lmx::c_xml_reader& reader, const std::
 lmx::elmx_error ColorAndFinish::unmarshal_attributes_check(lmx::c_xml_reader& reader) { return lmx::check_required_attributes(k_class, this, reader); }
 bool ColorAndFinish::unmarshal_body(lmx::c_xml_reader& reader, std::string* name, lmx::elmx_error* error) { return lmx::unmarshal_body(k_class, this, reader, name, error); }
 lmx::elmx_error ColorAndFinish::set_Finish(const std::u16string& value) { return lmx::set_item(k_class, k_items[item_Finish], this, value); }
-Eenum_Finish ColorAndFinish::getenum_Finish() const { return static_cast<Eenum_Finish>(lmx::enumerated_number(k_items[item_Finish], get_Finish())); }
 bool ColorAndFinish::setenum_Finish(std::int32_t number) { return lmx::set_enumerated(k_class, k_items[item_Finish], this, number); }
 ColorSpaceSpectralType& ColorAndFinish::assign_ColorSpaceSpectral(const ColorSpaceSpectralType& value) { return get_ColorSpaceSpectral() = value; }
 

@@ -152,9 +152,9 @@ public:
     lmx::elmx_error set_Page(const std::u16string& value);
 
     /// Smallest gamut in which the colour can be shown.
-    const std::u16string& get_Gamut() const { return m_Gamut; }
+    const std::u16string& get_Gamut() const { return m_Gamut.get(); }
     lmx::elmx_error set_Gamut(const std::u16string& value);
-    Eenum_Gamut getenum_Gamut() const;
+    Eenum_Gamut getenum_Gamut() const { return static_cast<Eenum_Gamut>(m_Gamut.number()); }
     bool setenum_Gamut(std::int32_t number);
 
     /// How the colour is mixed.
@@ -202,7 +202,7 @@ private:
     std::u16string m_FamilyName;
     ColorName m_ColorName;
     std::u16string m_Page;
-    std::u16string m_Gamut;
+    lmx::c_enumerated m_Gamut;
     Recipe m_Recipe;
     lmx::c_list<ColorAndFinish> m_ColorAndFinish;
     bool m_isset_Name = false;
@@ -381,9 +381,9 @@ public:
     bool is_occurs_ok() const;
 
     /// The finish.
-    const std::u16string& get_Finish() const { return m_Finish; }
+    const std::u16string& get_Finish() const { return m_Finish.get(); }
     lmx::elmx_error set_Finish(const std::u16string& value);
-    Eenum_Finish getenum_Finish() const;
+    Eenum_Finish getenum_Finish() const { return static_cast<Eenum_Finish>(m_Finish.number()); }
     bool setenum_Finish(std::int32_t number);
 
     /// Reflectance spectrum in that finish.
@@ -406,7 +406,7 @@ private:
         item_ColorSpaceSpectral,
     };
     static const lmx::s_item k_items[];
-    std::u16string m_Finish;
+    lmx::c_enumerated m_Finish;
     ColorSpaceSpectralType m_ColorSpaceSpectral;
     bool m_isset_Finish = false;
     bool m_isset_ColorSpaceSpectral = false;

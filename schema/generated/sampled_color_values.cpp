@@ -20,7 +20,7 @@ namespace com_vyrgraph_v2 {
 
 using namespace lmx;  // for the tables' sake
 
-static_assert(k_binding_version == 1, "run schema/generator/generate.py");
+static_assert(k_binding_version == 2, "run schema/generator/generate.py");
 
 // ColorSpaceDensityType
 
@@ -682,8 +682,8 @@ constinit const s_item FloatingPointValueType::k_items[] = {
      LMX_OFFSET(FloatingPointValueType, m_AxisNominalMax, attribute, number), LMX_FLAG(FloatingPointValueType, m_isset_AxisNominalMax), 0, 0, nullptr, nullptr, {}},
     {item_kind::attribute, value_kind::number, use_required, ELMX_WS_COLLAPSE, "AxisNominalMin", attribute_AxisNominalMin,
      LMX_OFFSET(FloatingPointValueType, m_AxisNominalMin, attribute, number), LMX_FLAG(FloatingPointValueType, m_isset_AxisNominalMin), 0, 0, nullptr, nullptr, {}},
-    {item_kind::attribute, value_kind::text, use_optional, ELMX_WS_PRESERVE, "AxisNominalScale", attribute_AxisNominalScale,
-     LMX_OFFSET(FloatingPointValueType, m_AxisNominalScale, attribute, text), LMX_FLAG(FloatingPointValueType, m_isset_AxisNominalScale), 0, 0, nullptr, &facets::AxisScaleKind, {}},
+    {item_kind::attribute, value_kind::enumerated, use_optional, ELMX_WS_PRESERVE, "AxisNominalScale", attribute_AxisNominalScale,
+     LMX_OFFSET(FloatingPointValueType, m_AxisNominalScale, attribute, enumerated), LMX_FLAG(FloatingPointValueType, m_isset_AxisNominalScale), 0, 0, nullptr, &facets::AxisScaleKind, {}},
     {item_kind::content, value_kind::number, use_required, ELMX_WS_COLLAPSE, "", 0,
      LMX_OFFSET(FloatingPointValueType, m_FloatingPointValueType, content, number), LMX_FLAG(FloatingPointValueType, m_isset_FloatingPointValueType), 0, 0, nullptr, nullptr, {}},
 };
@@ -705,8 +705,8 @@ constinit const s_class FloatingPointValueType::k_class = {
     .operations = &k_operations<FloatingPointValueType>,
 };
 
-FloatingPointValueType::FloatingPointValueType() = default;
-FloatingPointValueType::FloatingPointValueType(const FloatingPointValueType& other) { lmx::copy(k_class, this, &other); }
+FloatingPointValueType::FloatingPointValueType() : m_AxisNominalScale(facets::AxisScaleKind.enumerated->find(1)) { }
+FloatingPointValueType::FloatingPointValueType(const FloatingPointValueType& other) : FloatingPointValueType() { lmx::copy(k_class, this, &other); }
 FloatingPointValueType::~FloatingPointValueType() = default;
 FloatingPointValueType& FloatingPointValueType::operator=(const FloatingPointValueType& other) { FloatingPointValueType copy(other); swap(copy); return *this; }
 void FloatingPointValueType::swap(FloatingPointValueType& other) { lmx::swap(k_class, this, &other); }
@@ -722,7 +722,6 @@ bool FloatingPointValueType::unmarshal_body(lmx::c_xml_reader& reader, std::stri
 lmx::elmx_error FloatingPointValueType::set_AxisNominalMax(double value) { return lmx::set_item(k_class, k_items[item_AxisNominalMax], this, value); }
 lmx::elmx_error FloatingPointValueType::set_AxisNominalMin(double value) { return lmx::set_item(k_class, k_items[item_AxisNominalMin], this, value); }
 lmx::elmx_error FloatingPointValueType::set_AxisNominalScale(const std::u16string& value) { return lmx::set_item(k_class, k_items[item_AxisNominalScale], this, value); }
-Eenum_AxisNominalScale FloatingPointValueType::getenum_AxisNominalScale() const { return static_cast<Eenum_AxisNominalScale>(lmx::enumerated_number(k_items[item_AxisNominalScale], get_AxisNominalScale())); }
 bool FloatingPointValueType::setenum_AxisNominalScale(std::int32_t number) { return lmx::set_enumerated(k_class, k_items[item_AxisNominalScale], this, number); }
 lmx::elmx_error FloatingPointValueType::set_FloatingPointValueType(double value) { return lmx::set_item(k_class, k_items[item_FloatingPointValueType], this, value); }
 
@@ -737,10 +736,10 @@ constexpr s_event_map k_DensityType_attributes[] = {
 }  // namespace
 
 constinit const s_item DensityType::k_items[] = {
-    {item_kind::attribute, value_kind::text, use_required, ELMX_WS_PRESERVE, "DensityStatus", attribute_DensityStatus,
-     LMX_OFFSET(DensityType, m_DensityStatus, attribute, text), LMX_FLAG(DensityType, m_isset_DensityStatus), 0, 0, nullptr, &facets::DensityStatusKind, {}},
-    {item_kind::attribute, value_kind::text, use_required, ELMX_WS_PRESERVE, "DensityFilter", attribute_DensityFilter,
-     LMX_OFFSET(DensityType, m_DensityFilter, attribute, text), LMX_FLAG(DensityType, m_isset_DensityFilter), 0, 0, nullptr, &facets::DensityFilterKind, {}},
+    {item_kind::attribute, value_kind::enumerated, use_required, ELMX_WS_PRESERVE, "DensityStatus", attribute_DensityStatus,
+     LMX_OFFSET(DensityType, m_DensityStatus, attribute, enumerated), LMX_FLAG(DensityType, m_isset_DensityStatus), 0, 0, nullptr, &facets::DensityStatusKind, {}},
+    {item_kind::attribute, value_kind::enumerated, use_required, ELMX_WS_PRESERVE, "DensityFilter", attribute_DensityFilter,
+     LMX_OFFSET(DensityType, m_DensityFilter, attribute, enumerated), LMX_FLAG(DensityType, m_isset_DensityFilter), 0, 0, nullptr, &facets::DensityFilterKind, {}},
     {item_kind::content, value_kind::number, use_required, ELMX_WS_COLLAPSE, "", 0,
      LMX_OFFSET(DensityType, m_DensityType, content, number), LMX_FLAG(DensityType, m_isset_DensityType), 0, 0, nullptr, nullptr, {}},
 };
@@ -777,10 +776,8 @@ bool DensityType::unmarshal_attributes(lmx::c_xml_reader& reader, const std::str
 lmx::elmx_error DensityType::unmarshal_attributes_check(lmx::c_xml_reader& reader) { return lmx::check_required_attributes(k_class, this, reader); }
 bool DensityType::unmarshal_body(lmx::c_xml_reader& reader, std::string* name, lmx::elmx_error* error, bool has_body) { return lmx::unmarshal_content(k_class, this, reader, name, error, has_body); }
 lmx::elmx_error DensityType::set_DensityStatus(const std::u16string& value) { return lmx::set_item(k_class, k_items[item_DensityStatus], this, value); }
-Eenum_DensityStatus DensityType::getenum_DensityStatus() const { return static_cast<Eenum_DensityStatus>(lmx::enumerated_number(k_items[item_DensityStatus], get_DensityStatus())); }
 bool DensityType::setenum_DensityStatus(std::int32_t number) { return lmx::set_enumerated(k_class, k_items[item_DensityStatus], this, number); }
 lmx::elmx_error DensityType::set_DensityFilter(const std::u16string& value) { return lmx::set_item(k_class, k_items[item_DensityFilter], this, value); }
-Eenum_DensityFilter DensityType::getenum_DensityFilter() const { return static_cast<Eenum_DensityFilter>(lmx::enumerated_number(k_items[item_DensityFilter], get_DensityFilter())); }
 bool DensityType::setenum_DensityFilter(std::int32_t number) { return lmx::set_enumerated(k_class, k_items[item_DensityFilter], this, number); }
 lmx::elmx_error DensityType::set_DensityType(double value) { return lmx::set_item(k_class, k_items[item_DensityType], this, value); }
 

@@ -644,9 +644,9 @@ public:
     lmx::elmx_error set_AxisNominalMin(double value);
 
     /// Scale of the axis; a new object holds Scale_Linear, without counting as set.
-    const std::u16string& get_AxisNominalScale() const { return m_AxisNominalScale; }
+    const std::u16string& get_AxisNominalScale() const { return m_AxisNominalScale.get(); }
     lmx::elmx_error set_AxisNominalScale(const std::u16string& value);
-    Eenum_AxisNominalScale getenum_AxisNominalScale() const;
+    Eenum_AxisNominalScale getenum_AxisNominalScale() const { return static_cast<Eenum_AxisNominalScale>(m_AxisNominalScale.number()); }
     bool setenum_AxisNominalScale(std::int32_t number);
     bool isset_AxisNominalScale() const { return m_isset_AxisNominalScale; }
     void unset_AxisNominalScale() { m_isset_AxisNominalScale = false; }
@@ -674,7 +674,7 @@ private:
     static const lmx::s_item k_items[];
     double m_AxisNominalMax = 0;
     double m_AxisNominalMin = 0;
-    std::u16string m_AxisNominalScale = u"Scale_Linear";
+    lmx::c_enumerated m_AxisNominalScale;
     double m_FloatingPointValueType = 0;
     bool m_isset_AxisNominalMax = false;
     bool m_isset_AxisNominalMin = false;
@@ -696,15 +696,15 @@ public:
     bool is_occurs_ok() const;
 
     /// Density status, the set of filter responses.
-    const std::u16string& get_DensityStatus() const { return m_DensityStatus; }
+    const std::u16string& get_DensityStatus() const { return m_DensityStatus.get(); }
     lmx::elmx_error set_DensityStatus(const std::u16string& value);
-    Eenum_DensityStatus getenum_DensityStatus() const;
+    Eenum_DensityStatus getenum_DensityStatus() const { return static_cast<Eenum_DensityStatus>(m_DensityStatus.number()); }
     bool setenum_DensityStatus(std::int32_t number);
 
     /// Filter of the status.
-    const std::u16string& get_DensityFilter() const { return m_DensityFilter; }
+    const std::u16string& get_DensityFilter() const { return m_DensityFilter.get(); }
     lmx::elmx_error set_DensityFilter(const std::u16string& value);
-    Eenum_DensityFilter getenum_DensityFilter() const;
+    Eenum_DensityFilter getenum_DensityFilter() const { return static_cast<Eenum_DensityFilter>(m_DensityFilter.number()); }
     bool setenum_DensityFilter(std::int32_t number);
 
     /// The density, a common logarithm.
@@ -727,8 +727,8 @@ private:
         item_DensityType,
     };
     static const lmx::s_item k_items[];
-    std::u16string m_DensityStatus;
-    std::u16string m_DensityFilter;
+    lmx::c_enumerated m_DensityStatus;
+    lmx::c_enumerated m_DensityFilter;
     double m_DensityType = 0;
     bool m_isset_DensityStatus = false;
     bool m_isset_DensityFilter = false;

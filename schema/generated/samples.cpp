@@ -20,7 +20,7 @@ namespace com_vyrgraph_v2 {
 
 using namespace lmx;  // for the tables' sake
 
-static_assert(k_binding_version == 1, "run schema/generator/generate.py");
+static_assert(k_binding_version == 2, "run schema/generator/generate.py");
 
 // SampleType
 
@@ -50,8 +50,8 @@ constinit const s_item SampleType::k_items[] = {
      LMX_OFFSET(SampleType, m_CustomAttribute, child_list, none), k_no_flag, position_of(k_SampleType_elements, element_CustomAttribute), position_of(k_SampleType_elements, element_CustomAttribute, 1), &CustomAttributeType::k_class, nullptr, {}},
     {item_kind::group, value_kind::none, use_asked | use_written | use_copied | use_lax, ELMX_WS_PRESERVE, "Vyr:Substrate", 0,
      LMX_OFFSET(SampleType, m_Substrate, group, none), LMX_FLAG(SampleType, m_isset_Substrate), position_of(k_SampleType_elements, element_SubstratePaper), position_of(k_SampleType_elements, element_SubstratePaper, 9), &sg_Substrate::k_class, nullptr, {}},
-    {item_kind::element, value_kind::text, use_optional, ELMX_WS_PRESERVE, "Vyr:Backing", element_Backing,
-     LMX_OFFSET(SampleType, m_Backing, element, text), LMX_FLAG(SampleType, m_isset_Backing), position_of(k_SampleType_elements, element_Backing), position_of(k_SampleType_elements, element_Backing, 1), nullptr, &facets::BackingKind, {}},
+    {item_kind::element, value_kind::enumerated, use_optional, ELMX_WS_PRESERVE, "Vyr:Backing", element_Backing,
+     LMX_OFFSET(SampleType, m_Backing, element, enumerated), LMX_FLAG(SampleType, m_isset_Backing), position_of(k_SampleType_elements, element_Backing), position_of(k_SampleType_elements, element_Backing, 1), nullptr, &facets::BackingKind, {}},
     {item_kind::element, value_kind::text, use_optional, ELMX_WS_PRESERVE, "Vyr:Manufacturer", element_Manufacturer,
      LMX_OFFSET(SampleType, m_Manufacturer, element, text), LMX_FLAG(SampleType, m_isset_Manufacturer), position_of(k_SampleType_elements, element_Manufacturer), position_of(k_SampleType_elements, element_Manufacturer, 1), nullptr, nullptr, {}},
     {item_kind::element, value_kind::datetime, use_optional, ELMX_WS_COLLAPSE, "Vyr:ProductionDate", element_ProductionDate,
@@ -111,7 +111,6 @@ void SampleType::delete_CustomAttribute(std::size_t index) { m_CustomAttribute.e
 void SampleType::clear_CustomAttribute() { m_CustomAttribute.clear(); }
 sg_Substrate& SampleType::assign_Substrate(const sg_Substrate& value) { return get_Substrate() = value; }
 lmx::elmx_error SampleType::set_Backing(const std::u16string& value) { return lmx::set_item(k_class, k_items[item_Backing], this, value); }
-Eenum_Backing SampleType::getenum_Backing() const { return static_cast<Eenum_Backing>(lmx::enumerated_number(k_items[item_Backing], get_Backing())); }
 bool SampleType::setenum_Backing(std::int32_t number) { return lmx::set_enumerated(k_class, k_items[item_Backing], this, number); }
 lmx::elmx_error SampleType::set_Manufacturer(const std::u16string& value) { return lmx::set_item(k_class, k_items[item_Manufacturer], this, value); }
 lmx::elmx_error SampleType::set_ProductionDate(const lmx::c_datetime& value) { return lmx::set_item(k_class, k_items[item_ProductionDate], this, value); }
@@ -248,8 +247,8 @@ constexpr s_event_map k_SampleTargetType_elements[] = {
 constinit const s_item SampleTargetType::k_items[] = {
     {item_kind::attribute, value_kind::text, use_optional, ELMX_WS_PRESERVE, "CustomTarget", attribute_CustomTarget,
      LMX_OFFSET(SampleTargetType, m_CustomTarget, attribute, text), LMX_FLAG(SampleTargetType, m_isset_CustomTarget), 0, 0, nullptr, nullptr, {}},
-    {item_kind::element, value_kind::text, use_required, ELMX_WS_PRESERVE, "Vyr:Target", element_Target,
-     LMX_OFFSET(SampleTargetType, m_Target, element, text), LMX_FLAG(SampleTargetType, m_isset_Target), position_of(k_SampleTargetType_elements, element_Target), position_of(k_SampleTargetType_elements, element_Target, 1), nullptr, &facets::TargetKind, {}},
+    {item_kind::element, value_kind::enumerated, use_required, ELMX_WS_PRESERVE, "Vyr:Target", element_Target,
+     LMX_OFFSET(SampleTargetType, m_Target, element, enumerated), LMX_FLAG(SampleTargetType, m_isset_Target), position_of(k_SampleTargetType_elements, element_Target), position_of(k_SampleTargetType_elements, element_Target, 1), nullptr, &facets::TargetKind, {}},
 };
 constinit const s_class SampleTargetType::k_class = {
     .name = "SampleTargetType",
@@ -290,7 +289,6 @@ const char* SampleTargetType::getid() const { return id; }
 bool SampleTargetType::has_id(const char* identity) const { return identity == id || SampleType::has_id(identity); }
 lmx::elmx_error SampleTargetType::set_CustomTarget(const std::u16string& value) { return lmx::set_item(k_class, k_items[item_CustomTarget], this, value); }
 lmx::elmx_error SampleTargetType::set_Target(const std::u16string& value) { return lmx::set_item(k_class, k_items[item_Target], this, value); }
-Eenum_Target SampleTargetType::getenum_Target() const { return static_cast<Eenum_Target>(lmx::enumerated_number(k_items[item_Target], get_Target())); }
 bool SampleTargetType::setenum_Target(std::int32_t number) { return lmx::set_enumerated(k_class, k_items[item_Target], this, number); }
 
 // SampleSpot

@@ -55,9 +55,9 @@ public:
     sg_Substrate& assign_Substrate(const sg_Substrate& value);
 
     /// What lay behind the sample while it was measured.
-    const std::u16string& get_Backing() const { return m_Backing; }
+    const std::u16string& get_Backing() const { return m_Backing.get(); }
     lmx::elmx_error set_Backing(const std::u16string& value);
-    Eenum_Backing getenum_Backing() const;
+    Eenum_Backing getenum_Backing() const { return static_cast<Eenum_Backing>(m_Backing.number()); }
     bool setenum_Backing(std::int32_t number);
     bool isset_Backing() const { return m_isset_Backing; }
     void unset_Backing() { m_isset_Backing = false; }
@@ -115,7 +115,7 @@ private:
     static const lmx::s_item k_items[];
     lmx::c_list<CustomAttributeType> m_CustomAttribute;
     sg_Substrate m_Substrate;
-    std::u16string m_Backing;
+    lmx::c_enumerated m_Backing;
     std::u16string m_Manufacturer;
     lmx::c_datetime m_ProductionDate;
     std::u16string m_SerialNumber;
@@ -247,9 +247,9 @@ public:
     void unset_CustomTarget() { m_isset_CustomTarget = false; }
 
     /// The chart.
-    const std::u16string& get_Target() const { return m_Target; }
+    const std::u16string& get_Target() const { return m_Target.get(); }
     lmx::elmx_error set_Target(const std::u16string& value);
-    Eenum_Target getenum_Target() const;
+    Eenum_Target getenum_Target() const { return static_cast<Eenum_Target>(m_Target.number()); }
     bool setenum_Target(std::int32_t number);
 
     /// The class's identity; `getid` and `has_id` work on its address.
@@ -271,7 +271,7 @@ private:
     };
     static const lmx::s_item k_items[];
     std::u16string m_CustomTarget;
-    std::u16string m_Target;
+    lmx::c_enumerated m_Target;
     bool m_isset_CustomTarget = false;
     bool m_isset_Target = false;
 };

@@ -20,22 +20,26 @@ constexpr std::string_view k_ColorDepthKind_texts[] = {
     "ColorDepth_16",
     "ColorDepth_32",
 };
+constinit const lmx::c_enumeration k_ColorDepthKind_enumeration(k_ColorDepthKind_texts);
 constexpr std::string_view k_GamutKind_texts[] = {
     "Gamut_AdobeRGB",
     "Gamut_sRGB",
     "Gamut_CMYK",
     "Gamut_Octavantic",
 };
+constinit const lmx::c_enumeration k_GamutKind_enumeration(k_GamutKind_texts);
 constexpr std::string_view k_FinishKind_texts[] = {
     "Finish_Coated",
     "Finish_Uncoated",
     "Finish_Matte",
 };
+constinit const lmx::c_enumeration k_FinishKind_enumeration(k_FinishKind_texts);
 constexpr std::string_view k_AxisScaleKind_texts[] = {
     "Scale_Linear",
     "Scale_Log",
     "Scale_Other",
 };
+constinit const lmx::c_enumeration k_AxisScaleKind_enumeration(k_AxisScaleKind_texts);
 constexpr std::string_view k_DensityStatusKind_texts[] = {
     "Status_A",
     "Status_E",
@@ -50,6 +54,7 @@ constexpr std::string_view k_DensityStatusKind_texts[] = {
     "Status_DIN",
     "Status_DIN-NB",
 };
+constinit const lmx::c_enumeration k_DensityStatusKind_enumeration(k_DensityStatusKind_texts);
 constexpr std::string_view k_DensityFilterKind_texts[] = {
     "Filter_Visual",
     "Filter_Cyan",
@@ -62,29 +67,35 @@ constexpr std::string_view k_DensityFilterKind_texts[] = {
     "Filter_A",
     "Filter_B",
 };
+constinit const lmx::c_enumeration k_DensityFilterKind_enumeration(k_DensityFilterKind_texts);
 constexpr std::string_view k_EmissiveKind_texts[] = {
     "Emissive_Spot",
     "Emissive_SpotAmbient",
     "Emissive_ScanningFlash",
 };
+constinit const lmx::c_enumeration k_EmissiveKind_enumeration(k_EmissiveKind_texts);
 constexpr std::string_view k_EmissiveModeKind_texts[] = {
     "EmissiveMode_Diffuser",
     "EmissiveMode_NA",
 };
+constinit const lmx::c_enumeration k_EmissiveModeKind_enumeration(k_EmissiveModeKind_texts);
 constexpr std::string_view k_ObserverKind_texts[] = {
     "FieldOfView_2_Degree",
     "FieldOfView_10_Degree",
 };
+constinit const lmx::c_enumeration k_ObserverKind_enumeration(k_ObserverKind_texts);
 constexpr std::string_view k_AstmTableKind_texts[] = {
     "E308_Table5",
     "E308_Table6",
 };
+constinit const lmx::c_enumeration k_AstmTableKind_enumeration(k_AstmTableKind_texts);
 constexpr std::string_view k_SpectrumKind_texts[] = {
     "Spectrum_Reflectance",
     "Spectrum_Transmittance",
     "Spectrum_TotalTransmittance",
     "Spectrum_Custom",
 };
+constinit const lmx::c_enumeration k_SpectrumKind_enumeration(k_SpectrumKind_texts);
 constexpr std::string_view k_IlluminantKind_texts[] = {
     "Illuminant_A",
     "Illuminant_B",
@@ -102,12 +113,14 @@ constexpr std::string_view k_IlluminantKind_texts[] = {
     "Illuminant_9300",
     "Illuminant_Custom",
 };
+constinit const lmx::c_enumeration k_IlluminantKind_enumeration(k_IlluminantKind_texts);
 const lmx::c_big_int k_PositiveInt32_minimum("0");
 const lmx::c_big_int k_PositiveInt32_maximum("2147483647");
 constexpr std::string_view k_SphereGeometryKind_texts[] = {
     "Sphere_Included",
     "Sphere_Excluded",
 };
+constinit const lmx::c_enumeration k_SphereGeometryKind_enumeration(k_SphereGeometryKind_texts);
 constexpr std::string_view k_DeviceFilterKind_texts[] = {
     "Filter_None",
     "Filter_UVExcluded",
@@ -115,12 +128,14 @@ constexpr std::string_view k_DeviceFilterKind_texts[] = {
     "Filter_Partial",
     "Filter_Custom",
 };
+constinit const lmx::c_enumeration k_DeviceFilterKind_enumeration(k_DeviceFilterKind_texts);
 constexpr std::string_view k_BackingKind_texts[] = {
     "Backing_Black",
     "Backing_White",
     "Backing_Self",
     "Backing_NA",
 };
+constinit const lmx::c_enumeration k_BackingKind_enumeration(k_BackingKind_texts);
 constexpr std::string_view k_TargetKind_texts[] = {
     "Target_IT8.7/1",
     "Target_IT8.7/2",
@@ -129,6 +144,7 @@ constexpr std::string_view k_TargetKind_texts[] = {
     "Target_ECI2002",
     "Target_Custom",
 };
+constinit const lmx::c_enumeration k_TargetKind_enumeration(k_TargetKind_texts);
 constexpr std::string_view k_ToleranceFormulaKind_texts[] = {
     "Brightness",
     "DE*",
@@ -153,6 +169,7 @@ constexpr std::string_view k_ToleranceFormulaKind_texts[] = {
     "df",
     "DEDIN6175",
 };
+constinit const lmx::c_enumeration k_ToleranceFormulaKind_enumeration(k_ToleranceFormulaKind_texts);
 constexpr std::string_view k_ToleranceParameterKind_texts[] = {
     "Param_L",
     "Param_a",
@@ -171,11 +188,13 @@ constexpr std::string_view k_ToleranceParameterKind_texts[] = {
     "Param_P",
     "Param_Whiteness",
 };
+constinit const lmx::c_enumeration k_ToleranceParameterKind_enumeration(k_ToleranceParameterKind_texts);
 constexpr std::string_view k_DeviceClassKind_texts[] = {
     "DeviceClass_Spot",
     "DeviceClass_Scanning",
     "DeviceClass_Other",
 };
+constinit const lmx::c_enumeration k_DeviceClassKind_enumeration(k_DeviceClassKind_texts);
 const lmx::c_big_int k_AveragingCount_minimum("2");
 const lmx::c_big_int k_AveragingCount_maximum("99");
 constexpr std::string_view k_CalibrationKind_texts[] = {
@@ -183,11 +202,13 @@ constexpr std::string_view k_CalibrationKind_texts[] = {
     "CalibrationState_Calibrated",
     "CalibrationState_NA",
 };
+constinit const lmx::c_enumeration k_CalibrationKind_enumeration(k_CalibrationKind_texts);
 constexpr std::string_view k_ProfileDirectionKind_texts[] = {
     "Profile_Input",
     "Profile_Output",
     "Profile_Both",
 };
+constinit const lmx::c_enumeration k_ProfileDirectionKind_enumeration(k_ProfileDirectionKind_texts);
 }  // namespace
 
 namespace facets {
@@ -255,6 +276,7 @@ constinit const lmx::s_facets NonNegative = {
 /// Bits per channel of a device colour.
 constinit const lmx::s_facets ColorDepthKind = {
     .enumeration = k_ColorDepthKind_texts,
+    .enumerated = &k_ColorDepthKind_enumeration,
 };
 /// A number from 0 to 100, in percent.
 constinit const lmx::s_facets Percentage = {
@@ -284,6 +306,7 @@ constinit const lmx::s_facets YIQQuadrature = {
 /// Gamut in which a colour can be shown.
 constinit const lmx::s_facets GamutKind = {
     .enumeration = k_GamutKind_texts,
+    .enumerated = &k_GamutKind_enumeration,
 };
 /// A number above 0.
 constinit const lmx::s_facets Positive = {
@@ -293,6 +316,7 @@ constinit const lmx::s_facets Positive = {
 /// Finish of a paper.
 constinit const lmx::s_facets FinishKind = {
     .enumeration = k_FinishKind_texts,
+    .enumerated = &k_FinishKind_enumeration,
 };
 /// A reflectance factor between -1 and 10, ends excluded.
 constinit const lmx::s_facets Reflectance = {
@@ -309,38 +333,47 @@ constinit const lmx::s_facets Wavelength = {
 /// Scale of an axis.
 constinit const lmx::s_facets AxisScaleKind = {
     .enumeration = k_AxisScaleKind_texts,
+    .enumerated = &k_AxisScaleKind_enumeration,
 };
 /// Density status: the set of spectral responses of a densitometer.
 constinit const lmx::s_facets DensityStatusKind = {
     .enumeration = k_DensityStatusKind_texts,
+    .enumerated = &k_DensityStatusKind_enumeration,
 };
 /// Filter through which an optical density is measured.
 constinit const lmx::s_facets DensityFilterKind = {
     .enumeration = k_DensityFilterKind_texts,
+    .enumerated = &k_DensityFilterKind_enumeration,
 };
 /// How a light source is measured.
 constinit const lmx::s_facets EmissiveKind = {
     .enumeration = k_EmissiveKind_texts,
+    .enumerated = &k_EmissiveKind_enumeration,
 };
 /// Whether a diffuser is in place when a light source is measured.
 constinit const lmx::s_facets EmissiveModeKind = {
     .enumeration = k_EmissiveModeKind_texts,
+    .enumerated = &k_EmissiveModeKind_enumeration,
 };
 /// CIE standard observer, by its field of view.
 constinit const lmx::s_facets ObserverKind = {
     .enumeration = k_ObserverKind_texts,
+    .enumerated = &k_ObserverKind_enumeration,
 };
 /// Weighting tables of ASTM E308 for the integration of tristimulus values.
 constinit const lmx::s_facets AstmTableKind = {
     .enumeration = k_AstmTableKind_texts,
+    .enumerated = &k_AstmTableKind_enumeration,
 };
 /// Spectral quantity.
 constinit const lmx::s_facets SpectrumKind = {
     .enumeration = k_SpectrumKind_texts,
+    .enumerated = &k_SpectrumKind_enumeration,
 };
 /// CIE standard illuminants, the 9300 K white of displays, and custom ones.
 constinit const lmx::s_facets IlluminantKind = {
     .enumeration = k_IlluminantKind_texts,
+    .enumerated = &k_IlluminantKind_enumeration,
 };
 /// An integer from 1 to 2147483647.
 constinit const lmx::s_facets PositiveInt32 = {
@@ -354,18 +387,22 @@ constinit const lmx::s_facets PositiveInt32 = {
 /// Whether an integrating sphere includes the specular component.
 constinit const lmx::s_facets SphereGeometryKind = {
     .enumeration = k_SphereGeometryKind_texts,
+    .enumerated = &k_SphereGeometryKind_enumeration,
 };
 /// Filter in the light path of an instrument.
 constinit const lmx::s_facets DeviceFilterKind = {
     .enumeration = k_DeviceFilterKind_texts,
+    .enumerated = &k_DeviceFilterKind_enumeration,
 };
 /// What lies behind a sample while it is measured.
 constinit const lmx::s_facets BackingKind = {
     .enumeration = k_BackingKind_texts,
+    .enumerated = &k_BackingKind_enumeration,
 };
 /// Test charts.
 constinit const lmx::s_facets TargetKind = {
     .enumeration = k_TargetKind_texts,
+    .enumerated = &k_TargetKind_enumeration,
 };
 /// A text of at least one character, surrounding and repeated blanks removed.
 constinit const lmx::s_facets NonEmptyToken = {
@@ -374,14 +411,17 @@ constinit const lmx::s_facets NonEmptyToken = {
 /// Tolerance formulas.
 constinit const lmx::s_facets ToleranceFormulaKind = {
     .enumeration = k_ToleranceFormulaKind_texts,
+    .enumerated = &k_ToleranceFormulaKind_enumeration,
 };
 /// Parameter of a tolerance formula.
 constinit const lmx::s_facets ToleranceParameterKind = {
     .enumeration = k_ToleranceParameterKind_texts,
+    .enumerated = &k_ToleranceParameterKind_enumeration,
 };
 /// Kind of instrument.
 constinit const lmx::s_facets DeviceClassKind = {
     .enumeration = k_DeviceClassKind_texts,
+    .enumerated = &k_DeviceClassKind_enumeration,
 };
 /// Number of readings that are averaged.
 constinit const lmx::s_facets AveragingCount = {
@@ -393,6 +433,7 @@ constinit const lmx::s_facets AveragingCount = {
 /// State of a calibration.
 constinit const lmx::s_facets CalibrationKind = {
     .enumeration = k_CalibrationKind_texts,
+    .enumerated = &k_CalibrationKind_enumeration,
 };
 /// A text of exactly one character.
 constinit const lmx::s_facets SingleCharacter = {
@@ -402,6 +443,7 @@ constinit const lmx::s_facets SingleCharacter = {
 /// Which way a profile converts.
 constinit const lmx::s_facets ProfileDirectionKind = {
     .enumeration = k_ProfileDirectionKind_texts,
+    .enumerated = &k_ProfileDirectionKind_enumeration,
 };
 }  // namespace facets
 

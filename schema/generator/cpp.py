@@ -20,6 +20,7 @@ MEMBER_TYPES = {
     "datetime": "lmx::c_datetime",
     "binary": "lmx::c_binary",
 }
+ENUMERATED_TYPE = "lmx::c_enumerated"
 # Kinds of value that an alternative keeps in the slot of its choice -> the slot's field.
 SLOT_FIELDS = {"number": "number", "int32": "int32", "uint32": "uint32"}
 
@@ -30,7 +31,7 @@ def parameter_type(value):
 
 
 def initial_value(item):
-    if item.initial is not None:
+    if item.initial is not None and not item.enumerated:
         return f' = u"{item.initial}"' if item.value.value == "text" else f" = {item.initial}"
     if item.value.value == "boolean":
         return " = false"

@@ -2,7 +2,7 @@
 # SPDX-License-Identifier: Apache-2.0
 """The headers of the topics: classes with typed members and one-line accessors."""
 
-from cpp import FOLDER, LISTS, MEMBER_TYPES, SLOT_FIELDS, comment, frame, initial_value, parameter_type
+from cpp import ENUMERATED_TYPE, FOLDER, LISTS, MEMBER_TYPES, SLOT_FIELDS, comment, frame, initial_value, parameter_type
 
 
 CHOICE = "lmx::s_choice m_choice{e_none, false, {}};"
@@ -19,14 +19,14 @@ def class_title(made):
 
 def simple_accessors(item):
     kind, x = item.value.value, item.accessor
-    yield f"{parameter_type(kind)} get_{x}() const {{ return m_{x}; }}"
+    yield f"{parameter_type(kind)} get_{x}() const {{ return m_{x}{'.get()' if item.enumerated else ''}; }}"
     yield f"lmx::elmx_error set_{x}({parameter_type(kind)} value);"
-    yield from enumeration_accessors(item)
+    yield from enumeration_accessors(item, f" {{ return static_cast<Eenum_{x}>(m_{x}.number()); }}")
 
 
-def enumeration_accessors(item):
+def enumeration_accessors(item, body=";"):
     if item.enumerated:
-        yield f"Eenum_{item.accessor} getenum_{item.accessor}() const;"
+        yield f"Eenum_{item.accessor} getenum_{item.accessor}() const{body}"
         yield f"bool setenum_{item.accessor}(std::int32_t number);"
 
 
@@ -124,7 +124,7 @@ def member(item):
         return None
     if item.kind == "any":
         return "lmx::c_list<lmx::c_any_info> m_any;"
-    type_name = item.type or MEMBER_TYPES[item.value.value]
+    type_name = ENUMERATED_TYPE if item.enumerated else item.type or MEMBER_TYPES[item.value.value]
     if item.kind in LISTS:
         return f"lmx::c_list<{type_name}> m_{item.accessor};"
     prefix = "mutable " if item.mutable else ""

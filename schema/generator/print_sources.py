@@ -6,7 +6,7 @@ from cpp import FOLDER, LISTS, comment, frame, own_source, parameter_type
 from model import PREFIX, REQUIRED
 from print_headers import flag_member, has_flag
 
-VERSION = 1  # of the runtime's tables, lmx::k_binding_version
+VERSION = 2  # of the runtime's tables, lmx::k_binding_version
 
 
 # Tables
@@ -37,6 +37,8 @@ def facets_of(item):
 
 def row(plan, made, item, map_name):
     value = item.value.value if item.value and item.kind != "marker" else "none"
+    if item.enumerated:
+        value = "enumerated"
     stored_type = f"&{item.type}::k_class" if item.type and item.kind != "marker" else "nullptr"
     mode = "ELMX_WS_COLLAPSE" if item.value and item.value.collapse else "ELMX_WS_PRESERVE"
     name = {"attribute": item.name, "content": "", "group": "", "group_list": ""}.get(item.kind, PREFIX + item.name)
@@ -145,9 +147,16 @@ def life_cycle(made):
     name = made.name
     init = " init();" if made.init else ""
     base = f" : {made.base}()" if made.base else ""
-    if own_choice(made):
-        base = f" : {name}()"  # so that the destructor frees what is chosen if the copy can't be finished
-    yield f"{name}::{name}() {{{init} }}" if init else f"{name}::{name}() = default;"
+    # The texts of enumerations are not known in the header.
+    initial = ", ".join(f"m_{item.accessor}(facets::{item.value.name}.enumerated->find("
+                        f"{item.value.enumeration.index(item.initial) + 1}))"
+                        for item in made.items if item.enumerated and item.initial is not None)
+    if own_choice(made) or initial:
+        base = f" : {name}()"  # for the initial values, and so that a copy that can't be finished is ended like others
+    if initial:
+        yield f"{name}::{name}() : {initial} {{{init} }}"
+    else:
+        yield f"{name}::{name}() {{{init} }}" if init else f"{name}::{name}() = default;"
     yield f"{name}::{name}(const {name}& other){base} {{ lmx::copy(k_class, this, &other);{init} }}"
     yield f"{name}::~{name}() {{ lmx::release_choice(k_class, this); }}" if own_choice(made) \
         else f"{name}::~{name}() = default;"
@@ -209,8 +218,9 @@ def simple_setters(owner, item):
     row_name = f"k_items[item_{x}]"
     yield f"lmx::elmx_error {owner}::set_{x}({value} value) {{ return lmx::set_item(k_class, {row_name}, this, value); }}"
     if item.enumerated:
-        yield f"Eenum_{x} {owner}::getenum_{x}() const " \
-              f"{{ return static_cast<Eenum_{x}>(lmx::enumerated_number({row_name}, get_{x}())); }}"
+        if item.kind == "alternative":
+            yield f"Eenum_{x} {owner}::getenum_{x}() const " \
+                  f"{{ return static_cast<Eenum_{x}>(lmx::chosen_number(k_class, {row_name}, this)); }}"
         yield f"bool {owner}::setenum_{x}(std::int32_t number) " \
               f"{{ return lmx::set_enumerated(k_class, {row_name}, this, number); }}"
 
@@ -344,7 +354,9 @@ def print_tables_source(plan):
         if simple.enumeration:
             hidden += [f"constexpr std::string_view k_{name}_texts[] = {{",
                        *(f'    "{text}",' for text in simple.enumeration), "};"]
+            hidden.append(f"constinit const lmx::c_enumeration k_{name}_enumeration(k_{name}_texts);")
             fields["enumeration"] = f"k_{name}_texts"
+            fields["enumerated"] = f"&k_{name}_enumeration"
         for end in ("minimum", "maximum"):
             if getattr(simple, end) is not None:
                 fields[end] = getattr(simple, end)

@@ -121,6 +121,59 @@ TEST(Objects, EnumeratedItemsAreTextsWithNumbers) {
     EXPECT_EQ(target.get_Target(), u"Target_IT8.7/1");
 }
 
+// Made before `main`, with the texts of its enumeration; ended behind it.
+const v2::FloatingPointValueType k_early_value;
+
+TEST(Objects, EnumeratedTextsAreSharedAndOddOnesOwned) {
+    EXPECT_EQ(k_early_value.get_AxisNominalScale(), u"Scale_Linear");
+    v2::SampleType one;
+    v2::SampleType other;
+    one.setenum_Backing(1);
+    other.set_Backing(u"Backing_Black");
+    EXPECT_EQ(&one.get_Backing(), &other.get_Backing());
+
+    const auto read_odd = [](auto& object, const std::string& element) {
+        const std::string text = with_declarations(element);
+        c_swallowing_reader reader(text);
+        read_with(reader, object);
+        ASSERT_EQ(reader.swallowed, std::vector{failure(ELMX_VALUE_NOT_ENUMERATED, reader.swallowed.at(0).item)});
+    };
+    v2::SpectrumType odd;
+    read_odd(odd, "<Vyr:Spectrum>of \xC3\xA9toiles &amp; &lt;planets&gt;</Vyr:Spectrum>");
+    v2::SpectrumType copy(odd);
+    v2::SpectrumType fresh;
+    fresh.swap(copy);
+    copy = fresh;
+    for (const auto* object : {&odd, &copy, &fresh}) {
+        EXPECT_EQ(object->get_SpectrumType(), u"of \u00E9toiles & <planets>");
+        EXPECT_EQ(object->getenum_SpectrumType(), 0);
+        EXPECT_EQ(write(*object, "Vyr:Spectrum"),
+                  "<Vyr:Spectrum>of \xC3\xA9toiles &amp; &lt;planets></Vyr:Spectrum>");
+    }
+    // A text that was handed out follows the item.
+    const std::u16string& text = odd.get_SpectrumType();
+    odd.set_SpectrumType(u"Spectrum_Custom");
+    EXPECT_EQ(text, u"Spectrum_Custom");
+    EXPECT_EQ(v2::SpectrumType(odd).getenum_SpectrumType(), 4);
+    read_odd(odd, "<Vyr:Spectrum>other</Vyr:Spectrum>");
+    EXPECT_EQ(text, u"other");
+    read_odd(odd, "<Vyr:Spectrum/>");
+    EXPECT_EQ(text, u"");
+    EXPECT_EQ(odd.getenum_SpectrumType(), 0);
+
+    v2::GeometryChoiceType geometry;
+    read_odd(geometry, "<Vyr:Geometry><Vyr:SphereGeometry>square</Vyr:SphereGeometry></Vyr:Geometry>");
+    v2::GeometryChoiceType same(geometry);
+    geometry.set_Angle(1);
+    EXPECT_EQ(geometry.getenum_SphereGeometry(), 0);
+    EXPECT_EQ(same.get_SphereGeometry(), u"square");
+    EXPECT_EQ(same.getenum_SphereGeometry(), 0);
+    geometry.swap(same);
+    EXPECT_EQ(write(geometry, "Vyr:G"), "<Vyr:G><Vyr:SphereGeometry>square</Vyr:SphereGeometry></Vyr:G>");
+    EXPECT_TRUE(geometry.setenum_SphereGeometry(2));
+    EXPECT_EQ(geometry.getenum_SphereGeometry(), 2);
+}
+
 TEST(Objects, CopiesRaiseTheFlagsOfMandatoryItems) {
     v2::Person person;
     EXPECT_EQ(write_code(person, "Vyr:Person"), ELMX_OCCURS_ERROR_ON_MARSHAL);
