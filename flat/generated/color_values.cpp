@@ -65,7 +65,7 @@ VYR_FLAT(std::int32_t) CSharp_ColorSpaceType_insert_CustomAttribute(void* self, 
 VYR_FLAT(void*) CSharp_ColorSpaceType_back_CustomAttribute(void* self) { return &as<ColorSpaceType>(self).back_CustomAttribute(); }
 VYR_FLAT(void) CSharp_ColorSpaceType_delete_CustomAttribute(void* self, std::uint32_t index) { as<ColorSpaceType>(self).delete_CustomAttribute(index); }
 VYR_FLAT(void) CSharp_ColorSpaceType_clear_CustomAttribute(void* self) { as<ColorSpaceType>(self).clear_CustomAttribute(); }
-VYR_FLAT(void*) CSharp_ColorSpaceType_get_ParentColorSpace__SWIG_0(void* self) { return &as<ColorSpaceType>(self).get_ParentColorSpace(); }
+VYR_FLAT(void*) CSharp_ColorSpaceType_get_ParentColorSpace__SWIG_0(void* self) { return guarded(+[](void* s) -> void* { return &as<ColorSpaceType>(s).get_ParentColorSpace(); }, self); }
 VYR_FLAT(void*) CSharp_ColorSpaceType_assign_ParentColorSpace(void* self, void* value) { return checked("com_vyrgraph_v2::ParentColorSpace const & type is null", +[](void* v, void* s) -> void* { return &as<ColorSpaceType>(s).assign_ParentColorSpace(as<ParentColorSpace>(v)); }, value, self); }
 VYR_FLAT(std::int32_t) CSharp_ColorSpaceType_isset_ParentColorSpace(void* self) { return as<ColorSpaceType>(self).isset_ParentColorSpace(); }
 VYR_FLAT(void) CSharp_ColorSpaceType_unset_ParentColorSpace(void* self) { as<ColorSpaceType>(self).unset_ParentColorSpace(); }

@@ -87,11 +87,11 @@ VYR_FLAT(std::uint32_t) CSharp_DeviceSettings_get_GlassCompensation(void* self) 
 VYR_FLAT(std::int32_t) CSharp_DeviceSettings_set_GlassCompensation(void* self, std::uint32_t value) { return as<DeviceSettings>(self).set_GlassCompensation(to_bool(value)); }
 VYR_FLAT(std::int32_t) CSharp_DeviceSettings_isset_GlassCompensation(void* self) { return as<DeviceSettings>(self).isset_GlassCompensation(); }
 VYR_FLAT(void) CSharp_DeviceSettings_unset_GlassCompensation(void* self) { as<DeviceSettings>(self).unset_GlassCompensation(); }
-VYR_FLAT(void*) CSharp_DeviceSettings_get_GlossCompensation__SWIG_0(void* self) { return &as<DeviceSettings>(self).get_GlossCompensation(); }
+VYR_FLAT(void*) CSharp_DeviceSettings_get_GlossCompensation__SWIG_0(void* self) { return guarded(+[](void* s) -> void* { return &as<DeviceSettings>(s).get_GlossCompensation(); }, self); }
 VYR_FLAT(void*) CSharp_DeviceSettings_assign_GlossCompensation(void* self, void* value) { return checked("com_vyrgraph_v2::GlossCompensation const & type is null", +[](void* v, void* s) -> void* { return &as<DeviceSettings>(s).assign_GlossCompensation(as<GlossCompensation>(v)); }, value, self); }
 VYR_FLAT(std::int32_t) CSharp_DeviceSettings_isset_GlossCompensation(void* self) { return as<DeviceSettings>(self).isset_GlossCompensation(); }
 VYR_FLAT(void) CSharp_DeviceSettings_unset_GlossCompensation(void* self) { as<DeviceSettings>(self).unset_GlossCompensation(); }
-VYR_FLAT(void*) CSharp_DeviceSettings_get_Averaging__SWIG_0(void* self) { return &as<DeviceSettings>(self).get_Averaging(); }
+VYR_FLAT(void*) CSharp_DeviceSettings_get_Averaging__SWIG_0(void* self) { return guarded(+[](void* s) -> void* { return &as<DeviceSettings>(s).get_Averaging(); }, self); }
 VYR_FLAT(void*) CSharp_DeviceSettings_assign_Averaging(void* self, void* value) { return checked("com_vyrgraph_v2::Averaging const & type is null", +[](void* v, void* s) -> void* { return &as<DeviceSettings>(s).assign_Averaging(as<Averaging>(v)); }, value, self); }
 VYR_FLAT(std::int32_t) CSharp_DeviceSettings_isset_Averaging(void* self) { return as<DeviceSettings>(self).isset_Averaging(); }
 VYR_FLAT(void) CSharp_DeviceSettings_unset_Averaging(void* self) { as<DeviceSettings>(self).unset_Averaging(); }
@@ -135,11 +135,11 @@ VYR_FLAT(char16_t*) CSharp_DeviceType_get_BootFirmwareVersion(void* self) { retu
 VYR_FLAT(std::int32_t) CSharp_DeviceType_set_BootFirmwareVersion(void* self, const char16_t* value) { return with_text(self, value, [](void* s, wide_text v) { return as<DeviceType>(s).set_BootFirmwareVersion(v); }); }
 VYR_FLAT(std::int32_t) CSharp_DeviceType_isset_BootFirmwareVersion(void* self) { return as<DeviceType>(self).isset_BootFirmwareVersion(); }
 VYR_FLAT(void) CSharp_DeviceType_unset_BootFirmwareVersion(void* self) { as<DeviceType>(self).unset_BootFirmwareVersion(); }
-VYR_FLAT(void*) CSharp_DeviceType_get_CalibrationState__SWIG_0(void* self) { return &as<DeviceType>(self).get_CalibrationState(); }
+VYR_FLAT(void*) CSharp_DeviceType_get_CalibrationState__SWIG_0(void* self) { return guarded(+[](void* s) -> void* { return &as<DeviceType>(s).get_CalibrationState(); }, self); }
 VYR_FLAT(void*) CSharp_DeviceType_assign_CalibrationState(void* self, void* value) { return checked("com_vyrgraph_v2::CalibrationStateType const & type is null", +[](void* v, void* s) -> void* { return &as<DeviceType>(s).assign_CalibrationState(as<CalibrationStateType>(v)); }, value, self); }
 VYR_FLAT(std::int32_t) CSharp_DeviceType_isset_CalibrationState(void* self) { return as<DeviceType>(self).isset_CalibrationState(); }
 VYR_FLAT(void) CSharp_DeviceType_unset_CalibrationState(void* self) { as<DeviceType>(self).unset_CalibrationState(); }
-VYR_FLAT(void*) CSharp_DeviceType_get_DeviceSettings__SWIG_0(void* self) { return &as<DeviceType>(self).get_DeviceSettings(); }
+VYR_FLAT(void*) CSharp_DeviceType_get_DeviceSettings__SWIG_0(void* self) { return guarded(+[](void* s) -> void* { return &as<DeviceType>(s).get_DeviceSettings(); }, self); }
 VYR_FLAT(void*) CSharp_DeviceType_assign_DeviceSettings(void* self, void* value) { return checked("com_vyrgraph_v2::DeviceSettings const & type is null", +[](void* v, void* s) -> void* { return &as<DeviceType>(s).assign_DeviceSettings(as<DeviceSettings>(v)); }, value, self); }
 VYR_FLAT(std::int32_t) CSharp_DeviceType_isset_DeviceSettings(void* self) { return as<DeviceType>(self).isset_DeviceSettings(); }
 VYR_FLAT(void) CSharp_DeviceType_unset_DeviceSettings(void* self) { as<DeviceType>(self).unset_DeviceSettings(); }

@@ -89,19 +89,19 @@ VYR_FLAT(char16_t*) CSharp_Header_get_Comments(void* self) { return new_string(a
 VYR_FLAT(std::int32_t) CSharp_Header_set_Comments(void* self, const char16_t* value) { return with_text(self, value, [](void* s, wide_text v) { return as<Header>(s).set_Comments(v); }); }
 VYR_FLAT(std::int32_t) CSharp_Header_isset_Comments(void* self) { return as<Header>(self).isset_Comments(); }
 VYR_FLAT(void) CSharp_Header_unset_Comments(void* self) { as<Header>(self).unset_Comments(); }
-VYR_FLAT(void*) CSharp_Header_get_ReadSDKInformation__SWIG_0(void* self) { return &as<Header>(self).get_ReadSDKInformation(); }
+VYR_FLAT(void*) CSharp_Header_get_ReadSDKInformation__SWIG_0(void* self) { return guarded(+[](void* s) -> void* { return &as<Header>(s).get_ReadSDKInformation(); }, self); }
 VYR_FLAT(void*) CSharp_Header_assign_ReadSDKInformation(void* self, void* value) { return checked("com_vyrgraph_v2::SDKType const & type is null", +[](void* v, void* s) -> void* { return &as<Header>(s).assign_ReadSDKInformation(as<SDKType>(v)); }, value, self); }
 VYR_FLAT(std::int32_t) CSharp_Header_isset_ReadSDKInformation(void* self) { return as<Header>(self).isset_ReadSDKInformation(); }
 VYR_FLAT(void) CSharp_Header_unset_ReadSDKInformation(void* self) { as<Header>(self).unset_ReadSDKInformation(); }
-VYR_FLAT(void*) CSharp_Header_get_WriteSDKInformation__SWIG_0(void* self) { return &as<Header>(self).get_WriteSDKInformation(); }
+VYR_FLAT(void*) CSharp_Header_get_WriteSDKInformation__SWIG_0(void* self) { return guarded(+[](void* s) -> void* { return &as<Header>(s).get_WriteSDKInformation(); }, self); }
 VYR_FLAT(void*) CSharp_Header_assign_WriteSDKInformation(void* self, void* value) { return checked("com_vyrgraph_v2::SDKType const & type is null", +[](void* v, void* s) -> void* { return &as<Header>(s).assign_WriteSDKInformation(as<SDKType>(v)); }, value, self); }
 VYR_FLAT(std::int32_t) CSharp_Header_isset_WriteSDKInformation(void* self) { return as<Header>(self).isset_WriteSDKInformation(); }
 VYR_FLAT(void) CSharp_Header_unset_WriteSDKInformation(void* self) { as<Header>(self).unset_WriteSDKInformation(); }
-VYR_FLAT(void*) CSharp_Header_get_ReadPlatformInformation__SWIG_0(void* self) { return &as<Header>(self).get_ReadPlatformInformation(); }
+VYR_FLAT(void*) CSharp_Header_get_ReadPlatformInformation__SWIG_0(void* self) { return guarded(+[](void* s) -> void* { return &as<Header>(s).get_ReadPlatformInformation(); }, self); }
 VYR_FLAT(void*) CSharp_Header_assign_ReadPlatformInformation(void* self, void* value) { return checked("com_vyrgraph_v2::PlatformType const & type is null", +[](void* v, void* s) -> void* { return &as<Header>(s).assign_ReadPlatformInformation(as<PlatformType>(v)); }, value, self); }
 VYR_FLAT(std::int32_t) CSharp_Header_isset_ReadPlatformInformation(void* self) { return as<Header>(self).isset_ReadPlatformInformation(); }
 VYR_FLAT(void) CSharp_Header_unset_ReadPlatformInformation(void* self) { as<Header>(self).unset_ReadPlatformInformation(); }
-VYR_FLAT(void*) CSharp_Header_get_WritePlatformInformation__SWIG_0(void* self) { return &as<Header>(self).get_WritePlatformInformation(); }
+VYR_FLAT(void*) CSharp_Header_get_WritePlatformInformation__SWIG_0(void* self) { return guarded(+[](void* s) -> void* { return &as<Header>(s).get_WritePlatformInformation(); }, self); }
 VYR_FLAT(void*) CSharp_Header_assign_WritePlatformInformation(void* self, void* value) { return checked("com_vyrgraph_v2::PlatformType const & type is null", +[](void* v, void* s) -> void* { return &as<Header>(s).assign_WritePlatformInformation(as<PlatformType>(v)); }, value, self); }
 VYR_FLAT(std::int32_t) CSharp_Header_isset_WritePlatformInformation(void* self) { return as<Header>(self).isset_WritePlatformInformation(); }
 VYR_FLAT(void) CSharp_Header_unset_WritePlatformInformation(void* self) { as<Header>(self).unset_WritePlatformInformation(); }
@@ -186,11 +186,11 @@ VYR_FLAT(void) CSharp_Preamble_reset(void* self) { guarded(+[](void* s) { return
 VYR_FLAT(std::int32_t) CSharp_Preamble_is_occurs_ok(void* self) { return as<Preamble>(self).is_occurs_ok(); }
 VYR_FLAT(void*) CSharp_Preamble_get_Header__SWIG_0(void* self) { return &as<Preamble>(self).get_Header(); }
 VYR_FLAT(void*) CSharp_Preamble_assign_Header(void* self, void* value) { return checked("com_vyrgraph_v2::Header const & type is null", +[](void* v, void* s) -> void* { return &as<Preamble>(s).assign_Header(as<Header>(v)); }, value, self); }
-VYR_FLAT(void*) CSharp_Preamble_get_Owner__SWIG_0(void* self) { return &as<Preamble>(self).get_Owner(); }
+VYR_FLAT(void*) CSharp_Preamble_get_Owner__SWIG_0(void* self) { return guarded(+[](void* s) -> void* { return &as<Preamble>(s).get_Owner(); }, self); }
 VYR_FLAT(void*) CSharp_Preamble_assign_Owner(void* self, void* value) { return checked("com_vyrgraph_v2::OwnerType const & type is null", +[](void* v, void* s) -> void* { return &as<Preamble>(s).assign_Owner(as<OwnerType>(v)); }, value, self); }
 VYR_FLAT(std::int32_t) CSharp_Preamble_isset_Owner(void* self) { return as<Preamble>(self).isset_Owner(); }
 VYR_FLAT(void) CSharp_Preamble_unset_Owner(void* self) { as<Preamble>(self).unset_Owner(); }
-VYR_FLAT(void*) CSharp_Preamble_get_Version__SWIG_0(void* self) { return &as<Preamble>(self).get_Version(); }
+VYR_FLAT(void*) CSharp_Preamble_get_Version__SWIG_0(void* self) { return guarded(+[](void* s) -> void* { return &as<Preamble>(s).get_Version(); }, self); }
 VYR_FLAT(void*) CSharp_Preamble_assign_Version(void* self, void* value) { return checked("com_vyrgraph_v2::Version const & type is null", +[](void* v, void* s) -> void* { return &as<Preamble>(s).assign_Version(as<Version>(v)); }, value, self); }
 VYR_FLAT(std::int32_t) CSharp_Preamble_isset_Version(void* self) { return as<Preamble>(self).isset_Version(); }
 VYR_FLAT(void) CSharp_Preamble_unset_Version(void* self) { as<Preamble>(self).unset_Version(); }

@@ -63,7 +63,7 @@ VYR_FLAT(void) CSharp_ToleranceType_delete_CustomAttribute(void* self, std::uint
 VYR_FLAT(void) CSharp_ToleranceType_clear_CustomAttribute(void* self) { as<ToleranceType>(self).clear_CustomAttribute(); }
 VYR_FLAT(void*) CSharp_ToleranceType_get_Function__SWIG_0(void* self) { return &as<ToleranceType>(self).get_Function(); }
 VYR_FLAT(void*) CSharp_ToleranceType_assign_Function(void* self, void* value) { return checked("com_vyrgraph_v2::sg_Function const & type is null", +[](void* v, void* s) -> void* { return &as<ToleranceType>(s).assign_Function(as<sg_Function>(v)); }, value, self); }
-VYR_FLAT(void*) CSharp_ToleranceType_get_Limits__SWIG_0(void* self) { return &as<ToleranceType>(self).get_Limits(); }
+VYR_FLAT(void*) CSharp_ToleranceType_get_Limits__SWIG_0(void* self) { return guarded(+[](void* s) -> void* { return &as<ToleranceType>(s).get_Limits(); }, self); }
 VYR_FLAT(void*) CSharp_ToleranceType_assign_Limits(void* self, void* value) { return checked("com_vyrgraph_v2::LimitsType const & type is null", +[](void* v, void* s) -> void* { return &as<ToleranceType>(s).assign_Limits(as<LimitsType>(v)); }, value, self); }
 VYR_FLAT(std::int32_t) CSharp_ToleranceType_isset_Limits(void* self) { return as<ToleranceType>(self).isset_Limits(); }
 VYR_FLAT(void) CSharp_ToleranceType_unset_Limits(void* self) { as<ToleranceType>(self).unset_Limits(); }
@@ -103,7 +103,7 @@ VYR_FLAT(std::uint32_t) CSharp_ToleranceType_get_Global(void* self) { return as<
 VYR_FLAT(std::int32_t) CSharp_ToleranceType_set_Global(void* self, std::uint32_t value) { return as<ToleranceType>(self).set_Global(to_bool(value)); }
 VYR_FLAT(std::int32_t) CSharp_ToleranceType_isset_Global(void* self) { return as<ToleranceType>(self).isset_Global(); }
 VYR_FLAT(void) CSharp_ToleranceType_unset_Global(void* self) { as<ToleranceType>(self).unset_Global(); }
-VYR_FLAT(void*) CSharp_ToleranceType_get_Geometry__SWIG_0(void* self) { return &as<ToleranceType>(self).get_Geometry(); }
+VYR_FLAT(void*) CSharp_ToleranceType_get_Geometry__SWIG_0(void* self) { return guarded(+[](void* s) -> void* { return &as<ToleranceType>(s).get_Geometry(); }, self); }
 VYR_FLAT(void*) CSharp_ToleranceType_assign_Geometry(void* self, void* value) { return checked("com_vyrgraph_v2::GeometryChoiceType const & type is null", +[](void* v, void* s) -> void* { return &as<ToleranceType>(s).assign_Geometry(as<GeometryChoiceType>(v)); }, value, self); }
 VYR_FLAT(std::int32_t) CSharp_ToleranceType_isset_Geometry(void* self) { return as<ToleranceType>(self).isset_Geometry(); }
 VYR_FLAT(void) CSharp_ToleranceType_unset_Geometry(void* self) { as<ToleranceType>(self).unset_Geometry(); }
@@ -141,7 +141,7 @@ VYR_FLAT(char16_t*) CSharp_PhysicalSampleType_get_Coating(void* self) { return n
 VYR_FLAT(std::int32_t) CSharp_PhysicalSampleType_set_Coating(void* self, const char16_t* value) { return with_text(self, value, [](void* s, wide_text v) { return as<PhysicalSampleType>(s).set_Coating(v); }); }
 VYR_FLAT(std::int32_t) CSharp_PhysicalSampleType_isset_Coating(void* self) { return as<PhysicalSampleType>(self).isset_Coating(); }
 VYR_FLAT(void) CSharp_PhysicalSampleType_unset_Coating(void* self) { as<PhysicalSampleType>(self).unset_Coating(); }
-VYR_FLAT(void*) CSharp_PhysicalSampleType_get_Process__SWIG_0(void* self) { return &as<PhysicalSampleType>(self).get_Process(); }
+VYR_FLAT(void*) CSharp_PhysicalSampleType_get_Process__SWIG_0(void* self) { return guarded(+[](void* s) -> void* { return &as<PhysicalSampleType>(s).get_Process(); }, self); }
 VYR_FLAT(void*) CSharp_PhysicalSampleType_assign_Process(void* self, void* value) { return checked("com_vyrgraph_v2::Process const & type is null", +[](void* v, void* s) -> void* { return &as<PhysicalSampleType>(s).assign_Process(as<Process>(v)); }, value, self); }
 VYR_FLAT(std::int32_t) CSharp_PhysicalSampleType_isset_Process(void* self) { return as<PhysicalSampleType>(self).isset_Process(); }
 VYR_FLAT(void) CSharp_PhysicalSampleType_unset_Process(void* self) { as<PhysicalSampleType>(self).unset_Process(); }
@@ -194,7 +194,7 @@ VYR_FLAT(std::int32_t) CSharp_ColorQualityControlType_insert_StandardAndMeasurem
 VYR_FLAT(void*) CSharp_ColorQualityControlType_back_StandardAndMeasurement(void* self) { return &as<ColorQualityControlType>(self).back_StandardAndMeasurement(); }
 VYR_FLAT(void) CSharp_ColorQualityControlType_delete_StandardAndMeasurement(void* self, std::uint32_t index) { as<ColorQualityControlType>(self).delete_StandardAndMeasurement(index); }
 VYR_FLAT(void) CSharp_ColorQualityControlType_clear_StandardAndMeasurement(void* self) { as<ColorQualityControlType>(self).clear_StandardAndMeasurement(); }
-VYR_FLAT(void*) CSharp_ColorQualityControlType_get_PhysicalSample__SWIG_0(void* self) { return &as<ColorQualityControlType>(self).get_PhysicalSample(); }
+VYR_FLAT(void*) CSharp_ColorQualityControlType_get_PhysicalSample__SWIG_0(void* self) { return guarded(+[](void* s) -> void* { return &as<ColorQualityControlType>(s).get_PhysicalSample(); }, self); }
 VYR_FLAT(void*) CSharp_ColorQualityControlType_assign_PhysicalSample(void* self, void* value) { return checked("com_vyrgraph_v2::PhysicalSampleType const & type is null", +[](void* v, void* s) -> void* { return &as<ColorQualityControlType>(s).assign_PhysicalSample(as<PhysicalSampleType>(v)); }, value, self); }
 VYR_FLAT(std::int32_t) CSharp_ColorQualityControlType_isset_PhysicalSample(void* self) { return as<ColorQualityControlType>(self).isset_PhysicalSample(); }
 VYR_FLAT(void) CSharp_ColorQualityControlType_unset_PhysicalSample(void* self) { as<ColorQualityControlType>(self).unset_PhysicalSample(); }

@@ -76,7 +76,7 @@ VYR_FLAT(char16_t*) CSharp_ColorSpaceTINTORAType_get_Gamut(void* self) { return 
 VYR_FLAT(std::int32_t) CSharp_ColorSpaceTINTORAType_set_Gamut(void* self, const char16_t* value) { return with_text(self, value, [](void* s, wide_text v) { return as<ColorSpaceTINTORAType>(s).set_Gamut(v); }); }
 VYR_FLAT(std::int32_t) CSharp_ColorSpaceTINTORAType_getenum_Gamut(void* self) { return as<ColorSpaceTINTORAType>(self).getenum_Gamut(); }
 VYR_FLAT(std::int32_t) CSharp_ColorSpaceTINTORAType_setenum_Gamut(void* self, std::int32_t number) { return guarded(+[](void* s, std::int32_t n) { return as<ColorSpaceTINTORAType>(s).setenum_Gamut(n); }, self, number); }
-VYR_FLAT(void*) CSharp_ColorSpaceTINTORAType_get_Recipe__SWIG_0(void* self) { return &as<ColorSpaceTINTORAType>(self).get_Recipe(); }
+VYR_FLAT(void*) CSharp_ColorSpaceTINTORAType_get_Recipe__SWIG_0(void* self) { return guarded(+[](void* s) -> void* { return &as<ColorSpaceTINTORAType>(s).get_Recipe(); }, self); }
 VYR_FLAT(void*) CSharp_ColorSpaceTINTORAType_assign_Recipe(void* self, void* value) { return checked("com_vyrgraph_v2::Recipe const & type is null", +[](void* v, void* s) -> void* { return &as<ColorSpaceTINTORAType>(s).assign_Recipe(as<Recipe>(v)); }, value, self); }
 VYR_FLAT(std::int32_t) CSharp_ColorSpaceTINTORAType_isset_Recipe(void* self) { return as<ColorSpaceTINTORAType>(self).isset_Recipe(); }
 VYR_FLAT(void) CSharp_ColorSpaceTINTORAType_unset_Recipe(void* self) { as<ColorSpaceTINTORAType>(self).unset_Recipe(); }
@@ -266,7 +266,7 @@ VYR_FLAT(std::int32_t) CSharp_ColorSpaceRecipeType_insert_ColorantElement(void* 
 VYR_FLAT(void*) CSharp_ColorSpaceRecipeType_back_ColorantElement(void* self) { return &as<ColorSpaceRecipeType>(self).back_ColorantElement(); }
 VYR_FLAT(void) CSharp_ColorSpaceRecipeType_delete_ColorantElement(void* self, std::uint32_t index) { as<ColorSpaceRecipeType>(self).delete_ColorantElement(index); }
 VYR_FLAT(void) CSharp_ColorSpaceRecipeType_clear_ColorantElement(void* self) { as<ColorSpaceRecipeType>(self).clear_ColorantElement(); }
-VYR_FLAT(void*) CSharp_ColorSpaceRecipeType_get_BaseElement__SWIG_0(void* self) { return &as<ColorSpaceRecipeType>(self).get_BaseElement(); }
+VYR_FLAT(void*) CSharp_ColorSpaceRecipeType_get_BaseElement__SWIG_0(void* self) { return guarded(+[](void* s) -> void* { return &as<ColorSpaceRecipeType>(s).get_BaseElement(); }, self); }
 VYR_FLAT(void*) CSharp_ColorSpaceRecipeType_assign_BaseElement(void* self, void* value) { return checked("com_vyrgraph_v2::BaseElementType const & type is null", +[](void* v, void* s) -> void* { return &as<ColorSpaceRecipeType>(s).assign_BaseElement(as<BaseElementType>(v)); }, value, self); }
 VYR_FLAT(std::int32_t) CSharp_ColorSpaceRecipeType_isset_BaseElement(void* self) { return as<ColorSpaceRecipeType>(self).isset_BaseElement(); }
 VYR_FLAT(void) CSharp_ColorSpaceRecipeType_unset_BaseElement(void* self) { as<ColorSpaceRecipeType>(self).unset_BaseElement(); }

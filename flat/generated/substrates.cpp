@@ -42,7 +42,7 @@ VYR_FLAT(char16_t*) CSharp_SubstrateType_get_PartNumber(void* self) { return new
 VYR_FLAT(std::int32_t) CSharp_SubstrateType_set_PartNumber(void* self, const char16_t* value) { return with_text(self, value, [](void* s, wide_text v) { return as<SubstrateType>(s).set_PartNumber(v); }); }
 VYR_FLAT(std::int32_t) CSharp_SubstrateType_isset_PartNumber(void* self) { return as<SubstrateType>(self).isset_PartNumber(); }
 VYR_FLAT(void) CSharp_SubstrateType_unset_PartNumber(void* self) { as<SubstrateType>(self).unset_PartNumber(); }
-VYR_FLAT(void*) CSharp_SubstrateType_get_Color__SWIG_0(void* self) { return &as<SubstrateType>(self).get_Color(); }
+VYR_FLAT(void*) CSharp_SubstrateType_get_Color__SWIG_0(void* self) { return guarded(+[](void* s) -> void* { return &as<SubstrateType>(s).get_Color(); }, self); }
 VYR_FLAT(void*) CSharp_SubstrateType_assign_Color(void* self, void* value) { return checked("com_vyrgraph_v2::ColorType const & type is null", +[](void* v, void* s) -> void* { return &as<SubstrateType>(s).assign_Color(as<ColorType>(v)); }, value, self); }
 VYR_FLAT(std::int32_t) CSharp_SubstrateType_isset_Color(void* self) { return as<SubstrateType>(self).isset_Color(); }
 VYR_FLAT(void) CSharp_SubstrateType_unset_Color(void* self) { as<SubstrateType>(self).unset_Color(); }

@@ -91,9 +91,10 @@ elmx_error print_item(c_xml_writer& writer, const s_item& item, const void* obje
             print_simple_list(writer, item, object);
             return ELMX_OK;
         case item_kind::child:
+        case item_kind::optional_child:
         case item_kind::group:
             if (!is_printed) return ELMX_OK;
-            return item.type->operations->marshal(&member<std::byte>(object, item.offset), writer, item.name.data());
+            return item.type->operations->marshal(child_of(item, object), writer, item.name.data());
         case item_kind::child_list:
         case item_kind::group_list:
             return print_list(writer, item, object);

@@ -33,8 +33,11 @@ void copy_list(const s_item& item, void* target, const void* source) {
 void copy_single(const s_item& item, void* target, const void* source) {
     if (item.kind == item_kind::marker) return;
     if ((item.use & use_copied) == 0 && !is_set(item, source)) return;
-    const auto assign = item.type != nullptr ? item.type->operations->assign : kind_of(item).assign;
-    assign(&member<std::byte>(target, item.offset), &member<std::byte>(source, item.offset));
+    if (item.type != nullptr) {
+        item.type->operations->assign(touch_child(item, target), child_of(item, source));
+    } else {
+        kind_of(item).assign(&member<std::byte>(target, item.offset), &member<std::byte>(source, item.offset));
+    }
     mark_set(item, target);
 }
 
@@ -152,8 +155,10 @@ elmx_error set_simple(const s_class& type, const s_item& item, void* object, con
 template <class T>
 elmx_error insert_simple(const s_item& item, void* object, std::size_t index, const T& value) {
     const elmx_error code = first_fault(c_set_checks<T>(item.facets, value));
-    if (code == ELMX_OK) member<c_list<T>>(object, item.offset).insert(index) = value;
-    return code;
+    if (code != ELMX_OK) return code;
+    T copy = value;
+    member<c_list<T>>(object, item.offset).insert(index) = std::move(copy);
+    return ELMX_OK;
 }
 
 template <class T>
@@ -163,6 +168,48 @@ elmx_error set_entry_value(const s_item& item, void* object, std::size_t index, 
     const elmx_error code = first_fault(c_set_checks<T>(item.facets, value));
     if (code == ELMX_OK) values[index] = value;
     return code;
+}
+
+/// What one of two objects has of optional children, the other gets too, down to the last level.
+void touch_children_of_either(const s_class& type, void* one, void* other) {
+    if (type.base != nullptr) touch_children_of_either(*type.base, one, other);
+    for (const s_item& item : type.elements) {
+        if (item.kind != item_kind::child && item.kind != item_kind::optional_child) continue;
+        if (child_of(item, one) == nullptr && child_of(item, other) == nullptr) continue;
+        touch_children_of_either(*item.type, touch_child(item, one), touch_child(item, other));
+    }
+}
+
+/// Exchanges the values of two objects. Optional children change hands, or if not, exchange values too: then both
+/// objects must have the same ones.
+void exchange_values(const s_class& type, void* one, void* other, bool children_change_hands) {
+    if (type.base != nullptr) exchange_values(*type.base, one, other, children_change_hands);
+    if (type.nil_flag != k_no_flag) std::swap(member<bool>(one, type.nil_flag), member<bool>(other, type.nil_flag));
+    const auto swap_item = [&](const s_item& item) {
+        if (item.flag != k_no_flag) std::swap(member<bool>(one, item.flag), member<bool>(other, item.flag));
+        void* const place = &member<std::byte>(one, item.offset);
+        void* const other_place = &member<std::byte>(other, item.offset);
+        if (is_repeating(item)) {
+            static_cast<c_list_base*>(place)->swap(*static_cast<c_list_base*>(other_place));
+        } else if (item.kind == item_kind::optional_child && children_change_hands) {
+            static_cast<c_optional_child_base*>(place)->swap(*static_cast<c_optional_child_base*>(other_place));
+        } else if (item.type != nullptr) {
+            if (child_of(item, one) == nullptr) return;
+            exchange_values(*item.type, touch_child(item, one), touch_child(item, other), children_change_hands);
+        } else if (item.kind != item_kind::marker) {
+            kind_of(item).swap(place, other_place);
+        }
+    };
+    std::for_each(type.attributes.begin(), type.attributes.end(), swap_item);
+    if (type.choice != k_no_flag) {
+        s_choice& choice = choice_of(type, one);
+        s_choice& other_choice = choice_of(type, other);
+        std::swap(choice, other_choice);
+        // The flag goes with the item that it is of.
+        std::swap(choice.is_touched, other_choice.is_touched);
+    } else {
+        std::for_each(type.elements.begin(), type.elements.end(), swap_item);
+    }
 }
 
 }  // namespace
@@ -207,29 +254,11 @@ void copy(const s_class& type, void* target, const void* source) {
 }
 
 void swap(const s_class& type, void* one, void* other) {
-    if (type.base != nullptr) swap(*type.base, one, other);
-    if (type.nil_flag != k_no_flag) std::swap(member<bool>(one, type.nil_flag), member<bool>(other, type.nil_flag));
-    const auto swap_item = [&](const s_item& item) {
-        if (item.flag != k_no_flag) std::swap(member<bool>(one, item.flag), member<bool>(other, item.flag));
-        if (is_repeating(item)) {
-            member<c_list_base>(one, item.offset).swap(member<c_list_base>(other, item.offset));
-        } else if (item.type != nullptr) {
-            item.type->operations->swap(&member<std::byte>(one, item.offset), &member<std::byte>(other, item.offset));
-        } else if (item.kind != item_kind::marker) {
-            kind_of(item).swap(&member<std::byte>(one, item.offset), &member<std::byte>(other, item.offset));
-        }
-    };
-    std::for_each(type.attributes.begin(), type.attributes.end(), swap_item);
-    if (type.choice != k_no_flag) {
-        s_choice& choice = choice_of(type, one);
-        s_choice& other_choice = choice_of(type, other);
-        std::swap(choice, other_choice);
-        // The flag goes with the item that it is of.
-        std::swap(choice.is_touched, other_choice.is_touched);
-    } else {
-        std::for_each(type.elements.begin(), type.elements.end(), swap_item);
-    }
+    touch_children_of_either(type, one, other);
+    exchange_values(type, one, other, false);
 }
+
+void exchange(const s_class& type, void* one, void* other) { exchange_values(type, one, other, true); }
 
 bool is_occurs_ok(const s_class& type, const void* object) {
     if (is_nil(type, object)) return true;

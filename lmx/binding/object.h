@@ -22,8 +22,12 @@ namespace lmx {
 /// and those count as present afterwards.
 VYR_EXPORT void copy(const s_class& type, void* target, const void* source);
 
-/// Exchanges two objects of one class, the base's items first.
+/// Exchanges the values of two objects of one class, the base's items first. Children stay where they are: an
+/// optional one that only one object has is made in the other first, and nothing is exchanged if that fails.
 VYR_EXPORT void swap(const s_class& type, void* one, void* other);
+
+/// The same, but optional children change hands. Can't fail.
+VYR_EXPORT void exchange(const s_class& type, void* one, void* other);
 
 /// True if everything that this level must have is there, or the element is nil. Doesn't look into children.
 VYR_EXPORT bool is_occurs_ok(const s_class& type, const void* object);

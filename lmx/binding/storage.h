@@ -36,6 +36,21 @@ inline bool is_nil(const s_class& type, const void* object) {
     return type.nil_flag != k_no_flag && member<bool>(object, type.nil_flag);
 }
 
+/// The object of a child. Of an optional one that was never touched, null.
+inline const void* child_of(const s_item& item, const void* object) {
+    return item.kind == item_kind::optional_child ? member<c_optional_child_base>(object, item.offset).object()
+                                                  : &member<std::byte>(object, item.offset);
+}
+/// The same; makes an optional one if there is none.
+inline void* touch_child(const s_item& item, void* object) {
+    if (item.kind == item_kind::optional_child) {
+        auto& child = member<c_optional_child_base>(object, item.offset);
+        if (child.object() == nullptr) child.adopt(item.type->operations->create());
+        return child.object();
+    }
+    return &member<std::byte>(object, item.offset);
+}
+
 inline bool is_repeating(const s_item& item) {
     switch (item.kind) {
         case item_kind::element_list:

@@ -18,6 +18,7 @@
 
 #include "lmx/binding/enumerated.h"
 #include "lmx/binding/list.h"
+#include "lmx/binding/optional_child.h"
 #include "lmx/binding/stored_type.h"
 #include "lmx/error.h"
 #include "lmx/ns_map.h"
@@ -37,21 +38,22 @@ struct s_class;
 struct s_document;
 
 /// Raised whenever rows change their meaning: generated code asserts the value it was made for.
-inline constexpr int k_binding_version = 2;
+inline constexpr int k_binding_version = 3;
 
 /// What an item is, and with it how it's stored.
 enum class item_kind : std::uint8_t {
-    attribute,     ///< simple attribute: a value and a flag
-    element,       ///< simple child element: a value and a flag
-    element_list,  ///< repeating simple child element: `c_list` of values
-    child,         ///< child element of a class: the object and a flag
-    child_list,    ///< repeating child element of a class: `c_list` of objects
-    group,         ///< substitution-group holder or inline choice: the object and a flag
-    group_list,    ///< repeating holder: `c_list` of holders
-    marker,        ///< child element without content that nothing stores
-    content,       ///< the element's own simple content: a value and a flag
-    any,           ///< open content kept as text: `c_list` of `c_any_info`
-    alternative,   ///< simple or class alternative of a choice, or a group's member: lives in `s_choice`
+    attribute,       ///< simple attribute: a value and a flag
+    element,         ///< simple child element: a value and a flag
+    element_list,    ///< repeating simple child element: `c_list` of values
+    child,           ///< child element of a class: the object and a flag
+    optional_child,  ///< the same if it may be absent: `c_optional_child` and a flag
+    child_list,      ///< repeating child element of a class: `c_list` of objects
+    group,           ///< substitution-group holder or inline choice: the object and a flag
+    group_list,      ///< repeating holder: `c_list` of holders
+    marker,          ///< child element without content that nothing stores
+    content,         ///< the element's own simple content: a value and a flag
+    any,             ///< open content kept as text: `c_list` of `c_any_info`
+    alternative,     ///< simple or class alternative of a choice, or a group's member: lives in `s_choice`
 };
 
 /// The C++ type of a simple value.
@@ -282,6 +284,8 @@ constexpr std::uint32_t checked_offset(std::size_t offset) {
     constexpr bool is_list = Kind == item_kind::element_list || Kind == item_kind::child_list ||
                              Kind == item_kind::group_list || Kind == item_kind::any;
     static_assert(is_list == std::is_base_of_v<c_list_base, Member>, "a repeating item lies in a c_list");
+    static_assert((Kind == item_kind::optional_child) == std::is_base_of_v<c_optional_child_base, Member>,
+                  "an optional child lies in a c_optional_child");
     static_assert(value_kind_of<typename s_entry_of<Member>::type>() == Value, "the member's type is another");
     return static_cast<std::uint32_t>(offset);
 }

@@ -90,8 +90,8 @@ bool read_single(const s_class& type, const s_item& item, void* object, c_xml_re
     if (reader.get_current_event() != item.token) return report_missing(reader, item, error);
     if (item.kind == item_kind::element) {
         if (!read_simple_element(type, item, object, reader, *name, error)) return false;
-    } else if (item.kind == item_kind::child) {
-        *error = item.type->operations->unmarshal(&member<std::byte>(object, item.offset), reader, *name);
+    } else if (item.kind != item_kind::marker) {
+        *error = item.type->operations->unmarshal(touch_child(item, object), reader, *name);
         if (*error != ELMX_OK) return false;
         mark_set(item, object);
     } else if (!reader.skip_rest_of_empty_element(*name) &&

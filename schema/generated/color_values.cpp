@@ -24,7 +24,7 @@ namespace com_vyrgraph_v2 {
 
 using namespace lmx;  // for the tables' sake
 
-static_assert(k_binding_version == 2, "run schema/generator/generate.py");
+static_assert(k_binding_version == 3, "run schema/generator/generate.py");
 
 // ParentColorSpace
 
@@ -89,7 +89,7 @@ ParentColorSpace::ParentColorSpace(const ParentColorSpace& other) : sg_ColorSpac
 ParentColorSpace::~ParentColorSpace() = default;
 ParentColorSpace& ParentColorSpace::operator=(const ParentColorSpace& other) { ParentColorSpace copy(other); swap(copy); return *this; }
 void ParentColorSpace::swap(ParentColorSpace& other) { lmx::swap(k_class, this, &other); }
-void ParentColorSpace::reset() { ParentColorSpace fresh; swap(fresh); }
+void ParentColorSpace::reset() { ParentColorSpace fresh; lmx::exchange(k_class, this, &fresh); }
 bool ParentColorSpace::is_occurs_ok() const { return lmx::is_occurs_ok(k_class, this); }
 lmx::elmx_error ParentColorSpace::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
 lmx::elmx_error ParentColorSpace::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
@@ -123,8 +123,8 @@ constinit const s_item ColorSpaceType::k_items[] = {
      LMX_OFFSET(ColorSpaceType, m_UniqueID, attribute, text), LMX_FLAG(ColorSpaceType, m_isset_UniqueID), 0, 0, nullptr, nullptr, {}},
     {item_kind::child_list, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:CustomAttribute", element_CustomAttribute,
      LMX_OFFSET(ColorSpaceType, m_CustomAttribute, child_list, none), k_no_flag, position_of(k_ColorSpaceType_elements, element_CustomAttribute), position_of(k_ColorSpaceType_elements, element_CustomAttribute, 1), &CustomAttributeType::k_class, nullptr, {}},
-    {item_kind::child, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:ParentColorSpace", element_ParentColorSpace,
-     LMX_OFFSET(ColorSpaceType, m_ParentColorSpace, child, none), LMX_FLAG(ColorSpaceType, m_isset_ParentColorSpace), position_of(k_ColorSpaceType_elements, element_ParentColorSpace), position_of(k_ColorSpaceType_elements, element_ParentColorSpace, 1), &ParentColorSpace::k_class, nullptr, {}},
+    {item_kind::optional_child, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:ParentColorSpace", element_ParentColorSpace,
+     LMX_OFFSET(ColorSpaceType, m_ParentColorSpace, optional_child, none), LMX_FLAG(ColorSpaceType, m_isset_ParentColorSpace), position_of(k_ColorSpaceType_elements, element_ParentColorSpace), position_of(k_ColorSpaceType_elements, element_ParentColorSpace, 1), &ParentColorSpace::k_class, nullptr, {}},
     {item_kind::element_list, value_kind::datetime, use_demanded | use_asked, ELMX_WS_COLLAPSE, "Vyr:ChangeHistory", element_ChangeHistory,
      LMX_OFFSET(ColorSpaceType, m_ChangeHistory, element_list, datetime), k_no_flag, position_of(k_ColorSpaceType_elements, element_ChangeHistory), position_of(k_ColorSpaceType_elements, element_ChangeHistory, 1), nullptr, &facets::DateTimeZone, {}},
 };
@@ -181,7 +181,7 @@ ColorSpaceType::ColorSpaceType(const ColorSpaceType& other) { lmx::copy(k_class,
 ColorSpaceType::~ColorSpaceType() = default;
 ColorSpaceType& ColorSpaceType::operator=(const ColorSpaceType& other) { ColorSpaceType copy(other); swap(copy); return *this; }
 void ColorSpaceType::swap(ColorSpaceType& other) { lmx::swap(k_class, this, &other); }
-void ColorSpaceType::reset() { ColorSpaceType fresh; swap(fresh); }
+void ColorSpaceType::reset() { ColorSpaceType fresh; lmx::exchange(k_class, this, &fresh); }
 bool ColorSpaceType::is_occurs_ok() const { return lmx::is_occurs_ok(k_class, this); }
 lmx::elmx_error ColorSpaceType::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
 lmx::elmx_error ColorSpaceType::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
@@ -204,6 +204,8 @@ lmx::elmx_error ColorSpaceType::append_CustomAttribute() { m_CustomAttribute.app
 lmx::elmx_error ColorSpaceType::insert_CustomAttribute(std::size_t index) { m_CustomAttribute.insert(index); return lmx::ELMX_OK; }
 void ColorSpaceType::delete_CustomAttribute(std::size_t index) { m_CustomAttribute.erase(index); }
 void ColorSpaceType::clear_CustomAttribute() { m_CustomAttribute.clear(); }
+ParentColorSpace& ColorSpaceType::get_ParentColorSpace() { ParentColorSpace& child = m_ParentColorSpace.touch(); m_isset_ParentColorSpace = true; return child; }
+const ParentColorSpace& ColorSpaceType::get_ParentColorSpace() const { return m_ParentColorSpace.get(); }
 ParentColorSpace& ColorSpaceType::assign_ParentColorSpace(const ParentColorSpace& value) { return get_ParentColorSpace() = value; }
 lmx::elmx_error ColorSpaceType::set_ChangeHistory(std::size_t index, const lmx::c_datetime& value) { return lmx::set_entry(k_items[item_ChangeHistory], this, index, value); }
 lmx::elmx_error ColorSpaceType::append_ChangeHistory(const lmx::c_datetime& value) { return lmx::insert_entry(k_items[item_ChangeHistory], this, size_ChangeHistory(), value); }
@@ -273,7 +275,7 @@ ColorSpaceCIELabType::ColorSpaceCIELabType(const ColorSpaceCIELabType& other) : 
 ColorSpaceCIELabType::~ColorSpaceCIELabType() = default;
 ColorSpaceCIELabType& ColorSpaceCIELabType::operator=(const ColorSpaceCIELabType& other) { ColorSpaceCIELabType copy(other); swap(copy); return *this; }
 void ColorSpaceCIELabType::swap(ColorSpaceCIELabType& other) { lmx::swap(k_class, this, &other); }
-void ColorSpaceCIELabType::reset() { ColorSpaceCIELabType fresh; swap(fresh); }
+void ColorSpaceCIELabType::reset() { ColorSpaceCIELabType fresh; lmx::exchange(k_class, this, &fresh); }
 bool ColorSpaceCIELabType::is_occurs_ok() const { return lmx::is_occurs_ok(k_class, this); }
 lmx::elmx_error ColorSpaceCIELabType::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
 lmx::elmx_error ColorSpaceCIELabType::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
@@ -344,7 +346,7 @@ ColorSpaceCIELChType::ColorSpaceCIELChType(const ColorSpaceCIELChType& other) : 
 ColorSpaceCIELChType::~ColorSpaceCIELChType() = default;
 ColorSpaceCIELChType& ColorSpaceCIELChType::operator=(const ColorSpaceCIELChType& other) { ColorSpaceCIELChType copy(other); swap(copy); return *this; }
 void ColorSpaceCIELChType::swap(ColorSpaceCIELChType& other) { lmx::swap(k_class, this, &other); }
-void ColorSpaceCIELChType::reset() { ColorSpaceCIELChType fresh; swap(fresh); }
+void ColorSpaceCIELChType::reset() { ColorSpaceCIELChType fresh; lmx::exchange(k_class, this, &fresh); }
 bool ColorSpaceCIELChType::is_occurs_ok() const { return lmx::is_occurs_ok(k_class, this); }
 lmx::elmx_error ColorSpaceCIELChType::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
 lmx::elmx_error ColorSpaceCIELChType::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
@@ -415,7 +417,7 @@ ColorSpaceCIELuvType::ColorSpaceCIELuvType(const ColorSpaceCIELuvType& other) : 
 ColorSpaceCIELuvType::~ColorSpaceCIELuvType() = default;
 ColorSpaceCIELuvType& ColorSpaceCIELuvType::operator=(const ColorSpaceCIELuvType& other) { ColorSpaceCIELuvType copy(other); swap(copy); return *this; }
 void ColorSpaceCIELuvType::swap(ColorSpaceCIELuvType& other) { lmx::swap(k_class, this, &other); }
-void ColorSpaceCIELuvType::reset() { ColorSpaceCIELuvType fresh; swap(fresh); }
+void ColorSpaceCIELuvType::reset() { ColorSpaceCIELuvType fresh; lmx::exchange(k_class, this, &fresh); }
 bool ColorSpaceCIELuvType::is_occurs_ok() const { return lmx::is_occurs_ok(k_class, this); }
 lmx::elmx_error ColorSpaceCIELuvType::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
 lmx::elmx_error ColorSpaceCIELuvType::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
@@ -486,7 +488,7 @@ ColorSpaceCIEXYZType::ColorSpaceCIEXYZType(const ColorSpaceCIEXYZType& other) : 
 ColorSpaceCIEXYZType::~ColorSpaceCIEXYZType() = default;
 ColorSpaceCIEXYZType& ColorSpaceCIEXYZType::operator=(const ColorSpaceCIEXYZType& other) { ColorSpaceCIEXYZType copy(other); swap(copy); return *this; }
 void ColorSpaceCIEXYZType::swap(ColorSpaceCIEXYZType& other) { lmx::swap(k_class, this, &other); }
-void ColorSpaceCIEXYZType::reset() { ColorSpaceCIEXYZType fresh; swap(fresh); }
+void ColorSpaceCIEXYZType::reset() { ColorSpaceCIEXYZType fresh; lmx::exchange(k_class, this, &fresh); }
 bool ColorSpaceCIEXYZType::is_occurs_ok() const { return lmx::is_occurs_ok(k_class, this); }
 lmx::elmx_error ColorSpaceCIEXYZType::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
 lmx::elmx_error ColorSpaceCIEXYZType::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
@@ -557,7 +559,7 @@ ColorSpaceCIExyYType::ColorSpaceCIExyYType(const ColorSpaceCIExyYType& other) : 
 ColorSpaceCIExyYType::~ColorSpaceCIExyYType() = default;
 ColorSpaceCIExyYType& ColorSpaceCIExyYType::operator=(const ColorSpaceCIExyYType& other) { ColorSpaceCIExyYType copy(other); swap(copy); return *this; }
 void ColorSpaceCIExyYType::swap(ColorSpaceCIExyYType& other) { lmx::swap(k_class, this, &other); }
-void ColorSpaceCIExyYType::reset() { ColorSpaceCIExyYType fresh; swap(fresh); }
+void ColorSpaceCIExyYType::reset() { ColorSpaceCIExyYType fresh; lmx::exchange(k_class, this, &fresh); }
 bool ColorSpaceCIExyYType::is_occurs_ok() const { return lmx::is_occurs_ok(k_class, this); }
 lmx::elmx_error ColorSpaceCIExyYType::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
 lmx::elmx_error ColorSpaceCIExyYType::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
@@ -628,7 +630,7 @@ ColorSpaceEmissiveCIEXYZType::ColorSpaceEmissiveCIEXYZType(const ColorSpaceEmiss
 ColorSpaceEmissiveCIEXYZType::~ColorSpaceEmissiveCIEXYZType() = default;
 ColorSpaceEmissiveCIEXYZType& ColorSpaceEmissiveCIEXYZType::operator=(const ColorSpaceEmissiveCIEXYZType& other) { ColorSpaceEmissiveCIEXYZType copy(other); swap(copy); return *this; }
 void ColorSpaceEmissiveCIEXYZType::swap(ColorSpaceEmissiveCIEXYZType& other) { lmx::swap(k_class, this, &other); }
-void ColorSpaceEmissiveCIEXYZType::reset() { ColorSpaceEmissiveCIEXYZType fresh; swap(fresh); }
+void ColorSpaceEmissiveCIEXYZType::reset() { ColorSpaceEmissiveCIEXYZType fresh; lmx::exchange(k_class, this, &fresh); }
 bool ColorSpaceEmissiveCIEXYZType::is_occurs_ok() const { return lmx::is_occurs_ok(k_class, this); }
 lmx::elmx_error ColorSpaceEmissiveCIEXYZType::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
 lmx::elmx_error ColorSpaceEmissiveCIEXYZType::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
@@ -699,7 +701,7 @@ ColorSpaceEmissiveCIExyYType::ColorSpaceEmissiveCIExyYType(const ColorSpaceEmiss
 ColorSpaceEmissiveCIExyYType::~ColorSpaceEmissiveCIExyYType() = default;
 ColorSpaceEmissiveCIExyYType& ColorSpaceEmissiveCIExyYType::operator=(const ColorSpaceEmissiveCIExyYType& other) { ColorSpaceEmissiveCIExyYType copy(other); swap(copy); return *this; }
 void ColorSpaceEmissiveCIExyYType::swap(ColorSpaceEmissiveCIExyYType& other) { lmx::swap(k_class, this, &other); }
-void ColorSpaceEmissiveCIExyYType::reset() { ColorSpaceEmissiveCIExyYType fresh; swap(fresh); }
+void ColorSpaceEmissiveCIExyYType::reset() { ColorSpaceEmissiveCIExyYType fresh; lmx::exchange(k_class, this, &fresh); }
 bool ColorSpaceEmissiveCIExyYType::is_occurs_ok() const { return lmx::is_occurs_ok(k_class, this); }
 lmx::elmx_error ColorSpaceEmissiveCIExyYType::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
 lmx::elmx_error ColorSpaceEmissiveCIExyYType::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }

@@ -106,8 +106,8 @@ public:
     void clear_CustomAttribute();
 
     /// The value that this one was computed from.
-    ParentColorSpace& get_ParentColorSpace() { m_isset_ParentColorSpace = true; return m_ParentColorSpace; }
-    const ParentColorSpace& get_ParentColorSpace() const { return m_ParentColorSpace; }
+    ParentColorSpace& get_ParentColorSpace();
+    const ParentColorSpace& get_ParentColorSpace() const;
     ParentColorSpace& assign_ParentColorSpace(const ParentColorSpace& value);
     bool isset_ParentColorSpace() const { return m_isset_ParentColorSpace; }
     void unset_ParentColorSpace() { m_isset_ParentColorSpace = false; }
@@ -149,7 +149,7 @@ private:
     std::u16string m_Comments;
     std::u16string m_UniqueID;
     lmx::c_list<CustomAttributeType> m_CustomAttribute;
-    ParentColorSpace m_ParentColorSpace;
+    lmx::c_optional_child<ParentColorSpace> m_ParentColorSpace;
     lmx::c_list<lmx::c_datetime> m_ChangeHistory;
     bool m_isset_Comments = false;
     bool m_isset_UniqueID = false;

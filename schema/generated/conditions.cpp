@@ -20,7 +20,7 @@ namespace com_vyrgraph_v2 {
 
 using namespace lmx;  // for the tables' sake
 
-static_assert(k_binding_version == 2, "run schema/generator/generate.py");
+static_assert(k_binding_version == 3, "run schema/generator/generate.py");
 
 // DeviceFilterType
 
@@ -60,7 +60,7 @@ DeviceFilterType::DeviceFilterType(const DeviceFilterType& other) { lmx::copy(k_
 DeviceFilterType::~DeviceFilterType() = default;
 DeviceFilterType& DeviceFilterType::operator=(const DeviceFilterType& other) { DeviceFilterType copy(other); swap(copy); return *this; }
 void DeviceFilterType::swap(DeviceFilterType& other) { lmx::swap(k_class, this, &other); }
-void DeviceFilterType::reset() { DeviceFilterType fresh; swap(fresh); }
+void DeviceFilterType::reset() { DeviceFilterType fresh; lmx::exchange(k_class, this, &fresh); }
 bool DeviceFilterType::is_occurs_ok() const { return lmx::is_occurs_ok(k_class, this); }
 lmx::elmx_error DeviceFilterType::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
 lmx::elmx_error DeviceFilterType::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
@@ -98,7 +98,7 @@ DeviceFilter::DeviceFilter(const DeviceFilter& other) : DeviceFilterType() { lmx
 DeviceFilter::~DeviceFilter() = default;
 DeviceFilter& DeviceFilter::operator=(const DeviceFilter& other) { DeviceFilter copy(other); swap(copy); return *this; }
 void DeviceFilter::swap(DeviceFilter& other) { lmx::swap(k_class, this, &other); }
-void DeviceFilter::reset() { DeviceFilter fresh; swap(fresh); }
+void DeviceFilter::reset() { DeviceFilter fresh; lmx::exchange(k_class, this, &fresh); }
 bool DeviceFilter::is_occurs_ok() const { return lmx::is_occurs_ok(k_class, this); }
 lmx::elmx_error DeviceFilter::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
 lmx::elmx_error DeviceFilter::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
@@ -147,7 +147,7 @@ DevicePolarization::DevicePolarization(const DevicePolarization& other) { lmx::c
 DevicePolarization::~DevicePolarization() = default;
 DevicePolarization& DevicePolarization::operator=(const DevicePolarization& other) { DevicePolarization copy(other); swap(copy); return *this; }
 void DevicePolarization::swap(DevicePolarization& other) { lmx::swap(k_class, this, &other); }
-void DevicePolarization::reset() { DevicePolarization fresh; swap(fresh); }
+void DevicePolarization::reset() { DevicePolarization fresh; lmx::exchange(k_class, this, &fresh); }
 bool DevicePolarization::is_occurs_ok() const { return lmx::is_occurs_ok(k_class, this); }
 lmx::elmx_error DevicePolarization::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
 lmx::elmx_error DevicePolarization::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
@@ -184,10 +184,10 @@ constinit const s_item ColorSpaceSpecificationType::k_items[] = {
      LMX_OFFSET(ColorSpaceSpecificationType, m_UniqueID, attribute, text), LMX_FLAG(ColorSpaceSpecificationType, m_isset_UniqueID), 0, 0, nullptr, nullptr, {}},
     {item_kind::child_list, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:CustomAttribute", element_CustomAttribute,
      LMX_OFFSET(ColorSpaceSpecificationType, m_CustomAttribute, child_list, none), k_no_flag, position_of(k_ColorSpaceSpecificationType_elements, element_CustomAttribute), position_of(k_ColorSpaceSpecificationType_elements, element_CustomAttribute, 1), &CustomAttributeType::k_class, nullptr, {}},
-    {item_kind::child, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:Profile", element_Profile,
-     LMX_OFFSET(ColorSpaceSpecificationType, m_Profile, child, none), LMX_FLAG(ColorSpaceSpecificationType, m_isset_Profile), position_of(k_ColorSpaceSpecificationType_elements, element_Profile), position_of(k_ColorSpaceSpecificationType_elements, element_Profile, 1), &ProfileType::k_class, nullptr, {}},
-    {item_kind::child, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:Device", element_Device,
-     LMX_OFFSET(ColorSpaceSpecificationType, m_Device, child, none), LMX_FLAG(ColorSpaceSpecificationType, m_isset_Device), position_of(k_ColorSpaceSpecificationType_elements, element_Device), position_of(k_ColorSpaceSpecificationType_elements, element_Device, 1), &DeviceType::k_class, nullptr, {}},
+    {item_kind::optional_child, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:Profile", element_Profile,
+     LMX_OFFSET(ColorSpaceSpecificationType, m_Profile, optional_child, none), LMX_FLAG(ColorSpaceSpecificationType, m_isset_Profile), position_of(k_ColorSpaceSpecificationType_elements, element_Profile), position_of(k_ColorSpaceSpecificationType_elements, element_Profile, 1), &ProfileType::k_class, nullptr, {}},
+    {item_kind::optional_child, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:Device", element_Device,
+     LMX_OFFSET(ColorSpaceSpecificationType, m_Device, optional_child, none), LMX_FLAG(ColorSpaceSpecificationType, m_isset_Device), position_of(k_ColorSpaceSpecificationType_elements, element_Device), position_of(k_ColorSpaceSpecificationType_elements, element_Device, 1), &DeviceType::k_class, nullptr, {}},
     {item_kind::child, value_kind::none, use_written, ELMX_WS_PRESERVE, "Vyr:DeviceFilter", element_DeviceFilter,
      LMX_OFFSET(ColorSpaceSpecificationType, m_DeviceFilter, child, none), LMX_FLAG(ColorSpaceSpecificationType, m_isset_DeviceFilter), position_of(k_ColorSpaceSpecificationType_elements, element_DeviceFilter), position_of(k_ColorSpaceSpecificationType_elements, element_DeviceFilter, 1), &DeviceFilter::k_class, nullptr, {}},
     {item_kind::child, value_kind::none, use_required, ELMX_WS_PRESERVE, "Vyr:DevicePolarization", element_DevicePolarization,
@@ -228,7 +228,7 @@ ColorSpaceSpecificationType::ColorSpaceSpecificationType(const ColorSpaceSpecifi
 ColorSpaceSpecificationType::~ColorSpaceSpecificationType() = default;
 ColorSpaceSpecificationType& ColorSpaceSpecificationType::operator=(const ColorSpaceSpecificationType& other) { ColorSpaceSpecificationType copy(other); swap(copy); return *this; }
 void ColorSpaceSpecificationType::swap(ColorSpaceSpecificationType& other) { lmx::swap(k_class, this, &other); }
-void ColorSpaceSpecificationType::reset() { ColorSpaceSpecificationType fresh; swap(fresh); }
+void ColorSpaceSpecificationType::reset() { ColorSpaceSpecificationType fresh; lmx::exchange(k_class, this, &fresh); }
 bool ColorSpaceSpecificationType::is_occurs_ok() const { return lmx::is_occurs_ok(k_class, this); }
 lmx::elmx_error ColorSpaceSpecificationType::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
 lmx::elmx_error ColorSpaceSpecificationType::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
@@ -251,7 +251,11 @@ lmx::elmx_error ColorSpaceSpecificationType::append_CustomAttribute() { m_Custom
 lmx::elmx_error ColorSpaceSpecificationType::insert_CustomAttribute(std::size_t index) { m_CustomAttribute.insert(index); return lmx::ELMX_OK; }
 void ColorSpaceSpecificationType::delete_CustomAttribute(std::size_t index) { m_CustomAttribute.erase(index); }
 void ColorSpaceSpecificationType::clear_CustomAttribute() { m_CustomAttribute.clear(); }
+ProfileType& ColorSpaceSpecificationType::get_Profile() { ProfileType& child = m_Profile.touch(); m_isset_Profile = true; return child; }
+const ProfileType& ColorSpaceSpecificationType::get_Profile() const { return m_Profile.get(); }
 ProfileType& ColorSpaceSpecificationType::assign_Profile(const ProfileType& value) { return get_Profile() = value; }
+DeviceType& ColorSpaceSpecificationType::get_Device() { DeviceType& child = m_Device.touch(); m_isset_Device = true; return child; }
+const DeviceType& ColorSpaceSpecificationType::get_Device() const { return m_Device.get(); }
 DeviceType& ColorSpaceSpecificationType::assign_Device(const DeviceType& value) { return get_Device() = value; }
 DeviceFilter& ColorSpaceSpecificationType::assign_DeviceFilter(const DeviceFilter& value) { return get_DeviceFilter() = value; }
 DevicePolarization& ColorSpaceSpecificationType::assign_DevicePolarization(const DevicePolarization& value) { return get_DevicePolarization() = value; }
@@ -299,7 +303,7 @@ SpectrumType::SpectrumType(const SpectrumType& other) { lmx::copy(k_class, this,
 SpectrumType::~SpectrumType() = default;
 SpectrumType& SpectrumType::operator=(const SpectrumType& other) { SpectrumType copy(other); swap(copy); return *this; }
 void SpectrumType::swap(SpectrumType& other) { lmx::swap(k_class, this, &other); }
-void SpectrumType::reset() { SpectrumType fresh; swap(fresh); }
+void SpectrumType::reset() { SpectrumType fresh; lmx::exchange(k_class, this, &fresh); }
 bool SpectrumType::is_occurs_ok() const { return lmx::is_occurs_ok(k_class, this); }
 lmx::elmx_error SpectrumType::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
 lmx::elmx_error SpectrumType::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
@@ -354,7 +358,7 @@ ColorSpaceSpecificationSpectrumType::ColorSpaceSpecificationSpectrumType(const C
 ColorSpaceSpecificationSpectrumType::~ColorSpaceSpecificationSpectrumType() = default;
 ColorSpaceSpecificationSpectrumType& ColorSpaceSpecificationSpectrumType::operator=(const ColorSpaceSpecificationSpectrumType& other) { ColorSpaceSpecificationSpectrumType copy(other); swap(copy); return *this; }
 void ColorSpaceSpecificationSpectrumType::swap(ColorSpaceSpecificationSpectrumType& other) { lmx::swap(k_class, this, &other); }
-void ColorSpaceSpecificationSpectrumType::reset() { ColorSpaceSpecificationSpectrumType fresh; swap(fresh); }
+void ColorSpaceSpecificationSpectrumType::reset() { ColorSpaceSpecificationSpectrumType fresh; lmx::exchange(k_class, this, &fresh); }
 bool ColorSpaceSpecificationSpectrumType::is_occurs_ok() const { return lmx::is_occurs_ok(k_class, this); }
 lmx::elmx_error ColorSpaceSpecificationSpectrumType::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
 lmx::elmx_error ColorSpaceSpecificationSpectrumType::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
@@ -416,7 +420,7 @@ ColorSpaceSpecificationEmissiveType::ColorSpaceSpecificationEmissiveType(const C
 ColorSpaceSpecificationEmissiveType::~ColorSpaceSpecificationEmissiveType() = default;
 ColorSpaceSpecificationEmissiveType& ColorSpaceSpecificationEmissiveType::operator=(const ColorSpaceSpecificationEmissiveType& other) { ColorSpaceSpecificationEmissiveType copy(other); swap(copy); return *this; }
 void ColorSpaceSpecificationEmissiveType::swap(ColorSpaceSpecificationEmissiveType& other) { lmx::swap(k_class, this, &other); }
-void ColorSpaceSpecificationEmissiveType::reset() { ColorSpaceSpecificationEmissiveType fresh; swap(fresh); }
+void ColorSpaceSpecificationEmissiveType::reset() { ColorSpaceSpecificationEmissiveType fresh; lmx::exchange(k_class, this, &fresh); }
 bool ColorSpaceSpecificationEmissiveType::is_occurs_ok() const { return lmx::is_occurs_ok(k_class, this); }
 lmx::elmx_error ColorSpaceSpecificationEmissiveType::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
 lmx::elmx_error ColorSpaceSpecificationEmissiveType::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
@@ -481,7 +485,7 @@ GeometryChoiceType::GeometryChoiceType(const GeometryChoiceType& other) : Geomet
 GeometryChoiceType::~GeometryChoiceType() { lmx::release_choice(k_class, this); }
 GeometryChoiceType& GeometryChoiceType::operator=(const GeometryChoiceType& other) { GeometryChoiceType copy(other); swap(copy); return *this; }
 void GeometryChoiceType::swap(GeometryChoiceType& other) { lmx::swap(k_class, this, &other); }
-void GeometryChoiceType::reset() { GeometryChoiceType fresh; swap(fresh); }
+void GeometryChoiceType::reset() { GeometryChoiceType fresh; lmx::exchange(k_class, this, &fresh); }
 bool GeometryChoiceType::is_occurs_ok() const { return lmx::is_occurs_ok(k_class, this); }
 lmx::elmx_error GeometryChoiceType::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
 lmx::elmx_error GeometryChoiceType::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
@@ -548,7 +552,7 @@ IlluminationOptionsType::IlluminationOptionsType(const IlluminationOptionsType& 
 IlluminationOptionsType::~IlluminationOptionsType() { lmx::release_choice(k_class, this); }
 IlluminationOptionsType& IlluminationOptionsType::operator=(const IlluminationOptionsType& other) { IlluminationOptionsType copy(other); swap(copy); return *this; }
 void IlluminationOptionsType::swap(IlluminationOptionsType& other) { lmx::swap(k_class, this, &other); }
-void IlluminationOptionsType::reset() { IlluminationOptionsType fresh; swap(fresh); }
+void IlluminationOptionsType::reset() { IlluminationOptionsType fresh; lmx::exchange(k_class, this, &fresh); }
 bool IlluminationOptionsType::is_occurs_ok() const { return lmx::is_occurs_ok(k_class, this); }
 lmx::elmx_error IlluminationOptionsType::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
 lmx::elmx_error IlluminationOptionsType::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
@@ -579,10 +583,10 @@ constexpr s_event_map k_ColorSpaceSpecificationSpectrumGenericType_elements[] = 
 }  // namespace
 
 constinit const s_item ColorSpaceSpecificationSpectrumGenericType::k_items[] = {
-    {item_kind::child, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:GeometryChoice", element_GeometryChoice,
-     LMX_OFFSET(ColorSpaceSpecificationSpectrumGenericType, m_GeometryChoice, child, none), LMX_FLAG(ColorSpaceSpecificationSpectrumGenericType, m_isset_GeometryChoice), position_of(k_ColorSpaceSpecificationSpectrumGenericType_elements, element_GeometryChoice), position_of(k_ColorSpaceSpecificationSpectrumGenericType_elements, element_GeometryChoice, 1), &GeometryChoiceType::k_class, nullptr, {}},
-    {item_kind::child, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:IlluminationOptions", element_IlluminationOptions,
-     LMX_OFFSET(ColorSpaceSpecificationSpectrumGenericType, m_IlluminationOptions, child, none), LMX_FLAG(ColorSpaceSpecificationSpectrumGenericType, m_isset_IlluminationOptions), position_of(k_ColorSpaceSpecificationSpectrumGenericType_elements, element_IlluminationOptions), position_of(k_ColorSpaceSpecificationSpectrumGenericType_elements, element_IlluminationOptions, 1), &IlluminationOptionsType::k_class, nullptr, {}},
+    {item_kind::optional_child, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:GeometryChoice", element_GeometryChoice,
+     LMX_OFFSET(ColorSpaceSpecificationSpectrumGenericType, m_GeometryChoice, optional_child, none), LMX_FLAG(ColorSpaceSpecificationSpectrumGenericType, m_isset_GeometryChoice), position_of(k_ColorSpaceSpecificationSpectrumGenericType_elements, element_GeometryChoice), position_of(k_ColorSpaceSpecificationSpectrumGenericType_elements, element_GeometryChoice, 1), &GeometryChoiceType::k_class, nullptr, {}},
+    {item_kind::optional_child, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:IlluminationOptions", element_IlluminationOptions,
+     LMX_OFFSET(ColorSpaceSpecificationSpectrumGenericType, m_IlluminationOptions, optional_child, none), LMX_FLAG(ColorSpaceSpecificationSpectrumGenericType, m_isset_IlluminationOptions), position_of(k_ColorSpaceSpecificationSpectrumGenericType_elements, element_IlluminationOptions), position_of(k_ColorSpaceSpecificationSpectrumGenericType_elements, element_IlluminationOptions, 1), &IlluminationOptionsType::k_class, nullptr, {}},
     {item_kind::element, value_kind::enumerated, use_optional, ELMX_WS_PRESERVE, "Vyr:FieldOfView", element_FieldOfView,
      LMX_OFFSET(ColorSpaceSpecificationSpectrumGenericType, m_FieldOfView, element, enumerated), LMX_FLAG(ColorSpaceSpecificationSpectrumGenericType, m_isset_FieldOfView), position_of(k_ColorSpaceSpecificationSpectrumGenericType_elements, element_FieldOfView), position_of(k_ColorSpaceSpecificationSpectrumGenericType_elements, element_FieldOfView, 1), nullptr, &facets::ObserverKind, {}},
     {item_kind::element, value_kind::enumerated, use_optional, ELMX_WS_PRESERVE, "Vyr:ASTM_Table", element_ASTM_Table,
@@ -615,7 +619,7 @@ ColorSpaceSpecificationSpectrumGenericType::ColorSpaceSpecificationSpectrumGener
 ColorSpaceSpecificationSpectrumGenericType::~ColorSpaceSpecificationSpectrumGenericType() = default;
 ColorSpaceSpecificationSpectrumGenericType& ColorSpaceSpecificationSpectrumGenericType::operator=(const ColorSpaceSpecificationSpectrumGenericType& other) { ColorSpaceSpecificationSpectrumGenericType copy(other); swap(copy); return *this; }
 void ColorSpaceSpecificationSpectrumGenericType::swap(ColorSpaceSpecificationSpectrumGenericType& other) { lmx::swap(k_class, this, &other); }
-void ColorSpaceSpecificationSpectrumGenericType::reset() { ColorSpaceSpecificationSpectrumGenericType fresh; swap(fresh); }
+void ColorSpaceSpecificationSpectrumGenericType::reset() { ColorSpaceSpecificationSpectrumGenericType fresh; lmx::exchange(k_class, this, &fresh); }
 bool ColorSpaceSpecificationSpectrumGenericType::is_occurs_ok() const { return lmx::is_occurs_ok(k_class, this); }
 lmx::elmx_error ColorSpaceSpecificationSpectrumGenericType::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
 lmx::elmx_error ColorSpaceSpecificationSpectrumGenericType::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
@@ -629,7 +633,11 @@ const char* ColorSpaceSpecificationSpectrumGenericType::id = k_ColorSpaceSpecifi
 ColorSpaceSpecificationSpectrumGenericType* ColorSpaceSpecificationSpectrumGenericType::clone() const { return new ColorSpaceSpecificationSpectrumGenericType(*this); }
 const char* ColorSpaceSpecificationSpectrumGenericType::getid() const { return id; }
 bool ColorSpaceSpecificationSpectrumGenericType::has_id(const char* identity) const { return identity == id || ColorSpaceSpecificationSpectrumType::has_id(identity); }
+GeometryChoiceType& ColorSpaceSpecificationSpectrumGenericType::get_GeometryChoice() { GeometryChoiceType& child = m_GeometryChoice.touch(); m_isset_GeometryChoice = true; return child; }
+const GeometryChoiceType& ColorSpaceSpecificationSpectrumGenericType::get_GeometryChoice() const { return m_GeometryChoice.get(); }
 GeometryChoiceType& ColorSpaceSpecificationSpectrumGenericType::assign_GeometryChoice(const GeometryChoiceType& value) { return get_GeometryChoice() = value; }
+IlluminationOptionsType& ColorSpaceSpecificationSpectrumGenericType::get_IlluminationOptions() { IlluminationOptionsType& child = m_IlluminationOptions.touch(); m_isset_IlluminationOptions = true; return child; }
+const IlluminationOptionsType& ColorSpaceSpecificationSpectrumGenericType::get_IlluminationOptions() const { return m_IlluminationOptions.get(); }
 IlluminationOptionsType& ColorSpaceSpecificationSpectrumGenericType::assign_IlluminationOptions(const IlluminationOptionsType& value) { return get_IlluminationOptions() = value; }
 lmx::elmx_error ColorSpaceSpecificationSpectrumGenericType::set_FieldOfView(const std::u16string& value) { return lmx::set_item(k_class, k_items[item_FieldOfView], this, value); }
 bool ColorSpaceSpecificationSpectrumGenericType::setenum_FieldOfView(std::int32_t number) { return lmx::set_enumerated(k_class, k_items[item_FieldOfView], this, number); }
@@ -657,8 +665,8 @@ constinit const s_item ColorSpaceSpecificationSpectrumTristimulusType::k_items[]
      LMX_OFFSET(ColorSpaceSpecificationSpectrumTristimulusType, m_IlluminationOptions, child, none), LMX_FLAG(ColorSpaceSpecificationSpectrumTristimulusType, m_isset_IlluminationOptions), position_of(k_ColorSpaceSpecificationSpectrumTristimulusType_elements, element_IlluminationOptions), position_of(k_ColorSpaceSpecificationSpectrumTristimulusType_elements, element_IlluminationOptions, 1), &IlluminationOptionsType::k_class, nullptr, {}},
     {item_kind::element, value_kind::enumerated, use_required, ELMX_WS_PRESERVE, "Vyr:FieldOfView", element_FieldOfView,
      LMX_OFFSET(ColorSpaceSpecificationSpectrumTristimulusType, m_FieldOfView, element, enumerated), LMX_FLAG(ColorSpaceSpecificationSpectrumTristimulusType, m_isset_FieldOfView), position_of(k_ColorSpaceSpecificationSpectrumTristimulusType_elements, element_FieldOfView), position_of(k_ColorSpaceSpecificationSpectrumTristimulusType_elements, element_FieldOfView, 1), nullptr, &facets::ObserverKind, {}},
-    {item_kind::child, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:GeometryChoice", element_GeometryChoice,
-     LMX_OFFSET(ColorSpaceSpecificationSpectrumTristimulusType, m_GeometryChoice, child, none), LMX_FLAG(ColorSpaceSpecificationSpectrumTristimulusType, m_isset_GeometryChoice), position_of(k_ColorSpaceSpecificationSpectrumTristimulusType_elements, element_GeometryChoice), position_of(k_ColorSpaceSpecificationSpectrumTristimulusType_elements, element_GeometryChoice, 1), &GeometryChoiceType::k_class, nullptr, {}},
+    {item_kind::optional_child, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:GeometryChoice", element_GeometryChoice,
+     LMX_OFFSET(ColorSpaceSpecificationSpectrumTristimulusType, m_GeometryChoice, optional_child, none), LMX_FLAG(ColorSpaceSpecificationSpectrumTristimulusType, m_isset_GeometryChoice), position_of(k_ColorSpaceSpecificationSpectrumTristimulusType_elements, element_GeometryChoice), position_of(k_ColorSpaceSpecificationSpectrumTristimulusType_elements, element_GeometryChoice, 1), &GeometryChoiceType::k_class, nullptr, {}},
     {item_kind::element, value_kind::enumerated, use_optional, ELMX_WS_PRESERVE, "Vyr:ASTM_Table", element_ASTM_Table,
      LMX_OFFSET(ColorSpaceSpecificationSpectrumTristimulusType, m_ASTM_Table, element, enumerated), LMX_FLAG(ColorSpaceSpecificationSpectrumTristimulusType, m_isset_ASTM_Table), position_of(k_ColorSpaceSpecificationSpectrumTristimulusType_elements, element_ASTM_Table), position_of(k_ColorSpaceSpecificationSpectrumTristimulusType_elements, element_ASTM_Table, 1), nullptr, &facets::AstmTableKind, {}},
     {item_kind::element, value_kind::number, use_optional, ELMX_WS_COLLAPSE, "Vyr:Gamma", element_Gamma,
@@ -687,7 +695,7 @@ ColorSpaceSpecificationSpectrumTristimulusType::ColorSpaceSpecificationSpectrumT
 ColorSpaceSpecificationSpectrumTristimulusType::~ColorSpaceSpecificationSpectrumTristimulusType() = default;
 ColorSpaceSpecificationSpectrumTristimulusType& ColorSpaceSpecificationSpectrumTristimulusType::operator=(const ColorSpaceSpecificationSpectrumTristimulusType& other) { ColorSpaceSpecificationSpectrumTristimulusType copy(other); swap(copy); return *this; }
 void ColorSpaceSpecificationSpectrumTristimulusType::swap(ColorSpaceSpecificationSpectrumTristimulusType& other) { lmx::swap(k_class, this, &other); }
-void ColorSpaceSpecificationSpectrumTristimulusType::reset() { ColorSpaceSpecificationSpectrumTristimulusType fresh; swap(fresh); }
+void ColorSpaceSpecificationSpectrumTristimulusType::reset() { ColorSpaceSpecificationSpectrumTristimulusType fresh; lmx::exchange(k_class, this, &fresh); }
 bool ColorSpaceSpecificationSpectrumTristimulusType::is_occurs_ok() const { return lmx::is_occurs_ok(k_class, this); }
 lmx::elmx_error ColorSpaceSpecificationSpectrumTristimulusType::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
 lmx::elmx_error ColorSpaceSpecificationSpectrumTristimulusType::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
@@ -704,6 +712,8 @@ bool ColorSpaceSpecificationSpectrumTristimulusType::has_id(const char* identity
 IlluminationOptionsType& ColorSpaceSpecificationSpectrumTristimulusType::assign_IlluminationOptions(const IlluminationOptionsType& value) { return get_IlluminationOptions() = value; }
 lmx::elmx_error ColorSpaceSpecificationSpectrumTristimulusType::set_FieldOfView(const std::u16string& value) { return lmx::set_item(k_class, k_items[item_FieldOfView], this, value); }
 bool ColorSpaceSpecificationSpectrumTristimulusType::setenum_FieldOfView(std::int32_t number) { return lmx::set_enumerated(k_class, k_items[item_FieldOfView], this, number); }
+GeometryChoiceType& ColorSpaceSpecificationSpectrumTristimulusType::get_GeometryChoice() { GeometryChoiceType& child = m_GeometryChoice.touch(); m_isset_GeometryChoice = true; return child; }
+const GeometryChoiceType& ColorSpaceSpecificationSpectrumTristimulusType::get_GeometryChoice() const { return m_GeometryChoice.get(); }
 GeometryChoiceType& ColorSpaceSpecificationSpectrumTristimulusType::assign_GeometryChoice(const GeometryChoiceType& value) { return get_GeometryChoice() = value; }
 lmx::elmx_error ColorSpaceSpecificationSpectrumTristimulusType::set_ASTM_Table(const std::u16string& value) { return lmx::set_item(k_class, k_items[item_ASTM_Table], this, value); }
 bool ColorSpaceSpecificationSpectrumTristimulusType::setenum_ASTM_Table(std::int32_t number) { return lmx::set_enumerated(k_class, k_items[item_ASTM_Table], this, number); }
@@ -748,7 +758,7 @@ ColorSpaceSpecificationSpectrumSpectralType::ColorSpaceSpecificationSpectrumSpec
 ColorSpaceSpecificationSpectrumSpectralType::~ColorSpaceSpecificationSpectrumSpectralType() = default;
 ColorSpaceSpecificationSpectrumSpectralType& ColorSpaceSpecificationSpectrumSpectralType::operator=(const ColorSpaceSpecificationSpectrumSpectralType& other) { ColorSpaceSpecificationSpectrumSpectralType copy(other); swap(copy); return *this; }
 void ColorSpaceSpecificationSpectrumSpectralType::swap(ColorSpaceSpecificationSpectrumSpectralType& other) { lmx::swap(k_class, this, &other); }
-void ColorSpaceSpecificationSpectrumSpectralType::reset() { ColorSpaceSpecificationSpectrumSpectralType fresh; swap(fresh); }
+void ColorSpaceSpecificationSpectrumSpectralType::reset() { ColorSpaceSpecificationSpectrumSpectralType fresh; lmx::exchange(k_class, this, &fresh); }
 bool ColorSpaceSpecificationSpectrumSpectralType::is_occurs_ok() const { return lmx::is_occurs_ok(k_class, this); }
 lmx::elmx_error ColorSpaceSpecificationSpectrumSpectralType::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
 lmx::elmx_error ColorSpaceSpecificationSpectrumSpectralType::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
@@ -781,10 +791,10 @@ constexpr s_event_map k_ColorSpaceSpecificationEmissiveGenericType_elements[] = 
 }  // namespace
 
 constinit const s_item ColorSpaceSpecificationEmissiveGenericType::k_items[] = {
-    {item_kind::child, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:GeometryChoice", element_GeometryChoice,
-     LMX_OFFSET(ColorSpaceSpecificationEmissiveGenericType, m_GeometryChoice, child, none), LMX_FLAG(ColorSpaceSpecificationEmissiveGenericType, m_isset_GeometryChoice), position_of(k_ColorSpaceSpecificationEmissiveGenericType_elements, element_GeometryChoice), position_of(k_ColorSpaceSpecificationEmissiveGenericType_elements, element_GeometryChoice, 1), &GeometryChoiceType::k_class, nullptr, {}},
-    {item_kind::child, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:IlluminationOptions", element_IlluminationOptions,
-     LMX_OFFSET(ColorSpaceSpecificationEmissiveGenericType, m_IlluminationOptions, child, none), LMX_FLAG(ColorSpaceSpecificationEmissiveGenericType, m_isset_IlluminationOptions), position_of(k_ColorSpaceSpecificationEmissiveGenericType_elements, element_IlluminationOptions), position_of(k_ColorSpaceSpecificationEmissiveGenericType_elements, element_IlluminationOptions, 1), &IlluminationOptionsType::k_class, nullptr, {}},
+    {item_kind::optional_child, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:GeometryChoice", element_GeometryChoice,
+     LMX_OFFSET(ColorSpaceSpecificationEmissiveGenericType, m_GeometryChoice, optional_child, none), LMX_FLAG(ColorSpaceSpecificationEmissiveGenericType, m_isset_GeometryChoice), position_of(k_ColorSpaceSpecificationEmissiveGenericType_elements, element_GeometryChoice), position_of(k_ColorSpaceSpecificationEmissiveGenericType_elements, element_GeometryChoice, 1), &GeometryChoiceType::k_class, nullptr, {}},
+    {item_kind::optional_child, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:IlluminationOptions", element_IlluminationOptions,
+     LMX_OFFSET(ColorSpaceSpecificationEmissiveGenericType, m_IlluminationOptions, optional_child, none), LMX_FLAG(ColorSpaceSpecificationEmissiveGenericType, m_isset_IlluminationOptions), position_of(k_ColorSpaceSpecificationEmissiveGenericType_elements, element_IlluminationOptions), position_of(k_ColorSpaceSpecificationEmissiveGenericType_elements, element_IlluminationOptions, 1), &IlluminationOptionsType::k_class, nullptr, {}},
     {item_kind::element, value_kind::enumerated, use_optional, ELMX_WS_PRESERVE, "Vyr:FieldOfView", element_FieldOfView,
      LMX_OFFSET(ColorSpaceSpecificationEmissiveGenericType, m_FieldOfView, element, enumerated), LMX_FLAG(ColorSpaceSpecificationEmissiveGenericType, m_isset_FieldOfView), position_of(k_ColorSpaceSpecificationEmissiveGenericType_elements, element_FieldOfView), position_of(k_ColorSpaceSpecificationEmissiveGenericType_elements, element_FieldOfView, 1), nullptr, &facets::ObserverKind, {}},
     {item_kind::element, value_kind::enumerated, use_optional, ELMX_WS_PRESERVE, "Vyr:ASTM_Table", element_ASTM_Table,
@@ -817,7 +827,7 @@ ColorSpaceSpecificationEmissiveGenericType::ColorSpaceSpecificationEmissiveGener
 ColorSpaceSpecificationEmissiveGenericType::~ColorSpaceSpecificationEmissiveGenericType() = default;
 ColorSpaceSpecificationEmissiveGenericType& ColorSpaceSpecificationEmissiveGenericType::operator=(const ColorSpaceSpecificationEmissiveGenericType& other) { ColorSpaceSpecificationEmissiveGenericType copy(other); swap(copy); return *this; }
 void ColorSpaceSpecificationEmissiveGenericType::swap(ColorSpaceSpecificationEmissiveGenericType& other) { lmx::swap(k_class, this, &other); }
-void ColorSpaceSpecificationEmissiveGenericType::reset() { ColorSpaceSpecificationEmissiveGenericType fresh; swap(fresh); }
+void ColorSpaceSpecificationEmissiveGenericType::reset() { ColorSpaceSpecificationEmissiveGenericType fresh; lmx::exchange(k_class, this, &fresh); }
 bool ColorSpaceSpecificationEmissiveGenericType::is_occurs_ok() const { return lmx::is_occurs_ok(k_class, this); }
 lmx::elmx_error ColorSpaceSpecificationEmissiveGenericType::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
 lmx::elmx_error ColorSpaceSpecificationEmissiveGenericType::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
@@ -831,7 +841,11 @@ const char* ColorSpaceSpecificationEmissiveGenericType::id = k_ColorSpaceSpecifi
 ColorSpaceSpecificationEmissiveGenericType* ColorSpaceSpecificationEmissiveGenericType::clone() const { return new ColorSpaceSpecificationEmissiveGenericType(*this); }
 const char* ColorSpaceSpecificationEmissiveGenericType::getid() const { return id; }
 bool ColorSpaceSpecificationEmissiveGenericType::has_id(const char* identity) const { return identity == id || ColorSpaceSpecificationEmissiveType::has_id(identity); }
+GeometryChoiceType& ColorSpaceSpecificationEmissiveGenericType::get_GeometryChoice() { GeometryChoiceType& child = m_GeometryChoice.touch(); m_isset_GeometryChoice = true; return child; }
+const GeometryChoiceType& ColorSpaceSpecificationEmissiveGenericType::get_GeometryChoice() const { return m_GeometryChoice.get(); }
 GeometryChoiceType& ColorSpaceSpecificationEmissiveGenericType::assign_GeometryChoice(const GeometryChoiceType& value) { return get_GeometryChoice() = value; }
+IlluminationOptionsType& ColorSpaceSpecificationEmissiveGenericType::get_IlluminationOptions() { IlluminationOptionsType& child = m_IlluminationOptions.touch(); m_isset_IlluminationOptions = true; return child; }
+const IlluminationOptionsType& ColorSpaceSpecificationEmissiveGenericType::get_IlluminationOptions() const { return m_IlluminationOptions.get(); }
 IlluminationOptionsType& ColorSpaceSpecificationEmissiveGenericType::assign_IlluminationOptions(const IlluminationOptionsType& value) { return get_IlluminationOptions() = value; }
 lmx::elmx_error ColorSpaceSpecificationEmissiveGenericType::set_FieldOfView(const std::u16string& value) { return lmx::set_item(k_class, k_items[item_FieldOfView], this, value); }
 bool ColorSpaceSpecificationEmissiveGenericType::setenum_FieldOfView(std::int32_t number) { return lmx::set_enumerated(k_class, k_items[item_FieldOfView], this, number); }
@@ -859,8 +873,8 @@ constinit const s_item ColorSpaceSpecificationEmissiveTristimulusType::k_items[]
      LMX_OFFSET(ColorSpaceSpecificationEmissiveTristimulusType, m_IlluminationOptions, child, none), LMX_FLAG(ColorSpaceSpecificationEmissiveTristimulusType, m_isset_IlluminationOptions), position_of(k_ColorSpaceSpecificationEmissiveTristimulusType_elements, element_IlluminationOptions), position_of(k_ColorSpaceSpecificationEmissiveTristimulusType_elements, element_IlluminationOptions, 1), &IlluminationOptionsType::k_class, nullptr, {}},
     {item_kind::element, value_kind::enumerated, use_required, ELMX_WS_PRESERVE, "Vyr:FieldOfView", element_FieldOfView,
      LMX_OFFSET(ColorSpaceSpecificationEmissiveTristimulusType, m_FieldOfView, element, enumerated), LMX_FLAG(ColorSpaceSpecificationEmissiveTristimulusType, m_isset_FieldOfView), position_of(k_ColorSpaceSpecificationEmissiveTristimulusType_elements, element_FieldOfView), position_of(k_ColorSpaceSpecificationEmissiveTristimulusType_elements, element_FieldOfView, 1), nullptr, &facets::ObserverKind, {}},
-    {item_kind::child, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:GeometryChoice", element_GeometryChoice,
-     LMX_OFFSET(ColorSpaceSpecificationEmissiveTristimulusType, m_GeometryChoice, child, none), LMX_FLAG(ColorSpaceSpecificationEmissiveTristimulusType, m_isset_GeometryChoice), position_of(k_ColorSpaceSpecificationEmissiveTristimulusType_elements, element_GeometryChoice), position_of(k_ColorSpaceSpecificationEmissiveTristimulusType_elements, element_GeometryChoice, 1), &GeometryChoiceType::k_class, nullptr, {}},
+    {item_kind::optional_child, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:GeometryChoice", element_GeometryChoice,
+     LMX_OFFSET(ColorSpaceSpecificationEmissiveTristimulusType, m_GeometryChoice, optional_child, none), LMX_FLAG(ColorSpaceSpecificationEmissiveTristimulusType, m_isset_GeometryChoice), position_of(k_ColorSpaceSpecificationEmissiveTristimulusType_elements, element_GeometryChoice), position_of(k_ColorSpaceSpecificationEmissiveTristimulusType_elements, element_GeometryChoice, 1), &GeometryChoiceType::k_class, nullptr, {}},
     {item_kind::element, value_kind::enumerated, use_optional, ELMX_WS_PRESERVE, "Vyr:ASTM_Table", element_ASTM_Table,
      LMX_OFFSET(ColorSpaceSpecificationEmissiveTristimulusType, m_ASTM_Table, element, enumerated), LMX_FLAG(ColorSpaceSpecificationEmissiveTristimulusType, m_isset_ASTM_Table), position_of(k_ColorSpaceSpecificationEmissiveTristimulusType_elements, element_ASTM_Table), position_of(k_ColorSpaceSpecificationEmissiveTristimulusType_elements, element_ASTM_Table, 1), nullptr, &facets::AstmTableKind, {}},
     {item_kind::element, value_kind::number, use_optional, ELMX_WS_COLLAPSE, "Vyr:Gamma", element_Gamma,
@@ -889,7 +903,7 @@ ColorSpaceSpecificationEmissiveTristimulusType::ColorSpaceSpecificationEmissiveT
 ColorSpaceSpecificationEmissiveTristimulusType::~ColorSpaceSpecificationEmissiveTristimulusType() = default;
 ColorSpaceSpecificationEmissiveTristimulusType& ColorSpaceSpecificationEmissiveTristimulusType::operator=(const ColorSpaceSpecificationEmissiveTristimulusType& other) { ColorSpaceSpecificationEmissiveTristimulusType copy(other); swap(copy); return *this; }
 void ColorSpaceSpecificationEmissiveTristimulusType::swap(ColorSpaceSpecificationEmissiveTristimulusType& other) { lmx::swap(k_class, this, &other); }
-void ColorSpaceSpecificationEmissiveTristimulusType::reset() { ColorSpaceSpecificationEmissiveTristimulusType fresh; swap(fresh); }
+void ColorSpaceSpecificationEmissiveTristimulusType::reset() { ColorSpaceSpecificationEmissiveTristimulusType fresh; lmx::exchange(k_class, this, &fresh); }
 bool ColorSpaceSpecificationEmissiveTristimulusType::is_occurs_ok() const { return lmx::is_occurs_ok(k_class, this); }
 lmx::elmx_error ColorSpaceSpecificationEmissiveTristimulusType::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
 lmx::elmx_error ColorSpaceSpecificationEmissiveTristimulusType::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
@@ -906,6 +920,8 @@ bool ColorSpaceSpecificationEmissiveTristimulusType::has_id(const char* identity
 IlluminationOptionsType& ColorSpaceSpecificationEmissiveTristimulusType::assign_IlluminationOptions(const IlluminationOptionsType& value) { return get_IlluminationOptions() = value; }
 lmx::elmx_error ColorSpaceSpecificationEmissiveTristimulusType::set_FieldOfView(const std::u16string& value) { return lmx::set_item(k_class, k_items[item_FieldOfView], this, value); }
 bool ColorSpaceSpecificationEmissiveTristimulusType::setenum_FieldOfView(std::int32_t number) { return lmx::set_enumerated(k_class, k_items[item_FieldOfView], this, number); }
+GeometryChoiceType& ColorSpaceSpecificationEmissiveTristimulusType::get_GeometryChoice() { GeometryChoiceType& child = m_GeometryChoice.touch(); m_isset_GeometryChoice = true; return child; }
+const GeometryChoiceType& ColorSpaceSpecificationEmissiveTristimulusType::get_GeometryChoice() const { return m_GeometryChoice.get(); }
 GeometryChoiceType& ColorSpaceSpecificationEmissiveTristimulusType::assign_GeometryChoice(const GeometryChoiceType& value) { return get_GeometryChoice() = value; }
 lmx::elmx_error ColorSpaceSpecificationEmissiveTristimulusType::set_ASTM_Table(const std::u16string& value) { return lmx::set_item(k_class, k_items[item_ASTM_Table], this, value); }
 bool ColorSpaceSpecificationEmissiveTristimulusType::setenum_ASTM_Table(std::int32_t number) { return lmx::set_enumerated(k_class, k_items[item_ASTM_Table], this, number); }
@@ -950,7 +966,7 @@ ColorSpaceSpecificationEmissiveSpectralType::ColorSpaceSpecificationEmissiveSpec
 ColorSpaceSpecificationEmissiveSpectralType::~ColorSpaceSpecificationEmissiveSpectralType() = default;
 ColorSpaceSpecificationEmissiveSpectralType& ColorSpaceSpecificationEmissiveSpectralType::operator=(const ColorSpaceSpecificationEmissiveSpectralType& other) { ColorSpaceSpecificationEmissiveSpectralType copy(other); swap(copy); return *this; }
 void ColorSpaceSpecificationEmissiveSpectralType::swap(ColorSpaceSpecificationEmissiveSpectralType& other) { lmx::swap(k_class, this, &other); }
-void ColorSpaceSpecificationEmissiveSpectralType::reset() { ColorSpaceSpecificationEmissiveSpectralType fresh; swap(fresh); }
+void ColorSpaceSpecificationEmissiveSpectralType::reset() { ColorSpaceSpecificationEmissiveSpectralType fresh; lmx::exchange(k_class, this, &fresh); }
 bool ColorSpaceSpecificationEmissiveSpectralType::is_occurs_ok() const { return lmx::is_occurs_ok(k_class, this); }
 lmx::elmx_error ColorSpaceSpecificationEmissiveSpectralType::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
 lmx::elmx_error ColorSpaceSpecificationEmissiveSpectralType::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
@@ -1024,7 +1040,7 @@ ColorSpaceSpecificationSpectrumGeneric::ColorSpaceSpecificationSpectrumGeneric(c
 ColorSpaceSpecificationSpectrumGeneric::~ColorSpaceSpecificationSpectrumGeneric() = default;
 ColorSpaceSpecificationSpectrumGeneric& ColorSpaceSpecificationSpectrumGeneric::operator=(const ColorSpaceSpecificationSpectrumGeneric& other) { ColorSpaceSpecificationSpectrumGeneric copy(other); swap(copy); return *this; }
 void ColorSpaceSpecificationSpectrumGeneric::swap(ColorSpaceSpecificationSpectrumGeneric& other) { lmx::swap(k_class, this, &other); }
-void ColorSpaceSpecificationSpectrumGeneric::reset() { ColorSpaceSpecificationSpectrumGeneric fresh; swap(fresh); }
+void ColorSpaceSpecificationSpectrumGeneric::reset() { ColorSpaceSpecificationSpectrumGeneric fresh; lmx::exchange(k_class, this, &fresh); }
 bool ColorSpaceSpecificationSpectrumGeneric::is_occurs_ok() const { return lmx::is_occurs_ok(k_class, this); }
 lmx::elmx_error ColorSpaceSpecificationSpectrumGeneric::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
 lmx::elmx_error ColorSpaceSpecificationSpectrumGeneric::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
@@ -1071,7 +1087,7 @@ ColorSpaceSpecificationSpectrumTristimulus::ColorSpaceSpecificationSpectrumTrist
 ColorSpaceSpecificationSpectrumTristimulus::~ColorSpaceSpecificationSpectrumTristimulus() = default;
 ColorSpaceSpecificationSpectrumTristimulus& ColorSpaceSpecificationSpectrumTristimulus::operator=(const ColorSpaceSpecificationSpectrumTristimulus& other) { ColorSpaceSpecificationSpectrumTristimulus copy(other); swap(copy); return *this; }
 void ColorSpaceSpecificationSpectrumTristimulus::swap(ColorSpaceSpecificationSpectrumTristimulus& other) { lmx::swap(k_class, this, &other); }
-void ColorSpaceSpecificationSpectrumTristimulus::reset() { ColorSpaceSpecificationSpectrumTristimulus fresh; swap(fresh); }
+void ColorSpaceSpecificationSpectrumTristimulus::reset() { ColorSpaceSpecificationSpectrumTristimulus fresh; lmx::exchange(k_class, this, &fresh); }
 bool ColorSpaceSpecificationSpectrumTristimulus::is_occurs_ok() const { return lmx::is_occurs_ok(k_class, this); }
 lmx::elmx_error ColorSpaceSpecificationSpectrumTristimulus::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
 lmx::elmx_error ColorSpaceSpecificationSpectrumTristimulus::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
@@ -1118,7 +1134,7 @@ ColorSpaceSpecificationSpectrumSpectral::ColorSpaceSpecificationSpectrumSpectral
 ColorSpaceSpecificationSpectrumSpectral::~ColorSpaceSpecificationSpectrumSpectral() = default;
 ColorSpaceSpecificationSpectrumSpectral& ColorSpaceSpecificationSpectrumSpectral::operator=(const ColorSpaceSpecificationSpectrumSpectral& other) { ColorSpaceSpecificationSpectrumSpectral copy(other); swap(copy); return *this; }
 void ColorSpaceSpecificationSpectrumSpectral::swap(ColorSpaceSpecificationSpectrumSpectral& other) { lmx::swap(k_class, this, &other); }
-void ColorSpaceSpecificationSpectrumSpectral::reset() { ColorSpaceSpecificationSpectrumSpectral fresh; swap(fresh); }
+void ColorSpaceSpecificationSpectrumSpectral::reset() { ColorSpaceSpecificationSpectrumSpectral fresh; lmx::exchange(k_class, this, &fresh); }
 bool ColorSpaceSpecificationSpectrumSpectral::is_occurs_ok() const { return lmx::is_occurs_ok(k_class, this); }
 lmx::elmx_error ColorSpaceSpecificationSpectrumSpectral::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
 lmx::elmx_error ColorSpaceSpecificationSpectrumSpectral::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
@@ -1185,7 +1201,7 @@ ColorSpaceSpecificationEmissiveGeneric::ColorSpaceSpecificationEmissiveGeneric(c
 ColorSpaceSpecificationEmissiveGeneric::~ColorSpaceSpecificationEmissiveGeneric() = default;
 ColorSpaceSpecificationEmissiveGeneric& ColorSpaceSpecificationEmissiveGeneric::operator=(const ColorSpaceSpecificationEmissiveGeneric& other) { ColorSpaceSpecificationEmissiveGeneric copy(other); swap(copy); return *this; }
 void ColorSpaceSpecificationEmissiveGeneric::swap(ColorSpaceSpecificationEmissiveGeneric& other) { lmx::swap(k_class, this, &other); }
-void ColorSpaceSpecificationEmissiveGeneric::reset() { ColorSpaceSpecificationEmissiveGeneric fresh; swap(fresh); }
+void ColorSpaceSpecificationEmissiveGeneric::reset() { ColorSpaceSpecificationEmissiveGeneric fresh; lmx::exchange(k_class, this, &fresh); }
 bool ColorSpaceSpecificationEmissiveGeneric::is_occurs_ok() const { return lmx::is_occurs_ok(k_class, this); }
 lmx::elmx_error ColorSpaceSpecificationEmissiveGeneric::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
 lmx::elmx_error ColorSpaceSpecificationEmissiveGeneric::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
@@ -1232,7 +1248,7 @@ ColorSpaceSpecificationEmissiveTristimulus::ColorSpaceSpecificationEmissiveTrist
 ColorSpaceSpecificationEmissiveTristimulus::~ColorSpaceSpecificationEmissiveTristimulus() = default;
 ColorSpaceSpecificationEmissiveTristimulus& ColorSpaceSpecificationEmissiveTristimulus::operator=(const ColorSpaceSpecificationEmissiveTristimulus& other) { ColorSpaceSpecificationEmissiveTristimulus copy(other); swap(copy); return *this; }
 void ColorSpaceSpecificationEmissiveTristimulus::swap(ColorSpaceSpecificationEmissiveTristimulus& other) { lmx::swap(k_class, this, &other); }
-void ColorSpaceSpecificationEmissiveTristimulus::reset() { ColorSpaceSpecificationEmissiveTristimulus fresh; swap(fresh); }
+void ColorSpaceSpecificationEmissiveTristimulus::reset() { ColorSpaceSpecificationEmissiveTristimulus fresh; lmx::exchange(k_class, this, &fresh); }
 bool ColorSpaceSpecificationEmissiveTristimulus::is_occurs_ok() const { return lmx::is_occurs_ok(k_class, this); }
 lmx::elmx_error ColorSpaceSpecificationEmissiveTristimulus::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
 lmx::elmx_error ColorSpaceSpecificationEmissiveTristimulus::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
@@ -1279,7 +1295,7 @@ ColorSpaceSpecificationEmissiveSpectral::ColorSpaceSpecificationEmissiveSpectral
 ColorSpaceSpecificationEmissiveSpectral::~ColorSpaceSpecificationEmissiveSpectral() = default;
 ColorSpaceSpecificationEmissiveSpectral& ColorSpaceSpecificationEmissiveSpectral::operator=(const ColorSpaceSpecificationEmissiveSpectral& other) { ColorSpaceSpecificationEmissiveSpectral copy(other); swap(copy); return *this; }
 void ColorSpaceSpecificationEmissiveSpectral::swap(ColorSpaceSpecificationEmissiveSpectral& other) { lmx::swap(k_class, this, &other); }
-void ColorSpaceSpecificationEmissiveSpectral::reset() { ColorSpaceSpecificationEmissiveSpectral fresh; swap(fresh); }
+void ColorSpaceSpecificationEmissiveSpectral::reset() { ColorSpaceSpecificationEmissiveSpectral fresh; lmx::exchange(k_class, this, &fresh); }
 bool ColorSpaceSpecificationEmissiveSpectral::is_occurs_ok() const { return lmx::is_occurs_ok(k_class, this); }
 lmx::elmx_error ColorSpaceSpecificationEmissiveSpectral::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
 lmx::elmx_error ColorSpaceSpecificationEmissiveSpectral::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
@@ -1339,7 +1355,7 @@ Illuminant::Illuminant(const Illuminant& other) { lmx::copy(k_class, this, &othe
 Illuminant::~Illuminant() = default;
 Illuminant& Illuminant::operator=(const Illuminant& other) { Illuminant copy(other); swap(copy); return *this; }
 void Illuminant::swap(Illuminant& other) { lmx::swap(k_class, this, &other); }
-void Illuminant::reset() { Illuminant fresh; swap(fresh); }
+void Illuminant::reset() { Illuminant fresh; lmx::exchange(k_class, this, &fresh); }
 bool Illuminant::is_occurs_ok() const { return lmx::is_occurs_ok(k_class, this); }
 lmx::elmx_error Illuminant::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
 lmx::elmx_error Illuminant::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
@@ -1391,7 +1407,7 @@ WhitePointChromaticity::WhitePointChromaticity(const WhitePointChromaticity& oth
 WhitePointChromaticity::~WhitePointChromaticity() = default;
 WhitePointChromaticity& WhitePointChromaticity::operator=(const WhitePointChromaticity& other) { WhitePointChromaticity copy(other); swap(copy); return *this; }
 void WhitePointChromaticity::swap(WhitePointChromaticity& other) { lmx::swap(k_class, this, &other); }
-void WhitePointChromaticity::reset() { WhitePointChromaticity fresh; swap(fresh); }
+void WhitePointChromaticity::reset() { WhitePointChromaticity fresh; lmx::exchange(k_class, this, &fresh); }
 bool WhitePointChromaticity::is_occurs_ok() const { return lmx::is_occurs_ok(k_class, this); }
 lmx::elmx_error WhitePointChromaticity::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
 lmx::elmx_error WhitePointChromaticity::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
@@ -1445,7 +1461,7 @@ BSDFAngle::BSDFAngle(const BSDFAngle& other) { lmx::copy(k_class, this, &other);
 BSDFAngle::~BSDFAngle() = default;
 BSDFAngle& BSDFAngle::operator=(const BSDFAngle& other) { BSDFAngle copy(other); swap(copy); return *this; }
 void BSDFAngle::swap(BSDFAngle& other) { lmx::swap(k_class, this, &other); }
-void BSDFAngle::reset() { BSDFAngle fresh; swap(fresh); }
+void BSDFAngle::reset() { BSDFAngle fresh; lmx::exchange(k_class, this, &fresh); }
 bool BSDFAngle::is_occurs_ok() const { return lmx::is_occurs_ok(k_class, this); }
 lmx::elmx_error BSDFAngle::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
 lmx::elmx_error BSDFAngle::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
@@ -1482,7 +1498,7 @@ Azimuth::Azimuth(const Azimuth& other) { lmx::copy(k_class, this, &other); }
 Azimuth::~Azimuth() = default;
 Azimuth& Azimuth::operator=(const Azimuth& other) { Azimuth copy(other); swap(copy); return *this; }
 void Azimuth::swap(Azimuth& other) { lmx::swap(k_class, this, &other); }
-void Azimuth::reset() { Azimuth fresh; swap(fresh); }
+void Azimuth::reset() { Azimuth fresh; lmx::exchange(k_class, this, &fresh); }
 bool Azimuth::is_occurs_ok() const { return lmx::is_occurs_ok(k_class, this); }
 lmx::elmx_error Azimuth::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
 lmx::elmx_error Azimuth::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }

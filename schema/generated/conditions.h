@@ -190,15 +190,15 @@ public:
     void clear_CustomAttribute();
 
     /// Profile of the device.
-    ProfileType& get_Profile() { m_isset_Profile = true; return m_Profile; }
-    const ProfileType& get_Profile() const { return m_Profile; }
+    ProfileType& get_Profile();
+    const ProfileType& get_Profile() const;
     ProfileType& assign_Profile(const ProfileType& value);
     bool isset_Profile() const { return m_isset_Profile; }
     void unset_Profile() { m_isset_Profile = false; }
 
     /// Instrument that measured, or device that shows the colour.
-    DeviceType& get_Device() { m_isset_Device = true; return m_Device; }
-    const DeviceType& get_Device() const { return m_Device; }
+    DeviceType& get_Device();
+    const DeviceType& get_Device() const;
     DeviceType& assign_Device(const DeviceType& value);
     bool isset_Device() const { return m_isset_Device; }
     void unset_Device() { m_isset_Device = false; }
@@ -255,8 +255,8 @@ private:
     std::u16string m_Comments;
     std::u16string m_UniqueID;
     lmx::c_list<CustomAttributeType> m_CustomAttribute;
-    ProfileType m_Profile;
-    DeviceType m_Device;
+    lmx::c_optional_child<ProfileType> m_Profile;
+    lmx::c_optional_child<DeviceType> m_Device;
     DeviceFilter m_DeviceFilter;
     DevicePolarization m_DevicePolarization;
     lmx::c_list<lmx::c_datetime> m_ChangeHistory;
@@ -551,15 +551,15 @@ public:
     bool is_occurs_ok() const;
 
     /// Measuring geometry.
-    GeometryChoiceType& get_GeometryChoice() { m_isset_GeometryChoice = true; return m_GeometryChoice; }
-    const GeometryChoiceType& get_GeometryChoice() const { return m_GeometryChoice; }
+    GeometryChoiceType& get_GeometryChoice();
+    const GeometryChoiceType& get_GeometryChoice() const;
     GeometryChoiceType& assign_GeometryChoice(const GeometryChoiceType& value);
     bool isset_GeometryChoice() const { return m_isset_GeometryChoice; }
     void unset_GeometryChoice() { m_isset_GeometryChoice = false; }
 
     /// Illumination that the value holds for.
-    IlluminationOptionsType& get_IlluminationOptions() { m_isset_IlluminationOptions = true; return m_IlluminationOptions; }
-    const IlluminationOptionsType& get_IlluminationOptions() const { return m_IlluminationOptions; }
+    IlluminationOptionsType& get_IlluminationOptions();
+    const IlluminationOptionsType& get_IlluminationOptions() const;
     IlluminationOptionsType& assign_IlluminationOptions(const IlluminationOptionsType& value);
     bool isset_IlluminationOptions() const { return m_isset_IlluminationOptions; }
     void unset_IlluminationOptions() { m_isset_IlluminationOptions = false; }
@@ -616,8 +616,8 @@ private:
         item_DensityStatus,
     };
     static const lmx::s_item k_items[];
-    GeometryChoiceType m_GeometryChoice;
-    IlluminationOptionsType m_IlluminationOptions;
+    lmx::c_optional_child<GeometryChoiceType> m_GeometryChoice;
+    lmx::c_optional_child<IlluminationOptionsType> m_IlluminationOptions;
     lmx::c_enumerated m_FieldOfView;
     lmx::c_enumerated m_ASTM_Table;
     double m_Gamma = 0;
@@ -659,8 +659,8 @@ public:
     bool setenum_FieldOfView(std::int32_t number);
 
     /// Measuring geometry.
-    GeometryChoiceType& get_GeometryChoice() { m_isset_GeometryChoice = true; return m_GeometryChoice; }
-    const GeometryChoiceType& get_GeometryChoice() const { return m_GeometryChoice; }
+    GeometryChoiceType& get_GeometryChoice();
+    const GeometryChoiceType& get_GeometryChoice() const;
     GeometryChoiceType& assign_GeometryChoice(const GeometryChoiceType& value);
     bool isset_GeometryChoice() const { return m_isset_GeometryChoice; }
     void unset_GeometryChoice() { m_isset_GeometryChoice = false; }
@@ -702,7 +702,7 @@ private:
     static const lmx::s_item k_items[];
     IlluminationOptionsType m_IlluminationOptions;
     lmx::c_enumerated m_FieldOfView;
-    GeometryChoiceType m_GeometryChoice;
+    lmx::c_optional_child<GeometryChoiceType> m_GeometryChoice;
     lmx::c_enumerated m_ASTM_Table;
     double m_Gamma = 0;
     bool m_isset_IlluminationOptions = false;
@@ -784,15 +784,15 @@ public:
     bool is_occurs_ok() const;
 
     /// Measuring geometry.
-    GeometryChoiceType& get_GeometryChoice() { m_isset_GeometryChoice = true; return m_GeometryChoice; }
-    const GeometryChoiceType& get_GeometryChoice() const { return m_GeometryChoice; }
+    GeometryChoiceType& get_GeometryChoice();
+    const GeometryChoiceType& get_GeometryChoice() const;
     GeometryChoiceType& assign_GeometryChoice(const GeometryChoiceType& value);
     bool isset_GeometryChoice() const { return m_isset_GeometryChoice; }
     void unset_GeometryChoice() { m_isset_GeometryChoice = false; }
 
     /// Illumination that the value holds for.
-    IlluminationOptionsType& get_IlluminationOptions() { m_isset_IlluminationOptions = true; return m_IlluminationOptions; }
-    const IlluminationOptionsType& get_IlluminationOptions() const { return m_IlluminationOptions; }
+    IlluminationOptionsType& get_IlluminationOptions();
+    const IlluminationOptionsType& get_IlluminationOptions() const;
     IlluminationOptionsType& assign_IlluminationOptions(const IlluminationOptionsType& value);
     bool isset_IlluminationOptions() const { return m_isset_IlluminationOptions; }
     void unset_IlluminationOptions() { m_isset_IlluminationOptions = false; }
@@ -849,8 +849,8 @@ private:
         item_DensityStatus,
     };
     static const lmx::s_item k_items[];
-    GeometryChoiceType m_GeometryChoice;
-    IlluminationOptionsType m_IlluminationOptions;
+    lmx::c_optional_child<GeometryChoiceType> m_GeometryChoice;
+    lmx::c_optional_child<IlluminationOptionsType> m_IlluminationOptions;
     lmx::c_enumerated m_FieldOfView;
     lmx::c_enumerated m_ASTM_Table;
     double m_Gamma = 0;
@@ -892,8 +892,8 @@ public:
     bool setenum_FieldOfView(std::int32_t number);
 
     /// Measuring geometry.
-    GeometryChoiceType& get_GeometryChoice() { m_isset_GeometryChoice = true; return m_GeometryChoice; }
-    const GeometryChoiceType& get_GeometryChoice() const { return m_GeometryChoice; }
+    GeometryChoiceType& get_GeometryChoice();
+    const GeometryChoiceType& get_GeometryChoice() const;
     GeometryChoiceType& assign_GeometryChoice(const GeometryChoiceType& value);
     bool isset_GeometryChoice() const { return m_isset_GeometryChoice; }
     void unset_GeometryChoice() { m_isset_GeometryChoice = false; }
@@ -935,7 +935,7 @@ private:
     static const lmx::s_item k_items[];
     IlluminationOptionsType m_IlluminationOptions;
     lmx::c_enumerated m_FieldOfView;
-    GeometryChoiceType m_GeometryChoice;
+    lmx::c_optional_child<GeometryChoiceType> m_GeometryChoice;
     lmx::c_enumerated m_ASTM_Table;
     double m_Gamma = 0;
     bool m_isset_IlluminationOptions = false;

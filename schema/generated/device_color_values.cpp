@@ -20,7 +20,7 @@ namespace com_vyrgraph_v2 {
 
 using namespace lmx;  // for the tables' sake
 
-static_assert(k_binding_version == 2, "run schema/generator/generate.py");
+static_assert(k_binding_version == 3, "run schema/generator/generate.py");
 
 // ColorSpaceRGBType
 
@@ -79,7 +79,7 @@ ColorSpaceRGBType::ColorSpaceRGBType(const ColorSpaceRGBType& other) : ColorSpac
 ColorSpaceRGBType::~ColorSpaceRGBType() = default;
 ColorSpaceRGBType& ColorSpaceRGBType::operator=(const ColorSpaceRGBType& other) { ColorSpaceRGBType copy(other); swap(copy); return *this; }
 void ColorSpaceRGBType::swap(ColorSpaceRGBType& other) { lmx::swap(k_class, this, &other); }
-void ColorSpaceRGBType::reset() { ColorSpaceRGBType fresh; swap(fresh); }
+void ColorSpaceRGBType::reset() { ColorSpaceRGBType fresh; lmx::exchange(k_class, this, &fresh); }
 bool ColorSpaceRGBType::is_occurs_ok() const { return lmx::is_occurs_ok(k_class, this); }
 lmx::elmx_error ColorSpaceRGBType::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
 lmx::elmx_error ColorSpaceRGBType::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
@@ -159,7 +159,7 @@ ColorSpaceSRGBType::ColorSpaceSRGBType(const ColorSpaceSRGBType& other) : ColorS
 ColorSpaceSRGBType::~ColorSpaceSRGBType() = default;
 ColorSpaceSRGBType& ColorSpaceSRGBType::operator=(const ColorSpaceSRGBType& other) { ColorSpaceSRGBType copy(other); swap(copy); return *this; }
 void ColorSpaceSRGBType::swap(ColorSpaceSRGBType& other) { lmx::swap(k_class, this, &other); }
-void ColorSpaceSRGBType::reset() { ColorSpaceSRGBType fresh; swap(fresh); }
+void ColorSpaceSRGBType::reset() { ColorSpaceSRGBType fresh; lmx::exchange(k_class, this, &fresh); }
 bool ColorSpaceSRGBType::is_occurs_ok() const { return lmx::is_occurs_ok(k_class, this); }
 lmx::elmx_error ColorSpaceSRGBType::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
 lmx::elmx_error ColorSpaceSRGBType::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
@@ -239,7 +239,7 @@ ColorSpaceAdobeRGBType::ColorSpaceAdobeRGBType(const ColorSpaceAdobeRGBType& oth
 ColorSpaceAdobeRGBType::~ColorSpaceAdobeRGBType() = default;
 ColorSpaceAdobeRGBType& ColorSpaceAdobeRGBType::operator=(const ColorSpaceAdobeRGBType& other) { ColorSpaceAdobeRGBType copy(other); swap(copy); return *this; }
 void ColorSpaceAdobeRGBType::swap(ColorSpaceAdobeRGBType& other) { lmx::swap(k_class, this, &other); }
-void ColorSpaceAdobeRGBType::reset() { ColorSpaceAdobeRGBType fresh; swap(fresh); }
+void ColorSpaceAdobeRGBType::reset() { ColorSpaceAdobeRGBType fresh; lmx::exchange(k_class, this, &fresh); }
 bool ColorSpaceAdobeRGBType::is_occurs_ok() const { return lmx::is_occurs_ok(k_class, this); }
 lmx::elmx_error ColorSpaceAdobeRGBType::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
 lmx::elmx_error ColorSpaceAdobeRGBType::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
@@ -319,7 +319,7 @@ ColorSpaceAdobeWideGamutRGBType::ColorSpaceAdobeWideGamutRGBType(const ColorSpac
 ColorSpaceAdobeWideGamutRGBType::~ColorSpaceAdobeWideGamutRGBType() = default;
 ColorSpaceAdobeWideGamutRGBType& ColorSpaceAdobeWideGamutRGBType::operator=(const ColorSpaceAdobeWideGamutRGBType& other) { ColorSpaceAdobeWideGamutRGBType copy(other); swap(copy); return *this; }
 void ColorSpaceAdobeWideGamutRGBType::swap(ColorSpaceAdobeWideGamutRGBType& other) { lmx::swap(k_class, this, &other); }
-void ColorSpaceAdobeWideGamutRGBType::reset() { ColorSpaceAdobeWideGamutRGBType fresh; swap(fresh); }
+void ColorSpaceAdobeWideGamutRGBType::reset() { ColorSpaceAdobeWideGamutRGBType fresh; lmx::exchange(k_class, this, &fresh); }
 bool ColorSpaceAdobeWideGamutRGBType::is_occurs_ok() const { return lmx::is_occurs_ok(k_class, this); }
 lmx::elmx_error ColorSpaceAdobeWideGamutRGBType::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
 lmx::elmx_error ColorSpaceAdobeWideGamutRGBType::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
@@ -403,7 +403,7 @@ ColorSpaceCMYKType::ColorSpaceCMYKType(const ColorSpaceCMYKType& other) : ColorS
 ColorSpaceCMYKType::~ColorSpaceCMYKType() = default;
 ColorSpaceCMYKType& ColorSpaceCMYKType::operator=(const ColorSpaceCMYKType& other) { ColorSpaceCMYKType copy(other); swap(copy); return *this; }
 void ColorSpaceCMYKType::swap(ColorSpaceCMYKType& other) { lmx::swap(k_class, this, &other); }
-void ColorSpaceCMYKType::reset() { ColorSpaceCMYKType fresh; swap(fresh); }
+void ColorSpaceCMYKType::reset() { ColorSpaceCMYKType fresh; lmx::exchange(k_class, this, &fresh); }
 bool ColorSpaceCMYKType::is_occurs_ok() const { return lmx::is_occurs_ok(k_class, this); }
 lmx::elmx_error ColorSpaceCMYKType::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
 lmx::elmx_error ColorSpaceCMYKType::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
@@ -470,7 +470,7 @@ ColorSpaceCMYKPlusNType::ColorSpaceCMYKPlusNType(const ColorSpaceCMYKPlusNType& 
 ColorSpaceCMYKPlusNType::~ColorSpaceCMYKPlusNType() = default;
 ColorSpaceCMYKPlusNType& ColorSpaceCMYKPlusNType::operator=(const ColorSpaceCMYKPlusNType& other) { ColorSpaceCMYKPlusNType copy(other); swap(copy); return *this; }
 void ColorSpaceCMYKPlusNType::swap(ColorSpaceCMYKPlusNType& other) { lmx::swap(k_class, this, &other); }
-void ColorSpaceCMYKPlusNType::reset() { ColorSpaceCMYKPlusNType fresh; swap(fresh); }
+void ColorSpaceCMYKPlusNType::reset() { ColorSpaceCMYKPlusNType fresh; lmx::exchange(k_class, this, &fresh); }
 bool ColorSpaceCMYKPlusNType::is_occurs_ok() const { return lmx::is_occurs_ok(k_class, this); }
 lmx::elmx_error ColorSpaceCMYKPlusNType::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
 lmx::elmx_error ColorSpaceCMYKPlusNType::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
@@ -531,7 +531,7 @@ Color::Color(const Color& other) { lmx::copy(k_class, this, &other); }
 Color::~Color() = default;
 Color& Color::operator=(const Color& other) { Color copy(other); swap(copy); return *this; }
 void Color::swap(Color& other) { lmx::swap(k_class, this, &other); }
-void Color::reset() { Color fresh; swap(fresh); }
+void Color::reset() { Color fresh; lmx::exchange(k_class, this, &fresh); }
 bool Color::is_occurs_ok() const { return lmx::is_occurs_ok(k_class, this); }
 lmx::elmx_error Color::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
 lmx::elmx_error Color::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
@@ -606,7 +606,7 @@ ColorSpaceTINTORAOctavanticType::ColorSpaceTINTORAOctavanticType(const ColorSpac
 ColorSpaceTINTORAOctavanticType::~ColorSpaceTINTORAOctavanticType() = default;
 ColorSpaceTINTORAOctavanticType& ColorSpaceTINTORAOctavanticType::operator=(const ColorSpaceTINTORAOctavanticType& other) { ColorSpaceTINTORAOctavanticType copy(other); swap(copy); return *this; }
 void ColorSpaceTINTORAOctavanticType::swap(ColorSpaceTINTORAOctavanticType& other) { lmx::swap(k_class, this, &other); }
-void ColorSpaceTINTORAOctavanticType::reset() { ColorSpaceTINTORAOctavanticType fresh; swap(fresh); }
+void ColorSpaceTINTORAOctavanticType::reset() { ColorSpaceTINTORAOctavanticType fresh; lmx::exchange(k_class, this, &fresh); }
 bool ColorSpaceTINTORAOctavanticType::is_occurs_ok() const { return lmx::is_occurs_ok(k_class, this); }
 lmx::elmx_error ColorSpaceTINTORAOctavanticType::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
 lmx::elmx_error ColorSpaceTINTORAOctavanticType::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
@@ -686,7 +686,7 @@ ColorSpaceHSLType::ColorSpaceHSLType(const ColorSpaceHSLType& other) : ColorSpac
 ColorSpaceHSLType::~ColorSpaceHSLType() = default;
 ColorSpaceHSLType& ColorSpaceHSLType::operator=(const ColorSpaceHSLType& other) { ColorSpaceHSLType copy(other); swap(copy); return *this; }
 void ColorSpaceHSLType::swap(ColorSpaceHSLType& other) { lmx::swap(k_class, this, &other); }
-void ColorSpaceHSLType::reset() { ColorSpaceHSLType fresh; swap(fresh); }
+void ColorSpaceHSLType::reset() { ColorSpaceHSLType fresh; lmx::exchange(k_class, this, &fresh); }
 bool ColorSpaceHSLType::is_occurs_ok() const { return lmx::is_occurs_ok(k_class, this); }
 lmx::elmx_error ColorSpaceHSLType::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
 lmx::elmx_error ColorSpaceHSLType::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
@@ -757,7 +757,7 @@ ColorSpaceHSVType::ColorSpaceHSVType(const ColorSpaceHSVType& other) : ColorSpac
 ColorSpaceHSVType::~ColorSpaceHSVType() = default;
 ColorSpaceHSVType& ColorSpaceHSVType::operator=(const ColorSpaceHSVType& other) { ColorSpaceHSVType copy(other); swap(copy); return *this; }
 void ColorSpaceHSVType::swap(ColorSpaceHSVType& other) { lmx::swap(k_class, this, &other); }
-void ColorSpaceHSVType::reset() { ColorSpaceHSVType fresh; swap(fresh); }
+void ColorSpaceHSVType::reset() { ColorSpaceHSVType fresh; lmx::exchange(k_class, this, &fresh); }
 bool ColorSpaceHSVType::is_occurs_ok() const { return lmx::is_occurs_ok(k_class, this); }
 lmx::elmx_error ColorSpaceHSVType::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
 lmx::elmx_error ColorSpaceHSVType::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
@@ -828,7 +828,7 @@ ColorSpaceYUVType::ColorSpaceYUVType(const ColorSpaceYUVType& other) : ColorSpac
 ColorSpaceYUVType::~ColorSpaceYUVType() = default;
 ColorSpaceYUVType& ColorSpaceYUVType::operator=(const ColorSpaceYUVType& other) { ColorSpaceYUVType copy(other); swap(copy); return *this; }
 void ColorSpaceYUVType::swap(ColorSpaceYUVType& other) { lmx::swap(k_class, this, &other); }
-void ColorSpaceYUVType::reset() { ColorSpaceYUVType fresh; swap(fresh); }
+void ColorSpaceYUVType::reset() { ColorSpaceYUVType fresh; lmx::exchange(k_class, this, &fresh); }
 bool ColorSpaceYUVType::is_occurs_ok() const { return lmx::is_occurs_ok(k_class, this); }
 lmx::elmx_error ColorSpaceYUVType::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
 lmx::elmx_error ColorSpaceYUVType::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
@@ -899,7 +899,7 @@ ColorSpaceYIQType::ColorSpaceYIQType(const ColorSpaceYIQType& other) : ColorSpac
 ColorSpaceYIQType::~ColorSpaceYIQType() = default;
 ColorSpaceYIQType& ColorSpaceYIQType::operator=(const ColorSpaceYIQType& other) { ColorSpaceYIQType copy(other); swap(copy); return *this; }
 void ColorSpaceYIQType::swap(ColorSpaceYIQType& other) { lmx::swap(k_class, this, &other); }
-void ColorSpaceYIQType::reset() { ColorSpaceYIQType fresh; swap(fresh); }
+void ColorSpaceYIQType::reset() { ColorSpaceYIQType fresh; lmx::exchange(k_class, this, &fresh); }
 bool ColorSpaceYIQType::is_occurs_ok() const { return lmx::is_occurs_ok(k_class, this); }
 lmx::elmx_error ColorSpaceYIQType::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
 lmx::elmx_error ColorSpaceYIQType::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
@@ -970,7 +970,7 @@ ColorSpaceYBRType::ColorSpaceYBRType(const ColorSpaceYBRType& other) : ColorSpac
 ColorSpaceYBRType::~ColorSpaceYBRType() = default;
 ColorSpaceYBRType& ColorSpaceYBRType::operator=(const ColorSpaceYBRType& other) { ColorSpaceYBRType copy(other); swap(copy); return *this; }
 void ColorSpaceYBRType::swap(ColorSpaceYBRType& other) { lmx::swap(k_class, this, &other); }
-void ColorSpaceYBRType::reset() { ColorSpaceYBRType fresh; swap(fresh); }
+void ColorSpaceYBRType::reset() { ColorSpaceYBRType fresh; lmx::exchange(k_class, this, &fresh); }
 bool ColorSpaceYBRType::is_occurs_ok() const { return lmx::is_occurs_ok(k_class, this); }
 lmx::elmx_error ColorSpaceYBRType::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
 lmx::elmx_error ColorSpaceYBRType::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
@@ -1269,7 +1269,7 @@ SpotColorType::SpotColorType(const SpotColorType& other) { lmx::copy(k_class, th
 SpotColorType::~SpotColorType() = default;
 SpotColorType& SpotColorType::operator=(const SpotColorType& other) { SpotColorType copy(other); swap(copy); return *this; }
 void SpotColorType::swap(SpotColorType& other) { lmx::swap(k_class, this, &other); }
-void SpotColorType::reset() { SpotColorType fresh; swap(fresh); }
+void SpotColorType::reset() { SpotColorType fresh; lmx::exchange(k_class, this, &fresh); }
 bool SpotColorType::is_occurs_ok() const { return lmx::is_occurs_ok(k_class, this); }
 lmx::elmx_error SpotColorType::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
 lmx::elmx_error SpotColorType::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }

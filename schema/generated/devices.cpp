@@ -19,7 +19,7 @@ namespace com_vyrgraph_v2 {
 
 using namespace lmx;  // for the tables' sake
 
-static_assert(k_binding_version == 2, "run schema/generator/generate.py");
+static_assert(k_binding_version == 3, "run schema/generator/generate.py");
 
 // CalibrationStateType
 
@@ -59,7 +59,7 @@ CalibrationStateType::CalibrationStateType(const CalibrationStateType& other) { 
 CalibrationStateType::~CalibrationStateType() = default;
 CalibrationStateType& CalibrationStateType::operator=(const CalibrationStateType& other) { CalibrationStateType copy(other); swap(copy); return *this; }
 void CalibrationStateType::swap(CalibrationStateType& other) { lmx::swap(k_class, this, &other); }
-void CalibrationStateType::reset() { CalibrationStateType fresh; swap(fresh); }
+void CalibrationStateType::reset() { CalibrationStateType fresh; lmx::exchange(k_class, this, &fresh); }
 bool CalibrationStateType::is_occurs_ok() const { return lmx::is_occurs_ok(k_class, this); }
 lmx::elmx_error CalibrationStateType::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
 lmx::elmx_error CalibrationStateType::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
@@ -110,7 +110,7 @@ GlossCompensation::GlossCompensation(const GlossCompensation& other) { lmx::copy
 GlossCompensation::~GlossCompensation() = default;
 GlossCompensation& GlossCompensation::operator=(const GlossCompensation& other) { GlossCompensation copy(other); swap(copy); return *this; }
 void GlossCompensation::swap(GlossCompensation& other) { lmx::swap(k_class, this, &other); }
-void GlossCompensation::reset() { GlossCompensation fresh; swap(fresh); }
+void GlossCompensation::reset() { GlossCompensation fresh; lmx::exchange(k_class, this, &fresh); }
 bool GlossCompensation::is_occurs_ok() const { return lmx::is_occurs_ok(k_class, this); }
 lmx::elmx_error GlossCompensation::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
 lmx::elmx_error GlossCompensation::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
@@ -160,7 +160,7 @@ Averaging::Averaging(const Averaging& other) { lmx::copy(k_class, this, &other);
 Averaging::~Averaging() = default;
 Averaging& Averaging::operator=(const Averaging& other) { Averaging copy(other); swap(copy); return *this; }
 void Averaging::swap(Averaging& other) { lmx::swap(k_class, this, &other); }
-void Averaging::reset() { Averaging fresh; swap(fresh); }
+void Averaging::reset() { Averaging fresh; lmx::exchange(k_class, this, &fresh); }
 bool Averaging::is_occurs_ok() const { return lmx::is_occurs_ok(k_class, this); }
 lmx::elmx_error Averaging::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
 lmx::elmx_error Averaging::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
@@ -196,10 +196,10 @@ constinit const s_item DeviceSettings::k_items[] = {
      LMX_OFFSET(DeviceSettings, m_LensPosition, element, int32), LMX_FLAG(DeviceSettings, m_isset_LensPosition), position_of(k_DeviceSettings_elements, element_LensPosition), position_of(k_DeviceSettings_elements, element_LensPosition, 1), nullptr, &facets::Int32, {}},
     {item_kind::element, value_kind::boolean, use_optional, ELMX_WS_COLLAPSE, "Vyr:GlassCompensation", element_GlassCompensation,
      LMX_OFFSET(DeviceSettings, m_GlassCompensation, element, boolean), LMX_FLAG(DeviceSettings, m_isset_GlassCompensation), position_of(k_DeviceSettings_elements, element_GlassCompensation), position_of(k_DeviceSettings_elements, element_GlassCompensation, 1), nullptr, nullptr, {}},
-    {item_kind::child, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:GlossCompensation", element_GlossCompensation,
-     LMX_OFFSET(DeviceSettings, m_GlossCompensation, child, none), LMX_FLAG(DeviceSettings, m_isset_GlossCompensation), position_of(k_DeviceSettings_elements, element_GlossCompensation), position_of(k_DeviceSettings_elements, element_GlossCompensation, 1), &GlossCompensation::k_class, nullptr, {}},
-    {item_kind::child, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:Averaging", element_Averaging,
-     LMX_OFFSET(DeviceSettings, m_Averaging, child, none), LMX_FLAG(DeviceSettings, m_isset_Averaging), position_of(k_DeviceSettings_elements, element_Averaging), position_of(k_DeviceSettings_elements, element_Averaging, 1), &Averaging::k_class, nullptr, {}},
+    {item_kind::optional_child, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:GlossCompensation", element_GlossCompensation,
+     LMX_OFFSET(DeviceSettings, m_GlossCompensation, optional_child, none), LMX_FLAG(DeviceSettings, m_isset_GlossCompensation), position_of(k_DeviceSettings_elements, element_GlossCompensation), position_of(k_DeviceSettings_elements, element_GlossCompensation, 1), &GlossCompensation::k_class, nullptr, {}},
+    {item_kind::optional_child, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:Averaging", element_Averaging,
+     LMX_OFFSET(DeviceSettings, m_Averaging, optional_child, none), LMX_FLAG(DeviceSettings, m_isset_Averaging), position_of(k_DeviceSettings_elements, element_Averaging), position_of(k_DeviceSettings_elements, element_Averaging, 1), &Averaging::k_class, nullptr, {}},
     {item_kind::element, value_kind::boolean, use_optional, ELMX_WS_COLLAPSE, "Vyr:LinkTrimmer", element_LinkTrimmer,
      LMX_OFFSET(DeviceSettings, m_LinkTrimmer, element, boolean), LMX_FLAG(DeviceSettings, m_isset_LinkTrimmer), position_of(k_DeviceSettings_elements, element_LinkTrimmer), position_of(k_DeviceSettings_elements, element_LinkTrimmer, 1), nullptr, nullptr, {}},
 };
@@ -226,7 +226,7 @@ DeviceSettings::DeviceSettings(const DeviceSettings& other) { lmx::copy(k_class,
 DeviceSettings::~DeviceSettings() = default;
 DeviceSettings& DeviceSettings::operator=(const DeviceSettings& other) { DeviceSettings copy(other); swap(copy); return *this; }
 void DeviceSettings::swap(DeviceSettings& other) { lmx::swap(k_class, this, &other); }
-void DeviceSettings::reset() { DeviceSettings fresh; swap(fresh); }
+void DeviceSettings::reset() { DeviceSettings fresh; lmx::exchange(k_class, this, &fresh); }
 bool DeviceSettings::is_occurs_ok() const { return lmx::is_occurs_ok(k_class, this); }
 lmx::elmx_error DeviceSettings::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
 lmx::elmx_error DeviceSettings::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
@@ -244,7 +244,11 @@ void DeviceSettings::clear_CustomAttribute() { m_CustomAttribute.clear(); }
 lmx::elmx_error DeviceSettings::set_Aperture(std::uint32_t value) { return lmx::set_item(k_class, k_items[item_Aperture], this, value); }
 lmx::elmx_error DeviceSettings::set_LensPosition(std::int32_t value) { return lmx::set_item(k_class, k_items[item_LensPosition], this, value); }
 lmx::elmx_error DeviceSettings::set_GlassCompensation(bool value) { return lmx::set_item(k_class, k_items[item_GlassCompensation], this, value); }
+GlossCompensation& DeviceSettings::get_GlossCompensation() { GlossCompensation& child = m_GlossCompensation.touch(); m_isset_GlossCompensation = true; return child; }
+const GlossCompensation& DeviceSettings::get_GlossCompensation() const { return m_GlossCompensation.get(); }
 GlossCompensation& DeviceSettings::assign_GlossCompensation(const GlossCompensation& value) { return get_GlossCompensation() = value; }
+Averaging& DeviceSettings::get_Averaging() { Averaging& child = m_Averaging.touch(); m_isset_Averaging = true; return child; }
+const Averaging& DeviceSettings::get_Averaging() const { return m_Averaging.get(); }
 Averaging& DeviceSettings::assign_Averaging(const Averaging& value) { return get_Averaging() = value; }
 lmx::elmx_error DeviceSettings::set_LinkTrimmer(bool value) { return lmx::set_item(k_class, k_items[item_LinkTrimmer], this, value); }
 
@@ -280,10 +284,10 @@ constinit const s_item DeviceType::k_items[] = {
      LMX_OFFSET(DeviceType, m_FirmwareVersion, element, text), LMX_FLAG(DeviceType, m_isset_FirmwareVersion), position_of(k_DeviceType_elements, element_FirmwareVersion), position_of(k_DeviceType_elements, element_FirmwareVersion, 1), nullptr, nullptr, {}},
     {item_kind::element, value_kind::text, use_optional, ELMX_WS_PRESERVE, "Vyr:BootFirmwareVersion", element_BootFirmwareVersion,
      LMX_OFFSET(DeviceType, m_BootFirmwareVersion, element, text), LMX_FLAG(DeviceType, m_isset_BootFirmwareVersion), position_of(k_DeviceType_elements, element_BootFirmwareVersion), position_of(k_DeviceType_elements, element_BootFirmwareVersion, 1), nullptr, nullptr, {}},
-    {item_kind::child, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:CalibrationState", element_CalibrationState,
-     LMX_OFFSET(DeviceType, m_CalibrationState, child, none), LMX_FLAG(DeviceType, m_isset_CalibrationState), position_of(k_DeviceType_elements, element_CalibrationState), position_of(k_DeviceType_elements, element_CalibrationState, 1), &CalibrationStateType::k_class, nullptr, {}},
-    {item_kind::child, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:DeviceSettings", element_DeviceSettings,
-     LMX_OFFSET(DeviceType, m_DeviceSettings, child, none), LMX_FLAG(DeviceType, m_isset_DeviceSettings), position_of(k_DeviceType_elements, element_DeviceSettings), position_of(k_DeviceType_elements, element_DeviceSettings, 1), &DeviceSettings::k_class, nullptr, {}},
+    {item_kind::optional_child, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:CalibrationState", element_CalibrationState,
+     LMX_OFFSET(DeviceType, m_CalibrationState, optional_child, none), LMX_FLAG(DeviceType, m_isset_CalibrationState), position_of(k_DeviceType_elements, element_CalibrationState), position_of(k_DeviceType_elements, element_CalibrationState, 1), &CalibrationStateType::k_class, nullptr, {}},
+    {item_kind::optional_child, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:DeviceSettings", element_DeviceSettings,
+     LMX_OFFSET(DeviceType, m_DeviceSettings, optional_child, none), LMX_FLAG(DeviceType, m_isset_DeviceSettings), position_of(k_DeviceType_elements, element_DeviceSettings), position_of(k_DeviceType_elements, element_DeviceSettings, 1), &DeviceSettings::k_class, nullptr, {}},
 };
 constinit const s_class DeviceType::k_class = {
     .name = "DeviceType",
@@ -308,7 +312,7 @@ DeviceType::DeviceType(const DeviceType& other) { lmx::copy(k_class, this, &othe
 DeviceType::~DeviceType() = default;
 DeviceType& DeviceType::operator=(const DeviceType& other) { DeviceType copy(other); swap(copy); return *this; }
 void DeviceType::swap(DeviceType& other) { lmx::swap(k_class, this, &other); }
-void DeviceType::reset() { DeviceType fresh; swap(fresh); }
+void DeviceType::reset() { DeviceType fresh; lmx::exchange(k_class, this, &fresh); }
 bool DeviceType::is_occurs_ok() const { return lmx::is_occurs_ok(k_class, this); }
 lmx::elmx_error DeviceType::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
 lmx::elmx_error DeviceType::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
@@ -330,7 +334,11 @@ lmx::elmx_error DeviceType::set_DeviceClass(const std::u16string& value) { retur
 bool DeviceType::setenum_DeviceClass(std::int32_t number) { return lmx::set_enumerated(k_class, k_items[item_DeviceClass], this, number); }
 lmx::elmx_error DeviceType::set_FirmwareVersion(const std::u16string& value) { return lmx::set_item(k_class, k_items[item_FirmwareVersion], this, value); }
 lmx::elmx_error DeviceType::set_BootFirmwareVersion(const std::u16string& value) { return lmx::set_item(k_class, k_items[item_BootFirmwareVersion], this, value); }
+CalibrationStateType& DeviceType::get_CalibrationState() { CalibrationStateType& child = m_CalibrationState.touch(); m_isset_CalibrationState = true; return child; }
+const CalibrationStateType& DeviceType::get_CalibrationState() const { return m_CalibrationState.get(); }
 CalibrationStateType& DeviceType::assign_CalibrationState(const CalibrationStateType& value) { return get_CalibrationState() = value; }
+DeviceSettings& DeviceType::get_DeviceSettings() { DeviceSettings& child = m_DeviceSettings.touch(); m_isset_DeviceSettings = true; return child; }
+const DeviceSettings& DeviceType::get_DeviceSettings() const { return m_DeviceSettings.get(); }
 DeviceSettings& DeviceType::assign_DeviceSettings(const DeviceSettings& value) { return get_DeviceSettings() = value; }
 
 // ProfileChoice
@@ -372,7 +380,7 @@ ProfileChoice::ProfileChoice(const ProfileChoice& other) : ProfileChoice() { lmx
 ProfileChoice::~ProfileChoice() { lmx::release_choice(k_class, this); }
 ProfileChoice& ProfileChoice::operator=(const ProfileChoice& other) { ProfileChoice copy(other); swap(copy); return *this; }
 void ProfileChoice::swap(ProfileChoice& other) { lmx::swap(k_class, this, &other); }
-void ProfileChoice::reset() { ProfileChoice fresh; swap(fresh); }
+void ProfileChoice::reset() { ProfileChoice fresh; lmx::exchange(k_class, this, &fresh); }
 bool ProfileChoice::is_occurs_ok() const { return lmx::is_occurs_ok(k_class, this); }
 lmx::elmx_error ProfileChoice::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
 lmx::elmx_error ProfileChoice::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
@@ -434,7 +442,7 @@ ProfileType::ProfileType(const ProfileType& other) { lmx::copy(k_class, this, &o
 ProfileType::~ProfileType() = default;
 ProfileType& ProfileType::operator=(const ProfileType& other) { ProfileType copy(other); swap(copy); return *this; }
 void ProfileType::swap(ProfileType& other) { lmx::swap(k_class, this, &other); }
-void ProfileType::reset() { ProfileType fresh; swap(fresh); }
+void ProfileType::reset() { ProfileType fresh; lmx::exchange(k_class, this, &fresh); }
 bool ProfileType::is_occurs_ok() const { return lmx::is_occurs_ok(k_class, this); }
 lmx::elmx_error ProfileType::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
 lmx::elmx_error ProfileType::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
@@ -492,7 +500,7 @@ ProfileFile::ProfileFile(const ProfileFile& other) { lmx::copy(k_class, this, &o
 ProfileFile::~ProfileFile() = default;
 ProfileFile& ProfileFile::operator=(const ProfileFile& other) { ProfileFile copy(other); swap(copy); return *this; }
 void ProfileFile::swap(ProfileFile& other) { lmx::swap(k_class, this, &other); }
-void ProfileFile::reset() { ProfileFile fresh; swap(fresh); }
+void ProfileFile::reset() { ProfileFile fresh; lmx::exchange(k_class, this, &fresh); }
 bool ProfileFile::is_occurs_ok() const { return lmx::is_occurs_ok(k_class, this); }
 lmx::elmx_error ProfileFile::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
 lmx::elmx_error ProfileFile::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
@@ -546,7 +554,7 @@ ProfileType_Parameters_ValueChoice::ProfileType_Parameters_ValueChoice(const Pro
 ProfileType_Parameters_ValueChoice::~ProfileType_Parameters_ValueChoice() { lmx::release_choice(k_class, this); }
 ProfileType_Parameters_ValueChoice& ProfileType_Parameters_ValueChoice::operator=(const ProfileType_Parameters_ValueChoice& other) { ProfileType_Parameters_ValueChoice copy(other); swap(copy); return *this; }
 void ProfileType_Parameters_ValueChoice::swap(ProfileType_Parameters_ValueChoice& other) { lmx::swap(k_class, this, &other); }
-void ProfileType_Parameters_ValueChoice::reset() { ProfileType_Parameters_ValueChoice fresh; swap(fresh); }
+void ProfileType_Parameters_ValueChoice::reset() { ProfileType_Parameters_ValueChoice fresh; lmx::exchange(k_class, this, &fresh); }
 bool ProfileType_Parameters_ValueChoice::is_occurs_ok() const { return lmx::is_occurs_ok(k_class, this); }
 lmx::elmx_error ProfileType_Parameters_ValueChoice::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
 lmx::elmx_error ProfileType_Parameters_ValueChoice::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
@@ -599,7 +607,7 @@ ProfileType_Parameters::ProfileType_Parameters(const ProfileType_Parameters& oth
 ProfileType_Parameters::~ProfileType_Parameters() = default;
 ProfileType_Parameters& ProfileType_Parameters::operator=(const ProfileType_Parameters& other) { ProfileType_Parameters copy(other); swap(copy); return *this; }
 void ProfileType_Parameters::swap(ProfileType_Parameters& other) { lmx::swap(k_class, this, &other); }
-void ProfileType_Parameters::reset() { ProfileType_Parameters fresh; swap(fresh); }
+void ProfileType_Parameters::reset() { ProfileType_Parameters fresh; lmx::exchange(k_class, this, &fresh); }
 bool ProfileType_Parameters::is_occurs_ok() const { return lmx::is_occurs_ok(k_class, this); }
 lmx::elmx_error ProfileType_Parameters::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
 lmx::elmx_error ProfileType_Parameters::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }

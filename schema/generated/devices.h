@@ -197,15 +197,15 @@ public:
     void unset_GlassCompensation() { m_isset_GlassCompensation = false; }
 
     /// Whether the reading is corrected for gloss, and by how much.
-    GlossCompensation& get_GlossCompensation() { m_isset_GlossCompensation = true; return m_GlossCompensation; }
-    const GlossCompensation& get_GlossCompensation() const { return m_GlossCompensation; }
+    GlossCompensation& get_GlossCompensation();
+    const GlossCompensation& get_GlossCompensation() const;
     GlossCompensation& assign_GlossCompensation(const GlossCompensation& value);
     bool isset_GlossCompensation() const { return m_isset_GlossCompensation; }
     void unset_GlossCompensation() { m_isset_GlossCompensation = false; }
 
     /// Whether readings are averaged, and how many.
-    Averaging& get_Averaging() { m_isset_Averaging = true; return m_Averaging; }
-    const Averaging& get_Averaging() const { return m_Averaging; }
+    Averaging& get_Averaging();
+    const Averaging& get_Averaging() const;
     Averaging& assign_Averaging(const Averaging& value);
     bool isset_Averaging() const { return m_isset_Averaging; }
     void unset_Averaging() { m_isset_Averaging = false; }
@@ -240,8 +240,8 @@ private:
     std::uint32_t m_Aperture = 0;
     std::int32_t m_LensPosition = 0;
     bool m_GlassCompensation = false;
-    GlossCompensation m_GlossCompensation;
-    Averaging m_Averaging;
+    lmx::c_optional_child<GlossCompensation> m_GlossCompensation;
+    lmx::c_optional_child<Averaging> m_Averaging;
     bool m_LinkTrimmer = false;
     bool m_isset_Aperture = false;
     bool m_isset_LensPosition = false;
@@ -308,15 +308,15 @@ public:
     void unset_BootFirmwareVersion() { m_isset_BootFirmwareVersion = false; }
 
     /// Whether and when the device was calibrated.
-    CalibrationStateType& get_CalibrationState() { m_isset_CalibrationState = true; return m_CalibrationState; }
-    const CalibrationStateType& get_CalibrationState() const { return m_CalibrationState; }
+    CalibrationStateType& get_CalibrationState();
+    const CalibrationStateType& get_CalibrationState() const;
     CalibrationStateType& assign_CalibrationState(const CalibrationStateType& value);
     bool isset_CalibrationState() const { return m_isset_CalibrationState; }
     void unset_CalibrationState() { m_isset_CalibrationState = false; }
 
     /// How the device was set.
-    DeviceSettings& get_DeviceSettings() { m_isset_DeviceSettings = true; return m_DeviceSettings; }
-    const DeviceSettings& get_DeviceSettings() const { return m_DeviceSettings; }
+    DeviceSettings& get_DeviceSettings();
+    const DeviceSettings& get_DeviceSettings() const;
     DeviceSettings& assign_DeviceSettings(const DeviceSettings& value);
     bool isset_DeviceSettings() const { return m_isset_DeviceSettings; }
     void unset_DeviceSettings() { m_isset_DeviceSettings = false; }
@@ -350,8 +350,8 @@ private:
     lmx::c_enumerated m_DeviceClass;
     std::u16string m_FirmwareVersion;
     std::u16string m_BootFirmwareVersion;
-    CalibrationStateType m_CalibrationState;
-    DeviceSettings m_DeviceSettings;
+    lmx::c_optional_child<CalibrationStateType> m_CalibrationState;
+    lmx::c_optional_child<DeviceSettings> m_DeviceSettings;
     bool m_isset_Manufacturer = false;
     bool m_isset_Model = false;
     bool m_isset_SerialNumber = false;

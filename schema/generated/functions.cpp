@@ -20,7 +20,7 @@ namespace com_vyrgraph_v2 {
 
 using namespace lmx;  // for the tables' sake
 
-static_assert(k_binding_version == 2, "run schema/generator/generate.py");
+static_assert(k_binding_version == 3, "run schema/generator/generate.py");
 
 // FunctionType
 
@@ -81,7 +81,7 @@ FunctionType::FunctionType(const FunctionType& other) { lmx::copy(k_class, this,
 FunctionType::~FunctionType() = default;
 FunctionType& FunctionType::operator=(const FunctionType& other) { FunctionType copy(other); swap(copy); return *this; }
 void FunctionType::swap(FunctionType& other) { lmx::swap(k_class, this, &other); }
-void FunctionType::reset() { FunctionType fresh; swap(fresh); }
+void FunctionType::reset() { FunctionType fresh; lmx::exchange(k_class, this, &fresh); }
 bool FunctionType::is_occurs_ok() const { return lmx::is_occurs_ok(k_class, this); }
 lmx::elmx_error FunctionType::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
 lmx::elmx_error FunctionType::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
@@ -163,7 +163,7 @@ FunctionGenericType::FunctionGenericType(const FunctionGenericType& other) : Fun
 FunctionGenericType::~FunctionGenericType() = default;
 FunctionGenericType& FunctionGenericType::operator=(const FunctionGenericType& other) { FunctionGenericType copy(other); swap(copy); return *this; }
 void FunctionGenericType::swap(FunctionGenericType& other) { lmx::swap(k_class, this, &other); }
-void FunctionGenericType::reset() { FunctionGenericType fresh; swap(fresh); }
+void FunctionGenericType::reset() { FunctionGenericType fresh; lmx::exchange(k_class, this, &fresh); }
 bool FunctionGenericType::is_occurs_ok() const { return lmx::is_occurs_ok(k_class, this); }
 lmx::elmx_error FunctionGenericType::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
 lmx::elmx_error FunctionGenericType::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
@@ -224,7 +224,7 @@ ValueChoice::ValueChoice(const ValueChoice& other) : ValueChoice() { lmx::copy(k
 ValueChoice::~ValueChoice() { lmx::release_choice(k_class, this); }
 ValueChoice& ValueChoice::operator=(const ValueChoice& other) { ValueChoice copy(other); swap(copy); return *this; }
 void ValueChoice::swap(ValueChoice& other) { lmx::swap(k_class, this, &other); }
-void ValueChoice::reset() { ValueChoice fresh; swap(fresh); }
+void ValueChoice::reset() { ValueChoice fresh; lmx::exchange(k_class, this, &fresh); }
 bool ValueChoice::is_occurs_ok() const { return lmx::is_occurs_ok(k_class, this); }
 lmx::elmx_error ValueChoice::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
 lmx::elmx_error ValueChoice::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
@@ -276,7 +276,7 @@ Parameters::Parameters(const Parameters& other) { lmx::copy(k_class, this, &othe
 Parameters::~Parameters() = default;
 Parameters& Parameters::operator=(const Parameters& other) { Parameters copy(other); swap(copy); return *this; }
 void Parameters::swap(Parameters& other) { lmx::swap(k_class, this, &other); }
-void Parameters::reset() { Parameters fresh; swap(fresh); }
+void Parameters::reset() { Parameters fresh; lmx::exchange(k_class, this, &fresh); }
 bool Parameters::is_occurs_ok() const { return lmx::is_occurs_ok(k_class, this); }
 lmx::elmx_error Parameters::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
 lmx::elmx_error Parameters::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
@@ -313,7 +313,7 @@ FunctionDEType::FunctionDEType(const FunctionDEType& other) : FunctionType() { l
 FunctionDEType::~FunctionDEType() = default;
 FunctionDEType& FunctionDEType::operator=(const FunctionDEType& other) { FunctionDEType copy(other); swap(copy); return *this; }
 void FunctionDEType::swap(FunctionDEType& other) { lmx::swap(k_class, this, &other); }
-void FunctionDEType::reset() { FunctionDEType fresh; swap(fresh); }
+void FunctionDEType::reset() { FunctionDEType fresh; lmx::exchange(k_class, this, &fresh); }
 bool FunctionDEType::is_occurs_ok() const { return lmx::is_occurs_ok(k_class, this); }
 lmx::elmx_error FunctionDEType::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
 lmx::elmx_error FunctionDEType::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
@@ -353,7 +353,7 @@ FunctionMeanDEType::FunctionMeanDEType(const FunctionMeanDEType& other) : Functi
 FunctionMeanDEType::~FunctionMeanDEType() = default;
 FunctionMeanDEType& FunctionMeanDEType::operator=(const FunctionMeanDEType& other) { FunctionMeanDEType copy(other); swap(copy); return *this; }
 void FunctionMeanDEType::swap(FunctionMeanDEType& other) { lmx::swap(k_class, this, &other); }
-void FunctionMeanDEType::reset() { FunctionMeanDEType fresh; swap(fresh); }
+void FunctionMeanDEType::reset() { FunctionMeanDEType fresh; lmx::exchange(k_class, this, &fresh); }
 bool FunctionMeanDEType::is_occurs_ok() const { return lmx::is_occurs_ok(k_class, this); }
 lmx::elmx_error FunctionMeanDEType::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
 lmx::elmx_error FunctionMeanDEType::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
@@ -410,7 +410,7 @@ FunctionDE94Type::FunctionDE94Type(const FunctionDE94Type& other) : FunctionType
 FunctionDE94Type::~FunctionDE94Type() = default;
 FunctionDE94Type& FunctionDE94Type::operator=(const FunctionDE94Type& other) { FunctionDE94Type copy(other); swap(copy); return *this; }
 void FunctionDE94Type::swap(FunctionDE94Type& other) { lmx::swap(k_class, this, &other); }
-void FunctionDE94Type::reset() { FunctionDE94Type fresh; swap(fresh); }
+void FunctionDE94Type::reset() { FunctionDE94Type fresh; lmx::exchange(k_class, this, &fresh); }
 bool FunctionDE94Type::is_occurs_ok() const { return lmx::is_occurs_ok(k_class, this); }
 lmx::elmx_error FunctionDE94Type::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
 lmx::elmx_error FunctionDE94Type::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
@@ -470,7 +470,7 @@ FunctionDE2000Type::FunctionDE2000Type(const FunctionDE2000Type& other) : Functi
 FunctionDE2000Type::~FunctionDE2000Type() = default;
 FunctionDE2000Type& FunctionDE2000Type::operator=(const FunctionDE2000Type& other) { FunctionDE2000Type copy(other); swap(copy); return *this; }
 void FunctionDE2000Type::swap(FunctionDE2000Type& other) { lmx::swap(k_class, this, &other); }
-void FunctionDE2000Type::reset() { FunctionDE2000Type fresh; swap(fresh); }
+void FunctionDE2000Type::reset() { FunctionDE2000Type fresh; lmx::exchange(k_class, this, &fresh); }
 bool FunctionDE2000Type::is_occurs_ok() const { return lmx::is_occurs_ok(k_class, this); }
 lmx::elmx_error FunctionDE2000Type::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
 lmx::elmx_error FunctionDE2000Type::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
@@ -527,7 +527,7 @@ FunctionDEcmcType::FunctionDEcmcType(const FunctionDEcmcType& other) : FunctionT
 FunctionDEcmcType::~FunctionDEcmcType() = default;
 FunctionDEcmcType& FunctionDEcmcType::operator=(const FunctionDEcmcType& other) { FunctionDEcmcType copy(other); swap(copy); return *this; }
 void FunctionDEcmcType::swap(FunctionDEcmcType& other) { lmx::swap(k_class, this, &other); }
-void FunctionDEcmcType::reset() { FunctionDEcmcType fresh; swap(fresh); }
+void FunctionDEcmcType::reset() { FunctionDEcmcType fresh; lmx::exchange(k_class, this, &fresh); }
 bool FunctionDEcmcType::is_occurs_ok() const { return lmx::is_occurs_ok(k_class, this); }
 lmx::elmx_error FunctionDEcmcType::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
 lmx::elmx_error FunctionDEcmcType::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
@@ -703,7 +703,7 @@ FunctionTolerance::FunctionTolerance(const FunctionTolerance& other) : FunctionT
 FunctionTolerance::~FunctionTolerance() = default;
 FunctionTolerance& FunctionTolerance::operator=(const FunctionTolerance& other) { FunctionTolerance copy(other); swap(copy); return *this; }
 void FunctionTolerance::swap(FunctionTolerance& other) { lmx::swap(k_class, this, &other); }
-void FunctionTolerance::reset() { FunctionTolerance fresh; swap(fresh); }
+void FunctionTolerance::reset() { FunctionTolerance fresh; lmx::exchange(k_class, this, &fresh); }
 bool FunctionTolerance::is_occurs_ok() const { return lmx::is_occurs_ok(k_class, this); }
 lmx::elmx_error FunctionTolerance::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
 lmx::elmx_error FunctionTolerance::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
@@ -768,7 +768,7 @@ ToleranceParameterType::ToleranceParameterType(const ToleranceParameterType& oth
 ToleranceParameterType::~ToleranceParameterType() = default;
 ToleranceParameterType& ToleranceParameterType::operator=(const ToleranceParameterType& other) { ToleranceParameterType copy(other); swap(copy); return *this; }
 void ToleranceParameterType::swap(ToleranceParameterType& other) { lmx::swap(k_class, this, &other); }
-void ToleranceParameterType::reset() { ToleranceParameterType fresh; swap(fresh); }
+void ToleranceParameterType::reset() { ToleranceParameterType fresh; lmx::exchange(k_class, this, &fresh); }
 bool ToleranceParameterType::is_occurs_ok() const { return lmx::is_occurs_ok(k_class, this); }
 lmx::elmx_error ToleranceParameterType::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
 lmx::elmx_error ToleranceParameterType::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }

@@ -26,7 +26,7 @@ namespace com_vyrgraph_v2 {
 
 using namespace lmx;  // for the tables' sake
 
-static_assert(k_binding_version == 2, "run schema/generator/generate.py");
+static_assert(k_binding_version == 3, "run schema/generator/generate.py");
 
 // sg_ColorSpace
 
@@ -145,7 +145,7 @@ sg_ColorSpace::sg_ColorSpace(const sg_ColorSpace& other) : sg_ColorSpace() { lmx
 sg_ColorSpace::~sg_ColorSpace() { lmx::release_choice(k_class, this); }
 sg_ColorSpace& sg_ColorSpace::operator=(const sg_ColorSpace& other) { sg_ColorSpace copy(other); swap(copy); return *this; }
 void sg_ColorSpace::swap(sg_ColorSpace& other) { lmx::swap(k_class, this, &other); }
-void sg_ColorSpace::reset() { sg_ColorSpace fresh; swap(fresh); }
+void sg_ColorSpace::reset() { sg_ColorSpace fresh; lmx::exchange(k_class, this, &fresh); }
 bool sg_ColorSpace::is_occurs_ok() const { return lmx::is_occurs_ok(k_class, this); }
 bool sg_ColorSpace::is_member(lmx::c_xml_reader& reader, const std::string&) { return lmx::is_group_member(k_class, reader); }
 lmx::elmx_error sg_ColorSpace::marshal(lmx::c_xml_writer& writer, const char*) const { return lmx::marshal_group(k_class, this, writer); }
@@ -270,7 +270,7 @@ sg_Substrate::sg_Substrate(const sg_Substrate& other) : sg_Substrate() { lmx::co
 sg_Substrate::~sg_Substrate() { lmx::release_choice(k_class, this); }
 sg_Substrate& sg_Substrate::operator=(const sg_Substrate& other) { sg_Substrate copy(other); swap(copy); return *this; }
 void sg_Substrate::swap(sg_Substrate& other) { lmx::swap(k_class, this, &other); }
-void sg_Substrate::reset() { sg_Substrate fresh; swap(fresh); }
+void sg_Substrate::reset() { sg_Substrate fresh; lmx::exchange(k_class, this, &fresh); }
 bool sg_Substrate::is_occurs_ok() const { return lmx::is_occurs_ok(k_class, this); }
 bool sg_Substrate::is_member(lmx::c_xml_reader& reader, const std::string&) { return lmx::is_group_member(k_class, reader); }
 lmx::elmx_error sg_Substrate::marshal(lmx::c_xml_writer& writer, const char*) const { return lmx::marshal_group(k_class, this, writer); }
@@ -335,7 +335,7 @@ sg_Sample::sg_Sample(const sg_Sample& other) : sg_Sample() { lmx::copy(k_class, 
 sg_Sample::~sg_Sample() { lmx::release_choice(k_class, this); }
 sg_Sample& sg_Sample::operator=(const sg_Sample& other) { sg_Sample copy(other); swap(copy); return *this; }
 void sg_Sample::swap(sg_Sample& other) { lmx::swap(k_class, this, &other); }
-void sg_Sample::reset() { sg_Sample fresh; swap(fresh); }
+void sg_Sample::reset() { sg_Sample fresh; lmx::exchange(k_class, this, &fresh); }
 bool sg_Sample::is_occurs_ok() const { return lmx::is_occurs_ok(k_class, this); }
 bool sg_Sample::is_member(lmx::c_xml_reader& reader, const std::string&) { return lmx::is_group_member(k_class, reader); }
 lmx::elmx_error sg_Sample::marshal(lmx::c_xml_writer& writer, const char*) const { return lmx::marshal_group(k_class, this, writer); }
@@ -434,7 +434,7 @@ sg_Function::sg_Function(const sg_Function& other) : sg_Function() { lmx::copy(k
 sg_Function::~sg_Function() { lmx::release_choice(k_class, this); }
 sg_Function& sg_Function::operator=(const sg_Function& other) { sg_Function copy(other); swap(copy); return *this; }
 void sg_Function::swap(sg_Function& other) { lmx::swap(k_class, this, &other); }
-void sg_Function::reset() { sg_Function fresh; swap(fresh); }
+void sg_Function::reset() { sg_Function fresh; lmx::exchange(k_class, this, &fresh); }
 bool sg_Function::is_occurs_ok() const { return lmx::is_occurs_ok(k_class, this); }
 bool sg_Function::is_member(lmx::c_xml_reader& reader, const std::string&) { return lmx::is_group_member(k_class, reader); }
 lmx::elmx_error sg_Function::marshal(lmx::c_xml_writer& writer, const char*) const { return lmx::marshal_group(k_class, this, writer); }

@@ -20,7 +20,7 @@ namespace com_vyrgraph_v2 {
 
 using namespace lmx;  // for the tables' sake
 
-static_assert(k_binding_version == 2, "run schema/generator/generate.py");
+static_assert(k_binding_version == 3, "run schema/generator/generate.py");
 
 // SDKVersion
 
@@ -51,7 +51,7 @@ SDKVersion::SDKVersion(const SDKVersion& other) { lmx::copy(k_class, this, &othe
 SDKVersion::~SDKVersion() = default;
 SDKVersion& SDKVersion::operator=(const SDKVersion& other) { SDKVersion copy(other); swap(copy); return *this; }
 void SDKVersion::swap(SDKVersion& other) { lmx::swap(k_class, this, &other); }
-void SDKVersion::reset() { SDKVersion fresh; swap(fresh); }
+void SDKVersion::reset() { SDKVersion fresh; lmx::exchange(k_class, this, &fresh); }
 bool SDKVersion::is_occurs_ok() const { return lmx::is_occurs_ok(k_class, this); }
 lmx::elmx_error SDKVersion::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
 lmx::elmx_error SDKVersion::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
@@ -101,7 +101,7 @@ SDKType::SDKType(const SDKType& other) { lmx::copy(k_class, this, &other); }
 SDKType::~SDKType() = default;
 SDKType& SDKType::operator=(const SDKType& other) { SDKType copy(other); swap(copy); return *this; }
 void SDKType::swap(SDKType& other) { lmx::swap(k_class, this, &other); }
-void SDKType::reset() { SDKType fresh; swap(fresh); }
+void SDKType::reset() { SDKType fresh; lmx::exchange(k_class, this, &fresh); }
 bool SDKType::is_occurs_ok() const { return lmx::is_occurs_ok(k_class, this); }
 lmx::elmx_error SDKType::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
 lmx::elmx_error SDKType::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
@@ -152,7 +152,7 @@ PlatformType::PlatformType(const PlatformType& other) { lmx::copy(k_class, this,
 PlatformType::~PlatformType() = default;
 PlatformType& PlatformType::operator=(const PlatformType& other) { PlatformType copy(other); swap(copy); return *this; }
 void PlatformType::swap(PlatformType& other) { lmx::swap(k_class, this, &other); }
-void PlatformType::reset() { PlatformType fresh; swap(fresh); }
+void PlatformType::reset() { PlatformType fresh; lmx::exchange(k_class, this, &fresh); }
 bool PlatformType::is_occurs_ok() const { return lmx::is_occurs_ok(k_class, this); }
 lmx::elmx_error PlatformType::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
 lmx::elmx_error PlatformType::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
@@ -199,14 +199,14 @@ constinit const s_item Header::k_items[] = {
      LMX_OFFSET(Header, m_Name, element, text), LMX_FLAG(Header, m_isset_Name), position_of(k_Header_elements, element_Name), position_of(k_Header_elements, element_Name, 1), nullptr, nullptr, {}},
     {item_kind::element, value_kind::text, use_optional, ELMX_WS_PRESERVE, "Vyr:Comments", element_Comments,
      LMX_OFFSET(Header, m_Comments, element, text), LMX_FLAG(Header, m_isset_Comments), position_of(k_Header_elements, element_Comments), position_of(k_Header_elements, element_Comments, 1), nullptr, nullptr, {}},
-    {item_kind::child, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:ReadSDKInformation", element_ReadSDKInformation,
-     LMX_OFFSET(Header, m_ReadSDKInformation, child, none), LMX_FLAG(Header, m_isset_ReadSDKInformation), position_of(k_Header_elements, element_ReadSDKInformation), position_of(k_Header_elements, element_ReadSDKInformation, 1), &SDKType::k_class, nullptr, {}},
-    {item_kind::child, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:WriteSDKInformation", element_WriteSDKInformation,
-     LMX_OFFSET(Header, m_WriteSDKInformation, child, none), LMX_FLAG(Header, m_isset_WriteSDKInformation), position_of(k_Header_elements, element_WriteSDKInformation), position_of(k_Header_elements, element_WriteSDKInformation, 1), &SDKType::k_class, nullptr, {}},
-    {item_kind::child, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:ReadPlatformInformation", element_ReadPlatformInformation,
-     LMX_OFFSET(Header, m_ReadPlatformInformation, child, none), LMX_FLAG(Header, m_isset_ReadPlatformInformation), position_of(k_Header_elements, element_ReadPlatformInformation), position_of(k_Header_elements, element_ReadPlatformInformation, 1), &PlatformType::k_class, nullptr, {}},
-    {item_kind::child, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:WritePlatformInformation", element_WritePlatformInformation,
-     LMX_OFFSET(Header, m_WritePlatformInformation, child, none), LMX_FLAG(Header, m_isset_WritePlatformInformation), position_of(k_Header_elements, element_WritePlatformInformation), position_of(k_Header_elements, element_WritePlatformInformation, 1), &PlatformType::k_class, nullptr, {}},
+    {item_kind::optional_child, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:ReadSDKInformation", element_ReadSDKInformation,
+     LMX_OFFSET(Header, m_ReadSDKInformation, optional_child, none), LMX_FLAG(Header, m_isset_ReadSDKInformation), position_of(k_Header_elements, element_ReadSDKInformation), position_of(k_Header_elements, element_ReadSDKInformation, 1), &SDKType::k_class, nullptr, {}},
+    {item_kind::optional_child, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:WriteSDKInformation", element_WriteSDKInformation,
+     LMX_OFFSET(Header, m_WriteSDKInformation, optional_child, none), LMX_FLAG(Header, m_isset_WriteSDKInformation), position_of(k_Header_elements, element_WriteSDKInformation), position_of(k_Header_elements, element_WriteSDKInformation, 1), &SDKType::k_class, nullptr, {}},
+    {item_kind::optional_child, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:ReadPlatformInformation", element_ReadPlatformInformation,
+     LMX_OFFSET(Header, m_ReadPlatformInformation, optional_child, none), LMX_FLAG(Header, m_isset_ReadPlatformInformation), position_of(k_Header_elements, element_ReadPlatformInformation), position_of(k_Header_elements, element_ReadPlatformInformation, 1), &PlatformType::k_class, nullptr, {}},
+    {item_kind::optional_child, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:WritePlatformInformation", element_WritePlatformInformation,
+     LMX_OFFSET(Header, m_WritePlatformInformation, optional_child, none), LMX_FLAG(Header, m_isset_WritePlatformInformation), position_of(k_Header_elements, element_WritePlatformInformation), position_of(k_Header_elements, element_WritePlatformInformation, 1), &PlatformType::k_class, nullptr, {}},
     {item_kind::child_list, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:Revision", element_Revision,
      LMX_OFFSET(Header, m_Revision, child_list, none), k_no_flag, position_of(k_Header_elements, element_Revision), position_of(k_Header_elements, element_Revision, 1), &Revision::k_class, nullptr, {}},
 };
@@ -233,7 +233,7 @@ Header::Header(const Header& other) { lmx::copy(k_class, this, &other); }
 Header::~Header() = default;
 Header& Header::operator=(const Header& other) { Header copy(other); swap(copy); return *this; }
 void Header::swap(Header& other) { lmx::swap(k_class, this, &other); }
-void Header::reset() { Header fresh; swap(fresh); }
+void Header::reset() { Header fresh; lmx::exchange(k_class, this, &fresh); }
 bool Header::is_occurs_ok() const { return lmx::is_occurs_ok(k_class, this); }
 lmx::elmx_error Header::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
 lmx::elmx_error Header::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
@@ -258,9 +258,17 @@ void Header::clear_ChangeHistory() { m_ChangeHistory.clear(); }
 lmx::elmx_error Header::set_Purpose(const std::u16string& value) { return lmx::set_item(k_class, k_items[item_Purpose], this, value); }
 lmx::elmx_error Header::set_Name(const std::u16string& value) { return lmx::set_item(k_class, k_items[item_Name], this, value); }
 lmx::elmx_error Header::set_Comments(const std::u16string& value) { return lmx::set_item(k_class, k_items[item_Comments], this, value); }
+SDKType& Header::get_ReadSDKInformation() { SDKType& child = m_ReadSDKInformation.touch(); m_isset_ReadSDKInformation = true; return child; }
+const SDKType& Header::get_ReadSDKInformation() const { return m_ReadSDKInformation.get(); }
 SDKType& Header::assign_ReadSDKInformation(const SDKType& value) { return get_ReadSDKInformation() = value; }
+SDKType& Header::get_WriteSDKInformation() { SDKType& child = m_WriteSDKInformation.touch(); m_isset_WriteSDKInformation = true; return child; }
+const SDKType& Header::get_WriteSDKInformation() const { return m_WriteSDKInformation.get(); }
 SDKType& Header::assign_WriteSDKInformation(const SDKType& value) { return get_WriteSDKInformation() = value; }
+PlatformType& Header::get_ReadPlatformInformation() { PlatformType& child = m_ReadPlatformInformation.touch(); m_isset_ReadPlatformInformation = true; return child; }
+const PlatformType& Header::get_ReadPlatformInformation() const { return m_ReadPlatformInformation.get(); }
 PlatformType& Header::assign_ReadPlatformInformation(const PlatformType& value) { return get_ReadPlatformInformation() = value; }
+PlatformType& Header::get_WritePlatformInformation() { PlatformType& child = m_WritePlatformInformation.touch(); m_isset_WritePlatformInformation = true; return child; }
+const PlatformType& Header::get_WritePlatformInformation() const { return m_WritePlatformInformation.get(); }
 PlatformType& Header::assign_WritePlatformInformation(const PlatformType& value) { return get_WritePlatformInformation() = value; }
 Revision& Header::get_Revision(std::size_t index) { return m_Revision.grow_to(index); }
 Revision& Header::assign_Revision(std::size_t index, const Revision& value) { return get_Revision(index) = value; }
@@ -314,7 +322,7 @@ OwnerType::OwnerType(const OwnerType& other) { lmx::copy(k_class, this, &other);
 OwnerType::~OwnerType() = default;
 OwnerType& OwnerType::operator=(const OwnerType& other) { OwnerType copy(other); swap(copy); return *this; }
 void OwnerType::swap(OwnerType& other) { lmx::swap(k_class, this, &other); }
-void OwnerType::reset() { OwnerType fresh; swap(fresh); }
+void OwnerType::reset() { OwnerType fresh; lmx::exchange(k_class, this, &fresh); }
 bool OwnerType::is_occurs_ok() const { return lmx::is_occurs_ok(k_class, this); }
 lmx::elmx_error OwnerType::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
 lmx::elmx_error OwnerType::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
@@ -388,7 +396,7 @@ Version::Version(const Version& other) { lmx::copy(k_class, this, &other); }
 Version::~Version() = default;
 Version& Version::operator=(const Version& other) { Version copy(other); swap(copy); return *this; }
 void Version::swap(Version& other) { lmx::swap(k_class, this, &other); }
-void Version::reset() { Version fresh; swap(fresh); }
+void Version::reset() { Version fresh; lmx::exchange(k_class, this, &fresh); }
 bool Version::is_occurs_ok() const { return lmx::is_occurs_ok(k_class, this); }
 lmx::elmx_error Version::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
 lmx::elmx_error Version::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
@@ -424,10 +432,10 @@ constexpr s_event_map k_Preamble_elements[] = {
 constinit const s_item Preamble::k_items[] = {
     {item_kind::child, value_kind::none, use_required, ELMX_WS_PRESERVE, "Vyr:Header", element_Header,
      LMX_OFFSET(Preamble, m_Header, child, none), LMX_FLAG(Preamble, m_isset_Header), position_of(k_Preamble_elements, element_Header), position_of(k_Preamble_elements, element_Header, 1), &Header::k_class, nullptr, {}},
-    {item_kind::child, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:Owner", element_Owner,
-     LMX_OFFSET(Preamble, m_Owner, child, none), LMX_FLAG(Preamble, m_isset_Owner), position_of(k_Preamble_elements, element_Owner), position_of(k_Preamble_elements, element_Owner, 1), &OwnerType::k_class, nullptr, {}},
-    {item_kind::child, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:Version", element_Version,
-     LMX_OFFSET(Preamble, m_Version, child, none), LMX_FLAG(Preamble, m_isset_Version), position_of(k_Preamble_elements, element_Version), position_of(k_Preamble_elements, element_Version, 1), &Version::k_class, nullptr, {}},
+    {item_kind::optional_child, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:Owner", element_Owner,
+     LMX_OFFSET(Preamble, m_Owner, optional_child, none), LMX_FLAG(Preamble, m_isset_Owner), position_of(k_Preamble_elements, element_Owner), position_of(k_Preamble_elements, element_Owner, 1), &OwnerType::k_class, nullptr, {}},
+    {item_kind::optional_child, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:Version", element_Version,
+     LMX_OFFSET(Preamble, m_Version, optional_child, none), LMX_FLAG(Preamble, m_isset_Version), position_of(k_Preamble_elements, element_Version), position_of(k_Preamble_elements, element_Version, 1), &Version::k_class, nullptr, {}},
 };
 constinit const s_class Preamble::k_class = {
     .name = "Preamble",
@@ -452,7 +460,7 @@ Preamble::Preamble(const Preamble& other) { lmx::copy(k_class, this, &other); }
 Preamble::~Preamble() = default;
 Preamble& Preamble::operator=(const Preamble& other) { Preamble copy(other); swap(copy); return *this; }
 void Preamble::swap(Preamble& other) { lmx::swap(k_class, this, &other); }
-void Preamble::reset() { Preamble fresh; swap(fresh); }
+void Preamble::reset() { Preamble fresh; lmx::exchange(k_class, this, &fresh); }
 bool Preamble::is_occurs_ok() const { return lmx::is_occurs_ok(k_class, this); }
 lmx::elmx_error Preamble::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
 lmx::elmx_error Preamble::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
@@ -462,7 +470,11 @@ bool Preamble::unmarshal_attributes(lmx::c_xml_reader& reader, const std::string
 lmx::elmx_error Preamble::unmarshal_attributes_check(lmx::c_xml_reader& reader) { return lmx::check_required_attributes(k_class, this, reader); }
 bool Preamble::unmarshal_body(lmx::c_xml_reader& reader, std::string* name, lmx::elmx_error* error) { return lmx::unmarshal_body(k_class, this, reader, name, error); }
 Header& Preamble::assign_Header(const Header& value) { return get_Header() = value; }
+OwnerType& Preamble::get_Owner() { OwnerType& child = m_Owner.touch(); m_isset_Owner = true; return child; }
+const OwnerType& Preamble::get_Owner() const { return m_Owner.get(); }
 OwnerType& Preamble::assign_Owner(const OwnerType& value) { return get_Owner() = value; }
+Version& Preamble::get_Version() { Version& child = m_Version.touch(); m_isset_Version = true; return child; }
+const Version& Preamble::get_Version() const { return m_Version.get(); }
 Version& Preamble::assign_Version(const Version& value) { return get_Version() = value; }
 
 // Vyr
@@ -510,7 +522,7 @@ Vyr::Vyr(const Vyr& other) { lmx::copy(k_class, this, &other); init(); }
 Vyr::~Vyr() = default;
 Vyr& Vyr::operator=(const Vyr& other) { Vyr copy(other); swap(copy); return *this; }
 void Vyr::swap(Vyr& other) { lmx::swap(k_class, this, &other); }
-void Vyr::reset() { Vyr fresh; swap(fresh); }
+void Vyr::reset() { Vyr fresh; lmx::exchange(k_class, this, &fresh); }
 bool Vyr::is_occurs_ok() const { return lmx::is_occurs_ok(k_class, this); }
 lmx::elmx_error Vyr::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
 lmx::elmx_error Vyr::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
@@ -580,7 +592,7 @@ Revision::Revision(const Revision& other) { lmx::copy(k_class, this, &other); }
 Revision::~Revision() = default;
 Revision& Revision::operator=(const Revision& other) { Revision copy(other); swap(copy); return *this; }
 void Revision::swap(Revision& other) { lmx::swap(k_class, this, &other); }
-void Revision::reset() { Revision fresh; swap(fresh); }
+void Revision::reset() { Revision fresh; lmx::exchange(k_class, this, &fresh); }
 bool Revision::is_occurs_ok() const { return lmx::is_occurs_ok(k_class, this); }
 lmx::elmx_error Revision::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
 lmx::elmx_error Revision::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
@@ -638,7 +650,7 @@ Person::Person(const Person& other) { lmx::copy(k_class, this, &other); }
 Person::~Person() = default;
 Person& Person::operator=(const Person& other) { Person copy(other); swap(copy); return *this; }
 void Person::swap(Person& other) { lmx::swap(k_class, this, &other); }
-void Person::reset() { Person fresh; swap(fresh); }
+void Person::reset() { Person fresh; lmx::exchange(k_class, this, &fresh); }
 bool Person::is_occurs_ok() const { return lmx::is_occurs_ok(k_class, this); }
 lmx::elmx_error Person::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
 lmx::elmx_error Person::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
@@ -692,7 +704,7 @@ CustomAttributeType_ValueChoice::CustomAttributeType_ValueChoice(const CustomAtt
 CustomAttributeType_ValueChoice::~CustomAttributeType_ValueChoice() { lmx::release_choice(k_class, this); }
 CustomAttributeType_ValueChoice& CustomAttributeType_ValueChoice::operator=(const CustomAttributeType_ValueChoice& other) { CustomAttributeType_ValueChoice copy(other); swap(copy); return *this; }
 void CustomAttributeType_ValueChoice::swap(CustomAttributeType_ValueChoice& other) { lmx::swap(k_class, this, &other); }
-void CustomAttributeType_ValueChoice::reset() { CustomAttributeType_ValueChoice fresh; swap(fresh); }
+void CustomAttributeType_ValueChoice::reset() { CustomAttributeType_ValueChoice fresh; lmx::exchange(k_class, this, &fresh); }
 bool CustomAttributeType_ValueChoice::is_occurs_ok() const { return lmx::is_occurs_ok(k_class, this); }
 lmx::elmx_error CustomAttributeType_ValueChoice::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
 lmx::elmx_error CustomAttributeType_ValueChoice::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
@@ -745,7 +757,7 @@ CustomAttributeType::CustomAttributeType(const CustomAttributeType& other) { lmx
 CustomAttributeType::~CustomAttributeType() = default;
 CustomAttributeType& CustomAttributeType::operator=(const CustomAttributeType& other) { CustomAttributeType copy(other); swap(copy); return *this; }
 void CustomAttributeType::swap(CustomAttributeType& other) { lmx::swap(k_class, this, &other); }
-void CustomAttributeType::reset() { CustomAttributeType fresh; swap(fresh); }
+void CustomAttributeType::reset() { CustomAttributeType fresh; lmx::exchange(k_class, this, &fresh); }
 bool CustomAttributeType::is_occurs_ok() const { return lmx::is_occurs_ok(k_class, this); }
 lmx::elmx_error CustomAttributeType::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
 lmx::elmx_error CustomAttributeType::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
@@ -796,7 +808,7 @@ TagCategory::TagCategory(const TagCategory& other) { lmx::copy(k_class, this, &o
 TagCategory::~TagCategory() = default;
 TagCategory& TagCategory::operator=(const TagCategory& other) { TagCategory copy(other); swap(copy); return *this; }
 void TagCategory::swap(TagCategory& other) { lmx::swap(k_class, this, &other); }
-void TagCategory::reset() { TagCategory fresh; swap(fresh); }
+void TagCategory::reset() { TagCategory fresh; lmx::exchange(k_class, this, &fresh); }
 bool TagCategory::is_occurs_ok() const { return lmx::is_occurs_ok(k_class, this); }
 lmx::elmx_error TagCategory::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
 lmx::elmx_error TagCategory::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
@@ -853,7 +865,7 @@ Tag::Tag(const Tag& other) { lmx::copy(k_class, this, &other); }
 Tag::~Tag() = default;
 Tag& Tag::operator=(const Tag& other) { Tag copy(other); swap(copy); return *this; }
 void Tag::swap(Tag& other) { lmx::swap(k_class, this, &other); }
-void Tag::reset() { Tag fresh; swap(fresh); }
+void Tag::reset() { Tag fresh; lmx::exchange(k_class, this, &fresh); }
 bool Tag::is_occurs_ok() const { return lmx::is_occurs_ok(k_class, this); }
 lmx::elmx_error Tag::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
 lmx::elmx_error Tag::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
@@ -905,7 +917,7 @@ anon_TextValue::anon_TextValue(const anon_TextValue& other) : anon_TextValue() {
 anon_TextValue::~anon_TextValue() { lmx::release_choice(k_class, this); }
 anon_TextValue& anon_TextValue::operator=(const anon_TextValue& other) { anon_TextValue copy(other); swap(copy); return *this; }
 void anon_TextValue::swap(anon_TextValue& other) { lmx::swap(k_class, this, &other); }
-void anon_TextValue::reset() { anon_TextValue fresh; swap(fresh); }
+void anon_TextValue::reset() { anon_TextValue fresh; lmx::exchange(k_class, this, &fresh); }
 bool anon_TextValue::is_occurs_ok() const { return lmx::is_occurs_ok(k_class, this); }
 bool anon_TextValue::is_member(lmx::c_xml_reader& reader, const std::string&) { return lmx::is_group_member(k_class, reader); }
 lmx::elmx_error anon_TextValue::marshal(lmx::c_xml_writer& writer, const char*) const { return lmx::marshal_child_elements(k_class, this, writer); }
@@ -962,7 +974,7 @@ TagValue::TagValue(const TagValue& other) { lmx::copy(k_class, this, &other); }
 TagValue::~TagValue() = default;
 TagValue& TagValue::operator=(const TagValue& other) { TagValue copy(other); swap(copy); return *this; }
 void TagValue::swap(TagValue& other) { lmx::swap(k_class, this, &other); }
-void TagValue::reset() { TagValue fresh; swap(fresh); }
+void TagValue::reset() { TagValue fresh; lmx::exchange(k_class, this, &fresh); }
 bool TagValue::is_occurs_ok() const { return lmx::is_occurs_ok(k_class, this); }
 lmx::elmx_error TagValue::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
 lmx::elmx_error TagValue::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }

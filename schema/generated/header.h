@@ -204,29 +204,29 @@ public:
     void unset_Comments() { m_isset_Comments = false; }
 
     /// Library that last read the document into memory.
-    SDKType& get_ReadSDKInformation() { m_isset_ReadSDKInformation = true; return m_ReadSDKInformation; }
-    const SDKType& get_ReadSDKInformation() const { return m_ReadSDKInformation; }
+    SDKType& get_ReadSDKInformation();
+    const SDKType& get_ReadSDKInformation() const;
     SDKType& assign_ReadSDKInformation(const SDKType& value);
     bool isset_ReadSDKInformation() const { return m_isset_ReadSDKInformation; }
     void unset_ReadSDKInformation() { m_isset_ReadSDKInformation = false; }
 
     /// Library that last wrote the document.
-    SDKType& get_WriteSDKInformation() { m_isset_WriteSDKInformation = true; return m_WriteSDKInformation; }
-    const SDKType& get_WriteSDKInformation() const { return m_WriteSDKInformation; }
+    SDKType& get_WriteSDKInformation();
+    const SDKType& get_WriteSDKInformation() const;
     SDKType& assign_WriteSDKInformation(const SDKType& value);
     bool isset_WriteSDKInformation() const { return m_isset_WriteSDKInformation; }
     void unset_WriteSDKInformation() { m_isset_WriteSDKInformation = false; }
 
     /// Platform on which the document was last read.
-    PlatformType& get_ReadPlatformInformation() { m_isset_ReadPlatformInformation = true; return m_ReadPlatformInformation; }
-    const PlatformType& get_ReadPlatformInformation() const { return m_ReadPlatformInformation; }
+    PlatformType& get_ReadPlatformInformation();
+    const PlatformType& get_ReadPlatformInformation() const;
     PlatformType& assign_ReadPlatformInformation(const PlatformType& value);
     bool isset_ReadPlatformInformation() const { return m_isset_ReadPlatformInformation; }
     void unset_ReadPlatformInformation() { m_isset_ReadPlatformInformation = false; }
 
     /// Platform on which the document was last written.
-    PlatformType& get_WritePlatformInformation() { m_isset_WritePlatformInformation = true; return m_WritePlatformInformation; }
-    const PlatformType& get_WritePlatformInformation() const { return m_WritePlatformInformation; }
+    PlatformType& get_WritePlatformInformation();
+    const PlatformType& get_WritePlatformInformation() const;
     PlatformType& assign_WritePlatformInformation(const PlatformType& value);
     bool isset_WritePlatformInformation() const { return m_isset_WritePlatformInformation; }
     void unset_WritePlatformInformation() { m_isset_WritePlatformInformation = false; }
@@ -274,10 +274,10 @@ private:
     std::u16string m_Purpose;
     std::u16string m_Name;
     std::u16string m_Comments;
-    SDKType m_ReadSDKInformation;
-    SDKType m_WriteSDKInformation;
-    PlatformType m_ReadPlatformInformation;
-    PlatformType m_WritePlatformInformation;
+    lmx::c_optional_child<SDKType> m_ReadSDKInformation;
+    lmx::c_optional_child<SDKType> m_WriteSDKInformation;
+    lmx::c_optional_child<PlatformType> m_ReadPlatformInformation;
+    lmx::c_optional_child<PlatformType> m_WritePlatformInformation;
     lmx::c_list<Revision> m_Revision;
     bool m_isset_Creator = false;
     bool m_isset_CreatorVersion = false;
@@ -444,15 +444,15 @@ public:
     Header& assign_Header(const Header& value);
 
     /// Who owns the document.
-    OwnerType& get_Owner() { m_isset_Owner = true; return m_Owner; }
-    const OwnerType& get_Owner() const { return m_Owner; }
+    OwnerType& get_Owner();
+    const OwnerType& get_Owner() const;
     OwnerType& assign_Owner(const OwnerType& value);
     bool isset_Owner() const { return m_isset_Owner; }
     void unset_Owner() { m_isset_Owner = false; }
 
     /// Version of the document.
-    Version& get_Version() { m_isset_Version = true; return m_Version; }
-    const Version& get_Version() const { return m_Version; }
+    Version& get_Version();
+    const Version& get_Version() const;
     Version& assign_Version(const Version& value);
     bool isset_Version() const { return m_isset_Version; }
     void unset_Version() { m_isset_Version = false; }
@@ -474,8 +474,8 @@ private:
     };
     static const lmx::s_item k_items[];
     Header m_Header;
-    OwnerType m_Owner;
-    Version m_Version;
+    lmx::c_optional_child<OwnerType> m_Owner;
+    lmx::c_optional_child<Version> m_Version;
     bool m_isset_Header = false;
     bool m_isset_Owner = false;
     bool m_isset_Version = false;

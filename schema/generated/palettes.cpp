@@ -21,7 +21,7 @@ namespace com_vyrgraph_v2 {
 
 using namespace lmx;  // for the tables' sake
 
-static_assert(k_binding_version == 2, "run schema/generator/generate.py");
+static_assert(k_binding_version == 3, "run schema/generator/generate.py");
 
 // CollectionColorSpaceSpecificationType
 
@@ -38,18 +38,18 @@ constexpr s_event_map k_CollectionColorSpaceSpecificationType_elements[] = {
 }  // namespace
 
 constinit const s_item CollectionColorSpaceSpecificationType::k_items[] = {
-    {item_kind::child, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:ColorSpaceSpecificationSpectrumGeneric", element_ColorSpaceSpecificationSpectrumGeneric,
-     LMX_OFFSET(CollectionColorSpaceSpecificationType, m_ColorSpaceSpecificationSpectrumGeneric, child, none), LMX_FLAG(CollectionColorSpaceSpecificationType, m_isset_ColorSpaceSpecificationSpectrumGeneric), position_of(k_CollectionColorSpaceSpecificationType_elements, element_ColorSpaceSpecificationSpectrumGeneric), position_of(k_CollectionColorSpaceSpecificationType_elements, element_ColorSpaceSpecificationSpectrumGeneric, 1), &ColorSpaceSpecificationSpectrumGeneric::k_class, nullptr, {}},
-    {item_kind::child, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:ColorSpaceSpecificationSpectrumSpectral", element_ColorSpaceSpecificationSpectrumSpectral,
-     LMX_OFFSET(CollectionColorSpaceSpecificationType, m_ColorSpaceSpecificationSpectrumSpectral, child, none), LMX_FLAG(CollectionColorSpaceSpecificationType, m_isset_ColorSpaceSpecificationSpectrumSpectral), position_of(k_CollectionColorSpaceSpecificationType_elements, element_ColorSpaceSpecificationSpectrumSpectral), position_of(k_CollectionColorSpaceSpecificationType_elements, element_ColorSpaceSpecificationSpectrumSpectral, 1), &ColorSpaceSpecificationSpectrumSpectral::k_class, nullptr, {}},
-    {item_kind::child, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:ColorSpaceSpecificationSpectrumTristimulus", element_ColorSpaceSpecificationSpectrumTristimulus,
-     LMX_OFFSET(CollectionColorSpaceSpecificationType, m_ColorSpaceSpecificationSpectrumTristimulus, child, none), LMX_FLAG(CollectionColorSpaceSpecificationType, m_isset_ColorSpaceSpecificationSpectrumTristimulus), position_of(k_CollectionColorSpaceSpecificationType_elements, element_ColorSpaceSpecificationSpectrumTristimulus), position_of(k_CollectionColorSpaceSpecificationType_elements, element_ColorSpaceSpecificationSpectrumTristimulus, 1), &ColorSpaceSpecificationSpectrumTristimulus::k_class, nullptr, {}},
-    {item_kind::child, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:ColorSpaceSpecificationEmissiveGeneric", element_ColorSpaceSpecificationEmissiveGeneric,
-     LMX_OFFSET(CollectionColorSpaceSpecificationType, m_ColorSpaceSpecificationEmissiveGeneric, child, none), LMX_FLAG(CollectionColorSpaceSpecificationType, m_isset_ColorSpaceSpecificationEmissiveGeneric), position_of(k_CollectionColorSpaceSpecificationType_elements, element_ColorSpaceSpecificationEmissiveGeneric), position_of(k_CollectionColorSpaceSpecificationType_elements, element_ColorSpaceSpecificationEmissiveGeneric, 1), &ColorSpaceSpecificationEmissiveGeneric::k_class, nullptr, {}},
-    {item_kind::child, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:ColorSpaceSpecificationEmissiveSpectral", element_ColorSpaceSpecificationEmissiveSpectral,
-     LMX_OFFSET(CollectionColorSpaceSpecificationType, m_ColorSpaceSpecificationEmissiveSpectral, child, none), LMX_FLAG(CollectionColorSpaceSpecificationType, m_isset_ColorSpaceSpecificationEmissiveSpectral), position_of(k_CollectionColorSpaceSpecificationType_elements, element_ColorSpaceSpecificationEmissiveSpectral), position_of(k_CollectionColorSpaceSpecificationType_elements, element_ColorSpaceSpecificationEmissiveSpectral, 1), &ColorSpaceSpecificationEmissiveSpectral::k_class, nullptr, {}},
-    {item_kind::child, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:ColorSpaceSpecificationEmissiveTristimulus", element_ColorSpaceSpecificationEmissiveTristimulus,
-     LMX_OFFSET(CollectionColorSpaceSpecificationType, m_ColorSpaceSpecificationEmissiveTristimulus, child, none), LMX_FLAG(CollectionColorSpaceSpecificationType, m_isset_ColorSpaceSpecificationEmissiveTristimulus), position_of(k_CollectionColorSpaceSpecificationType_elements, element_ColorSpaceSpecificationEmissiveTristimulus), position_of(k_CollectionColorSpaceSpecificationType_elements, element_ColorSpaceSpecificationEmissiveTristimulus, 1), &ColorSpaceSpecificationEmissiveTristimulus::k_class, nullptr, {}},
+    {item_kind::optional_child, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:ColorSpaceSpecificationSpectrumGeneric", element_ColorSpaceSpecificationSpectrumGeneric,
+     LMX_OFFSET(CollectionColorSpaceSpecificationType, m_ColorSpaceSpecificationSpectrumGeneric, optional_child, none), LMX_FLAG(CollectionColorSpaceSpecificationType, m_isset_ColorSpaceSpecificationSpectrumGeneric), position_of(k_CollectionColorSpaceSpecificationType_elements, element_ColorSpaceSpecificationSpectrumGeneric), position_of(k_CollectionColorSpaceSpecificationType_elements, element_ColorSpaceSpecificationSpectrumGeneric, 1), &ColorSpaceSpecificationSpectrumGeneric::k_class, nullptr, {}},
+    {item_kind::optional_child, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:ColorSpaceSpecificationSpectrumSpectral", element_ColorSpaceSpecificationSpectrumSpectral,
+     LMX_OFFSET(CollectionColorSpaceSpecificationType, m_ColorSpaceSpecificationSpectrumSpectral, optional_child, none), LMX_FLAG(CollectionColorSpaceSpecificationType, m_isset_ColorSpaceSpecificationSpectrumSpectral), position_of(k_CollectionColorSpaceSpecificationType_elements, element_ColorSpaceSpecificationSpectrumSpectral), position_of(k_CollectionColorSpaceSpecificationType_elements, element_ColorSpaceSpecificationSpectrumSpectral, 1), &ColorSpaceSpecificationSpectrumSpectral::k_class, nullptr, {}},
+    {item_kind::optional_child, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:ColorSpaceSpecificationSpectrumTristimulus", element_ColorSpaceSpecificationSpectrumTristimulus,
+     LMX_OFFSET(CollectionColorSpaceSpecificationType, m_ColorSpaceSpecificationSpectrumTristimulus, optional_child, none), LMX_FLAG(CollectionColorSpaceSpecificationType, m_isset_ColorSpaceSpecificationSpectrumTristimulus), position_of(k_CollectionColorSpaceSpecificationType_elements, element_ColorSpaceSpecificationSpectrumTristimulus), position_of(k_CollectionColorSpaceSpecificationType_elements, element_ColorSpaceSpecificationSpectrumTristimulus, 1), &ColorSpaceSpecificationSpectrumTristimulus::k_class, nullptr, {}},
+    {item_kind::optional_child, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:ColorSpaceSpecificationEmissiveGeneric", element_ColorSpaceSpecificationEmissiveGeneric,
+     LMX_OFFSET(CollectionColorSpaceSpecificationType, m_ColorSpaceSpecificationEmissiveGeneric, optional_child, none), LMX_FLAG(CollectionColorSpaceSpecificationType, m_isset_ColorSpaceSpecificationEmissiveGeneric), position_of(k_CollectionColorSpaceSpecificationType_elements, element_ColorSpaceSpecificationEmissiveGeneric), position_of(k_CollectionColorSpaceSpecificationType_elements, element_ColorSpaceSpecificationEmissiveGeneric, 1), &ColorSpaceSpecificationEmissiveGeneric::k_class, nullptr, {}},
+    {item_kind::optional_child, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:ColorSpaceSpecificationEmissiveSpectral", element_ColorSpaceSpecificationEmissiveSpectral,
+     LMX_OFFSET(CollectionColorSpaceSpecificationType, m_ColorSpaceSpecificationEmissiveSpectral, optional_child, none), LMX_FLAG(CollectionColorSpaceSpecificationType, m_isset_ColorSpaceSpecificationEmissiveSpectral), position_of(k_CollectionColorSpaceSpecificationType_elements, element_ColorSpaceSpecificationEmissiveSpectral), position_of(k_CollectionColorSpaceSpecificationType_elements, element_ColorSpaceSpecificationEmissiveSpectral, 1), &ColorSpaceSpecificationEmissiveSpectral::k_class, nullptr, {}},
+    {item_kind::optional_child, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:ColorSpaceSpecificationEmissiveTristimulus", element_ColorSpaceSpecificationEmissiveTristimulus,
+     LMX_OFFSET(CollectionColorSpaceSpecificationType, m_ColorSpaceSpecificationEmissiveTristimulus, optional_child, none), LMX_FLAG(CollectionColorSpaceSpecificationType, m_isset_ColorSpaceSpecificationEmissiveTristimulus), position_of(k_CollectionColorSpaceSpecificationType_elements, element_ColorSpaceSpecificationEmissiveTristimulus), position_of(k_CollectionColorSpaceSpecificationType_elements, element_ColorSpaceSpecificationEmissiveTristimulus, 1), &ColorSpaceSpecificationEmissiveTristimulus::k_class, nullptr, {}},
 };
 constinit const s_class CollectionColorSpaceSpecificationType::k_class = {
     .name = "CollectionColorSpaceSpecificationType",
@@ -74,7 +74,7 @@ CollectionColorSpaceSpecificationType::CollectionColorSpaceSpecificationType(con
 CollectionColorSpaceSpecificationType::~CollectionColorSpaceSpecificationType() = default;
 CollectionColorSpaceSpecificationType& CollectionColorSpaceSpecificationType::operator=(const CollectionColorSpaceSpecificationType& other) { CollectionColorSpaceSpecificationType copy(other); swap(copy); return *this; }
 void CollectionColorSpaceSpecificationType::swap(CollectionColorSpaceSpecificationType& other) { lmx::swap(k_class, this, &other); }
-void CollectionColorSpaceSpecificationType::reset() { CollectionColorSpaceSpecificationType fresh; swap(fresh); }
+void CollectionColorSpaceSpecificationType::reset() { CollectionColorSpaceSpecificationType fresh; lmx::exchange(k_class, this, &fresh); }
 bool CollectionColorSpaceSpecificationType::is_occurs_ok() const { return lmx::is_occurs_ok(k_class, this); }
 lmx::elmx_error CollectionColorSpaceSpecificationType::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
 lmx::elmx_error CollectionColorSpaceSpecificationType::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
@@ -83,11 +83,23 @@ lmx::elmx_error CollectionColorSpaceSpecificationType::marshal_child_elements(lm
 bool CollectionColorSpaceSpecificationType::unmarshal_attributes(lmx::c_xml_reader& reader, const std::string& name, lmx::elmx_error* error) { return lmx::unmarshal_attribute(k_class, this, reader, name, error); }
 lmx::elmx_error CollectionColorSpaceSpecificationType::unmarshal_attributes_check(lmx::c_xml_reader& reader) { return lmx::check_required_attributes(k_class, this, reader); }
 bool CollectionColorSpaceSpecificationType::unmarshal_body(lmx::c_xml_reader& reader, std::string* name, lmx::elmx_error* error) { return lmx::unmarshal_body(k_class, this, reader, name, error); }
+ColorSpaceSpecificationSpectrumGeneric& CollectionColorSpaceSpecificationType::get_ColorSpaceSpecificationSpectrumGeneric() { ColorSpaceSpecificationSpectrumGeneric& child = m_ColorSpaceSpecificationSpectrumGeneric.touch(); m_isset_ColorSpaceSpecificationSpectrumGeneric = true; return child; }
+const ColorSpaceSpecificationSpectrumGeneric& CollectionColorSpaceSpecificationType::get_ColorSpaceSpecificationSpectrumGeneric() const { return m_ColorSpaceSpecificationSpectrumGeneric.get(); }
 ColorSpaceSpecificationSpectrumGeneric& CollectionColorSpaceSpecificationType::assign_ColorSpaceSpecificationSpectrumGeneric(const ColorSpaceSpecificationSpectrumGeneric& value) { return get_ColorSpaceSpecificationSpectrumGeneric() = value; }
+ColorSpaceSpecificationSpectrumSpectral& CollectionColorSpaceSpecificationType::get_ColorSpaceSpecificationSpectrumSpectral() { ColorSpaceSpecificationSpectrumSpectral& child = m_ColorSpaceSpecificationSpectrumSpectral.touch(); m_isset_ColorSpaceSpecificationSpectrumSpectral = true; return child; }
+const ColorSpaceSpecificationSpectrumSpectral& CollectionColorSpaceSpecificationType::get_ColorSpaceSpecificationSpectrumSpectral() const { return m_ColorSpaceSpecificationSpectrumSpectral.get(); }
 ColorSpaceSpecificationSpectrumSpectral& CollectionColorSpaceSpecificationType::assign_ColorSpaceSpecificationSpectrumSpectral(const ColorSpaceSpecificationSpectrumSpectral& value) { return get_ColorSpaceSpecificationSpectrumSpectral() = value; }
+ColorSpaceSpecificationSpectrumTristimulus& CollectionColorSpaceSpecificationType::get_ColorSpaceSpecificationSpectrumTristimulus() { ColorSpaceSpecificationSpectrumTristimulus& child = m_ColorSpaceSpecificationSpectrumTristimulus.touch(); m_isset_ColorSpaceSpecificationSpectrumTristimulus = true; return child; }
+const ColorSpaceSpecificationSpectrumTristimulus& CollectionColorSpaceSpecificationType::get_ColorSpaceSpecificationSpectrumTristimulus() const { return m_ColorSpaceSpecificationSpectrumTristimulus.get(); }
 ColorSpaceSpecificationSpectrumTristimulus& CollectionColorSpaceSpecificationType::assign_ColorSpaceSpecificationSpectrumTristimulus(const ColorSpaceSpecificationSpectrumTristimulus& value) { return get_ColorSpaceSpecificationSpectrumTristimulus() = value; }
+ColorSpaceSpecificationEmissiveGeneric& CollectionColorSpaceSpecificationType::get_ColorSpaceSpecificationEmissiveGeneric() { ColorSpaceSpecificationEmissiveGeneric& child = m_ColorSpaceSpecificationEmissiveGeneric.touch(); m_isset_ColorSpaceSpecificationEmissiveGeneric = true; return child; }
+const ColorSpaceSpecificationEmissiveGeneric& CollectionColorSpaceSpecificationType::get_ColorSpaceSpecificationEmissiveGeneric() const { return m_ColorSpaceSpecificationEmissiveGeneric.get(); }
 ColorSpaceSpecificationEmissiveGeneric& CollectionColorSpaceSpecificationType::assign_ColorSpaceSpecificationEmissiveGeneric(const ColorSpaceSpecificationEmissiveGeneric& value) { return get_ColorSpaceSpecificationEmissiveGeneric() = value; }
+ColorSpaceSpecificationEmissiveSpectral& CollectionColorSpaceSpecificationType::get_ColorSpaceSpecificationEmissiveSpectral() { ColorSpaceSpecificationEmissiveSpectral& child = m_ColorSpaceSpecificationEmissiveSpectral.touch(); m_isset_ColorSpaceSpecificationEmissiveSpectral = true; return child; }
+const ColorSpaceSpecificationEmissiveSpectral& CollectionColorSpaceSpecificationType::get_ColorSpaceSpecificationEmissiveSpectral() const { return m_ColorSpaceSpecificationEmissiveSpectral.get(); }
 ColorSpaceSpecificationEmissiveSpectral& CollectionColorSpaceSpecificationType::assign_ColorSpaceSpecificationEmissiveSpectral(const ColorSpaceSpecificationEmissiveSpectral& value) { return get_ColorSpaceSpecificationEmissiveSpectral() = value; }
+ColorSpaceSpecificationEmissiveTristimulus& CollectionColorSpaceSpecificationType::get_ColorSpaceSpecificationEmissiveTristimulus() { ColorSpaceSpecificationEmissiveTristimulus& child = m_ColorSpaceSpecificationEmissiveTristimulus.touch(); m_isset_ColorSpaceSpecificationEmissiveTristimulus = true; return child; }
+const ColorSpaceSpecificationEmissiveTristimulus& CollectionColorSpaceSpecificationType::get_ColorSpaceSpecificationEmissiveTristimulus() const { return m_ColorSpaceSpecificationEmissiveTristimulus.get(); }
 ColorSpaceSpecificationEmissiveTristimulus& CollectionColorSpaceSpecificationType::assign_ColorSpaceSpecificationEmissiveTristimulus(const ColorSpaceSpecificationEmissiveTristimulus& value) { return get_ColorSpaceSpecificationEmissiveTristimulus() = value; }
 
 // PaletteType
@@ -127,12 +139,12 @@ constinit const s_item PaletteType::k_items[] = {
      LMX_OFFSET(PaletteType, m_CustomAttribute, child_list, none), k_no_flag, position_of(k_PaletteType_elements, element_CustomAttribute), position_of(k_PaletteType_elements, element_CustomAttribute, 1), &CustomAttributeType::k_class, nullptr, {}},
     {item_kind::element_list, value_kind::datetime, use_demanded | use_asked, ELMX_WS_COLLAPSE, "Vyr:ChangeHistory", element_ChangeHistory,
      LMX_OFFSET(PaletteType, m_ChangeHistory, element_list, datetime), k_no_flag, position_of(k_PaletteType_elements, element_ChangeHistory), position_of(k_PaletteType_elements, element_ChangeHistory, 1), nullptr, &facets::DateTimeZone, {}},
-    {item_kind::child, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:Owner", element_Owner,
-     LMX_OFFSET(PaletteType, m_Owner, child, none), LMX_FLAG(PaletteType, m_isset_Owner), position_of(k_PaletteType_elements, element_Owner), position_of(k_PaletteType_elements, element_Owner, 1), &OwnerType::k_class, nullptr, {}},
+    {item_kind::optional_child, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:Owner", element_Owner,
+     LMX_OFFSET(PaletteType, m_Owner, optional_child, none), LMX_FLAG(PaletteType, m_isset_Owner), position_of(k_PaletteType_elements, element_Owner), position_of(k_PaletteType_elements, element_Owner, 1), &OwnerType::k_class, nullptr, {}},
     {item_kind::element_list, value_kind::text, use_optional, ELMX_WS_PRESERVE, "Vyr:SemanticAssociation", element_SemanticAssociation,
      LMX_OFFSET(PaletteType, m_SemanticAssociation, element_list, text), k_no_flag, position_of(k_PaletteType_elements, element_SemanticAssociation), position_of(k_PaletteType_elements, element_SemanticAssociation, 1), nullptr, nullptr, {}},
-    {item_kind::child, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:CollectionColorSpaceSpecification", element_CollectionColorSpaceSpecification,
-     LMX_OFFSET(PaletteType, m_CollectionColorSpaceSpecification, child, none), LMX_FLAG(PaletteType, m_isset_CollectionColorSpaceSpecification), position_of(k_PaletteType_elements, element_CollectionColorSpaceSpecification), position_of(k_PaletteType_elements, element_CollectionColorSpaceSpecification, 1), &CollectionColorSpaceSpecificationType::k_class, nullptr, {}},
+    {item_kind::optional_child, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:CollectionColorSpaceSpecification", element_CollectionColorSpaceSpecification,
+     LMX_OFFSET(PaletteType, m_CollectionColorSpaceSpecification, optional_child, none), LMX_FLAG(PaletteType, m_isset_CollectionColorSpaceSpecification), position_of(k_PaletteType_elements, element_CollectionColorSpaceSpecification), position_of(k_PaletteType_elements, element_CollectionColorSpaceSpecification, 1), &CollectionColorSpaceSpecificationType::k_class, nullptr, {}},
     {item_kind::child_list, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:ColorSet", element_ColorSet,
      LMX_OFFSET(PaletteType, m_ColorSet, child_list, none), k_no_flag, position_of(k_PaletteType_elements, element_ColorSet), position_of(k_PaletteType_elements, element_ColorSet, 1), &ColorSetType::k_class, nullptr, {}},
 };
@@ -159,7 +171,7 @@ PaletteType::PaletteType(const PaletteType& other) { lmx::copy(k_class, this, &o
 PaletteType::~PaletteType() = default;
 PaletteType& PaletteType::operator=(const PaletteType& other) { PaletteType copy(other); swap(copy); return *this; }
 void PaletteType::swap(PaletteType& other) { lmx::swap(k_class, this, &other); }
-void PaletteType::reset() { PaletteType fresh; swap(fresh); }
+void PaletteType::reset() { PaletteType fresh; lmx::exchange(k_class, this, &fresh); }
 bool PaletteType::is_occurs_ok() const { return lmx::is_occurs_ok(k_class, this); }
 lmx::elmx_error PaletteType::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
 lmx::elmx_error PaletteType::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
@@ -184,12 +196,16 @@ lmx::elmx_error PaletteType::append_ChangeHistory(const lmx::c_datetime& value) 
 lmx::elmx_error PaletteType::insert_ChangeHistory(std::size_t index, const lmx::c_datetime& value) { return lmx::insert_entry(k_items[item_ChangeHistory], this, index, value); }
 void PaletteType::delete_ChangeHistory(std::size_t index) { m_ChangeHistory.erase(index); }
 void PaletteType::clear_ChangeHistory() { m_ChangeHistory.clear(); }
+OwnerType& PaletteType::get_Owner() { OwnerType& child = m_Owner.touch(); m_isset_Owner = true; return child; }
+const OwnerType& PaletteType::get_Owner() const { return m_Owner.get(); }
 OwnerType& PaletteType::assign_Owner(const OwnerType& value) { return get_Owner() = value; }
 lmx::elmx_error PaletteType::set_SemanticAssociation(std::size_t index, const std::u16string& value) { return lmx::set_entry(k_items[item_SemanticAssociation], this, index, value); }
 lmx::elmx_error PaletteType::append_SemanticAssociation(const std::u16string& value) { return lmx::insert_entry(k_items[item_SemanticAssociation], this, size_SemanticAssociation(), value); }
 lmx::elmx_error PaletteType::insert_SemanticAssociation(std::size_t index, const std::u16string& value) { return lmx::insert_entry(k_items[item_SemanticAssociation], this, index, value); }
 void PaletteType::delete_SemanticAssociation(std::size_t index) { m_SemanticAssociation.erase(index); }
 void PaletteType::clear_SemanticAssociation() { m_SemanticAssociation.clear(); }
+CollectionColorSpaceSpecificationType& PaletteType::get_CollectionColorSpaceSpecification() { CollectionColorSpaceSpecificationType& child = m_CollectionColorSpaceSpecification.touch(); m_isset_CollectionColorSpaceSpecification = true; return child; }
+const CollectionColorSpaceSpecificationType& PaletteType::get_CollectionColorSpaceSpecification() const { return m_CollectionColorSpaceSpecification.get(); }
 CollectionColorSpaceSpecificationType& PaletteType::assign_CollectionColorSpaceSpecification(const CollectionColorSpaceSpecificationType& value) { return get_CollectionColorSpaceSpecification() = value; }
 ColorSetType& PaletteType::get_ColorSet(std::size_t index) { return m_ColorSet.grow_to(index); }
 ColorSetType& PaletteType::assign_ColorSet(std::size_t index, const ColorSetType& value) { return get_ColorSet(index) = value; }
@@ -241,12 +257,12 @@ constinit const s_item ColorSetType::k_items[] = {
      LMX_OFFSET(ColorSetType, m_CustomAttribute, child_list, none), k_no_flag, position_of(k_ColorSetType_elements, element_CustomAttribute), position_of(k_ColorSetType_elements, element_CustomAttribute, 1), &CustomAttributeType::k_class, nullptr, {}},
     {item_kind::element_list, value_kind::datetime, use_demanded | use_asked, ELMX_WS_COLLAPSE, "Vyr:ChangeHistory", element_ChangeHistory,
      LMX_OFFSET(ColorSetType, m_ChangeHistory, element_list, datetime), k_no_flag, position_of(k_ColorSetType_elements, element_ChangeHistory), position_of(k_ColorSetType_elements, element_ChangeHistory, 1), nullptr, &facets::DateTimeZone, {}},
-    {item_kind::child, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:Owner", element_Owner,
-     LMX_OFFSET(ColorSetType, m_Owner, child, none), LMX_FLAG(ColorSetType, m_isset_Owner), position_of(k_ColorSetType_elements, element_Owner), position_of(k_ColorSetType_elements, element_Owner, 1), &OwnerType::k_class, nullptr, {}},
+    {item_kind::optional_child, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:Owner", element_Owner,
+     LMX_OFFSET(ColorSetType, m_Owner, optional_child, none), LMX_FLAG(ColorSetType, m_isset_Owner), position_of(k_ColorSetType_elements, element_Owner), position_of(k_ColorSetType_elements, element_Owner, 1), &OwnerType::k_class, nullptr, {}},
     {item_kind::element_list, value_kind::text, use_optional, ELMX_WS_PRESERVE, "Vyr:SemanticAssociation", element_SemanticAssociation,
      LMX_OFFSET(ColorSetType, m_SemanticAssociation, element_list, text), k_no_flag, position_of(k_ColorSetType_elements, element_SemanticAssociation), position_of(k_ColorSetType_elements, element_SemanticAssociation, 1), nullptr, nullptr, {}},
-    {item_kind::child, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:CollectionColorSpaceSpecification", element_CollectionColorSpaceSpecification,
-     LMX_OFFSET(ColorSetType, m_CollectionColorSpaceSpecification, child, none), LMX_FLAG(ColorSetType, m_isset_CollectionColorSpaceSpecification), position_of(k_ColorSetType_elements, element_CollectionColorSpaceSpecification), position_of(k_ColorSetType_elements, element_CollectionColorSpaceSpecification, 1), &CollectionColorSpaceSpecificationType::k_class, nullptr, {}},
+    {item_kind::optional_child, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:CollectionColorSpaceSpecification", element_CollectionColorSpaceSpecification,
+     LMX_OFFSET(ColorSetType, m_CollectionColorSpaceSpecification, optional_child, none), LMX_FLAG(ColorSetType, m_isset_CollectionColorSpaceSpecification), position_of(k_ColorSetType_elements, element_CollectionColorSpaceSpecification), position_of(k_ColorSetType_elements, element_CollectionColorSpaceSpecification, 1), &CollectionColorSpaceSpecificationType::k_class, nullptr, {}},
     {item_kind::child_list, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:Color", element_Color,
      LMX_OFFSET(ColorSetType, m_Color, child_list, none), k_no_flag, position_of(k_ColorSetType_elements, element_Color), position_of(k_ColorSetType_elements, element_Color, 1), &ColorType::k_class, nullptr, {}},
     {item_kind::group, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:Substrate", 0,
@@ -275,7 +291,7 @@ ColorSetType::ColorSetType(const ColorSetType& other) { lmx::copy(k_class, this,
 ColorSetType::~ColorSetType() = default;
 ColorSetType& ColorSetType::operator=(const ColorSetType& other) { ColorSetType copy(other); swap(copy); return *this; }
 void ColorSetType::swap(ColorSetType& other) { lmx::swap(k_class, this, &other); }
-void ColorSetType::reset() { ColorSetType fresh; swap(fresh); }
+void ColorSetType::reset() { ColorSetType fresh; lmx::exchange(k_class, this, &fresh); }
 bool ColorSetType::is_occurs_ok() const { return lmx::is_occurs_ok(k_class, this); }
 lmx::elmx_error ColorSetType::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
 lmx::elmx_error ColorSetType::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
@@ -299,12 +315,16 @@ lmx::elmx_error ColorSetType::append_ChangeHistory(const lmx::c_datetime& value)
 lmx::elmx_error ColorSetType::insert_ChangeHistory(std::size_t index, const lmx::c_datetime& value) { return lmx::insert_entry(k_items[item_ChangeHistory], this, index, value); }
 void ColorSetType::delete_ChangeHistory(std::size_t index) { m_ChangeHistory.erase(index); }
 void ColorSetType::clear_ChangeHistory() { m_ChangeHistory.clear(); }
+OwnerType& ColorSetType::get_Owner() { OwnerType& child = m_Owner.touch(); m_isset_Owner = true; return child; }
+const OwnerType& ColorSetType::get_Owner() const { return m_Owner.get(); }
 OwnerType& ColorSetType::assign_Owner(const OwnerType& value) { return get_Owner() = value; }
 lmx::elmx_error ColorSetType::set_SemanticAssociation(std::size_t index, const std::u16string& value) { return lmx::set_entry(k_items[item_SemanticAssociation], this, index, value); }
 lmx::elmx_error ColorSetType::append_SemanticAssociation(const std::u16string& value) { return lmx::insert_entry(k_items[item_SemanticAssociation], this, size_SemanticAssociation(), value); }
 lmx::elmx_error ColorSetType::insert_SemanticAssociation(std::size_t index, const std::u16string& value) { return lmx::insert_entry(k_items[item_SemanticAssociation], this, index, value); }
 void ColorSetType::delete_SemanticAssociation(std::size_t index) { m_SemanticAssociation.erase(index); }
 void ColorSetType::clear_SemanticAssociation() { m_SemanticAssociation.clear(); }
+CollectionColorSpaceSpecificationType& ColorSetType::get_CollectionColorSpaceSpecification() { CollectionColorSpaceSpecificationType& child = m_CollectionColorSpaceSpecification.touch(); m_isset_CollectionColorSpaceSpecification = true; return child; }
+const CollectionColorSpaceSpecificationType& ColorSetType::get_CollectionColorSpaceSpecification() const { return m_CollectionColorSpaceSpecification.get(); }
 CollectionColorSpaceSpecificationType& ColorSetType::assign_CollectionColorSpaceSpecification(const CollectionColorSpaceSpecificationType& value) { return get_CollectionColorSpaceSpecification() = value; }
 ColorType& ColorSetType::get_Color(std::size_t index) { return m_Color.grow_to(index); }
 ColorType& ColorSetType::assign_Color(std::size_t index, const ColorType& value) { return get_Color(index) = value; }
@@ -384,8 +404,8 @@ constinit const s_item ColorType::k_items[] = {
      LMX_OFFSET(ColorType, m_CustomAttribute, child_list, none), k_no_flag, position_of(k_ColorType_elements, element_CustomAttribute), position_of(k_ColorType_elements, element_CustomAttribute, 1), &CustomAttributeType::k_class, nullptr, {}},
     {item_kind::element_list, value_kind::datetime, use_demanded | use_asked, ELMX_WS_COLLAPSE, "Vyr:ChangeHistory", element_ChangeHistory,
      LMX_OFFSET(ColorType, m_ChangeHistory, element_list, datetime), k_no_flag, position_of(k_ColorType_elements, element_ChangeHistory), position_of(k_ColorType_elements, element_ChangeHistory, 1), nullptr, &facets::DateTimeZone, {}},
-    {item_kind::child, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:Owner", element_Owner,
-     LMX_OFFSET(ColorType, m_Owner, child, none), LMX_FLAG(ColorType, m_isset_Owner), position_of(k_ColorType_elements, element_Owner), position_of(k_ColorType_elements, element_Owner, 1), &OwnerType::k_class, nullptr, {}},
+    {item_kind::optional_child, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:Owner", element_Owner,
+     LMX_OFFSET(ColorType, m_Owner, optional_child, none), LMX_FLAG(ColorType, m_isset_Owner), position_of(k_ColorType_elements, element_Owner), position_of(k_ColorType_elements, element_Owner, 1), &OwnerType::k_class, nullptr, {}},
     {item_kind::element_list, value_kind::text, use_optional, ELMX_WS_PRESERVE, "Vyr:SemanticAssociation", element_SemanticAssociation,
      LMX_OFFSET(ColorType, m_SemanticAssociation, element_list, text), k_no_flag, position_of(k_ColorType_elements, element_SemanticAssociation), position_of(k_ColorType_elements, element_SemanticAssociation, 1), nullptr, nullptr, {}},
     {item_kind::group_list, value_kind::none, use_demanded | use_asked, ELMX_WS_PRESERVE, "Vyr:ColorSpace", 0,
@@ -418,7 +438,7 @@ ColorType::ColorType(const ColorType& other) { lmx::copy(k_class, this, &other);
 ColorType::~ColorType() = default;
 ColorType& ColorType::operator=(const ColorType& other) { ColorType copy(other); swap(copy); return *this; }
 void ColorType::swap(ColorType& other) { lmx::swap(k_class, this, &other); }
-void ColorType::reset() { ColorType fresh; swap(fresh); }
+void ColorType::reset() { ColorType fresh; lmx::exchange(k_class, this, &fresh); }
 bool ColorType::is_occurs_ok() const { return lmx::is_occurs_ok(k_class, this); }
 lmx::elmx_error ColorType::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
 lmx::elmx_error ColorType::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
@@ -442,6 +462,8 @@ lmx::elmx_error ColorType::append_ChangeHistory(const lmx::c_datetime& value) { 
 lmx::elmx_error ColorType::insert_ChangeHistory(std::size_t index, const lmx::c_datetime& value) { return lmx::insert_entry(k_items[item_ChangeHistory], this, index, value); }
 void ColorType::delete_ChangeHistory(std::size_t index) { m_ChangeHistory.erase(index); }
 void ColorType::clear_ChangeHistory() { m_ChangeHistory.clear(); }
+OwnerType& ColorType::get_Owner() { OwnerType& child = m_Owner.touch(); m_isset_Owner = true; return child; }
+const OwnerType& ColorType::get_Owner() const { return m_Owner.get(); }
 OwnerType& ColorType::assign_Owner(const OwnerType& value) { return get_Owner() = value; }
 lmx::elmx_error ColorType::set_SemanticAssociation(std::size_t index, const std::u16string& value) { return lmx::set_entry(k_items[item_SemanticAssociation], this, index, value); }
 lmx::elmx_error ColorType::append_SemanticAssociation(const std::u16string& value) { return lmx::insert_entry(k_items[item_SemanticAssociation], this, size_SemanticAssociation(), value); }

@@ -37,43 +37,43 @@ public:
     bool is_occurs_ok() const;
 
     /// Default for reflective values without fixed conditions.
-    ColorSpaceSpecificationSpectrumGeneric& get_ColorSpaceSpecificationSpectrumGeneric() { m_isset_ColorSpaceSpecificationSpectrumGeneric = true; return m_ColorSpaceSpecificationSpectrumGeneric; }
-    const ColorSpaceSpecificationSpectrumGeneric& get_ColorSpaceSpecificationSpectrumGeneric() const { return m_ColorSpaceSpecificationSpectrumGeneric; }
+    ColorSpaceSpecificationSpectrumGeneric& get_ColorSpaceSpecificationSpectrumGeneric();
+    const ColorSpaceSpecificationSpectrumGeneric& get_ColorSpaceSpecificationSpectrumGeneric() const;
     ColorSpaceSpecificationSpectrumGeneric& assign_ColorSpaceSpecificationSpectrumGeneric(const ColorSpaceSpecificationSpectrumGeneric& value);
     bool isset_ColorSpaceSpecificationSpectrumGeneric() const { return m_isset_ColorSpaceSpecificationSpectrumGeneric; }
     void unset_ColorSpaceSpecificationSpectrumGeneric() { m_isset_ColorSpaceSpecificationSpectrumGeneric = false; }
 
     /// Default for reflectance spectra.
-    ColorSpaceSpecificationSpectrumSpectral& get_ColorSpaceSpecificationSpectrumSpectral() { m_isset_ColorSpaceSpecificationSpectrumSpectral = true; return m_ColorSpaceSpecificationSpectrumSpectral; }
-    const ColorSpaceSpecificationSpectrumSpectral& get_ColorSpaceSpecificationSpectrumSpectral() const { return m_ColorSpaceSpecificationSpectrumSpectral; }
+    ColorSpaceSpecificationSpectrumSpectral& get_ColorSpaceSpecificationSpectrumSpectral();
+    const ColorSpaceSpecificationSpectrumSpectral& get_ColorSpaceSpecificationSpectrumSpectral() const;
     ColorSpaceSpecificationSpectrumSpectral& assign_ColorSpaceSpecificationSpectrumSpectral(const ColorSpaceSpecificationSpectrumSpectral& value);
     bool isset_ColorSpaceSpecificationSpectrumSpectral() const { return m_isset_ColorSpaceSpecificationSpectrumSpectral; }
     void unset_ColorSpaceSpecificationSpectrumSpectral() { m_isset_ColorSpaceSpecificationSpectrumSpectral = false; }
 
     /// Default for reflective tristimulus values.
-    ColorSpaceSpecificationSpectrumTristimulus& get_ColorSpaceSpecificationSpectrumTristimulus() { m_isset_ColorSpaceSpecificationSpectrumTristimulus = true; return m_ColorSpaceSpecificationSpectrumTristimulus; }
-    const ColorSpaceSpecificationSpectrumTristimulus& get_ColorSpaceSpecificationSpectrumTristimulus() const { return m_ColorSpaceSpecificationSpectrumTristimulus; }
+    ColorSpaceSpecificationSpectrumTristimulus& get_ColorSpaceSpecificationSpectrumTristimulus();
+    const ColorSpaceSpecificationSpectrumTristimulus& get_ColorSpaceSpecificationSpectrumTristimulus() const;
     ColorSpaceSpecificationSpectrumTristimulus& assign_ColorSpaceSpecificationSpectrumTristimulus(const ColorSpaceSpecificationSpectrumTristimulus& value);
     bool isset_ColorSpaceSpecificationSpectrumTristimulus() const { return m_isset_ColorSpaceSpecificationSpectrumTristimulus; }
     void unset_ColorSpaceSpecificationSpectrumTristimulus() { m_isset_ColorSpaceSpecificationSpectrumTristimulus = false; }
 
     /// Default for emissive values without fixed conditions.
-    ColorSpaceSpecificationEmissiveGeneric& get_ColorSpaceSpecificationEmissiveGeneric() { m_isset_ColorSpaceSpecificationEmissiveGeneric = true; return m_ColorSpaceSpecificationEmissiveGeneric; }
-    const ColorSpaceSpecificationEmissiveGeneric& get_ColorSpaceSpecificationEmissiveGeneric() const { return m_ColorSpaceSpecificationEmissiveGeneric; }
+    ColorSpaceSpecificationEmissiveGeneric& get_ColorSpaceSpecificationEmissiveGeneric();
+    const ColorSpaceSpecificationEmissiveGeneric& get_ColorSpaceSpecificationEmissiveGeneric() const;
     ColorSpaceSpecificationEmissiveGeneric& assign_ColorSpaceSpecificationEmissiveGeneric(const ColorSpaceSpecificationEmissiveGeneric& value);
     bool isset_ColorSpaceSpecificationEmissiveGeneric() const { return m_isset_ColorSpaceSpecificationEmissiveGeneric; }
     void unset_ColorSpaceSpecificationEmissiveGeneric() { m_isset_ColorSpaceSpecificationEmissiveGeneric = false; }
 
     /// Default for emission spectra.
-    ColorSpaceSpecificationEmissiveSpectral& get_ColorSpaceSpecificationEmissiveSpectral() { m_isset_ColorSpaceSpecificationEmissiveSpectral = true; return m_ColorSpaceSpecificationEmissiveSpectral; }
-    const ColorSpaceSpecificationEmissiveSpectral& get_ColorSpaceSpecificationEmissiveSpectral() const { return m_ColorSpaceSpecificationEmissiveSpectral; }
+    ColorSpaceSpecificationEmissiveSpectral& get_ColorSpaceSpecificationEmissiveSpectral();
+    const ColorSpaceSpecificationEmissiveSpectral& get_ColorSpaceSpecificationEmissiveSpectral() const;
     ColorSpaceSpecificationEmissiveSpectral& assign_ColorSpaceSpecificationEmissiveSpectral(const ColorSpaceSpecificationEmissiveSpectral& value);
     bool isset_ColorSpaceSpecificationEmissiveSpectral() const { return m_isset_ColorSpaceSpecificationEmissiveSpectral; }
     void unset_ColorSpaceSpecificationEmissiveSpectral() { m_isset_ColorSpaceSpecificationEmissiveSpectral = false; }
 
     /// Default for emissive tristimulus values.
-    ColorSpaceSpecificationEmissiveTristimulus& get_ColorSpaceSpecificationEmissiveTristimulus() { m_isset_ColorSpaceSpecificationEmissiveTristimulus = true; return m_ColorSpaceSpecificationEmissiveTristimulus; }
-    const ColorSpaceSpecificationEmissiveTristimulus& get_ColorSpaceSpecificationEmissiveTristimulus() const { return m_ColorSpaceSpecificationEmissiveTristimulus; }
+    ColorSpaceSpecificationEmissiveTristimulus& get_ColorSpaceSpecificationEmissiveTristimulus();
+    const ColorSpaceSpecificationEmissiveTristimulus& get_ColorSpaceSpecificationEmissiveTristimulus() const;
     ColorSpaceSpecificationEmissiveTristimulus& assign_ColorSpaceSpecificationEmissiveTristimulus(const ColorSpaceSpecificationEmissiveTristimulus& value);
     bool isset_ColorSpaceSpecificationEmissiveTristimulus() const { return m_isset_ColorSpaceSpecificationEmissiveTristimulus; }
     void unset_ColorSpaceSpecificationEmissiveTristimulus() { m_isset_ColorSpaceSpecificationEmissiveTristimulus = false; }
@@ -97,12 +97,12 @@ private:
         item_ColorSpaceSpecificationEmissiveTristimulus,
     };
     static const lmx::s_item k_items[];
-    ColorSpaceSpecificationSpectrumGeneric m_ColorSpaceSpecificationSpectrumGeneric;
-    ColorSpaceSpecificationSpectrumSpectral m_ColorSpaceSpecificationSpectrumSpectral;
-    ColorSpaceSpecificationSpectrumTristimulus m_ColorSpaceSpecificationSpectrumTristimulus;
-    ColorSpaceSpecificationEmissiveGeneric m_ColorSpaceSpecificationEmissiveGeneric;
-    ColorSpaceSpecificationEmissiveSpectral m_ColorSpaceSpecificationEmissiveSpectral;
-    ColorSpaceSpecificationEmissiveTristimulus m_ColorSpaceSpecificationEmissiveTristimulus;
+    lmx::c_optional_child<ColorSpaceSpecificationSpectrumGeneric> m_ColorSpaceSpecificationSpectrumGeneric;
+    lmx::c_optional_child<ColorSpaceSpecificationSpectrumSpectral> m_ColorSpaceSpecificationSpectrumSpectral;
+    lmx::c_optional_child<ColorSpaceSpecificationSpectrumTristimulus> m_ColorSpaceSpecificationSpectrumTristimulus;
+    lmx::c_optional_child<ColorSpaceSpecificationEmissiveGeneric> m_ColorSpaceSpecificationEmissiveGeneric;
+    lmx::c_optional_child<ColorSpaceSpecificationEmissiveSpectral> m_ColorSpaceSpecificationEmissiveSpectral;
+    lmx::c_optional_child<ColorSpaceSpecificationEmissiveTristimulus> m_ColorSpaceSpecificationEmissiveTristimulus;
     bool m_isset_ColorSpaceSpecificationSpectrumGeneric = false;
     bool m_isset_ColorSpaceSpecificationSpectrumSpectral = false;
     bool m_isset_ColorSpaceSpecificationSpectrumTristimulus = false;
@@ -173,8 +173,8 @@ public:
     void clear_ChangeHistory();
 
     /// Who owns the palette.
-    OwnerType& get_Owner() { m_isset_Owner = true; return m_Owner; }
-    const OwnerType& get_Owner() const { return m_Owner; }
+    OwnerType& get_Owner();
+    const OwnerType& get_Owner() const;
     OwnerType& assign_Owner(const OwnerType& value);
     bool isset_Owner() const { return m_isset_Owner; }
     void unset_Owner() { m_isset_Owner = false; }
@@ -189,8 +189,8 @@ public:
     void clear_SemanticAssociation();
 
     /// Default measuring conditions for the colours below.
-    CollectionColorSpaceSpecificationType& get_CollectionColorSpaceSpecification() { m_isset_CollectionColorSpaceSpecification = true; return m_CollectionColorSpaceSpecification; }
-    const CollectionColorSpaceSpecificationType& get_CollectionColorSpaceSpecification() const { return m_CollectionColorSpaceSpecification; }
+    CollectionColorSpaceSpecificationType& get_CollectionColorSpaceSpecification();
+    const CollectionColorSpaceSpecificationType& get_CollectionColorSpaceSpecification() const;
     CollectionColorSpaceSpecificationType& assign_CollectionColorSpaceSpecification(const CollectionColorSpaceSpecificationType& value);
     bool isset_CollectionColorSpaceSpecification() const { return m_isset_CollectionColorSpaceSpecification; }
     void unset_CollectionColorSpaceSpecification() { m_isset_CollectionColorSpaceSpecification = false; }
@@ -237,9 +237,9 @@ private:
     std::u16string m_Comments;
     lmx::c_list<CustomAttributeType> m_CustomAttribute;
     lmx::c_list<lmx::c_datetime> m_ChangeHistory;
-    OwnerType m_Owner;
+    lmx::c_optional_child<OwnerType> m_Owner;
     lmx::c_list<std::u16string> m_SemanticAssociation;
-    CollectionColorSpaceSpecificationType m_CollectionColorSpaceSpecification;
+    lmx::c_optional_child<CollectionColorSpaceSpecificationType> m_CollectionColorSpaceSpecification;
     lmx::c_list<ColorSetType> m_ColorSet;
     bool m_isset_PaletteName = false;
     bool m_isset_PalettePartNumber = false;
@@ -306,8 +306,8 @@ public:
     void clear_ChangeHistory();
 
     /// Who owns the colour set.
-    OwnerType& get_Owner() { m_isset_Owner = true; return m_Owner; }
-    const OwnerType& get_Owner() const { return m_Owner; }
+    OwnerType& get_Owner();
+    const OwnerType& get_Owner() const;
     OwnerType& assign_Owner(const OwnerType& value);
     bool isset_Owner() const { return m_isset_Owner; }
     void unset_Owner() { m_isset_Owner = false; }
@@ -322,8 +322,8 @@ public:
     void clear_SemanticAssociation();
 
     /// Default measuring conditions for the colours below.
-    CollectionColorSpaceSpecificationType& get_CollectionColorSpaceSpecification() { m_isset_CollectionColorSpaceSpecification = true; return m_CollectionColorSpaceSpecification; }
-    const CollectionColorSpaceSpecificationType& get_CollectionColorSpaceSpecification() const { return m_CollectionColorSpaceSpecification; }
+    CollectionColorSpaceSpecificationType& get_CollectionColorSpaceSpecification();
+    const CollectionColorSpaceSpecificationType& get_CollectionColorSpaceSpecification() const;
     CollectionColorSpaceSpecificationType& assign_CollectionColorSpaceSpecification(const CollectionColorSpaceSpecificationType& value);
     bool isset_CollectionColorSpaceSpecification() const { return m_isset_CollectionColorSpaceSpecification; }
     void unset_CollectionColorSpaceSpecification() { m_isset_CollectionColorSpaceSpecification = false; }
@@ -376,9 +376,9 @@ private:
     std::u16string m_Comments;
     lmx::c_list<CustomAttributeType> m_CustomAttribute;
     lmx::c_list<lmx::c_datetime> m_ChangeHistory;
-    OwnerType m_Owner;
+    lmx::c_optional_child<OwnerType> m_Owner;
     lmx::c_list<std::u16string> m_SemanticAssociation;
-    CollectionColorSpaceSpecificationType m_CollectionColorSpaceSpecification;
+    lmx::c_optional_child<CollectionColorSpaceSpecificationType> m_CollectionColorSpaceSpecification;
     lmx::c_list<ColorType> m_Color;
     sg_Substrate m_Substrate;
     bool m_isset_ColorSetName = false;
@@ -446,8 +446,8 @@ public:
     void clear_ChangeHistory();
 
     /// Who owns the colour.
-    OwnerType& get_Owner() { m_isset_Owner = true; return m_Owner; }
-    const OwnerType& get_Owner() const { return m_Owner; }
+    OwnerType& get_Owner();
+    const OwnerType& get_Owner() const;
     OwnerType& assign_Owner(const OwnerType& value);
     bool isset_Owner() const { return m_isset_Owner; }
     void unset_Owner() { m_isset_Owner = false; }
@@ -520,7 +520,7 @@ private:
     std::u16string m_Comments;
     lmx::c_list<CustomAttributeType> m_CustomAttribute;
     lmx::c_list<lmx::c_datetime> m_ChangeHistory;
-    OwnerType m_Owner;
+    lmx::c_optional_child<OwnerType> m_Owner;
     lmx::c_list<std::u16string> m_SemanticAssociation;
     lmx::c_list<sg_ColorSpace> m_ColorSpace;
     sg_Substrate m_Substrate;

@@ -23,7 +23,7 @@ namespace com_vyrgraph_v2 {
 
 using namespace lmx;  // for the tables' sake
 
-static_assert(k_binding_version == 2, "run schema/generator/generate.py");
+static_assert(k_binding_version == 3, "run schema/generator/generate.py");
 
 // LimitsType
 
@@ -67,7 +67,7 @@ LimitsType::LimitsType(const LimitsType& other) { lmx::copy(k_class, this, &othe
 LimitsType::~LimitsType() = default;
 LimitsType& LimitsType::operator=(const LimitsType& other) { LimitsType copy(other); swap(copy); return *this; }
 void LimitsType::swap(LimitsType& other) { lmx::swap(k_class, this, &other); }
-void LimitsType::reset() { LimitsType fresh; swap(fresh); }
+void LimitsType::reset() { LimitsType fresh; lmx::exchange(k_class, this, &fresh); }
 bool LimitsType::is_occurs_ok() const { return lmx::is_occurs_ok(k_class, this); }
 lmx::elmx_error LimitsType::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
 lmx::elmx_error LimitsType::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
@@ -132,8 +132,8 @@ constinit const s_item ToleranceType::k_items[] = {
      LMX_OFFSET(ToleranceType, m_CustomAttribute, child_list, none), k_no_flag, position_of(k_ToleranceType_elements, element_CustomAttribute), position_of(k_ToleranceType_elements, element_CustomAttribute, 1), &CustomAttributeType::k_class, nullptr, {}},
     {item_kind::group, value_kind::none, use_asked | use_written | use_copied | use_lax, ELMX_WS_PRESERVE, "Vyr:Function", 0,
      LMX_OFFSET(ToleranceType, m_Function, group, none), LMX_FLAG(ToleranceType, m_isset_Function), position_of(k_ToleranceType_elements, element_Function), position_of(k_ToleranceType_elements, element_Function, 18), &sg_Function::k_class, nullptr, {}},
-    {item_kind::child, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:Limits", element_Limits,
-     LMX_OFFSET(ToleranceType, m_Limits, child, none), LMX_FLAG(ToleranceType, m_isset_Limits), position_of(k_ToleranceType_elements, element_Limits), position_of(k_ToleranceType_elements, element_Limits, 1), &LimitsType::k_class, nullptr, {}},
+    {item_kind::optional_child, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:Limits", element_Limits,
+     LMX_OFFSET(ToleranceType, m_Limits, optional_child, none), LMX_FLAG(ToleranceType, m_isset_Limits), position_of(k_ToleranceType_elements, element_Limits), position_of(k_ToleranceType_elements, element_Limits, 1), &LimitsType::k_class, nullptr, {}},
     {item_kind::element, value_kind::enumerated, use_optional, ELMX_WS_PRESERVE, "Vyr:PrimaryIlluminant", element_PrimaryIlluminant,
      LMX_OFFSET(ToleranceType, m_PrimaryIlluminant, element, enumerated), LMX_FLAG(ToleranceType, m_isset_PrimaryIlluminant), position_of(k_ToleranceType_elements, element_PrimaryIlluminant), position_of(k_ToleranceType_elements, element_PrimaryIlluminant, 1), nullptr, &facets::IlluminantKind, {}},
     {item_kind::element, value_kind::enumerated, use_optional, ELMX_WS_PRESERVE, "Vyr:SecondaryIlluminant", element_SecondaryIlluminant,
@@ -148,8 +148,8 @@ constinit const s_item ToleranceType::k_items[] = {
      LMX_OFFSET(ToleranceType, m_UniqueID, element, text), LMX_FLAG(ToleranceType, m_isset_UniqueID), position_of(k_ToleranceType_elements, element_UniqueID), position_of(k_ToleranceType_elements, element_UniqueID, 1), nullptr, nullptr, {}},
     {item_kind::element, value_kind::boolean, use_optional, ELMX_WS_COLLAPSE, "Vyr:Global", element_Global,
      LMX_OFFSET(ToleranceType, m_Global, element, boolean), LMX_FLAG(ToleranceType, m_isset_Global), position_of(k_ToleranceType_elements, element_Global), position_of(k_ToleranceType_elements, element_Global, 1), nullptr, nullptr, {}},
-    {item_kind::child, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:Geometry", element_Geometry,
-     LMX_OFFSET(ToleranceType, m_Geometry, child, none), LMX_FLAG(ToleranceType, m_isset_Geometry), position_of(k_ToleranceType_elements, element_Geometry), position_of(k_ToleranceType_elements, element_Geometry, 1), &GeometryChoiceType::k_class, nullptr, {}},
+    {item_kind::optional_child, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:Geometry", element_Geometry,
+     LMX_OFFSET(ToleranceType, m_Geometry, optional_child, none), LMX_FLAG(ToleranceType, m_isset_Geometry), position_of(k_ToleranceType_elements, element_Geometry), position_of(k_ToleranceType_elements, element_Geometry, 1), &GeometryChoiceType::k_class, nullptr, {}},
 };
 constinit const s_class ToleranceType::k_class = {
     .name = "ToleranceType",
@@ -174,7 +174,7 @@ ToleranceType::ToleranceType(const ToleranceType& other) { lmx::copy(k_class, th
 ToleranceType::~ToleranceType() = default;
 ToleranceType& ToleranceType::operator=(const ToleranceType& other) { ToleranceType copy(other); swap(copy); return *this; }
 void ToleranceType::swap(ToleranceType& other) { lmx::swap(k_class, this, &other); }
-void ToleranceType::reset() { ToleranceType fresh; swap(fresh); }
+void ToleranceType::reset() { ToleranceType fresh; lmx::exchange(k_class, this, &fresh); }
 bool ToleranceType::is_occurs_ok() const { return lmx::is_occurs_ok(k_class, this); }
 lmx::elmx_error ToleranceType::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
 lmx::elmx_error ToleranceType::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
@@ -191,6 +191,8 @@ lmx::elmx_error ToleranceType::insert_CustomAttribute(std::size_t index) { m_Cus
 void ToleranceType::delete_CustomAttribute(std::size_t index) { m_CustomAttribute.erase(index); }
 void ToleranceType::clear_CustomAttribute() { m_CustomAttribute.clear(); }
 sg_Function& ToleranceType::assign_Function(const sg_Function& value) { return get_Function() = value; }
+LimitsType& ToleranceType::get_Limits() { LimitsType& child = m_Limits.touch(); m_isset_Limits = true; return child; }
+const LimitsType& ToleranceType::get_Limits() const { return m_Limits.get(); }
 LimitsType& ToleranceType::assign_Limits(const LimitsType& value) { return get_Limits() = value; }
 lmx::elmx_error ToleranceType::set_PrimaryIlluminant(const std::u16string& value) { return lmx::set_item(k_class, k_items[item_PrimaryIlluminant], this, value); }
 bool ToleranceType::setenum_PrimaryIlluminant(std::int32_t number) { return lmx::set_enumerated(k_class, k_items[item_PrimaryIlluminant], this, number); }
@@ -203,6 +205,8 @@ bool ToleranceType::setenum_FieldOfView(std::int32_t number) { return lmx::set_e
 lmx::elmx_error ToleranceType::set_WarningLevel(double value) { return lmx::set_item(k_class, k_items[item_WarningLevel], this, value); }
 lmx::elmx_error ToleranceType::set_UniqueID(const std::u16string& value) { return lmx::set_item(k_class, k_items[item_UniqueID], this, value); }
 lmx::elmx_error ToleranceType::set_Global(bool value) { return lmx::set_item(k_class, k_items[item_Global], this, value); }
+GeometryChoiceType& ToleranceType::get_Geometry() { GeometryChoiceType& child = m_Geometry.touch(); m_isset_Geometry = true; return child; }
+const GeometryChoiceType& ToleranceType::get_Geometry() const { return m_Geometry.get(); }
 GeometryChoiceType& ToleranceType::assign_Geometry(const GeometryChoiceType& value) { return get_Geometry() = value; }
 
 // Process
@@ -244,7 +248,7 @@ Process::Process(const Process& other) { lmx::copy(k_class, this, &other); }
 Process::~Process() = default;
 Process& Process::operator=(const Process& other) { Process copy(other); swap(copy); return *this; }
 void Process::swap(Process& other) { lmx::swap(k_class, this, &other); }
-void Process::reset() { Process fresh; swap(fresh); }
+void Process::reset() { Process fresh; lmx::exchange(k_class, this, &fresh); }
 bool Process::is_occurs_ok() const { return lmx::is_occurs_ok(k_class, this); }
 lmx::elmx_error Process::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
 lmx::elmx_error Process::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
@@ -274,8 +278,8 @@ constinit const s_item PhysicalSampleType::k_items[] = {
      LMX_OFFSET(PhysicalSampleType, m_CustomAttribute, child_list, none), k_no_flag, position_of(k_PhysicalSampleType_elements, element_CustomAttribute), position_of(k_PhysicalSampleType_elements, element_CustomAttribute, 1), &CustomAttributeType::k_class, nullptr, {}},
     {item_kind::element, value_kind::text, use_optional, ELMX_WS_PRESERVE, "Vyr:Coating", element_Coating,
      LMX_OFFSET(PhysicalSampleType, m_Coating, element, text), LMX_FLAG(PhysicalSampleType, m_isset_Coating), position_of(k_PhysicalSampleType_elements, element_Coating), position_of(k_PhysicalSampleType_elements, element_Coating, 1), nullptr, nullptr, {}},
-    {item_kind::child, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:Process", element_Process,
-     LMX_OFFSET(PhysicalSampleType, m_Process, child, none), LMX_FLAG(PhysicalSampleType, m_isset_Process), position_of(k_PhysicalSampleType_elements, element_Process), position_of(k_PhysicalSampleType_elements, element_Process, 1), &Process::k_class, nullptr, {}},
+    {item_kind::optional_child, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:Process", element_Process,
+     LMX_OFFSET(PhysicalSampleType, m_Process, optional_child, none), LMX_FLAG(PhysicalSampleType, m_isset_Process), position_of(k_PhysicalSampleType_elements, element_Process), position_of(k_PhysicalSampleType_elements, element_Process, 1), &Process::k_class, nullptr, {}},
     {item_kind::group, value_kind::none, use_asked | use_written | use_copied | use_lax, ELMX_WS_PRESERVE, "Vyr:Sample", 0,
      LMX_OFFSET(PhysicalSampleType, m_Sample, group, none), LMX_FLAG(PhysicalSampleType, m_isset_Sample), position_of(k_PhysicalSampleType_elements, element_SampleSpot), position_of(k_PhysicalSampleType_elements, element_SampleSpot, 2), &sg_Sample::k_class, nullptr, {}},
 };
@@ -302,7 +306,7 @@ PhysicalSampleType::PhysicalSampleType(const PhysicalSampleType& other) { lmx::c
 PhysicalSampleType::~PhysicalSampleType() = default;
 PhysicalSampleType& PhysicalSampleType::operator=(const PhysicalSampleType& other) { PhysicalSampleType copy(other); swap(copy); return *this; }
 void PhysicalSampleType::swap(PhysicalSampleType& other) { lmx::swap(k_class, this, &other); }
-void PhysicalSampleType::reset() { PhysicalSampleType fresh; swap(fresh); }
+void PhysicalSampleType::reset() { PhysicalSampleType fresh; lmx::exchange(k_class, this, &fresh); }
 bool PhysicalSampleType::is_occurs_ok() const { return lmx::is_occurs_ok(k_class, this); }
 lmx::elmx_error PhysicalSampleType::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
 lmx::elmx_error PhysicalSampleType::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
@@ -318,6 +322,8 @@ lmx::elmx_error PhysicalSampleType::insert_CustomAttribute(std::size_t index) { 
 void PhysicalSampleType::delete_CustomAttribute(std::size_t index) { m_CustomAttribute.erase(index); }
 void PhysicalSampleType::clear_CustomAttribute() { m_CustomAttribute.clear(); }
 lmx::elmx_error PhysicalSampleType::set_Coating(const std::u16string& value) { return lmx::set_item(k_class, k_items[item_Coating], this, value); }
+Process& PhysicalSampleType::get_Process() { Process& child = m_Process.touch(); m_isset_Process = true; return child; }
+const Process& PhysicalSampleType::get_Process() const { return m_Process.get(); }
 Process& PhysicalSampleType::assign_Process(const Process& value) { return get_Process() = value; }
 sg_Sample& PhysicalSampleType::assign_Sample(const sg_Sample& value) { return get_Sample() = value; }
 
@@ -356,8 +362,8 @@ constinit const s_item ColorQualityControlType::k_items[] = {
      LMX_OFFSET(ColorQualityControlType, m_ChangeHistory, element_list, datetime), k_no_flag, position_of(k_ColorQualityControlType_elements, element_ChangeHistory), position_of(k_ColorQualityControlType_elements, element_ChangeHistory, 1), nullptr, &facets::DateTimeZone, {}},
     {item_kind::child_list, value_kind::none, use_demanded | use_asked, ELMX_WS_PRESERVE, "Vyr:StandardAndMeasurement", element_StandardAndMeasurement,
      LMX_OFFSET(ColorQualityControlType, m_StandardAndMeasurement, child_list, none), k_no_flag, position_of(k_ColorQualityControlType_elements, element_StandardAndMeasurement), position_of(k_ColorQualityControlType_elements, element_StandardAndMeasurement, 1), &StandardAndMeasurementType::k_class, nullptr, {}},
-    {item_kind::child, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:PhysicalSample", element_PhysicalSample,
-     LMX_OFFSET(ColorQualityControlType, m_PhysicalSample, child, none), LMX_FLAG(ColorQualityControlType, m_isset_PhysicalSample), position_of(k_ColorQualityControlType_elements, element_PhysicalSample), position_of(k_ColorQualityControlType_elements, element_PhysicalSample, 1), &PhysicalSampleType::k_class, nullptr, {}},
+    {item_kind::optional_child, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:PhysicalSample", element_PhysicalSample,
+     LMX_OFFSET(ColorQualityControlType, m_PhysicalSample, optional_child, none), LMX_FLAG(ColorQualityControlType, m_isset_PhysicalSample), position_of(k_ColorQualityControlType_elements, element_PhysicalSample), position_of(k_ColorQualityControlType_elements, element_PhysicalSample, 1), &PhysicalSampleType::k_class, nullptr, {}},
     {item_kind::child_list, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:Tolerance", element_Tolerance,
      LMX_OFFSET(ColorQualityControlType, m_Tolerance, child_list, none), k_no_flag, position_of(k_ColorQualityControlType_elements, element_Tolerance), position_of(k_ColorQualityControlType_elements, element_Tolerance, 1), &ToleranceType::k_class, nullptr, {}},
 };
@@ -384,7 +390,7 @@ ColorQualityControlType::ColorQualityControlType(const ColorQualityControlType& 
 ColorQualityControlType::~ColorQualityControlType() = default;
 ColorQualityControlType& ColorQualityControlType::operator=(const ColorQualityControlType& other) { ColorQualityControlType copy(other); swap(copy); return *this; }
 void ColorQualityControlType::swap(ColorQualityControlType& other) { lmx::swap(k_class, this, &other); }
-void ColorQualityControlType::reset() { ColorQualityControlType fresh; swap(fresh); }
+void ColorQualityControlType::reset() { ColorQualityControlType fresh; lmx::exchange(k_class, this, &fresh); }
 bool ColorQualityControlType::is_occurs_ok() const { return lmx::is_occurs_ok(k_class, this); }
 lmx::elmx_error ColorQualityControlType::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
 lmx::elmx_error ColorQualityControlType::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
@@ -414,6 +420,8 @@ lmx::elmx_error ColorQualityControlType::append_StandardAndMeasurement() { m_Sta
 lmx::elmx_error ColorQualityControlType::insert_StandardAndMeasurement(std::size_t index) { m_StandardAndMeasurement.insert(index); return lmx::ELMX_OK; }
 void ColorQualityControlType::delete_StandardAndMeasurement(std::size_t index) { m_StandardAndMeasurement.erase(index); }
 void ColorQualityControlType::clear_StandardAndMeasurement() { m_StandardAndMeasurement.clear(); }
+PhysicalSampleType& ColorQualityControlType::get_PhysicalSample() { PhysicalSampleType& child = m_PhysicalSample.touch(); m_isset_PhysicalSample = true; return child; }
+const PhysicalSampleType& ColorQualityControlType::get_PhysicalSample() const { return m_PhysicalSample.get(); }
 PhysicalSampleType& ColorQualityControlType::assign_PhysicalSample(const PhysicalSampleType& value) { return get_PhysicalSample() = value; }
 ToleranceType& ColorQualityControlType::get_Tolerance(std::size_t index) { return m_Tolerance.grow_to(index); }
 ToleranceType& ColorQualityControlType::assign_Tolerance(std::size_t index, const ToleranceType& value) { return get_Tolerance(index) = value; }
@@ -484,7 +492,7 @@ Measurement::Measurement(const Measurement& other) { lmx::copy(k_class, this, &o
 Measurement::~Measurement() = default;
 Measurement& Measurement::operator=(const Measurement& other) { Measurement copy(other); swap(copy); return *this; }
 void Measurement::swap(Measurement& other) { lmx::swap(k_class, this, &other); }
-void Measurement::reset() { Measurement fresh; swap(fresh); }
+void Measurement::reset() { Measurement fresh; lmx::exchange(k_class, this, &fresh); }
 bool Measurement::is_occurs_ok() const { return lmx::is_occurs_ok(k_class, this); }
 lmx::elmx_error Measurement::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
 lmx::elmx_error Measurement::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
@@ -565,7 +573,7 @@ Standard::Standard(const Standard& other) { lmx::copy(k_class, this, &other); }
 Standard::~Standard() = default;
 Standard& Standard::operator=(const Standard& other) { Standard copy(other); swap(copy); return *this; }
 void Standard::swap(Standard& other) { lmx::swap(k_class, this, &other); }
-void Standard::reset() { Standard fresh; swap(fresh); }
+void Standard::reset() { Standard fresh; lmx::exchange(k_class, this, &fresh); }
 bool Standard::is_occurs_ok() const { return lmx::is_occurs_ok(k_class, this); }
 lmx::elmx_error Standard::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
 lmx::elmx_error Standard::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
@@ -643,7 +651,7 @@ StandardAndMeasurementType::StandardAndMeasurementType(const StandardAndMeasurem
 StandardAndMeasurementType::~StandardAndMeasurementType() = default;
 StandardAndMeasurementType& StandardAndMeasurementType::operator=(const StandardAndMeasurementType& other) { StandardAndMeasurementType copy(other); swap(copy); return *this; }
 void StandardAndMeasurementType::swap(StandardAndMeasurementType& other) { lmx::swap(k_class, this, &other); }
-void StandardAndMeasurementType::reset() { StandardAndMeasurementType fresh; swap(fresh); }
+void StandardAndMeasurementType::reset() { StandardAndMeasurementType fresh; lmx::exchange(k_class, this, &fresh); }
 bool StandardAndMeasurementType::is_occurs_ok() const { return lmx::is_occurs_ok(k_class, this); }
 lmx::elmx_error StandardAndMeasurementType::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
 lmx::elmx_error StandardAndMeasurementType::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }

@@ -118,8 +118,8 @@ public:
     sg_Function& assign_Function(const sg_Function& value);
 
     /// Limits of the result.
-    LimitsType& get_Limits() { m_isset_Limits = true; return m_Limits; }
-    const LimitsType& get_Limits() const { return m_Limits; }
+    LimitsType& get_Limits();
+    const LimitsType& get_Limits() const;
     LimitsType& assign_Limits(const LimitsType& value);
     bool isset_Limits() const { return m_isset_Limits; }
     void unset_Limits() { m_isset_Limits = false; }
@@ -175,8 +175,8 @@ public:
     void unset_Global() { m_isset_Global = false; }
 
     /// Measuring geometry that the tolerance holds for.
-    GeometryChoiceType& get_Geometry() { m_isset_Geometry = true; return m_Geometry; }
-    const GeometryChoiceType& get_Geometry() const { return m_Geometry; }
+    GeometryChoiceType& get_Geometry();
+    const GeometryChoiceType& get_Geometry() const;
     GeometryChoiceType& assign_Geometry(const GeometryChoiceType& value);
     bool isset_Geometry() const { return m_isset_Geometry; }
     void unset_Geometry() { m_isset_Geometry = false; }
@@ -209,7 +209,7 @@ private:
     std::u16string m_Name;
     lmx::c_list<CustomAttributeType> m_CustomAttribute;
     sg_Function m_Function;
-    LimitsType m_Limits;
+    lmx::c_optional_child<LimitsType> m_Limits;
     lmx::c_enumerated m_PrimaryIlluminant;
     lmx::c_enumerated m_SecondaryIlluminant;
     lmx::c_enumerated m_TertiaryIlluminant;
@@ -217,7 +217,7 @@ private:
     double m_WarningLevel = 0;
     std::u16string m_UniqueID;
     bool m_Global = false;
-    GeometryChoiceType m_Geometry;
+    lmx::c_optional_child<GeometryChoiceType> m_Geometry;
     bool m_isset_Name = false;
     bool m_isset_Function = false;
     bool m_isset_Limits = false;
@@ -306,8 +306,8 @@ public:
     void unset_Coating() { m_isset_Coating = false; }
 
     /// How the sample was made.
-    Process& get_Process() { m_isset_Process = true; return m_Process; }
-    const Process& get_Process() const { return m_Process; }
+    Process& get_Process();
+    const Process& get_Process() const;
     Process& assign_Process(const Process& value);
     bool isset_Process() const { return m_isset_Process; }
     void unset_Process() { m_isset_Process = false; }
@@ -336,7 +336,7 @@ private:
     static const lmx::s_item k_items[];
     lmx::c_list<CustomAttributeType> m_CustomAttribute;
     std::u16string m_Coating;
-    Process m_Process;
+    lmx::c_optional_child<Process> m_Process;
     sg_Sample m_Sample;
     bool m_isset_Coating = false;
     bool m_isset_Process = false;
@@ -412,8 +412,8 @@ public:
     void clear_StandardAndMeasurement();
 
     /// The physical sample that was measured.
-    PhysicalSampleType& get_PhysicalSample() { m_isset_PhysicalSample = true; return m_PhysicalSample; }
-    const PhysicalSampleType& get_PhysicalSample() const { return m_PhysicalSample; }
+    PhysicalSampleType& get_PhysicalSample();
+    const PhysicalSampleType& get_PhysicalSample() const;
     PhysicalSampleType& assign_PhysicalSample(const PhysicalSampleType& value);
     bool isset_PhysicalSample() const { return m_isset_PhysicalSample; }
     void unset_PhysicalSample() { m_isset_PhysicalSample = false; }
@@ -458,7 +458,7 @@ private:
     lmx::c_list<CustomAttributeType> m_CustomAttribute;
     lmx::c_list<lmx::c_datetime> m_ChangeHistory;
     lmx::c_list<StandardAndMeasurementType> m_StandardAndMeasurement;
-    PhysicalSampleType m_PhysicalSample;
+    lmx::c_optional_child<PhysicalSampleType> m_PhysicalSample;
     lmx::c_list<ToleranceType> m_Tolerance;
     bool m_isset_Name = false;
     bool m_isset_Description = false;

@@ -22,7 +22,7 @@ namespace com_vyrgraph_v2 {
 
 using namespace lmx;  // for the tables' sake
 
-static_assert(k_binding_version == 2, "run schema/generator/generate.py");
+static_assert(k_binding_version == 3, "run schema/generator/generate.py");
 
 // ColorName
 
@@ -66,7 +66,7 @@ ColorName::ColorName(const ColorName& other) { lmx::copy(k_class, this, &other);
 ColorName::~ColorName() = default;
 ColorName& ColorName::operator=(const ColorName& other) { ColorName copy(other); swap(copy); return *this; }
 void ColorName::swap(ColorName& other) { lmx::swap(k_class, this, &other); }
-void ColorName::reset() { ColorName fresh; swap(fresh); }
+void ColorName::reset() { ColorName fresh; lmx::exchange(k_class, this, &fresh); }
 bool ColorName::is_occurs_ok() const { return lmx::is_occurs_ok(k_class, this); }
 lmx::elmx_error ColorName::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
 lmx::elmx_error ColorName::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
@@ -115,7 +115,7 @@ Recipe::Recipe(const Recipe& other) { lmx::copy(k_class, this, &other); }
 Recipe::~Recipe() = default;
 Recipe& Recipe::operator=(const Recipe& other) { Recipe copy(other); swap(copy); return *this; }
 void Recipe::swap(Recipe& other) { lmx::swap(k_class, this, &other); }
-void Recipe::reset() { Recipe fresh; swap(fresh); }
+void Recipe::reset() { Recipe fresh; lmx::exchange(k_class, this, &fresh); }
 bool Recipe::is_occurs_ok() const { return lmx::is_occurs_ok(k_class, this); }
 lmx::elmx_error Recipe::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
 lmx::elmx_error Recipe::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
@@ -160,8 +160,8 @@ constinit const s_item ColorSpaceTINTORAType::k_items[] = {
      LMX_OFFSET(ColorSpaceTINTORAType, m_Page, element, text), LMX_FLAG(ColorSpaceTINTORAType, m_isset_Page), position_of(k_ColorSpaceTINTORAType_elements, element_Page), position_of(k_ColorSpaceTINTORAType_elements, element_Page, 1), nullptr, nullptr, {}},
     {item_kind::element, value_kind::enumerated, use_required, ELMX_WS_PRESERVE, "Vyr:Gamut", element_Gamut,
      LMX_OFFSET(ColorSpaceTINTORAType, m_Gamut, element, enumerated), LMX_FLAG(ColorSpaceTINTORAType, m_isset_Gamut), position_of(k_ColorSpaceTINTORAType_elements, element_Gamut), position_of(k_ColorSpaceTINTORAType_elements, element_Gamut, 1), nullptr, &facets::GamutKind, {}},
-    {item_kind::child, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:Recipe", element_Recipe,
-     LMX_OFFSET(ColorSpaceTINTORAType, m_Recipe, child, none), LMX_FLAG(ColorSpaceTINTORAType, m_isset_Recipe), position_of(k_ColorSpaceTINTORAType_elements, element_Recipe), position_of(k_ColorSpaceTINTORAType_elements, element_Recipe, 1), &Recipe::k_class, nullptr, {}},
+    {item_kind::optional_child, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:Recipe", element_Recipe,
+     LMX_OFFSET(ColorSpaceTINTORAType, m_Recipe, optional_child, none), LMX_FLAG(ColorSpaceTINTORAType, m_isset_Recipe), position_of(k_ColorSpaceTINTORAType_elements, element_Recipe), position_of(k_ColorSpaceTINTORAType_elements, element_Recipe, 1), &Recipe::k_class, nullptr, {}},
     {item_kind::child_list, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:ColorAndFinish", element_ColorAndFinish,
      LMX_OFFSET(ColorSpaceTINTORAType, m_ColorAndFinish, child_list, none), k_no_flag, position_of(k_ColorSpaceTINTORAType_elements, element_ColorAndFinish), position_of(k_ColorSpaceTINTORAType_elements, element_ColorAndFinish, 1), &ColorAndFinish::k_class, nullptr, {}},
 };
@@ -188,7 +188,7 @@ ColorSpaceTINTORAType::ColorSpaceTINTORAType(const ColorSpaceTINTORAType& other)
 ColorSpaceTINTORAType::~ColorSpaceTINTORAType() = default;
 ColorSpaceTINTORAType& ColorSpaceTINTORAType::operator=(const ColorSpaceTINTORAType& other) { ColorSpaceTINTORAType copy(other); swap(copy); return *this; }
 void ColorSpaceTINTORAType::swap(ColorSpaceTINTORAType& other) { lmx::swap(k_class, this, &other); }
-void ColorSpaceTINTORAType::reset() { ColorSpaceTINTORAType fresh; swap(fresh); }
+void ColorSpaceTINTORAType::reset() { ColorSpaceTINTORAType fresh; lmx::exchange(k_class, this, &fresh); }
 bool ColorSpaceTINTORAType::is_occurs_ok() const { return lmx::is_occurs_ok(k_class, this); }
 lmx::elmx_error ColorSpaceTINTORAType::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
 lmx::elmx_error ColorSpaceTINTORAType::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
@@ -208,6 +208,8 @@ ColorName& ColorSpaceTINTORAType::assign_ColorName(const ColorName& value) { ret
 lmx::elmx_error ColorSpaceTINTORAType::set_Page(const std::u16string& value) { return lmx::set_item(k_class, k_items[item_Page], this, value); }
 lmx::elmx_error ColorSpaceTINTORAType::set_Gamut(const std::u16string& value) { return lmx::set_item(k_class, k_items[item_Gamut], this, value); }
 bool ColorSpaceTINTORAType::setenum_Gamut(std::int32_t number) { return lmx::set_enumerated(k_class, k_items[item_Gamut], this, number); }
+Recipe& ColorSpaceTINTORAType::get_Recipe() { Recipe& child = m_Recipe.touch(); m_isset_Recipe = true; return child; }
+const Recipe& ColorSpaceTINTORAType::get_Recipe() const { return m_Recipe.get(); }
 Recipe& ColorSpaceTINTORAType::assign_Recipe(const Recipe& value) { return get_Recipe() = value; }
 ColorAndFinish& ColorSpaceTINTORAType::get_ColorAndFinish(std::size_t index) { return m_ColorAndFinish.grow_to(index); }
 ColorAndFinish& ColorSpaceTINTORAType::assign_ColorAndFinish(std::size_t index, const ColorAndFinish& value) { return get_ColorAndFinish(index) = value; }
@@ -264,7 +266,7 @@ Colorant::Colorant(const Colorant& other) { lmx::copy(k_class, this, &other); }
 Colorant::~Colorant() = default;
 Colorant& Colorant::operator=(const Colorant& other) { Colorant copy(other); swap(copy); return *this; }
 void Colorant::swap(Colorant& other) { lmx::swap(k_class, this, &other); }
-void Colorant::reset() { Colorant fresh; swap(fresh); }
+void Colorant::reset() { Colorant fresh; lmx::exchange(k_class, this, &fresh); }
 bool Colorant::is_occurs_ok() const { return lmx::is_occurs_ok(k_class, this); }
 lmx::elmx_error Colorant::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
 lmx::elmx_error Colorant::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
@@ -323,7 +325,7 @@ ColorantElement::ColorantElement(const ColorantElement& other) { lmx::copy(k_cla
 ColorantElement::~ColorantElement() = default;
 ColorantElement& ColorantElement::operator=(const ColorantElement& other) { ColorantElement copy(other); swap(copy); return *this; }
 void ColorantElement::swap(ColorantElement& other) { lmx::swap(k_class, this, &other); }
-void ColorantElement::reset() { ColorantElement fresh; swap(fresh); }
+void ColorantElement::reset() { ColorantElement fresh; lmx::exchange(k_class, this, &fresh); }
 bool ColorantElement::is_occurs_ok() const { return lmx::is_occurs_ok(k_class, this); }
 lmx::elmx_error ColorantElement::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
 lmx::elmx_error ColorantElement::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
@@ -371,7 +373,7 @@ CustomAttributes::CustomAttributes(const CustomAttributes& other) { lmx::copy(k_
 CustomAttributes::~CustomAttributes() = default;
 CustomAttributes& CustomAttributes::operator=(const CustomAttributes& other) { CustomAttributes copy(other); swap(copy); return *this; }
 void CustomAttributes::swap(CustomAttributes& other) { lmx::swap(k_class, this, &other); }
-void CustomAttributes::reset() { CustomAttributes fresh; swap(fresh); }
+void CustomAttributes::reset() { CustomAttributes fresh; lmx::exchange(k_class, this, &fresh); }
 bool CustomAttributes::is_occurs_ok() const { return lmx::is_occurs_ok(k_class, this); }
 lmx::elmx_error CustomAttributes::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
 lmx::elmx_error CustomAttributes::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
@@ -421,7 +423,7 @@ ColorAndFinish::ColorAndFinish(const ColorAndFinish& other) { lmx::copy(k_class,
 ColorAndFinish::~ColorAndFinish() = default;
 ColorAndFinish& ColorAndFinish::operator=(const ColorAndFinish& other) { ColorAndFinish copy(other); swap(copy); return *this; }
 void ColorAndFinish::swap(ColorAndFinish& other) { lmx::swap(k_class, this, &other); }
-void ColorAndFinish::reset() { ColorAndFinish fresh; swap(fresh); }
+void ColorAndFinish::reset() { ColorAndFinish fresh; lmx::exchange(k_class, this, &fresh); }
 bool ColorAndFinish::is_occurs_ok() const { return lmx::is_occurs_ok(k_class, this); }
 lmx::elmx_error ColorAndFinish::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
 lmx::elmx_error ColorAndFinish::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
@@ -479,7 +481,7 @@ ColorSpaceNCSType::ColorSpaceNCSType(const ColorSpaceNCSType& other) : ColorSpac
 ColorSpaceNCSType::~ColorSpaceNCSType() = default;
 ColorSpaceNCSType& ColorSpaceNCSType::operator=(const ColorSpaceNCSType& other) { ColorSpaceNCSType copy(other); swap(copy); return *this; }
 void ColorSpaceNCSType::swap(ColorSpaceNCSType& other) { lmx::swap(k_class, this, &other); }
-void ColorSpaceNCSType::reset() { ColorSpaceNCSType fresh; swap(fresh); }
+void ColorSpaceNCSType::reset() { ColorSpaceNCSType fresh; lmx::exchange(k_class, this, &fresh); }
 bool ColorSpaceNCSType::is_occurs_ok() const { return lmx::is_occurs_ok(k_class, this); }
 lmx::elmx_error ColorSpaceNCSType::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
 lmx::elmx_error ColorSpaceNCSType::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
@@ -545,7 +547,7 @@ ColorSpaceMunsellType::ColorSpaceMunsellType(const ColorSpaceMunsellType& other)
 ColorSpaceMunsellType::~ColorSpaceMunsellType() = default;
 ColorSpaceMunsellType& ColorSpaceMunsellType::operator=(const ColorSpaceMunsellType& other) { ColorSpaceMunsellType copy(other); swap(copy); return *this; }
 void ColorSpaceMunsellType::swap(ColorSpaceMunsellType& other) { lmx::swap(k_class, this, &other); }
-void ColorSpaceMunsellType::reset() { ColorSpaceMunsellType fresh; swap(fresh); }
+void ColorSpaceMunsellType::reset() { ColorSpaceMunsellType fresh; lmx::exchange(k_class, this, &fresh); }
 bool ColorSpaceMunsellType::is_occurs_ok() const { return lmx::is_occurs_ok(k_class, this); }
 lmx::elmx_error ColorSpaceMunsellType::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
 lmx::elmx_error ColorSpaceMunsellType::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
@@ -612,7 +614,7 @@ Base::Base(const Base& other) { lmx::copy(k_class, this, &other); }
 Base::~Base() = default;
 Base& Base::operator=(const Base& other) { Base copy(other); swap(copy); return *this; }
 void Base::swap(Base& other) { lmx::swap(k_class, this, &other); }
-void Base::reset() { Base fresh; swap(fresh); }
+void Base::reset() { Base fresh; lmx::exchange(k_class, this, &fresh); }
 bool Base::is_occurs_ok() const { return lmx::is_occurs_ok(k_class, this); }
 lmx::elmx_error Base::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
 lmx::elmx_error Base::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
@@ -671,7 +673,7 @@ BaseElementType::BaseElementType(const BaseElementType& other) { lmx::copy(k_cla
 BaseElementType::~BaseElementType() = default;
 BaseElementType& BaseElementType::operator=(const BaseElementType& other) { BaseElementType copy(other); swap(copy); return *this; }
 void BaseElementType::swap(BaseElementType& other) { lmx::swap(k_class, this, &other); }
-void BaseElementType::reset() { BaseElementType fresh; swap(fresh); }
+void BaseElementType::reset() { BaseElementType fresh; lmx::exchange(k_class, this, &fresh); }
 bool BaseElementType::is_occurs_ok() const { return lmx::is_occurs_ok(k_class, this); }
 lmx::elmx_error BaseElementType::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
 lmx::elmx_error BaseElementType::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
@@ -705,8 +707,8 @@ constinit const s_item ColorSpaceRecipeType::k_items[] = {
      LMX_OFFSET(ColorSpaceRecipeType, m_ColorSpaceSpecificationSpectrumGeneric, child, none), LMX_FLAG(ColorSpaceRecipeType, m_isset_ColorSpaceSpecificationSpectrumGeneric), position_of(k_ColorSpaceRecipeType_elements, element_ColorSpaceSpecificationSpectrumGeneric), position_of(k_ColorSpaceRecipeType_elements, element_ColorSpaceSpecificationSpectrumGeneric, 1), &ColorSpaceSpecificationSpectrumGeneric::k_class, nullptr, {}},
     {item_kind::child_list, value_kind::none, use_demanded | use_asked, ELMX_WS_PRESERVE, "Vyr:ColorantElement", element_ColorantElement,
      LMX_OFFSET(ColorSpaceRecipeType, m_ColorantElement, child_list, none), k_no_flag, position_of(k_ColorSpaceRecipeType_elements, element_ColorantElement), position_of(k_ColorSpaceRecipeType_elements, element_ColorantElement, 1), &ColorantElementType::k_class, nullptr, {}},
-    {item_kind::child, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:BaseElement", element_BaseElement,
-     LMX_OFFSET(ColorSpaceRecipeType, m_BaseElement, child, none), LMX_FLAG(ColorSpaceRecipeType, m_isset_BaseElement), position_of(k_ColorSpaceRecipeType_elements, element_BaseElement), position_of(k_ColorSpaceRecipeType_elements, element_BaseElement, 1), &BaseElementType::k_class, nullptr, {}},
+    {item_kind::optional_child, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:BaseElement", element_BaseElement,
+     LMX_OFFSET(ColorSpaceRecipeType, m_BaseElement, optional_child, none), LMX_FLAG(ColorSpaceRecipeType, m_isset_BaseElement), position_of(k_ColorSpaceRecipeType_elements, element_BaseElement), position_of(k_ColorSpaceRecipeType_elements, element_BaseElement, 1), &BaseElementType::k_class, nullptr, {}},
 };
 constinit const s_class ColorSpaceRecipeType::k_class = {
     .name = "ColorSpaceRecipeType",
@@ -731,7 +733,7 @@ ColorSpaceRecipeType::ColorSpaceRecipeType(const ColorSpaceRecipeType& other) : 
 ColorSpaceRecipeType::~ColorSpaceRecipeType() = default;
 ColorSpaceRecipeType& ColorSpaceRecipeType::operator=(const ColorSpaceRecipeType& other) { ColorSpaceRecipeType copy(other); swap(copy); return *this; }
 void ColorSpaceRecipeType::swap(ColorSpaceRecipeType& other) { lmx::swap(k_class, this, &other); }
-void ColorSpaceRecipeType::reset() { ColorSpaceRecipeType fresh; swap(fresh); }
+void ColorSpaceRecipeType::reset() { ColorSpaceRecipeType fresh; lmx::exchange(k_class, this, &fresh); }
 bool ColorSpaceRecipeType::is_occurs_ok() const { return lmx::is_occurs_ok(k_class, this); }
 lmx::elmx_error ColorSpaceRecipeType::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
 lmx::elmx_error ColorSpaceRecipeType::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
@@ -753,6 +755,8 @@ lmx::elmx_error ColorSpaceRecipeType::append_ColorantElement() { m_ColorantEleme
 lmx::elmx_error ColorSpaceRecipeType::insert_ColorantElement(std::size_t index) { m_ColorantElement.insert(index); return lmx::ELMX_OK; }
 void ColorSpaceRecipeType::delete_ColorantElement(std::size_t index) { m_ColorantElement.erase(index); }
 void ColorSpaceRecipeType::clear_ColorantElement() { m_ColorantElement.clear(); }
+BaseElementType& ColorSpaceRecipeType::get_BaseElement() { BaseElementType& child = m_BaseElement.touch(); m_isset_BaseElement = true; return child; }
+const BaseElementType& ColorSpaceRecipeType::get_BaseElement() const { return m_BaseElement.get(); }
 BaseElementType& ColorSpaceRecipeType::assign_BaseElement(const BaseElementType& value) { return get_BaseElement() = value; }
 
 // ColorSpaceRecipe
@@ -864,7 +868,7 @@ Density::Density(const Density& other) { lmx::copy(k_class, this, &other); }
 Density::~Density() = default;
 Density& Density::operator=(const Density& other) { Density copy(other); swap(copy); return *this; }
 void Density::swap(Density& other) { lmx::swap(k_class, this, &other); }
-void Density::reset() { Density fresh; swap(fresh); }
+void Density::reset() { Density fresh; lmx::exchange(k_class, this, &fresh); }
 bool Density::is_occurs_ok() const { return lmx::is_occurs_ok(k_class, this); }
 lmx::elmx_error Density::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
 lmx::elmx_error Density::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
@@ -923,7 +927,7 @@ ColorantElementType_Colorant::ColorantElementType_Colorant(const ColorantElement
 ColorantElementType_Colorant::~ColorantElementType_Colorant() = default;
 ColorantElementType_Colorant& ColorantElementType_Colorant::operator=(const ColorantElementType_Colorant& other) { ColorantElementType_Colorant copy(other); swap(copy); return *this; }
 void ColorantElementType_Colorant::swap(ColorantElementType_Colorant& other) { lmx::swap(k_class, this, &other); }
-void ColorantElementType_Colorant::reset() { ColorantElementType_Colorant fresh; swap(fresh); }
+void ColorantElementType_Colorant::reset() { ColorantElementType_Colorant fresh; lmx::exchange(k_class, this, &fresh); }
 bool ColorantElementType_Colorant::is_occurs_ok() const { return lmx::is_occurs_ok(k_class, this); }
 lmx::elmx_error ColorantElementType_Colorant::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
 lmx::elmx_error ColorantElementType_Colorant::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
@@ -982,7 +986,7 @@ ColorantElementType::ColorantElementType(const ColorantElementType& other) { lmx
 ColorantElementType::~ColorantElementType() = default;
 ColorantElementType& ColorantElementType::operator=(const ColorantElementType& other) { ColorantElementType copy(other); swap(copy); return *this; }
 void ColorantElementType::swap(ColorantElementType& other) { lmx::swap(k_class, this, &other); }
-void ColorantElementType::reset() { ColorantElementType fresh; swap(fresh); }
+void ColorantElementType::reset() { ColorantElementType fresh; lmx::exchange(k_class, this, &fresh); }
 bool ColorantElementType::is_occurs_ok() const { return lmx::is_occurs_ok(k_class, this); }
 lmx::elmx_error ColorantElementType::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
 lmx::elmx_error ColorantElementType::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }

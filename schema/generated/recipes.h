@@ -158,8 +158,8 @@ public:
     bool setenum_Gamut(std::int32_t number);
 
     /// How the colour is mixed.
-    Recipe& get_Recipe() { m_isset_Recipe = true; return m_Recipe; }
-    const Recipe& get_Recipe() const { return m_Recipe; }
+    Recipe& get_Recipe();
+    const Recipe& get_Recipe() const;
     Recipe& assign_Recipe(const Recipe& value);
     bool isset_Recipe() const { return m_isset_Recipe; }
     void unset_Recipe() { m_isset_Recipe = false; }
@@ -203,7 +203,7 @@ private:
     ColorName m_ColorName;
     std::u16string m_Page;
     lmx::c_enumerated m_Gamut;
-    Recipe m_Recipe;
+    lmx::c_optional_child<Recipe> m_Recipe;
     lmx::c_list<ColorAndFinish> m_ColorAndFinish;
     bool m_isset_Name = false;
     bool m_isset_FamilyName = false;
@@ -691,8 +691,8 @@ public:
     void clear_ColorantElement();
 
     /// The base that the colorants are mixed into.
-    BaseElementType& get_BaseElement() { m_isset_BaseElement = true; return m_BaseElement; }
-    const BaseElementType& get_BaseElement() const { return m_BaseElement; }
+    BaseElementType& get_BaseElement();
+    const BaseElementType& get_BaseElement() const;
     BaseElementType& assign_BaseElement(const BaseElementType& value);
     bool isset_BaseElement() const { return m_isset_BaseElement; }
     void unset_BaseElement() { m_isset_BaseElement = false; }
@@ -720,7 +720,7 @@ private:
     std::u16string m_Name;
     ColorSpaceSpecificationSpectrumGeneric m_ColorSpaceSpecificationSpectrumGeneric;
     lmx::c_list<ColorantElementType> m_ColorantElement;
-    BaseElementType m_BaseElement;
+    lmx::c_optional_child<BaseElementType> m_BaseElement;
     bool m_isset_Name = false;
     bool m_isset_ColorSpaceSpecificationSpectrumGeneric = false;
     bool m_isset_BaseElement = false;

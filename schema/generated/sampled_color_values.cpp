@@ -20,7 +20,7 @@ namespace com_vyrgraph_v2 {
 
 using namespace lmx;  // for the tables' sake
 
-static_assert(k_binding_version == 2, "run schema/generator/generate.py");
+static_assert(k_binding_version == 3, "run schema/generator/generate.py");
 
 // ColorSpaceDensityType
 
@@ -67,7 +67,7 @@ ColorSpaceDensityType::ColorSpaceDensityType(const ColorSpaceDensityType& other)
 ColorSpaceDensityType::~ColorSpaceDensityType() = default;
 ColorSpaceDensityType& ColorSpaceDensityType::operator=(const ColorSpaceDensityType& other) { ColorSpaceDensityType copy(other); swap(copy); return *this; }
 void ColorSpaceDensityType::swap(ColorSpaceDensityType& other) { lmx::swap(k_class, this, &other); }
-void ColorSpaceDensityType::reset() { ColorSpaceDensityType fresh; swap(fresh); }
+void ColorSpaceDensityType::reset() { ColorSpaceDensityType fresh; lmx::exchange(k_class, this, &fresh); }
 bool ColorSpaceDensityType::is_occurs_ok() const { return lmx::is_occurs_ok(k_class, this); }
 lmx::elmx_error ColorSpaceDensityType::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
 lmx::elmx_error ColorSpaceDensityType::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
@@ -135,7 +135,7 @@ ColorSpaceSpectralType::ColorSpaceSpectralType(const ColorSpaceSpectralType& oth
 ColorSpaceSpectralType::~ColorSpaceSpectralType() = default;
 ColorSpaceSpectralType& ColorSpaceSpectralType::operator=(const ColorSpaceSpectralType& other) { ColorSpaceSpectralType copy(other); swap(copy); return *this; }
 void ColorSpaceSpectralType::swap(ColorSpaceSpectralType& other) { lmx::swap(k_class, this, &other); }
-void ColorSpaceSpectralType::reset() { ColorSpaceSpectralType fresh; swap(fresh); }
+void ColorSpaceSpectralType::reset() { ColorSpaceSpectralType fresh; lmx::exchange(k_class, this, &fresh); }
 bool ColorSpaceSpectralType::is_occurs_ok() const { return lmx::is_occurs_ok(k_class, this); }
 lmx::elmx_error ColorSpaceSpectralType::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
 lmx::elmx_error ColorSpaceSpectralType::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
@@ -203,7 +203,7 @@ ColorSpaceEmissiveSpectralType::ColorSpaceEmissiveSpectralType(const ColorSpaceE
 ColorSpaceEmissiveSpectralType::~ColorSpaceEmissiveSpectralType() = default;
 ColorSpaceEmissiveSpectralType& ColorSpaceEmissiveSpectralType::operator=(const ColorSpaceEmissiveSpectralType& other) { ColorSpaceEmissiveSpectralType copy(other); swap(copy); return *this; }
 void ColorSpaceEmissiveSpectralType::swap(ColorSpaceEmissiveSpectralType& other) { lmx::swap(k_class, this, &other); }
-void ColorSpaceEmissiveSpectralType::reset() { ColorSpaceEmissiveSpectralType fresh; swap(fresh); }
+void ColorSpaceEmissiveSpectralType::reset() { ColorSpaceEmissiveSpectralType fresh; lmx::exchange(k_class, this, &fresh); }
 bool ColorSpaceEmissiveSpectralType::is_occurs_ok() const { return lmx::is_occurs_ok(k_class, this); }
 lmx::elmx_error ColorSpaceEmissiveSpectralType::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
 lmx::elmx_error ColorSpaceEmissiveSpectralType::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
@@ -271,7 +271,7 @@ ColorSpaceGenericType::ColorSpaceGenericType(const ColorSpaceGenericType& other)
 ColorSpaceGenericType::~ColorSpaceGenericType() = default;
 ColorSpaceGenericType& ColorSpaceGenericType::operator=(const ColorSpaceGenericType& other) { ColorSpaceGenericType copy(other); swap(copy); return *this; }
 void ColorSpaceGenericType::swap(ColorSpaceGenericType& other) { lmx::swap(k_class, this, &other); }
-void ColorSpaceGenericType::reset() { ColorSpaceGenericType fresh; swap(fresh); }
+void ColorSpaceGenericType::reset() { ColorSpaceGenericType fresh; lmx::exchange(k_class, this, &fresh); }
 bool ColorSpaceGenericType::is_occurs_ok() const { return lmx::is_occurs_ok(k_class, this); }
 lmx::elmx_error ColorSpaceGenericType::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
 lmx::elmx_error ColorSpaceGenericType::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
@@ -339,7 +339,7 @@ ColorSpaceEmissiveGenericType::ColorSpaceEmissiveGenericType(const ColorSpaceEmi
 ColorSpaceEmissiveGenericType::~ColorSpaceEmissiveGenericType() = default;
 ColorSpaceEmissiveGenericType& ColorSpaceEmissiveGenericType::operator=(const ColorSpaceEmissiveGenericType& other) { ColorSpaceEmissiveGenericType copy(other); swap(copy); return *this; }
 void ColorSpaceEmissiveGenericType::swap(ColorSpaceEmissiveGenericType& other) { lmx::swap(k_class, this, &other); }
-void ColorSpaceEmissiveGenericType::reset() { ColorSpaceEmissiveGenericType fresh; swap(fresh); }
+void ColorSpaceEmissiveGenericType::reset() { ColorSpaceEmissiveGenericType fresh; lmx::exchange(k_class, this, &fresh); }
 bool ColorSpaceEmissiveGenericType::is_occurs_ok() const { return lmx::is_occurs_ok(k_class, this); }
 lmx::elmx_error ColorSpaceEmissiveGenericType::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
 lmx::elmx_error ColorSpaceEmissiveGenericType::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
@@ -500,7 +500,7 @@ ReflectancePointType::ReflectancePointType(const ReflectancePointType& other) { 
 ReflectancePointType::~ReflectancePointType() = default;
 ReflectancePointType& ReflectancePointType::operator=(const ReflectancePointType& other) { ReflectancePointType copy(other); swap(copy); return *this; }
 void ReflectancePointType::swap(ReflectancePointType& other) { lmx::swap(k_class, this, &other); }
-void ReflectancePointType::reset() { ReflectancePointType fresh; swap(fresh); }
+void ReflectancePointType::reset() { ReflectancePointType fresh; lmx::exchange(k_class, this, &fresh); }
 bool ReflectancePointType::is_occurs_ok() const { return lmx::is_occurs_ok(k_class, this); }
 lmx::elmx_error ReflectancePointType::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
 lmx::elmx_error ReflectancePointType::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
@@ -550,7 +550,7 @@ EmissiveSpectralPointType::EmissiveSpectralPointType(const EmissiveSpectralPoint
 EmissiveSpectralPointType::~EmissiveSpectralPointType() = default;
 EmissiveSpectralPointType& EmissiveSpectralPointType::operator=(const EmissiveSpectralPointType& other) { EmissiveSpectralPointType copy(other); swap(copy); return *this; }
 void EmissiveSpectralPointType::swap(EmissiveSpectralPointType& other) { lmx::swap(k_class, this, &other); }
-void EmissiveSpectralPointType::reset() { EmissiveSpectralPointType fresh; swap(fresh); }
+void EmissiveSpectralPointType::reset() { EmissiveSpectralPointType fresh; lmx::exchange(k_class, this, &fresh); }
 bool EmissiveSpectralPointType::is_occurs_ok() const { return lmx::is_occurs_ok(k_class, this); }
 lmx::elmx_error EmissiveSpectralPointType::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
 lmx::elmx_error EmissiveSpectralPointType::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
@@ -601,7 +601,7 @@ AxisValueChoice::AxisValueChoice(const AxisValueChoice& other) : AxisValueChoice
 AxisValueChoice::~AxisValueChoice() { lmx::release_choice(k_class, this); }
 AxisValueChoice& AxisValueChoice::operator=(const AxisValueChoice& other) { AxisValueChoice copy(other); swap(copy); return *this; }
 void AxisValueChoice::swap(AxisValueChoice& other) { lmx::swap(k_class, this, &other); }
-void AxisValueChoice::reset() { AxisValueChoice fresh; swap(fresh); }
+void AxisValueChoice::reset() { AxisValueChoice fresh; lmx::exchange(k_class, this, &fresh); }
 bool AxisValueChoice::is_occurs_ok() const { return lmx::is_occurs_ok(k_class, this); }
 lmx::elmx_error AxisValueChoice::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
 lmx::elmx_error AxisValueChoice::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
@@ -654,7 +654,7 @@ AxisType::AxisType(const AxisType& other) { lmx::copy(k_class, this, &other); }
 AxisType::~AxisType() = default;
 AxisType& AxisType::operator=(const AxisType& other) { AxisType copy(other); swap(copy); return *this; }
 void AxisType::swap(AxisType& other) { lmx::swap(k_class, this, &other); }
-void AxisType::reset() { AxisType fresh; swap(fresh); }
+void AxisType::reset() { AxisType fresh; lmx::exchange(k_class, this, &fresh); }
 bool AxisType::is_occurs_ok() const { return lmx::is_occurs_ok(k_class, this); }
 lmx::elmx_error AxisType::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
 lmx::elmx_error AxisType::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
@@ -710,7 +710,7 @@ FloatingPointValueType::FloatingPointValueType(const FloatingPointValueType& oth
 FloatingPointValueType::~FloatingPointValueType() = default;
 FloatingPointValueType& FloatingPointValueType::operator=(const FloatingPointValueType& other) { FloatingPointValueType copy(other); swap(copy); return *this; }
 void FloatingPointValueType::swap(FloatingPointValueType& other) { lmx::swap(k_class, this, &other); }
-void FloatingPointValueType::reset() { FloatingPointValueType fresh; swap(fresh); }
+void FloatingPointValueType::reset() { FloatingPointValueType fresh; lmx::exchange(k_class, this, &fresh); }
 bool FloatingPointValueType::is_occurs_ok() const { return lmx::is_occurs_ok(k_class, this); }
 lmx::elmx_error FloatingPointValueType::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
 lmx::elmx_error FloatingPointValueType::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
@@ -766,7 +766,7 @@ DensityType::DensityType(const DensityType& other) { lmx::copy(k_class, this, &o
 DensityType::~DensityType() = default;
 DensityType& DensityType::operator=(const DensityType& other) { DensityType copy(other); swap(copy); return *this; }
 void DensityType::swap(DensityType& other) { lmx::swap(k_class, this, &other); }
-void DensityType::reset() { DensityType fresh; swap(fresh); }
+void DensityType::reset() { DensityType fresh; lmx::exchange(k_class, this, &fresh); }
 bool DensityType::is_occurs_ok() const { return lmx::is_occurs_ok(k_class, this); }
 lmx::elmx_error DensityType::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
 lmx::elmx_error DensityType::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }

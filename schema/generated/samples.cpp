@@ -20,7 +20,7 @@ namespace com_vyrgraph_v2 {
 
 using namespace lmx;  // for the tables' sake
 
-static_assert(k_binding_version == 2, "run schema/generator/generate.py");
+static_assert(k_binding_version == 3, "run schema/generator/generate.py");
 
 // SampleType
 
@@ -88,7 +88,7 @@ SampleType::SampleType(const SampleType& other) { lmx::copy(k_class, this, &othe
 SampleType::~SampleType() = default;
 SampleType& SampleType::operator=(const SampleType& other) { SampleType copy(other); swap(copy); return *this; }
 void SampleType::swap(SampleType& other) { lmx::swap(k_class, this, &other); }
-void SampleType::reset() { SampleType fresh; swap(fresh); }
+void SampleType::reset() { SampleType fresh; lmx::exchange(k_class, this, &fresh); }
 bool SampleType::is_occurs_ok() const { return lmx::is_occurs_ok(k_class, this); }
 lmx::elmx_error SampleType::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
 lmx::elmx_error SampleType::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
@@ -167,7 +167,7 @@ Specification::Specification(const Specification& other) { lmx::copy(k_class, th
 Specification::~Specification() = default;
 Specification& Specification::operator=(const Specification& other) { Specification copy(other); swap(copy); return *this; }
 void Specification::swap(Specification& other) { lmx::swap(k_class, this, &other); }
-void Specification::reset() { Specification fresh; swap(fresh); }
+void Specification::reset() { Specification fresh; lmx::exchange(k_class, this, &fresh); }
 bool Specification::is_occurs_ok() const { return lmx::is_occurs_ok(k_class, this); }
 lmx::elmx_error Specification::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
 lmx::elmx_error Specification::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
@@ -215,7 +215,7 @@ SampleSpotType::SampleSpotType(const SampleSpotType& other) : SampleType() { lmx
 SampleSpotType::~SampleSpotType() = default;
 SampleSpotType& SampleSpotType::operator=(const SampleSpotType& other) { SampleSpotType copy(other); swap(copy); return *this; }
 void SampleSpotType::swap(SampleSpotType& other) { lmx::swap(k_class, this, &other); }
-void SampleSpotType::reset() { SampleSpotType fresh; swap(fresh); }
+void SampleSpotType::reset() { SampleSpotType fresh; lmx::exchange(k_class, this, &fresh); }
 bool SampleSpotType::is_occurs_ok() const { return lmx::is_occurs_ok(k_class, this); }
 lmx::elmx_error SampleSpotType::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
 lmx::elmx_error SampleSpotType::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
@@ -273,7 +273,7 @@ SampleTargetType::SampleTargetType(const SampleTargetType& other) : SampleType()
 SampleTargetType::~SampleTargetType() = default;
 SampleTargetType& SampleTargetType::operator=(const SampleTargetType& other) { SampleTargetType copy(other); swap(copy); return *this; }
 void SampleTargetType::swap(SampleTargetType& other) { lmx::swap(k_class, this, &other); }
-void SampleTargetType::reset() { SampleTargetType fresh; swap(fresh); }
+void SampleTargetType::reset() { SampleTargetType fresh; lmx::exchange(k_class, this, &fresh); }
 bool SampleTargetType::is_occurs_ok() const { return lmx::is_occurs_ok(k_class, this); }
 lmx::elmx_error SampleTargetType::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
 lmx::elmx_error SampleTargetType::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }

@@ -19,7 +19,7 @@ namespace com_vyrgraph_v2 {
 
 using namespace lmx;  // for the tables' sake
 
-static_assert(k_binding_version == 2, "run schema/generator/generate.py");
+static_assert(k_binding_version == 3, "run schema/generator/generate.py");
 
 // FunctionStdDevXType
 
@@ -46,7 +46,7 @@ FunctionStdDevXType::FunctionStdDevXType(const FunctionStdDevXType& other) : Fun
 FunctionStdDevXType::~FunctionStdDevXType() = default;
 FunctionStdDevXType& FunctionStdDevXType::operator=(const FunctionStdDevXType& other) { FunctionStdDevXType copy(other); swap(copy); return *this; }
 void FunctionStdDevXType::swap(FunctionStdDevXType& other) { lmx::swap(k_class, this, &other); }
-void FunctionStdDevXType::reset() { FunctionStdDevXType fresh; swap(fresh); }
+void FunctionStdDevXType::reset() { FunctionStdDevXType fresh; lmx::exchange(k_class, this, &fresh); }
 bool FunctionStdDevXType::is_occurs_ok() const { return lmx::is_occurs_ok(k_class, this); }
 lmx::elmx_error FunctionStdDevXType::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
 lmx::elmx_error FunctionStdDevXType::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
@@ -86,7 +86,7 @@ FunctionStdDevYType::FunctionStdDevYType(const FunctionStdDevYType& other) : Fun
 FunctionStdDevYType::~FunctionStdDevYType() = default;
 FunctionStdDevYType& FunctionStdDevYType::operator=(const FunctionStdDevYType& other) { FunctionStdDevYType copy(other); swap(copy); return *this; }
 void FunctionStdDevYType::swap(FunctionStdDevYType& other) { lmx::swap(k_class, this, &other); }
-void FunctionStdDevYType::reset() { FunctionStdDevYType fresh; swap(fresh); }
+void FunctionStdDevYType::reset() { FunctionStdDevYType fresh; lmx::exchange(k_class, this, &fresh); }
 bool FunctionStdDevYType::is_occurs_ok() const { return lmx::is_occurs_ok(k_class, this); }
 lmx::elmx_error FunctionStdDevYType::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
 lmx::elmx_error FunctionStdDevYType::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
@@ -126,7 +126,7 @@ FunctionStdDevZType::FunctionStdDevZType(const FunctionStdDevZType& other) : Fun
 FunctionStdDevZType::~FunctionStdDevZType() = default;
 FunctionStdDevZType& FunctionStdDevZType::operator=(const FunctionStdDevZType& other) { FunctionStdDevZType copy(other); swap(copy); return *this; }
 void FunctionStdDevZType::swap(FunctionStdDevZType& other) { lmx::swap(k_class, this, &other); }
-void FunctionStdDevZType::reset() { FunctionStdDevZType fresh; swap(fresh); }
+void FunctionStdDevZType::reset() { FunctionStdDevZType fresh; lmx::exchange(k_class, this, &fresh); }
 bool FunctionStdDevZType::is_occurs_ok() const { return lmx::is_occurs_ok(k_class, this); }
 lmx::elmx_error FunctionStdDevZType::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
 lmx::elmx_error FunctionStdDevZType::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
@@ -166,7 +166,7 @@ FunctionStdDevLType::FunctionStdDevLType(const FunctionStdDevLType& other) : Fun
 FunctionStdDevLType::~FunctionStdDevLType() = default;
 FunctionStdDevLType& FunctionStdDevLType::operator=(const FunctionStdDevLType& other) { FunctionStdDevLType copy(other); swap(copy); return *this; }
 void FunctionStdDevLType::swap(FunctionStdDevLType& other) { lmx::swap(k_class, this, &other); }
-void FunctionStdDevLType::reset() { FunctionStdDevLType fresh; swap(fresh); }
+void FunctionStdDevLType::reset() { FunctionStdDevLType fresh; lmx::exchange(k_class, this, &fresh); }
 bool FunctionStdDevLType::is_occurs_ok() const { return lmx::is_occurs_ok(k_class, this); }
 lmx::elmx_error FunctionStdDevLType::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
 lmx::elmx_error FunctionStdDevLType::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
@@ -206,7 +206,7 @@ FunctionStdDevAType::FunctionStdDevAType(const FunctionStdDevAType& other) : Fun
 FunctionStdDevAType::~FunctionStdDevAType() = default;
 FunctionStdDevAType& FunctionStdDevAType::operator=(const FunctionStdDevAType& other) { FunctionStdDevAType copy(other); swap(copy); return *this; }
 void FunctionStdDevAType::swap(FunctionStdDevAType& other) { lmx::swap(k_class, this, &other); }
-void FunctionStdDevAType::reset() { FunctionStdDevAType fresh; swap(fresh); }
+void FunctionStdDevAType::reset() { FunctionStdDevAType fresh; lmx::exchange(k_class, this, &fresh); }
 bool FunctionStdDevAType::is_occurs_ok() const { return lmx::is_occurs_ok(k_class, this); }
 lmx::elmx_error FunctionStdDevAType::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
 lmx::elmx_error FunctionStdDevAType::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
@@ -246,7 +246,7 @@ FunctionStdDevBType::FunctionStdDevBType(const FunctionStdDevBType& other) : Fun
 FunctionStdDevBType::~FunctionStdDevBType() = default;
 FunctionStdDevBType& FunctionStdDevBType::operator=(const FunctionStdDevBType& other) { FunctionStdDevBType copy(other); swap(copy); return *this; }
 void FunctionStdDevBType::swap(FunctionStdDevBType& other) { lmx::swap(k_class, this, &other); }
-void FunctionStdDevBType::reset() { FunctionStdDevBType fresh; swap(fresh); }
+void FunctionStdDevBType::reset() { FunctionStdDevBType fresh; lmx::exchange(k_class, this, &fresh); }
 bool FunctionStdDevBType::is_occurs_ok() const { return lmx::is_occurs_ok(k_class, this); }
 lmx::elmx_error FunctionStdDevBType::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
 lmx::elmx_error FunctionStdDevBType::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
@@ -286,7 +286,7 @@ FunctionStdDevCType::FunctionStdDevCType(const FunctionStdDevCType& other) : Fun
 FunctionStdDevCType::~FunctionStdDevCType() = default;
 FunctionStdDevCType& FunctionStdDevCType::operator=(const FunctionStdDevCType& other) { FunctionStdDevCType copy(other); swap(copy); return *this; }
 void FunctionStdDevCType::swap(FunctionStdDevCType& other) { lmx::swap(k_class, this, &other); }
-void FunctionStdDevCType::reset() { FunctionStdDevCType fresh; swap(fresh); }
+void FunctionStdDevCType::reset() { FunctionStdDevCType fresh; lmx::exchange(k_class, this, &fresh); }
 bool FunctionStdDevCType::is_occurs_ok() const { return lmx::is_occurs_ok(k_class, this); }
 lmx::elmx_error FunctionStdDevCType::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
 lmx::elmx_error FunctionStdDevCType::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
@@ -326,7 +326,7 @@ FunctionStdDevHType::FunctionStdDevHType(const FunctionStdDevHType& other) : Fun
 FunctionStdDevHType::~FunctionStdDevHType() = default;
 FunctionStdDevHType& FunctionStdDevHType::operator=(const FunctionStdDevHType& other) { FunctionStdDevHType copy(other); swap(copy); return *this; }
 void FunctionStdDevHType::swap(FunctionStdDevHType& other) { lmx::swap(k_class, this, &other); }
-void FunctionStdDevHType::reset() { FunctionStdDevHType fresh; swap(fresh); }
+void FunctionStdDevHType::reset() { FunctionStdDevHType fresh; lmx::exchange(k_class, this, &fresh); }
 bool FunctionStdDevHType::is_occurs_ok() const { return lmx::is_occurs_ok(k_class, this); }
 lmx::elmx_error FunctionStdDevHType::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
 lmx::elmx_error FunctionStdDevHType::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
@@ -366,7 +366,7 @@ FunctionAverageStdDevLType::FunctionAverageStdDevLType(const FunctionAverageStdD
 FunctionAverageStdDevLType::~FunctionAverageStdDevLType() = default;
 FunctionAverageStdDevLType& FunctionAverageStdDevLType::operator=(const FunctionAverageStdDevLType& other) { FunctionAverageStdDevLType copy(other); swap(copy); return *this; }
 void FunctionAverageStdDevLType::swap(FunctionAverageStdDevLType& other) { lmx::swap(k_class, this, &other); }
-void FunctionAverageStdDevLType::reset() { FunctionAverageStdDevLType fresh; swap(fresh); }
+void FunctionAverageStdDevLType::reset() { FunctionAverageStdDevLType fresh; lmx::exchange(k_class, this, &fresh); }
 bool FunctionAverageStdDevLType::is_occurs_ok() const { return lmx::is_occurs_ok(k_class, this); }
 lmx::elmx_error FunctionAverageStdDevLType::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
 lmx::elmx_error FunctionAverageStdDevLType::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
@@ -406,7 +406,7 @@ FunctionAverageStdDevAType::FunctionAverageStdDevAType(const FunctionAverageStdD
 FunctionAverageStdDevAType::~FunctionAverageStdDevAType() = default;
 FunctionAverageStdDevAType& FunctionAverageStdDevAType::operator=(const FunctionAverageStdDevAType& other) { FunctionAverageStdDevAType copy(other); swap(copy); return *this; }
 void FunctionAverageStdDevAType::swap(FunctionAverageStdDevAType& other) { lmx::swap(k_class, this, &other); }
-void FunctionAverageStdDevAType::reset() { FunctionAverageStdDevAType fresh; swap(fresh); }
+void FunctionAverageStdDevAType::reset() { FunctionAverageStdDevAType fresh; lmx::exchange(k_class, this, &fresh); }
 bool FunctionAverageStdDevAType::is_occurs_ok() const { return lmx::is_occurs_ok(k_class, this); }
 lmx::elmx_error FunctionAverageStdDevAType::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
 lmx::elmx_error FunctionAverageStdDevAType::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
@@ -446,7 +446,7 @@ FunctionAverageStdDevBType::FunctionAverageStdDevBType(const FunctionAverageStdD
 FunctionAverageStdDevBType::~FunctionAverageStdDevBType() = default;
 FunctionAverageStdDevBType& FunctionAverageStdDevBType::operator=(const FunctionAverageStdDevBType& other) { FunctionAverageStdDevBType copy(other); swap(copy); return *this; }
 void FunctionAverageStdDevBType::swap(FunctionAverageStdDevBType& other) { lmx::swap(k_class, this, &other); }
-void FunctionAverageStdDevBType::reset() { FunctionAverageStdDevBType fresh; swap(fresh); }
+void FunctionAverageStdDevBType::reset() { FunctionAverageStdDevBType fresh; lmx::exchange(k_class, this, &fresh); }
 bool FunctionAverageStdDevBType::is_occurs_ok() const { return lmx::is_occurs_ok(k_class, this); }
 lmx::elmx_error FunctionAverageStdDevBType::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
 lmx::elmx_error FunctionAverageStdDevBType::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }

@@ -20,7 +20,7 @@ namespace com_vyrgraph_v2 {
 
 using namespace lmx;  // for the tables' sake
 
-static_assert(k_binding_version == 2, "run schema/generator/generate.py");
+static_assert(k_binding_version == 3, "run schema/generator/generate.py");
 
 // SubstrateType
 
@@ -38,8 +38,8 @@ constinit const s_item SubstrateType::k_items[] = {
      LMX_OFFSET(SubstrateType, m_CustomAttribute, child_list, none), k_no_flag, position_of(k_SubstrateType_elements, element_CustomAttribute), position_of(k_SubstrateType_elements, element_CustomAttribute, 1), &CustomAttributeType::k_class, nullptr, {}},
     {item_kind::element, value_kind::text, use_optional, ELMX_WS_PRESERVE, "Vyr:PartNumber", element_PartNumber,
      LMX_OFFSET(SubstrateType, m_PartNumber, element, text), LMX_FLAG(SubstrateType, m_isset_PartNumber), position_of(k_SubstrateType_elements, element_PartNumber), position_of(k_SubstrateType_elements, element_PartNumber, 1), nullptr, nullptr, {}},
-    {item_kind::child, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:Color", element_Color,
-     LMX_OFFSET(SubstrateType, m_Color, child, none), LMX_FLAG(SubstrateType, m_isset_Color), position_of(k_SubstrateType_elements, element_Color), position_of(k_SubstrateType_elements, element_Color, 1), &ColorType::k_class, nullptr, {}},
+    {item_kind::optional_child, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:Color", element_Color,
+     LMX_OFFSET(SubstrateType, m_Color, optional_child, none), LMX_FLAG(SubstrateType, m_isset_Color), position_of(k_SubstrateType_elements, element_Color), position_of(k_SubstrateType_elements, element_Color, 1), &ColorType::k_class, nullptr, {}},
 };
 constinit const s_factory_row SubstrateType::k_factory[] = {
     {"SubstratePaperType", &SubstratePaperType::k_class},
@@ -75,7 +75,7 @@ SubstrateType::SubstrateType(const SubstrateType& other) { lmx::copy(k_class, th
 SubstrateType::~SubstrateType() = default;
 SubstrateType& SubstrateType::operator=(const SubstrateType& other) { SubstrateType copy(other); swap(copy); return *this; }
 void SubstrateType::swap(SubstrateType& other) { lmx::swap(k_class, this, &other); }
-void SubstrateType::reset() { SubstrateType fresh; swap(fresh); }
+void SubstrateType::reset() { SubstrateType fresh; lmx::exchange(k_class, this, &fresh); }
 bool SubstrateType::is_occurs_ok() const { return lmx::is_occurs_ok(k_class, this); }
 lmx::elmx_error SubstrateType::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
 lmx::elmx_error SubstrateType::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
@@ -97,6 +97,8 @@ lmx::elmx_error SubstrateType::insert_CustomAttribute(std::size_t index) { m_Cus
 void SubstrateType::delete_CustomAttribute(std::size_t index) { m_CustomAttribute.erase(index); }
 void SubstrateType::clear_CustomAttribute() { m_CustomAttribute.clear(); }
 lmx::elmx_error SubstrateType::set_PartNumber(const std::u16string& value) { return lmx::set_item(k_class, k_items[item_PartNumber], this, value); }
+ColorType& SubstrateType::get_Color() { ColorType& child = m_Color.touch(); m_isset_Color = true; return child; }
+const ColorType& SubstrateType::get_Color() const { return m_Color.get(); }
 ColorType& SubstrateType::assign_Color(const ColorType& value) { return get_Color() = value; }
 
 // Substrate
@@ -149,7 +151,7 @@ SubstratePaperType::SubstratePaperType(const SubstratePaperType& other) : Substr
 SubstratePaperType::~SubstratePaperType() = default;
 SubstratePaperType& SubstratePaperType::operator=(const SubstratePaperType& other) { SubstratePaperType copy(other); swap(copy); return *this; }
 void SubstratePaperType::swap(SubstratePaperType& other) { lmx::swap(k_class, this, &other); }
-void SubstratePaperType::reset() { SubstratePaperType fresh; swap(fresh); }
+void SubstratePaperType::reset() { SubstratePaperType fresh; lmx::exchange(k_class, this, &fresh); }
 bool SubstratePaperType::is_occurs_ok() const { return lmx::is_occurs_ok(k_class, this); }
 lmx::elmx_error SubstratePaperType::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
 lmx::elmx_error SubstratePaperType::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
@@ -202,7 +204,7 @@ SubstrateGenericType::SubstrateGenericType(const SubstrateGenericType& other) : 
 SubstrateGenericType::~SubstrateGenericType() = default;
 SubstrateGenericType& SubstrateGenericType::operator=(const SubstrateGenericType& other) { SubstrateGenericType copy(other); swap(copy); return *this; }
 void SubstrateGenericType::swap(SubstrateGenericType& other) { lmx::swap(k_class, this, &other); }
-void SubstrateGenericType::reset() { SubstrateGenericType fresh; swap(fresh); }
+void SubstrateGenericType::reset() { SubstrateGenericType fresh; lmx::exchange(k_class, this, &fresh); }
 bool SubstrateGenericType::is_occurs_ok() const { return lmx::is_occurs_ok(k_class, this); }
 lmx::elmx_error SubstrateGenericType::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
 lmx::elmx_error SubstrateGenericType::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
@@ -257,7 +259,7 @@ SubstrateMetalType::SubstrateMetalType(const SubstrateMetalType& other) : Substr
 SubstrateMetalType::~SubstrateMetalType() = default;
 SubstrateMetalType& SubstrateMetalType::operator=(const SubstrateMetalType& other) { SubstrateMetalType copy(other); swap(copy); return *this; }
 void SubstrateMetalType::swap(SubstrateMetalType& other) { lmx::swap(k_class, this, &other); }
-void SubstrateMetalType::reset() { SubstrateMetalType fresh; swap(fresh); }
+void SubstrateMetalType::reset() { SubstrateMetalType fresh; lmx::exchange(k_class, this, &fresh); }
 bool SubstrateMetalType::is_occurs_ok() const { return lmx::is_occurs_ok(k_class, this); }
 lmx::elmx_error SubstrateMetalType::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
 lmx::elmx_error SubstrateMetalType::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
@@ -313,7 +315,7 @@ SubstratePlasticType::SubstratePlasticType(const SubstratePlasticType& other) : 
 SubstratePlasticType::~SubstratePlasticType() = default;
 SubstratePlasticType& SubstratePlasticType::operator=(const SubstratePlasticType& other) { SubstratePlasticType copy(other); swap(copy); return *this; }
 void SubstratePlasticType::swap(SubstratePlasticType& other) { lmx::swap(k_class, this, &other); }
-void SubstratePlasticType::reset() { SubstratePlasticType fresh; swap(fresh); }
+void SubstratePlasticType::reset() { SubstratePlasticType fresh; lmx::exchange(k_class, this, &fresh); }
 bool SubstratePlasticType::is_occurs_ok() const { return lmx::is_occurs_ok(k_class, this); }
 lmx::elmx_error SubstratePlasticType::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
 lmx::elmx_error SubstratePlasticType::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
@@ -369,7 +371,7 @@ SubstrateWoodType::SubstrateWoodType(const SubstrateWoodType& other) : Substrate
 SubstrateWoodType::~SubstrateWoodType() = default;
 SubstrateWoodType& SubstrateWoodType::operator=(const SubstrateWoodType& other) { SubstrateWoodType copy(other); swap(copy); return *this; }
 void SubstrateWoodType::swap(SubstrateWoodType& other) { lmx::swap(k_class, this, &other); }
-void SubstrateWoodType::reset() { SubstrateWoodType fresh; swap(fresh); }
+void SubstrateWoodType::reset() { SubstrateWoodType fresh; lmx::exchange(k_class, this, &fresh); }
 bool SubstrateWoodType::is_occurs_ok() const { return lmx::is_occurs_ok(k_class, this); }
 lmx::elmx_error SubstrateWoodType::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
 lmx::elmx_error SubstrateWoodType::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
@@ -425,7 +427,7 @@ SubstrateVinylType::SubstrateVinylType(const SubstrateVinylType& other) : Substr
 SubstrateVinylType::~SubstrateVinylType() = default;
 SubstrateVinylType& SubstrateVinylType::operator=(const SubstrateVinylType& other) { SubstrateVinylType copy(other); swap(copy); return *this; }
 void SubstrateVinylType::swap(SubstrateVinylType& other) { lmx::swap(k_class, this, &other); }
-void SubstrateVinylType::reset() { SubstrateVinylType fresh; swap(fresh); }
+void SubstrateVinylType::reset() { SubstrateVinylType fresh; lmx::exchange(k_class, this, &fresh); }
 bool SubstrateVinylType::is_occurs_ok() const { return lmx::is_occurs_ok(k_class, this); }
 lmx::elmx_error SubstrateVinylType::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
 lmx::elmx_error SubstrateVinylType::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
@@ -481,7 +483,7 @@ SubstrateTileType::SubstrateTileType(const SubstrateTileType& other) : Substrate
 SubstrateTileType::~SubstrateTileType() = default;
 SubstrateTileType& SubstrateTileType::operator=(const SubstrateTileType& other) { SubstrateTileType copy(other); swap(copy); return *this; }
 void SubstrateTileType::swap(SubstrateTileType& other) { lmx::swap(k_class, this, &other); }
-void SubstrateTileType::reset() { SubstrateTileType fresh; swap(fresh); }
+void SubstrateTileType::reset() { SubstrateTileType fresh; lmx::exchange(k_class, this, &fresh); }
 bool SubstrateTileType::is_occurs_ok() const { return lmx::is_occurs_ok(k_class, this); }
 lmx::elmx_error SubstrateTileType::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
 lmx::elmx_error SubstrateTileType::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
@@ -537,7 +539,7 @@ SubstrateFilmType::SubstrateFilmType(const SubstrateFilmType& other) : Substrate
 SubstrateFilmType::~SubstrateFilmType() = default;
 SubstrateFilmType& SubstrateFilmType::operator=(const SubstrateFilmType& other) { SubstrateFilmType copy(other); swap(copy); return *this; }
 void SubstrateFilmType::swap(SubstrateFilmType& other) { lmx::swap(k_class, this, &other); }
-void SubstrateFilmType::reset() { SubstrateFilmType fresh; swap(fresh); }
+void SubstrateFilmType::reset() { SubstrateFilmType fresh; lmx::exchange(k_class, this, &fresh); }
 bool SubstrateFilmType::is_occurs_ok() const { return lmx::is_occurs_ok(k_class, this); }
 lmx::elmx_error SubstrateFilmType::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
 lmx::elmx_error SubstrateFilmType::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
@@ -593,7 +595,7 @@ SubstrateTextileType::SubstrateTextileType(const SubstrateTextileType& other) : 
 SubstrateTextileType::~SubstrateTextileType() = default;
 SubstrateTextileType& SubstrateTextileType::operator=(const SubstrateTextileType& other) { SubstrateTextileType copy(other); swap(copy); return *this; }
 void SubstrateTextileType::swap(SubstrateTextileType& other) { lmx::swap(k_class, this, &other); }
-void SubstrateTextileType::reset() { SubstrateTextileType fresh; swap(fresh); }
+void SubstrateTextileType::reset() { SubstrateTextileType fresh; lmx::exchange(k_class, this, &fresh); }
 bool SubstrateTextileType::is_occurs_ok() const { return lmx::is_occurs_ok(k_class, this); }
 lmx::elmx_error SubstrateTextileType::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
 lmx::elmx_error SubstrateTextileType::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }

@@ -58,8 +58,8 @@ public:
     void unset_PartNumber() { m_isset_PartNumber = false; }
 
     /// Colour of the bare substrate.
-    ColorType& get_Color() { m_isset_Color = true; return m_Color; }
-    const ColorType& get_Color() const { return m_Color; }
+    ColorType& get_Color();
+    const ColorType& get_Color() const;
     ColorType& assign_Color(const ColorType& value);
     bool isset_Color() const { return m_isset_Color; }
     void unset_Color() { m_isset_Color = false; }
@@ -89,7 +89,7 @@ private:
     static const lmx::s_item k_items[];
     lmx::c_list<CustomAttributeType> m_CustomAttribute;
     std::u16string m_PartNumber;
-    ColorType m_Color;
+    lmx::c_optional_child<ColorType> m_Color;
     bool m_isset_PartNumber = false;
     bool m_isset_Color = false;
 };

@@ -445,7 +445,10 @@ class Builder:
                 raise self.overlay.error("items", name, f"'{word}' is no use of an item")
         if options.get("initial") is not None and item.value is None:
             raise self.overlay.error("items", name, "only a simple item can have an initial value")
-        return replace(item, kind=kind, use=tuple(options.get("use", use)),
+        use = options.get("use", use)
+        if kind == "child" and not use:
+            kind = "optional_child"
+        return replace(item, kind=kind, use=tuple(use),
                        presence=options.get("presence", presence), initial=options.get("initial", item.initial),
                        mutable=options.get("mutable", False))
 

@@ -7,9 +7,9 @@ from dataclasses import dataclass
 from model import Class, Item, Model
 from source import SchemaError
 
-# Kinds of item whose object lies in the class itself: its type must be complete there.
-BY_VALUE = ("child", "group")
-HAS_TOKEN = ("attribute", "element", "element_list", "child", "child_list", "marker", "alternative")
+# Kinds of item whose object the class makes and ends itself: its type must be complete there.
+BY_VALUE = ("child", "optional_child", "group")
+HAS_TOKEN = ("attribute", "element", "element_list", "child", "optional_child", "child_list", "marker", "alternative")
 
 
 @dataclass(frozen=True)

@@ -179,7 +179,7 @@ def list_part(printer, item):
 
 def object_part(printer, plan, item):
     x = item.accessor
-    if item.kind == "alternative":
+    if item.kind in ("alternative", "optional_child"):
         printer.guarded(f"get_{x}__SWIG_0", OBJECT, f"&{printer.self}.get_{x}()")
     else:
         printer.plain(f"get_{x}__SWIG_0", OBJECT, f"get_{x}()", convert="&{}")

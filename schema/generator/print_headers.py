@@ -32,8 +32,9 @@ def enumeration_accessors(item, body=";"):
 
 def object_accessors(item):
     x, kind = item.accessor, item.type
-    yield f"{kind}& get_{x}() {{ m_isset_{x} = true; return m_{x}; }}"
-    yield f"const {kind}& get_{x}() const {{ return m_{x}; }}"
+    is_optional = item.kind == "optional_child"
+    yield f"{kind}& get_{x}()" + (";" if is_optional else f" {{ m_isset_{x} = true; return m_{x}; }}")
+    yield f"const {kind}& get_{x}() const" + (";" if is_optional else f" {{ return m_{x}; }}")
     yield f"{kind}& assign_{x}(const {kind}& value);"
 
 
@@ -127,6 +128,8 @@ def member(item):
     type_name = ENUMERATED_TYPE if item.enumerated else item.type or MEMBER_TYPES[item.value.value]
     if item.kind in LISTS:
         return f"lmx::c_list<{type_name}> m_{item.accessor};"
+    if item.kind == "optional_child":
+        return f"lmx::c_optional_child<{type_name}> m_{item.accessor};"
     prefix = "mutable " if item.mutable else ""
     return f"{prefix}{type_name} m_{item.accessor}{'' if item.type else initial_value(item)};"
 

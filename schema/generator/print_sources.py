@@ -6,7 +6,7 @@ from cpp import FOLDER, LISTS, comment, frame, own_source, parameter_type
 from model import PREFIX, REQUIRED
 from print_headers import flag_member, has_flag
 
-VERSION = 2  # of the runtime's tables, lmx::k_binding_version
+VERSION = 3  # of the runtime's tables, lmx::k_binding_version
 
 
 # Tables
@@ -162,7 +162,7 @@ def life_cycle(made):
         else f"{name}::~{name}() = default;"
     yield f"{name}& {name}::operator=(const {name}& other) {{ {name} copy(other); swap(copy); return *this; }}"
     yield f"void {name}::swap({name}& other) {{ lmx::swap(k_class, this, &other); }}"
-    yield f"void {name}::reset() {{ {name} fresh; swap(fresh); }}"
+    yield f"void {name}::reset() {{ {name} fresh; lmx::exchange(k_class, this, &fresh); }}"
     yield f"bool {name}::is_occurs_ok() const {{ return lmx::is_occurs_ok(k_class, this); }}"
 
 
@@ -275,6 +275,10 @@ def item_members(plan, made, item):
     elif made.derives_from_group:
         yield f"{kind}& {owner}::assign_{x}(const {kind}& value) {{ return get_{x}().{kind}::operator=(value); }}"
     elif kind:
+        if item.kind == "optional_child":
+            yield f"{kind}& {owner}::get_{x}() " \
+                  f"{{ {kind}& child = m_{x}.touch(); m_isset_{x} = true; return child; }}"
+            yield f"const {kind}& {owner}::get_{x}() const {{ return m_{x}.get(); }}"
         yield f"{kind}& {owner}::assign_{x}(const {kind}& value) {{ return get_{x}() = value; }}"
     else:
         if item.kind == "alternative" and item.value.value == "text":

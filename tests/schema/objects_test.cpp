@@ -174,6 +174,54 @@ TEST(Objects, EnumeratedTextsAreSharedAndOddOnesOwned) {
     EXPECT_EQ(geometry.getenum_SphereGeometry(), 2);
 }
 
+TEST(Objects, OptionalChildrenStayWithTheirObject) {
+    v2::ColorType one;
+    v2::ColorType other;
+    const v2::ColorType& constant = one;
+    EXPECT_EQ(constant.get_Owner().size_Company(), 0U);
+    EXPECT_EQ(&constant.get_Owner(), &static_cast<const v2::ColorType&>(other).get_Owner());
+    EXPECT_FALSE(one.isset_Owner());
+
+    v2::OwnerType& owner = one.get_Owner();
+    EXPECT_EQ(&constant.get_Owner(), &owner);
+    owner.append_Company(u"one");
+    one.unset_Owner();
+    EXPECT_EQ(constant.get_Owner().get_Company(0), u"one");
+    // Exchanging and assigning exchange values, whichever side has the child.
+    one.swap(other);
+    EXPECT_EQ(&constant.get_Owner(), &owner);
+    EXPECT_EQ(owner.size_Company(), 0U);
+    EXPECT_FALSE(other.isset_Owner());
+    EXPECT_EQ(other.get_Owner().get_Company(0), u"one");
+    v2::OwnerType& other_owner = other.get_Owner();
+    other.swap(one);
+    EXPECT_EQ(owner.get_Company(0), u"one");
+    EXPECT_EQ(other_owner.size_Company(), 0U);
+    EXPECT_TRUE(one.isset_Owner());
+    one = v2::ColorType();
+    EXPECT_EQ(&constant.get_Owner(), &owner);
+    EXPECT_EQ(owner.size_Company(), 0U);
+    EXPECT_FALSE(one.isset_Owner());
+
+    // A child of a child.
+    v2::PaletteType palette;
+    auto& specification =
+        palette.get_CollectionColorSpaceSpecification().get_ColorSpaceSpecificationSpectrumGeneric();
+    v2::DeviceType& device = specification.get_Device();
+    device.set_Manufacturer(u"maker");
+    v2::PaletteType copy(palette);
+    palette = v2::PaletteType();
+    EXPECT_EQ(device.get_Manufacturer(), u"");
+    palette = copy;
+    EXPECT_EQ(device.get_Manufacturer(), u"maker");
+    EXPECT_TRUE(specification.isset_Device());
+    palette.reset();
+    EXPECT_FALSE(palette.isset_CollectionColorSpaceSpecification());
+    EXPECT_FALSE(static_cast<const v2::PaletteType&>(palette)
+                     .get_CollectionColorSpaceSpecification()
+                     .isset_ColorSpaceSpecificationSpectrumGeneric());
+}
+
 TEST(Objects, CopiesRaiseTheFlagsOfMandatoryItems) {
     v2::Person person;
     EXPECT_EQ(write_code(person, "Vyr:Person"), ELMX_OCCURS_ERROR_ON_MARSHAL);

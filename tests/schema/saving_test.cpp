@@ -1,8 +1,9 @@
 // Copyright 2026 The Vyr Authors
 // SPDX-License-Identifier: Apache-2.0
 
-/// Saving where something gives way: memory that runs out, streams that stop or throw, handlers that throw. And what
-/// a host's own code finds in the stream when it is called in the course of a save.
+/// Saving where something gives way: memory that runs out, streams that stop or throw, handlers that throw. What a
+/// host's own code finds in the stream when it is called in the course of a save. And memory that runs out while
+/// objects change.
 
 #include <gtest/gtest.h>
 
@@ -89,6 +90,56 @@ TEST(Saving, MemoryThatRunsOutIsToldAndCutsNoText) {
     text = "untouched";
     EXPECT_GT(refuse_each_request([&] { text = duration.get_as_string(); }, expect_untouched), 0);
     EXPECT_EQ(text, "P4000000000Y4000000000D");
+}
+
+TEST(Changing, MemoryThatRunsOutLeavesObjectsAsTheyWere) {
+    using com_vyrgraph_v2::ColorSetType;
+    const auto text_of = [](const ColorSetType& object) {
+        std::ostringstream stream;
+        c_xml_writer writer(stream, "", "");
+        EXPECT_EQ(object.marshal(writer, "Vyr:ColorSet"), lmx::ELMX_OK);
+        return std::move(stream).str();
+    };
+    // Each has children that the other one lacks, at several levels.
+    const auto make = [](bool is_first) {
+        ColorSetType object;
+        object.set_ColorSetName(is_first ? u"a name that takes memory of its own"
+                                         : u"another name that takes memory");
+        auto& specification = object.get_CollectionColorSpaceSpecification();
+        if (is_first) {
+            object.get_Owner().append_Company(u"a company that takes memory of its own");
+            specification.get_ColorSpaceSpecificationSpectrumGeneric().get_Device();
+        } else {
+            specification.get_ColorSpaceSpecificationEmissiveSpectral().get_Profile().set_Name(u"profile");
+        }
+        for (int i = 0; i < 5; ++i) object.append_ChangeHistory("2024-05-01T09:30:00Z");
+        object.unset_CollectionColorSpaceSpecification();
+        return object;
+    };
+    using action = std::function<void(ColorSetType&, ColorSetType&)>;
+    const action actions[] = {
+        [](auto& one, auto& other) { one.swap(other); },
+        [](auto& one, auto& other) { one = other; },
+        [](auto&, auto& other) { other.get_Owner(); },
+        [](auto& one, auto&) { one.append_Color(); },
+        [](auto& one, auto&) { one.append_SemanticAssociation(u"an association that takes memory of its own"); },
+        [](auto& one, auto&) { one.insert_ChangeHistory(1, "2024-05-01T09:30:00Z"); },
+        [](auto& one, auto&) { one.get_Substrate().get_SubstratePaper(); },
+    };
+    for (const action& change : actions) {
+        ColorSetType one = make(true);
+        ColorSetType other = make(false);
+        // An empty place at the end of each list is filled first.
+        const std::string first = text_of(one);
+        const std::string second = text_of(other);
+        int count = 0;
+        count = refuse_each_request([&] { change(one, other); },
+                                    [&] {
+                                        EXPECT_EQ(text_of(one), first);
+                                        EXPECT_EQ(text_of(other), second);
+                                    });
+        EXPECT_EQ(count > 0, &change != &actions[5]) << "change " << &change - actions;
+    }
 }
 
 /// Takes a number of bytes. After them it refuses, or throws what its host would throw.
