@@ -1,8 +1,8 @@
 // Copyright 2026 The Vyr Authors
 // SPDX-License-Identifier: Apache-2.0
 
-/// What reading, copying, setting and printing have to know of a simple value: one row per kind of value, and the one list of
-/// the checks that a value has to pass.
+/// What reading, copying, setting and printing have to know of a simple value: one row per kind of value, and the one
+/// list of the checks that a value has to pass.
 
 #pragma once
 

@@ -26,13 +26,14 @@ int requests_left = -1;
 
 }  // namespace
 
-void* operator new(std::size_t size) {
+// Not inlined, or the compiler sees memory of one kind given back as another.
+[[gnu::noinline]] void* operator new(std::size_t size) {
     if (requests_left >= 0 && requests_left-- == 0) throw std::bad_alloc();
     if (void* const memory = std::malloc(size)) return memory;
     throw std::bad_alloc();
 }
-void operator delete(void* memory) noexcept { std::free(memory); }
-void operator delete(void* memory, std::size_t) noexcept { std::free(memory); }
+[[gnu::noinline]] void operator delete(void* memory) noexcept { std::free(memory); }
+[[gnu::noinline]] void operator delete(void* memory, std::size_t) noexcept { std::free(memory); }
 
 namespace {
 
@@ -110,7 +111,7 @@ TEST(Changing, MemoryThatRunsOutLeavesObjectsAsTheyWere) {
             object.get_Owner().append_Company(u"a company that takes memory of its own");
             specification.get_ColorSpaceSpecificationSpectrumGeneric().get_Device();
         } else {
-            specification.get_ColorSpaceSpecificationEmissiveSpectral().get_Profile().set_Name(u"profile");
+            specification.get_ColorSpaceSpecificationEmissiveSpectral().get_Profile();
         }
         for (int i = 0; i < 5; ++i) object.append_ChangeHistory("2024-05-01T09:30:00Z");
         object.unset_CollectionColorSpaceSpecification();
@@ -124,20 +125,17 @@ TEST(Changing, MemoryThatRunsOutLeavesObjectsAsTheyWere) {
         [](auto& one, auto&) { one.append_Color(); },
         [](auto& one, auto&) { one.append_SemanticAssociation(u"an association that takes memory of its own"); },
         [](auto& one, auto&) { one.insert_ChangeHistory(1, "2024-05-01T09:30:00Z"); },
-        [](auto& one, auto&) { one.get_Substrate().get_SubstratePaper(); },
     };
     for (const action& change : actions) {
         ColorSetType one = make(true);
         ColorSetType other = make(false);
-        // An empty place at the end of each list is filled first.
         const std::string first = text_of(one);
         const std::string second = text_of(other);
-        int count = 0;
-        count = refuse_each_request([&] { change(one, other); },
-                                    [&] {
-                                        EXPECT_EQ(text_of(one), first);
-                                        EXPECT_EQ(text_of(other), second);
-                                    });
+        const int count = refuse_each_request([&] { change(one, other); },
+                                              [&] {
+                                                  EXPECT_EQ(text_of(one), first);
+                                                  EXPECT_EQ(text_of(other), second);
+                                              });
         EXPECT_EQ(count > 0, &change != &actions[5]) << "change " << &change - actions;
     }
 }

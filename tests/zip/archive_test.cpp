@@ -320,7 +320,8 @@ TEST_F(Archive, EveryLieHasItsCause) {
     }
     // What the stored bytes can become, which is asked before memory is taken for it.
     const std::size_t stored = central - 30 - name_size;
-    for (const auto& [method, limit] : {std::pair<int, std::size_t>(0, stored), {8, 1032 * stored}, {12, 1032 * stored}, {9, 0}}) {
+    for (const auto& [method, limit] :
+         {std::pair<int, std::size_t>(0, stored), {8, 1032 * stored}, {12, 1032 * stored}, {9, 0}}) {
         for (const std::size_t size : {limit, limit + 1}) {
             std::string bytes = good;
             bytes.replace(central + 10, 2, little(static_cast<unsigned>(method), 2));

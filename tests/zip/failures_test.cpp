@@ -10,6 +10,7 @@
 #include <dlfcn.h>
 #include <gtest/gtest.h>
 #include <sys/syscall.h>
+#include <sys/uio.h>
 #include <unistd.h>
 
 #include <algorithm>
@@ -62,6 +63,9 @@ ssize_t read_from_disk(void*, char* buffer, std::size_t size) {
 extern "C" {
 ssize_t write(int file, const void* data, size_t count) {
     return tap.refuses("write") ? -1 : syscall(SYS_write, file, data, count);
+}
+ssize_t writev(int file, const iovec* pieces, int count) {
+    return tap.refuses("write") ? -1 : syscall(SYS_writev, file, pieces, count);
 }
 ssize_t read(int file, void* data, size_t count) {
     return tap.refuses("read") ? -1 : syscall(SYS_read, file, data, count);

@@ -267,7 +267,8 @@ TEST(Attributes, MayBeOfAnyLength) {
     const std::string tag = "<a xmlns:x='" + std::string(20000, 'u') + "' " + std::string(127, 'b') + "='1'" +
                             std::string(300, '\n') + std::string(128, 'c') + " = \"" + std::string(16384, 'v') +
                             "\" xmlns:y='w' d='" + std::string(3000000, '\n') + "'\ne=''";
-    s_scanner scanner(tag + "/>");
+    const std::string document = tag + "/>";
+    s_scanner scanner(document);
     std::string text;
     EXPECT_EQ(scanner.xml.get_element_name(&scanner.scope, &text), ELXP_NAME);
     for (const auto& [name, value, line] :
