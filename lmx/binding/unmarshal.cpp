@@ -8,7 +8,9 @@
 #include "lmx/binding/any_info.h"
 #include "lmx/binding/object.h"
 #include "lmx/binding/open_element.h"
+#include "lmx/binding/plain_way.h"
 #include "lmx/binding/storage.h"
+#include "lmx/values/unicode.h"
 
 namespace lmx {
 namespace {
@@ -85,62 +87,149 @@ bool report_missing(c_xml_reader& reader, const s_item& item, elmx_error* error)
     return goes_on(reader, {nullptr, &item}, ELMX_MANDATORY_ELEMENT_MISSING, std::string(item.name), error, __LINE__);
 }
 
-bool read_single(const s_class& type, const s_item& item, void* object, c_xml_reader& reader, std::string* name,
-                 elmx_error* error) {
-    if (reader.get_current_event() != item.token) return report_missing(reader, item, error);
-    if (item.kind == item_kind::element) {
-        if (!read_simple_element(type, item, object, reader, *name, error)) return false;
-    } else if (item.kind != item_kind::marker) {
-        *error = item.type->operations->unmarshal(touch_child(item, object), reader, *name);
-        if (*error != ELMX_OK) return false;
-        mark_set(item, object);
-    } else if (!reader.skip_rest_of_empty_element(*name) &&
-               !goes_on(reader, {&type, &item, object}, ELMX_BAD_END_OF_ELEMENT, *name, error, __LINE__)) {
-        return false;
-    }
-    note_item(reader, item);
-    return next_element(reader, type.element_map + item.next_position, name, error);
-}
-
-bool read_list(const s_class& type, const s_item& item, void* object, c_xml_reader& reader, std::string* name,
-               elmx_error* error) {
-    if (reader.get_current_event() != item.token) return report_missing(reader, item, error);
-    do {
-        if (item.kind == item_kind::element_list) {
-            if (!read_simple_element(type, item, object, reader, *name, error)) return false;
-        } else {
-            // In the list before it's read: a child that fails stays there half filled.
-            void* const child = append_default(item, object);
-            *error = item.type->operations->unmarshal(child, reader, *name);
-            if (*error != ELMX_OK) return false;
+/// Reads the member of a group that the current event names, without the event behind it. `*error` is set if that
+/// ends the read.
+bool read_member(const s_class& type, const s_item& alternative, void* object, c_xml_reader& reader,
+                 const std::string& name, elmx_error* error) {
+    void* typed = nullptr;
+    if (!alternative.factory.empty()) {
+        int ns_id = 0;
+        std::string type_name;
+        const bool has_type = reader.get_xsi_type(&ns_id, &type_name);
+        if (has_type) typed = create_by_name(alternative.factory, ns_id, type_name);
+        if (typed == nullptr && (has_type || (alternative.use & use_demanded) != 0)) {
+            // The one failure that goes around the handler: nothing could be read in its place.
+            *error = report_unhandled(reader, {&type, &alternative}, ELMX_UNKNOWN_XSI_TYPE, name);
+            return false;
         }
-        note_item(reader, item);
-        if (!next_element(reader, type.element_map + item.position, name, error)) return false;
-    } while (reader.get_current_event() == item.token);
-    return true;
-}
-
-bool read_group(const s_class& type, const s_item& item, void* object, c_xml_reader& reader, std::string* name,
-                elmx_error* error) {
-    const bool is_member = is_group_member(*item.type, reader);
-    if (!is_member && (item.use & use_lax) == 0) return report_missing(reader, item, error);
-    void* const holder = &member<std::byte>(object, item.offset);
-    if (is_member) note_item(reader, item);
-    if (!item.type->operations->unmarshal_part(holder, reader, name, error)) return false;
-    mark_set(item, object);
-    tokenise_element(reader, type.element_map + item.next_position);
-    return true;
-}
-
-bool read_group_list(const s_class& type, const s_item& item, void* object, c_xml_reader& reader, std::string* name,
-                     elmx_error* error) {
-    while (is_group_member(*item.type, reader)) {
-        note_item(reader, item);
-        void* const holder = append_default(item, object);
-        if (!item.type->operations->unmarshal_part(holder, reader, name, error)) return false;
-        tokenise_element(reader, type.element_map + item.next_position);
     }
+    release_choice(type, object);
+    if (typed != nullptr) {
+        adopt(type, alternative, object, typed);
+    } else {
+        typed = choose(type, alternative, object);
+    }
+    *error = alternative.type->operations->unmarshal(typed, reader, name);
+    return *error == ELMX_OK;
+}
+
+/// Reads the current element into a group's holder, without the event behind it. An element that is no member is
+/// skipped, and nothing is chosen.
+bool read_group(const s_class& type, void* object, c_xml_reader& reader, const std::string& name, elmx_error* error) {
+    *error = ELMX_OK;
+    tokenise_element(reader, type.element_map);
+    const s_item* const alternative = find_token(type.elements, reader.get_current_event());
+    if (alternative != nullptr) return read_member(type, *alternative, object, reader, name, error);
+    release_choice(type, object);
+    // Only an element can be passed over.
+    const bool is_skipped = reader.get_scanned_event() == ELXP_NAME && reader.skip_rest_of_element(name);
+    return is_skipped || goes_on(reader, ELMX_BAD_END_OF_ELEMENT, name, error, __LINE__);
+}
+
+bool is_group(const s_item& item) { return item.kind == item_kind::group || item.kind == item_kind::group_list; }
+
+/// Whether the current event is that of an item. A group's row may take any event.
+bool is_due(const s_item& item, c_xml_reader& reader, bool* is_member) {
+    if (!is_group(item)) return *is_member = reader.get_current_event() == item.token;
+    *is_member = is_group_member(*item.type, reader);
+    return *is_member || (item.use & use_lax) != 0;
+}
+
+/// Reads one element into the item that is due. `*has_event`: the event behind it was read too.
+bool read_item(const s_class& type, const s_item& item, void* object, c_xml_reader& reader, std::string* name,
+               elmx_error* error, bool* has_event) {
+    *has_event = false;
+    switch (item.kind) {
+        case item_kind::element:
+        case item_kind::element_list:
+            return read_simple_element(type, item, object, reader, *name, error);
+        case item_kind::child:
+        case item_kind::optional_child:
+            *error = item.type->operations->unmarshal(touch_child(item, object), reader, *name);
+            if (*error == ELMX_OK) mark_set(item, object);
+            return *error == ELMX_OK;
+        case item_kind::child_list:
+            // In the list before it's read: a child that fails stays there half filled.
+            *error = item.type->operations->unmarshal(append_default(item, object), reader, *name);
+            return *error == ELMX_OK;
+        case item_kind::group:
+        case item_kind::group_list: {
+            void* const holder = item.kind == item_kind::group ? &member<std::byte>(object, item.offset)
+                                                               : append_default(item, object);
+            *has_event = item.type->content != content_kind::group;
+            return *has_event ? item.type->operations->unmarshal_part(holder, reader, name, error)
+                              : read_group(*item.type, holder, reader, *name, error);
+        }
+        default:
+            return reader.skip_rest_of_empty_element(*name) ||
+                   goes_on(reader, {&type, &item, object}, ELMX_BAD_END_OF_ELEMENT, *name, error, __LINE__);
+    }
+}
+
+/// Reads the event behind the item that was read last. What belongs to a group, its own event included, is done then.
+bool read_event_behind(s_place* place, void* object, c_xml_reader& reader, std::string* name, elmx_error* error) {
+    if (!next_element(reader, place->map, name, error)) return false;
+    const s_item* const group = place->group;
+    close_group(place, object);
+    if (group != nullptr) tokenise_element(reader, place->level->element_map + group->next_position);
     return true;
+}
+
+/// A list that stayed too short is reported under the class's name; a plain list was reported at its own turn too.
+bool check_lists(const s_class& type, const void* object, c_xml_reader& reader, elmx_error* error) {
+    const s_item* const short_list = find_short_list(type, object);
+    return short_list == nullptr ||
+           goes_on(reader, {&type, short_list}, ELMX_MANDATORY_ELEMENT_MISSING, type.qualified_name, error, __LINE__);
+}
+
+/// Goes on to the row that takes the current event; what is passed over and must be there is reported. At the end of
+/// all rows the place is at its end.
+bool find_due_row(const s_class& type, void* object, s_place* place, c_xml_reader& reader, elmx_error* error,
+                  bool* is_member) {
+    for (;;) {
+        if (place->is_at_end()) {
+            if (!check_lists(*place->level, object, reader, error)) return false;
+            const s_class* const level = next_level(type, *place->level);
+            if (level == nullptr) return true;
+            *place = {level, 0, false, place->is_begun, place->map, nullptr};
+            tokenise_element(reader, level->element_map);
+            continue;
+        }
+        const s_item& item = place->row();
+        if (is_due(item, reader, is_member)) return true;
+        const bool is_missing = !place->is_entered && item.kind != item_kind::group_list;
+        if (is_missing && !report_missing(reader, item, error)) return false;
+        ++place->index;
+        place->is_entered = false;
+    }
+}
+
+/// Reads the rows of a sequence from the place on, with an event in hand or not, to the first element that has no
+/// place, which is in hand then. `*is_ended`: it was the end tag, taken by the plain way.
+bool read_sequence(const s_class& type, void* object, s_place place, bool has_event, c_xml_reader& reader,
+                   c_plain_way& plain, const c_string_stack_node* end, std::string* name, elmx_error* error,
+                   bool* is_ended) {
+    *is_ended = false;
+    for (;;) {
+        if (!has_event && !read_event_behind(&place, object, reader, name, error)) return false;
+        bool is_member = false;
+        if (!find_due_row(type, object, &place, reader, error, &is_member)) return false;
+        if (place.is_at_end()) return true;
+        const s_item& item = place.row();
+        if (is_group(item) && is_member) note_item(reader, item);
+        if (!read_item(*place.level, item, object, reader, name, error, &has_event)) return false;
+        if (!is_group(item)) note_item(reader, item);
+        step_behind(&place);
+        if (has_event) {
+            close_group(&place, object);
+            tokenise_element(reader, place.level->element_map + item.next_position);
+            continue;
+        }
+        const auto step = plain.take_items(type, object, &place, end, error);
+        if (step == c_plain_way::e_step::failed) return false;
+        *is_ended = step == c_plain_way::e_step::ended;
+        if (*is_ended) return true;
+    }
 }
 
 bool read_any(const s_class& type, const s_item& item, void* object, c_xml_reader& reader, std::string* name,
@@ -163,31 +252,6 @@ bool read_any(const s_class& type, const s_item& item, void* object, c_xml_reade
            goes_on(reader, ELMX_MANDATORY_ELEMENT_MISSING, type.qualified_name, error, __LINE__);
 }
 
-bool read_item(const s_class& type, const s_item& item, void* object, c_xml_reader& reader, std::string* name,
-               elmx_error* error) {
-    switch (item.kind) {
-        case item_kind::element_list:
-        case item_kind::child_list:
-            return read_list(type, item, object, reader, name, error);
-        case item_kind::group:
-            return read_group(type, item, object, reader, name, error);
-        case item_kind::group_list:
-            return read_group_list(type, item, object, reader, name, error);
-        default:
-            return read_single(type, item, object, reader, name, error);
-    }
-}
-
-/// A list that stayed too short is reported under the class's name; a plain list was reported at its own turn too.
-bool check_lists(const s_class& type, const void* object, c_xml_reader& reader, elmx_error* error) {
-    const auto short_list = std::find_if(type.elements.begin(), type.elements.end(), [&](const s_item& item) {
-        return is_repeating(item) && (item.use & use_asked) != 0 && list_of(item, object).size() == 0;
-    });
-    if (short_list == type.elements.end()) return true;
-    return goes_on(reader, {&type, &*short_list}, ELMX_MANDATORY_ELEMENT_MISSING, type.qualified_name, error,
-                   __LINE__);
-}
-
 bool read_choice(const s_class& type, void* object, c_xml_reader& reader, std::string* name, elmx_error* error) {
     tokenise_element(reader, type.element_map);
     const s_item* const alternative = find_token(type.elements, reader.get_current_event());
@@ -205,6 +269,20 @@ bool read_choice(const s_class& type, void* object, c_xml_reader& reader, std::s
         if (!read_simple_element(type, *alternative, object, reader, *name, error)) return false;
     }
     return next_element(reader, type.element_map, name, error);
+}
+
+bool has_open_content(const s_class& type) {
+    return type.base == nullptr && !type.elements.empty() && type.elements.front().kind == item_kind::any;
+}
+
+/// Reads content whose first event is in hand.
+bool read_body(const s_class& type, void* object, c_xml_reader& reader, c_plain_way& plain,
+               const c_string_stack_node* end, std::string* name, elmx_error* error, bool* is_ended) {
+    if (type.content == content_kind::choice) return read_choice(type, object, reader, name, error);
+    const s_class& first = first_level(type);
+    if (has_open_content(first)) return read_any(first, first.elements.front(), object, reader, name, error);
+    tokenise_element(reader, first.element_map);
+    return read_sequence(type, object, {&first}, true, reader, plain, end, name, error, is_ended);
 }
 
 bool read_nil(const s_class& type, void* object, c_xml_reader& reader, const std::string& name, elmx_error* error) {
@@ -264,23 +342,41 @@ elmx_error read_simple_content(const s_class& type, void* object, c_xml_reader& 
     return error == ELMX_OK ? check_end(reader, node) : error;
 }
 
-elmx_error read_children(const s_class& type, void* object, c_xml_reader& reader, const c_string_stack_node& node) {
-    const c_xml_reader_local scope(reader);
+/// Reads the content of an element whose start tag was read, and its end. `is_plain`: by the plain way, which then
+/// may take the end too.
+elmx_error read_children(const s_class& type, void* object, c_xml_reader& reader, const c_string_stack_node& node,
+                         c_plain_way& plain, bool is_empty_tag, bool is_plain) {
     elmx_error error = ELMX_OK;
-    const bool is_empty_tag = reader.get_current_event() == ELXP_END_TAG;
+    const c_string_stack_node* const end = is_plain ? &node : nullptr;
+    s_place place{&first_level(type)};
+    if (!is_empty_tag && !is_nil(type, object)) {
+        const auto step = plain.take_items(type, object, &place, end, &error);
+        if (step == c_plain_way::e_step::failed) return error;
+        if (step == c_plain_way::e_step::ended) return ELMX_OK;
+    }
+    if (place.is_begun && type.content == content_kind::choice) {
+        if (!next_element(reader, place.map, &reader.m_name, &error)) return error;
+        return check_end(reader, node);
+    }
+    bool is_ended = false;
+    if (place.is_begun) {
+        if (!read_sequence(type, object, place, false, reader, plain, end, &reader.m_name, &error, &is_ended))
+            return error;
+        return is_ended ? ELMX_OK : check_end(reader, node);
+    }
     if (!is_empty_tag) {
         error = read_event(reader, node);
         if (error != ELMX_OK) return error;
     }
-    const bool is_empty = reader.get_current_event() == ELXP_END_TAG;
+    const bool is_empty = is_empty_tag || reader.get_current_event() == ELXP_END_TAG;
     const bool is_misnamed = is_empty && !is_empty_tag && node != reader.m_name;
     if (is_misnamed || (is_nil(type, object) && !is_empty)) return refuse_end(reader, node);
     if (is_empty) {
         if (is_nil(type, object) || type.may_be_empty || type.content == content_kind::empty) return ELMX_OK;
         return reader.handle_error(ELMX_UNEXPECTED_EMPTY_ELEMENT, node.get_str(), k_source_file, __LINE__);
     }
-    if (!unmarshal_body(type, object, reader, &reader.m_name, &error)) return error;
-    return check_end(reader, node);
+    if (!read_body(type, object, reader, plain, end, &reader.m_name, &error, &is_ended)) return error;
+    return is_ended ? ELMX_OK : check_end(reader, node);
 }
 
 elmx_error refuse_nesting(c_xml_reader& reader, const std::string& name) {
@@ -306,8 +402,19 @@ elmx_error unmarshal_element(const s_class& type, void* object, c_xml_reader& re
                               {reader.get_open_element(), &type, object, &node, nullptr, reader.get_event_line()});
     const elmx_error error = read_attributes(type, object, reader, name);
     if (error != ELMX_OK) return error;
-    return type.content == content_kind::simple ? read_simple_content(type, object, reader, node)
-                                                : read_children(type, object, reader, node);
+    if (type.content == content_kind::simple) return read_simple_content(type, object, reader, node);
+    const c_xml_reader_local scope(reader);
+    c_plain_way plain(reader, type, node.get_name());
+    const bool is_empty_tag = reader.get_current_event() == ELXP_END_TAG;
+    return read_children(type, object, reader, node, plain, is_empty_tag, false);
+}
+
+elmx_error read_plain_element(const s_class& type, void* object, c_xml_reader& reader, std::string_view name,
+                              int line, c_plain_way& plain) {
+    const c_string_stack_node node(reader.get_element_name_stack(), name);
+    const c_open_element open(reader, {reader.get_open_element(), &type, object, &node, nullptr, line});
+    const c_xml_reader_local scope(reader);
+    return read_children(type, object, reader, node, plain, false, true);
 }
 
 bool unmarshal_attribute(const s_class& type, void* object, c_xml_reader& reader, const std::string& name,
@@ -350,19 +457,9 @@ elmx_error check_required_attributes(const s_class& type, const void* object, c_
 
 bool unmarshal_body(const s_class& type, void* object, c_xml_reader& reader, std::string* name, elmx_error* error) {
     *error = ELMX_OK;
-    if (type.content == content_kind::choice) return read_choice(type, object, reader, name, error);
-    if (type.base != nullptr) {
-        if (!unmarshal_body(*type.base, object, reader, name, error)) return false;
-        tokenise_element(reader, type.element_map);
-    } else if (!type.elements.empty() && type.elements.front().kind == item_kind::any) {
-        return read_any(type, type.elements.front(), object, reader, name, error);
-    } else {
-        tokenise_element(reader, type.element_map);
-    }
-    for (const s_item& item : type.elements) {
-        if (!read_item(type, item, object, reader, name, error)) return false;
-    }
-    return check_lists(type, object, reader, error);
+    bool is_ended = false;
+    c_plain_way plain(reader);
+    return read_body(type, object, reader, plain, nullptr, name, error, &is_ended);
 }
 
 bool unmarshal_content(const s_class& type, void* object, c_xml_reader& reader, std::string* name, elmx_error* error,
@@ -380,36 +477,7 @@ bool unmarshal_content(const s_class& type, void* object, c_xml_reader& reader, 
 }
 
 bool unmarshal_group(const s_class& type, void* object, c_xml_reader& reader, std::string* name, elmx_error* error) {
-    *error = ELMX_OK;
-    tokenise_element(reader, type.element_map);
-    const s_item* const alternative = find_token(type.elements, reader.get_current_event());
-    if (alternative == nullptr) {
-        release_choice(type, object);
-        // Only an element can be passed over.
-        const bool is_skipped = reader.get_scanned_event() == ELXP_NAME && reader.skip_rest_of_element(*name);
-        if (!is_skipped && !goes_on(reader, ELMX_BAD_END_OF_ELEMENT, *name, error, __LINE__)) return false;
-        return next_element(reader, type.element_map, name, error);
-    }
-    void* typed = nullptr;
-    if (!alternative->factory.empty()) {
-        int ns_id = 0;
-        std::string type_name;
-        const bool has_type = reader.get_xsi_type(&ns_id, &type_name);
-        if (has_type) typed = create_by_name(alternative->factory, ns_id, type_name);
-        if (typed == nullptr && (has_type || (alternative->use & use_demanded) != 0)) {
-            // The one failure that goes around the handler: nothing could be read in its place.
-            *error = report_unhandled(reader, {&type, alternative}, ELMX_UNKNOWN_XSI_TYPE, *name);
-            return false;
-        }
-    }
-    release_choice(type, object);
-    if (typed != nullptr) {
-        adopt(type, *alternative, object, typed);
-    } else {
-        typed = choose(type, *alternative, object);
-    }
-    *error = alternative->type->operations->unmarshal(typed, reader, *name);
-    return *error == ELMX_OK && next_element(reader, type.element_map, name, error);
+    return read_group(type, object, reader, *name, error) && next_element(reader, type.element_map, name, error);
 }
 
 bool is_group_member(const s_class& type, c_xml_reader& reader) {

@@ -9,6 +9,7 @@
 #pragma once
 
 #include <string>
+#include <string_view>
 
 #include "lmx/binding/table.h"
 #include "lmx/error.h"
@@ -53,5 +54,13 @@ VYR_EXPORT bool unmarshal_group(const s_class& type, void* object, c_xml_reader&
 /// True if the current element belongs to the group or inline choice; the event then is its token.
 /// Otherwise the event stays what it was.
 VYR_EXPORT bool is_group_member(const s_class& type, c_xml_reader& reader);
+
+// For the plain way.
+
+class c_plain_way;
+
+/// Reads what is behind a start tag that was taken, through the end tag.
+elmx_error read_plain_element(const s_class& type, void* object, c_xml_reader& reader, std::string_view name,
+                              int line, c_plain_way& plain);
 
 }  // namespace lmx

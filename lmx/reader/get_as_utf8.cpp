@@ -282,7 +282,6 @@ bool c_get_as_utf8::set_encoding(const char* name) {
     return is_accepted;
 }
 
-/// The length of the UTF-8 character that `get` would deliver as it stands; 0 if it wouldn't, or can't be seen whole.
 std::size_t c_get_as_utf8::plain_length(std::string_view bytes) const {
     const int lead = static_cast<unsigned char>(bytes[0]);
     const auto length = static_cast<std::size_t>(sequence_length(lead));

@@ -131,6 +131,10 @@ protected:
         return true;
     }
 
+    /// The length of the UTF-8 character that `get` would deliver as it stands; 0 if it wouldn't, or can't be seen
+    /// whole.
+    std::size_t plain_length(std::string_view bytes) const;
+
     /// Bytes taken from the source so far, those given back included.
     std::uint64_t get_bytes_read() const;
 
@@ -150,7 +154,6 @@ private:
     int decode_utf8(int lead);
     int read_unit(int first, bool is_big_endian);
     int decode_utf16(int first, bool is_big_endian);
-    std::size_t plain_length(std::string_view bytes) const;
 
     c_read& m_reader;
     c_error& m_error;

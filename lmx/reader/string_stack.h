@@ -46,7 +46,7 @@ private:
 /// One name on the stack, for as long as this object lives.
 class c_string_stack_node {
 public:
-    c_string_stack_node(c_string_stack& stack, const std::string& name)
+    c_string_stack_node(c_string_stack& stack, std::string_view name)
         : m_stack(stack), m_offset(stack.get_stack_size()), m_length(name.size()) {
         stack.push(name);
     }
@@ -56,8 +56,9 @@ public:
 
     /// Good until another name is pushed.
     const char* get_str() const { return m_stack.get_str(m_offset); }
+    std::string_view get_name() const { return {get_str(), m_length}; }
 
-    bool operator==(const std::string& name) const { return name == std::string_view(get_str(), m_length); }
+    bool operator==(const std::string& name) const { return name == get_name(); }
     bool operator!=(const std::string& name) const { return !(*this == name); }
 
 private:

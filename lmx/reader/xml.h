@@ -36,6 +36,16 @@ enum elxp_xml_event : int {
 };
 inline constexpr int k_first_token = 12;
 
+/// What was taken from the window without events, as far as later events and reports look at it.
+struct s_plain_trace {
+    std::string_view tag;             ///< the last start tag, from its name to ahead of its end
+    int tag_line = 0;                 ///< where its name stands
+    std::string_view attribute_name;  ///< the last one; without data if there was none
+    bool has_value = false;
+    std::string_view value;                         ///< the last one of an attribute or element
+    elmx_whitespace whitespace = ELMX_WS_PRESERVE;  ///< how it was read
+};
+
 class VYR_EXPORT c_xml : public c_get_for_xml {
 public:
     c_xml(c_read& reader, c_error& error, bool normalise_char_refs)
@@ -97,6 +107,11 @@ public:
     static bool is_error_event(int event) { return event == ELXP_FATAL || event == ELXP_ERROR; }
 
     void rewind();
+
+protected:
+    /// As if that start tag, which is plain, had been the last one, and all its attributes had been read.
+    void set_start_tag(std::string_view tag, int line);
+    bool has_attributes() const { return !m_attributes.empty(); }
 
 private:
     static constexpr std::size_t k_none = static_cast<std::size_t>(-1);

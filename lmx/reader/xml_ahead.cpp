@@ -65,6 +65,26 @@ bool c_xml::take_start_tag(std::string* name) {
     return true;
 }
 
+void c_xml::set_start_tag(std::string_view tag, int line) {
+    clear_attributes();
+    m_event_line = line;
+    std::size_t at = run_length(tag, 0, k_stops_of_names);
+    m_attr_buffer.assign(tag.substr(at));
+    const std::string_view text = m_attr_buffer;
+    int line_feeds = 0;
+    for (at = skip_blanks(text, 0, &line_feeds); at < text.size(); at = skip_blanks(text, at, &line_feeds)) {
+        const std::size_t equals = text.find('=', at);
+        const std::size_t value = equals + 2;
+        const char quote = text[equals + 1];
+        const std::size_t end = text.find(quote, value);
+        m_attributes.add({at, equals - at, value, end - value, quote, line + line_feeds});
+        line_feeds += static_cast<int>(std::count(text.begin() + value, text.begin() + end, '\n'));
+        at = end + 1;
+    }
+    while (m_attributes.next(&m_named)) {
+    }
+}
+
 bool c_xml::take_end_tag(std::string* name) {
     const std::string_view text = ahead();
     if (text.empty() || text[0] != '/') return false;

@@ -102,6 +102,20 @@ elmx_error c_xml_reader::event_error() const {
     return m_current_event == ELXP_END_OF_INPUT ? ELMX_UNEXPECTED_END_OF_MESSAGE : ELMX_OK;
 }
 
+void c_xml_reader::take_plain(std::size_t count, int line_feeds, const s_plain_trace& trace) {
+    take_ahead(count, line_feeds);
+    if (trace.attribute_name.data() != nullptr) m_attr_name = trace.attribute_name;
+    if (trace.has_value) {
+        m_value = trace.value;
+        m_is_value_faulty = false;
+        set_ws_mode(trace.whitespace);
+    }
+    if (trace.tag.data() == nullptr) return;
+    set_start_tag(trace.tag, trace.tag_line);
+    // An end tag or text behind has no name of its own.
+    m_cracked_name.set(m_local, has_attributes() ? m_attr_name : m_name.assign(trace.tag));
+}
+
 void c_xml_reader::get_element_event(const s_event_map* map, elmx_error* error, std::string* name) {
     // The scope serves one sibling after the other: declarations don't outlive their element.
     m_local->clear();

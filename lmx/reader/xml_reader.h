@@ -163,6 +163,17 @@ public:
     bool is_value_faulty() const { return m_is_value_faulty; }
     void set_value_faulty(bool is_faulty) { m_is_value_faulty = is_faulty; }
 
+    // For those who take elements from the window without events.
+
+    /// The bytes that come next, as they stand in the document and in UTF-8; empty if the next character may be
+    /// another one.
+    std::string_view get_plain_window() const { return ahead(); }
+    /// The size of the character at the start of the bytes; 0 if it isn't plain, or not whole.
+    std::size_t get_plain_length(std::string_view bytes) const { return plain_length(bytes); }
+    /// Takes bytes of the window, whole elements without carriage returns and with so many line feeds. All is left as
+    /// if events had been read up to there, but for what the next event replaces in any case.
+    void take_plain(std::size_t count, int line_feeds, const s_plain_trace& trace);
+
 private:
     elmx_error event_error() const;
 

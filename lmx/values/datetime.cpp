@@ -167,6 +167,31 @@ void c_datetime_base::assign(const s_calendar_form& form, const char* text) {
     parse_zone(text);
 }
 
+bool c_datetime_base::assign_usual_datetime(const char* text) {
+    constexpr std::string_view form = "0000-00-00T00:00:00Z";
+    std::uint32_t values[6] = {};
+    std::size_t field = 0;
+    for (std::size_t i = 0; i < form.size(); ++i) {
+        const auto digit = static_cast<unsigned>(static_cast<unsigned char>(text[i])) - '0';
+        if (form[i] != '0') {
+            if (text[i] != form[i]) return false;
+            ++field;
+        } else {
+            if (digit > 9) return false;
+            values[field] = values[field] * 10 + digit;
+        }
+    }
+    m_year = static_cast<std::int32_t>(values[0]);
+    m_month = values[1];
+    m_day = values[2];
+    m_hours = values[3];
+    m_mins = values[4];
+    m_secs = static_cast<float>(values[5]);
+    m_total_offset_mins = 0;
+    m_is_utc = true;
+    return true;
+}
+
 bool c_datetime_base::parse_part(char part, const char** cursor) {
     switch (part) {
         case 'Y': {

@@ -73,6 +73,10 @@ public:
 
 protected:
     std::weak_ordering compare(const c_datetime_base& other) const;
+    /// Takes a date-time in UTC without a fraction, "2005-02-28T10:00:00Z", from the 20 characters at `text`. False,
+    /// with some fields stored, for anything else.
+    bool assign_usual_datetime(const char* text);
+
     /// `*has_zone` is set only for valid text.
     static bool is_valid(const s_calendar_form& form, const std::string& text, bool* has_zone);
     void assign(const s_calendar_form& form, const char* text);
@@ -108,6 +112,12 @@ public:
     }
     T& operator=(const std::string& text) { return *this = text.c_str(); }
     T& operator=(std::nullptr_t) = delete;  // which `value = {}` would mean
+
+    /// The length of the usual form, and a short way to take it; see `assign_usual_datetime`.
+    static constexpr std::size_t k_usual_size = 20;
+    bool assign_usual(const char* text) requires(Type == calendar_type::datetime) {
+        return assign_usual_datetime(text);
+    }
 
     static bool is_valid(const std::string& text) {
         bool has_zone = false;

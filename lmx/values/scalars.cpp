@@ -39,39 +39,41 @@ double c_library_double(const char* text) {
 #endif
 }
 
-/// Reads a decimal of at most 15 digits without an exponent, as almost all numbers in documents are. False if the
-/// text is anything else, or breaks off.
-///
+}  // namespace
+
 /// The digits without their point and the power of ten are doubles exactly, so that their quotient, rounded once, is
 /// the nearest double.
-bool take_short_decimal(const char* at, const char* end, double* value) {
+const char* take_short_decimal(const char* text, const char* end, double* value) {
     constexpr double powers[] = {1, 1e1, 1e2, 1e3, 1e4, 1e5, 1e6, 1e7, 1e8, 1e9, 1e10, 1e11, 1e12, 1e13, 1e14, 1e15};
     constexpr std::ptrdiff_t most_digits = 15;
     static_assert(std::size(powers) == most_digits + 1);
-    const bool is_negative = at != end && *at == '-';
-    if (is_negative) ++at;
+    const bool is_negative = text != end && *text == '-';
+    const char* at = is_negative ? text + 1 : text;
+    // One more than there may be, and the point, so that a longer number is seen.
+    const char* const last = end - at > most_digits + 2 ? at + most_digits + 2 : end;
     const char* const start = at;
-    if (end - start > most_digits + 1) return false;
     std::uint64_t digits = 0;
     const auto take_digits = [&] {
-        for (; at != end && xisdigit(*at); ++at) digits = digits * 10 + static_cast<std::uint64_t>(*at - '0');
+        for (; at != last; ++at) {
+            const auto digit = static_cast<unsigned char>(*at - '0');
+            if (digit > 9) break;
+            digits = digits * 10 + digit;
+        }
     };
     take_digits();
     std::ptrdiff_t count = at - start;
     std::ptrdiff_t places = 0;
-    if (at != end && *at == '.') {
+    if (at != last && *at == '.') {
         const char* const point = at++;
         take_digits();
         places = at - point - 1;
         count += places;
     }
-    if (at != end || count == 0 || count > most_digits) return false;
+    if (count == 0 || count > most_digits) return nullptr;
     const double size = static_cast<double>(digits) / powers[places];
     *value = is_negative ? -size : size;
-    return true;
+    return at;
 }
-
-}  // namespace
 
 bool is_valid_bool(const std::string& text) {
     return text == "true" || text == "1" || text == "false" || text == "0";
@@ -105,7 +107,7 @@ int fraction_digits(const std::string& text) {
 double text_to_double(const std::string& text) {
     const char* first = text.data();
     const char* const last = first + text.size();
-    if (double value = 0.0; take_short_decimal(first, last, &value)) return value;
+    if (double value = 0.0; take_short_decimal(first, last, &value) == last) return value;
     if (text.size() > 1 && *first == '+') ++first;  // which from_chars refuses
     // A number that from_chars takes whole is the C library's, bit for bit. It would take words too: not those.
     const char* const digits = first != last && *first == '-' && first == text.data() ? first + 1 : first;

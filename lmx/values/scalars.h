@@ -60,6 +60,11 @@ VYR_EXPORT int fraction_digits(const std::string& text);
 /// The nearest double. A number out of range gives an infinity or what is left near zero; text that is no number
 /// gives what its longest leading number gives, or 0. Never depends on the host's locale.
 VYR_EXPORT double text_to_double(const std::string& text);
+/// Takes an optional minus sign and up to 15 digits with at most one point among them, as almost all numbers in
+/// documents are, into the nearest double. Returns what is behind them, or null for any other text; a number that
+/// goes on with an exponent ends at it.
+VYR_EXPORT const char* take_short_decimal(const char* text, const char* end, double* value);
+
 /// The leading integer, cut to the low bits of the result: 32 signed, 8 unsigned. 0 without one.
 VYR_EXPORT std::int32_t text_to_int(const std::string& text);
 VYR_EXPORT std::uint8_t text_to_byte(const std::string& text);

@@ -1,0 +1,582 @@
+// Copyright 2026 The Vyr Authors
+// SPDX-License-Identifier: Apache-2.0
+
+#include "lmx/binding/plain_way.h"
+
+#include <algorithm>
+#include <cstring>
+
+#include "lmx/binding/object.h"
+#include "lmx/binding/open_element.h"
+#include "lmx/binding/storage.h"
+#include "lmx/binding/unmarshal.h"
+#include "lmx/reader/plain_text.h"
+#include "lmx/values/unicode.h"
+
+namespace lmx {
+
+// Places.
+
+const s_class& first_level(const s_class& type) {
+    const s_class* level = &type;
+    while (level->base != nullptr) level = level->base;
+    return *level;
+}
+
+const s_class* next_level(const s_class& type, const s_class& level) {
+    if (&type == &level) return nullptr;
+    const s_class* next = &type;
+    while (next->base != &level) next = next->base;
+    return next;
+}
+
+void step_behind(s_place* place) {
+    const s_item& row = place->row();
+    const s_event_map* const map = place->level->element_map;
+    const bool is_group = row.kind == item_kind::group || row.kind == item_kind::group_list;
+    place->is_begun = true;
+    place->group = is_group ? &row : nullptr;
+    place->is_entered = is_repeating(row);
+    if (place->level->content == content_kind::choice) {
+        place->map = map;
+        place->index = place->level->elements.size();
+    } else {
+        place->map = is_group ? row.type->element_map : map + (place->is_entered ? row.position : row.next_position);
+        if (!place->is_entered) ++place->index;
+    }
+}
+
+void close_group(s_place* place, void* object) {
+    if (place->group != nullptr) mark_set(*place->group, object);
+    place->group = nullptr;
+}
+
+const s_item* find_short_list(const s_class& level, const void* object) {
+    const auto row = std::find_if(level.elements.begin(), level.elements.end(), [&](const s_item& item) {
+        return is_repeating(item) && (item.use & use_asked) != 0 && list_of(item, object).size() == 0;
+    });
+    return row == level.elements.end() ? nullptr : &*row;
+}
+
+// Values.
+
+/// A value that passed its checks, not stored yet.
+struct c_plain_way::s_value {
+    s_value() {}  // nothing is set before a value is read, which is most of the room for attributes
+
+    const char* begin;
+    const char* end;
+    enum class e_form : std::uint8_t { ascii, utf8, number, datetime, enumerated } form;
+    union {
+        double number;
+        c_datetime datetime;
+        const s_enumerated_text* literal;
+    };
+
+    std::string_view text() const { return {begin, static_cast<std::size_t>(end - begin)}; }
+};
+
+struct c_plain_way::s_attribute {
+    s_attribute() {}
+
+    const s_item* row;
+    const char* name;
+    std::size_t name_size;
+    s_value value;
+};
+
+struct c_plain_way::s_start_tag {
+    static constexpr std::size_t k_most_attributes = 12;
+
+    std::string_view name;
+    std::string_view text;  ///< from the name up to the end
+    const char* behind;     ///< what follows the tag
+    bool is_closed;         ///< an empty-element tag
+    int line_feeds;
+    std::size_t count;
+    s_attribute attributes[k_most_attributes];
+};
+
+/// One item that may be taken.
+struct c_plain_way::s_step {
+    s_place* place;
+    s_place found;          ///< the place of its row
+    std::string_view name;  ///< as it stands in the window
+    int line_feeds;         ///< ahead of it
+    elmx_error* error;
+};
+
+namespace {
+
+/// Whether white space in a collapsed value would be changed by collapsing.
+bool is_collapsed(std::string_view text) {
+    bool is_behind_blank = true;
+    for (const char c : text) {
+        if (c == ' ' ? is_behind_blank : xisspace(c)) return false;
+        is_behind_blank = c == ' ';
+    }
+    return text.empty() || !is_behind_blank;
+}
+
+}  // namespace
+
+/// The end of a value that ends with `stop`; null if something in it isn't plain.
+const char* c_plain_way::find_stop(const char* at, char stop, bool* is_ascii, int* line_feeds) const {
+    for (;;) {
+        at = find_special(at, m_end, stop);
+        if (at == m_end) return nullptr;
+        if (*at == stop) return at;
+        if (*at == '\n') {
+            ++*line_feeds;
+            ++at;
+        } else {
+            const std::size_t length = m_reader.get_plain_length({at, static_cast<std::size_t>(m_end - at)});
+            if (static_cast<signed char>(*at) >= 0 || length == 0) return nullptr;
+            *is_ascii = false;
+            at += length;
+        }
+    }
+}
+
+/// Reads and checks a value up to `stop`; null if it isn't plain or isn't right.
+const char* c_plain_way::read_value(const s_item& row, const char* at, char stop, s_value* value, int* line_feeds) {
+    const s_facets* const facets = row.facets;
+    value->begin = at;
+    if (row.value == value_kind::number && (facets == nullptr || facets->pattern == nullptr)) {
+        value->end = take_short_decimal(at, m_end, &value->number);
+        value->form = s_value::e_form::number;
+        if (value->end != nullptr && value->end < m_end && *value->end == stop) {
+            const bool is_right =
+                facets == nullptr || (!facets->is_below(value->number) && !facets->is_above(value->number));
+            return is_right ? value->end : nullptr;
+        }
+    } else if (row.value == value_kind::datetime && (facets == nullptr || facets->pattern_takes_zoned) &&
+               m_end - at > static_cast<std::ptrdiff_t>(c_datetime::k_usual_size) &&
+               at[c_datetime::k_usual_size] == stop && value->datetime.assign_usual(at)) {
+        value->form = s_value::e_form::datetime;
+        return value->end = at + c_datetime::k_usual_size;
+    }
+    bool is_ascii = true;
+    value->end = find_stop(at, stop, &is_ascii, line_feeds);
+    if (value->end == nullptr) return nullptr;
+    value->form = is_ascii ? s_value::e_form::ascii : s_value::e_form::utf8;
+    if (row.value == value_kind::enumerated) {
+        value->form = s_value::e_form::enumerated;
+        value->literal = facets->enumerated->find(value->text());
+        return value->literal != nullptr ? value->end : nullptr;
+    }
+    const bool is_kept = row.whitespace == ELMX_WS_PRESERVE || is_collapsed(value->text());
+    return is_kept && is_right(row, value->text()) ? value->end : nullptr;
+}
+
+/// The checks of a value that the short cuts don't know.
+bool c_plain_way::is_right(const s_item& row, std::string_view text) {
+    if (row.value == value_kind::text && row.facets == nullptr) return true;
+    m_text.assign(text);
+    return check_as_read(row, m_text) == ELMX_OK;
+}
+
+void c_plain_way::store(const s_class& type, const s_item& row, void* object, const s_value& value) {
+    void* const storage = place_for_value(type, row, object);
+    switch (value.form) {
+        case s_value::e_form::number:
+            *static_cast<double*>(storage) = value.number;
+            break;
+        case s_value::e_form::datetime:
+            *static_cast<c_datetime*>(storage) = value.datetime;
+            break;
+        case s_value::e_form::enumerated:
+            static_cast<c_enumerated*>(storage)->set(value.literal);
+            break;
+        case s_value::e_form::ascii:
+            if (row.value == value_kind::text) {
+                static_cast<std::u16string*>(storage)->assign(value.begin, value.end);
+                break;
+            }
+            [[fallthrough]];
+        case s_value::e_form::utf8: {
+            m_text.assign(value.text());
+            s_read_value read{m_text, row.facets};
+            kind_of(row).look(read);
+            kind_of(row).store(read, storage);
+            break;
+        }
+    }
+    mark_set(row, object);
+}
+
+// Tags.
+
+c_plain_way::c_plain_way(c_xml_reader& reader, const s_class& type, std::string_view name) : m_reader(reader) {
+    const std::size_t colon = name.find(':');
+    m_prefix_size = colon == name.npos ? 0 : colon + 1;
+    const s_class* level = &type;
+    while (level->element_map->name == nullptr && level->base != nullptr) level = level->base;
+    if (m_prefix_size > sizeof m_prefix || level->element_map->name == nullptr) return;
+    name.copy(m_prefix, m_prefix_size);
+    const std::string_view prefix = name.substr(0, m_prefix_size == 0 ? 0 : colon);
+    m_is_possible = reader.get_reader_local()->find_namespace_id(prefix) == level->element_map->ns_id;
+}
+
+bool c_plain_way::begin() {
+    if (m_is_open || !m_is_possible) return m_is_open;
+    const std::string_view window = m_reader.get_plain_window();
+    if (window.empty()) return false;
+    // As the next event would, declarations of a former sibling end here.
+    m_reader.get_reader_local()->clear();
+    m_start = m_at = window.data();
+    m_end = m_at + window.size();
+    m_line_feeds = 0;
+    m_trace = {};
+    m_is_open = true;
+    return true;
+}
+
+void c_plain_way::leave() {
+    if (m_is_open && m_at != m_start) {
+        m_reader.take_plain(static_cast<std::size_t>(m_at - m_start), m_line_feeds, m_trace);
+    }
+    m_is_open = false;
+}
+
+namespace {
+
+/// Names are short, and a call would cost more than the comparison.
+bool is_same(const char* one, const char* other, std::size_t size) {
+    const auto differs = [&]<class Block>(Block, std::size_t at) {
+        Block a = 0;
+        Block b = 0;
+        std::memcpy(&a, one + at, sizeof a);
+        std::memcpy(&b, other + at, sizeof b);
+        return a != b;
+    };
+    if (size >= 8) {
+        for (std::size_t at = 0; at + 8 < size; at += 8) {
+            if (differs(std::uint64_t{}, at)) return false;
+        }
+        return !differs(std::uint64_t{}, size - 8);
+    }
+    if (size >= 4) return !differs(std::uint32_t{}, 0) && !differs(std::uint32_t{}, size - 4);
+    for (std::size_t at = 0; at < size; ++at) {
+        if (one[at] != other[at]) return false;
+    }
+    return true;
+}
+
+}  // namespace
+
+/// Whether the name of a map's row stands there, as the whole local part of a tag's name.
+bool c_plain_way::is_name(const char* at, const s_event_map& row) const {
+    return static_cast<std::size_t>(m_end - at) > row.name_length &&
+           k_stops_of_names[static_cast<unsigned char>(at[row.name_length])] &&
+           is_same(at, row.name, row.name_length);
+}
+
+/// What stands behind the end tag of that name; null if it isn't there.
+const char* c_plain_way::take_end_tag(const char* at, std::string_view name) const {
+    if (static_cast<std::size_t>(m_end - at) < name.size() + 3 || at[0] != '<' || at[1] != '/' ||
+        !is_same(at + 2, name.data(), name.size()) || at[name.size() + 2] != '>') {
+        return nullptr;
+    }
+    return at + name.size() + 3;
+}
+
+const s_item* c_plain_way::find_attribute(const s_class& type, std::string_view name) const {
+    for (const s_class* level = &type; level != nullptr; level = level->base) {
+        for (const s_item& row : level->attributes) {
+            if (row.name == name) return &row;
+        }
+    }
+    return nullptr;
+}
+
+/// Reads a start tag from its name on. False if something in it isn't plain or isn't right for the class; `object` is
+/// null for one that is still to be made.
+bool c_plain_way::read_start_tag(const s_class& type, const void* object, const char* at, std::size_t name_size,
+                                 s_start_tag* tag) {
+    const char* const start = at;
+    at += name_size;
+    tag->name = {start, name_size};
+    tag->count = 0;
+    tag->line_feeds = 0;
+    // A line feed right behind a name is counted twice.
+    if (*at == '\n') return false;
+    for (;;) {
+        while (at != m_end && !k_stops_of_blanks[static_cast<unsigned char>(*at)]) {
+            tag->line_feeds += static_cast<int>(*at == '\n');
+            ++at;
+        }
+        if (m_end - at < 2) return false;
+        if (*at == '>' || *at == '/') break;
+        const char* const name = at;
+        while (at != m_end && !k_stops_of_names[static_cast<unsigned char>(*at)]) ++at;
+        if (m_end - at < 3 || at[0] != '=' || (at[1] != '"' && at[1] != '\'')) return false;
+        const std::string_view attribute_name(name, static_cast<std::size_t>(at - name));
+        const s_item* const row = find_attribute(type, attribute_name);
+        if (row == nullptr || tag->count == s_start_tag::k_most_attributes) return false;
+        if (object != nullptr && is_set(*row, object)) return false;
+        for (std::size_t i = 0; i < tag->count; ++i) {
+            if (tag->attributes[i].row == row) return false;
+        }
+        s_attribute& attribute = tag->attributes[tag->count++];
+        attribute.row = row;
+        attribute.name = name;
+        attribute.name_size = attribute_name.size();
+        const char quote = at[1];
+        at = read_value(*row, at + 2, quote, &attribute.value, &tag->line_feeds);
+        if (at == nullptr) return false;
+        ++at;
+    }
+    tag->text = {start, static_cast<std::size_t>(at - start)};
+    tag->is_closed = *at == '/';
+    if (tag->is_closed && *++at != '>') return false;
+    tag->behind = at + 1;
+    return has_required(type, object, *tag);
+}
+
+bool c_plain_way::has_required(const s_class& type, const void* object, const s_start_tag& tag) const {
+    for (const s_class* level = &type; level != nullptr; level = level->base) {
+        for (const s_item& row : level->attributes) {
+            if ((row.use & use_demanded) == 0 || (object != nullptr && is_set(row, object))) continue;
+            const auto* const end = tag.attributes + tag.count;
+            if (std::find_if(tag.attributes, end, [&](const s_attribute& found) { return found.row == &row; }) ==
+                end) {
+                return false;
+            }
+        }
+    }
+    return true;
+}
+
+void c_plain_way::store_attributes(const s_class& type, void* object, const s_start_tag& tag) {
+    for (std::size_t i = 0; i < tag.count; ++i) {
+        const s_attribute& attribute = tag.attributes[i];
+        store(type, *attribute.row, object, attribute.value);
+        m_trace.attribute_name = {attribute.name, attribute.name_size};
+        note_value(*attribute.row, attribute.value);
+    }
+}
+
+void c_plain_way::note_tag(std::string_view text, int line) {
+    m_trace.tag = text;
+    m_trace.tag_line = line;
+}
+
+void c_plain_way::note_value(const s_item& row, const s_value& value) {
+    m_trace.has_value = true;
+    m_trace.value = value.text();
+    m_trace.whitespace = row.whitespace;
+}
+
+// Items.
+
+namespace {
+
+void note_item(c_xml_reader& reader, const s_item& row) {
+    if (s_open_element* const element = reader.get_open_element()) element->last_item = &row;
+}
+
+}  // namespace
+
+c_plain_way::e_step c_plain_way::take_items(const s_class& type, void* object, s_place* place,
+                                            const c_string_stack_node* end, elmx_error* error) {
+    e_step step = e_step::taken;
+    while (step == e_step::taken) {
+        step = begin() ? take_item(type, object, place, end, error) : e_step::declined;
+    }
+    if (step == e_step::declined) leave();
+    return step;
+}
+
+c_plain_way::e_step c_plain_way::take_item(const s_class& type, void* object, s_place* place,
+                                           const c_string_stack_node* end, elmx_error* error) {
+    const char* at = m_at;
+    int line_feeds = 0;
+    while (at != m_end && !k_stops_of_blanks[static_cast<unsigned char>(*at)]) {
+        line_feeds += static_cast<int>(*at == '\n');
+        ++at;
+    }
+    if (m_end - at < 4 || *at != '<') return e_step::declined;
+    if (at[1] == '/') {
+        if (end == nullptr || !is_complete(type, object, *place)) return e_step::declined;
+        const char* const behind = take_end_tag(at, end->get_name());
+        if (behind == nullptr) return e_step::declined;
+        close_group(place, object);
+        m_at = behind;
+        m_line_feeds += line_feeds;
+        return e_step::ended;
+    }
+    ++at;
+    if (static_cast<std::size_t>(m_end - at) <= m_prefix_size || !is_same(at, m_prefix, m_prefix_size)) {
+        return e_step::declined;
+    }
+    s_place found = *place;
+    const s_item* member = nullptr;
+    const s_event_map* const name = find_row(type, object, &found, at + m_prefix_size, &member);
+    if (name == nullptr) return e_step::declined;
+    const std::string_view full_name(at, m_prefix_size + name->name_length);
+    s_step step{place, found, full_name, line_feeds, error};
+    const s_class* const child = member != nullptr ? member->type : found.row().type;
+    return child == nullptr ? take_simple(object, step) : take_class(*child, member, object, step);
+}
+
+/// Finds the row of the element whose local name begins at `name`, from the place on: the map's row with the name, or
+/// null. For a group `*member` is the alternative.
+const s_event_map* c_plain_way::find_row(const s_class& type, const void* object, s_place* place, const char* name,
+                                         const s_item** member) const {
+    const auto find_alternative = [&](const s_class& choice) -> const s_event_map* {
+        // The map of a choice has the alternatives in their order.
+        for (std::size_t i = 0; i < choice.elements.size(); ++i) {
+            if (!is_name(name, choice.element_map[i])) continue;
+            *member = &choice.elements[i];
+            return &choice.element_map[i];
+        }
+        return nullptr;
+    };
+    if (type.content == content_kind::choice) {
+        const s_event_map* const found = place->is_begun ? nullptr : find_alternative(type);
+        if (found != nullptr) place->index = static_cast<std::size_t>(*member - type.elements.data());
+        return found;
+    }
+    for (;;) {
+        for (; place->is_at_end(); place->index = 0) {
+            if (find_short_list(*place->level, object) != nullptr) return nullptr;
+            const s_class* const level = next_level(type, *place->level);
+            if (level == nullptr) return nullptr;
+            place->level = level;
+        }
+        const s_item& row = place->row();
+        switch (row.kind) {
+            case item_kind::element:
+            case item_kind::element_list:
+            case item_kind::child:
+            case item_kind::optional_child:
+            case item_kind::child_list:
+                if (is_name(name, place->level->element_map[row.position])) {
+                    return &place->level->element_map[row.position];
+                }
+                if ((row.use & use_demanded) != 0 && !place->is_entered) return nullptr;
+                break;
+            case item_kind::group:
+            case item_kind::group_list:
+                if (row.type->content != content_kind::group || (row.use & use_lax) != 0) return nullptr;
+                if (const s_event_map* const found = find_alternative(*row.type)) return found;
+                if (row.kind == item_kind::group && (row.use & use_demanded) != 0) return nullptr;
+                break;
+            default:
+                return nullptr;
+        }
+        ++place->index;
+        place->is_entered = false;
+    }
+}
+
+/// Whether nothing is missing behind the place.
+bool c_plain_way::is_complete(const s_class& type, const void* object, s_place place) const {
+    if (type.content == content_kind::choice) return place.is_begun;
+    for (const s_class* level = place.level; level != nullptr; level = next_level(type, *level)) {
+        const auto rows = level->elements.subspan(level == place.level ? place.index : 0);
+        for (const s_item& row : rows) {
+            const bool is_entered = place.is_entered && &row == rows.data() && level == place.level;
+            if (row.kind == item_kind::any || (row.use & use_lax) != 0) return false;
+            if ((row.use & use_demanded) != 0 && !is_entered && row.kind != item_kind::group_list) return false;
+        }
+        if (find_short_list(*level, object) != nullptr) return false;
+    }
+    return true;
+}
+
+/// Commits to an item: what the events would have done by now that is not about the item itself.
+void c_plain_way::commit(void* object, s_step& step, const char* at, int line_feeds) {
+    close_group(step.place, object);
+    *step.place = step.found;
+    step.place->group = nullptr;
+    m_at = at;
+    m_line_feeds += line_feeds;
+}
+
+c_plain_way::e_step c_plain_way::take_simple(void* object, s_step& step) {
+    const s_class& level = *step.found.level;
+    const s_item& row = step.found.row();
+    const char* at = step.name.data() + step.name.size();
+    if (*at != '>') return e_step::declined;
+    s_value value;
+    int line_feeds = step.line_feeds;
+    at = read_value(row, at + 1, '<', &value, &line_feeds);
+    if (at != nullptr) at = take_end_tag(at, step.name);
+    if (at == nullptr) return e_step::declined;
+    const int line = m_reader.get_text_line() + m_line_feeds + step.line_feeds;
+    commit(object, step, at, line_feeds);
+    store(level, row, object, value);
+    note_tag(step.name, line);
+    note_value(row, value);
+    note_item(m_reader, row);
+    step_behind(step.place);
+    return e_step::taken;
+}
+
+/// The object that an element's content goes to, made where it isn't there yet.
+void* c_plain_way::make_child(const s_item& row, const s_item* member, void* object) {
+    void* const holder = is_repeating(row) ? append_default(row, object) : touch_child(row, object);
+    if (member == nullptr) return holder;
+    release_choice(*row.type, holder);
+    return choose(*row.type, *member, holder);
+}
+
+c_plain_way::e_step c_plain_way::take_class(const s_class& child, const s_item* member, void* object, s_step& step) {
+    const s_item& row = step.found.row();
+    const bool is_choice = step.found.level->content == content_kind::choice;
+    // A head that may be specialised is what its name says when no attribute says another.
+    if (member != nullptr && !member->factory.empty() && (member->use & use_demanded) != 0) return e_step::declined;
+    if (m_reader.get_element_name_stack().get_depth() >= k_maximum_nesting) return e_step::declined;
+    const void* const present = row.kind == item_kind::child ? &lmx::member<std::byte>(object, row.offset) : nullptr;
+    if (present != nullptr && is_nil(child, present)) return e_step::declined;
+
+    s_start_tag tag;
+    if (!read_start_tag(child, present, step.name.data(), step.name.size(), &tag)) return e_step::declined;
+    const int line = m_reader.get_text_line() + m_line_feeds + step.line_feeds;
+    int line_feeds = step.line_feeds + tag.line_feeds;
+    const bool is_simple = child.content == content_kind::simple;
+    const char* behind = tag.behind;
+    s_value content;
+    const s_item* content_row = nullptr;
+    if (is_simple) {
+        if (tag.is_closed) return e_step::declined;
+        content_row = &content_owner(child).elements.front();
+        behind = read_value(*content_row, behind, '<', &content, &line_feeds);
+        if (behind != nullptr) behind = take_end_tag(behind, step.name);
+        if (behind == nullptr) return e_step::declined;
+    } else if (tag.is_closed) {
+        if (!child.may_be_empty && child.content != content_kind::empty) return e_step::declined;
+    } else if (child.content == content_kind::empty) {
+        return e_step::declined;
+    }
+
+    commit(object, step, behind, line_feeds);
+    void* target = nullptr;
+    if (is_choice) {
+        note_item(m_reader, row);
+        release_choice(*step.found.level, object);
+        target = choose(*step.found.level, row, object);
+    } else {
+        if (member != nullptr) note_item(m_reader, row);
+        target = make_child(row, member, object);
+    }
+    note_tag(tag.text, line);
+    store_attributes(child, target, tag);
+    if (is_simple) {
+        store(content_owner(child), *content_row, target, content);
+        note_value(*content_row, content);
+    } else if (!tag.is_closed) {
+        *step.error = read_plain_element(child, target, m_reader, tag.name, line, *this);
+        if (*step.error != ELMX_OK) return e_step::failed;
+    }
+    if (!is_choice && member == nullptr) {
+        mark_set(row, object);
+        note_item(m_reader, row);
+    }
+    step_behind(step.place);
+    return e_step::taken;
+}
+
+}  // namespace lmx

@@ -1,0 +1,120 @@
+// Copyright 2026 The Vyr Authors
+// SPDX-License-Identifier: Apache-2.0
+
+/// The plain way of a load: a cursor over what lies in the reader's window takes whole elements of the expected rows
+/// while they are plain and right, and leaves everything else where it was, for the events.
+///
+/// It reports nothing and skips nothing that a handler wants to see: whatever the events would do more than store a
+/// value makes it decline. Plain is an element of the expected name, with the prefix of the elements around it,
+/// attributes of its rows in any order, values without references and carriage returns that pass all their checks,
+/// and its end tag; comments, declarations, `xsi:` attributes and stray text are not.
+
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <string>
+#include <string_view>
+
+#include "lmx/binding/table.h"
+#include "lmx/error.h"
+#include "lmx/reader/string_stack.h"
+#include "lmx/reader/xml_reader.h"
+
+namespace lmx {
+
+/// Where the reading of a class's content stands: the row that is due.
+struct s_place {
+    const s_class* level;              ///< the class, or the base of it, whose rows are due
+    std::size_t index = 0;             ///< the row
+    bool is_entered = false;           ///< the row repeats, and this element has an entry of it already
+    bool is_begun = false;             ///< something was read
+    const s_event_map* map = nullptr;  ///< what the event behind the last item is tokenised with
+    const s_item* group = nullptr;     ///< a group that was read last: the event behind it is still part of it
+
+    const s_item& row() const { return level->elements[index]; }
+    bool is_at_end() const { return index == level->elements.size(); }
+};
+
+/// The level with which the reading of a class begins: its outermost base.
+const s_class& first_level(const s_class& type);
+/// The level behind another one; null behind the class itself.
+const s_class* next_level(const s_class& type, const s_class& level);
+/// What has to be done when the row that is due was read: to the row behind it, or to its next entry.
+void step_behind(s_place* place);
+/// The event behind a group has come: its flag rises.
+void close_group(s_place* place, void* object);
+/// The first list of a level that is too short, or null.
+const s_item* find_short_list(const s_class& level, const void* object);
+
+class c_plain_way {
+public:
+    enum class e_step {
+        taken,
+        declined,  ///< the next event is read by the reader
+        ended,     ///< the element was taken with its end tag
+        failed     ///< inside an element that was entered, the handler ended the read
+    };
+
+    /// Takes nothing.
+    explicit c_plain_way(c_xml_reader& reader) : m_reader(reader) {}
+    /// For the content of an element whose start tag was read as events. `name` is the element's.
+    c_plain_way(c_xml_reader& reader, const s_class& type, std::string_view name);
+    c_plain_way(const c_plain_way&) = delete;
+    c_plain_way& operator=(const c_plain_way&) = delete;
+
+    /// Takes items from the place on. `end` is the element whose end tag may be taken; null if none
+    /// may.
+    /// Unless the element ended, the reader then is as the events would have left it behind the last item.
+    e_step take_items(const s_class& type, void* object, s_place* place, const c_string_stack_node* end,
+                      elmx_error* error);
+
+private:
+    struct s_value;
+    struct s_attribute;
+    struct s_start_tag;
+    struct s_step;
+
+    bool begin();
+    void leave();
+
+    e_step take_item(const s_class& type, void* object, s_place* place, const c_string_stack_node* end,
+                     elmx_error* error);
+    const s_event_map* find_row(const s_class& type, const void* object, s_place* place, const char* name,
+                                const s_item** member) const;
+    bool is_complete(const s_class& type, const void* object, s_place place) const;
+    void commit(void* object, s_step& step, const char* at, int line_feeds);
+    e_step take_simple(void* object, s_step& step);
+    e_step take_class(const s_class& child, const s_item* member, void* object, s_step& step);
+    static void* make_child(const s_item& row, const s_item* member, void* object);
+
+    bool is_name(const char* at, const s_event_map& row) const;
+    const char* take_end_tag(const char* at, std::string_view name) const;
+    bool read_start_tag(const s_class& type, const void* object, const char* at, std::size_t name_size,
+                        s_start_tag* tag);
+    const s_item* find_attribute(const s_class& type, std::string_view name) const;
+    bool has_required(const s_class& type, const void* object, const s_start_tag& tag) const;
+    void store_attributes(const s_class& type, void* object, const s_start_tag& tag);
+
+    const char* read_value(const s_item& row, const char* at, char stop, s_value* value, int* line_feeds);
+    const char* find_stop(const char* at, char stop, bool* is_ascii, int* line_feeds) const;
+    bool is_right(const s_item& row, std::string_view text);
+    void store(const s_class& type, const s_item& row, void* object, const s_value& value);
+
+    void note_tag(std::string_view text, int line);
+    void note_value(const s_item& row, const s_value& value);
+
+    c_xml_reader& m_reader;
+    char m_prefix[24];  ///< with its colon
+    std::size_t m_prefix_size = 0;
+    bool m_is_possible = false;  ///< elements with the prefix are those of the tables
+    bool m_is_open = false;      ///< what follows is valid
+    const char* m_start = nullptr;
+    const char* m_at = nullptr;  ///< behind what was taken
+    const char* m_end = nullptr;
+    int m_line_feeds = 0;  ///< in what was taken
+    s_plain_trace m_trace;
+    std::string m_text;  ///< of a value that is checked or converted the long way
+};
+
+}  // namespace lmx
