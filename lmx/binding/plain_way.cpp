@@ -108,6 +108,42 @@ struct c_plain_way::s_step {
 
 namespace {
 
+/// Names are short, and a call would cost more than the comparison.
+inline bool is_same(const char* one, const char* other, std::size_t size) {
+    const auto differs = [&]<class Block>(Block, std::size_t at) {
+        Block a = 0;
+        Block b = 0;
+        std::memcpy(&a, one + at, sizeof a);
+        std::memcpy(&b, other + at, sizeof b);
+        return a != b;
+    };
+    if (size >= 8) {
+        for (std::size_t at = 0; at + 8 < size; at += 8) {
+            if (differs(std::uint64_t{}, at)) return false;
+        }
+        return !differs(std::uint64_t{}, size - 8);
+    }
+    if (size >= 4) return !differs(std::uint32_t{}, 0) && !differs(std::uint32_t{}, size - 4);
+    for (std::size_t at = 0; at < size; ++at) {
+        if (one[at] != other[at]) return false;
+    }
+    return true;
+}
+
+/// Steps over white space and counts the line feeds in it. Most is a line feed and the tabs of an indentation.
+inline const char* skip_blanks(const char* at, const char* end, int* line_feeds) {
+    while (at != end) {
+        const auto c = static_cast<unsigned char>(*at);
+        if (c > ' ') break;
+        if (c != '\t') {
+            if (k_stops_of_blanks[c]) break;
+            *line_feeds += static_cast<int>(c == '\n');
+        }
+        ++at;
+    }
+    return at;
+}
+
 /// Whether white space in a collapsed value would be changed by collapsing.
 bool is_collapsed(std::string_view text) {
     bool is_behind_blank = true;
@@ -239,32 +275,6 @@ void c_plain_way::leave() {
     m_is_open = false;
 }
 
-namespace {
-
-/// Names are short, and a call would cost more than the comparison.
-bool is_same(const char* one, const char* other, std::size_t size) {
-    const auto differs = [&]<class Block>(Block, std::size_t at) {
-        Block a = 0;
-        Block b = 0;
-        std::memcpy(&a, one + at, sizeof a);
-        std::memcpy(&b, other + at, sizeof b);
-        return a != b;
-    };
-    if (size >= 8) {
-        for (std::size_t at = 0; at + 8 < size; at += 8) {
-            if (differs(std::uint64_t{}, at)) return false;
-        }
-        return !differs(std::uint64_t{}, size - 8);
-    }
-    if (size >= 4) return !differs(std::uint32_t{}, 0) && !differs(std::uint32_t{}, size - 4);
-    for (std::size_t at = 0; at < size; ++at) {
-        if (one[at] != other[at]) return false;
-    }
-    return true;
-}
-
-}  // namespace
-
 /// Whether the name of a map's row stands there, as the whole local part of a tag's name.
 bool c_plain_way::is_name(const char* at, const s_event_map& row) const {
     return static_cast<std::size_t>(m_end - at) > row.name_length &&
@@ -284,7 +294,7 @@ const char* c_plain_way::take_end_tag(const char* at, std::string_view name) con
 const s_item* c_plain_way::find_attribute(const s_class& type, std::string_view name) const {
     for (const s_class* level = &type; level != nullptr; level = level->base) {
         for (const s_item& row : level->attributes) {
-            if (row.name == name) return &row;
+            if (row.name.size() == name.size() && is_same(row.name.data(), name.data(), name.size())) return &row;
         }
     }
     return nullptr;
@@ -301,11 +311,8 @@ bool c_plain_way::read_start_tag(const s_class& type, const void* object, const 
     tag->line_feeds = 0;
     // A line feed right behind a name is counted twice.
     if (*at == '\n') return false;
-    for (;;) {
-        while (at != m_end && !k_stops_of_blanks[static_cast<unsigned char>(*at)]) {
-            tag->line_feeds += static_cast<int>(*at == '\n');
-            ++at;
-        }
+    while (at == m_end || *at != '>') {
+        at = skip_blanks(at, m_end, &tag->line_feeds);
         if (m_end - at < 2) return false;
         if (*at == '>' || *at == '/') break;
         const char* const name = at;
@@ -390,12 +397,8 @@ c_plain_way::e_step c_plain_way::take_items(const s_class& type, void* object, s
 
 c_plain_way::e_step c_plain_way::take_item(const s_class& type, void* object, s_place* place,
                                            const c_string_stack_node* end, elmx_error* error) {
-    const char* at = m_at;
     int line_feeds = 0;
-    while (at != m_end && !k_stops_of_blanks[static_cast<unsigned char>(*at)]) {
-        line_feeds += static_cast<int>(*at == '\n');
-        ++at;
-    }
+    const char* at = skip_blanks(m_at, m_end, &line_feeds);
     if (m_end - at < 4 || *at != '<') return e_step::declined;
     if (at[1] == '/') {
         if (end == nullptr || !is_complete(type, object, *place)) return e_step::declined;
