@@ -6,9 +6,11 @@
 #include <zlib.h>
 #include <pugixml.hpp>
 
+#include <filesystem>
 #include <fstream>
 #include <iterator>
 
+#include "bench/variants.h"
 #include "lmx/lmx.h"
 #include "schema/Vyr.h"
 #include "zip/container.h"
@@ -40,6 +42,47 @@ operation vyr_load_file(const s_input& input) {
     return [path = wide(input.path)]() -> result {
         auto document = std::make_shared<Vyr>();
         return document->loadFile(path) == lmx::ELMX_OK ? document : nullptr;
+    };
+}
+
+/// What a load from a file can't do without: reading it.
+operation read_and_load(const s_input& input) {
+    return [path = input.path]() -> result {
+        std::ifstream file(path, std::ios::binary);
+        const auto size = static_cast<std::size_t>(std::filesystem::file_size(path));
+        const auto bytes = std::make_unique_for_overwrite<char[]>(size);
+        file.read(bytes.get(), static_cast<std::streamsize>(size));
+        auto document = std::make_shared<Vyr>();
+        lmx::c_xml_reader_memory reader(bytes.get(), size);
+        return file && document->unmarshal(reader) == lmx::ELMX_OK ? document : nullptr;
+    };
+}
+
+/// A load of the same document in another form.
+template <std::string (*Change)(const std::string&)>
+operation vyr_load_changed(const s_input& input) {
+    return [bytes = Change(input.bytes)] { return load_from_memory(bytes); };
+}
+
+/// Loads of many short documents, one after the other.
+operation vyr_load_short(const s_input& input) {
+    return [&input]() -> result {
+        result last;
+        for (const std::string& document : input.short_documents) {
+            last = load_from_memory(document);
+            if (!last) return nullptr;
+        }
+        return last;
+    };
+}
+
+operation pugixml_load_short(const s_input& input) {
+    return [&input]() -> result {
+        auto last = std::make_shared<pugi::xml_document>();
+        for (const std::string& document : input.short_documents) {
+            if (!last->load_buffer(document.data(), document.size(), pugi::parse_default)) return nullptr;
+        }
+        return last;
     };
 }
 
@@ -131,6 +174,20 @@ const std::vector<s_case>& cases() {
         {"pugixml load memory", pugixml_load_memory},
         {"vyr load file", vyr_load_file},
         {"pugixml load file", pugixml_load_file},
+        {"vyr load a file", vyr_load_file},
+        {"read load", read_and_load},
+        {"vyr load UTF-16", vyr_load_changed<in_utf16>},
+        {"UTF-8 load", vyr_load_memory},
+        {"vyr load CR LF", vyr_load_changed<with_carriage_returns>},
+        {"LF load", vyr_load_memory},
+        {"vyr load Latin-1", vyr_load_changed<in_latin1>},
+        {"UTF-8 load", vyr_load_memory},
+        {"vyr load unusual", vyr_load_changed<in_unusual_shape>},
+        {"plain load", vyr_load_memory},
+        {"vyr load foreign", vyr_load_changed<with_foreign_text>},
+        {"plain load", vyr_load_memory},
+        {"vyr load short", vyr_load_short, true},
+        {"pugixml load short", pugixml_load_short, true},
         {"vyr load report", vyr_load_report},
         {"plain load", vyr_load_memory},
         {"vyr load container", vyr_load_container},

@@ -12,11 +12,12 @@
 
 namespace vyr_bench {
 
-/// The document: as bytes, as a file with the same bytes, and in a container.
+/// The document: as bytes, as a file with the same bytes, and in a container. And short ones.
 struct s_input {
     std::string bytes;
     std::string path;
     std::string container_path;
+    std::vector<std::string> short_documents;
 };
 
 /// One measured operation: `prepare` is not timed and returns what is. What that call returns keeps its result alive,
@@ -24,6 +25,7 @@ struct s_input {
 struct s_case {
     std::string name;
     std::function<std::function<std::shared_ptr<void>()>(const s_input&)> prepare;
+    bool takes_short_documents = false;
 };
 
 /// Pairs: each operation of the library is followed by what it is measured against: the bare parser's, or the parts

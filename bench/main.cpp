@@ -4,8 +4,8 @@
 /// Runs the measured operations through Google Benchmark and closes with a table of the pairs: speed, instructions
 /// and cycles of an element, ratio, and peak memory beside the document's own bytes.
 ///
-/// Peak memory is the high-water mark of a whole process, so each operation gets a process of its own: the program
-/// starts itself again with `--peak <case> <file>`.
+/// Peak memory is the high-water mark of a whole process, and memory that was used before costs less than new one, so
+/// each operation also gets a process of its own: the program starts itself again with `--first <case> <file>`.
 
 #include <benchmark/benchmark.h>
 #include <sys/resource.h>
@@ -19,8 +19,10 @@
 #include <fstream>
 #include <iostream>
 #include <map>
+#include <set>
 #include <sstream>
 #include <string>
+#include <vector>
 
 #include "bench/cases.h"
 #include "bench/cost_meter.h"
@@ -41,29 +43,46 @@ double peak_memory() {
     return static_cast<double>(usage.ru_maxrss) * 1024;
 }
 
-/// The child's side: prints by how many bytes the operation raised the high-water mark.
-int measure_peak(std::size_t index, const std::string& path) {
-    s_input input{{}, path, path + "z"};
+/// Documents of one colour, as many as one operation loads.
+std::vector<std::string> short_documents() {
+    constexpr std::size_t count = 1000;
+    return std::vector<std::string>(count, vyr_bench::palette_text(1));
+}
+
+/// The child's side: prints by how many bytes the operation raised the high-water mark, and what it cost in a process
+/// that has done nothing before.
+int measure_first(std::size_t index, const std::string& path) {
+    s_input input{{}, path, path + "z", short_documents()};
     std::ifstream file(path, std::ios::binary);
     input.bytes.resize(std::filesystem::file_size(path));
     file.read(input.bytes.data(), static_cast<std::streamsize>(input.bytes.size()));
     const auto run = vyr_bench::cases().at(index).prepare(input);
     const double before = peak_memory();
+    vyr_bench::c_cost_meter meter;
+    meter.start();
     const auto result = run();
+    meter.stop();
     if (!result) return EXIT_FAILURE;
-    std::cout << peak_memory() - before << '\n';
+    const s_cost cost = meter.total();
+    std::cout << peak_memory() - before << ' ' << (cost.cycles > 0 ? cost.cycles : cost.seconds) << '\n';
     return EXIT_SUCCESS;
 }
 
-/// The parent's side; a negative number if the child failed.
-double peak_of(std::size_t index, const std::string& path) {
+/// What an operation takes that is the first of its process: memory, and cycles or seconds. Negative numbers if the
+/// process failed.
+struct s_first_run {
+    double peak = -1;
+    double cost = -1;
+};
+
+s_first_run first_run_of(std::size_t index, const std::string& path) {
     const std::string program = std::filesystem::read_symlink("/proc/self/exe");
-    const std::string command = "'" + program + "' --peak " + std::to_string(index) + " '" + path + "'";
+    const std::string command = "'" + program + "' --first " + std::to_string(index) + " '" + path + "'";
     FILE* pipe = popen(command.c_str(), "r");
-    if (pipe == nullptr) return -1;
-    double bytes = -1;
-    if (std::fscanf(pipe, "%lf", &bytes) != 1) bytes = -1;
-    return pclose(pipe) == 0 ? bytes : -1;
+    s_first_run run;
+    if (pipe == nullptr) return run;
+    const bool is_read = std::fscanf(pipe, "%lf %lf", &run.peak, &run.cost) == 2;
+    return pclose(pipe) == 0 && is_read ? run : s_first_run{};
 }
 
 constexpr char k_instructions[] = "instructions";
@@ -96,6 +115,12 @@ private:
     std::map<std::string, s_cost> m_costs;
 };
 
+/// The text that a case works on, as far as its size goes.
+double size_of(const s_case& row, const s_input& input) {
+    if (!row.takes_short_documents) return static_cast<double>(input.bytes.size());
+    return static_cast<double>(input.short_documents.front().size() * input.short_documents.size());
+}
+
 double count_elements(const std::string& text) {
     double count = 0;
     for (std::size_t at = text.find('<'); at != text.npos; at = text.find('<', at + 1)) {
@@ -120,9 +145,12 @@ void measure(benchmark::State& state, const s_case& row, const s_input& input) {
         state.ResumeTiming();
     }
     state.SetBytesProcessed(static_cast<std::int64_t>(state.iterations()) *
-                            static_cast<std::int64_t>(input.bytes.size()));
+                            static_cast<std::int64_t>(size_of(row, input)));
     const s_cost cost = meter.total();
-    const double elements = count_elements(input.bytes) * static_cast<double>(state.iterations());
+    const double in_one = row.takes_short_documents ? count_elements(input.short_documents.front()) *
+                                                          static_cast<double>(input.short_documents.size())
+                                                    : count_elements(input.bytes);
+    const double elements = in_one * static_cast<double>(state.iterations());
     state.counters[k_instructions] = cost.instructions / elements;
     state.counters[k_cycles] = cost.cycles / elements;
 }
@@ -138,23 +166,27 @@ void print_pairs(const c_reporter& reporter, const s_input& input) {
     } else {
         std::printf("instructions and cycles are those of one element, %s; ratios are of cycles\n", scope.c_str());
     }
-    std::printf("%-16s%9s%8s%8s%9s%9s%9s%8s%8s%9s%7s\n", "", "vyr MB/s", "instr.", "cycles", "peak", "beside", "MB/s",
-                "instr.", "cycles", "peak", "ratio");
+    std::printf("\"first\" is the ratio of the first run in a new process, \"ratio\" that of each further one\n");
+    std::printf("%-16s%9s%8s%8s%9s%9s%9s%8s%8s%9s%7s%7s\n", "", "vyr MB/s", "instr.", "cycles", "peak", "beside",
+                "MB/s", "instr.", "cycles", "peak", "ratio", "first");
     const auto& rows = vyr_bench::cases();
     for (std::size_t i = 0; i + 1 < rows.size(); i += 2) {
         const s_cost* const vyr = reporter.find(rows[i].name);
         const s_cost* const other = reporter.find(rows[i + 1].name);
         if (vyr == nullptr || other == nullptr) continue;  // left out by --benchmark_filter
-        const auto print_side = [&](const s_cost& cost, std::size_t index) {
-            std::printf("%9.1f%8.0f%8.0f%8.2fx", size / cost.seconds / k_mega, cost.instructions, cost.cycles,
-                        peak_of(index, input.path) / size);
+        const auto print_side = [&](const s_cost& cost, const s_first_run& first) {
+            const double row_size = size_of(rows[i], input);
+            std::printf("%9.1f%8.0f%8.0f%8.2fx", row_size / cost.seconds / k_mega, cost.instructions, cost.cycles,
+                        first.peak / row_size);
         };
+        const s_first_run first = first_run_of(i, input.path);
+        const s_first_run other_first = first_run_of(i + 1, input.path);
         const double ratio = vyr->cycles > 0 ? other->cycles / vyr->cycles : other->seconds / vyr->seconds;
         std::printf("%-16s", rows[i].name.substr(4).c_str());
-        print_side(*vyr, i);
+        print_side(*vyr, first);
         std::printf("%9s", rows[i + 1].name.substr(0, rows[i + 1].name.find(' ')).c_str());
-        print_side(*other, i + 1);
-        std::printf("%7.2f\n", ratio);
+        print_side(*other, other_first);
+        std::printf("%7.2f%7.2f\n", ratio, other_first.cost / first.cost);
     }
 }
 
@@ -174,8 +206,8 @@ std::size_t take_colors(int& argc, char** argv) {
 }  // namespace
 
 int main(int argc, char** argv) {
-    if (argc == 4 && std::string(argv[1]) == "--peak")
-        return measure_peak(std::strtoull(argv[2], nullptr, 10), argv[3]);
+    if (argc == 4 && std::string(argv[1]) == "--first")
+        return measure_first(std::strtoull(argv[2], nullptr, 10), argv[3]);
 
     const std::size_t colors = take_colors(argc, argv);
     benchmark::Initialize(&argc, argv);
@@ -183,7 +215,8 @@ int main(int argc, char** argv) {
 
     s_input input{vyr_bench::palette_text(colors),
                   std::filesystem::temp_directory_path() / ("vyr_bench." + std::to_string(getpid()) + ".vyr"),
-                  {}};
+                  {},
+                  short_documents()};
     input.container_path = input.path + "z";
     if (!vyr_bench::is_sound(input.bytes, input.container_path)) {
         std::cerr << "the palette does not load, or is not written back byte for byte\n";
@@ -191,7 +224,9 @@ int main(int argc, char** argv) {
     }
     std::ofstream(input.path, std::ios::binary) << input.bytes;
 
+    std::set<std::string> names;
     for (const s_case& row : vyr_bench::cases()) {
+        if (!names.insert(row.name).second) continue;  // stands beside more than one
         benchmark::RegisterBenchmark(row.name.c_str(),
                                      [&row, &input](benchmark::State& state) { measure(state, row, input); })
             ->Unit(benchmark::kMillisecond)
