@@ -65,7 +65,9 @@ void expect_same_in_threads(const std::function<std::string(const fs::path& fold
     std::latch start(k_threads);
     std::vector<std::thread> threads;
     for (std::size_t i = 0; i < k_threads; ++i) {
-        const fs::path folder = "thread" + std::to_string(i);
+        // Tests run side by side too.
+        const std::string test = testing::UnitTest::GetInstance()->current_test_info()->name();
+        const fs::path folder = test + "-" + std::to_string(i);
         fs::create_directories(folder);
         threads.emplace_back([&, i, folder] {
             start.arrive_and_wait();
