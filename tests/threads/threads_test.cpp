@@ -75,8 +75,9 @@ void expect_same_in_threads(const std::function<std::string(const fs::path& fold
         });
     }
     for (std::thread& thread : threads) thread.join();
-    fs::create_directories("alone");
-    const std::string expected = work("alone");
+    const fs::path alone = testing::UnitTest::GetInstance()->current_test_info()->name();
+    fs::create_directories(alone);
+    const std::string expected = work(alone);
     EXPECT_GT(expected.size(), 10'000U);
     for (const std::string& found : seen) EXPECT_EQ(found, expected);
 }
