@@ -477,6 +477,7 @@ const s_event_map* c_plain_way::find_row(const s_class& type, const void* object
 /// Whether nothing is missing behind the place.
 bool c_plain_way::is_complete(const s_class& type, const void* object, s_place place) const {
     if (type.content == content_kind::choice) return place.is_begun;
+    if (!place.is_begun && !type.may_be_empty) return false;
     for (const s_class* level = place.level; level != nullptr; level = next_level(type, *level)) {
         const auto rows = level->elements.subspan(level == place.level ? place.index : 0);
         for (const s_item& row : rows) {
@@ -532,7 +533,8 @@ c_plain_way::e_step c_plain_way::take_class(const s_class& child, const s_item* 
     // A head that may be specialised is what its name says when no attribute says another.
     if (member != nullptr && !member->factory.empty() && (member->use & use_demanded) != 0) return e_step::declined;
     if (m_reader.get_element_name_stack().get_depth() >= k_maximum_nesting) return e_step::declined;
-    const void* const present = row.kind == item_kind::child ? &lmx::member<std::byte>(object, row.offset) : nullptr;
+    const bool is_child = row.kind == item_kind::child || row.kind == item_kind::optional_child;
+    const void* const present = is_child ? child_of(row, object) : nullptr;
     if (present != nullptr && is_nil(child, present)) return e_step::declined;
 
     s_start_tag tag;

@@ -113,7 +113,8 @@ void c_xml_reader::take_plain(std::size_t count, int line_feeds, const s_plain_t
     if (trace.tag.data() == nullptr) return;
     set_start_tag(trace.tag, trace.tag_line);
     // An end tag or text behind has no name of its own.
-    m_cracked_name.set(m_local, has_attributes() ? m_attr_name : m_name.assign(trace.tag));
+    const std::size_t name_length = run_length(trace.tag, 0, k_stops_of_names);
+    m_cracked_name.set(m_local, has_attributes() ? m_attr_name : m_name.assign(trace.tag, 0, name_length));
 }
 
 void c_xml_reader::get_element_event(const s_event_map* map, elmx_error* error, std::string* name) {
