@@ -400,6 +400,34 @@ TEST(Objects, AHolderThatIsAnElementKnowsAFlagAndItsMember) {
     EXPECT_TRUE(parent.isset_ColorSpace());
 }
 
+/// Tells of its end.
+class c_watched : public v2::ColorSpaceCMYKType {
+public:
+    explicit c_watched(bool* is_ended) : m_is_ended(is_ended) {}
+    ~c_watched() override { *m_is_ended = true; }
+
+private:
+    bool* m_is_ended;
+};
+
+TEST(Objects, AnAdoptedMemberEndsAnotherAlternativeAndNoneOfItsOwn) {
+    bool is_other_ended = false;
+    bool is_first_ended = false;
+    bool is_second_ended = false;
+    {
+        v2::sg_ColorSpace holder;
+        v2::ParentColorSpace& inner = holder.get_ColorSpaceRGB().get_ParentColorSpace();
+        inner.assign_ColorSpaceCMYK(new c_watched(&is_other_ended));
+        auto* const first = new c_watched(&is_first_ended);
+        holder.assign_ColorSpaceCMYK(first);
+        EXPECT_TRUE(is_other_ended);
+        holder.assign_ColorSpaceCMYK(new c_watched(&is_second_ended));
+        EXPECT_FALSE(is_first_ended);
+        if (!is_first_ended) delete first;
+    }
+    EXPECT_TRUE(is_second_ended);
+}
+
 TEST(Objects, ANullMemberIsHarmless) {
     v2::sg_Function holder;
     const auto assign_null = [](v2::sg_Function& target) {

@@ -166,6 +166,7 @@ TEST(Lines, CountAgainWhenGivenBack) {
         {"<\rb", "b", 2, 2},      // dropped as the second half of a pair
         {"<\r\nb", "\nb", 3, 2},  // ... whose place the true second half takes
         {"<\r\rb", "\nb", 3, 3},
+        {"<\rb\nc", "b\nc", 3, 3},  // and one that was dropped takes no part in a later count
     };
     for (const auto& row : cases) {
         const std::string bytes = row.bytes;

@@ -125,6 +125,7 @@ TEST(Scanning, TakesDeclarationsOnlyAheadOfContent) {
         {"<?xml version='1.0'?><a/>", "<a/>$", ""},
         {"  <!-- c --><?pi ?><?xml version = \"1.1\" encoding='UTF-8' standalone='yes' ?><a/>", "<a/>$", ""},
         {"<?xml version='1.0' standalone='maybe'?><a/>", "<a/>$", ""},
+        {"<?x?><?xm?><a><?x?>1</a>", "<a>'1'</a>$", ""},  // short of the declaration's name
         {"<?xml version='1.0' standalone='no'?>", "!", "1/13@1:XML Document is not standalone;"},
         {"<?xml version='1.0' standalone='yes' encoding='UTF-8'?>", "!", ""},
         {"<?xml version='1.0' standalone?><a/>", "<a/>$", ""},

@@ -62,6 +62,8 @@ TEST(AsXml, NumbersHaveAtMostFourteenOrSevenDigits) {
                    {0.00009, "9e-05"},
                    {1e14, "1e+14"},
                    {99999999999999.0, "99999999999999"},
+                   {99999999999999.96, "1e+14"},  // rounded up to one digit more than there may be
+                   {-9999999999999.996, "-10000000000000"},
                    {1e21, "1e+21"},
                    {-1e-300, "-1e-300"},
                    {5e-324, "4.9406564584125e-324"}};
