@@ -11,7 +11,12 @@
 #include "lmx/binding/storage.h"
 #include "lmx/binding/unmarshal.h"
 #include "lmx/reader/plain_text.h"
-#include "lmx/values/unicode.h"
+
+#if defined(_MSC_VER)
+#define PLAIN_WAY_APART __declspec(noinline)
+#else
+#define PLAIN_WAY_APART [[gnu::noinline]]
+#endif
 
 namespace lmx {
 
@@ -88,7 +93,6 @@ struct c_plain_way::s_attribute {
 struct c_plain_way::s_start_tag {
     static constexpr std::size_t k_most_attributes = 12;
 
-    std::string_view name;
     std::string_view text;  ///< from the name up to the end
     const char* behind;     ///< what follows the tag
     bool is_closed;         ///< an empty-element tag
@@ -306,7 +310,6 @@ bool c_plain_way::read_start_tag(const s_class& type, const void* object, const 
                                  s_start_tag* tag) {
     const char* const start = at;
     at += name_size;
-    tag->name = {start, name_size};
     tag->count = 0;
     tag->line_feeds = 0;
     // A line feed right behind a name is counted twice.
@@ -527,61 +530,71 @@ void* c_plain_way::make_child(const s_item& row, const s_item* member, void* obj
     return choose(*row.type, *member, holder);
 }
 
+/// The stack must hold as many levels of this as elements may nest: what a start tag says lies in `enter_class`,
+/// which is over when the children are read.
 c_plain_way::e_step c_plain_way::take_class(const s_class& child, const s_item* member, void* object, s_step& step) {
     const s_item& row = step.found.row();
-    const bool is_choice = step.found.level->content == content_kind::choice;
+    s_entered entered{};
+    if (!enter_class(child, member, object, step, &entered)) return e_step::declined;
+    if (entered.has_children) {
+        *step.error = read_plain_element(child, entered.object, m_reader, step.name, entered.line, *this);
+        if (*step.error != ELMX_OK) return e_step::failed;
+    }
+    if (member == nullptr) {
+        mark_set(row, object);
+        note_item(m_reader, row);
+    }
+    step_behind(step.place);
+    return e_step::taken;
+}
+
+/// Takes a start tag with its attributes and, of a class with a value, that and the end tag.
+PLAIN_WAY_APART bool c_plain_way::enter_class(const s_class& child, const s_item* member, void* object, s_step& step,
+                                              s_entered* entered) {
+    const s_item& row = step.found.row();
     // A head that may be specialised is what its name says when no attribute says another.
-    if (member != nullptr && !member->factory.empty() && (member->use & use_demanded) != 0) return e_step::declined;
-    if (m_reader.get_element_name_stack().get_depth() >= k_maximum_nesting) return e_step::declined;
+    if (member != nullptr && !member->factory.empty() && (member->use & use_demanded) != 0) return false;
+    if (m_reader.get_element_name_stack().get_depth() >= k_maximum_nesting) return false;
     const bool is_child = row.kind == item_kind::child || row.kind == item_kind::optional_child;
     const void* const present = is_child ? child_of(row, object) : nullptr;
-    if (present != nullptr && is_nil(child, present)) return e_step::declined;
+    if (present != nullptr && is_nil(child, present)) return false;
 
     s_start_tag tag;
-    if (!read_start_tag(child, present, step.name.data(), step.name.size(), &tag)) return e_step::declined;
-    const int line = m_reader.get_text_line() + m_line_feeds + step.line_feeds;
+    if (!read_start_tag(child, present, step.name.data(), step.name.size(), &tag)) return false;
+    entered->line = m_reader.get_text_line() + m_line_feeds + step.line_feeds;
     int line_feeds = step.line_feeds + tag.line_feeds;
     const bool is_simple = child.content == content_kind::simple;
     const char* behind = tag.behind;
     s_value content;
     const s_item* content_row = nullptr;
     if (is_simple) {
-        if (tag.is_closed) return e_step::declined;
+        if (tag.is_closed) return false;
         content_row = &content_owner(child).elements.front();
         behind = read_value(*content_row, behind, '<', &content, &line_feeds);
         if (behind != nullptr) behind = take_end_tag(behind, step.name);
-        if (behind == nullptr) return e_step::declined;
+        if (behind == nullptr) return false;
     } else if (tag.is_closed) {
-        if (!child.may_be_empty && child.content != content_kind::empty) return e_step::declined;
+        if (!child.may_be_empty && child.content != content_kind::empty) return false;
     } else if (child.content == content_kind::empty) {
-        return e_step::declined;
+        return false;
     }
+    entered->has_children = !is_simple && !tag.is_closed;
 
     commit(object, step, behind, line_feeds);
-    void* target = nullptr;
-    if (is_choice) {
-        note_item(m_reader, row);
+    if (member != nullptr) note_item(m_reader, row);
+    if (step.found.level->content == content_kind::choice) {
         release_choice(*step.found.level, object);
-        target = choose(*step.found.level, row, object);
+        entered->object = choose(*step.found.level, row, object);
     } else {
-        if (member != nullptr) note_item(m_reader, row);
-        target = make_child(row, member, object);
+        entered->object = make_child(row, member, object);
     }
-    note_tag(tag.text, line);
-    store_attributes(child, target, tag);
+    note_tag(tag.text, entered->line);
+    store_attributes(child, entered->object, tag);
     if (is_simple) {
-        store(content_owner(child), *content_row, target, content);
+        store(content_owner(child), *content_row, entered->object, content);
         note_value(*content_row, content);
-    } else if (!tag.is_closed) {
-        *step.error = read_plain_element(child, target, m_reader, tag.name, line, *this);
-        if (*step.error != ELMX_OK) return e_step::failed;
     }
-    if (!is_choice && member == nullptr) {
-        mark_set(row, object);
-        note_item(m_reader, row);
-    }
-    step_behind(step.place);
-    return e_step::taken;
+    return true;
 }
 
 }  // namespace lmx

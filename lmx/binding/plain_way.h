@@ -73,6 +73,12 @@ private:
     struct s_value;
     struct s_attribute;
     struct s_start_tag;
+    /// An element of a class whose start tag was taken.
+    struct s_entered {
+        void* object;
+        int line;
+        bool has_children;
+    };
     struct s_step;
 
     bool begin();
@@ -86,6 +92,7 @@ private:
     void commit(void* object, s_step& step, const char* at, int line_feeds);
     e_step take_simple(void* object, s_step& step);
     e_step take_class(const s_class& child, const s_item* member, void* object, s_step& step);
+    bool enter_class(const s_class& child, const s_item* member, void* object, s_step& step, s_entered* entered);
     static void* make_child(const s_item& row, const s_item* member, void* object);
 
     bool is_name(const char* at, const s_event_map& row) const;

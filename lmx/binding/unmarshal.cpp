@@ -10,7 +10,6 @@
 #include "lmx/binding/open_element.h"
 #include "lmx/binding/plain_way.h"
 #include "lmx/binding/storage.h"
-#include "lmx/values/unicode.h"
 
 namespace lmx {
 namespace {
