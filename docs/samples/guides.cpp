@@ -261,6 +261,7 @@ std::vector<lmx::elmx_error> load_all(const std::vector<std::string>& paths,
         }));
     }
     std::vector<lmx::elmx_error> codes;
+    codes.reserve(loads.size());
     for (auto& load : loads) codes.push_back(load.get());
     return codes;
 }

@@ -117,7 +117,7 @@ protected:
     bool take_if_ahead(std::string_view text) {
         if (!is_ahead(text)) return false;
         m_current += text.size();
-        m_last_char = m_current[-1];
+        m_last_char = static_cast<unsigned char>(m_current[-1]);
         return true;
     }
     /// The same with a text in three parts. Where `body` isn't ASCII, its last byte may reach into what is behind it.
@@ -127,7 +127,7 @@ protected:
         const std::string_view rest(m_current + head.size(), size - head.size());
         if (!rest.starts_with(body) || !rest.ends_with(tail) || !is_ascii(body)) return false;
         m_current += size;
-        m_last_char = m_current[-1];
+        m_last_char = static_cast<unsigned char>(m_current[-1]);
         return true;
     }
 

@@ -67,7 +67,7 @@ class VYR_EXPORT c_xml_reader : private detail::s_error_holder, public c_xml {
 public:
     /// The source is borrowed, and first used when something is read.
     explicit c_xml_reader(c_read& source);
-    virtual ~c_xml_reader();
+    ~c_xml_reader() override;
 
     /// Decides what becomes of a failure: `ELMX_OK` swallows it and reading goes on, any other code ends the read
     /// with that code. The default keeps the code. `item_name` is the element or attribute, `file` and `line` the
