@@ -7,6 +7,7 @@
 #include <bit>
 #include <cmath>
 #include <cstring>
+#include <limits>
 #include <sstream>
 #include <string>
 
@@ -153,11 +154,29 @@ void check_printed(Number number) {
             "far from its text:", text);
 }
 
-/// A check in words of this program: what the reader's own, which is made of one table, must agree with.
-void check_scalars(const std::string& text) {
+/// What the integers of a text must be, digit by digit; a number of more than 18 digits stays too great for any.
+void check_integers(const std::string& text) {
     static_cast<void>(lmx::text_to_int(text));
     static_cast<void>(lmx::text_to_byte(text));
     static_cast<void>(lmx::text_to_unsigned(text));
+    if (!lmx::is_valid_integer(text)) return;
+    constexpr std::uint64_t k_enough = 100'000'000'000'000'000;
+    std::uint64_t magnitude = 0;
+    for (const char c : text) {
+        if (lmx::xisdigit(c) && magnitude < k_enough)
+            magnitude = magnitude * 10 + static_cast<std::uint64_t>(c - '0');
+    }
+    const std::uint64_t value = text[0] == '-' ? 0 - magnitude : magnitude;
+    const bool is_great = magnitude > std::numeric_limits<std::uint32_t>::max();
+    const auto low = static_cast<std::uint32_t>(value);
+    require(lmx::text_to_unsigned(text) == (is_great ? std::numeric_limits<std::uint32_t>::max() : low),
+            "another unsigned number:", text);
+    if (magnitude >= k_enough) return;
+    require(lmx::text_to_int(text) == static_cast<std::int32_t>(low), "another signed number:", text);
+    require(lmx::text_to_byte(text) == static_cast<std::uint8_t>(low), "another byte:", text);
+}
+
+void check_scalars(const std::string& text) {
     static_cast<void>(lmx::is_valid_bool(text));
     require(lmx::total_digits(text) >= lmx::fraction_digits(text), "more digits behind the point than in all:", text);
     if (!lmx::is_valid_float(text) || text == "INF" || text == "-INF" || text == "NaN") return;
@@ -222,6 +241,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* bytes, std::size_t siz
     check_binary(text);
     check_printed(std::bit_cast<double>(bits));
     check_printed(std::bit_cast<float>(static_cast<std::uint32_t>(bits)));
+    check_integers(text);
     check_scalars(text);
     check_unicode(text, wide);
     check_pattern(text);
