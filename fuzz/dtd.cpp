@@ -29,7 +29,8 @@ struct s_text {
 bool is_tame_character(int c) {
     if (c < 0x80) return lmx::xisalnum(c) || c == ' ' || c == '.' || c == ';' || c == '#' || c == '/' || c == '>';
     // Line ends beyond ASCII are made line feeds in documents, and surrogates and the last two are no characters.
-    return c > 0x9F && c != 0x2028 && c != 0x2029 && (c < 0xD800 || c > 0xDFFF) && (c & 0xFFFE) != 0xFFFE;
+    return c > 0x9F && c <= 0x10FFFF && c != 0x2028 && c != 0x2029 && (c < 0xD800 || c > 0xDFFF) &&
+           (c & 0xFFFE) != 0xFFFE;
 }
 
 class c_grammar {

@@ -134,7 +134,7 @@ void c_duration::normalize() {
     m_months %= 12;
 }
 
-bool operator==(const c_duration& a, const c_duration& b) { return (a <=> b) == 0; }
+bool operator==(const c_duration& a, const c_duration& b) { return std::is_eq(a <=> b); }
 
 std::partial_ordering operator<=>(const c_duration& a, const c_duration& b) {
     c_duration one = a;
