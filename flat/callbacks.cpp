@@ -8,6 +8,7 @@
 #include <cstddef>
 
 #include "flat/flat.h"
+#include "flat/generated/vyr_flat.h"
 
 namespace flat {
 namespace {

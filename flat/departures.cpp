@@ -6,6 +6,7 @@
 
 #include "document/result.h"
 #include "flat/call.h"
+#include "flat/generated/vyr_flat.h"
 #include "lmx/values/unicode.h"
 #include "schema/generated/header.h"
 

@@ -6,7 +6,10 @@
 
 #include "document/report.h"
 
+#include <memory>
+
 #include "flat/call.h"
+#include "flat/generated/vyr_flat.h"
 #include "lmx/values/unicode.h"
 #include "schema/generated/header.h"
 
@@ -39,9 +42,10 @@ char16_t* text_of(void* report, std::uint32_t index, std::string DocumentFault::
 
 extern "C" {
 
-// The caller deletes the report. It is null only if memory has run out.
+VYR_FLAT(const char*) VyrModule_Version() { return VYR_VERSION; }
 
-/// With `collect`, goes on after faults of values and attributes. Faults beyond `limit` are counted only.
+// What each does stands in vyr_flat.h, from flat/members.toml.
+
 VYR_FLAT(void*)
 VyrModule_LoadFile(void* self, const char16_t* path, std::uint32_t collect, std::uint32_t limit) {
     return guarded(
@@ -58,6 +62,30 @@ VyrModule_LoadString(void* self, const char16_t* text, std::uint32_t collect, st
             return new DocumentReport(loadStringWithReport(as<Vyr>(s), wide(t), options(c, l)));
         },
         self, text, collect, limit);
+}
+
+VYR_FLAT(void*)
+VyrModule_LoadMemory(void* self, const void* data, std::uint32_t size, const char16_t* name, std::uint32_t collect,
+                     std::uint32_t limit) {
+    return guarded(
+        +[](void* s, const void* d, std::uint32_t n, const char16_t* f, std::uint32_t c, std::uint32_t l) -> void* {
+            ReportOptions chosen = options(c, l);
+            chosen.name = lmx::convert_to_narrow(wide(f));
+            return new DocumentReport(loadMemoryWithReport(as<Vyr>(s), static_cast<const char*>(d), n, chosen));
+        },
+        self, data, size, name, collect, limit);
+}
+
+VYR_FLAT(void*) VyrModule_WriteString(void* self, char16_t** text) {
+    *text = nullptr;
+    return guarded(
+        +[](void* s, char16_t** t) -> void* {
+            std::u16string written;
+            auto report = std::make_unique<DocumentReport>(writeStringWithReport(as<Vyr>(s), &written));
+            if (report->isOk()) *t = new_string(written);
+            return report->isOk() && *t == nullptr ? nullptr : report.release();
+        },
+        self, text);
 }
 
 VYR_FLAT(void*) VyrModule_WriteFile(void* self, const char16_t* path) {
@@ -78,13 +106,10 @@ VYR_FLAT(std::uint32_t) VyrModule_ReportFaultCount(void* report) {
 VYR_FLAT(std::uint32_t) VyrModule_ReportTotalCount(void* report) {
     return static_cast<std::uint32_t>(as<DocumentReport>(report).getTotalCount());
 }
-/// One line for each fault that was kept.
 VYR_FLAT(char16_t*) VyrModule_ReportText(void* report) {
     return guarded(
         +[](void* r) { return new_wide(as<DocumentReport>(r).toString()); }, report);
 }
-
-// For an index that is too high: 0 and empty text.
 
 VYR_FLAT(std::int32_t) VyrModule_FaultCode(void* report, std::uint32_t index) { return fault(report, index).code; }
 VYR_FLAT(std::int32_t) VyrModule_FaultLine(void* report, std::uint32_t index) { return fault(report, index).line; }

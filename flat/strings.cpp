@@ -12,6 +12,7 @@
 #include <cstring>
 
 #include "flat/flat.h"
+#include "flat/generated/vyr_flat.h"
 
 #if defined(_WIN32)
 #include <windows.h>

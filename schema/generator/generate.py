@@ -1,7 +1,8 @@
 #!/usr/bin/env python3
 # Copyright 2026 The Vyr Authors
 # SPDX-License-Identifier: Apache-2.0
-"""Makes schema/generated/ and flat/generated/ from schema/vyr.xsd, schema/binding.toml and flat/members.toml.
+"""Makes schema/generated/, flat/generated/ and csharp/generated/ from schema/vyr.xsd, schema/binding.toml and
+flat/members.toml.
 
     python3 schema/generator/generate.py            writes what has changed
     python3 schema/generator/generate.py --check    only compares; fails on a difference
@@ -12,7 +13,8 @@ from pathlib import Path
 
 from model import read_model
 from plan import Plan
-from print_flat import print_exports, print_flat_source
+from print_csharp import print_csharp_files
+from print_flat import print_c_header, print_exports, print_flat_source
 from print_headers import print_all, print_enumerations, print_forward, print_header
 from print_members import Members
 from print_model import print_model
@@ -45,6 +47,7 @@ def print_flat_files(plan, members):
     files = {f"{topic.name}.cpp": print_flat_source(plan, topic) for topic in plan.topics}
     files["members.cpp"] = members.print_source()
     files["exports.txt"] = print_exports(plan, members)
+    files["vyr_flat.h"] = print_c_header(plan, members)
     return files
 
 
@@ -56,7 +59,7 @@ def print_files(plan, members):
         files["sources.cmake"] = "\n".join([f"# Made by {COMMAND}.", "set(generated_sources",
                                             *(f"    generated/{name}" for name in sources), ")", ""])
         result |= {f"{folder}/generated/{name}": text for name, text in files.items()}
-    return result
+    return result | {f"csharp/generated/{name}": text for name, text in print_csharp_files(plan).items()}
 
 
 def main(arguments):
@@ -70,7 +73,7 @@ def main(arguments):
         print(error, file=sys.stderr)
         return 1
     there = {path.relative_to(ROOT).as_posix(): path.read_text(encoding="utf-8")
-             for folder in ("schema", "flat") for path in (ROOT / folder / "generated").glob("*")}
+             for folder in ("schema", "flat", "csharp") for path in (ROOT / folder / "generated").glob("*")}
     different = sorted(name for name in there.keys() | files.keys() if there.get(name) != files.get(name))
     for name in different:
         if arguments:

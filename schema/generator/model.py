@@ -70,6 +70,8 @@ class Item:
     presence: bool = False
     initial: str | None = None
     mutable: bool = False
+    package_name: str = ""  # in the typed packages
+    columns: tuple = ()  # of a list: names in the typed packages, each with the accessor of an entry's number
 
     @property
     def enumerated(self):
@@ -100,6 +102,7 @@ class Class:
     init: str | None = None
     declarations: tuple = ()
     topic: str = ""
+    package_name: str = ""  # in the typed packages
 
     @property
     def items(self):
@@ -122,6 +125,15 @@ class Model:
 
     def __getitem__(self, name):
         return next(c for c in self.classes if c.name == name)
+
+
+def plural(name):
+    """The English plural of a name; what is one already stays."""
+    if name.endswith("s"):
+        return name
+    if name.endswith("y") and name[-2] not in "aeiou":
+        return name[:-1] + "ies"
+    return name + ("es" if name.endswith(("x", "ch", "sh")) else "s")
 
 
 BUILT_IN = {
@@ -456,6 +468,7 @@ class Builder:
 
     def model(self):
         self.build()
+        self.name_for_packages()
         self.overlay.check_all_used()
         for made in list(self.classes.values()):
             content = made
@@ -500,6 +513,29 @@ class Builder:
             if not self.classes[made.name].topic:
                 raise SchemaError(self.overlay.file, self.overlay.lines.get("topics", 0),
                                   f"class {made.name} has no topic")
+
+    def name_for_packages(self):
+        """The names that typed packages give to classes and items, by rule or by the overlay."""
+        for made in self.classes.values():
+            prefix, _, rest = made.name.partition("_")
+            name = f"{rest}Choice" if prefix in ("sg", "anon") else made.name
+            parts = {part: tuple(self.name_item(made, item) for item in getattr(made, part))
+                     for part in ("attributes", "elements")}
+            self.update(made.name, package_name=self.overlay.take("package_classes", made.name, name), **parts)
+
+    def name_item(self, made, item):
+        key = f"{made.name}.{item.accessor}"
+        name = "Value" if item.accessor == made.name else item.accessor
+        if item.repeats:
+            name = self.overlay.take("package_plurals", item.accessor, plural(name))
+        columns = []
+        for column, number in self.overlay.take("package_columns", key, {}).items():
+            found = next((i for i in self.classes[item.type].items if number in (i.accessor, i.name)), None) \
+                if item.kind == "child_list" else None
+            if found is None or found.kind == "alternative" or found.value is None or found.value.value != "number":
+                raise self.overlay.error("package_columns", key, f"'{number}' is no number of its entries")
+            columns.append((column, found.accessor))
+        return replace(item, package_name=self.overlay.take("package_items", key, name), columns=tuple(columns))
 
     def check_enumerations(self):
         seen = {}

@@ -1,15 +1,16 @@
 # Copyright 2026 The Vyr Authors
 # SPDX-License-Identifier: Apache-2.0
-"""flat/generated/: one plain function per member of a class, and the list of their names.
+"""flat/generated/: one plain function per member of a class, the list of their names, and a header for C.
 
 A function is a line that names a member; conversion, null checks and exceptions lie in flat/call.h. The overload
 number of a member is its place among the members of its name in the class's declaration; members that the flat
 interface leaves out keep theirs.
 """
 
+import textwrap
 from dataclasses import dataclass
 
-from cpp import FOLDER, LISTS, NAMESPACE, frame
+from cpp import FOLDER, LISTS, NAMESPACE, WIDTH, frame
 from source import SchemaError
 
 WIDE, NARROW, OBJECT, INDEX = "const char16_t*", "const char*", "void*", "std::uint32_t"
@@ -239,7 +240,75 @@ def print_flat_source(plan, topic):
 def print_exports(plan, members):
     """The names of all functions with the bytes of their arguments."""
     made = [f for topic in plan.topics for c in topic.classes for f in functions_of(plan, c)] + members.functions
-    sizes = {f.stem: f.size for f in made} | members.by_hand
-    if len(sizes) < len(made) + len(members.by_hand):
+    sizes = {f.stem: f.size for f in made}
+    if len(sizes) < len(made):
         raise SchemaError(members.file, 0, "a name stands for two functions")
     return "".join(f"{stem} {size}\n" for stem, size in sorted(sizes.items()))
+
+
+HEADER_START = """/* Copyright 2026 The Vyr Authors
+ * SPDX-License-Identifier: Apache-2.0
+ *
+ * Made by schema/generator/generate.py from schema/vyr.xsd, schema/binding.toml and flat/members.toml.
+ * clang-format off
+ *
+ * All flat functions, for C and for whoever binds another language. Objects are pointers without a type. Texts of
+ * char16_t are UTF-16, texts of char are UTF-8; both end with a zero. A new text is freed by VyrModule_FreeString. What
+ * new_, clone, factory and writeString give is deleted by the caller, with the delete_ of its class; all other objects
+ * are parts of the one that they were asked from. A result called an error code is 0 for success.
+ */
+
+#ifndef VYR_FLAT_H
+#define VYR_FLAT_H
+
+#include <stdint.h>
+#ifndef __cplusplus
+#include <uchar.h>
+#endif
+
+#ifndef VYR_FLAT_CALL
+#if defined(_WIN32)
+#define VYR_FLAT_CALL __stdcall
+#else
+#define VYR_FLAT_CALL
+#endif
+#endif
+
+#ifdef __cplusplus
+extern "C" {
+#endif
+
+typedef void(VYR_FLAT_CALL* vyr_exception_callback)(const char* text);
+typedef void(VYR_FLAT_CALL* vyr_argument_callback)(const char* text, const char* parameter);
+typedef char*(VYR_FLAT_CALL* vyr_string_callback)(const char* text);
+"""
+HEADER_END = """
+#ifdef __cplusplus
+}
+#endif
+
+#endif
+"""
+
+
+def c_type(kind):
+    return f"vyr_{kind}" if kind.endswith("_callback") else kind.replace("std::", "")
+
+
+def c_declaration(function):
+    parameters = ", ".join(f"{c_type(kind)} {name}" for kind, name in function.parameters) or "void"
+    return f"{c_type(function.result)} VYR_FLAT_CALL {function.stem}({parameters});"
+
+
+def print_c_header(plan, members):
+    """All functions with their types, as C declares them."""
+    lines = [HEADER_START]
+    for function in members.by_hand:
+        text = textwrap.wrap(members.docs[function.stem], WIDTH - 6, break_long_words=False, break_on_hyphens=False)
+        lines += ["/* " + "\n * ".join(text) + " */", c_declaration(function)]
+    for owner, functions in members.groups.items():
+        lines += ["", f"/* {owner} */", *map(c_declaration, functions)]
+    for topic in plan.topics:
+        for made in topic.classes:
+            lines += ["", f"/* {made.name} */", *map(c_declaration, functions_of(plan, made))]
+    return "\n".join([*lines, HEADER_END])

@@ -81,18 +81,32 @@ def function(file, owner, line):
                     f"guarded(+[]({', '.join(signature)}){address} {{ {statement}{call}; }}{names})", checks)
 
 
+BY_HAND = re.compile(r"(.+) \((.*)\)")
+
+
+def by_hand(file, stem, signature):
+    """A function that is written by hand, of which the header needs the signature."""
+    match = BY_HAND.fullmatch(signature)
+    if not match:
+        raise SchemaError(file, 0, f"'{signature}' of {stem} is no signature")
+    parameters = (text.rpartition(" ") for text in match[2].split(", ") if text)
+    return Function(stem, match[1], tuple((kind, name) for kind, _, name in parameters), "")
+
+
 class Members:
     """What flat/members.toml says."""
 
     def __init__(self, path):
         self.file = path.name
         table = tomllib.loads(path.read_text(encoding="utf-8"))
-        self.includes, self.sets, self.by_hand = table["includes"], table["sets"], table["by_hand"]
+        self.includes, self.sets = table["includes"], table["sets"]
+        self.by_hand = [by_hand(self.file, stem, signature) for stem, (signature, _) in table["by_hand"].items()]
+        self.docs = {stem: doc for stem, (_, doc) in table["by_hand"].items()}
         self.groups = {owner: [function(self.file, owner, line) for line in self.flatten(lines)]
                        for owner, lines in (table["classes"] | table["functions"]).items()}
         self.groups["constants"] = [Function(f"CSharp_{name}_get", "std::int32_t", (), f"{owner}::{name}")
                                     for owner, names in table["constants"].items() for name in names]
-        self.functions = [made for group in self.groups.values() for made in group]
+        self.functions = [made for group in self.groups.values() for made in group] + self.by_hand
 
     def flatten(self, lines):
         for line in lines:

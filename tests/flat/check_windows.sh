@@ -15,7 +15,7 @@ work=$(mktemp -d)
 trap 'rm -rf "$work"' EXIT
 
 printf '%s\0' flat/*.cpp flat/generated/*.cpp | xargs -0 -P "$(nproc)" -I {} sh -c \
-    '"$1" -std=c++20 -DVYR_BUILDING -Wall -Wextra -Wno-attributes -I . -c "$2" -o "$3/$(echo "$2" | tr / _).o"' \
+    '"$1" -std=c++20 -DVYR_BUILDING -DVYR_VERSION=\"0\" -Wall -Wextra -Wno-attributes -I . -c "$2" -o "$3/$(echo "$2" | tr / _).o"' \
     - "$compiler" {} "$work"
 i686-w64-mingw32-nm --defined-only --format=posix "$work"/*.o | cut -d ' ' -f 1 |
     grep -E '^_(CSharp|SWIGRegister|VyrModule)_?' | sort > "$work/names"

@@ -13,98 +13,7 @@
 #include <string.h>
 #include <uchar.h>
 
-typedef void (*exception_callback)(const char* text);
-typedef void (*argument_callback)(const char* text, const char* parameter);
-typedef char* (*string_callback)(const char* text);
-extern void SWIGRegisterExceptionCallbacks_VyrModule(exception_callback, exception_callback, exception_callback,
-                                                     exception_callback, exception_callback, exception_callback,
-                                                     exception_callback, exception_callback, exception_callback,
-                                                     exception_callback, exception_callback);
-extern void SWIGRegisterExceptionArgumentCallbacks_VyrModule(argument_callback, argument_callback, argument_callback);
-extern void SWIGRegisterStringCallback_VyrModule(string_callback);
-extern void VyrModule_SetBstrPrefix(int32_t bytes);
-extern void VyrModule_FreeString(void* text);
-
-extern void* CSharp_new_Vyr__SWIG_0(void);
-extern void CSharp_delete_Vyr(void* self);
-extern int32_t CSharp_Vyr_loadFile(void* self, const char16_t* path);
-extern int32_t CSharp_Vyr_loadString(void* self, const char16_t* text);
-extern int32_t CSharp_Vyr_writeFile(void* self, const char16_t* path);
-extern void* CSharp_Vyr_writeString(void* self);
-extern int32_t CSharp_Vyr_unmarshal__SWIG_1(void* self, const char* data, uint32_t size);
-extern int32_t CSharp_Vyr_marshal__SWIG_0(void* self, const char* path);
-extern uint32_t CSharp_Vyr_size_Palette(void* self);
-extern int32_t CSharp_Vyr_unmarshal__SWIG_0(void* self, const char* path);
-extern void* CSharp_Vyr_get_Palette__SWIG_0(void* self, uint32_t index);
-extern int32_t CSharp_PaletteType_append_ChangeHistory(void* self, void* value);
-extern void* CSharp_new_c_datetime__SWIG_2(const char* text);
-extern void CSharp_delete_c_datetime(void* self);
-extern void* CSharp_new_XMLDocumentResult(const char16_t* text, int32_t code);
-extern void CSharp_delete_XMLDocumentResult(void* self);
-extern char16_t* CSharp_XMLDocumentResult_getXmlDocument(void* self);
-extern int32_t CSharp_XMLDocumentResult_getElmxError(void* self);
-
-extern void* CSharp_new_ColorSpaceCMYKType__SWIG_0(void);
-extern void* CSharp_new_ColorSpaceCMYKType__SWIG_1(void* source);
-extern void CSharp_delete_ColorSpaceCMYKType(void* self);
-extern void* CSharp_ColorSpaceCMYKTypeUpcast(void* self);
-extern void CSharp_ColorSpaceCMYKType_swap(void* self, void* other);
-extern void* CSharp_ColorSpaceCMYKType_factory(int32_t ns_id, const char* name);
-extern void* CSharp_ColorSpaceCMYKType_clone(void* self);
-extern char* CSharp_ColorSpaceCMYKType_getid(void* self);
-extern int32_t CSharp_ColorSpaceCMYKType_has_id(void* self, const char* identity);
-extern const char* CSharp_ColorSpaceCMYKType_id_get(void);
-extern void CSharp_ColorSpaceCMYKType_id_set(const char* identity);
-extern int32_t CSharp_ColorSpaceCMYKType_set_Cyan(void* self, double value);
-extern double CSharp_ColorSpaceCMYKType_get_Cyan(void* self);
-extern char16_t* CSharp_ColorSpaceCMYKType_get_Name(void* self);
-extern int32_t CSharp_ColorSpaceCMYKType_set_Name(void* self, const char16_t* value);
-extern int32_t CSharp_ColorSpaceCMYKType_isset_Name(void* self);
-extern void* CSharp_ColorSpaceCMYKType_assign_SpotColor(void* self, uint32_t index, void* value);
-extern uint32_t CSharp_ColorSpaceCMYKType_size_SpotColor(void* self);
-extern void* CSharp_ColorSpaceCMYKType_get_SpotColor__SWIG_0(void* self, uint32_t index);
-extern int32_t CSharp_ColorSpaceType_append_ChangeHistory(void* self, void* value);
-extern void* CSharp_new_SpotColorType__SWIG_0(void);
-extern void CSharp_delete_SpotColorType(void* self);
-extern int32_t CSharp_SpotColorType_set_Name(void* self, const char16_t* value);
-extern void* CSharp_new_ToleranceType__SWIG_0(void);
-extern void CSharp_delete_ToleranceType(void* self);
-extern void* CSharp_ToleranceType_assign_Function(void* self, void* value);
-extern void* CSharp_new_Revision__SWIG_0(void);
-extern void CSharp_delete_Revision(void* self);
-extern int32_t CSharp_Revision_append_any(void* self, const char* value);
-extern void CSharp_Revision_get_any(void* self, uint32_t index, const char* ns, const char* name, const char* value);
-extern void* CSharp_new_ColorSpaceCMYKPlusN__SWIG_2(const char* path, int32_t* error);
-extern void* CSharp_new_ColorSpaceCMYKPlusN__SWIG_3(const char* data, uint32_t size, int32_t* error);
-extern void CSharp_delete_ColorSpaceCMYKPlusN(void* self);
-extern void* CSharp_new_DevicePolarization__SWIG_0(void);
-extern void CSharp_delete_DevicePolarization(void* self);
-extern int32_t CSharp_DevicePolarization_set_DevicePolarization(void* self, uint32_t value);
-extern int32_t CSharp_DevicePolarization_get_DevicePolarization(void* self);
-
-extern void* VyrModule_LoadFile(void* self, const char16_t* path, uint32_t collect, uint32_t limit);
-extern void* VyrModule_LoadString(void* self, const char16_t* text, uint32_t collect, uint32_t limit);
-extern void* VyrModule_WriteFile(void* self, const char16_t* path);
-extern void VyrModule_DeleteReport(void* report);
-extern int32_t VyrModule_ReportCode(void* report);
-extern int32_t VyrModule_ReportIsReadToEnd(void* report);
-extern uint32_t VyrModule_ReportFaultCount(void* report);
-extern uint32_t VyrModule_ReportTotalCount(void* report);
-extern char16_t* VyrModule_ReportText(void* report);
-extern int32_t VyrModule_FaultCode(void* report, uint32_t index);
-extern int32_t VyrModule_FaultLine(void* report, uint32_t index);
-extern char16_t* VyrModule_FaultText(void* report, uint32_t index);
-extern char16_t* VyrModule_FaultDetail(void* report, uint32_t index);
-extern char16_t* VyrModule_FaultFile(void* report, uint32_t index);
-extern char16_t* VyrModule_FaultItem(void* report, uint32_t index);
-extern char16_t* VyrModule_FaultPath(void* report, uint32_t index);
-extern char16_t* VyrModule_FaultValue(void* report, uint32_t index);
-
-extern char* CSharp_convert_to_narrow__SWIG_0(const char16_t* source);
-extern char* CSharp_convert__SWIG_0(const char* target, const char16_t* source);
-extern char16_t* CSharp_convert_to_wide__SWIG_0(const char* source);
-extern int32_t CSharp_LMX_XML_STRICT_get(void);
-extern int32_t CSharp_LMX_ATOFLOAT_MODE_SIMPLE_get(void);
+#include "flat/generated/vyr_flat.h"
 
 static void check(int holds, const char* what, int line) {
     if (holds) return;
@@ -312,6 +221,20 @@ static void reports(const char* palette) {
     CHECK(VyrModule_ReportTotalCount(report) == 1);
     VyrModule_DeleteReport(report);
 
+    /* From memory, in another encoding, under a name of the caller's. */
+    static const char bytes[] = "<?xml version='1.0' encoding='ISO-8859-1'?><\xE9/>";
+    report = VyrModule_LoadMemory(document, bytes, sizeof bytes - 1, u"received", 0, 5);
+    CHECK(VyrModule_ReportCode(report) == 16);
+    CHECK_TEXT(VyrModule_FaultFile(report, 0), u"received");
+    CHECK_TEXT(VyrModule_FaultValue(report, 0), u"\u00E9");
+    VyrModule_DeleteReport(report);
+
+    /* What can't be written gives no text. */
+    char16_t* written = (char16_t*)document;
+    report = VyrModule_WriteString(document, &written);
+    CHECK(VyrModule_ReportCode(report) == 46 && written == NULL);
+    VyrModule_DeleteReport(report);
+
     report = VyrModule_LoadFile(document, u"no such file.vyrz", 0, 5);
     CHECK(VyrModule_FaultLine(report, 0) == 0 && VyrModule_ReportCode(report) == VyrModule_FaultCode(report, 0));
     CHECK_TEXT(VyrModule_FaultFile(report, 0), u"no such file.vyrz");
@@ -338,6 +261,65 @@ static void reports(const char* palette) {
     CSharp_delete_Vyr(document);
 }
 
+/* Functions that work by item. */
+static void items(void) {
+    CHECK(VyrModule_FindItem("PaletteType", "Palette") == NULL && VyrModule_FindItem("", "") == NULL);
+    void* owner = VyrModule_FindItem("PaletteType", "Owner");
+    void* palette = CSharp_new_PaletteType__SWIG_0();
+    CHECK(owner != NULL && VyrModule_GetPart(palette, owner) == NULL && CSharp_PaletteType_isset_Owner(palette) == 0);
+    void* made = CSharp_PaletteType_get_Owner__SWIG_0(palette);
+    CHECK(VyrModule_GetPart(palette, owner) == made);
+    CSharp_PaletteType_unset_Owner(palette);
+    CHECK(VyrModule_GetPart(palette, owner) == NULL);
+    /* Lists are no single children. */
+    CHECK(VyrModule_GetPart(palette, VyrModule_FindItem("PaletteType", "ColorSet")) == NULL);
+    CSharp_delete_PaletteType(palette);
+
+    void* points = VyrModule_FindItem("ColorSpaceSpectralType", "ReflectancePoint");
+    void* wavelength = VyrModule_FindItem("ReflectancePointType", "Wavelength");
+    void* factor = VyrModule_FindItem("ReflectancePointType", "ReflectancePointType");
+    void* name = VyrModule_FindItem("ColorSpaceSpectralType", "Name");
+    void* spectrum = CSharp_new_ColorSpaceSpectralType__SWIG_0();
+    double values[4] = {400, 410, 420, 9};
+    CHECK(VyrModule_SetDoubles(spectrum, points, wavelength, values, 3) == 0);
+    CHECK(CSharp_ColorSpaceSpectralType_size_ReflectancePoint(spectrum) == 3);
+    CHECK(CSharp_ReflectancePointType_is_occurs_ok(CSharp_ColorSpaceSpectralType_back_ReflectancePoint(spectrum)) == 0);
+    /* The third value is refused, and nothing has changed. */
+    const double wrong[] = {1, 2, -1, 3};
+    CHECK(VyrModule_SetDoubles(spectrum, points, factor, wrong, 4) == 37);
+    CHECK(VyrModule_GetDoubles(spectrum, points, factor, values, 2) == 3);
+    CHECK(values[0] == 0 && values[1] == 0 && values[2] == 420);
+    CHECK(VyrModule_SetDoubles(spectrum, points, factor, wrong, 2) == 0);
+    CHECK(VyrModule_GetDoubles(spectrum, points, wavelength, values, 4) == 2 && values[1] == 410 && values[3] == 9);
+    CHECK(CSharp_ReflectancePointType_is_occurs_ok(CSharp_ColorSpaceSpectralType_back_ReflectancePoint(spectrum)) == 1);
+    CHECK(VyrModule_SetDoubles(spectrum, name, wavelength, values, 2) == 1000);
+    CHECK(VyrModule_GetDoubles(spectrum, points, name, values, 4) == 0);
+    CSharp_delete_ColorSpaceSpectralType(spectrum);
+
+    void* markup = VyrModule_FindItem("Revision", "any");
+    void* revision = CSharp_new_Revision__SWIG_0();
+    CHECK(CSharp_Revision_append_any(revision, "<x>\xC3\xBC</x>") == 0);
+    CHECK_TEXT(VyrModule_GetMarkup(revision, markup, 0), u"<x>\u00FC</x>");
+    CHECK(VyrModule_GetMarkup(revision, markup, 1) == NULL);
+    CSharp_delete_Revision(revision);
+
+    /* A member of a derived class, and a copy of what the group holds itself. */
+    void* group = CSharp_new_sg_Function__SWIG_0();
+    void* member = VyrModule_FindItem("sg_Function", "Function");
+    void* tolerance = CSharp_new_FunctionTolerance__SWIG_0();
+    CHECK(CSharp_FunctionType_set_Result(tolerance, 7) == 0);
+    for (int round = 0; round < 2; ++round) {
+        void* chosen = VyrModule_AssignAlternative(group, member, round == 0 ? tolerance : made);
+        CHECK(chosen == CSharp_sg_Function_get_Function__SWIG_0(group) && CSharp_sg_Function_getchosen(group) == 0);
+        CHECK(CSharp_FunctionType_has_id(chosen, CSharp_FunctionTolerance_id_get()) == 1);
+        CHECK(CSharp_FunctionType_get_Result(chosen) == 7);
+        made = chosen;
+    }
+    CHECK(VyrModule_AssignAlternative(group, points, tolerance) == NULL);
+    CSharp_delete_FunctionTolerance(tolerance);
+    CSharp_delete_sg_Function(group);
+}
+
 int main(int count, char** arguments) {
     CHECK(count == 3);
     SWIGRegisterExceptionCallbacks_VyrModule(on_exception, on_exception, on_exception, on_exception, on_exception,
@@ -351,5 +333,6 @@ int main(int count, char** arguments) {
     nulls_and_results();
     documents(arguments[1], atol(arguments[2]));
     reports(arguments[1]);
+    items();
     return 0;
 }

@@ -66,6 +66,7 @@ class Refusals(unittest.TestCase):
                      "Bogus is no named type and no global element")
         self.refused("binding.toml", "Recipe = { may_be_empty", "Recipe = { may_be_full",
                      "the option 'may_be_full' is not known in [classes]")
+        self.refused("binding.toml", 'Values = "" }', 'Values = "Name" }', "'Name' is no number of its entries")
         self.refused("binding.toml", '"BSDFAngle.Azimuth" = { marker', '"BSDFAngle.Aspecular" = { marker',
                      "only a single child can be a marker")
 
@@ -99,9 +100,12 @@ class AddedField(unittest.TestCase):
         schema, flat = "schema/generated", "flat/generated"
         self.assertEqual(counts.keys(), {
             f"{schema}/model.txt", f"{schema}/substrates.h", f"{schema}/substrates.cpp", f"{schema}/tables.h",
-            f"{flat}/substrates.cpp", f"{flat}/exports.txt"})
+            f"{flat}/substrates.cpp", f"{flat}/exports.txt", f"{flat}/vyr_flat.h", "csharp/generated/Substrates.cs",
+            "csharp/generated/Substrates.Native.cs"})
         self.assertEqual((counts[f"{schema}/model.txt"], counts[f"{schema}/tables.h"]), (1, 1))
         self.assertEqual((counts[f"{flat}/substrates.cpp"], counts[f"{flat}/exports.txt"]), (4, 4))
+        # A property with its comment and a blank line; four functions and what unsets.
+        self.assertEqual((counts["csharp/generated/Substrates.cs"], counts["csharp/generated/Substrates.Native.cs"]), (3, 5))
 
 
 if __name__ == "__main__":

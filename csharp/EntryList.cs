@@ -1,0 +1,351 @@
+// Copyright 2026 The Vyr Authors
+// SPDX-License-Identifier: Apache-2.0
+
+using System;
+using System.Collections;
+using System.Collections.Generic;
+
+namespace Vyr
+{
+    /// <summary>What the lists of all kinds share.</summary>
+    public abstract class EntryList
+    {
+        internal readonly VyrObject Owner;
+
+        internal EntryList(VyrObject owner)
+        {
+            Owner = owner;
+        }
+
+        /// <summary>How many entries there are.</summary>
+        public int Count => checked((int)Owner.Kept(Size(Owner.Pointer)));
+
+        /// <summary>Removes the entry; what comes behind it moves up.</summary>
+        /// <exception cref="ArgumentOutOfRangeException">There is no such entry.</exception>
+        public void RemoveAt(int index)
+        {
+            Delete(Owner.Pointer, Existing(index));
+            Owner.Keep();
+            RemoveEntry(index);
+        }
+
+        /// <summary>Removes all entries.</summary>
+        public void Clear()
+        {
+            DeleteAll(Owner.Pointer);
+            Owner.Keep();
+            RemoveEntriesFrom(0);
+        }
+
+        internal abstract uint Size(IntPtr owner);
+        internal abstract void Delete(IntPtr owner, uint index);
+        internal abstract void DeleteAll(IntPtr owner);
+
+        /// <summary>The library has deleted an entry.</summary>
+        internal virtual void RemoveEntry(int index) { }
+
+        /// <summary>The library has deleted all entries from a number on.</summary>
+        internal virtual void RemoveEntriesFrom(int count) { }
+
+        /// <summary>An index that is one of an entry: the library doesn't look at the end of a list.</summary>
+        internal uint Existing(int index) => index >= 0 && index < Count ? (uint)index : throw OutOfRange(index);
+
+        /// <summary>An index before which an entry can be put.</summary>
+        internal uint Place(int index) => index >= 0 && index <= Count ? (uint)index : throw OutOfRange(index);
+
+        Exception OutOfRange(int index)
+        {
+            return new ArgumentOutOfRangeException(nameof(index), index, "The list has " + Count + " entries.");
+        }
+    }
+
+    /// <summary>The entries of an element that may repeat and has parts of its own.</summary>
+    /// <typeparam name="T">The class of the entries.</typeparam>
+    public sealed class ObjectList<T> : EntryList, IReadOnlyList<T> where T : VyrObject
+    {
+        readonly ObjectListCalls<T> calls;
+        readonly List<T> known = new List<T>(); // those that were asked for, by index; may be shorter than the list
+
+        internal ObjectList(VyrObject owner, ObjectListCalls<T> calls) : base(owner)
+        {
+            this.calls = calls;
+        }
+
+        /// <summary>An entry. Setting one puts a copy of the value in its place.</summary>
+        /// <exception cref="ArgumentOutOfRangeException">There is no such entry.</exception>
+        public T this[int index]
+        {
+            get
+            {
+                uint place = Existing(index);
+                while (known.Count <= index) known.Add(null);
+                return known[index] ?? (known[index] = Make(Owner.Kept(calls.Get(Owner.Pointer, place))));
+            }
+            set => Assign(Existing(index), value);
+        }
+
+        /// <summary>Puts a new entry at the end, and gives it.</summary>
+        public T Add()
+        {
+            int index = Count;
+            Owner.Demand(calls.Append(Owner.Pointer));
+            return this[index];
+        }
+
+        /// <summary>Puts a copy of a value at the end, and gives the copy.</summary>
+        public T Add(T value) => Assign((uint)Count, value);
+
+        /// <summary>Puts a new entry before another one, or at the end, and gives it.</summary>
+        /// <exception cref="ArgumentOutOfRangeException">The index is beyond the end.</exception>
+        public T Insert(int index)
+        {
+            Owner.Demand(calls.Insert(Owner.Pointer, Place(index)));
+            if (index < known.Count) known.Insert(index, null);
+            return this[index];
+        }
+
+        /// <summary>Puts a copy of a value before an entry, or at the end, and gives the copy.</summary>
+        /// <exception cref="ArgumentOutOfRangeException">The index is beyond the end.</exception>
+        public T Insert(int index, T value)
+        {
+            if (value == null) throw new ArgumentNullException(nameof(value));
+            IntPtr source = value.Pointer;
+            Insert(index);
+            if (calls.Assign(Owner.Pointer, (uint)index, source) == IntPtr.Zero) throw new OutOfMemoryException();
+            Owner.Keep();
+            value.Keep();
+            return this[index];
+        }
+
+        /// <summary>All entries, in order; those that are added or removed meanwhile count.</summary>
+        public IEnumerator<T> GetEnumerator()
+        {
+            for (int i = 0; i < Count; ++i) yield return this[i];
+        }
+
+        IEnumerator IEnumerable.GetEnumerator() => GetEnumerator();
+
+        T Make(IntPtr pointer) => calls.Make(new Handle(pointer, Owner.Root));
+
+        /// <summary>Overwrites an entry, or appends one.</summary>
+        T Assign(uint index, T value)
+        {
+            if (value == null) throw new ArgumentNullException(nameof(value));
+            int place = (int)index;
+            if (place < known.Count && ReferenceEquals(value, known[place])) return value;
+            if (calls.Assign(Owner.Pointer, index, value.Pointer) == IntPtr.Zero) throw new OutOfMemoryException();
+            Owner.Keep();
+            value.Keep();
+            if (place < known.Count)
+            {
+                known[place]?.Remove();
+                known[place] = null;
+            }
+            return this[place];
+        }
+
+        internal override uint Size(IntPtr owner) => calls.Size(owner);
+        internal override void Delete(IntPtr owner, uint index) => calls.Delete(owner, index);
+        internal override void DeleteAll(IntPtr owner) => calls.Clear(owner);
+
+        internal override void RemoveEntry(int index)
+        {
+            if (index >= known.Count) return;
+            known[index]?.Remove();
+            known.RemoveAt(index);
+        }
+
+        internal override void RemoveEntriesFrom(int count)
+        {
+            if (count >= known.Count) return;
+            for (int i = count; i < known.Count; ++i) known[i]?.Remove();
+            known.RemoveRange(count, known.Count - count);
+        }
+    }
+
+    /// <summary>The values of a simple element that may repeat.</summary>
+    /// <typeparam name="T">The type of the values.</typeparam>
+    public abstract class ValueList<T> : EntryList, IReadOnlyList<T>
+    {
+        internal ValueList(VyrObject owner) : base(owner) { }
+
+        /// <summary>A value.</summary>
+        /// <exception cref="ArgumentOutOfRangeException">There is no such value.</exception>
+        /// <exception cref="VyrException">The format doesn't allow it; nothing has changed.</exception>
+        public T this[int index]
+        {
+            get => Get(Existing(index));
+            set => Set(Existing(index), value);
+        }
+
+        /// <summary>Puts a value at the end.</summary>
+        /// <exception cref="VyrException">The format doesn't allow it; nothing has changed.</exception>
+        public void Add(T value) => InsertBefore((uint)Count, value);
+
+        /// <summary>Puts a value before another one, or at the end.</summary>
+        /// <exception cref="ArgumentOutOfRangeException">The index is beyond the end.</exception>
+        /// <exception cref="VyrException">The format doesn't allow it; nothing has changed.</exception>
+        public void Insert(int index, T value) => InsertBefore(Place(index), value);
+
+        /// <summary>All values, in order.</summary>
+        public IEnumerator<T> GetEnumerator()
+        {
+            for (int i = 0; i < Count; ++i) yield return this[i];
+        }
+
+        IEnumerator IEnumerable.GetEnumerator() => GetEnumerator();
+
+        internal abstract T Get(uint index);
+        internal abstract void Set(uint index, T value);
+        internal abstract void InsertBefore(uint index, T value);
+    }
+
+    /// <summary>Texts of an element that may repeat.</summary>
+    public sealed class TextList : ValueList<string>
+    {
+        readonly ValueListCalls<string> calls;
+
+        internal TextList(VyrObject owner, ValueListCalls<string> calls) : base(owner)
+        {
+            this.calls = calls;
+        }
+
+        internal override string Get(uint index) => Owner.Kept(calls.Get(Owner.Pointer, index));
+        internal override void Set(uint index, string value)
+        {
+            Owner.Demand(calls.Set(Owner.Pointer, index, Library.Whole(value)));
+        }
+        internal override void InsertBefore(uint index, string value)
+        {
+            Owner.Demand(calls.Insert(Owner.Pointer, index, Library.Whole(value)));
+        }
+        internal override uint Size(IntPtr owner) => calls.Size(owner);
+        internal override void Delete(IntPtr owner, uint index) => calls.Delete(owner, index);
+        internal override void DeleteAll(IntPtr owner) => calls.Clear(owner);
+    }
+
+    /// <summary>Times of an element that may repeat; <see cref="Texts"/> are the same as they are written.</summary>
+    /// <remarks>Getting a time that a <see cref="DateTimeOffset"/> can't hold is an <see cref="OverflowException"/>.</remarks>
+    public sealed class DateTimeList : ValueList<DateTimeOffset>
+    {
+        readonly DateTimeTextList texts;
+
+        internal DateTimeList(VyrObject owner, ValueListCalls<IntPtr> calls, string pattern) : base(owner)
+        {
+            texts = new DateTimeTextList(owner, calls, pattern);
+        }
+
+        /// <summary>The same times as texts, which hold what a <see cref="DateTimeOffset"/> can't.</summary>
+        public ValueList<string> Texts => texts;
+
+        /// <summary>Puts a time at the end, as a document writes it.</summary>
+        /// <exception cref="VyrException">It is no time, or it names no time zone; nothing has changed.</exception>
+        public void Add(string value) => texts.Add(value);
+
+        internal override DateTimeOffset Get(uint index) => DateTimeText.Parse(texts.Get(index));
+        internal override void Set(uint index, DateTimeOffset value) => texts.Set(index, DateTimeText.Format(value));
+        internal override void InsertBefore(uint index, DateTimeOffset value)
+        {
+            texts.InsertBefore(index, DateTimeText.Format(value));
+        }
+        internal override uint Size(IntPtr owner) => texts.Size(owner);
+        internal override void Delete(IntPtr owner, uint index) => texts.Delete(owner, index);
+        internal override void DeleteAll(IntPtr owner) => texts.DeleteAll(owner);
+    }
+
+    internal sealed class DateTimeTextList : ValueList<string>
+    {
+        readonly ValueListCalls<IntPtr> calls;
+        readonly string pattern;
+
+        internal DateTimeTextList(VyrObject owner, ValueListCalls<IntPtr> calls, string pattern) : base(owner)
+        {
+            this.calls = calls;
+            this.pattern = pattern;
+        }
+
+        internal override string Get(uint index) => Owner.Kept(DateTimeText.Read(calls.Get(Owner.Pointer, index)));
+        internal override void Set(uint index, string value)
+        {
+            Owner.Demand(DateTimeText.Give(value, pattern, time => calls.Set(Owner.Pointer, index, time)));
+        }
+        internal override void InsertBefore(uint index, string value)
+        {
+            Owner.Demand(DateTimeText.Give(value, pattern, time => calls.Insert(Owner.Pointer, index, time)));
+        }
+        internal override uint Size(IntPtr owner) => calls.Size(owner);
+        internal override void Delete(IntPtr owner, uint index) => calls.Delete(owner, index);
+        internal override void DeleteAll(IntPtr owner) => calls.Clear(owner);
+    }
+
+    /// <summary>Elements of any kind, each as the text that stands in the document.</summary>
+    public sealed class MarkupList : EntryList, IReadOnlyList<string>
+    {
+        readonly MarkupListCalls calls;
+
+        internal MarkupList(VyrObject owner, MarkupListCalls calls) : base(owner)
+        {
+            this.calls = calls;
+        }
+
+        /// <summary>An element with its tags.</summary>
+        /// <exception cref="ArgumentOutOfRangeException">There is no such entry.</exception>
+        public string this[int index] => Owner.Kept(Library.VyrModule_GetMarkup(Owner.Pointer, calls.Item, Existing(index)));
+
+        /// <summary>Puts an element at the end. It isn't looked at: it must be well-formed, with its tags.</summary>
+        public void Add(string markup) => Owner.Demand(calls.Append(Owner.Pointer, Library.Narrow(markup)));
+
+        /// <summary>Puts an element before another one, or at the end.</summary>
+        /// <exception cref="ArgumentOutOfRangeException">The index is beyond the end.</exception>
+        public void Insert(int index, string markup)
+        {
+            Owner.Demand(calls.Insert(Owner.Pointer, Place(index), Library.Narrow(markup)));
+        }
+
+        /// <summary>All elements, in order.</summary>
+        public IEnumerator<string> GetEnumerator()
+        {
+            for (int i = 0; i < Count; ++i) yield return this[i];
+        }
+
+        IEnumerator IEnumerable.GetEnumerator() => GetEnumerator();
+
+        internal override uint Size(IntPtr owner) => calls.Size(owner);
+        internal override void Delete(IntPtr owner, uint index) => calls.Delete(owner, index);
+        internal override void DeleteAll(IntPtr owner) => calls.Clear(owner);
+    }
+
+    // The functions of one list of one class
+
+    internal sealed class ObjectListCalls<T>
+    {
+        internal Func<Handle, T> Make;
+        internal Func<IntPtr, uint> Size;
+        internal Func<IntPtr, uint, IntPtr> Get; // beyond the end it would make the list longer
+        internal Func<IntPtr, uint, IntPtr, IntPtr> Assign;
+        internal Func<IntPtr, int> Append;
+        internal Func<IntPtr, uint, int> Insert;
+        internal Action<IntPtr, uint> Delete;
+        internal Action<IntPtr> Clear;
+    }
+
+    internal sealed class ValueListCalls<T>
+    {
+        internal Func<IntPtr, uint> Size;
+        internal Func<IntPtr, uint, T> Get;
+        internal Func<IntPtr, uint, T, int> Set;
+        internal Func<IntPtr, uint, T, int> Insert;
+        internal Action<IntPtr, uint> Delete;
+        internal Action<IntPtr> Clear;
+    }
+
+    internal sealed class MarkupListCalls
+    {
+        internal IntPtr Item;
+        internal Func<IntPtr, uint> Size;
+        internal Func<IntPtr, byte[], int> Append;
+        internal Func<IntPtr, uint, byte[], int> Insert;
+        internal Action<IntPtr, uint> Delete;
+        internal Action<IntPtr> Clear;
+    }
+}

@@ -1,0 +1,115 @@
+// Copyright 2026 The Vyr Authors
+// SPDX-License-Identifier: Apache-2.0
+
+using System;
+using System.Collections.Generic;
+
+namespace Vyr
+{
+    /// <summary>How to load.</summary>
+    public sealed class LoadOptions
+    {
+        /// <summary>End at the first fault, instead of going on after faults of values and attributes.</summary>
+        public bool FirstFaultOnly { get; set; }
+
+        /// <summary>How many faults to keep; those beyond it are counted only.</summary>
+        public int Limit { get; set; } = 100;
+
+        /// <summary>What `TryLoad` gives of a document with faults: what could be read of it, instead of null.</summary>
+        public bool KeepPartial { get; set; }
+
+        internal uint Collect => FirstFaultOnly ? 0u : 1u;
+        internal uint Kept => Limit < 0 ? 0u : (uint)Limit;
+    }
+
+    /// <summary>What a load or a save has to say: nothing, if all went well.</summary>
+    public sealed class LoadReport
+    {
+        /// <summary>Takes a report of the library and deletes it.</summary>
+        internal LoadReport(IntPtr report)
+        {
+            if (report == IntPtr.Zero) throw new OutOfMemoryException();
+            try
+            {
+                Code = Library.VyrModule_ReportCode(report);
+                TotalCount = (int)Library.VyrModule_ReportTotalCount(report);
+                IsReadToEnd = Library.VyrModule_ReportIsReadToEnd(report) != 0;
+                text = Library.VyrModule_ReportText(report);
+                string[] lines = text.Split('\n');
+                var faults = new Fault[Library.VyrModule_ReportFaultCount(report)];
+                for (int i = 0; i < faults.Length; ++i) faults[i] = new Fault(report, (uint)i, lines[i]);
+                Faults = faults;
+            }
+            finally
+            {
+                Library.VyrModule_DeleteReport(report);
+            }
+        }
+
+        readonly string text;
+
+        /// <summary>0, or the code of the first fault.</summary>
+        public int Code { get; }
+
+        /// <summary>True if nothing is wrong.</summary>
+        public bool IsOk => Code == 0;
+
+        /// <summary>What is wrong, in the order of the document.</summary>
+        public IReadOnlyList<Fault> Faults { get; }
+
+        /// <summary>How many faults there were with those that the limit left out.</summary>
+        public int TotalCount { get; }
+
+        /// <summary>False if a fault ended the load: what follows it in the document was not looked at.</summary>
+        public bool IsReadToEnd { get; }
+
+        /// <summary>A line for each fault.</summary>
+        public override string ToString() => text;
+    }
+
+    /// <summary>One thing that is wrong. Texts that don't apply are empty.</summary>
+    public sealed class Fault
+    {
+        readonly string line;
+
+        internal Fault(IntPtr report, uint index, string line)
+        {
+            this.line = line;
+            Code = Library.VyrModule_FaultCode(report, index);
+            Line = Library.VyrModule_FaultLine(report, index);
+            Text = Library.VyrModule_FaultText(report, index);
+            Detail = Library.VyrModule_FaultDetail(report, index);
+            File = Library.VyrModule_FaultFile(report, index);
+            Item = Library.VyrModule_FaultItem(report, index);
+            Path = Library.VyrModule_FaultPath(report, index);
+            Value = Library.VyrModule_FaultValue(report, index);
+        }
+
+        /// <summary>The result code, as in lmx/error.h.</summary>
+        public int Code { get; }
+
+        /// <summary>The line in the document, from 1; 0 if there is no place in a text.</summary>
+        public int Line { get; }
+
+        /// <summary>The code in words.</summary>
+        public string Text { get; }
+
+        /// <summary>What would be right, or what is missing.</summary>
+        public string Detail { get; }
+
+        /// <summary>The file, as it was named.</summary>
+        public string File { get; }
+
+        /// <summary>The element, attribute or class: "Vyr:Red".</summary>
+        public string Item { get; }
+
+        /// <summary>The open elements from the outermost: Palette "Inks" / ColorSet "All" / Color "Ink 17".</summary>
+        public string Path { get; }
+
+        /// <summary>The offending value, as read.</summary>
+        public string Value { get; }
+
+        /// <summary>All of it in a line.</summary>
+        public override string ToString() => line;
+    }
+}

@@ -1,0 +1,272 @@
+// Copyright 2026 The Vyr Authors
+// SPDX-License-Identifier: Apache-2.0
+
+using System;
+using System.IO;
+using System.Runtime.CompilerServices;
+
+namespace Vyr
+{
+    /// <summary>What all classes of the format share.</summary>
+    /// <remarks>
+    /// An object made with `new`, by `Clone` or by a load stands on its own. Every other one is a part of the object that
+    /// it was asked from, keeps that alive, and is always the same object for the same part. A part that has been removed
+    /// throws <see cref="ObjectDisposedException"/>. An object and its parts belong to one thread at a time, for reading
+    /// too.
+    /// </remarks>
+    public abstract class VyrObject
+    {
+        const int NoFile = 1, NotEnumerated = 38;
+
+        readonly Root root;
+        IntPtr pointer;
+        object[] parts; // what was asked for, by number: objects, lists
+
+        internal VyrObject(Handle handle)
+        {
+            root = handle.Root;
+            pointer = handle.Pointer;
+        }
+
+        /// <summary>True if all is there that the format demands of this object, without a look into its parts.</summary>
+        public abstract bool IsComplete { get; }
+
+        /// <summary>Back to a new object: all parts are removed, all values unset.</summary>
+        public abstract void Reset();
+
+        /// <summary>A copy that stands on its own. What the format demands counts as set in a copy.</summary>
+        public VyrObject Clone() => Copy();
+
+        internal abstract VyrObject Copy();
+
+        /// <summary>The object of the library. A function that was called with it is followed by a use of this object, so
+        /// that the collector doesn't take it before the function is done: `Kept`, `Is`, `Demand` or `Keep`.</summary>
+        internal IntPtr Pointer
+        {
+            get
+            {
+                if (pointer == IntPtr.Zero) throw Gone();
+                return pointer;
+            }
+        }
+
+        internal Root Root => root;
+
+        Exception Gone()
+        {
+            return new ObjectDisposedException(GetType().Name, "The object was removed from its document, or the document was disposed of.");
+        }
+
+        // What the generated members are made of
+
+        internal void Keep() => GC.KeepAlive(this);
+
+        internal T Kept<T>(T result)
+        {
+            GC.KeepAlive(this);
+            return result;
+        }
+
+        internal string Kept(string result)
+        {
+            GC.KeepAlive(this);
+            if (result == null) throw new OutOfMemoryException();
+            return result;
+        }
+
+        internal bool Is(int result)
+        {
+            GC.KeepAlive(this);
+            return result != 0;
+        }
+
+        internal bool Is(uint result) => Is((int)result);
+
+        /// <summary>Throws for a code that is no success; the name of the item comes from the member that calls.</summary>
+        internal void Demand(int code, [CallerMemberName] string item = null)
+        {
+            GC.KeepAlive(this);
+            if (code != 0) throw new VyrException(code, GetType().Name + "." + item);
+        }
+
+        /// <summary>Throws for a load of an element on its own that failed.</summary>
+        internal void Loaded(int code, string path)
+        {
+            if (code == NoFile && !File.Exists(path)) throw new FileNotFoundException("There is no file " + path + ".", path);
+            Saved(code, path);
+        }
+
+        /// <summary>Throws for a save of an element on its own that failed.</summary>
+        internal void Saved(int code, string path)
+        {
+            if (code == NoFile) throw new IOException("The file " + path + " can't be opened.");
+            Demand(code, path);
+        }
+
+        /// <summary>The code of a setter that only says whether it knew the number.</summary>
+        internal static int Listed(int isKnown) => isKnown != 0 ? 0 : NotEnumerated;
+
+        // Parts
+
+        internal T Part<T>(int number) where T : class
+        {
+            return parts != null && number < parts.Length ? (T)parts[number] : null;
+        }
+
+        internal T Remember<T>(int number, T part) where T : class
+        {
+            if (parts == null || number >= parts.Length) Array.Resize(ref parts, number + 1);
+            parts[number] = part;
+            return part;
+        }
+
+        /// <summary>Makes this object and all its parts unusable: the library has deleted them, or is about to.</summary>
+        internal void Remove()
+        {
+            pointer = IntPtr.Zero;
+            RemoveParts();
+        }
+
+        internal void RemoveParts()
+        {
+            if (parts == null) return;
+            for (int i = 0; i < parts.Length; ++i) RemovePart(i);
+        }
+
+        internal void RemovePart(int number)
+        {
+            object part = Part<object>(number);
+            if (part is EntryList entries)
+            {
+                entries.RemoveEntriesFrom(0); // the list itself lives as long as this object
+            }
+            else if (part != null)
+            {
+                parts[number] = null;
+                ((VyrObject)part).Remove();
+            }
+        }
+
+        // Single children: null until set
+
+        internal T Child<T>(int number, PartCalls<T> calls) where T : VyrObject
+        {
+            T known = Part<T>(number);
+            if (known != null) return known;
+            IntPtr found = Kept(Library.VyrModule_GetPart(Pointer, calls.Item));
+            return found == IntPtr.Zero ? null : Remember(number, calls.Make(new Handle(found, root)));
+        }
+
+        /// <summary>The child that is there, or a new one.</summary>
+        internal T CreateChild<T>(int number, PartCalls<T> calls) where T : VyrObject
+        {
+            T child = Child(number, calls);
+            if (child != null) return child;
+            child = Remember(number, calls.Make(new Handle(Kept(calls.Get(Pointer)), root)));
+            child.Reset(); // one that was unset still holds what it held
+            return child;
+        }
+
+        internal void AssignChild<T>(int number, PartCalls<T> calls, T value) where T : VyrObject
+        {
+            if (value == null)
+            {
+                if (calls.Unset == null) throw new ArgumentNullException(nameof(value));
+                calls.Unset(Pointer);
+                RemovePart(number);
+            }
+            else if (!ReferenceEquals(value, Part<T>(number)))
+            {
+                if (calls.Assign(Pointer, value.Pointer) == IntPtr.Zero) throw new OutOfMemoryException();
+                value.Keep();
+                RemovePart(number);
+            }
+            Keep();
+        }
+
+        // Choices: one alternative at a time
+
+        internal T Held<T>(int number, PartCalls<T> calls) where T : VyrObject
+        {
+            return Part<T>(number) ?? Remember(number, calls.Make(new Handle(Kept(calls.Get(Pointer)), root)));
+        }
+
+        /// <summary>Makes a new alternative in place of another one, which the library deletes.</summary>
+        internal T Choose<T>(int number, PartCalls<T> calls) where T : VyrObject
+        {
+            IntPtr self = Pointer;
+            RemovePart(number);
+            return Remember(number, calls.Make(new Handle(Kept(calls.Get(self)), root)));
+        }
+
+        /// <summary>Makes a copy of a value the alternative.</summary>
+        internal T Choose<T>(int number, PartCalls<T> calls, T value) where T : VyrObject
+        {
+            if (value == null) throw new ArgumentNullException(nameof(value));
+            IntPtr self = Pointer, source = value.Pointer;
+            if (ReferenceEquals(value, Part<VyrObject>(number))) return value;
+            RemovePart(number);
+            T chosen = Remember(number, calls.Make(new Handle(Kept(calls.Assign(self, source)), root)));
+            value.Keep();
+            return chosen;
+        }
+
+        /// <summary>Forgets the former alternative after a simple value was chosen.</summary>
+        internal void Choose(int number, int code, [CallerMemberName] string item = null)
+        {
+            Demand(code, item);
+            RemovePart(number);
+        }
+
+        // Lists: there from the start, maybe empty
+
+        internal ObjectList<T> ListOfObjects<T>(int number, ObjectListCalls<T> calls) where T : VyrObject
+        {
+            return Part<ObjectList<T>>(number) ?? Remember(number, new ObjectList<T>(this, calls));
+        }
+
+        internal TextList ListOfTexts(int number, ValueListCalls<string> calls)
+        {
+            return Part<TextList>(number) ?? Remember(number, new TextList(this, calls));
+        }
+
+        internal DateTimeList ListOfTimes(int number, ValueListCalls<IntPtr> calls, string pattern)
+        {
+            return Part<DateTimeList>(number) ?? Remember(number, new DateTimeList(this, calls, pattern));
+        }
+
+        internal MarkupList ListOfMarkup(int number, MarkupListCalls calls)
+        {
+            return Part<MarkupList>(number) ?? Remember(number, new MarkupList(this, calls));
+        }
+
+        // Columns of a list of numbers
+
+        internal double[] Column(IntPtr list, IntPtr item)
+        {
+            double[] values = new double[0];
+            for (;;)
+            {
+                uint size = Kept(Library.VyrModule_GetDoubles(Pointer, list, item, values, (uint)values.Length));
+                if (size == values.Length) return values;
+                values = new double[size];
+            }
+        }
+
+        internal void SetColumn(EntryList entries, IntPtr list, IntPtr item, double[] value, [CallerMemberName] string name = null)
+        {
+            if (value == null) throw new ArgumentNullException(nameof(value));
+            Demand(Library.VyrModule_SetDoubles(Pointer, list, item, value, (uint)value.Length), name);
+            entries.RemoveEntriesFrom(value.Length);
+        }
+    }
+    /// <summary>The functions of one single child, or of one alternative of a choice.</summary>
+    internal sealed class PartCalls<T>
+    {
+        internal IntPtr Item;
+        internal Func<Handle, T> Make;
+        internal Func<IntPtr, IntPtr> Get; // makes it there
+        internal Func<IntPtr, IntPtr, IntPtr> Assign;
+        internal Action<IntPtr> Unset; // null where the format demands it
+    }
+}

@@ -1,0 +1,336 @@
+// Copyright 2026 The Vyr Authors
+// SPDX-License-Identifier: Apache-2.0
+//
+// Made by schema/generator/generate.py from schema/vyr.xsd and schema/binding.toml. Change those instead.
+
+using System;
+
+namespace Vyr
+{
+    /// <summary>Limits of a function's result.</summary>
+    public partial class LimitsType : VyrObject
+    {
+        /// <summary>A new object that stands on its own, with nothing set.</summary>
+        public LimitsType() : this(Native.Make()) { }
+
+        internal LimitsType(Handle handle) : base(handle) { }
+
+        /// <inheritdoc/>
+        public new LimitsType Clone() => (LimitsType)Copy();
+        internal override VyrObject Copy() => Kept(new LimitsType(Native.Make(Pointer)));
+
+        /// <inheritdoc/>
+        public override bool IsComplete => Is(Native.is_occurs_ok(Pointer));
+
+        /// <inheritdoc/>
+        public override void Reset() { RemoveParts(); Native.reset(Pointer); Keep(); }
+
+        /// <summary>A named value of the user's own.</summary>
+        public ObjectList<CustomAttributeType> CustomAttributes => ListOfObjects(0, Parts.CustomAttribute);
+
+        /// <summary>Upper limit, in the unit of the result.</summary>
+        public double HighTolerance { get => Kept(Native.get_HighTolerance(Pointer)); set => Demand(Native.set_HighTolerance(Pointer, value)); }
+
+        /// <summary>Lower limit, in the unit of the result. Null if not set.</summary>
+        public double? LowTolerance { get => Is(Native.isset_LowTolerance(Pointer)) ? Kept(Native.get_LowTolerance(Pointer)) : default(double?); set => Demand(value == null ? Native.UnsetLowTolerance(Pointer) : Native.set_LowTolerance(Pointer, value.Value)); }
+    }
+
+    /// <summary>A function, the limits for its result, and the viewing conditions that it is evaluated for.</summary>
+    public partial class ToleranceType : VyrObject
+    {
+        /// <summary>A new object that stands on its own, with nothing set.</summary>
+        public ToleranceType() : this(Native.Make()) { }
+
+        internal ToleranceType(Handle handle) : base(handle) { }
+
+        /// <inheritdoc/>
+        public new ToleranceType Clone() => (ToleranceType)Copy();
+        internal override VyrObject Copy() => Kept(new ToleranceType(Native.Make(Pointer)));
+
+        /// <inheritdoc/>
+        public override bool IsComplete => Is(Native.is_occurs_ok(Pointer));
+
+        /// <inheritdoc/>
+        public override void Reset() { RemoveParts(); Native.reset(Pointer); Keep(); }
+
+        /// <summary>Name of the tolerance. Null if not set.</summary>
+        public string Name { get => Is(Native.isset_Name(Pointer)) ? Kept(Native.get_Name(Pointer)) : null; set => Demand(value == null ? Native.UnsetName(Pointer) : Native.set_Name(Pointer, Library.Whole(value))); }
+
+        /// <summary>A named value of the user's own.</summary>
+        public ObjectList<CustomAttributeType> CustomAttributes => ListOfObjects(0, Parts.CustomAttribute);
+
+        /// <summary>The function whose result is limited. Null until set; assigning copies.</summary>
+        public FunctionChoice Function { get => Child(1, Parts.Function); set => AssignChild(1, Parts.Function, value); }
+
+        /// <summary>Gives Function, which it makes if it isn't there.</summary>
+        public FunctionChoice CreateFunction() => CreateChild(1, Parts.Function);
+
+        /// <summary>Limits of the result. Null until set; assigning copies.</summary>
+        public LimitsType Limits { get => Child(2, Parts.Limits); set => AssignChild(2, Parts.Limits, value); }
+
+        /// <summary>Gives Limits, which it makes if it isn't there.</summary>
+        public LimitsType CreateLimits() => CreateChild(2, Parts.Limits);
+
+        /// <summary>First illuminant of the evaluation. Null if not set.</summary>
+        public IlluminantKind? PrimaryIlluminant { get => Is(Native.isset_PrimaryIlluminant(Pointer)) ? (IlluminantKind)Kept(Native.getenum_PrimaryIlluminant(Pointer)) : default(IlluminantKind?); set => Demand(value == null ? Native.UnsetPrimaryIlluminant(Pointer) : Listed(Native.setenum_PrimaryIlluminant(Pointer, (int)value.Value))); }
+
+        /// <summary>Second illuminant, for metamerism. Null if not set.</summary>
+        public IlluminantKind? SecondaryIlluminant { get => Is(Native.isset_SecondaryIlluminant(Pointer)) ? (IlluminantKind)Kept(Native.getenum_SecondaryIlluminant(Pointer)) : default(IlluminantKind?); set => Demand(value == null ? Native.UnsetSecondaryIlluminant(Pointer) : Listed(Native.setenum_SecondaryIlluminant(Pointer, (int)value.Value))); }
+
+        /// <summary>Third illuminant, for metamerism. Null if not set.</summary>
+        public IlluminantKind? TertiaryIlluminant { get => Is(Native.isset_TertiaryIlluminant(Pointer)) ? (IlluminantKind)Kept(Native.getenum_TertiaryIlluminant(Pointer)) : default(IlluminantKind?); set => Demand(value == null ? Native.UnsetTertiaryIlluminant(Pointer) : Listed(Native.setenum_TertiaryIlluminant(Pointer, (int)value.Value))); }
+
+        /// <summary>Standard observer of the evaluation. Null if not set.</summary>
+        public ObserverKind? FieldOfView { get => Is(Native.isset_FieldOfView(Pointer)) ? (ObserverKind)Kept(Native.getenum_FieldOfView(Pointer)) : default(ObserverKind?); set => Demand(value == null ? Native.UnsetFieldOfView(Pointer) : Listed(Native.setenum_FieldOfView(Pointer, (int)value.Value))); }
+
+        /// <summary>Level from which a result calls for attention though it still passes. Null if not set.</summary>
+        public double? WarningLevel { get => Is(Native.isset_WarningLevel(Pointer)) ? Kept(Native.get_WarningLevel(Pointer)) : default(double?); set => Demand(value == null ? Native.UnsetWarningLevel(Pointer) : Native.set_WarningLevel(Pointer, value.Value)); }
+
+        /// <summary>Identifier of the tolerance. Null if not set.</summary>
+        public string UniqueID { get => Is(Native.isset_UniqueID(Pointer)) ? Kept(Native.get_UniqueID(Pointer)) : null; set => Demand(value == null ? Native.UnsetUniqueID(Pointer) : Native.set_UniqueID(Pointer, Library.Whole(value))); }
+
+        /// <summary>Whether the tolerance holds for all measurements. Null if not set.</summary>
+        public bool? Global { get => Is(Native.isset_Global(Pointer)) ? Is(Native.get_Global(Pointer)) : default(bool?); set => Demand(value == null ? Native.UnsetGlobal(Pointer) : Native.set_Global(Pointer, value.Value ? 1u : 0u)); }
+
+        /// <summary>Measuring geometry that the tolerance holds for. Null until set; assigning copies.</summary>
+        public GeometryChoiceType Geometry { get => Child(3, Parts.Geometry); set => AssignChild(3, Parts.Geometry, value); }
+
+        /// <summary>Gives Geometry, which it makes if it isn't there.</summary>
+        public GeometryChoiceType CreateGeometry() => CreateChild(3, Parts.Geometry);
+    }
+
+    /// <summary>A production process.</summary>
+    public partial class Process : VyrObject
+    {
+        /// <summary>A new object that stands on its own, with nothing set.</summary>
+        public Process() : this(Native.Make()) { }
+
+        internal Process(Handle handle) : base(handle) { }
+
+        /// <inheritdoc/>
+        public new Process Clone() => (Process)Copy();
+        internal override VyrObject Copy() => Kept(new Process(Native.Make(Pointer)));
+
+        /// <inheritdoc/>
+        public override bool IsComplete => Is(Native.is_occurs_ok(Pointer));
+
+        /// <inheritdoc/>
+        public override void Reset() { RemoveParts(); Native.reset(Pointer); Keep(); }
+
+        /// <summary>Name of the process; not empty.</summary>
+        public string Name { get => Kept(Native.get_Name(Pointer)); set => Demand(Native.set_Name(Pointer, Library.Whole(value))); }
+
+        /// <summary>Thickness that the process leaves, 0 or more; no unit is stated. Null if not set.</summary>
+        public double? Thickness { get => Is(Native.isset_Thickness(Pointer)) ? Kept(Native.get_Thickness(Pointer)) : default(double?); set => Demand(value == null ? Native.UnsetThickness(Pointer) : Native.set_Thickness(Pointer, value.Value)); }
+    }
+
+    /// <summary>A physical sample and how it was made.</summary>
+    public partial class PhysicalSampleType : VyrObject
+    {
+        /// <summary>A new object that stands on its own, with nothing set.</summary>
+        public PhysicalSampleType() : this(Native.Make()) { }
+
+        internal PhysicalSampleType(Handle handle) : base(handle) { }
+
+        /// <inheritdoc/>
+        public new PhysicalSampleType Clone() => (PhysicalSampleType)Copy();
+        internal override VyrObject Copy() => Kept(new PhysicalSampleType(Native.Make(Pointer)));
+
+        /// <inheritdoc/>
+        public override bool IsComplete => Is(Native.is_occurs_ok(Pointer));
+
+        /// <inheritdoc/>
+        public override void Reset() { RemoveParts(); Native.reset(Pointer); Keep(); }
+
+        /// <summary>A named value of the user's own.</summary>
+        public ObjectList<CustomAttributeType> CustomAttributes => ListOfObjects(0, Parts.CustomAttribute);
+
+        /// <summary>Coating of the sample in words. Null if not set.</summary>
+        public string Coating { get => Is(Native.isset_Coating(Pointer)) ? Kept(Native.get_Coating(Pointer)) : null; set => Demand(value == null ? Native.UnsetCoating(Pointer) : Native.set_Coating(Pointer, Library.Whole(value))); }
+
+        /// <summary>How the sample was made. Null until set; assigning copies.</summary>
+        public Process Process { get => Child(1, Parts.Process); set => AssignChild(1, Parts.Process, value); }
+
+        /// <summary>Gives Process, which it makes if it isn't there.</summary>
+        public Process CreateProcess() => CreateChild(1, Parts.Process);
+
+        /// <summary>The sample: a spot or a target. Null until set; assigning copies.</summary>
+        public SampleChoice Sample { get => Child(2, Parts.Sample); set => AssignChild(2, Parts.Sample, value); }
+
+        /// <summary>Gives Sample, which it makes if it isn't there.</summary>
+        public SampleChoice CreateSample() => CreateChild(2, Parts.Sample);
+    }
+
+    /// <summary>A comparison of measurements with their standards under given tolerances.</summary>
+    public partial class ColorQualityControlType : VyrObject
+    {
+        /// <summary>A new object that stands on its own, with nothing set.</summary>
+        public ColorQualityControlType() : this(Native.Make()) { }
+
+        internal ColorQualityControlType(Handle handle) : base(handle) { }
+
+        /// <inheritdoc/>
+        public new ColorQualityControlType Clone() => (ColorQualityControlType)Copy();
+        internal override VyrObject Copy() => Kept(new ColorQualityControlType(Native.Make(Pointer)));
+
+        /// <inheritdoc/>
+        public override bool IsComplete => Is(Native.is_occurs_ok(Pointer));
+
+        /// <inheritdoc/>
+        public override void Reset() { RemoveParts(); Native.reset(Pointer); Keep(); }
+
+        /// <summary>Name of the record. Null if not set.</summary>
+        public string Name { get => Is(Native.isset_Name(Pointer)) ? Kept(Native.get_Name(Pointer)) : null; set => Demand(value == null ? Native.UnsetName(Pointer) : Native.set_Name(Pointer, Library.Whole(value))); }
+
+        /// <summary>Description of the record. Null if not set.</summary>
+        public string Description { get => Is(Native.isset_Description(Pointer)) ? Kept(Native.get_Description(Pointer)) : null; set => Demand(value == null ? Native.UnsetDescription(Pointer) : Native.set_Description(Pointer, Library.Whole(value))); }
+
+        /// <summary>Identifier of the record. Null if not set.</summary>
+        public string UniqueID { get => Is(Native.isset_UniqueID(Pointer)) ? Kept(Native.get_UniqueID(Pointer)) : null; set => Demand(value == null ? Native.UnsetUniqueID(Pointer) : Native.set_UniqueID(Pointer, Library.Whole(value))); }
+
+        /// <summary>Free remarks on the record. Null if not set.</summary>
+        public string Comments { get => Is(Native.isset_Comments(Pointer)) ? Kept(Native.get_Comments(Pointer)) : null; set => Demand(value == null ? Native.UnsetComments(Pointer) : Native.set_Comments(Pointer, Library.Whole(value))); }
+
+        /// <summary>A named value of the user's own.</summary>
+        public ObjectList<CustomAttributeType> CustomAttributes => ListOfObjects(0, Parts.CustomAttribute);
+
+        /// <summary>Time of one change, with time zone.</summary>
+        public DateTimeList ChangeHistory => ListOfTimes(1, Parts.ChangeHistory, @".+T.+(Z|[+\-].+)");
+
+        /// <summary>A standard with what was measured against it.</summary>
+        public ObjectList<StandardAndMeasurementType> StandardAndMeasurements => ListOfObjects(2, Parts.StandardAndMeasurement);
+
+        /// <summary>The physical sample that was measured. Null until set; assigning copies.</summary>
+        public PhysicalSampleType PhysicalSample { get => Child(3, Parts.PhysicalSample); set => AssignChild(3, Parts.PhysicalSample, value); }
+
+        /// <summary>Gives PhysicalSample, which it makes if it isn't there.</summary>
+        public PhysicalSampleType CreatePhysicalSample() => CreateChild(3, Parts.PhysicalSample);
+
+        /// <summary>A tolerance for all comparisons of the record.</summary>
+        public ObjectList<ToleranceType> Tolerances => ListOfObjects(4, Parts.Tolerance);
+    }
+
+    /// <summary>A measured colour, the device that measured it, and what was computed from it.</summary>
+    public partial class Measurement : VyrObject
+    {
+        /// <summary>A new object that stands on its own, with nothing set.</summary>
+        public Measurement() : this(Native.Make()) { }
+
+        internal Measurement(Handle handle) : base(handle) { }
+
+        /// <inheritdoc/>
+        public new Measurement Clone() => (Measurement)Copy();
+        internal override VyrObject Copy() => Kept(new Measurement(Native.Make(Pointer)));
+
+        /// <inheritdoc/>
+        public override bool IsComplete => Is(Native.is_occurs_ok(Pointer));
+
+        /// <inheritdoc/>
+        public override void Reset() { RemoveParts(); Native.reset(Pointer); Keep(); }
+
+        /// <summary>Loads a file that has the element Measurement as its root.</summary>
+        public static Measurement Load(string path) { var made = new Measurement(); made.Loaded(Native.unmarshal(made.Pointer, Library.Narrow(path)), path); return made; }
+
+        /// <summary>Saves a file with this element as its root.</summary>
+        public void Save(string path) => Saved(Native.marshal(Pointer, Library.Narrow(path)), path);
+
+        /// <summary>A named value of the user's own.</summary>
+        public ObjectList<CustomAttributeType> CustomAttributes => ListOfObjects(0, Parts.CustomAttribute);
+
+        /// <summary>Instrument of the measurement. Null until set; assigning copies.</summary>
+        public DeviceType Device { get => Child(1, Parts.Device); set => AssignChild(1, Parts.Device, value); }
+
+        /// <summary>Gives Device, which it makes if it isn't there.</summary>
+        public DeviceType CreateDevice() => CreateChild(1, Parts.Device);
+
+        /// <summary>The colour measured. Null until set; assigning copies.</summary>
+        public ColorType Color { get => Child(2, Parts.Color); set => AssignChild(2, Parts.Color, value); }
+
+        /// <summary>Gives Color, which it makes if it isn't there.</summary>
+        public ColorType CreateColor() => CreateChild(2, Parts.Color);
+
+        /// <summary>A function of this measurement and its standard.</summary>
+        public ObjectList<FunctionChoice> Functions => ListOfObjects(3, Parts.Function);
+    }
+
+    /// <summary>A target colour, the device that measured it, and the tolerances around it.</summary>
+    public partial class Standard : VyrObject
+    {
+        /// <summary>A new object that stands on its own, with nothing set.</summary>
+        public Standard() : this(Native.Make()) { }
+
+        internal Standard(Handle handle) : base(handle) { }
+
+        /// <inheritdoc/>
+        public new Standard Clone() => (Standard)Copy();
+        internal override VyrObject Copy() => Kept(new Standard(Native.Make(Pointer)));
+
+        /// <inheritdoc/>
+        public override bool IsComplete => Is(Native.is_occurs_ok(Pointer));
+
+        /// <inheritdoc/>
+        public override void Reset() { RemoveParts(); Native.reset(Pointer); Keep(); }
+
+        /// <summary>True for an element that says that it has no value.</summary>
+        public bool IsNil => Is(Native.isnil_Standard(Pointer));
+
+        /// <summary>Makes it an element that says that it has no value. `Reset` takes that back, and so does setting
+        /// a value of its own.</summary>
+        public void SetNil() { Native.setnil_Standard(Pointer); Keep(); }
+
+        /// <summary>Loads a file that has the element Standard as its root.</summary>
+        public static Standard Load(string path) { var made = new Standard(); made.Loaded(Native.unmarshal(made.Pointer, Library.Narrow(path)), path); return made; }
+
+        /// <summary>Saves a file with this element as its root.</summary>
+        public void Save(string path) => Saved(Native.marshal(Pointer, Library.Narrow(path)), path);
+
+        /// <summary>A named value of the user's own.</summary>
+        public ObjectList<CustomAttributeType> CustomAttributes => ListOfObjects(0, Parts.CustomAttribute);
+
+        /// <summary>Instrument that measured the standard. Null until set; assigning copies.</summary>
+        public DeviceType Device { get => Child(1, Parts.Device); set => AssignChild(1, Parts.Device, value); }
+
+        /// <summary>Gives Device, which it makes if it isn't there.</summary>
+        public DeviceType CreateDevice() => CreateChild(1, Parts.Device);
+
+        /// <summary>The target colour. Null until set; assigning copies.</summary>
+        public ColorType Color { get => Child(2, Parts.Color); set => AssignChild(2, Parts.Color, value); }
+
+        /// <summary>Gives Color, which it makes if it isn't there.</summary>
+        public ColorType CreateColor() => CreateChild(2, Parts.Color);
+
+        /// <summary>A tolerance around the target.</summary>
+        public ObjectList<ToleranceType> Tolerances => ListOfObjects(3, Parts.Tolerance);
+    }
+
+    /// <summary>A standard and the measurements that are compared with it.</summary>
+    public partial class StandardAndMeasurementType : VyrObject
+    {
+        /// <summary>A new object that stands on its own, with nothing set.</summary>
+        public StandardAndMeasurementType() : this(Native.Make()) { }
+
+        internal StandardAndMeasurementType(Handle handle) : base(handle) { }
+
+        /// <inheritdoc/>
+        public new StandardAndMeasurementType Clone() => (StandardAndMeasurementType)Copy();
+        internal override VyrObject Copy() => Kept(new StandardAndMeasurementType(Native.Make(Pointer)));
+
+        /// <inheritdoc/>
+        public override bool IsComplete => Is(Native.is_occurs_ok(Pointer));
+
+        /// <inheritdoc/>
+        public override void Reset() { RemoveParts(); Native.reset(Pointer); Keep(); }
+
+        /// <summary>A named value of the user's own.</summary>
+        public ObjectList<CustomAttributeType> CustomAttributes => ListOfObjects(0, Parts.CustomAttribute);
+
+        /// <summary>A measurement.</summary>
+        public ObjectList<Measurement> Measurements => ListOfObjects(1, Parts.Measurement);
+
+        /// <summary>The standard. Null until set; assigning copies.</summary>
+        public Standard Standard { get => Child(2, Parts.Standard); set => AssignChild(2, Parts.Standard, value); }
+
+        /// <summary>Gives Standard, which it makes if it isn't there.</summary>
+        public Standard CreateStandard() => CreateChild(2, Parts.Standard);
+    }
+}

@@ -1,0 +1,172 @@
+// Copyright 2026 The Vyr Authors
+// SPDX-License-Identifier: Apache-2.0
+//
+// Made by schema/generator/generate.py from schema/vyr.xsd and schema/binding.toml. Change those instead.
+
+using System;
+
+namespace Vyr
+{
+    /// <summary>The physical thing that carried a measurement.</summary>
+    public partial class SampleType : VyrObject
+    {
+        internal SampleType(Handle handle) : base(handle) { }
+
+        /// <inheritdoc/>
+        public new SampleType Clone() => (SampleType)Copy();
+        internal override VyrObject Copy() => Kept(new SampleType(Native.Make(Pointer)));
+
+        /// <inheritdoc/>
+        public override bool IsComplete => Is(Native.is_occurs_ok(Pointer));
+
+        /// <inheritdoc/>
+        public override void Reset() { RemoveParts(); Native.reset(Pointer); Keep(); }
+
+        /// <summary>A named value of the user's own.</summary>
+        public ObjectList<CustomAttributeType> CustomAttributes => ListOfObjects(0, Parts.CustomAttribute);
+
+        /// <summary>Material of the sample. Null until set; assigning copies.</summary>
+        public SubstrateChoice Substrate { get => Child(1, Parts.Substrate); set => AssignChild(1, Parts.Substrate, value); }
+
+        /// <summary>Gives Substrate, which it makes if it isn't there.</summary>
+        public SubstrateChoice CreateSubstrate() => CreateChild(1, Parts.Substrate);
+
+        /// <summary>What lay behind the sample while it was measured. Null if not set.</summary>
+        public BackingKind? Backing { get => Is(Native.isset_Backing(Pointer)) ? (BackingKind)Kept(Native.getenum_Backing(Pointer)) : default(BackingKind?); set => Demand(value == null ? Native.UnsetBacking(Pointer) : Listed(Native.setenum_Backing(Pointer, (int)value.Value))); }
+
+        /// <summary>Who made the sample. Null if not set.</summary>
+        public string Manufacturer { get => Is(Native.isset_Manufacturer(Pointer)) ? Kept(Native.get_Manufacturer(Pointer)) : null; set => Demand(value == null ? Native.UnsetManufacturer(Pointer) : Native.set_Manufacturer(Pointer, Library.Whole(value))); }
+
+        /// <summary>When the sample was made, with time zone. Null if not set.</summary>
+        public DateTimeOffset? ProductionDate { get => Is(Native.isset_ProductionDate(Pointer)) ? DateTimeText.Parse(Kept(DateTimeText.Read(Native.get_ProductionDate(Pointer)))) : default(DateTimeOffset?); set => Demand(value == null ? Native.UnsetProductionDate(Pointer) : DateTimeText.Give(DateTimeText.Format(value.Value), @".+T.+(Z|[+\-].+)", time => Native.set_ProductionDate(Pointer, time))); }
+
+        /// <summary>The same as a document writes it: ProductionDate throws what a DateTimeOffset can't hold. Null if
+        /// not set.</summary>
+        public string ProductionDateText { get => Is(Native.isset_ProductionDate(Pointer)) ? Kept(DateTimeText.Read(Native.get_ProductionDate(Pointer))) : null; set => Demand(value == null ? Native.UnsetProductionDate(Pointer) : DateTimeText.Give(value, @".+T.+(Z|[+\-].+)", time => Native.set_ProductionDate(Pointer, time))); }
+
+        /// <summary>Serial number of the sample. Null if not set.</summary>
+        public string SerialNumber { get => Is(Native.isset_SerialNumber(Pointer)) ? Kept(Native.get_SerialNumber(Pointer)) : null; set => Demand(value == null ? Native.UnsetSerialNumber(Pointer) : Native.set_SerialNumber(Pointer, Library.Whole(value))); }
+
+        /// <summary>Free remarks on the sample. Null if not set.</summary>
+        public string Comment { get => Is(Native.isset_Comment(Pointer)) ? Kept(Native.get_Comment(Pointer)) : null; set => Demand(value == null ? Native.UnsetComment(Pointer) : Native.set_Comment(Pointer, Library.Whole(value))); }
+    }
+
+    /// <summary>Head of the samples: any of them can stand in its place.</summary>
+    public abstract partial class Sample : SampleType
+    {
+        internal Sample(Handle handle) : base(handle) { }
+    }
+
+    /// <summary>Width and height of a patch.</summary>
+    public partial class Specification : VyrObject
+    {
+        /// <summary>A new object that stands on its own, with nothing set.</summary>
+        public Specification() : this(Native.Make()) { }
+
+        internal Specification(Handle handle) : base(handle) { }
+
+        /// <inheritdoc/>
+        public new Specification Clone() => (Specification)Copy();
+        internal override VyrObject Copy() => Kept(new Specification(Native.Make(Pointer)));
+
+        /// <inheritdoc/>
+        public override bool IsComplete => Is(Native.is_occurs_ok(Pointer));
+
+        /// <inheritdoc/>
+        public override void Reset() { RemoveParts(); Native.reset(Pointer); Keep(); }
+
+        /// <summary>Width; no unit is stated.</summary>
+        public double SampleWidth { get => Kept(Native.get_SampleWidth(Pointer)); set => Demand(Native.set_SampleWidth(Pointer, value)); }
+
+        /// <summary>Height; no unit is stated.</summary>
+        public double SampleHeight { get => Kept(Native.get_SampleHeight(Pointer)); set => Demand(Native.set_SampleHeight(Pointer, value)); }
+    }
+
+    /// <summary>A single patch of one colour.</summary>
+    public partial class SampleSpotType : SampleType
+    {
+        /// <summary>A new object that stands on its own, with nothing set.</summary>
+        public SampleSpotType() : this(Native.Make()) { }
+
+        internal SampleSpotType(Handle handle) : base(handle) { }
+
+        /// <inheritdoc/>
+        public new SampleSpotType Clone() => (SampleSpotType)Copy();
+        internal override VyrObject Copy() => Kept(new SampleSpotType(Native.Make(Pointer)));
+
+        /// <inheritdoc/>
+        public override bool IsComplete => Is(Native.is_occurs_ok(Pointer));
+
+        /// <inheritdoc/>
+        public override void Reset() { RemoveParts(); Native.reset(Pointer); Keep(); }
+
+        /// <summary>Size of the patch. Null until set; assigning copies.</summary>
+        public Specification Specification { get => Child(2, Parts.Specification); set => AssignChild(2, Parts.Specification, value); }
+
+        /// <summary>Gives Specification, which it makes if it isn't there.</summary>
+        public Specification CreateSpecification() => CreateChild(2, Parts.Specification);
+    }
+
+    /// <summary>A test chart of many patches.</summary>
+    public partial class SampleTargetType : SampleType
+    {
+        /// <summary>A new object that stands on its own, with nothing set.</summary>
+        public SampleTargetType() : this(Native.Make()) { }
+
+        internal SampleTargetType(Handle handle) : base(handle) { }
+
+        /// <inheritdoc/>
+        public new SampleTargetType Clone() => (SampleTargetType)Copy();
+        internal override VyrObject Copy() => Kept(new SampleTargetType(Native.Make(Pointer)));
+
+        /// <inheritdoc/>
+        public override bool IsComplete => Is(Native.is_occurs_ok(Pointer));
+
+        /// <inheritdoc/>
+        public override void Reset() { RemoveParts(); Native.reset(Pointer); Keep(); }
+
+        /// <summary>Name of the chart where Target is Target_Custom. Null if not set.</summary>
+        public string CustomTarget { get => Is(Native.isset_CustomTarget(Pointer)) ? Kept(Native.get_CustomTarget(Pointer)) : null; set => Demand(value == null ? Native.UnsetCustomTarget(Pointer) : Native.set_CustomTarget(Pointer, Library.Whole(value))); }
+
+        /// <summary>The chart.</summary>
+        public TargetKind Target { get => (TargetKind)Kept(Native.getenum_Target(Pointer)); set => Demand(Listed(Native.setenum_Target(Pointer, (int)value))); }
+    }
+
+    /// <summary>A single patch of one colour.</summary>
+    public partial class SampleSpot : SampleSpotType
+    {
+        /// <summary>A new object that stands on its own, with nothing set.</summary>
+        public SampleSpot() : this(Native.Make()) { }
+
+        internal SampleSpot(Handle handle) : base(handle) { }
+
+        /// <inheritdoc/>
+        public new SampleSpot Clone() => (SampleSpot)Copy();
+        internal override VyrObject Copy() => Kept(new SampleSpot(Native.Make(Pointer)));
+
+        /// <summary>Loads a file that has the element SampleSpot as its root.</summary>
+        public static SampleSpot Load(string path) { var made = new SampleSpot(); made.Loaded(Native.unmarshal(made.Pointer, Library.Narrow(path)), path); return made; }
+
+        /// <summary>Saves a file with this element as its root.</summary>
+        public void Save(string path) => Saved(Native.marshal(Pointer, Library.Narrow(path)), path);
+    }
+
+    /// <summary>A test chart of many patches.</summary>
+    public partial class SampleTarget : SampleTargetType
+    {
+        /// <summary>A new object that stands on its own, with nothing set.</summary>
+        public SampleTarget() : this(Native.Make()) { }
+
+        internal SampleTarget(Handle handle) : base(handle) { }
+
+        /// <inheritdoc/>
+        public new SampleTarget Clone() => (SampleTarget)Copy();
+        internal override VyrObject Copy() => Kept(new SampleTarget(Native.Make(Pointer)));
+
+        /// <summary>Loads a file that has the element SampleTarget as its root.</summary>
+        public static SampleTarget Load(string path) { var made = new SampleTarget(); made.Loaded(Native.unmarshal(made.Pointer, Library.Narrow(path)), path); return made; }
+
+        /// <summary>Saves a file with this element as its root.</summary>
+        public void Save(string path) => Saved(Native.marshal(Pointer, Library.Narrow(path)), path);
+    }
+}
