@@ -47,6 +47,11 @@ if(VYR_BUILD_FLAT AND BUILD_SHARED_LIBS)
   vyr_add_check(flat_exports ${checks}/flat/check_exports.sh $<TARGET_FILE:vyr> ${flat_list})
   vyr_add_check(flat_csharp ${checks}/flat/check_csharp.sh $<TARGET_FILE_DIR:vyr> ${PROJECT_SOURCE_DIR}
                 ${Python3_EXECUTABLE})
+  foreach(part model behaviour collector loads walk library examples)
+    vyr_add_check(csharp_${part} ${checks}/csharp/check_assembly.sh ${part} $<TARGET_FILE_DIR:vyr> ${PROJECT_SOURCE_DIR}
+                  ${Python3_EXECUTABLE} $<TARGET_FILE:csharp_walk>)
+    set_tests_properties(csharp_${part} PROPERTIES SKIP_RETURN_CODE 77)
+  endforeach()
   vyr_add_check(flat_windows ${checks}/flat/check_windows.sh ${PROJECT_SOURCE_DIR})
   set_tests_properties(flat_csharp flat_windows PROPERTIES SKIP_RETURN_CODE 77)
 endif()

@@ -65,7 +65,7 @@ namespace Vyr
         public static LoadReport TryParse(string text, out Document document, LoadOptions options = null)
         {
             Library.Whole(text);
-            return Read(2L * text.Length, options, out document,
+            return Read(text.Length, options, out document,
                         (self, how) => Library.VyrModule_LoadString(self, text, how.Collect, how.Kept));
         }
 
@@ -127,8 +127,8 @@ namespace Vyr
             }
             else
             {
-                const int perByte = 2; // about what a document takes in memory
-                loaded.Root.AddPressure(size * perByte);
+                const int PerByte = 3; // about what a document takes in memory
+                loaded.Root.Weigh(size * PerByte);
             }
             document = loaded;
             return report;
@@ -138,8 +138,9 @@ namespace Vyr
         {
             if (report.IsOk) return document;
             var failure = new VyrException(report);
-            if (path == null || report.Code != NoFile) throw failure;
-            if (File.Exists(path) || Directory.Exists(path)) throw new IOException(failure.Message, failure);
+            bool isFolder = path != null && Directory.Exists(path);
+            if (path == null || (report.Code != NoFile && !isFolder)) throw failure;
+            if (File.Exists(path) || isFolder) throw new IOException(failure.Message, failure);
             throw new FileNotFoundException(failure.Message, path, failure);
         }
 

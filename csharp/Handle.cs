@@ -9,8 +9,14 @@ namespace Vyr
     /// <summary>An object of the library with all that lies below it; deleted once nothing managed needs any part.</summary>
     internal sealed class Root : SafeHandle
     {
+        // The collector sees a few bytes of a document, and would let thousands of them lie that nobody disposes of. So it
+        // is asked to look each time that documents have taken as much again as this, or half of what they hold.
+        const long Step = 64 << 20;
+        static readonly object Gate = new object();
+        static long held, next = Step;
+
         readonly Action<IntPtr> delete;
-        long pressure;
+        long weight;
 
         internal Root(IntPtr pointer, Action<IntPtr> delete) : base(IntPtr.Zero, true)
         {
@@ -20,20 +26,32 @@ namespace Vyr
 
         public override bool IsInvalid => handle == IntPtr.Zero;
 
-        /// <summary>Tells the collector, which sees a few bytes only, how much hangs on them.</summary>
-        internal void AddPressure(long bytes)
+        /// <summary>Says how many bytes of the library's hang on this, about.</summary>
+        internal void Weigh(long bytes)
         {
-            if (bytes <= 0) return;
-            GC.AddMemoryPressure(bytes);
-            pressure += bytes;
+            bool isTime;
+            lock (Gate)
+            {
+                weight += bytes;
+                held += bytes;
+                isTime = held > next;
+                if (isTime) next = Next();
+            }
+            if (isTime) GC.Collect();
         }
 
         protected override bool ReleaseHandle()
         {
             delete(handle);
-            if (pressure > 0) GC.RemoveMemoryPressure(pressure);
+            lock (Gate)
+            {
+                held -= weight;
+                next = Math.Min(next, Next());
+            }
             return true;
         }
+
+        static long Next() => held + Math.Max(Step, held / 2);
     }
 
     /// <summary>What an object is made from: a pointer, and the root that keeps it alive.</summary>

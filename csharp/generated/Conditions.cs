@@ -60,7 +60,7 @@ namespace Vyr
         public void SetNil() { Native.setnil_DeviceFilter(Pointer); Keep(); }
 
         /// <summary>The filter. Setting it ends the state of no value.</summary>
-        public override DeviceFilterKind Value { set => Demand(Listed(Native.setenum_DeviceFilterType(Pointer, (int)value))); }
+        public override DeviceFilterKind Value { get => base.Value; set => Demand(Listed(Native.setenum_DeviceFilterType(Pointer, (int)value))); }
     }
 
     /// <summary>Whether polarising filters were used, or nil where it is unknown.</summary>

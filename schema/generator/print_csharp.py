@@ -306,7 +306,7 @@ def members(printer, plan, made):
     if found := plan.content_item(made):
         value = Value(found[1])
         printer.add(f"{found[1].doc} Setting it ends the state of no value.",
-                    f"public override {value.type} {found[1].package_name}", f"{{ set => Demand({value.set('value')}); }}")
+                    f"public override {value.type} {found[1].package_name}", f"{{ get => base.{found[1].package_name}; set => Demand({value.set('value')}); }}")
     family(printer, plan, made)
 
 

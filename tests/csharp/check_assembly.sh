@@ -1,0 +1,98 @@
+#!/usr/bin/env bash
+# Copyright 2026 The Vyr Authors
+# SPDX-License-Identifier: Apache-2.0
+#
+# Tests the C# assembly of a build, the C library checking what is freed. Skipped where there's no compiler or runtime
+# for C#.
+#
+#   check_assembly.sh PART BUILD_FOLDER SOURCE_FOLDER PYTHON WALK
+#
+# PART: model (every member of every class), behaviour, collector (it runs all the time), loads (ten thousand), walk (the
+# time beside the same in C++), library (how it is found), examples.
+
+set -euo pipefail
+part=$1
+build=$2
+source=$3
+python=$4
+walk=$5
+
+for tool in mcs mono; do
+    command -v "$tool" > /dev/null || { echo "check_assembly.sh: skipped, there is no $tool"; exit 77; }
+done
+work=$(mktemp -d)
+trap 'rm -rf "$work"' EXIT
+cd "$work"
+cp "$build/csharp/Vyr.dll" .
+palette=$source/examples/css-colors.vyr
+export LC_ALL=C.UTF-8
+
+fail() { echo "check_assembly.sh: $*"; exit 1; }
+compile() {
+    local name=$1
+    shift
+    mcs -debug -warn:4 -warnaserror -r:Vyr.dll -out:"$name.exe" "$@"
+}
+run() { LD_LIBRARY_PATH=$build mono --debug "$@"; }
+# Freed memory holds other bytes at once, and each block is checked when it is freed.
+checked() { LD_PRELOAD=libc_malloc_debug.so.0 MALLOC_CHECK_=3 MALLOC_PERTURB_=165 LD_LIBRARY_PATH=$build mono --debug "$@"; }
+tested() { compile "$1" "$source/tests/csharp/$1.cs" "$source/tests/csharp/Check.cs"; }
+
+case $part in
+    model)
+        tested ModelTest
+        "$python" "$source/tests/csharp/model_values.py" > values
+        checked ModelTest.exe values
+        ;;
+    behaviour)
+        tested BehaviourTest
+        checked BehaviourTest.exe "$palette" "$source/tests/documents/valid"
+        ;;
+    collector)
+        tested StressTest
+        checked StressTest.exe collect 100 "$palette"
+        MONO_GC_DEBUG=collect-before-allocs checked StressTest.exe collect 1 "$palette"
+        ;;
+    loads)
+        tested StressTest
+        run StressTest.exe loads "$palette"
+        ;;
+    walk)
+        compile Walk "$source/tests/csharp/Walk.cs"
+        "$walk" make palette.vyr 8000
+        # Of a busy machine one of three tries has to do.
+        for _ in 1 2 3; do
+            mapfile -t ours < <("$walk" palette.vyr)
+            mapfile -t theirs < <(run Walk.exe palette.vyr)
+            [[ ${ours[0]/e+/E+} == "${theirs[0]}" ]] || fail "C++ finds ${ours[0]}, C# ${theirs[0]}"
+            echo "load and walk of 40 MB: C++ ${ours[1]} ms, C# ${theirs[1]} ms of processor time"
+            ((theirs[1] <= 2 * ours[1])) && exit 0
+        done
+        fail "C# takes more than twice the time"
+        ;;
+    library)
+        cat > Found.cs << 'PROGRAM'
+static class Found
+{
+    static void Main()
+    {
+        try { System.Console.WriteLine(new Vyr.Document().IsComplete); }
+        catch (System.DllNotFoundException failure) { System.Console.WriteLine(failure.Message); }
+    }
+}
+PROGRAM
+        compile Found Found.cs
+        said=$(LD_LIBRARY_PATH=/none mono Found.exe)
+        [[ $said == *"beside the assembly, in $work"*"LD_LIBRARY_PATH (/none)"* ]] || fail "without the library it says: $said"
+        cp "$build/libVyrModule.so" .
+        [[ $(mono Found.exe) == True ]] || fail "it isn't found beside the assembly"
+        echo 'const char* VyrModule_Version(void) { return "0.0.9"; }' > other.c
+        cc -shared -fPIC other.c -o libVyrModule.so
+        said=$(mono Found.exe)
+        [[ $said == *"has the version 0.0.9, and this assembly needs 0.1."* ]] || fail "with another version it says: $said"
+        echo 'int nothing;' > other.c
+        cc -shared -fPIC other.c -o libVyrModule.so
+        said=$(mono Found.exe)
+        [[ $said == *"is too old"* ]] || fail "with an old library it says: $said"
+        ;;
+esac
