@@ -1,6 +1,6 @@
 # What `cmake --install` puts where, and how other projects find it: find_package(vyr) and vyr.pc. Each line names its
 # component: `runtime` is for running programs, `development` for building them, `tool` is the command, `documentation`
-# the guides. A new file is added to the list of its folder.
+# the guides, `csharp` (in csharp/) the assembly. A new file is added to the list of its folder.
 
 include(CMakePackageConfigHelpers)
 
@@ -32,6 +32,10 @@ foreach(header document/report.h document/result.h zip/add_request.h zip/contain
   install(FILES ${header} DESTINATION ${vyr_include_dir}/${folder} COMPONENT development)
 endforeach()
 install(FILES schema/vyr.xsd DESTINATION ${CMAKE_INSTALL_DATADIR}/vyr COMPONENT development)
+if(VYR_BUILD_FLAT)
+  install(FILES flat/generated/vyr_flat.h DESTINATION ${vyr_include_dir} COMPONENT development)
+  install(FILES flat/generated/exports.txt DESTINATION ${CMAKE_INSTALL_DATADIR}/vyr COMPONENT development)
+endif()
 
 # As the guides lie in the sources, so that their links hold.
 install(FILES README.md CONTRIBUTING.md SECURITY.md CHANGELOG.md LICENSE DESTINATION ${CMAKE_INSTALL_DOCDIR}

@@ -1,5 +1,5 @@
-# The Debian packages that cpack makes: libvyr<major>.<minor>, libvyr-dev and vyr-tools, each of one group of the
-# components that cmake/install.cmake fills. scripts/package.sh builds them.
+# The Debian packages that cpack makes: libvyr<major>.<minor>, libvyr-dev, vyr-tools and, where there is a compiler for
+# C#, libvyr-cil, each of one group of the components that cmake/install.cmake fills. scripts/package.sh builds them.
 
 set(library_package libvyr${PROJECT_VERSION_MAJOR}.${PROJECT_VERSION_MINOR})
 set(same_version "${library_package} (= ${PROJECT_VERSION})")
@@ -53,6 +53,17 @@ set(CPACK_DEBIAN_TOOL_DESCRIPTION "checks and converts colour-data documents
 ${about}
 This package holds the command vyr.")
 
+set(CPACK_DEBIAN_CSHARP_PACKAGE_NAME libvyr-cil)
+set(CPACK_DEBIAN_CSHARP_PACKAGE_SECTION cli-mono)
+set(CPACK_DEBIAN_CSHARP_PACKAGE_ARCHITECTURE all)
+set(CPACK_DEBIAN_CSHARP_PACKAGE_DEPENDS ${same_version})
+set(CPACK_DEBIAN_CSHARP_PACKAGE_RECOMMENDS mono-runtime)
+set(CPACK_DEBIAN_CSHARP_PACKAGE_SHLIBDEPS OFF)
+set(CPACK_DEBIAN_CSHARP_DESCRIPTION "reads, checks and writes colour-data documents - C# assembly
+${about}
+This package holds the assembly Vyr.dll for C# programs, its documentation and
+its sources.")
+
 # What the system asks of every package; other installations need no such file.
 string(TIMESTAMP build_time "%a, %d %b %Y %H:%M:%S +0000" UTC)
 configure_file(cmake/debian/changelog.in changelog @ONLY)
@@ -63,6 +74,10 @@ set(groups library development)
 if(VYR_BUILD_TOOLS)
   list(APPEND CPACK_COMPONENTS_ALL tool)
   list(APPEND groups tool)
+endif()
+if(VYR_BUILD_FLAT AND VYR_MCS)
+  list(APPEND CPACK_COMPONENTS_ALL csharp)
+  list(APPEND groups csharp)
 endif()
 foreach(group ${groups})
   string(TOUPPER ${group} variables)
@@ -77,6 +92,7 @@ cpack_add_component(runtime GROUP library)
 cpack_add_component(development GROUP development)
 cpack_add_component(documentation GROUP development)
 cpack_add_component(tool GROUP tool)
+cpack_add_component(csharp GROUP csharp)
 foreach(group ${groups})
   cpack_add_component(${group}_papers GROUP ${group})
 endforeach()

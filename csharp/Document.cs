@@ -13,8 +13,6 @@ namespace Vyr
     [DebuggerDisplay("Document")]
     public partial class Document : IDisposable
     {
-        const int NoFile = 1;
-
         /// <summary>Loads a file: a plain document, or a container if its name ends in ".vyrz".</summary>
         /// <exception cref="FileNotFoundException">There is no such file.</exception>
         /// <exception cref="IOException">The file can't be read.</exception>
@@ -72,19 +70,22 @@ namespace Vyr
         /// <summary>Writes a plain document if the name ends in ".vyr", a container if it ends in ".vyrz".</summary>
         /// <remarks>Like all ways of writing it notes in the header which software wrote.</remarks>
         /// <exception cref="IOException">The file can't be written.</exception>
-        /// <exception cref="VyrException">The document lacks something, or the name has another ending.</exception>
-        public void Save(string path)
+        /// <exception cref="VyrException">The document lacks something, or the name has another ending; or a value could
+        /// not be read back as it is, and then the file was written all the same (`Report.IsReadToEnd`).</exception>
+        public void Save(string path) => Demand(TrySave(path), path);
+
+        /// <summary>Writes a file without throwing for what is wrong with it.</summary>
+        public LoadReport TrySave(string path)
         {
             Library.Whole(path);
             string beside = path.EndsWith(".vyrz", StringComparison.Ordinal) ? path.Substring(0, path.Length - 1) : null;
-            if (beside != null && File.Exists(beside))
-                SaveElsewhere(path);
-            else
-                Written(Library.VyrModule_WriteFile(Pointer, path), path);
+            if (beside != null && File.Exists(beside)) return SaveElsewhere(path);
+            return new LoadReport(Kept(Library.VyrModule_WriteFile(Pointer, path)));
         }
 
         /// <summary>Writes a plain document to a stream, in UTF-8; the stream stays open.</summary>
-        /// <exception cref="VyrException">The document lacks something; nothing was written.</exception>
+        /// <exception cref="VyrException">The document lacks something, or a value could not be read back as it is; nothing
+        /// was written.</exception>
         public void Save(Stream stream)
         {
             if (stream == null) throw new ArgumentNullException(nameof(stream));
@@ -93,12 +94,15 @@ namespace Vyr
         }
 
         /// <summary>The document as a text.</summary>
-        /// <exception cref="VyrException">The document lacks something.</exception>
+        /// <exception cref="VyrException">The document lacks something, or a value could not be read back as it
+        /// is.</exception>
         public override string ToString()
         {
-            IntPtr report = Kept(Library.VyrModule_WriteString(Pointer, out IntPtr text));
-            Written(report, null);
-            return Library.TakeWide(text);
+            IntPtr written;
+            var report = new LoadReport(Kept(Library.VyrModule_WriteString(Pointer, out written)));
+            string text = written == IntPtr.Zero ? null : Library.TakeWide(written);
+            Demand(report, null);
+            return text;
         }
 
         /// <summary>Frees the document now, instead of some time after its last use. Its parts can't be used any more.</summary>
@@ -139,24 +143,22 @@ namespace Vyr
             if (report.IsOk) return document;
             var failure = new VyrException(report);
             bool isFolder = path != null && Directory.Exists(path);
-            if (path == null || (report.Code != NoFile && !isFolder)) throw failure;
+            if (path == null || (!report.IsOfSystem && !isFolder)) throw failure;
             if (File.Exists(path) || isFolder) throw new IOException(failure.Message, failure);
             throw new FileNotFoundException(failure.Message, path, failure);
         }
 
-        void Written(IntPtr found, string path)
+        static void Demand(LoadReport report, string path)
         {
-            Keep();
-            var report = new LoadReport(found);
             if (report.IsOk) return;
             var failure = new VyrException(report);
-            if (path != null && report.Code == NoFile) throw new IOException(failure.Message, failure);
+            if (path != null && report.IsOfSystem) throw new IOException(failure.Message, failure);
             throw failure;
         }
 
         /// <summary>A container is made by way of a plain document of the same name beside it. One that is there already
         /// would be lost, so that the container is then made in a folder of its own.</summary>
-        void SaveElsewhere(string path)
+        LoadReport SaveElsewhere(string path)
         {
             string folder = path + ".saving";
             for (int i = 0; Directory.Exists(folder) || File.Exists(folder); ++i) folder = path + ".saving" + i;
@@ -164,9 +166,11 @@ namespace Vyr
             try
             {
                 string made = Path.Combine(folder, Path.GetFileName(path));
-                Written(Library.VyrModule_WriteFile(Pointer, made), path);
+                var report = new LoadReport(Kept(Library.VyrModule_WriteFile(Pointer, made)));
+                if (!File.Exists(made)) return report;
                 if (File.Exists(path)) File.Delete(path);
                 File.Move(made, path);
+                return report;
             }
             finally
             {

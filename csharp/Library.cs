@@ -33,6 +33,7 @@ namespace Vyr
         [DllImport(Name)] internal static extern void VyrModule_DeleteReport(IntPtr report);
         [DllImport(Name)] internal static extern int VyrModule_ReportCode(IntPtr report);
         [DllImport(Name)] internal static extern int VyrModule_ReportIsReadToEnd(IntPtr report);
+        [DllImport(Name)] internal static extern int VyrModule_ReportSystemError(IntPtr report);
         [DllImport(Name)] internal static extern uint VyrModule_ReportFaultCount(IntPtr report);
         [DllImport(Name)] internal static extern uint VyrModule_ReportTotalCount(IntPtr report);
         [return: MarshalAs(UnmanagedType.BStr)]

@@ -33,6 +33,7 @@ namespace Vyr
             {
                 Code = Library.VyrModule_ReportCode(report);
                 TotalCount = (int)Library.VyrModule_ReportTotalCount(report);
+                SystemError = Library.VyrModule_ReportSystemError(report);
                 IsReadToEnd = Library.VyrModule_ReportIsReadToEnd(report) != 0;
                 text = Library.VyrModule_ReportText(report);
                 string[] lines = text.Split('\n');
@@ -60,8 +61,16 @@ namespace Vyr
         /// <summary>How many faults there were with those that the limit left out.</summary>
         public int TotalCount { get; }
 
-        /// <summary>False if a fault ended the load: what follows it in the document was not looked at.</summary>
+        /// <summary>False if a fault ended the load or the save: what follows it was not looked at, or nothing was
+        /// written.</summary>
         public bool IsReadToEnd { get; }
+
+        /// <summary>The error number of what the system refused; 0 if it is the document that is wrong.</summary>
+        public int SystemError { get; }
+
+        internal bool IsOfSystem => SystemError != 0 || Code == NoFile;
+
+        const int NoFile = 1;
 
         /// <summary>A line for each fault.</summary>
         public override string ToString() => text;

@@ -164,6 +164,8 @@ namespace Vyr
             if (child != null) return child;
             child = Remember(number, calls.Make(new Handle(Kept(calls.Get(Pointer)), root)));
             child.Reset(); // one that was unset still holds what it held
+            calls.Get(Pointer); // of a class that is a holder itself the reset takes that back
+            Keep();
             return child;
         }
 

@@ -122,11 +122,7 @@ VYR_FLAT(void*) VyrModule_FindItem(const char* class_name, const char* item) {
 VYR_FLAT(void*) VyrModule_GetPart(void* self, void* item) {
     const s_item& row = row_of(item);
     if ((row.kind != item_kind::child && row.kind != item_kind::group) || row.flag == lmx::k_no_flag) return nullptr;
-    std::byte& found = part<std::byte>(self, row.offset);
-    // A class that is a holder itself can be filled through what it inherits, which knows no flag.
-    const bool is_there = part<bool>(self, row.flag) ||
-                          (row.type->content == lmx::content_kind::group && lmx::is_occurs_ok(*row.type, &found));
-    return is_there ? &found : nullptr;
+    return part<bool>(self, row.flag) ? &part<std::byte>(self, row.offset) : nullptr;
 }
 
 VYR_FLAT(std::uint32_t)

@@ -82,8 +82,9 @@ VYR_FLAT(void*) VyrModule_WriteString(void* self, char16_t** text) {
         +[](void* s, char16_t** t) -> void* {
             std::u16string written;
             auto report = std::make_unique<DocumentReport>(writeStringWithReport(as<Vyr>(s), &written));
-            if (report->isOk()) *t = new_string(written);
-            return report->isOk() && *t == nullptr ? nullptr : report.release();
+            if (!report->isReadToEnd()) return report.release();
+            *t = new_string(written);
+            return *t == nullptr ? nullptr : report.release();
         },
         self, text);
 }
@@ -100,6 +101,9 @@ VYR_FLAT(void) VyrModule_DeleteReport(void* report) { destroy<DocumentReport>(re
 
 VYR_FLAT(std::int32_t) VyrModule_ReportCode(void* report) { return as<DocumentReport>(report).getCode(); }
 VYR_FLAT(std::int32_t) VyrModule_ReportIsReadToEnd(void* report) { return as<DocumentReport>(report).isReadToEnd(); }
+VYR_FLAT(std::int32_t) VyrModule_ReportSystemError(void* report) {
+    return as<DocumentReport>(report).getSystemError();
+}
 VYR_FLAT(std::uint32_t) VyrModule_ReportFaultCount(void* report) {
     return static_cast<std::uint32_t>(as<DocumentReport>(report).getFaultCount());
 }

@@ -2,12 +2,14 @@
 # Copyright 2026 The Vyr Authors
 # SPDX-License-Identifier: Apache-2.0
 #
-# Makes the Debian packages libvyr*, libvyr-dev and vyr-tools in build/package.
+# Makes the Debian packages libvyr*, libvyr-dev, vyr-tools and, where there is a compiler for C#, libvyr-cil in
+# build/package.
 
 set -euo pipefail
 cd "$(dirname "$0")/.."
 
 scripts/setup.sh build tool package
+scripts/setup.sh csharp || echo "package.sh: there is no C# to be had; libvyr-cil is left out"
 cmake --preset package > /dev/null
 cmake --build --preset package
 rm -f build/package/*.deb

@@ -62,16 +62,19 @@ void* VYR_FLAT_CALL VyrModule_LoadString(void* self, const char16_t* text, uint3
 /* The same from the bytes of a plain document in any encoding that a file may have; the report names them as the
  * name says, which may be null. */
 void* VYR_FLAT_CALL VyrModule_LoadMemory(void* self, const void* data, uint32_t size, const char16_t* name, uint32_t collect, uint32_t limit);
-/* Writes to a path that ends in ".vyr", or ".vyrz" for a container. */
+/* Writes to a path that ends in ".vyr", or ".vyrz" for a container. A value that could not be read back is a fault
+ * too, but the document is written all the same. */
 void* VYR_FLAT_CALL VyrModule_WriteFile(void* self, const char16_t* path);
-/* Writes into a new text, which is null if the report has a fault. */
+/* Writes into a new text, which is null if a fault ended the save. */
 void* VYR_FLAT_CALL VyrModule_WriteString(void* self, char16_t** text);
 /* Null is ignored. */
 void VYR_FLAT_CALL VyrModule_DeleteReport(void* report);
 /* 0, or the code of the first fault. */
 int32_t VYR_FLAT_CALL VyrModule_ReportCode(void* report);
-/* 0 if a fault ended the load. */
+/* 0 if a fault ended the load or the save. */
 int32_t VYR_FLAT_CALL VyrModule_ReportIsReadToEnd(void* report);
+/* The errno of what the system refused; 0 if it didn't. */
+int32_t VYR_FLAT_CALL VyrModule_ReportSystemError(void* report);
 /* How many faults were kept. */
 uint32_t VYR_FLAT_CALL VyrModule_ReportFaultCount(void* report);
 /* How many there were. */

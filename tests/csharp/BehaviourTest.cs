@@ -168,6 +168,16 @@ static class BehaviourTest
         Check.Throws<IOException>("no such folder", () => Small().Save("none/a.vyrz"));
         Check.Equal(1001, Check.Throws<VyrException>("another ending", () => Small().Save("a.xml")).Code, "another ending");
 
+        // What could not be read back is written to a file, and told; so it is beside a file that must survive.
+        Document lines = Small();
+        lines.Preamble.Header.Comments = "two\r\nlines";
+        File.WriteAllText("told.vyr", "mine");
+        failure = Check.Throws<VyrException>("a carriage return", () => lines.Save("told.vyrz"));
+        Check.That(failure.Report.IsReadToEnd && Document.Load("told.vyrz").Preamble.Header.Comments == "two\nlines", "it is written");
+        Check.Equal("mine", File.ReadAllText("told.vyr"), "the file beside it");
+        Check.Equal(1, lines.TrySave("told.vyr").Faults.Count, "a report instead");
+        Check.Throws<VyrException>("a carriage return", () => lines.ToString());
+
         // Elements of their own
         var color = new ColorSpaceCIELab { L = 50, A = 1, B = -1 };
         Check.Equal(46, Check.Throws<VyrException>("an incomplete element", () => color.Save("lab.xml")).Code, "an incomplete element");

@@ -95,4 +95,37 @@ PROGRAM
         said=$(mono Found.exe)
         [[ $said == *"is too old"* ]] || fail "with an old library it says: $said"
         ;;
+    examples)
+        for name in Palette Spectra Quality; do compile "$name" "$source/examples/csharp/$name.cs"; done
+        run Palette.exe "$palette" changed.vyrz > said
+        run Palette.exe changed.vyrz again.vyr >> said
+        run Spectra.exe spectra.vyr >> said
+        run Quality.exe quality.vyr >> said
+        # Two wrong values: both are reported, and the program ends with 1.
+        sed '0,/Red>[0-9.]*/s//Red>1.5/; 0,/Green>[0-9.]*/s//Green>none/' "$palette" > bad.vyr
+        if run Palette.exe bad.vyr never.vyr >> said; then fail "a bad document is taken"; fi
+        diff said - << 'SAID'
+CSS, Named: 148 colours
+aliceblue: red 0.9412
+antiquewhite: red 0.9804
+aqua: red 0
+CSS, Named: 148 colours
+bleu pâle 🎨: red 0.25
+antiquewhite: red 0.9804
+aqua: red 0
+nm;Warm red;Green
+400;0.05;0.07
+500;0.06;0.42
+600;0.55;0.11
+700;0.81;0.2
+Sheet 1: 0.8367 passes
+Sheet 2: 1.6432 warns
+Sheet 3: 4.0669 fails
+line 39: Palette "CSS" / ColorSet "Named" / Color "aliceblue" / ColorSpaceSRGB / Red
+    Value greater than specified maximum: it must be at most 1
+line 40: Palette "CSS" / ColorSet "Named" / Color "aliceblue" / ColorSpaceSRGB / Green
+    Invalid value format for this type: a number is expected
+SAID
+        [[ $(head -c 2 changed.vyrz) == PK && ! -e never.vyr ]]
+        ;;
 esac

@@ -7,6 +7,7 @@
  *     client <palette> <rounds>       rounds: how often the palette is loaded and saved; the memory must not grow
  */
 
+#include <errno.h>
 #include <stdint.h>
 #include <stdio.h>
 #include <stdlib.h>
@@ -237,6 +238,7 @@ static void reports(const char* palette) {
 
     report = VyrModule_LoadFile(document, u"no such file.vyrz", 0, 5);
     CHECK(VyrModule_FaultLine(report, 0) == 0 && VyrModule_ReportCode(report) == VyrModule_FaultCode(report, 0));
+    CHECK(VyrModule_ReportSystemError(report) == ENOENT);
     CHECK_TEXT(VyrModule_FaultFile(report, 0), u"no such file.vyrz");
     CHECK_TEXT(VyrModule_ReportText(report), u"no such file.vyrz: Unable to open file: No such file or directory\n");
     VyrModule_DeleteReport(report);
@@ -255,6 +257,10 @@ static void reports(const char* palette) {
     CHECK(VyrModule_ReportCode(report) == 22 && VyrModule_ReportTotalCount(report) == 1);
     CHECK_TEXT(VyrModule_FaultPath(report, 0), u"Palette \"CSS\" / ChangeHistory[2]");
     CHECK_TEXT(VyrModule_FaultValue(report, 0), u"2024-05-01T09:30:00");
+    VyrModule_DeleteReport(report);
+    report = VyrModule_WriteString(document, &written);
+    CHECK(VyrModule_ReportCode(report) == 22 && VyrModule_ReportIsReadToEnd(report) == 1 && written != NULL);
+    VyrModule_FreeString(written);
     CHECK(CSharp_Vyr_loadFile(document, u"client-date.vyr") == 22);
     VyrModule_DeleteReport(report);
     CSharp_delete_c_datetime(date);
@@ -283,7 +289,8 @@ static void items(void) {
     double values[4] = {400, 410, 420, 9};
     CHECK(VyrModule_SetDoubles(spectrum, points, wavelength, values, 3) == 0);
     CHECK(CSharp_ColorSpaceSpectralType_size_ReflectancePoint(spectrum) == 3);
-    CHECK(CSharp_ReflectancePointType_is_occurs_ok(CSharp_ColorSpaceSpectralType_back_ReflectancePoint(spectrum)) == 0);
+    CHECK(CSharp_ReflectancePointType_is_occurs_ok(CSharp_ColorSpaceSpectralType_back_ReflectancePoint(spectrum)) ==
+          0);
     /* The third value is refused, and nothing has changed. */
     const double wrong[] = {1, 2, -1, 3};
     CHECK(VyrModule_SetDoubles(spectrum, points, factor, wrong, 4) == 37);
@@ -291,7 +298,8 @@ static void items(void) {
     CHECK(values[0] == 0 && values[1] == 0 && values[2] == 420);
     CHECK(VyrModule_SetDoubles(spectrum, points, factor, wrong, 2) == 0);
     CHECK(VyrModule_GetDoubles(spectrum, points, wavelength, values, 4) == 2 && values[1] == 410 && values[3] == 9);
-    CHECK(CSharp_ReflectancePointType_is_occurs_ok(CSharp_ColorSpaceSpectralType_back_ReflectancePoint(spectrum)) == 1);
+    CHECK(CSharp_ReflectancePointType_is_occurs_ok(CSharp_ColorSpaceSpectralType_back_ReflectancePoint(spectrum)) ==
+          1);
     CHECK(VyrModule_SetDoubles(spectrum, name, wavelength, values, 2) == 1000);
     CHECK(VyrModule_GetDoubles(spectrum, points, name, values, 4) == 0);
     CSharp_delete_ColorSpaceSpectralType(spectrum);

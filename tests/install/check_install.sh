@@ -29,10 +29,14 @@ fail() { echo "check_install.sh: $*"; exit 1; }
 library=$libdir/$soname
 version=$("$build/bin/vyr" --version | grep -o '[0-9.]*$')
 grep -q "\"version-semver\": \"$version\"" "$source/vcpkg.json" || fail "vcpkg.json gives another version"
-for component in runtime tool development documentation; do
+for component in runtime tool development documentation csharp; do
     "$cmake" --install "$build" --prefix "$work/$component" --component "$component" > install.log
 done
 listed() { (cd "$1" && find . -type f -o -type l) | cut -c 3- | grep -vE '^include/|^share/doc/' | sort; }
+# The assembly with its documentation where it can be compiled, and always its sources.
+assembly=$([[ ! -f $build/csharp/Vyr.dll ]] || echo Vyr.dll Vyr.xml)
+sources=$(cd "$source/csharp" && find . -name '*.cs' | cut -c 3-)
+diff <(listed csharp) <(printf 'share/vyr/csharp/%s\n' $assembly $sources README.md Vyr.csproj | sort) || fail "csharp: < is not in the list, > is missing"
 config=$(sed -n 's/^CMAKE_BUILD_TYPE:.*=//p' "$build/CMakeCache.txt")
 diff <(listed runtime; listed tool; listed development) - << LIST || fail "> is missing, < is not in the list"
 $libdir/libVyrModule.so
@@ -49,14 +53,20 @@ $libdir/cmake/vyr/vyr-targets-${config,,}.cmake
 $libdir/cmake/vyr/vyr-targets.cmake
 $libdir/libvyr.so
 $libdir/pkgconfig/vyr.pc
+share/vyr/exports.txt
 share/vyr/vyr.xsd
 LIST
 [[ -f documentation/share/doc/vyr/docs/format.md ]] || fail "the guides are missing"
 "$cmake" --install "$build" --prefix "$work/first" > install.log
 mv first shared
-[[ $(find shared -type f | wc -l) == $(find runtime tool development documentation -type f | wc -l) ]] ||
+[[ $(find shared -type f | wc -l) == $(find runtime tool development documentation csharp -type f | wc -l) ]] ||
     fail "a file belongs to no component"
 "shared/bin/vyr" check "$palette" || fail "the installed command does not run"
+
+# The header for C is C, and links with nothing but the library.
+printf '#include <vyr_flat.h>\nint main(void) { return VyrModule_FindItem("Tag", "Name") == 0 || VyrModule_Version()[0] != *"%s"; }\n' "$version" > flat.c
+cc -std=c11 -Wall -Wextra -Wpedantic -Werror -I shared/include/vyr flat.c -o flat "shared/$libdir/libVyrModule.so" &&
+    LD_LIBRARY_PATH=shared/$libdir ./flat || fail "vyr_flat.h is no good from C"
 
 # The library asks for what it is made from and no more.
 needed() { objdump -p "$1" | awk '$1 == "NEEDED" {print $2}' | sort | paste -s -d ' '; }

@@ -19,10 +19,13 @@ fail() { echo "check_packages.sh: $*"; exit 1; }
 
 "$1" -G DEB --config "$2/CPackConfig.cmake" -B "$work" -D CPACK_PACKAGING_INSTALL_PREFIX=/usr > log 2>&1 ||
     { cat log; fail "cpack fails"; }
+assembly=
+[[ ! -f $2/csharp/Vyr.dll ]] || assembly="libvyr-cil LIBRARY share/vyr/csharp/Vyr.dll"
 version=$("$2/bin/vyr" --version | grep -o '[0-9.]*$')
 library=libvyr${version%.*}
 # package, what it needs, a file of it
 while read -r package needs file; do
+    [[ -n $package ]] || continue
     deb=$(find . -maxdepth 1 -name "${package}_${version}_*.deb")
     [[ -n $deb ]] || fail "there is no $package"
     depends=$(dpkg-deb -f "$deb" Depends)
@@ -38,6 +41,7 @@ done << TABLE
 $library libc6,libstdc++6,libxml2,zlib1g,libbz2 lib*/libVyrModule.so
 libvyr-dev $library,libxml2-dev,zlib1g-dev,libbz2-dev,liblzma-dev share/vyr/vyr.xsd
 vyr-tools $library,libc6,libstdc++6 bin/vyr
+${assembly/LIBRARY/$library}
 TABLE
 # No file is in two packages.
 [[ $(find root -type f | wc -l) == $(find root_* -type f | wc -l) ]] || fail "two packages hold the same file"

@@ -1,0 +1,59 @@
+#!/usr/bin/env bash
+# Copyright 2026 The Vyr Authors
+# SPDX-License-Identifier: Apache-2.0
+#
+# Makes the NuGet package Vyr.<version>.nupkg of a build that has Vyr.dll: the assembly with its documentation, the
+# native library of this system, and those of Windows builds beside it, if there are any. NuGet itself isn't needed.
+#
+#   scripts/nuget.sh [BUILD_FOLDER [TARGET_FOLDER]]      (without arguments: build/release, and into that)
+
+set -euo pipefail
+root=$(cd "$(dirname "$0")/.." && pwd)
+build=$(cd "${1:-$root/build/release}" && pwd)
+target=$(cd "${2:-$build}" && pwd)
+
+[[ -f $build/csharp/Vyr.dll ]] || { echo "nuget.sh: there is no $build/csharp/Vyr.dll; see scripts/setup.sh csharp" >&2; exit 1; }
+version=$(sed -n 's/^ *<version>\(.*\)<\/version>$/\1/p' "$root/csharp/Vyr.nuspec")
+work=$(mktemp -d)
+trap 'rm -rf "$work"' EXIT
+cd "$work"
+
+mkdir -p lib/netstandard2.0 _rels
+cp "$build/csharp/Vyr.dll" "$build/csharp/Vyr.xml" lib/netstandard2.0/
+cp "$root/csharp/Vyr.nuspec" "$root/csharp/README.md" .
+
+# system of NuGet, file of the build
+while read -r system file; do
+    folder=runtimes/$system/native
+    mkdir -p "$folder"
+    # The name by which the assembly asks, for the file itself: packages hold no links.
+    if [[ -e $file ]]; then cp --dereference "$file" "$folder/"; else touch "$folder/_._"; fi
+done << TABLE
+linux-x64 $build/libVyrModule.so
+win-x64 $root/build/windows64/VyrModule.dll
+win-x86 $root/build/windows32/VyrModule.dll
+TABLE
+
+cat > '[Content_Types].xml' << 'XML'
+<?xml version="1.0" encoding="utf-8"?>
+<Types xmlns="http://schemas.openxmlformats.org/package/2006/content-types">
+  <Default Extension="rels" ContentType="application/vnd.openxmlformats-package.relationships+xml" />
+  <Default Extension="nuspec" ContentType="application/octet" />
+  <Default Extension="dll" ContentType="application/octet" />
+  <Default Extension="so" ContentType="application/octet" />
+  <Default Extension="xml" ContentType="application/octet" />
+  <Default Extension="md" ContentType="application/octet" />
+  <Default Extension="_" ContentType="application/octet" />
+</Types>
+XML
+cat > _rels/.rels << 'XML'
+<?xml version="1.0" encoding="utf-8"?>
+<Relationships xmlns="http://schemas.openxmlformats.org/package/2006/relationships">
+  <Relationship Type="http://schemas.microsoft.com/packaging/2010/07/manifest" Target="/Vyr.nuspec" Id="manifest" />
+</Relationships>
+XML
+
+package=$target/Vyr.$version.nupkg
+rm -f "$package"
+cmake -E tar cf "$package" --format=zip -- '[Content_Types].xml' _rels Vyr.nuspec README.md lib runtimes
+echo "$package"
