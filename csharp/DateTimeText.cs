@@ -60,9 +60,11 @@ namespace Vyr
             }
         }
 
+        /// <summary>The library keeps six digits of the seconds. What is finer is cut off here, since rounding could make
+        /// 60 seconds of it.</summary>
         internal static string Format(DateTimeOffset time)
         {
-            string text = time.ToString("yyyy-MM-dd'T'HH:mm:ss.FFFFFFF", CultureInfo.InvariantCulture);
+            string text = time.ToString("yyyy-MM-dd'T'HH:mm:ss.FFFF", CultureInfo.InvariantCulture);
             return text + (time.Offset == TimeSpan.Zero ? "Z" : time.ToString("zzz", CultureInfo.InvariantCulture));
         }
 

@@ -291,6 +291,16 @@ static class BehaviourTest
         Check.That(color.ChangeHistory[1] == time && color.ChangeHistory[1].Offset == time.Offset, "a time");
         Check.Equal("2024-05-01T09:30:15.25-03:30", color.ChangeHistory.Texts[1], "a time");
 
+        // Every ten-thousandth of a second comes back, and what is finer never makes a minute of 60 seconds.
+        for (long ticks = 0; ticks < TimeSpan.TicksPerMinute; ticks += 7919 * 97)
+        {
+            DateTimeOffset exact = time.AddSeconds(-15.25).AddTicks(ticks);
+            color.ChangeHistory[1] = exact;
+            Check.Equal(exact.AddTicks(-(ticks % 1000)), color.ChangeHistory[1], "a time");
+        }
+        color.ChangeHistory[1] = DateTimeOffset.MaxValue;
+        Check.Equal("9999-12-31T23:59:59.9999Z", color.ChangeHistory.Texts[1], "the last time");
+
         // Members of derived classes stay what they are.
         var tolerance = new ToleranceType();
         FunctionType function = tolerance.CreateFunction().ChooseFunction(

@@ -127,5 +127,18 @@ line 40: Palette "CSS" / ColorSet "Named" / Color "aliceblue" / ColorSpaceSRGB /
     Invalid value format for this type: a number is expected
 SAID
         [[ $(head -c 2 changed.vyrz) == PK && ! -e never.vyr ]]
+
+        compile guides "$source/docs/samples/guides.cs"
+        diff <(run guides.exe "$palette") - << 'SAID'
+aliceblue 0.94117647058824
+antiquewhite 0.98039215686275
+ColorDepth_16
+ColorSpaceHSV, True
+7, 2016-12-31T23:59:60Z
+36, ColorSpaceSRGBType.Red: Value greater than specified maximum (36), still 0.9
+29: Palette "Inks" / ColorSet "All" / Color "Warm red" / ColorSpaceSRGB / Green: Invalid value format for this type a number is expected
+1
+444
+SAID
         ;;
 esac

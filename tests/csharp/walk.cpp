@@ -51,7 +51,8 @@ int main(int argc, char** argv) {
                     } else if (value.getchosen() == vyr::sg_ColorSpace::e_ColorSpaceCIELab) {
                         const vyr::ColorSpaceCIELabType& lab = value.get_ColorSpaceCIELab();
                         sum += lab.get_L() + lab.get_A() + lab.get_B();
-                        sum += static_cast<int>(lab.get_ColorSpaceSpecificationSpectrumTristimulus().getenum_FieldOfView());
+                        sum += static_cast<int>(
+                            lab.get_ColorSpaceSpecificationSpectrumTristimulus().getenum_FieldOfView());
                     } else if (value.getchosen() == vyr::sg_ColorSpace::e_ColorSpaceSpectral) {
                         const vyr::ColorSpaceSpectralType& spectral = value.get_ColorSpaceSpectral();
                         for (std::size_t i = 0; i < spectral.size_ReflectancePoint(); ++i) {

@@ -27,7 +27,8 @@ problems = []
 # Where an excerpt of a language may come from.
 ORIGINS = {
     "cpp": ["examples/*.cpp", "examples/*.h", "docs/samples/*.cpp", "schema/generated/*", "flat/generated/*.cpp"],
-    "csharp": ["examples/csharp/*.cs"],
+    "csharp": ["examples/csharp/*.cs", "docs/samples/*.cs", "csharp/generated/*.cs"],
+    "c": ["docs/samples/*.c"],
     "xml": ["examples/*.vyr", "docs/samples/*.vyr", "schema/vyr.xsd"],
     "toml": ["schema/binding.toml"],
     "csv": ["examples/*.csv"],
@@ -126,7 +127,7 @@ pages = [*sorted(source.glob("*.md")), *sorted((source / "docs").glob("*.md"))]
 for page in pages:
     text = page.read_text()
     with tempfile.TemporaryDirectory() as scratch:
-        for name in ("examples", "docs/samples", "schema", "flat"):
+        for name in ("examples", "docs/samples", "schema", "flat", "csharp"):
             shutil.copytree(source / name, Path(scratch, name), ignore=shutil.ignore_patterns("__pycache__"))
         Path(scratch, "build").mkdir()
         Path(scratch, "build", "examples").symlink_to(examples)
