@@ -73,37 +73,20 @@ lmx::elmx_error check(const lmx::s_facets& facets, double value) {
     return facets.is_above(value) ? lmx::ELMX_VALUE_EXCEEDS_MAX : lmx::ELMX_OK;
 }
 
-/// A list that entries can be taken out of without knowing their type.
-class c_open_list : public lmx::c_list_base {
-public:
-    c_open_list(lmx::c_list_base* list, const lmx::s_operations& operations)
-        : m_list(list), m_operations(operations) {
-        swap(*m_list);
+/// Appends or removes entries at the end; what can't be appended leaves the list as it was.
+void resize(lmx::c_list_base* list, const lmx::s_stored_type& type, std::size_t count) {
+    const std::size_t before = list->size();
+    const auto shrink = [&](std::size_t size) {
+        while (list->size() > size) list->remove(list->size() - 1, type);
+    };
+    try {
+        while (list->size() < count) list->append(type);
+    } catch (...) {
+        shrink(before);
+        throw;
     }
-    ~c_open_list() { swap(*m_list); }
-
-    void resize(std::size_t count) {
-        const std::size_t before = size();
-        try {
-            while (size() < count) {
-                reserve_one();
-                push(m_operations.create());
-            }
-        } catch (...) {
-            shrink(before);
-            throw;
-        }
-        shrink(count);
-    }
-
-private:
-    void shrink(std::size_t count) {
-        while (size() > count) m_operations.destroy(take(size() - 1));
-    }
-
-    lmx::c_list_base* m_list;
-    const lmx::s_operations& m_operations;
-};
+    shrink(count);
+}
 
 }  // namespace
 
@@ -121,8 +104,9 @@ VYR_FLAT(void*) VyrModule_FindItem(const char* class_name, const char* item) {
 
 VYR_FLAT(void*) VyrModule_GetPart(void* self, void* item) {
     const s_item& row = row_of(item);
-    if ((row.kind != item_kind::child && row.kind != item_kind::group) || row.flag == lmx::k_no_flag) return nullptr;
-    return part<bool>(self, row.flag) ? &part<std::byte>(self, row.offset) : nullptr;
+    if (row.flag == lmx::k_no_flag || row.type == nullptr || !part<bool>(self, row.flag)) return nullptr;
+    return row.kind == item_kind::optional_child ? part<lmx::c_optional_child_base>(self, row.offset).object()
+                                                 : &part<std::byte>(self, row.offset);
 }
 
 VYR_FLAT(std::uint32_t)
@@ -145,7 +129,7 @@ VyrModule_SetDoubles(void* self, void* list, void* item, const double* values, s
                 if (const lmx::elmx_error code = check(*row.facets, v[k]); code != lmx::ELMX_OK) return code;
             }
             auto& entries = part<lmx::c_list_base>(s, rows.offset);
-            c_open_list(&entries, *rows.type->operations).resize(n);
+            resize(&entries, rows.type->operations->stored, n);
             for (std::uint32_t k = 0; k < n; ++k)
                 lmx::set_item(*as<s_known_item>(i).owner, row, entries.entry(k), v[k]);
             return lmx::ELMX_OK;

@@ -37,7 +37,7 @@ ARGUMENTS = {"void*": "IntPtr", "const char16_t*": "[MarshalAs(UnmanagedType.LPW
              "std::int32_t": "int", "std::uint32_t": "uint", "double": "double"}
 RESULTS = {"void": "void", "void*": "IntPtr", "const char*": "IntPtr", "char*": "IntPtr", "std::int32_t": "int",
            "std::uint32_t": "uint", "double": "double", "char16_t*": "string"}
-PARTS = ("child", "group", *LISTS, "any")
+PARTS = ("child", "optional_child", "group", *LISTS, "any")
 
 
 def summary(text, indent):
