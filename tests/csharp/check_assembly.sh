@@ -50,7 +50,7 @@ case $part in
         ;;
     collector)
         tested StressTest
-        checked StressTest.exe collect 100 "$palette"
+        checked StressTest.exe collect 50 "$palette"
         MONO_GC_DEBUG=collect-before-allocs checked StressTest.exe collect 1 "$palette"
         ;;
     loads)
