@@ -22,7 +22,7 @@ class VyrConan(ConanFile):
     options = {"shared": [True, False], "flat": [True, False], "tools": [True, False]}
     default_options = {"shared": False, "flat": True, "tools": False}
     exports_sources = ("CMakeLists.txt", "LICENSE", "*.md", "cmake/*", "lmx/*", "schema/*", "zip/*", "document/*", "flat/*",
-                       "tools/*", "docs/*", "examples/*")
+                       "csharp/*", "tools/*", "docs/*", "examples/*")
 
     def set_version(self):
         text = Path(self.recipe_folder, "CMakeLists.txt").read_text(encoding="utf-8")

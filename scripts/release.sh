@@ -3,7 +3,7 @@
 # SPDX-License-Identifier: Apache-2.0
 #
 # Makes a release: sets the version wherever it stands, dates the changelog, tests, and leaves the commit, its tag and
-# the files to publish (sources, Debian packages, check sums) in build/release-VERSION. Publishes nothing.
+# the files to publish (sources, packages, check sums) in build/release-VERSION. Publishes nothing.
 #
 #   scripts/release.sh VERSION            from a clean work tree; VERSION such as 0.2.0
 #   scripts/release.sh VERSION --prepare  commits and tags only, without a test and without files
@@ -48,6 +48,9 @@ EOF
 }
 replace CMakeLists.txt "project(vyr VERSION $current " "project(vyr VERSION $version "
 replace vcpkg.json "\"version-semver\": \"$current\"" "\"version-semver\": \"$version\""
+replace csharp/Vyr.csproj "<Version>$current</Version>" "<Version>$version</Version>"
+replace csharp/Vyr.nuspec "<version>$current</version>" "<version>$version</version>"
+replace csharp/AssemblyInfo.cs "AssemblyVersion(\"$current.0\")" "AssemblyVersion(\"$version.0\")"
 for file in README.md examples/CMakeLists.txt; do
     replace "$file" "find_package(vyr $current_minor REQUIRED)" "find_package(vyr $minor REQUIRED)"
 done
@@ -72,5 +75,6 @@ rm -rf "$target"
 mkdir -p "$target"
 git archive --prefix="vyr-$version/" --output="$target/vyr-$version.tar.gz" "$tag"
 cp build/package/*.deb "$target"
+[[ ! -f build/package/csharp/Vyr.dll ]] || scripts/nuget.sh build/package "$target"
 (cd "$target" && sha256sum -- * > SHA256SUMS && cat SHA256SUMS)
 echo "$tag is ready in $target; publish it with: git push --follow-tags"

@@ -46,7 +46,7 @@ void VYR_FLAT_CALL SWIGRegisterExceptionArgumentCallbacks_VyrModule(vyr_argument
 void VYR_FLAT_CALL SWIGRegisterExceptionCallbacks_VyrModule(vyr_exception_callback application, vyr_exception_callback arithmetic, vyr_exception_callback divide_by_zero, vyr_exception_callback index_out_of_range, vyr_exception_callback invalid_cast, vyr_exception_callback invalid_operation, vyr_exception_callback io, vyr_exception_callback null_reference, vyr_exception_callback out_of_memory, vyr_exception_callback overflow, vyr_exception_callback system);
 /* It is never called. */
 void VYR_FLAT_CALL SWIGRegisterStringCallback_VyrModule(vyr_string_callback callback);
-/* The library's version, such as "0.1.0". It isn't copied. */
+/* The library's version: three numbers, with dots between. It isn't copied. */
 const char* VYR_FLAT_CALL VyrModule_Version(void);
 /* How many bytes lie ahead of a returned text in its block, for a host that the library can't tell: 4 or more.
  * Without effect on Windows. */
