@@ -34,9 +34,10 @@ for component in runtime tool development documentation csharp; do
 done
 listed() { (cd "$1" && find . -type f -o -type l) | cut -c 3- | grep -vE '^include/|^share/doc/' | sort; }
 # The assembly with its documentation where it can be compiled, and always its sources.
-assembly=$([[ ! -f $build/csharp/Vyr.dll ]] || echo Vyr.dll Vyr.xml)
-sources=$(cd "$source/csharp" && find . -name '*.cs' | cut -c 3-)
-diff <(listed csharp) <(printf 'share/vyr/csharp/%s\n' $assembly $sources README.md Vyr.csproj | sort) || fail "csharp: < is not in the list, > is missing"
+mapfile -t managed < <(cd "$source/csharp" && find . -name '*.cs' | cut -c 3-)
+[[ ! -f $build/csharp/Vyr.dll ]] || managed+=(Vyr.dll Vyr.xml)
+diff <(listed csharp) <(printf 'share/vyr/csharp/%s\n' "${managed[@]}" README.md Vyr.csproj | sort) ||
+    fail "> is missing, < is not in the list"
 config=$(sed -n 's/^CMAKE_BUILD_TYPE:.*=//p' "$build/CMakeCache.txt")
 diff <(listed runtime; listed tool; listed development) - << LIST || fail "> is missing, < is not in the list"
 $libdir/libVyrModule.so
