@@ -389,7 +389,7 @@ TEST(Saving, AnObjectOfTheHostsClassFindsEverythingInTheStream) {
 
 TEST(Saving, LinesOfAnyLengthComeThrough) {
     // Longer and shorter than the pieces in which text is handed on, and at their borders.
-    for (const std::size_t size : {0, 1, 7, 8, 16, 1023, 65500, 65510, 65520, 65530, 65540, 200000}) {
+    for (const std::size_t size : {0U, 1U, 7U, 8U, 16U, 1023U, 65500U, 65510U, 65520U, 65530U, 65540U, 200000U}) {
         const std::u16string value = std::u16string(size, u'x') + u"\U0001F600&" + std::u16string(size % 100, u'y');
         com_vyrgraph_v2::OwnerType owner;
         owner.append_Company(value);
