@@ -19,13 +19,16 @@ namespace {
 
 constexpr char k_source_file[] = "lmx/binding/marshal.cpp";
 
-/// Tells of a value that could not be read back. It is written all the same.
-void check_value(c_xml_writer& writer, const s_item& item, const void* storage) {
-    if (!writer.is_checking()) return;
+void tell_unless_read(c_xml_writer& writer, const s_item& item, const void* storage) {
     const elmx_error code = code_of_reading(item, storage, &writer.get_output().get_scratch());
     if (code == ELMX_OK) return;
     const c_handed_over handed_over(writer);
     report_unhandled(writer, {nullptr, &item, storage}, code, std::string(item.name));
+}
+
+/// Tells of a value that could not be read back. It is written all the same.
+inline void check_value(c_xml_writer& writer, const s_item& item, const void* storage) {
+    if (writer.is_checking() && !is_plainly_read(item, storage)) tell_unless_read(writer, item, storage);
 }
 
 /// `<Vyr:Name>value</Vyr:Name>` on a line of its own.

@@ -10,6 +10,7 @@
 #pragma once
 
 #include <array>
+#include <cmath>
 #include <compare>
 #include <cstddef>
 #include <cstdint>
@@ -70,6 +71,17 @@ public:
     /// Sets the offset; the minutes go the way of the hours. A total of 0 makes the value UTC.
     void set_offset(std::int32_t hours, std::uint32_t minutes);
     void set_offset_mins(std::int32_t hours, std::uint32_t minutes) { set_offset(hours, minutes); }
+
+    /// Whether the fields, printed as a date-time, are a valid one of whole seconds that names its zone. A look at
+    /// the fields only: false for some others that are valid.
+    bool is_usual() const {
+        constexpr std::uint32_t two_digits = 100;
+        const bool has_zone =
+            m_is_utc || (m_total_offset_mins != 0 && m_total_offset_mins > -6000 && m_total_offset_mins < 6000);
+        return has_zone && m_year >= 0 && m_year < 10000 && m_month < two_digits && m_day < two_digits &&
+               m_hours < two_digits && m_mins < two_digits && !std::signbit(m_secs) && m_secs < 100.0F &&
+               m_secs == static_cast<float>(static_cast<std::int32_t>(m_secs));
+    }
 
 protected:
     std::weak_ordering compare(const c_datetime_base& other) const;
