@@ -21,6 +21,19 @@ if(NOT CMAKE_BUILD_TYPE AND NOT CMAKE_CONFIGURATION_TYPES)
   set(CMAKE_BUILD_TYPE Release CACHE STRING "Build type" FORCE)
 endif()
 
+# On 32-bit x86 numbers are computed as on every other machine, not in the wide registers of its first float unit,
+# from which they come back rounded twice.
+include(CheckCXXSourceCompiles)
+check_cxx_source_compiles("#if !defined(__i386__)\n#error\n#endif\nint main() {}" VYR_IS_X86_32)
+if(VYR_IS_X86_32)
+  add_compile_options(-msse2 -mfpmath=sse)
+  if(WIN32)
+    # Callers there keep the stack at four bytes only, and the system's own form of time_t ends in 2038.
+    add_compile_options(-mstackrealign)
+    add_compile_definitions(__MINGW_USE_VC2005_COMPAT)
+  endif()
+endif()
+
 # Repeated builds are much faster through ccache; a machine without it builds all the same.
 if(PROJECT_IS_TOP_LEVEL AND NOT DEFINED CMAKE_CXX_COMPILER_LAUNCHER)
   find_program(VYR_CCACHE ccache)

@@ -7,7 +7,6 @@
 #include "schema/Vyr.h"
 
 #include <cerrno>
-#include <cstdio>
 #include <filesystem>
 #include <fstream>
 #include <system_error>
@@ -58,14 +57,19 @@ struct s_plain_file {
     int system_error;  ///< the `errno` of such a file
 };
 
-s_plain_file write_plain_file(const Vyr& document, const std::string& system_path, c_report_builder* report) {
+void remove_file(const std::filesystem::path& path) {
+    std::error_code ignored;
+    std::filesystem::remove(path, ignored);
+}
+
+s_plain_file write_plain_file(const Vyr& document, const std::filesystem::path& path, c_report_builder* report) {
     errno = 0;
-    std::ofstream stream(system_path);
+    std::ofstream stream(path, std::ios::binary);
     const lmx::elmx_error error = marshal_stamped(document, stream, report);
     const std::streamoff size = stream.tellp();
     stream.close();
     const int system_error = errno;
-    if (error != lmx::ELMX_OK) std::remove(system_path.c_str());
+    if (error != lmx::ELMX_OK) remove_file(path);
     if (stream.good()) return {error, size, 0};
     return {error, -1, system_error};
 }
@@ -100,10 +104,10 @@ lmx::elmx_error write_to_container(CZipContainer& archive, const std::u16string&
     }
 }
 
-bool is_archive(const std::string& system_path) {
+bool is_archive(const std::filesystem::path& path) {
     constexpr std::string_view k_signature = "PK\x03\x04";
     std::string start(k_signature.size(), '\0');
-    return std::ifstream(system_path, std::ios::binary).read(start.data(), 4) && start == k_signature;
+    return std::ifstream(path, std::ios::binary).read(start.data(), 4) && start == k_signature;
 }
 
 lmx::elmx_error refuse_file(c_report_builder* report, const std::string& detail) {
@@ -124,21 +128,22 @@ lmx::elmx_error load_string(Vyr& document, const std::u16string& text, c_report_
     return load_memory(document, bytes.data(), bytes.size(), report);
 }
 
-lmx::elmx_error load_plain_file(Vyr& document, const std::string& system_path, c_report_builder* report) {
-    c_reporting<lmx::c_xml_reader_file> reader(report, system_path.c_str());
+lmx::elmx_error load_plain_file(Vyr& document, const std::string& name, c_report_builder* report) {
+    c_reporting<lmx::c_xml_reader_file> reader(report, name.c_str());
     if (!reader.is_open()) {
         if (report != nullptr) report->add(lmx::ELMX_NO_FILE, {}, errno);
         return lmx::ELMX_NO_FILE;
     }
     const lmx::elmx_error error = document.unmarshal(reader);
     if (error == lmx::ELMX_OK || report == nullptr) return error;
+    const std::filesystem::path path = lmx::to_path(name).value_or(std::filesystem::path());
     std::error_code ignored;
     // Which opens like a file, and then can't be read.
-    if (std::filesystem::is_directory(system_path, ignored)) {
+    if (std::filesystem::is_directory(path, ignored)) {
         report->explain_last("it is a directory");
     } else if (reader.get_read_error() != 0) {
         report->explain_last("the file could not be read to its end", reader.get_read_error());
-    } else if (is_archive(system_path)) {
+    } else if (is_archive(path)) {
         report->explain_last("it is a ZIP archive; the name of a container must end in .vyrz");
     }
     return error;
@@ -149,9 +154,8 @@ lmx::elmx_error load_file(Vyr& document, const std::u16string& path, c_report_bu
         CZipContainer archive;
         if (archive.OpenContainer(path, zip_open_read)) return load_from_container(document, archive, path, report);
     }
-    const std::optional<std::string> system_path = lmx::to_system_path(path);
-    if (!system_path) return refuse_file(report, "the name is no text that a file can have");
-    return load_plain_file(document, *system_path, report);
+    if (!lmx::to_path(path)) return refuse_file(report, "the name is no text that a file can have");
+    return load_plain_file(document, lmx::convert_to_narrow(path), report);
 }
 
 lmx::elmx_error write_string(const Vyr& document, std::u16string* text, c_report_builder* report) {
@@ -169,8 +173,8 @@ lmx::elmx_error write_file(const Vyr& document, const std::u16string& path, c_re
     }
     const std::size_t ending_length = is_container ? k_container_ending.size() : k_plain_ending.size();
     const std::u16string plain_path = path.substr(0, path.size() - ending_length).append(k_plain_ending);
-    const std::string system_path = lmx::to_system_path(plain_path).value_or(std::string());
-    const s_plain_file plain = write_plain_file(document, system_path, report);
+    const std::filesystem::path plain_file = lmx::to_path(plain_path).value_or(std::filesystem::path());
+    const s_plain_file plain = write_plain_file(document, plain_file, report);
     if (!is_container || plain.error != lmx::ELMX_OK) {
         // For the plain call this is no failure.
         if (plain.error == lmx::ELMX_OK && plain.size < 0 && report != nullptr) {
@@ -187,7 +191,7 @@ lmx::elmx_error write_file(const Vyr& document, const std::u16string& path, c_re
             return error;
         }
     }
-    std::remove(system_path.c_str());
+    remove_file(plain_file);
     return lmx::ELMX_OK;
 }
 

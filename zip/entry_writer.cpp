@@ -39,6 +39,7 @@ std::uint16_t deflate_flags(int level) {
 
 /// The path's last part, or all of it without the root; "/" between folders.
 std::u16string name_from_path(std::u16string path, bool keep_folders) {
+    path = without_drive(path);
     while (path.ends_with(u'/')) path.pop_back();
     const std::size_t root_end = std::min(path.find_first_not_of(u'/'), path.size());
     return path.substr(keep_folders ? root_end : path.rfind(u'/') + 1);

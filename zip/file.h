@@ -57,4 +57,7 @@ std::optional<s_file_status> get_file_status(const std::u16string& path);
 /// Sets the permissions and the time of the last change; false if the system refuses.
 bool set_file_status(const std::u16string& path, std::uint32_t permissions, std::time_t modified);
 
+/// The path, with "/" between folders, without the drive or the device prefix that the system's paths may begin with.
+std::u16string without_drive(const std::u16string& path);
+
 }  // namespace zip

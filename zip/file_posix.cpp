@@ -6,6 +6,7 @@
 #include <unistd.h>
 
 #include <cerrno>
+#include <filesystem>
 #include <utility>
 
 #include "lmx/file_name.h"
@@ -25,23 +26,18 @@ auto without_interruption(t_call call) {
     return result;
 }
 
-/// A name that is no text can't be a file's.
-std::string system_path_of(const std::u16string& path) {
-    std::optional<std::string> system_path = lmx::to_system_path(path);
-    if (!system_path) throw CZipException(ENOENT, path);
-    return *std::move(system_path);
-}
-
 }  // namespace
 
 void c_file::fail() const { throw CZipException(errno, m_path); }
 
 void c_file::open_as(const std::u16string& path, int flags) {
-    const std::string system_path = system_path_of(path);
+    // A name that is no text can't be a file's.
+    const std::optional<std::filesystem::path> system_path = lmx::to_path(path);
+    if (!system_path) throw CZipException(ENOENT, path);
     m_path = path;
     // Without blocking, or a pipe of that name would be waited for; it fails at the first seek instead.
     flags |= O_CLOEXEC | O_NONBLOCK;
-    m_descriptor = without_interruption([&] { return ::open(system_path.c_str(), flags, 0666); });
+    m_descriptor = without_interruption([&] { return ::open(system_path->c_str(), flags, 0666); });
     if (m_descriptor < 0) fail();
 }
 
@@ -95,7 +91,7 @@ void c_file::abandon() noexcept {
 }
 
 std::optional<s_file_status> get_file_status(const std::u16string& path) {
-    const std::optional<std::string> system_path = lmx::to_system_path(path);
+    const std::optional<std::filesystem::path> system_path = lmx::to_path(path);
     struct stat status {};
     if (!system_path || ::stat(system_path->c_str(), &status) < 0) return std::nullopt;
     return s_file_status{status.st_mode, status.st_mtime, static_cast<std::uint64_t>(status.st_size),
@@ -103,11 +99,13 @@ std::optional<s_file_status> get_file_status(const std::u16string& path) {
 }
 
 bool set_file_status(const std::u16string& path, std::uint32_t permissions, std::time_t modified) {
-    const std::optional<std::string> system_path = lmx::to_system_path(path);
+    const std::optional<std::filesystem::path> system_path = lmx::to_path(path);
     if (!system_path) return false;
     const timespec times[2] = {{0, UTIME_OMIT}, {modified, 0}};
     return ::utimensat(AT_FDCWD, system_path->c_str(), times, 0) == 0 &&
            ::chmod(system_path->c_str(), permissions & 07777U) == 0;
 }
+
+std::u16string without_drive(const std::u16string& path) { return path; }
 
 }  // namespace zip

@@ -3,11 +3,14 @@
 
 #include "lmx/binding/document.h"
 
-#include <cstdio>
+#include <filesystem>
 #include <fstream>
+#include <optional>
+#include <system_error>
 #include <utility>
 
 #include "lmx/binding/open_element.h"
+#include "lmx/file_name.h"
 #include "lmx/writer/xml_writer.h"
 
 namespace lmx {
@@ -54,12 +57,15 @@ elmx_error unmarshal_document(const s_document& document, void* object, const ch
 }
 
 elmx_error marshal_document(const s_document& document, const void* object, const char* file_name) {
-    std::ofstream stream(file_name);
+    const std::optional<std::filesystem::path> path = to_path(std::string_view(file_name));
+    if (!path) return ELMX_NO_FILE;
+    std::ofstream stream(*path, std::ios::binary);
     if (!stream.is_open()) return ELMX_NO_FILE;
     const elmx_error error = marshal_whole(document, object, stream);
     if (error != ELMX_OK) {
         stream.close();
-        std::remove(file_name);
+        std::error_code ignored;
+        std::filesystem::remove(*path, ignored);
     }
     return error;
 }

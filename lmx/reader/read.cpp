@@ -9,26 +9,14 @@
 #include "lmx/values/unicode.h"
 
 namespace lmx {
-namespace {
-
-std::FILE* open_utf16(const char16_t* path) {
-#if defined(_WIN32)
-    return _wfopen(reinterpret_cast<const wchar_t*>(path), L"rb");
-#else
-    const std::optional<std::string> system_path = to_system_path(path);
-    return system_path ? std::fopen(system_path->c_str(), "rb") : nullptr;
-#endif
-}
-
-}  // namespace
-
 c_read::~c_read() = default;
 
 void c_read::give_back(std::size_t) {}
 
-c_read_file::c_read_file(const char* path) : m_name(path), m_file(std::fopen(path, "rb")) {}
+c_read_file::c_read_file(const char* path)
+    : m_name(path), m_file(open_for_reading(to_path(std::string_view(path)))) {}
 
-c_read_file::c_read_file(const char16_t* path) : m_file(open_utf16(path)) {
+c_read_file::c_read_file(const char16_t* path) : m_file(open_for_reading(to_path(std::u16string_view(path)))) {
     char utf8[5];
     for (; *path != 0; ++path) m_name += unicode_char_to_utf8(*path, utf8);
 }

@@ -23,7 +23,8 @@ BELOW = {
     "lmx/values": {"lmx/error.h", "lmx/export.h"},
     "lmx/reader": {"lmx/values", "lmx/file_name.h", "lmx/error.h", "lmx/export.h", "lmx/ns_map.h"},
     "lmx/writer": {"lmx/values", "lmx/error.h", "lmx/export.h", "lmx/large_memory.h", "lmx/ns_map.h"},
-    "lmx/binding": {"lmx/reader", "lmx/writer", "lmx/values", "lmx/error.h", "lmx/export.h", "lmx/ns_map.h"},
+    "lmx/binding": {"lmx/reader", "lmx/writer", "lmx/values", "lmx/file_name.h", "lmx/error.h", "lmx/export.h",
+                    "lmx/ns_map.h"},
     "lmx/lmx.h": {"lmx"},
     "schema": {"lmx"},
     # The container knows nothing of XML: of the runtime it takes text and names.
