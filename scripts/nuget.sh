@@ -22,16 +22,16 @@ mkdir -p lib/netstandard2.0 _rels
 cp "$build/csharp/Vyr.dll" "$build/csharp/Vyr.xml" lib/netstandard2.0/
 cp "$root/csharp/Vyr.nuspec" "$root/csharp/README.md" .
 
-# system of NuGet, file of the build
-while read -r system file; do
+# system of NuGet, the name by which the assembly asks, file of the build
+while read -r system name file; do
     folder=runtimes/$system/native
     mkdir -p "$folder"
-    # The name by which the assembly asks, for the file itself: packages hold no links.
-    if [[ -e $file ]]; then cp --dereference "$file" "$folder/"; else touch "$folder/_._"; fi
+    # The library itself, under that name: packages hold no links.
+    if [[ -e $file ]]; then cp --dereference "$file" "$folder/$name"; else touch "$folder/_._"; fi
 done << TABLE
-linux-x64 $build/libVyrModule.so
-win-x64 $root/build/windows64/VyrModule.dll
-win-x86 $root/build/windows32/VyrModule.dll
+linux-x64 libVyrModule.so $build/libvyr.so
+win-x64 VyrModule.dll $root/build/windows64/VyrModule.dll
+win-x86 VyrModule.dll $root/build/windows32/VyrModule.dll
 TABLE
 
 cat > '[Content_Types].xml' << 'XML'

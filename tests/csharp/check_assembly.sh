@@ -84,10 +84,18 @@ PROGRAM
         compile Found Found.cs
         said=$(LD_LIBRARY_PATH=/none mono Found.exe)
         [[ $said == *"beside the assembly, in $work"*"LD_LIBRARY_PATH (/none)"* ]] || fail "without the library it says: $said"
-        cp "$build/libVyrModule.so" .
+        cp "$build/libvyr.so" libVyrModule.so
         [[ $(mono Found.exe) == True ]] || fail "it isn't found beside the assembly"
+        # Beside the assembly, not the program, and before another one that the loader would find.
+        mkdir assembly program other
+        mv Vyr.dll libVyrModule.so assembly
+        mv Found.exe program
         echo 'const char* VyrModule_Version(void) { return "0.0.9"; }' > other.c
-        cc -shared -fPIC other.c -o libVyrModule.so
+        cc -shared -fPIC other.c -o other/libVyrModule.so
+        [[ $(cd other && LD_LIBRARY_PATH=. MONO_PATH=../assembly mono ../program/Found.exe) == True ]] ||
+            fail "another one than that beside the assembly is found"
+        mv assembly/Vyr.dll program/Found.exe .
+        cp other/libVyrModule.so .
         said=$(mono Found.exe)
         [[ $said =~ "has the version 0.0.9, and this assembly needs "[0-9]+\.[0-9]+\. ]] || fail "with another version it says: $said"
         echo 'int nothing;' > other.c

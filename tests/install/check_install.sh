@@ -66,8 +66,17 @@ mv first shared
 
 # The header for C is C, and links with nothing but the library.
 printf '#include <vyr_flat.h>\nint main(void) { return VyrModule_FindItem("Tag", "Name") == 0 || VyrModule_Version()[0] != *"%s"; }\n' "$version" > flat.c
-cc -std=c11 -Wall -Wextra -Wpedantic -Werror -I shared/include/vyr flat.c -o flat "shared/$libdir/libVyrModule.so" &&
+cc -std=c11 -Wall -Wextra -Wpedantic -Werror -I shared/include/vyr flat.c -o flat "shared/$libdir/libvyr.so" &&
     LD_LIBRARY_PATH=shared/$libdir ./flat || fail "vyr_flat.h is no good from C"
+
+# What C# asks for is found by the system's loader, which keeps the names that stand inside, and finds the library.
+ldconfig=$(PATH=$PATH:/usr/sbin:/sbin command -v ldconfig || true)
+if [[ -n $ldconfig ]]; then
+    echo "$work/shared/$libdir" > loader.conf
+    "$ldconfig" -X -f loader.conf -C loader.cache
+    "$ldconfig" -p -C loader.cache | grep -q 'libVyrModule.so .* => ' || fail "libVyrModule.so is not in the loader's cache"
+fi
+env -u LD_LIBRARY_PATH ldd "shared/$libdir/libVyrModule.so" | grep -q "$soname => .*/shared/" || fail "libVyrModule.so has no library"
 
 # The library asks for what it is made from and no more.
 needed() { objdump -p "$1" | awk '$1 == "NEEDED" {print $2}' | sort | paste -s -d ' '; }
