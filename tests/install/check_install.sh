@@ -74,9 +74,9 @@ ldconfig=$(PATH=$PATH:/usr/sbin:/sbin command -v ldconfig || true)
 if [[ -n $ldconfig ]]; then
     echo "$work/shared/$libdir" > loader.conf
     "$ldconfig" -X -f loader.conf -C loader.cache
-    "$ldconfig" -p -C loader.cache | grep -q 'libVyrModule.so .* => ' || fail "libVyrModule.so is not in the loader's cache"
+    "$ldconfig" -p -C loader.cache | grep 'libVyrModule.so .* => ' > /dev/null || fail "libVyrModule.so is not in the loader's cache"
 fi
-env -u LD_LIBRARY_PATH ldd "shared/$libdir/libVyrModule.so" | grep -q "$soname => .*/shared/" || fail "libVyrModule.so has no library"
+env -u LD_LIBRARY_PATH ldd "shared/$libdir/libVyrModule.so" | grep "$soname => .*/shared/" > /dev/null || fail "libVyrModule.so has no library"
 
 # The library asks for what it is made from and no more.
 needed() { objdump -p "$1" | awk '$1 == "NEEDED" {print $2}' | sort | paste -s -d ' '; }
@@ -118,7 +118,7 @@ consume() {
         fail "built with pkg-config, $kind, it says otherwise"
 }
 consume shared
-needed by_package_shared/first | grep -q "$soname" || fail "the program does not ask for $soname"
+needed by_package_shared/first | grep "$soname" > /dev/null || fail "the program does not ask for $soname"
 
 # The static library would be made of the same objects: they are taken from this build, not compiled again.
 "$cmake" -G Ninja -S "$source" -B static_build -DCMAKE_CXX_COMPILER="$compiler" -DCMAKE_BUILD_TYPE=Release \

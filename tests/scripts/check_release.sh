@@ -36,7 +36,7 @@ grep --quiet "does not come behind" "$work/refusal" || fail "refused for another
 scripts/release.sh 9.8.7 --prepare
 [[ -z $(git status --porcelain) ]] || fail "changes are left behind"
 [[ $(git describe) == v9.8.7 ]] || fail "the commit has no tag"
-git tag --list --format='%(contents)' v9.8.7 | grep --quiet "A line of this test" || fail "the tag has no notes"
+git tag --list --format='%(contents)' v9.8.7 | grep "A line of this test" > /dev/null || fail "the tag has no notes"
 # Every place that a version is written in: the changelog alone may still name the former one.
 left=$(git grep --fixed-strings --line-number -e "VERSION $current" -e "\"$current\"" -e "vyr ${current%.*} " \
     -e "libvyr${current%.*}" -e "libvyr.so.${current%.*}" -- ':!CHANGELOG.md' ':!tests' || true)
