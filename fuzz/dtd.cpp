@@ -129,6 +129,8 @@ private:
             text.written += piece.written;
             text.meaning += piece.meaning;
         }
+        // A parameter entity declared anew by its own text grows as a bomb does, and is refused like one.
+        if (text.meaning.size() > k_longest_text) m_is_tame = false;
         return text;
     }
 
