@@ -7,6 +7,7 @@
 
 #include <cstddef>
 #include <cstdio>
+#include <memory>
 #include <string>
 #include <string_view>
 
@@ -60,7 +61,8 @@ public:
     explicit c_read_string(const std::string& text) : c_read_memory(text.data(), text.size()) {}
 };
 
-/// A file, read in blocks. A file that can't be opened is a source without bytes.
+/// A file, read in blocks of 512 bytes. Of one that can seek many blocks are read at once, which shows nowhere: what
+/// a rewind serves first ends with the block in use. A file that can't be opened is a source without bytes.
 class VYR_EXPORT c_read_file : public c_read {
 public:
     /// Opens a file named in UTF-8.
@@ -82,19 +84,21 @@ public:
     int get_read_error() const { return m_read_error; }
     int read() override;
     const char* get_source_id() override { return m_name.c_str(); }
-    /// Only seeks: bytes that were buffered and not yet read come first.
+    /// Only seeks: what is unread of the block in use comes first.
     void rewind() override;
     std::string_view take_window() override;
     void give_back(std::size_t count) override { m_buffer_index -= count; }
 
 private:
     bool refill();
+    std::size_t end_of_block() const;
 
     std::string m_name;
     std::FILE* m_file = nullptr;
     bool m_close_on_delete = true;
     int m_read_error = 0;
-    char m_buffer[512];
+    std::unique_ptr<char[]> m_buffer;
+    std::size_t m_buffer_size = 0;
     std::size_t m_buffer_count = 0;
     std::size_t m_buffer_index = 0;
 };

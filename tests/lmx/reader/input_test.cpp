@@ -243,6 +243,42 @@ TEST(Files, ServeWhatIsBufferedAheadOfARewind) {
     std::string found;
     for (int c = file.read(); c != -1; c = file.read()) found += static_cast<char>(c);
     EXPECT_EQ(found, "abc<abc");
+
+    // That ends with the block of 512 bytes in use, however much was taken at once.
+    std::string bytes;
+    for (int i = 0; i < 100000; ++i) bytes += static_cast<char>(i % 251);
+    const c_scratch_file large(bytes);
+    for (const std::size_t read : {1U, 511U, 512U, 513U, 5000U, 65535U, 65536U, 65537U, 99900U}) {
+        for (const bool is_window : {false, true}) {
+            c_read_file blocks(large.k_name);
+            if (is_window) {
+                for (std::size_t taken = 0; taken < read;) {
+                    const std::size_t size = blocks.take_window().size();
+                    taken += size;
+                    if (taken > read) blocks.give_back(taken - read);
+                }
+            } else {
+                for (std::size_t i = 0; i < read; ++i) blocks.read();
+            }
+            blocks.rewind();
+            const std::size_t end = std::min(bytes.size(), (read + 511) / 512 * 512);
+            std::string rest;
+            for (int c = blocks.read(); c != -1; c = blocks.read()) rest += static_cast<char>(c);
+            EXPECT_TRUE(rest == bytes.substr(read, end - read) + bytes) << read;
+        }
+    }
+}
+
+TEST(Files, ThatAreLeftOpenAreReadByBlocks) {
+    const c_scratch_file scratch(std::string(2000, 'x'));
+    std::FILE* const handle = std::fopen(scratch.k_name, "rb");
+    {
+        c_read_file file(handle);
+        file.leave_file_open_on_delete(true);
+        file.take_window();
+    }
+    EXPECT_EQ(std::ftell(handle), 512);
+    std::fclose(handle);
 }
 
 TEST(Files, HaveNamesAndMayBeMissing) {
