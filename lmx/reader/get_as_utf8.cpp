@@ -4,16 +4,14 @@
 #include "lmx/reader/get_as_utf8.h"
 
 #include <algorithm>
-#include <cstring>
+#include <functional>
 
+#include "lmx/reader/decoded_window.h"
 #include "lmx/values/characters.h"
 #include "lmx/values/unicode.h"
 
 namespace lmx {
 namespace {
-
-constexpr int k_next_line = 0x85;
-constexpr int k_line_separator = 0x2028;
 
 int sequence_length(int lead) {
     if (lead < 0xC0) return 1;
@@ -23,9 +21,7 @@ int sequence_length(int lead) {
     return lead < 0xFC ? 5 : 6;
 }
 
-bool is_line_end(const char* sequence) {
-    return std::strcmp(sequence, "\xC2\x85") == 0 || std::strcmp(sequence, "\xE2\x80\xA8") == 0;
-}
+bool is_line_end(std::string_view sequence) { return utf8_line_end(sequence) == sequence.size(); }
 
 bool is_within(int value, int low, int high) { return value >= low && value <= high; }
 
@@ -77,12 +73,62 @@ void c_get_as_utf8::rewind() {
     if (bytes_read != m_bytes_taken) m_reader.give_back(static_cast<std::size_t>(m_bytes_taken - bytes_read));
     m_bytes_taken = bytes_read;
     m_begin = m_current = m_end = m_furthest = nullptr;
+    if (m_decoded != nullptr) m_decoded->drop();
     m_reader.rewind();
 }
 
 void c_get_as_utf8::set_form(int form) {
+    leave_decoded();
+    if (m_decoded != nullptr) m_decoded->drop();
+    m_is_decoding = false;
     m_encoding = form;
     m_is_plain = form == enc_utf8 || form == enc_single_byte;
+}
+
+/// Whether what stands ahead in the source's window, which isn't empty, should be decoded.
+bool c_get_as_utf8::is_decoding_due() const {
+    if (m_encoding == enc_unknown) return false;
+    if (m_is_decoding || *m_current == '\r') return true;
+    if (m_encoding == enc_single_byte) return static_cast<signed char>(*m_current) < 0;
+    return m_encoding != enc_utf8 || utf8_line_end({m_current, static_cast<std::size_t>(m_end - m_current)}) != 0;
+}
+
+void c_get_as_utf8::enter_decoded() {
+    if (m_is_decoded) leave_decoded();
+    if (m_current == m_end || !is_decoding_due()) return;
+    if (m_decoded == nullptr) m_decoded = std::make_unique<c_decoded_window>();
+    const bool is_behind_return = m_last_char == '\r';
+    if (!m_decoded->resume(m_current, is_behind_return) &&
+        !m_decoded->decode(m_encoding, {m_current, static_cast<std::size_t>(m_end - m_current)}, is_behind_return)) {
+        return;
+    }
+    m_is_decoding = m_decoded->is_changed();
+    m_source_end = m_end;
+    m_begin = m_current = m_decoded->current();
+    m_end = m_decoded->end();
+    m_furthest = nullptr;
+    m_is_decoded = m_is_plain = true;
+    // The decoder has seen to the pair.
+    if (is_behind_return) m_last_char = 0;
+}
+
+/// Back to the source, as if it had been read byte by byte.
+void c_get_as_utf8::leave_decoded() {
+    if (!m_is_decoded) return;
+    const char* read_to = std::max(m_furthest, m_current, std::less<>());
+    const c_decoded_window::s_place& place = m_decoded->seek(read_to);
+    const std::string_view rest = m_decoded->rest_of_char(read_to);
+    if (!rest.empty()) {
+        *std::copy(rest.begin(), rest.end(), m_utf8_char) = 0;
+        m_pending = m_utf8_char;
+    }
+    if (read_to == m_current && place.is_behind_return) m_last_char = '\r';
+    while (read_to != m_current) m_unget.unget(static_cast<unsigned char>(*--read_to));
+    m_begin = m_current = place.at;
+    m_end = m_source_end;
+    m_furthest = nullptr;
+    m_is_decoded = false;
+    m_is_plain = m_encoding == enc_utf8 || m_encoding == enc_single_byte;
 }
 
 void c_get_as_utf8::unget(int c) {
@@ -92,11 +138,15 @@ void c_get_as_utf8::unget(int c) {
         --m_current;
         return;
     }
+    leave_decoded();
     m_returned_feeds += static_cast<int>(c == '\n');
     m_unget.unget(c);
 }
 
 int c_get_as_utf8::get_slowly() {
+    if (m_is_decoded ? m_current == m_end : m_current != m_end && m_unget.empty() && m_pending == nullptr) {
+        enter_decoded();
+    }
     int c = raw_step();
     if (c == '\n' && m_last_char == '\r') c = raw_step();
     m_last_char = c;
@@ -114,8 +164,10 @@ int c_get_as_utf8::get_slowly() {
     return c;
 }
 
-std::uint64_t c_get_as_utf8::get_bytes_read() const {
-    return m_bytes_taken - static_cast<std::uint64_t>(m_end - (m_furthest > m_current ? m_furthest : m_current));
+std::uint64_t c_get_as_utf8::get_bytes_read() {
+    const char* const read_to = std::max(m_furthest, m_current, std::less<>());
+    const char* const unread = m_is_decoded ? m_decoded->seek(read_to).at : read_to;
+    return m_bytes_taken - static_cast<std::uint64_t>((m_is_decoded ? m_source_end : m_end) - unread);
 }
 
 int c_get_as_utf8::read_byte() {
@@ -125,6 +177,7 @@ int c_get_as_utf8::read_byte() {
 int c_get_as_utf8::read_byte_slowly() {
     const std::string_view window = m_reader.take_window();
     m_furthest = nullptr;
+    if (m_decoded != nullptr) m_decoded->drop();
     if (!window.empty()) {
         m_begin = m_current = window.data();
         m_end = m_current + window.size();
@@ -149,6 +202,7 @@ int c_get_as_utf8::raw_step() {
         if (*m_pending == 0) m_pending = nullptr;
         return byte;
     }
+    if (m_is_decoded) return static_cast<unsigned char>(*m_current++);
     const int byte = read_byte();
     if (byte < 0) return -1;
     switch (m_encoding) {
@@ -283,15 +337,8 @@ bool c_get_as_utf8::set_encoding(const char* name) {
 }
 
 std::size_t c_get_as_utf8::plain_length(std::string_view bytes) const {
-    const int lead = static_cast<unsigned char>(bytes[0]);
-    const auto length = static_cast<std::size_t>(sequence_length(lead));
-    if (m_encoding != enc_utf8 || lead < 0xC2 || lead > 0xF4 || bytes.size() < length) return 0;
-    char sequence[5] = {bytes[0]};
-    for (std::size_t k = 1; k < length; ++k) {
-        sequence[k] = bytes[k];
-        if ((static_cast<unsigned char>(sequence[k]) & 0xC0) != 0x80) return 0;
-    }
-    return is_valid_utf8_char_sequence(sequence) && !is_line_end(sequence) ? length : 0;
+    if ((m_encoding != enc_utf8 && !m_is_decoded) || utf8_line_end(bytes) != 0) return 0;
+    return whole_utf8_char(bytes);
 }
 
 void c_get_as_utf8::take_run(const byte_set& stops, std::string* out) {

@@ -8,6 +8,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <memory>
 #include <string>
 #include <string_view>
 
@@ -17,6 +18,8 @@
 #include "lmx/reader/read.h"
 
 namespace lmx {
+
+class c_decoded_window;
 
 /// Values that were given back, last in, first out. Three is the most that any layer gives back; a fourth would
 /// push out the oldest.
@@ -88,8 +91,9 @@ public:
     bool has_source_ended() const { return m_is_source_at_end; }
 
 protected:
-    // Short cuts through the window. Each does what calls of `get` and `unget` would do, or nothing, when the state
-    // or the window's end doesn't let it see enough: callers go on with `get`.
+    // Short cuts through the window, which is the source's or one decoded from it. Each does what calls of `get` and
+    // `unget` would do, or nothing, when the state or the window's end doesn't let it see enough: callers go on with
+    // `get`.
 
     /// The bytes ahead in the window; empty when the next character may not be what stands there.
     std::string_view ahead() const {
@@ -136,13 +140,16 @@ protected:
     std::size_t plain_length(std::string_view bytes) const;
 
     /// Bytes taken from the source so far, those given back included.
-    std::uint64_t get_bytes_read() const;
+    std::uint64_t get_bytes_read();
 
 private:
     /// Whether the next character comes from the window, byte by byte as it stands there if it is ASCII.
     bool is_fast() const { return m_is_plain && m_unget.empty() && m_pending == nullptr && !is_shut(); }
     bool is_shut() const { return m_error.is_fatal_errored(); }
     void set_form(int form);
+    bool is_decoding_due() const;
+    void enter_decoded();
+    void leave_decoded();
 
     int get_slowly();
     int read_byte();
@@ -172,6 +179,12 @@ private:
     const char* m_furthest = nullptr;  ///< the furthest place read in the window, when behind `m_current`
     std::uint64_t m_bytes_taken = 0;   ///< handed out by the source, the window's unread part included
     bool m_is_plain = false;           ///< one byte per ASCII character
+    // While a decoded window is in use, nothing is given back but what stands in it, and the decoder keeps count of
+    // where the source stands.
+    std::unique_ptr<c_decoded_window> m_decoded;
+    const char* m_source_end = nullptr;  ///< of the source's window
+    bool m_is_decoded = false;           ///< the window in use is the decoded one
+    bool m_is_decoding = false;          ///< the last stretch decoded wasn't plain: the next may not be either
     bool m_is_source_at_end = false;
 };
 
