@@ -60,11 +60,14 @@ namespace Vyr
             }
         }
 
-        /// <summary>The library keeps six digits of the seconds. What is finer is cut off here, since rounding could make
-        /// 60 seconds of it.</summary>
+        /// <summary>The library keeps six digits of the seconds, and six places below a thousandth. What is finer is cut
+        /// off here, since rounding could make 60 seconds of it.</summary>
         internal static string Format(DateTimeOffset time)
         {
-            string text = time.ToString("yyyy-MM-dd'T'HH:mm:ss.FFFF", CultureInfo.InvariantCulture);
+            long seconds = time.Ticks % TimeSpan.TicksPerMinute, kept = TimeSpan.TicksPerSecond / 1000000;
+            if (seconds >= TimeSpan.TicksPerMillisecond)
+                for (kept = 1; seconds / kept >= 1000000;) kept *= 10;
+            string text = time.AddTicks(-(seconds % kept)).ToString("yyyy-MM-dd'T'HH:mm:ss.FFFFFFF", CultureInfo.InvariantCulture);
             return text + (time.Offset == TimeSpan.Zero ? "Z" : time.ToString("zzz", CultureInfo.InvariantCulture));
         }
 

@@ -37,7 +37,7 @@ namespace Vyr
         /// <param name="options">How to load.</param>
         public static LoadReport TryLoad(string path, out Document document, LoadOptions options = null)
         {
-            Library.Whole(path);
+            Library.Whole(path, nameof(path));
             long size = File.Exists(path) ? new FileInfo(path).Length : 0;
             return Read(size, options, out document,
                         (self, how) => Library.VyrModule_LoadFile(self, path, how.Collect, how.Kept));
@@ -62,7 +62,7 @@ namespace Vyr
         /// <summary>Reads a text without throwing for what is wrong with it.</summary>
         public static LoadReport TryParse(string text, out Document document, LoadOptions options = null)
         {
-            Library.Whole(text);
+            Library.Whole(text, nameof(text));
             return Read(text.Length, options, out document,
                         (self, how) => Library.VyrModule_LoadString(self, text, how.Collect, how.Kept));
         }
@@ -72,12 +72,12 @@ namespace Vyr
         /// <exception cref="IOException">The file can't be written.</exception>
         /// <exception cref="VyrException">The document lacks something, or the name has another ending; or a value could
         /// not be read back as it is, and then the file was written all the same (`Report.IsReadToEnd`).</exception>
-        public void Save(string path) => Demand(TrySave(path), path);
+        public void Save(string path) => TrySave(path).DemandSaved();
 
         /// <summary>Writes a file without throwing for what is wrong with it.</summary>
         public LoadReport TrySave(string path)
         {
-            Library.Whole(path);
+            Library.Whole(path, nameof(path));
             string beside = path.EndsWith(".vyrz", StringComparison.Ordinal) ? path.Substring(0, path.Length - 1) : null;
             if (beside != null && File.Exists(beside)) return SaveElsewhere(path);
             return new LoadReport(Kept(Library.VyrModule_WriteFile(Pointer, path)));
@@ -101,7 +101,7 @@ namespace Vyr
             IntPtr written;
             var report = new LoadReport(Kept(Library.VyrModule_WriteString(Pointer, out written)));
             string text = written == IntPtr.Zero ? null : Library.TakeWide(written);
-            Demand(report, null);
+            report.DemandSaved();
             return text;
         }
 
@@ -140,20 +140,8 @@ namespace Vyr
 
         static Document Demanded(LoadReport report, Document document, string path)
         {
-            if (report.IsOk) return document;
-            var failure = new VyrException(report);
-            bool isFolder = path != null && Directory.Exists(path);
-            if (path == null || (!report.IsOfSystem && !isFolder)) throw failure;
-            if (File.Exists(path) || isFolder) throw new IOException(failure.Message, failure);
-            throw new FileNotFoundException(failure.Message, path, failure);
-        }
-
-        static void Demand(LoadReport report, string path)
-        {
-            if (report.IsOk) return;
-            var failure = new VyrException(report);
-            if (path != null && report.IsOfSystem) throw new IOException(failure.Message, failure);
-            throw failure;
+            report.DemandLoaded(path);
+            return document;
         }
 
         /// <summary>A container is made by way of a plain document of the same name beside it. One that is there already
@@ -162,19 +150,26 @@ namespace Vyr
         {
             string folder = path + ".saving";
             for (int i = 0; Directory.Exists(folder) || File.Exists(folder); ++i) folder = path + ".saving" + i;
-            Directory.CreateDirectory(folder);
             try
             {
-                string made = Path.Combine(folder, Path.GetFileName(path));
-                var report = new LoadReport(Kept(Library.VyrModule_WriteFile(Pointer, made)));
-                if (!File.Exists(made)) return report;
-                if (File.Exists(path)) File.Delete(path);
-                File.Move(made, path);
-                return report;
+                Directory.CreateDirectory(folder);
+                try
+                {
+                    string made = Path.Combine(folder, Path.GetFileName(path));
+                    var report = new LoadReport(Kept(Library.VyrModule_WriteFile(Pointer, made)), made, path);
+                    if (!File.Exists(made)) return report;
+                    if (File.Exists(path)) File.Delete(path);
+                    File.Move(made, path);
+                    return report;
+                }
+                finally
+                {
+                    Directory.Delete(folder, true);
+                }
             }
-            finally
+            catch (Exception failure) when (failure is IOException || failure is UnauthorizedAccessException)
             {
-                Directory.Delete(folder, true);
+                return new LoadReport(path, failure.Message);
             }
         }
     }

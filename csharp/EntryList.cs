@@ -11,11 +11,16 @@ namespace Vyr
     public abstract class EntryList
     {
         internal readonly VyrObject Owner;
+        readonly string name;
 
-        internal EntryList(VyrObject owner)
+        internal EntryList(VyrObject owner, string name)
         {
             Owner = owner;
+            this.name = name;
         }
+
+        /// <summary>Throws for a code that is no success.</summary>
+        internal void Demand(int code) => Owner.Demand(code, name);
 
         /// <summary>How many entries there are.</summary>
         public int Count => checked((int)Owner.Kept(Size(Owner.Pointer)));
@@ -66,7 +71,7 @@ namespace Vyr
         readonly ObjectListCalls<T> calls;
         readonly List<T> known = new List<T>(); // those that were asked for, by index; may be shorter than the list
 
-        internal ObjectList(VyrObject owner, ObjectListCalls<T> calls) : base(owner)
+        internal ObjectList(VyrObject owner, string name, ObjectListCalls<T> calls) : base(owner, name)
         {
             this.calls = calls;
         }
@@ -75,20 +80,21 @@ namespace Vyr
         /// <exception cref="ArgumentOutOfRangeException">There is no such entry.</exception>
         public T this[int index]
         {
-            get
-            {
-                uint place = Existing(index);
-                while (known.Count <= index) known.Add(null);
-                return known[index] ?? (known[index] = Make(Owner.Kept(calls.Get(Owner.Pointer, place))));
-            }
+            get => Entry((int)Existing(index));
             set => Assign(Existing(index), value);
+        }
+
+        T Entry(int index)
+        {
+            while (known.Count <= index) known.Add(null);
+            return known[index] ?? (known[index] = Make(Owner.Kept(calls.Get(Owner.Pointer, (uint)index))));
         }
 
         /// <summary>Puts a new entry at the end, and gives it.</summary>
         public T Add()
         {
             int index = Count;
-            Owner.Demand(calls.Append(Owner.Pointer));
+            Demand(calls.Append(Owner.Pointer));
             return this[index];
         }
 
@@ -99,7 +105,7 @@ namespace Vyr
         /// <exception cref="ArgumentOutOfRangeException">The index is beyond the end.</exception>
         public T Insert(int index)
         {
-            Owner.Demand(calls.Insert(Owner.Pointer, Place(index)));
+            Demand(calls.Insert(Owner.Pointer, Place(index)));
             if (index < known.Count) known.Insert(index, null);
             return this[index];
         }
@@ -120,7 +126,7 @@ namespace Vyr
         /// <summary>All entries, in order; those that are added or removed meanwhile count.</summary>
         public IEnumerator<T> GetEnumerator()
         {
-            for (int i = 0; i < Count; ++i) yield return this[i];
+            for (int i = 0; i < Count; ++i) yield return Entry(i);
         }
 
         IEnumerator IEnumerable.GetEnumerator() => GetEnumerator();
@@ -167,7 +173,7 @@ namespace Vyr
     /// <typeparam name="T">The type of the values.</typeparam>
     public abstract class ValueList<T> : EntryList, IReadOnlyList<T>
     {
-        internal ValueList(VyrObject owner) : base(owner) { }
+        internal ValueList(VyrObject owner, string name) : base(owner, name) { }
 
         /// <summary>A value.</summary>
         /// <exception cref="ArgumentOutOfRangeException">There is no such value.</exception>
@@ -190,7 +196,7 @@ namespace Vyr
         /// <summary>All values, in order.</summary>
         public IEnumerator<T> GetEnumerator()
         {
-            for (int i = 0; i < Count; ++i) yield return this[i];
+            for (int i = 0; i < Count; ++i) yield return Get((uint)i);
         }
 
         IEnumerator IEnumerable.GetEnumerator() => GetEnumerator();
@@ -205,7 +211,7 @@ namespace Vyr
     {
         readonly ValueListCalls<string> calls;
 
-        internal TextList(VyrObject owner, ValueListCalls<string> calls) : base(owner)
+        internal TextList(VyrObject owner, string name, ValueListCalls<string> calls) : base(owner, name)
         {
             this.calls = calls;
         }
@@ -213,11 +219,11 @@ namespace Vyr
         internal override string Get(uint index) => Owner.Kept(calls.Get(Owner.Pointer, index));
         internal override void Set(uint index, string value)
         {
-            Owner.Demand(calls.Set(Owner.Pointer, index, Library.Whole(value)));
+            Demand(calls.Set(Owner.Pointer, index, Library.Whole(value)));
         }
         internal override void InsertBefore(uint index, string value)
         {
-            Owner.Demand(calls.Insert(Owner.Pointer, index, Library.Whole(value)));
+            Demand(calls.Insert(Owner.Pointer, index, Library.Whole(value)));
         }
         internal override uint Size(IntPtr owner) => calls.Size(owner);
         internal override void Delete(IntPtr owner, uint index) => calls.Delete(owner, index);
@@ -230,9 +236,9 @@ namespace Vyr
     {
         readonly DateTimeTextList texts;
 
-        internal DateTimeList(VyrObject owner, ValueListCalls<IntPtr> calls, string pattern) : base(owner)
+        internal DateTimeList(VyrObject owner, string name, ValueListCalls<IntPtr> calls, string pattern) : base(owner, name)
         {
-            texts = new DateTimeTextList(owner, calls, pattern);
+            texts = new DateTimeTextList(owner, name, calls, pattern);
         }
 
         /// <summary>The same times as texts, which hold what a <see cref="DateTimeOffset"/> can't.</summary>
@@ -258,7 +264,8 @@ namespace Vyr
         readonly ValueListCalls<IntPtr> calls;
         readonly string pattern;
 
-        internal DateTimeTextList(VyrObject owner, ValueListCalls<IntPtr> calls, string pattern) : base(owner)
+        internal DateTimeTextList(VyrObject owner, string name, ValueListCalls<IntPtr> calls, string pattern)
+            : base(owner, name)
         {
             this.calls = calls;
             this.pattern = pattern;
@@ -267,11 +274,11 @@ namespace Vyr
         internal override string Get(uint index) => Owner.Kept(DateTimeText.Read(calls.Get(Owner.Pointer, index)));
         internal override void Set(uint index, string value)
         {
-            Owner.Demand(DateTimeText.Give(value, pattern, time => calls.Set(Owner.Pointer, index, time)));
+            Demand(DateTimeText.Give(value, pattern, time => calls.Set(Owner.Pointer, index, time)));
         }
         internal override void InsertBefore(uint index, string value)
         {
-            Owner.Demand(DateTimeText.Give(value, pattern, time => calls.Insert(Owner.Pointer, index, time)));
+            Demand(DateTimeText.Give(value, pattern, time => calls.Insert(Owner.Pointer, index, time)));
         }
         internal override uint Size(IntPtr owner) => calls.Size(owner);
         internal override void Delete(IntPtr owner, uint index) => calls.Delete(owner, index);
@@ -283,7 +290,7 @@ namespace Vyr
     {
         readonly MarkupListCalls calls;
 
-        internal MarkupList(VyrObject owner, MarkupListCalls calls) : base(owner)
+        internal MarkupList(VyrObject owner, string name, MarkupListCalls calls) : base(owner, name)
         {
             this.calls = calls;
         }
@@ -293,13 +300,13 @@ namespace Vyr
         public string this[int index] => Owner.Kept(Library.VyrModule_GetMarkup(Owner.Pointer, calls.Item, Existing(index)));
 
         /// <summary>Puts an element at the end. It isn't looked at: it must be well-formed, with its tags.</summary>
-        public void Add(string markup) => Owner.Demand(calls.Append(Owner.Pointer, Library.Narrow(markup)));
+        public void Add(string markup) => Demand(calls.Append(Owner.Pointer, Library.Narrow(markup, nameof(markup))));
 
         /// <summary>Puts an element before another one, or at the end.</summary>
         /// <exception cref="ArgumentOutOfRangeException">The index is beyond the end.</exception>
         public void Insert(int index, string markup)
         {
-            Owner.Demand(calls.Insert(Owner.Pointer, Place(index), Library.Narrow(markup)));
+            Demand(calls.Insert(Owner.Pointer, Place(index), Library.Narrow(markup, nameof(markup))));
         }
 
         /// <summary>All elements, in order.</summary>

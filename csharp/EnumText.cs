@@ -34,6 +34,7 @@ namespace Vyr
         /// <summary>The member with that very text, or null.</summary>
         public static T? Parse<T>(string text) where T : struct
         {
+            if (text == null) throw new ArgumentNullException(nameof(text));
             foreach (KeyValuePair<T, string> row in Table<T>.Texts)
             {
                 if (row.Value == text) return row.Key;

@@ -40,6 +40,14 @@ namespace Vyr
             if (isTime) GC.Collect();
         }
 
+        internal void WeighAs(Root other)
+        {
+            if (other.weight > 0) Weigh(other.weight);
+        }
+
+        /// <summary>Whether it is this object that was made, not a part of it.</summary>
+        internal bool IsFor(IntPtr pointer) => handle == pointer;
+
         protected override bool ReleaseHandle()
         {
             delete(handle);

@@ -29,6 +29,10 @@ namespace Vyr
         [DllImport(Name)] internal static extern IntPtr VyrModule_WriteFile(
             IntPtr self, [MarshalAs(UnmanagedType.LPWStr)] string path);
         [DllImport(Name)] internal static extern IntPtr VyrModule_WriteString(IntPtr self, out IntPtr text);
+        [DllImport(Name)] internal static extern IntPtr VyrModule_LoadElement(
+            IntPtr self, byte[] className, [MarshalAs(UnmanagedType.LPWStr)] string path, uint collect, uint limit);
+        [DllImport(Name)] internal static extern IntPtr VyrModule_WriteElement(
+            IntPtr self, byte[] className, [MarshalAs(UnmanagedType.LPWStr)] string path);
 
         [DllImport(Name)] internal static extern void VyrModule_DeleteReport(IntPtr report);
         [DllImport(Name)] internal static extern int VyrModule_ReportCode(IntPtr report);
@@ -94,15 +98,15 @@ namespace Vyr
                     throw new DllNotFoundException("The native library of Vyr that was found is too old. " + WhereItLooked(),
                                                    failure);
                 }
-                System.Version own = typeof(Library).Assembly.GetName().Version;
-                // Until 1.0 a minor version may change the interface.
-                if (!found.StartsWith(own.Major + "." + own.Minor + ".", StringComparison.Ordinal))
+                if (!found.StartsWith(Needed + ".", StringComparison.Ordinal))
                     throw new DllNotFoundException("The native library of Vyr that was found has the version " + found +
-                                                   ", and this assembly needs " + own.Major + "." + own.Minor + ". " +
-                                                   WhereItLooked());
+                                                   ", and this assembly needs " + Needed + ". " + WhereItLooked());
                 isChecked = true;
             }
         }
+
+        /// <summary>The version of the library. Until 1.0 a minor version may change the interface.</summary>
+        static string Needed => typeof(Library).Assembly.GetName().Version.ToString(2);
 
         static string WhereItLooked()
         {
@@ -114,7 +118,7 @@ namespace Vyr
                    (string.IsNullOrEmpty(folder) ? "its folder" : folder) +
                    ", and then where the system's loader looks: in " + variable +
                    (string.IsNullOrEmpty(setting) ? ", which is not set," : " (" + setting + ")") +
-                   " and the system's own folders. On Linux the package libvyr installs it.";
+                   " and the system's own folders. On Linux the package libvyr" + Needed + " installs it.";
         }
 
         /// <summary>What the functions that work by item take: looked up once, it stays good.</summary>
@@ -132,17 +136,17 @@ namespace Vyr
         }
 
         /// <summary>A text as UTF-8 with its end.</summary>
-        internal static byte[] Narrow(string text)
+        internal static byte[] Narrow(string text, string name = "value")
         {
-            return Encoding.UTF8.GetBytes(Whole(text) + "\0");
+            return Encoding.UTF8.GetBytes(Whole(text, name) + "\0");
         }
 
         /// <summary>The text itself; one with a zero character in it would arrive cut off.</summary>
-        internal static string Whole(string text)
+        internal static string Whole(string text, string name = "value")
         {
-            if (text == null) throw new ArgumentNullException("value");
+            if (text == null) throw new ArgumentNullException(name);
             if (text.IndexOf('\0') >= 0)
-                throw new ArgumentException("A text of a document can't hold the character U+0000.", "value");
+                throw new ArgumentException("A text of a document can't hold the character U+0000.", name);
             return text;
         }
 

@@ -3,6 +3,7 @@
 
 using System;
 using System.Collections.Generic;
+using System.IO;
 
 namespace Vyr
 {
@@ -25,8 +26,9 @@ namespace Vyr
     /// <summary>What a load or a save has to say: nothing, if all went well.</summary>
     public sealed class LoadReport
     {
-        /// <summary>Takes a report of the library and deletes it.</summary>
-        internal LoadReport(IntPtr report)
+        /// <summary>Takes a report of the library and deletes it. A file that the library was given in place of another
+        /// one is called by the name of that.</summary>
+        internal LoadReport(IntPtr report, string given = null, string meant = null)
         {
             if (report == IntPtr.Zero) throw new OutOfMemoryException();
             try
@@ -35,16 +37,28 @@ namespace Vyr
                 TotalCount = (int)Library.VyrModule_ReportTotalCount(report);
                 SystemError = Library.VyrModule_ReportSystemError(report);
                 IsReadToEnd = Library.VyrModule_ReportIsReadToEnd(report) != 0;
-                text = Library.VyrModule_ReportText(report);
+                Func<string, string> named = words => given == null ? words : words.Replace(given, meant);
+                text = named(Library.VyrModule_ReportText(report));
                 string[] lines = text.Split('\n');
                 var faults = new Fault[Library.VyrModule_ReportFaultCount(report)];
-                for (int i = 0; i < faults.Length; ++i) faults[i] = new Fault(report, (uint)i, lines[i]);
+                for (int i = 0; i < faults.Length; ++i)
+                    faults[i] = new Fault(report, (uint)i, lines[i], named(Library.VyrModule_FaultFile(report, (uint)i)));
                 Faults = faults;
             }
             finally
             {
                 Library.VyrModule_DeleteReport(report);
             }
+        }
+
+        /// <summary>That the system refused a file, for a reason in its words.</summary>
+        internal LoadReport(string file, string reason)
+        {
+            Code = NoFile;
+            TotalCount = 1;
+            var fault = new Fault(NoFile, file, reason);
+            text = fault + "\n";
+            Faults = new[] { fault };
         }
 
         readonly string text;
@@ -68,9 +82,29 @@ namespace Vyr
         /// <summary>The error number of what the system refused; 0 if it is the document that is wrong.</summary>
         public int SystemError { get; }
 
-        internal bool IsOfSystem => SystemError != 0 || Code == NoFile;
-
         const int NoFile = 1;
+
+        bool IsOfSystem => SystemError != 0 || Code == NoFile;
+
+        /// <summary>Throws what a load of a file that failed means; the path is null if it was none.</summary>
+        internal void DemandLoaded(string path)
+        {
+            if (IsOk) return;
+            var failure = new VyrException(this);
+            bool isFolder = path != null && Directory.Exists(path);
+            if (path == null || (!IsOfSystem && !isFolder)) throw failure;
+            if (File.Exists(path) || isFolder) throw new IOException(failure.Message, failure);
+            throw new FileNotFoundException(failure.Message, path, failure);
+        }
+
+        /// <summary>Throws what a save that failed means.</summary>
+        internal void DemandSaved()
+        {
+            if (IsOk) return;
+            var failure = new VyrException(this);
+            if (IsOfSystem) throw new IOException(failure.Message, failure);
+            throw failure;
+        }
 
         /// <summary>A line for each fault.</summary>
         public override string ToString() => text;
@@ -81,14 +115,24 @@ namespace Vyr
     {
         readonly string line;
 
-        internal Fault(IntPtr report, uint index, string line)
+        internal Fault(int code, string file, string reason)
+        {
+            Code = code;
+            Text = Library.Describe(code);
+            Detail = reason;
+            File = file;
+            Item = Path = Value = "";
+            line = file + ": " + Text + ": " + reason;
+        }
+
+        internal Fault(IntPtr report, uint index, string line, string file)
         {
             this.line = line;
+            File = file;
             Code = Library.VyrModule_FaultCode(report, index);
             Line = Library.VyrModule_FaultLine(report, index);
             Text = Library.VyrModule_FaultText(report, index);
             Detail = Library.VyrModule_FaultDetail(report, index);
-            File = Library.VyrModule_FaultFile(report, index);
             Item = Library.VyrModule_FaultItem(report, index);
             Path = Library.VyrModule_FaultPath(report, index);
             Value = Library.VyrModule_FaultValue(report, index);

@@ -2,7 +2,6 @@
 // SPDX-License-Identifier: Apache-2.0
 
 using System;
-using System.IO;
 using System.Runtime.CompilerServices;
 
 namespace Vyr
@@ -16,7 +15,7 @@ namespace Vyr
     /// </remarks>
     public abstract class VyrObject
     {
-        const int NoFile = 1, NotEnumerated = 38;
+        const int NotEnumerated = 38;
 
         readonly Root root;
         IntPtr pointer;
@@ -74,6 +73,13 @@ namespace Vyr
             return result;
         }
 
+        /// <summary>A copy of this object, which takes as much memory if this is all that hangs on its root.</summary>
+        internal T Copied<T>(T copy) where T : VyrObject
+        {
+            if (root.IsFor(pointer)) copy.Root.WeighAs(root);
+            return Kept(copy);
+        }
+
         internal bool Is(int result)
         {
             GC.KeepAlive(this);
@@ -89,18 +95,21 @@ namespace Vyr
             if (code != 0) throw new VyrException(code, GetType().Name + "." + item);
         }
 
-        /// <summary>Throws for a load of an element on its own that failed.</summary>
-        internal void Loaded(int code, string path)
+        /// <summary>Loads a file that has an element of its own as its root into a new object.</summary>
+        internal static LoadReport Load<T>(T made, string path, LoadOptions options, out T loaded) where T : VyrObject
         {
-            if (code == NoFile && !File.Exists(path)) throw new FileNotFoundException("There is no file " + path + ".", path);
-            Saved(code, path);
+            options = options ?? new LoadOptions();
+            var report = new LoadReport(made.Kept(Library.VyrModule_LoadElement(
+                made.Pointer, Library.Narrow(typeof(T).Name), Library.Whole(path, nameof(path)), options.Collect, options.Kept)));
+            loaded = report.IsOk || options.KeepPartial ? made : null;
+            return report;
         }
 
-        /// <summary>Throws for a save of an element on its own that failed.</summary>
-        internal void Saved(int code, string path)
+        /// <summary>Saves such a file.</summary>
+        internal LoadReport SaveElement(string path)
         {
-            if (code == NoFile) throw new IOException("The file " + path + " can't be opened.");
-            Demand(code, path);
+            return new LoadReport(Kept(Library.VyrModule_WriteElement(
+                Pointer, Library.Narrow(GetType().Name), Library.Whole(path, nameof(path)))));
         }
 
         /// <summary>The code of a setter that only says whether it knew the number.</summary>
@@ -222,24 +231,26 @@ namespace Vyr
 
         // Lists: there from the start, maybe empty
 
-        internal ObjectList<T> ListOfObjects<T>(int number, ObjectListCalls<T> calls) where T : VyrObject
+        internal ObjectList<T> ListOfObjects<T>(int number, ObjectListCalls<T> calls, [CallerMemberName] string name = null)
+            where T : VyrObject
         {
-            return Part<ObjectList<T>>(number) ?? Remember(number, new ObjectList<T>(this, calls));
+            return Part<ObjectList<T>>(number) ?? Remember(number, new ObjectList<T>(this, name, calls));
         }
 
-        internal TextList ListOfTexts(int number, ValueListCalls<string> calls)
+        internal TextList ListOfTexts(int number, ValueListCalls<string> calls, [CallerMemberName] string name = null)
         {
-            return Part<TextList>(number) ?? Remember(number, new TextList(this, calls));
+            return Part<TextList>(number) ?? Remember(number, new TextList(this, name, calls));
         }
 
-        internal DateTimeList ListOfTimes(int number, ValueListCalls<IntPtr> calls, string pattern)
+        internal DateTimeList ListOfTimes(
+            int number, ValueListCalls<IntPtr> calls, string pattern, [CallerMemberName] string name = null)
         {
-            return Part<DateTimeList>(number) ?? Remember(number, new DateTimeList(this, calls, pattern));
+            return Part<DateTimeList>(number) ?? Remember(number, new DateTimeList(this, name, calls, pattern));
         }
 
-        internal MarkupList ListOfMarkup(int number, MarkupListCalls calls)
+        internal MarkupList ListOfMarkup(int number, MarkupListCalls calls, [CallerMemberName] string name = null)
         {
-            return Part<MarkupList>(number) ?? Remember(number, new MarkupList(this, calls));
+            return Part<MarkupList>(number) ?? Remember(number, new MarkupList(this, name, calls));
         }
 
         // Columns of a list of numbers

@@ -8,7 +8,12 @@
 #include <cstddef>
 #include <string>
 
+#include "document/report.h"
 #include "lmx/error.h"
+
+namespace lmx {
+struct s_document;
+}
 
 namespace com_vyrgraph_v2 {
 
@@ -25,5 +30,16 @@ lmx::elmx_error load_string(Vyr& document, const std::u16string& text, c_report_
 lmx::elmx_error write_file(const Vyr& document, const std::u16string& path, c_report_builder* report);
 /// Assigns the text on success only.
 lmx::elmx_error write_string(const Vyr& document, std::u16string* text, c_report_builder* report);
+
+/// A plain file with another element as its root. What can't be opened for writing isn't touched.
+lmx::elmx_error load_element(const lmx::s_document& element, void* object, const std::u16string& path,
+                             c_report_builder* report);
+lmx::elmx_error write_element(const lmx::s_document& element, const void* object, const std::u16string& path,
+                              c_report_builder* report);
+/// The same with a report, for hosts that have an object of any class.
+DocumentReport load_element_with_report(const lmx::s_document& element, void* object, const std::u16string& path,
+                                        const ReportOptions& options);
+DocumentReport write_element_with_report(const lmx::s_document& element, const void* object,
+                                         const std::u16string& path);
 
 }  // namespace com_vyrgraph_v2

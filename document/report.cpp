@@ -222,4 +222,15 @@ DocumentReport writeStringWithReport(const Vyr& document, std::u16string* text) 
     return report_on({}, {}, [&](c_report_builder* report) { write_string(document, text, report); });
 }
 
+DocumentReport load_element_with_report(const s_document& element, void* object, const std::u16string& path,
+                                        const ReportOptions& options) {
+    return report_on(options, narrow(path),
+                     [&](c_report_builder* report) { load_element(element, object, path, report); });
+}
+
+DocumentReport write_element_with_report(const s_document& element, const void* object, const std::u16string& path) {
+    return report_on({}, narrow(path),
+                     [&](c_report_builder* report) { write_element(element, object, path, report); });
+}
+
 }  // namespace com_vyrgraph_v2

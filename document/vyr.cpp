@@ -15,6 +15,7 @@
 #include "document/document_calls.h"
 #include "document/report_builder.h"
 #include "document/result.h"
+#include "lmx/binding/document.h"
 #include "lmx/file_name.h"
 #include "lmx/reader/xml_reader.h"
 #include "lmx/values/unicode.h"
@@ -28,6 +29,7 @@ constexpr char16_t k_sdk_name[] = u"Vyr2-LMX-3.7.6";
 constexpr char16_t k_sdk_version[] = u"1.0";
 constexpr char k_root_element[] = "Vyr:Vyr";
 constexpr char k_not_written[] = "not written, or not in full";
+constexpr char k_no_name[] = "the name is no text that a file can have";
 constexpr std::u16string_view k_plain_ending = u".vyr";
 constexpr std::u16string_view k_container_ending = u".vyrz";
 
@@ -40,14 +42,20 @@ SDKType make_stamp() {
     return stamp;
 }
 
+template <class Target, class Marshal>
+lmx::elmx_error marshal_checked(c_report_builder* report, Target& target, Marshal&& marshal) {
+    c_reporting<lmx::c_xml_writer> writer(report, target, lmx::c_xml_writer::include_xml_decl, "\t", "\n");
+    writer.set_checking(report != nullptr);
+    return marshal(writer);
+}
+
 /// Writing is constant to its caller; the stamp in the preamble, a mutable member, is the one thing that it leaves
 /// behind.
 template <class Target>
 lmx::elmx_error marshal_stamped(const Vyr& document, Target& target, c_report_builder* report) {
-    c_reporting<lmx::c_xml_writer> writer(report, target, lmx::c_xml_writer::include_xml_decl, "\t", "\n");
-    writer.set_checking(report != nullptr);
     const_cast<Preamble&>(document.get_Preamble()).get_Header().assign_WriteSDKInformation(make_stamp());
-    return document.marshal(writer, k_root_element);
+    return marshal_checked(report, target,
+                           [&](lmx::c_xml_writer& writer) { return document.marshal(writer, k_root_element); });
 }
 
 struct s_plain_file {
@@ -62,16 +70,20 @@ void remove_file(const std::filesystem::path& path) {
     std::filesystem::remove(path, ignored);
 }
 
-s_plain_file write_plain_file(const Vyr& document, const std::filesystem::path& path, c_report_builder* report) {
-    errno = 0;
-    std::ofstream stream(path, std::ios::binary);
-    const lmx::elmx_error error = marshal_stamped(document, stream, report);
+/// Ends a file after its last byte, or after the failure that the document has.
+s_plain_file close_plain_file(std::ofstream& stream, const std::filesystem::path& path, lmx::elmx_error error) {
     const std::streamoff size = stream.tellp();
     stream.close();
     const int system_error = errno;
     if (error != lmx::ELMX_OK) remove_file(path);
     if (stream.good()) return {error, size, 0};
     return {error, -1, system_error};
+}
+
+s_plain_file write_plain_file(const Vyr& document, const std::filesystem::path& path, c_report_builder* report) {
+    errno = 0;
+    std::ofstream stream(path, std::ios::binary);
+    return close_plain_file(stream, path, marshal_stamped(document, stream, report));
 }
 
 /// Whatever is thrown at a container that is open becomes one code. Only a report keeps its cause.
@@ -110,9 +122,29 @@ bool is_archive(const std::filesystem::path& path) {
     return std::ifstream(path, std::ios::binary).read(start.data(), 4) && start == k_signature;
 }
 
-lmx::elmx_error refuse_file(c_report_builder* report, const std::string& detail) {
-    if (report != nullptr) report->add(lmx::ELMX_NO_FILE, detail);
+lmx::elmx_error refuse_file(c_report_builder* report, const std::string& detail, int system_error = 0) {
+    if (report != nullptr) report->add(lmx::ELMX_NO_FILE, detail, system_error);
     return lmx::ELMX_NO_FILE;
+}
+
+/// Reads a plain file that has the element as its root.
+lmx::elmx_error load_root(const lmx::s_document& element, void* object, const std::string& name,
+                          c_report_builder* report) {
+    c_reporting<lmx::c_xml_reader_file> reader(report, name.c_str());
+    if (!reader.is_open()) return refuse_file(report, {}, errno);
+    const lmx::elmx_error error = lmx::unmarshal_document(element, object, reader);
+    if (error == lmx::ELMX_OK || report == nullptr) return error;
+    const std::filesystem::path path = lmx::to_path(name).value_or(std::filesystem::path());
+    std::error_code ignored;
+    // Which opens like a file, and then can't be read.
+    if (std::filesystem::is_directory(path, ignored)) {
+        report->explain_last("it is a directory");
+    } else if (reader.get_read_error() != 0) {
+        report->explain_last("the file could not be read to its end", reader.get_read_error());
+    } else if (is_archive(path)) {
+        report->explain_last("it is a ZIP archive; the name of a container must end in .vyrz");
+    }
+    return error;
 }
 
 }  // namespace
@@ -129,24 +161,7 @@ lmx::elmx_error load_string(Vyr& document, const std::u16string& text, c_report_
 }
 
 lmx::elmx_error load_plain_file(Vyr& document, const std::string& name, c_report_builder* report) {
-    c_reporting<lmx::c_xml_reader_file> reader(report, name.c_str());
-    if (!reader.is_open()) {
-        if (report != nullptr) report->add(lmx::ELMX_NO_FILE, {}, errno);
-        return lmx::ELMX_NO_FILE;
-    }
-    const lmx::elmx_error error = document.unmarshal(reader);
-    if (error == lmx::ELMX_OK || report == nullptr) return error;
-    const std::filesystem::path path = lmx::to_path(name).value_or(std::filesystem::path());
-    std::error_code ignored;
-    // Which opens like a file, and then can't be read.
-    if (std::filesystem::is_directory(path, ignored)) {
-        report->explain_last("it is a directory");
-    } else if (reader.get_read_error() != 0) {
-        report->explain_last("the file could not be read to its end", reader.get_read_error());
-    } else if (is_archive(path)) {
-        report->explain_last("it is a ZIP archive; the name of a container must end in .vyrz");
-    }
-    return error;
+    return load_root(Vyr::k_document, &document, name, report);
 }
 
 lmx::elmx_error load_file(Vyr& document, const std::u16string& path, c_report_builder* report) {
@@ -154,8 +169,14 @@ lmx::elmx_error load_file(Vyr& document, const std::u16string& path, c_report_bu
         CZipContainer archive;
         if (archive.OpenContainer(path, zip_open_read)) return load_from_container(document, archive, path, report);
     }
-    if (!lmx::to_path(path)) return refuse_file(report, "the name is no text that a file can have");
+    if (!lmx::to_path(path)) return refuse_file(report, k_no_name);
     return load_plain_file(document, lmx::convert_to_narrow(path), report);
+}
+
+lmx::elmx_error load_element(const lmx::s_document& element, void* object, const std::u16string& path,
+                             c_report_builder* report) {
+    if (!lmx::to_path(path)) return refuse_file(report, k_no_name);
+    return load_root(element, object, lmx::convert_to_narrow(path), report);
 }
 
 lmx::elmx_error write_string(const Vyr& document, std::u16string* text, c_report_builder* report) {
@@ -193,6 +214,20 @@ lmx::elmx_error write_file(const Vyr& document, const std::u16string& path, c_re
     }
     remove_file(plain_file);
     return lmx::ELMX_OK;
+}
+
+lmx::elmx_error write_element(const lmx::s_document& element, const void* object, const std::u16string& path,
+                              c_report_builder* report) {
+    const std::optional<std::filesystem::path> file_path = lmx::to_path(path);
+    if (!file_path) return refuse_file(report, k_no_name);
+    errno = 0;
+    std::ofstream stream(*file_path, std::ios::binary);
+    if (!stream.is_open()) return refuse_file(report, {}, errno);
+    const lmx::elmx_error error = marshal_checked(report, stream, [&](lmx::c_xml_writer& writer) {
+        return element.operations->marshal(object, writer, element.element);
+    });
+    const s_plain_file file = close_plain_file(stream, *file_path, error);
+    return error == lmx::ELMX_OK && file.size < 0 ? refuse_file(report, k_not_written, file.system_error) : error;
 }
 
 void Vyr::init() { get_Preamble().get_Header().assign_ReadSDKInformation(make_stamp()); }

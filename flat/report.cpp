@@ -7,10 +7,13 @@
 #include "document/report.h"
 
 #include <memory>
+#include <string_view>
 
+#include "document/document_calls.h"
 #include "flat/call.h"
 #include "flat/generated/vyr_flat.h"
 #include "lmx/values/unicode.h"
+#include "schema/generated/class_list.h"
 #include "schema/generated/header.h"
 
 namespace flat {
@@ -18,14 +21,24 @@ namespace {
 
 using com_vyrgraph_v2::DocumentFault;
 using com_vyrgraph_v2::DocumentReport;
+using com_vyrgraph_v2::load_element_with_report;
 using com_vyrgraph_v2::ReportOptions;
 using com_vyrgraph_v2::Vyr;
+using com_vyrgraph_v2::write_element_with_report;
 
 ReportOptions options(std::uint32_t collect, std::uint32_t limit) {
     ReportOptions made;
     made.collect = to_bool(collect);
     made.limit = limit;
     return made;
+}
+
+/// The element that a class is the whole of; null for the other classes.
+const lmx::s_document* element_of(std::string_view class_name) {
+    for (const lmx::s_named_class& known : com_vyrgraph_v2::all_classes()) {
+        if (known.name == class_name) return known.document;
+    }
+    return nullptr;
 }
 
 const DocumentFault& fault(void* report, std::uint32_t index) { return as<DocumentReport>(report).getFault(index); }
@@ -95,6 +108,28 @@ VYR_FLAT(void*) VyrModule_WriteFile(void* self, const char16_t* path) {
             return new DocumentReport(writeFileWithReport(as<Vyr>(s), wide(p)));
         },
         self, path);
+}
+
+VYR_FLAT(void*)
+VyrModule_LoadElement(void* self, const char* class_name, const char16_t* path, std::uint32_t collect,
+                      std::uint32_t limit) {
+    return guarded(
+        +[](void* s, const char* n, const char16_t* p, std::uint32_t c, std::uint32_t l) -> void* {
+            const lmx::s_document* const element = element_of(n);
+            return element == nullptr
+                       ? nullptr
+                       : new DocumentReport(load_element_with_report(*element, s, wide(p), options(c, l)));
+        },
+        self, class_name, path, collect, limit);
+}
+
+VYR_FLAT(void*) VyrModule_WriteElement(void* self, const char* class_name, const char16_t* path) {
+    return guarded(
+        +[](void* s, const char* n, const char16_t* p) -> void* {
+            const lmx::s_document* const element = element_of(n);
+            return element == nullptr ? nullptr : new DocumentReport(write_element_with_report(*element, s, wide(p)));
+        },
+        self, class_name, path);
 }
 
 VYR_FLAT(void) VyrModule_DeleteReport(void* report) { destroy<DocumentReport>(report); }

@@ -314,8 +314,6 @@ namespace Vyr
     {
         static class Native
         {
-            [DllImport(Library.Name, EntryPoint = "CSharp_ColorSpaceCIELab_unmarshal__SWIG_0")] internal static extern int unmarshal(IntPtr self, byte[] path);
-            [DllImport(Library.Name, EntryPoint = "CSharp_ColorSpaceCIELab_marshal__SWIG_0")] internal static extern int marshal(IntPtr self, byte[] path);
             [DllImport(Library.Name, EntryPoint = "CSharp_new_ColorSpaceCIELab__SWIG_0")] internal static extern IntPtr New();
             [DllImport(Library.Name, EntryPoint = "CSharp_delete_ColorSpaceCIELab")] internal static extern void Delete(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_new_ColorSpaceCIELab__SWIG_1")] internal static extern IntPtr Copy(IntPtr source);
@@ -328,8 +326,6 @@ namespace Vyr
     {
         static class Native
         {
-            [DllImport(Library.Name, EntryPoint = "CSharp_ColorSpaceCIELCh_unmarshal__SWIG_0")] internal static extern int unmarshal(IntPtr self, byte[] path);
-            [DllImport(Library.Name, EntryPoint = "CSharp_ColorSpaceCIELCh_marshal__SWIG_0")] internal static extern int marshal(IntPtr self, byte[] path);
             [DllImport(Library.Name, EntryPoint = "CSharp_new_ColorSpaceCIELCh__SWIG_0")] internal static extern IntPtr New();
             [DllImport(Library.Name, EntryPoint = "CSharp_delete_ColorSpaceCIELCh")] internal static extern void Delete(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_new_ColorSpaceCIELCh__SWIG_1")] internal static extern IntPtr Copy(IntPtr source);
@@ -342,8 +338,6 @@ namespace Vyr
     {
         static class Native
         {
-            [DllImport(Library.Name, EntryPoint = "CSharp_ColorSpaceCIEXYZ_unmarshal__SWIG_0")] internal static extern int unmarshal(IntPtr self, byte[] path);
-            [DllImport(Library.Name, EntryPoint = "CSharp_ColorSpaceCIEXYZ_marshal__SWIG_0")] internal static extern int marshal(IntPtr self, byte[] path);
             [DllImport(Library.Name, EntryPoint = "CSharp_new_ColorSpaceCIEXYZ__SWIG_0")] internal static extern IntPtr New();
             [DllImport(Library.Name, EntryPoint = "CSharp_delete_ColorSpaceCIEXYZ")] internal static extern void Delete(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_new_ColorSpaceCIEXYZ__SWIG_1")] internal static extern IntPtr Copy(IntPtr source);
@@ -356,8 +350,6 @@ namespace Vyr
     {
         static class Native
         {
-            [DllImport(Library.Name, EntryPoint = "CSharp_ColorSpaceEmissiveCIEXYZ_unmarshal__SWIG_0")] internal static extern int unmarshal(IntPtr self, byte[] path);
-            [DllImport(Library.Name, EntryPoint = "CSharp_ColorSpaceEmissiveCIEXYZ_marshal__SWIG_0")] internal static extern int marshal(IntPtr self, byte[] path);
             [DllImport(Library.Name, EntryPoint = "CSharp_new_ColorSpaceEmissiveCIEXYZ__SWIG_0")] internal static extern IntPtr New();
             [DllImport(Library.Name, EntryPoint = "CSharp_delete_ColorSpaceEmissiveCIEXYZ")] internal static extern void Delete(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_new_ColorSpaceEmissiveCIEXYZ__SWIG_1")] internal static extern IntPtr Copy(IntPtr source);
@@ -370,8 +362,6 @@ namespace Vyr
     {
         static class Native
         {
-            [DllImport(Library.Name, EntryPoint = "CSharp_ColorSpaceCIExyY_unmarshal__SWIG_0")] internal static extern int unmarshal(IntPtr self, byte[] path);
-            [DllImport(Library.Name, EntryPoint = "CSharp_ColorSpaceCIExyY_marshal__SWIG_0")] internal static extern int marshal(IntPtr self, byte[] path);
             [DllImport(Library.Name, EntryPoint = "CSharp_new_ColorSpaceCIExyY__SWIG_0")] internal static extern IntPtr New();
             [DllImport(Library.Name, EntryPoint = "CSharp_delete_ColorSpaceCIExyY")] internal static extern void Delete(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_new_ColorSpaceCIExyY__SWIG_1")] internal static extern IntPtr Copy(IntPtr source);
@@ -384,8 +374,6 @@ namespace Vyr
     {
         static class Native
         {
-            [DllImport(Library.Name, EntryPoint = "CSharp_ColorSpaceEmissiveCIExyY_unmarshal__SWIG_0")] internal static extern int unmarshal(IntPtr self, byte[] path);
-            [DllImport(Library.Name, EntryPoint = "CSharp_ColorSpaceEmissiveCIExyY_marshal__SWIG_0")] internal static extern int marshal(IntPtr self, byte[] path);
             [DllImport(Library.Name, EntryPoint = "CSharp_new_ColorSpaceEmissiveCIExyY__SWIG_0")] internal static extern IntPtr New();
             [DllImport(Library.Name, EntryPoint = "CSharp_delete_ColorSpaceEmissiveCIExyY")] internal static extern void Delete(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_new_ColorSpaceEmissiveCIExyY__SWIG_1")] internal static extern IntPtr Copy(IntPtr source);
@@ -398,8 +386,6 @@ namespace Vyr
     {
         static class Native
         {
-            [DllImport(Library.Name, EntryPoint = "CSharp_ColorSpaceCIELuv_unmarshal__SWIG_0")] internal static extern int unmarshal(IntPtr self, byte[] path);
-            [DllImport(Library.Name, EntryPoint = "CSharp_ColorSpaceCIELuv_marshal__SWIG_0")] internal static extern int marshal(IntPtr self, byte[] path);
             [DllImport(Library.Name, EntryPoint = "CSharp_new_ColorSpaceCIELuv__SWIG_0")] internal static extern IntPtr New();
             [DllImport(Library.Name, EntryPoint = "CSharp_delete_ColorSpaceCIELuv")] internal static extern void Delete(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_new_ColorSpaceCIELuv__SWIG_1")] internal static extern IntPtr Copy(IntPtr source);

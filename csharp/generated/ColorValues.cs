@@ -17,7 +17,7 @@ namespace Vyr
 
         /// <inheritdoc/>
         public new ParentColorSpace Clone() => (ParentColorSpace)Copy();
-        internal override VyrObject Copy() => Kept(new ParentColorSpace(Native.Make(Pointer)));
+        internal override VyrObject Copy() => Copied(new ParentColorSpace(Native.Make(Pointer)));
 
         /// <inheritdoc/>
         public override bool IsComplete => Is(Native.is_occurs_ok(Pointer));
@@ -28,8 +28,8 @@ namespace Vyr
         /// <summary>True for an element that says that it has no value.</summary>
         public bool IsNil => Is(Native.isnil_ParentColorSpace(Pointer));
 
-        /// <summary>Makes it an element that says that it has no value. `Reset` takes that back, and so does setting
-        /// a value of its own.</summary>
+        /// <summary>Makes it an element that says that it has no value. `Reset` takes that back; what it holds until
+        /// then isn't saved.</summary>
         public void SetNil() { Native.setnil_ParentColorSpace(Pointer); Keep(); }
 
         /// <summary>The parent's value; the element's name says in which colour space. Null until set; assigning
@@ -47,7 +47,7 @@ namespace Vyr
 
         /// <inheritdoc/>
         public new ColorSpaceType Clone() => (ColorSpaceType)Copy();
-        internal override VyrObject Copy() => Kept(new ColorSpaceType(Native.Make(Pointer)));
+        internal override VyrObject Copy() => Copied(new ColorSpaceType(Native.Make(Pointer)));
 
         /// <inheritdoc/>
         public override bool IsComplete => Is(Native.is_occurs_ok(Pointer));
@@ -90,7 +90,7 @@ namespace Vyr
 
         /// <inheritdoc/>
         public new ColorSpaceCIELabType Clone() => (ColorSpaceCIELabType)Copy();
-        internal override VyrObject Copy() => Kept(new ColorSpaceCIELabType(Native.Make(Pointer)));
+        internal override VyrObject Copy() => Copied(new ColorSpaceCIELabType(Native.Make(Pointer)));
 
         /// <inheritdoc/>
         public override bool IsComplete => Is(Native.is_occurs_ok(Pointer));
@@ -127,7 +127,7 @@ namespace Vyr
 
         /// <inheritdoc/>
         public new ColorSpaceCIELChType Clone() => (ColorSpaceCIELChType)Copy();
-        internal override VyrObject Copy() => Kept(new ColorSpaceCIELChType(Native.Make(Pointer)));
+        internal override VyrObject Copy() => Copied(new ColorSpaceCIELChType(Native.Make(Pointer)));
 
         /// <inheritdoc/>
         public override bool IsComplete => Is(Native.is_occurs_ok(Pointer));
@@ -164,7 +164,7 @@ namespace Vyr
 
         /// <inheritdoc/>
         public new ColorSpaceCIELuvType Clone() => (ColorSpaceCIELuvType)Copy();
-        internal override VyrObject Copy() => Kept(new ColorSpaceCIELuvType(Native.Make(Pointer)));
+        internal override VyrObject Copy() => Copied(new ColorSpaceCIELuvType(Native.Make(Pointer)));
 
         /// <inheritdoc/>
         public override bool IsComplete => Is(Native.is_occurs_ok(Pointer));
@@ -201,7 +201,7 @@ namespace Vyr
 
         /// <inheritdoc/>
         public new ColorSpaceCIEXYZType Clone() => (ColorSpaceCIEXYZType)Copy();
-        internal override VyrObject Copy() => Kept(new ColorSpaceCIEXYZType(Native.Make(Pointer)));
+        internal override VyrObject Copy() => Copied(new ColorSpaceCIEXYZType(Native.Make(Pointer)));
 
         /// <inheritdoc/>
         public override bool IsComplete => Is(Native.is_occurs_ok(Pointer));
@@ -238,7 +238,7 @@ namespace Vyr
 
         /// <inheritdoc/>
         public new ColorSpaceCIExyYType Clone() => (ColorSpaceCIExyYType)Copy();
-        internal override VyrObject Copy() => Kept(new ColorSpaceCIExyYType(Native.Make(Pointer)));
+        internal override VyrObject Copy() => Copied(new ColorSpaceCIExyYType(Native.Make(Pointer)));
 
         /// <inheritdoc/>
         public override bool IsComplete => Is(Native.is_occurs_ok(Pointer));
@@ -275,7 +275,7 @@ namespace Vyr
 
         /// <inheritdoc/>
         public new ColorSpaceEmissiveCIEXYZType Clone() => (ColorSpaceEmissiveCIEXYZType)Copy();
-        internal override VyrObject Copy() => Kept(new ColorSpaceEmissiveCIEXYZType(Native.Make(Pointer)));
+        internal override VyrObject Copy() => Copied(new ColorSpaceEmissiveCIEXYZType(Native.Make(Pointer)));
 
         /// <inheritdoc/>
         public override bool IsComplete => Is(Native.is_occurs_ok(Pointer));
@@ -312,7 +312,7 @@ namespace Vyr
 
         /// <inheritdoc/>
         public new ColorSpaceEmissiveCIExyYType Clone() => (ColorSpaceEmissiveCIExyYType)Copy();
-        internal override VyrObject Copy() => Kept(new ColorSpaceEmissiveCIExyYType(Native.Make(Pointer)));
+        internal override VyrObject Copy() => Copied(new ColorSpaceEmissiveCIExyYType(Native.Make(Pointer)));
 
         /// <inheritdoc/>
         public override bool IsComplete => Is(Native.is_occurs_ok(Pointer));
@@ -349,13 +349,20 @@ namespace Vyr
 
         /// <inheritdoc/>
         public new ColorSpaceCIELab Clone() => (ColorSpaceCIELab)Copy();
-        internal override VyrObject Copy() => Kept(new ColorSpaceCIELab(Native.Make(Pointer)));
+        internal override VyrObject Copy() => Copied(new ColorSpaceCIELab(Native.Make(Pointer)));
 
         /// <summary>Loads a file that has the element ColorSpaceCIELab as its root.</summary>
-        public static ColorSpaceCIELab Load(string path) { var made = new ColorSpaceCIELab(); made.Loaded(Native.unmarshal(made.Pointer, Library.Narrow(path)), path); return made; }
+        public static ColorSpaceCIELab Load(string path) { TryLoad(path, out ColorSpaceCIELab loaded).DemandLoaded(path); return loaded; }
+
+        /// <summary>The same without throwing for what is wrong with the file; null then, unless the options ask for
+        /// what was read.</summary>
+        public static LoadReport TryLoad(string path, out ColorSpaceCIELab loaded, LoadOptions options = null) => Load(new ColorSpaceCIELab(), path, options, out loaded);
 
         /// <summary>Saves a file with this element as its root.</summary>
-        public void Save(string path) => Saved(Native.marshal(Pointer, Library.Narrow(path)), path);
+        public void Save(string path) => TrySave(path).DemandSaved();
+
+        /// <summary>The same without throwing for what is wrong.</summary>
+        public LoadReport TrySave(string path) => SaveElement(path);
     }
 
     /// <summary>A reflective colour in CIE L*C*h, the polar form of CIE 1976 L*a*b*.</summary>
@@ -368,13 +375,20 @@ namespace Vyr
 
         /// <inheritdoc/>
         public new ColorSpaceCIELCh Clone() => (ColorSpaceCIELCh)Copy();
-        internal override VyrObject Copy() => Kept(new ColorSpaceCIELCh(Native.Make(Pointer)));
+        internal override VyrObject Copy() => Copied(new ColorSpaceCIELCh(Native.Make(Pointer)));
 
         /// <summary>Loads a file that has the element ColorSpaceCIELCh as its root.</summary>
-        public static ColorSpaceCIELCh Load(string path) { var made = new ColorSpaceCIELCh(); made.Loaded(Native.unmarshal(made.Pointer, Library.Narrow(path)), path); return made; }
+        public static ColorSpaceCIELCh Load(string path) { TryLoad(path, out ColorSpaceCIELCh loaded).DemandLoaded(path); return loaded; }
+
+        /// <summary>The same without throwing for what is wrong with the file; null then, unless the options ask for
+        /// what was read.</summary>
+        public static LoadReport TryLoad(string path, out ColorSpaceCIELCh loaded, LoadOptions options = null) => Load(new ColorSpaceCIELCh(), path, options, out loaded);
 
         /// <summary>Saves a file with this element as its root.</summary>
-        public void Save(string path) => Saved(Native.marshal(Pointer, Library.Narrow(path)), path);
+        public void Save(string path) => TrySave(path).DemandSaved();
+
+        /// <summary>The same without throwing for what is wrong.</summary>
+        public LoadReport TrySave(string path) => SaveElement(path);
     }
 
     /// <summary>A reflective colour in CIE XYZ, scaled so that Y of the perfect diffuser is 1.</summary>
@@ -387,13 +401,20 @@ namespace Vyr
 
         /// <inheritdoc/>
         public new ColorSpaceCIEXYZ Clone() => (ColorSpaceCIEXYZ)Copy();
-        internal override VyrObject Copy() => Kept(new ColorSpaceCIEXYZ(Native.Make(Pointer)));
+        internal override VyrObject Copy() => Copied(new ColorSpaceCIEXYZ(Native.Make(Pointer)));
 
         /// <summary>Loads a file that has the element ColorSpaceCIEXYZ as its root.</summary>
-        public static ColorSpaceCIEXYZ Load(string path) { var made = new ColorSpaceCIEXYZ(); made.Loaded(Native.unmarshal(made.Pointer, Library.Narrow(path)), path); return made; }
+        public static ColorSpaceCIEXYZ Load(string path) { TryLoad(path, out ColorSpaceCIEXYZ loaded).DemandLoaded(path); return loaded; }
+
+        /// <summary>The same without throwing for what is wrong with the file; null then, unless the options ask for
+        /// what was read.</summary>
+        public static LoadReport TryLoad(string path, out ColorSpaceCIEXYZ loaded, LoadOptions options = null) => Load(new ColorSpaceCIEXYZ(), path, options, out loaded);
 
         /// <summary>Saves a file with this element as its root.</summary>
-        public void Save(string path) => Saved(Native.marshal(Pointer, Library.Narrow(path)), path);
+        public void Save(string path) => TrySave(path).DemandSaved();
+
+        /// <summary>The same without throwing for what is wrong.</summary>
+        public LoadReport TrySave(string path) => SaveElement(path);
     }
 
     /// <summary>An emissive colour in CIE XYZ; absolute, hence without an upper bound.</summary>
@@ -406,13 +427,20 @@ namespace Vyr
 
         /// <inheritdoc/>
         public new ColorSpaceEmissiveCIEXYZ Clone() => (ColorSpaceEmissiveCIEXYZ)Copy();
-        internal override VyrObject Copy() => Kept(new ColorSpaceEmissiveCIEXYZ(Native.Make(Pointer)));
+        internal override VyrObject Copy() => Copied(new ColorSpaceEmissiveCIEXYZ(Native.Make(Pointer)));
 
         /// <summary>Loads a file that has the element ColorSpaceEmissiveCIEXYZ as its root.</summary>
-        public static ColorSpaceEmissiveCIEXYZ Load(string path) { var made = new ColorSpaceEmissiveCIEXYZ(); made.Loaded(Native.unmarshal(made.Pointer, Library.Narrow(path)), path); return made; }
+        public static ColorSpaceEmissiveCIEXYZ Load(string path) { TryLoad(path, out ColorSpaceEmissiveCIEXYZ loaded).DemandLoaded(path); return loaded; }
+
+        /// <summary>The same without throwing for what is wrong with the file; null then, unless the options ask for
+        /// what was read.</summary>
+        public static LoadReport TryLoad(string path, out ColorSpaceEmissiveCIEXYZ loaded, LoadOptions options = null) => Load(new ColorSpaceEmissiveCIEXYZ(), path, options, out loaded);
 
         /// <summary>Saves a file with this element as its root.</summary>
-        public void Save(string path) => Saved(Native.marshal(Pointer, Library.Narrow(path)), path);
+        public void Save(string path) => TrySave(path).DemandSaved();
+
+        /// <summary>The same without throwing for what is wrong.</summary>
+        public LoadReport TrySave(string path) => SaveElement(path);
     }
 
     /// <summary>A reflective colour by its CIE chromaticity and luminance factor.</summary>
@@ -425,13 +453,20 @@ namespace Vyr
 
         /// <inheritdoc/>
         public new ColorSpaceCIExyY Clone() => (ColorSpaceCIExyY)Copy();
-        internal override VyrObject Copy() => Kept(new ColorSpaceCIExyY(Native.Make(Pointer)));
+        internal override VyrObject Copy() => Copied(new ColorSpaceCIExyY(Native.Make(Pointer)));
 
         /// <summary>Loads a file that has the element ColorSpaceCIExyY as its root.</summary>
-        public static ColorSpaceCIExyY Load(string path) { var made = new ColorSpaceCIExyY(); made.Loaded(Native.unmarshal(made.Pointer, Library.Narrow(path)), path); return made; }
+        public static ColorSpaceCIExyY Load(string path) { TryLoad(path, out ColorSpaceCIExyY loaded).DemandLoaded(path); return loaded; }
+
+        /// <summary>The same without throwing for what is wrong with the file; null then, unless the options ask for
+        /// what was read.</summary>
+        public static LoadReport TryLoad(string path, out ColorSpaceCIExyY loaded, LoadOptions options = null) => Load(new ColorSpaceCIExyY(), path, options, out loaded);
 
         /// <summary>Saves a file with this element as its root.</summary>
-        public void Save(string path) => Saved(Native.marshal(Pointer, Library.Narrow(path)), path);
+        public void Save(string path) => TrySave(path).DemandSaved();
+
+        /// <summary>The same without throwing for what is wrong.</summary>
+        public LoadReport TrySave(string path) => SaveElement(path);
     }
 
     /// <summary>An emissive colour by its CIE chromaticity and luminance.</summary>
@@ -444,13 +479,20 @@ namespace Vyr
 
         /// <inheritdoc/>
         public new ColorSpaceEmissiveCIExyY Clone() => (ColorSpaceEmissiveCIExyY)Copy();
-        internal override VyrObject Copy() => Kept(new ColorSpaceEmissiveCIExyY(Native.Make(Pointer)));
+        internal override VyrObject Copy() => Copied(new ColorSpaceEmissiveCIExyY(Native.Make(Pointer)));
 
         /// <summary>Loads a file that has the element ColorSpaceEmissiveCIExyY as its root.</summary>
-        public static ColorSpaceEmissiveCIExyY Load(string path) { var made = new ColorSpaceEmissiveCIExyY(); made.Loaded(Native.unmarshal(made.Pointer, Library.Narrow(path)), path); return made; }
+        public static ColorSpaceEmissiveCIExyY Load(string path) { TryLoad(path, out ColorSpaceEmissiveCIExyY loaded).DemandLoaded(path); return loaded; }
+
+        /// <summary>The same without throwing for what is wrong with the file; null then, unless the options ask for
+        /// what was read.</summary>
+        public static LoadReport TryLoad(string path, out ColorSpaceEmissiveCIExyY loaded, LoadOptions options = null) => Load(new ColorSpaceEmissiveCIExyY(), path, options, out loaded);
 
         /// <summary>Saves a file with this element as its root.</summary>
-        public void Save(string path) => Saved(Native.marshal(Pointer, Library.Narrow(path)), path);
+        public void Save(string path) => TrySave(path).DemandSaved();
+
+        /// <summary>The same without throwing for what is wrong.</summary>
+        public LoadReport TrySave(string path) => SaveElement(path);
     }
 
     /// <summary>A reflective colour in CIE 1976 L*u*v*.</summary>
@@ -463,12 +505,19 @@ namespace Vyr
 
         /// <inheritdoc/>
         public new ColorSpaceCIELuv Clone() => (ColorSpaceCIELuv)Copy();
-        internal override VyrObject Copy() => Kept(new ColorSpaceCIELuv(Native.Make(Pointer)));
+        internal override VyrObject Copy() => Copied(new ColorSpaceCIELuv(Native.Make(Pointer)));
 
         /// <summary>Loads a file that has the element ColorSpaceCIELuv as its root.</summary>
-        public static ColorSpaceCIELuv Load(string path) { var made = new ColorSpaceCIELuv(); made.Loaded(Native.unmarshal(made.Pointer, Library.Narrow(path)), path); return made; }
+        public static ColorSpaceCIELuv Load(string path) { TryLoad(path, out ColorSpaceCIELuv loaded).DemandLoaded(path); return loaded; }
+
+        /// <summary>The same without throwing for what is wrong with the file; null then, unless the options ask for
+        /// what was read.</summary>
+        public static LoadReport TryLoad(string path, out ColorSpaceCIELuv loaded, LoadOptions options = null) => Load(new ColorSpaceCIELuv(), path, options, out loaded);
 
         /// <summary>Saves a file with this element as its root.</summary>
-        public void Save(string path) => Saved(Native.marshal(Pointer, Library.Narrow(path)), path);
+        public void Save(string path) => TrySave(path).DemandSaved();
+
+        /// <summary>The same without throwing for what is wrong.</summary>
+        public LoadReport TrySave(string path) => SaveElement(path);
     }
 }

@@ -477,8 +477,6 @@ namespace Vyr
     {
         static class Native
         {
-            [DllImport(Library.Name, EntryPoint = "CSharp_ColorSpaceSpecificationSpectrum_unmarshal__SWIG_0")] internal static extern int unmarshal(IntPtr self, byte[] path);
-            [DllImport(Library.Name, EntryPoint = "CSharp_ColorSpaceSpecificationSpectrum_marshal__SWIG_0")] internal static extern int marshal(IntPtr self, byte[] path);
             [DllImport(Library.Name, EntryPoint = "CSharp_new_ColorSpaceSpecificationSpectrum__SWIG_0")] internal static extern IntPtr New();
             [DllImport(Library.Name, EntryPoint = "CSharp_delete_ColorSpaceSpecificationSpectrum")] internal static extern void Delete(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_new_ColorSpaceSpecificationSpectrum__SWIG_1")] internal static extern IntPtr Copy(IntPtr source);
@@ -495,8 +493,6 @@ namespace Vyr
             [DllImport(Library.Name, EntryPoint = "CSharp_ColorSpaceSpecificationSpectrumGeneric_reset")] internal static extern void reset(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_ColorSpaceSpecificationSpectrumGeneric_isnil_ColorSpaceSpecificationSpectrumGeneric")] internal static extern int isnil_ColorSpaceSpecificationSpectrumGeneric(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_ColorSpaceSpecificationSpectrumGeneric_setnil_ColorSpaceSpecificationSpectrumGeneric")] internal static extern void setnil_ColorSpaceSpecificationSpectrumGeneric(IntPtr self);
-            [DllImport(Library.Name, EntryPoint = "CSharp_ColorSpaceSpecificationSpectrumGeneric_unmarshal__SWIG_0")] internal static extern int unmarshal(IntPtr self, byte[] path);
-            [DllImport(Library.Name, EntryPoint = "CSharp_ColorSpaceSpecificationSpectrumGeneric_marshal__SWIG_0")] internal static extern int marshal(IntPtr self, byte[] path);
             [DllImport(Library.Name, EntryPoint = "CSharp_new_ColorSpaceSpecificationSpectrumGeneric__SWIG_0")] internal static extern IntPtr New();
             [DllImport(Library.Name, EntryPoint = "CSharp_delete_ColorSpaceSpecificationSpectrumGeneric")] internal static extern void Delete(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_new_ColorSpaceSpecificationSpectrumGeneric__SWIG_1")] internal static extern IntPtr Copy(IntPtr source);
@@ -513,8 +509,6 @@ namespace Vyr
             [DllImport(Library.Name, EntryPoint = "CSharp_ColorSpaceSpecificationSpectrumTristimulus_reset")] internal static extern void reset(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_ColorSpaceSpecificationSpectrumTristimulus_isnil_ColorSpaceSpecificationSpectrumTristimulus")] internal static extern int isnil_ColorSpaceSpecificationSpectrumTristimulus(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_ColorSpaceSpecificationSpectrumTristimulus_setnil_ColorSpaceSpecificationSpectrumTristimulus")] internal static extern void setnil_ColorSpaceSpecificationSpectrumTristimulus(IntPtr self);
-            [DllImport(Library.Name, EntryPoint = "CSharp_ColorSpaceSpecificationSpectrumTristimulus_unmarshal__SWIG_0")] internal static extern int unmarshal(IntPtr self, byte[] path);
-            [DllImport(Library.Name, EntryPoint = "CSharp_ColorSpaceSpecificationSpectrumTristimulus_marshal__SWIG_0")] internal static extern int marshal(IntPtr self, byte[] path);
             [DllImport(Library.Name, EntryPoint = "CSharp_new_ColorSpaceSpecificationSpectrumTristimulus__SWIG_0")] internal static extern IntPtr New();
             [DllImport(Library.Name, EntryPoint = "CSharp_delete_ColorSpaceSpecificationSpectrumTristimulus")] internal static extern void Delete(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_new_ColorSpaceSpecificationSpectrumTristimulus__SWIG_1")] internal static extern IntPtr Copy(IntPtr source);
@@ -531,8 +525,6 @@ namespace Vyr
             [DllImport(Library.Name, EntryPoint = "CSharp_ColorSpaceSpecificationSpectrumSpectral_reset")] internal static extern void reset(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_ColorSpaceSpecificationSpectrumSpectral_isnil_ColorSpaceSpecificationSpectrumSpectral")] internal static extern int isnil_ColorSpaceSpecificationSpectrumSpectral(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_ColorSpaceSpecificationSpectrumSpectral_setnil_ColorSpaceSpecificationSpectrumSpectral")] internal static extern void setnil_ColorSpaceSpecificationSpectrumSpectral(IntPtr self);
-            [DllImport(Library.Name, EntryPoint = "CSharp_ColorSpaceSpecificationSpectrumSpectral_unmarshal__SWIG_0")] internal static extern int unmarshal(IntPtr self, byte[] path);
-            [DllImport(Library.Name, EntryPoint = "CSharp_ColorSpaceSpecificationSpectrumSpectral_marshal__SWIG_0")] internal static extern int marshal(IntPtr self, byte[] path);
             [DllImport(Library.Name, EntryPoint = "CSharp_new_ColorSpaceSpecificationSpectrumSpectral__SWIG_0")] internal static extern IntPtr New();
             [DllImport(Library.Name, EntryPoint = "CSharp_delete_ColorSpaceSpecificationSpectrumSpectral")] internal static extern void Delete(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_new_ColorSpaceSpecificationSpectrumSpectral__SWIG_1")] internal static extern IntPtr Copy(IntPtr source);
@@ -545,8 +537,6 @@ namespace Vyr
     {
         static class Native
         {
-            [DllImport(Library.Name, EntryPoint = "CSharp_ColorSpaceSpecificationEmissive_unmarshal__SWIG_0")] internal static extern int unmarshal(IntPtr self, byte[] path);
-            [DllImport(Library.Name, EntryPoint = "CSharp_ColorSpaceSpecificationEmissive_marshal__SWIG_0")] internal static extern int marshal(IntPtr self, byte[] path);
             [DllImport(Library.Name, EntryPoint = "CSharp_new_ColorSpaceSpecificationEmissive__SWIG_0")] internal static extern IntPtr New();
             [DllImport(Library.Name, EntryPoint = "CSharp_delete_ColorSpaceSpecificationEmissive")] internal static extern void Delete(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_new_ColorSpaceSpecificationEmissive__SWIG_1")] internal static extern IntPtr Copy(IntPtr source);
@@ -563,8 +553,6 @@ namespace Vyr
             [DllImport(Library.Name, EntryPoint = "CSharp_ColorSpaceSpecificationEmissiveGeneric_reset")] internal static extern void reset(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_ColorSpaceSpecificationEmissiveGeneric_isnil_ColorSpaceSpecificationEmissiveGeneric")] internal static extern int isnil_ColorSpaceSpecificationEmissiveGeneric(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_ColorSpaceSpecificationEmissiveGeneric_setnil_ColorSpaceSpecificationEmissiveGeneric")] internal static extern void setnil_ColorSpaceSpecificationEmissiveGeneric(IntPtr self);
-            [DllImport(Library.Name, EntryPoint = "CSharp_ColorSpaceSpecificationEmissiveGeneric_unmarshal__SWIG_0")] internal static extern int unmarshal(IntPtr self, byte[] path);
-            [DllImport(Library.Name, EntryPoint = "CSharp_ColorSpaceSpecificationEmissiveGeneric_marshal__SWIG_0")] internal static extern int marshal(IntPtr self, byte[] path);
             [DllImport(Library.Name, EntryPoint = "CSharp_new_ColorSpaceSpecificationEmissiveGeneric__SWIG_0")] internal static extern IntPtr New();
             [DllImport(Library.Name, EntryPoint = "CSharp_delete_ColorSpaceSpecificationEmissiveGeneric")] internal static extern void Delete(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_new_ColorSpaceSpecificationEmissiveGeneric__SWIG_1")] internal static extern IntPtr Copy(IntPtr source);
@@ -581,8 +569,6 @@ namespace Vyr
             [DllImport(Library.Name, EntryPoint = "CSharp_ColorSpaceSpecificationEmissiveTristimulus_reset")] internal static extern void reset(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_ColorSpaceSpecificationEmissiveTristimulus_isnil_ColorSpaceSpecificationEmissiveTristimulus")] internal static extern int isnil_ColorSpaceSpecificationEmissiveTristimulus(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_ColorSpaceSpecificationEmissiveTristimulus_setnil_ColorSpaceSpecificationEmissiveTristimulus")] internal static extern void setnil_ColorSpaceSpecificationEmissiveTristimulus(IntPtr self);
-            [DllImport(Library.Name, EntryPoint = "CSharp_ColorSpaceSpecificationEmissiveTristimulus_unmarshal__SWIG_0")] internal static extern int unmarshal(IntPtr self, byte[] path);
-            [DllImport(Library.Name, EntryPoint = "CSharp_ColorSpaceSpecificationEmissiveTristimulus_marshal__SWIG_0")] internal static extern int marshal(IntPtr self, byte[] path);
             [DllImport(Library.Name, EntryPoint = "CSharp_new_ColorSpaceSpecificationEmissiveTristimulus__SWIG_0")] internal static extern IntPtr New();
             [DllImport(Library.Name, EntryPoint = "CSharp_delete_ColorSpaceSpecificationEmissiveTristimulus")] internal static extern void Delete(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_new_ColorSpaceSpecificationEmissiveTristimulus__SWIG_1")] internal static extern IntPtr Copy(IntPtr source);
@@ -599,8 +585,6 @@ namespace Vyr
             [DllImport(Library.Name, EntryPoint = "CSharp_ColorSpaceSpecificationEmissiveSpectral_reset")] internal static extern void reset(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_ColorSpaceSpecificationEmissiveSpectral_isnil_ColorSpaceSpecificationEmissiveSpectral")] internal static extern int isnil_ColorSpaceSpecificationEmissiveSpectral(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_ColorSpaceSpecificationEmissiveSpectral_setnil_ColorSpaceSpecificationEmissiveSpectral")] internal static extern void setnil_ColorSpaceSpecificationEmissiveSpectral(IntPtr self);
-            [DllImport(Library.Name, EntryPoint = "CSharp_ColorSpaceSpecificationEmissiveSpectral_unmarshal__SWIG_0")] internal static extern int unmarshal(IntPtr self, byte[] path);
-            [DllImport(Library.Name, EntryPoint = "CSharp_ColorSpaceSpecificationEmissiveSpectral_marshal__SWIG_0")] internal static extern int marshal(IntPtr self, byte[] path);
             [DllImport(Library.Name, EntryPoint = "CSharp_new_ColorSpaceSpecificationEmissiveSpectral__SWIG_0")] internal static extern IntPtr New();
             [DllImport(Library.Name, EntryPoint = "CSharp_delete_ColorSpaceSpecificationEmissiveSpectral")] internal static extern void Delete(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_new_ColorSpaceSpecificationEmissiveSpectral__SWIG_1")] internal static extern IntPtr Copy(IntPtr source);

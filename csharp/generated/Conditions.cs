@@ -17,7 +17,7 @@ namespace Vyr
 
         /// <inheritdoc/>
         public new DeviceFilterType Clone() => (DeviceFilterType)Copy();
-        internal override VyrObject Copy() => Kept(new DeviceFilterType(Native.Make(Pointer)));
+        internal override VyrObject Copy() => Copied(new DeviceFilterType(Native.Make(Pointer)));
 
         /// <inheritdoc/>
         public override bool IsComplete => Is(Native.is_occurs_ok(Pointer));
@@ -44,7 +44,7 @@ namespace Vyr
 
         /// <inheritdoc/>
         public new DeviceFilter Clone() => (DeviceFilter)Copy();
-        internal override VyrObject Copy() => Kept(new DeviceFilter(Native.Make(Pointer)));
+        internal override VyrObject Copy() => Copied(new DeviceFilter(Native.Make(Pointer)));
 
         /// <inheritdoc/>
         public override bool IsComplete => Is(Native.is_occurs_ok(Pointer));
@@ -56,7 +56,7 @@ namespace Vyr
         public bool IsNil => Is(Native.isnil_DeviceFilter(Pointer));
 
         /// <summary>Makes it an element that says that it has no value. `Reset` takes that back, and so does setting
-        /// a value of its own.</summary>
+        /// `Value`.</summary>
         public void SetNil() { Native.setnil_DeviceFilter(Pointer); Keep(); }
 
         /// <summary>The filter. Setting it ends the state of no value.</summary>
@@ -73,7 +73,7 @@ namespace Vyr
 
         /// <inheritdoc/>
         public new DevicePolarization Clone() => (DevicePolarization)Copy();
-        internal override VyrObject Copy() => Kept(new DevicePolarization(Native.Make(Pointer)));
+        internal override VyrObject Copy() => Copied(new DevicePolarization(Native.Make(Pointer)));
 
         /// <inheritdoc/>
         public override bool IsComplete => Is(Native.is_occurs_ok(Pointer));
@@ -85,7 +85,7 @@ namespace Vyr
         public bool IsNil => Is(Native.isnil_DevicePolarization(Pointer));
 
         /// <summary>Makes it an element that says that it has no value. `Reset` takes that back, and so does setting
-        /// a value of its own.</summary>
+        /// `Value`.</summary>
         public void SetNil() { Native.setnil_DevicePolarization(Pointer); Keep(); }
 
         /// <summary>Whether polarising filters were used, or nil where it is unknown.</summary>
@@ -99,7 +99,7 @@ namespace Vyr
 
         /// <inheritdoc/>
         public new ColorSpaceSpecificationType Clone() => (ColorSpaceSpecificationType)Copy();
-        internal override VyrObject Copy() => Kept(new ColorSpaceSpecificationType(Native.Make(Pointer)));
+        internal override VyrObject Copy() => Copied(new ColorSpaceSpecificationType(Native.Make(Pointer)));
 
         /// <inheritdoc/>
         public override bool IsComplete => Is(Native.is_occurs_ok(Pointer));
@@ -157,7 +157,7 @@ namespace Vyr
 
         /// <inheritdoc/>
         public new SpectrumType Clone() => (SpectrumType)Copy();
-        internal override VyrObject Copy() => Kept(new SpectrumType(Native.Make(Pointer)));
+        internal override VyrObject Copy() => Copied(new SpectrumType(Native.Make(Pointer)));
 
         /// <inheritdoc/>
         public override bool IsComplete => Is(Native.is_occurs_ok(Pointer));
@@ -182,7 +182,7 @@ namespace Vyr
 
         /// <inheritdoc/>
         public new ColorSpaceSpecificationSpectrumType Clone() => (ColorSpaceSpecificationSpectrumType)Copy();
-        internal override VyrObject Copy() => Kept(new ColorSpaceSpecificationSpectrumType(Native.Make(Pointer)));
+        internal override VyrObject Copy() => Copied(new ColorSpaceSpecificationSpectrumType(Native.Make(Pointer)));
 
         /// <inheritdoc/>
         public override bool IsComplete => Is(Native.is_occurs_ok(Pointer));
@@ -207,7 +207,7 @@ namespace Vyr
 
         /// <inheritdoc/>
         public new ColorSpaceSpecificationEmissiveType Clone() => (ColorSpaceSpecificationEmissiveType)Copy();
-        internal override VyrObject Copy() => Kept(new ColorSpaceSpecificationEmissiveType(Native.Make(Pointer)));
+        internal override VyrObject Copy() => Copied(new ColorSpaceSpecificationEmissiveType(Native.Make(Pointer)));
 
         /// <inheritdoc/>
         public override bool IsComplete => Is(Native.is_occurs_ok(Pointer));
@@ -232,7 +232,7 @@ namespace Vyr
 
         /// <inheritdoc/>
         public new GeometryChoiceType Clone() => (GeometryChoiceType)Copy();
-        internal override VyrObject Copy() => Kept(new GeometryChoiceType(Native.Make(Pointer)));
+        internal override VyrObject Copy() => Copied(new GeometryChoiceType(Native.Make(Pointer)));
 
         /// <inheritdoc/>
         public override bool IsComplete => Is(Native.is_occurs_ok(Pointer));
@@ -297,7 +297,7 @@ namespace Vyr
 
         /// <inheritdoc/>
         public new IlluminationOptionsType Clone() => (IlluminationOptionsType)Copy();
-        internal override VyrObject Copy() => Kept(new IlluminationOptionsType(Native.Make(Pointer)));
+        internal override VyrObject Copy() => Copied(new IlluminationOptionsType(Native.Make(Pointer)));
 
         /// <inheritdoc/>
         public override bool IsComplete => Is(Native.is_occurs_ok(Pointer));
@@ -361,7 +361,7 @@ namespace Vyr
 
         /// <inheritdoc/>
         public new ColorSpaceSpecificationSpectrumGenericType Clone() => (ColorSpaceSpecificationSpectrumGenericType)Copy();
-        internal override VyrObject Copy() => Kept(new ColorSpaceSpecificationSpectrumGenericType(Native.Make(Pointer)));
+        internal override VyrObject Copy() => Copied(new ColorSpaceSpecificationSpectrumGenericType(Native.Make(Pointer)));
 
         /// <inheritdoc/>
         public override bool IsComplete => Is(Native.is_occurs_ok(Pointer));
@@ -404,7 +404,7 @@ namespace Vyr
 
         /// <inheritdoc/>
         public new ColorSpaceSpecificationSpectrumTristimulusType Clone() => (ColorSpaceSpecificationSpectrumTristimulusType)Copy();
-        internal override VyrObject Copy() => Kept(new ColorSpaceSpecificationSpectrumTristimulusType(Native.Make(Pointer)));
+        internal override VyrObject Copy() => Copied(new ColorSpaceSpecificationSpectrumTristimulusType(Native.Make(Pointer)));
 
         /// <inheritdoc/>
         public override bool IsComplete => Is(Native.is_occurs_ok(Pointer));
@@ -444,7 +444,7 @@ namespace Vyr
 
         /// <inheritdoc/>
         public new ColorSpaceSpecificationSpectrumSpectralType Clone() => (ColorSpaceSpecificationSpectrumSpectralType)Copy();
-        internal override VyrObject Copy() => Kept(new ColorSpaceSpecificationSpectrumSpectralType(Native.Make(Pointer)));
+        internal override VyrObject Copy() => Copied(new ColorSpaceSpecificationSpectrumSpectralType(Native.Make(Pointer)));
 
         /// <inheritdoc/>
         public override bool IsComplete => Is(Native.is_occurs_ok(Pointer));
@@ -472,7 +472,7 @@ namespace Vyr
 
         /// <inheritdoc/>
         public new ColorSpaceSpecificationEmissiveGenericType Clone() => (ColorSpaceSpecificationEmissiveGenericType)Copy();
-        internal override VyrObject Copy() => Kept(new ColorSpaceSpecificationEmissiveGenericType(Native.Make(Pointer)));
+        internal override VyrObject Copy() => Copied(new ColorSpaceSpecificationEmissiveGenericType(Native.Make(Pointer)));
 
         /// <inheritdoc/>
         public override bool IsComplete => Is(Native.is_occurs_ok(Pointer));
@@ -515,7 +515,7 @@ namespace Vyr
 
         /// <inheritdoc/>
         public new ColorSpaceSpecificationEmissiveTristimulusType Clone() => (ColorSpaceSpecificationEmissiveTristimulusType)Copy();
-        internal override VyrObject Copy() => Kept(new ColorSpaceSpecificationEmissiveTristimulusType(Native.Make(Pointer)));
+        internal override VyrObject Copy() => Copied(new ColorSpaceSpecificationEmissiveTristimulusType(Native.Make(Pointer)));
 
         /// <inheritdoc/>
         public override bool IsComplete => Is(Native.is_occurs_ok(Pointer));
@@ -555,7 +555,7 @@ namespace Vyr
 
         /// <inheritdoc/>
         public new ColorSpaceSpecificationEmissiveSpectralType Clone() => (ColorSpaceSpecificationEmissiveSpectralType)Copy();
-        internal override VyrObject Copy() => Kept(new ColorSpaceSpecificationEmissiveSpectralType(Native.Make(Pointer)));
+        internal override VyrObject Copy() => Copied(new ColorSpaceSpecificationEmissiveSpectralType(Native.Make(Pointer)));
 
         /// <inheritdoc/>
         public override bool IsComplete => Is(Native.is_occurs_ok(Pointer));
@@ -589,13 +589,20 @@ namespace Vyr
 
         /// <inheritdoc/>
         public new ColorSpaceSpecificationSpectrum Clone() => (ColorSpaceSpecificationSpectrum)Copy();
-        internal override VyrObject Copy() => Kept(new ColorSpaceSpecificationSpectrum(Native.Make(Pointer)));
+        internal override VyrObject Copy() => Copied(new ColorSpaceSpecificationSpectrum(Native.Make(Pointer)));
 
         /// <summary>Loads a file that has the element ColorSpaceSpecificationSpectrum as its root.</summary>
-        public static ColorSpaceSpecificationSpectrum Load(string path) { var made = new ColorSpaceSpecificationSpectrum(); made.Loaded(Native.unmarshal(made.Pointer, Library.Narrow(path)), path); return made; }
+        public static ColorSpaceSpecificationSpectrum Load(string path) { TryLoad(path, out ColorSpaceSpecificationSpectrum loaded).DemandLoaded(path); return loaded; }
+
+        /// <summary>The same without throwing for what is wrong with the file; null then, unless the options ask for
+        /// what was read.</summary>
+        public static LoadReport TryLoad(string path, out ColorSpaceSpecificationSpectrum loaded, LoadOptions options = null) => Load(new ColorSpaceSpecificationSpectrum(), path, options, out loaded);
 
         /// <summary>Saves a file with this element as its root.</summary>
-        public void Save(string path) => Saved(Native.marshal(Pointer, Library.Narrow(path)), path);
+        public void Save(string path) => TrySave(path).DemandSaved();
+
+        /// <summary>The same without throwing for what is wrong.</summary>
+        public LoadReport TrySave(string path) => SaveElement(path);
     }
 
     /// <summary>Conditions of a reflective value in any colour space, or nil.</summary>
@@ -608,7 +615,7 @@ namespace Vyr
 
         /// <inheritdoc/>
         public new ColorSpaceSpecificationSpectrumGeneric Clone() => (ColorSpaceSpecificationSpectrumGeneric)Copy();
-        internal override VyrObject Copy() => Kept(new ColorSpaceSpecificationSpectrumGeneric(Native.Make(Pointer)));
+        internal override VyrObject Copy() => Copied(new ColorSpaceSpecificationSpectrumGeneric(Native.Make(Pointer)));
 
         /// <inheritdoc/>
         public override bool IsComplete => Is(Native.is_occurs_ok(Pointer));
@@ -619,15 +626,22 @@ namespace Vyr
         /// <summary>True for an element that says that it has no value.</summary>
         public bool IsNil => Is(Native.isnil_ColorSpaceSpecificationSpectrumGeneric(Pointer));
 
-        /// <summary>Makes it an element that says that it has no value. `Reset` takes that back, and so does setting
-        /// a value of its own.</summary>
+        /// <summary>Makes it an element that says that it has no value. `Reset` takes that back; what it holds until
+        /// then isn't saved.</summary>
         public void SetNil() { Native.setnil_ColorSpaceSpecificationSpectrumGeneric(Pointer); Keep(); }
 
         /// <summary>Loads a file that has the element ColorSpaceSpecificationSpectrumGeneric as its root.</summary>
-        public static ColorSpaceSpecificationSpectrumGeneric Load(string path) { var made = new ColorSpaceSpecificationSpectrumGeneric(); made.Loaded(Native.unmarshal(made.Pointer, Library.Narrow(path)), path); return made; }
+        public static ColorSpaceSpecificationSpectrumGeneric Load(string path) { TryLoad(path, out ColorSpaceSpecificationSpectrumGeneric loaded).DemandLoaded(path); return loaded; }
+
+        /// <summary>The same without throwing for what is wrong with the file; null then, unless the options ask for
+        /// what was read.</summary>
+        public static LoadReport TryLoad(string path, out ColorSpaceSpecificationSpectrumGeneric loaded, LoadOptions options = null) => Load(new ColorSpaceSpecificationSpectrumGeneric(), path, options, out loaded);
 
         /// <summary>Saves a file with this element as its root.</summary>
-        public void Save(string path) => Saved(Native.marshal(Pointer, Library.Narrow(path)), path);
+        public void Save(string path) => TrySave(path).DemandSaved();
+
+        /// <summary>The same without throwing for what is wrong.</summary>
+        public LoadReport TrySave(string path) => SaveElement(path);
     }
 
     /// <summary>Conditions of a reflective tristimulus value, or nil.</summary>
@@ -640,7 +654,7 @@ namespace Vyr
 
         /// <inheritdoc/>
         public new ColorSpaceSpecificationSpectrumTristimulus Clone() => (ColorSpaceSpecificationSpectrumTristimulus)Copy();
-        internal override VyrObject Copy() => Kept(new ColorSpaceSpecificationSpectrumTristimulus(Native.Make(Pointer)));
+        internal override VyrObject Copy() => Copied(new ColorSpaceSpecificationSpectrumTristimulus(Native.Make(Pointer)));
 
         /// <inheritdoc/>
         public override bool IsComplete => Is(Native.is_occurs_ok(Pointer));
@@ -651,16 +665,23 @@ namespace Vyr
         /// <summary>True for an element that says that it has no value.</summary>
         public bool IsNil => Is(Native.isnil_ColorSpaceSpecificationSpectrumTristimulus(Pointer));
 
-        /// <summary>Makes it an element that says that it has no value. `Reset` takes that back, and so does setting
-        /// a value of its own.</summary>
+        /// <summary>Makes it an element that says that it has no value. `Reset` takes that back; what it holds until
+        /// then isn't saved.</summary>
         public void SetNil() { Native.setnil_ColorSpaceSpecificationSpectrumTristimulus(Pointer); Keep(); }
 
         /// <summary>Loads a file that has the element ColorSpaceSpecificationSpectrumTristimulus as its
         /// root.</summary>
-        public static ColorSpaceSpecificationSpectrumTristimulus Load(string path) { var made = new ColorSpaceSpecificationSpectrumTristimulus(); made.Loaded(Native.unmarshal(made.Pointer, Library.Narrow(path)), path); return made; }
+        public static ColorSpaceSpecificationSpectrumTristimulus Load(string path) { TryLoad(path, out ColorSpaceSpecificationSpectrumTristimulus loaded).DemandLoaded(path); return loaded; }
+
+        /// <summary>The same without throwing for what is wrong with the file; null then, unless the options ask for
+        /// what was read.</summary>
+        public static LoadReport TryLoad(string path, out ColorSpaceSpecificationSpectrumTristimulus loaded, LoadOptions options = null) => Load(new ColorSpaceSpecificationSpectrumTristimulus(), path, options, out loaded);
 
         /// <summary>Saves a file with this element as its root.</summary>
-        public void Save(string path) => Saved(Native.marshal(Pointer, Library.Narrow(path)), path);
+        public void Save(string path) => TrySave(path).DemandSaved();
+
+        /// <summary>The same without throwing for what is wrong.</summary>
+        public LoadReport TrySave(string path) => SaveElement(path);
     }
 
     /// <summary>Conditions of a reflectance spectrum, or nil.</summary>
@@ -673,7 +694,7 @@ namespace Vyr
 
         /// <inheritdoc/>
         public new ColorSpaceSpecificationSpectrumSpectral Clone() => (ColorSpaceSpecificationSpectrumSpectral)Copy();
-        internal override VyrObject Copy() => Kept(new ColorSpaceSpecificationSpectrumSpectral(Native.Make(Pointer)));
+        internal override VyrObject Copy() => Copied(new ColorSpaceSpecificationSpectrumSpectral(Native.Make(Pointer)));
 
         /// <inheritdoc/>
         public override bool IsComplete => Is(Native.is_occurs_ok(Pointer));
@@ -684,15 +705,22 @@ namespace Vyr
         /// <summary>True for an element that says that it has no value.</summary>
         public bool IsNil => Is(Native.isnil_ColorSpaceSpecificationSpectrumSpectral(Pointer));
 
-        /// <summary>Makes it an element that says that it has no value. `Reset` takes that back, and so does setting
-        /// a value of its own.</summary>
+        /// <summary>Makes it an element that says that it has no value. `Reset` takes that back; what it holds until
+        /// then isn't saved.</summary>
         public void SetNil() { Native.setnil_ColorSpaceSpecificationSpectrumSpectral(Pointer); Keep(); }
 
         /// <summary>Loads a file that has the element ColorSpaceSpecificationSpectrumSpectral as its root.</summary>
-        public static ColorSpaceSpecificationSpectrumSpectral Load(string path) { var made = new ColorSpaceSpecificationSpectrumSpectral(); made.Loaded(Native.unmarshal(made.Pointer, Library.Narrow(path)), path); return made; }
+        public static ColorSpaceSpecificationSpectrumSpectral Load(string path) { TryLoad(path, out ColorSpaceSpecificationSpectrumSpectral loaded).DemandLoaded(path); return loaded; }
+
+        /// <summary>The same without throwing for what is wrong with the file; null then, unless the options ask for
+        /// what was read.</summary>
+        public static LoadReport TryLoad(string path, out ColorSpaceSpecificationSpectrumSpectral loaded, LoadOptions options = null) => Load(new ColorSpaceSpecificationSpectrumSpectral(), path, options, out loaded);
 
         /// <summary>Saves a file with this element as its root.</summary>
-        public void Save(string path) => Saved(Native.marshal(Pointer, Library.Narrow(path)), path);
+        public void Save(string path) => TrySave(path).DemandSaved();
+
+        /// <summary>The same without throwing for what is wrong.</summary>
+        public LoadReport TrySave(string path) => SaveElement(path);
     }
 
     /// <summary>Conditions of an emissive value that has no kind of its own.</summary>
@@ -705,13 +733,20 @@ namespace Vyr
 
         /// <inheritdoc/>
         public new ColorSpaceSpecificationEmissive Clone() => (ColorSpaceSpecificationEmissive)Copy();
-        internal override VyrObject Copy() => Kept(new ColorSpaceSpecificationEmissive(Native.Make(Pointer)));
+        internal override VyrObject Copy() => Copied(new ColorSpaceSpecificationEmissive(Native.Make(Pointer)));
 
         /// <summary>Loads a file that has the element ColorSpaceSpecificationEmissive as its root.</summary>
-        public static ColorSpaceSpecificationEmissive Load(string path) { var made = new ColorSpaceSpecificationEmissive(); made.Loaded(Native.unmarshal(made.Pointer, Library.Narrow(path)), path); return made; }
+        public static ColorSpaceSpecificationEmissive Load(string path) { TryLoad(path, out ColorSpaceSpecificationEmissive loaded).DemandLoaded(path); return loaded; }
+
+        /// <summary>The same without throwing for what is wrong with the file; null then, unless the options ask for
+        /// what was read.</summary>
+        public static LoadReport TryLoad(string path, out ColorSpaceSpecificationEmissive loaded, LoadOptions options = null) => Load(new ColorSpaceSpecificationEmissive(), path, options, out loaded);
 
         /// <summary>Saves a file with this element as its root.</summary>
-        public void Save(string path) => Saved(Native.marshal(Pointer, Library.Narrow(path)), path);
+        public void Save(string path) => TrySave(path).DemandSaved();
+
+        /// <summary>The same without throwing for what is wrong.</summary>
+        public LoadReport TrySave(string path) => SaveElement(path);
     }
 
     /// <summary>Conditions of an emissive value in any colour space, or nil.</summary>
@@ -724,7 +759,7 @@ namespace Vyr
 
         /// <inheritdoc/>
         public new ColorSpaceSpecificationEmissiveGeneric Clone() => (ColorSpaceSpecificationEmissiveGeneric)Copy();
-        internal override VyrObject Copy() => Kept(new ColorSpaceSpecificationEmissiveGeneric(Native.Make(Pointer)));
+        internal override VyrObject Copy() => Copied(new ColorSpaceSpecificationEmissiveGeneric(Native.Make(Pointer)));
 
         /// <inheritdoc/>
         public override bool IsComplete => Is(Native.is_occurs_ok(Pointer));
@@ -735,15 +770,22 @@ namespace Vyr
         /// <summary>True for an element that says that it has no value.</summary>
         public bool IsNil => Is(Native.isnil_ColorSpaceSpecificationEmissiveGeneric(Pointer));
 
-        /// <summary>Makes it an element that says that it has no value. `Reset` takes that back, and so does setting
-        /// a value of its own.</summary>
+        /// <summary>Makes it an element that says that it has no value. `Reset` takes that back; what it holds until
+        /// then isn't saved.</summary>
         public void SetNil() { Native.setnil_ColorSpaceSpecificationEmissiveGeneric(Pointer); Keep(); }
 
         /// <summary>Loads a file that has the element ColorSpaceSpecificationEmissiveGeneric as its root.</summary>
-        public static ColorSpaceSpecificationEmissiveGeneric Load(string path) { var made = new ColorSpaceSpecificationEmissiveGeneric(); made.Loaded(Native.unmarshal(made.Pointer, Library.Narrow(path)), path); return made; }
+        public static ColorSpaceSpecificationEmissiveGeneric Load(string path) { TryLoad(path, out ColorSpaceSpecificationEmissiveGeneric loaded).DemandLoaded(path); return loaded; }
+
+        /// <summary>The same without throwing for what is wrong with the file; null then, unless the options ask for
+        /// what was read.</summary>
+        public static LoadReport TryLoad(string path, out ColorSpaceSpecificationEmissiveGeneric loaded, LoadOptions options = null) => Load(new ColorSpaceSpecificationEmissiveGeneric(), path, options, out loaded);
 
         /// <summary>Saves a file with this element as its root.</summary>
-        public void Save(string path) => Saved(Native.marshal(Pointer, Library.Narrow(path)), path);
+        public void Save(string path) => TrySave(path).DemandSaved();
+
+        /// <summary>The same without throwing for what is wrong.</summary>
+        public LoadReport TrySave(string path) => SaveElement(path);
     }
 
     /// <summary>Conditions of an emissive tristimulus value, or nil.</summary>
@@ -756,7 +798,7 @@ namespace Vyr
 
         /// <inheritdoc/>
         public new ColorSpaceSpecificationEmissiveTristimulus Clone() => (ColorSpaceSpecificationEmissiveTristimulus)Copy();
-        internal override VyrObject Copy() => Kept(new ColorSpaceSpecificationEmissiveTristimulus(Native.Make(Pointer)));
+        internal override VyrObject Copy() => Copied(new ColorSpaceSpecificationEmissiveTristimulus(Native.Make(Pointer)));
 
         /// <inheritdoc/>
         public override bool IsComplete => Is(Native.is_occurs_ok(Pointer));
@@ -767,16 +809,23 @@ namespace Vyr
         /// <summary>True for an element that says that it has no value.</summary>
         public bool IsNil => Is(Native.isnil_ColorSpaceSpecificationEmissiveTristimulus(Pointer));
 
-        /// <summary>Makes it an element that says that it has no value. `Reset` takes that back, and so does setting
-        /// a value of its own.</summary>
+        /// <summary>Makes it an element that says that it has no value. `Reset` takes that back; what it holds until
+        /// then isn't saved.</summary>
         public void SetNil() { Native.setnil_ColorSpaceSpecificationEmissiveTristimulus(Pointer); Keep(); }
 
         /// <summary>Loads a file that has the element ColorSpaceSpecificationEmissiveTristimulus as its
         /// root.</summary>
-        public static ColorSpaceSpecificationEmissiveTristimulus Load(string path) { var made = new ColorSpaceSpecificationEmissiveTristimulus(); made.Loaded(Native.unmarshal(made.Pointer, Library.Narrow(path)), path); return made; }
+        public static ColorSpaceSpecificationEmissiveTristimulus Load(string path) { TryLoad(path, out ColorSpaceSpecificationEmissiveTristimulus loaded).DemandLoaded(path); return loaded; }
+
+        /// <summary>The same without throwing for what is wrong with the file; null then, unless the options ask for
+        /// what was read.</summary>
+        public static LoadReport TryLoad(string path, out ColorSpaceSpecificationEmissiveTristimulus loaded, LoadOptions options = null) => Load(new ColorSpaceSpecificationEmissiveTristimulus(), path, options, out loaded);
 
         /// <summary>Saves a file with this element as its root.</summary>
-        public void Save(string path) => Saved(Native.marshal(Pointer, Library.Narrow(path)), path);
+        public void Save(string path) => TrySave(path).DemandSaved();
+
+        /// <summary>The same without throwing for what is wrong.</summary>
+        public LoadReport TrySave(string path) => SaveElement(path);
     }
 
     /// <summary>Conditions of an emission spectrum, or nil.</summary>
@@ -789,7 +838,7 @@ namespace Vyr
 
         /// <inheritdoc/>
         public new ColorSpaceSpecificationEmissiveSpectral Clone() => (ColorSpaceSpecificationEmissiveSpectral)Copy();
-        internal override VyrObject Copy() => Kept(new ColorSpaceSpecificationEmissiveSpectral(Native.Make(Pointer)));
+        internal override VyrObject Copy() => Copied(new ColorSpaceSpecificationEmissiveSpectral(Native.Make(Pointer)));
 
         /// <inheritdoc/>
         public override bool IsComplete => Is(Native.is_occurs_ok(Pointer));
@@ -800,15 +849,22 @@ namespace Vyr
         /// <summary>True for an element that says that it has no value.</summary>
         public bool IsNil => Is(Native.isnil_ColorSpaceSpecificationEmissiveSpectral(Pointer));
 
-        /// <summary>Makes it an element that says that it has no value. `Reset` takes that back, and so does setting
-        /// a value of its own.</summary>
+        /// <summary>Makes it an element that says that it has no value. `Reset` takes that back; what it holds until
+        /// then isn't saved.</summary>
         public void SetNil() { Native.setnil_ColorSpaceSpecificationEmissiveSpectral(Pointer); Keep(); }
 
         /// <summary>Loads a file that has the element ColorSpaceSpecificationEmissiveSpectral as its root.</summary>
-        public static ColorSpaceSpecificationEmissiveSpectral Load(string path) { var made = new ColorSpaceSpecificationEmissiveSpectral(); made.Loaded(Native.unmarshal(made.Pointer, Library.Narrow(path)), path); return made; }
+        public static ColorSpaceSpecificationEmissiveSpectral Load(string path) { TryLoad(path, out ColorSpaceSpecificationEmissiveSpectral loaded).DemandLoaded(path); return loaded; }
+
+        /// <summary>The same without throwing for what is wrong with the file; null then, unless the options ask for
+        /// what was read.</summary>
+        public static LoadReport TryLoad(string path, out ColorSpaceSpecificationEmissiveSpectral loaded, LoadOptions options = null) => Load(new ColorSpaceSpecificationEmissiveSpectral(), path, options, out loaded);
 
         /// <summary>Saves a file with this element as its root.</summary>
-        public void Save(string path) => Saved(Native.marshal(Pointer, Library.Narrow(path)), path);
+        public void Save(string path) => TrySave(path).DemandSaved();
+
+        /// <summary>The same without throwing for what is wrong.</summary>
+        public LoadReport TrySave(string path) => SaveElement(path);
     }
 
     /// <summary>A standard illuminant, or a custom one by name.</summary>
@@ -821,7 +877,7 @@ namespace Vyr
 
         /// <inheritdoc/>
         public new Illuminant Clone() => (Illuminant)Copy();
-        internal override VyrObject Copy() => Kept(new Illuminant(Native.Make(Pointer)));
+        internal override VyrObject Copy() => Copied(new Illuminant(Native.Make(Pointer)));
 
         /// <inheritdoc/>
         public override bool IsComplete => Is(Native.is_occurs_ok(Pointer));
@@ -846,7 +902,7 @@ namespace Vyr
 
         /// <inheritdoc/>
         public new WhitePointChromaticity Clone() => (WhitePointChromaticity)Copy();
-        internal override VyrObject Copy() => Kept(new WhitePointChromaticity(Native.Make(Pointer)));
+        internal override VyrObject Copy() => Copied(new WhitePointChromaticity(Native.Make(Pointer)));
 
         /// <inheritdoc/>
         public override bool IsComplete => Is(Native.is_occurs_ok(Pointer));
@@ -871,7 +927,7 @@ namespace Vyr
 
         /// <inheritdoc/>
         public new BSDFAngle Clone() => (BSDFAngle)Copy();
-        internal override VyrObject Copy() => Kept(new BSDFAngle(Native.Make(Pointer)));
+        internal override VyrObject Copy() => Copied(new BSDFAngle(Native.Make(Pointer)));
 
         /// <inheritdoc/>
         public override bool IsComplete => Is(Native.is_occurs_ok(Pointer));
@@ -896,7 +952,7 @@ namespace Vyr
 
         /// <inheritdoc/>
         public new Azimuth Clone() => (Azimuth)Copy();
-        internal override VyrObject Copy() => Kept(new Azimuth(Native.Make(Pointer)));
+        internal override VyrObject Copy() => Copied(new Azimuth(Native.Make(Pointer)));
 
         /// <inheritdoc/>
         public override bool IsComplete => Is(Native.is_occurs_ok(Pointer));

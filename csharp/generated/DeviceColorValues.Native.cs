@@ -478,8 +478,6 @@ namespace Vyr
     {
         static class Native
         {
-            [DllImport(Library.Name, EntryPoint = "CSharp_ColorSpaceRGB_unmarshal__SWIG_0")] internal static extern int unmarshal(IntPtr self, byte[] path);
-            [DllImport(Library.Name, EntryPoint = "CSharp_ColorSpaceRGB_marshal__SWIG_0")] internal static extern int marshal(IntPtr self, byte[] path);
             [DllImport(Library.Name, EntryPoint = "CSharp_new_ColorSpaceRGB__SWIG_0")] internal static extern IntPtr New();
             [DllImport(Library.Name, EntryPoint = "CSharp_delete_ColorSpaceRGB")] internal static extern void Delete(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_new_ColorSpaceRGB__SWIG_1")] internal static extern IntPtr Copy(IntPtr source);
@@ -492,8 +490,6 @@ namespace Vyr
     {
         static class Native
         {
-            [DllImport(Library.Name, EntryPoint = "CSharp_ColorSpaceSRGB_unmarshal__SWIG_0")] internal static extern int unmarshal(IntPtr self, byte[] path);
-            [DllImport(Library.Name, EntryPoint = "CSharp_ColorSpaceSRGB_marshal__SWIG_0")] internal static extern int marshal(IntPtr self, byte[] path);
             [DllImport(Library.Name, EntryPoint = "CSharp_new_ColorSpaceSRGB__SWIG_0")] internal static extern IntPtr New();
             [DllImport(Library.Name, EntryPoint = "CSharp_delete_ColorSpaceSRGB")] internal static extern void Delete(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_new_ColorSpaceSRGB__SWIG_1")] internal static extern IntPtr Copy(IntPtr source);
@@ -506,8 +502,6 @@ namespace Vyr
     {
         static class Native
         {
-            [DllImport(Library.Name, EntryPoint = "CSharp_ColorSpaceAdobeRGB_unmarshal__SWIG_0")] internal static extern int unmarshal(IntPtr self, byte[] path);
-            [DllImport(Library.Name, EntryPoint = "CSharp_ColorSpaceAdobeRGB_marshal__SWIG_0")] internal static extern int marshal(IntPtr self, byte[] path);
             [DllImport(Library.Name, EntryPoint = "CSharp_new_ColorSpaceAdobeRGB__SWIG_0")] internal static extern IntPtr New();
             [DllImport(Library.Name, EntryPoint = "CSharp_delete_ColorSpaceAdobeRGB")] internal static extern void Delete(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_new_ColorSpaceAdobeRGB__SWIG_1")] internal static extern IntPtr Copy(IntPtr source);
@@ -520,8 +514,6 @@ namespace Vyr
     {
         static class Native
         {
-            [DllImport(Library.Name, EntryPoint = "CSharp_ColorSpaceCMYKPlusN_unmarshal__SWIG_0")] internal static extern int unmarshal(IntPtr self, byte[] path);
-            [DllImport(Library.Name, EntryPoint = "CSharp_ColorSpaceCMYKPlusN_marshal__SWIG_0")] internal static extern int marshal(IntPtr self, byte[] path);
             [DllImport(Library.Name, EntryPoint = "CSharp_new_ColorSpaceCMYKPlusN__SWIG_0")] internal static extern IntPtr New();
             [DllImport(Library.Name, EntryPoint = "CSharp_delete_ColorSpaceCMYKPlusN")] internal static extern void Delete(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_new_ColorSpaceCMYKPlusN__SWIG_1")] internal static extern IntPtr Copy(IntPtr source);
@@ -534,8 +526,6 @@ namespace Vyr
     {
         static class Native
         {
-            [DllImport(Library.Name, EntryPoint = "CSharp_ColorSpaceAdobeWideGamutRGB_unmarshal__SWIG_0")] internal static extern int unmarshal(IntPtr self, byte[] path);
-            [DllImport(Library.Name, EntryPoint = "CSharp_ColorSpaceAdobeWideGamutRGB_marshal__SWIG_0")] internal static extern int marshal(IntPtr self, byte[] path);
             [DllImport(Library.Name, EntryPoint = "CSharp_new_ColorSpaceAdobeWideGamutRGB__SWIG_0")] internal static extern IntPtr New();
             [DllImport(Library.Name, EntryPoint = "CSharp_delete_ColorSpaceAdobeWideGamutRGB")] internal static extern void Delete(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_new_ColorSpaceAdobeWideGamutRGB__SWIG_1")] internal static extern IntPtr Copy(IntPtr source);
@@ -548,8 +538,6 @@ namespace Vyr
     {
         static class Native
         {
-            [DllImport(Library.Name, EntryPoint = "CSharp_ColorSpaceHSL_unmarshal__SWIG_0")] internal static extern int unmarshal(IntPtr self, byte[] path);
-            [DllImport(Library.Name, EntryPoint = "CSharp_ColorSpaceHSL_marshal__SWIG_0")] internal static extern int marshal(IntPtr self, byte[] path);
             [DllImport(Library.Name, EntryPoint = "CSharp_new_ColorSpaceHSL__SWIG_0")] internal static extern IntPtr New();
             [DllImport(Library.Name, EntryPoint = "CSharp_delete_ColorSpaceHSL")] internal static extern void Delete(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_new_ColorSpaceHSL__SWIG_1")] internal static extern IntPtr Copy(IntPtr source);
@@ -562,8 +550,6 @@ namespace Vyr
     {
         static class Native
         {
-            [DllImport(Library.Name, EntryPoint = "CSharp_ColorSpaceHSV_unmarshal__SWIG_0")] internal static extern int unmarshal(IntPtr self, byte[] path);
-            [DllImport(Library.Name, EntryPoint = "CSharp_ColorSpaceHSV_marshal__SWIG_0")] internal static extern int marshal(IntPtr self, byte[] path);
             [DllImport(Library.Name, EntryPoint = "CSharp_new_ColorSpaceHSV__SWIG_0")] internal static extern IntPtr New();
             [DllImport(Library.Name, EntryPoint = "CSharp_delete_ColorSpaceHSV")] internal static extern void Delete(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_new_ColorSpaceHSV__SWIG_1")] internal static extern IntPtr Copy(IntPtr source);
@@ -576,8 +562,6 @@ namespace Vyr
     {
         static class Native
         {
-            [DllImport(Library.Name, EntryPoint = "CSharp_ColorSpaceCMYK_unmarshal__SWIG_0")] internal static extern int unmarshal(IntPtr self, byte[] path);
-            [DllImport(Library.Name, EntryPoint = "CSharp_ColorSpaceCMYK_marshal__SWIG_0")] internal static extern int marshal(IntPtr self, byte[] path);
             [DllImport(Library.Name, EntryPoint = "CSharp_new_ColorSpaceCMYK__SWIG_0")] internal static extern IntPtr New();
             [DllImport(Library.Name, EntryPoint = "CSharp_delete_ColorSpaceCMYK")] internal static extern void Delete(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_new_ColorSpaceCMYK__SWIG_1")] internal static extern IntPtr Copy(IntPtr source);
@@ -590,8 +574,6 @@ namespace Vyr
     {
         static class Native
         {
-            [DllImport(Library.Name, EntryPoint = "CSharp_ColorSpaceTINTORAOctavantic_unmarshal__SWIG_0")] internal static extern int unmarshal(IntPtr self, byte[] path);
-            [DllImport(Library.Name, EntryPoint = "CSharp_ColorSpaceTINTORAOctavantic_marshal__SWIG_0")] internal static extern int marshal(IntPtr self, byte[] path);
             [DllImport(Library.Name, EntryPoint = "CSharp_new_ColorSpaceTINTORAOctavantic__SWIG_0")] internal static extern IntPtr New();
             [DllImport(Library.Name, EntryPoint = "CSharp_delete_ColorSpaceTINTORAOctavantic")] internal static extern void Delete(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_new_ColorSpaceTINTORAOctavantic__SWIG_1")] internal static extern IntPtr Copy(IntPtr source);
@@ -604,8 +586,6 @@ namespace Vyr
     {
         static class Native
         {
-            [DllImport(Library.Name, EntryPoint = "CSharp_ColorSpaceYUV_unmarshal__SWIG_0")] internal static extern int unmarshal(IntPtr self, byte[] path);
-            [DllImport(Library.Name, EntryPoint = "CSharp_ColorSpaceYUV_marshal__SWIG_0")] internal static extern int marshal(IntPtr self, byte[] path);
             [DllImport(Library.Name, EntryPoint = "CSharp_new_ColorSpaceYUV__SWIG_0")] internal static extern IntPtr New();
             [DllImport(Library.Name, EntryPoint = "CSharp_delete_ColorSpaceYUV")] internal static extern void Delete(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_new_ColorSpaceYUV__SWIG_1")] internal static extern IntPtr Copy(IntPtr source);
@@ -618,8 +598,6 @@ namespace Vyr
     {
         static class Native
         {
-            [DllImport(Library.Name, EntryPoint = "CSharp_ColorSpaceYIQ_unmarshal__SWIG_0")] internal static extern int unmarshal(IntPtr self, byte[] path);
-            [DllImport(Library.Name, EntryPoint = "CSharp_ColorSpaceYIQ_marshal__SWIG_0")] internal static extern int marshal(IntPtr self, byte[] path);
             [DllImport(Library.Name, EntryPoint = "CSharp_new_ColorSpaceYIQ__SWIG_0")] internal static extern IntPtr New();
             [DllImport(Library.Name, EntryPoint = "CSharp_delete_ColorSpaceYIQ")] internal static extern void Delete(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_new_ColorSpaceYIQ__SWIG_1")] internal static extern IntPtr Copy(IntPtr source);
@@ -632,8 +610,6 @@ namespace Vyr
     {
         static class Native
         {
-            [DllImport(Library.Name, EntryPoint = "CSharp_ColorSpaceYBR_unmarshal__SWIG_0")] internal static extern int unmarshal(IntPtr self, byte[] path);
-            [DllImport(Library.Name, EntryPoint = "CSharp_ColorSpaceYBR_marshal__SWIG_0")] internal static extern int marshal(IntPtr self, byte[] path);
             [DllImport(Library.Name, EntryPoint = "CSharp_new_ColorSpaceYBR__SWIG_0")] internal static extern IntPtr New();
             [DllImport(Library.Name, EntryPoint = "CSharp_delete_ColorSpaceYBR")] internal static extern void Delete(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_new_ColorSpaceYBR__SWIG_1")] internal static extern IntPtr Copy(IntPtr source);

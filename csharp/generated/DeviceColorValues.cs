@@ -17,7 +17,7 @@ namespace Vyr
 
         /// <inheritdoc/>
         public new ColorSpaceRGBType Clone() => (ColorSpaceRGBType)Copy();
-        internal override VyrObject Copy() => Kept(new ColorSpaceRGBType(Native.Make(Pointer)));
+        internal override VyrObject Copy() => Copied(new ColorSpaceRGBType(Native.Make(Pointer)));
 
         /// <inheritdoc/>
         public override bool IsComplete => Is(Native.is_occurs_ok(Pointer));
@@ -60,7 +60,7 @@ namespace Vyr
 
         /// <inheritdoc/>
         public new ColorSpaceSRGBType Clone() => (ColorSpaceSRGBType)Copy();
-        internal override VyrObject Copy() => Kept(new ColorSpaceSRGBType(Native.Make(Pointer)));
+        internal override VyrObject Copy() => Copied(new ColorSpaceSRGBType(Native.Make(Pointer)));
 
         /// <inheritdoc/>
         public override bool IsComplete => Is(Native.is_occurs_ok(Pointer));
@@ -103,7 +103,7 @@ namespace Vyr
 
         /// <inheritdoc/>
         public new ColorSpaceAdobeRGBType Clone() => (ColorSpaceAdobeRGBType)Copy();
-        internal override VyrObject Copy() => Kept(new ColorSpaceAdobeRGBType(Native.Make(Pointer)));
+        internal override VyrObject Copy() => Copied(new ColorSpaceAdobeRGBType(Native.Make(Pointer)));
 
         /// <inheritdoc/>
         public override bool IsComplete => Is(Native.is_occurs_ok(Pointer));
@@ -146,7 +146,7 @@ namespace Vyr
 
         /// <inheritdoc/>
         public new ColorSpaceAdobeWideGamutRGBType Clone() => (ColorSpaceAdobeWideGamutRGBType)Copy();
-        internal override VyrObject Copy() => Kept(new ColorSpaceAdobeWideGamutRGBType(Native.Make(Pointer)));
+        internal override VyrObject Copy() => Copied(new ColorSpaceAdobeWideGamutRGBType(Native.Make(Pointer)));
 
         /// <inheritdoc/>
         public override bool IsComplete => Is(Native.is_occurs_ok(Pointer));
@@ -190,7 +190,7 @@ namespace Vyr
 
         /// <inheritdoc/>
         public new ColorSpaceCMYKType Clone() => (ColorSpaceCMYKType)Copy();
-        internal override VyrObject Copy() => Kept(new ColorSpaceCMYKType(Native.Make(Pointer)));
+        internal override VyrObject Copy() => Copied(new ColorSpaceCMYKType(Native.Make(Pointer)));
 
         /// <inheritdoc/>
         public override bool IsComplete => Is(Native.is_occurs_ok(Pointer));
@@ -242,7 +242,7 @@ namespace Vyr
 
         /// <inheritdoc/>
         public new ColorSpaceCMYKPlusNType Clone() => (ColorSpaceCMYKPlusNType)Copy();
-        internal override VyrObject Copy() => Kept(new ColorSpaceCMYKPlusNType(Native.Make(Pointer)));
+        internal override VyrObject Copy() => Copied(new ColorSpaceCMYKPlusNType(Native.Make(Pointer)));
 
         /// <inheritdoc/>
         public override bool IsComplete => Is(Native.is_occurs_ok(Pointer));
@@ -267,7 +267,7 @@ namespace Vyr
 
         /// <inheritdoc/>
         public new Color Clone() => (Color)Copy();
-        internal override VyrObject Copy() => Kept(new Color(Native.Make(Pointer)));
+        internal override VyrObject Copy() => Copied(new Color(Native.Make(Pointer)));
 
         /// <inheritdoc/>
         public override bool IsComplete => Is(Native.is_occurs_ok(Pointer));
@@ -292,7 +292,7 @@ namespace Vyr
 
         /// <inheritdoc/>
         public new ColorSpaceTINTORAOctavanticType Clone() => (ColorSpaceTINTORAOctavanticType)Copy();
-        internal override VyrObject Copy() => Kept(new ColorSpaceTINTORAOctavanticType(Native.Make(Pointer)));
+        internal override VyrObject Copy() => Copied(new ColorSpaceTINTORAOctavanticType(Native.Make(Pointer)));
 
         /// <inheritdoc/>
         public override bool IsComplete => Is(Native.is_occurs_ok(Pointer));
@@ -341,7 +341,7 @@ namespace Vyr
 
         /// <inheritdoc/>
         public new ColorSpaceHSLType Clone() => (ColorSpaceHSLType)Copy();
-        internal override VyrObject Copy() => Kept(new ColorSpaceHSLType(Native.Make(Pointer)));
+        internal override VyrObject Copy() => Copied(new ColorSpaceHSLType(Native.Make(Pointer)));
 
         /// <inheritdoc/>
         public override bool IsComplete => Is(Native.is_occurs_ok(Pointer));
@@ -378,7 +378,7 @@ namespace Vyr
 
         /// <inheritdoc/>
         public new ColorSpaceHSVType Clone() => (ColorSpaceHSVType)Copy();
-        internal override VyrObject Copy() => Kept(new ColorSpaceHSVType(Native.Make(Pointer)));
+        internal override VyrObject Copy() => Copied(new ColorSpaceHSVType(Native.Make(Pointer)));
 
         /// <inheritdoc/>
         public override bool IsComplete => Is(Native.is_occurs_ok(Pointer));
@@ -415,7 +415,7 @@ namespace Vyr
 
         /// <inheritdoc/>
         public new ColorSpaceYUVType Clone() => (ColorSpaceYUVType)Copy();
-        internal override VyrObject Copy() => Kept(new ColorSpaceYUVType(Native.Make(Pointer)));
+        internal override VyrObject Copy() => Copied(new ColorSpaceYUVType(Native.Make(Pointer)));
 
         /// <inheritdoc/>
         public override bool IsComplete => Is(Native.is_occurs_ok(Pointer));
@@ -452,7 +452,7 @@ namespace Vyr
 
         /// <inheritdoc/>
         public new ColorSpaceYIQType Clone() => (ColorSpaceYIQType)Copy();
-        internal override VyrObject Copy() => Kept(new ColorSpaceYIQType(Native.Make(Pointer)));
+        internal override VyrObject Copy() => Copied(new ColorSpaceYIQType(Native.Make(Pointer)));
 
         /// <inheritdoc/>
         public override bool IsComplete => Is(Native.is_occurs_ok(Pointer));
@@ -489,7 +489,7 @@ namespace Vyr
 
         /// <inheritdoc/>
         public new ColorSpaceYBRType Clone() => (ColorSpaceYBRType)Copy();
-        internal override VyrObject Copy() => Kept(new ColorSpaceYBRType(Native.Make(Pointer)));
+        internal override VyrObject Copy() => Copied(new ColorSpaceYBRType(Native.Make(Pointer)));
 
         /// <inheritdoc/>
         public override bool IsComplete => Is(Native.is_occurs_ok(Pointer));
@@ -526,13 +526,20 @@ namespace Vyr
 
         /// <inheritdoc/>
         public new ColorSpaceRGB Clone() => (ColorSpaceRGB)Copy();
-        internal override VyrObject Copy() => Kept(new ColorSpaceRGB(Native.Make(Pointer)));
+        internal override VyrObject Copy() => Copied(new ColorSpaceRGB(Native.Make(Pointer)));
 
         /// <summary>Loads a file that has the element ColorSpaceRGB as its root.</summary>
-        public static ColorSpaceRGB Load(string path) { var made = new ColorSpaceRGB(); made.Loaded(Native.unmarshal(made.Pointer, Library.Narrow(path)), path); return made; }
+        public static ColorSpaceRGB Load(string path) { TryLoad(path, out ColorSpaceRGB loaded).DemandLoaded(path); return loaded; }
+
+        /// <summary>The same without throwing for what is wrong with the file; null then, unless the options ask for
+        /// what was read.</summary>
+        public static LoadReport TryLoad(string path, out ColorSpaceRGB loaded, LoadOptions options = null) => Load(new ColorSpaceRGB(), path, options, out loaded);
 
         /// <summary>Saves a file with this element as its root.</summary>
-        public void Save(string path) => Saved(Native.marshal(Pointer, Library.Narrow(path)), path);
+        public void Save(string path) => TrySave(path).DemandSaved();
+
+        /// <summary>The same without throwing for what is wrong.</summary>
+        public LoadReport TrySave(string path) => SaveElement(path);
     }
 
     /// <summary>A colour in sRGB (IEC 61966-2-1), as fractions of full drive.</summary>
@@ -545,13 +552,20 @@ namespace Vyr
 
         /// <inheritdoc/>
         public new ColorSpaceSRGB Clone() => (ColorSpaceSRGB)Copy();
-        internal override VyrObject Copy() => Kept(new ColorSpaceSRGB(Native.Make(Pointer)));
+        internal override VyrObject Copy() => Copied(new ColorSpaceSRGB(Native.Make(Pointer)));
 
         /// <summary>Loads a file that has the element ColorSpaceSRGB as its root.</summary>
-        public static ColorSpaceSRGB Load(string path) { var made = new ColorSpaceSRGB(); made.Loaded(Native.unmarshal(made.Pointer, Library.Narrow(path)), path); return made; }
+        public static ColorSpaceSRGB Load(string path) { TryLoad(path, out ColorSpaceSRGB loaded).DemandLoaded(path); return loaded; }
+
+        /// <summary>The same without throwing for what is wrong with the file; null then, unless the options ask for
+        /// what was read.</summary>
+        public static LoadReport TryLoad(string path, out ColorSpaceSRGB loaded, LoadOptions options = null) => Load(new ColorSpaceSRGB(), path, options, out loaded);
 
         /// <summary>Saves a file with this element as its root.</summary>
-        public void Save(string path) => Saved(Native.marshal(Pointer, Library.Narrow(path)), path);
+        public void Save(string path) => TrySave(path).DemandSaved();
+
+        /// <summary>The same without throwing for what is wrong.</summary>
+        public LoadReport TrySave(string path) => SaveElement(path);
     }
 
     /// <summary>A colour in Adobe RGB (1998), as fractions of full drive.</summary>
@@ -564,13 +578,20 @@ namespace Vyr
 
         /// <inheritdoc/>
         public new ColorSpaceAdobeRGB Clone() => (ColorSpaceAdobeRGB)Copy();
-        internal override VyrObject Copy() => Kept(new ColorSpaceAdobeRGB(Native.Make(Pointer)));
+        internal override VyrObject Copy() => Copied(new ColorSpaceAdobeRGB(Native.Make(Pointer)));
 
         /// <summary>Loads a file that has the element ColorSpaceAdobeRGB as its root.</summary>
-        public static ColorSpaceAdobeRGB Load(string path) { var made = new ColorSpaceAdobeRGB(); made.Loaded(Native.unmarshal(made.Pointer, Library.Narrow(path)), path); return made; }
+        public static ColorSpaceAdobeRGB Load(string path) { TryLoad(path, out ColorSpaceAdobeRGB loaded).DemandLoaded(path); return loaded; }
+
+        /// <summary>The same without throwing for what is wrong with the file; null then, unless the options ask for
+        /// what was read.</summary>
+        public static LoadReport TryLoad(string path, out ColorSpaceAdobeRGB loaded, LoadOptions options = null) => Load(new ColorSpaceAdobeRGB(), path, options, out loaded);
 
         /// <summary>Saves a file with this element as its root.</summary>
-        public void Save(string path) => Saved(Native.marshal(Pointer, Library.Narrow(path)), path);
+        public void Save(string path) => TrySave(path).DemandSaved();
+
+        /// <summary>The same without throwing for what is wrong.</summary>
+        public LoadReport TrySave(string path) => SaveElement(path);
     }
 
     /// <summary>A process colour with further named ink channels.</summary>
@@ -583,13 +604,20 @@ namespace Vyr
 
         /// <inheritdoc/>
         public new ColorSpaceCMYKPlusN Clone() => (ColorSpaceCMYKPlusN)Copy();
-        internal override VyrObject Copy() => Kept(new ColorSpaceCMYKPlusN(Native.Make(Pointer)));
+        internal override VyrObject Copy() => Copied(new ColorSpaceCMYKPlusN(Native.Make(Pointer)));
 
         /// <summary>Loads a file that has the element ColorSpaceCMYKPlusN as its root.</summary>
-        public static ColorSpaceCMYKPlusN Load(string path) { var made = new ColorSpaceCMYKPlusN(); made.Loaded(Native.unmarshal(made.Pointer, Library.Narrow(path)), path); return made; }
+        public static ColorSpaceCMYKPlusN Load(string path) { TryLoad(path, out ColorSpaceCMYKPlusN loaded).DemandLoaded(path); return loaded; }
+
+        /// <summary>The same without throwing for what is wrong with the file; null then, unless the options ask for
+        /// what was read.</summary>
+        public static LoadReport TryLoad(string path, out ColorSpaceCMYKPlusN loaded, LoadOptions options = null) => Load(new ColorSpaceCMYKPlusN(), path, options, out loaded);
 
         /// <summary>Saves a file with this element as its root.</summary>
-        public void Save(string path) => Saved(Native.marshal(Pointer, Library.Narrow(path)), path);
+        public void Save(string path) => TrySave(path).DemandSaved();
+
+        /// <summary>The same without throwing for what is wrong.</summary>
+        public LoadReport TrySave(string path) => SaveElement(path);
     }
 
     /// <summary>A colour in Adobe Wide Gamut RGB, as fractions of full drive.</summary>
@@ -602,13 +630,20 @@ namespace Vyr
 
         /// <inheritdoc/>
         public new ColorSpaceAdobeWideGamutRGB Clone() => (ColorSpaceAdobeWideGamutRGB)Copy();
-        internal override VyrObject Copy() => Kept(new ColorSpaceAdobeWideGamutRGB(Native.Make(Pointer)));
+        internal override VyrObject Copy() => Copied(new ColorSpaceAdobeWideGamutRGB(Native.Make(Pointer)));
 
         /// <summary>Loads a file that has the element ColorSpaceAdobeWideGamutRGB as its root.</summary>
-        public static ColorSpaceAdobeWideGamutRGB Load(string path) { var made = new ColorSpaceAdobeWideGamutRGB(); made.Loaded(Native.unmarshal(made.Pointer, Library.Narrow(path)), path); return made; }
+        public static ColorSpaceAdobeWideGamutRGB Load(string path) { TryLoad(path, out ColorSpaceAdobeWideGamutRGB loaded).DemandLoaded(path); return loaded; }
+
+        /// <summary>The same without throwing for what is wrong with the file; null then, unless the options ask for
+        /// what was read.</summary>
+        public static LoadReport TryLoad(string path, out ColorSpaceAdobeWideGamutRGB loaded, LoadOptions options = null) => Load(new ColorSpaceAdobeWideGamutRGB(), path, options, out loaded);
 
         /// <summary>Saves a file with this element as its root.</summary>
-        public void Save(string path) => Saved(Native.marshal(Pointer, Library.Narrow(path)), path);
+        public void Save(string path) => TrySave(path).DemandSaved();
+
+        /// <summary>The same without throwing for what is wrong.</summary>
+        public LoadReport TrySave(string path) => SaveElement(path);
     }
 
     /// <summary>A colour by hue, saturation and lightness.</summary>
@@ -621,13 +656,20 @@ namespace Vyr
 
         /// <inheritdoc/>
         public new ColorSpaceHSL Clone() => (ColorSpaceHSL)Copy();
-        internal override VyrObject Copy() => Kept(new ColorSpaceHSL(Native.Make(Pointer)));
+        internal override VyrObject Copy() => Copied(new ColorSpaceHSL(Native.Make(Pointer)));
 
         /// <summary>Loads a file that has the element ColorSpaceHSL as its root.</summary>
-        public static ColorSpaceHSL Load(string path) { var made = new ColorSpaceHSL(); made.Loaded(Native.unmarshal(made.Pointer, Library.Narrow(path)), path); return made; }
+        public static ColorSpaceHSL Load(string path) { TryLoad(path, out ColorSpaceHSL loaded).DemandLoaded(path); return loaded; }
+
+        /// <summary>The same without throwing for what is wrong with the file; null then, unless the options ask for
+        /// what was read.</summary>
+        public static LoadReport TryLoad(string path, out ColorSpaceHSL loaded, LoadOptions options = null) => Load(new ColorSpaceHSL(), path, options, out loaded);
 
         /// <summary>Saves a file with this element as its root.</summary>
-        public void Save(string path) => Saved(Native.marshal(Pointer, Library.Narrow(path)), path);
+        public void Save(string path) => TrySave(path).DemandSaved();
+
+        /// <summary>The same without throwing for what is wrong.</summary>
+        public LoadReport TrySave(string path) => SaveElement(path);
     }
 
     /// <summary>A colour by hue, saturation and value.</summary>
@@ -640,13 +682,20 @@ namespace Vyr
 
         /// <inheritdoc/>
         public new ColorSpaceHSV Clone() => (ColorSpaceHSV)Copy();
-        internal override VyrObject Copy() => Kept(new ColorSpaceHSV(Native.Make(Pointer)));
+        internal override VyrObject Copy() => Copied(new ColorSpaceHSV(Native.Make(Pointer)));
 
         /// <summary>Loads a file that has the element ColorSpaceHSV as its root.</summary>
-        public static ColorSpaceHSV Load(string path) { var made = new ColorSpaceHSV(); made.Loaded(Native.unmarshal(made.Pointer, Library.Narrow(path)), path); return made; }
+        public static ColorSpaceHSV Load(string path) { TryLoad(path, out ColorSpaceHSV loaded).DemandLoaded(path); return loaded; }
+
+        /// <summary>The same without throwing for what is wrong with the file; null then, unless the options ask for
+        /// what was read.</summary>
+        public static LoadReport TryLoad(string path, out ColorSpaceHSV loaded, LoadOptions options = null) => Load(new ColorSpaceHSV(), path, options, out loaded);
 
         /// <summary>Saves a file with this element as its root.</summary>
-        public void Save(string path) => Saved(Native.marshal(Pointer, Library.Narrow(path)), path);
+        public void Save(string path) => TrySave(path).DemandSaved();
+
+        /// <summary>The same without throwing for what is wrong.</summary>
+        public LoadReport TrySave(string path) => SaveElement(path);
     }
 
     /// <summary>A process colour as percentages of cyan, magenta, yellow and black, with spot inks if need
@@ -660,13 +709,20 @@ namespace Vyr
 
         /// <inheritdoc/>
         public new ColorSpaceCMYK Clone() => (ColorSpaceCMYK)Copy();
-        internal override VyrObject Copy() => Kept(new ColorSpaceCMYK(Native.Make(Pointer)));
+        internal override VyrObject Copy() => Copied(new ColorSpaceCMYK(Native.Make(Pointer)));
 
         /// <summary>Loads a file that has the element ColorSpaceCMYK as its root.</summary>
-        public static ColorSpaceCMYK Load(string path) { var made = new ColorSpaceCMYK(); made.Loaded(Native.unmarshal(made.Pointer, Library.Narrow(path)), path); return made; }
+        public static ColorSpaceCMYK Load(string path) { TryLoad(path, out ColorSpaceCMYK loaded).DemandLoaded(path); return loaded; }
+
+        /// <summary>The same without throwing for what is wrong with the file; null then, unless the options ask for
+        /// what was read.</summary>
+        public static LoadReport TryLoad(string path, out ColorSpaceCMYK loaded, LoadOptions options = null) => Load(new ColorSpaceCMYK(), path, options, out loaded);
 
         /// <summary>Saves a file with this element as its root.</summary>
-        public void Save(string path) => Saved(Native.marshal(Pointer, Library.Narrow(path)), path);
+        public void Save(string path) => TrySave(path).DemandSaved();
+
+        /// <summary>The same without throwing for what is wrong.</summary>
+        public LoadReport TrySave(string path) => SaveElement(path);
     }
 
     /// <summary>A process colour of six inks: cyan, magenta, yellow, black, orange and green.</summary>
@@ -679,13 +735,20 @@ namespace Vyr
 
         /// <inheritdoc/>
         public new ColorSpaceTINTORAOctavantic Clone() => (ColorSpaceTINTORAOctavantic)Copy();
-        internal override VyrObject Copy() => Kept(new ColorSpaceTINTORAOctavantic(Native.Make(Pointer)));
+        internal override VyrObject Copy() => Copied(new ColorSpaceTINTORAOctavantic(Native.Make(Pointer)));
 
         /// <summary>Loads a file that has the element ColorSpaceTINTORAOctavantic as its root.</summary>
-        public static ColorSpaceTINTORAOctavantic Load(string path) { var made = new ColorSpaceTINTORAOctavantic(); made.Loaded(Native.unmarshal(made.Pointer, Library.Narrow(path)), path); return made; }
+        public static ColorSpaceTINTORAOctavantic Load(string path) { TryLoad(path, out ColorSpaceTINTORAOctavantic loaded).DemandLoaded(path); return loaded; }
+
+        /// <summary>The same without throwing for what is wrong with the file; null then, unless the options ask for
+        /// what was read.</summary>
+        public static LoadReport TryLoad(string path, out ColorSpaceTINTORAOctavantic loaded, LoadOptions options = null) => Load(new ColorSpaceTINTORAOctavantic(), path, options, out loaded);
 
         /// <summary>Saves a file with this element as its root.</summary>
-        public void Save(string path) => Saved(Native.marshal(Pointer, Library.Narrow(path)), path);
+        public void Save(string path) => TrySave(path).DemandSaved();
+
+        /// <summary>The same without throwing for what is wrong.</summary>
+        public LoadReport TrySave(string path) => SaveElement(path);
     }
 
     /// <summary>A video colour by luma and the two colour differences of PAL.</summary>
@@ -698,13 +761,20 @@ namespace Vyr
 
         /// <inheritdoc/>
         public new ColorSpaceYUV Clone() => (ColorSpaceYUV)Copy();
-        internal override VyrObject Copy() => Kept(new ColorSpaceYUV(Native.Make(Pointer)));
+        internal override VyrObject Copy() => Copied(new ColorSpaceYUV(Native.Make(Pointer)));
 
         /// <summary>Loads a file that has the element ColorSpaceYUV as its root.</summary>
-        public static ColorSpaceYUV Load(string path) { var made = new ColorSpaceYUV(); made.Loaded(Native.unmarshal(made.Pointer, Library.Narrow(path)), path); return made; }
+        public static ColorSpaceYUV Load(string path) { TryLoad(path, out ColorSpaceYUV loaded).DemandLoaded(path); return loaded; }
+
+        /// <summary>The same without throwing for what is wrong with the file; null then, unless the options ask for
+        /// what was read.</summary>
+        public static LoadReport TryLoad(string path, out ColorSpaceYUV loaded, LoadOptions options = null) => Load(new ColorSpaceYUV(), path, options, out loaded);
 
         /// <summary>Saves a file with this element as its root.</summary>
-        public void Save(string path) => Saved(Native.marshal(Pointer, Library.Narrow(path)), path);
+        public void Save(string path) => TrySave(path).DemandSaved();
+
+        /// <summary>The same without throwing for what is wrong.</summary>
+        public LoadReport TrySave(string path) => SaveElement(path);
     }
 
     /// <summary>A video colour by luma, in-phase and quadrature signal, as in NTSC.</summary>
@@ -717,13 +787,20 @@ namespace Vyr
 
         /// <inheritdoc/>
         public new ColorSpaceYIQ Clone() => (ColorSpaceYIQ)Copy();
-        internal override VyrObject Copy() => Kept(new ColorSpaceYIQ(Native.Make(Pointer)));
+        internal override VyrObject Copy() => Copied(new ColorSpaceYIQ(Native.Make(Pointer)));
 
         /// <summary>Loads a file that has the element ColorSpaceYIQ as its root.</summary>
-        public static ColorSpaceYIQ Load(string path) { var made = new ColorSpaceYIQ(); made.Loaded(Native.unmarshal(made.Pointer, Library.Narrow(path)), path); return made; }
+        public static ColorSpaceYIQ Load(string path) { TryLoad(path, out ColorSpaceYIQ loaded).DemandLoaded(path); return loaded; }
+
+        /// <summary>The same without throwing for what is wrong with the file; null then, unless the options ask for
+        /// what was read.</summary>
+        public static LoadReport TryLoad(string path, out ColorSpaceYIQ loaded, LoadOptions options = null) => Load(new ColorSpaceYIQ(), path, options, out loaded);
 
         /// <summary>Saves a file with this element as its root.</summary>
-        public void Save(string path) => Saved(Native.marshal(Pointer, Library.Narrow(path)), path);
+        public void Save(string path) => TrySave(path).DemandSaved();
+
+        /// <summary>The same without throwing for what is wrong.</summary>
+        public LoadReport TrySave(string path) => SaveElement(path);
     }
 
     /// <summary>A video colour by luma and the blue and red differences, all scaled to 0 to 1.</summary>
@@ -736,13 +813,20 @@ namespace Vyr
 
         /// <inheritdoc/>
         public new ColorSpaceYBR Clone() => (ColorSpaceYBR)Copy();
-        internal override VyrObject Copy() => Kept(new ColorSpaceYBR(Native.Make(Pointer)));
+        internal override VyrObject Copy() => Copied(new ColorSpaceYBR(Native.Make(Pointer)));
 
         /// <summary>Loads a file that has the element ColorSpaceYBR as its root.</summary>
-        public static ColorSpaceYBR Load(string path) { var made = new ColorSpaceYBR(); made.Loaded(Native.unmarshal(made.Pointer, Library.Narrow(path)), path); return made; }
+        public static ColorSpaceYBR Load(string path) { TryLoad(path, out ColorSpaceYBR loaded).DemandLoaded(path); return loaded; }
+
+        /// <summary>The same without throwing for what is wrong with the file; null then, unless the options ask for
+        /// what was read.</summary>
+        public static LoadReport TryLoad(string path, out ColorSpaceYBR loaded, LoadOptions options = null) => Load(new ColorSpaceYBR(), path, options, out loaded);
 
         /// <summary>Saves a file with this element as its root.</summary>
-        public void Save(string path) => Saved(Native.marshal(Pointer, Library.Narrow(path)), path);
+        public void Save(string path) => TrySave(path).DemandSaved();
+
+        /// <summary>The same without throwing for what is wrong.</summary>
+        public LoadReport TrySave(string path) => SaveElement(path);
     }
 
     /// <summary>A spot ink and how much of it is printed.</summary>
@@ -755,7 +839,7 @@ namespace Vyr
 
         /// <inheritdoc/>
         public new SpotColorType Clone() => (SpotColorType)Copy();
-        internal override VyrObject Copy() => Kept(new SpotColorType(Native.Make(Pointer)));
+        internal override VyrObject Copy() => Copied(new SpotColorType(Native.Make(Pointer)));
 
         /// <inheritdoc/>
         public override bool IsComplete => Is(Native.is_occurs_ok(Pointer));

@@ -17,7 +17,7 @@ namespace Vyr
 
         /// <inheritdoc/>
         public new CalibrationStateType Clone() => (CalibrationStateType)Copy();
-        internal override VyrObject Copy() => Kept(new CalibrationStateType(Native.Make(Pointer)));
+        internal override VyrObject Copy() => Copied(new CalibrationStateType(Native.Make(Pointer)));
 
         /// <inheritdoc/>
         public override bool IsComplete => Is(Native.is_occurs_ok(Pointer));
@@ -46,7 +46,7 @@ namespace Vyr
 
         /// <inheritdoc/>
         public new GlossCompensation Clone() => (GlossCompensation)Copy();
-        internal override VyrObject Copy() => Kept(new GlossCompensation(Native.Make(Pointer)));
+        internal override VyrObject Copy() => Copied(new GlossCompensation(Native.Make(Pointer)));
 
         /// <inheritdoc/>
         public override bool IsComplete => Is(Native.is_occurs_ok(Pointer));
@@ -71,7 +71,7 @@ namespace Vyr
 
         /// <inheritdoc/>
         public new Averaging Clone() => (Averaging)Copy();
-        internal override VyrObject Copy() => Kept(new Averaging(Native.Make(Pointer)));
+        internal override VyrObject Copy() => Copied(new Averaging(Native.Make(Pointer)));
 
         /// <inheritdoc/>
         public override bool IsComplete => Is(Native.is_occurs_ok(Pointer));
@@ -96,7 +96,7 @@ namespace Vyr
 
         /// <inheritdoc/>
         public new DeviceSettings Clone() => (DeviceSettings)Copy();
-        internal override VyrObject Copy() => Kept(new DeviceSettings(Native.Make(Pointer)));
+        internal override VyrObject Copy() => Copied(new DeviceSettings(Native.Make(Pointer)));
 
         /// <inheritdoc/>
         public override bool IsComplete => Is(Native.is_occurs_ok(Pointer));
@@ -143,7 +143,7 @@ namespace Vyr
 
         /// <inheritdoc/>
         public new DeviceType Clone() => (DeviceType)Copy();
-        internal override VyrObject Copy() => Kept(new DeviceType(Native.Make(Pointer)));
+        internal override VyrObject Copy() => Copied(new DeviceType(Native.Make(Pointer)));
 
         /// <inheritdoc/>
         public override bool IsComplete => Is(Native.is_occurs_ok(Pointer));
@@ -195,7 +195,7 @@ namespace Vyr
 
         /// <inheritdoc/>
         public new ProfileChoice Clone() => (ProfileChoice)Copy();
-        internal override VyrObject Copy() => Kept(new ProfileChoice(Native.Make(Pointer)));
+        internal override VyrObject Copy() => Copied(new ProfileChoice(Native.Make(Pointer)));
 
         /// <inheritdoc/>
         public override bool IsComplete => Is(Native.is_occurs_ok(Pointer));
@@ -243,7 +243,7 @@ namespace Vyr
 
         /// <inheritdoc/>
         public new ProfileType Clone() => (ProfileType)Copy();
-        internal override VyrObject Copy() => Kept(new ProfileType(Native.Make(Pointer)));
+        internal override VyrObject Copy() => Copied(new ProfileType(Native.Make(Pointer)));
 
         /// <inheritdoc/>
         public override bool IsComplete => Is(Native.is_occurs_ok(Pointer));
@@ -281,7 +281,7 @@ namespace Vyr
 
         /// <inheritdoc/>
         public new ProfileFile Clone() => (ProfileFile)Copy();
-        internal override VyrObject Copy() => Kept(new ProfileFile(Native.Make(Pointer)));
+        internal override VyrObject Copy() => Copied(new ProfileFile(Native.Make(Pointer)));
 
         /// <inheritdoc/>
         public override bool IsComplete => Is(Native.is_occurs_ok(Pointer));
@@ -306,7 +306,7 @@ namespace Vyr
 
         /// <inheritdoc/>
         public new ProfileType_Parameters_ValueChoice Clone() => (ProfileType_Parameters_ValueChoice)Copy();
-        internal override VyrObject Copy() => Kept(new ProfileType_Parameters_ValueChoice(Native.Make(Pointer)));
+        internal override VyrObject Copy() => Copied(new ProfileType_Parameters_ValueChoice(Native.Make(Pointer)));
 
         /// <inheritdoc/>
         public override bool IsComplete => Is(Native.is_occurs_ok(Pointer));
@@ -359,7 +359,7 @@ namespace Vyr
 
         /// <inheritdoc/>
         public new ProfileType_Parameters Clone() => (ProfileType_Parameters)Copy();
-        internal override VyrObject Copy() => Kept(new ProfileType_Parameters(Native.Make(Pointer)));
+        internal override VyrObject Copy() => Copied(new ProfileType_Parameters(Native.Make(Pointer)));
 
         /// <inheritdoc/>
         public override bool IsComplete => Is(Native.is_occurs_ok(Pointer));

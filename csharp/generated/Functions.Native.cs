@@ -43,8 +43,6 @@ namespace Vyr
     {
         static class Native
         {
-            [DllImport(Library.Name, EntryPoint = "CSharp_Function_unmarshal__SWIG_0")] internal static extern int unmarshal(IntPtr self, byte[] path);
-            [DllImport(Library.Name, EntryPoint = "CSharp_Function_marshal__SWIG_0")] internal static extern int marshal(IntPtr self, byte[] path);
             [DllImport(Library.Name, EntryPoint = "CSharp_new_Function__SWIG_0")] internal static extern IntPtr New();
             [DllImport(Library.Name, EntryPoint = "CSharp_delete_Function")] internal static extern void Delete(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_new_Function__SWIG_1")] internal static extern IntPtr Copy(IntPtr source);
@@ -214,8 +212,6 @@ namespace Vyr
     {
         static class Native
         {
-            [DllImport(Library.Name, EntryPoint = "CSharp_FunctionGeneric_unmarshal__SWIG_0")] internal static extern int unmarshal(IntPtr self, byte[] path);
-            [DllImport(Library.Name, EntryPoint = "CSharp_FunctionGeneric_marshal__SWIG_0")] internal static extern int marshal(IntPtr self, byte[] path);
             [DllImport(Library.Name, EntryPoint = "CSharp_new_FunctionGeneric__SWIG_0")] internal static extern IntPtr New();
             [DllImport(Library.Name, EntryPoint = "CSharp_delete_FunctionGeneric")] internal static extern void Delete(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_new_FunctionGeneric__SWIG_1")] internal static extern IntPtr Copy(IntPtr source);
@@ -228,8 +224,6 @@ namespace Vyr
     {
         static class Native
         {
-            [DllImport(Library.Name, EntryPoint = "CSharp_FunctionDE_unmarshal__SWIG_0")] internal static extern int unmarshal(IntPtr self, byte[] path);
-            [DllImport(Library.Name, EntryPoint = "CSharp_FunctionDE_marshal__SWIG_0")] internal static extern int marshal(IntPtr self, byte[] path);
             [DllImport(Library.Name, EntryPoint = "CSharp_new_FunctionDE__SWIG_0")] internal static extern IntPtr New();
             [DllImport(Library.Name, EntryPoint = "CSharp_delete_FunctionDE")] internal static extern void Delete(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_new_FunctionDE__SWIG_1")] internal static extern IntPtr Copy(IntPtr source);
@@ -242,8 +236,6 @@ namespace Vyr
     {
         static class Native
         {
-            [DllImport(Library.Name, EntryPoint = "CSharp_FunctionMeanDE_unmarshal__SWIG_0")] internal static extern int unmarshal(IntPtr self, byte[] path);
-            [DllImport(Library.Name, EntryPoint = "CSharp_FunctionMeanDE_marshal__SWIG_0")] internal static extern int marshal(IntPtr self, byte[] path);
             [DllImport(Library.Name, EntryPoint = "CSharp_new_FunctionMeanDE__SWIG_0")] internal static extern IntPtr New();
             [DllImport(Library.Name, EntryPoint = "CSharp_delete_FunctionMeanDE")] internal static extern void Delete(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_new_FunctionMeanDE__SWIG_1")] internal static extern IntPtr Copy(IntPtr source);
@@ -256,8 +248,6 @@ namespace Vyr
     {
         static class Native
         {
-            [DllImport(Library.Name, EntryPoint = "CSharp_FunctionDE94_unmarshal__SWIG_0")] internal static extern int unmarshal(IntPtr self, byte[] path);
-            [DllImport(Library.Name, EntryPoint = "CSharp_FunctionDE94_marshal__SWIG_0")] internal static extern int marshal(IntPtr self, byte[] path);
             [DllImport(Library.Name, EntryPoint = "CSharp_new_FunctionDE94__SWIG_0")] internal static extern IntPtr New();
             [DllImport(Library.Name, EntryPoint = "CSharp_delete_FunctionDE94")] internal static extern void Delete(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_new_FunctionDE94__SWIG_1")] internal static extern IntPtr Copy(IntPtr source);
@@ -270,8 +260,6 @@ namespace Vyr
     {
         static class Native
         {
-            [DllImport(Library.Name, EntryPoint = "CSharp_FunctionDE2000_unmarshal__SWIG_0")] internal static extern int unmarshal(IntPtr self, byte[] path);
-            [DllImport(Library.Name, EntryPoint = "CSharp_FunctionDE2000_marshal__SWIG_0")] internal static extern int marshal(IntPtr self, byte[] path);
             [DllImport(Library.Name, EntryPoint = "CSharp_new_FunctionDE2000__SWIG_0")] internal static extern IntPtr New();
             [DllImport(Library.Name, EntryPoint = "CSharp_delete_FunctionDE2000")] internal static extern void Delete(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_new_FunctionDE2000__SWIG_1")] internal static extern IntPtr Copy(IntPtr source);
@@ -284,8 +272,6 @@ namespace Vyr
     {
         static class Native
         {
-            [DllImport(Library.Name, EntryPoint = "CSharp_FunctionDECMC_unmarshal__SWIG_0")] internal static extern int unmarshal(IntPtr self, byte[] path);
-            [DllImport(Library.Name, EntryPoint = "CSharp_FunctionDECMC_marshal__SWIG_0")] internal static extern int marshal(IntPtr self, byte[] path);
             [DllImport(Library.Name, EntryPoint = "CSharp_new_FunctionDECMC__SWIG_0")] internal static extern IntPtr New();
             [DllImport(Library.Name, EntryPoint = "CSharp_delete_FunctionDECMC")] internal static extern void Delete(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_new_FunctionDECMC__SWIG_1")] internal static extern IntPtr Copy(IntPtr source);

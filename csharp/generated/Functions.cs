@@ -15,7 +15,7 @@ namespace Vyr
 
         /// <inheritdoc/>
         public new FunctionType Clone() => (FunctionType)Copy();
-        internal override VyrObject Copy() => Kept(new FunctionType(Native.Make(Pointer)));
+        internal override VyrObject Copy() => Copied(new FunctionType(Native.Make(Pointer)));
 
         /// <inheritdoc/>
         public override bool IsComplete => Is(Native.is_occurs_ok(Pointer));
@@ -66,13 +66,20 @@ namespace Vyr
 
         /// <inheritdoc/>
         public new Function Clone() => (Function)Copy();
-        internal override VyrObject Copy() => Kept(new Function(Native.Make(Pointer)));
+        internal override VyrObject Copy() => Copied(new Function(Native.Make(Pointer)));
 
         /// <summary>Loads a file that has the element Function as its root.</summary>
-        public static Function Load(string path) { var made = new Function(); made.Loaded(Native.unmarshal(made.Pointer, Library.Narrow(path)), path); return made; }
+        public static Function Load(string path) { TryLoad(path, out Function loaded).DemandLoaded(path); return loaded; }
+
+        /// <summary>The same without throwing for what is wrong with the file; null then, unless the options ask for
+        /// what was read.</summary>
+        public static LoadReport TryLoad(string path, out Function loaded, LoadOptions options = null) => Load(new Function(), path, options, out loaded);
 
         /// <summary>Saves a file with this element as its root.</summary>
-        public void Save(string path) => Saved(Native.marshal(Pointer, Library.Narrow(path)), path);
+        public void Save(string path) => TrySave(path).DemandSaved();
+
+        /// <summary>The same without throwing for what is wrong.</summary>
+        public LoadReport TrySave(string path) => SaveElement(path);
     }
 
     /// <summary>A function that the format doesn't know, by name and parameters.</summary>
@@ -85,7 +92,7 @@ namespace Vyr
 
         /// <inheritdoc/>
         public new FunctionGenericType Clone() => (FunctionGenericType)Copy();
-        internal override VyrObject Copy() => Kept(new FunctionGenericType(Native.Make(Pointer)));
+        internal override VyrObject Copy() => Copied(new FunctionGenericType(Native.Make(Pointer)));
 
         /// <inheritdoc/>
         public override bool IsComplete => Is(Native.is_occurs_ok(Pointer));
@@ -110,7 +117,7 @@ namespace Vyr
 
         /// <inheritdoc/>
         public new ValueChoice Clone() => (ValueChoice)Copy();
-        internal override VyrObject Copy() => Kept(new ValueChoice(Native.Make(Pointer)));
+        internal override VyrObject Copy() => Copied(new ValueChoice(Native.Make(Pointer)));
 
         /// <inheritdoc/>
         public override bool IsComplete => Is(Native.is_occurs_ok(Pointer));
@@ -155,7 +162,7 @@ namespace Vyr
 
         /// <inheritdoc/>
         public new Parameters Clone() => (Parameters)Copy();
-        internal override VyrObject Copy() => Kept(new Parameters(Native.Make(Pointer)));
+        internal override VyrObject Copy() => Copied(new Parameters(Native.Make(Pointer)));
 
         /// <inheritdoc/>
         public override bool IsComplete => Is(Native.is_occurs_ok(Pointer));
@@ -183,7 +190,7 @@ namespace Vyr
 
         /// <inheritdoc/>
         public new FunctionDEType Clone() => (FunctionDEType)Copy();
-        internal override VyrObject Copy() => Kept(new FunctionDEType(Native.Make(Pointer)));
+        internal override VyrObject Copy() => Copied(new FunctionDEType(Native.Make(Pointer)));
 
         /// <inheritdoc/>
         public override bool IsComplete => Is(Native.is_occurs_ok(Pointer));
@@ -202,7 +209,7 @@ namespace Vyr
 
         /// <inheritdoc/>
         public new FunctionMeanDEType Clone() => (FunctionMeanDEType)Copy();
-        internal override VyrObject Copy() => Kept(new FunctionMeanDEType(Native.Make(Pointer)));
+        internal override VyrObject Copy() => Copied(new FunctionMeanDEType(Native.Make(Pointer)));
 
         /// <inheritdoc/>
         public override bool IsComplete => Is(Native.is_occurs_ok(Pointer));
@@ -221,7 +228,7 @@ namespace Vyr
 
         /// <inheritdoc/>
         public new FunctionDE94Type Clone() => (FunctionDE94Type)Copy();
-        internal override VyrObject Copy() => Kept(new FunctionDE94Type(Native.Make(Pointer)));
+        internal override VyrObject Copy() => Copied(new FunctionDE94Type(Native.Make(Pointer)));
 
         /// <inheritdoc/>
         public override bool IsComplete => Is(Native.is_occurs_ok(Pointer));
@@ -251,7 +258,7 @@ namespace Vyr
 
         /// <inheritdoc/>
         public new FunctionDE2000Type Clone() => (FunctionDE2000Type)Copy();
-        internal override VyrObject Copy() => Kept(new FunctionDE2000Type(Native.Make(Pointer)));
+        internal override VyrObject Copy() => Copied(new FunctionDE2000Type(Native.Make(Pointer)));
 
         /// <inheritdoc/>
         public override bool IsComplete => Is(Native.is_occurs_ok(Pointer));
@@ -281,7 +288,7 @@ namespace Vyr
 
         /// <inheritdoc/>
         public new FunctionDEcmcType Clone() => (FunctionDEcmcType)Copy();
-        internal override VyrObject Copy() => Kept(new FunctionDEcmcType(Native.Make(Pointer)));
+        internal override VyrObject Copy() => Copied(new FunctionDEcmcType(Native.Make(Pointer)));
 
         /// <inheritdoc/>
         public override bool IsComplete => Is(Native.is_occurs_ok(Pointer));
@@ -308,13 +315,20 @@ namespace Vyr
 
         /// <inheritdoc/>
         public new FunctionGeneric Clone() => (FunctionGeneric)Copy();
-        internal override VyrObject Copy() => Kept(new FunctionGeneric(Native.Make(Pointer)));
+        internal override VyrObject Copy() => Copied(new FunctionGeneric(Native.Make(Pointer)));
 
         /// <summary>Loads a file that has the element FunctionGeneric as its root.</summary>
-        public static FunctionGeneric Load(string path) { var made = new FunctionGeneric(); made.Loaded(Native.unmarshal(made.Pointer, Library.Narrow(path)), path); return made; }
+        public static FunctionGeneric Load(string path) { TryLoad(path, out FunctionGeneric loaded).DemandLoaded(path); return loaded; }
+
+        /// <summary>The same without throwing for what is wrong with the file; null then, unless the options ask for
+        /// what was read.</summary>
+        public static LoadReport TryLoad(string path, out FunctionGeneric loaded, LoadOptions options = null) => Load(new FunctionGeneric(), path, options, out loaded);
 
         /// <summary>Saves a file with this element as its root.</summary>
-        public void Save(string path) => Saved(Native.marshal(Pointer, Library.Narrow(path)), path);
+        public void Save(string path) => TrySave(path).DemandSaved();
+
+        /// <summary>The same without throwing for what is wrong.</summary>
+        public LoadReport TrySave(string path) => SaveElement(path);
     }
 
     /// <summary>CIE 1976 colour difference, the distance in L*a*b*.</summary>
@@ -327,13 +341,20 @@ namespace Vyr
 
         /// <inheritdoc/>
         public new FunctionDE Clone() => (FunctionDE)Copy();
-        internal override VyrObject Copy() => Kept(new FunctionDE(Native.Make(Pointer)));
+        internal override VyrObject Copy() => Copied(new FunctionDE(Native.Make(Pointer)));
 
         /// <summary>Loads a file that has the element FunctionDE as its root.</summary>
-        public static FunctionDE Load(string path) { var made = new FunctionDE(); made.Loaded(Native.unmarshal(made.Pointer, Library.Narrow(path)), path); return made; }
+        public static FunctionDE Load(string path) { TryLoad(path, out FunctionDE loaded).DemandLoaded(path); return loaded; }
+
+        /// <summary>The same without throwing for what is wrong with the file; null then, unless the options ask for
+        /// what was read.</summary>
+        public static LoadReport TryLoad(string path, out FunctionDE loaded, LoadOptions options = null) => Load(new FunctionDE(), path, options, out loaded);
 
         /// <summary>Saves a file with this element as its root.</summary>
-        public void Save(string path) => Saved(Native.marshal(Pointer, Library.Narrow(path)), path);
+        public void Save(string path) => TrySave(path).DemandSaved();
+
+        /// <summary>The same without throwing for what is wrong.</summary>
+        public LoadReport TrySave(string path) => SaveElement(path);
     }
 
     /// <summary>Mean of CIE 1976 colour differences.</summary>
@@ -346,13 +367,20 @@ namespace Vyr
 
         /// <inheritdoc/>
         public new FunctionMeanDE Clone() => (FunctionMeanDE)Copy();
-        internal override VyrObject Copy() => Kept(new FunctionMeanDE(Native.Make(Pointer)));
+        internal override VyrObject Copy() => Copied(new FunctionMeanDE(Native.Make(Pointer)));
 
         /// <summary>Loads a file that has the element FunctionMeanDE as its root.</summary>
-        public static FunctionMeanDE Load(string path) { var made = new FunctionMeanDE(); made.Loaded(Native.unmarshal(made.Pointer, Library.Narrow(path)), path); return made; }
+        public static FunctionMeanDE Load(string path) { TryLoad(path, out FunctionMeanDE loaded).DemandLoaded(path); return loaded; }
+
+        /// <summary>The same without throwing for what is wrong with the file; null then, unless the options ask for
+        /// what was read.</summary>
+        public static LoadReport TryLoad(string path, out FunctionMeanDE loaded, LoadOptions options = null) => Load(new FunctionMeanDE(), path, options, out loaded);
 
         /// <summary>Saves a file with this element as its root.</summary>
-        public void Save(string path) => Saved(Native.marshal(Pointer, Library.Narrow(path)), path);
+        public void Save(string path) => TrySave(path).DemandSaved();
+
+        /// <summary>The same without throwing for what is wrong.</summary>
+        public LoadReport TrySave(string path) => SaveElement(path);
     }
 
     /// <summary>CIE 1994 colour difference.</summary>
@@ -365,13 +393,20 @@ namespace Vyr
 
         /// <inheritdoc/>
         public new FunctionDE94 Clone() => (FunctionDE94)Copy();
-        internal override VyrObject Copy() => Kept(new FunctionDE94(Native.Make(Pointer)));
+        internal override VyrObject Copy() => Copied(new FunctionDE94(Native.Make(Pointer)));
 
         /// <summary>Loads a file that has the element FunctionDE94 as its root.</summary>
-        public static FunctionDE94 Load(string path) { var made = new FunctionDE94(); made.Loaded(Native.unmarshal(made.Pointer, Library.Narrow(path)), path); return made; }
+        public static FunctionDE94 Load(string path) { TryLoad(path, out FunctionDE94 loaded).DemandLoaded(path); return loaded; }
+
+        /// <summary>The same without throwing for what is wrong with the file; null then, unless the options ask for
+        /// what was read.</summary>
+        public static LoadReport TryLoad(string path, out FunctionDE94 loaded, LoadOptions options = null) => Load(new FunctionDE94(), path, options, out loaded);
 
         /// <summary>Saves a file with this element as its root.</summary>
-        public void Save(string path) => Saved(Native.marshal(Pointer, Library.Narrow(path)), path);
+        public void Save(string path) => TrySave(path).DemandSaved();
+
+        /// <summary>The same without throwing for what is wrong.</summary>
+        public LoadReport TrySave(string path) => SaveElement(path);
     }
 
     /// <summary>CIEDE2000 colour difference.</summary>
@@ -384,13 +419,20 @@ namespace Vyr
 
         /// <inheritdoc/>
         public new FunctionDE2000 Clone() => (FunctionDE2000)Copy();
-        internal override VyrObject Copy() => Kept(new FunctionDE2000(Native.Make(Pointer)));
+        internal override VyrObject Copy() => Copied(new FunctionDE2000(Native.Make(Pointer)));
 
         /// <summary>Loads a file that has the element FunctionDE2000 as its root.</summary>
-        public static FunctionDE2000 Load(string path) { var made = new FunctionDE2000(); made.Loaded(Native.unmarshal(made.Pointer, Library.Narrow(path)), path); return made; }
+        public static FunctionDE2000 Load(string path) { TryLoad(path, out FunctionDE2000 loaded).DemandLoaded(path); return loaded; }
+
+        /// <summary>The same without throwing for what is wrong with the file; null then, unless the options ask for
+        /// what was read.</summary>
+        public static LoadReport TryLoad(string path, out FunctionDE2000 loaded, LoadOptions options = null) => Load(new FunctionDE2000(), path, options, out loaded);
 
         /// <summary>Saves a file with this element as its root.</summary>
-        public void Save(string path) => Saved(Native.marshal(Pointer, Library.Narrow(path)), path);
+        public void Save(string path) => TrySave(path).DemandSaved();
+
+        /// <summary>The same without throwing for what is wrong.</summary>
+        public LoadReport TrySave(string path) => SaveElement(path);
     }
 
     /// <summary>CMC l:c colour difference.</summary>
@@ -403,13 +445,20 @@ namespace Vyr
 
         /// <inheritdoc/>
         public new FunctionDECMC Clone() => (FunctionDECMC)Copy();
-        internal override VyrObject Copy() => Kept(new FunctionDECMC(Native.Make(Pointer)));
+        internal override VyrObject Copy() => Copied(new FunctionDECMC(Native.Make(Pointer)));
 
         /// <summary>Loads a file that has the element FunctionDECMC as its root.</summary>
-        public static FunctionDECMC Load(string path) { var made = new FunctionDECMC(); made.Loaded(Native.unmarshal(made.Pointer, Library.Narrow(path)), path); return made; }
+        public static FunctionDECMC Load(string path) { TryLoad(path, out FunctionDECMC loaded).DemandLoaded(path); return loaded; }
+
+        /// <summary>The same without throwing for what is wrong with the file; null then, unless the options ask for
+        /// what was read.</summary>
+        public static LoadReport TryLoad(string path, out FunctionDECMC loaded, LoadOptions options = null) => Load(new FunctionDECMC(), path, options, out loaded);
 
         /// <summary>Saves a file with this element as its root.</summary>
-        public void Save(string path) => Saved(Native.marshal(Pointer, Library.Narrow(path)), path);
+        public void Save(string path) => TrySave(path).DemandSaved();
+
+        /// <summary>The same without throwing for what is wrong.</summary>
+        public LoadReport TrySave(string path) => SaveElement(path);
     }
 
     /// <summary>A tolerance formula with limits for its parameters; reached through Function with xsi:type.</summary>
@@ -422,7 +471,7 @@ namespace Vyr
 
         /// <inheritdoc/>
         public new FunctionTolerance Clone() => (FunctionTolerance)Copy();
-        internal override VyrObject Copy() => Kept(new FunctionTolerance(Native.Make(Pointer)));
+        internal override VyrObject Copy() => Copied(new FunctionTolerance(Native.Make(Pointer)));
 
         /// <inheritdoc/>
         public override bool IsComplete => Is(Native.is_occurs_ok(Pointer));
@@ -447,7 +496,7 @@ namespace Vyr
 
         /// <inheritdoc/>
         public new ToleranceParameterType Clone() => (ToleranceParameterType)Copy();
-        internal override VyrObject Copy() => Kept(new ToleranceParameterType(Native.Make(Pointer)));
+        internal override VyrObject Copy() => Copied(new ToleranceParameterType(Native.Make(Pointer)));
 
         /// <inheritdoc/>
         public override bool IsComplete => Is(Native.is_occurs_ok(Pointer));

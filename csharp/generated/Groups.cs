@@ -17,7 +17,7 @@ namespace Vyr
 
         /// <inheritdoc/>
         public new ColorSpaceChoice Clone() => (ColorSpaceChoice)Copy();
-        internal override VyrObject Copy() => Kept(new ColorSpaceChoice(Native.Make(Pointer)));
+        internal override VyrObject Copy() => Copied(new ColorSpaceChoice(Native.Make(Pointer)));
 
         /// <inheritdoc/>
         public override bool IsComplete => Is(Native.is_occurs_ok(Pointer));
@@ -376,7 +376,7 @@ namespace Vyr
 
         /// <inheritdoc/>
         public new SubstrateChoice Clone() => (SubstrateChoice)Copy();
-        internal override VyrObject Copy() => Kept(new SubstrateChoice(Native.Make(Pointer)));
+        internal override VyrObject Copy() => Copied(new SubstrateChoice(Native.Make(Pointer)));
 
         /// <inheritdoc/>
         public override bool IsComplete => Is(Native.is_occurs_ok(Pointer));
@@ -504,7 +504,7 @@ namespace Vyr
 
         /// <inheritdoc/>
         public new SampleChoice Clone() => (SampleChoice)Copy();
-        internal override VyrObject Copy() => Kept(new SampleChoice(Native.Make(Pointer)));
+        internal override VyrObject Copy() => Copied(new SampleChoice(Native.Make(Pointer)));
 
         /// <inheritdoc/>
         public override bool IsComplete => Is(Native.is_occurs_ok(Pointer));
@@ -555,7 +555,7 @@ namespace Vyr
 
         /// <inheritdoc/>
         public new FunctionChoice Clone() => (FunctionChoice)Copy();
-        internal override VyrObject Copy() => Kept(new FunctionChoice(Native.Make(Pointer)));
+        internal override VyrObject Copy() => Copied(new FunctionChoice(Native.Make(Pointer)));
 
         /// <inheritdoc/>
         public override bool IsComplete => Is(Native.is_occurs_ok(Pointer));

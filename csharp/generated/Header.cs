@@ -17,7 +17,7 @@ namespace Vyr
 
         /// <inheritdoc/>
         public new SDKVersion Clone() => (SDKVersion)Copy();
-        internal override VyrObject Copy() => Kept(new SDKVersion(Native.Make(Pointer)));
+        internal override VyrObject Copy() => Copied(new SDKVersion(Native.Make(Pointer)));
 
         /// <inheritdoc/>
         public override bool IsComplete => Is(Native.is_occurs_ok(Pointer));
@@ -29,7 +29,7 @@ namespace Vyr
         public bool IsNil => Is(Native.isnil_SDKVersion(Pointer));
 
         /// <summary>Makes it an element that says that it has no value. `Reset` takes that back, and so does setting
-        /// a value of its own.</summary>
+        /// `Value`.</summary>
         public void SetNil() { Native.setnil_SDKVersion(Pointer); Keep(); }
 
         /// <summary>Version of the library, or nil where it is unknown.</summary>
@@ -46,7 +46,7 @@ namespace Vyr
 
         /// <inheritdoc/>
         public new SDKType Clone() => (SDKType)Copy();
-        internal override VyrObject Copy() => Kept(new SDKType(Native.Make(Pointer)));
+        internal override VyrObject Copy() => Copied(new SDKType(Native.Make(Pointer)));
 
         /// <inheritdoc/>
         public override bool IsComplete => Is(Native.is_occurs_ok(Pointer));
@@ -74,7 +74,7 @@ namespace Vyr
 
         /// <inheritdoc/>
         public new PlatformType Clone() => (PlatformType)Copy();
-        internal override VyrObject Copy() => Kept(new PlatformType(Native.Make(Pointer)));
+        internal override VyrObject Copy() => Copied(new PlatformType(Native.Make(Pointer)));
 
         /// <inheritdoc/>
         public override bool IsComplete => Is(Native.is_occurs_ok(Pointer));
@@ -99,7 +99,7 @@ namespace Vyr
 
         /// <inheritdoc/>
         public new Header Clone() => (Header)Copy();
-        internal override VyrObject Copy() => Kept(new Header(Native.Make(Pointer)));
+        internal override VyrObject Copy() => Copied(new Header(Native.Make(Pointer)));
 
         /// <inheritdoc/>
         public override bool IsComplete => Is(Native.is_occurs_ok(Pointer));
@@ -166,7 +166,7 @@ namespace Vyr
 
         /// <inheritdoc/>
         public new OwnerType Clone() => (OwnerType)Copy();
-        internal override VyrObject Copy() => Kept(new OwnerType(Native.Make(Pointer)));
+        internal override VyrObject Copy() => Copied(new OwnerType(Native.Make(Pointer)));
 
         /// <inheritdoc/>
         public override bool IsComplete => Is(Native.is_occurs_ok(Pointer));
@@ -197,7 +197,7 @@ namespace Vyr
 
         /// <inheritdoc/>
         public new Version Clone() => (Version)Copy();
-        internal override VyrObject Copy() => Kept(new Version(Native.Make(Pointer)));
+        internal override VyrObject Copy() => Copied(new Version(Native.Make(Pointer)));
 
         /// <inheritdoc/>
         public override bool IsComplete => Is(Native.is_occurs_ok(Pointer));
@@ -225,7 +225,7 @@ namespace Vyr
 
         /// <inheritdoc/>
         public new Preamble Clone() => (Preamble)Copy();
-        internal override VyrObject Copy() => Kept(new Preamble(Native.Make(Pointer)));
+        internal override VyrObject Copy() => Copied(new Preamble(Native.Make(Pointer)));
 
         /// <inheritdoc/>
         public override bool IsComplete => Is(Native.is_occurs_ok(Pointer));
@@ -263,7 +263,7 @@ namespace Vyr
 
         /// <inheritdoc/>
         public new Document Clone() => (Document)Copy();
-        internal override VyrObject Copy() => Kept(new Document(Native.Make(Pointer)));
+        internal override VyrObject Copy() => Copied(new Document(Native.Make(Pointer)));
 
         /// <inheritdoc/>
         public override bool IsComplete => Is(Native.is_occurs_ok(Pointer));
@@ -298,7 +298,7 @@ namespace Vyr
 
         /// <inheritdoc/>
         public new Revision Clone() => (Revision)Copy();
-        internal override VyrObject Copy() => Kept(new Revision(Native.Make(Pointer)));
+        internal override VyrObject Copy() => Copied(new Revision(Native.Make(Pointer)));
 
         /// <inheritdoc/>
         public override bool IsComplete => Is(Native.is_occurs_ok(Pointer));
@@ -320,7 +320,7 @@ namespace Vyr
 
         /// <inheritdoc/>
         public new Person Clone() => (Person)Copy();
-        internal override VyrObject Copy() => Kept(new Person(Native.Make(Pointer)));
+        internal override VyrObject Copy() => Copied(new Person(Native.Make(Pointer)));
 
         /// <inheritdoc/>
         public override bool IsComplete => Is(Native.is_occurs_ok(Pointer));
@@ -345,7 +345,7 @@ namespace Vyr
 
         /// <inheritdoc/>
         public new CustomAttributeType_ValueChoice Clone() => (CustomAttributeType_ValueChoice)Copy();
-        internal override VyrObject Copy() => Kept(new CustomAttributeType_ValueChoice(Native.Make(Pointer)));
+        internal override VyrObject Copy() => Copied(new CustomAttributeType_ValueChoice(Native.Make(Pointer)));
 
         /// <inheritdoc/>
         public override bool IsComplete => Is(Native.is_occurs_ok(Pointer));
@@ -398,7 +398,7 @@ namespace Vyr
 
         /// <inheritdoc/>
         public new CustomAttributeType Clone() => (CustomAttributeType)Copy();
-        internal override VyrObject Copy() => Kept(new CustomAttributeType(Native.Make(Pointer)));
+        internal override VyrObject Copy() => Copied(new CustomAttributeType(Native.Make(Pointer)));
 
         /// <inheritdoc/>
         public override bool IsComplete => Is(Native.is_occurs_ok(Pointer));
@@ -426,7 +426,7 @@ namespace Vyr
 
         /// <inheritdoc/>
         public new TagCategory Clone() => (TagCategory)Copy();
-        internal override VyrObject Copy() => Kept(new TagCategory(Native.Make(Pointer)));
+        internal override VyrObject Copy() => Copied(new TagCategory(Native.Make(Pointer)));
 
         /// <inheritdoc/>
         public override bool IsComplete => Is(Native.is_occurs_ok(Pointer));
@@ -451,7 +451,7 @@ namespace Vyr
 
         /// <inheritdoc/>
         public new Tag Clone() => (Tag)Copy();
-        internal override VyrObject Copy() => Kept(new Tag(Native.Make(Pointer)));
+        internal override VyrObject Copy() => Copied(new Tag(Native.Make(Pointer)));
 
         /// <inheritdoc/>
         public override bool IsComplete => Is(Native.is_occurs_ok(Pointer));
@@ -483,7 +483,7 @@ namespace Vyr
 
         /// <inheritdoc/>
         public new TagValueChoice Clone() => (TagValueChoice)Copy();
-        internal override VyrObject Copy() => Kept(new TagValueChoice(Native.Make(Pointer)));
+        internal override VyrObject Copy() => Copied(new TagValueChoice(Native.Make(Pointer)));
 
         /// <inheritdoc/>
         public override bool IsComplete => Is(Native.is_occurs_ok(Pointer));
@@ -528,7 +528,7 @@ namespace Vyr
 
         /// <inheritdoc/>
         public new TagValue Clone() => (TagValue)Copy();
-        internal override VyrObject Copy() => Kept(new TagValue(Native.Make(Pointer)));
+        internal override VyrObject Copy() => Copied(new TagValue(Native.Make(Pointer)));
 
         /// <inheritdoc/>
         public override bool IsComplete => Is(Native.is_occurs_ok(Pointer));

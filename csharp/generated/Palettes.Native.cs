@@ -303,8 +303,6 @@ namespace Vyr
     {
         static class Native
         {
-            [DllImport(Library.Name, EntryPoint = "CSharp_CollectionColorSpaceSpecification_unmarshal__SWIG_0")] internal static extern int unmarshal(IntPtr self, byte[] path);
-            [DllImport(Library.Name, EntryPoint = "CSharp_CollectionColorSpaceSpecification_marshal__SWIG_0")] internal static extern int marshal(IntPtr self, byte[] path);
             [DllImport(Library.Name, EntryPoint = "CSharp_new_CollectionColorSpaceSpecification__SWIG_0")] internal static extern IntPtr New();
             [DllImport(Library.Name, EntryPoint = "CSharp_delete_CollectionColorSpaceSpecification")] internal static extern void Delete(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_new_CollectionColorSpaceSpecification__SWIG_1")] internal static extern IntPtr Copy(IntPtr source);

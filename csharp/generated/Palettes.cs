@@ -17,7 +17,7 @@ namespace Vyr
 
         /// <inheritdoc/>
         public new CollectionColorSpaceSpecificationType Clone() => (CollectionColorSpaceSpecificationType)Copy();
-        internal override VyrObject Copy() => Kept(new CollectionColorSpaceSpecificationType(Native.Make(Pointer)));
+        internal override VyrObject Copy() => Copied(new CollectionColorSpaceSpecificationType(Native.Make(Pointer)));
 
         /// <inheritdoc/>
         public override bool IsComplete => Is(Native.is_occurs_ok(Pointer));
@@ -73,7 +73,7 @@ namespace Vyr
 
         /// <inheritdoc/>
         public new PaletteType Clone() => (PaletteType)Copy();
-        internal override VyrObject Copy() => Kept(new PaletteType(Native.Make(Pointer)));
+        internal override VyrObject Copy() => Copied(new PaletteType(Native.Make(Pointer)));
 
         /// <inheritdoc/>
         public override bool IsComplete => Is(Native.is_occurs_ok(Pointer));
@@ -131,7 +131,7 @@ namespace Vyr
 
         /// <inheritdoc/>
         public new ColorSetType Clone() => (ColorSetType)Copy();
-        internal override VyrObject Copy() => Kept(new ColorSetType(Native.Make(Pointer)));
+        internal override VyrObject Copy() => Copied(new ColorSetType(Native.Make(Pointer)));
 
         /// <inheritdoc/>
         public override bool IsComplete => Is(Native.is_occurs_ok(Pointer));
@@ -193,7 +193,7 @@ namespace Vyr
 
         /// <inheritdoc/>
         public new ColorType Clone() => (ColorType)Copy();
-        internal override VyrObject Copy() => Kept(new ColorType(Native.Make(Pointer)));
+        internal override VyrObject Copy() => Copied(new ColorType(Native.Make(Pointer)));
 
         /// <inheritdoc/>
         public override bool IsComplete => Is(Native.is_occurs_ok(Pointer));
@@ -252,12 +252,19 @@ namespace Vyr
 
         /// <inheritdoc/>
         public new CollectionColorSpaceSpecification Clone() => (CollectionColorSpaceSpecification)Copy();
-        internal override VyrObject Copy() => Kept(new CollectionColorSpaceSpecification(Native.Make(Pointer)));
+        internal override VyrObject Copy() => Copied(new CollectionColorSpaceSpecification(Native.Make(Pointer)));
 
         /// <summary>Loads a file that has the element CollectionColorSpaceSpecification as its root.</summary>
-        public static CollectionColorSpaceSpecification Load(string path) { var made = new CollectionColorSpaceSpecification(); made.Loaded(Native.unmarshal(made.Pointer, Library.Narrow(path)), path); return made; }
+        public static CollectionColorSpaceSpecification Load(string path) { TryLoad(path, out CollectionColorSpaceSpecification loaded).DemandLoaded(path); return loaded; }
+
+        /// <summary>The same without throwing for what is wrong with the file; null then, unless the options ask for
+        /// what was read.</summary>
+        public static LoadReport TryLoad(string path, out CollectionColorSpaceSpecification loaded, LoadOptions options = null) => Load(new CollectionColorSpaceSpecification(), path, options, out loaded);
 
         /// <summary>Saves a file with this element as its root.</summary>
-        public void Save(string path) => Saved(Native.marshal(Pointer, Library.Narrow(path)), path);
+        public void Save(string path) => TrySave(path).DemandSaved();
+
+        /// <summary>The same without throwing for what is wrong.</summary>
+        public LoadReport TrySave(string path) => SaveElement(path);
     }
 }

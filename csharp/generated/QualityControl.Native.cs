@@ -262,8 +262,6 @@ namespace Vyr
         {
             [DllImport(Library.Name, EntryPoint = "CSharp_Measurement_is_occurs_ok")] internal static extern int is_occurs_ok(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_Measurement_reset")] internal static extern void reset(IntPtr self);
-            [DllImport(Library.Name, EntryPoint = "CSharp_Measurement_unmarshal__SWIG_0")] internal static extern int unmarshal(IntPtr self, byte[] path);
-            [DllImport(Library.Name, EntryPoint = "CSharp_Measurement_marshal__SWIG_0")] internal static extern int marshal(IntPtr self, byte[] path);
             [DllImport(Library.Name, EntryPoint = "CSharp_Measurement_size_CustomAttribute")] internal static extern uint size_CustomAttribute(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_Measurement_get_CustomAttribute__SWIG_0")] internal static extern IntPtr get_CustomAttribute(IntPtr self, uint index);
             [DllImport(Library.Name, EntryPoint = "CSharp_Measurement_assign_CustomAttribute")] internal static extern IntPtr assign_CustomAttribute(IntPtr self, uint index, IntPtr value);
@@ -308,8 +306,6 @@ namespace Vyr
             [DllImport(Library.Name, EntryPoint = "CSharp_Standard_reset")] internal static extern void reset(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_Standard_isnil_Standard")] internal static extern int isnil_Standard(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_Standard_setnil_Standard")] internal static extern void setnil_Standard(IntPtr self);
-            [DllImport(Library.Name, EntryPoint = "CSharp_Standard_unmarshal__SWIG_0")] internal static extern int unmarshal(IntPtr self, byte[] path);
-            [DllImport(Library.Name, EntryPoint = "CSharp_Standard_marshal__SWIG_0")] internal static extern int marshal(IntPtr self, byte[] path);
             [DllImport(Library.Name, EntryPoint = "CSharp_Standard_size_CustomAttribute")] internal static extern uint size_CustomAttribute(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_Standard_get_CustomAttribute__SWIG_0")] internal static extern IntPtr get_CustomAttribute(IntPtr self, uint index);
             [DllImport(Library.Name, EntryPoint = "CSharp_Standard_assign_CustomAttribute")] internal static extern IntPtr assign_CustomAttribute(IntPtr self, uint index, IntPtr value);

@@ -17,7 +17,7 @@ namespace Vyr
 
         /// <inheritdoc/>
         public new LimitsType Clone() => (LimitsType)Copy();
-        internal override VyrObject Copy() => Kept(new LimitsType(Native.Make(Pointer)));
+        internal override VyrObject Copy() => Copied(new LimitsType(Native.Make(Pointer)));
 
         /// <inheritdoc/>
         public override bool IsComplete => Is(Native.is_occurs_ok(Pointer));
@@ -45,7 +45,7 @@ namespace Vyr
 
         /// <inheritdoc/>
         public new ToleranceType Clone() => (ToleranceType)Copy();
-        internal override VyrObject Copy() => Kept(new ToleranceType(Native.Make(Pointer)));
+        internal override VyrObject Copy() => Copied(new ToleranceType(Native.Make(Pointer)));
 
         /// <inheritdoc/>
         public override bool IsComplete => Is(Native.is_occurs_ok(Pointer));
@@ -109,7 +109,7 @@ namespace Vyr
 
         /// <inheritdoc/>
         public new Process Clone() => (Process)Copy();
-        internal override VyrObject Copy() => Kept(new Process(Native.Make(Pointer)));
+        internal override VyrObject Copy() => Copied(new Process(Native.Make(Pointer)));
 
         /// <inheritdoc/>
         public override bool IsComplete => Is(Native.is_occurs_ok(Pointer));
@@ -134,7 +134,7 @@ namespace Vyr
 
         /// <inheritdoc/>
         public new PhysicalSampleType Clone() => (PhysicalSampleType)Copy();
-        internal override VyrObject Copy() => Kept(new PhysicalSampleType(Native.Make(Pointer)));
+        internal override VyrObject Copy() => Copied(new PhysicalSampleType(Native.Make(Pointer)));
 
         /// <inheritdoc/>
         public override bool IsComplete => Is(Native.is_occurs_ok(Pointer));
@@ -171,7 +171,7 @@ namespace Vyr
 
         /// <inheritdoc/>
         public new ColorQualityControlType Clone() => (ColorQualityControlType)Copy();
-        internal override VyrObject Copy() => Kept(new ColorQualityControlType(Native.Make(Pointer)));
+        internal override VyrObject Copy() => Copied(new ColorQualityControlType(Native.Make(Pointer)));
 
         /// <inheritdoc/>
         public override bool IsComplete => Is(Native.is_occurs_ok(Pointer));
@@ -220,7 +220,7 @@ namespace Vyr
 
         /// <inheritdoc/>
         public new Measurement Clone() => (Measurement)Copy();
-        internal override VyrObject Copy() => Kept(new Measurement(Native.Make(Pointer)));
+        internal override VyrObject Copy() => Copied(new Measurement(Native.Make(Pointer)));
 
         /// <inheritdoc/>
         public override bool IsComplete => Is(Native.is_occurs_ok(Pointer));
@@ -229,10 +229,17 @@ namespace Vyr
         public override void Reset() { RemoveParts(); Native.reset(Pointer); Keep(); }
 
         /// <summary>Loads a file that has the element Measurement as its root.</summary>
-        public static Measurement Load(string path) { var made = new Measurement(); made.Loaded(Native.unmarshal(made.Pointer, Library.Narrow(path)), path); return made; }
+        public static Measurement Load(string path) { TryLoad(path, out Measurement loaded).DemandLoaded(path); return loaded; }
+
+        /// <summary>The same without throwing for what is wrong with the file; null then, unless the options ask for
+        /// what was read.</summary>
+        public static LoadReport TryLoad(string path, out Measurement loaded, LoadOptions options = null) => Load(new Measurement(), path, options, out loaded);
 
         /// <summary>Saves a file with this element as its root.</summary>
-        public void Save(string path) => Saved(Native.marshal(Pointer, Library.Narrow(path)), path);
+        public void Save(string path) => TrySave(path).DemandSaved();
+
+        /// <summary>The same without throwing for what is wrong.</summary>
+        public LoadReport TrySave(string path) => SaveElement(path);
 
         /// <summary>A named value of the user's own.</summary>
         public ObjectList<CustomAttributeType> CustomAttributes => ListOfObjects(0, Parts.CustomAttribute);
@@ -263,7 +270,7 @@ namespace Vyr
 
         /// <inheritdoc/>
         public new Standard Clone() => (Standard)Copy();
-        internal override VyrObject Copy() => Kept(new Standard(Native.Make(Pointer)));
+        internal override VyrObject Copy() => Copied(new Standard(Native.Make(Pointer)));
 
         /// <inheritdoc/>
         public override bool IsComplete => Is(Native.is_occurs_ok(Pointer));
@@ -274,15 +281,22 @@ namespace Vyr
         /// <summary>True for an element that says that it has no value.</summary>
         public bool IsNil => Is(Native.isnil_Standard(Pointer));
 
-        /// <summary>Makes it an element that says that it has no value. `Reset` takes that back, and so does setting
-        /// a value of its own.</summary>
+        /// <summary>Makes it an element that says that it has no value. `Reset` takes that back; what it holds until
+        /// then isn't saved.</summary>
         public void SetNil() { Native.setnil_Standard(Pointer); Keep(); }
 
         /// <summary>Loads a file that has the element Standard as its root.</summary>
-        public static Standard Load(string path) { var made = new Standard(); made.Loaded(Native.unmarshal(made.Pointer, Library.Narrow(path)), path); return made; }
+        public static Standard Load(string path) { TryLoad(path, out Standard loaded).DemandLoaded(path); return loaded; }
+
+        /// <summary>The same without throwing for what is wrong with the file; null then, unless the options ask for
+        /// what was read.</summary>
+        public static LoadReport TryLoad(string path, out Standard loaded, LoadOptions options = null) => Load(new Standard(), path, options, out loaded);
 
         /// <summary>Saves a file with this element as its root.</summary>
-        public void Save(string path) => Saved(Native.marshal(Pointer, Library.Narrow(path)), path);
+        public void Save(string path) => TrySave(path).DemandSaved();
+
+        /// <summary>The same without throwing for what is wrong.</summary>
+        public LoadReport TrySave(string path) => SaveElement(path);
 
         /// <summary>A named value of the user's own.</summary>
         public ObjectList<CustomAttributeType> CustomAttributes => ListOfObjects(0, Parts.CustomAttribute);
@@ -313,7 +327,7 @@ namespace Vyr
 
         /// <inheritdoc/>
         public new StandardAndMeasurementType Clone() => (StandardAndMeasurementType)Copy();
-        internal override VyrObject Copy() => Kept(new StandardAndMeasurementType(Native.Make(Pointer)));
+        internal override VyrObject Copy() => Copied(new StandardAndMeasurementType(Native.Make(Pointer)));
 
         /// <inheritdoc/>
         public override bool IsComplete => Is(Native.is_occurs_ok(Pointer));

@@ -17,7 +17,7 @@ namespace Vyr
 
         /// <inheritdoc/>
         public new ColorName Clone() => (ColorName)Copy();
-        internal override VyrObject Copy() => Kept(new ColorName(Native.Make(Pointer)));
+        internal override VyrObject Copy() => Copied(new ColorName(Native.Make(Pointer)));
 
         /// <inheritdoc/>
         public override bool IsComplete => Is(Native.is_occurs_ok(Pointer));
@@ -45,7 +45,7 @@ namespace Vyr
 
         /// <inheritdoc/>
         public new Recipe Clone() => (Recipe)Copy();
-        internal override VyrObject Copy() => Kept(new Recipe(Native.Make(Pointer)));
+        internal override VyrObject Copy() => Copied(new Recipe(Native.Make(Pointer)));
 
         /// <inheritdoc/>
         public override bool IsComplete => Is(Native.is_occurs_ok(Pointer));
@@ -67,7 +67,7 @@ namespace Vyr
 
         /// <inheritdoc/>
         public new ColorSpaceTINTORAType Clone() => (ColorSpaceTINTORAType)Copy();
-        internal override VyrObject Copy() => Kept(new ColorSpaceTINTORAType(Native.Make(Pointer)));
+        internal override VyrObject Copy() => Copied(new ColorSpaceTINTORAType(Native.Make(Pointer)));
 
         /// <inheritdoc/>
         public override bool IsComplete => Is(Native.is_occurs_ok(Pointer));
@@ -113,7 +113,7 @@ namespace Vyr
 
         /// <inheritdoc/>
         public new Colorant Clone() => (Colorant)Copy();
-        internal override VyrObject Copy() => Kept(new Colorant(Native.Make(Pointer)));
+        internal override VyrObject Copy() => Copied(new Colorant(Native.Make(Pointer)));
 
         /// <inheritdoc/>
         public override bool IsComplete => Is(Native.is_occurs_ok(Pointer));
@@ -147,7 +147,7 @@ namespace Vyr
 
         /// <inheritdoc/>
         public new ColorantElement Clone() => (ColorantElement)Copy();
-        internal override VyrObject Copy() => Kept(new ColorantElement(Native.Make(Pointer)));
+        internal override VyrObject Copy() => Copied(new ColorantElement(Native.Make(Pointer)));
 
         /// <inheritdoc/>
         public override bool IsComplete => Is(Native.is_occurs_ok(Pointer));
@@ -175,7 +175,7 @@ namespace Vyr
 
         /// <inheritdoc/>
         public new CustomAttributes Clone() => (CustomAttributes)Copy();
-        internal override VyrObject Copy() => Kept(new CustomAttributes(Native.Make(Pointer)));
+        internal override VyrObject Copy() => Copied(new CustomAttributes(Native.Make(Pointer)));
 
         /// <inheritdoc/>
         public override bool IsComplete => Is(Native.is_occurs_ok(Pointer));
@@ -200,7 +200,7 @@ namespace Vyr
 
         /// <inheritdoc/>
         public new ColorAndFinish Clone() => (ColorAndFinish)Copy();
-        internal override VyrObject Copy() => Kept(new ColorAndFinish(Native.Make(Pointer)));
+        internal override VyrObject Copy() => Copied(new ColorAndFinish(Native.Make(Pointer)));
 
         /// <inheritdoc/>
         public override bool IsComplete => Is(Native.is_occurs_ok(Pointer));
@@ -228,7 +228,7 @@ namespace Vyr
 
         /// <inheritdoc/>
         public new ColorSpaceNCSType Clone() => (ColorSpaceNCSType)Copy();
-        internal override VyrObject Copy() => Kept(new ColorSpaceNCSType(Native.Make(Pointer)));
+        internal override VyrObject Copy() => Copied(new ColorSpaceNCSType(Native.Make(Pointer)));
 
         /// <inheritdoc/>
         public override bool IsComplete => Is(Native.is_occurs_ok(Pointer));
@@ -259,7 +259,7 @@ namespace Vyr
 
         /// <inheritdoc/>
         public new ColorSpaceMunsellType Clone() => (ColorSpaceMunsellType)Copy();
-        internal override VyrObject Copy() => Kept(new ColorSpaceMunsellType(Native.Make(Pointer)));
+        internal override VyrObject Copy() => Copied(new ColorSpaceMunsellType(Native.Make(Pointer)));
 
         /// <inheritdoc/>
         public override bool IsComplete => Is(Native.is_occurs_ok(Pointer));
@@ -293,7 +293,7 @@ namespace Vyr
 
         /// <inheritdoc/>
         public new Base Clone() => (Base)Copy();
-        internal override VyrObject Copy() => Kept(new Base(Native.Make(Pointer)));
+        internal override VyrObject Copy() => Copied(new Base(Native.Make(Pointer)));
 
         /// <inheritdoc/>
         public override bool IsComplete => Is(Native.is_occurs_ok(Pointer));
@@ -327,7 +327,7 @@ namespace Vyr
 
         /// <inheritdoc/>
         public new BaseElementType Clone() => (BaseElementType)Copy();
-        internal override VyrObject Copy() => Kept(new BaseElementType(Native.Make(Pointer)));
+        internal override VyrObject Copy() => Copied(new BaseElementType(Native.Make(Pointer)));
 
         /// <inheritdoc/>
         public override bool IsComplete => Is(Native.is_occurs_ok(Pointer));
@@ -355,7 +355,7 @@ namespace Vyr
 
         /// <inheritdoc/>
         public new ColorSpaceRecipeType Clone() => (ColorSpaceRecipeType)Copy();
-        internal override VyrObject Copy() => Kept(new ColorSpaceRecipeType(Native.Make(Pointer)));
+        internal override VyrObject Copy() => Copied(new ColorSpaceRecipeType(Native.Make(Pointer)));
 
         /// <inheritdoc/>
         public override bool IsComplete => Is(Native.is_occurs_ok(Pointer));
@@ -392,13 +392,20 @@ namespace Vyr
 
         /// <inheritdoc/>
         public new ColorSpaceRecipe Clone() => (ColorSpaceRecipe)Copy();
-        internal override VyrObject Copy() => Kept(new ColorSpaceRecipe(Native.Make(Pointer)));
+        internal override VyrObject Copy() => Copied(new ColorSpaceRecipe(Native.Make(Pointer)));
 
         /// <summary>Loads a file that has the element ColorSpaceRecipe as its root.</summary>
-        public static ColorSpaceRecipe Load(string path) { var made = new ColorSpaceRecipe(); made.Loaded(Native.unmarshal(made.Pointer, Library.Narrow(path)), path); return made; }
+        public static ColorSpaceRecipe Load(string path) { TryLoad(path, out ColorSpaceRecipe loaded).DemandLoaded(path); return loaded; }
+
+        /// <summary>The same without throwing for what is wrong with the file; null then, unless the options ask for
+        /// what was read.</summary>
+        public static LoadReport TryLoad(string path, out ColorSpaceRecipe loaded, LoadOptions options = null) => Load(new ColorSpaceRecipe(), path, options, out loaded);
 
         /// <summary>Saves a file with this element as its root.</summary>
-        public void Save(string path) => Saved(Native.marshal(Pointer, Library.Narrow(path)), path);
+        public void Save(string path) => TrySave(path).DemandSaved();
+
+        /// <summary>The same without throwing for what is wrong.</summary>
+        public LoadReport TrySave(string path) => SaveElement(path);
     }
 
     /// <summary>A colour of the TINTORA collection, by family, name and page.</summary>
@@ -411,13 +418,20 @@ namespace Vyr
 
         /// <inheritdoc/>
         public new ColorSpaceTINTORA Clone() => (ColorSpaceTINTORA)Copy();
-        internal override VyrObject Copy() => Kept(new ColorSpaceTINTORA(Native.Make(Pointer)));
+        internal override VyrObject Copy() => Copied(new ColorSpaceTINTORA(Native.Make(Pointer)));
 
         /// <summary>Loads a file that has the element ColorSpaceTINTORA as its root.</summary>
-        public static ColorSpaceTINTORA Load(string path) { var made = new ColorSpaceTINTORA(); made.Loaded(Native.unmarshal(made.Pointer, Library.Narrow(path)), path); return made; }
+        public static ColorSpaceTINTORA Load(string path) { TryLoad(path, out ColorSpaceTINTORA loaded).DemandLoaded(path); return loaded; }
+
+        /// <summary>The same without throwing for what is wrong with the file; null then, unless the options ask for
+        /// what was read.</summary>
+        public static LoadReport TryLoad(string path, out ColorSpaceTINTORA loaded, LoadOptions options = null) => Load(new ColorSpaceTINTORA(), path, options, out loaded);
 
         /// <summary>Saves a file with this element as its root.</summary>
-        public void Save(string path) => Saved(Native.marshal(Pointer, Library.Narrow(path)), path);
+        public void Save(string path) => TrySave(path).DemandSaved();
+
+        /// <summary>The same without throwing for what is wrong.</summary>
+        public LoadReport TrySave(string path) => SaveElement(path);
     }
 
     /// <summary>A colour by its notation in the Natural Colour System.</summary>
@@ -430,13 +444,20 @@ namespace Vyr
 
         /// <inheritdoc/>
         public new ColorSpaceNCS Clone() => (ColorSpaceNCS)Copy();
-        internal override VyrObject Copy() => Kept(new ColorSpaceNCS(Native.Make(Pointer)));
+        internal override VyrObject Copy() => Copied(new ColorSpaceNCS(Native.Make(Pointer)));
 
         /// <summary>Loads a file that has the element ColorSpaceNCS as its root.</summary>
-        public static ColorSpaceNCS Load(string path) { var made = new ColorSpaceNCS(); made.Loaded(Native.unmarshal(made.Pointer, Library.Narrow(path)), path); return made; }
+        public static ColorSpaceNCS Load(string path) { TryLoad(path, out ColorSpaceNCS loaded).DemandLoaded(path); return loaded; }
+
+        /// <summary>The same without throwing for what is wrong with the file; null then, unless the options ask for
+        /// what was read.</summary>
+        public static LoadReport TryLoad(string path, out ColorSpaceNCS loaded, LoadOptions options = null) => Load(new ColorSpaceNCS(), path, options, out loaded);
 
         /// <summary>Saves a file with this element as its root.</summary>
-        public void Save(string path) => Saved(Native.marshal(Pointer, Library.Narrow(path)), path);
+        public void Save(string path) => TrySave(path).DemandSaved();
+
+        /// <summary>The same without throwing for what is wrong.</summary>
+        public LoadReport TrySave(string path) => SaveElement(path);
     }
 
     /// <summary>A colour by its notation in a Munsell collection.</summary>
@@ -449,13 +470,20 @@ namespace Vyr
 
         /// <inheritdoc/>
         public new ColorSpaceMunsell Clone() => (ColorSpaceMunsell)Copy();
-        internal override VyrObject Copy() => Kept(new ColorSpaceMunsell(Native.Make(Pointer)));
+        internal override VyrObject Copy() => Copied(new ColorSpaceMunsell(Native.Make(Pointer)));
 
         /// <summary>Loads a file that has the element ColorSpaceMunsell as its root.</summary>
-        public static ColorSpaceMunsell Load(string path) { var made = new ColorSpaceMunsell(); made.Loaded(Native.unmarshal(made.Pointer, Library.Narrow(path)), path); return made; }
+        public static ColorSpaceMunsell Load(string path) { TryLoad(path, out ColorSpaceMunsell loaded).DemandLoaded(path); return loaded; }
+
+        /// <summary>The same without throwing for what is wrong with the file; null then, unless the options ask for
+        /// what was read.</summary>
+        public static LoadReport TryLoad(string path, out ColorSpaceMunsell loaded, LoadOptions options = null) => Load(new ColorSpaceMunsell(), path, options, out loaded);
 
         /// <summary>Saves a file with this element as its root.</summary>
-        public void Save(string path) => Saved(Native.marshal(Pointer, Library.Narrow(path)), path);
+        public void Save(string path) => TrySave(path).DemandSaved();
+
+        /// <summary>The same without throwing for what is wrong.</summary>
+        public LoadReport TrySave(string path) => SaveElement(path);
     }
 
     /// <summary>Density of the colorant, above 0 and without a stated unit, or nil where it is unknown.</summary>
@@ -468,7 +496,7 @@ namespace Vyr
 
         /// <inheritdoc/>
         public new Density Clone() => (Density)Copy();
-        internal override VyrObject Copy() => Kept(new Density(Native.Make(Pointer)));
+        internal override VyrObject Copy() => Copied(new Density(Native.Make(Pointer)));
 
         /// <inheritdoc/>
         public override bool IsComplete => Is(Native.is_occurs_ok(Pointer));
@@ -480,7 +508,7 @@ namespace Vyr
         public bool IsNil => Is(Native.isnil_Density(Pointer));
 
         /// <summary>Makes it an element that says that it has no value. `Reset` takes that back, and so does setting
-        /// a value of its own.</summary>
+        /// `Value`.</summary>
         public void SetNil() { Native.setnil_Density(Pointer); Keep(); }
 
         /// <summary>Density of the colorant, above 0 and without a stated unit, or nil where it is unknown.</summary>
@@ -497,7 +525,7 @@ namespace Vyr
 
         /// <inheritdoc/>
         public new ColorantElementType_Colorant Clone() => (ColorantElementType_Colorant)Copy();
-        internal override VyrObject Copy() => Kept(new ColorantElementType_Colorant(Native.Make(Pointer)));
+        internal override VyrObject Copy() => Copied(new ColorantElementType_Colorant(Native.Make(Pointer)));
 
         /// <inheritdoc/>
         public override bool IsComplete => Is(Native.is_occurs_ok(Pointer));
@@ -535,7 +563,7 @@ namespace Vyr
 
         /// <inheritdoc/>
         public new ColorantElementType Clone() => (ColorantElementType)Copy();
-        internal override VyrObject Copy() => Kept(new ColorantElementType(Native.Make(Pointer)));
+        internal override VyrObject Copy() => Copied(new ColorantElementType(Native.Make(Pointer)));
 
         /// <inheritdoc/>
         public override bool IsComplete => Is(Native.is_occurs_ok(Pointer));

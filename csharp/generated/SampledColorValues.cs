@@ -17,7 +17,7 @@ namespace Vyr
 
         /// <inheritdoc/>
         public new ColorSpaceDensityType Clone() => (ColorSpaceDensityType)Copy();
-        internal override VyrObject Copy() => Kept(new ColorSpaceDensityType(Native.Make(Pointer)));
+        internal override VyrObject Copy() => Copied(new ColorSpaceDensityType(Native.Make(Pointer)));
 
         /// <inheritdoc/>
         public override bool IsComplete => Is(Native.is_occurs_ok(Pointer));
@@ -48,7 +48,7 @@ namespace Vyr
 
         /// <inheritdoc/>
         public new ColorSpaceSpectralType Clone() => (ColorSpaceSpectralType)Copy();
-        internal override VyrObject Copy() => Kept(new ColorSpaceSpectralType(Native.Make(Pointer)));
+        internal override VyrObject Copy() => Copied(new ColorSpaceSpectralType(Native.Make(Pointer)));
 
         /// <inheritdoc/>
         public override bool IsComplete => Is(Native.is_occurs_ok(Pointer));
@@ -87,7 +87,7 @@ namespace Vyr
 
         /// <inheritdoc/>
         public new ColorSpaceEmissiveSpectralType Clone() => (ColorSpaceEmissiveSpectralType)Copy();
-        internal override VyrObject Copy() => Kept(new ColorSpaceEmissiveSpectralType(Native.Make(Pointer)));
+        internal override VyrObject Copy() => Copied(new ColorSpaceEmissiveSpectralType(Native.Make(Pointer)));
 
         /// <inheritdoc/>
         public override bool IsComplete => Is(Native.is_occurs_ok(Pointer));
@@ -126,7 +126,7 @@ namespace Vyr
 
         /// <inheritdoc/>
         public new ColorSpaceGenericType Clone() => (ColorSpaceGenericType)Copy();
-        internal override VyrObject Copy() => Kept(new ColorSpaceGenericType(Native.Make(Pointer)));
+        internal override VyrObject Copy() => Copied(new ColorSpaceGenericType(Native.Make(Pointer)));
 
         /// <inheritdoc/>
         public override bool IsComplete => Is(Native.is_occurs_ok(Pointer));
@@ -157,7 +157,7 @@ namespace Vyr
 
         /// <inheritdoc/>
         public new ColorSpaceEmissiveGenericType Clone() => (ColorSpaceEmissiveGenericType)Copy();
-        internal override VyrObject Copy() => Kept(new ColorSpaceEmissiveGenericType(Native.Make(Pointer)));
+        internal override VyrObject Copy() => Copied(new ColorSpaceEmissiveGenericType(Native.Make(Pointer)));
 
         /// <inheritdoc/>
         public override bool IsComplete => Is(Native.is_occurs_ok(Pointer));
@@ -188,13 +188,20 @@ namespace Vyr
 
         /// <inheritdoc/>
         public new ColorSpaceGeneric Clone() => (ColorSpaceGeneric)Copy();
-        internal override VyrObject Copy() => Kept(new ColorSpaceGeneric(Native.Make(Pointer)));
+        internal override VyrObject Copy() => Copied(new ColorSpaceGeneric(Native.Make(Pointer)));
 
         /// <summary>Loads a file that has the element ColorSpaceGeneric as its root.</summary>
-        public static ColorSpaceGeneric Load(string path) { var made = new ColorSpaceGeneric(); made.Loaded(Native.unmarshal(made.Pointer, Library.Narrow(path)), path); return made; }
+        public static ColorSpaceGeneric Load(string path) { TryLoad(path, out ColorSpaceGeneric loaded).DemandLoaded(path); return loaded; }
+
+        /// <summary>The same without throwing for what is wrong with the file; null then, unless the options ask for
+        /// what was read.</summary>
+        public static LoadReport TryLoad(string path, out ColorSpaceGeneric loaded, LoadOptions options = null) => Load(new ColorSpaceGeneric(), path, options, out loaded);
 
         /// <summary>Saves a file with this element as its root.</summary>
-        public void Save(string path) => Saved(Native.marshal(Pointer, Library.Narrow(path)), path);
+        public void Save(string path) => TrySave(path).DemandSaved();
+
+        /// <summary>The same without throwing for what is wrong.</summary>
+        public LoadReport TrySave(string path) => SaveElement(path);
     }
 
     /// <summary>An emissive colour in a space that the format doesn't know, axis by axis.</summary>
@@ -207,13 +214,20 @@ namespace Vyr
 
         /// <inheritdoc/>
         public new ColorSpaceEmissiveGeneric Clone() => (ColorSpaceEmissiveGeneric)Copy();
-        internal override VyrObject Copy() => Kept(new ColorSpaceEmissiveGeneric(Native.Make(Pointer)));
+        internal override VyrObject Copy() => Copied(new ColorSpaceEmissiveGeneric(Native.Make(Pointer)));
 
         /// <summary>Loads a file that has the element ColorSpaceEmissiveGeneric as its root.</summary>
-        public static ColorSpaceEmissiveGeneric Load(string path) { var made = new ColorSpaceEmissiveGeneric(); made.Loaded(Native.unmarshal(made.Pointer, Library.Narrow(path)), path); return made; }
+        public static ColorSpaceEmissiveGeneric Load(string path) { TryLoad(path, out ColorSpaceEmissiveGeneric loaded).DemandLoaded(path); return loaded; }
+
+        /// <summary>The same without throwing for what is wrong with the file; null then, unless the options ask for
+        /// what was read.</summary>
+        public static LoadReport TryLoad(string path, out ColorSpaceEmissiveGeneric loaded, LoadOptions options = null) => Load(new ColorSpaceEmissiveGeneric(), path, options, out loaded);
 
         /// <summary>Saves a file with this element as its root.</summary>
-        public void Save(string path) => Saved(Native.marshal(Pointer, Library.Narrow(path)), path);
+        public void Save(string path) => TrySave(path).DemandSaved();
+
+        /// <summary>The same without throwing for what is wrong.</summary>
+        public LoadReport TrySave(string path) => SaveElement(path);
     }
 
     /// <summary>A colour by its optical densities through one or more filters.</summary>
@@ -226,13 +240,20 @@ namespace Vyr
 
         /// <inheritdoc/>
         public new ColorSpaceDensity Clone() => (ColorSpaceDensity)Copy();
-        internal override VyrObject Copy() => Kept(new ColorSpaceDensity(Native.Make(Pointer)));
+        internal override VyrObject Copy() => Copied(new ColorSpaceDensity(Native.Make(Pointer)));
 
         /// <summary>Loads a file that has the element ColorSpaceDensity as its root.</summary>
-        public static ColorSpaceDensity Load(string path) { var made = new ColorSpaceDensity(); made.Loaded(Native.unmarshal(made.Pointer, Library.Narrow(path)), path); return made; }
+        public static ColorSpaceDensity Load(string path) { TryLoad(path, out ColorSpaceDensity loaded).DemandLoaded(path); return loaded; }
+
+        /// <summary>The same without throwing for what is wrong with the file; null then, unless the options ask for
+        /// what was read.</summary>
+        public static LoadReport TryLoad(string path, out ColorSpaceDensity loaded, LoadOptions options = null) => Load(new ColorSpaceDensity(), path, options, out loaded);
 
         /// <summary>Saves a file with this element as its root.</summary>
-        public void Save(string path) => Saved(Native.marshal(Pointer, Library.Narrow(path)), path);
+        public void Save(string path) => TrySave(path).DemandSaved();
+
+        /// <summary>The same without throwing for what is wrong.</summary>
+        public LoadReport TrySave(string path) => SaveElement(path);
     }
 
     /// <summary>A reflective or transmissive colour as a sampled spectrum.</summary>
@@ -245,13 +266,20 @@ namespace Vyr
 
         /// <inheritdoc/>
         public new ColorSpaceSpectral Clone() => (ColorSpaceSpectral)Copy();
-        internal override VyrObject Copy() => Kept(new ColorSpaceSpectral(Native.Make(Pointer)));
+        internal override VyrObject Copy() => Copied(new ColorSpaceSpectral(Native.Make(Pointer)));
 
         /// <summary>Loads a file that has the element ColorSpaceSpectral as its root.</summary>
-        public static ColorSpaceSpectral Load(string path) { var made = new ColorSpaceSpectral(); made.Loaded(Native.unmarshal(made.Pointer, Library.Narrow(path)), path); return made; }
+        public static ColorSpaceSpectral Load(string path) { TryLoad(path, out ColorSpaceSpectral loaded).DemandLoaded(path); return loaded; }
+
+        /// <summary>The same without throwing for what is wrong with the file; null then, unless the options ask for
+        /// what was read.</summary>
+        public static LoadReport TryLoad(string path, out ColorSpaceSpectral loaded, LoadOptions options = null) => Load(new ColorSpaceSpectral(), path, options, out loaded);
 
         /// <summary>Saves a file with this element as its root.</summary>
-        public void Save(string path) => Saved(Native.marshal(Pointer, Library.Narrow(path)), path);
+        public void Save(string path) => TrySave(path).DemandSaved();
+
+        /// <summary>The same without throwing for what is wrong.</summary>
+        public LoadReport TrySave(string path) => SaveElement(path);
     }
 
     /// <summary>An emissive colour as a sampled spectrum.</summary>
@@ -264,13 +292,20 @@ namespace Vyr
 
         /// <inheritdoc/>
         public new ColorSpaceEmissiveSpectral Clone() => (ColorSpaceEmissiveSpectral)Copy();
-        internal override VyrObject Copy() => Kept(new ColorSpaceEmissiveSpectral(Native.Make(Pointer)));
+        internal override VyrObject Copy() => Copied(new ColorSpaceEmissiveSpectral(Native.Make(Pointer)));
 
         /// <summary>Loads a file that has the element ColorSpaceEmissiveSpectral as its root.</summary>
-        public static ColorSpaceEmissiveSpectral Load(string path) { var made = new ColorSpaceEmissiveSpectral(); made.Loaded(Native.unmarshal(made.Pointer, Library.Narrow(path)), path); return made; }
+        public static ColorSpaceEmissiveSpectral Load(string path) { TryLoad(path, out ColorSpaceEmissiveSpectral loaded).DemandLoaded(path); return loaded; }
+
+        /// <summary>The same without throwing for what is wrong with the file; null then, unless the options ask for
+        /// what was read.</summary>
+        public static LoadReport TryLoad(string path, out ColorSpaceEmissiveSpectral loaded, LoadOptions options = null) => Load(new ColorSpaceEmissiveSpectral(), path, options, out loaded);
 
         /// <summary>Saves a file with this element as its root.</summary>
-        public void Save(string path) => Saved(Native.marshal(Pointer, Library.Narrow(path)), path);
+        public void Save(string path) => TrySave(path).DemandSaved();
+
+        /// <summary>The same without throwing for what is wrong.</summary>
+        public LoadReport TrySave(string path) => SaveElement(path);
     }
 
     /// <summary>Reflectance factor at one wavelength.</summary>
@@ -283,7 +318,7 @@ namespace Vyr
 
         /// <inheritdoc/>
         public new ReflectancePointType Clone() => (ReflectancePointType)Copy();
-        internal override VyrObject Copy() => Kept(new ReflectancePointType(Native.Make(Pointer)));
+        internal override VyrObject Copy() => Copied(new ReflectancePointType(Native.Make(Pointer)));
 
         /// <inheritdoc/>
         public override bool IsComplete => Is(Native.is_occurs_ok(Pointer));
@@ -309,7 +344,7 @@ namespace Vyr
 
         /// <inheritdoc/>
         public new EmissiveSpectralPointType Clone() => (EmissiveSpectralPointType)Copy();
-        internal override VyrObject Copy() => Kept(new EmissiveSpectralPointType(Native.Make(Pointer)));
+        internal override VyrObject Copy() => Copied(new EmissiveSpectralPointType(Native.Make(Pointer)));
 
         /// <inheritdoc/>
         public override bool IsComplete => Is(Native.is_occurs_ok(Pointer));
@@ -334,7 +369,7 @@ namespace Vyr
 
         /// <inheritdoc/>
         public new AxisValueChoice Clone() => (AxisValueChoice)Copy();
-        internal override VyrObject Copy() => Kept(new AxisValueChoice(Native.Make(Pointer)));
+        internal override VyrObject Copy() => Copied(new AxisValueChoice(Native.Make(Pointer)));
 
         /// <inheritdoc/>
         public override bool IsComplete => Is(Native.is_occurs_ok(Pointer));
@@ -383,7 +418,7 @@ namespace Vyr
 
         /// <inheritdoc/>
         public new AxisType Clone() => (AxisType)Copy();
-        internal override VyrObject Copy() => Kept(new AxisType(Native.Make(Pointer)));
+        internal override VyrObject Copy() => Copied(new AxisType(Native.Make(Pointer)));
 
         /// <inheritdoc/>
         public override bool IsComplete => Is(Native.is_occurs_ok(Pointer));
@@ -411,7 +446,7 @@ namespace Vyr
 
         /// <inheritdoc/>
         public new FloatingPointValueType Clone() => (FloatingPointValueType)Copy();
-        internal override VyrObject Copy() => Kept(new FloatingPointValueType(Native.Make(Pointer)));
+        internal override VyrObject Copy() => Copied(new FloatingPointValueType(Native.Make(Pointer)));
 
         /// <inheritdoc/>
         public override bool IsComplete => Is(Native.is_occurs_ok(Pointer));
@@ -443,7 +478,7 @@ namespace Vyr
 
         /// <inheritdoc/>
         public new DensityType Clone() => (DensityType)Copy();
-        internal override VyrObject Copy() => Kept(new DensityType(Native.Make(Pointer)));
+        internal override VyrObject Copy() => Copied(new DensityType(Native.Make(Pointer)));
 
         /// <inheritdoc/>
         public override bool IsComplete => Is(Native.is_occurs_ok(Pointer));

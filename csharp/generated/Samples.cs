@@ -14,7 +14,7 @@ namespace Vyr
 
         /// <inheritdoc/>
         public new SampleType Clone() => (SampleType)Copy();
-        internal override VyrObject Copy() => Kept(new SampleType(Native.Make(Pointer)));
+        internal override VyrObject Copy() => Copied(new SampleType(Native.Make(Pointer)));
 
         /// <inheritdoc/>
         public override bool IsComplete => Is(Native.is_occurs_ok(Pointer));
@@ -67,7 +67,7 @@ namespace Vyr
 
         /// <inheritdoc/>
         public new Specification Clone() => (Specification)Copy();
-        internal override VyrObject Copy() => Kept(new Specification(Native.Make(Pointer)));
+        internal override VyrObject Copy() => Copied(new Specification(Native.Make(Pointer)));
 
         /// <inheritdoc/>
         public override bool IsComplete => Is(Native.is_occurs_ok(Pointer));
@@ -92,7 +92,7 @@ namespace Vyr
 
         /// <inheritdoc/>
         public new SampleSpotType Clone() => (SampleSpotType)Copy();
-        internal override VyrObject Copy() => Kept(new SampleSpotType(Native.Make(Pointer)));
+        internal override VyrObject Copy() => Copied(new SampleSpotType(Native.Make(Pointer)));
 
         /// <inheritdoc/>
         public override bool IsComplete => Is(Native.is_occurs_ok(Pointer));
@@ -117,7 +117,7 @@ namespace Vyr
 
         /// <inheritdoc/>
         public new SampleTargetType Clone() => (SampleTargetType)Copy();
-        internal override VyrObject Copy() => Kept(new SampleTargetType(Native.Make(Pointer)));
+        internal override VyrObject Copy() => Copied(new SampleTargetType(Native.Make(Pointer)));
 
         /// <inheritdoc/>
         public override bool IsComplete => Is(Native.is_occurs_ok(Pointer));
@@ -142,13 +142,20 @@ namespace Vyr
 
         /// <inheritdoc/>
         public new SampleSpot Clone() => (SampleSpot)Copy();
-        internal override VyrObject Copy() => Kept(new SampleSpot(Native.Make(Pointer)));
+        internal override VyrObject Copy() => Copied(new SampleSpot(Native.Make(Pointer)));
 
         /// <summary>Loads a file that has the element SampleSpot as its root.</summary>
-        public static SampleSpot Load(string path) { var made = new SampleSpot(); made.Loaded(Native.unmarshal(made.Pointer, Library.Narrow(path)), path); return made; }
+        public static SampleSpot Load(string path) { TryLoad(path, out SampleSpot loaded).DemandLoaded(path); return loaded; }
+
+        /// <summary>The same without throwing for what is wrong with the file; null then, unless the options ask for
+        /// what was read.</summary>
+        public static LoadReport TryLoad(string path, out SampleSpot loaded, LoadOptions options = null) => Load(new SampleSpot(), path, options, out loaded);
 
         /// <summary>Saves a file with this element as its root.</summary>
-        public void Save(string path) => Saved(Native.marshal(Pointer, Library.Narrow(path)), path);
+        public void Save(string path) => TrySave(path).DemandSaved();
+
+        /// <summary>The same without throwing for what is wrong.</summary>
+        public LoadReport TrySave(string path) => SaveElement(path);
     }
 
     /// <summary>A test chart of many patches.</summary>
@@ -161,12 +168,19 @@ namespace Vyr
 
         /// <inheritdoc/>
         public new SampleTarget Clone() => (SampleTarget)Copy();
-        internal override VyrObject Copy() => Kept(new SampleTarget(Native.Make(Pointer)));
+        internal override VyrObject Copy() => Copied(new SampleTarget(Native.Make(Pointer)));
 
         /// <summary>Loads a file that has the element SampleTarget as its root.</summary>
-        public static SampleTarget Load(string path) { var made = new SampleTarget(); made.Loaded(Native.unmarshal(made.Pointer, Library.Narrow(path)), path); return made; }
+        public static SampleTarget Load(string path) { TryLoad(path, out SampleTarget loaded).DemandLoaded(path); return loaded; }
+
+        /// <summary>The same without throwing for what is wrong with the file; null then, unless the options ask for
+        /// what was read.</summary>
+        public static LoadReport TryLoad(string path, out SampleTarget loaded, LoadOptions options = null) => Load(new SampleTarget(), path, options, out loaded);
 
         /// <summary>Saves a file with this element as its root.</summary>
-        public void Save(string path) => Saved(Native.marshal(Pointer, Library.Narrow(path)), path);
+        public void Save(string path) => TrySave(path).DemandSaved();
+
+        /// <summary>The same without throwing for what is wrong.</summary>
+        public LoadReport TrySave(string path) => SaveElement(path);
     }
 }

@@ -17,7 +17,7 @@ namespace Vyr
 
         /// <inheritdoc/>
         public new FunctionStdDevXType Clone() => (FunctionStdDevXType)Copy();
-        internal override VyrObject Copy() => Kept(new FunctionStdDevXType(Native.Make(Pointer)));
+        internal override VyrObject Copy() => Copied(new FunctionStdDevXType(Native.Make(Pointer)));
 
         /// <inheritdoc/>
         public override bool IsComplete => Is(Native.is_occurs_ok(Pointer));
@@ -36,7 +36,7 @@ namespace Vyr
 
         /// <inheritdoc/>
         public new FunctionStdDevYType Clone() => (FunctionStdDevYType)Copy();
-        internal override VyrObject Copy() => Kept(new FunctionStdDevYType(Native.Make(Pointer)));
+        internal override VyrObject Copy() => Copied(new FunctionStdDevYType(Native.Make(Pointer)));
 
         /// <inheritdoc/>
         public override bool IsComplete => Is(Native.is_occurs_ok(Pointer));
@@ -55,7 +55,7 @@ namespace Vyr
 
         /// <inheritdoc/>
         public new FunctionStdDevZType Clone() => (FunctionStdDevZType)Copy();
-        internal override VyrObject Copy() => Kept(new FunctionStdDevZType(Native.Make(Pointer)));
+        internal override VyrObject Copy() => Copied(new FunctionStdDevZType(Native.Make(Pointer)));
 
         /// <inheritdoc/>
         public override bool IsComplete => Is(Native.is_occurs_ok(Pointer));
@@ -74,7 +74,7 @@ namespace Vyr
 
         /// <inheritdoc/>
         public new FunctionStdDevLType Clone() => (FunctionStdDevLType)Copy();
-        internal override VyrObject Copy() => Kept(new FunctionStdDevLType(Native.Make(Pointer)));
+        internal override VyrObject Copy() => Copied(new FunctionStdDevLType(Native.Make(Pointer)));
 
         /// <inheritdoc/>
         public override bool IsComplete => Is(Native.is_occurs_ok(Pointer));
@@ -93,7 +93,7 @@ namespace Vyr
 
         /// <inheritdoc/>
         public new FunctionStdDevAType Clone() => (FunctionStdDevAType)Copy();
-        internal override VyrObject Copy() => Kept(new FunctionStdDevAType(Native.Make(Pointer)));
+        internal override VyrObject Copy() => Copied(new FunctionStdDevAType(Native.Make(Pointer)));
 
         /// <inheritdoc/>
         public override bool IsComplete => Is(Native.is_occurs_ok(Pointer));
@@ -112,7 +112,7 @@ namespace Vyr
 
         /// <inheritdoc/>
         public new FunctionStdDevBType Clone() => (FunctionStdDevBType)Copy();
-        internal override VyrObject Copy() => Kept(new FunctionStdDevBType(Native.Make(Pointer)));
+        internal override VyrObject Copy() => Copied(new FunctionStdDevBType(Native.Make(Pointer)));
 
         /// <inheritdoc/>
         public override bool IsComplete => Is(Native.is_occurs_ok(Pointer));
@@ -131,7 +131,7 @@ namespace Vyr
 
         /// <inheritdoc/>
         public new FunctionStdDevCType Clone() => (FunctionStdDevCType)Copy();
-        internal override VyrObject Copy() => Kept(new FunctionStdDevCType(Native.Make(Pointer)));
+        internal override VyrObject Copy() => Copied(new FunctionStdDevCType(Native.Make(Pointer)));
 
         /// <inheritdoc/>
         public override bool IsComplete => Is(Native.is_occurs_ok(Pointer));
@@ -150,7 +150,7 @@ namespace Vyr
 
         /// <inheritdoc/>
         public new FunctionStdDevHType Clone() => (FunctionStdDevHType)Copy();
-        internal override VyrObject Copy() => Kept(new FunctionStdDevHType(Native.Make(Pointer)));
+        internal override VyrObject Copy() => Copied(new FunctionStdDevHType(Native.Make(Pointer)));
 
         /// <inheritdoc/>
         public override bool IsComplete => Is(Native.is_occurs_ok(Pointer));
@@ -169,7 +169,7 @@ namespace Vyr
 
         /// <inheritdoc/>
         public new FunctionAverageStdDevLType Clone() => (FunctionAverageStdDevLType)Copy();
-        internal override VyrObject Copy() => Kept(new FunctionAverageStdDevLType(Native.Make(Pointer)));
+        internal override VyrObject Copy() => Copied(new FunctionAverageStdDevLType(Native.Make(Pointer)));
 
         /// <inheritdoc/>
         public override bool IsComplete => Is(Native.is_occurs_ok(Pointer));
@@ -188,7 +188,7 @@ namespace Vyr
 
         /// <inheritdoc/>
         public new FunctionAverageStdDevAType Clone() => (FunctionAverageStdDevAType)Copy();
-        internal override VyrObject Copy() => Kept(new FunctionAverageStdDevAType(Native.Make(Pointer)));
+        internal override VyrObject Copy() => Copied(new FunctionAverageStdDevAType(Native.Make(Pointer)));
 
         /// <inheritdoc/>
         public override bool IsComplete => Is(Native.is_occurs_ok(Pointer));
@@ -207,7 +207,7 @@ namespace Vyr
 
         /// <inheritdoc/>
         public new FunctionAverageStdDevBType Clone() => (FunctionAverageStdDevBType)Copy();
-        internal override VyrObject Copy() => Kept(new FunctionAverageStdDevBType(Native.Make(Pointer)));
+        internal override VyrObject Copy() => Copied(new FunctionAverageStdDevBType(Native.Make(Pointer)));
 
         /// <inheritdoc/>
         public override bool IsComplete => Is(Native.is_occurs_ok(Pointer));
@@ -226,13 +226,20 @@ namespace Vyr
 
         /// <inheritdoc/>
         public new FunctionStdDevX Clone() => (FunctionStdDevX)Copy();
-        internal override VyrObject Copy() => Kept(new FunctionStdDevX(Native.Make(Pointer)));
+        internal override VyrObject Copy() => Copied(new FunctionStdDevX(Native.Make(Pointer)));
 
         /// <summary>Loads a file that has the element FunctionStdDevX as its root.</summary>
-        public static FunctionStdDevX Load(string path) { var made = new FunctionStdDevX(); made.Loaded(Native.unmarshal(made.Pointer, Library.Narrow(path)), path); return made; }
+        public static FunctionStdDevX Load(string path) { TryLoad(path, out FunctionStdDevX loaded).DemandLoaded(path); return loaded; }
+
+        /// <summary>The same without throwing for what is wrong with the file; null then, unless the options ask for
+        /// what was read.</summary>
+        public static LoadReport TryLoad(string path, out FunctionStdDevX loaded, LoadOptions options = null) => Load(new FunctionStdDevX(), path, options, out loaded);
 
         /// <summary>Saves a file with this element as its root.</summary>
-        public void Save(string path) => Saved(Native.marshal(Pointer, Library.Narrow(path)), path);
+        public void Save(string path) => TrySave(path).DemandSaved();
+
+        /// <summary>The same without throwing for what is wrong.</summary>
+        public LoadReport TrySave(string path) => SaveElement(path);
     }
 
     /// <summary>Standard deviation of the tristimulus value Y.</summary>
@@ -245,13 +252,20 @@ namespace Vyr
 
         /// <inheritdoc/>
         public new FunctionStdDevY Clone() => (FunctionStdDevY)Copy();
-        internal override VyrObject Copy() => Kept(new FunctionStdDevY(Native.Make(Pointer)));
+        internal override VyrObject Copy() => Copied(new FunctionStdDevY(Native.Make(Pointer)));
 
         /// <summary>Loads a file that has the element FunctionStdDevY as its root.</summary>
-        public static FunctionStdDevY Load(string path) { var made = new FunctionStdDevY(); made.Loaded(Native.unmarshal(made.Pointer, Library.Narrow(path)), path); return made; }
+        public static FunctionStdDevY Load(string path) { TryLoad(path, out FunctionStdDevY loaded).DemandLoaded(path); return loaded; }
+
+        /// <summary>The same without throwing for what is wrong with the file; null then, unless the options ask for
+        /// what was read.</summary>
+        public static LoadReport TryLoad(string path, out FunctionStdDevY loaded, LoadOptions options = null) => Load(new FunctionStdDevY(), path, options, out loaded);
 
         /// <summary>Saves a file with this element as its root.</summary>
-        public void Save(string path) => Saved(Native.marshal(Pointer, Library.Narrow(path)), path);
+        public void Save(string path) => TrySave(path).DemandSaved();
+
+        /// <summary>The same without throwing for what is wrong.</summary>
+        public LoadReport TrySave(string path) => SaveElement(path);
     }
 
     /// <summary>Standard deviation of the tristimulus value Z.</summary>
@@ -264,13 +278,20 @@ namespace Vyr
 
         /// <inheritdoc/>
         public new FunctionStdDevZ Clone() => (FunctionStdDevZ)Copy();
-        internal override VyrObject Copy() => Kept(new FunctionStdDevZ(Native.Make(Pointer)));
+        internal override VyrObject Copy() => Copied(new FunctionStdDevZ(Native.Make(Pointer)));
 
         /// <summary>Loads a file that has the element FunctionStdDevZ as its root.</summary>
-        public static FunctionStdDevZ Load(string path) { var made = new FunctionStdDevZ(); made.Loaded(Native.unmarshal(made.Pointer, Library.Narrow(path)), path); return made; }
+        public static FunctionStdDevZ Load(string path) { TryLoad(path, out FunctionStdDevZ loaded).DemandLoaded(path); return loaded; }
+
+        /// <summary>The same without throwing for what is wrong with the file; null then, unless the options ask for
+        /// what was read.</summary>
+        public static LoadReport TryLoad(string path, out FunctionStdDevZ loaded, LoadOptions options = null) => Load(new FunctionStdDevZ(), path, options, out loaded);
 
         /// <summary>Saves a file with this element as its root.</summary>
-        public void Save(string path) => Saved(Native.marshal(Pointer, Library.Narrow(path)), path);
+        public void Save(string path) => TrySave(path).DemandSaved();
+
+        /// <summary>The same without throwing for what is wrong.</summary>
+        public LoadReport TrySave(string path) => SaveElement(path);
     }
 
     /// <summary>Standard deviation of the lightness L*.</summary>
@@ -283,13 +304,20 @@ namespace Vyr
 
         /// <inheritdoc/>
         public new FunctionStdDevL Clone() => (FunctionStdDevL)Copy();
-        internal override VyrObject Copy() => Kept(new FunctionStdDevL(Native.Make(Pointer)));
+        internal override VyrObject Copy() => Copied(new FunctionStdDevL(Native.Make(Pointer)));
 
         /// <summary>Loads a file that has the element FunctionStdDevL as its root.</summary>
-        public static FunctionStdDevL Load(string path) { var made = new FunctionStdDevL(); made.Loaded(Native.unmarshal(made.Pointer, Library.Narrow(path)), path); return made; }
+        public static FunctionStdDevL Load(string path) { TryLoad(path, out FunctionStdDevL loaded).DemandLoaded(path); return loaded; }
+
+        /// <summary>The same without throwing for what is wrong with the file; null then, unless the options ask for
+        /// what was read.</summary>
+        public static LoadReport TryLoad(string path, out FunctionStdDevL loaded, LoadOptions options = null) => Load(new FunctionStdDevL(), path, options, out loaded);
 
         /// <summary>Saves a file with this element as its root.</summary>
-        public void Save(string path) => Saved(Native.marshal(Pointer, Library.Narrow(path)), path);
+        public void Save(string path) => TrySave(path).DemandSaved();
+
+        /// <summary>The same without throwing for what is wrong.</summary>
+        public LoadReport TrySave(string path) => SaveElement(path);
     }
 
     /// <summary>Standard deviation of a*.</summary>
@@ -302,13 +330,20 @@ namespace Vyr
 
         /// <inheritdoc/>
         public new FunctionStdDevA Clone() => (FunctionStdDevA)Copy();
-        internal override VyrObject Copy() => Kept(new FunctionStdDevA(Native.Make(Pointer)));
+        internal override VyrObject Copy() => Copied(new FunctionStdDevA(Native.Make(Pointer)));
 
         /// <summary>Loads a file that has the element FunctionStdDevA as its root.</summary>
-        public static FunctionStdDevA Load(string path) { var made = new FunctionStdDevA(); made.Loaded(Native.unmarshal(made.Pointer, Library.Narrow(path)), path); return made; }
+        public static FunctionStdDevA Load(string path) { TryLoad(path, out FunctionStdDevA loaded).DemandLoaded(path); return loaded; }
+
+        /// <summary>The same without throwing for what is wrong with the file; null then, unless the options ask for
+        /// what was read.</summary>
+        public static LoadReport TryLoad(string path, out FunctionStdDevA loaded, LoadOptions options = null) => Load(new FunctionStdDevA(), path, options, out loaded);
 
         /// <summary>Saves a file with this element as its root.</summary>
-        public void Save(string path) => Saved(Native.marshal(Pointer, Library.Narrow(path)), path);
+        public void Save(string path) => TrySave(path).DemandSaved();
+
+        /// <summary>The same without throwing for what is wrong.</summary>
+        public LoadReport TrySave(string path) => SaveElement(path);
     }
 
     /// <summary>Standard deviation of b*.</summary>
@@ -321,13 +356,20 @@ namespace Vyr
 
         /// <inheritdoc/>
         public new FunctionStdDevB Clone() => (FunctionStdDevB)Copy();
-        internal override VyrObject Copy() => Kept(new FunctionStdDevB(Native.Make(Pointer)));
+        internal override VyrObject Copy() => Copied(new FunctionStdDevB(Native.Make(Pointer)));
 
         /// <summary>Loads a file that has the element FunctionStdDevB as its root.</summary>
-        public static FunctionStdDevB Load(string path) { var made = new FunctionStdDevB(); made.Loaded(Native.unmarshal(made.Pointer, Library.Narrow(path)), path); return made; }
+        public static FunctionStdDevB Load(string path) { TryLoad(path, out FunctionStdDevB loaded).DemandLoaded(path); return loaded; }
+
+        /// <summary>The same without throwing for what is wrong with the file; null then, unless the options ask for
+        /// what was read.</summary>
+        public static LoadReport TryLoad(string path, out FunctionStdDevB loaded, LoadOptions options = null) => Load(new FunctionStdDevB(), path, options, out loaded);
 
         /// <summary>Saves a file with this element as its root.</summary>
-        public void Save(string path) => Saved(Native.marshal(Pointer, Library.Narrow(path)), path);
+        public void Save(string path) => TrySave(path).DemandSaved();
+
+        /// <summary>The same without throwing for what is wrong.</summary>
+        public LoadReport TrySave(string path) => SaveElement(path);
     }
 
     /// <summary>Standard deviation of the chroma C*.</summary>
@@ -340,13 +382,20 @@ namespace Vyr
 
         /// <inheritdoc/>
         public new FunctionStdDevC Clone() => (FunctionStdDevC)Copy();
-        internal override VyrObject Copy() => Kept(new FunctionStdDevC(Native.Make(Pointer)));
+        internal override VyrObject Copy() => Copied(new FunctionStdDevC(Native.Make(Pointer)));
 
         /// <summary>Loads a file that has the element FunctionStdDevC as its root.</summary>
-        public static FunctionStdDevC Load(string path) { var made = new FunctionStdDevC(); made.Loaded(Native.unmarshal(made.Pointer, Library.Narrow(path)), path); return made; }
+        public static FunctionStdDevC Load(string path) { TryLoad(path, out FunctionStdDevC loaded).DemandLoaded(path); return loaded; }
+
+        /// <summary>The same without throwing for what is wrong with the file; null then, unless the options ask for
+        /// what was read.</summary>
+        public static LoadReport TryLoad(string path, out FunctionStdDevC loaded, LoadOptions options = null) => Load(new FunctionStdDevC(), path, options, out loaded);
 
         /// <summary>Saves a file with this element as its root.</summary>
-        public void Save(string path) => Saved(Native.marshal(Pointer, Library.Narrow(path)), path);
+        public void Save(string path) => TrySave(path).DemandSaved();
+
+        /// <summary>The same without throwing for what is wrong.</summary>
+        public LoadReport TrySave(string path) => SaveElement(path);
     }
 
     /// <summary>Standard deviation of the hue.</summary>
@@ -359,13 +408,20 @@ namespace Vyr
 
         /// <inheritdoc/>
         public new FunctionStdDevH Clone() => (FunctionStdDevH)Copy();
-        internal override VyrObject Copy() => Kept(new FunctionStdDevH(Native.Make(Pointer)));
+        internal override VyrObject Copy() => Copied(new FunctionStdDevH(Native.Make(Pointer)));
 
         /// <summary>Loads a file that has the element FunctionStdDevH as its root.</summary>
-        public static FunctionStdDevH Load(string path) { var made = new FunctionStdDevH(); made.Loaded(Native.unmarshal(made.Pointer, Library.Narrow(path)), path); return made; }
+        public static FunctionStdDevH Load(string path) { TryLoad(path, out FunctionStdDevH loaded).DemandLoaded(path); return loaded; }
+
+        /// <summary>The same without throwing for what is wrong with the file; null then, unless the options ask for
+        /// what was read.</summary>
+        public static LoadReport TryLoad(string path, out FunctionStdDevH loaded, LoadOptions options = null) => Load(new FunctionStdDevH(), path, options, out loaded);
 
         /// <summary>Saves a file with this element as its root.</summary>
-        public void Save(string path) => Saved(Native.marshal(Pointer, Library.Narrow(path)), path);
+        public void Save(string path) => TrySave(path).DemandSaved();
+
+        /// <summary>The same without throwing for what is wrong.</summary>
+        public LoadReport TrySave(string path) => SaveElement(path);
     }
 
     /// <summary>Average standard deviation of the lightness L*.</summary>
@@ -378,13 +434,20 @@ namespace Vyr
 
         /// <inheritdoc/>
         public new FunctionAverageStdDevL Clone() => (FunctionAverageStdDevL)Copy();
-        internal override VyrObject Copy() => Kept(new FunctionAverageStdDevL(Native.Make(Pointer)));
+        internal override VyrObject Copy() => Copied(new FunctionAverageStdDevL(Native.Make(Pointer)));
 
         /// <summary>Loads a file that has the element FunctionAverageStdDevL as its root.</summary>
-        public static FunctionAverageStdDevL Load(string path) { var made = new FunctionAverageStdDevL(); made.Loaded(Native.unmarshal(made.Pointer, Library.Narrow(path)), path); return made; }
+        public static FunctionAverageStdDevL Load(string path) { TryLoad(path, out FunctionAverageStdDevL loaded).DemandLoaded(path); return loaded; }
+
+        /// <summary>The same without throwing for what is wrong with the file; null then, unless the options ask for
+        /// what was read.</summary>
+        public static LoadReport TryLoad(string path, out FunctionAverageStdDevL loaded, LoadOptions options = null) => Load(new FunctionAverageStdDevL(), path, options, out loaded);
 
         /// <summary>Saves a file with this element as its root.</summary>
-        public void Save(string path) => Saved(Native.marshal(Pointer, Library.Narrow(path)), path);
+        public void Save(string path) => TrySave(path).DemandSaved();
+
+        /// <summary>The same without throwing for what is wrong.</summary>
+        public LoadReport TrySave(string path) => SaveElement(path);
     }
 
     /// <summary>Average standard deviation of a*.</summary>
@@ -397,13 +460,20 @@ namespace Vyr
 
         /// <inheritdoc/>
         public new FunctionAverageStdDevA Clone() => (FunctionAverageStdDevA)Copy();
-        internal override VyrObject Copy() => Kept(new FunctionAverageStdDevA(Native.Make(Pointer)));
+        internal override VyrObject Copy() => Copied(new FunctionAverageStdDevA(Native.Make(Pointer)));
 
         /// <summary>Loads a file that has the element FunctionAverageStdDevA as its root.</summary>
-        public static FunctionAverageStdDevA Load(string path) { var made = new FunctionAverageStdDevA(); made.Loaded(Native.unmarshal(made.Pointer, Library.Narrow(path)), path); return made; }
+        public static FunctionAverageStdDevA Load(string path) { TryLoad(path, out FunctionAverageStdDevA loaded).DemandLoaded(path); return loaded; }
+
+        /// <summary>The same without throwing for what is wrong with the file; null then, unless the options ask for
+        /// what was read.</summary>
+        public static LoadReport TryLoad(string path, out FunctionAverageStdDevA loaded, LoadOptions options = null) => Load(new FunctionAverageStdDevA(), path, options, out loaded);
 
         /// <summary>Saves a file with this element as its root.</summary>
-        public void Save(string path) => Saved(Native.marshal(Pointer, Library.Narrow(path)), path);
+        public void Save(string path) => TrySave(path).DemandSaved();
+
+        /// <summary>The same without throwing for what is wrong.</summary>
+        public LoadReport TrySave(string path) => SaveElement(path);
     }
 
     /// <summary>Average standard deviation of b*.</summary>
@@ -416,12 +486,19 @@ namespace Vyr
 
         /// <inheritdoc/>
         public new FunctionAverageStdDevB Clone() => (FunctionAverageStdDevB)Copy();
-        internal override VyrObject Copy() => Kept(new FunctionAverageStdDevB(Native.Make(Pointer)));
+        internal override VyrObject Copy() => Copied(new FunctionAverageStdDevB(Native.Make(Pointer)));
 
         /// <summary>Loads a file that has the element FunctionAverageStdDevB as its root.</summary>
-        public static FunctionAverageStdDevB Load(string path) { var made = new FunctionAverageStdDevB(); made.Loaded(Native.unmarshal(made.Pointer, Library.Narrow(path)), path); return made; }
+        public static FunctionAverageStdDevB Load(string path) { TryLoad(path, out FunctionAverageStdDevB loaded).DemandLoaded(path); return loaded; }
+
+        /// <summary>The same without throwing for what is wrong with the file; null then, unless the options ask for
+        /// what was read.</summary>
+        public static LoadReport TryLoad(string path, out FunctionAverageStdDevB loaded, LoadOptions options = null) => Load(new FunctionAverageStdDevB(), path, options, out loaded);
 
         /// <summary>Saves a file with this element as its root.</summary>
-        public void Save(string path) => Saved(Native.marshal(Pointer, Library.Narrow(path)), path);
+        public void Save(string path) => TrySave(path).DemandSaved();
+
+        /// <summary>The same without throwing for what is wrong.</summary>
+        public LoadReport TrySave(string path) => SaveElement(path);
     }
 }

@@ -14,7 +14,7 @@ namespace Vyr
 
         /// <inheritdoc/>
         public new SubstrateType Clone() => (SubstrateType)Copy();
-        internal override VyrObject Copy() => Kept(new SubstrateType(Native.Make(Pointer)));
+        internal override VyrObject Copy() => Copied(new SubstrateType(Native.Make(Pointer)));
 
         /// <inheritdoc/>
         public override bool IsComplete => Is(Native.is_occurs_ok(Pointer));
@@ -51,7 +51,7 @@ namespace Vyr
 
         /// <inheritdoc/>
         public new SubstratePaperType Clone() => (SubstratePaperType)Copy();
-        internal override VyrObject Copy() => Kept(new SubstratePaperType(Native.Make(Pointer)));
+        internal override VyrObject Copy() => Copied(new SubstratePaperType(Native.Make(Pointer)));
 
         /// <inheritdoc/>
         public override bool IsComplete => Is(Native.is_occurs_ok(Pointer));
@@ -76,7 +76,7 @@ namespace Vyr
 
         /// <inheritdoc/>
         public new SubstrateGenericType Clone() => (SubstrateGenericType)Copy();
-        internal override VyrObject Copy() => Kept(new SubstrateGenericType(Native.Make(Pointer)));
+        internal override VyrObject Copy() => Copied(new SubstrateGenericType(Native.Make(Pointer)));
 
         /// <inheritdoc/>
         public override bool IsComplete => Is(Native.is_occurs_ok(Pointer));
@@ -98,7 +98,7 @@ namespace Vyr
 
         /// <inheritdoc/>
         public new SubstrateMetalType Clone() => (SubstrateMetalType)Copy();
-        internal override VyrObject Copy() => Kept(new SubstrateMetalType(Native.Make(Pointer)));
+        internal override VyrObject Copy() => Copied(new SubstrateMetalType(Native.Make(Pointer)));
 
         /// <inheritdoc/>
         public override bool IsComplete => Is(Native.is_occurs_ok(Pointer));
@@ -123,7 +123,7 @@ namespace Vyr
 
         /// <inheritdoc/>
         public new SubstratePlasticType Clone() => (SubstratePlasticType)Copy();
-        internal override VyrObject Copy() => Kept(new SubstratePlasticType(Native.Make(Pointer)));
+        internal override VyrObject Copy() => Copied(new SubstratePlasticType(Native.Make(Pointer)));
 
         /// <inheritdoc/>
         public override bool IsComplete => Is(Native.is_occurs_ok(Pointer));
@@ -148,7 +148,7 @@ namespace Vyr
 
         /// <inheritdoc/>
         public new SubstrateWoodType Clone() => (SubstrateWoodType)Copy();
-        internal override VyrObject Copy() => Kept(new SubstrateWoodType(Native.Make(Pointer)));
+        internal override VyrObject Copy() => Copied(new SubstrateWoodType(Native.Make(Pointer)));
 
         /// <inheritdoc/>
         public override bool IsComplete => Is(Native.is_occurs_ok(Pointer));
@@ -173,7 +173,7 @@ namespace Vyr
 
         /// <inheritdoc/>
         public new SubstrateVinylType Clone() => (SubstrateVinylType)Copy();
-        internal override VyrObject Copy() => Kept(new SubstrateVinylType(Native.Make(Pointer)));
+        internal override VyrObject Copy() => Copied(new SubstrateVinylType(Native.Make(Pointer)));
 
         /// <inheritdoc/>
         public override bool IsComplete => Is(Native.is_occurs_ok(Pointer));
@@ -198,7 +198,7 @@ namespace Vyr
 
         /// <inheritdoc/>
         public new SubstrateTileType Clone() => (SubstrateTileType)Copy();
-        internal override VyrObject Copy() => Kept(new SubstrateTileType(Native.Make(Pointer)));
+        internal override VyrObject Copy() => Copied(new SubstrateTileType(Native.Make(Pointer)));
 
         /// <inheritdoc/>
         public override bool IsComplete => Is(Native.is_occurs_ok(Pointer));
@@ -223,7 +223,7 @@ namespace Vyr
 
         /// <inheritdoc/>
         public new SubstrateFilmType Clone() => (SubstrateFilmType)Copy();
-        internal override VyrObject Copy() => Kept(new SubstrateFilmType(Native.Make(Pointer)));
+        internal override VyrObject Copy() => Copied(new SubstrateFilmType(Native.Make(Pointer)));
 
         /// <inheritdoc/>
         public override bool IsComplete => Is(Native.is_occurs_ok(Pointer));
@@ -248,7 +248,7 @@ namespace Vyr
 
         /// <inheritdoc/>
         public new SubstrateTextileType Clone() => (SubstrateTextileType)Copy();
-        internal override VyrObject Copy() => Kept(new SubstrateTextileType(Native.Make(Pointer)));
+        internal override VyrObject Copy() => Copied(new SubstrateTextileType(Native.Make(Pointer)));
 
         /// <inheritdoc/>
         public override bool IsComplete => Is(Native.is_occurs_ok(Pointer));
@@ -273,13 +273,20 @@ namespace Vyr
 
         /// <inheritdoc/>
         public new SubstratePaper Clone() => (SubstratePaper)Copy();
-        internal override VyrObject Copy() => Kept(new SubstratePaper(Native.Make(Pointer)));
+        internal override VyrObject Copy() => Copied(new SubstratePaper(Native.Make(Pointer)));
 
         /// <summary>Loads a file that has the element SubstratePaper as its root.</summary>
-        public static SubstratePaper Load(string path) { var made = new SubstratePaper(); made.Loaded(Native.unmarshal(made.Pointer, Library.Narrow(path)), path); return made; }
+        public static SubstratePaper Load(string path) { TryLoad(path, out SubstratePaper loaded).DemandLoaded(path); return loaded; }
+
+        /// <summary>The same without throwing for what is wrong with the file; null then, unless the options ask for
+        /// what was read.</summary>
+        public static LoadReport TryLoad(string path, out SubstratePaper loaded, LoadOptions options = null) => Load(new SubstratePaper(), path, options, out loaded);
 
         /// <summary>Saves a file with this element as its root.</summary>
-        public void Save(string path) => Saved(Native.marshal(Pointer, Library.Narrow(path)), path);
+        public void Save(string path) => TrySave(path).DemandSaved();
+
+        /// <summary>The same without throwing for what is wrong.</summary>
+        public LoadReport TrySave(string path) => SaveElement(path);
     }
 
     /// <summary>A material that has no type of its own.</summary>
@@ -292,13 +299,20 @@ namespace Vyr
 
         /// <inheritdoc/>
         public new SubstrateGeneric Clone() => (SubstrateGeneric)Copy();
-        internal override VyrObject Copy() => Kept(new SubstrateGeneric(Native.Make(Pointer)));
+        internal override VyrObject Copy() => Copied(new SubstrateGeneric(Native.Make(Pointer)));
 
         /// <summary>Loads a file that has the element SubstrateGeneric as its root.</summary>
-        public static SubstrateGeneric Load(string path) { var made = new SubstrateGeneric(); made.Loaded(Native.unmarshal(made.Pointer, Library.Narrow(path)), path); return made; }
+        public static SubstrateGeneric Load(string path) { TryLoad(path, out SubstrateGeneric loaded).DemandLoaded(path); return loaded; }
+
+        /// <summary>The same without throwing for what is wrong with the file; null then, unless the options ask for
+        /// what was read.</summary>
+        public static LoadReport TryLoad(string path, out SubstrateGeneric loaded, LoadOptions options = null) => Load(new SubstrateGeneric(), path, options, out loaded);
 
         /// <summary>Saves a file with this element as its root.</summary>
-        public void Save(string path) => Saved(Native.marshal(Pointer, Library.Narrow(path)), path);
+        public void Save(string path) => TrySave(path).DemandSaved();
+
+        /// <summary>The same without throwing for what is wrong.</summary>
+        public LoadReport TrySave(string path) => SaveElement(path);
     }
 
     /// <summary>Metal.</summary>
@@ -311,13 +325,20 @@ namespace Vyr
 
         /// <inheritdoc/>
         public new SubstrateMetal Clone() => (SubstrateMetal)Copy();
-        internal override VyrObject Copy() => Kept(new SubstrateMetal(Native.Make(Pointer)));
+        internal override VyrObject Copy() => Copied(new SubstrateMetal(Native.Make(Pointer)));
 
         /// <summary>Loads a file that has the element SubstrateMetal as its root.</summary>
-        public static SubstrateMetal Load(string path) { var made = new SubstrateMetal(); made.Loaded(Native.unmarshal(made.Pointer, Library.Narrow(path)), path); return made; }
+        public static SubstrateMetal Load(string path) { TryLoad(path, out SubstrateMetal loaded).DemandLoaded(path); return loaded; }
+
+        /// <summary>The same without throwing for what is wrong with the file; null then, unless the options ask for
+        /// what was read.</summary>
+        public static LoadReport TryLoad(string path, out SubstrateMetal loaded, LoadOptions options = null) => Load(new SubstrateMetal(), path, options, out loaded);
 
         /// <summary>Saves a file with this element as its root.</summary>
-        public void Save(string path) => Saved(Native.marshal(Pointer, Library.Narrow(path)), path);
+        public void Save(string path) => TrySave(path).DemandSaved();
+
+        /// <summary>The same without throwing for what is wrong.</summary>
+        public LoadReport TrySave(string path) => SaveElement(path);
     }
 
     /// <summary>Plastic.</summary>
@@ -330,13 +351,20 @@ namespace Vyr
 
         /// <inheritdoc/>
         public new SubstratePlastic Clone() => (SubstratePlastic)Copy();
-        internal override VyrObject Copy() => Kept(new SubstratePlastic(Native.Make(Pointer)));
+        internal override VyrObject Copy() => Copied(new SubstratePlastic(Native.Make(Pointer)));
 
         /// <summary>Loads a file that has the element SubstratePlastic as its root.</summary>
-        public static SubstratePlastic Load(string path) { var made = new SubstratePlastic(); made.Loaded(Native.unmarshal(made.Pointer, Library.Narrow(path)), path); return made; }
+        public static SubstratePlastic Load(string path) { TryLoad(path, out SubstratePlastic loaded).DemandLoaded(path); return loaded; }
+
+        /// <summary>The same without throwing for what is wrong with the file; null then, unless the options ask for
+        /// what was read.</summary>
+        public static LoadReport TryLoad(string path, out SubstratePlastic loaded, LoadOptions options = null) => Load(new SubstratePlastic(), path, options, out loaded);
 
         /// <summary>Saves a file with this element as its root.</summary>
-        public void Save(string path) => Saved(Native.marshal(Pointer, Library.Narrow(path)), path);
+        public void Save(string path) => TrySave(path).DemandSaved();
+
+        /// <summary>The same without throwing for what is wrong.</summary>
+        public LoadReport TrySave(string path) => SaveElement(path);
     }
 
     /// <summary>Wood.</summary>
@@ -349,13 +377,20 @@ namespace Vyr
 
         /// <inheritdoc/>
         public new SubstrateWood Clone() => (SubstrateWood)Copy();
-        internal override VyrObject Copy() => Kept(new SubstrateWood(Native.Make(Pointer)));
+        internal override VyrObject Copy() => Copied(new SubstrateWood(Native.Make(Pointer)));
 
         /// <summary>Loads a file that has the element SubstrateWood as its root.</summary>
-        public static SubstrateWood Load(string path) { var made = new SubstrateWood(); made.Loaded(Native.unmarshal(made.Pointer, Library.Narrow(path)), path); return made; }
+        public static SubstrateWood Load(string path) { TryLoad(path, out SubstrateWood loaded).DemandLoaded(path); return loaded; }
+
+        /// <summary>The same without throwing for what is wrong with the file; null then, unless the options ask for
+        /// what was read.</summary>
+        public static LoadReport TryLoad(string path, out SubstrateWood loaded, LoadOptions options = null) => Load(new SubstrateWood(), path, options, out loaded);
 
         /// <summary>Saves a file with this element as its root.</summary>
-        public void Save(string path) => Saved(Native.marshal(Pointer, Library.Narrow(path)), path);
+        public void Save(string path) => TrySave(path).DemandSaved();
+
+        /// <summary>The same without throwing for what is wrong.</summary>
+        public LoadReport TrySave(string path) => SaveElement(path);
     }
 
     /// <summary>Vinyl.</summary>
@@ -368,13 +403,20 @@ namespace Vyr
 
         /// <inheritdoc/>
         public new SubstrateVinyl Clone() => (SubstrateVinyl)Copy();
-        internal override VyrObject Copy() => Kept(new SubstrateVinyl(Native.Make(Pointer)));
+        internal override VyrObject Copy() => Copied(new SubstrateVinyl(Native.Make(Pointer)));
 
         /// <summary>Loads a file that has the element SubstrateVinyl as its root.</summary>
-        public static SubstrateVinyl Load(string path) { var made = new SubstrateVinyl(); made.Loaded(Native.unmarshal(made.Pointer, Library.Narrow(path)), path); return made; }
+        public static SubstrateVinyl Load(string path) { TryLoad(path, out SubstrateVinyl loaded).DemandLoaded(path); return loaded; }
+
+        /// <summary>The same without throwing for what is wrong with the file; null then, unless the options ask for
+        /// what was read.</summary>
+        public static LoadReport TryLoad(string path, out SubstrateVinyl loaded, LoadOptions options = null) => Load(new SubstrateVinyl(), path, options, out loaded);
 
         /// <summary>Saves a file with this element as its root.</summary>
-        public void Save(string path) => Saved(Native.marshal(Pointer, Library.Narrow(path)), path);
+        public void Save(string path) => TrySave(path).DemandSaved();
+
+        /// <summary>The same without throwing for what is wrong.</summary>
+        public LoadReport TrySave(string path) => SaveElement(path);
     }
 
     /// <summary>Ceramic or other tile.</summary>
@@ -387,13 +429,20 @@ namespace Vyr
 
         /// <inheritdoc/>
         public new SubstrateTile Clone() => (SubstrateTile)Copy();
-        internal override VyrObject Copy() => Kept(new SubstrateTile(Native.Make(Pointer)));
+        internal override VyrObject Copy() => Copied(new SubstrateTile(Native.Make(Pointer)));
 
         /// <summary>Loads a file that has the element SubstrateTile as its root.</summary>
-        public static SubstrateTile Load(string path) { var made = new SubstrateTile(); made.Loaded(Native.unmarshal(made.Pointer, Library.Narrow(path)), path); return made; }
+        public static SubstrateTile Load(string path) { TryLoad(path, out SubstrateTile loaded).DemandLoaded(path); return loaded; }
+
+        /// <summary>The same without throwing for what is wrong with the file; null then, unless the options ask for
+        /// what was read.</summary>
+        public static LoadReport TryLoad(string path, out SubstrateTile loaded, LoadOptions options = null) => Load(new SubstrateTile(), path, options, out loaded);
 
         /// <summary>Saves a file with this element as its root.</summary>
-        public void Save(string path) => Saved(Native.marshal(Pointer, Library.Narrow(path)), path);
+        public void Save(string path) => TrySave(path).DemandSaved();
+
+        /// <summary>The same without throwing for what is wrong.</summary>
+        public LoadReport TrySave(string path) => SaveElement(path);
     }
 
     /// <summary>Film or foil.</summary>
@@ -406,13 +455,20 @@ namespace Vyr
 
         /// <inheritdoc/>
         public new SubstrateFilm Clone() => (SubstrateFilm)Copy();
-        internal override VyrObject Copy() => Kept(new SubstrateFilm(Native.Make(Pointer)));
+        internal override VyrObject Copy() => Copied(new SubstrateFilm(Native.Make(Pointer)));
 
         /// <summary>Loads a file that has the element SubstrateFilm as its root.</summary>
-        public static SubstrateFilm Load(string path) { var made = new SubstrateFilm(); made.Loaded(Native.unmarshal(made.Pointer, Library.Narrow(path)), path); return made; }
+        public static SubstrateFilm Load(string path) { TryLoad(path, out SubstrateFilm loaded).DemandLoaded(path); return loaded; }
+
+        /// <summary>The same without throwing for what is wrong with the file; null then, unless the options ask for
+        /// what was read.</summary>
+        public static LoadReport TryLoad(string path, out SubstrateFilm loaded, LoadOptions options = null) => Load(new SubstrateFilm(), path, options, out loaded);
 
         /// <summary>Saves a file with this element as its root.</summary>
-        public void Save(string path) => Saved(Native.marshal(Pointer, Library.Narrow(path)), path);
+        public void Save(string path) => TrySave(path).DemandSaved();
+
+        /// <summary>The same without throwing for what is wrong.</summary>
+        public LoadReport TrySave(string path) => SaveElement(path);
     }
 
     /// <summary>Textile.</summary>
@@ -425,12 +481,19 @@ namespace Vyr
 
         /// <inheritdoc/>
         public new SubstrateTextile Clone() => (SubstrateTextile)Copy();
-        internal override VyrObject Copy() => Kept(new SubstrateTextile(Native.Make(Pointer)));
+        internal override VyrObject Copy() => Copied(new SubstrateTextile(Native.Make(Pointer)));
 
         /// <summary>Loads a file that has the element SubstrateTextile as its root.</summary>
-        public static SubstrateTextile Load(string path) { var made = new SubstrateTextile(); made.Loaded(Native.unmarshal(made.Pointer, Library.Narrow(path)), path); return made; }
+        public static SubstrateTextile Load(string path) { TryLoad(path, out SubstrateTextile loaded).DemandLoaded(path); return loaded; }
+
+        /// <summary>The same without throwing for what is wrong with the file; null then, unless the options ask for
+        /// what was read.</summary>
+        public static LoadReport TryLoad(string path, out SubstrateTextile loaded, LoadOptions options = null) => Load(new SubstrateTextile(), path, options, out loaded);
 
         /// <summary>Saves a file with this element as its root.</summary>
-        public void Save(string path) => Saved(Native.marshal(Pointer, Library.Narrow(path)), path);
+        public void Save(string path) => TrySave(path).DemandSaved();
+
+        /// <summary>The same without throwing for what is wrong.</summary>
+        public LoadReport TrySave(string path) => SaveElement(path);
     }
 }

@@ -31,7 +31,7 @@ static class Program
             }
             return 0;
         }
-        catch (VyrException failure)
+        catch (VyrException failure) when (failure.Report != null)
         {
             foreach (Fault fault in failure.Report.Faults)
                 Console.WriteLine("line {0}: {1}\n    {2}: {3}", fault.Line, fault.Path, fault.Text, fault.Detail);

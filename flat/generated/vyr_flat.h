@@ -67,6 +67,11 @@ void* VYR_FLAT_CALL VyrModule_LoadMemory(void* self, const void* data, uint32_t 
 void* VYR_FLAT_CALL VyrModule_WriteFile(void* self, const char16_t* path);
 /* Writes into a new text, which is null if a fault ended the save. */
 void* VYR_FLAT_CALL VyrModule_WriteString(void* self, char16_t** text);
+/* The same from a plain file that has another element as its root, into a new object of the element's class, such
+ * as "ColorSpaceCIELab". Null also for a class that is no such element. */
+void* VYR_FLAT_CALL VyrModule_LoadElement(void* self, const char* class_name, const char16_t* path, uint32_t collect, uint32_t limit);
+/* Writes such a file, of any name. */
+void* VYR_FLAT_CALL VyrModule_WriteElement(void* self, const char* class_name, const char16_t* path);
 /* Null is ignored. */
 void VYR_FLAT_CALL VyrModule_DeleteReport(void* report);
 /* 0, or the code of the first fault. */

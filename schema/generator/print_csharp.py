@@ -154,7 +154,7 @@ def life_cycle(printer, plan, made):
     lines += [*[""] * bool(lines), f"internal {name}(Handle handle) : base(handle) {{ }}"]
     printer.helper("Make", "Handle Make(IntPtr source) => Handle.New(() => Copy(source), p => Delete(p));", "Copy", "Delete")
     printer.add(None, f"public new {name} Clone()", f"=> ({name})Copy();")
-    lines.append(f"internal override VyrObject Copy() => Kept(new {name}(Native.Make(Pointer)));")
+    lines.append(f"internal override VyrObject Copy() => Copied(new {name}(Native.Make(Pointer)));")
     if made.wrapper:
         return
     printer.add(None, "public override bool IsComplete", "=> Is(Native.is_occurs_ok(Pointer));")
@@ -162,8 +162,10 @@ def life_cycle(printer, plan, made):
     if made.nillable:
         printer.add("True for an element that says that it has no value.", "public bool IsNil",
                     f"=> Is(Native.isnil_{made.name}(Pointer));")
-        printer.add("Makes it an element that says that it has no value. `Reset` takes that back, and so does setting "
-                    "a value of its own.", "public void SetNil()",
+        has_value = plan.content_item(made) or any(item.kind == "content" for item in made.items)
+        ends = ", and so does setting `Value`" if has_value else "; what it holds until then isn't saved"
+        printer.add(f"Makes it an element that says that it has no value. `Reset` takes that back{ends}.",
+                    "public void SetNil()",
                     f"{{ Native.setnil_{made.name}(Pointer); Keep(); }}")
 
 
@@ -172,10 +174,14 @@ def document_part(printer, made):
     if not made.is_document or made.declarations:
         return
     printer.add(f"Loads a file that has the element {made.element} as its root.", f"public static {name} Load(string path)",
-                f"{{ var made = new {name}(); made.Loaded(Native.unmarshal(made.Pointer, Library.Narrow(path)), path); "
-                "return made; }")
+                f"{{ TryLoad(path, out {name} loaded).DemandLoaded(path); return loaded; }}")
+    printer.add("The same without throwing for what is wrong with the file; null then, unless the options ask for what was "
+                "read.", f"public static LoadReport TryLoad(string path, out {name} loaded, LoadOptions options = null)",
+                f"=> Load(new {name}(), path, options, out loaded);")
     printer.add("Saves a file with this element as its root.", "public void Save(string path)",
-                "=> Saved(Native.marshal(Pointer, Library.Narrow(path)), path);")
+                "=> TrySave(path).DemandSaved();")
+    printer.add("The same without throwing for what is wrong.", "public LoadReport TrySave(string path)",
+                "=> SaveElement(path);")
 
 
 def family(printer, plan, made):

@@ -122,11 +122,12 @@ static class BehaviourTest
 
     static void Failures()
     {
+        int elements = 0;
         var missing = Check.Throws<FileNotFoundException>("a file that isn't there", () => Document.Load("none.vyr"));
         Check.That(missing.FileName == "none.vyr" && ((VyrException)missing.InnerException).Report.Faults.Count == 1, "it is named");
         Check.Throws<FileNotFoundException>("a container that isn't there", () => Document.Load("none.vyrz"));
         Check.Throws<IOException>("a folder", () => Document.Load("."));
-        Check.Throws<ArgumentNullException>("no path", () => Document.Load((string)null));
+        Check.Equal("path", Check.Throws<ArgumentNullException>("no path", () => Document.Load((string)null)).ParamName, "it is named");
         Check.Throws<ArgumentNullException>("no bytes", () => Document.Load((byte[])null));
         Check.Throws<ArgumentNullException>("no stream", () => Document.Load((Stream)null));
         Check.Throws<ArgumentNullException>("no text", () => Document.Parse(null));
@@ -175,6 +176,14 @@ static class BehaviourTest
         failure = Check.Throws<VyrException>("a carriage return", () => lines.Save("told.vyrz"));
         Check.That(failure.Report.IsReadToEnd && Document.Load("told.vyrz").Preamble.Header.Comments == "two\nlines", "it is written");
         Check.Equal("mine", File.ReadAllText("told.vyr"), "the file beside it");
+        Check.Equal("told.vyrz", failure.Report.Faults[0].File, "the file that was meant is named");
+        Check.That(failure.Message.StartsWith("told.vyrz: Preamble"), "the file that was meant is named");
+        Directory.CreateDirectory("taken.vyrz");
+        File.WriteAllText("taken.vyr", "mine");
+        report = Small().TrySave("taken.vyrz");
+        Check.That(report.Code == 1 && report.Faults[0].File == "taken.vyrz" && !report.IsReadToEnd, "a folder of that name");
+        Check.Throws<IOException>("a folder of that name", () => Small().Save("taken.vyrz"));
+        Check.Equal("mine", File.ReadAllText("taken.vyr"), "the file beside it");
         Check.Equal(1, lines.TrySave("told.vyr").Faults.Count, "a report instead");
         Check.Throws<VyrException>("a carriage return", () => lines.ToString());
 
@@ -188,7 +197,30 @@ static class BehaviourTest
         Check.That(color.B == -1 && color.ColorSpaceSpecificationSpectrumTristimulus.IsNil, "an element of its own");
         Check.Equal(16, Check.Throws<VyrException>("another element", () => ColorSpaceCIELab.Load(palette)).Code, "another element");
         Check.Throws<FileNotFoundException>("no element", () => ColorSpaceCIELab.Load("none.xml"));
-        Check.Throws<IOException>("no folder", () => color.Save("none/lab.xml"));
+        var refused = Check.Throws<IOException>("no folder", () => color.Save("none/lab.xml"));
+        Check.Equal("none/lab.xml", ((VyrException)refused.InnerException).Report.Faults[0].File, "the file is named");
+        Check.Throws<IOException>("a folder", () => ColorSpaceCIELab.Load("."));
+        Check.Throws<ArgumentNullException>("no path", () => ColorSpaceCIELab.Load(null));
+        if (File.Exists("/dev/full")) Check.Throws<IOException>("a full disk", () => color.Save("/dev/full"));
+        color.Name = "two\r\nlines";
+        failure = Check.Throws<VyrException>("a carriage return", () => color.Save("lab.xml"));
+        Check.That(failure.Report.IsReadToEnd && ColorSpaceCIELab.Load("lab.xml").Name == "two\nlines", "it is written");
+        File.WriteAllText("lab.xml", File.ReadAllText("lab.xml").Replace("<Vyr:L>50<", "<Vyr:L>none<").Replace("<Vyr:A>1<", "<Vyr:A>some<"));
+        failure = Check.Throws<VyrException>("wrong values", () => ColorSpaceCIELab.Load("lab.xml"));
+        Check.Equal("lab.xml:6: L: Invalid value format for this type (none): a number is expected", failure.Report.Faults[0].ToString(), "a fault");
+        Check.That(failure.Report.Faults.Count == 2, "all faults are reported");
+        report = ColorSpaceCIELab.TryLoad("lab.xml", out color, new LoadOptions { KeepPartial = true, FirstFaultOnly = true });
+        Check.That(report.Faults.Count == 1 && color.Name == "two\nlines", "what was read");
+        foreach (Type type in typeof(VyrObject).Assembly.GetExportedTypes().Where(t => t.IsSubclassOf(typeof(VyrObject))))
+        {
+            // Each class that is an element has its name in the library.
+            MethodInfo load = type.GetMethod("TryLoad", new[] { typeof(string), type.MakeByRefType(), typeof(LoadOptions) });
+            if (load == null) continue;
+            var arguments = new object[] { "none.xml", null, null };
+            Check.That(((LoadReport)load.Invoke(null, arguments)).Code == 1 && arguments[1] == null, type.Name);
+            ++elements;
+        }
+        Check.Equal(69, elements, "elements of their own");
     }
 
     static void Lives()
@@ -296,8 +328,22 @@ static class BehaviourTest
         {
             DateTimeOffset exact = time.AddSeconds(-15.25).AddTicks(ticks);
             color.ChangeHistory[1] = exact;
-            Check.Equal(exact.AddTicks(-(ticks % 1000)), color.ChangeHistory[1], "a time");
+            TimeSpan lost = exact - color.ChangeHistory[1];
+            Check.That(lost >= TimeSpan.Zero && lost.Ticks < 1000 && exact.Minute == color.ChangeHistory[1].Minute, "a time");
         }
+        // So does every time that the library has a text for.
+        foreach (string seconds in new[] { "59.9999", "10.0001", "09.99999", "01.00001", "00.999999", "00.0999999", "00.0123457",
+                                           "00.0012345", "00.000123", "00.000001", "00", "59" })
+        {
+            string text = "2024-05-01T09:30:" + seconds + "Z";
+            color.ChangeHistory.Texts[1] = text;
+            DateTimeOffset read = color.ChangeHistory[1];
+            color.ChangeHistory[1] = read;
+            Check.Equal(text, color.ChangeHistory.Texts[1], "a time that is set as it was read");
+            Check.Equal(read, color.ChangeHistory[1], "a time that is set as it was read");
+        }
+        failure = Check.Throws<VyrException>("no time", () => color.ChangeHistory.Texts[1] = "soon");
+        Check.That(failure.Message.Contains("ColorType.ChangeHistory") && color.ChangeHistory.Count == 2, "the list is named");
         color.ChangeHistory[1] = DateTimeOffset.MaxValue;
         Check.Equal("9999-12-31T23:59:59.9999Z", color.ChangeHistory.Texts[1], "the last time");
 

@@ -99,6 +99,11 @@ static class StressTest
         long left = Resident();
         Console.WriteLine("3000 loads that are left to the collector: {0} KB", left);
         Check.That(left < after + 256000, "what is left to the collector is bounded");
+        using (Document loaded = Vyr.Document.Load(palette))
+            for (int i = 0; i < 3000; ++i) Check.Equal(1, loaded.Clone().Palettes.Count, "a copy");
+        left = Resident();
+        Console.WriteLine("3000 copies that are left to the collector: {0} KB", left);
+        Check.That(left < after + 256000, "copies that are left to the collector are bounded");
     }
 
     static int Main(string[] arguments)

@@ -137,6 +137,18 @@ static void nulls_and_results(void) {
     CHECK(CSharp_DevicePolarization_get_DevicePolarization(filter) == 0);
     CSharp_delete_DevicePolarization(filter);
 
+    /* Elements of their own, by the names of their classes. */
+    void* lab = CSharp_new_ColorSpaceCIELab__SWIG_0();
+    void* report = VyrModule_WriteElement(lab, "ColorSpaceCIELab", u"client.xml");
+    CHECK(VyrModule_ReportCode(report) == 46 && VyrModule_ReportFaultCount(report) == 1);
+    VyrModule_DeleteReport(report);
+    report = VyrModule_LoadElement(lab, "ColorSpaceCIELab", u"none.xml", 1, 20);
+    CHECK(VyrModule_ReportCode(report) == 1 && VyrModule_ReportSystemError(report) == ENOENT);
+    VyrModule_DeleteReport(report);
+    CHECK(VyrModule_LoadElement(lab, "ColorSpaceCIELabType", u"none.xml", 1, 20) == NULL);
+    CHECK(VyrModule_WriteElement(lab, "Bogus", u"client.xml") == NULL);
+    CSharp_delete_ColorSpaceCIELab(lab);
+
     static const char wrong[] = "<x/>";
     int32_t error = 0;
     void* element = CSharp_new_ColorSpaceCMYKPlusN__SWIG_2("no such file", &error);
