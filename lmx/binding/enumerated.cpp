@@ -46,6 +46,7 @@ const s_enumerated_text* c_enumeration::make_rows() const {
 }
 
 c_enumerated& c_enumerated::operator=(const c_enumerated& other) {
+    if (this == &other) return *this;
     if (other.is_owned()) {
         own(*other.m_text);
     } else {

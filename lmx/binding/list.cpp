@@ -33,11 +33,11 @@ struct c_list_base::s_block {
 };
 
 void* c_list_base::emplace(std::size_t index, const s_stored_type& type) {
-    if (m_storage == 0) {
+    if (m_storage == nullptr) {
         storage only = allocate(type.size);
         type.construct(only.get());
-        m_storage = reinterpret_cast<std::uintptr_t>(only.release());
-        return pointer(m_storage);
+        m_storage = static_cast<std::byte*>(only.release());
+        return m_storage;
     }
     reserve_place(type.size);
     s_head& list = *head();
@@ -79,7 +79,7 @@ void c_list_base::remove(std::size_t index, const s_stored_type& type) noexcept 
 }
 
 void c_list_base::clear(const s_stored_type& type) noexcept {
-    if (m_storage == 0) return;
+    if (m_storage == nullptr) return;
     if (type.destroy != nullptr) {
         for (std::size_t i = size(); i-- > 0;) type.destroy(entry(i));
     }
@@ -97,11 +97,11 @@ void c_list_base::reserve_index(std::size_t capacity) {
         ::operator delete(old);
     } else {
         larger->size = 1;
-        larger->first = pointer(m_storage);
+        larger->first = m_storage;
         larger->entries()[0] = larger->first;
     }
     larger->capacity = capacity;
-    m_storage = reinterpret_cast<std::uintptr_t>(larger) + 1;
+    m_storage = reinterpret_cast<std::byte*>(larger) + 1;
 }
 
 /// Makes room for one more entry, in a place and in the index.
@@ -130,9 +130,9 @@ void c_list_base::free_storage() noexcept {
         ::operator delete(list->first);
         ::operator delete(list);
     } else {
-        ::operator delete(pointer(m_storage));
+        ::operator delete(m_storage);
     }
-    m_storage = 0;
+    m_storage = nullptr;
 }
 
 }  // namespace lmx

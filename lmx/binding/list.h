@@ -22,11 +22,11 @@ namespace lmx {
 class VYR_EXPORT c_list_base {
 public:
     std::size_t size() const {
-        if (m_storage == 0) return 0;
+        if (m_storage == nullptr) return 0;
         return has_head() ? head()->size : 1;
     }
     /// No bounds check.
-    void* entry(std::size_t index) const { return has_head() ? head()->entries()[index] : pointer(m_storage); }
+    void* entry(std::size_t index) const { return has_head() ? head()->entries()[index] : m_storage; }
     void swap(c_list_base& other) noexcept { std::swap(m_storage, other.m_storage); }
 
     // All entries of a list are made and ended with the same type.
@@ -65,15 +65,14 @@ private:
 
     static constexpr std::size_t k_first_capacity = 4;
 
-    static void* pointer(std::uintptr_t storage) { return reinterpret_cast<void*>(storage); }
-    bool has_head() const { return (m_storage & 1) != 0; }
-    s_head* head() const { return static_cast<s_head*>(pointer(m_storage - 1)); }
+    bool has_head() const { return (reinterpret_cast<std::uintptr_t>(m_storage) & 1) != 0; }
+    s_head* head() const { return reinterpret_cast<s_head*>(m_storage - 1); }
 
     void reserve_index(std::size_t capacity);
     void reserve_place(std::size_t entry_size);
     void free_storage() noexcept;
 
-    std::uintptr_t m_storage = 0;  ///< 0, the only entry, or the head plus one
+    std::byte* m_storage = nullptr;  ///< null, the only entry, or one byte behind the head's start
 };
 
 /// A list that owns objects of type `T`. `T` may be incomplete where only `size` and const access are used.

@@ -143,7 +143,7 @@ elmx_error set_simple(const s_class& type, const s_item& item, void* object, con
     if (code != ELMX_OK) return code;
     if (item.kind == item_kind::alternative) {
         // Choosing an alternative frees the former one, which the value may be a part of.
-        const T copy = value;
+        const T copy = value;  // NOLINT(performance-unnecessary-copy-initialization): outlives the former one
         c_set_checks<T>(item.facets, copy).store(place_for_value(type, item, object));
     } else {
         checked.store(place_for_value(type, item, object));

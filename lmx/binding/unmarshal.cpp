@@ -379,7 +379,7 @@ elmx_error read_children(const s_class& type, void* object, c_xml_reader& reader
 }
 
 elmx_error refuse_nesting(c_xml_reader& reader, const std::string& name) {
-    const std::string own_name = name;
+    const std::string own_name = name;  // NOLINT(performance-unnecessary-copy-initialization): a handler may read on
     const elmx_error error = reader.handle_error(ELMX_BADLY_FORMED, own_name, k_source_file, __LINE__);
     if (error == ELMX_OK) reader.skip_rest_of_element(own_name);
     return error;
