@@ -11,16 +11,17 @@
 #include "lmx/binding/unmarshal.h"
 #include "lmx/binding/value_kinds.h"
 #include "lmx/values/unicode.h"
+#include "lmx/values/utf8.h"
 
 namespace lmx {
 namespace {
 
 constexpr bool is_space(int c) { return c == ' ' || c == '\t' || c == '\n' || c == '\r'; }
-constexpr bool is_high(char16_t unit) { return unit >= 0xD800 && unit <= 0xDBFF; }
-constexpr bool is_low(char16_t unit) { return unit >= 0xDC00 && unit <= 0xDFFF; }
 
 constexpr bool is_line_end(char16_t unit) { return unit == u'\r' || unit == 0x85 || unit == 0x2028; }
-constexpr bool is_plain(char16_t unit) { return !is_line_end(unit) && !is_high(unit) && !is_low(unit); }
+constexpr bool is_plain(char16_t unit) {
+    return !is_line_end(unit) && !utf8::is_high_surrogate(unit) && !utf8::is_low_surrogate(unit);
+}
 
 /// Whether a text has neither a line end that reading replaces nor any surrogate: four units at a time, since this is
 /// asked of nearly all that is saved.
@@ -100,9 +101,9 @@ const char* lost_in_text(const s_item& item, std::u16string_view text) {
     for (std::size_t i = 0; i < text.size(); ++i) {
         const char16_t unit = text[i];
         if (is_line_end(unit)) return "only the line feed is read back as a line end";
-        if (is_high(unit) && i + 1 < text.size() && is_low(text[i + 1])) {
+        if (utf8::is_high_surrogate(unit) && i + 1 < text.size() && utf8::is_low_surrogate(text[i + 1])) {
             ++i;
-        } else if (is_high(unit) || is_low(unit)) {
+        } else if (utf8::is_high_surrogate(unit) || utf8::is_low_surrogate(unit)) {
             return "the text ends at half a surrogate pair";
         }
     }

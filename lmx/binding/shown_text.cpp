@@ -10,51 +10,19 @@
 #include <utility>
 #include <vector>
 
+#include "lmx/values/hidden.h"
+#include "lmx/values/utf8.h"
+
 namespace lmx {
 namespace {
 
-/// Ranges that print nothing, break the line or reorder it.
-constexpr std::pair<char32_t, char32_t> k_hidden[] = {
-    {0x00, 0x1F},     {0x7F, 0x9F},     {0xAD, 0xAD},     {0x61C, 0x61C},   {0x200B, 0x200F},
-    {0x2028, 0x202E}, {0x2060, 0x206F}, {0xFEFF, 0xFEFF}, {0xFFF9, 0xFFFB},
-};
-
 constexpr std::pair<char, char> k_letters[] = {{'\n', 'n'}, {'\r', 'r'}, {'\t', 't'}};
-
-struct s_character {
-    char32_t code;
-    std::size_t length;  ///< 0 for a byte that begins no valid sequence
-};
-
-s_character first_character(std::string_view text) {
-    const auto lead = static_cast<unsigned char>(text[0]);
-    if (lead < 0x80) return {lead, 1};
-    const std::size_t length = lead >= 0xF0 ? 4 : lead >= 0xE0 ? 3 : 2;
-    if (lead < 0xC2 || lead > 0xF4 || text.size() < length) return {lead, 0};
-    char32_t code = lead & (0x7FU >> length);
-    for (const char c : text.substr(1, length - 1)) {
-        const auto byte = static_cast<unsigned char>(c);
-        if ((byte & 0xC0U) != 0x80) return {lead, 0};
-        code = code << 6U | (byte & 0x3FU);
-    }
-    constexpr std::array<char32_t, 5> k_least = {0, 0, 0x80, 0x800, 0x10000};
-    const bool is_surrogate = code >= 0xD800 && code <= 0xDFFF;
-    if (code < k_least[length] || is_surrogate || code > 0x10FFFF) return {lead, 0};
-    return {code, length};
-}
 
 void append_hexadecimal(std::string* out, const char* start, unsigned value, std::size_t digits) {
     std::array<char, 8> buffer{};
     const char* const end = std::to_chars(buffer.begin(), buffer.end(), value, 16).ptr;
     const auto length = static_cast<std::size_t>(end - buffer.data());
     out->append(start).append(digits > length ? digits - length : 0, '0').append(buffer.data(), length);
-}
-
-bool is_hidden(char32_t code) {
-    for (const auto& [low, high] : k_hidden) {
-        if (code >= low && code <= high) return true;
-    }
-    return false;
 }
 
 void append_hidden(std::string* out, char32_t code) {
@@ -65,7 +33,11 @@ void append_hidden(std::string* out, char32_t code) {
             return;
         }
     }
-    append_hexadecimal(out, "\\u", code, 4);
+    if (code > 0xFFFF) {
+        append_hexadecimal(out, "\\U", code, 8);
+    } else {
+        append_hexadecimal(out, "\\u", code, 4);
+    }
 }
 
 char lower(char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c | 0x20) : c; }
@@ -88,16 +60,16 @@ std::size_t distance_of(std::string_view one, std::string_view other) {
 std::string make_shown(std::string_view text, std::size_t limit, std::string_view escaped) {
     std::string out;
     for (; !text.empty() && limit > 0; --limit) {
-        const s_character character = first_character(text);
-        if (character.length == 0) {
+        const utf8::s_character character = utf8::first_character(text);
+        if (character.size == 0) {
             append_hexadecimal(&out, "\\x", character.code, 2);
         } else if (is_hidden(character.code)) {
             append_hidden(&out, character.code);
         } else {
             if (escaped.find(text[0]) != escaped.npos) out += '\\';
-            out += text.substr(0, character.length);
+            out += text.substr(0, character.size);
         }
-        text.remove_prefix(character.length == 0 ? 1 : character.length);
+        text.remove_prefix(std::max<std::size_t>(character.size, 1));
     }
     if (!text.empty()) out += "\u2026";
     return out;

@@ -13,10 +13,8 @@
 
 namespace lmx {
 
-/// A text from a stranger, fit to be printed: cut behind so many characters, marked by an ellipsis; control
-/// characters and those that would change the order of what is printed as `\n`, `\t`, `\u202e`; bytes that are no
-/// UTF-8 as
-/// `\xff`.
+/// A text from a stranger, fit to be printed: cut behind so many characters, marked by an ellipsis; characters
+/// that aren't shown as `\n`, `\t`, `\u202e`, `\U000e0041`; bytes that are no UTF-8 as `\xff`.
 std::string shown(std::string_view text, std::size_t limit = 100);
 
 /// The same in double quotes, with quotes and backslashes inside escaped.

@@ -11,33 +11,20 @@
 #include <cstdint>
 #include <type_traits>
 
+#include "lmx/values/utf8.h"
+
 namespace lmx {
+
+using utf8::is_continuation;
+using utf8::is_high_surrogate;
+using utf8::is_low_surrogate;
+using utf8::sequence_size;
 
 namespace {
 
 constexpr std::size_t k_block = 16;
 
-constexpr bool is_high_surrogate(unsigned c) { return c >= 0xD800 && c <= 0xDBFF; }
-constexpr bool is_low_surrogate(unsigned c) { return c >= 0xDC00 && c <= 0xDFFF; }
 constexpr bool is_ascii(char c) { return static_cast<unsigned char>(c) < 0x80; }
-constexpr bool is_continuation(char c) { return (static_cast<unsigned char>(c) & 0xC0) == 0x80; }
-
-/// The number of bytes that a lead byte announces; 0 for a byte that is none.
-constexpr std::size_t sequence_size(char lead) {
-    const auto byte = static_cast<unsigned char>(lead);
-    if (byte < 0x80) return 1;
-    if ((byte & 0xE0) == 0xC0) return 2;
-    if ((byte & 0xF0) == 0xE0) return 3;
-    return (byte & 0xF8) == 0xF0 ? 4 : 0;
-}
-
-/// The bits of a character that its lead byte holds.
-constexpr std::uint32_t lead_bits(char lead, std::size_t size) {
-    const auto byte = static_cast<unsigned char>(lead);
-    return size == 1 ? byte : byte & (0x7FU >> size);
-}
-
-constexpr std::uint32_t continuation_bits(char byte) { return static_cast<unsigned char>(byte) & 0x3FU; }
 
 template <class Unit>
 bool is_ascii_block(const Unit* units) {
@@ -59,27 +46,6 @@ const From* copy_ascii_blocks(const From** from, const From* end, To** to) {
     return end;
 }
 
-/// Writes a character and returns the place behind it. A value above the Unicode range keeps its low bits.
-char* write_utf8(std::uint32_t c, char* out) {
-    const auto tail = [c](unsigned shift) { return static_cast<char>(0x80U | ((c >> shift) & 0x3FU)); };
-    if (c < 0x80) {
-        *out++ = static_cast<char>(c);
-    } else if (c < 0x800) {
-        *out++ = static_cast<char>(0xC0U | (c >> 6));
-        *out++ = tail(0);
-    } else if (c < 0x10000) {
-        *out++ = static_cast<char>(0xE0U | (c >> 12));
-        *out++ = tail(6);
-        *out++ = tail(0);
-    } else {
-        *out++ = static_cast<char>(0xF0U | (c >> 18));
-        *out++ = tail(12);
-        *out++ = tail(6);
-        *out++ = tail(0);
-    }
-    return out;
-}
-
 /// Decodes `[from, end)` into `out` up to the first fault; returns the place behind the last unit.
 char16_t* decode_utf8(const char* from, const char* end, char16_t* out) {
     std::uint32_t pending = 0;  // a high surrogate that waits for its partner
@@ -95,13 +61,10 @@ char16_t* decode_utf8(const char* from, const char* end, char16_t* out) {
                 continue;
             }
         }
-        const std::size_t size = sequence_size(*from);
-        if (size == 0 || size > static_cast<std::size_t>(end - from)) break;
-        std::uint32_t c = lead_bits(*from, size);
-        std::size_t read = 1;
-        for (; read < size && is_continuation(from[read]); ++read) c = (c << 6) | continuation_bits(from[read]);
-        if (read != size) break;
-        from += size;
+        const utf8::s_sequence sequence = utf8::read_sequence(from, static_cast<std::size_t>(end - from));
+        if (!sequence.is_whole()) break;
+        const std::uint32_t c = sequence.code;
+        from += sequence.size;
         if (pending != 0) {
             if (!is_low_surrogate(c)) break;
             *out++ = static_cast<char16_t>(pending);
@@ -122,16 +85,10 @@ char16_t* decode_utf8(const char* from, const char* end, char16_t* out) {
 }  // namespace
 
 bool utf8_to_unicode_char(const char* text, int* c) {
-    const std::size_t size = sequence_size(*text);
-    if (size == 0) {
-        *c = -1;
-        return false;
-    }
-    std::uint32_t value = lead_bits(*text, size);
-    std::size_t read = 1;
-    for (; read < size && is_continuation(text[read]); ++read) value = (value << 6) | continuation_bits(text[read]);
-    *c = static_cast<int>(value);
-    return read == size;
+    // The null that ends the text is no part of a sequence.
+    const utf8::s_sequence sequence = utf8::read_sequence(text, 4);
+    *c = sequence.size == 0 ? -1 : static_cast<int>(sequence.code);
+    return sequence.is_whole();
 }
 
 char* unicode_char_to_utf8(int c, char* buffer) {
@@ -139,7 +96,7 @@ char* unicode_char_to_utf8(int c, char* buffer) {
     if (c < 0) {
         *end++ = static_cast<char>(c);
     } else {
-        end = write_utf8(static_cast<std::uint32_t>(c), end);
+        end = utf8::write(static_cast<std::uint32_t>(c), end);
     }
     *end = '\0';
     return buffer;
@@ -202,9 +159,9 @@ std::string& convert(std::string* target, const std::u16string& source) {
         if (is_high_surrogate(c) && from != end) {
             // The unit behind a high surrogate is consumed whether or not it's the partner.
             const std::uint32_t next = *from++;
-            if (is_low_surrogate(next)) c = (((c & 0x3FFU) + 0x40U) << 10) + (next & 0x3FFU);
+            if (is_low_surrogate(next)) c = utf8::join_surrogates(c, next);
         }
-        out = write_utf8(c, out);
+        out = utf8::write(c, out);
     }
     target->resize(static_cast<std::size_t>(out - target->data()));
     return *target;

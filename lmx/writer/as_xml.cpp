@@ -12,6 +12,8 @@
 #include <cstring>
 #include <type_traits>
 
+#include "lmx/values/utf8.h"
+
 namespace lmx {
 
 namespace {
@@ -79,35 +81,23 @@ void narrow(const char16_t* units, char* out) {
 /// Writes the UTF-8 of the unit at `*at`, or of the pair, with the escapes; returns its end. What can't be told moves
 /// `*at` to the end, and is dropped.
 char* escape_unit(const char16_t** at, const char16_t* end, char* out) {
-    const auto put = [&out](std::uint32_t byte) { *out++ = static_cast<char>(byte); };
     std::uint32_t c = *(*at)++;
     if (c < 0x80) {
         const std::string_view escaped = escape_of(c);
         if (escaped.empty()) {
-            put(c);
-            return out;
+            *out = static_cast<char>(c);
+            return out + 1;
         }
         return out + escaped.copy(out, escaped.size());
     }
-    if (c >= 0xD800 && c <= 0xDBFF) {
-        if (*at == end || **at < 0xDC00 || **at > 0xDFFF) {
+    if (utf8::is_high_surrogate(c)) {
+        if (*at == end || !utf8::is_low_surrogate(**at)) {
             *at = end;
             return out;
         }
-        c = (((c & 0x3FFU) + 0x40U) << 10) + (*(*at)++ & 0x3FFU);
+        c = utf8::join_surrogates(c, *(*at)++);
     }
-    if (c < 0x800) {
-        put(0xC0U | (c >> 6));
-    } else if (c < 0x10000) {
-        put(0xE0U | (c >> 12));
-        put(0x80U | ((c >> 6) & 0x3FU));
-    } else {
-        put(0xF0U | (c >> 18));
-        put(0x80U | ((c >> 12) & 0x3FU));
-        put(0x80U | ((c >> 6) & 0x3FU));
-    }
-    put(0x80U | (c & 0x3FU));
-    return out;
+    return utf8::write(c, out);
 }
 
 /// Writes the units from `*start` on up to about `count` of them, for which there must be room, and a pair's other

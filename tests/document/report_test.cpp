@@ -90,6 +90,9 @@ TEST(Report, OfOneChangeToAGoodDocument) {
         {"50", "\u00FC\x01\t\xE2\x80\xAE",
          "line 14: " + k_lab +
              " / L: Invalid value format for this type (\u00FC\\u0001 \\u202e): a number is expected"},
+        {"50", "\u180E\u3164\U000E0041\u0301",
+         "line 14: " + k_lab +
+             " / L: Invalid value format for this type (\\u180e\\u3164\\U000e0041\u0301): a number is expected"},
         {"ColorName=\"Ink 1\"", "Colour='1'\n ColorName='Ink 1'",
          "line 10: " + k_ink +
              " / @Colour: Unexpected attribute (1): Color takes ColorName, UniqueID, ColorNumber and Comments"},

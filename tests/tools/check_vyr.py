@@ -81,7 +81,8 @@ def make_documents():
         "broken.vyr": broken,
         "other.vyr": other,
         "layout.vyr": text.replace("\t", " ").replace("<Vyr:Blue>1<", "<Vyr:Blue> 1.00 <"),
-        "hostile.vyr": text.replace("aliceblue", "\u202e\u009b31m&#9;&lt;b>", 1),
+        "hostile.vyr": text.replace("aliceblue", "\u202e\u009b31m&#9;&lt;b>", 1)
+                           .replace("antiquewhite", "\u180e\u200d\u3164\U000e0041e\u0301", 1),
         "zones.vyr": re.sub(r"Z</Vyr:ChangeHistory>", "+99:99</Vyr:ChangeHistory>", text, count=2),
         "empty.vyr": "",
     }.items():
@@ -195,7 +196,8 @@ def check_info_and_list():
            "list", "--name=navy", "--set", "N*", "--palette", "?SS", "good.vyr")
     expect(0, "", ".*no such colour\n", "list", "--name=nav", "good.vyr")
     # A name can't steer the terminal, in either form.
-    expect(0, r".*\\u\{202E\}\\u\{9B\}31m\\u\{9\}<b>.*", "", "list", "hostile.vyr")
+    expect(0, r".*\\u\{202E\}\\u\{9B\}31m\\u\{9\}<b>.*\\u\{180E\}\\u\{200D\}\\u\{3164\}\\u\{E0041\}e\u0301.*", "",
+           "list", "hostile.vyr")
     code, out, _ = run("list", "--json", "hostile.vyr")
     colors = json.loads(out)
     if "\u202e" in out or colors[0]["name"] != "\u202e\u009b31m\t<b>" or len(colors) != 148 or \

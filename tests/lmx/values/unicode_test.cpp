@@ -7,7 +7,10 @@
 
 #include <gtest/gtest.h>
 
+#include <array>
 #include <random>
+
+#include "lmx/values/utf8.h"
 
 namespace {
 
@@ -125,6 +128,25 @@ TEST(Unicode, SequencesAreJudgedByTheirFirstTwoBytes) {
             EXPECT_EQ(lmx::is_valid_utf8_char_sequence(text), second >= row.first && second <= row.last)
                 << row.lead << ' ' << second;
         }
+    }
+}
+
+TEST(Unicode, OnlyWholeCharactersOfUtf8AreFirstOnes) {
+    for (int c = 1; c < 0x110000; ++c) {
+        std::array<char, 5> buffer{};
+        const std::string text = std::string(lmx::unicode_char_to_utf8(c, buffer.data())) + "\xBF";
+        const bool is_surrogate = c >= 0xD800 && c <= 0xDFFF;
+        const lmx::utf8::s_character first = lmx::utf8::first_character(text);
+        ASSERT_EQ(first.size, is_surrogate ? 0 : text.size() - 1) << c;
+        ASSERT_EQ(first.code, is_surrogate ? 0xEDU : static_cast<char32_t>(c));
+        if (text.size() == 2) continue;
+        ASSERT_EQ(lmx::utf8::first_character(text.substr(0, text.size() - 2)).size, 0U) << c;
+    }
+    for (const char* const bad : {"\x80", "\xBF\x80", "\xC0\x80", "\xC1\xBF", "\xE0\x9F\xBF", "\xF0\x8F\xBF\xBF",
+                                  "\xF4\x90\x80\x80", "\xF8\x88\x80\x80\x80", "\xFF", "\xE2\x80(", "\xC3\xC3\xA9"}) {
+        const lmx::utf8::s_character first = lmx::utf8::first_character(bad);
+        EXPECT_EQ(first.size, 0U) << bad;
+        EXPECT_EQ(first.code, static_cast<unsigned char>(*bad));
     }
 }
 
