@@ -34,6 +34,11 @@ bool is_ncname(std::string_view name) {
     return !name.empty() && is_start(name.front()) && std::all_of(name.begin() + 1, name.end(), is_part);
 }
 
+bool fail(elmx_error code, elmx_error* error) {
+    *error = code;
+    return false;
+}
+
 }  // namespace
 
 void detail::c_scanner_errors::report_error(elmx_error_type type, elmx_error, const char*, int line,
@@ -163,36 +168,22 @@ void c_xml_reader::get_known_element_event(const s_event_map* map, elmx_error* e
 bool c_xml_reader::get_simple_type_value(const std::string& name, elmx_whitespace mode, std::string* value,
                                          elmx_error* error, bool* is_empty) {
     value->clear();
-    if (!move_to_start_tag_end(is_empty)) {
-        *error = ELMX_BAD_START_TAG_END;
-    } else if (*is_empty) {
-        return true;
-    } else if (!get_element_value(value, mode, true)) {
-        *error = ELMX_UNABLE_TO_READ_ELEMENT_VALUE;
-    } else if (!is_element_end_tag(name)) {
-        *error = ELMX_BAD_END_OF_ELEMENT;
-    } else {
-        return true;
-    }
-    return false;
+    if (!move_to_start_tag_end(is_empty)) return fail(ELMX_BAD_START_TAG_END, error);
+    if (*is_empty) return true;
+    if (!get_element_value(value, mode, true)) return fail(ELMX_UNABLE_TO_READ_ELEMENT_VALUE, error);
+    return is_element_end_tag(name) || fail(ELMX_BAD_END_OF_ELEMENT, error);
 }
 
 bool c_xml_reader::get_element_ur_value(const std::string& name, std::string* value, elmx_error* error,
                                         bool* is_empty) {
     value->clear();
     std::string end_name;
-    if (!move_to_start_tag_end(is_empty)) {
-        *error = ELMX_BAD_START_TAG_END;
-    } else if (*is_empty) {
-        return true;
-    } else if (!get_nested_element_value(value, &end_name, ELMX_WS_PRESERVE, true)) {
-        *error = ELMX_UNABLE_TO_READ_ELEMENT_VALUE;
-    } else if (end_name != name) {
-        *error = ELMX_BAD_END_OF_ELEMENT;
-    } else {
-        return true;
+    if (!move_to_start_tag_end(is_empty)) return fail(ELMX_BAD_START_TAG_END, error);
+    if (*is_empty) return true;
+    if (!get_nested_element_value(value, &end_name, ELMX_WS_PRESERVE, true)) {
+        return fail(ELMX_UNABLE_TO_READ_ELEMENT_VALUE, error);
     }
-    return false;
+    return end_name == name || fail(ELMX_BAD_END_OF_ELEMENT, error);
 }
 
 bool c_xml_reader::get_nested_element_value(std::string* value, std::string* end_name, elmx_whitespace mode,
