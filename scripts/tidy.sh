@@ -28,9 +28,12 @@ fi
 export logs=build/clang/tidy
 rm -rf "$logs"
 mkdir -p "$logs"
+# The analyzer follows a function's paths until its budget is used up; with a tenth of its own it is four times as fast.
+export budget="--extra-arg=-Xclang --extra-arg=-analyzer-config --extra-arg=-Xclang --extra-arg=max-nodes=20000"
 check() {
     local log=$logs/${1//\//_}
-    clang-tidy-14 -p build/clang --quiet --warnings-as-errors='*' "$1" > "$log" 2>&1 || echo "$1"
+    # shellcheck disable=SC2086  # several words
+    clang-tidy-14 -p build/clang --quiet $budget --warnings-as-errors='*' "$1" > "$log" 2>&1 || echo "$1"
 }
 export -f check
 mapfile -t bad < <(printf '%s\0' "${files[@]}" | xargs -0 -n 1 -P "$(nproc)" bash -c 'check "$1"' check)
