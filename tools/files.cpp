@@ -297,9 +297,10 @@ exit_code container_bytes(const Vyr& document, const std::string& stem, std::str
     if (!report.isOk()) return explain_failed_write(report, bytes);
     const c_descriptor descriptor(open(made.c_str(), O_RDONLY | O_CLOEXEC));
     std::string read;
-    const std::string refusal = descriptor.get() < 0 ? system_text() : read_all(descriptor.get(), read);
-    *bytes = refusal.empty() ? std::move(read) : refusal;
-    return refusal.empty() ? exit_ok : exit_usage_or_file;
+    *bytes = descriptor.get() < 0 ? system_text() : read_all(descriptor.get(), read);
+    if (!bytes->empty()) return exit_usage_or_file;
+    *bytes = std::move(read);
+    return exit_ok;
 }
 
 exit_code read_tree(const std::string& file, c_tree& tree, std::size_t* size) {
