@@ -95,8 +95,8 @@ bool c_report_builder::count(elmx_error code, bool is_passed_over) {
 elmx_error c_report_builder::see(c_xml_reader& reader, elmx_error code, const std::string& item_name) {
     const bool goes_on = m_options.collect && is_passable(code);
     // A value that is wrong in one way is wrong in another as well; the first says it.
-    if (goes_on && reader.is_value_faulty()) return ELMX_OK;
-    const s_open_element* const open = reader.get_open_element();
+    if (goes_on && reader.notes().is_value_faulty) return ELMX_OK;
+    const s_open_element* const open = reader.notes().open_element;
     if (code == ELMX_REQUIRED_ATTRIBUTES_MISSING && open->object == m_mistyped.object &&
         open->line == m_mistyped.line && describe_failure(reader, code, item_name).meant == m_mistyped.meant) {
         // It is there under the name that was reported already.
@@ -108,7 +108,7 @@ elmx_error c_report_builder::see(c_xml_reader& reader, elmx_error code, const st
         if (code == ELMX_UNEXPECTED_ATTRIBUTE) m_mistyped = {open->object, open->line, failure.meant};
         m_report.m_faults.push_back(make_fault(code, m_file, std::move(failure)));
     }
-    reader.set_value_faulty(true);
+    reader.notes().is_value_faulty = true;
     m_report.m_is_read_to_end = goes_on;
     return goes_on ? ELMX_OK : code;
 }

@@ -55,7 +55,7 @@ void pull_attributes(lmx::c_xml& xml, c_script& script, c_trace& trace) {
     std::string name;
     std::string text;
     while (!script.once_in(8) && xml.get_attribute_name(&name, script.once_in(20)) == lmx::ELXP_NAME) {
-        trace.add("attribute", name, xml.get_attribute_line(), xml.get_raw_attribute_value(),
+        trace.add("attribute", name, xml.diagnose().attribute_line, xml.diagnose().attribute_value,
                   xml.find_raw_attribute_value("b"));
         if (script.once_in(4)) {
             xml.skip_attribute_value();
@@ -147,7 +147,9 @@ std::string run_reader(lmx::c_read& source, std::size_t size, c_script script) {
     c_trace trace(reader);
     reader.add_namespace("http://vyrgraph.com/v2", k_document_ns);
     const lmx::c_known_elements_selector known(reader, k_known);
-    const auto told = [&] { return reader.get_scanner_text() + '@' + std::to_string(reader.get_scanner_line()); };
+    const auto told = [&] {
+        return std::string(reader.diagnose().fault_text) + '@' + std::to_string(reader.diagnose().fault_line);
+    };
     if (script.once_in(3)) {
         std::string ns;
         trace.add("instance", lmx::get_instance_namespace(reader, &ns), ns);

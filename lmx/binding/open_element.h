@@ -45,11 +45,11 @@ template <class Stream>
 class c_open_element {
 public:
     c_open_element(Stream& stream, const s_open_element& element) : m_stream(stream), m_element(element) {
-        stream.set_open_element(&m_element);
+        stream.notes().open_element = &m_element;
     }
     c_open_element(const c_open_element&) = delete;
     c_open_element& operator=(const c_open_element&) = delete;
-    ~c_open_element() { m_stream.set_open_element(m_element.outer); }
+    ~c_open_element() { m_stream.notes().open_element = m_element.outer; }
 
 private:
     Stream& m_stream;
@@ -60,10 +60,10 @@ private:
 template <class Stream>
 class c_told_site {
 public:
-    c_told_site(Stream& stream, const s_fault_site& site) : m_stream(stream) { stream.set_fault_site(&site); }
+    c_told_site(Stream& stream, const s_fault_site& site) : m_stream(stream) { stream.notes().fault_site = &site; }
     c_told_site(const c_told_site&) = delete;
     c_told_site& operator=(const c_told_site&) = delete;
-    ~c_told_site() { m_stream.set_fault_site(nullptr); }
+    ~c_told_site() { m_stream.notes().fault_site = nullptr; }
 
 private:
     Stream& m_stream;

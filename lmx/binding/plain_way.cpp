@@ -383,7 +383,7 @@ void c_plain_way::note_value(const s_item& row, const s_value& value) {
 namespace {
 
 void note_item(c_xml_reader& reader, const s_item& row) {
-    if (s_open_element* const element = reader.get_open_element()) element->last_item = &row;
+    if (s_open_element* const element = reader.notes().open_element) element->last_item = &row;
 }
 
 }  // namespace

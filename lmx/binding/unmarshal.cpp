@@ -28,7 +28,7 @@ bool goes_on(c_xml_reader& reader, elmx_error code, const std::string& item_name
 }
 
 void note_item(c_xml_reader& reader, const s_item& item) {
-    if (s_open_element* const element = reader.get_open_element()) element->last_item = &item;
+    if (s_open_element* const element = reader.notes().open_element) element->last_item = &item;
 }
 
 bool next_element(c_xml_reader& reader, const s_event_map* map, std::string* name, elmx_error* error) {
@@ -72,7 +72,7 @@ bool read_simple_element(const s_class& type, const s_item& item, void* object, 
                          const std::string& name, elmx_error* error) {
     bool is_empty = false;
     *error = ELMX_OK;
-    reader.set_value_faulty(false);
+    reader.notes().is_value_faulty = false;
     if (!reader.get_simple_type_value(name, item.whitespace, &reader.m_value, error, &is_empty)) {
         return goes_on(reader, {&type, &item, object}, *error, name, error, __LINE__);
     }
@@ -398,7 +398,7 @@ elmx_error unmarshal_element(const s_class& type, void* object, c_xml_reader& re
     // The name argument is the reader's work string, and every event below overwrites it.
     const c_string_stack_node node(reader.get_element_name_stack(), name);
     const c_open_element open(reader,
-                              {reader.get_open_element(), &type, object, &node, nullptr, reader.get_event_line()});
+                              {reader.notes().open_element, &type, object, &node, nullptr, reader.get_event_line()});
     const elmx_error error = read_attributes(type, object, reader, name);
     if (error != ELMX_OK) return error;
     if (type.content == content_kind::simple) return read_simple_content(type, object, reader, node);
@@ -411,7 +411,7 @@ elmx_error unmarshal_element(const s_class& type, void* object, c_xml_reader& re
 elmx_error read_plain_element(const s_class& type, void* object, c_xml_reader& reader, std::string_view name,
                               int line, c_plain_way& plain) {
     const c_string_stack_node node(reader.get_element_name_stack(), name);
-    const c_open_element open(reader, {reader.get_open_element(), &type, object, &node, nullptr, line});
+    const c_open_element open(reader, {reader.notes().open_element, &type, object, &node, nullptr, line});
     const c_xml_reader_local scope(reader);
     return read_children(type, object, reader, node, plain, false, true);
 }
@@ -419,7 +419,7 @@ elmx_error read_plain_element(const s_class& type, void* object, c_xml_reader& r
 bool unmarshal_attribute(const s_class& type, void* object, c_xml_reader& reader, const std::string& name,
                          elmx_error* error) {
     *error = ELMX_OK;
-    reader.set_value_faulty(false);
+    reader.notes().is_value_faulty = false;
     reader.tokenise(type.attribute_map, ELXP_ATTRIBUTE);
     if (type.nil_flag != k_no_flag && reader.get_current_event() == ELXP_XSI_NIL) {
         return read_nil(type, object, reader, name, error);
@@ -466,7 +466,7 @@ bool unmarshal_content(const s_class& type, void* object, c_xml_reader& reader, 
     *error = ELMX_OK;
     const s_class& owner = content_owner(type);
     const s_item& item = owner.elements.front();
-    reader.set_value_faulty(false);
+    reader.notes().is_value_faulty = false;
     if (!has_body) {
         reader.m_value.clear();
     } else if (!reader.get_element_value(&reader.m_value, item.whitespace, true)) {

@@ -50,8 +50,22 @@ c_get_as_utf8::c_get_as_utf8(c_read& reader, c_error& error)
 
 c_get_as_utf8::~c_get_as_utf8() = default;
 
-void c_get_as_utf8::error(elmx_error_type type, elmx_error code, const char* text) {
+void c_get_as_utf8::report(scanner_fault fault, elmx_error_type type, elmx_error code, const char* text) {
+    if (!is_shut() && (type == ELMX_TYPE_FATAL || type == ELMX_TYPE_ERROR)) m_fault = fault;
     m_error.error(type, code, get_source_id(), m_line_num, text);
+}
+
+void c_get_as_utf8::error(scanner_fault fault, std::initializer_list<std::string_view> parts) {
+    const s_scanner_fault& row = row_of(fault);
+    std::string text;
+    std::string_view rest = row.text;
+    for (const std::string_view part : parts) {
+        const std::size_t place = rest.find("{}");
+        text.append(rest.substr(0, place)).append(part);
+        rest.remove_prefix(place + 2);
+    }
+    text += rest;
+    report(fault, row.type, row.code, text.c_str());
 }
 
 bool c_get_as_utf8::at_end_of_input() const {
@@ -272,7 +286,7 @@ int c_get_as_utf8::decode_utf16(int first, bool is_big_endian) {
 }
 
 int c_get_as_utf8::refuse_encoding() {
-    error(ELMX_TYPE_FATAL, ELMX_BAD_CHAR_ENCODING, "Unrecognised character encoding");
+    error(scanner_fault::unknown_bytes);
     return -1;
 }
 
@@ -327,12 +341,10 @@ bool c_get_as_utf8::set_encoding(const char* name) {
     } else if (equals_ignoring_case(name, "UTF-16")) {
         is_accepted = is_utf16;
     } else {
-        error(ELMX_TYPE_FATAL, ELMX_BAD_CHAR_ENCODING, "Unknown character encoding specified");
+        error(scanner_fault::unknown_encoding);
         return false;
     }
-    if (!is_accepted) {
-        error(ELMX_TYPE_FATAL, ELMX_ENCODING_MISMATCH, "Mis-match between specfied encoding and byte format");
-    }
+    if (!is_accepted) error(scanner_fault::other_encoding);
     return is_accepted;
 }
 

@@ -8,6 +8,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <initializer_list>
 #include <memory>
 #include <string>
 #include <string_view>
@@ -16,6 +17,7 @@
 #include "lmx/export.h"
 #include "lmx/reader/byte_set.h"
 #include "lmx/reader/read.h"
+#include "lmx/reader/scanner_fault.h"
 
 namespace lmx {
 
@@ -82,8 +84,12 @@ public:
     const char* get_source_id() const { return m_reader.get_source_id(); }
     c_error& get_error_handler() const { return m_error; }
 
-    void error(elmx_error_type type, elmx_error code, const char* text);
+    void error(elmx_error_type type, elmx_error code, const char* text) {
+        report(scanner_fault::other, type, code, text);
+    }
     void error(elmx_error_type type, elmx_error code, const std::string& text) { error(type, code, text.c_str()); }
+    /// Reports a fault by its row; the parts stand for the `{}` of its text, of which there are as many.
+    void error(scanner_fault fault, std::initializer_list<std::string_view> parts = {});
 
     /// True once nothing more can come: the source has ended or a fatal report has shut the reader.
     bool at_end_of_input() const;
@@ -91,6 +97,9 @@ public:
     bool has_source_ended() const { return m_is_source_at_end; }
 
 protected:
+    /// The last one that was reported as an error.
+    scanner_fault get_fault() const { return m_fault; }
+
     // Short cuts through the window, which is the source's or one decoded from it. Each does what calls of `get` and
     // `unget` would do, or nothing, when the state or the window's end doesn't let it see enough: callers go on with
     // `get`.
@@ -150,6 +159,7 @@ private:
     bool is_decoding_due() const;
     void enter_decoded();
     void leave_decoded();
+    void report(scanner_fault fault, elmx_error_type type, elmx_error code, const char* text);
 
     int get_slowly();
     int read_byte();
@@ -165,6 +175,7 @@ private:
     c_read& m_reader;
     c_error& m_error;
     c_getter_error_binder m_error_binder;
+    scanner_fault m_fault = scanner_fault::other;
     int m_encoding = enc_unknown;
     int m_last_char = 0;
     c_unget_buffer m_unget;

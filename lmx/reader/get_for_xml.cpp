@@ -110,11 +110,11 @@ bool c_get_for_xml::read_decl_value(const char* rest_of_name, std::string* value
 bool c_get_for_xml::read_xml_decl() {
     std::string value;
     if (get_non_ws() != 'v' || !read_decl_value("ersion", &value)) {
-        error(ELMX_TYPE_ERROR, ELMX_BAD_XML_DECL, "Version not present in XML Decl");
+        error(scanner_fault::no_version);
         return false;
     }
     if (value != "1.0" && value != "1.1") {
-        error(ELMX_TYPE_ERROR, ELMX_BAD_XML_VERSION, "XML version " + value + " not understood");
+        error(scanner_fault::unknown_version, {value});
         return false;
     }
     int c = get_non_ws();
@@ -128,7 +128,7 @@ bool c_get_for_xml::read_xml_decl() {
         if (c == '=') {
             if (!get_simple_quoted_value(&value)) return false;
             if (value == "no") {
-                error(ELMX_TYPE_ERROR, ELMX_BAD_XML_DECL, "XML Document is not standalone");
+                error(scanner_fault::not_standalone);
                 return false;
             }
             c = get_non_ws();
@@ -147,7 +147,7 @@ bool c_get_for_xml::skip_comment() {
             // Two count like any more, but for the warning; the number stays small whatever the comment holds.
             if (hyphens < 3) ++hyphens;
         } else if (c == '>' && hyphens >= 2) {
-            if (hyphens > 2) error(ELMX_TYPE_WARNING, ELMX_BAD_COMMENT, "End of comment not Well-Formed");
+            if (hyphens > 2) error(scanner_fault::loose_comment);
             return true;
         } else {
             hyphens = 0;
@@ -185,8 +185,8 @@ bool c_get_for_xml::move_to_start_tag_end(bool* is_empty) {
             for (c = get(); c != '>' && c != -1; c = get()) {
                 if (xisspace(c) || !is_well_formed) continue;
                 is_well_formed = false;
-                error(ELMX_TYPE_ERROR, ELMX_BAD_END_TAG,
-                      std::string("Illegal character(s) after / at end of tag - ") + static_cast<char>(c));
+                const char found = static_cast<char>(c);
+                error(scanner_fault::broken_empty_tag, {{&found, 1}});
             }
             if (is_empty != nullptr) *is_empty = true;
             return is_well_formed;

@@ -121,14 +121,14 @@ bool c_get_with_entities::set_input_entity_value(const char* value) {
 }
 
 void c_get_with_entities::report_recursion(std::string_view value) {
-    error(ELMX_TYPE_FATAL, ELMX_BAD_DTD, "Recursive entity definition for: " + std::string(value));
+    error(scanner_fault::recursive_entity, {value});
 }
 
 bool c_get_with_entities::charge_reference(std::size_t size, std::size_t written) {
     if (written > 0 && size <= written) return true;
     m_expansion_work += std::max<std::uint64_t>(k_least_reference_cost, size);
     if (m_expansion_work <= k_expansion_base + k_expansion_per_byte * get_bytes_read()) return true;
-    error(ELMX_TYPE_FATAL, ELMX_BAD_DTD, "Entity expansion too large");
+    error(scanner_fault::large_expansion);
     return false;
 }
 

@@ -19,7 +19,7 @@ bool c_dtd_util::select_parameter_entity() {
     if (c != ';') unget(c);
     s_entity_text* const text = m_getter.parameter_entities().find(name);
     if (text == nullptr) {
-        m_getter.error(ELMX_TYPE_ERROR, ELMX_ENTITY_NOT_FOUND, "Entity '%" + name + "' not found");
+        m_getter.error(scanner_fault::unknown_parameter_entity, {name});
         return true;
     }
     const std::size_t written = is_written ? name.size() + (c == ';' ? 2 : 1) : 0;
@@ -90,13 +90,16 @@ bool c_internal_dtd::read_doctype_decl() {
     if (c != '[') return c == '>';
     if (!read_subset()) return false;
     c = getter().get_non_ws();
-    return c == '>' || refuse("DTD not Well Formed (expected '>', got ", c);
+    return c == '>' || refuse(scanner_fault::unclosed_doctype, scanner_fault::unclosed_doctype_at_end, c);
 }
 
-bool c_internal_dtd::refuse(const char* text, int c) {
-    std::string message = text;
-    if (c != -1) message += static_cast<char>(c);
-    getter().error(ELMX_TYPE_FATAL, ELMX_BAD_DTD, message + ")");
+bool c_internal_dtd::refuse(scanner_fault fault, scanner_fault at_end, int c) {
+    const char found = static_cast<char>(c);
+    if (c == -1) {
+        getter().error(at_end);
+    } else {
+        getter().error(fault, {{&found, 1}});
+    }
     return false;
 }
 
@@ -113,7 +116,7 @@ bool c_internal_dtd::read_subset() {
             case ']':
                 return true;
             default:
-                return refuse("DTD not Well Formed (got ", c);
+                return refuse(scanner_fault::stray_in_doctype, scanner_fault::stray_in_doctype_at_end, c);
         }
     }
 }
@@ -155,9 +158,9 @@ bool c_internal_dtd::read_entity_definition(bool* is_parameter, std::string* nam
     if (!get_entity_value(value)) return false;
     // An external entity is never fetched; the word that announces it becomes its value.
     if (*value == "SYSTEM" || *value == "PUBLIC") {
-        getter().error(ELMX_TYPE_WARNING, ELMX_EXTERNAL_ENTITY, "External Entity definitions not supported");
+        getter().error(scanner_fault::external_entity);
     } else {
-        getter().error(ELMX_TYPE_ERROR, ELMX_UNEXPECTED_ENTITY, "Unexpected value in Entity definition: " + *value);
+        getter().error(scanner_fault::odd_entity_value, {*value});
     }
     return true;
 }

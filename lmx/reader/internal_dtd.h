@@ -8,6 +8,7 @@
 #include <string>
 
 #include "lmx/export.h"
+#include "lmx/reader/scanner_fault.h"
 
 namespace lmx {
 
@@ -51,7 +52,8 @@ private:
     bool read_markup();
     bool read_entity_decl();
     bool read_entity_definition(bool* is_parameter, std::string* name, std::string* value);
-    bool refuse(const char* text, int c);
+    /// `at_end` stands for a missing character.
+    bool refuse(scanner_fault fault, scanner_fault at_end, int c);
 };
 
 }  // namespace lmx

@@ -7,11 +7,13 @@
 #pragma once
 
 #include <cstddef>
+#include <initializer_list>
 #include <string>
 #include <string_view>
 
 #include "lmx/export.h"
 #include "lmx/reader/attribute_list.h"
+#include "lmx/reader/diagnosis.h"
 #include "lmx/reader/get_for_xml.h"
 #include "lmx/reader/internal_dtd.h"
 #include "lmx/reader/namespaces.h"
@@ -81,11 +83,10 @@ public:
 
     /// The line where the event that `get_element_name` delivered last, or failed to, begins.
     int get_event_line() const { return m_event_line; }
-    /// The line of the attribute that was named last.
-    int get_attribute_line() const { return m_named.position == 0 ? m_event_line : m_named.attribute.line; }
-    /// The values of the attribute that was named last, and of the first one of that full name in the last start tag,
-    /// with references as they stand there; without data if there's none. Good until the next event.
-    std::string_view get_raw_attribute_value() const;
+    /// What a failure here is described with.
+    s_diagnosis diagnose() const;
+    /// The value of the first attribute of that full name in the last start tag, with references as they stand there;
+    /// without data if there's none. Good until the next event.
     std::string_view find_raw_attribute_value(std::string_view name) const;
 
     int add_namespace(const char* uri) { return m_namespaces.add_namespace(uri); }
@@ -119,7 +120,8 @@ private:
     class c_text_name_reader;
     enum class e_piece { start_tag, text, end_tag, error };
 
-    bool report_not_well_formed(const char* text);
+    /// Reports it; false.
+    bool refuse(scanner_fault fault, std::initializer_list<std::string_view> parts = {});
     elxp_xml_event deliver(elxp_xml_event event);
 
     /// Take a tag of the common form that lies ahead as a whole, behind the `<`; otherwise they do nothing.
@@ -140,7 +142,6 @@ private:
     bool read_attributes(c_xml_local* local);
     bool read_raw_value(s_attribute* attribute);
     void declare_namespace(c_xml_local* local, const s_attribute& attribute);
-    bool refuse_attribute(const std::string& text);
 
     bool read_reference(c_entity_name_reader& reader, std::string* out);
     bool read_entity_name(c_entity_name_reader& reader);

@@ -84,6 +84,15 @@ elmx_error c_xml_reader::handle_error(elmx_error code, const std::string& item_n
     return m_last_error;
 }
 
+s_diagnosis c_xml_reader::diagnose() const {
+    s_diagnosis diagnosis = c_xml::diagnose();
+    diagnosis.scanned_event = m_scanned_event;
+    diagnosis.fault_text = m_collector.m_text;
+    diagnosis.fault_line = m_collector.m_line - (get_line_num() - get_text_line());
+    diagnosis.notes = m_notes;
+    return diagnosis;
+}
+
 void c_xml_reader::set_ns_map(const s_ns_map* map) {
     for (; map->uri != nullptr; ++map) add_namespace(map->uri, map->ns_id);
     for (const auto& [prefix, uri] : m_ns_mappings) m_root_local.add_namespace(prefix, add_namespace(uri.c_str()));
@@ -112,7 +121,7 @@ void c_xml_reader::take_plain(std::size_t count, int line_feeds, const s_plain_t
     if (trace.attribute_name.data() != nullptr) m_attr_name = trace.attribute_name;
     if (trace.has_value) {
         m_value = trace.value;
-        m_is_value_faulty = false;
+        m_notes.is_value_faulty = false;
         set_ws_mode(trace.whitespace);
     }
     if (trace.tag.data() == nullptr) return;

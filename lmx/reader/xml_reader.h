@@ -59,9 +59,6 @@ struct s_error_holder {
 
 }  // namespace detail
 
-struct s_open_element;
-struct s_fault_site;
-
 /// Serves one document. Belongs to one thread at a time.
 class VYR_EXPORT c_xml_reader : private detail::s_error_holder, public c_xml {
 public:
@@ -88,10 +85,6 @@ public:
     bool get_error_info(elmx_error_type* type, elmx_error* code, int* line) const {
         return m_collector.get_error_info(type, code, line);
     }
-    /// What the scanner said in its last report of an error, which is the latest thing that it did, and the line as
-    /// an editor shows it; empty while there was none.
-    const std::string& get_scanner_text() const { return m_collector.m_text; }
-    int get_scanner_line() const { return m_collector.m_line - (get_line_num() - get_text_line()); }
     /// The current line, from 1.
     int get_line_no() const { return get_line_num(); }
 
@@ -153,15 +146,11 @@ public:
     const s_known_elements* get_known_elements() const { return m_known_elements; }
     void set_known_elements(const s_known_elements* known) { m_known_elements = known; }
 
-    // What a failure is described with, by those who read elements: the innermost open one, and while the handler is
-    // asked, what the failure is about. Both may be null.
-    s_open_element* get_open_element() const { return m_open_element; }
-    void set_open_element(s_open_element* element) { m_open_element = element; }
-    const s_fault_site* get_fault_site() const { return m_fault_site; }
-    void set_fault_site(const s_fault_site* site) { m_fault_site = site; }
-    /// Whether the value or attribute at hand was found wrong; for handlers that let more than one failure pass.
-    bool is_value_faulty() const { return m_is_value_faulty; }
-    void set_value_faulty(bool is_faulty) { m_is_value_faulty = is_faulty; }
+    /// What those who read elements note for whom describes a failure.
+    s_fault_notes& notes() { return m_notes; }
+    const s_fault_notes& notes() const { return m_notes; }
+    /// What a failure is described with.
+    s_diagnosis diagnose() const;
 
     // For those who take elements from the window without events.
 
@@ -187,9 +176,7 @@ private:
     int m_scanned_event = ELXP_END_OF_INPUT;
     std::vector<std::pair<std::string, std::string>> m_ns_mappings;  ///< prefix, uri
     const s_known_elements* m_known_elements = nullptr;
-    s_open_element* m_open_element = nullptr;
-    const s_fault_site* m_fault_site = nullptr;
-    bool m_is_value_faulty = false;
+    s_fault_notes m_notes;
 
 public:
     // Work strings of whoever reads: the element's name, a value's text, the attribute's name.

@@ -18,13 +18,11 @@
 
 #include "lmx/error.h"
 #include "lmx/export.h"
+#include "lmx/fault_notes.h"
 #include "lmx/ns_map.h"
 #include "lmx/writer/output.h"
 
 namespace lmx {
-
-struct s_open_element;
-struct s_fault_site;
 
 /// One write to one stream. Neither flushes nor closes the stream; a failed stream goes unnoticed, but one whose
 /// exceptions are enabled throws. Whatever was printed is in the stream when a call returns, and when a handler, an
@@ -106,12 +104,9 @@ public:
         return m_error.get_error_info(type, code, line);
     }
 
-    // What a failure is described with, by those who print elements: the innermost open one, and while the failure is
-    // passed on, what it is about. Both may be null.
-    s_open_element* get_open_element() const { return m_open_element; }
-    void set_open_element(s_open_element* element) { m_open_element = element; }
-    const s_fault_site* get_fault_site() const { return m_fault_site; }
-    void set_fault_site(const s_fault_site* site) { m_fault_site = site; }
+    /// What those who print elements note for whom describes a failure.
+    s_fault_notes& notes() { return m_notes; }
+    const s_fault_notes& notes() const { return m_notes; }
 
     // For those who print elements, within a `c_printing`. A piece is begun by `start_line` or by `get_output`, and
     // asks for its line end before its text is put together.
@@ -169,8 +164,7 @@ private:
     std::vector<string_pair> m_namespaces;        ///< prefix, uri
     std::vector<string_pair> m_schema_locations;  ///< namespace, location
     const char* m_expected_class_identity = nullptr;
-    s_open_element* m_open_element = nullptr;
-    const s_fault_site* m_fault_site = nullptr;
+    s_fault_notes m_notes;
 };
 
 /// A call that prints elements. They may be nested; when the outermost ends, everything is in the stream.

@@ -66,12 +66,12 @@ public:
         get_error_info(&type, &scanned, &line);
         std::ostringstream out;
         out << what << ' ' << code << " '" << item << "' lines " << get_line_no() << ' ' << get_text_line() << ' '
-            << get_event_line() << ' ' << get_attribute_line() << " events " << get_current_event() << ' '
+            << get_event_line() << ' ' << diagnose().attribute_line << " events " << get_current_event() << ' '
             << get_scanned_event() << " names '" << m_name << "' '" << m_attr_name << "' '" << get_full_name() << "' "
-            << get_ns_id() << " value '" << m_value << "' " << is_value_faulty() << " depth "
-            << get_element_name_stack().get_depth() << " attributes '" << get_raw_attribute_value() << "' '"
+            << get_ns_id() << " value '" << m_value << "' " << notes().is_value_faulty << " depth "
+            << get_element_name_stack().get_depth() << " attributes '" << diagnose().attribute_value << "' '"
             << find_raw_attribute_value("Name") << "' '" << find_raw_attribute_value("UniqueID") << "' scanner "
-            << type << ' ' << scanned << ' ' << line << ' ' << get_scanner_text() << '\n';
+            << type << ' ' << scanned << ' ' << line << ' ' << diagnose().fault_text << '\n';
         log += out.str();
     }
     std::string log;

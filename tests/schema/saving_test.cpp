@@ -182,7 +182,7 @@ TEST(Saving, AStreamThatThrowsIsTheCallersToHear) {
                 EXPECT_THROW(save(), std::ios_base::failure);
             }
             ASSERT_EQ(buffer.text, whole.substr(0, room));
-            EXPECT_EQ(writer.get_open_element(), nullptr);
+            EXPECT_EQ(writer.notes().open_element, nullptr);
 
             stream.clear();
             buffer.widen();
@@ -216,8 +216,8 @@ TEST(Saving, AHandlerMayThrow) {
     c_throwing writer(stream, "", "");
     EXPECT_THROW(com_vyrgraph_v2::AxisValueChoice().marshal(writer, "a"), std::domain_error);
     EXPECT_THROW(com_vyrgraph_v2::Person().marshal(writer, "a"), std::domain_error);
-    EXPECT_EQ(writer.get_fault_site(), nullptr);
-    EXPECT_EQ(writer.get_open_element(), nullptr);
+    EXPECT_EQ(writer.notes().fault_site, nullptr);
+    EXPECT_EQ(writer.notes().open_element, nullptr);
 }
 
 /// Takes pieces whole and counts them.

@@ -279,8 +279,8 @@ TEST(Attributes, MayBeOfAnyLength) {
                                                                 {"e", "", 3000302}}) {
         EXPECT_EQ(scanner.xml.get_attribute_name(&text, false), ELXP_NAME);
         EXPECT_TRUE(text == name);
-        EXPECT_EQ(scanner.xml.get_attribute_line(), line);
-        EXPECT_TRUE(scanner.xml.get_raw_attribute_value() == value);
+        EXPECT_EQ(scanner.xml.diagnose().attribute_line, line);
+        EXPECT_TRUE(scanner.xml.diagnose().attribute_value == value);
         EXPECT_TRUE(scanner.xml.find_raw_attribute_value(name) == value);
         // A search that fails leaves the value to be read.
         EXPECT_FALSE(name == "d" && scanner.xml.get_named_attribute(&scanner.scope, 1, "none", &text));
