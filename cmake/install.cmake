@@ -25,7 +25,7 @@ foreach(folder lmx schema)
   install(DIRECTORY ${folder} DESTINATION ${vyr_include_dir} COMPONENT development FILES_MATCHING PATTERN "*.h"
           PATTERN "generator" EXCLUDE PATTERN "storage.h" EXCLUDE PATTERN "file_name.h" EXCLUDE
           PATTERN "seconds.h" EXCLUDE PATTERN "failure*.h" EXCLUDE PATTERN "open_element.h" EXCLUDE
-          PATTERN "shown_text.h" EXCLUDE PATTERN "hidden.h" EXCLUDE
+          PATTERN "shown_text.h" EXCLUDE PATTERN "source_place.h" EXCLUDE PATTERN "hidden.h" EXCLUDE
           PATTERN "utf8.h" EXCLUDE)
 endforeach()
 foreach(header document/report.h document/result.h zip/add_request.h zip/container.h zip/entry_header.h zip/exception.h)

@@ -16,8 +16,6 @@
 namespace lmx {
 namespace {
 
-constexpr char k_source_file[] = "lmx/binding/document.cpp";
-
 template <class Target>
 elmx_error marshal_whole(const s_document& document, const void* object, Target& target) {
     c_xml_writer writer(target, c_xml_writer::include_xml_decl, "\t", "\n");
@@ -32,14 +30,14 @@ elmx_error unmarshal_document(const s_document& document, void* object, c_xml_re
     elmx_error error = ELMX_OK;
     reader.get_element_event(nullptr, &error, &reader.m_name);
     if (error != ELMX_OK) {
-        error = reader.handle_error(error, reader.m_name, k_source_file, __LINE__);
+        error = report_at(reader, {}, error, reader.m_name);
         if (error != ELMX_OK) return error;
     }
     const bool is_document =
         reader.get_element_ns_id() == document.ns_map->ns_id && reader.get_local_name() == document.local_name;
     if (!is_document) {
         const s_fault_site site{nullptr, nullptr, nullptr, &document};
-        error = report_at(reader, site, ELMX_ELEMENT_NOT_FOUND, reader.m_name, k_source_file, __LINE__);
+        error = report_at(reader, site, ELMX_ELEMENT_NOT_FOUND, reader.m_name);
         if (error != ELMX_OK) return error;
     }
     return document.operations->unmarshal(object, reader, reader.m_name);

@@ -17,8 +17,6 @@
 namespace lmx {
 namespace {
 
-constexpr char k_source_file[] = "lmx/binding/marshal.cpp";
-
 void tell_unless_read(c_xml_writer& writer, const s_item& item, const void* storage) {
     const elmx_error code = code_of_reading(item, storage, &writer.get_output().get_scratch());
     if (code == ELMX_OK) return;
@@ -120,7 +118,7 @@ elmx_error print_chosen(c_xml_writer& writer, const s_class& type, const void* o
     const s_item* const alternative = chosen_row(type, choice);
     if (alternative == nullptr) {
         const c_handed_over handed_over(writer);
-        return report_at(writer, {&type}, ELMX_BAD_CHOICE, type.qualified_name, k_source_file, __LINE__);
+        return report_at(writer, {&type}, ELMX_BAD_CHOICE, type.qualified_name);
     }
     if (alternative->type == nullptr) {
         print_element(writer, *alternative, alternative_storage(*alternative, choice));

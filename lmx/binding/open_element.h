@@ -11,6 +11,7 @@
 #include <string_view>
 
 #include "lmx/binding/document.h"
+#include "lmx/binding/source_place.h"
 #include "lmx/binding/table.h"
 #include "lmx/reader/string_stack.h"
 #include "lmx/reader/xml_reader.h"
@@ -72,9 +73,9 @@ private:
 /// Passes a failure with its site to the handler; the handler's answer.
 template <class Stream>
 elmx_error report_at(Stream& stream, const s_fault_site& site, elmx_error code, const std::string& item_name,
-                     const char* file, int line) {
+                     s_source_place place = s_source_place::current()) {
     const c_told_site told(stream, site);
-    return stream.handle_error(code, item_name, file, line);
+    return stream.handle_error(code, item_name, place.file, place.line);
 }
 
 /// The same for a failure that goes around the handler; the code.

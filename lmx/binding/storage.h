@@ -97,7 +97,7 @@ inline const void* alternative_storage(const s_item& alternative, const s_choice
     return alternative_storage(alternative, const_cast<s_choice&>(choice));
 }
 
-/// Calls `action` with an object of the C++ type of a simple value, as `static_cast<T*>(nullptr)`.
+/// Calls `action` with a null pointer to the C++ type of a simple value.
 template <class Action>
 decltype(auto) with_value_type(value_kind kind, Action&& action) {
     switch (kind) {

@@ -14,17 +14,16 @@
 namespace lmx {
 namespace {
 
-constexpr char k_source_file[] = "lmx/binding/unmarshal.cpp";
-
 /// Passes a failure to the reader's handler. True if the handler swallowed it and reading goes on; `*error` is the
 /// handler's answer.
 bool goes_on(c_xml_reader& reader, const s_fault_site& site, elmx_error code, const std::string& item_name,
-             elmx_error* error, int line) {
-    *error = report_at(reader, site, code, item_name, k_source_file, line);
+             elmx_error* error, s_source_place place = s_source_place::current()) {
+    *error = report_at(reader, site, code, item_name, place);
     return *error == ELMX_OK;
 }
-bool goes_on(c_xml_reader& reader, elmx_error code, const std::string& item_name, elmx_error* error, int line) {
-    return goes_on(reader, {}, code, item_name, error, line);
+bool goes_on(c_xml_reader& reader, elmx_error code, const std::string& item_name, elmx_error* error,
+             s_source_place place = s_source_place::current()) {
+    return goes_on(reader, {}, code, item_name, error, place);
 }
 
 void note_item(c_xml_reader& reader, const s_item& item) {
@@ -34,7 +33,7 @@ void note_item(c_xml_reader& reader, const s_item& item) {
 bool next_element(c_xml_reader& reader, const s_event_map* map, std::string* name, elmx_error* error) {
     *error = ELMX_OK;
     reader.get_element_event(map, error, name);
-    return *error == ELMX_OK || goes_on(reader, *error, *name, error, __LINE__);
+    return *error == ELMX_OK || goes_on(reader, *error, *name, error);
 }
 
 /// Text and ends have no name: the one at hand is that of an element or attribute before them.
@@ -57,7 +56,7 @@ bool store_value(const s_class& type, const s_item& item, void* object, c_xml_re
     s_read_value value{reader.m_value, item.facets};
     kind.look(value);
     const auto fault = [&](elmx_error code) {
-        if (!goes_on(reader, site, code, item_name, error, __LINE__)) return false;
+        if (!goes_on(reader, site, code, item_name, error)) return false;
         kind.look(value);  // the handler may have mended the text
         return true;
     };
@@ -74,7 +73,7 @@ bool read_simple_element(const s_class& type, const s_item& item, void* object, 
     *error = ELMX_OK;
     reader.notes().is_value_faulty = false;
     if (!reader.get_simple_type_value(name, item.whitespace, &reader.m_value, error, &is_empty)) {
-        return goes_on(reader, {&type, &item, object}, *error, name, error, __LINE__);
+        return goes_on(reader, {&type, &item, object}, *error, name, error);
     }
     return store_value(type, item, object, reader, name, error);
 }
@@ -83,7 +82,7 @@ bool read_simple_element(const s_class& type, const s_item& item, void* object, 
 
 bool report_missing(c_xml_reader& reader, const s_item& item, elmx_error* error) {
     if ((item.use & use_demanded) == 0) return true;
-    return goes_on(reader, {nullptr, &item}, ELMX_MANDATORY_ELEMENT_MISSING, std::string(item.name), error, __LINE__);
+    return goes_on(reader, {nullptr, &item}, ELMX_MANDATORY_ELEMENT_MISSING, std::string(item.name), error);
 }
 
 /// Reads the member of a group that the current event names, without the event behind it. `*error` is set if that
@@ -122,7 +121,7 @@ bool read_group(const s_class& type, void* object, c_xml_reader& reader, const s
     release_choice(type, object);
     // Only an element can be passed over.
     const bool is_skipped = reader.get_scanned_event() == ELXP_NAME && reader.skip_rest_of_element(name);
-    return is_skipped || goes_on(reader, ELMX_BAD_END_OF_ELEMENT, name, error, __LINE__);
+    return is_skipped || goes_on(reader, ELMX_BAD_END_OF_ELEMENT, name, error);
 }
 
 bool is_group(const s_item& item) { return item.kind == item_kind::group || item.kind == item_kind::group_list; }
@@ -161,7 +160,7 @@ bool read_item(const s_class& type, const s_item& item, void* object, c_xml_read
         }
         default:
             return reader.skip_rest_of_empty_element(*name) ||
-                   goes_on(reader, {&type, &item, object}, ELMX_BAD_END_OF_ELEMENT, *name, error, __LINE__);
+                   goes_on(reader, {&type, &item, object}, ELMX_BAD_END_OF_ELEMENT, *name, error);
     }
 }
 
@@ -178,7 +177,7 @@ bool read_event_behind(s_place* place, void* object, c_xml_reader& reader, std::
 bool check_lists(const s_class& type, const void* object, c_xml_reader& reader, elmx_error* error) {
     const s_item* const short_list = find_short_list(type, object);
     return short_list == nullptr ||
-           goes_on(reader, {&type, short_list}, ELMX_MANDATORY_ELEMENT_MISSING, type.qualified_name, error, __LINE__);
+           goes_on(reader, {&type, short_list}, ELMX_MANDATORY_ELEMENT_MISSING, type.qualified_name, error);
 }
 
 /// Goes on to the row that takes the current event; what is passed over and must be there is reported. At the end of
@@ -237,7 +236,7 @@ bool read_any(const s_class& type, const s_item& item, void* object, c_xml_reade
     if (!reader.is_current_event_tokenisable() && !report_missing(reader, item, error)) return false;
     while (reader.is_current_event_tokenisable()) {
         if (!reader.get_any_element(*name, &reader.m_value, ELMX_WS_PRESERVE, true) &&
-            !goes_on(reader, ELMX_UNABLE_TO_READ_ELEMENT_VALUE, *name, error, __LINE__)) {
+            !goes_on(reader, ELMX_UNABLE_TO_READ_ELEMENT_VALUE, *name, error)) {
             return false;
         }
         c_any_info& entry = entries.append();
@@ -247,15 +246,14 @@ bool read_any(const s_class& type, const s_item& item, void* object, c_xml_reade
         entry.set_value(reader.m_value);
         if (!next_element(reader, nullptr, name, error)) return false;
     }
-    return entries.size() > 0 ||
-           goes_on(reader, ELMX_MANDATORY_ELEMENT_MISSING, type.qualified_name, error, __LINE__);
+    return entries.size() > 0 || goes_on(reader, ELMX_MANDATORY_ELEMENT_MISSING, type.qualified_name, error);
 }
 
 bool read_choice(const s_class& type, void* object, c_xml_reader& reader, std::string* name, elmx_error* error) {
     tokenise_element(reader, type.element_map);
     const s_item* const alternative = find_token(type.elements, reader.get_current_event());
     if (alternative == nullptr) {
-        return goes_on(reader, {&type}, ELMX_UNKNOWN_ELEMENT_IN_COMPLEX_CONTENT, *name, error, __LINE__);
+        return goes_on(reader, {&type}, ELMX_UNKNOWN_ELEMENT_IN_COMPLEX_CONTENT, *name, error);
     }
     note_item(reader, *alternative);
     // Alternatives with storage of their own are chosen before they are read, so that a half-read one stays.
@@ -286,7 +284,7 @@ bool read_body(const s_class& type, void* object, c_xml_reader& reader, c_plain_
 
 bool read_nil(const s_class& type, void* object, c_xml_reader& reader, const std::string& name, elmx_error* error) {
     if (!reader.get_attribute_value(&reader.m_value, ELMX_WS_COLLAPSE)) {
-        return goes_on(reader, ELMX_UNABLE_TO_READ_ATTRIBUTE_VALUE, name, error, __LINE__);
+        return goes_on(reader, ELMX_UNABLE_TO_READ_ATTRIBUTE_VALUE, name, error);
     }
     member<bool>(object, type.nil_flag) = text_to_bool(reader.m_value);
     return true;
@@ -296,14 +294,14 @@ elmx_error read_attributes(const s_class& type, void* object, c_xml_reader& read
     elmx_error error = ELMX_OK;
     while (reader.get_attribute_event(nullptr, &error, &reader.m_attr_name)) {
         if (error != ELMX_OK) {
-            if (!goes_on(reader, error, name, &error, __LINE__)) return error;
+            if (!goes_on(reader, error, name, &error)) return error;
             // Nothing more can come: a handler that swallows all errors would be asked for ever.
             if (reader.at_end_of_input()) break;
         }
         if (unmarshal_attribute(type, object, reader, reader.m_attr_name, &error)) continue;
         if (error != ELMX_OK) return error;
         if (!reader.is_xsi_attribute(reader.m_attr_name) &&
-            !goes_on(reader, {&type}, ELMX_UNEXPECTED_ATTRIBUTE, reader.m_name, &error, __LINE__)) {
+            !goes_on(reader, {&type}, ELMX_UNEXPECTED_ATTRIBUTE, reader.m_name, &error)) {
             return error;
         }
         reader.skip_attribute_value();
@@ -312,7 +310,7 @@ elmx_error read_attributes(const s_class& type, void* object, c_xml_reader& read
 }
 
 elmx_error refuse_end(c_xml_reader& reader, const c_string_stack_node& node) {
-    return reader.handle_error(ELMX_BAD_END_OF_ELEMENT, node.get_str(), k_source_file, __LINE__);
+    return report_at(reader, {}, ELMX_BAD_END_OF_ELEMENT, node.get_str());
 }
 
 /// The element must end here, under the name it began with.
@@ -325,7 +323,7 @@ elmx_error check_end(c_xml_reader& reader, const c_string_stack_node& node) {
 elmx_error read_event(c_xml_reader& reader, const c_string_stack_node& node) {
     elmx_error error = ELMX_OK;
     reader.get_element_event(nullptr, &error, &reader.m_name);
-    return error == ELMX_OK ? ELMX_OK : reader.handle_error(error, node.get_str(), k_source_file, __LINE__);
+    return error == ELMX_OK ? ELMX_OK : report_at(reader, {}, error, node.get_str());
 }
 
 elmx_error read_simple_content(const s_class& type, void* object, c_xml_reader& reader,
@@ -372,7 +370,7 @@ elmx_error read_children(const s_class& type, void* object, c_xml_reader& reader
     if (is_misnamed || (is_nil(type, object) && !is_empty)) return refuse_end(reader, node);
     if (is_empty) {
         if (is_nil(type, object) || type.may_be_empty || type.content == content_kind::empty) return ELMX_OK;
-        return reader.handle_error(ELMX_UNEXPECTED_EMPTY_ELEMENT, node.get_str(), k_source_file, __LINE__);
+        return report_at(reader, {}, ELMX_UNEXPECTED_EMPTY_ELEMENT, node.get_str());
     }
     if (!read_body(type, object, reader, plain, end, &reader.m_name, &error, &is_ended)) return error;
     return is_ended ? ELMX_OK : check_end(reader, node);
@@ -380,7 +378,7 @@ elmx_error read_children(const s_class& type, void* object, c_xml_reader& reader
 
 elmx_error refuse_nesting(c_xml_reader& reader, const std::string& name) {
     const std::string own_name = name;  // NOLINT(performance-unnecessary-copy-initialization): a handler may read on
-    const elmx_error error = reader.handle_error(ELMX_BADLY_FORMED, own_name, k_source_file, __LINE__);
+    const elmx_error error = report_at(reader, {}, ELMX_BADLY_FORMED, own_name);
     if (error == ELMX_OK) reader.skip_rest_of_element(own_name);
     return error;
 }
@@ -429,11 +427,10 @@ bool unmarshal_attribute(const s_class& type, void* object, c_xml_reader& reader
         return type.base != nullptr && unmarshal_attribute(*type.base, object, reader, name, error);
     }
     const s_fault_site site{&type, item, object};
-    if (is_set(*item, object) && !goes_on(reader, site, ELMX_ATTRIBUTE_ALREADY_READ, name, error, __LINE__))
-        return false;
+    if (is_set(*item, object) && !goes_on(reader, site, ELMX_ATTRIBUTE_ALREADY_READ, name, error)) return false;
     if (!reader.get_attribute_value(&reader.m_value, item->whitespace)) {
-        if (!goes_on(reader, site, ELMX_UNABLE_TO_READ_ATTRIBUTE_VALUE, name, error, __LINE__)) return false;
-        // The reader stands inside the value; the next attribute begins behind it.
+        if (!goes_on(reader, site, ELMX_UNABLE_TO_READ_ATTRIBUTE_VALUE, name, error)) return false;
+        // What is left of it is read by nobody.
         reader.skip_attribute_value();
         return true;
     }
@@ -447,8 +444,7 @@ elmx_error check_required_attributes(const s_class& type, const void* object, c_
     }
     for (const s_item& item : type.attributes) {
         if ((item.use & use_demanded) != 0 && !is_set(item, object)) {
-            return report_at(reader, {&type, &item, object}, ELMX_REQUIRED_ATTRIBUTES_MISSING, type.name,
-                             k_source_file, __LINE__);
+            return report_at(reader, {&type, &item, object}, ELMX_REQUIRED_ATTRIBUTES_MISSING, type.name);
         }
     }
     return ELMX_OK;
@@ -470,7 +466,7 @@ bool unmarshal_content(const s_class& type, void* object, c_xml_reader& reader, 
     if (!has_body) {
         reader.m_value.clear();
     } else if (!reader.get_element_value(&reader.m_value, item.whitespace, true)) {
-        return goes_on(reader, {&owner, &item, object}, ELMX_UNABLE_TO_READ_ELEMENT_VALUE, *name, error, __LINE__);
+        return goes_on(reader, {&owner, &item, object}, ELMX_UNABLE_TO_READ_ELEMENT_VALUE, *name, error);
     }
     return store_value(owner, item, object, reader, *name, error);
 }
