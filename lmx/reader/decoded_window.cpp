@@ -9,6 +9,7 @@
 #include "lmx/reader/get_as_utf8.h"
 #include "lmx/reader/plain_text.h"
 #include "lmx/values/unicode.h"
+#include "lmx/values/utf8.h"
 
 namespace lmx {
 namespace {
@@ -34,15 +35,8 @@ std::size_t utf8_line_end(std::string_view bytes) {
 }
 
 std::size_t whole_utf8_char(std::string_view bytes) {
-    const int lead = byte_at(bytes.data());
-    const std::size_t length = lead < 0xE0 ? 2 : lead < 0xF0 ? 3 : 4;
-    if (lead < 0xC2 || lead > 0xF4 || bytes.size() < length) return 0;
-    char sequence[5] = {bytes[0]};
-    for (std::size_t k = 1; k < length; ++k) {
-        sequence[k] = bytes[k];
-        if ((static_cast<unsigned char>(sequence[k]) & 0xC0) != 0x80) return 0;
-    }
-    return is_valid_utf8_char_sequence(sequence) ? length : 0;
+    const std::size_t size = utf8::first_character(bytes).size;
+    return size > 1 ? size : 0;
 }
 
 c_decoded_window::c_decoded_window() : m_limit(k_most) {}
@@ -55,18 +49,20 @@ int c_decoded_window::read_char(const char** at, char* out) const {
     const auto left = static_cast<std::size_t>(m_source_end - from);
     if (is_wide()) {
         const bool is_big = m_encoding == enc_utf16_be || m_encoding == enc_ucs2_be;
-        const auto unit_at = [&](const char* unit) { return byte_at(unit + !is_big) << 8 | byte_at(unit + is_big); };
+        const auto unit_at = [&](const char* unit) {
+            return static_cast<std::uint32_t>(byte_at(unit + !is_big) << 8 | byte_at(unit + is_big));
+        };
         if (left < 2) return 0;
-        int unit = unit_at(from);
+        std::uint32_t unit = unit_at(from);
         *at += 2;
         const bool is_paired = m_encoding == enc_utf16_be || m_encoding == enc_utf16_le;
-        if (is_paired && unit >= 0xD800 && unit <= 0xDBFF) {
-            const int next = left < 4 ? 0 : unit_at(from + 2);
-            if (next < 0xDC00 || next > 0xDFFF) return 0;
-            unit = ((unit & 0x3FF) + 0x40) * 1024 + (next & 0x3FF);
+        if (is_paired && utf8::is_high_surrogate(unit)) {
+            const std::uint32_t next = left < 4 ? 0 : unit_at(from + 2);
+            if (!utf8::is_low_surrogate(next)) return 0;
+            unit = utf8::join_surrogates(unit, next);
             *at += 2;
         }
-        return write_char(unit, out);
+        return write_char(static_cast<int>(unit), out);
     }
     if (left == 0) return 0;
     if (static_cast<signed char>(*from) >= 0) {

@@ -9,6 +9,7 @@
 #include "lmx/reader/decoded_window.h"
 #include "lmx/values/characters.h"
 #include "lmx/values/unicode.h"
+#include "lmx/values/utf8.h"
 
 namespace lmx {
 namespace {
@@ -276,13 +277,15 @@ int c_get_as_utf8::read_unit(int first, bool is_big_endian) {
 int c_get_as_utf8::decode_utf16(int first, bool is_big_endian) {
     const int unit = read_unit(first, is_big_endian);
     if (unit < 0) return -1;
-    if (!is_within(unit, 0xD800, 0xDBFF)) return encode(unit);
+    const auto high = static_cast<std::uint32_t>(unit);
+    if (!utf8::is_high_surrogate(high)) return encode(unit);
     const int next_first = read_byte();
     if (next_first < 0) return -1;
     const int next = read_unit(next_first, is_big_endian);
     if (next < 0) return -1;
-    if (!is_within(next, 0xDC00, 0xDFFF)) return refuse_encoding();
-    return encode(((unit & 0x3FF) + 0x40) * 1024 + (next & 0x3FF));
+    const auto low = static_cast<std::uint32_t>(next);
+    if (!utf8::is_low_surrogate(low)) return refuse_encoding();
+    return encode(static_cast<int>(utf8::join_surrogates(high, low)));
 }
 
 int c_get_as_utf8::refuse_encoding() {
