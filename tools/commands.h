@@ -31,19 +31,20 @@ struct check_options {
 };
 
 struct info_options {
-    std::string file;
+    std::vector<std::string> files;
     std::size_t depth = 4;
     bool json = false;
 };
 
 /// Patterns as the shell's, matched with the whole name; empty ones match everything.
 struct list_options {
-    std::string file;
+    std::vector<std::string> files;
     std::string palette;
     std::string set;
     std::string name;
     color_mode color = "auto";
     bool json = false;
+    bool csv = false;
 };
 
 struct convert_options {

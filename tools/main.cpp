@@ -33,6 +33,10 @@ void add_file(CLI::App& command, const char* name, std::string& file, const char
     command.add_option(name, file, text)->required()->option_text(" ");
 }
 
+void add_files(CLI::App& command, std::vector<std::string>& files) {
+    command.add_option("FILE", files, "Documents, or - for standard input")->required()->option_text("...");
+}
+
 void add_json(CLI::App& command, bool& json) { command.add_flag("--json", json, "Print JSON"); }
 
 void add_color(CLI::App& command, color_mode& mode) {
@@ -63,7 +67,7 @@ void add_check(CLI::App& command, check_options& options) {
 }
 
 void add_info(CLI::App& command, info_options& options) {
-    add_file(command, "FILE", options.file, "A document, or - for standard input");
+    add_files(command, options.files);
     command.add_option("--depth", options.depth, "Count elements down to this level below the root (4)")
         ->check(CLI::Range(0, 100))
         ->option_text("N");
@@ -71,12 +75,12 @@ void add_info(CLI::App& command, info_options& options) {
     command.footer(
         "Examples:\n"
         "  vyr info inks.vyr\n"
-        "  vyr info --depth 2 inks.vyrz\n"
+        "  vyr info --depth 2 *.vyrz\n"
         "  vyr info --json inks.vyr | jq .colors\n");
 }
 
 void add_list(CLI::App& command, list_options& options) {
-    add_file(command, "FILE", options.file, "A document, or - for standard input");
+    add_files(command, options.files);
     const auto add_pattern = [&](const char* name, std::string& pattern, const char* text) {
         command.add_option(name, pattern, text)->option_text("PATTERN");
     };
@@ -84,15 +88,18 @@ void add_list(CLI::App& command, list_options& options) {
     add_pattern("--set", options.set, "Only colours of colour sets with such a name");
     add_pattern("--name", options.name, "Only colours with such a name");
     add_color(command, options.color);
-    add_json(command, options.json);
+    CLI::Option* const json = command.add_flag("--json", options.json, "Print JSON");
+    command.add_flag("--csv", options.csv, "Print a table for spreadsheets, a row for each value")->excludes(json);
     command.footer(
         "A pattern is one as of the shell and fits the whole name: 'Ink*' fits \"Ink 17\".\n"
-        "On a terminal with 24-bit colours a swatch stands beside each colour with an RGB value.\n\n"
+        "Each value's conditions stand below its table, by number. On a terminal a spectrum has a curve and,\n"
+        "with 24-bit colours, each colour that has an sRGB value a swatch.\n\n"
         "Examples:\n"
         "  vyr list inks.vyr\n"
         "  vyr list --palette Spot --name '*blue*' inks.vyr\n"
         "  vyr list --color always inks.vyr | less -R\n"
-        "  vyr list --json inks.vyr | jq -r '.[].name'\n");
+        "  vyr list --csv inks.vyr > inks.csv\n"
+        "  vyr list --json *.vyr | jq -r '.[].name'\n");
 }
 
 void add_convert(CLI::App& command, convert_options& options) {

@@ -101,6 +101,16 @@ bool use_color(const color_mode& mode) {
            std::string_view(terminal == nullptr ? "" : terminal) != "dumb";
 }
 
+bool use_curves() {
+    for (const char* const name : {"LC_ALL", "LC_CTYPE", "LANG"}) {
+        if (!has_environment(name)) continue;
+        const std::string_view locale = std::getenv(name);
+        const bool has_utf8 = locale.find("UTF-8") != locale.npos || locale.find("utf8") != locale.npos;
+        return has_utf8 && isatty(STDOUT_FILENO) != 0;
+    }
+    return false;
+}
+
 bool use_true_color(const color_mode& mode) {
     if (mode != "auto") return mode == "always";
     const char* const announced = std::getenv("COLORTERM");

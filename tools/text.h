@@ -36,4 +36,7 @@ bool use_color(const color_mode& mode);
 /// The same for colours of 24 bits, which a terminal announces.
 bool use_true_color(const color_mode& mode);
 
+/// Whether to draw curves: standard output is a terminal for UTF-8, by the variables of the locale.
+bool use_curves();
+
 }  // namespace vyr_tool

@@ -8,14 +8,13 @@
 #include <map>
 #include <utility>
 
-#include "lmx/reader/xml_reader.h"
 #include "tools/text.h"
+#include "tools/typed_reader.h"
 
 namespace vyr_tool {
 
 namespace {
 
-constexpr std::string_view k_prefix = "Vyr:";
 constexpr std::string_view k_name = "Name";
 constexpr std::string_view k_blanks = " \t\r\n";
 
@@ -28,12 +27,18 @@ bool is_blank(const std::string& text) { return text.find_first_not_of(k_blanks)
 
 }  // namespace
 
-std::uint32_t c_tree::number_of(const std::string& qualified_name) {
-    const auto [found, is_new] = m_numbers.try_emplace(qualified_name, static_cast<std::uint32_t>(m_names.size()));
-    if (is_new) {
-        const std::string_view whole = found->first;
-        m_names.push_back(whole.starts_with(k_prefix) ? whole.substr(k_prefix.size()) : whole);
+std::uint32_t c_tree::number_of(const std::string& qualified_name, const s_member* member, const lmx::s_class* type) {
+    const auto next = static_cast<std::uint32_t>(m_names.size());
+    if (member != nullptr) {
+        const auto [found, is_new] = m_known.try_emplace({member, type}, next);
+        if (!is_new) return found->second;
+        const s_member* const content = type == nullptr ? nullptr : c_members::of(*type).content();
+        const lmx::value_kind kind = (content == nullptr ? member : content)->item->value;
+        m_names.push_back({local_name(member->name), member, type, kind});
+        return next;
     }
+    const auto [found, is_new] = m_foreign.try_emplace(qualified_name, next);
+    if (is_new) m_names.push_back({local_name(found->first), nullptr, type, lmx::value_kind::none});
     return found->second;
 }
 
@@ -47,11 +52,11 @@ void c_tree::set_hash(index node) {
     const std::hash<std::string_view> of_text;
     s_node& element = m_nodes[node];
     const std::size_t last = element.end > node + 1 ? m_nodes[node + 1].first_field : m_fields.size();
-    std::uint64_t hash = mix(of_text(m_names[element.name]), last - element.first_field);
+    std::uint64_t hash = mix(of_text(m_names[element.name].text), last - element.first_field);
     for (std::size_t i = element.first_field; i < last; ++i) {
         const std::size_t begin = m_fields[i].begin;
         const std::size_t end = i + 1 < m_fields.size() ? m_fields[i + 1].begin : m_values.size();
-        hash = mix(hash, of_text(m_names[m_fields[i].name]));
+        hash = mix(hash, of_text(m_names[m_fields[i].name].text));
         hash = mix(hash, of_text(std::string_view(m_values).substr(begin, end - begin)));
     }
     for (index i = node + 1; i < element.end; i = m_nodes[i].end) hash = mix(hash, m_nodes[i].hash);
@@ -59,49 +64,58 @@ void c_tree::set_hash(index node) {
 }
 
 lmx::elmx_error c_tree::read(const std::string& xml) {
-    lmx::c_xml_reader_memory reader(xml.data(), xml.size());
+    using event = c_typed_reader::event;
+    c_typed_reader reader(xml, false);
     std::vector<index> open;
-    std::string name;
-    std::string value;
-    const std::uint32_t no_name = number_of({});
+    const std::uint32_t no_name = number_of({}, nullptr, nullptr);
     for (;;) {
-        lmx::elxp_xml_event event = reader.get_element_name(nullptr, &name);
-        if (event == lmx::ELXP_END_OF_INPUT && open.empty() && !m_nodes.empty()) break;
-        if (event != lmx::ELXP_NAME && (event != lmx::ELXP_END_TAG || open.empty())) return lmx::ELMX_NOT_WELL_FORMED;
-        if (event == lmx::ELXP_NAME) {
-            open.push_back(size());
-            m_nodes.push_back({0, number_of(name), 0, static_cast<std::uint32_t>(m_fields.size())});
-            while ((event = reader.get_attribute_name(&name, false)) == lmx::ELXP_NAME) {
-                if (!reader.get_attribute_value(&value, lmx::ELMX_WS_PRESERVE)) return lmx::ELMX_NOT_WELL_FORMED;
-                add_field(number_of(name), value);
+        switch (reader.next()) {
+            case event::begin:
+                open.push_back(size());
+                m_nodes.push_back({0, number_of(reader.name(), reader.member(), reader.type()), 0,
+                                   static_cast<std::uint32_t>(m_fields.size())});
+                break;
+            case event::attribute:
+                add_field(number_of(reader.name(), reader.member(), nullptr), reader.value());
+                if (const s_member* const place = member(open.back()); place != nullptr) {
+                    m_nodes[open.back()].name = number_of({}, place, reader.type());
+                }
+                break;
+            case event::text: {
+                // Blanks are layout where no value stands.
+                if (m_names[m_nodes[open.back()].name].kind == lmx::value_kind::none && is_blank(reader.value()))
+                    break;
+                // The text behind a child, which only foreign content has, is a child without a name.
+                const bool is_behind_child = open.back() + 1 != size();
+                if (is_behind_child)
+                    m_nodes.push_back({0, no_name, size() + 1, static_cast<std::uint32_t>(m_fields.size())});
+                add_field(no_name, reader.value());
+                if (is_behind_child) set_hash(size() - 1);
+                if (m_values.size() > std::numeric_limits<std::uint32_t>::max() - xml.size())
+                    return lmx::ELMX_LENGTH_TOO_LONG;
+                break;
             }
-            if (lmx::c_xml::is_error_event(event)) return lmx::ELMX_NOT_WELL_FORMED;
+            case event::end:
+                m_nodes[open.back()].end = size();
+                set_hash(open.back());
+                open.pop_back();
+                break;
+            case event::done:
+                add_field(no_name, {});
+                return lmx::ELMX_OK;
+            case event::markup:
+            case event::broken:
+                return lmx::ELMX_NOT_WELL_FORMED;
         }
-        if (event == lmx::ELXP_END_TAG) {
-            const index node = open.back();
-            open.pop_back();
-            m_nodes[node].end = size();
-            set_hash(node);
-        }
-        if (open.empty()) continue;
-        if (!reader.get_element_value(&value, lmx::ELMX_WS_PRESERVE, true)) return lmx::ELMX_NOT_WELL_FORMED;
-        // Blanks are layout. The text behind a child, which only foreign content has, is a child without a name.
-        if (is_blank(value)) continue;
-        const bool is_behind_child = open.back() + 1 != size();
-        if (is_behind_child) m_nodes.push_back({0, no_name, size() + 1, static_cast<std::uint32_t>(m_fields.size())});
-        add_field(no_name, value);
-        if (is_behind_child) set_hash(size() - 1);
-        if (m_values.size() > std::numeric_limits<std::uint32_t>::max() - xml.size())
-            return lmx::ELMX_LENGTH_TOO_LONG;
     }
-    add_field(no_name, {});
-    return lmx::ELMX_OK;
 }
 
 c_tree::field c_tree::get_field(index node, std::size_t i) const {
     const std::size_t at = m_nodes[node].first_field + i;
     const std::size_t begin = m_fields[at].begin;
-    return {m_names[m_fields[at].name], std::string_view(m_values).substr(begin, m_fields[at + 1].begin - begin)};
+    const s_name& field_name = m_names[m_fields[at].name];
+    const lmx::value_kind kind = field_name.text.empty() ? m_names[m_nodes[node].name].kind : field_name.kind;
+    return {field_name.text, std::string_view(m_values).substr(begin, m_fields[at + 1].begin - begin), kind};
 }
 
 std::string_view c_tree::value(index node, std::string_view field_name) const {

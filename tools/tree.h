@@ -8,12 +8,15 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <map>
 #include <string>
 #include <string_view>
 #include <unordered_map>
+#include <utility>
 #include <vector>
 
 #include "lmx/error.h"
+#include "tools/members.h"
 
 namespace vyr_tool {
 
@@ -28,13 +31,18 @@ public:
     struct field {
         std::string_view name;
         std::string_view value;
+        lmx::value_kind kind;  ///< by the schema; `none` for `xsi:` attributes and in open content
     };
 
-    /// Reads well-formed XML, once per object. Fails for other, or for 4 GB of values.
+    /// Reads a document that the library wrote, once per object. Fails for others, or for 4 GB of values.
     lmx::elmx_error read(const std::string& xml);
 
     index size() const { return static_cast<index>(m_nodes.size()); }
-    std::string_view name(index node) const { return m_names[m_nodes[node].name]; }
+    std::string_view name(index node) const { return m_names[m_nodes[node].name].text; }
+    /// What the element is to its parent; null for the root and in open content.
+    const s_member* member(index node) const { return m_names[m_nodes[node].name].member; }
+    /// The element's class; null for simple elements and in open content.
+    const lmx::s_class* type(index node) const { return m_names[m_nodes[node].name].type; }
     /// The number behind the last descendant, which is the next sibling if there is one.
     index end(index node) const { return m_nodes[node].end; }
     bool is_leaf(index node) const { return end(node) == node + 1; }
@@ -43,6 +51,7 @@ public:
 
     std::size_t field_count(index node) const { return last_field(node) - m_nodes[node].first_field; }
     field get_field(index node, std::size_t i) const;
+    bool is_nil(index node) const { return !value(node, k_nil_key).empty(); }
     /// The value of a field; empty without one.
     std::string_view value(index node, std::string_view field_name = {}) const;
     /// The first child of that name, 0 if there is none.
@@ -68,15 +77,23 @@ private:
     std::size_t last_field(index node) const {
         return node + 1 < m_nodes.size() ? m_nodes[node + 1].first_field : m_fields.size() - 1;
     }
-    std::uint32_t number_of(const std::string& qualified_name);
+    struct s_name {
+        std::string_view text;
+        const s_member* member;
+        const lmx::s_class* type;
+        lmx::value_kind kind;  ///< of the attribute, or of the text of the element
+    };
+
+    std::uint32_t number_of(const std::string& qualified_name, const s_member* member, const lmx::s_class* type);
     void add_field(std::uint32_t field_name, std::string_view field_value);
     void set_hash(index node);
 
     std::vector<s_node> m_nodes;
     std::vector<s_field> m_fields;  ///< closed by one that marks the end
     std::string m_values;
-    std::vector<std::string_view> m_names;
-    std::unordered_map<std::string, std::uint32_t> m_numbers;  ///< by name; owns the names
+    std::vector<s_name> m_names;
+    std::unordered_map<std::string, std::uint32_t> m_foreign;  ///< numbers by name; owns the names
+    std::map<std::pair<const s_member*, const lmx::s_class*>, std::uint32_t> m_known;  ///< those that have a row
 };
 
 /// Whether two elements are alike in all that they hold.

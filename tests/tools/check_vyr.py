@@ -192,7 +192,7 @@ def check_info_and_list():
     if (answer["colors"], answer["spaces"], answer["palettes"][0]["sets"], len(answer["tree"]["parts"])) != (
             148, {"SRGB": 148}, [{"name": "Named", "colors": 148}], 2):
         fail(f"info --json: {answer}")
-    expect(0, "Palette \"CSS\" / ColorSet \"Named\"\n +SRGB Red +Green +Blue\n  navy +0 +0 +0\\.501961\n", "",
+    expect(0, "Palette \"CSS\" / ColorSet \"Named\"\n +SRGB\\[1\\] Red +Green +Blue\n  navy +0 +0 +0\\.501961\n  \\[1\\] [^\n]*\n", "",
            "list", "--name=navy", "--set", "N*", "--palette", "?SS", "good.vyr")
     expect(0, "", ".*no such colour\n", "list", "--name=nav", "good.vyr")
     # A name can't steer the terminal, in either form.
@@ -202,7 +202,9 @@ def check_info_and_list():
     colors = json.loads(out)
     if "\u202e" in out or colors[0]["name"] != "\u202e\u009b31m\t<b>" or len(colors) != 148 or \
             colors[1]["values"][0] != {"space": "SRGB", "Red": 0.98039215686275, "Green": 0.92156862745098,
-                                       "Blue": 0.84313725490196}:
+                                       "Blue": 0.84313725490196, "ColorDepth": "ColorDepth_8", "conditions": {
+                                           "source": "value", "Illuminant": "D65", "Observer": "2",
+                                           "Spectrum": "Reflectance", "Filter": "None", "Polarization": False}}:
         fail(f"list --json: {colors[:2]}")
     expect(1, "", "broken.vyr:.*", "list", "broken.vyr")
     expect(2, "", "vyr: absent: .*", "info", "absent")
@@ -234,7 +236,7 @@ def check_usage():
     expect(2, "", ".*Usage: vyr .*")
     expect(2, "", "vyr: there is no command \"delete\"; .*", "delete", "good.vyr")
     expect(2, "", "vyr convert: OUT is required; .*", "convert", "one")
-    expect(2, "", "vyr info: .*two.*", "info", "one", "two")
+    expect(2, "", "vyr diff: .*three.*", "diff", "one", "two", "three")
     expect(2, "", "vyr list: .*--color.*", "list", "--color=blue", "good.vyr")
     expect(0, " +36  ELMX_VALUE_EXCEEDS_MAX +Value greater than .*", "", "codes", "36")
     expect(2, "", ".*no result code \"99\".*", "codes", "36", "99")

@@ -7,7 +7,7 @@ _vyr() {
         [vyr]="--version --help -h"
         [check]="--jobs -j --limit --json --quiet -q --help -h"
         [info]="--depth --json --help -h"
-        [list]="--palette --set --name --color --json --help -h"
+        [list]="--palette --set --name --color --json --csv --help -h"
         [convert]="--to --help -h"
         [diff]="--color --json --quiet -q --help -h"
         [codes]="--json --help -h"

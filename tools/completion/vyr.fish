@@ -25,6 +25,7 @@ complete -c vyr -n '__fish_seen_subcommand_from list' -l set -x -d 'Only colours
 complete -c vyr -n '__fish_seen_subcommand_from list' -l name -x -d 'Only colours with such a name'
 complete -c vyr -n '__fish_seen_subcommand_from list' -l color -x -a 'auto always never' -d 'Colours in the output'
 complete -c vyr -n '__fish_seen_subcommand_from list' -l json -d 'Print JSON'
+complete -c vyr -n '__fish_seen_subcommand_from list' -l csv -d 'Print a table for spreadsheets'
 complete -c vyr -n '__fish_seen_subcommand_from convert' -l to -x -a 'vyr vyrz' -d 'Write this format'
 complete -c vyr -n '__fish_seen_subcommand_from diff' -l color -x -a 'auto always never' -d 'Colours in the output'
 complete -c vyr -n '__fish_seen_subcommand_from diff' -s q -l quiet -d 'Print nothing'

@@ -1,0 +1,141 @@
+#!/usr/bin/env python3
+# Copyright 2026 The Vyr Authors
+# SPDX-License-Identifier: Apache-2.0
+"""What the command makes of a document's values: in lists, in tables and in JSON nothing is lost, guessed or cut.
+
+Usage: check_values.py VYR SAMPLE DOCUMENTS      (the command, values.vyr, and a folder of valid documents)
+"""
+
+import csv
+import io
+import json
+import os
+import pathlib
+import re
+import subprocess
+import sys
+import tempfile
+import traceback
+import xml.etree.ElementTree as tree
+
+vyr, sample, documents = (pathlib.Path(argument).resolve() for argument in sys.argv[1:4])
+V = "{http://vyrgraph.com/v2}"
+failures = []
+
+
+def run(*arguments, stdin=b""):
+    done = subprocess.run([vyr, *arguments], input=stdin, capture_output=True, timeout=120)
+    return done.returncode, done.stdout.decode(), done.stderr.decode()
+
+
+def output(*arguments):
+    code, out, err = run(*arguments)
+    same("code of " + " ".join(map(str, arguments)), (code, err), (0, ""))
+    return out
+
+
+def same(what, got, expected):
+    if got != expected:
+        failures.append(f"{what}\n  expected {expected!r}\n  got      {got!r}")
+
+
+def has(text, *lines):
+    for line in lines:
+        if not re.search(line, text, re.MULTILINE):
+            failures.append(f"no line {line!r} in:\n{text}")
+
+
+def table(*arguments):
+    return list(csv.DictReader(io.StringIO(output("list", "--csv", *arguments), newline="")))
+
+
+def check_list():
+    text = output("list", sample)
+    # The schema's type decides, never the look of a text.
+    has(text, r"^  10E2 .* 64\.2 70\.25 60\.5 ", r" 0042 +1\.50$")
+    # A recipe in full, of a spectrum the outline with a sign that it is one.
+    for i in range(1, 6):
+        has(text, rf"^      Recipe\[5\]: .*Name Base {i}, Manufacturer Acme, PartNumber 00{i}, Density unknown\), Contribution 0\.{i}$")
+    has(text, r"Spectral\[3\]: 36 points, 380 to 730 nm, 0\.05 to 0\.8499$", "^Of spectra the outline is shown; ")
+    # Each value's conditions: its own, those of its colour set, those of its palette, none.
+    has(text, r"\[1\] D50, 2 degrees, .*not polarized$", r"\[2\] A, 10 degrees, ", r"\[3\] .*45 degrees.*\(default of the colour set\)$",
+        r"\[4\] conditions unknown$", r"\[5\] D65, .*\(default of the palette\)$", r"CIELab\[1\] L .*CIELab\[2\] L ")
+    has(text, '^Quality control "Run 7"$', "^  FunctionDE2000: Result 3.41, ", "^  Tolerance: .*HighTolerance 2, LowTolerance 0",
+        "^  Device: Manufacturer Acme, Model Spectro 2, SerialNumber 0017$", "backing Black$")
+    both = output("list", "--name", "Aim", sample, sample)
+    same("two files", both.count(":\nQuality control"), 2)
+
+
+def check_list_json():
+    colors = json.loads(output("list", "--json", sample))
+    first, mix = colors[:2]
+    same("name and number", (first["name"], first["ColorNumber"]), ("10E2", "008"))
+    same("sources", [value["conditions"]["source"] for value in first["values"] + mix["values"]],
+         ["value", "value", "ColorSet", "unknown", "Palette", "Palette"])
+    same("conditions", first["values"][1]["conditions"], {"source": "value", "Illuminant": "A", "Observer": "10", "Spectrum":
+         "Reflectance", "Filter": "None", "Polarization": False})
+    same("points", [len(first["values"][2]["ReflectancePoint"]), first["values"][2]["ReflectancePoint"][-1]],
+         [36, {"Wavelength": 730, "value": 0.8499}])
+    same("a part number", mix["values"][0]["ColorantElement"][3]["Colorant"],
+         {"Name": "Base 4", "Manufacturer": "Acme", "PartNumber": "004", "Density": None})
+    same("texts", [mix["values"][1][key] for key in ("CollectionName", "ColorName")], ["0042", "1.50"])
+    same("a measurement", colors[3]["record"]["Function"][0]["FunctionDE2000"]["Result"], 3.41)
+
+
+def check_table():
+    rows = table(sample)
+    text = output("list", "--csv", sample)
+    same("line ends", (text.count("\r\n"), text.count("\n")), (len(rows) + 1, len(rows) + 1))
+    same("spaces", [row["Space"] for row in rows], ["CIELab", "CIELab", "Spectral", "SRGB", "Recipe", "Munsell", *["CIELab"] * 3])
+    same("conditions", [(row["Illuminant"], row["Observer"], row["ConditionsFrom"]) for row in rows[:4]],
+         [("D50", "2", "value"), ("A", "10", "value"), ("", "", "ColorSet"), ("", "", "unknown")])
+    same("texts", (rows[0]["Color"], rows[0]["ColorNumber"], rows[5]["CollectionName"], rows[5]["ColorName"]),
+         ("10E2", "008", "0042", "1.50"))
+    same("a quoted name", rows[4]["Color"], 'Mix, "deep"')
+    same("a recipe", (rows[4]["ColorantElement[5].Colorant.PartNumber"], rows[4]["ColorantElement[5].Contribution"]), ("005", "0.5"))
+    waves = [name for name in rows[0] if name.endswith(" nm")]
+    same("wavelengths", waves, [f"{wave} nm" for wave in range(380, 740, 10)])
+    same("a spectrum", (rows[2]["380 nm"], rows[2]["730 nm"], rows[0]["380 nm"]), ("0.05", "0.8499", ""))
+    same("backing", rows[6]["Backing"], "Black")
+
+
+def check_info():
+    text = output("info", sample)
+    has(text, r"^  Owner: Person \(Name A. Printer\), Company Inks & Sons$", r"^  Version: Version 2\.10$", '^  Measurement "Sheet 2"$',
+        "^        3  Manufacturer Acme, Model Spectro 2, SerialNumber 0017$")
+    answer = json.loads(output("info", "--json", sample))
+    same("owner and version", (answer["owner"]["Company"], answer["version"]["Version"]), (["Inks & Sons"], "2.10"))
+    record = answer["quality_control"][0]
+    same("a record", (record["Name"], record["pairs"][0]["standard"]["color"], len(record["pairs"][0]["measurements"])), ("Run 7", "Aim", 2))
+    same("devices", answer["devices"], [{"count": 3, "device": {"Manufacturer": "Acme", "Model": "Spectro 2", "SerialNumber": "0017"}}])
+
+
+def check_all_documents():
+    """Counted independently: each value of each colour is in all three lists, each point in the table."""
+    for file in sorted(documents.glob("*.vyr")):
+        root = tree.parse(file).getroot()
+        colors = [color for color in root.iter(V + "Color") if "ColorName" in color.attrib]
+        values = [child for color in colors for child in color if child.tag.startswith(V + "ColorSpace")]
+        points = sum(len(value.findall(V + "ReflectancePoint") + value.findall(V + "EmissiveSpectralPoint")) for value in values)
+        rows = table(file)
+        listed = json.loads(output("list", "--json", file))
+        output("list", file)
+        cells = sum(1 for row in rows for name, cell in row.items() if cell and re.search(r" nm(\[\d+\])?$", name))
+        same(f"values of {file.name}", (len(rows), sum(len(color["values"]) for color in listed), len(listed), cells),
+             (len(values), len(values), len(colors), points))
+
+
+def check_all():
+    for check in (check_list, check_list_json, check_table, check_info, check_all_documents):
+        try:
+            check()
+        except Exception:  # what one check stumbles over is no reason to skip the others
+            failures.append(traceback.format_exc())
+
+
+with tempfile.TemporaryDirectory() as work:
+    os.chdir(work)
+    check_all()
+    os.chdir("/")
+print("\n".join(failures) or "all values are told as they are")
+sys.exit(bool(failures))
