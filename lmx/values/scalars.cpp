@@ -9,7 +9,9 @@
 #include <stdlib.h>
 
 #include <algorithm>
+#include <bit>
 #include <charconv>
+#include <cstring>
 #include <iterator>
 #include <string_view>
 #include <system_error>
@@ -39,20 +41,68 @@ double c_library_double(const char* text) {
 #endif
 }
 
-}  // namespace
+constexpr double k_powers[] = {1, 1e1, 1e2, 1e3, 1e4, 1e5, 1e6, 1e7, 1e8, 1e9, 1e10, 1e11, 1e12, 1e13, 1e14, 1e15};
 
 /// The digits without their point and the power of ten are doubles exactly, so that their quotient, rounded once, is
 /// the nearest double.
+double to_decimal(bool is_negative, std::uint64_t digits, std::ptrdiff_t places) {
+    const double size = static_cast<double>(digits) / k_powers[places];
+    return is_negative ? -size : size;
+}
+
+/// A number that ends within the eight bytes at `at`, in which it stands as in a register: null if it doesn't.
+const char* take_decimal_of_eight(const char* at, std::uint64_t* digits, std::ptrdiff_t* places) {
+    constexpr std::uint64_t ones = 0x0101010101010101;
+    std::uint64_t bytes = 0;
+    if constexpr (std::endian::native == std::endian::little) {
+        std::memcpy(&bytes, at, sizeof bytes);
+    } else {
+        for (int i = 0; i < 8; ++i) bytes |= std::uint64_t{static_cast<unsigned char>(at[i])} << 8 * i;
+    }
+    // Digits are below ten now, and what isn't one has its highest bit set in the sum or had it before.
+    bytes ^= '0' * ones;
+    std::uint64_t others = (((bytes & 0x7F * ones) + 0x76 * ones) | bytes) & 0x80 * ones;
+    if (others == 0) return nullptr;
+    int size = std::countr_zero(others) / 8;
+    int count = size;
+    if (at[size] == '.') {
+        others &= others - 1;
+        if (others == 0) return nullptr;
+        const std::uint64_t ahead = (std::uint64_t{1} << 8 * size) - 1;
+        bytes = (bytes & ahead) | (bytes >> 8 & ~ahead);
+        const int point = size;
+        size = std::countr_zero(others) / 8;
+        count = size - 1;
+        *places = count - point;
+    }
+    if (count == 0) return nullptr;
+    // Zeros ahead of them make them eight; then pairs, fours and all are put together.
+    bytes <<= 8 * (8 - count);
+    bytes = bytes * 10 + (bytes >> 8);
+    constexpr std::uint64_t pairs = 0x000000FF000000FF;
+    *digits = ((bytes & pairs) * (100 + (1000000ULL << 32)) + (bytes >> 16 & pairs) * (1 + (10000ULL << 32))) >> 32;
+    return at + size;
+}
+
+}  // namespace
+
 const char* take_short_decimal(const char* text, const char* end, double* value) {
-    constexpr double powers[] = {1, 1e1, 1e2, 1e3, 1e4, 1e5, 1e6, 1e7, 1e8, 1e9, 1e10, 1e11, 1e12, 1e13, 1e14, 1e15};
     constexpr std::ptrdiff_t most_digits = 15;
-    static_assert(std::size(powers) == most_digits + 1);
+    static_assert(std::size(k_powers) == most_digits + 1);
     const bool is_negative = text != end && *text == '-';
     const char* at = is_negative ? text + 1 : text;
+    std::uint64_t digits = 0;
+    std::ptrdiff_t places = 0;
+    if (end - at >= 8) {
+        if (const char* const behind = take_decimal_of_eight(at, &digits, &places)) {
+            *value = to_decimal(is_negative, digits, places);
+            return behind;
+        }
+        places = 0;
+    }
     // One more than there may be, and the point, so that a longer number is seen.
     const char* const last = end - at > most_digits + 2 ? at + most_digits + 2 : end;
     const char* const start = at;
-    std::uint64_t digits = 0;
     const auto take_digits = [&] {
         for (; at != last; ++at) {
             const auto digit = static_cast<unsigned char>(*at - '0');
@@ -62,7 +112,6 @@ const char* take_short_decimal(const char* text, const char* end, double* value)
     };
     take_digits();
     std::ptrdiff_t count = at - start;
-    std::ptrdiff_t places = 0;
     if (at != last && *at == '.') {
         const char* const point = at++;
         take_digits();
@@ -70,8 +119,7 @@ const char* take_short_decimal(const char* text, const char* end, double* value)
         count += places;
     }
     if (count == 0 || count > most_digits) return nullptr;
-    const double size = static_cast<double>(digits) / powers[places];
-    *value = is_negative ? -size : size;
+    *value = to_decimal(is_negative, digits, places);
     return at;
 }
 

@@ -130,6 +130,32 @@ TEST(TextToDouble, AgreesWithTheCLibraryBitForBit) {
     }
 }
 
+TEST(TextToDouble, TakesShortDecimalsOutOfALongerText) {
+    std::mt19937 random(11);
+    const auto digits = [&random](std::size_t count) {
+        std::string text;
+        while (text.size() < count) text += static_cast<char>('0' + random() % 10);
+        return text;
+    };
+    for (int round = 0; round < 50000; ++round) {
+        const std::size_t whole = random() % 10;
+        const std::size_t places = random() % 10;
+        const std::string number = (random() % 2 == 0 ? "-" : "") + digits(whole) + '.' + digits(places);
+        for (const char* const tail :
+             {"", "<", "</Vyr:L>", "\" Y='1'", ".5", "-1", "e1", "\xB1\xB2\xB3\xB4\xB5\xB6", ":;/"}) {
+            const std::string text = number + tail;
+            double value = 0.5;
+            const char* const end = lmx::take_short_decimal(text.data(), text.data() + text.size(), &value);
+            if (whole + places == 0 || whole + places > 15) {
+                EXPECT_EQ(end, nullptr) << text;
+            } else {
+                ASSERT_EQ(end, text.data() + number.size()) << text;
+                EXPECT_TRUE(same_bits(value, std::atof(number.c_str()))) << text;
+            }
+        }
+    }
+}
+
 TEST(TextToDouble, KeepsTheDecimalPointUnderADecimalComma) {
     const auto check = [] {
         EXPECT_EQ(lmx::text_to_double("1.5"), 1.5);
