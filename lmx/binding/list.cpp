@@ -39,7 +39,7 @@ void* c_list_base::emplace(std::size_t index, const s_stored_type& type) {
         m_storage = static_cast<std::byte*>(only.release());
         return m_storage;
     }
-    reserve_place(type.size);
+    if (!has_head() || (head()->freed == nullptr && head()->unused_count == 0)) reserve_place(type.size);
     s_head& list = *head();
     void* const place = list.freed != nullptr ? list.freed : list.unused;
     void* const next_freed = list.freed != nullptr ? *static_cast<void**>(place) : nullptr;
@@ -57,7 +57,7 @@ void* c_list_base::emplace(std::size_t index, const s_stored_type& type) {
     }
     void** const entries = list.entries();
     void** const at = entries + std::min(index, list.size);
-    std::copy_backward(at, entries + list.size, entries + list.size + 1);
+    if (index < list.size) std::copy_backward(at, entries + list.size, entries + list.size + 1);
     *at = place;
     ++list.size;
     return place;
@@ -107,7 +107,6 @@ void c_list_base::reserve_index(std::size_t capacity) {
 /// Makes room for one more entry, in a place and in the index.
 void c_list_base::reserve_place(std::size_t entry_size) {
     if (!has_head()) reserve_index(k_first_capacity);
-    if (head()->freed != nullptr || head()->unused_count > 0) return;
     const std::size_t count = head()->size;
     const std::size_t added = places_to_add(count, entry_size);
     const std::size_t capacity = head()->capacity;

@@ -20,49 +20,6 @@
 
 namespace lmx {
 
-// Places.
-
-const s_class& first_level(const s_class& type) {
-    const s_class* level = &type;
-    while (level->base != nullptr) level = level->base;
-    return *level;
-}
-
-const s_class* next_level(const s_class& type, const s_class& level) {
-    if (&type == &level) return nullptr;
-    const s_class* next = &type;
-    while (next->base != &level) next = next->base;
-    return next;
-}
-
-void step_behind(s_place* place) {
-    const s_item& row = place->row();
-    const s_event_map* const map = place->level->element_map;
-    const bool is_group = row.kind == item_kind::group || row.kind == item_kind::group_list;
-    place->is_begun = true;
-    place->group = is_group ? &row : nullptr;
-    place->is_entered = is_repeating(row);
-    if (place->level->content == content_kind::choice) {
-        place->map = map;
-        place->index = place->level->elements.size();
-    } else {
-        place->map = is_group ? row.type->element_map : map + (place->is_entered ? row.position : row.next_position);
-        if (!place->is_entered) ++place->index;
-    }
-}
-
-void close_group(s_place* place, void* object) {
-    if (place->group != nullptr) mark_set(*place->group, object);
-    place->group = nullptr;
-}
-
-const s_item* find_short_list(const s_class& level, const void* object) {
-    const auto row = std::find_if(level.elements.begin(), level.elements.end(), [&](const s_item& item) {
-        return is_repeating(item) && (item.use & use_asked) != 0 && list_of(item, object).size() == 0;
-    });
-    return row == level.elements.end() ? nullptr : &*row;
-}
-
 // Values.
 
 /// A value that passed its checks, not stored yet.
@@ -85,8 +42,7 @@ struct c_plain_way::s_attribute {
     s_attribute() {}
 
     const s_item* row;
-    const char* name;
-    std::size_t name_size;
+    const char* name;  ///< as it stands in the window
     s_value value;
 };
 
@@ -104,7 +60,7 @@ struct c_plain_way::s_start_tag {
 /// One item that may be taken.
 struct c_plain_way::s_step {
     s_place* place;
-    s_place found;          ///< the place of its row
+    s_due_row found;        ///< its row
     std::string_view name;  ///< as it stands in the window
     int line_feeds;         ///< ahead of it
     elmx_error* error;
@@ -132,20 +88,6 @@ inline bool is_same(const char* one, const char* other, std::size_t size) {
         if (one[at] != other[at]) return false;
     }
     return true;
-}
-
-/// Steps over white space and counts the line feeds in it. Most is a line feed and the tabs of an indentation.
-inline const char* skip_blanks(const char* at, const char* end, int* line_feeds) {
-    while (at != end) {
-        const auto c = static_cast<unsigned char>(*at);
-        if (c > ' ') break;
-        if (c != '\t') {
-            if (k_stops_of_blanks[c]) break;
-            *line_feeds += static_cast<int>(c == '\n');
-        }
-        ++at;
-    }
-    return at;
 }
 
 /// Whether white space in a collapsed value would be changed by collapsing.
@@ -279,13 +221,6 @@ void c_plain_way::leave() {
     m_is_open = false;
 }
 
-/// Whether the name of a map's row stands there, as the whole local part of a tag's name.
-bool c_plain_way::is_name(const char* at, const s_event_map& row) const {
-    return static_cast<std::size_t>(m_end - at) > row.name_length &&
-           k_stops_of_names[static_cast<unsigned char>(at[row.name_length])] &&
-           is_same(at, row.name, row.name_length);
-}
-
 /// What stands behind the end tag of that name; null if it isn't there.
 const char* c_plain_way::take_end_tag(const char* at, std::string_view name) const {
     if (static_cast<std::size_t>(m_end - at) < name.size() + 3 || at[0] != '<' || at[1] != '/' ||
@@ -295,10 +230,14 @@ const char* c_plain_way::take_end_tag(const char* at, std::string_view name) con
     return at + name.size() + 3;
 }
 
-const s_item* c_plain_way::find_attribute(const s_class& type, std::string_view name) const {
+/// The row of the attribute that begins there; null if there is none, or if something stands ahead of the equals
+/// sign.
+const s_item* c_plain_way::find_attribute(const s_class& type, const char* at) const {
+    const auto left = static_cast<std::size_t>(m_end - at);
     for (const s_class* level = &type; level != nullptr; level = level->base) {
         for (const s_item& row : level->attributes) {
-            if (row.name.size() == name.size() && is_same(row.name.data(), name.data(), name.size())) return &row;
+            const std::size_t size = row.name.size();
+            if (left > size && at[size] == '=' && is_same(row.name.data(), at, size)) return &row;
         }
     }
     return nullptr;
@@ -318,11 +257,7 @@ bool c_plain_way::read_start_tag(const s_class& type, const void* object, const 
         at = skip_blanks(at, m_end, &tag->line_feeds);
         if (m_end - at < 2) return false;
         if (*at == '>' || *at == '/') break;
-        const char* const name = at;
-        while (at != m_end && !k_stops_of_names[static_cast<unsigned char>(*at)]) ++at;
-        if (m_end - at < 3 || at[0] != '=' || (at[1] != '"' && at[1] != '\'')) return false;
-        const std::string_view attribute_name(name, static_cast<std::size_t>(at - name));
-        const s_item* const row = find_attribute(type, attribute_name);
+        const s_item* const row = find_attribute(type, at);
         if (row == nullptr || tag->count == s_start_tag::k_most_attributes) return false;
         if (object != nullptr && is_set(*row, object)) return false;
         for (std::size_t i = 0; i < tag->count; ++i) {
@@ -330,8 +265,9 @@ bool c_plain_way::read_start_tag(const s_class& type, const void* object, const 
         }
         s_attribute& attribute = tag->attributes[tag->count++];
         attribute.row = row;
-        attribute.name = name;
-        attribute.name_size = attribute_name.size();
+        attribute.name = at;
+        at += row->name.size();
+        if (m_end - at < 3 || (at[1] != '"' && at[1] != '\'')) return false;
         const char quote = at[1];
         at = read_value(*row, at + 2, quote, &attribute.value, &tag->line_feeds);
         if (at == nullptr) return false;
@@ -345,8 +281,13 @@ bool c_plain_way::read_start_tag(const s_class& type, const void* object, const 
 }
 
 bool c_plain_way::has_required(const s_class& type, const void* object, const s_start_tag& tag) const {
+    std::size_t next = 0;  // most stand in the order of their rows
     for (const s_class* level = &type; level != nullptr; level = level->base) {
         for (const s_item& row : level->attributes) {
+            if (next < tag.count && tag.attributes[next].row == &row) {
+                ++next;
+                continue;
+            }
             if ((row.use & use_demanded) == 0 || (object != nullptr && is_set(row, object))) continue;
             const auto* const end = tag.attributes + tag.count;
             if (std::find_if(tag.attributes, end, [&](const s_attribute& found) { return found.row == &row; }) ==
@@ -362,7 +303,7 @@ void c_plain_way::store_attributes(const s_class& type, void* object, const s_st
     for (std::size_t i = 0; i < tag.count; ++i) {
         const s_attribute& attribute = tag.attributes[i];
         store(type, *attribute.row, object, attribute.value);
-        m_trace.attribute_name = {attribute.name, attribute.name_size};
+        m_trace.attribute_name = {attribute.name, attribute.row->name.size()};
         note_value(*attribute.row, attribute.value);
     }
 }
@@ -381,6 +322,20 @@ void c_plain_way::note_value(const s_item& row, const s_value& value) {
 // Items.
 
 namespace {
+
+/// Whether the row stands for elements of one name, which may be taken.
+bool is_named(const s_item& row) {
+    switch (row.kind) {
+        case item_kind::element:
+        case item_kind::element_list:
+        case item_kind::child:
+        case item_kind::optional_child:
+        case item_kind::child_list:
+            return true;
+        default:
+            return false;
+    }
+}
 
 void note_item(c_xml_reader& reader, const s_item& row) {
     if (s_open_element* const element = reader.notes().open_element) element->last_item = &row;
@@ -416,69 +371,75 @@ c_plain_way::e_step c_plain_way::take_item(const s_class& type, void* object, s_
     if (static_cast<std::size_t>(m_end - at) <= m_prefix_size || !is_same(at, m_prefix, m_prefix_size)) {
         return e_step::declined;
     }
-    s_place found = *place;
+    const char* const local = at + m_prefix_size;
+    s_step step{place, *place, {}, line_feeds, error};
     const s_item* member = nullptr;
-    const s_event_map* const name = find_row(type, object, &found, at + m_prefix_size, &member);
-    if (name == nullptr) return e_step::declined;
-    const std::string_view full_name(at, m_prefix_size + name->name_length);
-    s_step step{place, found, full_name, line_feeds, error};
-    const s_class* const child = member != nullptr ? member->type : found.row().type;
+    std::size_t size = due_name_size(type, *place, local);
+    if (size == 0) {
+        size = tag_name_size(local, m_end);
+        if (local + size == m_end || !find_row(type, object, place->is_begun, {local, size}, &step.found, &member)) {
+            return e_step::declined;
+        }
+    }
+    step.name = {at, m_prefix_size + size};
+    const s_class* const child = member != nullptr ? member->type : step.found.row().type;
     return child == nullptr ? take_simple(object, step) : take_class(*child, member, object, step);
 }
 
-/// Finds the row of the element whose local name begins at `name`, from the place on: the map's row with the name, or
-/// null. For a group `*member` is the alternative.
-const s_event_map* c_plain_way::find_row(const s_class& type, const void* object, s_place* place, const char* name,
-                                         const s_item** member) const {
-    const auto find_alternative = [&](const s_class& choice) -> const s_event_map* {
-        // The map of a choice has the alternatives in their order.
-        for (std::size_t i = 0; i < choice.elements.size(); ++i) {
-            if (!is_name(name, choice.element_map[i])) continue;
-            *member = &choice.elements[i];
-            return &choice.element_map[i];
-        }
-        return nullptr;
+/// The size of the name at `local` if it is that of the row that is due, as most are; else 0.
+std::size_t c_plain_way::due_name_size(const s_class& type, const s_place& place, const char* local) const {
+    if (type.content == content_kind::choice || place.is_at_end() || !is_named(place.row())) return 0;
+    const s_event_map& name = place.level->element_map[place.row().position];
+    const bool is_it = static_cast<std::size_t>(m_end - local) > name.name_length &&
+                       k_stops_of_names[static_cast<unsigned char>(local[name.name_length])] &&
+                       is_same(local, name.name, name.name_length);
+    return is_it ? name.name_length : 0;
+}
+
+/// Finds the row of the element with that local name, from the place on. For a group `*member` is the alternative.
+bool c_plain_way::find_row(const s_class& type, const void* object, bool is_begun, std::string_view name,
+                           s_due_row* due, const s_item** member) {
+    const auto is_it = [name](const s_event_map& row) {
+        return row.name_length == name.size() && is_same(row.name, name.data(), name.size());
+    };
+    // The map of a choice has the alternatives in their order.
+    const auto find_alternative = [&](const s_class& choice) {
+        const std::size_t count = choice.elements.size();
+        std::size_t i = 0;
+        while (i < count && !is_it(choice.element_map[i])) ++i;
+        if (i < count) *member = &choice.elements[i];
+        return i < count;
     };
     if (type.content == content_kind::choice) {
-        const s_event_map* const found = place->is_begun ? nullptr : find_alternative(type);
-        if (found != nullptr) place->index = static_cast<std::size_t>(*member - type.elements.data());
-        return found;
+        if (is_begun || !find_alternative(type)) return false;
+        due->index = static_cast<std::size_t>(*member - type.elements.data());
+        return true;
     }
     for (;;) {
-        for (; place->is_at_end(); place->index = 0) {
-            if (find_short_list(*place->level, object) != nullptr) return nullptr;
-            const s_class* const level = next_level(type, *place->level);
-            if (level == nullptr) return nullptr;
-            place->level = level;
+        for (; due->is_at_end(); due->index = 0) {
+            if (find_short_list(*due->level, object) != nullptr) return false;
+            const s_class* const level = next_level(type, *due->level);
+            if (level == nullptr) return false;
+            due->level = level;
         }
-        const s_item& row = place->row();
-        switch (row.kind) {
-            case item_kind::element:
-            case item_kind::element_list:
-            case item_kind::child:
-            case item_kind::optional_child:
-            case item_kind::child_list:
-                if (is_name(name, place->level->element_map[row.position])) {
-                    return &place->level->element_map[row.position];
-                }
-                if ((row.use & use_demanded) != 0 && !place->is_entered) return nullptr;
-                break;
-            case item_kind::group:
-            case item_kind::group_list:
-                if (row.type->content != content_kind::group || (row.use & use_lax) != 0) return nullptr;
-                if (const s_event_map* const found = find_alternative(*row.type)) return found;
-                if (row.kind == item_kind::group && (row.use & use_demanded) != 0) return nullptr;
-                break;
-            default:
-                return nullptr;
+        const s_item& row = due->row();
+        if (is_named(row)) {
+            if (is_it(due->level->element_map[row.position])) return true;
+            if ((row.use & use_demanded) != 0 && !due->is_entered) return false;
+        } else if (row.kind == item_kind::group || row.kind == item_kind::group_list) {
+            if (row.type->content != content_kind::group || (row.use & use_lax) != 0) return false;
+            if (find_alternative(*row.type)) return true;
+            if (row.kind == item_kind::group && (row.use & use_demanded) != 0) return false;
+        } else {
+            return false;
         }
-        ++place->index;
-        place->is_entered = false;
+        ++due->index;
+        due->is_entered = false;
     }
 }
 
 /// Whether nothing is missing behind the place.
-bool c_plain_way::is_complete(const s_class& type, const void* object, s_place place) const {
+bool c_plain_way::is_complete(const s_class& type, const void* object, const s_place& place) {
     if (type.content == content_kind::choice) return place.is_begun;
     if (!place.is_begun && !type.may_be_empty) return false;
     for (const s_class* level = place.level; level != nullptr; level = next_level(type, *level)) {
@@ -496,8 +457,7 @@ bool c_plain_way::is_complete(const s_class& type, const void* object, s_place p
 /// Commits to an item: what the events would have done by now that is not about the item itself.
 void c_plain_way::commit(void* object, s_step& step, const char* at, int line_feeds) {
     close_group(step.place, object);
-    *step.place = step.found;
-    step.place->group = nullptr;
+    static_cast<s_due_row&>(*step.place) = step.found;
     m_at = at;
     m_line_feeds += line_feeds;
 }

@@ -16,36 +16,13 @@
 #include <string>
 #include <string_view>
 
+#include "lmx/binding/place.h"
 #include "lmx/binding/table.h"
 #include "lmx/error.h"
 #include "lmx/reader/string_stack.h"
 #include "lmx/reader/xml_reader.h"
 
 namespace lmx {
-
-/// Where the reading of a class's content stands: the row that is due.
-struct s_place {
-    const s_class* level;              ///< the class, or the base of it, whose rows are due
-    std::size_t index = 0;             ///< the row
-    bool is_entered = false;           ///< the row repeats, and this element has an entry of it already
-    bool is_begun = false;             ///< something was read
-    const s_event_map* map = nullptr;  ///< what the event behind the last item is tokenised with
-    const s_item* group = nullptr;     ///< a group that was read last: the event behind it is still part of it
-
-    const s_item& row() const { return level->elements[index]; }
-    bool is_at_end() const { return index == level->elements.size(); }
-};
-
-/// The level with which the reading of a class begins: its outermost base.
-const s_class& first_level(const s_class& type);
-/// The level behind another one; null behind the class itself.
-const s_class* next_level(const s_class& type, const s_class& level);
-/// What has to be done when the row that is due was read: to the row behind it, or to its next entry.
-void step_behind(s_place* place);
-/// The event behind a group has come: its flag rises.
-void close_group(s_place* place, void* object);
-/// The first list of a level that is too short, or null.
-const s_item* find_short_list(const s_class& level, const void* object);
 
 class c_plain_way {
 public:
@@ -86,20 +63,20 @@ private:
 
     e_step take_item(const s_class& type, void* object, s_place* place, const c_string_stack_node* end,
                      elmx_error* error);
-    const s_event_map* find_row(const s_class& type, const void* object, s_place* place, const char* name,
-                                const s_item** member) const;
-    bool is_complete(const s_class& type, const void* object, s_place place) const;
+    std::size_t due_name_size(const s_class& type, const s_place& place, const char* local) const;
+    static bool find_row(const s_class& type, const void* object, bool is_begun, std::string_view name,
+                         s_due_row* due, const s_item** member);
+    static bool is_complete(const s_class& type, const void* object, const s_place& place);
     void commit(void* object, s_step& step, const char* at, int line_feeds);
     e_step take_simple(void* object, s_step& step);
     e_step take_class(const s_class& child, const s_item* member, void* object, s_step& step);
     bool enter_class(const s_class& child, const s_item* member, void* object, s_step& step, s_entered* entered);
     static void* make_child(const s_item& row, const s_item* member, void* object);
 
-    bool is_name(const char* at, const s_event_map& row) const;
     const char* take_end_tag(const char* at, std::string_view name) const;
     bool read_start_tag(const s_class& type, const void* object, const char* at, std::size_t name_size,
                         s_start_tag* tag);
-    const s_item* find_attribute(const s_class& type, std::string_view name) const;
+    const s_item* find_attribute(const s_class& type, const char* at) const;
     bool has_required(const s_class& type, const void* object, const s_start_tag& tag) const;
     void store_attributes(const s_class& type, void* object, const s_start_tag& tag);
 

@@ -189,7 +189,8 @@ bool find_due_row(const s_class& type, void* object, s_place* place, c_xml_reade
             if (!check_lists(*place->level, object, reader, error)) return false;
             const s_class* const level = next_level(type, *place->level);
             if (level == nullptr) return true;
-            *place = {level, 0, false, place->is_begun, place->map, nullptr};
+            static_cast<s_due_row&>(*place) = {level};
+            place->group = nullptr;
             tokenise_element(reader, level->element_map);
             continue;
         }
@@ -279,7 +280,7 @@ bool read_body(const s_class& type, void* object, c_xml_reader& reader, c_plain_
     const s_class& first = first_level(type);
     if (has_open_content(first)) return read_any(first, first.elements.front(), object, reader, name, error);
     tokenise_element(reader, first.element_map);
-    return read_sequence(type, object, {&first}, true, reader, plain, end, name, error, is_ended);
+    return read_sequence(type, object, s_place(first), true, reader, plain, end, name, error, is_ended);
 }
 
 bool read_nil(const s_class& type, void* object, c_xml_reader& reader, const std::string& name, elmx_error* error) {
@@ -345,7 +346,7 @@ elmx_error read_children(const s_class& type, void* object, c_xml_reader& reader
                          c_plain_way& plain, bool is_empty_tag, bool is_plain) {
     elmx_error error = ELMX_OK;
     const c_string_stack_node* const end = is_plain ? &node : nullptr;
-    s_place place{&first_level(type)};
+    s_place place(first_level(type));
     if (!is_empty_tag && !is_nil(type, object)) {
         const auto step = plain.take_items(type, object, &place, end, &error);
         if (step == c_plain_way::e_step::failed) return error;

@@ -1,9 +1,13 @@
 // Copyright 2026 The Vyr Authors
 // SPDX-License-Identifier: Apache-2.0
 
-/// Finds the end of text that stands for itself, by blocks of sixteen bytes where the processor has them.
+/// Steps through text that stands for itself, by blocks of sixteen bytes where the processor has them.
 
 #pragma once
+
+#include <cstddef>
+
+#include "lmx/reader/byte_set.h"
 
 #if defined(__SSE2__)
 #include <emmintrin.h>
@@ -34,6 +38,48 @@ inline const char* find_special(const char* at, const char* end, char stop) {
 #endif
     while (at != end && !is_special(*at, stop)) ++at;
     return at;
+}
+
+/// The first byte that isn't white space, or the end; counts the line feeds ahead of it.
+inline const char* skip_blanks(const char* at, const char* end, int* line_feeds) {
+#if defined(__SSE2__)
+    while (end - at >= 16) {
+        const __m128i bytes = _mm_loadu_si128(reinterpret_cast<const __m128i*>(at));
+        const __m128i is_blank = _mm_cmpeq_epi8(bytes, _mm_set1_epi8(' '));
+        // From a tab to a form feed they follow one another.
+        const __m128i above_tab = _mm_sub_epi8(bytes, _mm_set1_epi8('\t'));
+        const __m128i is_control = _mm_cmpeq_epi8(_mm_min_epu8(above_tab, _mm_set1_epi8('\f' - '\t')), above_tab);
+        const auto others = ~static_cast<unsigned>(_mm_movemask_epi8(_mm_or_si128(is_blank, is_control)));
+        auto feeds = static_cast<unsigned>(_mm_movemask_epi8(_mm_cmpeq_epi8(bytes, _mm_set1_epi8('\n'))));
+        const int count = std::countr_zero(others);  // never more than the 16 bits of the mask
+        for (feeds &= (1U << count) - 1; feeds != 0; feeds &= feeds - 1) ++*line_feeds;
+        at += count;
+        if (count < 16) return at;
+    }
+#endif
+    for (; at != end && !k_stops_of_blanks[static_cast<unsigned char>(*at)]; ++at) {
+        *line_feeds += static_cast<int>(*at == '\n');
+    }
+    return at;
+}
+
+/// The size of what stands ahead of the first byte that may end a name in a tag, or begins another; all if there is
+/// none.
+inline std::size_t tag_name_size(const char* at, const char* end) {
+    const char* const start = at;
+#if defined(__SSE2__)
+    for (; end - at >= 16; at += 16) {
+        const __m128i bytes = _mm_loadu_si128(reinterpret_cast<const __m128i*>(at));
+        // Which differ in one bit.
+        const __m128i is_angle = _mm_cmpeq_epi8(_mm_or_si128(bytes, _mm_set1_epi8('<' ^ '>')), _mm_set1_epi8('>'));
+        const __m128i is_close = _mm_or_si128(is_angle, _mm_cmpeq_epi8(bytes, _mm_set1_epi8('/')));
+        const __m128i is_blank = _mm_cmpeq_epi8(_mm_min_epu8(bytes, _mm_set1_epi8(' ')), bytes);
+        const int found = _mm_movemask_epi8(_mm_or_si128(is_close, is_blank));
+        if (found != 0) return static_cast<std::size_t>(at - start + std::countr_zero(static_cast<unsigned>(found)));
+    }
+#endif
+    while (at != end && *at != '>' && *at != '<' && *at != '/' && static_cast<unsigned char>(*at) > ' ') ++at;
+    return static_cast<std::size_t>(at - start);
 }
 
 }  // namespace lmx

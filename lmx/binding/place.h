@@ -1,0 +1,71 @@
+// Copyright 2026 The Vyr Authors
+// SPDX-License-Identifier: Apache-2.0
+
+/// The place of a read among the rows of a class: what is due next, on the plain way and by events.
+
+#pragma once
+
+#include <cstddef>
+
+#include "lmx/binding/storage.h"
+#include "lmx/binding/table.h"
+
+namespace lmx {
+
+/// The row that is due.
+struct s_due_row {
+    const s_class* level;     ///< the class, or the base of it, whose rows are due
+    std::size_t index = 0;    ///< the row
+    bool is_entered = false;  ///< the row repeats, and this element has an entry of it already
+
+    const s_item& row() const { return level->elements[index]; }
+    bool is_at_end() const { return index == level->elements.size(); }
+};
+
+/// Where the reading of a class's content stands.
+struct s_place : s_due_row {
+    explicit s_place(const s_class& first) : s_due_row{&first} {}
+
+    bool is_begun = false;             ///< something was read
+    const s_event_map* map = nullptr;  ///< what the event behind the last item is tokenised with
+    const s_item* group = nullptr;     ///< a group that was read last: the event behind it is still part of it
+};
+
+/// The level with which the reading of a class begins: its outermost base.
+inline const s_class& first_level(const s_class& type) {
+    const s_class* level = &type;
+    while (level->base != nullptr) level = level->base;
+    return *level;
+}
+/// The level behind another one; null behind the class itself.
+inline const s_class* next_level(const s_class& type, const s_class& level) {
+    if (&type == &level) return nullptr;
+    const s_class* next = &type;
+    while (next->base != &level) next = next->base;
+    return next;
+}
+/// What has to be done when the row that is due was read: to the row behind it, or to its next entry.
+inline void step_behind(s_place* place) {
+    const s_item& row = place->row();
+    const s_event_map* const map = place->level->element_map;
+    const bool is_group = row.kind == item_kind::group || row.kind == item_kind::group_list;
+    place->is_begun = true;
+    place->group = is_group ? &row : nullptr;
+    place->is_entered = is_repeating(row);
+    if (place->level->content == content_kind::choice) {
+        place->map = map;
+        place->index = place->level->elements.size();
+    } else {
+        place->map = is_group ? row.type->element_map : map + (place->is_entered ? row.position : row.next_position);
+        if (!place->is_entered) ++place->index;
+    }
+}
+/// The event behind a group has come: its flag rises.
+inline void close_group(s_place* place, void* object) {
+    if (place->group != nullptr) mark_set(*place->group, object);
+    place->group = nullptr;
+}
+/// The first list of a level that is too short, or null.
+const s_item* find_short_list(const s_class& level, const void* object);
+
+}  // namespace lmx
