@@ -41,10 +41,10 @@ VYR_FLAT(void*) CSharp_DeviceFilterUpcast(void* self) { return upcast<DeviceFilt
 VYR_FLAT(void) CSharp_DeviceFilter_swap(void* self, void* other) { checked("com_vyrgraph_v2::DeviceFilter & type is null", +[](void* o, void* s) { return as<DeviceFilter>(s).swap(as<DeviceFilter>(o)); }, other, self); }
 VYR_FLAT(void) CSharp_DeviceFilter_reset(void* self) { guarded(+[](void* s) { return as<DeviceFilter>(s).reset(); }, self); }
 VYR_FLAT(std::int32_t) CSharp_DeviceFilter_is_occurs_ok(void* self) { return as<DeviceFilter>(self).is_occurs_ok(); }
-VYR_FLAT(std::int32_t) CSharp_DeviceFilter_isnil_DeviceFilter(void* self) { return as<DeviceFilter>(self).isnil_DeviceFilter(); }
-VYR_FLAT(void) CSharp_DeviceFilter_setnil_DeviceFilter(void* self) { as<DeviceFilter>(self).setnil_DeviceFilter(); }
 VYR_FLAT(std::int32_t) CSharp_DeviceFilter_set_DeviceFilterType(void* self, const char16_t* value) { return with_text(self, value, [](void* s, wide_text v) { return as<DeviceFilter>(s).set_DeviceFilterType(v); }); }
 VYR_FLAT(std::int32_t) CSharp_DeviceFilter_setenum_DeviceFilterType(void* self, std::int32_t number) { return guarded(+[](void* s, std::int32_t n) { return as<DeviceFilter>(s).setenum_DeviceFilterType(n); }, self, number); }
+VYR_FLAT(std::int32_t) CSharp_DeviceFilter_isnil_DeviceFilter(void* self) { return as<DeviceFilter>(self).isnil_DeviceFilter(); }
+VYR_FLAT(void) CSharp_DeviceFilter_setnil_DeviceFilter(void* self) { as<DeviceFilter>(self).setnil_DeviceFilter(); }
 
 // DevicePolarization
 VYR_FLAT(void*) CSharp_new_DevicePolarization__SWIG_0() { return make<DevicePolarization>(); }
@@ -53,24 +53,24 @@ VYR_FLAT(void) CSharp_delete_DevicePolarization(void* self) { destroy<DevicePola
 VYR_FLAT(void) CSharp_DevicePolarization_swap(void* self, void* other) { checked("com_vyrgraph_v2::DevicePolarization & type is null", +[](void* o, void* s) { return as<DevicePolarization>(s).swap(as<DevicePolarization>(o)); }, other, self); }
 VYR_FLAT(void) CSharp_DevicePolarization_reset(void* self) { guarded(+[](void* s) { return as<DevicePolarization>(s).reset(); }, self); }
 VYR_FLAT(std::int32_t) CSharp_DevicePolarization_is_occurs_ok(void* self) { return as<DevicePolarization>(self).is_occurs_ok(); }
-VYR_FLAT(std::int32_t) CSharp_DevicePolarization_isnil_DevicePolarization(void* self) { return as<DevicePolarization>(self).isnil_DevicePolarization(); }
-VYR_FLAT(void) CSharp_DevicePolarization_setnil_DevicePolarization(void* self) { as<DevicePolarization>(self).setnil_DevicePolarization(); }
 VYR_FLAT(std::uint32_t) CSharp_DevicePolarization_get_DevicePolarization(void* self) { return as<DevicePolarization>(self).get_DevicePolarization(); }
 VYR_FLAT(std::int32_t) CSharp_DevicePolarization_set_DevicePolarization(void* self, std::uint32_t value) { return as<DevicePolarization>(self).set_DevicePolarization(to_bool(value)); }
+VYR_FLAT(std::int32_t) CSharp_DevicePolarization_isnil_DevicePolarization(void* self) { return as<DevicePolarization>(self).isnil_DevicePolarization(); }
+VYR_FLAT(void) CSharp_DevicePolarization_setnil_DevicePolarization(void* self) { as<DevicePolarization>(self).setnil_DevicePolarization(); }
 
 // ColorSpaceSpecificationType
 VYR_FLAT(void*) CSharp_new_ColorSpaceSpecificationType__SWIG_0() { return make<ColorSpaceSpecificationType>(); }
 VYR_FLAT(void*) CSharp_new_ColorSpaceSpecificationType__SWIG_1(void* source) { return checked("com_vyrgraph_v2::ColorSpaceSpecificationType const & type is null", &copy<ColorSpaceSpecificationType>, source); }
 VYR_FLAT(void) CSharp_delete_ColorSpaceSpecificationType(void* self) { destroy<ColorSpaceSpecificationType>(self); }
-VYR_FLAT(void) CSharp_ColorSpaceSpecificationType_swap(void* self, void* other) { checked("com_vyrgraph_v2::ColorSpaceSpecificationType & type is null", +[](void* o, void* s) { return as<ColorSpaceSpecificationType>(s).swap(as<ColorSpaceSpecificationType>(o)); }, other, self); }
-VYR_FLAT(void) CSharp_ColorSpaceSpecificationType_reset(void* self) { guarded(+[](void* s) { return as<ColorSpaceSpecificationType>(s).reset(); }, self); }
-VYR_FLAT(std::int32_t) CSharp_ColorSpaceSpecificationType_is_occurs_ok(void* self) { return as<ColorSpaceSpecificationType>(self).is_occurs_ok(); }
-VYR_FLAT(void*) CSharp_ColorSpaceSpecificationType_clone(void* self) { return guarded(+[](void* s) -> void* { return as<ColorSpaceSpecificationType>(s).clone(); }, self); }
-VYR_FLAT(char*) CSharp_ColorSpaceSpecificationType_getid(void* self) { return new_string(as<ColorSpaceSpecificationType>(self).getid()); }
-VYR_FLAT(std::int32_t) CSharp_ColorSpaceSpecificationType_has_id(void* self, const char* identity) { return as<ColorSpaceSpecificationType>(self).has_id(identity); }
 VYR_FLAT(const char*) CSharp_ColorSpaceSpecificationType_id_get() { return ColorSpaceSpecificationType::id; }
 VYR_FLAT(void) CSharp_ColorSpaceSpecificationType_id_set(const char* identity) { set_identity(&ColorSpaceSpecificationType::id, identity); }
 VYR_FLAT(void*) CSharp_ColorSpaceSpecificationType_factory(std::int32_t ns_id, const char* name) { return checked(k_null_string, +[](const char* n, std::int32_t i) -> void* { return ColorSpaceSpecificationType::factory(i, n); }, name, ns_id); }
+VYR_FLAT(void*) CSharp_ColorSpaceSpecificationType_clone(void* self) { return guarded(+[](void* s) -> void* { return as<ColorSpaceSpecificationType>(s).clone(); }, self); }
+VYR_FLAT(char*) CSharp_ColorSpaceSpecificationType_getid(void* self) { return new_string(as<ColorSpaceSpecificationType>(self).getid()); }
+VYR_FLAT(std::int32_t) CSharp_ColorSpaceSpecificationType_has_id(void* self, const char* identity) { return as<ColorSpaceSpecificationType>(self).has_id(identity); }
+VYR_FLAT(void) CSharp_ColorSpaceSpecificationType_swap(void* self, void* other) { checked("com_vyrgraph_v2::ColorSpaceSpecificationType & type is null", +[](void* o, void* s) { return as<ColorSpaceSpecificationType>(s).swap(as<ColorSpaceSpecificationType>(o)); }, other, self); }
+VYR_FLAT(void) CSharp_ColorSpaceSpecificationType_reset(void* self) { guarded(+[](void* s) { return as<ColorSpaceSpecificationType>(s).reset(); }, self); }
+VYR_FLAT(std::int32_t) CSharp_ColorSpaceSpecificationType_is_occurs_ok(void* self) { return as<ColorSpaceSpecificationType>(self).is_occurs_ok(); }
 VYR_FLAT(char16_t*) CSharp_ColorSpaceSpecificationType_get_Comments(void* self) { return new_string(as<ColorSpaceSpecificationType>(self).get_Comments()); }
 VYR_FLAT(std::int32_t) CSharp_ColorSpaceSpecificationType_set_Comments(void* self, const char16_t* value) { return with_text(self, value, [](void* s, wide_text v) { return as<ColorSpaceSpecificationType>(s).set_Comments(v); }); }
 VYR_FLAT(std::int32_t) CSharp_ColorSpaceSpecificationType_isset_Comments(void* self) { return as<ColorSpaceSpecificationType>(self).isset_Comments(); }
@@ -130,15 +130,15 @@ VYR_FLAT(void*) CSharp_new_ColorSpaceSpecificationSpectrumType__SWIG_0() { retur
 VYR_FLAT(void*) CSharp_new_ColorSpaceSpecificationSpectrumType__SWIG_1(void* source) { return checked("com_vyrgraph_v2::ColorSpaceSpecificationSpectrumType const & type is null", &copy<ColorSpaceSpecificationSpectrumType>, source); }
 VYR_FLAT(void) CSharp_delete_ColorSpaceSpecificationSpectrumType(void* self) { destroy<ColorSpaceSpecificationSpectrumType>(self); }
 VYR_FLAT(void*) CSharp_ColorSpaceSpecificationSpectrumTypeUpcast(void* self) { return upcast<ColorSpaceSpecificationSpectrumType, ColorSpaceSpecificationType>(self); }
-VYR_FLAT(void) CSharp_ColorSpaceSpecificationSpectrumType_swap(void* self, void* other) { checked("com_vyrgraph_v2::ColorSpaceSpecificationSpectrumType & type is null", +[](void* o, void* s) { return as<ColorSpaceSpecificationSpectrumType>(s).swap(as<ColorSpaceSpecificationSpectrumType>(o)); }, other, self); }
-VYR_FLAT(void) CSharp_ColorSpaceSpecificationSpectrumType_reset(void* self) { guarded(+[](void* s) { return as<ColorSpaceSpecificationSpectrumType>(s).reset(); }, self); }
-VYR_FLAT(std::int32_t) CSharp_ColorSpaceSpecificationSpectrumType_is_occurs_ok(void* self) { return as<ColorSpaceSpecificationSpectrumType>(self).is_occurs_ok(); }
-VYR_FLAT(void*) CSharp_ColorSpaceSpecificationSpectrumType_clone(void* self) { return guarded(+[](void* s) -> void* { return as<ColorSpaceSpecificationSpectrumType>(s).clone(); }, self); }
-VYR_FLAT(char*) CSharp_ColorSpaceSpecificationSpectrumType_getid(void* self) { return new_string(as<ColorSpaceSpecificationSpectrumType>(self).getid()); }
-VYR_FLAT(std::int32_t) CSharp_ColorSpaceSpecificationSpectrumType_has_id(void* self, const char* identity) { return as<ColorSpaceSpecificationSpectrumType>(self).has_id(identity); }
 VYR_FLAT(const char*) CSharp_ColorSpaceSpecificationSpectrumType_id_get() { return ColorSpaceSpecificationSpectrumType::id; }
 VYR_FLAT(void) CSharp_ColorSpaceSpecificationSpectrumType_id_set(const char* identity) { set_identity(&ColorSpaceSpecificationSpectrumType::id, identity); }
 VYR_FLAT(void*) CSharp_ColorSpaceSpecificationSpectrumType_factory(std::int32_t ns_id, const char* name) { return checked(k_null_string, +[](const char* n, std::int32_t i) -> void* { return ColorSpaceSpecificationSpectrumType::factory(i, n); }, name, ns_id); }
+VYR_FLAT(void*) CSharp_ColorSpaceSpecificationSpectrumType_clone(void* self) { return guarded(+[](void* s) -> void* { return as<ColorSpaceSpecificationSpectrumType>(s).clone(); }, self); }
+VYR_FLAT(char*) CSharp_ColorSpaceSpecificationSpectrumType_getid(void* self) { return new_string(as<ColorSpaceSpecificationSpectrumType>(self).getid()); }
+VYR_FLAT(std::int32_t) CSharp_ColorSpaceSpecificationSpectrumType_has_id(void* self, const char* identity) { return as<ColorSpaceSpecificationSpectrumType>(self).has_id(identity); }
+VYR_FLAT(void) CSharp_ColorSpaceSpecificationSpectrumType_swap(void* self, void* other) { checked("com_vyrgraph_v2::ColorSpaceSpecificationSpectrumType & type is null", +[](void* o, void* s) { return as<ColorSpaceSpecificationSpectrumType>(s).swap(as<ColorSpaceSpecificationSpectrumType>(o)); }, other, self); }
+VYR_FLAT(void) CSharp_ColorSpaceSpecificationSpectrumType_reset(void* self) { guarded(+[](void* s) { return as<ColorSpaceSpecificationSpectrumType>(s).reset(); }, self); }
+VYR_FLAT(std::int32_t) CSharp_ColorSpaceSpecificationSpectrumType_is_occurs_ok(void* self) { return as<ColorSpaceSpecificationSpectrumType>(self).is_occurs_ok(); }
 VYR_FLAT(void*) CSharp_ColorSpaceSpecificationSpectrumType_get_Spectrum__SWIG_0(void* self) { return &as<ColorSpaceSpecificationSpectrumType>(self).get_Spectrum(); }
 VYR_FLAT(void*) CSharp_ColorSpaceSpecificationSpectrumType_assign_Spectrum(void* self, void* value) { return checked("com_vyrgraph_v2::SpectrumType const & type is null", +[](void* v, void* s) -> void* { return &as<ColorSpaceSpecificationSpectrumType>(s).assign_Spectrum(as<SpectrumType>(v)); }, value, self); }
 
@@ -147,15 +147,15 @@ VYR_FLAT(void*) CSharp_new_ColorSpaceSpecificationEmissiveType__SWIG_0() { retur
 VYR_FLAT(void*) CSharp_new_ColorSpaceSpecificationEmissiveType__SWIG_1(void* source) { return checked("com_vyrgraph_v2::ColorSpaceSpecificationEmissiveType const & type is null", &copy<ColorSpaceSpecificationEmissiveType>, source); }
 VYR_FLAT(void) CSharp_delete_ColorSpaceSpecificationEmissiveType(void* self) { destroy<ColorSpaceSpecificationEmissiveType>(self); }
 VYR_FLAT(void*) CSharp_ColorSpaceSpecificationEmissiveTypeUpcast(void* self) { return upcast<ColorSpaceSpecificationEmissiveType, ColorSpaceSpecificationType>(self); }
-VYR_FLAT(void) CSharp_ColorSpaceSpecificationEmissiveType_swap(void* self, void* other) { checked("com_vyrgraph_v2::ColorSpaceSpecificationEmissiveType & type is null", +[](void* o, void* s) { return as<ColorSpaceSpecificationEmissiveType>(s).swap(as<ColorSpaceSpecificationEmissiveType>(o)); }, other, self); }
-VYR_FLAT(void) CSharp_ColorSpaceSpecificationEmissiveType_reset(void* self) { guarded(+[](void* s) { return as<ColorSpaceSpecificationEmissiveType>(s).reset(); }, self); }
-VYR_FLAT(std::int32_t) CSharp_ColorSpaceSpecificationEmissiveType_is_occurs_ok(void* self) { return as<ColorSpaceSpecificationEmissiveType>(self).is_occurs_ok(); }
-VYR_FLAT(void*) CSharp_ColorSpaceSpecificationEmissiveType_clone(void* self) { return guarded(+[](void* s) -> void* { return as<ColorSpaceSpecificationEmissiveType>(s).clone(); }, self); }
-VYR_FLAT(char*) CSharp_ColorSpaceSpecificationEmissiveType_getid(void* self) { return new_string(as<ColorSpaceSpecificationEmissiveType>(self).getid()); }
-VYR_FLAT(std::int32_t) CSharp_ColorSpaceSpecificationEmissiveType_has_id(void* self, const char* identity) { return as<ColorSpaceSpecificationEmissiveType>(self).has_id(identity); }
 VYR_FLAT(const char*) CSharp_ColorSpaceSpecificationEmissiveType_id_get() { return ColorSpaceSpecificationEmissiveType::id; }
 VYR_FLAT(void) CSharp_ColorSpaceSpecificationEmissiveType_id_set(const char* identity) { set_identity(&ColorSpaceSpecificationEmissiveType::id, identity); }
 VYR_FLAT(void*) CSharp_ColorSpaceSpecificationEmissiveType_factory(std::int32_t ns_id, const char* name) { return checked(k_null_string, +[](const char* n, std::int32_t i) -> void* { return ColorSpaceSpecificationEmissiveType::factory(i, n); }, name, ns_id); }
+VYR_FLAT(void*) CSharp_ColorSpaceSpecificationEmissiveType_clone(void* self) { return guarded(+[](void* s) -> void* { return as<ColorSpaceSpecificationEmissiveType>(s).clone(); }, self); }
+VYR_FLAT(char*) CSharp_ColorSpaceSpecificationEmissiveType_getid(void* self) { return new_string(as<ColorSpaceSpecificationEmissiveType>(self).getid()); }
+VYR_FLAT(std::int32_t) CSharp_ColorSpaceSpecificationEmissiveType_has_id(void* self, const char* identity) { return as<ColorSpaceSpecificationEmissiveType>(self).has_id(identity); }
+VYR_FLAT(void) CSharp_ColorSpaceSpecificationEmissiveType_swap(void* self, void* other) { checked("com_vyrgraph_v2::ColorSpaceSpecificationEmissiveType & type is null", +[](void* o, void* s) { return as<ColorSpaceSpecificationEmissiveType>(s).swap(as<ColorSpaceSpecificationEmissiveType>(o)); }, other, self); }
+VYR_FLAT(void) CSharp_ColorSpaceSpecificationEmissiveType_reset(void* self) { guarded(+[](void* s) { return as<ColorSpaceSpecificationEmissiveType>(s).reset(); }, self); }
+VYR_FLAT(std::int32_t) CSharp_ColorSpaceSpecificationEmissiveType_is_occurs_ok(void* self) { return as<ColorSpaceSpecificationEmissiveType>(self).is_occurs_ok(); }
 VYR_FLAT(char16_t*) CSharp_ColorSpaceSpecificationEmissiveType_get_EmissiveType(void* self) { return new_string(as<ColorSpaceSpecificationEmissiveType>(self).get_EmissiveType()); }
 VYR_FLAT(std::int32_t) CSharp_ColorSpaceSpecificationEmissiveType_set_EmissiveType(void* self, const char16_t* value) { return with_text(self, value, [](void* s, wide_text v) { return as<ColorSpaceSpecificationEmissiveType>(s).set_EmissiveType(v); }); }
 VYR_FLAT(std::int32_t) CSharp_ColorSpaceSpecificationEmissiveType_getenum_EmissiveType(void* self) { return as<ColorSpaceSpecificationEmissiveType>(self).getenum_EmissiveType(); }
@@ -208,14 +208,14 @@ VYR_FLAT(void*) CSharp_new_ColorSpaceSpecificationSpectrumGenericType__SWIG_0() 
 VYR_FLAT(void*) CSharp_new_ColorSpaceSpecificationSpectrumGenericType__SWIG_1(void* source) { return checked("com_vyrgraph_v2::ColorSpaceSpecificationSpectrumGenericType const & type is null", &copy<ColorSpaceSpecificationSpectrumGenericType>, source); }
 VYR_FLAT(void) CSharp_delete_ColorSpaceSpecificationSpectrumGenericType(void* self) { destroy<ColorSpaceSpecificationSpectrumGenericType>(self); }
 VYR_FLAT(void*) CSharp_ColorSpaceSpecificationSpectrumGenericTypeUpcast(void* self) { return upcast<ColorSpaceSpecificationSpectrumGenericType, ColorSpaceSpecificationSpectrumType>(self); }
-VYR_FLAT(void) CSharp_ColorSpaceSpecificationSpectrumGenericType_swap(void* self, void* other) { checked("com_vyrgraph_v2::ColorSpaceSpecificationSpectrumGenericType & type is null", +[](void* o, void* s) { return as<ColorSpaceSpecificationSpectrumGenericType>(s).swap(as<ColorSpaceSpecificationSpectrumGenericType>(o)); }, other, self); }
-VYR_FLAT(void) CSharp_ColorSpaceSpecificationSpectrumGenericType_reset(void* self) { guarded(+[](void* s) { return as<ColorSpaceSpecificationSpectrumGenericType>(s).reset(); }, self); }
-VYR_FLAT(std::int32_t) CSharp_ColorSpaceSpecificationSpectrumGenericType_is_occurs_ok(void* self) { return as<ColorSpaceSpecificationSpectrumGenericType>(self).is_occurs_ok(); }
+VYR_FLAT(const char*) CSharp_ColorSpaceSpecificationSpectrumGenericType_id_get() { return ColorSpaceSpecificationSpectrumGenericType::id; }
+VYR_FLAT(void) CSharp_ColorSpaceSpecificationSpectrumGenericType_id_set(const char* identity) { set_identity(&ColorSpaceSpecificationSpectrumGenericType::id, identity); }
 VYR_FLAT(void*) CSharp_ColorSpaceSpecificationSpectrumGenericType_clone(void* self) { return guarded(+[](void* s) -> void* { return as<ColorSpaceSpecificationSpectrumGenericType>(s).clone(); }, self); }
 VYR_FLAT(char*) CSharp_ColorSpaceSpecificationSpectrumGenericType_getid(void* self) { return new_string(as<ColorSpaceSpecificationSpectrumGenericType>(self).getid()); }
 VYR_FLAT(std::int32_t) CSharp_ColorSpaceSpecificationSpectrumGenericType_has_id(void* self, const char* identity) { return as<ColorSpaceSpecificationSpectrumGenericType>(self).has_id(identity); }
-VYR_FLAT(const char*) CSharp_ColorSpaceSpecificationSpectrumGenericType_id_get() { return ColorSpaceSpecificationSpectrumGenericType::id; }
-VYR_FLAT(void) CSharp_ColorSpaceSpecificationSpectrumGenericType_id_set(const char* identity) { set_identity(&ColorSpaceSpecificationSpectrumGenericType::id, identity); }
+VYR_FLAT(void) CSharp_ColorSpaceSpecificationSpectrumGenericType_swap(void* self, void* other) { checked("com_vyrgraph_v2::ColorSpaceSpecificationSpectrumGenericType & type is null", +[](void* o, void* s) { return as<ColorSpaceSpecificationSpectrumGenericType>(s).swap(as<ColorSpaceSpecificationSpectrumGenericType>(o)); }, other, self); }
+VYR_FLAT(void) CSharp_ColorSpaceSpecificationSpectrumGenericType_reset(void* self) { guarded(+[](void* s) { return as<ColorSpaceSpecificationSpectrumGenericType>(s).reset(); }, self); }
+VYR_FLAT(std::int32_t) CSharp_ColorSpaceSpecificationSpectrumGenericType_is_occurs_ok(void* self) { return as<ColorSpaceSpecificationSpectrumGenericType>(self).is_occurs_ok(); }
 VYR_FLAT(void*) CSharp_ColorSpaceSpecificationSpectrumGenericType_get_GeometryChoice__SWIG_0(void* self) { return guarded(+[](void* s) -> void* { return &as<ColorSpaceSpecificationSpectrumGenericType>(s).get_GeometryChoice(); }, self); }
 VYR_FLAT(void*) CSharp_ColorSpaceSpecificationSpectrumGenericType_assign_GeometryChoice(void* self, void* value) { return checked("com_vyrgraph_v2::GeometryChoiceType const & type is null", +[](void* v, void* s) -> void* { return &as<ColorSpaceSpecificationSpectrumGenericType>(s).assign_GeometryChoice(as<GeometryChoiceType>(v)); }, value, self); }
 VYR_FLAT(std::int32_t) CSharp_ColorSpaceSpecificationSpectrumGenericType_isset_GeometryChoice(void* self) { return as<ColorSpaceSpecificationSpectrumGenericType>(self).isset_GeometryChoice(); }
@@ -252,14 +252,14 @@ VYR_FLAT(void*) CSharp_new_ColorSpaceSpecificationSpectrumTristimulusType__SWIG_
 VYR_FLAT(void*) CSharp_new_ColorSpaceSpecificationSpectrumTristimulusType__SWIG_1(void* source) { return checked("com_vyrgraph_v2::ColorSpaceSpecificationSpectrumTristimulusType const & type is null", &copy<ColorSpaceSpecificationSpectrumTristimulusType>, source); }
 VYR_FLAT(void) CSharp_delete_ColorSpaceSpecificationSpectrumTristimulusType(void* self) { destroy<ColorSpaceSpecificationSpectrumTristimulusType>(self); }
 VYR_FLAT(void*) CSharp_ColorSpaceSpecificationSpectrumTristimulusTypeUpcast(void* self) { return upcast<ColorSpaceSpecificationSpectrumTristimulusType, ColorSpaceSpecificationSpectrumType>(self); }
-VYR_FLAT(void) CSharp_ColorSpaceSpecificationSpectrumTristimulusType_swap(void* self, void* other) { checked("com_vyrgraph_v2::ColorSpaceSpecificationSpectrumTristimulusType & type is null", +[](void* o, void* s) { return as<ColorSpaceSpecificationSpectrumTristimulusType>(s).swap(as<ColorSpaceSpecificationSpectrumTristimulusType>(o)); }, other, self); }
-VYR_FLAT(void) CSharp_ColorSpaceSpecificationSpectrumTristimulusType_reset(void* self) { guarded(+[](void* s) { return as<ColorSpaceSpecificationSpectrumTristimulusType>(s).reset(); }, self); }
-VYR_FLAT(std::int32_t) CSharp_ColorSpaceSpecificationSpectrumTristimulusType_is_occurs_ok(void* self) { return as<ColorSpaceSpecificationSpectrumTristimulusType>(self).is_occurs_ok(); }
+VYR_FLAT(const char*) CSharp_ColorSpaceSpecificationSpectrumTristimulusType_id_get() { return ColorSpaceSpecificationSpectrumTristimulusType::id; }
+VYR_FLAT(void) CSharp_ColorSpaceSpecificationSpectrumTristimulusType_id_set(const char* identity) { set_identity(&ColorSpaceSpecificationSpectrumTristimulusType::id, identity); }
 VYR_FLAT(void*) CSharp_ColorSpaceSpecificationSpectrumTristimulusType_clone(void* self) { return guarded(+[](void* s) -> void* { return as<ColorSpaceSpecificationSpectrumTristimulusType>(s).clone(); }, self); }
 VYR_FLAT(char*) CSharp_ColorSpaceSpecificationSpectrumTristimulusType_getid(void* self) { return new_string(as<ColorSpaceSpecificationSpectrumTristimulusType>(self).getid()); }
 VYR_FLAT(std::int32_t) CSharp_ColorSpaceSpecificationSpectrumTristimulusType_has_id(void* self, const char* identity) { return as<ColorSpaceSpecificationSpectrumTristimulusType>(self).has_id(identity); }
-VYR_FLAT(const char*) CSharp_ColorSpaceSpecificationSpectrumTristimulusType_id_get() { return ColorSpaceSpecificationSpectrumTristimulusType::id; }
-VYR_FLAT(void) CSharp_ColorSpaceSpecificationSpectrumTristimulusType_id_set(const char* identity) { set_identity(&ColorSpaceSpecificationSpectrumTristimulusType::id, identity); }
+VYR_FLAT(void) CSharp_ColorSpaceSpecificationSpectrumTristimulusType_swap(void* self, void* other) { checked("com_vyrgraph_v2::ColorSpaceSpecificationSpectrumTristimulusType & type is null", +[](void* o, void* s) { return as<ColorSpaceSpecificationSpectrumTristimulusType>(s).swap(as<ColorSpaceSpecificationSpectrumTristimulusType>(o)); }, other, self); }
+VYR_FLAT(void) CSharp_ColorSpaceSpecificationSpectrumTristimulusType_reset(void* self) { guarded(+[](void* s) { return as<ColorSpaceSpecificationSpectrumTristimulusType>(s).reset(); }, self); }
+VYR_FLAT(std::int32_t) CSharp_ColorSpaceSpecificationSpectrumTristimulusType_is_occurs_ok(void* self) { return as<ColorSpaceSpecificationSpectrumTristimulusType>(self).is_occurs_ok(); }
 VYR_FLAT(void*) CSharp_ColorSpaceSpecificationSpectrumTristimulusType_get_IlluminationOptions__SWIG_0(void* self) { return &as<ColorSpaceSpecificationSpectrumTristimulusType>(self).get_IlluminationOptions(); }
 VYR_FLAT(void*) CSharp_ColorSpaceSpecificationSpectrumTristimulusType_assign_IlluminationOptions(void* self, void* value) { return checked("com_vyrgraph_v2::IlluminationOptionsType const & type is null", +[](void* v, void* s) -> void* { return &as<ColorSpaceSpecificationSpectrumTristimulusType>(s).assign_IlluminationOptions(as<IlluminationOptionsType>(v)); }, value, self); }
 VYR_FLAT(char16_t*) CSharp_ColorSpaceSpecificationSpectrumTristimulusType_get_FieldOfView(void* self) { return new_string(as<ColorSpaceSpecificationSpectrumTristimulusType>(self).get_FieldOfView()); }
@@ -286,14 +286,14 @@ VYR_FLAT(void*) CSharp_new_ColorSpaceSpecificationSpectrumSpectralType__SWIG_0()
 VYR_FLAT(void*) CSharp_new_ColorSpaceSpecificationSpectrumSpectralType__SWIG_1(void* source) { return checked("com_vyrgraph_v2::ColorSpaceSpecificationSpectrumSpectralType const & type is null", &copy<ColorSpaceSpecificationSpectrumSpectralType>, source); }
 VYR_FLAT(void) CSharp_delete_ColorSpaceSpecificationSpectrumSpectralType(void* self) { destroy<ColorSpaceSpecificationSpectrumSpectralType>(self); }
 VYR_FLAT(void*) CSharp_ColorSpaceSpecificationSpectrumSpectralTypeUpcast(void* self) { return upcast<ColorSpaceSpecificationSpectrumSpectralType, ColorSpaceSpecificationSpectrumType>(self); }
-VYR_FLAT(void) CSharp_ColorSpaceSpecificationSpectrumSpectralType_swap(void* self, void* other) { checked("com_vyrgraph_v2::ColorSpaceSpecificationSpectrumSpectralType & type is null", +[](void* o, void* s) { return as<ColorSpaceSpecificationSpectrumSpectralType>(s).swap(as<ColorSpaceSpecificationSpectrumSpectralType>(o)); }, other, self); }
-VYR_FLAT(void) CSharp_ColorSpaceSpecificationSpectrumSpectralType_reset(void* self) { guarded(+[](void* s) { return as<ColorSpaceSpecificationSpectrumSpectralType>(s).reset(); }, self); }
-VYR_FLAT(std::int32_t) CSharp_ColorSpaceSpecificationSpectrumSpectralType_is_occurs_ok(void* self) { return as<ColorSpaceSpecificationSpectrumSpectralType>(self).is_occurs_ok(); }
+VYR_FLAT(const char*) CSharp_ColorSpaceSpecificationSpectrumSpectralType_id_get() { return ColorSpaceSpecificationSpectrumSpectralType::id; }
+VYR_FLAT(void) CSharp_ColorSpaceSpecificationSpectrumSpectralType_id_set(const char* identity) { set_identity(&ColorSpaceSpecificationSpectrumSpectralType::id, identity); }
 VYR_FLAT(void*) CSharp_ColorSpaceSpecificationSpectrumSpectralType_clone(void* self) { return guarded(+[](void* s) -> void* { return as<ColorSpaceSpecificationSpectrumSpectralType>(s).clone(); }, self); }
 VYR_FLAT(char*) CSharp_ColorSpaceSpecificationSpectrumSpectralType_getid(void* self) { return new_string(as<ColorSpaceSpecificationSpectrumSpectralType>(self).getid()); }
 VYR_FLAT(std::int32_t) CSharp_ColorSpaceSpecificationSpectrumSpectralType_has_id(void* self, const char* identity) { return as<ColorSpaceSpecificationSpectrumSpectralType>(self).has_id(identity); }
-VYR_FLAT(const char*) CSharp_ColorSpaceSpecificationSpectrumSpectralType_id_get() { return ColorSpaceSpecificationSpectrumSpectralType::id; }
-VYR_FLAT(void) CSharp_ColorSpaceSpecificationSpectrumSpectralType_id_set(const char* identity) { set_identity(&ColorSpaceSpecificationSpectrumSpectralType::id, identity); }
+VYR_FLAT(void) CSharp_ColorSpaceSpecificationSpectrumSpectralType_swap(void* self, void* other) { checked("com_vyrgraph_v2::ColorSpaceSpecificationSpectrumSpectralType & type is null", +[](void* o, void* s) { return as<ColorSpaceSpecificationSpectrumSpectralType>(s).swap(as<ColorSpaceSpecificationSpectrumSpectralType>(o)); }, other, self); }
+VYR_FLAT(void) CSharp_ColorSpaceSpecificationSpectrumSpectralType_reset(void* self) { guarded(+[](void* s) { return as<ColorSpaceSpecificationSpectrumSpectralType>(s).reset(); }, self); }
+VYR_FLAT(std::int32_t) CSharp_ColorSpaceSpecificationSpectrumSpectralType_is_occurs_ok(void* self) { return as<ColorSpaceSpecificationSpectrumSpectralType>(self).is_occurs_ok(); }
 VYR_FLAT(void*) CSharp_ColorSpaceSpecificationSpectrumSpectralType_get_GeometryChoice__SWIG_0(void* self) { return &as<ColorSpaceSpecificationSpectrumSpectralType>(self).get_GeometryChoice(); }
 VYR_FLAT(void*) CSharp_ColorSpaceSpecificationSpectrumSpectralType_assign_GeometryChoice(void* self, void* value) { return checked("com_vyrgraph_v2::GeometryChoiceType const & type is null", +[](void* v, void* s) -> void* { return &as<ColorSpaceSpecificationSpectrumSpectralType>(s).assign_GeometryChoice(as<GeometryChoiceType>(v)); }, value, self); }
 VYR_FLAT(char16_t*) CSharp_ColorSpaceSpecificationSpectrumSpectralType_get_ASTM_Table(void* self) { return new_string(as<ColorSpaceSpecificationSpectrumSpectralType>(self).get_ASTM_Table()); }
@@ -308,14 +308,14 @@ VYR_FLAT(void*) CSharp_new_ColorSpaceSpecificationEmissiveGenericType__SWIG_0() 
 VYR_FLAT(void*) CSharp_new_ColorSpaceSpecificationEmissiveGenericType__SWIG_1(void* source) { return checked("com_vyrgraph_v2::ColorSpaceSpecificationEmissiveGenericType const & type is null", &copy<ColorSpaceSpecificationEmissiveGenericType>, source); }
 VYR_FLAT(void) CSharp_delete_ColorSpaceSpecificationEmissiveGenericType(void* self) { destroy<ColorSpaceSpecificationEmissiveGenericType>(self); }
 VYR_FLAT(void*) CSharp_ColorSpaceSpecificationEmissiveGenericTypeUpcast(void* self) { return upcast<ColorSpaceSpecificationEmissiveGenericType, ColorSpaceSpecificationEmissiveType>(self); }
-VYR_FLAT(void) CSharp_ColorSpaceSpecificationEmissiveGenericType_swap(void* self, void* other) { checked("com_vyrgraph_v2::ColorSpaceSpecificationEmissiveGenericType & type is null", +[](void* o, void* s) { return as<ColorSpaceSpecificationEmissiveGenericType>(s).swap(as<ColorSpaceSpecificationEmissiveGenericType>(o)); }, other, self); }
-VYR_FLAT(void) CSharp_ColorSpaceSpecificationEmissiveGenericType_reset(void* self) { guarded(+[](void* s) { return as<ColorSpaceSpecificationEmissiveGenericType>(s).reset(); }, self); }
-VYR_FLAT(std::int32_t) CSharp_ColorSpaceSpecificationEmissiveGenericType_is_occurs_ok(void* self) { return as<ColorSpaceSpecificationEmissiveGenericType>(self).is_occurs_ok(); }
+VYR_FLAT(const char*) CSharp_ColorSpaceSpecificationEmissiveGenericType_id_get() { return ColorSpaceSpecificationEmissiveGenericType::id; }
+VYR_FLAT(void) CSharp_ColorSpaceSpecificationEmissiveGenericType_id_set(const char* identity) { set_identity(&ColorSpaceSpecificationEmissiveGenericType::id, identity); }
 VYR_FLAT(void*) CSharp_ColorSpaceSpecificationEmissiveGenericType_clone(void* self) { return guarded(+[](void* s) -> void* { return as<ColorSpaceSpecificationEmissiveGenericType>(s).clone(); }, self); }
 VYR_FLAT(char*) CSharp_ColorSpaceSpecificationEmissiveGenericType_getid(void* self) { return new_string(as<ColorSpaceSpecificationEmissiveGenericType>(self).getid()); }
 VYR_FLAT(std::int32_t) CSharp_ColorSpaceSpecificationEmissiveGenericType_has_id(void* self, const char* identity) { return as<ColorSpaceSpecificationEmissiveGenericType>(self).has_id(identity); }
-VYR_FLAT(const char*) CSharp_ColorSpaceSpecificationEmissiveGenericType_id_get() { return ColorSpaceSpecificationEmissiveGenericType::id; }
-VYR_FLAT(void) CSharp_ColorSpaceSpecificationEmissiveGenericType_id_set(const char* identity) { set_identity(&ColorSpaceSpecificationEmissiveGenericType::id, identity); }
+VYR_FLAT(void) CSharp_ColorSpaceSpecificationEmissiveGenericType_swap(void* self, void* other) { checked("com_vyrgraph_v2::ColorSpaceSpecificationEmissiveGenericType & type is null", +[](void* o, void* s) { return as<ColorSpaceSpecificationEmissiveGenericType>(s).swap(as<ColorSpaceSpecificationEmissiveGenericType>(o)); }, other, self); }
+VYR_FLAT(void) CSharp_ColorSpaceSpecificationEmissiveGenericType_reset(void* self) { guarded(+[](void* s) { return as<ColorSpaceSpecificationEmissiveGenericType>(s).reset(); }, self); }
+VYR_FLAT(std::int32_t) CSharp_ColorSpaceSpecificationEmissiveGenericType_is_occurs_ok(void* self) { return as<ColorSpaceSpecificationEmissiveGenericType>(self).is_occurs_ok(); }
 VYR_FLAT(void*) CSharp_ColorSpaceSpecificationEmissiveGenericType_get_GeometryChoice__SWIG_0(void* self) { return guarded(+[](void* s) -> void* { return &as<ColorSpaceSpecificationEmissiveGenericType>(s).get_GeometryChoice(); }, self); }
 VYR_FLAT(void*) CSharp_ColorSpaceSpecificationEmissiveGenericType_assign_GeometryChoice(void* self, void* value) { return checked("com_vyrgraph_v2::GeometryChoiceType const & type is null", +[](void* v, void* s) -> void* { return &as<ColorSpaceSpecificationEmissiveGenericType>(s).assign_GeometryChoice(as<GeometryChoiceType>(v)); }, value, self); }
 VYR_FLAT(std::int32_t) CSharp_ColorSpaceSpecificationEmissiveGenericType_isset_GeometryChoice(void* self) { return as<ColorSpaceSpecificationEmissiveGenericType>(self).isset_GeometryChoice(); }
@@ -352,14 +352,14 @@ VYR_FLAT(void*) CSharp_new_ColorSpaceSpecificationEmissiveTristimulusType__SWIG_
 VYR_FLAT(void*) CSharp_new_ColorSpaceSpecificationEmissiveTristimulusType__SWIG_1(void* source) { return checked("com_vyrgraph_v2::ColorSpaceSpecificationEmissiveTristimulusType const & type is null", &copy<ColorSpaceSpecificationEmissiveTristimulusType>, source); }
 VYR_FLAT(void) CSharp_delete_ColorSpaceSpecificationEmissiveTristimulusType(void* self) { destroy<ColorSpaceSpecificationEmissiveTristimulusType>(self); }
 VYR_FLAT(void*) CSharp_ColorSpaceSpecificationEmissiveTristimulusTypeUpcast(void* self) { return upcast<ColorSpaceSpecificationEmissiveTristimulusType, ColorSpaceSpecificationEmissiveType>(self); }
-VYR_FLAT(void) CSharp_ColorSpaceSpecificationEmissiveTristimulusType_swap(void* self, void* other) { checked("com_vyrgraph_v2::ColorSpaceSpecificationEmissiveTristimulusType & type is null", +[](void* o, void* s) { return as<ColorSpaceSpecificationEmissiveTristimulusType>(s).swap(as<ColorSpaceSpecificationEmissiveTristimulusType>(o)); }, other, self); }
-VYR_FLAT(void) CSharp_ColorSpaceSpecificationEmissiveTristimulusType_reset(void* self) { guarded(+[](void* s) { return as<ColorSpaceSpecificationEmissiveTristimulusType>(s).reset(); }, self); }
-VYR_FLAT(std::int32_t) CSharp_ColorSpaceSpecificationEmissiveTristimulusType_is_occurs_ok(void* self) { return as<ColorSpaceSpecificationEmissiveTristimulusType>(self).is_occurs_ok(); }
+VYR_FLAT(const char*) CSharp_ColorSpaceSpecificationEmissiveTristimulusType_id_get() { return ColorSpaceSpecificationEmissiveTristimulusType::id; }
+VYR_FLAT(void) CSharp_ColorSpaceSpecificationEmissiveTristimulusType_id_set(const char* identity) { set_identity(&ColorSpaceSpecificationEmissiveTristimulusType::id, identity); }
 VYR_FLAT(void*) CSharp_ColorSpaceSpecificationEmissiveTristimulusType_clone(void* self) { return guarded(+[](void* s) -> void* { return as<ColorSpaceSpecificationEmissiveTristimulusType>(s).clone(); }, self); }
 VYR_FLAT(char*) CSharp_ColorSpaceSpecificationEmissiveTristimulusType_getid(void* self) { return new_string(as<ColorSpaceSpecificationEmissiveTristimulusType>(self).getid()); }
 VYR_FLAT(std::int32_t) CSharp_ColorSpaceSpecificationEmissiveTristimulusType_has_id(void* self, const char* identity) { return as<ColorSpaceSpecificationEmissiveTristimulusType>(self).has_id(identity); }
-VYR_FLAT(const char*) CSharp_ColorSpaceSpecificationEmissiveTristimulusType_id_get() { return ColorSpaceSpecificationEmissiveTristimulusType::id; }
-VYR_FLAT(void) CSharp_ColorSpaceSpecificationEmissiveTristimulusType_id_set(const char* identity) { set_identity(&ColorSpaceSpecificationEmissiveTristimulusType::id, identity); }
+VYR_FLAT(void) CSharp_ColorSpaceSpecificationEmissiveTristimulusType_swap(void* self, void* other) { checked("com_vyrgraph_v2::ColorSpaceSpecificationEmissiveTristimulusType & type is null", +[](void* o, void* s) { return as<ColorSpaceSpecificationEmissiveTristimulusType>(s).swap(as<ColorSpaceSpecificationEmissiveTristimulusType>(o)); }, other, self); }
+VYR_FLAT(void) CSharp_ColorSpaceSpecificationEmissiveTristimulusType_reset(void* self) { guarded(+[](void* s) { return as<ColorSpaceSpecificationEmissiveTristimulusType>(s).reset(); }, self); }
+VYR_FLAT(std::int32_t) CSharp_ColorSpaceSpecificationEmissiveTristimulusType_is_occurs_ok(void* self) { return as<ColorSpaceSpecificationEmissiveTristimulusType>(self).is_occurs_ok(); }
 VYR_FLAT(void*) CSharp_ColorSpaceSpecificationEmissiveTristimulusType_get_IlluminationOptions__SWIG_0(void* self) { return &as<ColorSpaceSpecificationEmissiveTristimulusType>(self).get_IlluminationOptions(); }
 VYR_FLAT(void*) CSharp_ColorSpaceSpecificationEmissiveTristimulusType_assign_IlluminationOptions(void* self, void* value) { return checked("com_vyrgraph_v2::IlluminationOptionsType const & type is null", +[](void* v, void* s) -> void* { return &as<ColorSpaceSpecificationEmissiveTristimulusType>(s).assign_IlluminationOptions(as<IlluminationOptionsType>(v)); }, value, self); }
 VYR_FLAT(char16_t*) CSharp_ColorSpaceSpecificationEmissiveTristimulusType_get_FieldOfView(void* self) { return new_string(as<ColorSpaceSpecificationEmissiveTristimulusType>(self).get_FieldOfView()); }
@@ -386,14 +386,14 @@ VYR_FLAT(void*) CSharp_new_ColorSpaceSpecificationEmissiveSpectralType__SWIG_0()
 VYR_FLAT(void*) CSharp_new_ColorSpaceSpecificationEmissiveSpectralType__SWIG_1(void* source) { return checked("com_vyrgraph_v2::ColorSpaceSpecificationEmissiveSpectralType const & type is null", &copy<ColorSpaceSpecificationEmissiveSpectralType>, source); }
 VYR_FLAT(void) CSharp_delete_ColorSpaceSpecificationEmissiveSpectralType(void* self) { destroy<ColorSpaceSpecificationEmissiveSpectralType>(self); }
 VYR_FLAT(void*) CSharp_ColorSpaceSpecificationEmissiveSpectralTypeUpcast(void* self) { return upcast<ColorSpaceSpecificationEmissiveSpectralType, ColorSpaceSpecificationEmissiveType>(self); }
-VYR_FLAT(void) CSharp_ColorSpaceSpecificationEmissiveSpectralType_swap(void* self, void* other) { checked("com_vyrgraph_v2::ColorSpaceSpecificationEmissiveSpectralType & type is null", +[](void* o, void* s) { return as<ColorSpaceSpecificationEmissiveSpectralType>(s).swap(as<ColorSpaceSpecificationEmissiveSpectralType>(o)); }, other, self); }
-VYR_FLAT(void) CSharp_ColorSpaceSpecificationEmissiveSpectralType_reset(void* self) { guarded(+[](void* s) { return as<ColorSpaceSpecificationEmissiveSpectralType>(s).reset(); }, self); }
-VYR_FLAT(std::int32_t) CSharp_ColorSpaceSpecificationEmissiveSpectralType_is_occurs_ok(void* self) { return as<ColorSpaceSpecificationEmissiveSpectralType>(self).is_occurs_ok(); }
+VYR_FLAT(const char*) CSharp_ColorSpaceSpecificationEmissiveSpectralType_id_get() { return ColorSpaceSpecificationEmissiveSpectralType::id; }
+VYR_FLAT(void) CSharp_ColorSpaceSpecificationEmissiveSpectralType_id_set(const char* identity) { set_identity(&ColorSpaceSpecificationEmissiveSpectralType::id, identity); }
 VYR_FLAT(void*) CSharp_ColorSpaceSpecificationEmissiveSpectralType_clone(void* self) { return guarded(+[](void* s) -> void* { return as<ColorSpaceSpecificationEmissiveSpectralType>(s).clone(); }, self); }
 VYR_FLAT(char*) CSharp_ColorSpaceSpecificationEmissiveSpectralType_getid(void* self) { return new_string(as<ColorSpaceSpecificationEmissiveSpectralType>(self).getid()); }
 VYR_FLAT(std::int32_t) CSharp_ColorSpaceSpecificationEmissiveSpectralType_has_id(void* self, const char* identity) { return as<ColorSpaceSpecificationEmissiveSpectralType>(self).has_id(identity); }
-VYR_FLAT(const char*) CSharp_ColorSpaceSpecificationEmissiveSpectralType_id_get() { return ColorSpaceSpecificationEmissiveSpectralType::id; }
-VYR_FLAT(void) CSharp_ColorSpaceSpecificationEmissiveSpectralType_id_set(const char* identity) { set_identity(&ColorSpaceSpecificationEmissiveSpectralType::id, identity); }
+VYR_FLAT(void) CSharp_ColorSpaceSpecificationEmissiveSpectralType_swap(void* self, void* other) { checked("com_vyrgraph_v2::ColorSpaceSpecificationEmissiveSpectralType & type is null", +[](void* o, void* s) { return as<ColorSpaceSpecificationEmissiveSpectralType>(s).swap(as<ColorSpaceSpecificationEmissiveSpectralType>(o)); }, other, self); }
+VYR_FLAT(void) CSharp_ColorSpaceSpecificationEmissiveSpectralType_reset(void* self) { guarded(+[](void* s) { return as<ColorSpaceSpecificationEmissiveSpectralType>(s).reset(); }, self); }
+VYR_FLAT(std::int32_t) CSharp_ColorSpaceSpecificationEmissiveSpectralType_is_occurs_ok(void* self) { return as<ColorSpaceSpecificationEmissiveSpectralType>(self).is_occurs_ok(); }
 VYR_FLAT(void*) CSharp_ColorSpaceSpecificationEmissiveSpectralType_get_GeometryChoice__SWIG_0(void* self) { return &as<ColorSpaceSpecificationEmissiveSpectralType>(self).get_GeometryChoice(); }
 VYR_FLAT(void*) CSharp_ColorSpaceSpecificationEmissiveSpectralType_assign_GeometryChoice(void* self, void* value) { return checked("com_vyrgraph_v2::GeometryChoiceType const & type is null", +[](void* v, void* s) -> void* { return &as<ColorSpaceSpecificationEmissiveSpectralType>(s).assign_GeometryChoice(as<GeometryChoiceType>(v)); }, value, self); }
 VYR_FLAT(char16_t*) CSharp_ColorSpaceSpecificationEmissiveSpectralType_get_ASTM_Table(void* self) { return new_string(as<ColorSpaceSpecificationEmissiveSpectralType>(self).get_ASTM_Table()); }
@@ -412,20 +412,20 @@ VYR_FLAT(void*) CSharp_new_ColorSpaceSpecificationSpectrum__SWIG_0() { return ma
 VYR_FLAT(void*) CSharp_new_ColorSpaceSpecificationSpectrum__SWIG_1(void* source) { return checked("com_vyrgraph_v2::ColorSpaceSpecificationSpectrum const & type is null", &copy<ColorSpaceSpecificationSpectrum>, source); }
 VYR_FLAT(void) CSharp_delete_ColorSpaceSpecificationSpectrum(void* self) { destroy<ColorSpaceSpecificationSpectrum>(self); }
 VYR_FLAT(void*) CSharp_ColorSpaceSpecificationSpectrumUpcast(void* self) { return upcast<ColorSpaceSpecificationSpectrum, ColorSpaceSpecificationSpectrumType>(self); }
+VYR_FLAT(void*) CSharp_ColorSpaceSpecificationSpectrum_ns_map() { return reference(*ColorSpaceSpecificationSpectrum::ns_map()); }
 VYR_FLAT(std::int32_t) CSharp_ColorSpaceSpecificationSpectrum_unmarshal__SWIG_0(void* self, const char* path) { return guarded(+[](void* s, const char* p) { return as<ColorSpaceSpecificationSpectrum>(s).unmarshal(p); }, self, path); }
 VYR_FLAT(std::int32_t) CSharp_ColorSpaceSpecificationSpectrum_unmarshal__SWIG_1(void* self, const char* data, std::uint32_t size) { return guarded(+[](void* s, const char* d, std::uint32_t n) { return as<ColorSpaceSpecificationSpectrum>(s).unmarshal(d, n); }, self, data, size); }
 VYR_FLAT(std::int32_t) CSharp_ColorSpaceSpecificationSpectrum_marshal__SWIG_0(void* self, const char* path) { return guarded(+[](void* s, const char* p) { return as<ColorSpaceSpecificationSpectrum>(s).marshal(p); }, self, path); }
-VYR_FLAT(void*) CSharp_ColorSpaceSpecificationSpectrum_ns_map() { return reference(*ColorSpaceSpecificationSpectrum::ns_map()); }
 
 // ColorSpaceSpecificationSpectrumGeneric
 VYR_FLAT(void*) CSharp_new_ColorSpaceSpecificationSpectrumGeneric__SWIG_0() { return make<ColorSpaceSpecificationSpectrumGeneric>(); }
 VYR_FLAT(void*) CSharp_new_ColorSpaceSpecificationSpectrumGeneric__SWIG_1(void* source) { return checked("com_vyrgraph_v2::ColorSpaceSpecificationSpectrumGeneric const & type is null", &copy<ColorSpaceSpecificationSpectrumGeneric>, source); }
 VYR_FLAT(void) CSharp_delete_ColorSpaceSpecificationSpectrumGeneric(void* self) { destroy<ColorSpaceSpecificationSpectrumGeneric>(self); }
 VYR_FLAT(void*) CSharp_ColorSpaceSpecificationSpectrumGenericUpcast(void* self) { return upcast<ColorSpaceSpecificationSpectrumGeneric, ColorSpaceSpecificationSpectrumGenericType>(self); }
+VYR_FLAT(void*) CSharp_ColorSpaceSpecificationSpectrumGeneric_ns_map() { return reference(*ColorSpaceSpecificationSpectrumGeneric::ns_map()); }
 VYR_FLAT(std::int32_t) CSharp_ColorSpaceSpecificationSpectrumGeneric_unmarshal__SWIG_0(void* self, const char* path) { return guarded(+[](void* s, const char* p) { return as<ColorSpaceSpecificationSpectrumGeneric>(s).unmarshal(p); }, self, path); }
 VYR_FLAT(std::int32_t) CSharp_ColorSpaceSpecificationSpectrumGeneric_unmarshal__SWIG_1(void* self, const char* data, std::uint32_t size) { return guarded(+[](void* s, const char* d, std::uint32_t n) { return as<ColorSpaceSpecificationSpectrumGeneric>(s).unmarshal(d, n); }, self, data, size); }
 VYR_FLAT(std::int32_t) CSharp_ColorSpaceSpecificationSpectrumGeneric_marshal__SWIG_0(void* self, const char* path) { return guarded(+[](void* s, const char* p) { return as<ColorSpaceSpecificationSpectrumGeneric>(s).marshal(p); }, self, path); }
-VYR_FLAT(void*) CSharp_ColorSpaceSpecificationSpectrumGeneric_ns_map() { return reference(*ColorSpaceSpecificationSpectrumGeneric::ns_map()); }
 VYR_FLAT(void) CSharp_ColorSpaceSpecificationSpectrumGeneric_swap(void* self, void* other) { checked("com_vyrgraph_v2::ColorSpaceSpecificationSpectrumGeneric & type is null", +[](void* o, void* s) { return as<ColorSpaceSpecificationSpectrumGeneric>(s).swap(as<ColorSpaceSpecificationSpectrumGeneric>(o)); }, other, self); }
 VYR_FLAT(void) CSharp_ColorSpaceSpecificationSpectrumGeneric_reset(void* self) { guarded(+[](void* s) { return as<ColorSpaceSpecificationSpectrumGeneric>(s).reset(); }, self); }
 VYR_FLAT(std::int32_t) CSharp_ColorSpaceSpecificationSpectrumGeneric_is_occurs_ok(void* self) { return as<ColorSpaceSpecificationSpectrumGeneric>(self).is_occurs_ok(); }
@@ -437,10 +437,10 @@ VYR_FLAT(void*) CSharp_new_ColorSpaceSpecificationSpectrumTristimulus__SWIG_0() 
 VYR_FLAT(void*) CSharp_new_ColorSpaceSpecificationSpectrumTristimulus__SWIG_1(void* source) { return checked("com_vyrgraph_v2::ColorSpaceSpecificationSpectrumTristimulus const & type is null", &copy<ColorSpaceSpecificationSpectrumTristimulus>, source); }
 VYR_FLAT(void) CSharp_delete_ColorSpaceSpecificationSpectrumTristimulus(void* self) { destroy<ColorSpaceSpecificationSpectrumTristimulus>(self); }
 VYR_FLAT(void*) CSharp_ColorSpaceSpecificationSpectrumTristimulusUpcast(void* self) { return upcast<ColorSpaceSpecificationSpectrumTristimulus, ColorSpaceSpecificationSpectrumTristimulusType>(self); }
+VYR_FLAT(void*) CSharp_ColorSpaceSpecificationSpectrumTristimulus_ns_map() { return reference(*ColorSpaceSpecificationSpectrumTristimulus::ns_map()); }
 VYR_FLAT(std::int32_t) CSharp_ColorSpaceSpecificationSpectrumTristimulus_unmarshal__SWIG_0(void* self, const char* path) { return guarded(+[](void* s, const char* p) { return as<ColorSpaceSpecificationSpectrumTristimulus>(s).unmarshal(p); }, self, path); }
 VYR_FLAT(std::int32_t) CSharp_ColorSpaceSpecificationSpectrumTristimulus_unmarshal__SWIG_1(void* self, const char* data, std::uint32_t size) { return guarded(+[](void* s, const char* d, std::uint32_t n) { return as<ColorSpaceSpecificationSpectrumTristimulus>(s).unmarshal(d, n); }, self, data, size); }
 VYR_FLAT(std::int32_t) CSharp_ColorSpaceSpecificationSpectrumTristimulus_marshal__SWIG_0(void* self, const char* path) { return guarded(+[](void* s, const char* p) { return as<ColorSpaceSpecificationSpectrumTristimulus>(s).marshal(p); }, self, path); }
-VYR_FLAT(void*) CSharp_ColorSpaceSpecificationSpectrumTristimulus_ns_map() { return reference(*ColorSpaceSpecificationSpectrumTristimulus::ns_map()); }
 VYR_FLAT(void) CSharp_ColorSpaceSpecificationSpectrumTristimulus_swap(void* self, void* other) { checked("com_vyrgraph_v2::ColorSpaceSpecificationSpectrumTristimulus & type is null", +[](void* o, void* s) { return as<ColorSpaceSpecificationSpectrumTristimulus>(s).swap(as<ColorSpaceSpecificationSpectrumTristimulus>(o)); }, other, self); }
 VYR_FLAT(void) CSharp_ColorSpaceSpecificationSpectrumTristimulus_reset(void* self) { guarded(+[](void* s) { return as<ColorSpaceSpecificationSpectrumTristimulus>(s).reset(); }, self); }
 VYR_FLAT(std::int32_t) CSharp_ColorSpaceSpecificationSpectrumTristimulus_is_occurs_ok(void* self) { return as<ColorSpaceSpecificationSpectrumTristimulus>(self).is_occurs_ok(); }
@@ -452,10 +452,10 @@ VYR_FLAT(void*) CSharp_new_ColorSpaceSpecificationSpectrumSpectral__SWIG_0() { r
 VYR_FLAT(void*) CSharp_new_ColorSpaceSpecificationSpectrumSpectral__SWIG_1(void* source) { return checked("com_vyrgraph_v2::ColorSpaceSpecificationSpectrumSpectral const & type is null", &copy<ColorSpaceSpecificationSpectrumSpectral>, source); }
 VYR_FLAT(void) CSharp_delete_ColorSpaceSpecificationSpectrumSpectral(void* self) { destroy<ColorSpaceSpecificationSpectrumSpectral>(self); }
 VYR_FLAT(void*) CSharp_ColorSpaceSpecificationSpectrumSpectralUpcast(void* self) { return upcast<ColorSpaceSpecificationSpectrumSpectral, ColorSpaceSpecificationSpectrumSpectralType>(self); }
+VYR_FLAT(void*) CSharp_ColorSpaceSpecificationSpectrumSpectral_ns_map() { return reference(*ColorSpaceSpecificationSpectrumSpectral::ns_map()); }
 VYR_FLAT(std::int32_t) CSharp_ColorSpaceSpecificationSpectrumSpectral_unmarshal__SWIG_0(void* self, const char* path) { return guarded(+[](void* s, const char* p) { return as<ColorSpaceSpecificationSpectrumSpectral>(s).unmarshal(p); }, self, path); }
 VYR_FLAT(std::int32_t) CSharp_ColorSpaceSpecificationSpectrumSpectral_unmarshal__SWIG_1(void* self, const char* data, std::uint32_t size) { return guarded(+[](void* s, const char* d, std::uint32_t n) { return as<ColorSpaceSpecificationSpectrumSpectral>(s).unmarshal(d, n); }, self, data, size); }
 VYR_FLAT(std::int32_t) CSharp_ColorSpaceSpecificationSpectrumSpectral_marshal__SWIG_0(void* self, const char* path) { return guarded(+[](void* s, const char* p) { return as<ColorSpaceSpecificationSpectrumSpectral>(s).marshal(p); }, self, path); }
-VYR_FLAT(void*) CSharp_ColorSpaceSpecificationSpectrumSpectral_ns_map() { return reference(*ColorSpaceSpecificationSpectrumSpectral::ns_map()); }
 VYR_FLAT(void) CSharp_ColorSpaceSpecificationSpectrumSpectral_swap(void* self, void* other) { checked("com_vyrgraph_v2::ColorSpaceSpecificationSpectrumSpectral & type is null", +[](void* o, void* s) { return as<ColorSpaceSpecificationSpectrumSpectral>(s).swap(as<ColorSpaceSpecificationSpectrumSpectral>(o)); }, other, self); }
 VYR_FLAT(void) CSharp_ColorSpaceSpecificationSpectrumSpectral_reset(void* self) { guarded(+[](void* s) { return as<ColorSpaceSpecificationSpectrumSpectral>(s).reset(); }, self); }
 VYR_FLAT(std::int32_t) CSharp_ColorSpaceSpecificationSpectrumSpectral_is_occurs_ok(void* self) { return as<ColorSpaceSpecificationSpectrumSpectral>(self).is_occurs_ok(); }
@@ -467,20 +467,20 @@ VYR_FLAT(void*) CSharp_new_ColorSpaceSpecificationEmissive__SWIG_0() { return ma
 VYR_FLAT(void*) CSharp_new_ColorSpaceSpecificationEmissive__SWIG_1(void* source) { return checked("com_vyrgraph_v2::ColorSpaceSpecificationEmissive const & type is null", &copy<ColorSpaceSpecificationEmissive>, source); }
 VYR_FLAT(void) CSharp_delete_ColorSpaceSpecificationEmissive(void* self) { destroy<ColorSpaceSpecificationEmissive>(self); }
 VYR_FLAT(void*) CSharp_ColorSpaceSpecificationEmissiveUpcast(void* self) { return upcast<ColorSpaceSpecificationEmissive, ColorSpaceSpecificationEmissiveType>(self); }
+VYR_FLAT(void*) CSharp_ColorSpaceSpecificationEmissive_ns_map() { return reference(*ColorSpaceSpecificationEmissive::ns_map()); }
 VYR_FLAT(std::int32_t) CSharp_ColorSpaceSpecificationEmissive_unmarshal__SWIG_0(void* self, const char* path) { return guarded(+[](void* s, const char* p) { return as<ColorSpaceSpecificationEmissive>(s).unmarshal(p); }, self, path); }
 VYR_FLAT(std::int32_t) CSharp_ColorSpaceSpecificationEmissive_unmarshal__SWIG_1(void* self, const char* data, std::uint32_t size) { return guarded(+[](void* s, const char* d, std::uint32_t n) { return as<ColorSpaceSpecificationEmissive>(s).unmarshal(d, n); }, self, data, size); }
 VYR_FLAT(std::int32_t) CSharp_ColorSpaceSpecificationEmissive_marshal__SWIG_0(void* self, const char* path) { return guarded(+[](void* s, const char* p) { return as<ColorSpaceSpecificationEmissive>(s).marshal(p); }, self, path); }
-VYR_FLAT(void*) CSharp_ColorSpaceSpecificationEmissive_ns_map() { return reference(*ColorSpaceSpecificationEmissive::ns_map()); }
 
 // ColorSpaceSpecificationEmissiveGeneric
 VYR_FLAT(void*) CSharp_new_ColorSpaceSpecificationEmissiveGeneric__SWIG_0() { return make<ColorSpaceSpecificationEmissiveGeneric>(); }
 VYR_FLAT(void*) CSharp_new_ColorSpaceSpecificationEmissiveGeneric__SWIG_1(void* source) { return checked("com_vyrgraph_v2::ColorSpaceSpecificationEmissiveGeneric const & type is null", &copy<ColorSpaceSpecificationEmissiveGeneric>, source); }
 VYR_FLAT(void) CSharp_delete_ColorSpaceSpecificationEmissiveGeneric(void* self) { destroy<ColorSpaceSpecificationEmissiveGeneric>(self); }
 VYR_FLAT(void*) CSharp_ColorSpaceSpecificationEmissiveGenericUpcast(void* self) { return upcast<ColorSpaceSpecificationEmissiveGeneric, ColorSpaceSpecificationEmissiveGenericType>(self); }
+VYR_FLAT(void*) CSharp_ColorSpaceSpecificationEmissiveGeneric_ns_map() { return reference(*ColorSpaceSpecificationEmissiveGeneric::ns_map()); }
 VYR_FLAT(std::int32_t) CSharp_ColorSpaceSpecificationEmissiveGeneric_unmarshal__SWIG_0(void* self, const char* path) { return guarded(+[](void* s, const char* p) { return as<ColorSpaceSpecificationEmissiveGeneric>(s).unmarshal(p); }, self, path); }
 VYR_FLAT(std::int32_t) CSharp_ColorSpaceSpecificationEmissiveGeneric_unmarshal__SWIG_1(void* self, const char* data, std::uint32_t size) { return guarded(+[](void* s, const char* d, std::uint32_t n) { return as<ColorSpaceSpecificationEmissiveGeneric>(s).unmarshal(d, n); }, self, data, size); }
 VYR_FLAT(std::int32_t) CSharp_ColorSpaceSpecificationEmissiveGeneric_marshal__SWIG_0(void* self, const char* path) { return guarded(+[](void* s, const char* p) { return as<ColorSpaceSpecificationEmissiveGeneric>(s).marshal(p); }, self, path); }
-VYR_FLAT(void*) CSharp_ColorSpaceSpecificationEmissiveGeneric_ns_map() { return reference(*ColorSpaceSpecificationEmissiveGeneric::ns_map()); }
 VYR_FLAT(void) CSharp_ColorSpaceSpecificationEmissiveGeneric_swap(void* self, void* other) { checked("com_vyrgraph_v2::ColorSpaceSpecificationEmissiveGeneric & type is null", +[](void* o, void* s) { return as<ColorSpaceSpecificationEmissiveGeneric>(s).swap(as<ColorSpaceSpecificationEmissiveGeneric>(o)); }, other, self); }
 VYR_FLAT(void) CSharp_ColorSpaceSpecificationEmissiveGeneric_reset(void* self) { guarded(+[](void* s) { return as<ColorSpaceSpecificationEmissiveGeneric>(s).reset(); }, self); }
 VYR_FLAT(std::int32_t) CSharp_ColorSpaceSpecificationEmissiveGeneric_is_occurs_ok(void* self) { return as<ColorSpaceSpecificationEmissiveGeneric>(self).is_occurs_ok(); }
@@ -492,10 +492,10 @@ VYR_FLAT(void*) CSharp_new_ColorSpaceSpecificationEmissiveTristimulus__SWIG_0() 
 VYR_FLAT(void*) CSharp_new_ColorSpaceSpecificationEmissiveTristimulus__SWIG_1(void* source) { return checked("com_vyrgraph_v2::ColorSpaceSpecificationEmissiveTristimulus const & type is null", &copy<ColorSpaceSpecificationEmissiveTristimulus>, source); }
 VYR_FLAT(void) CSharp_delete_ColorSpaceSpecificationEmissiveTristimulus(void* self) { destroy<ColorSpaceSpecificationEmissiveTristimulus>(self); }
 VYR_FLAT(void*) CSharp_ColorSpaceSpecificationEmissiveTristimulusUpcast(void* self) { return upcast<ColorSpaceSpecificationEmissiveTristimulus, ColorSpaceSpecificationEmissiveTristimulusType>(self); }
+VYR_FLAT(void*) CSharp_ColorSpaceSpecificationEmissiveTristimulus_ns_map() { return reference(*ColorSpaceSpecificationEmissiveTristimulus::ns_map()); }
 VYR_FLAT(std::int32_t) CSharp_ColorSpaceSpecificationEmissiveTristimulus_unmarshal__SWIG_0(void* self, const char* path) { return guarded(+[](void* s, const char* p) { return as<ColorSpaceSpecificationEmissiveTristimulus>(s).unmarshal(p); }, self, path); }
 VYR_FLAT(std::int32_t) CSharp_ColorSpaceSpecificationEmissiveTristimulus_unmarshal__SWIG_1(void* self, const char* data, std::uint32_t size) { return guarded(+[](void* s, const char* d, std::uint32_t n) { return as<ColorSpaceSpecificationEmissiveTristimulus>(s).unmarshal(d, n); }, self, data, size); }
 VYR_FLAT(std::int32_t) CSharp_ColorSpaceSpecificationEmissiveTristimulus_marshal__SWIG_0(void* self, const char* path) { return guarded(+[](void* s, const char* p) { return as<ColorSpaceSpecificationEmissiveTristimulus>(s).marshal(p); }, self, path); }
-VYR_FLAT(void*) CSharp_ColorSpaceSpecificationEmissiveTristimulus_ns_map() { return reference(*ColorSpaceSpecificationEmissiveTristimulus::ns_map()); }
 VYR_FLAT(void) CSharp_ColorSpaceSpecificationEmissiveTristimulus_swap(void* self, void* other) { checked("com_vyrgraph_v2::ColorSpaceSpecificationEmissiveTristimulus & type is null", +[](void* o, void* s) { return as<ColorSpaceSpecificationEmissiveTristimulus>(s).swap(as<ColorSpaceSpecificationEmissiveTristimulus>(o)); }, other, self); }
 VYR_FLAT(void) CSharp_ColorSpaceSpecificationEmissiveTristimulus_reset(void* self) { guarded(+[](void* s) { return as<ColorSpaceSpecificationEmissiveTristimulus>(s).reset(); }, self); }
 VYR_FLAT(std::int32_t) CSharp_ColorSpaceSpecificationEmissiveTristimulus_is_occurs_ok(void* self) { return as<ColorSpaceSpecificationEmissiveTristimulus>(self).is_occurs_ok(); }
@@ -507,10 +507,10 @@ VYR_FLAT(void*) CSharp_new_ColorSpaceSpecificationEmissiveSpectral__SWIG_0() { r
 VYR_FLAT(void*) CSharp_new_ColorSpaceSpecificationEmissiveSpectral__SWIG_1(void* source) { return checked("com_vyrgraph_v2::ColorSpaceSpecificationEmissiveSpectral const & type is null", &copy<ColorSpaceSpecificationEmissiveSpectral>, source); }
 VYR_FLAT(void) CSharp_delete_ColorSpaceSpecificationEmissiveSpectral(void* self) { destroy<ColorSpaceSpecificationEmissiveSpectral>(self); }
 VYR_FLAT(void*) CSharp_ColorSpaceSpecificationEmissiveSpectralUpcast(void* self) { return upcast<ColorSpaceSpecificationEmissiveSpectral, ColorSpaceSpecificationEmissiveSpectralType>(self); }
+VYR_FLAT(void*) CSharp_ColorSpaceSpecificationEmissiveSpectral_ns_map() { return reference(*ColorSpaceSpecificationEmissiveSpectral::ns_map()); }
 VYR_FLAT(std::int32_t) CSharp_ColorSpaceSpecificationEmissiveSpectral_unmarshal__SWIG_0(void* self, const char* path) { return guarded(+[](void* s, const char* p) { return as<ColorSpaceSpecificationEmissiveSpectral>(s).unmarshal(p); }, self, path); }
 VYR_FLAT(std::int32_t) CSharp_ColorSpaceSpecificationEmissiveSpectral_unmarshal__SWIG_1(void* self, const char* data, std::uint32_t size) { return guarded(+[](void* s, const char* d, std::uint32_t n) { return as<ColorSpaceSpecificationEmissiveSpectral>(s).unmarshal(d, n); }, self, data, size); }
 VYR_FLAT(std::int32_t) CSharp_ColorSpaceSpecificationEmissiveSpectral_marshal__SWIG_0(void* self, const char* path) { return guarded(+[](void* s, const char* p) { return as<ColorSpaceSpecificationEmissiveSpectral>(s).marshal(p); }, self, path); }
-VYR_FLAT(void*) CSharp_ColorSpaceSpecificationEmissiveSpectral_ns_map() { return reference(*ColorSpaceSpecificationEmissiveSpectral::ns_map()); }
 VYR_FLAT(void) CSharp_ColorSpaceSpecificationEmissiveSpectral_swap(void* self, void* other) { checked("com_vyrgraph_v2::ColorSpaceSpecificationEmissiveSpectral & type is null", +[](void* o, void* s) { return as<ColorSpaceSpecificationEmissiveSpectral>(s).swap(as<ColorSpaceSpecificationEmissiveSpectral>(o)); }, other, self); }
 VYR_FLAT(void) CSharp_ColorSpaceSpecificationEmissiveSpectral_reset(void* self) { guarded(+[](void* s) { return as<ColorSpaceSpecificationEmissiveSpectral>(s).reset(); }, self); }
 VYR_FLAT(std::int32_t) CSharp_ColorSpaceSpecificationEmissiveSpectral_is_occurs_ok(void* self) { return as<ColorSpaceSpecificationEmissiveSpectral>(self).is_occurs_ok(); }

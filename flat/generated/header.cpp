@@ -24,10 +24,10 @@ VYR_FLAT(void) CSharp_delete_SDKVersion(void* self) { destroy<SDKVersion>(self);
 VYR_FLAT(void) CSharp_SDKVersion_swap(void* self, void* other) { checked("com_vyrgraph_v2::SDKVersion & type is null", +[](void* o, void* s) { return as<SDKVersion>(s).swap(as<SDKVersion>(o)); }, other, self); }
 VYR_FLAT(void) CSharp_SDKVersion_reset(void* self) { guarded(+[](void* s) { return as<SDKVersion>(s).reset(); }, self); }
 VYR_FLAT(std::int32_t) CSharp_SDKVersion_is_occurs_ok(void* self) { return as<SDKVersion>(self).is_occurs_ok(); }
-VYR_FLAT(std::int32_t) CSharp_SDKVersion_isnil_SDKVersion(void* self) { return as<SDKVersion>(self).isnil_SDKVersion(); }
-VYR_FLAT(void) CSharp_SDKVersion_setnil_SDKVersion(void* self) { as<SDKVersion>(self).setnil_SDKVersion(); }
 VYR_FLAT(char16_t*) CSharp_SDKVersion_get_SDKVersion(void* self) { return new_string(as<SDKVersion>(self).get_SDKVersion()); }
 VYR_FLAT(std::int32_t) CSharp_SDKVersion_set_SDKVersion(void* self, const char16_t* value) { return with_text(self, value, [](void* s, wide_text v) { return as<SDKVersion>(s).set_SDKVersion(v); }); }
+VYR_FLAT(std::int32_t) CSharp_SDKVersion_isnil_SDKVersion(void* self) { return as<SDKVersion>(self).isnil_SDKVersion(); }
+VYR_FLAT(void) CSharp_SDKVersion_setnil_SDKVersion(void* self) { as<SDKVersion>(self).setnil_SDKVersion(); }
 
 // SDKType
 VYR_FLAT(void*) CSharp_new_SDKType__SWIG_0() { return make<SDKType>(); }
@@ -199,10 +199,10 @@ VYR_FLAT(void) CSharp_Preamble_unset_Version(void* self) { as<Preamble>(self).un
 VYR_FLAT(void*) CSharp_new_Vyr__SWIG_0() { return make<Vyr>(); }
 VYR_FLAT(void*) CSharp_new_Vyr__SWIG_1(void* source) { return checked("com_vyrgraph_v2::Vyr const & type is null", &copy<Vyr>, source); }
 VYR_FLAT(void) CSharp_delete_Vyr(void* self) { destroy<Vyr>(self); }
+VYR_FLAT(void*) CSharp_Vyr_ns_map() { return reference(*Vyr::ns_map()); }
 VYR_FLAT(std::int32_t) CSharp_Vyr_unmarshal__SWIG_0(void* self, const char* path) { return guarded(+[](void* s, const char* p) { return as<Vyr>(s).unmarshal(p); }, self, path); }
 VYR_FLAT(std::int32_t) CSharp_Vyr_unmarshal__SWIG_1(void* self, const char* data, std::uint32_t size) { return guarded(+[](void* s, const char* d, std::uint32_t n) { return as<Vyr>(s).unmarshal(d, n); }, self, data, size); }
 VYR_FLAT(std::int32_t) CSharp_Vyr_marshal__SWIG_0(void* self, const char* path) { return guarded(+[](void* s, const char* p) { return as<Vyr>(s).marshal(p); }, self, path); }
-VYR_FLAT(void*) CSharp_Vyr_ns_map() { return reference(*Vyr::ns_map()); }
 VYR_FLAT(void) CSharp_Vyr_swap(void* self, void* other) { checked("com_vyrgraph_v2::Vyr & type is null", +[](void* o, void* s) { return as<Vyr>(s).swap(as<Vyr>(o)); }, other, self); }
 VYR_FLAT(void) CSharp_Vyr_reset(void* self) { guarded(+[](void* s) { return as<Vyr>(s).reset(); }, self); }
 VYR_FLAT(std::int32_t) CSharp_Vyr_is_occurs_ok(void* self) { return as<Vyr>(self).is_occurs_ok(); }

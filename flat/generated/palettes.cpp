@@ -251,10 +251,10 @@ VYR_FLAT(void*) CSharp_new_CollectionColorSpaceSpecification__SWIG_0() { return 
 VYR_FLAT(void*) CSharp_new_CollectionColorSpaceSpecification__SWIG_1(void* source) { return checked("com_vyrgraph_v2::CollectionColorSpaceSpecification const & type is null", &copy<CollectionColorSpaceSpecification>, source); }
 VYR_FLAT(void) CSharp_delete_CollectionColorSpaceSpecification(void* self) { destroy<CollectionColorSpaceSpecification>(self); }
 VYR_FLAT(void*) CSharp_CollectionColorSpaceSpecificationUpcast(void* self) { return upcast<CollectionColorSpaceSpecification, CollectionColorSpaceSpecificationType>(self); }
+VYR_FLAT(void*) CSharp_CollectionColorSpaceSpecification_ns_map() { return reference(*CollectionColorSpaceSpecification::ns_map()); }
 VYR_FLAT(std::int32_t) CSharp_CollectionColorSpaceSpecification_unmarshal__SWIG_0(void* self, const char* path) { return guarded(+[](void* s, const char* p) { return as<CollectionColorSpaceSpecification>(s).unmarshal(p); }, self, path); }
 VYR_FLAT(std::int32_t) CSharp_CollectionColorSpaceSpecification_unmarshal__SWIG_1(void* self, const char* data, std::uint32_t size) { return guarded(+[](void* s, const char* d, std::uint32_t n) { return as<CollectionColorSpaceSpecification>(s).unmarshal(d, n); }, self, data, size); }
 VYR_FLAT(std::int32_t) CSharp_CollectionColorSpaceSpecification_marshal__SWIG_0(void* self, const char* path) { return guarded(+[](void* s, const char* p) { return as<CollectionColorSpaceSpecification>(s).marshal(p); }, self, path); }
-VYR_FLAT(void*) CSharp_CollectionColorSpaceSpecification_ns_map() { return reference(*CollectionColorSpaceSpecification::ns_map()); }
 
 }  // extern "C"
 

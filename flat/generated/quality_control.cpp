@@ -211,10 +211,10 @@ VYR_FLAT(void) CSharp_ColorQualityControlType_clear_Tolerance(void* self) { as<C
 VYR_FLAT(void*) CSharp_new_Measurement__SWIG_0() { return make<Measurement>(); }
 VYR_FLAT(void*) CSharp_new_Measurement__SWIG_1(void* source) { return checked("com_vyrgraph_v2::Measurement const & type is null", &copy<Measurement>, source); }
 VYR_FLAT(void) CSharp_delete_Measurement(void* self) { destroy<Measurement>(self); }
+VYR_FLAT(void*) CSharp_Measurement_ns_map() { return reference(*Measurement::ns_map()); }
 VYR_FLAT(std::int32_t) CSharp_Measurement_unmarshal__SWIG_0(void* self, const char* path) { return guarded(+[](void* s, const char* p) { return as<Measurement>(s).unmarshal(p); }, self, path); }
 VYR_FLAT(std::int32_t) CSharp_Measurement_unmarshal__SWIG_1(void* self, const char* data, std::uint32_t size) { return guarded(+[](void* s, const char* d, std::uint32_t n) { return as<Measurement>(s).unmarshal(d, n); }, self, data, size); }
 VYR_FLAT(std::int32_t) CSharp_Measurement_marshal__SWIG_0(void* self, const char* path) { return guarded(+[](void* s, const char* p) { return as<Measurement>(s).marshal(p); }, self, path); }
-VYR_FLAT(void*) CSharp_Measurement_ns_map() { return reference(*Measurement::ns_map()); }
 VYR_FLAT(void) CSharp_Measurement_swap(void* self, void* other) { checked("com_vyrgraph_v2::Measurement & type is null", +[](void* o, void* s) { return as<Measurement>(s).swap(as<Measurement>(o)); }, other, self); }
 VYR_FLAT(void) CSharp_Measurement_reset(void* self) { guarded(+[](void* s) { return as<Measurement>(s).reset(); }, self); }
 VYR_FLAT(std::int32_t) CSharp_Measurement_is_occurs_ok(void* self) { return as<Measurement>(self).is_occurs_ok(); }
@@ -243,15 +243,13 @@ VYR_FLAT(void) CSharp_Measurement_clear_Function(void* self) { as<Measurement>(s
 VYR_FLAT(void*) CSharp_new_Standard__SWIG_0() { return make<Standard>(); }
 VYR_FLAT(void*) CSharp_new_Standard__SWIG_1(void* source) { return checked("com_vyrgraph_v2::Standard const & type is null", &copy<Standard>, source); }
 VYR_FLAT(void) CSharp_delete_Standard(void* self) { destroy<Standard>(self); }
+VYR_FLAT(void*) CSharp_Standard_ns_map() { return reference(*Standard::ns_map()); }
 VYR_FLAT(std::int32_t) CSharp_Standard_unmarshal__SWIG_0(void* self, const char* path) { return guarded(+[](void* s, const char* p) { return as<Standard>(s).unmarshal(p); }, self, path); }
 VYR_FLAT(std::int32_t) CSharp_Standard_unmarshal__SWIG_1(void* self, const char* data, std::uint32_t size) { return guarded(+[](void* s, const char* d, std::uint32_t n) { return as<Standard>(s).unmarshal(d, n); }, self, data, size); }
 VYR_FLAT(std::int32_t) CSharp_Standard_marshal__SWIG_0(void* self, const char* path) { return guarded(+[](void* s, const char* p) { return as<Standard>(s).marshal(p); }, self, path); }
-VYR_FLAT(void*) CSharp_Standard_ns_map() { return reference(*Standard::ns_map()); }
 VYR_FLAT(void) CSharp_Standard_swap(void* self, void* other) { checked("com_vyrgraph_v2::Standard & type is null", +[](void* o, void* s) { return as<Standard>(s).swap(as<Standard>(o)); }, other, self); }
 VYR_FLAT(void) CSharp_Standard_reset(void* self) { guarded(+[](void* s) { return as<Standard>(s).reset(); }, self); }
 VYR_FLAT(std::int32_t) CSharp_Standard_is_occurs_ok(void* self) { return as<Standard>(self).is_occurs_ok(); }
-VYR_FLAT(std::int32_t) CSharp_Standard_isnil_Standard(void* self) { return as<Standard>(self).isnil_Standard(); }
-VYR_FLAT(void) CSharp_Standard_setnil_Standard(void* self) { as<Standard>(self).setnil_Standard(); }
 VYR_FLAT(std::uint32_t) CSharp_Standard_size_CustomAttribute(void* self) { return static_cast<std::uint32_t>(as<Standard>(self).size_CustomAttribute()); }
 VYR_FLAT(void*) CSharp_Standard_get_CustomAttribute__SWIG_0(void* self, std::uint32_t index) { return guarded(+[](void* s, std::uint32_t i) -> void* { return &as<Standard>(s).get_CustomAttribute(i); }, self, index); }
 VYR_FLAT(void*) CSharp_Standard_assign_CustomAttribute(void* self, std::uint32_t index, void* value) { return checked("com_vyrgraph_v2::CustomAttributeType const & type is null", +[](void* v, void* s, std::uint32_t i) -> void* { return &as<Standard>(s).assign_CustomAttribute(i, as<CustomAttributeType>(v)); }, value, self, index); }
@@ -272,6 +270,8 @@ VYR_FLAT(std::int32_t) CSharp_Standard_insert_Tolerance(void* self, std::uint32_
 VYR_FLAT(void*) CSharp_Standard_back_Tolerance(void* self) { return &as<Standard>(self).back_Tolerance(); }
 VYR_FLAT(void) CSharp_Standard_delete_Tolerance(void* self, std::uint32_t index) { as<Standard>(self).delete_Tolerance(index); }
 VYR_FLAT(void) CSharp_Standard_clear_Tolerance(void* self) { as<Standard>(self).clear_Tolerance(); }
+VYR_FLAT(std::int32_t) CSharp_Standard_isnil_Standard(void* self) { return as<Standard>(self).isnil_Standard(); }
+VYR_FLAT(void) CSharp_Standard_setnil_Standard(void* self) { as<Standard>(self).setnil_Standard(); }
 
 // StandardAndMeasurementType
 VYR_FLAT(void*) CSharp_new_StandardAndMeasurementType__SWIG_0() { return make<StandardAndMeasurementType>(); }

@@ -54,14 +54,14 @@ VYR_FLAT(void*) CSharp_new_ColorSpaceTINTORAType__SWIG_0() { return make<ColorSp
 VYR_FLAT(void*) CSharp_new_ColorSpaceTINTORAType__SWIG_1(void* source) { return checked("com_vyrgraph_v2::ColorSpaceTINTORAType const & type is null", &copy<ColorSpaceTINTORAType>, source); }
 VYR_FLAT(void) CSharp_delete_ColorSpaceTINTORAType(void* self) { destroy<ColorSpaceTINTORAType>(self); }
 VYR_FLAT(void*) CSharp_ColorSpaceTINTORATypeUpcast(void* self) { return upcast<ColorSpaceTINTORAType, ColorSpaceType>(self); }
-VYR_FLAT(void) CSharp_ColorSpaceTINTORAType_swap(void* self, void* other) { checked("com_vyrgraph_v2::ColorSpaceTINTORAType & type is null", +[](void* o, void* s) { return as<ColorSpaceTINTORAType>(s).swap(as<ColorSpaceTINTORAType>(o)); }, other, self); }
-VYR_FLAT(void) CSharp_ColorSpaceTINTORAType_reset(void* self) { guarded(+[](void* s) { return as<ColorSpaceTINTORAType>(s).reset(); }, self); }
-VYR_FLAT(std::int32_t) CSharp_ColorSpaceTINTORAType_is_occurs_ok(void* self) { return as<ColorSpaceTINTORAType>(self).is_occurs_ok(); }
+VYR_FLAT(const char*) CSharp_ColorSpaceTINTORAType_id_get() { return ColorSpaceTINTORAType::id; }
+VYR_FLAT(void) CSharp_ColorSpaceTINTORAType_id_set(const char* identity) { set_identity(&ColorSpaceTINTORAType::id, identity); }
 VYR_FLAT(void*) CSharp_ColorSpaceTINTORAType_clone(void* self) { return guarded(+[](void* s) -> void* { return as<ColorSpaceTINTORAType>(s).clone(); }, self); }
 VYR_FLAT(char*) CSharp_ColorSpaceTINTORAType_getid(void* self) { return new_string(as<ColorSpaceTINTORAType>(self).getid()); }
 VYR_FLAT(std::int32_t) CSharp_ColorSpaceTINTORAType_has_id(void* self, const char* identity) { return as<ColorSpaceTINTORAType>(self).has_id(identity); }
-VYR_FLAT(const char*) CSharp_ColorSpaceTINTORAType_id_get() { return ColorSpaceTINTORAType::id; }
-VYR_FLAT(void) CSharp_ColorSpaceTINTORAType_id_set(const char* identity) { set_identity(&ColorSpaceTINTORAType::id, identity); }
+VYR_FLAT(void) CSharp_ColorSpaceTINTORAType_swap(void* self, void* other) { checked("com_vyrgraph_v2::ColorSpaceTINTORAType & type is null", +[](void* o, void* s) { return as<ColorSpaceTINTORAType>(s).swap(as<ColorSpaceTINTORAType>(o)); }, other, self); }
+VYR_FLAT(void) CSharp_ColorSpaceTINTORAType_reset(void* self) { guarded(+[](void* s) { return as<ColorSpaceTINTORAType>(s).reset(); }, self); }
+VYR_FLAT(std::int32_t) CSharp_ColorSpaceTINTORAType_is_occurs_ok(void* self) { return as<ColorSpaceTINTORAType>(self).is_occurs_ok(); }
 VYR_FLAT(char16_t*) CSharp_ColorSpaceTINTORAType_get_Name(void* self) { return new_string(as<ColorSpaceTINTORAType>(self).get_Name()); }
 VYR_FLAT(std::int32_t) CSharp_ColorSpaceTINTORAType_set_Name(void* self, const char16_t* value) { return with_text(self, value, [](void* s, wide_text v) { return as<ColorSpaceTINTORAType>(s).set_Name(v); }); }
 VYR_FLAT(std::int32_t) CSharp_ColorSpaceTINTORAType_isset_Name(void* self) { return as<ColorSpaceTINTORAType>(self).isset_Name(); }
@@ -160,14 +160,14 @@ VYR_FLAT(void*) CSharp_new_ColorSpaceNCSType__SWIG_0() { return make<ColorSpaceN
 VYR_FLAT(void*) CSharp_new_ColorSpaceNCSType__SWIG_1(void* source) { return checked("com_vyrgraph_v2::ColorSpaceNCSType const & type is null", &copy<ColorSpaceNCSType>, source); }
 VYR_FLAT(void) CSharp_delete_ColorSpaceNCSType(void* self) { destroy<ColorSpaceNCSType>(self); }
 VYR_FLAT(void*) CSharp_ColorSpaceNCSTypeUpcast(void* self) { return upcast<ColorSpaceNCSType, ColorSpaceType>(self); }
-VYR_FLAT(void) CSharp_ColorSpaceNCSType_swap(void* self, void* other) { checked("com_vyrgraph_v2::ColorSpaceNCSType & type is null", +[](void* o, void* s) { return as<ColorSpaceNCSType>(s).swap(as<ColorSpaceNCSType>(o)); }, other, self); }
-VYR_FLAT(void) CSharp_ColorSpaceNCSType_reset(void* self) { guarded(+[](void* s) { return as<ColorSpaceNCSType>(s).reset(); }, self); }
-VYR_FLAT(std::int32_t) CSharp_ColorSpaceNCSType_is_occurs_ok(void* self) { return as<ColorSpaceNCSType>(self).is_occurs_ok(); }
+VYR_FLAT(const char*) CSharp_ColorSpaceNCSType_id_get() { return ColorSpaceNCSType::id; }
+VYR_FLAT(void) CSharp_ColorSpaceNCSType_id_set(const char* identity) { set_identity(&ColorSpaceNCSType::id, identity); }
 VYR_FLAT(void*) CSharp_ColorSpaceNCSType_clone(void* self) { return guarded(+[](void* s) -> void* { return as<ColorSpaceNCSType>(s).clone(); }, self); }
 VYR_FLAT(char*) CSharp_ColorSpaceNCSType_getid(void* self) { return new_string(as<ColorSpaceNCSType>(self).getid()); }
 VYR_FLAT(std::int32_t) CSharp_ColorSpaceNCSType_has_id(void* self, const char* identity) { return as<ColorSpaceNCSType>(self).has_id(identity); }
-VYR_FLAT(const char*) CSharp_ColorSpaceNCSType_id_get() { return ColorSpaceNCSType::id; }
-VYR_FLAT(void) CSharp_ColorSpaceNCSType_id_set(const char* identity) { set_identity(&ColorSpaceNCSType::id, identity); }
+VYR_FLAT(void) CSharp_ColorSpaceNCSType_swap(void* self, void* other) { checked("com_vyrgraph_v2::ColorSpaceNCSType & type is null", +[](void* o, void* s) { return as<ColorSpaceNCSType>(s).swap(as<ColorSpaceNCSType>(o)); }, other, self); }
+VYR_FLAT(void) CSharp_ColorSpaceNCSType_reset(void* self) { guarded(+[](void* s) { return as<ColorSpaceNCSType>(s).reset(); }, self); }
+VYR_FLAT(std::int32_t) CSharp_ColorSpaceNCSType_is_occurs_ok(void* self) { return as<ColorSpaceNCSType>(self).is_occurs_ok(); }
 VYR_FLAT(char16_t*) CSharp_ColorSpaceNCSType_get_Name(void* self) { return new_string(as<ColorSpaceNCSType>(self).get_Name()); }
 VYR_FLAT(std::int32_t) CSharp_ColorSpaceNCSType_set_Name(void* self, const char16_t* value) { return with_text(self, value, [](void* s, wide_text v) { return as<ColorSpaceNCSType>(s).set_Name(v); }); }
 VYR_FLAT(std::int32_t) CSharp_ColorSpaceNCSType_isset_Name(void* self) { return as<ColorSpaceNCSType>(self).isset_Name(); }
@@ -182,14 +182,14 @@ VYR_FLAT(void*) CSharp_new_ColorSpaceMunsellType__SWIG_0() { return make<ColorSp
 VYR_FLAT(void*) CSharp_new_ColorSpaceMunsellType__SWIG_1(void* source) { return checked("com_vyrgraph_v2::ColorSpaceMunsellType const & type is null", &copy<ColorSpaceMunsellType>, source); }
 VYR_FLAT(void) CSharp_delete_ColorSpaceMunsellType(void* self) { destroy<ColorSpaceMunsellType>(self); }
 VYR_FLAT(void*) CSharp_ColorSpaceMunsellTypeUpcast(void* self) { return upcast<ColorSpaceMunsellType, ColorSpaceType>(self); }
-VYR_FLAT(void) CSharp_ColorSpaceMunsellType_swap(void* self, void* other) { checked("com_vyrgraph_v2::ColorSpaceMunsellType & type is null", +[](void* o, void* s) { return as<ColorSpaceMunsellType>(s).swap(as<ColorSpaceMunsellType>(o)); }, other, self); }
-VYR_FLAT(void) CSharp_ColorSpaceMunsellType_reset(void* self) { guarded(+[](void* s) { return as<ColorSpaceMunsellType>(s).reset(); }, self); }
-VYR_FLAT(std::int32_t) CSharp_ColorSpaceMunsellType_is_occurs_ok(void* self) { return as<ColorSpaceMunsellType>(self).is_occurs_ok(); }
+VYR_FLAT(const char*) CSharp_ColorSpaceMunsellType_id_get() { return ColorSpaceMunsellType::id; }
+VYR_FLAT(void) CSharp_ColorSpaceMunsellType_id_set(const char* identity) { set_identity(&ColorSpaceMunsellType::id, identity); }
 VYR_FLAT(void*) CSharp_ColorSpaceMunsellType_clone(void* self) { return guarded(+[](void* s) -> void* { return as<ColorSpaceMunsellType>(s).clone(); }, self); }
 VYR_FLAT(char*) CSharp_ColorSpaceMunsellType_getid(void* self) { return new_string(as<ColorSpaceMunsellType>(self).getid()); }
 VYR_FLAT(std::int32_t) CSharp_ColorSpaceMunsellType_has_id(void* self, const char* identity) { return as<ColorSpaceMunsellType>(self).has_id(identity); }
-VYR_FLAT(const char*) CSharp_ColorSpaceMunsellType_id_get() { return ColorSpaceMunsellType::id; }
-VYR_FLAT(void) CSharp_ColorSpaceMunsellType_id_set(const char* identity) { set_identity(&ColorSpaceMunsellType::id, identity); }
+VYR_FLAT(void) CSharp_ColorSpaceMunsellType_swap(void* self, void* other) { checked("com_vyrgraph_v2::ColorSpaceMunsellType & type is null", +[](void* o, void* s) { return as<ColorSpaceMunsellType>(s).swap(as<ColorSpaceMunsellType>(o)); }, other, self); }
+VYR_FLAT(void) CSharp_ColorSpaceMunsellType_reset(void* self) { guarded(+[](void* s) { return as<ColorSpaceMunsellType>(s).reset(); }, self); }
+VYR_FLAT(std::int32_t) CSharp_ColorSpaceMunsellType_is_occurs_ok(void* self) { return as<ColorSpaceMunsellType>(self).is_occurs_ok(); }
 VYR_FLAT(char16_t*) CSharp_ColorSpaceMunsellType_get_Name(void* self) { return new_string(as<ColorSpaceMunsellType>(self).get_Name()); }
 VYR_FLAT(std::int32_t) CSharp_ColorSpaceMunsellType_set_Name(void* self, const char16_t* value) { return with_text(self, value, [](void* s, wide_text v) { return as<ColorSpaceMunsellType>(s).set_Name(v); }); }
 VYR_FLAT(std::int32_t) CSharp_ColorSpaceMunsellType_isset_Name(void* self) { return as<ColorSpaceMunsellType>(self).isset_Name(); }
@@ -244,14 +244,14 @@ VYR_FLAT(void*) CSharp_new_ColorSpaceRecipeType__SWIG_0() { return make<ColorSpa
 VYR_FLAT(void*) CSharp_new_ColorSpaceRecipeType__SWIG_1(void* source) { return checked("com_vyrgraph_v2::ColorSpaceRecipeType const & type is null", &copy<ColorSpaceRecipeType>, source); }
 VYR_FLAT(void) CSharp_delete_ColorSpaceRecipeType(void* self) { destroy<ColorSpaceRecipeType>(self); }
 VYR_FLAT(void*) CSharp_ColorSpaceRecipeTypeUpcast(void* self) { return upcast<ColorSpaceRecipeType, ColorSpaceType>(self); }
-VYR_FLAT(void) CSharp_ColorSpaceRecipeType_swap(void* self, void* other) { checked("com_vyrgraph_v2::ColorSpaceRecipeType & type is null", +[](void* o, void* s) { return as<ColorSpaceRecipeType>(s).swap(as<ColorSpaceRecipeType>(o)); }, other, self); }
-VYR_FLAT(void) CSharp_ColorSpaceRecipeType_reset(void* self) { guarded(+[](void* s) { return as<ColorSpaceRecipeType>(s).reset(); }, self); }
-VYR_FLAT(std::int32_t) CSharp_ColorSpaceRecipeType_is_occurs_ok(void* self) { return as<ColorSpaceRecipeType>(self).is_occurs_ok(); }
+VYR_FLAT(const char*) CSharp_ColorSpaceRecipeType_id_get() { return ColorSpaceRecipeType::id; }
+VYR_FLAT(void) CSharp_ColorSpaceRecipeType_id_set(const char* identity) { set_identity(&ColorSpaceRecipeType::id, identity); }
 VYR_FLAT(void*) CSharp_ColorSpaceRecipeType_clone(void* self) { return guarded(+[](void* s) -> void* { return as<ColorSpaceRecipeType>(s).clone(); }, self); }
 VYR_FLAT(char*) CSharp_ColorSpaceRecipeType_getid(void* self) { return new_string(as<ColorSpaceRecipeType>(self).getid()); }
 VYR_FLAT(std::int32_t) CSharp_ColorSpaceRecipeType_has_id(void* self, const char* identity) { return as<ColorSpaceRecipeType>(self).has_id(identity); }
-VYR_FLAT(const char*) CSharp_ColorSpaceRecipeType_id_get() { return ColorSpaceRecipeType::id; }
-VYR_FLAT(void) CSharp_ColorSpaceRecipeType_id_set(const char* identity) { set_identity(&ColorSpaceRecipeType::id, identity); }
+VYR_FLAT(void) CSharp_ColorSpaceRecipeType_swap(void* self, void* other) { checked("com_vyrgraph_v2::ColorSpaceRecipeType & type is null", +[](void* o, void* s) { return as<ColorSpaceRecipeType>(s).swap(as<ColorSpaceRecipeType>(o)); }, other, self); }
+VYR_FLAT(void) CSharp_ColorSpaceRecipeType_reset(void* self) { guarded(+[](void* s) { return as<ColorSpaceRecipeType>(s).reset(); }, self); }
+VYR_FLAT(std::int32_t) CSharp_ColorSpaceRecipeType_is_occurs_ok(void* self) { return as<ColorSpaceRecipeType>(self).is_occurs_ok(); }
 VYR_FLAT(char16_t*) CSharp_ColorSpaceRecipeType_get_Name(void* self) { return new_string(as<ColorSpaceRecipeType>(self).get_Name()); }
 VYR_FLAT(std::int32_t) CSharp_ColorSpaceRecipeType_set_Name(void* self, const char16_t* value) { return with_text(self, value, [](void* s, wide_text v) { return as<ColorSpaceRecipeType>(s).set_Name(v); }); }
 VYR_FLAT(std::int32_t) CSharp_ColorSpaceRecipeType_isset_Name(void* self) { return as<ColorSpaceRecipeType>(self).isset_Name(); }
@@ -276,40 +276,40 @@ VYR_FLAT(void*) CSharp_new_ColorSpaceRecipe__SWIG_0() { return make<ColorSpaceRe
 VYR_FLAT(void*) CSharp_new_ColorSpaceRecipe__SWIG_1(void* source) { return checked("com_vyrgraph_v2::ColorSpaceRecipe const & type is null", &copy<ColorSpaceRecipe>, source); }
 VYR_FLAT(void) CSharp_delete_ColorSpaceRecipe(void* self) { destroy<ColorSpaceRecipe>(self); }
 VYR_FLAT(void*) CSharp_ColorSpaceRecipeUpcast(void* self) { return upcast<ColorSpaceRecipe, ColorSpaceRecipeType>(self); }
+VYR_FLAT(void*) CSharp_ColorSpaceRecipe_ns_map() { return reference(*ColorSpaceRecipe::ns_map()); }
 VYR_FLAT(std::int32_t) CSharp_ColorSpaceRecipe_unmarshal__SWIG_0(void* self, const char* path) { return guarded(+[](void* s, const char* p) { return as<ColorSpaceRecipe>(s).unmarshal(p); }, self, path); }
 VYR_FLAT(std::int32_t) CSharp_ColorSpaceRecipe_unmarshal__SWIG_1(void* self, const char* data, std::uint32_t size) { return guarded(+[](void* s, const char* d, std::uint32_t n) { return as<ColorSpaceRecipe>(s).unmarshal(d, n); }, self, data, size); }
 VYR_FLAT(std::int32_t) CSharp_ColorSpaceRecipe_marshal__SWIG_0(void* self, const char* path) { return guarded(+[](void* s, const char* p) { return as<ColorSpaceRecipe>(s).marshal(p); }, self, path); }
-VYR_FLAT(void*) CSharp_ColorSpaceRecipe_ns_map() { return reference(*ColorSpaceRecipe::ns_map()); }
 
 // ColorSpaceTINTORA
 VYR_FLAT(void*) CSharp_new_ColorSpaceTINTORA__SWIG_0() { return make<ColorSpaceTINTORA>(); }
 VYR_FLAT(void*) CSharp_new_ColorSpaceTINTORA__SWIG_1(void* source) { return checked("com_vyrgraph_v2::ColorSpaceTINTORA const & type is null", &copy<ColorSpaceTINTORA>, source); }
 VYR_FLAT(void) CSharp_delete_ColorSpaceTINTORA(void* self) { destroy<ColorSpaceTINTORA>(self); }
 VYR_FLAT(void*) CSharp_ColorSpaceTINTORAUpcast(void* self) { return upcast<ColorSpaceTINTORA, ColorSpaceTINTORAType>(self); }
+VYR_FLAT(void*) CSharp_ColorSpaceTINTORA_ns_map() { return reference(*ColorSpaceTINTORA::ns_map()); }
 VYR_FLAT(std::int32_t) CSharp_ColorSpaceTINTORA_unmarshal__SWIG_0(void* self, const char* path) { return guarded(+[](void* s, const char* p) { return as<ColorSpaceTINTORA>(s).unmarshal(p); }, self, path); }
 VYR_FLAT(std::int32_t) CSharp_ColorSpaceTINTORA_unmarshal__SWIG_1(void* self, const char* data, std::uint32_t size) { return guarded(+[](void* s, const char* d, std::uint32_t n) { return as<ColorSpaceTINTORA>(s).unmarshal(d, n); }, self, data, size); }
 VYR_FLAT(std::int32_t) CSharp_ColorSpaceTINTORA_marshal__SWIG_0(void* self, const char* path) { return guarded(+[](void* s, const char* p) { return as<ColorSpaceTINTORA>(s).marshal(p); }, self, path); }
-VYR_FLAT(void*) CSharp_ColorSpaceTINTORA_ns_map() { return reference(*ColorSpaceTINTORA::ns_map()); }
 
 // ColorSpaceNCS
 VYR_FLAT(void*) CSharp_new_ColorSpaceNCS__SWIG_0() { return make<ColorSpaceNCS>(); }
 VYR_FLAT(void*) CSharp_new_ColorSpaceNCS__SWIG_1(void* source) { return checked("com_vyrgraph_v2::ColorSpaceNCS const & type is null", &copy<ColorSpaceNCS>, source); }
 VYR_FLAT(void) CSharp_delete_ColorSpaceNCS(void* self) { destroy<ColorSpaceNCS>(self); }
 VYR_FLAT(void*) CSharp_ColorSpaceNCSUpcast(void* self) { return upcast<ColorSpaceNCS, ColorSpaceNCSType>(self); }
+VYR_FLAT(void*) CSharp_ColorSpaceNCS_ns_map() { return reference(*ColorSpaceNCS::ns_map()); }
 VYR_FLAT(std::int32_t) CSharp_ColorSpaceNCS_unmarshal__SWIG_0(void* self, const char* path) { return guarded(+[](void* s, const char* p) { return as<ColorSpaceNCS>(s).unmarshal(p); }, self, path); }
 VYR_FLAT(std::int32_t) CSharp_ColorSpaceNCS_unmarshal__SWIG_1(void* self, const char* data, std::uint32_t size) { return guarded(+[](void* s, const char* d, std::uint32_t n) { return as<ColorSpaceNCS>(s).unmarshal(d, n); }, self, data, size); }
 VYR_FLAT(std::int32_t) CSharp_ColorSpaceNCS_marshal__SWIG_0(void* self, const char* path) { return guarded(+[](void* s, const char* p) { return as<ColorSpaceNCS>(s).marshal(p); }, self, path); }
-VYR_FLAT(void*) CSharp_ColorSpaceNCS_ns_map() { return reference(*ColorSpaceNCS::ns_map()); }
 
 // ColorSpaceMunsell
 VYR_FLAT(void*) CSharp_new_ColorSpaceMunsell__SWIG_0() { return make<ColorSpaceMunsell>(); }
 VYR_FLAT(void*) CSharp_new_ColorSpaceMunsell__SWIG_1(void* source) { return checked("com_vyrgraph_v2::ColorSpaceMunsell const & type is null", &copy<ColorSpaceMunsell>, source); }
 VYR_FLAT(void) CSharp_delete_ColorSpaceMunsell(void* self) { destroy<ColorSpaceMunsell>(self); }
 VYR_FLAT(void*) CSharp_ColorSpaceMunsellUpcast(void* self) { return upcast<ColorSpaceMunsell, ColorSpaceMunsellType>(self); }
+VYR_FLAT(void*) CSharp_ColorSpaceMunsell_ns_map() { return reference(*ColorSpaceMunsell::ns_map()); }
 VYR_FLAT(std::int32_t) CSharp_ColorSpaceMunsell_unmarshal__SWIG_0(void* self, const char* path) { return guarded(+[](void* s, const char* p) { return as<ColorSpaceMunsell>(s).unmarshal(p); }, self, path); }
 VYR_FLAT(std::int32_t) CSharp_ColorSpaceMunsell_unmarshal__SWIG_1(void* self, const char* data, std::uint32_t size) { return guarded(+[](void* s, const char* d, std::uint32_t n) { return as<ColorSpaceMunsell>(s).unmarshal(d, n); }, self, data, size); }
 VYR_FLAT(std::int32_t) CSharp_ColorSpaceMunsell_marshal__SWIG_0(void* self, const char* path) { return guarded(+[](void* s, const char* p) { return as<ColorSpaceMunsell>(s).marshal(p); }, self, path); }
-VYR_FLAT(void*) CSharp_ColorSpaceMunsell_ns_map() { return reference(*ColorSpaceMunsell::ns_map()); }
 
 // Density
 VYR_FLAT(void*) CSharp_new_Density__SWIG_0() { return make<Density>(); }
@@ -318,10 +318,10 @@ VYR_FLAT(void) CSharp_delete_Density(void* self) { destroy<Density>(self); }
 VYR_FLAT(void) CSharp_Density_swap(void* self, void* other) { checked("com_vyrgraph_v2::Density & type is null", +[](void* o, void* s) { return as<Density>(s).swap(as<Density>(o)); }, other, self); }
 VYR_FLAT(void) CSharp_Density_reset(void* self) { guarded(+[](void* s) { return as<Density>(s).reset(); }, self); }
 VYR_FLAT(std::int32_t) CSharp_Density_is_occurs_ok(void* self) { return as<Density>(self).is_occurs_ok(); }
-VYR_FLAT(std::int32_t) CSharp_Density_isnil_Density(void* self) { return as<Density>(self).isnil_Density(); }
-VYR_FLAT(void) CSharp_Density_setnil_Density(void* self) { as<Density>(self).setnil_Density(); }
 VYR_FLAT(double) CSharp_Density_get_Density(void* self) { return as<Density>(self).get_Density(); }
 VYR_FLAT(std::int32_t) CSharp_Density_set_Density(void* self, double value) { return as<Density>(self).set_Density(value); }
+VYR_FLAT(std::int32_t) CSharp_Density_isnil_Density(void* self) { return as<Density>(self).isnil_Density(); }
+VYR_FLAT(void) CSharp_Density_setnil_Density(void* self) { as<Density>(self).setnil_Density(); }
 
 // ColorantElementType_Colorant
 VYR_FLAT(void*) CSharp_new_ColorantElementType_Colorant__SWIG_0() { return make<ColorantElementType_Colorant>(); }

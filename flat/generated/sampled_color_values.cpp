@@ -22,14 +22,14 @@ VYR_FLAT(void*) CSharp_new_ColorSpaceDensityType__SWIG_0() { return make<ColorSp
 VYR_FLAT(void*) CSharp_new_ColorSpaceDensityType__SWIG_1(void* source) { return checked("com_vyrgraph_v2::ColorSpaceDensityType const & type is null", &copy<ColorSpaceDensityType>, source); }
 VYR_FLAT(void) CSharp_delete_ColorSpaceDensityType(void* self) { destroy<ColorSpaceDensityType>(self); }
 VYR_FLAT(void*) CSharp_ColorSpaceDensityTypeUpcast(void* self) { return upcast<ColorSpaceDensityType, ColorSpaceType>(self); }
-VYR_FLAT(void) CSharp_ColorSpaceDensityType_swap(void* self, void* other) { checked("com_vyrgraph_v2::ColorSpaceDensityType & type is null", +[](void* o, void* s) { return as<ColorSpaceDensityType>(s).swap(as<ColorSpaceDensityType>(o)); }, other, self); }
-VYR_FLAT(void) CSharp_ColorSpaceDensityType_reset(void* self) { guarded(+[](void* s) { return as<ColorSpaceDensityType>(s).reset(); }, self); }
-VYR_FLAT(std::int32_t) CSharp_ColorSpaceDensityType_is_occurs_ok(void* self) { return as<ColorSpaceDensityType>(self).is_occurs_ok(); }
+VYR_FLAT(const char*) CSharp_ColorSpaceDensityType_id_get() { return ColorSpaceDensityType::id; }
+VYR_FLAT(void) CSharp_ColorSpaceDensityType_id_set(const char* identity) { set_identity(&ColorSpaceDensityType::id, identity); }
 VYR_FLAT(void*) CSharp_ColorSpaceDensityType_clone(void* self) { return guarded(+[](void* s) -> void* { return as<ColorSpaceDensityType>(s).clone(); }, self); }
 VYR_FLAT(char*) CSharp_ColorSpaceDensityType_getid(void* self) { return new_string(as<ColorSpaceDensityType>(self).getid()); }
 VYR_FLAT(std::int32_t) CSharp_ColorSpaceDensityType_has_id(void* self, const char* identity) { return as<ColorSpaceDensityType>(self).has_id(identity); }
-VYR_FLAT(const char*) CSharp_ColorSpaceDensityType_id_get() { return ColorSpaceDensityType::id; }
-VYR_FLAT(void) CSharp_ColorSpaceDensityType_id_set(const char* identity) { set_identity(&ColorSpaceDensityType::id, identity); }
+VYR_FLAT(void) CSharp_ColorSpaceDensityType_swap(void* self, void* other) { checked("com_vyrgraph_v2::ColorSpaceDensityType & type is null", +[](void* o, void* s) { return as<ColorSpaceDensityType>(s).swap(as<ColorSpaceDensityType>(o)); }, other, self); }
+VYR_FLAT(void) CSharp_ColorSpaceDensityType_reset(void* self) { guarded(+[](void* s) { return as<ColorSpaceDensityType>(s).reset(); }, self); }
+VYR_FLAT(std::int32_t) CSharp_ColorSpaceDensityType_is_occurs_ok(void* self) { return as<ColorSpaceDensityType>(self).is_occurs_ok(); }
 VYR_FLAT(char16_t*) CSharp_ColorSpaceDensityType_get_Name(void* self) { return new_string(as<ColorSpaceDensityType>(self).get_Name()); }
 VYR_FLAT(std::int32_t) CSharp_ColorSpaceDensityType_set_Name(void* self, const char16_t* value) { return with_text(self, value, [](void* s, wide_text v) { return as<ColorSpaceDensityType>(s).set_Name(v); }); }
 VYR_FLAT(std::int32_t) CSharp_ColorSpaceDensityType_isset_Name(void* self) { return as<ColorSpaceDensityType>(self).isset_Name(); }
@@ -50,14 +50,14 @@ VYR_FLAT(void*) CSharp_new_ColorSpaceSpectralType__SWIG_0() { return make<ColorS
 VYR_FLAT(void*) CSharp_new_ColorSpaceSpectralType__SWIG_1(void* source) { return checked("com_vyrgraph_v2::ColorSpaceSpectralType const & type is null", &copy<ColorSpaceSpectralType>, source); }
 VYR_FLAT(void) CSharp_delete_ColorSpaceSpectralType(void* self) { destroy<ColorSpaceSpectralType>(self); }
 VYR_FLAT(void*) CSharp_ColorSpaceSpectralTypeUpcast(void* self) { return upcast<ColorSpaceSpectralType, ColorSpaceType>(self); }
-VYR_FLAT(void) CSharp_ColorSpaceSpectralType_swap(void* self, void* other) { checked("com_vyrgraph_v2::ColorSpaceSpectralType & type is null", +[](void* o, void* s) { return as<ColorSpaceSpectralType>(s).swap(as<ColorSpaceSpectralType>(o)); }, other, self); }
-VYR_FLAT(void) CSharp_ColorSpaceSpectralType_reset(void* self) { guarded(+[](void* s) { return as<ColorSpaceSpectralType>(s).reset(); }, self); }
-VYR_FLAT(std::int32_t) CSharp_ColorSpaceSpectralType_is_occurs_ok(void* self) { return as<ColorSpaceSpectralType>(self).is_occurs_ok(); }
+VYR_FLAT(const char*) CSharp_ColorSpaceSpectralType_id_get() { return ColorSpaceSpectralType::id; }
+VYR_FLAT(void) CSharp_ColorSpaceSpectralType_id_set(const char* identity) { set_identity(&ColorSpaceSpectralType::id, identity); }
 VYR_FLAT(void*) CSharp_ColorSpaceSpectralType_clone(void* self) { return guarded(+[](void* s) -> void* { return as<ColorSpaceSpectralType>(s).clone(); }, self); }
 VYR_FLAT(char*) CSharp_ColorSpaceSpectralType_getid(void* self) { return new_string(as<ColorSpaceSpectralType>(self).getid()); }
 VYR_FLAT(std::int32_t) CSharp_ColorSpaceSpectralType_has_id(void* self, const char* identity) { return as<ColorSpaceSpectralType>(self).has_id(identity); }
-VYR_FLAT(const char*) CSharp_ColorSpaceSpectralType_id_get() { return ColorSpaceSpectralType::id; }
-VYR_FLAT(void) CSharp_ColorSpaceSpectralType_id_set(const char* identity) { set_identity(&ColorSpaceSpectralType::id, identity); }
+VYR_FLAT(void) CSharp_ColorSpaceSpectralType_swap(void* self, void* other) { checked("com_vyrgraph_v2::ColorSpaceSpectralType & type is null", +[](void* o, void* s) { return as<ColorSpaceSpectralType>(s).swap(as<ColorSpaceSpectralType>(o)); }, other, self); }
+VYR_FLAT(void) CSharp_ColorSpaceSpectralType_reset(void* self) { guarded(+[](void* s) { return as<ColorSpaceSpectralType>(s).reset(); }, self); }
+VYR_FLAT(std::int32_t) CSharp_ColorSpaceSpectralType_is_occurs_ok(void* self) { return as<ColorSpaceSpectralType>(self).is_occurs_ok(); }
 VYR_FLAT(char16_t*) CSharp_ColorSpaceSpectralType_get_Name(void* self) { return new_string(as<ColorSpaceSpectralType>(self).get_Name()); }
 VYR_FLAT(std::int32_t) CSharp_ColorSpaceSpectralType_set_Name(void* self, const char16_t* value) { return with_text(self, value, [](void* s, wide_text v) { return as<ColorSpaceSpectralType>(s).set_Name(v); }); }
 VYR_FLAT(std::int32_t) CSharp_ColorSpaceSpectralType_isset_Name(void* self) { return as<ColorSpaceSpectralType>(self).isset_Name(); }
@@ -78,14 +78,14 @@ VYR_FLAT(void*) CSharp_new_ColorSpaceEmissiveSpectralType__SWIG_0() { return mak
 VYR_FLAT(void*) CSharp_new_ColorSpaceEmissiveSpectralType__SWIG_1(void* source) { return checked("com_vyrgraph_v2::ColorSpaceEmissiveSpectralType const & type is null", &copy<ColorSpaceEmissiveSpectralType>, source); }
 VYR_FLAT(void) CSharp_delete_ColorSpaceEmissiveSpectralType(void* self) { destroy<ColorSpaceEmissiveSpectralType>(self); }
 VYR_FLAT(void*) CSharp_ColorSpaceEmissiveSpectralTypeUpcast(void* self) { return upcast<ColorSpaceEmissiveSpectralType, ColorSpaceType>(self); }
-VYR_FLAT(void) CSharp_ColorSpaceEmissiveSpectralType_swap(void* self, void* other) { checked("com_vyrgraph_v2::ColorSpaceEmissiveSpectralType & type is null", +[](void* o, void* s) { return as<ColorSpaceEmissiveSpectralType>(s).swap(as<ColorSpaceEmissiveSpectralType>(o)); }, other, self); }
-VYR_FLAT(void) CSharp_ColorSpaceEmissiveSpectralType_reset(void* self) { guarded(+[](void* s) { return as<ColorSpaceEmissiveSpectralType>(s).reset(); }, self); }
-VYR_FLAT(std::int32_t) CSharp_ColorSpaceEmissiveSpectralType_is_occurs_ok(void* self) { return as<ColorSpaceEmissiveSpectralType>(self).is_occurs_ok(); }
+VYR_FLAT(const char*) CSharp_ColorSpaceEmissiveSpectralType_id_get() { return ColorSpaceEmissiveSpectralType::id; }
+VYR_FLAT(void) CSharp_ColorSpaceEmissiveSpectralType_id_set(const char* identity) { set_identity(&ColorSpaceEmissiveSpectralType::id, identity); }
 VYR_FLAT(void*) CSharp_ColorSpaceEmissiveSpectralType_clone(void* self) { return guarded(+[](void* s) -> void* { return as<ColorSpaceEmissiveSpectralType>(s).clone(); }, self); }
 VYR_FLAT(char*) CSharp_ColorSpaceEmissiveSpectralType_getid(void* self) { return new_string(as<ColorSpaceEmissiveSpectralType>(self).getid()); }
 VYR_FLAT(std::int32_t) CSharp_ColorSpaceEmissiveSpectralType_has_id(void* self, const char* identity) { return as<ColorSpaceEmissiveSpectralType>(self).has_id(identity); }
-VYR_FLAT(const char*) CSharp_ColorSpaceEmissiveSpectralType_id_get() { return ColorSpaceEmissiveSpectralType::id; }
-VYR_FLAT(void) CSharp_ColorSpaceEmissiveSpectralType_id_set(const char* identity) { set_identity(&ColorSpaceEmissiveSpectralType::id, identity); }
+VYR_FLAT(void) CSharp_ColorSpaceEmissiveSpectralType_swap(void* self, void* other) { checked("com_vyrgraph_v2::ColorSpaceEmissiveSpectralType & type is null", +[](void* o, void* s) { return as<ColorSpaceEmissiveSpectralType>(s).swap(as<ColorSpaceEmissiveSpectralType>(o)); }, other, self); }
+VYR_FLAT(void) CSharp_ColorSpaceEmissiveSpectralType_reset(void* self) { guarded(+[](void* s) { return as<ColorSpaceEmissiveSpectralType>(s).reset(); }, self); }
+VYR_FLAT(std::int32_t) CSharp_ColorSpaceEmissiveSpectralType_is_occurs_ok(void* self) { return as<ColorSpaceEmissiveSpectralType>(self).is_occurs_ok(); }
 VYR_FLAT(char16_t*) CSharp_ColorSpaceEmissiveSpectralType_get_Name(void* self) { return new_string(as<ColorSpaceEmissiveSpectralType>(self).get_Name()); }
 VYR_FLAT(std::int32_t) CSharp_ColorSpaceEmissiveSpectralType_set_Name(void* self, const char16_t* value) { return with_text(self, value, [](void* s, wide_text v) { return as<ColorSpaceEmissiveSpectralType>(s).set_Name(v); }); }
 VYR_FLAT(std::int32_t) CSharp_ColorSpaceEmissiveSpectralType_isset_Name(void* self) { return as<ColorSpaceEmissiveSpectralType>(self).isset_Name(); }
@@ -106,14 +106,14 @@ VYR_FLAT(void*) CSharp_new_ColorSpaceGenericType__SWIG_0() { return make<ColorSp
 VYR_FLAT(void*) CSharp_new_ColorSpaceGenericType__SWIG_1(void* source) { return checked("com_vyrgraph_v2::ColorSpaceGenericType const & type is null", &copy<ColorSpaceGenericType>, source); }
 VYR_FLAT(void) CSharp_delete_ColorSpaceGenericType(void* self) { destroy<ColorSpaceGenericType>(self); }
 VYR_FLAT(void*) CSharp_ColorSpaceGenericTypeUpcast(void* self) { return upcast<ColorSpaceGenericType, ColorSpaceType>(self); }
-VYR_FLAT(void) CSharp_ColorSpaceGenericType_swap(void* self, void* other) { checked("com_vyrgraph_v2::ColorSpaceGenericType & type is null", +[](void* o, void* s) { return as<ColorSpaceGenericType>(s).swap(as<ColorSpaceGenericType>(o)); }, other, self); }
-VYR_FLAT(void) CSharp_ColorSpaceGenericType_reset(void* self) { guarded(+[](void* s) { return as<ColorSpaceGenericType>(s).reset(); }, self); }
-VYR_FLAT(std::int32_t) CSharp_ColorSpaceGenericType_is_occurs_ok(void* self) { return as<ColorSpaceGenericType>(self).is_occurs_ok(); }
+VYR_FLAT(const char*) CSharp_ColorSpaceGenericType_id_get() { return ColorSpaceGenericType::id; }
+VYR_FLAT(void) CSharp_ColorSpaceGenericType_id_set(const char* identity) { set_identity(&ColorSpaceGenericType::id, identity); }
 VYR_FLAT(void*) CSharp_ColorSpaceGenericType_clone(void* self) { return guarded(+[](void* s) -> void* { return as<ColorSpaceGenericType>(s).clone(); }, self); }
 VYR_FLAT(char*) CSharp_ColorSpaceGenericType_getid(void* self) { return new_string(as<ColorSpaceGenericType>(self).getid()); }
 VYR_FLAT(std::int32_t) CSharp_ColorSpaceGenericType_has_id(void* self, const char* identity) { return as<ColorSpaceGenericType>(self).has_id(identity); }
-VYR_FLAT(const char*) CSharp_ColorSpaceGenericType_id_get() { return ColorSpaceGenericType::id; }
-VYR_FLAT(void) CSharp_ColorSpaceGenericType_id_set(const char* identity) { set_identity(&ColorSpaceGenericType::id, identity); }
+VYR_FLAT(void) CSharp_ColorSpaceGenericType_swap(void* self, void* other) { checked("com_vyrgraph_v2::ColorSpaceGenericType & type is null", +[](void* o, void* s) { return as<ColorSpaceGenericType>(s).swap(as<ColorSpaceGenericType>(o)); }, other, self); }
+VYR_FLAT(void) CSharp_ColorSpaceGenericType_reset(void* self) { guarded(+[](void* s) { return as<ColorSpaceGenericType>(s).reset(); }, self); }
+VYR_FLAT(std::int32_t) CSharp_ColorSpaceGenericType_is_occurs_ok(void* self) { return as<ColorSpaceGenericType>(self).is_occurs_ok(); }
 VYR_FLAT(char16_t*) CSharp_ColorSpaceGenericType_get_Name(void* self) { return new_string(as<ColorSpaceGenericType>(self).get_Name()); }
 VYR_FLAT(std::int32_t) CSharp_ColorSpaceGenericType_set_Name(void* self, const char16_t* value) { return with_text(self, value, [](void* s, wide_text v) { return as<ColorSpaceGenericType>(s).set_Name(v); }); }
 VYR_FLAT(void*) CSharp_ColorSpaceGenericType_get_ColorSpaceSpecificationSpectrumGeneric__SWIG_0(void* self) { return &as<ColorSpaceGenericType>(self).get_ColorSpaceSpecificationSpectrumGeneric(); }
@@ -132,14 +132,14 @@ VYR_FLAT(void*) CSharp_new_ColorSpaceEmissiveGenericType__SWIG_0() { return make
 VYR_FLAT(void*) CSharp_new_ColorSpaceEmissiveGenericType__SWIG_1(void* source) { return checked("com_vyrgraph_v2::ColorSpaceEmissiveGenericType const & type is null", &copy<ColorSpaceEmissiveGenericType>, source); }
 VYR_FLAT(void) CSharp_delete_ColorSpaceEmissiveGenericType(void* self) { destroy<ColorSpaceEmissiveGenericType>(self); }
 VYR_FLAT(void*) CSharp_ColorSpaceEmissiveGenericTypeUpcast(void* self) { return upcast<ColorSpaceEmissiveGenericType, ColorSpaceType>(self); }
-VYR_FLAT(void) CSharp_ColorSpaceEmissiveGenericType_swap(void* self, void* other) { checked("com_vyrgraph_v2::ColorSpaceEmissiveGenericType & type is null", +[](void* o, void* s) { return as<ColorSpaceEmissiveGenericType>(s).swap(as<ColorSpaceEmissiveGenericType>(o)); }, other, self); }
-VYR_FLAT(void) CSharp_ColorSpaceEmissiveGenericType_reset(void* self) { guarded(+[](void* s) { return as<ColorSpaceEmissiveGenericType>(s).reset(); }, self); }
-VYR_FLAT(std::int32_t) CSharp_ColorSpaceEmissiveGenericType_is_occurs_ok(void* self) { return as<ColorSpaceEmissiveGenericType>(self).is_occurs_ok(); }
+VYR_FLAT(const char*) CSharp_ColorSpaceEmissiveGenericType_id_get() { return ColorSpaceEmissiveGenericType::id; }
+VYR_FLAT(void) CSharp_ColorSpaceEmissiveGenericType_id_set(const char* identity) { set_identity(&ColorSpaceEmissiveGenericType::id, identity); }
 VYR_FLAT(void*) CSharp_ColorSpaceEmissiveGenericType_clone(void* self) { return guarded(+[](void* s) -> void* { return as<ColorSpaceEmissiveGenericType>(s).clone(); }, self); }
 VYR_FLAT(char*) CSharp_ColorSpaceEmissiveGenericType_getid(void* self) { return new_string(as<ColorSpaceEmissiveGenericType>(self).getid()); }
 VYR_FLAT(std::int32_t) CSharp_ColorSpaceEmissiveGenericType_has_id(void* self, const char* identity) { return as<ColorSpaceEmissiveGenericType>(self).has_id(identity); }
-VYR_FLAT(const char*) CSharp_ColorSpaceEmissiveGenericType_id_get() { return ColorSpaceEmissiveGenericType::id; }
-VYR_FLAT(void) CSharp_ColorSpaceEmissiveGenericType_id_set(const char* identity) { set_identity(&ColorSpaceEmissiveGenericType::id, identity); }
+VYR_FLAT(void) CSharp_ColorSpaceEmissiveGenericType_swap(void* self, void* other) { checked("com_vyrgraph_v2::ColorSpaceEmissiveGenericType & type is null", +[](void* o, void* s) { return as<ColorSpaceEmissiveGenericType>(s).swap(as<ColorSpaceEmissiveGenericType>(o)); }, other, self); }
+VYR_FLAT(void) CSharp_ColorSpaceEmissiveGenericType_reset(void* self) { guarded(+[](void* s) { return as<ColorSpaceEmissiveGenericType>(s).reset(); }, self); }
+VYR_FLAT(std::int32_t) CSharp_ColorSpaceEmissiveGenericType_is_occurs_ok(void* self) { return as<ColorSpaceEmissiveGenericType>(self).is_occurs_ok(); }
 VYR_FLAT(char16_t*) CSharp_ColorSpaceEmissiveGenericType_get_Name(void* self) { return new_string(as<ColorSpaceEmissiveGenericType>(self).get_Name()); }
 VYR_FLAT(std::int32_t) CSharp_ColorSpaceEmissiveGenericType_set_Name(void* self, const char16_t* value) { return with_text(self, value, [](void* s, wide_text v) { return as<ColorSpaceEmissiveGenericType>(s).set_Name(v); }); }
 VYR_FLAT(void*) CSharp_ColorSpaceEmissiveGenericType_get_ColorSpaceSpecificationEmissiveGeneric__SWIG_0(void* self) { return &as<ColorSpaceEmissiveGenericType>(self).get_ColorSpaceSpecificationEmissiveGeneric(); }
@@ -158,50 +158,50 @@ VYR_FLAT(void*) CSharp_new_ColorSpaceGeneric__SWIG_0() { return make<ColorSpaceG
 VYR_FLAT(void*) CSharp_new_ColorSpaceGeneric__SWIG_1(void* source) { return checked("com_vyrgraph_v2::ColorSpaceGeneric const & type is null", &copy<ColorSpaceGeneric>, source); }
 VYR_FLAT(void) CSharp_delete_ColorSpaceGeneric(void* self) { destroy<ColorSpaceGeneric>(self); }
 VYR_FLAT(void*) CSharp_ColorSpaceGenericUpcast(void* self) { return upcast<ColorSpaceGeneric, ColorSpaceGenericType>(self); }
+VYR_FLAT(void*) CSharp_ColorSpaceGeneric_ns_map() { return reference(*ColorSpaceGeneric::ns_map()); }
 VYR_FLAT(std::int32_t) CSharp_ColorSpaceGeneric_unmarshal__SWIG_0(void* self, const char* path) { return guarded(+[](void* s, const char* p) { return as<ColorSpaceGeneric>(s).unmarshal(p); }, self, path); }
 VYR_FLAT(std::int32_t) CSharp_ColorSpaceGeneric_unmarshal__SWIG_1(void* self, const char* data, std::uint32_t size) { return guarded(+[](void* s, const char* d, std::uint32_t n) { return as<ColorSpaceGeneric>(s).unmarshal(d, n); }, self, data, size); }
 VYR_FLAT(std::int32_t) CSharp_ColorSpaceGeneric_marshal__SWIG_0(void* self, const char* path) { return guarded(+[](void* s, const char* p) { return as<ColorSpaceGeneric>(s).marshal(p); }, self, path); }
-VYR_FLAT(void*) CSharp_ColorSpaceGeneric_ns_map() { return reference(*ColorSpaceGeneric::ns_map()); }
 
 // ColorSpaceEmissiveGeneric
 VYR_FLAT(void*) CSharp_new_ColorSpaceEmissiveGeneric__SWIG_0() { return make<ColorSpaceEmissiveGeneric>(); }
 VYR_FLAT(void*) CSharp_new_ColorSpaceEmissiveGeneric__SWIG_1(void* source) { return checked("com_vyrgraph_v2::ColorSpaceEmissiveGeneric const & type is null", &copy<ColorSpaceEmissiveGeneric>, source); }
 VYR_FLAT(void) CSharp_delete_ColorSpaceEmissiveGeneric(void* self) { destroy<ColorSpaceEmissiveGeneric>(self); }
 VYR_FLAT(void*) CSharp_ColorSpaceEmissiveGenericUpcast(void* self) { return upcast<ColorSpaceEmissiveGeneric, ColorSpaceEmissiveGenericType>(self); }
+VYR_FLAT(void*) CSharp_ColorSpaceEmissiveGeneric_ns_map() { return reference(*ColorSpaceEmissiveGeneric::ns_map()); }
 VYR_FLAT(std::int32_t) CSharp_ColorSpaceEmissiveGeneric_unmarshal__SWIG_0(void* self, const char* path) { return guarded(+[](void* s, const char* p) { return as<ColorSpaceEmissiveGeneric>(s).unmarshal(p); }, self, path); }
 VYR_FLAT(std::int32_t) CSharp_ColorSpaceEmissiveGeneric_unmarshal__SWIG_1(void* self, const char* data, std::uint32_t size) { return guarded(+[](void* s, const char* d, std::uint32_t n) { return as<ColorSpaceEmissiveGeneric>(s).unmarshal(d, n); }, self, data, size); }
 VYR_FLAT(std::int32_t) CSharp_ColorSpaceEmissiveGeneric_marshal__SWIG_0(void* self, const char* path) { return guarded(+[](void* s, const char* p) { return as<ColorSpaceEmissiveGeneric>(s).marshal(p); }, self, path); }
-VYR_FLAT(void*) CSharp_ColorSpaceEmissiveGeneric_ns_map() { return reference(*ColorSpaceEmissiveGeneric::ns_map()); }
 
 // ColorSpaceDensity
 VYR_FLAT(void*) CSharp_new_ColorSpaceDensity__SWIG_0() { return make<ColorSpaceDensity>(); }
 VYR_FLAT(void*) CSharp_new_ColorSpaceDensity__SWIG_1(void* source) { return checked("com_vyrgraph_v2::ColorSpaceDensity const & type is null", &copy<ColorSpaceDensity>, source); }
 VYR_FLAT(void) CSharp_delete_ColorSpaceDensity(void* self) { destroy<ColorSpaceDensity>(self); }
 VYR_FLAT(void*) CSharp_ColorSpaceDensityUpcast(void* self) { return upcast<ColorSpaceDensity, ColorSpaceDensityType>(self); }
+VYR_FLAT(void*) CSharp_ColorSpaceDensity_ns_map() { return reference(*ColorSpaceDensity::ns_map()); }
 VYR_FLAT(std::int32_t) CSharp_ColorSpaceDensity_unmarshal__SWIG_0(void* self, const char* path) { return guarded(+[](void* s, const char* p) { return as<ColorSpaceDensity>(s).unmarshal(p); }, self, path); }
 VYR_FLAT(std::int32_t) CSharp_ColorSpaceDensity_unmarshal__SWIG_1(void* self, const char* data, std::uint32_t size) { return guarded(+[](void* s, const char* d, std::uint32_t n) { return as<ColorSpaceDensity>(s).unmarshal(d, n); }, self, data, size); }
 VYR_FLAT(std::int32_t) CSharp_ColorSpaceDensity_marshal__SWIG_0(void* self, const char* path) { return guarded(+[](void* s, const char* p) { return as<ColorSpaceDensity>(s).marshal(p); }, self, path); }
-VYR_FLAT(void*) CSharp_ColorSpaceDensity_ns_map() { return reference(*ColorSpaceDensity::ns_map()); }
 
 // ColorSpaceSpectral
 VYR_FLAT(void*) CSharp_new_ColorSpaceSpectral__SWIG_0() { return make<ColorSpaceSpectral>(); }
 VYR_FLAT(void*) CSharp_new_ColorSpaceSpectral__SWIG_1(void* source) { return checked("com_vyrgraph_v2::ColorSpaceSpectral const & type is null", &copy<ColorSpaceSpectral>, source); }
 VYR_FLAT(void) CSharp_delete_ColorSpaceSpectral(void* self) { destroy<ColorSpaceSpectral>(self); }
 VYR_FLAT(void*) CSharp_ColorSpaceSpectralUpcast(void* self) { return upcast<ColorSpaceSpectral, ColorSpaceSpectralType>(self); }
+VYR_FLAT(void*) CSharp_ColorSpaceSpectral_ns_map() { return reference(*ColorSpaceSpectral::ns_map()); }
 VYR_FLAT(std::int32_t) CSharp_ColorSpaceSpectral_unmarshal__SWIG_0(void* self, const char* path) { return guarded(+[](void* s, const char* p) { return as<ColorSpaceSpectral>(s).unmarshal(p); }, self, path); }
 VYR_FLAT(std::int32_t) CSharp_ColorSpaceSpectral_unmarshal__SWIG_1(void* self, const char* data, std::uint32_t size) { return guarded(+[](void* s, const char* d, std::uint32_t n) { return as<ColorSpaceSpectral>(s).unmarshal(d, n); }, self, data, size); }
 VYR_FLAT(std::int32_t) CSharp_ColorSpaceSpectral_marshal__SWIG_0(void* self, const char* path) { return guarded(+[](void* s, const char* p) { return as<ColorSpaceSpectral>(s).marshal(p); }, self, path); }
-VYR_FLAT(void*) CSharp_ColorSpaceSpectral_ns_map() { return reference(*ColorSpaceSpectral::ns_map()); }
 
 // ColorSpaceEmissiveSpectral
 VYR_FLAT(void*) CSharp_new_ColorSpaceEmissiveSpectral__SWIG_0() { return make<ColorSpaceEmissiveSpectral>(); }
 VYR_FLAT(void*) CSharp_new_ColorSpaceEmissiveSpectral__SWIG_1(void* source) { return checked("com_vyrgraph_v2::ColorSpaceEmissiveSpectral const & type is null", &copy<ColorSpaceEmissiveSpectral>, source); }
 VYR_FLAT(void) CSharp_delete_ColorSpaceEmissiveSpectral(void* self) { destroy<ColorSpaceEmissiveSpectral>(self); }
 VYR_FLAT(void*) CSharp_ColorSpaceEmissiveSpectralUpcast(void* self) { return upcast<ColorSpaceEmissiveSpectral, ColorSpaceEmissiveSpectralType>(self); }
+VYR_FLAT(void*) CSharp_ColorSpaceEmissiveSpectral_ns_map() { return reference(*ColorSpaceEmissiveSpectral::ns_map()); }
 VYR_FLAT(std::int32_t) CSharp_ColorSpaceEmissiveSpectral_unmarshal__SWIG_0(void* self, const char* path) { return guarded(+[](void* s, const char* p) { return as<ColorSpaceEmissiveSpectral>(s).unmarshal(p); }, self, path); }
 VYR_FLAT(std::int32_t) CSharp_ColorSpaceEmissiveSpectral_unmarshal__SWIG_1(void* self, const char* data, std::uint32_t size) { return guarded(+[](void* s, const char* d, std::uint32_t n) { return as<ColorSpaceEmissiveSpectral>(s).unmarshal(d, n); }, self, data, size); }
 VYR_FLAT(std::int32_t) CSharp_ColorSpaceEmissiveSpectral_marshal__SWIG_0(void* self, const char* path) { return guarded(+[](void* s, const char* p) { return as<ColorSpaceEmissiveSpectral>(s).marshal(p); }, self, path); }
-VYR_FLAT(void*) CSharp_ColorSpaceEmissiveSpectral_ns_map() { return reference(*ColorSpaceEmissiveSpectral::ns_map()); }
 
 // ReflectancePointType
 VYR_FLAT(void*) CSharp_new_ReflectancePointType__SWIG_0() { return make<ReflectancePointType>(); }

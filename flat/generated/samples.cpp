@@ -21,15 +21,15 @@ extern "C" {
 VYR_FLAT(void*) CSharp_new_SampleType__SWIG_0() { return make<SampleType>(); }
 VYR_FLAT(void*) CSharp_new_SampleType__SWIG_1(void* source) { return checked("com_vyrgraph_v2::SampleType const & type is null", &copy<SampleType>, source); }
 VYR_FLAT(void) CSharp_delete_SampleType(void* self) { destroy<SampleType>(self); }
-VYR_FLAT(void) CSharp_SampleType_swap(void* self, void* other) { checked("com_vyrgraph_v2::SampleType & type is null", +[](void* o, void* s) { return as<SampleType>(s).swap(as<SampleType>(o)); }, other, self); }
-VYR_FLAT(void) CSharp_SampleType_reset(void* self) { guarded(+[](void* s) { return as<SampleType>(s).reset(); }, self); }
-VYR_FLAT(std::int32_t) CSharp_SampleType_is_occurs_ok(void* self) { return as<SampleType>(self).is_occurs_ok(); }
-VYR_FLAT(void*) CSharp_SampleType_clone(void* self) { return guarded(+[](void* s) -> void* { return as<SampleType>(s).clone(); }, self); }
-VYR_FLAT(char*) CSharp_SampleType_getid(void* self) { return new_string(as<SampleType>(self).getid()); }
-VYR_FLAT(std::int32_t) CSharp_SampleType_has_id(void* self, const char* identity) { return as<SampleType>(self).has_id(identity); }
 VYR_FLAT(const char*) CSharp_SampleType_id_get() { return SampleType::id; }
 VYR_FLAT(void) CSharp_SampleType_id_set(const char* identity) { set_identity(&SampleType::id, identity); }
 VYR_FLAT(void*) CSharp_SampleType_factory(std::int32_t ns_id, const char* name) { return checked(k_null_string, +[](const char* n, std::int32_t i) -> void* { return SampleType::factory(i, n); }, name, ns_id); }
+VYR_FLAT(void*) CSharp_SampleType_clone(void* self) { return guarded(+[](void* s) -> void* { return as<SampleType>(s).clone(); }, self); }
+VYR_FLAT(char*) CSharp_SampleType_getid(void* self) { return new_string(as<SampleType>(self).getid()); }
+VYR_FLAT(std::int32_t) CSharp_SampleType_has_id(void* self, const char* identity) { return as<SampleType>(self).has_id(identity); }
+VYR_FLAT(void) CSharp_SampleType_swap(void* self, void* other) { checked("com_vyrgraph_v2::SampleType & type is null", +[](void* o, void* s) { return as<SampleType>(s).swap(as<SampleType>(o)); }, other, self); }
+VYR_FLAT(void) CSharp_SampleType_reset(void* self) { guarded(+[](void* s) { return as<SampleType>(s).reset(); }, self); }
+VYR_FLAT(std::int32_t) CSharp_SampleType_is_occurs_ok(void* self) { return as<SampleType>(self).is_occurs_ok(); }
 VYR_FLAT(std::uint32_t) CSharp_SampleType_size_CustomAttribute(void* self) { return static_cast<std::uint32_t>(as<SampleType>(self).size_CustomAttribute()); }
 VYR_FLAT(void*) CSharp_SampleType_get_CustomAttribute__SWIG_0(void* self, std::uint32_t index) { return guarded(+[](void* s, std::uint32_t i) -> void* { return &as<SampleType>(s).get_CustomAttribute(i); }, self, index); }
 VYR_FLAT(void*) CSharp_SampleType_assign_CustomAttribute(void* self, std::uint32_t index, void* value) { return checked("com_vyrgraph_v2::CustomAttributeType const & type is null", +[](void* v, void* s, std::uint32_t i) -> void* { return &as<SampleType>(s).assign_CustomAttribute(i, as<CustomAttributeType>(v)); }, value, self, index); }
@@ -84,14 +84,14 @@ VYR_FLAT(void*) CSharp_new_SampleSpotType__SWIG_0() { return make<SampleSpotType
 VYR_FLAT(void*) CSharp_new_SampleSpotType__SWIG_1(void* source) { return checked("com_vyrgraph_v2::SampleSpotType const & type is null", &copy<SampleSpotType>, source); }
 VYR_FLAT(void) CSharp_delete_SampleSpotType(void* self) { destroy<SampleSpotType>(self); }
 VYR_FLAT(void*) CSharp_SampleSpotTypeUpcast(void* self) { return upcast<SampleSpotType, SampleType>(self); }
-VYR_FLAT(void) CSharp_SampleSpotType_swap(void* self, void* other) { checked("com_vyrgraph_v2::SampleSpotType & type is null", +[](void* o, void* s) { return as<SampleSpotType>(s).swap(as<SampleSpotType>(o)); }, other, self); }
-VYR_FLAT(void) CSharp_SampleSpotType_reset(void* self) { guarded(+[](void* s) { return as<SampleSpotType>(s).reset(); }, self); }
-VYR_FLAT(std::int32_t) CSharp_SampleSpotType_is_occurs_ok(void* self) { return as<SampleSpotType>(self).is_occurs_ok(); }
+VYR_FLAT(const char*) CSharp_SampleSpotType_id_get() { return SampleSpotType::id; }
+VYR_FLAT(void) CSharp_SampleSpotType_id_set(const char* identity) { set_identity(&SampleSpotType::id, identity); }
 VYR_FLAT(void*) CSharp_SampleSpotType_clone(void* self) { return guarded(+[](void* s) -> void* { return as<SampleSpotType>(s).clone(); }, self); }
 VYR_FLAT(char*) CSharp_SampleSpotType_getid(void* self) { return new_string(as<SampleSpotType>(self).getid()); }
 VYR_FLAT(std::int32_t) CSharp_SampleSpotType_has_id(void* self, const char* identity) { return as<SampleSpotType>(self).has_id(identity); }
-VYR_FLAT(const char*) CSharp_SampleSpotType_id_get() { return SampleSpotType::id; }
-VYR_FLAT(void) CSharp_SampleSpotType_id_set(const char* identity) { set_identity(&SampleSpotType::id, identity); }
+VYR_FLAT(void) CSharp_SampleSpotType_swap(void* self, void* other) { checked("com_vyrgraph_v2::SampleSpotType & type is null", +[](void* o, void* s) { return as<SampleSpotType>(s).swap(as<SampleSpotType>(o)); }, other, self); }
+VYR_FLAT(void) CSharp_SampleSpotType_reset(void* self) { guarded(+[](void* s) { return as<SampleSpotType>(s).reset(); }, self); }
+VYR_FLAT(std::int32_t) CSharp_SampleSpotType_is_occurs_ok(void* self) { return as<SampleSpotType>(self).is_occurs_ok(); }
 VYR_FLAT(void*) CSharp_SampleSpotType_get_Specification__SWIG_0(void* self) { return &as<SampleSpotType>(self).get_Specification(); }
 VYR_FLAT(void*) CSharp_SampleSpotType_assign_Specification(void* self, void* value) { return checked("com_vyrgraph_v2::Specification const & type is null", +[](void* v, void* s) -> void* { return &as<SampleSpotType>(s).assign_Specification(as<Specification>(v)); }, value, self); }
 
@@ -100,14 +100,14 @@ VYR_FLAT(void*) CSharp_new_SampleTargetType__SWIG_0() { return make<SampleTarget
 VYR_FLAT(void*) CSharp_new_SampleTargetType__SWIG_1(void* source) { return checked("com_vyrgraph_v2::SampleTargetType const & type is null", &copy<SampleTargetType>, source); }
 VYR_FLAT(void) CSharp_delete_SampleTargetType(void* self) { destroy<SampleTargetType>(self); }
 VYR_FLAT(void*) CSharp_SampleTargetTypeUpcast(void* self) { return upcast<SampleTargetType, SampleType>(self); }
-VYR_FLAT(void) CSharp_SampleTargetType_swap(void* self, void* other) { checked("com_vyrgraph_v2::SampleTargetType & type is null", +[](void* o, void* s) { return as<SampleTargetType>(s).swap(as<SampleTargetType>(o)); }, other, self); }
-VYR_FLAT(void) CSharp_SampleTargetType_reset(void* self) { guarded(+[](void* s) { return as<SampleTargetType>(s).reset(); }, self); }
-VYR_FLAT(std::int32_t) CSharp_SampleTargetType_is_occurs_ok(void* self) { return as<SampleTargetType>(self).is_occurs_ok(); }
+VYR_FLAT(const char*) CSharp_SampleTargetType_id_get() { return SampleTargetType::id; }
+VYR_FLAT(void) CSharp_SampleTargetType_id_set(const char* identity) { set_identity(&SampleTargetType::id, identity); }
 VYR_FLAT(void*) CSharp_SampleTargetType_clone(void* self) { return guarded(+[](void* s) -> void* { return as<SampleTargetType>(s).clone(); }, self); }
 VYR_FLAT(char*) CSharp_SampleTargetType_getid(void* self) { return new_string(as<SampleTargetType>(self).getid()); }
 VYR_FLAT(std::int32_t) CSharp_SampleTargetType_has_id(void* self, const char* identity) { return as<SampleTargetType>(self).has_id(identity); }
-VYR_FLAT(const char*) CSharp_SampleTargetType_id_get() { return SampleTargetType::id; }
-VYR_FLAT(void) CSharp_SampleTargetType_id_set(const char* identity) { set_identity(&SampleTargetType::id, identity); }
+VYR_FLAT(void) CSharp_SampleTargetType_swap(void* self, void* other) { checked("com_vyrgraph_v2::SampleTargetType & type is null", +[](void* o, void* s) { return as<SampleTargetType>(s).swap(as<SampleTargetType>(o)); }, other, self); }
+VYR_FLAT(void) CSharp_SampleTargetType_reset(void* self) { guarded(+[](void* s) { return as<SampleTargetType>(s).reset(); }, self); }
+VYR_FLAT(std::int32_t) CSharp_SampleTargetType_is_occurs_ok(void* self) { return as<SampleTargetType>(self).is_occurs_ok(); }
 VYR_FLAT(char16_t*) CSharp_SampleTargetType_get_CustomTarget(void* self) { return new_string(as<SampleTargetType>(self).get_CustomTarget()); }
 VYR_FLAT(std::int32_t) CSharp_SampleTargetType_set_CustomTarget(void* self, const char16_t* value) { return with_text(self, value, [](void* s, wide_text v) { return as<SampleTargetType>(s).set_CustomTarget(v); }); }
 VYR_FLAT(std::int32_t) CSharp_SampleTargetType_isset_CustomTarget(void* self) { return as<SampleTargetType>(self).isset_CustomTarget(); }
@@ -122,20 +122,20 @@ VYR_FLAT(void*) CSharp_new_SampleSpot__SWIG_0() { return make<SampleSpot>(); }
 VYR_FLAT(void*) CSharp_new_SampleSpot__SWIG_1(void* source) { return checked("com_vyrgraph_v2::SampleSpot const & type is null", &copy<SampleSpot>, source); }
 VYR_FLAT(void) CSharp_delete_SampleSpot(void* self) { destroy<SampleSpot>(self); }
 VYR_FLAT(void*) CSharp_SampleSpotUpcast(void* self) { return upcast<SampleSpot, SampleSpotType>(self); }
+VYR_FLAT(void*) CSharp_SampleSpot_ns_map() { return reference(*SampleSpot::ns_map()); }
 VYR_FLAT(std::int32_t) CSharp_SampleSpot_unmarshal__SWIG_0(void* self, const char* path) { return guarded(+[](void* s, const char* p) { return as<SampleSpot>(s).unmarshal(p); }, self, path); }
 VYR_FLAT(std::int32_t) CSharp_SampleSpot_unmarshal__SWIG_1(void* self, const char* data, std::uint32_t size) { return guarded(+[](void* s, const char* d, std::uint32_t n) { return as<SampleSpot>(s).unmarshal(d, n); }, self, data, size); }
 VYR_FLAT(std::int32_t) CSharp_SampleSpot_marshal__SWIG_0(void* self, const char* path) { return guarded(+[](void* s, const char* p) { return as<SampleSpot>(s).marshal(p); }, self, path); }
-VYR_FLAT(void*) CSharp_SampleSpot_ns_map() { return reference(*SampleSpot::ns_map()); }
 
 // SampleTarget
 VYR_FLAT(void*) CSharp_new_SampleTarget__SWIG_0() { return make<SampleTarget>(); }
 VYR_FLAT(void*) CSharp_new_SampleTarget__SWIG_1(void* source) { return checked("com_vyrgraph_v2::SampleTarget const & type is null", &copy<SampleTarget>, source); }
 VYR_FLAT(void) CSharp_delete_SampleTarget(void* self) { destroy<SampleTarget>(self); }
 VYR_FLAT(void*) CSharp_SampleTargetUpcast(void* self) { return upcast<SampleTarget, SampleTargetType>(self); }
+VYR_FLAT(void*) CSharp_SampleTarget_ns_map() { return reference(*SampleTarget::ns_map()); }
 VYR_FLAT(std::int32_t) CSharp_SampleTarget_unmarshal__SWIG_0(void* self, const char* path) { return guarded(+[](void* s, const char* p) { return as<SampleTarget>(s).unmarshal(p); }, self, path); }
 VYR_FLAT(std::int32_t) CSharp_SampleTarget_unmarshal__SWIG_1(void* self, const char* data, std::uint32_t size) { return guarded(+[](void* s, const char* d, std::uint32_t n) { return as<SampleTarget>(s).unmarshal(d, n); }, self, data, size); }
 VYR_FLAT(std::int32_t) CSharp_SampleTarget_marshal__SWIG_0(void* self, const char* path) { return guarded(+[](void* s, const char* p) { return as<SampleTarget>(s).marshal(p); }, self, path); }
-VYR_FLAT(void*) CSharp_SampleTarget_ns_map() { return reference(*SampleTarget::ns_map()); }
 
 }  // extern "C"
 

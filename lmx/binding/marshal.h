@@ -5,6 +5,7 @@
 
 #pragma once
 
+#include "lmx/binding/class_parts.h"
 #include "lmx/binding/table.h"
 #include "lmx/error.h"
 #include "lmx/export.h"
@@ -16,12 +17,6 @@ namespace lmx {
 /// and gives `ELMX_OCCURS_ERROR_ON_MARSHAL`; a failure further down leaves what was printed before it.
 VYR_EXPORT elmx_error marshal_element(const s_class& type, const void* object, c_xml_writer& writer,
                                       const char* name);
-
-/// Prints ` name="value"` for each attribute, the base's first.
-VYR_EXPORT void marshal_attributes(const s_class& type, const void* object, c_xml_writer& writer);
-
-/// Prints what stands between the tags, the base's items first.
-VYR_EXPORT elmx_error marshal_child_elements(const s_class& type, const void* object, c_xml_writer& writer);
 
 /// Prints the member that a holder holds; `ELMX_OCCURS_ERROR_ON_MARSHAL` while nothing is chosen.
 VYR_EXPORT elmx_error marshal_group(const s_class& type, const void* object, c_xml_writer& writer);

@@ -162,16 +162,16 @@ struct s_operations {
 struct s_class {
     const char* name;            ///< "PaletteType": named when a required attribute is missing
     const char* qualified_name;  ///< "Vyr:PaletteType": named when a list is too short or nothing is chosen
-    const s_class* base;         ///< null when there's none
-    content_kind content;        ///< of the class with its bases
-    bool may_be_empty;           ///< an element without children is no error
-    const s_ns_map* ns_map;      ///< declared on an outermost element; null for anonymous local classes
-    std::uint32_t nil_flag;      ///< offset of the nil flag, or `k_no_flag`
-    std::uint32_t choice;        ///< offset of the `s_choice`, or `k_no_flag`
-    const char* const* id;       ///< the class's identity; null outside the type families
-    const char* xsi_type;        ///< "Vyr:ColorSpaceCMYKType": printed when another identity is expected
-    std::span<const s_item> attributes;
-    std::span<const s_item> elements;  ///< children, content, or alternatives
+    const s_class* base = nullptr;
+    content_kind content;                ///< of the class with its bases
+    bool may_be_empty = false;           ///< an element without children is no error
+    const s_ns_map* ns_map = nullptr;    ///< declared on an outermost element; null for anonymous local classes
+    std::uint32_t nil_flag = k_no_flag;  ///< offset of the nil flag
+    std::uint32_t choice = k_no_flag;    ///< offset of the `s_choice`
+    const char* const* id = nullptr;     ///< the class's identity; null outside the type families
+    const char* xsi_type = nullptr;      ///< "Vyr:ColorSpaceCMYKType": printed when another identity is expected
+    std::span<const s_item> attributes{};
+    std::span<const s_item> elements{};  ///< children, content, or alternatives
     const s_event_map* attribute_map;
     const s_event_map* element_map;  ///< each position is a suffix of it
     const s_operations* operations;

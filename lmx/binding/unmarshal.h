@@ -11,6 +11,7 @@
 #include <string>
 #include <string_view>
 
+#include "lmx/binding/class_parts.h"
 #include "lmx/binding/table.h"
 #include "lmx/error.h"
 #include "lmx/export.h"
@@ -28,23 +29,6 @@ elmx_error check_as_read(const s_item& item, const std::string& text);
 /// Reads an element whose start tag name has just been delivered. `name` may be the reader's own work string.
 VYR_EXPORT elmx_error unmarshal_element(const s_class& type, void* object, c_xml_reader& reader,
                                         const std::string& name);
-
-/// Reads the attribute just named if it belongs to the class or a base of it. False if it doesn't, or with
-/// `*error` set if reading it failed.
-VYR_EXPORT bool unmarshal_attribute(const s_class& type, void* object, c_xml_reader& reader, const std::string& name,
-                                    elmx_error* error);
-
-/// Reports the first required attribute that is missing.
-VYR_EXPORT elmx_error check_required_attributes(const s_class& type, const void* object, c_xml_reader& reader);
-
-/// Reads the children, the chosen alternative or the open content, up to the first element that has no place.
-/// `name` is the reader's element-name work string. False with `*error` set on failure.
-VYR_EXPORT bool unmarshal_body(const s_class& type, void* object, c_xml_reader& reader, std::string* name,
-                               elmx_error* error);
-
-/// Reads simple content; without a body the value is the empty text.
-VYR_EXPORT bool unmarshal_content(const s_class& type, void* object, c_xml_reader& reader, std::string* name,
-                                  elmx_error* error, bool has_body);
 
 /// Reads the current element as a member of a substitution group. An element that is no member is skipped, and
 /// nothing is chosen.

@@ -69,15 +69,8 @@ constinit const s_item ParentColorSpace::k_items[] = {
 constinit const s_class ParentColorSpace::k_class = {
     .name = "ParentColorSpace",
     .qualified_name = "Vyr:ParentColorSpace",
-    .base = nullptr,
     .content = content_kind::children,
-    .may_be_empty = false,
-    .ns_map = nullptr,
     .nil_flag = LMX_FLAG(ParentColorSpace, m_isnil),
-    .choice = k_no_flag,
-    .id = nullptr,
-    .xsi_type = nullptr,
-    .attributes = std::span(k_items).first(std::size(k_no_events) - 1),
     .elements = std::span(k_items).subspan(std::size(k_no_events) - 1),
     .attribute_map = k_no_events,
     .element_map = k_ParentColorSpace_elements,
@@ -88,16 +81,11 @@ ParentColorSpace::ParentColorSpace() = default;
 ParentColorSpace::ParentColorSpace(const ParentColorSpace& other) : sg_ColorSpace() { lmx::copy(k_class, this, &other); }
 ParentColorSpace::~ParentColorSpace() = default;
 ParentColorSpace& ParentColorSpace::operator=(const ParentColorSpace& other) { ParentColorSpace copy(other); swap(copy); return *this; }
+lmx::elmx_error ParentColorSpace::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
+lmx::elmx_error ParentColorSpace::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
 void ParentColorSpace::swap(ParentColorSpace& other) { lmx::swap(k_class, this, &other); }
 void ParentColorSpace::reset() { ParentColorSpace fresh; lmx::exchange(k_class, this, &fresh); }
 bool ParentColorSpace::is_occurs_ok() const { return lmx::is_occurs_ok(k_class, this); }
-lmx::elmx_error ParentColorSpace::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
-lmx::elmx_error ParentColorSpace::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
-void ParentColorSpace::marshal_attributes(lmx::c_xml_writer& writer) const { lmx::marshal_attributes(k_class, this, writer); }
-lmx::elmx_error ParentColorSpace::marshal_child_elements(lmx::c_xml_writer& writer) const { return lmx::marshal_child_elements(k_class, this, writer); }
-bool ParentColorSpace::unmarshal_attributes(lmx::c_xml_reader& reader, const std::string& name, lmx::elmx_error* error) { return lmx::unmarshal_attribute(k_class, this, reader, name, error); }
-lmx::elmx_error ParentColorSpace::unmarshal_attributes_check(lmx::c_xml_reader& reader) { return lmx::check_required_attributes(k_class, this, reader); }
-bool ParentColorSpace::unmarshal_body(lmx::c_xml_reader& reader, std::string* name, lmx::elmx_error* error) { return lmx::unmarshal_body(k_class, this, reader, name, error); }
 sg_ColorSpace& ParentColorSpace::assign_ColorSpace(const sg_ColorSpace& value) { return get_ColorSpace().sg_ColorSpace::operator=(value); }
 
 // ColorSpaceType
@@ -161,12 +149,8 @@ constinit const s_factory_row ColorSpaceType::k_factory[] = {
 constinit const s_class ColorSpaceType::k_class = {
     .name = "ColorSpaceType",
     .qualified_name = "Vyr:ColorSpaceType",
-    .base = nullptr,
     .content = content_kind::children,
-    .may_be_empty = false,
     .ns_map = k_ns_map,
-    .nil_flag = k_no_flag,
-    .choice = k_no_flag,
     .id = &ColorSpaceType::id,
     .xsi_type = "Vyr:ColorSpaceType",
     .attributes = std::span(k_items).first(std::size(k_ColorSpaceType_attributes) - 1),
@@ -176,26 +160,20 @@ constinit const s_class ColorSpaceType::k_class = {
     .operations = &k_operations<ColorSpaceType>,
 };
 
+namespace { const char k_ColorSpaceType_id[] = "ColorSpaceType"; }
+const char* ColorSpaceType::id = k_ColorSpaceType_id;
 ColorSpaceType::ColorSpaceType() = default;
 ColorSpaceType::ColorSpaceType(const ColorSpaceType& other) { lmx::copy(k_class, this, &other); }
+ColorSpaceType* ColorSpaceType::clone() const { return new ColorSpaceType(*this); }
 ColorSpaceType::~ColorSpaceType() = default;
 ColorSpaceType& ColorSpaceType::operator=(const ColorSpaceType& other) { ColorSpaceType copy(other); swap(copy); return *this; }
+const char* ColorSpaceType::getid() const { return id; }
+bool ColorSpaceType::has_id(const char* identity) const { return identity == id; }
+lmx::elmx_error ColorSpaceType::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
+lmx::elmx_error ColorSpaceType::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
 void ColorSpaceType::swap(ColorSpaceType& other) { lmx::swap(k_class, this, &other); }
 void ColorSpaceType::reset() { ColorSpaceType fresh; lmx::exchange(k_class, this, &fresh); }
 bool ColorSpaceType::is_occurs_ok() const { return lmx::is_occurs_ok(k_class, this); }
-lmx::elmx_error ColorSpaceType::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
-lmx::elmx_error ColorSpaceType::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
-void ColorSpaceType::marshal_attributes(lmx::c_xml_writer& writer) const { lmx::marshal_attributes(k_class, this, writer); }
-lmx::elmx_error ColorSpaceType::marshal_child_elements(lmx::c_xml_writer& writer) const { return lmx::marshal_child_elements(k_class, this, writer); }
-bool ColorSpaceType::unmarshal_attributes(lmx::c_xml_reader& reader, const std::string& name, lmx::elmx_error* error) { return lmx::unmarshal_attribute(k_class, this, reader, name, error); }
-lmx::elmx_error ColorSpaceType::unmarshal_attributes_check(lmx::c_xml_reader& reader) { return lmx::check_required_attributes(k_class, this, reader); }
-bool ColorSpaceType::unmarshal_body(lmx::c_xml_reader& reader, std::string* name, lmx::elmx_error* error) { return lmx::unmarshal_body(k_class, this, reader, name, error); }
-namespace { const char k_ColorSpaceType_id[] = "ColorSpaceType"; }
-const char* ColorSpaceType::id = k_ColorSpaceType_id;
-ColorSpaceType* ColorSpaceType::clone() const { return new ColorSpaceType(*this); }
-const char* ColorSpaceType::getid() const { return id; }
-bool ColorSpaceType::has_id(const char* identity) const { return identity == id; }
-ColorSpaceType* ColorSpaceType::factory(int ns_id, const std::string& name) { return static_cast<ColorSpaceType*>(lmx::create_by_name(k_factory, ns_id, name)); }
 lmx::elmx_error ColorSpaceType::set_Comments(const std::u16string& value) { return lmx::set_item(k_class, k_items[item_Comments], this, value); }
 lmx::elmx_error ColorSpaceType::set_UniqueID(const std::u16string& value) { return lmx::set_item(k_class, k_items[item_UniqueID], this, value); }
 CustomAttributeType& ColorSpaceType::get_CustomAttribute(std::size_t index) { return m_CustomAttribute.grow_to(index); }
@@ -212,17 +190,15 @@ lmx::elmx_error ColorSpaceType::append_ChangeHistory(const lmx::c_datetime& valu
 lmx::elmx_error ColorSpaceType::insert_ChangeHistory(std::size_t index, const lmx::c_datetime& value) { return lmx::insert_entry(k_items[item_ChangeHistory], this, index, value); }
 void ColorSpaceType::delete_ChangeHistory(std::size_t index) { m_ChangeHistory.erase(index); }
 void ColorSpaceType::clear_ChangeHistory() { m_ChangeHistory.clear(); }
+ColorSpaceType* ColorSpaceType::factory(int ns_id, const std::string& name) { return static_cast<ColorSpaceType*>(lmx::create_by_name(k_factory, ns_id, name)); }
 
 // ColorSpace
 
-lmx::elmx_error ColorSpace::marshal(lmx::c_xml_writer& writer, const char* name) const {
-    writer.conditionally_select_ns_map(k_ns_map);
-    return ColorSpaceType::marshal(writer, name);
-}
-lmx::elmx_error ColorSpace::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return ColorSpaceType::unmarshal(reader, name); }
 constinit const lmx::s_document ColorSpace::k_document = {"Vyr:ColorSpace", "ColorSpace", k_ns_map, &lmx::k_operations<ColorSpace>};
 const lmx::s_ns_map* ColorSpace::ns_map() { return k_ns_map; }
 lmx::elmx_error ColorSpace::unmarshal(lmx::c_xml_reader& reader) { return lmx::unmarshal_document(k_document, this, reader); }
+lmx::elmx_error ColorSpace::marshal(lmx::c_xml_writer& writer, const char* name) const { writer.conditionally_select_ns_map(k_ns_map); return ColorSpaceType::marshal(writer, name); }
+lmx::elmx_error ColorSpace::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return ColorSpaceType::unmarshal(reader, name); }
 
 // ColorSpaceCIELabType
 
@@ -257,10 +233,7 @@ constinit const s_class ColorSpaceCIELabType::k_class = {
     .qualified_name = "Vyr:ColorSpaceCIELabType",
     .base = &ColorSpaceType::k_class,
     .content = content_kind::children,
-    .may_be_empty = false,
     .ns_map = k_ns_map,
-    .nil_flag = k_no_flag,
-    .choice = k_no_flag,
     .id = &ColorSpaceCIELabType::id,
     .xsi_type = "Vyr:ColorSpaceCIELabType",
     .attributes = std::span(k_items).first(std::size(k_ColorSpaceCIELabType_attributes) - 1),
@@ -270,25 +243,20 @@ constinit const s_class ColorSpaceCIELabType::k_class = {
     .operations = &k_operations<ColorSpaceCIELabType>,
 };
 
+namespace { const char k_ColorSpaceCIELabType_id[] = "ColorSpaceCIELabType"; }
+const char* ColorSpaceCIELabType::id = k_ColorSpaceCIELabType_id;
 ColorSpaceCIELabType::ColorSpaceCIELabType() = default;
 ColorSpaceCIELabType::ColorSpaceCIELabType(const ColorSpaceCIELabType& other) : ColorSpaceType() { lmx::copy(k_class, this, &other); }
+ColorSpaceCIELabType* ColorSpaceCIELabType::clone() const { return new ColorSpaceCIELabType(*this); }
 ColorSpaceCIELabType::~ColorSpaceCIELabType() = default;
 ColorSpaceCIELabType& ColorSpaceCIELabType::operator=(const ColorSpaceCIELabType& other) { ColorSpaceCIELabType copy(other); swap(copy); return *this; }
+const char* ColorSpaceCIELabType::getid() const { return id; }
+bool ColorSpaceCIELabType::has_id(const char* identity) const { return identity == id || ColorSpaceType::has_id(identity); }
+lmx::elmx_error ColorSpaceCIELabType::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
+lmx::elmx_error ColorSpaceCIELabType::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
 void ColorSpaceCIELabType::swap(ColorSpaceCIELabType& other) { lmx::swap(k_class, this, &other); }
 void ColorSpaceCIELabType::reset() { ColorSpaceCIELabType fresh; lmx::exchange(k_class, this, &fresh); }
 bool ColorSpaceCIELabType::is_occurs_ok() const { return lmx::is_occurs_ok(k_class, this); }
-lmx::elmx_error ColorSpaceCIELabType::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
-lmx::elmx_error ColorSpaceCIELabType::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
-void ColorSpaceCIELabType::marshal_attributes(lmx::c_xml_writer& writer) const { lmx::marshal_attributes(k_class, this, writer); }
-lmx::elmx_error ColorSpaceCIELabType::marshal_child_elements(lmx::c_xml_writer& writer) const { return lmx::marshal_child_elements(k_class, this, writer); }
-bool ColorSpaceCIELabType::unmarshal_attributes(lmx::c_xml_reader& reader, const std::string& name, lmx::elmx_error* error) { return lmx::unmarshal_attribute(k_class, this, reader, name, error); }
-lmx::elmx_error ColorSpaceCIELabType::unmarshal_attributes_check(lmx::c_xml_reader& reader) { return lmx::check_required_attributes(k_class, this, reader); }
-bool ColorSpaceCIELabType::unmarshal_body(lmx::c_xml_reader& reader, std::string* name, lmx::elmx_error* error) { return lmx::unmarshal_body(k_class, this, reader, name, error); }
-namespace { const char k_ColorSpaceCIELabType_id[] = "ColorSpaceCIELabType"; }
-const char* ColorSpaceCIELabType::id = k_ColorSpaceCIELabType_id;
-ColorSpaceCIELabType* ColorSpaceCIELabType::clone() const { return new ColorSpaceCIELabType(*this); }
-const char* ColorSpaceCIELabType::getid() const { return id; }
-bool ColorSpaceCIELabType::has_id(const char* identity) const { return identity == id || ColorSpaceType::has_id(identity); }
 lmx::elmx_error ColorSpaceCIELabType::set_Name(const std::u16string& value) { return lmx::set_item(k_class, k_items[item_Name], this, value); }
 ColorSpaceSpecificationSpectrumTristimulus& ColorSpaceCIELabType::assign_ColorSpaceSpecificationSpectrumTristimulus(const ColorSpaceSpecificationSpectrumTristimulus& value) { return get_ColorSpaceSpecificationSpectrumTristimulus() = value; }
 lmx::elmx_error ColorSpaceCIELabType::set_L(double value) { return lmx::set_item(k_class, k_items[item_L], this, value); }
@@ -328,10 +296,7 @@ constinit const s_class ColorSpaceCIELChType::k_class = {
     .qualified_name = "Vyr:ColorSpaceCIELChType",
     .base = &ColorSpaceType::k_class,
     .content = content_kind::children,
-    .may_be_empty = false,
     .ns_map = k_ns_map,
-    .nil_flag = k_no_flag,
-    .choice = k_no_flag,
     .id = &ColorSpaceCIELChType::id,
     .xsi_type = "Vyr:ColorSpaceCIELChType",
     .attributes = std::span(k_items).first(std::size(k_ColorSpaceCIELChType_attributes) - 1),
@@ -341,25 +306,20 @@ constinit const s_class ColorSpaceCIELChType::k_class = {
     .operations = &k_operations<ColorSpaceCIELChType>,
 };
 
+namespace { const char k_ColorSpaceCIELChType_id[] = "ColorSpaceCIELChType"; }
+const char* ColorSpaceCIELChType::id = k_ColorSpaceCIELChType_id;
 ColorSpaceCIELChType::ColorSpaceCIELChType() = default;
 ColorSpaceCIELChType::ColorSpaceCIELChType(const ColorSpaceCIELChType& other) : ColorSpaceType() { lmx::copy(k_class, this, &other); }
+ColorSpaceCIELChType* ColorSpaceCIELChType::clone() const { return new ColorSpaceCIELChType(*this); }
 ColorSpaceCIELChType::~ColorSpaceCIELChType() = default;
 ColorSpaceCIELChType& ColorSpaceCIELChType::operator=(const ColorSpaceCIELChType& other) { ColorSpaceCIELChType copy(other); swap(copy); return *this; }
+const char* ColorSpaceCIELChType::getid() const { return id; }
+bool ColorSpaceCIELChType::has_id(const char* identity) const { return identity == id || ColorSpaceType::has_id(identity); }
+lmx::elmx_error ColorSpaceCIELChType::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
+lmx::elmx_error ColorSpaceCIELChType::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
 void ColorSpaceCIELChType::swap(ColorSpaceCIELChType& other) { lmx::swap(k_class, this, &other); }
 void ColorSpaceCIELChType::reset() { ColorSpaceCIELChType fresh; lmx::exchange(k_class, this, &fresh); }
 bool ColorSpaceCIELChType::is_occurs_ok() const { return lmx::is_occurs_ok(k_class, this); }
-lmx::elmx_error ColorSpaceCIELChType::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
-lmx::elmx_error ColorSpaceCIELChType::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
-void ColorSpaceCIELChType::marshal_attributes(lmx::c_xml_writer& writer) const { lmx::marshal_attributes(k_class, this, writer); }
-lmx::elmx_error ColorSpaceCIELChType::marshal_child_elements(lmx::c_xml_writer& writer) const { return lmx::marshal_child_elements(k_class, this, writer); }
-bool ColorSpaceCIELChType::unmarshal_attributes(lmx::c_xml_reader& reader, const std::string& name, lmx::elmx_error* error) { return lmx::unmarshal_attribute(k_class, this, reader, name, error); }
-lmx::elmx_error ColorSpaceCIELChType::unmarshal_attributes_check(lmx::c_xml_reader& reader) { return lmx::check_required_attributes(k_class, this, reader); }
-bool ColorSpaceCIELChType::unmarshal_body(lmx::c_xml_reader& reader, std::string* name, lmx::elmx_error* error) { return lmx::unmarshal_body(k_class, this, reader, name, error); }
-namespace { const char k_ColorSpaceCIELChType_id[] = "ColorSpaceCIELChType"; }
-const char* ColorSpaceCIELChType::id = k_ColorSpaceCIELChType_id;
-ColorSpaceCIELChType* ColorSpaceCIELChType::clone() const { return new ColorSpaceCIELChType(*this); }
-const char* ColorSpaceCIELChType::getid() const { return id; }
-bool ColorSpaceCIELChType::has_id(const char* identity) const { return identity == id || ColorSpaceType::has_id(identity); }
 lmx::elmx_error ColorSpaceCIELChType::set_Name(const std::u16string& value) { return lmx::set_item(k_class, k_items[item_Name], this, value); }
 ColorSpaceSpecificationSpectrumTristimulus& ColorSpaceCIELChType::assign_ColorSpaceSpecificationSpectrumTristimulus(const ColorSpaceSpecificationSpectrumTristimulus& value) { return get_ColorSpaceSpecificationSpectrumTristimulus() = value; }
 lmx::elmx_error ColorSpaceCIELChType::set_L(double value) { return lmx::set_item(k_class, k_items[item_L], this, value); }
@@ -399,10 +359,7 @@ constinit const s_class ColorSpaceCIELuvType::k_class = {
     .qualified_name = "Vyr:ColorSpaceCIELuvType",
     .base = &ColorSpaceType::k_class,
     .content = content_kind::children,
-    .may_be_empty = false,
     .ns_map = k_ns_map,
-    .nil_flag = k_no_flag,
-    .choice = k_no_flag,
     .id = &ColorSpaceCIELuvType::id,
     .xsi_type = "Vyr:ColorSpaceCIELuvType",
     .attributes = std::span(k_items).first(std::size(k_ColorSpaceCIELuvType_attributes) - 1),
@@ -412,25 +369,20 @@ constinit const s_class ColorSpaceCIELuvType::k_class = {
     .operations = &k_operations<ColorSpaceCIELuvType>,
 };
 
+namespace { const char k_ColorSpaceCIELuvType_id[] = "ColorSpaceCIELuvType"; }
+const char* ColorSpaceCIELuvType::id = k_ColorSpaceCIELuvType_id;
 ColorSpaceCIELuvType::ColorSpaceCIELuvType() = default;
 ColorSpaceCIELuvType::ColorSpaceCIELuvType(const ColorSpaceCIELuvType& other) : ColorSpaceType() { lmx::copy(k_class, this, &other); }
+ColorSpaceCIELuvType* ColorSpaceCIELuvType::clone() const { return new ColorSpaceCIELuvType(*this); }
 ColorSpaceCIELuvType::~ColorSpaceCIELuvType() = default;
 ColorSpaceCIELuvType& ColorSpaceCIELuvType::operator=(const ColorSpaceCIELuvType& other) { ColorSpaceCIELuvType copy(other); swap(copy); return *this; }
+const char* ColorSpaceCIELuvType::getid() const { return id; }
+bool ColorSpaceCIELuvType::has_id(const char* identity) const { return identity == id || ColorSpaceType::has_id(identity); }
+lmx::elmx_error ColorSpaceCIELuvType::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
+lmx::elmx_error ColorSpaceCIELuvType::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
 void ColorSpaceCIELuvType::swap(ColorSpaceCIELuvType& other) { lmx::swap(k_class, this, &other); }
 void ColorSpaceCIELuvType::reset() { ColorSpaceCIELuvType fresh; lmx::exchange(k_class, this, &fresh); }
 bool ColorSpaceCIELuvType::is_occurs_ok() const { return lmx::is_occurs_ok(k_class, this); }
-lmx::elmx_error ColorSpaceCIELuvType::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
-lmx::elmx_error ColorSpaceCIELuvType::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
-void ColorSpaceCIELuvType::marshal_attributes(lmx::c_xml_writer& writer) const { lmx::marshal_attributes(k_class, this, writer); }
-lmx::elmx_error ColorSpaceCIELuvType::marshal_child_elements(lmx::c_xml_writer& writer) const { return lmx::marshal_child_elements(k_class, this, writer); }
-bool ColorSpaceCIELuvType::unmarshal_attributes(lmx::c_xml_reader& reader, const std::string& name, lmx::elmx_error* error) { return lmx::unmarshal_attribute(k_class, this, reader, name, error); }
-lmx::elmx_error ColorSpaceCIELuvType::unmarshal_attributes_check(lmx::c_xml_reader& reader) { return lmx::check_required_attributes(k_class, this, reader); }
-bool ColorSpaceCIELuvType::unmarshal_body(lmx::c_xml_reader& reader, std::string* name, lmx::elmx_error* error) { return lmx::unmarshal_body(k_class, this, reader, name, error); }
-namespace { const char k_ColorSpaceCIELuvType_id[] = "ColorSpaceCIELuvType"; }
-const char* ColorSpaceCIELuvType::id = k_ColorSpaceCIELuvType_id;
-ColorSpaceCIELuvType* ColorSpaceCIELuvType::clone() const { return new ColorSpaceCIELuvType(*this); }
-const char* ColorSpaceCIELuvType::getid() const { return id; }
-bool ColorSpaceCIELuvType::has_id(const char* identity) const { return identity == id || ColorSpaceType::has_id(identity); }
 lmx::elmx_error ColorSpaceCIELuvType::set_Name(const std::u16string& value) { return lmx::set_item(k_class, k_items[item_Name], this, value); }
 ColorSpaceSpecificationSpectrumTristimulus& ColorSpaceCIELuvType::assign_ColorSpaceSpecificationSpectrumTristimulus(const ColorSpaceSpecificationSpectrumTristimulus& value) { return get_ColorSpaceSpecificationSpectrumTristimulus() = value; }
 lmx::elmx_error ColorSpaceCIELuvType::set_L(double value) { return lmx::set_item(k_class, k_items[item_L], this, value); }
@@ -470,10 +422,7 @@ constinit const s_class ColorSpaceCIEXYZType::k_class = {
     .qualified_name = "Vyr:ColorSpaceCIEXYZType",
     .base = &ColorSpaceType::k_class,
     .content = content_kind::children,
-    .may_be_empty = false,
     .ns_map = k_ns_map,
-    .nil_flag = k_no_flag,
-    .choice = k_no_flag,
     .id = &ColorSpaceCIEXYZType::id,
     .xsi_type = "Vyr:ColorSpaceCIEXYZType",
     .attributes = std::span(k_items).first(std::size(k_ColorSpaceCIEXYZType_attributes) - 1),
@@ -483,25 +432,20 @@ constinit const s_class ColorSpaceCIEXYZType::k_class = {
     .operations = &k_operations<ColorSpaceCIEXYZType>,
 };
 
+namespace { const char k_ColorSpaceCIEXYZType_id[] = "ColorSpaceCIEXYZType"; }
+const char* ColorSpaceCIEXYZType::id = k_ColorSpaceCIEXYZType_id;
 ColorSpaceCIEXYZType::ColorSpaceCIEXYZType() = default;
 ColorSpaceCIEXYZType::ColorSpaceCIEXYZType(const ColorSpaceCIEXYZType& other) : ColorSpaceType() { lmx::copy(k_class, this, &other); }
+ColorSpaceCIEXYZType* ColorSpaceCIEXYZType::clone() const { return new ColorSpaceCIEXYZType(*this); }
 ColorSpaceCIEXYZType::~ColorSpaceCIEXYZType() = default;
 ColorSpaceCIEXYZType& ColorSpaceCIEXYZType::operator=(const ColorSpaceCIEXYZType& other) { ColorSpaceCIEXYZType copy(other); swap(copy); return *this; }
+const char* ColorSpaceCIEXYZType::getid() const { return id; }
+bool ColorSpaceCIEXYZType::has_id(const char* identity) const { return identity == id || ColorSpaceType::has_id(identity); }
+lmx::elmx_error ColorSpaceCIEXYZType::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
+lmx::elmx_error ColorSpaceCIEXYZType::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
 void ColorSpaceCIEXYZType::swap(ColorSpaceCIEXYZType& other) { lmx::swap(k_class, this, &other); }
 void ColorSpaceCIEXYZType::reset() { ColorSpaceCIEXYZType fresh; lmx::exchange(k_class, this, &fresh); }
 bool ColorSpaceCIEXYZType::is_occurs_ok() const { return lmx::is_occurs_ok(k_class, this); }
-lmx::elmx_error ColorSpaceCIEXYZType::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
-lmx::elmx_error ColorSpaceCIEXYZType::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
-void ColorSpaceCIEXYZType::marshal_attributes(lmx::c_xml_writer& writer) const { lmx::marshal_attributes(k_class, this, writer); }
-lmx::elmx_error ColorSpaceCIEXYZType::marshal_child_elements(lmx::c_xml_writer& writer) const { return lmx::marshal_child_elements(k_class, this, writer); }
-bool ColorSpaceCIEXYZType::unmarshal_attributes(lmx::c_xml_reader& reader, const std::string& name, lmx::elmx_error* error) { return lmx::unmarshal_attribute(k_class, this, reader, name, error); }
-lmx::elmx_error ColorSpaceCIEXYZType::unmarshal_attributes_check(lmx::c_xml_reader& reader) { return lmx::check_required_attributes(k_class, this, reader); }
-bool ColorSpaceCIEXYZType::unmarshal_body(lmx::c_xml_reader& reader, std::string* name, lmx::elmx_error* error) { return lmx::unmarshal_body(k_class, this, reader, name, error); }
-namespace { const char k_ColorSpaceCIEXYZType_id[] = "ColorSpaceCIEXYZType"; }
-const char* ColorSpaceCIEXYZType::id = k_ColorSpaceCIEXYZType_id;
-ColorSpaceCIEXYZType* ColorSpaceCIEXYZType::clone() const { return new ColorSpaceCIEXYZType(*this); }
-const char* ColorSpaceCIEXYZType::getid() const { return id; }
-bool ColorSpaceCIEXYZType::has_id(const char* identity) const { return identity == id || ColorSpaceType::has_id(identity); }
 lmx::elmx_error ColorSpaceCIEXYZType::set_Name(const std::u16string& value) { return lmx::set_item(k_class, k_items[item_Name], this, value); }
 ColorSpaceSpecificationSpectrumTristimulus& ColorSpaceCIEXYZType::assign_ColorSpaceSpecificationSpectrumTristimulus(const ColorSpaceSpecificationSpectrumTristimulus& value) { return get_ColorSpaceSpecificationSpectrumTristimulus() = value; }
 lmx::elmx_error ColorSpaceCIEXYZType::set_X(double value) { return lmx::set_item(k_class, k_items[item_X], this, value); }
@@ -541,10 +485,7 @@ constinit const s_class ColorSpaceCIExyYType::k_class = {
     .qualified_name = "Vyr:ColorSpaceCIExyYType",
     .base = &ColorSpaceType::k_class,
     .content = content_kind::children,
-    .may_be_empty = false,
     .ns_map = k_ns_map,
-    .nil_flag = k_no_flag,
-    .choice = k_no_flag,
     .id = &ColorSpaceCIExyYType::id,
     .xsi_type = "Vyr:ColorSpaceCIExyYType",
     .attributes = std::span(k_items).first(std::size(k_ColorSpaceCIExyYType_attributes) - 1),
@@ -554,25 +495,20 @@ constinit const s_class ColorSpaceCIExyYType::k_class = {
     .operations = &k_operations<ColorSpaceCIExyYType>,
 };
 
+namespace { const char k_ColorSpaceCIExyYType_id[] = "ColorSpaceCIExyYType"; }
+const char* ColorSpaceCIExyYType::id = k_ColorSpaceCIExyYType_id;
 ColorSpaceCIExyYType::ColorSpaceCIExyYType() = default;
 ColorSpaceCIExyYType::ColorSpaceCIExyYType(const ColorSpaceCIExyYType& other) : ColorSpaceType() { lmx::copy(k_class, this, &other); }
+ColorSpaceCIExyYType* ColorSpaceCIExyYType::clone() const { return new ColorSpaceCIExyYType(*this); }
 ColorSpaceCIExyYType::~ColorSpaceCIExyYType() = default;
 ColorSpaceCIExyYType& ColorSpaceCIExyYType::operator=(const ColorSpaceCIExyYType& other) { ColorSpaceCIExyYType copy(other); swap(copy); return *this; }
+const char* ColorSpaceCIExyYType::getid() const { return id; }
+bool ColorSpaceCIExyYType::has_id(const char* identity) const { return identity == id || ColorSpaceType::has_id(identity); }
+lmx::elmx_error ColorSpaceCIExyYType::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
+lmx::elmx_error ColorSpaceCIExyYType::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
 void ColorSpaceCIExyYType::swap(ColorSpaceCIExyYType& other) { lmx::swap(k_class, this, &other); }
 void ColorSpaceCIExyYType::reset() { ColorSpaceCIExyYType fresh; lmx::exchange(k_class, this, &fresh); }
 bool ColorSpaceCIExyYType::is_occurs_ok() const { return lmx::is_occurs_ok(k_class, this); }
-lmx::elmx_error ColorSpaceCIExyYType::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
-lmx::elmx_error ColorSpaceCIExyYType::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
-void ColorSpaceCIExyYType::marshal_attributes(lmx::c_xml_writer& writer) const { lmx::marshal_attributes(k_class, this, writer); }
-lmx::elmx_error ColorSpaceCIExyYType::marshal_child_elements(lmx::c_xml_writer& writer) const { return lmx::marshal_child_elements(k_class, this, writer); }
-bool ColorSpaceCIExyYType::unmarshal_attributes(lmx::c_xml_reader& reader, const std::string& name, lmx::elmx_error* error) { return lmx::unmarshal_attribute(k_class, this, reader, name, error); }
-lmx::elmx_error ColorSpaceCIExyYType::unmarshal_attributes_check(lmx::c_xml_reader& reader) { return lmx::check_required_attributes(k_class, this, reader); }
-bool ColorSpaceCIExyYType::unmarshal_body(lmx::c_xml_reader& reader, std::string* name, lmx::elmx_error* error) { return lmx::unmarshal_body(k_class, this, reader, name, error); }
-namespace { const char k_ColorSpaceCIExyYType_id[] = "ColorSpaceCIExyYType"; }
-const char* ColorSpaceCIExyYType::id = k_ColorSpaceCIExyYType_id;
-ColorSpaceCIExyYType* ColorSpaceCIExyYType::clone() const { return new ColorSpaceCIExyYType(*this); }
-const char* ColorSpaceCIExyYType::getid() const { return id; }
-bool ColorSpaceCIExyYType::has_id(const char* identity) const { return identity == id || ColorSpaceType::has_id(identity); }
 lmx::elmx_error ColorSpaceCIExyYType::set_Name(const std::u16string& value) { return lmx::set_item(k_class, k_items[item_Name], this, value); }
 ColorSpaceSpecificationSpectrumTristimulus& ColorSpaceCIExyYType::assign_ColorSpaceSpecificationSpectrumTristimulus(const ColorSpaceSpecificationSpectrumTristimulus& value) { return get_ColorSpaceSpecificationSpectrumTristimulus() = value; }
 lmx::elmx_error ColorSpaceCIExyYType::set_X(double value) { return lmx::set_item(k_class, k_items[item_X], this, value); }
@@ -612,10 +548,7 @@ constinit const s_class ColorSpaceEmissiveCIEXYZType::k_class = {
     .qualified_name = "Vyr:ColorSpaceEmissiveCIEXYZType",
     .base = &ColorSpaceType::k_class,
     .content = content_kind::children,
-    .may_be_empty = false,
     .ns_map = k_ns_map,
-    .nil_flag = k_no_flag,
-    .choice = k_no_flag,
     .id = &ColorSpaceEmissiveCIEXYZType::id,
     .xsi_type = "Vyr:ColorSpaceEmissiveCIEXYZType",
     .attributes = std::span(k_items).first(std::size(k_ColorSpaceEmissiveCIEXYZType_attributes) - 1),
@@ -625,25 +558,20 @@ constinit const s_class ColorSpaceEmissiveCIEXYZType::k_class = {
     .operations = &k_operations<ColorSpaceEmissiveCIEXYZType>,
 };
 
+namespace { const char k_ColorSpaceEmissiveCIEXYZType_id[] = "ColorSpaceEmissiveCIEXYZType"; }
+const char* ColorSpaceEmissiveCIEXYZType::id = k_ColorSpaceEmissiveCIEXYZType_id;
 ColorSpaceEmissiveCIEXYZType::ColorSpaceEmissiveCIEXYZType() = default;
 ColorSpaceEmissiveCIEXYZType::ColorSpaceEmissiveCIEXYZType(const ColorSpaceEmissiveCIEXYZType& other) : ColorSpaceType() { lmx::copy(k_class, this, &other); }
+ColorSpaceEmissiveCIEXYZType* ColorSpaceEmissiveCIEXYZType::clone() const { return new ColorSpaceEmissiveCIEXYZType(*this); }
 ColorSpaceEmissiveCIEXYZType::~ColorSpaceEmissiveCIEXYZType() = default;
 ColorSpaceEmissiveCIEXYZType& ColorSpaceEmissiveCIEXYZType::operator=(const ColorSpaceEmissiveCIEXYZType& other) { ColorSpaceEmissiveCIEXYZType copy(other); swap(copy); return *this; }
+const char* ColorSpaceEmissiveCIEXYZType::getid() const { return id; }
+bool ColorSpaceEmissiveCIEXYZType::has_id(const char* identity) const { return identity == id || ColorSpaceType::has_id(identity); }
+lmx::elmx_error ColorSpaceEmissiveCIEXYZType::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
+lmx::elmx_error ColorSpaceEmissiveCIEXYZType::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
 void ColorSpaceEmissiveCIEXYZType::swap(ColorSpaceEmissiveCIEXYZType& other) { lmx::swap(k_class, this, &other); }
 void ColorSpaceEmissiveCIEXYZType::reset() { ColorSpaceEmissiveCIEXYZType fresh; lmx::exchange(k_class, this, &fresh); }
 bool ColorSpaceEmissiveCIEXYZType::is_occurs_ok() const { return lmx::is_occurs_ok(k_class, this); }
-lmx::elmx_error ColorSpaceEmissiveCIEXYZType::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
-lmx::elmx_error ColorSpaceEmissiveCIEXYZType::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
-void ColorSpaceEmissiveCIEXYZType::marshal_attributes(lmx::c_xml_writer& writer) const { lmx::marshal_attributes(k_class, this, writer); }
-lmx::elmx_error ColorSpaceEmissiveCIEXYZType::marshal_child_elements(lmx::c_xml_writer& writer) const { return lmx::marshal_child_elements(k_class, this, writer); }
-bool ColorSpaceEmissiveCIEXYZType::unmarshal_attributes(lmx::c_xml_reader& reader, const std::string& name, lmx::elmx_error* error) { return lmx::unmarshal_attribute(k_class, this, reader, name, error); }
-lmx::elmx_error ColorSpaceEmissiveCIEXYZType::unmarshal_attributes_check(lmx::c_xml_reader& reader) { return lmx::check_required_attributes(k_class, this, reader); }
-bool ColorSpaceEmissiveCIEXYZType::unmarshal_body(lmx::c_xml_reader& reader, std::string* name, lmx::elmx_error* error) { return lmx::unmarshal_body(k_class, this, reader, name, error); }
-namespace { const char k_ColorSpaceEmissiveCIEXYZType_id[] = "ColorSpaceEmissiveCIEXYZType"; }
-const char* ColorSpaceEmissiveCIEXYZType::id = k_ColorSpaceEmissiveCIEXYZType_id;
-ColorSpaceEmissiveCIEXYZType* ColorSpaceEmissiveCIEXYZType::clone() const { return new ColorSpaceEmissiveCIEXYZType(*this); }
-const char* ColorSpaceEmissiveCIEXYZType::getid() const { return id; }
-bool ColorSpaceEmissiveCIEXYZType::has_id(const char* identity) const { return identity == id || ColorSpaceType::has_id(identity); }
 lmx::elmx_error ColorSpaceEmissiveCIEXYZType::set_Name(const std::u16string& value) { return lmx::set_item(k_class, k_items[item_Name], this, value); }
 ColorSpaceSpecificationEmissiveTristimulus& ColorSpaceEmissiveCIEXYZType::assign_ColorSpaceSpecificationEmissiveTristimulus(const ColorSpaceSpecificationEmissiveTristimulus& value) { return get_ColorSpaceSpecificationEmissiveTristimulus() = value; }
 lmx::elmx_error ColorSpaceEmissiveCIEXYZType::set_X(double value) { return lmx::set_item(k_class, k_items[item_X], this, value); }
@@ -683,10 +611,7 @@ constinit const s_class ColorSpaceEmissiveCIExyYType::k_class = {
     .qualified_name = "Vyr:ColorSpaceEmissiveCIExyYType",
     .base = &ColorSpaceType::k_class,
     .content = content_kind::children,
-    .may_be_empty = false,
     .ns_map = k_ns_map,
-    .nil_flag = k_no_flag,
-    .choice = k_no_flag,
     .id = &ColorSpaceEmissiveCIExyYType::id,
     .xsi_type = "Vyr:ColorSpaceEmissiveCIExyYType",
     .attributes = std::span(k_items).first(std::size(k_ColorSpaceEmissiveCIExyYType_attributes) - 1),
@@ -696,25 +621,20 @@ constinit const s_class ColorSpaceEmissiveCIExyYType::k_class = {
     .operations = &k_operations<ColorSpaceEmissiveCIExyYType>,
 };
 
+namespace { const char k_ColorSpaceEmissiveCIExyYType_id[] = "ColorSpaceEmissiveCIExyYType"; }
+const char* ColorSpaceEmissiveCIExyYType::id = k_ColorSpaceEmissiveCIExyYType_id;
 ColorSpaceEmissiveCIExyYType::ColorSpaceEmissiveCIExyYType() = default;
 ColorSpaceEmissiveCIExyYType::ColorSpaceEmissiveCIExyYType(const ColorSpaceEmissiveCIExyYType& other) : ColorSpaceType() { lmx::copy(k_class, this, &other); }
+ColorSpaceEmissiveCIExyYType* ColorSpaceEmissiveCIExyYType::clone() const { return new ColorSpaceEmissiveCIExyYType(*this); }
 ColorSpaceEmissiveCIExyYType::~ColorSpaceEmissiveCIExyYType() = default;
 ColorSpaceEmissiveCIExyYType& ColorSpaceEmissiveCIExyYType::operator=(const ColorSpaceEmissiveCIExyYType& other) { ColorSpaceEmissiveCIExyYType copy(other); swap(copy); return *this; }
+const char* ColorSpaceEmissiveCIExyYType::getid() const { return id; }
+bool ColorSpaceEmissiveCIExyYType::has_id(const char* identity) const { return identity == id || ColorSpaceType::has_id(identity); }
+lmx::elmx_error ColorSpaceEmissiveCIExyYType::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
+lmx::elmx_error ColorSpaceEmissiveCIExyYType::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
 void ColorSpaceEmissiveCIExyYType::swap(ColorSpaceEmissiveCIExyYType& other) { lmx::swap(k_class, this, &other); }
 void ColorSpaceEmissiveCIExyYType::reset() { ColorSpaceEmissiveCIExyYType fresh; lmx::exchange(k_class, this, &fresh); }
 bool ColorSpaceEmissiveCIExyYType::is_occurs_ok() const { return lmx::is_occurs_ok(k_class, this); }
-lmx::elmx_error ColorSpaceEmissiveCIExyYType::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
-lmx::elmx_error ColorSpaceEmissiveCIExyYType::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
-void ColorSpaceEmissiveCIExyYType::marshal_attributes(lmx::c_xml_writer& writer) const { lmx::marshal_attributes(k_class, this, writer); }
-lmx::elmx_error ColorSpaceEmissiveCIExyYType::marshal_child_elements(lmx::c_xml_writer& writer) const { return lmx::marshal_child_elements(k_class, this, writer); }
-bool ColorSpaceEmissiveCIExyYType::unmarshal_attributes(lmx::c_xml_reader& reader, const std::string& name, lmx::elmx_error* error) { return lmx::unmarshal_attribute(k_class, this, reader, name, error); }
-lmx::elmx_error ColorSpaceEmissiveCIExyYType::unmarshal_attributes_check(lmx::c_xml_reader& reader) { return lmx::check_required_attributes(k_class, this, reader); }
-bool ColorSpaceEmissiveCIExyYType::unmarshal_body(lmx::c_xml_reader& reader, std::string* name, lmx::elmx_error* error) { return lmx::unmarshal_body(k_class, this, reader, name, error); }
-namespace { const char k_ColorSpaceEmissiveCIExyYType_id[] = "ColorSpaceEmissiveCIExyYType"; }
-const char* ColorSpaceEmissiveCIExyYType::id = k_ColorSpaceEmissiveCIExyYType_id;
-ColorSpaceEmissiveCIExyYType* ColorSpaceEmissiveCIExyYType::clone() const { return new ColorSpaceEmissiveCIExyYType(*this); }
-const char* ColorSpaceEmissiveCIExyYType::getid() const { return id; }
-bool ColorSpaceEmissiveCIExyYType::has_id(const char* identity) const { return identity == id || ColorSpaceType::has_id(identity); }
 lmx::elmx_error ColorSpaceEmissiveCIExyYType::set_Name(const std::u16string& value) { return lmx::set_item(k_class, k_items[item_Name], this, value); }
 ColorSpaceSpecificationEmissiveTristimulus& ColorSpaceEmissiveCIExyYType::assign_ColorSpaceSpecificationEmissiveTristimulus(const ColorSpaceSpecificationEmissiveTristimulus& value) { return get_ColorSpaceSpecificationEmissiveTristimulus() = value; }
 lmx::elmx_error ColorSpaceEmissiveCIExyYType::set_X(double value) { return lmx::set_item(k_class, k_items[item_X], this, value); }
@@ -723,142 +643,121 @@ lmx::elmx_error ColorSpaceEmissiveCIExyYType::set_CapY(double value) { return lm
 
 // ColorSpaceCIELab
 
-lmx::elmx_error ColorSpaceCIELab::marshal(lmx::c_xml_writer& writer, const char* name) const {
-    writer.conditionally_select_ns_map(k_ns_map);
-    return ColorSpaceCIELabType::marshal(writer, name);
-}
-lmx::elmx_error ColorSpaceCIELab::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return ColorSpaceCIELabType::unmarshal(reader, name); }
 constinit const lmx::s_document ColorSpaceCIELab::k_document = {"Vyr:ColorSpaceCIELab", "ColorSpaceCIELab", k_ns_map, &lmx::k_operations<ColorSpaceCIELab>};
-const lmx::s_ns_map* ColorSpaceCIELab::ns_map() { return k_ns_map; }
-lmx::elmx_error ColorSpaceCIELab::unmarshal(lmx::c_xml_reader& reader) { return lmx::unmarshal_document(k_document, this, reader); }
 ColorSpaceCIELab::ColorSpaceCIELab(const char* file_name, lmx::elmx_error* error) : ColorSpaceCIELab() { *error = unmarshal(file_name); }
-lmx::elmx_error ColorSpaceCIELab::unmarshal(const char* file_name) { return lmx::unmarshal_document(k_document, this, file_name); }
 ColorSpaceCIELab::ColorSpaceCIELab(const char* data, std::size_t size, lmx::elmx_error* error) : ColorSpaceCIELab() { *error = unmarshal(data, size); }
-lmx::elmx_error ColorSpaceCIELab::unmarshal(const char* data, std::size_t size) { return lmx::unmarshal_document(k_document, this, data, size); }
 ColorSpaceCIELab::ColorSpaceCIELab(const std::string& text, lmx::elmx_error* error) : ColorSpaceCIELab() { *error = unmarshal(text.data(), text.size()); }
+const lmx::s_ns_map* ColorSpaceCIELab::ns_map() { return k_ns_map; }
+lmx::elmx_error ColorSpaceCIELab::unmarshal(const char* file_name) { return lmx::unmarshal_document(k_document, this, file_name); }
+lmx::elmx_error ColorSpaceCIELab::unmarshal(const char* data, std::size_t size) { return lmx::unmarshal_document(k_document, this, data, size); }
 lmx::elmx_error ColorSpaceCIELab::unmarshal(const std::string& text) { return lmx::unmarshal_document(k_document, this, text.data(), text.size()); }
+lmx::elmx_error ColorSpaceCIELab::unmarshal(lmx::c_xml_reader& reader) { return lmx::unmarshal_document(k_document, this, reader); }
 lmx::elmx_error ColorSpaceCIELab::marshal(const char* file_name) const { return lmx::marshal_document(k_document, this, file_name); }
 lmx::elmx_error ColorSpaceCIELab::marshal(std::string* text) const { return lmx::marshal_document(k_document, this, text); }
 lmx::elmx_error ColorSpaceCIELab::marshal(std::ostream& stream) const { return lmx::marshal_document(k_document, this, stream); }
+lmx::elmx_error ColorSpaceCIELab::marshal(lmx::c_xml_writer& writer, const char* name) const { writer.conditionally_select_ns_map(k_ns_map); return ColorSpaceCIELabType::marshal(writer, name); }
+lmx::elmx_error ColorSpaceCIELab::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return ColorSpaceCIELabType::unmarshal(reader, name); }
 
 // ColorSpaceCIELCh
 
-lmx::elmx_error ColorSpaceCIELCh::marshal(lmx::c_xml_writer& writer, const char* name) const {
-    writer.conditionally_select_ns_map(k_ns_map);
-    return ColorSpaceCIELChType::marshal(writer, name);
-}
-lmx::elmx_error ColorSpaceCIELCh::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return ColorSpaceCIELChType::unmarshal(reader, name); }
 constinit const lmx::s_document ColorSpaceCIELCh::k_document = {"Vyr:ColorSpaceCIELCh", "ColorSpaceCIELCh", k_ns_map, &lmx::k_operations<ColorSpaceCIELCh>};
-const lmx::s_ns_map* ColorSpaceCIELCh::ns_map() { return k_ns_map; }
-lmx::elmx_error ColorSpaceCIELCh::unmarshal(lmx::c_xml_reader& reader) { return lmx::unmarshal_document(k_document, this, reader); }
 ColorSpaceCIELCh::ColorSpaceCIELCh(const char* file_name, lmx::elmx_error* error) : ColorSpaceCIELCh() { *error = unmarshal(file_name); }
-lmx::elmx_error ColorSpaceCIELCh::unmarshal(const char* file_name) { return lmx::unmarshal_document(k_document, this, file_name); }
 ColorSpaceCIELCh::ColorSpaceCIELCh(const char* data, std::size_t size, lmx::elmx_error* error) : ColorSpaceCIELCh() { *error = unmarshal(data, size); }
-lmx::elmx_error ColorSpaceCIELCh::unmarshal(const char* data, std::size_t size) { return lmx::unmarshal_document(k_document, this, data, size); }
 ColorSpaceCIELCh::ColorSpaceCIELCh(const std::string& text, lmx::elmx_error* error) : ColorSpaceCIELCh() { *error = unmarshal(text.data(), text.size()); }
+const lmx::s_ns_map* ColorSpaceCIELCh::ns_map() { return k_ns_map; }
+lmx::elmx_error ColorSpaceCIELCh::unmarshal(const char* file_name) { return lmx::unmarshal_document(k_document, this, file_name); }
+lmx::elmx_error ColorSpaceCIELCh::unmarshal(const char* data, std::size_t size) { return lmx::unmarshal_document(k_document, this, data, size); }
 lmx::elmx_error ColorSpaceCIELCh::unmarshal(const std::string& text) { return lmx::unmarshal_document(k_document, this, text.data(), text.size()); }
+lmx::elmx_error ColorSpaceCIELCh::unmarshal(lmx::c_xml_reader& reader) { return lmx::unmarshal_document(k_document, this, reader); }
 lmx::elmx_error ColorSpaceCIELCh::marshal(const char* file_name) const { return lmx::marshal_document(k_document, this, file_name); }
 lmx::elmx_error ColorSpaceCIELCh::marshal(std::string* text) const { return lmx::marshal_document(k_document, this, text); }
 lmx::elmx_error ColorSpaceCIELCh::marshal(std::ostream& stream) const { return lmx::marshal_document(k_document, this, stream); }
+lmx::elmx_error ColorSpaceCIELCh::marshal(lmx::c_xml_writer& writer, const char* name) const { writer.conditionally_select_ns_map(k_ns_map); return ColorSpaceCIELChType::marshal(writer, name); }
+lmx::elmx_error ColorSpaceCIELCh::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return ColorSpaceCIELChType::unmarshal(reader, name); }
 
 // ColorSpaceCIEXYZ
 
-lmx::elmx_error ColorSpaceCIEXYZ::marshal(lmx::c_xml_writer& writer, const char* name) const {
-    writer.conditionally_select_ns_map(k_ns_map);
-    return ColorSpaceCIEXYZType::marshal(writer, name);
-}
-lmx::elmx_error ColorSpaceCIEXYZ::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return ColorSpaceCIEXYZType::unmarshal(reader, name); }
 constinit const lmx::s_document ColorSpaceCIEXYZ::k_document = {"Vyr:ColorSpaceCIEXYZ", "ColorSpaceCIEXYZ", k_ns_map, &lmx::k_operations<ColorSpaceCIEXYZ>};
-const lmx::s_ns_map* ColorSpaceCIEXYZ::ns_map() { return k_ns_map; }
-lmx::elmx_error ColorSpaceCIEXYZ::unmarshal(lmx::c_xml_reader& reader) { return lmx::unmarshal_document(k_document, this, reader); }
 ColorSpaceCIEXYZ::ColorSpaceCIEXYZ(const char* file_name, lmx::elmx_error* error) : ColorSpaceCIEXYZ() { *error = unmarshal(file_name); }
-lmx::elmx_error ColorSpaceCIEXYZ::unmarshal(const char* file_name) { return lmx::unmarshal_document(k_document, this, file_name); }
 ColorSpaceCIEXYZ::ColorSpaceCIEXYZ(const char* data, std::size_t size, lmx::elmx_error* error) : ColorSpaceCIEXYZ() { *error = unmarshal(data, size); }
-lmx::elmx_error ColorSpaceCIEXYZ::unmarshal(const char* data, std::size_t size) { return lmx::unmarshal_document(k_document, this, data, size); }
 ColorSpaceCIEXYZ::ColorSpaceCIEXYZ(const std::string& text, lmx::elmx_error* error) : ColorSpaceCIEXYZ() { *error = unmarshal(text.data(), text.size()); }
+const lmx::s_ns_map* ColorSpaceCIEXYZ::ns_map() { return k_ns_map; }
+lmx::elmx_error ColorSpaceCIEXYZ::unmarshal(const char* file_name) { return lmx::unmarshal_document(k_document, this, file_name); }
+lmx::elmx_error ColorSpaceCIEXYZ::unmarshal(const char* data, std::size_t size) { return lmx::unmarshal_document(k_document, this, data, size); }
 lmx::elmx_error ColorSpaceCIEXYZ::unmarshal(const std::string& text) { return lmx::unmarshal_document(k_document, this, text.data(), text.size()); }
+lmx::elmx_error ColorSpaceCIEXYZ::unmarshal(lmx::c_xml_reader& reader) { return lmx::unmarshal_document(k_document, this, reader); }
 lmx::elmx_error ColorSpaceCIEXYZ::marshal(const char* file_name) const { return lmx::marshal_document(k_document, this, file_name); }
 lmx::elmx_error ColorSpaceCIEXYZ::marshal(std::string* text) const { return lmx::marshal_document(k_document, this, text); }
 lmx::elmx_error ColorSpaceCIEXYZ::marshal(std::ostream& stream) const { return lmx::marshal_document(k_document, this, stream); }
+lmx::elmx_error ColorSpaceCIEXYZ::marshal(lmx::c_xml_writer& writer, const char* name) const { writer.conditionally_select_ns_map(k_ns_map); return ColorSpaceCIEXYZType::marshal(writer, name); }
+lmx::elmx_error ColorSpaceCIEXYZ::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return ColorSpaceCIEXYZType::unmarshal(reader, name); }
 
 // ColorSpaceEmissiveCIEXYZ
 
-lmx::elmx_error ColorSpaceEmissiveCIEXYZ::marshal(lmx::c_xml_writer& writer, const char* name) const {
-    writer.conditionally_select_ns_map(k_ns_map);
-    return ColorSpaceEmissiveCIEXYZType::marshal(writer, name);
-}
-lmx::elmx_error ColorSpaceEmissiveCIEXYZ::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return ColorSpaceEmissiveCIEXYZType::unmarshal(reader, name); }
 constinit const lmx::s_document ColorSpaceEmissiveCIEXYZ::k_document = {"Vyr:ColorSpaceEmissiveCIEXYZ", "ColorSpaceEmissiveCIEXYZ", k_ns_map, &lmx::k_operations<ColorSpaceEmissiveCIEXYZ>};
-const lmx::s_ns_map* ColorSpaceEmissiveCIEXYZ::ns_map() { return k_ns_map; }
-lmx::elmx_error ColorSpaceEmissiveCIEXYZ::unmarshal(lmx::c_xml_reader& reader) { return lmx::unmarshal_document(k_document, this, reader); }
 ColorSpaceEmissiveCIEXYZ::ColorSpaceEmissiveCIEXYZ(const char* file_name, lmx::elmx_error* error) : ColorSpaceEmissiveCIEXYZ() { *error = unmarshal(file_name); }
-lmx::elmx_error ColorSpaceEmissiveCIEXYZ::unmarshal(const char* file_name) { return lmx::unmarshal_document(k_document, this, file_name); }
 ColorSpaceEmissiveCIEXYZ::ColorSpaceEmissiveCIEXYZ(const char* data, std::size_t size, lmx::elmx_error* error) : ColorSpaceEmissiveCIEXYZ() { *error = unmarshal(data, size); }
-lmx::elmx_error ColorSpaceEmissiveCIEXYZ::unmarshal(const char* data, std::size_t size) { return lmx::unmarshal_document(k_document, this, data, size); }
 ColorSpaceEmissiveCIEXYZ::ColorSpaceEmissiveCIEXYZ(const std::string& text, lmx::elmx_error* error) : ColorSpaceEmissiveCIEXYZ() { *error = unmarshal(text.data(), text.size()); }
+const lmx::s_ns_map* ColorSpaceEmissiveCIEXYZ::ns_map() { return k_ns_map; }
+lmx::elmx_error ColorSpaceEmissiveCIEXYZ::unmarshal(const char* file_name) { return lmx::unmarshal_document(k_document, this, file_name); }
+lmx::elmx_error ColorSpaceEmissiveCIEXYZ::unmarshal(const char* data, std::size_t size) { return lmx::unmarshal_document(k_document, this, data, size); }
 lmx::elmx_error ColorSpaceEmissiveCIEXYZ::unmarshal(const std::string& text) { return lmx::unmarshal_document(k_document, this, text.data(), text.size()); }
+lmx::elmx_error ColorSpaceEmissiveCIEXYZ::unmarshal(lmx::c_xml_reader& reader) { return lmx::unmarshal_document(k_document, this, reader); }
 lmx::elmx_error ColorSpaceEmissiveCIEXYZ::marshal(const char* file_name) const { return lmx::marshal_document(k_document, this, file_name); }
 lmx::elmx_error ColorSpaceEmissiveCIEXYZ::marshal(std::string* text) const { return lmx::marshal_document(k_document, this, text); }
 lmx::elmx_error ColorSpaceEmissiveCIEXYZ::marshal(std::ostream& stream) const { return lmx::marshal_document(k_document, this, stream); }
+lmx::elmx_error ColorSpaceEmissiveCIEXYZ::marshal(lmx::c_xml_writer& writer, const char* name) const { writer.conditionally_select_ns_map(k_ns_map); return ColorSpaceEmissiveCIEXYZType::marshal(writer, name); }
+lmx::elmx_error ColorSpaceEmissiveCIEXYZ::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return ColorSpaceEmissiveCIEXYZType::unmarshal(reader, name); }
 
 // ColorSpaceCIExyY
 
-lmx::elmx_error ColorSpaceCIExyY::marshal(lmx::c_xml_writer& writer, const char* name) const {
-    writer.conditionally_select_ns_map(k_ns_map);
-    return ColorSpaceCIExyYType::marshal(writer, name);
-}
-lmx::elmx_error ColorSpaceCIExyY::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return ColorSpaceCIExyYType::unmarshal(reader, name); }
 constinit const lmx::s_document ColorSpaceCIExyY::k_document = {"Vyr:ColorSpaceCIExyY", "ColorSpaceCIExyY", k_ns_map, &lmx::k_operations<ColorSpaceCIExyY>};
-const lmx::s_ns_map* ColorSpaceCIExyY::ns_map() { return k_ns_map; }
-lmx::elmx_error ColorSpaceCIExyY::unmarshal(lmx::c_xml_reader& reader) { return lmx::unmarshal_document(k_document, this, reader); }
 ColorSpaceCIExyY::ColorSpaceCIExyY(const char* file_name, lmx::elmx_error* error) : ColorSpaceCIExyY() { *error = unmarshal(file_name); }
-lmx::elmx_error ColorSpaceCIExyY::unmarshal(const char* file_name) { return lmx::unmarshal_document(k_document, this, file_name); }
 ColorSpaceCIExyY::ColorSpaceCIExyY(const char* data, std::size_t size, lmx::elmx_error* error) : ColorSpaceCIExyY() { *error = unmarshal(data, size); }
-lmx::elmx_error ColorSpaceCIExyY::unmarshal(const char* data, std::size_t size) { return lmx::unmarshal_document(k_document, this, data, size); }
 ColorSpaceCIExyY::ColorSpaceCIExyY(const std::string& text, lmx::elmx_error* error) : ColorSpaceCIExyY() { *error = unmarshal(text.data(), text.size()); }
+const lmx::s_ns_map* ColorSpaceCIExyY::ns_map() { return k_ns_map; }
+lmx::elmx_error ColorSpaceCIExyY::unmarshal(const char* file_name) { return lmx::unmarshal_document(k_document, this, file_name); }
+lmx::elmx_error ColorSpaceCIExyY::unmarshal(const char* data, std::size_t size) { return lmx::unmarshal_document(k_document, this, data, size); }
 lmx::elmx_error ColorSpaceCIExyY::unmarshal(const std::string& text) { return lmx::unmarshal_document(k_document, this, text.data(), text.size()); }
+lmx::elmx_error ColorSpaceCIExyY::unmarshal(lmx::c_xml_reader& reader) { return lmx::unmarshal_document(k_document, this, reader); }
 lmx::elmx_error ColorSpaceCIExyY::marshal(const char* file_name) const { return lmx::marshal_document(k_document, this, file_name); }
 lmx::elmx_error ColorSpaceCIExyY::marshal(std::string* text) const { return lmx::marshal_document(k_document, this, text); }
 lmx::elmx_error ColorSpaceCIExyY::marshal(std::ostream& stream) const { return lmx::marshal_document(k_document, this, stream); }
+lmx::elmx_error ColorSpaceCIExyY::marshal(lmx::c_xml_writer& writer, const char* name) const { writer.conditionally_select_ns_map(k_ns_map); return ColorSpaceCIExyYType::marshal(writer, name); }
+lmx::elmx_error ColorSpaceCIExyY::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return ColorSpaceCIExyYType::unmarshal(reader, name); }
 
 // ColorSpaceEmissiveCIExyY
 
-lmx::elmx_error ColorSpaceEmissiveCIExyY::marshal(lmx::c_xml_writer& writer, const char* name) const {
-    writer.conditionally_select_ns_map(k_ns_map);
-    return ColorSpaceEmissiveCIExyYType::marshal(writer, name);
-}
-lmx::elmx_error ColorSpaceEmissiveCIExyY::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return ColorSpaceEmissiveCIExyYType::unmarshal(reader, name); }
 constinit const lmx::s_document ColorSpaceEmissiveCIExyY::k_document = {"Vyr:ColorSpaceEmissiveCIExyY", "ColorSpaceEmissiveCIExyY", k_ns_map, &lmx::k_operations<ColorSpaceEmissiveCIExyY>};
-const lmx::s_ns_map* ColorSpaceEmissiveCIExyY::ns_map() { return k_ns_map; }
-lmx::elmx_error ColorSpaceEmissiveCIExyY::unmarshal(lmx::c_xml_reader& reader) { return lmx::unmarshal_document(k_document, this, reader); }
 ColorSpaceEmissiveCIExyY::ColorSpaceEmissiveCIExyY(const char* file_name, lmx::elmx_error* error) : ColorSpaceEmissiveCIExyY() { *error = unmarshal(file_name); }
-lmx::elmx_error ColorSpaceEmissiveCIExyY::unmarshal(const char* file_name) { return lmx::unmarshal_document(k_document, this, file_name); }
 ColorSpaceEmissiveCIExyY::ColorSpaceEmissiveCIExyY(const char* data, std::size_t size, lmx::elmx_error* error) : ColorSpaceEmissiveCIExyY() { *error = unmarshal(data, size); }
-lmx::elmx_error ColorSpaceEmissiveCIExyY::unmarshal(const char* data, std::size_t size) { return lmx::unmarshal_document(k_document, this, data, size); }
 ColorSpaceEmissiveCIExyY::ColorSpaceEmissiveCIExyY(const std::string& text, lmx::elmx_error* error) : ColorSpaceEmissiveCIExyY() { *error = unmarshal(text.data(), text.size()); }
+const lmx::s_ns_map* ColorSpaceEmissiveCIExyY::ns_map() { return k_ns_map; }
+lmx::elmx_error ColorSpaceEmissiveCIExyY::unmarshal(const char* file_name) { return lmx::unmarshal_document(k_document, this, file_name); }
+lmx::elmx_error ColorSpaceEmissiveCIExyY::unmarshal(const char* data, std::size_t size) { return lmx::unmarshal_document(k_document, this, data, size); }
 lmx::elmx_error ColorSpaceEmissiveCIExyY::unmarshal(const std::string& text) { return lmx::unmarshal_document(k_document, this, text.data(), text.size()); }
+lmx::elmx_error ColorSpaceEmissiveCIExyY::unmarshal(lmx::c_xml_reader& reader) { return lmx::unmarshal_document(k_document, this, reader); }
 lmx::elmx_error ColorSpaceEmissiveCIExyY::marshal(const char* file_name) const { return lmx::marshal_document(k_document, this, file_name); }
 lmx::elmx_error ColorSpaceEmissiveCIExyY::marshal(std::string* text) const { return lmx::marshal_document(k_document, this, text); }
 lmx::elmx_error ColorSpaceEmissiveCIExyY::marshal(std::ostream& stream) const { return lmx::marshal_document(k_document, this, stream); }
+lmx::elmx_error ColorSpaceEmissiveCIExyY::marshal(lmx::c_xml_writer& writer, const char* name) const { writer.conditionally_select_ns_map(k_ns_map); return ColorSpaceEmissiveCIExyYType::marshal(writer, name); }
+lmx::elmx_error ColorSpaceEmissiveCIExyY::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return ColorSpaceEmissiveCIExyYType::unmarshal(reader, name); }
 
 // ColorSpaceCIELuv
 
-lmx::elmx_error ColorSpaceCIELuv::marshal(lmx::c_xml_writer& writer, const char* name) const {
-    writer.conditionally_select_ns_map(k_ns_map);
-    return ColorSpaceCIELuvType::marshal(writer, name);
-}
-lmx::elmx_error ColorSpaceCIELuv::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return ColorSpaceCIELuvType::unmarshal(reader, name); }
 constinit const lmx::s_document ColorSpaceCIELuv::k_document = {"Vyr:ColorSpaceCIELuv", "ColorSpaceCIELuv", k_ns_map, &lmx::k_operations<ColorSpaceCIELuv>};
-const lmx::s_ns_map* ColorSpaceCIELuv::ns_map() { return k_ns_map; }
-lmx::elmx_error ColorSpaceCIELuv::unmarshal(lmx::c_xml_reader& reader) { return lmx::unmarshal_document(k_document, this, reader); }
 ColorSpaceCIELuv::ColorSpaceCIELuv(const char* file_name, lmx::elmx_error* error) : ColorSpaceCIELuv() { *error = unmarshal(file_name); }
-lmx::elmx_error ColorSpaceCIELuv::unmarshal(const char* file_name) { return lmx::unmarshal_document(k_document, this, file_name); }
 ColorSpaceCIELuv::ColorSpaceCIELuv(const char* data, std::size_t size, lmx::elmx_error* error) : ColorSpaceCIELuv() { *error = unmarshal(data, size); }
-lmx::elmx_error ColorSpaceCIELuv::unmarshal(const char* data, std::size_t size) { return lmx::unmarshal_document(k_document, this, data, size); }
 ColorSpaceCIELuv::ColorSpaceCIELuv(const std::string& text, lmx::elmx_error* error) : ColorSpaceCIELuv() { *error = unmarshal(text.data(), text.size()); }
+const lmx::s_ns_map* ColorSpaceCIELuv::ns_map() { return k_ns_map; }
+lmx::elmx_error ColorSpaceCIELuv::unmarshal(const char* file_name) { return lmx::unmarshal_document(k_document, this, file_name); }
+lmx::elmx_error ColorSpaceCIELuv::unmarshal(const char* data, std::size_t size) { return lmx::unmarshal_document(k_document, this, data, size); }
 lmx::elmx_error ColorSpaceCIELuv::unmarshal(const std::string& text) { return lmx::unmarshal_document(k_document, this, text.data(), text.size()); }
+lmx::elmx_error ColorSpaceCIELuv::unmarshal(lmx::c_xml_reader& reader) { return lmx::unmarshal_document(k_document, this, reader); }
 lmx::elmx_error ColorSpaceCIELuv::marshal(const char* file_name) const { return lmx::marshal_document(k_document, this, file_name); }
 lmx::elmx_error ColorSpaceCIELuv::marshal(std::string* text) const { return lmx::marshal_document(k_document, this, text); }
 lmx::elmx_error ColorSpaceCIELuv::marshal(std::ostream& stream) const { return lmx::marshal_document(k_document, this, stream); }
+lmx::elmx_error ColorSpaceCIELuv::marshal(lmx::c_xml_writer& writer, const char* name) const { writer.conditionally_select_ns_map(k_ns_map); return ColorSpaceCIELuvType::marshal(writer, name); }
+lmx::elmx_error ColorSpaceCIELuv::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return ColorSpaceCIELuvType::unmarshal(reader, name); }
 
 }  // namespace com_vyrgraph_v2

@@ -15,6 +15,7 @@
 #include <iosfwd>
 #include <string>
 
+#include "lmx/binding/class_parts.h"
 #include "lmx/binding/table.h"
 #include "lmx/export.h"
 #include "schema/generated/conditions.h"
@@ -51,11 +52,11 @@ public:
     static const lmx::s_class k_class;
 
 protected:
-    void marshal_attributes(lmx::c_xml_writer& writer) const;
-    lmx::elmx_error marshal_child_elements(lmx::c_xml_writer& writer) const;
-    bool unmarshal_attributes(lmx::c_xml_reader& reader, const std::string& name, lmx::elmx_error* error);
-    lmx::elmx_error unmarshal_attributes_check(lmx::c_xml_reader& reader);
-    bool unmarshal_body(lmx::c_xml_reader& reader, std::string* name, lmx::elmx_error* error);
+    void marshal_attributes(lmx::c_xml_writer& writer) const { lmx::marshal_attributes(k_class, this, writer); }
+    lmx::elmx_error marshal_child_elements(lmx::c_xml_writer& writer) const { return lmx::marshal_child_elements(k_class, this, writer); }
+    bool unmarshal_attributes(lmx::c_xml_reader& reader, const std::string& name, lmx::elmx_error* error) { return lmx::unmarshal_attribute(k_class, this, reader, name, error); }
+    lmx::elmx_error unmarshal_attributes_check(lmx::c_xml_reader& reader) { return lmx::check_required_attributes(k_class, this, reader); }
+    bool unmarshal_body(lmx::c_xml_reader& reader, std::string* name, lmx::elmx_error* error) { return lmx::unmarshal_body(k_class, this, reader, name, error); }
 
 private:
     enum item : std::size_t {
@@ -131,11 +132,11 @@ public:
     static const lmx::s_class k_class;
 
 protected:
-    void marshal_attributes(lmx::c_xml_writer& writer) const;
-    lmx::elmx_error marshal_child_elements(lmx::c_xml_writer& writer) const;
-    bool unmarshal_attributes(lmx::c_xml_reader& reader, const std::string& name, lmx::elmx_error* error);
-    lmx::elmx_error unmarshal_attributes_check(lmx::c_xml_reader& reader);
-    bool unmarshal_body(lmx::c_xml_reader& reader, std::string* name, lmx::elmx_error* error);
+    void marshal_attributes(lmx::c_xml_writer& writer) const { lmx::marshal_attributes(k_class, this, writer); }
+    lmx::elmx_error marshal_child_elements(lmx::c_xml_writer& writer) const { return lmx::marshal_child_elements(k_class, this, writer); }
+    bool unmarshal_attributes(lmx::c_xml_reader& reader, const std::string& name, lmx::elmx_error* error) { return lmx::unmarshal_attribute(k_class, this, reader, name, error); }
+    lmx::elmx_error unmarshal_attributes_check(lmx::c_xml_reader& reader) { return lmx::check_required_attributes(k_class, this, reader); }
+    bool unmarshal_body(lmx::c_xml_reader& reader, std::string* name, lmx::elmx_error* error) { return lmx::unmarshal_body(k_class, this, reader, name, error); }
 
 private:
     enum item : std::size_t {
@@ -212,11 +213,11 @@ public:
     static const lmx::s_class k_class;
 
 protected:
-    void marshal_attributes(lmx::c_xml_writer& writer) const;
-    lmx::elmx_error marshal_child_elements(lmx::c_xml_writer& writer) const;
-    bool unmarshal_attributes(lmx::c_xml_reader& reader, const std::string& name, lmx::elmx_error* error);
-    lmx::elmx_error unmarshal_attributes_check(lmx::c_xml_reader& reader);
-    bool unmarshal_body(lmx::c_xml_reader& reader, std::string* name, lmx::elmx_error* error);
+    void marshal_attributes(lmx::c_xml_writer& writer) const { lmx::marshal_attributes(k_class, this, writer); }
+    lmx::elmx_error marshal_child_elements(lmx::c_xml_writer& writer) const { return lmx::marshal_child_elements(k_class, this, writer); }
+    bool unmarshal_attributes(lmx::c_xml_reader& reader, const std::string& name, lmx::elmx_error* error) { return lmx::unmarshal_attribute(k_class, this, reader, name, error); }
+    lmx::elmx_error unmarshal_attributes_check(lmx::c_xml_reader& reader) { return lmx::check_required_attributes(k_class, this, reader); }
+    bool unmarshal_body(lmx::c_xml_reader& reader, std::string* name, lmx::elmx_error* error) { return lmx::unmarshal_body(k_class, this, reader, name, error); }
 
 private:
     enum item : std::size_t {
@@ -285,11 +286,11 @@ public:
     static const lmx::s_class k_class;
 
 protected:
-    void marshal_attributes(lmx::c_xml_writer& writer) const;
-    lmx::elmx_error marshal_child_elements(lmx::c_xml_writer& writer) const;
-    bool unmarshal_attributes(lmx::c_xml_reader& reader, const std::string& name, lmx::elmx_error* error);
-    lmx::elmx_error unmarshal_attributes_check(lmx::c_xml_reader& reader);
-    bool unmarshal_body(lmx::c_xml_reader& reader, std::string* name, lmx::elmx_error* error);
+    void marshal_attributes(lmx::c_xml_writer& writer) const { lmx::marshal_attributes(k_class, this, writer); }
+    lmx::elmx_error marshal_child_elements(lmx::c_xml_writer& writer) const { return lmx::marshal_child_elements(k_class, this, writer); }
+    bool unmarshal_attributes(lmx::c_xml_reader& reader, const std::string& name, lmx::elmx_error* error) { return lmx::unmarshal_attribute(k_class, this, reader, name, error); }
+    lmx::elmx_error unmarshal_attributes_check(lmx::c_xml_reader& reader) { return lmx::check_required_attributes(k_class, this, reader); }
+    bool unmarshal_body(lmx::c_xml_reader& reader, std::string* name, lmx::elmx_error* error) { return lmx::unmarshal_body(k_class, this, reader, name, error); }
 
 private:
     enum item : std::size_t {
@@ -358,11 +359,11 @@ public:
     static const lmx::s_class k_class;
 
 protected:
-    void marshal_attributes(lmx::c_xml_writer& writer) const;
-    lmx::elmx_error marshal_child_elements(lmx::c_xml_writer& writer) const;
-    bool unmarshal_attributes(lmx::c_xml_reader& reader, const std::string& name, lmx::elmx_error* error);
-    lmx::elmx_error unmarshal_attributes_check(lmx::c_xml_reader& reader);
-    bool unmarshal_body(lmx::c_xml_reader& reader, std::string* name, lmx::elmx_error* error);
+    void marshal_attributes(lmx::c_xml_writer& writer) const { lmx::marshal_attributes(k_class, this, writer); }
+    lmx::elmx_error marshal_child_elements(lmx::c_xml_writer& writer) const { return lmx::marshal_child_elements(k_class, this, writer); }
+    bool unmarshal_attributes(lmx::c_xml_reader& reader, const std::string& name, lmx::elmx_error* error) { return lmx::unmarshal_attribute(k_class, this, reader, name, error); }
+    lmx::elmx_error unmarshal_attributes_check(lmx::c_xml_reader& reader) { return lmx::check_required_attributes(k_class, this, reader); }
+    bool unmarshal_body(lmx::c_xml_reader& reader, std::string* name, lmx::elmx_error* error) { return lmx::unmarshal_body(k_class, this, reader, name, error); }
 
 private:
     enum item : std::size_t {
@@ -431,11 +432,11 @@ public:
     static const lmx::s_class k_class;
 
 protected:
-    void marshal_attributes(lmx::c_xml_writer& writer) const;
-    lmx::elmx_error marshal_child_elements(lmx::c_xml_writer& writer) const;
-    bool unmarshal_attributes(lmx::c_xml_reader& reader, const std::string& name, lmx::elmx_error* error);
-    lmx::elmx_error unmarshal_attributes_check(lmx::c_xml_reader& reader);
-    bool unmarshal_body(lmx::c_xml_reader& reader, std::string* name, lmx::elmx_error* error);
+    void marshal_attributes(lmx::c_xml_writer& writer) const { lmx::marshal_attributes(k_class, this, writer); }
+    lmx::elmx_error marshal_child_elements(lmx::c_xml_writer& writer) const { return lmx::marshal_child_elements(k_class, this, writer); }
+    bool unmarshal_attributes(lmx::c_xml_reader& reader, const std::string& name, lmx::elmx_error* error) { return lmx::unmarshal_attribute(k_class, this, reader, name, error); }
+    lmx::elmx_error unmarshal_attributes_check(lmx::c_xml_reader& reader) { return lmx::check_required_attributes(k_class, this, reader); }
+    bool unmarshal_body(lmx::c_xml_reader& reader, std::string* name, lmx::elmx_error* error) { return lmx::unmarshal_body(k_class, this, reader, name, error); }
 
 private:
     enum item : std::size_t {
@@ -504,11 +505,11 @@ public:
     static const lmx::s_class k_class;
 
 protected:
-    void marshal_attributes(lmx::c_xml_writer& writer) const;
-    lmx::elmx_error marshal_child_elements(lmx::c_xml_writer& writer) const;
-    bool unmarshal_attributes(lmx::c_xml_reader& reader, const std::string& name, lmx::elmx_error* error);
-    lmx::elmx_error unmarshal_attributes_check(lmx::c_xml_reader& reader);
-    bool unmarshal_body(lmx::c_xml_reader& reader, std::string* name, lmx::elmx_error* error);
+    void marshal_attributes(lmx::c_xml_writer& writer) const { lmx::marshal_attributes(k_class, this, writer); }
+    lmx::elmx_error marshal_child_elements(lmx::c_xml_writer& writer) const { return lmx::marshal_child_elements(k_class, this, writer); }
+    bool unmarshal_attributes(lmx::c_xml_reader& reader, const std::string& name, lmx::elmx_error* error) { return lmx::unmarshal_attribute(k_class, this, reader, name, error); }
+    lmx::elmx_error unmarshal_attributes_check(lmx::c_xml_reader& reader) { return lmx::check_required_attributes(k_class, this, reader); }
+    bool unmarshal_body(lmx::c_xml_reader& reader, std::string* name, lmx::elmx_error* error) { return lmx::unmarshal_body(k_class, this, reader, name, error); }
 
 private:
     enum item : std::size_t {
@@ -577,11 +578,11 @@ public:
     static const lmx::s_class k_class;
 
 protected:
-    void marshal_attributes(lmx::c_xml_writer& writer) const;
-    lmx::elmx_error marshal_child_elements(lmx::c_xml_writer& writer) const;
-    bool unmarshal_attributes(lmx::c_xml_reader& reader, const std::string& name, lmx::elmx_error* error);
-    lmx::elmx_error unmarshal_attributes_check(lmx::c_xml_reader& reader);
-    bool unmarshal_body(lmx::c_xml_reader& reader, std::string* name, lmx::elmx_error* error);
+    void marshal_attributes(lmx::c_xml_writer& writer) const { lmx::marshal_attributes(k_class, this, writer); }
+    lmx::elmx_error marshal_child_elements(lmx::c_xml_writer& writer) const { return lmx::marshal_child_elements(k_class, this, writer); }
+    bool unmarshal_attributes(lmx::c_xml_reader& reader, const std::string& name, lmx::elmx_error* error) { return lmx::unmarshal_attribute(k_class, this, reader, name, error); }
+    lmx::elmx_error unmarshal_attributes_check(lmx::c_xml_reader& reader) { return lmx::check_required_attributes(k_class, this, reader); }
+    bool unmarshal_body(lmx::c_xml_reader& reader, std::string* name, lmx::elmx_error* error) { return lmx::unmarshal_body(k_class, this, reader, name, error); }
 
 private:
     enum item : std::size_t {
@@ -650,11 +651,11 @@ public:
     static const lmx::s_class k_class;
 
 protected:
-    void marshal_attributes(lmx::c_xml_writer& writer) const;
-    lmx::elmx_error marshal_child_elements(lmx::c_xml_writer& writer) const;
-    bool unmarshal_attributes(lmx::c_xml_reader& reader, const std::string& name, lmx::elmx_error* error);
-    lmx::elmx_error unmarshal_attributes_check(lmx::c_xml_reader& reader);
-    bool unmarshal_body(lmx::c_xml_reader& reader, std::string* name, lmx::elmx_error* error);
+    void marshal_attributes(lmx::c_xml_writer& writer) const { lmx::marshal_attributes(k_class, this, writer); }
+    lmx::elmx_error marshal_child_elements(lmx::c_xml_writer& writer) const { return lmx::marshal_child_elements(k_class, this, writer); }
+    bool unmarshal_attributes(lmx::c_xml_reader& reader, const std::string& name, lmx::elmx_error* error) { return lmx::unmarshal_attribute(k_class, this, reader, name, error); }
+    lmx::elmx_error unmarshal_attributes_check(lmx::c_xml_reader& reader) { return lmx::check_required_attributes(k_class, this, reader); }
+    bool unmarshal_body(lmx::c_xml_reader& reader, std::string* name, lmx::elmx_error* error) { return lmx::unmarshal_body(k_class, this, reader, name, error); }
 
 private:
     enum item : std::size_t {

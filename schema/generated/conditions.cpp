@@ -40,14 +40,8 @@ constinit const s_item DeviceFilterType::k_items[] = {
 constinit const s_class DeviceFilterType::k_class = {
     .name = "DeviceFilterType",
     .qualified_name = "Vyr:DeviceFilterType",
-    .base = nullptr,
     .content = content_kind::simple,
-    .may_be_empty = false,
     .ns_map = k_ns_map,
-    .nil_flag = k_no_flag,
-    .choice = k_no_flag,
-    .id = nullptr,
-    .xsi_type = nullptr,
     .attributes = std::span(k_items).first(std::size(k_DeviceFilterType_attributes) - 1),
     .elements = std::span(k_items).subspan(std::size(k_DeviceFilterType_attributes) - 1),
     .attribute_map = k_DeviceFilterType_attributes,
@@ -59,16 +53,11 @@ DeviceFilterType::DeviceFilterType() = default;
 DeviceFilterType::DeviceFilterType(const DeviceFilterType& other) { lmx::copy(k_class, this, &other); }
 DeviceFilterType::~DeviceFilterType() = default;
 DeviceFilterType& DeviceFilterType::operator=(const DeviceFilterType& other) { DeviceFilterType copy(other); swap(copy); return *this; }
+lmx::elmx_error DeviceFilterType::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
+lmx::elmx_error DeviceFilterType::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
 void DeviceFilterType::swap(DeviceFilterType& other) { lmx::swap(k_class, this, &other); }
 void DeviceFilterType::reset() { DeviceFilterType fresh; lmx::exchange(k_class, this, &fresh); }
 bool DeviceFilterType::is_occurs_ok() const { return lmx::is_occurs_ok(k_class, this); }
-lmx::elmx_error DeviceFilterType::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
-lmx::elmx_error DeviceFilterType::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
-void DeviceFilterType::marshal_attributes(lmx::c_xml_writer& writer) const { lmx::marshal_attributes(k_class, this, writer); }
-lmx::elmx_error DeviceFilterType::marshal_child_elements(lmx::c_xml_writer& writer) const { return lmx::marshal_child_elements(k_class, this, writer); }
-bool DeviceFilterType::unmarshal_attributes(lmx::c_xml_reader& reader, const std::string& name, lmx::elmx_error* error) { return lmx::unmarshal_attribute(k_class, this, reader, name, error); }
-lmx::elmx_error DeviceFilterType::unmarshal_attributes_check(lmx::c_xml_reader& reader) { return lmx::check_required_attributes(k_class, this, reader); }
-bool DeviceFilterType::unmarshal_body(lmx::c_xml_reader& reader, std::string* name, lmx::elmx_error* error, bool has_body) { return lmx::unmarshal_content(k_class, this, reader, name, error, has_body); }
 lmx::elmx_error DeviceFilterType::set_CustomOrPartial(const std::u16string& value) { return lmx::set_item(k_class, k_items[item_CustomOrPartial], this, value); }
 lmx::elmx_error DeviceFilterType::set_DeviceFilterType(const std::u16string& value) { return lmx::set_item(k_class, k_items[item_DeviceFilterType], this, value); }
 bool DeviceFilterType::setenum_DeviceFilterType(std::int32_t number) { return lmx::set_enumerated(k_class, k_items[item_DeviceFilterType], this, number); }
@@ -80,14 +69,7 @@ constinit const s_class DeviceFilter::k_class = {
     .qualified_name = "Vyr:DeviceFilter",
     .base = &DeviceFilterType::k_class,
     .content = content_kind::simple,
-    .may_be_empty = false,
-    .ns_map = nullptr,
     .nil_flag = LMX_FLAG(DeviceFilter, m_isnil),
-    .choice = k_no_flag,
-    .id = nullptr,
-    .xsi_type = nullptr,
-    .attributes = {},
-    .elements = {},
     .attribute_map = k_no_events,
     .element_map = k_no_events,
     .operations = &k_operations<DeviceFilter>,
@@ -97,26 +79,13 @@ DeviceFilter::DeviceFilter() = default;
 DeviceFilter::DeviceFilter(const DeviceFilter& other) : DeviceFilterType() { lmx::copy(k_class, this, &other); }
 DeviceFilter::~DeviceFilter() = default;
 DeviceFilter& DeviceFilter::operator=(const DeviceFilter& other) { DeviceFilter copy(other); swap(copy); return *this; }
+lmx::elmx_error DeviceFilter::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
+lmx::elmx_error DeviceFilter::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
 void DeviceFilter::swap(DeviceFilter& other) { lmx::swap(k_class, this, &other); }
 void DeviceFilter::reset() { DeviceFilter fresh; lmx::exchange(k_class, this, &fresh); }
 bool DeviceFilter::is_occurs_ok() const { return lmx::is_occurs_ok(k_class, this); }
-lmx::elmx_error DeviceFilter::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
-lmx::elmx_error DeviceFilter::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
-void DeviceFilter::marshal_attributes(lmx::c_xml_writer& writer) const { lmx::marshal_attributes(k_class, this, writer); }
-lmx::elmx_error DeviceFilter::marshal_child_elements(lmx::c_xml_writer& writer) const { return lmx::marshal_child_elements(k_class, this, writer); }
-bool DeviceFilter::unmarshal_attributes(lmx::c_xml_reader& reader, const std::string& name, lmx::elmx_error* error) { return lmx::unmarshal_attribute(k_class, this, reader, name, error); }
-lmx::elmx_error DeviceFilter::unmarshal_attributes_check(lmx::c_xml_reader& reader) { return lmx::check_required_attributes(k_class, this, reader); }
-bool DeviceFilter::unmarshal_body(lmx::c_xml_reader& reader, std::string* name, lmx::elmx_error* error, bool has_body) { return lmx::unmarshal_content(k_class, this, reader, name, error, has_body); }
-lmx::elmx_error DeviceFilter::set_DeviceFilterType(const std::u16string& value) {
-    const lmx::elmx_error error = DeviceFilterType::set_DeviceFilterType(value);
-    if (error == lmx::ELMX_OK) m_isnil = false;
-    return error;
-}
-bool DeviceFilter::setenum_DeviceFilterType(std::int32_t number) {
-    const bool is_set = DeviceFilterType::setenum_DeviceFilterType(number);
-    if (is_set) m_isnil = false;
-    return is_set;
-}
+lmx::elmx_error DeviceFilter::set_DeviceFilterType(const std::u16string& value) { const lmx::elmx_error error = DeviceFilterType::set_DeviceFilterType(value); if (error == lmx::ELMX_OK) m_isnil = false; return error; }
+bool DeviceFilter::setenum_DeviceFilterType(std::int32_t number) { const bool is_set = DeviceFilterType::setenum_DeviceFilterType(number); if (is_set) m_isnil = false; return is_set; }
 
 // DevicePolarization
 
@@ -127,15 +96,8 @@ constinit const s_item DevicePolarization::k_items[] = {
 constinit const s_class DevicePolarization::k_class = {
     .name = "DevicePolarization",
     .qualified_name = "Vyr:DevicePolarization",
-    .base = nullptr,
     .content = content_kind::simple,
-    .may_be_empty = false,
-    .ns_map = nullptr,
     .nil_flag = LMX_FLAG(DevicePolarization, m_isnil),
-    .choice = k_no_flag,
-    .id = nullptr,
-    .xsi_type = nullptr,
-    .attributes = std::span(k_items).first(std::size(k_no_events) - 1),
     .elements = std::span(k_items).subspan(std::size(k_no_events) - 1),
     .attribute_map = k_no_events,
     .element_map = k_no_events,
@@ -146,16 +108,11 @@ DevicePolarization::DevicePolarization() = default;
 DevicePolarization::DevicePolarization(const DevicePolarization& other) { lmx::copy(k_class, this, &other); }
 DevicePolarization::~DevicePolarization() = default;
 DevicePolarization& DevicePolarization::operator=(const DevicePolarization& other) { DevicePolarization copy(other); swap(copy); return *this; }
+lmx::elmx_error DevicePolarization::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
+lmx::elmx_error DevicePolarization::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
 void DevicePolarization::swap(DevicePolarization& other) { lmx::swap(k_class, this, &other); }
 void DevicePolarization::reset() { DevicePolarization fresh; lmx::exchange(k_class, this, &fresh); }
 bool DevicePolarization::is_occurs_ok() const { return lmx::is_occurs_ok(k_class, this); }
-lmx::elmx_error DevicePolarization::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
-lmx::elmx_error DevicePolarization::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
-void DevicePolarization::marshal_attributes(lmx::c_xml_writer& writer) const { lmx::marshal_attributes(k_class, this, writer); }
-lmx::elmx_error DevicePolarization::marshal_child_elements(lmx::c_xml_writer& writer) const { return lmx::marshal_child_elements(k_class, this, writer); }
-bool DevicePolarization::unmarshal_attributes(lmx::c_xml_reader& reader, const std::string& name, lmx::elmx_error* error) { return lmx::unmarshal_attribute(k_class, this, reader, name, error); }
-lmx::elmx_error DevicePolarization::unmarshal_attributes_check(lmx::c_xml_reader& reader) { return lmx::check_required_attributes(k_class, this, reader); }
-bool DevicePolarization::unmarshal_body(lmx::c_xml_reader& reader, std::string* name, lmx::elmx_error* error, bool has_body) { return lmx::unmarshal_content(k_class, this, reader, name, error, has_body); }
 lmx::elmx_error DevicePolarization::set_DevicePolarization(bool value) { return lmx::set_item(k_class, k_items[item_DevicePolarization], this, value); }
 
 // ColorSpaceSpecificationType
@@ -208,12 +165,8 @@ constinit const s_factory_row ColorSpaceSpecificationType::k_factory[] = {
 constinit const s_class ColorSpaceSpecificationType::k_class = {
     .name = "ColorSpaceSpecificationType",
     .qualified_name = "Vyr:ColorSpaceSpecificationType",
-    .base = nullptr,
     .content = content_kind::children,
-    .may_be_empty = false,
     .ns_map = k_ns_map,
-    .nil_flag = k_no_flag,
-    .choice = k_no_flag,
     .id = &ColorSpaceSpecificationType::id,
     .xsi_type = "Vyr:ColorSpaceSpecificationType",
     .attributes = std::span(k_items).first(std::size(k_ColorSpaceSpecificationType_attributes) - 1),
@@ -223,26 +176,20 @@ constinit const s_class ColorSpaceSpecificationType::k_class = {
     .operations = &k_operations<ColorSpaceSpecificationType>,
 };
 
+namespace { const char k_ColorSpaceSpecificationType_id[] = "ColorSpaceSpecificationType"; }
+const char* ColorSpaceSpecificationType::id = k_ColorSpaceSpecificationType_id;
 ColorSpaceSpecificationType::ColorSpaceSpecificationType() = default;
 ColorSpaceSpecificationType::ColorSpaceSpecificationType(const ColorSpaceSpecificationType& other) { lmx::copy(k_class, this, &other); }
+ColorSpaceSpecificationType* ColorSpaceSpecificationType::clone() const { return new ColorSpaceSpecificationType(*this); }
 ColorSpaceSpecificationType::~ColorSpaceSpecificationType() = default;
 ColorSpaceSpecificationType& ColorSpaceSpecificationType::operator=(const ColorSpaceSpecificationType& other) { ColorSpaceSpecificationType copy(other); swap(copy); return *this; }
+const char* ColorSpaceSpecificationType::getid() const { return id; }
+bool ColorSpaceSpecificationType::has_id(const char* identity) const { return identity == id; }
+lmx::elmx_error ColorSpaceSpecificationType::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
+lmx::elmx_error ColorSpaceSpecificationType::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
 void ColorSpaceSpecificationType::swap(ColorSpaceSpecificationType& other) { lmx::swap(k_class, this, &other); }
 void ColorSpaceSpecificationType::reset() { ColorSpaceSpecificationType fresh; lmx::exchange(k_class, this, &fresh); }
 bool ColorSpaceSpecificationType::is_occurs_ok() const { return lmx::is_occurs_ok(k_class, this); }
-lmx::elmx_error ColorSpaceSpecificationType::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
-lmx::elmx_error ColorSpaceSpecificationType::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
-void ColorSpaceSpecificationType::marshal_attributes(lmx::c_xml_writer& writer) const { lmx::marshal_attributes(k_class, this, writer); }
-lmx::elmx_error ColorSpaceSpecificationType::marshal_child_elements(lmx::c_xml_writer& writer) const { return lmx::marshal_child_elements(k_class, this, writer); }
-bool ColorSpaceSpecificationType::unmarshal_attributes(lmx::c_xml_reader& reader, const std::string& name, lmx::elmx_error* error) { return lmx::unmarshal_attribute(k_class, this, reader, name, error); }
-lmx::elmx_error ColorSpaceSpecificationType::unmarshal_attributes_check(lmx::c_xml_reader& reader) { return lmx::check_required_attributes(k_class, this, reader); }
-bool ColorSpaceSpecificationType::unmarshal_body(lmx::c_xml_reader& reader, std::string* name, lmx::elmx_error* error) { return lmx::unmarshal_body(k_class, this, reader, name, error); }
-namespace { const char k_ColorSpaceSpecificationType_id[] = "ColorSpaceSpecificationType"; }
-const char* ColorSpaceSpecificationType::id = k_ColorSpaceSpecificationType_id;
-ColorSpaceSpecificationType* ColorSpaceSpecificationType::clone() const { return new ColorSpaceSpecificationType(*this); }
-const char* ColorSpaceSpecificationType::getid() const { return id; }
-bool ColorSpaceSpecificationType::has_id(const char* identity) const { return identity == id; }
-ColorSpaceSpecificationType* ColorSpaceSpecificationType::factory(int ns_id, const std::string& name) { return static_cast<ColorSpaceSpecificationType*>(lmx::create_by_name(k_factory, ns_id, name)); }
 lmx::elmx_error ColorSpaceSpecificationType::set_Comments(const std::u16string& value) { return lmx::set_item(k_class, k_items[item_Comments], this, value); }
 lmx::elmx_error ColorSpaceSpecificationType::set_UniqueID(const std::u16string& value) { return lmx::set_item(k_class, k_items[item_UniqueID], this, value); }
 CustomAttributeType& ColorSpaceSpecificationType::get_CustomAttribute(std::size_t index) { return m_CustomAttribute.grow_to(index); }
@@ -264,6 +211,7 @@ lmx::elmx_error ColorSpaceSpecificationType::append_ChangeHistory(const lmx::c_d
 lmx::elmx_error ColorSpaceSpecificationType::insert_ChangeHistory(std::size_t index, const lmx::c_datetime& value) { return lmx::insert_entry(k_items[item_ChangeHistory], this, index, value); }
 void ColorSpaceSpecificationType::delete_ChangeHistory(std::size_t index) { m_ChangeHistory.erase(index); }
 void ColorSpaceSpecificationType::clear_ChangeHistory() { m_ChangeHistory.clear(); }
+ColorSpaceSpecificationType* ColorSpaceSpecificationType::factory(int ns_id, const std::string& name) { return static_cast<ColorSpaceSpecificationType*>(lmx::create_by_name(k_factory, ns_id, name)); }
 
 // SpectrumType
 
@@ -283,14 +231,8 @@ constinit const s_item SpectrumType::k_items[] = {
 constinit const s_class SpectrumType::k_class = {
     .name = "SpectrumType",
     .qualified_name = "Vyr:SpectrumType",
-    .base = nullptr,
     .content = content_kind::simple,
-    .may_be_empty = false,
     .ns_map = k_ns_map,
-    .nil_flag = k_no_flag,
-    .choice = k_no_flag,
-    .id = nullptr,
-    .xsi_type = nullptr,
     .attributes = std::span(k_items).first(std::size(k_SpectrumType_attributes) - 1),
     .elements = std::span(k_items).subspan(std::size(k_SpectrumType_attributes) - 1),
     .attribute_map = k_SpectrumType_attributes,
@@ -302,16 +244,11 @@ SpectrumType::SpectrumType() = default;
 SpectrumType::SpectrumType(const SpectrumType& other) { lmx::copy(k_class, this, &other); }
 SpectrumType::~SpectrumType() = default;
 SpectrumType& SpectrumType::operator=(const SpectrumType& other) { SpectrumType copy(other); swap(copy); return *this; }
+lmx::elmx_error SpectrumType::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
+lmx::elmx_error SpectrumType::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
 void SpectrumType::swap(SpectrumType& other) { lmx::swap(k_class, this, &other); }
 void SpectrumType::reset() { SpectrumType fresh; lmx::exchange(k_class, this, &fresh); }
 bool SpectrumType::is_occurs_ok() const { return lmx::is_occurs_ok(k_class, this); }
-lmx::elmx_error SpectrumType::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
-lmx::elmx_error SpectrumType::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
-void SpectrumType::marshal_attributes(lmx::c_xml_writer& writer) const { lmx::marshal_attributes(k_class, this, writer); }
-lmx::elmx_error SpectrumType::marshal_child_elements(lmx::c_xml_writer& writer) const { return lmx::marshal_child_elements(k_class, this, writer); }
-bool SpectrumType::unmarshal_attributes(lmx::c_xml_reader& reader, const std::string& name, lmx::elmx_error* error) { return lmx::unmarshal_attribute(k_class, this, reader, name, error); }
-lmx::elmx_error SpectrumType::unmarshal_attributes_check(lmx::c_xml_reader& reader) { return lmx::check_required_attributes(k_class, this, reader); }
-bool SpectrumType::unmarshal_body(lmx::c_xml_reader& reader, std::string* name, lmx::elmx_error* error, bool has_body) { return lmx::unmarshal_content(k_class, this, reader, name, error, has_body); }
 lmx::elmx_error SpectrumType::set_CustomTypeName(const std::u16string& value) { return lmx::set_item(k_class, k_items[item_CustomTypeName], this, value); }
 lmx::elmx_error SpectrumType::set_SpectrumType(const std::u16string& value) { return lmx::set_item(k_class, k_items[item_SpectrumType], this, value); }
 bool SpectrumType::setenum_SpectrumType(std::int32_t number) { return lmx::set_enumerated(k_class, k_items[item_SpectrumType], this, number); }
@@ -340,40 +277,31 @@ constinit const s_class ColorSpaceSpecificationSpectrumType::k_class = {
     .qualified_name = "Vyr:ColorSpaceSpecificationSpectrumType",
     .base = &ColorSpaceSpecificationType::k_class,
     .content = content_kind::children,
-    .may_be_empty = false,
     .ns_map = k_ns_map,
-    .nil_flag = k_no_flag,
-    .choice = k_no_flag,
     .id = &ColorSpaceSpecificationSpectrumType::id,
     .xsi_type = "Vyr:ColorSpaceSpecificationSpectrumType",
-    .attributes = std::span(k_items).first(std::size(k_no_events) - 1),
     .elements = std::span(k_items).subspan(std::size(k_no_events) - 1),
     .attribute_map = k_no_events,
     .element_map = k_ColorSpaceSpecificationSpectrumType_elements,
     .operations = &k_operations<ColorSpaceSpecificationSpectrumType>,
 };
 
+namespace { const char k_ColorSpaceSpecificationSpectrumType_id[] = "ColorSpaceSpecificationSpectrumType"; }
+const char* ColorSpaceSpecificationSpectrumType::id = k_ColorSpaceSpecificationSpectrumType_id;
 ColorSpaceSpecificationSpectrumType::ColorSpaceSpecificationSpectrumType() = default;
 ColorSpaceSpecificationSpectrumType::ColorSpaceSpecificationSpectrumType(const ColorSpaceSpecificationSpectrumType& other) : ColorSpaceSpecificationType() { lmx::copy(k_class, this, &other); }
+ColorSpaceSpecificationSpectrumType* ColorSpaceSpecificationSpectrumType::clone() const { return new ColorSpaceSpecificationSpectrumType(*this); }
 ColorSpaceSpecificationSpectrumType::~ColorSpaceSpecificationSpectrumType() = default;
 ColorSpaceSpecificationSpectrumType& ColorSpaceSpecificationSpectrumType::operator=(const ColorSpaceSpecificationSpectrumType& other) { ColorSpaceSpecificationSpectrumType copy(other); swap(copy); return *this; }
+const char* ColorSpaceSpecificationSpectrumType::getid() const { return id; }
+bool ColorSpaceSpecificationSpectrumType::has_id(const char* identity) const { return identity == id || ColorSpaceSpecificationType::has_id(identity); }
+lmx::elmx_error ColorSpaceSpecificationSpectrumType::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
+lmx::elmx_error ColorSpaceSpecificationSpectrumType::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
 void ColorSpaceSpecificationSpectrumType::swap(ColorSpaceSpecificationSpectrumType& other) { lmx::swap(k_class, this, &other); }
 void ColorSpaceSpecificationSpectrumType::reset() { ColorSpaceSpecificationSpectrumType fresh; lmx::exchange(k_class, this, &fresh); }
 bool ColorSpaceSpecificationSpectrumType::is_occurs_ok() const { return lmx::is_occurs_ok(k_class, this); }
-lmx::elmx_error ColorSpaceSpecificationSpectrumType::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
-lmx::elmx_error ColorSpaceSpecificationSpectrumType::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
-void ColorSpaceSpecificationSpectrumType::marshal_attributes(lmx::c_xml_writer& writer) const { lmx::marshal_attributes(k_class, this, writer); }
-lmx::elmx_error ColorSpaceSpecificationSpectrumType::marshal_child_elements(lmx::c_xml_writer& writer) const { return lmx::marshal_child_elements(k_class, this, writer); }
-bool ColorSpaceSpecificationSpectrumType::unmarshal_attributes(lmx::c_xml_reader& reader, const std::string& name, lmx::elmx_error* error) { return lmx::unmarshal_attribute(k_class, this, reader, name, error); }
-lmx::elmx_error ColorSpaceSpecificationSpectrumType::unmarshal_attributes_check(lmx::c_xml_reader& reader) { return lmx::check_required_attributes(k_class, this, reader); }
-bool ColorSpaceSpecificationSpectrumType::unmarshal_body(lmx::c_xml_reader& reader, std::string* name, lmx::elmx_error* error) { return lmx::unmarshal_body(k_class, this, reader, name, error); }
-namespace { const char k_ColorSpaceSpecificationSpectrumType_id[] = "ColorSpaceSpecificationSpectrumType"; }
-const char* ColorSpaceSpecificationSpectrumType::id = k_ColorSpaceSpecificationSpectrumType_id;
-ColorSpaceSpecificationSpectrumType* ColorSpaceSpecificationSpectrumType::clone() const { return new ColorSpaceSpecificationSpectrumType(*this); }
-const char* ColorSpaceSpecificationSpectrumType::getid() const { return id; }
-bool ColorSpaceSpecificationSpectrumType::has_id(const char* identity) const { return identity == id || ColorSpaceSpecificationType::has_id(identity); }
-ColorSpaceSpecificationSpectrumType* ColorSpaceSpecificationSpectrumType::factory(int ns_id, const std::string& name) { return static_cast<ColorSpaceSpecificationSpectrumType*>(lmx::create_by_name(k_factory, ns_id, name)); }
 SpectrumType& ColorSpaceSpecificationSpectrumType::assign_Spectrum(const SpectrumType& value) { return get_Spectrum() = value; }
+ColorSpaceSpecificationSpectrumType* ColorSpaceSpecificationSpectrumType::factory(int ns_id, const std::string& name) { return static_cast<ColorSpaceSpecificationSpectrumType*>(lmx::create_by_name(k_factory, ns_id, name)); }
 
 // ColorSpaceSpecificationEmissiveType
 
@@ -402,43 +330,34 @@ constinit const s_class ColorSpaceSpecificationEmissiveType::k_class = {
     .qualified_name = "Vyr:ColorSpaceSpecificationEmissiveType",
     .base = &ColorSpaceSpecificationType::k_class,
     .content = content_kind::children,
-    .may_be_empty = false,
     .ns_map = k_ns_map,
-    .nil_flag = k_no_flag,
-    .choice = k_no_flag,
     .id = &ColorSpaceSpecificationEmissiveType::id,
     .xsi_type = "Vyr:ColorSpaceSpecificationEmissiveType",
-    .attributes = std::span(k_items).first(std::size(k_no_events) - 1),
     .elements = std::span(k_items).subspan(std::size(k_no_events) - 1),
     .attribute_map = k_no_events,
     .element_map = k_ColorSpaceSpecificationEmissiveType_elements,
     .operations = &k_operations<ColorSpaceSpecificationEmissiveType>,
 };
 
+namespace { const char k_ColorSpaceSpecificationEmissiveType_id[] = "ColorSpaceSpecificationEmissiveType"; }
+const char* ColorSpaceSpecificationEmissiveType::id = k_ColorSpaceSpecificationEmissiveType_id;
 ColorSpaceSpecificationEmissiveType::ColorSpaceSpecificationEmissiveType() = default;
 ColorSpaceSpecificationEmissiveType::ColorSpaceSpecificationEmissiveType(const ColorSpaceSpecificationEmissiveType& other) : ColorSpaceSpecificationType() { lmx::copy(k_class, this, &other); }
+ColorSpaceSpecificationEmissiveType* ColorSpaceSpecificationEmissiveType::clone() const { return new ColorSpaceSpecificationEmissiveType(*this); }
 ColorSpaceSpecificationEmissiveType::~ColorSpaceSpecificationEmissiveType() = default;
 ColorSpaceSpecificationEmissiveType& ColorSpaceSpecificationEmissiveType::operator=(const ColorSpaceSpecificationEmissiveType& other) { ColorSpaceSpecificationEmissiveType copy(other); swap(copy); return *this; }
+const char* ColorSpaceSpecificationEmissiveType::getid() const { return id; }
+bool ColorSpaceSpecificationEmissiveType::has_id(const char* identity) const { return identity == id || ColorSpaceSpecificationType::has_id(identity); }
+lmx::elmx_error ColorSpaceSpecificationEmissiveType::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
+lmx::elmx_error ColorSpaceSpecificationEmissiveType::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
 void ColorSpaceSpecificationEmissiveType::swap(ColorSpaceSpecificationEmissiveType& other) { lmx::swap(k_class, this, &other); }
 void ColorSpaceSpecificationEmissiveType::reset() { ColorSpaceSpecificationEmissiveType fresh; lmx::exchange(k_class, this, &fresh); }
 bool ColorSpaceSpecificationEmissiveType::is_occurs_ok() const { return lmx::is_occurs_ok(k_class, this); }
-lmx::elmx_error ColorSpaceSpecificationEmissiveType::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
-lmx::elmx_error ColorSpaceSpecificationEmissiveType::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
-void ColorSpaceSpecificationEmissiveType::marshal_attributes(lmx::c_xml_writer& writer) const { lmx::marshal_attributes(k_class, this, writer); }
-lmx::elmx_error ColorSpaceSpecificationEmissiveType::marshal_child_elements(lmx::c_xml_writer& writer) const { return lmx::marshal_child_elements(k_class, this, writer); }
-bool ColorSpaceSpecificationEmissiveType::unmarshal_attributes(lmx::c_xml_reader& reader, const std::string& name, lmx::elmx_error* error) { return lmx::unmarshal_attribute(k_class, this, reader, name, error); }
-lmx::elmx_error ColorSpaceSpecificationEmissiveType::unmarshal_attributes_check(lmx::c_xml_reader& reader) { return lmx::check_required_attributes(k_class, this, reader); }
-bool ColorSpaceSpecificationEmissiveType::unmarshal_body(lmx::c_xml_reader& reader, std::string* name, lmx::elmx_error* error) { return lmx::unmarshal_body(k_class, this, reader, name, error); }
-namespace { const char k_ColorSpaceSpecificationEmissiveType_id[] = "ColorSpaceSpecificationEmissiveType"; }
-const char* ColorSpaceSpecificationEmissiveType::id = k_ColorSpaceSpecificationEmissiveType_id;
-ColorSpaceSpecificationEmissiveType* ColorSpaceSpecificationEmissiveType::clone() const { return new ColorSpaceSpecificationEmissiveType(*this); }
-const char* ColorSpaceSpecificationEmissiveType::getid() const { return id; }
-bool ColorSpaceSpecificationEmissiveType::has_id(const char* identity) const { return identity == id || ColorSpaceSpecificationType::has_id(identity); }
-ColorSpaceSpecificationEmissiveType* ColorSpaceSpecificationEmissiveType::factory(int ns_id, const std::string& name) { return static_cast<ColorSpaceSpecificationEmissiveType*>(lmx::create_by_name(k_factory, ns_id, name)); }
 lmx::elmx_error ColorSpaceSpecificationEmissiveType::set_EmissiveType(const std::u16string& value) { return lmx::set_item(k_class, k_items[item_EmissiveType], this, value); }
 bool ColorSpaceSpecificationEmissiveType::setenum_EmissiveType(std::int32_t number) { return lmx::set_enumerated(k_class, k_items[item_EmissiveType], this, number); }
 lmx::elmx_error ColorSpaceSpecificationEmissiveType::set_EmissiveMode(const std::u16string& value) { return lmx::set_item(k_class, k_items[item_EmissiveMode], this, value); }
 bool ColorSpaceSpecificationEmissiveType::setenum_EmissiveMode(std::int32_t number) { return lmx::set_enumerated(k_class, k_items[item_EmissiveMode], this, number); }
+ColorSpaceSpecificationEmissiveType* ColorSpaceSpecificationEmissiveType::factory(int ns_id, const std::string& name) { return static_cast<ColorSpaceSpecificationEmissiveType*>(lmx::create_by_name(k_factory, ns_id, name)); }
 
 // GeometryChoiceType
 
@@ -465,15 +384,9 @@ constinit const s_item GeometryChoiceType::k_items[] = {
 constinit const s_class GeometryChoiceType::k_class = {
     .name = "GeometryChoiceType",
     .qualified_name = "Vyr:GeometryChoiceType",
-    .base = nullptr,
     .content = content_kind::choice,
-    .may_be_empty = false,
     .ns_map = k_ns_map,
-    .nil_flag = k_no_flag,
     .choice = LMX_CHOICE(GeometryChoiceType, m_choice),
-    .id = nullptr,
-    .xsi_type = nullptr,
-    .attributes = std::span(k_items).first(std::size(k_no_events) - 1),
     .elements = std::span(k_items).subspan(std::size(k_no_events) - 1),
     .attribute_map = k_no_events,
     .element_map = k_GeometryChoiceType_elements,
@@ -484,16 +397,11 @@ GeometryChoiceType::GeometryChoiceType() = default;
 GeometryChoiceType::GeometryChoiceType(const GeometryChoiceType& other) : GeometryChoiceType() { lmx::copy(k_class, this, &other); }
 GeometryChoiceType::~GeometryChoiceType() { lmx::release_choice(k_class, this); }
 GeometryChoiceType& GeometryChoiceType::operator=(const GeometryChoiceType& other) { GeometryChoiceType copy(other); swap(copy); return *this; }
+lmx::elmx_error GeometryChoiceType::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
+lmx::elmx_error GeometryChoiceType::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
 void GeometryChoiceType::swap(GeometryChoiceType& other) { lmx::swap(k_class, this, &other); }
 void GeometryChoiceType::reset() { GeometryChoiceType fresh; lmx::exchange(k_class, this, &fresh); }
 bool GeometryChoiceType::is_occurs_ok() const { return lmx::is_occurs_ok(k_class, this); }
-lmx::elmx_error GeometryChoiceType::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
-lmx::elmx_error GeometryChoiceType::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
-void GeometryChoiceType::marshal_attributes(lmx::c_xml_writer& writer) const { lmx::marshal_attributes(k_class, this, writer); }
-lmx::elmx_error GeometryChoiceType::marshal_child_elements(lmx::c_xml_writer& writer) const { return lmx::marshal_child_elements(k_class, this, writer); }
-bool GeometryChoiceType::unmarshal_attributes(lmx::c_xml_reader& reader, const std::string& name, lmx::elmx_error* error) { return lmx::unmarshal_attribute(k_class, this, reader, name, error); }
-lmx::elmx_error GeometryChoiceType::unmarshal_attributes_check(lmx::c_xml_reader& reader) { return lmx::check_required_attributes(k_class, this, reader); }
-bool GeometryChoiceType::unmarshal_body(lmx::c_xml_reader& reader, std::string* name, lmx::elmx_error* error) { return lmx::unmarshal_body(k_class, this, reader, name, error); }
 const std::u16string& GeometryChoiceType::get_SphereGeometry() const { return lmx::chosen_text(k_class, k_items[item_SphereGeometry], this); }
 lmx::elmx_error GeometryChoiceType::set_SphereGeometry(const std::u16string& value) { return lmx::set_item(k_class, k_items[item_SphereGeometry], this, value); }
 Eenum_SphereGeometry GeometryChoiceType::getenum_SphereGeometry() const { return static_cast<Eenum_SphereGeometry>(lmx::chosen_number(k_class, k_items[item_SphereGeometry], this)); }
@@ -532,14 +440,9 @@ constinit const s_item IlluminationOptionsType::k_items[] = {
 constinit const s_class IlluminationOptionsType::k_class = {
     .name = "IlluminationOptionsType",
     .qualified_name = "Vyr:IlluminationOptionsType",
-    .base = nullptr,
     .content = content_kind::choice,
-    .may_be_empty = false,
     .ns_map = k_ns_map,
-    .nil_flag = k_no_flag,
     .choice = LMX_CHOICE(IlluminationOptionsType, m_choice),
-    .id = nullptr,
-    .xsi_type = nullptr,
     .attributes = std::span(k_items).first(std::size(k_IlluminationOptionsType_attributes) - 1),
     .elements = std::span(k_items).subspan(std::size(k_IlluminationOptionsType_attributes) - 1),
     .attribute_map = k_IlluminationOptionsType_attributes,
@@ -551,16 +454,11 @@ IlluminationOptionsType::IlluminationOptionsType() = default;
 IlluminationOptionsType::IlluminationOptionsType(const IlluminationOptionsType& other) : IlluminationOptionsType() { lmx::copy(k_class, this, &other); }
 IlluminationOptionsType::~IlluminationOptionsType() { lmx::release_choice(k_class, this); }
 IlluminationOptionsType& IlluminationOptionsType::operator=(const IlluminationOptionsType& other) { IlluminationOptionsType copy(other); swap(copy); return *this; }
+lmx::elmx_error IlluminationOptionsType::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
+lmx::elmx_error IlluminationOptionsType::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
 void IlluminationOptionsType::swap(IlluminationOptionsType& other) { lmx::swap(k_class, this, &other); }
 void IlluminationOptionsType::reset() { IlluminationOptionsType fresh; lmx::exchange(k_class, this, &fresh); }
 bool IlluminationOptionsType::is_occurs_ok() const { return lmx::is_occurs_ok(k_class, this); }
-lmx::elmx_error IlluminationOptionsType::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
-lmx::elmx_error IlluminationOptionsType::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
-void IlluminationOptionsType::marshal_attributes(lmx::c_xml_writer& writer) const { lmx::marshal_attributes(k_class, this, writer); }
-lmx::elmx_error IlluminationOptionsType::marshal_child_elements(lmx::c_xml_writer& writer) const { return lmx::marshal_child_elements(k_class, this, writer); }
-bool IlluminationOptionsType::unmarshal_attributes(lmx::c_xml_reader& reader, const std::string& name, lmx::elmx_error* error) { return lmx::unmarshal_attribute(k_class, this, reader, name, error); }
-lmx::elmx_error IlluminationOptionsType::unmarshal_attributes_check(lmx::c_xml_reader& reader) { return lmx::check_required_attributes(k_class, this, reader); }
-bool IlluminationOptionsType::unmarshal_body(lmx::c_xml_reader& reader, std::string* name, lmx::elmx_error* error) { return lmx::unmarshal_body(k_class, this, reader, name, error); }
 lmx::elmx_error IlluminationOptionsType::set_Description(const std::u16string& value) { return lmx::set_item(k_class, k_items[item_Description], this, value); }
 Illuminant& IlluminationOptionsType::get_Illuminant() { return *static_cast<Illuminant*>(lmx::choose(k_class, k_items[item_Illuminant], this)); }
 Illuminant& IlluminationOptionsType::assign_Illuminant(const Illuminant& value) { Illuminant copy(value); Illuminant& target = get_Illuminant(); target.swap(copy); return target; }
@@ -601,38 +499,29 @@ constinit const s_class ColorSpaceSpecificationSpectrumGenericType::k_class = {
     .qualified_name = "Vyr:ColorSpaceSpecificationSpectrumGenericType",
     .base = &ColorSpaceSpecificationSpectrumType::k_class,
     .content = content_kind::children,
-    .may_be_empty = false,
     .ns_map = k_ns_map,
-    .nil_flag = k_no_flag,
-    .choice = k_no_flag,
     .id = &ColorSpaceSpecificationSpectrumGenericType::id,
     .xsi_type = "Vyr:ColorSpaceSpecificationSpectrumGenericType",
-    .attributes = std::span(k_items).first(std::size(k_no_events) - 1),
     .elements = std::span(k_items).subspan(std::size(k_no_events) - 1),
     .attribute_map = k_no_events,
     .element_map = k_ColorSpaceSpecificationSpectrumGenericType_elements,
     .operations = &k_operations<ColorSpaceSpecificationSpectrumGenericType>,
 };
 
+namespace { const char k_ColorSpaceSpecificationSpectrumGenericType_id[] = "ColorSpaceSpecificationSpectrumGenericType"; }
+const char* ColorSpaceSpecificationSpectrumGenericType::id = k_ColorSpaceSpecificationSpectrumGenericType_id;
 ColorSpaceSpecificationSpectrumGenericType::ColorSpaceSpecificationSpectrumGenericType() = default;
 ColorSpaceSpecificationSpectrumGenericType::ColorSpaceSpecificationSpectrumGenericType(const ColorSpaceSpecificationSpectrumGenericType& other) : ColorSpaceSpecificationSpectrumType() { lmx::copy(k_class, this, &other); }
+ColorSpaceSpecificationSpectrumGenericType* ColorSpaceSpecificationSpectrumGenericType::clone() const { return new ColorSpaceSpecificationSpectrumGenericType(*this); }
 ColorSpaceSpecificationSpectrumGenericType::~ColorSpaceSpecificationSpectrumGenericType() = default;
 ColorSpaceSpecificationSpectrumGenericType& ColorSpaceSpecificationSpectrumGenericType::operator=(const ColorSpaceSpecificationSpectrumGenericType& other) { ColorSpaceSpecificationSpectrumGenericType copy(other); swap(copy); return *this; }
+const char* ColorSpaceSpecificationSpectrumGenericType::getid() const { return id; }
+bool ColorSpaceSpecificationSpectrumGenericType::has_id(const char* identity) const { return identity == id || ColorSpaceSpecificationSpectrumType::has_id(identity); }
+lmx::elmx_error ColorSpaceSpecificationSpectrumGenericType::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
+lmx::elmx_error ColorSpaceSpecificationSpectrumGenericType::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
 void ColorSpaceSpecificationSpectrumGenericType::swap(ColorSpaceSpecificationSpectrumGenericType& other) { lmx::swap(k_class, this, &other); }
 void ColorSpaceSpecificationSpectrumGenericType::reset() { ColorSpaceSpecificationSpectrumGenericType fresh; lmx::exchange(k_class, this, &fresh); }
 bool ColorSpaceSpecificationSpectrumGenericType::is_occurs_ok() const { return lmx::is_occurs_ok(k_class, this); }
-lmx::elmx_error ColorSpaceSpecificationSpectrumGenericType::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
-lmx::elmx_error ColorSpaceSpecificationSpectrumGenericType::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
-void ColorSpaceSpecificationSpectrumGenericType::marshal_attributes(lmx::c_xml_writer& writer) const { lmx::marshal_attributes(k_class, this, writer); }
-lmx::elmx_error ColorSpaceSpecificationSpectrumGenericType::marshal_child_elements(lmx::c_xml_writer& writer) const { return lmx::marshal_child_elements(k_class, this, writer); }
-bool ColorSpaceSpecificationSpectrumGenericType::unmarshal_attributes(lmx::c_xml_reader& reader, const std::string& name, lmx::elmx_error* error) { return lmx::unmarshal_attribute(k_class, this, reader, name, error); }
-lmx::elmx_error ColorSpaceSpecificationSpectrumGenericType::unmarshal_attributes_check(lmx::c_xml_reader& reader) { return lmx::check_required_attributes(k_class, this, reader); }
-bool ColorSpaceSpecificationSpectrumGenericType::unmarshal_body(lmx::c_xml_reader& reader, std::string* name, lmx::elmx_error* error) { return lmx::unmarshal_body(k_class, this, reader, name, error); }
-namespace { const char k_ColorSpaceSpecificationSpectrumGenericType_id[] = "ColorSpaceSpecificationSpectrumGenericType"; }
-const char* ColorSpaceSpecificationSpectrumGenericType::id = k_ColorSpaceSpecificationSpectrumGenericType_id;
-ColorSpaceSpecificationSpectrumGenericType* ColorSpaceSpecificationSpectrumGenericType::clone() const { return new ColorSpaceSpecificationSpectrumGenericType(*this); }
-const char* ColorSpaceSpecificationSpectrumGenericType::getid() const { return id; }
-bool ColorSpaceSpecificationSpectrumGenericType::has_id(const char* identity) const { return identity == id || ColorSpaceSpecificationSpectrumType::has_id(identity); }
 GeometryChoiceType& ColorSpaceSpecificationSpectrumGenericType::get_GeometryChoice() { GeometryChoiceType& child = m_GeometryChoice.touch(); m_isset_GeometryChoice = true; return child; }
 const GeometryChoiceType& ColorSpaceSpecificationSpectrumGenericType::get_GeometryChoice() const { return m_GeometryChoice.get(); }
 GeometryChoiceType& ColorSpaceSpecificationSpectrumGenericType::assign_GeometryChoice(const GeometryChoiceType& value) { return get_GeometryChoice() = value; }
@@ -677,38 +566,29 @@ constinit const s_class ColorSpaceSpecificationSpectrumTristimulusType::k_class 
     .qualified_name = "Vyr:ColorSpaceSpecificationSpectrumTristimulusType",
     .base = &ColorSpaceSpecificationSpectrumType::k_class,
     .content = content_kind::children,
-    .may_be_empty = false,
     .ns_map = k_ns_map,
-    .nil_flag = k_no_flag,
-    .choice = k_no_flag,
     .id = &ColorSpaceSpecificationSpectrumTristimulusType::id,
     .xsi_type = "Vyr:ColorSpaceSpecificationSpectrumTristimulusType",
-    .attributes = std::span(k_items).first(std::size(k_no_events) - 1),
     .elements = std::span(k_items).subspan(std::size(k_no_events) - 1),
     .attribute_map = k_no_events,
     .element_map = k_ColorSpaceSpecificationSpectrumTristimulusType_elements,
     .operations = &k_operations<ColorSpaceSpecificationSpectrumTristimulusType>,
 };
 
+namespace { const char k_ColorSpaceSpecificationSpectrumTristimulusType_id[] = "ColorSpaceSpecificationSpectrumTristimulusType"; }
+const char* ColorSpaceSpecificationSpectrumTristimulusType::id = k_ColorSpaceSpecificationSpectrumTristimulusType_id;
 ColorSpaceSpecificationSpectrumTristimulusType::ColorSpaceSpecificationSpectrumTristimulusType() = default;
 ColorSpaceSpecificationSpectrumTristimulusType::ColorSpaceSpecificationSpectrumTristimulusType(const ColorSpaceSpecificationSpectrumTristimulusType& other) : ColorSpaceSpecificationSpectrumType() { lmx::copy(k_class, this, &other); }
+ColorSpaceSpecificationSpectrumTristimulusType* ColorSpaceSpecificationSpectrumTristimulusType::clone() const { return new ColorSpaceSpecificationSpectrumTristimulusType(*this); }
 ColorSpaceSpecificationSpectrumTristimulusType::~ColorSpaceSpecificationSpectrumTristimulusType() = default;
 ColorSpaceSpecificationSpectrumTristimulusType& ColorSpaceSpecificationSpectrumTristimulusType::operator=(const ColorSpaceSpecificationSpectrumTristimulusType& other) { ColorSpaceSpecificationSpectrumTristimulusType copy(other); swap(copy); return *this; }
+const char* ColorSpaceSpecificationSpectrumTristimulusType::getid() const { return id; }
+bool ColorSpaceSpecificationSpectrumTristimulusType::has_id(const char* identity) const { return identity == id || ColorSpaceSpecificationSpectrumType::has_id(identity); }
+lmx::elmx_error ColorSpaceSpecificationSpectrumTristimulusType::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
+lmx::elmx_error ColorSpaceSpecificationSpectrumTristimulusType::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
 void ColorSpaceSpecificationSpectrumTristimulusType::swap(ColorSpaceSpecificationSpectrumTristimulusType& other) { lmx::swap(k_class, this, &other); }
 void ColorSpaceSpecificationSpectrumTristimulusType::reset() { ColorSpaceSpecificationSpectrumTristimulusType fresh; lmx::exchange(k_class, this, &fresh); }
 bool ColorSpaceSpecificationSpectrumTristimulusType::is_occurs_ok() const { return lmx::is_occurs_ok(k_class, this); }
-lmx::elmx_error ColorSpaceSpecificationSpectrumTristimulusType::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
-lmx::elmx_error ColorSpaceSpecificationSpectrumTristimulusType::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
-void ColorSpaceSpecificationSpectrumTristimulusType::marshal_attributes(lmx::c_xml_writer& writer) const { lmx::marshal_attributes(k_class, this, writer); }
-lmx::elmx_error ColorSpaceSpecificationSpectrumTristimulusType::marshal_child_elements(lmx::c_xml_writer& writer) const { return lmx::marshal_child_elements(k_class, this, writer); }
-bool ColorSpaceSpecificationSpectrumTristimulusType::unmarshal_attributes(lmx::c_xml_reader& reader, const std::string& name, lmx::elmx_error* error) { return lmx::unmarshal_attribute(k_class, this, reader, name, error); }
-lmx::elmx_error ColorSpaceSpecificationSpectrumTristimulusType::unmarshal_attributes_check(lmx::c_xml_reader& reader) { return lmx::check_required_attributes(k_class, this, reader); }
-bool ColorSpaceSpecificationSpectrumTristimulusType::unmarshal_body(lmx::c_xml_reader& reader, std::string* name, lmx::elmx_error* error) { return lmx::unmarshal_body(k_class, this, reader, name, error); }
-namespace { const char k_ColorSpaceSpecificationSpectrumTristimulusType_id[] = "ColorSpaceSpecificationSpectrumTristimulusType"; }
-const char* ColorSpaceSpecificationSpectrumTristimulusType::id = k_ColorSpaceSpecificationSpectrumTristimulusType_id;
-ColorSpaceSpecificationSpectrumTristimulusType* ColorSpaceSpecificationSpectrumTristimulusType::clone() const { return new ColorSpaceSpecificationSpectrumTristimulusType(*this); }
-const char* ColorSpaceSpecificationSpectrumTristimulusType::getid() const { return id; }
-bool ColorSpaceSpecificationSpectrumTristimulusType::has_id(const char* identity) const { return identity == id || ColorSpaceSpecificationSpectrumType::has_id(identity); }
 IlluminationOptionsType& ColorSpaceSpecificationSpectrumTristimulusType::assign_IlluminationOptions(const IlluminationOptionsType& value) { return get_IlluminationOptions() = value; }
 lmx::elmx_error ColorSpaceSpecificationSpectrumTristimulusType::set_FieldOfView(const std::u16string& value) { return lmx::set_item(k_class, k_items[item_FieldOfView], this, value); }
 bool ColorSpaceSpecificationSpectrumTristimulusType::setenum_FieldOfView(std::int32_t number) { return lmx::set_enumerated(k_class, k_items[item_FieldOfView], this, number); }
@@ -740,38 +620,29 @@ constinit const s_class ColorSpaceSpecificationSpectrumSpectralType::k_class = {
     .qualified_name = "Vyr:ColorSpaceSpecificationSpectrumSpectralType",
     .base = &ColorSpaceSpecificationSpectrumType::k_class,
     .content = content_kind::children,
-    .may_be_empty = false,
     .ns_map = k_ns_map,
-    .nil_flag = k_no_flag,
-    .choice = k_no_flag,
     .id = &ColorSpaceSpecificationSpectrumSpectralType::id,
     .xsi_type = "Vyr:ColorSpaceSpecificationSpectrumSpectralType",
-    .attributes = std::span(k_items).first(std::size(k_no_events) - 1),
     .elements = std::span(k_items).subspan(std::size(k_no_events) - 1),
     .attribute_map = k_no_events,
     .element_map = k_ColorSpaceSpecificationSpectrumSpectralType_elements,
     .operations = &k_operations<ColorSpaceSpecificationSpectrumSpectralType>,
 };
 
+namespace { const char k_ColorSpaceSpecificationSpectrumSpectralType_id[] = "ColorSpaceSpecificationSpectrumSpectralType"; }
+const char* ColorSpaceSpecificationSpectrumSpectralType::id = k_ColorSpaceSpecificationSpectrumSpectralType_id;
 ColorSpaceSpecificationSpectrumSpectralType::ColorSpaceSpecificationSpectrumSpectralType() = default;
 ColorSpaceSpecificationSpectrumSpectralType::ColorSpaceSpecificationSpectrumSpectralType(const ColorSpaceSpecificationSpectrumSpectralType& other) : ColorSpaceSpecificationSpectrumType() { lmx::copy(k_class, this, &other); }
+ColorSpaceSpecificationSpectrumSpectralType* ColorSpaceSpecificationSpectrumSpectralType::clone() const { return new ColorSpaceSpecificationSpectrumSpectralType(*this); }
 ColorSpaceSpecificationSpectrumSpectralType::~ColorSpaceSpecificationSpectrumSpectralType() = default;
 ColorSpaceSpecificationSpectrumSpectralType& ColorSpaceSpecificationSpectrumSpectralType::operator=(const ColorSpaceSpecificationSpectrumSpectralType& other) { ColorSpaceSpecificationSpectrumSpectralType copy(other); swap(copy); return *this; }
+const char* ColorSpaceSpecificationSpectrumSpectralType::getid() const { return id; }
+bool ColorSpaceSpecificationSpectrumSpectralType::has_id(const char* identity) const { return identity == id || ColorSpaceSpecificationSpectrumType::has_id(identity); }
+lmx::elmx_error ColorSpaceSpecificationSpectrumSpectralType::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
+lmx::elmx_error ColorSpaceSpecificationSpectrumSpectralType::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
 void ColorSpaceSpecificationSpectrumSpectralType::swap(ColorSpaceSpecificationSpectrumSpectralType& other) { lmx::swap(k_class, this, &other); }
 void ColorSpaceSpecificationSpectrumSpectralType::reset() { ColorSpaceSpecificationSpectrumSpectralType fresh; lmx::exchange(k_class, this, &fresh); }
 bool ColorSpaceSpecificationSpectrumSpectralType::is_occurs_ok() const { return lmx::is_occurs_ok(k_class, this); }
-lmx::elmx_error ColorSpaceSpecificationSpectrumSpectralType::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
-lmx::elmx_error ColorSpaceSpecificationSpectrumSpectralType::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
-void ColorSpaceSpecificationSpectrumSpectralType::marshal_attributes(lmx::c_xml_writer& writer) const { lmx::marshal_attributes(k_class, this, writer); }
-lmx::elmx_error ColorSpaceSpecificationSpectrumSpectralType::marshal_child_elements(lmx::c_xml_writer& writer) const { return lmx::marshal_child_elements(k_class, this, writer); }
-bool ColorSpaceSpecificationSpectrumSpectralType::unmarshal_attributes(lmx::c_xml_reader& reader, const std::string& name, lmx::elmx_error* error) { return lmx::unmarshal_attribute(k_class, this, reader, name, error); }
-lmx::elmx_error ColorSpaceSpecificationSpectrumSpectralType::unmarshal_attributes_check(lmx::c_xml_reader& reader) { return lmx::check_required_attributes(k_class, this, reader); }
-bool ColorSpaceSpecificationSpectrumSpectralType::unmarshal_body(lmx::c_xml_reader& reader, std::string* name, lmx::elmx_error* error) { return lmx::unmarshal_body(k_class, this, reader, name, error); }
-namespace { const char k_ColorSpaceSpecificationSpectrumSpectralType_id[] = "ColorSpaceSpecificationSpectrumSpectralType"; }
-const char* ColorSpaceSpecificationSpectrumSpectralType::id = k_ColorSpaceSpecificationSpectrumSpectralType_id;
-ColorSpaceSpecificationSpectrumSpectralType* ColorSpaceSpecificationSpectrumSpectralType::clone() const { return new ColorSpaceSpecificationSpectrumSpectralType(*this); }
-const char* ColorSpaceSpecificationSpectrumSpectralType::getid() const { return id; }
-bool ColorSpaceSpecificationSpectrumSpectralType::has_id(const char* identity) const { return identity == id || ColorSpaceSpecificationSpectrumType::has_id(identity); }
 GeometryChoiceType& ColorSpaceSpecificationSpectrumSpectralType::assign_GeometryChoice(const GeometryChoiceType& value) { return get_GeometryChoice() = value; }
 lmx::elmx_error ColorSpaceSpecificationSpectrumSpectralType::set_ASTM_Table(const std::u16string& value) { return lmx::set_item(k_class, k_items[item_ASTM_Table], this, value); }
 bool ColorSpaceSpecificationSpectrumSpectralType::setenum_ASTM_Table(std::int32_t number) { return lmx::set_enumerated(k_class, k_items[item_ASTM_Table], this, number); }
@@ -809,38 +680,29 @@ constinit const s_class ColorSpaceSpecificationEmissiveGenericType::k_class = {
     .qualified_name = "Vyr:ColorSpaceSpecificationEmissiveGenericType",
     .base = &ColorSpaceSpecificationEmissiveType::k_class,
     .content = content_kind::children,
-    .may_be_empty = false,
     .ns_map = k_ns_map,
-    .nil_flag = k_no_flag,
-    .choice = k_no_flag,
     .id = &ColorSpaceSpecificationEmissiveGenericType::id,
     .xsi_type = "Vyr:ColorSpaceSpecificationEmissiveGenericType",
-    .attributes = std::span(k_items).first(std::size(k_no_events) - 1),
     .elements = std::span(k_items).subspan(std::size(k_no_events) - 1),
     .attribute_map = k_no_events,
     .element_map = k_ColorSpaceSpecificationEmissiveGenericType_elements,
     .operations = &k_operations<ColorSpaceSpecificationEmissiveGenericType>,
 };
 
+namespace { const char k_ColorSpaceSpecificationEmissiveGenericType_id[] = "ColorSpaceSpecificationEmissiveGenericType"; }
+const char* ColorSpaceSpecificationEmissiveGenericType::id = k_ColorSpaceSpecificationEmissiveGenericType_id;
 ColorSpaceSpecificationEmissiveGenericType::ColorSpaceSpecificationEmissiveGenericType() = default;
 ColorSpaceSpecificationEmissiveGenericType::ColorSpaceSpecificationEmissiveGenericType(const ColorSpaceSpecificationEmissiveGenericType& other) : ColorSpaceSpecificationEmissiveType() { lmx::copy(k_class, this, &other); }
+ColorSpaceSpecificationEmissiveGenericType* ColorSpaceSpecificationEmissiveGenericType::clone() const { return new ColorSpaceSpecificationEmissiveGenericType(*this); }
 ColorSpaceSpecificationEmissiveGenericType::~ColorSpaceSpecificationEmissiveGenericType() = default;
 ColorSpaceSpecificationEmissiveGenericType& ColorSpaceSpecificationEmissiveGenericType::operator=(const ColorSpaceSpecificationEmissiveGenericType& other) { ColorSpaceSpecificationEmissiveGenericType copy(other); swap(copy); return *this; }
+const char* ColorSpaceSpecificationEmissiveGenericType::getid() const { return id; }
+bool ColorSpaceSpecificationEmissiveGenericType::has_id(const char* identity) const { return identity == id || ColorSpaceSpecificationEmissiveType::has_id(identity); }
+lmx::elmx_error ColorSpaceSpecificationEmissiveGenericType::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
+lmx::elmx_error ColorSpaceSpecificationEmissiveGenericType::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
 void ColorSpaceSpecificationEmissiveGenericType::swap(ColorSpaceSpecificationEmissiveGenericType& other) { lmx::swap(k_class, this, &other); }
 void ColorSpaceSpecificationEmissiveGenericType::reset() { ColorSpaceSpecificationEmissiveGenericType fresh; lmx::exchange(k_class, this, &fresh); }
 bool ColorSpaceSpecificationEmissiveGenericType::is_occurs_ok() const { return lmx::is_occurs_ok(k_class, this); }
-lmx::elmx_error ColorSpaceSpecificationEmissiveGenericType::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
-lmx::elmx_error ColorSpaceSpecificationEmissiveGenericType::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
-void ColorSpaceSpecificationEmissiveGenericType::marshal_attributes(lmx::c_xml_writer& writer) const { lmx::marshal_attributes(k_class, this, writer); }
-lmx::elmx_error ColorSpaceSpecificationEmissiveGenericType::marshal_child_elements(lmx::c_xml_writer& writer) const { return lmx::marshal_child_elements(k_class, this, writer); }
-bool ColorSpaceSpecificationEmissiveGenericType::unmarshal_attributes(lmx::c_xml_reader& reader, const std::string& name, lmx::elmx_error* error) { return lmx::unmarshal_attribute(k_class, this, reader, name, error); }
-lmx::elmx_error ColorSpaceSpecificationEmissiveGenericType::unmarshal_attributes_check(lmx::c_xml_reader& reader) { return lmx::check_required_attributes(k_class, this, reader); }
-bool ColorSpaceSpecificationEmissiveGenericType::unmarshal_body(lmx::c_xml_reader& reader, std::string* name, lmx::elmx_error* error) { return lmx::unmarshal_body(k_class, this, reader, name, error); }
-namespace { const char k_ColorSpaceSpecificationEmissiveGenericType_id[] = "ColorSpaceSpecificationEmissiveGenericType"; }
-const char* ColorSpaceSpecificationEmissiveGenericType::id = k_ColorSpaceSpecificationEmissiveGenericType_id;
-ColorSpaceSpecificationEmissiveGenericType* ColorSpaceSpecificationEmissiveGenericType::clone() const { return new ColorSpaceSpecificationEmissiveGenericType(*this); }
-const char* ColorSpaceSpecificationEmissiveGenericType::getid() const { return id; }
-bool ColorSpaceSpecificationEmissiveGenericType::has_id(const char* identity) const { return identity == id || ColorSpaceSpecificationEmissiveType::has_id(identity); }
 GeometryChoiceType& ColorSpaceSpecificationEmissiveGenericType::get_GeometryChoice() { GeometryChoiceType& child = m_GeometryChoice.touch(); m_isset_GeometryChoice = true; return child; }
 const GeometryChoiceType& ColorSpaceSpecificationEmissiveGenericType::get_GeometryChoice() const { return m_GeometryChoice.get(); }
 GeometryChoiceType& ColorSpaceSpecificationEmissiveGenericType::assign_GeometryChoice(const GeometryChoiceType& value) { return get_GeometryChoice() = value; }
@@ -885,38 +747,29 @@ constinit const s_class ColorSpaceSpecificationEmissiveTristimulusType::k_class 
     .qualified_name = "Vyr:ColorSpaceSpecificationEmissiveTristimulusType",
     .base = &ColorSpaceSpecificationEmissiveType::k_class,
     .content = content_kind::children,
-    .may_be_empty = false,
     .ns_map = k_ns_map,
-    .nil_flag = k_no_flag,
-    .choice = k_no_flag,
     .id = &ColorSpaceSpecificationEmissiveTristimulusType::id,
     .xsi_type = "Vyr:ColorSpaceSpecificationEmissiveTristimulusType",
-    .attributes = std::span(k_items).first(std::size(k_no_events) - 1),
     .elements = std::span(k_items).subspan(std::size(k_no_events) - 1),
     .attribute_map = k_no_events,
     .element_map = k_ColorSpaceSpecificationEmissiveTristimulusType_elements,
     .operations = &k_operations<ColorSpaceSpecificationEmissiveTristimulusType>,
 };
 
+namespace { const char k_ColorSpaceSpecificationEmissiveTristimulusType_id[] = "ColorSpaceSpecificationEmissiveTristimulusType"; }
+const char* ColorSpaceSpecificationEmissiveTristimulusType::id = k_ColorSpaceSpecificationEmissiveTristimulusType_id;
 ColorSpaceSpecificationEmissiveTristimulusType::ColorSpaceSpecificationEmissiveTristimulusType() = default;
 ColorSpaceSpecificationEmissiveTristimulusType::ColorSpaceSpecificationEmissiveTristimulusType(const ColorSpaceSpecificationEmissiveTristimulusType& other) : ColorSpaceSpecificationEmissiveType() { lmx::copy(k_class, this, &other); }
+ColorSpaceSpecificationEmissiveTristimulusType* ColorSpaceSpecificationEmissiveTristimulusType::clone() const { return new ColorSpaceSpecificationEmissiveTristimulusType(*this); }
 ColorSpaceSpecificationEmissiveTristimulusType::~ColorSpaceSpecificationEmissiveTristimulusType() = default;
 ColorSpaceSpecificationEmissiveTristimulusType& ColorSpaceSpecificationEmissiveTristimulusType::operator=(const ColorSpaceSpecificationEmissiveTristimulusType& other) { ColorSpaceSpecificationEmissiveTristimulusType copy(other); swap(copy); return *this; }
+const char* ColorSpaceSpecificationEmissiveTristimulusType::getid() const { return id; }
+bool ColorSpaceSpecificationEmissiveTristimulusType::has_id(const char* identity) const { return identity == id || ColorSpaceSpecificationEmissiveType::has_id(identity); }
+lmx::elmx_error ColorSpaceSpecificationEmissiveTristimulusType::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
+lmx::elmx_error ColorSpaceSpecificationEmissiveTristimulusType::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
 void ColorSpaceSpecificationEmissiveTristimulusType::swap(ColorSpaceSpecificationEmissiveTristimulusType& other) { lmx::swap(k_class, this, &other); }
 void ColorSpaceSpecificationEmissiveTristimulusType::reset() { ColorSpaceSpecificationEmissiveTristimulusType fresh; lmx::exchange(k_class, this, &fresh); }
 bool ColorSpaceSpecificationEmissiveTristimulusType::is_occurs_ok() const { return lmx::is_occurs_ok(k_class, this); }
-lmx::elmx_error ColorSpaceSpecificationEmissiveTristimulusType::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
-lmx::elmx_error ColorSpaceSpecificationEmissiveTristimulusType::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
-void ColorSpaceSpecificationEmissiveTristimulusType::marshal_attributes(lmx::c_xml_writer& writer) const { lmx::marshal_attributes(k_class, this, writer); }
-lmx::elmx_error ColorSpaceSpecificationEmissiveTristimulusType::marshal_child_elements(lmx::c_xml_writer& writer) const { return lmx::marshal_child_elements(k_class, this, writer); }
-bool ColorSpaceSpecificationEmissiveTristimulusType::unmarshal_attributes(lmx::c_xml_reader& reader, const std::string& name, lmx::elmx_error* error) { return lmx::unmarshal_attribute(k_class, this, reader, name, error); }
-lmx::elmx_error ColorSpaceSpecificationEmissiveTristimulusType::unmarshal_attributes_check(lmx::c_xml_reader& reader) { return lmx::check_required_attributes(k_class, this, reader); }
-bool ColorSpaceSpecificationEmissiveTristimulusType::unmarshal_body(lmx::c_xml_reader& reader, std::string* name, lmx::elmx_error* error) { return lmx::unmarshal_body(k_class, this, reader, name, error); }
-namespace { const char k_ColorSpaceSpecificationEmissiveTristimulusType_id[] = "ColorSpaceSpecificationEmissiveTristimulusType"; }
-const char* ColorSpaceSpecificationEmissiveTristimulusType::id = k_ColorSpaceSpecificationEmissiveTristimulusType_id;
-ColorSpaceSpecificationEmissiveTristimulusType* ColorSpaceSpecificationEmissiveTristimulusType::clone() const { return new ColorSpaceSpecificationEmissiveTristimulusType(*this); }
-const char* ColorSpaceSpecificationEmissiveTristimulusType::getid() const { return id; }
-bool ColorSpaceSpecificationEmissiveTristimulusType::has_id(const char* identity) const { return identity == id || ColorSpaceSpecificationEmissiveType::has_id(identity); }
 IlluminationOptionsType& ColorSpaceSpecificationEmissiveTristimulusType::assign_IlluminationOptions(const IlluminationOptionsType& value) { return get_IlluminationOptions() = value; }
 lmx::elmx_error ColorSpaceSpecificationEmissiveTristimulusType::set_FieldOfView(const std::u16string& value) { return lmx::set_item(k_class, k_items[item_FieldOfView], this, value); }
 bool ColorSpaceSpecificationEmissiveTristimulusType::setenum_FieldOfView(std::int32_t number) { return lmx::set_enumerated(k_class, k_items[item_FieldOfView], this, number); }
@@ -948,72 +801,57 @@ constinit const s_class ColorSpaceSpecificationEmissiveSpectralType::k_class = {
     .qualified_name = "Vyr:ColorSpaceSpecificationEmissiveSpectralType",
     .base = &ColorSpaceSpecificationEmissiveType::k_class,
     .content = content_kind::children,
-    .may_be_empty = false,
     .ns_map = k_ns_map,
-    .nil_flag = k_no_flag,
-    .choice = k_no_flag,
     .id = &ColorSpaceSpecificationEmissiveSpectralType::id,
     .xsi_type = "Vyr:ColorSpaceSpecificationEmissiveSpectralType",
-    .attributes = std::span(k_items).first(std::size(k_no_events) - 1),
     .elements = std::span(k_items).subspan(std::size(k_no_events) - 1),
     .attribute_map = k_no_events,
     .element_map = k_ColorSpaceSpecificationEmissiveSpectralType_elements,
     .operations = &k_operations<ColorSpaceSpecificationEmissiveSpectralType>,
 };
 
+namespace { const char k_ColorSpaceSpecificationEmissiveSpectralType_id[] = "ColorSpaceSpecificationEmissiveSpectralType"; }
+const char* ColorSpaceSpecificationEmissiveSpectralType::id = k_ColorSpaceSpecificationEmissiveSpectralType_id;
 ColorSpaceSpecificationEmissiveSpectralType::ColorSpaceSpecificationEmissiveSpectralType() = default;
 ColorSpaceSpecificationEmissiveSpectralType::ColorSpaceSpecificationEmissiveSpectralType(const ColorSpaceSpecificationEmissiveSpectralType& other) : ColorSpaceSpecificationEmissiveType() { lmx::copy(k_class, this, &other); }
+ColorSpaceSpecificationEmissiveSpectralType* ColorSpaceSpecificationEmissiveSpectralType::clone() const { return new ColorSpaceSpecificationEmissiveSpectralType(*this); }
 ColorSpaceSpecificationEmissiveSpectralType::~ColorSpaceSpecificationEmissiveSpectralType() = default;
 ColorSpaceSpecificationEmissiveSpectralType& ColorSpaceSpecificationEmissiveSpectralType::operator=(const ColorSpaceSpecificationEmissiveSpectralType& other) { ColorSpaceSpecificationEmissiveSpectralType copy(other); swap(copy); return *this; }
+const char* ColorSpaceSpecificationEmissiveSpectralType::getid() const { return id; }
+bool ColorSpaceSpecificationEmissiveSpectralType::has_id(const char* identity) const { return identity == id || ColorSpaceSpecificationEmissiveType::has_id(identity); }
+lmx::elmx_error ColorSpaceSpecificationEmissiveSpectralType::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
+lmx::elmx_error ColorSpaceSpecificationEmissiveSpectralType::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
 void ColorSpaceSpecificationEmissiveSpectralType::swap(ColorSpaceSpecificationEmissiveSpectralType& other) { lmx::swap(k_class, this, &other); }
 void ColorSpaceSpecificationEmissiveSpectralType::reset() { ColorSpaceSpecificationEmissiveSpectralType fresh; lmx::exchange(k_class, this, &fresh); }
 bool ColorSpaceSpecificationEmissiveSpectralType::is_occurs_ok() const { return lmx::is_occurs_ok(k_class, this); }
-lmx::elmx_error ColorSpaceSpecificationEmissiveSpectralType::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
-lmx::elmx_error ColorSpaceSpecificationEmissiveSpectralType::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
-void ColorSpaceSpecificationEmissiveSpectralType::marshal_attributes(lmx::c_xml_writer& writer) const { lmx::marshal_attributes(k_class, this, writer); }
-lmx::elmx_error ColorSpaceSpecificationEmissiveSpectralType::marshal_child_elements(lmx::c_xml_writer& writer) const { return lmx::marshal_child_elements(k_class, this, writer); }
-bool ColorSpaceSpecificationEmissiveSpectralType::unmarshal_attributes(lmx::c_xml_reader& reader, const std::string& name, lmx::elmx_error* error) { return lmx::unmarshal_attribute(k_class, this, reader, name, error); }
-lmx::elmx_error ColorSpaceSpecificationEmissiveSpectralType::unmarshal_attributes_check(lmx::c_xml_reader& reader) { return lmx::check_required_attributes(k_class, this, reader); }
-bool ColorSpaceSpecificationEmissiveSpectralType::unmarshal_body(lmx::c_xml_reader& reader, std::string* name, lmx::elmx_error* error) { return lmx::unmarshal_body(k_class, this, reader, name, error); }
-namespace { const char k_ColorSpaceSpecificationEmissiveSpectralType_id[] = "ColorSpaceSpecificationEmissiveSpectralType"; }
-const char* ColorSpaceSpecificationEmissiveSpectralType::id = k_ColorSpaceSpecificationEmissiveSpectralType_id;
-ColorSpaceSpecificationEmissiveSpectralType* ColorSpaceSpecificationEmissiveSpectralType::clone() const { return new ColorSpaceSpecificationEmissiveSpectralType(*this); }
-const char* ColorSpaceSpecificationEmissiveSpectralType::getid() const { return id; }
-bool ColorSpaceSpecificationEmissiveSpectralType::has_id(const char* identity) const { return identity == id || ColorSpaceSpecificationEmissiveType::has_id(identity); }
 GeometryChoiceType& ColorSpaceSpecificationEmissiveSpectralType::assign_GeometryChoice(const GeometryChoiceType& value) { return get_GeometryChoice() = value; }
 lmx::elmx_error ColorSpaceSpecificationEmissiveSpectralType::set_ASTM_Table(const std::u16string& value) { return lmx::set_item(k_class, k_items[item_ASTM_Table], this, value); }
 bool ColorSpaceSpecificationEmissiveSpectralType::setenum_ASTM_Table(std::int32_t number) { return lmx::set_enumerated(k_class, k_items[item_ASTM_Table], this, number); }
 
 // ColorSpaceSpecification
 
-lmx::elmx_error ColorSpaceSpecification::marshal(lmx::c_xml_writer& writer, const char* name) const {
-    writer.conditionally_select_ns_map(k_ns_map);
-    return ColorSpaceSpecificationType::marshal(writer, name);
-}
-lmx::elmx_error ColorSpaceSpecification::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return ColorSpaceSpecificationType::unmarshal(reader, name); }
 constinit const lmx::s_document ColorSpaceSpecification::k_document = {"Vyr:ColorSpaceSpecification", "ColorSpaceSpecification", k_ns_map, &lmx::k_operations<ColorSpaceSpecification>};
 const lmx::s_ns_map* ColorSpaceSpecification::ns_map() { return k_ns_map; }
 lmx::elmx_error ColorSpaceSpecification::unmarshal(lmx::c_xml_reader& reader) { return lmx::unmarshal_document(k_document, this, reader); }
+lmx::elmx_error ColorSpaceSpecification::marshal(lmx::c_xml_writer& writer, const char* name) const { writer.conditionally_select_ns_map(k_ns_map); return ColorSpaceSpecificationType::marshal(writer, name); }
+lmx::elmx_error ColorSpaceSpecification::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return ColorSpaceSpecificationType::unmarshal(reader, name); }
 
 // ColorSpaceSpecificationSpectrum
 
-lmx::elmx_error ColorSpaceSpecificationSpectrum::marshal(lmx::c_xml_writer& writer, const char* name) const {
-    writer.conditionally_select_ns_map(k_ns_map);
-    return ColorSpaceSpecificationSpectrumType::marshal(writer, name);
-}
-lmx::elmx_error ColorSpaceSpecificationSpectrum::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return ColorSpaceSpecificationSpectrumType::unmarshal(reader, name); }
 constinit const lmx::s_document ColorSpaceSpecificationSpectrum::k_document = {"Vyr:ColorSpaceSpecificationSpectrum", "ColorSpaceSpecificationSpectrum", k_ns_map, &lmx::k_operations<ColorSpaceSpecificationSpectrum>};
-const lmx::s_ns_map* ColorSpaceSpecificationSpectrum::ns_map() { return k_ns_map; }
-lmx::elmx_error ColorSpaceSpecificationSpectrum::unmarshal(lmx::c_xml_reader& reader) { return lmx::unmarshal_document(k_document, this, reader); }
 ColorSpaceSpecificationSpectrum::ColorSpaceSpecificationSpectrum(const char* file_name, lmx::elmx_error* error) : ColorSpaceSpecificationSpectrum() { *error = unmarshal(file_name); }
-lmx::elmx_error ColorSpaceSpecificationSpectrum::unmarshal(const char* file_name) { return lmx::unmarshal_document(k_document, this, file_name); }
 ColorSpaceSpecificationSpectrum::ColorSpaceSpecificationSpectrum(const char* data, std::size_t size, lmx::elmx_error* error) : ColorSpaceSpecificationSpectrum() { *error = unmarshal(data, size); }
-lmx::elmx_error ColorSpaceSpecificationSpectrum::unmarshal(const char* data, std::size_t size) { return lmx::unmarshal_document(k_document, this, data, size); }
 ColorSpaceSpecificationSpectrum::ColorSpaceSpecificationSpectrum(const std::string& text, lmx::elmx_error* error) : ColorSpaceSpecificationSpectrum() { *error = unmarshal(text.data(), text.size()); }
+const lmx::s_ns_map* ColorSpaceSpecificationSpectrum::ns_map() { return k_ns_map; }
+lmx::elmx_error ColorSpaceSpecificationSpectrum::unmarshal(const char* file_name) { return lmx::unmarshal_document(k_document, this, file_name); }
+lmx::elmx_error ColorSpaceSpecificationSpectrum::unmarshal(const char* data, std::size_t size) { return lmx::unmarshal_document(k_document, this, data, size); }
 lmx::elmx_error ColorSpaceSpecificationSpectrum::unmarshal(const std::string& text) { return lmx::unmarshal_document(k_document, this, text.data(), text.size()); }
+lmx::elmx_error ColorSpaceSpecificationSpectrum::unmarshal(lmx::c_xml_reader& reader) { return lmx::unmarshal_document(k_document, this, reader); }
 lmx::elmx_error ColorSpaceSpecificationSpectrum::marshal(const char* file_name) const { return lmx::marshal_document(k_document, this, file_name); }
 lmx::elmx_error ColorSpaceSpecificationSpectrum::marshal(std::string* text) const { return lmx::marshal_document(k_document, this, text); }
 lmx::elmx_error ColorSpaceSpecificationSpectrum::marshal(std::ostream& stream) const { return lmx::marshal_document(k_document, this, stream); }
+lmx::elmx_error ColorSpaceSpecificationSpectrum::marshal(lmx::c_xml_writer& writer, const char* name) const { writer.conditionally_select_ns_map(k_ns_map); return ColorSpaceSpecificationSpectrumType::marshal(writer, name); }
+lmx::elmx_error ColorSpaceSpecificationSpectrum::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return ColorSpaceSpecificationSpectrumType::unmarshal(reader, name); }
 
 // ColorSpaceSpecificationSpectrumGeneric
 
@@ -1022,45 +860,36 @@ constinit const s_class ColorSpaceSpecificationSpectrumGeneric::k_class = {
     .qualified_name = "Vyr:ColorSpaceSpecificationSpectrumGeneric",
     .base = &ColorSpaceSpecificationSpectrumGenericType::k_class,
     .content = content_kind::children,
-    .may_be_empty = false,
     .ns_map = k_ns_map,
     .nil_flag = LMX_FLAG(ColorSpaceSpecificationSpectrumGeneric, m_isnil),
-    .choice = k_no_flag,
     .id = &ColorSpaceSpecificationSpectrumGenericType::id,
     .xsi_type = "Vyr:ColorSpaceSpecificationSpectrumGenericType",
-    .attributes = {},
-    .elements = {},
     .attribute_map = k_no_events,
     .element_map = k_no_events,
     .operations = &k_operations<ColorSpaceSpecificationSpectrumGeneric>,
 };
 
+constinit const lmx::s_document ColorSpaceSpecificationSpectrumGeneric::k_document = {"Vyr:ColorSpaceSpecificationSpectrumGeneric", "ColorSpaceSpecificationSpectrumGeneric", k_ns_map, &lmx::k_operations<ColorSpaceSpecificationSpectrumGeneric>};
 ColorSpaceSpecificationSpectrumGeneric::ColorSpaceSpecificationSpectrumGeneric() = default;
 ColorSpaceSpecificationSpectrumGeneric::ColorSpaceSpecificationSpectrumGeneric(const ColorSpaceSpecificationSpectrumGeneric& other) : ColorSpaceSpecificationSpectrumGenericType() { lmx::copy(k_class, this, &other); }
+ColorSpaceSpecificationSpectrumGeneric::ColorSpaceSpecificationSpectrumGeneric(const char* file_name, lmx::elmx_error* error) : ColorSpaceSpecificationSpectrumGeneric() { *error = lmx::ELMX_UNDEFINED_ERROR; *error = unmarshal(file_name); }
+ColorSpaceSpecificationSpectrumGeneric::ColorSpaceSpecificationSpectrumGeneric(const char* data, std::size_t size, lmx::elmx_error* error) : ColorSpaceSpecificationSpectrumGeneric() { *error = lmx::ELMX_UNDEFINED_ERROR; *error = unmarshal(data, size); }
+ColorSpaceSpecificationSpectrumGeneric::ColorSpaceSpecificationSpectrumGeneric(const std::string& text, lmx::elmx_error* error) : ColorSpaceSpecificationSpectrumGeneric() { *error = lmx::ELMX_UNDEFINED_ERROR; *error = unmarshal(text.data(), text.size()); }
 ColorSpaceSpecificationSpectrumGeneric::~ColorSpaceSpecificationSpectrumGeneric() = default;
 ColorSpaceSpecificationSpectrumGeneric& ColorSpaceSpecificationSpectrumGeneric::operator=(const ColorSpaceSpecificationSpectrumGeneric& other) { ColorSpaceSpecificationSpectrumGeneric copy(other); swap(copy); return *this; }
-void ColorSpaceSpecificationSpectrumGeneric::swap(ColorSpaceSpecificationSpectrumGeneric& other) { lmx::swap(k_class, this, &other); }
-void ColorSpaceSpecificationSpectrumGeneric::reset() { ColorSpaceSpecificationSpectrumGeneric fresh; lmx::exchange(k_class, this, &fresh); }
-bool ColorSpaceSpecificationSpectrumGeneric::is_occurs_ok() const { return lmx::is_occurs_ok(k_class, this); }
-lmx::elmx_error ColorSpaceSpecificationSpectrumGeneric::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
-lmx::elmx_error ColorSpaceSpecificationSpectrumGeneric::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
-void ColorSpaceSpecificationSpectrumGeneric::marshal_attributes(lmx::c_xml_writer& writer) const { lmx::marshal_attributes(k_class, this, writer); }
-lmx::elmx_error ColorSpaceSpecificationSpectrumGeneric::marshal_child_elements(lmx::c_xml_writer& writer) const { return lmx::marshal_child_elements(k_class, this, writer); }
-bool ColorSpaceSpecificationSpectrumGeneric::unmarshal_attributes(lmx::c_xml_reader& reader, const std::string& name, lmx::elmx_error* error) { return lmx::unmarshal_attribute(k_class, this, reader, name, error); }
-lmx::elmx_error ColorSpaceSpecificationSpectrumGeneric::unmarshal_attributes_check(lmx::c_xml_reader& reader) { return lmx::check_required_attributes(k_class, this, reader); }
-bool ColorSpaceSpecificationSpectrumGeneric::unmarshal_body(lmx::c_xml_reader& reader, std::string* name, lmx::elmx_error* error) { return lmx::unmarshal_body(k_class, this, reader, name, error); }
-constinit const lmx::s_document ColorSpaceSpecificationSpectrumGeneric::k_document = {"Vyr:ColorSpaceSpecificationSpectrumGeneric", "ColorSpaceSpecificationSpectrumGeneric", k_ns_map, &lmx::k_operations<ColorSpaceSpecificationSpectrumGeneric>};
 const lmx::s_ns_map* ColorSpaceSpecificationSpectrumGeneric::ns_map() { return k_ns_map; }
-lmx::elmx_error ColorSpaceSpecificationSpectrumGeneric::unmarshal(lmx::c_xml_reader& reader) { return lmx::unmarshal_document(k_document, this, reader); }
-ColorSpaceSpecificationSpectrumGeneric::ColorSpaceSpecificationSpectrumGeneric(const char* file_name, lmx::elmx_error* error) : ColorSpaceSpecificationSpectrumGeneric() { *error = lmx::ELMX_UNDEFINED_ERROR; *error = unmarshal(file_name); }
 lmx::elmx_error ColorSpaceSpecificationSpectrumGeneric::unmarshal(const char* file_name) { return lmx::unmarshal_document(k_document, this, file_name); }
-ColorSpaceSpecificationSpectrumGeneric::ColorSpaceSpecificationSpectrumGeneric(const char* data, std::size_t size, lmx::elmx_error* error) : ColorSpaceSpecificationSpectrumGeneric() { *error = lmx::ELMX_UNDEFINED_ERROR; *error = unmarshal(data, size); }
 lmx::elmx_error ColorSpaceSpecificationSpectrumGeneric::unmarshal(const char* data, std::size_t size) { return lmx::unmarshal_document(k_document, this, data, size); }
-ColorSpaceSpecificationSpectrumGeneric::ColorSpaceSpecificationSpectrumGeneric(const std::string& text, lmx::elmx_error* error) : ColorSpaceSpecificationSpectrumGeneric() { *error = lmx::ELMX_UNDEFINED_ERROR; *error = unmarshal(text.data(), text.size()); }
 lmx::elmx_error ColorSpaceSpecificationSpectrumGeneric::unmarshal(const std::string& text) { return lmx::unmarshal_document(k_document, this, text.data(), text.size()); }
+lmx::elmx_error ColorSpaceSpecificationSpectrumGeneric::unmarshal(lmx::c_xml_reader& reader) { return lmx::unmarshal_document(k_document, this, reader); }
 lmx::elmx_error ColorSpaceSpecificationSpectrumGeneric::marshal(const char* file_name) const { return lmx::marshal_document(k_document, this, file_name); }
 lmx::elmx_error ColorSpaceSpecificationSpectrumGeneric::marshal(std::string* text) const { return lmx::marshal_document(k_document, this, text); }
 lmx::elmx_error ColorSpaceSpecificationSpectrumGeneric::marshal(std::ostream& stream) const { return lmx::marshal_document(k_document, this, stream); }
+lmx::elmx_error ColorSpaceSpecificationSpectrumGeneric::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
+lmx::elmx_error ColorSpaceSpecificationSpectrumGeneric::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
+void ColorSpaceSpecificationSpectrumGeneric::swap(ColorSpaceSpecificationSpectrumGeneric& other) { lmx::swap(k_class, this, &other); }
+void ColorSpaceSpecificationSpectrumGeneric::reset() { ColorSpaceSpecificationSpectrumGeneric fresh; lmx::exchange(k_class, this, &fresh); }
+bool ColorSpaceSpecificationSpectrumGeneric::is_occurs_ok() const { return lmx::is_occurs_ok(k_class, this); }
 
 // ColorSpaceSpecificationSpectrumTristimulus
 
@@ -1069,45 +898,36 @@ constinit const s_class ColorSpaceSpecificationSpectrumTristimulus::k_class = {
     .qualified_name = "Vyr:ColorSpaceSpecificationSpectrumTristimulus",
     .base = &ColorSpaceSpecificationSpectrumTristimulusType::k_class,
     .content = content_kind::children,
-    .may_be_empty = false,
     .ns_map = k_ns_map,
     .nil_flag = LMX_FLAG(ColorSpaceSpecificationSpectrumTristimulus, m_isnil),
-    .choice = k_no_flag,
     .id = &ColorSpaceSpecificationSpectrumTristimulusType::id,
     .xsi_type = "Vyr:ColorSpaceSpecificationSpectrumTristimulusType",
-    .attributes = {},
-    .elements = {},
     .attribute_map = k_no_events,
     .element_map = k_no_events,
     .operations = &k_operations<ColorSpaceSpecificationSpectrumTristimulus>,
 };
 
+constinit const lmx::s_document ColorSpaceSpecificationSpectrumTristimulus::k_document = {"Vyr:ColorSpaceSpecificationSpectrumTristimulus", "ColorSpaceSpecificationSpectrumTristimulus", k_ns_map, &lmx::k_operations<ColorSpaceSpecificationSpectrumTristimulus>};
 ColorSpaceSpecificationSpectrumTristimulus::ColorSpaceSpecificationSpectrumTristimulus() = default;
 ColorSpaceSpecificationSpectrumTristimulus::ColorSpaceSpecificationSpectrumTristimulus(const ColorSpaceSpecificationSpectrumTristimulus& other) : ColorSpaceSpecificationSpectrumTristimulusType() { lmx::copy(k_class, this, &other); }
+ColorSpaceSpecificationSpectrumTristimulus::ColorSpaceSpecificationSpectrumTristimulus(const char* file_name, lmx::elmx_error* error) : ColorSpaceSpecificationSpectrumTristimulus() { *error = lmx::ELMX_UNDEFINED_ERROR; *error = unmarshal(file_name); }
+ColorSpaceSpecificationSpectrumTristimulus::ColorSpaceSpecificationSpectrumTristimulus(const char* data, std::size_t size, lmx::elmx_error* error) : ColorSpaceSpecificationSpectrumTristimulus() { *error = lmx::ELMX_UNDEFINED_ERROR; *error = unmarshal(data, size); }
+ColorSpaceSpecificationSpectrumTristimulus::ColorSpaceSpecificationSpectrumTristimulus(const std::string& text, lmx::elmx_error* error) : ColorSpaceSpecificationSpectrumTristimulus() { *error = lmx::ELMX_UNDEFINED_ERROR; *error = unmarshal(text.data(), text.size()); }
 ColorSpaceSpecificationSpectrumTristimulus::~ColorSpaceSpecificationSpectrumTristimulus() = default;
 ColorSpaceSpecificationSpectrumTristimulus& ColorSpaceSpecificationSpectrumTristimulus::operator=(const ColorSpaceSpecificationSpectrumTristimulus& other) { ColorSpaceSpecificationSpectrumTristimulus copy(other); swap(copy); return *this; }
-void ColorSpaceSpecificationSpectrumTristimulus::swap(ColorSpaceSpecificationSpectrumTristimulus& other) { lmx::swap(k_class, this, &other); }
-void ColorSpaceSpecificationSpectrumTristimulus::reset() { ColorSpaceSpecificationSpectrumTristimulus fresh; lmx::exchange(k_class, this, &fresh); }
-bool ColorSpaceSpecificationSpectrumTristimulus::is_occurs_ok() const { return lmx::is_occurs_ok(k_class, this); }
-lmx::elmx_error ColorSpaceSpecificationSpectrumTristimulus::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
-lmx::elmx_error ColorSpaceSpecificationSpectrumTristimulus::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
-void ColorSpaceSpecificationSpectrumTristimulus::marshal_attributes(lmx::c_xml_writer& writer) const { lmx::marshal_attributes(k_class, this, writer); }
-lmx::elmx_error ColorSpaceSpecificationSpectrumTristimulus::marshal_child_elements(lmx::c_xml_writer& writer) const { return lmx::marshal_child_elements(k_class, this, writer); }
-bool ColorSpaceSpecificationSpectrumTristimulus::unmarshal_attributes(lmx::c_xml_reader& reader, const std::string& name, lmx::elmx_error* error) { return lmx::unmarshal_attribute(k_class, this, reader, name, error); }
-lmx::elmx_error ColorSpaceSpecificationSpectrumTristimulus::unmarshal_attributes_check(lmx::c_xml_reader& reader) { return lmx::check_required_attributes(k_class, this, reader); }
-bool ColorSpaceSpecificationSpectrumTristimulus::unmarshal_body(lmx::c_xml_reader& reader, std::string* name, lmx::elmx_error* error) { return lmx::unmarshal_body(k_class, this, reader, name, error); }
-constinit const lmx::s_document ColorSpaceSpecificationSpectrumTristimulus::k_document = {"Vyr:ColorSpaceSpecificationSpectrumTristimulus", "ColorSpaceSpecificationSpectrumTristimulus", k_ns_map, &lmx::k_operations<ColorSpaceSpecificationSpectrumTristimulus>};
 const lmx::s_ns_map* ColorSpaceSpecificationSpectrumTristimulus::ns_map() { return k_ns_map; }
-lmx::elmx_error ColorSpaceSpecificationSpectrumTristimulus::unmarshal(lmx::c_xml_reader& reader) { return lmx::unmarshal_document(k_document, this, reader); }
-ColorSpaceSpecificationSpectrumTristimulus::ColorSpaceSpecificationSpectrumTristimulus(const char* file_name, lmx::elmx_error* error) : ColorSpaceSpecificationSpectrumTristimulus() { *error = lmx::ELMX_UNDEFINED_ERROR; *error = unmarshal(file_name); }
 lmx::elmx_error ColorSpaceSpecificationSpectrumTristimulus::unmarshal(const char* file_name) { return lmx::unmarshal_document(k_document, this, file_name); }
-ColorSpaceSpecificationSpectrumTristimulus::ColorSpaceSpecificationSpectrumTristimulus(const char* data, std::size_t size, lmx::elmx_error* error) : ColorSpaceSpecificationSpectrumTristimulus() { *error = lmx::ELMX_UNDEFINED_ERROR; *error = unmarshal(data, size); }
 lmx::elmx_error ColorSpaceSpecificationSpectrumTristimulus::unmarshal(const char* data, std::size_t size) { return lmx::unmarshal_document(k_document, this, data, size); }
-ColorSpaceSpecificationSpectrumTristimulus::ColorSpaceSpecificationSpectrumTristimulus(const std::string& text, lmx::elmx_error* error) : ColorSpaceSpecificationSpectrumTristimulus() { *error = lmx::ELMX_UNDEFINED_ERROR; *error = unmarshal(text.data(), text.size()); }
 lmx::elmx_error ColorSpaceSpecificationSpectrumTristimulus::unmarshal(const std::string& text) { return lmx::unmarshal_document(k_document, this, text.data(), text.size()); }
+lmx::elmx_error ColorSpaceSpecificationSpectrumTristimulus::unmarshal(lmx::c_xml_reader& reader) { return lmx::unmarshal_document(k_document, this, reader); }
 lmx::elmx_error ColorSpaceSpecificationSpectrumTristimulus::marshal(const char* file_name) const { return lmx::marshal_document(k_document, this, file_name); }
 lmx::elmx_error ColorSpaceSpecificationSpectrumTristimulus::marshal(std::string* text) const { return lmx::marshal_document(k_document, this, text); }
 lmx::elmx_error ColorSpaceSpecificationSpectrumTristimulus::marshal(std::ostream& stream) const { return lmx::marshal_document(k_document, this, stream); }
+lmx::elmx_error ColorSpaceSpecificationSpectrumTristimulus::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
+lmx::elmx_error ColorSpaceSpecificationSpectrumTristimulus::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
+void ColorSpaceSpecificationSpectrumTristimulus::swap(ColorSpaceSpecificationSpectrumTristimulus& other) { lmx::swap(k_class, this, &other); }
+void ColorSpaceSpecificationSpectrumTristimulus::reset() { ColorSpaceSpecificationSpectrumTristimulus fresh; lmx::exchange(k_class, this, &fresh); }
+bool ColorSpaceSpecificationSpectrumTristimulus::is_occurs_ok() const { return lmx::is_occurs_ok(k_class, this); }
 
 // ColorSpaceSpecificationSpectrumSpectral
 
@@ -1116,65 +936,53 @@ constinit const s_class ColorSpaceSpecificationSpectrumSpectral::k_class = {
     .qualified_name = "Vyr:ColorSpaceSpecificationSpectrumSpectral",
     .base = &ColorSpaceSpecificationSpectrumSpectralType::k_class,
     .content = content_kind::children,
-    .may_be_empty = false,
     .ns_map = k_ns_map,
     .nil_flag = LMX_FLAG(ColorSpaceSpecificationSpectrumSpectral, m_isnil),
-    .choice = k_no_flag,
     .id = &ColorSpaceSpecificationSpectrumSpectralType::id,
     .xsi_type = "Vyr:ColorSpaceSpecificationSpectrumSpectralType",
-    .attributes = {},
-    .elements = {},
     .attribute_map = k_no_events,
     .element_map = k_no_events,
     .operations = &k_operations<ColorSpaceSpecificationSpectrumSpectral>,
 };
 
+constinit const lmx::s_document ColorSpaceSpecificationSpectrumSpectral::k_document = {"Vyr:ColorSpaceSpecificationSpectrumSpectral", "ColorSpaceSpecificationSpectrumSpectral", k_ns_map, &lmx::k_operations<ColorSpaceSpecificationSpectrumSpectral>};
 ColorSpaceSpecificationSpectrumSpectral::ColorSpaceSpecificationSpectrumSpectral() = default;
 ColorSpaceSpecificationSpectrumSpectral::ColorSpaceSpecificationSpectrumSpectral(const ColorSpaceSpecificationSpectrumSpectral& other) : ColorSpaceSpecificationSpectrumSpectralType() { lmx::copy(k_class, this, &other); }
+ColorSpaceSpecificationSpectrumSpectral::ColorSpaceSpecificationSpectrumSpectral(const char* file_name, lmx::elmx_error* error) : ColorSpaceSpecificationSpectrumSpectral() { *error = lmx::ELMX_UNDEFINED_ERROR; *error = unmarshal(file_name); }
+ColorSpaceSpecificationSpectrumSpectral::ColorSpaceSpecificationSpectrumSpectral(const char* data, std::size_t size, lmx::elmx_error* error) : ColorSpaceSpecificationSpectrumSpectral() { *error = lmx::ELMX_UNDEFINED_ERROR; *error = unmarshal(data, size); }
+ColorSpaceSpecificationSpectrumSpectral::ColorSpaceSpecificationSpectrumSpectral(const std::string& text, lmx::elmx_error* error) : ColorSpaceSpecificationSpectrumSpectral() { *error = lmx::ELMX_UNDEFINED_ERROR; *error = unmarshal(text.data(), text.size()); }
 ColorSpaceSpecificationSpectrumSpectral::~ColorSpaceSpecificationSpectrumSpectral() = default;
 ColorSpaceSpecificationSpectrumSpectral& ColorSpaceSpecificationSpectrumSpectral::operator=(const ColorSpaceSpecificationSpectrumSpectral& other) { ColorSpaceSpecificationSpectrumSpectral copy(other); swap(copy); return *this; }
-void ColorSpaceSpecificationSpectrumSpectral::swap(ColorSpaceSpecificationSpectrumSpectral& other) { lmx::swap(k_class, this, &other); }
-void ColorSpaceSpecificationSpectrumSpectral::reset() { ColorSpaceSpecificationSpectrumSpectral fresh; lmx::exchange(k_class, this, &fresh); }
-bool ColorSpaceSpecificationSpectrumSpectral::is_occurs_ok() const { return lmx::is_occurs_ok(k_class, this); }
-lmx::elmx_error ColorSpaceSpecificationSpectrumSpectral::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
-lmx::elmx_error ColorSpaceSpecificationSpectrumSpectral::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
-void ColorSpaceSpecificationSpectrumSpectral::marshal_attributes(lmx::c_xml_writer& writer) const { lmx::marshal_attributes(k_class, this, writer); }
-lmx::elmx_error ColorSpaceSpecificationSpectrumSpectral::marshal_child_elements(lmx::c_xml_writer& writer) const { return lmx::marshal_child_elements(k_class, this, writer); }
-bool ColorSpaceSpecificationSpectrumSpectral::unmarshal_attributes(lmx::c_xml_reader& reader, const std::string& name, lmx::elmx_error* error) { return lmx::unmarshal_attribute(k_class, this, reader, name, error); }
-lmx::elmx_error ColorSpaceSpecificationSpectrumSpectral::unmarshal_attributes_check(lmx::c_xml_reader& reader) { return lmx::check_required_attributes(k_class, this, reader); }
-bool ColorSpaceSpecificationSpectrumSpectral::unmarshal_body(lmx::c_xml_reader& reader, std::string* name, lmx::elmx_error* error) { return lmx::unmarshal_body(k_class, this, reader, name, error); }
-constinit const lmx::s_document ColorSpaceSpecificationSpectrumSpectral::k_document = {"Vyr:ColorSpaceSpecificationSpectrumSpectral", "ColorSpaceSpecificationSpectrumSpectral", k_ns_map, &lmx::k_operations<ColorSpaceSpecificationSpectrumSpectral>};
 const lmx::s_ns_map* ColorSpaceSpecificationSpectrumSpectral::ns_map() { return k_ns_map; }
-lmx::elmx_error ColorSpaceSpecificationSpectrumSpectral::unmarshal(lmx::c_xml_reader& reader) { return lmx::unmarshal_document(k_document, this, reader); }
-ColorSpaceSpecificationSpectrumSpectral::ColorSpaceSpecificationSpectrumSpectral(const char* file_name, lmx::elmx_error* error) : ColorSpaceSpecificationSpectrumSpectral() { *error = lmx::ELMX_UNDEFINED_ERROR; *error = unmarshal(file_name); }
 lmx::elmx_error ColorSpaceSpecificationSpectrumSpectral::unmarshal(const char* file_name) { return lmx::unmarshal_document(k_document, this, file_name); }
-ColorSpaceSpecificationSpectrumSpectral::ColorSpaceSpecificationSpectrumSpectral(const char* data, std::size_t size, lmx::elmx_error* error) : ColorSpaceSpecificationSpectrumSpectral() { *error = lmx::ELMX_UNDEFINED_ERROR; *error = unmarshal(data, size); }
 lmx::elmx_error ColorSpaceSpecificationSpectrumSpectral::unmarshal(const char* data, std::size_t size) { return lmx::unmarshal_document(k_document, this, data, size); }
-ColorSpaceSpecificationSpectrumSpectral::ColorSpaceSpecificationSpectrumSpectral(const std::string& text, lmx::elmx_error* error) : ColorSpaceSpecificationSpectrumSpectral() { *error = lmx::ELMX_UNDEFINED_ERROR; *error = unmarshal(text.data(), text.size()); }
 lmx::elmx_error ColorSpaceSpecificationSpectrumSpectral::unmarshal(const std::string& text) { return lmx::unmarshal_document(k_document, this, text.data(), text.size()); }
+lmx::elmx_error ColorSpaceSpecificationSpectrumSpectral::unmarshal(lmx::c_xml_reader& reader) { return lmx::unmarshal_document(k_document, this, reader); }
 lmx::elmx_error ColorSpaceSpecificationSpectrumSpectral::marshal(const char* file_name) const { return lmx::marshal_document(k_document, this, file_name); }
 lmx::elmx_error ColorSpaceSpecificationSpectrumSpectral::marshal(std::string* text) const { return lmx::marshal_document(k_document, this, text); }
 lmx::elmx_error ColorSpaceSpecificationSpectrumSpectral::marshal(std::ostream& stream) const { return lmx::marshal_document(k_document, this, stream); }
+lmx::elmx_error ColorSpaceSpecificationSpectrumSpectral::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
+lmx::elmx_error ColorSpaceSpecificationSpectrumSpectral::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
+void ColorSpaceSpecificationSpectrumSpectral::swap(ColorSpaceSpecificationSpectrumSpectral& other) { lmx::swap(k_class, this, &other); }
+void ColorSpaceSpecificationSpectrumSpectral::reset() { ColorSpaceSpecificationSpectrumSpectral fresh; lmx::exchange(k_class, this, &fresh); }
+bool ColorSpaceSpecificationSpectrumSpectral::is_occurs_ok() const { return lmx::is_occurs_ok(k_class, this); }
 
 // ColorSpaceSpecificationEmissive
 
-lmx::elmx_error ColorSpaceSpecificationEmissive::marshal(lmx::c_xml_writer& writer, const char* name) const {
-    writer.conditionally_select_ns_map(k_ns_map);
-    return ColorSpaceSpecificationEmissiveType::marshal(writer, name);
-}
-lmx::elmx_error ColorSpaceSpecificationEmissive::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return ColorSpaceSpecificationEmissiveType::unmarshal(reader, name); }
 constinit const lmx::s_document ColorSpaceSpecificationEmissive::k_document = {"Vyr:ColorSpaceSpecificationEmissive", "ColorSpaceSpecificationEmissive", k_ns_map, &lmx::k_operations<ColorSpaceSpecificationEmissive>};
-const lmx::s_ns_map* ColorSpaceSpecificationEmissive::ns_map() { return k_ns_map; }
-lmx::elmx_error ColorSpaceSpecificationEmissive::unmarshal(lmx::c_xml_reader& reader) { return lmx::unmarshal_document(k_document, this, reader); }
 ColorSpaceSpecificationEmissive::ColorSpaceSpecificationEmissive(const char* file_name, lmx::elmx_error* error) : ColorSpaceSpecificationEmissive() { *error = unmarshal(file_name); }
-lmx::elmx_error ColorSpaceSpecificationEmissive::unmarshal(const char* file_name) { return lmx::unmarshal_document(k_document, this, file_name); }
 ColorSpaceSpecificationEmissive::ColorSpaceSpecificationEmissive(const char* data, std::size_t size, lmx::elmx_error* error) : ColorSpaceSpecificationEmissive() { *error = unmarshal(data, size); }
-lmx::elmx_error ColorSpaceSpecificationEmissive::unmarshal(const char* data, std::size_t size) { return lmx::unmarshal_document(k_document, this, data, size); }
 ColorSpaceSpecificationEmissive::ColorSpaceSpecificationEmissive(const std::string& text, lmx::elmx_error* error) : ColorSpaceSpecificationEmissive() { *error = unmarshal(text.data(), text.size()); }
+const lmx::s_ns_map* ColorSpaceSpecificationEmissive::ns_map() { return k_ns_map; }
+lmx::elmx_error ColorSpaceSpecificationEmissive::unmarshal(const char* file_name) { return lmx::unmarshal_document(k_document, this, file_name); }
+lmx::elmx_error ColorSpaceSpecificationEmissive::unmarshal(const char* data, std::size_t size) { return lmx::unmarshal_document(k_document, this, data, size); }
 lmx::elmx_error ColorSpaceSpecificationEmissive::unmarshal(const std::string& text) { return lmx::unmarshal_document(k_document, this, text.data(), text.size()); }
+lmx::elmx_error ColorSpaceSpecificationEmissive::unmarshal(lmx::c_xml_reader& reader) { return lmx::unmarshal_document(k_document, this, reader); }
 lmx::elmx_error ColorSpaceSpecificationEmissive::marshal(const char* file_name) const { return lmx::marshal_document(k_document, this, file_name); }
 lmx::elmx_error ColorSpaceSpecificationEmissive::marshal(std::string* text) const { return lmx::marshal_document(k_document, this, text); }
 lmx::elmx_error ColorSpaceSpecificationEmissive::marshal(std::ostream& stream) const { return lmx::marshal_document(k_document, this, stream); }
+lmx::elmx_error ColorSpaceSpecificationEmissive::marshal(lmx::c_xml_writer& writer, const char* name) const { writer.conditionally_select_ns_map(k_ns_map); return ColorSpaceSpecificationEmissiveType::marshal(writer, name); }
+lmx::elmx_error ColorSpaceSpecificationEmissive::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return ColorSpaceSpecificationEmissiveType::unmarshal(reader, name); }
 
 // ColorSpaceSpecificationEmissiveGeneric
 
@@ -1183,45 +991,36 @@ constinit const s_class ColorSpaceSpecificationEmissiveGeneric::k_class = {
     .qualified_name = "Vyr:ColorSpaceSpecificationEmissiveGeneric",
     .base = &ColorSpaceSpecificationEmissiveGenericType::k_class,
     .content = content_kind::children,
-    .may_be_empty = false,
     .ns_map = k_ns_map,
     .nil_flag = LMX_FLAG(ColorSpaceSpecificationEmissiveGeneric, m_isnil),
-    .choice = k_no_flag,
     .id = &ColorSpaceSpecificationEmissiveGenericType::id,
     .xsi_type = "Vyr:ColorSpaceSpecificationEmissiveGenericType",
-    .attributes = {},
-    .elements = {},
     .attribute_map = k_no_events,
     .element_map = k_no_events,
     .operations = &k_operations<ColorSpaceSpecificationEmissiveGeneric>,
 };
 
+constinit const lmx::s_document ColorSpaceSpecificationEmissiveGeneric::k_document = {"Vyr:ColorSpaceSpecificationEmissiveGeneric", "ColorSpaceSpecificationEmissiveGeneric", k_ns_map, &lmx::k_operations<ColorSpaceSpecificationEmissiveGeneric>};
 ColorSpaceSpecificationEmissiveGeneric::ColorSpaceSpecificationEmissiveGeneric() = default;
 ColorSpaceSpecificationEmissiveGeneric::ColorSpaceSpecificationEmissiveGeneric(const ColorSpaceSpecificationEmissiveGeneric& other) : ColorSpaceSpecificationEmissiveGenericType() { lmx::copy(k_class, this, &other); }
+ColorSpaceSpecificationEmissiveGeneric::ColorSpaceSpecificationEmissiveGeneric(const char* file_name, lmx::elmx_error* error) : ColorSpaceSpecificationEmissiveGeneric() { *error = lmx::ELMX_UNDEFINED_ERROR; *error = unmarshal(file_name); }
+ColorSpaceSpecificationEmissiveGeneric::ColorSpaceSpecificationEmissiveGeneric(const char* data, std::size_t size, lmx::elmx_error* error) : ColorSpaceSpecificationEmissiveGeneric() { *error = lmx::ELMX_UNDEFINED_ERROR; *error = unmarshal(data, size); }
+ColorSpaceSpecificationEmissiveGeneric::ColorSpaceSpecificationEmissiveGeneric(const std::string& text, lmx::elmx_error* error) : ColorSpaceSpecificationEmissiveGeneric() { *error = lmx::ELMX_UNDEFINED_ERROR; *error = unmarshal(text.data(), text.size()); }
 ColorSpaceSpecificationEmissiveGeneric::~ColorSpaceSpecificationEmissiveGeneric() = default;
 ColorSpaceSpecificationEmissiveGeneric& ColorSpaceSpecificationEmissiveGeneric::operator=(const ColorSpaceSpecificationEmissiveGeneric& other) { ColorSpaceSpecificationEmissiveGeneric copy(other); swap(copy); return *this; }
-void ColorSpaceSpecificationEmissiveGeneric::swap(ColorSpaceSpecificationEmissiveGeneric& other) { lmx::swap(k_class, this, &other); }
-void ColorSpaceSpecificationEmissiveGeneric::reset() { ColorSpaceSpecificationEmissiveGeneric fresh; lmx::exchange(k_class, this, &fresh); }
-bool ColorSpaceSpecificationEmissiveGeneric::is_occurs_ok() const { return lmx::is_occurs_ok(k_class, this); }
-lmx::elmx_error ColorSpaceSpecificationEmissiveGeneric::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
-lmx::elmx_error ColorSpaceSpecificationEmissiveGeneric::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
-void ColorSpaceSpecificationEmissiveGeneric::marshal_attributes(lmx::c_xml_writer& writer) const { lmx::marshal_attributes(k_class, this, writer); }
-lmx::elmx_error ColorSpaceSpecificationEmissiveGeneric::marshal_child_elements(lmx::c_xml_writer& writer) const { return lmx::marshal_child_elements(k_class, this, writer); }
-bool ColorSpaceSpecificationEmissiveGeneric::unmarshal_attributes(lmx::c_xml_reader& reader, const std::string& name, lmx::elmx_error* error) { return lmx::unmarshal_attribute(k_class, this, reader, name, error); }
-lmx::elmx_error ColorSpaceSpecificationEmissiveGeneric::unmarshal_attributes_check(lmx::c_xml_reader& reader) { return lmx::check_required_attributes(k_class, this, reader); }
-bool ColorSpaceSpecificationEmissiveGeneric::unmarshal_body(lmx::c_xml_reader& reader, std::string* name, lmx::elmx_error* error) { return lmx::unmarshal_body(k_class, this, reader, name, error); }
-constinit const lmx::s_document ColorSpaceSpecificationEmissiveGeneric::k_document = {"Vyr:ColorSpaceSpecificationEmissiveGeneric", "ColorSpaceSpecificationEmissiveGeneric", k_ns_map, &lmx::k_operations<ColorSpaceSpecificationEmissiveGeneric>};
 const lmx::s_ns_map* ColorSpaceSpecificationEmissiveGeneric::ns_map() { return k_ns_map; }
-lmx::elmx_error ColorSpaceSpecificationEmissiveGeneric::unmarshal(lmx::c_xml_reader& reader) { return lmx::unmarshal_document(k_document, this, reader); }
-ColorSpaceSpecificationEmissiveGeneric::ColorSpaceSpecificationEmissiveGeneric(const char* file_name, lmx::elmx_error* error) : ColorSpaceSpecificationEmissiveGeneric() { *error = lmx::ELMX_UNDEFINED_ERROR; *error = unmarshal(file_name); }
 lmx::elmx_error ColorSpaceSpecificationEmissiveGeneric::unmarshal(const char* file_name) { return lmx::unmarshal_document(k_document, this, file_name); }
-ColorSpaceSpecificationEmissiveGeneric::ColorSpaceSpecificationEmissiveGeneric(const char* data, std::size_t size, lmx::elmx_error* error) : ColorSpaceSpecificationEmissiveGeneric() { *error = lmx::ELMX_UNDEFINED_ERROR; *error = unmarshal(data, size); }
 lmx::elmx_error ColorSpaceSpecificationEmissiveGeneric::unmarshal(const char* data, std::size_t size) { return lmx::unmarshal_document(k_document, this, data, size); }
-ColorSpaceSpecificationEmissiveGeneric::ColorSpaceSpecificationEmissiveGeneric(const std::string& text, lmx::elmx_error* error) : ColorSpaceSpecificationEmissiveGeneric() { *error = lmx::ELMX_UNDEFINED_ERROR; *error = unmarshal(text.data(), text.size()); }
 lmx::elmx_error ColorSpaceSpecificationEmissiveGeneric::unmarshal(const std::string& text) { return lmx::unmarshal_document(k_document, this, text.data(), text.size()); }
+lmx::elmx_error ColorSpaceSpecificationEmissiveGeneric::unmarshal(lmx::c_xml_reader& reader) { return lmx::unmarshal_document(k_document, this, reader); }
 lmx::elmx_error ColorSpaceSpecificationEmissiveGeneric::marshal(const char* file_name) const { return lmx::marshal_document(k_document, this, file_name); }
 lmx::elmx_error ColorSpaceSpecificationEmissiveGeneric::marshal(std::string* text) const { return lmx::marshal_document(k_document, this, text); }
 lmx::elmx_error ColorSpaceSpecificationEmissiveGeneric::marshal(std::ostream& stream) const { return lmx::marshal_document(k_document, this, stream); }
+lmx::elmx_error ColorSpaceSpecificationEmissiveGeneric::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
+lmx::elmx_error ColorSpaceSpecificationEmissiveGeneric::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
+void ColorSpaceSpecificationEmissiveGeneric::swap(ColorSpaceSpecificationEmissiveGeneric& other) { lmx::swap(k_class, this, &other); }
+void ColorSpaceSpecificationEmissiveGeneric::reset() { ColorSpaceSpecificationEmissiveGeneric fresh; lmx::exchange(k_class, this, &fresh); }
+bool ColorSpaceSpecificationEmissiveGeneric::is_occurs_ok() const { return lmx::is_occurs_ok(k_class, this); }
 
 // ColorSpaceSpecificationEmissiveTristimulus
 
@@ -1230,45 +1029,36 @@ constinit const s_class ColorSpaceSpecificationEmissiveTristimulus::k_class = {
     .qualified_name = "Vyr:ColorSpaceSpecificationEmissiveTristimulus",
     .base = &ColorSpaceSpecificationEmissiveTristimulusType::k_class,
     .content = content_kind::children,
-    .may_be_empty = false,
     .ns_map = k_ns_map,
     .nil_flag = LMX_FLAG(ColorSpaceSpecificationEmissiveTristimulus, m_isnil),
-    .choice = k_no_flag,
     .id = &ColorSpaceSpecificationEmissiveTristimulusType::id,
     .xsi_type = "Vyr:ColorSpaceSpecificationEmissiveTristimulusType",
-    .attributes = {},
-    .elements = {},
     .attribute_map = k_no_events,
     .element_map = k_no_events,
     .operations = &k_operations<ColorSpaceSpecificationEmissiveTristimulus>,
 };
 
+constinit const lmx::s_document ColorSpaceSpecificationEmissiveTristimulus::k_document = {"Vyr:ColorSpaceSpecificationEmissiveTristimulus", "ColorSpaceSpecificationEmissiveTristimulus", k_ns_map, &lmx::k_operations<ColorSpaceSpecificationEmissiveTristimulus>};
 ColorSpaceSpecificationEmissiveTristimulus::ColorSpaceSpecificationEmissiveTristimulus() = default;
 ColorSpaceSpecificationEmissiveTristimulus::ColorSpaceSpecificationEmissiveTristimulus(const ColorSpaceSpecificationEmissiveTristimulus& other) : ColorSpaceSpecificationEmissiveTristimulusType() { lmx::copy(k_class, this, &other); }
+ColorSpaceSpecificationEmissiveTristimulus::ColorSpaceSpecificationEmissiveTristimulus(const char* file_name, lmx::elmx_error* error) : ColorSpaceSpecificationEmissiveTristimulus() { *error = lmx::ELMX_UNDEFINED_ERROR; *error = unmarshal(file_name); }
+ColorSpaceSpecificationEmissiveTristimulus::ColorSpaceSpecificationEmissiveTristimulus(const char* data, std::size_t size, lmx::elmx_error* error) : ColorSpaceSpecificationEmissiveTristimulus() { *error = lmx::ELMX_UNDEFINED_ERROR; *error = unmarshal(data, size); }
+ColorSpaceSpecificationEmissiveTristimulus::ColorSpaceSpecificationEmissiveTristimulus(const std::string& text, lmx::elmx_error* error) : ColorSpaceSpecificationEmissiveTristimulus() { *error = lmx::ELMX_UNDEFINED_ERROR; *error = unmarshal(text.data(), text.size()); }
 ColorSpaceSpecificationEmissiveTristimulus::~ColorSpaceSpecificationEmissiveTristimulus() = default;
 ColorSpaceSpecificationEmissiveTristimulus& ColorSpaceSpecificationEmissiveTristimulus::operator=(const ColorSpaceSpecificationEmissiveTristimulus& other) { ColorSpaceSpecificationEmissiveTristimulus copy(other); swap(copy); return *this; }
-void ColorSpaceSpecificationEmissiveTristimulus::swap(ColorSpaceSpecificationEmissiveTristimulus& other) { lmx::swap(k_class, this, &other); }
-void ColorSpaceSpecificationEmissiveTristimulus::reset() { ColorSpaceSpecificationEmissiveTristimulus fresh; lmx::exchange(k_class, this, &fresh); }
-bool ColorSpaceSpecificationEmissiveTristimulus::is_occurs_ok() const { return lmx::is_occurs_ok(k_class, this); }
-lmx::elmx_error ColorSpaceSpecificationEmissiveTristimulus::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
-lmx::elmx_error ColorSpaceSpecificationEmissiveTristimulus::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
-void ColorSpaceSpecificationEmissiveTristimulus::marshal_attributes(lmx::c_xml_writer& writer) const { lmx::marshal_attributes(k_class, this, writer); }
-lmx::elmx_error ColorSpaceSpecificationEmissiveTristimulus::marshal_child_elements(lmx::c_xml_writer& writer) const { return lmx::marshal_child_elements(k_class, this, writer); }
-bool ColorSpaceSpecificationEmissiveTristimulus::unmarshal_attributes(lmx::c_xml_reader& reader, const std::string& name, lmx::elmx_error* error) { return lmx::unmarshal_attribute(k_class, this, reader, name, error); }
-lmx::elmx_error ColorSpaceSpecificationEmissiveTristimulus::unmarshal_attributes_check(lmx::c_xml_reader& reader) { return lmx::check_required_attributes(k_class, this, reader); }
-bool ColorSpaceSpecificationEmissiveTristimulus::unmarshal_body(lmx::c_xml_reader& reader, std::string* name, lmx::elmx_error* error) { return lmx::unmarshal_body(k_class, this, reader, name, error); }
-constinit const lmx::s_document ColorSpaceSpecificationEmissiveTristimulus::k_document = {"Vyr:ColorSpaceSpecificationEmissiveTristimulus", "ColorSpaceSpecificationEmissiveTristimulus", k_ns_map, &lmx::k_operations<ColorSpaceSpecificationEmissiveTristimulus>};
 const lmx::s_ns_map* ColorSpaceSpecificationEmissiveTristimulus::ns_map() { return k_ns_map; }
-lmx::elmx_error ColorSpaceSpecificationEmissiveTristimulus::unmarshal(lmx::c_xml_reader& reader) { return lmx::unmarshal_document(k_document, this, reader); }
-ColorSpaceSpecificationEmissiveTristimulus::ColorSpaceSpecificationEmissiveTristimulus(const char* file_name, lmx::elmx_error* error) : ColorSpaceSpecificationEmissiveTristimulus() { *error = lmx::ELMX_UNDEFINED_ERROR; *error = unmarshal(file_name); }
 lmx::elmx_error ColorSpaceSpecificationEmissiveTristimulus::unmarshal(const char* file_name) { return lmx::unmarshal_document(k_document, this, file_name); }
-ColorSpaceSpecificationEmissiveTristimulus::ColorSpaceSpecificationEmissiveTristimulus(const char* data, std::size_t size, lmx::elmx_error* error) : ColorSpaceSpecificationEmissiveTristimulus() { *error = lmx::ELMX_UNDEFINED_ERROR; *error = unmarshal(data, size); }
 lmx::elmx_error ColorSpaceSpecificationEmissiveTristimulus::unmarshal(const char* data, std::size_t size) { return lmx::unmarshal_document(k_document, this, data, size); }
-ColorSpaceSpecificationEmissiveTristimulus::ColorSpaceSpecificationEmissiveTristimulus(const std::string& text, lmx::elmx_error* error) : ColorSpaceSpecificationEmissiveTristimulus() { *error = lmx::ELMX_UNDEFINED_ERROR; *error = unmarshal(text.data(), text.size()); }
 lmx::elmx_error ColorSpaceSpecificationEmissiveTristimulus::unmarshal(const std::string& text) { return lmx::unmarshal_document(k_document, this, text.data(), text.size()); }
+lmx::elmx_error ColorSpaceSpecificationEmissiveTristimulus::unmarshal(lmx::c_xml_reader& reader) { return lmx::unmarshal_document(k_document, this, reader); }
 lmx::elmx_error ColorSpaceSpecificationEmissiveTristimulus::marshal(const char* file_name) const { return lmx::marshal_document(k_document, this, file_name); }
 lmx::elmx_error ColorSpaceSpecificationEmissiveTristimulus::marshal(std::string* text) const { return lmx::marshal_document(k_document, this, text); }
 lmx::elmx_error ColorSpaceSpecificationEmissiveTristimulus::marshal(std::ostream& stream) const { return lmx::marshal_document(k_document, this, stream); }
+lmx::elmx_error ColorSpaceSpecificationEmissiveTristimulus::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
+lmx::elmx_error ColorSpaceSpecificationEmissiveTristimulus::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
+void ColorSpaceSpecificationEmissiveTristimulus::swap(ColorSpaceSpecificationEmissiveTristimulus& other) { lmx::swap(k_class, this, &other); }
+void ColorSpaceSpecificationEmissiveTristimulus::reset() { ColorSpaceSpecificationEmissiveTristimulus fresh; lmx::exchange(k_class, this, &fresh); }
+bool ColorSpaceSpecificationEmissiveTristimulus::is_occurs_ok() const { return lmx::is_occurs_ok(k_class, this); }
 
 // ColorSpaceSpecificationEmissiveSpectral
 
@@ -1277,45 +1067,36 @@ constinit const s_class ColorSpaceSpecificationEmissiveSpectral::k_class = {
     .qualified_name = "Vyr:ColorSpaceSpecificationEmissiveSpectral",
     .base = &ColorSpaceSpecificationEmissiveSpectralType::k_class,
     .content = content_kind::children,
-    .may_be_empty = false,
     .ns_map = k_ns_map,
     .nil_flag = LMX_FLAG(ColorSpaceSpecificationEmissiveSpectral, m_isnil),
-    .choice = k_no_flag,
     .id = &ColorSpaceSpecificationEmissiveSpectralType::id,
     .xsi_type = "Vyr:ColorSpaceSpecificationEmissiveSpectralType",
-    .attributes = {},
-    .elements = {},
     .attribute_map = k_no_events,
     .element_map = k_no_events,
     .operations = &k_operations<ColorSpaceSpecificationEmissiveSpectral>,
 };
 
+constinit const lmx::s_document ColorSpaceSpecificationEmissiveSpectral::k_document = {"Vyr:ColorSpaceSpecificationEmissiveSpectral", "ColorSpaceSpecificationEmissiveSpectral", k_ns_map, &lmx::k_operations<ColorSpaceSpecificationEmissiveSpectral>};
 ColorSpaceSpecificationEmissiveSpectral::ColorSpaceSpecificationEmissiveSpectral() = default;
 ColorSpaceSpecificationEmissiveSpectral::ColorSpaceSpecificationEmissiveSpectral(const ColorSpaceSpecificationEmissiveSpectral& other) : ColorSpaceSpecificationEmissiveSpectralType() { lmx::copy(k_class, this, &other); }
+ColorSpaceSpecificationEmissiveSpectral::ColorSpaceSpecificationEmissiveSpectral(const char* file_name, lmx::elmx_error* error) : ColorSpaceSpecificationEmissiveSpectral() { *error = lmx::ELMX_UNDEFINED_ERROR; *error = unmarshal(file_name); }
+ColorSpaceSpecificationEmissiveSpectral::ColorSpaceSpecificationEmissiveSpectral(const char* data, std::size_t size, lmx::elmx_error* error) : ColorSpaceSpecificationEmissiveSpectral() { *error = lmx::ELMX_UNDEFINED_ERROR; *error = unmarshal(data, size); }
+ColorSpaceSpecificationEmissiveSpectral::ColorSpaceSpecificationEmissiveSpectral(const std::string& text, lmx::elmx_error* error) : ColorSpaceSpecificationEmissiveSpectral() { *error = lmx::ELMX_UNDEFINED_ERROR; *error = unmarshal(text.data(), text.size()); }
 ColorSpaceSpecificationEmissiveSpectral::~ColorSpaceSpecificationEmissiveSpectral() = default;
 ColorSpaceSpecificationEmissiveSpectral& ColorSpaceSpecificationEmissiveSpectral::operator=(const ColorSpaceSpecificationEmissiveSpectral& other) { ColorSpaceSpecificationEmissiveSpectral copy(other); swap(copy); return *this; }
-void ColorSpaceSpecificationEmissiveSpectral::swap(ColorSpaceSpecificationEmissiveSpectral& other) { lmx::swap(k_class, this, &other); }
-void ColorSpaceSpecificationEmissiveSpectral::reset() { ColorSpaceSpecificationEmissiveSpectral fresh; lmx::exchange(k_class, this, &fresh); }
-bool ColorSpaceSpecificationEmissiveSpectral::is_occurs_ok() const { return lmx::is_occurs_ok(k_class, this); }
-lmx::elmx_error ColorSpaceSpecificationEmissiveSpectral::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
-lmx::elmx_error ColorSpaceSpecificationEmissiveSpectral::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
-void ColorSpaceSpecificationEmissiveSpectral::marshal_attributes(lmx::c_xml_writer& writer) const { lmx::marshal_attributes(k_class, this, writer); }
-lmx::elmx_error ColorSpaceSpecificationEmissiveSpectral::marshal_child_elements(lmx::c_xml_writer& writer) const { return lmx::marshal_child_elements(k_class, this, writer); }
-bool ColorSpaceSpecificationEmissiveSpectral::unmarshal_attributes(lmx::c_xml_reader& reader, const std::string& name, lmx::elmx_error* error) { return lmx::unmarshal_attribute(k_class, this, reader, name, error); }
-lmx::elmx_error ColorSpaceSpecificationEmissiveSpectral::unmarshal_attributes_check(lmx::c_xml_reader& reader) { return lmx::check_required_attributes(k_class, this, reader); }
-bool ColorSpaceSpecificationEmissiveSpectral::unmarshal_body(lmx::c_xml_reader& reader, std::string* name, lmx::elmx_error* error) { return lmx::unmarshal_body(k_class, this, reader, name, error); }
-constinit const lmx::s_document ColorSpaceSpecificationEmissiveSpectral::k_document = {"Vyr:ColorSpaceSpecificationEmissiveSpectral", "ColorSpaceSpecificationEmissiveSpectral", k_ns_map, &lmx::k_operations<ColorSpaceSpecificationEmissiveSpectral>};
 const lmx::s_ns_map* ColorSpaceSpecificationEmissiveSpectral::ns_map() { return k_ns_map; }
-lmx::elmx_error ColorSpaceSpecificationEmissiveSpectral::unmarshal(lmx::c_xml_reader& reader) { return lmx::unmarshal_document(k_document, this, reader); }
-ColorSpaceSpecificationEmissiveSpectral::ColorSpaceSpecificationEmissiveSpectral(const char* file_name, lmx::elmx_error* error) : ColorSpaceSpecificationEmissiveSpectral() { *error = lmx::ELMX_UNDEFINED_ERROR; *error = unmarshal(file_name); }
 lmx::elmx_error ColorSpaceSpecificationEmissiveSpectral::unmarshal(const char* file_name) { return lmx::unmarshal_document(k_document, this, file_name); }
-ColorSpaceSpecificationEmissiveSpectral::ColorSpaceSpecificationEmissiveSpectral(const char* data, std::size_t size, lmx::elmx_error* error) : ColorSpaceSpecificationEmissiveSpectral() { *error = lmx::ELMX_UNDEFINED_ERROR; *error = unmarshal(data, size); }
 lmx::elmx_error ColorSpaceSpecificationEmissiveSpectral::unmarshal(const char* data, std::size_t size) { return lmx::unmarshal_document(k_document, this, data, size); }
-ColorSpaceSpecificationEmissiveSpectral::ColorSpaceSpecificationEmissiveSpectral(const std::string& text, lmx::elmx_error* error) : ColorSpaceSpecificationEmissiveSpectral() { *error = lmx::ELMX_UNDEFINED_ERROR; *error = unmarshal(text.data(), text.size()); }
 lmx::elmx_error ColorSpaceSpecificationEmissiveSpectral::unmarshal(const std::string& text) { return lmx::unmarshal_document(k_document, this, text.data(), text.size()); }
+lmx::elmx_error ColorSpaceSpecificationEmissiveSpectral::unmarshal(lmx::c_xml_reader& reader) { return lmx::unmarshal_document(k_document, this, reader); }
 lmx::elmx_error ColorSpaceSpecificationEmissiveSpectral::marshal(const char* file_name) const { return lmx::marshal_document(k_document, this, file_name); }
 lmx::elmx_error ColorSpaceSpecificationEmissiveSpectral::marshal(std::string* text) const { return lmx::marshal_document(k_document, this, text); }
 lmx::elmx_error ColorSpaceSpecificationEmissiveSpectral::marshal(std::ostream& stream) const { return lmx::marshal_document(k_document, this, stream); }
+lmx::elmx_error ColorSpaceSpecificationEmissiveSpectral::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
+lmx::elmx_error ColorSpaceSpecificationEmissiveSpectral::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
+void ColorSpaceSpecificationEmissiveSpectral::swap(ColorSpaceSpecificationEmissiveSpectral& other) { lmx::swap(k_class, this, &other); }
+void ColorSpaceSpecificationEmissiveSpectral::reset() { ColorSpaceSpecificationEmissiveSpectral fresh; lmx::exchange(k_class, this, &fresh); }
+bool ColorSpaceSpecificationEmissiveSpectral::is_occurs_ok() const { return lmx::is_occurs_ok(k_class, this); }
 
 // Illuminant
 
@@ -1335,14 +1116,7 @@ constinit const s_item Illuminant::k_items[] = {
 constinit const s_class Illuminant::k_class = {
     .name = "Illuminant",
     .qualified_name = "Vyr:Illuminant",
-    .base = nullptr,
     .content = content_kind::simple,
-    .may_be_empty = false,
-    .ns_map = nullptr,
-    .nil_flag = k_no_flag,
-    .choice = k_no_flag,
-    .id = nullptr,
-    .xsi_type = nullptr,
     .attributes = std::span(k_items).first(std::size(k_Illuminant_attributes) - 1),
     .elements = std::span(k_items).subspan(std::size(k_Illuminant_attributes) - 1),
     .attribute_map = k_Illuminant_attributes,
@@ -1354,16 +1128,11 @@ Illuminant::Illuminant() = default;
 Illuminant::Illuminant(const Illuminant& other) { lmx::copy(k_class, this, &other); }
 Illuminant::~Illuminant() = default;
 Illuminant& Illuminant::operator=(const Illuminant& other) { Illuminant copy(other); swap(copy); return *this; }
+lmx::elmx_error Illuminant::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
+lmx::elmx_error Illuminant::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
 void Illuminant::swap(Illuminant& other) { lmx::swap(k_class, this, &other); }
 void Illuminant::reset() { Illuminant fresh; lmx::exchange(k_class, this, &fresh); }
 bool Illuminant::is_occurs_ok() const { return lmx::is_occurs_ok(k_class, this); }
-lmx::elmx_error Illuminant::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
-lmx::elmx_error Illuminant::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
-void Illuminant::marshal_attributes(lmx::c_xml_writer& writer) const { lmx::marshal_attributes(k_class, this, writer); }
-lmx::elmx_error Illuminant::marshal_child_elements(lmx::c_xml_writer& writer) const { return lmx::marshal_child_elements(k_class, this, writer); }
-bool Illuminant::unmarshal_attributes(lmx::c_xml_reader& reader, const std::string& name, lmx::elmx_error* error) { return lmx::unmarshal_attribute(k_class, this, reader, name, error); }
-lmx::elmx_error Illuminant::unmarshal_attributes_check(lmx::c_xml_reader& reader) { return lmx::check_required_attributes(k_class, this, reader); }
-bool Illuminant::unmarshal_body(lmx::c_xml_reader& reader, std::string* name, lmx::elmx_error* error, bool has_body) { return lmx::unmarshal_content(k_class, this, reader, name, error, has_body); }
 lmx::elmx_error Illuminant::set_CustomName(const std::u16string& value) { return lmx::set_item(k_class, k_items[item_CustomName], this, value); }
 lmx::elmx_error Illuminant::set_Illuminant(const std::u16string& value) { return lmx::set_item(k_class, k_items[item_Illuminant], this, value); }
 bool Illuminant::setenum_Illuminant(std::int32_t number) { return lmx::set_enumerated(k_class, k_items[item_Illuminant], this, number); }
@@ -1387,15 +1156,7 @@ constinit const s_item WhitePointChromaticity::k_items[] = {
 constinit const s_class WhitePointChromaticity::k_class = {
     .name = "WhitePointChromaticity",
     .qualified_name = "Vyr:WhitePointChromaticity",
-    .base = nullptr,
     .content = content_kind::children,
-    .may_be_empty = false,
-    .ns_map = nullptr,
-    .nil_flag = k_no_flag,
-    .choice = k_no_flag,
-    .id = nullptr,
-    .xsi_type = nullptr,
-    .attributes = std::span(k_items).first(std::size(k_no_events) - 1),
     .elements = std::span(k_items).subspan(std::size(k_no_events) - 1),
     .attribute_map = k_no_events,
     .element_map = k_WhitePointChromaticity_elements,
@@ -1406,16 +1167,11 @@ WhitePointChromaticity::WhitePointChromaticity() = default;
 WhitePointChromaticity::WhitePointChromaticity(const WhitePointChromaticity& other) { lmx::copy(k_class, this, &other); }
 WhitePointChromaticity::~WhitePointChromaticity() = default;
 WhitePointChromaticity& WhitePointChromaticity::operator=(const WhitePointChromaticity& other) { WhitePointChromaticity copy(other); swap(copy); return *this; }
+lmx::elmx_error WhitePointChromaticity::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
+lmx::elmx_error WhitePointChromaticity::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
 void WhitePointChromaticity::swap(WhitePointChromaticity& other) { lmx::swap(k_class, this, &other); }
 void WhitePointChromaticity::reset() { WhitePointChromaticity fresh; lmx::exchange(k_class, this, &fresh); }
 bool WhitePointChromaticity::is_occurs_ok() const { return lmx::is_occurs_ok(k_class, this); }
-lmx::elmx_error WhitePointChromaticity::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
-lmx::elmx_error WhitePointChromaticity::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
-void WhitePointChromaticity::marshal_attributes(lmx::c_xml_writer& writer) const { lmx::marshal_attributes(k_class, this, writer); }
-lmx::elmx_error WhitePointChromaticity::marshal_child_elements(lmx::c_xml_writer& writer) const { return lmx::marshal_child_elements(k_class, this, writer); }
-bool WhitePointChromaticity::unmarshal_attributes(lmx::c_xml_reader& reader, const std::string& name, lmx::elmx_error* error) { return lmx::unmarshal_attribute(k_class, this, reader, name, error); }
-lmx::elmx_error WhitePointChromaticity::unmarshal_attributes_check(lmx::c_xml_reader& reader) { return lmx::check_required_attributes(k_class, this, reader); }
-bool WhitePointChromaticity::unmarshal_body(lmx::c_xml_reader& reader, std::string* name, lmx::elmx_error* error) { return lmx::unmarshal_body(k_class, this, reader, name, error); }
 lmx::elmx_error WhitePointChromaticity::set_CoordinateX(double value) { return lmx::set_item(k_class, k_items[item_CoordinateX], this, value); }
 lmx::elmx_error WhitePointChromaticity::set_CoordinateY(double value) { return lmx::set_item(k_class, k_items[item_CoordinateY], this, value); }
 
@@ -1441,15 +1197,8 @@ constinit const s_item BSDFAngle::k_items[] = {
 constinit const s_class BSDFAngle::k_class = {
     .name = "BSDFAngle",
     .qualified_name = "Vyr:BSDFAngle",
-    .base = nullptr,
     .content = content_kind::children,
-    .may_be_empty = false,
     .ns_map = k_ns_map,
-    .nil_flag = k_no_flag,
-    .choice = k_no_flag,
-    .id = nullptr,
-    .xsi_type = nullptr,
-    .attributes = std::span(k_items).first(std::size(k_no_events) - 1),
     .elements = std::span(k_items).subspan(std::size(k_no_events) - 1),
     .attribute_map = k_no_events,
     .element_map = k_BSDFAngle_elements,
@@ -1460,16 +1209,11 @@ BSDFAngle::BSDFAngle() = default;
 BSDFAngle::BSDFAngle(const BSDFAngle& other) { lmx::copy(k_class, this, &other); }
 BSDFAngle::~BSDFAngle() = default;
 BSDFAngle& BSDFAngle::operator=(const BSDFAngle& other) { BSDFAngle copy(other); swap(copy); return *this; }
+lmx::elmx_error BSDFAngle::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
+lmx::elmx_error BSDFAngle::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
 void BSDFAngle::swap(BSDFAngle& other) { lmx::swap(k_class, this, &other); }
 void BSDFAngle::reset() { BSDFAngle fresh; lmx::exchange(k_class, this, &fresh); }
 bool BSDFAngle::is_occurs_ok() const { return lmx::is_occurs_ok(k_class, this); }
-lmx::elmx_error BSDFAngle::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
-lmx::elmx_error BSDFAngle::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
-void BSDFAngle::marshal_attributes(lmx::c_xml_writer& writer) const { lmx::marshal_attributes(k_class, this, writer); }
-lmx::elmx_error BSDFAngle::marshal_child_elements(lmx::c_xml_writer& writer) const { return lmx::marshal_child_elements(k_class, this, writer); }
-bool BSDFAngle::unmarshal_attributes(lmx::c_xml_reader& reader, const std::string& name, lmx::elmx_error* error) { return lmx::unmarshal_attribute(k_class, this, reader, name, error); }
-lmx::elmx_error BSDFAngle::unmarshal_attributes_check(lmx::c_xml_reader& reader) { return lmx::check_required_attributes(k_class, this, reader); }
-bool BSDFAngle::unmarshal_body(lmx::c_xml_reader& reader, std::string* name, lmx::elmx_error* error) { return lmx::unmarshal_body(k_class, this, reader, name, error); }
 lmx::elmx_error BSDFAngle::set_IlluminantAngle(double value) { return lmx::set_item(k_class, k_items[item_IlluminantAngle], this, value); }
 lmx::elmx_error BSDFAngle::set_Aspecular(double value) { return lmx::set_item(k_class, k_items[item_Aspecular], this, value); }
 
@@ -1478,16 +1222,7 @@ lmx::elmx_error BSDFAngle::set_Aspecular(double value) { return lmx::set_item(k_
 constinit const s_class Azimuth::k_class = {
     .name = "Azimuth",
     .qualified_name = "Vyr:Azimuth",
-    .base = nullptr,
     .content = content_kind::empty,
-    .may_be_empty = false,
-    .ns_map = nullptr,
-    .nil_flag = k_no_flag,
-    .choice = k_no_flag,
-    .id = nullptr,
-    .xsi_type = nullptr,
-    .attributes = {},
-    .elements = {},
     .attribute_map = k_no_events,
     .element_map = k_no_events,
     .operations = &k_operations<Azimuth>,
@@ -1497,15 +1232,10 @@ Azimuth::Azimuth() = default;
 Azimuth::Azimuth(const Azimuth& other) { lmx::copy(k_class, this, &other); }
 Azimuth::~Azimuth() = default;
 Azimuth& Azimuth::operator=(const Azimuth& other) { Azimuth copy(other); swap(copy); return *this; }
+lmx::elmx_error Azimuth::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
+lmx::elmx_error Azimuth::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
 void Azimuth::swap(Azimuth& other) { lmx::swap(k_class, this, &other); }
 void Azimuth::reset() { Azimuth fresh; lmx::exchange(k_class, this, &fresh); }
 bool Azimuth::is_occurs_ok() const { return lmx::is_occurs_ok(k_class, this); }
-lmx::elmx_error Azimuth::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
-lmx::elmx_error Azimuth::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
-void Azimuth::marshal_attributes(lmx::c_xml_writer& writer) const { lmx::marshal_attributes(k_class, this, writer); }
-lmx::elmx_error Azimuth::marshal_child_elements(lmx::c_xml_writer& writer) const { return lmx::marshal_child_elements(k_class, this, writer); }
-bool Azimuth::unmarshal_attributes(lmx::c_xml_reader& reader, const std::string& name, lmx::elmx_error* error) { return lmx::unmarshal_attribute(k_class, this, reader, name, error); }
-lmx::elmx_error Azimuth::unmarshal_attributes_check(lmx::c_xml_reader& reader) { return lmx::check_required_attributes(k_class, this, reader); }
-bool Azimuth::unmarshal_body(lmx::c_xml_reader& reader, std::string* name, lmx::elmx_error* error) { return lmx::unmarshal_body(k_class, this, reader, name, error); }
 
 }  // namespace com_vyrgraph_v2

@@ -61,10 +61,7 @@ constinit const s_class ColorSpaceRGBType::k_class = {
     .qualified_name = "Vyr:ColorSpaceRGBType",
     .base = &ColorSpaceType::k_class,
     .content = content_kind::children,
-    .may_be_empty = false,
     .ns_map = k_ns_map,
-    .nil_flag = k_no_flag,
-    .choice = k_no_flag,
     .id = &ColorSpaceRGBType::id,
     .xsi_type = "Vyr:ColorSpaceRGBType",
     .attributes = std::span(k_items).first(std::size(k_ColorSpaceRGBType_attributes) - 1),
@@ -74,25 +71,20 @@ constinit const s_class ColorSpaceRGBType::k_class = {
     .operations = &k_operations<ColorSpaceRGBType>,
 };
 
+namespace { const char k_ColorSpaceRGBType_id[] = "ColorSpaceRGBType"; }
+const char* ColorSpaceRGBType::id = k_ColorSpaceRGBType_id;
 ColorSpaceRGBType::ColorSpaceRGBType() = default;
 ColorSpaceRGBType::ColorSpaceRGBType(const ColorSpaceRGBType& other) : ColorSpaceType() { lmx::copy(k_class, this, &other); }
+ColorSpaceRGBType* ColorSpaceRGBType::clone() const { return new ColorSpaceRGBType(*this); }
 ColorSpaceRGBType::~ColorSpaceRGBType() = default;
 ColorSpaceRGBType& ColorSpaceRGBType::operator=(const ColorSpaceRGBType& other) { ColorSpaceRGBType copy(other); swap(copy); return *this; }
+const char* ColorSpaceRGBType::getid() const { return id; }
+bool ColorSpaceRGBType::has_id(const char* identity) const { return identity == id || ColorSpaceType::has_id(identity); }
+lmx::elmx_error ColorSpaceRGBType::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
+lmx::elmx_error ColorSpaceRGBType::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
 void ColorSpaceRGBType::swap(ColorSpaceRGBType& other) { lmx::swap(k_class, this, &other); }
 void ColorSpaceRGBType::reset() { ColorSpaceRGBType fresh; lmx::exchange(k_class, this, &fresh); }
 bool ColorSpaceRGBType::is_occurs_ok() const { return lmx::is_occurs_ok(k_class, this); }
-lmx::elmx_error ColorSpaceRGBType::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
-lmx::elmx_error ColorSpaceRGBType::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
-void ColorSpaceRGBType::marshal_attributes(lmx::c_xml_writer& writer) const { lmx::marshal_attributes(k_class, this, writer); }
-lmx::elmx_error ColorSpaceRGBType::marshal_child_elements(lmx::c_xml_writer& writer) const { return lmx::marshal_child_elements(k_class, this, writer); }
-bool ColorSpaceRGBType::unmarshal_attributes(lmx::c_xml_reader& reader, const std::string& name, lmx::elmx_error* error) { return lmx::unmarshal_attribute(k_class, this, reader, name, error); }
-lmx::elmx_error ColorSpaceRGBType::unmarshal_attributes_check(lmx::c_xml_reader& reader) { return lmx::check_required_attributes(k_class, this, reader); }
-bool ColorSpaceRGBType::unmarshal_body(lmx::c_xml_reader& reader, std::string* name, lmx::elmx_error* error) { return lmx::unmarshal_body(k_class, this, reader, name, error); }
-namespace { const char k_ColorSpaceRGBType_id[] = "ColorSpaceRGBType"; }
-const char* ColorSpaceRGBType::id = k_ColorSpaceRGBType_id;
-ColorSpaceRGBType* ColorSpaceRGBType::clone() const { return new ColorSpaceRGBType(*this); }
-const char* ColorSpaceRGBType::getid() const { return id; }
-bool ColorSpaceRGBType::has_id(const char* identity) const { return identity == id || ColorSpaceType::has_id(identity); }
 lmx::elmx_error ColorSpaceRGBType::set_Name(const std::u16string& value) { return lmx::set_item(k_class, k_items[item_Name], this, value); }
 ColorSpaceSpecificationSpectrumTristimulus& ColorSpaceRGBType::assign_ColorSpaceSpecificationSpectrumTristimulus(const ColorSpaceSpecificationSpectrumTristimulus& value) { return get_ColorSpaceSpecificationSpectrumTristimulus() = value; }
 lmx::elmx_error ColorSpaceRGBType::set_Red(double value) { return lmx::set_item(k_class, k_items[item_Red], this, value); }
@@ -141,10 +133,7 @@ constinit const s_class ColorSpaceSRGBType::k_class = {
     .qualified_name = "Vyr:ColorSpaceSRGBType",
     .base = &ColorSpaceType::k_class,
     .content = content_kind::children,
-    .may_be_empty = false,
     .ns_map = k_ns_map,
-    .nil_flag = k_no_flag,
-    .choice = k_no_flag,
     .id = &ColorSpaceSRGBType::id,
     .xsi_type = "Vyr:ColorSpaceSRGBType",
     .attributes = std::span(k_items).first(std::size(k_ColorSpaceSRGBType_attributes) - 1),
@@ -154,25 +143,20 @@ constinit const s_class ColorSpaceSRGBType::k_class = {
     .operations = &k_operations<ColorSpaceSRGBType>,
 };
 
+namespace { const char k_ColorSpaceSRGBType_id[] = "ColorSpaceSRGBType"; }
+const char* ColorSpaceSRGBType::id = k_ColorSpaceSRGBType_id;
 ColorSpaceSRGBType::ColorSpaceSRGBType() = default;
 ColorSpaceSRGBType::ColorSpaceSRGBType(const ColorSpaceSRGBType& other) : ColorSpaceType() { lmx::copy(k_class, this, &other); }
+ColorSpaceSRGBType* ColorSpaceSRGBType::clone() const { return new ColorSpaceSRGBType(*this); }
 ColorSpaceSRGBType::~ColorSpaceSRGBType() = default;
 ColorSpaceSRGBType& ColorSpaceSRGBType::operator=(const ColorSpaceSRGBType& other) { ColorSpaceSRGBType copy(other); swap(copy); return *this; }
+const char* ColorSpaceSRGBType::getid() const { return id; }
+bool ColorSpaceSRGBType::has_id(const char* identity) const { return identity == id || ColorSpaceType::has_id(identity); }
+lmx::elmx_error ColorSpaceSRGBType::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
+lmx::elmx_error ColorSpaceSRGBType::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
 void ColorSpaceSRGBType::swap(ColorSpaceSRGBType& other) { lmx::swap(k_class, this, &other); }
 void ColorSpaceSRGBType::reset() { ColorSpaceSRGBType fresh; lmx::exchange(k_class, this, &fresh); }
 bool ColorSpaceSRGBType::is_occurs_ok() const { return lmx::is_occurs_ok(k_class, this); }
-lmx::elmx_error ColorSpaceSRGBType::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
-lmx::elmx_error ColorSpaceSRGBType::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
-void ColorSpaceSRGBType::marshal_attributes(lmx::c_xml_writer& writer) const { lmx::marshal_attributes(k_class, this, writer); }
-lmx::elmx_error ColorSpaceSRGBType::marshal_child_elements(lmx::c_xml_writer& writer) const { return lmx::marshal_child_elements(k_class, this, writer); }
-bool ColorSpaceSRGBType::unmarshal_attributes(lmx::c_xml_reader& reader, const std::string& name, lmx::elmx_error* error) { return lmx::unmarshal_attribute(k_class, this, reader, name, error); }
-lmx::elmx_error ColorSpaceSRGBType::unmarshal_attributes_check(lmx::c_xml_reader& reader) { return lmx::check_required_attributes(k_class, this, reader); }
-bool ColorSpaceSRGBType::unmarshal_body(lmx::c_xml_reader& reader, std::string* name, lmx::elmx_error* error) { return lmx::unmarshal_body(k_class, this, reader, name, error); }
-namespace { const char k_ColorSpaceSRGBType_id[] = "ColorSpaceSRGBType"; }
-const char* ColorSpaceSRGBType::id = k_ColorSpaceSRGBType_id;
-ColorSpaceSRGBType* ColorSpaceSRGBType::clone() const { return new ColorSpaceSRGBType(*this); }
-const char* ColorSpaceSRGBType::getid() const { return id; }
-bool ColorSpaceSRGBType::has_id(const char* identity) const { return identity == id || ColorSpaceType::has_id(identity); }
 lmx::elmx_error ColorSpaceSRGBType::set_Name(const std::u16string& value) { return lmx::set_item(k_class, k_items[item_Name], this, value); }
 ColorSpaceSpecificationSpectrumTristimulus& ColorSpaceSRGBType::assign_ColorSpaceSpecificationSpectrumTristimulus(const ColorSpaceSpecificationSpectrumTristimulus& value) { return get_ColorSpaceSpecificationSpectrumTristimulus() = value; }
 lmx::elmx_error ColorSpaceSRGBType::set_Red(double value) { return lmx::set_item(k_class, k_items[item_Red], this, value); }
@@ -221,10 +205,7 @@ constinit const s_class ColorSpaceAdobeRGBType::k_class = {
     .qualified_name = "Vyr:ColorSpaceAdobeRGBType",
     .base = &ColorSpaceType::k_class,
     .content = content_kind::children,
-    .may_be_empty = false,
     .ns_map = k_ns_map,
-    .nil_flag = k_no_flag,
-    .choice = k_no_flag,
     .id = &ColorSpaceAdobeRGBType::id,
     .xsi_type = "Vyr:ColorSpaceAdobeRGBType",
     .attributes = std::span(k_items).first(std::size(k_ColorSpaceAdobeRGBType_attributes) - 1),
@@ -234,25 +215,20 @@ constinit const s_class ColorSpaceAdobeRGBType::k_class = {
     .operations = &k_operations<ColorSpaceAdobeRGBType>,
 };
 
+namespace { const char k_ColorSpaceAdobeRGBType_id[] = "ColorSpaceAdobeRGBType"; }
+const char* ColorSpaceAdobeRGBType::id = k_ColorSpaceAdobeRGBType_id;
 ColorSpaceAdobeRGBType::ColorSpaceAdobeRGBType() = default;
 ColorSpaceAdobeRGBType::ColorSpaceAdobeRGBType(const ColorSpaceAdobeRGBType& other) : ColorSpaceType() { lmx::copy(k_class, this, &other); }
+ColorSpaceAdobeRGBType* ColorSpaceAdobeRGBType::clone() const { return new ColorSpaceAdobeRGBType(*this); }
 ColorSpaceAdobeRGBType::~ColorSpaceAdobeRGBType() = default;
 ColorSpaceAdobeRGBType& ColorSpaceAdobeRGBType::operator=(const ColorSpaceAdobeRGBType& other) { ColorSpaceAdobeRGBType copy(other); swap(copy); return *this; }
+const char* ColorSpaceAdobeRGBType::getid() const { return id; }
+bool ColorSpaceAdobeRGBType::has_id(const char* identity) const { return identity == id || ColorSpaceType::has_id(identity); }
+lmx::elmx_error ColorSpaceAdobeRGBType::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
+lmx::elmx_error ColorSpaceAdobeRGBType::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
 void ColorSpaceAdobeRGBType::swap(ColorSpaceAdobeRGBType& other) { lmx::swap(k_class, this, &other); }
 void ColorSpaceAdobeRGBType::reset() { ColorSpaceAdobeRGBType fresh; lmx::exchange(k_class, this, &fresh); }
 bool ColorSpaceAdobeRGBType::is_occurs_ok() const { return lmx::is_occurs_ok(k_class, this); }
-lmx::elmx_error ColorSpaceAdobeRGBType::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
-lmx::elmx_error ColorSpaceAdobeRGBType::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
-void ColorSpaceAdobeRGBType::marshal_attributes(lmx::c_xml_writer& writer) const { lmx::marshal_attributes(k_class, this, writer); }
-lmx::elmx_error ColorSpaceAdobeRGBType::marshal_child_elements(lmx::c_xml_writer& writer) const { return lmx::marshal_child_elements(k_class, this, writer); }
-bool ColorSpaceAdobeRGBType::unmarshal_attributes(lmx::c_xml_reader& reader, const std::string& name, lmx::elmx_error* error) { return lmx::unmarshal_attribute(k_class, this, reader, name, error); }
-lmx::elmx_error ColorSpaceAdobeRGBType::unmarshal_attributes_check(lmx::c_xml_reader& reader) { return lmx::check_required_attributes(k_class, this, reader); }
-bool ColorSpaceAdobeRGBType::unmarshal_body(lmx::c_xml_reader& reader, std::string* name, lmx::elmx_error* error) { return lmx::unmarshal_body(k_class, this, reader, name, error); }
-namespace { const char k_ColorSpaceAdobeRGBType_id[] = "ColorSpaceAdobeRGBType"; }
-const char* ColorSpaceAdobeRGBType::id = k_ColorSpaceAdobeRGBType_id;
-ColorSpaceAdobeRGBType* ColorSpaceAdobeRGBType::clone() const { return new ColorSpaceAdobeRGBType(*this); }
-const char* ColorSpaceAdobeRGBType::getid() const { return id; }
-bool ColorSpaceAdobeRGBType::has_id(const char* identity) const { return identity == id || ColorSpaceType::has_id(identity); }
 lmx::elmx_error ColorSpaceAdobeRGBType::set_Name(const std::u16string& value) { return lmx::set_item(k_class, k_items[item_Name], this, value); }
 ColorSpaceSpecificationSpectrumTristimulus& ColorSpaceAdobeRGBType::assign_ColorSpaceSpecificationSpectrumTristimulus(const ColorSpaceSpecificationSpectrumTristimulus& value) { return get_ColorSpaceSpecificationSpectrumTristimulus() = value; }
 lmx::elmx_error ColorSpaceAdobeRGBType::set_Red(double value) { return lmx::set_item(k_class, k_items[item_Red], this, value); }
@@ -301,10 +277,7 @@ constinit const s_class ColorSpaceAdobeWideGamutRGBType::k_class = {
     .qualified_name = "Vyr:ColorSpaceAdobeWideGamutRGBType",
     .base = &ColorSpaceType::k_class,
     .content = content_kind::children,
-    .may_be_empty = false,
     .ns_map = k_ns_map,
-    .nil_flag = k_no_flag,
-    .choice = k_no_flag,
     .id = &ColorSpaceAdobeWideGamutRGBType::id,
     .xsi_type = "Vyr:ColorSpaceAdobeWideGamutRGBType",
     .attributes = std::span(k_items).first(std::size(k_ColorSpaceAdobeWideGamutRGBType_attributes) - 1),
@@ -314,25 +287,20 @@ constinit const s_class ColorSpaceAdobeWideGamutRGBType::k_class = {
     .operations = &k_operations<ColorSpaceAdobeWideGamutRGBType>,
 };
 
+namespace { const char k_ColorSpaceAdobeWideGamutRGBType_id[] = "ColorSpaceAdobeWideGamutRGBType"; }
+const char* ColorSpaceAdobeWideGamutRGBType::id = k_ColorSpaceAdobeWideGamutRGBType_id;
 ColorSpaceAdobeWideGamutRGBType::ColorSpaceAdobeWideGamutRGBType() = default;
 ColorSpaceAdobeWideGamutRGBType::ColorSpaceAdobeWideGamutRGBType(const ColorSpaceAdobeWideGamutRGBType& other) : ColorSpaceType() { lmx::copy(k_class, this, &other); }
+ColorSpaceAdobeWideGamutRGBType* ColorSpaceAdobeWideGamutRGBType::clone() const { return new ColorSpaceAdobeWideGamutRGBType(*this); }
 ColorSpaceAdobeWideGamutRGBType::~ColorSpaceAdobeWideGamutRGBType() = default;
 ColorSpaceAdobeWideGamutRGBType& ColorSpaceAdobeWideGamutRGBType::operator=(const ColorSpaceAdobeWideGamutRGBType& other) { ColorSpaceAdobeWideGamutRGBType copy(other); swap(copy); return *this; }
+const char* ColorSpaceAdobeWideGamutRGBType::getid() const { return id; }
+bool ColorSpaceAdobeWideGamutRGBType::has_id(const char* identity) const { return identity == id || ColorSpaceType::has_id(identity); }
+lmx::elmx_error ColorSpaceAdobeWideGamutRGBType::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
+lmx::elmx_error ColorSpaceAdobeWideGamutRGBType::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
 void ColorSpaceAdobeWideGamutRGBType::swap(ColorSpaceAdobeWideGamutRGBType& other) { lmx::swap(k_class, this, &other); }
 void ColorSpaceAdobeWideGamutRGBType::reset() { ColorSpaceAdobeWideGamutRGBType fresh; lmx::exchange(k_class, this, &fresh); }
 bool ColorSpaceAdobeWideGamutRGBType::is_occurs_ok() const { return lmx::is_occurs_ok(k_class, this); }
-lmx::elmx_error ColorSpaceAdobeWideGamutRGBType::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
-lmx::elmx_error ColorSpaceAdobeWideGamutRGBType::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
-void ColorSpaceAdobeWideGamutRGBType::marshal_attributes(lmx::c_xml_writer& writer) const { lmx::marshal_attributes(k_class, this, writer); }
-lmx::elmx_error ColorSpaceAdobeWideGamutRGBType::marshal_child_elements(lmx::c_xml_writer& writer) const { return lmx::marshal_child_elements(k_class, this, writer); }
-bool ColorSpaceAdobeWideGamutRGBType::unmarshal_attributes(lmx::c_xml_reader& reader, const std::string& name, lmx::elmx_error* error) { return lmx::unmarshal_attribute(k_class, this, reader, name, error); }
-lmx::elmx_error ColorSpaceAdobeWideGamutRGBType::unmarshal_attributes_check(lmx::c_xml_reader& reader) { return lmx::check_required_attributes(k_class, this, reader); }
-bool ColorSpaceAdobeWideGamutRGBType::unmarshal_body(lmx::c_xml_reader& reader, std::string* name, lmx::elmx_error* error) { return lmx::unmarshal_body(k_class, this, reader, name, error); }
-namespace { const char k_ColorSpaceAdobeWideGamutRGBType_id[] = "ColorSpaceAdobeWideGamutRGBType"; }
-const char* ColorSpaceAdobeWideGamutRGBType::id = k_ColorSpaceAdobeWideGamutRGBType_id;
-ColorSpaceAdobeWideGamutRGBType* ColorSpaceAdobeWideGamutRGBType::clone() const { return new ColorSpaceAdobeWideGamutRGBType(*this); }
-const char* ColorSpaceAdobeWideGamutRGBType::getid() const { return id; }
-bool ColorSpaceAdobeWideGamutRGBType::has_id(const char* identity) const { return identity == id || ColorSpaceType::has_id(identity); }
 lmx::elmx_error ColorSpaceAdobeWideGamutRGBType::set_Name(const std::u16string& value) { return lmx::set_item(k_class, k_items[item_Name], this, value); }
 ColorSpaceSpecificationSpectrumTristimulus& ColorSpaceAdobeWideGamutRGBType::assign_ColorSpaceSpecificationSpectrumTristimulus(const ColorSpaceSpecificationSpectrumTristimulus& value) { return get_ColorSpaceSpecificationSpectrumTristimulus() = value; }
 lmx::elmx_error ColorSpaceAdobeWideGamutRGBType::set_Red(double value) { return lmx::set_item(k_class, k_items[item_Red], this, value); }
@@ -385,10 +353,7 @@ constinit const s_class ColorSpaceCMYKType::k_class = {
     .qualified_name = "Vyr:ColorSpaceCMYKType",
     .base = &ColorSpaceType::k_class,
     .content = content_kind::children,
-    .may_be_empty = false,
     .ns_map = k_ns_map,
-    .nil_flag = k_no_flag,
-    .choice = k_no_flag,
     .id = &ColorSpaceCMYKType::id,
     .xsi_type = "Vyr:ColorSpaceCMYKType",
     .attributes = std::span(k_items).first(std::size(k_ColorSpaceCMYKType_attributes) - 1),
@@ -398,26 +363,20 @@ constinit const s_class ColorSpaceCMYKType::k_class = {
     .operations = &k_operations<ColorSpaceCMYKType>,
 };
 
+namespace { const char k_ColorSpaceCMYKType_id[] = "ColorSpaceCMYKType"; }
+const char* ColorSpaceCMYKType::id = k_ColorSpaceCMYKType_id;
 ColorSpaceCMYKType::ColorSpaceCMYKType() = default;
 ColorSpaceCMYKType::ColorSpaceCMYKType(const ColorSpaceCMYKType& other) : ColorSpaceType() { lmx::copy(k_class, this, &other); }
+ColorSpaceCMYKType* ColorSpaceCMYKType::clone() const { return new ColorSpaceCMYKType(*this); }
 ColorSpaceCMYKType::~ColorSpaceCMYKType() = default;
 ColorSpaceCMYKType& ColorSpaceCMYKType::operator=(const ColorSpaceCMYKType& other) { ColorSpaceCMYKType copy(other); swap(copy); return *this; }
+const char* ColorSpaceCMYKType::getid() const { return id; }
+bool ColorSpaceCMYKType::has_id(const char* identity) const { return identity == id || ColorSpaceType::has_id(identity); }
+lmx::elmx_error ColorSpaceCMYKType::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
+lmx::elmx_error ColorSpaceCMYKType::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
 void ColorSpaceCMYKType::swap(ColorSpaceCMYKType& other) { lmx::swap(k_class, this, &other); }
 void ColorSpaceCMYKType::reset() { ColorSpaceCMYKType fresh; lmx::exchange(k_class, this, &fresh); }
 bool ColorSpaceCMYKType::is_occurs_ok() const { return lmx::is_occurs_ok(k_class, this); }
-lmx::elmx_error ColorSpaceCMYKType::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
-lmx::elmx_error ColorSpaceCMYKType::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
-void ColorSpaceCMYKType::marshal_attributes(lmx::c_xml_writer& writer) const { lmx::marshal_attributes(k_class, this, writer); }
-lmx::elmx_error ColorSpaceCMYKType::marshal_child_elements(lmx::c_xml_writer& writer) const { return lmx::marshal_child_elements(k_class, this, writer); }
-bool ColorSpaceCMYKType::unmarshal_attributes(lmx::c_xml_reader& reader, const std::string& name, lmx::elmx_error* error) { return lmx::unmarshal_attribute(k_class, this, reader, name, error); }
-lmx::elmx_error ColorSpaceCMYKType::unmarshal_attributes_check(lmx::c_xml_reader& reader) { return lmx::check_required_attributes(k_class, this, reader); }
-bool ColorSpaceCMYKType::unmarshal_body(lmx::c_xml_reader& reader, std::string* name, lmx::elmx_error* error) { return lmx::unmarshal_body(k_class, this, reader, name, error); }
-namespace { const char k_ColorSpaceCMYKType_id[] = "ColorSpaceCMYKType"; }
-const char* ColorSpaceCMYKType::id = k_ColorSpaceCMYKType_id;
-ColorSpaceCMYKType* ColorSpaceCMYKType::clone() const { return new ColorSpaceCMYKType(*this); }
-const char* ColorSpaceCMYKType::getid() const { return id; }
-bool ColorSpaceCMYKType::has_id(const char* identity) const { return identity == id || ColorSpaceType::has_id(identity); }
-ColorSpaceCMYKType* ColorSpaceCMYKType::factory(int ns_id, const std::string& name) { return static_cast<ColorSpaceCMYKType*>(lmx::create_by_name(k_factory, ns_id, name)); }
 lmx::elmx_error ColorSpaceCMYKType::set_Name(const std::u16string& value) { return lmx::set_item(k_class, k_items[item_Name], this, value); }
 ColorSpaceSpecificationSpectrumGeneric& ColorSpaceCMYKType::assign_ColorSpaceSpecificationSpectrumGeneric(const ColorSpaceSpecificationSpectrumGeneric& value) { return get_ColorSpaceSpecificationSpectrumGeneric() = value; }
 lmx::elmx_error ColorSpaceCMYKType::set_Cyan(double value) { return lmx::set_item(k_class, k_items[item_Cyan], this, value); }
@@ -430,6 +389,7 @@ lmx::elmx_error ColorSpaceCMYKType::append_SpotColor() { m_SpotColor.append(); r
 lmx::elmx_error ColorSpaceCMYKType::insert_SpotColor(std::size_t index) { m_SpotColor.insert(index); return lmx::ELMX_OK; }
 void ColorSpaceCMYKType::delete_SpotColor(std::size_t index) { m_SpotColor.erase(index); }
 void ColorSpaceCMYKType::clear_SpotColor() { m_SpotColor.clear(); }
+ColorSpaceCMYKType* ColorSpaceCMYKType::factory(int ns_id, const std::string& name) { return static_cast<ColorSpaceCMYKType*>(lmx::create_by_name(k_factory, ns_id, name)); }
 
 // ColorSpaceCMYKPlusNType
 
@@ -452,38 +412,29 @@ constinit const s_class ColorSpaceCMYKPlusNType::k_class = {
     .qualified_name = "Vyr:ColorSpaceCMYKPlusNType",
     .base = &ColorSpaceCMYKType::k_class,
     .content = content_kind::children,
-    .may_be_empty = false,
     .ns_map = k_ns_map,
-    .nil_flag = k_no_flag,
-    .choice = k_no_flag,
     .id = &ColorSpaceCMYKPlusNType::id,
     .xsi_type = "Vyr:ColorSpaceCMYKPlusNType",
-    .attributes = std::span(k_items).first(std::size(k_no_events) - 1),
     .elements = std::span(k_items).subspan(std::size(k_no_events) - 1),
     .attribute_map = k_no_events,
     .element_map = k_ColorSpaceCMYKPlusNType_elements,
     .operations = &k_operations<ColorSpaceCMYKPlusNType>,
 };
 
+namespace { const char k_ColorSpaceCMYKPlusNType_id[] = "ColorSpaceCMYKPlusNType"; }
+const char* ColorSpaceCMYKPlusNType::id = k_ColorSpaceCMYKPlusNType_id;
 ColorSpaceCMYKPlusNType::ColorSpaceCMYKPlusNType() = default;
 ColorSpaceCMYKPlusNType::ColorSpaceCMYKPlusNType(const ColorSpaceCMYKPlusNType& other) : ColorSpaceCMYKType() { lmx::copy(k_class, this, &other); }
+ColorSpaceCMYKPlusNType* ColorSpaceCMYKPlusNType::clone() const { return new ColorSpaceCMYKPlusNType(*this); }
 ColorSpaceCMYKPlusNType::~ColorSpaceCMYKPlusNType() = default;
 ColorSpaceCMYKPlusNType& ColorSpaceCMYKPlusNType::operator=(const ColorSpaceCMYKPlusNType& other) { ColorSpaceCMYKPlusNType copy(other); swap(copy); return *this; }
+const char* ColorSpaceCMYKPlusNType::getid() const { return id; }
+bool ColorSpaceCMYKPlusNType::has_id(const char* identity) const { return identity == id || ColorSpaceCMYKType::has_id(identity); }
+lmx::elmx_error ColorSpaceCMYKPlusNType::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
+lmx::elmx_error ColorSpaceCMYKPlusNType::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
 void ColorSpaceCMYKPlusNType::swap(ColorSpaceCMYKPlusNType& other) { lmx::swap(k_class, this, &other); }
 void ColorSpaceCMYKPlusNType::reset() { ColorSpaceCMYKPlusNType fresh; lmx::exchange(k_class, this, &fresh); }
 bool ColorSpaceCMYKPlusNType::is_occurs_ok() const { return lmx::is_occurs_ok(k_class, this); }
-lmx::elmx_error ColorSpaceCMYKPlusNType::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
-lmx::elmx_error ColorSpaceCMYKPlusNType::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
-void ColorSpaceCMYKPlusNType::marshal_attributes(lmx::c_xml_writer& writer) const { lmx::marshal_attributes(k_class, this, writer); }
-lmx::elmx_error ColorSpaceCMYKPlusNType::marshal_child_elements(lmx::c_xml_writer& writer) const { return lmx::marshal_child_elements(k_class, this, writer); }
-bool ColorSpaceCMYKPlusNType::unmarshal_attributes(lmx::c_xml_reader& reader, const std::string& name, lmx::elmx_error* error) { return lmx::unmarshal_attribute(k_class, this, reader, name, error); }
-lmx::elmx_error ColorSpaceCMYKPlusNType::unmarshal_attributes_check(lmx::c_xml_reader& reader) { return lmx::check_required_attributes(k_class, this, reader); }
-bool ColorSpaceCMYKPlusNType::unmarshal_body(lmx::c_xml_reader& reader, std::string* name, lmx::elmx_error* error) { return lmx::unmarshal_body(k_class, this, reader, name, error); }
-namespace { const char k_ColorSpaceCMYKPlusNType_id[] = "ColorSpaceCMYKPlusNType"; }
-const char* ColorSpaceCMYKPlusNType::id = k_ColorSpaceCMYKPlusNType_id;
-ColorSpaceCMYKPlusNType* ColorSpaceCMYKPlusNType::clone() const { return new ColorSpaceCMYKPlusNType(*this); }
-const char* ColorSpaceCMYKPlusNType::getid() const { return id; }
-bool ColorSpaceCMYKPlusNType::has_id(const char* identity) const { return identity == id || ColorSpaceCMYKType::has_id(identity); }
 lmx::elmx_error ColorSpaceCMYKPlusNType::set_ColorSpaceName(const std::u16string& value) { return lmx::set_item(k_class, k_items[item_ColorSpaceName], this, value); }
 Color& ColorSpaceCMYKPlusNType::get_Color(std::size_t index) { return m_Color.grow_to(index); }
 Color& ColorSpaceCMYKPlusNType::assign_Color(std::size_t index, const Color& value) { return get_Color(index) = value; }
@@ -511,15 +462,7 @@ constinit const s_item Color::k_items[] = {
 constinit const s_class Color::k_class = {
     .name = "Color",
     .qualified_name = "Vyr:Color",
-    .base = nullptr,
     .content = content_kind::children,
-    .may_be_empty = false,
-    .ns_map = nullptr,
-    .nil_flag = k_no_flag,
-    .choice = k_no_flag,
-    .id = nullptr,
-    .xsi_type = nullptr,
-    .attributes = std::span(k_items).first(std::size(k_no_events) - 1),
     .elements = std::span(k_items).subspan(std::size(k_no_events) - 1),
     .attribute_map = k_no_events,
     .element_map = k_Color_elements,
@@ -530,16 +473,11 @@ Color::Color() = default;
 Color::Color(const Color& other) { lmx::copy(k_class, this, &other); }
 Color::~Color() = default;
 Color& Color::operator=(const Color& other) { Color copy(other); swap(copy); return *this; }
+lmx::elmx_error Color::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
+lmx::elmx_error Color::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
 void Color::swap(Color& other) { lmx::swap(k_class, this, &other); }
 void Color::reset() { Color fresh; lmx::exchange(k_class, this, &fresh); }
 bool Color::is_occurs_ok() const { return lmx::is_occurs_ok(k_class, this); }
-lmx::elmx_error Color::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
-lmx::elmx_error Color::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
-void Color::marshal_attributes(lmx::c_xml_writer& writer) const { lmx::marshal_attributes(k_class, this, writer); }
-lmx::elmx_error Color::marshal_child_elements(lmx::c_xml_writer& writer) const { return lmx::marshal_child_elements(k_class, this, writer); }
-bool Color::unmarshal_attributes(lmx::c_xml_reader& reader, const std::string& name, lmx::elmx_error* error) { return lmx::unmarshal_attribute(k_class, this, reader, name, error); }
-lmx::elmx_error Color::unmarshal_attributes_check(lmx::c_xml_reader& reader) { return lmx::check_required_attributes(k_class, this, reader); }
-bool Color::unmarshal_body(lmx::c_xml_reader& reader, std::string* name, lmx::elmx_error* error) { return lmx::unmarshal_body(k_class, this, reader, name, error); }
 lmx::elmx_error Color::set_Name(const std::u16string& value) { return lmx::set_item(k_class, k_items[item_Name], this, value); }
 lmx::elmx_error Color::set_Value(double value) { return lmx::set_item(k_class, k_items[item_Value], this, value); }
 
@@ -588,10 +526,7 @@ constinit const s_class ColorSpaceTINTORAOctavanticType::k_class = {
     .qualified_name = "Vyr:ColorSpaceTINTORAOctavanticType",
     .base = &ColorSpaceType::k_class,
     .content = content_kind::children,
-    .may_be_empty = false,
     .ns_map = k_ns_map,
-    .nil_flag = k_no_flag,
-    .choice = k_no_flag,
     .id = &ColorSpaceTINTORAOctavanticType::id,
     .xsi_type = "Vyr:ColorSpaceTINTORAOctavanticType",
     .attributes = std::span(k_items).first(std::size(k_ColorSpaceTINTORAOctavanticType_attributes) - 1),
@@ -601,25 +536,20 @@ constinit const s_class ColorSpaceTINTORAOctavanticType::k_class = {
     .operations = &k_operations<ColorSpaceTINTORAOctavanticType>,
 };
 
+namespace { const char k_ColorSpaceTINTORAOctavanticType_id[] = "ColorSpaceTINTORAOctavanticType"; }
+const char* ColorSpaceTINTORAOctavanticType::id = k_ColorSpaceTINTORAOctavanticType_id;
 ColorSpaceTINTORAOctavanticType::ColorSpaceTINTORAOctavanticType() = default;
 ColorSpaceTINTORAOctavanticType::ColorSpaceTINTORAOctavanticType(const ColorSpaceTINTORAOctavanticType& other) : ColorSpaceType() { lmx::copy(k_class, this, &other); }
+ColorSpaceTINTORAOctavanticType* ColorSpaceTINTORAOctavanticType::clone() const { return new ColorSpaceTINTORAOctavanticType(*this); }
 ColorSpaceTINTORAOctavanticType::~ColorSpaceTINTORAOctavanticType() = default;
 ColorSpaceTINTORAOctavanticType& ColorSpaceTINTORAOctavanticType::operator=(const ColorSpaceTINTORAOctavanticType& other) { ColorSpaceTINTORAOctavanticType copy(other); swap(copy); return *this; }
+const char* ColorSpaceTINTORAOctavanticType::getid() const { return id; }
+bool ColorSpaceTINTORAOctavanticType::has_id(const char* identity) const { return identity == id || ColorSpaceType::has_id(identity); }
+lmx::elmx_error ColorSpaceTINTORAOctavanticType::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
+lmx::elmx_error ColorSpaceTINTORAOctavanticType::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
 void ColorSpaceTINTORAOctavanticType::swap(ColorSpaceTINTORAOctavanticType& other) { lmx::swap(k_class, this, &other); }
 void ColorSpaceTINTORAOctavanticType::reset() { ColorSpaceTINTORAOctavanticType fresh; lmx::exchange(k_class, this, &fresh); }
 bool ColorSpaceTINTORAOctavanticType::is_occurs_ok() const { return lmx::is_occurs_ok(k_class, this); }
-lmx::elmx_error ColorSpaceTINTORAOctavanticType::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
-lmx::elmx_error ColorSpaceTINTORAOctavanticType::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
-void ColorSpaceTINTORAOctavanticType::marshal_attributes(lmx::c_xml_writer& writer) const { lmx::marshal_attributes(k_class, this, writer); }
-lmx::elmx_error ColorSpaceTINTORAOctavanticType::marshal_child_elements(lmx::c_xml_writer& writer) const { return lmx::marshal_child_elements(k_class, this, writer); }
-bool ColorSpaceTINTORAOctavanticType::unmarshal_attributes(lmx::c_xml_reader& reader, const std::string& name, lmx::elmx_error* error) { return lmx::unmarshal_attribute(k_class, this, reader, name, error); }
-lmx::elmx_error ColorSpaceTINTORAOctavanticType::unmarshal_attributes_check(lmx::c_xml_reader& reader) { return lmx::check_required_attributes(k_class, this, reader); }
-bool ColorSpaceTINTORAOctavanticType::unmarshal_body(lmx::c_xml_reader& reader, std::string* name, lmx::elmx_error* error) { return lmx::unmarshal_body(k_class, this, reader, name, error); }
-namespace { const char k_ColorSpaceTINTORAOctavanticType_id[] = "ColorSpaceTINTORAOctavanticType"; }
-const char* ColorSpaceTINTORAOctavanticType::id = k_ColorSpaceTINTORAOctavanticType_id;
-ColorSpaceTINTORAOctavanticType* ColorSpaceTINTORAOctavanticType::clone() const { return new ColorSpaceTINTORAOctavanticType(*this); }
-const char* ColorSpaceTINTORAOctavanticType::getid() const { return id; }
-bool ColorSpaceTINTORAOctavanticType::has_id(const char* identity) const { return identity == id || ColorSpaceType::has_id(identity); }
 lmx::elmx_error ColorSpaceTINTORAOctavanticType::set_Name(const std::u16string& value) { return lmx::set_item(k_class, k_items[item_Name], this, value); }
 ColorSpaceSpecificationSpectrumGeneric& ColorSpaceTINTORAOctavanticType::assign_ColorSpaceSpecificationSpectrumGeneric(const ColorSpaceSpecificationSpectrumGeneric& value) { return get_ColorSpaceSpecificationSpectrumGeneric() = value; }
 lmx::elmx_error ColorSpaceTINTORAOctavanticType::set_Cyan(double value) { return lmx::set_item(k_class, k_items[item_Cyan], this, value); }
@@ -668,10 +598,7 @@ constinit const s_class ColorSpaceHSLType::k_class = {
     .qualified_name = "Vyr:ColorSpaceHSLType",
     .base = &ColorSpaceType::k_class,
     .content = content_kind::children,
-    .may_be_empty = false,
     .ns_map = k_ns_map,
-    .nil_flag = k_no_flag,
-    .choice = k_no_flag,
     .id = &ColorSpaceHSLType::id,
     .xsi_type = "Vyr:ColorSpaceHSLType",
     .attributes = std::span(k_items).first(std::size(k_ColorSpaceHSLType_attributes) - 1),
@@ -681,25 +608,20 @@ constinit const s_class ColorSpaceHSLType::k_class = {
     .operations = &k_operations<ColorSpaceHSLType>,
 };
 
+namespace { const char k_ColorSpaceHSLType_id[] = "ColorSpaceHSLType"; }
+const char* ColorSpaceHSLType::id = k_ColorSpaceHSLType_id;
 ColorSpaceHSLType::ColorSpaceHSLType() = default;
 ColorSpaceHSLType::ColorSpaceHSLType(const ColorSpaceHSLType& other) : ColorSpaceType() { lmx::copy(k_class, this, &other); }
+ColorSpaceHSLType* ColorSpaceHSLType::clone() const { return new ColorSpaceHSLType(*this); }
 ColorSpaceHSLType::~ColorSpaceHSLType() = default;
 ColorSpaceHSLType& ColorSpaceHSLType::operator=(const ColorSpaceHSLType& other) { ColorSpaceHSLType copy(other); swap(copy); return *this; }
+const char* ColorSpaceHSLType::getid() const { return id; }
+bool ColorSpaceHSLType::has_id(const char* identity) const { return identity == id || ColorSpaceType::has_id(identity); }
+lmx::elmx_error ColorSpaceHSLType::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
+lmx::elmx_error ColorSpaceHSLType::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
 void ColorSpaceHSLType::swap(ColorSpaceHSLType& other) { lmx::swap(k_class, this, &other); }
 void ColorSpaceHSLType::reset() { ColorSpaceHSLType fresh; lmx::exchange(k_class, this, &fresh); }
 bool ColorSpaceHSLType::is_occurs_ok() const { return lmx::is_occurs_ok(k_class, this); }
-lmx::elmx_error ColorSpaceHSLType::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
-lmx::elmx_error ColorSpaceHSLType::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
-void ColorSpaceHSLType::marshal_attributes(lmx::c_xml_writer& writer) const { lmx::marshal_attributes(k_class, this, writer); }
-lmx::elmx_error ColorSpaceHSLType::marshal_child_elements(lmx::c_xml_writer& writer) const { return lmx::marshal_child_elements(k_class, this, writer); }
-bool ColorSpaceHSLType::unmarshal_attributes(lmx::c_xml_reader& reader, const std::string& name, lmx::elmx_error* error) { return lmx::unmarshal_attribute(k_class, this, reader, name, error); }
-lmx::elmx_error ColorSpaceHSLType::unmarshal_attributes_check(lmx::c_xml_reader& reader) { return lmx::check_required_attributes(k_class, this, reader); }
-bool ColorSpaceHSLType::unmarshal_body(lmx::c_xml_reader& reader, std::string* name, lmx::elmx_error* error) { return lmx::unmarshal_body(k_class, this, reader, name, error); }
-namespace { const char k_ColorSpaceHSLType_id[] = "ColorSpaceHSLType"; }
-const char* ColorSpaceHSLType::id = k_ColorSpaceHSLType_id;
-ColorSpaceHSLType* ColorSpaceHSLType::clone() const { return new ColorSpaceHSLType(*this); }
-const char* ColorSpaceHSLType::getid() const { return id; }
-bool ColorSpaceHSLType::has_id(const char* identity) const { return identity == id || ColorSpaceType::has_id(identity); }
 lmx::elmx_error ColorSpaceHSLType::set_Name(const std::u16string& value) { return lmx::set_item(k_class, k_items[item_Name], this, value); }
 ColorSpaceSpecificationSpectrumGeneric& ColorSpaceHSLType::assign_ColorSpaceSpecificationSpectrumGeneric(const ColorSpaceSpecificationSpectrumGeneric& value) { return get_ColorSpaceSpecificationSpectrumGeneric() = value; }
 lmx::elmx_error ColorSpaceHSLType::set_Hue(double value) { return lmx::set_item(k_class, k_items[item_Hue], this, value); }
@@ -739,10 +661,7 @@ constinit const s_class ColorSpaceHSVType::k_class = {
     .qualified_name = "Vyr:ColorSpaceHSVType",
     .base = &ColorSpaceType::k_class,
     .content = content_kind::children,
-    .may_be_empty = false,
     .ns_map = k_ns_map,
-    .nil_flag = k_no_flag,
-    .choice = k_no_flag,
     .id = &ColorSpaceHSVType::id,
     .xsi_type = "Vyr:ColorSpaceHSVType",
     .attributes = std::span(k_items).first(std::size(k_ColorSpaceHSVType_attributes) - 1),
@@ -752,25 +671,20 @@ constinit const s_class ColorSpaceHSVType::k_class = {
     .operations = &k_operations<ColorSpaceHSVType>,
 };
 
+namespace { const char k_ColorSpaceHSVType_id[] = "ColorSpaceHSVType"; }
+const char* ColorSpaceHSVType::id = k_ColorSpaceHSVType_id;
 ColorSpaceHSVType::ColorSpaceHSVType() = default;
 ColorSpaceHSVType::ColorSpaceHSVType(const ColorSpaceHSVType& other) : ColorSpaceType() { lmx::copy(k_class, this, &other); }
+ColorSpaceHSVType* ColorSpaceHSVType::clone() const { return new ColorSpaceHSVType(*this); }
 ColorSpaceHSVType::~ColorSpaceHSVType() = default;
 ColorSpaceHSVType& ColorSpaceHSVType::operator=(const ColorSpaceHSVType& other) { ColorSpaceHSVType copy(other); swap(copy); return *this; }
+const char* ColorSpaceHSVType::getid() const { return id; }
+bool ColorSpaceHSVType::has_id(const char* identity) const { return identity == id || ColorSpaceType::has_id(identity); }
+lmx::elmx_error ColorSpaceHSVType::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
+lmx::elmx_error ColorSpaceHSVType::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
 void ColorSpaceHSVType::swap(ColorSpaceHSVType& other) { lmx::swap(k_class, this, &other); }
 void ColorSpaceHSVType::reset() { ColorSpaceHSVType fresh; lmx::exchange(k_class, this, &fresh); }
 bool ColorSpaceHSVType::is_occurs_ok() const { return lmx::is_occurs_ok(k_class, this); }
-lmx::elmx_error ColorSpaceHSVType::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
-lmx::elmx_error ColorSpaceHSVType::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
-void ColorSpaceHSVType::marshal_attributes(lmx::c_xml_writer& writer) const { lmx::marshal_attributes(k_class, this, writer); }
-lmx::elmx_error ColorSpaceHSVType::marshal_child_elements(lmx::c_xml_writer& writer) const { return lmx::marshal_child_elements(k_class, this, writer); }
-bool ColorSpaceHSVType::unmarshal_attributes(lmx::c_xml_reader& reader, const std::string& name, lmx::elmx_error* error) { return lmx::unmarshal_attribute(k_class, this, reader, name, error); }
-lmx::elmx_error ColorSpaceHSVType::unmarshal_attributes_check(lmx::c_xml_reader& reader) { return lmx::check_required_attributes(k_class, this, reader); }
-bool ColorSpaceHSVType::unmarshal_body(lmx::c_xml_reader& reader, std::string* name, lmx::elmx_error* error) { return lmx::unmarshal_body(k_class, this, reader, name, error); }
-namespace { const char k_ColorSpaceHSVType_id[] = "ColorSpaceHSVType"; }
-const char* ColorSpaceHSVType::id = k_ColorSpaceHSVType_id;
-ColorSpaceHSVType* ColorSpaceHSVType::clone() const { return new ColorSpaceHSVType(*this); }
-const char* ColorSpaceHSVType::getid() const { return id; }
-bool ColorSpaceHSVType::has_id(const char* identity) const { return identity == id || ColorSpaceType::has_id(identity); }
 lmx::elmx_error ColorSpaceHSVType::set_Name(const std::u16string& value) { return lmx::set_item(k_class, k_items[item_Name], this, value); }
 ColorSpaceSpecificationSpectrumGeneric& ColorSpaceHSVType::assign_ColorSpaceSpecificationSpectrumGeneric(const ColorSpaceSpecificationSpectrumGeneric& value) { return get_ColorSpaceSpecificationSpectrumGeneric() = value; }
 lmx::elmx_error ColorSpaceHSVType::set_Hue(double value) { return lmx::set_item(k_class, k_items[item_Hue], this, value); }
@@ -810,10 +724,7 @@ constinit const s_class ColorSpaceYUVType::k_class = {
     .qualified_name = "Vyr:ColorSpaceYUVType",
     .base = &ColorSpaceType::k_class,
     .content = content_kind::children,
-    .may_be_empty = false,
     .ns_map = k_ns_map,
-    .nil_flag = k_no_flag,
-    .choice = k_no_flag,
     .id = &ColorSpaceYUVType::id,
     .xsi_type = "Vyr:ColorSpaceYUVType",
     .attributes = std::span(k_items).first(std::size(k_ColorSpaceYUVType_attributes) - 1),
@@ -823,25 +734,20 @@ constinit const s_class ColorSpaceYUVType::k_class = {
     .operations = &k_operations<ColorSpaceYUVType>,
 };
 
+namespace { const char k_ColorSpaceYUVType_id[] = "ColorSpaceYUVType"; }
+const char* ColorSpaceYUVType::id = k_ColorSpaceYUVType_id;
 ColorSpaceYUVType::ColorSpaceYUVType() = default;
 ColorSpaceYUVType::ColorSpaceYUVType(const ColorSpaceYUVType& other) : ColorSpaceType() { lmx::copy(k_class, this, &other); }
+ColorSpaceYUVType* ColorSpaceYUVType::clone() const { return new ColorSpaceYUVType(*this); }
 ColorSpaceYUVType::~ColorSpaceYUVType() = default;
 ColorSpaceYUVType& ColorSpaceYUVType::operator=(const ColorSpaceYUVType& other) { ColorSpaceYUVType copy(other); swap(copy); return *this; }
+const char* ColorSpaceYUVType::getid() const { return id; }
+bool ColorSpaceYUVType::has_id(const char* identity) const { return identity == id || ColorSpaceType::has_id(identity); }
+lmx::elmx_error ColorSpaceYUVType::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
+lmx::elmx_error ColorSpaceYUVType::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
 void ColorSpaceYUVType::swap(ColorSpaceYUVType& other) { lmx::swap(k_class, this, &other); }
 void ColorSpaceYUVType::reset() { ColorSpaceYUVType fresh; lmx::exchange(k_class, this, &fresh); }
 bool ColorSpaceYUVType::is_occurs_ok() const { return lmx::is_occurs_ok(k_class, this); }
-lmx::elmx_error ColorSpaceYUVType::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
-lmx::elmx_error ColorSpaceYUVType::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
-void ColorSpaceYUVType::marshal_attributes(lmx::c_xml_writer& writer) const { lmx::marshal_attributes(k_class, this, writer); }
-lmx::elmx_error ColorSpaceYUVType::marshal_child_elements(lmx::c_xml_writer& writer) const { return lmx::marshal_child_elements(k_class, this, writer); }
-bool ColorSpaceYUVType::unmarshal_attributes(lmx::c_xml_reader& reader, const std::string& name, lmx::elmx_error* error) { return lmx::unmarshal_attribute(k_class, this, reader, name, error); }
-lmx::elmx_error ColorSpaceYUVType::unmarshal_attributes_check(lmx::c_xml_reader& reader) { return lmx::check_required_attributes(k_class, this, reader); }
-bool ColorSpaceYUVType::unmarshal_body(lmx::c_xml_reader& reader, std::string* name, lmx::elmx_error* error) { return lmx::unmarshal_body(k_class, this, reader, name, error); }
-namespace { const char k_ColorSpaceYUVType_id[] = "ColorSpaceYUVType"; }
-const char* ColorSpaceYUVType::id = k_ColorSpaceYUVType_id;
-ColorSpaceYUVType* ColorSpaceYUVType::clone() const { return new ColorSpaceYUVType(*this); }
-const char* ColorSpaceYUVType::getid() const { return id; }
-bool ColorSpaceYUVType::has_id(const char* identity) const { return identity == id || ColorSpaceType::has_id(identity); }
 lmx::elmx_error ColorSpaceYUVType::set_Name(const std::u16string& value) { return lmx::set_item(k_class, k_items[item_Name], this, value); }
 ColorSpaceSpecificationSpectrumGeneric& ColorSpaceYUVType::assign_ColorSpaceSpecificationSpectrumGeneric(const ColorSpaceSpecificationSpectrumGeneric& value) { return get_ColorSpaceSpecificationSpectrumGeneric() = value; }
 lmx::elmx_error ColorSpaceYUVType::set_Y(double value) { return lmx::set_item(k_class, k_items[item_Y], this, value); }
@@ -881,10 +787,7 @@ constinit const s_class ColorSpaceYIQType::k_class = {
     .qualified_name = "Vyr:ColorSpaceYIQType",
     .base = &ColorSpaceType::k_class,
     .content = content_kind::children,
-    .may_be_empty = false,
     .ns_map = k_ns_map,
-    .nil_flag = k_no_flag,
-    .choice = k_no_flag,
     .id = &ColorSpaceYIQType::id,
     .xsi_type = "Vyr:ColorSpaceYIQType",
     .attributes = std::span(k_items).first(std::size(k_ColorSpaceYIQType_attributes) - 1),
@@ -894,25 +797,20 @@ constinit const s_class ColorSpaceYIQType::k_class = {
     .operations = &k_operations<ColorSpaceYIQType>,
 };
 
+namespace { const char k_ColorSpaceYIQType_id[] = "ColorSpaceYIQType"; }
+const char* ColorSpaceYIQType::id = k_ColorSpaceYIQType_id;
 ColorSpaceYIQType::ColorSpaceYIQType() = default;
 ColorSpaceYIQType::ColorSpaceYIQType(const ColorSpaceYIQType& other) : ColorSpaceType() { lmx::copy(k_class, this, &other); }
+ColorSpaceYIQType* ColorSpaceYIQType::clone() const { return new ColorSpaceYIQType(*this); }
 ColorSpaceYIQType::~ColorSpaceYIQType() = default;
 ColorSpaceYIQType& ColorSpaceYIQType::operator=(const ColorSpaceYIQType& other) { ColorSpaceYIQType copy(other); swap(copy); return *this; }
+const char* ColorSpaceYIQType::getid() const { return id; }
+bool ColorSpaceYIQType::has_id(const char* identity) const { return identity == id || ColorSpaceType::has_id(identity); }
+lmx::elmx_error ColorSpaceYIQType::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
+lmx::elmx_error ColorSpaceYIQType::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
 void ColorSpaceYIQType::swap(ColorSpaceYIQType& other) { lmx::swap(k_class, this, &other); }
 void ColorSpaceYIQType::reset() { ColorSpaceYIQType fresh; lmx::exchange(k_class, this, &fresh); }
 bool ColorSpaceYIQType::is_occurs_ok() const { return lmx::is_occurs_ok(k_class, this); }
-lmx::elmx_error ColorSpaceYIQType::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
-lmx::elmx_error ColorSpaceYIQType::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
-void ColorSpaceYIQType::marshal_attributes(lmx::c_xml_writer& writer) const { lmx::marshal_attributes(k_class, this, writer); }
-lmx::elmx_error ColorSpaceYIQType::marshal_child_elements(lmx::c_xml_writer& writer) const { return lmx::marshal_child_elements(k_class, this, writer); }
-bool ColorSpaceYIQType::unmarshal_attributes(lmx::c_xml_reader& reader, const std::string& name, lmx::elmx_error* error) { return lmx::unmarshal_attribute(k_class, this, reader, name, error); }
-lmx::elmx_error ColorSpaceYIQType::unmarshal_attributes_check(lmx::c_xml_reader& reader) { return lmx::check_required_attributes(k_class, this, reader); }
-bool ColorSpaceYIQType::unmarshal_body(lmx::c_xml_reader& reader, std::string* name, lmx::elmx_error* error) { return lmx::unmarshal_body(k_class, this, reader, name, error); }
-namespace { const char k_ColorSpaceYIQType_id[] = "ColorSpaceYIQType"; }
-const char* ColorSpaceYIQType::id = k_ColorSpaceYIQType_id;
-ColorSpaceYIQType* ColorSpaceYIQType::clone() const { return new ColorSpaceYIQType(*this); }
-const char* ColorSpaceYIQType::getid() const { return id; }
-bool ColorSpaceYIQType::has_id(const char* identity) const { return identity == id || ColorSpaceType::has_id(identity); }
 lmx::elmx_error ColorSpaceYIQType::set_Name(const std::u16string& value) { return lmx::set_item(k_class, k_items[item_Name], this, value); }
 ColorSpaceSpecificationSpectrumGeneric& ColorSpaceYIQType::assign_ColorSpaceSpecificationSpectrumGeneric(const ColorSpaceSpecificationSpectrumGeneric& value) { return get_ColorSpaceSpecificationSpectrumGeneric() = value; }
 lmx::elmx_error ColorSpaceYIQType::set_Y(double value) { return lmx::set_item(k_class, k_items[item_Y], this, value); }
@@ -952,10 +850,7 @@ constinit const s_class ColorSpaceYBRType::k_class = {
     .qualified_name = "Vyr:ColorSpaceYBRType",
     .base = &ColorSpaceType::k_class,
     .content = content_kind::children,
-    .may_be_empty = false,
     .ns_map = k_ns_map,
-    .nil_flag = k_no_flag,
-    .choice = k_no_flag,
     .id = &ColorSpaceYBRType::id,
     .xsi_type = "Vyr:ColorSpaceYBRType",
     .attributes = std::span(k_items).first(std::size(k_ColorSpaceYBRType_attributes) - 1),
@@ -965,25 +860,20 @@ constinit const s_class ColorSpaceYBRType::k_class = {
     .operations = &k_operations<ColorSpaceYBRType>,
 };
 
+namespace { const char k_ColorSpaceYBRType_id[] = "ColorSpaceYBRType"; }
+const char* ColorSpaceYBRType::id = k_ColorSpaceYBRType_id;
 ColorSpaceYBRType::ColorSpaceYBRType() = default;
 ColorSpaceYBRType::ColorSpaceYBRType(const ColorSpaceYBRType& other) : ColorSpaceType() { lmx::copy(k_class, this, &other); }
+ColorSpaceYBRType* ColorSpaceYBRType::clone() const { return new ColorSpaceYBRType(*this); }
 ColorSpaceYBRType::~ColorSpaceYBRType() = default;
 ColorSpaceYBRType& ColorSpaceYBRType::operator=(const ColorSpaceYBRType& other) { ColorSpaceYBRType copy(other); swap(copy); return *this; }
+const char* ColorSpaceYBRType::getid() const { return id; }
+bool ColorSpaceYBRType::has_id(const char* identity) const { return identity == id || ColorSpaceType::has_id(identity); }
+lmx::elmx_error ColorSpaceYBRType::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
+lmx::elmx_error ColorSpaceYBRType::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
 void ColorSpaceYBRType::swap(ColorSpaceYBRType& other) { lmx::swap(k_class, this, &other); }
 void ColorSpaceYBRType::reset() { ColorSpaceYBRType fresh; lmx::exchange(k_class, this, &fresh); }
 bool ColorSpaceYBRType::is_occurs_ok() const { return lmx::is_occurs_ok(k_class, this); }
-lmx::elmx_error ColorSpaceYBRType::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
-lmx::elmx_error ColorSpaceYBRType::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
-void ColorSpaceYBRType::marshal_attributes(lmx::c_xml_writer& writer) const { lmx::marshal_attributes(k_class, this, writer); }
-lmx::elmx_error ColorSpaceYBRType::marshal_child_elements(lmx::c_xml_writer& writer) const { return lmx::marshal_child_elements(k_class, this, writer); }
-bool ColorSpaceYBRType::unmarshal_attributes(lmx::c_xml_reader& reader, const std::string& name, lmx::elmx_error* error) { return lmx::unmarshal_attribute(k_class, this, reader, name, error); }
-lmx::elmx_error ColorSpaceYBRType::unmarshal_attributes_check(lmx::c_xml_reader& reader) { return lmx::check_required_attributes(k_class, this, reader); }
-bool ColorSpaceYBRType::unmarshal_body(lmx::c_xml_reader& reader, std::string* name, lmx::elmx_error* error) { return lmx::unmarshal_body(k_class, this, reader, name, error); }
-namespace { const char k_ColorSpaceYBRType_id[] = "ColorSpaceYBRType"; }
-const char* ColorSpaceYBRType::id = k_ColorSpaceYBRType_id;
-ColorSpaceYBRType* ColorSpaceYBRType::clone() const { return new ColorSpaceYBRType(*this); }
-const char* ColorSpaceYBRType::getid() const { return id; }
-bool ColorSpaceYBRType::has_id(const char* identity) const { return identity == id || ColorSpaceType::has_id(identity); }
 lmx::elmx_error ColorSpaceYBRType::set_Name(const std::u16string& value) { return lmx::set_item(k_class, k_items[item_Name], this, value); }
 ColorSpaceSpecificationSpectrumGeneric& ColorSpaceYBRType::assign_ColorSpaceSpecificationSpectrumGeneric(const ColorSpaceSpecificationSpectrumGeneric& value) { return get_ColorSpaceSpecificationSpectrumGeneric() = value; }
 lmx::elmx_error ColorSpaceYBRType::set_Y(double value) { return lmx::set_item(k_class, k_items[item_Y], this, value); }
@@ -992,243 +882,207 @@ lmx::elmx_error ColorSpaceYBRType::set_R(double value) { return lmx::set_item(k_
 
 // ColorSpaceRGB
 
-lmx::elmx_error ColorSpaceRGB::marshal(lmx::c_xml_writer& writer, const char* name) const {
-    writer.conditionally_select_ns_map(k_ns_map);
-    return ColorSpaceRGBType::marshal(writer, name);
-}
-lmx::elmx_error ColorSpaceRGB::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return ColorSpaceRGBType::unmarshal(reader, name); }
 constinit const lmx::s_document ColorSpaceRGB::k_document = {"Vyr:ColorSpaceRGB", "ColorSpaceRGB", k_ns_map, &lmx::k_operations<ColorSpaceRGB>};
-const lmx::s_ns_map* ColorSpaceRGB::ns_map() { return k_ns_map; }
-lmx::elmx_error ColorSpaceRGB::unmarshal(lmx::c_xml_reader& reader) { return lmx::unmarshal_document(k_document, this, reader); }
 ColorSpaceRGB::ColorSpaceRGB(const char* file_name, lmx::elmx_error* error) : ColorSpaceRGB() { *error = unmarshal(file_name); }
-lmx::elmx_error ColorSpaceRGB::unmarshal(const char* file_name) { return lmx::unmarshal_document(k_document, this, file_name); }
 ColorSpaceRGB::ColorSpaceRGB(const char* data, std::size_t size, lmx::elmx_error* error) : ColorSpaceRGB() { *error = unmarshal(data, size); }
-lmx::elmx_error ColorSpaceRGB::unmarshal(const char* data, std::size_t size) { return lmx::unmarshal_document(k_document, this, data, size); }
 ColorSpaceRGB::ColorSpaceRGB(const std::string& text, lmx::elmx_error* error) : ColorSpaceRGB() { *error = unmarshal(text.data(), text.size()); }
+const lmx::s_ns_map* ColorSpaceRGB::ns_map() { return k_ns_map; }
+lmx::elmx_error ColorSpaceRGB::unmarshal(const char* file_name) { return lmx::unmarshal_document(k_document, this, file_name); }
+lmx::elmx_error ColorSpaceRGB::unmarshal(const char* data, std::size_t size) { return lmx::unmarshal_document(k_document, this, data, size); }
 lmx::elmx_error ColorSpaceRGB::unmarshal(const std::string& text) { return lmx::unmarshal_document(k_document, this, text.data(), text.size()); }
+lmx::elmx_error ColorSpaceRGB::unmarshal(lmx::c_xml_reader& reader) { return lmx::unmarshal_document(k_document, this, reader); }
 lmx::elmx_error ColorSpaceRGB::marshal(const char* file_name) const { return lmx::marshal_document(k_document, this, file_name); }
 lmx::elmx_error ColorSpaceRGB::marshal(std::string* text) const { return lmx::marshal_document(k_document, this, text); }
 lmx::elmx_error ColorSpaceRGB::marshal(std::ostream& stream) const { return lmx::marshal_document(k_document, this, stream); }
+lmx::elmx_error ColorSpaceRGB::marshal(lmx::c_xml_writer& writer, const char* name) const { writer.conditionally_select_ns_map(k_ns_map); return ColorSpaceRGBType::marshal(writer, name); }
+lmx::elmx_error ColorSpaceRGB::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return ColorSpaceRGBType::unmarshal(reader, name); }
 
 // ColorSpaceSRGB
 
-lmx::elmx_error ColorSpaceSRGB::marshal(lmx::c_xml_writer& writer, const char* name) const {
-    writer.conditionally_select_ns_map(k_ns_map);
-    return ColorSpaceSRGBType::marshal(writer, name);
-}
-lmx::elmx_error ColorSpaceSRGB::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return ColorSpaceSRGBType::unmarshal(reader, name); }
 constinit const lmx::s_document ColorSpaceSRGB::k_document = {"Vyr:ColorSpaceSRGB", "ColorSpaceSRGB", k_ns_map, &lmx::k_operations<ColorSpaceSRGB>};
-const lmx::s_ns_map* ColorSpaceSRGB::ns_map() { return k_ns_map; }
-lmx::elmx_error ColorSpaceSRGB::unmarshal(lmx::c_xml_reader& reader) { return lmx::unmarshal_document(k_document, this, reader); }
 ColorSpaceSRGB::ColorSpaceSRGB(const char* file_name, lmx::elmx_error* error) : ColorSpaceSRGB() { *error = unmarshal(file_name); }
-lmx::elmx_error ColorSpaceSRGB::unmarshal(const char* file_name) { return lmx::unmarshal_document(k_document, this, file_name); }
 ColorSpaceSRGB::ColorSpaceSRGB(const char* data, std::size_t size, lmx::elmx_error* error) : ColorSpaceSRGB() { *error = unmarshal(data, size); }
-lmx::elmx_error ColorSpaceSRGB::unmarshal(const char* data, std::size_t size) { return lmx::unmarshal_document(k_document, this, data, size); }
 ColorSpaceSRGB::ColorSpaceSRGB(const std::string& text, lmx::elmx_error* error) : ColorSpaceSRGB() { *error = unmarshal(text.data(), text.size()); }
+const lmx::s_ns_map* ColorSpaceSRGB::ns_map() { return k_ns_map; }
+lmx::elmx_error ColorSpaceSRGB::unmarshal(const char* file_name) { return lmx::unmarshal_document(k_document, this, file_name); }
+lmx::elmx_error ColorSpaceSRGB::unmarshal(const char* data, std::size_t size) { return lmx::unmarshal_document(k_document, this, data, size); }
 lmx::elmx_error ColorSpaceSRGB::unmarshal(const std::string& text) { return lmx::unmarshal_document(k_document, this, text.data(), text.size()); }
+lmx::elmx_error ColorSpaceSRGB::unmarshal(lmx::c_xml_reader& reader) { return lmx::unmarshal_document(k_document, this, reader); }
 lmx::elmx_error ColorSpaceSRGB::marshal(const char* file_name) const { return lmx::marshal_document(k_document, this, file_name); }
 lmx::elmx_error ColorSpaceSRGB::marshal(std::string* text) const { return lmx::marshal_document(k_document, this, text); }
 lmx::elmx_error ColorSpaceSRGB::marshal(std::ostream& stream) const { return lmx::marshal_document(k_document, this, stream); }
+lmx::elmx_error ColorSpaceSRGB::marshal(lmx::c_xml_writer& writer, const char* name) const { writer.conditionally_select_ns_map(k_ns_map); return ColorSpaceSRGBType::marshal(writer, name); }
+lmx::elmx_error ColorSpaceSRGB::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return ColorSpaceSRGBType::unmarshal(reader, name); }
 
 // ColorSpaceAdobeRGB
 
-lmx::elmx_error ColorSpaceAdobeRGB::marshal(lmx::c_xml_writer& writer, const char* name) const {
-    writer.conditionally_select_ns_map(k_ns_map);
-    return ColorSpaceAdobeRGBType::marshal(writer, name);
-}
-lmx::elmx_error ColorSpaceAdobeRGB::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return ColorSpaceAdobeRGBType::unmarshal(reader, name); }
 constinit const lmx::s_document ColorSpaceAdobeRGB::k_document = {"Vyr:ColorSpaceAdobeRGB", "ColorSpaceAdobeRGB", k_ns_map, &lmx::k_operations<ColorSpaceAdobeRGB>};
-const lmx::s_ns_map* ColorSpaceAdobeRGB::ns_map() { return k_ns_map; }
-lmx::elmx_error ColorSpaceAdobeRGB::unmarshal(lmx::c_xml_reader& reader) { return lmx::unmarshal_document(k_document, this, reader); }
 ColorSpaceAdobeRGB::ColorSpaceAdobeRGB(const char* file_name, lmx::elmx_error* error) : ColorSpaceAdobeRGB() { *error = unmarshal(file_name); }
-lmx::elmx_error ColorSpaceAdobeRGB::unmarshal(const char* file_name) { return lmx::unmarshal_document(k_document, this, file_name); }
 ColorSpaceAdobeRGB::ColorSpaceAdobeRGB(const char* data, std::size_t size, lmx::elmx_error* error) : ColorSpaceAdobeRGB() { *error = unmarshal(data, size); }
-lmx::elmx_error ColorSpaceAdobeRGB::unmarshal(const char* data, std::size_t size) { return lmx::unmarshal_document(k_document, this, data, size); }
 ColorSpaceAdobeRGB::ColorSpaceAdobeRGB(const std::string& text, lmx::elmx_error* error) : ColorSpaceAdobeRGB() { *error = unmarshal(text.data(), text.size()); }
+const lmx::s_ns_map* ColorSpaceAdobeRGB::ns_map() { return k_ns_map; }
+lmx::elmx_error ColorSpaceAdobeRGB::unmarshal(const char* file_name) { return lmx::unmarshal_document(k_document, this, file_name); }
+lmx::elmx_error ColorSpaceAdobeRGB::unmarshal(const char* data, std::size_t size) { return lmx::unmarshal_document(k_document, this, data, size); }
 lmx::elmx_error ColorSpaceAdobeRGB::unmarshal(const std::string& text) { return lmx::unmarshal_document(k_document, this, text.data(), text.size()); }
+lmx::elmx_error ColorSpaceAdobeRGB::unmarshal(lmx::c_xml_reader& reader) { return lmx::unmarshal_document(k_document, this, reader); }
 lmx::elmx_error ColorSpaceAdobeRGB::marshal(const char* file_name) const { return lmx::marshal_document(k_document, this, file_name); }
 lmx::elmx_error ColorSpaceAdobeRGB::marshal(std::string* text) const { return lmx::marshal_document(k_document, this, text); }
 lmx::elmx_error ColorSpaceAdobeRGB::marshal(std::ostream& stream) const { return lmx::marshal_document(k_document, this, stream); }
+lmx::elmx_error ColorSpaceAdobeRGB::marshal(lmx::c_xml_writer& writer, const char* name) const { writer.conditionally_select_ns_map(k_ns_map); return ColorSpaceAdobeRGBType::marshal(writer, name); }
+lmx::elmx_error ColorSpaceAdobeRGB::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return ColorSpaceAdobeRGBType::unmarshal(reader, name); }
 
 // ColorSpaceCMYKPlusN
 
-lmx::elmx_error ColorSpaceCMYKPlusN::marshal(lmx::c_xml_writer& writer, const char* name) const {
-    writer.conditionally_select_ns_map(k_ns_map);
-    return ColorSpaceCMYKPlusNType::marshal(writer, name);
-}
-lmx::elmx_error ColorSpaceCMYKPlusN::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return ColorSpaceCMYKPlusNType::unmarshal(reader, name); }
 constinit const lmx::s_document ColorSpaceCMYKPlusN::k_document = {"Vyr:ColorSpaceCMYKPlusN", "ColorSpaceCMYKPlusN", k_ns_map, &lmx::k_operations<ColorSpaceCMYKPlusN>};
-const lmx::s_ns_map* ColorSpaceCMYKPlusN::ns_map() { return k_ns_map; }
-lmx::elmx_error ColorSpaceCMYKPlusN::unmarshal(lmx::c_xml_reader& reader) { return lmx::unmarshal_document(k_document, this, reader); }
 ColorSpaceCMYKPlusN::ColorSpaceCMYKPlusN(const char* file_name, lmx::elmx_error* error) : ColorSpaceCMYKPlusN() { *error = unmarshal(file_name); }
-lmx::elmx_error ColorSpaceCMYKPlusN::unmarshal(const char* file_name) { return lmx::unmarshal_document(k_document, this, file_name); }
 ColorSpaceCMYKPlusN::ColorSpaceCMYKPlusN(const char* data, std::size_t size, lmx::elmx_error* error) : ColorSpaceCMYKPlusN() { *error = unmarshal(data, size); }
-lmx::elmx_error ColorSpaceCMYKPlusN::unmarshal(const char* data, std::size_t size) { return lmx::unmarshal_document(k_document, this, data, size); }
 ColorSpaceCMYKPlusN::ColorSpaceCMYKPlusN(const std::string& text, lmx::elmx_error* error) : ColorSpaceCMYKPlusN() { *error = unmarshal(text.data(), text.size()); }
+const lmx::s_ns_map* ColorSpaceCMYKPlusN::ns_map() { return k_ns_map; }
+lmx::elmx_error ColorSpaceCMYKPlusN::unmarshal(const char* file_name) { return lmx::unmarshal_document(k_document, this, file_name); }
+lmx::elmx_error ColorSpaceCMYKPlusN::unmarshal(const char* data, std::size_t size) { return lmx::unmarshal_document(k_document, this, data, size); }
 lmx::elmx_error ColorSpaceCMYKPlusN::unmarshal(const std::string& text) { return lmx::unmarshal_document(k_document, this, text.data(), text.size()); }
+lmx::elmx_error ColorSpaceCMYKPlusN::unmarshal(lmx::c_xml_reader& reader) { return lmx::unmarshal_document(k_document, this, reader); }
 lmx::elmx_error ColorSpaceCMYKPlusN::marshal(const char* file_name) const { return lmx::marshal_document(k_document, this, file_name); }
 lmx::elmx_error ColorSpaceCMYKPlusN::marshal(std::string* text) const { return lmx::marshal_document(k_document, this, text); }
 lmx::elmx_error ColorSpaceCMYKPlusN::marshal(std::ostream& stream) const { return lmx::marshal_document(k_document, this, stream); }
+lmx::elmx_error ColorSpaceCMYKPlusN::marshal(lmx::c_xml_writer& writer, const char* name) const { writer.conditionally_select_ns_map(k_ns_map); return ColorSpaceCMYKPlusNType::marshal(writer, name); }
+lmx::elmx_error ColorSpaceCMYKPlusN::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return ColorSpaceCMYKPlusNType::unmarshal(reader, name); }
 
 // ColorSpaceAdobeWideGamutRGB
 
-lmx::elmx_error ColorSpaceAdobeWideGamutRGB::marshal(lmx::c_xml_writer& writer, const char* name) const {
-    writer.conditionally_select_ns_map(k_ns_map);
-    return ColorSpaceAdobeWideGamutRGBType::marshal(writer, name);
-}
-lmx::elmx_error ColorSpaceAdobeWideGamutRGB::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return ColorSpaceAdobeWideGamutRGBType::unmarshal(reader, name); }
 constinit const lmx::s_document ColorSpaceAdobeWideGamutRGB::k_document = {"Vyr:ColorSpaceAdobeWideGamutRGB", "ColorSpaceAdobeWideGamutRGB", k_ns_map, &lmx::k_operations<ColorSpaceAdobeWideGamutRGB>};
-const lmx::s_ns_map* ColorSpaceAdobeWideGamutRGB::ns_map() { return k_ns_map; }
-lmx::elmx_error ColorSpaceAdobeWideGamutRGB::unmarshal(lmx::c_xml_reader& reader) { return lmx::unmarshal_document(k_document, this, reader); }
 ColorSpaceAdobeWideGamutRGB::ColorSpaceAdobeWideGamutRGB(const char* file_name, lmx::elmx_error* error) : ColorSpaceAdobeWideGamutRGB() { *error = unmarshal(file_name); }
-lmx::elmx_error ColorSpaceAdobeWideGamutRGB::unmarshal(const char* file_name) { return lmx::unmarshal_document(k_document, this, file_name); }
 ColorSpaceAdobeWideGamutRGB::ColorSpaceAdobeWideGamutRGB(const char* data, std::size_t size, lmx::elmx_error* error) : ColorSpaceAdobeWideGamutRGB() { *error = unmarshal(data, size); }
-lmx::elmx_error ColorSpaceAdobeWideGamutRGB::unmarshal(const char* data, std::size_t size) { return lmx::unmarshal_document(k_document, this, data, size); }
 ColorSpaceAdobeWideGamutRGB::ColorSpaceAdobeWideGamutRGB(const std::string& text, lmx::elmx_error* error) : ColorSpaceAdobeWideGamutRGB() { *error = unmarshal(text.data(), text.size()); }
+const lmx::s_ns_map* ColorSpaceAdobeWideGamutRGB::ns_map() { return k_ns_map; }
+lmx::elmx_error ColorSpaceAdobeWideGamutRGB::unmarshal(const char* file_name) { return lmx::unmarshal_document(k_document, this, file_name); }
+lmx::elmx_error ColorSpaceAdobeWideGamutRGB::unmarshal(const char* data, std::size_t size) { return lmx::unmarshal_document(k_document, this, data, size); }
 lmx::elmx_error ColorSpaceAdobeWideGamutRGB::unmarshal(const std::string& text) { return lmx::unmarshal_document(k_document, this, text.data(), text.size()); }
+lmx::elmx_error ColorSpaceAdobeWideGamutRGB::unmarshal(lmx::c_xml_reader& reader) { return lmx::unmarshal_document(k_document, this, reader); }
 lmx::elmx_error ColorSpaceAdobeWideGamutRGB::marshal(const char* file_name) const { return lmx::marshal_document(k_document, this, file_name); }
 lmx::elmx_error ColorSpaceAdobeWideGamutRGB::marshal(std::string* text) const { return lmx::marshal_document(k_document, this, text); }
 lmx::elmx_error ColorSpaceAdobeWideGamutRGB::marshal(std::ostream& stream) const { return lmx::marshal_document(k_document, this, stream); }
+lmx::elmx_error ColorSpaceAdobeWideGamutRGB::marshal(lmx::c_xml_writer& writer, const char* name) const { writer.conditionally_select_ns_map(k_ns_map); return ColorSpaceAdobeWideGamutRGBType::marshal(writer, name); }
+lmx::elmx_error ColorSpaceAdobeWideGamutRGB::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return ColorSpaceAdobeWideGamutRGBType::unmarshal(reader, name); }
 
 // ColorSpaceHSL
 
-lmx::elmx_error ColorSpaceHSL::marshal(lmx::c_xml_writer& writer, const char* name) const {
-    writer.conditionally_select_ns_map(k_ns_map);
-    return ColorSpaceHSLType::marshal(writer, name);
-}
-lmx::elmx_error ColorSpaceHSL::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return ColorSpaceHSLType::unmarshal(reader, name); }
 constinit const lmx::s_document ColorSpaceHSL::k_document = {"Vyr:ColorSpaceHSL", "ColorSpaceHSL", k_ns_map, &lmx::k_operations<ColorSpaceHSL>};
-const lmx::s_ns_map* ColorSpaceHSL::ns_map() { return k_ns_map; }
-lmx::elmx_error ColorSpaceHSL::unmarshal(lmx::c_xml_reader& reader) { return lmx::unmarshal_document(k_document, this, reader); }
 ColorSpaceHSL::ColorSpaceHSL(const char* file_name, lmx::elmx_error* error) : ColorSpaceHSL() { *error = unmarshal(file_name); }
-lmx::elmx_error ColorSpaceHSL::unmarshal(const char* file_name) { return lmx::unmarshal_document(k_document, this, file_name); }
 ColorSpaceHSL::ColorSpaceHSL(const char* data, std::size_t size, lmx::elmx_error* error) : ColorSpaceHSL() { *error = unmarshal(data, size); }
-lmx::elmx_error ColorSpaceHSL::unmarshal(const char* data, std::size_t size) { return lmx::unmarshal_document(k_document, this, data, size); }
 ColorSpaceHSL::ColorSpaceHSL(const std::string& text, lmx::elmx_error* error) : ColorSpaceHSL() { *error = unmarshal(text.data(), text.size()); }
+const lmx::s_ns_map* ColorSpaceHSL::ns_map() { return k_ns_map; }
+lmx::elmx_error ColorSpaceHSL::unmarshal(const char* file_name) { return lmx::unmarshal_document(k_document, this, file_name); }
+lmx::elmx_error ColorSpaceHSL::unmarshal(const char* data, std::size_t size) { return lmx::unmarshal_document(k_document, this, data, size); }
 lmx::elmx_error ColorSpaceHSL::unmarshal(const std::string& text) { return lmx::unmarshal_document(k_document, this, text.data(), text.size()); }
+lmx::elmx_error ColorSpaceHSL::unmarshal(lmx::c_xml_reader& reader) { return lmx::unmarshal_document(k_document, this, reader); }
 lmx::elmx_error ColorSpaceHSL::marshal(const char* file_name) const { return lmx::marshal_document(k_document, this, file_name); }
 lmx::elmx_error ColorSpaceHSL::marshal(std::string* text) const { return lmx::marshal_document(k_document, this, text); }
 lmx::elmx_error ColorSpaceHSL::marshal(std::ostream& stream) const { return lmx::marshal_document(k_document, this, stream); }
+lmx::elmx_error ColorSpaceHSL::marshal(lmx::c_xml_writer& writer, const char* name) const { writer.conditionally_select_ns_map(k_ns_map); return ColorSpaceHSLType::marshal(writer, name); }
+lmx::elmx_error ColorSpaceHSL::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return ColorSpaceHSLType::unmarshal(reader, name); }
 
 // ColorSpaceHSV
 
-lmx::elmx_error ColorSpaceHSV::marshal(lmx::c_xml_writer& writer, const char* name) const {
-    writer.conditionally_select_ns_map(k_ns_map);
-    return ColorSpaceHSVType::marshal(writer, name);
-}
-lmx::elmx_error ColorSpaceHSV::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return ColorSpaceHSVType::unmarshal(reader, name); }
 constinit const lmx::s_document ColorSpaceHSV::k_document = {"Vyr:ColorSpaceHSV", "ColorSpaceHSV", k_ns_map, &lmx::k_operations<ColorSpaceHSV>};
-const lmx::s_ns_map* ColorSpaceHSV::ns_map() { return k_ns_map; }
-lmx::elmx_error ColorSpaceHSV::unmarshal(lmx::c_xml_reader& reader) { return lmx::unmarshal_document(k_document, this, reader); }
 ColorSpaceHSV::ColorSpaceHSV(const char* file_name, lmx::elmx_error* error) : ColorSpaceHSV() { *error = unmarshal(file_name); }
-lmx::elmx_error ColorSpaceHSV::unmarshal(const char* file_name) { return lmx::unmarshal_document(k_document, this, file_name); }
 ColorSpaceHSV::ColorSpaceHSV(const char* data, std::size_t size, lmx::elmx_error* error) : ColorSpaceHSV() { *error = unmarshal(data, size); }
-lmx::elmx_error ColorSpaceHSV::unmarshal(const char* data, std::size_t size) { return lmx::unmarshal_document(k_document, this, data, size); }
 ColorSpaceHSV::ColorSpaceHSV(const std::string& text, lmx::elmx_error* error) : ColorSpaceHSV() { *error = unmarshal(text.data(), text.size()); }
+const lmx::s_ns_map* ColorSpaceHSV::ns_map() { return k_ns_map; }
+lmx::elmx_error ColorSpaceHSV::unmarshal(const char* file_name) { return lmx::unmarshal_document(k_document, this, file_name); }
+lmx::elmx_error ColorSpaceHSV::unmarshal(const char* data, std::size_t size) { return lmx::unmarshal_document(k_document, this, data, size); }
 lmx::elmx_error ColorSpaceHSV::unmarshal(const std::string& text) { return lmx::unmarshal_document(k_document, this, text.data(), text.size()); }
+lmx::elmx_error ColorSpaceHSV::unmarshal(lmx::c_xml_reader& reader) { return lmx::unmarshal_document(k_document, this, reader); }
 lmx::elmx_error ColorSpaceHSV::marshal(const char* file_name) const { return lmx::marshal_document(k_document, this, file_name); }
 lmx::elmx_error ColorSpaceHSV::marshal(std::string* text) const { return lmx::marshal_document(k_document, this, text); }
 lmx::elmx_error ColorSpaceHSV::marshal(std::ostream& stream) const { return lmx::marshal_document(k_document, this, stream); }
+lmx::elmx_error ColorSpaceHSV::marshal(lmx::c_xml_writer& writer, const char* name) const { writer.conditionally_select_ns_map(k_ns_map); return ColorSpaceHSVType::marshal(writer, name); }
+lmx::elmx_error ColorSpaceHSV::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return ColorSpaceHSVType::unmarshal(reader, name); }
 
 // ColorSpaceCMYK
 
-lmx::elmx_error ColorSpaceCMYK::marshal(lmx::c_xml_writer& writer, const char* name) const {
-    writer.conditionally_select_ns_map(k_ns_map);
-    return ColorSpaceCMYKType::marshal(writer, name);
-}
-lmx::elmx_error ColorSpaceCMYK::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return ColorSpaceCMYKType::unmarshal(reader, name); }
 constinit const lmx::s_document ColorSpaceCMYK::k_document = {"Vyr:ColorSpaceCMYK", "ColorSpaceCMYK", k_ns_map, &lmx::k_operations<ColorSpaceCMYK>};
-const lmx::s_ns_map* ColorSpaceCMYK::ns_map() { return k_ns_map; }
-lmx::elmx_error ColorSpaceCMYK::unmarshal(lmx::c_xml_reader& reader) { return lmx::unmarshal_document(k_document, this, reader); }
 ColorSpaceCMYK::ColorSpaceCMYK(const char* file_name, lmx::elmx_error* error) : ColorSpaceCMYK() { *error = unmarshal(file_name); }
-lmx::elmx_error ColorSpaceCMYK::unmarshal(const char* file_name) { return lmx::unmarshal_document(k_document, this, file_name); }
 ColorSpaceCMYK::ColorSpaceCMYK(const char* data, std::size_t size, lmx::elmx_error* error) : ColorSpaceCMYK() { *error = unmarshal(data, size); }
-lmx::elmx_error ColorSpaceCMYK::unmarshal(const char* data, std::size_t size) { return lmx::unmarshal_document(k_document, this, data, size); }
 ColorSpaceCMYK::ColorSpaceCMYK(const std::string& text, lmx::elmx_error* error) : ColorSpaceCMYK() { *error = unmarshal(text.data(), text.size()); }
+const lmx::s_ns_map* ColorSpaceCMYK::ns_map() { return k_ns_map; }
+lmx::elmx_error ColorSpaceCMYK::unmarshal(const char* file_name) { return lmx::unmarshal_document(k_document, this, file_name); }
+lmx::elmx_error ColorSpaceCMYK::unmarshal(const char* data, std::size_t size) { return lmx::unmarshal_document(k_document, this, data, size); }
 lmx::elmx_error ColorSpaceCMYK::unmarshal(const std::string& text) { return lmx::unmarshal_document(k_document, this, text.data(), text.size()); }
+lmx::elmx_error ColorSpaceCMYK::unmarshal(lmx::c_xml_reader& reader) { return lmx::unmarshal_document(k_document, this, reader); }
 lmx::elmx_error ColorSpaceCMYK::marshal(const char* file_name) const { return lmx::marshal_document(k_document, this, file_name); }
 lmx::elmx_error ColorSpaceCMYK::marshal(std::string* text) const { return lmx::marshal_document(k_document, this, text); }
 lmx::elmx_error ColorSpaceCMYK::marshal(std::ostream& stream) const { return lmx::marshal_document(k_document, this, stream); }
+lmx::elmx_error ColorSpaceCMYK::marshal(lmx::c_xml_writer& writer, const char* name) const { writer.conditionally_select_ns_map(k_ns_map); return ColorSpaceCMYKType::marshal(writer, name); }
+lmx::elmx_error ColorSpaceCMYK::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return ColorSpaceCMYKType::unmarshal(reader, name); }
 
 // ColorSpaceTINTORAOctavantic
 
-lmx::elmx_error ColorSpaceTINTORAOctavantic::marshal(lmx::c_xml_writer& writer, const char* name) const {
-    writer.conditionally_select_ns_map(k_ns_map);
-    return ColorSpaceTINTORAOctavanticType::marshal(writer, name);
-}
-lmx::elmx_error ColorSpaceTINTORAOctavantic::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return ColorSpaceTINTORAOctavanticType::unmarshal(reader, name); }
 constinit const lmx::s_document ColorSpaceTINTORAOctavantic::k_document = {"Vyr:ColorSpaceTINTORAOctavantic", "ColorSpaceTINTORAOctavantic", k_ns_map, &lmx::k_operations<ColorSpaceTINTORAOctavantic>};
-const lmx::s_ns_map* ColorSpaceTINTORAOctavantic::ns_map() { return k_ns_map; }
-lmx::elmx_error ColorSpaceTINTORAOctavantic::unmarshal(lmx::c_xml_reader& reader) { return lmx::unmarshal_document(k_document, this, reader); }
 ColorSpaceTINTORAOctavantic::ColorSpaceTINTORAOctavantic(const char* file_name, lmx::elmx_error* error) : ColorSpaceTINTORAOctavantic() { *error = unmarshal(file_name); }
-lmx::elmx_error ColorSpaceTINTORAOctavantic::unmarshal(const char* file_name) { return lmx::unmarshal_document(k_document, this, file_name); }
 ColorSpaceTINTORAOctavantic::ColorSpaceTINTORAOctavantic(const char* data, std::size_t size, lmx::elmx_error* error) : ColorSpaceTINTORAOctavantic() { *error = unmarshal(data, size); }
-lmx::elmx_error ColorSpaceTINTORAOctavantic::unmarshal(const char* data, std::size_t size) { return lmx::unmarshal_document(k_document, this, data, size); }
 ColorSpaceTINTORAOctavantic::ColorSpaceTINTORAOctavantic(const std::string& text, lmx::elmx_error* error) : ColorSpaceTINTORAOctavantic() { *error = unmarshal(text.data(), text.size()); }
+const lmx::s_ns_map* ColorSpaceTINTORAOctavantic::ns_map() { return k_ns_map; }
+lmx::elmx_error ColorSpaceTINTORAOctavantic::unmarshal(const char* file_name) { return lmx::unmarshal_document(k_document, this, file_name); }
+lmx::elmx_error ColorSpaceTINTORAOctavantic::unmarshal(const char* data, std::size_t size) { return lmx::unmarshal_document(k_document, this, data, size); }
 lmx::elmx_error ColorSpaceTINTORAOctavantic::unmarshal(const std::string& text) { return lmx::unmarshal_document(k_document, this, text.data(), text.size()); }
+lmx::elmx_error ColorSpaceTINTORAOctavantic::unmarshal(lmx::c_xml_reader& reader) { return lmx::unmarshal_document(k_document, this, reader); }
 lmx::elmx_error ColorSpaceTINTORAOctavantic::marshal(const char* file_name) const { return lmx::marshal_document(k_document, this, file_name); }
 lmx::elmx_error ColorSpaceTINTORAOctavantic::marshal(std::string* text) const { return lmx::marshal_document(k_document, this, text); }
 lmx::elmx_error ColorSpaceTINTORAOctavantic::marshal(std::ostream& stream) const { return lmx::marshal_document(k_document, this, stream); }
+lmx::elmx_error ColorSpaceTINTORAOctavantic::marshal(lmx::c_xml_writer& writer, const char* name) const { writer.conditionally_select_ns_map(k_ns_map); return ColorSpaceTINTORAOctavanticType::marshal(writer, name); }
+lmx::elmx_error ColorSpaceTINTORAOctavantic::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return ColorSpaceTINTORAOctavanticType::unmarshal(reader, name); }
 
 // ColorSpaceYUV
 
-lmx::elmx_error ColorSpaceYUV::marshal(lmx::c_xml_writer& writer, const char* name) const {
-    writer.conditionally_select_ns_map(k_ns_map);
-    return ColorSpaceYUVType::marshal(writer, name);
-}
-lmx::elmx_error ColorSpaceYUV::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return ColorSpaceYUVType::unmarshal(reader, name); }
 constinit const lmx::s_document ColorSpaceYUV::k_document = {"Vyr:ColorSpaceYUV", "ColorSpaceYUV", k_ns_map, &lmx::k_operations<ColorSpaceYUV>};
-const lmx::s_ns_map* ColorSpaceYUV::ns_map() { return k_ns_map; }
-lmx::elmx_error ColorSpaceYUV::unmarshal(lmx::c_xml_reader& reader) { return lmx::unmarshal_document(k_document, this, reader); }
 ColorSpaceYUV::ColorSpaceYUV(const char* file_name, lmx::elmx_error* error) : ColorSpaceYUV() { *error = unmarshal(file_name); }
-lmx::elmx_error ColorSpaceYUV::unmarshal(const char* file_name) { return lmx::unmarshal_document(k_document, this, file_name); }
 ColorSpaceYUV::ColorSpaceYUV(const char* data, std::size_t size, lmx::elmx_error* error) : ColorSpaceYUV() { *error = unmarshal(data, size); }
-lmx::elmx_error ColorSpaceYUV::unmarshal(const char* data, std::size_t size) { return lmx::unmarshal_document(k_document, this, data, size); }
 ColorSpaceYUV::ColorSpaceYUV(const std::string& text, lmx::elmx_error* error) : ColorSpaceYUV() { *error = unmarshal(text.data(), text.size()); }
+const lmx::s_ns_map* ColorSpaceYUV::ns_map() { return k_ns_map; }
+lmx::elmx_error ColorSpaceYUV::unmarshal(const char* file_name) { return lmx::unmarshal_document(k_document, this, file_name); }
+lmx::elmx_error ColorSpaceYUV::unmarshal(const char* data, std::size_t size) { return lmx::unmarshal_document(k_document, this, data, size); }
 lmx::elmx_error ColorSpaceYUV::unmarshal(const std::string& text) { return lmx::unmarshal_document(k_document, this, text.data(), text.size()); }
+lmx::elmx_error ColorSpaceYUV::unmarshal(lmx::c_xml_reader& reader) { return lmx::unmarshal_document(k_document, this, reader); }
 lmx::elmx_error ColorSpaceYUV::marshal(const char* file_name) const { return lmx::marshal_document(k_document, this, file_name); }
 lmx::elmx_error ColorSpaceYUV::marshal(std::string* text) const { return lmx::marshal_document(k_document, this, text); }
 lmx::elmx_error ColorSpaceYUV::marshal(std::ostream& stream) const { return lmx::marshal_document(k_document, this, stream); }
+lmx::elmx_error ColorSpaceYUV::marshal(lmx::c_xml_writer& writer, const char* name) const { writer.conditionally_select_ns_map(k_ns_map); return ColorSpaceYUVType::marshal(writer, name); }
+lmx::elmx_error ColorSpaceYUV::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return ColorSpaceYUVType::unmarshal(reader, name); }
 
 // ColorSpaceYIQ
 
-lmx::elmx_error ColorSpaceYIQ::marshal(lmx::c_xml_writer& writer, const char* name) const {
-    writer.conditionally_select_ns_map(k_ns_map);
-    return ColorSpaceYIQType::marshal(writer, name);
-}
-lmx::elmx_error ColorSpaceYIQ::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return ColorSpaceYIQType::unmarshal(reader, name); }
 constinit const lmx::s_document ColorSpaceYIQ::k_document = {"Vyr:ColorSpaceYIQ", "ColorSpaceYIQ", k_ns_map, &lmx::k_operations<ColorSpaceYIQ>};
-const lmx::s_ns_map* ColorSpaceYIQ::ns_map() { return k_ns_map; }
-lmx::elmx_error ColorSpaceYIQ::unmarshal(lmx::c_xml_reader& reader) { return lmx::unmarshal_document(k_document, this, reader); }
 ColorSpaceYIQ::ColorSpaceYIQ(const char* file_name, lmx::elmx_error* error) : ColorSpaceYIQ() { *error = unmarshal(file_name); }
-lmx::elmx_error ColorSpaceYIQ::unmarshal(const char* file_name) { return lmx::unmarshal_document(k_document, this, file_name); }
 ColorSpaceYIQ::ColorSpaceYIQ(const char* data, std::size_t size, lmx::elmx_error* error) : ColorSpaceYIQ() { *error = unmarshal(data, size); }
-lmx::elmx_error ColorSpaceYIQ::unmarshal(const char* data, std::size_t size) { return lmx::unmarshal_document(k_document, this, data, size); }
 ColorSpaceYIQ::ColorSpaceYIQ(const std::string& text, lmx::elmx_error* error) : ColorSpaceYIQ() { *error = unmarshal(text.data(), text.size()); }
+const lmx::s_ns_map* ColorSpaceYIQ::ns_map() { return k_ns_map; }
+lmx::elmx_error ColorSpaceYIQ::unmarshal(const char* file_name) { return lmx::unmarshal_document(k_document, this, file_name); }
+lmx::elmx_error ColorSpaceYIQ::unmarshal(const char* data, std::size_t size) { return lmx::unmarshal_document(k_document, this, data, size); }
 lmx::elmx_error ColorSpaceYIQ::unmarshal(const std::string& text) { return lmx::unmarshal_document(k_document, this, text.data(), text.size()); }
+lmx::elmx_error ColorSpaceYIQ::unmarshal(lmx::c_xml_reader& reader) { return lmx::unmarshal_document(k_document, this, reader); }
 lmx::elmx_error ColorSpaceYIQ::marshal(const char* file_name) const { return lmx::marshal_document(k_document, this, file_name); }
 lmx::elmx_error ColorSpaceYIQ::marshal(std::string* text) const { return lmx::marshal_document(k_document, this, text); }
 lmx::elmx_error ColorSpaceYIQ::marshal(std::ostream& stream) const { return lmx::marshal_document(k_document, this, stream); }
+lmx::elmx_error ColorSpaceYIQ::marshal(lmx::c_xml_writer& writer, const char* name) const { writer.conditionally_select_ns_map(k_ns_map); return ColorSpaceYIQType::marshal(writer, name); }
+lmx::elmx_error ColorSpaceYIQ::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return ColorSpaceYIQType::unmarshal(reader, name); }
 
 // ColorSpaceYBR
 
-lmx::elmx_error ColorSpaceYBR::marshal(lmx::c_xml_writer& writer, const char* name) const {
-    writer.conditionally_select_ns_map(k_ns_map);
-    return ColorSpaceYBRType::marshal(writer, name);
-}
-lmx::elmx_error ColorSpaceYBR::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return ColorSpaceYBRType::unmarshal(reader, name); }
 constinit const lmx::s_document ColorSpaceYBR::k_document = {"Vyr:ColorSpaceYBR", "ColorSpaceYBR", k_ns_map, &lmx::k_operations<ColorSpaceYBR>};
-const lmx::s_ns_map* ColorSpaceYBR::ns_map() { return k_ns_map; }
-lmx::elmx_error ColorSpaceYBR::unmarshal(lmx::c_xml_reader& reader) { return lmx::unmarshal_document(k_document, this, reader); }
 ColorSpaceYBR::ColorSpaceYBR(const char* file_name, lmx::elmx_error* error) : ColorSpaceYBR() { *error = unmarshal(file_name); }
-lmx::elmx_error ColorSpaceYBR::unmarshal(const char* file_name) { return lmx::unmarshal_document(k_document, this, file_name); }
 ColorSpaceYBR::ColorSpaceYBR(const char* data, std::size_t size, lmx::elmx_error* error) : ColorSpaceYBR() { *error = unmarshal(data, size); }
-lmx::elmx_error ColorSpaceYBR::unmarshal(const char* data, std::size_t size) { return lmx::unmarshal_document(k_document, this, data, size); }
 ColorSpaceYBR::ColorSpaceYBR(const std::string& text, lmx::elmx_error* error) : ColorSpaceYBR() { *error = unmarshal(text.data(), text.size()); }
+const lmx::s_ns_map* ColorSpaceYBR::ns_map() { return k_ns_map; }
+lmx::elmx_error ColorSpaceYBR::unmarshal(const char* file_name) { return lmx::unmarshal_document(k_document, this, file_name); }
+lmx::elmx_error ColorSpaceYBR::unmarshal(const char* data, std::size_t size) { return lmx::unmarshal_document(k_document, this, data, size); }
 lmx::elmx_error ColorSpaceYBR::unmarshal(const std::string& text) { return lmx::unmarshal_document(k_document, this, text.data(), text.size()); }
+lmx::elmx_error ColorSpaceYBR::unmarshal(lmx::c_xml_reader& reader) { return lmx::unmarshal_document(k_document, this, reader); }
 lmx::elmx_error ColorSpaceYBR::marshal(const char* file_name) const { return lmx::marshal_document(k_document, this, file_name); }
 lmx::elmx_error ColorSpaceYBR::marshal(std::string* text) const { return lmx::marshal_document(k_document, this, text); }
 lmx::elmx_error ColorSpaceYBR::marshal(std::ostream& stream) const { return lmx::marshal_document(k_document, this, stream); }
+lmx::elmx_error ColorSpaceYBR::marshal(lmx::c_xml_writer& writer, const char* name) const { writer.conditionally_select_ns_map(k_ns_map); return ColorSpaceYBRType::marshal(writer, name); }
+lmx::elmx_error ColorSpaceYBR::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return ColorSpaceYBRType::unmarshal(reader, name); }
 
 // SpotColorType
 
@@ -1249,15 +1103,8 @@ constinit const s_item SpotColorType::k_items[] = {
 constinit const s_class SpotColorType::k_class = {
     .name = "SpotColorType",
     .qualified_name = "Vyr:SpotColorType",
-    .base = nullptr,
     .content = content_kind::children,
-    .may_be_empty = false,
     .ns_map = k_ns_map,
-    .nil_flag = k_no_flag,
-    .choice = k_no_flag,
-    .id = nullptr,
-    .xsi_type = nullptr,
-    .attributes = std::span(k_items).first(std::size(k_no_events) - 1),
     .elements = std::span(k_items).subspan(std::size(k_no_events) - 1),
     .attribute_map = k_no_events,
     .element_map = k_SpotColorType_elements,
@@ -1268,16 +1115,11 @@ SpotColorType::SpotColorType() = default;
 SpotColorType::SpotColorType(const SpotColorType& other) { lmx::copy(k_class, this, &other); }
 SpotColorType::~SpotColorType() = default;
 SpotColorType& SpotColorType::operator=(const SpotColorType& other) { SpotColorType copy(other); swap(copy); return *this; }
+lmx::elmx_error SpotColorType::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
+lmx::elmx_error SpotColorType::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
 void SpotColorType::swap(SpotColorType& other) { lmx::swap(k_class, this, &other); }
 void SpotColorType::reset() { SpotColorType fresh; lmx::exchange(k_class, this, &fresh); }
 bool SpotColorType::is_occurs_ok() const { return lmx::is_occurs_ok(k_class, this); }
-lmx::elmx_error SpotColorType::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
-lmx::elmx_error SpotColorType::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
-void SpotColorType::marshal_attributes(lmx::c_xml_writer& writer) const { lmx::marshal_attributes(k_class, this, writer); }
-lmx::elmx_error SpotColorType::marshal_child_elements(lmx::c_xml_writer& writer) const { return lmx::marshal_child_elements(k_class, this, writer); }
-bool SpotColorType::unmarshal_attributes(lmx::c_xml_reader& reader, const std::string& name, lmx::elmx_error* error) { return lmx::unmarshal_attribute(k_class, this, reader, name, error); }
-lmx::elmx_error SpotColorType::unmarshal_attributes_check(lmx::c_xml_reader& reader) { return lmx::check_required_attributes(k_class, this, reader); }
-bool SpotColorType::unmarshal_body(lmx::c_xml_reader& reader, std::string* name, lmx::elmx_error* error) { return lmx::unmarshal_body(k_class, this, reader, name, error); }
 lmx::elmx_error SpotColorType::set_Name(const std::u16string& value) { return lmx::set_item(k_class, k_items[item_Name], this, value); }
 lmx::elmx_error SpotColorType::set_Percentage(double value) { return lmx::set_item(k_class, k_items[item_Percentage], this, value); }
 

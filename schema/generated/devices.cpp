@@ -39,14 +39,8 @@ constinit const s_item CalibrationStateType::k_items[] = {
 constinit const s_class CalibrationStateType::k_class = {
     .name = "CalibrationStateType",
     .qualified_name = "Vyr:CalibrationStateType",
-    .base = nullptr,
     .content = content_kind::simple,
-    .may_be_empty = false,
     .ns_map = k_ns_map,
-    .nil_flag = k_no_flag,
-    .choice = k_no_flag,
-    .id = nullptr,
-    .xsi_type = nullptr,
     .attributes = std::span(k_items).first(std::size(k_CalibrationStateType_attributes) - 1),
     .elements = std::span(k_items).subspan(std::size(k_CalibrationStateType_attributes) - 1),
     .attribute_map = k_CalibrationStateType_attributes,
@@ -58,16 +52,11 @@ CalibrationStateType::CalibrationStateType() = default;
 CalibrationStateType::CalibrationStateType(const CalibrationStateType& other) { lmx::copy(k_class, this, &other); }
 CalibrationStateType::~CalibrationStateType() = default;
 CalibrationStateType& CalibrationStateType::operator=(const CalibrationStateType& other) { CalibrationStateType copy(other); swap(copy); return *this; }
+lmx::elmx_error CalibrationStateType::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
+lmx::elmx_error CalibrationStateType::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
 void CalibrationStateType::swap(CalibrationStateType& other) { lmx::swap(k_class, this, &other); }
 void CalibrationStateType::reset() { CalibrationStateType fresh; lmx::exchange(k_class, this, &fresh); }
 bool CalibrationStateType::is_occurs_ok() const { return lmx::is_occurs_ok(k_class, this); }
-lmx::elmx_error CalibrationStateType::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
-lmx::elmx_error CalibrationStateType::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
-void CalibrationStateType::marshal_attributes(lmx::c_xml_writer& writer) const { lmx::marshal_attributes(k_class, this, writer); }
-lmx::elmx_error CalibrationStateType::marshal_child_elements(lmx::c_xml_writer& writer) const { return lmx::marshal_child_elements(k_class, this, writer); }
-bool CalibrationStateType::unmarshal_attributes(lmx::c_xml_reader& reader, const std::string& name, lmx::elmx_error* error) { return lmx::unmarshal_attribute(k_class, this, reader, name, error); }
-lmx::elmx_error CalibrationStateType::unmarshal_attributes_check(lmx::c_xml_reader& reader) { return lmx::check_required_attributes(k_class, this, reader); }
-bool CalibrationStateType::unmarshal_body(lmx::c_xml_reader& reader, std::string* name, lmx::elmx_error* error, bool has_body) { return lmx::unmarshal_content(k_class, this, reader, name, error, has_body); }
 lmx::elmx_error CalibrationStateType::set_CalibrationDateTime(const lmx::c_datetime& value) { return lmx::set_item(k_class, k_items[item_CalibrationDateTime], this, value); }
 lmx::elmx_error CalibrationStateType::set_CalibrationStateType(const std::u16string& value) { return lmx::set_item(k_class, k_items[item_CalibrationStateType], this, value); }
 bool CalibrationStateType::setenum_CalibrationStateType(std::int32_t number) { return lmx::set_enumerated(k_class, k_items[item_CalibrationStateType], this, number); }
@@ -90,14 +79,7 @@ constinit const s_item GlossCompensation::k_items[] = {
 constinit const s_class GlossCompensation::k_class = {
     .name = "GlossCompensation",
     .qualified_name = "Vyr:GlossCompensation",
-    .base = nullptr,
     .content = content_kind::simple,
-    .may_be_empty = false,
-    .ns_map = nullptr,
-    .nil_flag = k_no_flag,
-    .choice = k_no_flag,
-    .id = nullptr,
-    .xsi_type = nullptr,
     .attributes = std::span(k_items).first(std::size(k_GlossCompensation_attributes) - 1),
     .elements = std::span(k_items).subspan(std::size(k_GlossCompensation_attributes) - 1),
     .attribute_map = k_GlossCompensation_attributes,
@@ -109,16 +91,11 @@ GlossCompensation::GlossCompensation() = default;
 GlossCompensation::GlossCompensation(const GlossCompensation& other) { lmx::copy(k_class, this, &other); }
 GlossCompensation::~GlossCompensation() = default;
 GlossCompensation& GlossCompensation::operator=(const GlossCompensation& other) { GlossCompensation copy(other); swap(copy); return *this; }
+lmx::elmx_error GlossCompensation::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
+lmx::elmx_error GlossCompensation::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
 void GlossCompensation::swap(GlossCompensation& other) { lmx::swap(k_class, this, &other); }
 void GlossCompensation::reset() { GlossCompensation fresh; lmx::exchange(k_class, this, &fresh); }
 bool GlossCompensation::is_occurs_ok() const { return lmx::is_occurs_ok(k_class, this); }
-lmx::elmx_error GlossCompensation::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
-lmx::elmx_error GlossCompensation::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
-void GlossCompensation::marshal_attributes(lmx::c_xml_writer& writer) const { lmx::marshal_attributes(k_class, this, writer); }
-lmx::elmx_error GlossCompensation::marshal_child_elements(lmx::c_xml_writer& writer) const { return lmx::marshal_child_elements(k_class, this, writer); }
-bool GlossCompensation::unmarshal_attributes(lmx::c_xml_reader& reader, const std::string& name, lmx::elmx_error* error) { return lmx::unmarshal_attribute(k_class, this, reader, name, error); }
-lmx::elmx_error GlossCompensation::unmarshal_attributes_check(lmx::c_xml_reader& reader) { return lmx::check_required_attributes(k_class, this, reader); }
-bool GlossCompensation::unmarshal_body(lmx::c_xml_reader& reader, std::string* name, lmx::elmx_error* error, bool has_body) { return lmx::unmarshal_content(k_class, this, reader, name, error, has_body); }
 lmx::elmx_error GlossCompensation::set_CompensationValue(double value) { return lmx::set_item(k_class, k_items[item_CompensationValue], this, value); }
 lmx::elmx_error GlossCompensation::set_GlossCompensation(bool value) { return lmx::set_item(k_class, k_items[item_GlossCompensation], this, value); }
 
@@ -140,14 +117,7 @@ constinit const s_item Averaging::k_items[] = {
 constinit const s_class Averaging::k_class = {
     .name = "Averaging",
     .qualified_name = "Vyr:Averaging",
-    .base = nullptr,
     .content = content_kind::simple,
-    .may_be_empty = false,
-    .ns_map = nullptr,
-    .nil_flag = k_no_flag,
-    .choice = k_no_flag,
-    .id = nullptr,
-    .xsi_type = nullptr,
     .attributes = std::span(k_items).first(std::size(k_Averaging_attributes) - 1),
     .elements = std::span(k_items).subspan(std::size(k_Averaging_attributes) - 1),
     .attribute_map = k_Averaging_attributes,
@@ -159,16 +129,11 @@ Averaging::Averaging() = default;
 Averaging::Averaging(const Averaging& other) { lmx::copy(k_class, this, &other); }
 Averaging::~Averaging() = default;
 Averaging& Averaging::operator=(const Averaging& other) { Averaging copy(other); swap(copy); return *this; }
+lmx::elmx_error Averaging::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
+lmx::elmx_error Averaging::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
 void Averaging::swap(Averaging& other) { lmx::swap(k_class, this, &other); }
 void Averaging::reset() { Averaging fresh; lmx::exchange(k_class, this, &fresh); }
 bool Averaging::is_occurs_ok() const { return lmx::is_occurs_ok(k_class, this); }
-lmx::elmx_error Averaging::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
-lmx::elmx_error Averaging::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
-void Averaging::marshal_attributes(lmx::c_xml_writer& writer) const { lmx::marshal_attributes(k_class, this, writer); }
-lmx::elmx_error Averaging::marshal_child_elements(lmx::c_xml_writer& writer) const { return lmx::marshal_child_elements(k_class, this, writer); }
-bool Averaging::unmarshal_attributes(lmx::c_xml_reader& reader, const std::string& name, lmx::elmx_error* error) { return lmx::unmarshal_attribute(k_class, this, reader, name, error); }
-lmx::elmx_error Averaging::unmarshal_attributes_check(lmx::c_xml_reader& reader) { return lmx::check_required_attributes(k_class, this, reader); }
-bool Averaging::unmarshal_body(lmx::c_xml_reader& reader, std::string* name, lmx::elmx_error* error, bool has_body) { return lmx::unmarshal_content(k_class, this, reader, name, error, has_body); }
 lmx::elmx_error Averaging::set_AveragingValue(std::uint8_t value) { return lmx::set_item(k_class, k_items[item_AveragingValue], this, value); }
 lmx::elmx_error Averaging::set_Averaging(bool value) { return lmx::set_item(k_class, k_items[item_Averaging], this, value); }
 
@@ -206,15 +171,8 @@ constinit const s_item DeviceSettings::k_items[] = {
 constinit const s_class DeviceSettings::k_class = {
     .name = "DeviceSettings",
     .qualified_name = "Vyr:DeviceSettings",
-    .base = nullptr,
     .content = content_kind::children,
     .may_be_empty = true,
-    .ns_map = nullptr,
-    .nil_flag = k_no_flag,
-    .choice = k_no_flag,
-    .id = nullptr,
-    .xsi_type = nullptr,
-    .attributes = std::span(k_items).first(std::size(k_no_events) - 1),
     .elements = std::span(k_items).subspan(std::size(k_no_events) - 1),
     .attribute_map = k_no_events,
     .element_map = k_DeviceSettings_elements,
@@ -225,16 +183,11 @@ DeviceSettings::DeviceSettings() = default;
 DeviceSettings::DeviceSettings(const DeviceSettings& other) { lmx::copy(k_class, this, &other); }
 DeviceSettings::~DeviceSettings() = default;
 DeviceSettings& DeviceSettings::operator=(const DeviceSettings& other) { DeviceSettings copy(other); swap(copy); return *this; }
+lmx::elmx_error DeviceSettings::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
+lmx::elmx_error DeviceSettings::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
 void DeviceSettings::swap(DeviceSettings& other) { lmx::swap(k_class, this, &other); }
 void DeviceSettings::reset() { DeviceSettings fresh; lmx::exchange(k_class, this, &fresh); }
 bool DeviceSettings::is_occurs_ok() const { return lmx::is_occurs_ok(k_class, this); }
-lmx::elmx_error DeviceSettings::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
-lmx::elmx_error DeviceSettings::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
-void DeviceSettings::marshal_attributes(lmx::c_xml_writer& writer) const { lmx::marshal_attributes(k_class, this, writer); }
-lmx::elmx_error DeviceSettings::marshal_child_elements(lmx::c_xml_writer& writer) const { return lmx::marshal_child_elements(k_class, this, writer); }
-bool DeviceSettings::unmarshal_attributes(lmx::c_xml_reader& reader, const std::string& name, lmx::elmx_error* error) { return lmx::unmarshal_attribute(k_class, this, reader, name, error); }
-lmx::elmx_error DeviceSettings::unmarshal_attributes_check(lmx::c_xml_reader& reader) { return lmx::check_required_attributes(k_class, this, reader); }
-bool DeviceSettings::unmarshal_body(lmx::c_xml_reader& reader, std::string* name, lmx::elmx_error* error) { return lmx::unmarshal_body(k_class, this, reader, name, error); }
 CustomAttributeType& DeviceSettings::get_CustomAttribute(std::size_t index) { return m_CustomAttribute.grow_to(index); }
 CustomAttributeType& DeviceSettings::assign_CustomAttribute(std::size_t index, const CustomAttributeType& value) { return get_CustomAttribute(index) = value; }
 lmx::elmx_error DeviceSettings::append_CustomAttribute() { m_CustomAttribute.append(); return lmx::ELMX_OK; }
@@ -292,15 +245,8 @@ constinit const s_item DeviceType::k_items[] = {
 constinit const s_class DeviceType::k_class = {
     .name = "DeviceType",
     .qualified_name = "Vyr:DeviceType",
-    .base = nullptr,
     .content = content_kind::children,
-    .may_be_empty = false,
     .ns_map = k_ns_map,
-    .nil_flag = k_no_flag,
-    .choice = k_no_flag,
-    .id = nullptr,
-    .xsi_type = nullptr,
-    .attributes = std::span(k_items).first(std::size(k_no_events) - 1),
     .elements = std::span(k_items).subspan(std::size(k_no_events) - 1),
     .attribute_map = k_no_events,
     .element_map = k_DeviceType_elements,
@@ -311,16 +257,11 @@ DeviceType::DeviceType() = default;
 DeviceType::DeviceType(const DeviceType& other) { lmx::copy(k_class, this, &other); }
 DeviceType::~DeviceType() = default;
 DeviceType& DeviceType::operator=(const DeviceType& other) { DeviceType copy(other); swap(copy); return *this; }
+lmx::elmx_error DeviceType::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
+lmx::elmx_error DeviceType::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
 void DeviceType::swap(DeviceType& other) { lmx::swap(k_class, this, &other); }
 void DeviceType::reset() { DeviceType fresh; lmx::exchange(k_class, this, &fresh); }
 bool DeviceType::is_occurs_ok() const { return lmx::is_occurs_ok(k_class, this); }
-lmx::elmx_error DeviceType::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
-lmx::elmx_error DeviceType::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
-void DeviceType::marshal_attributes(lmx::c_xml_writer& writer) const { lmx::marshal_attributes(k_class, this, writer); }
-lmx::elmx_error DeviceType::marshal_child_elements(lmx::c_xml_writer& writer) const { return lmx::marshal_child_elements(k_class, this, writer); }
-bool DeviceType::unmarshal_attributes(lmx::c_xml_reader& reader, const std::string& name, lmx::elmx_error* error) { return lmx::unmarshal_attribute(k_class, this, reader, name, error); }
-lmx::elmx_error DeviceType::unmarshal_attributes_check(lmx::c_xml_reader& reader) { return lmx::check_required_attributes(k_class, this, reader); }
-bool DeviceType::unmarshal_body(lmx::c_xml_reader& reader, std::string* name, lmx::elmx_error* error) { return lmx::unmarshal_body(k_class, this, reader, name, error); }
 CustomAttributeType& DeviceType::get_CustomAttribute(std::size_t index) { return m_CustomAttribute.grow_to(index); }
 CustomAttributeType& DeviceType::assign_CustomAttribute(std::size_t index, const CustomAttributeType& value) { return get_CustomAttribute(index) = value; }
 lmx::elmx_error DeviceType::append_CustomAttribute() { m_CustomAttribute.append(); return lmx::ELMX_OK; }
@@ -360,15 +301,8 @@ constinit const s_item ProfileChoice::k_items[] = {
 constinit const s_class ProfileChoice::k_class = {
     .name = "ProfileChoice",
     .qualified_name = "Vyr:ProfileChoice",
-    .base = nullptr,
     .content = content_kind::choice,
-    .may_be_empty = false,
-    .ns_map = nullptr,
-    .nil_flag = k_no_flag,
     .choice = LMX_CHOICE(ProfileChoice, m_choice),
-    .id = nullptr,
-    .xsi_type = nullptr,
-    .attributes = std::span(k_items).first(std::size(k_no_events) - 1),
     .elements = std::span(k_items).subspan(std::size(k_no_events) - 1),
     .attribute_map = k_no_events,
     .element_map = k_ProfileChoice_elements,
@@ -379,16 +313,11 @@ ProfileChoice::ProfileChoice() = default;
 ProfileChoice::ProfileChoice(const ProfileChoice& other) : ProfileChoice() { lmx::copy(k_class, this, &other); }
 ProfileChoice::~ProfileChoice() { lmx::release_choice(k_class, this); }
 ProfileChoice& ProfileChoice::operator=(const ProfileChoice& other) { ProfileChoice copy(other); swap(copy); return *this; }
+lmx::elmx_error ProfileChoice::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
+lmx::elmx_error ProfileChoice::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
 void ProfileChoice::swap(ProfileChoice& other) { lmx::swap(k_class, this, &other); }
 void ProfileChoice::reset() { ProfileChoice fresh; lmx::exchange(k_class, this, &fresh); }
 bool ProfileChoice::is_occurs_ok() const { return lmx::is_occurs_ok(k_class, this); }
-lmx::elmx_error ProfileChoice::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
-lmx::elmx_error ProfileChoice::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
-void ProfileChoice::marshal_attributes(lmx::c_xml_writer& writer) const { lmx::marshal_attributes(k_class, this, writer); }
-lmx::elmx_error ProfileChoice::marshal_child_elements(lmx::c_xml_writer& writer) const { return lmx::marshal_child_elements(k_class, this, writer); }
-bool ProfileChoice::unmarshal_attributes(lmx::c_xml_reader& reader, const std::string& name, lmx::elmx_error* error) { return lmx::unmarshal_attribute(k_class, this, reader, name, error); }
-lmx::elmx_error ProfileChoice::unmarshal_attributes_check(lmx::c_xml_reader& reader) { return lmx::check_required_attributes(k_class, this, reader); }
-bool ProfileChoice::unmarshal_body(lmx::c_xml_reader& reader, std::string* name, lmx::elmx_error* error) { return lmx::unmarshal_body(k_class, this, reader, name, error); }
 ProfileFile& ProfileChoice::get_ProfileFile() { return *static_cast<ProfileFile*>(lmx::choose(k_class, k_items[item_ProfileFile], this)); }
 ProfileFile& ProfileChoice::assign_ProfileFile(const ProfileFile& value) { ProfileFile copy(value); ProfileFile& target = get_ProfileFile(); target.swap(copy); return target; }
 const std::u16string& ProfileChoice::get_ProfileURI() const { return lmx::chosen_text(k_class, k_items[item_ProfileURI], this); }
@@ -422,14 +351,8 @@ constinit const s_item ProfileType::k_items[] = {
 constinit const s_class ProfileType::k_class = {
     .name = "ProfileType",
     .qualified_name = "Vyr:ProfileType",
-    .base = nullptr,
     .content = content_kind::children,
-    .may_be_empty = false,
     .ns_map = k_ns_map,
-    .nil_flag = k_no_flag,
-    .choice = k_no_flag,
-    .id = nullptr,
-    .xsi_type = nullptr,
     .attributes = std::span(k_items).first(std::size(k_ProfileType_attributes) - 1),
     .elements = std::span(k_items).subspan(std::size(k_ProfileType_attributes) - 1),
     .attribute_map = k_ProfileType_attributes,
@@ -441,16 +364,11 @@ ProfileType::ProfileType() = default;
 ProfileType::ProfileType(const ProfileType& other) { lmx::copy(k_class, this, &other); }
 ProfileType::~ProfileType() = default;
 ProfileType& ProfileType::operator=(const ProfileType& other) { ProfileType copy(other); swap(copy); return *this; }
+lmx::elmx_error ProfileType::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
+lmx::elmx_error ProfileType::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
 void ProfileType::swap(ProfileType& other) { lmx::swap(k_class, this, &other); }
 void ProfileType::reset() { ProfileType fresh; lmx::exchange(k_class, this, &fresh); }
 bool ProfileType::is_occurs_ok() const { return lmx::is_occurs_ok(k_class, this); }
-lmx::elmx_error ProfileType::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
-lmx::elmx_error ProfileType::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
-void ProfileType::marshal_attributes(lmx::c_xml_writer& writer) const { lmx::marshal_attributes(k_class, this, writer); }
-lmx::elmx_error ProfileType::marshal_child_elements(lmx::c_xml_writer& writer) const { return lmx::marshal_child_elements(k_class, this, writer); }
-bool ProfileType::unmarshal_attributes(lmx::c_xml_reader& reader, const std::string& name, lmx::elmx_error* error) { return lmx::unmarshal_attribute(k_class, this, reader, name, error); }
-lmx::elmx_error ProfileType::unmarshal_attributes_check(lmx::c_xml_reader& reader) { return lmx::check_required_attributes(k_class, this, reader); }
-bool ProfileType::unmarshal_body(lmx::c_xml_reader& reader, std::string* name, lmx::elmx_error* error) { return lmx::unmarshal_body(k_class, this, reader, name, error); }
 lmx::elmx_error ProfileType::set_Direction(const std::u16string& value) { return lmx::set_item(k_class, k_items[item_Direction], this, value); }
 bool ProfileType::setenum_Direction(std::int32_t number) { return lmx::set_enumerated(k_class, k_items[item_Direction], this, number); }
 ProfileChoice& ProfileType::assign_ProfileChoice(const ProfileChoice& value) { return get_ProfileChoice() = value; }
@@ -480,14 +398,7 @@ constinit const s_item ProfileFile::k_items[] = {
 constinit const s_class ProfileFile::k_class = {
     .name = "ProfileFile",
     .qualified_name = "Vyr:ProfileFile",
-    .base = nullptr,
     .content = content_kind::simple,
-    .may_be_empty = false,
-    .ns_map = nullptr,
-    .nil_flag = k_no_flag,
-    .choice = k_no_flag,
-    .id = nullptr,
-    .xsi_type = nullptr,
     .attributes = std::span(k_items).first(std::size(k_ProfileFile_attributes) - 1),
     .elements = std::span(k_items).subspan(std::size(k_ProfileFile_attributes) - 1),
     .attribute_map = k_ProfileFile_attributes,
@@ -499,16 +410,11 @@ ProfileFile::ProfileFile() = default;
 ProfileFile::ProfileFile(const ProfileFile& other) { lmx::copy(k_class, this, &other); }
 ProfileFile::~ProfileFile() = default;
 ProfileFile& ProfileFile::operator=(const ProfileFile& other) { ProfileFile copy(other); swap(copy); return *this; }
+lmx::elmx_error ProfileFile::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
+lmx::elmx_error ProfileFile::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
 void ProfileFile::swap(ProfileFile& other) { lmx::swap(k_class, this, &other); }
 void ProfileFile::reset() { ProfileFile fresh; lmx::exchange(k_class, this, &fresh); }
 bool ProfileFile::is_occurs_ok() const { return lmx::is_occurs_ok(k_class, this); }
-lmx::elmx_error ProfileFile::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
-lmx::elmx_error ProfileFile::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
-void ProfileFile::marshal_attributes(lmx::c_xml_writer& writer) const { lmx::marshal_attributes(k_class, this, writer); }
-lmx::elmx_error ProfileFile::marshal_child_elements(lmx::c_xml_writer& writer) const { return lmx::marshal_child_elements(k_class, this, writer); }
-bool ProfileFile::unmarshal_attributes(lmx::c_xml_reader& reader, const std::string& name, lmx::elmx_error* error) { return lmx::unmarshal_attribute(k_class, this, reader, name, error); }
-lmx::elmx_error ProfileFile::unmarshal_attributes_check(lmx::c_xml_reader& reader) { return lmx::check_required_attributes(k_class, this, reader); }
-bool ProfileFile::unmarshal_body(lmx::c_xml_reader& reader, std::string* name, lmx::elmx_error* error, bool has_body) { return lmx::unmarshal_content(k_class, this, reader, name, error, has_body); }
 lmx::elmx_error ProfileFile::set_ProfileName(const std::u16string& value) { return lmx::set_item(k_class, k_items[item_ProfileName], this, value); }
 lmx::elmx_error ProfileFile::set_ProfileFile(const lmx::c_binary& value) { return lmx::set_item(k_class, k_items[item_ProfileFile], this, value); }
 
@@ -534,15 +440,8 @@ constinit const s_item ProfileType_Parameters_ValueChoice::k_items[] = {
 constinit const s_class ProfileType_Parameters_ValueChoice::k_class = {
     .name = "ProfileType_Parameters_ValueChoice",
     .qualified_name = "Vyr:ValueChoice",
-    .base = nullptr,
     .content = content_kind::choice,
-    .may_be_empty = false,
-    .ns_map = nullptr,
-    .nil_flag = k_no_flag,
     .choice = LMX_CHOICE(ProfileType_Parameters_ValueChoice, m_choice),
-    .id = nullptr,
-    .xsi_type = nullptr,
-    .attributes = std::span(k_items).first(std::size(k_no_events) - 1),
     .elements = std::span(k_items).subspan(std::size(k_no_events) - 1),
     .attribute_map = k_no_events,
     .element_map = k_ProfileType_Parameters_ValueChoice_elements,
@@ -553,16 +452,11 @@ ProfileType_Parameters_ValueChoice::ProfileType_Parameters_ValueChoice() = defau
 ProfileType_Parameters_ValueChoice::ProfileType_Parameters_ValueChoice(const ProfileType_Parameters_ValueChoice& other) : ProfileType_Parameters_ValueChoice() { lmx::copy(k_class, this, &other); }
 ProfileType_Parameters_ValueChoice::~ProfileType_Parameters_ValueChoice() { lmx::release_choice(k_class, this); }
 ProfileType_Parameters_ValueChoice& ProfileType_Parameters_ValueChoice::operator=(const ProfileType_Parameters_ValueChoice& other) { ProfileType_Parameters_ValueChoice copy(other); swap(copy); return *this; }
+lmx::elmx_error ProfileType_Parameters_ValueChoice::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
+lmx::elmx_error ProfileType_Parameters_ValueChoice::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
 void ProfileType_Parameters_ValueChoice::swap(ProfileType_Parameters_ValueChoice& other) { lmx::swap(k_class, this, &other); }
 void ProfileType_Parameters_ValueChoice::reset() { ProfileType_Parameters_ValueChoice fresh; lmx::exchange(k_class, this, &fresh); }
 bool ProfileType_Parameters_ValueChoice::is_occurs_ok() const { return lmx::is_occurs_ok(k_class, this); }
-lmx::elmx_error ProfileType_Parameters_ValueChoice::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
-lmx::elmx_error ProfileType_Parameters_ValueChoice::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
-void ProfileType_Parameters_ValueChoice::marshal_attributes(lmx::c_xml_writer& writer) const { lmx::marshal_attributes(k_class, this, writer); }
-lmx::elmx_error ProfileType_Parameters_ValueChoice::marshal_child_elements(lmx::c_xml_writer& writer) const { return lmx::marshal_child_elements(k_class, this, writer); }
-bool ProfileType_Parameters_ValueChoice::unmarshal_attributes(lmx::c_xml_reader& reader, const std::string& name, lmx::elmx_error* error) { return lmx::unmarshal_attribute(k_class, this, reader, name, error); }
-lmx::elmx_error ProfileType_Parameters_ValueChoice::unmarshal_attributes_check(lmx::c_xml_reader& reader) { return lmx::check_required_attributes(k_class, this, reader); }
-bool ProfileType_Parameters_ValueChoice::unmarshal_body(lmx::c_xml_reader& reader, std::string* name, lmx::elmx_error* error) { return lmx::unmarshal_body(k_class, this, reader, name, error); }
 lmx::elmx_error ProfileType_Parameters_ValueChoice::set_DoubleValue(double value) { return lmx::set_item(k_class, k_items[item_DoubleValue], this, value); }
 lmx::elmx_error ProfileType_Parameters_ValueChoice::set_IntegerValue(std::int32_t value) { return lmx::set_item(k_class, k_items[item_IntegerValue], this, value); }
 const std::u16string& ProfileType_Parameters_ValueChoice::get_StringValue() const { return lmx::chosen_text(k_class, k_items[item_StringValue], this); }
@@ -587,15 +481,8 @@ constinit const s_item ProfileType_Parameters::k_items[] = {
 constinit const s_class ProfileType_Parameters::k_class = {
     .name = "ProfileType_Parameters",
     .qualified_name = "Vyr:Parameters",
-    .base = nullptr,
     .content = content_kind::children,
     .may_be_empty = true,
-    .ns_map = nullptr,
-    .nil_flag = k_no_flag,
-    .choice = k_no_flag,
-    .id = nullptr,
-    .xsi_type = nullptr,
-    .attributes = std::span(k_items).first(std::size(k_no_events) - 1),
     .elements = std::span(k_items).subspan(std::size(k_no_events) - 1),
     .attribute_map = k_no_events,
     .element_map = k_ProfileType_Parameters_elements,
@@ -606,16 +493,11 @@ ProfileType_Parameters::ProfileType_Parameters() = default;
 ProfileType_Parameters::ProfileType_Parameters(const ProfileType_Parameters& other) { lmx::copy(k_class, this, &other); }
 ProfileType_Parameters::~ProfileType_Parameters() = default;
 ProfileType_Parameters& ProfileType_Parameters::operator=(const ProfileType_Parameters& other) { ProfileType_Parameters copy(other); swap(copy); return *this; }
+lmx::elmx_error ProfileType_Parameters::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
+lmx::elmx_error ProfileType_Parameters::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
 void ProfileType_Parameters::swap(ProfileType_Parameters& other) { lmx::swap(k_class, this, &other); }
 void ProfileType_Parameters::reset() { ProfileType_Parameters fresh; lmx::exchange(k_class, this, &fresh); }
 bool ProfileType_Parameters::is_occurs_ok() const { return lmx::is_occurs_ok(k_class, this); }
-lmx::elmx_error ProfileType_Parameters::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
-lmx::elmx_error ProfileType_Parameters::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
-void ProfileType_Parameters::marshal_attributes(lmx::c_xml_writer& writer) const { lmx::marshal_attributes(k_class, this, writer); }
-lmx::elmx_error ProfileType_Parameters::marshal_child_elements(lmx::c_xml_writer& writer) const { return lmx::marshal_child_elements(k_class, this, writer); }
-bool ProfileType_Parameters::unmarshal_attributes(lmx::c_xml_reader& reader, const std::string& name, lmx::elmx_error* error) { return lmx::unmarshal_attribute(k_class, this, reader, name, error); }
-lmx::elmx_error ProfileType_Parameters::unmarshal_attributes_check(lmx::c_xml_reader& reader) { return lmx::check_required_attributes(k_class, this, reader); }
-bool ProfileType_Parameters::unmarshal_body(lmx::c_xml_reader& reader, std::string* name, lmx::elmx_error* error) { return lmx::unmarshal_body(k_class, this, reader, name, error); }
 lmx::elmx_error ProfileType_Parameters::set_Name(const std::u16string& value) { return lmx::set_item(k_class, k_items[item_Name], this, value); }
 ProfileType_Parameters_ValueChoice& ProfileType_Parameters::assign_ValueChoice(const ProfileType_Parameters_ValueChoice& value) { return get_ValueChoice() = value; }
 

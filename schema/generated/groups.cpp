@@ -125,15 +125,8 @@ constinit const s_item sg_ColorSpace::k_items[] = {
 constinit const s_class sg_ColorSpace::k_class = {
     .name = "sg_ColorSpace",
     .qualified_name = "sg_ColorSpace",
-    .base = nullptr,
     .content = content_kind::group,
-    .may_be_empty = false,
-    .ns_map = nullptr,
-    .nil_flag = k_no_flag,
     .choice = LMX_CHOICE(sg_ColorSpace, m_choice),
-    .id = nullptr,
-    .xsi_type = nullptr,
-    .attributes = std::span(k_items).first(std::size(k_no_events) - 1),
     .elements = std::span(k_items).subspan(std::size(k_no_events) - 1),
     .attribute_map = k_no_events,
     .element_map = k_sg_ColorSpace_elements,
@@ -144,14 +137,12 @@ sg_ColorSpace::sg_ColorSpace() = default;
 sg_ColorSpace::sg_ColorSpace(const sg_ColorSpace& other) : sg_ColorSpace() { lmx::copy(k_class, this, &other); }
 sg_ColorSpace::~sg_ColorSpace() { lmx::release_choice(k_class, this); }
 sg_ColorSpace& sg_ColorSpace::operator=(const sg_ColorSpace& other) { sg_ColorSpace copy(other); swap(copy); return *this; }
-void sg_ColorSpace::swap(sg_ColorSpace& other) { lmx::swap(k_class, this, &other); }
-void sg_ColorSpace::reset() { sg_ColorSpace fresh; lmx::exchange(k_class, this, &fresh); }
-bool sg_ColorSpace::is_occurs_ok() const { return lmx::is_occurs_ok(k_class, this); }
 bool sg_ColorSpace::is_member(lmx::c_xml_reader& reader, const std::string&) { return lmx::is_group_member(k_class, reader); }
 lmx::elmx_error sg_ColorSpace::marshal(lmx::c_xml_writer& writer, const char*) const { return lmx::marshal_group(k_class, this, writer); }
 bool sg_ColorSpace::unmarshal(lmx::c_xml_reader& reader, std::string* name, lmx::elmx_error* error) { return lmx::unmarshal_group(k_class, this, reader, name, error); }
-void sg_ColorSpace::marshal_attributes(lmx::c_xml_writer& writer) const { lmx::marshal_attributes(k_class, this, writer); }
-lmx::elmx_error sg_ColorSpace::marshal_child_elements(lmx::c_xml_writer& writer) const { return lmx::marshal_child_elements(k_class, this, writer); }
+void sg_ColorSpace::swap(sg_ColorSpace& other) { lmx::swap(k_class, this, &other); }
+void sg_ColorSpace::reset() { sg_ColorSpace fresh; lmx::exchange(k_class, this, &fresh); }
+bool sg_ColorSpace::is_occurs_ok() const { return lmx::is_occurs_ok(k_class, this); }
 ColorSpaceRecipeType& sg_ColorSpace::get_ColorSpaceRecipe() { return *static_cast<ColorSpaceRecipeType*>(lmx::choose(k_class, k_items[item_ColorSpaceRecipe], this)); }
 ColorSpaceRecipeType& sg_ColorSpace::assign_ColorSpaceRecipe(const ColorSpaceRecipeType& value) { ColorSpaceRecipeType copy(value); ColorSpaceRecipeType& target = get_ColorSpaceRecipe(); target.swap(copy); return target; }
 ColorSpaceTINTORAType& sg_ColorSpace::get_ColorSpaceTINTORA() { return *static_cast<ColorSpaceTINTORAType*>(lmx::choose(k_class, k_items[item_ColorSpaceTINTORA], this)); }
@@ -250,15 +241,8 @@ constinit const s_item sg_Substrate::k_items[] = {
 constinit const s_class sg_Substrate::k_class = {
     .name = "sg_Substrate",
     .qualified_name = "sg_Substrate",
-    .base = nullptr,
     .content = content_kind::group,
-    .may_be_empty = false,
-    .ns_map = nullptr,
-    .nil_flag = k_no_flag,
     .choice = LMX_CHOICE(sg_Substrate, m_choice),
-    .id = nullptr,
-    .xsi_type = nullptr,
-    .attributes = std::span(k_items).first(std::size(k_no_events) - 1),
     .elements = std::span(k_items).subspan(std::size(k_no_events) - 1),
     .attribute_map = k_no_events,
     .element_map = k_sg_Substrate_elements,
@@ -269,14 +253,12 @@ sg_Substrate::sg_Substrate() = default;
 sg_Substrate::sg_Substrate(const sg_Substrate& other) : sg_Substrate() { lmx::copy(k_class, this, &other); }
 sg_Substrate::~sg_Substrate() { lmx::release_choice(k_class, this); }
 sg_Substrate& sg_Substrate::operator=(const sg_Substrate& other) { sg_Substrate copy(other); swap(copy); return *this; }
-void sg_Substrate::swap(sg_Substrate& other) { lmx::swap(k_class, this, &other); }
-void sg_Substrate::reset() { sg_Substrate fresh; lmx::exchange(k_class, this, &fresh); }
-bool sg_Substrate::is_occurs_ok() const { return lmx::is_occurs_ok(k_class, this); }
 bool sg_Substrate::is_member(lmx::c_xml_reader& reader, const std::string&) { return lmx::is_group_member(k_class, reader); }
 lmx::elmx_error sg_Substrate::marshal(lmx::c_xml_writer& writer, const char*) const { return lmx::marshal_group(k_class, this, writer); }
 bool sg_Substrate::unmarshal(lmx::c_xml_reader& reader, std::string* name, lmx::elmx_error* error) { return lmx::unmarshal_group(k_class, this, reader, name, error); }
-void sg_Substrate::marshal_attributes(lmx::c_xml_writer& writer) const { lmx::marshal_attributes(k_class, this, writer); }
-lmx::elmx_error sg_Substrate::marshal_child_elements(lmx::c_xml_writer& writer) const { return lmx::marshal_child_elements(k_class, this, writer); }
+void sg_Substrate::swap(sg_Substrate& other) { lmx::swap(k_class, this, &other); }
+void sg_Substrate::reset() { sg_Substrate fresh; lmx::exchange(k_class, this, &fresh); }
+bool sg_Substrate::is_occurs_ok() const { return lmx::is_occurs_ok(k_class, this); }
 SubstratePaperType& sg_Substrate::get_SubstratePaper() { return *static_cast<SubstratePaperType*>(lmx::choose(k_class, k_items[item_SubstratePaper], this)); }
 SubstratePaperType& sg_Substrate::assign_SubstratePaper(const SubstratePaperType& value) { SubstratePaperType copy(value); SubstratePaperType& target = get_SubstratePaper(); target.swap(copy); return target; }
 SubstrateGenericType& sg_Substrate::get_SubstrateGeneric() { return *static_cast<SubstrateGenericType*>(lmx::choose(k_class, k_items[item_SubstrateGeneric], this)); }
@@ -315,15 +297,8 @@ constinit const s_item sg_Sample::k_items[] = {
 constinit const s_class sg_Sample::k_class = {
     .name = "sg_Sample",
     .qualified_name = "sg_Sample",
-    .base = nullptr,
     .content = content_kind::group,
-    .may_be_empty = false,
-    .ns_map = nullptr,
-    .nil_flag = k_no_flag,
     .choice = LMX_CHOICE(sg_Sample, m_choice),
-    .id = nullptr,
-    .xsi_type = nullptr,
-    .attributes = std::span(k_items).first(std::size(k_no_events) - 1),
     .elements = std::span(k_items).subspan(std::size(k_no_events) - 1),
     .attribute_map = k_no_events,
     .element_map = k_sg_Sample_elements,
@@ -334,14 +309,12 @@ sg_Sample::sg_Sample() = default;
 sg_Sample::sg_Sample(const sg_Sample& other) : sg_Sample() { lmx::copy(k_class, this, &other); }
 sg_Sample::~sg_Sample() { lmx::release_choice(k_class, this); }
 sg_Sample& sg_Sample::operator=(const sg_Sample& other) { sg_Sample copy(other); swap(copy); return *this; }
-void sg_Sample::swap(sg_Sample& other) { lmx::swap(k_class, this, &other); }
-void sg_Sample::reset() { sg_Sample fresh; lmx::exchange(k_class, this, &fresh); }
-bool sg_Sample::is_occurs_ok() const { return lmx::is_occurs_ok(k_class, this); }
 bool sg_Sample::is_member(lmx::c_xml_reader& reader, const std::string&) { return lmx::is_group_member(k_class, reader); }
 lmx::elmx_error sg_Sample::marshal(lmx::c_xml_writer& writer, const char*) const { return lmx::marshal_group(k_class, this, writer); }
 bool sg_Sample::unmarshal(lmx::c_xml_reader& reader, std::string* name, lmx::elmx_error* error) { return lmx::unmarshal_group(k_class, this, reader, name, error); }
-void sg_Sample::marshal_attributes(lmx::c_xml_writer& writer) const { lmx::marshal_attributes(k_class, this, writer); }
-lmx::elmx_error sg_Sample::marshal_child_elements(lmx::c_xml_writer& writer) const { return lmx::marshal_child_elements(k_class, this, writer); }
+void sg_Sample::swap(sg_Sample& other) { lmx::swap(k_class, this, &other); }
+void sg_Sample::reset() { sg_Sample fresh; lmx::exchange(k_class, this, &fresh); }
+bool sg_Sample::is_occurs_ok() const { return lmx::is_occurs_ok(k_class, this); }
 SampleSpotType& sg_Sample::get_SampleSpot() { return *static_cast<SampleSpotType*>(lmx::choose(k_class, k_items[item_SampleSpot], this)); }
 SampleSpotType& sg_Sample::assign_SampleSpot(const SampleSpotType& value) { SampleSpotType copy(value); SampleSpotType& target = get_SampleSpot(); target.swap(copy); return target; }
 SampleTargetType& sg_Sample::get_SampleTarget() { return *static_cast<SampleTargetType*>(lmx::choose(k_class, k_items[item_SampleTarget], this)); }
@@ -414,15 +387,8 @@ constinit const s_item sg_Function::k_items[] = {
 constinit const s_class sg_Function::k_class = {
     .name = "sg_Function",
     .qualified_name = "sg_Function",
-    .base = nullptr,
     .content = content_kind::group,
-    .may_be_empty = false,
-    .ns_map = nullptr,
-    .nil_flag = k_no_flag,
     .choice = LMX_CHOICE(sg_Function, m_choice),
-    .id = nullptr,
-    .xsi_type = nullptr,
-    .attributes = std::span(k_items).first(std::size(k_no_events) - 1),
     .elements = std::span(k_items).subspan(std::size(k_no_events) - 1),
     .attribute_map = k_no_events,
     .element_map = k_sg_Function_elements,
@@ -433,14 +399,12 @@ sg_Function::sg_Function() = default;
 sg_Function::sg_Function(const sg_Function& other) : sg_Function() { lmx::copy(k_class, this, &other); }
 sg_Function::~sg_Function() { lmx::release_choice(k_class, this); }
 sg_Function& sg_Function::operator=(const sg_Function& other) { sg_Function copy(other); swap(copy); return *this; }
-void sg_Function::swap(sg_Function& other) { lmx::swap(k_class, this, &other); }
-void sg_Function::reset() { sg_Function fresh; lmx::exchange(k_class, this, &fresh); }
-bool sg_Function::is_occurs_ok() const { return lmx::is_occurs_ok(k_class, this); }
 bool sg_Function::is_member(lmx::c_xml_reader& reader, const std::string&) { return lmx::is_group_member(k_class, reader); }
 lmx::elmx_error sg_Function::marshal(lmx::c_xml_writer& writer, const char*) const { return lmx::marshal_group(k_class, this, writer); }
 bool sg_Function::unmarshal(lmx::c_xml_reader& reader, std::string* name, lmx::elmx_error* error) { return lmx::unmarshal_group(k_class, this, reader, name, error); }
-void sg_Function::marshal_attributes(lmx::c_xml_writer& writer) const { lmx::marshal_attributes(k_class, this, writer); }
-lmx::elmx_error sg_Function::marshal_child_elements(lmx::c_xml_writer& writer) const { return lmx::marshal_child_elements(k_class, this, writer); }
+void sg_Function::swap(sg_Function& other) { lmx::swap(k_class, this, &other); }
+void sg_Function::reset() { sg_Function fresh; lmx::exchange(k_class, this, &fresh); }
+bool sg_Function::is_occurs_ok() const { return lmx::is_occurs_ok(k_class, this); }
 FunctionType& sg_Function::get_Function() { return *static_cast<FunctionType*>(lmx::choose(k_class, k_items[item_Function], this)); }
 FunctionType& sg_Function::assign_Function(const FunctionType& value) { FunctionType copy(value); FunctionType& target = get_Function(); target.swap(copy); return target; }
 FunctionType& sg_Function::assign_Function(FunctionType* value) { lmx::adopt(k_class, k_items[item_Function], this, value); if (value != nullptr) return *value; thread_local FunctionType nothing; nothing.reset(); return nothing; }

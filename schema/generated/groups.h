@@ -13,6 +13,7 @@
 #include <iosfwd>
 #include <string>
 
+#include "lmx/binding/class_parts.h"
 #include "lmx/binding/table.h"
 #include "lmx/export.h"
 #include "schema/generated/enumerations.h"
@@ -31,8 +32,8 @@ public:
     virtual ~sg_ColorSpace();
     sg_ColorSpace& operator=(const sg_ColorSpace& other);
     /// True if the current element is one of the alternatives.
-    static bool is_member(lmx::c_xml_reader& reader, const std::string& name);
-    lmx::elmx_error marshal(lmx::c_xml_writer& writer, const char* name) const;
+    static bool is_member(lmx::c_xml_reader& reader, const std::string&);
+    lmx::elmx_error marshal(lmx::c_xml_writer& writer, const char*) const;
     bool unmarshal(lmx::c_xml_reader& reader, std::string* name, lmx::elmx_error* error);
     void swap(sg_ColorSpace& other);
     void reset();
@@ -185,8 +186,8 @@ public:
     static const lmx::s_class k_class;
 
 protected:
-    void marshal_attributes(lmx::c_xml_writer& writer) const;
-    lmx::elmx_error marshal_child_elements(lmx::c_xml_writer& writer) const;
+    void marshal_attributes(lmx::c_xml_writer& writer) const { lmx::marshal_attributes(k_class, this, writer); }
+    lmx::elmx_error marshal_child_elements(lmx::c_xml_writer& writer) const { return lmx::marshal_child_elements(k_class, this, writer); }
     lmx::s_choice m_choice{e_none, false, {}};
 
 private:
@@ -234,8 +235,8 @@ public:
     virtual ~sg_Substrate();
     sg_Substrate& operator=(const sg_Substrate& other);
     /// True if the current element is one of the alternatives.
-    static bool is_member(lmx::c_xml_reader& reader, const std::string& name);
-    lmx::elmx_error marshal(lmx::c_xml_writer& writer, const char* name) const;
+    static bool is_member(lmx::c_xml_reader& reader, const std::string&);
+    lmx::elmx_error marshal(lmx::c_xml_writer& writer, const char*) const;
     bool unmarshal(lmx::c_xml_reader& reader, std::string* name, lmx::elmx_error* error);
     void swap(sg_Substrate& other);
     void reset();
@@ -290,8 +291,8 @@ public:
     static const lmx::s_class k_class;
 
 protected:
-    void marshal_attributes(lmx::c_xml_writer& writer) const;
-    lmx::elmx_error marshal_child_elements(lmx::c_xml_writer& writer) const;
+    void marshal_attributes(lmx::c_xml_writer& writer) const { lmx::marshal_attributes(k_class, this, writer); }
+    lmx::elmx_error marshal_child_elements(lmx::c_xml_writer& writer) const { return lmx::marshal_child_elements(k_class, this, writer); }
     lmx::s_choice m_choice{e_none, false, {}};
 
 private:
@@ -320,8 +321,8 @@ public:
     virtual ~sg_Sample();
     sg_Sample& operator=(const sg_Sample& other);
     /// True if the current element is one of the alternatives.
-    static bool is_member(lmx::c_xml_reader& reader, const std::string& name);
-    lmx::elmx_error marshal(lmx::c_xml_writer& writer, const char* name) const;
+    static bool is_member(lmx::c_xml_reader& reader, const std::string&);
+    lmx::elmx_error marshal(lmx::c_xml_writer& writer, const char*) const;
     bool unmarshal(lmx::c_xml_reader& reader, std::string* name, lmx::elmx_error* error);
     void swap(sg_Sample& other);
     void reset();
@@ -341,8 +342,8 @@ public:
     static const lmx::s_class k_class;
 
 protected:
-    void marshal_attributes(lmx::c_xml_writer& writer) const;
-    lmx::elmx_error marshal_child_elements(lmx::c_xml_writer& writer) const;
+    void marshal_attributes(lmx::c_xml_writer& writer) const { lmx::marshal_attributes(k_class, this, writer); }
+    lmx::elmx_error marshal_child_elements(lmx::c_xml_writer& writer) const { return lmx::marshal_child_elements(k_class, this, writer); }
     lmx::s_choice m_choice{e_none, false, {}};
 
 private:
@@ -364,8 +365,8 @@ public:
     virtual ~sg_Function();
     sg_Function& operator=(const sg_Function& other);
     /// True if the current element is one of the alternatives.
-    static bool is_member(lmx::c_xml_reader& reader, const std::string& name);
-    lmx::elmx_error marshal(lmx::c_xml_writer& writer, const char* name) const;
+    static bool is_member(lmx::c_xml_reader& reader, const std::string&);
+    lmx::elmx_error marshal(lmx::c_xml_writer& writer, const char*) const;
     bool unmarshal(lmx::c_xml_reader& reader, std::string* name, lmx::elmx_error* error);
     void swap(sg_Function& other);
     void reset();
@@ -468,8 +469,8 @@ public:
     static const lmx::s_class k_class;
 
 protected:
-    void marshal_attributes(lmx::c_xml_writer& writer) const;
-    lmx::elmx_error marshal_child_elements(lmx::c_xml_writer& writer) const;
+    void marshal_attributes(lmx::c_xml_writer& writer) const { lmx::marshal_attributes(k_class, this, writer); }
+    lmx::elmx_error marshal_child_elements(lmx::c_xml_writer& writer) const { return lmx::marshal_child_elements(k_class, this, writer); }
     lmx::s_choice m_choice{e_none, false, {}};
 
 private:

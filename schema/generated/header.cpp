@@ -31,15 +31,8 @@ constinit const s_item SDKVersion::k_items[] = {
 constinit const s_class SDKVersion::k_class = {
     .name = "SDKVersion",
     .qualified_name = "Vyr:SDKVersion",
-    .base = nullptr,
     .content = content_kind::simple,
-    .may_be_empty = false,
-    .ns_map = nullptr,
     .nil_flag = LMX_FLAG(SDKVersion, m_isnil),
-    .choice = k_no_flag,
-    .id = nullptr,
-    .xsi_type = nullptr,
-    .attributes = std::span(k_items).first(std::size(k_no_events) - 1),
     .elements = std::span(k_items).subspan(std::size(k_no_events) - 1),
     .attribute_map = k_no_events,
     .element_map = k_no_events,
@@ -50,16 +43,11 @@ SDKVersion::SDKVersion() = default;
 SDKVersion::SDKVersion(const SDKVersion& other) { lmx::copy(k_class, this, &other); }
 SDKVersion::~SDKVersion() = default;
 SDKVersion& SDKVersion::operator=(const SDKVersion& other) { SDKVersion copy(other); swap(copy); return *this; }
+lmx::elmx_error SDKVersion::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
+lmx::elmx_error SDKVersion::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
 void SDKVersion::swap(SDKVersion& other) { lmx::swap(k_class, this, &other); }
 void SDKVersion::reset() { SDKVersion fresh; lmx::exchange(k_class, this, &fresh); }
 bool SDKVersion::is_occurs_ok() const { return lmx::is_occurs_ok(k_class, this); }
-lmx::elmx_error SDKVersion::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
-lmx::elmx_error SDKVersion::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
-void SDKVersion::marshal_attributes(lmx::c_xml_writer& writer) const { lmx::marshal_attributes(k_class, this, writer); }
-lmx::elmx_error SDKVersion::marshal_child_elements(lmx::c_xml_writer& writer) const { return lmx::marshal_child_elements(k_class, this, writer); }
-bool SDKVersion::unmarshal_attributes(lmx::c_xml_reader& reader, const std::string& name, lmx::elmx_error* error) { return lmx::unmarshal_attribute(k_class, this, reader, name, error); }
-lmx::elmx_error SDKVersion::unmarshal_attributes_check(lmx::c_xml_reader& reader) { return lmx::check_required_attributes(k_class, this, reader); }
-bool SDKVersion::unmarshal_body(lmx::c_xml_reader& reader, std::string* name, lmx::elmx_error* error, bool has_body) { return lmx::unmarshal_content(k_class, this, reader, name, error, has_body); }
 lmx::elmx_error SDKVersion::set_SDKVersion(const std::u16string& value) { return lmx::set_item(k_class, k_items[item_SDKVersion], this, value); }
 
 // SDKType
@@ -81,15 +69,8 @@ constinit const s_item SDKType::k_items[] = {
 constinit const s_class SDKType::k_class = {
     .name = "SDKType",
     .qualified_name = "Vyr:SDKType",
-    .base = nullptr,
     .content = content_kind::children,
-    .may_be_empty = false,
     .ns_map = k_ns_map,
-    .nil_flag = k_no_flag,
-    .choice = k_no_flag,
-    .id = nullptr,
-    .xsi_type = nullptr,
-    .attributes = std::span(k_items).first(std::size(k_no_events) - 1),
     .elements = std::span(k_items).subspan(std::size(k_no_events) - 1),
     .attribute_map = k_no_events,
     .element_map = k_SDKType_elements,
@@ -100,16 +81,11 @@ SDKType::SDKType() = default;
 SDKType::SDKType(const SDKType& other) { lmx::copy(k_class, this, &other); }
 SDKType::~SDKType() = default;
 SDKType& SDKType::operator=(const SDKType& other) { SDKType copy(other); swap(copy); return *this; }
+lmx::elmx_error SDKType::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
+lmx::elmx_error SDKType::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
 void SDKType::swap(SDKType& other) { lmx::swap(k_class, this, &other); }
 void SDKType::reset() { SDKType fresh; lmx::exchange(k_class, this, &fresh); }
 bool SDKType::is_occurs_ok() const { return lmx::is_occurs_ok(k_class, this); }
-lmx::elmx_error SDKType::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
-lmx::elmx_error SDKType::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
-void SDKType::marshal_attributes(lmx::c_xml_writer& writer) const { lmx::marshal_attributes(k_class, this, writer); }
-lmx::elmx_error SDKType::marshal_child_elements(lmx::c_xml_writer& writer) const { return lmx::marshal_child_elements(k_class, this, writer); }
-bool SDKType::unmarshal_attributes(lmx::c_xml_reader& reader, const std::string& name, lmx::elmx_error* error) { return lmx::unmarshal_attribute(k_class, this, reader, name, error); }
-lmx::elmx_error SDKType::unmarshal_attributes_check(lmx::c_xml_reader& reader) { return lmx::check_required_attributes(k_class, this, reader); }
-bool SDKType::unmarshal_body(lmx::c_xml_reader& reader, std::string* name, lmx::elmx_error* error) { return lmx::unmarshal_body(k_class, this, reader, name, error); }
 lmx::elmx_error SDKType::set_SDKName(const std::u16string& value) { return lmx::set_item(k_class, k_items[item_SDKName], this, value); }
 SDKVersion& SDKType::assign_SDKVersion(const SDKVersion& value) { return get_SDKVersion() = value; }
 
@@ -132,15 +108,8 @@ constinit const s_item PlatformType::k_items[] = {
 constinit const s_class PlatformType::k_class = {
     .name = "PlatformType",
     .qualified_name = "Vyr:PlatformType",
-    .base = nullptr,
     .content = content_kind::children,
-    .may_be_empty = false,
     .ns_map = k_ns_map,
-    .nil_flag = k_no_flag,
-    .choice = k_no_flag,
-    .id = nullptr,
-    .xsi_type = nullptr,
-    .attributes = std::span(k_items).first(std::size(k_no_events) - 1),
     .elements = std::span(k_items).subspan(std::size(k_no_events) - 1),
     .attribute_map = k_no_events,
     .element_map = k_PlatformType_elements,
@@ -151,16 +120,11 @@ PlatformType::PlatformType() = default;
 PlatformType::PlatformType(const PlatformType& other) { lmx::copy(k_class, this, &other); }
 PlatformType::~PlatformType() = default;
 PlatformType& PlatformType::operator=(const PlatformType& other) { PlatformType copy(other); swap(copy); return *this; }
+lmx::elmx_error PlatformType::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
+lmx::elmx_error PlatformType::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
 void PlatformType::swap(PlatformType& other) { lmx::swap(k_class, this, &other); }
 void PlatformType::reset() { PlatformType fresh; lmx::exchange(k_class, this, &fresh); }
 bool PlatformType::is_occurs_ok() const { return lmx::is_occurs_ok(k_class, this); }
-lmx::elmx_error PlatformType::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
-lmx::elmx_error PlatformType::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
-void PlatformType::marshal_attributes(lmx::c_xml_writer& writer) const { lmx::marshal_attributes(k_class, this, writer); }
-lmx::elmx_error PlatformType::marshal_child_elements(lmx::c_xml_writer& writer) const { return lmx::marshal_child_elements(k_class, this, writer); }
-bool PlatformType::unmarshal_attributes(lmx::c_xml_reader& reader, const std::string& name, lmx::elmx_error* error) { return lmx::unmarshal_attribute(k_class, this, reader, name, error); }
-lmx::elmx_error PlatformType::unmarshal_attributes_check(lmx::c_xml_reader& reader) { return lmx::check_required_attributes(k_class, this, reader); }
-bool PlatformType::unmarshal_body(lmx::c_xml_reader& reader, std::string* name, lmx::elmx_error* error) { return lmx::unmarshal_body(k_class, this, reader, name, error); }
 lmx::elmx_error PlatformType::set_OperatingSystem(const std::u16string& value) { return lmx::set_item(k_class, k_items[item_OperatingSystem], this, value); }
 lmx::elmx_error PlatformType::set_OperatingSystemVersion(const std::u16string& value) { return lmx::set_item(k_class, k_items[item_OperatingSystemVersion], this, value); }
 
@@ -213,15 +177,7 @@ constinit const s_item Header::k_items[] = {
 constinit const s_class Header::k_class = {
     .name = "Header",
     .qualified_name = "Vyr:Header",
-    .base = nullptr,
     .content = content_kind::children,
-    .may_be_empty = false,
-    .ns_map = nullptr,
-    .nil_flag = k_no_flag,
-    .choice = k_no_flag,
-    .id = nullptr,
-    .xsi_type = nullptr,
-    .attributes = std::span(k_items).first(std::size(k_no_events) - 1),
     .elements = std::span(k_items).subspan(std::size(k_no_events) - 1),
     .attribute_map = k_no_events,
     .element_map = k_Header_elements,
@@ -232,16 +188,11 @@ Header::Header() = default;
 Header::Header(const Header& other) { lmx::copy(k_class, this, &other); }
 Header::~Header() = default;
 Header& Header::operator=(const Header& other) { Header copy(other); swap(copy); return *this; }
+lmx::elmx_error Header::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
+lmx::elmx_error Header::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
 void Header::swap(Header& other) { lmx::swap(k_class, this, &other); }
 void Header::reset() { Header fresh; lmx::exchange(k_class, this, &fresh); }
 bool Header::is_occurs_ok() const { return lmx::is_occurs_ok(k_class, this); }
-lmx::elmx_error Header::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
-lmx::elmx_error Header::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
-void Header::marshal_attributes(lmx::c_xml_writer& writer) const { lmx::marshal_attributes(k_class, this, writer); }
-lmx::elmx_error Header::marshal_child_elements(lmx::c_xml_writer& writer) const { return lmx::marshal_child_elements(k_class, this, writer); }
-bool Header::unmarshal_attributes(lmx::c_xml_reader& reader, const std::string& name, lmx::elmx_error* error) { return lmx::unmarshal_attribute(k_class, this, reader, name, error); }
-lmx::elmx_error Header::unmarshal_attributes_check(lmx::c_xml_reader& reader) { return lmx::check_required_attributes(k_class, this, reader); }
-bool Header::unmarshal_body(lmx::c_xml_reader& reader, std::string* name, lmx::elmx_error* error) { return lmx::unmarshal_body(k_class, this, reader, name, error); }
 CustomAttributeType& Header::get_CustomAttribute(std::size_t index) { return m_CustomAttribute.grow_to(index); }
 CustomAttributeType& Header::assign_CustomAttribute(std::size_t index, const CustomAttributeType& value) { return get_CustomAttribute(index) = value; }
 lmx::elmx_error Header::append_CustomAttribute() { m_CustomAttribute.append(); return lmx::ELMX_OK; }
@@ -302,15 +253,9 @@ constinit const s_item OwnerType::k_items[] = {
 constinit const s_class OwnerType::k_class = {
     .name = "OwnerType",
     .qualified_name = "Vyr:OwnerType",
-    .base = nullptr,
     .content = content_kind::children,
     .may_be_empty = true,
     .ns_map = k_ns_map,
-    .nil_flag = k_no_flag,
-    .choice = k_no_flag,
-    .id = nullptr,
-    .xsi_type = nullptr,
-    .attributes = std::span(k_items).first(std::size(k_no_events) - 1),
     .elements = std::span(k_items).subspan(std::size(k_no_events) - 1),
     .attribute_map = k_no_events,
     .element_map = k_OwnerType_elements,
@@ -321,16 +266,11 @@ OwnerType::OwnerType() = default;
 OwnerType::OwnerType(const OwnerType& other) { lmx::copy(k_class, this, &other); }
 OwnerType::~OwnerType() = default;
 OwnerType& OwnerType::operator=(const OwnerType& other) { OwnerType copy(other); swap(copy); return *this; }
+lmx::elmx_error OwnerType::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
+lmx::elmx_error OwnerType::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
 void OwnerType::swap(OwnerType& other) { lmx::swap(k_class, this, &other); }
 void OwnerType::reset() { OwnerType fresh; lmx::exchange(k_class, this, &fresh); }
 bool OwnerType::is_occurs_ok() const { return lmx::is_occurs_ok(k_class, this); }
-lmx::elmx_error OwnerType::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
-lmx::elmx_error OwnerType::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
-void OwnerType::marshal_attributes(lmx::c_xml_writer& writer) const { lmx::marshal_attributes(k_class, this, writer); }
-lmx::elmx_error OwnerType::marshal_child_elements(lmx::c_xml_writer& writer) const { return lmx::marshal_child_elements(k_class, this, writer); }
-bool OwnerType::unmarshal_attributes(lmx::c_xml_reader& reader, const std::string& name, lmx::elmx_error* error) { return lmx::unmarshal_attribute(k_class, this, reader, name, error); }
-lmx::elmx_error OwnerType::unmarshal_attributes_check(lmx::c_xml_reader& reader) { return lmx::check_required_attributes(k_class, this, reader); }
-bool OwnerType::unmarshal_body(lmx::c_xml_reader& reader, std::string* name, lmx::elmx_error* error) { return lmx::unmarshal_body(k_class, this, reader, name, error); }
 CustomAttributeType& OwnerType::get_CustomAttribute(std::size_t index) { return m_CustomAttribute.grow_to(index); }
 CustomAttributeType& OwnerType::assign_CustomAttribute(std::size_t index, const CustomAttributeType& value) { return get_CustomAttribute(index) = value; }
 lmx::elmx_error OwnerType::append_CustomAttribute() { m_CustomAttribute.append(); return lmx::ELMX_OK; }
@@ -376,15 +316,8 @@ constinit const s_item Version::k_items[] = {
 constinit const s_class Version::k_class = {
     .name = "Version",
     .qualified_name = "Vyr:Version",
-    .base = nullptr,
     .content = content_kind::children,
     .may_be_empty = true,
-    .ns_map = nullptr,
-    .nil_flag = k_no_flag,
-    .choice = k_no_flag,
-    .id = nullptr,
-    .xsi_type = nullptr,
-    .attributes = std::span(k_items).first(std::size(k_no_events) - 1),
     .elements = std::span(k_items).subspan(std::size(k_no_events) - 1),
     .attribute_map = k_no_events,
     .element_map = k_Version_elements,
@@ -395,16 +328,11 @@ Version::Version() = default;
 Version::Version(const Version& other) { lmx::copy(k_class, this, &other); }
 Version::~Version() = default;
 Version& Version::operator=(const Version& other) { Version copy(other); swap(copy); return *this; }
+lmx::elmx_error Version::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
+lmx::elmx_error Version::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
 void Version::swap(Version& other) { lmx::swap(k_class, this, &other); }
 void Version::reset() { Version fresh; lmx::exchange(k_class, this, &fresh); }
 bool Version::is_occurs_ok() const { return lmx::is_occurs_ok(k_class, this); }
-lmx::elmx_error Version::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
-lmx::elmx_error Version::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
-void Version::marshal_attributes(lmx::c_xml_writer& writer) const { lmx::marshal_attributes(k_class, this, writer); }
-lmx::elmx_error Version::marshal_child_elements(lmx::c_xml_writer& writer) const { return lmx::marshal_child_elements(k_class, this, writer); }
-bool Version::unmarshal_attributes(lmx::c_xml_reader& reader, const std::string& name, lmx::elmx_error* error) { return lmx::unmarshal_attribute(k_class, this, reader, name, error); }
-lmx::elmx_error Version::unmarshal_attributes_check(lmx::c_xml_reader& reader) { return lmx::check_required_attributes(k_class, this, reader); }
-bool Version::unmarshal_body(lmx::c_xml_reader& reader, std::string* name, lmx::elmx_error* error) { return lmx::unmarshal_body(k_class, this, reader, name, error); }
 CustomAttributeType& Version::get_CustomAttribute(std::size_t index) { return m_CustomAttribute.grow_to(index); }
 CustomAttributeType& Version::assign_CustomAttribute(std::size_t index, const CustomAttributeType& value) { return get_CustomAttribute(index) = value; }
 lmx::elmx_error Version::append_CustomAttribute() { m_CustomAttribute.append(); return lmx::ELMX_OK; }
@@ -440,15 +368,7 @@ constinit const s_item Preamble::k_items[] = {
 constinit const s_class Preamble::k_class = {
     .name = "Preamble",
     .qualified_name = "Vyr:Preamble",
-    .base = nullptr,
     .content = content_kind::children,
-    .may_be_empty = false,
-    .ns_map = nullptr,
-    .nil_flag = k_no_flag,
-    .choice = k_no_flag,
-    .id = nullptr,
-    .xsi_type = nullptr,
-    .attributes = std::span(k_items).first(std::size(k_no_events) - 1),
     .elements = std::span(k_items).subspan(std::size(k_no_events) - 1),
     .attribute_map = k_no_events,
     .element_map = k_Preamble_elements,
@@ -459,16 +379,11 @@ Preamble::Preamble() = default;
 Preamble::Preamble(const Preamble& other) { lmx::copy(k_class, this, &other); }
 Preamble::~Preamble() = default;
 Preamble& Preamble::operator=(const Preamble& other) { Preamble copy(other); swap(copy); return *this; }
+lmx::elmx_error Preamble::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
+lmx::elmx_error Preamble::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
 void Preamble::swap(Preamble& other) { lmx::swap(k_class, this, &other); }
 void Preamble::reset() { Preamble fresh; lmx::exchange(k_class, this, &fresh); }
 bool Preamble::is_occurs_ok() const { return lmx::is_occurs_ok(k_class, this); }
-lmx::elmx_error Preamble::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
-lmx::elmx_error Preamble::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
-void Preamble::marshal_attributes(lmx::c_xml_writer& writer) const { lmx::marshal_attributes(k_class, this, writer); }
-lmx::elmx_error Preamble::marshal_child_elements(lmx::c_xml_writer& writer) const { return lmx::marshal_child_elements(k_class, this, writer); }
-bool Preamble::unmarshal_attributes(lmx::c_xml_reader& reader, const std::string& name, lmx::elmx_error* error) { return lmx::unmarshal_attribute(k_class, this, reader, name, error); }
-lmx::elmx_error Preamble::unmarshal_attributes_check(lmx::c_xml_reader& reader) { return lmx::check_required_attributes(k_class, this, reader); }
-bool Preamble::unmarshal_body(lmx::c_xml_reader& reader, std::string* name, lmx::elmx_error* error) { return lmx::unmarshal_body(k_class, this, reader, name, error); }
 Header& Preamble::assign_Header(const Header& value) { return get_Header() = value; }
 OwnerType& Preamble::get_Owner() { OwnerType& child = m_Owner.touch(); m_isset_Owner = true; return child; }
 const OwnerType& Preamble::get_Owner() const { return m_Owner.get(); }
@@ -502,47 +417,35 @@ constinit const s_item Vyr::k_items[] = {
 constinit const s_class Vyr::k_class = {
     .name = "Vyr",
     .qualified_name = "Vyr:Vyr",
-    .base = nullptr,
     .content = content_kind::children,
-    .may_be_empty = false,
     .ns_map = k_ns_map,
-    .nil_flag = k_no_flag,
-    .choice = k_no_flag,
-    .id = nullptr,
-    .xsi_type = nullptr,
-    .attributes = std::span(k_items).first(std::size(k_no_events) - 1),
     .elements = std::span(k_items).subspan(std::size(k_no_events) - 1),
     .attribute_map = k_no_events,
     .element_map = k_Vyr_elements,
     .operations = &k_operations<Vyr>,
 };
 
+constinit const lmx::s_document Vyr::k_document = {"Vyr:Vyr", "Vyr", k_ns_map, &lmx::k_operations<Vyr>};
 Vyr::Vyr() { init(); }
 Vyr::Vyr(const Vyr& other) { lmx::copy(k_class, this, &other); init(); }
+Vyr::Vyr(const char* file_name, lmx::elmx_error* error) : Vyr() { *error = lmx::ELMX_UNDEFINED_ERROR; *error = unmarshal(file_name); init(); }
+Vyr::Vyr(const char* data, std::size_t size, lmx::elmx_error* error) : Vyr() { *error = lmx::ELMX_UNDEFINED_ERROR; *error = unmarshal(data, size); init(); }
+Vyr::Vyr(const std::string& text, lmx::elmx_error* error) : Vyr() { *error = lmx::ELMX_UNDEFINED_ERROR; *error = unmarshal(text.data(), text.size()); init(); }
 Vyr::~Vyr() = default;
 Vyr& Vyr::operator=(const Vyr& other) { Vyr copy(other); swap(copy); return *this; }
-void Vyr::swap(Vyr& other) { lmx::swap(k_class, this, &other); }
-void Vyr::reset() { Vyr fresh; lmx::exchange(k_class, this, &fresh); }
-bool Vyr::is_occurs_ok() const { return lmx::is_occurs_ok(k_class, this); }
-lmx::elmx_error Vyr::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
-lmx::elmx_error Vyr::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
-void Vyr::marshal_attributes(lmx::c_xml_writer& writer) const { lmx::marshal_attributes(k_class, this, writer); }
-lmx::elmx_error Vyr::marshal_child_elements(lmx::c_xml_writer& writer) const { return lmx::marshal_child_elements(k_class, this, writer); }
-bool Vyr::unmarshal_attributes(lmx::c_xml_reader& reader, const std::string& name, lmx::elmx_error* error) { return lmx::unmarshal_attribute(k_class, this, reader, name, error); }
-lmx::elmx_error Vyr::unmarshal_attributes_check(lmx::c_xml_reader& reader) { return lmx::check_required_attributes(k_class, this, reader); }
-bool Vyr::unmarshal_body(lmx::c_xml_reader& reader, std::string* name, lmx::elmx_error* error) { return lmx::unmarshal_body(k_class, this, reader, name, error); }
-constinit const lmx::s_document Vyr::k_document = {"Vyr:Vyr", "Vyr", k_ns_map, &lmx::k_operations<Vyr>};
 const lmx::s_ns_map* Vyr::ns_map() { return k_ns_map; }
-lmx::elmx_error Vyr::unmarshal(lmx::c_xml_reader& reader) { return lmx::unmarshal_document(k_document, this, reader); }
-Vyr::Vyr(const char* file_name, lmx::elmx_error* error) : Vyr() { *error = lmx::ELMX_UNDEFINED_ERROR; *error = unmarshal(file_name); init(); }
 lmx::elmx_error Vyr::unmarshal(const char* file_name) { return lmx::unmarshal_document(k_document, this, file_name); }
-Vyr::Vyr(const char* data, std::size_t size, lmx::elmx_error* error) : Vyr() { *error = lmx::ELMX_UNDEFINED_ERROR; *error = unmarshal(data, size); init(); }
 lmx::elmx_error Vyr::unmarshal(const char* data, std::size_t size) { return lmx::unmarshal_document(k_document, this, data, size); }
-Vyr::Vyr(const std::string& text, lmx::elmx_error* error) : Vyr() { *error = lmx::ELMX_UNDEFINED_ERROR; *error = unmarshal(text.data(), text.size()); init(); }
 lmx::elmx_error Vyr::unmarshal(const std::string& text) { return lmx::unmarshal_document(k_document, this, text.data(), text.size()); }
+lmx::elmx_error Vyr::unmarshal(lmx::c_xml_reader& reader) { return lmx::unmarshal_document(k_document, this, reader); }
 lmx::elmx_error Vyr::marshal(const char* file_name) const { return lmx::marshal_document(k_document, this, file_name); }
 lmx::elmx_error Vyr::marshal(std::string* text) const { return lmx::marshal_document(k_document, this, text); }
 lmx::elmx_error Vyr::marshal(std::ostream& stream) const { return lmx::marshal_document(k_document, this, stream); }
+lmx::elmx_error Vyr::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
+lmx::elmx_error Vyr::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
+void Vyr::swap(Vyr& other) { lmx::swap(k_class, this, &other); }
+void Vyr::reset() { Vyr fresh; lmx::exchange(k_class, this, &fresh); }
+bool Vyr::is_occurs_ok() const { return lmx::is_occurs_ok(k_class, this); }
 Preamble& Vyr::assign_Preamble(const Preamble& value) { return get_Preamble() = value; }
 ColorType& Vyr::get_Color(std::size_t index) { return m_Color.grow_to(index); }
 ColorType& Vyr::assign_Color(std::size_t index, const ColorType& value) { return get_Color(index) = value; }
@@ -572,15 +475,8 @@ constinit const s_item Revision::k_items[] = {
 constinit const s_class Revision::k_class = {
     .name = "Revision",
     .qualified_name = "Vyr:Revision",
-    .base = nullptr,
     .content = content_kind::children,
     .may_be_empty = true,
-    .ns_map = nullptr,
-    .nil_flag = k_no_flag,
-    .choice = k_no_flag,
-    .id = nullptr,
-    .xsi_type = nullptr,
-    .attributes = std::span(k_items).first(std::size(k_no_events) - 1),
     .elements = std::span(k_items).subspan(std::size(k_no_events) - 1),
     .attribute_map = k_no_events,
     .element_map = k_no_events,
@@ -591,21 +487,12 @@ Revision::Revision() = default;
 Revision::Revision(const Revision& other) { lmx::copy(k_class, this, &other); }
 Revision::~Revision() = default;
 Revision& Revision::operator=(const Revision& other) { Revision copy(other); swap(copy); return *this; }
+lmx::elmx_error Revision::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
+lmx::elmx_error Revision::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
 void Revision::swap(Revision& other) { lmx::swap(k_class, this, &other); }
 void Revision::reset() { Revision fresh; lmx::exchange(k_class, this, &fresh); }
 bool Revision::is_occurs_ok() const { return lmx::is_occurs_ok(k_class, this); }
-lmx::elmx_error Revision::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
-lmx::elmx_error Revision::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
-void Revision::marshal_attributes(lmx::c_xml_writer& writer) const { lmx::marshal_attributes(k_class, this, writer); }
-lmx::elmx_error Revision::marshal_child_elements(lmx::c_xml_writer& writer) const { return lmx::marshal_child_elements(k_class, this, writer); }
-bool Revision::unmarshal_attributes(lmx::c_xml_reader& reader, const std::string& name, lmx::elmx_error* error) { return lmx::unmarshal_attribute(k_class, this, reader, name, error); }
-lmx::elmx_error Revision::unmarshal_attributes_check(lmx::c_xml_reader& reader) { return lmx::check_required_attributes(k_class, this, reader); }
-bool Revision::unmarshal_body(lmx::c_xml_reader& reader, std::string* name, lmx::elmx_error* error) { return lmx::unmarshal_body(k_class, this, reader, name, error); }
-void Revision::get_any(std::size_t index, std::string* ns, std::string* name, std::string* value) const {
-    if (ns != nullptr) *ns = m_any[index].get_namespace();
-    if (name != nullptr) *name = m_any[index].get_name();
-    *value = m_any[index].get_value();
-}
+void Revision::get_any(std::size_t index, std::string* ns, std::string* name, std::string* value) const { if (ns != nullptr) *ns = m_any[index].get_namespace(); if (name != nullptr) *name = m_any[index].get_name(); *value = m_any[index].get_value(); }
 lmx::elmx_error Revision::append_any(const std::string& value) { return insert_any(size_any(), value); }
 lmx::elmx_error Revision::insert_any(std::size_t index, const std::string& value) { m_any.insert(index).set_value(value); return lmx::ELMX_OK; }
 void Revision::delete_any(std::size_t index) { m_any.erase(index); }
@@ -630,15 +517,8 @@ constinit const s_item Person::k_items[] = {
 constinit const s_class Person::k_class = {
     .name = "Person",
     .qualified_name = "Vyr:Person",
-    .base = nullptr,
     .content = content_kind::children,
     .may_be_empty = true,
-    .ns_map = nullptr,
-    .nil_flag = k_no_flag,
-    .choice = k_no_flag,
-    .id = nullptr,
-    .xsi_type = nullptr,
-    .attributes = std::span(k_items).first(std::size(k_no_events) - 1),
     .elements = std::span(k_items).subspan(std::size(k_no_events) - 1),
     .attribute_map = k_no_events,
     .element_map = k_Person_elements,
@@ -649,16 +529,11 @@ Person::Person() = default;
 Person::Person(const Person& other) { lmx::copy(k_class, this, &other); }
 Person::~Person() = default;
 Person& Person::operator=(const Person& other) { Person copy(other); swap(copy); return *this; }
+lmx::elmx_error Person::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
+lmx::elmx_error Person::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
 void Person::swap(Person& other) { lmx::swap(k_class, this, &other); }
 void Person::reset() { Person fresh; lmx::exchange(k_class, this, &fresh); }
 bool Person::is_occurs_ok() const { return lmx::is_occurs_ok(k_class, this); }
-lmx::elmx_error Person::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
-lmx::elmx_error Person::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
-void Person::marshal_attributes(lmx::c_xml_writer& writer) const { lmx::marshal_attributes(k_class, this, writer); }
-lmx::elmx_error Person::marshal_child_elements(lmx::c_xml_writer& writer) const { return lmx::marshal_child_elements(k_class, this, writer); }
-bool Person::unmarshal_attributes(lmx::c_xml_reader& reader, const std::string& name, lmx::elmx_error* error) { return lmx::unmarshal_attribute(k_class, this, reader, name, error); }
-lmx::elmx_error Person::unmarshal_attributes_check(lmx::c_xml_reader& reader) { return lmx::check_required_attributes(k_class, this, reader); }
-bool Person::unmarshal_body(lmx::c_xml_reader& reader, std::string* name, lmx::elmx_error* error) { return lmx::unmarshal_body(k_class, this, reader, name, error); }
 lmx::elmx_error Person::set_Name(const std::u16string& value) { return lmx::set_item(k_class, k_items[item_Name], this, value); }
 lmx::elmx_error Person::set_ContactInfo(const std::u16string& value) { return lmx::set_item(k_class, k_items[item_ContactInfo], this, value); }
 
@@ -684,15 +559,8 @@ constinit const s_item CustomAttributeType_ValueChoice::k_items[] = {
 constinit const s_class CustomAttributeType_ValueChoice::k_class = {
     .name = "CustomAttributeType_ValueChoice",
     .qualified_name = "Vyr:ValueChoice",
-    .base = nullptr,
     .content = content_kind::choice,
-    .may_be_empty = false,
-    .ns_map = nullptr,
-    .nil_flag = k_no_flag,
     .choice = LMX_CHOICE(CustomAttributeType_ValueChoice, m_choice),
-    .id = nullptr,
-    .xsi_type = nullptr,
-    .attributes = std::span(k_items).first(std::size(k_no_events) - 1),
     .elements = std::span(k_items).subspan(std::size(k_no_events) - 1),
     .attribute_map = k_no_events,
     .element_map = k_CustomAttributeType_ValueChoice_elements,
@@ -703,16 +571,11 @@ CustomAttributeType_ValueChoice::CustomAttributeType_ValueChoice() = default;
 CustomAttributeType_ValueChoice::CustomAttributeType_ValueChoice(const CustomAttributeType_ValueChoice& other) : CustomAttributeType_ValueChoice() { lmx::copy(k_class, this, &other); }
 CustomAttributeType_ValueChoice::~CustomAttributeType_ValueChoice() { lmx::release_choice(k_class, this); }
 CustomAttributeType_ValueChoice& CustomAttributeType_ValueChoice::operator=(const CustomAttributeType_ValueChoice& other) { CustomAttributeType_ValueChoice copy(other); swap(copy); return *this; }
+lmx::elmx_error CustomAttributeType_ValueChoice::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
+lmx::elmx_error CustomAttributeType_ValueChoice::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
 void CustomAttributeType_ValueChoice::swap(CustomAttributeType_ValueChoice& other) { lmx::swap(k_class, this, &other); }
 void CustomAttributeType_ValueChoice::reset() { CustomAttributeType_ValueChoice fresh; lmx::exchange(k_class, this, &fresh); }
 bool CustomAttributeType_ValueChoice::is_occurs_ok() const { return lmx::is_occurs_ok(k_class, this); }
-lmx::elmx_error CustomAttributeType_ValueChoice::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
-lmx::elmx_error CustomAttributeType_ValueChoice::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
-void CustomAttributeType_ValueChoice::marshal_attributes(lmx::c_xml_writer& writer) const { lmx::marshal_attributes(k_class, this, writer); }
-lmx::elmx_error CustomAttributeType_ValueChoice::marshal_child_elements(lmx::c_xml_writer& writer) const { return lmx::marshal_child_elements(k_class, this, writer); }
-bool CustomAttributeType_ValueChoice::unmarshal_attributes(lmx::c_xml_reader& reader, const std::string& name, lmx::elmx_error* error) { return lmx::unmarshal_attribute(k_class, this, reader, name, error); }
-lmx::elmx_error CustomAttributeType_ValueChoice::unmarshal_attributes_check(lmx::c_xml_reader& reader) { return lmx::check_required_attributes(k_class, this, reader); }
-bool CustomAttributeType_ValueChoice::unmarshal_body(lmx::c_xml_reader& reader, std::string* name, lmx::elmx_error* error) { return lmx::unmarshal_body(k_class, this, reader, name, error); }
 lmx::elmx_error CustomAttributeType_ValueChoice::set_DoubleValue(double value) { return lmx::set_item(k_class, k_items[item_DoubleValue], this, value); }
 lmx::elmx_error CustomAttributeType_ValueChoice::set_IntegerValue(std::int32_t value) { return lmx::set_item(k_class, k_items[item_IntegerValue], this, value); }
 const std::u16string& CustomAttributeType_ValueChoice::get_StringValue() const { return lmx::chosen_text(k_class, k_items[item_StringValue], this); }
@@ -737,15 +600,8 @@ constinit const s_item CustomAttributeType::k_items[] = {
 constinit const s_class CustomAttributeType::k_class = {
     .name = "CustomAttributeType",
     .qualified_name = "Vyr:CustomAttributeType",
-    .base = nullptr,
     .content = content_kind::children,
-    .may_be_empty = false,
     .ns_map = k_ns_map,
-    .nil_flag = k_no_flag,
-    .choice = k_no_flag,
-    .id = nullptr,
-    .xsi_type = nullptr,
-    .attributes = std::span(k_items).first(std::size(k_no_events) - 1),
     .elements = std::span(k_items).subspan(std::size(k_no_events) - 1),
     .attribute_map = k_no_events,
     .element_map = k_CustomAttributeType_elements,
@@ -756,16 +612,11 @@ CustomAttributeType::CustomAttributeType() = default;
 CustomAttributeType::CustomAttributeType(const CustomAttributeType& other) { lmx::copy(k_class, this, &other); }
 CustomAttributeType::~CustomAttributeType() = default;
 CustomAttributeType& CustomAttributeType::operator=(const CustomAttributeType& other) { CustomAttributeType copy(other); swap(copy); return *this; }
+lmx::elmx_error CustomAttributeType::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
+lmx::elmx_error CustomAttributeType::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
 void CustomAttributeType::swap(CustomAttributeType& other) { lmx::swap(k_class, this, &other); }
 void CustomAttributeType::reset() { CustomAttributeType fresh; lmx::exchange(k_class, this, &fresh); }
 bool CustomAttributeType::is_occurs_ok() const { return lmx::is_occurs_ok(k_class, this); }
-lmx::elmx_error CustomAttributeType::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
-lmx::elmx_error CustomAttributeType::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
-void CustomAttributeType::marshal_attributes(lmx::c_xml_writer& writer) const { lmx::marshal_attributes(k_class, this, writer); }
-lmx::elmx_error CustomAttributeType::marshal_child_elements(lmx::c_xml_writer& writer) const { return lmx::marshal_child_elements(k_class, this, writer); }
-bool CustomAttributeType::unmarshal_attributes(lmx::c_xml_reader& reader, const std::string& name, lmx::elmx_error* error) { return lmx::unmarshal_attribute(k_class, this, reader, name, error); }
-lmx::elmx_error CustomAttributeType::unmarshal_attributes_check(lmx::c_xml_reader& reader) { return lmx::check_required_attributes(k_class, this, reader); }
-bool CustomAttributeType::unmarshal_body(lmx::c_xml_reader& reader, std::string* name, lmx::elmx_error* error) { return lmx::unmarshal_body(k_class, this, reader, name, error); }
 lmx::elmx_error CustomAttributeType::set_Name(const std::u16string& value) { return lmx::set_item(k_class, k_items[item_Name], this, value); }
 CustomAttributeType_ValueChoice& CustomAttributeType::assign_ValueChoice(const CustomAttributeType_ValueChoice& value) { return get_ValueChoice() = value; }
 
@@ -788,16 +639,9 @@ constinit const s_item TagCategory::k_items[] = {
 constinit const s_class TagCategory::k_class = {
     .name = "TagCategory",
     .qualified_name = "Vyr:TagCategory",
-    .base = nullptr,
     .content = content_kind::empty,
-    .may_be_empty = false,
     .ns_map = k_ns_map,
-    .nil_flag = k_no_flag,
-    .choice = k_no_flag,
-    .id = nullptr,
-    .xsi_type = nullptr,
     .attributes = std::span(k_items).first(std::size(k_TagCategory_attributes) - 1),
-    .elements = std::span(k_items).subspan(std::size(k_TagCategory_attributes) - 1),
     .attribute_map = k_TagCategory_attributes,
     .element_map = k_no_events,
     .operations = &k_operations<TagCategory>,
@@ -807,16 +651,11 @@ TagCategory::TagCategory() = default;
 TagCategory::TagCategory(const TagCategory& other) { lmx::copy(k_class, this, &other); }
 TagCategory::~TagCategory() = default;
 TagCategory& TagCategory::operator=(const TagCategory& other) { TagCategory copy(other); swap(copy); return *this; }
+lmx::elmx_error TagCategory::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
+lmx::elmx_error TagCategory::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
 void TagCategory::swap(TagCategory& other) { lmx::swap(k_class, this, &other); }
 void TagCategory::reset() { TagCategory fresh; lmx::exchange(k_class, this, &fresh); }
 bool TagCategory::is_occurs_ok() const { return lmx::is_occurs_ok(k_class, this); }
-lmx::elmx_error TagCategory::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
-lmx::elmx_error TagCategory::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
-void TagCategory::marshal_attributes(lmx::c_xml_writer& writer) const { lmx::marshal_attributes(k_class, this, writer); }
-lmx::elmx_error TagCategory::marshal_child_elements(lmx::c_xml_writer& writer) const { return lmx::marshal_child_elements(k_class, this, writer); }
-bool TagCategory::unmarshal_attributes(lmx::c_xml_reader& reader, const std::string& name, lmx::elmx_error* error) { return lmx::unmarshal_attribute(k_class, this, reader, name, error); }
-lmx::elmx_error TagCategory::unmarshal_attributes_check(lmx::c_xml_reader& reader) { return lmx::check_required_attributes(k_class, this, reader); }
-bool TagCategory::unmarshal_body(lmx::c_xml_reader& reader, std::string* name, lmx::elmx_error* error) { return lmx::unmarshal_body(k_class, this, reader, name, error); }
 lmx::elmx_error TagCategory::set_UniqueID(const std::u16string& value) { return lmx::set_item(k_class, k_items[item_UniqueID], this, value); }
 lmx::elmx_error TagCategory::set_Name(const std::u16string& value) { return lmx::set_item(k_class, k_items[item_Name], this, value); }
 
@@ -845,14 +684,8 @@ constinit const s_item Tag::k_items[] = {
 constinit const s_class Tag::k_class = {
     .name = "Tag",
     .qualified_name = "Vyr:Tag",
-    .base = nullptr,
     .content = content_kind::children,
-    .may_be_empty = false,
     .ns_map = k_ns_map,
-    .nil_flag = k_no_flag,
-    .choice = k_no_flag,
-    .id = nullptr,
-    .xsi_type = nullptr,
     .attributes = std::span(k_items).first(std::size(k_Tag_attributes) - 1),
     .elements = std::span(k_items).subspan(std::size(k_Tag_attributes) - 1),
     .attribute_map = k_Tag_attributes,
@@ -864,16 +697,11 @@ Tag::Tag() = default;
 Tag::Tag(const Tag& other) { lmx::copy(k_class, this, &other); }
 Tag::~Tag() = default;
 Tag& Tag::operator=(const Tag& other) { Tag copy(other); swap(copy); return *this; }
+lmx::elmx_error Tag::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
+lmx::elmx_error Tag::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
 void Tag::swap(Tag& other) { lmx::swap(k_class, this, &other); }
 void Tag::reset() { Tag fresh; lmx::exchange(k_class, this, &fresh); }
 bool Tag::is_occurs_ok() const { return lmx::is_occurs_ok(k_class, this); }
-lmx::elmx_error Tag::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
-lmx::elmx_error Tag::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
-void Tag::marshal_attributes(lmx::c_xml_writer& writer) const { lmx::marshal_attributes(k_class, this, writer); }
-lmx::elmx_error Tag::marshal_child_elements(lmx::c_xml_writer& writer) const { return lmx::marshal_child_elements(k_class, this, writer); }
-bool Tag::unmarshal_attributes(lmx::c_xml_reader& reader, const std::string& name, lmx::elmx_error* error) { return lmx::unmarshal_attribute(k_class, this, reader, name, error); }
-lmx::elmx_error Tag::unmarshal_attributes_check(lmx::c_xml_reader& reader) { return lmx::check_required_attributes(k_class, this, reader); }
-bool Tag::unmarshal_body(lmx::c_xml_reader& reader, std::string* name, lmx::elmx_error* error) { return lmx::unmarshal_body(k_class, this, reader, name, error); }
 lmx::elmx_error Tag::set_Name(const std::u16string& value) { return lmx::set_item(k_class, k_items[item_Name], this, value); }
 lmx::elmx_error Tag::set_UniqueID(const std::u16string& value) { return lmx::set_item(k_class, k_items[item_UniqueID], this, value); }
 TagCategory& Tag::assign_Category(const TagCategory& value) { return get_Category() = value; }
@@ -897,15 +725,8 @@ constinit const s_item anon_TextValue::k_items[] = {
 constinit const s_class anon_TextValue::k_class = {
     .name = "anon_TextValue",
     .qualified_name = "",
-    .base = nullptr,
     .content = content_kind::choice,
-    .may_be_empty = false,
-    .ns_map = nullptr,
-    .nil_flag = k_no_flag,
     .choice = LMX_CHOICE(anon_TextValue, m_choice),
-    .id = nullptr,
-    .xsi_type = nullptr,
-    .attributes = std::span(k_items).first(std::size(k_no_events) - 1),
     .elements = std::span(k_items).subspan(std::size(k_no_events) - 1),
     .attribute_map = k_no_events,
     .element_map = k_anon_TextValue_elements,
@@ -916,14 +737,12 @@ anon_TextValue::anon_TextValue() = default;
 anon_TextValue::anon_TextValue(const anon_TextValue& other) : anon_TextValue() { lmx::copy(k_class, this, &other); }
 anon_TextValue::~anon_TextValue() { lmx::release_choice(k_class, this); }
 anon_TextValue& anon_TextValue::operator=(const anon_TextValue& other) { anon_TextValue copy(other); swap(copy); return *this; }
-void anon_TextValue::swap(anon_TextValue& other) { lmx::swap(k_class, this, &other); }
-void anon_TextValue::reset() { anon_TextValue fresh; lmx::exchange(k_class, this, &fresh); }
-bool anon_TextValue::is_occurs_ok() const { return lmx::is_occurs_ok(k_class, this); }
 bool anon_TextValue::is_member(lmx::c_xml_reader& reader, const std::string&) { return lmx::is_group_member(k_class, reader); }
 lmx::elmx_error anon_TextValue::marshal(lmx::c_xml_writer& writer, const char*) const { return lmx::marshal_child_elements(k_class, this, writer); }
 bool anon_TextValue::unmarshal(lmx::c_xml_reader& reader, std::string* name, lmx::elmx_error* error) { return lmx::unmarshal_body(k_class, this, reader, name, error); }
-void anon_TextValue::marshal_attributes(lmx::c_xml_writer& writer) const { lmx::marshal_attributes(k_class, this, writer); }
-lmx::elmx_error anon_TextValue::marshal_child_elements(lmx::c_xml_writer& writer) const { return lmx::marshal_child_elements(k_class, this, writer); }
+void anon_TextValue::swap(anon_TextValue& other) { lmx::swap(k_class, this, &other); }
+void anon_TextValue::reset() { anon_TextValue fresh; lmx::exchange(k_class, this, &fresh); }
+bool anon_TextValue::is_occurs_ok() const { return lmx::is_occurs_ok(k_class, this); }
 const std::u16string& anon_TextValue::get_TextValue() const { return lmx::chosen_text(k_class, k_items[item_TextValue], this); }
 lmx::elmx_error anon_TextValue::set_TextValue(const std::u16string& value) { return lmx::set_item(k_class, k_items[item_TextValue], this, value); }
 lmx::elmx_error anon_TextValue::set_NumberValue(double value) { return lmx::set_item(k_class, k_items[item_NumberValue], this, value); }
@@ -954,14 +773,8 @@ constinit const s_item TagValue::k_items[] = {
 constinit const s_class TagValue::k_class = {
     .name = "TagValue",
     .qualified_name = "Vyr:TagValue",
-    .base = nullptr,
     .content = content_kind::children,
-    .may_be_empty = false,
     .ns_map = k_ns_map,
-    .nil_flag = k_no_flag,
-    .choice = k_no_flag,
-    .id = nullptr,
-    .xsi_type = nullptr,
     .attributes = std::span(k_items).first(std::size(k_TagValue_attributes) - 1),
     .elements = std::span(k_items).subspan(std::size(k_TagValue_attributes) - 1),
     .attribute_map = k_TagValue_attributes,
@@ -973,16 +786,11 @@ TagValue::TagValue() = default;
 TagValue::TagValue(const TagValue& other) { lmx::copy(k_class, this, &other); }
 TagValue::~TagValue() = default;
 TagValue& TagValue::operator=(const TagValue& other) { TagValue copy(other); swap(copy); return *this; }
+lmx::elmx_error TagValue::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
+lmx::elmx_error TagValue::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
 void TagValue::swap(TagValue& other) { lmx::swap(k_class, this, &other); }
 void TagValue::reset() { TagValue fresh; lmx::exchange(k_class, this, &fresh); }
 bool TagValue::is_occurs_ok() const { return lmx::is_occurs_ok(k_class, this); }
-lmx::elmx_error TagValue::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
-lmx::elmx_error TagValue::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
-void TagValue::marshal_attributes(lmx::c_xml_writer& writer) const { lmx::marshal_attributes(k_class, this, writer); }
-lmx::elmx_error TagValue::marshal_child_elements(lmx::c_xml_writer& writer) const { return lmx::marshal_child_elements(k_class, this, writer); }
-bool TagValue::unmarshal_attributes(lmx::c_xml_reader& reader, const std::string& name, lmx::elmx_error* error) { return lmx::unmarshal_attribute(k_class, this, reader, name, error); }
-lmx::elmx_error TagValue::unmarshal_attributes_check(lmx::c_xml_reader& reader) { return lmx::check_required_attributes(k_class, this, reader); }
-bool TagValue::unmarshal_body(lmx::c_xml_reader& reader, std::string* name, lmx::elmx_error* error) { return lmx::unmarshal_body(k_class, this, reader, name, error); }
 lmx::elmx_error TagValue::set_UniqueID(const std::u16string& value) { return lmx::set_item(k_class, k_items[item_UniqueID], this, value); }
 Tag& TagValue::assign_Tag(const Tag& value) { return get_Tag() = value; }
 anon_TextValue& TagValue::assign_anon_TextValue(const anon_TextValue& value) { return get_anon_TextValue() = value; }

@@ -54,15 +54,9 @@ constinit const s_item CollectionColorSpaceSpecificationType::k_items[] = {
 constinit const s_class CollectionColorSpaceSpecificationType::k_class = {
     .name = "CollectionColorSpaceSpecificationType",
     .qualified_name = "Vyr:CollectionColorSpaceSpecificationType",
-    .base = nullptr,
     .content = content_kind::children,
     .may_be_empty = true,
     .ns_map = k_ns_map,
-    .nil_flag = k_no_flag,
-    .choice = k_no_flag,
-    .id = nullptr,
-    .xsi_type = nullptr,
-    .attributes = std::span(k_items).first(std::size(k_no_events) - 1),
     .elements = std::span(k_items).subspan(std::size(k_no_events) - 1),
     .attribute_map = k_no_events,
     .element_map = k_CollectionColorSpaceSpecificationType_elements,
@@ -73,16 +67,11 @@ CollectionColorSpaceSpecificationType::CollectionColorSpaceSpecificationType() =
 CollectionColorSpaceSpecificationType::CollectionColorSpaceSpecificationType(const CollectionColorSpaceSpecificationType& other) { lmx::copy(k_class, this, &other); }
 CollectionColorSpaceSpecificationType::~CollectionColorSpaceSpecificationType() = default;
 CollectionColorSpaceSpecificationType& CollectionColorSpaceSpecificationType::operator=(const CollectionColorSpaceSpecificationType& other) { CollectionColorSpaceSpecificationType copy(other); swap(copy); return *this; }
+lmx::elmx_error CollectionColorSpaceSpecificationType::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
+lmx::elmx_error CollectionColorSpaceSpecificationType::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
 void CollectionColorSpaceSpecificationType::swap(CollectionColorSpaceSpecificationType& other) { lmx::swap(k_class, this, &other); }
 void CollectionColorSpaceSpecificationType::reset() { CollectionColorSpaceSpecificationType fresh; lmx::exchange(k_class, this, &fresh); }
 bool CollectionColorSpaceSpecificationType::is_occurs_ok() const { return lmx::is_occurs_ok(k_class, this); }
-lmx::elmx_error CollectionColorSpaceSpecificationType::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
-lmx::elmx_error CollectionColorSpaceSpecificationType::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
-void CollectionColorSpaceSpecificationType::marshal_attributes(lmx::c_xml_writer& writer) const { lmx::marshal_attributes(k_class, this, writer); }
-lmx::elmx_error CollectionColorSpaceSpecificationType::marshal_child_elements(lmx::c_xml_writer& writer) const { return lmx::marshal_child_elements(k_class, this, writer); }
-bool CollectionColorSpaceSpecificationType::unmarshal_attributes(lmx::c_xml_reader& reader, const std::string& name, lmx::elmx_error* error) { return lmx::unmarshal_attribute(k_class, this, reader, name, error); }
-lmx::elmx_error CollectionColorSpaceSpecificationType::unmarshal_attributes_check(lmx::c_xml_reader& reader) { return lmx::check_required_attributes(k_class, this, reader); }
-bool CollectionColorSpaceSpecificationType::unmarshal_body(lmx::c_xml_reader& reader, std::string* name, lmx::elmx_error* error) { return lmx::unmarshal_body(k_class, this, reader, name, error); }
 ColorSpaceSpecificationSpectrumGeneric& CollectionColorSpaceSpecificationType::get_ColorSpaceSpecificationSpectrumGeneric() { ColorSpaceSpecificationSpectrumGeneric& child = m_ColorSpaceSpecificationSpectrumGeneric.touch(); m_isset_ColorSpaceSpecificationSpectrumGeneric = true; return child; }
 const ColorSpaceSpecificationSpectrumGeneric& CollectionColorSpaceSpecificationType::get_ColorSpaceSpecificationSpectrumGeneric() const { return m_ColorSpaceSpecificationSpectrumGeneric.get(); }
 ColorSpaceSpecificationSpectrumGeneric& CollectionColorSpaceSpecificationType::assign_ColorSpaceSpecificationSpectrumGeneric(const ColorSpaceSpecificationSpectrumGeneric& value) { return get_ColorSpaceSpecificationSpectrumGeneric() = value; }
@@ -151,14 +140,8 @@ constinit const s_item PaletteType::k_items[] = {
 constinit const s_class PaletteType::k_class = {
     .name = "PaletteType",
     .qualified_name = "Vyr:PaletteType",
-    .base = nullptr,
     .content = content_kind::children,
-    .may_be_empty = false,
     .ns_map = k_ns_map,
-    .nil_flag = k_no_flag,
-    .choice = k_no_flag,
-    .id = nullptr,
-    .xsi_type = nullptr,
     .attributes = std::span(k_items).first(std::size(k_PaletteType_attributes) - 1),
     .elements = std::span(k_items).subspan(std::size(k_PaletteType_attributes) - 1),
     .attribute_map = k_PaletteType_attributes,
@@ -170,16 +153,11 @@ PaletteType::PaletteType() = default;
 PaletteType::PaletteType(const PaletteType& other) { lmx::copy(k_class, this, &other); }
 PaletteType::~PaletteType() = default;
 PaletteType& PaletteType::operator=(const PaletteType& other) { PaletteType copy(other); swap(copy); return *this; }
+lmx::elmx_error PaletteType::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
+lmx::elmx_error PaletteType::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
 void PaletteType::swap(PaletteType& other) { lmx::swap(k_class, this, &other); }
 void PaletteType::reset() { PaletteType fresh; lmx::exchange(k_class, this, &fresh); }
 bool PaletteType::is_occurs_ok() const { return lmx::is_occurs_ok(k_class, this); }
-lmx::elmx_error PaletteType::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
-lmx::elmx_error PaletteType::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
-void PaletteType::marshal_attributes(lmx::c_xml_writer& writer) const { lmx::marshal_attributes(k_class, this, writer); }
-lmx::elmx_error PaletteType::marshal_child_elements(lmx::c_xml_writer& writer) const { return lmx::marshal_child_elements(k_class, this, writer); }
-bool PaletteType::unmarshal_attributes(lmx::c_xml_reader& reader, const std::string& name, lmx::elmx_error* error) { return lmx::unmarshal_attribute(k_class, this, reader, name, error); }
-lmx::elmx_error PaletteType::unmarshal_attributes_check(lmx::c_xml_reader& reader) { return lmx::check_required_attributes(k_class, this, reader); }
-bool PaletteType::unmarshal_body(lmx::c_xml_reader& reader, std::string* name, lmx::elmx_error* error) { return lmx::unmarshal_body(k_class, this, reader, name, error); }
 lmx::elmx_error PaletteType::set_PaletteName(const std::u16string& value) { return lmx::set_item(k_class, k_items[item_PaletteName], this, value); }
 lmx::elmx_error PaletteType::set_PalettePartNumber(const std::u16string& value) { return lmx::set_item(k_class, k_items[item_PalettePartNumber], this, value); }
 lmx::elmx_error PaletteType::set_PaletteVersion(const std::u16string& value) { return lmx::set_item(k_class, k_items[item_PaletteVersion], this, value); }
@@ -271,14 +249,8 @@ constinit const s_item ColorSetType::k_items[] = {
 constinit const s_class ColorSetType::k_class = {
     .name = "ColorSetType",
     .qualified_name = "Vyr:ColorSetType",
-    .base = nullptr,
     .content = content_kind::children,
-    .may_be_empty = false,
     .ns_map = k_ns_map,
-    .nil_flag = k_no_flag,
-    .choice = k_no_flag,
-    .id = nullptr,
-    .xsi_type = nullptr,
     .attributes = std::span(k_items).first(std::size(k_ColorSetType_attributes) - 1),
     .elements = std::span(k_items).subspan(std::size(k_ColorSetType_attributes) - 1),
     .attribute_map = k_ColorSetType_attributes,
@@ -290,16 +262,11 @@ ColorSetType::ColorSetType() = default;
 ColorSetType::ColorSetType(const ColorSetType& other) { lmx::copy(k_class, this, &other); }
 ColorSetType::~ColorSetType() = default;
 ColorSetType& ColorSetType::operator=(const ColorSetType& other) { ColorSetType copy(other); swap(copy); return *this; }
+lmx::elmx_error ColorSetType::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
+lmx::elmx_error ColorSetType::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
 void ColorSetType::swap(ColorSetType& other) { lmx::swap(k_class, this, &other); }
 void ColorSetType::reset() { ColorSetType fresh; lmx::exchange(k_class, this, &fresh); }
 bool ColorSetType::is_occurs_ok() const { return lmx::is_occurs_ok(k_class, this); }
-lmx::elmx_error ColorSetType::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
-lmx::elmx_error ColorSetType::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
-void ColorSetType::marshal_attributes(lmx::c_xml_writer& writer) const { lmx::marshal_attributes(k_class, this, writer); }
-lmx::elmx_error ColorSetType::marshal_child_elements(lmx::c_xml_writer& writer) const { return lmx::marshal_child_elements(k_class, this, writer); }
-bool ColorSetType::unmarshal_attributes(lmx::c_xml_reader& reader, const std::string& name, lmx::elmx_error* error) { return lmx::unmarshal_attribute(k_class, this, reader, name, error); }
-lmx::elmx_error ColorSetType::unmarshal_attributes_check(lmx::c_xml_reader& reader) { return lmx::check_required_attributes(k_class, this, reader); }
-bool ColorSetType::unmarshal_body(lmx::c_xml_reader& reader, std::string* name, lmx::elmx_error* error) { return lmx::unmarshal_body(k_class, this, reader, name, error); }
 lmx::elmx_error ColorSetType::set_ColorSetName(const std::u16string& value) { return lmx::set_item(k_class, k_items[item_ColorSetName], this, value); }
 lmx::elmx_error ColorSetType::set_UniqueID(const std::u16string& value) { return lmx::set_item(k_class, k_items[item_UniqueID], this, value); }
 lmx::elmx_error ColorSetType::set_PartNumber(const std::u16string& value) { return lmx::set_item(k_class, k_items[item_PartNumber], this, value); }
@@ -418,14 +385,8 @@ constinit const s_item ColorType::k_items[] = {
 constinit const s_class ColorType::k_class = {
     .name = "ColorType",
     .qualified_name = "Vyr:ColorType",
-    .base = nullptr,
     .content = content_kind::children,
-    .may_be_empty = false,
     .ns_map = k_ns_map,
-    .nil_flag = k_no_flag,
-    .choice = k_no_flag,
-    .id = nullptr,
-    .xsi_type = nullptr,
     .attributes = std::span(k_items).first(std::size(k_ColorType_attributes) - 1),
     .elements = std::span(k_items).subspan(std::size(k_ColorType_attributes) - 1),
     .attribute_map = k_ColorType_attributes,
@@ -437,16 +398,11 @@ ColorType::ColorType() = default;
 ColorType::ColorType(const ColorType& other) { lmx::copy(k_class, this, &other); }
 ColorType::~ColorType() = default;
 ColorType& ColorType::operator=(const ColorType& other) { ColorType copy(other); swap(copy); return *this; }
+lmx::elmx_error ColorType::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
+lmx::elmx_error ColorType::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
 void ColorType::swap(ColorType& other) { lmx::swap(k_class, this, &other); }
 void ColorType::reset() { ColorType fresh; lmx::exchange(k_class, this, &fresh); }
 bool ColorType::is_occurs_ok() const { return lmx::is_occurs_ok(k_class, this); }
-lmx::elmx_error ColorType::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
-lmx::elmx_error ColorType::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
-void ColorType::marshal_attributes(lmx::c_xml_writer& writer) const { lmx::marshal_attributes(k_class, this, writer); }
-lmx::elmx_error ColorType::marshal_child_elements(lmx::c_xml_writer& writer) const { return lmx::marshal_child_elements(k_class, this, writer); }
-bool ColorType::unmarshal_attributes(lmx::c_xml_reader& reader, const std::string& name, lmx::elmx_error* error) { return lmx::unmarshal_attribute(k_class, this, reader, name, error); }
-lmx::elmx_error ColorType::unmarshal_attributes_check(lmx::c_xml_reader& reader) { return lmx::check_required_attributes(k_class, this, reader); }
-bool ColorType::unmarshal_body(lmx::c_xml_reader& reader, std::string* name, lmx::elmx_error* error) { return lmx::unmarshal_body(k_class, this, reader, name, error); }
 lmx::elmx_error ColorType::set_ColorName(const std::u16string& value) { return lmx::set_item(k_class, k_items[item_ColorName], this, value); }
 lmx::elmx_error ColorType::set_UniqueID(const std::u16string& value) { return lmx::set_item(k_class, k_items[item_UniqueID], this, value); }
 lmx::elmx_error ColorType::set_ColorNumber(const std::u16string& value) { return lmx::set_item(k_class, k_items[item_ColorNumber], this, value); }
@@ -486,22 +442,19 @@ void ColorType::clear_TagValues() { m_TagValues.clear(); }
 
 // CollectionColorSpaceSpecification
 
-lmx::elmx_error CollectionColorSpaceSpecification::marshal(lmx::c_xml_writer& writer, const char* name) const {
-    writer.conditionally_select_ns_map(k_ns_map);
-    return CollectionColorSpaceSpecificationType::marshal(writer, name);
-}
-lmx::elmx_error CollectionColorSpaceSpecification::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return CollectionColorSpaceSpecificationType::unmarshal(reader, name); }
 constinit const lmx::s_document CollectionColorSpaceSpecification::k_document = {"Vyr:CollectionColorSpaceSpecification", "CollectionColorSpaceSpecification", k_ns_map, &lmx::k_operations<CollectionColorSpaceSpecification>};
-const lmx::s_ns_map* CollectionColorSpaceSpecification::ns_map() { return k_ns_map; }
-lmx::elmx_error CollectionColorSpaceSpecification::unmarshal(lmx::c_xml_reader& reader) { return lmx::unmarshal_document(k_document, this, reader); }
 CollectionColorSpaceSpecification::CollectionColorSpaceSpecification(const char* file_name, lmx::elmx_error* error) : CollectionColorSpaceSpecification() { *error = unmarshal(file_name); }
-lmx::elmx_error CollectionColorSpaceSpecification::unmarshal(const char* file_name) { return lmx::unmarshal_document(k_document, this, file_name); }
 CollectionColorSpaceSpecification::CollectionColorSpaceSpecification(const char* data, std::size_t size, lmx::elmx_error* error) : CollectionColorSpaceSpecification() { *error = unmarshal(data, size); }
-lmx::elmx_error CollectionColorSpaceSpecification::unmarshal(const char* data, std::size_t size) { return lmx::unmarshal_document(k_document, this, data, size); }
 CollectionColorSpaceSpecification::CollectionColorSpaceSpecification(const std::string& text, lmx::elmx_error* error) : CollectionColorSpaceSpecification() { *error = unmarshal(text.data(), text.size()); }
+const lmx::s_ns_map* CollectionColorSpaceSpecification::ns_map() { return k_ns_map; }
+lmx::elmx_error CollectionColorSpaceSpecification::unmarshal(const char* file_name) { return lmx::unmarshal_document(k_document, this, file_name); }
+lmx::elmx_error CollectionColorSpaceSpecification::unmarshal(const char* data, std::size_t size) { return lmx::unmarshal_document(k_document, this, data, size); }
 lmx::elmx_error CollectionColorSpaceSpecification::unmarshal(const std::string& text) { return lmx::unmarshal_document(k_document, this, text.data(), text.size()); }
+lmx::elmx_error CollectionColorSpaceSpecification::unmarshal(lmx::c_xml_reader& reader) { return lmx::unmarshal_document(k_document, this, reader); }
 lmx::elmx_error CollectionColorSpaceSpecification::marshal(const char* file_name) const { return lmx::marshal_document(k_document, this, file_name); }
 lmx::elmx_error CollectionColorSpaceSpecification::marshal(std::string* text) const { return lmx::marshal_document(k_document, this, text); }
 lmx::elmx_error CollectionColorSpaceSpecification::marshal(std::ostream& stream) const { return lmx::marshal_document(k_document, this, stream); }
+lmx::elmx_error CollectionColorSpaceSpecification::marshal(lmx::c_xml_writer& writer, const char* name) const { writer.conditionally_select_ns_map(k_ns_map); return CollectionColorSpaceSpecificationType::marshal(writer, name); }
+lmx::elmx_error CollectionColorSpaceSpecification::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return CollectionColorSpaceSpecificationType::unmarshal(reader, name); }
 
 }  // namespace com_vyrgraph_v2

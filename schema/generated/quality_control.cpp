@@ -47,15 +47,8 @@ constinit const s_item LimitsType::k_items[] = {
 constinit const s_class LimitsType::k_class = {
     .name = "LimitsType",
     .qualified_name = "Vyr:LimitsType",
-    .base = nullptr,
     .content = content_kind::children,
-    .may_be_empty = false,
     .ns_map = k_ns_map,
-    .nil_flag = k_no_flag,
-    .choice = k_no_flag,
-    .id = nullptr,
-    .xsi_type = nullptr,
-    .attributes = std::span(k_items).first(std::size(k_no_events) - 1),
     .elements = std::span(k_items).subspan(std::size(k_no_events) - 1),
     .attribute_map = k_no_events,
     .element_map = k_LimitsType_elements,
@@ -66,16 +59,11 @@ LimitsType::LimitsType() = default;
 LimitsType::LimitsType(const LimitsType& other) { lmx::copy(k_class, this, &other); }
 LimitsType::~LimitsType() = default;
 LimitsType& LimitsType::operator=(const LimitsType& other) { LimitsType copy(other); swap(copy); return *this; }
+lmx::elmx_error LimitsType::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
+lmx::elmx_error LimitsType::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
 void LimitsType::swap(LimitsType& other) { lmx::swap(k_class, this, &other); }
 void LimitsType::reset() { LimitsType fresh; lmx::exchange(k_class, this, &fresh); }
 bool LimitsType::is_occurs_ok() const { return lmx::is_occurs_ok(k_class, this); }
-lmx::elmx_error LimitsType::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
-lmx::elmx_error LimitsType::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
-void LimitsType::marshal_attributes(lmx::c_xml_writer& writer) const { lmx::marshal_attributes(k_class, this, writer); }
-lmx::elmx_error LimitsType::marshal_child_elements(lmx::c_xml_writer& writer) const { return lmx::marshal_child_elements(k_class, this, writer); }
-bool LimitsType::unmarshal_attributes(lmx::c_xml_reader& reader, const std::string& name, lmx::elmx_error* error) { return lmx::unmarshal_attribute(k_class, this, reader, name, error); }
-lmx::elmx_error LimitsType::unmarshal_attributes_check(lmx::c_xml_reader& reader) { return lmx::check_required_attributes(k_class, this, reader); }
-bool LimitsType::unmarshal_body(lmx::c_xml_reader& reader, std::string* name, lmx::elmx_error* error) { return lmx::unmarshal_body(k_class, this, reader, name, error); }
 CustomAttributeType& LimitsType::get_CustomAttribute(std::size_t index) { return m_CustomAttribute.grow_to(index); }
 CustomAttributeType& LimitsType::assign_CustomAttribute(std::size_t index, const CustomAttributeType& value) { return get_CustomAttribute(index) = value; }
 lmx::elmx_error LimitsType::append_CustomAttribute() { m_CustomAttribute.append(); return lmx::ELMX_OK; }
@@ -154,14 +142,8 @@ constinit const s_item ToleranceType::k_items[] = {
 constinit const s_class ToleranceType::k_class = {
     .name = "ToleranceType",
     .qualified_name = "Vyr:ToleranceType",
-    .base = nullptr,
     .content = content_kind::children,
-    .may_be_empty = false,
     .ns_map = k_ns_map,
-    .nil_flag = k_no_flag,
-    .choice = k_no_flag,
-    .id = nullptr,
-    .xsi_type = nullptr,
     .attributes = std::span(k_items).first(std::size(k_ToleranceType_attributes) - 1),
     .elements = std::span(k_items).subspan(std::size(k_ToleranceType_attributes) - 1),
     .attribute_map = k_ToleranceType_attributes,
@@ -173,16 +155,11 @@ ToleranceType::ToleranceType() = default;
 ToleranceType::ToleranceType(const ToleranceType& other) { lmx::copy(k_class, this, &other); }
 ToleranceType::~ToleranceType() = default;
 ToleranceType& ToleranceType::operator=(const ToleranceType& other) { ToleranceType copy(other); swap(copy); return *this; }
+lmx::elmx_error ToleranceType::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
+lmx::elmx_error ToleranceType::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
 void ToleranceType::swap(ToleranceType& other) { lmx::swap(k_class, this, &other); }
 void ToleranceType::reset() { ToleranceType fresh; lmx::exchange(k_class, this, &fresh); }
 bool ToleranceType::is_occurs_ok() const { return lmx::is_occurs_ok(k_class, this); }
-lmx::elmx_error ToleranceType::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
-lmx::elmx_error ToleranceType::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
-void ToleranceType::marshal_attributes(lmx::c_xml_writer& writer) const { lmx::marshal_attributes(k_class, this, writer); }
-lmx::elmx_error ToleranceType::marshal_child_elements(lmx::c_xml_writer& writer) const { return lmx::marshal_child_elements(k_class, this, writer); }
-bool ToleranceType::unmarshal_attributes(lmx::c_xml_reader& reader, const std::string& name, lmx::elmx_error* error) { return lmx::unmarshal_attribute(k_class, this, reader, name, error); }
-lmx::elmx_error ToleranceType::unmarshal_attributes_check(lmx::c_xml_reader& reader) { return lmx::check_required_attributes(k_class, this, reader); }
-bool ToleranceType::unmarshal_body(lmx::c_xml_reader& reader, std::string* name, lmx::elmx_error* error) { return lmx::unmarshal_body(k_class, this, reader, name, error); }
 lmx::elmx_error ToleranceType::set_Name(const std::u16string& value) { return lmx::set_item(k_class, k_items[item_Name], this, value); }
 CustomAttributeType& ToleranceType::get_CustomAttribute(std::size_t index) { return m_CustomAttribute.grow_to(index); }
 CustomAttributeType& ToleranceType::assign_CustomAttribute(std::size_t index, const CustomAttributeType& value) { return get_CustomAttribute(index) = value; }
@@ -228,15 +205,8 @@ constinit const s_item Process::k_items[] = {
 constinit const s_class Process::k_class = {
     .name = "Process",
     .qualified_name = "Vyr:Process",
-    .base = nullptr,
     .content = content_kind::children,
     .may_be_empty = true,
-    .ns_map = nullptr,
-    .nil_flag = k_no_flag,
-    .choice = k_no_flag,
-    .id = nullptr,
-    .xsi_type = nullptr,
-    .attributes = std::span(k_items).first(std::size(k_no_events) - 1),
     .elements = std::span(k_items).subspan(std::size(k_no_events) - 1),
     .attribute_map = k_no_events,
     .element_map = k_Process_elements,
@@ -247,16 +217,11 @@ Process::Process() = default;
 Process::Process(const Process& other) { lmx::copy(k_class, this, &other); }
 Process::~Process() = default;
 Process& Process::operator=(const Process& other) { Process copy(other); swap(copy); return *this; }
+lmx::elmx_error Process::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
+lmx::elmx_error Process::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
 void Process::swap(Process& other) { lmx::swap(k_class, this, &other); }
 void Process::reset() { Process fresh; lmx::exchange(k_class, this, &fresh); }
 bool Process::is_occurs_ok() const { return lmx::is_occurs_ok(k_class, this); }
-lmx::elmx_error Process::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
-lmx::elmx_error Process::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
-void Process::marshal_attributes(lmx::c_xml_writer& writer) const { lmx::marshal_attributes(k_class, this, writer); }
-lmx::elmx_error Process::marshal_child_elements(lmx::c_xml_writer& writer) const { return lmx::marshal_child_elements(k_class, this, writer); }
-bool Process::unmarshal_attributes(lmx::c_xml_reader& reader, const std::string& name, lmx::elmx_error* error) { return lmx::unmarshal_attribute(k_class, this, reader, name, error); }
-lmx::elmx_error Process::unmarshal_attributes_check(lmx::c_xml_reader& reader) { return lmx::check_required_attributes(k_class, this, reader); }
-bool Process::unmarshal_body(lmx::c_xml_reader& reader, std::string* name, lmx::elmx_error* error) { return lmx::unmarshal_body(k_class, this, reader, name, error); }
 lmx::elmx_error Process::set_Name(const std::u16string& value) { return lmx::set_item(k_class, k_items[item_Name], this, value); }
 lmx::elmx_error Process::set_Thickness(double value) { return lmx::set_item(k_class, k_items[item_Thickness], this, value); }
 
@@ -286,15 +251,8 @@ constinit const s_item PhysicalSampleType::k_items[] = {
 constinit const s_class PhysicalSampleType::k_class = {
     .name = "PhysicalSampleType",
     .qualified_name = "Vyr:PhysicalSampleType",
-    .base = nullptr,
     .content = content_kind::children,
-    .may_be_empty = false,
     .ns_map = k_ns_map,
-    .nil_flag = k_no_flag,
-    .choice = k_no_flag,
-    .id = nullptr,
-    .xsi_type = nullptr,
-    .attributes = std::span(k_items).first(std::size(k_no_events) - 1),
     .elements = std::span(k_items).subspan(std::size(k_no_events) - 1),
     .attribute_map = k_no_events,
     .element_map = k_PhysicalSampleType_elements,
@@ -305,16 +263,11 @@ PhysicalSampleType::PhysicalSampleType() = default;
 PhysicalSampleType::PhysicalSampleType(const PhysicalSampleType& other) { lmx::copy(k_class, this, &other); }
 PhysicalSampleType::~PhysicalSampleType() = default;
 PhysicalSampleType& PhysicalSampleType::operator=(const PhysicalSampleType& other) { PhysicalSampleType copy(other); swap(copy); return *this; }
+lmx::elmx_error PhysicalSampleType::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
+lmx::elmx_error PhysicalSampleType::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
 void PhysicalSampleType::swap(PhysicalSampleType& other) { lmx::swap(k_class, this, &other); }
 void PhysicalSampleType::reset() { PhysicalSampleType fresh; lmx::exchange(k_class, this, &fresh); }
 bool PhysicalSampleType::is_occurs_ok() const { return lmx::is_occurs_ok(k_class, this); }
-lmx::elmx_error PhysicalSampleType::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
-lmx::elmx_error PhysicalSampleType::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
-void PhysicalSampleType::marshal_attributes(lmx::c_xml_writer& writer) const { lmx::marshal_attributes(k_class, this, writer); }
-lmx::elmx_error PhysicalSampleType::marshal_child_elements(lmx::c_xml_writer& writer) const { return lmx::marshal_child_elements(k_class, this, writer); }
-bool PhysicalSampleType::unmarshal_attributes(lmx::c_xml_reader& reader, const std::string& name, lmx::elmx_error* error) { return lmx::unmarshal_attribute(k_class, this, reader, name, error); }
-lmx::elmx_error PhysicalSampleType::unmarshal_attributes_check(lmx::c_xml_reader& reader) { return lmx::check_required_attributes(k_class, this, reader); }
-bool PhysicalSampleType::unmarshal_body(lmx::c_xml_reader& reader, std::string* name, lmx::elmx_error* error) { return lmx::unmarshal_body(k_class, this, reader, name, error); }
 CustomAttributeType& PhysicalSampleType::get_CustomAttribute(std::size_t index) { return m_CustomAttribute.grow_to(index); }
 CustomAttributeType& PhysicalSampleType::assign_CustomAttribute(std::size_t index, const CustomAttributeType& value) { return get_CustomAttribute(index) = value; }
 lmx::elmx_error PhysicalSampleType::append_CustomAttribute() { m_CustomAttribute.append(); return lmx::ELMX_OK; }
@@ -370,14 +323,8 @@ constinit const s_item ColorQualityControlType::k_items[] = {
 constinit const s_class ColorQualityControlType::k_class = {
     .name = "ColorQualityControlType",
     .qualified_name = "Vyr:ColorQualityControlType",
-    .base = nullptr,
     .content = content_kind::children,
-    .may_be_empty = false,
     .ns_map = k_ns_map,
-    .nil_flag = k_no_flag,
-    .choice = k_no_flag,
-    .id = nullptr,
-    .xsi_type = nullptr,
     .attributes = std::span(k_items).first(std::size(k_ColorQualityControlType_attributes) - 1),
     .elements = std::span(k_items).subspan(std::size(k_ColorQualityControlType_attributes) - 1),
     .attribute_map = k_ColorQualityControlType_attributes,
@@ -389,16 +336,11 @@ ColorQualityControlType::ColorQualityControlType() = default;
 ColorQualityControlType::ColorQualityControlType(const ColorQualityControlType& other) { lmx::copy(k_class, this, &other); }
 ColorQualityControlType::~ColorQualityControlType() = default;
 ColorQualityControlType& ColorQualityControlType::operator=(const ColorQualityControlType& other) { ColorQualityControlType copy(other); swap(copy); return *this; }
+lmx::elmx_error ColorQualityControlType::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
+lmx::elmx_error ColorQualityControlType::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
 void ColorQualityControlType::swap(ColorQualityControlType& other) { lmx::swap(k_class, this, &other); }
 void ColorQualityControlType::reset() { ColorQualityControlType fresh; lmx::exchange(k_class, this, &fresh); }
 bool ColorQualityControlType::is_occurs_ok() const { return lmx::is_occurs_ok(k_class, this); }
-lmx::elmx_error ColorQualityControlType::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
-lmx::elmx_error ColorQualityControlType::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
-void ColorQualityControlType::marshal_attributes(lmx::c_xml_writer& writer) const { lmx::marshal_attributes(k_class, this, writer); }
-lmx::elmx_error ColorQualityControlType::marshal_child_elements(lmx::c_xml_writer& writer) const { return lmx::marshal_child_elements(k_class, this, writer); }
-bool ColorQualityControlType::unmarshal_attributes(lmx::c_xml_reader& reader, const std::string& name, lmx::elmx_error* error) { return lmx::unmarshal_attribute(k_class, this, reader, name, error); }
-lmx::elmx_error ColorQualityControlType::unmarshal_attributes_check(lmx::c_xml_reader& reader) { return lmx::check_required_attributes(k_class, this, reader); }
-bool ColorQualityControlType::unmarshal_body(lmx::c_xml_reader& reader, std::string* name, lmx::elmx_error* error) { return lmx::unmarshal_body(k_class, this, reader, name, error); }
 lmx::elmx_error ColorQualityControlType::set_Name(const std::u16string& value) { return lmx::set_item(k_class, k_items[item_Name], this, value); }
 lmx::elmx_error ColorQualityControlType::set_Description(const std::u16string& value) { return lmx::set_item(k_class, k_items[item_Description], this, value); }
 lmx::elmx_error ColorQualityControlType::set_UniqueID(const std::u16string& value) { return lmx::set_item(k_class, k_items[item_UniqueID], this, value); }
@@ -472,47 +414,35 @@ constinit const s_item Measurement::k_items[] = {
 constinit const s_class Measurement::k_class = {
     .name = "Measurement",
     .qualified_name = "Vyr:Measurement",
-    .base = nullptr,
     .content = content_kind::children,
-    .may_be_empty = false,
     .ns_map = k_ns_map,
-    .nil_flag = k_no_flag,
-    .choice = k_no_flag,
-    .id = nullptr,
-    .xsi_type = nullptr,
-    .attributes = std::span(k_items).first(std::size(k_no_events) - 1),
     .elements = std::span(k_items).subspan(std::size(k_no_events) - 1),
     .attribute_map = k_no_events,
     .element_map = k_Measurement_elements,
     .operations = &k_operations<Measurement>,
 };
 
+constinit const lmx::s_document Measurement::k_document = {"Vyr:Measurement", "Measurement", k_ns_map, &lmx::k_operations<Measurement>};
 Measurement::Measurement() = default;
 Measurement::Measurement(const Measurement& other) { lmx::copy(k_class, this, &other); }
+Measurement::Measurement(const char* file_name, lmx::elmx_error* error) : Measurement() { *error = lmx::ELMX_UNDEFINED_ERROR; *error = unmarshal(file_name); }
+Measurement::Measurement(const char* data, std::size_t size, lmx::elmx_error* error) : Measurement() { *error = lmx::ELMX_UNDEFINED_ERROR; *error = unmarshal(data, size); }
+Measurement::Measurement(const std::string& text, lmx::elmx_error* error) : Measurement() { *error = lmx::ELMX_UNDEFINED_ERROR; *error = unmarshal(text.data(), text.size()); }
 Measurement::~Measurement() = default;
 Measurement& Measurement::operator=(const Measurement& other) { Measurement copy(other); swap(copy); return *this; }
-void Measurement::swap(Measurement& other) { lmx::swap(k_class, this, &other); }
-void Measurement::reset() { Measurement fresh; lmx::exchange(k_class, this, &fresh); }
-bool Measurement::is_occurs_ok() const { return lmx::is_occurs_ok(k_class, this); }
-lmx::elmx_error Measurement::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
-lmx::elmx_error Measurement::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
-void Measurement::marshal_attributes(lmx::c_xml_writer& writer) const { lmx::marshal_attributes(k_class, this, writer); }
-lmx::elmx_error Measurement::marshal_child_elements(lmx::c_xml_writer& writer) const { return lmx::marshal_child_elements(k_class, this, writer); }
-bool Measurement::unmarshal_attributes(lmx::c_xml_reader& reader, const std::string& name, lmx::elmx_error* error) { return lmx::unmarshal_attribute(k_class, this, reader, name, error); }
-lmx::elmx_error Measurement::unmarshal_attributes_check(lmx::c_xml_reader& reader) { return lmx::check_required_attributes(k_class, this, reader); }
-bool Measurement::unmarshal_body(lmx::c_xml_reader& reader, std::string* name, lmx::elmx_error* error) { return lmx::unmarshal_body(k_class, this, reader, name, error); }
-constinit const lmx::s_document Measurement::k_document = {"Vyr:Measurement", "Measurement", k_ns_map, &lmx::k_operations<Measurement>};
 const lmx::s_ns_map* Measurement::ns_map() { return k_ns_map; }
-lmx::elmx_error Measurement::unmarshal(lmx::c_xml_reader& reader) { return lmx::unmarshal_document(k_document, this, reader); }
-Measurement::Measurement(const char* file_name, lmx::elmx_error* error) : Measurement() { *error = lmx::ELMX_UNDEFINED_ERROR; *error = unmarshal(file_name); }
 lmx::elmx_error Measurement::unmarshal(const char* file_name) { return lmx::unmarshal_document(k_document, this, file_name); }
-Measurement::Measurement(const char* data, std::size_t size, lmx::elmx_error* error) : Measurement() { *error = lmx::ELMX_UNDEFINED_ERROR; *error = unmarshal(data, size); }
 lmx::elmx_error Measurement::unmarshal(const char* data, std::size_t size) { return lmx::unmarshal_document(k_document, this, data, size); }
-Measurement::Measurement(const std::string& text, lmx::elmx_error* error) : Measurement() { *error = lmx::ELMX_UNDEFINED_ERROR; *error = unmarshal(text.data(), text.size()); }
 lmx::elmx_error Measurement::unmarshal(const std::string& text) { return lmx::unmarshal_document(k_document, this, text.data(), text.size()); }
+lmx::elmx_error Measurement::unmarshal(lmx::c_xml_reader& reader) { return lmx::unmarshal_document(k_document, this, reader); }
 lmx::elmx_error Measurement::marshal(const char* file_name) const { return lmx::marshal_document(k_document, this, file_name); }
 lmx::elmx_error Measurement::marshal(std::string* text) const { return lmx::marshal_document(k_document, this, text); }
 lmx::elmx_error Measurement::marshal(std::ostream& stream) const { return lmx::marshal_document(k_document, this, stream); }
+lmx::elmx_error Measurement::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
+lmx::elmx_error Measurement::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
+void Measurement::swap(Measurement& other) { lmx::swap(k_class, this, &other); }
+void Measurement::reset() { Measurement fresh; lmx::exchange(k_class, this, &fresh); }
+bool Measurement::is_occurs_ok() const { return lmx::is_occurs_ok(k_class, this); }
 CustomAttributeType& Measurement::get_CustomAttribute(std::size_t index) { return m_CustomAttribute.grow_to(index); }
 CustomAttributeType& Measurement::assign_CustomAttribute(std::size_t index, const CustomAttributeType& value) { return get_CustomAttribute(index) = value; }
 lmx::elmx_error Measurement::append_CustomAttribute() { m_CustomAttribute.append(); return lmx::ELMX_OK; }
@@ -553,47 +483,36 @@ constinit const s_item Standard::k_items[] = {
 constinit const s_class Standard::k_class = {
     .name = "Standard",
     .qualified_name = "Vyr:Standard",
-    .base = nullptr,
     .content = content_kind::children,
-    .may_be_empty = false,
     .ns_map = k_ns_map,
     .nil_flag = LMX_FLAG(Standard, m_isnil),
-    .choice = k_no_flag,
-    .id = nullptr,
-    .xsi_type = nullptr,
-    .attributes = std::span(k_items).first(std::size(k_no_events) - 1),
     .elements = std::span(k_items).subspan(std::size(k_no_events) - 1),
     .attribute_map = k_no_events,
     .element_map = k_Standard_elements,
     .operations = &k_operations<Standard>,
 };
 
+constinit const lmx::s_document Standard::k_document = {"Vyr:Standard", "Standard", k_ns_map, &lmx::k_operations<Standard>};
 Standard::Standard() = default;
 Standard::Standard(const Standard& other) { lmx::copy(k_class, this, &other); }
+Standard::Standard(const char* file_name, lmx::elmx_error* error) : Standard() { *error = lmx::ELMX_UNDEFINED_ERROR; *error = unmarshal(file_name); }
+Standard::Standard(const char* data, std::size_t size, lmx::elmx_error* error) : Standard() { *error = lmx::ELMX_UNDEFINED_ERROR; *error = unmarshal(data, size); }
+Standard::Standard(const std::string& text, lmx::elmx_error* error) : Standard() { *error = lmx::ELMX_UNDEFINED_ERROR; *error = unmarshal(text.data(), text.size()); }
 Standard::~Standard() = default;
 Standard& Standard::operator=(const Standard& other) { Standard copy(other); swap(copy); return *this; }
-void Standard::swap(Standard& other) { lmx::swap(k_class, this, &other); }
-void Standard::reset() { Standard fresh; lmx::exchange(k_class, this, &fresh); }
-bool Standard::is_occurs_ok() const { return lmx::is_occurs_ok(k_class, this); }
-lmx::elmx_error Standard::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
-lmx::elmx_error Standard::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
-void Standard::marshal_attributes(lmx::c_xml_writer& writer) const { lmx::marshal_attributes(k_class, this, writer); }
-lmx::elmx_error Standard::marshal_child_elements(lmx::c_xml_writer& writer) const { return lmx::marshal_child_elements(k_class, this, writer); }
-bool Standard::unmarshal_attributes(lmx::c_xml_reader& reader, const std::string& name, lmx::elmx_error* error) { return lmx::unmarshal_attribute(k_class, this, reader, name, error); }
-lmx::elmx_error Standard::unmarshal_attributes_check(lmx::c_xml_reader& reader) { return lmx::check_required_attributes(k_class, this, reader); }
-bool Standard::unmarshal_body(lmx::c_xml_reader& reader, std::string* name, lmx::elmx_error* error) { return lmx::unmarshal_body(k_class, this, reader, name, error); }
-constinit const lmx::s_document Standard::k_document = {"Vyr:Standard", "Standard", k_ns_map, &lmx::k_operations<Standard>};
 const lmx::s_ns_map* Standard::ns_map() { return k_ns_map; }
-lmx::elmx_error Standard::unmarshal(lmx::c_xml_reader& reader) { return lmx::unmarshal_document(k_document, this, reader); }
-Standard::Standard(const char* file_name, lmx::elmx_error* error) : Standard() { *error = lmx::ELMX_UNDEFINED_ERROR; *error = unmarshal(file_name); }
 lmx::elmx_error Standard::unmarshal(const char* file_name) { return lmx::unmarshal_document(k_document, this, file_name); }
-Standard::Standard(const char* data, std::size_t size, lmx::elmx_error* error) : Standard() { *error = lmx::ELMX_UNDEFINED_ERROR; *error = unmarshal(data, size); }
 lmx::elmx_error Standard::unmarshal(const char* data, std::size_t size) { return lmx::unmarshal_document(k_document, this, data, size); }
-Standard::Standard(const std::string& text, lmx::elmx_error* error) : Standard() { *error = lmx::ELMX_UNDEFINED_ERROR; *error = unmarshal(text.data(), text.size()); }
 lmx::elmx_error Standard::unmarshal(const std::string& text) { return lmx::unmarshal_document(k_document, this, text.data(), text.size()); }
+lmx::elmx_error Standard::unmarshal(lmx::c_xml_reader& reader) { return lmx::unmarshal_document(k_document, this, reader); }
 lmx::elmx_error Standard::marshal(const char* file_name) const { return lmx::marshal_document(k_document, this, file_name); }
 lmx::elmx_error Standard::marshal(std::string* text) const { return lmx::marshal_document(k_document, this, text); }
 lmx::elmx_error Standard::marshal(std::ostream& stream) const { return lmx::marshal_document(k_document, this, stream); }
+lmx::elmx_error Standard::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
+lmx::elmx_error Standard::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
+void Standard::swap(Standard& other) { lmx::swap(k_class, this, &other); }
+void Standard::reset() { Standard fresh; lmx::exchange(k_class, this, &fresh); }
+bool Standard::is_occurs_ok() const { return lmx::is_occurs_ok(k_class, this); }
 CustomAttributeType& Standard::get_CustomAttribute(std::size_t index) { return m_CustomAttribute.grow_to(index); }
 CustomAttributeType& Standard::assign_CustomAttribute(std::size_t index, const CustomAttributeType& value) { return get_CustomAttribute(index) = value; }
 lmx::elmx_error Standard::append_CustomAttribute() { m_CustomAttribute.append(); return lmx::ELMX_OK; }
@@ -631,15 +550,8 @@ constinit const s_item StandardAndMeasurementType::k_items[] = {
 constinit const s_class StandardAndMeasurementType::k_class = {
     .name = "StandardAndMeasurementType",
     .qualified_name = "Vyr:StandardAndMeasurementType",
-    .base = nullptr,
     .content = content_kind::children,
-    .may_be_empty = false,
     .ns_map = k_ns_map,
-    .nil_flag = k_no_flag,
-    .choice = k_no_flag,
-    .id = nullptr,
-    .xsi_type = nullptr,
-    .attributes = std::span(k_items).first(std::size(k_no_events) - 1),
     .elements = std::span(k_items).subspan(std::size(k_no_events) - 1),
     .attribute_map = k_no_events,
     .element_map = k_StandardAndMeasurementType_elements,
@@ -650,16 +562,11 @@ StandardAndMeasurementType::StandardAndMeasurementType() = default;
 StandardAndMeasurementType::StandardAndMeasurementType(const StandardAndMeasurementType& other) { lmx::copy(k_class, this, &other); }
 StandardAndMeasurementType::~StandardAndMeasurementType() = default;
 StandardAndMeasurementType& StandardAndMeasurementType::operator=(const StandardAndMeasurementType& other) { StandardAndMeasurementType copy(other); swap(copy); return *this; }
+lmx::elmx_error StandardAndMeasurementType::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
+lmx::elmx_error StandardAndMeasurementType::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
 void StandardAndMeasurementType::swap(StandardAndMeasurementType& other) { lmx::swap(k_class, this, &other); }
 void StandardAndMeasurementType::reset() { StandardAndMeasurementType fresh; lmx::exchange(k_class, this, &fresh); }
 bool StandardAndMeasurementType::is_occurs_ok() const { return lmx::is_occurs_ok(k_class, this); }
-lmx::elmx_error StandardAndMeasurementType::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
-lmx::elmx_error StandardAndMeasurementType::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
-void StandardAndMeasurementType::marshal_attributes(lmx::c_xml_writer& writer) const { lmx::marshal_attributes(k_class, this, writer); }
-lmx::elmx_error StandardAndMeasurementType::marshal_child_elements(lmx::c_xml_writer& writer) const { return lmx::marshal_child_elements(k_class, this, writer); }
-bool StandardAndMeasurementType::unmarshal_attributes(lmx::c_xml_reader& reader, const std::string& name, lmx::elmx_error* error) { return lmx::unmarshal_attribute(k_class, this, reader, name, error); }
-lmx::elmx_error StandardAndMeasurementType::unmarshal_attributes_check(lmx::c_xml_reader& reader) { return lmx::check_required_attributes(k_class, this, reader); }
-bool StandardAndMeasurementType::unmarshal_body(lmx::c_xml_reader& reader, std::string* name, lmx::elmx_error* error) { return lmx::unmarshal_body(k_class, this, reader, name, error); }
 CustomAttributeType& StandardAndMeasurementType::get_CustomAttribute(std::size_t index) { return m_CustomAttribute.grow_to(index); }
 CustomAttributeType& StandardAndMeasurementType::assign_CustomAttribute(std::size_t index, const CustomAttributeType& value) { return get_CustomAttribute(index) = value; }
 lmx::elmx_error StandardAndMeasurementType::append_CustomAttribute() { m_CustomAttribute.append(); return lmx::ELMX_OK; }

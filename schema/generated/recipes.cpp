@@ -46,15 +46,7 @@ constinit const s_item ColorName::k_items[] = {
 constinit const s_class ColorName::k_class = {
     .name = "ColorName",
     .qualified_name = "Vyr:ColorName",
-    .base = nullptr,
     .content = content_kind::children,
-    .may_be_empty = false,
-    .ns_map = nullptr,
-    .nil_flag = k_no_flag,
-    .choice = k_no_flag,
-    .id = nullptr,
-    .xsi_type = nullptr,
-    .attributes = std::span(k_items).first(std::size(k_no_events) - 1),
     .elements = std::span(k_items).subspan(std::size(k_no_events) - 1),
     .attribute_map = k_no_events,
     .element_map = k_ColorName_elements,
@@ -65,16 +57,11 @@ ColorName::ColorName() = default;
 ColorName::ColorName(const ColorName& other) { lmx::copy(k_class, this, &other); }
 ColorName::~ColorName() = default;
 ColorName& ColorName::operator=(const ColorName& other) { ColorName copy(other); swap(copy); return *this; }
+lmx::elmx_error ColorName::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
+lmx::elmx_error ColorName::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
 void ColorName::swap(ColorName& other) { lmx::swap(k_class, this, &other); }
 void ColorName::reset() { ColorName fresh; lmx::exchange(k_class, this, &fresh); }
 bool ColorName::is_occurs_ok() const { return lmx::is_occurs_ok(k_class, this); }
-lmx::elmx_error ColorName::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
-lmx::elmx_error ColorName::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
-void ColorName::marshal_attributes(lmx::c_xml_writer& writer) const { lmx::marshal_attributes(k_class, this, writer); }
-lmx::elmx_error ColorName::marshal_child_elements(lmx::c_xml_writer& writer) const { return lmx::marshal_child_elements(k_class, this, writer); }
-bool ColorName::unmarshal_attributes(lmx::c_xml_reader& reader, const std::string& name, lmx::elmx_error* error) { return lmx::unmarshal_attribute(k_class, this, reader, name, error); }
-lmx::elmx_error ColorName::unmarshal_attributes_check(lmx::c_xml_reader& reader) { return lmx::check_required_attributes(k_class, this, reader); }
-bool ColorName::unmarshal_body(lmx::c_xml_reader& reader, std::string* name, lmx::elmx_error* error) { return lmx::unmarshal_body(k_class, this, reader, name, error); }
 lmx::elmx_error ColorName::set_PrefixName(const std::u16string& value) { return lmx::set_item(k_class, k_items[item_PrefixName], this, value); }
 lmx::elmx_error ColorName::set_BaseName(const std::u16string& value) { return lmx::set_item(k_class, k_items[item_BaseName], this, value); }
 lmx::elmx_error ColorName::set_SuffixName(const std::u16string& value) { return lmx::set_item(k_class, k_items[item_SuffixName], this, value); }
@@ -95,15 +82,8 @@ constinit const s_item Recipe::k_items[] = {
 constinit const s_class Recipe::k_class = {
     .name = "Recipe",
     .qualified_name = "Vyr:Recipe",
-    .base = nullptr,
     .content = content_kind::children,
     .may_be_empty = true,
-    .ns_map = nullptr,
-    .nil_flag = k_no_flag,
-    .choice = k_no_flag,
-    .id = nullptr,
-    .xsi_type = nullptr,
-    .attributes = std::span(k_items).first(std::size(k_no_events) - 1),
     .elements = std::span(k_items).subspan(std::size(k_no_events) - 1),
     .attribute_map = k_no_events,
     .element_map = k_Recipe_elements,
@@ -114,16 +94,11 @@ Recipe::Recipe() = default;
 Recipe::Recipe(const Recipe& other) { lmx::copy(k_class, this, &other); }
 Recipe::~Recipe() = default;
 Recipe& Recipe::operator=(const Recipe& other) { Recipe copy(other); swap(copy); return *this; }
+lmx::elmx_error Recipe::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
+lmx::elmx_error Recipe::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
 void Recipe::swap(Recipe& other) { lmx::swap(k_class, this, &other); }
 void Recipe::reset() { Recipe fresh; lmx::exchange(k_class, this, &fresh); }
 bool Recipe::is_occurs_ok() const { return lmx::is_occurs_ok(k_class, this); }
-lmx::elmx_error Recipe::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
-lmx::elmx_error Recipe::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
-void Recipe::marshal_attributes(lmx::c_xml_writer& writer) const { lmx::marshal_attributes(k_class, this, writer); }
-lmx::elmx_error Recipe::marshal_child_elements(lmx::c_xml_writer& writer) const { return lmx::marshal_child_elements(k_class, this, writer); }
-bool Recipe::unmarshal_attributes(lmx::c_xml_reader& reader, const std::string& name, lmx::elmx_error* error) { return lmx::unmarshal_attribute(k_class, this, reader, name, error); }
-lmx::elmx_error Recipe::unmarshal_attributes_check(lmx::c_xml_reader& reader) { return lmx::check_required_attributes(k_class, this, reader); }
-bool Recipe::unmarshal_body(lmx::c_xml_reader& reader, std::string* name, lmx::elmx_error* error) { return lmx::unmarshal_body(k_class, this, reader, name, error); }
 ColorantElement& Recipe::get_ColorantElement(std::size_t index) { return m_ColorantElement.grow_to(index); }
 ColorantElement& Recipe::assign_ColorantElement(std::size_t index, const ColorantElement& value) { return get_ColorantElement(index) = value; }
 lmx::elmx_error Recipe::append_ColorantElement() { m_ColorantElement.append(); return lmx::ELMX_OK; }
@@ -170,10 +145,7 @@ constinit const s_class ColorSpaceTINTORAType::k_class = {
     .qualified_name = "Vyr:ColorSpaceTINTORAType",
     .base = &ColorSpaceType::k_class,
     .content = content_kind::children,
-    .may_be_empty = false,
     .ns_map = k_ns_map,
-    .nil_flag = k_no_flag,
-    .choice = k_no_flag,
     .id = &ColorSpaceTINTORAType::id,
     .xsi_type = "Vyr:ColorSpaceTINTORAType",
     .attributes = std::span(k_items).first(std::size(k_ColorSpaceTINTORAType_attributes) - 1),
@@ -183,25 +155,20 @@ constinit const s_class ColorSpaceTINTORAType::k_class = {
     .operations = &k_operations<ColorSpaceTINTORAType>,
 };
 
+namespace { const char k_ColorSpaceTINTORAType_id[] = "ColorSpaceTINTORAType"; }
+const char* ColorSpaceTINTORAType::id = k_ColorSpaceTINTORAType_id;
 ColorSpaceTINTORAType::ColorSpaceTINTORAType() = default;
 ColorSpaceTINTORAType::ColorSpaceTINTORAType(const ColorSpaceTINTORAType& other) : ColorSpaceType() { lmx::copy(k_class, this, &other); }
+ColorSpaceTINTORAType* ColorSpaceTINTORAType::clone() const { return new ColorSpaceTINTORAType(*this); }
 ColorSpaceTINTORAType::~ColorSpaceTINTORAType() = default;
 ColorSpaceTINTORAType& ColorSpaceTINTORAType::operator=(const ColorSpaceTINTORAType& other) { ColorSpaceTINTORAType copy(other); swap(copy); return *this; }
+const char* ColorSpaceTINTORAType::getid() const { return id; }
+bool ColorSpaceTINTORAType::has_id(const char* identity) const { return identity == id || ColorSpaceType::has_id(identity); }
+lmx::elmx_error ColorSpaceTINTORAType::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
+lmx::elmx_error ColorSpaceTINTORAType::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
 void ColorSpaceTINTORAType::swap(ColorSpaceTINTORAType& other) { lmx::swap(k_class, this, &other); }
 void ColorSpaceTINTORAType::reset() { ColorSpaceTINTORAType fresh; lmx::exchange(k_class, this, &fresh); }
 bool ColorSpaceTINTORAType::is_occurs_ok() const { return lmx::is_occurs_ok(k_class, this); }
-lmx::elmx_error ColorSpaceTINTORAType::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
-lmx::elmx_error ColorSpaceTINTORAType::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
-void ColorSpaceTINTORAType::marshal_attributes(lmx::c_xml_writer& writer) const { lmx::marshal_attributes(k_class, this, writer); }
-lmx::elmx_error ColorSpaceTINTORAType::marshal_child_elements(lmx::c_xml_writer& writer) const { return lmx::marshal_child_elements(k_class, this, writer); }
-bool ColorSpaceTINTORAType::unmarshal_attributes(lmx::c_xml_reader& reader, const std::string& name, lmx::elmx_error* error) { return lmx::unmarshal_attribute(k_class, this, reader, name, error); }
-lmx::elmx_error ColorSpaceTINTORAType::unmarshal_attributes_check(lmx::c_xml_reader& reader) { return lmx::check_required_attributes(k_class, this, reader); }
-bool ColorSpaceTINTORAType::unmarshal_body(lmx::c_xml_reader& reader, std::string* name, lmx::elmx_error* error) { return lmx::unmarshal_body(k_class, this, reader, name, error); }
-namespace { const char k_ColorSpaceTINTORAType_id[] = "ColorSpaceTINTORAType"; }
-const char* ColorSpaceTINTORAType::id = k_ColorSpaceTINTORAType_id;
-ColorSpaceTINTORAType* ColorSpaceTINTORAType::clone() const { return new ColorSpaceTINTORAType(*this); }
-const char* ColorSpaceTINTORAType::getid() const { return id; }
-bool ColorSpaceTINTORAType::has_id(const char* identity) const { return identity == id || ColorSpaceType::has_id(identity); }
 lmx::elmx_error ColorSpaceTINTORAType::set_Name(const std::u16string& value) { return lmx::set_item(k_class, k_items[item_Name], this, value); }
 lmx::elmx_error ColorSpaceTINTORAType::set_FamilyName(const std::u16string& value) { return lmx::set_item(k_class, k_items[item_FamilyName], this, value); }
 ColorName& ColorSpaceTINTORAType::assign_ColorName(const ColorName& value) { return get_ColorName() = value; }
@@ -246,15 +213,7 @@ constinit const s_item Colorant::k_items[] = {
 constinit const s_class Colorant::k_class = {
     .name = "Colorant",
     .qualified_name = "Vyr:Colorant",
-    .base = nullptr,
     .content = content_kind::children,
-    .may_be_empty = false,
-    .ns_map = nullptr,
-    .nil_flag = k_no_flag,
-    .choice = k_no_flag,
-    .id = nullptr,
-    .xsi_type = nullptr,
-    .attributes = std::span(k_items).first(std::size(k_no_events) - 1),
     .elements = std::span(k_items).subspan(std::size(k_no_events) - 1),
     .attribute_map = k_no_events,
     .element_map = k_Colorant_elements,
@@ -265,16 +224,11 @@ Colorant::Colorant() = default;
 Colorant::Colorant(const Colorant& other) { lmx::copy(k_class, this, &other); }
 Colorant::~Colorant() = default;
 Colorant& Colorant::operator=(const Colorant& other) { Colorant copy(other); swap(copy); return *this; }
+lmx::elmx_error Colorant::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
+lmx::elmx_error Colorant::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
 void Colorant::swap(Colorant& other) { lmx::swap(k_class, this, &other); }
 void Colorant::reset() { Colorant fresh; lmx::exchange(k_class, this, &fresh); }
 bool Colorant::is_occurs_ok() const { return lmx::is_occurs_ok(k_class, this); }
-lmx::elmx_error Colorant::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
-lmx::elmx_error Colorant::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
-void Colorant::marshal_attributes(lmx::c_xml_writer& writer) const { lmx::marshal_attributes(k_class, this, writer); }
-lmx::elmx_error Colorant::marshal_child_elements(lmx::c_xml_writer& writer) const { return lmx::marshal_child_elements(k_class, this, writer); }
-bool Colorant::unmarshal_attributes(lmx::c_xml_reader& reader, const std::string& name, lmx::elmx_error* error) { return lmx::unmarshal_attribute(k_class, this, reader, name, error); }
-lmx::elmx_error Colorant::unmarshal_attributes_check(lmx::c_xml_reader& reader) { return lmx::check_required_attributes(k_class, this, reader); }
-bool Colorant::unmarshal_body(lmx::c_xml_reader& reader, std::string* name, lmx::elmx_error* error) { return lmx::unmarshal_body(k_class, this, reader, name, error); }
 CustomAttributes& Colorant::get_CustomAttributes(std::size_t index) { return m_CustomAttributes.grow_to(index); }
 CustomAttributes& Colorant::assign_CustomAttributes(std::size_t index, const CustomAttributes& value) { return get_CustomAttributes(index) = value; }
 lmx::elmx_error Colorant::append_CustomAttributes() { m_CustomAttributes.append(); return lmx::ELMX_OK; }
@@ -305,15 +259,7 @@ constinit const s_item ColorantElement::k_items[] = {
 constinit const s_class ColorantElement::k_class = {
     .name = "ColorantElement",
     .qualified_name = "Vyr:ColorantElement",
-    .base = nullptr,
     .content = content_kind::children,
-    .may_be_empty = false,
-    .ns_map = nullptr,
-    .nil_flag = k_no_flag,
-    .choice = k_no_flag,
-    .id = nullptr,
-    .xsi_type = nullptr,
-    .attributes = std::span(k_items).first(std::size(k_no_events) - 1),
     .elements = std::span(k_items).subspan(std::size(k_no_events) - 1),
     .attribute_map = k_no_events,
     .element_map = k_ColorantElement_elements,
@@ -324,16 +270,11 @@ ColorantElement::ColorantElement() = default;
 ColorantElement::ColorantElement(const ColorantElement& other) { lmx::copy(k_class, this, &other); }
 ColorantElement::~ColorantElement() = default;
 ColorantElement& ColorantElement::operator=(const ColorantElement& other) { ColorantElement copy(other); swap(copy); return *this; }
+lmx::elmx_error ColorantElement::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
+lmx::elmx_error ColorantElement::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
 void ColorantElement::swap(ColorantElement& other) { lmx::swap(k_class, this, &other); }
 void ColorantElement::reset() { ColorantElement fresh; lmx::exchange(k_class, this, &fresh); }
 bool ColorantElement::is_occurs_ok() const { return lmx::is_occurs_ok(k_class, this); }
-lmx::elmx_error ColorantElement::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
-lmx::elmx_error ColorantElement::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
-void ColorantElement::marshal_attributes(lmx::c_xml_writer& writer) const { lmx::marshal_attributes(k_class, this, writer); }
-lmx::elmx_error ColorantElement::marshal_child_elements(lmx::c_xml_writer& writer) const { return lmx::marshal_child_elements(k_class, this, writer); }
-bool ColorantElement::unmarshal_attributes(lmx::c_xml_reader& reader, const std::string& name, lmx::elmx_error* error) { return lmx::unmarshal_attribute(k_class, this, reader, name, error); }
-lmx::elmx_error ColorantElement::unmarshal_attributes_check(lmx::c_xml_reader& reader) { return lmx::check_required_attributes(k_class, this, reader); }
-bool ColorantElement::unmarshal_body(lmx::c_xml_reader& reader, std::string* name, lmx::elmx_error* error) { return lmx::unmarshal_body(k_class, this, reader, name, error); }
 Colorant& ColorantElement::assign_Colorant(const Colorant& value) { return get_Colorant() = value; }
 lmx::elmx_error ColorantElement::set_Contribution(double value) { return lmx::set_item(k_class, k_items[item_Contribution], this, value); }
 
@@ -353,15 +294,8 @@ constinit const s_item CustomAttributes::k_items[] = {
 constinit const s_class CustomAttributes::k_class = {
     .name = "CustomAttributes",
     .qualified_name = "Vyr:CustomAttributes",
-    .base = nullptr,
     .content = content_kind::children,
     .may_be_empty = true,
-    .ns_map = nullptr,
-    .nil_flag = k_no_flag,
-    .choice = k_no_flag,
-    .id = nullptr,
-    .xsi_type = nullptr,
-    .attributes = std::span(k_items).first(std::size(k_no_events) - 1),
     .elements = std::span(k_items).subspan(std::size(k_no_events) - 1),
     .attribute_map = k_no_events,
     .element_map = k_CustomAttributes_elements,
@@ -372,16 +306,11 @@ CustomAttributes::CustomAttributes() = default;
 CustomAttributes::CustomAttributes(const CustomAttributes& other) { lmx::copy(k_class, this, &other); }
 CustomAttributes::~CustomAttributes() = default;
 CustomAttributes& CustomAttributes::operator=(const CustomAttributes& other) { CustomAttributes copy(other); swap(copy); return *this; }
+lmx::elmx_error CustomAttributes::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
+lmx::elmx_error CustomAttributes::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
 void CustomAttributes::swap(CustomAttributes& other) { lmx::swap(k_class, this, &other); }
 void CustomAttributes::reset() { CustomAttributes fresh; lmx::exchange(k_class, this, &fresh); }
 bool CustomAttributes::is_occurs_ok() const { return lmx::is_occurs_ok(k_class, this); }
-lmx::elmx_error CustomAttributes::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
-lmx::elmx_error CustomAttributes::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
-void CustomAttributes::marshal_attributes(lmx::c_xml_writer& writer) const { lmx::marshal_attributes(k_class, this, writer); }
-lmx::elmx_error CustomAttributes::marshal_child_elements(lmx::c_xml_writer& writer) const { return lmx::marshal_child_elements(k_class, this, writer); }
-bool CustomAttributes::unmarshal_attributes(lmx::c_xml_reader& reader, const std::string& name, lmx::elmx_error* error) { return lmx::unmarshal_attribute(k_class, this, reader, name, error); }
-lmx::elmx_error CustomAttributes::unmarshal_attributes_check(lmx::c_xml_reader& reader) { return lmx::check_required_attributes(k_class, this, reader); }
-bool CustomAttributes::unmarshal_body(lmx::c_xml_reader& reader, std::string* name, lmx::elmx_error* error) { return lmx::unmarshal_body(k_class, this, reader, name, error); }
 CustomAttributeType& CustomAttributes::assign_CustomAttribute(const CustomAttributeType& value) { return get_CustomAttribute() = value; }
 
 // ColorAndFinish
@@ -403,15 +332,8 @@ constinit const s_item ColorAndFinish::k_items[] = {
 constinit const s_class ColorAndFinish::k_class = {
     .name = "ColorAndFinish",
     .qualified_name = "Vyr:ColorAndFinish",
-    .base = nullptr,
     .content = content_kind::children,
     .may_be_empty = true,
-    .ns_map = nullptr,
-    .nil_flag = k_no_flag,
-    .choice = k_no_flag,
-    .id = nullptr,
-    .xsi_type = nullptr,
-    .attributes = std::span(k_items).first(std::size(k_no_events) - 1),
     .elements = std::span(k_items).subspan(std::size(k_no_events) - 1),
     .attribute_map = k_no_events,
     .element_map = k_ColorAndFinish_elements,
@@ -422,16 +344,11 @@ ColorAndFinish::ColorAndFinish() = default;
 ColorAndFinish::ColorAndFinish(const ColorAndFinish& other) { lmx::copy(k_class, this, &other); }
 ColorAndFinish::~ColorAndFinish() = default;
 ColorAndFinish& ColorAndFinish::operator=(const ColorAndFinish& other) { ColorAndFinish copy(other); swap(copy); return *this; }
+lmx::elmx_error ColorAndFinish::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
+lmx::elmx_error ColorAndFinish::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
 void ColorAndFinish::swap(ColorAndFinish& other) { lmx::swap(k_class, this, &other); }
 void ColorAndFinish::reset() { ColorAndFinish fresh; lmx::exchange(k_class, this, &fresh); }
 bool ColorAndFinish::is_occurs_ok() const { return lmx::is_occurs_ok(k_class, this); }
-lmx::elmx_error ColorAndFinish::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
-lmx::elmx_error ColorAndFinish::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
-void ColorAndFinish::marshal_attributes(lmx::c_xml_writer& writer) const { lmx::marshal_attributes(k_class, this, writer); }
-lmx::elmx_error ColorAndFinish::marshal_child_elements(lmx::c_xml_writer& writer) const { return lmx::marshal_child_elements(k_class, this, writer); }
-bool ColorAndFinish::unmarshal_attributes(lmx::c_xml_reader& reader, const std::string& name, lmx::elmx_error* error) { return lmx::unmarshal_attribute(k_class, this, reader, name, error); }
-lmx::elmx_error ColorAndFinish::unmarshal_attributes_check(lmx::c_xml_reader& reader) { return lmx::check_required_attributes(k_class, this, reader); }
-bool ColorAndFinish::unmarshal_body(lmx::c_xml_reader& reader, std::string* name, lmx::elmx_error* error) { return lmx::unmarshal_body(k_class, this, reader, name, error); }
 lmx::elmx_error ColorAndFinish::set_Finish(const std::u16string& value) { return lmx::set_item(k_class, k_items[item_Finish], this, value); }
 bool ColorAndFinish::setenum_Finish(std::int32_t number) { return lmx::set_enumerated(k_class, k_items[item_Finish], this, number); }
 ColorSpaceSpectralType& ColorAndFinish::assign_ColorSpaceSpectral(const ColorSpaceSpectralType& value) { return get_ColorSpaceSpectral() = value; }
@@ -463,10 +380,7 @@ constinit const s_class ColorSpaceNCSType::k_class = {
     .qualified_name = "Vyr:ColorSpaceNCSType",
     .base = &ColorSpaceType::k_class,
     .content = content_kind::children,
-    .may_be_empty = false,
     .ns_map = k_ns_map,
-    .nil_flag = k_no_flag,
-    .choice = k_no_flag,
     .id = &ColorSpaceNCSType::id,
     .xsi_type = "Vyr:ColorSpaceNCSType",
     .attributes = std::span(k_items).first(std::size(k_ColorSpaceNCSType_attributes) - 1),
@@ -476,25 +390,20 @@ constinit const s_class ColorSpaceNCSType::k_class = {
     .operations = &k_operations<ColorSpaceNCSType>,
 };
 
+namespace { const char k_ColorSpaceNCSType_id[] = "ColorSpaceNCSType"; }
+const char* ColorSpaceNCSType::id = k_ColorSpaceNCSType_id;
 ColorSpaceNCSType::ColorSpaceNCSType() = default;
 ColorSpaceNCSType::ColorSpaceNCSType(const ColorSpaceNCSType& other) : ColorSpaceType() { lmx::copy(k_class, this, &other); }
+ColorSpaceNCSType* ColorSpaceNCSType::clone() const { return new ColorSpaceNCSType(*this); }
 ColorSpaceNCSType::~ColorSpaceNCSType() = default;
 ColorSpaceNCSType& ColorSpaceNCSType::operator=(const ColorSpaceNCSType& other) { ColorSpaceNCSType copy(other); swap(copy); return *this; }
+const char* ColorSpaceNCSType::getid() const { return id; }
+bool ColorSpaceNCSType::has_id(const char* identity) const { return identity == id || ColorSpaceType::has_id(identity); }
+lmx::elmx_error ColorSpaceNCSType::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
+lmx::elmx_error ColorSpaceNCSType::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
 void ColorSpaceNCSType::swap(ColorSpaceNCSType& other) { lmx::swap(k_class, this, &other); }
 void ColorSpaceNCSType::reset() { ColorSpaceNCSType fresh; lmx::exchange(k_class, this, &fresh); }
 bool ColorSpaceNCSType::is_occurs_ok() const { return lmx::is_occurs_ok(k_class, this); }
-lmx::elmx_error ColorSpaceNCSType::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
-lmx::elmx_error ColorSpaceNCSType::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
-void ColorSpaceNCSType::marshal_attributes(lmx::c_xml_writer& writer) const { lmx::marshal_attributes(k_class, this, writer); }
-lmx::elmx_error ColorSpaceNCSType::marshal_child_elements(lmx::c_xml_writer& writer) const { return lmx::marshal_child_elements(k_class, this, writer); }
-bool ColorSpaceNCSType::unmarshal_attributes(lmx::c_xml_reader& reader, const std::string& name, lmx::elmx_error* error) { return lmx::unmarshal_attribute(k_class, this, reader, name, error); }
-lmx::elmx_error ColorSpaceNCSType::unmarshal_attributes_check(lmx::c_xml_reader& reader) { return lmx::check_required_attributes(k_class, this, reader); }
-bool ColorSpaceNCSType::unmarshal_body(lmx::c_xml_reader& reader, std::string* name, lmx::elmx_error* error) { return lmx::unmarshal_body(k_class, this, reader, name, error); }
-namespace { const char k_ColorSpaceNCSType_id[] = "ColorSpaceNCSType"; }
-const char* ColorSpaceNCSType::id = k_ColorSpaceNCSType_id;
-ColorSpaceNCSType* ColorSpaceNCSType::clone() const { return new ColorSpaceNCSType(*this); }
-const char* ColorSpaceNCSType::getid() const { return id; }
-bool ColorSpaceNCSType::has_id(const char* identity) const { return identity == id || ColorSpaceType::has_id(identity); }
 lmx::elmx_error ColorSpaceNCSType::set_Name(const std::u16string& value) { return lmx::set_item(k_class, k_items[item_Name], this, value); }
 ColorSpaceSpecificationSpectrumGeneric& ColorSpaceNCSType::assign_ColorSpaceSpecificationSpectrumGeneric(const ColorSpaceSpecificationSpectrumGeneric& value) { return get_ColorSpaceSpecificationSpectrumGeneric() = value; }
 lmx::elmx_error ColorSpaceNCSType::set_ColorName(const std::u16string& value) { return lmx::set_item(k_class, k_items[item_ColorName], this, value); }
@@ -529,10 +438,7 @@ constinit const s_class ColorSpaceMunsellType::k_class = {
     .qualified_name = "Vyr:ColorSpaceMunsellType",
     .base = &ColorSpaceType::k_class,
     .content = content_kind::children,
-    .may_be_empty = false,
     .ns_map = k_ns_map,
-    .nil_flag = k_no_flag,
-    .choice = k_no_flag,
     .id = &ColorSpaceMunsellType::id,
     .xsi_type = "Vyr:ColorSpaceMunsellType",
     .attributes = std::span(k_items).first(std::size(k_ColorSpaceMunsellType_attributes) - 1),
@@ -542,25 +448,20 @@ constinit const s_class ColorSpaceMunsellType::k_class = {
     .operations = &k_operations<ColorSpaceMunsellType>,
 };
 
+namespace { const char k_ColorSpaceMunsellType_id[] = "ColorSpaceMunsellType"; }
+const char* ColorSpaceMunsellType::id = k_ColorSpaceMunsellType_id;
 ColorSpaceMunsellType::ColorSpaceMunsellType() = default;
 ColorSpaceMunsellType::ColorSpaceMunsellType(const ColorSpaceMunsellType& other) : ColorSpaceType() { lmx::copy(k_class, this, &other); }
+ColorSpaceMunsellType* ColorSpaceMunsellType::clone() const { return new ColorSpaceMunsellType(*this); }
 ColorSpaceMunsellType::~ColorSpaceMunsellType() = default;
 ColorSpaceMunsellType& ColorSpaceMunsellType::operator=(const ColorSpaceMunsellType& other) { ColorSpaceMunsellType copy(other); swap(copy); return *this; }
+const char* ColorSpaceMunsellType::getid() const { return id; }
+bool ColorSpaceMunsellType::has_id(const char* identity) const { return identity == id || ColorSpaceType::has_id(identity); }
+lmx::elmx_error ColorSpaceMunsellType::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
+lmx::elmx_error ColorSpaceMunsellType::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
 void ColorSpaceMunsellType::swap(ColorSpaceMunsellType& other) { lmx::swap(k_class, this, &other); }
 void ColorSpaceMunsellType::reset() { ColorSpaceMunsellType fresh; lmx::exchange(k_class, this, &fresh); }
 bool ColorSpaceMunsellType::is_occurs_ok() const { return lmx::is_occurs_ok(k_class, this); }
-lmx::elmx_error ColorSpaceMunsellType::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
-lmx::elmx_error ColorSpaceMunsellType::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
-void ColorSpaceMunsellType::marshal_attributes(lmx::c_xml_writer& writer) const { lmx::marshal_attributes(k_class, this, writer); }
-lmx::elmx_error ColorSpaceMunsellType::marshal_child_elements(lmx::c_xml_writer& writer) const { return lmx::marshal_child_elements(k_class, this, writer); }
-bool ColorSpaceMunsellType::unmarshal_attributes(lmx::c_xml_reader& reader, const std::string& name, lmx::elmx_error* error) { return lmx::unmarshal_attribute(k_class, this, reader, name, error); }
-lmx::elmx_error ColorSpaceMunsellType::unmarshal_attributes_check(lmx::c_xml_reader& reader) { return lmx::check_required_attributes(k_class, this, reader); }
-bool ColorSpaceMunsellType::unmarshal_body(lmx::c_xml_reader& reader, std::string* name, lmx::elmx_error* error) { return lmx::unmarshal_body(k_class, this, reader, name, error); }
-namespace { const char k_ColorSpaceMunsellType_id[] = "ColorSpaceMunsellType"; }
-const char* ColorSpaceMunsellType::id = k_ColorSpaceMunsellType_id;
-ColorSpaceMunsellType* ColorSpaceMunsellType::clone() const { return new ColorSpaceMunsellType(*this); }
-const char* ColorSpaceMunsellType::getid() const { return id; }
-bool ColorSpaceMunsellType::has_id(const char* identity) const { return identity == id || ColorSpaceType::has_id(identity); }
 lmx::elmx_error ColorSpaceMunsellType::set_Name(const std::u16string& value) { return lmx::set_item(k_class, k_items[item_Name], this, value); }
 ColorSpaceSpecificationSpectrumGeneric& ColorSpaceMunsellType::assign_ColorSpaceSpecificationSpectrumGeneric(const ColorSpaceSpecificationSpectrumGeneric& value) { return get_ColorSpaceSpecificationSpectrumGeneric() = value; }
 lmx::elmx_error ColorSpaceMunsellType::set_CollectionName(const std::u16string& value) { return lmx::set_item(k_class, k_items[item_CollectionName], this, value); }
@@ -594,15 +495,7 @@ constinit const s_item Base::k_items[] = {
 constinit const s_class Base::k_class = {
     .name = "Base",
     .qualified_name = "Vyr:Base",
-    .base = nullptr,
     .content = content_kind::children,
-    .may_be_empty = false,
-    .ns_map = nullptr,
-    .nil_flag = k_no_flag,
-    .choice = k_no_flag,
-    .id = nullptr,
-    .xsi_type = nullptr,
-    .attributes = std::span(k_items).first(std::size(k_no_events) - 1),
     .elements = std::span(k_items).subspan(std::size(k_no_events) - 1),
     .attribute_map = k_no_events,
     .element_map = k_Base_elements,
@@ -613,16 +506,11 @@ Base::Base() = default;
 Base::Base(const Base& other) { lmx::copy(k_class, this, &other); }
 Base::~Base() = default;
 Base& Base::operator=(const Base& other) { Base copy(other); swap(copy); return *this; }
+lmx::elmx_error Base::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
+lmx::elmx_error Base::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
 void Base::swap(Base& other) { lmx::swap(k_class, this, &other); }
 void Base::reset() { Base fresh; lmx::exchange(k_class, this, &fresh); }
 bool Base::is_occurs_ok() const { return lmx::is_occurs_ok(k_class, this); }
-lmx::elmx_error Base::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
-lmx::elmx_error Base::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
-void Base::marshal_attributes(lmx::c_xml_writer& writer) const { lmx::marshal_attributes(k_class, this, writer); }
-lmx::elmx_error Base::marshal_child_elements(lmx::c_xml_writer& writer) const { return lmx::marshal_child_elements(k_class, this, writer); }
-bool Base::unmarshal_attributes(lmx::c_xml_reader& reader, const std::string& name, lmx::elmx_error* error) { return lmx::unmarshal_attribute(k_class, this, reader, name, error); }
-lmx::elmx_error Base::unmarshal_attributes_check(lmx::c_xml_reader& reader) { return lmx::check_required_attributes(k_class, this, reader); }
-bool Base::unmarshal_body(lmx::c_xml_reader& reader, std::string* name, lmx::elmx_error* error) { return lmx::unmarshal_body(k_class, this, reader, name, error); }
 CustomAttributeType& Base::get_CustomAttribute(std::size_t index) { return m_CustomAttribute.grow_to(index); }
 CustomAttributeType& Base::assign_CustomAttribute(std::size_t index, const CustomAttributeType& value) { return get_CustomAttribute(index) = value; }
 lmx::elmx_error Base::append_CustomAttribute() { m_CustomAttribute.append(); return lmx::ELMX_OK; }
@@ -653,15 +541,8 @@ constinit const s_item BaseElementType::k_items[] = {
 constinit const s_class BaseElementType::k_class = {
     .name = "BaseElementType",
     .qualified_name = "Vyr:BaseElementType",
-    .base = nullptr,
     .content = content_kind::children,
-    .may_be_empty = false,
     .ns_map = k_ns_map,
-    .nil_flag = k_no_flag,
-    .choice = k_no_flag,
-    .id = nullptr,
-    .xsi_type = nullptr,
-    .attributes = std::span(k_items).first(std::size(k_no_events) - 1),
     .elements = std::span(k_items).subspan(std::size(k_no_events) - 1),
     .attribute_map = k_no_events,
     .element_map = k_BaseElementType_elements,
@@ -672,16 +553,11 @@ BaseElementType::BaseElementType() = default;
 BaseElementType::BaseElementType(const BaseElementType& other) { lmx::copy(k_class, this, &other); }
 BaseElementType::~BaseElementType() = default;
 BaseElementType& BaseElementType::operator=(const BaseElementType& other) { BaseElementType copy(other); swap(copy); return *this; }
+lmx::elmx_error BaseElementType::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
+lmx::elmx_error BaseElementType::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
 void BaseElementType::swap(BaseElementType& other) { lmx::swap(k_class, this, &other); }
 void BaseElementType::reset() { BaseElementType fresh; lmx::exchange(k_class, this, &fresh); }
 bool BaseElementType::is_occurs_ok() const { return lmx::is_occurs_ok(k_class, this); }
-lmx::elmx_error BaseElementType::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
-lmx::elmx_error BaseElementType::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
-void BaseElementType::marshal_attributes(lmx::c_xml_writer& writer) const { lmx::marshal_attributes(k_class, this, writer); }
-lmx::elmx_error BaseElementType::marshal_child_elements(lmx::c_xml_writer& writer) const { return lmx::marshal_child_elements(k_class, this, writer); }
-bool BaseElementType::unmarshal_attributes(lmx::c_xml_reader& reader, const std::string& name, lmx::elmx_error* error) { return lmx::unmarshal_attribute(k_class, this, reader, name, error); }
-lmx::elmx_error BaseElementType::unmarshal_attributes_check(lmx::c_xml_reader& reader) { return lmx::check_required_attributes(k_class, this, reader); }
-bool BaseElementType::unmarshal_body(lmx::c_xml_reader& reader, std::string* name, lmx::elmx_error* error) { return lmx::unmarshal_body(k_class, this, reader, name, error); }
 Base& BaseElementType::assign_Base(const Base& value) { return get_Base() = value; }
 lmx::elmx_error BaseElementType::set_Contribution(double value) { return lmx::set_item(k_class, k_items[item_Contribution], this, value); }
 
@@ -715,10 +591,7 @@ constinit const s_class ColorSpaceRecipeType::k_class = {
     .qualified_name = "Vyr:ColorSpaceRecipeType",
     .base = &ColorSpaceType::k_class,
     .content = content_kind::children,
-    .may_be_empty = false,
     .ns_map = k_ns_map,
-    .nil_flag = k_no_flag,
-    .choice = k_no_flag,
     .id = &ColorSpaceRecipeType::id,
     .xsi_type = "Vyr:ColorSpaceRecipeType",
     .attributes = std::span(k_items).first(std::size(k_ColorSpaceRecipeType_attributes) - 1),
@@ -728,25 +601,20 @@ constinit const s_class ColorSpaceRecipeType::k_class = {
     .operations = &k_operations<ColorSpaceRecipeType>,
 };
 
+namespace { const char k_ColorSpaceRecipeType_id[] = "ColorSpaceRecipeType"; }
+const char* ColorSpaceRecipeType::id = k_ColorSpaceRecipeType_id;
 ColorSpaceRecipeType::ColorSpaceRecipeType() = default;
 ColorSpaceRecipeType::ColorSpaceRecipeType(const ColorSpaceRecipeType& other) : ColorSpaceType() { lmx::copy(k_class, this, &other); }
+ColorSpaceRecipeType* ColorSpaceRecipeType::clone() const { return new ColorSpaceRecipeType(*this); }
 ColorSpaceRecipeType::~ColorSpaceRecipeType() = default;
 ColorSpaceRecipeType& ColorSpaceRecipeType::operator=(const ColorSpaceRecipeType& other) { ColorSpaceRecipeType copy(other); swap(copy); return *this; }
+const char* ColorSpaceRecipeType::getid() const { return id; }
+bool ColorSpaceRecipeType::has_id(const char* identity) const { return identity == id || ColorSpaceType::has_id(identity); }
+lmx::elmx_error ColorSpaceRecipeType::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
+lmx::elmx_error ColorSpaceRecipeType::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
 void ColorSpaceRecipeType::swap(ColorSpaceRecipeType& other) { lmx::swap(k_class, this, &other); }
 void ColorSpaceRecipeType::reset() { ColorSpaceRecipeType fresh; lmx::exchange(k_class, this, &fresh); }
 bool ColorSpaceRecipeType::is_occurs_ok() const { return lmx::is_occurs_ok(k_class, this); }
-lmx::elmx_error ColorSpaceRecipeType::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
-lmx::elmx_error ColorSpaceRecipeType::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
-void ColorSpaceRecipeType::marshal_attributes(lmx::c_xml_writer& writer) const { lmx::marshal_attributes(k_class, this, writer); }
-lmx::elmx_error ColorSpaceRecipeType::marshal_child_elements(lmx::c_xml_writer& writer) const { return lmx::marshal_child_elements(k_class, this, writer); }
-bool ColorSpaceRecipeType::unmarshal_attributes(lmx::c_xml_reader& reader, const std::string& name, lmx::elmx_error* error) { return lmx::unmarshal_attribute(k_class, this, reader, name, error); }
-lmx::elmx_error ColorSpaceRecipeType::unmarshal_attributes_check(lmx::c_xml_reader& reader) { return lmx::check_required_attributes(k_class, this, reader); }
-bool ColorSpaceRecipeType::unmarshal_body(lmx::c_xml_reader& reader, std::string* name, lmx::elmx_error* error) { return lmx::unmarshal_body(k_class, this, reader, name, error); }
-namespace { const char k_ColorSpaceRecipeType_id[] = "ColorSpaceRecipeType"; }
-const char* ColorSpaceRecipeType::id = k_ColorSpaceRecipeType_id;
-ColorSpaceRecipeType* ColorSpaceRecipeType::clone() const { return new ColorSpaceRecipeType(*this); }
-const char* ColorSpaceRecipeType::getid() const { return id; }
-bool ColorSpaceRecipeType::has_id(const char* identity) const { return identity == id || ColorSpaceType::has_id(identity); }
 lmx::elmx_error ColorSpaceRecipeType::set_Name(const std::u16string& value) { return lmx::set_item(k_class, k_items[item_Name], this, value); }
 ColorSpaceSpecificationSpectrumGeneric& ColorSpaceRecipeType::assign_ColorSpaceSpecificationSpectrumGeneric(const ColorSpaceSpecificationSpectrumGeneric& value) { return get_ColorSpaceSpecificationSpectrumGeneric() = value; }
 ColorantElementType& ColorSpaceRecipeType::get_ColorantElement(std::size_t index) { return m_ColorantElement.grow_to(index); }
@@ -761,83 +629,71 @@ BaseElementType& ColorSpaceRecipeType::assign_BaseElement(const BaseElementType&
 
 // ColorSpaceRecipe
 
-lmx::elmx_error ColorSpaceRecipe::marshal(lmx::c_xml_writer& writer, const char* name) const {
-    writer.conditionally_select_ns_map(k_ns_map);
-    return ColorSpaceRecipeType::marshal(writer, name);
-}
-lmx::elmx_error ColorSpaceRecipe::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return ColorSpaceRecipeType::unmarshal(reader, name); }
 constinit const lmx::s_document ColorSpaceRecipe::k_document = {"Vyr:ColorSpaceRecipe", "ColorSpaceRecipe", k_ns_map, &lmx::k_operations<ColorSpaceRecipe>};
-const lmx::s_ns_map* ColorSpaceRecipe::ns_map() { return k_ns_map; }
-lmx::elmx_error ColorSpaceRecipe::unmarshal(lmx::c_xml_reader& reader) { return lmx::unmarshal_document(k_document, this, reader); }
 ColorSpaceRecipe::ColorSpaceRecipe(const char* file_name, lmx::elmx_error* error) : ColorSpaceRecipe() { *error = unmarshal(file_name); }
-lmx::elmx_error ColorSpaceRecipe::unmarshal(const char* file_name) { return lmx::unmarshal_document(k_document, this, file_name); }
 ColorSpaceRecipe::ColorSpaceRecipe(const char* data, std::size_t size, lmx::elmx_error* error) : ColorSpaceRecipe() { *error = unmarshal(data, size); }
-lmx::elmx_error ColorSpaceRecipe::unmarshal(const char* data, std::size_t size) { return lmx::unmarshal_document(k_document, this, data, size); }
 ColorSpaceRecipe::ColorSpaceRecipe(const std::string& text, lmx::elmx_error* error) : ColorSpaceRecipe() { *error = unmarshal(text.data(), text.size()); }
+const lmx::s_ns_map* ColorSpaceRecipe::ns_map() { return k_ns_map; }
+lmx::elmx_error ColorSpaceRecipe::unmarshal(const char* file_name) { return lmx::unmarshal_document(k_document, this, file_name); }
+lmx::elmx_error ColorSpaceRecipe::unmarshal(const char* data, std::size_t size) { return lmx::unmarshal_document(k_document, this, data, size); }
 lmx::elmx_error ColorSpaceRecipe::unmarshal(const std::string& text) { return lmx::unmarshal_document(k_document, this, text.data(), text.size()); }
+lmx::elmx_error ColorSpaceRecipe::unmarshal(lmx::c_xml_reader& reader) { return lmx::unmarshal_document(k_document, this, reader); }
 lmx::elmx_error ColorSpaceRecipe::marshal(const char* file_name) const { return lmx::marshal_document(k_document, this, file_name); }
 lmx::elmx_error ColorSpaceRecipe::marshal(std::string* text) const { return lmx::marshal_document(k_document, this, text); }
 lmx::elmx_error ColorSpaceRecipe::marshal(std::ostream& stream) const { return lmx::marshal_document(k_document, this, stream); }
+lmx::elmx_error ColorSpaceRecipe::marshal(lmx::c_xml_writer& writer, const char* name) const { writer.conditionally_select_ns_map(k_ns_map); return ColorSpaceRecipeType::marshal(writer, name); }
+lmx::elmx_error ColorSpaceRecipe::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return ColorSpaceRecipeType::unmarshal(reader, name); }
 
 // ColorSpaceTINTORA
 
-lmx::elmx_error ColorSpaceTINTORA::marshal(lmx::c_xml_writer& writer, const char* name) const {
-    writer.conditionally_select_ns_map(k_ns_map);
-    return ColorSpaceTINTORAType::marshal(writer, name);
-}
-lmx::elmx_error ColorSpaceTINTORA::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return ColorSpaceTINTORAType::unmarshal(reader, name); }
 constinit const lmx::s_document ColorSpaceTINTORA::k_document = {"Vyr:ColorSpaceTINTORA", "ColorSpaceTINTORA", k_ns_map, &lmx::k_operations<ColorSpaceTINTORA>};
-const lmx::s_ns_map* ColorSpaceTINTORA::ns_map() { return k_ns_map; }
-lmx::elmx_error ColorSpaceTINTORA::unmarshal(lmx::c_xml_reader& reader) { return lmx::unmarshal_document(k_document, this, reader); }
 ColorSpaceTINTORA::ColorSpaceTINTORA(const char* file_name, lmx::elmx_error* error) : ColorSpaceTINTORA() { *error = unmarshal(file_name); }
-lmx::elmx_error ColorSpaceTINTORA::unmarshal(const char* file_name) { return lmx::unmarshal_document(k_document, this, file_name); }
 ColorSpaceTINTORA::ColorSpaceTINTORA(const char* data, std::size_t size, lmx::elmx_error* error) : ColorSpaceTINTORA() { *error = unmarshal(data, size); }
-lmx::elmx_error ColorSpaceTINTORA::unmarshal(const char* data, std::size_t size) { return lmx::unmarshal_document(k_document, this, data, size); }
 ColorSpaceTINTORA::ColorSpaceTINTORA(const std::string& text, lmx::elmx_error* error) : ColorSpaceTINTORA() { *error = unmarshal(text.data(), text.size()); }
+const lmx::s_ns_map* ColorSpaceTINTORA::ns_map() { return k_ns_map; }
+lmx::elmx_error ColorSpaceTINTORA::unmarshal(const char* file_name) { return lmx::unmarshal_document(k_document, this, file_name); }
+lmx::elmx_error ColorSpaceTINTORA::unmarshal(const char* data, std::size_t size) { return lmx::unmarshal_document(k_document, this, data, size); }
 lmx::elmx_error ColorSpaceTINTORA::unmarshal(const std::string& text) { return lmx::unmarshal_document(k_document, this, text.data(), text.size()); }
+lmx::elmx_error ColorSpaceTINTORA::unmarshal(lmx::c_xml_reader& reader) { return lmx::unmarshal_document(k_document, this, reader); }
 lmx::elmx_error ColorSpaceTINTORA::marshal(const char* file_name) const { return lmx::marshal_document(k_document, this, file_name); }
 lmx::elmx_error ColorSpaceTINTORA::marshal(std::string* text) const { return lmx::marshal_document(k_document, this, text); }
 lmx::elmx_error ColorSpaceTINTORA::marshal(std::ostream& stream) const { return lmx::marshal_document(k_document, this, stream); }
+lmx::elmx_error ColorSpaceTINTORA::marshal(lmx::c_xml_writer& writer, const char* name) const { writer.conditionally_select_ns_map(k_ns_map); return ColorSpaceTINTORAType::marshal(writer, name); }
+lmx::elmx_error ColorSpaceTINTORA::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return ColorSpaceTINTORAType::unmarshal(reader, name); }
 
 // ColorSpaceNCS
 
-lmx::elmx_error ColorSpaceNCS::marshal(lmx::c_xml_writer& writer, const char* name) const {
-    writer.conditionally_select_ns_map(k_ns_map);
-    return ColorSpaceNCSType::marshal(writer, name);
-}
-lmx::elmx_error ColorSpaceNCS::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return ColorSpaceNCSType::unmarshal(reader, name); }
 constinit const lmx::s_document ColorSpaceNCS::k_document = {"Vyr:ColorSpaceNCS", "ColorSpaceNCS", k_ns_map, &lmx::k_operations<ColorSpaceNCS>};
-const lmx::s_ns_map* ColorSpaceNCS::ns_map() { return k_ns_map; }
-lmx::elmx_error ColorSpaceNCS::unmarshal(lmx::c_xml_reader& reader) { return lmx::unmarshal_document(k_document, this, reader); }
 ColorSpaceNCS::ColorSpaceNCS(const char* file_name, lmx::elmx_error* error) : ColorSpaceNCS() { *error = unmarshal(file_name); }
-lmx::elmx_error ColorSpaceNCS::unmarshal(const char* file_name) { return lmx::unmarshal_document(k_document, this, file_name); }
 ColorSpaceNCS::ColorSpaceNCS(const char* data, std::size_t size, lmx::elmx_error* error) : ColorSpaceNCS() { *error = unmarshal(data, size); }
-lmx::elmx_error ColorSpaceNCS::unmarshal(const char* data, std::size_t size) { return lmx::unmarshal_document(k_document, this, data, size); }
 ColorSpaceNCS::ColorSpaceNCS(const std::string& text, lmx::elmx_error* error) : ColorSpaceNCS() { *error = unmarshal(text.data(), text.size()); }
+const lmx::s_ns_map* ColorSpaceNCS::ns_map() { return k_ns_map; }
+lmx::elmx_error ColorSpaceNCS::unmarshal(const char* file_name) { return lmx::unmarshal_document(k_document, this, file_name); }
+lmx::elmx_error ColorSpaceNCS::unmarshal(const char* data, std::size_t size) { return lmx::unmarshal_document(k_document, this, data, size); }
 lmx::elmx_error ColorSpaceNCS::unmarshal(const std::string& text) { return lmx::unmarshal_document(k_document, this, text.data(), text.size()); }
+lmx::elmx_error ColorSpaceNCS::unmarshal(lmx::c_xml_reader& reader) { return lmx::unmarshal_document(k_document, this, reader); }
 lmx::elmx_error ColorSpaceNCS::marshal(const char* file_name) const { return lmx::marshal_document(k_document, this, file_name); }
 lmx::elmx_error ColorSpaceNCS::marshal(std::string* text) const { return lmx::marshal_document(k_document, this, text); }
 lmx::elmx_error ColorSpaceNCS::marshal(std::ostream& stream) const { return lmx::marshal_document(k_document, this, stream); }
+lmx::elmx_error ColorSpaceNCS::marshal(lmx::c_xml_writer& writer, const char* name) const { writer.conditionally_select_ns_map(k_ns_map); return ColorSpaceNCSType::marshal(writer, name); }
+lmx::elmx_error ColorSpaceNCS::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return ColorSpaceNCSType::unmarshal(reader, name); }
 
 // ColorSpaceMunsell
 
-lmx::elmx_error ColorSpaceMunsell::marshal(lmx::c_xml_writer& writer, const char* name) const {
-    writer.conditionally_select_ns_map(k_ns_map);
-    return ColorSpaceMunsellType::marshal(writer, name);
-}
-lmx::elmx_error ColorSpaceMunsell::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return ColorSpaceMunsellType::unmarshal(reader, name); }
 constinit const lmx::s_document ColorSpaceMunsell::k_document = {"Vyr:ColorSpaceMunsell", "ColorSpaceMunsell", k_ns_map, &lmx::k_operations<ColorSpaceMunsell>};
-const lmx::s_ns_map* ColorSpaceMunsell::ns_map() { return k_ns_map; }
-lmx::elmx_error ColorSpaceMunsell::unmarshal(lmx::c_xml_reader& reader) { return lmx::unmarshal_document(k_document, this, reader); }
 ColorSpaceMunsell::ColorSpaceMunsell(const char* file_name, lmx::elmx_error* error) : ColorSpaceMunsell() { *error = unmarshal(file_name); }
-lmx::elmx_error ColorSpaceMunsell::unmarshal(const char* file_name) { return lmx::unmarshal_document(k_document, this, file_name); }
 ColorSpaceMunsell::ColorSpaceMunsell(const char* data, std::size_t size, lmx::elmx_error* error) : ColorSpaceMunsell() { *error = unmarshal(data, size); }
-lmx::elmx_error ColorSpaceMunsell::unmarshal(const char* data, std::size_t size) { return lmx::unmarshal_document(k_document, this, data, size); }
 ColorSpaceMunsell::ColorSpaceMunsell(const std::string& text, lmx::elmx_error* error) : ColorSpaceMunsell() { *error = unmarshal(text.data(), text.size()); }
+const lmx::s_ns_map* ColorSpaceMunsell::ns_map() { return k_ns_map; }
+lmx::elmx_error ColorSpaceMunsell::unmarshal(const char* file_name) { return lmx::unmarshal_document(k_document, this, file_name); }
+lmx::elmx_error ColorSpaceMunsell::unmarshal(const char* data, std::size_t size) { return lmx::unmarshal_document(k_document, this, data, size); }
 lmx::elmx_error ColorSpaceMunsell::unmarshal(const std::string& text) { return lmx::unmarshal_document(k_document, this, text.data(), text.size()); }
+lmx::elmx_error ColorSpaceMunsell::unmarshal(lmx::c_xml_reader& reader) { return lmx::unmarshal_document(k_document, this, reader); }
 lmx::elmx_error ColorSpaceMunsell::marshal(const char* file_name) const { return lmx::marshal_document(k_document, this, file_name); }
 lmx::elmx_error ColorSpaceMunsell::marshal(std::string* text) const { return lmx::marshal_document(k_document, this, text); }
 lmx::elmx_error ColorSpaceMunsell::marshal(std::ostream& stream) const { return lmx::marshal_document(k_document, this, stream); }
+lmx::elmx_error ColorSpaceMunsell::marshal(lmx::c_xml_writer& writer, const char* name) const { writer.conditionally_select_ns_map(k_ns_map); return ColorSpaceMunsellType::marshal(writer, name); }
+lmx::elmx_error ColorSpaceMunsell::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return ColorSpaceMunsellType::unmarshal(reader, name); }
 
 // Density
 
@@ -848,15 +704,8 @@ constinit const s_item Density::k_items[] = {
 constinit const s_class Density::k_class = {
     .name = "Density",
     .qualified_name = "Vyr:Density",
-    .base = nullptr,
     .content = content_kind::simple,
-    .may_be_empty = false,
-    .ns_map = nullptr,
     .nil_flag = LMX_FLAG(Density, m_isnil),
-    .choice = k_no_flag,
-    .id = nullptr,
-    .xsi_type = nullptr,
-    .attributes = std::span(k_items).first(std::size(k_no_events) - 1),
     .elements = std::span(k_items).subspan(std::size(k_no_events) - 1),
     .attribute_map = k_no_events,
     .element_map = k_no_events,
@@ -867,16 +716,11 @@ Density::Density() = default;
 Density::Density(const Density& other) { lmx::copy(k_class, this, &other); }
 Density::~Density() = default;
 Density& Density::operator=(const Density& other) { Density copy(other); swap(copy); return *this; }
+lmx::elmx_error Density::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
+lmx::elmx_error Density::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
 void Density::swap(Density& other) { lmx::swap(k_class, this, &other); }
 void Density::reset() { Density fresh; lmx::exchange(k_class, this, &fresh); }
 bool Density::is_occurs_ok() const { return lmx::is_occurs_ok(k_class, this); }
-lmx::elmx_error Density::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
-lmx::elmx_error Density::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
-void Density::marshal_attributes(lmx::c_xml_writer& writer) const { lmx::marshal_attributes(k_class, this, writer); }
-lmx::elmx_error Density::marshal_child_elements(lmx::c_xml_writer& writer) const { return lmx::marshal_child_elements(k_class, this, writer); }
-bool Density::unmarshal_attributes(lmx::c_xml_reader& reader, const std::string& name, lmx::elmx_error* error) { return lmx::unmarshal_attribute(k_class, this, reader, name, error); }
-lmx::elmx_error Density::unmarshal_attributes_check(lmx::c_xml_reader& reader) { return lmx::check_required_attributes(k_class, this, reader); }
-bool Density::unmarshal_body(lmx::c_xml_reader& reader, std::string* name, lmx::elmx_error* error, bool has_body) { return lmx::unmarshal_content(k_class, this, reader, name, error, has_body); }
 lmx::elmx_error Density::set_Density(double value) { return lmx::set_item(k_class, k_items[item_Density], this, value); }
 
 // ColorantElementType_Colorant
@@ -907,15 +751,7 @@ constinit const s_item ColorantElementType_Colorant::k_items[] = {
 constinit const s_class ColorantElementType_Colorant::k_class = {
     .name = "ColorantElementType_Colorant",
     .qualified_name = "Vyr:Colorant",
-    .base = nullptr,
     .content = content_kind::children,
-    .may_be_empty = false,
-    .ns_map = nullptr,
-    .nil_flag = k_no_flag,
-    .choice = k_no_flag,
-    .id = nullptr,
-    .xsi_type = nullptr,
-    .attributes = std::span(k_items).first(std::size(k_no_events) - 1),
     .elements = std::span(k_items).subspan(std::size(k_no_events) - 1),
     .attribute_map = k_no_events,
     .element_map = k_ColorantElementType_Colorant_elements,
@@ -926,16 +762,11 @@ ColorantElementType_Colorant::ColorantElementType_Colorant() = default;
 ColorantElementType_Colorant::ColorantElementType_Colorant(const ColorantElementType_Colorant& other) { lmx::copy(k_class, this, &other); }
 ColorantElementType_Colorant::~ColorantElementType_Colorant() = default;
 ColorantElementType_Colorant& ColorantElementType_Colorant::operator=(const ColorantElementType_Colorant& other) { ColorantElementType_Colorant copy(other); swap(copy); return *this; }
+lmx::elmx_error ColorantElementType_Colorant::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
+lmx::elmx_error ColorantElementType_Colorant::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
 void ColorantElementType_Colorant::swap(ColorantElementType_Colorant& other) { lmx::swap(k_class, this, &other); }
 void ColorantElementType_Colorant::reset() { ColorantElementType_Colorant fresh; lmx::exchange(k_class, this, &fresh); }
 bool ColorantElementType_Colorant::is_occurs_ok() const { return lmx::is_occurs_ok(k_class, this); }
-lmx::elmx_error ColorantElementType_Colorant::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
-lmx::elmx_error ColorantElementType_Colorant::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
-void ColorantElementType_Colorant::marshal_attributes(lmx::c_xml_writer& writer) const { lmx::marshal_attributes(k_class, this, writer); }
-lmx::elmx_error ColorantElementType_Colorant::marshal_child_elements(lmx::c_xml_writer& writer) const { return lmx::marshal_child_elements(k_class, this, writer); }
-bool ColorantElementType_Colorant::unmarshal_attributes(lmx::c_xml_reader& reader, const std::string& name, lmx::elmx_error* error) { return lmx::unmarshal_attribute(k_class, this, reader, name, error); }
-lmx::elmx_error ColorantElementType_Colorant::unmarshal_attributes_check(lmx::c_xml_reader& reader) { return lmx::check_required_attributes(k_class, this, reader); }
-bool ColorantElementType_Colorant::unmarshal_body(lmx::c_xml_reader& reader, std::string* name, lmx::elmx_error* error) { return lmx::unmarshal_body(k_class, this, reader, name, error); }
 CustomAttributeType& ColorantElementType_Colorant::get_CustomAttribute(std::size_t index) { return m_CustomAttribute.grow_to(index); }
 CustomAttributeType& ColorantElementType_Colorant::assign_CustomAttribute(std::size_t index, const CustomAttributeType& value) { return get_CustomAttribute(index) = value; }
 lmx::elmx_error ColorantElementType_Colorant::append_CustomAttribute() { m_CustomAttribute.append(); return lmx::ELMX_OK; }
@@ -966,15 +797,8 @@ constinit const s_item ColorantElementType::k_items[] = {
 constinit const s_class ColorantElementType::k_class = {
     .name = "ColorantElementType",
     .qualified_name = "Vyr:ColorantElementType",
-    .base = nullptr,
     .content = content_kind::children,
-    .may_be_empty = false,
     .ns_map = k_ns_map,
-    .nil_flag = k_no_flag,
-    .choice = k_no_flag,
-    .id = nullptr,
-    .xsi_type = nullptr,
-    .attributes = std::span(k_items).first(std::size(k_no_events) - 1),
     .elements = std::span(k_items).subspan(std::size(k_no_events) - 1),
     .attribute_map = k_no_events,
     .element_map = k_ColorantElementType_elements,
@@ -985,16 +809,11 @@ ColorantElementType::ColorantElementType() = default;
 ColorantElementType::ColorantElementType(const ColorantElementType& other) { lmx::copy(k_class, this, &other); }
 ColorantElementType::~ColorantElementType() = default;
 ColorantElementType& ColorantElementType::operator=(const ColorantElementType& other) { ColorantElementType copy(other); swap(copy); return *this; }
+lmx::elmx_error ColorantElementType::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
+lmx::elmx_error ColorantElementType::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
 void ColorantElementType::swap(ColorantElementType& other) { lmx::swap(k_class, this, &other); }
 void ColorantElementType::reset() { ColorantElementType fresh; lmx::exchange(k_class, this, &fresh); }
 bool ColorantElementType::is_occurs_ok() const { return lmx::is_occurs_ok(k_class, this); }
-lmx::elmx_error ColorantElementType::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
-lmx::elmx_error ColorantElementType::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
-void ColorantElementType::marshal_attributes(lmx::c_xml_writer& writer) const { lmx::marshal_attributes(k_class, this, writer); }
-lmx::elmx_error ColorantElementType::marshal_child_elements(lmx::c_xml_writer& writer) const { return lmx::marshal_child_elements(k_class, this, writer); }
-bool ColorantElementType::unmarshal_attributes(lmx::c_xml_reader& reader, const std::string& name, lmx::elmx_error* error) { return lmx::unmarshal_attribute(k_class, this, reader, name, error); }
-lmx::elmx_error ColorantElementType::unmarshal_attributes_check(lmx::c_xml_reader& reader) { return lmx::check_required_attributes(k_class, this, reader); }
-bool ColorantElementType::unmarshal_body(lmx::c_xml_reader& reader, std::string* name, lmx::elmx_error* error) { return lmx::unmarshal_body(k_class, this, reader, name, error); }
 ColorantElementType_Colorant& ColorantElementType::assign_Colorant(const ColorantElementType_Colorant& value) { return get_Colorant() = value; }
 lmx::elmx_error ColorantElementType::set_Contribution(double value) { return lmx::set_item(k_class, k_items[item_Contribution], this, value); }
 

@@ -49,10 +49,7 @@ constinit const s_class ColorSpaceDensityType::k_class = {
     .qualified_name = "Vyr:ColorSpaceDensityType",
     .base = &ColorSpaceType::k_class,
     .content = content_kind::children,
-    .may_be_empty = false,
     .ns_map = k_ns_map,
-    .nil_flag = k_no_flag,
-    .choice = k_no_flag,
     .id = &ColorSpaceDensityType::id,
     .xsi_type = "Vyr:ColorSpaceDensityType",
     .attributes = std::span(k_items).first(std::size(k_ColorSpaceDensityType_attributes) - 1),
@@ -62,25 +59,20 @@ constinit const s_class ColorSpaceDensityType::k_class = {
     .operations = &k_operations<ColorSpaceDensityType>,
 };
 
+namespace { const char k_ColorSpaceDensityType_id[] = "ColorSpaceDensityType"; }
+const char* ColorSpaceDensityType::id = k_ColorSpaceDensityType_id;
 ColorSpaceDensityType::ColorSpaceDensityType() = default;
 ColorSpaceDensityType::ColorSpaceDensityType(const ColorSpaceDensityType& other) : ColorSpaceType() { lmx::copy(k_class, this, &other); }
+ColorSpaceDensityType* ColorSpaceDensityType::clone() const { return new ColorSpaceDensityType(*this); }
 ColorSpaceDensityType::~ColorSpaceDensityType() = default;
 ColorSpaceDensityType& ColorSpaceDensityType::operator=(const ColorSpaceDensityType& other) { ColorSpaceDensityType copy(other); swap(copy); return *this; }
+const char* ColorSpaceDensityType::getid() const { return id; }
+bool ColorSpaceDensityType::has_id(const char* identity) const { return identity == id || ColorSpaceType::has_id(identity); }
+lmx::elmx_error ColorSpaceDensityType::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
+lmx::elmx_error ColorSpaceDensityType::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
 void ColorSpaceDensityType::swap(ColorSpaceDensityType& other) { lmx::swap(k_class, this, &other); }
 void ColorSpaceDensityType::reset() { ColorSpaceDensityType fresh; lmx::exchange(k_class, this, &fresh); }
 bool ColorSpaceDensityType::is_occurs_ok() const { return lmx::is_occurs_ok(k_class, this); }
-lmx::elmx_error ColorSpaceDensityType::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
-lmx::elmx_error ColorSpaceDensityType::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
-void ColorSpaceDensityType::marshal_attributes(lmx::c_xml_writer& writer) const { lmx::marshal_attributes(k_class, this, writer); }
-lmx::elmx_error ColorSpaceDensityType::marshal_child_elements(lmx::c_xml_writer& writer) const { return lmx::marshal_child_elements(k_class, this, writer); }
-bool ColorSpaceDensityType::unmarshal_attributes(lmx::c_xml_reader& reader, const std::string& name, lmx::elmx_error* error) { return lmx::unmarshal_attribute(k_class, this, reader, name, error); }
-lmx::elmx_error ColorSpaceDensityType::unmarshal_attributes_check(lmx::c_xml_reader& reader) { return lmx::check_required_attributes(k_class, this, reader); }
-bool ColorSpaceDensityType::unmarshal_body(lmx::c_xml_reader& reader, std::string* name, lmx::elmx_error* error) { return lmx::unmarshal_body(k_class, this, reader, name, error); }
-namespace { const char k_ColorSpaceDensityType_id[] = "ColorSpaceDensityType"; }
-const char* ColorSpaceDensityType::id = k_ColorSpaceDensityType_id;
-ColorSpaceDensityType* ColorSpaceDensityType::clone() const { return new ColorSpaceDensityType(*this); }
-const char* ColorSpaceDensityType::getid() const { return id; }
-bool ColorSpaceDensityType::has_id(const char* identity) const { return identity == id || ColorSpaceType::has_id(identity); }
 lmx::elmx_error ColorSpaceDensityType::set_Name(const std::u16string& value) { return lmx::set_item(k_class, k_items[item_Name], this, value); }
 ColorSpaceSpecificationSpectrumGeneric& ColorSpaceDensityType::assign_ColorSpaceSpecificationSpectrumGeneric(const ColorSpaceSpecificationSpectrumGeneric& value) { return get_ColorSpaceSpecificationSpectrumGeneric() = value; }
 DensityType& ColorSpaceDensityType::get_Density(std::size_t index) { return m_Density.grow_to(index); }
@@ -117,10 +109,7 @@ constinit const s_class ColorSpaceSpectralType::k_class = {
     .qualified_name = "Vyr:ColorSpaceSpectralType",
     .base = &ColorSpaceType::k_class,
     .content = content_kind::children,
-    .may_be_empty = false,
     .ns_map = k_ns_map,
-    .nil_flag = k_no_flag,
-    .choice = k_no_flag,
     .id = &ColorSpaceSpectralType::id,
     .xsi_type = "Vyr:ColorSpaceSpectralType",
     .attributes = std::span(k_items).first(std::size(k_ColorSpaceSpectralType_attributes) - 1),
@@ -130,25 +119,20 @@ constinit const s_class ColorSpaceSpectralType::k_class = {
     .operations = &k_operations<ColorSpaceSpectralType>,
 };
 
+namespace { const char k_ColorSpaceSpectralType_id[] = "ColorSpaceSpectralType"; }
+const char* ColorSpaceSpectralType::id = k_ColorSpaceSpectralType_id;
 ColorSpaceSpectralType::ColorSpaceSpectralType() = default;
 ColorSpaceSpectralType::ColorSpaceSpectralType(const ColorSpaceSpectralType& other) : ColorSpaceType() { lmx::copy(k_class, this, &other); }
+ColorSpaceSpectralType* ColorSpaceSpectralType::clone() const { return new ColorSpaceSpectralType(*this); }
 ColorSpaceSpectralType::~ColorSpaceSpectralType() = default;
 ColorSpaceSpectralType& ColorSpaceSpectralType::operator=(const ColorSpaceSpectralType& other) { ColorSpaceSpectralType copy(other); swap(copy); return *this; }
+const char* ColorSpaceSpectralType::getid() const { return id; }
+bool ColorSpaceSpectralType::has_id(const char* identity) const { return identity == id || ColorSpaceType::has_id(identity); }
+lmx::elmx_error ColorSpaceSpectralType::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
+lmx::elmx_error ColorSpaceSpectralType::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
 void ColorSpaceSpectralType::swap(ColorSpaceSpectralType& other) { lmx::swap(k_class, this, &other); }
 void ColorSpaceSpectralType::reset() { ColorSpaceSpectralType fresh; lmx::exchange(k_class, this, &fresh); }
 bool ColorSpaceSpectralType::is_occurs_ok() const { return lmx::is_occurs_ok(k_class, this); }
-lmx::elmx_error ColorSpaceSpectralType::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
-lmx::elmx_error ColorSpaceSpectralType::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
-void ColorSpaceSpectralType::marshal_attributes(lmx::c_xml_writer& writer) const { lmx::marshal_attributes(k_class, this, writer); }
-lmx::elmx_error ColorSpaceSpectralType::marshal_child_elements(lmx::c_xml_writer& writer) const { return lmx::marshal_child_elements(k_class, this, writer); }
-bool ColorSpaceSpectralType::unmarshal_attributes(lmx::c_xml_reader& reader, const std::string& name, lmx::elmx_error* error) { return lmx::unmarshal_attribute(k_class, this, reader, name, error); }
-lmx::elmx_error ColorSpaceSpectralType::unmarshal_attributes_check(lmx::c_xml_reader& reader) { return lmx::check_required_attributes(k_class, this, reader); }
-bool ColorSpaceSpectralType::unmarshal_body(lmx::c_xml_reader& reader, std::string* name, lmx::elmx_error* error) { return lmx::unmarshal_body(k_class, this, reader, name, error); }
-namespace { const char k_ColorSpaceSpectralType_id[] = "ColorSpaceSpectralType"; }
-const char* ColorSpaceSpectralType::id = k_ColorSpaceSpectralType_id;
-ColorSpaceSpectralType* ColorSpaceSpectralType::clone() const { return new ColorSpaceSpectralType(*this); }
-const char* ColorSpaceSpectralType::getid() const { return id; }
-bool ColorSpaceSpectralType::has_id(const char* identity) const { return identity == id || ColorSpaceType::has_id(identity); }
 lmx::elmx_error ColorSpaceSpectralType::set_Name(const std::u16string& value) { return lmx::set_item(k_class, k_items[item_Name], this, value); }
 ColorSpaceSpecificationSpectrumSpectral& ColorSpaceSpectralType::assign_ColorSpaceSpecificationSpectrumSpectral(const ColorSpaceSpecificationSpectrumSpectral& value) { return get_ColorSpaceSpecificationSpectrumSpectral() = value; }
 ReflectancePointType& ColorSpaceSpectralType::get_ReflectancePoint(std::size_t index) { return m_ReflectancePoint.grow_to(index); }
@@ -185,10 +169,7 @@ constinit const s_class ColorSpaceEmissiveSpectralType::k_class = {
     .qualified_name = "Vyr:ColorSpaceEmissiveSpectralType",
     .base = &ColorSpaceType::k_class,
     .content = content_kind::children,
-    .may_be_empty = false,
     .ns_map = k_ns_map,
-    .nil_flag = k_no_flag,
-    .choice = k_no_flag,
     .id = &ColorSpaceEmissiveSpectralType::id,
     .xsi_type = "Vyr:ColorSpaceEmissiveSpectralType",
     .attributes = std::span(k_items).first(std::size(k_ColorSpaceEmissiveSpectralType_attributes) - 1),
@@ -198,25 +179,20 @@ constinit const s_class ColorSpaceEmissiveSpectralType::k_class = {
     .operations = &k_operations<ColorSpaceEmissiveSpectralType>,
 };
 
+namespace { const char k_ColorSpaceEmissiveSpectralType_id[] = "ColorSpaceEmissiveSpectralType"; }
+const char* ColorSpaceEmissiveSpectralType::id = k_ColorSpaceEmissiveSpectralType_id;
 ColorSpaceEmissiveSpectralType::ColorSpaceEmissiveSpectralType() = default;
 ColorSpaceEmissiveSpectralType::ColorSpaceEmissiveSpectralType(const ColorSpaceEmissiveSpectralType& other) : ColorSpaceType() { lmx::copy(k_class, this, &other); }
+ColorSpaceEmissiveSpectralType* ColorSpaceEmissiveSpectralType::clone() const { return new ColorSpaceEmissiveSpectralType(*this); }
 ColorSpaceEmissiveSpectralType::~ColorSpaceEmissiveSpectralType() = default;
 ColorSpaceEmissiveSpectralType& ColorSpaceEmissiveSpectralType::operator=(const ColorSpaceEmissiveSpectralType& other) { ColorSpaceEmissiveSpectralType copy(other); swap(copy); return *this; }
+const char* ColorSpaceEmissiveSpectralType::getid() const { return id; }
+bool ColorSpaceEmissiveSpectralType::has_id(const char* identity) const { return identity == id || ColorSpaceType::has_id(identity); }
+lmx::elmx_error ColorSpaceEmissiveSpectralType::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
+lmx::elmx_error ColorSpaceEmissiveSpectralType::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
 void ColorSpaceEmissiveSpectralType::swap(ColorSpaceEmissiveSpectralType& other) { lmx::swap(k_class, this, &other); }
 void ColorSpaceEmissiveSpectralType::reset() { ColorSpaceEmissiveSpectralType fresh; lmx::exchange(k_class, this, &fresh); }
 bool ColorSpaceEmissiveSpectralType::is_occurs_ok() const { return lmx::is_occurs_ok(k_class, this); }
-lmx::elmx_error ColorSpaceEmissiveSpectralType::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
-lmx::elmx_error ColorSpaceEmissiveSpectralType::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
-void ColorSpaceEmissiveSpectralType::marshal_attributes(lmx::c_xml_writer& writer) const { lmx::marshal_attributes(k_class, this, writer); }
-lmx::elmx_error ColorSpaceEmissiveSpectralType::marshal_child_elements(lmx::c_xml_writer& writer) const { return lmx::marshal_child_elements(k_class, this, writer); }
-bool ColorSpaceEmissiveSpectralType::unmarshal_attributes(lmx::c_xml_reader& reader, const std::string& name, lmx::elmx_error* error) { return lmx::unmarshal_attribute(k_class, this, reader, name, error); }
-lmx::elmx_error ColorSpaceEmissiveSpectralType::unmarshal_attributes_check(lmx::c_xml_reader& reader) { return lmx::check_required_attributes(k_class, this, reader); }
-bool ColorSpaceEmissiveSpectralType::unmarshal_body(lmx::c_xml_reader& reader, std::string* name, lmx::elmx_error* error) { return lmx::unmarshal_body(k_class, this, reader, name, error); }
-namespace { const char k_ColorSpaceEmissiveSpectralType_id[] = "ColorSpaceEmissiveSpectralType"; }
-const char* ColorSpaceEmissiveSpectralType::id = k_ColorSpaceEmissiveSpectralType_id;
-ColorSpaceEmissiveSpectralType* ColorSpaceEmissiveSpectralType::clone() const { return new ColorSpaceEmissiveSpectralType(*this); }
-const char* ColorSpaceEmissiveSpectralType::getid() const { return id; }
-bool ColorSpaceEmissiveSpectralType::has_id(const char* identity) const { return identity == id || ColorSpaceType::has_id(identity); }
 lmx::elmx_error ColorSpaceEmissiveSpectralType::set_Name(const std::u16string& value) { return lmx::set_item(k_class, k_items[item_Name], this, value); }
 ColorSpaceSpecificationEmissiveSpectral& ColorSpaceEmissiveSpectralType::assign_ColorSpaceSpecificationEmissiveSpectral(const ColorSpaceSpecificationEmissiveSpectral& value) { return get_ColorSpaceSpecificationEmissiveSpectral() = value; }
 EmissiveSpectralPointType& ColorSpaceEmissiveSpectralType::get_EmissiveSpectralPoint(std::size_t index) { return m_EmissiveSpectralPoint.grow_to(index); }
@@ -253,10 +229,7 @@ constinit const s_class ColorSpaceGenericType::k_class = {
     .qualified_name = "Vyr:ColorSpaceGenericType",
     .base = &ColorSpaceType::k_class,
     .content = content_kind::children,
-    .may_be_empty = false,
     .ns_map = k_ns_map,
-    .nil_flag = k_no_flag,
-    .choice = k_no_flag,
     .id = &ColorSpaceGenericType::id,
     .xsi_type = "Vyr:ColorSpaceGenericType",
     .attributes = std::span(k_items).first(std::size(k_ColorSpaceGenericType_attributes) - 1),
@@ -266,25 +239,20 @@ constinit const s_class ColorSpaceGenericType::k_class = {
     .operations = &k_operations<ColorSpaceGenericType>,
 };
 
+namespace { const char k_ColorSpaceGenericType_id[] = "ColorSpaceGenericType"; }
+const char* ColorSpaceGenericType::id = k_ColorSpaceGenericType_id;
 ColorSpaceGenericType::ColorSpaceGenericType() = default;
 ColorSpaceGenericType::ColorSpaceGenericType(const ColorSpaceGenericType& other) : ColorSpaceType() { lmx::copy(k_class, this, &other); }
+ColorSpaceGenericType* ColorSpaceGenericType::clone() const { return new ColorSpaceGenericType(*this); }
 ColorSpaceGenericType::~ColorSpaceGenericType() = default;
 ColorSpaceGenericType& ColorSpaceGenericType::operator=(const ColorSpaceGenericType& other) { ColorSpaceGenericType copy(other); swap(copy); return *this; }
+const char* ColorSpaceGenericType::getid() const { return id; }
+bool ColorSpaceGenericType::has_id(const char* identity) const { return identity == id || ColorSpaceType::has_id(identity); }
+lmx::elmx_error ColorSpaceGenericType::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
+lmx::elmx_error ColorSpaceGenericType::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
 void ColorSpaceGenericType::swap(ColorSpaceGenericType& other) { lmx::swap(k_class, this, &other); }
 void ColorSpaceGenericType::reset() { ColorSpaceGenericType fresh; lmx::exchange(k_class, this, &fresh); }
 bool ColorSpaceGenericType::is_occurs_ok() const { return lmx::is_occurs_ok(k_class, this); }
-lmx::elmx_error ColorSpaceGenericType::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
-lmx::elmx_error ColorSpaceGenericType::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
-void ColorSpaceGenericType::marshal_attributes(lmx::c_xml_writer& writer) const { lmx::marshal_attributes(k_class, this, writer); }
-lmx::elmx_error ColorSpaceGenericType::marshal_child_elements(lmx::c_xml_writer& writer) const { return lmx::marshal_child_elements(k_class, this, writer); }
-bool ColorSpaceGenericType::unmarshal_attributes(lmx::c_xml_reader& reader, const std::string& name, lmx::elmx_error* error) { return lmx::unmarshal_attribute(k_class, this, reader, name, error); }
-lmx::elmx_error ColorSpaceGenericType::unmarshal_attributes_check(lmx::c_xml_reader& reader) { return lmx::check_required_attributes(k_class, this, reader); }
-bool ColorSpaceGenericType::unmarshal_body(lmx::c_xml_reader& reader, std::string* name, lmx::elmx_error* error) { return lmx::unmarshal_body(k_class, this, reader, name, error); }
-namespace { const char k_ColorSpaceGenericType_id[] = "ColorSpaceGenericType"; }
-const char* ColorSpaceGenericType::id = k_ColorSpaceGenericType_id;
-ColorSpaceGenericType* ColorSpaceGenericType::clone() const { return new ColorSpaceGenericType(*this); }
-const char* ColorSpaceGenericType::getid() const { return id; }
-bool ColorSpaceGenericType::has_id(const char* identity) const { return identity == id || ColorSpaceType::has_id(identity); }
 lmx::elmx_error ColorSpaceGenericType::set_Name(const std::u16string& value) { return lmx::set_item(k_class, k_items[item_Name], this, value); }
 ColorSpaceSpecificationSpectrumGeneric& ColorSpaceGenericType::assign_ColorSpaceSpecificationSpectrumGeneric(const ColorSpaceSpecificationSpectrumGeneric& value) { return get_ColorSpaceSpecificationSpectrumGeneric() = value; }
 AxisType& ColorSpaceGenericType::get_Axis(std::size_t index) { return m_Axis.grow_to(index); }
@@ -321,10 +289,7 @@ constinit const s_class ColorSpaceEmissiveGenericType::k_class = {
     .qualified_name = "Vyr:ColorSpaceEmissiveGenericType",
     .base = &ColorSpaceType::k_class,
     .content = content_kind::children,
-    .may_be_empty = false,
     .ns_map = k_ns_map,
-    .nil_flag = k_no_flag,
-    .choice = k_no_flag,
     .id = &ColorSpaceEmissiveGenericType::id,
     .xsi_type = "Vyr:ColorSpaceEmissiveGenericType",
     .attributes = std::span(k_items).first(std::size(k_ColorSpaceEmissiveGenericType_attributes) - 1),
@@ -334,25 +299,20 @@ constinit const s_class ColorSpaceEmissiveGenericType::k_class = {
     .operations = &k_operations<ColorSpaceEmissiveGenericType>,
 };
 
+namespace { const char k_ColorSpaceEmissiveGenericType_id[] = "ColorSpaceEmissiveGenericType"; }
+const char* ColorSpaceEmissiveGenericType::id = k_ColorSpaceEmissiveGenericType_id;
 ColorSpaceEmissiveGenericType::ColorSpaceEmissiveGenericType() = default;
 ColorSpaceEmissiveGenericType::ColorSpaceEmissiveGenericType(const ColorSpaceEmissiveGenericType& other) : ColorSpaceType() { lmx::copy(k_class, this, &other); }
+ColorSpaceEmissiveGenericType* ColorSpaceEmissiveGenericType::clone() const { return new ColorSpaceEmissiveGenericType(*this); }
 ColorSpaceEmissiveGenericType::~ColorSpaceEmissiveGenericType() = default;
 ColorSpaceEmissiveGenericType& ColorSpaceEmissiveGenericType::operator=(const ColorSpaceEmissiveGenericType& other) { ColorSpaceEmissiveGenericType copy(other); swap(copy); return *this; }
+const char* ColorSpaceEmissiveGenericType::getid() const { return id; }
+bool ColorSpaceEmissiveGenericType::has_id(const char* identity) const { return identity == id || ColorSpaceType::has_id(identity); }
+lmx::elmx_error ColorSpaceEmissiveGenericType::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
+lmx::elmx_error ColorSpaceEmissiveGenericType::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
 void ColorSpaceEmissiveGenericType::swap(ColorSpaceEmissiveGenericType& other) { lmx::swap(k_class, this, &other); }
 void ColorSpaceEmissiveGenericType::reset() { ColorSpaceEmissiveGenericType fresh; lmx::exchange(k_class, this, &fresh); }
 bool ColorSpaceEmissiveGenericType::is_occurs_ok() const { return lmx::is_occurs_ok(k_class, this); }
-lmx::elmx_error ColorSpaceEmissiveGenericType::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
-lmx::elmx_error ColorSpaceEmissiveGenericType::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
-void ColorSpaceEmissiveGenericType::marshal_attributes(lmx::c_xml_writer& writer) const { lmx::marshal_attributes(k_class, this, writer); }
-lmx::elmx_error ColorSpaceEmissiveGenericType::marshal_child_elements(lmx::c_xml_writer& writer) const { return lmx::marshal_child_elements(k_class, this, writer); }
-bool ColorSpaceEmissiveGenericType::unmarshal_attributes(lmx::c_xml_reader& reader, const std::string& name, lmx::elmx_error* error) { return lmx::unmarshal_attribute(k_class, this, reader, name, error); }
-lmx::elmx_error ColorSpaceEmissiveGenericType::unmarshal_attributes_check(lmx::c_xml_reader& reader) { return lmx::check_required_attributes(k_class, this, reader); }
-bool ColorSpaceEmissiveGenericType::unmarshal_body(lmx::c_xml_reader& reader, std::string* name, lmx::elmx_error* error) { return lmx::unmarshal_body(k_class, this, reader, name, error); }
-namespace { const char k_ColorSpaceEmissiveGenericType_id[] = "ColorSpaceEmissiveGenericType"; }
-const char* ColorSpaceEmissiveGenericType::id = k_ColorSpaceEmissiveGenericType_id;
-ColorSpaceEmissiveGenericType* ColorSpaceEmissiveGenericType::clone() const { return new ColorSpaceEmissiveGenericType(*this); }
-const char* ColorSpaceEmissiveGenericType::getid() const { return id; }
-bool ColorSpaceEmissiveGenericType::has_id(const char* identity) const { return identity == id || ColorSpaceType::has_id(identity); }
 lmx::elmx_error ColorSpaceEmissiveGenericType::set_Name(const std::u16string& value) { return lmx::set_item(k_class, k_items[item_Name], this, value); }
 ColorSpaceSpecificationEmissiveGeneric& ColorSpaceEmissiveGenericType::assign_ColorSpaceSpecificationEmissiveGeneric(const ColorSpaceSpecificationEmissiveGeneric& value) { return get_ColorSpaceSpecificationEmissiveGeneric() = value; }
 AxisType& ColorSpaceEmissiveGenericType::get_Axis(std::size_t index) { return m_Axis.grow_to(index); }
@@ -364,103 +324,88 @@ void ColorSpaceEmissiveGenericType::clear_Axis() { m_Axis.clear(); }
 
 // ColorSpaceGeneric
 
-lmx::elmx_error ColorSpaceGeneric::marshal(lmx::c_xml_writer& writer, const char* name) const {
-    writer.conditionally_select_ns_map(k_ns_map);
-    return ColorSpaceGenericType::marshal(writer, name);
-}
-lmx::elmx_error ColorSpaceGeneric::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return ColorSpaceGenericType::unmarshal(reader, name); }
 constinit const lmx::s_document ColorSpaceGeneric::k_document = {"Vyr:ColorSpaceGeneric", "ColorSpaceGeneric", k_ns_map, &lmx::k_operations<ColorSpaceGeneric>};
-const lmx::s_ns_map* ColorSpaceGeneric::ns_map() { return k_ns_map; }
-lmx::elmx_error ColorSpaceGeneric::unmarshal(lmx::c_xml_reader& reader) { return lmx::unmarshal_document(k_document, this, reader); }
 ColorSpaceGeneric::ColorSpaceGeneric(const char* file_name, lmx::elmx_error* error) : ColorSpaceGeneric() { *error = unmarshal(file_name); }
-lmx::elmx_error ColorSpaceGeneric::unmarshal(const char* file_name) { return lmx::unmarshal_document(k_document, this, file_name); }
 ColorSpaceGeneric::ColorSpaceGeneric(const char* data, std::size_t size, lmx::elmx_error* error) : ColorSpaceGeneric() { *error = unmarshal(data, size); }
-lmx::elmx_error ColorSpaceGeneric::unmarshal(const char* data, std::size_t size) { return lmx::unmarshal_document(k_document, this, data, size); }
 ColorSpaceGeneric::ColorSpaceGeneric(const std::string& text, lmx::elmx_error* error) : ColorSpaceGeneric() { *error = unmarshal(text.data(), text.size()); }
+const lmx::s_ns_map* ColorSpaceGeneric::ns_map() { return k_ns_map; }
+lmx::elmx_error ColorSpaceGeneric::unmarshal(const char* file_name) { return lmx::unmarshal_document(k_document, this, file_name); }
+lmx::elmx_error ColorSpaceGeneric::unmarshal(const char* data, std::size_t size) { return lmx::unmarshal_document(k_document, this, data, size); }
 lmx::elmx_error ColorSpaceGeneric::unmarshal(const std::string& text) { return lmx::unmarshal_document(k_document, this, text.data(), text.size()); }
+lmx::elmx_error ColorSpaceGeneric::unmarshal(lmx::c_xml_reader& reader) { return lmx::unmarshal_document(k_document, this, reader); }
 lmx::elmx_error ColorSpaceGeneric::marshal(const char* file_name) const { return lmx::marshal_document(k_document, this, file_name); }
 lmx::elmx_error ColorSpaceGeneric::marshal(std::string* text) const { return lmx::marshal_document(k_document, this, text); }
 lmx::elmx_error ColorSpaceGeneric::marshal(std::ostream& stream) const { return lmx::marshal_document(k_document, this, stream); }
+lmx::elmx_error ColorSpaceGeneric::marshal(lmx::c_xml_writer& writer, const char* name) const { writer.conditionally_select_ns_map(k_ns_map); return ColorSpaceGenericType::marshal(writer, name); }
+lmx::elmx_error ColorSpaceGeneric::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return ColorSpaceGenericType::unmarshal(reader, name); }
 
 // ColorSpaceEmissiveGeneric
 
-lmx::elmx_error ColorSpaceEmissiveGeneric::marshal(lmx::c_xml_writer& writer, const char* name) const {
-    writer.conditionally_select_ns_map(k_ns_map);
-    return ColorSpaceEmissiveGenericType::marshal(writer, name);
-}
-lmx::elmx_error ColorSpaceEmissiveGeneric::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return ColorSpaceEmissiveGenericType::unmarshal(reader, name); }
 constinit const lmx::s_document ColorSpaceEmissiveGeneric::k_document = {"Vyr:ColorSpaceEmissiveGeneric", "ColorSpaceEmissiveGeneric", k_ns_map, &lmx::k_operations<ColorSpaceEmissiveGeneric>};
-const lmx::s_ns_map* ColorSpaceEmissiveGeneric::ns_map() { return k_ns_map; }
-lmx::elmx_error ColorSpaceEmissiveGeneric::unmarshal(lmx::c_xml_reader& reader) { return lmx::unmarshal_document(k_document, this, reader); }
 ColorSpaceEmissiveGeneric::ColorSpaceEmissiveGeneric(const char* file_name, lmx::elmx_error* error) : ColorSpaceEmissiveGeneric() { *error = unmarshal(file_name); }
-lmx::elmx_error ColorSpaceEmissiveGeneric::unmarshal(const char* file_name) { return lmx::unmarshal_document(k_document, this, file_name); }
 ColorSpaceEmissiveGeneric::ColorSpaceEmissiveGeneric(const char* data, std::size_t size, lmx::elmx_error* error) : ColorSpaceEmissiveGeneric() { *error = unmarshal(data, size); }
-lmx::elmx_error ColorSpaceEmissiveGeneric::unmarshal(const char* data, std::size_t size) { return lmx::unmarshal_document(k_document, this, data, size); }
 ColorSpaceEmissiveGeneric::ColorSpaceEmissiveGeneric(const std::string& text, lmx::elmx_error* error) : ColorSpaceEmissiveGeneric() { *error = unmarshal(text.data(), text.size()); }
+const lmx::s_ns_map* ColorSpaceEmissiveGeneric::ns_map() { return k_ns_map; }
+lmx::elmx_error ColorSpaceEmissiveGeneric::unmarshal(const char* file_name) { return lmx::unmarshal_document(k_document, this, file_name); }
+lmx::elmx_error ColorSpaceEmissiveGeneric::unmarshal(const char* data, std::size_t size) { return lmx::unmarshal_document(k_document, this, data, size); }
 lmx::elmx_error ColorSpaceEmissiveGeneric::unmarshal(const std::string& text) { return lmx::unmarshal_document(k_document, this, text.data(), text.size()); }
+lmx::elmx_error ColorSpaceEmissiveGeneric::unmarshal(lmx::c_xml_reader& reader) { return lmx::unmarshal_document(k_document, this, reader); }
 lmx::elmx_error ColorSpaceEmissiveGeneric::marshal(const char* file_name) const { return lmx::marshal_document(k_document, this, file_name); }
 lmx::elmx_error ColorSpaceEmissiveGeneric::marshal(std::string* text) const { return lmx::marshal_document(k_document, this, text); }
 lmx::elmx_error ColorSpaceEmissiveGeneric::marshal(std::ostream& stream) const { return lmx::marshal_document(k_document, this, stream); }
+lmx::elmx_error ColorSpaceEmissiveGeneric::marshal(lmx::c_xml_writer& writer, const char* name) const { writer.conditionally_select_ns_map(k_ns_map); return ColorSpaceEmissiveGenericType::marshal(writer, name); }
+lmx::elmx_error ColorSpaceEmissiveGeneric::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return ColorSpaceEmissiveGenericType::unmarshal(reader, name); }
 
 // ColorSpaceDensity
 
-lmx::elmx_error ColorSpaceDensity::marshal(lmx::c_xml_writer& writer, const char* name) const {
-    writer.conditionally_select_ns_map(k_ns_map);
-    return ColorSpaceDensityType::marshal(writer, name);
-}
-lmx::elmx_error ColorSpaceDensity::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return ColorSpaceDensityType::unmarshal(reader, name); }
 constinit const lmx::s_document ColorSpaceDensity::k_document = {"Vyr:ColorSpaceDensity", "ColorSpaceDensity", k_ns_map, &lmx::k_operations<ColorSpaceDensity>};
-const lmx::s_ns_map* ColorSpaceDensity::ns_map() { return k_ns_map; }
-lmx::elmx_error ColorSpaceDensity::unmarshal(lmx::c_xml_reader& reader) { return lmx::unmarshal_document(k_document, this, reader); }
 ColorSpaceDensity::ColorSpaceDensity(const char* file_name, lmx::elmx_error* error) : ColorSpaceDensity() { *error = unmarshal(file_name); }
-lmx::elmx_error ColorSpaceDensity::unmarshal(const char* file_name) { return lmx::unmarshal_document(k_document, this, file_name); }
 ColorSpaceDensity::ColorSpaceDensity(const char* data, std::size_t size, lmx::elmx_error* error) : ColorSpaceDensity() { *error = unmarshal(data, size); }
-lmx::elmx_error ColorSpaceDensity::unmarshal(const char* data, std::size_t size) { return lmx::unmarshal_document(k_document, this, data, size); }
 ColorSpaceDensity::ColorSpaceDensity(const std::string& text, lmx::elmx_error* error) : ColorSpaceDensity() { *error = unmarshal(text.data(), text.size()); }
+const lmx::s_ns_map* ColorSpaceDensity::ns_map() { return k_ns_map; }
+lmx::elmx_error ColorSpaceDensity::unmarshal(const char* file_name) { return lmx::unmarshal_document(k_document, this, file_name); }
+lmx::elmx_error ColorSpaceDensity::unmarshal(const char* data, std::size_t size) { return lmx::unmarshal_document(k_document, this, data, size); }
 lmx::elmx_error ColorSpaceDensity::unmarshal(const std::string& text) { return lmx::unmarshal_document(k_document, this, text.data(), text.size()); }
+lmx::elmx_error ColorSpaceDensity::unmarshal(lmx::c_xml_reader& reader) { return lmx::unmarshal_document(k_document, this, reader); }
 lmx::elmx_error ColorSpaceDensity::marshal(const char* file_name) const { return lmx::marshal_document(k_document, this, file_name); }
 lmx::elmx_error ColorSpaceDensity::marshal(std::string* text) const { return lmx::marshal_document(k_document, this, text); }
 lmx::elmx_error ColorSpaceDensity::marshal(std::ostream& stream) const { return lmx::marshal_document(k_document, this, stream); }
+lmx::elmx_error ColorSpaceDensity::marshal(lmx::c_xml_writer& writer, const char* name) const { writer.conditionally_select_ns_map(k_ns_map); return ColorSpaceDensityType::marshal(writer, name); }
+lmx::elmx_error ColorSpaceDensity::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return ColorSpaceDensityType::unmarshal(reader, name); }
 
 // ColorSpaceSpectral
 
-lmx::elmx_error ColorSpaceSpectral::marshal(lmx::c_xml_writer& writer, const char* name) const {
-    writer.conditionally_select_ns_map(k_ns_map);
-    return ColorSpaceSpectralType::marshal(writer, name);
-}
-lmx::elmx_error ColorSpaceSpectral::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return ColorSpaceSpectralType::unmarshal(reader, name); }
 constinit const lmx::s_document ColorSpaceSpectral::k_document = {"Vyr:ColorSpaceSpectral", "ColorSpaceSpectral", k_ns_map, &lmx::k_operations<ColorSpaceSpectral>};
-const lmx::s_ns_map* ColorSpaceSpectral::ns_map() { return k_ns_map; }
-lmx::elmx_error ColorSpaceSpectral::unmarshal(lmx::c_xml_reader& reader) { return lmx::unmarshal_document(k_document, this, reader); }
 ColorSpaceSpectral::ColorSpaceSpectral(const char* file_name, lmx::elmx_error* error) : ColorSpaceSpectral() { *error = unmarshal(file_name); }
-lmx::elmx_error ColorSpaceSpectral::unmarshal(const char* file_name) { return lmx::unmarshal_document(k_document, this, file_name); }
 ColorSpaceSpectral::ColorSpaceSpectral(const char* data, std::size_t size, lmx::elmx_error* error) : ColorSpaceSpectral() { *error = unmarshal(data, size); }
-lmx::elmx_error ColorSpaceSpectral::unmarshal(const char* data, std::size_t size) { return lmx::unmarshal_document(k_document, this, data, size); }
 ColorSpaceSpectral::ColorSpaceSpectral(const std::string& text, lmx::elmx_error* error) : ColorSpaceSpectral() { *error = unmarshal(text.data(), text.size()); }
+const lmx::s_ns_map* ColorSpaceSpectral::ns_map() { return k_ns_map; }
+lmx::elmx_error ColorSpaceSpectral::unmarshal(const char* file_name) { return lmx::unmarshal_document(k_document, this, file_name); }
+lmx::elmx_error ColorSpaceSpectral::unmarshal(const char* data, std::size_t size) { return lmx::unmarshal_document(k_document, this, data, size); }
 lmx::elmx_error ColorSpaceSpectral::unmarshal(const std::string& text) { return lmx::unmarshal_document(k_document, this, text.data(), text.size()); }
+lmx::elmx_error ColorSpaceSpectral::unmarshal(lmx::c_xml_reader& reader) { return lmx::unmarshal_document(k_document, this, reader); }
 lmx::elmx_error ColorSpaceSpectral::marshal(const char* file_name) const { return lmx::marshal_document(k_document, this, file_name); }
 lmx::elmx_error ColorSpaceSpectral::marshal(std::string* text) const { return lmx::marshal_document(k_document, this, text); }
 lmx::elmx_error ColorSpaceSpectral::marshal(std::ostream& stream) const { return lmx::marshal_document(k_document, this, stream); }
+lmx::elmx_error ColorSpaceSpectral::marshal(lmx::c_xml_writer& writer, const char* name) const { writer.conditionally_select_ns_map(k_ns_map); return ColorSpaceSpectralType::marshal(writer, name); }
+lmx::elmx_error ColorSpaceSpectral::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return ColorSpaceSpectralType::unmarshal(reader, name); }
 
 // ColorSpaceEmissiveSpectral
 
-lmx::elmx_error ColorSpaceEmissiveSpectral::marshal(lmx::c_xml_writer& writer, const char* name) const {
-    writer.conditionally_select_ns_map(k_ns_map);
-    return ColorSpaceEmissiveSpectralType::marshal(writer, name);
-}
-lmx::elmx_error ColorSpaceEmissiveSpectral::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return ColorSpaceEmissiveSpectralType::unmarshal(reader, name); }
 constinit const lmx::s_document ColorSpaceEmissiveSpectral::k_document = {"Vyr:ColorSpaceEmissiveSpectral", "ColorSpaceEmissiveSpectral", k_ns_map, &lmx::k_operations<ColorSpaceEmissiveSpectral>};
-const lmx::s_ns_map* ColorSpaceEmissiveSpectral::ns_map() { return k_ns_map; }
-lmx::elmx_error ColorSpaceEmissiveSpectral::unmarshal(lmx::c_xml_reader& reader) { return lmx::unmarshal_document(k_document, this, reader); }
 ColorSpaceEmissiveSpectral::ColorSpaceEmissiveSpectral(const char* file_name, lmx::elmx_error* error) : ColorSpaceEmissiveSpectral() { *error = unmarshal(file_name); }
-lmx::elmx_error ColorSpaceEmissiveSpectral::unmarshal(const char* file_name) { return lmx::unmarshal_document(k_document, this, file_name); }
 ColorSpaceEmissiveSpectral::ColorSpaceEmissiveSpectral(const char* data, std::size_t size, lmx::elmx_error* error) : ColorSpaceEmissiveSpectral() { *error = unmarshal(data, size); }
-lmx::elmx_error ColorSpaceEmissiveSpectral::unmarshal(const char* data, std::size_t size) { return lmx::unmarshal_document(k_document, this, data, size); }
 ColorSpaceEmissiveSpectral::ColorSpaceEmissiveSpectral(const std::string& text, lmx::elmx_error* error) : ColorSpaceEmissiveSpectral() { *error = unmarshal(text.data(), text.size()); }
+const lmx::s_ns_map* ColorSpaceEmissiveSpectral::ns_map() { return k_ns_map; }
+lmx::elmx_error ColorSpaceEmissiveSpectral::unmarshal(const char* file_name) { return lmx::unmarshal_document(k_document, this, file_name); }
+lmx::elmx_error ColorSpaceEmissiveSpectral::unmarshal(const char* data, std::size_t size) { return lmx::unmarshal_document(k_document, this, data, size); }
 lmx::elmx_error ColorSpaceEmissiveSpectral::unmarshal(const std::string& text) { return lmx::unmarshal_document(k_document, this, text.data(), text.size()); }
+lmx::elmx_error ColorSpaceEmissiveSpectral::unmarshal(lmx::c_xml_reader& reader) { return lmx::unmarshal_document(k_document, this, reader); }
 lmx::elmx_error ColorSpaceEmissiveSpectral::marshal(const char* file_name) const { return lmx::marshal_document(k_document, this, file_name); }
 lmx::elmx_error ColorSpaceEmissiveSpectral::marshal(std::string* text) const { return lmx::marshal_document(k_document, this, text); }
 lmx::elmx_error ColorSpaceEmissiveSpectral::marshal(std::ostream& stream) const { return lmx::marshal_document(k_document, this, stream); }
+lmx::elmx_error ColorSpaceEmissiveSpectral::marshal(lmx::c_xml_writer& writer, const char* name) const { writer.conditionally_select_ns_map(k_ns_map); return ColorSpaceEmissiveSpectralType::marshal(writer, name); }
+lmx::elmx_error ColorSpaceEmissiveSpectral::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return ColorSpaceEmissiveSpectralType::unmarshal(reader, name); }
 
 // ReflectancePointType
 
@@ -480,14 +425,8 @@ constinit const s_item ReflectancePointType::k_items[] = {
 constinit const s_class ReflectancePointType::k_class = {
     .name = "ReflectancePointType",
     .qualified_name = "Vyr:ReflectancePointType",
-    .base = nullptr,
     .content = content_kind::simple,
-    .may_be_empty = false,
     .ns_map = k_ns_map,
-    .nil_flag = k_no_flag,
-    .choice = k_no_flag,
-    .id = nullptr,
-    .xsi_type = nullptr,
     .attributes = std::span(k_items).first(std::size(k_ReflectancePointType_attributes) - 1),
     .elements = std::span(k_items).subspan(std::size(k_ReflectancePointType_attributes) - 1),
     .attribute_map = k_ReflectancePointType_attributes,
@@ -499,16 +438,11 @@ ReflectancePointType::ReflectancePointType() = default;
 ReflectancePointType::ReflectancePointType(const ReflectancePointType& other) { lmx::copy(k_class, this, &other); }
 ReflectancePointType::~ReflectancePointType() = default;
 ReflectancePointType& ReflectancePointType::operator=(const ReflectancePointType& other) { ReflectancePointType copy(other); swap(copy); return *this; }
+lmx::elmx_error ReflectancePointType::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
+lmx::elmx_error ReflectancePointType::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
 void ReflectancePointType::swap(ReflectancePointType& other) { lmx::swap(k_class, this, &other); }
 void ReflectancePointType::reset() { ReflectancePointType fresh; lmx::exchange(k_class, this, &fresh); }
 bool ReflectancePointType::is_occurs_ok() const { return lmx::is_occurs_ok(k_class, this); }
-lmx::elmx_error ReflectancePointType::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
-lmx::elmx_error ReflectancePointType::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
-void ReflectancePointType::marshal_attributes(lmx::c_xml_writer& writer) const { lmx::marshal_attributes(k_class, this, writer); }
-lmx::elmx_error ReflectancePointType::marshal_child_elements(lmx::c_xml_writer& writer) const { return lmx::marshal_child_elements(k_class, this, writer); }
-bool ReflectancePointType::unmarshal_attributes(lmx::c_xml_reader& reader, const std::string& name, lmx::elmx_error* error) { return lmx::unmarshal_attribute(k_class, this, reader, name, error); }
-lmx::elmx_error ReflectancePointType::unmarshal_attributes_check(lmx::c_xml_reader& reader) { return lmx::check_required_attributes(k_class, this, reader); }
-bool ReflectancePointType::unmarshal_body(lmx::c_xml_reader& reader, std::string* name, lmx::elmx_error* error, bool has_body) { return lmx::unmarshal_content(k_class, this, reader, name, error, has_body); }
 lmx::elmx_error ReflectancePointType::set_Wavelength(double value) { return lmx::set_item(k_class, k_items[item_Wavelength], this, value); }
 lmx::elmx_error ReflectancePointType::set_ReflectancePointType(double value) { return lmx::set_item(k_class, k_items[item_ReflectancePointType], this, value); }
 
@@ -530,14 +464,8 @@ constinit const s_item EmissiveSpectralPointType::k_items[] = {
 constinit const s_class EmissiveSpectralPointType::k_class = {
     .name = "EmissiveSpectralPointType",
     .qualified_name = "Vyr:EmissiveSpectralPointType",
-    .base = nullptr,
     .content = content_kind::simple,
-    .may_be_empty = false,
     .ns_map = k_ns_map,
-    .nil_flag = k_no_flag,
-    .choice = k_no_flag,
-    .id = nullptr,
-    .xsi_type = nullptr,
     .attributes = std::span(k_items).first(std::size(k_EmissiveSpectralPointType_attributes) - 1),
     .elements = std::span(k_items).subspan(std::size(k_EmissiveSpectralPointType_attributes) - 1),
     .attribute_map = k_EmissiveSpectralPointType_attributes,
@@ -549,16 +477,11 @@ EmissiveSpectralPointType::EmissiveSpectralPointType() = default;
 EmissiveSpectralPointType::EmissiveSpectralPointType(const EmissiveSpectralPointType& other) { lmx::copy(k_class, this, &other); }
 EmissiveSpectralPointType::~EmissiveSpectralPointType() = default;
 EmissiveSpectralPointType& EmissiveSpectralPointType::operator=(const EmissiveSpectralPointType& other) { EmissiveSpectralPointType copy(other); swap(copy); return *this; }
+lmx::elmx_error EmissiveSpectralPointType::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
+lmx::elmx_error EmissiveSpectralPointType::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
 void EmissiveSpectralPointType::swap(EmissiveSpectralPointType& other) { lmx::swap(k_class, this, &other); }
 void EmissiveSpectralPointType::reset() { EmissiveSpectralPointType fresh; lmx::exchange(k_class, this, &fresh); }
 bool EmissiveSpectralPointType::is_occurs_ok() const { return lmx::is_occurs_ok(k_class, this); }
-lmx::elmx_error EmissiveSpectralPointType::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
-lmx::elmx_error EmissiveSpectralPointType::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
-void EmissiveSpectralPointType::marshal_attributes(lmx::c_xml_writer& writer) const { lmx::marshal_attributes(k_class, this, writer); }
-lmx::elmx_error EmissiveSpectralPointType::marshal_child_elements(lmx::c_xml_writer& writer) const { return lmx::marshal_child_elements(k_class, this, writer); }
-bool EmissiveSpectralPointType::unmarshal_attributes(lmx::c_xml_reader& reader, const std::string& name, lmx::elmx_error* error) { return lmx::unmarshal_attribute(k_class, this, reader, name, error); }
-lmx::elmx_error EmissiveSpectralPointType::unmarshal_attributes_check(lmx::c_xml_reader& reader) { return lmx::check_required_attributes(k_class, this, reader); }
-bool EmissiveSpectralPointType::unmarshal_body(lmx::c_xml_reader& reader, std::string* name, lmx::elmx_error* error, bool has_body) { return lmx::unmarshal_content(k_class, this, reader, name, error, has_body); }
 lmx::elmx_error EmissiveSpectralPointType::set_Wavelength(double value) { return lmx::set_item(k_class, k_items[item_Wavelength], this, value); }
 lmx::elmx_error EmissiveSpectralPointType::set_EmissiveSpectralPointType(double value) { return lmx::set_item(k_class, k_items[item_EmissiveSpectralPointType], this, value); }
 
@@ -581,15 +504,8 @@ constinit const s_item AxisValueChoice::k_items[] = {
 constinit const s_class AxisValueChoice::k_class = {
     .name = "AxisValueChoice",
     .qualified_name = "Vyr:AxisValueChoice",
-    .base = nullptr,
     .content = content_kind::choice,
-    .may_be_empty = false,
-    .ns_map = nullptr,
-    .nil_flag = k_no_flag,
     .choice = LMX_CHOICE(AxisValueChoice, m_choice),
-    .id = nullptr,
-    .xsi_type = nullptr,
-    .attributes = std::span(k_items).first(std::size(k_no_events) - 1),
     .elements = std::span(k_items).subspan(std::size(k_no_events) - 1),
     .attribute_map = k_no_events,
     .element_map = k_AxisValueChoice_elements,
@@ -600,16 +516,11 @@ AxisValueChoice::AxisValueChoice() = default;
 AxisValueChoice::AxisValueChoice(const AxisValueChoice& other) : AxisValueChoice() { lmx::copy(k_class, this, &other); }
 AxisValueChoice::~AxisValueChoice() { lmx::release_choice(k_class, this); }
 AxisValueChoice& AxisValueChoice::operator=(const AxisValueChoice& other) { AxisValueChoice copy(other); swap(copy); return *this; }
+lmx::elmx_error AxisValueChoice::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
+lmx::elmx_error AxisValueChoice::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
 void AxisValueChoice::swap(AxisValueChoice& other) { lmx::swap(k_class, this, &other); }
 void AxisValueChoice::reset() { AxisValueChoice fresh; lmx::exchange(k_class, this, &fresh); }
 bool AxisValueChoice::is_occurs_ok() const { return lmx::is_occurs_ok(k_class, this); }
-lmx::elmx_error AxisValueChoice::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
-lmx::elmx_error AxisValueChoice::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
-void AxisValueChoice::marshal_attributes(lmx::c_xml_writer& writer) const { lmx::marshal_attributes(k_class, this, writer); }
-lmx::elmx_error AxisValueChoice::marshal_child_elements(lmx::c_xml_writer& writer) const { return lmx::marshal_child_elements(k_class, this, writer); }
-bool AxisValueChoice::unmarshal_attributes(lmx::c_xml_reader& reader, const std::string& name, lmx::elmx_error* error) { return lmx::unmarshal_attribute(k_class, this, reader, name, error); }
-lmx::elmx_error AxisValueChoice::unmarshal_attributes_check(lmx::c_xml_reader& reader) { return lmx::check_required_attributes(k_class, this, reader); }
-bool AxisValueChoice::unmarshal_body(lmx::c_xml_reader& reader, std::string* name, lmx::elmx_error* error) { return lmx::unmarshal_body(k_class, this, reader, name, error); }
 FloatingPointValueType& AxisValueChoice::get_AxisFloatingPointValue() { return *static_cast<FloatingPointValueType*>(lmx::choose(k_class, k_items[item_AxisFloatingPointValue], this)); }
 FloatingPointValueType& AxisValueChoice::assign_AxisFloatingPointValue(const FloatingPointValueType& value) { FloatingPointValueType copy(value); FloatingPointValueType& target = get_AxisFloatingPointValue(); target.swap(copy); return target; }
 const std::u16string& AxisValueChoice::get_AxisStringValue() const { return lmx::chosen_text(k_class, k_items[item_AxisStringValue], this); }
@@ -634,15 +545,8 @@ constinit const s_item AxisType::k_items[] = {
 constinit const s_class AxisType::k_class = {
     .name = "AxisType",
     .qualified_name = "Vyr:AxisType",
-    .base = nullptr,
     .content = content_kind::children,
-    .may_be_empty = false,
     .ns_map = k_ns_map,
-    .nil_flag = k_no_flag,
-    .choice = k_no_flag,
-    .id = nullptr,
-    .xsi_type = nullptr,
-    .attributes = std::span(k_items).first(std::size(k_no_events) - 1),
     .elements = std::span(k_items).subspan(std::size(k_no_events) - 1),
     .attribute_map = k_no_events,
     .element_map = k_AxisType_elements,
@@ -653,16 +557,11 @@ AxisType::AxisType() = default;
 AxisType::AxisType(const AxisType& other) { lmx::copy(k_class, this, &other); }
 AxisType::~AxisType() = default;
 AxisType& AxisType::operator=(const AxisType& other) { AxisType copy(other); swap(copy); return *this; }
+lmx::elmx_error AxisType::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
+lmx::elmx_error AxisType::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
 void AxisType::swap(AxisType& other) { lmx::swap(k_class, this, &other); }
 void AxisType::reset() { AxisType fresh; lmx::exchange(k_class, this, &fresh); }
 bool AxisType::is_occurs_ok() const { return lmx::is_occurs_ok(k_class, this); }
-lmx::elmx_error AxisType::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
-lmx::elmx_error AxisType::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
-void AxisType::marshal_attributes(lmx::c_xml_writer& writer) const { lmx::marshal_attributes(k_class, this, writer); }
-lmx::elmx_error AxisType::marshal_child_elements(lmx::c_xml_writer& writer) const { return lmx::marshal_child_elements(k_class, this, writer); }
-bool AxisType::unmarshal_attributes(lmx::c_xml_reader& reader, const std::string& name, lmx::elmx_error* error) { return lmx::unmarshal_attribute(k_class, this, reader, name, error); }
-lmx::elmx_error AxisType::unmarshal_attributes_check(lmx::c_xml_reader& reader) { return lmx::check_required_attributes(k_class, this, reader); }
-bool AxisType::unmarshal_body(lmx::c_xml_reader& reader, std::string* name, lmx::elmx_error* error) { return lmx::unmarshal_body(k_class, this, reader, name, error); }
 lmx::elmx_error AxisType::set_AxisName(const std::u16string& value) { return lmx::set_item(k_class, k_items[item_AxisName], this, value); }
 AxisValueChoice& AxisType::assign_AxisValueChoice(const AxisValueChoice& value) { return get_AxisValueChoice() = value; }
 
@@ -690,14 +589,8 @@ constinit const s_item FloatingPointValueType::k_items[] = {
 constinit const s_class FloatingPointValueType::k_class = {
     .name = "FloatingPointValueType",
     .qualified_name = "Vyr:FloatingPointValueType",
-    .base = nullptr,
     .content = content_kind::simple,
-    .may_be_empty = false,
     .ns_map = k_ns_map,
-    .nil_flag = k_no_flag,
-    .choice = k_no_flag,
-    .id = nullptr,
-    .xsi_type = nullptr,
     .attributes = std::span(k_items).first(std::size(k_FloatingPointValueType_attributes) - 1),
     .elements = std::span(k_items).subspan(std::size(k_FloatingPointValueType_attributes) - 1),
     .attribute_map = k_FloatingPointValueType_attributes,
@@ -705,20 +598,15 @@ constinit const s_class FloatingPointValueType::k_class = {
     .operations = &k_operations<FloatingPointValueType>,
 };
 
-FloatingPointValueType::FloatingPointValueType() : m_AxisNominalScale(facets::AxisScaleKind.enumerated->find(1)) { }
+FloatingPointValueType::FloatingPointValueType() : m_AxisNominalScale(facets::AxisScaleKind.enumerated->find(1)) {}
 FloatingPointValueType::FloatingPointValueType(const FloatingPointValueType& other) : FloatingPointValueType() { lmx::copy(k_class, this, &other); }
 FloatingPointValueType::~FloatingPointValueType() = default;
 FloatingPointValueType& FloatingPointValueType::operator=(const FloatingPointValueType& other) { FloatingPointValueType copy(other); swap(copy); return *this; }
+lmx::elmx_error FloatingPointValueType::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
+lmx::elmx_error FloatingPointValueType::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
 void FloatingPointValueType::swap(FloatingPointValueType& other) { lmx::swap(k_class, this, &other); }
 void FloatingPointValueType::reset() { FloatingPointValueType fresh; lmx::exchange(k_class, this, &fresh); }
 bool FloatingPointValueType::is_occurs_ok() const { return lmx::is_occurs_ok(k_class, this); }
-lmx::elmx_error FloatingPointValueType::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
-lmx::elmx_error FloatingPointValueType::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
-void FloatingPointValueType::marshal_attributes(lmx::c_xml_writer& writer) const { lmx::marshal_attributes(k_class, this, writer); }
-lmx::elmx_error FloatingPointValueType::marshal_child_elements(lmx::c_xml_writer& writer) const { return lmx::marshal_child_elements(k_class, this, writer); }
-bool FloatingPointValueType::unmarshal_attributes(lmx::c_xml_reader& reader, const std::string& name, lmx::elmx_error* error) { return lmx::unmarshal_attribute(k_class, this, reader, name, error); }
-lmx::elmx_error FloatingPointValueType::unmarshal_attributes_check(lmx::c_xml_reader& reader) { return lmx::check_required_attributes(k_class, this, reader); }
-bool FloatingPointValueType::unmarshal_body(lmx::c_xml_reader& reader, std::string* name, lmx::elmx_error* error, bool has_body) { return lmx::unmarshal_content(k_class, this, reader, name, error, has_body); }
 lmx::elmx_error FloatingPointValueType::set_AxisNominalMax(double value) { return lmx::set_item(k_class, k_items[item_AxisNominalMax], this, value); }
 lmx::elmx_error FloatingPointValueType::set_AxisNominalMin(double value) { return lmx::set_item(k_class, k_items[item_AxisNominalMin], this, value); }
 lmx::elmx_error FloatingPointValueType::set_AxisNominalScale(const std::u16string& value) { return lmx::set_item(k_class, k_items[item_AxisNominalScale], this, value); }
@@ -746,14 +634,8 @@ constinit const s_item DensityType::k_items[] = {
 constinit const s_class DensityType::k_class = {
     .name = "DensityType",
     .qualified_name = "Vyr:DensityType",
-    .base = nullptr,
     .content = content_kind::simple,
-    .may_be_empty = false,
     .ns_map = k_ns_map,
-    .nil_flag = k_no_flag,
-    .choice = k_no_flag,
-    .id = nullptr,
-    .xsi_type = nullptr,
     .attributes = std::span(k_items).first(std::size(k_DensityType_attributes) - 1),
     .elements = std::span(k_items).subspan(std::size(k_DensityType_attributes) - 1),
     .attribute_map = k_DensityType_attributes,
@@ -765,16 +647,11 @@ DensityType::DensityType() = default;
 DensityType::DensityType(const DensityType& other) { lmx::copy(k_class, this, &other); }
 DensityType::~DensityType() = default;
 DensityType& DensityType::operator=(const DensityType& other) { DensityType copy(other); swap(copy); return *this; }
+lmx::elmx_error DensityType::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
+lmx::elmx_error DensityType::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
 void DensityType::swap(DensityType& other) { lmx::swap(k_class, this, &other); }
 void DensityType::reset() { DensityType fresh; lmx::exchange(k_class, this, &fresh); }
 bool DensityType::is_occurs_ok() const { return lmx::is_occurs_ok(k_class, this); }
-lmx::elmx_error DensityType::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
-lmx::elmx_error DensityType::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
-void DensityType::marshal_attributes(lmx::c_xml_writer& writer) const { lmx::marshal_attributes(k_class, this, writer); }
-lmx::elmx_error DensityType::marshal_child_elements(lmx::c_xml_writer& writer) const { return lmx::marshal_child_elements(k_class, this, writer); }
-bool DensityType::unmarshal_attributes(lmx::c_xml_reader& reader, const std::string& name, lmx::elmx_error* error) { return lmx::unmarshal_attribute(k_class, this, reader, name, error); }
-lmx::elmx_error DensityType::unmarshal_attributes_check(lmx::c_xml_reader& reader) { return lmx::check_required_attributes(k_class, this, reader); }
-bool DensityType::unmarshal_body(lmx::c_xml_reader& reader, std::string* name, lmx::elmx_error* error, bool has_body) { return lmx::unmarshal_content(k_class, this, reader, name, error, has_body); }
 lmx::elmx_error DensityType::set_DensityStatus(const std::u16string& value) { return lmx::set_item(k_class, k_items[item_DensityStatus], this, value); }
 bool DensityType::setenum_DensityStatus(std::int32_t number) { return lmx::set_enumerated(k_class, k_items[item_DensityStatus], this, number); }
 lmx::elmx_error DensityType::set_DensityFilter(const std::u16string& value) { return lmx::set_item(k_class, k_items[item_DensityFilter], this, value); }

@@ -68,41 +68,30 @@ constinit const s_factory_row SampleType::k_factory[] = {
 constinit const s_class SampleType::k_class = {
     .name = "SampleType",
     .qualified_name = "Vyr:SampleType",
-    .base = nullptr,
     .content = content_kind::children,
-    .may_be_empty = false,
     .ns_map = k_ns_map,
-    .nil_flag = k_no_flag,
-    .choice = k_no_flag,
     .id = &SampleType::id,
     .xsi_type = "Vyr:SampleType",
-    .attributes = std::span(k_items).first(std::size(k_no_events) - 1),
     .elements = std::span(k_items).subspan(std::size(k_no_events) - 1),
     .attribute_map = k_no_events,
     .element_map = k_SampleType_elements,
     .operations = &k_operations<SampleType>,
 };
 
+namespace { const char k_SampleType_id[] = "SampleType"; }
+const char* SampleType::id = k_SampleType_id;
 SampleType::SampleType() = default;
 SampleType::SampleType(const SampleType& other) { lmx::copy(k_class, this, &other); }
+SampleType* SampleType::clone() const { return new SampleType(*this); }
 SampleType::~SampleType() = default;
 SampleType& SampleType::operator=(const SampleType& other) { SampleType copy(other); swap(copy); return *this; }
+const char* SampleType::getid() const { return id; }
+bool SampleType::has_id(const char* identity) const { return identity == id; }
+lmx::elmx_error SampleType::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
+lmx::elmx_error SampleType::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
 void SampleType::swap(SampleType& other) { lmx::swap(k_class, this, &other); }
 void SampleType::reset() { SampleType fresh; lmx::exchange(k_class, this, &fresh); }
 bool SampleType::is_occurs_ok() const { return lmx::is_occurs_ok(k_class, this); }
-lmx::elmx_error SampleType::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
-lmx::elmx_error SampleType::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
-void SampleType::marshal_attributes(lmx::c_xml_writer& writer) const { lmx::marshal_attributes(k_class, this, writer); }
-lmx::elmx_error SampleType::marshal_child_elements(lmx::c_xml_writer& writer) const { return lmx::marshal_child_elements(k_class, this, writer); }
-bool SampleType::unmarshal_attributes(lmx::c_xml_reader& reader, const std::string& name, lmx::elmx_error* error) { return lmx::unmarshal_attribute(k_class, this, reader, name, error); }
-lmx::elmx_error SampleType::unmarshal_attributes_check(lmx::c_xml_reader& reader) { return lmx::check_required_attributes(k_class, this, reader); }
-bool SampleType::unmarshal_body(lmx::c_xml_reader& reader, std::string* name, lmx::elmx_error* error) { return lmx::unmarshal_body(k_class, this, reader, name, error); }
-namespace { const char k_SampleType_id[] = "SampleType"; }
-const char* SampleType::id = k_SampleType_id;
-SampleType* SampleType::clone() const { return new SampleType(*this); }
-const char* SampleType::getid() const { return id; }
-bool SampleType::has_id(const char* identity) const { return identity == id; }
-SampleType* SampleType::factory(int ns_id, const std::string& name) { return static_cast<SampleType*>(lmx::create_by_name(k_factory, ns_id, name)); }
 CustomAttributeType& SampleType::get_CustomAttribute(std::size_t index) { return m_CustomAttribute.grow_to(index); }
 CustomAttributeType& SampleType::assign_CustomAttribute(std::size_t index, const CustomAttributeType& value) { return get_CustomAttribute(index) = value; }
 lmx::elmx_error SampleType::append_CustomAttribute() { m_CustomAttribute.append(); return lmx::ELMX_OK; }
@@ -116,17 +105,15 @@ lmx::elmx_error SampleType::set_Manufacturer(const std::u16string& value) { retu
 lmx::elmx_error SampleType::set_ProductionDate(const lmx::c_datetime& value) { return lmx::set_item(k_class, k_items[item_ProductionDate], this, value); }
 lmx::elmx_error SampleType::set_SerialNumber(const std::u16string& value) { return lmx::set_item(k_class, k_items[item_SerialNumber], this, value); }
 lmx::elmx_error SampleType::set_Comment(const std::u16string& value) { return lmx::set_item(k_class, k_items[item_Comment], this, value); }
+SampleType* SampleType::factory(int ns_id, const std::string& name) { return static_cast<SampleType*>(lmx::create_by_name(k_factory, ns_id, name)); }
 
 // Sample
 
-lmx::elmx_error Sample::marshal(lmx::c_xml_writer& writer, const char* name) const {
-    writer.conditionally_select_ns_map(k_ns_map);
-    return SampleType::marshal(writer, name);
-}
-lmx::elmx_error Sample::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return SampleType::unmarshal(reader, name); }
 constinit const lmx::s_document Sample::k_document = {"Vyr:Sample", "Sample", k_ns_map, &lmx::k_operations<Sample>};
 const lmx::s_ns_map* Sample::ns_map() { return k_ns_map; }
 lmx::elmx_error Sample::unmarshal(lmx::c_xml_reader& reader) { return lmx::unmarshal_document(k_document, this, reader); }
+lmx::elmx_error Sample::marshal(lmx::c_xml_writer& writer, const char* name) const { writer.conditionally_select_ns_map(k_ns_map); return SampleType::marshal(writer, name); }
+lmx::elmx_error Sample::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return SampleType::unmarshal(reader, name); }
 
 // Specification
 
@@ -147,15 +134,7 @@ constinit const s_item Specification::k_items[] = {
 constinit const s_class Specification::k_class = {
     .name = "Specification",
     .qualified_name = "Vyr:Specification",
-    .base = nullptr,
     .content = content_kind::children,
-    .may_be_empty = false,
-    .ns_map = nullptr,
-    .nil_flag = k_no_flag,
-    .choice = k_no_flag,
-    .id = nullptr,
-    .xsi_type = nullptr,
-    .attributes = std::span(k_items).first(std::size(k_no_events) - 1),
     .elements = std::span(k_items).subspan(std::size(k_no_events) - 1),
     .attribute_map = k_no_events,
     .element_map = k_Specification_elements,
@@ -166,16 +145,11 @@ Specification::Specification() = default;
 Specification::Specification(const Specification& other) { lmx::copy(k_class, this, &other); }
 Specification::~Specification() = default;
 Specification& Specification::operator=(const Specification& other) { Specification copy(other); swap(copy); return *this; }
+lmx::elmx_error Specification::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
+lmx::elmx_error Specification::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
 void Specification::swap(Specification& other) { lmx::swap(k_class, this, &other); }
 void Specification::reset() { Specification fresh; lmx::exchange(k_class, this, &fresh); }
 bool Specification::is_occurs_ok() const { return lmx::is_occurs_ok(k_class, this); }
-lmx::elmx_error Specification::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
-lmx::elmx_error Specification::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
-void Specification::marshal_attributes(lmx::c_xml_writer& writer) const { lmx::marshal_attributes(k_class, this, writer); }
-lmx::elmx_error Specification::marshal_child_elements(lmx::c_xml_writer& writer) const { return lmx::marshal_child_elements(k_class, this, writer); }
-bool Specification::unmarshal_attributes(lmx::c_xml_reader& reader, const std::string& name, lmx::elmx_error* error) { return lmx::unmarshal_attribute(k_class, this, reader, name, error); }
-lmx::elmx_error Specification::unmarshal_attributes_check(lmx::c_xml_reader& reader) { return lmx::check_required_attributes(k_class, this, reader); }
-bool Specification::unmarshal_body(lmx::c_xml_reader& reader, std::string* name, lmx::elmx_error* error) { return lmx::unmarshal_body(k_class, this, reader, name, error); }
 lmx::elmx_error Specification::set_SampleWidth(double value) { return lmx::set_item(k_class, k_items[item_SampleWidth], this, value); }
 lmx::elmx_error Specification::set_SampleHeight(double value) { return lmx::set_item(k_class, k_items[item_SampleHeight], this, value); }
 
@@ -197,38 +171,29 @@ constinit const s_class SampleSpotType::k_class = {
     .qualified_name = "Vyr:SampleSpotType",
     .base = &SampleType::k_class,
     .content = content_kind::children,
-    .may_be_empty = false,
     .ns_map = k_ns_map,
-    .nil_flag = k_no_flag,
-    .choice = k_no_flag,
     .id = &SampleSpotType::id,
     .xsi_type = "Vyr:SampleSpotType",
-    .attributes = std::span(k_items).first(std::size(k_no_events) - 1),
     .elements = std::span(k_items).subspan(std::size(k_no_events) - 1),
     .attribute_map = k_no_events,
     .element_map = k_SampleSpotType_elements,
     .operations = &k_operations<SampleSpotType>,
 };
 
+namespace { const char k_SampleSpotType_id[] = "SampleSpotType"; }
+const char* SampleSpotType::id = k_SampleSpotType_id;
 SampleSpotType::SampleSpotType() = default;
 SampleSpotType::SampleSpotType(const SampleSpotType& other) : SampleType() { lmx::copy(k_class, this, &other); }
+SampleSpotType* SampleSpotType::clone() const { return new SampleSpotType(*this); }
 SampleSpotType::~SampleSpotType() = default;
 SampleSpotType& SampleSpotType::operator=(const SampleSpotType& other) { SampleSpotType copy(other); swap(copy); return *this; }
+const char* SampleSpotType::getid() const { return id; }
+bool SampleSpotType::has_id(const char* identity) const { return identity == id || SampleType::has_id(identity); }
+lmx::elmx_error SampleSpotType::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
+lmx::elmx_error SampleSpotType::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
 void SampleSpotType::swap(SampleSpotType& other) { lmx::swap(k_class, this, &other); }
 void SampleSpotType::reset() { SampleSpotType fresh; lmx::exchange(k_class, this, &fresh); }
 bool SampleSpotType::is_occurs_ok() const { return lmx::is_occurs_ok(k_class, this); }
-lmx::elmx_error SampleSpotType::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
-lmx::elmx_error SampleSpotType::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
-void SampleSpotType::marshal_attributes(lmx::c_xml_writer& writer) const { lmx::marshal_attributes(k_class, this, writer); }
-lmx::elmx_error SampleSpotType::marshal_child_elements(lmx::c_xml_writer& writer) const { return lmx::marshal_child_elements(k_class, this, writer); }
-bool SampleSpotType::unmarshal_attributes(lmx::c_xml_reader& reader, const std::string& name, lmx::elmx_error* error) { return lmx::unmarshal_attribute(k_class, this, reader, name, error); }
-lmx::elmx_error SampleSpotType::unmarshal_attributes_check(lmx::c_xml_reader& reader) { return lmx::check_required_attributes(k_class, this, reader); }
-bool SampleSpotType::unmarshal_body(lmx::c_xml_reader& reader, std::string* name, lmx::elmx_error* error) { return lmx::unmarshal_body(k_class, this, reader, name, error); }
-namespace { const char k_SampleSpotType_id[] = "SampleSpotType"; }
-const char* SampleSpotType::id = k_SampleSpotType_id;
-SampleSpotType* SampleSpotType::clone() const { return new SampleSpotType(*this); }
-const char* SampleSpotType::getid() const { return id; }
-bool SampleSpotType::has_id(const char* identity) const { return identity == id || SampleType::has_id(identity); }
 Specification& SampleSpotType::assign_Specification(const Specification& value) { return get_Specification() = value; }
 
 // SampleTargetType
@@ -255,10 +220,7 @@ constinit const s_class SampleTargetType::k_class = {
     .qualified_name = "Vyr:SampleTargetType",
     .base = &SampleType::k_class,
     .content = content_kind::children,
-    .may_be_empty = false,
     .ns_map = k_ns_map,
-    .nil_flag = k_no_flag,
-    .choice = k_no_flag,
     .id = &SampleTargetType::id,
     .xsi_type = "Vyr:SampleTargetType",
     .attributes = std::span(k_items).first(std::size(k_SampleTargetType_attributes) - 1),
@@ -268,67 +230,56 @@ constinit const s_class SampleTargetType::k_class = {
     .operations = &k_operations<SampleTargetType>,
 };
 
+namespace { const char k_SampleTargetType_id[] = "SampleTargetType"; }
+const char* SampleTargetType::id = k_SampleTargetType_id;
 SampleTargetType::SampleTargetType() = default;
 SampleTargetType::SampleTargetType(const SampleTargetType& other) : SampleType() { lmx::copy(k_class, this, &other); }
+SampleTargetType* SampleTargetType::clone() const { return new SampleTargetType(*this); }
 SampleTargetType::~SampleTargetType() = default;
 SampleTargetType& SampleTargetType::operator=(const SampleTargetType& other) { SampleTargetType copy(other); swap(copy); return *this; }
+const char* SampleTargetType::getid() const { return id; }
+bool SampleTargetType::has_id(const char* identity) const { return identity == id || SampleType::has_id(identity); }
+lmx::elmx_error SampleTargetType::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
+lmx::elmx_error SampleTargetType::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
 void SampleTargetType::swap(SampleTargetType& other) { lmx::swap(k_class, this, &other); }
 void SampleTargetType::reset() { SampleTargetType fresh; lmx::exchange(k_class, this, &fresh); }
 bool SampleTargetType::is_occurs_ok() const { return lmx::is_occurs_ok(k_class, this); }
-lmx::elmx_error SampleTargetType::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
-lmx::elmx_error SampleTargetType::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
-void SampleTargetType::marshal_attributes(lmx::c_xml_writer& writer) const { lmx::marshal_attributes(k_class, this, writer); }
-lmx::elmx_error SampleTargetType::marshal_child_elements(lmx::c_xml_writer& writer) const { return lmx::marshal_child_elements(k_class, this, writer); }
-bool SampleTargetType::unmarshal_attributes(lmx::c_xml_reader& reader, const std::string& name, lmx::elmx_error* error) { return lmx::unmarshal_attribute(k_class, this, reader, name, error); }
-lmx::elmx_error SampleTargetType::unmarshal_attributes_check(lmx::c_xml_reader& reader) { return lmx::check_required_attributes(k_class, this, reader); }
-bool SampleTargetType::unmarshal_body(lmx::c_xml_reader& reader, std::string* name, lmx::elmx_error* error) { return lmx::unmarshal_body(k_class, this, reader, name, error); }
-namespace { const char k_SampleTargetType_id[] = "SampleTargetType"; }
-const char* SampleTargetType::id = k_SampleTargetType_id;
-SampleTargetType* SampleTargetType::clone() const { return new SampleTargetType(*this); }
-const char* SampleTargetType::getid() const { return id; }
-bool SampleTargetType::has_id(const char* identity) const { return identity == id || SampleType::has_id(identity); }
 lmx::elmx_error SampleTargetType::set_CustomTarget(const std::u16string& value) { return lmx::set_item(k_class, k_items[item_CustomTarget], this, value); }
 lmx::elmx_error SampleTargetType::set_Target(const std::u16string& value) { return lmx::set_item(k_class, k_items[item_Target], this, value); }
 bool SampleTargetType::setenum_Target(std::int32_t number) { return lmx::set_enumerated(k_class, k_items[item_Target], this, number); }
 
 // SampleSpot
 
-lmx::elmx_error SampleSpot::marshal(lmx::c_xml_writer& writer, const char* name) const {
-    writer.conditionally_select_ns_map(k_ns_map);
-    return SampleSpotType::marshal(writer, name);
-}
-lmx::elmx_error SampleSpot::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return SampleSpotType::unmarshal(reader, name); }
 constinit const lmx::s_document SampleSpot::k_document = {"Vyr:SampleSpot", "SampleSpot", k_ns_map, &lmx::k_operations<SampleSpot>};
-const lmx::s_ns_map* SampleSpot::ns_map() { return k_ns_map; }
-lmx::elmx_error SampleSpot::unmarshal(lmx::c_xml_reader& reader) { return lmx::unmarshal_document(k_document, this, reader); }
 SampleSpot::SampleSpot(const char* file_name, lmx::elmx_error* error) : SampleSpot() { *error = unmarshal(file_name); }
-lmx::elmx_error SampleSpot::unmarshal(const char* file_name) { return lmx::unmarshal_document(k_document, this, file_name); }
 SampleSpot::SampleSpot(const char* data, std::size_t size, lmx::elmx_error* error) : SampleSpot() { *error = unmarshal(data, size); }
-lmx::elmx_error SampleSpot::unmarshal(const char* data, std::size_t size) { return lmx::unmarshal_document(k_document, this, data, size); }
 SampleSpot::SampleSpot(const std::string& text, lmx::elmx_error* error) : SampleSpot() { *error = unmarshal(text.data(), text.size()); }
+const lmx::s_ns_map* SampleSpot::ns_map() { return k_ns_map; }
+lmx::elmx_error SampleSpot::unmarshal(const char* file_name) { return lmx::unmarshal_document(k_document, this, file_name); }
+lmx::elmx_error SampleSpot::unmarshal(const char* data, std::size_t size) { return lmx::unmarshal_document(k_document, this, data, size); }
 lmx::elmx_error SampleSpot::unmarshal(const std::string& text) { return lmx::unmarshal_document(k_document, this, text.data(), text.size()); }
+lmx::elmx_error SampleSpot::unmarshal(lmx::c_xml_reader& reader) { return lmx::unmarshal_document(k_document, this, reader); }
 lmx::elmx_error SampleSpot::marshal(const char* file_name) const { return lmx::marshal_document(k_document, this, file_name); }
 lmx::elmx_error SampleSpot::marshal(std::string* text) const { return lmx::marshal_document(k_document, this, text); }
 lmx::elmx_error SampleSpot::marshal(std::ostream& stream) const { return lmx::marshal_document(k_document, this, stream); }
+lmx::elmx_error SampleSpot::marshal(lmx::c_xml_writer& writer, const char* name) const { writer.conditionally_select_ns_map(k_ns_map); return SampleSpotType::marshal(writer, name); }
+lmx::elmx_error SampleSpot::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return SampleSpotType::unmarshal(reader, name); }
 
 // SampleTarget
 
-lmx::elmx_error SampleTarget::marshal(lmx::c_xml_writer& writer, const char* name) const {
-    writer.conditionally_select_ns_map(k_ns_map);
-    return SampleTargetType::marshal(writer, name);
-}
-lmx::elmx_error SampleTarget::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return SampleTargetType::unmarshal(reader, name); }
 constinit const lmx::s_document SampleTarget::k_document = {"Vyr:SampleTarget", "SampleTarget", k_ns_map, &lmx::k_operations<SampleTarget>};
-const lmx::s_ns_map* SampleTarget::ns_map() { return k_ns_map; }
-lmx::elmx_error SampleTarget::unmarshal(lmx::c_xml_reader& reader) { return lmx::unmarshal_document(k_document, this, reader); }
 SampleTarget::SampleTarget(const char* file_name, lmx::elmx_error* error) : SampleTarget() { *error = unmarshal(file_name); }
-lmx::elmx_error SampleTarget::unmarshal(const char* file_name) { return lmx::unmarshal_document(k_document, this, file_name); }
 SampleTarget::SampleTarget(const char* data, std::size_t size, lmx::elmx_error* error) : SampleTarget() { *error = unmarshal(data, size); }
-lmx::elmx_error SampleTarget::unmarshal(const char* data, std::size_t size) { return lmx::unmarshal_document(k_document, this, data, size); }
 SampleTarget::SampleTarget(const std::string& text, lmx::elmx_error* error) : SampleTarget() { *error = unmarshal(text.data(), text.size()); }
+const lmx::s_ns_map* SampleTarget::ns_map() { return k_ns_map; }
+lmx::elmx_error SampleTarget::unmarshal(const char* file_name) { return lmx::unmarshal_document(k_document, this, file_name); }
+lmx::elmx_error SampleTarget::unmarshal(const char* data, std::size_t size) { return lmx::unmarshal_document(k_document, this, data, size); }
 lmx::elmx_error SampleTarget::unmarshal(const std::string& text) { return lmx::unmarshal_document(k_document, this, text.data(), text.size()); }
+lmx::elmx_error SampleTarget::unmarshal(lmx::c_xml_reader& reader) { return lmx::unmarshal_document(k_document, this, reader); }
 lmx::elmx_error SampleTarget::marshal(const char* file_name) const { return lmx::marshal_document(k_document, this, file_name); }
 lmx::elmx_error SampleTarget::marshal(std::string* text) const { return lmx::marshal_document(k_document, this, text); }
 lmx::elmx_error SampleTarget::marshal(std::ostream& stream) const { return lmx::marshal_document(k_document, this, stream); }
+lmx::elmx_error SampleTarget::marshal(lmx::c_xml_writer& writer, const char* name) const { writer.conditionally_select_ns_map(k_ns_map); return SampleTargetType::marshal(writer, name); }
+lmx::elmx_error SampleTarget::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return SampleTargetType::unmarshal(reader, name); }
 
 }  // namespace com_vyrgraph_v2

@@ -55,41 +55,31 @@ constinit const s_factory_row SubstrateType::k_factory[] = {
 constinit const s_class SubstrateType::k_class = {
     .name = "SubstrateType",
     .qualified_name = "Vyr:SubstrateType",
-    .base = nullptr,
     .content = content_kind::children,
     .may_be_empty = true,
     .ns_map = k_ns_map,
-    .nil_flag = k_no_flag,
-    .choice = k_no_flag,
     .id = &SubstrateType::id,
     .xsi_type = "Vyr:SubstrateType",
-    .attributes = std::span(k_items).first(std::size(k_no_events) - 1),
     .elements = std::span(k_items).subspan(std::size(k_no_events) - 1),
     .attribute_map = k_no_events,
     .element_map = k_SubstrateType_elements,
     .operations = &k_operations<SubstrateType>,
 };
 
+namespace { const char k_SubstrateType_id[] = "SubstrateType"; }
+const char* SubstrateType::id = k_SubstrateType_id;
 SubstrateType::SubstrateType() = default;
 SubstrateType::SubstrateType(const SubstrateType& other) { lmx::copy(k_class, this, &other); }
+SubstrateType* SubstrateType::clone() const { return new SubstrateType(*this); }
 SubstrateType::~SubstrateType() = default;
 SubstrateType& SubstrateType::operator=(const SubstrateType& other) { SubstrateType copy(other); swap(copy); return *this; }
+const char* SubstrateType::getid() const { return id; }
+bool SubstrateType::has_id(const char* identity) const { return identity == id; }
+lmx::elmx_error SubstrateType::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
+lmx::elmx_error SubstrateType::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
 void SubstrateType::swap(SubstrateType& other) { lmx::swap(k_class, this, &other); }
 void SubstrateType::reset() { SubstrateType fresh; lmx::exchange(k_class, this, &fresh); }
 bool SubstrateType::is_occurs_ok() const { return lmx::is_occurs_ok(k_class, this); }
-lmx::elmx_error SubstrateType::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
-lmx::elmx_error SubstrateType::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
-void SubstrateType::marshal_attributes(lmx::c_xml_writer& writer) const { lmx::marshal_attributes(k_class, this, writer); }
-lmx::elmx_error SubstrateType::marshal_child_elements(lmx::c_xml_writer& writer) const { return lmx::marshal_child_elements(k_class, this, writer); }
-bool SubstrateType::unmarshal_attributes(lmx::c_xml_reader& reader, const std::string& name, lmx::elmx_error* error) { return lmx::unmarshal_attribute(k_class, this, reader, name, error); }
-lmx::elmx_error SubstrateType::unmarshal_attributes_check(lmx::c_xml_reader& reader) { return lmx::check_required_attributes(k_class, this, reader); }
-bool SubstrateType::unmarshal_body(lmx::c_xml_reader& reader, std::string* name, lmx::elmx_error* error) { return lmx::unmarshal_body(k_class, this, reader, name, error); }
-namespace { const char k_SubstrateType_id[] = "SubstrateType"; }
-const char* SubstrateType::id = k_SubstrateType_id;
-SubstrateType* SubstrateType::clone() const { return new SubstrateType(*this); }
-const char* SubstrateType::getid() const { return id; }
-bool SubstrateType::has_id(const char* identity) const { return identity == id; }
-SubstrateType* SubstrateType::factory(int ns_id, const std::string& name) { return static_cast<SubstrateType*>(lmx::create_by_name(k_factory, ns_id, name)); }
 CustomAttributeType& SubstrateType::get_CustomAttribute(std::size_t index) { return m_CustomAttribute.grow_to(index); }
 CustomAttributeType& SubstrateType::assign_CustomAttribute(std::size_t index, const CustomAttributeType& value) { return get_CustomAttribute(index) = value; }
 lmx::elmx_error SubstrateType::append_CustomAttribute() { m_CustomAttribute.append(); return lmx::ELMX_OK; }
@@ -100,17 +90,15 @@ lmx::elmx_error SubstrateType::set_PartNumber(const std::u16string& value) { ret
 ColorType& SubstrateType::get_Color() { ColorType& child = m_Color.touch(); m_isset_Color = true; return child; }
 const ColorType& SubstrateType::get_Color() const { return m_Color.get(); }
 ColorType& SubstrateType::assign_Color(const ColorType& value) { return get_Color() = value; }
+SubstrateType* SubstrateType::factory(int ns_id, const std::string& name) { return static_cast<SubstrateType*>(lmx::create_by_name(k_factory, ns_id, name)); }
 
 // Substrate
 
-lmx::elmx_error Substrate::marshal(lmx::c_xml_writer& writer, const char* name) const {
-    writer.conditionally_select_ns_map(k_ns_map);
-    return SubstrateType::marshal(writer, name);
-}
-lmx::elmx_error Substrate::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return SubstrateType::unmarshal(reader, name); }
 constinit const lmx::s_document Substrate::k_document = {"Vyr:Substrate", "Substrate", k_ns_map, &lmx::k_operations<Substrate>};
 const lmx::s_ns_map* Substrate::ns_map() { return k_ns_map; }
 lmx::elmx_error Substrate::unmarshal(lmx::c_xml_reader& reader) { return lmx::unmarshal_document(k_document, this, reader); }
+lmx::elmx_error Substrate::marshal(lmx::c_xml_writer& writer, const char* name) const { writer.conditionally_select_ns_map(k_ns_map); return SubstrateType::marshal(writer, name); }
+lmx::elmx_error Substrate::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return SubstrateType::unmarshal(reader, name); }
 
 // SubstratePaperType
 
@@ -135,36 +123,28 @@ constinit const s_class SubstratePaperType::k_class = {
     .content = content_kind::children,
     .may_be_empty = true,
     .ns_map = k_ns_map,
-    .nil_flag = k_no_flag,
-    .choice = k_no_flag,
     .id = &SubstratePaperType::id,
     .xsi_type = "Vyr:SubstratePaperType",
-    .attributes = std::span(k_items).first(std::size(k_no_events) - 1),
     .elements = std::span(k_items).subspan(std::size(k_no_events) - 1),
     .attribute_map = k_no_events,
     .element_map = k_SubstratePaperType_elements,
     .operations = &k_operations<SubstratePaperType>,
 };
 
+namespace { const char k_SubstratePaperType_id[] = "SubstratePaperType"; }
+const char* SubstratePaperType::id = k_SubstratePaperType_id;
 SubstratePaperType::SubstratePaperType() = default;
 SubstratePaperType::SubstratePaperType(const SubstratePaperType& other) : SubstrateType() { lmx::copy(k_class, this, &other); }
+SubstratePaperType* SubstratePaperType::clone() const { return new SubstratePaperType(*this); }
 SubstratePaperType::~SubstratePaperType() = default;
 SubstratePaperType& SubstratePaperType::operator=(const SubstratePaperType& other) { SubstratePaperType copy(other); swap(copy); return *this; }
+const char* SubstratePaperType::getid() const { return id; }
+bool SubstratePaperType::has_id(const char* identity) const { return identity == id || SubstrateType::has_id(identity); }
+lmx::elmx_error SubstratePaperType::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
+lmx::elmx_error SubstratePaperType::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
 void SubstratePaperType::swap(SubstratePaperType& other) { lmx::swap(k_class, this, &other); }
 void SubstratePaperType::reset() { SubstratePaperType fresh; lmx::exchange(k_class, this, &fresh); }
 bool SubstratePaperType::is_occurs_ok() const { return lmx::is_occurs_ok(k_class, this); }
-lmx::elmx_error SubstratePaperType::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
-lmx::elmx_error SubstratePaperType::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
-void SubstratePaperType::marshal_attributes(lmx::c_xml_writer& writer) const { lmx::marshal_attributes(k_class, this, writer); }
-lmx::elmx_error SubstratePaperType::marshal_child_elements(lmx::c_xml_writer& writer) const { return lmx::marshal_child_elements(k_class, this, writer); }
-bool SubstratePaperType::unmarshal_attributes(lmx::c_xml_reader& reader, const std::string& name, lmx::elmx_error* error) { return lmx::unmarshal_attribute(k_class, this, reader, name, error); }
-lmx::elmx_error SubstratePaperType::unmarshal_attributes_check(lmx::c_xml_reader& reader) { return lmx::check_required_attributes(k_class, this, reader); }
-bool SubstratePaperType::unmarshal_body(lmx::c_xml_reader& reader, std::string* name, lmx::elmx_error* error) { return lmx::unmarshal_body(k_class, this, reader, name, error); }
-namespace { const char k_SubstratePaperType_id[] = "SubstratePaperType"; }
-const char* SubstratePaperType::id = k_SubstratePaperType_id;
-SubstratePaperType* SubstratePaperType::clone() const { return new SubstratePaperType(*this); }
-const char* SubstratePaperType::getid() const { return id; }
-bool SubstratePaperType::has_id(const char* identity) const { return identity == id || SubstrateType::has_id(identity); }
 lmx::elmx_error SubstratePaperType::set_PaperThickness(double value) { return lmx::set_item(k_class, k_items[item_PaperThickness], this, value); }
 lmx::elmx_error SubstratePaperType::set_PaperType(const std::u16string& value) { return lmx::set_item(k_class, k_items[item_PaperType], this, value); }
 
@@ -186,38 +166,29 @@ constinit const s_class SubstrateGenericType::k_class = {
     .qualified_name = "Vyr:SubstrateGenericType",
     .base = &SubstrateType::k_class,
     .content = content_kind::children,
-    .may_be_empty = false,
     .ns_map = k_ns_map,
-    .nil_flag = k_no_flag,
-    .choice = k_no_flag,
     .id = &SubstrateGenericType::id,
     .xsi_type = "Vyr:SubstrateGenericType",
-    .attributes = std::span(k_items).first(std::size(k_no_events) - 1),
     .elements = std::span(k_items).subspan(std::size(k_no_events) - 1),
     .attribute_map = k_no_events,
     .element_map = k_SubstrateGenericType_elements,
     .operations = &k_operations<SubstrateGenericType>,
 };
 
+namespace { const char k_SubstrateGenericType_id[] = "SubstrateGenericType"; }
+const char* SubstrateGenericType::id = k_SubstrateGenericType_id;
 SubstrateGenericType::SubstrateGenericType() = default;
 SubstrateGenericType::SubstrateGenericType(const SubstrateGenericType& other) : SubstrateType() { lmx::copy(k_class, this, &other); }
+SubstrateGenericType* SubstrateGenericType::clone() const { return new SubstrateGenericType(*this); }
 SubstrateGenericType::~SubstrateGenericType() = default;
 SubstrateGenericType& SubstrateGenericType::operator=(const SubstrateGenericType& other) { SubstrateGenericType copy(other); swap(copy); return *this; }
+const char* SubstrateGenericType::getid() const { return id; }
+bool SubstrateGenericType::has_id(const char* identity) const { return identity == id || SubstrateType::has_id(identity); }
+lmx::elmx_error SubstrateGenericType::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
+lmx::elmx_error SubstrateGenericType::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
 void SubstrateGenericType::swap(SubstrateGenericType& other) { lmx::swap(k_class, this, &other); }
 void SubstrateGenericType::reset() { SubstrateGenericType fresh; lmx::exchange(k_class, this, &fresh); }
 bool SubstrateGenericType::is_occurs_ok() const { return lmx::is_occurs_ok(k_class, this); }
-lmx::elmx_error SubstrateGenericType::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
-lmx::elmx_error SubstrateGenericType::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
-void SubstrateGenericType::marshal_attributes(lmx::c_xml_writer& writer) const { lmx::marshal_attributes(k_class, this, writer); }
-lmx::elmx_error SubstrateGenericType::marshal_child_elements(lmx::c_xml_writer& writer) const { return lmx::marshal_child_elements(k_class, this, writer); }
-bool SubstrateGenericType::unmarshal_attributes(lmx::c_xml_reader& reader, const std::string& name, lmx::elmx_error* error) { return lmx::unmarshal_attribute(k_class, this, reader, name, error); }
-lmx::elmx_error SubstrateGenericType::unmarshal_attributes_check(lmx::c_xml_reader& reader) { return lmx::check_required_attributes(k_class, this, reader); }
-bool SubstrateGenericType::unmarshal_body(lmx::c_xml_reader& reader, std::string* name, lmx::elmx_error* error) { return lmx::unmarshal_body(k_class, this, reader, name, error); }
-namespace { const char k_SubstrateGenericType_id[] = "SubstrateGenericType"; }
-const char* SubstrateGenericType::id = k_SubstrateGenericType_id;
-SubstrateGenericType* SubstrateGenericType::clone() const { return new SubstrateGenericType(*this); }
-const char* SubstrateGenericType::getid() const { return id; }
-bool SubstrateGenericType::has_id(const char* identity) const { return identity == id || SubstrateType::has_id(identity); }
 lmx::elmx_error SubstrateGenericType::set_Type(const std::u16string& value) { return lmx::set_item(k_class, k_items[item_Type], this, value); }
 
 // SubstrateMetalType
@@ -243,36 +214,28 @@ constinit const s_class SubstrateMetalType::k_class = {
     .content = content_kind::children,
     .may_be_empty = true,
     .ns_map = k_ns_map,
-    .nil_flag = k_no_flag,
-    .choice = k_no_flag,
     .id = &SubstrateMetalType::id,
     .xsi_type = "Vyr:SubstrateMetalType",
-    .attributes = std::span(k_items).first(std::size(k_no_events) - 1),
     .elements = std::span(k_items).subspan(std::size(k_no_events) - 1),
     .attribute_map = k_no_events,
     .element_map = k_SubstrateMetalType_elements,
     .operations = &k_operations<SubstrateMetalType>,
 };
 
+namespace { const char k_SubstrateMetalType_id[] = "SubstrateMetalType"; }
+const char* SubstrateMetalType::id = k_SubstrateMetalType_id;
 SubstrateMetalType::SubstrateMetalType() = default;
 SubstrateMetalType::SubstrateMetalType(const SubstrateMetalType& other) : SubstrateType() { lmx::copy(k_class, this, &other); }
+SubstrateMetalType* SubstrateMetalType::clone() const { return new SubstrateMetalType(*this); }
 SubstrateMetalType::~SubstrateMetalType() = default;
 SubstrateMetalType& SubstrateMetalType::operator=(const SubstrateMetalType& other) { SubstrateMetalType copy(other); swap(copy); return *this; }
+const char* SubstrateMetalType::getid() const { return id; }
+bool SubstrateMetalType::has_id(const char* identity) const { return identity == id || SubstrateType::has_id(identity); }
+lmx::elmx_error SubstrateMetalType::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
+lmx::elmx_error SubstrateMetalType::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
 void SubstrateMetalType::swap(SubstrateMetalType& other) { lmx::swap(k_class, this, &other); }
 void SubstrateMetalType::reset() { SubstrateMetalType fresh; lmx::exchange(k_class, this, &fresh); }
 bool SubstrateMetalType::is_occurs_ok() const { return lmx::is_occurs_ok(k_class, this); }
-lmx::elmx_error SubstrateMetalType::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
-lmx::elmx_error SubstrateMetalType::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
-void SubstrateMetalType::marshal_attributes(lmx::c_xml_writer& writer) const { lmx::marshal_attributes(k_class, this, writer); }
-lmx::elmx_error SubstrateMetalType::marshal_child_elements(lmx::c_xml_writer& writer) const { return lmx::marshal_child_elements(k_class, this, writer); }
-bool SubstrateMetalType::unmarshal_attributes(lmx::c_xml_reader& reader, const std::string& name, lmx::elmx_error* error) { return lmx::unmarshal_attribute(k_class, this, reader, name, error); }
-lmx::elmx_error SubstrateMetalType::unmarshal_attributes_check(lmx::c_xml_reader& reader) { return lmx::check_required_attributes(k_class, this, reader); }
-bool SubstrateMetalType::unmarshal_body(lmx::c_xml_reader& reader, std::string* name, lmx::elmx_error* error) { return lmx::unmarshal_body(k_class, this, reader, name, error); }
-namespace { const char k_SubstrateMetalType_id[] = "SubstrateMetalType"; }
-const char* SubstrateMetalType::id = k_SubstrateMetalType_id;
-SubstrateMetalType* SubstrateMetalType::clone() const { return new SubstrateMetalType(*this); }
-const char* SubstrateMetalType::getid() const { return id; }
-bool SubstrateMetalType::has_id(const char* identity) const { return identity == id || SubstrateType::has_id(identity); }
 lmx::elmx_error SubstrateMetalType::set_MetalWeight(double value) { return lmx::set_item(k_class, k_items[item_MetalWeight], this, value); }
 lmx::elmx_error SubstrateMetalType::set_MetalType(const std::u16string& value) { return lmx::set_item(k_class, k_items[item_MetalType], this, value); }
 
@@ -299,36 +262,28 @@ constinit const s_class SubstratePlasticType::k_class = {
     .content = content_kind::children,
     .may_be_empty = true,
     .ns_map = k_ns_map,
-    .nil_flag = k_no_flag,
-    .choice = k_no_flag,
     .id = &SubstratePlasticType::id,
     .xsi_type = "Vyr:SubstratePlasticType",
-    .attributes = std::span(k_items).first(std::size(k_no_events) - 1),
     .elements = std::span(k_items).subspan(std::size(k_no_events) - 1),
     .attribute_map = k_no_events,
     .element_map = k_SubstratePlasticType_elements,
     .operations = &k_operations<SubstratePlasticType>,
 };
 
+namespace { const char k_SubstratePlasticType_id[] = "SubstratePlasticType"; }
+const char* SubstratePlasticType::id = k_SubstratePlasticType_id;
 SubstratePlasticType::SubstratePlasticType() = default;
 SubstratePlasticType::SubstratePlasticType(const SubstratePlasticType& other) : SubstrateType() { lmx::copy(k_class, this, &other); }
+SubstratePlasticType* SubstratePlasticType::clone() const { return new SubstratePlasticType(*this); }
 SubstratePlasticType::~SubstratePlasticType() = default;
 SubstratePlasticType& SubstratePlasticType::operator=(const SubstratePlasticType& other) { SubstratePlasticType copy(other); swap(copy); return *this; }
+const char* SubstratePlasticType::getid() const { return id; }
+bool SubstratePlasticType::has_id(const char* identity) const { return identity == id || SubstrateType::has_id(identity); }
+lmx::elmx_error SubstratePlasticType::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
+lmx::elmx_error SubstratePlasticType::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
 void SubstratePlasticType::swap(SubstratePlasticType& other) { lmx::swap(k_class, this, &other); }
 void SubstratePlasticType::reset() { SubstratePlasticType fresh; lmx::exchange(k_class, this, &fresh); }
 bool SubstratePlasticType::is_occurs_ok() const { return lmx::is_occurs_ok(k_class, this); }
-lmx::elmx_error SubstratePlasticType::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
-lmx::elmx_error SubstratePlasticType::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
-void SubstratePlasticType::marshal_attributes(lmx::c_xml_writer& writer) const { lmx::marshal_attributes(k_class, this, writer); }
-lmx::elmx_error SubstratePlasticType::marshal_child_elements(lmx::c_xml_writer& writer) const { return lmx::marshal_child_elements(k_class, this, writer); }
-bool SubstratePlasticType::unmarshal_attributes(lmx::c_xml_reader& reader, const std::string& name, lmx::elmx_error* error) { return lmx::unmarshal_attribute(k_class, this, reader, name, error); }
-lmx::elmx_error SubstratePlasticType::unmarshal_attributes_check(lmx::c_xml_reader& reader) { return lmx::check_required_attributes(k_class, this, reader); }
-bool SubstratePlasticType::unmarshal_body(lmx::c_xml_reader& reader, std::string* name, lmx::elmx_error* error) { return lmx::unmarshal_body(k_class, this, reader, name, error); }
-namespace { const char k_SubstratePlasticType_id[] = "SubstratePlasticType"; }
-const char* SubstratePlasticType::id = k_SubstratePlasticType_id;
-SubstratePlasticType* SubstratePlasticType::clone() const { return new SubstratePlasticType(*this); }
-const char* SubstratePlasticType::getid() const { return id; }
-bool SubstratePlasticType::has_id(const char* identity) const { return identity == id || SubstrateType::has_id(identity); }
 lmx::elmx_error SubstratePlasticType::set_PlasticWeight(double value) { return lmx::set_item(k_class, k_items[item_PlasticWeight], this, value); }
 lmx::elmx_error SubstratePlasticType::set_PlasticType(const std::u16string& value) { return lmx::set_item(k_class, k_items[item_PlasticType], this, value); }
 
@@ -355,36 +310,28 @@ constinit const s_class SubstrateWoodType::k_class = {
     .content = content_kind::children,
     .may_be_empty = true,
     .ns_map = k_ns_map,
-    .nil_flag = k_no_flag,
-    .choice = k_no_flag,
     .id = &SubstrateWoodType::id,
     .xsi_type = "Vyr:SubstrateWoodType",
-    .attributes = std::span(k_items).first(std::size(k_no_events) - 1),
     .elements = std::span(k_items).subspan(std::size(k_no_events) - 1),
     .attribute_map = k_no_events,
     .element_map = k_SubstrateWoodType_elements,
     .operations = &k_operations<SubstrateWoodType>,
 };
 
+namespace { const char k_SubstrateWoodType_id[] = "SubstrateWoodType"; }
+const char* SubstrateWoodType::id = k_SubstrateWoodType_id;
 SubstrateWoodType::SubstrateWoodType() = default;
 SubstrateWoodType::SubstrateWoodType(const SubstrateWoodType& other) : SubstrateType() { lmx::copy(k_class, this, &other); }
+SubstrateWoodType* SubstrateWoodType::clone() const { return new SubstrateWoodType(*this); }
 SubstrateWoodType::~SubstrateWoodType() = default;
 SubstrateWoodType& SubstrateWoodType::operator=(const SubstrateWoodType& other) { SubstrateWoodType copy(other); swap(copy); return *this; }
+const char* SubstrateWoodType::getid() const { return id; }
+bool SubstrateWoodType::has_id(const char* identity) const { return identity == id || SubstrateType::has_id(identity); }
+lmx::elmx_error SubstrateWoodType::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
+lmx::elmx_error SubstrateWoodType::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
 void SubstrateWoodType::swap(SubstrateWoodType& other) { lmx::swap(k_class, this, &other); }
 void SubstrateWoodType::reset() { SubstrateWoodType fresh; lmx::exchange(k_class, this, &fresh); }
 bool SubstrateWoodType::is_occurs_ok() const { return lmx::is_occurs_ok(k_class, this); }
-lmx::elmx_error SubstrateWoodType::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
-lmx::elmx_error SubstrateWoodType::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
-void SubstrateWoodType::marshal_attributes(lmx::c_xml_writer& writer) const { lmx::marshal_attributes(k_class, this, writer); }
-lmx::elmx_error SubstrateWoodType::marshal_child_elements(lmx::c_xml_writer& writer) const { return lmx::marshal_child_elements(k_class, this, writer); }
-bool SubstrateWoodType::unmarshal_attributes(lmx::c_xml_reader& reader, const std::string& name, lmx::elmx_error* error) { return lmx::unmarshal_attribute(k_class, this, reader, name, error); }
-lmx::elmx_error SubstrateWoodType::unmarshal_attributes_check(lmx::c_xml_reader& reader) { return lmx::check_required_attributes(k_class, this, reader); }
-bool SubstrateWoodType::unmarshal_body(lmx::c_xml_reader& reader, std::string* name, lmx::elmx_error* error) { return lmx::unmarshal_body(k_class, this, reader, name, error); }
-namespace { const char k_SubstrateWoodType_id[] = "SubstrateWoodType"; }
-const char* SubstrateWoodType::id = k_SubstrateWoodType_id;
-SubstrateWoodType* SubstrateWoodType::clone() const { return new SubstrateWoodType(*this); }
-const char* SubstrateWoodType::getid() const { return id; }
-bool SubstrateWoodType::has_id(const char* identity) const { return identity == id || SubstrateType::has_id(identity); }
 lmx::elmx_error SubstrateWoodType::set_WoodWeight(double value) { return lmx::set_item(k_class, k_items[item_WoodWeight], this, value); }
 lmx::elmx_error SubstrateWoodType::set_WoodType(const std::u16string& value) { return lmx::set_item(k_class, k_items[item_WoodType], this, value); }
 
@@ -411,36 +358,28 @@ constinit const s_class SubstrateVinylType::k_class = {
     .content = content_kind::children,
     .may_be_empty = true,
     .ns_map = k_ns_map,
-    .nil_flag = k_no_flag,
-    .choice = k_no_flag,
     .id = &SubstrateVinylType::id,
     .xsi_type = "Vyr:SubstrateVinylType",
-    .attributes = std::span(k_items).first(std::size(k_no_events) - 1),
     .elements = std::span(k_items).subspan(std::size(k_no_events) - 1),
     .attribute_map = k_no_events,
     .element_map = k_SubstrateVinylType_elements,
     .operations = &k_operations<SubstrateVinylType>,
 };
 
+namespace { const char k_SubstrateVinylType_id[] = "SubstrateVinylType"; }
+const char* SubstrateVinylType::id = k_SubstrateVinylType_id;
 SubstrateVinylType::SubstrateVinylType() = default;
 SubstrateVinylType::SubstrateVinylType(const SubstrateVinylType& other) : SubstrateType() { lmx::copy(k_class, this, &other); }
+SubstrateVinylType* SubstrateVinylType::clone() const { return new SubstrateVinylType(*this); }
 SubstrateVinylType::~SubstrateVinylType() = default;
 SubstrateVinylType& SubstrateVinylType::operator=(const SubstrateVinylType& other) { SubstrateVinylType copy(other); swap(copy); return *this; }
+const char* SubstrateVinylType::getid() const { return id; }
+bool SubstrateVinylType::has_id(const char* identity) const { return identity == id || SubstrateType::has_id(identity); }
+lmx::elmx_error SubstrateVinylType::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
+lmx::elmx_error SubstrateVinylType::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
 void SubstrateVinylType::swap(SubstrateVinylType& other) { lmx::swap(k_class, this, &other); }
 void SubstrateVinylType::reset() { SubstrateVinylType fresh; lmx::exchange(k_class, this, &fresh); }
 bool SubstrateVinylType::is_occurs_ok() const { return lmx::is_occurs_ok(k_class, this); }
-lmx::elmx_error SubstrateVinylType::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
-lmx::elmx_error SubstrateVinylType::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
-void SubstrateVinylType::marshal_attributes(lmx::c_xml_writer& writer) const { lmx::marshal_attributes(k_class, this, writer); }
-lmx::elmx_error SubstrateVinylType::marshal_child_elements(lmx::c_xml_writer& writer) const { return lmx::marshal_child_elements(k_class, this, writer); }
-bool SubstrateVinylType::unmarshal_attributes(lmx::c_xml_reader& reader, const std::string& name, lmx::elmx_error* error) { return lmx::unmarshal_attribute(k_class, this, reader, name, error); }
-lmx::elmx_error SubstrateVinylType::unmarshal_attributes_check(lmx::c_xml_reader& reader) { return lmx::check_required_attributes(k_class, this, reader); }
-bool SubstrateVinylType::unmarshal_body(lmx::c_xml_reader& reader, std::string* name, lmx::elmx_error* error) { return lmx::unmarshal_body(k_class, this, reader, name, error); }
-namespace { const char k_SubstrateVinylType_id[] = "SubstrateVinylType"; }
-const char* SubstrateVinylType::id = k_SubstrateVinylType_id;
-SubstrateVinylType* SubstrateVinylType::clone() const { return new SubstrateVinylType(*this); }
-const char* SubstrateVinylType::getid() const { return id; }
-bool SubstrateVinylType::has_id(const char* identity) const { return identity == id || SubstrateType::has_id(identity); }
 lmx::elmx_error SubstrateVinylType::set_VinylWeight(double value) { return lmx::set_item(k_class, k_items[item_VinylWeight], this, value); }
 lmx::elmx_error SubstrateVinylType::set_VinylType(const std::u16string& value) { return lmx::set_item(k_class, k_items[item_VinylType], this, value); }
 
@@ -467,36 +406,28 @@ constinit const s_class SubstrateTileType::k_class = {
     .content = content_kind::children,
     .may_be_empty = true,
     .ns_map = k_ns_map,
-    .nil_flag = k_no_flag,
-    .choice = k_no_flag,
     .id = &SubstrateTileType::id,
     .xsi_type = "Vyr:SubstrateTileType",
-    .attributes = std::span(k_items).first(std::size(k_no_events) - 1),
     .elements = std::span(k_items).subspan(std::size(k_no_events) - 1),
     .attribute_map = k_no_events,
     .element_map = k_SubstrateTileType_elements,
     .operations = &k_operations<SubstrateTileType>,
 };
 
+namespace { const char k_SubstrateTileType_id[] = "SubstrateTileType"; }
+const char* SubstrateTileType::id = k_SubstrateTileType_id;
 SubstrateTileType::SubstrateTileType() = default;
 SubstrateTileType::SubstrateTileType(const SubstrateTileType& other) : SubstrateType() { lmx::copy(k_class, this, &other); }
+SubstrateTileType* SubstrateTileType::clone() const { return new SubstrateTileType(*this); }
 SubstrateTileType::~SubstrateTileType() = default;
 SubstrateTileType& SubstrateTileType::operator=(const SubstrateTileType& other) { SubstrateTileType copy(other); swap(copy); return *this; }
+const char* SubstrateTileType::getid() const { return id; }
+bool SubstrateTileType::has_id(const char* identity) const { return identity == id || SubstrateType::has_id(identity); }
+lmx::elmx_error SubstrateTileType::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
+lmx::elmx_error SubstrateTileType::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
 void SubstrateTileType::swap(SubstrateTileType& other) { lmx::swap(k_class, this, &other); }
 void SubstrateTileType::reset() { SubstrateTileType fresh; lmx::exchange(k_class, this, &fresh); }
 bool SubstrateTileType::is_occurs_ok() const { return lmx::is_occurs_ok(k_class, this); }
-lmx::elmx_error SubstrateTileType::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
-lmx::elmx_error SubstrateTileType::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
-void SubstrateTileType::marshal_attributes(lmx::c_xml_writer& writer) const { lmx::marshal_attributes(k_class, this, writer); }
-lmx::elmx_error SubstrateTileType::marshal_child_elements(lmx::c_xml_writer& writer) const { return lmx::marshal_child_elements(k_class, this, writer); }
-bool SubstrateTileType::unmarshal_attributes(lmx::c_xml_reader& reader, const std::string& name, lmx::elmx_error* error) { return lmx::unmarshal_attribute(k_class, this, reader, name, error); }
-lmx::elmx_error SubstrateTileType::unmarshal_attributes_check(lmx::c_xml_reader& reader) { return lmx::check_required_attributes(k_class, this, reader); }
-bool SubstrateTileType::unmarshal_body(lmx::c_xml_reader& reader, std::string* name, lmx::elmx_error* error) { return lmx::unmarshal_body(k_class, this, reader, name, error); }
-namespace { const char k_SubstrateTileType_id[] = "SubstrateTileType"; }
-const char* SubstrateTileType::id = k_SubstrateTileType_id;
-SubstrateTileType* SubstrateTileType::clone() const { return new SubstrateTileType(*this); }
-const char* SubstrateTileType::getid() const { return id; }
-bool SubstrateTileType::has_id(const char* identity) const { return identity == id || SubstrateType::has_id(identity); }
 lmx::elmx_error SubstrateTileType::set_TileWeight(double value) { return lmx::set_item(k_class, k_items[item_TileWeight], this, value); }
 lmx::elmx_error SubstrateTileType::set_TileType(const std::u16string& value) { return lmx::set_item(k_class, k_items[item_TileType], this, value); }
 
@@ -523,36 +454,28 @@ constinit const s_class SubstrateFilmType::k_class = {
     .content = content_kind::children,
     .may_be_empty = true,
     .ns_map = k_ns_map,
-    .nil_flag = k_no_flag,
-    .choice = k_no_flag,
     .id = &SubstrateFilmType::id,
     .xsi_type = "Vyr:SubstrateFilmType",
-    .attributes = std::span(k_items).first(std::size(k_no_events) - 1),
     .elements = std::span(k_items).subspan(std::size(k_no_events) - 1),
     .attribute_map = k_no_events,
     .element_map = k_SubstrateFilmType_elements,
     .operations = &k_operations<SubstrateFilmType>,
 };
 
+namespace { const char k_SubstrateFilmType_id[] = "SubstrateFilmType"; }
+const char* SubstrateFilmType::id = k_SubstrateFilmType_id;
 SubstrateFilmType::SubstrateFilmType() = default;
 SubstrateFilmType::SubstrateFilmType(const SubstrateFilmType& other) : SubstrateType() { lmx::copy(k_class, this, &other); }
+SubstrateFilmType* SubstrateFilmType::clone() const { return new SubstrateFilmType(*this); }
 SubstrateFilmType::~SubstrateFilmType() = default;
 SubstrateFilmType& SubstrateFilmType::operator=(const SubstrateFilmType& other) { SubstrateFilmType copy(other); swap(copy); return *this; }
+const char* SubstrateFilmType::getid() const { return id; }
+bool SubstrateFilmType::has_id(const char* identity) const { return identity == id || SubstrateType::has_id(identity); }
+lmx::elmx_error SubstrateFilmType::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
+lmx::elmx_error SubstrateFilmType::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
 void SubstrateFilmType::swap(SubstrateFilmType& other) { lmx::swap(k_class, this, &other); }
 void SubstrateFilmType::reset() { SubstrateFilmType fresh; lmx::exchange(k_class, this, &fresh); }
 bool SubstrateFilmType::is_occurs_ok() const { return lmx::is_occurs_ok(k_class, this); }
-lmx::elmx_error SubstrateFilmType::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
-lmx::elmx_error SubstrateFilmType::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
-void SubstrateFilmType::marshal_attributes(lmx::c_xml_writer& writer) const { lmx::marshal_attributes(k_class, this, writer); }
-lmx::elmx_error SubstrateFilmType::marshal_child_elements(lmx::c_xml_writer& writer) const { return lmx::marshal_child_elements(k_class, this, writer); }
-bool SubstrateFilmType::unmarshal_attributes(lmx::c_xml_reader& reader, const std::string& name, lmx::elmx_error* error) { return lmx::unmarshal_attribute(k_class, this, reader, name, error); }
-lmx::elmx_error SubstrateFilmType::unmarshal_attributes_check(lmx::c_xml_reader& reader) { return lmx::check_required_attributes(k_class, this, reader); }
-bool SubstrateFilmType::unmarshal_body(lmx::c_xml_reader& reader, std::string* name, lmx::elmx_error* error) { return lmx::unmarshal_body(k_class, this, reader, name, error); }
-namespace { const char k_SubstrateFilmType_id[] = "SubstrateFilmType"; }
-const char* SubstrateFilmType::id = k_SubstrateFilmType_id;
-SubstrateFilmType* SubstrateFilmType::clone() const { return new SubstrateFilmType(*this); }
-const char* SubstrateFilmType::getid() const { return id; }
-bool SubstrateFilmType::has_id(const char* identity) const { return identity == id || SubstrateType::has_id(identity); }
 lmx::elmx_error SubstrateFilmType::set_FilmWeight(double value) { return lmx::set_item(k_class, k_items[item_FilmWeight], this, value); }
 lmx::elmx_error SubstrateFilmType::set_FilmType(const std::u16string& value) { return lmx::set_item(k_class, k_items[item_FilmType], this, value); }
 
@@ -579,217 +502,182 @@ constinit const s_class SubstrateTextileType::k_class = {
     .content = content_kind::children,
     .may_be_empty = true,
     .ns_map = k_ns_map,
-    .nil_flag = k_no_flag,
-    .choice = k_no_flag,
     .id = &SubstrateTextileType::id,
     .xsi_type = "Vyr:SubstrateTextileType",
-    .attributes = std::span(k_items).first(std::size(k_no_events) - 1),
     .elements = std::span(k_items).subspan(std::size(k_no_events) - 1),
     .attribute_map = k_no_events,
     .element_map = k_SubstrateTextileType_elements,
     .operations = &k_operations<SubstrateTextileType>,
 };
 
+namespace { const char k_SubstrateTextileType_id[] = "SubstrateTextileType"; }
+const char* SubstrateTextileType::id = k_SubstrateTextileType_id;
 SubstrateTextileType::SubstrateTextileType() = default;
 SubstrateTextileType::SubstrateTextileType(const SubstrateTextileType& other) : SubstrateType() { lmx::copy(k_class, this, &other); }
+SubstrateTextileType* SubstrateTextileType::clone() const { return new SubstrateTextileType(*this); }
 SubstrateTextileType::~SubstrateTextileType() = default;
 SubstrateTextileType& SubstrateTextileType::operator=(const SubstrateTextileType& other) { SubstrateTextileType copy(other); swap(copy); return *this; }
+const char* SubstrateTextileType::getid() const { return id; }
+bool SubstrateTextileType::has_id(const char* identity) const { return identity == id || SubstrateType::has_id(identity); }
+lmx::elmx_error SubstrateTextileType::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
+lmx::elmx_error SubstrateTextileType::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
 void SubstrateTextileType::swap(SubstrateTextileType& other) { lmx::swap(k_class, this, &other); }
 void SubstrateTextileType::reset() { SubstrateTextileType fresh; lmx::exchange(k_class, this, &fresh); }
 bool SubstrateTextileType::is_occurs_ok() const { return lmx::is_occurs_ok(k_class, this); }
-lmx::elmx_error SubstrateTextileType::marshal(lmx::c_xml_writer& writer, const char* name) const { return lmx::marshal_element(k_class, this, writer, name); }
-lmx::elmx_error SubstrateTextileType::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return lmx::unmarshal_element(k_class, this, reader, name); }
-void SubstrateTextileType::marshal_attributes(lmx::c_xml_writer& writer) const { lmx::marshal_attributes(k_class, this, writer); }
-lmx::elmx_error SubstrateTextileType::marshal_child_elements(lmx::c_xml_writer& writer) const { return lmx::marshal_child_elements(k_class, this, writer); }
-bool SubstrateTextileType::unmarshal_attributes(lmx::c_xml_reader& reader, const std::string& name, lmx::elmx_error* error) { return lmx::unmarshal_attribute(k_class, this, reader, name, error); }
-lmx::elmx_error SubstrateTextileType::unmarshal_attributes_check(lmx::c_xml_reader& reader) { return lmx::check_required_attributes(k_class, this, reader); }
-bool SubstrateTextileType::unmarshal_body(lmx::c_xml_reader& reader, std::string* name, lmx::elmx_error* error) { return lmx::unmarshal_body(k_class, this, reader, name, error); }
-namespace { const char k_SubstrateTextileType_id[] = "SubstrateTextileType"; }
-const char* SubstrateTextileType::id = k_SubstrateTextileType_id;
-SubstrateTextileType* SubstrateTextileType::clone() const { return new SubstrateTextileType(*this); }
-const char* SubstrateTextileType::getid() const { return id; }
-bool SubstrateTextileType::has_id(const char* identity) const { return identity == id || SubstrateType::has_id(identity); }
 lmx::elmx_error SubstrateTextileType::set_TextileWeight(double value) { return lmx::set_item(k_class, k_items[item_TextileWeight], this, value); }
 lmx::elmx_error SubstrateTextileType::set_TextileType(const std::u16string& value) { return lmx::set_item(k_class, k_items[item_TextileType], this, value); }
 
 // SubstratePaper
 
-lmx::elmx_error SubstratePaper::marshal(lmx::c_xml_writer& writer, const char* name) const {
-    writer.conditionally_select_ns_map(k_ns_map);
-    return SubstratePaperType::marshal(writer, name);
-}
-lmx::elmx_error SubstratePaper::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return SubstratePaperType::unmarshal(reader, name); }
 constinit const lmx::s_document SubstratePaper::k_document = {"Vyr:SubstratePaper", "SubstratePaper", k_ns_map, &lmx::k_operations<SubstratePaper>};
-const lmx::s_ns_map* SubstratePaper::ns_map() { return k_ns_map; }
-lmx::elmx_error SubstratePaper::unmarshal(lmx::c_xml_reader& reader) { return lmx::unmarshal_document(k_document, this, reader); }
 SubstratePaper::SubstratePaper(const char* file_name, lmx::elmx_error* error) : SubstratePaper() { *error = unmarshal(file_name); }
-lmx::elmx_error SubstratePaper::unmarshal(const char* file_name) { return lmx::unmarshal_document(k_document, this, file_name); }
 SubstratePaper::SubstratePaper(const char* data, std::size_t size, lmx::elmx_error* error) : SubstratePaper() { *error = unmarshal(data, size); }
-lmx::elmx_error SubstratePaper::unmarshal(const char* data, std::size_t size) { return lmx::unmarshal_document(k_document, this, data, size); }
 SubstratePaper::SubstratePaper(const std::string& text, lmx::elmx_error* error) : SubstratePaper() { *error = unmarshal(text.data(), text.size()); }
+const lmx::s_ns_map* SubstratePaper::ns_map() { return k_ns_map; }
+lmx::elmx_error SubstratePaper::unmarshal(const char* file_name) { return lmx::unmarshal_document(k_document, this, file_name); }
+lmx::elmx_error SubstratePaper::unmarshal(const char* data, std::size_t size) { return lmx::unmarshal_document(k_document, this, data, size); }
 lmx::elmx_error SubstratePaper::unmarshal(const std::string& text) { return lmx::unmarshal_document(k_document, this, text.data(), text.size()); }
+lmx::elmx_error SubstratePaper::unmarshal(lmx::c_xml_reader& reader) { return lmx::unmarshal_document(k_document, this, reader); }
 lmx::elmx_error SubstratePaper::marshal(const char* file_name) const { return lmx::marshal_document(k_document, this, file_name); }
 lmx::elmx_error SubstratePaper::marshal(std::string* text) const { return lmx::marshal_document(k_document, this, text); }
 lmx::elmx_error SubstratePaper::marshal(std::ostream& stream) const { return lmx::marshal_document(k_document, this, stream); }
+lmx::elmx_error SubstratePaper::marshal(lmx::c_xml_writer& writer, const char* name) const { writer.conditionally_select_ns_map(k_ns_map); return SubstratePaperType::marshal(writer, name); }
+lmx::elmx_error SubstratePaper::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return SubstratePaperType::unmarshal(reader, name); }
 
 // SubstrateGeneric
 
-lmx::elmx_error SubstrateGeneric::marshal(lmx::c_xml_writer& writer, const char* name) const {
-    writer.conditionally_select_ns_map(k_ns_map);
-    return SubstrateGenericType::marshal(writer, name);
-}
-lmx::elmx_error SubstrateGeneric::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return SubstrateGenericType::unmarshal(reader, name); }
 constinit const lmx::s_document SubstrateGeneric::k_document = {"Vyr:SubstrateGeneric", "SubstrateGeneric", k_ns_map, &lmx::k_operations<SubstrateGeneric>};
-const lmx::s_ns_map* SubstrateGeneric::ns_map() { return k_ns_map; }
-lmx::elmx_error SubstrateGeneric::unmarshal(lmx::c_xml_reader& reader) { return lmx::unmarshal_document(k_document, this, reader); }
 SubstrateGeneric::SubstrateGeneric(const char* file_name, lmx::elmx_error* error) : SubstrateGeneric() { *error = unmarshal(file_name); }
-lmx::elmx_error SubstrateGeneric::unmarshal(const char* file_name) { return lmx::unmarshal_document(k_document, this, file_name); }
 SubstrateGeneric::SubstrateGeneric(const char* data, std::size_t size, lmx::elmx_error* error) : SubstrateGeneric() { *error = unmarshal(data, size); }
-lmx::elmx_error SubstrateGeneric::unmarshal(const char* data, std::size_t size) { return lmx::unmarshal_document(k_document, this, data, size); }
 SubstrateGeneric::SubstrateGeneric(const std::string& text, lmx::elmx_error* error) : SubstrateGeneric() { *error = unmarshal(text.data(), text.size()); }
+const lmx::s_ns_map* SubstrateGeneric::ns_map() { return k_ns_map; }
+lmx::elmx_error SubstrateGeneric::unmarshal(const char* file_name) { return lmx::unmarshal_document(k_document, this, file_name); }
+lmx::elmx_error SubstrateGeneric::unmarshal(const char* data, std::size_t size) { return lmx::unmarshal_document(k_document, this, data, size); }
 lmx::elmx_error SubstrateGeneric::unmarshal(const std::string& text) { return lmx::unmarshal_document(k_document, this, text.data(), text.size()); }
+lmx::elmx_error SubstrateGeneric::unmarshal(lmx::c_xml_reader& reader) { return lmx::unmarshal_document(k_document, this, reader); }
 lmx::elmx_error SubstrateGeneric::marshal(const char* file_name) const { return lmx::marshal_document(k_document, this, file_name); }
 lmx::elmx_error SubstrateGeneric::marshal(std::string* text) const { return lmx::marshal_document(k_document, this, text); }
 lmx::elmx_error SubstrateGeneric::marshal(std::ostream& stream) const { return lmx::marshal_document(k_document, this, stream); }
+lmx::elmx_error SubstrateGeneric::marshal(lmx::c_xml_writer& writer, const char* name) const { writer.conditionally_select_ns_map(k_ns_map); return SubstrateGenericType::marshal(writer, name); }
+lmx::elmx_error SubstrateGeneric::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return SubstrateGenericType::unmarshal(reader, name); }
 
 // SubstrateMetal
 
-lmx::elmx_error SubstrateMetal::marshal(lmx::c_xml_writer& writer, const char* name) const {
-    writer.conditionally_select_ns_map(k_ns_map);
-    return SubstrateMetalType::marshal(writer, name);
-}
-lmx::elmx_error SubstrateMetal::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return SubstrateMetalType::unmarshal(reader, name); }
 constinit const lmx::s_document SubstrateMetal::k_document = {"Vyr:SubstrateMetal", "SubstrateMetal", k_ns_map, &lmx::k_operations<SubstrateMetal>};
-const lmx::s_ns_map* SubstrateMetal::ns_map() { return k_ns_map; }
-lmx::elmx_error SubstrateMetal::unmarshal(lmx::c_xml_reader& reader) { return lmx::unmarshal_document(k_document, this, reader); }
 SubstrateMetal::SubstrateMetal(const char* file_name, lmx::elmx_error* error) : SubstrateMetal() { *error = unmarshal(file_name); }
-lmx::elmx_error SubstrateMetal::unmarshal(const char* file_name) { return lmx::unmarshal_document(k_document, this, file_name); }
 SubstrateMetal::SubstrateMetal(const char* data, std::size_t size, lmx::elmx_error* error) : SubstrateMetal() { *error = unmarshal(data, size); }
-lmx::elmx_error SubstrateMetal::unmarshal(const char* data, std::size_t size) { return lmx::unmarshal_document(k_document, this, data, size); }
 SubstrateMetal::SubstrateMetal(const std::string& text, lmx::elmx_error* error) : SubstrateMetal() { *error = unmarshal(text.data(), text.size()); }
+const lmx::s_ns_map* SubstrateMetal::ns_map() { return k_ns_map; }
+lmx::elmx_error SubstrateMetal::unmarshal(const char* file_name) { return lmx::unmarshal_document(k_document, this, file_name); }
+lmx::elmx_error SubstrateMetal::unmarshal(const char* data, std::size_t size) { return lmx::unmarshal_document(k_document, this, data, size); }
 lmx::elmx_error SubstrateMetal::unmarshal(const std::string& text) { return lmx::unmarshal_document(k_document, this, text.data(), text.size()); }
+lmx::elmx_error SubstrateMetal::unmarshal(lmx::c_xml_reader& reader) { return lmx::unmarshal_document(k_document, this, reader); }
 lmx::elmx_error SubstrateMetal::marshal(const char* file_name) const { return lmx::marshal_document(k_document, this, file_name); }
 lmx::elmx_error SubstrateMetal::marshal(std::string* text) const { return lmx::marshal_document(k_document, this, text); }
 lmx::elmx_error SubstrateMetal::marshal(std::ostream& stream) const { return lmx::marshal_document(k_document, this, stream); }
+lmx::elmx_error SubstrateMetal::marshal(lmx::c_xml_writer& writer, const char* name) const { writer.conditionally_select_ns_map(k_ns_map); return SubstrateMetalType::marshal(writer, name); }
+lmx::elmx_error SubstrateMetal::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return SubstrateMetalType::unmarshal(reader, name); }
 
 // SubstratePlastic
 
-lmx::elmx_error SubstratePlastic::marshal(lmx::c_xml_writer& writer, const char* name) const {
-    writer.conditionally_select_ns_map(k_ns_map);
-    return SubstratePlasticType::marshal(writer, name);
-}
-lmx::elmx_error SubstratePlastic::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return SubstratePlasticType::unmarshal(reader, name); }
 constinit const lmx::s_document SubstratePlastic::k_document = {"Vyr:SubstratePlastic", "SubstratePlastic", k_ns_map, &lmx::k_operations<SubstratePlastic>};
-const lmx::s_ns_map* SubstratePlastic::ns_map() { return k_ns_map; }
-lmx::elmx_error SubstratePlastic::unmarshal(lmx::c_xml_reader& reader) { return lmx::unmarshal_document(k_document, this, reader); }
 SubstratePlastic::SubstratePlastic(const char* file_name, lmx::elmx_error* error) : SubstratePlastic() { *error = unmarshal(file_name); }
-lmx::elmx_error SubstratePlastic::unmarshal(const char* file_name) { return lmx::unmarshal_document(k_document, this, file_name); }
 SubstratePlastic::SubstratePlastic(const char* data, std::size_t size, lmx::elmx_error* error) : SubstratePlastic() { *error = unmarshal(data, size); }
-lmx::elmx_error SubstratePlastic::unmarshal(const char* data, std::size_t size) { return lmx::unmarshal_document(k_document, this, data, size); }
 SubstratePlastic::SubstratePlastic(const std::string& text, lmx::elmx_error* error) : SubstratePlastic() { *error = unmarshal(text.data(), text.size()); }
+const lmx::s_ns_map* SubstratePlastic::ns_map() { return k_ns_map; }
+lmx::elmx_error SubstratePlastic::unmarshal(const char* file_name) { return lmx::unmarshal_document(k_document, this, file_name); }
+lmx::elmx_error SubstratePlastic::unmarshal(const char* data, std::size_t size) { return lmx::unmarshal_document(k_document, this, data, size); }
 lmx::elmx_error SubstratePlastic::unmarshal(const std::string& text) { return lmx::unmarshal_document(k_document, this, text.data(), text.size()); }
+lmx::elmx_error SubstratePlastic::unmarshal(lmx::c_xml_reader& reader) { return lmx::unmarshal_document(k_document, this, reader); }
 lmx::elmx_error SubstratePlastic::marshal(const char* file_name) const { return lmx::marshal_document(k_document, this, file_name); }
 lmx::elmx_error SubstratePlastic::marshal(std::string* text) const { return lmx::marshal_document(k_document, this, text); }
 lmx::elmx_error SubstratePlastic::marshal(std::ostream& stream) const { return lmx::marshal_document(k_document, this, stream); }
+lmx::elmx_error SubstratePlastic::marshal(lmx::c_xml_writer& writer, const char* name) const { writer.conditionally_select_ns_map(k_ns_map); return SubstratePlasticType::marshal(writer, name); }
+lmx::elmx_error SubstratePlastic::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return SubstratePlasticType::unmarshal(reader, name); }
 
 // SubstrateWood
 
-lmx::elmx_error SubstrateWood::marshal(lmx::c_xml_writer& writer, const char* name) const {
-    writer.conditionally_select_ns_map(k_ns_map);
-    return SubstrateWoodType::marshal(writer, name);
-}
-lmx::elmx_error SubstrateWood::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return SubstrateWoodType::unmarshal(reader, name); }
 constinit const lmx::s_document SubstrateWood::k_document = {"Vyr:SubstrateWood", "SubstrateWood", k_ns_map, &lmx::k_operations<SubstrateWood>};
-const lmx::s_ns_map* SubstrateWood::ns_map() { return k_ns_map; }
-lmx::elmx_error SubstrateWood::unmarshal(lmx::c_xml_reader& reader) { return lmx::unmarshal_document(k_document, this, reader); }
 SubstrateWood::SubstrateWood(const char* file_name, lmx::elmx_error* error) : SubstrateWood() { *error = unmarshal(file_name); }
-lmx::elmx_error SubstrateWood::unmarshal(const char* file_name) { return lmx::unmarshal_document(k_document, this, file_name); }
 SubstrateWood::SubstrateWood(const char* data, std::size_t size, lmx::elmx_error* error) : SubstrateWood() { *error = unmarshal(data, size); }
-lmx::elmx_error SubstrateWood::unmarshal(const char* data, std::size_t size) { return lmx::unmarshal_document(k_document, this, data, size); }
 SubstrateWood::SubstrateWood(const std::string& text, lmx::elmx_error* error) : SubstrateWood() { *error = unmarshal(text.data(), text.size()); }
+const lmx::s_ns_map* SubstrateWood::ns_map() { return k_ns_map; }
+lmx::elmx_error SubstrateWood::unmarshal(const char* file_name) { return lmx::unmarshal_document(k_document, this, file_name); }
+lmx::elmx_error SubstrateWood::unmarshal(const char* data, std::size_t size) { return lmx::unmarshal_document(k_document, this, data, size); }
 lmx::elmx_error SubstrateWood::unmarshal(const std::string& text) { return lmx::unmarshal_document(k_document, this, text.data(), text.size()); }
+lmx::elmx_error SubstrateWood::unmarshal(lmx::c_xml_reader& reader) { return lmx::unmarshal_document(k_document, this, reader); }
 lmx::elmx_error SubstrateWood::marshal(const char* file_name) const { return lmx::marshal_document(k_document, this, file_name); }
 lmx::elmx_error SubstrateWood::marshal(std::string* text) const { return lmx::marshal_document(k_document, this, text); }
 lmx::elmx_error SubstrateWood::marshal(std::ostream& stream) const { return lmx::marshal_document(k_document, this, stream); }
+lmx::elmx_error SubstrateWood::marshal(lmx::c_xml_writer& writer, const char* name) const { writer.conditionally_select_ns_map(k_ns_map); return SubstrateWoodType::marshal(writer, name); }
+lmx::elmx_error SubstrateWood::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return SubstrateWoodType::unmarshal(reader, name); }
 
 // SubstrateVinyl
 
-lmx::elmx_error SubstrateVinyl::marshal(lmx::c_xml_writer& writer, const char* name) const {
-    writer.conditionally_select_ns_map(k_ns_map);
-    return SubstrateVinylType::marshal(writer, name);
-}
-lmx::elmx_error SubstrateVinyl::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return SubstrateVinylType::unmarshal(reader, name); }
 constinit const lmx::s_document SubstrateVinyl::k_document = {"Vyr:SubstrateVinyl", "SubstrateVinyl", k_ns_map, &lmx::k_operations<SubstrateVinyl>};
-const lmx::s_ns_map* SubstrateVinyl::ns_map() { return k_ns_map; }
-lmx::elmx_error SubstrateVinyl::unmarshal(lmx::c_xml_reader& reader) { return lmx::unmarshal_document(k_document, this, reader); }
 SubstrateVinyl::SubstrateVinyl(const char* file_name, lmx::elmx_error* error) : SubstrateVinyl() { *error = unmarshal(file_name); }
-lmx::elmx_error SubstrateVinyl::unmarshal(const char* file_name) { return lmx::unmarshal_document(k_document, this, file_name); }
 SubstrateVinyl::SubstrateVinyl(const char* data, std::size_t size, lmx::elmx_error* error) : SubstrateVinyl() { *error = unmarshal(data, size); }
-lmx::elmx_error SubstrateVinyl::unmarshal(const char* data, std::size_t size) { return lmx::unmarshal_document(k_document, this, data, size); }
 SubstrateVinyl::SubstrateVinyl(const std::string& text, lmx::elmx_error* error) : SubstrateVinyl() { *error = unmarshal(text.data(), text.size()); }
+const lmx::s_ns_map* SubstrateVinyl::ns_map() { return k_ns_map; }
+lmx::elmx_error SubstrateVinyl::unmarshal(const char* file_name) { return lmx::unmarshal_document(k_document, this, file_name); }
+lmx::elmx_error SubstrateVinyl::unmarshal(const char* data, std::size_t size) { return lmx::unmarshal_document(k_document, this, data, size); }
 lmx::elmx_error SubstrateVinyl::unmarshal(const std::string& text) { return lmx::unmarshal_document(k_document, this, text.data(), text.size()); }
+lmx::elmx_error SubstrateVinyl::unmarshal(lmx::c_xml_reader& reader) { return lmx::unmarshal_document(k_document, this, reader); }
 lmx::elmx_error SubstrateVinyl::marshal(const char* file_name) const { return lmx::marshal_document(k_document, this, file_name); }
 lmx::elmx_error SubstrateVinyl::marshal(std::string* text) const { return lmx::marshal_document(k_document, this, text); }
 lmx::elmx_error SubstrateVinyl::marshal(std::ostream& stream) const { return lmx::marshal_document(k_document, this, stream); }
+lmx::elmx_error SubstrateVinyl::marshal(lmx::c_xml_writer& writer, const char* name) const { writer.conditionally_select_ns_map(k_ns_map); return SubstrateVinylType::marshal(writer, name); }
+lmx::elmx_error SubstrateVinyl::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return SubstrateVinylType::unmarshal(reader, name); }
 
 // SubstrateTile
 
-lmx::elmx_error SubstrateTile::marshal(lmx::c_xml_writer& writer, const char* name) const {
-    writer.conditionally_select_ns_map(k_ns_map);
-    return SubstrateTileType::marshal(writer, name);
-}
-lmx::elmx_error SubstrateTile::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return SubstrateTileType::unmarshal(reader, name); }
 constinit const lmx::s_document SubstrateTile::k_document = {"Vyr:SubstrateTile", "SubstrateTile", k_ns_map, &lmx::k_operations<SubstrateTile>};
-const lmx::s_ns_map* SubstrateTile::ns_map() { return k_ns_map; }
-lmx::elmx_error SubstrateTile::unmarshal(lmx::c_xml_reader& reader) { return lmx::unmarshal_document(k_document, this, reader); }
 SubstrateTile::SubstrateTile(const char* file_name, lmx::elmx_error* error) : SubstrateTile() { *error = unmarshal(file_name); }
-lmx::elmx_error SubstrateTile::unmarshal(const char* file_name) { return lmx::unmarshal_document(k_document, this, file_name); }
 SubstrateTile::SubstrateTile(const char* data, std::size_t size, lmx::elmx_error* error) : SubstrateTile() { *error = unmarshal(data, size); }
-lmx::elmx_error SubstrateTile::unmarshal(const char* data, std::size_t size) { return lmx::unmarshal_document(k_document, this, data, size); }
 SubstrateTile::SubstrateTile(const std::string& text, lmx::elmx_error* error) : SubstrateTile() { *error = unmarshal(text.data(), text.size()); }
+const lmx::s_ns_map* SubstrateTile::ns_map() { return k_ns_map; }
+lmx::elmx_error SubstrateTile::unmarshal(const char* file_name) { return lmx::unmarshal_document(k_document, this, file_name); }
+lmx::elmx_error SubstrateTile::unmarshal(const char* data, std::size_t size) { return lmx::unmarshal_document(k_document, this, data, size); }
 lmx::elmx_error SubstrateTile::unmarshal(const std::string& text) { return lmx::unmarshal_document(k_document, this, text.data(), text.size()); }
+lmx::elmx_error SubstrateTile::unmarshal(lmx::c_xml_reader& reader) { return lmx::unmarshal_document(k_document, this, reader); }
 lmx::elmx_error SubstrateTile::marshal(const char* file_name) const { return lmx::marshal_document(k_document, this, file_name); }
 lmx::elmx_error SubstrateTile::marshal(std::string* text) const { return lmx::marshal_document(k_document, this, text); }
 lmx::elmx_error SubstrateTile::marshal(std::ostream& stream) const { return lmx::marshal_document(k_document, this, stream); }
+lmx::elmx_error SubstrateTile::marshal(lmx::c_xml_writer& writer, const char* name) const { writer.conditionally_select_ns_map(k_ns_map); return SubstrateTileType::marshal(writer, name); }
+lmx::elmx_error SubstrateTile::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return SubstrateTileType::unmarshal(reader, name); }
 
 // SubstrateFilm
 
-lmx::elmx_error SubstrateFilm::marshal(lmx::c_xml_writer& writer, const char* name) const {
-    writer.conditionally_select_ns_map(k_ns_map);
-    return SubstrateFilmType::marshal(writer, name);
-}
-lmx::elmx_error SubstrateFilm::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return SubstrateFilmType::unmarshal(reader, name); }
 constinit const lmx::s_document SubstrateFilm::k_document = {"Vyr:SubstrateFilm", "SubstrateFilm", k_ns_map, &lmx::k_operations<SubstrateFilm>};
-const lmx::s_ns_map* SubstrateFilm::ns_map() { return k_ns_map; }
-lmx::elmx_error SubstrateFilm::unmarshal(lmx::c_xml_reader& reader) { return lmx::unmarshal_document(k_document, this, reader); }
 SubstrateFilm::SubstrateFilm(const char* file_name, lmx::elmx_error* error) : SubstrateFilm() { *error = unmarshal(file_name); }
-lmx::elmx_error SubstrateFilm::unmarshal(const char* file_name) { return lmx::unmarshal_document(k_document, this, file_name); }
 SubstrateFilm::SubstrateFilm(const char* data, std::size_t size, lmx::elmx_error* error) : SubstrateFilm() { *error = unmarshal(data, size); }
-lmx::elmx_error SubstrateFilm::unmarshal(const char* data, std::size_t size) { return lmx::unmarshal_document(k_document, this, data, size); }
 SubstrateFilm::SubstrateFilm(const std::string& text, lmx::elmx_error* error) : SubstrateFilm() { *error = unmarshal(text.data(), text.size()); }
+const lmx::s_ns_map* SubstrateFilm::ns_map() { return k_ns_map; }
+lmx::elmx_error SubstrateFilm::unmarshal(const char* file_name) { return lmx::unmarshal_document(k_document, this, file_name); }
+lmx::elmx_error SubstrateFilm::unmarshal(const char* data, std::size_t size) { return lmx::unmarshal_document(k_document, this, data, size); }
 lmx::elmx_error SubstrateFilm::unmarshal(const std::string& text) { return lmx::unmarshal_document(k_document, this, text.data(), text.size()); }
+lmx::elmx_error SubstrateFilm::unmarshal(lmx::c_xml_reader& reader) { return lmx::unmarshal_document(k_document, this, reader); }
 lmx::elmx_error SubstrateFilm::marshal(const char* file_name) const { return lmx::marshal_document(k_document, this, file_name); }
 lmx::elmx_error SubstrateFilm::marshal(std::string* text) const { return lmx::marshal_document(k_document, this, text); }
 lmx::elmx_error SubstrateFilm::marshal(std::ostream& stream) const { return lmx::marshal_document(k_document, this, stream); }
+lmx::elmx_error SubstrateFilm::marshal(lmx::c_xml_writer& writer, const char* name) const { writer.conditionally_select_ns_map(k_ns_map); return SubstrateFilmType::marshal(writer, name); }
+lmx::elmx_error SubstrateFilm::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return SubstrateFilmType::unmarshal(reader, name); }
 
 // SubstrateTextile
 
-lmx::elmx_error SubstrateTextile::marshal(lmx::c_xml_writer& writer, const char* name) const {
-    writer.conditionally_select_ns_map(k_ns_map);
-    return SubstrateTextileType::marshal(writer, name);
-}
-lmx::elmx_error SubstrateTextile::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return SubstrateTextileType::unmarshal(reader, name); }
 constinit const lmx::s_document SubstrateTextile::k_document = {"Vyr:SubstrateTextile", "SubstrateTextile", k_ns_map, &lmx::k_operations<SubstrateTextile>};
-const lmx::s_ns_map* SubstrateTextile::ns_map() { return k_ns_map; }
-lmx::elmx_error SubstrateTextile::unmarshal(lmx::c_xml_reader& reader) { return lmx::unmarshal_document(k_document, this, reader); }
 SubstrateTextile::SubstrateTextile(const char* file_name, lmx::elmx_error* error) : SubstrateTextile() { *error = unmarshal(file_name); }
-lmx::elmx_error SubstrateTextile::unmarshal(const char* file_name) { return lmx::unmarshal_document(k_document, this, file_name); }
 SubstrateTextile::SubstrateTextile(const char* data, std::size_t size, lmx::elmx_error* error) : SubstrateTextile() { *error = unmarshal(data, size); }
-lmx::elmx_error SubstrateTextile::unmarshal(const char* data, std::size_t size) { return lmx::unmarshal_document(k_document, this, data, size); }
 SubstrateTextile::SubstrateTextile(const std::string& text, lmx::elmx_error* error) : SubstrateTextile() { *error = unmarshal(text.data(), text.size()); }
+const lmx::s_ns_map* SubstrateTextile::ns_map() { return k_ns_map; }
+lmx::elmx_error SubstrateTextile::unmarshal(const char* file_name) { return lmx::unmarshal_document(k_document, this, file_name); }
+lmx::elmx_error SubstrateTextile::unmarshal(const char* data, std::size_t size) { return lmx::unmarshal_document(k_document, this, data, size); }
 lmx::elmx_error SubstrateTextile::unmarshal(const std::string& text) { return lmx::unmarshal_document(k_document, this, text.data(), text.size()); }
+lmx::elmx_error SubstrateTextile::unmarshal(lmx::c_xml_reader& reader) { return lmx::unmarshal_document(k_document, this, reader); }
 lmx::elmx_error SubstrateTextile::marshal(const char* file_name) const { return lmx::marshal_document(k_document, this, file_name); }
 lmx::elmx_error SubstrateTextile::marshal(std::string* text) const { return lmx::marshal_document(k_document, this, text); }
 lmx::elmx_error SubstrateTextile::marshal(std::ostream& stream) const { return lmx::marshal_document(k_document, this, stream); }
+lmx::elmx_error SubstrateTextile::marshal(lmx::c_xml_writer& writer, const char* name) const { writer.conditionally_select_ns_map(k_ns_map); return SubstrateTextileType::marshal(writer, name); }
+lmx::elmx_error SubstrateTextile::unmarshal(lmx::c_xml_reader& reader, const std::string& name) { return SubstrateTextileType::unmarshal(reader, name); }
 
 }  // namespace com_vyrgraph_v2

@@ -10,7 +10,8 @@ interface leaves out keep theirs.
 import textwrap
 from dataclasses import dataclass
 
-from cpp import FOLDER, LISTS, NAMESPACE, WIDTH, frame
+from cpp import FOLDER, NAMESPACE, WIDTH, frame
+from members import members_of
 from source import SchemaError
 
 WIDE, NARROW, OBJECT, INDEX = "const char16_t*", "const char*", "void*", "std::uint32_t"
@@ -18,16 +19,26 @@ WIDE_RESULT, NARROW_RESULT = "char16_t*", "char*"  # new strings, which the host
 CODE, FLAG = "std::int32_t", "std::int32_t"
 SELF = (OBJECT, "self")
 
-# Kind of value -> type of a plain argument and its form for the member.
-PLAIN = {
-    "number": ("double", "value"),
-    "boolean": ("std::uint32_t", "to_bool(value)"),
-    "int32": ("std::int32_t", "value"),
-    "uint32": ("std::uint32_t", "value"),
-    "uint8": ("std::uint32_t", "static_cast<std::uint8_t>(value)"),
+# C++ type of a parameter -> type of the argument, and its form for the member.
+PARAMETERS = {
+    "bool": ("std::uint32_t", "to_bool({})"),
+    "std::uint8_t": ("std::uint32_t", "static_cast<std::uint8_t>({})"),
+    "std::size_t": (INDEX, "{}"),
+    "const std::string&": (NARROW, "{}"),
+    "const std::u16string&": (WIDE, "{}"),
 }
-# Kind of value held as an object -> its class in null reports.
-REPORTED = {"datetime": "lmx::tc_datetime", "binary": "lmx::tc_binary"}
+# C++ type of a result -> type, and its form from the member's.
+RESULTS = {
+    "bool": (FLAG, "{}"),
+    "elmx_chosen": (CODE, "{}"),
+    "lmx::elmx_error": (CODE, "{}"),
+    "std::uint8_t": ("std::uint32_t", "{}"),
+    "std::size_t": (INDEX, "static_cast<std::uint32_t>({})"),
+    "const char*": (NARROW_RESULT, "new_string({})"),
+    "const std::u16string&": (WIDE_RESULT, "new_string({})"),
+    "const lmx::c_datetime&": (OBJECT, "reference({})"),
+    "const lmx::c_binary&": (OBJECT, "reference({})"),
+}
 
 
 @dataclass(frozen=True)
@@ -54,179 +65,98 @@ def null_text(kind, reference="const &"):
     return f'"{kind} {reference} type is null"'
 
 
-class Printer:
-    """Collects the functions of one class; `name` parts are joined by underscores."""
-
-    def __init__(self, owner):
-        self.owner = owner
-        self.self = f"as<{owner}>(s)"
-        self.functions = []
-
-    def add(self, member, result, parameters, body, stem=None):
-        self.functions.append(Function(f"CSharp_{stem or f'{self.owner}_{member}'}", result, tuple(parameters), body))
-
-    def plain(self, member, result, call, *parameters, convert="{}"):
-        """Forwards to a member that neither allocates nor needs a check."""
-        self.add(member, result, (SELF, *parameters), convert.format(f"as<{self.owner}>(self).{call}"))
-
-    def guarded(self, member, result, call, *parameters, check=None):
-        """Forwards to a member that may allocate; `check` is the report on a null last argument."""
-        # What is checked goes first.
-        order = [*parameters[-1:], SELF, *parameters[:-1]] if check else [SELF, *parameters]
-        arguments = ", ".join(f"{kind} {name[0]}" for kind, name in order)
-        address = " -> void*" if result == OBJECT else ""
-        action = f"+[]({arguments}){address} {{ return {call}; }}"
-        start = f"checked({check}, " if check else "guarded("
-        self.add(member, result, (SELF, *parameters), f"{start}{action}, {', '.join(name for _, name in order)})")
+def parameter(text):
+    """Type, name, form for the member and the report on null of one C++ parameter."""
+    kind, _, name = text.replace("file_name", "path").rpartition(" ")
+    if kind in PARAMETERS:
+        return PARAMETERS[kind][0], name, PARAMETERS[kind][1], "k_null_string" if "string&" in kind else None
+    if not kind.endswith("&"):
+        return kind, name, "{}", None
+    bare = kind.removeprefix("const ")[:-1]
+    shown = bare.replace("lmx::c_", "lmx::tc_") if "::" in bare else f"{NAMESPACE}::{bare}"
+    return OBJECT, name, f"as<{bare}>({{}})", null_text(shown, "const &" if kind.startswith("const ") else "&")
 
 
-def life_cycle(printer, made):
-    owner = made.name
+def result_of(kind, name):
+    if kind.startswith("Eenum_"):
+        return CODE, "{}"
+    if kind == "bool" and name.startswith("get_"):
+        return "std::uint32_t", "{}"
+    if kind in RESULTS:
+        return RESULTS[kind]
+    return (OBJECT, "&{}") if kind.endswith("&") else (OBJECT, "{}") if kind.endswith("*") else (kind, "{}")
+
+
+def function_of(owner, member, number):
+    """The function of a member; `number` tells overloads apart."""
+    found = member.parts
+    name, stem = found["name"], f"CSharp_{owner}_{found['name']}{number}"
+    parameters = [parameter(text) for text in found["parameters"].split(", ") if text]
+    result, form = result_of(found["result"].strip(), name)
+    is_checked = bool(parameters) and parameters[-1][3] is not None
+    is_text = bool(parameters) and parameters[-1][0] == WIDE
+
+    def letter(text):
+        """The name inside an action, where "s" is the object."""
+        return "n" if text == "size" else text[0]
+
+    def call(self, value):
+        return f"as<{owner}>({self}).{name}({', '.join(form.format(value(text)) for _, text, form, _ in parameters)})"
+
+    names = [text for _, text, _, _ in parameters]
+    if is_text:
+        inner = "".join(f", std::size_t {letter(text)}" for text in names[:-1])
+        body = f"with_text({', '.join(['self', *names])}, [](void* s{inner}, wide_text v) " \
+               f"{{ return {call('s', letter)}; }})"
+    elif is_checked or member.flat == "guarded":
+        order = [SELF, *((kind, text) for kind, text, _, _ in parameters)]
+        if is_checked:  # what is checked goes first
+            order = [order[-1], *order[:-1]]
+        action = call("s", letter)
+        action = form.format(action) if result == OBJECT else action
+        body = f"{f'checked({parameters[-1][3]}, ' if is_checked else 'guarded('}" \
+               f"+[]({', '.join(f'{kind} {letter(text)}' for kind, text in order)}){' -> void*' if result == OBJECT else ''} " \
+               f"{{ return {action}; }}, {', '.join(text for _, text in order)})"
+    else:
+        body = form.format(call("self", str))
+    return Function(stem, result, (SELF, *((kind, text) for kind, text, _, _ in parameters)), body)
+
+
+def made_by_class(plan, made):
+    """What isn't called on an object, or not as it stands in the class."""
+    name = made.name
+
+    def add(stem, result, parameters, body):
+        return Function(f"CSharp_{stem}", result, parameters, body)
+
     if not (made.wrapper and not made.is_document):
-        printer.add("", OBJECT, (), f"make<{owner}>()", f"new_{owner}__SWIG_0")
-        printer.add("", OBJECT, ((OBJECT, "source"),),
-                    f"checked({null_text(f'{NAMESPACE}::{owner}')}, &copy<{owner}>, source)", f"new_{owner}__SWIG_1")
-    printer.add("", "void", (SELF,), f"destroy<{owner}>(self)", f"delete_{owner}")
+        yield add(f"new_{name}__SWIG_0", OBJECT, (), f"make<{name}>()")
+        yield add(f"new_{name}__SWIG_1", OBJECT, ((OBJECT, "source"),),
+                  f"checked({null_text(f'{NAMESPACE}::{name}')}, &copy<{name}>, source)")
+    yield add(f"delete_{name}", "void", (SELF,), f"destroy<{name}>(self)")
     if made.base:
-        printer.add("", OBJECT, (SELF,), f"upcast<{owner}, {made.base}>(self)", f"{owner}Upcast")
-
-
-def document_part(printer, made):
-    call = printer.self
-    path, data, size = (NARROW, "path"), (NARROW, "data"), (INDEX, "size")
-    printer.guarded("unmarshal__SWIG_0", CODE, f"{call}.unmarshal(p)", path)
-    printer.add("unmarshal__SWIG_1", CODE, (SELF, data, size),
-                f"guarded(+[](void* s, const char* d, std::uint32_t n) {{ return {call}.unmarshal(d, n); }}, "
-                "self, data, size)")
-    printer.guarded("marshal__SWIG_0", CODE, f"{call}.marshal(p)", path)
-    printer.add("ns_map", OBJECT, (), f"reference(*{made.name}::ns_map())")
-
-
-def contract(printer, made):
-    owner = made.name
-    printer.guarded("swap", "void", f"{printer.self}.swap(as<{owner}>(o))", (OBJECT, "other"),
-                    check=null_text(f"{NAMESPACE}::{owner}", "&"))
-    printer.guarded("reset", "void", f"{printer.self}.reset()")
-    printer.plain("is_occurs_ok", FLAG, "is_occurs_ok()")
-    if made.content in ("choice", "group") and not made.derives_from_group:
-        printer.plain("getchosen", CODE, "getchosen()")
-    if made.nillable:
-        printer.plain(f"isnil_{owner}", FLAG, f"isnil_{owner}()")
-        printer.plain(f"setnil_{owner}", "void", f"setnil_{owner}()")
-
-
-def family(printer, plan, made):
-    if made.named:
-        printer.guarded("clone", OBJECT, f"{printer.self}.clone()")
-        printer.plain("getid", NARROW_RESULT, "getid()", convert="new_string({})")
-        printer.plain("has_id", FLAG, "has_id(identity)", (NARROW, "identity"))
-        printer.add("id_get", NARROW, (), f"{made.name}::id")
-        printer.add("id_set", "void", ((NARROW, "identity"),), f"set_identity(&{made.name}::id, identity)")
-    if plan.factory(made):
-        printer.add("factory", OBJECT, ((CODE, "ns_id"), (NARROW, "name")),
-                    f'checked(k_null_string, +[](const char* n, std::int32_t i) -> void* {{ '
-                    f"return {made.name}::factory(i, n); }}, name, ns_id)")
-
-
-def simple_set(printer, member, value, *index):
-    """A setter, or a function that takes an index and a value."""
-    call = f"{printer.self}.{member}({'i, ' if index else ''}"
-    names = "index, " if index else ""
-    if value.value == "text":
-        arguments = "void* s, std::size_t i, wide_text v" if index else "void* s, wide_text v"
-        printer.add(member, CODE, (SELF, *index, (WIDE, "value")),
-                    f"with_text(self, {names}value, []({arguments}) {{ return {call}v); }})")
-    elif value.value in REPORTED:
-        kind = f"lmx::c_{value.value}"
-        printer.guarded(member, CODE, f"{call}as<{kind}>(v))", *index, (OBJECT, "value"),
-                        check=null_text(REPORTED[value.value]))
-    else:
-        kind, form = PLAIN[value.value]
-        printer.plain(member, CODE, f"{member}({form})", (kind, "value"))
-
-
-def simple_get(printer, member, value, *index):
-    call = f"{member}({'index' if index else ''})"
-    if value.value == "text":
-        printer.plain(member, WIDE_RESULT, call, *index, convert="new_string({})")
-    elif value.value in REPORTED:
-        printer.plain(member, OBJECT, call, *index, convert="reference({})")
-    else:
-        printer.plain(member, PLAIN[value.value][0], call)
-
-
-def list_part(printer, item):
-    x, index = item.accessor, (INDEX, "index")
-    printer.plain(f"size_{x}", INDEX, f"size_{x}()", convert="static_cast<std::uint32_t>({})")
-    if item.kind == "element_list":
-        simple_get(printer, f"get_{x}", item.value, index)
-        simple_set(printer, f"set_{x}", item.value, index)
-        simple_set(printer, f"append_{x}", item.value)
-        simple_set(printer, f"insert_{x}", item.value, index)
-    elif item.kind == "any":
-        value = (NARROW, "value")
-        printer.guarded("append_any", CODE, f"{printer.self}.append_any(v)", value, check="k_null_string")
-        printer.guarded("insert_any", CODE, f"{printer.self}.insert_any(i, v)", index, value, check="k_null_string")
-    else:
-        printer.guarded(f"get_{x}__SWIG_0", OBJECT, f"&{printer.self}.get_{x}(i)", index)
-        printer.guarded(f"assign_{x}", OBJECT, f"&{printer.self}.assign_{x}(i, as<{item.type}>(v))", index,
-                        (OBJECT, "value"), check=null_text(f"{NAMESPACE}::{item.type}"))
-        printer.guarded(f"append_{x}", CODE, f"{printer.self}.append_{x}()")
-        printer.guarded(f"insert_{x}", CODE, f"{printer.self}.insert_{x}(i)", index)
-        printer.plain(f"back_{x}", OBJECT, f"back_{x}()", convert="&{}")
-    printer.plain(f"delete_{x}", "void", f"delete_{x}(index)", index)
-    printer.plain(f"clear_{x}", "void", f"clear_{x}()")
-
-
-def object_part(printer, plan, item):
-    x = item.accessor
-    if item.kind in ("alternative", "optional_child"):
-        printer.guarded(f"get_{x}__SWIG_0", OBJECT, f"&{printer.self}.get_{x}()")
-    else:
-        printer.plain(f"get_{x}__SWIG_0", OBJECT, f"get_{x}()", convert="&{}")
-    # An alternative with derived types has a second form, which takes an object over.
-    overloaded = item.kind == "alternative" and plan.factory(plan.by_name[item.type])
-    printer.guarded(f"assign_{x}{'__SWIG_0' if overloaded else ''}", OBJECT,
-                    f"&{printer.self}.assign_{x}(as<{item.type}>(v))", (OBJECT, "value"),
-                    check=null_text(f"{NAMESPACE}::{item.type}"))
-
-
-def enumeration_part(printer, item, inherited=False):
-    x = item.accessor
-    if item.enumerated:
-        if not inherited:
-            printer.plain(f"getenum_{x}", CODE, f"getenum_{x}()")
-        printer.guarded(f"setenum_{x}", FLAG, f"{printer.self}.setenum_{x}(n)", (CODE, "number"))
+        yield add(f"{name}Upcast", OBJECT, (SELF,), f"upcast<{name}, {made.base}>(self)")
+    if made.is_document:
+        yield add(f"{name}_ns_map", OBJECT, (), f"reference(*{name}::ns_map())")
+    if made.named and not made.wrapper:
+        yield add(f"{name}_id_get", NARROW, (), f"{name}::id")
+        yield add(f"{name}_id_set", "void", ((NARROW, "identity"),), f"set_identity(&{name}::id, identity)")
+    if plan.factory(made) and not made.wrapper:
+        yield add(f"{name}_factory", OBJECT, ((CODE, "ns_id"), (NARROW, "name")),
+                  f"checked(k_null_string, +[](const char* n, std::int32_t i) -> void* {{ "
+                  f"return {name}::factory(i, n); }}, name, ns_id)")
 
 
 def functions_of(plan, made):
-    printer = Printer(made.name)
-    life_cycle(printer, made)
-    if made.is_document:
-        document_part(printer, made)
-    if made.wrapper:
-        return printer.functions
-    contract(printer, made)
-    family(printer, plan, made)
-    for item in made.items:
-        x = item.accessor
-        if not x:
-            continue
-        if item.kind in (*LISTS, "any"):
-            list_part(printer, item)
-        elif item.type:
-            object_part(printer, plan, item)
-        else:
-            simple_get(printer, f"get_{x}", item.value)
-            simple_set(printer, f"set_{x}", item.value)
-            enumeration_part(printer, item)
-        if item.presence:
-            printer.plain(f"isset_{x}", FLAG, f"isset_{x}()")
-            printer.plain(f"unset_{x}", "void", f"unset_{x}()")
-    if found := plan.content_item(made):
-        simple_set(printer, f"set_{found[1].accessor}", found[1].value)
-        enumeration_part(printer, found[1], inherited=True)
-    return printer.functions
+    functions = [*made_by_class(plan, made)]
+    members = members_of(plan, made)
+    names = [member.parts and member.parts["name"] for member in members]
+    for place, member in enumerate(members):
+        if member.flat:
+            number = names[:place].count(names[place])
+            is_overloaded = names.count(names[place]) > 1
+            functions.append(function_of(made.name, member, f"__SWIG_{number}" if is_overloaded else ""))
+    return functions
 
 
 def print_flat_source(plan, topic):

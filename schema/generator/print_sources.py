@@ -2,9 +2,10 @@
 # SPDX-License-Identifier: Apache-2.0
 """The sources of the topics: the table of every class, and members that forward to the functions walking it."""
 
-from cpp import FOLDER, LISTS, comment, frame, own_source, parameter_type
+from cpp import FOLDER, comment, frame, own_source
+from members import flag_member, members_of, own_choice
 from model import PREFIX, REQUIRED
-from print_headers import flag_member, has_flag
+from print_headers import has_flag
 
 VERSION = 3  # of the runtime's tables, lmx::k_binding_version
 
@@ -83,245 +84,43 @@ def class_table(plan, made):
     fields = {
         "name": f'"{name}"',
         "qualified_name": f'"{made.qualified_name}"',
-        "base": f"&{base}::k_class" if base else "nullptr",
+        "base": base and f"&{base}::k_class",
         "content": f"content_kind::{made.content}",
-        "may_be_empty": str(made.may_be_empty).lower(),
-        "ns_map": "nullptr" if made.local or made.inline else "k_ns_map",
-        "nil_flag": f"LMX_FLAG({name}, m_isnil)" if made.nillable else "k_no_flag",
-        "choice": f"LMX_CHOICE({name}, m_choice)" if own_choice(made) else "k_no_flag",
-        "id": f"&{identity.name}::id" if identity else "nullptr",
-        "xsi_type": f'"{PREFIX}{identity.name}"' if identity else "nullptr",
-        "attributes": f"std::span(k_items).first({count})" if made.items else "{}",
-        "elements": f"std::span(k_items).subspan({count})" if made.items else "{}",
+        "may_be_empty": made.may_be_empty and "true",
+        "ns_map": not (made.local or made.inline) and "k_ns_map",
+        "nil_flag": made.nillable and f"LMX_FLAG({name}, m_isnil)",
+        "choice": own_choice(made) and f"LMX_CHOICE({name}, m_choice)",
+        "id": identity and f"&{identity.name}::id",
+        "xsi_type": identity and f'"{PREFIX}{identity.name}"',
+        "attributes": made.attributes and f"std::span(k_items).first({count})",
+        "elements": made.elements and f"std::span(k_items).subspan({count})",
         "attribute_map": attributes,
         "element_map": children,
         "operations": f"&k_operations<{name}>",
     }
     yield f"constinit const s_class {name}::k_class = {{"
-    yield from (f"    .{field} = {value}," for field, value in fields.items())
+    yield from (f"    .{field} = {value}," for field, value in fields.items() if value)
     yield "};"
 
 
-def own_choice(made):
-    return made.content in ("choice", "group") and not made.derives_from_group
-
-
-# Members
-
-
-def document_part(made):
+def statics(plan, made):
+    """What a class has one of, besides its table."""
     name = made.name
-    preset = "" if made.wrapper else "*error = lmx::ELMX_UNDEFINED_ERROR; "
-    ending = " init();" if made.init else ""
-    forms = {"const char* file_name": "file_name", "const char* data, std::size_t size": "data, size",
-             "const std::string& text": "text.data(), text.size()"}
-    yield f'constinit const lmx::s_document {name}::k_document = {{"{PREFIX}{made.element}", "{made.element}", k_ns_map, ' \
-          f"&lmx::k_operations<{name}>}};"
-    yield f"const lmx::s_ns_map* {name}::ns_map() {{ return k_ns_map; }}"
-    yield f"lmx::elmx_error {name}::unmarshal(lmx::c_xml_reader& reader) " \
-          "{ return lmx::unmarshal_document(k_document, this, reader); }"
-    if not made.is_document:
-        return
-    for parameters, arguments in forms.items():
-        yield f"{name}::{name}({parameters}, lmx::elmx_error* error) : {name}() " \
-              f"{{ {preset}*error = unmarshal({arguments});{ending} }}"
-        yield f"lmx::elmx_error {name}::unmarshal({parameters}) " \
-              f"{{ return lmx::unmarshal_document(k_document, this, {arguments}); }}"
-    for parameter in ("const char* file_name", "std::string* text", "std::ostream& stream"):
-        yield f"lmx::elmx_error {name}::marshal({parameter}) const " \
-              f"{{ return lmx::marshal_document(k_document, this, {parameter.split()[-1]}); }}"
-
-
-def wrapper_members(made):
-    name, base = made.name, made.base
-    yield f"lmx::elmx_error {name}::marshal(lmx::c_xml_writer& writer, const char* name) const {{"
-    yield "    writer.conditionally_select_ns_map(k_ns_map);"
-    yield f"    return {base}::marshal(writer, name);"
-    yield "}"
-    yield f"lmx::elmx_error {name}::unmarshal(lmx::c_xml_reader& reader, const std::string& name) " \
-          f"{{ return {base}::unmarshal(reader, name); }}"
-    yield from document_part(made)
-
-
-def life_cycle(made):
-    name = made.name
-    init = " init();" if made.init else ""
-    base = f" : {made.base}()" if made.base else ""
-    # The texts of enumerations are not known in the header.
-    initial = ", ".join(f"m_{item.accessor}(facets::{item.value.name}.enumerated->find("
-                        f"{item.value.enumeration.index(item.initial) + 1}))"
-                        for item in made.items if item.enumerated and item.initial is not None)
-    if own_choice(made) or initial:
-        base = f" : {name}()"  # for the initial values, and so that a copy that can't be finished is ended like others
-    if initial:
-        yield f"{name}::{name}() : {initial} {{{init} }}"
-    else:
-        yield f"{name}::{name}() {{{init} }}" if init else f"{name}::{name}() = default;"
-    yield f"{name}::{name}(const {name}& other){base} {{ lmx::copy(k_class, this, &other);{init} }}"
-    yield f"{name}::~{name}() {{ lmx::release_choice(k_class, this); }}" if own_choice(made) \
-        else f"{name}::~{name}() = default;"
-    yield f"{name}& {name}::operator=(const {name}& other) {{ {name} copy(other); swap(copy); return *this; }}"
-    yield f"void {name}::swap({name}& other) {{ lmx::swap(k_class, this, &other); }}"
-    yield f"void {name}::reset() {{ {name} fresh; lmx::exchange(k_class, this, &fresh); }}"
-    yield f"bool {name}::is_occurs_ok() const {{ return lmx::is_occurs_ok(k_class, this); }}"
-
-
-def reading_and_writing(made):
-    name = made.name
-    error = "lmx::elmx_error"
-    if made.inline:
-        writer = "marshal_group" if made.content == "group" else "marshal_child_elements"
-        reader = "unmarshal_group" if made.content == "group" else "unmarshal_body"
-        yield f"bool {name}::is_member(lmx::c_xml_reader& reader, const std::string&) " \
-              "{ return lmx::is_group_member(k_class, reader); }"
-        yield f"{error} {name}::marshal(lmx::c_xml_writer& writer, const char*) const " \
-              f"{{ return lmx::{writer}(k_class, this, writer); }}"
-        yield f"bool {name}::unmarshal(lmx::c_xml_reader& reader, std::string* name, {error}* error) " \
-              f"{{ return lmx::{reader}(k_class, this, reader, name, error); }}"
-    else:
-        yield f"{error} {name}::marshal(lmx::c_xml_writer& writer, const char* name) const " \
-              "{ return lmx::marshal_element(k_class, this, writer, name); }"
-        yield f"{error} {name}::unmarshal(lmx::c_xml_reader& reader, const std::string& name) " \
-              "{ return lmx::unmarshal_element(k_class, this, reader, name); }"
-    yield f"void {name}::marshal_attributes(lmx::c_xml_writer& writer) const " \
-          "{ lmx::marshal_attributes(k_class, this, writer); }"
-    yield f"{error} {name}::marshal_child_elements(lmx::c_xml_writer& writer) const " \
-          "{ return lmx::marshal_child_elements(k_class, this, writer); }"
-    if made.inline:
-        return
-    yield f"bool {name}::unmarshal_attributes(lmx::c_xml_reader& reader, const std::string& name, {error}* error) " \
-          "{ return lmx::unmarshal_attribute(k_class, this, reader, name, error); }"
-    yield f"{error} {name}::unmarshal_attributes_check(lmx::c_xml_reader& reader) " \
-          "{ return lmx::check_required_attributes(k_class, this, reader); }"
-    function, flag, argument = ("unmarshal_content", ", bool has_body", ", has_body") if made.content == "simple" \
-        else ("unmarshal_body", "", "")
-    yield f"bool {name}::unmarshal_body(lmx::c_xml_reader& reader, std::string* name, {error}* error{flag}) " \
-          f"{{ return lmx::{function}(k_class, this, reader, name, error{argument}); }}"
-
-
-def family_members(plan, made):
-    name = made.name
-    if made.named:
-        base = f" || {made.base}::has_id(identity)" if made.base else ""
+    if made.named and not made.wrapper:
         yield f'namespace {{ const char k_{name}_id[] = "{name}"; }}'
         yield f"const char* {name}::id = k_{name}_id;"
-        yield f"{name}* {name}::clone() const {{ return new {name}(*this); }}"
-        yield f"const char* {name}::getid() const {{ return id; }}"
-        yield f"bool {name}::has_id(const char* identity) const {{ return identity == id{base}; }}"
-    if plan.factory(made):
-        yield f"{name}* {name}::factory(int ns_id, const std::string& name) " \
-              f"{{ return static_cast<{name}*>(lmx::create_by_name(k_factory, ns_id, name)); }}"
-
-
-def simple_setters(owner, item):
-    x, value = item.accessor, parameter_type(item.value.value)
-    row_name = f"k_items[item_{x}]"
-    yield f"lmx::elmx_error {owner}::set_{x}({value} value) {{ return lmx::set_item(k_class, {row_name}, this, value); }}"
-    if item.enumerated:
-        if item.kind == "alternative":
-            yield f"Eenum_{x} {owner}::getenum_{x}() const " \
-                  f"{{ return static_cast<Eenum_{x}>(lmx::chosen_number(k_class, {row_name}, this)); }}"
-        yield f"bool {owner}::setenum_{x}(std::int32_t number) " \
-              f"{{ return lmx::set_enumerated(k_class, {row_name}, this, number); }}"
-
-
-def list_members(owner, item):
-    x = item.accessor
-    start = f"lmx::elmx_error {owner}::"
-    if item.kind == "element_list":
-        value, row_name = parameter_type(item.value.value), f"k_items[item_{x}]"
-        yield f"{start}set_{x}(std::size_t index, {value} value) " \
-              f"{{ return lmx::set_entry({row_name}, this, index, value); }}"
-        yield f"{start}append_{x}({value} value) " \
-              f"{{ return lmx::insert_entry({row_name}, this, size_{x}(), value); }}"
-        yield f"{start}insert_{x}(std::size_t index, {value} value) " \
-              f"{{ return lmx::insert_entry({row_name}, this, index, value); }}"
-    elif item.kind == "any":
-        yield f"void {owner}::get_any(std::size_t index, std::string* ns, std::string* name, std::string* value) const {{"
-        yield "    if (ns != nullptr) *ns = m_any[index].get_namespace();"
-        yield "    if (name != nullptr) *name = m_any[index].get_name();"
-        yield "    *value = m_any[index].get_value();"
-        yield "}"
-        yield f"{start}append_any(const std::string& value) {{ return insert_any(size_any(), value); }}"
-        yield f"{start}insert_any(std::size_t index, const std::string& value) " \
-              "{ m_any.insert(index).set_value(value); return lmx::ELMX_OK; }"
-    else:
-        kind = item.type
-        yield f"{kind}& {owner}::get_{x}(std::size_t index) {{ return m_{x}.grow_to(index); }}"
-        yield f"{kind}& {owner}::assign_{x}(std::size_t index, const {kind}& value) " \
-              f"{{ return get_{x}(index) = value; }}"
-        yield f"{start}append_{x}() {{ m_{x}.append(); return lmx::ELMX_OK; }}"
-        yield f"{start}insert_{x}(std::size_t index) {{ m_{x}.insert(index); return lmx::ELMX_OK; }}"
-    yield f"void {owner}::delete_{x}(std::size_t index) {{ m_{x}.erase(index); }}"
-    yield f"void {owner}::clear_{x}() {{ m_{x}.clear(); }}"
-
-
-def item_members(plan, made, item):
-    owner, x, kind = made.name, item.accessor, item.type
-    if item.kind in (*LISTS, "any"):
-        yield from list_members(owner, item)
-    elif item.kind == "alternative" and kind:
-        row_name = f"k_items[item_{x}]"
-        yield f"{kind}& {owner}::get_{x}() " \
-              f"{{ return *static_cast<{kind}*>(lmx::choose(k_class, {row_name}, this)); }}"
-        # The copy comes first: choosing frees the former alternative, which the value may be a part of.
-        yield f"{kind}& {owner}::assign_{x}(const {kind}& value) " \
-              f"{{ {kind} copy(value); {kind}& target = get_{x}(); target.swap(copy); return target; }}"
-        if plan.factory(plan.by_name[kind]):
-            # Null chooses the member without a value, which no reference can stand for.
-            yield f"{kind}& {owner}::assign_{x}({kind}* value) " \
-                  f"{{ lmx::adopt(k_class, {row_name}, this, value); if (value != nullptr) return *value; " \
-                  f"thread_local {kind} nothing; nothing.reset(); return nothing; }}"
-    elif made.derives_from_group:
-        yield f"{kind}& {owner}::assign_{x}(const {kind}& value) {{ return get_{x}().{kind}::operator=(value); }}"
-    elif kind:
-        if item.kind == "optional_child":
-            yield f"{kind}& {owner}::get_{x}() " \
-                  f"{{ {kind}& child = m_{x}.touch(); m_isset_{x} = true; return child; }}"
-            yield f"const {kind}& {owner}::get_{x}() const {{ return m_{x}.get(); }}"
-        yield f"{kind}& {owner}::assign_{x}(const {kind}& value) {{ return get_{x}() = value; }}"
-    else:
-        if item.kind == "alternative" and item.value.value == "text":
-            yield f"const std::u16string& {owner}::get_{x}() const " \
-                  f"{{ return lmx::chosen_text(k_class, k_items[item_{x}], this); }}"
-        yield from simple_setters(owner, item)
-
-
-def inherited_content(plan, made):
-    """The setters of a nillable class whose content lies in its base: they also end the nil state."""
-    if found := plan.content_item(made):
-        base, item = found
-        x = item.accessor
-        yield f"lmx::elmx_error {made.name}::set_{x}({parameter_type(item.value.value)} value) {{"
-        yield f"    const lmx::elmx_error error = {base.name}::set_{x}(value);"
-        yield "    if (error == lmx::ELMX_OK) m_isnil = false;"
-        yield "    return error;"
-        yield "}"
-        if item.enumerated:
-            yield f"bool {made.name}::setenum_{x}(std::int32_t number) {{"
-            yield f"    const bool is_set = {base.name}::setenum_{x}(number);"
-            yield "    if (is_set) m_isnil = false;"
-            yield "    return is_set;"
-            yield "}"
+    if made.wrapper or made.is_document:
+        yield f'constinit const lmx::s_document {name}::k_document = {{"{PREFIX}{made.element}", "{made.element}", ' \
+              f"k_ns_map, &lmx::k_operations<{name}>}};"
 
 
 def print_source(plan, topic):
     body = ["using namespace lmx;  // for the tables' sake", "",
             f'static_assert(k_binding_version == {VERSION}, "run schema/generator/generate.py");', ""]
     for made in topic.classes:
-        body.append(f"// {made.name}")
-        body.append("")
-        if made.wrapper:
-            body += [*wrapper_members(made), ""]
-            continue
-        body += [*class_table(plan, made), "", *life_cycle(made), *reading_and_writing(made),
-                 *family_members(plan, made)]
-        if made.is_document:
-            body += document_part(made)
-        for item in made.items:
-            if item.accessor:
-                body += item_members(plan, made, item)
-        body += [*inherited_content(plan, made), ""]
+        definitions = [member.definition(made.name) for member in members_of(plan, made)]
+        table = [] if made.wrapper else [*class_table(plan, made), ""]
+        body += [f"// {made.name}", "", *table, *statics(plan, made), *filter(None, definitions), ""]
     pragmas = [
         "// Offsets of members of classes with virtual functions: both compilers define them, and the macros check them.",
         "#pragma GCC diagnostic ignored \"-Winvalid-offsetof\"",
