@@ -23,7 +23,6 @@
 #include "lmx/error.h"
 #include "lmx/ns_map.h"
 #include "lmx/reader/event_map.h"
-#include "lmx/values/big_int.h"
 #include "lmx/values/binary.h"
 #include "lmx/values/datetime.h"
 #include "lmx/values/pattern.h"
@@ -38,7 +37,7 @@ struct s_class;
 struct s_document;
 
 /// Raised whenever rows change their meaning: generated code asserts the value it was made for.
-inline constexpr int k_binding_version = 3;
+inline constexpr int k_binding_version = 4;
 
 /// What an item is, and with it how it's stored.
 enum class item_kind : std::uint8_t {
@@ -95,9 +94,9 @@ struct s_facets {
     bool pattern_takes_zoned = false;  ///< the pattern takes every valid dateTime that names a time zone
     std::size_t minimum_length = 0;    ///< in code points
     std::size_t maximum_length = std::numeric_limits<std::size_t>::max();
-    const c_big_int* minimum_integer = nullptr;  ///< for integers: the bounds that a text is compared with
-    const c_big_int* maximum_integer = nullptr;
-    const c_pattern* pattern = nullptr;
+    const char* minimum_integer = nullptr;  ///< for integers: the bounds that a text is compared with
+    const char* maximum_integer = nullptr;
+    const c_pattern& (*pattern)() = nullptr;  ///< compiled when it is first asked for
 
     /// Whether a number breaks a bound. NaN breaks none.
     constexpr bool is_below(double number) const {

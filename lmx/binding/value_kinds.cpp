@@ -10,6 +10,7 @@
 #include <type_traits>
 #include <utility>
 
+#include "lmx/values/big_int.h"
 #include "lmx/values/unicode.h"
 #include "lmx/writer/as_xml.h"
 
@@ -127,7 +128,7 @@ bool c_read_checks::is_matched(const s_facets& facets) const {
     // so do they here, at a length that costs nothing yet.
     constexpr std::size_t longest_odd_text = 128;
     return facets.pattern == nullptr || (m_value.has_zone && facets.pattern_takes_zoned) ||
-           (!m_value.is_valid && m_value.text.size() > longest_odd_text) || facets.pattern->is_match(m_value.text);
+           (!m_value.is_valid && m_value.text.size() > longest_odd_text) || facets.pattern().is_match(m_value.text);
 }
 
 bool c_read_checks::is_too_short(const s_facets& facets) const {
@@ -143,15 +144,15 @@ bool c_read_checks::is_too_long(const s_facets& facets) const {
 bool c_read_checks::is_below(const s_facets& facets) const {
     if (m_kind == value_kind::number) return facets.is_below(m_value.number);
     if (facets.minimum_integer == nullptr) return false;
-    return facets.minimum_exclusive ? m_value.text <= *facets.minimum_integer
-                                    : m_value.text < *facets.minimum_integer;
+    const c_big_int minimum(facets.minimum_integer);
+    return facets.minimum_exclusive ? m_value.text <= minimum : m_value.text < minimum;
 }
 
 bool c_read_checks::is_above(const s_facets& facets) const {
     if (m_kind == value_kind::number) return facets.is_above(m_value.number);
     if (facets.maximum_integer == nullptr) return false;
-    return facets.maximum_exclusive ? m_value.text >= *facets.maximum_integer
-                                    : m_value.text > *facets.maximum_integer;
+    const c_big_int maximum(facets.maximum_integer);
+    return facets.maximum_exclusive ? m_value.text >= maximum : m_value.text > maximum;
 }
 
 }  // namespace lmx

@@ -45,7 +45,7 @@ enum class scanner_fault : std::uint8_t {
     large_expansion,
 };
 
-struct s_scanner_fault {
+struct s_scanner_fault {  // NOLINT(clang-analyzer-optin.performance.Padding): in the order in which a row reads
     scanner_fault number;
     elmx_error_type type;
     elmx_error code;

@@ -11,9 +11,7 @@
 namespace com_vyrgraph_v2 {
 
 namespace {
-const lmx::c_pattern k_DateTimeZone_pattern(".+T.+(Z|[+\\-].+)");
-const lmx::c_big_int k_Int32_minimum("-2147483648");
-const lmx::c_big_int k_Int32_maximum("2147483647");
+const lmx::c_pattern& DateTimeZone_pattern() { static const lmx::c_pattern pattern(".+T.+(Z|[+\\-].+)"); return pattern; }
 constexpr std::string_view k_ColorDepthKind_texts[] = {
     "ColorDepth_Infinite",
     "ColorDepth_8",
@@ -114,8 +112,6 @@ constexpr std::string_view k_IlluminantKind_texts[] = {
     "Illuminant_Custom",
 };
 constinit const lmx::c_enumeration k_IlluminantKind_enumeration(k_IlluminantKind_texts);
-const lmx::c_big_int k_PositiveInt32_minimum("0");
-const lmx::c_big_int k_PositiveInt32_maximum("2147483647");
 constexpr std::string_view k_SphereGeometryKind_texts[] = {
     "Sphere_Included",
     "Sphere_Excluded",
@@ -195,8 +191,6 @@ constexpr std::string_view k_DeviceClassKind_texts[] = {
     "DeviceClass_Other",
 };
 constinit const lmx::c_enumeration k_DeviceClassKind_enumeration(k_DeviceClassKind_texts);
-const lmx::c_big_int k_AveragingCount_minimum("2");
-const lmx::c_big_int k_AveragingCount_maximum("99");
 constexpr std::string_view k_CalibrationKind_texts[] = {
     "CalibrationState_NotCalibrated",
     "CalibrationState_Calibrated",
@@ -215,7 +209,7 @@ namespace facets {
 /// A date and time that names its time zone.
 constinit const lmx::s_facets DateTimeZone = {
     .pattern_takes_zoned = true,
-    .pattern = &k_DateTimeZone_pattern,
+    .pattern = DateTimeZone_pattern,
 };
 /// A text of at least one character.
 constinit const lmx::s_facets NonEmptyString = {
@@ -225,8 +219,8 @@ constinit const lmx::s_facets NonEmptyString = {
 constinit const lmx::s_facets Int32 = {
     .minimum = -2147483648,
     .maximum = 2147483647,
-    .minimum_integer = &k_Int32_minimum,
-    .maximum_integer = &k_Int32_maximum,
+    .minimum_integer = "-2147483648",
+    .maximum_integer = "2147483647",
 };
 /// Lightness of CIE L*a*b*, with room above the perfect diffuser.
 constinit const lmx::s_facets LabLightness = {
@@ -381,8 +375,8 @@ constinit const lmx::s_facets PositiveInt32 = {
     .maximum = 2147483647,
     .minimum_exclusive = true,
     .setter_skips_minimum = true,
-    .minimum_integer = &k_PositiveInt32_minimum,
-    .maximum_integer = &k_PositiveInt32_maximum,
+    .minimum_integer = "0",
+    .maximum_integer = "2147483647",
 };
 /// Whether an integrating sphere includes the specular component.
 constinit const lmx::s_facets SphereGeometryKind = {
@@ -427,8 +421,8 @@ constinit const lmx::s_facets DeviceClassKind = {
 constinit const lmx::s_facets AveragingCount = {
     .minimum = 2,
     .maximum = 99,
-    .minimum_integer = &k_AveragingCount_minimum,
-    .maximum_integer = &k_AveragingCount_maximum,
+    .minimum_integer = "2",
+    .maximum_integer = "99",
 };
 /// State of a calibration.
 constinit const lmx::s_facets CalibrationKind = {

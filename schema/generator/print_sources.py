@@ -7,7 +7,7 @@ from members import flag_member, members_of, own_choice
 from model import PREFIX, REQUIRED
 from print_headers import has_flag
 
-VERSION = 3  # of the runtime's tables, lmx::k_binding_version
+VERSION = 4  # of the runtime's tables, lmx::k_binding_version
 
 
 # Tables
@@ -172,12 +172,12 @@ def print_tables_source(plan):
             fields["maximum_length"] = simple.maximum_length
         if "int" in simple.value:
             for end in ("minimum", "maximum"):
-                hidden.append(f'const lmx::c_big_int k_{name}_{end}("{getattr(simple, end)}");')
-                fields[f"{end}_integer"] = f"&k_{name}_{end}"
+                fields[f"{end}_integer"] = f'"{getattr(simple, end)}"'
         if simple.pattern is not None:
             literal = simple.pattern.replace("\\", "\\\\").replace('"', '\\"')
-            hidden.append(f'const lmx::c_pattern k_{name}_pattern("{literal}");')
-            fields["pattern"] = f"&k_{name}_pattern"
+            hidden.append(f'const lmx::c_pattern& {name}_pattern() '
+                          f'{{ static const lmx::c_pattern pattern("{literal}"); return pattern; }}')
+            fields["pattern"] = f"{name}_pattern"
         shown += [*comment(simple.doc), f"constinit const lmx::s_facets {name} = {{",
                   *(f"    .{field} = {value}," for field, value in fields.items()), "};"]
     body = ["namespace {", *hidden, "}  // namespace", "", "namespace facets {", *shown, "}  // namespace facets"]
