@@ -23,7 +23,8 @@ if(VYR_BUILD_TOOLS)
   set(palette ${PROJECT_SOURCE_DIR}/examples/css-colors.vyr)
   add_test(NAME tools_vyr COMMAND ${Python3_EXECUTABLE} ${checks}/tools/check_vyr.py $<TARGET_FILE:vyr_tool> ${palette})
   add_test(NAME tools_values COMMAND ${Python3_EXECUTABLE} ${checks}/tools/check_values.py $<TARGET_FILE:vyr_tool>
-                                     ${checks}/tools/values.vyr ${checks}/documents/valid)
+                                     ${checks}/tools/values.vyr ${checks}/documents/valid
+                                     ${PROJECT_SOURCE_DIR}/schema/generated/vyr.schema.json)
   vyr_add_check(tools_papers ${Python3_EXECUTABLE} ${checks}/tools/check_papers.py $<TARGET_FILE:vyr_tool>
                 ${PROJECT_SOURCE_DIR})
   vyr_add_check(foreign_archives ${checks}/zip/check_archives.sh $<TARGET_FILE:vyr_tool> ${palette})

@@ -32,7 +32,7 @@ foreach(header document/report.h document/result.h zip/add_request.h zip/contain
   cmake_path(GET header PARENT_PATH folder)
   install(FILES ${header} DESTINATION ${vyr_include_dir}/${folder} COMPONENT development)
 endforeach()
-install(FILES schema/vyr.xsd DESTINATION ${CMAKE_INSTALL_DATADIR}/vyr COMPONENT development)
+install(FILES schema/vyr.xsd schema/generated/vyr.schema.json DESTINATION ${CMAKE_INSTALL_DATADIR}/vyr COMPONENT development)
 if(VYR_BUILD_FLAT)
   install(FILES flat/generated/vyr_flat.h DESTINATION ${vyr_include_dir} COMPONENT development)
   install(FILES flat/generated/exports.txt DESTINATION ${CMAKE_INSTALL_DATADIR}/vyr COMPONENT development)

@@ -10,7 +10,8 @@ set -euo pipefail
 
 declare -A packages=(
     [build]="g++ cmake ninja-build pkg-config libxml2-dev zlib1g-dev libbz2-dev liblzma-dev"
-    [test]="git libgtest-dev unzip libarchive-tools libxml2-utils python3 clang-format-14 locales dpkg-dev file"
+    [test]="git libgtest-dev unzip libarchive-tools libxml2-utils python3 clang-format-14 locales dpkg-dev file
+        python3-jsonschema"
     [tool]="libcli11-dev nlohmann-json3-dev"
     [csharp]="mono-mcs mono-runtime"
     [windows]="g++-mingw-w64-i686-posix"

@@ -50,7 +50,11 @@ struct list_options {
 struct convert_options {
     std::string in;
     std::string out;
-    std::string format;  ///< "vyr" or "vyrz"; empty: what the name of the output says
+    std::string format;  ///< "vyr", "vyrz" or "json"; empty: what the name of the output says
+};
+
+struct json_options {
+    std::vector<std::string> files;
 };
 
 struct codes_options {
@@ -70,6 +74,7 @@ exit_code check(const check_options& options);
 exit_code info(const info_options& options);
 exit_code list(const list_options& options);
 exit_code convert(const convert_options& options);
+exit_code print_json(const json_options& options);
 exit_code codes(const codes_options& options);
 exit_code diff(const diff_options& options);
 

@@ -4,9 +4,14 @@
 #include "tools/document_json.h"
 
 #include <algorithm>
+#include <functional>
+#include <iostream>
+#include <set>
 #include <utility>
 
 #include "document/report.h"
+#include "lmx/binding/unmarshal.h"
+#include "tools/files.h"
 #include "tools/text.h"
 #include "tools/tree.h"
 #include "tools/typed_reader.h"
@@ -118,6 +123,7 @@ private:
     }
 
     void print_value(const json& value, const s_member& member) {
+        if (m_path.size() > lmx::k_maximum_nesting) return fault(value, "nested too deeply");
         const lmx::s_item& item = *member.item;
         if (item.type != nullptr) {
             m_xml.append("<").append(member.name);
@@ -151,7 +157,7 @@ private:
             if (key == k_type_key || key == k_nil_key) continue;
             const s_member* const member = members.by_key(key);
             if (member == nullptr) {
-                fault(object, "there is no " + quoted(key) + " here; " + names_of(members));
+                fault(object, "there is no " + vyr_tool::quoted(key) + " here; " + names_of(members));
                 continue;
             }
             if (!member->is_list()) {
@@ -159,7 +165,7 @@ private:
                 continue;
             }
             if (!value.is_array()) {
-                fault(value, quoted(key) + " must be an array");
+                fault(value, vyr_tool::quoted(key) + " must be an array");
                 continue;
             }
             for (std::size_t i = 0; i < value.size(); ++i)
@@ -178,7 +184,7 @@ private:
             entry.is_object() && entry.size() == 1 ? members.element(entry.begin().key()) : nullptr;
         if (member != nullptr && member->holder == list.holder)
             return parts.push_back({member, &entry.front(), number});
-        fault(entry, "entry " + std::to_string(number) + " of " + quoted(list.key) +
+        fault(entry, "entry " + std::to_string(number) + " of " + vyr_tool::quoted(list.key) +
                          " must be an object of one member, which is called as an element of this group");
     }
 
@@ -215,7 +221,7 @@ private:
             const s_member* const title = c_members::of(*part.member->item->type).title();
             const auto found = title == nullptr ? part.value->end() : part.value->find(std::string(title->key));
             if (found != part.value->end() && found->is_string()) {
-                step += " " + quoted(found->get_ref<const std::string&>());
+                return step + " " + vyr_tool::quoted(found->get_ref<const std::string&>());
             }
         }
         return part.number == 0 ? step : step + "[" + std::to_string(part.number) + "]";
@@ -287,6 +293,39 @@ private:
     json m_history;
 };
 
+/// A member that is given twice would be lost without a word.
+class c_repetitions {
+public:
+    bool operator()(int, json::parse_event_t event, json& parsed) {
+        if (event == json::parse_event_t::object_start) m_open.emplace_back();
+        if (event == json::parse_event_t::object_end) m_open.pop_back();
+        if (event == json::parse_event_t::key && !m_open.back().insert(parsed.get<std::string>()).second) {
+            if (m_found.empty()) m_found = parsed.get<std::string>();
+        }
+        return true;
+    }
+    const std::string& found() const { return m_found; }
+
+private:
+    std::vector<std::set<std::string>> m_open;
+    std::string m_found;
+};
+
+/// Returns what is wrong with the text, or nothing.
+std::string parse_json(const std::string& text, json& object) {
+    c_repetitions repetitions;
+    try {
+        object = json::parse(text, std::ref(repetitions));
+    } catch (const json::parse_error& error) {
+        // The library's own number of the error comes first, in brackets.
+        const std::string_view what = error.what();
+        return printable(what.substr(std::min(what.size(), what.find("] ") + 2)));
+    }
+    if (!repetitions.found().empty())
+        return "the member " + vyr_tool::quoted(repetitions.found()) + " is given twice in an object";
+    return {};
+}
+
 }  // namespace
 
 std::vector<s_json_fault> read_json(const json& object, com_vyrgraph_v2::Vyr& document, const s_json_form& form,
@@ -308,6 +347,30 @@ std::vector<s_json_fault> read_json(const json& object, com_vyrgraph_v2::Vyr& do
         faults.push_back({std::move(path), com_vyrgraph_v2::formatFault(fault), place});
     }
     return faults;
+}
+
+exit_code read_any_form(const std::string& file, com_vyrgraph_v2::Vyr& document) {
+    const bool is_pipe = file == k_standard_stream;
+    if (!is_pipe && !file.ends_with(".json")) return read_or_explain(file, document);
+    std::string bytes;
+    if (const std::string refusal = read_file(file, bytes); !refusal.empty()) {
+        complain(file, refusal);
+        return exit_usage_or_file;
+    }
+    const std::size_t first = bytes.find_first_not_of(" \t\r\n");
+    if (is_pipe && (first == bytes.npos || bytes[first] != '{'))
+        return explain(file, read_document_bytes(bytes, document));
+    json object;
+    if (const std::string fault = parse_json(bytes, object); !fault.empty()) {
+        std::cerr << shown_name(file) << ": " << fault << '\n';
+        return exit_document_fails;
+    }
+    bytes = std::string();
+    const std::vector<s_json_fault> faults = read_json(object, document);
+    for (const s_json_fault& fault : faults) {
+        std::cerr << shown_name(file) << ": " << (fault.path.empty() ? "" : fault.path + ": ") << fault.text << '\n';
+    }
+    return faults.empty() ? exit_ok : exit_document_fails;
 }
 
 }  // namespace vyr_tool

@@ -10,6 +10,7 @@
 #include <vector>
 
 #include "schema/Vyr.h"
+#include "tools/commands.h"
 #include "tools/json.h"
 #include "tools/members.h"
 
@@ -32,5 +33,9 @@ struct s_json_form {
 /// Reads the object that `vyr json` prints. Returns all faults, none if the document is whole.
 std::vector<s_json_fault> read_json(const json& object, com_vyrgraph_v2::Vyr& document, const s_json_form& form = {},
                                     std::size_t limit = 100);
+
+/// Reads a document, a container or, by its name or in a pipe by its first character, JSON. Says on standard error
+/// what is wrong with it.
+exit_code read_any_form(const std::string& file, com_vyrgraph_v2::Vyr& document);
 
 }  // namespace vyr_tool

@@ -53,44 +53,6 @@ private:
     int m_descriptor;
 };
 
-/// A folder for what must have a name for a while; removed with everything in it.
-class c_scratch_folder {
-public:
-    c_scratch_folder() {
-        std::error_code none;
-        std::string name = (fs::temp_directory_path(none) / "vyr-XXXXXX").string();
-        if (mkdtemp(name.data()) != nullptr) m_path = name;
-    }
-    c_scratch_folder(const c_scratch_folder&) = delete;
-    c_scratch_folder& operator=(const c_scratch_folder&) = delete;
-    ~c_scratch_folder() {
-        std::error_code ignored;
-        if (!m_path.empty()) fs::remove_all(m_path, ignored);
-    }
-    /// Empty if it could not be made.
-    const fs::path& path() const { return m_path; }
-
-private:
-    fs::path m_path;
-};
-
-/// Lets an interruption wait, so that no file without a master stays behind.
-class c_signals_held {
-public:
-    c_signals_held() {
-        sigset_t held;
-        sigemptyset(&held);
-        for (const int signal : {SIGINT, SIGTERM, SIGHUP}) sigaddset(&held, signal);
-        pthread_sigmask(SIG_BLOCK, &held, &m_before);
-    }
-    c_signals_held(const c_signals_held&) = delete;
-    c_signals_held& operator=(const c_signals_held&) = delete;
-    ~c_signals_held() { pthread_sigmask(SIG_SETMASK, &m_before, nullptr); }
-
-private:
-    sigset_t m_before;
-};
-
 /// Everything up to the end. Returns why that failed, or nothing.
 std::string read_all(int descriptor, std::string& bytes) {
     for (;;) {
@@ -115,15 +77,6 @@ std::string write_all(int descriptor, std::string_view bytes) {
         }
     }
     return {};
-}
-
-/// Nothing for bytes that are no UTF-8.
-std::optional<std::u16string> widen(const std::string& text) {
-    std::u16string wide;
-    std::string back;
-    lmx::convert(&wide, text);
-    if (lmx::convert(&back, wide) != text) return std::nullopt;
-    return wide;
 }
 
 void read_regular(const std::string& file, Vyr& document, const ReportOptions& options, s_reading& reading) {
@@ -191,45 +144,43 @@ fs::path behind_links(fs::path path) {
     return path;
 }
 
-/// Writes a file of another name beside the target and lets it take the target's place.
-std::string replace_file(const fs::path& target, const struct stat* existing, const std::string& bytes,
-                         const written_check& check) {
-    const c_signals_held held;
-    const fs::path folder = target.has_parent_path() ? target.parent_path() : fs::path(".");
-    // Whatever the target is called, the check knows a container by its ending.
-    const std::string ending = bytes.starts_with(k_archive_signature) ? ".vyrz" : ".vyr";
-    std::string made = (folder / ".vyr-XXXXXX").string() + ending;
-    c_descriptor descriptor(mkostemps(made.data(), static_cast<int>(ending.size()), O_CLOEXEC));
+enum class target_kind { stream, folder, file, device };
+
+target_kind kind_of(const std::string& target, struct stat* state, bool* exists) {
+    *exists = false;
+    if (target == k_standard_stream) return target_kind::stream;
+    *exists = stat(target.c_str(), state) == 0;
+    if (!*exists || S_ISREG(state->st_mode)) return target_kind::file;
+    return S_ISDIR(state->st_mode) ? target_kind::folder : target_kind::device;
+}
+
+/// Lets a file take the target's place.
+std::string replace_file(const fs::path& finished, const fs::path& target, const struct stat* existing) {
+    c_descriptor descriptor(open(finished.c_str(), O_WRONLY | O_CLOEXEC));
     if (descriptor.get() < 0) return system_text();
     const mode_t mask = umask(0);
     umask(mask);
-    std::string refusal = write_all(descriptor.get(), bytes);
     // Only the superuser may give files away; for others the new file is their own.
     if (existing != nullptr && fchown(descriptor.get(), existing->st_uid, existing->st_gid) != 0) errno = 0;
     const mode_t mode = existing != nullptr ? existing->st_mode & 07777U : 0666U & ~mask;
-    const bool is_written =
-        refusal.empty() && fchmod(descriptor.get(), mode) == 0 && fsync(descriptor.get()) == 0 && descriptor.close();
-    if (refusal.empty() && !is_written) refusal = system_text();
-    if (is_written && check) refusal = check(made);
-    if (refusal.empty() && rename(made.c_str(), target.c_str()) == 0) return {};
-    if (refusal.empty()) refusal = system_text();
-    unlink(made.c_str());
-    return refusal;
+    const bool is_written = fchmod(descriptor.get(), mode) == 0 && fsync(descriptor.get()) == 0 && descriptor.close();
+    return is_written && rename(finished.c_str(), target.c_str()) == 0 ? std::string() : system_text();
 }
 
-/// A code of the document calls is the system's doing, any other the document's. `*reasons` gets a line for each
-/// fault.
-exit_code explain_failed_write(const DocumentReport& report, std::string* reasons) {
-    reasons->clear();
-    for (com_vyrgraph_v2::DocumentFault fault : report.getFaults()) {
-        fault.file.clear();
-        if (!reasons->empty()) *reasons += '\n';
-        *reasons += com_vyrgraph_v2::formatFault(fault);
+/// Whoever closes a pipe has read enough.
+std::string copy_to(int descriptor, const fs::path& finished) {
+    constexpr std::size_t k_unit = std::size_t{1} << 20U;
+    const c_descriptor from(open(finished.c_str(), O_RDONLY | O_CLOEXEC));
+    std::string bytes(k_unit, '\0');
+    for (;;) {
+        const ssize_t count = from.get() < 0 ? -1 : read(from.get(), bytes.data(), bytes.size());
+        if (count == 0) return {};
+        if (count < 0 && errno == EINTR) continue;
+        if (count < 0) return system_text();
+        const std::string refusal =
+            write_all(descriptor, std::string_view(bytes).substr(0, static_cast<std::size_t>(count)));
+        if (!refusal.empty()) return errno == EPIPE ? std::string() : refusal;
     }
-    const std::size_t more = report.getTotalCount() - report.getFaultCount();
-    if (more > 0) *reasons += '\n' + std::to_string(more) + " more";
-    const bool is_of_system = report.getCode() == lmx::ELMX_NO_FILE || report.getCode() == lmx::ELMX_USER_DEFINED_1;
-    return is_of_system ? exit_usage_or_file : exit_document_fails;
 }
 
 }  // namespace
@@ -259,15 +210,19 @@ s_reading read_document(const std::string& file, Vyr& document, const ReportOpti
     return reading;
 }
 
+exit_code read_or_explain(const std::string& file, Vyr& document, std::size_t* size) {
+    const s_reading reading = read_document(file, document);
+    if (size != nullptr) *size = reading.size;
+    return explain(file, reading);
+}
+
 s_reading read_document_bytes(const std::string& bytes, Vyr& document) {
     s_reading reading;
     read_bytes(bytes, document, {}, reading);
     return reading;
 }
 
-exit_code read_or_explain(const std::string& file, Vyr& document, std::size_t* size) {
-    const s_reading reading = read_document(file, document);
-    if (size != nullptr) *size = reading.size;
+exit_code explain(const std::string& file, const s_reading& reading) {
     if (!reading.refusal.empty()) {
         complain(file, reading.refusal);
         return exit_usage_or_file;
@@ -277,30 +232,17 @@ exit_code read_or_explain(const std::string& file, Vyr& document, std::size_t* s
     return exit_document_fails;
 }
 
-exit_code document_bytes(const Vyr& document, std::string* bytes) {
-    std::u16string text;
-    const DocumentReport report = com_vyrgraph_v2::writeStringWithReport(document, &text);
-    if (!report.isOk()) return explain_failed_write(report, bytes);
-    lmx::convert(bytes, text);
-    return exit_ok;
-}
-
-/// The library makes a container of a plain file of the same stem beside it, which may be anybody's. In a folder of
-/// their own the two can harm no other file.
-exit_code container_bytes(const Vyr& document, const std::string& stem, std::string* bytes) {
-    const c_signals_held held;
-    const c_scratch_folder folder;
-    *bytes = "no folder for temporary files: " + system_text();
-    if (folder.path().empty()) return exit_usage_or_file;
-    const std::string made = (folder.path() / (widen(stem) ? stem : "document")).string() + ".vyrz";
-    const DocumentReport report = com_vyrgraph_v2::writeFileWithReport(document, widen(made).value_or(u""));
-    if (!report.isOk()) return explain_failed_write(report, bytes);
-    const c_descriptor descriptor(open(made.c_str(), O_RDONLY | O_CLOEXEC));
-    std::string read;
-    *bytes = descriptor.get() < 0 ? system_text() : read_all(descriptor.get(), read);
-    if (!bytes->empty()) return exit_usage_or_file;
-    *bytes = std::move(read);
-    return exit_ok;
+exit_code explain_failed_write(const DocumentReport& report, std::string* reasons) {
+    reasons->clear();
+    for (com_vyrgraph_v2::DocumentFault fault : report.getFaults()) {
+        fault.file.clear();
+        if (!reasons->empty()) *reasons += '\n';
+        *reasons += com_vyrgraph_v2::formatFault(fault);
+    }
+    const std::size_t more = report.getTotalCount() - report.getFaultCount();
+    if (more > 0) *reasons += '\n' + std::to_string(more) + " more";
+    const bool is_of_system = report.getCode() == lmx::ELMX_NO_FILE || report.getCode() == lmx::ELMX_USER_DEFINED_1;
+    return is_of_system ? exit_usage_or_file : exit_document_fails;
 }
 
 exit_code read_tree(const std::string& file, c_tree& tree, std::size_t* size) {
@@ -322,28 +264,102 @@ exit_code read_tree(const std::string& file, c_tree& tree, std::size_t* size) {
     return exit_document_fails;
 }
 
-std::string write_file(const std::string& file, const std::string& bytes, const written_check& check) {
-    const auto check_unwritten = [&] { return check ? check({}) : std::string(); };
-    if (file == k_standard_stream) {
-        if (std::string refusal = check_unwritten(); !refusal.empty()) return refusal;
-        const std::string refusal = write_all(STDOUT_FILENO, bytes);
-        // Whoever closes the pipe has read enough.
-        return !refusal.empty() && errno == EPIPE ? std::string() : refusal;
-    }
-    const fs::path target = behind_links(file);
+std::string read_file(const std::string& file, std::string& bytes) {
+    if (file == k_standard_stream) return read_all(STDIN_FILENO, bytes);
+    const c_descriptor descriptor(open(file.c_str(), O_RDONLY | O_CLOEXEC));
+    return descriptor.get() < 0 ? system_text() : read_all(descriptor.get(), bytes);
+}
+
+c_scratch_folder::c_scratch_folder() {
+    std::error_code none;
+    make(fs::temp_directory_path(none));
+}
+
+c_scratch_folder::c_scratch_folder(const std::string& target) {
     struct stat state {};
-    if (stat(target.c_str(), &state) != 0) return replace_file(target, nullptr, bytes, check);
-    if (S_ISDIR(state.st_mode)) return k_is_directory;
-    if (S_ISREG(state.st_mode)) {
-        // A file may be protected in a folder that isn't.
-        if (faccessat(AT_FDCWD, target.c_str(), W_OK, AT_EACCESS) != 0) return system_text();
-        return replace_file(target, &state, bytes, check);
+    bool exists = false;
+    switch (kind_of(target, &state, &exists)) {
+        case target_kind::folder:
+            m_refusal = k_is_directory;
+            return;
+        case target_kind::file: {
+            const fs::path file = behind_links(target);
+            // A file may be protected in a folder that isn't.
+            if (exists && faccessat(AT_FDCWD, file.c_str(), W_OK, AT_EACCESS) != 0) {
+                m_refusal = system_text();
+                return;
+            }
+            make(file.has_parent_path() ? file.parent_path() : fs::path("."));
+            return;
+        }
+        case target_kind::stream:
+        case target_kind::device:
+            break;
+    }
+    std::error_code none;
+    make(fs::temp_directory_path(none));
+}
+
+void c_scratch_folder::make(const fs::path& parent) {
+    std::string name = (parent / ".vyr-XXXXXX").string();
+    if (mkdtemp(name.data()) != nullptr) {
+        m_path = name;
+    } else {
+        m_refusal = system_text();
+    }
+}
+
+c_scratch_folder::~c_scratch_folder() {
+    std::error_code ignored;
+    if (!m_path.empty()) fs::remove_all(m_path, ignored);
+}
+
+c_signals_held::c_signals_held() {
+    sigset_t held;
+    sigemptyset(&held);
+    for (const int signal : {SIGINT, SIGTERM, SIGHUP}) sigaddset(&held, signal);
+    pthread_sigmask(SIG_BLOCK, &held, &m_before);
+}
+
+c_signals_held::~c_signals_held() { pthread_sigmask(SIG_SETMASK, &m_before, nullptr); }
+
+std::optional<std::u16string> widen(const std::string& text) {
+    std::u16string wide;
+    std::string back;
+    lmx::convert(&wide, text);
+    if (lmx::convert(&back, wide) != text) return std::nullopt;
+    return wide;
+}
+
+std::string deliver(const fs::path& finished, const std::string& target) {
+    struct stat state {};
+    bool exists = false;
+    switch (kind_of(target, &state, &exists)) {
+        case target_kind::folder:
+            return k_is_directory;
+        case target_kind::file:
+            return replace_file(finished, behind_links(target), exists ? &state : nullptr);
+        case target_kind::stream:
+            return copy_to(STDOUT_FILENO, finished);
+        case target_kind::device:
+            break;
     }
     c_descriptor descriptor(open(target.c_str(), O_WRONLY | O_CLOEXEC));
     if (descriptor.get() < 0) return system_text();
-    if (std::string refusal = check_unwritten(); !refusal.empty()) return refusal;
-    const std::string refusal = write_all(descriptor.get(), bytes);
+    const std::string refusal = copy_to(descriptor.get(), finished);
     return refusal.empty() && !descriptor.close() ? system_text() : refusal;
+}
+
+std::string write_file(const std::string& target, const std::string& bytes) {
+    const c_signals_held held;
+    const c_scratch_folder folder(target);
+    if (folder.path().empty()) return folder.refusal();
+    const fs::path finished = folder.path() / "finished";
+    c_descriptor descriptor(open(finished.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0600));
+    if (descriptor.get() < 0) return system_text();
+    const std::string refusal = write_all(descriptor.get(), bytes);
+    if (!refusal.empty()) return refusal;
+    return descriptor.close() ? deliver(finished, target) : system_text();
 }
 
 }  // namespace vyr_tool

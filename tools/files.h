@@ -5,8 +5,10 @@
 
 #pragma once
 
+#include <csignal>
 #include <cstddef>
-#include <functional>
+#include <filesystem>
+#include <optional>
 #include <string>
 
 #include "document/report.h"
@@ -34,28 +36,68 @@ struct s_reading {
 s_reading read_document(const std::string& file, com_vyrgraph_v2::Vyr& document,
                         const com_vyrgraph_v2::ReportOptions& options = {});
 
+/// The same from the bytes of a plain document or of a container.
+s_reading read_document_bytes(const std::string& bytes, com_vyrgraph_v2::Vyr& document);
+
 /// Reads a document for a command that needs a valid one, and says on standard error what is wrong with it. `size`,
 /// which may be null, receives that of the file.
 exit_code read_or_explain(const std::string& file, com_vyrgraph_v2::Vyr& document, std::size_t* size = nullptr);
 
+/// Says on standard error what came of a reading.
+exit_code explain(const std::string& file, const s_reading& reading);
+
 /// The same as a tree.
 exit_code read_tree(const std::string& file, c_tree& tree, std::size_t* size = nullptr);
 
-/// The same for a document whose bytes, those of a container or of a plain document, are at hand.
-s_reading read_document_bytes(const std::string& bytes, com_vyrgraph_v2::Vyr& document);
+/// Everything that a file, a pipe or "-" holds. Returns why it could not be read, or nothing.
+std::string read_file(const std::string& file, std::string& bytes);
 
-/// The document in the form that the library writes, in UTF-8, or a container whose one entry is called after `stem`.
-/// On failure `*bytes` says why.
-exit_code document_bytes(const com_vyrgraph_v2::Vyr& document, std::string* bytes);
-exit_code container_bytes(const com_vyrgraph_v2::Vyr& document, const std::string& stem, std::string* bytes);
+/// A folder for what must have a name for a while; removed with everything in it.
+class c_scratch_folder {
+public:
+    /// In the folder for temporary files.
+    c_scratch_folder();
+    /// Where a file for this target can be made that takes its place at once: beside it, or, for what is no file, in
+    /// the folder for temporary files.
+    explicit c_scratch_folder(const std::string& target);
+    c_scratch_folder(const c_scratch_folder&) = delete;
+    c_scratch_folder& operator=(const c_scratch_folder&) = delete;
+    ~c_scratch_folder();
+    /// Empty if it could not be made: `refusal` says why.
+    const std::filesystem::path& path() const { return m_path; }
+    const std::string& refusal() const { return m_refusal; }
 
-/// Looks at what was written: at a file that holds it, or, where none does, with an empty name before anything is
-/// written. Returns why it must not stay, or nothing.
-using written_check = std::function<std::string(const std::string& file)>;
+private:
+    void make(const std::filesystem::path& parent);
 
-/// Writes a file or "-": either all of it, or nothing that stays. An existing file keeps its permissions, a link
-/// stays one. Returns why it could not be done, or nothing.
-std::string write_file(const std::string& file, const std::string& bytes, const written_check& check = {});
+    std::filesystem::path m_path;
+    std::string m_refusal;
+};
+
+/// Lets an interruption wait, so that no file without a master stays behind.
+class c_signals_held {
+public:
+    c_signals_held();
+    c_signals_held(const c_signals_held&) = delete;
+    c_signals_held& operator=(const c_signals_held&) = delete;
+    ~c_signals_held();
+
+private:
+    sigset_t m_before;
+};
+
+/// Puts a finished file in the place of another, or copies it to "-" or a device: either all of it, or nothing that
+/// stays. An existing file keeps its permissions, a link stays one. Returns why it could not be done, or nothing.
+std::string deliver(const std::filesystem::path& finished, const std::string& target);
+
+/// The same for bytes.
+std::string write_file(const std::string& target, const std::string& bytes);
+
+/// The library's form of a file name; nothing for bytes that are no UTF-8.
+std::optional<std::u16string> widen(const std::string& text);
+
+/// What is wrong with a save, a line for each fault, and whether it is the document's doing or the system's.
+exit_code explain_failed_write(const com_vyrgraph_v2::DocumentReport& report, std::string* reasons);
 
 /// A printable name for messages.
 std::string shown_name(const std::string& file);

@@ -103,10 +103,10 @@ void add_list(CLI::App& command, list_options& options) {
 }
 
 void add_convert(CLI::App& command, convert_options& options) {
-    add_file(command, "IN", options.in, "A document, or - for standard input");
-    add_file(command, "OUT", options.out, "A name that ends in .vyr or .vyrz, or - for standard output");
-    command.add_option("--to", options.format, "Write this format, whatever OUT is called: vyr or vyrz")
-        ->check(CLI::IsMember({"vyr", "vyrz"}))
+    add_file(command, "IN", options.in, "A document, also as JSON, or - for standard input");
+    add_file(command, "OUT", options.out, "A name that ends in .vyr, .vyrz or .json, or - for standard output");
+    command.add_option("--to", options.format, "Write this format, whatever OUT is called: vyr, vyrz or json")
+        ->check(CLI::IsMember({"vyr", "vyrz", "json"}))
         ->option_text("FORMAT");
     command.footer(
         "The output takes its place only when it is complete and was read back as the same document; until\n"
@@ -114,8 +114,19 @@ void add_convert(CLI::App& command, convert_options& options) {
         "Examples:\n"
         "  vyr convert inks.vyr inks.vyrz\n"
         "  vyr convert inks.vyr inks.vyr      lay a document out anew\n"
+        "  vyr convert inks.vyr inks.json     and back: vyr convert inks.json inks.vyr\n"
         "  vyr convert inks.vyrz - | less\n"
         "  vyr convert --to vyrz - - < inks.vyr > inks.vyrz\n");
+}
+
+void add_print_json(CLI::App& command, json_options& options) {
+    add_files(command, options.files);
+    command.footer(
+        "Nothing of a document is left out: 'vyr convert' makes the same document of what is printed. The schema\n"
+        "of the JSON is installed as vyr.schema.json.\n\n"
+        "Examples:\n"
+        "  vyr json inks.vyr | jq -r '.Palette[].ColorSet[].Color[].ColorName'\n"
+        "  vyr json inks.vyr | jq '.Palette[0].PaletteName = \"New\"' | vyr convert - new.vyr\n");
 }
 
 void add_codes(CLI::App& command, codes_options& options) {
@@ -204,6 +215,7 @@ exit_code run(int argc, char** argv) {
     add("list", "List the colours of a document with their values", &list, &add_list);
     add("convert", "Write a document as a plain one or as a container, in the library's layout", &convert,
         &add_convert);
+    add("json", "Print documents as JSON, whole", &print_json, &add_print_json);
     add("diff", "Say in what two documents differ", &diff, &add_diff);
     add("codes", "List the result codes of the library", &codes, &add_codes);
     try {

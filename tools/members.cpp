@@ -111,7 +111,10 @@ const s_class* specialised(const s_item& item, std::string_view type_name) {
     for (const lmx::s_factory_row& row : item.factory) {
         if (row.name == local_name(type_name)) return row.type;
     }
-    return nullptr;
+    // A document may also name the type that stands there anyway.
+    const bool is_own = item.type != nullptr && item.type->xsi_type != nullptr &&
+                        local_name(item.type->xsi_type) == local_name(type_name);
+    return is_own ? item.type : nullptr;
 }
 
 }  // namespace vyr_tool

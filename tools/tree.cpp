@@ -65,7 +65,7 @@ void c_tree::set_hash(index node) {
 
 lmx::elmx_error c_tree::read(const std::string& xml) {
     using event = c_typed_reader::event;
-    c_typed_reader reader(xml, false);
+    c_typed_reader reader(xml, m_form == open_content::markup);
     std::vector<index> open;
     const std::uint32_t no_name = number_of({}, nullptr, nullptr);
     for (;;) {
@@ -104,6 +104,11 @@ lmx::elmx_error c_tree::read(const std::string& xml) {
                 add_field(no_name, {});
                 return lmx::ELMX_OK;
             case event::markup:
+                m_nodes.push_back({0, number_of({}, reader.member(), nullptr), size() + 1,
+                                   static_cast<std::uint32_t>(m_fields.size())});
+                add_field(no_name, reader.value());
+                set_hash(size() - 1);
+                break;
             case event::broken:
                 return lmx::ELMX_NOT_WELL_FORMED;
         }

@@ -27,6 +27,11 @@ class c_tree {
 public:
     using index = std::uint32_t;
 
+    /// What becomes of open content: elements, or leaves with their markup.
+    enum class open_content { elements, markup };
+
+    explicit c_tree(open_content form = open_content::elements) : m_form(form) {}
+
     /// An attribute, or an element's text, whose name is empty.
     struct field {
         std::string_view name;
@@ -88,6 +93,7 @@ private:
     void add_field(std::uint32_t field_name, std::string_view field_value);
     void set_hash(index node);
 
+    open_content m_form;
     std::vector<s_node> m_nodes;
     std::vector<s_field> m_fields;  ///< closed by one that marks the end
     std::string m_values;

@@ -157,6 +157,7 @@ json typed_value(std::string_view text, value_kind kind) {
 
 json typed_json(const c_tree& tree, index node, const node_filter& takes) {
     if (tree.type(node) == nullptr) {
+        if (tree.member(node) != nullptr && tree.member(node)->is_marker()) return true;
         return typed_value(tree.value(node),
                            tree.member(node) == nullptr ? value_kind::text : tree.member(node)->item->value);
     }

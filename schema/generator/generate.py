@@ -16,6 +16,7 @@ from plan import Plan
 from print_csharp import print_csharp_files
 from print_flat import print_c_header, print_exports, print_flat_source
 from print_headers import print_all, print_enumerations, print_forward, print_header
+from print_json_schema import print_json_schema
 from print_members import Members
 from print_model import print_model
 from print_sources import (print_class_list_header, print_class_list_source, print_source, print_tables_header,
@@ -29,6 +30,7 @@ COMMAND = "python3 schema/generator/generate.py"
 def print_class_files(plan):
     files = {
         "model.txt": print_model(plan),
+        "vyr.schema.json": print_json_schema(plan),
         "forward.h": print_forward(plan),
         "enumerations.h": print_enumerations(plan),
         "classes.h": print_all(plan),

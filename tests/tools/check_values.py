@@ -3,7 +3,7 @@
 # SPDX-License-Identifier: Apache-2.0
 """What the command makes of a document's values: in lists, in tables and in JSON nothing is lost, guessed or cut.
 
-Usage: check_values.py VYR SAMPLE DOCUMENTS      (the command, values.vyr, and a folder of valid documents)
+Usage: check_values.py VYR SAMPLE DOCUMENTS SCHEMA      (values.vyr, a folder of valid documents, vyr.schema.json)
 """
 
 import csv
@@ -18,7 +18,7 @@ import tempfile
 import traceback
 import xml.etree.ElementTree as tree
 
-vyr, sample, documents = (pathlib.Path(argument).resolve() for argument in sys.argv[1:4])
+vyr, sample, documents, schema = (pathlib.Path(argument).resolve() for argument in sys.argv[1:5])
 V = "{http://vyrgraph.com/v2}"
 failures = []
 
@@ -125,8 +125,71 @@ def check_all_documents():
              (len(values), len(values), len(colors), points))
 
 
+def validator():
+    try:
+        import jsonschema
+    except ImportError:
+        print("python3-jsonschema is not here: documents are not held against vyr.schema.json")
+        return None
+    return jsonschema.Draft202012Validator(json.loads(schema.read_text()))
+
+
+def check_json():
+    """Every document as JSON and back is the same document, byte for byte as the library writes it."""
+    check = validator()
+    for file in [*sorted(documents.glob("*.vyr")), sample]:
+        output("convert", file, "a.json")
+        output("convert", "a.json", "b.vyr")
+        output("convert", file, "c.vyr")
+        same(f"{file.name} through JSON", pathlib.Path("b.vyr").read_bytes() == pathlib.Path("c.vyr").read_bytes(), True)
+        same(f"{file.name} by vyr json", output("json", file), pathlib.Path("a.json").read_text())
+        if check is not None:
+            faults = [error.message[:200] for error in check.iter_errors(json.loads(pathlib.Path("a.json").read_text()))]
+            same(f"{file.name} by the JSON Schema", faults, [])
+    color = json.loads(output("json", sample))["Palette"][0]["ColorSet"][0]["Color"][0]
+    same("types", (color["ColorName"], color["ColorSpace"][0]["ColorSpaceCIELab"]["B"],
+                   color["ColorSpace"][3]["ColorSpaceSRGB"]["ColorSpaceSpecificationSpectrumTristimulus"]), ("10E2", 51.3, None))
+
+
+def check_json_order():
+    """Members may stand in any order, and a pipe holds either form."""
+    text = output("json", sample)
+    turned = json.dumps(json.loads(text, object_pairs_hook=lambda pairs: dict(reversed(pairs))))
+    code, out, err = run("convert", "-", "-", stdin=turned.encode())
+    same("members in another order", (code, err, out), (0, "", output("convert", sample, "-")))
+
+
+def check_json_faults():
+    check = validator()
+    text = output("json", sample)
+    place = r'x\.json: Palette "Inks" / ColorSet "Spot" / Color "10E2" / ColorSpace'
+    for before, after, place_and_text in (
+        ('"Red": 0.9', '"Red": 1.9', place + "SRGB / Red: Value greater than specified maximum .*"),
+        ('"Red": 0.9', '"Red": "0.9"', place + r"SRGB\[4\] / Red: a number is expected, not a text"),
+        ('"Red": 0.9', '"Rot": 0.9', place + r'SRGB\[4\]: there is no "Rot" here; it may be .* Red, .*'),
+        ('"Polarization": false', '"Polarization": 0', ".* / DevicePolarization: true or false is expected"),
+        ('"ColorNumber": "008"', '"ColorNumber": 8', r'.* / Color "10E2".* / ColorNumber: a text is expected'),
+        ('"2026-05-01T12:00:00Z"', '"2026-05-01"', r".* / ChangeHistory(\[1\])?: .*"),
+        ('"Creator": "By hand",', "", "x.json: Preamble / Header: .*"),
+        ('"Creator": "By hand",', '"Creator": "", "Creator": "",', 'x.json: the member "Creator" is given twice in an object'),
+        ('"Preamble": {', '"Preamble": [', "x.json: parse error at line .*"),
+    ):
+        before = before.replace('"Polarization', '"DevicePolarization')
+        after = after.replace('"Polarization', '"DevicePolarization')
+        broken = text.replace(before, after, 1)
+        pathlib.Path("x.json").write_text(broken)
+        code, out, err = run("convert", "x.json", "never.vyr")
+        if code != 1 or out or not re.search(f"^{place_and_text}$", err, re.MULTILINE) or os.path.exists("never.vyr"):
+            failures.append(f"{before} -> {after}: {code} {out!r} {err!r}")
+        # Dates and repeated members are no business of a JSON Schema.
+        is_json = "parse" not in place_and_text and "twice" not in place_and_text and "History" not in place_and_text
+        if check is not None and is_json and check.is_valid(json.loads(broken)):
+            failures.append(f"{before} -> {after}: the JSON Schema finds nothing")
+
+
 def check_all():
-    for check in (check_list, check_list_json, check_table, check_info, check_all_documents):
+    for check in (check_list, check_list_json, check_table, check_info, check_all_documents, check_json, check_json_order,
+                  check_json_faults):
         try:
             check()
         except Exception:  # what one check stumbles over is no reason to skip the others

@@ -9,10 +9,11 @@ _vyr() {
         [info]="--depth --json --help -h"
         [list]="--palette --set --name --color --json --csv --help -h"
         [convert]="--to --help -h"
+        [json]="--help -h"
         [diff]="--color --json --quiet -q --help -h"
         [codes]="--json --help -h"
     )
-    local commands="check info list convert diff codes"
+    local commands="check info list convert json diff codes"
     local word=${COMP_WORDS[COMP_CWORD]} before=${COMP_WORDS[COMP_CWORD - 1]} command=vyr i
     for ((i = 1; i < COMP_CWORD; ++i)); do
         if [[ " $commands " == *" ${COMP_WORDS[i]} "* ]]; then
@@ -29,7 +30,7 @@ _vyr() {
     local words=
     case $before in
         --color) words="auto always never" ;;
-        --to) words="vyr vyrz" ;;
+        --to) words="vyr vyrz json" ;;
         --jobs | -j | --limit | --depth | --palette | --set | --name) return ;;
         *)
             if [[ $word == -* ]]; then
@@ -42,6 +43,7 @@ _vyr() {
                     compgen -d -- "$word"
                     compgen -f -X '!*.vyr' -- "$word"
                     compgen -f -X '!*.vyrz' -- "$word"
+                    [[ $command != convert ]] || compgen -f -X '!*.json' -- "$word"
                 )
                 return
             fi

@@ -2,7 +2,7 @@
 # SPDX-License-Identifier: Apache-2.0
 # Completion of the command vyr for fish.
 
-set -l commands check info list convert diff codes
+set -l commands check info list convert json diff codes
 complete -c vyr -f
 complete -c vyr -s h -l help -d 'Print help'
 complete -c vyr -n "not __fish_seen_subcommand_from $commands" -l version -d 'Print the version'
@@ -10,10 +10,11 @@ complete -c vyr -n "not __fish_seen_subcommand_from $commands" -a check -d 'Vali
 complete -c vyr -n "not __fish_seen_subcommand_from $commands" -a info -d 'Say what a document holds'
 complete -c vyr -n "not __fish_seen_subcommand_from $commands" -a list -d 'List the colours of a document'
 complete -c vyr -n "not __fish_seen_subcommand_from $commands" -a convert -d 'Write a document as a plain one or as a container'
+complete -c vyr -n "not __fish_seen_subcommand_from $commands" -a json -d 'Print documents as JSON'
 complete -c vyr -n "not __fish_seen_subcommand_from $commands" -a diff -d 'Say in what two documents differ'
 complete -c vyr -n "not __fish_seen_subcommand_from $commands" -a codes -d 'List the result codes'
 
-complete -c vyr -n '__fish_seen_subcommand_from check info list convert diff' -k -a '(__fish_complete_suffix .vyr)'
+complete -c vyr -n '__fish_seen_subcommand_from check info list convert json diff' -k -a '(__fish_complete_suffix .vyr)'
 complete -c vyr -n '__fish_seen_subcommand_from check' -s j -l jobs -x -d 'Check N files at a time'
 complete -c vyr -n '__fish_seen_subcommand_from check' -l limit -x -d 'Report at most N faults of a file'
 complete -c vyr -n '__fish_seen_subcommand_from check' -s q -l quiet -d 'Print nothing'
@@ -26,7 +27,7 @@ complete -c vyr -n '__fish_seen_subcommand_from list' -l name -x -d 'Only colour
 complete -c vyr -n '__fish_seen_subcommand_from list' -l color -x -a 'auto always never' -d 'Colours in the output'
 complete -c vyr -n '__fish_seen_subcommand_from list' -l json -d 'Print JSON'
 complete -c vyr -n '__fish_seen_subcommand_from list' -l csv -d 'Print a table for spreadsheets'
-complete -c vyr -n '__fish_seen_subcommand_from convert' -l to -x -a 'vyr vyrz' -d 'Write this format'
+complete -c vyr -n '__fish_seen_subcommand_from convert' -l to -x -a 'vyr vyrz json' -d 'Write this format'
 complete -c vyr -n '__fish_seen_subcommand_from diff' -l color -x -a 'auto always never' -d 'Colours in the output'
 complete -c vyr -n '__fish_seen_subcommand_from diff' -s q -l quiet -d 'Print nothing'
 complete -c vyr -n '__fish_seen_subcommand_from diff' -l json -d 'Print JSON'
