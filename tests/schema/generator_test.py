@@ -100,7 +100,7 @@ class AddedField(unittest.TestCase):
         schema, flat = "schema/generated", "flat/generated"
         self.assertEqual(counts.keys(), {
             f"{schema}/model.txt", f"{schema}/substrates.h", f"{schema}/substrates.cpp", f"{schema}/tables.h",
-            f"{flat}/substrates.cpp", f"{flat}/exports.txt", f"{flat}/vyr_flat.h", "csharp/generated/Substrates.cs",
+            f"{schema}/vyr.schema.json", f"{flat}/substrates.cpp", f"{flat}/exports.txt", f"{flat}/vyr_flat.h", "csharp/generated/Substrates.cs",
             "csharp/generated/Substrates.Native.cs"})
         self.assertEqual((counts[f"{schema}/model.txt"], counts[f"{schema}/tables.h"]), (1, 1))
         self.assertEqual((counts[f"{flat}/substrates.cpp"], counts[f"{flat}/exports.txt"]), (4, 4))
