@@ -15,6 +15,9 @@ vyr_add_check(generated_files ${Python3_EXECUTABLE} ${PROJECT_SOURCE_DIR}/schema
 vyr_add_check(generator ${Python3_EXECUTABLE} ${checks}/schema/generator_test.py)
 vyr_add_check(release ${checks}/scripts/check_release.sh ${PROJECT_SOURCE_DIR})
 set_tests_properties(release PROPERTIES SKIP_RETURN_CODE 77)
+vyr_add_check(site ${Python3_EXECUTABLE} ${checks}/docs/check_site.py ${CMAKE_COMMAND} ${PROJECT_SOURCE_DIR}
+              ${PROJECT_BINARY_DIR}/site_test)
+set_tests_properties(site PROPERTIES SKIP_RETURN_CODE 77)
 # Another compiler, and a build for debugging or measuring, exports other instances of the same names.
 if(BUILD_SHARED_LIBS AND CMAKE_CXX_COMPILER_ID STREQUAL "GNU" AND CMAKE_BUILD_TYPE STREQUAL "Release")
   vyr_add_check(exported_names ${PROJECT_SOURCE_DIR}/scripts/exported_names.sh $<TARGET_FILE:vyr>)

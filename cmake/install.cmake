@@ -12,7 +12,11 @@ install(TARGETS vyr EXPORT vyr-targets
         LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR} COMPONENT runtime NAMELINK_COMPONENT development)
 if(VYR_BUILD_TOOLS)
   install(TARGETS vyr_tool RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR} COMPONENT tool)
-  install(FILES tools/vyr.1 DESTINATION ${CMAKE_INSTALL_MANDIR}/man1 COMPONENT tool)
+  # Copied, so that a change of the page is seen and it is compressed anew.
+  configure_file(tools/vyr.1 vyr.1 COPYONLY)
+  file(ARCHIVE_CREATE OUTPUT ${PROJECT_BINARY_DIR}/vyr.1.gz PATHS ${PROJECT_BINARY_DIR}/vyr.1 FORMAT raw
+       COMPRESSION GZip COMPRESSION_LEVEL 9)
+  install(FILES ${PROJECT_BINARY_DIR}/vyr.1.gz DESTINATION ${CMAKE_INSTALL_MANDIR}/man1 COMPONENT tool)
   set(completion ${CMAKE_INSTALL_DATADIR}/bash-completion/completions)
   install(FILES tools/completion/vyr.bash DESTINATION ${completion} RENAME vyr COMPONENT tool)
   install(FILES tools/completion/_vyr DESTINATION ${CMAKE_INSTALL_DATADIR}/zsh/site-functions COMPONENT tool)
@@ -38,11 +42,19 @@ if(VYR_BUILD_FLAT)
   install(FILES flat/generated/exports.txt DESTINATION ${CMAKE_INSTALL_DATADIR}/vyr COMPONENT development)
 endif()
 
-# As the guides lie in the sources, so that their links hold.
-install(FILES README.md CONTRIBUTING.md SECURITY.md CHANGELOG.md LICENSE DESTINATION ${CMAKE_INSTALL_DOCDIR}
-        COMPONENT documentation)
-install(DIRECTORY docs examples DESTINATION ${CMAKE_INSTALL_DOCDIR} COMPONENT documentation
-        REGEX "docs/(samples/CMakeLists.txt|[^/]*[.](in|py|cmake))$" EXCLUDE)
+# As the guides lie in the sources, so that their links hold; by name, since people build in these folders.
+foreach(file README.md CONTRIBUTING.md SECURITY.md CHANGELOG.md LICENSE
+        docs/README.md docs/building.md docs/container.md docs/csharp.md docs/errors.md docs/flat.md docs/format.md
+        docs/generator.md docs/limits.md docs/performance.md docs/reports.md docs/threads.md
+        docs/samples/broken.vyr docs/samples/flat.c docs/samples/guides.cpp docs/samples/guides.cs
+        docs/samples/inks.vyr
+        examples/CMakeLists.txt examples/README.md examples/css-colors.vyr examples/first.cpp examples/inks.csv
+        examples/palette.cpp examples/print.cpp examples/quality.cpp examples/spectra.cpp examples/spectra.csv
+        examples/support.h examples/validate.cpp
+        examples/csharp/Palette.cs examples/csharp/Quality.cs examples/csharp/Spectra.cs)
+  cmake_path(GET file PARENT_PATH folder)
+  install(FILES ${file} DESTINATION ${CMAKE_INSTALL_DOCDIR}/${folder} COMPONENT documentation)
+endforeach()
 
 install(EXPORT vyr-targets NAMESPACE vyr:: DESTINATION ${vyr_package_dir} COMPONENT development)
 configure_package_config_file(cmake/vyr-config.cmake.in vyr-config.cmake INSTALL_DESTINATION ${vyr_package_dir})

@@ -25,7 +25,8 @@ a document as a tree of plain classes, and writes it back.
 
 set(CPACK_DEBIAN_LIBRARY_PACKAGE_NAME ${library_package})
 set(CPACK_DEBIAN_LIBRARY_PACKAGE_SECTION libs)
-set(CPACK_DEBIAN_LIBRARY_PACKAGE_CONTROL_EXTRA ${PROJECT_SOURCE_DIR}/cmake/debian/triggers)
+set(CPACK_DEBIAN_LIBRARY_PACKAGE_CONTROL_EXTRA triggers postinst postrm)
+list(TRANSFORM CPACK_DEBIAN_LIBRARY_PACKAGE_CONTROL_EXTRA PREPEND ${PROJECT_SOURCE_DIR}/cmake/debian/)
 set(CPACK_DEBIAN_LIBRARY_DESCRIPTION "reads, checks and writes colour-data documents
 ${about}
 This package holds the shared library, for programs in C++ and for C#.")

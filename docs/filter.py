@@ -29,8 +29,26 @@ def lines_of_comment(lines):
     return next(i for i, line in enumerate(lines) if not line.startswith("    ///"))
 
 
-if path.suffix == ".md":  # What is no page of the site is named and not linked.
-    text = re.sub(r"\[([^\]]+)\]\((?:LICENSE|examples/README\.md)\)", r"\1", text)
+def heading_name(page, heading):
+    return f"{Path(page).stem}-{re.sub(r'[^a-z0-9]+', '-', heading.lower()).strip('-')}"
+
+
+def guide(text):
+    """Headings get names that links can use, a closing "#" is kept, which Doxygen takes for decoration, and a link whose
+    text is broken over two lines, which would spoil the rest of the page, is joined. What is no page of the site is
+    named and not linked."""
+    parts = re.split(r"(^```.*?^```$)", text, flags=re.MULTILINE | re.DOTALL)  # Blocks of code stay as they are.
+    for i in range(0, len(parts), 2):
+        prose = re.sub(r"\[([^\]]+)\]\((?:LICENSE|examples/README\.md)\)", r"\1", parts[i])
+        prose = re.sub(r"\]\(([^)#:\s]*)#([^)\s]+)\)", lambda m: f"](#{heading_name(m[1] or path, m[2])})", prose)
+        prose = re.sub(r"^(##+ )(.*)$", lambda m: f"{m[1]}{m[2]} {{#{heading_name(path, m[2])}}}", prose, flags=re.MULTILINE)
+        prose = re.sub(r"(\[[^\]\n]*)\n *([^\]\n]*\]\()", r"\1 \2", prose)
+        parts[i] = re.sub(r"^# (.*#)$", r"\1\n===", prose, flags=re.MULTILINE)
+    return "".join(parts)
+
+
+if path.suffix == ".md":
+    text = guide(text)
 if path.suffix == ".h":
     text = re.sub(r"\n\n///", "\n/// @file\n///", text, count=1)
 if generated and "\n/// Classes of the topic" in text:

@@ -1,10 +1,8 @@
-# The target `docs`: a site of the guides and the reference, in the folder site/ of the build. Where Doxygen isn't
-# installed there is no such target.
+# The target `docs`: a site of the guides and the reference, in the folder site/ of the build. What it needs is looked
+# for when it is built, so that it can be installed after the rest was configured.
 
-find_package(Doxygen QUIET)
-find_package(Python3 3.11 QUIET COMPONENTS Interpreter)
-if(DOXYGEN_FOUND AND Python3_FOUND)
-  configure_file(${CMAKE_CURRENT_LIST_DIR}/Doxyfile.in ${PROJECT_BINARY_DIR}/Doxyfile @ONLY)
-  add_custom_target(docs COMMAND ${DOXYGEN_EXECUTABLE} ${PROJECT_BINARY_DIR}/Doxyfile
-                         WORKING_DIRECTORY ${PROJECT_SOURCE_DIR} VERBATIM)
-endif()
+add_custom_target(docs COMMAND ${CMAKE_COMMAND} "-DPROJECT_VERSION=${PROJECT_VERSION}"
+                               "-DPROJECT_DESCRIPTION=${PROJECT_DESCRIPTION}"
+                               "-DPROJECT_SOURCE_DIR=${PROJECT_SOURCE_DIR}" "-DPROJECT_BINARY_DIR=${PROJECT_BINARY_DIR}"
+                               -P ${CMAKE_CURRENT_LIST_DIR}/make_site.cmake
+                       COMMENT "Making ${PROJECT_BINARY_DIR}/site/index.html" VERBATIM USES_TERMINAL)

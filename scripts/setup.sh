@@ -2,9 +2,10 @@
 # Copyright 2026 The Vyr Authors
 # SPDX-License-Identifier: Apache-2.0
 #
-# Installs what is missing to work on Vyr on a Debian 12 machine; does nothing, quickly, when nothing is missing.
+# Installs what is missing to work on Vyr on a Debian 12 machine; does nothing, quickly, when nothing is missing. Without
+# a group: build.
 #
-#   scripts/setup.sh [build] [tool] [test] [csharp] [windows] [bench] [docs] [clang] [tidy] [package]   (without any: build)
+#   scripts/setup.sh [build] [tool] [test] [csharp] [windows] [bench] [docs] [clang] [tidy] [package] [lint]
 
 set -euo pipefail
 
@@ -20,6 +21,7 @@ declare -A packages=(
     [docs]="doxygen python3"
     [clang]="clang-14 clang libclang-rt-14-dev"
     [tidy]="clang-tidy-14"
+    [lint]="lintian"
 )
 
 wanted=${packages[build]}

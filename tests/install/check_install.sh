@@ -46,7 +46,7 @@ $libdir/libvyr.so.$version
 bin/vyr
 share/bash-completion/completions/vyr
 share/fish/vendor_completions.d/vyr.fish
-share/man/man1/vyr.1
+share/man/man1/vyr.1.gz
 share/zsh/site-functions/_vyr
 $libdir/cmake/vyr/vyr-config-version.cmake
 $libdir/cmake/vyr/vyr-config.cmake

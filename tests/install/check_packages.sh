@@ -2,8 +2,9 @@
 # Copyright 2026 The Vyr Authors
 # SPDX-License-Identifier: Apache-2.0
 #
-# Makes the Debian packages of a build, looks at what each asks for and holds, and runs the command from their files.
-# Skipped where the tools of Debian's packages are missing.
+# Makes the Debian packages of a build, looks at what each asks for and holds, and runs the command from their files;
+# lintian finds no error in them, where it is installed. What builds and editors leave in the sources is in none. Skipped
+# where the tools of Debian's packages are missing.
 #
 #   check_packages.sh CPACK BUILD_FOLDER SOURCE_FOLDER
 
@@ -37,12 +38,41 @@ while read -r package needs file; do
         compgen -G "root_$package/usr/$path" > /dev/null || fail "$package lacks $path"
     done
     cp -a "root_$package/." root
+    # The loader's cache is the trigger's business.
+    ! dpkg-deb --ctrl-tarfile "$deb" | tar --extract --to-stdout --wildcards './p*' 2> /dev/null | grep -E '^[^#]*ldconfig' ||
+        fail "a script of $package calls ldconfig"
 done << TABLE
 $library libc6,libstdc++6,libxml2,zlib1g,libbz2 lib*/libVyrModule.so
 libvyr-dev $library,libxml2-dev,zlib1g-dev,libbz2-dev,liblzma-dev share/vyr/vyr.xsd
-vyr-tools $library,libc6,libstdc++6 bin/vyr
+vyr-tools $library,libc6,libstdc++6 share/man/man1/vyr.1.gz
 ${assembly/LIBRARY/$library}
 TABLE
 # No file is in two packages.
 [[ $(find root -type f | wc -l) == $(find root_* -type f | wc -l) ]] || fail "two packages hold the same file"
 root/usr/bin/vyr check "$3/examples/css-colors.vyr" || fail "the packaged command does not run"
+gzip --decompress --stdout root/usr/share/man/man1/vyr.1.gz | cmp - "$3/tools/vyr.1" || fail "the manual page is another one"
+if command -v lintian > /dev/null; then
+    lintian --fail-on error --no-cfg ./*.deb > lintian.log 2>&1 || { cat lintian.log; fail "lintian finds errors"; }
+fi
+
+# Guides and examples as they are known to git, but for what makes the site and the samples.
+if [[ -e $3/.git ]]; then
+    guides=$(dirname "$(find root -path '*/docs/format.md')")
+    diff <(cd "$guides/.." && find docs examples -type f | sort) \
+        <(git -C "$3" ls-files docs examples | grep -vE '^docs/(samples/CMakeLists.txt|[^/]*[.](in|py|cmake))$' | sort) ||
+        fail "< is in no commit, > is missing in cmake/install.cmake"
+fi
+mkdir copy
+tar --directory "$3" --exclude=./build --exclude=./.git --create . | tar --extract --directory copy
+for left in examples/Left.exe examples/build/left.cpp examples/csharp/Left.exe docs/left.md docs/samples/left.vyr \
+    csharp/left.dll csharp/obj/Left.cs; do
+    mkdir -p "copy/${left%/*}"
+    touch "copy/$left"
+done
+cmake=$(dirname "$1")/cmake
+"$cmake" -G Ninja -S copy -B copy_build -DCMAKE_BUILD_TYPE=Release -DVYR_BUILD_TESTS=OFF -DVYR_BUILD_TOOLS=OFF -DVYR_MCS=OFF > log
+for component in documentation csharp; do
+    "$cmake" --install copy_build --prefix installed --component "$component" > log
+done
+[[ -f installed/share/vyr/csharp/generated/Palettes.cs ]] || fail "the sources for C# are missing"
+! find installed -iname '*left*' | grep . || fail "leftovers are installed"
