@@ -55,6 +55,7 @@ $libdir/cmake/vyr/vyr-targets.cmake
 $libdir/libvyr.so
 $libdir/pkgconfig/vyr.pc
 share/vyr/exports.txt
+share/vyr/vyr.schema.json
 share/vyr/vyr.xsd
 LIST
 [[ -f documentation/share/doc/vyr/docs/format.md ]] || fail "the guides are missing"
