@@ -96,7 +96,8 @@ private:
     const char* m_start = nullptr;
     const char* m_at = nullptr;  ///< behind what was taken
     const char* m_end = nullptr;
-    int m_line_feeds = 0;  ///< in what was taken
+    int m_line_feeds = 0;   ///< in what was taken
+    unsigned m_misses = 0;  ///< attempts since an item was taken
     s_plain_trace m_trace;
     std::string m_text;  ///< of a value that is checked or converted the long way
 };

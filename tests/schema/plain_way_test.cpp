@@ -199,6 +199,14 @@ const std::vector<s_case>& cases() {
           "<Vyr:ChangeHistory>2024-05-01T09:30:00</Vyr:ChangeHistory>"
           "<Vyr:ChangeHistory>2024-05-01T09:30:00+00:00</Vyr:ChangeHistory>" +
               k_nil + "<Vyr:L>1\n</Vyr:L><Vyr:A>1\r\n</Vyr:A><Vyr:B\n>1</Vyr:B\n>"}},
+        // Where a name or a tag ends, and one plain element behind several that aren't.
+        {"ColorSpaceCIELab",
+         {k_date + k_nil + "<Vyr:L>1</Vyr:L ><Vyr:A>1</Vyr:A   ><Vyr:B>1</Vyr:B\t>",
+          k_date + k_nil + "<Vyr:L>1</Vyr:L x><Vyr:A>1</Vyr:A/><Vyr:B>1</Vyr:B",
+          k_date + k_nil + "<Vyr:L<Vyr:A>1</Vyr:A><Vyr:Bb>1</Vyr:Bb>", k_date + k_nil + "<Vyr:L\x01>1</Vyr:L><Vyr:",
+          "<Vyr:ChangeHistory>&#50;024-05-01T09:30:00Z</Vyr:ChangeHistory><!-- -->" + k_nil +
+              "<!-- --><Vyr:L>&#53;</Vyr:L><Vyr:A>&#53;</Vyr:A><Vyr:B>&#53;</Vyr:B><Vyr:Hue>&#53;</Vyr:Hue>" +
+              k_text + k_lab_end}},
         {"TagValue",
          {"<Vyr:Tag Name='\xC3\xA9\xE2\x80\xA8\n' UniqueID=\"<>'\"/>", "<Vyr:Tag Name='\xC3' UniqueID='\t'/>",
           "<Vyr:Tag Name='a' Name='b'/>", "<Vyr:Tag Name='a'UniqueID='b'><Vyr:Category/></Vyr:Tag>" + k_text}},
