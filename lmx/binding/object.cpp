@@ -230,10 +230,8 @@ void* append_default(const s_item& item, void* object) {
     }
 }
 
-void* place_for_value(const s_class& type, const s_item& item, void* object) {
-    if (item.kind == item_kind::element_list) return append_default(item, object);
-    if (item.kind == item_kind::alternative) return choose(type, item, object);
-    return &member<std::byte>(object, item.offset);
+void* make_place_for_value(const s_class& type, const s_item& item, void* object) {
+    return item.kind == item_kind::element_list ? append_default(item, object) : choose(type, item, object);
 }
 
 void copy(const s_class& type, void* target, const void* source) {

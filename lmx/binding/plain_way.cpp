@@ -121,20 +121,29 @@ const char* c_plain_way::find_stop(const char* at, char stop, bool* is_ascii, in
 }
 
 /// Reads and checks a value up to `stop`; null if it isn't plain or isn't right.
-const char* c_plain_way::read_value(const s_item& row, const char* at, char stop, s_value* value, int* line_feeds) {
+inline const char* c_plain_way::read_value(const s_item& row, const char* at, char stop, s_value* value,
+                                           int* line_feeds) {
+    const s_facets* const facets = row.facets;
+    if (row.value != value_kind::number || (facets != nullptr && facets->pattern != nullptr)) {
+        return read_other_value(row, at, stop, value, line_feeds);
+    }
+    const char* const end = take_short_decimal(at, m_end, &value->number);
+    if (end == nullptr || end == m_end || *end != stop) return read_other_value(row, at, stop, value, line_feeds);
+    value->begin = at;
+    value->end = end;
+    value->form = s_value::e_form::number;
+    const bool is_right = facets == nullptr || (!facets->is_below(value->number) && !facets->is_above(value->number));
+    return is_right ? end : nullptr;
+}
+
+/// The same for all but short decimals.
+PLAIN_WAY_APART const char* c_plain_way::read_other_value(const s_item& row, const char* at, char stop,
+                                                          s_value* value, int* line_feeds) {
     const s_facets* const facets = row.facets;
     value->begin = at;
-    if (row.value == value_kind::number && (facets == nullptr || facets->pattern == nullptr)) {
-        value->end = take_short_decimal(at, m_end, &value->number);
-        value->form = s_value::e_form::number;
-        if (value->end != nullptr && value->end < m_end && *value->end == stop) {
-            const bool is_right =
-                facets == nullptr || (!facets->is_below(value->number) && !facets->is_above(value->number));
-            return is_right ? value->end : nullptr;
-        }
-    } else if (row.value == value_kind::datetime && (facets == nullptr || facets->pattern_takes_zoned) &&
-               m_end - at > static_cast<std::ptrdiff_t>(c_datetime::k_usual_size) &&
-               at[c_datetime::k_usual_size] == stop && value->datetime.assign_usual(at)) {
+    if (row.value == value_kind::datetime && (facets == nullptr || facets->pattern_takes_zoned) &&
+        m_end - at > static_cast<std::ptrdiff_t>(c_datetime::k_usual_size) && at[c_datetime::k_usual_size] == stop &&
+        value->datetime.assign_usual(at)) {
         value->form = s_value::e_form::datetime;
         return value->end = at + c_datetime::k_usual_size;
     }
@@ -158,11 +167,19 @@ bool c_plain_way::is_right(const s_item& row, std::string_view text) {
     return check_as_read(row, m_text) == ELMX_OK;
 }
 
-void c_plain_way::store(const s_class& type, const s_item& row, void* object, const s_value& value) {
+inline void c_plain_way::store(const s_class& type, const s_item& row, void* object, const s_value& value) {
     void* const storage = place_for_value(type, row, object);
+    if (value.form == s_value::e_form::number) {
+        *static_cast<double*>(storage) = value.number;
+    } else {
+        store_other(row, storage, value);
+    }
+    mark_set(row, object);
+}
+
+PLAIN_WAY_APART void c_plain_way::store_other(const s_item& row, void* storage, const s_value& value) {
     switch (value.form) {
         case s_value::e_form::number:
-            *static_cast<double*>(storage) = value.number;
             break;
         case s_value::e_form::datetime:
             *static_cast<c_datetime*>(storage) = value.datetime;
@@ -184,7 +201,6 @@ void c_plain_way::store(const s_class& type, const s_item& row, void* object, co
             break;
         }
     }
-    mark_set(row, object);
 }
 
 // Tags.
@@ -283,6 +299,7 @@ bool c_plain_way::read_start_tag(const s_class& type, const void* object, const 
 }
 
 bool c_plain_way::has_required(const s_class& type, const void* object, const s_start_tag& tag) const {
+    if (type.base == nullptr && tag.count == type.attributes.size()) return true;
     std::size_t next = 0;  // most stand in the order of their rows
     for (const s_class* level = &type; level != nullptr; level = level->base) {
         for (const s_item& row : level->attributes) {

@@ -81,9 +81,11 @@ private:
     void store_attributes(const s_class& type, void* object, const s_start_tag& tag);
 
     const char* read_value(const s_item& row, const char* at, char stop, s_value* value, int* line_feeds);
+    const char* read_other_value(const s_item& row, const char* at, char stop, s_value* value, int* line_feeds);
     const char* find_stop(const char* at, char stop, bool* is_ascii, int* line_feeds) const;
     bool is_right(const s_item& row, std::string_view text);
     void store(const s_class& type, const s_item& row, void* object, const s_value& value);
+    void store_other(const s_item& row, void* storage, const s_value& value);
 
     void note_tag(std::string_view text, int line);
     void note_value(const s_item& row, const s_value& value);

@@ -137,8 +137,13 @@ bool is_item_there(const s_item& item, const void* object);
 /// A new entry at the end of a repeating item; a default value or object.
 void* append_default(const s_item& item, void* object);
 
-/// Where a value that passed its checks goes: into the object, to the end of a list, or into a choice, which then
-/// chooses the alternative.
-void* place_for_value(const s_class& type, const s_item& item, void* object);
+/// Where the value of a list's new entry or of an alternative, which is chosen then, goes.
+void* make_place_for_value(const s_class& type, const s_item& item, void* object);
+
+/// Where a value that passed its checks goes: into the object, to the end of a list, or into a choice.
+inline void* place_for_value(const s_class& type, const s_item& item, void* object) {
+    const bool is_made = item.kind == item_kind::element_list || item.kind == item_kind::alternative;
+    return is_made ? make_place_for_value(type, item, object) : &member<std::byte>(object, item.offset);
+}
 
 }  // namespace lmx
