@@ -36,7 +36,8 @@ foreach(header document/report.h document/result.h zip/add_request.h zip/contain
   cmake_path(GET header PARENT_PATH folder)
   install(FILES ${header} DESTINATION ${vyr_include_dir}/${folder} COMPONENT development)
 endforeach()
-install(FILES schema/vyr.xsd schema/generated/vyr.schema.json DESTINATION ${CMAKE_INSTALL_DATADIR}/vyr COMPONENT development)
+install(FILES schema/vyr.xsd schema/catalog.xml schema/generated/vyr.schema.json
+        DESTINATION ${CMAKE_INSTALL_DATADIR}/vyr COMPONENT development)
 if(VYR_BUILD_FLAT)
   install(FILES flat/generated/vyr_flat.h DESTINATION ${vyr_include_dir} COMPONENT development)
   install(FILES flat/generated/exports.txt DESTINATION ${CMAKE_INSTALL_DATADIR}/vyr COMPONENT development)
@@ -44,8 +45,9 @@ endif()
 
 # As the guides lie in the sources, so that their links hold; by name, since people build in these folders.
 foreach(file README.md CONTRIBUTING.md SECURITY.md CHANGELOG.md LICENSE
-        docs/README.md docs/building.md docs/container.md docs/csharp.md docs/errors.md docs/flat.md docs/format.md
-        docs/generator.md docs/limits.md docs/performance.md docs/reports.md docs/threads.md
+        docs/README.md docs/building.md docs/codes.md docs/container.md docs/csharp.md docs/errors.md docs/flat.md
+        docs/format.md docs/generator.md docs/limits.md docs/performance.md docs/reports.md docs/schema.md
+        docs/threads.md docs/values.md
         docs/samples/broken.vyr docs/samples/flat.c docs/samples/guides.cpp docs/samples/guides.cs
         docs/samples/inks.vyr
         examples/CMakeLists.txt examples/README.md examples/css-colors.vyr examples/first.cpp examples/inks.csv

@@ -145,6 +145,77 @@ void write_one_value() {
     expect(again.get_L() == 58.1, "one class alone");
 }
 
+// docs/values.md
+
+struct s_spectrum {
+    std::vector<double> wavelengths;  // nanometres
+    std::vector<double> factors;      // fractions: 0.5 for 50 %
+};
+
+s_spectrum read_spectrum(const com_vyrgraph_v2::ColorType& color) {
+    using com_vyrgraph_v2::sg_ColorSpace;
+    s_spectrum result;
+    for (std::size_t i = 0; i < color.size_ColorSpace(); ++i) {
+        if (color.get_ColorSpace(i).getchosen() != sg_ColorSpace::e_ColorSpaceSpectral) continue;
+        const auto& spectral = color.get_ColorSpace(i).get_ColorSpaceSpectral();
+        for (std::size_t k = 0; k < spectral.size_ReflectancePoint(); ++k) {
+            result.wavelengths.push_back(spectral.get_ReflectancePoint(k).get_Wavelength());
+            result.factors.push_back(spectral.get_ReflectancePoint(k).get_ReflectancePointType());
+        }
+        break;
+    }
+    return result;
+}
+
+// The conditions that hold for a value: its own, else those of its colour set, else those of its palette; null where
+// nobody knows them.
+using Conditions = com_vyrgraph_v2::ColorSpaceSpecificationSpectrumTristimulusType;
+
+const Conditions* conditions_of(const com_vyrgraph_v2::ColorSpaceCIELabType& lab,
+                                const com_vyrgraph_v2::ColorSetType& set,
+                                const com_vyrgraph_v2::PaletteType& palette) {
+    const auto known = [](const auto& conditions) -> const Conditions* {
+        return conditions.isnil_ColorSpaceSpecificationSpectrumTristimulus() ? nullptr : &conditions;
+    };
+    const auto default_of = [&known](const auto& collection) -> const Conditions* {
+        if (!collection.isset_CollectionColorSpaceSpecification()) return nullptr;
+        const auto& defaults = collection.get_CollectionColorSpaceSpecification();
+        if (!defaults.isset_ColorSpaceSpecificationSpectrumTristimulus()) return nullptr;
+        return known(defaults.get_ColorSpaceSpecificationSpectrumTristimulus());
+    };
+    if (const Conditions* own = known(lab.get_ColorSpaceSpecificationSpectrumTristimulus())) return own;
+    if (const Conditions* of_set = default_of(set)) return of_set;
+    return default_of(palette);
+}
+
+void read_values() {
+    using namespace com_vyrgraph_v2;
+    Vyr document = build();
+    PaletteType& palette = document.get_Palette(0);
+    ColorSetType& set = palette.get_ColorSet(0);
+    ColorType& color = set.get_Color(0);
+    const ColorSpaceCIELabType& lab = color.get_ColorSpace(0).get_ColorSpaceCIELab();
+    expect(conditions_of(lab, set, palette) == nullptr, "nobody knows the conditions");
+    auto& of_palette =
+        palette.get_CollectionColorSpaceSpecification().get_ColorSpaceSpecificationSpectrumTristimulus();
+    expect(conditions_of(lab, set, palette) == &of_palette, "those of the palette hold");
+    auto& of_set = set.get_CollectionColorSpaceSpecification().get_ColorSpaceSpecificationSpectrumTristimulus();
+    expect(conditions_of(lab, set, palette) == &of_set, "those of the set go first");
+    of_set.setnil_ColorSpaceSpecificationSpectrumTristimulus();
+    expect(conditions_of(lab, set, palette) == &of_palette, "nil leaves them to the palette");
+
+    color.append_ColorSpace();
+    ColorSpaceSpectralType& spectral = color.back_ColorSpace().get_ColorSpaceSpectral();
+    for (const double wavelength : {400.0, 550.0, 700.0}) {
+        spectral.append_ReflectancePoint();
+        spectral.back_ReflectancePoint().set_Wavelength(wavelength);
+        spectral.back_ReflectancePoint().set_ReflectancePointType(wavelength / 1000);
+    }
+    const s_spectrum spectrum = read_spectrum(color);
+    expect(spectrum.wavelengths == std::vector<double>({400, 550, 700}), "wavelengths come in nanometres");
+    expect(spectrum.factors == std::vector<double>({0.4, 0.55, 0.7}), "factors come as fractions");
+}
+
 // docs/errors.md
 
 void load_with_report(const std::string& path) {
@@ -314,6 +385,7 @@ int main(int argc, char** argv) {
     derive(tolerance);
     lack();
     write_one_value();
+    read_values();
 
     load_with_report(path);
     gather(path);

@@ -122,6 +122,26 @@ def check_links(page, text):
             problems.append(f"{page.relative_to(source)}: {target} has no such heading")
 
 
+def check_codes():
+    """The table of codes has each code of the header with its number, in order; "Never" is said of those that nothing
+    in the library mentions, and of no other."""
+    codes, number = [], 0
+    body = re.search(r"enum elmx_error : .*?\{(.*?)\};", (source / "lmx/error.h").read_text(), re.DOTALL)[1]
+    for name, value in re.findall(r"^ *(ELMX_\w+)(?: = (\d+))?", body, re.MULTILINE):
+        number = int(value) if value else number + bool(codes)
+        codes.append((number, name))
+    rows = re.findall(r"^\| (\d+) \| `(\w+)` \| (.*?) \|", (source / "docs/codes.md").read_text(), re.MULTILINE)
+    told = [(int(number), name) for number, name, _ in rows]
+    problems.extend(f"docs/codes.md: {number} {name} is missing, wrong or out of place"
+                    for number, name in sorted(set(codes) ^ set(told)) or [row for row in codes if codes != told])
+    used = "".join(file.read_text() for folder in ("lmx", "schema", "document", "zip", "flat")
+                   for file in (source / folder).rglob("*.[ch]*") if file.stem != "error" and file.suffix in (".cpp", ".h"))
+    for _, name, when in rows:
+        if when.startswith("Never") == bool(re.search(rf"\b{name}\b", used)):
+            problems.append(f"docs/codes.md: {name} comes otherwise than it says")
+
+
+check_codes()
 blocks = 0
 pages = [*sorted(source.glob("*.md")), *sorted((source / "docs").glob("*.md"))]
 for page in pages:

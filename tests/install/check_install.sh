@@ -54,6 +54,7 @@ $libdir/cmake/vyr/vyr-targets-${config,,}.cmake
 $libdir/cmake/vyr/vyr-targets.cmake
 $libdir/libvyr.so
 $libdir/pkgconfig/vyr.pc
+share/vyr/catalog.xml
 share/vyr/exports.txt
 share/vyr/vyr.schema.json
 share/vyr/vyr.xsd
@@ -63,6 +64,10 @@ LIST
 mv first shared
 [[ $(find shared -type f | wc -l) == $(find runtime tool development documentation csharp -type f | wc -l) ]] ||
     fail "a file belongs to no component"
+# Validators find the schema by the namespace alone; one that doesn't look into it would let the last one pass.
+valid() { XML_CATALOG_FILES=shared/share/vyr/catalog.xml xmllint --nonet --noout --schema http://vyrgraph.com/v2 "$1" 2> log; }
+valid "$palette" || { cat log; fail "the catalog does not lead to the schema"; }
+! valid "$source/docs/samples/broken.vyr" && grep --quiet "'Shade' is not allowed" log || fail "the schema refuses nothing"
 "shared/bin/vyr" check "$palette" || fail "the installed command does not run"
 
 # The header for C is C, and links with nothing but the library.
