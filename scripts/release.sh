@@ -28,13 +28,20 @@ current_minor=${current%.*}
 
 [[ -z $(git status --porcelain) ]] || refuse "the work tree has changes; commit or remove them first"
 git rev-parse --quiet --verify "refs/tags/$tag" > /dev/null && refuse "$tag is there already"
-# The first release has the version that the sources are at.
+# The first release has the version that the sources are at, and its section may be in the changelog already.
+section="\[Unreleased\]"
 if [[ $version != "$current" || -n $(git tag --list 'v*') ]]; then
     [[ $version != "$current" && $(printf '%s\n' "$current" "$version" | sort --version-sort | tail -n 1) == "$version" ]] ||
         refuse "$version does not come behind $current"
+elif grep --quiet "^## \[$version\]" CHANGELOG.md; then
+    section="\[$version\]"
 fi
-notes=$(sed -n '/^## \[Unreleased\]/,/^## \[[0-9]/{/^## /d;p}' CHANGELOG.md)
-[[ $notes =~ [^[:space:]] ]] || refuse "CHANGELOG.md has nothing under [Unreleased]"
+notes_of() { sed -n "/^## $1/,/^## \[[0-9U]/{/^## /d;p}" CHANGELOG.md; }
+notes=$(notes_of "$section")
+[[ $notes =~ [^[:space:]] ]] || refuse "CHANGELOG.md has nothing under ${section//\\/}"
+if [[ $section != *Unreleased* && $(notes_of "\[Unreleased\]") =~ [^[:space:]] ]]; then
+    refuse "CHANGELOG.md has something under [Unreleased] beside [$version]"
+fi
 
 # Where the version stands: file, and the text around it, once with all three numbers and elsewhere with two.
 replace() {
@@ -56,11 +63,17 @@ for file in README.md examples/CMakeLists.txt; do
 done
 replace README.md "libvyr$current_minor" "libvyr$minor"
 replace README.md "libvyr.so.$current_minor" "libvyr.so.$minor"
-replace CHANGELOG.md "## [Unreleased]" "## [Unreleased]
+today="## [$version] - $(date --utc +%F)"
+if [[ $section == *Unreleased* ]]; then
+    replace CHANGELOG.md "## [Unreleased]" "## [Unreleased]
 
-## [$version] - $(date --utc +%F)"
+$today"
+else
+    sed -i "s/^## $section.*/$today/" CHANGELOG.md
+fi
 
-git commit --all --quiet --message "Release $version"
+# The first release may change nothing, and is a commit all the same.
+git commit --all --allow-empty --quiet --message "Release $version"
 git tag --annotate "$tag" --message "Vyr $version" --message "$notes"
 if $is_prepare_only; then
     echo "committed and tagged: $tag"

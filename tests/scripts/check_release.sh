@@ -25,11 +25,23 @@ git init --quiet
 git add --all
 git commit --quiet --message "Begin"
 
+# The first release, whose section is there: it gets its notes, and today's date.
 current=$(sed -n 's/^project(vyr VERSION \([0-9.]*\) .*/\1/p' CMakeLists.txt)
+before=$(git rev-parse HEAD)
+sed -i "s/^## \[$current\] - .*/## [$current] - 2001-02-03/; s/^### Added/- Of the first\n\n&/" CHANGELOG.md
+git commit --all --quiet --message "Say something of the first"
+scripts/release.sh "$current" --prepare
+grep --quiet "^## \[$current\] - $(date --utc +%F)" CHANGELOG.md || fail "the first release keeps another date"
+git tag --list --format='%(contents)' "v$current" | grep "Of the first" > /dev/null || fail "its tag has no notes"
+git tag --delete "v$current" > /dev/null
+git reset --quiet --hard "$before"
+
 sed -i 's/^## \[Unreleased\]$/&\n\n- A line of this test/' CHANGELOG.md
 if scripts/release.sh 9.8.7 --prepare 2> "$work/refusal"; then fail "a work tree with changes is released"; fi
 grep --quiet "has changes" "$work/refusal" || fail "refused for another reason: $(cat "$work/refusal")"
 git commit --all --quiet --message "Go on"
+if scripts/release.sh "$current" --prepare 2> "$work/refusal"; then fail "a line is left unreleased"; fi
+grep --quiet "something under" "$work/refusal" || fail "refused for another reason: $(cat "$work/refusal")"
 if scripts/release.sh 0.0.1 --prepare 2> "$work/refusal"; then fail "an older version is released"; fi
 grep --quiet "does not come behind" "$work/refusal" || fail "refused for another reason: $(cat "$work/refusal")"
 
