@@ -195,6 +195,44 @@ TEST(Report, OfOneChangeToAGoodDocument) {
                   "ColorSpaceCMYKPlusNType, with the prefix of the document's namespace, is expected\n");
 }
 
+TEST(Report, PutsWhatTheScannerFindsIntoSentences) {
+    const struct {
+        std::string from, to, report;
+    } rows[] = {
+        {"<Vyr:L>50", "< <Vyr:L>50",
+         "line 14: " + k_lab +
+             ": Not well formed: a tag is broken, or a < stands where no tag begins: in text it is written &lt;"},
+        {"\"Ink 1\"", "\"Ink 1\" &",
+         "line 10: " + k_ink +
+             ": Not well formed (Vyr:Color): the tag holds what is neither an attribute nor its end"},
+        {"<Vyr:L>50</Vyr:L>", "<Vyr:L /x>",
+         "line 14: " + k_lab +
+             " / L: Bad start tag end: a tag is broken, or a < begins none: in text it is written &lt;"},
+        {"\"Ink 1\"", "1",
+         "line 10: Palette \"Inks\" / ColorSet \"All\": Not well formed (Vyr:Color): an attribute's value must stand "
+         "in quotes, and the quotes must end"},
+        {"UTF-8", "EBCDIC",
+         "line 1: XML character encoding not supported: the XML declaration names an encoding that is none of UTF-8, "
+         "UTF-16, ISO-10646-UCS-2, ISO-8859-1 and US-ASCII"},
+        {k_document.substr(k_document.find("50</Vyr:L>")), "5",
+         "line 14: " + k_lab + " / L: Unable to read element value (5): the document ends within a value"},
+        // In the scanner's own words.
+        {"1.0", "3.0", "line 1: Unsupported XML version: XML version 3.0 not understood"},
+        {"<Vyr:Preamble>", "<?xml version='1.0'?><Vyr:Preamble>",
+         "line 3: Vyr: Bad XML Decl spec: XML declaration not at start of document"},
+        {"<Vyr:Vyr", "<!DOCTYPE a [ x<Vyr:Vyr", "line 2: Badly formed DTD: DTD not Well Formed (got x)"},
+        {"<Vyr:Vyr", "<!DOCTYPE a [] \u202E><Vyr:Vyr",
+         "line 2: Badly formed DTD: DTD not Well Formed (expected '>', got \\xe2)"},
+        {"<Vyr:Vyr", "<!DOCTYPE a><!DOCTYPE a><Vyr:Vyr",
+         "line 2: Badly formed DTD: Document Type Declaration already read"},
+        {"<Vyr:Vyr", "<!DOCTYPE a [ <!ENTITY b '&b;'> ]>&b;<Vyr:Vyr",
+         "line 2: Unexpected end of message: Recursive entity definition for: &b;"},
+    };
+    for (const auto& [from, to, expected] : rows) {
+        EXPECT_EQ(report_of(replaced(k_document, from, to)).toString(), expected + '\n');
+    }
+}
+
 TEST(Report, GathersFaultsOfValuesAndAttributesUpToALimit) {
     std::string text = replaced(k_document, "<Vyr:L>50", "<Vyr:L>x");  // neither a number nor within bounds
     text = replaced(text, "<Vyr:A>1", "<Vyr:A>");
