@@ -6,6 +6,10 @@
 
 #include <gtest/gtest.h>
 
+#include <set>
+#include <string>
+#include <utility>
+
 #include "tests/schema/support.h"
 
 namespace vyr_test {
@@ -36,6 +40,35 @@ TEST(Reading, AnEmptyElementIsRefusedOrAcceptedByItsContentModel) {
     v2::TagCategory category;
     EXPECT_EQ(read(category, "<Vyr:Category></Vyr:Category>"), s_outcome{});
     EXPECT_EQ(read(category, "<Vyr:Category>x</Vyr:Category>"), failure(ELMX_BAD_END_OF_ELEMENT, "Vyr:Category"));
+}
+
+TEST(Reading, HandlersGetThePlaceOfTheCheck) {
+    class c_placed_reader : public c_xml_reader_memory {
+    public:
+        explicit c_placed_reader(const std::string& text) : c_xml_reader_memory(text.data(), text.size()) {}
+        using c_xml_reader::user_handle_error;
+        elmx_error user_handle_error(elmx_error code, const std::string&, const char* file, int line) override {
+            m_file = file;
+            m_line = line;
+            return code;
+        }
+        std::string m_file;
+        int m_line = 0;
+    };
+    const std::string namespaces = " xmlns:Vyr=\"http://vyrgraph.com/v2\"";
+    const std::string texts[] = {"<a/>", "<Vyr:Vyr" + namespaces + "/>", "<Vyr:Vyr a='' " + namespaces + "/>"};
+    const char* const files[] = {"lmx/binding/document.cpp", "lmx/binding/unmarshal.cpp",
+                                 "lmx/binding/unmarshal.cpp"};
+    std::set<std::pair<std::string, int>> places;
+    for (std::size_t i = 0; i < std::size(texts); ++i) {
+        c_placed_reader reader(texts[i]);
+        EXPECT_NE(v2::Vyr().unmarshal(reader), ELMX_OK);
+        // Whatever folder the library was built in.
+        EXPECT_EQ(reader.m_file, files[i]);
+        EXPECT_GT(reader.m_line, 0);
+        places.emplace(reader.m_file, reader.m_line);
+    }
+    EXPECT_EQ(places.size(), std::size(texts));
 }
 
 TEST(Reading, TextHasNoName) {
