@@ -14,6 +14,8 @@ namespace lmx {
 
 /// The row that is due.
 struct s_due_row {
+    explicit s_due_row(const s_class& first) : level(&first) {}
+
     const s_class* level;     ///< the class, or the base of it, whose rows are due
     std::size_t index = 0;    ///< the row
     bool is_entered = false;  ///< the row repeats, and this element has an entry of it already
@@ -24,7 +26,7 @@ struct s_due_row {
 
 /// Where the reading of a class's content stands.
 struct s_place : s_due_row {
-    explicit s_place(const s_class& first) : s_due_row{&first} {}
+    explicit s_place(const s_class& first) : s_due_row(first) {}
 
     bool is_begun = false;             ///< something was read
     const s_event_map* map = nullptr;  ///< what the event behind the last item is tokenised with

@@ -396,7 +396,8 @@ c_plain_way::e_step c_plain_way::take_item(const s_class& type, void* object, s_
         return e_step::declined;
     }
     const char* const local = at + m_prefix_size;
-    s_step step{place, *place, {}, line_feeds, error};
+    const s_due_row& due = *place;
+    s_step step{place, due, {}, line_feeds, error};
     const s_item* member = nullptr;
     std::size_t size = due_name_size(type, *place, local);
     if (size == 0) {

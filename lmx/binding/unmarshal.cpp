@@ -189,7 +189,7 @@ bool find_due_row(const s_class& type, void* object, s_place* place, c_xml_reade
             if (!check_lists(*place->level, object, reader, error)) return false;
             const s_class* const level = next_level(type, *place->level);
             if (level == nullptr) return true;
-            static_cast<s_due_row&>(*place) = {level};
+            static_cast<s_due_row&>(*place) = s_due_row(*level);
             place->group = nullptr;
             tokenise_element(reader, level->element_map);
             continue;
