@@ -52,7 +52,9 @@ void c_csv_table::add_value(row& cells, const std::string& name, const json& val
         for (std::size_t i = 0; i < value.size(); ++i)
             add_value(cells, name + "[" + std::to_string(i + 1) + "]", value[i]);
     } else if (value.is_object()) {
-        for (const auto& [key, inner] : value.items()) add_value(cells, name.empty() ? key : name + "." + key, inner);
+        for (const auto& [key, inner] : value.items()) {
+            add_value(cells, name.empty() ? key : std::string(name).append(".").append(key), inner);
+        }
     } else if (value.is_string()) {
         set(cells, part::value, name, value.get_ref<const std::string&>());
     } else if (!value.is_null()) {
