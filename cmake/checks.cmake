@@ -28,6 +28,11 @@ if(VYR_BUILD_TOOLS)
   add_test(NAME tools_values COMMAND ${Python3_EXECUTABLE} ${checks}/tools/check_values.py $<TARGET_FILE:vyr_tool>
                                      ${checks}/tools/values.vyr ${checks}/documents/valid
                                      ${PROJECT_SOURCE_DIR}/schema/generated/vyr.schema.json)
+  add_test(NAME tools_show COMMAND ${Python3_EXECUTABLE} ${checks}/tools/check_show.py $<TARGET_FILE:vyr_tool>
+                                   ${checks}/documents/valid ${PROJECT_SOURCE_DIR}/examples/css-colors.vyr)
+  add_test(NAME tools_show_browser COMMAND ${Python3_EXECUTABLE} ${checks}/tools/check_show_browser.py
+                                           $<TARGET_FILE:vyr_tool>)
+  set_tests_properties(tools_show_browser PROPERTIES SKIP_RETURN_CODE 77)
   vyr_add_check(tools_papers ${Python3_EXECUTABLE} ${checks}/tools/check_papers.py $<TARGET_FILE:vyr_tool>
                 ${PROJECT_SOURCE_DIR})
   vyr_add_check(foreign_archives ${checks}/zip/check_archives.sh $<TARGET_FILE:vyr_tool> ${palette})

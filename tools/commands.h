@@ -70,6 +70,11 @@ struct diff_options {
     bool quiet = false;
 };
 
+struct show_options {
+    std::string file;
+    std::string out = "-";
+};
+
 exit_code check(const check_options& options);
 exit_code info(const info_options& options);
 exit_code list(const list_options& options);
@@ -77,5 +82,6 @@ exit_code convert(const convert_options& options);
 exit_code print_json(const json_options& options);
 exit_code codes(const codes_options& options);
 exit_code diff(const diff_options& options);
+exit_code show(const show_options& options);
 
 }  // namespace vyr_tool

@@ -153,6 +153,16 @@ void add_diff(CLI::App& command, diff_options& options) {
         "  vyr diff --quiet a.vyr b.vyr && echo the same\n");
 }
 
+void add_show(CLI::App& command, show_options& options) {
+    add_file(command, "FILE", options.file, "A document, or - for standard input");
+    command.add_option("-o,--output", options.out, "The page; standard output without")->option_text("PAGE");
+    command.footer(
+        "The page is one file of HTML: it needs no network and no script, and can be printed.\n\n"
+        "Examples:\n"
+        "  vyr show inks.vyr -o inks.html\n"
+        "  vyr show inks.vyrz > inks.html\n");
+}
+
 /// Standard output that remembers why it failed, which a stream does not.
 class c_output : public std::streambuf {
 public:
@@ -218,6 +228,7 @@ exit_code run(int argc, char** argv) {
     add("json", "Print documents as JSON, whole", &print_json, &add_print_json);
     add("diff", "Say in what two documents differ", &diff, &add_diff);
     add("codes", "List the result codes of the library", &codes, &add_codes);
+    add("show", "Make a page of a document, to look at in a browser", &show, &add_show);
     try {
         app.parse(argc, argv);
     } catch (const CLI::ParseError& error) {

@@ -12,8 +12,9 @@ _vyr() {
         [json]="--help -h"
         [diff]="--color --json --quiet -q --help -h"
         [codes]="--json --help -h"
+        [show]="--output -o --help -h"
     )
-    local commands="check info list convert json diff codes"
+    local commands="check info list convert json diff codes show"
     local word=${COMP_WORDS[COMP_CWORD]} before=${COMP_WORDS[COMP_CWORD - 1]} command=vyr i
     for ((i = 1; i < COMP_CWORD; ++i)); do
         if [[ " $commands " == *" ${COMP_WORDS[i]} "* ]]; then
@@ -29,6 +30,11 @@ _vyr() {
     fi
     local words=
     case $before in
+        --output | -o)
+            compopt -o filenames 2> /dev/null
+            mapfile -t COMPREPLY < <(compgen -f -- "$word")
+            return
+            ;;
         --color) words="auto always never" ;;
         --to) words="vyr vyrz json" ;;
         --jobs | -j | --limit | --depth | --palette | --set | --name) return ;;

@@ -2,7 +2,7 @@
 # SPDX-License-Identifier: Apache-2.0
 # Completion of the command vyr for fish.
 
-set -l commands check info list convert json diff codes
+set -l commands check info list convert json diff codes show
 complete -c vyr -f
 complete -c vyr -s h -l help -d 'Print help'
 complete -c vyr -n "not __fish_seen_subcommand_from $commands" -l version -d 'Print the version'
@@ -13,8 +13,9 @@ complete -c vyr -n "not __fish_seen_subcommand_from $commands" -a convert -d 'Wr
 complete -c vyr -n "not __fish_seen_subcommand_from $commands" -a json -d 'Print documents as JSON'
 complete -c vyr -n "not __fish_seen_subcommand_from $commands" -a diff -d 'Say in what two documents differ'
 complete -c vyr -n "not __fish_seen_subcommand_from $commands" -a codes -d 'List the result codes'
+complete -c vyr -n "not __fish_seen_subcommand_from $commands" -a show -d 'Make a page of a document'
 
-complete -c vyr -n '__fish_seen_subcommand_from check info list convert json diff' -k -a '(__fish_complete_suffix .vyr)'
+complete -c vyr -n '__fish_seen_subcommand_from check info list convert json diff show' -k -a '(__fish_complete_suffix .vyr)'
 complete -c vyr -n '__fish_seen_subcommand_from check' -s j -l jobs -x -d 'Check N files at a time'
 complete -c vyr -n '__fish_seen_subcommand_from check' -l limit -x -d 'Report at most N faults of a file'
 complete -c vyr -n '__fish_seen_subcommand_from check' -s q -l quiet -d 'Print nothing'
@@ -32,3 +33,4 @@ complete -c vyr -n '__fish_seen_subcommand_from diff' -l color -x -a 'auto alway
 complete -c vyr -n '__fish_seen_subcommand_from diff' -s q -l quiet -d 'Print nothing'
 complete -c vyr -n '__fish_seen_subcommand_from diff' -l json -d 'Print JSON'
 complete -c vyr -n '__fish_seen_subcommand_from codes' -l json -d 'Print JSON'
+complete -c vyr -n '__fish_seen_subcommand_from show' -s o -l output -r -F -d 'Where to put the page'
