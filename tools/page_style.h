@@ -100,10 +100,11 @@ td { white-space: pre-line; }
     --ground: #ffffff; --card: #ffffff; --text: #000000; --faint: #444444; --rule: #b0b0b0;
     --accent: #0b57a4; --pass: #17652f; --warn: #7a4b00; --fail: #b00020;
   }
-  body { font-size: 9.5pt; }
+  :root { font-size: 9pt; }
   nav, .skip, .index, .points { display: none; }
   header, .columns { max-width: none; padding: 0; }
-  .cards { grid-template-columns: repeat(2, minmax(0, 1fr)); gap: .5rem; }
+  .cards { display: block; columns: 2; column-gap: 1rem; }
+  .cards > * { margin-bottom: 1rem; }
   .cards > .color { content-visibility: visible; }
   .color, tr, .curve { break-inside: avoid; }
   h1, h2, h3, h4, h5, h6, caption, dt { break-after: avoid; }
