@@ -70,7 +70,7 @@ dd { margin: 0; white-space: pre-line; }
 .curve .line { fill: none; stroke: var(--accent); stroke-width: 2; stroke-linejoin: round; }
 .curve circle.line { fill: var(--accent); }
 .scroll { overflow-x: auto; margin: .75rem 0; }
-table { border-collapse: collapse; font-size: .9375rem; font-variant-numeric: tabular-nums; }
+table { border-collapse: collapse; overflow-wrap: normal; font-size: .9375rem; font-variant-numeric: tabular-nums; }
 caption { text-align: left; font-weight: 600; font-size: .875rem; }
 th, td { padding: .25rem .75rem .25rem 0; text-align: left; vertical-align: top; border-bottom: 1px solid var(--rule); }
 thead th { color: var(--faint); font-weight: 600; font-size: .875rem; }
@@ -106,7 +106,8 @@ td { white-space: pre-line; }
   .cards { display: block; columns: 2; column-gap: 1rem; }
   .cards > * { margin-bottom: 1rem; }
   .cards > .color { content-visibility: visible; }
-  .color, tr, .curve { break-inside: avoid; }
+  .values dd, .swatch, tr { break-inside: avoid; }
+  .color { box-decoration-break: clone; -webkit-box-decoration-break: clone; }
   h1, h2, h3, h4, h5, h6, caption, dt { break-after: avoid; }
   .swatch { height: 3rem; print-color-adjust: exact; -webkit-print-color-adjust: exact; }
   .scroll { overflow: visible; }
