@@ -33,6 +33,8 @@ if(VYR_BUILD_TOOLS)
   add_test(NAME tools_show_browser COMMAND ${Python3_EXECUTABLE} ${checks}/tools/check_show_browser.py
                                            $<TARGET_FILE:vyr_tool>)
   set_tests_properties(tools_show_browser PROPERTIES SKIP_RETURN_CODE 77)
+  add_test(NAME tools_warnings COMMAND ${Python3_EXECUTABLE} ${checks}/tools/check_warnings.py
+                                       $<TARGET_FILE:vyr_tool> ${checks}/documents/valid)
   vyr_add_check(tools_papers ${Python3_EXECUTABLE} ${checks}/tools/check_papers.py $<TARGET_FILE:vyr_tool>
                 ${PROJECT_SOURCE_DIR})
   vyr_add_check(foreign_archives ${checks}/zip/check_archives.sh $<TARGET_FILE:vyr_tool> ${palette})

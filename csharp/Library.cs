@@ -44,6 +44,7 @@ namespace Vyr
         [DllImport(Name)] internal static extern string VyrModule_ReportText(IntPtr report);
         [DllImport(Name)] internal static extern int VyrModule_FaultCode(IntPtr report, uint index);
         [DllImport(Name)] internal static extern int VyrModule_FaultLine(IntPtr report, uint index);
+        [DllImport(Name)] internal static extern int VyrModule_FaultColumn(IntPtr report, uint index);
         [return: MarshalAs(UnmanagedType.BStr)]
         [DllImport(Name)] internal static extern string VyrModule_FaultText(IntPtr report, uint index);
         [return: MarshalAs(UnmanagedType.BStr)]

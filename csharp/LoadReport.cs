@@ -10,7 +10,7 @@ namespace Vyr
     /// <summary>How to load.</summary>
     public sealed class LoadOptions
     {
-        /// <summary>End at the first fault, instead of going on after faults of values and attributes.</summary>
+        /// <summary>End at the first fault, instead of going on and gathering all.</summary>
         public bool FirstFaultOnly { get; set; }
 
         /// <summary>How many faults to keep; those beyond it are counted only.</summary>
@@ -131,6 +131,7 @@ namespace Vyr
             File = file;
             Code = Library.VyrModule_FaultCode(report, index);
             Line = Library.VyrModule_FaultLine(report, index);
+            Column = Library.VyrModule_FaultColumn(report, index);
             Text = Library.VyrModule_FaultText(report, index);
             Detail = Library.VyrModule_FaultDetail(report, index);
             Item = Library.VyrModule_FaultItem(report, index);
@@ -143,6 +144,9 @@ namespace Vyr
 
         /// <summary>The line in the document, from 1; 0 if there is no place in a text.</summary>
         public int Line { get; }
+
+        /// <summary>Where in the line, in characters from 1; 0 if it isn't known.</summary>
+        public int Column { get; }
 
         /// <summary>The code in words.</summary>
         public string Text { get; }

@@ -23,11 +23,16 @@ class c_report_builder;
 // Without a report the builder is null. Everything but the report is the same.
 
 lmx::elmx_error load_file(Vyr& document, const std::u16string& path, c_report_builder* report);
+/// The path in UTF-8, or of a plain document that is loaded, of whatever bytes the system's names are made of.
+lmx::elmx_error load_file(Vyr& document, const std::string& path, c_report_builder* report);
+lmx::elmx_error write_file(const Vyr& document, const std::string& path, c_report_builder* report);
 /// A plain document; the name in UTF-8, or of whatever bytes the system's names are made of.
 lmx::elmx_error load_plain_file(Vyr& document, const std::string& name, c_report_builder* report);
 lmx::elmx_error load_memory(Vyr& document, const char* data, std::size_t size, c_report_builder* report);
 lmx::elmx_error load_string(Vyr& document, const std::u16string& text, c_report_builder* report);
 lmx::elmx_error write_file(const Vyr& document, const std::u16string& path, c_report_builder* report);
+/// Writes to nowhere.
+lmx::elmx_error check_writing(const Vyr& document, c_report_builder* report);
 /// Assigns the text on success only.
 lmx::elmx_error write_string(const Vyr& document, std::u16string* text, c_report_builder* report);
 

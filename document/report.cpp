@@ -9,6 +9,7 @@
 
 #include "document/document_calls.h"
 #include "document/report_builder.h"
+#include "lmx/binding/document.h"
 #include "lmx/binding/failure.h"
 #include "lmx/binding/open_element.h"
 #include "lmx/binding/shown_text.h"
@@ -22,9 +23,44 @@ using namespace lmx;
 
 constexpr std::size_t k_longest_path = 4096;
 
+/// Whether the code is that of one attribute or of one value, and says nothing of what is around it.
+bool is_of_one_value(elmx_error code) {
+    switch (code) {
+        case ELMX_ATTRIBUTE_ALREADY_READ:
+        case ELMX_UNEXPECTED_ATTRIBUTE:
+        case ELMX_UNABLE_TO_READ_ATTRIBUTE_VALUE:
+        case ELMX_UNABLE_TO_READ_ELEMENT_VALUE:
+            return true;
+        default:
+            return is_of_value(code);
+    }
+}
+
+/// Whether an attribute that is missing may be there, as this fault says.
+bool is_of_attribute(elmx_error code) {
+    return code == ELMX_UNEXPECTED_ATTRIBUTE || code == ELMX_UNABLE_TO_READ_ATTRIBUTE_VALUE;
+}
+
 /// What a load may pass over and go on.
-bool is_passable(elmx_error code) {
-    return is_of_value(code) || code == ELMX_ATTRIBUTE_ALREADY_READ || code == ELMX_UNEXPECTED_ATTRIBUTE;
+bool is_passable(const c_xml_reader& reader, elmx_error code) {
+    switch (code) {
+        case ELMX_REQUIRED_ATTRIBUTES_MISSING:
+        case ELMX_UNEXPECTED_EMPTY_ELEMENT:
+        case ELMX_UNKNOWN_XSI_TYPE:
+            return true;
+        case ELMX_UNABLE_TO_READ_ELEMENT_VALUE:
+            return !reader.at_end_of_input();
+        case ELMX_BADLY_FORMED:
+        case ELMX_BAD_END_OF_ELEMENT:
+        case ELMX_MANDATORY_ELEMENT_MISSING:
+        case ELMX_UNKNOWN_ELEMENT_IN_COMPLEX_CONTENT:
+            // Where nothing stands that could be followed, there is nothing to go on with.
+            return !c_xml::is_error_event(reader.get_current_event()) &&
+                   reader.get_scanned_event() != ELXP_END_OF_INPUT &&
+                   !c_xml::is_error_event(reader.get_scanned_event());
+        default:
+            return is_of_one_value(code);
+    }
 }
 
 /// A code in words: of those that are free for hosts, what the document calls mean by them.
@@ -93,24 +129,48 @@ bool c_report_builder::count(elmx_error code, bool is_passed_over) {
 }
 
 elmx_error c_report_builder::see(c_xml_reader& reader, elmx_error code, const std::string& item_name) {
-    const bool goes_on = m_options.collect && is_passable(code);
+    const bool goes_on = m_options.collect && is_passable(reader, code);
     // A value that is wrong in one way is wrong in another as well; the first says it.
-    if (goes_on && reader.notes().is_value_faulty) return ELMX_OK;
+    const bool is_of_one = is_of_one_value(code);
+    if (goes_on && is_of_one && reader.notes().is_value_faulty) return ELMX_OK;
     const s_open_element* const open = reader.notes().open_element;
     if (code == ELMX_REQUIRED_ATTRIBUTES_MISSING && open->object == m_mistyped.object &&
         open->line == m_mistyped.line && describe_failure(reader, code, item_name).meant == m_mistyped.meant) {
-        // It is there under the name that was reported already.
-        m_report.m_is_read_to_end = false;
-        return code;
+        // It is there, with a name or a value that was reported already.
+        return goes_on ? ELMX_OK : code;
     }
     if (count(code)) {
         s_failure failure = describe_failure(reader, code, item_name);
-        if (code == ELMX_UNEXPECTED_ATTRIBUTE) m_mistyped = {open->object, open->line, failure.meant};
+        if (is_of_attribute(code)) m_mistyped = {open->object, open->line, failure.meant};
+        m_characters.push_back({failure.offset, std::move(failure.attribute), failure.is_repetition});
+        m_encoding = reader.get_encoding();
+        m_has_places = !reader.has_decoded();
         m_report.m_faults.push_back(make_fault(code, m_file, std::move(failure)));
     }
-    reader.notes().is_value_faulty = true;
-    m_report.m_is_read_to_end = goes_on;
+    if (is_of_one) reader.notes().is_value_faulty = true;
     return goes_on ? ELMX_OK : code;
+}
+
+elmx_error c_report_builder::end_load(elmx_error error) {
+    if (error != ELMX_OK) m_report.m_is_read_to_end = false;
+    return error;
+}
+
+void c_report_builder::find_columns(const source_maker& open, const s_document& element) {
+    if (!m_has_places) {
+        // Reading byte by byte, it doesn't; and finds the same faults.
+        c_report_builder again(m_options, {});
+        const std::unique_ptr<c_read> source = open();
+        c_read_bytes bytes(*source);
+        c_reporting<c_xml_reader> reader(&again, bytes);
+        void* const scratch = element.operations->create();
+        unmarshal_document(element, scratch, reader);
+        element.operations->destroy(scratch);
+        if (again.m_characters.size() == m_characters.size()) m_characters = std::move(again.m_characters);
+    }
+    com_vyrgraph_v2::find_columns(open, m_encoding, &m_characters);
+    for (std::size_t i = 0; i < m_characters.size(); ++i) m_report.m_faults[i].column = m_characters[i].column;
+    m_characters.clear();
 }
 
 elmx_error c_report_builder::see(c_xml_writer& writer, elmx_error code, const std::string& item_name) {
@@ -176,8 +236,11 @@ std::string DocumentReport::toString() const {
 
 std::string formatFault(const DocumentFault& fault) {
     std::string line;
-    if (!fault.file.empty()) line = fault.file + (fault.line > 0 ? ':' + std::to_string(fault.line) : "") + ": ";
-    if (fault.file.empty() && fault.line > 0) line = "line " + std::to_string(fault.line) + ": ";
+    const std::string place = fault.line == 0     ? ""
+                              : fault.column == 0 ? std::to_string(fault.line)
+                                                  : std::to_string(fault.line) + ':' + std::to_string(fault.column);
+    if (!fault.file.empty()) line = fault.file + (place.empty() ? "" : ":") + place + ": ";
+    if (fault.file.empty() && !place.empty()) line = "line " + place + ": ";
     if (!fault.path.empty()) line += fault.path + ": ";
     line += fault.text;
     // Where the sentence names it, it would only be said twice.
@@ -192,17 +255,7 @@ DocumentReport loadFileWithReport(Vyr& document, const std::u16string& path, con
 }
 
 DocumentReport loadFileWithReport(Vyr& document, const std::string& path, const ReportOptions& options) {
-    std::u16string wide;
-    const bool is_text = narrow(vtostring(wide, path)) == path;
-    return report_on(options, path, [&](c_report_builder* report) {
-        if (is_text) {
-            load_file(document, wide, report);
-        } else if (!path.ends_with(".vyrz")) {
-            load_plain_file(document, path, report);
-        } else {
-            report->add(ELMX_NO_FILE, "the name of a container must be UTF-8");
-        }
-    });
+    return report_on(options, path, [&](c_report_builder* report) { load_file(document, path, report); });
 }
 
 DocumentReport loadStringWithReport(Vyr& document, const std::u16string& text, const ReportOptions& options) {
@@ -218,6 +271,10 @@ DocumentReport writeFileWithReport(const Vyr& document, const std::u16string& pa
     return report_on({}, narrow(path), [&](c_report_builder* report) { write_file(document, path, report); });
 }
 
+DocumentReport writeFileWithReport(const Vyr& document, const std::string& path) {
+    return report_on({}, path, [&](c_report_builder* report) { write_file(document, path, report); });
+}
+
 DocumentReport writeStringWithReport(const Vyr& document, std::u16string* text) {
     return report_on({}, {}, [&](c_report_builder* report) { write_string(document, text, report); });
 }
@@ -231,6 +288,10 @@ DocumentReport load_element_with_report(const s_document& element, void* object,
 DocumentReport write_element_with_report(const s_document& element, const void* object, const std::u16string& path) {
     return report_on({}, narrow(path),
                      [&](c_report_builder* report) { write_element(element, object, path, report); });
+}
+
+DocumentReport checkWriting(const Vyr& document) {
+    return report_on({}, {}, [&](c_report_builder* report) { check_writing(document, report); });
 }
 
 }  // namespace com_vyrgraph_v2

@@ -36,6 +36,9 @@ struct DocumentFault {
     /// From 1: where the element or the start tag begins that is wrong. 0 if there is no place in a text: on saving,
     /// and when a file or an archive can't be read.
     int line = 0;
+    /// From 1, in characters as an editor counts them: where in the line. 0 if `line` is, and of a file that can't be
+    /// read a second time, such as a pipe.
+    int column = 0;
     /// The element, attribute or class that the fault is about, as the reader names it: "Vyr:Red", "PaletteName",
     /// "PaletteType". Empty if there is none.
     std::string item;
@@ -88,9 +91,12 @@ private:
 
 /// How to load.
 struct ReportOptions {
-    /// Go on after faults of a value (19, 20, 22, 35, 36, 37, 38) and of an attribute (3, 39) and gather them. A
-    /// value that is wrong is reported once and stored as it converts, an attribute that isn't known is passed over,
-    /// and of one given twice the second counts. Any other fault ends the load. Without this, the first one does.
+    /// Go on after faults and gather them. A value that is wrong (19, 20, 22, 35, 36, 37, 38) is reported once and
+    /// stored as it converts, an attribute that isn't known (39) is passed over, and of one given twice (3) the
+    /// second counts. An element that has no place (10, 31, 44) is read over with all that it holds, without a look
+    /// at what that means, and so is what is left of one that can't be read (29); what is missing (21, 25, 32) stays
+    /// missing. What is no XML ends the load (23, 34 and those of the declarations), and so does an element that
+    /// isn't that of a document (16). Without this, the first fault does.
     bool collect = false;
     /// How many faults to keep. Those beyond it are counted only.
     std::size_t limit = 100;
@@ -116,11 +122,16 @@ VYR_EXPORT DocumentReport loadMemoryWithReport(Vyr& document, const char* data, 
 /// back, with the code of reading, or 35 for a text that would come back as another: the file is written all the
 /// same, as `isReadToEnd()` tells.
 VYR_EXPORT DocumentReport writeFileWithReport(const Vyr& document, const std::u16string& path);
+/// The same with the path in UTF-8; what is none is a fault with the code 1.
+VYR_EXPORT DocumentReport writeFileWithReport(const Vyr& document, const std::string& path);
+/// What `writeString` with a report would say, without the text: whether the document can be written, and would be
+/// read back as it is.
+VYR_EXPORT DocumentReport checkWriting(const Vyr& document);
 /// `Vyr::writeString` with a report. `*text` is assigned unless the plain call fails.
 VYR_EXPORT DocumentReport writeStringWithReport(const Vyr& document, std::u16string* text);
 
-/// `file:line: path: text (value): detail`, without the parts that are empty; no line break at the end. Without a
-/// file it begins with `line 12: `, and a value that `detail` names as a tag is not said twice.
+/// `file:line:column: path: text (value): detail`, without the parts that are empty; no line break at the end.
+/// Without a file it begins with `line 12:5: `, and a value that `detail` names as a tag is not said twice.
 VYR_EXPORT std::string formatFault(const DocumentFault& fault);
 
 }  // namespace com_vyrgraph_v2

@@ -8,8 +8,11 @@
 #include <string>
 #include <type_traits>
 #include <utility>
+#include <vector>
 
+#include "document/columns.h"
 #include "document/report.h"
+#include "lmx/binding/document.h"
 #include "lmx/reader/xml_reader.h"
 #include "lmx/writer/xml_writer.h"
 
@@ -22,6 +25,12 @@ public:
 
     /// Takes a failure of the reader; the handler's answer.
     lmx::elmx_error see(lmx::c_xml_reader& reader, lmx::elmx_error code, const std::string& item_name);
+    /// Takes what the load of a document came to, which it returns.
+    lmx::elmx_error end_load(lmx::elmx_error error);
+    /// Whether there are faults whose columns aren't known yet.
+    bool lacks_columns() const { return !m_characters.empty(); }
+    /// Finds them in the document, which is of that element.
+    void find_columns(const source_maker& open, const lmx::s_document& element);
     lmx::elmx_error see(lmx::c_xml_writer& writer, lmx::elmx_error code, const std::string& item_name);
     /// Takes a failure without a place in a document. It ends the load or save.
     void add(lmx::elmx_error code, const std::string& detail);
@@ -42,12 +51,16 @@ private:
 
     ReportOptions m_options;
     std::string m_file;
-    /// Of the attribute with an unknown name that was taken last: its element, and the name that it resembles.
+    /// Of the attribute that was taken last with an unknown name or without a value: its element, and the name that
+    /// it resembles or has.
     struct {
         const void* object = nullptr;
         int line = 0;
         std::string meant{};
     } m_mistyped;
+    std::vector<s_character> m_characters;  ///< where the faults are that were kept
+    int m_encoding = 0;                     ///< of the document
+    bool m_has_places = true;               ///< false if the reader lost count of where it was
     bool m_is_last_kept = false;
     bool m_is_passed_over = false;  ///< what gave the code is no failure of the plain call
     DocumentReport m_report;
@@ -59,7 +72,9 @@ class c_reporting : public Stream {
 public:
     template <class... Arguments>
     explicit c_reporting(c_report_builder* report, Arguments&&... arguments)
-        : Stream(std::forward<Arguments>(arguments)...), m_report(report) {}
+        : Stream(std::forward<Arguments>(arguments)...), m_report(report) {
+        if constexpr (std::is_base_of_v<lmx::c_xml_reader, Stream>) this->set_recovering(report != nullptr);
+    }
 
     lmx::elmx_error user_handle_error(lmx::elmx_error code, const std::string& item_name, const char*, int) override {
         return m_report == nullptr ? code : m_report->see(*this, code, item_name);

@@ -127,15 +127,27 @@ lmx::elmx_error refuse_file(c_report_builder* report, const std::string& detail,
     return lmx::ELMX_NO_FILE;
 }
 
+/// Nothing for a name that is no UTF-8.
+std::optional<std::u16string> wide_name(const std::string& path) {
+    std::u16string wide = lmx::convert_to_wide(path);
+    if (lmx::convert_to_narrow(wide) != path) return std::nullopt;
+    return wide;
+}
+
 /// Reads a plain file that has the element as its root.
 lmx::elmx_error load_root(const lmx::s_document& element, void* object, const std::string& name,
                           c_report_builder* report) {
     c_reporting<lmx::c_xml_reader_file> reader(report, name.c_str());
     if (!reader.is_open()) return refuse_file(report, {}, errno);
     const lmx::elmx_error error = lmx::unmarshal_document(element, object, reader);
-    if (error == lmx::ELMX_OK || report == nullptr) return error;
+    if (report == nullptr) return error;
     const std::filesystem::path path = lmx::to_path(name).value_or(std::filesystem::path());
     std::error_code ignored;
+    // A pipe gives its bytes once.
+    if (report->lacks_columns() && std::filesystem::is_regular_file(path, ignored)) {
+        report->find_columns([&] { return std::make_unique<lmx::c_read_file>(name.c_str()); }, element);
+    }
+    if (report->end_load(error) == lmx::ELMX_OK) return error;
     // Which opens like a file, and then can't be read.
     if (std::filesystem::is_directory(path, ignored)) {
         report->explain_last("it is a directory");
@@ -151,7 +163,12 @@ lmx::elmx_error load_root(const lmx::s_document& element, void* object, const st
 
 lmx::elmx_error load_memory(Vyr& document, const char* data, std::size_t size, c_report_builder* report) {
     c_reporting<lmx::c_xml_reader_memory> reader(report, data, size);
-    return document.unmarshal(reader);
+    const lmx::elmx_error error = document.unmarshal(reader);
+    if (report == nullptr) return error;
+    if (report->lacks_columns()) {
+        report->find_columns([&] { return std::make_unique<lmx::c_read_memory>(data, size); }, Vyr::k_document);
+    }
+    return report->end_load(error);
 }
 
 lmx::elmx_error load_string(Vyr& document, const std::u16string& text, c_report_builder* report) {
@@ -173,10 +190,22 @@ lmx::elmx_error load_file(Vyr& document, const std::u16string& path, c_report_bu
     return load_plain_file(document, lmx::convert_to_narrow(path), report);
 }
 
+lmx::elmx_error load_file(Vyr& document, const std::string& path, c_report_builder* report) {
+    if (const std::optional<std::u16string> wide = wide_name(path)) return load_file(document, *wide, report);
+    if (path.ends_with(".vyrz")) return refuse_file(report, "the name of a container must be UTF-8");
+    return load_plain_file(document, path, report);
+}
+
 lmx::elmx_error load_element(const lmx::s_document& element, void* object, const std::u16string& path,
                              c_report_builder* report) {
     if (!lmx::to_path(path)) return refuse_file(report, k_no_name);
     return load_root(element, object, lmx::convert_to_narrow(path), report);
+}
+
+lmx::elmx_error check_writing(const Vyr& document, c_report_builder* report) {
+    // A stream without a buffer takes nothing.
+    std::ostream nowhere(nullptr);
+    return marshal_stamped(document, nowhere, report);
 }
 
 lmx::elmx_error write_string(const Vyr& document, std::u16string* text, c_report_builder* report) {
@@ -216,6 +245,11 @@ lmx::elmx_error write_file(const Vyr& document, const std::u16string& path, c_re
     return lmx::ELMX_OK;
 }
 
+lmx::elmx_error write_file(const Vyr& document, const std::string& path, c_report_builder* report) {
+    const std::optional<std::u16string> wide = wide_name(path);
+    return wide ? write_file(document, *wide, report) : refuse_file(report, "the name must be UTF-8");
+}
+
 lmx::elmx_error write_element(const lmx::s_document& element, const void* object, const std::u16string& path,
                               c_report_builder* report) {
     const std::optional<std::filesystem::path> file_path = lmx::to_path(path);
@@ -236,6 +270,8 @@ lmx::elmx_error Vyr::loadString(const std::u16string& text) { return load_string
 
 lmx::elmx_error Vyr::loadFile(const std::u16string& path) { return load_file(*this, path, nullptr); }
 
+lmx::elmx_error Vyr::loadFile(const std::string& path) { return load_file(*this, path, nullptr); }
+
 XMLDocumentResult Vyr::writeString() const {
     std::u16string text;
     const lmx::elmx_error error = write_string(*this, &text, nullptr);
@@ -243,5 +279,7 @@ XMLDocumentResult Vyr::writeString() const {
 }
 
 lmx::elmx_error Vyr::writeFile(const std::u16string& path) const { return write_file(*this, path, nullptr); }
+
+lmx::elmx_error Vyr::writeFile(const std::string& path) const { return write_file(*this, path, nullptr); }
 
 }  // namespace com_vyrgraph_v2

@@ -20,7 +20,7 @@ namespace {
 void set_conditions(vyr::ColorSpaceSpecificationSpectrumTristimulus& conditions) {
     demand(conditions.get_DeviceFilter().set_DeviceFilterType(u"Filter_None"), "filter");
     demand(conditions.get_DevicePolarization().set_DevicePolarization(false), "polarisation");
-    demand(conditions.append_ChangeHistory(example::now()), "time");
+    demand(conditions.append_ChangeHistory(lmx::c_datetime::now()), "time");
     demand(conditions.get_Spectrum().set_SpectrumType(u"Spectrum_Reflectance"), "quantity");
     demand(conditions.get_IlluminationOptions().get_Illuminant().set_Illuminant(u"Illuminant_D65"), "illuminant");
     demand(conditions.set_FieldOfView(u"FieldOfView_2_Degree"), "observer");
@@ -31,11 +31,11 @@ void add_color(vyr::ColorSetType& set, const std::vector<std::string>& fields) {
     demand(set.append_Color(), "colour");
     vyr::ColorType& color = set.back_Color();
     demand(color.set_ColorName(lmx::convert_to_wide(fields[0])), "name");
-    demand(color.append_ChangeHistory(example::now()), "time");
+    demand(color.append_ChangeHistory(lmx::c_datetime::now()), "time");
 
     demand(color.append_ColorSpace(), "value");
     vyr::ColorSpaceSRGBType& rgb = color.back_ColorSpace().get_ColorSpaceSRGB();
-    demand(rgb.append_ChangeHistory(example::now()), "time");
+    demand(rgb.append_ChangeHistory(lmx::c_datetime::now()), "time");
     set_conditions(rgb.get_ColorSpaceSpecificationSpectrumTristimulus());
     // A channel over 255 is over 1 here, and the setter refuses it.
     demand(rgb.set_Red(std::stod(fields[1]) / 255), fields[0] + ", red");
@@ -59,11 +59,11 @@ int main(int argc, char** argv) try {
     demand(document.append_Palette(), "palette");
     vyr::PaletteType& palette = document.back_Palette();
     demand(palette.set_PaletteName(u"Inks"), "name");
-    demand(palette.append_ChangeHistory(example::now()), "time");
+    demand(palette.append_ChangeHistory(lmx::c_datetime::now()), "time");
     demand(palette.append_ColorSet(), "set");
     vyr::ColorSetType& set = palette.back_ColorSet();
     demand(set.set_ColorSetName(u"All"), "name");
-    demand(set.append_ChangeHistory(example::now()), "time");
+    demand(set.append_ChangeHistory(lmx::c_datetime::now()), "time");
 
     for (std::string line; std::getline(table, line);) add_color(set, example::split(line));
     return example::save(document, argv[2]);

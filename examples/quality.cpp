@@ -30,10 +30,10 @@ void set_device(vyr::DeviceType& device) {
 
 void set_color(vyr::ColorType& color, const std::u16string& name, const s_lab& value) {
     demand(color.set_ColorName(name), "name");
-    demand(color.append_ChangeHistory(example::now()), "time");
+    demand(color.append_ChangeHistory(lmx::c_datetime::now()), "time");
     demand(color.append_ColorSpace(), "value");
     vyr::ColorSpaceCIELabType& lab = color.back_ColorSpace().get_ColorSpaceCIELab();
-    demand(lab.append_ChangeHistory(example::now()), "time");
+    demand(lab.append_ChangeHistory(lmx::c_datetime::now()), "time");
     // The conditions are left open: a nil element is complete without any content.
     lab.get_ColorSpaceSpecificationSpectrumTristimulus().setnil_ColorSpaceSpecificationSpectrumTristimulus();
     demand(lab.set_L(value.l), "L*");
@@ -66,7 +66,7 @@ int main(int argc, char** argv) try {
     demand(document.append_ColorQualityControl(), "record");
     vyr::ColorQualityControlType& record = document.back_ColorQualityControl();
     demand(record.set_Name(u"Run 1"), "name");
-    demand(record.append_ChangeHistory(example::now()), "time");
+    demand(record.append_ChangeHistory(lmx::c_datetime::now()), "time");
     demand(record.append_StandardAndMeasurement(), "standard");
     vyr::StandardAndMeasurementType& pair = record.back_StandardAndMeasurement();
 

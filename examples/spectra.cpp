@@ -21,7 +21,7 @@ namespace {
 void set_conditions(vyr::ColorSpaceSpecificationSpectrumSpectral& conditions) {
     demand(conditions.get_DeviceFilter().set_DeviceFilterType(u"Filter_None"), "filter");
     demand(conditions.get_DevicePolarization().set_DevicePolarization(false), "polarisation");
-    demand(conditions.append_ChangeHistory(example::now()), "time");
+    demand(conditions.append_ChangeHistory(lmx::c_datetime::now()), "time");
     demand(conditions.get_Spectrum().set_SpectrumType(u"Spectrum_Reflectance"), "quantity");
     demand(conditions.get_GeometryChoice().set_Angle(45), "geometry");
 
@@ -37,11 +37,11 @@ void add_measurement(vyr::Vyr& document, const std::vector<double>& wavelengths,
     demand(document.append_Color(), "colour");
     vyr::ColorType& color = document.back_Color();
     demand(color.set_ColorName(lmx::convert_to_wide(fields[0])), "name");
-    demand(color.append_ChangeHistory(example::now()), "time");
+    demand(color.append_ChangeHistory(lmx::c_datetime::now()), "time");
 
     demand(color.append_ColorSpace(), "value");
     vyr::ColorSpaceSpectralType& spectrum = color.back_ColorSpace().get_ColorSpaceSpectral();
-    demand(spectrum.append_ChangeHistory(example::now()), "time");
+    demand(spectrum.append_ChangeHistory(lmx::c_datetime::now()), "time");
     set_conditions(spectrum.get_ColorSpaceSpecificationSpectrumSpectral());
     for (std::size_t i = 0; i < wavelengths.size(); ++i) {
         demand(spectrum.append_ReflectancePoint(), "point");

@@ -1,12 +1,10 @@
 // Copyright 2026 The Vyr Authors
 // SPDX-License-Identifier: Apache-2.0
 
-/// What the examples share: failing with a message, the time of a change, a line of a table, and saving.
+/// What the examples share: failing with a message, a line of a table, and saving.
 
 #pragma once
 
-#include <chrono>
-#include <ctime>
 #include <iostream>
 #include <sstream>
 #include <stdexcept>
@@ -22,23 +20,13 @@ inline void demand(lmx::elmx_error code, const std::string& what) {
     if (code != lmx::ELMX_OK) throw std::runtime_error(what + ": " + lmx::get_error_description(code));
 }
 
-/// The present time in UTC, as every record's change history wants it: "2026-05-01T12:00:00Z".
-inline lmx::c_datetime now() {
-    const std::time_t time = std::chrono::system_clock::to_time_t(std::chrono::system_clock::now());
-    std::tm parts{};
-    gmtime_r(&time, &parts);
-    char text[32];
-    std::strftime(text, sizeof text, "%Y-%m-%dT%H:%M:%SZ", &parts);
-    return lmx::c_datetime(text);
-}
-
 /// The header that every document has.
 inline void fill_header(com_vyrgraph_v2::Vyr& document, const std::u16string& purpose) {
     com_vyrgraph_v2::Header& header = document.get_Preamble().get_Header();
     demand(header.set_Creator(u"Vyr examples"), "creator");
     demand(header.set_CreatorVersion(u"1.0"), "version");
     demand(header.set_Purpose(purpose), "purpose");
-    demand(header.append_ChangeHistory(now()), "time");
+    demand(header.append_ChangeHistory(lmx::c_datetime::now()), "time");
 }
 
 /// The fields of a line of a table, separated by commas; there are no quoted fields here.
@@ -51,7 +39,7 @@ inline std::vector<std::string> split(const std::string& line) {
 
 /// Saves, or prints what the document lacks.
 inline int save(const com_vyrgraph_v2::Vyr& document, const std::string& path) {
-    const auto report = com_vyrgraph_v2::writeFileWithReport(document, lmx::convert_to_wide(path));
+    const auto report = com_vyrgraph_v2::writeFileWithReport(document, path);
     std::cerr << report.toString();
     return report.isOk() ? 0 : 1;
 }

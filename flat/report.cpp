@@ -152,6 +152,9 @@ VYR_FLAT(char16_t*) VyrModule_ReportText(void* report) {
 
 VYR_FLAT(std::int32_t) VyrModule_FaultCode(void* report, std::uint32_t index) { return fault(report, index).code; }
 VYR_FLAT(std::int32_t) VyrModule_FaultLine(void* report, std::uint32_t index) { return fault(report, index).line; }
+VYR_FLAT(std::int32_t) VyrModule_FaultColumn(void* report, std::uint32_t index) {
+    return fault(report, index).column;
+}
 VYR_FLAT(char16_t*) VyrModule_FaultText(void* report, std::uint32_t index) {
     return text_of(report, index, &DocumentFault::text);
 }

@@ -16,6 +16,8 @@ struct s_fault_notes {
     /// Of a load: whether the value or attribute at hand was found wrong, for handlers that let more than one failure
     /// pass.
     bool is_value_faulty = false;
+    /// Of a load that goes on: whether an end tag, the reader's `m_name`, is on its way to the element that it ends.
+    bool is_unwinding = false;
 };
 
 }  // namespace lmx

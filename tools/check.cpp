@@ -22,6 +22,7 @@
 #include "tools/files.h"
 #include "tools/json.h"
 #include "tools/text.h"
+#include "tools/warnings.h"
 
 namespace vyr_tool {
 
@@ -82,13 +83,27 @@ std::vector<s_job> find_jobs(const std::vector<std::string>& files) {
     return jobs;
 }
 
-s_reading run(const s_job& job, const check_options& options) {
-    if (!job.refusal.empty()) return {.refusal = job.refusal, .report = {}};
+/// What came of a file.
+struct s_result : s_reading {
+    std::vector<s_warning> warnings{};
+    std::size_t warning_total = 0;
+};
+
+s_result run(const s_job& job, const check_options& options) {
+    if (!job.refusal.empty()) return {{.refusal = job.refusal, .report = {}}};
     com_vyrgraph_v2::ReportOptions how;
     how.collect = true;
     how.limit = options.limit;
     com_vyrgraph_v2::Vyr document;
-    return read_document(job.file, document, how);
+    if (options.warnings.none()) return {read_document(job.file, document, how)};
+    c_warnings warnings(options.warnings, options.limit);
+    s_result result{read_document(job.file, document, how, [&](std::string_view piece) { warnings.take(piece); })};
+    if (!result.refusal.empty()) return result;
+    warnings.finish(result.report);
+    if (result.report.isOk()) warnings.take_saving(com_vyrgraph_v2::checkWriting(document));
+    result.warnings = warnings.found();
+    result.warning_total = warnings.total();
+    return result;
 }
 
 /// One line on the terminal's last row that says how far the work is; none for work that is done soon.
@@ -121,7 +136,7 @@ private:
 /// Runs all jobs on several threads and hands the results over on the calling one, in the order of the jobs.
 template <class Take>
 void run_all(const std::vector<s_job>& jobs, const check_options& options, Take take) {
-    std::vector<std::optional<s_reading>> results(jobs.size());
+    std::vector<std::optional<s_result>> results(jobs.size());
     std::mutex mutex;
     std::condition_variable changed;
     std::atomic<std::size_t> next = 0;
@@ -130,9 +145,9 @@ void run_all(const std::vector<s_job>& jobs, const check_options& options, Take 
     for (wanted = std::min(wanted, jobs.size()); workers.size() < wanted;) {
         workers.emplace_back([&] {
             for (std::size_t i = next++; i < jobs.size(); i = next++) {
-                s_reading reading = run(jobs[i], options);
+                s_result result = run(jobs[i], options);
                 const std::scoped_lock lock(mutex);
-                results[i] = std::move(reading);
+                results[i] = std::move(result);
                 changed.notify_one();
             }
         });
@@ -142,10 +157,10 @@ void run_all(const std::vector<s_job>& jobs, const check_options& options, Take 
         std::unique_lock lock(mutex);
         const auto is_there = [&] { return results[i].has_value(); };
         while (!changed.wait_for(lock, std::chrono::milliseconds(200), is_there)) progress.show(i, jobs[i].file);
-        const s_reading reading = std::move(*std::exchange(results[i], std::nullopt));
+        const s_result result = std::move(*std::exchange(results[i], std::nullopt));
         lock.unlock();
         progress.clear();
-        take(jobs[i].file, reading);
+        take(jobs[i].file, result);
     }
 }
 
@@ -153,13 +168,14 @@ struct s_counts {
     std::size_t valid = 0;
     std::size_t invalid = 0;
     std::size_t unreadable = 0;
+    bool is_warned = false;
 
     exit_code result() const {
         return unreadable != 0 ? exit_usage_or_file : invalid != 0 ? exit_document_fails : exit_ok;
     }
 };
 
-void print_text(const std::string& file, const s_reading& reading) {
+void print_text(const std::string& file, const s_result& reading) {
     const DocumentReport& report = reading.report;
     if (!reading.refusal.empty()) return complain(file, reading.refusal);
     for (std::size_t i = 0; i < report.getFaultCount(); ++i) {
@@ -167,14 +183,16 @@ void print_text(const std::string& file, const s_reading& reading) {
         const bool is_end = i + 1 == report.getTotalCount() && fault.line != 0 && !report.isReadToEnd();
         std::cout << fault_text(file, fault) << (is_end ? " [the check ends here]\n" : "\n");
     }
-    if (!report.hasMore()) return;
-    std::cout << shown_name(file) << ": " << report.getTotalCount() - report.getFaultCount()
-              << " more; --limit shows them\n";
+    for (const s_warning& found : reading.warnings) std::cout << warning_text(file, found) << '\n';
+    const std::size_t left_out =
+        report.getTotalCount() - report.getFaultCount() + reading.warning_total - reading.warnings.size();
+    if (left_out != 0) std::cout << shown_name(file) << ": " << left_out << " more; --limit shows them\n";
 }
 
 json to_json(const DocumentFault& fault) {
     json object = {{"code", fault.code}, {"text", fault.text}};
     if (fault.line > 0) object["line"] = fault.line;
+    if (fault.column > 0) object["column"] = fault.column;
     const std::pair<const char*, const std::string*> texts[] = {
         {"detail", &fault.detail}, {"item", &fault.item}, {"path", &fault.path}, {"value", &fault.value}};
     for (const auto& [name, text] : texts) {
@@ -183,7 +201,15 @@ json to_json(const DocumentFault& fault) {
     return object;
 }
 
-json to_json(const std::string& file, const s_reading& reading) {
+json to_json(const s_warning& found) {
+    json object = {{"name", row_of(found.kind).name}, {"text", json_string(found.text)}};
+    if (found.line > 0) object["line"] = found.line;
+    if (found.column > 0) object["column"] = found.column;
+    if (!found.path.empty()) object["path"] = json_string(found.path);
+    return object;
+}
+
+json to_json(const std::string& file, const s_result& reading) {
     json object = {{"file", file}, {"status", reading.is_ok() ? "valid" : "invalid"}};
     if (!reading.refusal.empty()) {
         object["status"] = "unreadable";
@@ -194,6 +220,12 @@ json to_json(const std::string& file, const s_reading& reading) {
         object["faults"] = std::move(faults);
         object["total"] = reading.report.getTotalCount();
         object["complete"] = reading.report.isReadToEnd();
+    }
+    if (!reading.warnings.empty()) {
+        json warnings = json::array();
+        for (const s_warning& found : reading.warnings) warnings.push_back(to_json(found));
+        object["warnings"] = std::move(warnings);
+        object["warning_total"] = reading.warning_total;
     }
     return object;
 }
@@ -211,7 +243,8 @@ exit_code check(const check_options& options) {
     s_counts counts;
     if (options.json) std::cout << "{\"files\": [";
     const char* separator = "\n";
-    run_all(find_jobs(options.files), options, [&](const std::string& file, const s_reading& reading) {
+    run_all(find_jobs(options.files), options, [&](const std::string& file, const s_result& reading) {
+        counts.is_warned = counts.is_warned || reading.warning_total != 0;
         ++(!reading.refusal.empty() ? counts.unreadable : reading.is_ok() ? counts.valid : counts.invalid);
         if (options.json) {
             std::cout << std::exchange(separator, ",\n") << to_text(to_json(file, reading));
@@ -226,7 +259,8 @@ exit_code check(const check_options& options) {
     } else if (!options.quiet && isatty(STDOUT_FILENO) != 0) {
         print_summary(counts);
     }
-    return counts.result();
+    const exit_code result = counts.result();
+    return result == exit_ok && options.strict && counts.is_warned ? exit_document_fails : result;
 }
 
 }  // namespace vyr_tool

@@ -10,6 +10,8 @@
 #include <string>
 #include <vector>
 
+#include "tools/warnings.h"
+
 namespace vyr_tool {
 
 /// The command's exit codes; of several documents the highest counts.
@@ -26,6 +28,8 @@ struct check_options {
     std::vector<std::string> files;
     std::size_t jobs = 1;  ///< 0: one per processor
     std::size_t limit = 100;
+    warning_set warnings = check_warnings();
+    bool strict = false;  ///< warnings are failures
     bool json = false;
     bool quiet = false;
 };
@@ -50,6 +54,7 @@ struct list_options {
 struct convert_options {
     std::string in;
     std::string out;
+    warning_set warnings = convert_warnings();
     std::string format;  ///< "vyr", "vyrz" or "json"; empty: what the name of the output says
 };
 

@@ -349,9 +349,9 @@ std::vector<s_json_fault> read_json(const json& object, com_vyrgraph_v2::Vyr& do
     return faults;
 }
 
-exit_code read_any_form(const std::string& file, com_vyrgraph_v2::Vyr& document) {
+exit_code read_any_form(const std::string& file, com_vyrgraph_v2::Vyr& document, const text_taker& take_text) {
     const bool is_pipe = file == k_standard_stream;
-    if (!is_pipe && !file.ends_with(".json")) return read_or_explain(file, document);
+    if (!is_pipe && !file.ends_with(".json")) return read_or_explain(file, document, nullptr, take_text);
     std::string bytes;
     if (const std::string refusal = read_file(file, bytes); !refusal.empty()) {
         complain(file, refusal);
@@ -359,7 +359,7 @@ exit_code read_any_form(const std::string& file, com_vyrgraph_v2::Vyr& document)
     }
     const std::size_t first = bytes.find_first_not_of(" \t\r\n");
     if (is_pipe && (first == bytes.npos || bytes[first] != '{'))
-        return explain(file, read_document_bytes(bytes, document));
+        return explain(file, read_document_bytes(bytes, document, take_text));
     json object;
     if (const std::string fault = parse_json(bytes, object); !fault.empty()) {
         std::cerr << shown_name(file) << ": " << fault << '\n';

@@ -11,6 +11,7 @@
 
 #include "schema/Vyr.h"
 #include "tools/commands.h"
+#include "tools/files.h"
 #include "tools/json.h"
 #include "tools/members.h"
 
@@ -36,6 +37,6 @@ std::vector<s_json_fault> read_json(const json& object, com_vyrgraph_v2::Vyr& do
 
 /// Reads a document, a container or, by its name or in a pipe by its first character, JSON. Says on standard error
 /// what is wrong with it.
-exit_code read_any_form(const std::string& file, com_vyrgraph_v2::Vyr& document);
+exit_code read_any_form(const std::string& file, com_vyrgraph_v2::Vyr& document, const text_taker& take_text = {});
 
 }  // namespace vyr_tool

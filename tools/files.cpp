@@ -19,6 +19,7 @@
 
 #include "lmx/lmx.h"
 #include "tools/text.h"
+#include "zip/container.h"
 
 namespace vyr_tool {
 
@@ -79,10 +80,48 @@ std::string write_all(int descriptor, std::string_view bytes) {
     return {};
 }
 
-void read_regular(const std::string& file, Vyr& document, const ReportOptions& options, s_reading& reading) {
+constexpr std::size_t k_piece = std::size_t{1} << 16U;
+
+void give_text(int descriptor, const text_taker& take) {
+    std::string piece(k_piece, '\0');
+    for (off_t at = 0;;) {
+        const ssize_t count = pread(descriptor, piece.data(), piece.size(), at);
+        if (count == 0 || (count < 0 && errno != EINTR)) return;
+        if (count < 0) continue;
+        take(std::string_view(piece.data(), static_cast<std::size_t>(count)));
+        at += count;
+    }
+}
+
+/// Of a container that was read: the text of its first entry, as far as that can be read.
+void give_entry(const std::string& file, const DocumentReport& report, const text_taker& take) {
+    const bool is_read = report.getCode() != lmx::ELMX_NO_FILE && report.getCode() != lmx::ELMX_USER_DEFINED_1;
+    if (!take || !is_read) return;
+    try {
+        CZipContainer archive;
+        archive.OpenContainer(lmx::convert_to_wide(file), zip_open_read);
+        if (!archive.IsOpen() || !archive.OpenEntry(0)) return;
+        std::string piece(k_piece, '\0');
+        while (const std::size_t count = archive.ReadEntry(piece.data(), piece.size())) {
+            take(std::string_view(piece.data(), count));
+        }
+        archive.CloseContainer(zip_close_forced);
+    } catch (const CZipException&) {
+        // The report said so already.
+    }
+}
+
+void read_regular(const std::string& file, int descriptor, Vyr& document, const ReportOptions& options,
+                  const text_taker& take_text, s_reading& reading) {
+    const bool is_container = is_container_name(file);
     // The library takes names of containers as text only.
-    if (!is_container_name(file) || widen(file)) {
+    if (!is_container || widen(file)) {
         reading.report = com_vyrgraph_v2::loadFileWithReport(document, file, options);
+        if (is_container) {
+            give_entry(file, reading.report, take_text);
+        } else if (take_text) {
+            give_text(descriptor, take_text);
+        }
         return;
     }
     const c_scratch_folder folder;
@@ -94,29 +133,35 @@ void read_regular(const std::string& file, Vyr& document, const ReportOptions& o
         return;
     }
     reading.report = com_vyrgraph_v2::loadFileWithReport(document, link.string(), options);
+    give_entry(link.string(), reading.report, take_text);
 }
 
-void read_bytes(const std::string& bytes, Vyr& document, const ReportOptions& options, s_reading& reading) {
+void read_bytes(const std::string& bytes, Vyr& document, const ReportOptions& options, const text_taker& take_text,
+                s_reading& reading) {
     reading.size = bytes.size();
     if (!bytes.starts_with(k_archive_signature)) {
         reading.report = com_vyrgraph_v2::loadMemoryWithReport(document, bytes.data(), bytes.size(), options);
+        if (take_text) take_text(bytes);
         return;
     }
     const c_scratch_folder folder;
     const fs::path copy = folder.path() / "document.vyrz";
     reading.refusal = write_file(copy.string(), bytes);
-    if (reading.refusal.empty())
-        reading.report = com_vyrgraph_v2::loadFileWithReport(document, copy.string(), options);
+    if (!reading.refusal.empty()) return;
+    reading.report = com_vyrgraph_v2::loadFileWithReport(document, copy.string(), options);
+    give_entry(copy.string(), reading.report, take_text);
 }
 
-void read_stream(int descriptor, Vyr& document, const ReportOptions& options, s_reading& reading) {
+void read_stream(int descriptor, Vyr& document, const ReportOptions& options, const text_taker& take_text,
+                 s_reading& reading) {
     std::string bytes;
     reading.refusal = read_all(descriptor, bytes);
-    if (reading.refusal.empty()) read_bytes(bytes, document, options, reading);
+    if (reading.refusal.empty()) read_bytes(bytes, document, options, take_text, reading);
 }
 
-void read_any(const std::string& file, Vyr& document, const ReportOptions& options, s_reading& reading) {
-    if (file == k_standard_stream) return read_stream(STDIN_FILENO, document, options, reading);
+void read_any(const std::string& file, Vyr& document, const ReportOptions& options, const text_taker& take_text,
+              s_reading& reading) {
+    if (file == k_standard_stream) return read_stream(STDIN_FILENO, document, options, take_text, reading);
     const c_descriptor descriptor(open(file.c_str(), O_RDONLY | O_CLOEXEC));
     struct stat state {};
     if (descriptor.get() < 0 || fstat(descriptor.get(), &state) != 0) {
@@ -125,12 +170,12 @@ void read_any(const std::string& file, Vyr& document, const ReportOptions& optio
         reading.refusal = k_is_directory;
     } else if (S_ISREG(state.st_mode)) {
         reading.size = static_cast<std::size_t>(state.st_size);
-        read_regular(file, document, options, reading);
+        read_regular(file, descriptor.get(), document, options, take_text, reading);
         // The system's refusal of a file that it has just opened: of its content. No fault of the document's.
         const int refused = reading.report.getSystemError();
         if (refused != 0) reading.refusal = std::strerror(refused);
     } else {
-        read_stream(descriptor.get(), document, options, reading);
+        read_stream(descriptor.get(), document, options, take_text, reading);
     }
 }
 
@@ -200,25 +245,26 @@ void complain(const std::string& file, const std::string& text) {
     std::cerr << "vyr: " << shown_name(file) << ": " << printable(text) << '\n';
 }
 
-s_reading read_document(const std::string& file, Vyr& document, const ReportOptions& options) {
+s_reading read_document(const std::string& file, Vyr& document, const ReportOptions& options,
+                        const text_taker& take_text) {
     s_reading reading;
     try {
-        read_any(file, document, options, reading);
+        read_any(file, document, options, take_text, reading);
     } catch (const std::bad_alloc&) {
         reading.refusal = k_no_memory;
     }
     return reading;
 }
 
-exit_code read_or_explain(const std::string& file, Vyr& document, std::size_t* size) {
-    const s_reading reading = read_document(file, document);
+exit_code read_or_explain(const std::string& file, Vyr& document, std::size_t* size, const text_taker& take_text) {
+    const s_reading reading = read_document(file, document, {}, take_text);
     if (size != nullptr) *size = reading.size;
     return explain(file, reading);
 }
 
-s_reading read_document_bytes(const std::string& bytes, Vyr& document) {
+s_reading read_document_bytes(const std::string& bytes, Vyr& document, const text_taker& take_text) {
     s_reading reading;
-    read_bytes(bytes, document, {}, reading);
+    read_bytes(bytes, document, {}, take_text, reading);
     return reading;
 }
 

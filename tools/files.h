@@ -8,8 +8,10 @@
 #include <csignal>
 #include <cstddef>
 #include <filesystem>
+#include <functional>
 #include <optional>
 #include <string>
+#include <string_view>
 
 #include "document/report.h"
 #include "schema/Vyr.h"
@@ -31,17 +33,22 @@ struct s_reading {
     bool is_ok() const { return refusal.empty() && report.isOk(); }
 };
 
+/// Takes the text of a document piece by piece, as it stands in the file or in the container.
+using text_taker = std::function<void(std::string_view piece)>;
+
 /// Reads a document: a file, whatever bytes its name is made of, a pipe or "-". A container is known by its name, in
 /// a pipe by its first bytes.
 s_reading read_document(const std::string& file, com_vyrgraph_v2::Vyr& document,
-                        const com_vyrgraph_v2::ReportOptions& options = {});
+                        const com_vyrgraph_v2::ReportOptions& options = {}, const text_taker& take_text = {});
 
 /// The same from the bytes of a plain document or of a container.
-s_reading read_document_bytes(const std::string& bytes, com_vyrgraph_v2::Vyr& document);
+s_reading read_document_bytes(const std::string& bytes, com_vyrgraph_v2::Vyr& document,
+                              const text_taker& take_text = {});
 
 /// Reads a document for a command that needs a valid one, and says on standard error what is wrong with it. `size`,
 /// which may be null, receives that of the file.
-exit_code read_or_explain(const std::string& file, com_vyrgraph_v2::Vyr& document, std::size_t* size = nullptr);
+exit_code read_or_explain(const std::string& file, com_vyrgraph_v2::Vyr& document, std::size_t* size = nullptr,
+                          const text_taker& take_text = {});
 
 /// Says on standard error what came of a reading.
 exit_code explain(const std::string& file, const s_reading& reading);

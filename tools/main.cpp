@@ -45,6 +45,16 @@ void add_color(CLI::App& command, color_mode& mode) {
         ->option_text("WHEN");
 }
 
+void add_warnings(CLI::App& command, warning_set& warnings) {
+    const auto leave_out_named = [&warnings](const std::vector<std::string>& names) {
+        if (!leave_out(names, &warnings)) throw CLI::ValidationError("--ignore", "there is no such warning");
+    };
+    command
+        .add_option_function<std::vector<std::string>>("--ignore", leave_out_named,
+                                                       "Leave out warnings of that name, or all")
+        ->option_text("NAME");
+}
+
 void add_check(CLI::App& command, check_options& options) {
     command
         .add_option("FILE", options.files, "Documents, folders that are searched for them, or - for standard input")
@@ -54,11 +64,13 @@ void add_check(CLI::App& command, check_options& options) {
         ->check(CLI::Range(0, 256))
         ->option_text("N");
     command.add_option("--limit", options.limit, "Report at most N faults of a file (100)")->option_text("N");
+    add_warnings(command, options.warnings);
+    command.add_flag("--strict", options.strict, "Warnings are failures");
     add_json(command, options.json);
     command.add_flag("-q,--quiet", options.quiet, "Print nothing; the exit code tells");
     command.footer(
-        "Each fault is a line: file:line: path: what is wrong. Faults of values and attributes are\n"
-        "reported together; any other ends the check of its file.\n\n"
+        "Each fault is a line: file:line: path: what is wrong. All faults of a file are\n"
+        "reported together; only what is no XML ends its check.\n\n"
         "Examples:\n"
         "  vyr check inks.vyr\n"
         "  vyr check -j 4 palettes/           all .vyr and .vyrz files below a folder\n"
@@ -108,6 +120,7 @@ void add_convert(CLI::App& command, convert_options& options) {
     command.add_option("--to", options.format, "Write this format, whatever OUT is called: vyr, vyrz or json")
         ->check(CLI::IsMember({"vyr", "vyrz", "json"}))
         ->option_text("FORMAT");
+    add_warnings(command, options.warnings);
     command.footer(
         "The output takes its place only when it is complete and was read back as the same document; until\n"
         "then an existing file stays as it is. What would be lost is said, and nothing is written.\n\n"

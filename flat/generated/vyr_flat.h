@@ -54,8 +54,8 @@ void VYR_FLAT_CALL VyrModule_SetBstrPrefix(int32_t bytes);
 /* Frees a returned text; null is ignored. */
 void VYR_FLAT_CALL VyrModule_FreeString(void* text);
 /* Loads into a new Vyr: a plain document, or a container if the path ends in ".vyrz". With `collect`, goes on
- * after faults of values and attributes. Faults beyond `limit` are counted only. All loads and saves give a
- * report, which the caller deletes; it is null only if memory has run out. */
+ * after faults and gathers them. Faults beyond `limit` are counted only. All loads and saves give a report, which
+ * the caller deletes; it is null only if memory has run out. */
 void* VYR_FLAT_CALL VyrModule_LoadFile(void* self, const char16_t* path, uint32_t collect, uint32_t limit);
 /* The same from a text. */
 void* VYR_FLAT_CALL VyrModule_LoadString(void* self, const char16_t* text, uint32_t collect, uint32_t limit);
@@ -90,6 +90,8 @@ char16_t* VYR_FLAT_CALL VyrModule_ReportText(void* report);
 int32_t VYR_FLAT_CALL VyrModule_FaultCode(void* report, uint32_t index);
 /* From 1; 0 if there is no place in a text. */
 int32_t VYR_FLAT_CALL VyrModule_FaultLine(void* report, uint32_t index);
+/* Where in the line, in characters from 1; 0 if it isn't known. */
+int32_t VYR_FLAT_CALL VyrModule_FaultColumn(void* report, uint32_t index);
 /* The code in words. */
 char16_t* VYR_FLAT_CALL VyrModule_FaultText(void* report, uint32_t index);
 /* What would be right. */

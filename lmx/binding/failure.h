@@ -6,6 +6,7 @@
 
 #pragma once
 
+#include <cstdint>
 #include <string>
 
 #include "lmx/error.h"
@@ -16,12 +17,17 @@ namespace lmx {
 
 /// All texts are fit to be printed.
 struct s_failure {
-    int line = 0;        ///< where what is wrong begins; 0 of a save
-    std::string item;    ///< as the handler got it; of a save, what is missing
-    std::string path;    ///< "Palette "Inks" / ColorSet[2] / @ColorSetName"
-    std::string value;   ///< the offending text
-    std::string detail;  ///< what would be right
-    std::string meant;   ///< the attribute that is missing, if it is but one, or that a name resembles
+    int line = 0;  ///< where what is wrong begins; 0 of a save
+    /// The same as an offset in the source, behind the first character; of an attribute, that of its start tag.
+    /// Beyond all others at the end.
+    std::uint64_t offset = 0;
+    std::string attribute{};     ///< the full name of an attribute that is wrong
+    bool is_repetition = false;  ///< it is the second of that name
+    std::string item;            ///< as the handler got it; of a save, what is missing
+    std::string path;            ///< "Palette "Inks" / ColorSet[2] / @ColorSetName"
+    std::string value;           ///< the offending text
+    std::string detail;          ///< what would be right
+    std::string meant;           ///< the attribute that is missing, if it is but one, or that a name resembles
 };
 
 /// Whether the code says that a value, of an element or an attribute, isn't what its type allows.

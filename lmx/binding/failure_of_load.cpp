@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: Apache-2.0
 
 #include <algorithm>
+#include <limits>
 #include <string_view>
 #include <vector>
 
@@ -89,6 +90,11 @@ private:
         return std::string(m_reader.find_raw_attribute_value(item->name));
     }
 
+    std::string wrong_end_tag() const {
+        const std::string_view name = m_diagnosis.wrong_end_name;
+        return name.empty() ? "" : joined({"; </", shown(name), "> stands here"});
+    }
+
     std::string unresolved(std::string_view text) const {
         const std::string_view reference = trailing_reference(text);
         if (reference.empty()) return "a reference that follows, &# and a number, names no character";
@@ -99,12 +105,15 @@ private:
         const std::string& name = m_reader.m_attr_name;
         s_failure failure;
         failure.line = m_diagnosis.attribute_line;
+        failure.offset = m_diagnosis.event_offset;
+        failure.attribute = name;
         failure.path = path_of(m_open, joined({"@", shown(name, 60)}), own_name());
         const bool is_read = is_of_value(m_code) || m_code == ELMX_UNABLE_TO_READ_ATTRIBUTE_VALUE;
         failure.value = shown(is_read ? m_reader.m_value : m_diagnosis.attribute_value);
         if (m_code == ELMX_ATTRIBUTE_ALREADY_READ) {
             const bool is_repeated =
                 m_reader.find_raw_attribute_value(name).data() != m_diagnosis.attribute_value.data();
+            failure.is_repetition = is_repeated;
             failure.detail =
                 is_repeated ? "the attribute is given twice" : "the object holds it from an earlier load";
         } else if (m_code == ELMX_UNEXPECTED_ATTRIBUTE) {
@@ -117,6 +126,7 @@ private:
                                      is_known ? ", without a prefix" : meant(local, all)});
         } else if (m_code == ELMX_UNABLE_TO_READ_ATTRIBUTE_VALUE) {
             const std::string_view text = m_diagnosis.fault_text;
+            failure.meant = name;
             failure.detail = text.empty() ? unresolved(m_reader.m_value) : scanner_sentence(m_diagnosis);
         } else {
             failure.detail = allowed_value(*m_site.item, m_code, m_reader.m_value);
@@ -127,6 +137,7 @@ private:
     s_failure describe_value() const {
         s_failure failure;
         failure.line = m_diagnosis.event_line;
+        failure.offset = m_diagnosis.event_offset;
         failure.path = path_of(m_open, step_of(m_site), {});
         failure.value = shown(m_reader.m_value);
         if (is_of_value(m_code)) {
@@ -136,7 +147,10 @@ private:
         const std::string_view text = m_diagnosis.fault_text;
         const bool has_ended = m_diagnosis.has_source_ended;
         if (m_code == ELMX_UNABLE_TO_READ_ELEMENT_VALUE) {
-            if (!has_ended) failure.line = m_diagnosis.text_line;
+            if (!has_ended) {
+                failure.line = m_diagnosis.text_line;
+                failure.offset = m_diagnosis.text_offset;
+            }
             failure.detail = text.empty() && !has_ended ? unresolved(m_reader.m_value)
                              : has_read_bad_bytes()     ? std::string(k_bad_bytes)
                              : text.empty()             ? std::string("the document ends within it")
@@ -145,7 +159,7 @@ private:
             failure.detail = has_ended ? std::string("the document ends within it")
                                        : joined({"only a value may stand in it, with each < written &lt;, and then "
                                                  "its end tag </",
-                                                 shown(m_reader.m_name), ">"});
+                                                 shown(m_reader.m_name), ">", wrong_end_tag()});
         } else {
             failure.detail = text.empty() ? k_unended : scanner_sentence(m_diagnosis);
         }
@@ -159,7 +173,9 @@ private:
         s_failure failure;
         failure.path = path_of(m_open, {}, {});
         failure.line = m_diagnosis.event_line;
+        failure.offset = m_diagnosis.event_offset;
         if (!is_end) failure.value = shown(m_reader.m_name);
+        if (is_end && has_ended) failure.offset = std::numeric_limits<std::uint64_t>::max();
         if (!text.empty()) {
             failure.detail = has_read_bad_bytes()   ? k_bad_bytes
                              : !is_end && has_ended ? k_unended
@@ -198,6 +214,18 @@ private:
         return uri == nullptr ? "of the document" : shown(uri);
     }
 
+    /// ", which is in no namespace": what is to be said of the element at hand where another one is expected.
+    std::string found_namespace() const {
+        const std::string& name = m_reader.m_name;
+        const std::size_t colon = name.find(':');
+        std::string uri;
+        if (m_reader.get_namespace(name, &uri) == k_namespace_not_found && colon != name.npos) {
+            return joined({", whose prefix ", shown(name.substr(0, colon)), " is not declared"});
+        }
+        if (uri.empty() || uri == k_namespace_not_found) return ", which is in no namespace";
+        return joined({", which is in the namespace ", shown(uri)});
+    }
+
     /// What stands where something else is expected; as text and in words.
     std::string found_text() const {
         if (m_event != ELXP_END_TAG) return shown(m_reader.m_name);
@@ -219,7 +247,8 @@ private:
         }
         const std::string text = joined({"<", found_text(), "> stands here", is_repeated() ? " again" : ""});
         if (!is_foreign()) return joined({text, meant(local_part(m_reader.m_name), all)});
-        return joined({text, ", which is not in the namespace ", format_namespace(namespace_of_open())});
+        return joined(
+            {text, found_namespace(), "; the namespace ", format_namespace(namespace_of_open()), " is expected"});
     }
     /// All that the open element takes.
     names expected_names() const {
@@ -236,13 +265,13 @@ private:
     s_failure describe_structure() const {
         s_failure failure;
         failure.line = m_diagnosis.event_line;
+        failure.offset = m_diagnosis.event_offset;
         failure.value = found_text();
         std::string last_step;
         std::string name;
         switch (m_code) {
             case ELMX_ELEMENT_NOT_FOUND:
-                failure.detail = joined({"the document must begin with the element ", m_site.document->local_name,
-                                         " in the namespace ", format_namespace(m_site.document->ns_map->ns_id)});
+                failure.detail = not_the_document();
                 break;
             case ELMX_MANDATORY_ELEMENT_MISSING: {
                 // Of names that are equally near the one that is missing comes first.
@@ -254,6 +283,7 @@ private:
             }
             case ELMX_REQUIRED_ATTRIBUTES_MISSING:
                 failure.line = m_open->line;
+                failure.offset = m_open->offset;
                 failure.value.clear();
                 failure.detail = missing(absent_attributes());
                 if (absent_attributes().size() == 1) failure.meant = local_part(absent_attributes().front()->name);
@@ -263,6 +293,7 @@ private:
                 break;
             case ELMX_UNEXPECTED_EMPTY_ELEMENT:
                 failure.line = m_open->line;
+                failure.offset = m_open->offset;
                 failure.value.clear();
                 failure.detail = absent_content();
                 break;
@@ -281,6 +312,14 @@ private:
         }
         failure.path = path_of(m_open, last_step, m_code == ELMX_REQUIRED_ATTRIBUTES_MISSING ? own_name() : "");
         return failure;
+    }
+
+    std::string not_the_document() const {
+        const int ns_id = m_site.document->ns_map->ns_id;
+        const std::string detail = joined({"the document must begin with the element ", m_site.document->local_name,
+                                           " in the namespace ", format_namespace(ns_id)});
+        if (m_event != ELXP_NAME || m_reader.get_element_ns_id() == ns_id) return detail;
+        return joined({detail, "; <", found_text(), "> stands here", found_namespace()});
     }
 
     std::vector<const s_item*> absent_attributes() const {
@@ -311,8 +350,9 @@ private:
         if (is_nil(type, m_open->object)) return "the element is nil and must be empty";
         if (type.content == content_kind::simple) return sentence("only a value may stand in it", found());
         if (m_event == ELXP_END_TAG && m_reader.m_name != m_open->get_name()) {
-            return joined({"the end tag of ", open_name(), ", which begins in line ", std::to_string(m_open->line),
-                           ", is expected"});
+            const std::string begin =
+                m_open->line == 0 ? "" : joined({", which begins in line ", std::to_string(m_open->line), ","});
+            return joined({"the end tag of ", open_name(), begin, " is expected"});
         }
         if (type.content == content_kind::empty) return sentence("it must be empty", found());
         if (type.content == content_kind::choice) {

@@ -183,7 +183,7 @@ elmx_error report_unprinted(c_xml_writer& writer, const s_class& type, const voi
 }
 
 elmx_error print_object(c_xml_writer& writer, const s_class& type, const void* object, const char* name) {
-    const c_open_element open(writer, {writer.notes().open_element, &type, object, nullptr, name, 0});
+    const c_open_element open(writer, {writer.notes().open_element, &type, object, nullptr, name, 0, 0});
     // Around the handler: whoever swallowed it would use up the stack.
     if (writer.notes().open_element->depth > k_maximum_nesting) {
         return report_unprinted(writer, type, object, ELMX_BADLY_FORMED, name);

@@ -7,6 +7,7 @@
 #pragma once
 
 #include <cstddef>
+#include <cstdint>
 #include <string>
 #include <string_view>
 
@@ -27,6 +28,7 @@ struct s_open_element {
     const c_string_stack_node* node;    ///< of a load: holds the name
     const char* written_name;           ///< of a save
     int line;                           ///< of a load: where the start tag begins
+    std::uint64_t offset;               ///< of a load: that behind the first character of the start tag
     const s_item* last_item = nullptr;  ///< of a load: the item that was read last
     std::size_t depth = outer == nullptr ? 1 : outer->depth + 1;
 

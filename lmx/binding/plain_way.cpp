@@ -523,7 +523,7 @@ c_plain_way::e_step c_plain_way::take_class(const s_class& child, const s_item* 
     s_entered entered{};
     if (!enter_class(child, member, object, step, &entered)) return e_step::declined;
     if (entered.has_children) {
-        *step.error = read_plain_element(child, entered.object, m_reader, step.name, entered.line, *this);
+        *step.error = read_plain_element(child, entered.object, m_reader, step.name, entered.begin, *this);
         if (*step.error != ELMX_OK) return e_step::failed;
     }
     if (member == nullptr) {
@@ -544,10 +544,10 @@ PLAIN_WAY_APART bool c_plain_way::enter_class(const s_class& child, const s_item
     const bool is_child = row.kind == item_kind::child || row.kind == item_kind::optional_child;
     const void* const present = is_child ? child_of(row, object) : nullptr;
     if (present != nullptr && is_nil(child, present)) return false;
-
     s_start_tag tag;
     if (!read_start_tag(child, present, step.name.data(), step.name.size(), &tag)) return false;
-    entered->line = m_reader.get_text_line() + m_line_feeds + step.line_feeds;
+    entered->begin = {m_reader.get_text_line() + m_line_feeds + step.line_feeds,
+                      m_reader.get_offset() + static_cast<std::uint64_t>(step.name.data() - m_start)};
     int line_feeds = step.line_feeds + tag.line_feeds;
     const bool is_simple = child.content == content_kind::simple;
     const char* behind = tag.behind;
@@ -574,7 +574,7 @@ PLAIN_WAY_APART bool c_plain_way::enter_class(const s_class& child, const s_item
     } else {
         entered->object = make_child(row, member, object);
     }
-    note_tag(tag.text, entered->line);
+    note_tag(tag.text, entered->begin.line);
     store_attributes(child, entered->object, tag);
     if (is_simple) {
         store(content_owner(child), *content_row, entered->object, content);

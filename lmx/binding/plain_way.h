@@ -24,6 +24,12 @@
 
 namespace lmx {
 
+/// Where an element begins.
+struct s_begin {
+    int line;
+    std::uint64_t offset;  ///< in the source, behind its first character
+};
+
 class c_plain_way {
 public:
     enum class e_step {
@@ -53,7 +59,7 @@ private:
     /// An element of a class whose start tag was taken.
     struct s_entered {
         void* object;
-        int line;
+        s_begin begin;
         bool has_children;
     };
     struct s_step;

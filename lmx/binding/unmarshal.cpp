@@ -9,6 +9,7 @@
 #include "lmx/binding/object.h"
 #include "lmx/binding/open_element.h"
 #include "lmx/binding/plain_way.h"
+#include "lmx/binding/recovery.h"
 #include "lmx/binding/storage.h"
 
 namespace lmx {
@@ -24,6 +25,16 @@ bool goes_on(c_xml_reader& reader, const s_fault_site& site, elmx_error code, co
 bool goes_on(c_xml_reader& reader, elmx_error code, const std::string& item_name, elmx_error* error,
              s_source_place place = s_source_place::current()) {
     return goes_on(reader, {}, code, item_name, error, place);
+}
+
+/// The same for a failure behind which a load that goes on can't read what it would without: `recover` is what it
+/// does instead.
+template <class Recover>
+bool goes_on_by(c_xml_reader& reader, const s_fault_site& site, elmx_error code, const std::string& item_name,
+                elmx_error* error, Recover recover, s_source_place place = s_source_place::current()) {
+    if (!goes_on(reader, site, code, item_name, error, place)) return false;
+    if (reader.is_recovering()) *error = recover();
+    return *error == ELMX_OK;
 }
 
 void note_item(c_xml_reader& reader, const s_item& item) {
@@ -73,16 +84,24 @@ bool read_simple_element(const s_class& type, const s_item& item, void* object, 
     *error = ELMX_OK;
     reader.notes().is_value_faulty = false;
     if (!reader.get_simple_type_value(name, item.whitespace, &reader.m_value, error, &is_empty)) {
-        return goes_on(reader, {&type, &item, object}, *error, name, error);
+        return goes_on_by(reader, {&type, &item, object}, *error, name, error,
+                          [&] { return leave_element(reader, name); });
     }
     return store_value(type, item, object, reader, name, error);
 }
 
 // Items of a sequence. Each leaves the event of the element behind it, tokenised for the position behind it.
 
-bool report_missing(c_xml_reader& reader, const s_item& item, elmx_error* error) {
+/// `told`: the row that a load that goes on reported as missing last in this element, which it does once.
+bool report_missing(c_xml_reader& reader, const s_item& item, const s_fault_site& site, const std::string& name,
+                    const s_item** told, elmx_error* error) {
+    if (*told == &item) return true;
+    if (reader.is_recovering()) *told = &item;
+    return goes_on(reader, site, ELMX_MANDATORY_ELEMENT_MISSING, name, error);
+}
+bool report_missing(c_xml_reader& reader, const s_item& item, const s_item** told, elmx_error* error) {
     if ((item.use & use_demanded) == 0) return true;
-    return goes_on(reader, {nullptr, &item}, ELMX_MANDATORY_ELEMENT_MISSING, std::string(item.name), error);
+    return report_missing(reader, item, {nullptr, &item}, std::string(item.name), told, error);
 }
 
 /// Reads the member of a group that the current event names, without the event behind it. `*error` is set if that
@@ -96,8 +115,13 @@ bool read_member(const s_class& type, const s_item& alternative, void* object, c
         const bool has_type = reader.get_xsi_type(&ns_id, &type_name);
         if (has_type) typed = create_by_name(alternative.factory, ns_id, type_name);
         if (typed == nullptr && (has_type || (alternative.use & use_demanded) != 0)) {
+            const s_fault_site site{&type, &alternative};
+            if (reader.is_recovering()) {
+                return goes_on_by(reader, site, ELMX_UNKNOWN_XSI_TYPE, name, error,
+                                  [&] { return skip_element(reader, name); });
+            }
             // The one failure that goes around the handler: nothing could be read in its place.
-            *error = report_unhandled(reader, {&type, &alternative}, ELMX_UNKNOWN_XSI_TYPE, name);
+            *error = report_unhandled(reader, site, ELMX_UNKNOWN_XSI_TYPE, name);
             return false;
         }
     }
@@ -119,6 +143,13 @@ bool read_group(const s_class& type, void* object, c_xml_reader& reader, const s
     const s_item* const alternative = find_token(type.elements, reader.get_current_event());
     if (alternative != nullptr) return read_member(type, *alternative, object, reader, name, error);
     release_choice(type, object);
+    if (reader.is_recovering()) {
+        if (reader.get_scanned_event() == ELXP_NAME) return (*error = skip_element(reader, name)) == ELMX_OK;
+        return goes_on_by(reader, {}, ELMX_BAD_END_OF_ELEMENT, name, error, [&] {
+            reader.notes().is_unwinding = reader.get_scanned_event() == ELXP_END_TAG;
+            return reader.notes().is_unwinding ? ELMX_BAD_END_OF_ELEMENT : ELMX_OK;
+        });
+    }
     // Only an element can be passed over.
     const bool is_skipped = reader.get_scanned_event() == ELXP_NAME && reader.skip_rest_of_element(name);
     return is_skipped || goes_on(reader, ELMX_BAD_END_OF_ELEMENT, name, error);
@@ -160,7 +191,8 @@ bool read_item(const s_class& type, const s_item& item, void* object, c_xml_read
         }
         default:
             return reader.skip_rest_of_empty_element(*name) ||
-                   goes_on(reader, {&type, &item, object}, ELMX_BAD_END_OF_ELEMENT, *name, error);
+                   goes_on_by(reader, {&type, &item, object}, ELMX_BAD_END_OF_ELEMENT, *name, error,
+                              [&] { return leave_element(reader, *name); });
     }
 }
 
@@ -174,33 +206,54 @@ bool read_event_behind(s_place* place, void* object, c_xml_reader& reader, std::
 }
 
 /// A list that stayed too short is reported under the class's name; a plain list was reported at its own turn too.
-bool check_lists(const s_class& type, const void* object, c_xml_reader& reader, elmx_error* error) {
+bool check_lists(const s_class& type, const void* object, c_xml_reader& reader, const s_item** told,
+                 elmx_error* error) {
     const s_item* const short_list = find_short_list(type, object);
-    return short_list == nullptr ||
-           goes_on(reader, {&type, short_list}, ELMX_MANDATORY_ELEMENT_MISSING, type.qualified_name, error);
+    if (short_list == nullptr || (reader.is_recovering() && short_list->kind != item_kind::group_list)) return true;
+    return report_missing(reader, *short_list, {&type, short_list}, type.qualified_name, told, error);
 }
 
-/// Goes on to the row that takes the current event; what is passed over and must be there is reported. At the end of
-/// all rows the place is at its end.
-bool find_due_row(const s_class& type, void* object, s_place* place, c_xml_reader& reader, elmx_error* error,
-                  bool* is_member) {
+/// What the event at hand turned out to be.
+enum class e_due {
+    failed,
+    item,     ///< of the row that the place now is at
+    none,     ///< of no row: the place is at its end
+    stranger  ///< of no row either, as was told when a row was reported as missing in its place
+};
+
+/// Goes on to the row that takes the current event; what is passed over and must be there is reported.
+e_due find_due_row(const s_class& type, void* object, s_place* place, c_xml_reader& reader, elmx_error* error,
+                   bool* is_member, const s_item** told) {
     for (;;) {
         if (place->is_at_end()) {
-            if (!check_lists(*place->level, object, reader, error)) return false;
+            const s_item* const told_before = *told;
+            if (!check_lists(*place->level, object, reader, told, error)) return e_due::failed;
+            if (*told != told_before && is_stranger(type, *place, reader)) return e_due::stranger;
             const s_class* const level = next_level(type, *place->level);
-            if (level == nullptr) return true;
+            if (level == nullptr) return e_due::none;
             static_cast<s_due_row&>(*place) = s_due_row(*level);
             place->group = nullptr;
             tokenise_element(reader, level->element_map);
             continue;
         }
         const s_item& item = place->row();
-        if (is_due(item, reader, is_member)) return true;
-        const bool is_missing = !place->is_entered && item.kind != item_kind::group_list;
-        if (is_missing && !report_missing(reader, item, error)) return false;
+        if (is_due(item, reader, is_member)) return e_due::item;
+        if (!place->is_entered && item.kind != item_kind::group_list) {
+            const s_item* const told_before = *told;
+            if (!report_missing(reader, item, told, error)) return e_due::failed;
+            if (*told != told_before && is_stranger(type, *place, reader)) return e_due::stranger;
+        }
         ++place->index;
         place->is_entered = false;
     }
+}
+
+/// Passes over an event that has no place in an element, and reads the one behind it.
+bool pass_stranger(const s_place& place, c_xml_reader& reader, std::string* name, elmx_error* error) {
+    *error = pass_over_event(reader);
+    if (*error != ELMX_OK || !next_element(reader, nullptr, name, error)) return false;
+    if (!place.is_at_end()) tokenise_element(reader, place.level->element_map + place.row().position);
+    return true;
 }
 
 /// Reads the rows of a sequence from the place on, with an event in hand or not, to the first element that has no
@@ -209,11 +262,24 @@ bool read_sequence(const s_class& type, void* object, s_place place, bool has_ev
                    c_plain_way& plain, const c_string_stack_node* end, std::string* name, elmx_error* error,
                    bool* is_ended) {
     *is_ended = false;
+    const s_item* told = nullptr;
     for (;;) {
         if (!has_event && !read_event_behind(&place, object, reader, name, error)) return false;
+        const s_place before = place;
         bool is_member = false;
-        if (!find_due_row(type, object, &place, reader, error, &is_member)) return false;
-        if (place.is_at_end()) return true;
+        const bool is_next_stranger = told != nullptr && is_stranger(type, place, reader);
+        const e_due due =
+            is_next_stranger ? e_due::none : find_due_row(type, object, &place, reader, error, &is_member, &told);
+        if (due == e_due::failed) return false;
+        if (due != e_due::item) {
+            if (!reader.is_recovering() || !is_own_event(object, reader)) return true;
+            const char* const own_name = reader.notes().open_element->get_name();
+            if (due == e_due::none && !goes_on(reader, ELMX_BAD_END_OF_ELEMENT, own_name, error)) return false;
+            place = before;
+            if (!pass_stranger(place, reader, name, error)) return false;
+            has_event = true;
+            continue;
+        }
         const s_item& item = place.row();
         if (is_group(item) && is_member) note_item(reader, item);
         if (!read_item(*place.level, item, object, reader, name, error, &has_event)) return false;
@@ -234,10 +300,12 @@ bool read_sequence(const s_class& type, void* object, s_place place, bool has_ev
 bool read_any(const s_class& type, const s_item& item, void* object, c_xml_reader& reader, std::string* name,
               elmx_error* error) {
     auto& entries = member<c_list<c_any_info>>(object, item.offset);
-    if (!reader.is_current_event_tokenisable() && !report_missing(reader, item, error)) return false;
+    const s_item* told = nullptr;
+    if (!reader.is_current_event_tokenisable() && !report_missing(reader, item, &told, error)) return false;
     while (reader.is_current_event_tokenisable()) {
         if (!reader.get_any_element(*name, &reader.m_value, ELMX_WS_PRESERVE, true) &&
-            !goes_on(reader, ELMX_UNABLE_TO_READ_ELEMENT_VALUE, *name, error)) {
+            !goes_on_by(reader, {}, ELMX_UNABLE_TO_READ_ELEMENT_VALUE, *name, error,
+                        [] { return ELMX_UNABLE_TO_READ_ELEMENT_VALUE; })) {
             return false;
         }
         c_any_info& entry = entries.append();
@@ -247,14 +315,22 @@ bool read_any(const s_class& type, const s_item& item, void* object, c_xml_reade
         entry.set_value(reader.m_value);
         if (!next_element(reader, nullptr, name, error)) return false;
     }
-    return entries.size() > 0 || goes_on(reader, ELMX_MANDATORY_ELEMENT_MISSING, type.qualified_name, error);
+    return entries.size() > 0 || told != nullptr ||
+           goes_on(reader, ELMX_MANDATORY_ELEMENT_MISSING, type.qualified_name, error);
 }
 
 bool read_choice(const s_class& type, void* object, c_xml_reader& reader, std::string* name, elmx_error* error) {
     tokenise_element(reader, type.element_map);
-    const s_item* const alternative = find_token(type.elements, reader.get_current_event());
+    const s_item* alternative = find_token(type.elements, reader.get_current_event());
     if (alternative == nullptr) {
-        return goes_on(reader, {&type}, ELMX_UNKNOWN_ELEMENT_IN_COMPLEX_CONTENT, *name, error);
+        if (!goes_on(reader, {&type}, ELMX_UNKNOWN_ELEMENT_IN_COMPLEX_CONTENT, *name, error)) return false;
+        if (!reader.is_recovering()) return true;
+        while (alternative == nullptr && is_event_passable(reader)) {
+            *error = pass_over_event(reader);
+            if (*error != ELMX_OK || !next_element(reader, type.element_map, name, error)) return false;
+            alternative = find_token(type.elements, reader.get_current_event());
+        }
+        if (alternative == nullptr) return true;
     }
     note_item(reader, *alternative);
     // Alternatives with storage of their own are chosen before they are read, so that a half-read one stays.
@@ -311,7 +387,9 @@ elmx_error read_attributes(const s_class& type, void* object, c_xml_reader& read
 }
 
 elmx_error refuse_end(c_xml_reader& reader, const c_string_stack_node& node) {
-    return report_at(reader, {}, ELMX_BAD_END_OF_ELEMENT, node.get_str());
+    const elmx_error error = report_at(reader, {}, ELMX_BAD_END_OF_ELEMENT, node.get_str());
+    if (error != ELMX_OK || !reader.is_recovering()) return error;
+    return leave_element_at_event(reader, node.get_str());
 }
 
 /// The element must end here, under the name it began with.
@@ -336,6 +414,9 @@ elmx_error read_simple_content(const s_class& type, void* object, c_xml_reader& 
         return error;
     }
     if (!has_body) return ELMX_OK;
+    if (reader.is_recovering() && !is_nil(type, object) && reader.notes().is_value_faulty) {
+        return leave_element(reader, node.get_str());
+    }
     error = read_event(reader, node);
     return error == ELMX_OK ? check_end(reader, node) : error;
 }
@@ -380,8 +461,10 @@ elmx_error read_children(const s_class& type, void* object, c_xml_reader& reader
 elmx_error refuse_nesting(c_xml_reader& reader, const std::string& name) {
     const std::string own_name = name;  // NOLINT(performance-unnecessary-copy-initialization): a handler may read on
     const elmx_error error = report_at(reader, {}, ELMX_BADLY_FORMED, own_name);
-    if (error == ELMX_OK) reader.skip_rest_of_element(own_name);
-    return error;
+    if (error != ELMX_OK) return error;
+    if (reader.is_recovering()) return skip_element(reader, own_name);
+    reader.skip_rest_of_element(own_name);
+    return ELMX_OK;
 }
 
 }  // namespace
@@ -396,23 +479,26 @@ elmx_error unmarshal_element(const s_class& type, void* object, c_xml_reader& re
     if (reader.get_element_name_stack().get_depth() >= k_maximum_nesting) return refuse_nesting(reader, name);
     // The name argument is the reader's work string, and every event below overwrites it.
     const c_string_stack_node node(reader.get_element_name_stack(), name);
-    const c_open_element open(reader,
-                              {reader.notes().open_element, &type, object, &node, nullptr, reader.get_event_line()});
+    const c_open_element open(reader, {reader.notes().open_element, &type, object, &node, nullptr,
+                                       reader.get_event_line(), reader.get_event_offset()});
     const elmx_error error = read_attributes(type, object, reader, name);
     if (error != ELMX_OK) return error;
-    if (type.content == content_kind::simple) return read_simple_content(type, object, reader, node);
+    if (type.content == content_kind::simple) {
+        return settle_end(reader, node, read_simple_content(type, object, reader, node));
+    }
     const c_xml_reader_local scope(reader);
     c_plain_way plain(reader, type, node.get_name());
     const bool is_empty_tag = reader.get_current_event() == ELXP_END_TAG;
-    return read_children(type, object, reader, node, plain, is_empty_tag, false);
+    return settle_end(reader, node, read_children(type, object, reader, node, plain, is_empty_tag, false));
 }
 
 elmx_error read_plain_element(const s_class& type, void* object, c_xml_reader& reader, std::string_view name,
-                              int line, c_plain_way& plain) {
+                              const s_begin& begin, c_plain_way& plain) {
     const c_string_stack_node node(reader.get_element_name_stack(), name);
-    const c_open_element open(reader, {reader.notes().open_element, &type, object, &node, nullptr, line});
+    const c_open_element open(reader,
+                              {reader.notes().open_element, &type, object, &node, nullptr, begin.line, begin.offset});
     const c_xml_reader_local scope(reader);
-    return read_children(type, object, reader, node, plain, false, true);
+    return settle_end(reader, node, read_children(type, object, reader, node, plain, false, true));
 }
 
 bool unmarshal_attribute(const s_class& type, void* object, c_xml_reader& reader, const std::string& name,

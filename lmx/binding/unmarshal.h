@@ -8,6 +8,7 @@
 
 #pragma once
 
+#include <cstdint>
 #include <string>
 #include <string_view>
 
@@ -42,9 +43,10 @@ VYR_EXPORT bool is_group_member(const s_class& type, c_xml_reader& reader);
 // For the plain way.
 
 class c_plain_way;
+struct s_begin;
 
 /// Reads what is behind a start tag that was taken, through the end tag.
 elmx_error read_plain_element(const s_class& type, void* object, c_xml_reader& reader, std::string_view name,
-                              int line, c_plain_way& plain);
+                              const s_begin& begin, c_plain_way& plain);
 
 }  // namespace lmx

@@ -28,6 +28,7 @@ class c_decoded_window;
 class VYR_EXPORT c_unget_buffer {
 public:
     bool empty() const { return m_count == 0; }
+    std::size_t size() const { return static_cast<std::size_t>(m_count); }
     void clear() { m_count = 0; }
     int get() { return m_values[--m_count]; }
     void unget(int value);
@@ -81,6 +82,15 @@ public:
     int get_line_num() const { return m_line_num; }
     /// The line as an editor shows it: each line end counts once.
     int get_text_line() const { return m_line_num - m_recounted; }
+    /// How many bytes of the source lie ahead of what comes next, or, in the text of an entity, ahead of what follows
+    /// the reference. It means nothing once the source had to be decoded in stretches.
+    std::uint64_t get_offset() const {
+        const std::uint64_t unit = m_encoding >= enc_utf16_be ? 2 : 1;
+        return m_bytes_taken - static_cast<std::uint64_t>(m_end - m_current) - unit * m_unget.size();
+    }
+    bool has_decoded() const { return m_decoded != nullptr; }
+    /// One of `encoding`.
+    int get_encoding() const { return m_encoding; }
     const char* get_source_id() const { return m_reader.get_source_id(); }
     c_error& get_error_handler() const { return m_error; }
 

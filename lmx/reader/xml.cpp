@@ -13,6 +13,9 @@ s_diagnosis c_xml::diagnose() const {
     s_diagnosis diagnosis;
     diagnosis.text_line = get_text_line();
     diagnosis.event_line = diagnosis.attribute_line = m_event_line;
+    diagnosis.event_offset = m_event_offset;
+    diagnosis.text_offset = get_offset();
+    diagnosis.wrong_end_name = m_wrong_end_name;
     if (m_named.position != 0) {
         diagnosis.attribute_line = m_named.attribute.line;
         diagnosis.attribute_value = raw_value_of(m_named.attribute);
@@ -47,6 +50,7 @@ elxp_xml_event c_xml::get_element_name(c_xml_local* local, std::string* name) {
         name->clear();
         int c = get_non_ws();
         m_event_line = get_text_line();
+        m_event_offset = get_offset();
         if (c == -1) return deliver(ELXP_END_OF_INPUT);
         if (c == '&') {
             c_stream_name_reader stream(*this);

@@ -7,9 +7,11 @@
 #pragma once
 
 #include <cstddef>
+#include <cstdint>
 #include <initializer_list>
 #include <string>
 #include <string_view>
+#include <utility>
 
 #include "lmx/export.h"
 #include "lmx/reader/attribute_list.h"
@@ -83,6 +85,8 @@ public:
 
     /// The line where the event that `get_element_name` delivered last, or failed to, begins.
     int get_event_line() const { return m_event_line; }
+    /// The offset behind its first character.
+    std::uint64_t get_event_offset() const { return m_event_offset; }
     /// What a failure here is described with.
     s_diagnosis diagnose() const;
     /// The value of the first attribute of that full name in the last start tag, with references as they stand there;
@@ -93,6 +97,13 @@ public:
     void add_namespace(const char* uri, int id) { m_namespaces.add_namespace(uri, id); }
     int find_enumerated_namespace(const std::string& uri) const { return m_namespaces.find_namespace(uri); }
     const char* find_namespace_from_id(int id) const { return m_namespaces.find_namespace_from_id(id); }
+
+    /// Whether a load goes on behind a fault of structure that its handler lets pass. It then looks at a wrong end
+    /// tag as a whole, takes it, and leaves all else that stands in place of an end tag where it is.
+    bool is_recovering() const { return m_is_recovering; }
+    void set_recovering(bool is_recovering) { m_is_recovering = is_recovering; }
+    /// The name of the wrong end tag that `is_element_end_tag` took last; empty if it took none.
+    std::string take_wrong_end_name() { return std::exchange(m_wrong_end_name, {}); }
 
     /// Define entities ahead of a parse.
     void add_general_entity(const std::string& name, const std::string& value) {
@@ -111,7 +122,7 @@ public:
 
 protected:
     /// As if that start tag, which is plain, had been the last one, and all its attributes had been read.
-    void set_start_tag(std::string_view tag, int line);
+    void set_start_tag(std::string_view tag, int line, std::uint64_t offset);
     bool has_attributes() const { return !m_attributes.empty(); }
 
 private:
@@ -136,6 +147,7 @@ private:
     bool scan_doctype();
 
     void read_name(int first, std::string* out);
+    bool take_any_end_tag(const std::string& name);
     bool read_end_tag(std::string* name);
     bool read_cdata(std::string* out);
     void read_cdata_text(std::string* out);
@@ -168,6 +180,7 @@ private:
     bool m_doctype_read = false;
     bool m_content_seen = false;
     int m_event_line = 1;
+    std::uint64_t m_event_offset = 0;
     std::string m_attr_buffer;  ///< the start tag's names and raw values
     c_attribute_list m_attributes;
     c_attribute_list m_ns_attributes;
@@ -175,6 +188,8 @@ private:
     c_attribute_list::s_cursor m_named;   ///< the attribute that was named last; at the start if none was
     bool m_is_value_due = false;          ///< that of the named one
     std::size_t m_value_position = 0;     ///< how far that was read
+    bool m_is_recovering = false;
+    std::string m_wrong_end_name;
     std::string m_uri;
     std::string m_work_name;
 };

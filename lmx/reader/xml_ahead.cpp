@@ -65,9 +65,10 @@ bool c_xml::take_start_tag(std::string* name) {
     return true;
 }
 
-void c_xml::set_start_tag(std::string_view tag, int line) {
+void c_xml::set_start_tag(std::string_view tag, int line, std::uint64_t offset) {
     clear_attributes();
     m_event_line = line;
+    m_event_offset = offset;
     std::size_t at = run_length(tag, 0, k_stops_of_names);
     m_attr_buffer.assign(tag.substr(at));
     const std::string_view text = m_attr_buffer;

@@ -46,12 +46,30 @@ bool c_xml::get_element_value(std::string* value, elmx_whitespace mode, bool exp
 
 bool c_xml::is_element_end_tag(const std::string& name) {
     if (take_if_ahead("</", name, ">")) return true;
+    if (m_is_recovering) return take_any_end_tag(name);
     if (get_non_ws() != '<' || get() != '/') return false;
     for (const char expected : name) {
         const int c = get();
         if (c == -1 || static_cast<char>(c) != expected) return false;
     }
     return get_non_ws() == '>';
+}
+
+bool c_xml::take_any_end_tag(const std::string& name) {
+    int c = get_non_ws();
+    if (c == '<') {
+        c = get();
+        if (c == '/') {
+            m_wrong_end_name.clear();
+            if (!read_end_tag(&m_wrong_end_name) || m_wrong_end_name != name) return false;
+            m_wrong_end_name.clear();
+            return true;
+        }
+        unget(c);
+        c = '<';
+    }
+    unget(c);
+    return false;
 }
 
 bool c_xml::skip_rest_of_empty_element(const std::string& name) {

@@ -117,6 +117,8 @@ elmx_error c_xml_reader::event_error() const {
 }
 
 void c_xml_reader::take_plain(std::size_t count, int line_feeds, const s_plain_trace& trace) {
+    const char* const start = ahead().data();
+    const std::uint64_t offset = get_offset();
     take_ahead(count, line_feeds);
     if (trace.attribute_name.data() != nullptr) m_attr_name = trace.attribute_name;
     if (trace.has_value) {
@@ -125,7 +127,7 @@ void c_xml_reader::take_plain(std::size_t count, int line_feeds, const s_plain_t
         set_ws_mode(trace.whitespace);
     }
     if (trace.tag.data() == nullptr) return;
-    set_start_tag(trace.tag, trace.tag_line);
+    set_start_tag(trace.tag, trace.tag_line, offset + static_cast<std::uint64_t>(trace.tag.data() - start));
     // An end tag or text behind has no name of its own.
     const std::size_t name_length = run_length(trace.tag, 0, k_stops_of_names);
     m_cracked_name.set(m_local, has_attributes() ? m_attr_name : m_name.assign(trace.tag, 0, name_length));

@@ -6,6 +6,7 @@
 #include "lmx/values/datetime.h"
 
 #include <charconv>
+#include <chrono>
 #include <iomanip>
 #include <type_traits>
 #include <utility>
@@ -165,6 +166,21 @@ void c_datetime_base::assign(const s_calendar_form& form, const char* text) {
     }
     if (is_negative) m_year = negated(m_year);
     parse_zone(text);
+}
+
+void c_datetime_base::assign_present_time() {
+    using std::chrono::floor;
+    const auto present = floor<std::chrono::seconds>(std::chrono::system_clock::now());
+    const auto day = floor<std::chrono::days>(present);
+    const std::chrono::year_month_day date(day);
+    const std::chrono::hh_mm_ss time(present - day);
+    m_year = static_cast<int>(date.year());
+    m_month = static_cast<unsigned>(date.month());
+    m_day = static_cast<unsigned>(date.day());
+    m_hours = static_cast<std::uint32_t>(time.hours().count());
+    m_mins = static_cast<std::uint32_t>(time.minutes().count());
+    m_secs = static_cast<float>(time.seconds().count());
+    m_is_utc = true;
 }
 
 bool c_datetime_base::assign_usual_datetime(const char* text) {

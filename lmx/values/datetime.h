@@ -88,6 +88,7 @@ protected:
     /// Takes a date-time in UTC without a fraction, "2005-02-28T10:00:00Z", from the 20 characters at `text`. False,
     /// with some fields stored, for anything else.
     bool assign_usual_datetime(const char* text);
+    void assign_present_time();
 
     /// `*has_zone` is set only for valid text.
     static bool is_valid(const s_calendar_form& form, const std::string& text, bool* has_zone);
@@ -129,6 +130,13 @@ public:
     static constexpr std::size_t k_usual_size = 20;
     bool assign_usual(const char* text) requires(Type == calendar_type::datetime) {
         return assign_usual_datetime(text);
+    }
+
+    /// The present time in UTC, to the second: what a change history wants, "2026-05-01T12:00:00Z".
+    static T now() requires(Type == calendar_type::datetime) {
+        T value;
+        value.assign_present_time();
+        return value;
     }
 
     static bool is_valid(const std::string& text) {

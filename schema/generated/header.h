@@ -554,6 +554,9 @@ public:
     /// `ELMX_USER_DEFINED_1`. Appends to lists, like `loadString`.
     lmx::elmx_error loadFile(const std::u16string& path);
 
+    /// The same with the path in UTF-8; of a plain document, in whatever bytes the system's names are made of.
+    lmx::elmx_error loadFile(const std::string& path);
+
     /// Writes the document as text, after stamping `WriteSDKInformation`.
     XMLDocumentResult writeString() const;
 
@@ -563,6 +566,9 @@ public:
     /// already is lost. An archive that can't be created is a `CZipException`; any later failure gives
     /// `ELMX_USER_DEFINED_1` and leaves the ".vyr" file.
     lmx::elmx_error writeFile(const std::u16string& path) const;
+
+    /// The same with the path in UTF-8; what is none gives `ELMX_NO_FILE`.
+    lmx::elmx_error writeFile(const std::string& path) const;
 
     static const lmx::s_class k_class;
 

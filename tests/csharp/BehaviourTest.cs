@@ -207,7 +207,7 @@ static class BehaviourTest
         Check.That(failure.Report.IsReadToEnd && ColorSpaceCIELab.Load("lab.xml").Name == "two\nlines", "it is written");
         File.WriteAllText("lab.xml", File.ReadAllText("lab.xml").Replace("<Vyr:L>50<", "<Vyr:L>none<").Replace("<Vyr:A>1<", "<Vyr:A>some<"));
         failure = Check.Throws<VyrException>("wrong values", () => ColorSpaceCIELab.Load("lab.xml"));
-        Check.Equal("lab.xml:6: L: Invalid value format for this type (none): a number is expected", failure.Report.Faults[0].ToString(), "a fault");
+        Check.Equal("lab.xml:6:2: L: Invalid value format for this type (none): a number is expected", failure.Report.Faults[0].ToString(), "a fault");
         Check.That(failure.Report.Faults.Count == 2, "all faults are reported");
         report = ColorSpaceCIELab.TryLoad("lab.xml", out color, new LoadOptions { KeepPartial = true, FirstFaultOnly = true });
         Check.That(report.Faults.Count == 1 && color.Name == "two\nlines", "what was read");

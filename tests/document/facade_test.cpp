@@ -165,6 +165,22 @@ TEST_F(Facade, AnArchiveIsOpenedBeforeFailuresBecomeACode) {
     }
 }
 
+TEST_F(Facade, NarrowPathsLeadToTheSameFiles) {
+    for (const char* const name : {"Gr\u00FCn.vyr", "Gr\u00FCn.vyrz"}) {
+        const std::string narrow = (m_folder / name).string();
+        EXPECT_EQ(minimal_document().writeFile(narrow), ELMX_OK);
+        Vyr wide_one;
+        Vyr narrow_one;
+        EXPECT_EQ(wide_one.loadFile(path(name)), ELMX_OK);
+        EXPECT_EQ(narrow_one.loadFile(narrow), ELMX_OK);
+        EXPECT_EQ(narrow_one.writeString().getXmlDocument(), wide_one.writeString().getXmlDocument());
+        EXPECT_TRUE(com_vyrgraph_v2::writeFileWithReport(narrow_one, narrow).isOk());
+    }
+    EXPECT_EQ(minimal_document().writeFile("facade/\xFF.vyr"), ELMX_NO_FILE);
+    EXPECT_EQ(com_vyrgraph_v2::writeFileWithReport(minimal_document(), "\xFF.vyr").toString(),
+              "\\xff.vyr: Unable to open file: the name must be UTF-8\n");
+}
+
 TEST_F(Facade, FilesThatCantBeOpened) {
     const std::u16string not_text = path("") + u"\xD800.vyr";
     Vyr document = minimal_document();

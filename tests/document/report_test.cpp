@@ -13,6 +13,7 @@
 #include <sstream>
 
 #include "schema/Vyr.h"
+#include "tests/document/report_support.h"
 
 namespace vyr_test {
 namespace {
@@ -21,44 +22,15 @@ using namespace lmx;
 using namespace com_vyrgraph_v2;
 namespace fs = std::filesystem;
 
-/// Lines 1 to 5 are the preamble, "Inks" begins in line 6, "Ink 1" in line 10, its L stands in line 14.
-const std::string k_document = R"(<?xml version="1.0" encoding="UTF-8"?>
-<Vyr:Vyr xmlns:Vyr="http://vyrgraph.com/v2" xmlns:xsi="http://www.w3.org/2001/XMLSchema-instance">
-	<Vyr:Preamble><Vyr:Header><Vyr:Creator>me</Vyr:Creator><Vyr:CreatorVersion>1</Vyr:CreatorVersion>
-		<Vyr:ChangeHistory>2024-05-01T09:30:00Z</Vyr:ChangeHistory><Vyr:Purpose>test</Vyr:Purpose></Vyr:Header>
-	</Vyr:Preamble>
-	<Vyr:Palette PaletteName="Inks">
-		<Vyr:ChangeHistory>2024-05-01T09:30:00Z</Vyr:ChangeHistory>
-		<Vyr:ColorSet ColorSetName="All">
-			<Vyr:ChangeHistory>2024-05-01T09:30:00Z</Vyr:ChangeHistory>
-			<Vyr:Color ColorName="Ink 1">
-				<Vyr:ChangeHistory>2024-05-01T09:30:00Z</Vyr:ChangeHistory>
-				<Vyr:ColorSpaceCIELab><Vyr:ChangeHistory>2024-05-01T09:30:00Z</Vyr:ChangeHistory>
-					<Vyr:ColorSpaceSpecificationSpectrumTristimulus xsi:nil="true"/>
-					<Vyr:L>50</Vyr:L>
-					<Vyr:A>1</Vyr:A>
-					<Vyr:B>2</Vyr:B>
-				</Vyr:ColorSpaceCIELab>
-			</Vyr:Color>
-		</Vyr:ColorSet>
-	</Vyr:Palette>
-</Vyr:Vyr>
-)";
-const std::string k_ink = "Palette \"Inks\" / ColorSet \"All\" / Color \"Ink 1\"";
-const std::string k_lab = k_ink + " / ColorSpaceCIELab";
-
-std::string replaced(std::string text, const std::string& from, const std::string& to) {
-    const std::size_t position = text.find(from);
-    EXPECT_NE(position, text.npos) << from;
-    return position == text.npos ? text : text.replace(position, from.size(), to);
-}
-
-DocumentReport report_of(const std::string& bytes, const ReportOptions& options = {.collect = true}) {
-    Vyr document;
-    const DocumentReport report = loadMemoryWithReport(document, bytes.data(), bytes.size(), options);
-    Vyr plain;
-    EXPECT_EQ(report.getCode(), plain.unmarshal(bytes));
-    return report;
+/// The report as it would be if no column were known.
+std::string without_columns(const DocumentReport& report) {
+    std::string text;
+    for (DocumentFault fault : report.getFaults()) {
+        EXPECT_EQ(fault.column > 0, fault.line > 0);
+        fault.column = 0;
+        text += formatFault(fault) + '\n';
+    }
+    return text;
 }
 
 TEST(Report, SaysOfEachBadDocumentWhereAndWhy) {
@@ -153,10 +125,16 @@ TEST(Report, OfOneChangeToAGoodDocument) {
          "line 16: " + k_lab + ": Mandatory element missing: the element B is missing; <Vyr:A> stands here again"},
         {"<Vyr:L>", "<L>",
          "line 14: " + k_lab +
-             ": Mandatory element missing: the element L is missing; <L> stands here, which is not in the namespace "
-             "http://vyrgraph.com/v2"},
+             ": Mandatory element missing: the element L is missing; <L> stands here, which is in no namespace; the "
+             "namespace http://vyrgraph.com/v2 is expected"},
+        {"<Vyr:L>50</Vyr:L>", "<q:L>50</q:L>",
+         "line 14: " + k_lab +
+             ": Mandatory element missing: the element L is missing; <q:L> stands here, whose prefix q is not "
+             "declared; the namespace http://vyrgraph.com/v2 is expected"},
         {"<Vyr:Preamble>", "<Vyr:Preamble><Vyr:Owner/>",
-         "line 3: Preamble: Mandatory element missing: the element Header is missing; <Vyr:Owner> stands here"},
+         "line 3: Preamble: Mandatory element missing: the element Header is missing; <Vyr:Owner> stands here\n"
+         "line 3: Preamble: Bad end of element (Vyr:Header): Header must stand before Owner; Version or the end of "
+         "Preamble is expected"},
         {"</Vyr:B>", "</Vyr:B><Vyr:B>3</Vyr:B>",
          "line 16: " + k_lab +
              ": Bad end of element (Vyr:B): B may stand here only once; the end of ColorSpaceCIELab is expected"},
@@ -168,15 +146,24 @@ TEST(Report, OfOneChangeToAGoodDocument) {
          "line 8: Palette \"Inks\": Bad end of element (stray): no text may stand between elements"},
         {"</Vyr:Color>", "</Vyr:ColorSet>",
          "line 18: " + k_ink +
-             ": Bad end of element (</Vyr:ColorSet>): the end tag of Color, which begins in line 10, is expected"},
+             ": Bad end of element (</Vyr:ColorSet>): the end tag of Color, which begins in line 10, is expected\n"
+             "line 19: Palette \"Inks\": Bad end of element (</Vyr:ColorSet>): the end tag of Palette, which begins "
+             "in "
+             "line 6, is expected\n"
+             "line 20: Vyr: Bad end of element (</Vyr:Palette>): the end tag of Vyr, which begins in line 2, is "
+             "expected"},
+        {"</Vyr:L>", "</Vyr:M>",
+         "line 14: " + k_lab +
+             " / L: Bad end of element (50): only a value may stand in it, with each < written &lt;, and then its "
+             "end tag </Vyr:L>; </Vyr:M> stands here"},
         {"</Vyr:Vyr>", "",
          "line 22: Vyr: Unexpected end of message: the document ends before Vyr does, which begins in line 2"},
         {"UTF-8", "UTF-16",
          "line 1: Mis-match between specified char encoding and read bytes: the XML declaration names another "
          "encoding than the one that the bytes have"},
         {"/v2", "/v1",
-         "line 2: Element not found (Vyr:Vyr): the document must begin with the element Vyr in the namespace "
-         "http://vyrgraph.com/v2"},
+         "line 2: Element not found: the document must begin with the element Vyr in the namespace "
+         "http://vyrgraph.com/v2; <Vyr:Vyr> stands here, which is in the namespace http://vyrgraph.com/v1"},
         {k_document, "", "line 1: Unexpected end of message: the document holds no element"},
         {k_document, "text",
          "line 1: Unexpected end of message: the text does not begin like XML, or its encoding is none of UTF-8, "
@@ -185,14 +172,15 @@ TEST(Report, OfOneChangeToAGoodDocument) {
     ASSERT_EQ(report_of(k_document).toString(), "");
     for (const auto& [from, to, expected] : rows) {
         const DocumentReport report = report_of(replaced(k_document, from, to));
-        EXPECT_EQ(report.toString(), expected + '\n');
-        EXPECT_EQ(report.isOk(), report.isReadToEnd() && report.getFaultCount() == 0);
+        EXPECT_EQ(without_columns(report), expected + '\n');
+        EXPECT_EQ(report.isOk(), report.getFaultCount() == 0);
     }
     const std::string cmyk = "<Vyr:ColorSpaceCMYK xsi:type=\"Vyr:Foo\"/>";
-    EXPECT_EQ(report_of(replaced(k_document, "<Vyr:ColorSpaceCIELab>", cmyk + "<Vyr:ColorSpaceCIELab>")).toString(),
-              "line 12: " + k_ink +
-                  " / ColorSpaceCMYK: Unknown xsi:type (Vyr:Foo): one of ColorSpaceCMYKType or "
-                  "ColorSpaceCMYKPlusNType, with the prefix of the document's namespace, is expected\n");
+    EXPECT_EQ(
+        without_columns(report_of(replaced(k_document, "<Vyr:ColorSpaceCIELab>", cmyk + "<Vyr:ColorSpaceCIELab>"))),
+        "line 12: " + k_ink +
+            " / ColorSpaceCMYK: Unknown xsi:type (Vyr:Foo): one of ColorSpaceCMYKType or "
+            "ColorSpaceCMYKPlusNType, with the prefix of the document's namespace, is expected\n");
 }
 
 TEST(Report, PutsWhatTheScannerFindsIntoSentences) {
@@ -229,7 +217,7 @@ TEST(Report, PutsWhatTheScannerFindsIntoSentences) {
          "line 2: Unexpected end of message: Recursive entity definition for: &b;"},
     };
     for (const auto& [from, to, expected] : rows) {
-        EXPECT_EQ(report_of(replaced(k_document, from, to)).toString(), expected + '\n');
+        EXPECT_EQ(without_columns(report_of(replaced(k_document, from, to))), expected + '\n');
     }
 }
 
@@ -240,7 +228,7 @@ TEST(Report, GathersFaultsOfValuesAndAttributesUpToALimit) {
     text = replaced(text, "\"Inks\"", "\"Inks\" a='1' PaletteVersion='1' PaletteVersion='2'");
     const DocumentReport all = report_of(text, {.collect = true, .name = "a.xml"});
     EXPECT_EQ(
-        all.toString(),
+        without_columns(all),
         "a.xml:4: Preamble / Header / ChangeHistory[1]: No pattern matched (2024-05-01T09:30:00): a time zone is "
         "missing: Z, or one such as +01:00\n"
         "a.xml:6: Palette \"Inks\" / @a: Unexpected attribute (1): Palette takes PaletteName, PalettePartNumber, "
@@ -267,9 +255,9 @@ TEST(Report, GathersFaultsOfValuesAndAttributesUpToALimit) {
     EXPECT_EQ(first.getFaultCount(), 1U);
     EXPECT_FALSE(first.hasMore() || first.isReadToEnd());
     // What ends the load comes last.
-    const DocumentReport ended = report_of(replaced(text, "</Vyr:Color>", ""));
+    const DocumentReport ended = report_of(replaced(text, "<Vyr:B>", "< Vyr:B>"));
     EXPECT_EQ(ended.getFaultCount(), 6U);
-    EXPECT_EQ(ended.getFault(5).code, ELMX_BAD_END_OF_ELEMENT);
+    EXPECT_EQ(ended.getFault(5).code, ELMX_NOT_WELL_FORMED);
     EXPECT_FALSE(ended.isReadToEnd());
 }
 
@@ -289,8 +277,8 @@ TEST(Report, StaysSmallWhateverTheDocumentHolds) {
                                     replaced(k_document, "Vyr:L>", name), replaced(k_document, "<Vyr:L", "<" + name),
                                     replaced(k_document, "<Vyr:L", "<L" + std::string(1000000, 'x'))}) {
         const DocumentReport report = report_of(text);
-        ASSERT_EQ(report.getFaultCount(), 1U);
-        EXPECT_LT(report.toString().size(), 10000U);
+        EXPECT_LT(report.getFaultCount(), 5U);
+        EXPECT_LT(report.toString().size(), 20000U);
     }
 }
 
@@ -358,6 +346,7 @@ TEST(Report, SaysWhatASaveLacks) {
         std::u16string text;
         const DocumentReport report = writeStringWithReport(document, &text);
         EXPECT_EQ(report.toString(), expected);
+        EXPECT_EQ(checkWriting(document).toString(), expected);
         EXPECT_EQ(report.getCode(), document.writeString().getElmxError());
         EXPECT_EQ(text, document.writeString().getXmlDocument());
     }
@@ -556,8 +545,9 @@ TEST(Report, NamesFilesAndContainers) {
     EXPECT_EQ(load(u"folder.vyr"), "folder.vyr:1: Unexpected end of message: it is a directory\n");
     EXPECT_EQ(load(u"text.vyrz"), "text.vyrz: Container can't be read or written: not a ZIP archive\n");
     EXPECT_EQ(load(u"damaged.vyrz").find("damaged.vyrz: Container can't be read or written: "), 0U);
-    EXPECT_EQ(load(std::string("bad.vyr")),
-              "bad.vyr:14: " + k_lab + " / L: Value greater than specified maximum (500): it must be at most 150\n");
+    EXPECT_EQ(
+        load(std::string("bad.vyr")),
+        "bad.vyr:14:6: " + k_lab + " / L: Value greater than specified maximum (500): it must be at most 150\n");
     const auto write = [&](const std::u16string& path) { return writeFileWithReport(document, path).toString(); };
     EXPECT_EQ(write(u"a.xml"), "a.xml: Unknown ending of a file name: the name must end in .vyr or .vyrz\n");
     EXPECT_EQ(write(u"missing/a.vyr"),

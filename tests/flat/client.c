@@ -215,9 +215,10 @@ static void reports(const char* palette) {
         u"<v:Vyr xmlns:v='http://vyrgraph.com/v2'>\n<v:Preamble x\u00E9='1'>\n<v:Header y='2'/></v:Preamble></v:Vyr>";
     void* document = CSharp_new_Vyr__SWIG_0();
     void* report = VyrModule_LoadString(document, text, 0x101, 1);
-    CHECK(VyrModule_ReportCode(report) == 39 && VyrModule_ReportIsReadToEnd(report) == 0);
+    CHECK(VyrModule_ReportCode(report) == 39 && VyrModule_ReportIsReadToEnd(report) == 1);
     CHECK(VyrModule_ReportFaultCount(report) == 1 && VyrModule_ReportTotalCount(report) == 3);
     CHECK(VyrModule_FaultCode(report, 0) == 39 && VyrModule_FaultLine(report, 0) == 2);
+    CHECK(VyrModule_FaultColumn(report, 0) == 13);
     CHECK_TEXT(VyrModule_FaultText(report, 0), u"Unexpected attribute");
     CHECK_TEXT(VyrModule_FaultDetail(report, 0), u"Preamble takes no attributes");
     CHECK_TEXT(VyrModule_FaultFile(report, 0), u"");
@@ -225,6 +226,7 @@ static void reports(const char* palette) {
     CHECK_TEXT(VyrModule_FaultPath(report, 0), u"Preamble / @x\u00E9");
     CHECK_TEXT(VyrModule_FaultValue(report, 0), u"1");
     CHECK(VyrModule_FaultCode(report, UINT32_MAX) == 0 && VyrModule_FaultLine(report, 1) == 0);
+    CHECK(VyrModule_FaultColumn(report, 1) == 0);
     CHECK_TEXT(VyrModule_FaultPath(report, UINT32_MAX), u"");
     VyrModule_DeleteReport(report);
     VyrModule_DeleteReport(NULL);

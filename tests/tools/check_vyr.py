@@ -92,17 +92,17 @@ def make_documents():
 
 
 def check_check(line):
-    place = f'broken.vyr:{line}: Palette "CSS" / ColorSet "Named" / Color "aliceblue" / ColorSpaceSRGB / Red: '
+    place = f'broken.vyr:{line}:6: Palette "CSS" / ColorSet "Named" / Color "aliceblue" / ColorSpaceSRGB / Red: '
     faults = re.escape(place) + "Value greater than specified maximum.*1\\.5.*\n(broken[^\n]*x[^\n]*\n){3}"
     expect(0, "", "", "check", "good.vyr")
     expect(1, faults, "", "check", "good.vyr", "broken.vyr", "-j", "4", "good.vyr")
     expect(1, "[^\n]*1\\.5[^\n]*\nbroken.vyr: 3 more; [^\n]*\n", "", "check", "--limit=1", "broken.vyr")
     expect(1, "", "", "check", "-q", "broken.vyr")
-    expect(1, "empty.vyr:1: [^\n]*\njunk.vyrz: [^\n]*not a ZIP archive\n", "", "check", "empty.vyr", "junk.vyrz")
+    expect(1, "empty.vyr:1:1: [^\n]*\njunk.vyrz: [^\n]*not a ZIP archive\n", "", "check", "empty.vyr", "junk.vyrz")
     expect(2, "broken.*", "vyr: absent: No such file or directory\nvyr: none: has no file that ends in .*",
            "check", "broken.vyr", "absent", "none", "good.vyr")
     expect(0, "", "", "check", "-", stdin=palette.read_bytes())
-    expect(1, "standard input:1: .*", "", "check", "-")
+    expect(1, "standard input:1:1: .*", "", "check", "-")
 
     os.makedirs("tree/deep/b.vyr")
     os.symlink("..", "tree/deep/circle")

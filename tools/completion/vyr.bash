@@ -5,10 +5,10 @@
 _vyr() {
     local -A options=(
         [vyr]="--version --help -h"
-        [check]="--jobs -j --limit --json --quiet -q --help -h"
+        [check]="--jobs -j --limit --ignore --strict --json --quiet -q --help -h"
         [info]="--depth --json --help -h"
         [list]="--palette --set --name --color --json --csv --help -h"
-        [convert]="--to --help -h"
+        [convert]="--to --ignore --help -h"
         [json]="--help -h"
         [diff]="--color --json --quiet -q --help -h"
         [codes]="--json --help -h"
@@ -37,6 +37,10 @@ _vyr() {
             ;;
         --color) words="auto always never" ;;
         --to) words="vyr vyrz json" ;;
+        --ignore)
+            words="all not-well-formed schema unsavable duplicate-id wavelengths limits date"
+            [[ $command == convert ]] && words="all comments instructions doctype hints digits"
+            ;;
         --jobs | -j | --limit | --depth | --palette | --set | --name) return ;;
         *)
             if [[ $word == -* ]]; then

@@ -18,6 +18,7 @@ class c_duration;
 
 #include <gtest/gtest.h>
 
+#include <ctime>
 #include <limits>
 #include <sstream>
 #include <type_traits>
@@ -230,6 +231,20 @@ TEST(Calendar, OddSecondsKeepTheTextFormsAlike) {
         EXPECT_EQ(value.get_as_string(), appended);
         EXPECT_EQ(value == value, secs == secs);
     }
+}
+
+TEST(Calendar, TellsThePresentTime) {
+    const auto seconds_ahead = [](std::time_t time) {
+        char text[32];
+        std::strftime(text, sizeof text, "%Y-%m-%dT%H:%M:%SZ", std::gmtime(&time));
+        return c_datetime(text);
+    };
+    const c_datetime before = seconds_ahead(std::time(nullptr));
+    const c_datetime now = c_datetime::now();
+    EXPECT_TRUE(before <= now && now <= seconds_ahead(std::time(nullptr)));
+    bool has_zone = false;
+    EXPECT_TRUE(c_datetime::is_valid(now.get_as_string(), &has_zone) && has_zone);
+    EXPECT_EQ(now.get_as_string().size(), 20U);
 }
 
 TEST(Calendar, OnlyAStreamHasALocale) {
