@@ -234,9 +234,9 @@ TEST(Calendar, OddSecondsKeepTheTextFormsAlike) {
 }
 
 TEST(Calendar, TellsThePresentTime) {
-    const auto seconds_ahead = [](std::time_t time) {
+    const auto seconds_ahead = [](std::time_t instant) {
         char text[32];
-        std::strftime(text, sizeof text, "%Y-%m-%dT%H:%M:%SZ", std::gmtime(&time));
+        std::strftime(text, sizeof text, "%Y-%m-%dT%H:%M:%SZ", std::gmtime(&instant));
         return c_datetime(text);
     };
     const c_datetime before = seconds_ahead(std::time(nullptr));
