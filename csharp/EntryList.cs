@@ -58,7 +58,7 @@ namespace Vyr
         /// <summary>An index before which an entry can be put.</summary>
         internal uint Place(int index) => index >= 0 && index <= Count ? (uint)index : throw OutOfRange(index);
 
-        Exception OutOfRange(int index)
+        internal Exception OutOfRange(int index)
         {
             return new ArgumentOutOfRangeException(nameof(index), index, "The list has " + Count + " entries.");
         }
@@ -69,24 +69,29 @@ namespace Vyr
     public sealed class ObjectList<T> : EntryList, IReadOnlyList<T> where T : VyrObject
     {
         readonly ObjectListCalls<T> calls;
-        readonly List<T> known = new List<T>(); // those that were asked for, by index; may be shorter than the list
+        T[] known; // those that were asked for, by index; may be shorter than the list, and longer with nulls
 
         internal ObjectList(VyrObject owner, string name, ObjectListCalls<T> calls) : base(owner, name)
         {
             this.calls = calls;
+            known = calls.None;
         }
 
         /// <summary>An entry. Setting one puts a copy of the value in its place.</summary>
         /// <exception cref="ArgumentOutOfRangeException">There is no such entry.</exception>
         public T this[int index]
         {
-            get => Entry((int)Existing(index));
+            get
+            {
+                int count = Count;
+                return index >= 0 && index < count ? Entry(index, count) : throw OutOfRange(index);
+            }
             set => Assign(Existing(index), value);
         }
 
-        T Entry(int index)
+        T Entry(int index, int count)
         {
-            while (known.Count <= index) known.Add(null);
+            if (index >= known.Length) Array.Resize(ref known, Math.Max(count, 2 * known.Length));
             return known[index] ?? (known[index] = Make(Owner.Kept(calls.Get(Owner.Pointer, (uint)index))));
         }
 
@@ -106,7 +111,12 @@ namespace Vyr
         public T Insert(int index)
         {
             Demand(calls.Insert(Owner.Pointer, Place(index)));
-            if (index < known.Count) known.Insert(index, null);
+            if (index < known.Length)
+            {
+                if (known[known.Length - 1] != null) Array.Resize(ref known, 2 * known.Length);
+                Array.Copy(known, index, known, index + 1, known.Length - 1 - index);
+                known[index] = null;
+            }
             return this[index];
         }
 
@@ -126,7 +136,7 @@ namespace Vyr
         /// <summary>All entries, in order; those that are added or removed meanwhile count.</summary>
         public IEnumerator<T> GetEnumerator()
         {
-            for (int i = 0; i < Count; ++i) yield return Entry(i);
+            for (int i = 0, count; i < (count = Count); ++i) yield return Entry(i, count);
         }
 
         IEnumerator IEnumerable.GetEnumerator() => GetEnumerator();
@@ -138,11 +148,11 @@ namespace Vyr
         {
             if (value == null) throw new ArgumentNullException(nameof(value));
             int place = (int)index;
-            if (place < known.Count && ReferenceEquals(value, known[place])) return value;
+            if (place < known.Length && ReferenceEquals(value, known[place])) return value;
             if (calls.Assign(Owner.Pointer, index, value.Pointer) == IntPtr.Zero) throw new OutOfMemoryException();
             Owner.Keep();
             value.Keep();
-            if (place < known.Count)
+            if (place < known.Length)
             {
                 known[place]?.Remove();
                 known[place] = null;
@@ -156,16 +166,20 @@ namespace Vyr
 
         internal override void RemoveEntry(int index)
         {
-            if (index >= known.Count) return;
+            if (index >= known.Length) return;
             known[index]?.Remove();
-            known.RemoveAt(index);
+            int last = known.Length - 1;
+            Array.Copy(known, index + 1, known, index, last - index);
+            known[last] = null;
         }
 
         internal override void RemoveEntriesFrom(int count)
         {
-            if (count >= known.Count) return;
-            for (int i = count; i < known.Count; ++i) known[i]?.Remove();
-            known.RemoveRange(count, known.Count - count);
+            for (int i = count; i < known.Length; ++i)
+            {
+                known[i]?.Remove();
+                known[i] = null;
+            }
         }
     }
 
@@ -326,6 +340,7 @@ namespace Vyr
 
     internal sealed class ObjectListCalls<T>
     {
+        internal readonly T[] None = { };
         internal Func<Handle, T> Make;
         internal Func<IntPtr, uint> Size;
         internal Func<IntPtr, uint, IntPtr> Get; // beyond the end it would make the list longer

@@ -32,9 +32,9 @@ namespace Vyr
             bool isTime;
             lock (Gate)
             {
+                isTime = held > next; // by what others hold: this is in use
                 weight += bytes;
                 held += bytes;
-                isTime = held > next;
                 if (isTime) next = Next();
             }
             if (isTime) GC.Collect();

@@ -60,7 +60,7 @@ namespace Vyr
 
         [DllImport(Name)] internal static extern IntPtr VyrModule_GetPart(IntPtr self, IntPtr item);
         [DllImport(Name)] internal static extern uint VyrModule_GetDoubles(
-            IntPtr self, IntPtr list, IntPtr item, [Out] double[] values, uint capacity);
+            IntPtr self, IntPtr list, IntPtr item, ref double values, uint capacity);
         [DllImport(Name)] internal static extern int VyrModule_SetDoubles(
             IntPtr self, IntPtr list, IntPtr item, double[] values, uint count);
         [return: MarshalAs(UnmanagedType.BStr)]

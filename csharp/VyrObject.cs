@@ -19,7 +19,10 @@ namespace Vyr
 
         readonly Root root;
         IntPtr pointer;
-        object[] parts; // what was asked for, by number: objects, lists
+        // What was asked for: objects, lists. Most objects are asked for one part only, which needs no array.
+        object parts; // the part with the number `only`, or if that is Several an array of them by number
+        int only;
+        const int Several = -1;
 
         internal VyrObject(Handle handle)
         {
@@ -117,15 +120,28 @@ namespace Vyr
 
         // Parts
 
-        internal T Part<T>(int number) where T : class
+        internal object Part(int number)
         {
-            return parts != null && number < parts.Length ? (T)parts[number] : null;
+            if (only == number) return parts;
+            if (only != Several) return null;
+            var all = (object[])parts;
+            return number < all.Length ? all[number] : null;
         }
 
-        internal T Remember<T>(int number, T part) where T : class
+        internal object Remember(int number, object part)
         {
-            if (parts == null || number >= parts.Length) Array.Resize(ref parts, number + 1);
-            parts[number] = part;
+            if (only == number || parts == null)
+            {
+                only = number;
+                parts = part;
+                return part;
+            }
+            object[] all = only == Several ? (object[])parts : new object[Math.Max(only, number) + 1];
+            if (only != Several) all[only] = parts;
+            if (number >= all.Length) Array.Resize(ref all, number + 1);
+            all[number] = part;
+            only = Several;
+            parts = all;
             return part;
         }
 
@@ -138,47 +154,52 @@ namespace Vyr
 
         internal void RemoveParts()
         {
-            if (parts == null) return;
-            for (int i = 0; i < parts.Length; ++i) RemovePart(i);
+            if (only != Several)
+            {
+                RemovePart(only);
+                return;
+            }
+            for (int i = ((object[])parts).Length; i-- > 0;) RemovePart(i);
         }
 
         internal void RemovePart(int number)
         {
-            object part = Part<object>(number);
+            object part = Part(number);
             if (part is EntryList entries)
             {
                 entries.RemoveEntriesFrom(0); // the list itself lives as long as this object
             }
             else if (part != null)
             {
-                parts[number] = null;
+                Remember(number, null);
                 ((VyrObject)part).Remove();
             }
         }
 
         // Single children: null until set
 
-        internal T Child<T>(int number, PartCalls<T> calls) where T : VyrObject
+        internal object Child(int number, PartCalls calls)
         {
-            T known = Part<T>(number);
+            object known = Part(number);
             if (known != null) return known;
             IntPtr found = Kept(Library.VyrModule_GetPart(Pointer, calls.Item));
             return found == IntPtr.Zero ? null : Remember(number, calls.Make(new Handle(found, root)));
         }
 
         /// <summary>The child that is there, or a new one.</summary>
-        internal T CreateChild<T>(int number, PartCalls<T> calls) where T : VyrObject
+        internal object CreateChild(int number, PartCalls calls)
         {
-            T child = Child(number, calls);
-            if (child != null) return child;
-            child = Remember(number, calls.Make(new Handle(Kept(calls.Get(Pointer)), root)));
+            object known = Child(number, calls);
+            if (known != null) return known;
+            VyrObject child = calls.Make(new Handle(Kept(calls.Get(Pointer)), root));
+            Remember(number, child);
             child.Reset(); // one that was unset still holds what it held
             calls.Get(Pointer); // of a class that is a holder itself the reset takes that back
             Keep();
             return child;
         }
 
-        internal void AssignChild<T>(int number, PartCalls<T> calls, T value) where T : VyrObject
+        internal void AssignChild(int number, PartCalls calls, VyrObject value)
         {
             if (value == null)
             {
@@ -186,7 +207,7 @@ namespace Vyr
                 calls.Unset(Pointer);
                 RemovePart(number);
             }
-            else if (!ReferenceEquals(value, Part<T>(number)))
+            else if (!ReferenceEquals(value, Part(number)))
             {
                 if (calls.Assign(Pointer, value.Pointer) == IntPtr.Zero) throw new OutOfMemoryException();
                 value.Keep();
@@ -197,13 +218,13 @@ namespace Vyr
 
         // Choices: one alternative at a time
 
-        internal T Held<T>(int number, PartCalls<T> calls) where T : VyrObject
+        internal object Held(int number, PartCalls calls)
         {
-            return Part<T>(number) ?? Remember(number, calls.Make(new Handle(Kept(calls.Get(Pointer)), root)));
+            return Part(number) ?? Remember(number, calls.Make(new Handle(Kept(calls.Get(Pointer)), root)));
         }
 
         /// <summary>Makes a new alternative in place of another one, which the library deletes.</summary>
-        internal T Choose<T>(int number, PartCalls<T> calls) where T : VyrObject
+        internal object Choose(int number, PartCalls calls)
         {
             IntPtr self = Pointer;
             RemovePart(number);
@@ -211,13 +232,13 @@ namespace Vyr
         }
 
         /// <summary>Makes a copy of a value the alternative.</summary>
-        internal T Choose<T>(int number, PartCalls<T> calls, T value) where T : VyrObject
+        internal object Choose(int number, PartCalls calls, VyrObject value)
         {
             if (value == null) throw new ArgumentNullException(nameof(value));
             IntPtr self = Pointer, source = value.Pointer;
-            if (ReferenceEquals(value, Part<VyrObject>(number))) return value;
+            if (ReferenceEquals(value, Part(number))) return value;
             RemovePart(number);
-            T chosen = Remember(number, calls.Make(new Handle(Kept(calls.Assign(self, source)), root)));
+            object chosen = Remember(number, calls.Make(new Handle(Kept(calls.Assign(self, source)), root)));
             value.Keep();
             return chosen;
         }
@@ -231,38 +252,40 @@ namespace Vyr
 
         // Lists: there from the start, maybe empty
 
-        internal ObjectList<T> ListOfObjects<T>(int number, ObjectListCalls<T> calls, [CallerMemberName] string name = null)
-            where T : VyrObject
-        {
-            return Part<ObjectList<T>>(number) ?? Remember(number, new ObjectList<T>(this, name, calls));
-        }
-
         internal TextList ListOfTexts(int number, ValueListCalls<string> calls, [CallerMemberName] string name = null)
         {
-            return Part<TextList>(number) ?? Remember(number, new TextList(this, name, calls));
+            return (TextList)(Part(number) ?? Remember(number, new TextList(this, name, calls)));
         }
 
         internal DateTimeList ListOfTimes(
             int number, ValueListCalls<IntPtr> calls, string pattern, [CallerMemberName] string name = null)
         {
-            return Part<DateTimeList>(number) ?? Remember(number, new DateTimeList(this, name, calls, pattern));
+            return (DateTimeList)(Part(number) ?? Remember(number, new DateTimeList(this, name, calls, pattern)));
         }
 
         internal MarkupList ListOfMarkup(int number, MarkupListCalls calls, [CallerMemberName] string name = null)
         {
-            return Part<MarkupList>(number) ?? Remember(number, new MarkupList(this, name, calls));
+            return (MarkupList)(Part(number) ?? Remember(number, new MarkupList(this, name, calls)));
         }
 
         // Columns of a list of numbers
 
+        // As long as the last one: the spectra of a document are mostly alike, and then one call does.
+        static int expected;
+        const int LongestExpected = 1024;
+
         internal double[] Column(IntPtr list, IntPtr item)
         {
-            double[] values = new double[0];
+            double[] values = new double[expected];
             for (;;)
             {
-                uint size = Kept(Library.VyrModule_GetDoubles(Pointer, list, item, values, (uint)values.Length));
+                double none = 0;
+                uint size = Kept(values.Length == 0
+                    ? Library.VyrModule_GetDoubles(Pointer, list, item, ref none, 0)
+                    : Library.VyrModule_GetDoubles(Pointer, list, item, ref values[0], (uint)values.Length));
                 if (size == values.Length) return values;
                 values = new double[size];
+                expected = Math.Min(values.Length, LongestExpected);
             }
         }
 
@@ -274,10 +297,10 @@ namespace Vyr
         }
     }
     /// <summary>The functions of one single child, or of one alternative of a choice.</summary>
-    internal sealed class PartCalls<T>
+    internal sealed class PartCalls
     {
         internal IntPtr Item;
-        internal Func<Handle, T> Make;
+        internal Func<Handle, VyrObject> Make;
         internal Func<IntPtr, IntPtr> Get; // makes it there
         internal Func<IntPtr, IntPtr, IntPtr> Assign;
         internal Action<IntPtr> Unset; // null where the format demands it

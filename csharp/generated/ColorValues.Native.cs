@@ -28,8 +28,10 @@ namespace Vyr
 
         static class Parts
         {
-            internal static readonly IntPtr ColorSpaceItem = Library.Item("ParentColorSpace", "ColorSpace");
-            internal static readonly PartCalls<ColorSpaceChoice> ColorSpace = new PartCalls<ColorSpaceChoice> { Item = ColorSpaceItem, Make = h => new ColorSpaceChoice(h), Get = Native.get_ColorSpace, Assign = Native.assign_ColorSpace, Unset = Native.unset_ColorSpace };
+            static IntPtr madeColorSpaceItem;
+            internal static IntPtr ColorSpaceItem => madeColorSpaceItem != IntPtr.Zero ? madeColorSpaceItem : madeColorSpaceItem = Library.Item("ParentColorSpace", "ColorSpace");
+            static PartCalls madeColorSpace;
+            internal static PartCalls ColorSpace => madeColorSpace != null ? madeColorSpace : madeColorSpace = new PartCalls { Item = ColorSpaceItem, Make = h => new ColorSpaceChoice(h), Get = Native.get_ColorSpace, Assign = Native.assign_ColorSpace, Unset = Native.unset_ColorSpace };
         }
     }
 
@@ -72,10 +74,14 @@ namespace Vyr
 
         static class Parts
         {
-            internal static readonly ObjectListCalls<CustomAttributeType> CustomAttribute = new ObjectListCalls<CustomAttributeType> { Make = h => new CustomAttributeType(h), Size = Native.size_CustomAttribute, Get = Native.get_CustomAttribute, Assign = Native.assign_CustomAttribute, Append = Native.append_CustomAttribute, Insert = Native.insert_CustomAttribute, Delete = Native.delete_CustomAttribute, Clear = Native.clear_CustomAttribute };
-            internal static readonly IntPtr ParentColorSpaceItem = Library.Item("ColorSpaceType", "ParentColorSpace");
-            internal static readonly PartCalls<ParentColorSpace> ParentColorSpace = new PartCalls<ParentColorSpace> { Item = ParentColorSpaceItem, Make = h => new ParentColorSpace(h), Get = Native.get_ParentColorSpace, Assign = Native.assign_ParentColorSpace, Unset = Native.unset_ParentColorSpace };
-            internal static readonly ValueListCalls<IntPtr> ChangeHistory = new ValueListCalls<IntPtr> { Size = Native.size_ChangeHistory, Get = Native.get_ChangeHistory, Set = Native.set_ChangeHistory, Insert = Native.insert_ChangeHistory, Delete = Native.delete_ChangeHistory, Clear = Native.clear_ChangeHistory };
+            static ObjectListCalls<CustomAttributeType> madeCustomAttribute;
+            internal static ObjectListCalls<CustomAttributeType> CustomAttribute => madeCustomAttribute != null ? madeCustomAttribute : madeCustomAttribute = new ObjectListCalls<CustomAttributeType> { Make = h => new CustomAttributeType(h), Size = Native.size_CustomAttribute, Get = Native.get_CustomAttribute, Assign = Native.assign_CustomAttribute, Append = Native.append_CustomAttribute, Insert = Native.insert_CustomAttribute, Delete = Native.delete_CustomAttribute, Clear = Native.clear_CustomAttribute };
+            static IntPtr madeParentColorSpaceItem;
+            internal static IntPtr ParentColorSpaceItem => madeParentColorSpaceItem != IntPtr.Zero ? madeParentColorSpaceItem : madeParentColorSpaceItem = Library.Item("ColorSpaceType", "ParentColorSpace");
+            static PartCalls madeParentColorSpace;
+            internal static PartCalls ParentColorSpace => madeParentColorSpace != null ? madeParentColorSpace : madeParentColorSpace = new PartCalls { Item = ParentColorSpaceItem, Make = h => new ParentColorSpace(h), Get = Native.get_ParentColorSpace, Assign = Native.assign_ParentColorSpace, Unset = Native.unset_ParentColorSpace };
+            static ValueListCalls<IntPtr> madeChangeHistory;
+            internal static ValueListCalls<IntPtr> ChangeHistory => madeChangeHistory != null ? madeChangeHistory : madeChangeHistory = new ValueListCalls<IntPtr> { Size = Native.size_ChangeHistory, Get = Native.get_ChangeHistory, Set = Native.set_ChangeHistory, Insert = Native.insert_ChangeHistory, Delete = Native.delete_ChangeHistory, Clear = Native.clear_ChangeHistory };
         }
     }
 
@@ -107,8 +113,10 @@ namespace Vyr
 
         static class Parts
         {
-            internal static readonly IntPtr ColorSpaceSpecificationSpectrumTristimulusItem = Library.Item("ColorSpaceCIELabType", "ColorSpaceSpecificationSpectrumTristimulus");
-            internal static readonly PartCalls<ColorSpaceSpecificationSpectrumTristimulus> ColorSpaceSpecificationSpectrumTristimulus = new PartCalls<ColorSpaceSpecificationSpectrumTristimulus> { Item = ColorSpaceSpecificationSpectrumTristimulusItem, Make = h => new ColorSpaceSpecificationSpectrumTristimulus(h), Get = Native.get_ColorSpaceSpecificationSpectrumTristimulus, Assign = Native.assign_ColorSpaceSpecificationSpectrumTristimulus };
+            static IntPtr madeColorSpaceSpecificationSpectrumTristimulusItem;
+            internal static IntPtr ColorSpaceSpecificationSpectrumTristimulusItem => madeColorSpaceSpecificationSpectrumTristimulusItem != IntPtr.Zero ? madeColorSpaceSpecificationSpectrumTristimulusItem : madeColorSpaceSpecificationSpectrumTristimulusItem = Library.Item("ColorSpaceCIELabType", "ColorSpaceSpecificationSpectrumTristimulus");
+            static PartCalls madeColorSpaceSpecificationSpectrumTristimulus;
+            internal static PartCalls ColorSpaceSpecificationSpectrumTristimulus => madeColorSpaceSpecificationSpectrumTristimulus != null ? madeColorSpaceSpecificationSpectrumTristimulus : madeColorSpaceSpecificationSpectrumTristimulus = new PartCalls { Item = ColorSpaceSpecificationSpectrumTristimulusItem, Make = h => new ColorSpaceSpecificationSpectrumTristimulus(h), Get = Native.get_ColorSpaceSpecificationSpectrumTristimulus, Assign = Native.assign_ColorSpaceSpecificationSpectrumTristimulus };
         }
     }
 
@@ -140,8 +148,10 @@ namespace Vyr
 
         static class Parts
         {
-            internal static readonly IntPtr ColorSpaceSpecificationSpectrumTristimulusItem = Library.Item("ColorSpaceCIELChType", "ColorSpaceSpecificationSpectrumTristimulus");
-            internal static readonly PartCalls<ColorSpaceSpecificationSpectrumTristimulus> ColorSpaceSpecificationSpectrumTristimulus = new PartCalls<ColorSpaceSpecificationSpectrumTristimulus> { Item = ColorSpaceSpecificationSpectrumTristimulusItem, Make = h => new ColorSpaceSpecificationSpectrumTristimulus(h), Get = Native.get_ColorSpaceSpecificationSpectrumTristimulus, Assign = Native.assign_ColorSpaceSpecificationSpectrumTristimulus };
+            static IntPtr madeColorSpaceSpecificationSpectrumTristimulusItem;
+            internal static IntPtr ColorSpaceSpecificationSpectrumTristimulusItem => madeColorSpaceSpecificationSpectrumTristimulusItem != IntPtr.Zero ? madeColorSpaceSpecificationSpectrumTristimulusItem : madeColorSpaceSpecificationSpectrumTristimulusItem = Library.Item("ColorSpaceCIELChType", "ColorSpaceSpecificationSpectrumTristimulus");
+            static PartCalls madeColorSpaceSpecificationSpectrumTristimulus;
+            internal static PartCalls ColorSpaceSpecificationSpectrumTristimulus => madeColorSpaceSpecificationSpectrumTristimulus != null ? madeColorSpaceSpecificationSpectrumTristimulus : madeColorSpaceSpecificationSpectrumTristimulus = new PartCalls { Item = ColorSpaceSpecificationSpectrumTristimulusItem, Make = h => new ColorSpaceSpecificationSpectrumTristimulus(h), Get = Native.get_ColorSpaceSpecificationSpectrumTristimulus, Assign = Native.assign_ColorSpaceSpecificationSpectrumTristimulus };
         }
     }
 
@@ -173,8 +183,10 @@ namespace Vyr
 
         static class Parts
         {
-            internal static readonly IntPtr ColorSpaceSpecificationSpectrumTristimulusItem = Library.Item("ColorSpaceCIELuvType", "ColorSpaceSpecificationSpectrumTristimulus");
-            internal static readonly PartCalls<ColorSpaceSpecificationSpectrumTristimulus> ColorSpaceSpecificationSpectrumTristimulus = new PartCalls<ColorSpaceSpecificationSpectrumTristimulus> { Item = ColorSpaceSpecificationSpectrumTristimulusItem, Make = h => new ColorSpaceSpecificationSpectrumTristimulus(h), Get = Native.get_ColorSpaceSpecificationSpectrumTristimulus, Assign = Native.assign_ColorSpaceSpecificationSpectrumTristimulus };
+            static IntPtr madeColorSpaceSpecificationSpectrumTristimulusItem;
+            internal static IntPtr ColorSpaceSpecificationSpectrumTristimulusItem => madeColorSpaceSpecificationSpectrumTristimulusItem != IntPtr.Zero ? madeColorSpaceSpecificationSpectrumTristimulusItem : madeColorSpaceSpecificationSpectrumTristimulusItem = Library.Item("ColorSpaceCIELuvType", "ColorSpaceSpecificationSpectrumTristimulus");
+            static PartCalls madeColorSpaceSpecificationSpectrumTristimulus;
+            internal static PartCalls ColorSpaceSpecificationSpectrumTristimulus => madeColorSpaceSpecificationSpectrumTristimulus != null ? madeColorSpaceSpecificationSpectrumTristimulus : madeColorSpaceSpecificationSpectrumTristimulus = new PartCalls { Item = ColorSpaceSpecificationSpectrumTristimulusItem, Make = h => new ColorSpaceSpecificationSpectrumTristimulus(h), Get = Native.get_ColorSpaceSpecificationSpectrumTristimulus, Assign = Native.assign_ColorSpaceSpecificationSpectrumTristimulus };
         }
     }
 
@@ -206,8 +218,10 @@ namespace Vyr
 
         static class Parts
         {
-            internal static readonly IntPtr ColorSpaceSpecificationSpectrumTristimulusItem = Library.Item("ColorSpaceCIEXYZType", "ColorSpaceSpecificationSpectrumTristimulus");
-            internal static readonly PartCalls<ColorSpaceSpecificationSpectrumTristimulus> ColorSpaceSpecificationSpectrumTristimulus = new PartCalls<ColorSpaceSpecificationSpectrumTristimulus> { Item = ColorSpaceSpecificationSpectrumTristimulusItem, Make = h => new ColorSpaceSpecificationSpectrumTristimulus(h), Get = Native.get_ColorSpaceSpecificationSpectrumTristimulus, Assign = Native.assign_ColorSpaceSpecificationSpectrumTristimulus };
+            static IntPtr madeColorSpaceSpecificationSpectrumTristimulusItem;
+            internal static IntPtr ColorSpaceSpecificationSpectrumTristimulusItem => madeColorSpaceSpecificationSpectrumTristimulusItem != IntPtr.Zero ? madeColorSpaceSpecificationSpectrumTristimulusItem : madeColorSpaceSpecificationSpectrumTristimulusItem = Library.Item("ColorSpaceCIEXYZType", "ColorSpaceSpecificationSpectrumTristimulus");
+            static PartCalls madeColorSpaceSpecificationSpectrumTristimulus;
+            internal static PartCalls ColorSpaceSpecificationSpectrumTristimulus => madeColorSpaceSpecificationSpectrumTristimulus != null ? madeColorSpaceSpecificationSpectrumTristimulus : madeColorSpaceSpecificationSpectrumTristimulus = new PartCalls { Item = ColorSpaceSpecificationSpectrumTristimulusItem, Make = h => new ColorSpaceSpecificationSpectrumTristimulus(h), Get = Native.get_ColorSpaceSpecificationSpectrumTristimulus, Assign = Native.assign_ColorSpaceSpecificationSpectrumTristimulus };
         }
     }
 
@@ -239,8 +253,10 @@ namespace Vyr
 
         static class Parts
         {
-            internal static readonly IntPtr ColorSpaceSpecificationSpectrumTristimulusItem = Library.Item("ColorSpaceCIExyYType", "ColorSpaceSpecificationSpectrumTristimulus");
-            internal static readonly PartCalls<ColorSpaceSpecificationSpectrumTristimulus> ColorSpaceSpecificationSpectrumTristimulus = new PartCalls<ColorSpaceSpecificationSpectrumTristimulus> { Item = ColorSpaceSpecificationSpectrumTristimulusItem, Make = h => new ColorSpaceSpecificationSpectrumTristimulus(h), Get = Native.get_ColorSpaceSpecificationSpectrumTristimulus, Assign = Native.assign_ColorSpaceSpecificationSpectrumTristimulus };
+            static IntPtr madeColorSpaceSpecificationSpectrumTristimulusItem;
+            internal static IntPtr ColorSpaceSpecificationSpectrumTristimulusItem => madeColorSpaceSpecificationSpectrumTristimulusItem != IntPtr.Zero ? madeColorSpaceSpecificationSpectrumTristimulusItem : madeColorSpaceSpecificationSpectrumTristimulusItem = Library.Item("ColorSpaceCIExyYType", "ColorSpaceSpecificationSpectrumTristimulus");
+            static PartCalls madeColorSpaceSpecificationSpectrumTristimulus;
+            internal static PartCalls ColorSpaceSpecificationSpectrumTristimulus => madeColorSpaceSpecificationSpectrumTristimulus != null ? madeColorSpaceSpecificationSpectrumTristimulus : madeColorSpaceSpecificationSpectrumTristimulus = new PartCalls { Item = ColorSpaceSpecificationSpectrumTristimulusItem, Make = h => new ColorSpaceSpecificationSpectrumTristimulus(h), Get = Native.get_ColorSpaceSpecificationSpectrumTristimulus, Assign = Native.assign_ColorSpaceSpecificationSpectrumTristimulus };
         }
     }
 
@@ -272,8 +288,10 @@ namespace Vyr
 
         static class Parts
         {
-            internal static readonly IntPtr ColorSpaceSpecificationEmissiveTristimulusItem = Library.Item("ColorSpaceEmissiveCIEXYZType", "ColorSpaceSpecificationEmissiveTristimulus");
-            internal static readonly PartCalls<ColorSpaceSpecificationEmissiveTristimulus> ColorSpaceSpecificationEmissiveTristimulus = new PartCalls<ColorSpaceSpecificationEmissiveTristimulus> { Item = ColorSpaceSpecificationEmissiveTristimulusItem, Make = h => new ColorSpaceSpecificationEmissiveTristimulus(h), Get = Native.get_ColorSpaceSpecificationEmissiveTristimulus, Assign = Native.assign_ColorSpaceSpecificationEmissiveTristimulus };
+            static IntPtr madeColorSpaceSpecificationEmissiveTristimulusItem;
+            internal static IntPtr ColorSpaceSpecificationEmissiveTristimulusItem => madeColorSpaceSpecificationEmissiveTristimulusItem != IntPtr.Zero ? madeColorSpaceSpecificationEmissiveTristimulusItem : madeColorSpaceSpecificationEmissiveTristimulusItem = Library.Item("ColorSpaceEmissiveCIEXYZType", "ColorSpaceSpecificationEmissiveTristimulus");
+            static PartCalls madeColorSpaceSpecificationEmissiveTristimulus;
+            internal static PartCalls ColorSpaceSpecificationEmissiveTristimulus => madeColorSpaceSpecificationEmissiveTristimulus != null ? madeColorSpaceSpecificationEmissiveTristimulus : madeColorSpaceSpecificationEmissiveTristimulus = new PartCalls { Item = ColorSpaceSpecificationEmissiveTristimulusItem, Make = h => new ColorSpaceSpecificationEmissiveTristimulus(h), Get = Native.get_ColorSpaceSpecificationEmissiveTristimulus, Assign = Native.assign_ColorSpaceSpecificationEmissiveTristimulus };
         }
     }
 
@@ -305,8 +323,10 @@ namespace Vyr
 
         static class Parts
         {
-            internal static readonly IntPtr ColorSpaceSpecificationEmissiveTristimulusItem = Library.Item("ColorSpaceEmissiveCIExyYType", "ColorSpaceSpecificationEmissiveTristimulus");
-            internal static readonly PartCalls<ColorSpaceSpecificationEmissiveTristimulus> ColorSpaceSpecificationEmissiveTristimulus = new PartCalls<ColorSpaceSpecificationEmissiveTristimulus> { Item = ColorSpaceSpecificationEmissiveTristimulusItem, Make = h => new ColorSpaceSpecificationEmissiveTristimulus(h), Get = Native.get_ColorSpaceSpecificationEmissiveTristimulus, Assign = Native.assign_ColorSpaceSpecificationEmissiveTristimulus };
+            static IntPtr madeColorSpaceSpecificationEmissiveTristimulusItem;
+            internal static IntPtr ColorSpaceSpecificationEmissiveTristimulusItem => madeColorSpaceSpecificationEmissiveTristimulusItem != IntPtr.Zero ? madeColorSpaceSpecificationEmissiveTristimulusItem : madeColorSpaceSpecificationEmissiveTristimulusItem = Library.Item("ColorSpaceEmissiveCIExyYType", "ColorSpaceSpecificationEmissiveTristimulus");
+            static PartCalls madeColorSpaceSpecificationEmissiveTristimulus;
+            internal static PartCalls ColorSpaceSpecificationEmissiveTristimulus => madeColorSpaceSpecificationEmissiveTristimulus != null ? madeColorSpaceSpecificationEmissiveTristimulus : madeColorSpaceSpecificationEmissiveTristimulus = new PartCalls { Item = ColorSpaceSpecificationEmissiveTristimulusItem, Make = h => new ColorSpaceSpecificationEmissiveTristimulus(h), Get = Native.get_ColorSpaceSpecificationEmissiveTristimulus, Assign = Native.assign_ColorSpaceSpecificationEmissiveTristimulus };
         }
     }
 

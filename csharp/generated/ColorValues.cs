@@ -34,10 +34,10 @@ namespace Vyr
 
         /// <summary>The parent's value; the element's name says in which colour space. Null until set; assigning
         /// copies.</summary>
-        public ColorSpaceChoice ColorSpace { get => Child(0, Parts.ColorSpace); set => AssignChild(0, Parts.ColorSpace, value); }
+        public ColorSpaceChoice ColorSpace { get => (ColorSpaceChoice)Child(0, Parts.ColorSpace); set => AssignChild(0, Parts.ColorSpace, value); }
 
         /// <summary>Gives ColorSpace, which it makes if it isn't there.</summary>
-        public ColorSpaceChoice CreateColorSpace() => CreateChild(0, Parts.ColorSpace);
+        public ColorSpaceChoice CreateColorSpace() => (ColorSpaceChoice)CreateChild(0, Parts.ColorSpace);
     }
 
     /// <summary>A colour value in some colour space.</summary>
@@ -62,13 +62,13 @@ namespace Vyr
         public string UniqueID { get => Is(Native.isset_UniqueID(Pointer)) ? Kept(Native.get_UniqueID(Pointer)) : null; set => Demand(value == null ? Native.UnsetUniqueID(Pointer) : Native.set_UniqueID(Pointer, Library.Whole(value))); }
 
         /// <summary>A named value of the user's own.</summary>
-        public ObjectList<CustomAttributeType> CustomAttributes => ListOfObjects(0, Parts.CustomAttribute);
+        public ObjectList<CustomAttributeType> CustomAttributes => (ObjectList<CustomAttributeType>)(Part(0) ?? Remember(0, new ObjectList<CustomAttributeType>(this, "CustomAttributes", Parts.CustomAttribute)));
 
         /// <summary>The value that this one was computed from. Null until set; assigning copies.</summary>
-        public ParentColorSpace ParentColorSpace { get => Child(1, Parts.ParentColorSpace); set => AssignChild(1, Parts.ParentColorSpace, value); }
+        public ParentColorSpace ParentColorSpace { get => (ParentColorSpace)Child(1, Parts.ParentColorSpace); set => AssignChild(1, Parts.ParentColorSpace, value); }
 
         /// <summary>Gives ParentColorSpace, which it makes if it isn't there.</summary>
-        public ParentColorSpace CreateParentColorSpace() => CreateChild(1, Parts.ParentColorSpace);
+        public ParentColorSpace CreateParentColorSpace() => (ParentColorSpace)CreateChild(1, Parts.ParentColorSpace);
 
         /// <summary>Time of one change, with time zone.</summary>
         public DateTimeList ChangeHistory => ListOfTimes(2, Parts.ChangeHistory, @".+T.+(Z|[+\-].+)");
@@ -102,10 +102,10 @@ namespace Vyr
         public string Name { get => Is(Native.isset_Name(Pointer)) ? Kept(Native.get_Name(Pointer)) : null; set => Demand(value == null ? Native.UnsetName(Pointer) : Native.set_Name(Pointer, Library.Whole(value))); }
 
         /// <summary>Conditions under which the value holds. Null until set; assigning copies.</summary>
-        public ColorSpaceSpecificationSpectrumTristimulus ColorSpaceSpecificationSpectrumTristimulus { get => Child(3, Parts.ColorSpaceSpecificationSpectrumTristimulus); set => AssignChild(3, Parts.ColorSpaceSpecificationSpectrumTristimulus, value); }
+        public ColorSpaceSpecificationSpectrumTristimulus ColorSpaceSpecificationSpectrumTristimulus { get => (ColorSpaceSpecificationSpectrumTristimulus)Child(3, Parts.ColorSpaceSpecificationSpectrumTristimulus); set => AssignChild(3, Parts.ColorSpaceSpecificationSpectrumTristimulus, value); }
 
         /// <summary>Gives ColorSpaceSpecificationSpectrumTristimulus, which it makes if it isn't there.</summary>
-        public ColorSpaceSpecificationSpectrumTristimulus CreateColorSpaceSpecificationSpectrumTristimulus() => CreateChild(3, Parts.ColorSpaceSpecificationSpectrumTristimulus);
+        public ColorSpaceSpecificationSpectrumTristimulus CreateColorSpaceSpecificationSpectrumTristimulus() => (ColorSpaceSpecificationSpectrumTristimulus)CreateChild(3, Parts.ColorSpaceSpecificationSpectrumTristimulus);
 
         /// <summary>Lightness L*, 0 (black) to 150; 100 is the perfect diffuser.</summary>
         public double L { get => Kept(Native.get_L(Pointer)); set => Demand(Native.set_L(Pointer, value)); }
@@ -139,10 +139,10 @@ namespace Vyr
         public string Name { get => Is(Native.isset_Name(Pointer)) ? Kept(Native.get_Name(Pointer)) : null; set => Demand(value == null ? Native.UnsetName(Pointer) : Native.set_Name(Pointer, Library.Whole(value))); }
 
         /// <summary>Conditions under which the value holds. Null until set; assigning copies.</summary>
-        public ColorSpaceSpecificationSpectrumTristimulus ColorSpaceSpecificationSpectrumTristimulus { get => Child(3, Parts.ColorSpaceSpecificationSpectrumTristimulus); set => AssignChild(3, Parts.ColorSpaceSpecificationSpectrumTristimulus, value); }
+        public ColorSpaceSpecificationSpectrumTristimulus ColorSpaceSpecificationSpectrumTristimulus { get => (ColorSpaceSpecificationSpectrumTristimulus)Child(3, Parts.ColorSpaceSpecificationSpectrumTristimulus); set => AssignChild(3, Parts.ColorSpaceSpecificationSpectrumTristimulus, value); }
 
         /// <summary>Gives ColorSpaceSpecificationSpectrumTristimulus, which it makes if it isn't there.</summary>
-        public ColorSpaceSpecificationSpectrumTristimulus CreateColorSpaceSpecificationSpectrumTristimulus() => CreateChild(3, Parts.ColorSpaceSpecificationSpectrumTristimulus);
+        public ColorSpaceSpecificationSpectrumTristimulus CreateColorSpaceSpecificationSpectrumTristimulus() => (ColorSpaceSpecificationSpectrumTristimulus)CreateChild(3, Parts.ColorSpaceSpecificationSpectrumTristimulus);
 
         /// <summary>Lightness L*, 0 to 100.</summary>
         public double L { get => Kept(Native.get_L(Pointer)); set => Demand(Native.set_L(Pointer, value)); }
@@ -176,10 +176,10 @@ namespace Vyr
         public string Name { get => Is(Native.isset_Name(Pointer)) ? Kept(Native.get_Name(Pointer)) : null; set => Demand(value == null ? Native.UnsetName(Pointer) : Native.set_Name(Pointer, Library.Whole(value))); }
 
         /// <summary>Conditions under which the value holds. Null until set; assigning copies.</summary>
-        public ColorSpaceSpecificationSpectrumTristimulus ColorSpaceSpecificationSpectrumTristimulus { get => Child(3, Parts.ColorSpaceSpecificationSpectrumTristimulus); set => AssignChild(3, Parts.ColorSpaceSpecificationSpectrumTristimulus, value); }
+        public ColorSpaceSpecificationSpectrumTristimulus ColorSpaceSpecificationSpectrumTristimulus { get => (ColorSpaceSpecificationSpectrumTristimulus)Child(3, Parts.ColorSpaceSpecificationSpectrumTristimulus); set => AssignChild(3, Parts.ColorSpaceSpecificationSpectrumTristimulus, value); }
 
         /// <summary>Gives ColorSpaceSpecificationSpectrumTristimulus, which it makes if it isn't there.</summary>
-        public ColorSpaceSpecificationSpectrumTristimulus CreateColorSpaceSpecificationSpectrumTristimulus() => CreateChild(3, Parts.ColorSpaceSpecificationSpectrumTristimulus);
+        public ColorSpaceSpecificationSpectrumTristimulus CreateColorSpaceSpecificationSpectrumTristimulus() => (ColorSpaceSpecificationSpectrumTristimulus)CreateChild(3, Parts.ColorSpaceSpecificationSpectrumTristimulus);
 
         /// <summary>Lightness L*, 0 to 100.</summary>
         public double L { get => Kept(Native.get_L(Pointer)); set => Demand(Native.set_L(Pointer, value)); }
@@ -213,10 +213,10 @@ namespace Vyr
         public string Name { get => Is(Native.isset_Name(Pointer)) ? Kept(Native.get_Name(Pointer)) : null; set => Demand(value == null ? Native.UnsetName(Pointer) : Native.set_Name(Pointer, Library.Whole(value))); }
 
         /// <summary>Conditions under which the value holds. Null until set; assigning copies.</summary>
-        public ColorSpaceSpecificationSpectrumTristimulus ColorSpaceSpecificationSpectrumTristimulus { get => Child(3, Parts.ColorSpaceSpecificationSpectrumTristimulus); set => AssignChild(3, Parts.ColorSpaceSpecificationSpectrumTristimulus, value); }
+        public ColorSpaceSpecificationSpectrumTristimulus ColorSpaceSpecificationSpectrumTristimulus { get => (ColorSpaceSpecificationSpectrumTristimulus)Child(3, Parts.ColorSpaceSpecificationSpectrumTristimulus); set => AssignChild(3, Parts.ColorSpaceSpecificationSpectrumTristimulus, value); }
 
         /// <summary>Gives ColorSpaceSpecificationSpectrumTristimulus, which it makes if it isn't there.</summary>
-        public ColorSpaceSpecificationSpectrumTristimulus CreateColorSpaceSpecificationSpectrumTristimulus() => CreateChild(3, Parts.ColorSpaceSpecificationSpectrumTristimulus);
+        public ColorSpaceSpecificationSpectrumTristimulus CreateColorSpaceSpecificationSpectrumTristimulus() => (ColorSpaceSpecificationSpectrumTristimulus)CreateChild(3, Parts.ColorSpaceSpecificationSpectrumTristimulus);
 
         /// <summary>Tristimulus value X, 0 to 1.</summary>
         public double X { get => Kept(Native.get_X(Pointer)); set => Demand(Native.set_X(Pointer, value)); }
@@ -250,10 +250,10 @@ namespace Vyr
         public string Name { get => Is(Native.isset_Name(Pointer)) ? Kept(Native.get_Name(Pointer)) : null; set => Demand(value == null ? Native.UnsetName(Pointer) : Native.set_Name(Pointer, Library.Whole(value))); }
 
         /// <summary>Conditions under which the value holds. Null until set; assigning copies.</summary>
-        public ColorSpaceSpecificationSpectrumTristimulus ColorSpaceSpecificationSpectrumTristimulus { get => Child(3, Parts.ColorSpaceSpecificationSpectrumTristimulus); set => AssignChild(3, Parts.ColorSpaceSpecificationSpectrumTristimulus, value); }
+        public ColorSpaceSpecificationSpectrumTristimulus ColorSpaceSpecificationSpectrumTristimulus { get => (ColorSpaceSpecificationSpectrumTristimulus)Child(3, Parts.ColorSpaceSpecificationSpectrumTristimulus); set => AssignChild(3, Parts.ColorSpaceSpecificationSpectrumTristimulus, value); }
 
         /// <summary>Gives ColorSpaceSpecificationSpectrumTristimulus, which it makes if it isn't there.</summary>
-        public ColorSpaceSpecificationSpectrumTristimulus CreateColorSpaceSpecificationSpectrumTristimulus() => CreateChild(3, Parts.ColorSpaceSpecificationSpectrumTristimulus);
+        public ColorSpaceSpecificationSpectrumTristimulus CreateColorSpaceSpecificationSpectrumTristimulus() => (ColorSpaceSpecificationSpectrumTristimulus)CreateChild(3, Parts.ColorSpaceSpecificationSpectrumTristimulus);
 
         /// <summary>Chromaticity coordinate x, 0 to 1.</summary>
         public double X { get => Kept(Native.get_X(Pointer)); set => Demand(Native.set_X(Pointer, value)); }
@@ -287,10 +287,10 @@ namespace Vyr
         public string Name { get => Is(Native.isset_Name(Pointer)) ? Kept(Native.get_Name(Pointer)) : null; set => Demand(value == null ? Native.UnsetName(Pointer) : Native.set_Name(Pointer, Library.Whole(value))); }
 
         /// <summary>Conditions under which the value holds. Null until set; assigning copies.</summary>
-        public ColorSpaceSpecificationEmissiveTristimulus ColorSpaceSpecificationEmissiveTristimulus { get => Child(3, Parts.ColorSpaceSpecificationEmissiveTristimulus); set => AssignChild(3, Parts.ColorSpaceSpecificationEmissiveTristimulus, value); }
+        public ColorSpaceSpecificationEmissiveTristimulus ColorSpaceSpecificationEmissiveTristimulus { get => (ColorSpaceSpecificationEmissiveTristimulus)Child(3, Parts.ColorSpaceSpecificationEmissiveTristimulus); set => AssignChild(3, Parts.ColorSpaceSpecificationEmissiveTristimulus, value); }
 
         /// <summary>Gives ColorSpaceSpecificationEmissiveTristimulus, which it makes if it isn't there.</summary>
-        public ColorSpaceSpecificationEmissiveTristimulus CreateColorSpaceSpecificationEmissiveTristimulus() => CreateChild(3, Parts.ColorSpaceSpecificationEmissiveTristimulus);
+        public ColorSpaceSpecificationEmissiveTristimulus CreateColorSpaceSpecificationEmissiveTristimulus() => (ColorSpaceSpecificationEmissiveTristimulus)CreateChild(3, Parts.ColorSpaceSpecificationEmissiveTristimulus);
 
         /// <summary>Tristimulus value X, 0 or more.</summary>
         public double X { get => Kept(Native.get_X(Pointer)); set => Demand(Native.set_X(Pointer, value)); }
@@ -324,10 +324,10 @@ namespace Vyr
         public string Name { get => Is(Native.isset_Name(Pointer)) ? Kept(Native.get_Name(Pointer)) : null; set => Demand(value == null ? Native.UnsetName(Pointer) : Native.set_Name(Pointer, Library.Whole(value))); }
 
         /// <summary>Conditions under which the value holds. Null until set; assigning copies.</summary>
-        public ColorSpaceSpecificationEmissiveTristimulus ColorSpaceSpecificationEmissiveTristimulus { get => Child(3, Parts.ColorSpaceSpecificationEmissiveTristimulus); set => AssignChild(3, Parts.ColorSpaceSpecificationEmissiveTristimulus, value); }
+        public ColorSpaceSpecificationEmissiveTristimulus ColorSpaceSpecificationEmissiveTristimulus { get => (ColorSpaceSpecificationEmissiveTristimulus)Child(3, Parts.ColorSpaceSpecificationEmissiveTristimulus); set => AssignChild(3, Parts.ColorSpaceSpecificationEmissiveTristimulus, value); }
 
         /// <summary>Gives ColorSpaceSpecificationEmissiveTristimulus, which it makes if it isn't there.</summary>
-        public ColorSpaceSpecificationEmissiveTristimulus CreateColorSpaceSpecificationEmissiveTristimulus() => CreateChild(3, Parts.ColorSpaceSpecificationEmissiveTristimulus);
+        public ColorSpaceSpecificationEmissiveTristimulus CreateColorSpaceSpecificationEmissiveTristimulus() => (ColorSpaceSpecificationEmissiveTristimulus)CreateChild(3, Parts.ColorSpaceSpecificationEmissiveTristimulus);
 
         /// <summary>Chromaticity coordinate x, 0 to 1.</summary>
         public double X { get => Kept(Native.get_X(Pointer)); set => Demand(Native.set_X(Pointer, value)); }

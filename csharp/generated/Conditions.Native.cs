@@ -111,16 +111,26 @@ namespace Vyr
 
         static class Parts
         {
-            internal static readonly ObjectListCalls<CustomAttributeType> CustomAttribute = new ObjectListCalls<CustomAttributeType> { Make = h => new CustomAttributeType(h), Size = Native.size_CustomAttribute, Get = Native.get_CustomAttribute, Assign = Native.assign_CustomAttribute, Append = Native.append_CustomAttribute, Insert = Native.insert_CustomAttribute, Delete = Native.delete_CustomAttribute, Clear = Native.clear_CustomAttribute };
-            internal static readonly IntPtr ProfileItem = Library.Item("ColorSpaceSpecificationType", "Profile");
-            internal static readonly PartCalls<ProfileType> Profile = new PartCalls<ProfileType> { Item = ProfileItem, Make = h => new ProfileType(h), Get = Native.get_Profile, Assign = Native.assign_Profile, Unset = Native.unset_Profile };
-            internal static readonly IntPtr DeviceItem = Library.Item("ColorSpaceSpecificationType", "Device");
-            internal static readonly PartCalls<DeviceType> Device = new PartCalls<DeviceType> { Item = DeviceItem, Make = h => new DeviceType(h), Get = Native.get_Device, Assign = Native.assign_Device, Unset = Native.unset_Device };
-            internal static readonly IntPtr DeviceFilterItem = Library.Item("ColorSpaceSpecificationType", "DeviceFilter");
-            internal static readonly PartCalls<DeviceFilter> DeviceFilter = new PartCalls<DeviceFilter> { Item = DeviceFilterItem, Make = h => new DeviceFilter(h), Get = Native.get_DeviceFilter, Assign = Native.assign_DeviceFilter, Unset = Native.unset_DeviceFilter };
-            internal static readonly IntPtr DevicePolarizationItem = Library.Item("ColorSpaceSpecificationType", "DevicePolarization");
-            internal static readonly PartCalls<DevicePolarization> DevicePolarization = new PartCalls<DevicePolarization> { Item = DevicePolarizationItem, Make = h => new DevicePolarization(h), Get = Native.get_DevicePolarization, Assign = Native.assign_DevicePolarization };
-            internal static readonly ValueListCalls<IntPtr> ChangeHistory = new ValueListCalls<IntPtr> { Size = Native.size_ChangeHistory, Get = Native.get_ChangeHistory, Set = Native.set_ChangeHistory, Insert = Native.insert_ChangeHistory, Delete = Native.delete_ChangeHistory, Clear = Native.clear_ChangeHistory };
+            static ObjectListCalls<CustomAttributeType> madeCustomAttribute;
+            internal static ObjectListCalls<CustomAttributeType> CustomAttribute => madeCustomAttribute != null ? madeCustomAttribute : madeCustomAttribute = new ObjectListCalls<CustomAttributeType> { Make = h => new CustomAttributeType(h), Size = Native.size_CustomAttribute, Get = Native.get_CustomAttribute, Assign = Native.assign_CustomAttribute, Append = Native.append_CustomAttribute, Insert = Native.insert_CustomAttribute, Delete = Native.delete_CustomAttribute, Clear = Native.clear_CustomAttribute };
+            static IntPtr madeProfileItem;
+            internal static IntPtr ProfileItem => madeProfileItem != IntPtr.Zero ? madeProfileItem : madeProfileItem = Library.Item("ColorSpaceSpecificationType", "Profile");
+            static PartCalls madeProfile;
+            internal static PartCalls Profile => madeProfile != null ? madeProfile : madeProfile = new PartCalls { Item = ProfileItem, Make = h => new ProfileType(h), Get = Native.get_Profile, Assign = Native.assign_Profile, Unset = Native.unset_Profile };
+            static IntPtr madeDeviceItem;
+            internal static IntPtr DeviceItem => madeDeviceItem != IntPtr.Zero ? madeDeviceItem : madeDeviceItem = Library.Item("ColorSpaceSpecificationType", "Device");
+            static PartCalls madeDevice;
+            internal static PartCalls Device => madeDevice != null ? madeDevice : madeDevice = new PartCalls { Item = DeviceItem, Make = h => new DeviceType(h), Get = Native.get_Device, Assign = Native.assign_Device, Unset = Native.unset_Device };
+            static IntPtr madeDeviceFilterItem;
+            internal static IntPtr DeviceFilterItem => madeDeviceFilterItem != IntPtr.Zero ? madeDeviceFilterItem : madeDeviceFilterItem = Library.Item("ColorSpaceSpecificationType", "DeviceFilter");
+            static PartCalls madeDeviceFilter;
+            internal static PartCalls DeviceFilter => madeDeviceFilter != null ? madeDeviceFilter : madeDeviceFilter = new PartCalls { Item = DeviceFilterItem, Make = h => new DeviceFilter(h), Get = Native.get_DeviceFilter, Assign = Native.assign_DeviceFilter, Unset = Native.unset_DeviceFilter };
+            static IntPtr madeDevicePolarizationItem;
+            internal static IntPtr DevicePolarizationItem => madeDevicePolarizationItem != IntPtr.Zero ? madeDevicePolarizationItem : madeDevicePolarizationItem = Library.Item("ColorSpaceSpecificationType", "DevicePolarization");
+            static PartCalls madeDevicePolarization;
+            internal static PartCalls DevicePolarization => madeDevicePolarization != null ? madeDevicePolarization : madeDevicePolarization = new PartCalls { Item = DevicePolarizationItem, Make = h => new DevicePolarization(h), Get = Native.get_DevicePolarization, Assign = Native.assign_DevicePolarization };
+            static ValueListCalls<IntPtr> madeChangeHistory;
+            internal static ValueListCalls<IntPtr> ChangeHistory => madeChangeHistory != null ? madeChangeHistory : madeChangeHistory = new ValueListCalls<IntPtr> { Size = Native.size_ChangeHistory, Get = Native.get_ChangeHistory, Set = Native.set_ChangeHistory, Insert = Native.insert_ChangeHistory, Delete = Native.delete_ChangeHistory, Clear = Native.clear_ChangeHistory };
         }
     }
 
@@ -162,8 +172,10 @@ namespace Vyr
 
         static class Parts
         {
-            internal static readonly IntPtr SpectrumItem = Library.Item("ColorSpaceSpecificationSpectrumType", "Spectrum");
-            internal static readonly PartCalls<SpectrumType> Spectrum = new PartCalls<SpectrumType> { Item = SpectrumItem, Make = h => new SpectrumType(h), Get = Native.get_Spectrum, Assign = Native.assign_Spectrum };
+            static IntPtr madeSpectrumItem;
+            internal static IntPtr SpectrumItem => madeSpectrumItem != IntPtr.Zero ? madeSpectrumItem : madeSpectrumItem = Library.Item("ColorSpaceSpecificationSpectrumType", "Spectrum");
+            static PartCalls madeSpectrum;
+            internal static PartCalls Spectrum => madeSpectrum != null ? madeSpectrum : madeSpectrum = new PartCalls { Item = SpectrumItem, Make = h => new SpectrumType(h), Get = Native.get_Spectrum, Assign = Native.assign_Spectrum };
         }
     }
 
@@ -209,7 +221,8 @@ namespace Vyr
 
         static class Parts
         {
-            internal static readonly PartCalls<BSDFAngle> BSDFAngle = new PartCalls<BSDFAngle> { Make = h => new BSDFAngle(h), Get = Native.get_BSDFAngle, Assign = Native.assign_BSDFAngle };
+            static PartCalls madeBSDFAngle;
+            internal static PartCalls BSDFAngle => madeBSDFAngle != null ? madeBSDFAngle : madeBSDFAngle = new PartCalls { Make = h => new BSDFAngle(h), Get = Native.get_BSDFAngle, Assign = Native.assign_BSDFAngle };
         }
     }
 
@@ -240,8 +253,10 @@ namespace Vyr
 
         static class Parts
         {
-            internal static readonly PartCalls<Illuminant> Illuminant = new PartCalls<Illuminant> { Make = h => new Illuminant(h), Get = Native.get_Illuminant, Assign = Native.assign_Illuminant };
-            internal static readonly PartCalls<WhitePointChromaticity> WhitePointChromaticity = new PartCalls<WhitePointChromaticity> { Make = h => new WhitePointChromaticity(h), Get = Native.get_WhitePointChromaticity, Assign = Native.assign_WhitePointChromaticity };
+            static PartCalls madeIlluminant;
+            internal static PartCalls Illuminant => madeIlluminant != null ? madeIlluminant : madeIlluminant = new PartCalls { Make = h => new Illuminant(h), Get = Native.get_Illuminant, Assign = Native.assign_Illuminant };
+            static PartCalls madeWhitePointChromaticity;
+            internal static PartCalls WhitePointChromaticity => madeWhitePointChromaticity != null ? madeWhitePointChromaticity : madeWhitePointChromaticity = new PartCalls { Make = h => new WhitePointChromaticity(h), Get = Native.get_WhitePointChromaticity, Assign = Native.assign_WhitePointChromaticity };
         }
     }
 
@@ -286,10 +301,14 @@ namespace Vyr
 
         static class Parts
         {
-            internal static readonly IntPtr GeometryChoiceItem = Library.Item("ColorSpaceSpecificationSpectrumGenericType", "GeometryChoice");
-            internal static readonly PartCalls<GeometryChoiceType> GeometryChoice = new PartCalls<GeometryChoiceType> { Item = GeometryChoiceItem, Make = h => new GeometryChoiceType(h), Get = Native.get_GeometryChoice, Assign = Native.assign_GeometryChoice, Unset = Native.unset_GeometryChoice };
-            internal static readonly IntPtr IlluminationOptionsItem = Library.Item("ColorSpaceSpecificationSpectrumGenericType", "IlluminationOptions");
-            internal static readonly PartCalls<IlluminationOptionsType> IlluminationOptions = new PartCalls<IlluminationOptionsType> { Item = IlluminationOptionsItem, Make = h => new IlluminationOptionsType(h), Get = Native.get_IlluminationOptions, Assign = Native.assign_IlluminationOptions, Unset = Native.unset_IlluminationOptions };
+            static IntPtr madeGeometryChoiceItem;
+            internal static IntPtr GeometryChoiceItem => madeGeometryChoiceItem != IntPtr.Zero ? madeGeometryChoiceItem : madeGeometryChoiceItem = Library.Item("ColorSpaceSpecificationSpectrumGenericType", "GeometryChoice");
+            static PartCalls madeGeometryChoice;
+            internal static PartCalls GeometryChoice => madeGeometryChoice != null ? madeGeometryChoice : madeGeometryChoice = new PartCalls { Item = GeometryChoiceItem, Make = h => new GeometryChoiceType(h), Get = Native.get_GeometryChoice, Assign = Native.assign_GeometryChoice, Unset = Native.unset_GeometryChoice };
+            static IntPtr madeIlluminationOptionsItem;
+            internal static IntPtr IlluminationOptionsItem => madeIlluminationOptionsItem != IntPtr.Zero ? madeIlluminationOptionsItem : madeIlluminationOptionsItem = Library.Item("ColorSpaceSpecificationSpectrumGenericType", "IlluminationOptions");
+            static PartCalls madeIlluminationOptions;
+            internal static PartCalls IlluminationOptions => madeIlluminationOptions != null ? madeIlluminationOptions : madeIlluminationOptions = new PartCalls { Item = IlluminationOptionsItem, Make = h => new IlluminationOptionsType(h), Get = Native.get_IlluminationOptions, Assign = Native.assign_IlluminationOptions, Unset = Native.unset_IlluminationOptions };
         }
     }
 
@@ -325,10 +344,14 @@ namespace Vyr
 
         static class Parts
         {
-            internal static readonly IntPtr IlluminationOptionsItem = Library.Item("ColorSpaceSpecificationSpectrumTristimulusType", "IlluminationOptions");
-            internal static readonly PartCalls<IlluminationOptionsType> IlluminationOptions = new PartCalls<IlluminationOptionsType> { Item = IlluminationOptionsItem, Make = h => new IlluminationOptionsType(h), Get = Native.get_IlluminationOptions, Assign = Native.assign_IlluminationOptions };
-            internal static readonly IntPtr GeometryChoiceItem = Library.Item("ColorSpaceSpecificationSpectrumTristimulusType", "GeometryChoice");
-            internal static readonly PartCalls<GeometryChoiceType> GeometryChoice = new PartCalls<GeometryChoiceType> { Item = GeometryChoiceItem, Make = h => new GeometryChoiceType(h), Get = Native.get_GeometryChoice, Assign = Native.assign_GeometryChoice, Unset = Native.unset_GeometryChoice };
+            static IntPtr madeIlluminationOptionsItem;
+            internal static IntPtr IlluminationOptionsItem => madeIlluminationOptionsItem != IntPtr.Zero ? madeIlluminationOptionsItem : madeIlluminationOptionsItem = Library.Item("ColorSpaceSpecificationSpectrumTristimulusType", "IlluminationOptions");
+            static PartCalls madeIlluminationOptions;
+            internal static PartCalls IlluminationOptions => madeIlluminationOptions != null ? madeIlluminationOptions : madeIlluminationOptions = new PartCalls { Item = IlluminationOptionsItem, Make = h => new IlluminationOptionsType(h), Get = Native.get_IlluminationOptions, Assign = Native.assign_IlluminationOptions };
+            static IntPtr madeGeometryChoiceItem;
+            internal static IntPtr GeometryChoiceItem => madeGeometryChoiceItem != IntPtr.Zero ? madeGeometryChoiceItem : madeGeometryChoiceItem = Library.Item("ColorSpaceSpecificationSpectrumTristimulusType", "GeometryChoice");
+            static PartCalls madeGeometryChoice;
+            internal static PartCalls GeometryChoice => madeGeometryChoice != null ? madeGeometryChoice : madeGeometryChoice = new PartCalls { Item = GeometryChoiceItem, Make = h => new GeometryChoiceType(h), Get = Native.get_GeometryChoice, Assign = Native.assign_GeometryChoice, Unset = Native.unset_GeometryChoice };
         }
     }
 
@@ -354,8 +377,10 @@ namespace Vyr
 
         static class Parts
         {
-            internal static readonly IntPtr GeometryChoiceItem = Library.Item("ColorSpaceSpecificationSpectrumSpectralType", "GeometryChoice");
-            internal static readonly PartCalls<GeometryChoiceType> GeometryChoice = new PartCalls<GeometryChoiceType> { Item = GeometryChoiceItem, Make = h => new GeometryChoiceType(h), Get = Native.get_GeometryChoice, Assign = Native.assign_GeometryChoice };
+            static IntPtr madeGeometryChoiceItem;
+            internal static IntPtr GeometryChoiceItem => madeGeometryChoiceItem != IntPtr.Zero ? madeGeometryChoiceItem : madeGeometryChoiceItem = Library.Item("ColorSpaceSpecificationSpectrumSpectralType", "GeometryChoice");
+            static PartCalls madeGeometryChoice;
+            internal static PartCalls GeometryChoice => madeGeometryChoice != null ? madeGeometryChoice : madeGeometryChoice = new PartCalls { Item = GeometryChoiceItem, Make = h => new GeometryChoiceType(h), Get = Native.get_GeometryChoice, Assign = Native.assign_GeometryChoice };
         }
     }
 
@@ -400,10 +425,14 @@ namespace Vyr
 
         static class Parts
         {
-            internal static readonly IntPtr GeometryChoiceItem = Library.Item("ColorSpaceSpecificationEmissiveGenericType", "GeometryChoice");
-            internal static readonly PartCalls<GeometryChoiceType> GeometryChoice = new PartCalls<GeometryChoiceType> { Item = GeometryChoiceItem, Make = h => new GeometryChoiceType(h), Get = Native.get_GeometryChoice, Assign = Native.assign_GeometryChoice, Unset = Native.unset_GeometryChoice };
-            internal static readonly IntPtr IlluminationOptionsItem = Library.Item("ColorSpaceSpecificationEmissiveGenericType", "IlluminationOptions");
-            internal static readonly PartCalls<IlluminationOptionsType> IlluminationOptions = new PartCalls<IlluminationOptionsType> { Item = IlluminationOptionsItem, Make = h => new IlluminationOptionsType(h), Get = Native.get_IlluminationOptions, Assign = Native.assign_IlluminationOptions, Unset = Native.unset_IlluminationOptions };
+            static IntPtr madeGeometryChoiceItem;
+            internal static IntPtr GeometryChoiceItem => madeGeometryChoiceItem != IntPtr.Zero ? madeGeometryChoiceItem : madeGeometryChoiceItem = Library.Item("ColorSpaceSpecificationEmissiveGenericType", "GeometryChoice");
+            static PartCalls madeGeometryChoice;
+            internal static PartCalls GeometryChoice => madeGeometryChoice != null ? madeGeometryChoice : madeGeometryChoice = new PartCalls { Item = GeometryChoiceItem, Make = h => new GeometryChoiceType(h), Get = Native.get_GeometryChoice, Assign = Native.assign_GeometryChoice, Unset = Native.unset_GeometryChoice };
+            static IntPtr madeIlluminationOptionsItem;
+            internal static IntPtr IlluminationOptionsItem => madeIlluminationOptionsItem != IntPtr.Zero ? madeIlluminationOptionsItem : madeIlluminationOptionsItem = Library.Item("ColorSpaceSpecificationEmissiveGenericType", "IlluminationOptions");
+            static PartCalls madeIlluminationOptions;
+            internal static PartCalls IlluminationOptions => madeIlluminationOptions != null ? madeIlluminationOptions : madeIlluminationOptions = new PartCalls { Item = IlluminationOptionsItem, Make = h => new IlluminationOptionsType(h), Get = Native.get_IlluminationOptions, Assign = Native.assign_IlluminationOptions, Unset = Native.unset_IlluminationOptions };
         }
     }
 
@@ -439,10 +468,14 @@ namespace Vyr
 
         static class Parts
         {
-            internal static readonly IntPtr IlluminationOptionsItem = Library.Item("ColorSpaceSpecificationEmissiveTristimulusType", "IlluminationOptions");
-            internal static readonly PartCalls<IlluminationOptionsType> IlluminationOptions = new PartCalls<IlluminationOptionsType> { Item = IlluminationOptionsItem, Make = h => new IlluminationOptionsType(h), Get = Native.get_IlluminationOptions, Assign = Native.assign_IlluminationOptions };
-            internal static readonly IntPtr GeometryChoiceItem = Library.Item("ColorSpaceSpecificationEmissiveTristimulusType", "GeometryChoice");
-            internal static readonly PartCalls<GeometryChoiceType> GeometryChoice = new PartCalls<GeometryChoiceType> { Item = GeometryChoiceItem, Make = h => new GeometryChoiceType(h), Get = Native.get_GeometryChoice, Assign = Native.assign_GeometryChoice, Unset = Native.unset_GeometryChoice };
+            static IntPtr madeIlluminationOptionsItem;
+            internal static IntPtr IlluminationOptionsItem => madeIlluminationOptionsItem != IntPtr.Zero ? madeIlluminationOptionsItem : madeIlluminationOptionsItem = Library.Item("ColorSpaceSpecificationEmissiveTristimulusType", "IlluminationOptions");
+            static PartCalls madeIlluminationOptions;
+            internal static PartCalls IlluminationOptions => madeIlluminationOptions != null ? madeIlluminationOptions : madeIlluminationOptions = new PartCalls { Item = IlluminationOptionsItem, Make = h => new IlluminationOptionsType(h), Get = Native.get_IlluminationOptions, Assign = Native.assign_IlluminationOptions };
+            static IntPtr madeGeometryChoiceItem;
+            internal static IntPtr GeometryChoiceItem => madeGeometryChoiceItem != IntPtr.Zero ? madeGeometryChoiceItem : madeGeometryChoiceItem = Library.Item("ColorSpaceSpecificationEmissiveTristimulusType", "GeometryChoice");
+            static PartCalls madeGeometryChoice;
+            internal static PartCalls GeometryChoice => madeGeometryChoice != null ? madeGeometryChoice : madeGeometryChoice = new PartCalls { Item = GeometryChoiceItem, Make = h => new GeometryChoiceType(h), Get = Native.get_GeometryChoice, Assign = Native.assign_GeometryChoice, Unset = Native.unset_GeometryChoice };
         }
     }
 
@@ -468,8 +501,10 @@ namespace Vyr
 
         static class Parts
         {
-            internal static readonly IntPtr GeometryChoiceItem = Library.Item("ColorSpaceSpecificationEmissiveSpectralType", "GeometryChoice");
-            internal static readonly PartCalls<GeometryChoiceType> GeometryChoice = new PartCalls<GeometryChoiceType> { Item = GeometryChoiceItem, Make = h => new GeometryChoiceType(h), Get = Native.get_GeometryChoice, Assign = Native.assign_GeometryChoice };
+            static IntPtr madeGeometryChoiceItem;
+            internal static IntPtr GeometryChoiceItem => madeGeometryChoiceItem != IntPtr.Zero ? madeGeometryChoiceItem : madeGeometryChoiceItem = Library.Item("ColorSpaceSpecificationEmissiveSpectralType", "GeometryChoice");
+            static PartCalls madeGeometryChoice;
+            internal static PartCalls GeometryChoice => madeGeometryChoice != null ? madeGeometryChoice : madeGeometryChoice = new PartCalls { Item = GeometryChoiceItem, Make = h => new GeometryChoiceType(h), Get = Native.get_GeometryChoice, Assign = Native.assign_GeometryChoice };
         }
     }
 

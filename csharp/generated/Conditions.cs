@@ -114,34 +114,34 @@ namespace Vyr
         public string UniqueID { get => Is(Native.isset_UniqueID(Pointer)) ? Kept(Native.get_UniqueID(Pointer)) : null; set => Demand(value == null ? Native.UnsetUniqueID(Pointer) : Native.set_UniqueID(Pointer, Library.Whole(value))); }
 
         /// <summary>A named value of the user's own.</summary>
-        public ObjectList<CustomAttributeType> CustomAttributes => ListOfObjects(0, Parts.CustomAttribute);
+        public ObjectList<CustomAttributeType> CustomAttributes => (ObjectList<CustomAttributeType>)(Part(0) ?? Remember(0, new ObjectList<CustomAttributeType>(this, "CustomAttributes", Parts.CustomAttribute)));
 
         /// <summary>Profile of the device. Null until set; assigning copies.</summary>
-        public ProfileType Profile { get => Child(1, Parts.Profile); set => AssignChild(1, Parts.Profile, value); }
+        public ProfileType Profile { get => (ProfileType)Child(1, Parts.Profile); set => AssignChild(1, Parts.Profile, value); }
 
         /// <summary>Gives Profile, which it makes if it isn't there.</summary>
-        public ProfileType CreateProfile() => CreateChild(1, Parts.Profile);
+        public ProfileType CreateProfile() => (ProfileType)CreateChild(1, Parts.Profile);
 
         /// <summary>Instrument that measured, or device that shows the colour. Null until set; assigning
         /// copies.</summary>
-        public DeviceType Device { get => Child(2, Parts.Device); set => AssignChild(2, Parts.Device, value); }
+        public DeviceType Device { get => (DeviceType)Child(2, Parts.Device); set => AssignChild(2, Parts.Device, value); }
 
         /// <summary>Gives Device, which it makes if it isn't there.</summary>
-        public DeviceType CreateDevice() => CreateChild(2, Parts.Device);
+        public DeviceType CreateDevice() => (DeviceType)CreateChild(2, Parts.Device);
 
         /// <summary>Filter in the light path of the instrument, or nil. Readers may meet none; a writer needs the
         /// filter or nil. Null until set; assigning copies.</summary>
-        public DeviceFilter DeviceFilter { get => Child(3, Parts.DeviceFilter); set => AssignChild(3, Parts.DeviceFilter, value); }
+        public DeviceFilter DeviceFilter { get => (DeviceFilter)Child(3, Parts.DeviceFilter); set => AssignChild(3, Parts.DeviceFilter, value); }
 
         /// <summary>Gives DeviceFilter, which it makes if it isn't there.</summary>
-        public DeviceFilter CreateDeviceFilter() => CreateChild(3, Parts.DeviceFilter);
+        public DeviceFilter CreateDeviceFilter() => (DeviceFilter)CreateChild(3, Parts.DeviceFilter);
 
         /// <summary>Whether polarising filters were used, or nil where it is unknown. Null until set; assigning
         /// copies.</summary>
-        public DevicePolarization DevicePolarization { get => Child(4, Parts.DevicePolarization); set => AssignChild(4, Parts.DevicePolarization, value); }
+        public DevicePolarization DevicePolarization { get => (DevicePolarization)Child(4, Parts.DevicePolarization); set => AssignChild(4, Parts.DevicePolarization, value); }
 
         /// <summary>Gives DevicePolarization, which it makes if it isn't there.</summary>
-        public DevicePolarization CreateDevicePolarization() => CreateChild(4, Parts.DevicePolarization);
+        public DevicePolarization CreateDevicePolarization() => (DevicePolarization)CreateChild(4, Parts.DevicePolarization);
 
         /// <summary>Time of one change, with time zone.</summary>
         public DateTimeList ChangeHistory => ListOfTimes(5, Parts.ChangeHistory, @".+T.+(Z|[+\-].+)");
@@ -191,10 +191,10 @@ namespace Vyr
         public override void Reset() { RemoveParts(); Native.reset(Pointer); Keep(); }
 
         /// <summary>Which spectral quantity was measured. Null until set; assigning copies.</summary>
-        public SpectrumType Spectrum { get => Child(6, Parts.Spectrum); set => AssignChild(6, Parts.Spectrum, value); }
+        public SpectrumType Spectrum { get => (SpectrumType)Child(6, Parts.Spectrum); set => AssignChild(6, Parts.Spectrum, value); }
 
         /// <summary>Gives Spectrum, which it makes if it isn't there.</summary>
-        public SpectrumType CreateSpectrum() => CreateChild(6, Parts.Spectrum);
+        public SpectrumType CreateSpectrum() => (SpectrumType)CreateChild(6, Parts.Spectrum);
     }
 
     /// <summary>Conditions of an emissive value.</summary>
@@ -278,13 +278,13 @@ namespace Vyr
         public void ChooseUnknownGeometry(string value) => Choose(0, Native.set_UnknownGeometry(Pointer, Library.Whole(value)));
 
         /// <summary>Angles of a multi-angle measurement. Null if another is chosen.</summary>
-        public BSDFAngle AsBSDFAngle => Chosen == Alternative.BSDFAngle ? Held(0, Parts.BSDFAngle) : null;
+        public BSDFAngle AsBSDFAngle => Chosen == Alternative.BSDFAngle ? (BSDFAngle)Held(0, Parts.BSDFAngle) : null;
 
         /// <summary>Gives BSDFAngle, which it makes in place of another one if it isn't chosen.</summary>
-        public BSDFAngle ChooseBSDFAngle() => AsBSDFAngle ?? Choose(0, Parts.BSDFAngle);
+        public BSDFAngle ChooseBSDFAngle() => AsBSDFAngle ?? (BSDFAngle)Choose(0, Parts.BSDFAngle);
 
         /// <summary>Chooses BSDFAngle with a copy of a value.</summary>
-        public BSDFAngle ChooseBSDFAngle(BSDFAngle value) => Choose(0, Parts.BSDFAngle, value);
+        public BSDFAngle ChooseBSDFAngle(BSDFAngle value) => (BSDFAngle)Choose(0, Parts.BSDFAngle, value);
     }
 
     /// <summary>Illumination by standard illuminant, chromaticity or colour temperature.</summary>
@@ -325,23 +325,23 @@ namespace Vyr
         public Alternative Chosen => (Alternative)Kept(Native.getchosen(Pointer));
 
         /// <summary>The illumination as a standard illuminant. Null if another is chosen.</summary>
-        public Illuminant AsIlluminant => Chosen == Alternative.Illuminant ? Held(0, Parts.Illuminant) : null;
+        public Illuminant AsIlluminant => Chosen == Alternative.Illuminant ? (Illuminant)Held(0, Parts.Illuminant) : null;
 
         /// <summary>Gives Illuminant, which it makes in place of another one if it isn't chosen.</summary>
-        public Illuminant ChooseIlluminant() => AsIlluminant ?? Choose(0, Parts.Illuminant);
+        public Illuminant ChooseIlluminant() => AsIlluminant ?? (Illuminant)Choose(0, Parts.Illuminant);
 
         /// <summary>Chooses Illuminant with a copy of a value.</summary>
-        public Illuminant ChooseIlluminant(Illuminant value) => Choose(0, Parts.Illuminant, value);
+        public Illuminant ChooseIlluminant(Illuminant value) => (Illuminant)Choose(0, Parts.Illuminant, value);
 
         /// <summary>The illumination by the chromaticity of its white. Null if another is chosen.</summary>
-        public WhitePointChromaticity AsWhitePointChromaticity => Chosen == Alternative.WhitePointChromaticity ? Held(0, Parts.WhitePointChromaticity) : null;
+        public WhitePointChromaticity AsWhitePointChromaticity => Chosen == Alternative.WhitePointChromaticity ? (WhitePointChromaticity)Held(0, Parts.WhitePointChromaticity) : null;
 
         /// <summary>Gives WhitePointChromaticity, which it makes in place of another one if it isn't
         /// chosen.</summary>
-        public WhitePointChromaticity ChooseWhitePointChromaticity() => AsWhitePointChromaticity ?? Choose(0, Parts.WhitePointChromaticity);
+        public WhitePointChromaticity ChooseWhitePointChromaticity() => AsWhitePointChromaticity ?? (WhitePointChromaticity)Choose(0, Parts.WhitePointChromaticity);
 
         /// <summary>Chooses WhitePointChromaticity with a copy of a value.</summary>
-        public WhitePointChromaticity ChooseWhitePointChromaticity(WhitePointChromaticity value) => Choose(0, Parts.WhitePointChromaticity, value);
+        public WhitePointChromaticity ChooseWhitePointChromaticity(WhitePointChromaticity value) => (WhitePointChromaticity)Choose(0, Parts.WhitePointChromaticity, value);
 
         /// <summary>The illumination by correlated colour temperature in kelvins, above 0. Null if another is
         /// chosen.</summary>
@@ -370,16 +370,16 @@ namespace Vyr
         public override void Reset() { RemoveParts(); Native.reset(Pointer); Keep(); }
 
         /// <summary>Measuring geometry. Null until set; assigning copies.</summary>
-        public GeometryChoiceType GeometryChoice { get => Child(7, Parts.GeometryChoice); set => AssignChild(7, Parts.GeometryChoice, value); }
+        public GeometryChoiceType GeometryChoice { get => (GeometryChoiceType)Child(7, Parts.GeometryChoice); set => AssignChild(7, Parts.GeometryChoice, value); }
 
         /// <summary>Gives GeometryChoice, which it makes if it isn't there.</summary>
-        public GeometryChoiceType CreateGeometryChoice() => CreateChild(7, Parts.GeometryChoice);
+        public GeometryChoiceType CreateGeometryChoice() => (GeometryChoiceType)CreateChild(7, Parts.GeometryChoice);
 
         /// <summary>Illumination that the value holds for. Null until set; assigning copies.</summary>
-        public IlluminationOptionsType IlluminationOptions { get => Child(8, Parts.IlluminationOptions); set => AssignChild(8, Parts.IlluminationOptions, value); }
+        public IlluminationOptionsType IlluminationOptions { get => (IlluminationOptionsType)Child(8, Parts.IlluminationOptions); set => AssignChild(8, Parts.IlluminationOptions, value); }
 
         /// <summary>Gives IlluminationOptions, which it makes if it isn't there.</summary>
-        public IlluminationOptionsType CreateIlluminationOptions() => CreateChild(8, Parts.IlluminationOptions);
+        public IlluminationOptionsType CreateIlluminationOptions() => (IlluminationOptionsType)CreateChild(8, Parts.IlluminationOptions);
 
         /// <summary>Standard observer that the value holds for. Null if not set.</summary>
         public ObserverKind? FieldOfView { get => Is(Native.isset_FieldOfView(Pointer)) ? (ObserverKind)Kept(Native.getenum_FieldOfView(Pointer)) : default(ObserverKind?); set => Demand(value == null ? Native.UnsetFieldOfView(Pointer) : Listed(Native.setenum_FieldOfView(Pointer, (int)value.Value))); }
@@ -413,19 +413,19 @@ namespace Vyr
         public override void Reset() { RemoveParts(); Native.reset(Pointer); Keep(); }
 
         /// <summary>Illumination that the value holds for. Null until set; assigning copies.</summary>
-        public IlluminationOptionsType IlluminationOptions { get => Child(7, Parts.IlluminationOptions); set => AssignChild(7, Parts.IlluminationOptions, value); }
+        public IlluminationOptionsType IlluminationOptions { get => (IlluminationOptionsType)Child(7, Parts.IlluminationOptions); set => AssignChild(7, Parts.IlluminationOptions, value); }
 
         /// <summary>Gives IlluminationOptions, which it makes if it isn't there.</summary>
-        public IlluminationOptionsType CreateIlluminationOptions() => CreateChild(7, Parts.IlluminationOptions);
+        public IlluminationOptionsType CreateIlluminationOptions() => (IlluminationOptionsType)CreateChild(7, Parts.IlluminationOptions);
 
         /// <summary>Standard observer that the value holds for.</summary>
         public ObserverKind FieldOfView { get => (ObserverKind)Kept(Native.getenum_FieldOfView(Pointer)); set => Demand(Listed(Native.setenum_FieldOfView(Pointer, (int)value))); }
 
         /// <summary>Measuring geometry. Null until set; assigning copies.</summary>
-        public GeometryChoiceType GeometryChoice { get => Child(8, Parts.GeometryChoice); set => AssignChild(8, Parts.GeometryChoice, value); }
+        public GeometryChoiceType GeometryChoice { get => (GeometryChoiceType)Child(8, Parts.GeometryChoice); set => AssignChild(8, Parts.GeometryChoice, value); }
 
         /// <summary>Gives GeometryChoice, which it makes if it isn't there.</summary>
-        public GeometryChoiceType CreateGeometryChoice() => CreateChild(8, Parts.GeometryChoice);
+        public GeometryChoiceType CreateGeometryChoice() => (GeometryChoiceType)CreateChild(8, Parts.GeometryChoice);
 
         /// <summary>Weighting tables used for the tristimulus integration. Null if not set.</summary>
         public AstmTableKind? ASTM_Table { get => Is(Native.isset_ASTM_Table(Pointer)) ? (AstmTableKind)Kept(Native.getenum_ASTM_Table(Pointer)) : default(AstmTableKind?); set => Demand(value == null ? Native.UnsetASTM_Table(Pointer) : Listed(Native.setenum_ASTM_Table(Pointer, (int)value.Value))); }
@@ -453,10 +453,10 @@ namespace Vyr
         public override void Reset() { RemoveParts(); Native.reset(Pointer); Keep(); }
 
         /// <summary>Measuring geometry. Null until set; assigning copies.</summary>
-        public GeometryChoiceType GeometryChoice { get => Child(7, Parts.GeometryChoice); set => AssignChild(7, Parts.GeometryChoice, value); }
+        public GeometryChoiceType GeometryChoice { get => (GeometryChoiceType)Child(7, Parts.GeometryChoice); set => AssignChild(7, Parts.GeometryChoice, value); }
 
         /// <summary>Gives GeometryChoice, which it makes if it isn't there.</summary>
-        public GeometryChoiceType CreateGeometryChoice() => CreateChild(7, Parts.GeometryChoice);
+        public GeometryChoiceType CreateGeometryChoice() => (GeometryChoiceType)CreateChild(7, Parts.GeometryChoice);
 
         /// <summary>Weighting tables for a later tristimulus integration. Null if not set.</summary>
         public AstmTableKind? ASTM_Table { get => Is(Native.isset_ASTM_Table(Pointer)) ? (AstmTableKind)Kept(Native.getenum_ASTM_Table(Pointer)) : default(AstmTableKind?); set => Demand(value == null ? Native.UnsetASTM_Table(Pointer) : Listed(Native.setenum_ASTM_Table(Pointer, (int)value.Value))); }
@@ -481,16 +481,16 @@ namespace Vyr
         public override void Reset() { RemoveParts(); Native.reset(Pointer); Keep(); }
 
         /// <summary>Measuring geometry. Null until set; assigning copies.</summary>
-        public GeometryChoiceType GeometryChoice { get => Child(6, Parts.GeometryChoice); set => AssignChild(6, Parts.GeometryChoice, value); }
+        public GeometryChoiceType GeometryChoice { get => (GeometryChoiceType)Child(6, Parts.GeometryChoice); set => AssignChild(6, Parts.GeometryChoice, value); }
 
         /// <summary>Gives GeometryChoice, which it makes if it isn't there.</summary>
-        public GeometryChoiceType CreateGeometryChoice() => CreateChild(6, Parts.GeometryChoice);
+        public GeometryChoiceType CreateGeometryChoice() => (GeometryChoiceType)CreateChild(6, Parts.GeometryChoice);
 
         /// <summary>Illumination that the value holds for. Null until set; assigning copies.</summary>
-        public IlluminationOptionsType IlluminationOptions { get => Child(7, Parts.IlluminationOptions); set => AssignChild(7, Parts.IlluminationOptions, value); }
+        public IlluminationOptionsType IlluminationOptions { get => (IlluminationOptionsType)Child(7, Parts.IlluminationOptions); set => AssignChild(7, Parts.IlluminationOptions, value); }
 
         /// <summary>Gives IlluminationOptions, which it makes if it isn't there.</summary>
-        public IlluminationOptionsType CreateIlluminationOptions() => CreateChild(7, Parts.IlluminationOptions);
+        public IlluminationOptionsType CreateIlluminationOptions() => (IlluminationOptionsType)CreateChild(7, Parts.IlluminationOptions);
 
         /// <summary>Standard observer that the value holds for. Null if not set.</summary>
         public ObserverKind? FieldOfView { get => Is(Native.isset_FieldOfView(Pointer)) ? (ObserverKind)Kept(Native.getenum_FieldOfView(Pointer)) : default(ObserverKind?); set => Demand(value == null ? Native.UnsetFieldOfView(Pointer) : Listed(Native.setenum_FieldOfView(Pointer, (int)value.Value))); }
@@ -524,19 +524,19 @@ namespace Vyr
         public override void Reset() { RemoveParts(); Native.reset(Pointer); Keep(); }
 
         /// <summary>Illumination that the value holds for. Null until set; assigning copies.</summary>
-        public IlluminationOptionsType IlluminationOptions { get => Child(6, Parts.IlluminationOptions); set => AssignChild(6, Parts.IlluminationOptions, value); }
+        public IlluminationOptionsType IlluminationOptions { get => (IlluminationOptionsType)Child(6, Parts.IlluminationOptions); set => AssignChild(6, Parts.IlluminationOptions, value); }
 
         /// <summary>Gives IlluminationOptions, which it makes if it isn't there.</summary>
-        public IlluminationOptionsType CreateIlluminationOptions() => CreateChild(6, Parts.IlluminationOptions);
+        public IlluminationOptionsType CreateIlluminationOptions() => (IlluminationOptionsType)CreateChild(6, Parts.IlluminationOptions);
 
         /// <summary>Standard observer that the value holds for.</summary>
         public ObserverKind FieldOfView { get => (ObserverKind)Kept(Native.getenum_FieldOfView(Pointer)); set => Demand(Listed(Native.setenum_FieldOfView(Pointer, (int)value))); }
 
         /// <summary>Measuring geometry. Null until set; assigning copies.</summary>
-        public GeometryChoiceType GeometryChoice { get => Child(7, Parts.GeometryChoice); set => AssignChild(7, Parts.GeometryChoice, value); }
+        public GeometryChoiceType GeometryChoice { get => (GeometryChoiceType)Child(7, Parts.GeometryChoice); set => AssignChild(7, Parts.GeometryChoice, value); }
 
         /// <summary>Gives GeometryChoice, which it makes if it isn't there.</summary>
-        public GeometryChoiceType CreateGeometryChoice() => CreateChild(7, Parts.GeometryChoice);
+        public GeometryChoiceType CreateGeometryChoice() => (GeometryChoiceType)CreateChild(7, Parts.GeometryChoice);
 
         /// <summary>Weighting tables used for the tristimulus integration. Null if not set.</summary>
         public AstmTableKind? ASTM_Table { get => Is(Native.isset_ASTM_Table(Pointer)) ? (AstmTableKind)Kept(Native.getenum_ASTM_Table(Pointer)) : default(AstmTableKind?); set => Demand(value == null ? Native.UnsetASTM_Table(Pointer) : Listed(Native.setenum_ASTM_Table(Pointer, (int)value.Value))); }
@@ -564,10 +564,10 @@ namespace Vyr
         public override void Reset() { RemoveParts(); Native.reset(Pointer); Keep(); }
 
         /// <summary>Measuring geometry. Null until set; assigning copies.</summary>
-        public GeometryChoiceType GeometryChoice { get => Child(6, Parts.GeometryChoice); set => AssignChild(6, Parts.GeometryChoice, value); }
+        public GeometryChoiceType GeometryChoice { get => (GeometryChoiceType)Child(6, Parts.GeometryChoice); set => AssignChild(6, Parts.GeometryChoice, value); }
 
         /// <summary>Gives GeometryChoice, which it makes if it isn't there.</summary>
-        public GeometryChoiceType CreateGeometryChoice() => CreateChild(6, Parts.GeometryChoice);
+        public GeometryChoiceType CreateGeometryChoice() => (GeometryChoiceType)CreateChild(6, Parts.GeometryChoice);
 
         /// <summary>Weighting tables for a later tristimulus integration. Null if not set.</summary>
         public AstmTableKind? ASTM_Table { get => Is(Native.isset_ASTM_Table(Pointer)) ? (AstmTableKind)Kept(Native.getenum_ASTM_Table(Pointer)) : default(AstmTableKind?); set => Demand(value == null ? Native.UnsetASTM_Table(Pointer) : Listed(Native.setenum_ASTM_Table(Pointer, (int)value.Value))); }

@@ -43,8 +43,10 @@ namespace Vyr
 
         static class Parts
         {
-            internal static readonly IntPtr ColorSpaceSpecificationSpectrumTristimulusItem = Library.Item("ColorSpaceRGBType", "ColorSpaceSpecificationSpectrumTristimulus");
-            internal static readonly PartCalls<ColorSpaceSpecificationSpectrumTristimulus> ColorSpaceSpecificationSpectrumTristimulus = new PartCalls<ColorSpaceSpecificationSpectrumTristimulus> { Item = ColorSpaceSpecificationSpectrumTristimulusItem, Make = h => new ColorSpaceSpecificationSpectrumTristimulus(h), Get = Native.get_ColorSpaceSpecificationSpectrumTristimulus, Assign = Native.assign_ColorSpaceSpecificationSpectrumTristimulus };
+            static IntPtr madeColorSpaceSpecificationSpectrumTristimulusItem;
+            internal static IntPtr ColorSpaceSpecificationSpectrumTristimulusItem => madeColorSpaceSpecificationSpectrumTristimulusItem != IntPtr.Zero ? madeColorSpaceSpecificationSpectrumTristimulusItem : madeColorSpaceSpecificationSpectrumTristimulusItem = Library.Item("ColorSpaceRGBType", "ColorSpaceSpecificationSpectrumTristimulus");
+            static PartCalls madeColorSpaceSpecificationSpectrumTristimulus;
+            internal static PartCalls ColorSpaceSpecificationSpectrumTristimulus => madeColorSpaceSpecificationSpectrumTristimulus != null ? madeColorSpaceSpecificationSpectrumTristimulus : madeColorSpaceSpecificationSpectrumTristimulus = new PartCalls { Item = ColorSpaceSpecificationSpectrumTristimulusItem, Make = h => new ColorSpaceSpecificationSpectrumTristimulus(h), Get = Native.get_ColorSpaceSpecificationSpectrumTristimulus, Assign = Native.assign_ColorSpaceSpecificationSpectrumTristimulus };
         }
     }
 
@@ -83,8 +85,10 @@ namespace Vyr
 
         static class Parts
         {
-            internal static readonly IntPtr ColorSpaceSpecificationSpectrumTristimulusItem = Library.Item("ColorSpaceSRGBType", "ColorSpaceSpecificationSpectrumTristimulus");
-            internal static readonly PartCalls<ColorSpaceSpecificationSpectrumTristimulus> ColorSpaceSpecificationSpectrumTristimulus = new PartCalls<ColorSpaceSpecificationSpectrumTristimulus> { Item = ColorSpaceSpecificationSpectrumTristimulusItem, Make = h => new ColorSpaceSpecificationSpectrumTristimulus(h), Get = Native.get_ColorSpaceSpecificationSpectrumTristimulus, Assign = Native.assign_ColorSpaceSpecificationSpectrumTristimulus };
+            static IntPtr madeColorSpaceSpecificationSpectrumTristimulusItem;
+            internal static IntPtr ColorSpaceSpecificationSpectrumTristimulusItem => madeColorSpaceSpecificationSpectrumTristimulusItem != IntPtr.Zero ? madeColorSpaceSpecificationSpectrumTristimulusItem : madeColorSpaceSpecificationSpectrumTristimulusItem = Library.Item("ColorSpaceSRGBType", "ColorSpaceSpecificationSpectrumTristimulus");
+            static PartCalls madeColorSpaceSpecificationSpectrumTristimulus;
+            internal static PartCalls ColorSpaceSpecificationSpectrumTristimulus => madeColorSpaceSpecificationSpectrumTristimulus != null ? madeColorSpaceSpecificationSpectrumTristimulus : madeColorSpaceSpecificationSpectrumTristimulus = new PartCalls { Item = ColorSpaceSpecificationSpectrumTristimulusItem, Make = h => new ColorSpaceSpecificationSpectrumTristimulus(h), Get = Native.get_ColorSpaceSpecificationSpectrumTristimulus, Assign = Native.assign_ColorSpaceSpecificationSpectrumTristimulus };
         }
     }
 
@@ -123,8 +127,10 @@ namespace Vyr
 
         static class Parts
         {
-            internal static readonly IntPtr ColorSpaceSpecificationSpectrumTristimulusItem = Library.Item("ColorSpaceAdobeRGBType", "ColorSpaceSpecificationSpectrumTristimulus");
-            internal static readonly PartCalls<ColorSpaceSpecificationSpectrumTristimulus> ColorSpaceSpecificationSpectrumTristimulus = new PartCalls<ColorSpaceSpecificationSpectrumTristimulus> { Item = ColorSpaceSpecificationSpectrumTristimulusItem, Make = h => new ColorSpaceSpecificationSpectrumTristimulus(h), Get = Native.get_ColorSpaceSpecificationSpectrumTristimulus, Assign = Native.assign_ColorSpaceSpecificationSpectrumTristimulus };
+            static IntPtr madeColorSpaceSpecificationSpectrumTristimulusItem;
+            internal static IntPtr ColorSpaceSpecificationSpectrumTristimulusItem => madeColorSpaceSpecificationSpectrumTristimulusItem != IntPtr.Zero ? madeColorSpaceSpecificationSpectrumTristimulusItem : madeColorSpaceSpecificationSpectrumTristimulusItem = Library.Item("ColorSpaceAdobeRGBType", "ColorSpaceSpecificationSpectrumTristimulus");
+            static PartCalls madeColorSpaceSpecificationSpectrumTristimulus;
+            internal static PartCalls ColorSpaceSpecificationSpectrumTristimulus => madeColorSpaceSpecificationSpectrumTristimulus != null ? madeColorSpaceSpecificationSpectrumTristimulus : madeColorSpaceSpecificationSpectrumTristimulus = new PartCalls { Item = ColorSpaceSpecificationSpectrumTristimulusItem, Make = h => new ColorSpaceSpecificationSpectrumTristimulus(h), Get = Native.get_ColorSpaceSpecificationSpectrumTristimulus, Assign = Native.assign_ColorSpaceSpecificationSpectrumTristimulus };
         }
     }
 
@@ -163,8 +169,10 @@ namespace Vyr
 
         static class Parts
         {
-            internal static readonly IntPtr ColorSpaceSpecificationSpectrumTristimulusItem = Library.Item("ColorSpaceAdobeWideGamutRGBType", "ColorSpaceSpecificationSpectrumTristimulus");
-            internal static readonly PartCalls<ColorSpaceSpecificationSpectrumTristimulus> ColorSpaceSpecificationSpectrumTristimulus = new PartCalls<ColorSpaceSpecificationSpectrumTristimulus> { Item = ColorSpaceSpecificationSpectrumTristimulusItem, Make = h => new ColorSpaceSpecificationSpectrumTristimulus(h), Get = Native.get_ColorSpaceSpecificationSpectrumTristimulus, Assign = Native.assign_ColorSpaceSpecificationSpectrumTristimulus };
+            static IntPtr madeColorSpaceSpecificationSpectrumTristimulusItem;
+            internal static IntPtr ColorSpaceSpecificationSpectrumTristimulusItem => madeColorSpaceSpecificationSpectrumTristimulusItem != IntPtr.Zero ? madeColorSpaceSpecificationSpectrumTristimulusItem : madeColorSpaceSpecificationSpectrumTristimulusItem = Library.Item("ColorSpaceAdobeWideGamutRGBType", "ColorSpaceSpecificationSpectrumTristimulus");
+            static PartCalls madeColorSpaceSpecificationSpectrumTristimulus;
+            internal static PartCalls ColorSpaceSpecificationSpectrumTristimulus => madeColorSpaceSpecificationSpectrumTristimulus != null ? madeColorSpaceSpecificationSpectrumTristimulus : madeColorSpaceSpecificationSpectrumTristimulus = new PartCalls { Item = ColorSpaceSpecificationSpectrumTristimulusItem, Make = h => new ColorSpaceSpecificationSpectrumTristimulus(h), Get = Native.get_ColorSpaceSpecificationSpectrumTristimulus, Assign = Native.assign_ColorSpaceSpecificationSpectrumTristimulus };
         }
     }
 
@@ -207,9 +215,12 @@ namespace Vyr
 
         static class Parts
         {
-            internal static readonly IntPtr ColorSpaceSpecificationSpectrumGenericItem = Library.Item("ColorSpaceCMYKType", "ColorSpaceSpecificationSpectrumGeneric");
-            internal static readonly PartCalls<ColorSpaceSpecificationSpectrumGeneric> ColorSpaceSpecificationSpectrumGeneric = new PartCalls<ColorSpaceSpecificationSpectrumGeneric> { Item = ColorSpaceSpecificationSpectrumGenericItem, Make = h => new ColorSpaceSpecificationSpectrumGeneric(h), Get = Native.get_ColorSpaceSpecificationSpectrumGeneric, Assign = Native.assign_ColorSpaceSpecificationSpectrumGeneric };
-            internal static readonly ObjectListCalls<SpotColorType> SpotColor = new ObjectListCalls<SpotColorType> { Make = h => new SpotColorType(h), Size = Native.size_SpotColor, Get = Native.get_SpotColor, Assign = Native.assign_SpotColor, Append = Native.append_SpotColor, Insert = Native.insert_SpotColor, Delete = Native.delete_SpotColor, Clear = Native.clear_SpotColor };
+            static IntPtr madeColorSpaceSpecificationSpectrumGenericItem;
+            internal static IntPtr ColorSpaceSpecificationSpectrumGenericItem => madeColorSpaceSpecificationSpectrumGenericItem != IntPtr.Zero ? madeColorSpaceSpecificationSpectrumGenericItem : madeColorSpaceSpecificationSpectrumGenericItem = Library.Item("ColorSpaceCMYKType", "ColorSpaceSpecificationSpectrumGeneric");
+            static PartCalls madeColorSpaceSpecificationSpectrumGeneric;
+            internal static PartCalls ColorSpaceSpecificationSpectrumGeneric => madeColorSpaceSpecificationSpectrumGeneric != null ? madeColorSpaceSpecificationSpectrumGeneric : madeColorSpaceSpecificationSpectrumGeneric = new PartCalls { Item = ColorSpaceSpecificationSpectrumGenericItem, Make = h => new ColorSpaceSpecificationSpectrumGeneric(h), Get = Native.get_ColorSpaceSpecificationSpectrumGeneric, Assign = Native.assign_ColorSpaceSpecificationSpectrumGeneric };
+            static ObjectListCalls<SpotColorType> madeSpotColor;
+            internal static ObjectListCalls<SpotColorType> SpotColor => madeSpotColor != null ? madeSpotColor : madeSpotColor = new ObjectListCalls<SpotColorType> { Make = h => new SpotColorType(h), Size = Native.size_SpotColor, Get = Native.get_SpotColor, Assign = Native.assign_SpotColor, Append = Native.append_SpotColor, Insert = Native.insert_SpotColor, Delete = Native.delete_SpotColor, Clear = Native.clear_SpotColor };
         }
     }
 
@@ -240,7 +251,8 @@ namespace Vyr
 
         static class Parts
         {
-            internal static readonly ObjectListCalls<Color> Color = new ObjectListCalls<Color> { Make = h => new Color(h), Size = Native.size_Color, Get = Native.get_Color, Assign = Native.assign_Color, Append = Native.append_Color, Insert = Native.insert_Color, Delete = Native.delete_Color, Clear = Native.clear_Color };
+            static ObjectListCalls<Color> madeColor;
+            internal static ObjectListCalls<Color> Color => madeColor != null ? madeColor : madeColor = new ObjectListCalls<Color> { Make = h => new Color(h), Size = Native.size_Color, Get = Native.get_Color, Assign = Native.assign_Color, Append = Native.append_Color, Insert = Native.insert_Color, Delete = Native.delete_Color, Clear = Native.clear_Color };
         }
     }
 
@@ -303,9 +315,12 @@ namespace Vyr
 
         static class Parts
         {
-            internal static readonly IntPtr ColorSpaceSpecificationSpectrumGenericItem = Library.Item("ColorSpaceTINTORAOctavanticType", "ColorSpaceSpecificationSpectrumGeneric");
-            internal static readonly PartCalls<ColorSpaceSpecificationSpectrumGeneric> ColorSpaceSpecificationSpectrumGeneric = new PartCalls<ColorSpaceSpecificationSpectrumGeneric> { Item = ColorSpaceSpecificationSpectrumGenericItem, Make = h => new ColorSpaceSpecificationSpectrumGeneric(h), Get = Native.get_ColorSpaceSpecificationSpectrumGeneric, Assign = Native.assign_ColorSpaceSpecificationSpectrumGeneric };
-            internal static readonly ObjectListCalls<SpotColorType> SpotColor = new ObjectListCalls<SpotColorType> { Make = h => new SpotColorType(h), Size = Native.size_SpotColor, Get = Native.get_SpotColor, Assign = Native.assign_SpotColor, Append = Native.append_SpotColor, Insert = Native.insert_SpotColor, Delete = Native.delete_SpotColor, Clear = Native.clear_SpotColor };
+            static IntPtr madeColorSpaceSpecificationSpectrumGenericItem;
+            internal static IntPtr ColorSpaceSpecificationSpectrumGenericItem => madeColorSpaceSpecificationSpectrumGenericItem != IntPtr.Zero ? madeColorSpaceSpecificationSpectrumGenericItem : madeColorSpaceSpecificationSpectrumGenericItem = Library.Item("ColorSpaceTINTORAOctavanticType", "ColorSpaceSpecificationSpectrumGeneric");
+            static PartCalls madeColorSpaceSpecificationSpectrumGeneric;
+            internal static PartCalls ColorSpaceSpecificationSpectrumGeneric => madeColorSpaceSpecificationSpectrumGeneric != null ? madeColorSpaceSpecificationSpectrumGeneric : madeColorSpaceSpecificationSpectrumGeneric = new PartCalls { Item = ColorSpaceSpecificationSpectrumGenericItem, Make = h => new ColorSpaceSpecificationSpectrumGeneric(h), Get = Native.get_ColorSpaceSpecificationSpectrumGeneric, Assign = Native.assign_ColorSpaceSpecificationSpectrumGeneric };
+            static ObjectListCalls<SpotColorType> madeSpotColor;
+            internal static ObjectListCalls<SpotColorType> SpotColor => madeSpotColor != null ? madeSpotColor : madeSpotColor = new ObjectListCalls<SpotColorType> { Make = h => new SpotColorType(h), Size = Native.size_SpotColor, Get = Native.get_SpotColor, Assign = Native.assign_SpotColor, Append = Native.append_SpotColor, Insert = Native.insert_SpotColor, Delete = Native.delete_SpotColor, Clear = Native.clear_SpotColor };
         }
     }
 
@@ -337,8 +352,10 @@ namespace Vyr
 
         static class Parts
         {
-            internal static readonly IntPtr ColorSpaceSpecificationSpectrumGenericItem = Library.Item("ColorSpaceHSLType", "ColorSpaceSpecificationSpectrumGeneric");
-            internal static readonly PartCalls<ColorSpaceSpecificationSpectrumGeneric> ColorSpaceSpecificationSpectrumGeneric = new PartCalls<ColorSpaceSpecificationSpectrumGeneric> { Item = ColorSpaceSpecificationSpectrumGenericItem, Make = h => new ColorSpaceSpecificationSpectrumGeneric(h), Get = Native.get_ColorSpaceSpecificationSpectrumGeneric, Assign = Native.assign_ColorSpaceSpecificationSpectrumGeneric };
+            static IntPtr madeColorSpaceSpecificationSpectrumGenericItem;
+            internal static IntPtr ColorSpaceSpecificationSpectrumGenericItem => madeColorSpaceSpecificationSpectrumGenericItem != IntPtr.Zero ? madeColorSpaceSpecificationSpectrumGenericItem : madeColorSpaceSpecificationSpectrumGenericItem = Library.Item("ColorSpaceHSLType", "ColorSpaceSpecificationSpectrumGeneric");
+            static PartCalls madeColorSpaceSpecificationSpectrumGeneric;
+            internal static PartCalls ColorSpaceSpecificationSpectrumGeneric => madeColorSpaceSpecificationSpectrumGeneric != null ? madeColorSpaceSpecificationSpectrumGeneric : madeColorSpaceSpecificationSpectrumGeneric = new PartCalls { Item = ColorSpaceSpecificationSpectrumGenericItem, Make = h => new ColorSpaceSpecificationSpectrumGeneric(h), Get = Native.get_ColorSpaceSpecificationSpectrumGeneric, Assign = Native.assign_ColorSpaceSpecificationSpectrumGeneric };
         }
     }
 
@@ -370,8 +387,10 @@ namespace Vyr
 
         static class Parts
         {
-            internal static readonly IntPtr ColorSpaceSpecificationSpectrumGenericItem = Library.Item("ColorSpaceHSVType", "ColorSpaceSpecificationSpectrumGeneric");
-            internal static readonly PartCalls<ColorSpaceSpecificationSpectrumGeneric> ColorSpaceSpecificationSpectrumGeneric = new PartCalls<ColorSpaceSpecificationSpectrumGeneric> { Item = ColorSpaceSpecificationSpectrumGenericItem, Make = h => new ColorSpaceSpecificationSpectrumGeneric(h), Get = Native.get_ColorSpaceSpecificationSpectrumGeneric, Assign = Native.assign_ColorSpaceSpecificationSpectrumGeneric };
+            static IntPtr madeColorSpaceSpecificationSpectrumGenericItem;
+            internal static IntPtr ColorSpaceSpecificationSpectrumGenericItem => madeColorSpaceSpecificationSpectrumGenericItem != IntPtr.Zero ? madeColorSpaceSpecificationSpectrumGenericItem : madeColorSpaceSpecificationSpectrumGenericItem = Library.Item("ColorSpaceHSVType", "ColorSpaceSpecificationSpectrumGeneric");
+            static PartCalls madeColorSpaceSpecificationSpectrumGeneric;
+            internal static PartCalls ColorSpaceSpecificationSpectrumGeneric => madeColorSpaceSpecificationSpectrumGeneric != null ? madeColorSpaceSpecificationSpectrumGeneric : madeColorSpaceSpecificationSpectrumGeneric = new PartCalls { Item = ColorSpaceSpecificationSpectrumGenericItem, Make = h => new ColorSpaceSpecificationSpectrumGeneric(h), Get = Native.get_ColorSpaceSpecificationSpectrumGeneric, Assign = Native.assign_ColorSpaceSpecificationSpectrumGeneric };
         }
     }
 
@@ -403,8 +422,10 @@ namespace Vyr
 
         static class Parts
         {
-            internal static readonly IntPtr ColorSpaceSpecificationSpectrumGenericItem = Library.Item("ColorSpaceYUVType", "ColorSpaceSpecificationSpectrumGeneric");
-            internal static readonly PartCalls<ColorSpaceSpecificationSpectrumGeneric> ColorSpaceSpecificationSpectrumGeneric = new PartCalls<ColorSpaceSpecificationSpectrumGeneric> { Item = ColorSpaceSpecificationSpectrumGenericItem, Make = h => new ColorSpaceSpecificationSpectrumGeneric(h), Get = Native.get_ColorSpaceSpecificationSpectrumGeneric, Assign = Native.assign_ColorSpaceSpecificationSpectrumGeneric };
+            static IntPtr madeColorSpaceSpecificationSpectrumGenericItem;
+            internal static IntPtr ColorSpaceSpecificationSpectrumGenericItem => madeColorSpaceSpecificationSpectrumGenericItem != IntPtr.Zero ? madeColorSpaceSpecificationSpectrumGenericItem : madeColorSpaceSpecificationSpectrumGenericItem = Library.Item("ColorSpaceYUVType", "ColorSpaceSpecificationSpectrumGeneric");
+            static PartCalls madeColorSpaceSpecificationSpectrumGeneric;
+            internal static PartCalls ColorSpaceSpecificationSpectrumGeneric => madeColorSpaceSpecificationSpectrumGeneric != null ? madeColorSpaceSpecificationSpectrumGeneric : madeColorSpaceSpecificationSpectrumGeneric = new PartCalls { Item = ColorSpaceSpecificationSpectrumGenericItem, Make = h => new ColorSpaceSpecificationSpectrumGeneric(h), Get = Native.get_ColorSpaceSpecificationSpectrumGeneric, Assign = Native.assign_ColorSpaceSpecificationSpectrumGeneric };
         }
     }
 
@@ -436,8 +457,10 @@ namespace Vyr
 
         static class Parts
         {
-            internal static readonly IntPtr ColorSpaceSpecificationSpectrumGenericItem = Library.Item("ColorSpaceYIQType", "ColorSpaceSpecificationSpectrumGeneric");
-            internal static readonly PartCalls<ColorSpaceSpecificationSpectrumGeneric> ColorSpaceSpecificationSpectrumGeneric = new PartCalls<ColorSpaceSpecificationSpectrumGeneric> { Item = ColorSpaceSpecificationSpectrumGenericItem, Make = h => new ColorSpaceSpecificationSpectrumGeneric(h), Get = Native.get_ColorSpaceSpecificationSpectrumGeneric, Assign = Native.assign_ColorSpaceSpecificationSpectrumGeneric };
+            static IntPtr madeColorSpaceSpecificationSpectrumGenericItem;
+            internal static IntPtr ColorSpaceSpecificationSpectrumGenericItem => madeColorSpaceSpecificationSpectrumGenericItem != IntPtr.Zero ? madeColorSpaceSpecificationSpectrumGenericItem : madeColorSpaceSpecificationSpectrumGenericItem = Library.Item("ColorSpaceYIQType", "ColorSpaceSpecificationSpectrumGeneric");
+            static PartCalls madeColorSpaceSpecificationSpectrumGeneric;
+            internal static PartCalls ColorSpaceSpecificationSpectrumGeneric => madeColorSpaceSpecificationSpectrumGeneric != null ? madeColorSpaceSpecificationSpectrumGeneric : madeColorSpaceSpecificationSpectrumGeneric = new PartCalls { Item = ColorSpaceSpecificationSpectrumGenericItem, Make = h => new ColorSpaceSpecificationSpectrumGeneric(h), Get = Native.get_ColorSpaceSpecificationSpectrumGeneric, Assign = Native.assign_ColorSpaceSpecificationSpectrumGeneric };
         }
     }
 
@@ -469,8 +492,10 @@ namespace Vyr
 
         static class Parts
         {
-            internal static readonly IntPtr ColorSpaceSpecificationSpectrumGenericItem = Library.Item("ColorSpaceYBRType", "ColorSpaceSpecificationSpectrumGeneric");
-            internal static readonly PartCalls<ColorSpaceSpecificationSpectrumGeneric> ColorSpaceSpecificationSpectrumGeneric = new PartCalls<ColorSpaceSpecificationSpectrumGeneric> { Item = ColorSpaceSpecificationSpectrumGenericItem, Make = h => new ColorSpaceSpecificationSpectrumGeneric(h), Get = Native.get_ColorSpaceSpecificationSpectrumGeneric, Assign = Native.assign_ColorSpaceSpecificationSpectrumGeneric };
+            static IntPtr madeColorSpaceSpecificationSpectrumGenericItem;
+            internal static IntPtr ColorSpaceSpecificationSpectrumGenericItem => madeColorSpaceSpecificationSpectrumGenericItem != IntPtr.Zero ? madeColorSpaceSpecificationSpectrumGenericItem : madeColorSpaceSpecificationSpectrumGenericItem = Library.Item("ColorSpaceYBRType", "ColorSpaceSpecificationSpectrumGeneric");
+            static PartCalls madeColorSpaceSpecificationSpectrumGeneric;
+            internal static PartCalls ColorSpaceSpecificationSpectrumGeneric => madeColorSpaceSpecificationSpectrumGeneric != null ? madeColorSpaceSpecificationSpectrumGeneric : madeColorSpaceSpecificationSpectrumGeneric = new PartCalls { Item = ColorSpaceSpecificationSpectrumGenericItem, Make = h => new ColorSpaceSpecificationSpectrumGeneric(h), Get = Native.get_ColorSpaceSpecificationSpectrumGeneric, Assign = Native.assign_ColorSpaceSpecificationSpectrumGeneric };
         }
     }
 

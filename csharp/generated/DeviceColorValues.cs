@@ -29,10 +29,10 @@ namespace Vyr
         public string Name { get => Is(Native.isset_Name(Pointer)) ? Kept(Native.get_Name(Pointer)) : null; set => Demand(value == null ? Native.UnsetName(Pointer) : Native.set_Name(Pointer, Library.Whole(value))); }
 
         /// <summary>Conditions under which the value holds. Null until set; assigning copies.</summary>
-        public ColorSpaceSpecificationSpectrumTristimulus ColorSpaceSpecificationSpectrumTristimulus { get => Child(3, Parts.ColorSpaceSpecificationSpectrumTristimulus); set => AssignChild(3, Parts.ColorSpaceSpecificationSpectrumTristimulus, value); }
+        public ColorSpaceSpecificationSpectrumTristimulus ColorSpaceSpecificationSpectrumTristimulus { get => (ColorSpaceSpecificationSpectrumTristimulus)Child(3, Parts.ColorSpaceSpecificationSpectrumTristimulus); set => AssignChild(3, Parts.ColorSpaceSpecificationSpectrumTristimulus, value); }
 
         /// <summary>Gives ColorSpaceSpecificationSpectrumTristimulus, which it makes if it isn't there.</summary>
-        public ColorSpaceSpecificationSpectrumTristimulus CreateColorSpaceSpecificationSpectrumTristimulus() => CreateChild(3, Parts.ColorSpaceSpecificationSpectrumTristimulus);
+        public ColorSpaceSpecificationSpectrumTristimulus CreateColorSpaceSpecificationSpectrumTristimulus() => (ColorSpaceSpecificationSpectrumTristimulus)CreateChild(3, Parts.ColorSpaceSpecificationSpectrumTristimulus);
 
         /// <summary>Red channel, 0 to 1.</summary>
         public double Red { get => Kept(Native.get_Red(Pointer)); set => Demand(Native.set_Red(Pointer, value)); }
@@ -72,10 +72,10 @@ namespace Vyr
         public string Name { get => Is(Native.isset_Name(Pointer)) ? Kept(Native.get_Name(Pointer)) : null; set => Demand(value == null ? Native.UnsetName(Pointer) : Native.set_Name(Pointer, Library.Whole(value))); }
 
         /// <summary>Conditions under which the value holds. Null until set; assigning copies.</summary>
-        public ColorSpaceSpecificationSpectrumTristimulus ColorSpaceSpecificationSpectrumTristimulus { get => Child(3, Parts.ColorSpaceSpecificationSpectrumTristimulus); set => AssignChild(3, Parts.ColorSpaceSpecificationSpectrumTristimulus, value); }
+        public ColorSpaceSpecificationSpectrumTristimulus ColorSpaceSpecificationSpectrumTristimulus { get => (ColorSpaceSpecificationSpectrumTristimulus)Child(3, Parts.ColorSpaceSpecificationSpectrumTristimulus); set => AssignChild(3, Parts.ColorSpaceSpecificationSpectrumTristimulus, value); }
 
         /// <summary>Gives ColorSpaceSpecificationSpectrumTristimulus, which it makes if it isn't there.</summary>
-        public ColorSpaceSpecificationSpectrumTristimulus CreateColorSpaceSpecificationSpectrumTristimulus() => CreateChild(3, Parts.ColorSpaceSpecificationSpectrumTristimulus);
+        public ColorSpaceSpecificationSpectrumTristimulus CreateColorSpaceSpecificationSpectrumTristimulus() => (ColorSpaceSpecificationSpectrumTristimulus)CreateChild(3, Parts.ColorSpaceSpecificationSpectrumTristimulus);
 
         /// <summary>Red channel, 0 to 1.</summary>
         public double Red { get => Kept(Native.get_Red(Pointer)); set => Demand(Native.set_Red(Pointer, value)); }
@@ -115,10 +115,10 @@ namespace Vyr
         public string Name { get => Is(Native.isset_Name(Pointer)) ? Kept(Native.get_Name(Pointer)) : null; set => Demand(value == null ? Native.UnsetName(Pointer) : Native.set_Name(Pointer, Library.Whole(value))); }
 
         /// <summary>Conditions under which the value holds. Null until set; assigning copies.</summary>
-        public ColorSpaceSpecificationSpectrumTristimulus ColorSpaceSpecificationSpectrumTristimulus { get => Child(3, Parts.ColorSpaceSpecificationSpectrumTristimulus); set => AssignChild(3, Parts.ColorSpaceSpecificationSpectrumTristimulus, value); }
+        public ColorSpaceSpecificationSpectrumTristimulus ColorSpaceSpecificationSpectrumTristimulus { get => (ColorSpaceSpecificationSpectrumTristimulus)Child(3, Parts.ColorSpaceSpecificationSpectrumTristimulus); set => AssignChild(3, Parts.ColorSpaceSpecificationSpectrumTristimulus, value); }
 
         /// <summary>Gives ColorSpaceSpecificationSpectrumTristimulus, which it makes if it isn't there.</summary>
-        public ColorSpaceSpecificationSpectrumTristimulus CreateColorSpaceSpecificationSpectrumTristimulus() => CreateChild(3, Parts.ColorSpaceSpecificationSpectrumTristimulus);
+        public ColorSpaceSpecificationSpectrumTristimulus CreateColorSpaceSpecificationSpectrumTristimulus() => (ColorSpaceSpecificationSpectrumTristimulus)CreateChild(3, Parts.ColorSpaceSpecificationSpectrumTristimulus);
 
         /// <summary>Red channel, 0 to 1.</summary>
         public double Red { get => Kept(Native.get_Red(Pointer)); set => Demand(Native.set_Red(Pointer, value)); }
@@ -158,10 +158,10 @@ namespace Vyr
         public string Name { get => Is(Native.isset_Name(Pointer)) ? Kept(Native.get_Name(Pointer)) : null; set => Demand(value == null ? Native.UnsetName(Pointer) : Native.set_Name(Pointer, Library.Whole(value))); }
 
         /// <summary>Conditions under which the value holds. Null until set; assigning copies.</summary>
-        public ColorSpaceSpecificationSpectrumTristimulus ColorSpaceSpecificationSpectrumTristimulus { get => Child(3, Parts.ColorSpaceSpecificationSpectrumTristimulus); set => AssignChild(3, Parts.ColorSpaceSpecificationSpectrumTristimulus, value); }
+        public ColorSpaceSpecificationSpectrumTristimulus ColorSpaceSpecificationSpectrumTristimulus { get => (ColorSpaceSpecificationSpectrumTristimulus)Child(3, Parts.ColorSpaceSpecificationSpectrumTristimulus); set => AssignChild(3, Parts.ColorSpaceSpecificationSpectrumTristimulus, value); }
 
         /// <summary>Gives ColorSpaceSpecificationSpectrumTristimulus, which it makes if it isn't there.</summary>
-        public ColorSpaceSpecificationSpectrumTristimulus CreateColorSpaceSpecificationSpectrumTristimulus() => CreateChild(3, Parts.ColorSpaceSpecificationSpectrumTristimulus);
+        public ColorSpaceSpecificationSpectrumTristimulus CreateColorSpaceSpecificationSpectrumTristimulus() => (ColorSpaceSpecificationSpectrumTristimulus)CreateChild(3, Parts.ColorSpaceSpecificationSpectrumTristimulus);
 
         /// <summary>Red channel, 0 to 1.</summary>
         public double Red { get => Kept(Native.get_Red(Pointer)); set => Demand(Native.set_Red(Pointer, value)); }
@@ -202,10 +202,10 @@ namespace Vyr
         public string Name { get => Is(Native.isset_Name(Pointer)) ? Kept(Native.get_Name(Pointer)) : null; set => Demand(value == null ? Native.UnsetName(Pointer) : Native.set_Name(Pointer, Library.Whole(value))); }
 
         /// <summary>Conditions under which the value holds. Null until set; assigning copies.</summary>
-        public ColorSpaceSpecificationSpectrumGeneric ColorSpaceSpecificationSpectrumGeneric { get => Child(3, Parts.ColorSpaceSpecificationSpectrumGeneric); set => AssignChild(3, Parts.ColorSpaceSpecificationSpectrumGeneric, value); }
+        public ColorSpaceSpecificationSpectrumGeneric ColorSpaceSpecificationSpectrumGeneric { get => (ColorSpaceSpecificationSpectrumGeneric)Child(3, Parts.ColorSpaceSpecificationSpectrumGeneric); set => AssignChild(3, Parts.ColorSpaceSpecificationSpectrumGeneric, value); }
 
         /// <summary>Gives ColorSpaceSpecificationSpectrumGeneric, which it makes if it isn't there.</summary>
-        public ColorSpaceSpecificationSpectrumGeneric CreateColorSpaceSpecificationSpectrumGeneric() => CreateChild(3, Parts.ColorSpaceSpecificationSpectrumGeneric);
+        public ColorSpaceSpecificationSpectrumGeneric CreateColorSpaceSpecificationSpectrumGeneric() => (ColorSpaceSpecificationSpectrumGeneric)CreateChild(3, Parts.ColorSpaceSpecificationSpectrumGeneric);
 
         /// <summary>Cyan in percent, 0 to 100.</summary>
         public double Cyan { get => Kept(Native.get_Cyan(Pointer)); set => Demand(Native.set_Cyan(Pointer, value)); }
@@ -220,7 +220,7 @@ namespace Vyr
         public double Black { get => Kept(Native.get_Black(Pointer)); set => Demand(Native.set_Black(Pointer, value)); }
 
         /// <summary>A spot ink printed besides the process inks.</summary>
-        public ObjectList<SpotColorType> SpotColors => ListOfObjects(4, Parts.SpotColor);
+        public ObjectList<SpotColorType> SpotColors => (ObjectList<SpotColorType>)(Part(4) ?? Remember(4, new ObjectList<SpotColorType>(this, "SpotColors", Parts.SpotColor)));
 
         internal static ColorSpaceCMYKType Of(Handle handle)
         {
@@ -254,7 +254,7 @@ namespace Vyr
         public string ColorSpaceName { get => Is(Native.isset_ColorSpaceName(Pointer)) ? Kept(Native.get_ColorSpaceName(Pointer)) : null; set => Demand(value == null ? Native.UnsetColorSpaceName(Pointer) : Native.set_ColorSpaceName(Pointer, Library.Whole(value))); }
 
         /// <summary>One further channel.</summary>
-        public ObjectList<Color> Colors => ListOfObjects(5, Parts.Color);
+        public ObjectList<Color> Colors => (ObjectList<Color>)(Part(5) ?? Remember(5, new ObjectList<Color>(this, "Colors", Parts.Color)));
     }
 
     /// <summary>One ink channel besides the process inks, by name and amount.</summary>
@@ -304,10 +304,10 @@ namespace Vyr
         public string Name { get => Is(Native.isset_Name(Pointer)) ? Kept(Native.get_Name(Pointer)) : null; set => Demand(value == null ? Native.UnsetName(Pointer) : Native.set_Name(Pointer, Library.Whole(value))); }
 
         /// <summary>Conditions under which the value holds. Null until set; assigning copies.</summary>
-        public ColorSpaceSpecificationSpectrumGeneric ColorSpaceSpecificationSpectrumGeneric { get => Child(3, Parts.ColorSpaceSpecificationSpectrumGeneric); set => AssignChild(3, Parts.ColorSpaceSpecificationSpectrumGeneric, value); }
+        public ColorSpaceSpecificationSpectrumGeneric ColorSpaceSpecificationSpectrumGeneric { get => (ColorSpaceSpecificationSpectrumGeneric)Child(3, Parts.ColorSpaceSpecificationSpectrumGeneric); set => AssignChild(3, Parts.ColorSpaceSpecificationSpectrumGeneric, value); }
 
         /// <summary>Gives ColorSpaceSpecificationSpectrumGeneric, which it makes if it isn't there.</summary>
-        public ColorSpaceSpecificationSpectrumGeneric CreateColorSpaceSpecificationSpectrumGeneric() => CreateChild(3, Parts.ColorSpaceSpecificationSpectrumGeneric);
+        public ColorSpaceSpecificationSpectrumGeneric CreateColorSpaceSpecificationSpectrumGeneric() => (ColorSpaceSpecificationSpectrumGeneric)CreateChild(3, Parts.ColorSpaceSpecificationSpectrumGeneric);
 
         /// <summary>Cyan in percent, 0 to 100.</summary>
         public double Cyan { get => Kept(Native.get_Cyan(Pointer)); set => Demand(Native.set_Cyan(Pointer, value)); }
@@ -328,7 +328,7 @@ namespace Vyr
         public double Green { get => Kept(Native.get_Green(Pointer)); set => Demand(Native.set_Green(Pointer, value)); }
 
         /// <summary>A spot ink printed besides the process inks.</summary>
-        public ObjectList<SpotColorType> SpotColors => ListOfObjects(4, Parts.SpotColor);
+        public ObjectList<SpotColorType> SpotColors => (ObjectList<SpotColorType>)(Part(4) ?? Remember(4, new ObjectList<SpotColorType>(this, "SpotColors", Parts.SpotColor)));
     }
 
     /// <summary>A colour by hue, saturation and lightness.</summary>
@@ -353,10 +353,10 @@ namespace Vyr
         public string Name { get => Is(Native.isset_Name(Pointer)) ? Kept(Native.get_Name(Pointer)) : null; set => Demand(value == null ? Native.UnsetName(Pointer) : Native.set_Name(Pointer, Library.Whole(value))); }
 
         /// <summary>Conditions under which the value holds. Null until set; assigning copies.</summary>
-        public ColorSpaceSpecificationSpectrumGeneric ColorSpaceSpecificationSpectrumGeneric { get => Child(3, Parts.ColorSpaceSpecificationSpectrumGeneric); set => AssignChild(3, Parts.ColorSpaceSpecificationSpectrumGeneric, value); }
+        public ColorSpaceSpecificationSpectrumGeneric ColorSpaceSpecificationSpectrumGeneric { get => (ColorSpaceSpecificationSpectrumGeneric)Child(3, Parts.ColorSpaceSpecificationSpectrumGeneric); set => AssignChild(3, Parts.ColorSpaceSpecificationSpectrumGeneric, value); }
 
         /// <summary>Gives ColorSpaceSpecificationSpectrumGeneric, which it makes if it isn't there.</summary>
-        public ColorSpaceSpecificationSpectrumGeneric CreateColorSpaceSpecificationSpectrumGeneric() => CreateChild(3, Parts.ColorSpaceSpecificationSpectrumGeneric);
+        public ColorSpaceSpecificationSpectrumGeneric CreateColorSpaceSpecificationSpectrumGeneric() => (ColorSpaceSpecificationSpectrumGeneric)CreateChild(3, Parts.ColorSpaceSpecificationSpectrumGeneric);
 
         /// <summary>Hue angle in degrees, from 0 to below 360.</summary>
         public double Hue { get => Kept(Native.get_Hue(Pointer)); set => Demand(Native.set_Hue(Pointer, value)); }
@@ -390,10 +390,10 @@ namespace Vyr
         public string Name { get => Is(Native.isset_Name(Pointer)) ? Kept(Native.get_Name(Pointer)) : null; set => Demand(value == null ? Native.UnsetName(Pointer) : Native.set_Name(Pointer, Library.Whole(value))); }
 
         /// <summary>Conditions under which the value holds. Null until set; assigning copies.</summary>
-        public ColorSpaceSpecificationSpectrumGeneric ColorSpaceSpecificationSpectrumGeneric { get => Child(3, Parts.ColorSpaceSpecificationSpectrumGeneric); set => AssignChild(3, Parts.ColorSpaceSpecificationSpectrumGeneric, value); }
+        public ColorSpaceSpecificationSpectrumGeneric ColorSpaceSpecificationSpectrumGeneric { get => (ColorSpaceSpecificationSpectrumGeneric)Child(3, Parts.ColorSpaceSpecificationSpectrumGeneric); set => AssignChild(3, Parts.ColorSpaceSpecificationSpectrumGeneric, value); }
 
         /// <summary>Gives ColorSpaceSpecificationSpectrumGeneric, which it makes if it isn't there.</summary>
-        public ColorSpaceSpecificationSpectrumGeneric CreateColorSpaceSpecificationSpectrumGeneric() => CreateChild(3, Parts.ColorSpaceSpecificationSpectrumGeneric);
+        public ColorSpaceSpecificationSpectrumGeneric CreateColorSpaceSpecificationSpectrumGeneric() => (ColorSpaceSpecificationSpectrumGeneric)CreateChild(3, Parts.ColorSpaceSpecificationSpectrumGeneric);
 
         /// <summary>Hue angle in degrees, from 0 to below 360.</summary>
         public double Hue { get => Kept(Native.get_Hue(Pointer)); set => Demand(Native.set_Hue(Pointer, value)); }
@@ -427,10 +427,10 @@ namespace Vyr
         public string Name { get => Is(Native.isset_Name(Pointer)) ? Kept(Native.get_Name(Pointer)) : null; set => Demand(value == null ? Native.UnsetName(Pointer) : Native.set_Name(Pointer, Library.Whole(value))); }
 
         /// <summary>Conditions under which the value holds. Null until set; assigning copies.</summary>
-        public ColorSpaceSpecificationSpectrumGeneric ColorSpaceSpecificationSpectrumGeneric { get => Child(3, Parts.ColorSpaceSpecificationSpectrumGeneric); set => AssignChild(3, Parts.ColorSpaceSpecificationSpectrumGeneric, value); }
+        public ColorSpaceSpecificationSpectrumGeneric ColorSpaceSpecificationSpectrumGeneric { get => (ColorSpaceSpecificationSpectrumGeneric)Child(3, Parts.ColorSpaceSpecificationSpectrumGeneric); set => AssignChild(3, Parts.ColorSpaceSpecificationSpectrumGeneric, value); }
 
         /// <summary>Gives ColorSpaceSpecificationSpectrumGeneric, which it makes if it isn't there.</summary>
-        public ColorSpaceSpecificationSpectrumGeneric CreateColorSpaceSpecificationSpectrumGeneric() => CreateChild(3, Parts.ColorSpaceSpecificationSpectrumGeneric);
+        public ColorSpaceSpecificationSpectrumGeneric CreateColorSpaceSpecificationSpectrumGeneric() => (ColorSpaceSpecificationSpectrumGeneric)CreateChild(3, Parts.ColorSpaceSpecificationSpectrumGeneric);
 
         /// <summary>Luma, 0 to 1.</summary>
         public double Y { get => Kept(Native.get_Y(Pointer)); set => Demand(Native.set_Y(Pointer, value)); }
@@ -464,10 +464,10 @@ namespace Vyr
         public string Name { get => Is(Native.isset_Name(Pointer)) ? Kept(Native.get_Name(Pointer)) : null; set => Demand(value == null ? Native.UnsetName(Pointer) : Native.set_Name(Pointer, Library.Whole(value))); }
 
         /// <summary>Conditions under which the value holds. Null until set; assigning copies.</summary>
-        public ColorSpaceSpecificationSpectrumGeneric ColorSpaceSpecificationSpectrumGeneric { get => Child(3, Parts.ColorSpaceSpecificationSpectrumGeneric); set => AssignChild(3, Parts.ColorSpaceSpecificationSpectrumGeneric, value); }
+        public ColorSpaceSpecificationSpectrumGeneric ColorSpaceSpecificationSpectrumGeneric { get => (ColorSpaceSpecificationSpectrumGeneric)Child(3, Parts.ColorSpaceSpecificationSpectrumGeneric); set => AssignChild(3, Parts.ColorSpaceSpecificationSpectrumGeneric, value); }
 
         /// <summary>Gives ColorSpaceSpecificationSpectrumGeneric, which it makes if it isn't there.</summary>
-        public ColorSpaceSpecificationSpectrumGeneric CreateColorSpaceSpecificationSpectrumGeneric() => CreateChild(3, Parts.ColorSpaceSpecificationSpectrumGeneric);
+        public ColorSpaceSpecificationSpectrumGeneric CreateColorSpaceSpecificationSpectrumGeneric() => (ColorSpaceSpecificationSpectrumGeneric)CreateChild(3, Parts.ColorSpaceSpecificationSpectrumGeneric);
 
         /// <summary>Luma, 0 to 1.</summary>
         public double Y { get => Kept(Native.get_Y(Pointer)); set => Demand(Native.set_Y(Pointer, value)); }
@@ -501,10 +501,10 @@ namespace Vyr
         public string Name { get => Is(Native.isset_Name(Pointer)) ? Kept(Native.get_Name(Pointer)) : null; set => Demand(value == null ? Native.UnsetName(Pointer) : Native.set_Name(Pointer, Library.Whole(value))); }
 
         /// <summary>Conditions under which the value holds. Null until set; assigning copies.</summary>
-        public ColorSpaceSpecificationSpectrumGeneric ColorSpaceSpecificationSpectrumGeneric { get => Child(3, Parts.ColorSpaceSpecificationSpectrumGeneric); set => AssignChild(3, Parts.ColorSpaceSpecificationSpectrumGeneric, value); }
+        public ColorSpaceSpecificationSpectrumGeneric ColorSpaceSpecificationSpectrumGeneric { get => (ColorSpaceSpecificationSpectrumGeneric)Child(3, Parts.ColorSpaceSpecificationSpectrumGeneric); set => AssignChild(3, Parts.ColorSpaceSpecificationSpectrumGeneric, value); }
 
         /// <summary>Gives ColorSpaceSpecificationSpectrumGeneric, which it makes if it isn't there.</summary>
-        public ColorSpaceSpecificationSpectrumGeneric CreateColorSpaceSpecificationSpectrumGeneric() => CreateChild(3, Parts.ColorSpaceSpecificationSpectrumGeneric);
+        public ColorSpaceSpecificationSpectrumGeneric CreateColorSpaceSpecificationSpectrumGeneric() => (ColorSpaceSpecificationSpectrumGeneric)CreateChild(3, Parts.ColorSpaceSpecificationSpectrumGeneric);
 
         /// <summary>Luma, 0 to 1.</summary>
         public double Y { get => Kept(Native.get_Y(Pointer)); set => Demand(Native.set_Y(Pointer, value)); }

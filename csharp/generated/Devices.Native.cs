@@ -119,11 +119,16 @@ namespace Vyr
 
         static class Parts
         {
-            internal static readonly ObjectListCalls<CustomAttributeType> CustomAttribute = new ObjectListCalls<CustomAttributeType> { Make = h => new CustomAttributeType(h), Size = Native.size_CustomAttribute, Get = Native.get_CustomAttribute, Assign = Native.assign_CustomAttribute, Append = Native.append_CustomAttribute, Insert = Native.insert_CustomAttribute, Delete = Native.delete_CustomAttribute, Clear = Native.clear_CustomAttribute };
-            internal static readonly IntPtr GlossCompensationItem = Library.Item("DeviceSettings", "GlossCompensation");
-            internal static readonly PartCalls<GlossCompensation> GlossCompensation = new PartCalls<GlossCompensation> { Item = GlossCompensationItem, Make = h => new GlossCompensation(h), Get = Native.get_GlossCompensation, Assign = Native.assign_GlossCompensation, Unset = Native.unset_GlossCompensation };
-            internal static readonly IntPtr AveragingItem = Library.Item("DeviceSettings", "Averaging");
-            internal static readonly PartCalls<Averaging> Averaging = new PartCalls<Averaging> { Item = AveragingItem, Make = h => new Averaging(h), Get = Native.get_Averaging, Assign = Native.assign_Averaging, Unset = Native.unset_Averaging };
+            static ObjectListCalls<CustomAttributeType> madeCustomAttribute;
+            internal static ObjectListCalls<CustomAttributeType> CustomAttribute => madeCustomAttribute != null ? madeCustomAttribute : madeCustomAttribute = new ObjectListCalls<CustomAttributeType> { Make = h => new CustomAttributeType(h), Size = Native.size_CustomAttribute, Get = Native.get_CustomAttribute, Assign = Native.assign_CustomAttribute, Append = Native.append_CustomAttribute, Insert = Native.insert_CustomAttribute, Delete = Native.delete_CustomAttribute, Clear = Native.clear_CustomAttribute };
+            static IntPtr madeGlossCompensationItem;
+            internal static IntPtr GlossCompensationItem => madeGlossCompensationItem != IntPtr.Zero ? madeGlossCompensationItem : madeGlossCompensationItem = Library.Item("DeviceSettings", "GlossCompensation");
+            static PartCalls madeGlossCompensation;
+            internal static PartCalls GlossCompensation => madeGlossCompensation != null ? madeGlossCompensation : madeGlossCompensation = new PartCalls { Item = GlossCompensationItem, Make = h => new GlossCompensation(h), Get = Native.get_GlossCompensation, Assign = Native.assign_GlossCompensation, Unset = Native.unset_GlossCompensation };
+            static IntPtr madeAveragingItem;
+            internal static IntPtr AveragingItem => madeAveragingItem != IntPtr.Zero ? madeAveragingItem : madeAveragingItem = Library.Item("DeviceSettings", "Averaging");
+            static PartCalls madeAveraging;
+            internal static PartCalls Averaging => madeAveraging != null ? madeAveraging : madeAveraging = new PartCalls { Item = AveragingItem, Make = h => new Averaging(h), Get = Native.get_Averaging, Assign = Native.assign_Averaging, Unset = Native.unset_Averaging };
         }
     }
 
@@ -176,11 +181,16 @@ namespace Vyr
 
         static class Parts
         {
-            internal static readonly ObjectListCalls<CustomAttributeType> CustomAttribute = new ObjectListCalls<CustomAttributeType> { Make = h => new CustomAttributeType(h), Size = Native.size_CustomAttribute, Get = Native.get_CustomAttribute, Assign = Native.assign_CustomAttribute, Append = Native.append_CustomAttribute, Insert = Native.insert_CustomAttribute, Delete = Native.delete_CustomAttribute, Clear = Native.clear_CustomAttribute };
-            internal static readonly IntPtr CalibrationStateItem = Library.Item("DeviceType", "CalibrationState");
-            internal static readonly PartCalls<CalibrationStateType> CalibrationState = new PartCalls<CalibrationStateType> { Item = CalibrationStateItem, Make = h => new CalibrationStateType(h), Get = Native.get_CalibrationState, Assign = Native.assign_CalibrationState, Unset = Native.unset_CalibrationState };
-            internal static readonly IntPtr DeviceSettingsItem = Library.Item("DeviceType", "DeviceSettings");
-            internal static readonly PartCalls<DeviceSettings> DeviceSettings = new PartCalls<DeviceSettings> { Item = DeviceSettingsItem, Make = h => new DeviceSettings(h), Get = Native.get_DeviceSettings, Assign = Native.assign_DeviceSettings, Unset = Native.unset_DeviceSettings };
+            static ObjectListCalls<CustomAttributeType> madeCustomAttribute;
+            internal static ObjectListCalls<CustomAttributeType> CustomAttribute => madeCustomAttribute != null ? madeCustomAttribute : madeCustomAttribute = new ObjectListCalls<CustomAttributeType> { Make = h => new CustomAttributeType(h), Size = Native.size_CustomAttribute, Get = Native.get_CustomAttribute, Assign = Native.assign_CustomAttribute, Append = Native.append_CustomAttribute, Insert = Native.insert_CustomAttribute, Delete = Native.delete_CustomAttribute, Clear = Native.clear_CustomAttribute };
+            static IntPtr madeCalibrationStateItem;
+            internal static IntPtr CalibrationStateItem => madeCalibrationStateItem != IntPtr.Zero ? madeCalibrationStateItem : madeCalibrationStateItem = Library.Item("DeviceType", "CalibrationState");
+            static PartCalls madeCalibrationState;
+            internal static PartCalls CalibrationState => madeCalibrationState != null ? madeCalibrationState : madeCalibrationState = new PartCalls { Item = CalibrationStateItem, Make = h => new CalibrationStateType(h), Get = Native.get_CalibrationState, Assign = Native.assign_CalibrationState, Unset = Native.unset_CalibrationState };
+            static IntPtr madeDeviceSettingsItem;
+            internal static IntPtr DeviceSettingsItem => madeDeviceSettingsItem != IntPtr.Zero ? madeDeviceSettingsItem : madeDeviceSettingsItem = Library.Item("DeviceType", "DeviceSettings");
+            static PartCalls madeDeviceSettings;
+            internal static PartCalls DeviceSettings => madeDeviceSettings != null ? madeDeviceSettings : madeDeviceSettings = new PartCalls { Item = DeviceSettingsItem, Make = h => new DeviceSettings(h), Get = Native.get_DeviceSettings, Assign = Native.assign_DeviceSettings, Unset = Native.unset_DeviceSettings };
         }
     }
 
@@ -204,7 +214,8 @@ namespace Vyr
 
         static class Parts
         {
-            internal static readonly PartCalls<ProfileFile> ProfileFile = new PartCalls<ProfileFile> { Make = h => new ProfileFile(h), Get = Native.get_ProfileFile, Assign = Native.assign_ProfileFile };
+            static PartCalls madeProfileFile;
+            internal static PartCalls ProfileFile => madeProfileFile != null ? madeProfileFile : madeProfileFile = new PartCalls { Make = h => new ProfileFile(h), Get = Native.get_ProfileFile, Assign = Native.assign_ProfileFile };
         }
     }
 
@@ -239,9 +250,12 @@ namespace Vyr
 
         static class Parts
         {
-            internal static readonly IntPtr ProfileChoiceItem = Library.Item("ProfileType", "ProfileChoice");
-            internal static readonly PartCalls<ProfileChoice> ProfileChoice = new PartCalls<ProfileChoice> { Item = ProfileChoiceItem, Make = h => new ProfileChoice(h), Get = Native.get_ProfileChoice, Assign = Native.assign_ProfileChoice };
-            internal static readonly ObjectListCalls<ProfileType_Parameters> Parameters = new ObjectListCalls<ProfileType_Parameters> { Make = h => new ProfileType_Parameters(h), Size = Native.size_Parameters, Get = Native.get_Parameters, Assign = Native.assign_Parameters, Append = Native.append_Parameters, Insert = Native.insert_Parameters, Delete = Native.delete_Parameters, Clear = Native.clear_Parameters };
+            static IntPtr madeProfileChoiceItem;
+            internal static IntPtr ProfileChoiceItem => madeProfileChoiceItem != IntPtr.Zero ? madeProfileChoiceItem : madeProfileChoiceItem = Library.Item("ProfileType", "ProfileChoice");
+            static PartCalls madeProfileChoice;
+            internal static PartCalls ProfileChoice => madeProfileChoice != null ? madeProfileChoice : madeProfileChoice = new PartCalls { Item = ProfileChoiceItem, Make = h => new ProfileChoice(h), Get = Native.get_ProfileChoice, Assign = Native.assign_ProfileChoice };
+            static ObjectListCalls<ProfileType_Parameters> madeParameters;
+            internal static ObjectListCalls<ProfileType_Parameters> Parameters => madeParameters != null ? madeParameters : madeParameters = new ObjectListCalls<ProfileType_Parameters> { Make = h => new ProfileType_Parameters(h), Size = Native.size_Parameters, Get = Native.get_Parameters, Assign = Native.assign_Parameters, Append = Native.append_Parameters, Insert = Native.insert_Parameters, Delete = Native.delete_Parameters, Clear = Native.clear_Parameters };
         }
     }
 
@@ -306,8 +320,10 @@ namespace Vyr
 
         static class Parts
         {
-            internal static readonly IntPtr ValueChoiceItem = Library.Item("ProfileType_Parameters", "ValueChoice");
-            internal static readonly PartCalls<ProfileType_Parameters_ValueChoice> ValueChoice = new PartCalls<ProfileType_Parameters_ValueChoice> { Item = ValueChoiceItem, Make = h => new ProfileType_Parameters_ValueChoice(h), Get = Native.get_ValueChoice, Assign = Native.assign_ValueChoice };
+            static IntPtr madeValueChoiceItem;
+            internal static IntPtr ValueChoiceItem => madeValueChoiceItem != IntPtr.Zero ? madeValueChoiceItem : madeValueChoiceItem = Library.Item("ProfileType_Parameters", "ValueChoice");
+            static PartCalls madeValueChoice;
+            internal static PartCalls ValueChoice => madeValueChoice != null ? madeValueChoice : madeValueChoice = new PartCalls { Item = ValueChoiceItem, Make = h => new ProfileType_Parameters_ValueChoice(h), Get = Native.get_ValueChoice, Assign = Native.assign_ValueChoice };
         }
     }
 }

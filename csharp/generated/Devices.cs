@@ -105,7 +105,7 @@ namespace Vyr
         public override void Reset() { RemoveParts(); Native.reset(Pointer); Keep(); }
 
         /// <summary>A named value of the user's own.</summary>
-        public ObjectList<CustomAttributeType> CustomAttributes => ListOfObjects(0, Parts.CustomAttribute);
+        public ObjectList<CustomAttributeType> CustomAttributes => (ObjectList<CustomAttributeType>)(Part(0) ?? Remember(0, new ObjectList<CustomAttributeType>(this, "CustomAttributes", Parts.CustomAttribute)));
 
         /// <summary>Aperture in the instrument's own unit, above 0. Null if not set.</summary>
         public uint? Aperture { get => Is(Native.isset_Aperture(Pointer)) ? Kept(Native.get_Aperture(Pointer)) : default(uint?); set => Demand(value == null ? Native.UnsetAperture(Pointer) : Native.set_Aperture(Pointer, value.Value)); }
@@ -118,16 +118,16 @@ namespace Vyr
 
         /// <summary>Whether the reading is corrected for gloss, and by how much. Null until set; assigning
         /// copies.</summary>
-        public GlossCompensation GlossCompensation { get => Child(1, Parts.GlossCompensation); set => AssignChild(1, Parts.GlossCompensation, value); }
+        public GlossCompensation GlossCompensation { get => (GlossCompensation)Child(1, Parts.GlossCompensation); set => AssignChild(1, Parts.GlossCompensation, value); }
 
         /// <summary>Gives GlossCompensation, which it makes if it isn't there.</summary>
-        public GlossCompensation CreateGlossCompensation() => CreateChild(1, Parts.GlossCompensation);
+        public GlossCompensation CreateGlossCompensation() => (GlossCompensation)CreateChild(1, Parts.GlossCompensation);
 
         /// <summary>Whether readings are averaged, and how many. Null until set; assigning copies.</summary>
-        public Averaging Averaging { get => Child(2, Parts.Averaging); set => AssignChild(2, Parts.Averaging, value); }
+        public Averaging Averaging { get => (Averaging)Child(2, Parts.Averaging); set => AssignChild(2, Parts.Averaging, value); }
 
         /// <summary>Gives Averaging, which it makes if it isn't there.</summary>
-        public Averaging CreateAveraging() => CreateChild(2, Parts.Averaging);
+        public Averaging CreateAveraging() => (Averaging)CreateChild(2, Parts.Averaging);
 
         /// <summary>Whether the instrument's link trimmer is on. Null if not set.</summary>
         public bool? LinkTrimmer { get => Is(Native.isset_LinkTrimmer(Pointer)) ? Is(Native.get_LinkTrimmer(Pointer)) : default(bool?); set => Demand(value == null ? Native.UnsetLinkTrimmer(Pointer) : Native.set_LinkTrimmer(Pointer, value.Value ? 1u : 0u)); }
@@ -152,7 +152,7 @@ namespace Vyr
         public override void Reset() { RemoveParts(); Native.reset(Pointer); Keep(); }
 
         /// <summary>A named value of the user's own.</summary>
-        public ObjectList<CustomAttributeType> CustomAttributes => ListOfObjects(0, Parts.CustomAttribute);
+        public ObjectList<CustomAttributeType> CustomAttributes => (ObjectList<CustomAttributeType>)(Part(0) ?? Remember(0, new ObjectList<CustomAttributeType>(this, "CustomAttributes", Parts.CustomAttribute)));
 
         /// <summary>Who makes the device.</summary>
         public string Manufacturer { get => Kept(Native.get_Manufacturer(Pointer)); set => Demand(Native.set_Manufacturer(Pointer, Library.Whole(value))); }
@@ -173,16 +173,16 @@ namespace Vyr
         public string BootFirmwareVersion { get => Is(Native.isset_BootFirmwareVersion(Pointer)) ? Kept(Native.get_BootFirmwareVersion(Pointer)) : null; set => Demand(value == null ? Native.UnsetBootFirmwareVersion(Pointer) : Native.set_BootFirmwareVersion(Pointer, Library.Whole(value))); }
 
         /// <summary>Whether and when the device was calibrated. Null until set; assigning copies.</summary>
-        public CalibrationStateType CalibrationState { get => Child(1, Parts.CalibrationState); set => AssignChild(1, Parts.CalibrationState, value); }
+        public CalibrationStateType CalibrationState { get => (CalibrationStateType)Child(1, Parts.CalibrationState); set => AssignChild(1, Parts.CalibrationState, value); }
 
         /// <summary>Gives CalibrationState, which it makes if it isn't there.</summary>
-        public CalibrationStateType CreateCalibrationState() => CreateChild(1, Parts.CalibrationState);
+        public CalibrationStateType CreateCalibrationState() => (CalibrationStateType)CreateChild(1, Parts.CalibrationState);
 
         /// <summary>How the device was set. Null until set; assigning copies.</summary>
-        public DeviceSettings DeviceSettings { get => Child(2, Parts.DeviceSettings); set => AssignChild(2, Parts.DeviceSettings, value); }
+        public DeviceSettings DeviceSettings { get => (DeviceSettings)Child(2, Parts.DeviceSettings); set => AssignChild(2, Parts.DeviceSettings, value); }
 
         /// <summary>Gives DeviceSettings, which it makes if it isn't there.</summary>
-        public DeviceSettings CreateDeviceSettings() => CreateChild(2, Parts.DeviceSettings);
+        public DeviceSettings CreateDeviceSettings() => (DeviceSettings)CreateChild(2, Parts.DeviceSettings);
     }
 
     /// <summary>A profile inline or by reference.</summary>
@@ -218,13 +218,13 @@ namespace Vyr
         public Alternative Chosen => (Alternative)Kept(Native.getchosen(Pointer));
 
         /// <summary>The profile inline. Null if another is chosen.</summary>
-        public ProfileFile AsProfileFile => Chosen == Alternative.ProfileFile ? Held(0, Parts.ProfileFile) : null;
+        public ProfileFile AsProfileFile => Chosen == Alternative.ProfileFile ? (ProfileFile)Held(0, Parts.ProfileFile) : null;
 
         /// <summary>Gives ProfileFile, which it makes in place of another one if it isn't chosen.</summary>
-        public ProfileFile ChooseProfileFile() => AsProfileFile ?? Choose(0, Parts.ProfileFile);
+        public ProfileFile ChooseProfileFile() => AsProfileFile ?? (ProfileFile)Choose(0, Parts.ProfileFile);
 
         /// <summary>Chooses ProfileFile with a copy of a value.</summary>
-        public ProfileFile ChooseProfileFile(ProfileFile value) => Choose(0, Parts.ProfileFile, value);
+        public ProfileFile ChooseProfileFile(ProfileFile value) => (ProfileFile)Choose(0, Parts.ProfileFile, value);
 
         /// <summary>Where the profile can be found. Null if another is chosen.</summary>
         public string AsProfileURI => Chosen == Alternative.ProfileURI ? Kept(Native.get_ProfileURI(Pointer)) : null;
@@ -255,13 +255,13 @@ namespace Vyr
         public ProfileDirectionKind Direction { get => (ProfileDirectionKind)Kept(Native.getenum_Direction(Pointer)); set => Demand(Listed(Native.setenum_Direction(Pointer, (int)value))); }
 
         /// <summary>The profile's data, or where to find it. Null until set; assigning copies.</summary>
-        public ProfileChoice ProfileChoice { get => Child(0, Parts.ProfileChoice); set => AssignChild(0, Parts.ProfileChoice, value); }
+        public ProfileChoice ProfileChoice { get => (ProfileChoice)Child(0, Parts.ProfileChoice); set => AssignChild(0, Parts.ProfileChoice, value); }
 
         /// <summary>Gives ProfileChoice, which it makes if it isn't there.</summary>
-        public ProfileChoice CreateProfileChoice() => CreateChild(0, Parts.ProfileChoice);
+        public ProfileChoice CreateProfileChoice() => (ProfileChoice)CreateChild(0, Parts.ProfileChoice);
 
         /// <summary>A parameter of the profile.</summary>
-        public ObjectList<ProfileType_Parameters> Parameters => ListOfObjects(1, Parts.Parameters);
+        public ObjectList<ProfileType_Parameters> Parameters => (ObjectList<ProfileType_Parameters>)(Part(1) ?? Remember(1, new ObjectList<ProfileType_Parameters>(this, "Parameters", Parts.Parameters)));
 
         /// <summary>When the profile was made, with time zone. Null if not set.</summary>
         public DateTimeOffset? Created { get => Is(Native.isset_Created(Pointer)) ? DateTimeText.Parse(Kept(DateTimeText.Read(Native.get_Created(Pointer)))) : default(DateTimeOffset?); set => Demand(value == null ? Native.UnsetCreated(Pointer) : DateTimeText.Give(DateTimeText.Format(value.Value), @".+T.+(Z|[+\-].+)", time => Native.set_Created(Pointer, time))); }
@@ -371,9 +371,9 @@ namespace Vyr
         public string Name { get => Kept(Native.get_Name(Pointer)); set => Demand(Native.set_Name(Pointer, Library.Whole(value))); }
 
         /// <summary>Value of the parameter. Null until set; assigning copies.</summary>
-        public ProfileType_Parameters_ValueChoice ValueChoice { get => Child(0, Parts.ValueChoice); set => AssignChild(0, Parts.ValueChoice, value); }
+        public ProfileType_Parameters_ValueChoice ValueChoice { get => (ProfileType_Parameters_ValueChoice)Child(0, Parts.ValueChoice); set => AssignChild(0, Parts.ValueChoice, value); }
 
         /// <summary>Gives ValueChoice, which it makes if it isn't there.</summary>
-        public ProfileType_Parameters_ValueChoice CreateValueChoice() => CreateChild(0, Parts.ValueChoice);
+        public ProfileType_Parameters_ValueChoice CreateValueChoice() => (ProfileType_Parameters_ValueChoice)CreateChild(0, Parts.ValueChoice);
     }
 }

@@ -35,7 +35,8 @@ namespace Vyr
 
         static class Parts
         {
-            internal static readonly ObjectListCalls<CustomAttributeType> CustomAttribute = new ObjectListCalls<CustomAttributeType> { Make = h => new CustomAttributeType(h), Size = Native.size_CustomAttribute, Get = Native.get_CustomAttribute, Assign = Native.assign_CustomAttribute, Append = Native.append_CustomAttribute, Insert = Native.insert_CustomAttribute, Delete = Native.delete_CustomAttribute, Clear = Native.clear_CustomAttribute };
+            static ObjectListCalls<CustomAttributeType> madeCustomAttribute;
+            internal static ObjectListCalls<CustomAttributeType> CustomAttribute => madeCustomAttribute != null ? madeCustomAttribute : madeCustomAttribute = new ObjectListCalls<CustomAttributeType> { Make = h => new CustomAttributeType(h), Size = Native.size_CustomAttribute, Get = Native.get_CustomAttribute, Assign = Native.assign_CustomAttribute, Append = Native.append_CustomAttribute, Insert = Native.insert_CustomAttribute, Delete = Native.delete_CustomAttribute, Clear = Native.clear_CustomAttribute };
         }
     }
 
@@ -75,7 +76,8 @@ namespace Vyr
 
         static class Parts
         {
-            internal static readonly ObjectListCalls<Parameters> Parameters = new ObjectListCalls<Parameters> { Make = h => new Parameters(h), Size = Native.size_Parameters, Get = Native.get_Parameters, Assign = Native.assign_Parameters, Append = Native.append_Parameters, Insert = Native.insert_Parameters, Delete = Native.delete_Parameters, Clear = Native.clear_Parameters };
+            static ObjectListCalls<Parameters> madeParameters;
+            internal static ObjectListCalls<Parameters> Parameters => madeParameters != null ? madeParameters : madeParameters = new ObjectListCalls<Parameters> { Make = h => new Parameters(h), Size = Native.size_Parameters, Get = Native.get_Parameters, Assign = Native.assign_Parameters, Append = Native.append_Parameters, Insert = Native.insert_Parameters, Delete = Native.delete_Parameters, Clear = Native.clear_Parameters };
         }
     }
 
@@ -117,8 +119,10 @@ namespace Vyr
 
         static class Parts
         {
-            internal static readonly IntPtr ValueChoiceItem = Library.Item("Parameters", "ValueChoice");
-            internal static readonly PartCalls<ValueChoice> ValueChoice = new PartCalls<ValueChoice> { Item = ValueChoiceItem, Make = h => new ValueChoice(h), Get = Native.get_ValueChoice, Assign = Native.assign_ValueChoice };
+            static IntPtr madeValueChoiceItem;
+            internal static IntPtr ValueChoiceItem => madeValueChoiceItem != IntPtr.Zero ? madeValueChoiceItem : madeValueChoiceItem = Library.Item("Parameters", "ValueChoice");
+            static PartCalls madeValueChoice;
+            internal static PartCalls ValueChoice => madeValueChoice != null ? madeValueChoice : madeValueChoice = new PartCalls { Item = ValueChoiceItem, Make = h => new ValueChoice(h), Get = Native.get_ValueChoice, Assign = Native.assign_ValueChoice };
         }
     }
 
@@ -304,7 +308,8 @@ namespace Vyr
 
         static class Parts
         {
-            internal static readonly ObjectListCalls<ToleranceParameterType> Parameters = new ObjectListCalls<ToleranceParameterType> { Make = h => new ToleranceParameterType(h), Size = Native.size_Parameters, Get = Native.get_Parameters, Assign = Native.assign_Parameters, Append = Native.append_Parameters, Insert = Native.insert_Parameters, Delete = Native.delete_Parameters, Clear = Native.clear_Parameters };
+            static ObjectListCalls<ToleranceParameterType> madeParameters;
+            internal static ObjectListCalls<ToleranceParameterType> Parameters => madeParameters != null ? madeParameters : madeParameters = new ObjectListCalls<ToleranceParameterType> { Make = h => new ToleranceParameterType(h), Size = Native.size_Parameters, Get = Native.get_Parameters, Assign = Native.assign_Parameters, Append = Native.append_Parameters, Insert = Native.insert_Parameters, Delete = Native.delete_Parameters, Clear = Native.clear_Parameters };
         }
     }
 

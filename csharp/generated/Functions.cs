@@ -24,7 +24,7 @@ namespace Vyr
         public override void Reset() { RemoveParts(); Native.reset(Pointer); Keep(); }
 
         /// <summary>A named value of the user's own.</summary>
-        public ObjectList<CustomAttributeType> CustomAttributes => ListOfObjects(0, Parts.CustomAttribute);
+        public ObjectList<CustomAttributeType> CustomAttributes => (ObjectList<CustomAttributeType>)(Part(0) ?? Remember(0, new ObjectList<CustomAttributeType>(this, "CustomAttributes", Parts.CustomAttribute)));
 
         /// <summary>Value of the function, in the unit of its formula. Null if not set.</summary>
         public double? Result { get => Is(Native.isset_Result(Pointer)) ? Kept(Native.get_Result(Pointer)) : default(double?); set => Demand(value == null ? Native.UnsetResult(Pointer) : Native.set_Result(Pointer, value.Value)); }
@@ -104,7 +104,7 @@ namespace Vyr
         public string Name { get => Kept(Native.get_Name(Pointer)); set => Demand(Native.set_Name(Pointer, Library.Whole(value))); }
 
         /// <summary>A parameter of the function.</summary>
-        public ObjectList<Parameters> Parameters => ListOfObjects(1, Parts.Parameters);
+        public ObjectList<Parameters> Parameters => (ObjectList<Parameters>)(Part(1) ?? Remember(1, new ObjectList<Parameters>(this, "Parameters", Parts.Parameters)));
     }
 
     /// <summary>A number or a text.</summary>
@@ -174,10 +174,10 @@ namespace Vyr
         public string Name { get => Kept(Native.get_Name(Pointer)); set => Demand(Native.set_Name(Pointer, Library.Whole(value))); }
 
         /// <summary>Value of the parameter. Null until set; assigning copies.</summary>
-        public ValueChoice ValueChoice { get => Child(0, Parts.ValueChoice); set => AssignChild(0, Parts.ValueChoice, value); }
+        public ValueChoice ValueChoice { get => (ValueChoice)Child(0, Parts.ValueChoice); set => AssignChild(0, Parts.ValueChoice, value); }
 
         /// <summary>Gives ValueChoice, which it makes if it isn't there.</summary>
-        public ValueChoice CreateValueChoice() => CreateChild(0, Parts.ValueChoice);
+        public ValueChoice CreateValueChoice() => (ValueChoice)CreateChild(0, Parts.ValueChoice);
     }
 
     /// <summary>CIE 1976 colour difference, the distance in L*a*b*.</summary>
@@ -483,7 +483,7 @@ namespace Vyr
         public ToleranceFormulaKind ToleranceType { get => (ToleranceFormulaKind)Kept(Native.getenum_ToleranceType(Pointer)); set => Demand(Listed(Native.setenum_ToleranceType(Pointer, (int)value))); }
 
         /// <summary>Limits of one parameter.</summary>
-        public ObjectList<ToleranceParameterType> Parameters => ListOfObjects(1, Parts.Parameters);
+        public ObjectList<ToleranceParameterType> Parameters => (ObjectList<ToleranceParameterType>)(Part(1) ?? Remember(1, new ObjectList<ToleranceParameterType>(this, "Parameters", Parts.Parameters)));
     }
 
     /// <summary>Limits of one parameter of a tolerance formula.</summary>

@@ -79,35 +79,64 @@ namespace Vyr
 
         static class Parts
         {
-            internal static readonly PartCalls<ColorSpaceRecipeType> ColorSpaceRecipe = new PartCalls<ColorSpaceRecipeType> { Make = h => new ColorSpaceRecipeType(h), Get = Native.get_ColorSpaceRecipe, Assign = Native.assign_ColorSpaceRecipe };
-            internal static readonly PartCalls<ColorSpaceTINTORAType> ColorSpaceTINTORA = new PartCalls<ColorSpaceTINTORAType> { Make = h => new ColorSpaceTINTORAType(h), Get = Native.get_ColorSpaceTINTORA, Assign = Native.assign_ColorSpaceTINTORA };
-            internal static readonly PartCalls<ColorSpaceGenericType> ColorSpaceGeneric = new PartCalls<ColorSpaceGenericType> { Make = h => new ColorSpaceGenericType(h), Get = Native.get_ColorSpaceGeneric, Assign = Native.assign_ColorSpaceGeneric };
-            internal static readonly PartCalls<ColorSpaceEmissiveGenericType> ColorSpaceEmissiveGeneric = new PartCalls<ColorSpaceEmissiveGenericType> { Make = h => new ColorSpaceEmissiveGenericType(h), Get = Native.get_ColorSpaceEmissiveGeneric, Assign = Native.assign_ColorSpaceEmissiveGeneric };
-            internal static readonly PartCalls<ColorSpaceDensityType> ColorSpaceDensity = new PartCalls<ColorSpaceDensityType> { Make = h => new ColorSpaceDensityType(h), Get = Native.get_ColorSpaceDensity, Assign = Native.assign_ColorSpaceDensity };
-            internal static readonly PartCalls<ColorSpaceRGBType> ColorSpaceRGB = new PartCalls<ColorSpaceRGBType> { Make = h => new ColorSpaceRGBType(h), Get = Native.get_ColorSpaceRGB, Assign = Native.assign_ColorSpaceRGB };
-            internal static readonly PartCalls<ColorSpaceSRGBType> ColorSpaceSRGB = new PartCalls<ColorSpaceSRGBType> { Make = h => new ColorSpaceSRGBType(h), Get = Native.get_ColorSpaceSRGB, Assign = Native.assign_ColorSpaceSRGB };
-            internal static readonly PartCalls<ColorSpaceAdobeRGBType> ColorSpaceAdobeRGB = new PartCalls<ColorSpaceAdobeRGBType> { Make = h => new ColorSpaceAdobeRGBType(h), Get = Native.get_ColorSpaceAdobeRGB, Assign = Native.assign_ColorSpaceAdobeRGB };
-            internal static readonly PartCalls<ColorSpaceCMYKPlusNType> ColorSpaceCMYKPlusN = new PartCalls<ColorSpaceCMYKPlusNType> { Make = h => new ColorSpaceCMYKPlusNType(h), Get = Native.get_ColorSpaceCMYKPlusN, Assign = Native.assign_ColorSpaceCMYKPlusN };
-            internal static readonly PartCalls<ColorSpaceAdobeWideGamutRGBType> ColorSpaceAdobeWideGamutRGB = new PartCalls<ColorSpaceAdobeWideGamutRGBType> { Make = h => new ColorSpaceAdobeWideGamutRGBType(h), Get = Native.get_ColorSpaceAdobeWideGamutRGB, Assign = Native.assign_ColorSpaceAdobeWideGamutRGB };
-            internal static readonly PartCalls<ColorSpaceSpectralType> ColorSpaceSpectral = new PartCalls<ColorSpaceSpectralType> { Make = h => new ColorSpaceSpectralType(h), Get = Native.get_ColorSpaceSpectral, Assign = Native.assign_ColorSpaceSpectral };
-            internal static readonly PartCalls<ColorSpaceEmissiveSpectralType> ColorSpaceEmissiveSpectral = new PartCalls<ColorSpaceEmissiveSpectralType> { Make = h => new ColorSpaceEmissiveSpectralType(h), Get = Native.get_ColorSpaceEmissiveSpectral, Assign = Native.assign_ColorSpaceEmissiveSpectral };
-            internal static readonly PartCalls<ColorSpaceCIELabType> ColorSpaceCIELab = new PartCalls<ColorSpaceCIELabType> { Make = h => new ColorSpaceCIELabType(h), Get = Native.get_ColorSpaceCIELab, Assign = Native.assign_ColorSpaceCIELab };
-            internal static readonly PartCalls<ColorSpaceCIELChType> ColorSpaceCIELCh = new PartCalls<ColorSpaceCIELChType> { Make = h => new ColorSpaceCIELChType(h), Get = Native.get_ColorSpaceCIELCh, Assign = Native.assign_ColorSpaceCIELCh };
-            internal static readonly PartCalls<ColorSpaceCIEXYZType> ColorSpaceCIEXYZ = new PartCalls<ColorSpaceCIEXYZType> { Make = h => new ColorSpaceCIEXYZType(h), Get = Native.get_ColorSpaceCIEXYZ, Assign = Native.assign_ColorSpaceCIEXYZ };
-            internal static readonly PartCalls<ColorSpaceEmissiveCIEXYZType> ColorSpaceEmissiveCIEXYZ = new PartCalls<ColorSpaceEmissiveCIEXYZType> { Make = h => new ColorSpaceEmissiveCIEXYZType(h), Get = Native.get_ColorSpaceEmissiveCIEXYZ, Assign = Native.assign_ColorSpaceEmissiveCIEXYZ };
-            internal static readonly PartCalls<ColorSpaceCIExyYType> ColorSpaceCIExyY = new PartCalls<ColorSpaceCIExyYType> { Make = h => new ColorSpaceCIExyYType(h), Get = Native.get_ColorSpaceCIExyY, Assign = Native.assign_ColorSpaceCIExyY };
-            internal static readonly PartCalls<ColorSpaceEmissiveCIExyYType> ColorSpaceEmissiveCIExyY = new PartCalls<ColorSpaceEmissiveCIExyYType> { Make = h => new ColorSpaceEmissiveCIExyYType(h), Get = Native.get_ColorSpaceEmissiveCIExyY, Assign = Native.assign_ColorSpaceEmissiveCIExyY };
-            internal static readonly PartCalls<ColorSpaceCIELuvType> ColorSpaceCIELuv = new PartCalls<ColorSpaceCIELuvType> { Make = h => new ColorSpaceCIELuvType(h), Get = Native.get_ColorSpaceCIELuv, Assign = Native.assign_ColorSpaceCIELuv };
-            internal static readonly PartCalls<ColorSpaceHSLType> ColorSpaceHSL = new PartCalls<ColorSpaceHSLType> { Make = h => new ColorSpaceHSLType(h), Get = Native.get_ColorSpaceHSL, Assign = Native.assign_ColorSpaceHSL };
-            internal static readonly PartCalls<ColorSpaceHSVType> ColorSpaceHSV = new PartCalls<ColorSpaceHSVType> { Make = h => new ColorSpaceHSVType(h), Get = Native.get_ColorSpaceHSV, Assign = Native.assign_ColorSpaceHSV };
-            internal static readonly IntPtr ColorSpaceCMYKItem = Library.Item("sg_ColorSpace", "ColorSpaceCMYK");
-            internal static readonly PartCalls<ColorSpaceCMYKType> ColorSpaceCMYK = new PartCalls<ColorSpaceCMYKType> { Make = h => ColorSpaceCMYKType.Of(h), Get = Native.get_ColorSpaceCMYK, Assign = (p, v) => Library.VyrModule_AssignAlternative(p, ColorSpaceCMYKItem, v) };
-            internal static readonly PartCalls<ColorSpaceTINTORAOctavanticType> ColorSpaceTINTORAOctavantic = new PartCalls<ColorSpaceTINTORAOctavanticType> { Make = h => new ColorSpaceTINTORAOctavanticType(h), Get = Native.get_ColorSpaceTINTORAOctavantic, Assign = Native.assign_ColorSpaceTINTORAOctavantic };
-            internal static readonly PartCalls<ColorSpaceYUVType> ColorSpaceYUV = new PartCalls<ColorSpaceYUVType> { Make = h => new ColorSpaceYUVType(h), Get = Native.get_ColorSpaceYUV, Assign = Native.assign_ColorSpaceYUV };
-            internal static readonly PartCalls<ColorSpaceYIQType> ColorSpaceYIQ = new PartCalls<ColorSpaceYIQType> { Make = h => new ColorSpaceYIQType(h), Get = Native.get_ColorSpaceYIQ, Assign = Native.assign_ColorSpaceYIQ };
-            internal static readonly PartCalls<ColorSpaceYBRType> ColorSpaceYBR = new PartCalls<ColorSpaceYBRType> { Make = h => new ColorSpaceYBRType(h), Get = Native.get_ColorSpaceYBR, Assign = Native.assign_ColorSpaceYBR };
-            internal static readonly PartCalls<ColorSpaceNCSType> ColorSpaceNCS = new PartCalls<ColorSpaceNCSType> { Make = h => new ColorSpaceNCSType(h), Get = Native.get_ColorSpaceNCS, Assign = Native.assign_ColorSpaceNCS };
-            internal static readonly PartCalls<ColorSpaceMunsellType> ColorSpaceMunsell = new PartCalls<ColorSpaceMunsellType> { Make = h => new ColorSpaceMunsellType(h), Get = Native.get_ColorSpaceMunsell, Assign = Native.assign_ColorSpaceMunsell };
+            static PartCalls madeColorSpaceRecipe;
+            internal static PartCalls ColorSpaceRecipe => madeColorSpaceRecipe != null ? madeColorSpaceRecipe : madeColorSpaceRecipe = new PartCalls { Make = h => new ColorSpaceRecipeType(h), Get = Native.get_ColorSpaceRecipe, Assign = Native.assign_ColorSpaceRecipe };
+            static PartCalls madeColorSpaceTINTORA;
+            internal static PartCalls ColorSpaceTINTORA => madeColorSpaceTINTORA != null ? madeColorSpaceTINTORA : madeColorSpaceTINTORA = new PartCalls { Make = h => new ColorSpaceTINTORAType(h), Get = Native.get_ColorSpaceTINTORA, Assign = Native.assign_ColorSpaceTINTORA };
+            static PartCalls madeColorSpaceGeneric;
+            internal static PartCalls ColorSpaceGeneric => madeColorSpaceGeneric != null ? madeColorSpaceGeneric : madeColorSpaceGeneric = new PartCalls { Make = h => new ColorSpaceGenericType(h), Get = Native.get_ColorSpaceGeneric, Assign = Native.assign_ColorSpaceGeneric };
+            static PartCalls madeColorSpaceEmissiveGeneric;
+            internal static PartCalls ColorSpaceEmissiveGeneric => madeColorSpaceEmissiveGeneric != null ? madeColorSpaceEmissiveGeneric : madeColorSpaceEmissiveGeneric = new PartCalls { Make = h => new ColorSpaceEmissiveGenericType(h), Get = Native.get_ColorSpaceEmissiveGeneric, Assign = Native.assign_ColorSpaceEmissiveGeneric };
+            static PartCalls madeColorSpaceDensity;
+            internal static PartCalls ColorSpaceDensity => madeColorSpaceDensity != null ? madeColorSpaceDensity : madeColorSpaceDensity = new PartCalls { Make = h => new ColorSpaceDensityType(h), Get = Native.get_ColorSpaceDensity, Assign = Native.assign_ColorSpaceDensity };
+            static PartCalls madeColorSpaceRGB;
+            internal static PartCalls ColorSpaceRGB => madeColorSpaceRGB != null ? madeColorSpaceRGB : madeColorSpaceRGB = new PartCalls { Make = h => new ColorSpaceRGBType(h), Get = Native.get_ColorSpaceRGB, Assign = Native.assign_ColorSpaceRGB };
+            static PartCalls madeColorSpaceSRGB;
+            internal static PartCalls ColorSpaceSRGB => madeColorSpaceSRGB != null ? madeColorSpaceSRGB : madeColorSpaceSRGB = new PartCalls { Make = h => new ColorSpaceSRGBType(h), Get = Native.get_ColorSpaceSRGB, Assign = Native.assign_ColorSpaceSRGB };
+            static PartCalls madeColorSpaceAdobeRGB;
+            internal static PartCalls ColorSpaceAdobeRGB => madeColorSpaceAdobeRGB != null ? madeColorSpaceAdobeRGB : madeColorSpaceAdobeRGB = new PartCalls { Make = h => new ColorSpaceAdobeRGBType(h), Get = Native.get_ColorSpaceAdobeRGB, Assign = Native.assign_ColorSpaceAdobeRGB };
+            static PartCalls madeColorSpaceCMYKPlusN;
+            internal static PartCalls ColorSpaceCMYKPlusN => madeColorSpaceCMYKPlusN != null ? madeColorSpaceCMYKPlusN : madeColorSpaceCMYKPlusN = new PartCalls { Make = h => new ColorSpaceCMYKPlusNType(h), Get = Native.get_ColorSpaceCMYKPlusN, Assign = Native.assign_ColorSpaceCMYKPlusN };
+            static PartCalls madeColorSpaceAdobeWideGamutRGB;
+            internal static PartCalls ColorSpaceAdobeWideGamutRGB => madeColorSpaceAdobeWideGamutRGB != null ? madeColorSpaceAdobeWideGamutRGB : madeColorSpaceAdobeWideGamutRGB = new PartCalls { Make = h => new ColorSpaceAdobeWideGamutRGBType(h), Get = Native.get_ColorSpaceAdobeWideGamutRGB, Assign = Native.assign_ColorSpaceAdobeWideGamutRGB };
+            static PartCalls madeColorSpaceSpectral;
+            internal static PartCalls ColorSpaceSpectral => madeColorSpaceSpectral != null ? madeColorSpaceSpectral : madeColorSpaceSpectral = new PartCalls { Make = h => new ColorSpaceSpectralType(h), Get = Native.get_ColorSpaceSpectral, Assign = Native.assign_ColorSpaceSpectral };
+            static PartCalls madeColorSpaceEmissiveSpectral;
+            internal static PartCalls ColorSpaceEmissiveSpectral => madeColorSpaceEmissiveSpectral != null ? madeColorSpaceEmissiveSpectral : madeColorSpaceEmissiveSpectral = new PartCalls { Make = h => new ColorSpaceEmissiveSpectralType(h), Get = Native.get_ColorSpaceEmissiveSpectral, Assign = Native.assign_ColorSpaceEmissiveSpectral };
+            static PartCalls madeColorSpaceCIELab;
+            internal static PartCalls ColorSpaceCIELab => madeColorSpaceCIELab != null ? madeColorSpaceCIELab : madeColorSpaceCIELab = new PartCalls { Make = h => new ColorSpaceCIELabType(h), Get = Native.get_ColorSpaceCIELab, Assign = Native.assign_ColorSpaceCIELab };
+            static PartCalls madeColorSpaceCIELCh;
+            internal static PartCalls ColorSpaceCIELCh => madeColorSpaceCIELCh != null ? madeColorSpaceCIELCh : madeColorSpaceCIELCh = new PartCalls { Make = h => new ColorSpaceCIELChType(h), Get = Native.get_ColorSpaceCIELCh, Assign = Native.assign_ColorSpaceCIELCh };
+            static PartCalls madeColorSpaceCIEXYZ;
+            internal static PartCalls ColorSpaceCIEXYZ => madeColorSpaceCIEXYZ != null ? madeColorSpaceCIEXYZ : madeColorSpaceCIEXYZ = new PartCalls { Make = h => new ColorSpaceCIEXYZType(h), Get = Native.get_ColorSpaceCIEXYZ, Assign = Native.assign_ColorSpaceCIEXYZ };
+            static PartCalls madeColorSpaceEmissiveCIEXYZ;
+            internal static PartCalls ColorSpaceEmissiveCIEXYZ => madeColorSpaceEmissiveCIEXYZ != null ? madeColorSpaceEmissiveCIEXYZ : madeColorSpaceEmissiveCIEXYZ = new PartCalls { Make = h => new ColorSpaceEmissiveCIEXYZType(h), Get = Native.get_ColorSpaceEmissiveCIEXYZ, Assign = Native.assign_ColorSpaceEmissiveCIEXYZ };
+            static PartCalls madeColorSpaceCIExyY;
+            internal static PartCalls ColorSpaceCIExyY => madeColorSpaceCIExyY != null ? madeColorSpaceCIExyY : madeColorSpaceCIExyY = new PartCalls { Make = h => new ColorSpaceCIExyYType(h), Get = Native.get_ColorSpaceCIExyY, Assign = Native.assign_ColorSpaceCIExyY };
+            static PartCalls madeColorSpaceEmissiveCIExyY;
+            internal static PartCalls ColorSpaceEmissiveCIExyY => madeColorSpaceEmissiveCIExyY != null ? madeColorSpaceEmissiveCIExyY : madeColorSpaceEmissiveCIExyY = new PartCalls { Make = h => new ColorSpaceEmissiveCIExyYType(h), Get = Native.get_ColorSpaceEmissiveCIExyY, Assign = Native.assign_ColorSpaceEmissiveCIExyY };
+            static PartCalls madeColorSpaceCIELuv;
+            internal static PartCalls ColorSpaceCIELuv => madeColorSpaceCIELuv != null ? madeColorSpaceCIELuv : madeColorSpaceCIELuv = new PartCalls { Make = h => new ColorSpaceCIELuvType(h), Get = Native.get_ColorSpaceCIELuv, Assign = Native.assign_ColorSpaceCIELuv };
+            static PartCalls madeColorSpaceHSL;
+            internal static PartCalls ColorSpaceHSL => madeColorSpaceHSL != null ? madeColorSpaceHSL : madeColorSpaceHSL = new PartCalls { Make = h => new ColorSpaceHSLType(h), Get = Native.get_ColorSpaceHSL, Assign = Native.assign_ColorSpaceHSL };
+            static PartCalls madeColorSpaceHSV;
+            internal static PartCalls ColorSpaceHSV => madeColorSpaceHSV != null ? madeColorSpaceHSV : madeColorSpaceHSV = new PartCalls { Make = h => new ColorSpaceHSVType(h), Get = Native.get_ColorSpaceHSV, Assign = Native.assign_ColorSpaceHSV };
+            static IntPtr madeColorSpaceCMYKItem;
+            internal static IntPtr ColorSpaceCMYKItem => madeColorSpaceCMYKItem != IntPtr.Zero ? madeColorSpaceCMYKItem : madeColorSpaceCMYKItem = Library.Item("sg_ColorSpace", "ColorSpaceCMYK");
+            static PartCalls madeColorSpaceCMYK;
+            internal static PartCalls ColorSpaceCMYK => madeColorSpaceCMYK != null ? madeColorSpaceCMYK : madeColorSpaceCMYK = new PartCalls { Make = h => ColorSpaceCMYKType.Of(h), Get = Native.get_ColorSpaceCMYK, Assign = (p, v) => Library.VyrModule_AssignAlternative(p, ColorSpaceCMYKItem, v) };
+            static PartCalls madeColorSpaceTINTORAOctavantic;
+            internal static PartCalls ColorSpaceTINTORAOctavantic => madeColorSpaceTINTORAOctavantic != null ? madeColorSpaceTINTORAOctavantic : madeColorSpaceTINTORAOctavantic = new PartCalls { Make = h => new ColorSpaceTINTORAOctavanticType(h), Get = Native.get_ColorSpaceTINTORAOctavantic, Assign = Native.assign_ColorSpaceTINTORAOctavantic };
+            static PartCalls madeColorSpaceYUV;
+            internal static PartCalls ColorSpaceYUV => madeColorSpaceYUV != null ? madeColorSpaceYUV : madeColorSpaceYUV = new PartCalls { Make = h => new ColorSpaceYUVType(h), Get = Native.get_ColorSpaceYUV, Assign = Native.assign_ColorSpaceYUV };
+            static PartCalls madeColorSpaceYIQ;
+            internal static PartCalls ColorSpaceYIQ => madeColorSpaceYIQ != null ? madeColorSpaceYIQ : madeColorSpaceYIQ = new PartCalls { Make = h => new ColorSpaceYIQType(h), Get = Native.get_ColorSpaceYIQ, Assign = Native.assign_ColorSpaceYIQ };
+            static PartCalls madeColorSpaceYBR;
+            internal static PartCalls ColorSpaceYBR => madeColorSpaceYBR != null ? madeColorSpaceYBR : madeColorSpaceYBR = new PartCalls { Make = h => new ColorSpaceYBRType(h), Get = Native.get_ColorSpaceYBR, Assign = Native.assign_ColorSpaceYBR };
+            static PartCalls madeColorSpaceNCS;
+            internal static PartCalls ColorSpaceNCS => madeColorSpaceNCS != null ? madeColorSpaceNCS : madeColorSpaceNCS = new PartCalls { Make = h => new ColorSpaceNCSType(h), Get = Native.get_ColorSpaceNCS, Assign = Native.assign_ColorSpaceNCS };
+            static PartCalls madeColorSpaceMunsell;
+            internal static PartCalls ColorSpaceMunsell => madeColorSpaceMunsell != null ? madeColorSpaceMunsell : madeColorSpaceMunsell = new PartCalls { Make = h => new ColorSpaceMunsellType(h), Get = Native.get_ColorSpaceMunsell, Assign = Native.assign_ColorSpaceMunsell };
         }
     }
 
@@ -145,15 +174,24 @@ namespace Vyr
 
         static class Parts
         {
-            internal static readonly PartCalls<SubstratePaperType> SubstratePaper = new PartCalls<SubstratePaperType> { Make = h => new SubstratePaperType(h), Get = Native.get_SubstratePaper, Assign = Native.assign_SubstratePaper };
-            internal static readonly PartCalls<SubstrateGenericType> SubstrateGeneric = new PartCalls<SubstrateGenericType> { Make = h => new SubstrateGenericType(h), Get = Native.get_SubstrateGeneric, Assign = Native.assign_SubstrateGeneric };
-            internal static readonly PartCalls<SubstrateMetalType> SubstrateMetal = new PartCalls<SubstrateMetalType> { Make = h => new SubstrateMetalType(h), Get = Native.get_SubstrateMetal, Assign = Native.assign_SubstrateMetal };
-            internal static readonly PartCalls<SubstratePlasticType> SubstratePlastic = new PartCalls<SubstratePlasticType> { Make = h => new SubstratePlasticType(h), Get = Native.get_SubstratePlastic, Assign = Native.assign_SubstratePlastic };
-            internal static readonly PartCalls<SubstrateWoodType> SubstrateWood = new PartCalls<SubstrateWoodType> { Make = h => new SubstrateWoodType(h), Get = Native.get_SubstrateWood, Assign = Native.assign_SubstrateWood };
-            internal static readonly PartCalls<SubstrateVinylType> SubstrateVinyl = new PartCalls<SubstrateVinylType> { Make = h => new SubstrateVinylType(h), Get = Native.get_SubstrateVinyl, Assign = Native.assign_SubstrateVinyl };
-            internal static readonly PartCalls<SubstrateTileType> SubstrateTile = new PartCalls<SubstrateTileType> { Make = h => new SubstrateTileType(h), Get = Native.get_SubstrateTile, Assign = Native.assign_SubstrateTile };
-            internal static readonly PartCalls<SubstrateFilmType> SubstrateFilm = new PartCalls<SubstrateFilmType> { Make = h => new SubstrateFilmType(h), Get = Native.get_SubstrateFilm, Assign = Native.assign_SubstrateFilm };
-            internal static readonly PartCalls<SubstrateTextileType> SubstrateTextile = new PartCalls<SubstrateTextileType> { Make = h => new SubstrateTextileType(h), Get = Native.get_SubstrateTextile, Assign = Native.assign_SubstrateTextile };
+            static PartCalls madeSubstratePaper;
+            internal static PartCalls SubstratePaper => madeSubstratePaper != null ? madeSubstratePaper : madeSubstratePaper = new PartCalls { Make = h => new SubstratePaperType(h), Get = Native.get_SubstratePaper, Assign = Native.assign_SubstratePaper };
+            static PartCalls madeSubstrateGeneric;
+            internal static PartCalls SubstrateGeneric => madeSubstrateGeneric != null ? madeSubstrateGeneric : madeSubstrateGeneric = new PartCalls { Make = h => new SubstrateGenericType(h), Get = Native.get_SubstrateGeneric, Assign = Native.assign_SubstrateGeneric };
+            static PartCalls madeSubstrateMetal;
+            internal static PartCalls SubstrateMetal => madeSubstrateMetal != null ? madeSubstrateMetal : madeSubstrateMetal = new PartCalls { Make = h => new SubstrateMetalType(h), Get = Native.get_SubstrateMetal, Assign = Native.assign_SubstrateMetal };
+            static PartCalls madeSubstratePlastic;
+            internal static PartCalls SubstratePlastic => madeSubstratePlastic != null ? madeSubstratePlastic : madeSubstratePlastic = new PartCalls { Make = h => new SubstratePlasticType(h), Get = Native.get_SubstratePlastic, Assign = Native.assign_SubstratePlastic };
+            static PartCalls madeSubstrateWood;
+            internal static PartCalls SubstrateWood => madeSubstrateWood != null ? madeSubstrateWood : madeSubstrateWood = new PartCalls { Make = h => new SubstrateWoodType(h), Get = Native.get_SubstrateWood, Assign = Native.assign_SubstrateWood };
+            static PartCalls madeSubstrateVinyl;
+            internal static PartCalls SubstrateVinyl => madeSubstrateVinyl != null ? madeSubstrateVinyl : madeSubstrateVinyl = new PartCalls { Make = h => new SubstrateVinylType(h), Get = Native.get_SubstrateVinyl, Assign = Native.assign_SubstrateVinyl };
+            static PartCalls madeSubstrateTile;
+            internal static PartCalls SubstrateTile => madeSubstrateTile != null ? madeSubstrateTile : madeSubstrateTile = new PartCalls { Make = h => new SubstrateTileType(h), Get = Native.get_SubstrateTile, Assign = Native.assign_SubstrateTile };
+            static PartCalls madeSubstrateFilm;
+            internal static PartCalls SubstrateFilm => madeSubstrateFilm != null ? madeSubstrateFilm : madeSubstrateFilm = new PartCalls { Make = h => new SubstrateFilmType(h), Get = Native.get_SubstrateFilm, Assign = Native.assign_SubstrateFilm };
+            static PartCalls madeSubstrateTextile;
+            internal static PartCalls SubstrateTextile => madeSubstrateTextile != null ? madeSubstrateTextile : madeSubstrateTextile = new PartCalls { Make = h => new SubstrateTextileType(h), Get = Native.get_SubstrateTextile, Assign = Native.assign_SubstrateTextile };
         }
     }
 
@@ -177,8 +215,10 @@ namespace Vyr
 
         static class Parts
         {
-            internal static readonly PartCalls<SampleSpotType> SampleSpot = new PartCalls<SampleSpotType> { Make = h => new SampleSpotType(h), Get = Native.get_SampleSpot, Assign = Native.assign_SampleSpot };
-            internal static readonly PartCalls<SampleTargetType> SampleTarget = new PartCalls<SampleTargetType> { Make = h => new SampleTargetType(h), Get = Native.get_SampleTarget, Assign = Native.assign_SampleTarget };
+            static PartCalls madeSampleSpot;
+            internal static PartCalls SampleSpot => madeSampleSpot != null ? madeSampleSpot : madeSampleSpot = new PartCalls { Make = h => new SampleSpotType(h), Get = Native.get_SampleSpot, Assign = Native.assign_SampleSpot };
+            static PartCalls madeSampleTarget;
+            internal static PartCalls SampleTarget => madeSampleTarget != null ? madeSampleTarget : madeSampleTarget = new PartCalls { Make = h => new SampleTargetType(h), Get = Native.get_SampleTarget, Assign = Native.assign_SampleTarget };
         }
     }
 
@@ -233,25 +273,44 @@ namespace Vyr
 
         static class Parts
         {
-            internal static readonly IntPtr FunctionItem = Library.Item("sg_Function", "Function");
-            internal static readonly PartCalls<FunctionType> Function = new PartCalls<FunctionType> { Make = h => FunctionType.Of(h), Get = Native.get_Function, Assign = (p, v) => Library.VyrModule_AssignAlternative(p, FunctionItem, v) };
-            internal static readonly PartCalls<FunctionGenericType> FunctionGeneric = new PartCalls<FunctionGenericType> { Make = h => new FunctionGenericType(h), Get = Native.get_FunctionGeneric, Assign = Native.assign_FunctionGeneric };
-            internal static readonly PartCalls<FunctionDEType> FunctionDE = new PartCalls<FunctionDEType> { Make = h => new FunctionDEType(h), Get = Native.get_FunctionDE, Assign = Native.assign_FunctionDE };
-            internal static readonly PartCalls<FunctionMeanDEType> FunctionMeanDE = new PartCalls<FunctionMeanDEType> { Make = h => new FunctionMeanDEType(h), Get = Native.get_FunctionMeanDE, Assign = Native.assign_FunctionMeanDE };
-            internal static readonly PartCalls<FunctionDE94Type> FunctionDE94 = new PartCalls<FunctionDE94Type> { Make = h => new FunctionDE94Type(h), Get = Native.get_FunctionDE94, Assign = Native.assign_FunctionDE94 };
-            internal static readonly PartCalls<FunctionDE2000Type> FunctionDE2000 = new PartCalls<FunctionDE2000Type> { Make = h => new FunctionDE2000Type(h), Get = Native.get_FunctionDE2000, Assign = Native.assign_FunctionDE2000 };
-            internal static readonly PartCalls<FunctionDEcmcType> FunctionDECMC = new PartCalls<FunctionDEcmcType> { Make = h => new FunctionDEcmcType(h), Get = Native.get_FunctionDECMC, Assign = Native.assign_FunctionDECMC };
-            internal static readonly PartCalls<FunctionStdDevXType> FunctionStdDevX = new PartCalls<FunctionStdDevXType> { Make = h => new FunctionStdDevXType(h), Get = Native.get_FunctionStdDevX, Assign = Native.assign_FunctionStdDevX };
-            internal static readonly PartCalls<FunctionStdDevYType> FunctionStdDevY = new PartCalls<FunctionStdDevYType> { Make = h => new FunctionStdDevYType(h), Get = Native.get_FunctionStdDevY, Assign = Native.assign_FunctionStdDevY };
-            internal static readonly PartCalls<FunctionStdDevZType> FunctionStdDevZ = new PartCalls<FunctionStdDevZType> { Make = h => new FunctionStdDevZType(h), Get = Native.get_FunctionStdDevZ, Assign = Native.assign_FunctionStdDevZ };
-            internal static readonly PartCalls<FunctionStdDevLType> FunctionStdDevL = new PartCalls<FunctionStdDevLType> { Make = h => new FunctionStdDevLType(h), Get = Native.get_FunctionStdDevL, Assign = Native.assign_FunctionStdDevL };
-            internal static readonly PartCalls<FunctionStdDevAType> FunctionStdDevA = new PartCalls<FunctionStdDevAType> { Make = h => new FunctionStdDevAType(h), Get = Native.get_FunctionStdDevA, Assign = Native.assign_FunctionStdDevA };
-            internal static readonly PartCalls<FunctionStdDevBType> FunctionStdDevB = new PartCalls<FunctionStdDevBType> { Make = h => new FunctionStdDevBType(h), Get = Native.get_FunctionStdDevB, Assign = Native.assign_FunctionStdDevB };
-            internal static readonly PartCalls<FunctionStdDevCType> FunctionStdDevC = new PartCalls<FunctionStdDevCType> { Make = h => new FunctionStdDevCType(h), Get = Native.get_FunctionStdDevC, Assign = Native.assign_FunctionStdDevC };
-            internal static readonly PartCalls<FunctionStdDevHType> FunctionStdDevH = new PartCalls<FunctionStdDevHType> { Make = h => new FunctionStdDevHType(h), Get = Native.get_FunctionStdDevH, Assign = Native.assign_FunctionStdDevH };
-            internal static readonly PartCalls<FunctionAverageStdDevLType> FunctionAverageStdDevL = new PartCalls<FunctionAverageStdDevLType> { Make = h => new FunctionAverageStdDevLType(h), Get = Native.get_FunctionAverageStdDevL, Assign = Native.assign_FunctionAverageStdDevL };
-            internal static readonly PartCalls<FunctionAverageStdDevAType> FunctionAverageStdDevA = new PartCalls<FunctionAverageStdDevAType> { Make = h => new FunctionAverageStdDevAType(h), Get = Native.get_FunctionAverageStdDevA, Assign = Native.assign_FunctionAverageStdDevA };
-            internal static readonly PartCalls<FunctionAverageStdDevBType> FunctionAverageStdDevB = new PartCalls<FunctionAverageStdDevBType> { Make = h => new FunctionAverageStdDevBType(h), Get = Native.get_FunctionAverageStdDevB, Assign = Native.assign_FunctionAverageStdDevB };
+            static IntPtr madeFunctionItem;
+            internal static IntPtr FunctionItem => madeFunctionItem != IntPtr.Zero ? madeFunctionItem : madeFunctionItem = Library.Item("sg_Function", "Function");
+            static PartCalls madeFunction;
+            internal static PartCalls Function => madeFunction != null ? madeFunction : madeFunction = new PartCalls { Make = h => FunctionType.Of(h), Get = Native.get_Function, Assign = (p, v) => Library.VyrModule_AssignAlternative(p, FunctionItem, v) };
+            static PartCalls madeFunctionGeneric;
+            internal static PartCalls FunctionGeneric => madeFunctionGeneric != null ? madeFunctionGeneric : madeFunctionGeneric = new PartCalls { Make = h => new FunctionGenericType(h), Get = Native.get_FunctionGeneric, Assign = Native.assign_FunctionGeneric };
+            static PartCalls madeFunctionDE;
+            internal static PartCalls FunctionDE => madeFunctionDE != null ? madeFunctionDE : madeFunctionDE = new PartCalls { Make = h => new FunctionDEType(h), Get = Native.get_FunctionDE, Assign = Native.assign_FunctionDE };
+            static PartCalls madeFunctionMeanDE;
+            internal static PartCalls FunctionMeanDE => madeFunctionMeanDE != null ? madeFunctionMeanDE : madeFunctionMeanDE = new PartCalls { Make = h => new FunctionMeanDEType(h), Get = Native.get_FunctionMeanDE, Assign = Native.assign_FunctionMeanDE };
+            static PartCalls madeFunctionDE94;
+            internal static PartCalls FunctionDE94 => madeFunctionDE94 != null ? madeFunctionDE94 : madeFunctionDE94 = new PartCalls { Make = h => new FunctionDE94Type(h), Get = Native.get_FunctionDE94, Assign = Native.assign_FunctionDE94 };
+            static PartCalls madeFunctionDE2000;
+            internal static PartCalls FunctionDE2000 => madeFunctionDE2000 != null ? madeFunctionDE2000 : madeFunctionDE2000 = new PartCalls { Make = h => new FunctionDE2000Type(h), Get = Native.get_FunctionDE2000, Assign = Native.assign_FunctionDE2000 };
+            static PartCalls madeFunctionDECMC;
+            internal static PartCalls FunctionDECMC => madeFunctionDECMC != null ? madeFunctionDECMC : madeFunctionDECMC = new PartCalls { Make = h => new FunctionDEcmcType(h), Get = Native.get_FunctionDECMC, Assign = Native.assign_FunctionDECMC };
+            static PartCalls madeFunctionStdDevX;
+            internal static PartCalls FunctionStdDevX => madeFunctionStdDevX != null ? madeFunctionStdDevX : madeFunctionStdDevX = new PartCalls { Make = h => new FunctionStdDevXType(h), Get = Native.get_FunctionStdDevX, Assign = Native.assign_FunctionStdDevX };
+            static PartCalls madeFunctionStdDevY;
+            internal static PartCalls FunctionStdDevY => madeFunctionStdDevY != null ? madeFunctionStdDevY : madeFunctionStdDevY = new PartCalls { Make = h => new FunctionStdDevYType(h), Get = Native.get_FunctionStdDevY, Assign = Native.assign_FunctionStdDevY };
+            static PartCalls madeFunctionStdDevZ;
+            internal static PartCalls FunctionStdDevZ => madeFunctionStdDevZ != null ? madeFunctionStdDevZ : madeFunctionStdDevZ = new PartCalls { Make = h => new FunctionStdDevZType(h), Get = Native.get_FunctionStdDevZ, Assign = Native.assign_FunctionStdDevZ };
+            static PartCalls madeFunctionStdDevL;
+            internal static PartCalls FunctionStdDevL => madeFunctionStdDevL != null ? madeFunctionStdDevL : madeFunctionStdDevL = new PartCalls { Make = h => new FunctionStdDevLType(h), Get = Native.get_FunctionStdDevL, Assign = Native.assign_FunctionStdDevL };
+            static PartCalls madeFunctionStdDevA;
+            internal static PartCalls FunctionStdDevA => madeFunctionStdDevA != null ? madeFunctionStdDevA : madeFunctionStdDevA = new PartCalls { Make = h => new FunctionStdDevAType(h), Get = Native.get_FunctionStdDevA, Assign = Native.assign_FunctionStdDevA };
+            static PartCalls madeFunctionStdDevB;
+            internal static PartCalls FunctionStdDevB => madeFunctionStdDevB != null ? madeFunctionStdDevB : madeFunctionStdDevB = new PartCalls { Make = h => new FunctionStdDevBType(h), Get = Native.get_FunctionStdDevB, Assign = Native.assign_FunctionStdDevB };
+            static PartCalls madeFunctionStdDevC;
+            internal static PartCalls FunctionStdDevC => madeFunctionStdDevC != null ? madeFunctionStdDevC : madeFunctionStdDevC = new PartCalls { Make = h => new FunctionStdDevCType(h), Get = Native.get_FunctionStdDevC, Assign = Native.assign_FunctionStdDevC };
+            static PartCalls madeFunctionStdDevH;
+            internal static PartCalls FunctionStdDevH => madeFunctionStdDevH != null ? madeFunctionStdDevH : madeFunctionStdDevH = new PartCalls { Make = h => new FunctionStdDevHType(h), Get = Native.get_FunctionStdDevH, Assign = Native.assign_FunctionStdDevH };
+            static PartCalls madeFunctionAverageStdDevL;
+            internal static PartCalls FunctionAverageStdDevL => madeFunctionAverageStdDevL != null ? madeFunctionAverageStdDevL : madeFunctionAverageStdDevL = new PartCalls { Make = h => new FunctionAverageStdDevLType(h), Get = Native.get_FunctionAverageStdDevL, Assign = Native.assign_FunctionAverageStdDevL };
+            static PartCalls madeFunctionAverageStdDevA;
+            internal static PartCalls FunctionAverageStdDevA => madeFunctionAverageStdDevA != null ? madeFunctionAverageStdDevA : madeFunctionAverageStdDevA = new PartCalls { Make = h => new FunctionAverageStdDevAType(h), Get = Native.get_FunctionAverageStdDevA, Assign = Native.assign_FunctionAverageStdDevA };
+            static PartCalls madeFunctionAverageStdDevB;
+            internal static PartCalls FunctionAverageStdDevB => madeFunctionAverageStdDevB != null ? madeFunctionAverageStdDevB : madeFunctionAverageStdDevB = new PartCalls { Make = h => new FunctionAverageStdDevBType(h), Get = Native.get_FunctionAverageStdDevB, Assign = Native.assign_FunctionAverageStdDevB };
         }
     }
 }

@@ -45,8 +45,10 @@ namespace Vyr
 
         static class Parts
         {
-            internal static readonly IntPtr SDKVersionItem = Library.Item("SDKType", "SDKVersion");
-            internal static readonly PartCalls<SDKVersion> SDKVersion = new PartCalls<SDKVersion> { Item = SDKVersionItem, Make = h => new SDKVersion(h), Get = Native.get_SDKVersion, Assign = Native.assign_SDKVersion };
+            static IntPtr madeSDKVersionItem;
+            internal static IntPtr SDKVersionItem => madeSDKVersionItem != IntPtr.Zero ? madeSDKVersionItem : madeSDKVersionItem = Library.Item("SDKType", "SDKVersion");
+            static PartCalls madeSDKVersion;
+            internal static PartCalls SDKVersion => madeSDKVersion != null ? madeSDKVersion : madeSDKVersion = new PartCalls { Item = SDKVersionItem, Make = h => new SDKVersion(h), Get = Native.get_SDKVersion, Assign = Native.assign_SDKVersion };
         }
     }
 
@@ -131,17 +133,28 @@ namespace Vyr
 
         static class Parts
         {
-            internal static readonly ObjectListCalls<CustomAttributeType> CustomAttribute = new ObjectListCalls<CustomAttributeType> { Make = h => new CustomAttributeType(h), Size = Native.size_CustomAttribute, Get = Native.get_CustomAttribute, Assign = Native.assign_CustomAttribute, Append = Native.append_CustomAttribute, Insert = Native.insert_CustomAttribute, Delete = Native.delete_CustomAttribute, Clear = Native.clear_CustomAttribute };
-            internal static readonly ValueListCalls<IntPtr> ChangeHistory = new ValueListCalls<IntPtr> { Size = Native.size_ChangeHistory, Get = Native.get_ChangeHistory, Set = Native.set_ChangeHistory, Insert = Native.insert_ChangeHistory, Delete = Native.delete_ChangeHistory, Clear = Native.clear_ChangeHistory };
-            internal static readonly IntPtr ReadSDKInformationItem = Library.Item("Header", "ReadSDKInformation");
-            internal static readonly PartCalls<SDKType> ReadSDKInformation = new PartCalls<SDKType> { Item = ReadSDKInformationItem, Make = h => new SDKType(h), Get = Native.get_ReadSDKInformation, Assign = Native.assign_ReadSDKInformation, Unset = Native.unset_ReadSDKInformation };
-            internal static readonly IntPtr WriteSDKInformationItem = Library.Item("Header", "WriteSDKInformation");
-            internal static readonly PartCalls<SDKType> WriteSDKInformation = new PartCalls<SDKType> { Item = WriteSDKInformationItem, Make = h => new SDKType(h), Get = Native.get_WriteSDKInformation, Assign = Native.assign_WriteSDKInformation, Unset = Native.unset_WriteSDKInformation };
-            internal static readonly IntPtr ReadPlatformInformationItem = Library.Item("Header", "ReadPlatformInformation");
-            internal static readonly PartCalls<PlatformType> ReadPlatformInformation = new PartCalls<PlatformType> { Item = ReadPlatformInformationItem, Make = h => new PlatformType(h), Get = Native.get_ReadPlatformInformation, Assign = Native.assign_ReadPlatformInformation, Unset = Native.unset_ReadPlatformInformation };
-            internal static readonly IntPtr WritePlatformInformationItem = Library.Item("Header", "WritePlatformInformation");
-            internal static readonly PartCalls<PlatformType> WritePlatformInformation = new PartCalls<PlatformType> { Item = WritePlatformInformationItem, Make = h => new PlatformType(h), Get = Native.get_WritePlatformInformation, Assign = Native.assign_WritePlatformInformation, Unset = Native.unset_WritePlatformInformation };
-            internal static readonly ObjectListCalls<Revision> Revision = new ObjectListCalls<Revision> { Make = h => new Revision(h), Size = Native.size_Revision, Get = Native.get_Revision, Assign = Native.assign_Revision, Append = Native.append_Revision, Insert = Native.insert_Revision, Delete = Native.delete_Revision, Clear = Native.clear_Revision };
+            static ObjectListCalls<CustomAttributeType> madeCustomAttribute;
+            internal static ObjectListCalls<CustomAttributeType> CustomAttribute => madeCustomAttribute != null ? madeCustomAttribute : madeCustomAttribute = new ObjectListCalls<CustomAttributeType> { Make = h => new CustomAttributeType(h), Size = Native.size_CustomAttribute, Get = Native.get_CustomAttribute, Assign = Native.assign_CustomAttribute, Append = Native.append_CustomAttribute, Insert = Native.insert_CustomAttribute, Delete = Native.delete_CustomAttribute, Clear = Native.clear_CustomAttribute };
+            static ValueListCalls<IntPtr> madeChangeHistory;
+            internal static ValueListCalls<IntPtr> ChangeHistory => madeChangeHistory != null ? madeChangeHistory : madeChangeHistory = new ValueListCalls<IntPtr> { Size = Native.size_ChangeHistory, Get = Native.get_ChangeHistory, Set = Native.set_ChangeHistory, Insert = Native.insert_ChangeHistory, Delete = Native.delete_ChangeHistory, Clear = Native.clear_ChangeHistory };
+            static IntPtr madeReadSDKInformationItem;
+            internal static IntPtr ReadSDKInformationItem => madeReadSDKInformationItem != IntPtr.Zero ? madeReadSDKInformationItem : madeReadSDKInformationItem = Library.Item("Header", "ReadSDKInformation");
+            static PartCalls madeReadSDKInformation;
+            internal static PartCalls ReadSDKInformation => madeReadSDKInformation != null ? madeReadSDKInformation : madeReadSDKInformation = new PartCalls { Item = ReadSDKInformationItem, Make = h => new SDKType(h), Get = Native.get_ReadSDKInformation, Assign = Native.assign_ReadSDKInformation, Unset = Native.unset_ReadSDKInformation };
+            static IntPtr madeWriteSDKInformationItem;
+            internal static IntPtr WriteSDKInformationItem => madeWriteSDKInformationItem != IntPtr.Zero ? madeWriteSDKInformationItem : madeWriteSDKInformationItem = Library.Item("Header", "WriteSDKInformation");
+            static PartCalls madeWriteSDKInformation;
+            internal static PartCalls WriteSDKInformation => madeWriteSDKInformation != null ? madeWriteSDKInformation : madeWriteSDKInformation = new PartCalls { Item = WriteSDKInformationItem, Make = h => new SDKType(h), Get = Native.get_WriteSDKInformation, Assign = Native.assign_WriteSDKInformation, Unset = Native.unset_WriteSDKInformation };
+            static IntPtr madeReadPlatformInformationItem;
+            internal static IntPtr ReadPlatformInformationItem => madeReadPlatformInformationItem != IntPtr.Zero ? madeReadPlatformInformationItem : madeReadPlatformInformationItem = Library.Item("Header", "ReadPlatformInformation");
+            static PartCalls madeReadPlatformInformation;
+            internal static PartCalls ReadPlatformInformation => madeReadPlatformInformation != null ? madeReadPlatformInformation : madeReadPlatformInformation = new PartCalls { Item = ReadPlatformInformationItem, Make = h => new PlatformType(h), Get = Native.get_ReadPlatformInformation, Assign = Native.assign_ReadPlatformInformation, Unset = Native.unset_ReadPlatformInformation };
+            static IntPtr madeWritePlatformInformationItem;
+            internal static IntPtr WritePlatformInformationItem => madeWritePlatformInformationItem != IntPtr.Zero ? madeWritePlatformInformationItem : madeWritePlatformInformationItem = Library.Item("Header", "WritePlatformInformation");
+            static PartCalls madeWritePlatformInformation;
+            internal static PartCalls WritePlatformInformation => madeWritePlatformInformation != null ? madeWritePlatformInformation : madeWritePlatformInformation = new PartCalls { Item = WritePlatformInformationItem, Make = h => new PlatformType(h), Get = Native.get_WritePlatformInformation, Assign = Native.assign_WritePlatformInformation, Unset = Native.unset_WritePlatformInformation };
+            static ObjectListCalls<Revision> madeRevision;
+            internal static ObjectListCalls<Revision> Revision => madeRevision != null ? madeRevision : madeRevision = new ObjectListCalls<Revision> { Make = h => new Revision(h), Size = Native.size_Revision, Get = Native.get_Revision, Assign = Native.assign_Revision, Append = Native.append_Revision, Insert = Native.insert_Revision, Delete = Native.delete_Revision, Clear = Native.clear_Revision };
         }
     }
 
@@ -186,10 +199,14 @@ namespace Vyr
 
         static class Parts
         {
-            internal static readonly ObjectListCalls<CustomAttributeType> CustomAttribute = new ObjectListCalls<CustomAttributeType> { Make = h => new CustomAttributeType(h), Size = Native.size_CustomAttribute, Get = Native.get_CustomAttribute, Assign = Native.assign_CustomAttribute, Append = Native.append_CustomAttribute, Insert = Native.insert_CustomAttribute, Delete = Native.delete_CustomAttribute, Clear = Native.clear_CustomAttribute };
-            internal static readonly ObjectListCalls<Person> Person = new ObjectListCalls<Person> { Make = h => new Person(h), Size = Native.size_Person, Get = Native.get_Person, Assign = Native.assign_Person, Append = Native.append_Person, Insert = Native.insert_Person, Delete = Native.delete_Person, Clear = Native.clear_Person };
-            internal static readonly ValueListCalls<string> Copyright = new ValueListCalls<string> { Size = Native.size_Copyright, Get = Native.get_Copyright, Set = Native.set_Copyright, Insert = Native.insert_Copyright, Delete = Native.delete_Copyright, Clear = Native.clear_Copyright };
-            internal static readonly ValueListCalls<string> Company = new ValueListCalls<string> { Size = Native.size_Company, Get = Native.get_Company, Set = Native.set_Company, Insert = Native.insert_Company, Delete = Native.delete_Company, Clear = Native.clear_Company };
+            static ObjectListCalls<CustomAttributeType> madeCustomAttribute;
+            internal static ObjectListCalls<CustomAttributeType> CustomAttribute => madeCustomAttribute != null ? madeCustomAttribute : madeCustomAttribute = new ObjectListCalls<CustomAttributeType> { Make = h => new CustomAttributeType(h), Size = Native.size_CustomAttribute, Get = Native.get_CustomAttribute, Assign = Native.assign_CustomAttribute, Append = Native.append_CustomAttribute, Insert = Native.insert_CustomAttribute, Delete = Native.delete_CustomAttribute, Clear = Native.clear_CustomAttribute };
+            static ObjectListCalls<Person> madePerson;
+            internal static ObjectListCalls<Person> Person => madePerson != null ? madePerson : madePerson = new ObjectListCalls<Person> { Make = h => new Person(h), Size = Native.size_Person, Get = Native.get_Person, Assign = Native.assign_Person, Append = Native.append_Person, Insert = Native.insert_Person, Delete = Native.delete_Person, Clear = Native.clear_Person };
+            static ValueListCalls<string> madeCopyright;
+            internal static ValueListCalls<string> Copyright => madeCopyright != null ? madeCopyright : madeCopyright = new ValueListCalls<string> { Size = Native.size_Copyright, Get = Native.get_Copyright, Set = Native.set_Copyright, Insert = Native.insert_Copyright, Delete = Native.delete_Copyright, Clear = Native.clear_Copyright };
+            static ValueListCalls<string> madeCompany;
+            internal static ValueListCalls<string> Company => madeCompany != null ? madeCompany : madeCompany = new ValueListCalls<string> { Size = Native.size_Company, Get = Native.get_Company, Set = Native.set_Company, Insert = Native.insert_Company, Delete = Native.delete_Company, Clear = Native.clear_Company };
         }
     }
 
@@ -223,8 +240,10 @@ namespace Vyr
 
         static class Parts
         {
-            internal static readonly ObjectListCalls<CustomAttributeType> CustomAttribute = new ObjectListCalls<CustomAttributeType> { Make = h => new CustomAttributeType(h), Size = Native.size_CustomAttribute, Get = Native.get_CustomAttribute, Assign = Native.assign_CustomAttribute, Append = Native.append_CustomAttribute, Insert = Native.insert_CustomAttribute, Delete = Native.delete_CustomAttribute, Clear = Native.clear_CustomAttribute };
-            internal static readonly ValueListCalls<string> Predecessor = new ValueListCalls<string> { Size = Native.size_Predecessor, Get = Native.get_Predecessor, Set = Native.set_Predecessor, Insert = Native.insert_Predecessor, Delete = Native.delete_Predecessor, Clear = Native.clear_Predecessor };
+            static ObjectListCalls<CustomAttributeType> madeCustomAttribute;
+            internal static ObjectListCalls<CustomAttributeType> CustomAttribute => madeCustomAttribute != null ? madeCustomAttribute : madeCustomAttribute = new ObjectListCalls<CustomAttributeType> { Make = h => new CustomAttributeType(h), Size = Native.size_CustomAttribute, Get = Native.get_CustomAttribute, Assign = Native.assign_CustomAttribute, Append = Native.append_CustomAttribute, Insert = Native.insert_CustomAttribute, Delete = Native.delete_CustomAttribute, Clear = Native.clear_CustomAttribute };
+            static ValueListCalls<string> madePredecessor;
+            internal static ValueListCalls<string> Predecessor => madePredecessor != null ? madePredecessor : madePredecessor = new ValueListCalls<string> { Size = Native.size_Predecessor, Get = Native.get_Predecessor, Set = Native.set_Predecessor, Insert = Native.insert_Predecessor, Delete = Native.delete_Predecessor, Clear = Native.clear_Predecessor };
         }
     }
 
@@ -251,12 +270,18 @@ namespace Vyr
 
         static class Parts
         {
-            internal static readonly IntPtr HeaderItem = Library.Item("Preamble", "Header");
-            internal static readonly PartCalls<Header> Header = new PartCalls<Header> { Item = HeaderItem, Make = h => new Header(h), Get = Native.get_Header, Assign = Native.assign_Header };
-            internal static readonly IntPtr OwnerItem = Library.Item("Preamble", "Owner");
-            internal static readonly PartCalls<OwnerType> Owner = new PartCalls<OwnerType> { Item = OwnerItem, Make = h => new OwnerType(h), Get = Native.get_Owner, Assign = Native.assign_Owner, Unset = Native.unset_Owner };
-            internal static readonly IntPtr VersionItem = Library.Item("Preamble", "Version");
-            internal static readonly PartCalls<Version> Version = new PartCalls<Version> { Item = VersionItem, Make = h => new Version(h), Get = Native.get_Version, Assign = Native.assign_Version, Unset = Native.unset_Version };
+            static IntPtr madeHeaderItem;
+            internal static IntPtr HeaderItem => madeHeaderItem != IntPtr.Zero ? madeHeaderItem : madeHeaderItem = Library.Item("Preamble", "Header");
+            static PartCalls madeHeader;
+            internal static PartCalls Header => madeHeader != null ? madeHeader : madeHeader = new PartCalls { Item = HeaderItem, Make = h => new Header(h), Get = Native.get_Header, Assign = Native.assign_Header };
+            static IntPtr madeOwnerItem;
+            internal static IntPtr OwnerItem => madeOwnerItem != IntPtr.Zero ? madeOwnerItem : madeOwnerItem = Library.Item("Preamble", "Owner");
+            static PartCalls madeOwner;
+            internal static PartCalls Owner => madeOwner != null ? madeOwner : madeOwner = new PartCalls { Item = OwnerItem, Make = h => new OwnerType(h), Get = Native.get_Owner, Assign = Native.assign_Owner, Unset = Native.unset_Owner };
+            static IntPtr madeVersionItem;
+            internal static IntPtr VersionItem => madeVersionItem != IntPtr.Zero ? madeVersionItem : madeVersionItem = Library.Item("Preamble", "Version");
+            static PartCalls madeVersion;
+            internal static PartCalls Version => madeVersion != null ? madeVersion : madeVersion = new PartCalls { Item = VersionItem, Make = h => new Version(h), Get = Native.get_Version, Assign = Native.assign_Version, Unset = Native.unset_Version };
         }
     }
 
@@ -298,11 +323,16 @@ namespace Vyr
 
         static class Parts
         {
-            internal static readonly IntPtr PreambleItem = Library.Item("Vyr", "Preamble");
-            internal static readonly PartCalls<Preamble> Preamble = new PartCalls<Preamble> { Item = PreambleItem, Make = h => new Preamble(h), Get = Native.get_Preamble, Assign = Native.assign_Preamble };
-            internal static readonly ObjectListCalls<ColorType> Color = new ObjectListCalls<ColorType> { Make = h => new ColorType(h), Size = Native.size_Color, Get = Native.get_Color, Assign = Native.assign_Color, Append = Native.append_Color, Insert = Native.insert_Color, Delete = Native.delete_Color, Clear = Native.clear_Color };
-            internal static readonly ObjectListCalls<PaletteType> Palette = new ObjectListCalls<PaletteType> { Make = h => new PaletteType(h), Size = Native.size_Palette, Get = Native.get_Palette, Assign = Native.assign_Palette, Append = Native.append_Palette, Insert = Native.insert_Palette, Delete = Native.delete_Palette, Clear = Native.clear_Palette };
-            internal static readonly ObjectListCalls<ColorQualityControlType> ColorQualityControl = new ObjectListCalls<ColorQualityControlType> { Make = h => new ColorQualityControlType(h), Size = Native.size_ColorQualityControl, Get = Native.get_ColorQualityControl, Assign = Native.assign_ColorQualityControl, Append = Native.append_ColorQualityControl, Insert = Native.insert_ColorQualityControl, Delete = Native.delete_ColorQualityControl, Clear = Native.clear_ColorQualityControl };
+            static IntPtr madePreambleItem;
+            internal static IntPtr PreambleItem => madePreambleItem != IntPtr.Zero ? madePreambleItem : madePreambleItem = Library.Item("Vyr", "Preamble");
+            static PartCalls madePreamble;
+            internal static PartCalls Preamble => madePreamble != null ? madePreamble : madePreamble = new PartCalls { Item = PreambleItem, Make = h => new Preamble(h), Get = Native.get_Preamble, Assign = Native.assign_Preamble };
+            static ObjectListCalls<ColorType> madeColor;
+            internal static ObjectListCalls<ColorType> Color => madeColor != null ? madeColor : madeColor = new ObjectListCalls<ColorType> { Make = h => new ColorType(h), Size = Native.size_Color, Get = Native.get_Color, Assign = Native.assign_Color, Append = Native.append_Color, Insert = Native.insert_Color, Delete = Native.delete_Color, Clear = Native.clear_Color };
+            static ObjectListCalls<PaletteType> madePalette;
+            internal static ObjectListCalls<PaletteType> Palette => madePalette != null ? madePalette : madePalette = new ObjectListCalls<PaletteType> { Make = h => new PaletteType(h), Size = Native.size_Palette, Get = Native.get_Palette, Assign = Native.assign_Palette, Append = Native.append_Palette, Insert = Native.insert_Palette, Delete = Native.delete_Palette, Clear = Native.clear_Palette };
+            static ObjectListCalls<ColorQualityControlType> madeColorQualityControl;
+            internal static ObjectListCalls<ColorQualityControlType> ColorQualityControl => madeColorQualityControl != null ? madeColorQualityControl : madeColorQualityControl = new ObjectListCalls<ColorQualityControlType> { Make = h => new ColorQualityControlType(h), Size = Native.size_ColorQualityControl, Get = Native.get_ColorQualityControl, Assign = Native.assign_ColorQualityControl, Append = Native.append_ColorQualityControl, Insert = Native.insert_ColorQualityControl, Delete = Native.delete_ColorQualityControl, Clear = Native.clear_ColorQualityControl };
         }
     }
 
@@ -326,8 +356,10 @@ namespace Vyr
 
         static class Parts
         {
-            internal static readonly IntPtr anyItem = Library.Item("Revision", "any");
-            internal static readonly MarkupListCalls any = new MarkupListCalls { Item = anyItem, Size = Native.size_any, Append = Native.append_any, Insert = Native.insert_any, Delete = Native.delete_any, Clear = Native.clear_any };
+            static IntPtr madeanyItem;
+            internal static IntPtr anyItem => madeanyItem != IntPtr.Zero ? madeanyItem : madeanyItem = Library.Item("Revision", "any");
+            static MarkupListCalls madeany;
+            internal static MarkupListCalls any => madeany != null ? madeany : madeany = new MarkupListCalls { Item = anyItem, Size = Native.size_any, Append = Native.append_any, Insert = Native.insert_any, Delete = Native.delete_any, Clear = Native.clear_any };
         }
     }
 
@@ -392,8 +424,10 @@ namespace Vyr
 
         static class Parts
         {
-            internal static readonly IntPtr ValueChoiceItem = Library.Item("CustomAttributeType", "ValueChoice");
-            internal static readonly PartCalls<CustomAttributeType_ValueChoice> ValueChoice = new PartCalls<CustomAttributeType_ValueChoice> { Item = ValueChoiceItem, Make = h => new CustomAttributeType_ValueChoice(h), Get = Native.get_ValueChoice, Assign = Native.assign_ValueChoice };
+            static IntPtr madeValueChoiceItem;
+            internal static IntPtr ValueChoiceItem => madeValueChoiceItem != IntPtr.Zero ? madeValueChoiceItem : madeValueChoiceItem = Library.Item("CustomAttributeType", "ValueChoice");
+            static PartCalls madeValueChoice;
+            internal static PartCalls ValueChoice => madeValueChoice != null ? madeValueChoice : madeValueChoice = new PartCalls { Item = ValueChoiceItem, Make = h => new CustomAttributeType_ValueChoice(h), Get = Native.get_ValueChoice, Assign = Native.assign_ValueChoice };
         }
     }
 
@@ -448,8 +482,10 @@ namespace Vyr
 
         static class Parts
         {
-            internal static readonly IntPtr CategoryItem = Library.Item("Tag", "Category");
-            internal static readonly PartCalls<TagCategory> Category = new PartCalls<TagCategory> { Item = CategoryItem, Make = h => new TagCategory(h), Get = Native.get_Category, Assign = Native.assign_Category };
+            static IntPtr madeCategoryItem;
+            internal static IntPtr CategoryItem => madeCategoryItem != IntPtr.Zero ? madeCategoryItem : madeCategoryItem = Library.Item("Tag", "Category");
+            static PartCalls madeCategory;
+            internal static PartCalls Category => madeCategory != null ? madeCategory : madeCategory = new PartCalls { Item = CategoryItem, Make = h => new TagCategory(h), Get = Native.get_Category, Assign = Native.assign_Category };
         }
     }
 
@@ -496,10 +532,14 @@ namespace Vyr
 
         static class Parts
         {
-            internal static readonly IntPtr TagItem = Library.Item("TagValue", "Tag");
-            internal static readonly PartCalls<Tag> Tag = new PartCalls<Tag> { Item = TagItem, Make = h => new Tag(h), Get = Native.get_Tag, Assign = Native.assign_Tag };
-            internal static readonly IntPtr anon_TextValueItem = Library.Item("TagValue", "anon_TextValue");
-            internal static readonly PartCalls<TagValueChoice> anon_TextValue = new PartCalls<TagValueChoice> { Item = anon_TextValueItem, Make = h => new TagValueChoice(h), Get = Native.get_anon_TextValue, Assign = Native.assign_anon_TextValue };
+            static IntPtr madeTagItem;
+            internal static IntPtr TagItem => madeTagItem != IntPtr.Zero ? madeTagItem : madeTagItem = Library.Item("TagValue", "Tag");
+            static PartCalls madeTag;
+            internal static PartCalls Tag => madeTag != null ? madeTag : madeTag = new PartCalls { Item = TagItem, Make = h => new Tag(h), Get = Native.get_Tag, Assign = Native.assign_Tag };
+            static IntPtr madeanon_TextValueItem;
+            internal static IntPtr anon_TextValueItem => madeanon_TextValueItem != IntPtr.Zero ? madeanon_TextValueItem : madeanon_TextValueItem = Library.Item("TagValue", "anon_TextValue");
+            static PartCalls madeanon_TextValue;
+            internal static PartCalls anon_TextValue => madeanon_TextValue != null ? madeanon_TextValue : madeanon_TextValue = new PartCalls { Item = anon_TextValueItem, Make = h => new TagValueChoice(h), Get = Native.get_anon_TextValue, Assign = Native.assign_anon_TextValue };
         }
     }
 }

@@ -58,10 +58,10 @@ namespace Vyr
         public string SDKName { get => Kept(Native.get_SDKName(Pointer)); set => Demand(Native.set_SDKName(Pointer, Library.Whole(value))); }
 
         /// <summary>Version of the library, or nil where it is unknown. Null until set; assigning copies.</summary>
-        public SDKVersion SDKVersion { get => Child(0, Parts.SDKVersion); set => AssignChild(0, Parts.SDKVersion, value); }
+        public SDKVersion SDKVersion { get => (SDKVersion)Child(0, Parts.SDKVersion); set => AssignChild(0, Parts.SDKVersion, value); }
 
         /// <summary>Gives SDKVersion, which it makes if it isn't there.</summary>
-        public SDKVersion CreateSDKVersion() => CreateChild(0, Parts.SDKVersion);
+        public SDKVersion CreateSDKVersion() => (SDKVersion)CreateChild(0, Parts.SDKVersion);
     }
 
     /// <summary>Platform on which a document was read or written.</summary>
@@ -108,7 +108,7 @@ namespace Vyr
         public override void Reset() { RemoveParts(); Native.reset(Pointer); Keep(); }
 
         /// <summary>A named value of the user's own.</summary>
-        public ObjectList<CustomAttributeType> CustomAttributes => ListOfObjects(0, Parts.CustomAttribute);
+        public ObjectList<CustomAttributeType> CustomAttributes => (ObjectList<CustomAttributeType>)(Part(0) ?? Remember(0, new ObjectList<CustomAttributeType>(this, "CustomAttributes", Parts.CustomAttribute)));
 
         /// <summary>Name of the person or program that made the document.</summary>
         public string Creator { get => Kept(Native.get_Creator(Pointer)); set => Demand(Native.set_Creator(Pointer, Library.Whole(value))); }
@@ -129,31 +129,31 @@ namespace Vyr
         public string Comments { get => Is(Native.isset_Comments(Pointer)) ? Kept(Native.get_Comments(Pointer)) : null; set => Demand(value == null ? Native.UnsetComments(Pointer) : Native.set_Comments(Pointer, Library.Whole(value))); }
 
         /// <summary>Library that last read the document into memory. Null until set; assigning copies.</summary>
-        public SDKType ReadSDKInformation { get => Child(2, Parts.ReadSDKInformation); set => AssignChild(2, Parts.ReadSDKInformation, value); }
+        public SDKType ReadSDKInformation { get => (SDKType)Child(2, Parts.ReadSDKInformation); set => AssignChild(2, Parts.ReadSDKInformation, value); }
 
         /// <summary>Gives ReadSDKInformation, which it makes if it isn't there.</summary>
-        public SDKType CreateReadSDKInformation() => CreateChild(2, Parts.ReadSDKInformation);
+        public SDKType CreateReadSDKInformation() => (SDKType)CreateChild(2, Parts.ReadSDKInformation);
 
         /// <summary>Library that last wrote the document. Null until set; assigning copies.</summary>
-        public SDKType WriteSDKInformation { get => Child(3, Parts.WriteSDKInformation); set => AssignChild(3, Parts.WriteSDKInformation, value); }
+        public SDKType WriteSDKInformation { get => (SDKType)Child(3, Parts.WriteSDKInformation); set => AssignChild(3, Parts.WriteSDKInformation, value); }
 
         /// <summary>Gives WriteSDKInformation, which it makes if it isn't there.</summary>
-        public SDKType CreateWriteSDKInformation() => CreateChild(3, Parts.WriteSDKInformation);
+        public SDKType CreateWriteSDKInformation() => (SDKType)CreateChild(3, Parts.WriteSDKInformation);
 
         /// <summary>Platform on which the document was last read. Null until set; assigning copies.</summary>
-        public PlatformType ReadPlatformInformation { get => Child(4, Parts.ReadPlatformInformation); set => AssignChild(4, Parts.ReadPlatformInformation, value); }
+        public PlatformType ReadPlatformInformation { get => (PlatformType)Child(4, Parts.ReadPlatformInformation); set => AssignChild(4, Parts.ReadPlatformInformation, value); }
 
         /// <summary>Gives ReadPlatformInformation, which it makes if it isn't there.</summary>
-        public PlatformType CreateReadPlatformInformation() => CreateChild(4, Parts.ReadPlatformInformation);
+        public PlatformType CreateReadPlatformInformation() => (PlatformType)CreateChild(4, Parts.ReadPlatformInformation);
 
         /// <summary>Platform on which the document was last written. Null until set; assigning copies.</summary>
-        public PlatformType WritePlatformInformation { get => Child(5, Parts.WritePlatformInformation); set => AssignChild(5, Parts.WritePlatformInformation, value); }
+        public PlatformType WritePlatformInformation { get => (PlatformType)Child(5, Parts.WritePlatformInformation); set => AssignChild(5, Parts.WritePlatformInformation, value); }
 
         /// <summary>Gives WritePlatformInformation, which it makes if it isn't there.</summary>
-        public PlatformType CreateWritePlatformInformation() => CreateChild(5, Parts.WritePlatformInformation);
+        public PlatformType CreateWritePlatformInformation() => (PlatformType)CreateChild(5, Parts.WritePlatformInformation);
 
         /// <summary>Notes on one revision, in markup of the user's own.</summary>
-        public ObjectList<Revision> Revisions => ListOfObjects(6, Parts.Revision);
+        public ObjectList<Revision> Revisions => (ObjectList<Revision>)(Part(6) ?? Remember(6, new ObjectList<Revision>(this, "Revisions", Parts.Revision)));
     }
 
     /// <summary>Who owns a document, palette, colour set or colour: people, companies and copyright lines.</summary>
@@ -175,10 +175,10 @@ namespace Vyr
         public override void Reset() { RemoveParts(); Native.reset(Pointer); Keep(); }
 
         /// <summary>A named value of the user's own.</summary>
-        public ObjectList<CustomAttributeType> CustomAttributes => ListOfObjects(0, Parts.CustomAttribute);
+        public ObjectList<CustomAttributeType> CustomAttributes => (ObjectList<CustomAttributeType>)(Part(0) ?? Remember(0, new ObjectList<CustomAttributeType>(this, "CustomAttributes", Parts.CustomAttribute)));
 
         /// <summary>A person among the owners.</summary>
-        public ObjectList<Person> Persons => ListOfObjects(1, Parts.Person);
+        public ObjectList<Person> Persons => (ObjectList<Person>)(Part(1) ?? Remember(1, new ObjectList<Person>(this, "Persons", Parts.Person)));
 
         /// <summary>A copyright line.</summary>
         public TextList Copyrights => ListOfTexts(2, Parts.Copyright);
@@ -206,7 +206,7 @@ namespace Vyr
         public override void Reset() { RemoveParts(); Native.reset(Pointer); Keep(); }
 
         /// <summary>A named value of the user's own.</summary>
-        public ObjectList<CustomAttributeType> CustomAttributes => ListOfObjects(0, Parts.CustomAttribute);
+        public ObjectList<CustomAttributeType> CustomAttributes => (ObjectList<CustomAttributeType>)(Part(0) ?? Remember(0, new ObjectList<CustomAttributeType>(this, "CustomAttributes", Parts.CustomAttribute)));
 
         /// <summary>Text of this version.</summary>
         public string Value { get => Kept(Native.get_Version(Pointer)); set => Demand(Native.set_Version(Pointer, Library.Whole(value))); }
@@ -234,22 +234,22 @@ namespace Vyr
         public override void Reset() { RemoveParts(); Native.reset(Pointer); Keep(); }
 
         /// <summary>Provenance of the document. Null until set; assigning copies.</summary>
-        public Header Header { get => Child(0, Parts.Header); set => AssignChild(0, Parts.Header, value); }
+        public Header Header { get => (Header)Child(0, Parts.Header); set => AssignChild(0, Parts.Header, value); }
 
         /// <summary>Gives Header, which it makes if it isn't there.</summary>
-        public Header CreateHeader() => CreateChild(0, Parts.Header);
+        public Header CreateHeader() => (Header)CreateChild(0, Parts.Header);
 
         /// <summary>Who owns the document. Null until set; assigning copies.</summary>
-        public OwnerType Owner { get => Child(1, Parts.Owner); set => AssignChild(1, Parts.Owner, value); }
+        public OwnerType Owner { get => (OwnerType)Child(1, Parts.Owner); set => AssignChild(1, Parts.Owner, value); }
 
         /// <summary>Gives Owner, which it makes if it isn't there.</summary>
-        public OwnerType CreateOwner() => CreateChild(1, Parts.Owner);
+        public OwnerType CreateOwner() => (OwnerType)CreateChild(1, Parts.Owner);
 
         /// <summary>Version of the document. Null until set; assigning copies.</summary>
-        public Version Version { get => Child(2, Parts.Version); set => AssignChild(2, Parts.Version, value); }
+        public Version Version { get => (Version)Child(2, Parts.Version); set => AssignChild(2, Parts.Version, value); }
 
         /// <summary>Gives Version, which it makes if it isn't there.</summary>
-        public Version CreateVersion() => CreateChild(2, Parts.Version);
+        public Version CreateVersion() => (Version)CreateChild(2, Parts.Version);
     }
 
     /// <summary>A whole document: where it comes from, and the colours, palettes and quality-control records that it
@@ -273,19 +273,19 @@ namespace Vyr
 
         /// <summary>Where the document comes from; the only part that every document has. Null until set; assigning
         /// copies.</summary>
-        public Preamble Preamble { get => Child(0, Parts.Preamble); set => AssignChild(0, Parts.Preamble, value); }
+        public Preamble Preamble { get => (Preamble)Child(0, Parts.Preamble); set => AssignChild(0, Parts.Preamble, value); }
 
         /// <summary>Gives Preamble, which it makes if it isn't there.</summary>
-        public Preamble CreatePreamble() => CreateChild(0, Parts.Preamble);
+        public Preamble CreatePreamble() => (Preamble)CreateChild(0, Parts.Preamble);
 
         /// <summary>A loose colour that belongs to no palette.</summary>
-        public ObjectList<ColorType> Colors => ListOfObjects(1, Parts.Color);
+        public ObjectList<ColorType> Colors => (ObjectList<ColorType>)(Part(1) ?? Remember(1, new ObjectList<ColorType>(this, "Colors", Parts.Color)));
 
         /// <summary>A palette of colour sets.</summary>
-        public ObjectList<PaletteType> Palettes => ListOfObjects(2, Parts.Palette);
+        public ObjectList<PaletteType> Palettes => (ObjectList<PaletteType>)(Part(2) ?? Remember(2, new ObjectList<PaletteType>(this, "Palettes", Parts.Palette)));
 
         /// <summary>A comparison of measurements with a standard.</summary>
-        public ObjectList<ColorQualityControlType> ColorQualityControls => ListOfObjects(3, Parts.ColorQualityControl);
+        public ObjectList<ColorQualityControlType> ColorQualityControls => (ObjectList<ColorQualityControlType>)(Part(3) ?? Remember(3, new ObjectList<ColorQualityControlType>(this, "ColorQualityControls", Parts.ColorQualityControl)));
     }
 
     /// <summary>Open content: elements of any name in any namespace, kept as they were written.</summary>
@@ -410,10 +410,10 @@ namespace Vyr
         public string Name { get => Kept(Native.get_Name(Pointer)); set => Demand(Native.set_Name(Pointer, Library.Whole(value))); }
 
         /// <summary>Value of the attribute. Null until set; assigning copies.</summary>
-        public CustomAttributeType_ValueChoice ValueChoice { get => Child(0, Parts.ValueChoice); set => AssignChild(0, Parts.ValueChoice, value); }
+        public CustomAttributeType_ValueChoice ValueChoice { get => (CustomAttributeType_ValueChoice)Child(0, Parts.ValueChoice); set => AssignChild(0, Parts.ValueChoice, value); }
 
         /// <summary>Gives ValueChoice, which it makes if it isn't there.</summary>
-        public CustomAttributeType_ValueChoice CreateValueChoice() => CreateChild(0, Parts.ValueChoice);
+        public CustomAttributeType_ValueChoice CreateValueChoice() => (CustomAttributeType_ValueChoice)CreateChild(0, Parts.ValueChoice);
     }
 
     /// <summary>Category that a tag belongs to.</summary>
@@ -467,10 +467,10 @@ namespace Vyr
 
         /// <summary>Category of the tag; always written, if need be as an empty element. Null until set; assigning
         /// copies.</summary>
-        public TagCategory Category { get => Child(0, Parts.Category); set => AssignChild(0, Parts.Category, value); }
+        public TagCategory Category { get => (TagCategory)Child(0, Parts.Category); set => AssignChild(0, Parts.Category, value); }
 
         /// <summary>Gives Category, which it makes if it isn't there.</summary>
-        public TagCategory CreateCategory() => CreateChild(0, Parts.Category);
+        public TagCategory CreateCategory() => (TagCategory)CreateChild(0, Parts.Category);
     }
 
     /// <summary>A text or a number, as the tag asks.</summary>
@@ -540,15 +540,15 @@ namespace Vyr
         public string UniqueID { get => Is(Native.isset_UniqueID(Pointer)) ? Kept(Native.get_UniqueID(Pointer)) : null; set => Demand(value == null ? Native.UnsetUniqueID(Pointer) : Native.set_UniqueID(Pointer, Library.Whole(value))); }
 
         /// <summary>The tag that is valued. Null until set; assigning copies.</summary>
-        public Tag Tag { get => Child(0, Parts.Tag); set => AssignChild(0, Parts.Tag, value); }
+        public Tag Tag { get => (Tag)Child(0, Parts.Tag); set => AssignChild(0, Parts.Tag, value); }
 
         /// <summary>Gives Tag, which it makes if it isn't there.</summary>
-        public Tag CreateTag() => CreateChild(0, Parts.Tag);
+        public Tag CreateTag() => (Tag)CreateChild(0, Parts.Tag);
 
         /// <summary>A text or a number, as the tag asks. Null until set; assigning copies.</summary>
-        public TagValueChoice Value { get => Child(1, Parts.anon_TextValue); set => AssignChild(1, Parts.anon_TextValue, value); }
+        public TagValueChoice Value { get => (TagValueChoice)Child(1, Parts.anon_TextValue); set => AssignChild(1, Parts.anon_TextValue, value); }
 
         /// <summary>Gives Value, which it makes if it isn't there.</summary>
-        public TagValueChoice CreateValue() => CreateChild(1, Parts.anon_TextValue);
+        public TagValueChoice CreateValue() => (TagValueChoice)CreateChild(1, Parts.anon_TextValue);
     }
 }

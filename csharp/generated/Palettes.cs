@@ -27,40 +27,40 @@ namespace Vyr
 
         /// <summary>Default for reflective values without fixed conditions. Null until set; assigning
         /// copies.</summary>
-        public ColorSpaceSpecificationSpectrumGeneric ColorSpaceSpecificationSpectrumGeneric { get => Child(0, Parts.ColorSpaceSpecificationSpectrumGeneric); set => AssignChild(0, Parts.ColorSpaceSpecificationSpectrumGeneric, value); }
+        public ColorSpaceSpecificationSpectrumGeneric ColorSpaceSpecificationSpectrumGeneric { get => (ColorSpaceSpecificationSpectrumGeneric)Child(0, Parts.ColorSpaceSpecificationSpectrumGeneric); set => AssignChild(0, Parts.ColorSpaceSpecificationSpectrumGeneric, value); }
 
         /// <summary>Gives ColorSpaceSpecificationSpectrumGeneric, which it makes if it isn't there.</summary>
-        public ColorSpaceSpecificationSpectrumGeneric CreateColorSpaceSpecificationSpectrumGeneric() => CreateChild(0, Parts.ColorSpaceSpecificationSpectrumGeneric);
+        public ColorSpaceSpecificationSpectrumGeneric CreateColorSpaceSpecificationSpectrumGeneric() => (ColorSpaceSpecificationSpectrumGeneric)CreateChild(0, Parts.ColorSpaceSpecificationSpectrumGeneric);
 
         /// <summary>Default for reflectance spectra. Null until set; assigning copies.</summary>
-        public ColorSpaceSpecificationSpectrumSpectral ColorSpaceSpecificationSpectrumSpectral { get => Child(1, Parts.ColorSpaceSpecificationSpectrumSpectral); set => AssignChild(1, Parts.ColorSpaceSpecificationSpectrumSpectral, value); }
+        public ColorSpaceSpecificationSpectrumSpectral ColorSpaceSpecificationSpectrumSpectral { get => (ColorSpaceSpecificationSpectrumSpectral)Child(1, Parts.ColorSpaceSpecificationSpectrumSpectral); set => AssignChild(1, Parts.ColorSpaceSpecificationSpectrumSpectral, value); }
 
         /// <summary>Gives ColorSpaceSpecificationSpectrumSpectral, which it makes if it isn't there.</summary>
-        public ColorSpaceSpecificationSpectrumSpectral CreateColorSpaceSpecificationSpectrumSpectral() => CreateChild(1, Parts.ColorSpaceSpecificationSpectrumSpectral);
+        public ColorSpaceSpecificationSpectrumSpectral CreateColorSpaceSpecificationSpectrumSpectral() => (ColorSpaceSpecificationSpectrumSpectral)CreateChild(1, Parts.ColorSpaceSpecificationSpectrumSpectral);
 
         /// <summary>Default for reflective tristimulus values. Null until set; assigning copies.</summary>
-        public ColorSpaceSpecificationSpectrumTristimulus ColorSpaceSpecificationSpectrumTristimulus { get => Child(2, Parts.ColorSpaceSpecificationSpectrumTristimulus); set => AssignChild(2, Parts.ColorSpaceSpecificationSpectrumTristimulus, value); }
+        public ColorSpaceSpecificationSpectrumTristimulus ColorSpaceSpecificationSpectrumTristimulus { get => (ColorSpaceSpecificationSpectrumTristimulus)Child(2, Parts.ColorSpaceSpecificationSpectrumTristimulus); set => AssignChild(2, Parts.ColorSpaceSpecificationSpectrumTristimulus, value); }
 
         /// <summary>Gives ColorSpaceSpecificationSpectrumTristimulus, which it makes if it isn't there.</summary>
-        public ColorSpaceSpecificationSpectrumTristimulus CreateColorSpaceSpecificationSpectrumTristimulus() => CreateChild(2, Parts.ColorSpaceSpecificationSpectrumTristimulus);
+        public ColorSpaceSpecificationSpectrumTristimulus CreateColorSpaceSpecificationSpectrumTristimulus() => (ColorSpaceSpecificationSpectrumTristimulus)CreateChild(2, Parts.ColorSpaceSpecificationSpectrumTristimulus);
 
         /// <summary>Default for emissive values without fixed conditions. Null until set; assigning copies.</summary>
-        public ColorSpaceSpecificationEmissiveGeneric ColorSpaceSpecificationEmissiveGeneric { get => Child(3, Parts.ColorSpaceSpecificationEmissiveGeneric); set => AssignChild(3, Parts.ColorSpaceSpecificationEmissiveGeneric, value); }
+        public ColorSpaceSpecificationEmissiveGeneric ColorSpaceSpecificationEmissiveGeneric { get => (ColorSpaceSpecificationEmissiveGeneric)Child(3, Parts.ColorSpaceSpecificationEmissiveGeneric); set => AssignChild(3, Parts.ColorSpaceSpecificationEmissiveGeneric, value); }
 
         /// <summary>Gives ColorSpaceSpecificationEmissiveGeneric, which it makes if it isn't there.</summary>
-        public ColorSpaceSpecificationEmissiveGeneric CreateColorSpaceSpecificationEmissiveGeneric() => CreateChild(3, Parts.ColorSpaceSpecificationEmissiveGeneric);
+        public ColorSpaceSpecificationEmissiveGeneric CreateColorSpaceSpecificationEmissiveGeneric() => (ColorSpaceSpecificationEmissiveGeneric)CreateChild(3, Parts.ColorSpaceSpecificationEmissiveGeneric);
 
         /// <summary>Default for emission spectra. Null until set; assigning copies.</summary>
-        public ColorSpaceSpecificationEmissiveSpectral ColorSpaceSpecificationEmissiveSpectral { get => Child(4, Parts.ColorSpaceSpecificationEmissiveSpectral); set => AssignChild(4, Parts.ColorSpaceSpecificationEmissiveSpectral, value); }
+        public ColorSpaceSpecificationEmissiveSpectral ColorSpaceSpecificationEmissiveSpectral { get => (ColorSpaceSpecificationEmissiveSpectral)Child(4, Parts.ColorSpaceSpecificationEmissiveSpectral); set => AssignChild(4, Parts.ColorSpaceSpecificationEmissiveSpectral, value); }
 
         /// <summary>Gives ColorSpaceSpecificationEmissiveSpectral, which it makes if it isn't there.</summary>
-        public ColorSpaceSpecificationEmissiveSpectral CreateColorSpaceSpecificationEmissiveSpectral() => CreateChild(4, Parts.ColorSpaceSpecificationEmissiveSpectral);
+        public ColorSpaceSpecificationEmissiveSpectral CreateColorSpaceSpecificationEmissiveSpectral() => (ColorSpaceSpecificationEmissiveSpectral)CreateChild(4, Parts.ColorSpaceSpecificationEmissiveSpectral);
 
         /// <summary>Default for emissive tristimulus values. Null until set; assigning copies.</summary>
-        public ColorSpaceSpecificationEmissiveTristimulus ColorSpaceSpecificationEmissiveTristimulus { get => Child(5, Parts.ColorSpaceSpecificationEmissiveTristimulus); set => AssignChild(5, Parts.ColorSpaceSpecificationEmissiveTristimulus, value); }
+        public ColorSpaceSpecificationEmissiveTristimulus ColorSpaceSpecificationEmissiveTristimulus { get => (ColorSpaceSpecificationEmissiveTristimulus)Child(5, Parts.ColorSpaceSpecificationEmissiveTristimulus); set => AssignChild(5, Parts.ColorSpaceSpecificationEmissiveTristimulus, value); }
 
         /// <summary>Gives ColorSpaceSpecificationEmissiveTristimulus, which it makes if it isn't there.</summary>
-        public ColorSpaceSpecificationEmissiveTristimulus CreateColorSpaceSpecificationEmissiveTristimulus() => CreateChild(5, Parts.ColorSpaceSpecificationEmissiveTristimulus);
+        public ColorSpaceSpecificationEmissiveTristimulus CreateColorSpaceSpecificationEmissiveTristimulus() => (ColorSpaceSpecificationEmissiveTristimulus)CreateChild(5, Parts.ColorSpaceSpecificationEmissiveTristimulus);
     }
 
     /// <summary>A palette: a named, versioned collection of colour sets.</summary>
@@ -97,28 +97,28 @@ namespace Vyr
         public string Comments { get => Is(Native.isset_Comments(Pointer)) ? Kept(Native.get_Comments(Pointer)) : null; set => Demand(value == null ? Native.UnsetComments(Pointer) : Native.set_Comments(Pointer, Library.Whole(value))); }
 
         /// <summary>A named value of the user's own.</summary>
-        public ObjectList<CustomAttributeType> CustomAttributes => ListOfObjects(0, Parts.CustomAttribute);
+        public ObjectList<CustomAttributeType> CustomAttributes => (ObjectList<CustomAttributeType>)(Part(0) ?? Remember(0, new ObjectList<CustomAttributeType>(this, "CustomAttributes", Parts.CustomAttribute)));
 
         /// <summary>Time of one change, with time zone.</summary>
         public DateTimeList ChangeHistory => ListOfTimes(1, Parts.ChangeHistory, @".+T.+(Z|[+\-].+)");
 
         /// <summary>Who owns the palette. Null until set; assigning copies.</summary>
-        public OwnerType Owner { get => Child(2, Parts.Owner); set => AssignChild(2, Parts.Owner, value); }
+        public OwnerType Owner { get => (OwnerType)Child(2, Parts.Owner); set => AssignChild(2, Parts.Owner, value); }
 
         /// <summary>Gives Owner, which it makes if it isn't there.</summary>
-        public OwnerType CreateOwner() => CreateChild(2, Parts.Owner);
+        public OwnerType CreateOwner() => (OwnerType)CreateChild(2, Parts.Owner);
 
         /// <summary>A word or notion that the palette stands for.</summary>
         public TextList SemanticAssociations => ListOfTexts(3, Parts.SemanticAssociation);
 
         /// <summary>Default measuring conditions for the colours below. Null until set; assigning copies.</summary>
-        public CollectionColorSpaceSpecificationType CollectionColorSpaceSpecification { get => Child(4, Parts.CollectionColorSpaceSpecification); set => AssignChild(4, Parts.CollectionColorSpaceSpecification, value); }
+        public CollectionColorSpaceSpecificationType CollectionColorSpaceSpecification { get => (CollectionColorSpaceSpecificationType)Child(4, Parts.CollectionColorSpaceSpecification); set => AssignChild(4, Parts.CollectionColorSpaceSpecification, value); }
 
         /// <summary>Gives CollectionColorSpaceSpecification, which it makes if it isn't there.</summary>
-        public CollectionColorSpaceSpecificationType CreateCollectionColorSpaceSpecification() => CreateChild(4, Parts.CollectionColorSpaceSpecification);
+        public CollectionColorSpaceSpecificationType CreateCollectionColorSpaceSpecification() => (CollectionColorSpaceSpecificationType)CreateChild(4, Parts.CollectionColorSpaceSpecification);
 
         /// <summary>A colour set of the palette.</summary>
-        public ObjectList<ColorSetType> ColorSets => ListOfObjects(5, Parts.ColorSet);
+        public ObjectList<ColorSetType> ColorSets => (ObjectList<ColorSetType>)(Part(5) ?? Remember(5, new ObjectList<ColorSetType>(this, "ColorSets", Parts.ColorSet)));
     }
 
     /// <summary>A named group of colours, such as a page of a fan deck or one material's range.</summary>
@@ -152,35 +152,35 @@ namespace Vyr
         public string Comments { get => Is(Native.isset_Comments(Pointer)) ? Kept(Native.get_Comments(Pointer)) : null; set => Demand(value == null ? Native.UnsetComments(Pointer) : Native.set_Comments(Pointer, Library.Whole(value))); }
 
         /// <summary>A named value of the user's own.</summary>
-        public ObjectList<CustomAttributeType> CustomAttributes => ListOfObjects(0, Parts.CustomAttribute);
+        public ObjectList<CustomAttributeType> CustomAttributes => (ObjectList<CustomAttributeType>)(Part(0) ?? Remember(0, new ObjectList<CustomAttributeType>(this, "CustomAttributes", Parts.CustomAttribute)));
 
         /// <summary>Time of one change, with time zone.</summary>
         public DateTimeList ChangeHistory => ListOfTimes(1, Parts.ChangeHistory, @".+T.+(Z|[+\-].+)");
 
         /// <summary>Who owns the colour set. Null until set; assigning copies.</summary>
-        public OwnerType Owner { get => Child(2, Parts.Owner); set => AssignChild(2, Parts.Owner, value); }
+        public OwnerType Owner { get => (OwnerType)Child(2, Parts.Owner); set => AssignChild(2, Parts.Owner, value); }
 
         /// <summary>Gives Owner, which it makes if it isn't there.</summary>
-        public OwnerType CreateOwner() => CreateChild(2, Parts.Owner);
+        public OwnerType CreateOwner() => (OwnerType)CreateChild(2, Parts.Owner);
 
         /// <summary>A word or notion that the colour set stands for.</summary>
         public TextList SemanticAssociations => ListOfTexts(3, Parts.SemanticAssociation);
 
         /// <summary>Default measuring conditions for the colours below. Null until set; assigning copies.</summary>
-        public CollectionColorSpaceSpecificationType CollectionColorSpaceSpecification { get => Child(4, Parts.CollectionColorSpaceSpecification); set => AssignChild(4, Parts.CollectionColorSpaceSpecification, value); }
+        public CollectionColorSpaceSpecificationType CollectionColorSpaceSpecification { get => (CollectionColorSpaceSpecificationType)Child(4, Parts.CollectionColorSpaceSpecification); set => AssignChild(4, Parts.CollectionColorSpaceSpecification, value); }
 
         /// <summary>Gives CollectionColorSpaceSpecification, which it makes if it isn't there.</summary>
-        public CollectionColorSpaceSpecificationType CreateCollectionColorSpaceSpecification() => CreateChild(4, Parts.CollectionColorSpaceSpecification);
+        public CollectionColorSpaceSpecificationType CreateCollectionColorSpaceSpecification() => (CollectionColorSpaceSpecificationType)CreateChild(4, Parts.CollectionColorSpaceSpecification);
 
         /// <summary>A colour of the set.</summary>
-        public ObjectList<ColorType> Colors => ListOfObjects(5, Parts.Color);
+        public ObjectList<ColorType> Colors => (ObjectList<ColorType>)(Part(5) ?? Remember(5, new ObjectList<ColorType>(this, "Colors", Parts.Color)));
 
         /// <summary>What the colours of the set are printed on or coated onto. Null until set; assigning
         /// copies.</summary>
-        public SubstrateChoice Substrate { get => Child(6, Parts.Substrate); set => AssignChild(6, Parts.Substrate, value); }
+        public SubstrateChoice Substrate { get => (SubstrateChoice)Child(6, Parts.Substrate); set => AssignChild(6, Parts.Substrate, value); }
 
         /// <summary>Gives Substrate, which it makes if it isn't there.</summary>
-        public SubstrateChoice CreateSubstrate() => CreateChild(6, Parts.Substrate);
+        public SubstrateChoice CreateSubstrate() => (SubstrateChoice)CreateChild(6, Parts.Substrate);
     }
 
     /// <summary>A colour: its name and its values in one or more colour spaces.</summary>
@@ -214,32 +214,32 @@ namespace Vyr
         public string Comments { get => Is(Native.isset_Comments(Pointer)) ? Kept(Native.get_Comments(Pointer)) : null; set => Demand(value == null ? Native.UnsetComments(Pointer) : Native.set_Comments(Pointer, Library.Whole(value))); }
 
         /// <summary>A named value of the user's own.</summary>
-        public ObjectList<CustomAttributeType> CustomAttributes => ListOfObjects(0, Parts.CustomAttribute);
+        public ObjectList<CustomAttributeType> CustomAttributes => (ObjectList<CustomAttributeType>)(Part(0) ?? Remember(0, new ObjectList<CustomAttributeType>(this, "CustomAttributes", Parts.CustomAttribute)));
 
         /// <summary>Time of one change, with time zone.</summary>
         public DateTimeList ChangeHistory => ListOfTimes(1, Parts.ChangeHistory, @".+T.+(Z|[+\-].+)");
 
         /// <summary>Who owns the colour. Null until set; assigning copies.</summary>
-        public OwnerType Owner { get => Child(2, Parts.Owner); set => AssignChild(2, Parts.Owner, value); }
+        public OwnerType Owner { get => (OwnerType)Child(2, Parts.Owner); set => AssignChild(2, Parts.Owner, value); }
 
         /// <summary>Gives Owner, which it makes if it isn't there.</summary>
-        public OwnerType CreateOwner() => CreateChild(2, Parts.Owner);
+        public OwnerType CreateOwner() => (OwnerType)CreateChild(2, Parts.Owner);
 
         /// <summary>A word or notion that the colour stands for.</summary>
         public TextList SemanticAssociations => ListOfTexts(3, Parts.SemanticAssociation);
 
         /// <summary>The colour's value in one colour space; the element's name says which.</summary>
-        public ObjectList<ColorSpaceChoice> ColorSpaces => ListOfObjects(4, Parts.ColorSpace);
+        public ObjectList<ColorSpaceChoice> ColorSpaces => (ObjectList<ColorSpaceChoice>)(Part(4) ?? Remember(4, new ObjectList<ColorSpaceChoice>(this, "ColorSpaces", Parts.ColorSpace)));
 
         /// <summary>What the colour is printed on, coated onto or measured on. Null until set; assigning
         /// copies.</summary>
-        public SubstrateChoice Substrate { get => Child(5, Parts.Substrate); set => AssignChild(5, Parts.Substrate, value); }
+        public SubstrateChoice Substrate { get => (SubstrateChoice)Child(5, Parts.Substrate); set => AssignChild(5, Parts.Substrate, value); }
 
         /// <summary>Gives Substrate, which it makes if it isn't there.</summary>
-        public SubstrateChoice CreateSubstrate() => CreateChild(5, Parts.Substrate);
+        public SubstrateChoice CreateSubstrate() => (SubstrateChoice)CreateChild(5, Parts.Substrate);
 
         /// <summary>Value of the colour under one tag.</summary>
-        public ObjectList<TagValue> TagValues => ListOfObjects(6, Parts.TagValues);
+        public ObjectList<TagValue> TagValues => (ObjectList<TagValue>)(Part(6) ?? Remember(6, new ObjectList<TagValue>(this, "TagValues", Parts.TagValues)));
     }
 
     /// <summary>Default measuring conditions of a collection, standing alone.</summary>

@@ -37,7 +37,8 @@ namespace Vyr
 
         static class Parts
         {
-            internal static readonly ObjectListCalls<CustomAttributeType> CustomAttribute = new ObjectListCalls<CustomAttributeType> { Make = h => new CustomAttributeType(h), Size = Native.size_CustomAttribute, Get = Native.get_CustomAttribute, Assign = Native.assign_CustomAttribute, Append = Native.append_CustomAttribute, Insert = Native.insert_CustomAttribute, Delete = Native.delete_CustomAttribute, Clear = Native.clear_CustomAttribute };
+            static ObjectListCalls<CustomAttributeType> madeCustomAttribute;
+            internal static ObjectListCalls<CustomAttributeType> CustomAttribute => madeCustomAttribute != null ? madeCustomAttribute : madeCustomAttribute = new ObjectListCalls<CustomAttributeType> { Make = h => new CustomAttributeType(h), Size = Native.size_CustomAttribute, Get = Native.get_CustomAttribute, Assign = Native.assign_CustomAttribute, Append = Native.append_CustomAttribute, Insert = Native.insert_CustomAttribute, Delete = Native.delete_CustomAttribute, Clear = Native.clear_CustomAttribute };
         }
     }
 
@@ -111,13 +112,20 @@ namespace Vyr
 
         static class Parts
         {
-            internal static readonly ObjectListCalls<CustomAttributeType> CustomAttribute = new ObjectListCalls<CustomAttributeType> { Make = h => new CustomAttributeType(h), Size = Native.size_CustomAttribute, Get = Native.get_CustomAttribute, Assign = Native.assign_CustomAttribute, Append = Native.append_CustomAttribute, Insert = Native.insert_CustomAttribute, Delete = Native.delete_CustomAttribute, Clear = Native.clear_CustomAttribute };
-            internal static readonly IntPtr FunctionItem = Library.Item("ToleranceType", "Function");
-            internal static readonly PartCalls<FunctionChoice> Function = new PartCalls<FunctionChoice> { Item = FunctionItem, Make = h => new FunctionChoice(h), Get = Native.get_Function, Assign = Native.assign_Function };
-            internal static readonly IntPtr LimitsItem = Library.Item("ToleranceType", "Limits");
-            internal static readonly PartCalls<LimitsType> Limits = new PartCalls<LimitsType> { Item = LimitsItem, Make = h => new LimitsType(h), Get = Native.get_Limits, Assign = Native.assign_Limits, Unset = Native.unset_Limits };
-            internal static readonly IntPtr GeometryItem = Library.Item("ToleranceType", "Geometry");
-            internal static readonly PartCalls<GeometryChoiceType> Geometry = new PartCalls<GeometryChoiceType> { Item = GeometryItem, Make = h => new GeometryChoiceType(h), Get = Native.get_Geometry, Assign = Native.assign_Geometry, Unset = Native.unset_Geometry };
+            static ObjectListCalls<CustomAttributeType> madeCustomAttribute;
+            internal static ObjectListCalls<CustomAttributeType> CustomAttribute => madeCustomAttribute != null ? madeCustomAttribute : madeCustomAttribute = new ObjectListCalls<CustomAttributeType> { Make = h => new CustomAttributeType(h), Size = Native.size_CustomAttribute, Get = Native.get_CustomAttribute, Assign = Native.assign_CustomAttribute, Append = Native.append_CustomAttribute, Insert = Native.insert_CustomAttribute, Delete = Native.delete_CustomAttribute, Clear = Native.clear_CustomAttribute };
+            static IntPtr madeFunctionItem;
+            internal static IntPtr FunctionItem => madeFunctionItem != IntPtr.Zero ? madeFunctionItem : madeFunctionItem = Library.Item("ToleranceType", "Function");
+            static PartCalls madeFunction;
+            internal static PartCalls Function => madeFunction != null ? madeFunction : madeFunction = new PartCalls { Item = FunctionItem, Make = h => new FunctionChoice(h), Get = Native.get_Function, Assign = Native.assign_Function };
+            static IntPtr madeLimitsItem;
+            internal static IntPtr LimitsItem => madeLimitsItem != IntPtr.Zero ? madeLimitsItem : madeLimitsItem = Library.Item("ToleranceType", "Limits");
+            static PartCalls madeLimits;
+            internal static PartCalls Limits => madeLimits != null ? madeLimits : madeLimits = new PartCalls { Item = LimitsItem, Make = h => new LimitsType(h), Get = Native.get_Limits, Assign = Native.assign_Limits, Unset = Native.unset_Limits };
+            static IntPtr madeGeometryItem;
+            internal static IntPtr GeometryItem => madeGeometryItem != IntPtr.Zero ? madeGeometryItem : madeGeometryItem = Library.Item("ToleranceType", "Geometry");
+            static PartCalls madeGeometry;
+            internal static PartCalls Geometry => madeGeometry != null ? madeGeometry : madeGeometry = new PartCalls { Item = GeometryItem, Make = h => new GeometryChoiceType(h), Get = Native.get_Geometry, Assign = Native.assign_Geometry, Unset = Native.unset_Geometry };
         }
     }
 
@@ -174,11 +182,16 @@ namespace Vyr
 
         static class Parts
         {
-            internal static readonly ObjectListCalls<CustomAttributeType> CustomAttribute = new ObjectListCalls<CustomAttributeType> { Make = h => new CustomAttributeType(h), Size = Native.size_CustomAttribute, Get = Native.get_CustomAttribute, Assign = Native.assign_CustomAttribute, Append = Native.append_CustomAttribute, Insert = Native.insert_CustomAttribute, Delete = Native.delete_CustomAttribute, Clear = Native.clear_CustomAttribute };
-            internal static readonly IntPtr ProcessItem = Library.Item("PhysicalSampleType", "Process");
-            internal static readonly PartCalls<Process> Process = new PartCalls<Process> { Item = ProcessItem, Make = h => new Process(h), Get = Native.get_Process, Assign = Native.assign_Process, Unset = Native.unset_Process };
-            internal static readonly IntPtr SampleItem = Library.Item("PhysicalSampleType", "Sample");
-            internal static readonly PartCalls<SampleChoice> Sample = new PartCalls<SampleChoice> { Item = SampleItem, Make = h => new SampleChoice(h), Get = Native.get_Sample, Assign = Native.assign_Sample };
+            static ObjectListCalls<CustomAttributeType> madeCustomAttribute;
+            internal static ObjectListCalls<CustomAttributeType> CustomAttribute => madeCustomAttribute != null ? madeCustomAttribute : madeCustomAttribute = new ObjectListCalls<CustomAttributeType> { Make = h => new CustomAttributeType(h), Size = Native.size_CustomAttribute, Get = Native.get_CustomAttribute, Assign = Native.assign_CustomAttribute, Append = Native.append_CustomAttribute, Insert = Native.insert_CustomAttribute, Delete = Native.delete_CustomAttribute, Clear = Native.clear_CustomAttribute };
+            static IntPtr madeProcessItem;
+            internal static IntPtr ProcessItem => madeProcessItem != IntPtr.Zero ? madeProcessItem : madeProcessItem = Library.Item("PhysicalSampleType", "Process");
+            static PartCalls madeProcess;
+            internal static PartCalls Process => madeProcess != null ? madeProcess : madeProcess = new PartCalls { Item = ProcessItem, Make = h => new Process(h), Get = Native.get_Process, Assign = Native.assign_Process, Unset = Native.unset_Process };
+            static IntPtr madeSampleItem;
+            internal static IntPtr SampleItem => madeSampleItem != IntPtr.Zero ? madeSampleItem : madeSampleItem = Library.Item("PhysicalSampleType", "Sample");
+            static PartCalls madeSample;
+            internal static PartCalls Sample => madeSample != null ? madeSample : madeSample = new PartCalls { Item = SampleItem, Make = h => new SampleChoice(h), Get = Native.get_Sample, Assign = Native.assign_Sample };
         }
     }
 
@@ -247,12 +260,18 @@ namespace Vyr
 
         static class Parts
         {
-            internal static readonly ObjectListCalls<CustomAttributeType> CustomAttribute = new ObjectListCalls<CustomAttributeType> { Make = h => new CustomAttributeType(h), Size = Native.size_CustomAttribute, Get = Native.get_CustomAttribute, Assign = Native.assign_CustomAttribute, Append = Native.append_CustomAttribute, Insert = Native.insert_CustomAttribute, Delete = Native.delete_CustomAttribute, Clear = Native.clear_CustomAttribute };
-            internal static readonly ValueListCalls<IntPtr> ChangeHistory = new ValueListCalls<IntPtr> { Size = Native.size_ChangeHistory, Get = Native.get_ChangeHistory, Set = Native.set_ChangeHistory, Insert = Native.insert_ChangeHistory, Delete = Native.delete_ChangeHistory, Clear = Native.clear_ChangeHistory };
-            internal static readonly ObjectListCalls<StandardAndMeasurementType> StandardAndMeasurement = new ObjectListCalls<StandardAndMeasurementType> { Make = h => new StandardAndMeasurementType(h), Size = Native.size_StandardAndMeasurement, Get = Native.get_StandardAndMeasurement, Assign = Native.assign_StandardAndMeasurement, Append = Native.append_StandardAndMeasurement, Insert = Native.insert_StandardAndMeasurement, Delete = Native.delete_StandardAndMeasurement, Clear = Native.clear_StandardAndMeasurement };
-            internal static readonly IntPtr PhysicalSampleItem = Library.Item("ColorQualityControlType", "PhysicalSample");
-            internal static readonly PartCalls<PhysicalSampleType> PhysicalSample = new PartCalls<PhysicalSampleType> { Item = PhysicalSampleItem, Make = h => new PhysicalSampleType(h), Get = Native.get_PhysicalSample, Assign = Native.assign_PhysicalSample, Unset = Native.unset_PhysicalSample };
-            internal static readonly ObjectListCalls<ToleranceType> Tolerance = new ObjectListCalls<ToleranceType> { Make = h => new ToleranceType(h), Size = Native.size_Tolerance, Get = Native.get_Tolerance, Assign = Native.assign_Tolerance, Append = Native.append_Tolerance, Insert = Native.insert_Tolerance, Delete = Native.delete_Tolerance, Clear = Native.clear_Tolerance };
+            static ObjectListCalls<CustomAttributeType> madeCustomAttribute;
+            internal static ObjectListCalls<CustomAttributeType> CustomAttribute => madeCustomAttribute != null ? madeCustomAttribute : madeCustomAttribute = new ObjectListCalls<CustomAttributeType> { Make = h => new CustomAttributeType(h), Size = Native.size_CustomAttribute, Get = Native.get_CustomAttribute, Assign = Native.assign_CustomAttribute, Append = Native.append_CustomAttribute, Insert = Native.insert_CustomAttribute, Delete = Native.delete_CustomAttribute, Clear = Native.clear_CustomAttribute };
+            static ValueListCalls<IntPtr> madeChangeHistory;
+            internal static ValueListCalls<IntPtr> ChangeHistory => madeChangeHistory != null ? madeChangeHistory : madeChangeHistory = new ValueListCalls<IntPtr> { Size = Native.size_ChangeHistory, Get = Native.get_ChangeHistory, Set = Native.set_ChangeHistory, Insert = Native.insert_ChangeHistory, Delete = Native.delete_ChangeHistory, Clear = Native.clear_ChangeHistory };
+            static ObjectListCalls<StandardAndMeasurementType> madeStandardAndMeasurement;
+            internal static ObjectListCalls<StandardAndMeasurementType> StandardAndMeasurement => madeStandardAndMeasurement != null ? madeStandardAndMeasurement : madeStandardAndMeasurement = new ObjectListCalls<StandardAndMeasurementType> { Make = h => new StandardAndMeasurementType(h), Size = Native.size_StandardAndMeasurement, Get = Native.get_StandardAndMeasurement, Assign = Native.assign_StandardAndMeasurement, Append = Native.append_StandardAndMeasurement, Insert = Native.insert_StandardAndMeasurement, Delete = Native.delete_StandardAndMeasurement, Clear = Native.clear_StandardAndMeasurement };
+            static IntPtr madePhysicalSampleItem;
+            internal static IntPtr PhysicalSampleItem => madePhysicalSampleItem != IntPtr.Zero ? madePhysicalSampleItem : madePhysicalSampleItem = Library.Item("ColorQualityControlType", "PhysicalSample");
+            static PartCalls madePhysicalSample;
+            internal static PartCalls PhysicalSample => madePhysicalSample != null ? madePhysicalSample : madePhysicalSample = new PartCalls { Item = PhysicalSampleItem, Make = h => new PhysicalSampleType(h), Get = Native.get_PhysicalSample, Assign = Native.assign_PhysicalSample, Unset = Native.unset_PhysicalSample };
+            static ObjectListCalls<ToleranceType> madeTolerance;
+            internal static ObjectListCalls<ToleranceType> Tolerance => madeTolerance != null ? madeTolerance : madeTolerance = new ObjectListCalls<ToleranceType> { Make = h => new ToleranceType(h), Size = Native.size_Tolerance, Get = Native.get_Tolerance, Assign = Native.assign_Tolerance, Append = Native.append_Tolerance, Insert = Native.insert_Tolerance, Delete = Native.delete_Tolerance, Clear = Native.clear_Tolerance };
         }
     }
 
@@ -289,12 +308,18 @@ namespace Vyr
 
         static class Parts
         {
-            internal static readonly ObjectListCalls<CustomAttributeType> CustomAttribute = new ObjectListCalls<CustomAttributeType> { Make = h => new CustomAttributeType(h), Size = Native.size_CustomAttribute, Get = Native.get_CustomAttribute, Assign = Native.assign_CustomAttribute, Append = Native.append_CustomAttribute, Insert = Native.insert_CustomAttribute, Delete = Native.delete_CustomAttribute, Clear = Native.clear_CustomAttribute };
-            internal static readonly IntPtr DeviceItem = Library.Item("Measurement", "Device");
-            internal static readonly PartCalls<DeviceType> Device = new PartCalls<DeviceType> { Item = DeviceItem, Make = h => new DeviceType(h), Get = Native.get_Device, Assign = Native.assign_Device };
-            internal static readonly IntPtr ColorItem = Library.Item("Measurement", "Color");
-            internal static readonly PartCalls<ColorType> Color = new PartCalls<ColorType> { Item = ColorItem, Make = h => new ColorType(h), Get = Native.get_Color, Assign = Native.assign_Color };
-            internal static readonly ObjectListCalls<FunctionChoice> Function = new ObjectListCalls<FunctionChoice> { Make = h => new FunctionChoice(h), Size = Native.size_Function, Get = Native.get_Function, Assign = Native.assign_Function, Append = Native.append_Function, Insert = Native.insert_Function, Delete = Native.delete_Function, Clear = Native.clear_Function };
+            static ObjectListCalls<CustomAttributeType> madeCustomAttribute;
+            internal static ObjectListCalls<CustomAttributeType> CustomAttribute => madeCustomAttribute != null ? madeCustomAttribute : madeCustomAttribute = new ObjectListCalls<CustomAttributeType> { Make = h => new CustomAttributeType(h), Size = Native.size_CustomAttribute, Get = Native.get_CustomAttribute, Assign = Native.assign_CustomAttribute, Append = Native.append_CustomAttribute, Insert = Native.insert_CustomAttribute, Delete = Native.delete_CustomAttribute, Clear = Native.clear_CustomAttribute };
+            static IntPtr madeDeviceItem;
+            internal static IntPtr DeviceItem => madeDeviceItem != IntPtr.Zero ? madeDeviceItem : madeDeviceItem = Library.Item("Measurement", "Device");
+            static PartCalls madeDevice;
+            internal static PartCalls Device => madeDevice != null ? madeDevice : madeDevice = new PartCalls { Item = DeviceItem, Make = h => new DeviceType(h), Get = Native.get_Device, Assign = Native.assign_Device };
+            static IntPtr madeColorItem;
+            internal static IntPtr ColorItem => madeColorItem != IntPtr.Zero ? madeColorItem : madeColorItem = Library.Item("Measurement", "Color");
+            static PartCalls madeColor;
+            internal static PartCalls Color => madeColor != null ? madeColor : madeColor = new PartCalls { Item = ColorItem, Make = h => new ColorType(h), Get = Native.get_Color, Assign = Native.assign_Color };
+            static ObjectListCalls<FunctionChoice> madeFunction;
+            internal static ObjectListCalls<FunctionChoice> Function => madeFunction != null ? madeFunction : madeFunction = new ObjectListCalls<FunctionChoice> { Make = h => new FunctionChoice(h), Size = Native.size_Function, Get = Native.get_Function, Assign = Native.assign_Function, Append = Native.append_Function, Insert = Native.insert_Function, Delete = Native.delete_Function, Clear = Native.clear_Function };
         }
     }
 
@@ -333,12 +358,18 @@ namespace Vyr
 
         static class Parts
         {
-            internal static readonly ObjectListCalls<CustomAttributeType> CustomAttribute = new ObjectListCalls<CustomAttributeType> { Make = h => new CustomAttributeType(h), Size = Native.size_CustomAttribute, Get = Native.get_CustomAttribute, Assign = Native.assign_CustomAttribute, Append = Native.append_CustomAttribute, Insert = Native.insert_CustomAttribute, Delete = Native.delete_CustomAttribute, Clear = Native.clear_CustomAttribute };
-            internal static readonly IntPtr DeviceItem = Library.Item("Standard", "Device");
-            internal static readonly PartCalls<DeviceType> Device = new PartCalls<DeviceType> { Item = DeviceItem, Make = h => new DeviceType(h), Get = Native.get_Device, Assign = Native.assign_Device };
-            internal static readonly IntPtr ColorItem = Library.Item("Standard", "Color");
-            internal static readonly PartCalls<ColorType> Color = new PartCalls<ColorType> { Item = ColorItem, Make = h => new ColorType(h), Get = Native.get_Color, Assign = Native.assign_Color };
-            internal static readonly ObjectListCalls<ToleranceType> Tolerance = new ObjectListCalls<ToleranceType> { Make = h => new ToleranceType(h), Size = Native.size_Tolerance, Get = Native.get_Tolerance, Assign = Native.assign_Tolerance, Append = Native.append_Tolerance, Insert = Native.insert_Tolerance, Delete = Native.delete_Tolerance, Clear = Native.clear_Tolerance };
+            static ObjectListCalls<CustomAttributeType> madeCustomAttribute;
+            internal static ObjectListCalls<CustomAttributeType> CustomAttribute => madeCustomAttribute != null ? madeCustomAttribute : madeCustomAttribute = new ObjectListCalls<CustomAttributeType> { Make = h => new CustomAttributeType(h), Size = Native.size_CustomAttribute, Get = Native.get_CustomAttribute, Assign = Native.assign_CustomAttribute, Append = Native.append_CustomAttribute, Insert = Native.insert_CustomAttribute, Delete = Native.delete_CustomAttribute, Clear = Native.clear_CustomAttribute };
+            static IntPtr madeDeviceItem;
+            internal static IntPtr DeviceItem => madeDeviceItem != IntPtr.Zero ? madeDeviceItem : madeDeviceItem = Library.Item("Standard", "Device");
+            static PartCalls madeDevice;
+            internal static PartCalls Device => madeDevice != null ? madeDevice : madeDevice = new PartCalls { Item = DeviceItem, Make = h => new DeviceType(h), Get = Native.get_Device, Assign = Native.assign_Device };
+            static IntPtr madeColorItem;
+            internal static IntPtr ColorItem => madeColorItem != IntPtr.Zero ? madeColorItem : madeColorItem = Library.Item("Standard", "Color");
+            static PartCalls madeColor;
+            internal static PartCalls Color => madeColor != null ? madeColor : madeColor = new PartCalls { Item = ColorItem, Make = h => new ColorType(h), Get = Native.get_Color, Assign = Native.assign_Color };
+            static ObjectListCalls<ToleranceType> madeTolerance;
+            internal static ObjectListCalls<ToleranceType> Tolerance => madeTolerance != null ? madeTolerance : madeTolerance = new ObjectListCalls<ToleranceType> { Make = h => new ToleranceType(h), Size = Native.size_Tolerance, Get = Native.get_Tolerance, Assign = Native.assign_Tolerance, Append = Native.append_Tolerance, Insert = Native.insert_Tolerance, Delete = Native.delete_Tolerance, Clear = Native.clear_Tolerance };
         }
     }
 
@@ -373,10 +404,14 @@ namespace Vyr
 
         static class Parts
         {
-            internal static readonly ObjectListCalls<CustomAttributeType> CustomAttribute = new ObjectListCalls<CustomAttributeType> { Make = h => new CustomAttributeType(h), Size = Native.size_CustomAttribute, Get = Native.get_CustomAttribute, Assign = Native.assign_CustomAttribute, Append = Native.append_CustomAttribute, Insert = Native.insert_CustomAttribute, Delete = Native.delete_CustomAttribute, Clear = Native.clear_CustomAttribute };
-            internal static readonly ObjectListCalls<Measurement> Measurement = new ObjectListCalls<Measurement> { Make = h => new Measurement(h), Size = Native.size_Measurement, Get = Native.get_Measurement, Assign = Native.assign_Measurement, Append = Native.append_Measurement, Insert = Native.insert_Measurement, Delete = Native.delete_Measurement, Clear = Native.clear_Measurement };
-            internal static readonly IntPtr StandardItem = Library.Item("StandardAndMeasurementType", "Standard");
-            internal static readonly PartCalls<Standard> Standard = new PartCalls<Standard> { Item = StandardItem, Make = h => new Standard(h), Get = Native.get_Standard, Assign = Native.assign_Standard };
+            static ObjectListCalls<CustomAttributeType> madeCustomAttribute;
+            internal static ObjectListCalls<CustomAttributeType> CustomAttribute => madeCustomAttribute != null ? madeCustomAttribute : madeCustomAttribute = new ObjectListCalls<CustomAttributeType> { Make = h => new CustomAttributeType(h), Size = Native.size_CustomAttribute, Get = Native.get_CustomAttribute, Assign = Native.assign_CustomAttribute, Append = Native.append_CustomAttribute, Insert = Native.insert_CustomAttribute, Delete = Native.delete_CustomAttribute, Clear = Native.clear_CustomAttribute };
+            static ObjectListCalls<Measurement> madeMeasurement;
+            internal static ObjectListCalls<Measurement> Measurement => madeMeasurement != null ? madeMeasurement : madeMeasurement = new ObjectListCalls<Measurement> { Make = h => new Measurement(h), Size = Native.size_Measurement, Get = Native.get_Measurement, Assign = Native.assign_Measurement, Append = Native.append_Measurement, Insert = Native.insert_Measurement, Delete = Native.delete_Measurement, Clear = Native.clear_Measurement };
+            static IntPtr madeStandardItem;
+            internal static IntPtr StandardItem => madeStandardItem != IntPtr.Zero ? madeStandardItem : madeStandardItem = Library.Item("StandardAndMeasurementType", "Standard");
+            static PartCalls madeStandard;
+            internal static PartCalls Standard => madeStandard != null ? madeStandard : madeStandard = new PartCalls { Item = StandardItem, Make = h => new Standard(h), Get = Native.get_Standard, Assign = Native.assign_Standard };
         }
     }
 }

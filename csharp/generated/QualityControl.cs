@@ -26,7 +26,7 @@ namespace Vyr
         public override void Reset() { RemoveParts(); Native.reset(Pointer); Keep(); }
 
         /// <summary>A named value of the user's own.</summary>
-        public ObjectList<CustomAttributeType> CustomAttributes => ListOfObjects(0, Parts.CustomAttribute);
+        public ObjectList<CustomAttributeType> CustomAttributes => (ObjectList<CustomAttributeType>)(Part(0) ?? Remember(0, new ObjectList<CustomAttributeType>(this, "CustomAttributes", Parts.CustomAttribute)));
 
         /// <summary>Upper limit, in the unit of the result.</summary>
         public double HighTolerance { get => Kept(Native.get_HighTolerance(Pointer)); set => Demand(Native.set_HighTolerance(Pointer, value)); }
@@ -57,19 +57,19 @@ namespace Vyr
         public string Name { get => Is(Native.isset_Name(Pointer)) ? Kept(Native.get_Name(Pointer)) : null; set => Demand(value == null ? Native.UnsetName(Pointer) : Native.set_Name(Pointer, Library.Whole(value))); }
 
         /// <summary>A named value of the user's own.</summary>
-        public ObjectList<CustomAttributeType> CustomAttributes => ListOfObjects(0, Parts.CustomAttribute);
+        public ObjectList<CustomAttributeType> CustomAttributes => (ObjectList<CustomAttributeType>)(Part(0) ?? Remember(0, new ObjectList<CustomAttributeType>(this, "CustomAttributes", Parts.CustomAttribute)));
 
         /// <summary>The function whose result is limited. Null until set; assigning copies.</summary>
-        public FunctionChoice Function { get => Child(1, Parts.Function); set => AssignChild(1, Parts.Function, value); }
+        public FunctionChoice Function { get => (FunctionChoice)Child(1, Parts.Function); set => AssignChild(1, Parts.Function, value); }
 
         /// <summary>Gives Function, which it makes if it isn't there.</summary>
-        public FunctionChoice CreateFunction() => CreateChild(1, Parts.Function);
+        public FunctionChoice CreateFunction() => (FunctionChoice)CreateChild(1, Parts.Function);
 
         /// <summary>Limits of the result. Null until set; assigning copies.</summary>
-        public LimitsType Limits { get => Child(2, Parts.Limits); set => AssignChild(2, Parts.Limits, value); }
+        public LimitsType Limits { get => (LimitsType)Child(2, Parts.Limits); set => AssignChild(2, Parts.Limits, value); }
 
         /// <summary>Gives Limits, which it makes if it isn't there.</summary>
-        public LimitsType CreateLimits() => CreateChild(2, Parts.Limits);
+        public LimitsType CreateLimits() => (LimitsType)CreateChild(2, Parts.Limits);
 
         /// <summary>First illuminant of the evaluation. Null if not set.</summary>
         public IlluminantKind? PrimaryIlluminant { get => Is(Native.isset_PrimaryIlluminant(Pointer)) ? (IlluminantKind)Kept(Native.getenum_PrimaryIlluminant(Pointer)) : default(IlluminantKind?); set => Demand(value == null ? Native.UnsetPrimaryIlluminant(Pointer) : Listed(Native.setenum_PrimaryIlluminant(Pointer, (int)value.Value))); }
@@ -93,10 +93,10 @@ namespace Vyr
         public bool? Global { get => Is(Native.isset_Global(Pointer)) ? Is(Native.get_Global(Pointer)) : default(bool?); set => Demand(value == null ? Native.UnsetGlobal(Pointer) : Native.set_Global(Pointer, value.Value ? 1u : 0u)); }
 
         /// <summary>Measuring geometry that the tolerance holds for. Null until set; assigning copies.</summary>
-        public GeometryChoiceType Geometry { get => Child(3, Parts.Geometry); set => AssignChild(3, Parts.Geometry, value); }
+        public GeometryChoiceType Geometry { get => (GeometryChoiceType)Child(3, Parts.Geometry); set => AssignChild(3, Parts.Geometry, value); }
 
         /// <summary>Gives Geometry, which it makes if it isn't there.</summary>
-        public GeometryChoiceType CreateGeometry() => CreateChild(3, Parts.Geometry);
+        public GeometryChoiceType CreateGeometry() => (GeometryChoiceType)CreateChild(3, Parts.Geometry);
     }
 
     /// <summary>A production process.</summary>
@@ -143,22 +143,22 @@ namespace Vyr
         public override void Reset() { RemoveParts(); Native.reset(Pointer); Keep(); }
 
         /// <summary>A named value of the user's own.</summary>
-        public ObjectList<CustomAttributeType> CustomAttributes => ListOfObjects(0, Parts.CustomAttribute);
+        public ObjectList<CustomAttributeType> CustomAttributes => (ObjectList<CustomAttributeType>)(Part(0) ?? Remember(0, new ObjectList<CustomAttributeType>(this, "CustomAttributes", Parts.CustomAttribute)));
 
         /// <summary>Coating of the sample in words. Null if not set.</summary>
         public string Coating { get => Is(Native.isset_Coating(Pointer)) ? Kept(Native.get_Coating(Pointer)) : null; set => Demand(value == null ? Native.UnsetCoating(Pointer) : Native.set_Coating(Pointer, Library.Whole(value))); }
 
         /// <summary>How the sample was made. Null until set; assigning copies.</summary>
-        public Process Process { get => Child(1, Parts.Process); set => AssignChild(1, Parts.Process, value); }
+        public Process Process { get => (Process)Child(1, Parts.Process); set => AssignChild(1, Parts.Process, value); }
 
         /// <summary>Gives Process, which it makes if it isn't there.</summary>
-        public Process CreateProcess() => CreateChild(1, Parts.Process);
+        public Process CreateProcess() => (Process)CreateChild(1, Parts.Process);
 
         /// <summary>The sample: a spot or a target. Null until set; assigning copies.</summary>
-        public SampleChoice Sample { get => Child(2, Parts.Sample); set => AssignChild(2, Parts.Sample, value); }
+        public SampleChoice Sample { get => (SampleChoice)Child(2, Parts.Sample); set => AssignChild(2, Parts.Sample, value); }
 
         /// <summary>Gives Sample, which it makes if it isn't there.</summary>
-        public SampleChoice CreateSample() => CreateChild(2, Parts.Sample);
+        public SampleChoice CreateSample() => (SampleChoice)CreateChild(2, Parts.Sample);
     }
 
     /// <summary>A comparison of measurements with their standards under given tolerances.</summary>
@@ -192,22 +192,22 @@ namespace Vyr
         public string Comments { get => Is(Native.isset_Comments(Pointer)) ? Kept(Native.get_Comments(Pointer)) : null; set => Demand(value == null ? Native.UnsetComments(Pointer) : Native.set_Comments(Pointer, Library.Whole(value))); }
 
         /// <summary>A named value of the user's own.</summary>
-        public ObjectList<CustomAttributeType> CustomAttributes => ListOfObjects(0, Parts.CustomAttribute);
+        public ObjectList<CustomAttributeType> CustomAttributes => (ObjectList<CustomAttributeType>)(Part(0) ?? Remember(0, new ObjectList<CustomAttributeType>(this, "CustomAttributes", Parts.CustomAttribute)));
 
         /// <summary>Time of one change, with time zone.</summary>
         public DateTimeList ChangeHistory => ListOfTimes(1, Parts.ChangeHistory, @".+T.+(Z|[+\-].+)");
 
         /// <summary>A standard with what was measured against it.</summary>
-        public ObjectList<StandardAndMeasurementType> StandardAndMeasurements => ListOfObjects(2, Parts.StandardAndMeasurement);
+        public ObjectList<StandardAndMeasurementType> StandardAndMeasurements => (ObjectList<StandardAndMeasurementType>)(Part(2) ?? Remember(2, new ObjectList<StandardAndMeasurementType>(this, "StandardAndMeasurements", Parts.StandardAndMeasurement)));
 
         /// <summary>The physical sample that was measured. Null until set; assigning copies.</summary>
-        public PhysicalSampleType PhysicalSample { get => Child(3, Parts.PhysicalSample); set => AssignChild(3, Parts.PhysicalSample, value); }
+        public PhysicalSampleType PhysicalSample { get => (PhysicalSampleType)Child(3, Parts.PhysicalSample); set => AssignChild(3, Parts.PhysicalSample, value); }
 
         /// <summary>Gives PhysicalSample, which it makes if it isn't there.</summary>
-        public PhysicalSampleType CreatePhysicalSample() => CreateChild(3, Parts.PhysicalSample);
+        public PhysicalSampleType CreatePhysicalSample() => (PhysicalSampleType)CreateChild(3, Parts.PhysicalSample);
 
         /// <summary>A tolerance for all comparisons of the record.</summary>
-        public ObjectList<ToleranceType> Tolerances => ListOfObjects(4, Parts.Tolerance);
+        public ObjectList<ToleranceType> Tolerances => (ObjectList<ToleranceType>)(Part(4) ?? Remember(4, new ObjectList<ToleranceType>(this, "Tolerances", Parts.Tolerance)));
     }
 
     /// <summary>A measured colour, the device that measured it, and what was computed from it.</summary>
@@ -242,22 +242,22 @@ namespace Vyr
         public LoadReport TrySave(string path) => SaveElement(path);
 
         /// <summary>A named value of the user's own.</summary>
-        public ObjectList<CustomAttributeType> CustomAttributes => ListOfObjects(0, Parts.CustomAttribute);
+        public ObjectList<CustomAttributeType> CustomAttributes => (ObjectList<CustomAttributeType>)(Part(0) ?? Remember(0, new ObjectList<CustomAttributeType>(this, "CustomAttributes", Parts.CustomAttribute)));
 
         /// <summary>Instrument of the measurement. Null until set; assigning copies.</summary>
-        public DeviceType Device { get => Child(1, Parts.Device); set => AssignChild(1, Parts.Device, value); }
+        public DeviceType Device { get => (DeviceType)Child(1, Parts.Device); set => AssignChild(1, Parts.Device, value); }
 
         /// <summary>Gives Device, which it makes if it isn't there.</summary>
-        public DeviceType CreateDevice() => CreateChild(1, Parts.Device);
+        public DeviceType CreateDevice() => (DeviceType)CreateChild(1, Parts.Device);
 
         /// <summary>The colour measured. Null until set; assigning copies.</summary>
-        public ColorType Color { get => Child(2, Parts.Color); set => AssignChild(2, Parts.Color, value); }
+        public ColorType Color { get => (ColorType)Child(2, Parts.Color); set => AssignChild(2, Parts.Color, value); }
 
         /// <summary>Gives Color, which it makes if it isn't there.</summary>
-        public ColorType CreateColor() => CreateChild(2, Parts.Color);
+        public ColorType CreateColor() => (ColorType)CreateChild(2, Parts.Color);
 
         /// <summary>A function of this measurement and its standard.</summary>
-        public ObjectList<FunctionChoice> Functions => ListOfObjects(3, Parts.Function);
+        public ObjectList<FunctionChoice> Functions => (ObjectList<FunctionChoice>)(Part(3) ?? Remember(3, new ObjectList<FunctionChoice>(this, "Functions", Parts.Function)));
     }
 
     /// <summary>A target colour, the device that measured it, and the tolerances around it.</summary>
@@ -299,22 +299,22 @@ namespace Vyr
         public LoadReport TrySave(string path) => SaveElement(path);
 
         /// <summary>A named value of the user's own.</summary>
-        public ObjectList<CustomAttributeType> CustomAttributes => ListOfObjects(0, Parts.CustomAttribute);
+        public ObjectList<CustomAttributeType> CustomAttributes => (ObjectList<CustomAttributeType>)(Part(0) ?? Remember(0, new ObjectList<CustomAttributeType>(this, "CustomAttributes", Parts.CustomAttribute)));
 
         /// <summary>Instrument that measured the standard. Null until set; assigning copies.</summary>
-        public DeviceType Device { get => Child(1, Parts.Device); set => AssignChild(1, Parts.Device, value); }
+        public DeviceType Device { get => (DeviceType)Child(1, Parts.Device); set => AssignChild(1, Parts.Device, value); }
 
         /// <summary>Gives Device, which it makes if it isn't there.</summary>
-        public DeviceType CreateDevice() => CreateChild(1, Parts.Device);
+        public DeviceType CreateDevice() => (DeviceType)CreateChild(1, Parts.Device);
 
         /// <summary>The target colour. Null until set; assigning copies.</summary>
-        public ColorType Color { get => Child(2, Parts.Color); set => AssignChild(2, Parts.Color, value); }
+        public ColorType Color { get => (ColorType)Child(2, Parts.Color); set => AssignChild(2, Parts.Color, value); }
 
         /// <summary>Gives Color, which it makes if it isn't there.</summary>
-        public ColorType CreateColor() => CreateChild(2, Parts.Color);
+        public ColorType CreateColor() => (ColorType)CreateChild(2, Parts.Color);
 
         /// <summary>A tolerance around the target.</summary>
-        public ObjectList<ToleranceType> Tolerances => ListOfObjects(3, Parts.Tolerance);
+        public ObjectList<ToleranceType> Tolerances => (ObjectList<ToleranceType>)(Part(3) ?? Remember(3, new ObjectList<ToleranceType>(this, "Tolerances", Parts.Tolerance)));
     }
 
     /// <summary>A standard and the measurements that are compared with it.</summary>
@@ -336,15 +336,15 @@ namespace Vyr
         public override void Reset() { RemoveParts(); Native.reset(Pointer); Keep(); }
 
         /// <summary>A named value of the user's own.</summary>
-        public ObjectList<CustomAttributeType> CustomAttributes => ListOfObjects(0, Parts.CustomAttribute);
+        public ObjectList<CustomAttributeType> CustomAttributes => (ObjectList<CustomAttributeType>)(Part(0) ?? Remember(0, new ObjectList<CustomAttributeType>(this, "CustomAttributes", Parts.CustomAttribute)));
 
         /// <summary>A measurement.</summary>
-        public ObjectList<Measurement> Measurements => ListOfObjects(1, Parts.Measurement);
+        public ObjectList<Measurement> Measurements => (ObjectList<Measurement>)(Part(1) ?? Remember(1, new ObjectList<Measurement>(this, "Measurements", Parts.Measurement)));
 
         /// <summary>The standard. Null until set; assigning copies.</summary>
-        public Standard Standard { get => Child(2, Parts.Standard); set => AssignChild(2, Parts.Standard, value); }
+        public Standard Standard { get => (Standard)Child(2, Parts.Standard); set => AssignChild(2, Parts.Standard, value); }
 
         /// <summary>Gives Standard, which it makes if it isn't there.</summary>
-        public Standard CreateStandard() => CreateChild(2, Parts.Standard);
+        public Standard CreateStandard() => (Standard)CreateChild(2, Parts.Standard);
     }
 }

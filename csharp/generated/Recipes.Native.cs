@@ -50,7 +50,8 @@ namespace Vyr
 
         static class Parts
         {
-            internal static readonly ObjectListCalls<ColorantElement> ColorantElement = new ObjectListCalls<ColorantElement> { Make = h => new ColorantElement(h), Size = Native.size_ColorantElement, Get = Native.get_ColorantElement, Assign = Native.assign_ColorantElement, Append = Native.append_ColorantElement, Insert = Native.insert_ColorantElement, Delete = Native.delete_ColorantElement, Clear = Native.clear_ColorantElement };
+            static ObjectListCalls<ColorantElement> madeColorantElement;
+            internal static ObjectListCalls<ColorantElement> ColorantElement => madeColorantElement != null ? madeColorantElement : madeColorantElement = new ObjectListCalls<ColorantElement> { Make = h => new ColorantElement(h), Size = Native.size_ColorantElement, Get = Native.get_ColorantElement, Assign = Native.assign_ColorantElement, Append = Native.append_ColorantElement, Insert = Native.insert_ColorantElement, Delete = Native.delete_ColorantElement, Clear = Native.clear_ColorantElement };
         }
     }
 
@@ -92,11 +93,16 @@ namespace Vyr
 
         static class Parts
         {
-            internal static readonly IntPtr ColorNameItem = Library.Item("ColorSpaceTINTORAType", "ColorName");
-            internal static readonly PartCalls<ColorName> ColorName = new PartCalls<ColorName> { Item = ColorNameItem, Make = h => new ColorName(h), Get = Native.get_ColorName, Assign = Native.assign_ColorName };
-            internal static readonly IntPtr RecipeItem = Library.Item("ColorSpaceTINTORAType", "Recipe");
-            internal static readonly PartCalls<Recipe> Recipe = new PartCalls<Recipe> { Item = RecipeItem, Make = h => new Recipe(h), Get = Native.get_Recipe, Assign = Native.assign_Recipe, Unset = Native.unset_Recipe };
-            internal static readonly ObjectListCalls<ColorAndFinish> ColorAndFinish = new ObjectListCalls<ColorAndFinish> { Make = h => new ColorAndFinish(h), Size = Native.size_ColorAndFinish, Get = Native.get_ColorAndFinish, Assign = Native.assign_ColorAndFinish, Append = Native.append_ColorAndFinish, Insert = Native.insert_ColorAndFinish, Delete = Native.delete_ColorAndFinish, Clear = Native.clear_ColorAndFinish };
+            static IntPtr madeColorNameItem;
+            internal static IntPtr ColorNameItem => madeColorNameItem != IntPtr.Zero ? madeColorNameItem : madeColorNameItem = Library.Item("ColorSpaceTINTORAType", "ColorName");
+            static PartCalls madeColorName;
+            internal static PartCalls ColorName => madeColorName != null ? madeColorName : madeColorName = new PartCalls { Item = ColorNameItem, Make = h => new ColorName(h), Get = Native.get_ColorName, Assign = Native.assign_ColorName };
+            static IntPtr madeRecipeItem;
+            internal static IntPtr RecipeItem => madeRecipeItem != IntPtr.Zero ? madeRecipeItem : madeRecipeItem = Library.Item("ColorSpaceTINTORAType", "Recipe");
+            static PartCalls madeRecipe;
+            internal static PartCalls Recipe => madeRecipe != null ? madeRecipe : madeRecipe = new PartCalls { Item = RecipeItem, Make = h => new Recipe(h), Get = Native.get_Recipe, Assign = Native.assign_Recipe, Unset = Native.unset_Recipe };
+            static ObjectListCalls<ColorAndFinish> madeColorAndFinish;
+            internal static ObjectListCalls<ColorAndFinish> ColorAndFinish => madeColorAndFinish != null ? madeColorAndFinish : madeColorAndFinish = new ObjectListCalls<ColorAndFinish> { Make = h => new ColorAndFinish(h), Size = Native.size_ColorAndFinish, Get = Native.get_ColorAndFinish, Assign = Native.assign_ColorAndFinish, Append = Native.append_ColorAndFinish, Insert = Native.insert_ColorAndFinish, Delete = Native.delete_ColorAndFinish, Clear = Native.clear_ColorAndFinish };
         }
     }
 
@@ -139,7 +145,8 @@ namespace Vyr
 
         static class Parts
         {
-            internal static readonly ObjectListCalls<CustomAttributes> CustomAttributes = new ObjectListCalls<CustomAttributes> { Make = h => new CustomAttributes(h), Size = Native.size_CustomAttributes, Get = Native.get_CustomAttributes, Assign = Native.assign_CustomAttributes, Append = Native.append_CustomAttributes, Insert = Native.insert_CustomAttributes, Delete = Native.delete_CustomAttributes, Clear = Native.clear_CustomAttributes };
+            static ObjectListCalls<CustomAttributes> madeCustomAttributes;
+            internal static ObjectListCalls<CustomAttributes> CustomAttributes => madeCustomAttributes != null ? madeCustomAttributes : madeCustomAttributes = new ObjectListCalls<CustomAttributes> { Make = h => new CustomAttributes(h), Size = Native.size_CustomAttributes, Get = Native.get_CustomAttributes, Assign = Native.assign_CustomAttributes, Append = Native.append_CustomAttributes, Insert = Native.insert_CustomAttributes, Delete = Native.delete_CustomAttributes, Clear = Native.clear_CustomAttributes };
         }
     }
 
@@ -162,8 +169,10 @@ namespace Vyr
 
         static class Parts
         {
-            internal static readonly IntPtr ColorantItem = Library.Item("ColorantElement", "Colorant");
-            internal static readonly PartCalls<Colorant> Colorant = new PartCalls<Colorant> { Item = ColorantItem, Make = h => new Colorant(h), Get = Native.get_Colorant, Assign = Native.assign_Colorant };
+            static IntPtr madeColorantItem;
+            internal static IntPtr ColorantItem => madeColorantItem != IntPtr.Zero ? madeColorantItem : madeColorantItem = Library.Item("ColorantElement", "Colorant");
+            static PartCalls madeColorant;
+            internal static PartCalls Colorant => madeColorant != null ? madeColorant : madeColorant = new PartCalls { Item = ColorantItem, Make = h => new Colorant(h), Get = Native.get_Colorant, Assign = Native.assign_Colorant };
         }
     }
 
@@ -184,8 +193,10 @@ namespace Vyr
 
         static class Parts
         {
-            internal static readonly IntPtr CustomAttributeItem = Library.Item("CustomAttributes", "CustomAttribute");
-            internal static readonly PartCalls<CustomAttributeType> CustomAttribute = new PartCalls<CustomAttributeType> { Item = CustomAttributeItem, Make = h => new CustomAttributeType(h), Get = Native.get_CustomAttribute, Assign = Native.assign_CustomAttribute };
+            static IntPtr madeCustomAttributeItem;
+            internal static IntPtr CustomAttributeItem => madeCustomAttributeItem != IntPtr.Zero ? madeCustomAttributeItem : madeCustomAttributeItem = Library.Item("CustomAttributes", "CustomAttribute");
+            static PartCalls madeCustomAttribute;
+            internal static PartCalls CustomAttribute => madeCustomAttribute != null ? madeCustomAttribute : madeCustomAttribute = new PartCalls { Item = CustomAttributeItem, Make = h => new CustomAttributeType(h), Get = Native.get_CustomAttribute, Assign = Native.assign_CustomAttribute };
         }
     }
 
@@ -208,8 +219,10 @@ namespace Vyr
 
         static class Parts
         {
-            internal static readonly IntPtr ColorSpaceSpectralItem = Library.Item("ColorAndFinish", "ColorSpaceSpectral");
-            internal static readonly PartCalls<ColorSpaceSpectralType> ColorSpaceSpectral = new PartCalls<ColorSpaceSpectralType> { Item = ColorSpaceSpectralItem, Make = h => new ColorSpaceSpectralType(h), Get = Native.get_ColorSpaceSpectral, Assign = Native.assign_ColorSpaceSpectral };
+            static IntPtr madeColorSpaceSpectralItem;
+            internal static IntPtr ColorSpaceSpectralItem => madeColorSpaceSpectralItem != IntPtr.Zero ? madeColorSpaceSpectralItem : madeColorSpaceSpectralItem = Library.Item("ColorAndFinish", "ColorSpaceSpectral");
+            static PartCalls madeColorSpaceSpectral;
+            internal static PartCalls ColorSpaceSpectral => madeColorSpaceSpectral != null ? madeColorSpaceSpectral : madeColorSpaceSpectral = new PartCalls { Item = ColorSpaceSpectralItem, Make = h => new ColorSpaceSpectralType(h), Get = Native.get_ColorSpaceSpectral, Assign = Native.assign_ColorSpaceSpectral };
         }
     }
 
@@ -237,8 +250,10 @@ namespace Vyr
 
         static class Parts
         {
-            internal static readonly IntPtr ColorSpaceSpecificationSpectrumGenericItem = Library.Item("ColorSpaceNCSType", "ColorSpaceSpecificationSpectrumGeneric");
-            internal static readonly PartCalls<ColorSpaceSpecificationSpectrumGeneric> ColorSpaceSpecificationSpectrumGeneric = new PartCalls<ColorSpaceSpecificationSpectrumGeneric> { Item = ColorSpaceSpecificationSpectrumGenericItem, Make = h => new ColorSpaceSpecificationSpectrumGeneric(h), Get = Native.get_ColorSpaceSpecificationSpectrumGeneric, Assign = Native.assign_ColorSpaceSpecificationSpectrumGeneric };
+            static IntPtr madeColorSpaceSpecificationSpectrumGenericItem;
+            internal static IntPtr ColorSpaceSpecificationSpectrumGenericItem => madeColorSpaceSpecificationSpectrumGenericItem != IntPtr.Zero ? madeColorSpaceSpecificationSpectrumGenericItem : madeColorSpaceSpecificationSpectrumGenericItem = Library.Item("ColorSpaceNCSType", "ColorSpaceSpecificationSpectrumGeneric");
+            static PartCalls madeColorSpaceSpecificationSpectrumGeneric;
+            internal static PartCalls ColorSpaceSpecificationSpectrumGeneric => madeColorSpaceSpecificationSpectrumGeneric != null ? madeColorSpaceSpecificationSpectrumGeneric : madeColorSpaceSpecificationSpectrumGeneric = new PartCalls { Item = ColorSpaceSpecificationSpectrumGenericItem, Make = h => new ColorSpaceSpecificationSpectrumGeneric(h), Get = Native.get_ColorSpaceSpecificationSpectrumGeneric, Assign = Native.assign_ColorSpaceSpecificationSpectrumGeneric };
         }
     }
 
@@ -268,8 +283,10 @@ namespace Vyr
 
         static class Parts
         {
-            internal static readonly IntPtr ColorSpaceSpecificationSpectrumGenericItem = Library.Item("ColorSpaceMunsellType", "ColorSpaceSpecificationSpectrumGeneric");
-            internal static readonly PartCalls<ColorSpaceSpecificationSpectrumGeneric> ColorSpaceSpecificationSpectrumGeneric = new PartCalls<ColorSpaceSpecificationSpectrumGeneric> { Item = ColorSpaceSpecificationSpectrumGenericItem, Make = h => new ColorSpaceSpecificationSpectrumGeneric(h), Get = Native.get_ColorSpaceSpecificationSpectrumGeneric, Assign = Native.assign_ColorSpaceSpecificationSpectrumGeneric };
+            static IntPtr madeColorSpaceSpecificationSpectrumGenericItem;
+            internal static IntPtr ColorSpaceSpecificationSpectrumGenericItem => madeColorSpaceSpecificationSpectrumGenericItem != IntPtr.Zero ? madeColorSpaceSpecificationSpectrumGenericItem : madeColorSpaceSpecificationSpectrumGenericItem = Library.Item("ColorSpaceMunsellType", "ColorSpaceSpecificationSpectrumGeneric");
+            static PartCalls madeColorSpaceSpecificationSpectrumGeneric;
+            internal static PartCalls ColorSpaceSpecificationSpectrumGeneric => madeColorSpaceSpecificationSpectrumGeneric != null ? madeColorSpaceSpecificationSpectrumGeneric : madeColorSpaceSpecificationSpectrumGeneric = new PartCalls { Item = ColorSpaceSpecificationSpectrumGenericItem, Make = h => new ColorSpaceSpecificationSpectrumGeneric(h), Get = Native.get_ColorSpaceSpecificationSpectrumGeneric, Assign = Native.assign_ColorSpaceSpecificationSpectrumGeneric };
         }
     }
 
@@ -306,7 +323,8 @@ namespace Vyr
 
         static class Parts
         {
-            internal static readonly ObjectListCalls<CustomAttributeType> CustomAttribute = new ObjectListCalls<CustomAttributeType> { Make = h => new CustomAttributeType(h), Size = Native.size_CustomAttribute, Get = Native.get_CustomAttribute, Assign = Native.assign_CustomAttribute, Append = Native.append_CustomAttribute, Insert = Native.insert_CustomAttribute, Delete = Native.delete_CustomAttribute, Clear = Native.clear_CustomAttribute };
+            static ObjectListCalls<CustomAttributeType> madeCustomAttribute;
+            internal static ObjectListCalls<CustomAttributeType> CustomAttribute => madeCustomAttribute != null ? madeCustomAttribute : madeCustomAttribute = new ObjectListCalls<CustomAttributeType> { Make = h => new CustomAttributeType(h), Size = Native.size_CustomAttribute, Get = Native.get_CustomAttribute, Assign = Native.assign_CustomAttribute, Append = Native.append_CustomAttribute, Insert = Native.insert_CustomAttribute, Delete = Native.delete_CustomAttribute, Clear = Native.clear_CustomAttribute };
         }
     }
 
@@ -329,8 +347,10 @@ namespace Vyr
 
         static class Parts
         {
-            internal static readonly IntPtr BaseItem = Library.Item("BaseElementType", "Base");
-            internal static readonly PartCalls<Base> Base = new PartCalls<Base> { Item = BaseItem, Make = h => new Base(h), Get = Native.get_Base, Assign = Native.assign_Base };
+            static IntPtr madeBaseItem;
+            internal static IntPtr BaseItem => madeBaseItem != IntPtr.Zero ? madeBaseItem : madeBaseItem = Library.Item("BaseElementType", "Base");
+            static PartCalls madeBase;
+            internal static PartCalls Base => madeBase != null ? madeBase : madeBase = new PartCalls { Item = BaseItem, Make = h => new Base(h), Get = Native.get_Base, Assign = Native.assign_Base };
         }
     }
 
@@ -366,11 +386,16 @@ namespace Vyr
 
         static class Parts
         {
-            internal static readonly IntPtr ColorSpaceSpecificationSpectrumGenericItem = Library.Item("ColorSpaceRecipeType", "ColorSpaceSpecificationSpectrumGeneric");
-            internal static readonly PartCalls<ColorSpaceSpecificationSpectrumGeneric> ColorSpaceSpecificationSpectrumGeneric = new PartCalls<ColorSpaceSpecificationSpectrumGeneric> { Item = ColorSpaceSpecificationSpectrumGenericItem, Make = h => new ColorSpaceSpecificationSpectrumGeneric(h), Get = Native.get_ColorSpaceSpecificationSpectrumGeneric, Assign = Native.assign_ColorSpaceSpecificationSpectrumGeneric };
-            internal static readonly ObjectListCalls<ColorantElementType> ColorantElement = new ObjectListCalls<ColorantElementType> { Make = h => new ColorantElementType(h), Size = Native.size_ColorantElement, Get = Native.get_ColorantElement, Assign = Native.assign_ColorantElement, Append = Native.append_ColorantElement, Insert = Native.insert_ColorantElement, Delete = Native.delete_ColorantElement, Clear = Native.clear_ColorantElement };
-            internal static readonly IntPtr BaseElementItem = Library.Item("ColorSpaceRecipeType", "BaseElement");
-            internal static readonly PartCalls<BaseElementType> BaseElement = new PartCalls<BaseElementType> { Item = BaseElementItem, Make = h => new BaseElementType(h), Get = Native.get_BaseElement, Assign = Native.assign_BaseElement, Unset = Native.unset_BaseElement };
+            static IntPtr madeColorSpaceSpecificationSpectrumGenericItem;
+            internal static IntPtr ColorSpaceSpecificationSpectrumGenericItem => madeColorSpaceSpecificationSpectrumGenericItem != IntPtr.Zero ? madeColorSpaceSpecificationSpectrumGenericItem : madeColorSpaceSpecificationSpectrumGenericItem = Library.Item("ColorSpaceRecipeType", "ColorSpaceSpecificationSpectrumGeneric");
+            static PartCalls madeColorSpaceSpecificationSpectrumGeneric;
+            internal static PartCalls ColorSpaceSpecificationSpectrumGeneric => madeColorSpaceSpecificationSpectrumGeneric != null ? madeColorSpaceSpecificationSpectrumGeneric : madeColorSpaceSpecificationSpectrumGeneric = new PartCalls { Item = ColorSpaceSpecificationSpectrumGenericItem, Make = h => new ColorSpaceSpecificationSpectrumGeneric(h), Get = Native.get_ColorSpaceSpecificationSpectrumGeneric, Assign = Native.assign_ColorSpaceSpecificationSpectrumGeneric };
+            static ObjectListCalls<ColorantElementType> madeColorantElement;
+            internal static ObjectListCalls<ColorantElementType> ColorantElement => madeColorantElement != null ? madeColorantElement : madeColorantElement = new ObjectListCalls<ColorantElementType> { Make = h => new ColorantElementType(h), Size = Native.size_ColorantElement, Get = Native.get_ColorantElement, Assign = Native.assign_ColorantElement, Append = Native.append_ColorantElement, Insert = Native.insert_ColorantElement, Delete = Native.delete_ColorantElement, Clear = Native.clear_ColorantElement };
+            static IntPtr madeBaseElementItem;
+            internal static IntPtr BaseElementItem => madeBaseElementItem != IntPtr.Zero ? madeBaseElementItem : madeBaseElementItem = Library.Item("ColorSpaceRecipeType", "BaseElement");
+            static PartCalls madeBaseElement;
+            internal static PartCalls BaseElement => madeBaseElement != null ? madeBaseElement : madeBaseElement = new PartCalls { Item = BaseElementItem, Make = h => new BaseElementType(h), Get = Native.get_BaseElement, Assign = Native.assign_BaseElement, Unset = Native.unset_BaseElement };
         }
     }
 
@@ -470,9 +495,12 @@ namespace Vyr
 
         static class Parts
         {
-            internal static readonly ObjectListCalls<CustomAttributeType> CustomAttribute = new ObjectListCalls<CustomAttributeType> { Make = h => new CustomAttributeType(h), Size = Native.size_CustomAttribute, Get = Native.get_CustomAttribute, Assign = Native.assign_CustomAttribute, Append = Native.append_CustomAttribute, Insert = Native.insert_CustomAttribute, Delete = Native.delete_CustomAttribute, Clear = Native.clear_CustomAttribute };
-            internal static readonly IntPtr DensityItem = Library.Item("ColorantElementType_Colorant", "Density");
-            internal static readonly PartCalls<Density> Density = new PartCalls<Density> { Item = DensityItem, Make = h => new Density(h), Get = Native.get_Density, Assign = Native.assign_Density };
+            static ObjectListCalls<CustomAttributeType> madeCustomAttribute;
+            internal static ObjectListCalls<CustomAttributeType> CustomAttribute => madeCustomAttribute != null ? madeCustomAttribute : madeCustomAttribute = new ObjectListCalls<CustomAttributeType> { Make = h => new CustomAttributeType(h), Size = Native.size_CustomAttribute, Get = Native.get_CustomAttribute, Assign = Native.assign_CustomAttribute, Append = Native.append_CustomAttribute, Insert = Native.insert_CustomAttribute, Delete = Native.delete_CustomAttribute, Clear = Native.clear_CustomAttribute };
+            static IntPtr madeDensityItem;
+            internal static IntPtr DensityItem => madeDensityItem != IntPtr.Zero ? madeDensityItem : madeDensityItem = Library.Item("ColorantElementType_Colorant", "Density");
+            static PartCalls madeDensity;
+            internal static PartCalls Density => madeDensity != null ? madeDensity : madeDensity = new PartCalls { Item = DensityItem, Make = h => new Density(h), Get = Native.get_Density, Assign = Native.assign_Density };
         }
     }
 
@@ -495,8 +523,10 @@ namespace Vyr
 
         static class Parts
         {
-            internal static readonly IntPtr ColorantItem = Library.Item("ColorantElementType", "Colorant");
-            internal static readonly PartCalls<ColorantElementType_Colorant> Colorant = new PartCalls<ColorantElementType_Colorant> { Item = ColorantItem, Make = h => new ColorantElementType_Colorant(h), Get = Native.get_Colorant, Assign = Native.assign_Colorant };
+            static IntPtr madeColorantItem;
+            internal static IntPtr ColorantItem => madeColorantItem != IntPtr.Zero ? madeColorantItem : madeColorantItem = Library.Item("ColorantElementType", "Colorant");
+            static PartCalls madeColorant;
+            internal static PartCalls Colorant => madeColorant != null ? madeColorant : madeColorant = new PartCalls { Item = ColorantItem, Make = h => new ColorantElementType_Colorant(h), Get = Native.get_Colorant, Assign = Native.assign_Colorant };
         }
     }
 }

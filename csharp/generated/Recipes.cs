@@ -54,7 +54,7 @@ namespace Vyr
         public override void Reset() { RemoveParts(); Native.reset(Pointer); Keep(); }
 
         /// <summary>One colorant with its share.</summary>
-        public ObjectList<ColorantElement> ColorantElements => ListOfObjects(0, Parts.ColorantElement);
+        public ObjectList<ColorantElement> ColorantElements => (ObjectList<ColorantElement>)(Part(0) ?? Remember(0, new ObjectList<ColorantElement>(this, "ColorantElements", Parts.ColorantElement)));
     }
 
     /// <summary>A colour of the TINTORA collection, by family, name and page.</summary>
@@ -82,10 +82,10 @@ namespace Vyr
         public string FamilyName { get => Kept(Native.get_FamilyName(Pointer)); set => Demand(Native.set_FamilyName(Pointer, Library.Whole(value))); }
 
         /// <summary>Name of the colour in its three parts. Null until set; assigning copies.</summary>
-        public ColorName ColorName { get => Child(3, Parts.ColorName); set => AssignChild(3, Parts.ColorName, value); }
+        public ColorName ColorName { get => (ColorName)Child(3, Parts.ColorName); set => AssignChild(3, Parts.ColorName, value); }
 
         /// <summary>Gives ColorName, which it makes if it isn't there.</summary>
-        public ColorName CreateColorName() => CreateChild(3, Parts.ColorName);
+        public ColorName CreateColorName() => (ColorName)CreateChild(3, Parts.ColorName);
 
         /// <summary>Page of the guide that shows the colour.</summary>
         public string Page { get => Kept(Native.get_Page(Pointer)); set => Demand(Native.set_Page(Pointer, Library.Whole(value))); }
@@ -94,13 +94,13 @@ namespace Vyr
         public GamutKind Gamut { get => (GamutKind)Kept(Native.getenum_Gamut(Pointer)); set => Demand(Listed(Native.setenum_Gamut(Pointer, (int)value))); }
 
         /// <summary>How the colour is mixed. Null until set; assigning copies.</summary>
-        public Recipe Recipe { get => Child(4, Parts.Recipe); set => AssignChild(4, Parts.Recipe, value); }
+        public Recipe Recipe { get => (Recipe)Child(4, Parts.Recipe); set => AssignChild(4, Parts.Recipe, value); }
 
         /// <summary>Gives Recipe, which it makes if it isn't there.</summary>
-        public Recipe CreateRecipe() => CreateChild(4, Parts.Recipe);
+        public Recipe CreateRecipe() => (Recipe)CreateChild(4, Parts.Recipe);
 
         /// <summary>Spectrum of the colour in one finish.</summary>
-        public ObjectList<ColorAndFinish> ColorAndFinishes => ListOfObjects(5, Parts.ColorAndFinish);
+        public ObjectList<ColorAndFinish> ColorAndFinishes => (ObjectList<ColorAndFinish>)(Part(5) ?? Remember(5, new ObjectList<ColorAndFinish>(this, "ColorAndFinishes", Parts.ColorAndFinish)));
     }
 
     /// <summary>A dye, pigment or base ink of a recipe, known by its name.</summary>
@@ -122,7 +122,7 @@ namespace Vyr
         public override void Reset() { RemoveParts(); Native.reset(Pointer); Keep(); }
 
         /// <summary>A named value of the user's own.</summary>
-        public ObjectList<CustomAttributes> CustomAttributes => ListOfObjects(0, Parts.CustomAttributes);
+        public ObjectList<CustomAttributes> CustomAttributes => (ObjectList<CustomAttributes>)(Part(0) ?? Remember(0, new ObjectList<CustomAttributes>(this, "CustomAttributes", Parts.CustomAttributes)));
 
         /// <summary>Name of the colorant; not empty.</summary>
         public string Name { get => Kept(Native.get_Name(Pointer)); set => Demand(Native.set_Name(Pointer, Library.Whole(value))); }
@@ -156,10 +156,10 @@ namespace Vyr
         public override void Reset() { RemoveParts(); Native.reset(Pointer); Keep(); }
 
         /// <summary>The colorant. Null until set; assigning copies.</summary>
-        public Colorant Colorant { get => Child(0, Parts.Colorant); set => AssignChild(0, Parts.Colorant, value); }
+        public Colorant Colorant { get => (Colorant)Child(0, Parts.Colorant); set => AssignChild(0, Parts.Colorant, value); }
 
         /// <summary>Gives Colorant, which it makes if it isn't there.</summary>
-        public Colorant CreateColorant() => CreateChild(0, Parts.Colorant);
+        public Colorant CreateColorant() => (Colorant)CreateChild(0, Parts.Colorant);
 
         /// <summary>Share of the colorant, 0 or more, in the unit of the recipe.</summary>
         public double Contribution { get => Kept(Native.get_Contribution(Pointer)); set => Demand(Native.set_Contribution(Pointer, value)); }
@@ -184,10 +184,10 @@ namespace Vyr
         public override void Reset() { RemoveParts(); Native.reset(Pointer); Keep(); }
 
         /// <summary>The named value. Null until set; assigning copies.</summary>
-        public CustomAttributeType CustomAttribute { get => Child(0, Parts.CustomAttribute); set => AssignChild(0, Parts.CustomAttribute, value); }
+        public CustomAttributeType CustomAttribute { get => (CustomAttributeType)Child(0, Parts.CustomAttribute); set => AssignChild(0, Parts.CustomAttribute, value); }
 
         /// <summary>Gives CustomAttribute, which it makes if it isn't there.</summary>
-        public CustomAttributeType CreateCustomAttribute() => CreateChild(0, Parts.CustomAttribute);
+        public CustomAttributeType CreateCustomAttribute() => (CustomAttributeType)CreateChild(0, Parts.CustomAttribute);
     }
 
     /// <summary>How a colour looks in one finish of the paper.</summary>
@@ -212,10 +212,10 @@ namespace Vyr
         public FinishKind Finish { get => (FinishKind)Kept(Native.getenum_Finish(Pointer)); set => Demand(Listed(Native.setenum_Finish(Pointer, (int)value))); }
 
         /// <summary>Reflectance spectrum in that finish. Null until set; assigning copies.</summary>
-        public ColorSpaceSpectralType ColorSpaceSpectral { get => Child(0, Parts.ColorSpaceSpectral); set => AssignChild(0, Parts.ColorSpaceSpectral, value); }
+        public ColorSpaceSpectralType ColorSpaceSpectral { get => (ColorSpaceSpectralType)Child(0, Parts.ColorSpaceSpectral); set => AssignChild(0, Parts.ColorSpaceSpectral, value); }
 
         /// <summary>Gives ColorSpaceSpectral, which it makes if it isn't there.</summary>
-        public ColorSpaceSpectralType CreateColorSpaceSpectral() => CreateChild(0, Parts.ColorSpaceSpectral);
+        public ColorSpaceSpectralType CreateColorSpaceSpectral() => (ColorSpaceSpectralType)CreateChild(0, Parts.ColorSpaceSpectral);
     }
 
     /// <summary>A colour by its notation in the Natural Colour System.</summary>
@@ -240,10 +240,10 @@ namespace Vyr
         public string Name { get => Is(Native.isset_Name(Pointer)) ? Kept(Native.get_Name(Pointer)) : null; set => Demand(value == null ? Native.UnsetName(Pointer) : Native.set_Name(Pointer, Library.Whole(value))); }
 
         /// <summary>Conditions under which the value holds. Null until set; assigning copies.</summary>
-        public ColorSpaceSpecificationSpectrumGeneric ColorSpaceSpecificationSpectrumGeneric { get => Child(3, Parts.ColorSpaceSpecificationSpectrumGeneric); set => AssignChild(3, Parts.ColorSpaceSpecificationSpectrumGeneric, value); }
+        public ColorSpaceSpecificationSpectrumGeneric ColorSpaceSpecificationSpectrumGeneric { get => (ColorSpaceSpecificationSpectrumGeneric)Child(3, Parts.ColorSpaceSpecificationSpectrumGeneric); set => AssignChild(3, Parts.ColorSpaceSpecificationSpectrumGeneric, value); }
 
         /// <summary>Gives ColorSpaceSpecificationSpectrumGeneric, which it makes if it isn't there.</summary>
-        public ColorSpaceSpecificationSpectrumGeneric CreateColorSpaceSpecificationSpectrumGeneric() => CreateChild(3, Parts.ColorSpaceSpecificationSpectrumGeneric);
+        public ColorSpaceSpecificationSpectrumGeneric CreateColorSpaceSpecificationSpectrumGeneric() => (ColorSpaceSpecificationSpectrumGeneric)CreateChild(3, Parts.ColorSpaceSpecificationSpectrumGeneric);
 
         /// <summary>The notation.</summary>
         public string ColorName { get => Kept(Native.get_ColorName(Pointer)); set => Demand(Native.set_ColorName(Pointer, Library.Whole(value))); }
@@ -271,10 +271,10 @@ namespace Vyr
         public string Name { get => Is(Native.isset_Name(Pointer)) ? Kept(Native.get_Name(Pointer)) : null; set => Demand(value == null ? Native.UnsetName(Pointer) : Native.set_Name(Pointer, Library.Whole(value))); }
 
         /// <summary>Conditions under which the value holds. Null until set; assigning copies.</summary>
-        public ColorSpaceSpecificationSpectrumGeneric ColorSpaceSpecificationSpectrumGeneric { get => Child(3, Parts.ColorSpaceSpecificationSpectrumGeneric); set => AssignChild(3, Parts.ColorSpaceSpecificationSpectrumGeneric, value); }
+        public ColorSpaceSpecificationSpectrumGeneric ColorSpaceSpecificationSpectrumGeneric { get => (ColorSpaceSpecificationSpectrumGeneric)Child(3, Parts.ColorSpaceSpecificationSpectrumGeneric); set => AssignChild(3, Parts.ColorSpaceSpecificationSpectrumGeneric, value); }
 
         /// <summary>Gives ColorSpaceSpecificationSpectrumGeneric, which it makes if it isn't there.</summary>
-        public ColorSpaceSpecificationSpectrumGeneric CreateColorSpaceSpecificationSpectrumGeneric() => CreateChild(3, Parts.ColorSpaceSpecificationSpectrumGeneric);
+        public ColorSpaceSpecificationSpectrumGeneric CreateColorSpaceSpecificationSpectrumGeneric() => (ColorSpaceSpecificationSpectrumGeneric)CreateChild(3, Parts.ColorSpaceSpecificationSpectrumGeneric);
 
         /// <summary>Which Munsell collection; not empty.</summary>
         public string CollectionName { get => Kept(Native.get_CollectionName(Pointer)); set => Demand(Native.set_CollectionName(Pointer, Library.Whole(value))); }
@@ -302,7 +302,7 @@ namespace Vyr
         public override void Reset() { RemoveParts(); Native.reset(Pointer); Keep(); }
 
         /// <summary>A named value of the user's own.</summary>
-        public ObjectList<CustomAttributeType> CustomAttributes => ListOfObjects(0, Parts.CustomAttribute);
+        public ObjectList<CustomAttributeType> CustomAttributes => (ObjectList<CustomAttributeType>)(Part(0) ?? Remember(0, new ObjectList<CustomAttributeType>(this, "CustomAttributes", Parts.CustomAttribute)));
 
         /// <summary>Name of the base; not empty.</summary>
         public string Name { get => Kept(Native.get_Name(Pointer)); set => Demand(Native.set_Name(Pointer, Library.Whole(value))); }
@@ -336,10 +336,10 @@ namespace Vyr
         public override void Reset() { RemoveParts(); Native.reset(Pointer); Keep(); }
 
         /// <summary>The base. Null until set; assigning copies.</summary>
-        public Base Base { get => Child(0, Parts.Base); set => AssignChild(0, Parts.Base, value); }
+        public Base Base { get => (Base)Child(0, Parts.Base); set => AssignChild(0, Parts.Base, value); }
 
         /// <summary>Gives Base, which it makes if it isn't there.</summary>
-        public Base CreateBase() => CreateChild(0, Parts.Base);
+        public Base CreateBase() => (Base)CreateChild(0, Parts.Base);
 
         /// <summary>Share of the base, 0 or more, in the unit of the recipe.</summary>
         public double Contribution { get => Kept(Native.get_Contribution(Pointer)); set => Demand(Native.set_Contribution(Pointer, value)); }
@@ -367,19 +367,19 @@ namespace Vyr
         public string Name { get => Is(Native.isset_Name(Pointer)) ? Kept(Native.get_Name(Pointer)) : null; set => Demand(value == null ? Native.UnsetName(Pointer) : Native.set_Name(Pointer, Library.Whole(value))); }
 
         /// <summary>Conditions under which the value holds. Null until set; assigning copies.</summary>
-        public ColorSpaceSpecificationSpectrumGeneric ColorSpaceSpecificationSpectrumGeneric { get => Child(3, Parts.ColorSpaceSpecificationSpectrumGeneric); set => AssignChild(3, Parts.ColorSpaceSpecificationSpectrumGeneric, value); }
+        public ColorSpaceSpecificationSpectrumGeneric ColorSpaceSpecificationSpectrumGeneric { get => (ColorSpaceSpecificationSpectrumGeneric)Child(3, Parts.ColorSpaceSpecificationSpectrumGeneric); set => AssignChild(3, Parts.ColorSpaceSpecificationSpectrumGeneric, value); }
 
         /// <summary>Gives ColorSpaceSpecificationSpectrumGeneric, which it makes if it isn't there.</summary>
-        public ColorSpaceSpecificationSpectrumGeneric CreateColorSpaceSpecificationSpectrumGeneric() => CreateChild(3, Parts.ColorSpaceSpecificationSpectrumGeneric);
+        public ColorSpaceSpecificationSpectrumGeneric CreateColorSpaceSpecificationSpectrumGeneric() => (ColorSpaceSpecificationSpectrumGeneric)CreateChild(3, Parts.ColorSpaceSpecificationSpectrumGeneric);
 
         /// <summary>One colorant with its share.</summary>
-        public ObjectList<ColorantElementType> ColorantElements => ListOfObjects(4, Parts.ColorantElement);
+        public ObjectList<ColorantElementType> ColorantElements => (ObjectList<ColorantElementType>)(Part(4) ?? Remember(4, new ObjectList<ColorantElementType>(this, "ColorantElements", Parts.ColorantElement)));
 
         /// <summary>The base that the colorants are mixed into. Null until set; assigning copies.</summary>
-        public BaseElementType BaseElement { get => Child(5, Parts.BaseElement); set => AssignChild(5, Parts.BaseElement, value); }
+        public BaseElementType BaseElement { get => (BaseElementType)Child(5, Parts.BaseElement); set => AssignChild(5, Parts.BaseElement, value); }
 
         /// <summary>Gives BaseElement, which it makes if it isn't there.</summary>
-        public BaseElementType CreateBaseElement() => CreateChild(5, Parts.BaseElement);
+        public BaseElementType CreateBaseElement() => (BaseElementType)CreateChild(5, Parts.BaseElement);
     }
 
     /// <summary>A colour by the colorants that give it.</summary>
@@ -534,7 +534,7 @@ namespace Vyr
         public override void Reset() { RemoveParts(); Native.reset(Pointer); Keep(); }
 
         /// <summary>A named value of the user's own.</summary>
-        public ObjectList<CustomAttributeType> CustomAttributes => ListOfObjects(0, Parts.CustomAttribute);
+        public ObjectList<CustomAttributeType> CustomAttributes => (ObjectList<CustomAttributeType>)(Part(0) ?? Remember(0, new ObjectList<CustomAttributeType>(this, "CustomAttributes", Parts.CustomAttribute)));
 
         /// <summary>Name of the colorant; not empty.</summary>
         public string Name { get => Kept(Native.get_Name(Pointer)); set => Demand(Native.set_Name(Pointer, Library.Whole(value))); }
@@ -547,10 +547,10 @@ namespace Vyr
 
         /// <summary>Density of the colorant, above 0 and without a stated unit, or nil where it is unknown. Null
         /// until set; assigning copies.</summary>
-        public Density Density { get => Child(1, Parts.Density); set => AssignChild(1, Parts.Density, value); }
+        public Density Density { get => (Density)Child(1, Parts.Density); set => AssignChild(1, Parts.Density, value); }
 
         /// <summary>Gives Density, which it makes if it isn't there.</summary>
-        public Density CreateDensity() => CreateChild(1, Parts.Density);
+        public Density CreateDensity() => (Density)CreateChild(1, Parts.Density);
     }
 
     /// <summary>A colorant and its fraction of a mixture.</summary>
@@ -572,10 +572,10 @@ namespace Vyr
         public override void Reset() { RemoveParts(); Native.reset(Pointer); Keep(); }
 
         /// <summary>The colorant. Null until set; assigning copies.</summary>
-        public ColorantElementType_Colorant Colorant { get => Child(0, Parts.Colorant); set => AssignChild(0, Parts.Colorant, value); }
+        public ColorantElementType_Colorant Colorant { get => (ColorantElementType_Colorant)Child(0, Parts.Colorant); set => AssignChild(0, Parts.Colorant, value); }
 
         /// <summary>Gives Colorant, which it makes if it isn't there.</summary>
-        public ColorantElementType_Colorant CreateColorant() => CreateChild(0, Parts.Colorant);
+        public ColorantElementType_Colorant CreateColorant() => (ColorantElementType_Colorant)CreateChild(0, Parts.Colorant);
 
         /// <summary>Share of the colorant in the mixture, 0 to 1.</summary>
         public double Contribution { get => Kept(Native.get_Contribution(Pointer)); set => Demand(Native.set_Contribution(Pointer, value)); }

@@ -37,9 +37,12 @@ namespace Vyr
 
         static class Parts
         {
-            internal static readonly IntPtr ColorSpaceSpecificationSpectrumGenericItem = Library.Item("ColorSpaceDensityType", "ColorSpaceSpecificationSpectrumGeneric");
-            internal static readonly PartCalls<ColorSpaceSpecificationSpectrumGeneric> ColorSpaceSpecificationSpectrumGeneric = new PartCalls<ColorSpaceSpecificationSpectrumGeneric> { Item = ColorSpaceSpecificationSpectrumGenericItem, Make = h => new ColorSpaceSpecificationSpectrumGeneric(h), Get = Native.get_ColorSpaceSpecificationSpectrumGeneric, Assign = Native.assign_ColorSpaceSpecificationSpectrumGeneric };
-            internal static readonly ObjectListCalls<DensityType> Density = new ObjectListCalls<DensityType> { Make = h => new DensityType(h), Size = Native.size_Density, Get = Native.get_Density, Assign = Native.assign_Density, Append = Native.append_Density, Insert = Native.insert_Density, Delete = Native.delete_Density, Clear = Native.clear_Density };
+            static IntPtr madeColorSpaceSpecificationSpectrumGenericItem;
+            internal static IntPtr ColorSpaceSpecificationSpectrumGenericItem => madeColorSpaceSpecificationSpectrumGenericItem != IntPtr.Zero ? madeColorSpaceSpecificationSpectrumGenericItem : madeColorSpaceSpecificationSpectrumGenericItem = Library.Item("ColorSpaceDensityType", "ColorSpaceSpecificationSpectrumGeneric");
+            static PartCalls madeColorSpaceSpecificationSpectrumGeneric;
+            internal static PartCalls ColorSpaceSpecificationSpectrumGeneric => madeColorSpaceSpecificationSpectrumGeneric != null ? madeColorSpaceSpecificationSpectrumGeneric : madeColorSpaceSpecificationSpectrumGeneric = new PartCalls { Item = ColorSpaceSpecificationSpectrumGenericItem, Make = h => new ColorSpaceSpecificationSpectrumGeneric(h), Get = Native.get_ColorSpaceSpecificationSpectrumGeneric, Assign = Native.assign_ColorSpaceSpecificationSpectrumGeneric };
+            static ObjectListCalls<DensityType> madeDensity;
+            internal static ObjectListCalls<DensityType> Density => madeDensity != null ? madeDensity : madeDensity = new ObjectListCalls<DensityType> { Make = h => new DensityType(h), Size = Native.size_Density, Get = Native.get_Density, Assign = Native.assign_Density, Append = Native.append_Density, Insert = Native.insert_Density, Delete = Native.delete_Density, Clear = Native.clear_Density };
         }
     }
 
@@ -72,12 +75,18 @@ namespace Vyr
 
         static class Parts
         {
-            internal static readonly IntPtr ColorSpaceSpecificationSpectrumSpectralItem = Library.Item("ColorSpaceSpectralType", "ColorSpaceSpecificationSpectrumSpectral");
-            internal static readonly PartCalls<ColorSpaceSpecificationSpectrumSpectral> ColorSpaceSpecificationSpectrumSpectral = new PartCalls<ColorSpaceSpecificationSpectrumSpectral> { Item = ColorSpaceSpecificationSpectrumSpectralItem, Make = h => new ColorSpaceSpecificationSpectrumSpectral(h), Get = Native.get_ColorSpaceSpecificationSpectrumSpectral, Assign = Native.assign_ColorSpaceSpecificationSpectrumSpectral };
-            internal static readonly ObjectListCalls<ReflectancePointType> ReflectancePoint = new ObjectListCalls<ReflectancePointType> { Make = h => new ReflectancePointType(h), Size = Native.size_ReflectancePoint, Get = Native.get_ReflectancePoint, Assign = Native.assign_ReflectancePoint, Append = Native.append_ReflectancePoint, Insert = Native.insert_ReflectancePoint, Delete = Native.delete_ReflectancePoint, Clear = Native.clear_ReflectancePoint };
-            internal static readonly IntPtr ReflectancePointWavelengthItem = Library.Item("ReflectancePointType", "Wavelength");
-            internal static readonly IntPtr ReflectancePointItem = Library.Item("ColorSpaceSpectralType", "ReflectancePoint");
-            internal static readonly IntPtr ReflectancePointReflectancePointTypeItem = Library.Item("ReflectancePointType", "ReflectancePointType");
+            static IntPtr madeColorSpaceSpecificationSpectrumSpectralItem;
+            internal static IntPtr ColorSpaceSpecificationSpectrumSpectralItem => madeColorSpaceSpecificationSpectrumSpectralItem != IntPtr.Zero ? madeColorSpaceSpecificationSpectrumSpectralItem : madeColorSpaceSpecificationSpectrumSpectralItem = Library.Item("ColorSpaceSpectralType", "ColorSpaceSpecificationSpectrumSpectral");
+            static PartCalls madeColorSpaceSpecificationSpectrumSpectral;
+            internal static PartCalls ColorSpaceSpecificationSpectrumSpectral => madeColorSpaceSpecificationSpectrumSpectral != null ? madeColorSpaceSpecificationSpectrumSpectral : madeColorSpaceSpecificationSpectrumSpectral = new PartCalls { Item = ColorSpaceSpecificationSpectrumSpectralItem, Make = h => new ColorSpaceSpecificationSpectrumSpectral(h), Get = Native.get_ColorSpaceSpecificationSpectrumSpectral, Assign = Native.assign_ColorSpaceSpecificationSpectrumSpectral };
+            static ObjectListCalls<ReflectancePointType> madeReflectancePoint;
+            internal static ObjectListCalls<ReflectancePointType> ReflectancePoint => madeReflectancePoint != null ? madeReflectancePoint : madeReflectancePoint = new ObjectListCalls<ReflectancePointType> { Make = h => new ReflectancePointType(h), Size = Native.size_ReflectancePoint, Get = Native.get_ReflectancePoint, Assign = Native.assign_ReflectancePoint, Append = Native.append_ReflectancePoint, Insert = Native.insert_ReflectancePoint, Delete = Native.delete_ReflectancePoint, Clear = Native.clear_ReflectancePoint };
+            static IntPtr madeReflectancePointWavelengthItem;
+            internal static IntPtr ReflectancePointWavelengthItem => madeReflectancePointWavelengthItem != IntPtr.Zero ? madeReflectancePointWavelengthItem : madeReflectancePointWavelengthItem = Library.Item("ReflectancePointType", "Wavelength");
+            static IntPtr madeReflectancePointItem;
+            internal static IntPtr ReflectancePointItem => madeReflectancePointItem != IntPtr.Zero ? madeReflectancePointItem : madeReflectancePointItem = Library.Item("ColorSpaceSpectralType", "ReflectancePoint");
+            static IntPtr madeReflectancePointReflectancePointTypeItem;
+            internal static IntPtr ReflectancePointReflectancePointTypeItem => madeReflectancePointReflectancePointTypeItem != IntPtr.Zero ? madeReflectancePointReflectancePointTypeItem : madeReflectancePointReflectancePointTypeItem = Library.Item("ReflectancePointType", "ReflectancePointType");
         }
     }
 
@@ -110,12 +119,18 @@ namespace Vyr
 
         static class Parts
         {
-            internal static readonly IntPtr ColorSpaceSpecificationEmissiveSpectralItem = Library.Item("ColorSpaceEmissiveSpectralType", "ColorSpaceSpecificationEmissiveSpectral");
-            internal static readonly PartCalls<ColorSpaceSpecificationEmissiveSpectral> ColorSpaceSpecificationEmissiveSpectral = new PartCalls<ColorSpaceSpecificationEmissiveSpectral> { Item = ColorSpaceSpecificationEmissiveSpectralItem, Make = h => new ColorSpaceSpecificationEmissiveSpectral(h), Get = Native.get_ColorSpaceSpecificationEmissiveSpectral, Assign = Native.assign_ColorSpaceSpecificationEmissiveSpectral };
-            internal static readonly ObjectListCalls<EmissiveSpectralPointType> EmissiveSpectralPoint = new ObjectListCalls<EmissiveSpectralPointType> { Make = h => new EmissiveSpectralPointType(h), Size = Native.size_EmissiveSpectralPoint, Get = Native.get_EmissiveSpectralPoint, Assign = Native.assign_EmissiveSpectralPoint, Append = Native.append_EmissiveSpectralPoint, Insert = Native.insert_EmissiveSpectralPoint, Delete = Native.delete_EmissiveSpectralPoint, Clear = Native.clear_EmissiveSpectralPoint };
-            internal static readonly IntPtr EmissiveSpectralPointWavelengthItem = Library.Item("EmissiveSpectralPointType", "Wavelength");
-            internal static readonly IntPtr EmissiveSpectralPointItem = Library.Item("ColorSpaceEmissiveSpectralType", "EmissiveSpectralPoint");
-            internal static readonly IntPtr EmissiveSpectralPointEmissiveSpectralPointTypeItem = Library.Item("EmissiveSpectralPointType", "EmissiveSpectralPointType");
+            static IntPtr madeColorSpaceSpecificationEmissiveSpectralItem;
+            internal static IntPtr ColorSpaceSpecificationEmissiveSpectralItem => madeColorSpaceSpecificationEmissiveSpectralItem != IntPtr.Zero ? madeColorSpaceSpecificationEmissiveSpectralItem : madeColorSpaceSpecificationEmissiveSpectralItem = Library.Item("ColorSpaceEmissiveSpectralType", "ColorSpaceSpecificationEmissiveSpectral");
+            static PartCalls madeColorSpaceSpecificationEmissiveSpectral;
+            internal static PartCalls ColorSpaceSpecificationEmissiveSpectral => madeColorSpaceSpecificationEmissiveSpectral != null ? madeColorSpaceSpecificationEmissiveSpectral : madeColorSpaceSpecificationEmissiveSpectral = new PartCalls { Item = ColorSpaceSpecificationEmissiveSpectralItem, Make = h => new ColorSpaceSpecificationEmissiveSpectral(h), Get = Native.get_ColorSpaceSpecificationEmissiveSpectral, Assign = Native.assign_ColorSpaceSpecificationEmissiveSpectral };
+            static ObjectListCalls<EmissiveSpectralPointType> madeEmissiveSpectralPoint;
+            internal static ObjectListCalls<EmissiveSpectralPointType> EmissiveSpectralPoint => madeEmissiveSpectralPoint != null ? madeEmissiveSpectralPoint : madeEmissiveSpectralPoint = new ObjectListCalls<EmissiveSpectralPointType> { Make = h => new EmissiveSpectralPointType(h), Size = Native.size_EmissiveSpectralPoint, Get = Native.get_EmissiveSpectralPoint, Assign = Native.assign_EmissiveSpectralPoint, Append = Native.append_EmissiveSpectralPoint, Insert = Native.insert_EmissiveSpectralPoint, Delete = Native.delete_EmissiveSpectralPoint, Clear = Native.clear_EmissiveSpectralPoint };
+            static IntPtr madeEmissiveSpectralPointWavelengthItem;
+            internal static IntPtr EmissiveSpectralPointWavelengthItem => madeEmissiveSpectralPointWavelengthItem != IntPtr.Zero ? madeEmissiveSpectralPointWavelengthItem : madeEmissiveSpectralPointWavelengthItem = Library.Item("EmissiveSpectralPointType", "Wavelength");
+            static IntPtr madeEmissiveSpectralPointItem;
+            internal static IntPtr EmissiveSpectralPointItem => madeEmissiveSpectralPointItem != IntPtr.Zero ? madeEmissiveSpectralPointItem : madeEmissiveSpectralPointItem = Library.Item("ColorSpaceEmissiveSpectralType", "EmissiveSpectralPoint");
+            static IntPtr madeEmissiveSpectralPointEmissiveSpectralPointTypeItem;
+            internal static IntPtr EmissiveSpectralPointEmissiveSpectralPointTypeItem => madeEmissiveSpectralPointEmissiveSpectralPointTypeItem != IntPtr.Zero ? madeEmissiveSpectralPointEmissiveSpectralPointTypeItem : madeEmissiveSpectralPointEmissiveSpectralPointTypeItem = Library.Item("EmissiveSpectralPointType", "EmissiveSpectralPointType");
         }
     }
 
@@ -145,9 +160,12 @@ namespace Vyr
 
         static class Parts
         {
-            internal static readonly IntPtr ColorSpaceSpecificationSpectrumGenericItem = Library.Item("ColorSpaceGenericType", "ColorSpaceSpecificationSpectrumGeneric");
-            internal static readonly PartCalls<ColorSpaceSpecificationSpectrumGeneric> ColorSpaceSpecificationSpectrumGeneric = new PartCalls<ColorSpaceSpecificationSpectrumGeneric> { Item = ColorSpaceSpecificationSpectrumGenericItem, Make = h => new ColorSpaceSpecificationSpectrumGeneric(h), Get = Native.get_ColorSpaceSpecificationSpectrumGeneric, Assign = Native.assign_ColorSpaceSpecificationSpectrumGeneric };
-            internal static readonly ObjectListCalls<AxisType> Axis = new ObjectListCalls<AxisType> { Make = h => new AxisType(h), Size = Native.size_Axis, Get = Native.get_Axis, Assign = Native.assign_Axis, Append = Native.append_Axis, Insert = Native.insert_Axis, Delete = Native.delete_Axis, Clear = Native.clear_Axis };
+            static IntPtr madeColorSpaceSpecificationSpectrumGenericItem;
+            internal static IntPtr ColorSpaceSpecificationSpectrumGenericItem => madeColorSpaceSpecificationSpectrumGenericItem != IntPtr.Zero ? madeColorSpaceSpecificationSpectrumGenericItem : madeColorSpaceSpecificationSpectrumGenericItem = Library.Item("ColorSpaceGenericType", "ColorSpaceSpecificationSpectrumGeneric");
+            static PartCalls madeColorSpaceSpecificationSpectrumGeneric;
+            internal static PartCalls ColorSpaceSpecificationSpectrumGeneric => madeColorSpaceSpecificationSpectrumGeneric != null ? madeColorSpaceSpecificationSpectrumGeneric : madeColorSpaceSpecificationSpectrumGeneric = new PartCalls { Item = ColorSpaceSpecificationSpectrumGenericItem, Make = h => new ColorSpaceSpecificationSpectrumGeneric(h), Get = Native.get_ColorSpaceSpecificationSpectrumGeneric, Assign = Native.assign_ColorSpaceSpecificationSpectrumGeneric };
+            static ObjectListCalls<AxisType> madeAxis;
+            internal static ObjectListCalls<AxisType> Axis => madeAxis != null ? madeAxis : madeAxis = new ObjectListCalls<AxisType> { Make = h => new AxisType(h), Size = Native.size_Axis, Get = Native.get_Axis, Assign = Native.assign_Axis, Append = Native.append_Axis, Insert = Native.insert_Axis, Delete = Native.delete_Axis, Clear = Native.clear_Axis };
         }
     }
 
@@ -177,9 +195,12 @@ namespace Vyr
 
         static class Parts
         {
-            internal static readonly IntPtr ColorSpaceSpecificationEmissiveGenericItem = Library.Item("ColorSpaceEmissiveGenericType", "ColorSpaceSpecificationEmissiveGeneric");
-            internal static readonly PartCalls<ColorSpaceSpecificationEmissiveGeneric> ColorSpaceSpecificationEmissiveGeneric = new PartCalls<ColorSpaceSpecificationEmissiveGeneric> { Item = ColorSpaceSpecificationEmissiveGenericItem, Make = h => new ColorSpaceSpecificationEmissiveGeneric(h), Get = Native.get_ColorSpaceSpecificationEmissiveGeneric, Assign = Native.assign_ColorSpaceSpecificationEmissiveGeneric };
-            internal static readonly ObjectListCalls<AxisType> Axis = new ObjectListCalls<AxisType> { Make = h => new AxisType(h), Size = Native.size_Axis, Get = Native.get_Axis, Assign = Native.assign_Axis, Append = Native.append_Axis, Insert = Native.insert_Axis, Delete = Native.delete_Axis, Clear = Native.clear_Axis };
+            static IntPtr madeColorSpaceSpecificationEmissiveGenericItem;
+            internal static IntPtr ColorSpaceSpecificationEmissiveGenericItem => madeColorSpaceSpecificationEmissiveGenericItem != IntPtr.Zero ? madeColorSpaceSpecificationEmissiveGenericItem : madeColorSpaceSpecificationEmissiveGenericItem = Library.Item("ColorSpaceEmissiveGenericType", "ColorSpaceSpecificationEmissiveGeneric");
+            static PartCalls madeColorSpaceSpecificationEmissiveGeneric;
+            internal static PartCalls ColorSpaceSpecificationEmissiveGeneric => madeColorSpaceSpecificationEmissiveGeneric != null ? madeColorSpaceSpecificationEmissiveGeneric : madeColorSpaceSpecificationEmissiveGeneric = new PartCalls { Item = ColorSpaceSpecificationEmissiveGenericItem, Make = h => new ColorSpaceSpecificationEmissiveGeneric(h), Get = Native.get_ColorSpaceSpecificationEmissiveGeneric, Assign = Native.assign_ColorSpaceSpecificationEmissiveGeneric };
+            static ObjectListCalls<AxisType> madeAxis;
+            internal static ObjectListCalls<AxisType> Axis => madeAxis != null ? madeAxis : madeAxis = new ObjectListCalls<AxisType> { Make = h => new AxisType(h), Size = Native.size_Axis, Get = Native.get_Axis, Assign = Native.assign_Axis, Append = Native.append_Axis, Insert = Native.insert_Axis, Delete = Native.delete_Axis, Clear = Native.clear_Axis };
         }
     }
 
@@ -299,7 +320,8 @@ namespace Vyr
 
         static class Parts
         {
-            internal static readonly PartCalls<FloatingPointValueType> AxisFloatingPointValue = new PartCalls<FloatingPointValueType> { Make = h => new FloatingPointValueType(h), Get = Native.get_AxisFloatingPointValue, Assign = Native.assign_AxisFloatingPointValue };
+            static PartCalls madeAxisFloatingPointValue;
+            internal static PartCalls AxisFloatingPointValue => madeAxisFloatingPointValue != null ? madeAxisFloatingPointValue : madeAxisFloatingPointValue = new PartCalls { Make = h => new FloatingPointValueType(h), Get = Native.get_AxisFloatingPointValue, Assign = Native.assign_AxisFloatingPointValue };
         }
     }
 
@@ -322,8 +344,10 @@ namespace Vyr
 
         static class Parts
         {
-            internal static readonly IntPtr AxisValueChoiceItem = Library.Item("AxisType", "AxisValueChoice");
-            internal static readonly PartCalls<AxisValueChoice> AxisValueChoice = new PartCalls<AxisValueChoice> { Item = AxisValueChoiceItem, Make = h => new AxisValueChoice(h), Get = Native.get_AxisValueChoice, Assign = Native.assign_AxisValueChoice };
+            static IntPtr madeAxisValueChoiceItem;
+            internal static IntPtr AxisValueChoiceItem => madeAxisValueChoiceItem != IntPtr.Zero ? madeAxisValueChoiceItem : madeAxisValueChoiceItem = Library.Item("AxisType", "AxisValueChoice");
+            static PartCalls madeAxisValueChoice;
+            internal static PartCalls AxisValueChoice => madeAxisValueChoice != null ? madeAxisValueChoice : madeAxisValueChoice = new PartCalls { Item = AxisValueChoiceItem, Make = h => new AxisValueChoice(h), Get = Native.get_AxisValueChoice, Assign = Native.assign_AxisValueChoice };
         }
     }
 

@@ -29,13 +29,13 @@ namespace Vyr
         public string Name { get => Is(Native.isset_Name(Pointer)) ? Kept(Native.get_Name(Pointer)) : null; set => Demand(value == null ? Native.UnsetName(Pointer) : Native.set_Name(Pointer, Library.Whole(value))); }
 
         /// <summary>Conditions under which the value holds. Null until set; assigning copies.</summary>
-        public ColorSpaceSpecificationSpectrumGeneric ColorSpaceSpecificationSpectrumGeneric { get => Child(3, Parts.ColorSpaceSpecificationSpectrumGeneric); set => AssignChild(3, Parts.ColorSpaceSpecificationSpectrumGeneric, value); }
+        public ColorSpaceSpecificationSpectrumGeneric ColorSpaceSpecificationSpectrumGeneric { get => (ColorSpaceSpecificationSpectrumGeneric)Child(3, Parts.ColorSpaceSpecificationSpectrumGeneric); set => AssignChild(3, Parts.ColorSpaceSpecificationSpectrumGeneric, value); }
 
         /// <summary>Gives ColorSpaceSpecificationSpectrumGeneric, which it makes if it isn't there.</summary>
-        public ColorSpaceSpecificationSpectrumGeneric CreateColorSpaceSpecificationSpectrumGeneric() => CreateChild(3, Parts.ColorSpaceSpecificationSpectrumGeneric);
+        public ColorSpaceSpecificationSpectrumGeneric CreateColorSpaceSpecificationSpectrumGeneric() => (ColorSpaceSpecificationSpectrumGeneric)CreateChild(3, Parts.ColorSpaceSpecificationSpectrumGeneric);
 
         /// <summary>Density through one filter.</summary>
-        public ObjectList<DensityType> Densities => ListOfObjects(4, Parts.Density);
+        public ObjectList<DensityType> Densities => (ObjectList<DensityType>)(Part(4) ?? Remember(4, new ObjectList<DensityType>(this, "Densities", Parts.Density)));
     }
 
     /// <summary>A reflective or transmissive colour as a sampled spectrum.</summary>
@@ -60,13 +60,13 @@ namespace Vyr
         public string Name { get => Is(Native.isset_Name(Pointer)) ? Kept(Native.get_Name(Pointer)) : null; set => Demand(value == null ? Native.UnsetName(Pointer) : Native.set_Name(Pointer, Library.Whole(value))); }
 
         /// <summary>Conditions under which the value holds. Null until set; assigning copies.</summary>
-        public ColorSpaceSpecificationSpectrumSpectral ColorSpaceSpecificationSpectrumSpectral { get => Child(3, Parts.ColorSpaceSpecificationSpectrumSpectral); set => AssignChild(3, Parts.ColorSpaceSpecificationSpectrumSpectral, value); }
+        public ColorSpaceSpecificationSpectrumSpectral ColorSpaceSpecificationSpectrumSpectral { get => (ColorSpaceSpecificationSpectrumSpectral)Child(3, Parts.ColorSpaceSpecificationSpectrumSpectral); set => AssignChild(3, Parts.ColorSpaceSpecificationSpectrumSpectral, value); }
 
         /// <summary>Gives ColorSpaceSpecificationSpectrumSpectral, which it makes if it isn't there.</summary>
-        public ColorSpaceSpecificationSpectrumSpectral CreateColorSpaceSpecificationSpectrumSpectral() => CreateChild(3, Parts.ColorSpaceSpecificationSpectrumSpectral);
+        public ColorSpaceSpecificationSpectrumSpectral CreateColorSpaceSpecificationSpectrumSpectral() => (ColorSpaceSpecificationSpectrumSpectral)CreateChild(3, Parts.ColorSpaceSpecificationSpectrumSpectral);
 
         /// <summary>One sample, in document order.</summary>
-        public ObjectList<ReflectancePointType> ReflectancePoints => ListOfObjects(4, Parts.ReflectancePoint);
+        public ObjectList<ReflectancePointType> ReflectancePoints => (ObjectList<ReflectancePointType>)(Part(4) ?? Remember(4, new ObjectList<ReflectancePointType>(this, "ReflectancePoints", Parts.ReflectancePoint)));
 
         /// <summary>Wavelengths of all ReflectancePoints, in one call. Setting them makes ReflectancePoints as
         /// many.</summary>
@@ -99,13 +99,13 @@ namespace Vyr
         public string Name { get => Is(Native.isset_Name(Pointer)) ? Kept(Native.get_Name(Pointer)) : null; set => Demand(value == null ? Native.UnsetName(Pointer) : Native.set_Name(Pointer, Library.Whole(value))); }
 
         /// <summary>Conditions under which the value holds. Null until set; assigning copies.</summary>
-        public ColorSpaceSpecificationEmissiveSpectral ColorSpaceSpecificationEmissiveSpectral { get => Child(3, Parts.ColorSpaceSpecificationEmissiveSpectral); set => AssignChild(3, Parts.ColorSpaceSpecificationEmissiveSpectral, value); }
+        public ColorSpaceSpecificationEmissiveSpectral ColorSpaceSpecificationEmissiveSpectral { get => (ColorSpaceSpecificationEmissiveSpectral)Child(3, Parts.ColorSpaceSpecificationEmissiveSpectral); set => AssignChild(3, Parts.ColorSpaceSpecificationEmissiveSpectral, value); }
 
         /// <summary>Gives ColorSpaceSpecificationEmissiveSpectral, which it makes if it isn't there.</summary>
-        public ColorSpaceSpecificationEmissiveSpectral CreateColorSpaceSpecificationEmissiveSpectral() => CreateChild(3, Parts.ColorSpaceSpecificationEmissiveSpectral);
+        public ColorSpaceSpecificationEmissiveSpectral CreateColorSpaceSpecificationEmissiveSpectral() => (ColorSpaceSpecificationEmissiveSpectral)CreateChild(3, Parts.ColorSpaceSpecificationEmissiveSpectral);
 
         /// <summary>One sample, in document order.</summary>
-        public ObjectList<EmissiveSpectralPointType> EmissiveSpectralPoints => ListOfObjects(4, Parts.EmissiveSpectralPoint);
+        public ObjectList<EmissiveSpectralPointType> EmissiveSpectralPoints => (ObjectList<EmissiveSpectralPointType>)(Part(4) ?? Remember(4, new ObjectList<EmissiveSpectralPointType>(this, "EmissiveSpectralPoints", Parts.EmissiveSpectralPoint)));
 
         /// <summary>Wavelengths of all EmissiveSpectralPoints, in one call. Setting them makes EmissiveSpectralPoints
         /// as many.</summary>
@@ -138,13 +138,13 @@ namespace Vyr
         public string Name { get => Kept(Native.get_Name(Pointer)); set => Demand(Native.set_Name(Pointer, Library.Whole(value))); }
 
         /// <summary>Conditions under which the value holds. Null until set; assigning copies.</summary>
-        public ColorSpaceSpecificationSpectrumGeneric ColorSpaceSpecificationSpectrumGeneric { get => Child(3, Parts.ColorSpaceSpecificationSpectrumGeneric); set => AssignChild(3, Parts.ColorSpaceSpecificationSpectrumGeneric, value); }
+        public ColorSpaceSpecificationSpectrumGeneric ColorSpaceSpecificationSpectrumGeneric { get => (ColorSpaceSpecificationSpectrumGeneric)Child(3, Parts.ColorSpaceSpecificationSpectrumGeneric); set => AssignChild(3, Parts.ColorSpaceSpecificationSpectrumGeneric, value); }
 
         /// <summary>Gives ColorSpaceSpecificationSpectrumGeneric, which it makes if it isn't there.</summary>
-        public ColorSpaceSpecificationSpectrumGeneric CreateColorSpaceSpecificationSpectrumGeneric() => CreateChild(3, Parts.ColorSpaceSpecificationSpectrumGeneric);
+        public ColorSpaceSpecificationSpectrumGeneric CreateColorSpaceSpecificationSpectrumGeneric() => (ColorSpaceSpecificationSpectrumGeneric)CreateChild(3, Parts.ColorSpaceSpecificationSpectrumGeneric);
 
         /// <summary>Value on one axis.</summary>
-        public ObjectList<AxisType> Axes => ListOfObjects(4, Parts.Axis);
+        public ObjectList<AxisType> Axes => (ObjectList<AxisType>)(Part(4) ?? Remember(4, new ObjectList<AxisType>(this, "Axes", Parts.Axis)));
     }
 
     /// <summary>An emissive colour in a space that the format doesn't know, axis by axis.</summary>
@@ -169,13 +169,13 @@ namespace Vyr
         public string Name { get => Kept(Native.get_Name(Pointer)); set => Demand(Native.set_Name(Pointer, Library.Whole(value))); }
 
         /// <summary>Conditions under which the value holds. Null until set; assigning copies.</summary>
-        public ColorSpaceSpecificationEmissiveGeneric ColorSpaceSpecificationEmissiveGeneric { get => Child(3, Parts.ColorSpaceSpecificationEmissiveGeneric); set => AssignChild(3, Parts.ColorSpaceSpecificationEmissiveGeneric, value); }
+        public ColorSpaceSpecificationEmissiveGeneric ColorSpaceSpecificationEmissiveGeneric { get => (ColorSpaceSpecificationEmissiveGeneric)Child(3, Parts.ColorSpaceSpecificationEmissiveGeneric); set => AssignChild(3, Parts.ColorSpaceSpecificationEmissiveGeneric, value); }
 
         /// <summary>Gives ColorSpaceSpecificationEmissiveGeneric, which it makes if it isn't there.</summary>
-        public ColorSpaceSpecificationEmissiveGeneric CreateColorSpaceSpecificationEmissiveGeneric() => CreateChild(3, Parts.ColorSpaceSpecificationEmissiveGeneric);
+        public ColorSpaceSpecificationEmissiveGeneric CreateColorSpaceSpecificationEmissiveGeneric() => (ColorSpaceSpecificationEmissiveGeneric)CreateChild(3, Parts.ColorSpaceSpecificationEmissiveGeneric);
 
         /// <summary>Value on one axis.</summary>
-        public ObjectList<AxisType> Axes => ListOfObjects(4, Parts.Axis);
+        public ObjectList<AxisType> Axes => (ObjectList<AxisType>)(Part(4) ?? Remember(4, new ObjectList<AxisType>(this, "Axes", Parts.Axis)));
     }
 
     /// <summary>A reflective colour in a space that the format doesn't know, axis by axis.</summary>
@@ -392,14 +392,14 @@ namespace Vyr
         public Alternative Chosen => (Alternative)Kept(Native.getchosen(Pointer));
 
         /// <summary>The coordinate as a number. Null if another is chosen.</summary>
-        public FloatingPointValueType AsAxisFloatingPointValue => Chosen == Alternative.AxisFloatingPointValue ? Held(0, Parts.AxisFloatingPointValue) : null;
+        public FloatingPointValueType AsAxisFloatingPointValue => Chosen == Alternative.AxisFloatingPointValue ? (FloatingPointValueType)Held(0, Parts.AxisFloatingPointValue) : null;
 
         /// <summary>Gives AxisFloatingPointValue, which it makes in place of another one if it isn't
         /// chosen.</summary>
-        public FloatingPointValueType ChooseAxisFloatingPointValue() => AsAxisFloatingPointValue ?? Choose(0, Parts.AxisFloatingPointValue);
+        public FloatingPointValueType ChooseAxisFloatingPointValue() => AsAxisFloatingPointValue ?? (FloatingPointValueType)Choose(0, Parts.AxisFloatingPointValue);
 
         /// <summary>Chooses AxisFloatingPointValue with a copy of a value.</summary>
-        public FloatingPointValueType ChooseAxisFloatingPointValue(FloatingPointValueType value) => Choose(0, Parts.AxisFloatingPointValue, value);
+        public FloatingPointValueType ChooseAxisFloatingPointValue(FloatingPointValueType value) => (FloatingPointValueType)Choose(0, Parts.AxisFloatingPointValue, value);
 
         /// <summary>The coordinate as a text. Null if another is chosen.</summary>
         public string AsAxisStringValue => Chosen == Alternative.AxisStringValue ? Kept(Native.get_AxisStringValue(Pointer)) : null;
@@ -430,10 +430,10 @@ namespace Vyr
         public string AxisName { get => Kept(Native.get_AxisName(Pointer)); set => Demand(Native.set_AxisName(Pointer, Library.Whole(value))); }
 
         /// <summary>Value on the axis. Null until set; assigning copies.</summary>
-        public AxisValueChoice AxisValueChoice { get => Child(0, Parts.AxisValueChoice); set => AssignChild(0, Parts.AxisValueChoice, value); }
+        public AxisValueChoice AxisValueChoice { get => (AxisValueChoice)Child(0, Parts.AxisValueChoice); set => AssignChild(0, Parts.AxisValueChoice, value); }
 
         /// <summary>Gives AxisValueChoice, which it makes if it isn't there.</summary>
-        public AxisValueChoice CreateAxisValueChoice() => CreateChild(0, Parts.AxisValueChoice);
+        public AxisValueChoice CreateAxisValueChoice() => (AxisValueChoice)CreateChild(0, Parts.AxisValueChoice);
     }
 
     /// <summary>A number on an axis, with the nominal range and the scale of the axis.</summary>

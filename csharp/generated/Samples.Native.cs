@@ -55,9 +55,12 @@ namespace Vyr
 
         static class Parts
         {
-            internal static readonly ObjectListCalls<CustomAttributeType> CustomAttribute = new ObjectListCalls<CustomAttributeType> { Make = h => new CustomAttributeType(h), Size = Native.size_CustomAttribute, Get = Native.get_CustomAttribute, Assign = Native.assign_CustomAttribute, Append = Native.append_CustomAttribute, Insert = Native.insert_CustomAttribute, Delete = Native.delete_CustomAttribute, Clear = Native.clear_CustomAttribute };
-            internal static readonly IntPtr SubstrateItem = Library.Item("SampleType", "Substrate");
-            internal static readonly PartCalls<SubstrateChoice> Substrate = new PartCalls<SubstrateChoice> { Item = SubstrateItem, Make = h => new SubstrateChoice(h), Get = Native.get_Substrate, Assign = Native.assign_Substrate };
+            static ObjectListCalls<CustomAttributeType> madeCustomAttribute;
+            internal static ObjectListCalls<CustomAttributeType> CustomAttribute => madeCustomAttribute != null ? madeCustomAttribute : madeCustomAttribute = new ObjectListCalls<CustomAttributeType> { Make = h => new CustomAttributeType(h), Size = Native.size_CustomAttribute, Get = Native.get_CustomAttribute, Assign = Native.assign_CustomAttribute, Append = Native.append_CustomAttribute, Insert = Native.insert_CustomAttribute, Delete = Native.delete_CustomAttribute, Clear = Native.clear_CustomAttribute };
+            static IntPtr madeSubstrateItem;
+            internal static IntPtr SubstrateItem => madeSubstrateItem != IntPtr.Zero ? madeSubstrateItem : madeSubstrateItem = Library.Item("SampleType", "Substrate");
+            static PartCalls madeSubstrate;
+            internal static PartCalls Substrate => madeSubstrate != null ? madeSubstrate : madeSubstrate = new PartCalls { Item = SubstrateItem, Make = h => new SubstrateChoice(h), Get = Native.get_Substrate, Assign = Native.assign_Substrate };
         }
     }
 
@@ -96,8 +99,10 @@ namespace Vyr
 
         static class Parts
         {
-            internal static readonly IntPtr SpecificationItem = Library.Item("SampleSpotType", "Specification");
-            internal static readonly PartCalls<Specification> Specification = new PartCalls<Specification> { Item = SpecificationItem, Make = h => new Specification(h), Get = Native.get_Specification, Assign = Native.assign_Specification };
+            static IntPtr madeSpecificationItem;
+            internal static IntPtr SpecificationItem => madeSpecificationItem != IntPtr.Zero ? madeSpecificationItem : madeSpecificationItem = Library.Item("SampleSpotType", "Specification");
+            static PartCalls madeSpecification;
+            internal static PartCalls Specification => madeSpecification != null ? madeSpecification : madeSpecification = new PartCalls { Item = SpecificationItem, Make = h => new Specification(h), Get = Native.get_Specification, Assign = Native.assign_Specification };
         }
     }
 

@@ -23,13 +23,13 @@ namespace Vyr
         public override void Reset() { RemoveParts(); Native.reset(Pointer); Keep(); }
 
         /// <summary>A named value of the user's own.</summary>
-        public ObjectList<CustomAttributeType> CustomAttributes => ListOfObjects(0, Parts.CustomAttribute);
+        public ObjectList<CustomAttributeType> CustomAttributes => (ObjectList<CustomAttributeType>)(Part(0) ?? Remember(0, new ObjectList<CustomAttributeType>(this, "CustomAttributes", Parts.CustomAttribute)));
 
         /// <summary>Material of the sample. Null until set; assigning copies.</summary>
-        public SubstrateChoice Substrate { get => Child(1, Parts.Substrate); set => AssignChild(1, Parts.Substrate, value); }
+        public SubstrateChoice Substrate { get => (SubstrateChoice)Child(1, Parts.Substrate); set => AssignChild(1, Parts.Substrate, value); }
 
         /// <summary>Gives Substrate, which it makes if it isn't there.</summary>
-        public SubstrateChoice CreateSubstrate() => CreateChild(1, Parts.Substrate);
+        public SubstrateChoice CreateSubstrate() => (SubstrateChoice)CreateChild(1, Parts.Substrate);
 
         /// <summary>What lay behind the sample while it was measured. Null if not set.</summary>
         public BackingKind? Backing { get => Is(Native.isset_Backing(Pointer)) ? (BackingKind)Kept(Native.getenum_Backing(Pointer)) : default(BackingKind?); set => Demand(value == null ? Native.UnsetBacking(Pointer) : Listed(Native.setenum_Backing(Pointer, (int)value.Value))); }
@@ -101,10 +101,10 @@ namespace Vyr
         public override void Reset() { RemoveParts(); Native.reset(Pointer); Keep(); }
 
         /// <summary>Size of the patch. Null until set; assigning copies.</summary>
-        public Specification Specification { get => Child(2, Parts.Specification); set => AssignChild(2, Parts.Specification, value); }
+        public Specification Specification { get => (Specification)Child(2, Parts.Specification); set => AssignChild(2, Parts.Specification, value); }
 
         /// <summary>Gives Specification, which it makes if it isn't there.</summary>
-        public Specification CreateSpecification() => CreateChild(2, Parts.Specification);
+        public Specification CreateSpecification() => (Specification)CreateChild(2, Parts.Specification);
     }
 
     /// <summary>A test chart of many patches.</summary>

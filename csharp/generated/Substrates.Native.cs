@@ -36,9 +36,12 @@ namespace Vyr
 
         static class Parts
         {
-            internal static readonly ObjectListCalls<CustomAttributeType> CustomAttribute = new ObjectListCalls<CustomAttributeType> { Make = h => new CustomAttributeType(h), Size = Native.size_CustomAttribute, Get = Native.get_CustomAttribute, Assign = Native.assign_CustomAttribute, Append = Native.append_CustomAttribute, Insert = Native.insert_CustomAttribute, Delete = Native.delete_CustomAttribute, Clear = Native.clear_CustomAttribute };
-            internal static readonly IntPtr ColorItem = Library.Item("SubstrateType", "Color");
-            internal static readonly PartCalls<ColorType> Color = new PartCalls<ColorType> { Item = ColorItem, Make = h => new ColorType(h), Get = Native.get_Color, Assign = Native.assign_Color, Unset = Native.unset_Color };
+            static ObjectListCalls<CustomAttributeType> madeCustomAttribute;
+            internal static ObjectListCalls<CustomAttributeType> CustomAttribute => madeCustomAttribute != null ? madeCustomAttribute : madeCustomAttribute = new ObjectListCalls<CustomAttributeType> { Make = h => new CustomAttributeType(h), Size = Native.size_CustomAttribute, Get = Native.get_CustomAttribute, Assign = Native.assign_CustomAttribute, Append = Native.append_CustomAttribute, Insert = Native.insert_CustomAttribute, Delete = Native.delete_CustomAttribute, Clear = Native.clear_CustomAttribute };
+            static IntPtr madeColorItem;
+            internal static IntPtr ColorItem => madeColorItem != IntPtr.Zero ? madeColorItem : madeColorItem = Library.Item("SubstrateType", "Color");
+            static PartCalls madeColor;
+            internal static PartCalls Color => madeColor != null ? madeColor : madeColor = new PartCalls { Item = ColorItem, Make = h => new ColorType(h), Get = Native.get_Color, Assign = Native.assign_Color, Unset = Native.unset_Color };
         }
     }
 

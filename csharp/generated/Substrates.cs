@@ -23,16 +23,16 @@ namespace Vyr
         public override void Reset() { RemoveParts(); Native.reset(Pointer); Keep(); }
 
         /// <summary>A named value of the user's own.</summary>
-        public ObjectList<CustomAttributeType> CustomAttributes => ListOfObjects(0, Parts.CustomAttribute);
+        public ObjectList<CustomAttributeType> CustomAttributes => (ObjectList<CustomAttributeType>)(Part(0) ?? Remember(0, new ObjectList<CustomAttributeType>(this, "CustomAttributes", Parts.CustomAttribute)));
 
         /// <summary>The maker's number for the material. Null if not set.</summary>
         public string PartNumber { get => Is(Native.isset_PartNumber(Pointer)) ? Kept(Native.get_PartNumber(Pointer)) : null; set => Demand(value == null ? Native.UnsetPartNumber(Pointer) : Native.set_PartNumber(Pointer, Library.Whole(value))); }
 
         /// <summary>Colour of the bare substrate. Null until set; assigning copies.</summary>
-        public ColorType Color { get => Child(1, Parts.Color); set => AssignChild(1, Parts.Color, value); }
+        public ColorType Color { get => (ColorType)Child(1, Parts.Color); set => AssignChild(1, Parts.Color, value); }
 
         /// <summary>Gives Color, which it makes if it isn't there.</summary>
-        public ColorType CreateColor() => CreateChild(1, Parts.Color);
+        public ColorType CreateColor() => (ColorType)CreateChild(1, Parts.Color);
     }
 
     /// <summary>Head of the substrates: any of them can stand in its place.</summary>

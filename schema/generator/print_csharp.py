@@ -70,10 +70,10 @@ class Value:
 
 
 class Printer:
-    """The members of one class: `lines` for its users; of what those call, functions in `native` and fields in `tables`.
+    """The members of one class: `lines` for its users; of what those call, functions in `native` and rows in `tables`.
 
-    The two are classes of their own, since fields are filled at the first use of their class: only once there is an
-    object, and so the library.
+    A row is made at its first use: only once there is an object, and so the library, and without those of all the
+    members that nobody asks for, which the runtime would have to compile.
     """
 
     def __init__(self, plan, made):
@@ -85,7 +85,7 @@ class Printer:
         return self.plan.by_name[name].package_name
 
     def part_calls(self, item, assign):
-        """The field with the functions of a single child or an alternative."""
+        """The row with the functions of a single child or an alternative."""
         x, kind = item.accessor, self.class_name(item.type)
         is_child = item.kind != "alternative"
         # An alternative can be of a derived class; what lies in its owner can't.
@@ -96,7 +96,7 @@ class Printer:
             fields.insert(0, f"Item = {self.item(x)}")
         if item.presence:
             fields.append(f"Unset = Native.unset_{x}")
-        return self.table(f"PartCalls<{kind}>", x, fields)
+        return self.table("PartCalls", x, fields)
 
     def helper(self, name, line, *used):
         """A function beside the native ones, and those that it calls."""
@@ -104,8 +104,15 @@ class Printer:
         self.used += used
 
     def table(self, kind, name, fields):
-        self.tables.append(f"internal static readonly {kind} {name} = new {kind} {{ {', '.join(fields)} }};")
+        self.lazy(kind, name, "null", f"new {kind} {{ {', '.join(fields)} }}")
         return f"Parts.{name}"
+
+    def lazy(self, kind, name, unmade, value):
+        """What is made when it is first asked for; if two threads do, either one's is as good."""
+        lines = [f"static {kind} made{name};",
+                 f"internal static {kind} {name} => made{name} != {unmade} ? made{name} : made{name} = {value};"]
+        if lines[0] not in self.tables:
+            self.tables += lines
 
     def add(self, doc, declaration, body):
         if self.lines:
@@ -125,12 +132,11 @@ class Printer:
         self.parts += 1
         return self.parts - 1
 
-    def item(self, name):
-        """The field that holds what the functions that work by item take."""
-        line = f'internal static readonly IntPtr {name}Item = Library.Item("{self.made.name}", "{name}");'
-        if line not in self.tables:
-            self.tables.append(line)
-        return f"{name}Item"
+    def item(self, name, owner=None, row=None):
+        """What the functions that work by item take."""
+        row = row or f"{name}Item"
+        self.lazy("IntPtr", row, "IntPtr.Zero", f'Library.Item("{(owner or self.made).name}", "{name}")')
+        return row
 
 
 def first_part(plan, made):
@@ -219,10 +225,10 @@ def simple_item(printer, item, modifier=""):
 def object_item(printer, item):
     x, name, kind, number = item.accessor, item.package_name, printer.class_name(item.type), printer.part_number()
     calls = printer.part_calls(item, f"Native.assign_{x}")
-    printer.property(f"{item.doc} Null until set; assigning copies.", kind, name, f"Child({number}, {calls})",
+    printer.property(f"{item.doc} Null until set; assigning copies.", kind, name, f"({kind})Child({number}, {calls})",
                      f"AssignChild({number}, {calls}, value)")
     printer.add(f"Gives {name}, which it makes if it isn't there.", f"public {kind} Create{name}()",
-                f"=> CreateChild({number}, {calls});")
+                f"=> ({kind})CreateChild({number}, {calls});")
 
 
 def list_item(printer, item):
@@ -245,7 +251,7 @@ def list_item(printer, item):
         entry = printer.class_name(item.type)
         kind, calls_type = f"ObjectList<{entry}>", f"ObjectListCalls<{entry}>"
         uses = ("Size", "Get", "Assign", "Append", "Insert", "Delete", "Clear")
-        body = f"ListOfObjects({number}, {calls})"
+        body = f'({kind})(Part({number}) ?? Remember({number}, new {kind}(this, "{name}", {calls})))'
     fields = [f"{use} = Native.{parts[use]}_{x}" for use in uses]
     if item.kind == "any":
         fields.insert(0, f"Item = {printer.item(x)}")
@@ -255,8 +261,7 @@ def list_item(printer, item):
     printer.add(item.doc, f"public {kind} {name}", f"=> {body};")
     for column, number_item in item.columns:
         owner = printer.plan.by_name[item.type]
-        row = f"{x}{number_item}Item"
-        printer.tables.append(f'internal static readonly IntPtr {row} = Library.Item("{owner.name}", "{number_item}");')
+        row = printer.item(number_item, owner, f"{x}{number_item}Item")
         printer.property(f"{column} of all {name}, in one call. Setting them makes {name} as many.", "double[]", column,
                          f"Column(Parts.{printer.item(x)}, Parts.{row})",
                          f"SetColumn({name}, Parts.{printer.item(x)}, Parts.{row}, value)")
@@ -284,12 +289,12 @@ def alternatives(printer, plan, made):
         if plan.factory(plan.by_name[item.type]):
             assign = f"(p, v) => Library.VyrModule_AssignAlternative(p, {printer.item(x)}, v)"
         calls = printer.part_calls(item, assign)
-        printer.add(doc, f"public {kind} As{x}", f"=> {chosen} ? Held({number}, {calls}) : null;")
+        printer.add(doc, f"public {kind} As{x}", f"=> {chosen} ? ({kind})Held({number}, {calls}) : null;")
         if not plan.by_name[item.type].abstract:
             printer.add(f"Gives {x}, which it makes in place of another one if it isn't chosen.", f"public {kind} Choose{x}()",
-                        f"=> As{x} ?? Choose({number}, {calls});")
+                        f"=> As{x} ?? ({kind})Choose({number}, {calls});")
         printer.add(f"Chooses {x} with a copy of a value.", f"public {kind} Choose{x}({kind} value)",
-                    f"=> Choose({number}, {calls}, value);")
+                    f"=> ({kind})Choose({number}, {calls}, value);")
 
 
 def members(printer, plan, made):

@@ -9,15 +9,18 @@
 using System;
 using System.Globalization;
 using System.Linq;
+using System.Runtime.InteropServices;
 using Vyr;
 
 static class Walk
 {
-    static double Milliseconds() => System.Diagnostics.Process.GetCurrentProcess().TotalProcessorTime.TotalMilliseconds;
+    // TotalProcessorTime counts in steps of 10 ms.
+    [DllImport("libc")] static extern IntPtr clock();
+    static double Milliseconds() => (long)clock() / 1000.0;
 
     static int Main(string[] arguments)
     {
-        double sum = 0, loaded;
+        double sum = 0, started = Milliseconds(), loaded, walked;
         long units = 0;
         bool byPoint = arguments.Length > 1;
         using (Document document = Document.Load(arguments[0]))
@@ -43,14 +46,19 @@ static class Walk
                         case ColorSpaceChoice.Alternative.ColorSpaceSpectral:
                             ColorSpaceSpectralType spectral = value.AsColorSpaceSpectral;
                             if (byPoint) sum += spectral.ReflectancePoints.Sum(point => point.Wavelength + point.Value);
-                            else sum += spectral.Wavelengths.Sum() + spectral.Values.Sum();
+                            else
+                            {
+                                foreach (double wavelength in spectral.Wavelengths) sum += wavelength;
+                                foreach (double reflectance in spectral.Values) sum += reflectance;
+                            }
                             break;
                     }
                 }
             }
+            walked = Milliseconds();
         }
-        double walked = Milliseconds();
-        Console.Error.WriteLine("C#: load {0:0}, walk {1:0}", loaded, walked - loaded);
+        Console.Error.WriteLine("C#: start {0:0}, load {1:0}, walk {2:0}, dispose {3:0}", started, loaded - started,
+                                walked - loaded, Milliseconds() - walked);
         Console.WriteLine(string.Format(CultureInfo.InvariantCulture, "{0:G6} {1}\n{2:0}", sum, units, walked));
         return 0;
     }

@@ -60,15 +60,20 @@ case $part in
     walk)
         compile Walk "$source/tests/csharp/Walk.cs"
         "$walk" make palette.vyr 8000
-        # Of a busy machine one of three tries has to do.
-        for _ in 1 2 3; do
+        # On a busy machine each takes longer now and then, in processor time too: the least of five runs counts.
+        least_ours=
+        least_theirs=
+        for _ in 1 2 3 4 5; do
             mapfile -t ours < <("$walk" palette.vyr)
             mapfile -t theirs < <(run Walk.exe palette.vyr)
             [[ ${ours[0]/e+/E+} == "${theirs[0]}" ]] || fail "C++ finds ${ours[0]}, C# ${theirs[0]}"
-            echo "load and walk of 40 MB: C++ ${ours[1]} ms, C# ${theirs[1]} ms of processor time"
-            ((theirs[1] <= 2 * ours[1])) && exit 0
+            ((ours[1] < ${least_ours:=${ours[1]}})) && least_ours=${ours[1]}
+            ((theirs[1] < ${least_theirs:=${theirs[1]}})) && least_theirs=${theirs[1]}
         done
-        fail "C# takes more than twice the time"
+        # Mono's start and what it compiles on the way are in C#'s time: some 30 ms, whatever the size.
+        echo "load and walk of 40 MB: C++ $least_ours ms, C# $least_theirs ms of processor time," \
+            "$((100 * least_theirs / least_ours)) %"
+        ((least_theirs <= 2 * least_ours)) || fail "C# takes more than twice the time"
         ;;
     library)
         cat > Found.cs << 'PROGRAM'
