@@ -7,6 +7,7 @@
 
 using System;
 using System.Collections;
+using System.Collections.Generic;
 using System.IO;
 using System.Linq;
 using System.Reflection;
@@ -269,7 +270,30 @@ static class BehaviourTest
         foreach (ColorType each in held) if (each.ColorName == "second") held.RemoveAt(0);
         Check.Equal(1, held.Count, "a list while it is walked");
 
-        // Values of one's own part
+        // Any changes in any order: each entry stays the same object, whichever were asked for
+        held.Clear();
+        var model = new List<ColorType>();
+        var random = new Random(7);
+        for (int i = 0; i < 2000; ++i)
+        {
+            int at = random.Next(model.Count + 1);
+            if (model.Count > 20 || (at < model.Count && random.Next(3) == 0))
+            {
+                at = Math.Min(at, model.Count - 1);
+                ColorType removed = model[at];
+                held.RemoveAt(at);
+                model.RemoveAt(at);
+                Check.Throws<ObjectDisposedException>("a removed entry", () => removed.Clone());
+            }
+            else
+            {
+                model.Insert(at, held.Insert(at));
+                model[at].ColorName = "entry " + i;
+            }
+            Check.That(held.SequenceEqual(model), "entries after the change " + i);
+        }
+        Check.Throws<ArgumentOutOfRangeException>("beyond the end", () => held[model.Count].Clone());
+
         document = Small();
         color = AddColor(document, "x");
         ColorSpaceChoice choice = color.ColorSpaces.Add();
@@ -310,6 +334,11 @@ static class BehaviourTest
         Document loaded = Document.Parse(document.ToString());
         spectral = loaded.Palettes[0].ColorSets[0].Colors[0].ColorSpaces[0].AsColorSpaceSpectral;
         Check.That(spectral.Wavelengths.SequenceEqual(new double[] { 400, 410, 420 }) && spectral.Values[1] == 0.2, "a spectrum comes back");
+        foreach (int count in new[] { 0, 5, 2, 2000, 0, 1 }) // each is asked for as if it were as long as the one before
+        {
+            var longer = new ColorSpaceSpectralType { Wavelengths = Enumerable.Range(1, count).Select(n => (double)n).ToArray() };
+            Check.That(longer.Wavelengths.SequenceEqual(Enumerable.Range(1, count).Select(n => (double)n)), "a column of " + count);
+        }
 
         // Times are kept as they are written, also those that C# has no value for.
         const string late = "2024-06-30T23:59:60Z";
