@@ -154,7 +154,9 @@ private:
         for (const index part : parts_of(m_tree, value)) {
             if (is_channel(m_tree, part) || is_spectral_point(m_tree, part)) continue;
             const std::string text = record_text(m_tree, part);
-            lines.push_back(group + ": " + printable(m_tree.name(part)) + (text.empty() ? "" : " ") + text);
+            const char* const gap = text.empty() ? "" : " ";
+            lines.push_back(
+                std::string(group).append(": ").append(printable(m_tree.name(part))).append(gap).append(text));
         }
     }
 

@@ -103,8 +103,9 @@ bool use_color(const color_mode& mode) {
 
 bool use_curves() {
     for (const char* const name : {"LC_ALL", "LC_CTYPE", "LANG"}) {
-        if (!has_environment(name)) continue;
-        const std::string_view locale = std::getenv(name);
+        const char* const value = std::getenv(name);
+        const std::string_view locale = value == nullptr ? "" : value;
+        if (locale.empty()) continue;
         const bool has_utf8 = locale.find("UTF-8") != locale.npos || locale.find("utf8") != locale.npos;
         return has_utf8 && isatty(STDOUT_FILENO) != 0;
     }
