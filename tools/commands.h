@@ -26,7 +26,7 @@ using color_mode = std::string;
 
 struct check_options {
     std::vector<std::string> files;
-    std::size_t jobs = 1;  ///< 0: one per processor
+    std::size_t jobs = 0;  ///< 0: one per processor
     std::size_t limit = 100;
     warning_set warnings = check_warnings();
     bool strict = false;  ///< warnings are failures
@@ -58,6 +58,12 @@ struct convert_options {
     std::string format;  ///< "vyr", "vyrz" or "json"; empty: what the name of the output says
 };
 
+struct import_options {
+    std::string table;
+    std::string out;
+    std::string palette;  ///< for tables that name none; empty: called as the table
+};
+
 struct json_options {
     std::vector<std::string> files;
 };
@@ -84,6 +90,7 @@ exit_code check(const check_options& options);
 exit_code info(const info_options& options);
 exit_code list(const list_options& options);
 exit_code convert(const convert_options& options);
+exit_code import(const import_options& options);
 exit_code print_json(const json_options& options);
 exit_code codes(const codes_options& options);
 exit_code diff(const diff_options& options);

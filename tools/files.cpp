@@ -18,6 +18,7 @@
 #include <utility>
 
 #include "lmx/lmx.h"
+#include "tools/progress.h"
 #include "tools/text.h"
 #include "zip/container.h"
 
@@ -257,7 +258,10 @@ s_reading read_document(const std::string& file, Vyr& document, const ReportOpti
 }
 
 exit_code read_or_explain(const std::string& file, Vyr& document, std::size_t* size, const text_taker& take_text) {
-    const s_reading reading = read_document(file, document, {}, take_text);
+    const s_reading reading = [&] {
+        const c_progress_line progress("reading " + shown_name(file));
+        return read_document(file, document, {}, take_text);
+    }();
     if (size != nullptr) *size = reading.size;
     return explain(file, reading);
 }

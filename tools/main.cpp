@@ -6,6 +6,7 @@
 #include <unistd.h>
 
 #include <CLI/CLI.hpp>
+#include <algorithm>
 #include <array>
 #include <cerrno>
 #include <cstring>
@@ -13,8 +14,12 @@
 #include <iostream>
 #include <memory>
 #include <new>
+#include <numeric>
 #include <streambuf>
 #include <string>
+#include <string_view>
+#include <utility>
+#include <vector>
 
 #include "tools/commands.h"
 #include "tools/text.h"
@@ -28,6 +33,10 @@ constexpr char k_exit_codes[] =
     "  0  all is well\n"
     "  1  a document fails; diff: the documents differ\n"
     "  2  wrong usage, or a file that can't be read or written; diff: or a document that fails\n";
+
+constexpr char k_limits[] =
+    "Limits: a pipe, a table or a JSON text holds at most 1 GB, a document whose lists are printed 4 GB of\n"
+    "values; elements nest 256 deep; of an archive, entries grow to at most 1,032 times their size.\n\n";
 
 void add_file(CLI::App& command, const char* name, std::string& file, const char* text) {
     command.add_option(name, file, text)->required()->option_text(" ");
@@ -60,7 +69,7 @@ void add_check(CLI::App& command, check_options& options) {
         .add_option("FILE", options.files, "Documents, folders that are searched for them, or - for standard input")
         ->required()
         ->option_text("...");
-    command.add_option("-j,--jobs", options.jobs, "Check N files at a time; 0: one per processor")
+    command.add_option("-j,--jobs", options.jobs, "Check N files at a time, by default one per processor (0)")
         ->check(CLI::Range(0, 256))
         ->option_text("N");
     command.add_option("--limit", options.limit, "Report at most N faults of a file (100)")->option_text("N");
@@ -73,7 +82,7 @@ void add_check(CLI::App& command, check_options& options) {
         "reported together; only what is no XML ends its check.\n\n"
         "Examples:\n"
         "  vyr check inks.vyr\n"
-        "  vyr check -j 4 palettes/           all .vyr and .vyrz files below a folder\n"
+        "  vyr check palettes/                all .vyr and .vyrz files below a folder\n"
         "  curl -s $URL | vyr check -\n"
         "  vyr check --json *.vyr | jq '.files[] | select(.status != \"valid\") | .file'\n");
 }
@@ -130,6 +139,24 @@ void add_convert(CLI::App& command, convert_options& options) {
         "  vyr convert inks.vyr inks.json     and back: vyr convert inks.json inks.vyr\n"
         "  vyr convert inks.vyrz - | less\n"
         "  vyr convert --to vyrz - - < inks.vyr > inks.vyrz\n");
+}
+
+void add_out(CLI::App& command, std::string& out, const char* text) {
+    command.add_option("-o,--output", out, text)->required()->option_text("OUT");
+}
+
+void add_import(CLI::App& command, import_options& options) {
+    add_file(command, "TABLE", options.table, "Comma-separated values in UTF-8, or - for standard input");
+    add_out(command, options.out, "The document to write: .vyr, .vyrz or .json");
+    command.add_option("--palette", options.palette, "Name of the palette, where the table has no such column")
+        ->option_text("NAME");
+    command.footer(
+        "The first row names the columns, as 'vyr list --csv' writes them: Palette, ColorSet, Color, Space, the\n"
+        "conditions (Illuminant, Observer ...), the parts of values (L, A, B, Cyan, Red ...), and wavelengths\n"
+        "(380 nm). A row without a Space holds Lab, CMYK, sRGB and spectral values, each that is whole.\n\n"
+        "Examples:\n"
+        "  vyr import inks.csv -o inks.vyr\n"
+        "  vyr list --csv inks.vyr > inks.csv && vyr import inks.csv -o new.vyr\n");
 }
 
 void add_print_json(CLI::App& command, json_options& options) {
@@ -206,15 +233,71 @@ private:
     int m_error = 0;
 };
 
+/// How many letters must be changed, added or taken away to make one word of the other.
+std::size_t distance(std::string_view one, std::string_view other) {
+    std::vector<std::size_t> row(other.size() + 1);
+    std::iota(row.begin(), row.end(), std::size_t{0});
+    for (std::size_t i = 0; i < one.size(); ++i) {
+        std::size_t corner = row[0];
+        row[0] = i + 1;
+        for (std::size_t j = 0; j < other.size(); ++j) {
+            const std::size_t changed = corner + (one[i] == other[j] ? 0 : 1);
+            corner = row[j + 1];
+            row[j + 1] = std::min({changed, row[j] + 1, corner + 1});
+        }
+    }
+    return row.back();
+}
+
+/// "; did you mean 'check'?" for the word that is most like it, if any is.
+std::string suggestion(std::string_view word, const std::vector<std::string>& words) {
+    constexpr std::size_t k_most_like = 2;
+    std::string best;
+    std::size_t least = k_most_like + 1;
+    for (const std::string& one : words) {
+        const std::size_t far = distance(word, one);
+        if (far >= least || far >= one.size()) continue;
+        least = far;
+        best = one;
+    }
+    return best.empty() ? best : "; did you mean '" + best + "'?";
+}
+
+std::vector<std::string> command_names(const CLI::App& app) {
+    std::vector<std::string> names;
+    for (const CLI::App* const command : app.get_subcommands({})) names.push_back(command->get_name());
+    return names;
+}
+
+bool is_command(const CLI::App& app, const std::string& word) {
+    const std::vector<std::string> names = command_names(app);
+    return std::ranges::find(names, word) != names.end();
+}
+
+/// For an option that is none: the one that it resembles.
+std::string option_suggestion(const CLI::App& command, const std::string& what) {
+    const std::size_t begin = what.find("--");
+    if (begin == what.npos) return {};
+    const std::string word = what.substr(begin, what.find_first_of(" =,", begin) - begin);
+    std::vector<std::string> names;
+    for (const CLI::Option* const option : command.get_options()) {
+        for (const std::string& name : option->get_lnames()) names.push_back("--" + name);
+    }
+    return std::ranges::find(names, word) == names.end() ? suggestion(word, names) : std::string();
+}
+
 void explain_usage(const CLI::App& app, const CLI::ParseError& error, const std::string& first) {
     const std::vector<CLI::App*> chosen = app.get_subcommands();
     if (first.empty()) {
         std::cerr << app.help();
     } else if (chosen.empty() && !first.starts_with('-')) {
-        std::cerr << "vyr: there is no command " << quoted(first) << "; 'vyr --help' lists them\n";
+        std::cerr << "vyr: there is no command " << quoted(first) << suggestion(first, command_names(app))
+                  << "; 'vyr --help' lists them\n";
     } else {
         const std::string command = chosen.empty() ? "vyr" : "vyr " + chosen.front()->get_name();
-        std::cerr << command << ": " << printable(error.what()) << "; '" << command << " --help' says more\n";
+        std::cerr << command << ": " << printable(error.what())
+                  << option_suggestion(chosen.empty() ? app : *chosen.front(), error.what()) << "; '" << command
+                  << " --help' says more\n";
     }
 }
 
@@ -223,7 +306,8 @@ exit_code run(int argc, char** argv) {
     app.require_subcommand(1);
     app.set_version_flag("--version", "vyr " VYR_TOOL_VERSION, "Print the version");
     app.set_help_flag("-h,--help", "Print this text");
-    app.footer(std::string("'vyr COMMAND --help' says more of each command, with examples.\n\n") + k_exit_codes);
+    app.footer(std::string("'vyr help COMMAND' says more of each command, with examples.\n\n") + k_limits +
+               k_exit_codes);
 
     exit_code result = exit_ok;
     const auto add = [&]<class Options>(const char* name, const char* text, exit_code (*call)(const Options&),
@@ -238,12 +322,25 @@ exit_code run(int argc, char** argv) {
     add("list", "List the colours of a document with their values", &list, &add_list);
     add("convert", "Write a document as a plain one or as a container, in the library's layout", &convert,
         &add_convert);
+    add("import", "Make a document of a table", &import, &add_import);
     add("json", "Print documents as JSON, whole", &print_json, &add_print_json);
     add("diff", "Say in what two documents differ", &diff, &add_diff);
     add("codes", "List the result codes of the library", &codes, &add_codes);
     add("show", "Make a page of a document, to look at in a browser", &show, &add_show);
+    // "vyr help check" is "vyr check --help".
+    std::vector<std::string> words(argv + std::min(argc, 1), argv + argc);
+    if (!words.empty() && words.front() == "help") {
+        words.erase(words.begin());
+        words.emplace_back("--help");
+    }
+    std::ranges::reverse(words);
     try {
-        app.parse(argc, argv);
+        const std::string first = words.empty() ? "" : words.back();
+        if (words.size() > 1 && words.front() == "--help" && !first.starts_with('-') && !is_command(app, first)) {
+            explain_usage(app, CLI::ExtrasError({first}), first);
+            return exit_usage_or_file;
+        }
+        app.parse(std::move(words));
     } catch (const CLI::ParseError& error) {
         // Asking for help or for the version ends here as well.
         if (error.get_exit_code() == 0) return app.exit(error), exit_ok;

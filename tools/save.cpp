@@ -17,6 +17,7 @@
 #include "lmx/lmx.h"
 #include "tools/diff.h"
 #include "tools/files.h"
+#include "tools/progress.h"
 #include "tools/tree.h"
 #include "tools/typed_json.h"
 
@@ -137,6 +138,7 @@ exit_code save_document(std::unique_ptr<Vyr> document, const std::string& out, c
         return refuse_output(out, "a container is no text for a terminal");
     }
     const c_signals_held held;
+    const c_progress_line progress("writing " + (out == k_standard_stream ? "standard output" : shown_name(out)));
     // The library makes a container of a plain file beside it, which may be anybody's: here they harm no other file.
     const c_scratch_folder folder(out);
     std::error_code none;

@@ -13,6 +13,7 @@ import sys
 
 vyr, root = sys.argv[1], pathlib.Path(sys.argv[2])
 OPTION = r"(?<![\w-])--?[a-z]+"
+TWICE = {"-j", "--jobs", "-q", "--quiet", "-o", "--output"}
 failures = []
 
 
@@ -53,9 +54,7 @@ for command in commands:
     compare(f"vyr.1, {command}", re.findall(OPTION, "\n".join(headings)), own[command])
     synopsis = between(between(page, r"^\.SH SYNOPSIS", r"^\.SH "), rf"^\.B vyr {command}$", r"^\.br")
     # One form of each is enough there.
-    twice = {"-j", "--jobs", "-q", "--quiet", "-o", "--output"}
-    compare(f"vyr.1, synopsis of {command}", [*re.findall(OPTION, synopsis), *twice],
-            own[command] | twice)
+    compare(f"vyr.1, synopsis of {command}", [*re.findall(OPTION, synopsis), *TWICE], own[command] | TWICE)
     compare(f"vyr.bash, {command}", between(bash, rf'\[{command}\]="', '"').split(), options[command])
     case = re.sub(r"\$(\w+)", lambda found: zsh_variables.get(found.group(1), ""), between(zsh, rf"^ +{command}\)$", ";;"))
     compare(f"_vyr, {command}", re.findall(OPTION + r"(?=[\[=+,}])", case), options[command])

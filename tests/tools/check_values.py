@@ -187,9 +187,45 @@ def check_json_faults():
             failures.append(f"{before} -> {after}: the JSON Schema finds nothing")
 
 
+def check_import():
+    """A table goes into a document and comes back; what can't is named by row and column."""
+    pathlib.Path("a.csv").write_bytes(output("list", "--csv", sample).encode())
+    output("import", "a.csv", "-o", "a.vyr")
+    output("check", "a.vyr")
+    lost = {"In", "ConditionsFrom", "Backing"}
+    before, after = (sorted(({name: cell for name, cell in row.items() if cell and name not in lost} for row in table(file)),
+                            key=lambda row: (row["Color"], row["Space"], row.get("Illuminant", ""))) for file in (sample, "a.vyr"))
+    same("a table through a document", after, before)
+
+    wide = "\ufeffColor,L,A,B,Cyan,Magenta,Yellow,Black,Red,Green,Blue,400 nm,410\r\n"
+    pathlib.Path("b.csv").write_text(wide + '"Red, ""warm""",50,60,40,0,90,80,0,1,0.5,0,0.1,0.2\nBlue,10,-1e1,2,,,,,,,,,\n')
+    output("import", "--palette", "Mine", "b.csv", "-o", "b.vyr")
+    rows = table("b.vyr")
+    same("values by header", [(row["Palette"], row["Color"], row["Space"]) for row in rows],
+         [("Mine", 'Red, "warm"', space) for space in ("CIELab", "CMYK", "SRGB", "Spectral")] + [("Mine", "Blue", "CIELab")])
+    same("a number", (rows[4]["A"], rows[3]["410 nm"]), ("-10", "0.2"))
+    for text, faults in (
+        (wide + "Red,50,60,40,0,90,187,0,,,,,\nBlue,x,1,2,,,,,,,,,\n",
+         [':2: column "Yellow": Value greater than specified maximum .*', ':3: column "L": Invalid value format .*']),
+        (wide + ",1,2,3,,,,,,,,,\n\nNone,,,,,,,,,,,,\nx,1,2,3,,,,,,,,,,9\n",
+         [":2: the colour has no name", ":4: the row has no value, or .*", ":5: there are more cells than headers"]),
+        ("Color,Shade,Space,L,Cyan,Gamma\nx,,Lab,2,,\ny,,CIELab,3,1,\nz,,Recipe,,,x\n",
+         [':1: column "Shade": no such column is known', ':2: column "Space": "Lab" is no kind of value',
+          ':3: column "Cyan": CIELab has no such part']),
+        ("Color,Space,L,A,B,Illuminant,Observer\nx,CIELab,1,2,3,D99,2\n", [':2: column "Illuminant": .*']),
+        ("Name,L\nx,1\n", [':1: there is no column "Color"']),
+        ('Color,L\n"x,1\n', [": line 2: the quotation mark that begins a cell has no end"]),
+    ):
+        pathlib.Path("x.csv").write_text(text)
+        code, out, err = run("import", "x.csv", "-o", "never.vyr")
+        for fault in faults:
+            has(err, "^x\\.csv" + fault + "$")
+        same("a table with faults", (code, out, os.path.exists("never.vyr")), (1, "", False))
+
+
 def check_all():
     for check in (check_list, check_list_json, check_table, check_info, check_all_documents, check_json, check_json_order,
-                  check_json_faults):
+                  check_json_faults, check_import):
         try:
             check()
         except Exception:  # what one check stumbles over is no reason to skip the others

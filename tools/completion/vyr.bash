@@ -9,12 +9,13 @@ _vyr() {
         [info]="--depth --json --help -h"
         [list]="--palette --set --name --color --json --csv --help -h"
         [convert]="--to --ignore --help -h"
+        [import]="--output -o --palette --help -h"
         [json]="--help -h"
         [diff]="--color --json --quiet -q --help -h"
         [codes]="--json --help -h"
         [show]="--output -o --help -h"
     )
-    local commands="check info list convert json diff codes show"
+    local commands="check info list convert import json diff codes show"
     local word=${COMP_WORDS[COMP_CWORD]} before=${COMP_WORDS[COMP_CWORD - 1]} command=vyr i
     for ((i = 1; i < COMP_CWORD; ++i)); do
         if [[ " $commands " == *" ${COMP_WORDS[i]} "* ]]; then
@@ -53,6 +54,7 @@ _vyr() {
                     compgen -d -- "$word"
                     compgen -f -X '!*.vyr' -- "$word"
                     compgen -f -X '!*.vyrz' -- "$word"
+                    [[ $command != import ]] || compgen -f -X '!*.csv' -- "$word"
                     [[ $command != convert ]] || compgen -f -X '!*.json' -- "$word"
                 )
                 return

@@ -2,7 +2,7 @@
 # SPDX-License-Identifier: Apache-2.0
 # Completion of the command vyr for fish.
 
-set -l commands check info list convert json diff codes show
+set -l commands check info list convert import json diff codes show
 complete -c vyr -f
 complete -c vyr -s h -l help -d 'Print help'
 complete -c vyr -n "not __fish_seen_subcommand_from $commands" -l version -d 'Print the version'
@@ -10,6 +10,7 @@ complete -c vyr -n "not __fish_seen_subcommand_from $commands" -a check -d 'Vali
 complete -c vyr -n "not __fish_seen_subcommand_from $commands" -a info -d 'Say what a document holds'
 complete -c vyr -n "not __fish_seen_subcommand_from $commands" -a list -d 'List the colours of a document'
 complete -c vyr -n "not __fish_seen_subcommand_from $commands" -a convert -d 'Write a document as a plain one or as a container'
+complete -c vyr -n "not __fish_seen_subcommand_from $commands" -a import -d 'Make a document of a table'
 complete -c vyr -n "not __fish_seen_subcommand_from $commands" -a json -d 'Print documents as JSON'
 complete -c vyr -n "not __fish_seen_subcommand_from $commands" -a diff -d 'Say in what two documents differ'
 complete -c vyr -n "not __fish_seen_subcommand_from $commands" -a codes -d 'List the result codes'
@@ -30,6 +31,9 @@ complete -c vyr -n '__fish_seen_subcommand_from list' -l name -x -d 'Only colour
 complete -c vyr -n '__fish_seen_subcommand_from list' -l color -x -a 'auto always never' -d 'Colours in the output'
 complete -c vyr -n '__fish_seen_subcommand_from list' -l json -d 'Print JSON'
 complete -c vyr -n '__fish_seen_subcommand_from list' -l csv -d 'Print a table for spreadsheets'
+complete -c vyr -n '__fish_seen_subcommand_from import' -k -a '(__fish_complete_suffix .csv)'
+complete -c vyr -n '__fish_seen_subcommand_from import' -s o -l output -r -F -d 'The document to write'
+complete -c vyr -n '__fish_seen_subcommand_from import' -l palette -x -d 'Name of the palette'
 complete -c vyr -n '__fish_seen_subcommand_from convert' -l to -x -a 'vyr vyrz json' -d 'Write this format'
 complete -c vyr -n '__fish_seen_subcommand_from convert' -l ignore -x -a 'all comments instructions doctype hints digits' -d 'Leave out such warnings'
 complete -c vyr -n '__fish_seen_subcommand_from diff' -l color -x -a 'auto always never' -d 'Colours in the output'

@@ -1,0 +1,31 @@
+// Copyright 2026 The Vyr Authors
+// SPDX-License-Identifier: Apache-2.0
+
+/// What is being done, for whoever waits for it at a terminal.
+
+#pragma once
+
+#include <condition_variable>
+#include <mutex>
+#include <string>
+#include <thread>
+
+namespace vyr_tool {
+
+/// Shows a line with the time that has gone by, once that is more than a second, and takes it away at the end. Shows
+/// nothing where standard error is no terminal.
+class c_progress_line {
+public:
+    explicit c_progress_line(const std::string& text);
+    c_progress_line(const c_progress_line&) = delete;
+    c_progress_line& operator=(const c_progress_line&) = delete;
+    ~c_progress_line();
+
+private:
+    std::mutex m_mutex;
+    std::condition_variable m_ended;
+    bool m_is_ended = false;
+    std::thread m_thread;
+};
+
+}  // namespace vyr_tool
