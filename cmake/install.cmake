@@ -46,9 +46,9 @@ endif()
 
 # As the guides lie in the sources, so that their links hold; by name, since people build in these folders.
 foreach(file README.md CONTRIBUTING.md SECURITY.md CHANGELOG.md LICENSE
-        docs/README.md docs/building.md docs/codes.md docs/container.md docs/csharp.md docs/errors.md docs/flat.md
-        docs/format.md docs/generator.md docs/limits.md docs/performance.md docs/reports.md docs/schema.md
-        docs/threads.md docs/values.md
+        docs/README.md docs/building.md docs/codes.md docs/command.md docs/container.md docs/csharp.md docs/errors.md
+        docs/flat.md docs/format.md docs/generator.md docs/limits.md docs/performance.md docs/reports.md docs/schema.md
+        docs/threads.md docs/values.md docs/warnings.md
         docs/samples/broken.vyr docs/samples/flat.c docs/samples/guides.cpp docs/samples/guides.cs
         docs/samples/inks.vyr
         examples/CMakeLists.txt examples/README.md examples/css-colors.vyr examples/first.cpp examples/inks.csv

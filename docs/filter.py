@@ -30,7 +30,7 @@ def lines_of_comment(lines):
 
 
 def heading_name(page, heading):
-    return f"{Path(page).stem}-{re.sub(r'[^a-z0-9]+', '-', heading.lower()).strip('-')}"
+    return f"{Path(page).stem}-{re.sub(r'[^a-z0-9_ -]', '', heading.lower()).replace(' ', '-')}"
 
 
 def guide(text):
