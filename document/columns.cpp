@@ -65,8 +65,9 @@ bool is_first_byte(int c) { return (static_cast<unsigned>(c) & 0xC0U) != 0x80U; 
 bool try_columns(lmx::c_read& source, int encoding, std::vector<s_character>* characters) {
     std::vector<s_character*> pending;
     for (s_character& character : *characters) pending.push_back(&character);
-    std::stable_sort(pending.begin(), pending.end(),
-                     [](const s_character* one, const s_character* other) { return one->offset < other->offset; });
+    std::sort(pending.begin(), pending.end(), [](const s_character* one, const s_character* other) {
+        return one->offset != other->offset ? one->offset < other->offset : one < other;
+    });
     lmx::c_error errors;
     lmx::c_get_as_utf8 text(source, errors);
     c_attribute_search search;

@@ -16,6 +16,8 @@ import tempfile
 import threading
 import time
 
+from sanitized import is_sanitized
+
 vyr, documents = (pathlib.Path(argument).resolve() for argument in sys.argv[1:3])
 failures = []
 
@@ -125,6 +127,10 @@ def check_conversion():
         failures.append("convert --ignore all warns")
 
 
+def bound_memory():
+    resource.setrlimit(resource.RLIMIT_DATA, (1 << 30, 1 << 30))
+
+
 def check_strangers(folder):
     """Whatever a document asks for, nothing is read elsewhere, and neither time nor memory runs away."""
     asked = []
@@ -156,7 +162,7 @@ def check_strangers(folder):
     for name, text in cases.items():
         begin = time.monotonic()
         done = subprocess.run([vyr, "check", "-"], input=text.encode(), capture_output=True, timeout=60,
-                              preexec_fn=lambda: resource.setrlimit(resource.RLIMIT_DATA, (1 << 30, 1 << 30)))
+                              preexec_fn=None if is_sanitized(vyr) else bound_memory)
         took = time.monotonic() - begin
         if done.returncode not in (0, 1) or took > 30 or b"very secret" in done.stdout or len(done.stdout) > 1 << 20:
             failures.append(f"{name}: {done.returncode} in {took:.1f} s: {done.stdout[:300]} {done.stderr[:300]}")
