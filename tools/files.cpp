@@ -407,7 +407,7 @@ std::string write_file(const std::string& target, const std::string& bytes) {
     const fs::path finished = folder.path() / "finished";
     c_descriptor descriptor(open(finished.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0600));
     if (descriptor.get() < 0) return system_text();
-    const std::string refusal = write_all(descriptor.get(), bytes);
+    std::string refusal = write_all(descriptor.get(), bytes);
     if (!refusal.empty()) return refusal;
     return descriptor.close() ? deliver(finished, target) : system_text();
 }

@@ -11,6 +11,7 @@
 #include <algorithm>
 #include <charconv>
 #include <chrono>
+#include <cstddef>
 #include <cstdint>
 #include <cstring>
 #include <mutex>
@@ -508,7 +509,7 @@ void c_warnings::c_pass::start(std::string_view name, std::string_view uri, cons
         if (row != nullptr) type = row->type;
     }
     // Five texts for each: the name, its prefix and its namespace, and the ends of its value.
-    const auto attribute = [&](int i) { return attributes + 5 * i; };
+    const auto attribute = [&](int i) { return attributes + std::ptrdiff_t{5} * i; };
     const auto value_of = [&](int i) {
         const xmlChar** const parts = attribute(i);
         return std::string_view(reinterpret_cast<const char*>(parts[3]),

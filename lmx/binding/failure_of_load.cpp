@@ -316,8 +316,8 @@ private:
 
     std::string not_the_document() const {
         const int ns_id = m_site.document->ns_map->ns_id;
-        const std::string detail = joined({"the document must begin with the element ", m_site.document->local_name,
-                                           " in the namespace ", format_namespace(ns_id)});
+        std::string detail = joined({"the document must begin with the element ", m_site.document->local_name,
+                                     " in the namespace ", format_namespace(ns_id)});
         if (m_event != ELXP_NAME || m_reader.get_element_ns_id() == ns_id) return detail;
         return joined({detail, "; <", found_text(), "> stands here", found_namespace()});
     }

@@ -106,6 +106,8 @@ elmx_error skip(c_xml_reader& reader, c_string_stack& open, const std::string& f
 }  // namespace
 
 elmx_error skip_element(c_xml_reader& reader, const std::string& name) {
+    // A copy, since `name` may be the reader's own, which what follows changes.
+    // NOLINTNEXTLINE(performance-unnecessary-copy-initialization)
     const std::string own_name = name;
     bool is_empty = false;
     if (!reader.skip_start_tag(&is_empty)) {
@@ -124,6 +126,8 @@ elmx_error leave_element(c_xml_reader& reader, const std::string& name) {
         reader.m_name = std::move(wrong_name);
         return end_at_wrong_tag(reader);
     }
+    // A copy, since `name` may be the reader's own, which what follows changes.
+    // NOLINTNEXTLINE(performance-unnecessary-copy-initialization)
     const std::string own_name = name;
     c_string_stack open;
     open.push(own_name);
@@ -132,6 +136,8 @@ elmx_error leave_element(c_xml_reader& reader, const std::string& name) {
 
 elmx_error leave_element_at_event(c_xml_reader& reader, const std::string& name) {
     if (reader.get_scanned_event() == ELXP_END_TAG) return reader.m_name == name ? ELMX_OK : end_at_wrong_tag(reader);
+    // A copy, since `name` may be the reader's own, which what follows changes.
+    // NOLINTNEXTLINE(performance-unnecessary-copy-initialization)
     const std::string own_name = name;
     const elmx_error error = pass_over_event(reader);
     return error == ELMX_OK ? leave_element(reader, own_name) : error;
