@@ -24,7 +24,7 @@ inline constexpr std::string_view k_page_style = R"(:root {
 body { margin: 0; background: var(--ground); color: var(--text); font: 1rem/1.5 system-ui, sans-serif; }
 header, .columns { max-width: 92rem; margin: 0 auto; padding: 0 1.25rem; }
 header p { margin: 0 0 1rem; color: var(--faint); }
-h1, h2, h3, h4, h5, h6, p, dd, summary, li { overflow-wrap: anywhere; }
+h1, h2, h3, h4, h5, h6, p, dt, dd, summary, li { overflow-wrap: anywhere; }
 h1 { margin: 1.25rem 0 0; font-size: 1.75rem; line-height: 1.25; }
 h2 { margin: 2rem 0 .75rem; font-size: 1.375rem; border-bottom: 1px solid var(--rule); }
 h3 { margin: 1.5rem 0 .5rem; font-size: 1.125rem; }
@@ -49,11 +49,11 @@ nav h2 { margin-top: 1rem; font-size: 1rem; }
 .index { margin: .5rem 0 1rem; }
 dl { margin: .5rem 0; }
 dd { margin: 0; white-space: pre-line; }
-.fields { display: grid; grid-template-columns: minmax(6rem, max-content) 1fr; gap: .125rem 1rem; font-size: .9375rem; }
+.fields { display: grid; grid-template-columns: fit-content(40%) 1fr; gap: .125rem 1rem; font-size: .9375rem; }
 .fields dt { grid-column: 1; }
 .fields dd { grid-column: 2; }
-.values dt { margin-top: .625rem; font-weight: 600; font-size: .9375rem; }
-.values dd { white-space: normal; }
+.values > dt { margin-top: .625rem; font-weight: 600; font-size: .9375rem; }
+.values > dd { white-space: normal; }
 .values .values { margin-left: .75rem; padding-left: .75rem; border-left: 2px solid var(--rule); }
 .channels { display: flex; flex-wrap: wrap; gap: 0 1rem; font-variant-numeric: tabular-nums; }
 .conditions, .origin { font-size: .875rem; }
@@ -106,7 +106,8 @@ td { white-space: pre-line; }
   .cards { display: block; columns: 2; column-gap: 1rem; }
   .cards > * { margin-bottom: 1rem; }
   .cards > .color { content-visibility: visible; }
-  .values dd, .swatch, tr { break-inside: avoid; }
+  .values > dd, .swatch, tr { break-inside: avoid; }
+  .swatch { break-after: avoid; }
   .color { box-decoration-break: clone; -webkit-box-decoration-break: clone; }
   h1, h2, h3, h4, h5, h6, caption, dt { break-after: avoid; }
   .swatch { height: 3rem; print-color-adjust: exact; -webkit-print-color-adjust: exact; }
