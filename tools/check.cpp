@@ -175,15 +175,27 @@ struct s_counts {
     }
 };
 
-void print_text(const std::string& file, const s_result& reading) {
+/// A line that begins with a place, which is coloured if that is wanted.
+void print_line(const std::string& file, const std::string& line, const char* color) {
+    if (color == nullptr) {
+        std::cout << line << '\n';
+        return;
+    }
+    const std::size_t end = std::min(line.find(": ", shown_name(file).size()), line.size());
+    std::cout << colored(std::string_view(line).substr(0, end), color) << std::string_view(line).substr(end) << '\n';
+}
+
+void print_text(const std::string& file, const s_result& reading, bool has_color) {
     const DocumentReport& report = reading.report;
     if (!reading.refusal.empty()) return complain(file, reading.refusal);
     for (std::size_t i = 0; i < report.getFaultCount(); ++i) {
         const DocumentFault& fault = report.getFault(i);
         const bool is_end = i + 1 == report.getTotalCount() && fault.line != 0 && !report.isReadToEnd();
-        std::cout << fault_text(file, fault) << (is_end ? " [the check ends here]\n" : "\n");
+        print_line(file, fault_text(file, fault) + (is_end ? " [the check ends here]" : ""),
+                   has_color ? terminal_color::red : nullptr);
     }
-    for (const s_warning& found : reading.warnings) std::cout << warning_text(file, found) << '\n';
+    for (const s_warning& found : reading.warnings)
+        print_line(file, warning_text(file, found), has_color ? terminal_color::yellow : nullptr);
     const std::size_t left_out =
         report.getTotalCount() - report.getFaultCount() + reading.warning_total - reading.warnings.size();
     if (left_out != 0) std::cout << shown_name(file) << ": " << left_out << " more; --limit shows them\n";
@@ -243,13 +255,14 @@ exit_code check(const check_options& options) {
     s_counts counts;
     if (options.json) std::cout << "{\"files\": [";
     const char* separator = "\n";
+    const bool has_color = use_color(options.color);
     run_all(find_jobs(options.files), options, [&](const std::string& file, const s_result& reading) {
         counts.is_warned = counts.is_warned || reading.warning_total != 0;
         ++(!reading.refusal.empty() ? counts.unreadable : reading.is_ok() ? counts.valid : counts.invalid);
         if (options.json) {
             std::cout << std::exchange(separator, ",\n") << to_text(to_json(file, reading));
         } else if (!options.quiet) {
-            print_text(file, reading);
+            print_text(file, reading, has_color);
         }
         std::cout.flush();
     });

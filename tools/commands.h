@@ -30,6 +30,7 @@ struct check_options {
     std::size_t limit = 100;
     warning_set warnings = check_warnings();
     bool strict = false;  ///< warnings are failures
+    color_mode color = "auto";
     bool json = false;
     bool quiet = false;
 };

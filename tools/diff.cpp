@@ -36,10 +36,10 @@ struct s_change_form {
     const char* name;
     const char* color;
 };
-constexpr s_change_form k_forms[] = {{'-', "removed", "\x1B[31m"},
-                                     {'+', "added", "\x1B[32m"},
-                                     {'~', "changed", "\x1B[33m"},
-                                     {'>', "moved", "\x1B[36m"}};
+constexpr s_change_form k_forms[] = {{'-', "removed", terminal_color::red},
+                                     {'+', "added", terminal_color::green},
+                                     {'~', "changed", terminal_color::yellow},
+                                     {'>', "moved", terminal_color::cyan}};
 
 /// Prints changes as they are found.
 class c_changes {
@@ -83,7 +83,7 @@ void c_changes::add(e_change kind, const std::string& path, std::optional<std::s
     if (before && after) line += " ->";
     if (after) line += " " + quoted(*after);
     line += note;
-    m_out << (m_has_color ? form.color + line + "\x1B[0m" : line) << '\n';
+    m_out << (m_has_color ? colored(line, form.color) : line) << '\n';
 }
 
 /// Elements nest no deeper in the format itself; foreign content below is compared as a whole.
@@ -231,10 +231,6 @@ void pair_children(s_side& before, s_side& after) {
 
 bool is_simple(const c_tree& tree, index node) {
     return tree.is_leaf(node) && (tree.field_count(node) == 0 || tree.get_field(node, 0).name.empty());
-}
-
-std::string join(const std::string& path, const std::string& step) {
-    return path.empty() ? step : path + " / " + step;
 }
 
 /// Walks both trees from a pair of elements down.

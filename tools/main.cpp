@@ -75,6 +75,7 @@ void add_check(CLI::App& command, check_options& options) {
     command.add_option("--limit", options.limit, "Report at most N faults of a file (100)")->option_text("N");
     add_warnings(command, options.warnings);
     command.add_flag("--strict", options.strict, "Warnings are failures");
+    add_color(command, options.color);
     add_json(command, options.json);
     command.add_flag("-q,--quiet", options.quiet, "Print nothing; the exit code tells");
     command.footer(

@@ -101,6 +101,8 @@ bool use_color(const color_mode& mode) {
            std::string_view(terminal == nullptr ? "" : terminal) != "dumb";
 }
 
+std::string colored(std::string_view text, const char* color) { return std::string(color).append(text) + "\x1B[0m"; }
+
 bool use_curves() {
     for (const char* const name : {"LC_ALL", "LC_CTYPE", "LANG"}) {
         const char* const value = std::getenv(name);

@@ -33,6 +33,17 @@ std::string counted(std::size_t count, std::string_view one, std::string_view ma
 /// NO_COLOR.
 bool use_color(const color_mode& mode);
 
+/// Colours of the terminal, for all that the command prints in them.
+namespace terminal_color {
+inline constexpr char red[] = "\x1B[31m";
+inline constexpr char green[] = "\x1B[32m";
+inline constexpr char yellow[] = "\x1B[33m";
+inline constexpr char cyan[] = "\x1B[36m";
+}  // namespace terminal_color
+
+/// The text, which is printable, in a colour.
+std::string colored(std::string_view text, const char* color);
+
 /// The same for colours of 24 bits, which a terminal announces.
 bool use_true_color(const color_mode& mode);
 

@@ -1,11 +1,13 @@
 #!/usr/bin/env python3
 # Copyright 2026 The Vyr Authors
 # SPDX-License-Identifier: Apache-2.0
-"""The manual page, the completions and the list of codes name what the command has, and nothing else.
+"""The manual page, the completions and the list of codes name what the command has, and nothing else; the page names
+whatever is printed as JSON.
 
 Usage: check_papers.py VYR ROOT
 """
 
+import json
 import pathlib
 import re
 import subprocess
@@ -63,6 +65,54 @@ for command in commands:
                                      for name in re.findall(rf"-{kind} (\S+)", "\n".join(lines))], own[command])
     if "Examples:\n  vyr " not in helps[command]:
         failures.append(f"{command} --help shows no example")
+
+
+
+def own_names(value, inside=""):
+    """The members of what was printed, without those that have the names of the format: these start with a capital."""
+    if isinstance(value, list):
+        return set().union(*(own_names(entry, inside) for entry in value))
+    if not isinstance(value, dict):
+        return set()
+    # Conditions are the command's own throughout.
+    found = {name for name in value if inside == "conditions" or not name[0].isupper()}
+    return found.union(*(own_names(inner, name) for name, inner in value.items()))
+
+
+def printed(*arguments, stdin=""):
+    done = subprocess.run([vyr, *arguments], input=stdin, capture_output=True, text=True)
+    decoder, at, names = json.JSONDecoder(), 0, set()
+    while at < len(done.stdout.rstrip()):
+        value, at = decoder.raw_decode(done.stdout, at)
+        at += 1
+        names |= own_names(value)
+    return names
+
+
+# What is foreign to the format has names that no page can know.
+documents = [file for file in sorted((root / "tests/documents/valid").glob("*.vyr")) if not re.search("<(?![/?!]|Vyr:)", file.read_text())]
+documents.append(root / "tests/tools/values.vyr")
+impossible = (root / "tests/tools/values.vyr").read_text().replace("2026-05", "2026-13", 1)
+answers = {
+    "check": printed("check", "--json", root / "docs/samples/broken.vyr", "absent", "-", stdin=impossible),
+    "info": printed("info", "--json", *documents),
+    "list": printed("list", "--json", *documents),
+    "json": printed("json", *documents),
+    "diff": printed("diff", "--json", *documents[:2]),
+    "codes": printed("codes", "--json"),
+}
+compare("commands that print JSON", answers, {command for command in commands if "--json" in own[command]} | {"json"})
+
+
+def named(command):
+    section = between(page, rf"^\.SS {command}$", r"^\.S[SH] ")
+    words = set(re.findall(r"[\w:]+", " ".join(re.findall(r"^\.(?:I|IR|RI) .*", section, re.MULTILINE))))
+    return words | named("json") if command != "json" and "vyr json" in section else words
+
+
+for command, names in answers.items():
+    if not names or names - named(command):
+        failures.append(f"vyr.1, {command}: nothing is said of {names - named(command) or 'JSON'}")
 
 script = f"source {root}/tools/completion/vyr.bash; COMP_WORDS=(vyr list --color = a); COMP_CWORD=4; _vyr; echo ${{COMPREPLY[@]}}"
 compare("vyr.bash at work", subprocess.check_output(["bash", "-c", script], text=True).split(), ["auto", "always"])

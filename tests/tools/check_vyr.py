@@ -84,6 +84,7 @@ def make_documents():
         "hostile.vyr": text.replace("aliceblue", "\u202e\u009b31m&#9;&lt;b>", 1)
                            .replace("antiquewhite", "\u180e\u200d\u3164\U000e0041e\u0301", 1),
         "zones.vyr": re.sub(r"Z</Vyr:ChangeHistory>", "+99:99</Vyr:ChangeHistory>", text, count=2),
+        "month.vyr": text.replace("-05-", "-13-", 1),
         "empty.vyr": "",
     }.items():
         pathlib.Path(name).write_text(content)
@@ -96,6 +97,7 @@ def check_check(line):
     faults = re.escape(place) + "Value greater than specified maximum.*1\\.5.*\n(broken[^\n]*x[^\n]*\n){3}"
     expect(0, "", "", "check", "good.vyr")
     expect(1, faults, "", "check", "good.vyr", "broken.vyr", "-j", "4", "good.vyr")
+    expect(1, r"\x1b\[31mbroken.*", "", "check", "--color=always", "broken.vyr")
     expect(1, "[^\n]*1\\.5[^\n]*\nbroken.vyr: 3 more; [^\n]*\n", "", "check", "--limit=1", "broken.vyr")
     expect(1, "", "", "check", "-q", "broken.vyr")
     expect(1, "empty.vyr:1:1: [^\n]*\njunk.vyrz: [^\n]*not a ZIP archive\n", "", "check", "empty.vyr", "junk.vyrz")
@@ -277,6 +279,12 @@ def check_terminal():
         text, code = on_terminal("diff", *arguments, "good.vyr", "other.vyr", **environment)
         if code != 1 or ("\x1b[32m+ " in text) != has_color:
             fail(f"diff on a terminal ({arguments}, {environment}): {text!r}")
+    for arguments, environment, has_color in ((["--color=never"], {}, False), ([], {"NO_COLOR": "1"}, False), ([], {}, True)):
+        text, code = on_terminal("check", *arguments, "broken.vyr", "month.vyr", **environment)
+        places = [re.search(rf"\x1b\[{color}m{name}.vyr:\d+:\d+\x1b\[0m: .*: ", text) is not None
+                  for color, name in ((31, "broken"), (33, "month"))]
+        if code != 1 or places != [has_color] * 2 or ("\x1b" in text) != has_color:
+            fail(f"check on a terminal ({arguments}, {environment}): {text!r}")
     text, code = on_terminal("check", "good.vyr", "good.vyr")
     if (text, code) != ("2 valid documents\r\n", 0):
         fail(f"check on a terminal: {text!r}")

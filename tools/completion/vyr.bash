@@ -5,7 +5,7 @@
 _vyr() {
     local -A options=(
         [vyr]="--version --help -h"
-        [check]="--jobs -j --limit --ignore --strict --json --quiet -q --help -h"
+        [check]="--jobs -j --limit --ignore --strict --color --json --quiet -q --help -h"
         [info]="--depth --json --help -h"
         [list]="--palette --set --name --color --json --csv --help -h"
         [convert]="--to --ignore --help -h"

@@ -21,6 +21,7 @@ complete -c vyr -n '__fish_seen_subcommand_from check' -s j -l jobs -x -d 'Check
 complete -c vyr -n '__fish_seen_subcommand_from check' -l limit -x -d 'Report at most N faults of a file'
 complete -c vyr -n '__fish_seen_subcommand_from check' -l ignore -x -a 'all not-well-formed schema unsavable duplicate-id wavelengths limits date' -d 'Leave out such warnings'
 complete -c vyr -n '__fish_seen_subcommand_from check' -l strict -d 'Warnings are failures'
+complete -c vyr -n '__fish_seen_subcommand_from check' -l color -x -a 'auto always never' -d 'Colours in the output'
 complete -c vyr -n '__fish_seen_subcommand_from check' -s q -l quiet -d 'Print nothing'
 complete -c vyr -n '__fish_seen_subcommand_from check' -l json -d 'Print JSON'
 complete -c vyr -n '__fish_seen_subcommand_from info' -l depth -x -d 'Count elements down to this level'
