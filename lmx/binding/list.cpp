@@ -39,7 +39,9 @@ void* c_list_base::emplace(std::size_t index, const s_stored_type& type) {
         m_storage = static_cast<std::byte*>(only.release());
         return m_storage;
     }
-    if (!has_head() || (head()->freed == nullptr && head()->unused_count == 0)) reserve_place(type.size);
+    if (!has_head() || (head()->freed == nullptr && head()->unused_count == 0)) {
+        reserve_places(places_to_add(size(), type.size), type.size);
+    }
     s_head& list = *head();
     void* const place = list.freed != nullptr ? list.freed : list.unused;
     void* const next_freed = list.freed != nullptr ? *static_cast<void**>(place) : nullptr;
@@ -61,6 +63,12 @@ void* c_list_base::emplace(std::size_t index, const s_stored_type& type) {
     *at = place;
     ++list.size;
     return place;
+}
+
+void c_list_base::expect(std::size_t count, const s_stored_type& type) {
+    constexpr std::size_t most_bytes = 4096;
+    if (m_storage == nullptr || has_head() || count < 3) return;
+    reserve_places(std::max<std::size_t>(1, std::min(count - 1, most_bytes / type.size)), type.size);
 }
 
 void c_list_base::remove(std::size_t index, const s_stored_type& type) noexcept {
@@ -104,12 +112,10 @@ void c_list_base::reserve_index(std::size_t capacity) {
     m_storage = reinterpret_cast<std::byte*>(larger) + 1;
 }
 
-/// Makes room for one more entry, in a place and in the index.
-void c_list_base::reserve_place(std::size_t entry_size) {
-    if (!has_head()) reserve_index(k_first_capacity);
-    const std::size_t count = head()->size;
-    const std::size_t added = places_to_add(count, entry_size);
-    const std::size_t capacity = head()->capacity;
+/// Makes room for more entries, in places and in the index.
+void c_list_base::reserve_places(std::size_t added, std::size_t entry_size) {
+    const std::size_t count = size();
+    const std::size_t capacity = has_head() ? head()->capacity : 0;
     if (count + added > capacity) reserve_index(std::max(count + added, capacity + capacity / 2));
     s_head& list = *head();
     auto* const block = ::new (::operator new(sizeof(s_block) + added * entry_size)) s_block{list.blocks};

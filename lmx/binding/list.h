@@ -35,6 +35,9 @@ public:
     /// if that fails.
     void* emplace(std::size_t index, const s_stored_type& type);
     void* append(const s_stored_type& type) { return emplace(size(), type); }
+    /// Makes room at once where one entry is expected to be followed by others, up to `count` in all. Of other lists
+    /// nothing changes.
+    void expect(std::size_t count, const s_stored_type& type);
     /// Ends an entry and closes the gap. No bounds check.
     void remove(std::size_t index, const s_stored_type& type) noexcept;
     /// Ends all entries, from the back, and frees their storage.
@@ -63,13 +66,11 @@ private:
         void** entries() { return reinterpret_cast<void**>(this + 1); }
     };
 
-    static constexpr std::size_t k_first_capacity = 4;
-
     bool has_head() const { return (reinterpret_cast<std::uintptr_t>(m_storage) & 1) != 0; }
     s_head* head() const { return reinterpret_cast<s_head*>(m_storage - 1); }
 
     void reserve_index(std::size_t capacity);
-    void reserve_place(std::size_t entry_size);
+    void reserve_places(std::size_t added, std::size_t entry_size);
     void free_storage() noexcept;
 
     std::byte* m_storage = nullptr;  ///< null, the only entry, or one byte behind the head's start

@@ -20,30 +20,12 @@
 
 namespace lmx {
 
-// Values.
-
-/// A value that passed its checks, not stored yet.
-struct c_plain_way::s_value {
-    s_value() {}  // nothing is set before a value is read, which is most of the room for attributes
-
-    const char* begin;
-    const char* end;
-    enum class e_form : std::uint8_t { ascii, utf8, number, datetime, enumerated } form;
-    union {
-        double number;
-        c_datetime datetime;
-        const s_enumerated_text* literal;
-    };
-
-    std::string_view text() const { return {begin, static_cast<std::size_t>(end - begin)}; }
-};
-
 struct c_plain_way::s_attribute {
     s_attribute() {}
 
     const s_item* row;
     const char* name;  ///< as it stands in the window
-    s_value value;
+    s_plain_value value;
 };
 
 struct c_plain_way::s_start_tag {
@@ -55,6 +37,15 @@ struct c_plain_way::s_start_tag {
     int line_feeds;
     std::size_t count;
     s_attribute attributes[k_most_attributes];
+};
+
+/// An element with a value of its own.
+struct c_plain_way::s_leaf {
+    s_leaf() {}
+
+    s_start_tag tag;
+    const s_item* row = nullptr;  ///< of the value; null in other elements
+    s_plain_value value;
 };
 
 /// One item that may be taken.
@@ -90,122 +81,11 @@ inline bool is_same(const char* one, const char* other, std::size_t size) {
     return true;
 }
 
-/// Whether white space in a collapsed value would be changed by collapsing.
-bool is_collapsed(std::string_view text) {
-    bool is_behind_blank = true;
-    for (const char c : text) {
-        if (c == ' ' ? is_behind_blank : xisspace(c)) return false;
-        is_behind_blank = c == ' ';
-    }
-    return text.empty() || !is_behind_blank;
-}
-
 }  // namespace
-
-/// The end of a value that ends with `stop`; null if something in it isn't plain.
-const char* c_plain_way::find_stop(const char* at, char stop, bool* is_ascii, int* line_feeds) const {
-    for (;;) {
-        at = find_special(at, m_end, stop);
-        if (at == m_end) return nullptr;
-        if (*at == stop) return at;
-        if (*at == '\n') {
-            ++*line_feeds;
-            ++at;
-        } else {
-            const std::size_t length = m_reader.get_plain_length({at, static_cast<std::size_t>(m_end - at)});
-            if (static_cast<signed char>(*at) >= 0 || length == 0) return nullptr;
-            *is_ascii = false;
-            at += length;
-        }
-    }
-}
-
-/// Reads and checks a value up to `stop`; null if it isn't plain or isn't right.
-inline const char* c_plain_way::read_value(const s_item& row, const char* at, char stop, s_value* value,
-                                           int* line_feeds) {
-    const s_facets* const facets = row.facets;
-    if (row.value != value_kind::number || (facets != nullptr && facets->pattern != nullptr)) {
-        return read_other_value(row, at, stop, value, line_feeds);
-    }
-    const char* const end = take_short_decimal(at, m_end, &value->number);
-    if (end == nullptr || end == m_end || *end != stop) return read_other_value(row, at, stop, value, line_feeds);
-    value->begin = at;
-    value->end = end;
-    value->form = s_value::e_form::number;
-    const bool is_right = facets == nullptr || (!facets->is_below(value->number) && !facets->is_above(value->number));
-    return is_right ? end : nullptr;
-}
-
-/// The same for all but short decimals.
-PLAIN_WAY_APART const char* c_plain_way::read_other_value(const s_item& row, const char* at, char stop,
-                                                          s_value* value, int* line_feeds) {
-    const s_facets* const facets = row.facets;
-    value->begin = at;
-    if (row.value == value_kind::datetime && (facets == nullptr || facets->pattern_takes_zoned) &&
-        m_end - at > static_cast<std::ptrdiff_t>(c_datetime::k_usual_size) && at[c_datetime::k_usual_size] == stop &&
-        value->datetime.assign_usual(at)) {
-        value->form = s_value::e_form::datetime;
-        return value->end = at + c_datetime::k_usual_size;
-    }
-    bool is_ascii = true;
-    value->end = find_stop(at, stop, &is_ascii, line_feeds);
-    if (value->end == nullptr) return nullptr;
-    value->form = is_ascii ? s_value::e_form::ascii : s_value::e_form::utf8;
-    if (row.value == value_kind::enumerated) {
-        value->form = s_value::e_form::enumerated;
-        value->literal = facets->enumerated->find(value->text());
-        return value->literal != nullptr ? value->end : nullptr;
-    }
-    const bool is_kept = row.whitespace == ELMX_WS_PRESERVE || is_collapsed(value->text());
-    return is_kept && is_right(row, value->text()) ? value->end : nullptr;
-}
-
-/// The checks of a value that the short cuts don't know.
-bool c_plain_way::is_right(const s_item& row, std::string_view text) {
-    if (row.value == value_kind::text && row.facets == nullptr) return true;
-    m_text.assign(text);
-    return check_as_read(row, m_text) == ELMX_OK;
-}
-
-inline void c_plain_way::store(const s_class& type, const s_item& row, void* object, const s_value& value) {
-    void* const storage = place_for_value(type, row, object);
-    if (value.form == s_value::e_form::number) {
-        *static_cast<double*>(storage) = value.number;
-    } else {
-        store_other(row, storage, value);
-    }
-    mark_set(row, object);
-}
-
-PLAIN_WAY_APART void c_plain_way::store_other(const s_item& row, void* storage, const s_value& value) {
-    switch (value.form) {
-        case s_value::e_form::number:
-            break;
-        case s_value::e_form::datetime:
-            *static_cast<c_datetime*>(storage) = value.datetime;
-            break;
-        case s_value::e_form::enumerated:
-            static_cast<c_enumerated*>(storage)->set(value.literal);
-            break;
-        case s_value::e_form::ascii:
-            if (row.value == value_kind::text) {
-                static_cast<std::u16string*>(storage)->assign(value.begin, value.end);
-                break;
-            }
-            [[fallthrough]];
-        case s_value::e_form::utf8: {
-            m_text.assign(value.text());
-            s_read_value read{m_text, row.facets};
-            kind_of(row).look(read);
-            kind_of(row).store(read, storage);
-            break;
-        }
-    }
-}
 
 // Tags.
 
-c_plain_way::c_plain_way(c_xml_reader& reader, const s_class& type, std::string_view name) : m_reader(reader) {
+c_plain_way::c_plain_way(c_xml_reader& reader, const s_class& type, std::string_view name) : c_plain_way(reader) {
     const std::size_t colon = name.find(':');
     m_prefix_size = colon == name.npos ? 0 : colon + 1;
     const s_class* level = &type;
@@ -287,7 +167,7 @@ bool c_plain_way::read_start_tag(const s_class& type, const void* object, const 
         at += row->name.size();
         if (m_end - at < 3 || (at[1] != '"' && at[1] != '\'')) return false;
         const char quote = at[1];
-        at = read_value(*row, at + 2, quote, &attribute.value, &tag->line_feeds);
+        at = m_values.read(*row, at + 2, m_end, quote, &attribute.value, &tag->line_feeds);
         if (at == nullptr) return false;
         ++at;
     }
@@ -321,7 +201,7 @@ bool c_plain_way::has_required(const s_class& type, const void* object, const s_
 void c_plain_way::store_attributes(const s_class& type, void* object, const s_start_tag& tag) {
     for (std::size_t i = 0; i < tag.count; ++i) {
         const s_attribute& attribute = tag.attributes[i];
-        store(type, *attribute.row, object, attribute.value);
+        m_values.store(type, *attribute.row, object, attribute.value);
         m_trace.attribute_name = {attribute.name, attribute.row->name.size()};
         note_value(*attribute.row, attribute.value);
     }
@@ -332,7 +212,7 @@ void c_plain_way::note_tag(std::string_view text, int line) {
     m_trace.tag_line = line;
 }
 
-void c_plain_way::note_value(const s_item& row, const s_value& value) {
+void c_plain_way::note_value(const s_item& row, const s_plain_value& value) {
     m_trace.has_value = true;
     m_trace.value = value.text();
     m_trace.whitespace = row.whitespace;
@@ -493,14 +373,14 @@ c_plain_way::e_step c_plain_way::take_simple(void* object, s_step& step) {
     const s_item& row = step.found.row();
     const char* at = step.name.data() + step.name.size();
     if (*at != '>') return e_step::declined;
-    s_value value;  // NOLINT(clang-analyzer-optin.cplusplus.UninitializedObject): set where one is read
+    s_plain_value value;  // NOLINT(clang-analyzer-optin.cplusplus.UninitializedObject): set where one is read
     int line_feeds = step.line_feeds;
-    at = read_value(row, at + 1, '<', &value, &line_feeds);
+    at = m_values.read(row, at + 1, m_end, '<', &value, &line_feeds);
     if (at != nullptr) at = take_end_tag(at, step.name);
     if (at == nullptr) return e_step::declined;
     const int line = m_reader.get_text_line() + m_line_feeds + step.line_feeds;
     commit(object, step, at, line_feeds);
-    store(level, row, object, value);
+    m_values.store(level, row, object, value);
     note_tag(step.name, line);
     note_value(row, value);
     note_item(m_reader, row);
@@ -544,19 +424,18 @@ PLAIN_WAY_APART bool c_plain_way::enter_class(const s_class& child, const s_item
     const bool is_child = row.kind == item_kind::child || row.kind == item_kind::optional_child;
     const void* const present = is_child ? child_of(row, object) : nullptr;
     if (present != nullptr && is_nil(child, present)) return false;
-    s_start_tag tag;
+    s_leaf leaf;  // NOLINT(clang-analyzer-optin.cplusplus.UninitializedObject): set where it is read
+    s_start_tag& tag = leaf.tag;
     if (!read_start_tag(child, present, step.name.data(), step.name.size(), &tag)) return false;
     entered->begin = {m_reader.get_text_line() + m_line_feeds + step.line_feeds,
                       m_reader.get_offset() + static_cast<std::uint64_t>(step.name.data() - m_start)};
     int line_feeds = step.line_feeds + tag.line_feeds;
     const bool is_simple = child.content == content_kind::simple;
     const char* behind = tag.behind;
-    s_value content;  // NOLINT(clang-analyzer-optin.cplusplus.UninitializedObject): set where one is read
-    const s_item* content_row = nullptr;
     if (is_simple) {
         if (tag.is_closed) return false;
-        content_row = &content_owner(child).elements.front();
-        behind = read_value(*content_row, behind, '<', &content, &line_feeds);
+        leaf.row = &content_owner(child).elements.front();
+        behind = m_values.read(*leaf.row, behind, m_end, '<', &leaf.value, &line_feeds);
         if (behind != nullptr) behind = take_end_tag(behind, step.name);
         if (behind == nullptr) return false;
     } else if (tag.is_closed) {
@@ -566,6 +445,7 @@ PLAIN_WAY_APART bool c_plain_way::enter_class(const s_class& child, const s_item
     }
     entered->has_children = !is_simple && !tag.is_closed;
 
+    const std::string_view text(m_at, static_cast<std::size_t>(behind - m_at));
     commit(object, step, behind, line_feeds);
     if (member != nullptr) note_item(m_reader, row);
     if (step.found.level->content == content_kind::choice) {
@@ -574,13 +454,71 @@ PLAIN_WAY_APART bool c_plain_way::enter_class(const s_class& child, const s_item
     } else {
         entered->object = make_child(row, member, object);
     }
-    note_tag(tag.text, entered->begin.line);
-    store_attributes(child, entered->object, tag);
-    if (is_simple) {
-        store(content_owner(child), *content_row, entered->object, content);
-        note_value(*content_row, content);
+    store_leaf(child, entered->object, leaf, entered->begin.line);
+    if (is_simple && row.kind == item_kind::child_list && line_feeds == step.line_feeds) {
+        take_alike(child, row, object, text, line_feeds, &leaf);
     }
     return true;
+}
+
+void c_plain_way::store_leaf(const s_class& child, void* entry, const s_leaf& leaf, int line) {
+    note_tag(leaf.tag.text, line);
+    store_attributes(child, entry, leaf.tag);
+    if (leaf.row == nullptr) return;
+    m_values.store(content_owner(child), *leaf.row, entry, leaf.value);
+    note_value(*leaf.row, leaf.value);
+}
+
+/// Takes the entries of a list that differ from the one before in their values only, as the points of a spectrum do.
+/// `text` is the one that was taken, with the white space ahead of it, and `leaf` what was found in it.
+PLAIN_WAY_APART void c_plain_way::take_alike(const s_class& child, const s_item& row, void* object,
+                                             std::string_view text, int feeds_ahead, s_leaf* leaf) {
+    s_start_tag& tag = leaf->tag;
+    auto& list = member<c_list_base>(object, row.offset);
+    const std::size_t ahead = static_cast<std::size_t>(tag.text.data() - text.data());
+    // What stands ahead of each value and behind the last.
+    std::string_view pieces[s_start_tag::k_most_attributes + 2];
+    const char* from = text.data();
+    const auto end_piece = [&from](const s_plain_value& value) {
+        const std::string_view piece(from, static_cast<std::size_t>(value.begin - from));
+        from = value.end;
+        return piece;
+    };
+    for (std::size_t i = 0; i < tag.count; ++i) pieces[i] = end_piece(tag.attributes[i].value);
+    pieces[tag.count] = end_piece(leaf->value);
+    pieces[tag.count + 1] = {from, static_cast<std::size_t>(text.data() + text.size() - from)};
+
+    for (;;) {
+        const char* at = m_at;
+        int line_feeds = feeds_ahead;
+        const auto take_piece = [&](std::string_view piece) {
+            const bool is_there =
+                static_cast<std::size_t>(m_end - at) >= piece.size() && is_same(at, piece.data(), piece.size());
+            if (is_there) at += piece.size();
+            return is_there;
+        };
+        const auto take = [&](std::size_t i, const s_item& value_row, s_plain_value* value) {
+            if (!take_piece(pieces[i])) return false;
+            at = m_values.read(value_row, at, m_end, pieces[i + 1].front(), value, &line_feeds);
+            return at != nullptr;
+        };
+        std::size_t taken = 0;
+        for (; taken < tag.count; ++taken) {
+            s_attribute& attribute = tag.attributes[taken];
+            if (!take(taken, *attribute.row, &attribute.value)) break;
+            attribute.name = attribute.value.begin - attribute.row->name.size() - 2;
+        }
+        if (taken < tag.count || !take(taken, *leaf->row, &leaf->value) || !take_piece(pieces[taken + 1])) break;
+
+        const char* const name = m_at + ahead;
+        tag.text = {name, static_cast<std::size_t>(leaf->value.begin - 1 - name)};
+        const int line = m_reader.get_text_line() + m_line_feeds + feeds_ahead;
+        m_at = at;
+        m_line_feeds += line_feeds;
+        if (m_last_list.row == &row) list.expect(m_last_list.size, child.operations->stored);
+        store_leaf(child, list.append(child.operations->stored), *leaf, line);
+    }
+    m_last_list = {&row, list.size()};
 }
 
 }  // namespace lmx

@@ -13,10 +13,10 @@
 
 #include <cstddef>
 #include <cstdint>
-#include <string>
 #include <string_view>
 
 #include "lmx/binding/place.h"
+#include "lmx/binding/plain_value.h"
 #include "lmx/binding/table.h"
 #include "lmx/error.h"
 #include "lmx/reader/string_stack.h"
@@ -40,7 +40,7 @@ public:
     };
 
     /// Takes nothing.
-    explicit c_plain_way(c_xml_reader& reader) : m_reader(reader) {}
+    explicit c_plain_way(c_xml_reader& reader) : m_reader(reader), m_values(reader) {}
     /// For the content of an element whose start tag was read as events. `name` is the element's.
     c_plain_way(c_xml_reader& reader, const s_class& type, std::string_view name);
     c_plain_way(const c_plain_way&) = delete;
@@ -53,9 +53,9 @@ public:
                       elmx_error* error);
 
 private:
-    struct s_value;
     struct s_attribute;
     struct s_start_tag;
+    struct s_leaf;
     /// An element of a class whose start tag was taken.
     struct s_entered {
         void* object;
@@ -77,6 +77,9 @@ private:
     e_step take_simple(void* object, s_step& step);
     e_step take_class(const s_class& child, const s_item* member, void* object, s_step& step);
     bool enter_class(const s_class& child, const s_item* member, void* object, s_step& step, s_entered* entered);
+    void store_leaf(const s_class& child, void* entry, const s_leaf& leaf, int line);
+    void take_alike(const s_class& child, const s_item& row, void* object, std::string_view ahead, int feeds_ahead,
+                    s_leaf* leaf);
     static void* make_child(const s_item& row, const s_item* member, void* object);
 
     const char* take_end_tag(const char* at, std::string_view name) const;
@@ -86,17 +89,11 @@ private:
     bool has_required(const s_class& type, const void* object, const s_start_tag& tag) const;
     void store_attributes(const s_class& type, void* object, const s_start_tag& tag);
 
-    const char* read_value(const s_item& row, const char* at, char stop, s_value* value, int* line_feeds);
-    const char* read_other_value(const s_item& row, const char* at, char stop, s_value* value, int* line_feeds);
-    const char* find_stop(const char* at, char stop, bool* is_ascii, int* line_feeds) const;
-    bool is_right(const s_item& row, std::string_view text);
-    void store(const s_class& type, const s_item& row, void* object, const s_value& value);
-    void store_other(const s_item& row, void* storage, const s_value& value);
-
     void note_tag(std::string_view text, int line);
-    void note_value(const s_item& row, const s_value& value);
+    void note_value(const s_item& row, const s_plain_value& value);
 
     c_xml_reader& m_reader;
+    c_plain_values m_values;
     char m_prefix[24];  ///< with its colon
     std::size_t m_prefix_size = 0;
     bool m_is_possible = false;  ///< elements with the prefix are those of the tables
@@ -106,8 +103,12 @@ private:
     const char* m_end = nullptr;
     int m_line_feeds = 0;   ///< in what was taken
     unsigned m_misses = 0;  ///< attempts since an item was taken
+    /// The list that last got entries that are alike, and how many it has: the next one mostly gets as many.
+    struct {
+        const s_item* row = nullptr;
+        std::size_t size = 0;
+    } m_last_list;
     s_plain_trace m_trace;
-    std::string m_text;  ///< of a value that is checked or converted the long way
 };
 
 }  // namespace lmx

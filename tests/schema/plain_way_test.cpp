@@ -164,6 +164,17 @@ const std::string k_parent =
 const std::string k_averaging = "<Vyr:Averaging AveragingValue=\"3\">true</Vyr:Averaging>";
 const std::string k_text = "<Vyr:TextValue>x</Vyr:TextValue>";
 
+/// A spectrum with one point that differs from the others.
+std::string spectrum(const std::string& odd) {
+    const auto point = [](int wavelength) {
+        return "\n\t<Vyr:ReflectancePoint Wavelength=\"" + std::to_string(wavelength) +
+               "\">0.25</Vyr:ReflectancePoint>";
+    };
+    return k_date + "<Vyr:ColorSpaceSpecificationSpectrumSpectral xsi:nil=\"true\"/>" + point(400) + point(410) +
+           odd + point(420) + point(430);
+}
+const std::string k_point = "\n\t<Vyr:ReflectancePoint Wavelength=";
+
 const std::vector<s_case>& cases() {
     static const std::vector<s_case> all = {
         // What is empty, with an end tag of its own.
@@ -207,6 +218,18 @@ const std::vector<s_case>& cases() {
           "<Vyr:ChangeHistory>&#50;024-05-01T09:30:00Z</Vyr:ChangeHistory><!-- -->" + k_nil +
               "<!-- --><Vyr:L>&#53;</Vyr:L><Vyr:A>&#53;</Vyr:A><Vyr:B>&#53;</Vyr:B><Vyr:Hue>&#53;</Vyr:Hue>" +
               k_text + k_lab_end}},
+        // Entries that are alike but for their values, and one that isn't.
+        {"ColorSpaceSpectral",
+         {spectrum(k_point + "\"x\">1</Vyr:ReflectancePoint>"), spectrum(k_point + "\"5\">-1</Vyr:ReflectancePoint>"),
+          spectrum(k_point + "\"5&#48;\">\n1\n</Vyr:ReflectancePoint>"),
+          spectrum(k_point + "' 5\n'>1 </Vyr:ReflectancePoint>"),
+          spectrum(k_point + "\"5\" >1</Vyr:ReflectancePoint >"),
+          spectrum(k_point + "\"5\"\n>1</Vyr:ReflectancePoint\n>"),
+          spectrum(k_point + "\"5\" Wavelength=\"6\">1</Vyr:ReflectancePoint>"), spectrum(k_point + "\"5\"/>"),
+          spectrum(k_point + "\"5\">1</Vyr:Reflectance>"),
+          spectrum("<!-- -->" + k_point + "\"5\">1<!-- --></Vyr:ReflectancePoint>\r\n\t"),
+          spectrum("\n\t<Vyr:ReflectancePoint>1</Vyr:ReflectancePoint>x"), spectrum("\n\t<Vyr:ReflectancePoints/>"),
+          spectrum("</Vyr:ColorSpaceSpectral>"), spectrum("")}},
         {"TagValue",
          {"<Vyr:Tag Name='\xC3\xA9\xE2\x80\xA8\n' UniqueID=\"<>'\"/>", "<Vyr:Tag Name='\xC3' UniqueID='\t'/>",
           "<Vyr:Tag Name='a' Name='b'/>", "<Vyr:Tag Name='a'UniqueID='b'><Vyr:Category/></Vyr:Tag>" + k_text}},

@@ -83,6 +83,7 @@ TYPED_TEST(Lists, KeepTheirEntriesWhereTheyAre) {
                 list.erase(victim);
                 expected.erase(expected.begin() + static_cast<std::ptrdiff_t>(victim));
             } else {
+                list.expect(random() % 200, lmx::k_stored_type<TypeParam>);
                 const std::size_t place = random() % 2 == 0 ? expected.size() : index;
                 // At or beyond the end means the same.
                 TypeParam& entry = place < expected.size() ? list.insert(place) : list.insert(place + random() % 3);
