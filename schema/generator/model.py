@@ -36,22 +36,16 @@ class SimpleType:
 
     def facets(self):
         """The facets as a text, empty without any."""
-        parts = []
-        if self.minimum is not None:
-            parts.append(f"{'>' if self.minimum_exclusive else '>='} {self.minimum}")
-        if self.maximum is not None:
-            parts.append(f"{'<' if self.maximum_exclusive else '<='} {self.maximum}")
-        if self.setter_skips_minimum:
-            parts.append("setter skips minimum")
-        if self.minimum_length:
-            parts.append(f"length >= {self.minimum_length}")
-        if self.maximum_length is not None:
-            parts.append(f"length <= {self.maximum_length}")
-        if self.pattern is not None:
-            parts.append(f"pattern {self.pattern}")
-        if self.enumeration:
-            parts.append("one of " + "|".join(self.enumeration))
-        return ", ".join(parts)
+        parts = {
+            f"{'>' if self.minimum_exclusive else '>='} {self.minimum}": self.minimum is not None,
+            f"{'<' if self.maximum_exclusive else '<='} {self.maximum}": self.maximum is not None,
+            "setter skips minimum": self.setter_skips_minimum,
+            f"length >= {self.minimum_length}": self.minimum_length,
+            f"length <= {self.maximum_length}": self.maximum_length is not None,
+            f"pattern {self.pattern}": self.pattern is not None,
+            "one of " + "|".join(self.enumeration): self.enumeration,
+        }
+        return ", ".join(text for text, is_there in parts.items() if is_there)
 
 
 @dataclass(frozen=True)
@@ -123,9 +117,6 @@ class Model:
     simple_types: tuple
     topics: tuple
 
-    def __getitem__(self, name):
-        return next(c for c in self.classes if c.name == name)
-
 
 def plural(name):
     """The English plural of a name; what is one already stays."""
@@ -147,21 +138,34 @@ BUILT_IN = {
     "integer": SimpleType("xs:integer", "integer", True),
 }
 INTEGER_RANGES = (("uint8", 0, 2**8 - 1), ("uint32", 0, 2**32 - 1), ("int32", -(2**31), 2**31 - 1))
+# Facet of the schema -> what it sets.
+FACETS = {
+    "minInclusive": lambda value: {"minimum": value},
+    "minExclusive": lambda value: {"minimum": value, "minimum_exclusive": True},
+    "maxInclusive": lambda value: {"maximum": value},
+    "maxExclusive": lambda value: {"maximum": value, "maximum_exclusive": True},
+    "minLength": lambda value: {"minimum_length": int(value)},
+    "maxLength": lambda value: {"maximum_length": int(value)},
+    "pattern": lambda value: {"pattern": value},
+}
 REQUIRED = ("demanded", "asked", "written", "copied")
+
+
+def has_own_class(element):
+    """True for an element whose type is nested in it, or whose nil state makes it more than its type."""
+    return element.get("type") is None or element.get("nillable") == "true"
 
 
 class Builder:
     """Reads the schema into classes. Order is the schema's: an outer class stands ahead of its nested ones."""
 
     def __init__(self, root: Node, overlay: Overlay):
-        self.root = root
-        self.overlay = overlay
-        self.classes = {}
+        self.root, self.overlay = root, overlay
         root.check("targetNamespace elementFormDefault attributeFormDefault version", "element complexType simpleType")
         self.types = self.index("complexType")
         self.simple_nodes = self.index("simpleType")
         self.elements = self.index("element")
-        self.simple_types = {}
+        self.classes, self.simple_types = {}, {}
         self.members = {}  # head of a substitution group -> its members
         for node in self.elements.values():
             if head := node.get("substitutionGroup"):
@@ -184,14 +188,22 @@ class Builder:
             found[name] = node
         return found
 
-    # Simple types
-
     def doc(self, node):
         annotation = node.only("annotation")
         text = "" if annotation is None else " ".join("".join(d.text for d in annotation.children).split())
         if not text:
             raise node.error(f"xs:{node.tag} {node.get('name', node.get('ref', ''))} has no documentation")
         return text
+
+    def options(self, table, key, *allowed):
+        """The overlay's options for a class or item, all of them known."""
+        found = self.overlay.take(table, key, {})
+        for option in found:
+            if option not in allowed:
+                raise self.overlay.error(table, key, f"the option '{option}' is not known in [{table}]")
+        return found
+
+    # Simple types
 
     def simple_type(self, node, name):
         """The simple type of a name as written in the schema, or None if that's a complex type."""
@@ -214,29 +226,22 @@ class Builder:
         restriction = node.only("restriction")
         if restriction is None:
             raise node.error("a simple type must be a restriction")
-        restriction.check("base", "enumeration pattern minInclusive minExclusive maxInclusive maxExclusive "
-                          "minLength maxLength")
+        restriction.check("base", "enumeration " + " ".join(FACETS))
         base = self.simple_type(restriction, restriction.get("base"))
         if base is None or not base.name.startswith("xs:"):
             raise restriction.error("only built-in types can be restricted")
         texts = restriction.all("enumeration")
-        facets = {"enumeration": tuple(f.get("value") for f in texts),
-                  "enumeration_docs": tuple(self.doc(f) for f in texts)}
+        facets = {"enumeration": tuple(text.get("value") for text in texts),
+                  "enumeration_docs": tuple(self.doc(text) for text in texts)}
         for facet in restriction.children:
             facet.check("value", "annotation" if facet.tag == "enumeration" else "")
-            tag, value = facet.tag, facet.get("value", "")
-            if tag not in ("enumeration", "pattern") and not re.fullmatch(r"-?\d+(\.\d+)?", value):
+            value = facet.get("value", "")
+            if facet.tag not in ("enumeration", "pattern") and not re.fullmatch(r"-?\d+(\.\d+)?", value):
                 raise facet.error(f"'{value}' is no plain decimal number")
-            if tag in ("minInclusive", "minExclusive"):
-                facets |= {"minimum": value, "minimum_exclusive": tag == "minExclusive"}
-            elif tag in ("maxInclusive", "maxExclusive"):
-                facets |= {"maximum": value, "maximum_exclusive": tag == "maxExclusive"}
-            elif tag in ("minLength", "maxLength"):
-                facets[tag.replace("Length", "imum_length")] = int(value)
-            elif tag == "pattern":
-                facets["pattern"] = value
-        keys = self.options("facets", node.get("name"), ("setter_skips_minimum", "pattern_takes_zoned"))
-        made = replace(base, name=node.get("name"), doc=self.doc(node), **facets, **keys)
+            if facet.tag in FACETS:
+                facets |= FACETS[facet.tag](value)
+        facets |= self.options("facets", node.get("name"), "setter_skips_minimum", "pattern_takes_zoned")
+        made = replace(base, name=node.get("name"), doc=self.doc(node), **facets)
         return replace(made, value=self.integer_kind(node, made)) if base.value == "integer" else made
 
     def integer_kind(self, node, made):
@@ -247,14 +252,6 @@ class Builder:
                     return kind
         raise node.error("an integer type needs bounds within 32 bits")
 
-    def options(self, table, key, allowed):
-        """The overlay's options for a class or item, all of them known."""
-        found = self.overlay.take(table, key, {})
-        for option in found:
-            if option not in allowed:
-                raise self.overlay.error(table, key, f"the option '{option}' is not known in [{table}]")
-        return found
-
     # Classes
 
     def build(self):
@@ -262,98 +259,83 @@ class Builder:
             name = node.get("name")
             if node.tag == "complexType":
                 node.check("name abstract", "annotation sequence choice attribute complexContent simpleContent")
-                self.add_class(name, node, node, named=True, abstract=node.get("abstract") == "true",
-                               qualified_name=PREFIX + name)
+                self.complex_class(name, node, self.doc(node), named=True, abstract=node.get("abstract") == "true",
+                                   qualified_name=PREFIX + name)
             elif node.tag == "element":
                 self.global_element(node)
-            elif name not in self.simple_types:
+            else:
                 self.simple_type(node, name)
+
+    def add(self, node, name, *fields, **options):
+        """A class; one that is known by its place only, without fields, gets them later."""
+        if fields and self.classes.get(name) is None:
+            self.classes[name] = Class(name, *fields, **options)
+        elif name not in self.classes:
+            self.classes[name] = None
+        else:
+            raise node.error(f"a second class {name}: name one of them in the overlay")
 
     def global_element(self, node):
         node.check("name type abstract nillable substitutionGroup", "annotation complexType")
         name = node.get("name")
-        options = {"element": name, "is_document": node.get("abstract") != "true", "qualified_name": PREFIX + name}
-        if node.get("type") is None:
-            self.element_class(name, node, **options)
-        elif node.get("type") not in self.types:
+        if node.get("type") is not None and node.get("type") not in self.types:
             raise node.error("a global element must have a complex type")
-        elif self.is_nillable(node):
-            self.element_class(name, node, **options)
-        else:
-            self.add(Class(name, self.doc(node), "", base=node.get("type"), wrapper=True, **options), node)
-        if name in self.members or name in (n.get("substitutionGroup") for n in self.elements.values()):
-            self.add_holder(node)
+        self.element_class(name, node, wrapper=not has_own_class(node), element=name,
+                           is_document=node.get("abstract") != "true")
+        if name in self.members:
+            self.holder(node)
 
-    def add_holder(self, head):
+    def holder(self, head):
         """The class that holds one member of a substitution group; the head itself is one unless abstract."""
-        name = head.get("name")
-        elements = ([] if head.get("abstract") == "true" else [head]) + self.members[name]
         items = []
-        for node in elements:
-            demanded = self.types[node.get("type")].get("abstract") == "true"
-            items.append(Item("alternative", node.get("name"), node.get("name"), self.doc(node), type=node.get("type"),
-                              minimum=0, use=("demanded",) if demanded else ()))
-        self.add(Class("sg_" + name, f"One element of the group {name}: which, and its value.", "group", "sg_" + name,
-                       elements=tuple(items), inline=True, topic=self.topics.get(name, "")), head)
-
-    def add(self, made, node):
-        if made.name in self.classes:
-            raise node.error(f"a second class {made.name}: name one of them in the overlay")
-        self.classes[made.name] = made
+        for node in [head] * (head.get("abstract") != "true") + self.members[head.get("name")]:
+            name, type_name = node.get("name"), node.get("type")
+            use = ("demanded",) if self.types[type_name].get("abstract") == "true" else ()
+            items.append(Item("alternative", name, name, self.doc(node), type=type_name, minimum=0, use=use))
+        name = head.get("name")
+        self.add(head, "sg_" + name, f"One element of the group {name}: which, and its value.", "group", "sg_" + name,
+                 elements=tuple(items), inline=True, topic=self.topics.get(name, ""))
 
     def element_class(self, name, node, **options):
-        """The class of an element whose type is nested in it, or whose nil state makes it more than its type."""
-        nested = node.only("complexType")
-        nillable = self.is_nillable(node)
-        if nested is not None:
+        options |= {"nillable": node.get("nillable") == "true", "qualified_name": PREFIX + node.get("name")}
+        if nested := node.only("complexType"):
             nested.check("", "annotation sequence choice attribute simpleContent")
-            self.add_class(name, nested, nested, nillable=nillable, **options)
-            return
-        simple = self.simple_type(node, node.get("type"))
-        made = Class(name, self.doc(node), "simple", nillable=nillable, **options)
-        if simple is None:
-            made = replace(made, content="", base=node.get("type"))
+            self.complex_class(name, nested, self.doc(nested), **options)
+        elif simple := self.simple_type(node, node.get("type")):
+            content = self.finish(name, Item("content", "", name, self.doc(node), simple))
+            self.add(node, name, content.doc, "simple", elements=(content,), **options)
         else:
-            made = replace(made, elements=(self.finish(name, Item("content", "", name, made.doc, simple)),))
-        self.add(made, node)
+            self.add(node, name, self.doc(node), "", base=node.get("type"), **options)
 
-    def is_nillable(self, node):
-        return node.get("nillable") == "true"
-
-    def add_class(self, name, node, documented, **options):
-        options = {**options, **self.options("classes", name, (
-            "may_be_empty", "derives_from_group", "init", "declarations"))}
+    def complex_class(self, name, node, doc, **options):
+        """The class of a complex type, which stands ahead of those nested in it."""
+        options |= self.options("classes", name, "may_be_empty", "derives_from_group", "init", "declarations")
         options["declarations"] = tuple((d["text"], d["doc"]) for d in options.get("declarations", ()))
-        self.add(Class(name, self.doc(documented), "empty", **options), node)
-        attributes = node
-        if content := node.only("simpleContent", "complexContent"):
-            content.check("", "extension")
-            extension = content.only("extension")
-            extension.check("base", "annotation attribute sequence")
-            attributes = extension
-            if content.tag == "simpleContent":
-                simple = self.simple_type(extension, extension.get("base"))
-                if simple is None:
-                    raise extension.error("simple content must extend a simple type")
-                item = Item("content", "", name, self.doc(extension), simple)
-                self.update(name, content="simple", elements=(self.finish(name, item),))
-            elif extension.get("base") not in self.types:
-                raise extension.error("complex content must extend a named complex type")
+        self.add(node, name)
+        base, content, elements, body = None, "empty", (), node
+        if extended := node.only("simpleContent", "complexContent"):
+            extended.check("", "extension")
+            body = extended.only("extension")
+            body.check("base", "annotation attribute sequence")
+            base = body.get("base")
+            if extended.tag == "complexContent":
+                if base not in self.types:
+                    raise body.error("complex content must extend a named complex type")
+            elif simple := self.simple_type(body, base):
+                base, content = None, "simple"
+                elements = (self.finish(name, Item("content", "", name, self.doc(body), simple)),)
             else:
-                self.update(name, base=extension.get("base"))
-        if sequence := attributes.only("sequence"):
-            self.update(name, content="children", elements=tuple(self.sequence(name, sequence)))
-        elif choice := attributes.only("choice"):
-            self.update(name, content="choice", elements=tuple(self.choice(name, choice)))
-        self.update(name, attributes=tuple(self.attribute(name, a) for a in attributes.all("attribute")))
-        made = self.classes[name]
-        if made.derives_from_group:
-            if len(made.elements) != 1 or made.elements[0].kind != "group":
+                raise body.error("simple content must extend a simple type")
+        if sequence := body.only("sequence"):
+            content, elements = "children", self.sequence(name, sequence)
+        elif choice := body.only("choice"):
+            content, elements = "choice", self.choice(name, choice)
+        attributes = tuple(self.attribute(name, attribute) for attribute in body.all("attribute"))
+        if options.get("derives_from_group"):
+            if [item.kind for item in elements] != ["group"]:
                 raise node.error(f"class {name} has other items than one group")
-            self.update(name, base=made.elements[0].type)
-
-    def update(self, name, **changes):
-        self.classes[name] = replace(self.classes[name], **changes)
+            base = elements[0].type
+        self.add(node, name, doc, content, base=base, attributes=attributes, elements=tuple(elements), **options)
 
     # Items
 
@@ -377,32 +359,31 @@ class Builder:
 
     def sequence(self, owner, node):
         node.check("", "element any choice")
-        for child in node.children:
-            if child.tag == "element":
-                yield self.element(owner, child)
-            elif child.tag == "any":
-                child.check("namespace processContents minOccurs maxOccurs", "annotation")
-                if child.get("namespace") != "##any" or child.get("processContents") != "skip":
-                    raise child.error("a wildcard must take any element and skip its content")
-                item = Item("any", "", "any", self.doc(child), **self.occurrence(child))
-                if not item.repeats or len(node.children) > 1:
-                    raise child.error("a wildcard must be repeating and all of the content")
-                yield self.finish(owner, item)
-            else:
-                yield self.inline_choice(owner, child)
+        make = {"element": self.element, "any": self.open_content, "choice": self.inline_choice}
+        items = [self.finish(owner, make[child.tag](owner, child)) for child in node.children]
+        for child, item in zip(node.children, items):
+            if item.kind == "any" and (not item.repeats or len(items) > 1):
+                raise child.error("a wildcard must be repeating and all of the content")
+        return items
+
+    def open_content(self, owner, node):
+        node.check("namespace processContents minOccurs maxOccurs", "annotation")
+        if node.get("namespace") != "##any" or node.get("processContents") != "skip":
+            raise node.error("a wildcard must take any element and skip its content")
+        return Item("any", "", "any", self.doc(node), **self.occurrence(node))
 
     def inline_choice(self, owner, node):
         """Alternatives among other items make a class without an element, named after the first of them."""
         node.check("", "annotation element")
         name = "anon_" + node.all("element")[0].get("name", "")
-        self.add(Class(name, self.doc(node), "choice", "", inline=True, local=True), node)
-        self.update(name, elements=tuple(self.choice(name, node)))
-        return self.finish(owner, Item("group", "", name, self.doc(node), type=name))
+        self.add(node, name)
+        self.add(node, name, self.doc(node), "choice", "", elements=tuple(self.choice(name, node)), inline=True, local=True)
+        return Item("group", "", name, self.doc(node), type=name)
 
     def choice(self, owner, node):
         node.check("", "annotation element")
         for child in node.all("element"):
-            item = self.element(owner, child)
+            item = self.finish(owner, self.element(owner, child))
             if item.kind not in ("element", "child") or item.minimum != 1:
                 raise child.error("an alternative must be one plain element")
             yield replace(item, kind="alternative", minimum=0, use=())
@@ -410,118 +391,93 @@ class Builder:
     def element(self, owner, node):
         if node.get("ref") is not None:
             node.check("ref minOccurs maxOccurs", "annotation")
-            return self.reference(owner, node)
+            return self.reference(node)
         node.check("name type nillable minOccurs maxOccurs", "annotation complexType")
         name = node.get("name")
         item = Item("element", name, name, self.doc(node), **self.occurrence(node))
-        if node.get("type") is None or self.is_nillable(node):
+        if has_own_class(node):
             type_name = self.overlay.take("class_names", f"{owner}/{name}", name)
-            self.element_class(type_name, node, local=True, qualified_name=PREFIX + name)
-            return self.finish(owner, replace(item, type=type_name))
+            self.element_class(type_name, node, local=True)
+            return replace(item, type=type_name)
         simple = self.simple_type(node, node.get("type"))
-        return self.finish(owner, replace(item, value=simple, type=None if simple else node.get("type")))
+        return replace(item, value=simple, type=None if simple else node.get("type"))
 
-    def reference(self, owner, node):
+    def reference(self, node):
         name = node.get("ref")
         if name not in self.elements:
             raise node.error(f"there is no global element {name}")
         item = Item("element", name, name, self.doc(node), **self.occurrence(node))
-        target = self.elements[name]
         if name in self.members:
-            return self.finish(owner, replace(item, kind="group", type="sg_" + name))
-        plain = target.get("type") is not None and not self.is_nillable(target)
-        return self.finish(owner, replace(item, type=target.get("type") if plain else name))
+            return replace(item, kind="group", type="sg_" + name)
+        target = self.elements[name]
+        return replace(item, type=name if has_own_class(target) else target.get("type"))
 
     def finish(self, owner, item):
         """Settles an item's kind and use, and applies what the overlay says of it."""
         name = f"{owner}.{item.name}"
-        options = self.options("items", name, ("use", "presence", "marker", "initial", "mutable"))
-        kind = item.kind
-        if kind == "element" and item.type is not None:
-            kind = "child"
-        if item.repeats and kind != "any":
-            kind += "_list"
-        use, presence = (), False
-        if item.repeats:
-            use = ("demanded", "asked") if item.minimum else ()
-        elif item.minimum:
-            use = REQUIRED
-        else:
-            presence = True
-        if options.get("marker"):
-            if kind != "child" or item.repeats:
-                raise self.overlay.error("items", name, "only a single child can be a marker")
-            item, kind, presence = replace(item, accessor=""), "marker", False
+        options = self.options("items", name, "use", "presence", "marker", "initial", "mutable")
+        kind = "child" if item.kind == "element" and item.type is not None else item.kind
+        if options.get("marker") and (kind != "child" or item.repeats):
+            raise self.overlay.error("items", name, "only a single child can be a marker")
         for word in options.get("use", ()):
             if word not in (*REQUIRED, "lax"):
                 raise self.overlay.error("items", name, f"'{word}' is no use of an item")
         if options.get("initial") is not None and item.value is None:
             raise self.overlay.error("items", name, "only a simple item can have an initial value")
-        use = options.get("use", use)
-        if kind == "child" and not use:
+        use = () if not item.minimum else ("demanded", "asked") if item.repeats else REQUIRED
+        settled = {"use": use, "presence": not item.repeats and not item.minimum, "initial": item.initial, **options}
+        if settled.pop("marker", False):
+            kind, settled["presence"], item = "marker", False, replace(item, accessor="")
+        elif item.repeats and kind != "any":
+            kind += "_list"
+        elif kind == "child" and not settled["use"]:
             kind = "optional_child"
-        return replace(item, kind=kind, use=tuple(use),
-                       presence=options.get("presence", presence), initial=options.get("initial", item.initial),
-                       mutable=options.get("mutable", False))
+        return replace(item, kind=kind, **settled | {"use": tuple(settled["use"])})
 
     # What follows from the whole
 
     def model(self):
         self.build()
-        self.name_for_packages()
+        self.owners = {item.type: made for made in self.classes.values() for item in made.items}
+        self.families = {made.base for made in self.classes.values() if made.named}
+        classes = tuple(self.complete(made) for made in self.classes.values())
         self.overlay.check_all_used()
-        for made in list(self.classes.values()):
-            content = made
-            while not content.content or (content.content == "empty" and content.base):
-                content = self.classes[content.base]
-            self.update(made.name, content=content.content,
-                        may_be_empty=made.may_be_empty or self.can_be_empty(self.classes[made.name]))
-        self.keep_families()
-        self.set_topics()
-        self.check_enumerations()
-        return Model(self.root.get("targetNamespace"), tuple(self.classes.values()),
-                     tuple(self.simple_types.values()), tuple(self.overlay.table("topics")))
+        self.check_enumerations(classes)
+        return Model(self.root.get("targetNamespace"), classes, tuple(self.simple_types.values()),
+                     tuple(self.overlay.table("topics")))
+
+    def complete(self, made):
+        """A class with what the others decide, and with the names that typed packages give to it and its items."""
+        content, topic = made, self.topic(made)
+        while not content.content or (content.content == "empty" and content.base):
+            content = self.classes[content.base]
+        if not topic:
+            raise SchemaError(self.overlay.file, self.overlay.lines.get("topics", 0), f"class {made.name} has no topic")
+        prefix, _, rest = made.name.partition("_")
+        name = f"{rest}Choice" if prefix in ("sg", "anon") else made.name
+        return replace(
+            made, content=content.content, topic=topic, may_be_empty=made.may_be_empty or self.can_be_empty(made),
+            # Only types that derive from another or are derived from have an identity.
+            named=made.named and (made.base is not None or made.name in self.families),
+            attributes=tuple(self.name_item(made, item) for item in made.attributes),
+            elements=tuple(self.name_item(made, item) for item in made.elements),
+            package_name=self.overlay.take("package_classes", made.name, name))
 
     def can_be_empty(self, made):
         """True for a sequence, with those of the bases, in which nothing is mandatory."""
         items, step = [], made
-        while step is not None and not made.derives_from_group:
-            if step.content not in ("children", "", "empty"):
+        while step is not None:
+            if step.content not in ("children", "", "empty") or step.derives_from_group:
                 return False
             items += step.elements
-            step = self.classes[step.base] if step.base else None
-        return bool(items) and all(item.minimum == 0 for item in items) and made.content != "group"
+            step = self.classes.get(step.base)
+        return bool(items) and all(item.minimum == 0 for item in items)
 
-    def keep_families(self):
-        """`named` stays with the types that derive from another named type or are derived from."""
-        bases = {c.base for c in self.classes.values() if c.named and c.base}
-        for made in list(self.classes.values()):
-            self.update(made.name, named=made.named and (made.base is not None or made.name in bases))
-
-    def set_topics(self):
-        owner = {item.type: made.name for made in self.classes.values() for item in made.items
-                 if self.classes.get(item.type) and (self.classes[item.type].local or item.kind == "marker")}
-        for made in list(self.classes.values()):
-            name = made.name
-            while name is not None and not made.topic:
-                step = self.classes[name]
-                topic = step.topic or (None if step.local else self.topics.get(name))
-                if topic and not (step is made and step.wrapper):
-                    self.update(made.name, topic=topic)
-                    break
-                name = owner.get(name) if step.local else step.base
-            if not self.classes[made.name].topic:
-                raise SchemaError(self.overlay.file, self.overlay.lines.get("topics", 0),
-                                  f"class {made.name} has no topic")
-
-    def name_for_packages(self):
-        """The names that typed packages give to classes and items, by rule or by the overlay."""
-        for made in self.classes.values():
-            prefix, _, rest = made.name.partition("_")
-            name = f"{rest}Choice" if prefix in ("sg", "anon") else made.name
-            parts = {part: tuple(self.name_item(made, item) for item in getattr(made, part))
-                     for part in ("attributes", "elements")}
-            self.update(made.name, package_name=self.overlay.take("package_classes", made.name, name), **parts)
+    def topic(self, made):
+        """Of a named type or a group what the overlay says; others lie with their owner or with what they derive from."""
+        found = made.topic or not (made.local or made.wrapper) and self.topics.get(made.name)
+        above = self.owners.get(made.name) if made.local else self.classes.get(made.base)
+        return found or above and self.topic(above)
 
     def name_item(self, made, item):
         key = f"{made.name}.{item.accessor}"
@@ -530,20 +486,19 @@ class Builder:
             name = self.overlay.take("package_plurals", item.accessor, plural(name))
         columns = []
         for column, number in self.overlay.take("package_columns", key, {}).items():
-            found = next((i for i in self.classes[item.type].items if number in (i.accessor, i.name)), None) \
-                if item.kind == "child_list" else None
+            entries = self.classes[item.type].items if item.kind == "child_list" else ()
+            found = next((entry for entry in entries if number in (entry.accessor, entry.name)), None)
             if found is None or found.kind == "alternative" or found.value is None or found.value.value != "number":
                 raise self.overlay.error("package_columns", key, f"'{number}' is no number of its entries")
             columns.append((column, found.accessor))
         return replace(item, package_name=self.overlay.take("package_items", key, name), columns=tuple(columns))
 
-    def check_enumerations(self):
+    def check_enumerations(self, classes):
         seen = {}
-        for made in self.classes.values():
-            for item in made.items:
-                if item.enumerated and seen.setdefault(item.accessor, item.value.enumeration) != item.value.enumeration:
-                    raise SchemaError(self.root.file, self.root.line,
-                                      f"items {item.accessor} of one name have different enumerations")
+        for item in (item for made in classes for item in made.items if item.enumerated):
+            if seen.setdefault(item.accessor, item.value.enumeration) != item.value.enumeration:
+                raise SchemaError(self.root.file, self.root.line,
+                                  f"items {item.accessor} of one name have different enumerations")
 
 
 def read_model(schema, overlay):
