@@ -112,8 +112,8 @@ const s_class* specialised(const s_item& item, std::string_view type_name) {
         if (row.name == local_name(type_name)) return row.type;
     }
     // A document may also name the type that stands there anyway.
-    const bool is_own = item.type != nullptr && item.type->xsi_type != nullptr &&
-                        local_name(item.type->xsi_type) == local_name(type_name);
+    const bool is_own = item.type != nullptr && item.type->id != nullptr &&
+                        lmx::family_member(*item.type).name == local_name(type_name);
     return is_own ? item.type : nullptr;
 }
 

@@ -140,7 +140,7 @@ elmx_error print_chosen(c_xml_writer& writer, const s_class& type, const void* o
 void print_xsi_type(c_xml_writer& writer, const s_class& type) {
     const char* const expected = writer.get_expected_class_identity();
     if (type.id == nullptr || expected == nullptr || expected == *type.id) return;
-    writer.get_output().append(" xsi:type=\"", std::string_view(type.xsi_type), "\"");
+    writer.get_output().append(" xsi:type=\"", std::string_view(family_member(type).qualified_name), "\"");
     writer.end_piece();
     writer.clear_expected_class_identity();
 }

@@ -58,7 +58,8 @@ inline void step_behind(s_place* place) {
         place->map = map;
         place->index = place->level->elements.size();
     } else {
-        place->map = is_group ? row.type->element_map : map + (place->is_entered ? row.position : row.next_position);
+        place->map =
+            is_group ? row.type->element_map : map + (place->is_entered ? row.position : row.next_position());
         if (!place->is_entered) ++place->index;
     }
 }

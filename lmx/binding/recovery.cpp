@@ -9,25 +9,12 @@
 namespace lmx {
 namespace {
 
-constexpr s_event_map k_no_names[] = {{0, nullptr, 0, 0}};
-
 /// The class of what is read over.
 constinit const s_class k_skipped_class = {
     .name = "",
     .qualified_name = "",
-    .base = nullptr,
     .content = content_kind::children,
     .may_be_empty = true,
-    .ns_map = nullptr,
-    .nil_flag = k_no_flag,
-    .choice = k_no_flag,
-    .id = nullptr,
-    .xsi_type = nullptr,
-    .attributes = {},
-    .elements = {},
-    .attribute_map = k_no_names,
-    .element_map = k_no_names,
-    .operations = nullptr,
 };
 
 bool is_open_further_out(const c_xml_reader& reader, const std::string& name) {

@@ -24,17 +24,12 @@ constexpr s_event_map element_event(std::string_view name, int token) {
     return {k_document_namespace, name.data(), name.size(), token};
 }
 
-inline constexpr s_event_map k_end_of_map = {0, nullptr, 0, 0};
-
-/// The map of a class that has no attributes or no child elements.
-inline constexpr s_event_map k_no_events[] = {k_end_of_map};
-
-/// Where a token stands in a map, plus `width` rows. A token that isn't there doesn't compile.
+/// Where a token stands in a map. A token that isn't there doesn't compile.
 template <std::size_t N>
-consteval std::uint16_t position_of(const s_event_map (&map)[N], int token, std::size_t width = 0) {
-    std::size_t position = 0;
+consteval std::uint16_t position_of(const s_event_map (&map)[N], int token) {
+    std::uint16_t position = 0;
     while (map[position].token != token || map[position].name == nullptr) ++position;
-    return static_cast<std::uint16_t>(position + width);
+    return position;
 }
 
 }  // namespace lmx

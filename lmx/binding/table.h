@@ -37,7 +37,7 @@ struct s_class;
 struct s_document;
 
 /// Raised whenever rows change their meaning: generated code asserts the value it was made for.
-inline constexpr int k_binding_version = 4;
+inline constexpr int k_binding_version = 5;
 
 /// What an item is, and with it how it's stored.
 enum class item_kind : std::uint8_t {
@@ -117,17 +117,19 @@ struct s_factory_row {
 struct s_item {
     item_kind kind;
     value_kind value;
-    std::uint8_t use;             ///< mask of `item_use`
-    elmx_whitespace whitespace;   ///< of a simple value's text
-    std::string_view name;        ///< as printed: "Name" for attributes, "Vyr:Name" for elements; null-terminated
-    int token;                    ///< of attributes and elements; 0 for content, groups and open content
-    std::uint32_t offset;         ///< of the value, object or list in the class
-    std::uint32_t flag;           ///< offset of the present flag, or `k_no_flag`
-    std::uint16_t position;       ///< of elements: this item's position in the class's element map
-    std::uint16_t next_position;  ///< the position after this item
-    const s_class* type;          ///< of children, groups and class alternatives
-    const s_facets* facets;       ///< null when there are none
-    std::span<const s_factory_row> factory;  ///< of group members that `xsi:type` may specialise
+    std::uint8_t use;               ///< mask of `item_use`
+    elmx_whitespace whitespace;     ///< of a simple value's text
+    std::string_view name;          ///< as printed: "Name" for attributes, "Vyr:Name" for elements; null-terminated
+    int token;                      ///< of attributes and elements; 0 for content, groups and open content
+    std::uint32_t offset;           ///< of the value, object or list in the class
+    std::uint32_t flag;             ///< offset of the present flag, or `k_no_flag`
+    std::uint16_t position = 0;     ///< of elements: this item's position in the class's element map
+    std::uint16_t width = 0;        ///< the rows of that map that stand for this item
+    const s_class* type = nullptr;  ///< of children, groups and class alternatives
+    const s_facets* facets = nullptr;          ///< null when there are none
+    std::span<const s_factory_row> factory{};  ///< of group members that `xsi:type` may specialise
+
+    constexpr std::size_t next_position() const { return std::size_t{position} + width; }
 };
 
 inline constexpr std::uint32_t k_no_flag = std::numeric_limits<std::uint32_t>::max();
@@ -168,12 +170,11 @@ struct s_class {
     std::uint32_t nil_flag = k_no_flag;  ///< offset of the nil flag
     std::uint32_t choice = k_no_flag;    ///< offset of the `s_choice`
     const char* const* id = nullptr;     ///< the class's identity; null outside the type families
-    const char* xsi_type = nullptr;      ///< "Vyr:ColorSpaceCMYKType": printed when another identity is expected
     std::span<const s_item> attributes{};
     std::span<const s_item> elements{};  ///< children, content, or alternatives
-    const s_event_map* attribute_map;
-    const s_event_map* element_map;  ///< each position is a suffix of it
-    const s_operations* operations;
+    const s_event_map* attribute_map = &k_end_of_map;
+    const s_event_map* element_map = &k_end_of_map;  ///< each position is a suffix of it
+    const s_operations* operations = nullptr;
 };
 
 /// The state of a choice or of a holder: which alternative lives, and the alternative.
@@ -193,6 +194,13 @@ struct s_choice {
 /// group.
 constexpr std::int32_t none_chosen(const s_class& type) {
     return static_cast<std::int32_t>(type.elements.size()) + (type.content == content_kind::group ? 1 : 0);
+}
+
+/// The class of a type family that a class stands for: itself, or the nearest base that has the identity.
+inline const s_class& family_member(const s_class& type) {
+    const s_class* member = &type;
+    while (member->base != nullptr && member->base->id == type.id) member = member->base;
+    return *member;
 }
 
 namespace detail {

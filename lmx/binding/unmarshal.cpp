@@ -201,7 +201,7 @@ bool read_event_behind(s_place* place, void* object, c_xml_reader& reader, std::
     if (!next_element(reader, place->map, name, error)) return false;
     const s_item* const group = place->group;
     close_group(place, object);
-    if (group != nullptr) tokenise_element(reader, place->level->element_map + group->next_position);
+    if (group != nullptr) tokenise_element(reader, place->level->element_map + group->next_position());
     return true;
 }
 
@@ -287,7 +287,7 @@ bool read_sequence(const s_class& type, void* object, s_place place, bool has_ev
         step_behind(&place);
         if (has_event) {
             close_group(&place, object);
-            tokenise_element(reader, place.level->element_map + item.next_position);
+            tokenise_element(reader, place.level->element_map + item.next_position());
             continue;
         }
         const auto step = plain.take_items(type, object, &place, end, error);

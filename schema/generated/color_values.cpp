@@ -24,11 +24,10 @@ namespace com_vyrgraph_v2 {
 
 using namespace lmx;  // for the tables' sake
 
-static_assert(k_binding_version == 4, "run schema/generator/generate.py");
+static_assert(k_binding_version == 5, "run schema/generator/generate.py");
 
 // ParentColorSpace
 
-namespace {
 constexpr s_event_map k_ParentColorSpace_elements[] = {
     element_event("ColorSpaceRecipe", element_ColorSpaceRecipe),
     element_event("ColorSpaceTINTORA", element_ColorSpaceTINTORA),
@@ -60,19 +59,15 @@ constexpr s_event_map k_ParentColorSpace_elements[] = {
     element_event("ColorSpaceMunsell", element_ColorSpaceMunsell),
     k_end_of_map,
 };
-}  // namespace
-
 constinit const s_item ParentColorSpace::k_items[] = {
-    {item_kind::group, value_kind::none, use_asked | use_written | use_lax, ELMX_WS_PRESERVE, "Vyr:ColorSpace", 0,
-     0, LMX_FLAG(ParentColorSpace, m_choice.is_touched), position_of(k_ParentColorSpace_elements, element_ColorSpaceRecipe), position_of(k_ParentColorSpace_elements, element_ColorSpaceRecipe, 28), &sg_ColorSpace::k_class, nullptr, {}},
+    {item_kind::group, value_kind::none, use_asked | use_written | use_lax, ELMX_WS_PRESERVE, "Vyr:ColorSpace", 0, 0, LMX_FLAG(ParentColorSpace, m_choice.is_touched), position_of(k_ParentColorSpace_elements, element_ColorSpaceRecipe), 28, &sg_ColorSpace::k_class},
 };
 constinit const s_class ParentColorSpace::k_class = {
     .name = "ParentColorSpace",
     .qualified_name = "Vyr:ParentColorSpace",
     .content = content_kind::children,
     .nil_flag = LMX_FLAG(ParentColorSpace, m_isnil),
-    .elements = std::span(k_items).subspan(std::size(k_no_events) - 1),
-    .attribute_map = k_no_events,
+    .elements = k_items,
     .element_map = k_ParentColorSpace_elements,
     .operations = &k_operations<ParentColorSpace>,
 };
@@ -90,7 +85,6 @@ sg_ColorSpace& ParentColorSpace::assign_ColorSpace(const sg_ColorSpace& value) {
 
 // ColorSpaceType
 
-namespace {
 constexpr s_event_map k_ColorSpaceType_attributes[] = {
     attribute_event("Comments", attribute_Comments),
     attribute_event("UniqueID", attribute_UniqueID),
@@ -102,19 +96,12 @@ constexpr s_event_map k_ColorSpaceType_elements[] = {
     element_event("ChangeHistory", element_ChangeHistory),
     k_end_of_map,
 };
-}  // namespace
-
 constinit const s_item ColorSpaceType::k_items[] = {
-    {item_kind::attribute, value_kind::text, use_optional, ELMX_WS_PRESERVE, "Comments", attribute_Comments,
-     LMX_OFFSET(ColorSpaceType, m_Comments, attribute, text), LMX_FLAG(ColorSpaceType, m_isset_Comments), 0, 0, nullptr, nullptr, {}},
-    {item_kind::attribute, value_kind::text, use_optional, ELMX_WS_PRESERVE, "UniqueID", attribute_UniqueID,
-     LMX_OFFSET(ColorSpaceType, m_UniqueID, attribute, text), LMX_FLAG(ColorSpaceType, m_isset_UniqueID), 0, 0, nullptr, nullptr, {}},
-    {item_kind::child_list, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:CustomAttribute", element_CustomAttribute,
-     LMX_OFFSET(ColorSpaceType, m_CustomAttribute, child_list, none), k_no_flag, position_of(k_ColorSpaceType_elements, element_CustomAttribute), position_of(k_ColorSpaceType_elements, element_CustomAttribute, 1), &CustomAttributeType::k_class, nullptr, {}},
-    {item_kind::optional_child, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:ParentColorSpace", element_ParentColorSpace,
-     LMX_OFFSET(ColorSpaceType, m_ParentColorSpace, optional_child, none), LMX_FLAG(ColorSpaceType, m_isset_ParentColorSpace), position_of(k_ColorSpaceType_elements, element_ParentColorSpace), position_of(k_ColorSpaceType_elements, element_ParentColorSpace, 1), &ParentColorSpace::k_class, nullptr, {}},
-    {item_kind::element_list, value_kind::datetime, use_demanded | use_asked, ELMX_WS_COLLAPSE, "Vyr:ChangeHistory", element_ChangeHistory,
-     LMX_OFFSET(ColorSpaceType, m_ChangeHistory, element_list, datetime), k_no_flag, position_of(k_ColorSpaceType_elements, element_ChangeHistory), position_of(k_ColorSpaceType_elements, element_ChangeHistory, 1), nullptr, &facets::DateTimeZone, {}},
+    {item_kind::attribute, value_kind::text, use_optional, ELMX_WS_PRESERVE, "Comments", attribute_Comments, LMX_OFFSET(ColorSpaceType, m_Comments, attribute, text), LMX_FLAG(ColorSpaceType, m_isset_Comments)},
+    {item_kind::attribute, value_kind::text, use_optional, ELMX_WS_PRESERVE, "UniqueID", attribute_UniqueID, LMX_OFFSET(ColorSpaceType, m_UniqueID, attribute, text), LMX_FLAG(ColorSpaceType, m_isset_UniqueID)},
+    {item_kind::child_list, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:CustomAttribute", element_CustomAttribute, LMX_OFFSET(ColorSpaceType, m_CustomAttribute, child_list, none), k_no_flag, position_of(k_ColorSpaceType_elements, element_CustomAttribute), 1, &CustomAttributeType::k_class},
+    {item_kind::optional_child, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:ParentColorSpace", element_ParentColorSpace, LMX_OFFSET(ColorSpaceType, m_ParentColorSpace, optional_child, none), LMX_FLAG(ColorSpaceType, m_isset_ParentColorSpace), position_of(k_ColorSpaceType_elements, element_ParentColorSpace), 1, &ParentColorSpace::k_class},
+    {item_kind::element_list, value_kind::datetime, use_demanded | use_asked, ELMX_WS_COLLAPSE, "Vyr:ChangeHistory", element_ChangeHistory, LMX_OFFSET(ColorSpaceType, m_ChangeHistory, element_list, datetime), k_no_flag, position_of(k_ColorSpaceType_elements, element_ChangeHistory), 1, nullptr, &facets::DateTimeZone},
 };
 constinit const s_factory_row ColorSpaceType::k_factory[] = {
     {"ColorSpaceCIELabType", &ColorSpaceCIELabType::k_class},
@@ -152,7 +139,6 @@ constinit const s_class ColorSpaceType::k_class = {
     .content = content_kind::children,
     .ns_map = k_ns_map,
     .id = &ColorSpaceType::id,
-    .xsi_type = "Vyr:ColorSpaceType",
     .attributes = std::span(k_items).first(std::size(k_ColorSpaceType_attributes) - 1),
     .elements = std::span(k_items).subspan(std::size(k_ColorSpaceType_attributes) - 1),
     .attribute_map = k_ColorSpaceType_attributes,
@@ -160,7 +146,7 @@ constinit const s_class ColorSpaceType::k_class = {
     .operations = &k_operations<ColorSpaceType>,
 };
 
-namespace { const char k_ColorSpaceType_id[] = "ColorSpaceType"; }
+const char k_ColorSpaceType_id[] = "ColorSpaceType";
 const char* ColorSpaceType::id = k_ColorSpaceType_id;
 ColorSpaceType::ColorSpaceType() = default;
 ColorSpaceType::ColorSpaceType(const ColorSpaceType& other) { lmx::copy(k_class, this, &other); }
@@ -202,7 +188,6 @@ lmx::elmx_error ColorSpace::unmarshal(lmx::c_xml_reader& reader, const std::stri
 
 // ColorSpaceCIELabType
 
-namespace {
 constexpr s_event_map k_ColorSpaceCIELabType_attributes[] = {
     attribute_event("Name", attribute_Name),
     k_end_of_map,
@@ -214,19 +199,12 @@ constexpr s_event_map k_ColorSpaceCIELabType_elements[] = {
     element_event("B", element_B),
     k_end_of_map,
 };
-}  // namespace
-
 constinit const s_item ColorSpaceCIELabType::k_items[] = {
-    {item_kind::attribute, value_kind::text, use_name, ELMX_WS_PRESERVE, "Name", attribute_Name,
-     LMX_OFFSET(ColorSpaceCIELabType, m_Name, attribute, text), LMX_FLAG(ColorSpaceCIELabType, m_isset_Name), 0, 0, nullptr, nullptr, {}},
-    {item_kind::child, value_kind::none, use_required, ELMX_WS_PRESERVE, "Vyr:ColorSpaceSpecificationSpectrumTristimulus", element_ColorSpaceSpecificationSpectrumTristimulus,
-     LMX_OFFSET(ColorSpaceCIELabType, m_ColorSpaceSpecificationSpectrumTristimulus, child, none), LMX_FLAG(ColorSpaceCIELabType, m_isset_ColorSpaceSpecificationSpectrumTristimulus), position_of(k_ColorSpaceCIELabType_elements, element_ColorSpaceSpecificationSpectrumTristimulus), position_of(k_ColorSpaceCIELabType_elements, element_ColorSpaceSpecificationSpectrumTristimulus, 1), &ColorSpaceSpecificationSpectrumTristimulus::k_class, nullptr, {}},
-    {item_kind::element, value_kind::number, use_required, ELMX_WS_COLLAPSE, "Vyr:L", element_L,
-     LMX_OFFSET(ColorSpaceCIELabType, m_L, element, number), LMX_FLAG(ColorSpaceCIELabType, m_isset_L), position_of(k_ColorSpaceCIELabType_elements, element_L), position_of(k_ColorSpaceCIELabType_elements, element_L, 1), nullptr, &facets::LabLightness, {}},
-    {item_kind::element, value_kind::number, use_required, ELMX_WS_COLLAPSE, "Vyr:A", element_A,
-     LMX_OFFSET(ColorSpaceCIELabType, m_A, element, number), LMX_FLAG(ColorSpaceCIELabType, m_isset_A), position_of(k_ColorSpaceCIELabType_elements, element_A), position_of(k_ColorSpaceCIELabType_elements, element_A, 1), nullptr, &facets::LabOpponent, {}},
-    {item_kind::element, value_kind::number, use_required, ELMX_WS_COLLAPSE, "Vyr:B", element_B,
-     LMX_OFFSET(ColorSpaceCIELabType, m_B, element, number), LMX_FLAG(ColorSpaceCIELabType, m_isset_B), position_of(k_ColorSpaceCIELabType_elements, element_B), position_of(k_ColorSpaceCIELabType_elements, element_B, 1), nullptr, &facets::LabOpponent, {}},
+    {item_kind::attribute, value_kind::text, use_name, ELMX_WS_PRESERVE, "Name", attribute_Name, LMX_OFFSET(ColorSpaceCIELabType, m_Name, attribute, text), LMX_FLAG(ColorSpaceCIELabType, m_isset_Name)},
+    {item_kind::child, value_kind::none, use_required, ELMX_WS_PRESERVE, "Vyr:ColorSpaceSpecificationSpectrumTristimulus", element_ColorSpaceSpecificationSpectrumTristimulus, LMX_OFFSET(ColorSpaceCIELabType, m_ColorSpaceSpecificationSpectrumTristimulus, child, none), LMX_FLAG(ColorSpaceCIELabType, m_isset_ColorSpaceSpecificationSpectrumTristimulus), position_of(k_ColorSpaceCIELabType_elements, element_ColorSpaceSpecificationSpectrumTristimulus), 1, &ColorSpaceSpecificationSpectrumTristimulus::k_class},
+    {item_kind::element, value_kind::number, use_required, ELMX_WS_COLLAPSE, "Vyr:L", element_L, LMX_OFFSET(ColorSpaceCIELabType, m_L, element, number), LMX_FLAG(ColorSpaceCIELabType, m_isset_L), position_of(k_ColorSpaceCIELabType_elements, element_L), 1, nullptr, &facets::LabLightness},
+    {item_kind::element, value_kind::number, use_required, ELMX_WS_COLLAPSE, "Vyr:A", element_A, LMX_OFFSET(ColorSpaceCIELabType, m_A, element, number), LMX_FLAG(ColorSpaceCIELabType, m_isset_A), position_of(k_ColorSpaceCIELabType_elements, element_A), 1, nullptr, &facets::LabOpponent},
+    {item_kind::element, value_kind::number, use_required, ELMX_WS_COLLAPSE, "Vyr:B", element_B, LMX_OFFSET(ColorSpaceCIELabType, m_B, element, number), LMX_FLAG(ColorSpaceCIELabType, m_isset_B), position_of(k_ColorSpaceCIELabType_elements, element_B), 1, nullptr, &facets::LabOpponent},
 };
 constinit const s_class ColorSpaceCIELabType::k_class = {
     .name = "ColorSpaceCIELabType",
@@ -235,7 +213,6 @@ constinit const s_class ColorSpaceCIELabType::k_class = {
     .content = content_kind::children,
     .ns_map = k_ns_map,
     .id = &ColorSpaceCIELabType::id,
-    .xsi_type = "Vyr:ColorSpaceCIELabType",
     .attributes = std::span(k_items).first(std::size(k_ColorSpaceCIELabType_attributes) - 1),
     .elements = std::span(k_items).subspan(std::size(k_ColorSpaceCIELabType_attributes) - 1),
     .attribute_map = k_ColorSpaceCIELabType_attributes,
@@ -243,7 +220,7 @@ constinit const s_class ColorSpaceCIELabType::k_class = {
     .operations = &k_operations<ColorSpaceCIELabType>,
 };
 
-namespace { const char k_ColorSpaceCIELabType_id[] = "ColorSpaceCIELabType"; }
+const char k_ColorSpaceCIELabType_id[] = "ColorSpaceCIELabType";
 const char* ColorSpaceCIELabType::id = k_ColorSpaceCIELabType_id;
 ColorSpaceCIELabType::ColorSpaceCIELabType() = default;
 ColorSpaceCIELabType::ColorSpaceCIELabType(const ColorSpaceCIELabType& other) : ColorSpaceType() { lmx::copy(k_class, this, &other); }
@@ -265,7 +242,6 @@ lmx::elmx_error ColorSpaceCIELabType::set_B(double value) { return lmx::set_item
 
 // ColorSpaceCIELChType
 
-namespace {
 constexpr s_event_map k_ColorSpaceCIELChType_attributes[] = {
     attribute_event("Name", attribute_Name),
     k_end_of_map,
@@ -277,19 +253,12 @@ constexpr s_event_map k_ColorSpaceCIELChType_elements[] = {
     element_event("H", element_H),
     k_end_of_map,
 };
-}  // namespace
-
 constinit const s_item ColorSpaceCIELChType::k_items[] = {
-    {item_kind::attribute, value_kind::text, use_name, ELMX_WS_PRESERVE, "Name", attribute_Name,
-     LMX_OFFSET(ColorSpaceCIELChType, m_Name, attribute, text), LMX_FLAG(ColorSpaceCIELChType, m_isset_Name), 0, 0, nullptr, nullptr, {}},
-    {item_kind::child, value_kind::none, use_required, ELMX_WS_PRESERVE, "Vyr:ColorSpaceSpecificationSpectrumTristimulus", element_ColorSpaceSpecificationSpectrumTristimulus,
-     LMX_OFFSET(ColorSpaceCIELChType, m_ColorSpaceSpecificationSpectrumTristimulus, child, none), LMX_FLAG(ColorSpaceCIELChType, m_isset_ColorSpaceSpecificationSpectrumTristimulus), position_of(k_ColorSpaceCIELChType_elements, element_ColorSpaceSpecificationSpectrumTristimulus), position_of(k_ColorSpaceCIELChType_elements, element_ColorSpaceSpecificationSpectrumTristimulus, 1), &ColorSpaceSpecificationSpectrumTristimulus::k_class, nullptr, {}},
-    {item_kind::element, value_kind::number, use_required, ELMX_WS_COLLAPSE, "Vyr:L", element_L,
-     LMX_OFFSET(ColorSpaceCIELChType, m_L, element, number), LMX_FLAG(ColorSpaceCIELChType, m_isset_L), position_of(k_ColorSpaceCIELChType_elements, element_L), position_of(k_ColorSpaceCIELChType_elements, element_L, 1), nullptr, &facets::Lightness, {}},
-    {item_kind::element, value_kind::number, use_required, ELMX_WS_COLLAPSE, "Vyr:C", element_C,
-     LMX_OFFSET(ColorSpaceCIELChType, m_C, element, number), LMX_FLAG(ColorSpaceCIELChType, m_isset_C), position_of(k_ColorSpaceCIELChType_elements, element_C), position_of(k_ColorSpaceCIELChType_elements, element_C, 1), nullptr, &facets::Chroma, {}},
-    {item_kind::element, value_kind::number, use_required, ELMX_WS_COLLAPSE, "Vyr:H", element_H,
-     LMX_OFFSET(ColorSpaceCIELChType, m_H, element, number), LMX_FLAG(ColorSpaceCIELChType, m_isset_H), position_of(k_ColorSpaceCIELChType_elements, element_H), position_of(k_ColorSpaceCIELChType_elements, element_H, 1), nullptr, &facets::HueAngle, {}},
+    {item_kind::attribute, value_kind::text, use_name, ELMX_WS_PRESERVE, "Name", attribute_Name, LMX_OFFSET(ColorSpaceCIELChType, m_Name, attribute, text), LMX_FLAG(ColorSpaceCIELChType, m_isset_Name)},
+    {item_kind::child, value_kind::none, use_required, ELMX_WS_PRESERVE, "Vyr:ColorSpaceSpecificationSpectrumTristimulus", element_ColorSpaceSpecificationSpectrumTristimulus, LMX_OFFSET(ColorSpaceCIELChType, m_ColorSpaceSpecificationSpectrumTristimulus, child, none), LMX_FLAG(ColorSpaceCIELChType, m_isset_ColorSpaceSpecificationSpectrumTristimulus), position_of(k_ColorSpaceCIELChType_elements, element_ColorSpaceSpecificationSpectrumTristimulus), 1, &ColorSpaceSpecificationSpectrumTristimulus::k_class},
+    {item_kind::element, value_kind::number, use_required, ELMX_WS_COLLAPSE, "Vyr:L", element_L, LMX_OFFSET(ColorSpaceCIELChType, m_L, element, number), LMX_FLAG(ColorSpaceCIELChType, m_isset_L), position_of(k_ColorSpaceCIELChType_elements, element_L), 1, nullptr, &facets::Lightness},
+    {item_kind::element, value_kind::number, use_required, ELMX_WS_COLLAPSE, "Vyr:C", element_C, LMX_OFFSET(ColorSpaceCIELChType, m_C, element, number), LMX_FLAG(ColorSpaceCIELChType, m_isset_C), position_of(k_ColorSpaceCIELChType_elements, element_C), 1, nullptr, &facets::Chroma},
+    {item_kind::element, value_kind::number, use_required, ELMX_WS_COLLAPSE, "Vyr:H", element_H, LMX_OFFSET(ColorSpaceCIELChType, m_H, element, number), LMX_FLAG(ColorSpaceCIELChType, m_isset_H), position_of(k_ColorSpaceCIELChType_elements, element_H), 1, nullptr, &facets::HueAngle},
 };
 constinit const s_class ColorSpaceCIELChType::k_class = {
     .name = "ColorSpaceCIELChType",
@@ -298,7 +267,6 @@ constinit const s_class ColorSpaceCIELChType::k_class = {
     .content = content_kind::children,
     .ns_map = k_ns_map,
     .id = &ColorSpaceCIELChType::id,
-    .xsi_type = "Vyr:ColorSpaceCIELChType",
     .attributes = std::span(k_items).first(std::size(k_ColorSpaceCIELChType_attributes) - 1),
     .elements = std::span(k_items).subspan(std::size(k_ColorSpaceCIELChType_attributes) - 1),
     .attribute_map = k_ColorSpaceCIELChType_attributes,
@@ -306,7 +274,7 @@ constinit const s_class ColorSpaceCIELChType::k_class = {
     .operations = &k_operations<ColorSpaceCIELChType>,
 };
 
-namespace { const char k_ColorSpaceCIELChType_id[] = "ColorSpaceCIELChType"; }
+const char k_ColorSpaceCIELChType_id[] = "ColorSpaceCIELChType";
 const char* ColorSpaceCIELChType::id = k_ColorSpaceCIELChType_id;
 ColorSpaceCIELChType::ColorSpaceCIELChType() = default;
 ColorSpaceCIELChType::ColorSpaceCIELChType(const ColorSpaceCIELChType& other) : ColorSpaceType() { lmx::copy(k_class, this, &other); }
@@ -328,7 +296,6 @@ lmx::elmx_error ColorSpaceCIELChType::set_H(double value) { return lmx::set_item
 
 // ColorSpaceCIELuvType
 
-namespace {
 constexpr s_event_map k_ColorSpaceCIELuvType_attributes[] = {
     attribute_event("Name", attribute_Name),
     k_end_of_map,
@@ -340,19 +307,12 @@ constexpr s_event_map k_ColorSpaceCIELuvType_elements[] = {
     element_event("V", element_V),
     k_end_of_map,
 };
-}  // namespace
-
 constinit const s_item ColorSpaceCIELuvType::k_items[] = {
-    {item_kind::attribute, value_kind::text, use_name, ELMX_WS_PRESERVE, "Name", attribute_Name,
-     LMX_OFFSET(ColorSpaceCIELuvType, m_Name, attribute, text), LMX_FLAG(ColorSpaceCIELuvType, m_isset_Name), 0, 0, nullptr, nullptr, {}},
-    {item_kind::child, value_kind::none, use_required, ELMX_WS_PRESERVE, "Vyr:ColorSpaceSpecificationSpectrumTristimulus", element_ColorSpaceSpecificationSpectrumTristimulus,
-     LMX_OFFSET(ColorSpaceCIELuvType, m_ColorSpaceSpecificationSpectrumTristimulus, child, none), LMX_FLAG(ColorSpaceCIELuvType, m_isset_ColorSpaceSpecificationSpectrumTristimulus), position_of(k_ColorSpaceCIELuvType_elements, element_ColorSpaceSpecificationSpectrumTristimulus), position_of(k_ColorSpaceCIELuvType_elements, element_ColorSpaceSpecificationSpectrumTristimulus, 1), &ColorSpaceSpecificationSpectrumTristimulus::k_class, nullptr, {}},
-    {item_kind::element, value_kind::number, use_required, ELMX_WS_COLLAPSE, "Vyr:L", element_L,
-     LMX_OFFSET(ColorSpaceCIELuvType, m_L, element, number), LMX_FLAG(ColorSpaceCIELuvType, m_isset_L), position_of(k_ColorSpaceCIELuvType_elements, element_L), position_of(k_ColorSpaceCIELuvType_elements, element_L, 1), nullptr, &facets::Lightness, {}},
-    {item_kind::element, value_kind::number, use_required, ELMX_WS_COLLAPSE, "Vyr:U", element_U,
-     LMX_OFFSET(ColorSpaceCIELuvType, m_U, element, number), LMX_FLAG(ColorSpaceCIELuvType, m_isset_U), position_of(k_ColorSpaceCIELuvType_elements, element_U), position_of(k_ColorSpaceCIELuvType_elements, element_U, 1), nullptr, &facets::LuvU, {}},
-    {item_kind::element, value_kind::number, use_required, ELMX_WS_COLLAPSE, "Vyr:V", element_V,
-     LMX_OFFSET(ColorSpaceCIELuvType, m_V, element, number), LMX_FLAG(ColorSpaceCIELuvType, m_isset_V), position_of(k_ColorSpaceCIELuvType_elements, element_V), position_of(k_ColorSpaceCIELuvType_elements, element_V, 1), nullptr, &facets::LuvV, {}},
+    {item_kind::attribute, value_kind::text, use_name, ELMX_WS_PRESERVE, "Name", attribute_Name, LMX_OFFSET(ColorSpaceCIELuvType, m_Name, attribute, text), LMX_FLAG(ColorSpaceCIELuvType, m_isset_Name)},
+    {item_kind::child, value_kind::none, use_required, ELMX_WS_PRESERVE, "Vyr:ColorSpaceSpecificationSpectrumTristimulus", element_ColorSpaceSpecificationSpectrumTristimulus, LMX_OFFSET(ColorSpaceCIELuvType, m_ColorSpaceSpecificationSpectrumTristimulus, child, none), LMX_FLAG(ColorSpaceCIELuvType, m_isset_ColorSpaceSpecificationSpectrumTristimulus), position_of(k_ColorSpaceCIELuvType_elements, element_ColorSpaceSpecificationSpectrumTristimulus), 1, &ColorSpaceSpecificationSpectrumTristimulus::k_class},
+    {item_kind::element, value_kind::number, use_required, ELMX_WS_COLLAPSE, "Vyr:L", element_L, LMX_OFFSET(ColorSpaceCIELuvType, m_L, element, number), LMX_FLAG(ColorSpaceCIELuvType, m_isset_L), position_of(k_ColorSpaceCIELuvType_elements, element_L), 1, nullptr, &facets::Lightness},
+    {item_kind::element, value_kind::number, use_required, ELMX_WS_COLLAPSE, "Vyr:U", element_U, LMX_OFFSET(ColorSpaceCIELuvType, m_U, element, number), LMX_FLAG(ColorSpaceCIELuvType, m_isset_U), position_of(k_ColorSpaceCIELuvType_elements, element_U), 1, nullptr, &facets::LuvU},
+    {item_kind::element, value_kind::number, use_required, ELMX_WS_COLLAPSE, "Vyr:V", element_V, LMX_OFFSET(ColorSpaceCIELuvType, m_V, element, number), LMX_FLAG(ColorSpaceCIELuvType, m_isset_V), position_of(k_ColorSpaceCIELuvType_elements, element_V), 1, nullptr, &facets::LuvV},
 };
 constinit const s_class ColorSpaceCIELuvType::k_class = {
     .name = "ColorSpaceCIELuvType",
@@ -361,7 +321,6 @@ constinit const s_class ColorSpaceCIELuvType::k_class = {
     .content = content_kind::children,
     .ns_map = k_ns_map,
     .id = &ColorSpaceCIELuvType::id,
-    .xsi_type = "Vyr:ColorSpaceCIELuvType",
     .attributes = std::span(k_items).first(std::size(k_ColorSpaceCIELuvType_attributes) - 1),
     .elements = std::span(k_items).subspan(std::size(k_ColorSpaceCIELuvType_attributes) - 1),
     .attribute_map = k_ColorSpaceCIELuvType_attributes,
@@ -369,7 +328,7 @@ constinit const s_class ColorSpaceCIELuvType::k_class = {
     .operations = &k_operations<ColorSpaceCIELuvType>,
 };
 
-namespace { const char k_ColorSpaceCIELuvType_id[] = "ColorSpaceCIELuvType"; }
+const char k_ColorSpaceCIELuvType_id[] = "ColorSpaceCIELuvType";
 const char* ColorSpaceCIELuvType::id = k_ColorSpaceCIELuvType_id;
 ColorSpaceCIELuvType::ColorSpaceCIELuvType() = default;
 ColorSpaceCIELuvType::ColorSpaceCIELuvType(const ColorSpaceCIELuvType& other) : ColorSpaceType() { lmx::copy(k_class, this, &other); }
@@ -391,7 +350,6 @@ lmx::elmx_error ColorSpaceCIELuvType::set_V(double value) { return lmx::set_item
 
 // ColorSpaceCIEXYZType
 
-namespace {
 constexpr s_event_map k_ColorSpaceCIEXYZType_attributes[] = {
     attribute_event("Name", attribute_Name),
     k_end_of_map,
@@ -403,19 +361,12 @@ constexpr s_event_map k_ColorSpaceCIEXYZType_elements[] = {
     element_event("Z", element_Z),
     k_end_of_map,
 };
-}  // namespace
-
 constinit const s_item ColorSpaceCIEXYZType::k_items[] = {
-    {item_kind::attribute, value_kind::text, use_name, ELMX_WS_PRESERVE, "Name", attribute_Name,
-     LMX_OFFSET(ColorSpaceCIEXYZType, m_Name, attribute, text), LMX_FLAG(ColorSpaceCIEXYZType, m_isset_Name), 0, 0, nullptr, nullptr, {}},
-    {item_kind::child, value_kind::none, use_required, ELMX_WS_PRESERVE, "Vyr:ColorSpaceSpecificationSpectrumTristimulus", element_ColorSpaceSpecificationSpectrumTristimulus,
-     LMX_OFFSET(ColorSpaceCIEXYZType, m_ColorSpaceSpecificationSpectrumTristimulus, child, none), LMX_FLAG(ColorSpaceCIEXYZType, m_isset_ColorSpaceSpecificationSpectrumTristimulus), position_of(k_ColorSpaceCIEXYZType_elements, element_ColorSpaceSpecificationSpectrumTristimulus), position_of(k_ColorSpaceCIEXYZType_elements, element_ColorSpaceSpecificationSpectrumTristimulus, 1), &ColorSpaceSpecificationSpectrumTristimulus::k_class, nullptr, {}},
-    {item_kind::element, value_kind::number, use_required, ELMX_WS_COLLAPSE, "Vyr:X", element_X,
-     LMX_OFFSET(ColorSpaceCIEXYZType, m_X, element, number), LMX_FLAG(ColorSpaceCIEXYZType, m_isset_X), position_of(k_ColorSpaceCIEXYZType_elements, element_X), position_of(k_ColorSpaceCIEXYZType_elements, element_X, 1), nullptr, &facets::Fraction, {}},
-    {item_kind::element, value_kind::number, use_required, ELMX_WS_COLLAPSE, "Vyr:Y", element_Y,
-     LMX_OFFSET(ColorSpaceCIEXYZType, m_Y, element, number), LMX_FLAG(ColorSpaceCIEXYZType, m_isset_Y), position_of(k_ColorSpaceCIEXYZType_elements, element_Y), position_of(k_ColorSpaceCIEXYZType_elements, element_Y, 1), nullptr, &facets::Fraction, {}},
-    {item_kind::element, value_kind::number, use_required, ELMX_WS_COLLAPSE, "Vyr:Z", element_Z,
-     LMX_OFFSET(ColorSpaceCIEXYZType, m_Z, element, number), LMX_FLAG(ColorSpaceCIEXYZType, m_isset_Z), position_of(k_ColorSpaceCIEXYZType_elements, element_Z), position_of(k_ColorSpaceCIEXYZType_elements, element_Z, 1), nullptr, &facets::Fraction, {}},
+    {item_kind::attribute, value_kind::text, use_name, ELMX_WS_PRESERVE, "Name", attribute_Name, LMX_OFFSET(ColorSpaceCIEXYZType, m_Name, attribute, text), LMX_FLAG(ColorSpaceCIEXYZType, m_isset_Name)},
+    {item_kind::child, value_kind::none, use_required, ELMX_WS_PRESERVE, "Vyr:ColorSpaceSpecificationSpectrumTristimulus", element_ColorSpaceSpecificationSpectrumTristimulus, LMX_OFFSET(ColorSpaceCIEXYZType, m_ColorSpaceSpecificationSpectrumTristimulus, child, none), LMX_FLAG(ColorSpaceCIEXYZType, m_isset_ColorSpaceSpecificationSpectrumTristimulus), position_of(k_ColorSpaceCIEXYZType_elements, element_ColorSpaceSpecificationSpectrumTristimulus), 1, &ColorSpaceSpecificationSpectrumTristimulus::k_class},
+    {item_kind::element, value_kind::number, use_required, ELMX_WS_COLLAPSE, "Vyr:X", element_X, LMX_OFFSET(ColorSpaceCIEXYZType, m_X, element, number), LMX_FLAG(ColorSpaceCIEXYZType, m_isset_X), position_of(k_ColorSpaceCIEXYZType_elements, element_X), 1, nullptr, &facets::Fraction},
+    {item_kind::element, value_kind::number, use_required, ELMX_WS_COLLAPSE, "Vyr:Y", element_Y, LMX_OFFSET(ColorSpaceCIEXYZType, m_Y, element, number), LMX_FLAG(ColorSpaceCIEXYZType, m_isset_Y), position_of(k_ColorSpaceCIEXYZType_elements, element_Y), 1, nullptr, &facets::Fraction},
+    {item_kind::element, value_kind::number, use_required, ELMX_WS_COLLAPSE, "Vyr:Z", element_Z, LMX_OFFSET(ColorSpaceCIEXYZType, m_Z, element, number), LMX_FLAG(ColorSpaceCIEXYZType, m_isset_Z), position_of(k_ColorSpaceCIEXYZType_elements, element_Z), 1, nullptr, &facets::Fraction},
 };
 constinit const s_class ColorSpaceCIEXYZType::k_class = {
     .name = "ColorSpaceCIEXYZType",
@@ -424,7 +375,6 @@ constinit const s_class ColorSpaceCIEXYZType::k_class = {
     .content = content_kind::children,
     .ns_map = k_ns_map,
     .id = &ColorSpaceCIEXYZType::id,
-    .xsi_type = "Vyr:ColorSpaceCIEXYZType",
     .attributes = std::span(k_items).first(std::size(k_ColorSpaceCIEXYZType_attributes) - 1),
     .elements = std::span(k_items).subspan(std::size(k_ColorSpaceCIEXYZType_attributes) - 1),
     .attribute_map = k_ColorSpaceCIEXYZType_attributes,
@@ -432,7 +382,7 @@ constinit const s_class ColorSpaceCIEXYZType::k_class = {
     .operations = &k_operations<ColorSpaceCIEXYZType>,
 };
 
-namespace { const char k_ColorSpaceCIEXYZType_id[] = "ColorSpaceCIEXYZType"; }
+const char k_ColorSpaceCIEXYZType_id[] = "ColorSpaceCIEXYZType";
 const char* ColorSpaceCIEXYZType::id = k_ColorSpaceCIEXYZType_id;
 ColorSpaceCIEXYZType::ColorSpaceCIEXYZType() = default;
 ColorSpaceCIEXYZType::ColorSpaceCIEXYZType(const ColorSpaceCIEXYZType& other) : ColorSpaceType() { lmx::copy(k_class, this, &other); }
@@ -454,7 +404,6 @@ lmx::elmx_error ColorSpaceCIEXYZType::set_Z(double value) { return lmx::set_item
 
 // ColorSpaceCIExyYType
 
-namespace {
 constexpr s_event_map k_ColorSpaceCIExyYType_attributes[] = {
     attribute_event("Name", attribute_Name),
     k_end_of_map,
@@ -466,19 +415,12 @@ constexpr s_event_map k_ColorSpaceCIExyYType_elements[] = {
     element_event("CapY", element_CapY),
     k_end_of_map,
 };
-}  // namespace
-
 constinit const s_item ColorSpaceCIExyYType::k_items[] = {
-    {item_kind::attribute, value_kind::text, use_name, ELMX_WS_PRESERVE, "Name", attribute_Name,
-     LMX_OFFSET(ColorSpaceCIExyYType, m_Name, attribute, text), LMX_FLAG(ColorSpaceCIExyYType, m_isset_Name), 0, 0, nullptr, nullptr, {}},
-    {item_kind::child, value_kind::none, use_required, ELMX_WS_PRESERVE, "Vyr:ColorSpaceSpecificationSpectrumTristimulus", element_ColorSpaceSpecificationSpectrumTristimulus,
-     LMX_OFFSET(ColorSpaceCIExyYType, m_ColorSpaceSpecificationSpectrumTristimulus, child, none), LMX_FLAG(ColorSpaceCIExyYType, m_isset_ColorSpaceSpecificationSpectrumTristimulus), position_of(k_ColorSpaceCIExyYType_elements, element_ColorSpaceSpecificationSpectrumTristimulus), position_of(k_ColorSpaceCIExyYType_elements, element_ColorSpaceSpecificationSpectrumTristimulus, 1), &ColorSpaceSpecificationSpectrumTristimulus::k_class, nullptr, {}},
-    {item_kind::element, value_kind::number, use_required, ELMX_WS_COLLAPSE, "Vyr:X", element_X,
-     LMX_OFFSET(ColorSpaceCIExyYType, m_X, element, number), LMX_FLAG(ColorSpaceCIExyYType, m_isset_X), position_of(k_ColorSpaceCIExyYType_elements, element_X), position_of(k_ColorSpaceCIExyYType_elements, element_X, 1), nullptr, &facets::Fraction, {}},
-    {item_kind::element, value_kind::number, use_required, ELMX_WS_COLLAPSE, "Vyr:Y", element_Y,
-     LMX_OFFSET(ColorSpaceCIExyYType, m_Y, element, number), LMX_FLAG(ColorSpaceCIExyYType, m_isset_Y), position_of(k_ColorSpaceCIExyYType_elements, element_Y), position_of(k_ColorSpaceCIExyYType_elements, element_Y, 1), nullptr, &facets::Fraction, {}},
-    {item_kind::element, value_kind::number, use_required, ELMX_WS_COLLAPSE, "Vyr:CapY", element_CapY,
-     LMX_OFFSET(ColorSpaceCIExyYType, m_CapY, element, number), LMX_FLAG(ColorSpaceCIExyYType, m_isset_CapY), position_of(k_ColorSpaceCIExyYType_elements, element_CapY), position_of(k_ColorSpaceCIExyYType_elements, element_CapY, 1), nullptr, &facets::Fraction, {}},
+    {item_kind::attribute, value_kind::text, use_name, ELMX_WS_PRESERVE, "Name", attribute_Name, LMX_OFFSET(ColorSpaceCIExyYType, m_Name, attribute, text), LMX_FLAG(ColorSpaceCIExyYType, m_isset_Name)},
+    {item_kind::child, value_kind::none, use_required, ELMX_WS_PRESERVE, "Vyr:ColorSpaceSpecificationSpectrumTristimulus", element_ColorSpaceSpecificationSpectrumTristimulus, LMX_OFFSET(ColorSpaceCIExyYType, m_ColorSpaceSpecificationSpectrumTristimulus, child, none), LMX_FLAG(ColorSpaceCIExyYType, m_isset_ColorSpaceSpecificationSpectrumTristimulus), position_of(k_ColorSpaceCIExyYType_elements, element_ColorSpaceSpecificationSpectrumTristimulus), 1, &ColorSpaceSpecificationSpectrumTristimulus::k_class},
+    {item_kind::element, value_kind::number, use_required, ELMX_WS_COLLAPSE, "Vyr:X", element_X, LMX_OFFSET(ColorSpaceCIExyYType, m_X, element, number), LMX_FLAG(ColorSpaceCIExyYType, m_isset_X), position_of(k_ColorSpaceCIExyYType_elements, element_X), 1, nullptr, &facets::Fraction},
+    {item_kind::element, value_kind::number, use_required, ELMX_WS_COLLAPSE, "Vyr:Y", element_Y, LMX_OFFSET(ColorSpaceCIExyYType, m_Y, element, number), LMX_FLAG(ColorSpaceCIExyYType, m_isset_Y), position_of(k_ColorSpaceCIExyYType_elements, element_Y), 1, nullptr, &facets::Fraction},
+    {item_kind::element, value_kind::number, use_required, ELMX_WS_COLLAPSE, "Vyr:CapY", element_CapY, LMX_OFFSET(ColorSpaceCIExyYType, m_CapY, element, number), LMX_FLAG(ColorSpaceCIExyYType, m_isset_CapY), position_of(k_ColorSpaceCIExyYType_elements, element_CapY), 1, nullptr, &facets::Fraction},
 };
 constinit const s_class ColorSpaceCIExyYType::k_class = {
     .name = "ColorSpaceCIExyYType",
@@ -487,7 +429,6 @@ constinit const s_class ColorSpaceCIExyYType::k_class = {
     .content = content_kind::children,
     .ns_map = k_ns_map,
     .id = &ColorSpaceCIExyYType::id,
-    .xsi_type = "Vyr:ColorSpaceCIExyYType",
     .attributes = std::span(k_items).first(std::size(k_ColorSpaceCIExyYType_attributes) - 1),
     .elements = std::span(k_items).subspan(std::size(k_ColorSpaceCIExyYType_attributes) - 1),
     .attribute_map = k_ColorSpaceCIExyYType_attributes,
@@ -495,7 +436,7 @@ constinit const s_class ColorSpaceCIExyYType::k_class = {
     .operations = &k_operations<ColorSpaceCIExyYType>,
 };
 
-namespace { const char k_ColorSpaceCIExyYType_id[] = "ColorSpaceCIExyYType"; }
+const char k_ColorSpaceCIExyYType_id[] = "ColorSpaceCIExyYType";
 const char* ColorSpaceCIExyYType::id = k_ColorSpaceCIExyYType_id;
 ColorSpaceCIExyYType::ColorSpaceCIExyYType() = default;
 ColorSpaceCIExyYType::ColorSpaceCIExyYType(const ColorSpaceCIExyYType& other) : ColorSpaceType() { lmx::copy(k_class, this, &other); }
@@ -517,7 +458,6 @@ lmx::elmx_error ColorSpaceCIExyYType::set_CapY(double value) { return lmx::set_i
 
 // ColorSpaceEmissiveCIEXYZType
 
-namespace {
 constexpr s_event_map k_ColorSpaceEmissiveCIEXYZType_attributes[] = {
     attribute_event("Name", attribute_Name),
     k_end_of_map,
@@ -529,19 +469,12 @@ constexpr s_event_map k_ColorSpaceEmissiveCIEXYZType_elements[] = {
     element_event("Z", element_Z),
     k_end_of_map,
 };
-}  // namespace
-
 constinit const s_item ColorSpaceEmissiveCIEXYZType::k_items[] = {
-    {item_kind::attribute, value_kind::text, use_name, ELMX_WS_PRESERVE, "Name", attribute_Name,
-     LMX_OFFSET(ColorSpaceEmissiveCIEXYZType, m_Name, attribute, text), LMX_FLAG(ColorSpaceEmissiveCIEXYZType, m_isset_Name), 0, 0, nullptr, nullptr, {}},
-    {item_kind::child, value_kind::none, use_required, ELMX_WS_PRESERVE, "Vyr:ColorSpaceSpecificationEmissiveTristimulus", element_ColorSpaceSpecificationEmissiveTristimulus,
-     LMX_OFFSET(ColorSpaceEmissiveCIEXYZType, m_ColorSpaceSpecificationEmissiveTristimulus, child, none), LMX_FLAG(ColorSpaceEmissiveCIEXYZType, m_isset_ColorSpaceSpecificationEmissiveTristimulus), position_of(k_ColorSpaceEmissiveCIEXYZType_elements, element_ColorSpaceSpecificationEmissiveTristimulus), position_of(k_ColorSpaceEmissiveCIEXYZType_elements, element_ColorSpaceSpecificationEmissiveTristimulus, 1), &ColorSpaceSpecificationEmissiveTristimulus::k_class, nullptr, {}},
-    {item_kind::element, value_kind::number, use_required, ELMX_WS_COLLAPSE, "Vyr:X", element_X,
-     LMX_OFFSET(ColorSpaceEmissiveCIEXYZType, m_X, element, number), LMX_FLAG(ColorSpaceEmissiveCIEXYZType, m_isset_X), position_of(k_ColorSpaceEmissiveCIEXYZType_elements, element_X), position_of(k_ColorSpaceEmissiveCIEXYZType_elements, element_X, 1), nullptr, &facets::NonNegative, {}},
-    {item_kind::element, value_kind::number, use_required, ELMX_WS_COLLAPSE, "Vyr:Y", element_Y,
-     LMX_OFFSET(ColorSpaceEmissiveCIEXYZType, m_Y, element, number), LMX_FLAG(ColorSpaceEmissiveCIEXYZType, m_isset_Y), position_of(k_ColorSpaceEmissiveCIEXYZType_elements, element_Y), position_of(k_ColorSpaceEmissiveCIEXYZType_elements, element_Y, 1), nullptr, &facets::NonNegative, {}},
-    {item_kind::element, value_kind::number, use_required, ELMX_WS_COLLAPSE, "Vyr:Z", element_Z,
-     LMX_OFFSET(ColorSpaceEmissiveCIEXYZType, m_Z, element, number), LMX_FLAG(ColorSpaceEmissiveCIEXYZType, m_isset_Z), position_of(k_ColorSpaceEmissiveCIEXYZType_elements, element_Z), position_of(k_ColorSpaceEmissiveCIEXYZType_elements, element_Z, 1), nullptr, &facets::NonNegative, {}},
+    {item_kind::attribute, value_kind::text, use_name, ELMX_WS_PRESERVE, "Name", attribute_Name, LMX_OFFSET(ColorSpaceEmissiveCIEXYZType, m_Name, attribute, text), LMX_FLAG(ColorSpaceEmissiveCIEXYZType, m_isset_Name)},
+    {item_kind::child, value_kind::none, use_required, ELMX_WS_PRESERVE, "Vyr:ColorSpaceSpecificationEmissiveTristimulus", element_ColorSpaceSpecificationEmissiveTristimulus, LMX_OFFSET(ColorSpaceEmissiveCIEXYZType, m_ColorSpaceSpecificationEmissiveTristimulus, child, none), LMX_FLAG(ColorSpaceEmissiveCIEXYZType, m_isset_ColorSpaceSpecificationEmissiveTristimulus), position_of(k_ColorSpaceEmissiveCIEXYZType_elements, element_ColorSpaceSpecificationEmissiveTristimulus), 1, &ColorSpaceSpecificationEmissiveTristimulus::k_class},
+    {item_kind::element, value_kind::number, use_required, ELMX_WS_COLLAPSE, "Vyr:X", element_X, LMX_OFFSET(ColorSpaceEmissiveCIEXYZType, m_X, element, number), LMX_FLAG(ColorSpaceEmissiveCIEXYZType, m_isset_X), position_of(k_ColorSpaceEmissiveCIEXYZType_elements, element_X), 1, nullptr, &facets::NonNegative},
+    {item_kind::element, value_kind::number, use_required, ELMX_WS_COLLAPSE, "Vyr:Y", element_Y, LMX_OFFSET(ColorSpaceEmissiveCIEXYZType, m_Y, element, number), LMX_FLAG(ColorSpaceEmissiveCIEXYZType, m_isset_Y), position_of(k_ColorSpaceEmissiveCIEXYZType_elements, element_Y), 1, nullptr, &facets::NonNegative},
+    {item_kind::element, value_kind::number, use_required, ELMX_WS_COLLAPSE, "Vyr:Z", element_Z, LMX_OFFSET(ColorSpaceEmissiveCIEXYZType, m_Z, element, number), LMX_FLAG(ColorSpaceEmissiveCIEXYZType, m_isset_Z), position_of(k_ColorSpaceEmissiveCIEXYZType_elements, element_Z), 1, nullptr, &facets::NonNegative},
 };
 constinit const s_class ColorSpaceEmissiveCIEXYZType::k_class = {
     .name = "ColorSpaceEmissiveCIEXYZType",
@@ -550,7 +483,6 @@ constinit const s_class ColorSpaceEmissiveCIEXYZType::k_class = {
     .content = content_kind::children,
     .ns_map = k_ns_map,
     .id = &ColorSpaceEmissiveCIEXYZType::id,
-    .xsi_type = "Vyr:ColorSpaceEmissiveCIEXYZType",
     .attributes = std::span(k_items).first(std::size(k_ColorSpaceEmissiveCIEXYZType_attributes) - 1),
     .elements = std::span(k_items).subspan(std::size(k_ColorSpaceEmissiveCIEXYZType_attributes) - 1),
     .attribute_map = k_ColorSpaceEmissiveCIEXYZType_attributes,
@@ -558,7 +490,7 @@ constinit const s_class ColorSpaceEmissiveCIEXYZType::k_class = {
     .operations = &k_operations<ColorSpaceEmissiveCIEXYZType>,
 };
 
-namespace { const char k_ColorSpaceEmissiveCIEXYZType_id[] = "ColorSpaceEmissiveCIEXYZType"; }
+const char k_ColorSpaceEmissiveCIEXYZType_id[] = "ColorSpaceEmissiveCIEXYZType";
 const char* ColorSpaceEmissiveCIEXYZType::id = k_ColorSpaceEmissiveCIEXYZType_id;
 ColorSpaceEmissiveCIEXYZType::ColorSpaceEmissiveCIEXYZType() = default;
 ColorSpaceEmissiveCIEXYZType::ColorSpaceEmissiveCIEXYZType(const ColorSpaceEmissiveCIEXYZType& other) : ColorSpaceType() { lmx::copy(k_class, this, &other); }
@@ -580,7 +512,6 @@ lmx::elmx_error ColorSpaceEmissiveCIEXYZType::set_Z(double value) { return lmx::
 
 // ColorSpaceEmissiveCIExyYType
 
-namespace {
 constexpr s_event_map k_ColorSpaceEmissiveCIExyYType_attributes[] = {
     attribute_event("Name", attribute_Name),
     k_end_of_map,
@@ -592,19 +523,12 @@ constexpr s_event_map k_ColorSpaceEmissiveCIExyYType_elements[] = {
     element_event("CapY", element_CapY),
     k_end_of_map,
 };
-}  // namespace
-
 constinit const s_item ColorSpaceEmissiveCIExyYType::k_items[] = {
-    {item_kind::attribute, value_kind::text, use_name, ELMX_WS_PRESERVE, "Name", attribute_Name,
-     LMX_OFFSET(ColorSpaceEmissiveCIExyYType, m_Name, attribute, text), LMX_FLAG(ColorSpaceEmissiveCIExyYType, m_isset_Name), 0, 0, nullptr, nullptr, {}},
-    {item_kind::child, value_kind::none, use_required, ELMX_WS_PRESERVE, "Vyr:ColorSpaceSpecificationEmissiveTristimulus", element_ColorSpaceSpecificationEmissiveTristimulus,
-     LMX_OFFSET(ColorSpaceEmissiveCIExyYType, m_ColorSpaceSpecificationEmissiveTristimulus, child, none), LMX_FLAG(ColorSpaceEmissiveCIExyYType, m_isset_ColorSpaceSpecificationEmissiveTristimulus), position_of(k_ColorSpaceEmissiveCIExyYType_elements, element_ColorSpaceSpecificationEmissiveTristimulus), position_of(k_ColorSpaceEmissiveCIExyYType_elements, element_ColorSpaceSpecificationEmissiveTristimulus, 1), &ColorSpaceSpecificationEmissiveTristimulus::k_class, nullptr, {}},
-    {item_kind::element, value_kind::number, use_required, ELMX_WS_COLLAPSE, "Vyr:X", element_X,
-     LMX_OFFSET(ColorSpaceEmissiveCIExyYType, m_X, element, number), LMX_FLAG(ColorSpaceEmissiveCIExyYType, m_isset_X), position_of(k_ColorSpaceEmissiveCIExyYType_elements, element_X), position_of(k_ColorSpaceEmissiveCIExyYType_elements, element_X, 1), nullptr, &facets::Fraction, {}},
-    {item_kind::element, value_kind::number, use_required, ELMX_WS_COLLAPSE, "Vyr:Y", element_Y,
-     LMX_OFFSET(ColorSpaceEmissiveCIExyYType, m_Y, element, number), LMX_FLAG(ColorSpaceEmissiveCIExyYType, m_isset_Y), position_of(k_ColorSpaceEmissiveCIExyYType_elements, element_Y), position_of(k_ColorSpaceEmissiveCIExyYType_elements, element_Y, 1), nullptr, &facets::Fraction, {}},
-    {item_kind::element, value_kind::number, use_required, ELMX_WS_COLLAPSE, "Vyr:CapY", element_CapY,
-     LMX_OFFSET(ColorSpaceEmissiveCIExyYType, m_CapY, element, number), LMX_FLAG(ColorSpaceEmissiveCIExyYType, m_isset_CapY), position_of(k_ColorSpaceEmissiveCIExyYType_elements, element_CapY), position_of(k_ColorSpaceEmissiveCIExyYType_elements, element_CapY, 1), nullptr, &facets::NonNegative, {}},
+    {item_kind::attribute, value_kind::text, use_name, ELMX_WS_PRESERVE, "Name", attribute_Name, LMX_OFFSET(ColorSpaceEmissiveCIExyYType, m_Name, attribute, text), LMX_FLAG(ColorSpaceEmissiveCIExyYType, m_isset_Name)},
+    {item_kind::child, value_kind::none, use_required, ELMX_WS_PRESERVE, "Vyr:ColorSpaceSpecificationEmissiveTristimulus", element_ColorSpaceSpecificationEmissiveTristimulus, LMX_OFFSET(ColorSpaceEmissiveCIExyYType, m_ColorSpaceSpecificationEmissiveTristimulus, child, none), LMX_FLAG(ColorSpaceEmissiveCIExyYType, m_isset_ColorSpaceSpecificationEmissiveTristimulus), position_of(k_ColorSpaceEmissiveCIExyYType_elements, element_ColorSpaceSpecificationEmissiveTristimulus), 1, &ColorSpaceSpecificationEmissiveTristimulus::k_class},
+    {item_kind::element, value_kind::number, use_required, ELMX_WS_COLLAPSE, "Vyr:X", element_X, LMX_OFFSET(ColorSpaceEmissiveCIExyYType, m_X, element, number), LMX_FLAG(ColorSpaceEmissiveCIExyYType, m_isset_X), position_of(k_ColorSpaceEmissiveCIExyYType_elements, element_X), 1, nullptr, &facets::Fraction},
+    {item_kind::element, value_kind::number, use_required, ELMX_WS_COLLAPSE, "Vyr:Y", element_Y, LMX_OFFSET(ColorSpaceEmissiveCIExyYType, m_Y, element, number), LMX_FLAG(ColorSpaceEmissiveCIExyYType, m_isset_Y), position_of(k_ColorSpaceEmissiveCIExyYType_elements, element_Y), 1, nullptr, &facets::Fraction},
+    {item_kind::element, value_kind::number, use_required, ELMX_WS_COLLAPSE, "Vyr:CapY", element_CapY, LMX_OFFSET(ColorSpaceEmissiveCIExyYType, m_CapY, element, number), LMX_FLAG(ColorSpaceEmissiveCIExyYType, m_isset_CapY), position_of(k_ColorSpaceEmissiveCIExyYType_elements, element_CapY), 1, nullptr, &facets::NonNegative},
 };
 constinit const s_class ColorSpaceEmissiveCIExyYType::k_class = {
     .name = "ColorSpaceEmissiveCIExyYType",
@@ -613,7 +537,6 @@ constinit const s_class ColorSpaceEmissiveCIExyYType::k_class = {
     .content = content_kind::children,
     .ns_map = k_ns_map,
     .id = &ColorSpaceEmissiveCIExyYType::id,
-    .xsi_type = "Vyr:ColorSpaceEmissiveCIExyYType",
     .attributes = std::span(k_items).first(std::size(k_ColorSpaceEmissiveCIExyYType_attributes) - 1),
     .elements = std::span(k_items).subspan(std::size(k_ColorSpaceEmissiveCIExyYType_attributes) - 1),
     .attribute_map = k_ColorSpaceEmissiveCIExyYType_attributes,
@@ -621,7 +544,7 @@ constinit const s_class ColorSpaceEmissiveCIExyYType::k_class = {
     .operations = &k_operations<ColorSpaceEmissiveCIExyYType>,
 };
 
-namespace { const char k_ColorSpaceEmissiveCIExyYType_id[] = "ColorSpaceEmissiveCIExyYType"; }
+const char k_ColorSpaceEmissiveCIExyYType_id[] = "ColorSpaceEmissiveCIExyYType";
 const char* ColorSpaceEmissiveCIExyYType::id = k_ColorSpaceEmissiveCIExyYType_id;
 ColorSpaceEmissiveCIExyYType::ColorSpaceEmissiveCIExyYType() = default;
 ColorSpaceEmissiveCIExyYType::ColorSpaceEmissiveCIExyYType(const ColorSpaceEmissiveCIExyYType& other) : ColorSpaceType() { lmx::copy(k_class, this, &other); }

@@ -37,6 +37,7 @@ public:
     void swap(ParentColorSpace& other);
     void reset();
     bool is_occurs_ok() const;
+    static const lmx::s_class k_class;
 
     /// The parent's value; the element's name says in which colour space.
     sg_ColorSpace& get_ColorSpace() { m_choice.is_touched = true; return *this; }
@@ -49,8 +50,6 @@ public:
     bool isnil_ParentColorSpace() const { return m_isnil; }
     void setnil_ParentColorSpace() { m_isnil = true; }
 
-    static const lmx::s_class k_class;
-
 protected:
     void marshal_attributes(lmx::c_xml_writer& writer) const { lmx::marshal_attributes(k_class, this, writer); }
     lmx::elmx_error marshal_child_elements(lmx::c_xml_writer& writer) const { return lmx::marshal_child_elements(k_class, this, writer); }
@@ -59,9 +58,6 @@ protected:
     bool unmarshal_body(lmx::c_xml_reader& reader, std::string* name, lmx::elmx_error* error) { return lmx::unmarshal_body(k_class, this, reader, name, error); }
 
 private:
-    enum item : std::size_t {
-        item_ColorSpace,
-    };
     static const lmx::s_item k_items[];
     bool m_isnil = false;
 };
@@ -82,6 +78,7 @@ public:
     void swap(ColorSpaceType& other);
     void reset();
     bool is_occurs_ok() const;
+    static const lmx::s_class k_class;
 
     /// Free remarks on the value.
     const std::u16string& get_Comments() const { return m_Comments; }
@@ -128,8 +125,6 @@ public:
     /// A new object of the type with that local name in namespace 1000, or null; the caller owns it.
     static ColorSpaceType* factory(int ns_id, const std::string& name);
     static const lmx::s_factory_row k_factory[28];
-
-    static const lmx::s_class k_class;
 
 protected:
     void marshal_attributes(lmx::c_xml_writer& writer) const { lmx::marshal_attributes(k_class, this, writer); }
@@ -183,6 +178,7 @@ public:
     void swap(ColorSpaceCIELabType& other);
     void reset();
     bool is_occurs_ok() const;
+    static const lmx::s_class k_class;
 
     /// Name of the value.
     const std::u16string& get_Name() const { return m_Name; }
@@ -209,8 +205,6 @@ public:
 
     /// The class's identity; `getid` and `has_id` work on its address.
     static const char* id;
-
-    static const lmx::s_class k_class;
 
 protected:
     void marshal_attributes(lmx::c_xml_writer& writer) const { lmx::marshal_attributes(k_class, this, writer); }
@@ -256,6 +250,7 @@ public:
     void swap(ColorSpaceCIELChType& other);
     void reset();
     bool is_occurs_ok() const;
+    static const lmx::s_class k_class;
 
     /// Name of the value.
     const std::u16string& get_Name() const { return m_Name; }
@@ -282,8 +277,6 @@ public:
 
     /// The class's identity; `getid` and `has_id` work on its address.
     static const char* id;
-
-    static const lmx::s_class k_class;
 
 protected:
     void marshal_attributes(lmx::c_xml_writer& writer) const { lmx::marshal_attributes(k_class, this, writer); }
@@ -329,6 +322,7 @@ public:
     void swap(ColorSpaceCIELuvType& other);
     void reset();
     bool is_occurs_ok() const;
+    static const lmx::s_class k_class;
 
     /// Name of the value.
     const std::u16string& get_Name() const { return m_Name; }
@@ -355,8 +349,6 @@ public:
 
     /// The class's identity; `getid` and `has_id` work on its address.
     static const char* id;
-
-    static const lmx::s_class k_class;
 
 protected:
     void marshal_attributes(lmx::c_xml_writer& writer) const { lmx::marshal_attributes(k_class, this, writer); }
@@ -402,6 +394,7 @@ public:
     void swap(ColorSpaceCIEXYZType& other);
     void reset();
     bool is_occurs_ok() const;
+    static const lmx::s_class k_class;
 
     /// Name of the value.
     const std::u16string& get_Name() const { return m_Name; }
@@ -428,8 +421,6 @@ public:
 
     /// The class's identity; `getid` and `has_id` work on its address.
     static const char* id;
-
-    static const lmx::s_class k_class;
 
 protected:
     void marshal_attributes(lmx::c_xml_writer& writer) const { lmx::marshal_attributes(k_class, this, writer); }
@@ -475,6 +466,7 @@ public:
     void swap(ColorSpaceCIExyYType& other);
     void reset();
     bool is_occurs_ok() const;
+    static const lmx::s_class k_class;
 
     /// Name of the value.
     const std::u16string& get_Name() const { return m_Name; }
@@ -501,8 +493,6 @@ public:
 
     /// The class's identity; `getid` and `has_id` work on its address.
     static const char* id;
-
-    static const lmx::s_class k_class;
 
 protected:
     void marshal_attributes(lmx::c_xml_writer& writer) const { lmx::marshal_attributes(k_class, this, writer); }
@@ -548,6 +538,7 @@ public:
     void swap(ColorSpaceEmissiveCIEXYZType& other);
     void reset();
     bool is_occurs_ok() const;
+    static const lmx::s_class k_class;
 
     /// Name of the value.
     const std::u16string& get_Name() const { return m_Name; }
@@ -574,8 +565,6 @@ public:
 
     /// The class's identity; `getid` and `has_id` work on its address.
     static const char* id;
-
-    static const lmx::s_class k_class;
 
 protected:
     void marshal_attributes(lmx::c_xml_writer& writer) const { lmx::marshal_attributes(k_class, this, writer); }
@@ -621,6 +610,7 @@ public:
     void swap(ColorSpaceEmissiveCIExyYType& other);
     void reset();
     bool is_occurs_ok() const;
+    static const lmx::s_class k_class;
 
     /// Name of the value.
     const std::u16string& get_Name() const { return m_Name; }
@@ -647,8 +637,6 @@ public:
 
     /// The class's identity; `getid` and `has_id` work on its address.
     static const char* id;
-
-    static const lmx::s_class k_class;
 
 protected:
     void marshal_attributes(lmx::c_xml_writer& writer) const { lmx::marshal_attributes(k_class, this, writer); }

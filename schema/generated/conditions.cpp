@@ -20,22 +20,17 @@ namespace com_vyrgraph_v2 {
 
 using namespace lmx;  // for the tables' sake
 
-static_assert(k_binding_version == 4, "run schema/generator/generate.py");
+static_assert(k_binding_version == 5, "run schema/generator/generate.py");
 
 // DeviceFilterType
 
-namespace {
 constexpr s_event_map k_DeviceFilterType_attributes[] = {
     attribute_event("CustomOrPartial", attribute_CustomOrPartial),
     k_end_of_map,
 };
-}  // namespace
-
 constinit const s_item DeviceFilterType::k_items[] = {
-    {item_kind::attribute, value_kind::text, use_optional, ELMX_WS_PRESERVE, "CustomOrPartial", attribute_CustomOrPartial,
-     LMX_OFFSET(DeviceFilterType, m_CustomOrPartial, attribute, text), LMX_FLAG(DeviceFilterType, m_isset_CustomOrPartial), 0, 0, nullptr, nullptr, {}},
-    {item_kind::content, value_kind::enumerated, use_required, ELMX_WS_PRESERVE, "", 0,
-     LMX_OFFSET(DeviceFilterType, m_DeviceFilterType, content, enumerated), LMX_FLAG(DeviceFilterType, m_isset_DeviceFilterType), 0, 0, nullptr, &facets::DeviceFilterKind, {}},
+    {item_kind::attribute, value_kind::text, use_optional, ELMX_WS_PRESERVE, "CustomOrPartial", attribute_CustomOrPartial, LMX_OFFSET(DeviceFilterType, m_CustomOrPartial, attribute, text), LMX_FLAG(DeviceFilterType, m_isset_CustomOrPartial)},
+    {item_kind::content, value_kind::enumerated, use_required, ELMX_WS_PRESERVE, "", 0, LMX_OFFSET(DeviceFilterType, m_DeviceFilterType, content, enumerated), LMX_FLAG(DeviceFilterType, m_isset_DeviceFilterType), 0, 0, nullptr, &facets::DeviceFilterKind},
 };
 constinit const s_class DeviceFilterType::k_class = {
     .name = "DeviceFilterType",
@@ -45,7 +40,6 @@ constinit const s_class DeviceFilterType::k_class = {
     .attributes = std::span(k_items).first(std::size(k_DeviceFilterType_attributes) - 1),
     .elements = std::span(k_items).subspan(std::size(k_DeviceFilterType_attributes) - 1),
     .attribute_map = k_DeviceFilterType_attributes,
-    .element_map = k_no_events,
     .operations = &k_operations<DeviceFilterType>,
 };
 
@@ -70,8 +64,6 @@ constinit const s_class DeviceFilter::k_class = {
     .base = &DeviceFilterType::k_class,
     .content = content_kind::simple,
     .nil_flag = LMX_FLAG(DeviceFilter, m_isnil),
-    .attribute_map = k_no_events,
-    .element_map = k_no_events,
     .operations = &k_operations<DeviceFilter>,
 };
 
@@ -90,17 +82,14 @@ bool DeviceFilter::setenum_DeviceFilterType(std::int32_t number) { const bool is
 // DevicePolarization
 
 constinit const s_item DevicePolarization::k_items[] = {
-    {item_kind::content, value_kind::boolean, use_required, ELMX_WS_COLLAPSE, "", 0,
-     LMX_OFFSET(DevicePolarization, m_DevicePolarization, content, boolean), LMX_FLAG(DevicePolarization, m_isset_DevicePolarization), 0, 0, nullptr, nullptr, {}},
+    {item_kind::content, value_kind::boolean, use_required, ELMX_WS_COLLAPSE, "", 0, LMX_OFFSET(DevicePolarization, m_DevicePolarization, content, boolean), LMX_FLAG(DevicePolarization, m_isset_DevicePolarization)},
 };
 constinit const s_class DevicePolarization::k_class = {
     .name = "DevicePolarization",
     .qualified_name = "Vyr:DevicePolarization",
     .content = content_kind::simple,
     .nil_flag = LMX_FLAG(DevicePolarization, m_isnil),
-    .elements = std::span(k_items).subspan(std::size(k_no_events) - 1),
-    .attribute_map = k_no_events,
-    .element_map = k_no_events,
+    .elements = k_items,
     .operations = &k_operations<DevicePolarization>,
 };
 
@@ -117,7 +106,6 @@ lmx::elmx_error DevicePolarization::set_DevicePolarization(bool value) { return 
 
 // ColorSpaceSpecificationType
 
-namespace {
 constexpr s_event_map k_ColorSpaceSpecificationType_attributes[] = {
     attribute_event("Comments", attribute_Comments),
     attribute_event("UniqueID", attribute_UniqueID),
@@ -132,25 +120,15 @@ constexpr s_event_map k_ColorSpaceSpecificationType_elements[] = {
     element_event("ChangeHistory", element_ChangeHistory),
     k_end_of_map,
 };
-}  // namespace
-
 constinit const s_item ColorSpaceSpecificationType::k_items[] = {
-    {item_kind::attribute, value_kind::text, use_optional, ELMX_WS_PRESERVE, "Comments", attribute_Comments,
-     LMX_OFFSET(ColorSpaceSpecificationType, m_Comments, attribute, text), LMX_FLAG(ColorSpaceSpecificationType, m_isset_Comments), 0, 0, nullptr, nullptr, {}},
-    {item_kind::attribute, value_kind::text, use_optional, ELMX_WS_PRESERVE, "UniqueID", attribute_UniqueID,
-     LMX_OFFSET(ColorSpaceSpecificationType, m_UniqueID, attribute, text), LMX_FLAG(ColorSpaceSpecificationType, m_isset_UniqueID), 0, 0, nullptr, nullptr, {}},
-    {item_kind::child_list, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:CustomAttribute", element_CustomAttribute,
-     LMX_OFFSET(ColorSpaceSpecificationType, m_CustomAttribute, child_list, none), k_no_flag, position_of(k_ColorSpaceSpecificationType_elements, element_CustomAttribute), position_of(k_ColorSpaceSpecificationType_elements, element_CustomAttribute, 1), &CustomAttributeType::k_class, nullptr, {}},
-    {item_kind::optional_child, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:Profile", element_Profile,
-     LMX_OFFSET(ColorSpaceSpecificationType, m_Profile, optional_child, none), LMX_FLAG(ColorSpaceSpecificationType, m_isset_Profile), position_of(k_ColorSpaceSpecificationType_elements, element_Profile), position_of(k_ColorSpaceSpecificationType_elements, element_Profile, 1), &ProfileType::k_class, nullptr, {}},
-    {item_kind::optional_child, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:Device", element_Device,
-     LMX_OFFSET(ColorSpaceSpecificationType, m_Device, optional_child, none), LMX_FLAG(ColorSpaceSpecificationType, m_isset_Device), position_of(k_ColorSpaceSpecificationType_elements, element_Device), position_of(k_ColorSpaceSpecificationType_elements, element_Device, 1), &DeviceType::k_class, nullptr, {}},
-    {item_kind::child, value_kind::none, use_written, ELMX_WS_PRESERVE, "Vyr:DeviceFilter", element_DeviceFilter,
-     LMX_OFFSET(ColorSpaceSpecificationType, m_DeviceFilter, child, none), LMX_FLAG(ColorSpaceSpecificationType, m_isset_DeviceFilter), position_of(k_ColorSpaceSpecificationType_elements, element_DeviceFilter), position_of(k_ColorSpaceSpecificationType_elements, element_DeviceFilter, 1), &DeviceFilter::k_class, nullptr, {}},
-    {item_kind::child, value_kind::none, use_required, ELMX_WS_PRESERVE, "Vyr:DevicePolarization", element_DevicePolarization,
-     LMX_OFFSET(ColorSpaceSpecificationType, m_DevicePolarization, child, none), LMX_FLAG(ColorSpaceSpecificationType, m_isset_DevicePolarization), position_of(k_ColorSpaceSpecificationType_elements, element_DevicePolarization), position_of(k_ColorSpaceSpecificationType_elements, element_DevicePolarization, 1), &DevicePolarization::k_class, nullptr, {}},
-    {item_kind::element_list, value_kind::datetime, use_demanded | use_asked, ELMX_WS_COLLAPSE, "Vyr:ChangeHistory", element_ChangeHistory,
-     LMX_OFFSET(ColorSpaceSpecificationType, m_ChangeHistory, element_list, datetime), k_no_flag, position_of(k_ColorSpaceSpecificationType_elements, element_ChangeHistory), position_of(k_ColorSpaceSpecificationType_elements, element_ChangeHistory, 1), nullptr, &facets::DateTimeZone, {}},
+    {item_kind::attribute, value_kind::text, use_optional, ELMX_WS_PRESERVE, "Comments", attribute_Comments, LMX_OFFSET(ColorSpaceSpecificationType, m_Comments, attribute, text), LMX_FLAG(ColorSpaceSpecificationType, m_isset_Comments)},
+    {item_kind::attribute, value_kind::text, use_optional, ELMX_WS_PRESERVE, "UniqueID", attribute_UniqueID, LMX_OFFSET(ColorSpaceSpecificationType, m_UniqueID, attribute, text), LMX_FLAG(ColorSpaceSpecificationType, m_isset_UniqueID)},
+    {item_kind::child_list, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:CustomAttribute", element_CustomAttribute, LMX_OFFSET(ColorSpaceSpecificationType, m_CustomAttribute, child_list, none), k_no_flag, position_of(k_ColorSpaceSpecificationType_elements, element_CustomAttribute), 1, &CustomAttributeType::k_class},
+    {item_kind::optional_child, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:Profile", element_Profile, LMX_OFFSET(ColorSpaceSpecificationType, m_Profile, optional_child, none), LMX_FLAG(ColorSpaceSpecificationType, m_isset_Profile), position_of(k_ColorSpaceSpecificationType_elements, element_Profile), 1, &ProfileType::k_class},
+    {item_kind::optional_child, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:Device", element_Device, LMX_OFFSET(ColorSpaceSpecificationType, m_Device, optional_child, none), LMX_FLAG(ColorSpaceSpecificationType, m_isset_Device), position_of(k_ColorSpaceSpecificationType_elements, element_Device), 1, &DeviceType::k_class},
+    {item_kind::child, value_kind::none, use_written, ELMX_WS_PRESERVE, "Vyr:DeviceFilter", element_DeviceFilter, LMX_OFFSET(ColorSpaceSpecificationType, m_DeviceFilter, child, none), LMX_FLAG(ColorSpaceSpecificationType, m_isset_DeviceFilter), position_of(k_ColorSpaceSpecificationType_elements, element_DeviceFilter), 1, &DeviceFilter::k_class},
+    {item_kind::child, value_kind::none, use_required, ELMX_WS_PRESERVE, "Vyr:DevicePolarization", element_DevicePolarization, LMX_OFFSET(ColorSpaceSpecificationType, m_DevicePolarization, child, none), LMX_FLAG(ColorSpaceSpecificationType, m_isset_DevicePolarization), position_of(k_ColorSpaceSpecificationType_elements, element_DevicePolarization), 1, &DevicePolarization::k_class},
+    {item_kind::element_list, value_kind::datetime, use_demanded | use_asked, ELMX_WS_COLLAPSE, "Vyr:ChangeHistory", element_ChangeHistory, LMX_OFFSET(ColorSpaceSpecificationType, m_ChangeHistory, element_list, datetime), k_no_flag, position_of(k_ColorSpaceSpecificationType_elements, element_ChangeHistory), 1, nullptr, &facets::DateTimeZone},
 };
 constinit const s_factory_row ColorSpaceSpecificationType::k_factory[] = {
     {"ColorSpaceSpecificationSpectrumType", &ColorSpaceSpecificationSpectrumType::k_class},
@@ -168,7 +146,6 @@ constinit const s_class ColorSpaceSpecificationType::k_class = {
     .content = content_kind::children,
     .ns_map = k_ns_map,
     .id = &ColorSpaceSpecificationType::id,
-    .xsi_type = "Vyr:ColorSpaceSpecificationType",
     .attributes = std::span(k_items).first(std::size(k_ColorSpaceSpecificationType_attributes) - 1),
     .elements = std::span(k_items).subspan(std::size(k_ColorSpaceSpecificationType_attributes) - 1),
     .attribute_map = k_ColorSpaceSpecificationType_attributes,
@@ -176,7 +153,7 @@ constinit const s_class ColorSpaceSpecificationType::k_class = {
     .operations = &k_operations<ColorSpaceSpecificationType>,
 };
 
-namespace { const char k_ColorSpaceSpecificationType_id[] = "ColorSpaceSpecificationType"; }
+const char k_ColorSpaceSpecificationType_id[] = "ColorSpaceSpecificationType";
 const char* ColorSpaceSpecificationType::id = k_ColorSpaceSpecificationType_id;
 ColorSpaceSpecificationType::ColorSpaceSpecificationType() = default;
 ColorSpaceSpecificationType::ColorSpaceSpecificationType(const ColorSpaceSpecificationType& other) { lmx::copy(k_class, this, &other); }
@@ -215,18 +192,13 @@ ColorSpaceSpecificationType* ColorSpaceSpecificationType::factory(int ns_id, con
 
 // SpectrumType
 
-namespace {
 constexpr s_event_map k_SpectrumType_attributes[] = {
     attribute_event("CustomTypeName", attribute_CustomTypeName),
     k_end_of_map,
 };
-}  // namespace
-
 constinit const s_item SpectrumType::k_items[] = {
-    {item_kind::attribute, value_kind::text, use_optional, ELMX_WS_PRESERVE, "CustomTypeName", attribute_CustomTypeName,
-     LMX_OFFSET(SpectrumType, m_CustomTypeName, attribute, text), LMX_FLAG(SpectrumType, m_isset_CustomTypeName), 0, 0, nullptr, nullptr, {}},
-    {item_kind::content, value_kind::enumerated, use_required, ELMX_WS_PRESERVE, "", 0,
-     LMX_OFFSET(SpectrumType, m_SpectrumType, content, enumerated), LMX_FLAG(SpectrumType, m_isset_SpectrumType), 0, 0, nullptr, &facets::SpectrumKind, {}},
+    {item_kind::attribute, value_kind::text, use_optional, ELMX_WS_PRESERVE, "CustomTypeName", attribute_CustomTypeName, LMX_OFFSET(SpectrumType, m_CustomTypeName, attribute, text), LMX_FLAG(SpectrumType, m_isset_CustomTypeName)},
+    {item_kind::content, value_kind::enumerated, use_required, ELMX_WS_PRESERVE, "", 0, LMX_OFFSET(SpectrumType, m_SpectrumType, content, enumerated), LMX_FLAG(SpectrumType, m_isset_SpectrumType), 0, 0, nullptr, &facets::SpectrumKind},
 };
 constinit const s_class SpectrumType::k_class = {
     .name = "SpectrumType",
@@ -236,7 +208,6 @@ constinit const s_class SpectrumType::k_class = {
     .attributes = std::span(k_items).first(std::size(k_SpectrumType_attributes) - 1),
     .elements = std::span(k_items).subspan(std::size(k_SpectrumType_attributes) - 1),
     .attribute_map = k_SpectrumType_attributes,
-    .element_map = k_no_events,
     .operations = &k_operations<SpectrumType>,
 };
 
@@ -255,16 +226,12 @@ bool SpectrumType::setenum_SpectrumType(std::int32_t number) { return lmx::set_e
 
 // ColorSpaceSpecificationSpectrumType
 
-namespace {
 constexpr s_event_map k_ColorSpaceSpecificationSpectrumType_elements[] = {
     element_event("Spectrum", element_Spectrum),
     k_end_of_map,
 };
-}  // namespace
-
 constinit const s_item ColorSpaceSpecificationSpectrumType::k_items[] = {
-    {item_kind::child, value_kind::none, use_required, ELMX_WS_PRESERVE, "Vyr:Spectrum", element_Spectrum,
-     LMX_OFFSET(ColorSpaceSpecificationSpectrumType, m_Spectrum, child, none), LMX_FLAG(ColorSpaceSpecificationSpectrumType, m_isset_Spectrum), position_of(k_ColorSpaceSpecificationSpectrumType_elements, element_Spectrum), position_of(k_ColorSpaceSpecificationSpectrumType_elements, element_Spectrum, 1), &SpectrumType::k_class, nullptr, {}},
+    {item_kind::child, value_kind::none, use_required, ELMX_WS_PRESERVE, "Vyr:Spectrum", element_Spectrum, LMX_OFFSET(ColorSpaceSpecificationSpectrumType, m_Spectrum, child, none), LMX_FLAG(ColorSpaceSpecificationSpectrumType, m_isset_Spectrum), position_of(k_ColorSpaceSpecificationSpectrumType_elements, element_Spectrum), 1, &SpectrumType::k_class},
 };
 constinit const s_factory_row ColorSpaceSpecificationSpectrumType::k_factory[] = {
     {"ColorSpaceSpecificationSpectrumType", &ColorSpaceSpecificationSpectrumType::k_class},
@@ -279,14 +246,12 @@ constinit const s_class ColorSpaceSpecificationSpectrumType::k_class = {
     .content = content_kind::children,
     .ns_map = k_ns_map,
     .id = &ColorSpaceSpecificationSpectrumType::id,
-    .xsi_type = "Vyr:ColorSpaceSpecificationSpectrumType",
-    .elements = std::span(k_items).subspan(std::size(k_no_events) - 1),
-    .attribute_map = k_no_events,
+    .elements = k_items,
     .element_map = k_ColorSpaceSpecificationSpectrumType_elements,
     .operations = &k_operations<ColorSpaceSpecificationSpectrumType>,
 };
 
-namespace { const char k_ColorSpaceSpecificationSpectrumType_id[] = "ColorSpaceSpecificationSpectrumType"; }
+const char k_ColorSpaceSpecificationSpectrumType_id[] = "ColorSpaceSpecificationSpectrumType";
 const char* ColorSpaceSpecificationSpectrumType::id = k_ColorSpaceSpecificationSpectrumType_id;
 ColorSpaceSpecificationSpectrumType::ColorSpaceSpecificationSpectrumType() = default;
 ColorSpaceSpecificationSpectrumType::ColorSpaceSpecificationSpectrumType(const ColorSpaceSpecificationSpectrumType& other) : ColorSpaceSpecificationType() { lmx::copy(k_class, this, &other); }
@@ -305,19 +270,14 @@ ColorSpaceSpecificationSpectrumType* ColorSpaceSpecificationSpectrumType::factor
 
 // ColorSpaceSpecificationEmissiveType
 
-namespace {
 constexpr s_event_map k_ColorSpaceSpecificationEmissiveType_elements[] = {
     element_event("EmissiveType", element_EmissiveType),
     element_event("EmissiveMode", element_EmissiveMode),
     k_end_of_map,
 };
-}  // namespace
-
 constinit const s_item ColorSpaceSpecificationEmissiveType::k_items[] = {
-    {item_kind::element, value_kind::enumerated, use_required, ELMX_WS_PRESERVE, "Vyr:EmissiveType", element_EmissiveType,
-     LMX_OFFSET(ColorSpaceSpecificationEmissiveType, m_EmissiveType, element, enumerated), LMX_FLAG(ColorSpaceSpecificationEmissiveType, m_isset_EmissiveType), position_of(k_ColorSpaceSpecificationEmissiveType_elements, element_EmissiveType), position_of(k_ColorSpaceSpecificationEmissiveType_elements, element_EmissiveType, 1), nullptr, &facets::EmissiveKind, {}},
-    {item_kind::element, value_kind::enumerated, use_required, ELMX_WS_PRESERVE, "Vyr:EmissiveMode", element_EmissiveMode,
-     LMX_OFFSET(ColorSpaceSpecificationEmissiveType, m_EmissiveMode, element, enumerated), LMX_FLAG(ColorSpaceSpecificationEmissiveType, m_isset_EmissiveMode), position_of(k_ColorSpaceSpecificationEmissiveType_elements, element_EmissiveMode), position_of(k_ColorSpaceSpecificationEmissiveType_elements, element_EmissiveMode, 1), nullptr, &facets::EmissiveModeKind, {}},
+    {item_kind::element, value_kind::enumerated, use_required, ELMX_WS_PRESERVE, "Vyr:EmissiveType", element_EmissiveType, LMX_OFFSET(ColorSpaceSpecificationEmissiveType, m_EmissiveType, element, enumerated), LMX_FLAG(ColorSpaceSpecificationEmissiveType, m_isset_EmissiveType), position_of(k_ColorSpaceSpecificationEmissiveType_elements, element_EmissiveType), 1, nullptr, &facets::EmissiveKind},
+    {item_kind::element, value_kind::enumerated, use_required, ELMX_WS_PRESERVE, "Vyr:EmissiveMode", element_EmissiveMode, LMX_OFFSET(ColorSpaceSpecificationEmissiveType, m_EmissiveMode, element, enumerated), LMX_FLAG(ColorSpaceSpecificationEmissiveType, m_isset_EmissiveMode), position_of(k_ColorSpaceSpecificationEmissiveType_elements, element_EmissiveMode), 1, nullptr, &facets::EmissiveModeKind},
 };
 constinit const s_factory_row ColorSpaceSpecificationEmissiveType::k_factory[] = {
     {"ColorSpaceSpecificationEmissiveType", &ColorSpaceSpecificationEmissiveType::k_class},
@@ -332,14 +292,12 @@ constinit const s_class ColorSpaceSpecificationEmissiveType::k_class = {
     .content = content_kind::children,
     .ns_map = k_ns_map,
     .id = &ColorSpaceSpecificationEmissiveType::id,
-    .xsi_type = "Vyr:ColorSpaceSpecificationEmissiveType",
-    .elements = std::span(k_items).subspan(std::size(k_no_events) - 1),
-    .attribute_map = k_no_events,
+    .elements = k_items,
     .element_map = k_ColorSpaceSpecificationEmissiveType_elements,
     .operations = &k_operations<ColorSpaceSpecificationEmissiveType>,
 };
 
-namespace { const char k_ColorSpaceSpecificationEmissiveType_id[] = "ColorSpaceSpecificationEmissiveType"; }
+const char k_ColorSpaceSpecificationEmissiveType_id[] = "ColorSpaceSpecificationEmissiveType";
 const char* ColorSpaceSpecificationEmissiveType::id = k_ColorSpaceSpecificationEmissiveType_id;
 ColorSpaceSpecificationEmissiveType::ColorSpaceSpecificationEmissiveType() = default;
 ColorSpaceSpecificationEmissiveType::ColorSpaceSpecificationEmissiveType(const ColorSpaceSpecificationEmissiveType& other) : ColorSpaceSpecificationType() { lmx::copy(k_class, this, &other); }
@@ -361,7 +319,6 @@ ColorSpaceSpecificationEmissiveType* ColorSpaceSpecificationEmissiveType::factor
 
 // GeometryChoiceType
 
-namespace {
 constexpr s_event_map k_GeometryChoiceType_elements[] = {
     element_event("SphereGeometry", element_SphereGeometry),
     element_event("Angle", element_Angle),
@@ -369,17 +326,11 @@ constexpr s_event_map k_GeometryChoiceType_elements[] = {
     element_event("BSDFAngle", element_BSDFAngle),
     k_end_of_map,
 };
-}  // namespace
-
 constinit const s_item GeometryChoiceType::k_items[] = {
-    {item_kind::alternative, value_kind::enumerated, use_optional, ELMX_WS_PRESERVE, "Vyr:SphereGeometry", element_SphereGeometry,
-     0, k_no_flag, position_of(k_GeometryChoiceType_elements, element_SphereGeometry), position_of(k_GeometryChoiceType_elements, element_SphereGeometry, 1), nullptr, &facets::SphereGeometryKind, {}},
-    {item_kind::alternative, value_kind::number, use_optional, ELMX_WS_COLLAPSE, "Vyr:Angle", element_Angle,
-     0, k_no_flag, position_of(k_GeometryChoiceType_elements, element_Angle), position_of(k_GeometryChoiceType_elements, element_Angle, 1), nullptr, nullptr, {}},
-    {item_kind::alternative, value_kind::text, use_optional, ELMX_WS_PRESERVE, "Vyr:UnknownGeometry", element_UnknownGeometry,
-     0, k_no_flag, position_of(k_GeometryChoiceType_elements, element_UnknownGeometry), position_of(k_GeometryChoiceType_elements, element_UnknownGeometry, 1), nullptr, &facets::NonEmptyString, {}},
-    {item_kind::alternative, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:BSDFAngle", element_BSDFAngle,
-     0, k_no_flag, position_of(k_GeometryChoiceType_elements, element_BSDFAngle), position_of(k_GeometryChoiceType_elements, element_BSDFAngle, 1), &BSDFAngle::k_class, nullptr, {}},
+    {item_kind::alternative, value_kind::enumerated, use_optional, ELMX_WS_PRESERVE, "Vyr:SphereGeometry", element_SphereGeometry, 0, k_no_flag, position_of(k_GeometryChoiceType_elements, element_SphereGeometry), 1, nullptr, &facets::SphereGeometryKind},
+    {item_kind::alternative, value_kind::number, use_optional, ELMX_WS_COLLAPSE, "Vyr:Angle", element_Angle, 0, k_no_flag, position_of(k_GeometryChoiceType_elements, element_Angle), 1},
+    {item_kind::alternative, value_kind::text, use_optional, ELMX_WS_PRESERVE, "Vyr:UnknownGeometry", element_UnknownGeometry, 0, k_no_flag, position_of(k_GeometryChoiceType_elements, element_UnknownGeometry), 1, nullptr, &facets::NonEmptyString},
+    {item_kind::alternative, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:BSDFAngle", element_BSDFAngle, 0, k_no_flag, position_of(k_GeometryChoiceType_elements, element_BSDFAngle), 1, &BSDFAngle::k_class},
 };
 constinit const s_class GeometryChoiceType::k_class = {
     .name = "GeometryChoiceType",
@@ -387,8 +338,7 @@ constinit const s_class GeometryChoiceType::k_class = {
     .content = content_kind::choice,
     .ns_map = k_ns_map,
     .choice = LMX_CHOICE(GeometryChoiceType, m_choice),
-    .elements = std::span(k_items).subspan(std::size(k_no_events) - 1),
-    .attribute_map = k_no_events,
+    .elements = k_items,
     .element_map = k_GeometryChoiceType_elements,
     .operations = &k_operations<GeometryChoiceType>,
 };
@@ -414,7 +364,6 @@ BSDFAngle& GeometryChoiceType::assign_BSDFAngle(const BSDFAngle& value) { BSDFAn
 
 // IlluminationOptionsType
 
-namespace {
 constexpr s_event_map k_IlluminationOptionsType_attributes[] = {
     attribute_event("Description", attribute_Description),
     k_end_of_map,
@@ -425,17 +374,11 @@ constexpr s_event_map k_IlluminationOptionsType_elements[] = {
     element_event("ColorTemperature", element_ColorTemperature),
     k_end_of_map,
 };
-}  // namespace
-
 constinit const s_item IlluminationOptionsType::k_items[] = {
-    {item_kind::attribute, value_kind::text, use_optional, ELMX_WS_PRESERVE, "Description", attribute_Description,
-     LMX_OFFSET(IlluminationOptionsType, m_Description, attribute, text), LMX_FLAG(IlluminationOptionsType, m_isset_Description), 0, 0, nullptr, nullptr, {}},
-    {item_kind::alternative, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:Illuminant", element_Illuminant,
-     0, k_no_flag, position_of(k_IlluminationOptionsType_elements, element_Illuminant), position_of(k_IlluminationOptionsType_elements, element_Illuminant, 1), &Illuminant::k_class, nullptr, {}},
-    {item_kind::alternative, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:WhitePointChromaticity", element_WhitePointChromaticity,
-     0, k_no_flag, position_of(k_IlluminationOptionsType_elements, element_WhitePointChromaticity), position_of(k_IlluminationOptionsType_elements, element_WhitePointChromaticity, 1), &WhitePointChromaticity::k_class, nullptr, {}},
-    {item_kind::alternative, value_kind::uint32, use_optional, ELMX_WS_COLLAPSE, "Vyr:ColorTemperature", element_ColorTemperature,
-     0, k_no_flag, position_of(k_IlluminationOptionsType_elements, element_ColorTemperature), position_of(k_IlluminationOptionsType_elements, element_ColorTemperature, 1), nullptr, &facets::PositiveInt32, {}},
+    {item_kind::attribute, value_kind::text, use_optional, ELMX_WS_PRESERVE, "Description", attribute_Description, LMX_OFFSET(IlluminationOptionsType, m_Description, attribute, text), LMX_FLAG(IlluminationOptionsType, m_isset_Description)},
+    {item_kind::alternative, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:Illuminant", element_Illuminant, 0, k_no_flag, position_of(k_IlluminationOptionsType_elements, element_Illuminant), 1, &Illuminant::k_class},
+    {item_kind::alternative, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:WhitePointChromaticity", element_WhitePointChromaticity, 0, k_no_flag, position_of(k_IlluminationOptionsType_elements, element_WhitePointChromaticity), 1, &WhitePointChromaticity::k_class},
+    {item_kind::alternative, value_kind::uint32, use_optional, ELMX_WS_COLLAPSE, "Vyr:ColorTemperature", element_ColorTemperature, 0, k_no_flag, position_of(k_IlluminationOptionsType_elements, element_ColorTemperature), 1, nullptr, &facets::PositiveInt32},
 };
 constinit const s_class IlluminationOptionsType::k_class = {
     .name = "IlluminationOptionsType",
@@ -468,7 +411,6 @@ lmx::elmx_error IlluminationOptionsType::set_ColorTemperature(std::uint32_t valu
 
 // ColorSpaceSpecificationSpectrumGenericType
 
-namespace {
 constexpr s_event_map k_ColorSpaceSpecificationSpectrumGenericType_elements[] = {
     element_event("GeometryChoice", element_GeometryChoice),
     element_event("IlluminationOptions", element_IlluminationOptions),
@@ -478,21 +420,13 @@ constexpr s_event_map k_ColorSpaceSpecificationSpectrumGenericType_elements[] = 
     element_event("DensityStatus", element_DensityStatus),
     k_end_of_map,
 };
-}  // namespace
-
 constinit const s_item ColorSpaceSpecificationSpectrumGenericType::k_items[] = {
-    {item_kind::optional_child, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:GeometryChoice", element_GeometryChoice,
-     LMX_OFFSET(ColorSpaceSpecificationSpectrumGenericType, m_GeometryChoice, optional_child, none), LMX_FLAG(ColorSpaceSpecificationSpectrumGenericType, m_isset_GeometryChoice), position_of(k_ColorSpaceSpecificationSpectrumGenericType_elements, element_GeometryChoice), position_of(k_ColorSpaceSpecificationSpectrumGenericType_elements, element_GeometryChoice, 1), &GeometryChoiceType::k_class, nullptr, {}},
-    {item_kind::optional_child, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:IlluminationOptions", element_IlluminationOptions,
-     LMX_OFFSET(ColorSpaceSpecificationSpectrumGenericType, m_IlluminationOptions, optional_child, none), LMX_FLAG(ColorSpaceSpecificationSpectrumGenericType, m_isset_IlluminationOptions), position_of(k_ColorSpaceSpecificationSpectrumGenericType_elements, element_IlluminationOptions), position_of(k_ColorSpaceSpecificationSpectrumGenericType_elements, element_IlluminationOptions, 1), &IlluminationOptionsType::k_class, nullptr, {}},
-    {item_kind::element, value_kind::enumerated, use_optional, ELMX_WS_PRESERVE, "Vyr:FieldOfView", element_FieldOfView,
-     LMX_OFFSET(ColorSpaceSpecificationSpectrumGenericType, m_FieldOfView, element, enumerated), LMX_FLAG(ColorSpaceSpecificationSpectrumGenericType, m_isset_FieldOfView), position_of(k_ColorSpaceSpecificationSpectrumGenericType_elements, element_FieldOfView), position_of(k_ColorSpaceSpecificationSpectrumGenericType_elements, element_FieldOfView, 1), nullptr, &facets::ObserverKind, {}},
-    {item_kind::element, value_kind::enumerated, use_optional, ELMX_WS_PRESERVE, "Vyr:ASTM_Table", element_ASTM_Table,
-     LMX_OFFSET(ColorSpaceSpecificationSpectrumGenericType, m_ASTM_Table, element, enumerated), LMX_FLAG(ColorSpaceSpecificationSpectrumGenericType, m_isset_ASTM_Table), position_of(k_ColorSpaceSpecificationSpectrumGenericType_elements, element_ASTM_Table), position_of(k_ColorSpaceSpecificationSpectrumGenericType_elements, element_ASTM_Table, 1), nullptr, &facets::AstmTableKind, {}},
-    {item_kind::element, value_kind::number, use_optional, ELMX_WS_COLLAPSE, "Vyr:Gamma", element_Gamma,
-     LMX_OFFSET(ColorSpaceSpecificationSpectrumGenericType, m_Gamma, element, number), LMX_FLAG(ColorSpaceSpecificationSpectrumGenericType, m_isset_Gamma), position_of(k_ColorSpaceSpecificationSpectrumGenericType_elements, element_Gamma), position_of(k_ColorSpaceSpecificationSpectrumGenericType_elements, element_Gamma, 1), nullptr, nullptr, {}},
-    {item_kind::element, value_kind::enumerated, use_optional, ELMX_WS_PRESERVE, "Vyr:DensityStatus", element_DensityStatus,
-     LMX_OFFSET(ColorSpaceSpecificationSpectrumGenericType, m_DensityStatus, element, enumerated), LMX_FLAG(ColorSpaceSpecificationSpectrumGenericType, m_isset_DensityStatus), position_of(k_ColorSpaceSpecificationSpectrumGenericType_elements, element_DensityStatus), position_of(k_ColorSpaceSpecificationSpectrumGenericType_elements, element_DensityStatus, 1), nullptr, &facets::DensityStatusKind, {}},
+    {item_kind::optional_child, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:GeometryChoice", element_GeometryChoice, LMX_OFFSET(ColorSpaceSpecificationSpectrumGenericType, m_GeometryChoice, optional_child, none), LMX_FLAG(ColorSpaceSpecificationSpectrumGenericType, m_isset_GeometryChoice), position_of(k_ColorSpaceSpecificationSpectrumGenericType_elements, element_GeometryChoice), 1, &GeometryChoiceType::k_class},
+    {item_kind::optional_child, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:IlluminationOptions", element_IlluminationOptions, LMX_OFFSET(ColorSpaceSpecificationSpectrumGenericType, m_IlluminationOptions, optional_child, none), LMX_FLAG(ColorSpaceSpecificationSpectrumGenericType, m_isset_IlluminationOptions), position_of(k_ColorSpaceSpecificationSpectrumGenericType_elements, element_IlluminationOptions), 1, &IlluminationOptionsType::k_class},
+    {item_kind::element, value_kind::enumerated, use_optional, ELMX_WS_PRESERVE, "Vyr:FieldOfView", element_FieldOfView, LMX_OFFSET(ColorSpaceSpecificationSpectrumGenericType, m_FieldOfView, element, enumerated), LMX_FLAG(ColorSpaceSpecificationSpectrumGenericType, m_isset_FieldOfView), position_of(k_ColorSpaceSpecificationSpectrumGenericType_elements, element_FieldOfView), 1, nullptr, &facets::ObserverKind},
+    {item_kind::element, value_kind::enumerated, use_optional, ELMX_WS_PRESERVE, "Vyr:ASTM_Table", element_ASTM_Table, LMX_OFFSET(ColorSpaceSpecificationSpectrumGenericType, m_ASTM_Table, element, enumerated), LMX_FLAG(ColorSpaceSpecificationSpectrumGenericType, m_isset_ASTM_Table), position_of(k_ColorSpaceSpecificationSpectrumGenericType_elements, element_ASTM_Table), 1, nullptr, &facets::AstmTableKind},
+    {item_kind::element, value_kind::number, use_optional, ELMX_WS_COLLAPSE, "Vyr:Gamma", element_Gamma, LMX_OFFSET(ColorSpaceSpecificationSpectrumGenericType, m_Gamma, element, number), LMX_FLAG(ColorSpaceSpecificationSpectrumGenericType, m_isset_Gamma), position_of(k_ColorSpaceSpecificationSpectrumGenericType_elements, element_Gamma), 1},
+    {item_kind::element, value_kind::enumerated, use_optional, ELMX_WS_PRESERVE, "Vyr:DensityStatus", element_DensityStatus, LMX_OFFSET(ColorSpaceSpecificationSpectrumGenericType, m_DensityStatus, element, enumerated), LMX_FLAG(ColorSpaceSpecificationSpectrumGenericType, m_isset_DensityStatus), position_of(k_ColorSpaceSpecificationSpectrumGenericType_elements, element_DensityStatus), 1, nullptr, &facets::DensityStatusKind},
 };
 constinit const s_class ColorSpaceSpecificationSpectrumGenericType::k_class = {
     .name = "ColorSpaceSpecificationSpectrumGenericType",
@@ -501,14 +435,12 @@ constinit const s_class ColorSpaceSpecificationSpectrumGenericType::k_class = {
     .content = content_kind::children,
     .ns_map = k_ns_map,
     .id = &ColorSpaceSpecificationSpectrumGenericType::id,
-    .xsi_type = "Vyr:ColorSpaceSpecificationSpectrumGenericType",
-    .elements = std::span(k_items).subspan(std::size(k_no_events) - 1),
-    .attribute_map = k_no_events,
+    .elements = k_items,
     .element_map = k_ColorSpaceSpecificationSpectrumGenericType_elements,
     .operations = &k_operations<ColorSpaceSpecificationSpectrumGenericType>,
 };
 
-namespace { const char k_ColorSpaceSpecificationSpectrumGenericType_id[] = "ColorSpaceSpecificationSpectrumGenericType"; }
+const char k_ColorSpaceSpecificationSpectrumGenericType_id[] = "ColorSpaceSpecificationSpectrumGenericType";
 const char* ColorSpaceSpecificationSpectrumGenericType::id = k_ColorSpaceSpecificationSpectrumGenericType_id;
 ColorSpaceSpecificationSpectrumGenericType::ColorSpaceSpecificationSpectrumGenericType() = default;
 ColorSpaceSpecificationSpectrumGenericType::ColorSpaceSpecificationSpectrumGenericType(const ColorSpaceSpecificationSpectrumGenericType& other) : ColorSpaceSpecificationSpectrumType() { lmx::copy(k_class, this, &other); }
@@ -538,7 +470,6 @@ bool ColorSpaceSpecificationSpectrumGenericType::setenum_DensityStatus(std::int3
 
 // ColorSpaceSpecificationSpectrumTristimulusType
 
-namespace {
 constexpr s_event_map k_ColorSpaceSpecificationSpectrumTristimulusType_elements[] = {
     element_event("IlluminationOptions", element_IlluminationOptions),
     element_event("FieldOfView", element_FieldOfView),
@@ -547,19 +478,12 @@ constexpr s_event_map k_ColorSpaceSpecificationSpectrumTristimulusType_elements[
     element_event("Gamma", element_Gamma),
     k_end_of_map,
 };
-}  // namespace
-
 constinit const s_item ColorSpaceSpecificationSpectrumTristimulusType::k_items[] = {
-    {item_kind::child, value_kind::none, use_required, ELMX_WS_PRESERVE, "Vyr:IlluminationOptions", element_IlluminationOptions,
-     LMX_OFFSET(ColorSpaceSpecificationSpectrumTristimulusType, m_IlluminationOptions, child, none), LMX_FLAG(ColorSpaceSpecificationSpectrumTristimulusType, m_isset_IlluminationOptions), position_of(k_ColorSpaceSpecificationSpectrumTristimulusType_elements, element_IlluminationOptions), position_of(k_ColorSpaceSpecificationSpectrumTristimulusType_elements, element_IlluminationOptions, 1), &IlluminationOptionsType::k_class, nullptr, {}},
-    {item_kind::element, value_kind::enumerated, use_required, ELMX_WS_PRESERVE, "Vyr:FieldOfView", element_FieldOfView,
-     LMX_OFFSET(ColorSpaceSpecificationSpectrumTristimulusType, m_FieldOfView, element, enumerated), LMX_FLAG(ColorSpaceSpecificationSpectrumTristimulusType, m_isset_FieldOfView), position_of(k_ColorSpaceSpecificationSpectrumTristimulusType_elements, element_FieldOfView), position_of(k_ColorSpaceSpecificationSpectrumTristimulusType_elements, element_FieldOfView, 1), nullptr, &facets::ObserverKind, {}},
-    {item_kind::optional_child, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:GeometryChoice", element_GeometryChoice,
-     LMX_OFFSET(ColorSpaceSpecificationSpectrumTristimulusType, m_GeometryChoice, optional_child, none), LMX_FLAG(ColorSpaceSpecificationSpectrumTristimulusType, m_isset_GeometryChoice), position_of(k_ColorSpaceSpecificationSpectrumTristimulusType_elements, element_GeometryChoice), position_of(k_ColorSpaceSpecificationSpectrumTristimulusType_elements, element_GeometryChoice, 1), &GeometryChoiceType::k_class, nullptr, {}},
-    {item_kind::element, value_kind::enumerated, use_optional, ELMX_WS_PRESERVE, "Vyr:ASTM_Table", element_ASTM_Table,
-     LMX_OFFSET(ColorSpaceSpecificationSpectrumTristimulusType, m_ASTM_Table, element, enumerated), LMX_FLAG(ColorSpaceSpecificationSpectrumTristimulusType, m_isset_ASTM_Table), position_of(k_ColorSpaceSpecificationSpectrumTristimulusType_elements, element_ASTM_Table), position_of(k_ColorSpaceSpecificationSpectrumTristimulusType_elements, element_ASTM_Table, 1), nullptr, &facets::AstmTableKind, {}},
-    {item_kind::element, value_kind::number, use_optional, ELMX_WS_COLLAPSE, "Vyr:Gamma", element_Gamma,
-     LMX_OFFSET(ColorSpaceSpecificationSpectrumTristimulusType, m_Gamma, element, number), LMX_FLAG(ColorSpaceSpecificationSpectrumTristimulusType, m_isset_Gamma), position_of(k_ColorSpaceSpecificationSpectrumTristimulusType_elements, element_Gamma), position_of(k_ColorSpaceSpecificationSpectrumTristimulusType_elements, element_Gamma, 1), nullptr, nullptr, {}},
+    {item_kind::child, value_kind::none, use_required, ELMX_WS_PRESERVE, "Vyr:IlluminationOptions", element_IlluminationOptions, LMX_OFFSET(ColorSpaceSpecificationSpectrumTristimulusType, m_IlluminationOptions, child, none), LMX_FLAG(ColorSpaceSpecificationSpectrumTristimulusType, m_isset_IlluminationOptions), position_of(k_ColorSpaceSpecificationSpectrumTristimulusType_elements, element_IlluminationOptions), 1, &IlluminationOptionsType::k_class},
+    {item_kind::element, value_kind::enumerated, use_required, ELMX_WS_PRESERVE, "Vyr:FieldOfView", element_FieldOfView, LMX_OFFSET(ColorSpaceSpecificationSpectrumTristimulusType, m_FieldOfView, element, enumerated), LMX_FLAG(ColorSpaceSpecificationSpectrumTristimulusType, m_isset_FieldOfView), position_of(k_ColorSpaceSpecificationSpectrumTristimulusType_elements, element_FieldOfView), 1, nullptr, &facets::ObserverKind},
+    {item_kind::optional_child, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:GeometryChoice", element_GeometryChoice, LMX_OFFSET(ColorSpaceSpecificationSpectrumTristimulusType, m_GeometryChoice, optional_child, none), LMX_FLAG(ColorSpaceSpecificationSpectrumTristimulusType, m_isset_GeometryChoice), position_of(k_ColorSpaceSpecificationSpectrumTristimulusType_elements, element_GeometryChoice), 1, &GeometryChoiceType::k_class},
+    {item_kind::element, value_kind::enumerated, use_optional, ELMX_WS_PRESERVE, "Vyr:ASTM_Table", element_ASTM_Table, LMX_OFFSET(ColorSpaceSpecificationSpectrumTristimulusType, m_ASTM_Table, element, enumerated), LMX_FLAG(ColorSpaceSpecificationSpectrumTristimulusType, m_isset_ASTM_Table), position_of(k_ColorSpaceSpecificationSpectrumTristimulusType_elements, element_ASTM_Table), 1, nullptr, &facets::AstmTableKind},
+    {item_kind::element, value_kind::number, use_optional, ELMX_WS_COLLAPSE, "Vyr:Gamma", element_Gamma, LMX_OFFSET(ColorSpaceSpecificationSpectrumTristimulusType, m_Gamma, element, number), LMX_FLAG(ColorSpaceSpecificationSpectrumTristimulusType, m_isset_Gamma), position_of(k_ColorSpaceSpecificationSpectrumTristimulusType_elements, element_Gamma), 1},
 };
 constinit const s_class ColorSpaceSpecificationSpectrumTristimulusType::k_class = {
     .name = "ColorSpaceSpecificationSpectrumTristimulusType",
@@ -568,14 +492,12 @@ constinit const s_class ColorSpaceSpecificationSpectrumTristimulusType::k_class 
     .content = content_kind::children,
     .ns_map = k_ns_map,
     .id = &ColorSpaceSpecificationSpectrumTristimulusType::id,
-    .xsi_type = "Vyr:ColorSpaceSpecificationSpectrumTristimulusType",
-    .elements = std::span(k_items).subspan(std::size(k_no_events) - 1),
-    .attribute_map = k_no_events,
+    .elements = k_items,
     .element_map = k_ColorSpaceSpecificationSpectrumTristimulusType_elements,
     .operations = &k_operations<ColorSpaceSpecificationSpectrumTristimulusType>,
 };
 
-namespace { const char k_ColorSpaceSpecificationSpectrumTristimulusType_id[] = "ColorSpaceSpecificationSpectrumTristimulusType"; }
+const char k_ColorSpaceSpecificationSpectrumTristimulusType_id[] = "ColorSpaceSpecificationSpectrumTristimulusType";
 const char* ColorSpaceSpecificationSpectrumTristimulusType::id = k_ColorSpaceSpecificationSpectrumTristimulusType_id;
 ColorSpaceSpecificationSpectrumTristimulusType::ColorSpaceSpecificationSpectrumTristimulusType() = default;
 ColorSpaceSpecificationSpectrumTristimulusType::ColorSpaceSpecificationSpectrumTristimulusType(const ColorSpaceSpecificationSpectrumTristimulusType& other) : ColorSpaceSpecificationSpectrumType() { lmx::copy(k_class, this, &other); }
@@ -601,19 +523,14 @@ lmx::elmx_error ColorSpaceSpecificationSpectrumTristimulusType::set_Gamma(double
 
 // ColorSpaceSpecificationSpectrumSpectralType
 
-namespace {
 constexpr s_event_map k_ColorSpaceSpecificationSpectrumSpectralType_elements[] = {
     element_event("GeometryChoice", element_GeometryChoice),
     element_event("ASTM_Table", element_ASTM_Table),
     k_end_of_map,
 };
-}  // namespace
-
 constinit const s_item ColorSpaceSpecificationSpectrumSpectralType::k_items[] = {
-    {item_kind::child, value_kind::none, use_required, ELMX_WS_PRESERVE, "Vyr:GeometryChoice", element_GeometryChoice,
-     LMX_OFFSET(ColorSpaceSpecificationSpectrumSpectralType, m_GeometryChoice, child, none), LMX_FLAG(ColorSpaceSpecificationSpectrumSpectralType, m_isset_GeometryChoice), position_of(k_ColorSpaceSpecificationSpectrumSpectralType_elements, element_GeometryChoice), position_of(k_ColorSpaceSpecificationSpectrumSpectralType_elements, element_GeometryChoice, 1), &GeometryChoiceType::k_class, nullptr, {}},
-    {item_kind::element, value_kind::enumerated, use_optional, ELMX_WS_PRESERVE, "Vyr:ASTM_Table", element_ASTM_Table,
-     LMX_OFFSET(ColorSpaceSpecificationSpectrumSpectralType, m_ASTM_Table, element, enumerated), LMX_FLAG(ColorSpaceSpecificationSpectrumSpectralType, m_isset_ASTM_Table), position_of(k_ColorSpaceSpecificationSpectrumSpectralType_elements, element_ASTM_Table), position_of(k_ColorSpaceSpecificationSpectrumSpectralType_elements, element_ASTM_Table, 1), nullptr, &facets::AstmTableKind, {}},
+    {item_kind::child, value_kind::none, use_required, ELMX_WS_PRESERVE, "Vyr:GeometryChoice", element_GeometryChoice, LMX_OFFSET(ColorSpaceSpecificationSpectrumSpectralType, m_GeometryChoice, child, none), LMX_FLAG(ColorSpaceSpecificationSpectrumSpectralType, m_isset_GeometryChoice), position_of(k_ColorSpaceSpecificationSpectrumSpectralType_elements, element_GeometryChoice), 1, &GeometryChoiceType::k_class},
+    {item_kind::element, value_kind::enumerated, use_optional, ELMX_WS_PRESERVE, "Vyr:ASTM_Table", element_ASTM_Table, LMX_OFFSET(ColorSpaceSpecificationSpectrumSpectralType, m_ASTM_Table, element, enumerated), LMX_FLAG(ColorSpaceSpecificationSpectrumSpectralType, m_isset_ASTM_Table), position_of(k_ColorSpaceSpecificationSpectrumSpectralType_elements, element_ASTM_Table), 1, nullptr, &facets::AstmTableKind},
 };
 constinit const s_class ColorSpaceSpecificationSpectrumSpectralType::k_class = {
     .name = "ColorSpaceSpecificationSpectrumSpectralType",
@@ -622,14 +539,12 @@ constinit const s_class ColorSpaceSpecificationSpectrumSpectralType::k_class = {
     .content = content_kind::children,
     .ns_map = k_ns_map,
     .id = &ColorSpaceSpecificationSpectrumSpectralType::id,
-    .xsi_type = "Vyr:ColorSpaceSpecificationSpectrumSpectralType",
-    .elements = std::span(k_items).subspan(std::size(k_no_events) - 1),
-    .attribute_map = k_no_events,
+    .elements = k_items,
     .element_map = k_ColorSpaceSpecificationSpectrumSpectralType_elements,
     .operations = &k_operations<ColorSpaceSpecificationSpectrumSpectralType>,
 };
 
-namespace { const char k_ColorSpaceSpecificationSpectrumSpectralType_id[] = "ColorSpaceSpecificationSpectrumSpectralType"; }
+const char k_ColorSpaceSpecificationSpectrumSpectralType_id[] = "ColorSpaceSpecificationSpectrumSpectralType";
 const char* ColorSpaceSpecificationSpectrumSpectralType::id = k_ColorSpaceSpecificationSpectrumSpectralType_id;
 ColorSpaceSpecificationSpectrumSpectralType::ColorSpaceSpecificationSpectrumSpectralType() = default;
 ColorSpaceSpecificationSpectrumSpectralType::ColorSpaceSpecificationSpectrumSpectralType(const ColorSpaceSpecificationSpectrumSpectralType& other) : ColorSpaceSpecificationSpectrumType() { lmx::copy(k_class, this, &other); }
@@ -649,7 +564,6 @@ bool ColorSpaceSpecificationSpectrumSpectralType::setenum_ASTM_Table(std::int32_
 
 // ColorSpaceSpecificationEmissiveGenericType
 
-namespace {
 constexpr s_event_map k_ColorSpaceSpecificationEmissiveGenericType_elements[] = {
     element_event("GeometryChoice", element_GeometryChoice),
     element_event("IlluminationOptions", element_IlluminationOptions),
@@ -659,21 +573,13 @@ constexpr s_event_map k_ColorSpaceSpecificationEmissiveGenericType_elements[] = 
     element_event("DensityStatus", element_DensityStatus),
     k_end_of_map,
 };
-}  // namespace
-
 constinit const s_item ColorSpaceSpecificationEmissiveGenericType::k_items[] = {
-    {item_kind::optional_child, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:GeometryChoice", element_GeometryChoice,
-     LMX_OFFSET(ColorSpaceSpecificationEmissiveGenericType, m_GeometryChoice, optional_child, none), LMX_FLAG(ColorSpaceSpecificationEmissiveGenericType, m_isset_GeometryChoice), position_of(k_ColorSpaceSpecificationEmissiveGenericType_elements, element_GeometryChoice), position_of(k_ColorSpaceSpecificationEmissiveGenericType_elements, element_GeometryChoice, 1), &GeometryChoiceType::k_class, nullptr, {}},
-    {item_kind::optional_child, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:IlluminationOptions", element_IlluminationOptions,
-     LMX_OFFSET(ColorSpaceSpecificationEmissiveGenericType, m_IlluminationOptions, optional_child, none), LMX_FLAG(ColorSpaceSpecificationEmissiveGenericType, m_isset_IlluminationOptions), position_of(k_ColorSpaceSpecificationEmissiveGenericType_elements, element_IlluminationOptions), position_of(k_ColorSpaceSpecificationEmissiveGenericType_elements, element_IlluminationOptions, 1), &IlluminationOptionsType::k_class, nullptr, {}},
-    {item_kind::element, value_kind::enumerated, use_optional, ELMX_WS_PRESERVE, "Vyr:FieldOfView", element_FieldOfView,
-     LMX_OFFSET(ColorSpaceSpecificationEmissiveGenericType, m_FieldOfView, element, enumerated), LMX_FLAG(ColorSpaceSpecificationEmissiveGenericType, m_isset_FieldOfView), position_of(k_ColorSpaceSpecificationEmissiveGenericType_elements, element_FieldOfView), position_of(k_ColorSpaceSpecificationEmissiveGenericType_elements, element_FieldOfView, 1), nullptr, &facets::ObserverKind, {}},
-    {item_kind::element, value_kind::enumerated, use_optional, ELMX_WS_PRESERVE, "Vyr:ASTM_Table", element_ASTM_Table,
-     LMX_OFFSET(ColorSpaceSpecificationEmissiveGenericType, m_ASTM_Table, element, enumerated), LMX_FLAG(ColorSpaceSpecificationEmissiveGenericType, m_isset_ASTM_Table), position_of(k_ColorSpaceSpecificationEmissiveGenericType_elements, element_ASTM_Table), position_of(k_ColorSpaceSpecificationEmissiveGenericType_elements, element_ASTM_Table, 1), nullptr, &facets::AstmTableKind, {}},
-    {item_kind::element, value_kind::number, use_optional, ELMX_WS_COLLAPSE, "Vyr:Gamma", element_Gamma,
-     LMX_OFFSET(ColorSpaceSpecificationEmissiveGenericType, m_Gamma, element, number), LMX_FLAG(ColorSpaceSpecificationEmissiveGenericType, m_isset_Gamma), position_of(k_ColorSpaceSpecificationEmissiveGenericType_elements, element_Gamma), position_of(k_ColorSpaceSpecificationEmissiveGenericType_elements, element_Gamma, 1), nullptr, nullptr, {}},
-    {item_kind::element, value_kind::enumerated, use_optional, ELMX_WS_PRESERVE, "Vyr:DensityStatus", element_DensityStatus,
-     LMX_OFFSET(ColorSpaceSpecificationEmissiveGenericType, m_DensityStatus, element, enumerated), LMX_FLAG(ColorSpaceSpecificationEmissiveGenericType, m_isset_DensityStatus), position_of(k_ColorSpaceSpecificationEmissiveGenericType_elements, element_DensityStatus), position_of(k_ColorSpaceSpecificationEmissiveGenericType_elements, element_DensityStatus, 1), nullptr, &facets::DensityStatusKind, {}},
+    {item_kind::optional_child, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:GeometryChoice", element_GeometryChoice, LMX_OFFSET(ColorSpaceSpecificationEmissiveGenericType, m_GeometryChoice, optional_child, none), LMX_FLAG(ColorSpaceSpecificationEmissiveGenericType, m_isset_GeometryChoice), position_of(k_ColorSpaceSpecificationEmissiveGenericType_elements, element_GeometryChoice), 1, &GeometryChoiceType::k_class},
+    {item_kind::optional_child, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:IlluminationOptions", element_IlluminationOptions, LMX_OFFSET(ColorSpaceSpecificationEmissiveGenericType, m_IlluminationOptions, optional_child, none), LMX_FLAG(ColorSpaceSpecificationEmissiveGenericType, m_isset_IlluminationOptions), position_of(k_ColorSpaceSpecificationEmissiveGenericType_elements, element_IlluminationOptions), 1, &IlluminationOptionsType::k_class},
+    {item_kind::element, value_kind::enumerated, use_optional, ELMX_WS_PRESERVE, "Vyr:FieldOfView", element_FieldOfView, LMX_OFFSET(ColorSpaceSpecificationEmissiveGenericType, m_FieldOfView, element, enumerated), LMX_FLAG(ColorSpaceSpecificationEmissiveGenericType, m_isset_FieldOfView), position_of(k_ColorSpaceSpecificationEmissiveGenericType_elements, element_FieldOfView), 1, nullptr, &facets::ObserverKind},
+    {item_kind::element, value_kind::enumerated, use_optional, ELMX_WS_PRESERVE, "Vyr:ASTM_Table", element_ASTM_Table, LMX_OFFSET(ColorSpaceSpecificationEmissiveGenericType, m_ASTM_Table, element, enumerated), LMX_FLAG(ColorSpaceSpecificationEmissiveGenericType, m_isset_ASTM_Table), position_of(k_ColorSpaceSpecificationEmissiveGenericType_elements, element_ASTM_Table), 1, nullptr, &facets::AstmTableKind},
+    {item_kind::element, value_kind::number, use_optional, ELMX_WS_COLLAPSE, "Vyr:Gamma", element_Gamma, LMX_OFFSET(ColorSpaceSpecificationEmissiveGenericType, m_Gamma, element, number), LMX_FLAG(ColorSpaceSpecificationEmissiveGenericType, m_isset_Gamma), position_of(k_ColorSpaceSpecificationEmissiveGenericType_elements, element_Gamma), 1},
+    {item_kind::element, value_kind::enumerated, use_optional, ELMX_WS_PRESERVE, "Vyr:DensityStatus", element_DensityStatus, LMX_OFFSET(ColorSpaceSpecificationEmissiveGenericType, m_DensityStatus, element, enumerated), LMX_FLAG(ColorSpaceSpecificationEmissiveGenericType, m_isset_DensityStatus), position_of(k_ColorSpaceSpecificationEmissiveGenericType_elements, element_DensityStatus), 1, nullptr, &facets::DensityStatusKind},
 };
 constinit const s_class ColorSpaceSpecificationEmissiveGenericType::k_class = {
     .name = "ColorSpaceSpecificationEmissiveGenericType",
@@ -682,14 +588,12 @@ constinit const s_class ColorSpaceSpecificationEmissiveGenericType::k_class = {
     .content = content_kind::children,
     .ns_map = k_ns_map,
     .id = &ColorSpaceSpecificationEmissiveGenericType::id,
-    .xsi_type = "Vyr:ColorSpaceSpecificationEmissiveGenericType",
-    .elements = std::span(k_items).subspan(std::size(k_no_events) - 1),
-    .attribute_map = k_no_events,
+    .elements = k_items,
     .element_map = k_ColorSpaceSpecificationEmissiveGenericType_elements,
     .operations = &k_operations<ColorSpaceSpecificationEmissiveGenericType>,
 };
 
-namespace { const char k_ColorSpaceSpecificationEmissiveGenericType_id[] = "ColorSpaceSpecificationEmissiveGenericType"; }
+const char k_ColorSpaceSpecificationEmissiveGenericType_id[] = "ColorSpaceSpecificationEmissiveGenericType";
 const char* ColorSpaceSpecificationEmissiveGenericType::id = k_ColorSpaceSpecificationEmissiveGenericType_id;
 ColorSpaceSpecificationEmissiveGenericType::ColorSpaceSpecificationEmissiveGenericType() = default;
 ColorSpaceSpecificationEmissiveGenericType::ColorSpaceSpecificationEmissiveGenericType(const ColorSpaceSpecificationEmissiveGenericType& other) : ColorSpaceSpecificationEmissiveType() { lmx::copy(k_class, this, &other); }
@@ -719,7 +623,6 @@ bool ColorSpaceSpecificationEmissiveGenericType::setenum_DensityStatus(std::int3
 
 // ColorSpaceSpecificationEmissiveTristimulusType
 
-namespace {
 constexpr s_event_map k_ColorSpaceSpecificationEmissiveTristimulusType_elements[] = {
     element_event("IlluminationOptions", element_IlluminationOptions),
     element_event("FieldOfView", element_FieldOfView),
@@ -728,19 +631,12 @@ constexpr s_event_map k_ColorSpaceSpecificationEmissiveTristimulusType_elements[
     element_event("Gamma", element_Gamma),
     k_end_of_map,
 };
-}  // namespace
-
 constinit const s_item ColorSpaceSpecificationEmissiveTristimulusType::k_items[] = {
-    {item_kind::child, value_kind::none, use_required, ELMX_WS_PRESERVE, "Vyr:IlluminationOptions", element_IlluminationOptions,
-     LMX_OFFSET(ColorSpaceSpecificationEmissiveTristimulusType, m_IlluminationOptions, child, none), LMX_FLAG(ColorSpaceSpecificationEmissiveTristimulusType, m_isset_IlluminationOptions), position_of(k_ColorSpaceSpecificationEmissiveTristimulusType_elements, element_IlluminationOptions), position_of(k_ColorSpaceSpecificationEmissiveTristimulusType_elements, element_IlluminationOptions, 1), &IlluminationOptionsType::k_class, nullptr, {}},
-    {item_kind::element, value_kind::enumerated, use_required, ELMX_WS_PRESERVE, "Vyr:FieldOfView", element_FieldOfView,
-     LMX_OFFSET(ColorSpaceSpecificationEmissiveTristimulusType, m_FieldOfView, element, enumerated), LMX_FLAG(ColorSpaceSpecificationEmissiveTristimulusType, m_isset_FieldOfView), position_of(k_ColorSpaceSpecificationEmissiveTristimulusType_elements, element_FieldOfView), position_of(k_ColorSpaceSpecificationEmissiveTristimulusType_elements, element_FieldOfView, 1), nullptr, &facets::ObserverKind, {}},
-    {item_kind::optional_child, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:GeometryChoice", element_GeometryChoice,
-     LMX_OFFSET(ColorSpaceSpecificationEmissiveTristimulusType, m_GeometryChoice, optional_child, none), LMX_FLAG(ColorSpaceSpecificationEmissiveTristimulusType, m_isset_GeometryChoice), position_of(k_ColorSpaceSpecificationEmissiveTristimulusType_elements, element_GeometryChoice), position_of(k_ColorSpaceSpecificationEmissiveTristimulusType_elements, element_GeometryChoice, 1), &GeometryChoiceType::k_class, nullptr, {}},
-    {item_kind::element, value_kind::enumerated, use_optional, ELMX_WS_PRESERVE, "Vyr:ASTM_Table", element_ASTM_Table,
-     LMX_OFFSET(ColorSpaceSpecificationEmissiveTristimulusType, m_ASTM_Table, element, enumerated), LMX_FLAG(ColorSpaceSpecificationEmissiveTristimulusType, m_isset_ASTM_Table), position_of(k_ColorSpaceSpecificationEmissiveTristimulusType_elements, element_ASTM_Table), position_of(k_ColorSpaceSpecificationEmissiveTristimulusType_elements, element_ASTM_Table, 1), nullptr, &facets::AstmTableKind, {}},
-    {item_kind::element, value_kind::number, use_optional, ELMX_WS_COLLAPSE, "Vyr:Gamma", element_Gamma,
-     LMX_OFFSET(ColorSpaceSpecificationEmissiveTristimulusType, m_Gamma, element, number), LMX_FLAG(ColorSpaceSpecificationEmissiveTristimulusType, m_isset_Gamma), position_of(k_ColorSpaceSpecificationEmissiveTristimulusType_elements, element_Gamma), position_of(k_ColorSpaceSpecificationEmissiveTristimulusType_elements, element_Gamma, 1), nullptr, nullptr, {}},
+    {item_kind::child, value_kind::none, use_required, ELMX_WS_PRESERVE, "Vyr:IlluminationOptions", element_IlluminationOptions, LMX_OFFSET(ColorSpaceSpecificationEmissiveTristimulusType, m_IlluminationOptions, child, none), LMX_FLAG(ColorSpaceSpecificationEmissiveTristimulusType, m_isset_IlluminationOptions), position_of(k_ColorSpaceSpecificationEmissiveTristimulusType_elements, element_IlluminationOptions), 1, &IlluminationOptionsType::k_class},
+    {item_kind::element, value_kind::enumerated, use_required, ELMX_WS_PRESERVE, "Vyr:FieldOfView", element_FieldOfView, LMX_OFFSET(ColorSpaceSpecificationEmissiveTristimulusType, m_FieldOfView, element, enumerated), LMX_FLAG(ColorSpaceSpecificationEmissiveTristimulusType, m_isset_FieldOfView), position_of(k_ColorSpaceSpecificationEmissiveTristimulusType_elements, element_FieldOfView), 1, nullptr, &facets::ObserverKind},
+    {item_kind::optional_child, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:GeometryChoice", element_GeometryChoice, LMX_OFFSET(ColorSpaceSpecificationEmissiveTristimulusType, m_GeometryChoice, optional_child, none), LMX_FLAG(ColorSpaceSpecificationEmissiveTristimulusType, m_isset_GeometryChoice), position_of(k_ColorSpaceSpecificationEmissiveTristimulusType_elements, element_GeometryChoice), 1, &GeometryChoiceType::k_class},
+    {item_kind::element, value_kind::enumerated, use_optional, ELMX_WS_PRESERVE, "Vyr:ASTM_Table", element_ASTM_Table, LMX_OFFSET(ColorSpaceSpecificationEmissiveTristimulusType, m_ASTM_Table, element, enumerated), LMX_FLAG(ColorSpaceSpecificationEmissiveTristimulusType, m_isset_ASTM_Table), position_of(k_ColorSpaceSpecificationEmissiveTristimulusType_elements, element_ASTM_Table), 1, nullptr, &facets::AstmTableKind},
+    {item_kind::element, value_kind::number, use_optional, ELMX_WS_COLLAPSE, "Vyr:Gamma", element_Gamma, LMX_OFFSET(ColorSpaceSpecificationEmissiveTristimulusType, m_Gamma, element, number), LMX_FLAG(ColorSpaceSpecificationEmissiveTristimulusType, m_isset_Gamma), position_of(k_ColorSpaceSpecificationEmissiveTristimulusType_elements, element_Gamma), 1},
 };
 constinit const s_class ColorSpaceSpecificationEmissiveTristimulusType::k_class = {
     .name = "ColorSpaceSpecificationEmissiveTristimulusType",
@@ -749,14 +645,12 @@ constinit const s_class ColorSpaceSpecificationEmissiveTristimulusType::k_class 
     .content = content_kind::children,
     .ns_map = k_ns_map,
     .id = &ColorSpaceSpecificationEmissiveTristimulusType::id,
-    .xsi_type = "Vyr:ColorSpaceSpecificationEmissiveTristimulusType",
-    .elements = std::span(k_items).subspan(std::size(k_no_events) - 1),
-    .attribute_map = k_no_events,
+    .elements = k_items,
     .element_map = k_ColorSpaceSpecificationEmissiveTristimulusType_elements,
     .operations = &k_operations<ColorSpaceSpecificationEmissiveTristimulusType>,
 };
 
-namespace { const char k_ColorSpaceSpecificationEmissiveTristimulusType_id[] = "ColorSpaceSpecificationEmissiveTristimulusType"; }
+const char k_ColorSpaceSpecificationEmissiveTristimulusType_id[] = "ColorSpaceSpecificationEmissiveTristimulusType";
 const char* ColorSpaceSpecificationEmissiveTristimulusType::id = k_ColorSpaceSpecificationEmissiveTristimulusType_id;
 ColorSpaceSpecificationEmissiveTristimulusType::ColorSpaceSpecificationEmissiveTristimulusType() = default;
 ColorSpaceSpecificationEmissiveTristimulusType::ColorSpaceSpecificationEmissiveTristimulusType(const ColorSpaceSpecificationEmissiveTristimulusType& other) : ColorSpaceSpecificationEmissiveType() { lmx::copy(k_class, this, &other); }
@@ -782,19 +676,14 @@ lmx::elmx_error ColorSpaceSpecificationEmissiveTristimulusType::set_Gamma(double
 
 // ColorSpaceSpecificationEmissiveSpectralType
 
-namespace {
 constexpr s_event_map k_ColorSpaceSpecificationEmissiveSpectralType_elements[] = {
     element_event("GeometryChoice", element_GeometryChoice),
     element_event("ASTM_Table", element_ASTM_Table),
     k_end_of_map,
 };
-}  // namespace
-
 constinit const s_item ColorSpaceSpecificationEmissiveSpectralType::k_items[] = {
-    {item_kind::child, value_kind::none, use_required, ELMX_WS_PRESERVE, "Vyr:GeometryChoice", element_GeometryChoice,
-     LMX_OFFSET(ColorSpaceSpecificationEmissiveSpectralType, m_GeometryChoice, child, none), LMX_FLAG(ColorSpaceSpecificationEmissiveSpectralType, m_isset_GeometryChoice), position_of(k_ColorSpaceSpecificationEmissiveSpectralType_elements, element_GeometryChoice), position_of(k_ColorSpaceSpecificationEmissiveSpectralType_elements, element_GeometryChoice, 1), &GeometryChoiceType::k_class, nullptr, {}},
-    {item_kind::element, value_kind::enumerated, use_optional, ELMX_WS_PRESERVE, "Vyr:ASTM_Table", element_ASTM_Table,
-     LMX_OFFSET(ColorSpaceSpecificationEmissiveSpectralType, m_ASTM_Table, element, enumerated), LMX_FLAG(ColorSpaceSpecificationEmissiveSpectralType, m_isset_ASTM_Table), position_of(k_ColorSpaceSpecificationEmissiveSpectralType_elements, element_ASTM_Table), position_of(k_ColorSpaceSpecificationEmissiveSpectralType_elements, element_ASTM_Table, 1), nullptr, &facets::AstmTableKind, {}},
+    {item_kind::child, value_kind::none, use_required, ELMX_WS_PRESERVE, "Vyr:GeometryChoice", element_GeometryChoice, LMX_OFFSET(ColorSpaceSpecificationEmissiveSpectralType, m_GeometryChoice, child, none), LMX_FLAG(ColorSpaceSpecificationEmissiveSpectralType, m_isset_GeometryChoice), position_of(k_ColorSpaceSpecificationEmissiveSpectralType_elements, element_GeometryChoice), 1, &GeometryChoiceType::k_class},
+    {item_kind::element, value_kind::enumerated, use_optional, ELMX_WS_PRESERVE, "Vyr:ASTM_Table", element_ASTM_Table, LMX_OFFSET(ColorSpaceSpecificationEmissiveSpectralType, m_ASTM_Table, element, enumerated), LMX_FLAG(ColorSpaceSpecificationEmissiveSpectralType, m_isset_ASTM_Table), position_of(k_ColorSpaceSpecificationEmissiveSpectralType_elements, element_ASTM_Table), 1, nullptr, &facets::AstmTableKind},
 };
 constinit const s_class ColorSpaceSpecificationEmissiveSpectralType::k_class = {
     .name = "ColorSpaceSpecificationEmissiveSpectralType",
@@ -803,14 +692,12 @@ constinit const s_class ColorSpaceSpecificationEmissiveSpectralType::k_class = {
     .content = content_kind::children,
     .ns_map = k_ns_map,
     .id = &ColorSpaceSpecificationEmissiveSpectralType::id,
-    .xsi_type = "Vyr:ColorSpaceSpecificationEmissiveSpectralType",
-    .elements = std::span(k_items).subspan(std::size(k_no_events) - 1),
-    .attribute_map = k_no_events,
+    .elements = k_items,
     .element_map = k_ColorSpaceSpecificationEmissiveSpectralType_elements,
     .operations = &k_operations<ColorSpaceSpecificationEmissiveSpectralType>,
 };
 
-namespace { const char k_ColorSpaceSpecificationEmissiveSpectralType_id[] = "ColorSpaceSpecificationEmissiveSpectralType"; }
+const char k_ColorSpaceSpecificationEmissiveSpectralType_id[] = "ColorSpaceSpecificationEmissiveSpectralType";
 const char* ColorSpaceSpecificationEmissiveSpectralType::id = k_ColorSpaceSpecificationEmissiveSpectralType_id;
 ColorSpaceSpecificationEmissiveSpectralType::ColorSpaceSpecificationEmissiveSpectralType() = default;
 ColorSpaceSpecificationEmissiveSpectralType::ColorSpaceSpecificationEmissiveSpectralType(const ColorSpaceSpecificationEmissiveSpectralType& other) : ColorSpaceSpecificationEmissiveType() { lmx::copy(k_class, this, &other); }
@@ -863,9 +750,6 @@ constinit const s_class ColorSpaceSpecificationSpectrumGeneric::k_class = {
     .ns_map = k_ns_map,
     .nil_flag = LMX_FLAG(ColorSpaceSpecificationSpectrumGeneric, m_isnil),
     .id = &ColorSpaceSpecificationSpectrumGenericType::id,
-    .xsi_type = "Vyr:ColorSpaceSpecificationSpectrumGenericType",
-    .attribute_map = k_no_events,
-    .element_map = k_no_events,
     .operations = &k_operations<ColorSpaceSpecificationSpectrumGeneric>,
 };
 
@@ -901,9 +785,6 @@ constinit const s_class ColorSpaceSpecificationSpectrumTristimulus::k_class = {
     .ns_map = k_ns_map,
     .nil_flag = LMX_FLAG(ColorSpaceSpecificationSpectrumTristimulus, m_isnil),
     .id = &ColorSpaceSpecificationSpectrumTristimulusType::id,
-    .xsi_type = "Vyr:ColorSpaceSpecificationSpectrumTristimulusType",
-    .attribute_map = k_no_events,
-    .element_map = k_no_events,
     .operations = &k_operations<ColorSpaceSpecificationSpectrumTristimulus>,
 };
 
@@ -939,9 +820,6 @@ constinit const s_class ColorSpaceSpecificationSpectrumSpectral::k_class = {
     .ns_map = k_ns_map,
     .nil_flag = LMX_FLAG(ColorSpaceSpecificationSpectrumSpectral, m_isnil),
     .id = &ColorSpaceSpecificationSpectrumSpectralType::id,
-    .xsi_type = "Vyr:ColorSpaceSpecificationSpectrumSpectralType",
-    .attribute_map = k_no_events,
-    .element_map = k_no_events,
     .operations = &k_operations<ColorSpaceSpecificationSpectrumSpectral>,
 };
 
@@ -994,9 +872,6 @@ constinit const s_class ColorSpaceSpecificationEmissiveGeneric::k_class = {
     .ns_map = k_ns_map,
     .nil_flag = LMX_FLAG(ColorSpaceSpecificationEmissiveGeneric, m_isnil),
     .id = &ColorSpaceSpecificationEmissiveGenericType::id,
-    .xsi_type = "Vyr:ColorSpaceSpecificationEmissiveGenericType",
-    .attribute_map = k_no_events,
-    .element_map = k_no_events,
     .operations = &k_operations<ColorSpaceSpecificationEmissiveGeneric>,
 };
 
@@ -1032,9 +907,6 @@ constinit const s_class ColorSpaceSpecificationEmissiveTristimulus::k_class = {
     .ns_map = k_ns_map,
     .nil_flag = LMX_FLAG(ColorSpaceSpecificationEmissiveTristimulus, m_isnil),
     .id = &ColorSpaceSpecificationEmissiveTristimulusType::id,
-    .xsi_type = "Vyr:ColorSpaceSpecificationEmissiveTristimulusType",
-    .attribute_map = k_no_events,
-    .element_map = k_no_events,
     .operations = &k_operations<ColorSpaceSpecificationEmissiveTristimulus>,
 };
 
@@ -1070,9 +942,6 @@ constinit const s_class ColorSpaceSpecificationEmissiveSpectral::k_class = {
     .ns_map = k_ns_map,
     .nil_flag = LMX_FLAG(ColorSpaceSpecificationEmissiveSpectral, m_isnil),
     .id = &ColorSpaceSpecificationEmissiveSpectralType::id,
-    .xsi_type = "Vyr:ColorSpaceSpecificationEmissiveSpectralType",
-    .attribute_map = k_no_events,
-    .element_map = k_no_events,
     .operations = &k_operations<ColorSpaceSpecificationEmissiveSpectral>,
 };
 
@@ -1100,18 +969,13 @@ bool ColorSpaceSpecificationEmissiveSpectral::is_occurs_ok() const { return lmx:
 
 // Illuminant
 
-namespace {
 constexpr s_event_map k_Illuminant_attributes[] = {
     attribute_event("CustomName", attribute_CustomName),
     k_end_of_map,
 };
-}  // namespace
-
 constinit const s_item Illuminant::k_items[] = {
-    {item_kind::attribute, value_kind::text, use_optional, ELMX_WS_PRESERVE, "CustomName", attribute_CustomName,
-     LMX_OFFSET(Illuminant, m_CustomName, attribute, text), LMX_FLAG(Illuminant, m_isset_CustomName), 0, 0, nullptr, nullptr, {}},
-    {item_kind::content, value_kind::enumerated, use_required, ELMX_WS_PRESERVE, "", 0,
-     LMX_OFFSET(Illuminant, m_Illuminant, content, enumerated), LMX_FLAG(Illuminant, m_isset_Illuminant), 0, 0, nullptr, &facets::IlluminantKind, {}},
+    {item_kind::attribute, value_kind::text, use_optional, ELMX_WS_PRESERVE, "CustomName", attribute_CustomName, LMX_OFFSET(Illuminant, m_CustomName, attribute, text), LMX_FLAG(Illuminant, m_isset_CustomName)},
+    {item_kind::content, value_kind::enumerated, use_required, ELMX_WS_PRESERVE, "", 0, LMX_OFFSET(Illuminant, m_Illuminant, content, enumerated), LMX_FLAG(Illuminant, m_isset_Illuminant), 0, 0, nullptr, &facets::IlluminantKind},
 };
 constinit const s_class Illuminant::k_class = {
     .name = "Illuminant",
@@ -1120,7 +984,6 @@ constinit const s_class Illuminant::k_class = {
     .attributes = std::span(k_items).first(std::size(k_Illuminant_attributes) - 1),
     .elements = std::span(k_items).subspan(std::size(k_Illuminant_attributes) - 1),
     .attribute_map = k_Illuminant_attributes,
-    .element_map = k_no_events,
     .operations = &k_operations<Illuminant>,
 };
 
@@ -1139,26 +1002,20 @@ bool Illuminant::setenum_Illuminant(std::int32_t number) { return lmx::set_enume
 
 // WhitePointChromaticity
 
-namespace {
 constexpr s_event_map k_WhitePointChromaticity_elements[] = {
     element_event("CoordinateX", element_CoordinateX),
     element_event("CoordinateY", element_CoordinateY),
     k_end_of_map,
 };
-}  // namespace
-
 constinit const s_item WhitePointChromaticity::k_items[] = {
-    {item_kind::element, value_kind::number, use_required, ELMX_WS_COLLAPSE, "Vyr:CoordinateX", element_CoordinateX,
-     LMX_OFFSET(WhitePointChromaticity, m_CoordinateX, element, number), LMX_FLAG(WhitePointChromaticity, m_isset_CoordinateX), position_of(k_WhitePointChromaticity_elements, element_CoordinateX), position_of(k_WhitePointChromaticity_elements, element_CoordinateX, 1), nullptr, &facets::Fraction, {}},
-    {item_kind::element, value_kind::number, use_required, ELMX_WS_COLLAPSE, "Vyr:CoordinateY", element_CoordinateY,
-     LMX_OFFSET(WhitePointChromaticity, m_CoordinateY, element, number), LMX_FLAG(WhitePointChromaticity, m_isset_CoordinateY), position_of(k_WhitePointChromaticity_elements, element_CoordinateY), position_of(k_WhitePointChromaticity_elements, element_CoordinateY, 1), nullptr, &facets::Fraction, {}},
+    {item_kind::element, value_kind::number, use_required, ELMX_WS_COLLAPSE, "Vyr:CoordinateX", element_CoordinateX, LMX_OFFSET(WhitePointChromaticity, m_CoordinateX, element, number), LMX_FLAG(WhitePointChromaticity, m_isset_CoordinateX), position_of(k_WhitePointChromaticity_elements, element_CoordinateX), 1, nullptr, &facets::Fraction},
+    {item_kind::element, value_kind::number, use_required, ELMX_WS_COLLAPSE, "Vyr:CoordinateY", element_CoordinateY, LMX_OFFSET(WhitePointChromaticity, m_CoordinateY, element, number), LMX_FLAG(WhitePointChromaticity, m_isset_CoordinateY), position_of(k_WhitePointChromaticity_elements, element_CoordinateY), 1, nullptr, &facets::Fraction},
 };
 constinit const s_class WhitePointChromaticity::k_class = {
     .name = "WhitePointChromaticity",
     .qualified_name = "Vyr:WhitePointChromaticity",
     .content = content_kind::children,
-    .elements = std::span(k_items).subspan(std::size(k_no_events) - 1),
-    .attribute_map = k_no_events,
+    .elements = k_items,
     .element_map = k_WhitePointChromaticity_elements,
     .operations = &k_operations<WhitePointChromaticity>,
 };
@@ -1177,30 +1034,23 @@ lmx::elmx_error WhitePointChromaticity::set_CoordinateY(double value) { return l
 
 // BSDFAngle
 
-namespace {
 constexpr s_event_map k_BSDFAngle_elements[] = {
     element_event("IlluminantAngle", element_IlluminantAngle),
     element_event("Aspecular", element_Aspecular),
     element_event("Azimuth", element_Azimuth),
     k_end_of_map,
 };
-}  // namespace
-
 constinit const s_item BSDFAngle::k_items[] = {
-    {item_kind::element, value_kind::number, use_required, ELMX_WS_COLLAPSE, "Vyr:IlluminantAngle", element_IlluminantAngle,
-     LMX_OFFSET(BSDFAngle, m_IlluminantAngle, element, number), LMX_FLAG(BSDFAngle, m_isset_IlluminantAngle), position_of(k_BSDFAngle_elements, element_IlluminantAngle), position_of(k_BSDFAngle_elements, element_IlluminantAngle, 1), nullptr, nullptr, {}},
-    {item_kind::element, value_kind::number, use_required, ELMX_WS_COLLAPSE, "Vyr:Aspecular", element_Aspecular,
-     LMX_OFFSET(BSDFAngle, m_Aspecular, element, number), LMX_FLAG(BSDFAngle, m_isset_Aspecular), position_of(k_BSDFAngle_elements, element_Aspecular), position_of(k_BSDFAngle_elements, element_Aspecular, 1), nullptr, nullptr, {}},
-    {item_kind::marker, value_kind::none, use_written, ELMX_WS_PRESERVE, "Vyr:Azimuth", element_Azimuth,
-     0, k_no_flag, position_of(k_BSDFAngle_elements, element_Azimuth), position_of(k_BSDFAngle_elements, element_Azimuth, 1), nullptr, nullptr, {}},
+    {item_kind::element, value_kind::number, use_required, ELMX_WS_COLLAPSE, "Vyr:IlluminantAngle", element_IlluminantAngle, LMX_OFFSET(BSDFAngle, m_IlluminantAngle, element, number), LMX_FLAG(BSDFAngle, m_isset_IlluminantAngle), position_of(k_BSDFAngle_elements, element_IlluminantAngle), 1},
+    {item_kind::element, value_kind::number, use_required, ELMX_WS_COLLAPSE, "Vyr:Aspecular", element_Aspecular, LMX_OFFSET(BSDFAngle, m_Aspecular, element, number), LMX_FLAG(BSDFAngle, m_isset_Aspecular), position_of(k_BSDFAngle_elements, element_Aspecular), 1},
+    {item_kind::marker, value_kind::none, use_written, ELMX_WS_PRESERVE, "Vyr:Azimuth", element_Azimuth, 0, k_no_flag, position_of(k_BSDFAngle_elements, element_Azimuth), 1},
 };
 constinit const s_class BSDFAngle::k_class = {
     .name = "BSDFAngle",
     .qualified_name = "Vyr:BSDFAngle",
     .content = content_kind::children,
     .ns_map = k_ns_map,
-    .elements = std::span(k_items).subspan(std::size(k_no_events) - 1),
-    .attribute_map = k_no_events,
+    .elements = k_items,
     .element_map = k_BSDFAngle_elements,
     .operations = &k_operations<BSDFAngle>,
 };
@@ -1223,8 +1073,6 @@ constinit const s_class Azimuth::k_class = {
     .name = "Azimuth",
     .qualified_name = "Vyr:Azimuth",
     .content = content_kind::empty,
-    .attribute_map = k_no_events,
-    .element_map = k_no_events,
     .operations = &k_operations<Azimuth>,
 };
 

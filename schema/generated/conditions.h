@@ -42,6 +42,7 @@ public:
     void swap(DeviceFilterType& other);
     void reset();
     bool is_occurs_ok() const;
+    static const lmx::s_class k_class;
 
     /// Description of the filter where the content is Filter_Custom or Filter_Partial.
     const std::u16string& get_CustomOrPartial() const { return m_CustomOrPartial; }
@@ -54,8 +55,6 @@ public:
     lmx::elmx_error set_DeviceFilterType(const std::u16string& value);
     Eenum_DeviceFilterType getenum_DeviceFilterType() const { return static_cast<Eenum_DeviceFilterType>(m_DeviceFilterType.number()); }
     bool setenum_DeviceFilterType(std::int32_t number);
-
-    static const lmx::s_class k_class;
 
 protected:
     void marshal_attributes(lmx::c_xml_writer& writer) const { lmx::marshal_attributes(k_class, this, writer); }
@@ -88,6 +87,7 @@ public:
     void swap(DeviceFilter& other);
     void reset();
     bool is_occurs_ok() const;
+    static const lmx::s_class k_class;
 
     /// Sets the content, which then isn't nil.
     lmx::elmx_error set_DeviceFilterType(const std::u16string& value);
@@ -96,8 +96,6 @@ public:
     /// The `xsi:nil` state: an element without a value.
     bool isnil_DeviceFilter() const { return m_isnil; }
     void setnil_DeviceFilter() { m_isnil = true; }
-
-    static const lmx::s_class k_class;
 
 protected:
     void marshal_attributes(lmx::c_xml_writer& writer) const { lmx::marshal_attributes(k_class, this, writer); }
@@ -122,6 +120,7 @@ public:
     void swap(DevicePolarization& other);
     void reset();
     bool is_occurs_ok() const;
+    static const lmx::s_class k_class;
 
     /// Whether polarising filters were used, or nil where it is unknown.
     bool get_DevicePolarization() const { return m_DevicePolarization; }
@@ -130,8 +129,6 @@ public:
     /// The `xsi:nil` state: an element without a value.
     bool isnil_DevicePolarization() const { return m_isnil; }
     void setnil_DevicePolarization() { m_isnil = true; }
-
-    static const lmx::s_class k_class;
 
 protected:
     void marshal_attributes(lmx::c_xml_writer& writer) const { lmx::marshal_attributes(k_class, this, writer); }
@@ -166,6 +163,7 @@ public:
     void swap(ColorSpaceSpecificationType& other);
     void reset();
     bool is_occurs_ok() const;
+    static const lmx::s_class k_class;
 
     /// Free remarks on the conditions.
     const std::u16string& get_Comments() const { return m_Comments; }
@@ -232,8 +230,6 @@ public:
     static ColorSpaceSpecificationType* factory(int ns_id, const std::string& name);
     static const lmx::s_factory_row k_factory[8];
 
-    static const lmx::s_class k_class;
-
 protected:
     void marshal_attributes(lmx::c_xml_writer& writer) const { lmx::marshal_attributes(k_class, this, writer); }
     lmx::elmx_error marshal_child_elements(lmx::c_xml_writer& writer) const { return lmx::marshal_child_elements(k_class, this, writer); }
@@ -281,6 +277,7 @@ public:
     void swap(SpectrumType& other);
     void reset();
     bool is_occurs_ok() const;
+    static const lmx::s_class k_class;
 
     /// Name of the quantity where the content is Spectrum_Custom.
     const std::u16string& get_CustomTypeName() const { return m_CustomTypeName; }
@@ -293,8 +290,6 @@ public:
     lmx::elmx_error set_SpectrumType(const std::u16string& value);
     Eenum_SpectrumType getenum_SpectrumType() const { return static_cast<Eenum_SpectrumType>(m_SpectrumType.number()); }
     bool setenum_SpectrumType(std::int32_t number);
-
-    static const lmx::s_class k_class;
 
 protected:
     void marshal_attributes(lmx::c_xml_writer& writer) const { lmx::marshal_attributes(k_class, this, writer); }
@@ -331,6 +326,7 @@ public:
     void swap(ColorSpaceSpecificationSpectrumType& other);
     void reset();
     bool is_occurs_ok() const;
+    static const lmx::s_class k_class;
 
     /// Which spectral quantity was measured.
     SpectrumType& get_Spectrum() { m_isset_Spectrum = true; return m_Spectrum; }
@@ -344,8 +340,6 @@ public:
     static ColorSpaceSpecificationSpectrumType* factory(int ns_id, const std::string& name);
     static const lmx::s_factory_row k_factory[4];
 
-    static const lmx::s_class k_class;
-
 protected:
     void marshal_attributes(lmx::c_xml_writer& writer) const { lmx::marshal_attributes(k_class, this, writer); }
     lmx::elmx_error marshal_child_elements(lmx::c_xml_writer& writer) const { return lmx::marshal_child_elements(k_class, this, writer); }
@@ -354,9 +348,6 @@ protected:
     bool unmarshal_body(lmx::c_xml_reader& reader, std::string* name, lmx::elmx_error* error) { return lmx::unmarshal_body(k_class, this, reader, name, error); }
 
 private:
-    enum item : std::size_t {
-        item_Spectrum,
-    };
     static const lmx::s_item k_items[];
     SpectrumType m_Spectrum;
     bool m_isset_Spectrum = false;
@@ -378,6 +369,7 @@ public:
     void swap(ColorSpaceSpecificationEmissiveType& other);
     void reset();
     bool is_occurs_ok() const;
+    static const lmx::s_class k_class;
 
     /// How the light source was measured.
     const std::u16string& get_EmissiveType() const { return m_EmissiveType.get(); }
@@ -397,8 +389,6 @@ public:
     /// A new object of the type with that local name in namespace 1000, or null; the caller owns it.
     static ColorSpaceSpecificationEmissiveType* factory(int ns_id, const std::string& name);
     static const lmx::s_factory_row k_factory[4];
-
-    static const lmx::s_class k_class;
 
 protected:
     void marshal_attributes(lmx::c_xml_writer& writer) const { lmx::marshal_attributes(k_class, this, writer); }
@@ -435,6 +425,7 @@ public:
     void reset();
     bool is_occurs_ok() const;
     elmx_chosen getchosen() const { return static_cast<elmx_chosen>(m_choice.chosen); }
+    static const lmx::s_class k_class;
 
     /// Integrating sphere, with the specular component included or excluded.
     const std::u16string& get_SphereGeometry() const;
@@ -454,8 +445,6 @@ public:
     BSDFAngle& get_BSDFAngle();
     const BSDFAngle& get_BSDFAngle() const { return *static_cast<const BSDFAngle*>(m_choice.object); }
     BSDFAngle& assign_BSDFAngle(const BSDFAngle& value);
-
-    static const lmx::s_class k_class;
 
 protected:
     void marshal_attributes(lmx::c_xml_writer& writer) const { lmx::marshal_attributes(k_class, this, writer); }
@@ -491,6 +480,7 @@ public:
     void reset();
     bool is_occurs_ok() const;
     elmx_chosen getchosen() const { return static_cast<elmx_chosen>(m_choice.chosen); }
+    static const lmx::s_class k_class;
 
     /// Free description of the illumination.
     const std::u16string& get_Description() const { return m_Description; }
@@ -511,8 +501,6 @@ public:
     /// The illumination by correlated colour temperature in kelvins, above 0.
     std::uint32_t get_ColorTemperature() const { return m_choice.chosen == e_ColorTemperature ? m_choice.uint32 : 0; }
     lmx::elmx_error set_ColorTemperature(std::uint32_t value);
-
-    static const lmx::s_class k_class;
 
 protected:
     void marshal_attributes(lmx::c_xml_writer& writer) const { lmx::marshal_attributes(k_class, this, writer); }
@@ -550,6 +538,7 @@ public:
     void swap(ColorSpaceSpecificationSpectrumGenericType& other);
     void reset();
     bool is_occurs_ok() const;
+    static const lmx::s_class k_class;
 
     /// Measuring geometry.
     GeometryChoiceType& get_GeometryChoice();
@@ -597,8 +586,6 @@ public:
 
     /// The class's identity; `getid` and `has_id` work on its address.
     static const char* id;
-
-    static const lmx::s_class k_class;
 
 protected:
     void marshal_attributes(lmx::c_xml_writer& writer) const { lmx::marshal_attributes(k_class, this, writer); }
@@ -647,6 +634,7 @@ public:
     void swap(ColorSpaceSpecificationSpectrumTristimulusType& other);
     void reset();
     bool is_occurs_ok() const;
+    static const lmx::s_class k_class;
 
     /// Illumination that the value holds for.
     IlluminationOptionsType& get_IlluminationOptions() { m_isset_IlluminationOptions = true; return m_IlluminationOptions; }
@@ -682,8 +670,6 @@ public:
 
     /// The class's identity; `getid` and `has_id` work on its address.
     static const char* id;
-
-    static const lmx::s_class k_class;
 
 protected:
     void marshal_attributes(lmx::c_xml_writer& writer) const { lmx::marshal_attributes(k_class, this, writer); }
@@ -729,6 +715,7 @@ public:
     void swap(ColorSpaceSpecificationSpectrumSpectralType& other);
     void reset();
     bool is_occurs_ok() const;
+    static const lmx::s_class k_class;
 
     /// Measuring geometry.
     GeometryChoiceType& get_GeometryChoice() { m_isset_GeometryChoice = true; return m_GeometryChoice; }
@@ -745,8 +732,6 @@ public:
 
     /// The class's identity; `getid` and `has_id` work on its address.
     static const char* id;
-
-    static const lmx::s_class k_class;
 
 protected:
     void marshal_attributes(lmx::c_xml_writer& writer) const { lmx::marshal_attributes(k_class, this, writer); }
@@ -783,6 +768,7 @@ public:
     void swap(ColorSpaceSpecificationEmissiveGenericType& other);
     void reset();
     bool is_occurs_ok() const;
+    static const lmx::s_class k_class;
 
     /// Measuring geometry.
     GeometryChoiceType& get_GeometryChoice();
@@ -831,8 +817,6 @@ public:
     /// The class's identity; `getid` and `has_id` work on its address.
     static const char* id;
 
-    static const lmx::s_class k_class;
-
 protected:
     void marshal_attributes(lmx::c_xml_writer& writer) const { lmx::marshal_attributes(k_class, this, writer); }
     lmx::elmx_error marshal_child_elements(lmx::c_xml_writer& writer) const { return lmx::marshal_child_elements(k_class, this, writer); }
@@ -880,6 +864,7 @@ public:
     void swap(ColorSpaceSpecificationEmissiveTristimulusType& other);
     void reset();
     bool is_occurs_ok() const;
+    static const lmx::s_class k_class;
 
     /// Illumination that the value holds for.
     IlluminationOptionsType& get_IlluminationOptions() { m_isset_IlluminationOptions = true; return m_IlluminationOptions; }
@@ -915,8 +900,6 @@ public:
 
     /// The class's identity; `getid` and `has_id` work on its address.
     static const char* id;
-
-    static const lmx::s_class k_class;
 
 protected:
     void marshal_attributes(lmx::c_xml_writer& writer) const { lmx::marshal_attributes(k_class, this, writer); }
@@ -962,6 +945,7 @@ public:
     void swap(ColorSpaceSpecificationEmissiveSpectralType& other);
     void reset();
     bool is_occurs_ok() const;
+    static const lmx::s_class k_class;
 
     /// Measuring geometry.
     GeometryChoiceType& get_GeometryChoice() { m_isset_GeometryChoice = true; return m_GeometryChoice; }
@@ -978,8 +962,6 @@ public:
 
     /// The class's identity; `getid` and `has_id` work on its address.
     static const char* id;
-
-    static const lmx::s_class k_class;
 
 protected:
     void marshal_attributes(lmx::c_xml_writer& writer) const { lmx::marshal_attributes(k_class, this, writer); }
@@ -1056,12 +1038,11 @@ public:
     void swap(ColorSpaceSpecificationSpectrumGeneric& other);
     void reset();
     bool is_occurs_ok() const;
+    static const lmx::s_class k_class;
 
     /// The `xsi:nil` state: an element without a value.
     bool isnil_ColorSpaceSpecificationSpectrumGeneric() const { return m_isnil; }
     void setnil_ColorSpaceSpecificationSpectrumGeneric() { m_isnil = true; }
-
-    static const lmx::s_class k_class;
 
 protected:
     void marshal_attributes(lmx::c_xml_writer& writer) const { lmx::marshal_attributes(k_class, this, writer); }
@@ -1099,12 +1080,11 @@ public:
     void swap(ColorSpaceSpecificationSpectrumTristimulus& other);
     void reset();
     bool is_occurs_ok() const;
+    static const lmx::s_class k_class;
 
     /// The `xsi:nil` state: an element without a value.
     bool isnil_ColorSpaceSpecificationSpectrumTristimulus() const { return m_isnil; }
     void setnil_ColorSpaceSpecificationSpectrumTristimulus() { m_isnil = true; }
-
-    static const lmx::s_class k_class;
 
 protected:
     void marshal_attributes(lmx::c_xml_writer& writer) const { lmx::marshal_attributes(k_class, this, writer); }
@@ -1142,12 +1122,11 @@ public:
     void swap(ColorSpaceSpecificationSpectrumSpectral& other);
     void reset();
     bool is_occurs_ok() const;
+    static const lmx::s_class k_class;
 
     /// The `xsi:nil` state: an element without a value.
     bool isnil_ColorSpaceSpecificationSpectrumSpectral() const { return m_isnil; }
     void setnil_ColorSpaceSpecificationSpectrumSpectral() { m_isnil = true; }
-
-    static const lmx::s_class k_class;
 
 protected:
     void marshal_attributes(lmx::c_xml_writer& writer) const { lmx::marshal_attributes(k_class, this, writer); }
@@ -1206,12 +1185,11 @@ public:
     void swap(ColorSpaceSpecificationEmissiveGeneric& other);
     void reset();
     bool is_occurs_ok() const;
+    static const lmx::s_class k_class;
 
     /// The `xsi:nil` state: an element without a value.
     bool isnil_ColorSpaceSpecificationEmissiveGeneric() const { return m_isnil; }
     void setnil_ColorSpaceSpecificationEmissiveGeneric() { m_isnil = true; }
-
-    static const lmx::s_class k_class;
 
 protected:
     void marshal_attributes(lmx::c_xml_writer& writer) const { lmx::marshal_attributes(k_class, this, writer); }
@@ -1249,12 +1227,11 @@ public:
     void swap(ColorSpaceSpecificationEmissiveTristimulus& other);
     void reset();
     bool is_occurs_ok() const;
+    static const lmx::s_class k_class;
 
     /// The `xsi:nil` state: an element without a value.
     bool isnil_ColorSpaceSpecificationEmissiveTristimulus() const { return m_isnil; }
     void setnil_ColorSpaceSpecificationEmissiveTristimulus() { m_isnil = true; }
-
-    static const lmx::s_class k_class;
 
 protected:
     void marshal_attributes(lmx::c_xml_writer& writer) const { lmx::marshal_attributes(k_class, this, writer); }
@@ -1292,12 +1269,11 @@ public:
     void swap(ColorSpaceSpecificationEmissiveSpectral& other);
     void reset();
     bool is_occurs_ok() const;
+    static const lmx::s_class k_class;
 
     /// The `xsi:nil` state: an element without a value.
     bool isnil_ColorSpaceSpecificationEmissiveSpectral() const { return m_isnil; }
     void setnil_ColorSpaceSpecificationEmissiveSpectral() { m_isnil = true; }
-
-    static const lmx::s_class k_class;
 
 protected:
     void marshal_attributes(lmx::c_xml_writer& writer) const { lmx::marshal_attributes(k_class, this, writer); }
@@ -1322,6 +1298,7 @@ public:
     void swap(Illuminant& other);
     void reset();
     bool is_occurs_ok() const;
+    static const lmx::s_class k_class;
 
     /// Name of the illuminant where the content is Illuminant_Custom.
     const std::u16string& get_CustomName() const { return m_CustomName; }
@@ -1334,8 +1311,6 @@ public:
     lmx::elmx_error set_Illuminant(const std::u16string& value);
     Eenum_Illuminant getenum_Illuminant() const { return static_cast<Eenum_Illuminant>(m_Illuminant.number()); }
     bool setenum_Illuminant(std::int32_t number);
-
-    static const lmx::s_class k_class;
 
 protected:
     void marshal_attributes(lmx::c_xml_writer& writer) const { lmx::marshal_attributes(k_class, this, writer); }
@@ -1368,6 +1343,7 @@ public:
     void swap(WhitePointChromaticity& other);
     void reset();
     bool is_occurs_ok() const;
+    static const lmx::s_class k_class;
 
     /// Chromaticity coordinate x, 0 to 1.
     double get_CoordinateX() const { return m_CoordinateX; }
@@ -1376,8 +1352,6 @@ public:
     /// Chromaticity coordinate y, 0 to 1.
     double get_CoordinateY() const { return m_CoordinateY; }
     lmx::elmx_error set_CoordinateY(double value);
-
-    static const lmx::s_class k_class;
 
 protected:
     void marshal_attributes(lmx::c_xml_writer& writer) const { lmx::marshal_attributes(k_class, this, writer); }
@@ -1410,6 +1384,7 @@ public:
     void swap(BSDFAngle& other);
     void reset();
     bool is_occurs_ok() const;
+    static const lmx::s_class k_class;
 
     /// Angle of the illumination from the surface normal, in degrees.
     double get_IlluminantAngle() const { return m_IlluminantAngle; }
@@ -1418,8 +1393,6 @@ public:
     /// Angle of the detector from the specular direction, in degrees.
     double get_Aspecular() const { return m_Aspecular; }
     lmx::elmx_error set_Aspecular(double value);
-
-    static const lmx::s_class k_class;
 
 protected:
     void marshal_attributes(lmx::c_xml_writer& writer) const { lmx::marshal_attributes(k_class, this, writer); }
@@ -1453,7 +1426,6 @@ public:
     void swap(Azimuth& other);
     void reset();
     bool is_occurs_ok() const;
-
     static const lmx::s_class k_class;
 
 protected:

@@ -20,11 +20,10 @@ namespace com_vyrgraph_v2 {
 
 using namespace lmx;  // for the tables' sake
 
-static_assert(k_binding_version == 4, "run schema/generator/generate.py");
+static_assert(k_binding_version == 5, "run schema/generator/generate.py");
 
 // ColorSpaceRGBType
 
-namespace {
 constexpr s_event_map k_ColorSpaceRGBType_attributes[] = {
     attribute_event("Name", attribute_Name),
     k_end_of_map,
@@ -38,23 +37,14 @@ constexpr s_event_map k_ColorSpaceRGBType_elements[] = {
     element_event("ColorDepth", element_ColorDepth),
     k_end_of_map,
 };
-}  // namespace
-
 constinit const s_item ColorSpaceRGBType::k_items[] = {
-    {item_kind::attribute, value_kind::text, use_name, ELMX_WS_PRESERVE, "Name", attribute_Name,
-     LMX_OFFSET(ColorSpaceRGBType, m_Name, attribute, text), LMX_FLAG(ColorSpaceRGBType, m_isset_Name), 0, 0, nullptr, nullptr, {}},
-    {item_kind::child, value_kind::none, use_required, ELMX_WS_PRESERVE, "Vyr:ColorSpaceSpecificationSpectrumTristimulus", element_ColorSpaceSpecificationSpectrumTristimulus,
-     LMX_OFFSET(ColorSpaceRGBType, m_ColorSpaceSpecificationSpectrumTristimulus, child, none), LMX_FLAG(ColorSpaceRGBType, m_isset_ColorSpaceSpecificationSpectrumTristimulus), position_of(k_ColorSpaceRGBType_elements, element_ColorSpaceSpecificationSpectrumTristimulus), position_of(k_ColorSpaceRGBType_elements, element_ColorSpaceSpecificationSpectrumTristimulus, 1), &ColorSpaceSpecificationSpectrumTristimulus::k_class, nullptr, {}},
-    {item_kind::element, value_kind::number, use_required, ELMX_WS_COLLAPSE, "Vyr:Red", element_Red,
-     LMX_OFFSET(ColorSpaceRGBType, m_Red, element, number), LMX_FLAG(ColorSpaceRGBType, m_isset_Red), position_of(k_ColorSpaceRGBType_elements, element_Red), position_of(k_ColorSpaceRGBType_elements, element_Red, 1), nullptr, &facets::Fraction, {}},
-    {item_kind::element, value_kind::number, use_required, ELMX_WS_COLLAPSE, "Vyr:Green", element_Green,
-     LMX_OFFSET(ColorSpaceRGBType, m_Green, element, number), LMX_FLAG(ColorSpaceRGBType, m_isset_Green), position_of(k_ColorSpaceRGBType_elements, element_Green), position_of(k_ColorSpaceRGBType_elements, element_Green, 1), nullptr, &facets::Fraction, {}},
-    {item_kind::element, value_kind::number, use_required, ELMX_WS_COLLAPSE, "Vyr:Blue", element_Blue,
-     LMX_OFFSET(ColorSpaceRGBType, m_Blue, element, number), LMX_FLAG(ColorSpaceRGBType, m_isset_Blue), position_of(k_ColorSpaceRGBType_elements, element_Blue), position_of(k_ColorSpaceRGBType_elements, element_Blue, 1), nullptr, &facets::Fraction, {}},
-    {item_kind::element, value_kind::number, use_optional, ELMX_WS_COLLAPSE, "Vyr:Alpha", element_Alpha,
-     LMX_OFFSET(ColorSpaceRGBType, m_Alpha, element, number), LMX_FLAG(ColorSpaceRGBType, m_isset_Alpha), position_of(k_ColorSpaceRGBType_elements, element_Alpha), position_of(k_ColorSpaceRGBType_elements, element_Alpha, 1), nullptr, &facets::Fraction, {}},
-    {item_kind::element, value_kind::enumerated, use_required, ELMX_WS_PRESERVE, "Vyr:ColorDepth", element_ColorDepth,
-     LMX_OFFSET(ColorSpaceRGBType, m_ColorDepth, element, enumerated), LMX_FLAG(ColorSpaceRGBType, m_isset_ColorDepth), position_of(k_ColorSpaceRGBType_elements, element_ColorDepth), position_of(k_ColorSpaceRGBType_elements, element_ColorDepth, 1), nullptr, &facets::ColorDepthKind, {}},
+    {item_kind::attribute, value_kind::text, use_name, ELMX_WS_PRESERVE, "Name", attribute_Name, LMX_OFFSET(ColorSpaceRGBType, m_Name, attribute, text), LMX_FLAG(ColorSpaceRGBType, m_isset_Name)},
+    {item_kind::child, value_kind::none, use_required, ELMX_WS_PRESERVE, "Vyr:ColorSpaceSpecificationSpectrumTristimulus", element_ColorSpaceSpecificationSpectrumTristimulus, LMX_OFFSET(ColorSpaceRGBType, m_ColorSpaceSpecificationSpectrumTristimulus, child, none), LMX_FLAG(ColorSpaceRGBType, m_isset_ColorSpaceSpecificationSpectrumTristimulus), position_of(k_ColorSpaceRGBType_elements, element_ColorSpaceSpecificationSpectrumTristimulus), 1, &ColorSpaceSpecificationSpectrumTristimulus::k_class},
+    {item_kind::element, value_kind::number, use_required, ELMX_WS_COLLAPSE, "Vyr:Red", element_Red, LMX_OFFSET(ColorSpaceRGBType, m_Red, element, number), LMX_FLAG(ColorSpaceRGBType, m_isset_Red), position_of(k_ColorSpaceRGBType_elements, element_Red), 1, nullptr, &facets::Fraction},
+    {item_kind::element, value_kind::number, use_required, ELMX_WS_COLLAPSE, "Vyr:Green", element_Green, LMX_OFFSET(ColorSpaceRGBType, m_Green, element, number), LMX_FLAG(ColorSpaceRGBType, m_isset_Green), position_of(k_ColorSpaceRGBType_elements, element_Green), 1, nullptr, &facets::Fraction},
+    {item_kind::element, value_kind::number, use_required, ELMX_WS_COLLAPSE, "Vyr:Blue", element_Blue, LMX_OFFSET(ColorSpaceRGBType, m_Blue, element, number), LMX_FLAG(ColorSpaceRGBType, m_isset_Blue), position_of(k_ColorSpaceRGBType_elements, element_Blue), 1, nullptr, &facets::Fraction},
+    {item_kind::element, value_kind::number, use_optional, ELMX_WS_COLLAPSE, "Vyr:Alpha", element_Alpha, LMX_OFFSET(ColorSpaceRGBType, m_Alpha, element, number), LMX_FLAG(ColorSpaceRGBType, m_isset_Alpha), position_of(k_ColorSpaceRGBType_elements, element_Alpha), 1, nullptr, &facets::Fraction},
+    {item_kind::element, value_kind::enumerated, use_required, ELMX_WS_PRESERVE, "Vyr:ColorDepth", element_ColorDepth, LMX_OFFSET(ColorSpaceRGBType, m_ColorDepth, element, enumerated), LMX_FLAG(ColorSpaceRGBType, m_isset_ColorDepth), position_of(k_ColorSpaceRGBType_elements, element_ColorDepth), 1, nullptr, &facets::ColorDepthKind},
 };
 constinit const s_class ColorSpaceRGBType::k_class = {
     .name = "ColorSpaceRGBType",
@@ -63,7 +53,6 @@ constinit const s_class ColorSpaceRGBType::k_class = {
     .content = content_kind::children,
     .ns_map = k_ns_map,
     .id = &ColorSpaceRGBType::id,
-    .xsi_type = "Vyr:ColorSpaceRGBType",
     .attributes = std::span(k_items).first(std::size(k_ColorSpaceRGBType_attributes) - 1),
     .elements = std::span(k_items).subspan(std::size(k_ColorSpaceRGBType_attributes) - 1),
     .attribute_map = k_ColorSpaceRGBType_attributes,
@@ -71,7 +60,7 @@ constinit const s_class ColorSpaceRGBType::k_class = {
     .operations = &k_operations<ColorSpaceRGBType>,
 };
 
-namespace { const char k_ColorSpaceRGBType_id[] = "ColorSpaceRGBType"; }
+const char k_ColorSpaceRGBType_id[] = "ColorSpaceRGBType";
 const char* ColorSpaceRGBType::id = k_ColorSpaceRGBType_id;
 ColorSpaceRGBType::ColorSpaceRGBType() = default;
 ColorSpaceRGBType::ColorSpaceRGBType(const ColorSpaceRGBType& other) : ColorSpaceType() { lmx::copy(k_class, this, &other); }
@@ -96,7 +85,6 @@ bool ColorSpaceRGBType::setenum_ColorDepth(std::int32_t number) { return lmx::se
 
 // ColorSpaceSRGBType
 
-namespace {
 constexpr s_event_map k_ColorSpaceSRGBType_attributes[] = {
     attribute_event("Name", attribute_Name),
     k_end_of_map,
@@ -110,23 +98,14 @@ constexpr s_event_map k_ColorSpaceSRGBType_elements[] = {
     element_event("ColorDepth", element_ColorDepth),
     k_end_of_map,
 };
-}  // namespace
-
 constinit const s_item ColorSpaceSRGBType::k_items[] = {
-    {item_kind::attribute, value_kind::text, use_name, ELMX_WS_PRESERVE, "Name", attribute_Name,
-     LMX_OFFSET(ColorSpaceSRGBType, m_Name, attribute, text), LMX_FLAG(ColorSpaceSRGBType, m_isset_Name), 0, 0, nullptr, nullptr, {}},
-    {item_kind::child, value_kind::none, use_required, ELMX_WS_PRESERVE, "Vyr:ColorSpaceSpecificationSpectrumTristimulus", element_ColorSpaceSpecificationSpectrumTristimulus,
-     LMX_OFFSET(ColorSpaceSRGBType, m_ColorSpaceSpecificationSpectrumTristimulus, child, none), LMX_FLAG(ColorSpaceSRGBType, m_isset_ColorSpaceSpecificationSpectrumTristimulus), position_of(k_ColorSpaceSRGBType_elements, element_ColorSpaceSpecificationSpectrumTristimulus), position_of(k_ColorSpaceSRGBType_elements, element_ColorSpaceSpecificationSpectrumTristimulus, 1), &ColorSpaceSpecificationSpectrumTristimulus::k_class, nullptr, {}},
-    {item_kind::element, value_kind::number, use_required, ELMX_WS_COLLAPSE, "Vyr:Red", element_Red,
-     LMX_OFFSET(ColorSpaceSRGBType, m_Red, element, number), LMX_FLAG(ColorSpaceSRGBType, m_isset_Red), position_of(k_ColorSpaceSRGBType_elements, element_Red), position_of(k_ColorSpaceSRGBType_elements, element_Red, 1), nullptr, &facets::Fraction, {}},
-    {item_kind::element, value_kind::number, use_required, ELMX_WS_COLLAPSE, "Vyr:Green", element_Green,
-     LMX_OFFSET(ColorSpaceSRGBType, m_Green, element, number), LMX_FLAG(ColorSpaceSRGBType, m_isset_Green), position_of(k_ColorSpaceSRGBType_elements, element_Green), position_of(k_ColorSpaceSRGBType_elements, element_Green, 1), nullptr, &facets::Fraction, {}},
-    {item_kind::element, value_kind::number, use_required, ELMX_WS_COLLAPSE, "Vyr:Blue", element_Blue,
-     LMX_OFFSET(ColorSpaceSRGBType, m_Blue, element, number), LMX_FLAG(ColorSpaceSRGBType, m_isset_Blue), position_of(k_ColorSpaceSRGBType_elements, element_Blue), position_of(k_ColorSpaceSRGBType_elements, element_Blue, 1), nullptr, &facets::Fraction, {}},
-    {item_kind::element, value_kind::number, use_optional, ELMX_WS_COLLAPSE, "Vyr:Alpha", element_Alpha,
-     LMX_OFFSET(ColorSpaceSRGBType, m_Alpha, element, number), LMX_FLAG(ColorSpaceSRGBType, m_isset_Alpha), position_of(k_ColorSpaceSRGBType_elements, element_Alpha), position_of(k_ColorSpaceSRGBType_elements, element_Alpha, 1), nullptr, &facets::Fraction, {}},
-    {item_kind::element, value_kind::enumerated, use_required, ELMX_WS_PRESERVE, "Vyr:ColorDepth", element_ColorDepth,
-     LMX_OFFSET(ColorSpaceSRGBType, m_ColorDepth, element, enumerated), LMX_FLAG(ColorSpaceSRGBType, m_isset_ColorDepth), position_of(k_ColorSpaceSRGBType_elements, element_ColorDepth), position_of(k_ColorSpaceSRGBType_elements, element_ColorDepth, 1), nullptr, &facets::ColorDepthKind, {}},
+    {item_kind::attribute, value_kind::text, use_name, ELMX_WS_PRESERVE, "Name", attribute_Name, LMX_OFFSET(ColorSpaceSRGBType, m_Name, attribute, text), LMX_FLAG(ColorSpaceSRGBType, m_isset_Name)},
+    {item_kind::child, value_kind::none, use_required, ELMX_WS_PRESERVE, "Vyr:ColorSpaceSpecificationSpectrumTristimulus", element_ColorSpaceSpecificationSpectrumTristimulus, LMX_OFFSET(ColorSpaceSRGBType, m_ColorSpaceSpecificationSpectrumTristimulus, child, none), LMX_FLAG(ColorSpaceSRGBType, m_isset_ColorSpaceSpecificationSpectrumTristimulus), position_of(k_ColorSpaceSRGBType_elements, element_ColorSpaceSpecificationSpectrumTristimulus), 1, &ColorSpaceSpecificationSpectrumTristimulus::k_class},
+    {item_kind::element, value_kind::number, use_required, ELMX_WS_COLLAPSE, "Vyr:Red", element_Red, LMX_OFFSET(ColorSpaceSRGBType, m_Red, element, number), LMX_FLAG(ColorSpaceSRGBType, m_isset_Red), position_of(k_ColorSpaceSRGBType_elements, element_Red), 1, nullptr, &facets::Fraction},
+    {item_kind::element, value_kind::number, use_required, ELMX_WS_COLLAPSE, "Vyr:Green", element_Green, LMX_OFFSET(ColorSpaceSRGBType, m_Green, element, number), LMX_FLAG(ColorSpaceSRGBType, m_isset_Green), position_of(k_ColorSpaceSRGBType_elements, element_Green), 1, nullptr, &facets::Fraction},
+    {item_kind::element, value_kind::number, use_required, ELMX_WS_COLLAPSE, "Vyr:Blue", element_Blue, LMX_OFFSET(ColorSpaceSRGBType, m_Blue, element, number), LMX_FLAG(ColorSpaceSRGBType, m_isset_Blue), position_of(k_ColorSpaceSRGBType_elements, element_Blue), 1, nullptr, &facets::Fraction},
+    {item_kind::element, value_kind::number, use_optional, ELMX_WS_COLLAPSE, "Vyr:Alpha", element_Alpha, LMX_OFFSET(ColorSpaceSRGBType, m_Alpha, element, number), LMX_FLAG(ColorSpaceSRGBType, m_isset_Alpha), position_of(k_ColorSpaceSRGBType_elements, element_Alpha), 1, nullptr, &facets::Fraction},
+    {item_kind::element, value_kind::enumerated, use_required, ELMX_WS_PRESERVE, "Vyr:ColorDepth", element_ColorDepth, LMX_OFFSET(ColorSpaceSRGBType, m_ColorDepth, element, enumerated), LMX_FLAG(ColorSpaceSRGBType, m_isset_ColorDepth), position_of(k_ColorSpaceSRGBType_elements, element_ColorDepth), 1, nullptr, &facets::ColorDepthKind},
 };
 constinit const s_class ColorSpaceSRGBType::k_class = {
     .name = "ColorSpaceSRGBType",
@@ -135,7 +114,6 @@ constinit const s_class ColorSpaceSRGBType::k_class = {
     .content = content_kind::children,
     .ns_map = k_ns_map,
     .id = &ColorSpaceSRGBType::id,
-    .xsi_type = "Vyr:ColorSpaceSRGBType",
     .attributes = std::span(k_items).first(std::size(k_ColorSpaceSRGBType_attributes) - 1),
     .elements = std::span(k_items).subspan(std::size(k_ColorSpaceSRGBType_attributes) - 1),
     .attribute_map = k_ColorSpaceSRGBType_attributes,
@@ -143,7 +121,7 @@ constinit const s_class ColorSpaceSRGBType::k_class = {
     .operations = &k_operations<ColorSpaceSRGBType>,
 };
 
-namespace { const char k_ColorSpaceSRGBType_id[] = "ColorSpaceSRGBType"; }
+const char k_ColorSpaceSRGBType_id[] = "ColorSpaceSRGBType";
 const char* ColorSpaceSRGBType::id = k_ColorSpaceSRGBType_id;
 ColorSpaceSRGBType::ColorSpaceSRGBType() = default;
 ColorSpaceSRGBType::ColorSpaceSRGBType(const ColorSpaceSRGBType& other) : ColorSpaceType() { lmx::copy(k_class, this, &other); }
@@ -168,7 +146,6 @@ bool ColorSpaceSRGBType::setenum_ColorDepth(std::int32_t number) { return lmx::s
 
 // ColorSpaceAdobeRGBType
 
-namespace {
 constexpr s_event_map k_ColorSpaceAdobeRGBType_attributes[] = {
     attribute_event("Name", attribute_Name),
     k_end_of_map,
@@ -182,23 +159,14 @@ constexpr s_event_map k_ColorSpaceAdobeRGBType_elements[] = {
     element_event("ColorDepth", element_ColorDepth),
     k_end_of_map,
 };
-}  // namespace
-
 constinit const s_item ColorSpaceAdobeRGBType::k_items[] = {
-    {item_kind::attribute, value_kind::text, use_name, ELMX_WS_PRESERVE, "Name", attribute_Name,
-     LMX_OFFSET(ColorSpaceAdobeRGBType, m_Name, attribute, text), LMX_FLAG(ColorSpaceAdobeRGBType, m_isset_Name), 0, 0, nullptr, nullptr, {}},
-    {item_kind::child, value_kind::none, use_required, ELMX_WS_PRESERVE, "Vyr:ColorSpaceSpecificationSpectrumTristimulus", element_ColorSpaceSpecificationSpectrumTristimulus,
-     LMX_OFFSET(ColorSpaceAdobeRGBType, m_ColorSpaceSpecificationSpectrumTristimulus, child, none), LMX_FLAG(ColorSpaceAdobeRGBType, m_isset_ColorSpaceSpecificationSpectrumTristimulus), position_of(k_ColorSpaceAdobeRGBType_elements, element_ColorSpaceSpecificationSpectrumTristimulus), position_of(k_ColorSpaceAdobeRGBType_elements, element_ColorSpaceSpecificationSpectrumTristimulus, 1), &ColorSpaceSpecificationSpectrumTristimulus::k_class, nullptr, {}},
-    {item_kind::element, value_kind::number, use_required, ELMX_WS_COLLAPSE, "Vyr:Red", element_Red,
-     LMX_OFFSET(ColorSpaceAdobeRGBType, m_Red, element, number), LMX_FLAG(ColorSpaceAdobeRGBType, m_isset_Red), position_of(k_ColorSpaceAdobeRGBType_elements, element_Red), position_of(k_ColorSpaceAdobeRGBType_elements, element_Red, 1), nullptr, &facets::Fraction, {}},
-    {item_kind::element, value_kind::number, use_required, ELMX_WS_COLLAPSE, "Vyr:Green", element_Green,
-     LMX_OFFSET(ColorSpaceAdobeRGBType, m_Green, element, number), LMX_FLAG(ColorSpaceAdobeRGBType, m_isset_Green), position_of(k_ColorSpaceAdobeRGBType_elements, element_Green), position_of(k_ColorSpaceAdobeRGBType_elements, element_Green, 1), nullptr, &facets::Fraction, {}},
-    {item_kind::element, value_kind::number, use_required, ELMX_WS_COLLAPSE, "Vyr:Blue", element_Blue,
-     LMX_OFFSET(ColorSpaceAdobeRGBType, m_Blue, element, number), LMX_FLAG(ColorSpaceAdobeRGBType, m_isset_Blue), position_of(k_ColorSpaceAdobeRGBType_elements, element_Blue), position_of(k_ColorSpaceAdobeRGBType_elements, element_Blue, 1), nullptr, &facets::Fraction, {}},
-    {item_kind::element, value_kind::number, use_optional, ELMX_WS_COLLAPSE, "Vyr:Alpha", element_Alpha,
-     LMX_OFFSET(ColorSpaceAdobeRGBType, m_Alpha, element, number), LMX_FLAG(ColorSpaceAdobeRGBType, m_isset_Alpha), position_of(k_ColorSpaceAdobeRGBType_elements, element_Alpha), position_of(k_ColorSpaceAdobeRGBType_elements, element_Alpha, 1), nullptr, &facets::Fraction, {}},
-    {item_kind::element, value_kind::enumerated, use_required, ELMX_WS_PRESERVE, "Vyr:ColorDepth", element_ColorDepth,
-     LMX_OFFSET(ColorSpaceAdobeRGBType, m_ColorDepth, element, enumerated), LMX_FLAG(ColorSpaceAdobeRGBType, m_isset_ColorDepth), position_of(k_ColorSpaceAdobeRGBType_elements, element_ColorDepth), position_of(k_ColorSpaceAdobeRGBType_elements, element_ColorDepth, 1), nullptr, &facets::ColorDepthKind, {}},
+    {item_kind::attribute, value_kind::text, use_name, ELMX_WS_PRESERVE, "Name", attribute_Name, LMX_OFFSET(ColorSpaceAdobeRGBType, m_Name, attribute, text), LMX_FLAG(ColorSpaceAdobeRGBType, m_isset_Name)},
+    {item_kind::child, value_kind::none, use_required, ELMX_WS_PRESERVE, "Vyr:ColorSpaceSpecificationSpectrumTristimulus", element_ColorSpaceSpecificationSpectrumTristimulus, LMX_OFFSET(ColorSpaceAdobeRGBType, m_ColorSpaceSpecificationSpectrumTristimulus, child, none), LMX_FLAG(ColorSpaceAdobeRGBType, m_isset_ColorSpaceSpecificationSpectrumTristimulus), position_of(k_ColorSpaceAdobeRGBType_elements, element_ColorSpaceSpecificationSpectrumTristimulus), 1, &ColorSpaceSpecificationSpectrumTristimulus::k_class},
+    {item_kind::element, value_kind::number, use_required, ELMX_WS_COLLAPSE, "Vyr:Red", element_Red, LMX_OFFSET(ColorSpaceAdobeRGBType, m_Red, element, number), LMX_FLAG(ColorSpaceAdobeRGBType, m_isset_Red), position_of(k_ColorSpaceAdobeRGBType_elements, element_Red), 1, nullptr, &facets::Fraction},
+    {item_kind::element, value_kind::number, use_required, ELMX_WS_COLLAPSE, "Vyr:Green", element_Green, LMX_OFFSET(ColorSpaceAdobeRGBType, m_Green, element, number), LMX_FLAG(ColorSpaceAdobeRGBType, m_isset_Green), position_of(k_ColorSpaceAdobeRGBType_elements, element_Green), 1, nullptr, &facets::Fraction},
+    {item_kind::element, value_kind::number, use_required, ELMX_WS_COLLAPSE, "Vyr:Blue", element_Blue, LMX_OFFSET(ColorSpaceAdobeRGBType, m_Blue, element, number), LMX_FLAG(ColorSpaceAdobeRGBType, m_isset_Blue), position_of(k_ColorSpaceAdobeRGBType_elements, element_Blue), 1, nullptr, &facets::Fraction},
+    {item_kind::element, value_kind::number, use_optional, ELMX_WS_COLLAPSE, "Vyr:Alpha", element_Alpha, LMX_OFFSET(ColorSpaceAdobeRGBType, m_Alpha, element, number), LMX_FLAG(ColorSpaceAdobeRGBType, m_isset_Alpha), position_of(k_ColorSpaceAdobeRGBType_elements, element_Alpha), 1, nullptr, &facets::Fraction},
+    {item_kind::element, value_kind::enumerated, use_required, ELMX_WS_PRESERVE, "Vyr:ColorDepth", element_ColorDepth, LMX_OFFSET(ColorSpaceAdobeRGBType, m_ColorDepth, element, enumerated), LMX_FLAG(ColorSpaceAdobeRGBType, m_isset_ColorDepth), position_of(k_ColorSpaceAdobeRGBType_elements, element_ColorDepth), 1, nullptr, &facets::ColorDepthKind},
 };
 constinit const s_class ColorSpaceAdobeRGBType::k_class = {
     .name = "ColorSpaceAdobeRGBType",
@@ -207,7 +175,6 @@ constinit const s_class ColorSpaceAdobeRGBType::k_class = {
     .content = content_kind::children,
     .ns_map = k_ns_map,
     .id = &ColorSpaceAdobeRGBType::id,
-    .xsi_type = "Vyr:ColorSpaceAdobeRGBType",
     .attributes = std::span(k_items).first(std::size(k_ColorSpaceAdobeRGBType_attributes) - 1),
     .elements = std::span(k_items).subspan(std::size(k_ColorSpaceAdobeRGBType_attributes) - 1),
     .attribute_map = k_ColorSpaceAdobeRGBType_attributes,
@@ -215,7 +182,7 @@ constinit const s_class ColorSpaceAdobeRGBType::k_class = {
     .operations = &k_operations<ColorSpaceAdobeRGBType>,
 };
 
-namespace { const char k_ColorSpaceAdobeRGBType_id[] = "ColorSpaceAdobeRGBType"; }
+const char k_ColorSpaceAdobeRGBType_id[] = "ColorSpaceAdobeRGBType";
 const char* ColorSpaceAdobeRGBType::id = k_ColorSpaceAdobeRGBType_id;
 ColorSpaceAdobeRGBType::ColorSpaceAdobeRGBType() = default;
 ColorSpaceAdobeRGBType::ColorSpaceAdobeRGBType(const ColorSpaceAdobeRGBType& other) : ColorSpaceType() { lmx::copy(k_class, this, &other); }
@@ -240,7 +207,6 @@ bool ColorSpaceAdobeRGBType::setenum_ColorDepth(std::int32_t number) { return lm
 
 // ColorSpaceAdobeWideGamutRGBType
 
-namespace {
 constexpr s_event_map k_ColorSpaceAdobeWideGamutRGBType_attributes[] = {
     attribute_event("Name", attribute_Name),
     k_end_of_map,
@@ -254,23 +220,14 @@ constexpr s_event_map k_ColorSpaceAdobeWideGamutRGBType_elements[] = {
     element_event("ColorDepth", element_ColorDepth),
     k_end_of_map,
 };
-}  // namespace
-
 constinit const s_item ColorSpaceAdobeWideGamutRGBType::k_items[] = {
-    {item_kind::attribute, value_kind::text, use_name, ELMX_WS_PRESERVE, "Name", attribute_Name,
-     LMX_OFFSET(ColorSpaceAdobeWideGamutRGBType, m_Name, attribute, text), LMX_FLAG(ColorSpaceAdobeWideGamutRGBType, m_isset_Name), 0, 0, nullptr, nullptr, {}},
-    {item_kind::child, value_kind::none, use_required, ELMX_WS_PRESERVE, "Vyr:ColorSpaceSpecificationSpectrumTristimulus", element_ColorSpaceSpecificationSpectrumTristimulus,
-     LMX_OFFSET(ColorSpaceAdobeWideGamutRGBType, m_ColorSpaceSpecificationSpectrumTristimulus, child, none), LMX_FLAG(ColorSpaceAdobeWideGamutRGBType, m_isset_ColorSpaceSpecificationSpectrumTristimulus), position_of(k_ColorSpaceAdobeWideGamutRGBType_elements, element_ColorSpaceSpecificationSpectrumTristimulus), position_of(k_ColorSpaceAdobeWideGamutRGBType_elements, element_ColorSpaceSpecificationSpectrumTristimulus, 1), &ColorSpaceSpecificationSpectrumTristimulus::k_class, nullptr, {}},
-    {item_kind::element, value_kind::number, use_required, ELMX_WS_COLLAPSE, "Vyr:Red", element_Red,
-     LMX_OFFSET(ColorSpaceAdobeWideGamutRGBType, m_Red, element, number), LMX_FLAG(ColorSpaceAdobeWideGamutRGBType, m_isset_Red), position_of(k_ColorSpaceAdobeWideGamutRGBType_elements, element_Red), position_of(k_ColorSpaceAdobeWideGamutRGBType_elements, element_Red, 1), nullptr, &facets::Fraction, {}},
-    {item_kind::element, value_kind::number, use_required, ELMX_WS_COLLAPSE, "Vyr:Green", element_Green,
-     LMX_OFFSET(ColorSpaceAdobeWideGamutRGBType, m_Green, element, number), LMX_FLAG(ColorSpaceAdobeWideGamutRGBType, m_isset_Green), position_of(k_ColorSpaceAdobeWideGamutRGBType_elements, element_Green), position_of(k_ColorSpaceAdobeWideGamutRGBType_elements, element_Green, 1), nullptr, &facets::Fraction, {}},
-    {item_kind::element, value_kind::number, use_required, ELMX_WS_COLLAPSE, "Vyr:Blue", element_Blue,
-     LMX_OFFSET(ColorSpaceAdobeWideGamutRGBType, m_Blue, element, number), LMX_FLAG(ColorSpaceAdobeWideGamutRGBType, m_isset_Blue), position_of(k_ColorSpaceAdobeWideGamutRGBType_elements, element_Blue), position_of(k_ColorSpaceAdobeWideGamutRGBType_elements, element_Blue, 1), nullptr, &facets::Fraction, {}},
-    {item_kind::element, value_kind::number, use_optional, ELMX_WS_COLLAPSE, "Vyr:Alpha", element_Alpha,
-     LMX_OFFSET(ColorSpaceAdobeWideGamutRGBType, m_Alpha, element, number), LMX_FLAG(ColorSpaceAdobeWideGamutRGBType, m_isset_Alpha), position_of(k_ColorSpaceAdobeWideGamutRGBType_elements, element_Alpha), position_of(k_ColorSpaceAdobeWideGamutRGBType_elements, element_Alpha, 1), nullptr, &facets::Fraction, {}},
-    {item_kind::element, value_kind::enumerated, use_required, ELMX_WS_PRESERVE, "Vyr:ColorDepth", element_ColorDepth,
-     LMX_OFFSET(ColorSpaceAdobeWideGamutRGBType, m_ColorDepth, element, enumerated), LMX_FLAG(ColorSpaceAdobeWideGamutRGBType, m_isset_ColorDepth), position_of(k_ColorSpaceAdobeWideGamutRGBType_elements, element_ColorDepth), position_of(k_ColorSpaceAdobeWideGamutRGBType_elements, element_ColorDepth, 1), nullptr, &facets::ColorDepthKind, {}},
+    {item_kind::attribute, value_kind::text, use_name, ELMX_WS_PRESERVE, "Name", attribute_Name, LMX_OFFSET(ColorSpaceAdobeWideGamutRGBType, m_Name, attribute, text), LMX_FLAG(ColorSpaceAdobeWideGamutRGBType, m_isset_Name)},
+    {item_kind::child, value_kind::none, use_required, ELMX_WS_PRESERVE, "Vyr:ColorSpaceSpecificationSpectrumTristimulus", element_ColorSpaceSpecificationSpectrumTristimulus, LMX_OFFSET(ColorSpaceAdobeWideGamutRGBType, m_ColorSpaceSpecificationSpectrumTristimulus, child, none), LMX_FLAG(ColorSpaceAdobeWideGamutRGBType, m_isset_ColorSpaceSpecificationSpectrumTristimulus), position_of(k_ColorSpaceAdobeWideGamutRGBType_elements, element_ColorSpaceSpecificationSpectrumTristimulus), 1, &ColorSpaceSpecificationSpectrumTristimulus::k_class},
+    {item_kind::element, value_kind::number, use_required, ELMX_WS_COLLAPSE, "Vyr:Red", element_Red, LMX_OFFSET(ColorSpaceAdobeWideGamutRGBType, m_Red, element, number), LMX_FLAG(ColorSpaceAdobeWideGamutRGBType, m_isset_Red), position_of(k_ColorSpaceAdobeWideGamutRGBType_elements, element_Red), 1, nullptr, &facets::Fraction},
+    {item_kind::element, value_kind::number, use_required, ELMX_WS_COLLAPSE, "Vyr:Green", element_Green, LMX_OFFSET(ColorSpaceAdobeWideGamutRGBType, m_Green, element, number), LMX_FLAG(ColorSpaceAdobeWideGamutRGBType, m_isset_Green), position_of(k_ColorSpaceAdobeWideGamutRGBType_elements, element_Green), 1, nullptr, &facets::Fraction},
+    {item_kind::element, value_kind::number, use_required, ELMX_WS_COLLAPSE, "Vyr:Blue", element_Blue, LMX_OFFSET(ColorSpaceAdobeWideGamutRGBType, m_Blue, element, number), LMX_FLAG(ColorSpaceAdobeWideGamutRGBType, m_isset_Blue), position_of(k_ColorSpaceAdobeWideGamutRGBType_elements, element_Blue), 1, nullptr, &facets::Fraction},
+    {item_kind::element, value_kind::number, use_optional, ELMX_WS_COLLAPSE, "Vyr:Alpha", element_Alpha, LMX_OFFSET(ColorSpaceAdobeWideGamutRGBType, m_Alpha, element, number), LMX_FLAG(ColorSpaceAdobeWideGamutRGBType, m_isset_Alpha), position_of(k_ColorSpaceAdobeWideGamutRGBType_elements, element_Alpha), 1, nullptr, &facets::Fraction},
+    {item_kind::element, value_kind::enumerated, use_required, ELMX_WS_PRESERVE, "Vyr:ColorDepth", element_ColorDepth, LMX_OFFSET(ColorSpaceAdobeWideGamutRGBType, m_ColorDepth, element, enumerated), LMX_FLAG(ColorSpaceAdobeWideGamutRGBType, m_isset_ColorDepth), position_of(k_ColorSpaceAdobeWideGamutRGBType_elements, element_ColorDepth), 1, nullptr, &facets::ColorDepthKind},
 };
 constinit const s_class ColorSpaceAdobeWideGamutRGBType::k_class = {
     .name = "ColorSpaceAdobeWideGamutRGBType",
@@ -279,7 +236,6 @@ constinit const s_class ColorSpaceAdobeWideGamutRGBType::k_class = {
     .content = content_kind::children,
     .ns_map = k_ns_map,
     .id = &ColorSpaceAdobeWideGamutRGBType::id,
-    .xsi_type = "Vyr:ColorSpaceAdobeWideGamutRGBType",
     .attributes = std::span(k_items).first(std::size(k_ColorSpaceAdobeWideGamutRGBType_attributes) - 1),
     .elements = std::span(k_items).subspan(std::size(k_ColorSpaceAdobeWideGamutRGBType_attributes) - 1),
     .attribute_map = k_ColorSpaceAdobeWideGamutRGBType_attributes,
@@ -287,7 +243,7 @@ constinit const s_class ColorSpaceAdobeWideGamutRGBType::k_class = {
     .operations = &k_operations<ColorSpaceAdobeWideGamutRGBType>,
 };
 
-namespace { const char k_ColorSpaceAdobeWideGamutRGBType_id[] = "ColorSpaceAdobeWideGamutRGBType"; }
+const char k_ColorSpaceAdobeWideGamutRGBType_id[] = "ColorSpaceAdobeWideGamutRGBType";
 const char* ColorSpaceAdobeWideGamutRGBType::id = k_ColorSpaceAdobeWideGamutRGBType_id;
 ColorSpaceAdobeWideGamutRGBType::ColorSpaceAdobeWideGamutRGBType() = default;
 ColorSpaceAdobeWideGamutRGBType::ColorSpaceAdobeWideGamutRGBType(const ColorSpaceAdobeWideGamutRGBType& other) : ColorSpaceType() { lmx::copy(k_class, this, &other); }
@@ -312,7 +268,6 @@ bool ColorSpaceAdobeWideGamutRGBType::setenum_ColorDepth(std::int32_t number) { 
 
 // ColorSpaceCMYKType
 
-namespace {
 constexpr s_event_map k_ColorSpaceCMYKType_attributes[] = {
     attribute_event("Name", attribute_Name),
     k_end_of_map,
@@ -326,23 +281,14 @@ constexpr s_event_map k_ColorSpaceCMYKType_elements[] = {
     element_event("SpotColor", element_SpotColor),
     k_end_of_map,
 };
-}  // namespace
-
 constinit const s_item ColorSpaceCMYKType::k_items[] = {
-    {item_kind::attribute, value_kind::text, use_name, ELMX_WS_PRESERVE, "Name", attribute_Name,
-     LMX_OFFSET(ColorSpaceCMYKType, m_Name, attribute, text), LMX_FLAG(ColorSpaceCMYKType, m_isset_Name), 0, 0, nullptr, nullptr, {}},
-    {item_kind::child, value_kind::none, use_required, ELMX_WS_PRESERVE, "Vyr:ColorSpaceSpecificationSpectrumGeneric", element_ColorSpaceSpecificationSpectrumGeneric,
-     LMX_OFFSET(ColorSpaceCMYKType, m_ColorSpaceSpecificationSpectrumGeneric, child, none), LMX_FLAG(ColorSpaceCMYKType, m_isset_ColorSpaceSpecificationSpectrumGeneric), position_of(k_ColorSpaceCMYKType_elements, element_ColorSpaceSpecificationSpectrumGeneric), position_of(k_ColorSpaceCMYKType_elements, element_ColorSpaceSpecificationSpectrumGeneric, 1), &ColorSpaceSpecificationSpectrumGeneric::k_class, nullptr, {}},
-    {item_kind::element, value_kind::number, use_required, ELMX_WS_COLLAPSE, "Vyr:Cyan", element_Cyan,
-     LMX_OFFSET(ColorSpaceCMYKType, m_Cyan, element, number), LMX_FLAG(ColorSpaceCMYKType, m_isset_Cyan), position_of(k_ColorSpaceCMYKType_elements, element_Cyan), position_of(k_ColorSpaceCMYKType_elements, element_Cyan, 1), nullptr, &facets::Percentage, {}},
-    {item_kind::element, value_kind::number, use_required, ELMX_WS_COLLAPSE, "Vyr:Magenta", element_Magenta,
-     LMX_OFFSET(ColorSpaceCMYKType, m_Magenta, element, number), LMX_FLAG(ColorSpaceCMYKType, m_isset_Magenta), position_of(k_ColorSpaceCMYKType_elements, element_Magenta), position_of(k_ColorSpaceCMYKType_elements, element_Magenta, 1), nullptr, &facets::Percentage, {}},
-    {item_kind::element, value_kind::number, use_required, ELMX_WS_COLLAPSE, "Vyr:Yellow", element_Yellow,
-     LMX_OFFSET(ColorSpaceCMYKType, m_Yellow, element, number), LMX_FLAG(ColorSpaceCMYKType, m_isset_Yellow), position_of(k_ColorSpaceCMYKType_elements, element_Yellow), position_of(k_ColorSpaceCMYKType_elements, element_Yellow, 1), nullptr, &facets::Percentage, {}},
-    {item_kind::element, value_kind::number, use_required, ELMX_WS_COLLAPSE, "Vyr:Black", element_Black,
-     LMX_OFFSET(ColorSpaceCMYKType, m_Black, element, number), LMX_FLAG(ColorSpaceCMYKType, m_isset_Black), position_of(k_ColorSpaceCMYKType_elements, element_Black), position_of(k_ColorSpaceCMYKType_elements, element_Black, 1), nullptr, &facets::Percentage, {}},
-    {item_kind::child_list, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:SpotColor", element_SpotColor,
-     LMX_OFFSET(ColorSpaceCMYKType, m_SpotColor, child_list, none), k_no_flag, position_of(k_ColorSpaceCMYKType_elements, element_SpotColor), position_of(k_ColorSpaceCMYKType_elements, element_SpotColor, 1), &SpotColorType::k_class, nullptr, {}},
+    {item_kind::attribute, value_kind::text, use_name, ELMX_WS_PRESERVE, "Name", attribute_Name, LMX_OFFSET(ColorSpaceCMYKType, m_Name, attribute, text), LMX_FLAG(ColorSpaceCMYKType, m_isset_Name)},
+    {item_kind::child, value_kind::none, use_required, ELMX_WS_PRESERVE, "Vyr:ColorSpaceSpecificationSpectrumGeneric", element_ColorSpaceSpecificationSpectrumGeneric, LMX_OFFSET(ColorSpaceCMYKType, m_ColorSpaceSpecificationSpectrumGeneric, child, none), LMX_FLAG(ColorSpaceCMYKType, m_isset_ColorSpaceSpecificationSpectrumGeneric), position_of(k_ColorSpaceCMYKType_elements, element_ColorSpaceSpecificationSpectrumGeneric), 1, &ColorSpaceSpecificationSpectrumGeneric::k_class},
+    {item_kind::element, value_kind::number, use_required, ELMX_WS_COLLAPSE, "Vyr:Cyan", element_Cyan, LMX_OFFSET(ColorSpaceCMYKType, m_Cyan, element, number), LMX_FLAG(ColorSpaceCMYKType, m_isset_Cyan), position_of(k_ColorSpaceCMYKType_elements, element_Cyan), 1, nullptr, &facets::Percentage},
+    {item_kind::element, value_kind::number, use_required, ELMX_WS_COLLAPSE, "Vyr:Magenta", element_Magenta, LMX_OFFSET(ColorSpaceCMYKType, m_Magenta, element, number), LMX_FLAG(ColorSpaceCMYKType, m_isset_Magenta), position_of(k_ColorSpaceCMYKType_elements, element_Magenta), 1, nullptr, &facets::Percentage},
+    {item_kind::element, value_kind::number, use_required, ELMX_WS_COLLAPSE, "Vyr:Yellow", element_Yellow, LMX_OFFSET(ColorSpaceCMYKType, m_Yellow, element, number), LMX_FLAG(ColorSpaceCMYKType, m_isset_Yellow), position_of(k_ColorSpaceCMYKType_elements, element_Yellow), 1, nullptr, &facets::Percentage},
+    {item_kind::element, value_kind::number, use_required, ELMX_WS_COLLAPSE, "Vyr:Black", element_Black, LMX_OFFSET(ColorSpaceCMYKType, m_Black, element, number), LMX_FLAG(ColorSpaceCMYKType, m_isset_Black), position_of(k_ColorSpaceCMYKType_elements, element_Black), 1, nullptr, &facets::Percentage},
+    {item_kind::child_list, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:SpotColor", element_SpotColor, LMX_OFFSET(ColorSpaceCMYKType, m_SpotColor, child_list, none), k_no_flag, position_of(k_ColorSpaceCMYKType_elements, element_SpotColor), 1, &SpotColorType::k_class},
 };
 constinit const s_factory_row ColorSpaceCMYKType::k_factory[] = {
     {"ColorSpaceCMYKType", &ColorSpaceCMYKType::k_class},
@@ -355,7 +301,6 @@ constinit const s_class ColorSpaceCMYKType::k_class = {
     .content = content_kind::children,
     .ns_map = k_ns_map,
     .id = &ColorSpaceCMYKType::id,
-    .xsi_type = "Vyr:ColorSpaceCMYKType",
     .attributes = std::span(k_items).first(std::size(k_ColorSpaceCMYKType_attributes) - 1),
     .elements = std::span(k_items).subspan(std::size(k_ColorSpaceCMYKType_attributes) - 1),
     .attribute_map = k_ColorSpaceCMYKType_attributes,
@@ -363,7 +308,7 @@ constinit const s_class ColorSpaceCMYKType::k_class = {
     .operations = &k_operations<ColorSpaceCMYKType>,
 };
 
-namespace { const char k_ColorSpaceCMYKType_id[] = "ColorSpaceCMYKType"; }
+const char k_ColorSpaceCMYKType_id[] = "ColorSpaceCMYKType";
 const char* ColorSpaceCMYKType::id = k_ColorSpaceCMYKType_id;
 ColorSpaceCMYKType::ColorSpaceCMYKType() = default;
 ColorSpaceCMYKType::ColorSpaceCMYKType(const ColorSpaceCMYKType& other) : ColorSpaceType() { lmx::copy(k_class, this, &other); }
@@ -393,19 +338,14 @@ ColorSpaceCMYKType* ColorSpaceCMYKType::factory(int ns_id, const std::string& na
 
 // ColorSpaceCMYKPlusNType
 
-namespace {
 constexpr s_event_map k_ColorSpaceCMYKPlusNType_elements[] = {
     element_event("ColorSpaceName", element_ColorSpaceName),
     element_event("Color", element_Color),
     k_end_of_map,
 };
-}  // namespace
-
 constinit const s_item ColorSpaceCMYKPlusNType::k_items[] = {
-    {item_kind::element, value_kind::text, use_optional, ELMX_WS_PRESERVE, "Vyr:ColorSpaceName", element_ColorSpaceName,
-     LMX_OFFSET(ColorSpaceCMYKPlusNType, m_ColorSpaceName, element, text), LMX_FLAG(ColorSpaceCMYKPlusNType, m_isset_ColorSpaceName), position_of(k_ColorSpaceCMYKPlusNType_elements, element_ColorSpaceName), position_of(k_ColorSpaceCMYKPlusNType_elements, element_ColorSpaceName, 1), nullptr, nullptr, {}},
-    {item_kind::child_list, value_kind::none, use_demanded | use_asked, ELMX_WS_PRESERVE, "Vyr:Color", element_Color,
-     LMX_OFFSET(ColorSpaceCMYKPlusNType, m_Color, child_list, none), k_no_flag, position_of(k_ColorSpaceCMYKPlusNType_elements, element_Color), position_of(k_ColorSpaceCMYKPlusNType_elements, element_Color, 1), &Color::k_class, nullptr, {}},
+    {item_kind::element, value_kind::text, use_optional, ELMX_WS_PRESERVE, "Vyr:ColorSpaceName", element_ColorSpaceName, LMX_OFFSET(ColorSpaceCMYKPlusNType, m_ColorSpaceName, element, text), LMX_FLAG(ColorSpaceCMYKPlusNType, m_isset_ColorSpaceName), position_of(k_ColorSpaceCMYKPlusNType_elements, element_ColorSpaceName), 1},
+    {item_kind::child_list, value_kind::none, use_demanded | use_asked, ELMX_WS_PRESERVE, "Vyr:Color", element_Color, LMX_OFFSET(ColorSpaceCMYKPlusNType, m_Color, child_list, none), k_no_flag, position_of(k_ColorSpaceCMYKPlusNType_elements, element_Color), 1, &Color::k_class},
 };
 constinit const s_class ColorSpaceCMYKPlusNType::k_class = {
     .name = "ColorSpaceCMYKPlusNType",
@@ -414,14 +354,12 @@ constinit const s_class ColorSpaceCMYKPlusNType::k_class = {
     .content = content_kind::children,
     .ns_map = k_ns_map,
     .id = &ColorSpaceCMYKPlusNType::id,
-    .xsi_type = "Vyr:ColorSpaceCMYKPlusNType",
-    .elements = std::span(k_items).subspan(std::size(k_no_events) - 1),
-    .attribute_map = k_no_events,
+    .elements = k_items,
     .element_map = k_ColorSpaceCMYKPlusNType_elements,
     .operations = &k_operations<ColorSpaceCMYKPlusNType>,
 };
 
-namespace { const char k_ColorSpaceCMYKPlusNType_id[] = "ColorSpaceCMYKPlusNType"; }
+const char k_ColorSpaceCMYKPlusNType_id[] = "ColorSpaceCMYKPlusNType";
 const char* ColorSpaceCMYKPlusNType::id = k_ColorSpaceCMYKPlusNType_id;
 ColorSpaceCMYKPlusNType::ColorSpaceCMYKPlusNType() = default;
 ColorSpaceCMYKPlusNType::ColorSpaceCMYKPlusNType(const ColorSpaceCMYKPlusNType& other) : ColorSpaceCMYKType() { lmx::copy(k_class, this, &other); }
@@ -445,26 +383,20 @@ void ColorSpaceCMYKPlusNType::clear_Color() { m_Color.clear(); }
 
 // Color
 
-namespace {
 constexpr s_event_map k_Color_elements[] = {
     element_event("Name", element_Name),
     element_event("Value", element_Value),
     k_end_of_map,
 };
-}  // namespace
-
 constinit const s_item Color::k_items[] = {
-    {item_kind::element, value_kind::text, use_required | use_name, ELMX_WS_PRESERVE, "Vyr:Name", element_Name,
-     LMX_OFFSET(Color, m_Name, element, text), LMX_FLAG(Color, m_isset_Name), position_of(k_Color_elements, element_Name), position_of(k_Color_elements, element_Name, 1), nullptr, nullptr, {}},
-    {item_kind::element, value_kind::number, use_required, ELMX_WS_COLLAPSE, "Vyr:Value", element_Value,
-     LMX_OFFSET(Color, m_Value, element, number), LMX_FLAG(Color, m_isset_Value), position_of(k_Color_elements, element_Value), position_of(k_Color_elements, element_Value, 1), nullptr, nullptr, {}},
+    {item_kind::element, value_kind::text, use_required | use_name, ELMX_WS_PRESERVE, "Vyr:Name", element_Name, LMX_OFFSET(Color, m_Name, element, text), LMX_FLAG(Color, m_isset_Name), position_of(k_Color_elements, element_Name), 1},
+    {item_kind::element, value_kind::number, use_required, ELMX_WS_COLLAPSE, "Vyr:Value", element_Value, LMX_OFFSET(Color, m_Value, element, number), LMX_FLAG(Color, m_isset_Value), position_of(k_Color_elements, element_Value), 1},
 };
 constinit const s_class Color::k_class = {
     .name = "Color",
     .qualified_name = "Vyr:Color",
     .content = content_kind::children,
-    .elements = std::span(k_items).subspan(std::size(k_no_events) - 1),
-    .attribute_map = k_no_events,
+    .elements = k_items,
     .element_map = k_Color_elements,
     .operations = &k_operations<Color>,
 };
@@ -483,7 +415,6 @@ lmx::elmx_error Color::set_Value(double value) { return lmx::set_item(k_class, k
 
 // ColorSpaceTINTORAOctavanticType
 
-namespace {
 constexpr s_event_map k_ColorSpaceTINTORAOctavanticType_attributes[] = {
     attribute_event("Name", attribute_Name),
     k_end_of_map,
@@ -499,27 +430,16 @@ constexpr s_event_map k_ColorSpaceTINTORAOctavanticType_elements[] = {
     element_event("SpotColor", element_SpotColor),
     k_end_of_map,
 };
-}  // namespace
-
 constinit const s_item ColorSpaceTINTORAOctavanticType::k_items[] = {
-    {item_kind::attribute, value_kind::text, use_name, ELMX_WS_PRESERVE, "Name", attribute_Name,
-     LMX_OFFSET(ColorSpaceTINTORAOctavanticType, m_Name, attribute, text), LMX_FLAG(ColorSpaceTINTORAOctavanticType, m_isset_Name), 0, 0, nullptr, nullptr, {}},
-    {item_kind::child, value_kind::none, use_required, ELMX_WS_PRESERVE, "Vyr:ColorSpaceSpecificationSpectrumGeneric", element_ColorSpaceSpecificationSpectrumGeneric,
-     LMX_OFFSET(ColorSpaceTINTORAOctavanticType, m_ColorSpaceSpecificationSpectrumGeneric, child, none), LMX_FLAG(ColorSpaceTINTORAOctavanticType, m_isset_ColorSpaceSpecificationSpectrumGeneric), position_of(k_ColorSpaceTINTORAOctavanticType_elements, element_ColorSpaceSpecificationSpectrumGeneric), position_of(k_ColorSpaceTINTORAOctavanticType_elements, element_ColorSpaceSpecificationSpectrumGeneric, 1), &ColorSpaceSpecificationSpectrumGeneric::k_class, nullptr, {}},
-    {item_kind::element, value_kind::number, use_required, ELMX_WS_COLLAPSE, "Vyr:Cyan", element_Cyan,
-     LMX_OFFSET(ColorSpaceTINTORAOctavanticType, m_Cyan, element, number), LMX_FLAG(ColorSpaceTINTORAOctavanticType, m_isset_Cyan), position_of(k_ColorSpaceTINTORAOctavanticType_elements, element_Cyan), position_of(k_ColorSpaceTINTORAOctavanticType_elements, element_Cyan, 1), nullptr, &facets::Percentage, {}},
-    {item_kind::element, value_kind::number, use_required, ELMX_WS_COLLAPSE, "Vyr:Magenta", element_Magenta,
-     LMX_OFFSET(ColorSpaceTINTORAOctavanticType, m_Magenta, element, number), LMX_FLAG(ColorSpaceTINTORAOctavanticType, m_isset_Magenta), position_of(k_ColorSpaceTINTORAOctavanticType_elements, element_Magenta), position_of(k_ColorSpaceTINTORAOctavanticType_elements, element_Magenta, 1), nullptr, &facets::Percentage, {}},
-    {item_kind::element, value_kind::number, use_required, ELMX_WS_COLLAPSE, "Vyr:Yellow", element_Yellow,
-     LMX_OFFSET(ColorSpaceTINTORAOctavanticType, m_Yellow, element, number), LMX_FLAG(ColorSpaceTINTORAOctavanticType, m_isset_Yellow), position_of(k_ColorSpaceTINTORAOctavanticType_elements, element_Yellow), position_of(k_ColorSpaceTINTORAOctavanticType_elements, element_Yellow, 1), nullptr, &facets::Percentage, {}},
-    {item_kind::element, value_kind::number, use_required, ELMX_WS_COLLAPSE, "Vyr:Black", element_Black,
-     LMX_OFFSET(ColorSpaceTINTORAOctavanticType, m_Black, element, number), LMX_FLAG(ColorSpaceTINTORAOctavanticType, m_isset_Black), position_of(k_ColorSpaceTINTORAOctavanticType_elements, element_Black), position_of(k_ColorSpaceTINTORAOctavanticType_elements, element_Black, 1), nullptr, &facets::Percentage, {}},
-    {item_kind::element, value_kind::number, use_required, ELMX_WS_COLLAPSE, "Vyr:Orange", element_Orange,
-     LMX_OFFSET(ColorSpaceTINTORAOctavanticType, m_Orange, element, number), LMX_FLAG(ColorSpaceTINTORAOctavanticType, m_isset_Orange), position_of(k_ColorSpaceTINTORAOctavanticType_elements, element_Orange), position_of(k_ColorSpaceTINTORAOctavanticType_elements, element_Orange, 1), nullptr, &facets::Percentage, {}},
-    {item_kind::element, value_kind::number, use_required, ELMX_WS_COLLAPSE, "Vyr:Green", element_Green,
-     LMX_OFFSET(ColorSpaceTINTORAOctavanticType, m_Green, element, number), LMX_FLAG(ColorSpaceTINTORAOctavanticType, m_isset_Green), position_of(k_ColorSpaceTINTORAOctavanticType_elements, element_Green), position_of(k_ColorSpaceTINTORAOctavanticType_elements, element_Green, 1), nullptr, &facets::Percentage, {}},
-    {item_kind::child_list, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:SpotColor", element_SpotColor,
-     LMX_OFFSET(ColorSpaceTINTORAOctavanticType, m_SpotColor, child_list, none), k_no_flag, position_of(k_ColorSpaceTINTORAOctavanticType_elements, element_SpotColor), position_of(k_ColorSpaceTINTORAOctavanticType_elements, element_SpotColor, 1), &SpotColorType::k_class, nullptr, {}},
+    {item_kind::attribute, value_kind::text, use_name, ELMX_WS_PRESERVE, "Name", attribute_Name, LMX_OFFSET(ColorSpaceTINTORAOctavanticType, m_Name, attribute, text), LMX_FLAG(ColorSpaceTINTORAOctavanticType, m_isset_Name)},
+    {item_kind::child, value_kind::none, use_required, ELMX_WS_PRESERVE, "Vyr:ColorSpaceSpecificationSpectrumGeneric", element_ColorSpaceSpecificationSpectrumGeneric, LMX_OFFSET(ColorSpaceTINTORAOctavanticType, m_ColorSpaceSpecificationSpectrumGeneric, child, none), LMX_FLAG(ColorSpaceTINTORAOctavanticType, m_isset_ColorSpaceSpecificationSpectrumGeneric), position_of(k_ColorSpaceTINTORAOctavanticType_elements, element_ColorSpaceSpecificationSpectrumGeneric), 1, &ColorSpaceSpecificationSpectrumGeneric::k_class},
+    {item_kind::element, value_kind::number, use_required, ELMX_WS_COLLAPSE, "Vyr:Cyan", element_Cyan, LMX_OFFSET(ColorSpaceTINTORAOctavanticType, m_Cyan, element, number), LMX_FLAG(ColorSpaceTINTORAOctavanticType, m_isset_Cyan), position_of(k_ColorSpaceTINTORAOctavanticType_elements, element_Cyan), 1, nullptr, &facets::Percentage},
+    {item_kind::element, value_kind::number, use_required, ELMX_WS_COLLAPSE, "Vyr:Magenta", element_Magenta, LMX_OFFSET(ColorSpaceTINTORAOctavanticType, m_Magenta, element, number), LMX_FLAG(ColorSpaceTINTORAOctavanticType, m_isset_Magenta), position_of(k_ColorSpaceTINTORAOctavanticType_elements, element_Magenta), 1, nullptr, &facets::Percentage},
+    {item_kind::element, value_kind::number, use_required, ELMX_WS_COLLAPSE, "Vyr:Yellow", element_Yellow, LMX_OFFSET(ColorSpaceTINTORAOctavanticType, m_Yellow, element, number), LMX_FLAG(ColorSpaceTINTORAOctavanticType, m_isset_Yellow), position_of(k_ColorSpaceTINTORAOctavanticType_elements, element_Yellow), 1, nullptr, &facets::Percentage},
+    {item_kind::element, value_kind::number, use_required, ELMX_WS_COLLAPSE, "Vyr:Black", element_Black, LMX_OFFSET(ColorSpaceTINTORAOctavanticType, m_Black, element, number), LMX_FLAG(ColorSpaceTINTORAOctavanticType, m_isset_Black), position_of(k_ColorSpaceTINTORAOctavanticType_elements, element_Black), 1, nullptr, &facets::Percentage},
+    {item_kind::element, value_kind::number, use_required, ELMX_WS_COLLAPSE, "Vyr:Orange", element_Orange, LMX_OFFSET(ColorSpaceTINTORAOctavanticType, m_Orange, element, number), LMX_FLAG(ColorSpaceTINTORAOctavanticType, m_isset_Orange), position_of(k_ColorSpaceTINTORAOctavanticType_elements, element_Orange), 1, nullptr, &facets::Percentage},
+    {item_kind::element, value_kind::number, use_required, ELMX_WS_COLLAPSE, "Vyr:Green", element_Green, LMX_OFFSET(ColorSpaceTINTORAOctavanticType, m_Green, element, number), LMX_FLAG(ColorSpaceTINTORAOctavanticType, m_isset_Green), position_of(k_ColorSpaceTINTORAOctavanticType_elements, element_Green), 1, nullptr, &facets::Percentage},
+    {item_kind::child_list, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:SpotColor", element_SpotColor, LMX_OFFSET(ColorSpaceTINTORAOctavanticType, m_SpotColor, child_list, none), k_no_flag, position_of(k_ColorSpaceTINTORAOctavanticType_elements, element_SpotColor), 1, &SpotColorType::k_class},
 };
 constinit const s_class ColorSpaceTINTORAOctavanticType::k_class = {
     .name = "ColorSpaceTINTORAOctavanticType",
@@ -528,7 +448,6 @@ constinit const s_class ColorSpaceTINTORAOctavanticType::k_class = {
     .content = content_kind::children,
     .ns_map = k_ns_map,
     .id = &ColorSpaceTINTORAOctavanticType::id,
-    .xsi_type = "Vyr:ColorSpaceTINTORAOctavanticType",
     .attributes = std::span(k_items).first(std::size(k_ColorSpaceTINTORAOctavanticType_attributes) - 1),
     .elements = std::span(k_items).subspan(std::size(k_ColorSpaceTINTORAOctavanticType_attributes) - 1),
     .attribute_map = k_ColorSpaceTINTORAOctavanticType_attributes,
@@ -536,7 +455,7 @@ constinit const s_class ColorSpaceTINTORAOctavanticType::k_class = {
     .operations = &k_operations<ColorSpaceTINTORAOctavanticType>,
 };
 
-namespace { const char k_ColorSpaceTINTORAOctavanticType_id[] = "ColorSpaceTINTORAOctavanticType"; }
+const char k_ColorSpaceTINTORAOctavanticType_id[] = "ColorSpaceTINTORAOctavanticType";
 const char* ColorSpaceTINTORAOctavanticType::id = k_ColorSpaceTINTORAOctavanticType_id;
 ColorSpaceTINTORAOctavanticType::ColorSpaceTINTORAOctavanticType() = default;
 ColorSpaceTINTORAOctavanticType::ColorSpaceTINTORAOctavanticType(const ColorSpaceTINTORAOctavanticType& other) : ColorSpaceType() { lmx::copy(k_class, this, &other); }
@@ -567,7 +486,6 @@ void ColorSpaceTINTORAOctavanticType::clear_SpotColor() { m_SpotColor.clear(); }
 
 // ColorSpaceHSLType
 
-namespace {
 constexpr s_event_map k_ColorSpaceHSLType_attributes[] = {
     attribute_event("Name", attribute_Name),
     k_end_of_map,
@@ -579,19 +497,12 @@ constexpr s_event_map k_ColorSpaceHSLType_elements[] = {
     element_event("Lightness", element_Lightness),
     k_end_of_map,
 };
-}  // namespace
-
 constinit const s_item ColorSpaceHSLType::k_items[] = {
-    {item_kind::attribute, value_kind::text, use_name, ELMX_WS_PRESERVE, "Name", attribute_Name,
-     LMX_OFFSET(ColorSpaceHSLType, m_Name, attribute, text), LMX_FLAG(ColorSpaceHSLType, m_isset_Name), 0, 0, nullptr, nullptr, {}},
-    {item_kind::child, value_kind::none, use_required, ELMX_WS_PRESERVE, "Vyr:ColorSpaceSpecificationSpectrumGeneric", element_ColorSpaceSpecificationSpectrumGeneric,
-     LMX_OFFSET(ColorSpaceHSLType, m_ColorSpaceSpecificationSpectrumGeneric, child, none), LMX_FLAG(ColorSpaceHSLType, m_isset_ColorSpaceSpecificationSpectrumGeneric), position_of(k_ColorSpaceHSLType_elements, element_ColorSpaceSpecificationSpectrumGeneric), position_of(k_ColorSpaceHSLType_elements, element_ColorSpaceSpecificationSpectrumGeneric, 1), &ColorSpaceSpecificationSpectrumGeneric::k_class, nullptr, {}},
-    {item_kind::element, value_kind::number, use_required, ELMX_WS_COLLAPSE, "Vyr:Hue", element_Hue,
-     LMX_OFFSET(ColorSpaceHSLType, m_Hue, element, number), LMX_FLAG(ColorSpaceHSLType, m_isset_Hue), position_of(k_ColorSpaceHSLType_elements, element_Hue), position_of(k_ColorSpaceHSLType_elements, element_Hue, 1), nullptr, &facets::HueAngle, {}},
-    {item_kind::element, value_kind::number, use_required, ELMX_WS_COLLAPSE, "Vyr:Saturation", element_Saturation,
-     LMX_OFFSET(ColorSpaceHSLType, m_Saturation, element, number), LMX_FLAG(ColorSpaceHSLType, m_isset_Saturation), position_of(k_ColorSpaceHSLType_elements, element_Saturation), position_of(k_ColorSpaceHSLType_elements, element_Saturation, 1), nullptr, &facets::Fraction, {}},
-    {item_kind::element, value_kind::number, use_required, ELMX_WS_COLLAPSE, "Vyr:Lightness", element_Lightness,
-     LMX_OFFSET(ColorSpaceHSLType, m_Lightness, element, number), LMX_FLAG(ColorSpaceHSLType, m_isset_Lightness), position_of(k_ColorSpaceHSLType_elements, element_Lightness), position_of(k_ColorSpaceHSLType_elements, element_Lightness, 1), nullptr, &facets::Fraction, {}},
+    {item_kind::attribute, value_kind::text, use_name, ELMX_WS_PRESERVE, "Name", attribute_Name, LMX_OFFSET(ColorSpaceHSLType, m_Name, attribute, text), LMX_FLAG(ColorSpaceHSLType, m_isset_Name)},
+    {item_kind::child, value_kind::none, use_required, ELMX_WS_PRESERVE, "Vyr:ColorSpaceSpecificationSpectrumGeneric", element_ColorSpaceSpecificationSpectrumGeneric, LMX_OFFSET(ColorSpaceHSLType, m_ColorSpaceSpecificationSpectrumGeneric, child, none), LMX_FLAG(ColorSpaceHSLType, m_isset_ColorSpaceSpecificationSpectrumGeneric), position_of(k_ColorSpaceHSLType_elements, element_ColorSpaceSpecificationSpectrumGeneric), 1, &ColorSpaceSpecificationSpectrumGeneric::k_class},
+    {item_kind::element, value_kind::number, use_required, ELMX_WS_COLLAPSE, "Vyr:Hue", element_Hue, LMX_OFFSET(ColorSpaceHSLType, m_Hue, element, number), LMX_FLAG(ColorSpaceHSLType, m_isset_Hue), position_of(k_ColorSpaceHSLType_elements, element_Hue), 1, nullptr, &facets::HueAngle},
+    {item_kind::element, value_kind::number, use_required, ELMX_WS_COLLAPSE, "Vyr:Saturation", element_Saturation, LMX_OFFSET(ColorSpaceHSLType, m_Saturation, element, number), LMX_FLAG(ColorSpaceHSLType, m_isset_Saturation), position_of(k_ColorSpaceHSLType_elements, element_Saturation), 1, nullptr, &facets::Fraction},
+    {item_kind::element, value_kind::number, use_required, ELMX_WS_COLLAPSE, "Vyr:Lightness", element_Lightness, LMX_OFFSET(ColorSpaceHSLType, m_Lightness, element, number), LMX_FLAG(ColorSpaceHSLType, m_isset_Lightness), position_of(k_ColorSpaceHSLType_elements, element_Lightness), 1, nullptr, &facets::Fraction},
 };
 constinit const s_class ColorSpaceHSLType::k_class = {
     .name = "ColorSpaceHSLType",
@@ -600,7 +511,6 @@ constinit const s_class ColorSpaceHSLType::k_class = {
     .content = content_kind::children,
     .ns_map = k_ns_map,
     .id = &ColorSpaceHSLType::id,
-    .xsi_type = "Vyr:ColorSpaceHSLType",
     .attributes = std::span(k_items).first(std::size(k_ColorSpaceHSLType_attributes) - 1),
     .elements = std::span(k_items).subspan(std::size(k_ColorSpaceHSLType_attributes) - 1),
     .attribute_map = k_ColorSpaceHSLType_attributes,
@@ -608,7 +518,7 @@ constinit const s_class ColorSpaceHSLType::k_class = {
     .operations = &k_operations<ColorSpaceHSLType>,
 };
 
-namespace { const char k_ColorSpaceHSLType_id[] = "ColorSpaceHSLType"; }
+const char k_ColorSpaceHSLType_id[] = "ColorSpaceHSLType";
 const char* ColorSpaceHSLType::id = k_ColorSpaceHSLType_id;
 ColorSpaceHSLType::ColorSpaceHSLType() = default;
 ColorSpaceHSLType::ColorSpaceHSLType(const ColorSpaceHSLType& other) : ColorSpaceType() { lmx::copy(k_class, this, &other); }
@@ -630,7 +540,6 @@ lmx::elmx_error ColorSpaceHSLType::set_Lightness(double value) { return lmx::set
 
 // ColorSpaceHSVType
 
-namespace {
 constexpr s_event_map k_ColorSpaceHSVType_attributes[] = {
     attribute_event("Name", attribute_Name),
     k_end_of_map,
@@ -642,19 +551,12 @@ constexpr s_event_map k_ColorSpaceHSVType_elements[] = {
     element_event("Value", element_Value),
     k_end_of_map,
 };
-}  // namespace
-
 constinit const s_item ColorSpaceHSVType::k_items[] = {
-    {item_kind::attribute, value_kind::text, use_name, ELMX_WS_PRESERVE, "Name", attribute_Name,
-     LMX_OFFSET(ColorSpaceHSVType, m_Name, attribute, text), LMX_FLAG(ColorSpaceHSVType, m_isset_Name), 0, 0, nullptr, nullptr, {}},
-    {item_kind::child, value_kind::none, use_required, ELMX_WS_PRESERVE, "Vyr:ColorSpaceSpecificationSpectrumGeneric", element_ColorSpaceSpecificationSpectrumGeneric,
-     LMX_OFFSET(ColorSpaceHSVType, m_ColorSpaceSpecificationSpectrumGeneric, child, none), LMX_FLAG(ColorSpaceHSVType, m_isset_ColorSpaceSpecificationSpectrumGeneric), position_of(k_ColorSpaceHSVType_elements, element_ColorSpaceSpecificationSpectrumGeneric), position_of(k_ColorSpaceHSVType_elements, element_ColorSpaceSpecificationSpectrumGeneric, 1), &ColorSpaceSpecificationSpectrumGeneric::k_class, nullptr, {}},
-    {item_kind::element, value_kind::number, use_required, ELMX_WS_COLLAPSE, "Vyr:Hue", element_Hue,
-     LMX_OFFSET(ColorSpaceHSVType, m_Hue, element, number), LMX_FLAG(ColorSpaceHSVType, m_isset_Hue), position_of(k_ColorSpaceHSVType_elements, element_Hue), position_of(k_ColorSpaceHSVType_elements, element_Hue, 1), nullptr, &facets::HueAngle, {}},
-    {item_kind::element, value_kind::number, use_required, ELMX_WS_COLLAPSE, "Vyr:Saturation", element_Saturation,
-     LMX_OFFSET(ColorSpaceHSVType, m_Saturation, element, number), LMX_FLAG(ColorSpaceHSVType, m_isset_Saturation), position_of(k_ColorSpaceHSVType_elements, element_Saturation), position_of(k_ColorSpaceHSVType_elements, element_Saturation, 1), nullptr, &facets::Fraction, {}},
-    {item_kind::element, value_kind::number, use_required, ELMX_WS_COLLAPSE, "Vyr:Value", element_Value,
-     LMX_OFFSET(ColorSpaceHSVType, m_Value, element, number), LMX_FLAG(ColorSpaceHSVType, m_isset_Value), position_of(k_ColorSpaceHSVType_elements, element_Value), position_of(k_ColorSpaceHSVType_elements, element_Value, 1), nullptr, &facets::Fraction, {}},
+    {item_kind::attribute, value_kind::text, use_name, ELMX_WS_PRESERVE, "Name", attribute_Name, LMX_OFFSET(ColorSpaceHSVType, m_Name, attribute, text), LMX_FLAG(ColorSpaceHSVType, m_isset_Name)},
+    {item_kind::child, value_kind::none, use_required, ELMX_WS_PRESERVE, "Vyr:ColorSpaceSpecificationSpectrumGeneric", element_ColorSpaceSpecificationSpectrumGeneric, LMX_OFFSET(ColorSpaceHSVType, m_ColorSpaceSpecificationSpectrumGeneric, child, none), LMX_FLAG(ColorSpaceHSVType, m_isset_ColorSpaceSpecificationSpectrumGeneric), position_of(k_ColorSpaceHSVType_elements, element_ColorSpaceSpecificationSpectrumGeneric), 1, &ColorSpaceSpecificationSpectrumGeneric::k_class},
+    {item_kind::element, value_kind::number, use_required, ELMX_WS_COLLAPSE, "Vyr:Hue", element_Hue, LMX_OFFSET(ColorSpaceHSVType, m_Hue, element, number), LMX_FLAG(ColorSpaceHSVType, m_isset_Hue), position_of(k_ColorSpaceHSVType_elements, element_Hue), 1, nullptr, &facets::HueAngle},
+    {item_kind::element, value_kind::number, use_required, ELMX_WS_COLLAPSE, "Vyr:Saturation", element_Saturation, LMX_OFFSET(ColorSpaceHSVType, m_Saturation, element, number), LMX_FLAG(ColorSpaceHSVType, m_isset_Saturation), position_of(k_ColorSpaceHSVType_elements, element_Saturation), 1, nullptr, &facets::Fraction},
+    {item_kind::element, value_kind::number, use_required, ELMX_WS_COLLAPSE, "Vyr:Value", element_Value, LMX_OFFSET(ColorSpaceHSVType, m_Value, element, number), LMX_FLAG(ColorSpaceHSVType, m_isset_Value), position_of(k_ColorSpaceHSVType_elements, element_Value), 1, nullptr, &facets::Fraction},
 };
 constinit const s_class ColorSpaceHSVType::k_class = {
     .name = "ColorSpaceHSVType",
@@ -663,7 +565,6 @@ constinit const s_class ColorSpaceHSVType::k_class = {
     .content = content_kind::children,
     .ns_map = k_ns_map,
     .id = &ColorSpaceHSVType::id,
-    .xsi_type = "Vyr:ColorSpaceHSVType",
     .attributes = std::span(k_items).first(std::size(k_ColorSpaceHSVType_attributes) - 1),
     .elements = std::span(k_items).subspan(std::size(k_ColorSpaceHSVType_attributes) - 1),
     .attribute_map = k_ColorSpaceHSVType_attributes,
@@ -671,7 +572,7 @@ constinit const s_class ColorSpaceHSVType::k_class = {
     .operations = &k_operations<ColorSpaceHSVType>,
 };
 
-namespace { const char k_ColorSpaceHSVType_id[] = "ColorSpaceHSVType"; }
+const char k_ColorSpaceHSVType_id[] = "ColorSpaceHSVType";
 const char* ColorSpaceHSVType::id = k_ColorSpaceHSVType_id;
 ColorSpaceHSVType::ColorSpaceHSVType() = default;
 ColorSpaceHSVType::ColorSpaceHSVType(const ColorSpaceHSVType& other) : ColorSpaceType() { lmx::copy(k_class, this, &other); }
@@ -693,7 +594,6 @@ lmx::elmx_error ColorSpaceHSVType::set_Value(double value) { return lmx::set_ite
 
 // ColorSpaceYUVType
 
-namespace {
 constexpr s_event_map k_ColorSpaceYUVType_attributes[] = {
     attribute_event("Name", attribute_Name),
     k_end_of_map,
@@ -705,19 +605,12 @@ constexpr s_event_map k_ColorSpaceYUVType_elements[] = {
     element_event("V", element_V),
     k_end_of_map,
 };
-}  // namespace
-
 constinit const s_item ColorSpaceYUVType::k_items[] = {
-    {item_kind::attribute, value_kind::text, use_name, ELMX_WS_PRESERVE, "Name", attribute_Name,
-     LMX_OFFSET(ColorSpaceYUVType, m_Name, attribute, text), LMX_FLAG(ColorSpaceYUVType, m_isset_Name), 0, 0, nullptr, nullptr, {}},
-    {item_kind::child, value_kind::none, use_required, ELMX_WS_PRESERVE, "Vyr:ColorSpaceSpecificationSpectrumGeneric", element_ColorSpaceSpecificationSpectrumGeneric,
-     LMX_OFFSET(ColorSpaceYUVType, m_ColorSpaceSpecificationSpectrumGeneric, child, none), LMX_FLAG(ColorSpaceYUVType, m_isset_ColorSpaceSpecificationSpectrumGeneric), position_of(k_ColorSpaceYUVType_elements, element_ColorSpaceSpecificationSpectrumGeneric), position_of(k_ColorSpaceYUVType_elements, element_ColorSpaceSpecificationSpectrumGeneric, 1), &ColorSpaceSpecificationSpectrumGeneric::k_class, nullptr, {}},
-    {item_kind::element, value_kind::number, use_required, ELMX_WS_COLLAPSE, "Vyr:Y", element_Y,
-     LMX_OFFSET(ColorSpaceYUVType, m_Y, element, number), LMX_FLAG(ColorSpaceYUVType, m_isset_Y), position_of(k_ColorSpaceYUVType_elements, element_Y), position_of(k_ColorSpaceYUVType_elements, element_Y, 1), nullptr, &facets::Fraction, {}},
-    {item_kind::element, value_kind::number, use_required, ELMX_WS_COLLAPSE, "Vyr:U", element_U,
-     LMX_OFFSET(ColorSpaceYUVType, m_U, element, number), LMX_FLAG(ColorSpaceYUVType, m_isset_U), position_of(k_ColorSpaceYUVType_elements, element_U), position_of(k_ColorSpaceYUVType_elements, element_U, 1), nullptr, &facets::YUVChromaU, {}},
-    {item_kind::element, value_kind::number, use_required, ELMX_WS_COLLAPSE, "Vyr:V", element_V,
-     LMX_OFFSET(ColorSpaceYUVType, m_V, element, number), LMX_FLAG(ColorSpaceYUVType, m_isset_V), position_of(k_ColorSpaceYUVType_elements, element_V), position_of(k_ColorSpaceYUVType_elements, element_V, 1), nullptr, &facets::YUVChromaV, {}},
+    {item_kind::attribute, value_kind::text, use_name, ELMX_WS_PRESERVE, "Name", attribute_Name, LMX_OFFSET(ColorSpaceYUVType, m_Name, attribute, text), LMX_FLAG(ColorSpaceYUVType, m_isset_Name)},
+    {item_kind::child, value_kind::none, use_required, ELMX_WS_PRESERVE, "Vyr:ColorSpaceSpecificationSpectrumGeneric", element_ColorSpaceSpecificationSpectrumGeneric, LMX_OFFSET(ColorSpaceYUVType, m_ColorSpaceSpecificationSpectrumGeneric, child, none), LMX_FLAG(ColorSpaceYUVType, m_isset_ColorSpaceSpecificationSpectrumGeneric), position_of(k_ColorSpaceYUVType_elements, element_ColorSpaceSpecificationSpectrumGeneric), 1, &ColorSpaceSpecificationSpectrumGeneric::k_class},
+    {item_kind::element, value_kind::number, use_required, ELMX_WS_COLLAPSE, "Vyr:Y", element_Y, LMX_OFFSET(ColorSpaceYUVType, m_Y, element, number), LMX_FLAG(ColorSpaceYUVType, m_isset_Y), position_of(k_ColorSpaceYUVType_elements, element_Y), 1, nullptr, &facets::Fraction},
+    {item_kind::element, value_kind::number, use_required, ELMX_WS_COLLAPSE, "Vyr:U", element_U, LMX_OFFSET(ColorSpaceYUVType, m_U, element, number), LMX_FLAG(ColorSpaceYUVType, m_isset_U), position_of(k_ColorSpaceYUVType_elements, element_U), 1, nullptr, &facets::YUVChromaU},
+    {item_kind::element, value_kind::number, use_required, ELMX_WS_COLLAPSE, "Vyr:V", element_V, LMX_OFFSET(ColorSpaceYUVType, m_V, element, number), LMX_FLAG(ColorSpaceYUVType, m_isset_V), position_of(k_ColorSpaceYUVType_elements, element_V), 1, nullptr, &facets::YUVChromaV},
 };
 constinit const s_class ColorSpaceYUVType::k_class = {
     .name = "ColorSpaceYUVType",
@@ -726,7 +619,6 @@ constinit const s_class ColorSpaceYUVType::k_class = {
     .content = content_kind::children,
     .ns_map = k_ns_map,
     .id = &ColorSpaceYUVType::id,
-    .xsi_type = "Vyr:ColorSpaceYUVType",
     .attributes = std::span(k_items).first(std::size(k_ColorSpaceYUVType_attributes) - 1),
     .elements = std::span(k_items).subspan(std::size(k_ColorSpaceYUVType_attributes) - 1),
     .attribute_map = k_ColorSpaceYUVType_attributes,
@@ -734,7 +626,7 @@ constinit const s_class ColorSpaceYUVType::k_class = {
     .operations = &k_operations<ColorSpaceYUVType>,
 };
 
-namespace { const char k_ColorSpaceYUVType_id[] = "ColorSpaceYUVType"; }
+const char k_ColorSpaceYUVType_id[] = "ColorSpaceYUVType";
 const char* ColorSpaceYUVType::id = k_ColorSpaceYUVType_id;
 ColorSpaceYUVType::ColorSpaceYUVType() = default;
 ColorSpaceYUVType::ColorSpaceYUVType(const ColorSpaceYUVType& other) : ColorSpaceType() { lmx::copy(k_class, this, &other); }
@@ -756,7 +648,6 @@ lmx::elmx_error ColorSpaceYUVType::set_V(double value) { return lmx::set_item(k_
 
 // ColorSpaceYIQType
 
-namespace {
 constexpr s_event_map k_ColorSpaceYIQType_attributes[] = {
     attribute_event("Name", attribute_Name),
     k_end_of_map,
@@ -768,19 +659,12 @@ constexpr s_event_map k_ColorSpaceYIQType_elements[] = {
     element_event("Q", element_Q),
     k_end_of_map,
 };
-}  // namespace
-
 constinit const s_item ColorSpaceYIQType::k_items[] = {
-    {item_kind::attribute, value_kind::text, use_name, ELMX_WS_PRESERVE, "Name", attribute_Name,
-     LMX_OFFSET(ColorSpaceYIQType, m_Name, attribute, text), LMX_FLAG(ColorSpaceYIQType, m_isset_Name), 0, 0, nullptr, nullptr, {}},
-    {item_kind::child, value_kind::none, use_required, ELMX_WS_PRESERVE, "Vyr:ColorSpaceSpecificationSpectrumGeneric", element_ColorSpaceSpecificationSpectrumGeneric,
-     LMX_OFFSET(ColorSpaceYIQType, m_ColorSpaceSpecificationSpectrumGeneric, child, none), LMX_FLAG(ColorSpaceYIQType, m_isset_ColorSpaceSpecificationSpectrumGeneric), position_of(k_ColorSpaceYIQType_elements, element_ColorSpaceSpecificationSpectrumGeneric), position_of(k_ColorSpaceYIQType_elements, element_ColorSpaceSpecificationSpectrumGeneric, 1), &ColorSpaceSpecificationSpectrumGeneric::k_class, nullptr, {}},
-    {item_kind::element, value_kind::number, use_required, ELMX_WS_COLLAPSE, "Vyr:Y", element_Y,
-     LMX_OFFSET(ColorSpaceYIQType, m_Y, element, number), LMX_FLAG(ColorSpaceYIQType, m_isset_Y), position_of(k_ColorSpaceYIQType_elements, element_Y), position_of(k_ColorSpaceYIQType_elements, element_Y, 1), nullptr, &facets::Fraction, {}},
-    {item_kind::element, value_kind::number, use_required, ELMX_WS_COLLAPSE, "Vyr:I", element_I,
-     LMX_OFFSET(ColorSpaceYIQType, m_I, element, number), LMX_FLAG(ColorSpaceYIQType, m_isset_I), position_of(k_ColorSpaceYIQType_elements, element_I), position_of(k_ColorSpaceYIQType_elements, element_I, 1), nullptr, &facets::YIQInPhase, {}},
-    {item_kind::element, value_kind::number, use_required, ELMX_WS_COLLAPSE, "Vyr:Q", element_Q,
-     LMX_OFFSET(ColorSpaceYIQType, m_Q, element, number), LMX_FLAG(ColorSpaceYIQType, m_isset_Q), position_of(k_ColorSpaceYIQType_elements, element_Q), position_of(k_ColorSpaceYIQType_elements, element_Q, 1), nullptr, &facets::YIQQuadrature, {}},
+    {item_kind::attribute, value_kind::text, use_name, ELMX_WS_PRESERVE, "Name", attribute_Name, LMX_OFFSET(ColorSpaceYIQType, m_Name, attribute, text), LMX_FLAG(ColorSpaceYIQType, m_isset_Name)},
+    {item_kind::child, value_kind::none, use_required, ELMX_WS_PRESERVE, "Vyr:ColorSpaceSpecificationSpectrumGeneric", element_ColorSpaceSpecificationSpectrumGeneric, LMX_OFFSET(ColorSpaceYIQType, m_ColorSpaceSpecificationSpectrumGeneric, child, none), LMX_FLAG(ColorSpaceYIQType, m_isset_ColorSpaceSpecificationSpectrumGeneric), position_of(k_ColorSpaceYIQType_elements, element_ColorSpaceSpecificationSpectrumGeneric), 1, &ColorSpaceSpecificationSpectrumGeneric::k_class},
+    {item_kind::element, value_kind::number, use_required, ELMX_WS_COLLAPSE, "Vyr:Y", element_Y, LMX_OFFSET(ColorSpaceYIQType, m_Y, element, number), LMX_FLAG(ColorSpaceYIQType, m_isset_Y), position_of(k_ColorSpaceYIQType_elements, element_Y), 1, nullptr, &facets::Fraction},
+    {item_kind::element, value_kind::number, use_required, ELMX_WS_COLLAPSE, "Vyr:I", element_I, LMX_OFFSET(ColorSpaceYIQType, m_I, element, number), LMX_FLAG(ColorSpaceYIQType, m_isset_I), position_of(k_ColorSpaceYIQType_elements, element_I), 1, nullptr, &facets::YIQInPhase},
+    {item_kind::element, value_kind::number, use_required, ELMX_WS_COLLAPSE, "Vyr:Q", element_Q, LMX_OFFSET(ColorSpaceYIQType, m_Q, element, number), LMX_FLAG(ColorSpaceYIQType, m_isset_Q), position_of(k_ColorSpaceYIQType_elements, element_Q), 1, nullptr, &facets::YIQQuadrature},
 };
 constinit const s_class ColorSpaceYIQType::k_class = {
     .name = "ColorSpaceYIQType",
@@ -789,7 +673,6 @@ constinit const s_class ColorSpaceYIQType::k_class = {
     .content = content_kind::children,
     .ns_map = k_ns_map,
     .id = &ColorSpaceYIQType::id,
-    .xsi_type = "Vyr:ColorSpaceYIQType",
     .attributes = std::span(k_items).first(std::size(k_ColorSpaceYIQType_attributes) - 1),
     .elements = std::span(k_items).subspan(std::size(k_ColorSpaceYIQType_attributes) - 1),
     .attribute_map = k_ColorSpaceYIQType_attributes,
@@ -797,7 +680,7 @@ constinit const s_class ColorSpaceYIQType::k_class = {
     .operations = &k_operations<ColorSpaceYIQType>,
 };
 
-namespace { const char k_ColorSpaceYIQType_id[] = "ColorSpaceYIQType"; }
+const char k_ColorSpaceYIQType_id[] = "ColorSpaceYIQType";
 const char* ColorSpaceYIQType::id = k_ColorSpaceYIQType_id;
 ColorSpaceYIQType::ColorSpaceYIQType() = default;
 ColorSpaceYIQType::ColorSpaceYIQType(const ColorSpaceYIQType& other) : ColorSpaceType() { lmx::copy(k_class, this, &other); }
@@ -819,7 +702,6 @@ lmx::elmx_error ColorSpaceYIQType::set_Q(double value) { return lmx::set_item(k_
 
 // ColorSpaceYBRType
 
-namespace {
 constexpr s_event_map k_ColorSpaceYBRType_attributes[] = {
     attribute_event("Name", attribute_Name),
     k_end_of_map,
@@ -831,19 +713,12 @@ constexpr s_event_map k_ColorSpaceYBRType_elements[] = {
     element_event("R", element_R),
     k_end_of_map,
 };
-}  // namespace
-
 constinit const s_item ColorSpaceYBRType::k_items[] = {
-    {item_kind::attribute, value_kind::text, use_name, ELMX_WS_PRESERVE, "Name", attribute_Name,
-     LMX_OFFSET(ColorSpaceYBRType, m_Name, attribute, text), LMX_FLAG(ColorSpaceYBRType, m_isset_Name), 0, 0, nullptr, nullptr, {}},
-    {item_kind::child, value_kind::none, use_required, ELMX_WS_PRESERVE, "Vyr:ColorSpaceSpecificationSpectrumGeneric", element_ColorSpaceSpecificationSpectrumGeneric,
-     LMX_OFFSET(ColorSpaceYBRType, m_ColorSpaceSpecificationSpectrumGeneric, child, none), LMX_FLAG(ColorSpaceYBRType, m_isset_ColorSpaceSpecificationSpectrumGeneric), position_of(k_ColorSpaceYBRType_elements, element_ColorSpaceSpecificationSpectrumGeneric), position_of(k_ColorSpaceYBRType_elements, element_ColorSpaceSpecificationSpectrumGeneric, 1), &ColorSpaceSpecificationSpectrumGeneric::k_class, nullptr, {}},
-    {item_kind::element, value_kind::number, use_required, ELMX_WS_COLLAPSE, "Vyr:Y", element_Y,
-     LMX_OFFSET(ColorSpaceYBRType, m_Y, element, number), LMX_FLAG(ColorSpaceYBRType, m_isset_Y), position_of(k_ColorSpaceYBRType_elements, element_Y), position_of(k_ColorSpaceYBRType_elements, element_Y, 1), nullptr, &facets::Fraction, {}},
-    {item_kind::element, value_kind::number, use_required, ELMX_WS_COLLAPSE, "Vyr:B", element_B,
-     LMX_OFFSET(ColorSpaceYBRType, m_B, element, number), LMX_FLAG(ColorSpaceYBRType, m_isset_B), position_of(k_ColorSpaceYBRType_elements, element_B), position_of(k_ColorSpaceYBRType_elements, element_B, 1), nullptr, &facets::Fraction, {}},
-    {item_kind::element, value_kind::number, use_required, ELMX_WS_COLLAPSE, "Vyr:R", element_R,
-     LMX_OFFSET(ColorSpaceYBRType, m_R, element, number), LMX_FLAG(ColorSpaceYBRType, m_isset_R), position_of(k_ColorSpaceYBRType_elements, element_R), position_of(k_ColorSpaceYBRType_elements, element_R, 1), nullptr, &facets::Fraction, {}},
+    {item_kind::attribute, value_kind::text, use_name, ELMX_WS_PRESERVE, "Name", attribute_Name, LMX_OFFSET(ColorSpaceYBRType, m_Name, attribute, text), LMX_FLAG(ColorSpaceYBRType, m_isset_Name)},
+    {item_kind::child, value_kind::none, use_required, ELMX_WS_PRESERVE, "Vyr:ColorSpaceSpecificationSpectrumGeneric", element_ColorSpaceSpecificationSpectrumGeneric, LMX_OFFSET(ColorSpaceYBRType, m_ColorSpaceSpecificationSpectrumGeneric, child, none), LMX_FLAG(ColorSpaceYBRType, m_isset_ColorSpaceSpecificationSpectrumGeneric), position_of(k_ColorSpaceYBRType_elements, element_ColorSpaceSpecificationSpectrumGeneric), 1, &ColorSpaceSpecificationSpectrumGeneric::k_class},
+    {item_kind::element, value_kind::number, use_required, ELMX_WS_COLLAPSE, "Vyr:Y", element_Y, LMX_OFFSET(ColorSpaceYBRType, m_Y, element, number), LMX_FLAG(ColorSpaceYBRType, m_isset_Y), position_of(k_ColorSpaceYBRType_elements, element_Y), 1, nullptr, &facets::Fraction},
+    {item_kind::element, value_kind::number, use_required, ELMX_WS_COLLAPSE, "Vyr:B", element_B, LMX_OFFSET(ColorSpaceYBRType, m_B, element, number), LMX_FLAG(ColorSpaceYBRType, m_isset_B), position_of(k_ColorSpaceYBRType_elements, element_B), 1, nullptr, &facets::Fraction},
+    {item_kind::element, value_kind::number, use_required, ELMX_WS_COLLAPSE, "Vyr:R", element_R, LMX_OFFSET(ColorSpaceYBRType, m_R, element, number), LMX_FLAG(ColorSpaceYBRType, m_isset_R), position_of(k_ColorSpaceYBRType_elements, element_R), 1, nullptr, &facets::Fraction},
 };
 constinit const s_class ColorSpaceYBRType::k_class = {
     .name = "ColorSpaceYBRType",
@@ -852,7 +727,6 @@ constinit const s_class ColorSpaceYBRType::k_class = {
     .content = content_kind::children,
     .ns_map = k_ns_map,
     .id = &ColorSpaceYBRType::id,
-    .xsi_type = "Vyr:ColorSpaceYBRType",
     .attributes = std::span(k_items).first(std::size(k_ColorSpaceYBRType_attributes) - 1),
     .elements = std::span(k_items).subspan(std::size(k_ColorSpaceYBRType_attributes) - 1),
     .attribute_map = k_ColorSpaceYBRType_attributes,
@@ -860,7 +734,7 @@ constinit const s_class ColorSpaceYBRType::k_class = {
     .operations = &k_operations<ColorSpaceYBRType>,
 };
 
-namespace { const char k_ColorSpaceYBRType_id[] = "ColorSpaceYBRType"; }
+const char k_ColorSpaceYBRType_id[] = "ColorSpaceYBRType";
 const char* ColorSpaceYBRType::id = k_ColorSpaceYBRType_id;
 ColorSpaceYBRType::ColorSpaceYBRType() = default;
 ColorSpaceYBRType::ColorSpaceYBRType(const ColorSpaceYBRType& other) : ColorSpaceType() { lmx::copy(k_class, this, &other); }
@@ -1086,27 +960,21 @@ lmx::elmx_error ColorSpaceYBR::unmarshal(lmx::c_xml_reader& reader, const std::s
 
 // SpotColorType
 
-namespace {
 constexpr s_event_map k_SpotColorType_elements[] = {
     element_event("Name", element_Name),
     element_event("Percentage", element_Percentage),
     k_end_of_map,
 };
-}  // namespace
-
 constinit const s_item SpotColorType::k_items[] = {
-    {item_kind::element, value_kind::text, use_required | use_name, ELMX_WS_PRESERVE, "Vyr:Name", element_Name,
-     LMX_OFFSET(SpotColorType, m_Name, element, text), LMX_FLAG(SpotColorType, m_isset_Name), position_of(k_SpotColorType_elements, element_Name), position_of(k_SpotColorType_elements, element_Name, 1), nullptr, &facets::NonEmptyString, {}},
-    {item_kind::element, value_kind::number, use_required, ELMX_WS_COLLAPSE, "Vyr:Percentage", element_Percentage,
-     LMX_OFFSET(SpotColorType, m_Percentage, element, number), LMX_FLAG(SpotColorType, m_isset_Percentage), position_of(k_SpotColorType_elements, element_Percentage), position_of(k_SpotColorType_elements, element_Percentage, 1), nullptr, &facets::Percentage, {}},
+    {item_kind::element, value_kind::text, use_required | use_name, ELMX_WS_PRESERVE, "Vyr:Name", element_Name, LMX_OFFSET(SpotColorType, m_Name, element, text), LMX_FLAG(SpotColorType, m_isset_Name), position_of(k_SpotColorType_elements, element_Name), 1, nullptr, &facets::NonEmptyString},
+    {item_kind::element, value_kind::number, use_required, ELMX_WS_COLLAPSE, "Vyr:Percentage", element_Percentage, LMX_OFFSET(SpotColorType, m_Percentage, element, number), LMX_FLAG(SpotColorType, m_isset_Percentage), position_of(k_SpotColorType_elements, element_Percentage), 1, nullptr, &facets::Percentage},
 };
 constinit const s_class SpotColorType::k_class = {
     .name = "SpotColorType",
     .qualified_name = "Vyr:SpotColorType",
     .content = content_kind::children,
     .ns_map = k_ns_map,
-    .elements = std::span(k_items).subspan(std::size(k_no_events) - 1),
-    .attribute_map = k_no_events,
+    .elements = k_items,
     .element_map = k_SpotColorType_elements,
     .operations = &k_operations<SpotColorType>,
 };

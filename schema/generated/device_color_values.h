@@ -41,6 +41,7 @@ public:
     void swap(ColorSpaceRGBType& other);
     void reset();
     bool is_occurs_ok() const;
+    static const lmx::s_class k_class;
 
     /// Name of the value.
     const std::u16string& get_Name() const { return m_Name; }
@@ -79,8 +80,6 @@ public:
 
     /// The class's identity; `getid` and `has_id` work on its address.
     static const char* id;
-
-    static const lmx::s_class k_class;
 
 protected:
     void marshal_attributes(lmx::c_xml_writer& writer) const { lmx::marshal_attributes(k_class, this, writer); }
@@ -132,6 +131,7 @@ public:
     void swap(ColorSpaceSRGBType& other);
     void reset();
     bool is_occurs_ok() const;
+    static const lmx::s_class k_class;
 
     /// Name of the value.
     const std::u16string& get_Name() const { return m_Name; }
@@ -170,8 +170,6 @@ public:
 
     /// The class's identity; `getid` and `has_id` work on its address.
     static const char* id;
-
-    static const lmx::s_class k_class;
 
 protected:
     void marshal_attributes(lmx::c_xml_writer& writer) const { lmx::marshal_attributes(k_class, this, writer); }
@@ -223,6 +221,7 @@ public:
     void swap(ColorSpaceAdobeRGBType& other);
     void reset();
     bool is_occurs_ok() const;
+    static const lmx::s_class k_class;
 
     /// Name of the value.
     const std::u16string& get_Name() const { return m_Name; }
@@ -261,8 +260,6 @@ public:
 
     /// The class's identity; `getid` and `has_id` work on its address.
     static const char* id;
-
-    static const lmx::s_class k_class;
 
 protected:
     void marshal_attributes(lmx::c_xml_writer& writer) const { lmx::marshal_attributes(k_class, this, writer); }
@@ -314,6 +311,7 @@ public:
     void swap(ColorSpaceAdobeWideGamutRGBType& other);
     void reset();
     bool is_occurs_ok() const;
+    static const lmx::s_class k_class;
 
     /// Name of the value.
     const std::u16string& get_Name() const { return m_Name; }
@@ -352,8 +350,6 @@ public:
 
     /// The class's identity; `getid` and `has_id` work on its address.
     static const char* id;
-
-    static const lmx::s_class k_class;
 
 protected:
     void marshal_attributes(lmx::c_xml_writer& writer) const { lmx::marshal_attributes(k_class, this, writer); }
@@ -405,6 +401,7 @@ public:
     void swap(ColorSpaceCMYKType& other);
     void reset();
     bool is_occurs_ok() const;
+    static const lmx::s_class k_class;
 
     /// Name of the value.
     const std::u16string& get_Name() const { return m_Name; }
@@ -450,8 +447,6 @@ public:
     /// A new object of the type with that local name in namespace 1000, or null; the caller owns it.
     static ColorSpaceCMYKType* factory(int ns_id, const std::string& name);
     static const lmx::s_factory_row k_factory[2];
-
-    static const lmx::s_class k_class;
 
 protected:
     void marshal_attributes(lmx::c_xml_writer& writer) const { lmx::marshal_attributes(k_class, this, writer); }
@@ -502,6 +497,7 @@ public:
     void swap(ColorSpaceCMYKPlusNType& other);
     void reset();
     bool is_occurs_ok() const;
+    static const lmx::s_class k_class;
 
     /// Name of the ink set.
     const std::u16string& get_ColorSpaceName() const { return m_ColorSpaceName; }
@@ -522,8 +518,6 @@ public:
 
     /// The class's identity; `getid` and `has_id` work on its address.
     static const char* id;
-
-    static const lmx::s_class k_class;
 
 protected:
     void marshal_attributes(lmx::c_xml_writer& writer) const { lmx::marshal_attributes(k_class, this, writer); }
@@ -555,6 +549,7 @@ public:
     void swap(Color& other);
     void reset();
     bool is_occurs_ok() const;
+    static const lmx::s_class k_class;
 
     /// Name of the channel.
     const std::u16string& get_Name() const { return m_Name; }
@@ -563,8 +558,6 @@ public:
     /// Amount of the ink; no unit is stated.
     double get_Value() const { return m_Value; }
     lmx::elmx_error set_Value(double value);
-
-    static const lmx::s_class k_class;
 
 protected:
     void marshal_attributes(lmx::c_xml_writer& writer) const { lmx::marshal_attributes(k_class, this, writer); }
@@ -601,6 +594,7 @@ public:
     void swap(ColorSpaceTINTORAOctavanticType& other);
     void reset();
     bool is_occurs_ok() const;
+    static const lmx::s_class k_class;
 
     /// Name of the value.
     const std::u16string& get_Name() const { return m_Name; }
@@ -650,8 +644,6 @@ public:
 
     /// The class's identity; `getid` and `has_id` work on its address.
     static const char* id;
-
-    static const lmx::s_class k_class;
 
 protected:
     void marshal_attributes(lmx::c_xml_writer& writer) const { lmx::marshal_attributes(k_class, this, writer); }
@@ -708,6 +700,7 @@ public:
     void swap(ColorSpaceHSLType& other);
     void reset();
     bool is_occurs_ok() const;
+    static const lmx::s_class k_class;
 
     /// Name of the value.
     const std::u16string& get_Name() const { return m_Name; }
@@ -734,8 +727,6 @@ public:
 
     /// The class's identity; `getid` and `has_id` work on its address.
     static const char* id;
-
-    static const lmx::s_class k_class;
 
 protected:
     void marshal_attributes(lmx::c_xml_writer& writer) const { lmx::marshal_attributes(k_class, this, writer); }
@@ -781,6 +772,7 @@ public:
     void swap(ColorSpaceHSVType& other);
     void reset();
     bool is_occurs_ok() const;
+    static const lmx::s_class k_class;
 
     /// Name of the value.
     const std::u16string& get_Name() const { return m_Name; }
@@ -807,8 +799,6 @@ public:
 
     /// The class's identity; `getid` and `has_id` work on its address.
     static const char* id;
-
-    static const lmx::s_class k_class;
 
 protected:
     void marshal_attributes(lmx::c_xml_writer& writer) const { lmx::marshal_attributes(k_class, this, writer); }
@@ -854,6 +844,7 @@ public:
     void swap(ColorSpaceYUVType& other);
     void reset();
     bool is_occurs_ok() const;
+    static const lmx::s_class k_class;
 
     /// Name of the value.
     const std::u16string& get_Name() const { return m_Name; }
@@ -880,8 +871,6 @@ public:
 
     /// The class's identity; `getid` and `has_id` work on its address.
     static const char* id;
-
-    static const lmx::s_class k_class;
 
 protected:
     void marshal_attributes(lmx::c_xml_writer& writer) const { lmx::marshal_attributes(k_class, this, writer); }
@@ -927,6 +916,7 @@ public:
     void swap(ColorSpaceYIQType& other);
     void reset();
     bool is_occurs_ok() const;
+    static const lmx::s_class k_class;
 
     /// Name of the value.
     const std::u16string& get_Name() const { return m_Name; }
@@ -953,8 +943,6 @@ public:
 
     /// The class's identity; `getid` and `has_id` work on its address.
     static const char* id;
-
-    static const lmx::s_class k_class;
 
 protected:
     void marshal_attributes(lmx::c_xml_writer& writer) const { lmx::marshal_attributes(k_class, this, writer); }
@@ -1000,6 +988,7 @@ public:
     void swap(ColorSpaceYBRType& other);
     void reset();
     bool is_occurs_ok() const;
+    static const lmx::s_class k_class;
 
     /// Name of the value.
     const std::u16string& get_Name() const { return m_Name; }
@@ -1026,8 +1015,6 @@ public:
 
     /// The class's identity; `getid` and `has_id` work on its address.
     static const char* id;
-
-    static const lmx::s_class k_class;
 
 protected:
     void marshal_attributes(lmx::c_xml_writer& writer) const { lmx::marshal_attributes(k_class, this, writer); }
@@ -1321,6 +1308,7 @@ public:
     void swap(SpotColorType& other);
     void reset();
     bool is_occurs_ok() const;
+    static const lmx::s_class k_class;
 
     /// Name of the ink; not empty.
     const std::u16string& get_Name() const { return m_Name; }
@@ -1329,8 +1317,6 @@ public:
     /// Tone value in percent, 0 to 100.
     double get_Percentage() const { return m_Percentage; }
     lmx::elmx_error set_Percentage(double value);
-
-    static const lmx::s_class k_class;
 
 protected:
     void marshal_attributes(lmx::c_xml_writer& writer) const { lmx::marshal_attributes(k_class, this, writer); }

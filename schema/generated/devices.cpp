@@ -19,22 +19,17 @@ namespace com_vyrgraph_v2 {
 
 using namespace lmx;  // for the tables' sake
 
-static_assert(k_binding_version == 4, "run schema/generator/generate.py");
+static_assert(k_binding_version == 5, "run schema/generator/generate.py");
 
 // CalibrationStateType
 
-namespace {
 constexpr s_event_map k_CalibrationStateType_attributes[] = {
     attribute_event("CalibrationDateTime", attribute_CalibrationDateTime),
     k_end_of_map,
 };
-}  // namespace
-
 constinit const s_item CalibrationStateType::k_items[] = {
-    {item_kind::attribute, value_kind::datetime, use_optional, ELMX_WS_COLLAPSE, "CalibrationDateTime", attribute_CalibrationDateTime,
-     LMX_OFFSET(CalibrationStateType, m_CalibrationDateTime, attribute, datetime), LMX_FLAG(CalibrationStateType, m_isset_CalibrationDateTime), 0, 0, nullptr, &facets::DateTimeZone, {}},
-    {item_kind::content, value_kind::enumerated, use_required, ELMX_WS_PRESERVE, "", 0,
-     LMX_OFFSET(CalibrationStateType, m_CalibrationStateType, content, enumerated), LMX_FLAG(CalibrationStateType, m_isset_CalibrationStateType), 0, 0, nullptr, &facets::CalibrationKind, {}},
+    {item_kind::attribute, value_kind::datetime, use_optional, ELMX_WS_COLLAPSE, "CalibrationDateTime", attribute_CalibrationDateTime, LMX_OFFSET(CalibrationStateType, m_CalibrationDateTime, attribute, datetime), LMX_FLAG(CalibrationStateType, m_isset_CalibrationDateTime), 0, 0, nullptr, &facets::DateTimeZone},
+    {item_kind::content, value_kind::enumerated, use_required, ELMX_WS_PRESERVE, "", 0, LMX_OFFSET(CalibrationStateType, m_CalibrationStateType, content, enumerated), LMX_FLAG(CalibrationStateType, m_isset_CalibrationStateType), 0, 0, nullptr, &facets::CalibrationKind},
 };
 constinit const s_class CalibrationStateType::k_class = {
     .name = "CalibrationStateType",
@@ -44,7 +39,6 @@ constinit const s_class CalibrationStateType::k_class = {
     .attributes = std::span(k_items).first(std::size(k_CalibrationStateType_attributes) - 1),
     .elements = std::span(k_items).subspan(std::size(k_CalibrationStateType_attributes) - 1),
     .attribute_map = k_CalibrationStateType_attributes,
-    .element_map = k_no_events,
     .operations = &k_operations<CalibrationStateType>,
 };
 
@@ -63,18 +57,13 @@ bool CalibrationStateType::setenum_CalibrationStateType(std::int32_t number) { r
 
 // GlossCompensation
 
-namespace {
 constexpr s_event_map k_GlossCompensation_attributes[] = {
     attribute_event("CompensationValue", attribute_CompensationValue),
     k_end_of_map,
 };
-}  // namespace
-
 constinit const s_item GlossCompensation::k_items[] = {
-    {item_kind::attribute, value_kind::number, use_required, ELMX_WS_COLLAPSE, "CompensationValue", attribute_CompensationValue,
-     LMX_OFFSET(GlossCompensation, m_CompensationValue, attribute, number), LMX_FLAG(GlossCompensation, m_isset_CompensationValue), 0, 0, nullptr, nullptr, {}},
-    {item_kind::content, value_kind::boolean, use_optional, ELMX_WS_COLLAPSE, "", 0,
-     LMX_OFFSET(GlossCompensation, m_GlossCompensation, content, boolean), LMX_FLAG(GlossCompensation, m_isset_GlossCompensation), 0, 0, nullptr, nullptr, {}},
+    {item_kind::attribute, value_kind::number, use_required, ELMX_WS_COLLAPSE, "CompensationValue", attribute_CompensationValue, LMX_OFFSET(GlossCompensation, m_CompensationValue, attribute, number), LMX_FLAG(GlossCompensation, m_isset_CompensationValue)},
+    {item_kind::content, value_kind::boolean, use_optional, ELMX_WS_COLLAPSE, "", 0, LMX_OFFSET(GlossCompensation, m_GlossCompensation, content, boolean), LMX_FLAG(GlossCompensation, m_isset_GlossCompensation)},
 };
 constinit const s_class GlossCompensation::k_class = {
     .name = "GlossCompensation",
@@ -83,7 +72,6 @@ constinit const s_class GlossCompensation::k_class = {
     .attributes = std::span(k_items).first(std::size(k_GlossCompensation_attributes) - 1),
     .elements = std::span(k_items).subspan(std::size(k_GlossCompensation_attributes) - 1),
     .attribute_map = k_GlossCompensation_attributes,
-    .element_map = k_no_events,
     .operations = &k_operations<GlossCompensation>,
 };
 
@@ -101,18 +89,13 @@ lmx::elmx_error GlossCompensation::set_GlossCompensation(bool value) { return lm
 
 // Averaging
 
-namespace {
 constexpr s_event_map k_Averaging_attributes[] = {
     attribute_event("AveragingValue", attribute_AveragingValue),
     k_end_of_map,
 };
-}  // namespace
-
 constinit const s_item Averaging::k_items[] = {
-    {item_kind::attribute, value_kind::uint8, use_required, ELMX_WS_COLLAPSE, "AveragingValue", attribute_AveragingValue,
-     LMX_OFFSET(Averaging, m_AveragingValue, attribute, uint8), LMX_FLAG(Averaging, m_isset_AveragingValue), 0, 0, nullptr, &facets::AveragingCount, {}},
-    {item_kind::content, value_kind::boolean, use_optional, ELMX_WS_COLLAPSE, "", 0,
-     LMX_OFFSET(Averaging, m_Averaging, content, boolean), LMX_FLAG(Averaging, m_isset_Averaging), 0, 0, nullptr, nullptr, {}},
+    {item_kind::attribute, value_kind::uint8, use_required, ELMX_WS_COLLAPSE, "AveragingValue", attribute_AveragingValue, LMX_OFFSET(Averaging, m_AveragingValue, attribute, uint8), LMX_FLAG(Averaging, m_isset_AveragingValue), 0, 0, nullptr, &facets::AveragingCount},
+    {item_kind::content, value_kind::boolean, use_optional, ELMX_WS_COLLAPSE, "", 0, LMX_OFFSET(Averaging, m_Averaging, content, boolean), LMX_FLAG(Averaging, m_isset_Averaging)},
 };
 constinit const s_class Averaging::k_class = {
     .name = "Averaging",
@@ -121,7 +104,6 @@ constinit const s_class Averaging::k_class = {
     .attributes = std::span(k_items).first(std::size(k_Averaging_attributes) - 1),
     .elements = std::span(k_items).subspan(std::size(k_Averaging_attributes) - 1),
     .attribute_map = k_Averaging_attributes,
-    .element_map = k_no_events,
     .operations = &k_operations<Averaging>,
 };
 
@@ -139,7 +121,6 @@ lmx::elmx_error Averaging::set_Averaging(bool value) { return lmx::set_item(k_cl
 
 // DeviceSettings
 
-namespace {
 constexpr s_event_map k_DeviceSettings_elements[] = {
     element_event("CustomAttribute", element_CustomAttribute),
     element_event("Aperture", element_Aperture),
@@ -150,31 +131,21 @@ constexpr s_event_map k_DeviceSettings_elements[] = {
     element_event("LinkTrimmer", element_LinkTrimmer),
     k_end_of_map,
 };
-}  // namespace
-
 constinit const s_item DeviceSettings::k_items[] = {
-    {item_kind::child_list, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:CustomAttribute", element_CustomAttribute,
-     LMX_OFFSET(DeviceSettings, m_CustomAttribute, child_list, none), k_no_flag, position_of(k_DeviceSettings_elements, element_CustomAttribute), position_of(k_DeviceSettings_elements, element_CustomAttribute, 1), &CustomAttributeType::k_class, nullptr, {}},
-    {item_kind::element, value_kind::uint32, use_optional, ELMX_WS_COLLAPSE, "Vyr:Aperture", element_Aperture,
-     LMX_OFFSET(DeviceSettings, m_Aperture, element, uint32), LMX_FLAG(DeviceSettings, m_isset_Aperture), position_of(k_DeviceSettings_elements, element_Aperture), position_of(k_DeviceSettings_elements, element_Aperture, 1), nullptr, &facets::PositiveInt32, {}},
-    {item_kind::element, value_kind::int32, use_optional, ELMX_WS_COLLAPSE, "Vyr:LensPosition", element_LensPosition,
-     LMX_OFFSET(DeviceSettings, m_LensPosition, element, int32), LMX_FLAG(DeviceSettings, m_isset_LensPosition), position_of(k_DeviceSettings_elements, element_LensPosition), position_of(k_DeviceSettings_elements, element_LensPosition, 1), nullptr, &facets::Int32, {}},
-    {item_kind::element, value_kind::boolean, use_optional, ELMX_WS_COLLAPSE, "Vyr:GlassCompensation", element_GlassCompensation,
-     LMX_OFFSET(DeviceSettings, m_GlassCompensation, element, boolean), LMX_FLAG(DeviceSettings, m_isset_GlassCompensation), position_of(k_DeviceSettings_elements, element_GlassCompensation), position_of(k_DeviceSettings_elements, element_GlassCompensation, 1), nullptr, nullptr, {}},
-    {item_kind::optional_child, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:GlossCompensation", element_GlossCompensation,
-     LMX_OFFSET(DeviceSettings, m_GlossCompensation, optional_child, none), LMX_FLAG(DeviceSettings, m_isset_GlossCompensation), position_of(k_DeviceSettings_elements, element_GlossCompensation), position_of(k_DeviceSettings_elements, element_GlossCompensation, 1), &GlossCompensation::k_class, nullptr, {}},
-    {item_kind::optional_child, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:Averaging", element_Averaging,
-     LMX_OFFSET(DeviceSettings, m_Averaging, optional_child, none), LMX_FLAG(DeviceSettings, m_isset_Averaging), position_of(k_DeviceSettings_elements, element_Averaging), position_of(k_DeviceSettings_elements, element_Averaging, 1), &Averaging::k_class, nullptr, {}},
-    {item_kind::element, value_kind::boolean, use_optional, ELMX_WS_COLLAPSE, "Vyr:LinkTrimmer", element_LinkTrimmer,
-     LMX_OFFSET(DeviceSettings, m_LinkTrimmer, element, boolean), LMX_FLAG(DeviceSettings, m_isset_LinkTrimmer), position_of(k_DeviceSettings_elements, element_LinkTrimmer), position_of(k_DeviceSettings_elements, element_LinkTrimmer, 1), nullptr, nullptr, {}},
+    {item_kind::child_list, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:CustomAttribute", element_CustomAttribute, LMX_OFFSET(DeviceSettings, m_CustomAttribute, child_list, none), k_no_flag, position_of(k_DeviceSettings_elements, element_CustomAttribute), 1, &CustomAttributeType::k_class},
+    {item_kind::element, value_kind::uint32, use_optional, ELMX_WS_COLLAPSE, "Vyr:Aperture", element_Aperture, LMX_OFFSET(DeviceSettings, m_Aperture, element, uint32), LMX_FLAG(DeviceSettings, m_isset_Aperture), position_of(k_DeviceSettings_elements, element_Aperture), 1, nullptr, &facets::PositiveInt32},
+    {item_kind::element, value_kind::int32, use_optional, ELMX_WS_COLLAPSE, "Vyr:LensPosition", element_LensPosition, LMX_OFFSET(DeviceSettings, m_LensPosition, element, int32), LMX_FLAG(DeviceSettings, m_isset_LensPosition), position_of(k_DeviceSettings_elements, element_LensPosition), 1, nullptr, &facets::Int32},
+    {item_kind::element, value_kind::boolean, use_optional, ELMX_WS_COLLAPSE, "Vyr:GlassCompensation", element_GlassCompensation, LMX_OFFSET(DeviceSettings, m_GlassCompensation, element, boolean), LMX_FLAG(DeviceSettings, m_isset_GlassCompensation), position_of(k_DeviceSettings_elements, element_GlassCompensation), 1},
+    {item_kind::optional_child, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:GlossCompensation", element_GlossCompensation, LMX_OFFSET(DeviceSettings, m_GlossCompensation, optional_child, none), LMX_FLAG(DeviceSettings, m_isset_GlossCompensation), position_of(k_DeviceSettings_elements, element_GlossCompensation), 1, &GlossCompensation::k_class},
+    {item_kind::optional_child, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:Averaging", element_Averaging, LMX_OFFSET(DeviceSettings, m_Averaging, optional_child, none), LMX_FLAG(DeviceSettings, m_isset_Averaging), position_of(k_DeviceSettings_elements, element_Averaging), 1, &Averaging::k_class},
+    {item_kind::element, value_kind::boolean, use_optional, ELMX_WS_COLLAPSE, "Vyr:LinkTrimmer", element_LinkTrimmer, LMX_OFFSET(DeviceSettings, m_LinkTrimmer, element, boolean), LMX_FLAG(DeviceSettings, m_isset_LinkTrimmer), position_of(k_DeviceSettings_elements, element_LinkTrimmer), 1},
 };
 constinit const s_class DeviceSettings::k_class = {
     .name = "DeviceSettings",
     .qualified_name = "Vyr:DeviceSettings",
     .content = content_kind::children,
     .may_be_empty = true,
-    .elements = std::span(k_items).subspan(std::size(k_no_events) - 1),
-    .attribute_map = k_no_events,
+    .elements = k_items,
     .element_map = k_DeviceSettings_elements,
     .operations = &k_operations<DeviceSettings>,
 };
@@ -207,7 +178,6 @@ lmx::elmx_error DeviceSettings::set_LinkTrimmer(bool value) { return lmx::set_it
 
 // DeviceType
 
-namespace {
 constexpr s_event_map k_DeviceType_elements[] = {
     element_event("CustomAttribute", element_CustomAttribute),
     element_event("Manufacturer", element_Manufacturer),
@@ -220,35 +190,23 @@ constexpr s_event_map k_DeviceType_elements[] = {
     element_event("DeviceSettings", element_DeviceSettings),
     k_end_of_map,
 };
-}  // namespace
-
 constinit const s_item DeviceType::k_items[] = {
-    {item_kind::child_list, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:CustomAttribute", element_CustomAttribute,
-     LMX_OFFSET(DeviceType, m_CustomAttribute, child_list, none), k_no_flag, position_of(k_DeviceType_elements, element_CustomAttribute), position_of(k_DeviceType_elements, element_CustomAttribute, 1), &CustomAttributeType::k_class, nullptr, {}},
-    {item_kind::element, value_kind::text, use_required, ELMX_WS_PRESERVE, "Vyr:Manufacturer", element_Manufacturer,
-     LMX_OFFSET(DeviceType, m_Manufacturer, element, text), LMX_FLAG(DeviceType, m_isset_Manufacturer), position_of(k_DeviceType_elements, element_Manufacturer), position_of(k_DeviceType_elements, element_Manufacturer, 1), nullptr, nullptr, {}},
-    {item_kind::element, value_kind::text, use_required, ELMX_WS_PRESERVE, "Vyr:Model", element_Model,
-     LMX_OFFSET(DeviceType, m_Model, element, text), LMX_FLAG(DeviceType, m_isset_Model), position_of(k_DeviceType_elements, element_Model), position_of(k_DeviceType_elements, element_Model, 1), nullptr, nullptr, {}},
-    {item_kind::element, value_kind::text, use_required, ELMX_WS_PRESERVE, "Vyr:SerialNumber", element_SerialNumber,
-     LMX_OFFSET(DeviceType, m_SerialNumber, element, text), LMX_FLAG(DeviceType, m_isset_SerialNumber), position_of(k_DeviceType_elements, element_SerialNumber), position_of(k_DeviceType_elements, element_SerialNumber, 1), nullptr, nullptr, {}},
-    {item_kind::element, value_kind::enumerated, use_optional, ELMX_WS_PRESERVE, "Vyr:DeviceClass", element_DeviceClass,
-     LMX_OFFSET(DeviceType, m_DeviceClass, element, enumerated), LMX_FLAG(DeviceType, m_isset_DeviceClass), position_of(k_DeviceType_elements, element_DeviceClass), position_of(k_DeviceType_elements, element_DeviceClass, 1), nullptr, &facets::DeviceClassKind, {}},
-    {item_kind::element, value_kind::text, use_optional, ELMX_WS_PRESERVE, "Vyr:FirmwareVersion", element_FirmwareVersion,
-     LMX_OFFSET(DeviceType, m_FirmwareVersion, element, text), LMX_FLAG(DeviceType, m_isset_FirmwareVersion), position_of(k_DeviceType_elements, element_FirmwareVersion), position_of(k_DeviceType_elements, element_FirmwareVersion, 1), nullptr, nullptr, {}},
-    {item_kind::element, value_kind::text, use_optional, ELMX_WS_PRESERVE, "Vyr:BootFirmwareVersion", element_BootFirmwareVersion,
-     LMX_OFFSET(DeviceType, m_BootFirmwareVersion, element, text), LMX_FLAG(DeviceType, m_isset_BootFirmwareVersion), position_of(k_DeviceType_elements, element_BootFirmwareVersion), position_of(k_DeviceType_elements, element_BootFirmwareVersion, 1), nullptr, nullptr, {}},
-    {item_kind::optional_child, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:CalibrationState", element_CalibrationState,
-     LMX_OFFSET(DeviceType, m_CalibrationState, optional_child, none), LMX_FLAG(DeviceType, m_isset_CalibrationState), position_of(k_DeviceType_elements, element_CalibrationState), position_of(k_DeviceType_elements, element_CalibrationState, 1), &CalibrationStateType::k_class, nullptr, {}},
-    {item_kind::optional_child, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:DeviceSettings", element_DeviceSettings,
-     LMX_OFFSET(DeviceType, m_DeviceSettings, optional_child, none), LMX_FLAG(DeviceType, m_isset_DeviceSettings), position_of(k_DeviceType_elements, element_DeviceSettings), position_of(k_DeviceType_elements, element_DeviceSettings, 1), &DeviceSettings::k_class, nullptr, {}},
+    {item_kind::child_list, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:CustomAttribute", element_CustomAttribute, LMX_OFFSET(DeviceType, m_CustomAttribute, child_list, none), k_no_flag, position_of(k_DeviceType_elements, element_CustomAttribute), 1, &CustomAttributeType::k_class},
+    {item_kind::element, value_kind::text, use_required, ELMX_WS_PRESERVE, "Vyr:Manufacturer", element_Manufacturer, LMX_OFFSET(DeviceType, m_Manufacturer, element, text), LMX_FLAG(DeviceType, m_isset_Manufacturer), position_of(k_DeviceType_elements, element_Manufacturer), 1},
+    {item_kind::element, value_kind::text, use_required, ELMX_WS_PRESERVE, "Vyr:Model", element_Model, LMX_OFFSET(DeviceType, m_Model, element, text), LMX_FLAG(DeviceType, m_isset_Model), position_of(k_DeviceType_elements, element_Model), 1},
+    {item_kind::element, value_kind::text, use_required, ELMX_WS_PRESERVE, "Vyr:SerialNumber", element_SerialNumber, LMX_OFFSET(DeviceType, m_SerialNumber, element, text), LMX_FLAG(DeviceType, m_isset_SerialNumber), position_of(k_DeviceType_elements, element_SerialNumber), 1},
+    {item_kind::element, value_kind::enumerated, use_optional, ELMX_WS_PRESERVE, "Vyr:DeviceClass", element_DeviceClass, LMX_OFFSET(DeviceType, m_DeviceClass, element, enumerated), LMX_FLAG(DeviceType, m_isset_DeviceClass), position_of(k_DeviceType_elements, element_DeviceClass), 1, nullptr, &facets::DeviceClassKind},
+    {item_kind::element, value_kind::text, use_optional, ELMX_WS_PRESERVE, "Vyr:FirmwareVersion", element_FirmwareVersion, LMX_OFFSET(DeviceType, m_FirmwareVersion, element, text), LMX_FLAG(DeviceType, m_isset_FirmwareVersion), position_of(k_DeviceType_elements, element_FirmwareVersion), 1},
+    {item_kind::element, value_kind::text, use_optional, ELMX_WS_PRESERVE, "Vyr:BootFirmwareVersion", element_BootFirmwareVersion, LMX_OFFSET(DeviceType, m_BootFirmwareVersion, element, text), LMX_FLAG(DeviceType, m_isset_BootFirmwareVersion), position_of(k_DeviceType_elements, element_BootFirmwareVersion), 1},
+    {item_kind::optional_child, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:CalibrationState", element_CalibrationState, LMX_OFFSET(DeviceType, m_CalibrationState, optional_child, none), LMX_FLAG(DeviceType, m_isset_CalibrationState), position_of(k_DeviceType_elements, element_CalibrationState), 1, &CalibrationStateType::k_class},
+    {item_kind::optional_child, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:DeviceSettings", element_DeviceSettings, LMX_OFFSET(DeviceType, m_DeviceSettings, optional_child, none), LMX_FLAG(DeviceType, m_isset_DeviceSettings), position_of(k_DeviceType_elements, element_DeviceSettings), 1, &DeviceSettings::k_class},
 };
 constinit const s_class DeviceType::k_class = {
     .name = "DeviceType",
     .qualified_name = "Vyr:DeviceType",
     .content = content_kind::children,
     .ns_map = k_ns_map,
-    .elements = std::span(k_items).subspan(std::size(k_no_events) - 1),
-    .attribute_map = k_no_events,
+    .elements = k_items,
     .element_map = k_DeviceType_elements,
     .operations = &k_operations<DeviceType>,
 };
@@ -284,27 +242,21 @@ DeviceSettings& DeviceType::assign_DeviceSettings(const DeviceSettings& value) {
 
 // ProfileChoice
 
-namespace {
 constexpr s_event_map k_ProfileChoice_elements[] = {
     element_event("ProfileFile", element_ProfileFile),
     element_event("ProfileURI", element_ProfileURI),
     k_end_of_map,
 };
-}  // namespace
-
 constinit const s_item ProfileChoice::k_items[] = {
-    {item_kind::alternative, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:ProfileFile", element_ProfileFile,
-     0, k_no_flag, position_of(k_ProfileChoice_elements, element_ProfileFile), position_of(k_ProfileChoice_elements, element_ProfileFile, 1), &ProfileFile::k_class, nullptr, {}},
-    {item_kind::alternative, value_kind::text, use_optional, ELMX_WS_COLLAPSE, "Vyr:ProfileURI", element_ProfileURI,
-     0, k_no_flag, position_of(k_ProfileChoice_elements, element_ProfileURI), position_of(k_ProfileChoice_elements, element_ProfileURI, 1), nullptr, nullptr, {}},
+    {item_kind::alternative, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:ProfileFile", element_ProfileFile, 0, k_no_flag, position_of(k_ProfileChoice_elements, element_ProfileFile), 1, &ProfileFile::k_class},
+    {item_kind::alternative, value_kind::text, use_optional, ELMX_WS_COLLAPSE, "Vyr:ProfileURI", element_ProfileURI, 0, k_no_flag, position_of(k_ProfileChoice_elements, element_ProfileURI), 1},
 };
 constinit const s_class ProfileChoice::k_class = {
     .name = "ProfileChoice",
     .qualified_name = "Vyr:ProfileChoice",
     .content = content_kind::choice,
     .choice = LMX_CHOICE(ProfileChoice, m_choice),
-    .elements = std::span(k_items).subspan(std::size(k_no_events) - 1),
-    .attribute_map = k_no_events,
+    .elements = k_items,
     .element_map = k_ProfileChoice_elements,
     .operations = &k_operations<ProfileChoice>,
 };
@@ -325,7 +277,6 @@ lmx::elmx_error ProfileChoice::set_ProfileURI(const std::u16string& value) { ret
 
 // ProfileType
 
-namespace {
 constexpr s_event_map k_ProfileType_attributes[] = {
     attribute_event("Direction", attribute_Direction),
     k_end_of_map,
@@ -336,17 +287,11 @@ constexpr s_event_map k_ProfileType_elements[] = {
     element_event("Created", element_Created),
     k_end_of_map,
 };
-}  // namespace
-
 constinit const s_item ProfileType::k_items[] = {
-    {item_kind::attribute, value_kind::enumerated, use_required, ELMX_WS_PRESERVE, "Direction", attribute_Direction,
-     LMX_OFFSET(ProfileType, m_Direction, attribute, enumerated), LMX_FLAG(ProfileType, m_isset_Direction), 0, 0, nullptr, &facets::ProfileDirectionKind, {}},
-    {item_kind::child, value_kind::none, use_required, ELMX_WS_PRESERVE, "Vyr:ProfileChoice", element_ProfileChoice,
-     LMX_OFFSET(ProfileType, m_ProfileChoice, child, none), LMX_FLAG(ProfileType, m_isset_ProfileChoice), position_of(k_ProfileType_elements, element_ProfileChoice), position_of(k_ProfileType_elements, element_ProfileChoice, 1), &ProfileChoice::k_class, nullptr, {}},
-    {item_kind::child_list, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:Parameters", element_Parameters,
-     LMX_OFFSET(ProfileType, m_Parameters, child_list, none), k_no_flag, position_of(k_ProfileType_elements, element_Parameters), position_of(k_ProfileType_elements, element_Parameters, 1), &ProfileType_Parameters::k_class, nullptr, {}},
-    {item_kind::element, value_kind::datetime, use_optional, ELMX_WS_COLLAPSE, "Vyr:Created", element_Created,
-     LMX_OFFSET(ProfileType, m_Created, element, datetime), LMX_FLAG(ProfileType, m_isset_Created), position_of(k_ProfileType_elements, element_Created), position_of(k_ProfileType_elements, element_Created, 1), nullptr, &facets::DateTimeZone, {}},
+    {item_kind::attribute, value_kind::enumerated, use_required, ELMX_WS_PRESERVE, "Direction", attribute_Direction, LMX_OFFSET(ProfileType, m_Direction, attribute, enumerated), LMX_FLAG(ProfileType, m_isset_Direction), 0, 0, nullptr, &facets::ProfileDirectionKind},
+    {item_kind::child, value_kind::none, use_required, ELMX_WS_PRESERVE, "Vyr:ProfileChoice", element_ProfileChoice, LMX_OFFSET(ProfileType, m_ProfileChoice, child, none), LMX_FLAG(ProfileType, m_isset_ProfileChoice), position_of(k_ProfileType_elements, element_ProfileChoice), 1, &ProfileChoice::k_class},
+    {item_kind::child_list, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:Parameters", element_Parameters, LMX_OFFSET(ProfileType, m_Parameters, child_list, none), k_no_flag, position_of(k_ProfileType_elements, element_Parameters), 1, &ProfileType_Parameters::k_class},
+    {item_kind::element, value_kind::datetime, use_optional, ELMX_WS_COLLAPSE, "Vyr:Created", element_Created, LMX_OFFSET(ProfileType, m_Created, element, datetime), LMX_FLAG(ProfileType, m_isset_Created), position_of(k_ProfileType_elements, element_Created), 1, nullptr, &facets::DateTimeZone},
 };
 constinit const s_class ProfileType::k_class = {
     .name = "ProfileType",
@@ -382,18 +327,13 @@ lmx::elmx_error ProfileType::set_Created(const lmx::c_datetime& value) { return 
 
 // ProfileFile
 
-namespace {
 constexpr s_event_map k_ProfileFile_attributes[] = {
     attribute_event("ProfileName", attribute_ProfileName),
     k_end_of_map,
 };
-}  // namespace
-
 constinit const s_item ProfileFile::k_items[] = {
-    {item_kind::attribute, value_kind::text, use_optional, ELMX_WS_PRESERVE, "ProfileName", attribute_ProfileName,
-     LMX_OFFSET(ProfileFile, m_ProfileName, attribute, text), LMX_FLAG(ProfileFile, m_isset_ProfileName), 0, 0, nullptr, nullptr, {}},
-    {item_kind::content, value_kind::binary, use_required, ELMX_WS_COLLAPSE, "", 0,
-     LMX_OFFSET(ProfileFile, m_ProfileFile, content, binary), LMX_FLAG(ProfileFile, m_isset_ProfileFile), 0, 0, nullptr, nullptr, {}},
+    {item_kind::attribute, value_kind::text, use_optional, ELMX_WS_PRESERVE, "ProfileName", attribute_ProfileName, LMX_OFFSET(ProfileFile, m_ProfileName, attribute, text), LMX_FLAG(ProfileFile, m_isset_ProfileName)},
+    {item_kind::content, value_kind::binary, use_required, ELMX_WS_COLLAPSE, "", 0, LMX_OFFSET(ProfileFile, m_ProfileFile, content, binary), LMX_FLAG(ProfileFile, m_isset_ProfileFile)},
 };
 constinit const s_class ProfileFile::k_class = {
     .name = "ProfileFile",
@@ -402,7 +342,6 @@ constinit const s_class ProfileFile::k_class = {
     .attributes = std::span(k_items).first(std::size(k_ProfileFile_attributes) - 1),
     .elements = std::span(k_items).subspan(std::size(k_ProfileFile_attributes) - 1),
     .attribute_map = k_ProfileFile_attributes,
-    .element_map = k_no_events,
     .operations = &k_operations<ProfileFile>,
 };
 
@@ -420,30 +359,23 @@ lmx::elmx_error ProfileFile::set_ProfileFile(const lmx::c_binary& value) { retur
 
 // ProfileType_Parameters_ValueChoice
 
-namespace {
 constexpr s_event_map k_ProfileType_Parameters_ValueChoice_elements[] = {
     element_event("DoubleValue", element_DoubleValue),
     element_event("IntegerValue", element_IntegerValue),
     element_event("StringValue", element_StringValue),
     k_end_of_map,
 };
-}  // namespace
-
 constinit const s_item ProfileType_Parameters_ValueChoice::k_items[] = {
-    {item_kind::alternative, value_kind::number, use_optional, ELMX_WS_COLLAPSE, "Vyr:DoubleValue", element_DoubleValue,
-     0, k_no_flag, position_of(k_ProfileType_Parameters_ValueChoice_elements, element_DoubleValue), position_of(k_ProfileType_Parameters_ValueChoice_elements, element_DoubleValue, 1), nullptr, nullptr, {}},
-    {item_kind::alternative, value_kind::int32, use_optional, ELMX_WS_COLLAPSE, "Vyr:IntegerValue", element_IntegerValue,
-     0, k_no_flag, position_of(k_ProfileType_Parameters_ValueChoice_elements, element_IntegerValue), position_of(k_ProfileType_Parameters_ValueChoice_elements, element_IntegerValue, 1), nullptr, &facets::Int32, {}},
-    {item_kind::alternative, value_kind::text, use_optional, ELMX_WS_PRESERVE, "Vyr:StringValue", element_StringValue,
-     0, k_no_flag, position_of(k_ProfileType_Parameters_ValueChoice_elements, element_StringValue), position_of(k_ProfileType_Parameters_ValueChoice_elements, element_StringValue, 1), nullptr, nullptr, {}},
+    {item_kind::alternative, value_kind::number, use_optional, ELMX_WS_COLLAPSE, "Vyr:DoubleValue", element_DoubleValue, 0, k_no_flag, position_of(k_ProfileType_Parameters_ValueChoice_elements, element_DoubleValue), 1},
+    {item_kind::alternative, value_kind::int32, use_optional, ELMX_WS_COLLAPSE, "Vyr:IntegerValue", element_IntegerValue, 0, k_no_flag, position_of(k_ProfileType_Parameters_ValueChoice_elements, element_IntegerValue), 1, nullptr, &facets::Int32},
+    {item_kind::alternative, value_kind::text, use_optional, ELMX_WS_PRESERVE, "Vyr:StringValue", element_StringValue, 0, k_no_flag, position_of(k_ProfileType_Parameters_ValueChoice_elements, element_StringValue), 1},
 };
 constinit const s_class ProfileType_Parameters_ValueChoice::k_class = {
     .name = "ProfileType_Parameters_ValueChoice",
     .qualified_name = "Vyr:ValueChoice",
     .content = content_kind::choice,
     .choice = LMX_CHOICE(ProfileType_Parameters_ValueChoice, m_choice),
-    .elements = std::span(k_items).subspan(std::size(k_no_events) - 1),
-    .attribute_map = k_no_events,
+    .elements = k_items,
     .element_map = k_ProfileType_Parameters_ValueChoice_elements,
     .operations = &k_operations<ProfileType_Parameters_ValueChoice>,
 };
@@ -464,27 +396,21 @@ lmx::elmx_error ProfileType_Parameters_ValueChoice::set_StringValue(const std::u
 
 // ProfileType_Parameters
 
-namespace {
 constexpr s_event_map k_ProfileType_Parameters_elements[] = {
     element_event("Name", element_Name),
     element_event("ValueChoice", element_ValueChoice),
     k_end_of_map,
 };
-}  // namespace
-
 constinit const s_item ProfileType_Parameters::k_items[] = {
-    {item_kind::element, value_kind::text, use_required | use_name, ELMX_WS_PRESERVE, "Vyr:Name", element_Name,
-     LMX_OFFSET(ProfileType_Parameters, m_Name, element, text), LMX_FLAG(ProfileType_Parameters, m_isset_Name), position_of(k_ProfileType_Parameters_elements, element_Name), position_of(k_ProfileType_Parameters_elements, element_Name, 1), nullptr, &facets::SingleCharacter, {}},
-    {item_kind::child, value_kind::none, use_required, ELMX_WS_PRESERVE, "Vyr:ValueChoice", element_ValueChoice,
-     LMX_OFFSET(ProfileType_Parameters, m_ValueChoice, child, none), LMX_FLAG(ProfileType_Parameters, m_isset_ValueChoice), position_of(k_ProfileType_Parameters_elements, element_ValueChoice), position_of(k_ProfileType_Parameters_elements, element_ValueChoice, 1), &ProfileType_Parameters_ValueChoice::k_class, nullptr, {}},
+    {item_kind::element, value_kind::text, use_required | use_name, ELMX_WS_PRESERVE, "Vyr:Name", element_Name, LMX_OFFSET(ProfileType_Parameters, m_Name, element, text), LMX_FLAG(ProfileType_Parameters, m_isset_Name), position_of(k_ProfileType_Parameters_elements, element_Name), 1, nullptr, &facets::SingleCharacter},
+    {item_kind::child, value_kind::none, use_required, ELMX_WS_PRESERVE, "Vyr:ValueChoice", element_ValueChoice, LMX_OFFSET(ProfileType_Parameters, m_ValueChoice, child, none), LMX_FLAG(ProfileType_Parameters, m_isset_ValueChoice), position_of(k_ProfileType_Parameters_elements, element_ValueChoice), 1, &ProfileType_Parameters_ValueChoice::k_class},
 };
 constinit const s_class ProfileType_Parameters::k_class = {
     .name = "ProfileType_Parameters",
     .qualified_name = "Vyr:Parameters",
     .content = content_kind::children,
     .may_be_empty = true,
-    .elements = std::span(k_items).subspan(std::size(k_no_events) - 1),
-    .attribute_map = k_no_events,
+    .elements = k_items,
     .element_map = k_ProfileType_Parameters_elements,
     .operations = &k_operations<ProfileType_Parameters>,
 };

@@ -33,6 +33,7 @@ public:
     void swap(CalibrationStateType& other);
     void reset();
     bool is_occurs_ok() const;
+    static const lmx::s_class k_class;
 
     /// Time of the last calibration, with time zone.
     const lmx::c_datetime& get_CalibrationDateTime() const { return m_CalibrationDateTime; }
@@ -45,8 +46,6 @@ public:
     lmx::elmx_error set_CalibrationStateType(const std::u16string& value);
     Eenum_CalibrationStateType getenum_CalibrationStateType() const { return static_cast<Eenum_CalibrationStateType>(m_CalibrationStateType.number()); }
     bool setenum_CalibrationStateType(std::int32_t number);
-
-    static const lmx::s_class k_class;
 
 protected:
     void marshal_attributes(lmx::c_xml_writer& writer) const { lmx::marshal_attributes(k_class, this, writer); }
@@ -79,6 +78,7 @@ public:
     void swap(GlossCompensation& other);
     void reset();
     bool is_occurs_ok() const;
+    static const lmx::s_class k_class;
 
     /// Amount of the correction.
     double get_CompensationValue() const { return m_CompensationValue; }
@@ -89,8 +89,6 @@ public:
     lmx::elmx_error set_GlossCompensation(bool value);
     bool isset_GlossCompensation() const { return m_isset_GlossCompensation; }
     void unset_GlossCompensation() { m_isset_GlossCompensation = false; }
-
-    static const lmx::s_class k_class;
 
 protected:
     void marshal_attributes(lmx::c_xml_writer& writer) const { lmx::marshal_attributes(k_class, this, writer); }
@@ -123,6 +121,7 @@ public:
     void swap(Averaging& other);
     void reset();
     bool is_occurs_ok() const;
+    static const lmx::s_class k_class;
 
     /// Number of readings, 2 to 99.
     std::uint8_t get_AveragingValue() const { return m_AveragingValue; }
@@ -133,8 +132,6 @@ public:
     lmx::elmx_error set_Averaging(bool value);
     bool isset_Averaging() const { return m_isset_Averaging; }
     void unset_Averaging() { m_isset_Averaging = false; }
-
-    static const lmx::s_class k_class;
 
 protected:
     void marshal_attributes(lmx::c_xml_writer& writer) const { lmx::marshal_attributes(k_class, this, writer); }
@@ -167,6 +164,7 @@ public:
     void swap(DeviceSettings& other);
     void reset();
     bool is_occurs_ok() const;
+    static const lmx::s_class k_class;
 
     /// A named value of the user's own.
     std::size_t size_CustomAttribute() const { return m_CustomAttribute.size(); }
@@ -217,8 +215,6 @@ public:
     bool isset_LinkTrimmer() const { return m_isset_LinkTrimmer; }
     void unset_LinkTrimmer() { m_isset_LinkTrimmer = false; }
 
-    static const lmx::s_class k_class;
-
 protected:
     void marshal_attributes(lmx::c_xml_writer& writer) const { lmx::marshal_attributes(k_class, this, writer); }
     lmx::elmx_error marshal_child_elements(lmx::c_xml_writer& writer) const { return lmx::marshal_child_elements(k_class, this, writer); }
@@ -264,6 +260,7 @@ public:
     void swap(DeviceType& other);
     void reset();
     bool is_occurs_ok() const;
+    static const lmx::s_class k_class;
 
     /// A named value of the user's own.
     std::size_t size_CustomAttribute() const { return m_CustomAttribute.size(); }
@@ -322,8 +319,6 @@ public:
     bool isset_DeviceSettings() const { return m_isset_DeviceSettings; }
     void unset_DeviceSettings() { m_isset_DeviceSettings = false; }
 
-    static const lmx::s_class k_class;
-
 protected:
     void marshal_attributes(lmx::c_xml_writer& writer) const { lmx::marshal_attributes(k_class, this, writer); }
     lmx::elmx_error marshal_child_elements(lmx::c_xml_writer& writer) const { return lmx::marshal_child_elements(k_class, this, writer); }
@@ -379,6 +374,7 @@ public:
     void reset();
     bool is_occurs_ok() const;
     elmx_chosen getchosen() const { return static_cast<elmx_chosen>(m_choice.chosen); }
+    static const lmx::s_class k_class;
 
     /// The profile inline.
     ProfileFile& get_ProfileFile();
@@ -388,8 +384,6 @@ public:
     /// Where the profile can be found.
     const std::u16string& get_ProfileURI() const;
     lmx::elmx_error set_ProfileURI(const std::u16string& value);
-
-    static const lmx::s_class k_class;
 
 protected:
     void marshal_attributes(lmx::c_xml_writer& writer) const { lmx::marshal_attributes(k_class, this, writer); }
@@ -419,6 +413,7 @@ public:
     void swap(ProfileType& other);
     void reset();
     bool is_occurs_ok() const;
+    static const lmx::s_class k_class;
 
     /// Which way the profile converts.
     const std::u16string& get_Direction() const { return m_Direction.get(); }
@@ -447,8 +442,6 @@ public:
     lmx::elmx_error set_Created(const lmx::c_datetime& value);
     bool isset_Created() const { return m_isset_Created; }
     void unset_Created() { m_isset_Created = false; }
-
-    static const lmx::s_class k_class;
 
 protected:
     void marshal_attributes(lmx::c_xml_writer& writer) const { lmx::marshal_attributes(k_class, this, writer); }
@@ -486,6 +479,7 @@ public:
     void swap(ProfileFile& other);
     void reset();
     bool is_occurs_ok() const;
+    static const lmx::s_class k_class;
 
     /// Name of the file or of the profile.
     const std::u16string& get_ProfileName() const { return m_ProfileName; }
@@ -496,8 +490,6 @@ public:
     /// The file's bytes, as base64.
     const lmx::c_binary& get_ProfileFile() const { return m_ProfileFile; }
     lmx::elmx_error set_ProfileFile(const lmx::c_binary& value);
-
-    static const lmx::s_class k_class;
 
 protected:
     void marshal_attributes(lmx::c_xml_writer& writer) const { lmx::marshal_attributes(k_class, this, writer); }
@@ -534,6 +526,7 @@ public:
     void reset();
     bool is_occurs_ok() const;
     elmx_chosen getchosen() const { return static_cast<elmx_chosen>(m_choice.chosen); }
+    static const lmx::s_class k_class;
 
     /// The value as a floating-point number.
     double get_DoubleValue() const { return m_choice.chosen == e_DoubleValue ? m_choice.number : 0; }
@@ -546,8 +539,6 @@ public:
     /// The value as a text.
     const std::u16string& get_StringValue() const;
     lmx::elmx_error set_StringValue(const std::u16string& value);
-
-    static const lmx::s_class k_class;
 
 protected:
     void marshal_attributes(lmx::c_xml_writer& writer) const { lmx::marshal_attributes(k_class, this, writer); }
@@ -578,6 +569,7 @@ public:
     void swap(ProfileType_Parameters& other);
     void reset();
     bool is_occurs_ok() const;
+    static const lmx::s_class k_class;
 
     /// Name of the parameter, exactly one character.
     const std::u16string& get_Name() const { return m_Name; }
@@ -587,8 +579,6 @@ public:
     ProfileType_Parameters_ValueChoice& get_ValueChoice() { m_isset_ValueChoice = true; return m_ValueChoice; }
     const ProfileType_Parameters_ValueChoice& get_ValueChoice() const { return m_ValueChoice; }
     ProfileType_Parameters_ValueChoice& assign_ValueChoice(const ProfileType_Parameters_ValueChoice& value);
-
-    static const lmx::s_class k_class;
 
 protected:
     void marshal_attributes(lmx::c_xml_writer& writer) const { lmx::marshal_attributes(k_class, this, writer); }

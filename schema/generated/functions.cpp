@@ -20,23 +20,18 @@ namespace com_vyrgraph_v2 {
 
 using namespace lmx;  // for the tables' sake
 
-static_assert(k_binding_version == 4, "run schema/generator/generate.py");
+static_assert(k_binding_version == 5, "run schema/generator/generate.py");
 
 // FunctionType
 
-namespace {
 constexpr s_event_map k_FunctionType_elements[] = {
     element_event("CustomAttribute", element_CustomAttribute),
     element_event("Result", element_Result),
     k_end_of_map,
 };
-}  // namespace
-
 constinit const s_item FunctionType::k_items[] = {
-    {item_kind::child_list, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:CustomAttribute", element_CustomAttribute,
-     LMX_OFFSET(FunctionType, m_CustomAttribute, child_list, none), k_no_flag, position_of(k_FunctionType_elements, element_CustomAttribute), position_of(k_FunctionType_elements, element_CustomAttribute, 1), &CustomAttributeType::k_class, nullptr, {}},
-    {item_kind::element, value_kind::number, use_optional, ELMX_WS_COLLAPSE, "Vyr:Result", element_Result,
-     LMX_OFFSET(FunctionType, m_Result, element, number), LMX_FLAG(FunctionType, m_isset_Result), position_of(k_FunctionType_elements, element_Result), position_of(k_FunctionType_elements, element_Result, 1), nullptr, nullptr, {}},
+    {item_kind::child_list, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:CustomAttribute", element_CustomAttribute, LMX_OFFSET(FunctionType, m_CustomAttribute, child_list, none), k_no_flag, position_of(k_FunctionType_elements, element_CustomAttribute), 1, &CustomAttributeType::k_class},
+    {item_kind::element, value_kind::number, use_optional, ELMX_WS_COLLAPSE, "Vyr:Result", element_Result, LMX_OFFSET(FunctionType, m_Result, element, number), LMX_FLAG(FunctionType, m_isset_Result), position_of(k_FunctionType_elements, element_Result), 1},
 };
 constinit const s_factory_row FunctionType::k_factory[] = {
     {"FunctionGenericType", &FunctionGenericType::k_class},
@@ -65,14 +60,12 @@ constinit const s_class FunctionType::k_class = {
     .may_be_empty = true,
     .ns_map = k_ns_map,
     .id = &FunctionType::id,
-    .xsi_type = "Vyr:FunctionType",
-    .elements = std::span(k_items).subspan(std::size(k_no_events) - 1),
-    .attribute_map = k_no_events,
+    .elements = k_items,
     .element_map = k_FunctionType_elements,
     .operations = &k_operations<FunctionType>,
 };
 
-namespace { const char k_FunctionType_id[] = "FunctionType"; }
+const char k_FunctionType_id[] = "FunctionType";
 const char* FunctionType::id = k_FunctionType_id;
 FunctionType::FunctionType() = default;
 FunctionType::FunctionType(const FunctionType& other) { lmx::copy(k_class, this, &other); }
@@ -114,19 +107,14 @@ lmx::elmx_error Function::unmarshal(lmx::c_xml_reader& reader, const std::string
 
 // FunctionGenericType
 
-namespace {
 constexpr s_event_map k_FunctionGenericType_elements[] = {
     element_event("Name", element_Name),
     element_event("Parameters", element_Parameters),
     k_end_of_map,
 };
-}  // namespace
-
 constinit const s_item FunctionGenericType::k_items[] = {
-    {item_kind::element, value_kind::text, use_required | use_name, ELMX_WS_COLLAPSE, "Vyr:Name", element_Name,
-     LMX_OFFSET(FunctionGenericType, m_Name, element, text), LMX_FLAG(FunctionGenericType, m_isset_Name), position_of(k_FunctionGenericType_elements, element_Name), position_of(k_FunctionGenericType_elements, element_Name, 1), nullptr, &facets::NonEmptyToken, {}},
-    {item_kind::child_list, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:Parameters", element_Parameters,
-     LMX_OFFSET(FunctionGenericType, m_Parameters, child_list, none), k_no_flag, position_of(k_FunctionGenericType_elements, element_Parameters), position_of(k_FunctionGenericType_elements, element_Parameters, 1), &Parameters::k_class, nullptr, {}},
+    {item_kind::element, value_kind::text, use_required | use_name, ELMX_WS_COLLAPSE, "Vyr:Name", element_Name, LMX_OFFSET(FunctionGenericType, m_Name, element, text), LMX_FLAG(FunctionGenericType, m_isset_Name), position_of(k_FunctionGenericType_elements, element_Name), 1, nullptr, &facets::NonEmptyToken},
+    {item_kind::child_list, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:Parameters", element_Parameters, LMX_OFFSET(FunctionGenericType, m_Parameters, child_list, none), k_no_flag, position_of(k_FunctionGenericType_elements, element_Parameters), 1, &Parameters::k_class},
 };
 constinit const s_class FunctionGenericType::k_class = {
     .name = "FunctionGenericType",
@@ -135,14 +123,12 @@ constinit const s_class FunctionGenericType::k_class = {
     .content = content_kind::children,
     .ns_map = k_ns_map,
     .id = &FunctionGenericType::id,
-    .xsi_type = "Vyr:FunctionGenericType",
-    .elements = std::span(k_items).subspan(std::size(k_no_events) - 1),
-    .attribute_map = k_no_events,
+    .elements = k_items,
     .element_map = k_FunctionGenericType_elements,
     .operations = &k_operations<FunctionGenericType>,
 };
 
-namespace { const char k_FunctionGenericType_id[] = "FunctionGenericType"; }
+const char k_FunctionGenericType_id[] = "FunctionGenericType";
 const char* FunctionGenericType::id = k_FunctionGenericType_id;
 FunctionGenericType::FunctionGenericType() = default;
 FunctionGenericType::FunctionGenericType(const FunctionGenericType& other) : FunctionType() { lmx::copy(k_class, this, &other); }
@@ -166,27 +152,21 @@ void FunctionGenericType::clear_Parameters() { m_Parameters.clear(); }
 
 // ValueChoice
 
-namespace {
 constexpr s_event_map k_ValueChoice_elements[] = {
     element_event("Double", element_Double),
     element_event("String", element_String),
     k_end_of_map,
 };
-}  // namespace
-
 constinit const s_item ValueChoice::k_items[] = {
-    {item_kind::alternative, value_kind::number, use_optional, ELMX_WS_COLLAPSE, "Vyr:Double", element_Double,
-     0, k_no_flag, position_of(k_ValueChoice_elements, element_Double), position_of(k_ValueChoice_elements, element_Double, 1), nullptr, nullptr, {}},
-    {item_kind::alternative, value_kind::text, use_optional, ELMX_WS_PRESERVE, "Vyr:String", element_String,
-     0, k_no_flag, position_of(k_ValueChoice_elements, element_String), position_of(k_ValueChoice_elements, element_String, 1), nullptr, nullptr, {}},
+    {item_kind::alternative, value_kind::number, use_optional, ELMX_WS_COLLAPSE, "Vyr:Double", element_Double, 0, k_no_flag, position_of(k_ValueChoice_elements, element_Double), 1},
+    {item_kind::alternative, value_kind::text, use_optional, ELMX_WS_PRESERVE, "Vyr:String", element_String, 0, k_no_flag, position_of(k_ValueChoice_elements, element_String), 1},
 };
 constinit const s_class ValueChoice::k_class = {
     .name = "ValueChoice",
     .qualified_name = "Vyr:ValueChoice",
     .content = content_kind::choice,
     .choice = LMX_CHOICE(ValueChoice, m_choice),
-    .elements = std::span(k_items).subspan(std::size(k_no_events) - 1),
-    .attribute_map = k_no_events,
+    .elements = k_items,
     .element_map = k_ValueChoice_elements,
     .operations = &k_operations<ValueChoice>,
 };
@@ -206,27 +186,21 @@ lmx::elmx_error ValueChoice::set_String(const std::u16string& value) { return lm
 
 // Parameters
 
-namespace {
 constexpr s_event_map k_Parameters_elements[] = {
     element_event("Name", element_Name),
     element_event("ValueChoice", element_ValueChoice),
     k_end_of_map,
 };
-}  // namespace
-
 constinit const s_item Parameters::k_items[] = {
-    {item_kind::element, value_kind::text, use_required | use_name, ELMX_WS_PRESERVE, "Vyr:Name", element_Name,
-     LMX_OFFSET(Parameters, m_Name, element, text), LMX_FLAG(Parameters, m_isset_Name), position_of(k_Parameters_elements, element_Name), position_of(k_Parameters_elements, element_Name, 1), nullptr, nullptr, {}},
-    {item_kind::child, value_kind::none, use_required, ELMX_WS_PRESERVE, "Vyr:ValueChoice", element_ValueChoice,
-     LMX_OFFSET(Parameters, m_ValueChoice, child, none), LMX_FLAG(Parameters, m_isset_ValueChoice), position_of(k_Parameters_elements, element_ValueChoice), position_of(k_Parameters_elements, element_ValueChoice, 1), &ValueChoice::k_class, nullptr, {}},
+    {item_kind::element, value_kind::text, use_required | use_name, ELMX_WS_PRESERVE, "Vyr:Name", element_Name, LMX_OFFSET(Parameters, m_Name, element, text), LMX_FLAG(Parameters, m_isset_Name), position_of(k_Parameters_elements, element_Name), 1},
+    {item_kind::child, value_kind::none, use_required, ELMX_WS_PRESERVE, "Vyr:ValueChoice", element_ValueChoice, LMX_OFFSET(Parameters, m_ValueChoice, child, none), LMX_FLAG(Parameters, m_isset_ValueChoice), position_of(k_Parameters_elements, element_ValueChoice), 1, &ValueChoice::k_class},
 };
 constinit const s_class Parameters::k_class = {
     .name = "Parameters",
     .qualified_name = "Vyr:Parameters",
     .content = content_kind::children,
     .may_be_empty = true,
-    .elements = std::span(k_items).subspan(std::size(k_no_events) - 1),
-    .attribute_map = k_no_events,
+    .elements = k_items,
     .element_map = k_Parameters_elements,
     .operations = &k_operations<Parameters>,
 };
@@ -253,13 +227,10 @@ constinit const s_class FunctionDEType::k_class = {
     .may_be_empty = true,
     .ns_map = k_ns_map,
     .id = &FunctionDEType::id,
-    .xsi_type = "Vyr:FunctionDEType",
-    .attribute_map = k_no_events,
-    .element_map = k_no_events,
     .operations = &k_operations<FunctionDEType>,
 };
 
-namespace { const char k_FunctionDEType_id[] = "FunctionDEType"; }
+const char k_FunctionDEType_id[] = "FunctionDEType";
 const char* FunctionDEType::id = k_FunctionDEType_id;
 FunctionDEType::FunctionDEType() = default;
 FunctionDEType::FunctionDEType(const FunctionDEType& other) : FunctionType() { lmx::copy(k_class, this, &other); }
@@ -284,13 +255,10 @@ constinit const s_class FunctionMeanDEType::k_class = {
     .may_be_empty = true,
     .ns_map = k_ns_map,
     .id = &FunctionMeanDEType::id,
-    .xsi_type = "Vyr:FunctionMeanDEType",
-    .attribute_map = k_no_events,
-    .element_map = k_no_events,
     .operations = &k_operations<FunctionMeanDEType>,
 };
 
-namespace { const char k_FunctionMeanDEType_id[] = "FunctionMeanDEType"; }
+const char k_FunctionMeanDEType_id[] = "FunctionMeanDEType";
 const char* FunctionMeanDEType::id = k_FunctionMeanDEType_id;
 FunctionMeanDEType::FunctionMeanDEType() = default;
 FunctionMeanDEType::FunctionMeanDEType(const FunctionMeanDEType& other) : FunctionType() { lmx::copy(k_class, this, &other); }
@@ -307,22 +275,16 @@ bool FunctionMeanDEType::is_occurs_ok() const { return lmx::is_occurs_ok(k_class
 
 // FunctionDE94Type
 
-namespace {
 constexpr s_event_map k_FunctionDE94Type_elements[] = {
     element_event("Param_l", element_Param_l),
     element_event("Param_c", element_Param_c),
     element_event("Param_h", element_Param_h),
     k_end_of_map,
 };
-}  // namespace
-
 constinit const s_item FunctionDE94Type::k_items[] = {
-    {item_kind::element, value_kind::number, use_required, ELMX_WS_COLLAPSE, "Vyr:Param_l", element_Param_l,
-     LMX_OFFSET(FunctionDE94Type, m_Param_l, element, number), LMX_FLAG(FunctionDE94Type, m_isset_Param_l), position_of(k_FunctionDE94Type_elements, element_Param_l), position_of(k_FunctionDE94Type_elements, element_Param_l, 1), nullptr, &facets::NonNegative, {}},
-    {item_kind::element, value_kind::number, use_required, ELMX_WS_COLLAPSE, "Vyr:Param_c", element_Param_c,
-     LMX_OFFSET(FunctionDE94Type, m_Param_c, element, number), LMX_FLAG(FunctionDE94Type, m_isset_Param_c), position_of(k_FunctionDE94Type_elements, element_Param_c), position_of(k_FunctionDE94Type_elements, element_Param_c, 1), nullptr, &facets::NonNegative, {}},
-    {item_kind::element, value_kind::number, use_required, ELMX_WS_COLLAPSE, "Vyr:Param_h", element_Param_h,
-     LMX_OFFSET(FunctionDE94Type, m_Param_h, element, number), LMX_FLAG(FunctionDE94Type, m_isset_Param_h), position_of(k_FunctionDE94Type_elements, element_Param_h), position_of(k_FunctionDE94Type_elements, element_Param_h, 1), nullptr, &facets::NonNegative, {}},
+    {item_kind::element, value_kind::number, use_required, ELMX_WS_COLLAPSE, "Vyr:Param_l", element_Param_l, LMX_OFFSET(FunctionDE94Type, m_Param_l, element, number), LMX_FLAG(FunctionDE94Type, m_isset_Param_l), position_of(k_FunctionDE94Type_elements, element_Param_l), 1, nullptr, &facets::NonNegative},
+    {item_kind::element, value_kind::number, use_required, ELMX_WS_COLLAPSE, "Vyr:Param_c", element_Param_c, LMX_OFFSET(FunctionDE94Type, m_Param_c, element, number), LMX_FLAG(FunctionDE94Type, m_isset_Param_c), position_of(k_FunctionDE94Type_elements, element_Param_c), 1, nullptr, &facets::NonNegative},
+    {item_kind::element, value_kind::number, use_required, ELMX_WS_COLLAPSE, "Vyr:Param_h", element_Param_h, LMX_OFFSET(FunctionDE94Type, m_Param_h, element, number), LMX_FLAG(FunctionDE94Type, m_isset_Param_h), position_of(k_FunctionDE94Type_elements, element_Param_h), 1, nullptr, &facets::NonNegative},
 };
 constinit const s_class FunctionDE94Type::k_class = {
     .name = "FunctionDE94Type",
@@ -331,14 +293,12 @@ constinit const s_class FunctionDE94Type::k_class = {
     .content = content_kind::children,
     .ns_map = k_ns_map,
     .id = &FunctionDE94Type::id,
-    .xsi_type = "Vyr:FunctionDE94Type",
-    .elements = std::span(k_items).subspan(std::size(k_no_events) - 1),
-    .attribute_map = k_no_events,
+    .elements = k_items,
     .element_map = k_FunctionDE94Type_elements,
     .operations = &k_operations<FunctionDE94Type>,
 };
 
-namespace { const char k_FunctionDE94Type_id[] = "FunctionDE94Type"; }
+const char k_FunctionDE94Type_id[] = "FunctionDE94Type";
 const char* FunctionDE94Type::id = k_FunctionDE94Type_id;
 FunctionDE94Type::FunctionDE94Type() = default;
 FunctionDE94Type::FunctionDE94Type(const FunctionDE94Type& other) : FunctionType() { lmx::copy(k_class, this, &other); }
@@ -358,22 +318,16 @@ lmx::elmx_error FunctionDE94Type::set_Param_h(double value) { return lmx::set_it
 
 // FunctionDE2000Type
 
-namespace {
 constexpr s_event_map k_FunctionDE2000Type_elements[] = {
     element_event("Param_l", element_Param_l),
     element_event("Param_c", element_Param_c),
     element_event("Param_h", element_Param_h),
     k_end_of_map,
 };
-}  // namespace
-
 constinit const s_item FunctionDE2000Type::k_items[] = {
-    {item_kind::element, value_kind::number, use_required, ELMX_WS_COLLAPSE, "Vyr:Param_l", element_Param_l,
-     LMX_OFFSET(FunctionDE2000Type, m_Param_l, element, number), LMX_FLAG(FunctionDE2000Type, m_isset_Param_l), position_of(k_FunctionDE2000Type_elements, element_Param_l), position_of(k_FunctionDE2000Type_elements, element_Param_l, 1), nullptr, &facets::NonNegative, {}},
-    {item_kind::element, value_kind::number, use_required, ELMX_WS_COLLAPSE, "Vyr:Param_c", element_Param_c,
-     LMX_OFFSET(FunctionDE2000Type, m_Param_c, element, number), LMX_FLAG(FunctionDE2000Type, m_isset_Param_c), position_of(k_FunctionDE2000Type_elements, element_Param_c), position_of(k_FunctionDE2000Type_elements, element_Param_c, 1), nullptr, &facets::NonNegative, {}},
-    {item_kind::element, value_kind::number, use_required, ELMX_WS_COLLAPSE, "Vyr:Param_h", element_Param_h,
-     LMX_OFFSET(FunctionDE2000Type, m_Param_h, element, number), LMX_FLAG(FunctionDE2000Type, m_isset_Param_h), position_of(k_FunctionDE2000Type_elements, element_Param_h), position_of(k_FunctionDE2000Type_elements, element_Param_h, 1), nullptr, &facets::NonNegative, {}},
+    {item_kind::element, value_kind::number, use_required, ELMX_WS_COLLAPSE, "Vyr:Param_l", element_Param_l, LMX_OFFSET(FunctionDE2000Type, m_Param_l, element, number), LMX_FLAG(FunctionDE2000Type, m_isset_Param_l), position_of(k_FunctionDE2000Type_elements, element_Param_l), 1, nullptr, &facets::NonNegative},
+    {item_kind::element, value_kind::number, use_required, ELMX_WS_COLLAPSE, "Vyr:Param_c", element_Param_c, LMX_OFFSET(FunctionDE2000Type, m_Param_c, element, number), LMX_FLAG(FunctionDE2000Type, m_isset_Param_c), position_of(k_FunctionDE2000Type_elements, element_Param_c), 1, nullptr, &facets::NonNegative},
+    {item_kind::element, value_kind::number, use_required, ELMX_WS_COLLAPSE, "Vyr:Param_h", element_Param_h, LMX_OFFSET(FunctionDE2000Type, m_Param_h, element, number), LMX_FLAG(FunctionDE2000Type, m_isset_Param_h), position_of(k_FunctionDE2000Type_elements, element_Param_h), 1, nullptr, &facets::NonNegative},
 };
 constinit const s_class FunctionDE2000Type::k_class = {
     .name = "FunctionDE2000Type",
@@ -382,14 +336,12 @@ constinit const s_class FunctionDE2000Type::k_class = {
     .content = content_kind::children,
     .ns_map = k_ns_map,
     .id = &FunctionDE2000Type::id,
-    .xsi_type = "Vyr:FunctionDE2000Type",
-    .elements = std::span(k_items).subspan(std::size(k_no_events) - 1),
-    .attribute_map = k_no_events,
+    .elements = k_items,
     .element_map = k_FunctionDE2000Type_elements,
     .operations = &k_operations<FunctionDE2000Type>,
 };
 
-namespace { const char k_FunctionDE2000Type_id[] = "FunctionDE2000Type"; }
+const char k_FunctionDE2000Type_id[] = "FunctionDE2000Type";
 const char* FunctionDE2000Type::id = k_FunctionDE2000Type_id;
 FunctionDE2000Type::FunctionDE2000Type() = default;
 FunctionDE2000Type::FunctionDE2000Type(const FunctionDE2000Type& other) : FunctionType() { lmx::copy(k_class, this, &other); }
@@ -409,19 +361,14 @@ lmx::elmx_error FunctionDE2000Type::set_Param_h(double value) { return lmx::set_
 
 // FunctionDEcmcType
 
-namespace {
 constexpr s_event_map k_FunctionDEcmcType_elements[] = {
     element_event("Param_l", element_Param_l),
     element_event("Param_c", element_Param_c),
     k_end_of_map,
 };
-}  // namespace
-
 constinit const s_item FunctionDEcmcType::k_items[] = {
-    {item_kind::element, value_kind::number, use_required, ELMX_WS_COLLAPSE, "Vyr:Param_l", element_Param_l,
-     LMX_OFFSET(FunctionDEcmcType, m_Param_l, element, number), LMX_FLAG(FunctionDEcmcType, m_isset_Param_l), position_of(k_FunctionDEcmcType_elements, element_Param_l), position_of(k_FunctionDEcmcType_elements, element_Param_l, 1), nullptr, &facets::NonNegative, {}},
-    {item_kind::element, value_kind::number, use_required, ELMX_WS_COLLAPSE, "Vyr:Param_c", element_Param_c,
-     LMX_OFFSET(FunctionDEcmcType, m_Param_c, element, number), LMX_FLAG(FunctionDEcmcType, m_isset_Param_c), position_of(k_FunctionDEcmcType_elements, element_Param_c), position_of(k_FunctionDEcmcType_elements, element_Param_c, 1), nullptr, &facets::NonNegative, {}},
+    {item_kind::element, value_kind::number, use_required, ELMX_WS_COLLAPSE, "Vyr:Param_l", element_Param_l, LMX_OFFSET(FunctionDEcmcType, m_Param_l, element, number), LMX_FLAG(FunctionDEcmcType, m_isset_Param_l), position_of(k_FunctionDEcmcType_elements, element_Param_l), 1, nullptr, &facets::NonNegative},
+    {item_kind::element, value_kind::number, use_required, ELMX_WS_COLLAPSE, "Vyr:Param_c", element_Param_c, LMX_OFFSET(FunctionDEcmcType, m_Param_c, element, number), LMX_FLAG(FunctionDEcmcType, m_isset_Param_c), position_of(k_FunctionDEcmcType_elements, element_Param_c), 1, nullptr, &facets::NonNegative},
 };
 constinit const s_class FunctionDEcmcType::k_class = {
     .name = "FunctionDEcmcType",
@@ -430,14 +377,12 @@ constinit const s_class FunctionDEcmcType::k_class = {
     .content = content_kind::children,
     .ns_map = k_ns_map,
     .id = &FunctionDEcmcType::id,
-    .xsi_type = "Vyr:FunctionDEcmcType",
-    .elements = std::span(k_items).subspan(std::size(k_no_events) - 1),
-    .attribute_map = k_no_events,
+    .elements = k_items,
     .element_map = k_FunctionDEcmcType_elements,
     .operations = &k_operations<FunctionDEcmcType>,
 };
 
-namespace { const char k_FunctionDEcmcType_id[] = "FunctionDEcmcType"; }
+const char k_FunctionDEcmcType_id[] = "FunctionDEcmcType";
 const char* FunctionDEcmcType::id = k_FunctionDEcmcType_id;
 FunctionDEcmcType::FunctionDEcmcType() = default;
 FunctionDEcmcType::FunctionDEcmcType(const FunctionDEcmcType& other) : FunctionType() { lmx::copy(k_class, this, &other); }
@@ -558,19 +503,14 @@ lmx::elmx_error FunctionDECMC::unmarshal(lmx::c_xml_reader& reader, const std::s
 
 // FunctionTolerance
 
-namespace {
 constexpr s_event_map k_FunctionTolerance_elements[] = {
     element_event("ToleranceType", element_ToleranceType),
     element_event("Parameters", element_Parameters),
     k_end_of_map,
 };
-}  // namespace
-
 constinit const s_item FunctionTolerance::k_items[] = {
-    {item_kind::element, value_kind::enumerated, use_required, ELMX_WS_PRESERVE, "Vyr:ToleranceType", element_ToleranceType,
-     LMX_OFFSET(FunctionTolerance, m_ToleranceType, element, enumerated), LMX_FLAG(FunctionTolerance, m_isset_ToleranceType), position_of(k_FunctionTolerance_elements, element_ToleranceType), position_of(k_FunctionTolerance_elements, element_ToleranceType, 1), nullptr, &facets::ToleranceFormulaKind, {}},
-    {item_kind::child_list, value_kind::none, use_demanded | use_asked, ELMX_WS_PRESERVE, "Vyr:Parameters", element_Parameters,
-     LMX_OFFSET(FunctionTolerance, m_Parameters, child_list, none), k_no_flag, position_of(k_FunctionTolerance_elements, element_Parameters), position_of(k_FunctionTolerance_elements, element_Parameters, 1), &ToleranceParameterType::k_class, nullptr, {}},
+    {item_kind::element, value_kind::enumerated, use_required, ELMX_WS_PRESERVE, "Vyr:ToleranceType", element_ToleranceType, LMX_OFFSET(FunctionTolerance, m_ToleranceType, element, enumerated), LMX_FLAG(FunctionTolerance, m_isset_ToleranceType), position_of(k_FunctionTolerance_elements, element_ToleranceType), 1, nullptr, &facets::ToleranceFormulaKind},
+    {item_kind::child_list, value_kind::none, use_demanded | use_asked, ELMX_WS_PRESERVE, "Vyr:Parameters", element_Parameters, LMX_OFFSET(FunctionTolerance, m_Parameters, child_list, none), k_no_flag, position_of(k_FunctionTolerance_elements, element_Parameters), 1, &ToleranceParameterType::k_class},
 };
 constinit const s_class FunctionTolerance::k_class = {
     .name = "FunctionTolerance",
@@ -579,14 +519,12 @@ constinit const s_class FunctionTolerance::k_class = {
     .content = content_kind::children,
     .ns_map = k_ns_map,
     .id = &FunctionTolerance::id,
-    .xsi_type = "Vyr:FunctionTolerance",
-    .elements = std::span(k_items).subspan(std::size(k_no_events) - 1),
-    .attribute_map = k_no_events,
+    .elements = k_items,
     .element_map = k_FunctionTolerance_elements,
     .operations = &k_operations<FunctionTolerance>,
 };
 
-namespace { const char k_FunctionTolerance_id[] = "FunctionTolerance"; }
+const char k_FunctionTolerance_id[] = "FunctionTolerance";
 const char* FunctionTolerance::id = k_FunctionTolerance_id;
 FunctionTolerance::FunctionTolerance() = default;
 FunctionTolerance::FunctionTolerance(const FunctionTolerance& other) : FunctionType() { lmx::copy(k_class, this, &other); }
@@ -611,30 +549,23 @@ void FunctionTolerance::clear_Parameters() { m_Parameters.clear(); }
 
 // ToleranceParameterType
 
-namespace {
 constexpr s_event_map k_ToleranceParameterType_elements[] = {
     element_event("HighValue", element_HighValue),
     element_event("ToleranceParameter", element_ToleranceParameter),
     element_event("LowValue", element_LowValue),
     k_end_of_map,
 };
-}  // namespace
-
 constinit const s_item ToleranceParameterType::k_items[] = {
-    {item_kind::element, value_kind::number, use_optional, ELMX_WS_COLLAPSE, "Vyr:HighValue", element_HighValue,
-     LMX_OFFSET(ToleranceParameterType, m_HighValue, element, number), LMX_FLAG(ToleranceParameterType, m_isset_HighValue), position_of(k_ToleranceParameterType_elements, element_HighValue), position_of(k_ToleranceParameterType_elements, element_HighValue, 1), nullptr, nullptr, {}},
-    {item_kind::element, value_kind::enumerated, use_optional, ELMX_WS_PRESERVE, "Vyr:ToleranceParameter", element_ToleranceParameter,
-     LMX_OFFSET(ToleranceParameterType, m_ToleranceParameter, element, enumerated), LMX_FLAG(ToleranceParameterType, m_isset_ToleranceParameter), position_of(k_ToleranceParameterType_elements, element_ToleranceParameter), position_of(k_ToleranceParameterType_elements, element_ToleranceParameter, 1), nullptr, &facets::ToleranceParameterKind, {}},
-    {item_kind::element, value_kind::number, use_required, ELMX_WS_COLLAPSE, "Vyr:LowValue", element_LowValue,
-     LMX_OFFSET(ToleranceParameterType, m_LowValue, element, number), LMX_FLAG(ToleranceParameterType, m_isset_LowValue), position_of(k_ToleranceParameterType_elements, element_LowValue), position_of(k_ToleranceParameterType_elements, element_LowValue, 1), nullptr, nullptr, {}},
+    {item_kind::element, value_kind::number, use_optional, ELMX_WS_COLLAPSE, "Vyr:HighValue", element_HighValue, LMX_OFFSET(ToleranceParameterType, m_HighValue, element, number), LMX_FLAG(ToleranceParameterType, m_isset_HighValue), position_of(k_ToleranceParameterType_elements, element_HighValue), 1},
+    {item_kind::element, value_kind::enumerated, use_optional, ELMX_WS_PRESERVE, "Vyr:ToleranceParameter", element_ToleranceParameter, LMX_OFFSET(ToleranceParameterType, m_ToleranceParameter, element, enumerated), LMX_FLAG(ToleranceParameterType, m_isset_ToleranceParameter), position_of(k_ToleranceParameterType_elements, element_ToleranceParameter), 1, nullptr, &facets::ToleranceParameterKind},
+    {item_kind::element, value_kind::number, use_required, ELMX_WS_COLLAPSE, "Vyr:LowValue", element_LowValue, LMX_OFFSET(ToleranceParameterType, m_LowValue, element, number), LMX_FLAG(ToleranceParameterType, m_isset_LowValue), position_of(k_ToleranceParameterType_elements, element_LowValue), 1},
 };
 constinit const s_class ToleranceParameterType::k_class = {
     .name = "ToleranceParameterType",
     .qualified_name = "Vyr:ToleranceParameterType",
     .content = content_kind::children,
     .ns_map = k_ns_map,
-    .elements = std::span(k_items).subspan(std::size(k_no_events) - 1),
-    .attribute_map = k_no_events,
+    .elements = k_items,
     .element_map = k_ToleranceParameterType_elements,
     .operations = &k_operations<ToleranceParameterType>,
 };

@@ -38,6 +38,7 @@ public:
     void swap(FunctionType& other);
     void reset();
     bool is_occurs_ok() const;
+    static const lmx::s_class k_class;
 
     /// A named value of the user's own.
     std::size_t size_CustomAttribute() const { return m_CustomAttribute.size(); }
@@ -62,8 +63,6 @@ public:
     /// A new object of the type with that local name in namespace 1000, or null; the caller owns it.
     static FunctionType* factory(int ns_id, const std::string& name);
     static const lmx::s_factory_row k_factory[18];
-
-    static const lmx::s_class k_class;
 
 protected:
     void marshal_attributes(lmx::c_xml_writer& writer) const { lmx::marshal_attributes(k_class, this, writer); }
@@ -120,6 +119,7 @@ public:
     void swap(FunctionGenericType& other);
     void reset();
     bool is_occurs_ok() const;
+    static const lmx::s_class k_class;
 
     /// Name of the function; not empty.
     const std::u16string& get_Name() const { return m_Name; }
@@ -138,8 +138,6 @@ public:
 
     /// The class's identity; `getid` and `has_id` work on its address.
     static const char* id;
-
-    static const lmx::s_class k_class;
 
 protected:
     void marshal_attributes(lmx::c_xml_writer& writer) const { lmx::marshal_attributes(k_class, this, writer); }
@@ -175,6 +173,7 @@ public:
     void reset();
     bool is_occurs_ok() const;
     elmx_chosen getchosen() const { return static_cast<elmx_chosen>(m_choice.chosen); }
+    static const lmx::s_class k_class;
 
     /// The value as a number.
     double get_Double() const { return m_choice.chosen == e_Double ? m_choice.number : 0; }
@@ -183,8 +182,6 @@ public:
     /// The value as a text.
     const std::u16string& get_String() const;
     lmx::elmx_error set_String(const std::u16string& value);
-
-    static const lmx::s_class k_class;
 
 protected:
     void marshal_attributes(lmx::c_xml_writer& writer) const { lmx::marshal_attributes(k_class, this, writer); }
@@ -214,6 +211,7 @@ public:
     void swap(Parameters& other);
     void reset();
     bool is_occurs_ok() const;
+    static const lmx::s_class k_class;
 
     /// Name of the parameter.
     const std::u16string& get_Name() const { return m_Name; }
@@ -223,8 +221,6 @@ public:
     ValueChoice& get_ValueChoice() { m_isset_ValueChoice = true; return m_ValueChoice; }
     const ValueChoice& get_ValueChoice() const { return m_ValueChoice; }
     ValueChoice& assign_ValueChoice(const ValueChoice& value);
-
-    static const lmx::s_class k_class;
 
 protected:
     void marshal_attributes(lmx::c_xml_writer& writer) const { lmx::marshal_attributes(k_class, this, writer); }
@@ -261,11 +257,10 @@ public:
     void swap(FunctionDEType& other);
     void reset();
     bool is_occurs_ok() const;
+    static const lmx::s_class k_class;
 
     /// The class's identity; `getid` and `has_id` work on its address.
     static const char* id;
-
-    static const lmx::s_class k_class;
 
 protected:
     void marshal_attributes(lmx::c_xml_writer& writer) const { lmx::marshal_attributes(k_class, this, writer); }
@@ -291,11 +286,10 @@ public:
     void swap(FunctionMeanDEType& other);
     void reset();
     bool is_occurs_ok() const;
+    static const lmx::s_class k_class;
 
     /// The class's identity; `getid` and `has_id` work on its address.
     static const char* id;
-
-    static const lmx::s_class k_class;
 
 protected:
     void marshal_attributes(lmx::c_xml_writer& writer) const { lmx::marshal_attributes(k_class, this, writer); }
@@ -321,6 +315,7 @@ public:
     void swap(FunctionDE94Type& other);
     void reset();
     bool is_occurs_ok() const;
+    static const lmx::s_class k_class;
 
     /// Weight of the lightness difference, 0 or more; a new object holds 2, without counting as set.
     double get_Param_l() const { return m_Param_l; }
@@ -336,8 +331,6 @@ public:
 
     /// The class's identity; `getid` and `has_id` work on its address.
     static const char* id;
-
-    static const lmx::s_class k_class;
 
 protected:
     void marshal_attributes(lmx::c_xml_writer& writer) const { lmx::marshal_attributes(k_class, this, writer); }
@@ -377,6 +370,7 @@ public:
     void swap(FunctionDE2000Type& other);
     void reset();
     bool is_occurs_ok() const;
+    static const lmx::s_class k_class;
 
     /// Weight of the lightness difference, 0 or more; a new object holds 2, without counting as set.
     double get_Param_l() const { return m_Param_l; }
@@ -392,8 +386,6 @@ public:
 
     /// The class's identity; `getid` and `has_id` work on its address.
     static const char* id;
-
-    static const lmx::s_class k_class;
 
 protected:
     void marshal_attributes(lmx::c_xml_writer& writer) const { lmx::marshal_attributes(k_class, this, writer); }
@@ -433,6 +425,7 @@ public:
     void swap(FunctionDEcmcType& other);
     void reset();
     bool is_occurs_ok() const;
+    static const lmx::s_class k_class;
 
     /// Weight l of the lightness difference, 0 or more; a new object holds 2, without counting as set.
     double get_Param_l() const { return m_Param_l; }
@@ -444,8 +437,6 @@ public:
 
     /// The class's identity; `getid` and `has_id` work on its address.
     static const char* id;
-
-    static const lmx::s_class k_class;
 
 protected:
     void marshal_attributes(lmx::c_xml_writer& writer) const { lmx::marshal_attributes(k_class, this, writer); }
@@ -608,6 +599,7 @@ public:
     void swap(FunctionTolerance& other);
     void reset();
     bool is_occurs_ok() const;
+    static const lmx::s_class k_class;
 
     /// The formula.
     const std::u16string& get_ToleranceType() const { return m_ToleranceType.get(); }
@@ -628,8 +620,6 @@ public:
 
     /// The class's identity; `getid` and `has_id` work on its address.
     static const char* id;
-
-    static const lmx::s_class k_class;
 
 protected:
     void marshal_attributes(lmx::c_xml_writer& writer) const { lmx::marshal_attributes(k_class, this, writer); }
@@ -661,6 +651,7 @@ public:
     void swap(ToleranceParameterType& other);
     void reset();
     bool is_occurs_ok() const;
+    static const lmx::s_class k_class;
 
     /// Upper limit, in the unit of the parameter.
     double get_HighValue() const { return m_HighValue; }
@@ -679,8 +670,6 @@ public:
     /// Lower limit, in the unit of the parameter.
     double get_LowValue() const { return m_LowValue; }
     lmx::elmx_error set_LowValue(double value);
-
-    static const lmx::s_class k_class;
 
 protected:
     void marshal_attributes(lmx::c_xml_writer& writer) const { lmx::marshal_attributes(k_class, this, writer); }

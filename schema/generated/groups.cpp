@@ -26,11 +26,10 @@ namespace com_vyrgraph_v2 {
 
 using namespace lmx;  // for the tables' sake
 
-static_assert(k_binding_version == 4, "run schema/generator/generate.py");
+static_assert(k_binding_version == 5, "run schema/generator/generate.py");
 
 // sg_ColorSpace
 
-namespace {
 constexpr s_event_map k_sg_ColorSpace_elements[] = {
     element_event("ColorSpaceRecipe", element_ColorSpaceRecipe),
     element_event("ColorSpaceTINTORA", element_ColorSpaceTINTORA),
@@ -62,73 +61,42 @@ constexpr s_event_map k_sg_ColorSpace_elements[] = {
     element_event("ColorSpaceMunsell", element_ColorSpaceMunsell),
     k_end_of_map,
 };
-}  // namespace
-
 constinit const s_item sg_ColorSpace::k_items[] = {
-    {item_kind::alternative, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:ColorSpaceRecipe", element_ColorSpaceRecipe,
-     0, k_no_flag, position_of(k_sg_ColorSpace_elements, element_ColorSpaceRecipe), position_of(k_sg_ColorSpace_elements, element_ColorSpaceRecipe, 1), &ColorSpaceRecipeType::k_class, nullptr, {}},
-    {item_kind::alternative, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:ColorSpaceTINTORA", element_ColorSpaceTINTORA,
-     0, k_no_flag, position_of(k_sg_ColorSpace_elements, element_ColorSpaceTINTORA), position_of(k_sg_ColorSpace_elements, element_ColorSpaceTINTORA, 1), &ColorSpaceTINTORAType::k_class, nullptr, {}},
-    {item_kind::alternative, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:ColorSpaceGeneric", element_ColorSpaceGeneric,
-     0, k_no_flag, position_of(k_sg_ColorSpace_elements, element_ColorSpaceGeneric), position_of(k_sg_ColorSpace_elements, element_ColorSpaceGeneric, 1), &ColorSpaceGenericType::k_class, nullptr, {}},
-    {item_kind::alternative, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:ColorSpaceEmissiveGeneric", element_ColorSpaceEmissiveGeneric,
-     0, k_no_flag, position_of(k_sg_ColorSpace_elements, element_ColorSpaceEmissiveGeneric), position_of(k_sg_ColorSpace_elements, element_ColorSpaceEmissiveGeneric, 1), &ColorSpaceEmissiveGenericType::k_class, nullptr, {}},
-    {item_kind::alternative, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:ColorSpaceDensity", element_ColorSpaceDensity,
-     0, k_no_flag, position_of(k_sg_ColorSpace_elements, element_ColorSpaceDensity), position_of(k_sg_ColorSpace_elements, element_ColorSpaceDensity, 1), &ColorSpaceDensityType::k_class, nullptr, {}},
-    {item_kind::alternative, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:ColorSpaceRGB", element_ColorSpaceRGB,
-     0, k_no_flag, position_of(k_sg_ColorSpace_elements, element_ColorSpaceRGB), position_of(k_sg_ColorSpace_elements, element_ColorSpaceRGB, 1), &ColorSpaceRGBType::k_class, nullptr, {}},
-    {item_kind::alternative, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:ColorSpaceSRGB", element_ColorSpaceSRGB,
-     0, k_no_flag, position_of(k_sg_ColorSpace_elements, element_ColorSpaceSRGB), position_of(k_sg_ColorSpace_elements, element_ColorSpaceSRGB, 1), &ColorSpaceSRGBType::k_class, nullptr, {}},
-    {item_kind::alternative, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:ColorSpaceAdobeRGB", element_ColorSpaceAdobeRGB,
-     0, k_no_flag, position_of(k_sg_ColorSpace_elements, element_ColorSpaceAdobeRGB), position_of(k_sg_ColorSpace_elements, element_ColorSpaceAdobeRGB, 1), &ColorSpaceAdobeRGBType::k_class, nullptr, {}},
-    {item_kind::alternative, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:ColorSpaceCMYKPlusN", element_ColorSpaceCMYKPlusN,
-     0, k_no_flag, position_of(k_sg_ColorSpace_elements, element_ColorSpaceCMYKPlusN), position_of(k_sg_ColorSpace_elements, element_ColorSpaceCMYKPlusN, 1), &ColorSpaceCMYKPlusNType::k_class, nullptr, {}},
-    {item_kind::alternative, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:ColorSpaceAdobeWideGamutRGB", element_ColorSpaceAdobeWideGamutRGB,
-     0, k_no_flag, position_of(k_sg_ColorSpace_elements, element_ColorSpaceAdobeWideGamutRGB), position_of(k_sg_ColorSpace_elements, element_ColorSpaceAdobeWideGamutRGB, 1), &ColorSpaceAdobeWideGamutRGBType::k_class, nullptr, {}},
-    {item_kind::alternative, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:ColorSpaceSpectral", element_ColorSpaceSpectral,
-     0, k_no_flag, position_of(k_sg_ColorSpace_elements, element_ColorSpaceSpectral), position_of(k_sg_ColorSpace_elements, element_ColorSpaceSpectral, 1), &ColorSpaceSpectralType::k_class, nullptr, {}},
-    {item_kind::alternative, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:ColorSpaceEmissiveSpectral", element_ColorSpaceEmissiveSpectral,
-     0, k_no_flag, position_of(k_sg_ColorSpace_elements, element_ColorSpaceEmissiveSpectral), position_of(k_sg_ColorSpace_elements, element_ColorSpaceEmissiveSpectral, 1), &ColorSpaceEmissiveSpectralType::k_class, nullptr, {}},
-    {item_kind::alternative, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:ColorSpaceCIELab", element_ColorSpaceCIELab,
-     0, k_no_flag, position_of(k_sg_ColorSpace_elements, element_ColorSpaceCIELab), position_of(k_sg_ColorSpace_elements, element_ColorSpaceCIELab, 1), &ColorSpaceCIELabType::k_class, nullptr, {}},
-    {item_kind::alternative, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:ColorSpaceCIELCh", element_ColorSpaceCIELCh,
-     0, k_no_flag, position_of(k_sg_ColorSpace_elements, element_ColorSpaceCIELCh), position_of(k_sg_ColorSpace_elements, element_ColorSpaceCIELCh, 1), &ColorSpaceCIELChType::k_class, nullptr, {}},
-    {item_kind::alternative, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:ColorSpaceCIEXYZ", element_ColorSpaceCIEXYZ,
-     0, k_no_flag, position_of(k_sg_ColorSpace_elements, element_ColorSpaceCIEXYZ), position_of(k_sg_ColorSpace_elements, element_ColorSpaceCIEXYZ, 1), &ColorSpaceCIEXYZType::k_class, nullptr, {}},
-    {item_kind::alternative, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:ColorSpaceEmissiveCIEXYZ", element_ColorSpaceEmissiveCIEXYZ,
-     0, k_no_flag, position_of(k_sg_ColorSpace_elements, element_ColorSpaceEmissiveCIEXYZ), position_of(k_sg_ColorSpace_elements, element_ColorSpaceEmissiveCIEXYZ, 1), &ColorSpaceEmissiveCIEXYZType::k_class, nullptr, {}},
-    {item_kind::alternative, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:ColorSpaceCIExyY", element_ColorSpaceCIExyY,
-     0, k_no_flag, position_of(k_sg_ColorSpace_elements, element_ColorSpaceCIExyY), position_of(k_sg_ColorSpace_elements, element_ColorSpaceCIExyY, 1), &ColorSpaceCIExyYType::k_class, nullptr, {}},
-    {item_kind::alternative, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:ColorSpaceEmissiveCIExyY", element_ColorSpaceEmissiveCIExyY,
-     0, k_no_flag, position_of(k_sg_ColorSpace_elements, element_ColorSpaceEmissiveCIExyY), position_of(k_sg_ColorSpace_elements, element_ColorSpaceEmissiveCIExyY, 1), &ColorSpaceEmissiveCIExyYType::k_class, nullptr, {}},
-    {item_kind::alternative, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:ColorSpaceCIELuv", element_ColorSpaceCIELuv,
-     0, k_no_flag, position_of(k_sg_ColorSpace_elements, element_ColorSpaceCIELuv), position_of(k_sg_ColorSpace_elements, element_ColorSpaceCIELuv, 1), &ColorSpaceCIELuvType::k_class, nullptr, {}},
-    {item_kind::alternative, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:ColorSpaceHSL", element_ColorSpaceHSL,
-     0, k_no_flag, position_of(k_sg_ColorSpace_elements, element_ColorSpaceHSL), position_of(k_sg_ColorSpace_elements, element_ColorSpaceHSL, 1), &ColorSpaceHSLType::k_class, nullptr, {}},
-    {item_kind::alternative, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:ColorSpaceHSV", element_ColorSpaceHSV,
-     0, k_no_flag, position_of(k_sg_ColorSpace_elements, element_ColorSpaceHSV), position_of(k_sg_ColorSpace_elements, element_ColorSpaceHSV, 1), &ColorSpaceHSVType::k_class, nullptr, {}},
-    {item_kind::alternative, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:ColorSpaceCMYK", element_ColorSpaceCMYK,
-     0, k_no_flag, position_of(k_sg_ColorSpace_elements, element_ColorSpaceCMYK), position_of(k_sg_ColorSpace_elements, element_ColorSpaceCMYK, 1), &ColorSpaceCMYKType::k_class, nullptr, ColorSpaceCMYKType::k_factory},
-    {item_kind::alternative, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:ColorSpaceTINTORAOctavantic", element_ColorSpaceTINTORAOctavantic,
-     0, k_no_flag, position_of(k_sg_ColorSpace_elements, element_ColorSpaceTINTORAOctavantic), position_of(k_sg_ColorSpace_elements, element_ColorSpaceTINTORAOctavantic, 1), &ColorSpaceTINTORAOctavanticType::k_class, nullptr, {}},
-    {item_kind::alternative, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:ColorSpaceYUV", element_ColorSpaceYUV,
-     0, k_no_flag, position_of(k_sg_ColorSpace_elements, element_ColorSpaceYUV), position_of(k_sg_ColorSpace_elements, element_ColorSpaceYUV, 1), &ColorSpaceYUVType::k_class, nullptr, {}},
-    {item_kind::alternative, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:ColorSpaceYIQ", element_ColorSpaceYIQ,
-     0, k_no_flag, position_of(k_sg_ColorSpace_elements, element_ColorSpaceYIQ), position_of(k_sg_ColorSpace_elements, element_ColorSpaceYIQ, 1), &ColorSpaceYIQType::k_class, nullptr, {}},
-    {item_kind::alternative, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:ColorSpaceYBR", element_ColorSpaceYBR,
-     0, k_no_flag, position_of(k_sg_ColorSpace_elements, element_ColorSpaceYBR), position_of(k_sg_ColorSpace_elements, element_ColorSpaceYBR, 1), &ColorSpaceYBRType::k_class, nullptr, {}},
-    {item_kind::alternative, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:ColorSpaceNCS", element_ColorSpaceNCS,
-     0, k_no_flag, position_of(k_sg_ColorSpace_elements, element_ColorSpaceNCS), position_of(k_sg_ColorSpace_elements, element_ColorSpaceNCS, 1), &ColorSpaceNCSType::k_class, nullptr, {}},
-    {item_kind::alternative, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:ColorSpaceMunsell", element_ColorSpaceMunsell,
-     0, k_no_flag, position_of(k_sg_ColorSpace_elements, element_ColorSpaceMunsell), position_of(k_sg_ColorSpace_elements, element_ColorSpaceMunsell, 1), &ColorSpaceMunsellType::k_class, nullptr, {}},
+    {item_kind::alternative, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:ColorSpaceRecipe", element_ColorSpaceRecipe, 0, k_no_flag, position_of(k_sg_ColorSpace_elements, element_ColorSpaceRecipe), 1, &ColorSpaceRecipeType::k_class},
+    {item_kind::alternative, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:ColorSpaceTINTORA", element_ColorSpaceTINTORA, 0, k_no_flag, position_of(k_sg_ColorSpace_elements, element_ColorSpaceTINTORA), 1, &ColorSpaceTINTORAType::k_class},
+    {item_kind::alternative, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:ColorSpaceGeneric", element_ColorSpaceGeneric, 0, k_no_flag, position_of(k_sg_ColorSpace_elements, element_ColorSpaceGeneric), 1, &ColorSpaceGenericType::k_class},
+    {item_kind::alternative, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:ColorSpaceEmissiveGeneric", element_ColorSpaceEmissiveGeneric, 0, k_no_flag, position_of(k_sg_ColorSpace_elements, element_ColorSpaceEmissiveGeneric), 1, &ColorSpaceEmissiveGenericType::k_class},
+    {item_kind::alternative, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:ColorSpaceDensity", element_ColorSpaceDensity, 0, k_no_flag, position_of(k_sg_ColorSpace_elements, element_ColorSpaceDensity), 1, &ColorSpaceDensityType::k_class},
+    {item_kind::alternative, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:ColorSpaceRGB", element_ColorSpaceRGB, 0, k_no_flag, position_of(k_sg_ColorSpace_elements, element_ColorSpaceRGB), 1, &ColorSpaceRGBType::k_class},
+    {item_kind::alternative, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:ColorSpaceSRGB", element_ColorSpaceSRGB, 0, k_no_flag, position_of(k_sg_ColorSpace_elements, element_ColorSpaceSRGB), 1, &ColorSpaceSRGBType::k_class},
+    {item_kind::alternative, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:ColorSpaceAdobeRGB", element_ColorSpaceAdobeRGB, 0, k_no_flag, position_of(k_sg_ColorSpace_elements, element_ColorSpaceAdobeRGB), 1, &ColorSpaceAdobeRGBType::k_class},
+    {item_kind::alternative, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:ColorSpaceCMYKPlusN", element_ColorSpaceCMYKPlusN, 0, k_no_flag, position_of(k_sg_ColorSpace_elements, element_ColorSpaceCMYKPlusN), 1, &ColorSpaceCMYKPlusNType::k_class},
+    {item_kind::alternative, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:ColorSpaceAdobeWideGamutRGB", element_ColorSpaceAdobeWideGamutRGB, 0, k_no_flag, position_of(k_sg_ColorSpace_elements, element_ColorSpaceAdobeWideGamutRGB), 1, &ColorSpaceAdobeWideGamutRGBType::k_class},
+    {item_kind::alternative, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:ColorSpaceSpectral", element_ColorSpaceSpectral, 0, k_no_flag, position_of(k_sg_ColorSpace_elements, element_ColorSpaceSpectral), 1, &ColorSpaceSpectralType::k_class},
+    {item_kind::alternative, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:ColorSpaceEmissiveSpectral", element_ColorSpaceEmissiveSpectral, 0, k_no_flag, position_of(k_sg_ColorSpace_elements, element_ColorSpaceEmissiveSpectral), 1, &ColorSpaceEmissiveSpectralType::k_class},
+    {item_kind::alternative, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:ColorSpaceCIELab", element_ColorSpaceCIELab, 0, k_no_flag, position_of(k_sg_ColorSpace_elements, element_ColorSpaceCIELab), 1, &ColorSpaceCIELabType::k_class},
+    {item_kind::alternative, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:ColorSpaceCIELCh", element_ColorSpaceCIELCh, 0, k_no_flag, position_of(k_sg_ColorSpace_elements, element_ColorSpaceCIELCh), 1, &ColorSpaceCIELChType::k_class},
+    {item_kind::alternative, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:ColorSpaceCIEXYZ", element_ColorSpaceCIEXYZ, 0, k_no_flag, position_of(k_sg_ColorSpace_elements, element_ColorSpaceCIEXYZ), 1, &ColorSpaceCIEXYZType::k_class},
+    {item_kind::alternative, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:ColorSpaceEmissiveCIEXYZ", element_ColorSpaceEmissiveCIEXYZ, 0, k_no_flag, position_of(k_sg_ColorSpace_elements, element_ColorSpaceEmissiveCIEXYZ), 1, &ColorSpaceEmissiveCIEXYZType::k_class},
+    {item_kind::alternative, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:ColorSpaceCIExyY", element_ColorSpaceCIExyY, 0, k_no_flag, position_of(k_sg_ColorSpace_elements, element_ColorSpaceCIExyY), 1, &ColorSpaceCIExyYType::k_class},
+    {item_kind::alternative, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:ColorSpaceEmissiveCIExyY", element_ColorSpaceEmissiveCIExyY, 0, k_no_flag, position_of(k_sg_ColorSpace_elements, element_ColorSpaceEmissiveCIExyY), 1, &ColorSpaceEmissiveCIExyYType::k_class},
+    {item_kind::alternative, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:ColorSpaceCIELuv", element_ColorSpaceCIELuv, 0, k_no_flag, position_of(k_sg_ColorSpace_elements, element_ColorSpaceCIELuv), 1, &ColorSpaceCIELuvType::k_class},
+    {item_kind::alternative, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:ColorSpaceHSL", element_ColorSpaceHSL, 0, k_no_flag, position_of(k_sg_ColorSpace_elements, element_ColorSpaceHSL), 1, &ColorSpaceHSLType::k_class},
+    {item_kind::alternative, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:ColorSpaceHSV", element_ColorSpaceHSV, 0, k_no_flag, position_of(k_sg_ColorSpace_elements, element_ColorSpaceHSV), 1, &ColorSpaceHSVType::k_class},
+    {item_kind::alternative, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:ColorSpaceCMYK", element_ColorSpaceCMYK, 0, k_no_flag, position_of(k_sg_ColorSpace_elements, element_ColorSpaceCMYK), 1, &ColorSpaceCMYKType::k_class, nullptr, ColorSpaceCMYKType::k_factory},
+    {item_kind::alternative, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:ColorSpaceTINTORAOctavantic", element_ColorSpaceTINTORAOctavantic, 0, k_no_flag, position_of(k_sg_ColorSpace_elements, element_ColorSpaceTINTORAOctavantic), 1, &ColorSpaceTINTORAOctavanticType::k_class},
+    {item_kind::alternative, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:ColorSpaceYUV", element_ColorSpaceYUV, 0, k_no_flag, position_of(k_sg_ColorSpace_elements, element_ColorSpaceYUV), 1, &ColorSpaceYUVType::k_class},
+    {item_kind::alternative, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:ColorSpaceYIQ", element_ColorSpaceYIQ, 0, k_no_flag, position_of(k_sg_ColorSpace_elements, element_ColorSpaceYIQ), 1, &ColorSpaceYIQType::k_class},
+    {item_kind::alternative, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:ColorSpaceYBR", element_ColorSpaceYBR, 0, k_no_flag, position_of(k_sg_ColorSpace_elements, element_ColorSpaceYBR), 1, &ColorSpaceYBRType::k_class},
+    {item_kind::alternative, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:ColorSpaceNCS", element_ColorSpaceNCS, 0, k_no_flag, position_of(k_sg_ColorSpace_elements, element_ColorSpaceNCS), 1, &ColorSpaceNCSType::k_class},
+    {item_kind::alternative, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:ColorSpaceMunsell", element_ColorSpaceMunsell, 0, k_no_flag, position_of(k_sg_ColorSpace_elements, element_ColorSpaceMunsell), 1, &ColorSpaceMunsellType::k_class},
 };
 constinit const s_class sg_ColorSpace::k_class = {
     .name = "sg_ColorSpace",
     .qualified_name = "sg_ColorSpace",
     .content = content_kind::group,
     .choice = LMX_CHOICE(sg_ColorSpace, m_choice),
-    .elements = std::span(k_items).subspan(std::size(k_no_events) - 1),
-    .attribute_map = k_no_events,
+    .elements = k_items,
     .element_map = k_sg_ColorSpace_elements,
     .operations = &k_operations<sg_ColorSpace>,
 };
@@ -203,7 +171,6 @@ ColorSpaceMunsellType& sg_ColorSpace::assign_ColorSpaceMunsell(const ColorSpaceM
 
 // sg_Substrate
 
-namespace {
 constexpr s_event_map k_sg_Substrate_elements[] = {
     element_event("SubstratePaper", element_SubstratePaper),
     element_event("SubstrateGeneric", element_SubstrateGeneric),
@@ -216,35 +183,23 @@ constexpr s_event_map k_sg_Substrate_elements[] = {
     element_event("SubstrateTextile", element_SubstrateTextile),
     k_end_of_map,
 };
-}  // namespace
-
 constinit const s_item sg_Substrate::k_items[] = {
-    {item_kind::alternative, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:SubstratePaper", element_SubstratePaper,
-     0, k_no_flag, position_of(k_sg_Substrate_elements, element_SubstratePaper), position_of(k_sg_Substrate_elements, element_SubstratePaper, 1), &SubstratePaperType::k_class, nullptr, {}},
-    {item_kind::alternative, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:SubstrateGeneric", element_SubstrateGeneric,
-     0, k_no_flag, position_of(k_sg_Substrate_elements, element_SubstrateGeneric), position_of(k_sg_Substrate_elements, element_SubstrateGeneric, 1), &SubstrateGenericType::k_class, nullptr, {}},
-    {item_kind::alternative, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:SubstrateMetal", element_SubstrateMetal,
-     0, k_no_flag, position_of(k_sg_Substrate_elements, element_SubstrateMetal), position_of(k_sg_Substrate_elements, element_SubstrateMetal, 1), &SubstrateMetalType::k_class, nullptr, {}},
-    {item_kind::alternative, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:SubstratePlastic", element_SubstratePlastic,
-     0, k_no_flag, position_of(k_sg_Substrate_elements, element_SubstratePlastic), position_of(k_sg_Substrate_elements, element_SubstratePlastic, 1), &SubstratePlasticType::k_class, nullptr, {}},
-    {item_kind::alternative, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:SubstrateWood", element_SubstrateWood,
-     0, k_no_flag, position_of(k_sg_Substrate_elements, element_SubstrateWood), position_of(k_sg_Substrate_elements, element_SubstrateWood, 1), &SubstrateWoodType::k_class, nullptr, {}},
-    {item_kind::alternative, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:SubstrateVinyl", element_SubstrateVinyl,
-     0, k_no_flag, position_of(k_sg_Substrate_elements, element_SubstrateVinyl), position_of(k_sg_Substrate_elements, element_SubstrateVinyl, 1), &SubstrateVinylType::k_class, nullptr, {}},
-    {item_kind::alternative, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:SubstrateTile", element_SubstrateTile,
-     0, k_no_flag, position_of(k_sg_Substrate_elements, element_SubstrateTile), position_of(k_sg_Substrate_elements, element_SubstrateTile, 1), &SubstrateTileType::k_class, nullptr, {}},
-    {item_kind::alternative, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:SubstrateFilm", element_SubstrateFilm,
-     0, k_no_flag, position_of(k_sg_Substrate_elements, element_SubstrateFilm), position_of(k_sg_Substrate_elements, element_SubstrateFilm, 1), &SubstrateFilmType::k_class, nullptr, {}},
-    {item_kind::alternative, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:SubstrateTextile", element_SubstrateTextile,
-     0, k_no_flag, position_of(k_sg_Substrate_elements, element_SubstrateTextile), position_of(k_sg_Substrate_elements, element_SubstrateTextile, 1), &SubstrateTextileType::k_class, nullptr, {}},
+    {item_kind::alternative, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:SubstratePaper", element_SubstratePaper, 0, k_no_flag, position_of(k_sg_Substrate_elements, element_SubstratePaper), 1, &SubstratePaperType::k_class},
+    {item_kind::alternative, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:SubstrateGeneric", element_SubstrateGeneric, 0, k_no_flag, position_of(k_sg_Substrate_elements, element_SubstrateGeneric), 1, &SubstrateGenericType::k_class},
+    {item_kind::alternative, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:SubstrateMetal", element_SubstrateMetal, 0, k_no_flag, position_of(k_sg_Substrate_elements, element_SubstrateMetal), 1, &SubstrateMetalType::k_class},
+    {item_kind::alternative, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:SubstratePlastic", element_SubstratePlastic, 0, k_no_flag, position_of(k_sg_Substrate_elements, element_SubstratePlastic), 1, &SubstratePlasticType::k_class},
+    {item_kind::alternative, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:SubstrateWood", element_SubstrateWood, 0, k_no_flag, position_of(k_sg_Substrate_elements, element_SubstrateWood), 1, &SubstrateWoodType::k_class},
+    {item_kind::alternative, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:SubstrateVinyl", element_SubstrateVinyl, 0, k_no_flag, position_of(k_sg_Substrate_elements, element_SubstrateVinyl), 1, &SubstrateVinylType::k_class},
+    {item_kind::alternative, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:SubstrateTile", element_SubstrateTile, 0, k_no_flag, position_of(k_sg_Substrate_elements, element_SubstrateTile), 1, &SubstrateTileType::k_class},
+    {item_kind::alternative, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:SubstrateFilm", element_SubstrateFilm, 0, k_no_flag, position_of(k_sg_Substrate_elements, element_SubstrateFilm), 1, &SubstrateFilmType::k_class},
+    {item_kind::alternative, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:SubstrateTextile", element_SubstrateTextile, 0, k_no_flag, position_of(k_sg_Substrate_elements, element_SubstrateTextile), 1, &SubstrateTextileType::k_class},
 };
 constinit const s_class sg_Substrate::k_class = {
     .name = "sg_Substrate",
     .qualified_name = "sg_Substrate",
     .content = content_kind::group,
     .choice = LMX_CHOICE(sg_Substrate, m_choice),
-    .elements = std::span(k_items).subspan(std::size(k_no_events) - 1),
-    .attribute_map = k_no_events,
+    .elements = k_items,
     .element_map = k_sg_Substrate_elements,
     .operations = &k_operations<sg_Substrate>,
 };
@@ -280,27 +235,21 @@ SubstrateTextileType& sg_Substrate::assign_SubstrateTextile(const SubstrateTexti
 
 // sg_Sample
 
-namespace {
 constexpr s_event_map k_sg_Sample_elements[] = {
     element_event("SampleSpot", element_SampleSpot),
     element_event("SampleTarget", element_SampleTarget),
     k_end_of_map,
 };
-}  // namespace
-
 constinit const s_item sg_Sample::k_items[] = {
-    {item_kind::alternative, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:SampleSpot", element_SampleSpot,
-     0, k_no_flag, position_of(k_sg_Sample_elements, element_SampleSpot), position_of(k_sg_Sample_elements, element_SampleSpot, 1), &SampleSpotType::k_class, nullptr, {}},
-    {item_kind::alternative, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:SampleTarget", element_SampleTarget,
-     0, k_no_flag, position_of(k_sg_Sample_elements, element_SampleTarget), position_of(k_sg_Sample_elements, element_SampleTarget, 1), &SampleTargetType::k_class, nullptr, {}},
+    {item_kind::alternative, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:SampleSpot", element_SampleSpot, 0, k_no_flag, position_of(k_sg_Sample_elements, element_SampleSpot), 1, &SampleSpotType::k_class},
+    {item_kind::alternative, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:SampleTarget", element_SampleTarget, 0, k_no_flag, position_of(k_sg_Sample_elements, element_SampleTarget), 1, &SampleTargetType::k_class},
 };
 constinit const s_class sg_Sample::k_class = {
     .name = "sg_Sample",
     .qualified_name = "sg_Sample",
     .content = content_kind::group,
     .choice = LMX_CHOICE(sg_Sample, m_choice),
-    .elements = std::span(k_items).subspan(std::size(k_no_events) - 1),
-    .attribute_map = k_no_events,
+    .elements = k_items,
     .element_map = k_sg_Sample_elements,
     .operations = &k_operations<sg_Sample>,
 };
@@ -322,7 +271,6 @@ SampleTargetType& sg_Sample::assign_SampleTarget(const SampleTargetType& value) 
 
 // sg_Function
 
-namespace {
 constexpr s_event_map k_sg_Function_elements[] = {
     element_event("Function", element_Function),
     element_event("FunctionGeneric", element_FunctionGeneric),
@@ -344,53 +292,32 @@ constexpr s_event_map k_sg_Function_elements[] = {
     element_event("FunctionAverageStdDevB", element_FunctionAverageStdDevB),
     k_end_of_map,
 };
-}  // namespace
-
 constinit const s_item sg_Function::k_items[] = {
-    {item_kind::alternative, value_kind::none, use_demanded, ELMX_WS_PRESERVE, "Vyr:Function", element_Function,
-     0, k_no_flag, position_of(k_sg_Function_elements, element_Function), position_of(k_sg_Function_elements, element_Function, 1), &FunctionType::k_class, nullptr, FunctionType::k_factory},
-    {item_kind::alternative, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:FunctionGeneric", element_FunctionGeneric,
-     0, k_no_flag, position_of(k_sg_Function_elements, element_FunctionGeneric), position_of(k_sg_Function_elements, element_FunctionGeneric, 1), &FunctionGenericType::k_class, nullptr, {}},
-    {item_kind::alternative, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:FunctionDE", element_FunctionDE,
-     0, k_no_flag, position_of(k_sg_Function_elements, element_FunctionDE), position_of(k_sg_Function_elements, element_FunctionDE, 1), &FunctionDEType::k_class, nullptr, {}},
-    {item_kind::alternative, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:FunctionMeanDE", element_FunctionMeanDE,
-     0, k_no_flag, position_of(k_sg_Function_elements, element_FunctionMeanDE), position_of(k_sg_Function_elements, element_FunctionMeanDE, 1), &FunctionMeanDEType::k_class, nullptr, {}},
-    {item_kind::alternative, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:FunctionDE94", element_FunctionDE94,
-     0, k_no_flag, position_of(k_sg_Function_elements, element_FunctionDE94), position_of(k_sg_Function_elements, element_FunctionDE94, 1), &FunctionDE94Type::k_class, nullptr, {}},
-    {item_kind::alternative, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:FunctionDE2000", element_FunctionDE2000,
-     0, k_no_flag, position_of(k_sg_Function_elements, element_FunctionDE2000), position_of(k_sg_Function_elements, element_FunctionDE2000, 1), &FunctionDE2000Type::k_class, nullptr, {}},
-    {item_kind::alternative, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:FunctionDECMC", element_FunctionDECMC,
-     0, k_no_flag, position_of(k_sg_Function_elements, element_FunctionDECMC), position_of(k_sg_Function_elements, element_FunctionDECMC, 1), &FunctionDEcmcType::k_class, nullptr, {}},
-    {item_kind::alternative, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:FunctionStdDevX", element_FunctionStdDevX,
-     0, k_no_flag, position_of(k_sg_Function_elements, element_FunctionStdDevX), position_of(k_sg_Function_elements, element_FunctionStdDevX, 1), &FunctionStdDevXType::k_class, nullptr, {}},
-    {item_kind::alternative, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:FunctionStdDevY", element_FunctionStdDevY,
-     0, k_no_flag, position_of(k_sg_Function_elements, element_FunctionStdDevY), position_of(k_sg_Function_elements, element_FunctionStdDevY, 1), &FunctionStdDevYType::k_class, nullptr, {}},
-    {item_kind::alternative, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:FunctionStdDevZ", element_FunctionStdDevZ,
-     0, k_no_flag, position_of(k_sg_Function_elements, element_FunctionStdDevZ), position_of(k_sg_Function_elements, element_FunctionStdDevZ, 1), &FunctionStdDevZType::k_class, nullptr, {}},
-    {item_kind::alternative, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:FunctionStdDevL", element_FunctionStdDevL,
-     0, k_no_flag, position_of(k_sg_Function_elements, element_FunctionStdDevL), position_of(k_sg_Function_elements, element_FunctionStdDevL, 1), &FunctionStdDevLType::k_class, nullptr, {}},
-    {item_kind::alternative, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:FunctionStdDevA", element_FunctionStdDevA,
-     0, k_no_flag, position_of(k_sg_Function_elements, element_FunctionStdDevA), position_of(k_sg_Function_elements, element_FunctionStdDevA, 1), &FunctionStdDevAType::k_class, nullptr, {}},
-    {item_kind::alternative, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:FunctionStdDevB", element_FunctionStdDevB,
-     0, k_no_flag, position_of(k_sg_Function_elements, element_FunctionStdDevB), position_of(k_sg_Function_elements, element_FunctionStdDevB, 1), &FunctionStdDevBType::k_class, nullptr, {}},
-    {item_kind::alternative, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:FunctionStdDevC", element_FunctionStdDevC,
-     0, k_no_flag, position_of(k_sg_Function_elements, element_FunctionStdDevC), position_of(k_sg_Function_elements, element_FunctionStdDevC, 1), &FunctionStdDevCType::k_class, nullptr, {}},
-    {item_kind::alternative, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:FunctionStdDevH", element_FunctionStdDevH,
-     0, k_no_flag, position_of(k_sg_Function_elements, element_FunctionStdDevH), position_of(k_sg_Function_elements, element_FunctionStdDevH, 1), &FunctionStdDevHType::k_class, nullptr, {}},
-    {item_kind::alternative, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:FunctionAverageStdDevL", element_FunctionAverageStdDevL,
-     0, k_no_flag, position_of(k_sg_Function_elements, element_FunctionAverageStdDevL), position_of(k_sg_Function_elements, element_FunctionAverageStdDevL, 1), &FunctionAverageStdDevLType::k_class, nullptr, {}},
-    {item_kind::alternative, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:FunctionAverageStdDevA", element_FunctionAverageStdDevA,
-     0, k_no_flag, position_of(k_sg_Function_elements, element_FunctionAverageStdDevA), position_of(k_sg_Function_elements, element_FunctionAverageStdDevA, 1), &FunctionAverageStdDevAType::k_class, nullptr, {}},
-    {item_kind::alternative, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:FunctionAverageStdDevB", element_FunctionAverageStdDevB,
-     0, k_no_flag, position_of(k_sg_Function_elements, element_FunctionAverageStdDevB), position_of(k_sg_Function_elements, element_FunctionAverageStdDevB, 1), &FunctionAverageStdDevBType::k_class, nullptr, {}},
+    {item_kind::alternative, value_kind::none, use_demanded, ELMX_WS_PRESERVE, "Vyr:Function", element_Function, 0, k_no_flag, position_of(k_sg_Function_elements, element_Function), 1, &FunctionType::k_class, nullptr, FunctionType::k_factory},
+    {item_kind::alternative, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:FunctionGeneric", element_FunctionGeneric, 0, k_no_flag, position_of(k_sg_Function_elements, element_FunctionGeneric), 1, &FunctionGenericType::k_class},
+    {item_kind::alternative, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:FunctionDE", element_FunctionDE, 0, k_no_flag, position_of(k_sg_Function_elements, element_FunctionDE), 1, &FunctionDEType::k_class},
+    {item_kind::alternative, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:FunctionMeanDE", element_FunctionMeanDE, 0, k_no_flag, position_of(k_sg_Function_elements, element_FunctionMeanDE), 1, &FunctionMeanDEType::k_class},
+    {item_kind::alternative, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:FunctionDE94", element_FunctionDE94, 0, k_no_flag, position_of(k_sg_Function_elements, element_FunctionDE94), 1, &FunctionDE94Type::k_class},
+    {item_kind::alternative, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:FunctionDE2000", element_FunctionDE2000, 0, k_no_flag, position_of(k_sg_Function_elements, element_FunctionDE2000), 1, &FunctionDE2000Type::k_class},
+    {item_kind::alternative, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:FunctionDECMC", element_FunctionDECMC, 0, k_no_flag, position_of(k_sg_Function_elements, element_FunctionDECMC), 1, &FunctionDEcmcType::k_class},
+    {item_kind::alternative, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:FunctionStdDevX", element_FunctionStdDevX, 0, k_no_flag, position_of(k_sg_Function_elements, element_FunctionStdDevX), 1, &FunctionStdDevXType::k_class},
+    {item_kind::alternative, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:FunctionStdDevY", element_FunctionStdDevY, 0, k_no_flag, position_of(k_sg_Function_elements, element_FunctionStdDevY), 1, &FunctionStdDevYType::k_class},
+    {item_kind::alternative, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:FunctionStdDevZ", element_FunctionStdDevZ, 0, k_no_flag, position_of(k_sg_Function_elements, element_FunctionStdDevZ), 1, &FunctionStdDevZType::k_class},
+    {item_kind::alternative, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:FunctionStdDevL", element_FunctionStdDevL, 0, k_no_flag, position_of(k_sg_Function_elements, element_FunctionStdDevL), 1, &FunctionStdDevLType::k_class},
+    {item_kind::alternative, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:FunctionStdDevA", element_FunctionStdDevA, 0, k_no_flag, position_of(k_sg_Function_elements, element_FunctionStdDevA), 1, &FunctionStdDevAType::k_class},
+    {item_kind::alternative, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:FunctionStdDevB", element_FunctionStdDevB, 0, k_no_flag, position_of(k_sg_Function_elements, element_FunctionStdDevB), 1, &FunctionStdDevBType::k_class},
+    {item_kind::alternative, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:FunctionStdDevC", element_FunctionStdDevC, 0, k_no_flag, position_of(k_sg_Function_elements, element_FunctionStdDevC), 1, &FunctionStdDevCType::k_class},
+    {item_kind::alternative, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:FunctionStdDevH", element_FunctionStdDevH, 0, k_no_flag, position_of(k_sg_Function_elements, element_FunctionStdDevH), 1, &FunctionStdDevHType::k_class},
+    {item_kind::alternative, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:FunctionAverageStdDevL", element_FunctionAverageStdDevL, 0, k_no_flag, position_of(k_sg_Function_elements, element_FunctionAverageStdDevL), 1, &FunctionAverageStdDevLType::k_class},
+    {item_kind::alternative, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:FunctionAverageStdDevA", element_FunctionAverageStdDevA, 0, k_no_flag, position_of(k_sg_Function_elements, element_FunctionAverageStdDevA), 1, &FunctionAverageStdDevAType::k_class},
+    {item_kind::alternative, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:FunctionAverageStdDevB", element_FunctionAverageStdDevB, 0, k_no_flag, position_of(k_sg_Function_elements, element_FunctionAverageStdDevB), 1, &FunctionAverageStdDevBType::k_class},
 };
 constinit const s_class sg_Function::k_class = {
     .name = "sg_Function",
     .qualified_name = "sg_Function",
     .content = content_kind::group,
     .choice = LMX_CHOICE(sg_Function, m_choice),
-    .elements = std::span(k_items).subspan(std::size(k_no_events) - 1),
-    .attribute_map = k_no_events,
+    .elements = k_items,
     .element_map = k_sg_Function_elements,
     .operations = &k_operations<sg_Function>,
 };

@@ -39,6 +39,7 @@ public:
     void reset();
     bool is_occurs_ok() const;
     elmx_chosen getchosen() const { return static_cast<elmx_chosen>(m_choice.chosen); }
+    static const lmx::s_class k_class;
 
     /// A colour by the colorants that give it.
     ColorSpaceRecipeType& get_ColorSpaceRecipe();
@@ -183,8 +184,6 @@ public:
     const ColorSpaceMunsellType& get_ColorSpaceMunsell() const { return *static_cast<const ColorSpaceMunsellType*>(m_choice.object); }
     ColorSpaceMunsellType& assign_ColorSpaceMunsell(const ColorSpaceMunsellType& value);
 
-    static const lmx::s_class k_class;
-
 protected:
     void marshal_attributes(lmx::c_xml_writer& writer) const { lmx::marshal_attributes(k_class, this, writer); }
     lmx::elmx_error marshal_child_elements(lmx::c_xml_writer& writer) const { return lmx::marshal_child_elements(k_class, this, writer); }
@@ -242,6 +241,7 @@ public:
     void reset();
     bool is_occurs_ok() const;
     elmx_chosen getchosen() const { return static_cast<elmx_chosen>(m_choice.chosen); }
+    static const lmx::s_class k_class;
 
     /// Paper or board.
     SubstratePaperType& get_SubstratePaper();
@@ -288,8 +288,6 @@ public:
     const SubstrateTextileType& get_SubstrateTextile() const { return *static_cast<const SubstrateTextileType*>(m_choice.object); }
     SubstrateTextileType& assign_SubstrateTextile(const SubstrateTextileType& value);
 
-    static const lmx::s_class k_class;
-
 protected:
     void marshal_attributes(lmx::c_xml_writer& writer) const { lmx::marshal_attributes(k_class, this, writer); }
     lmx::elmx_error marshal_child_elements(lmx::c_xml_writer& writer) const { return lmx::marshal_child_elements(k_class, this, writer); }
@@ -328,6 +326,7 @@ public:
     void reset();
     bool is_occurs_ok() const;
     elmx_chosen getchosen() const { return static_cast<elmx_chosen>(m_choice.chosen); }
+    static const lmx::s_class k_class;
 
     /// A single patch of one colour.
     SampleSpotType& get_SampleSpot();
@@ -338,8 +337,6 @@ public:
     SampleTargetType& get_SampleTarget();
     const SampleTargetType& get_SampleTarget() const { return *static_cast<const SampleTargetType*>(m_choice.object); }
     SampleTargetType& assign_SampleTarget(const SampleTargetType& value);
-
-    static const lmx::s_class k_class;
 
 protected:
     void marshal_attributes(lmx::c_xml_writer& writer) const { lmx::marshal_attributes(k_class, this, writer); }
@@ -372,6 +369,7 @@ public:
     void reset();
     bool is_occurs_ok() const;
     elmx_chosen getchosen() const { return static_cast<elmx_chosen>(m_choice.chosen); }
+    static const lmx::s_class k_class;
 
     /// Any function, told by xsi:type; head of the functions, any of which can stand in its place.
     FunctionType& get_Function();
@@ -465,8 +463,6 @@ public:
     FunctionAverageStdDevBType& get_FunctionAverageStdDevB();
     const FunctionAverageStdDevBType& get_FunctionAverageStdDevB() const { return *static_cast<const FunctionAverageStdDevBType*>(m_choice.object); }
     FunctionAverageStdDevBType& assign_FunctionAverageStdDevB(const FunctionAverageStdDevBType& value);
-
-    static const lmx::s_class k_class;
 
 protected:
     void marshal_attributes(lmx::c_xml_writer& writer) const { lmx::marshal_attributes(k_class, this, writer); }

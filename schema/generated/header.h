@@ -34,6 +34,7 @@ public:
     void swap(SDKVersion& other);
     void reset();
     bool is_occurs_ok() const;
+    static const lmx::s_class k_class;
 
     /// Version of the library, or nil where it is unknown.
     const std::u16string& get_SDKVersion() const { return m_SDKVersion; }
@@ -42,8 +43,6 @@ public:
     /// The `xsi:nil` state: an element without a value.
     bool isnil_SDKVersion() const { return m_isnil; }
     void setnil_SDKVersion() { m_isnil = true; }
-
-    static const lmx::s_class k_class;
 
 protected:
     void marshal_attributes(lmx::c_xml_writer& writer) const { lmx::marshal_attributes(k_class, this, writer); }
@@ -74,6 +73,7 @@ public:
     void swap(SDKType& other);
     void reset();
     bool is_occurs_ok() const;
+    static const lmx::s_class k_class;
 
     /// Name of the library.
     const std::u16string& get_SDKName() const { return m_SDKName; }
@@ -83,8 +83,6 @@ public:
     SDKVersion& get_SDKVersion() { m_isset_SDKVersion = true; return m_SDKVersion; }
     const SDKVersion& get_SDKVersion() const { return m_SDKVersion; }
     SDKVersion& assign_SDKVersion(const SDKVersion& value);
-
-    static const lmx::s_class k_class;
 
 protected:
     void marshal_attributes(lmx::c_xml_writer& writer) const { lmx::marshal_attributes(k_class, this, writer); }
@@ -117,6 +115,7 @@ public:
     void swap(PlatformType& other);
     void reset();
     bool is_occurs_ok() const;
+    static const lmx::s_class k_class;
 
     /// Name of the operating system.
     const std::u16string& get_OperatingSystem() const { return m_OperatingSystem; }
@@ -125,8 +124,6 @@ public:
     /// Version of the operating system.
     const std::u16string& get_OperatingSystemVersion() const { return m_OperatingSystemVersion; }
     lmx::elmx_error set_OperatingSystemVersion(const std::u16string& value);
-
-    static const lmx::s_class k_class;
 
 protected:
     void marshal_attributes(lmx::c_xml_writer& writer) const { lmx::marshal_attributes(k_class, this, writer); }
@@ -159,6 +156,7 @@ public:
     void swap(Header& other);
     void reset();
     bool is_occurs_ok() const;
+    static const lmx::s_class k_class;
 
     /// A named value of the user's own.
     std::size_t size_CustomAttribute() const { return m_CustomAttribute.size(); }
@@ -243,8 +241,6 @@ public:
     void delete_Revision(std::size_t index);
     void clear_Revision();
 
-    static const lmx::s_class k_class;
-
 protected:
     void marshal_attributes(lmx::c_xml_writer& writer) const { lmx::marshal_attributes(k_class, this, writer); }
     lmx::elmx_error marshal_child_elements(lmx::c_xml_writer& writer) const { return lmx::marshal_child_elements(k_class, this, writer); }
@@ -303,6 +299,7 @@ public:
     void swap(OwnerType& other);
     void reset();
     bool is_occurs_ok() const;
+    static const lmx::s_class k_class;
 
     /// A named value of the user's own.
     std::size_t size_CustomAttribute() const { return m_CustomAttribute.size(); }
@@ -344,8 +341,6 @@ public:
     void delete_Company(std::size_t index);
     void clear_Company();
 
-    static const lmx::s_class k_class;
-
 protected:
     void marshal_attributes(lmx::c_xml_writer& writer) const { lmx::marshal_attributes(k_class, this, writer); }
     lmx::elmx_error marshal_child_elements(lmx::c_xml_writer& writer) const { return lmx::marshal_child_elements(k_class, this, writer); }
@@ -379,6 +374,7 @@ public:
     void swap(Version& other);
     void reset();
     bool is_occurs_ok() const;
+    static const lmx::s_class k_class;
 
     /// A named value of the user's own.
     std::size_t size_CustomAttribute() const { return m_CustomAttribute.size(); }
@@ -403,8 +399,6 @@ public:
     lmx::elmx_error insert_Predecessor(std::size_t index, const std::u16string& value);
     void delete_Predecessor(std::size_t index);
     void clear_Predecessor();
-
-    static const lmx::s_class k_class;
 
 protected:
     void marshal_attributes(lmx::c_xml_writer& writer) const { lmx::marshal_attributes(k_class, this, writer); }
@@ -438,6 +432,7 @@ public:
     void swap(Preamble& other);
     void reset();
     bool is_occurs_ok() const;
+    static const lmx::s_class k_class;
 
     /// Provenance of the document.
     Header& get_Header() { m_isset_Header = true; return m_Header; }
@@ -458,8 +453,6 @@ public:
     bool isset_Version() const { return m_isset_Version; }
     void unset_Version() { m_isset_Version = false; }
 
-    static const lmx::s_class k_class;
-
 protected:
     void marshal_attributes(lmx::c_xml_writer& writer) const { lmx::marshal_attributes(k_class, this, writer); }
     lmx::elmx_error marshal_child_elements(lmx::c_xml_writer& writer) const { return lmx::marshal_child_elements(k_class, this, writer); }
@@ -468,11 +461,6 @@ protected:
     bool unmarshal_body(lmx::c_xml_reader& reader, std::string* name, lmx::elmx_error* error) { return lmx::unmarshal_body(k_class, this, reader, name, error); }
 
 private:
-    enum item : std::size_t {
-        item_Header,
-        item_Owner,
-        item_Version,
-    };
     static const lmx::s_item k_items[];
     Header m_Header;
     lmx::c_optional_child<OwnerType> m_Owner;
@@ -507,6 +495,7 @@ public:
     void swap(Vyr& other);
     void reset();
     bool is_occurs_ok() const;
+    static const lmx::s_class k_class;
 
     /// Where the document comes from; the only part that every document has.
     Preamble& get_Preamble() { m_isset_Preamble = true; return m_Preamble; }
@@ -570,8 +559,6 @@ public:
     /// The same with the path in UTF-8; what is none gives `ELMX_NO_FILE`.
     lmx::elmx_error writeFile(const std::string& path) const;
 
-    static const lmx::s_class k_class;
-
 protected:
     void marshal_attributes(lmx::c_xml_writer& writer) const { lmx::marshal_attributes(k_class, this, writer); }
     lmx::elmx_error marshal_child_elements(lmx::c_xml_writer& writer) const { return lmx::marshal_child_elements(k_class, this, writer); }
@@ -582,12 +569,6 @@ protected:
 private:
     /// Stamps the library's identity as `ReadSDKInformation` of the header.
     void init();
-    enum item : std::size_t {
-        item_Preamble,
-        item_Color,
-        item_Palette,
-        item_ColorQualityControl,
-    };
     static const lmx::s_item k_items[];
     mutable Preamble m_Preamble;
     lmx::c_list<ColorType> m_Color;
@@ -608,6 +589,7 @@ public:
     void swap(Revision& other);
     void reset();
     bool is_occurs_ok() const;
+    static const lmx::s_class k_class;
 
     /// One element with its tags, verbatim.
     std::size_t size_any() const { return m_any.size(); }
@@ -617,8 +599,6 @@ public:
     void delete_any(std::size_t index);
     void clear_any();
 
-    static const lmx::s_class k_class;
-
 protected:
     void marshal_attributes(lmx::c_xml_writer& writer) const { lmx::marshal_attributes(k_class, this, writer); }
     lmx::elmx_error marshal_child_elements(lmx::c_xml_writer& writer) const { return lmx::marshal_child_elements(k_class, this, writer); }
@@ -627,9 +607,6 @@ protected:
     bool unmarshal_body(lmx::c_xml_reader& reader, std::string* name, lmx::elmx_error* error) { return lmx::unmarshal_body(k_class, this, reader, name, error); }
 
 private:
-    enum item : std::size_t {
-        item_any,
-    };
     static const lmx::s_item k_items[];
     lmx::c_list<lmx::c_any_info> m_any;
 };
@@ -646,6 +623,7 @@ public:
     void swap(Person& other);
     void reset();
     bool is_occurs_ok() const;
+    static const lmx::s_class k_class;
 
     /// The person's name.
     const std::u16string& get_Name() const { return m_Name; }
@@ -656,8 +634,6 @@ public:
     lmx::elmx_error set_ContactInfo(const std::u16string& value);
     bool isset_ContactInfo() const { return m_isset_ContactInfo; }
     void unset_ContactInfo() { m_isset_ContactInfo = false; }
-
-    static const lmx::s_class k_class;
 
 protected:
     void marshal_attributes(lmx::c_xml_writer& writer) const { lmx::marshal_attributes(k_class, this, writer); }
@@ -694,6 +670,7 @@ public:
     void reset();
     bool is_occurs_ok() const;
     elmx_chosen getchosen() const { return static_cast<elmx_chosen>(m_choice.chosen); }
+    static const lmx::s_class k_class;
 
     /// The value as a floating-point number.
     double get_DoubleValue() const { return m_choice.chosen == e_DoubleValue ? m_choice.number : 0; }
@@ -706,8 +683,6 @@ public:
     /// The value as a text.
     const std::u16string& get_StringValue() const;
     lmx::elmx_error set_StringValue(const std::u16string& value);
-
-    static const lmx::s_class k_class;
 
 protected:
     void marshal_attributes(lmx::c_xml_writer& writer) const { lmx::marshal_attributes(k_class, this, writer); }
@@ -738,6 +713,7 @@ public:
     void swap(CustomAttributeType& other);
     void reset();
     bool is_occurs_ok() const;
+    static const lmx::s_class k_class;
 
     /// Name of the attribute; not empty.
     const std::u16string& get_Name() const { return m_Name; }
@@ -747,8 +723,6 @@ public:
     CustomAttributeType_ValueChoice& get_ValueChoice() { m_isset_ValueChoice = true; return m_ValueChoice; }
     const CustomAttributeType_ValueChoice& get_ValueChoice() const { return m_ValueChoice; }
     CustomAttributeType_ValueChoice& assign_ValueChoice(const CustomAttributeType_ValueChoice& value);
-
-    static const lmx::s_class k_class;
 
 protected:
     void marshal_attributes(lmx::c_xml_writer& writer) const { lmx::marshal_attributes(k_class, this, writer); }
@@ -781,6 +755,7 @@ public:
     void swap(TagCategory& other);
     void reset();
     bool is_occurs_ok() const;
+    static const lmx::s_class k_class;
 
     /// Identifier of the category, unique among categories.
     const std::u16string& get_UniqueID() const { return m_UniqueID; }
@@ -793,8 +768,6 @@ public:
     lmx::elmx_error set_Name(const std::u16string& value);
     bool isset_Name() const { return m_isset_Name; }
     void unset_Name() { m_isset_Name = false; }
-
-    static const lmx::s_class k_class;
 
 protected:
     void marshal_attributes(lmx::c_xml_writer& writer) const { lmx::marshal_attributes(k_class, this, writer); }
@@ -827,6 +800,7 @@ public:
     void swap(Tag& other);
     void reset();
     bool is_occurs_ok() const;
+    static const lmx::s_class k_class;
 
     /// Name of the tag.
     const std::u16string& get_Name() const { return m_Name; }
@@ -844,8 +818,6 @@ public:
     TagCategory& get_Category() { m_isset_Category = true; return m_Category; }
     const TagCategory& get_Category() const { return m_Category; }
     TagCategory& assign_Category(const TagCategory& value);
-
-    static const lmx::s_class k_class;
 
 protected:
     void marshal_attributes(lmx::c_xml_writer& writer) const { lmx::marshal_attributes(k_class, this, writer); }
@@ -887,6 +859,7 @@ public:
     void reset();
     bool is_occurs_ok() const;
     elmx_chosen getchosen() const { return static_cast<elmx_chosen>(m_choice.chosen); }
+    static const lmx::s_class k_class;
 
     /// The value as a text.
     const std::u16string& get_TextValue() const;
@@ -895,8 +868,6 @@ public:
     /// The value as a number.
     double get_NumberValue() const { return m_choice.chosen == e_NumberValue ? m_choice.number : 0; }
     lmx::elmx_error set_NumberValue(double value);
-
-    static const lmx::s_class k_class;
 
 protected:
     void marshal_attributes(lmx::c_xml_writer& writer) const { lmx::marshal_attributes(k_class, this, writer); }
@@ -923,6 +894,7 @@ public:
     void swap(TagValue& other);
     void reset();
     bool is_occurs_ok() const;
+    static const lmx::s_class k_class;
 
     /// Identifier of this value.
     const std::u16string& get_UniqueID() const { return m_UniqueID; }
@@ -939,8 +911,6 @@ public:
     anon_TextValue& get_anon_TextValue() { m_isset_anon_TextValue = true; return m_anon_TextValue; }
     const anon_TextValue& get_anon_TextValue() const { return m_anon_TextValue; }
     anon_TextValue& assign_anon_TextValue(const anon_TextValue& value);
-
-    static const lmx::s_class k_class;
 
 protected:
     void marshal_attributes(lmx::c_xml_writer& writer) const { lmx::marshal_attributes(k_class, this, writer); }

@@ -21,11 +21,10 @@ namespace com_vyrgraph_v2 {
 
 using namespace lmx;  // for the tables' sake
 
-static_assert(k_binding_version == 4, "run schema/generator/generate.py");
+static_assert(k_binding_version == 5, "run schema/generator/generate.py");
 
 // CollectionColorSpaceSpecificationType
 
-namespace {
 constexpr s_event_map k_CollectionColorSpaceSpecificationType_elements[] = {
     element_event("ColorSpaceSpecificationSpectrumGeneric", element_ColorSpaceSpecificationSpectrumGeneric),
     element_event("ColorSpaceSpecificationSpectrumSpectral", element_ColorSpaceSpecificationSpectrumSpectral),
@@ -35,21 +34,13 @@ constexpr s_event_map k_CollectionColorSpaceSpecificationType_elements[] = {
     element_event("ColorSpaceSpecificationEmissiveTristimulus", element_ColorSpaceSpecificationEmissiveTristimulus),
     k_end_of_map,
 };
-}  // namespace
-
 constinit const s_item CollectionColorSpaceSpecificationType::k_items[] = {
-    {item_kind::optional_child, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:ColorSpaceSpecificationSpectrumGeneric", element_ColorSpaceSpecificationSpectrumGeneric,
-     LMX_OFFSET(CollectionColorSpaceSpecificationType, m_ColorSpaceSpecificationSpectrumGeneric, optional_child, none), LMX_FLAG(CollectionColorSpaceSpecificationType, m_isset_ColorSpaceSpecificationSpectrumGeneric), position_of(k_CollectionColorSpaceSpecificationType_elements, element_ColorSpaceSpecificationSpectrumGeneric), position_of(k_CollectionColorSpaceSpecificationType_elements, element_ColorSpaceSpecificationSpectrumGeneric, 1), &ColorSpaceSpecificationSpectrumGeneric::k_class, nullptr, {}},
-    {item_kind::optional_child, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:ColorSpaceSpecificationSpectrumSpectral", element_ColorSpaceSpecificationSpectrumSpectral,
-     LMX_OFFSET(CollectionColorSpaceSpecificationType, m_ColorSpaceSpecificationSpectrumSpectral, optional_child, none), LMX_FLAG(CollectionColorSpaceSpecificationType, m_isset_ColorSpaceSpecificationSpectrumSpectral), position_of(k_CollectionColorSpaceSpecificationType_elements, element_ColorSpaceSpecificationSpectrumSpectral), position_of(k_CollectionColorSpaceSpecificationType_elements, element_ColorSpaceSpecificationSpectrumSpectral, 1), &ColorSpaceSpecificationSpectrumSpectral::k_class, nullptr, {}},
-    {item_kind::optional_child, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:ColorSpaceSpecificationSpectrumTristimulus", element_ColorSpaceSpecificationSpectrumTristimulus,
-     LMX_OFFSET(CollectionColorSpaceSpecificationType, m_ColorSpaceSpecificationSpectrumTristimulus, optional_child, none), LMX_FLAG(CollectionColorSpaceSpecificationType, m_isset_ColorSpaceSpecificationSpectrumTristimulus), position_of(k_CollectionColorSpaceSpecificationType_elements, element_ColorSpaceSpecificationSpectrumTristimulus), position_of(k_CollectionColorSpaceSpecificationType_elements, element_ColorSpaceSpecificationSpectrumTristimulus, 1), &ColorSpaceSpecificationSpectrumTristimulus::k_class, nullptr, {}},
-    {item_kind::optional_child, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:ColorSpaceSpecificationEmissiveGeneric", element_ColorSpaceSpecificationEmissiveGeneric,
-     LMX_OFFSET(CollectionColorSpaceSpecificationType, m_ColorSpaceSpecificationEmissiveGeneric, optional_child, none), LMX_FLAG(CollectionColorSpaceSpecificationType, m_isset_ColorSpaceSpecificationEmissiveGeneric), position_of(k_CollectionColorSpaceSpecificationType_elements, element_ColorSpaceSpecificationEmissiveGeneric), position_of(k_CollectionColorSpaceSpecificationType_elements, element_ColorSpaceSpecificationEmissiveGeneric, 1), &ColorSpaceSpecificationEmissiveGeneric::k_class, nullptr, {}},
-    {item_kind::optional_child, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:ColorSpaceSpecificationEmissiveSpectral", element_ColorSpaceSpecificationEmissiveSpectral,
-     LMX_OFFSET(CollectionColorSpaceSpecificationType, m_ColorSpaceSpecificationEmissiveSpectral, optional_child, none), LMX_FLAG(CollectionColorSpaceSpecificationType, m_isset_ColorSpaceSpecificationEmissiveSpectral), position_of(k_CollectionColorSpaceSpecificationType_elements, element_ColorSpaceSpecificationEmissiveSpectral), position_of(k_CollectionColorSpaceSpecificationType_elements, element_ColorSpaceSpecificationEmissiveSpectral, 1), &ColorSpaceSpecificationEmissiveSpectral::k_class, nullptr, {}},
-    {item_kind::optional_child, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:ColorSpaceSpecificationEmissiveTristimulus", element_ColorSpaceSpecificationEmissiveTristimulus,
-     LMX_OFFSET(CollectionColorSpaceSpecificationType, m_ColorSpaceSpecificationEmissiveTristimulus, optional_child, none), LMX_FLAG(CollectionColorSpaceSpecificationType, m_isset_ColorSpaceSpecificationEmissiveTristimulus), position_of(k_CollectionColorSpaceSpecificationType_elements, element_ColorSpaceSpecificationEmissiveTristimulus), position_of(k_CollectionColorSpaceSpecificationType_elements, element_ColorSpaceSpecificationEmissiveTristimulus, 1), &ColorSpaceSpecificationEmissiveTristimulus::k_class, nullptr, {}},
+    {item_kind::optional_child, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:ColorSpaceSpecificationSpectrumGeneric", element_ColorSpaceSpecificationSpectrumGeneric, LMX_OFFSET(CollectionColorSpaceSpecificationType, m_ColorSpaceSpecificationSpectrumGeneric, optional_child, none), LMX_FLAG(CollectionColorSpaceSpecificationType, m_isset_ColorSpaceSpecificationSpectrumGeneric), position_of(k_CollectionColorSpaceSpecificationType_elements, element_ColorSpaceSpecificationSpectrumGeneric), 1, &ColorSpaceSpecificationSpectrumGeneric::k_class},
+    {item_kind::optional_child, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:ColorSpaceSpecificationSpectrumSpectral", element_ColorSpaceSpecificationSpectrumSpectral, LMX_OFFSET(CollectionColorSpaceSpecificationType, m_ColorSpaceSpecificationSpectrumSpectral, optional_child, none), LMX_FLAG(CollectionColorSpaceSpecificationType, m_isset_ColorSpaceSpecificationSpectrumSpectral), position_of(k_CollectionColorSpaceSpecificationType_elements, element_ColorSpaceSpecificationSpectrumSpectral), 1, &ColorSpaceSpecificationSpectrumSpectral::k_class},
+    {item_kind::optional_child, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:ColorSpaceSpecificationSpectrumTristimulus", element_ColorSpaceSpecificationSpectrumTristimulus, LMX_OFFSET(CollectionColorSpaceSpecificationType, m_ColorSpaceSpecificationSpectrumTristimulus, optional_child, none), LMX_FLAG(CollectionColorSpaceSpecificationType, m_isset_ColorSpaceSpecificationSpectrumTristimulus), position_of(k_CollectionColorSpaceSpecificationType_elements, element_ColorSpaceSpecificationSpectrumTristimulus), 1, &ColorSpaceSpecificationSpectrumTristimulus::k_class},
+    {item_kind::optional_child, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:ColorSpaceSpecificationEmissiveGeneric", element_ColorSpaceSpecificationEmissiveGeneric, LMX_OFFSET(CollectionColorSpaceSpecificationType, m_ColorSpaceSpecificationEmissiveGeneric, optional_child, none), LMX_FLAG(CollectionColorSpaceSpecificationType, m_isset_ColorSpaceSpecificationEmissiveGeneric), position_of(k_CollectionColorSpaceSpecificationType_elements, element_ColorSpaceSpecificationEmissiveGeneric), 1, &ColorSpaceSpecificationEmissiveGeneric::k_class},
+    {item_kind::optional_child, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:ColorSpaceSpecificationEmissiveSpectral", element_ColorSpaceSpecificationEmissiveSpectral, LMX_OFFSET(CollectionColorSpaceSpecificationType, m_ColorSpaceSpecificationEmissiveSpectral, optional_child, none), LMX_FLAG(CollectionColorSpaceSpecificationType, m_isset_ColorSpaceSpecificationEmissiveSpectral), position_of(k_CollectionColorSpaceSpecificationType_elements, element_ColorSpaceSpecificationEmissiveSpectral), 1, &ColorSpaceSpecificationEmissiveSpectral::k_class},
+    {item_kind::optional_child, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:ColorSpaceSpecificationEmissiveTristimulus", element_ColorSpaceSpecificationEmissiveTristimulus, LMX_OFFSET(CollectionColorSpaceSpecificationType, m_ColorSpaceSpecificationEmissiveTristimulus, optional_child, none), LMX_FLAG(CollectionColorSpaceSpecificationType, m_isset_ColorSpaceSpecificationEmissiveTristimulus), position_of(k_CollectionColorSpaceSpecificationType_elements, element_ColorSpaceSpecificationEmissiveTristimulus), 1, &ColorSpaceSpecificationEmissiveTristimulus::k_class},
 };
 constinit const s_class CollectionColorSpaceSpecificationType::k_class = {
     .name = "CollectionColorSpaceSpecificationType",
@@ -57,8 +48,7 @@ constinit const s_class CollectionColorSpaceSpecificationType::k_class = {
     .content = content_kind::children,
     .may_be_empty = true,
     .ns_map = k_ns_map,
-    .elements = std::span(k_items).subspan(std::size(k_no_events) - 1),
-    .attribute_map = k_no_events,
+    .elements = k_items,
     .element_map = k_CollectionColorSpaceSpecificationType_elements,
     .operations = &k_operations<CollectionColorSpaceSpecificationType>,
 };
@@ -93,7 +83,6 @@ ColorSpaceSpecificationEmissiveTristimulus& CollectionColorSpaceSpecificationTyp
 
 // PaletteType
 
-namespace {
 constexpr s_event_map k_PaletteType_attributes[] = {
     attribute_event("PaletteName", attribute_PaletteName),
     attribute_event("PalettePartNumber", attribute_PalettePartNumber),
@@ -111,31 +100,18 @@ constexpr s_event_map k_PaletteType_elements[] = {
     element_event("ColorSet", element_ColorSet),
     k_end_of_map,
 };
-}  // namespace
-
 constinit const s_item PaletteType::k_items[] = {
-    {item_kind::attribute, value_kind::text, use_required | use_name, ELMX_WS_PRESERVE, "PaletteName", attribute_PaletteName,
-     LMX_OFFSET(PaletteType, m_PaletteName, attribute, text), LMX_FLAG(PaletteType, m_isset_PaletteName), 0, 0, nullptr, nullptr, {}},
-    {item_kind::attribute, value_kind::text, use_optional, ELMX_WS_PRESERVE, "PalettePartNumber", attribute_PalettePartNumber,
-     LMX_OFFSET(PaletteType, m_PalettePartNumber, attribute, text), LMX_FLAG(PaletteType, m_isset_PalettePartNumber), 0, 0, nullptr, nullptr, {}},
-    {item_kind::attribute, value_kind::text, use_optional, ELMX_WS_PRESERVE, "PaletteVersion", attribute_PaletteVersion,
-     LMX_OFFSET(PaletteType, m_PaletteVersion, attribute, text), LMX_FLAG(PaletteType, m_isset_PaletteVersion), 0, 0, nullptr, nullptr, {}},
-    {item_kind::attribute, value_kind::text, use_optional, ELMX_WS_PRESERVE, "UniqueID", attribute_UniqueID,
-     LMX_OFFSET(PaletteType, m_UniqueID, attribute, text), LMX_FLAG(PaletteType, m_isset_UniqueID), 0, 0, nullptr, nullptr, {}},
-    {item_kind::attribute, value_kind::text, use_optional, ELMX_WS_PRESERVE, "Comments", attribute_Comments,
-     LMX_OFFSET(PaletteType, m_Comments, attribute, text), LMX_FLAG(PaletteType, m_isset_Comments), 0, 0, nullptr, nullptr, {}},
-    {item_kind::child_list, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:CustomAttribute", element_CustomAttribute,
-     LMX_OFFSET(PaletteType, m_CustomAttribute, child_list, none), k_no_flag, position_of(k_PaletteType_elements, element_CustomAttribute), position_of(k_PaletteType_elements, element_CustomAttribute, 1), &CustomAttributeType::k_class, nullptr, {}},
-    {item_kind::element_list, value_kind::datetime, use_demanded | use_asked, ELMX_WS_COLLAPSE, "Vyr:ChangeHistory", element_ChangeHistory,
-     LMX_OFFSET(PaletteType, m_ChangeHistory, element_list, datetime), k_no_flag, position_of(k_PaletteType_elements, element_ChangeHistory), position_of(k_PaletteType_elements, element_ChangeHistory, 1), nullptr, &facets::DateTimeZone, {}},
-    {item_kind::optional_child, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:Owner", element_Owner,
-     LMX_OFFSET(PaletteType, m_Owner, optional_child, none), LMX_FLAG(PaletteType, m_isset_Owner), position_of(k_PaletteType_elements, element_Owner), position_of(k_PaletteType_elements, element_Owner, 1), &OwnerType::k_class, nullptr, {}},
-    {item_kind::element_list, value_kind::text, use_optional, ELMX_WS_PRESERVE, "Vyr:SemanticAssociation", element_SemanticAssociation,
-     LMX_OFFSET(PaletteType, m_SemanticAssociation, element_list, text), k_no_flag, position_of(k_PaletteType_elements, element_SemanticAssociation), position_of(k_PaletteType_elements, element_SemanticAssociation, 1), nullptr, nullptr, {}},
-    {item_kind::optional_child, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:CollectionColorSpaceSpecification", element_CollectionColorSpaceSpecification,
-     LMX_OFFSET(PaletteType, m_CollectionColorSpaceSpecification, optional_child, none), LMX_FLAG(PaletteType, m_isset_CollectionColorSpaceSpecification), position_of(k_PaletteType_elements, element_CollectionColorSpaceSpecification), position_of(k_PaletteType_elements, element_CollectionColorSpaceSpecification, 1), &CollectionColorSpaceSpecificationType::k_class, nullptr, {}},
-    {item_kind::child_list, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:ColorSet", element_ColorSet,
-     LMX_OFFSET(PaletteType, m_ColorSet, child_list, none), k_no_flag, position_of(k_PaletteType_elements, element_ColorSet), position_of(k_PaletteType_elements, element_ColorSet, 1), &ColorSetType::k_class, nullptr, {}},
+    {item_kind::attribute, value_kind::text, use_required | use_name, ELMX_WS_PRESERVE, "PaletteName", attribute_PaletteName, LMX_OFFSET(PaletteType, m_PaletteName, attribute, text), LMX_FLAG(PaletteType, m_isset_PaletteName)},
+    {item_kind::attribute, value_kind::text, use_optional, ELMX_WS_PRESERVE, "PalettePartNumber", attribute_PalettePartNumber, LMX_OFFSET(PaletteType, m_PalettePartNumber, attribute, text), LMX_FLAG(PaletteType, m_isset_PalettePartNumber)},
+    {item_kind::attribute, value_kind::text, use_optional, ELMX_WS_PRESERVE, "PaletteVersion", attribute_PaletteVersion, LMX_OFFSET(PaletteType, m_PaletteVersion, attribute, text), LMX_FLAG(PaletteType, m_isset_PaletteVersion)},
+    {item_kind::attribute, value_kind::text, use_optional, ELMX_WS_PRESERVE, "UniqueID", attribute_UniqueID, LMX_OFFSET(PaletteType, m_UniqueID, attribute, text), LMX_FLAG(PaletteType, m_isset_UniqueID)},
+    {item_kind::attribute, value_kind::text, use_optional, ELMX_WS_PRESERVE, "Comments", attribute_Comments, LMX_OFFSET(PaletteType, m_Comments, attribute, text), LMX_FLAG(PaletteType, m_isset_Comments)},
+    {item_kind::child_list, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:CustomAttribute", element_CustomAttribute, LMX_OFFSET(PaletteType, m_CustomAttribute, child_list, none), k_no_flag, position_of(k_PaletteType_elements, element_CustomAttribute), 1, &CustomAttributeType::k_class},
+    {item_kind::element_list, value_kind::datetime, use_demanded | use_asked, ELMX_WS_COLLAPSE, "Vyr:ChangeHistory", element_ChangeHistory, LMX_OFFSET(PaletteType, m_ChangeHistory, element_list, datetime), k_no_flag, position_of(k_PaletteType_elements, element_ChangeHistory), 1, nullptr, &facets::DateTimeZone},
+    {item_kind::optional_child, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:Owner", element_Owner, LMX_OFFSET(PaletteType, m_Owner, optional_child, none), LMX_FLAG(PaletteType, m_isset_Owner), position_of(k_PaletteType_elements, element_Owner), 1, &OwnerType::k_class},
+    {item_kind::element_list, value_kind::text, use_optional, ELMX_WS_PRESERVE, "Vyr:SemanticAssociation", element_SemanticAssociation, LMX_OFFSET(PaletteType, m_SemanticAssociation, element_list, text), k_no_flag, position_of(k_PaletteType_elements, element_SemanticAssociation), 1},
+    {item_kind::optional_child, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:CollectionColorSpaceSpecification", element_CollectionColorSpaceSpecification, LMX_OFFSET(PaletteType, m_CollectionColorSpaceSpecification, optional_child, none), LMX_FLAG(PaletteType, m_isset_CollectionColorSpaceSpecification), position_of(k_PaletteType_elements, element_CollectionColorSpaceSpecification), 1, &CollectionColorSpaceSpecificationType::k_class},
+    {item_kind::child_list, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:ColorSet", element_ColorSet, LMX_OFFSET(PaletteType, m_ColorSet, child_list, none), k_no_flag, position_of(k_PaletteType_elements, element_ColorSet), 1, &ColorSetType::k_class},
 };
 constinit const s_class PaletteType::k_class = {
     .name = "PaletteType",
@@ -194,7 +170,6 @@ void PaletteType::clear_ColorSet() { m_ColorSet.clear(); }
 
 // ColorSetType
 
-namespace {
 constexpr s_event_map k_ColorSetType_attributes[] = {
     attribute_event("ColorSetName", attribute_ColorSetName),
     attribute_event("UniqueID", attribute_UniqueID),
@@ -220,31 +195,18 @@ constexpr s_event_map k_ColorSetType_elements[] = {
     element_event("SubstrateTextile", element_SubstrateTextile),
     k_end_of_map,
 };
-}  // namespace
-
 constinit const s_item ColorSetType::k_items[] = {
-    {item_kind::attribute, value_kind::text, use_required | use_name, ELMX_WS_PRESERVE, "ColorSetName", attribute_ColorSetName,
-     LMX_OFFSET(ColorSetType, m_ColorSetName, attribute, text), LMX_FLAG(ColorSetType, m_isset_ColorSetName), 0, 0, nullptr, nullptr, {}},
-    {item_kind::attribute, value_kind::text, use_optional, ELMX_WS_PRESERVE, "UniqueID", attribute_UniqueID,
-     LMX_OFFSET(ColorSetType, m_UniqueID, attribute, text), LMX_FLAG(ColorSetType, m_isset_UniqueID), 0, 0, nullptr, nullptr, {}},
-    {item_kind::attribute, value_kind::text, use_optional, ELMX_WS_PRESERVE, "PartNumber", attribute_PartNumber,
-     LMX_OFFSET(ColorSetType, m_PartNumber, attribute, text), LMX_FLAG(ColorSetType, m_isset_PartNumber), 0, 0, nullptr, nullptr, {}},
-    {item_kind::attribute, value_kind::text, use_optional, ELMX_WS_PRESERVE, "Comments", attribute_Comments,
-     LMX_OFFSET(ColorSetType, m_Comments, attribute, text), LMX_FLAG(ColorSetType, m_isset_Comments), 0, 0, nullptr, nullptr, {}},
-    {item_kind::child_list, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:CustomAttribute", element_CustomAttribute,
-     LMX_OFFSET(ColorSetType, m_CustomAttribute, child_list, none), k_no_flag, position_of(k_ColorSetType_elements, element_CustomAttribute), position_of(k_ColorSetType_elements, element_CustomAttribute, 1), &CustomAttributeType::k_class, nullptr, {}},
-    {item_kind::element_list, value_kind::datetime, use_demanded | use_asked, ELMX_WS_COLLAPSE, "Vyr:ChangeHistory", element_ChangeHistory,
-     LMX_OFFSET(ColorSetType, m_ChangeHistory, element_list, datetime), k_no_flag, position_of(k_ColorSetType_elements, element_ChangeHistory), position_of(k_ColorSetType_elements, element_ChangeHistory, 1), nullptr, &facets::DateTimeZone, {}},
-    {item_kind::optional_child, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:Owner", element_Owner,
-     LMX_OFFSET(ColorSetType, m_Owner, optional_child, none), LMX_FLAG(ColorSetType, m_isset_Owner), position_of(k_ColorSetType_elements, element_Owner), position_of(k_ColorSetType_elements, element_Owner, 1), &OwnerType::k_class, nullptr, {}},
-    {item_kind::element_list, value_kind::text, use_optional, ELMX_WS_PRESERVE, "Vyr:SemanticAssociation", element_SemanticAssociation,
-     LMX_OFFSET(ColorSetType, m_SemanticAssociation, element_list, text), k_no_flag, position_of(k_ColorSetType_elements, element_SemanticAssociation), position_of(k_ColorSetType_elements, element_SemanticAssociation, 1), nullptr, nullptr, {}},
-    {item_kind::optional_child, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:CollectionColorSpaceSpecification", element_CollectionColorSpaceSpecification,
-     LMX_OFFSET(ColorSetType, m_CollectionColorSpaceSpecification, optional_child, none), LMX_FLAG(ColorSetType, m_isset_CollectionColorSpaceSpecification), position_of(k_ColorSetType_elements, element_CollectionColorSpaceSpecification), position_of(k_ColorSetType_elements, element_CollectionColorSpaceSpecification, 1), &CollectionColorSpaceSpecificationType::k_class, nullptr, {}},
-    {item_kind::child_list, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:Color", element_Color,
-     LMX_OFFSET(ColorSetType, m_Color, child_list, none), k_no_flag, position_of(k_ColorSetType_elements, element_Color), position_of(k_ColorSetType_elements, element_Color, 1), &ColorType::k_class, nullptr, {}},
-    {item_kind::group, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:Substrate", 0,
-     LMX_OFFSET(ColorSetType, m_Substrate, group, none), LMX_FLAG(ColorSetType, m_isset_Substrate), position_of(k_ColorSetType_elements, element_SubstratePaper), position_of(k_ColorSetType_elements, element_SubstratePaper, 9), &sg_Substrate::k_class, nullptr, {}},
+    {item_kind::attribute, value_kind::text, use_required | use_name, ELMX_WS_PRESERVE, "ColorSetName", attribute_ColorSetName, LMX_OFFSET(ColorSetType, m_ColorSetName, attribute, text), LMX_FLAG(ColorSetType, m_isset_ColorSetName)},
+    {item_kind::attribute, value_kind::text, use_optional, ELMX_WS_PRESERVE, "UniqueID", attribute_UniqueID, LMX_OFFSET(ColorSetType, m_UniqueID, attribute, text), LMX_FLAG(ColorSetType, m_isset_UniqueID)},
+    {item_kind::attribute, value_kind::text, use_optional, ELMX_WS_PRESERVE, "PartNumber", attribute_PartNumber, LMX_OFFSET(ColorSetType, m_PartNumber, attribute, text), LMX_FLAG(ColorSetType, m_isset_PartNumber)},
+    {item_kind::attribute, value_kind::text, use_optional, ELMX_WS_PRESERVE, "Comments", attribute_Comments, LMX_OFFSET(ColorSetType, m_Comments, attribute, text), LMX_FLAG(ColorSetType, m_isset_Comments)},
+    {item_kind::child_list, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:CustomAttribute", element_CustomAttribute, LMX_OFFSET(ColorSetType, m_CustomAttribute, child_list, none), k_no_flag, position_of(k_ColorSetType_elements, element_CustomAttribute), 1, &CustomAttributeType::k_class},
+    {item_kind::element_list, value_kind::datetime, use_demanded | use_asked, ELMX_WS_COLLAPSE, "Vyr:ChangeHistory", element_ChangeHistory, LMX_OFFSET(ColorSetType, m_ChangeHistory, element_list, datetime), k_no_flag, position_of(k_ColorSetType_elements, element_ChangeHistory), 1, nullptr, &facets::DateTimeZone},
+    {item_kind::optional_child, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:Owner", element_Owner, LMX_OFFSET(ColorSetType, m_Owner, optional_child, none), LMX_FLAG(ColorSetType, m_isset_Owner), position_of(k_ColorSetType_elements, element_Owner), 1, &OwnerType::k_class},
+    {item_kind::element_list, value_kind::text, use_optional, ELMX_WS_PRESERVE, "Vyr:SemanticAssociation", element_SemanticAssociation, LMX_OFFSET(ColorSetType, m_SemanticAssociation, element_list, text), k_no_flag, position_of(k_ColorSetType_elements, element_SemanticAssociation), 1},
+    {item_kind::optional_child, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:CollectionColorSpaceSpecification", element_CollectionColorSpaceSpecification, LMX_OFFSET(ColorSetType, m_CollectionColorSpaceSpecification, optional_child, none), LMX_FLAG(ColorSetType, m_isset_CollectionColorSpaceSpecification), position_of(k_ColorSetType_elements, element_CollectionColorSpaceSpecification), 1, &CollectionColorSpaceSpecificationType::k_class},
+    {item_kind::child_list, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:Color", element_Color, LMX_OFFSET(ColorSetType, m_Color, child_list, none), k_no_flag, position_of(k_ColorSetType_elements, element_Color), 1, &ColorType::k_class},
+    {item_kind::group, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:Substrate", 0, LMX_OFFSET(ColorSetType, m_Substrate, group, none), LMX_FLAG(ColorSetType, m_isset_Substrate), position_of(k_ColorSetType_elements, element_SubstratePaper), 9, &sg_Substrate::k_class},
 };
 constinit const s_class ColorSetType::k_class = {
     .name = "ColorSetType",
@@ -303,7 +265,6 @@ sg_Substrate& ColorSetType::assign_Substrate(const sg_Substrate& value) { return
 
 // ColorType
 
-namespace {
 constexpr s_event_map k_ColorType_attributes[] = {
     attribute_event("ColorName", attribute_ColorName),
     attribute_event("UniqueID", attribute_UniqueID),
@@ -356,31 +317,18 @@ constexpr s_event_map k_ColorType_elements[] = {
     element_event("TagValues", element_TagValues),
     k_end_of_map,
 };
-}  // namespace
-
 constinit const s_item ColorType::k_items[] = {
-    {item_kind::attribute, value_kind::text, use_required | use_name, ELMX_WS_PRESERVE, "ColorName", attribute_ColorName,
-     LMX_OFFSET(ColorType, m_ColorName, attribute, text), LMX_FLAG(ColorType, m_isset_ColorName), 0, 0, nullptr, nullptr, {}},
-    {item_kind::attribute, value_kind::text, use_optional, ELMX_WS_PRESERVE, "UniqueID", attribute_UniqueID,
-     LMX_OFFSET(ColorType, m_UniqueID, attribute, text), LMX_FLAG(ColorType, m_isset_UniqueID), 0, 0, nullptr, nullptr, {}},
-    {item_kind::attribute, value_kind::text, use_optional, ELMX_WS_PRESERVE, "ColorNumber", attribute_ColorNumber,
-     LMX_OFFSET(ColorType, m_ColorNumber, attribute, text), LMX_FLAG(ColorType, m_isset_ColorNumber), 0, 0, nullptr, nullptr, {}},
-    {item_kind::attribute, value_kind::text, use_optional, ELMX_WS_PRESERVE, "Comments", attribute_Comments,
-     LMX_OFFSET(ColorType, m_Comments, attribute, text), LMX_FLAG(ColorType, m_isset_Comments), 0, 0, nullptr, nullptr, {}},
-    {item_kind::child_list, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:CustomAttribute", element_CustomAttribute,
-     LMX_OFFSET(ColorType, m_CustomAttribute, child_list, none), k_no_flag, position_of(k_ColorType_elements, element_CustomAttribute), position_of(k_ColorType_elements, element_CustomAttribute, 1), &CustomAttributeType::k_class, nullptr, {}},
-    {item_kind::element_list, value_kind::datetime, use_demanded | use_asked, ELMX_WS_COLLAPSE, "Vyr:ChangeHistory", element_ChangeHistory,
-     LMX_OFFSET(ColorType, m_ChangeHistory, element_list, datetime), k_no_flag, position_of(k_ColorType_elements, element_ChangeHistory), position_of(k_ColorType_elements, element_ChangeHistory, 1), nullptr, &facets::DateTimeZone, {}},
-    {item_kind::optional_child, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:Owner", element_Owner,
-     LMX_OFFSET(ColorType, m_Owner, optional_child, none), LMX_FLAG(ColorType, m_isset_Owner), position_of(k_ColorType_elements, element_Owner), position_of(k_ColorType_elements, element_Owner, 1), &OwnerType::k_class, nullptr, {}},
-    {item_kind::element_list, value_kind::text, use_optional, ELMX_WS_PRESERVE, "Vyr:SemanticAssociation", element_SemanticAssociation,
-     LMX_OFFSET(ColorType, m_SemanticAssociation, element_list, text), k_no_flag, position_of(k_ColorType_elements, element_SemanticAssociation), position_of(k_ColorType_elements, element_SemanticAssociation, 1), nullptr, nullptr, {}},
-    {item_kind::group_list, value_kind::none, use_demanded | use_asked, ELMX_WS_PRESERVE, "Vyr:ColorSpace", 0,
-     LMX_OFFSET(ColorType, m_ColorSpace, group_list, none), k_no_flag, position_of(k_ColorType_elements, element_ColorSpaceRecipe), position_of(k_ColorType_elements, element_ColorSpaceRecipe, 28), &sg_ColorSpace::k_class, nullptr, {}},
-    {item_kind::group, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:Substrate", 0,
-     LMX_OFFSET(ColorType, m_Substrate, group, none), LMX_FLAG(ColorType, m_isset_Substrate), position_of(k_ColorType_elements, element_SubstratePaper), position_of(k_ColorType_elements, element_SubstratePaper, 9), &sg_Substrate::k_class, nullptr, {}},
-    {item_kind::child_list, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:TagValues", element_TagValues,
-     LMX_OFFSET(ColorType, m_TagValues, child_list, none), k_no_flag, position_of(k_ColorType_elements, element_TagValues), position_of(k_ColorType_elements, element_TagValues, 1), &TagValue::k_class, nullptr, {}},
+    {item_kind::attribute, value_kind::text, use_required | use_name, ELMX_WS_PRESERVE, "ColorName", attribute_ColorName, LMX_OFFSET(ColorType, m_ColorName, attribute, text), LMX_FLAG(ColorType, m_isset_ColorName)},
+    {item_kind::attribute, value_kind::text, use_optional, ELMX_WS_PRESERVE, "UniqueID", attribute_UniqueID, LMX_OFFSET(ColorType, m_UniqueID, attribute, text), LMX_FLAG(ColorType, m_isset_UniqueID)},
+    {item_kind::attribute, value_kind::text, use_optional, ELMX_WS_PRESERVE, "ColorNumber", attribute_ColorNumber, LMX_OFFSET(ColorType, m_ColorNumber, attribute, text), LMX_FLAG(ColorType, m_isset_ColorNumber)},
+    {item_kind::attribute, value_kind::text, use_optional, ELMX_WS_PRESERVE, "Comments", attribute_Comments, LMX_OFFSET(ColorType, m_Comments, attribute, text), LMX_FLAG(ColorType, m_isset_Comments)},
+    {item_kind::child_list, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:CustomAttribute", element_CustomAttribute, LMX_OFFSET(ColorType, m_CustomAttribute, child_list, none), k_no_flag, position_of(k_ColorType_elements, element_CustomAttribute), 1, &CustomAttributeType::k_class},
+    {item_kind::element_list, value_kind::datetime, use_demanded | use_asked, ELMX_WS_COLLAPSE, "Vyr:ChangeHistory", element_ChangeHistory, LMX_OFFSET(ColorType, m_ChangeHistory, element_list, datetime), k_no_flag, position_of(k_ColorType_elements, element_ChangeHistory), 1, nullptr, &facets::DateTimeZone},
+    {item_kind::optional_child, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:Owner", element_Owner, LMX_OFFSET(ColorType, m_Owner, optional_child, none), LMX_FLAG(ColorType, m_isset_Owner), position_of(k_ColorType_elements, element_Owner), 1, &OwnerType::k_class},
+    {item_kind::element_list, value_kind::text, use_optional, ELMX_WS_PRESERVE, "Vyr:SemanticAssociation", element_SemanticAssociation, LMX_OFFSET(ColorType, m_SemanticAssociation, element_list, text), k_no_flag, position_of(k_ColorType_elements, element_SemanticAssociation), 1},
+    {item_kind::group_list, value_kind::none, use_demanded | use_asked, ELMX_WS_PRESERVE, "Vyr:ColorSpace", 0, LMX_OFFSET(ColorType, m_ColorSpace, group_list, none), k_no_flag, position_of(k_ColorType_elements, element_ColorSpaceRecipe), 28, &sg_ColorSpace::k_class},
+    {item_kind::group, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:Substrate", 0, LMX_OFFSET(ColorType, m_Substrate, group, none), LMX_FLAG(ColorType, m_isset_Substrate), position_of(k_ColorType_elements, element_SubstratePaper), 9, &sg_Substrate::k_class},
+    {item_kind::child_list, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:TagValues", element_TagValues, LMX_OFFSET(ColorType, m_TagValues, child_list, none), k_no_flag, position_of(k_ColorType_elements, element_TagValues), 1, &TagValue::k_class},
 };
 constinit const s_class ColorType::k_class = {
     .name = "ColorType",

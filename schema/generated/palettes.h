@@ -36,6 +36,7 @@ public:
     void swap(CollectionColorSpaceSpecificationType& other);
     void reset();
     bool is_occurs_ok() const;
+    static const lmx::s_class k_class;
 
     /// Default for reflective values without fixed conditions.
     ColorSpaceSpecificationSpectrumGeneric& get_ColorSpaceSpecificationSpectrumGeneric();
@@ -79,8 +80,6 @@ public:
     bool isset_ColorSpaceSpecificationEmissiveTristimulus() const { return m_isset_ColorSpaceSpecificationEmissiveTristimulus; }
     void unset_ColorSpaceSpecificationEmissiveTristimulus() { m_isset_ColorSpaceSpecificationEmissiveTristimulus = false; }
 
-    static const lmx::s_class k_class;
-
 protected:
     void marshal_attributes(lmx::c_xml_writer& writer) const { lmx::marshal_attributes(k_class, this, writer); }
     lmx::elmx_error marshal_child_elements(lmx::c_xml_writer& writer) const { return lmx::marshal_child_elements(k_class, this, writer); }
@@ -89,14 +88,6 @@ protected:
     bool unmarshal_body(lmx::c_xml_reader& reader, std::string* name, lmx::elmx_error* error) { return lmx::unmarshal_body(k_class, this, reader, name, error); }
 
 private:
-    enum item : std::size_t {
-        item_ColorSpaceSpecificationSpectrumGeneric,
-        item_ColorSpaceSpecificationSpectrumSpectral,
-        item_ColorSpaceSpecificationSpectrumTristimulus,
-        item_ColorSpaceSpecificationEmissiveGeneric,
-        item_ColorSpaceSpecificationEmissiveSpectral,
-        item_ColorSpaceSpecificationEmissiveTristimulus,
-    };
     static const lmx::s_item k_items[];
     lmx::c_optional_child<ColorSpaceSpecificationSpectrumGeneric> m_ColorSpaceSpecificationSpectrumGeneric;
     lmx::c_optional_child<ColorSpaceSpecificationSpectrumSpectral> m_ColorSpaceSpecificationSpectrumSpectral;
@@ -124,6 +115,7 @@ public:
     void swap(PaletteType& other);
     void reset();
     bool is_occurs_ok() const;
+    static const lmx::s_class k_class;
 
     /// Name of the palette.
     const std::u16string& get_PaletteName() const { return m_PaletteName; }
@@ -207,8 +199,6 @@ public:
     void delete_ColorSet(std::size_t index);
     void clear_ColorSet();
 
-    static const lmx::s_class k_class;
-
 protected:
     void marshal_attributes(lmx::c_xml_writer& writer) const { lmx::marshal_attributes(k_class, this, writer); }
     lmx::elmx_error marshal_child_elements(lmx::c_xml_writer& writer) const { return lmx::marshal_child_elements(k_class, this, writer); }
@@ -263,6 +253,7 @@ public:
     void swap(ColorSetType& other);
     void reset();
     bool is_occurs_ok() const;
+    static const lmx::s_class k_class;
 
     /// Name of the colour set.
     const std::u16string& get_ColorSetName() const { return m_ColorSetName; }
@@ -347,8 +338,6 @@ public:
     bool isset_Substrate() const { return m_isset_Substrate; }
     void unset_Substrate() { m_isset_Substrate = false; }
 
-    static const lmx::s_class k_class;
-
 protected:
     void marshal_attributes(lmx::c_xml_writer& writer) const { lmx::marshal_attributes(k_class, this, writer); }
     lmx::elmx_error marshal_child_elements(lmx::c_xml_writer& writer) const { return lmx::marshal_child_elements(k_class, this, writer); }
@@ -403,6 +392,7 @@ public:
     void swap(ColorType& other);
     void reset();
     bool is_occurs_ok() const;
+    static const lmx::s_class k_class;
 
     /// Name of the colour.
     const std::u16string& get_ColorName() const { return m_ColorName; }
@@ -490,8 +480,6 @@ public:
     TagValue& back_TagValues() { return m_TagValues.back(); }
     void delete_TagValues(std::size_t index);
     void clear_TagValues();
-
-    static const lmx::s_class k_class;
 
 protected:
     void marshal_attributes(lmx::c_xml_writer& writer) const { lmx::marshal_attributes(k_class, this, writer); }

@@ -38,6 +38,7 @@ public:
     void swap(LimitsType& other);
     void reset();
     bool is_occurs_ok() const;
+    static const lmx::s_class k_class;
 
     /// A named value of the user's own.
     std::size_t size_CustomAttribute() const { return m_CustomAttribute.size(); }
@@ -59,8 +60,6 @@ public:
     lmx::elmx_error set_LowTolerance(double value);
     bool isset_LowTolerance() const { return m_isset_LowTolerance; }
     void unset_LowTolerance() { m_isset_LowTolerance = false; }
-
-    static const lmx::s_class k_class;
 
 protected:
     void marshal_attributes(lmx::c_xml_writer& writer) const { lmx::marshal_attributes(k_class, this, writer); }
@@ -95,6 +94,7 @@ public:
     void swap(ToleranceType& other);
     void reset();
     bool is_occurs_ok() const;
+    static const lmx::s_class k_class;
 
     /// Name of the tolerance.
     const std::u16string& get_Name() const { return m_Name; }
@@ -182,8 +182,6 @@ public:
     bool isset_Geometry() const { return m_isset_Geometry; }
     void unset_Geometry() { m_isset_Geometry = false; }
 
-    static const lmx::s_class k_class;
-
 protected:
     void marshal_attributes(lmx::c_xml_writer& writer) const { lmx::marshal_attributes(k_class, this, writer); }
     lmx::elmx_error marshal_child_elements(lmx::c_xml_writer& writer) const { return lmx::marshal_child_elements(k_class, this, writer); }
@@ -244,6 +242,7 @@ public:
     void swap(Process& other);
     void reset();
     bool is_occurs_ok() const;
+    static const lmx::s_class k_class;
 
     /// Name of the process; not empty.
     const std::u16string& get_Name() const { return m_Name; }
@@ -254,8 +253,6 @@ public:
     lmx::elmx_error set_Thickness(double value);
     bool isset_Thickness() const { return m_isset_Thickness; }
     void unset_Thickness() { m_isset_Thickness = false; }
-
-    static const lmx::s_class k_class;
 
 protected:
     void marshal_attributes(lmx::c_xml_writer& writer) const { lmx::marshal_attributes(k_class, this, writer); }
@@ -288,6 +285,7 @@ public:
     void swap(PhysicalSampleType& other);
     void reset();
     bool is_occurs_ok() const;
+    static const lmx::s_class k_class;
 
     /// A named value of the user's own.
     std::size_t size_CustomAttribute() const { return m_CustomAttribute.size(); }
@@ -317,8 +315,6 @@ public:
     sg_Sample& get_Sample() { m_isset_Sample = true; return m_Sample; }
     const sg_Sample& get_Sample() const { return m_Sample; }
     sg_Sample& assign_Sample(const sg_Sample& value);
-
-    static const lmx::s_class k_class;
 
 protected:
     void marshal_attributes(lmx::c_xml_writer& writer) const { lmx::marshal_attributes(k_class, this, writer); }
@@ -356,6 +352,7 @@ public:
     void swap(ColorQualityControlType& other);
     void reset();
     bool is_occurs_ok() const;
+    static const lmx::s_class k_class;
 
     /// Name of the record.
     const std::u16string& get_Name() const { return m_Name; }
@@ -430,8 +427,6 @@ public:
     void delete_Tolerance(std::size_t index);
     void clear_Tolerance();
 
-    static const lmx::s_class k_class;
-
 protected:
     void marshal_attributes(lmx::c_xml_writer& writer) const { lmx::marshal_attributes(k_class, this, writer); }
     lmx::elmx_error marshal_child_elements(lmx::c_xml_writer& writer) const { return lmx::marshal_child_elements(k_class, this, writer); }
@@ -493,6 +488,7 @@ public:
     void swap(Measurement& other);
     void reset();
     bool is_occurs_ok() const;
+    static const lmx::s_class k_class;
 
     /// A named value of the user's own.
     std::size_t size_CustomAttribute() const { return m_CustomAttribute.size(); }
@@ -526,8 +522,6 @@ public:
     void delete_Function(std::size_t index);
     void clear_Function();
 
-    static const lmx::s_class k_class;
-
 protected:
     void marshal_attributes(lmx::c_xml_writer& writer) const { lmx::marshal_attributes(k_class, this, writer); }
     lmx::elmx_error marshal_child_elements(lmx::c_xml_writer& writer) const { return lmx::marshal_child_elements(k_class, this, writer); }
@@ -536,12 +530,6 @@ protected:
     bool unmarshal_body(lmx::c_xml_reader& reader, std::string* name, lmx::elmx_error* error) { return lmx::unmarshal_body(k_class, this, reader, name, error); }
 
 private:
-    enum item : std::size_t {
-        item_CustomAttribute,
-        item_Device,
-        item_Color,
-        item_Function,
-    };
     static const lmx::s_item k_items[];
     lmx::c_list<CustomAttributeType> m_CustomAttribute;
     DeviceType m_Device;
@@ -576,6 +564,7 @@ public:
     void swap(Standard& other);
     void reset();
     bool is_occurs_ok() const;
+    static const lmx::s_class k_class;
 
     /// A named value of the user's own.
     std::size_t size_CustomAttribute() const { return m_CustomAttribute.size(); }
@@ -613,8 +602,6 @@ public:
     bool isnil_Standard() const { return m_isnil; }
     void setnil_Standard() { m_isnil = true; }
 
-    static const lmx::s_class k_class;
-
 protected:
     void marshal_attributes(lmx::c_xml_writer& writer) const { lmx::marshal_attributes(k_class, this, writer); }
     lmx::elmx_error marshal_child_elements(lmx::c_xml_writer& writer) const { return lmx::marshal_child_elements(k_class, this, writer); }
@@ -623,12 +610,6 @@ protected:
     bool unmarshal_body(lmx::c_xml_reader& reader, std::string* name, lmx::elmx_error* error) { return lmx::unmarshal_body(k_class, this, reader, name, error); }
 
 private:
-    enum item : std::size_t {
-        item_CustomAttribute,
-        item_Device,
-        item_Color,
-        item_Tolerance,
-    };
     static const lmx::s_item k_items[];
     bool m_isnil = false;
     lmx::c_list<CustomAttributeType> m_CustomAttribute;
@@ -651,6 +632,7 @@ public:
     void swap(StandardAndMeasurementType& other);
     void reset();
     bool is_occurs_ok() const;
+    static const lmx::s_class k_class;
 
     /// A named value of the user's own.
     std::size_t size_CustomAttribute() const { return m_CustomAttribute.size(); }
@@ -679,8 +661,6 @@ public:
     const Standard& get_Standard() const { return m_Standard; }
     Standard& assign_Standard(const Standard& value);
 
-    static const lmx::s_class k_class;
-
 protected:
     void marshal_attributes(lmx::c_xml_writer& writer) const { lmx::marshal_attributes(k_class, this, writer); }
     lmx::elmx_error marshal_child_elements(lmx::c_xml_writer& writer) const { return lmx::marshal_child_elements(k_class, this, writer); }
@@ -689,11 +669,6 @@ protected:
     bool unmarshal_body(lmx::c_xml_reader& reader, std::string* name, lmx::elmx_error* error) { return lmx::unmarshal_body(k_class, this, reader, name, error); }
 
 private:
-    enum item : std::size_t {
-        item_CustomAttribute,
-        item_Measurement,
-        item_Standard,
-    };
     static const lmx::s_item k_items[];
     lmx::c_list<CustomAttributeType> m_CustomAttribute;
     lmx::c_list<Measurement> m_Measurement;

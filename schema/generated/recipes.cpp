@@ -22,33 +22,26 @@ namespace com_vyrgraph_v2 {
 
 using namespace lmx;  // for the tables' sake
 
-static_assert(k_binding_version == 4, "run schema/generator/generate.py");
+static_assert(k_binding_version == 5, "run schema/generator/generate.py");
 
 // ColorName
 
-namespace {
 constexpr s_event_map k_ColorName_elements[] = {
     element_event("PrefixName", element_PrefixName),
     element_event("BaseName", element_BaseName),
     element_event("SuffixName", element_SuffixName),
     k_end_of_map,
 };
-}  // namespace
-
 constinit const s_item ColorName::k_items[] = {
-    {item_kind::element, value_kind::text, use_required, ELMX_WS_PRESERVE, "Vyr:PrefixName", element_PrefixName,
-     LMX_OFFSET(ColorName, m_PrefixName, element, text), LMX_FLAG(ColorName, m_isset_PrefixName), position_of(k_ColorName_elements, element_PrefixName), position_of(k_ColorName_elements, element_PrefixName, 1), nullptr, nullptr, {}},
-    {item_kind::element, value_kind::text, use_required, ELMX_WS_PRESERVE, "Vyr:BaseName", element_BaseName,
-     LMX_OFFSET(ColorName, m_BaseName, element, text), LMX_FLAG(ColorName, m_isset_BaseName), position_of(k_ColorName_elements, element_BaseName), position_of(k_ColorName_elements, element_BaseName, 1), nullptr, nullptr, {}},
-    {item_kind::element, value_kind::text, use_required, ELMX_WS_PRESERVE, "Vyr:SuffixName", element_SuffixName,
-     LMX_OFFSET(ColorName, m_SuffixName, element, text), LMX_FLAG(ColorName, m_isset_SuffixName), position_of(k_ColorName_elements, element_SuffixName), position_of(k_ColorName_elements, element_SuffixName, 1), nullptr, nullptr, {}},
+    {item_kind::element, value_kind::text, use_required, ELMX_WS_PRESERVE, "Vyr:PrefixName", element_PrefixName, LMX_OFFSET(ColorName, m_PrefixName, element, text), LMX_FLAG(ColorName, m_isset_PrefixName), position_of(k_ColorName_elements, element_PrefixName), 1},
+    {item_kind::element, value_kind::text, use_required, ELMX_WS_PRESERVE, "Vyr:BaseName", element_BaseName, LMX_OFFSET(ColorName, m_BaseName, element, text), LMX_FLAG(ColorName, m_isset_BaseName), position_of(k_ColorName_elements, element_BaseName), 1},
+    {item_kind::element, value_kind::text, use_required, ELMX_WS_PRESERVE, "Vyr:SuffixName", element_SuffixName, LMX_OFFSET(ColorName, m_SuffixName, element, text), LMX_FLAG(ColorName, m_isset_SuffixName), position_of(k_ColorName_elements, element_SuffixName), 1},
 };
 constinit const s_class ColorName::k_class = {
     .name = "ColorName",
     .qualified_name = "Vyr:ColorName",
     .content = content_kind::children,
-    .elements = std::span(k_items).subspan(std::size(k_no_events) - 1),
-    .attribute_map = k_no_events,
+    .elements = k_items,
     .element_map = k_ColorName_elements,
     .operations = &k_operations<ColorName>,
 };
@@ -68,24 +61,19 @@ lmx::elmx_error ColorName::set_SuffixName(const std::u16string& value) { return 
 
 // Recipe
 
-namespace {
 constexpr s_event_map k_Recipe_elements[] = {
     element_event("ColorantElement", element_ColorantElement),
     k_end_of_map,
 };
-}  // namespace
-
 constinit const s_item Recipe::k_items[] = {
-    {item_kind::child_list, value_kind::none, use_demanded | use_asked, ELMX_WS_PRESERVE, "Vyr:ColorantElement", element_ColorantElement,
-     LMX_OFFSET(Recipe, m_ColorantElement, child_list, none), k_no_flag, position_of(k_Recipe_elements, element_ColorantElement), position_of(k_Recipe_elements, element_ColorantElement, 1), &ColorantElement::k_class, nullptr, {}},
+    {item_kind::child_list, value_kind::none, use_demanded | use_asked, ELMX_WS_PRESERVE, "Vyr:ColorantElement", element_ColorantElement, LMX_OFFSET(Recipe, m_ColorantElement, child_list, none), k_no_flag, position_of(k_Recipe_elements, element_ColorantElement), 1, &ColorantElement::k_class},
 };
 constinit const s_class Recipe::k_class = {
     .name = "Recipe",
     .qualified_name = "Vyr:Recipe",
     .content = content_kind::children,
     .may_be_empty = true,
-    .elements = std::span(k_items).subspan(std::size(k_no_events) - 1),
-    .attribute_map = k_no_events,
+    .elements = k_items,
     .element_map = k_Recipe_elements,
     .operations = &k_operations<Recipe>,
 };
@@ -108,7 +96,6 @@ void Recipe::clear_ColorantElement() { m_ColorantElement.clear(); }
 
 // ColorSpaceTINTORAType
 
-namespace {
 constexpr s_event_map k_ColorSpaceTINTORAType_attributes[] = {
     attribute_event("Name", attribute_Name),
     k_end_of_map,
@@ -122,23 +109,14 @@ constexpr s_event_map k_ColorSpaceTINTORAType_elements[] = {
     element_event("ColorAndFinish", element_ColorAndFinish),
     k_end_of_map,
 };
-}  // namespace
-
 constinit const s_item ColorSpaceTINTORAType::k_items[] = {
-    {item_kind::attribute, value_kind::text, use_name, ELMX_WS_PRESERVE, "Name", attribute_Name,
-     LMX_OFFSET(ColorSpaceTINTORAType, m_Name, attribute, text), LMX_FLAG(ColorSpaceTINTORAType, m_isset_Name), 0, 0, nullptr, nullptr, {}},
-    {item_kind::element, value_kind::text, use_required, ELMX_WS_PRESERVE, "Vyr:FamilyName", element_FamilyName,
-     LMX_OFFSET(ColorSpaceTINTORAType, m_FamilyName, element, text), LMX_FLAG(ColorSpaceTINTORAType, m_isset_FamilyName), position_of(k_ColorSpaceTINTORAType_elements, element_FamilyName), position_of(k_ColorSpaceTINTORAType_elements, element_FamilyName, 1), nullptr, nullptr, {}},
-    {item_kind::child, value_kind::none, use_required, ELMX_WS_PRESERVE, "Vyr:ColorName", element_ColorName,
-     LMX_OFFSET(ColorSpaceTINTORAType, m_ColorName, child, none), LMX_FLAG(ColorSpaceTINTORAType, m_isset_ColorName), position_of(k_ColorSpaceTINTORAType_elements, element_ColorName), position_of(k_ColorSpaceTINTORAType_elements, element_ColorName, 1), &ColorName::k_class, nullptr, {}},
-    {item_kind::element, value_kind::text, use_required, ELMX_WS_PRESERVE, "Vyr:Page", element_Page,
-     LMX_OFFSET(ColorSpaceTINTORAType, m_Page, element, text), LMX_FLAG(ColorSpaceTINTORAType, m_isset_Page), position_of(k_ColorSpaceTINTORAType_elements, element_Page), position_of(k_ColorSpaceTINTORAType_elements, element_Page, 1), nullptr, nullptr, {}},
-    {item_kind::element, value_kind::enumerated, use_required, ELMX_WS_PRESERVE, "Vyr:Gamut", element_Gamut,
-     LMX_OFFSET(ColorSpaceTINTORAType, m_Gamut, element, enumerated), LMX_FLAG(ColorSpaceTINTORAType, m_isset_Gamut), position_of(k_ColorSpaceTINTORAType_elements, element_Gamut), position_of(k_ColorSpaceTINTORAType_elements, element_Gamut, 1), nullptr, &facets::GamutKind, {}},
-    {item_kind::optional_child, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:Recipe", element_Recipe,
-     LMX_OFFSET(ColorSpaceTINTORAType, m_Recipe, optional_child, none), LMX_FLAG(ColorSpaceTINTORAType, m_isset_Recipe), position_of(k_ColorSpaceTINTORAType_elements, element_Recipe), position_of(k_ColorSpaceTINTORAType_elements, element_Recipe, 1), &Recipe::k_class, nullptr, {}},
-    {item_kind::child_list, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:ColorAndFinish", element_ColorAndFinish,
-     LMX_OFFSET(ColorSpaceTINTORAType, m_ColorAndFinish, child_list, none), k_no_flag, position_of(k_ColorSpaceTINTORAType_elements, element_ColorAndFinish), position_of(k_ColorSpaceTINTORAType_elements, element_ColorAndFinish, 1), &ColorAndFinish::k_class, nullptr, {}},
+    {item_kind::attribute, value_kind::text, use_name, ELMX_WS_PRESERVE, "Name", attribute_Name, LMX_OFFSET(ColorSpaceTINTORAType, m_Name, attribute, text), LMX_FLAG(ColorSpaceTINTORAType, m_isset_Name)},
+    {item_kind::element, value_kind::text, use_required, ELMX_WS_PRESERVE, "Vyr:FamilyName", element_FamilyName, LMX_OFFSET(ColorSpaceTINTORAType, m_FamilyName, element, text), LMX_FLAG(ColorSpaceTINTORAType, m_isset_FamilyName), position_of(k_ColorSpaceTINTORAType_elements, element_FamilyName), 1},
+    {item_kind::child, value_kind::none, use_required, ELMX_WS_PRESERVE, "Vyr:ColorName", element_ColorName, LMX_OFFSET(ColorSpaceTINTORAType, m_ColorName, child, none), LMX_FLAG(ColorSpaceTINTORAType, m_isset_ColorName), position_of(k_ColorSpaceTINTORAType_elements, element_ColorName), 1, &ColorName::k_class},
+    {item_kind::element, value_kind::text, use_required, ELMX_WS_PRESERVE, "Vyr:Page", element_Page, LMX_OFFSET(ColorSpaceTINTORAType, m_Page, element, text), LMX_FLAG(ColorSpaceTINTORAType, m_isset_Page), position_of(k_ColorSpaceTINTORAType_elements, element_Page), 1},
+    {item_kind::element, value_kind::enumerated, use_required, ELMX_WS_PRESERVE, "Vyr:Gamut", element_Gamut, LMX_OFFSET(ColorSpaceTINTORAType, m_Gamut, element, enumerated), LMX_FLAG(ColorSpaceTINTORAType, m_isset_Gamut), position_of(k_ColorSpaceTINTORAType_elements, element_Gamut), 1, nullptr, &facets::GamutKind},
+    {item_kind::optional_child, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:Recipe", element_Recipe, LMX_OFFSET(ColorSpaceTINTORAType, m_Recipe, optional_child, none), LMX_FLAG(ColorSpaceTINTORAType, m_isset_Recipe), position_of(k_ColorSpaceTINTORAType_elements, element_Recipe), 1, &Recipe::k_class},
+    {item_kind::child_list, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:ColorAndFinish", element_ColorAndFinish, LMX_OFFSET(ColorSpaceTINTORAType, m_ColorAndFinish, child_list, none), k_no_flag, position_of(k_ColorSpaceTINTORAType_elements, element_ColorAndFinish), 1, &ColorAndFinish::k_class},
 };
 constinit const s_class ColorSpaceTINTORAType::k_class = {
     .name = "ColorSpaceTINTORAType",
@@ -147,7 +125,6 @@ constinit const s_class ColorSpaceTINTORAType::k_class = {
     .content = content_kind::children,
     .ns_map = k_ns_map,
     .id = &ColorSpaceTINTORAType::id,
-    .xsi_type = "Vyr:ColorSpaceTINTORAType",
     .attributes = std::span(k_items).first(std::size(k_ColorSpaceTINTORAType_attributes) - 1),
     .elements = std::span(k_items).subspan(std::size(k_ColorSpaceTINTORAType_attributes) - 1),
     .attribute_map = k_ColorSpaceTINTORAType_attributes,
@@ -155,7 +132,7 @@ constinit const s_class ColorSpaceTINTORAType::k_class = {
     .operations = &k_operations<ColorSpaceTINTORAType>,
 };
 
-namespace { const char k_ColorSpaceTINTORAType_id[] = "ColorSpaceTINTORAType"; }
+const char k_ColorSpaceTINTORAType_id[] = "ColorSpaceTINTORAType";
 const char* ColorSpaceTINTORAType::id = k_ColorSpaceTINTORAType_id;
 ColorSpaceTINTORAType::ColorSpaceTINTORAType() = default;
 ColorSpaceTINTORAType::ColorSpaceTINTORAType(const ColorSpaceTINTORAType& other) : ColorSpaceType() { lmx::copy(k_class, this, &other); }
@@ -187,7 +164,6 @@ void ColorSpaceTINTORAType::clear_ColorAndFinish() { m_ColorAndFinish.clear(); }
 
 // Colorant
 
-namespace {
 constexpr s_event_map k_Colorant_elements[] = {
     element_event("CustomAttributes", element_CustomAttributes),
     element_event("Name", element_Name),
@@ -196,26 +172,18 @@ constexpr s_event_map k_Colorant_elements[] = {
     element_event("Density", element_Density),
     k_end_of_map,
 };
-}  // namespace
-
 constinit const s_item Colorant::k_items[] = {
-    {item_kind::child_list, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:CustomAttributes", element_CustomAttributes,
-     LMX_OFFSET(Colorant, m_CustomAttributes, child_list, none), k_no_flag, position_of(k_Colorant_elements, element_CustomAttributes), position_of(k_Colorant_elements, element_CustomAttributes, 1), &CustomAttributes::k_class, nullptr, {}},
-    {item_kind::element, value_kind::text, use_required | use_name, ELMX_WS_PRESERVE, "Vyr:Name", element_Name,
-     LMX_OFFSET(Colorant, m_Name, element, text), LMX_FLAG(Colorant, m_isset_Name), position_of(k_Colorant_elements, element_Name), position_of(k_Colorant_elements, element_Name, 1), nullptr, &facets::NonEmptyString, {}},
-    {item_kind::element, value_kind::text, use_optional, ELMX_WS_PRESERVE, "Vyr:Manufacturer", element_Manufacturer,
-     LMX_OFFSET(Colorant, m_Manufacturer, element, text), LMX_FLAG(Colorant, m_isset_Manufacturer), position_of(k_Colorant_elements, element_Manufacturer), position_of(k_Colorant_elements, element_Manufacturer, 1), nullptr, &facets::NonEmptyString, {}},
-    {item_kind::element, value_kind::text, use_optional, ELMX_WS_PRESERVE, "Vyr:PartNumber", element_PartNumber,
-     LMX_OFFSET(Colorant, m_PartNumber, element, text), LMX_FLAG(Colorant, m_isset_PartNumber), position_of(k_Colorant_elements, element_PartNumber), position_of(k_Colorant_elements, element_PartNumber, 1), nullptr, &facets::NonEmptyString, {}},
-    {item_kind::element, value_kind::number, use_optional, ELMX_WS_COLLAPSE, "Vyr:Density", element_Density,
-     LMX_OFFSET(Colorant, m_Density, element, number), LMX_FLAG(Colorant, m_isset_Density), position_of(k_Colorant_elements, element_Density), position_of(k_Colorant_elements, element_Density, 1), nullptr, &facets::Positive, {}},
+    {item_kind::child_list, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:CustomAttributes", element_CustomAttributes, LMX_OFFSET(Colorant, m_CustomAttributes, child_list, none), k_no_flag, position_of(k_Colorant_elements, element_CustomAttributes), 1, &CustomAttributes::k_class},
+    {item_kind::element, value_kind::text, use_required | use_name, ELMX_WS_PRESERVE, "Vyr:Name", element_Name, LMX_OFFSET(Colorant, m_Name, element, text), LMX_FLAG(Colorant, m_isset_Name), position_of(k_Colorant_elements, element_Name), 1, nullptr, &facets::NonEmptyString},
+    {item_kind::element, value_kind::text, use_optional, ELMX_WS_PRESERVE, "Vyr:Manufacturer", element_Manufacturer, LMX_OFFSET(Colorant, m_Manufacturer, element, text), LMX_FLAG(Colorant, m_isset_Manufacturer), position_of(k_Colorant_elements, element_Manufacturer), 1, nullptr, &facets::NonEmptyString},
+    {item_kind::element, value_kind::text, use_optional, ELMX_WS_PRESERVE, "Vyr:PartNumber", element_PartNumber, LMX_OFFSET(Colorant, m_PartNumber, element, text), LMX_FLAG(Colorant, m_isset_PartNumber), position_of(k_Colorant_elements, element_PartNumber), 1, nullptr, &facets::NonEmptyString},
+    {item_kind::element, value_kind::number, use_optional, ELMX_WS_COLLAPSE, "Vyr:Density", element_Density, LMX_OFFSET(Colorant, m_Density, element, number), LMX_FLAG(Colorant, m_isset_Density), position_of(k_Colorant_elements, element_Density), 1, nullptr, &facets::Positive},
 };
 constinit const s_class Colorant::k_class = {
     .name = "Colorant",
     .qualified_name = "Vyr:Colorant",
     .content = content_kind::children,
-    .elements = std::span(k_items).subspan(std::size(k_no_events) - 1),
-    .attribute_map = k_no_events,
+    .elements = k_items,
     .element_map = k_Colorant_elements,
     .operations = &k_operations<Colorant>,
 };
@@ -242,26 +210,20 @@ lmx::elmx_error Colorant::set_Density(double value) { return lmx::set_item(k_cla
 
 // ColorantElement
 
-namespace {
 constexpr s_event_map k_ColorantElement_elements[] = {
     element_event("Colorant", element_Colorant),
     element_event("Contribution", element_Contribution),
     k_end_of_map,
 };
-}  // namespace
-
 constinit const s_item ColorantElement::k_items[] = {
-    {item_kind::child, value_kind::none, use_required, ELMX_WS_PRESERVE, "Vyr:Colorant", element_Colorant,
-     LMX_OFFSET(ColorantElement, m_Colorant, child, none), LMX_FLAG(ColorantElement, m_isset_Colorant), position_of(k_ColorantElement_elements, element_Colorant), position_of(k_ColorantElement_elements, element_Colorant, 1), &Colorant::k_class, nullptr, {}},
-    {item_kind::element, value_kind::number, use_required, ELMX_WS_COLLAPSE, "Vyr:Contribution", element_Contribution,
-     LMX_OFFSET(ColorantElement, m_Contribution, element, number), LMX_FLAG(ColorantElement, m_isset_Contribution), position_of(k_ColorantElement_elements, element_Contribution), position_of(k_ColorantElement_elements, element_Contribution, 1), nullptr, &facets::NonNegative, {}},
+    {item_kind::child, value_kind::none, use_required, ELMX_WS_PRESERVE, "Vyr:Colorant", element_Colorant, LMX_OFFSET(ColorantElement, m_Colorant, child, none), LMX_FLAG(ColorantElement, m_isset_Colorant), position_of(k_ColorantElement_elements, element_Colorant), 1, &Colorant::k_class},
+    {item_kind::element, value_kind::number, use_required, ELMX_WS_COLLAPSE, "Vyr:Contribution", element_Contribution, LMX_OFFSET(ColorantElement, m_Contribution, element, number), LMX_FLAG(ColorantElement, m_isset_Contribution), position_of(k_ColorantElement_elements, element_Contribution), 1, nullptr, &facets::NonNegative},
 };
 constinit const s_class ColorantElement::k_class = {
     .name = "ColorantElement",
     .qualified_name = "Vyr:ColorantElement",
     .content = content_kind::children,
-    .elements = std::span(k_items).subspan(std::size(k_no_events) - 1),
-    .attribute_map = k_no_events,
+    .elements = k_items,
     .element_map = k_ColorantElement_elements,
     .operations = &k_operations<ColorantElement>,
 };
@@ -280,24 +242,19 @@ lmx::elmx_error ColorantElement::set_Contribution(double value) { return lmx::se
 
 // CustomAttributes
 
-namespace {
 constexpr s_event_map k_CustomAttributes_elements[] = {
     element_event("CustomAttribute", element_CustomAttribute),
     k_end_of_map,
 };
-}  // namespace
-
 constinit const s_item CustomAttributes::k_items[] = {
-    {item_kind::child, value_kind::none, use_required, ELMX_WS_PRESERVE, "Vyr:CustomAttribute", element_CustomAttribute,
-     LMX_OFFSET(CustomAttributes, m_CustomAttribute, child, none), LMX_FLAG(CustomAttributes, m_isset_CustomAttribute), position_of(k_CustomAttributes_elements, element_CustomAttribute), position_of(k_CustomAttributes_elements, element_CustomAttribute, 1), &CustomAttributeType::k_class, nullptr, {}},
+    {item_kind::child, value_kind::none, use_required, ELMX_WS_PRESERVE, "Vyr:CustomAttribute", element_CustomAttribute, LMX_OFFSET(CustomAttributes, m_CustomAttribute, child, none), LMX_FLAG(CustomAttributes, m_isset_CustomAttribute), position_of(k_CustomAttributes_elements, element_CustomAttribute), 1, &CustomAttributeType::k_class},
 };
 constinit const s_class CustomAttributes::k_class = {
     .name = "CustomAttributes",
     .qualified_name = "Vyr:CustomAttributes",
     .content = content_kind::children,
     .may_be_empty = true,
-    .elements = std::span(k_items).subspan(std::size(k_no_events) - 1),
-    .attribute_map = k_no_events,
+    .elements = k_items,
     .element_map = k_CustomAttributes_elements,
     .operations = &k_operations<CustomAttributes>,
 };
@@ -315,27 +272,21 @@ CustomAttributeType& CustomAttributes::assign_CustomAttribute(const CustomAttrib
 
 // ColorAndFinish
 
-namespace {
 constexpr s_event_map k_ColorAndFinish_elements[] = {
     element_event("Finish", element_Finish),
     element_event("ColorSpaceSpectral", element_ColorSpaceSpectral),
     k_end_of_map,
 };
-}  // namespace
-
 constinit const s_item ColorAndFinish::k_items[] = {
-    {item_kind::element, value_kind::enumerated, use_required, ELMX_WS_PRESERVE, "Vyr:Finish", element_Finish,
-     LMX_OFFSET(ColorAndFinish, m_Finish, element, enumerated), LMX_FLAG(ColorAndFinish, m_isset_Finish), position_of(k_ColorAndFinish_elements, element_Finish), position_of(k_ColorAndFinish_elements, element_Finish, 1), nullptr, &facets::FinishKind, {}},
-    {item_kind::child, value_kind::none, use_required, ELMX_WS_PRESERVE, "Vyr:ColorSpaceSpectral", element_ColorSpaceSpectral,
-     LMX_OFFSET(ColorAndFinish, m_ColorSpaceSpectral, child, none), LMX_FLAG(ColorAndFinish, m_isset_ColorSpaceSpectral), position_of(k_ColorAndFinish_elements, element_ColorSpaceSpectral), position_of(k_ColorAndFinish_elements, element_ColorSpaceSpectral, 1), &ColorSpaceSpectralType::k_class, nullptr, {}},
+    {item_kind::element, value_kind::enumerated, use_required, ELMX_WS_PRESERVE, "Vyr:Finish", element_Finish, LMX_OFFSET(ColorAndFinish, m_Finish, element, enumerated), LMX_FLAG(ColorAndFinish, m_isset_Finish), position_of(k_ColorAndFinish_elements, element_Finish), 1, nullptr, &facets::FinishKind},
+    {item_kind::child, value_kind::none, use_required, ELMX_WS_PRESERVE, "Vyr:ColorSpaceSpectral", element_ColorSpaceSpectral, LMX_OFFSET(ColorAndFinish, m_ColorSpaceSpectral, child, none), LMX_FLAG(ColorAndFinish, m_isset_ColorSpaceSpectral), position_of(k_ColorAndFinish_elements, element_ColorSpaceSpectral), 1, &ColorSpaceSpectralType::k_class},
 };
 constinit const s_class ColorAndFinish::k_class = {
     .name = "ColorAndFinish",
     .qualified_name = "Vyr:ColorAndFinish",
     .content = content_kind::children,
     .may_be_empty = true,
-    .elements = std::span(k_items).subspan(std::size(k_no_events) - 1),
-    .attribute_map = k_no_events,
+    .elements = k_items,
     .element_map = k_ColorAndFinish_elements,
     .operations = &k_operations<ColorAndFinish>,
 };
@@ -355,7 +306,6 @@ ColorSpaceSpectralType& ColorAndFinish::assign_ColorSpaceSpectral(const ColorSpa
 
 // ColorSpaceNCSType
 
-namespace {
 constexpr s_event_map k_ColorSpaceNCSType_attributes[] = {
     attribute_event("Name", attribute_Name),
     k_end_of_map,
@@ -365,15 +315,10 @@ constexpr s_event_map k_ColorSpaceNCSType_elements[] = {
     element_event("ColorName", element_ColorName),
     k_end_of_map,
 };
-}  // namespace
-
 constinit const s_item ColorSpaceNCSType::k_items[] = {
-    {item_kind::attribute, value_kind::text, use_name, ELMX_WS_PRESERVE, "Name", attribute_Name,
-     LMX_OFFSET(ColorSpaceNCSType, m_Name, attribute, text), LMX_FLAG(ColorSpaceNCSType, m_isset_Name), 0, 0, nullptr, nullptr, {}},
-    {item_kind::child, value_kind::none, use_required, ELMX_WS_PRESERVE, "Vyr:ColorSpaceSpecificationSpectrumGeneric", element_ColorSpaceSpecificationSpectrumGeneric,
-     LMX_OFFSET(ColorSpaceNCSType, m_ColorSpaceSpecificationSpectrumGeneric, child, none), LMX_FLAG(ColorSpaceNCSType, m_isset_ColorSpaceSpecificationSpectrumGeneric), position_of(k_ColorSpaceNCSType_elements, element_ColorSpaceSpecificationSpectrumGeneric), position_of(k_ColorSpaceNCSType_elements, element_ColorSpaceSpecificationSpectrumGeneric, 1), &ColorSpaceSpecificationSpectrumGeneric::k_class, nullptr, {}},
-    {item_kind::element, value_kind::text, use_required, ELMX_WS_PRESERVE, "Vyr:ColorName", element_ColorName,
-     LMX_OFFSET(ColorSpaceNCSType, m_ColorName, element, text), LMX_FLAG(ColorSpaceNCSType, m_isset_ColorName), position_of(k_ColorSpaceNCSType_elements, element_ColorName), position_of(k_ColorSpaceNCSType_elements, element_ColorName, 1), nullptr, nullptr, {}},
+    {item_kind::attribute, value_kind::text, use_name, ELMX_WS_PRESERVE, "Name", attribute_Name, LMX_OFFSET(ColorSpaceNCSType, m_Name, attribute, text), LMX_FLAG(ColorSpaceNCSType, m_isset_Name)},
+    {item_kind::child, value_kind::none, use_required, ELMX_WS_PRESERVE, "Vyr:ColorSpaceSpecificationSpectrumGeneric", element_ColorSpaceSpecificationSpectrumGeneric, LMX_OFFSET(ColorSpaceNCSType, m_ColorSpaceSpecificationSpectrumGeneric, child, none), LMX_FLAG(ColorSpaceNCSType, m_isset_ColorSpaceSpecificationSpectrumGeneric), position_of(k_ColorSpaceNCSType_elements, element_ColorSpaceSpecificationSpectrumGeneric), 1, &ColorSpaceSpecificationSpectrumGeneric::k_class},
+    {item_kind::element, value_kind::text, use_required, ELMX_WS_PRESERVE, "Vyr:ColorName", element_ColorName, LMX_OFFSET(ColorSpaceNCSType, m_ColorName, element, text), LMX_FLAG(ColorSpaceNCSType, m_isset_ColorName), position_of(k_ColorSpaceNCSType_elements, element_ColorName), 1},
 };
 constinit const s_class ColorSpaceNCSType::k_class = {
     .name = "ColorSpaceNCSType",
@@ -382,7 +327,6 @@ constinit const s_class ColorSpaceNCSType::k_class = {
     .content = content_kind::children,
     .ns_map = k_ns_map,
     .id = &ColorSpaceNCSType::id,
-    .xsi_type = "Vyr:ColorSpaceNCSType",
     .attributes = std::span(k_items).first(std::size(k_ColorSpaceNCSType_attributes) - 1),
     .elements = std::span(k_items).subspan(std::size(k_ColorSpaceNCSType_attributes) - 1),
     .attribute_map = k_ColorSpaceNCSType_attributes,
@@ -390,7 +334,7 @@ constinit const s_class ColorSpaceNCSType::k_class = {
     .operations = &k_operations<ColorSpaceNCSType>,
 };
 
-namespace { const char k_ColorSpaceNCSType_id[] = "ColorSpaceNCSType"; }
+const char k_ColorSpaceNCSType_id[] = "ColorSpaceNCSType";
 const char* ColorSpaceNCSType::id = k_ColorSpaceNCSType_id;
 ColorSpaceNCSType::ColorSpaceNCSType() = default;
 ColorSpaceNCSType::ColorSpaceNCSType(const ColorSpaceNCSType& other) : ColorSpaceType() { lmx::copy(k_class, this, &other); }
@@ -410,7 +354,6 @@ lmx::elmx_error ColorSpaceNCSType::set_ColorName(const std::u16string& value) { 
 
 // ColorSpaceMunsellType
 
-namespace {
 constexpr s_event_map k_ColorSpaceMunsellType_attributes[] = {
     attribute_event("Name", attribute_Name),
     k_end_of_map,
@@ -421,17 +364,11 @@ constexpr s_event_map k_ColorSpaceMunsellType_elements[] = {
     element_event("ColorName", element_ColorName),
     k_end_of_map,
 };
-}  // namespace
-
 constinit const s_item ColorSpaceMunsellType::k_items[] = {
-    {item_kind::attribute, value_kind::text, use_name, ELMX_WS_PRESERVE, "Name", attribute_Name,
-     LMX_OFFSET(ColorSpaceMunsellType, m_Name, attribute, text), LMX_FLAG(ColorSpaceMunsellType, m_isset_Name), 0, 0, nullptr, nullptr, {}},
-    {item_kind::child, value_kind::none, use_required, ELMX_WS_PRESERVE, "Vyr:ColorSpaceSpecificationSpectrumGeneric", element_ColorSpaceSpecificationSpectrumGeneric,
-     LMX_OFFSET(ColorSpaceMunsellType, m_ColorSpaceSpecificationSpectrumGeneric, child, none), LMX_FLAG(ColorSpaceMunsellType, m_isset_ColorSpaceSpecificationSpectrumGeneric), position_of(k_ColorSpaceMunsellType_elements, element_ColorSpaceSpecificationSpectrumGeneric), position_of(k_ColorSpaceMunsellType_elements, element_ColorSpaceSpecificationSpectrumGeneric, 1), &ColorSpaceSpecificationSpectrumGeneric::k_class, nullptr, {}},
-    {item_kind::element, value_kind::text, use_required, ELMX_WS_PRESERVE, "Vyr:CollectionName", element_CollectionName,
-     LMX_OFFSET(ColorSpaceMunsellType, m_CollectionName, element, text), LMX_FLAG(ColorSpaceMunsellType, m_isset_CollectionName), position_of(k_ColorSpaceMunsellType_elements, element_CollectionName), position_of(k_ColorSpaceMunsellType_elements, element_CollectionName, 1), nullptr, &facets::NonEmptyString, {}},
-    {item_kind::element, value_kind::text, use_required, ELMX_WS_PRESERVE, "Vyr:ColorName", element_ColorName,
-     LMX_OFFSET(ColorSpaceMunsellType, m_ColorName, element, text), LMX_FLAG(ColorSpaceMunsellType, m_isset_ColorName), position_of(k_ColorSpaceMunsellType_elements, element_ColorName), position_of(k_ColorSpaceMunsellType_elements, element_ColorName, 1), nullptr, &facets::NonEmptyString, {}},
+    {item_kind::attribute, value_kind::text, use_name, ELMX_WS_PRESERVE, "Name", attribute_Name, LMX_OFFSET(ColorSpaceMunsellType, m_Name, attribute, text), LMX_FLAG(ColorSpaceMunsellType, m_isset_Name)},
+    {item_kind::child, value_kind::none, use_required, ELMX_WS_PRESERVE, "Vyr:ColorSpaceSpecificationSpectrumGeneric", element_ColorSpaceSpecificationSpectrumGeneric, LMX_OFFSET(ColorSpaceMunsellType, m_ColorSpaceSpecificationSpectrumGeneric, child, none), LMX_FLAG(ColorSpaceMunsellType, m_isset_ColorSpaceSpecificationSpectrumGeneric), position_of(k_ColorSpaceMunsellType_elements, element_ColorSpaceSpecificationSpectrumGeneric), 1, &ColorSpaceSpecificationSpectrumGeneric::k_class},
+    {item_kind::element, value_kind::text, use_required, ELMX_WS_PRESERVE, "Vyr:CollectionName", element_CollectionName, LMX_OFFSET(ColorSpaceMunsellType, m_CollectionName, element, text), LMX_FLAG(ColorSpaceMunsellType, m_isset_CollectionName), position_of(k_ColorSpaceMunsellType_elements, element_CollectionName), 1, nullptr, &facets::NonEmptyString},
+    {item_kind::element, value_kind::text, use_required, ELMX_WS_PRESERVE, "Vyr:ColorName", element_ColorName, LMX_OFFSET(ColorSpaceMunsellType, m_ColorName, element, text), LMX_FLAG(ColorSpaceMunsellType, m_isset_ColorName), position_of(k_ColorSpaceMunsellType_elements, element_ColorName), 1, nullptr, &facets::NonEmptyString},
 };
 constinit const s_class ColorSpaceMunsellType::k_class = {
     .name = "ColorSpaceMunsellType",
@@ -440,7 +377,6 @@ constinit const s_class ColorSpaceMunsellType::k_class = {
     .content = content_kind::children,
     .ns_map = k_ns_map,
     .id = &ColorSpaceMunsellType::id,
-    .xsi_type = "Vyr:ColorSpaceMunsellType",
     .attributes = std::span(k_items).first(std::size(k_ColorSpaceMunsellType_attributes) - 1),
     .elements = std::span(k_items).subspan(std::size(k_ColorSpaceMunsellType_attributes) - 1),
     .attribute_map = k_ColorSpaceMunsellType_attributes,
@@ -448,7 +384,7 @@ constinit const s_class ColorSpaceMunsellType::k_class = {
     .operations = &k_operations<ColorSpaceMunsellType>,
 };
 
-namespace { const char k_ColorSpaceMunsellType_id[] = "ColorSpaceMunsellType"; }
+const char k_ColorSpaceMunsellType_id[] = "ColorSpaceMunsellType";
 const char* ColorSpaceMunsellType::id = k_ColorSpaceMunsellType_id;
 ColorSpaceMunsellType::ColorSpaceMunsellType() = default;
 ColorSpaceMunsellType::ColorSpaceMunsellType(const ColorSpaceMunsellType& other) : ColorSpaceType() { lmx::copy(k_class, this, &other); }
@@ -469,7 +405,6 @@ lmx::elmx_error ColorSpaceMunsellType::set_ColorName(const std::u16string& value
 
 // Base
 
-namespace {
 constexpr s_event_map k_Base_elements[] = {
     element_event("CustomAttribute", element_CustomAttribute),
     element_event("Name", element_Name),
@@ -478,26 +413,18 @@ constexpr s_event_map k_Base_elements[] = {
     element_event("Density", element_Density),
     k_end_of_map,
 };
-}  // namespace
-
 constinit const s_item Base::k_items[] = {
-    {item_kind::child_list, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:CustomAttribute", element_CustomAttribute,
-     LMX_OFFSET(Base, m_CustomAttribute, child_list, none), k_no_flag, position_of(k_Base_elements, element_CustomAttribute), position_of(k_Base_elements, element_CustomAttribute, 1), &CustomAttributeType::k_class, nullptr, {}},
-    {item_kind::element, value_kind::text, use_required | use_name, ELMX_WS_PRESERVE, "Vyr:Name", element_Name,
-     LMX_OFFSET(Base, m_Name, element, text), LMX_FLAG(Base, m_isset_Name), position_of(k_Base_elements, element_Name), position_of(k_Base_elements, element_Name, 1), nullptr, &facets::NonEmptyString, {}},
-    {item_kind::element, value_kind::text, use_required, ELMX_WS_PRESERVE, "Vyr:Manufacturer", element_Manufacturer,
-     LMX_OFFSET(Base, m_Manufacturer, element, text), LMX_FLAG(Base, m_isset_Manufacturer), position_of(k_Base_elements, element_Manufacturer), position_of(k_Base_elements, element_Manufacturer, 1), nullptr, &facets::NonEmptyString, {}},
-    {item_kind::element, value_kind::text, use_required, ELMX_WS_PRESERVE, "Vyr:PartNumber", element_PartNumber,
-     LMX_OFFSET(Base, m_PartNumber, element, text), LMX_FLAG(Base, m_isset_PartNumber), position_of(k_Base_elements, element_PartNumber), position_of(k_Base_elements, element_PartNumber, 1), nullptr, &facets::NonEmptyString, {}},
-    {item_kind::element, value_kind::number, use_optional, ELMX_WS_COLLAPSE, "Vyr:Density", element_Density,
-     LMX_OFFSET(Base, m_Density, element, number), LMX_FLAG(Base, m_isset_Density), position_of(k_Base_elements, element_Density), position_of(k_Base_elements, element_Density, 1), nullptr, &facets::Positive, {}},
+    {item_kind::child_list, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:CustomAttribute", element_CustomAttribute, LMX_OFFSET(Base, m_CustomAttribute, child_list, none), k_no_flag, position_of(k_Base_elements, element_CustomAttribute), 1, &CustomAttributeType::k_class},
+    {item_kind::element, value_kind::text, use_required | use_name, ELMX_WS_PRESERVE, "Vyr:Name", element_Name, LMX_OFFSET(Base, m_Name, element, text), LMX_FLAG(Base, m_isset_Name), position_of(k_Base_elements, element_Name), 1, nullptr, &facets::NonEmptyString},
+    {item_kind::element, value_kind::text, use_required, ELMX_WS_PRESERVE, "Vyr:Manufacturer", element_Manufacturer, LMX_OFFSET(Base, m_Manufacturer, element, text), LMX_FLAG(Base, m_isset_Manufacturer), position_of(k_Base_elements, element_Manufacturer), 1, nullptr, &facets::NonEmptyString},
+    {item_kind::element, value_kind::text, use_required, ELMX_WS_PRESERVE, "Vyr:PartNumber", element_PartNumber, LMX_OFFSET(Base, m_PartNumber, element, text), LMX_FLAG(Base, m_isset_PartNumber), position_of(k_Base_elements, element_PartNumber), 1, nullptr, &facets::NonEmptyString},
+    {item_kind::element, value_kind::number, use_optional, ELMX_WS_COLLAPSE, "Vyr:Density", element_Density, LMX_OFFSET(Base, m_Density, element, number), LMX_FLAG(Base, m_isset_Density), position_of(k_Base_elements, element_Density), 1, nullptr, &facets::Positive},
 };
 constinit const s_class Base::k_class = {
     .name = "Base",
     .qualified_name = "Vyr:Base",
     .content = content_kind::children,
-    .elements = std::span(k_items).subspan(std::size(k_no_events) - 1),
-    .attribute_map = k_no_events,
+    .elements = k_items,
     .element_map = k_Base_elements,
     .operations = &k_operations<Base>,
 };
@@ -524,27 +451,21 @@ lmx::elmx_error Base::set_Density(double value) { return lmx::set_item(k_class, 
 
 // BaseElementType
 
-namespace {
 constexpr s_event_map k_BaseElementType_elements[] = {
     element_event("Base", element_Base),
     element_event("Contribution", element_Contribution),
     k_end_of_map,
 };
-}  // namespace
-
 constinit const s_item BaseElementType::k_items[] = {
-    {item_kind::child, value_kind::none, use_required, ELMX_WS_PRESERVE, "Vyr:Base", element_Base,
-     LMX_OFFSET(BaseElementType, m_Base, child, none), LMX_FLAG(BaseElementType, m_isset_Base), position_of(k_BaseElementType_elements, element_Base), position_of(k_BaseElementType_elements, element_Base, 1), &Base::k_class, nullptr, {}},
-    {item_kind::element, value_kind::number, use_required, ELMX_WS_COLLAPSE, "Vyr:Contribution", element_Contribution,
-     LMX_OFFSET(BaseElementType, m_Contribution, element, number), LMX_FLAG(BaseElementType, m_isset_Contribution), position_of(k_BaseElementType_elements, element_Contribution), position_of(k_BaseElementType_elements, element_Contribution, 1), nullptr, &facets::NonNegative, {}},
+    {item_kind::child, value_kind::none, use_required, ELMX_WS_PRESERVE, "Vyr:Base", element_Base, LMX_OFFSET(BaseElementType, m_Base, child, none), LMX_FLAG(BaseElementType, m_isset_Base), position_of(k_BaseElementType_elements, element_Base), 1, &Base::k_class},
+    {item_kind::element, value_kind::number, use_required, ELMX_WS_COLLAPSE, "Vyr:Contribution", element_Contribution, LMX_OFFSET(BaseElementType, m_Contribution, element, number), LMX_FLAG(BaseElementType, m_isset_Contribution), position_of(k_BaseElementType_elements, element_Contribution), 1, nullptr, &facets::NonNegative},
 };
 constinit const s_class BaseElementType::k_class = {
     .name = "BaseElementType",
     .qualified_name = "Vyr:BaseElementType",
     .content = content_kind::children,
     .ns_map = k_ns_map,
-    .elements = std::span(k_items).subspan(std::size(k_no_events) - 1),
-    .attribute_map = k_no_events,
+    .elements = k_items,
     .element_map = k_BaseElementType_elements,
     .operations = &k_operations<BaseElementType>,
 };
@@ -563,7 +484,6 @@ lmx::elmx_error BaseElementType::set_Contribution(double value) { return lmx::se
 
 // ColorSpaceRecipeType
 
-namespace {
 constexpr s_event_map k_ColorSpaceRecipeType_attributes[] = {
     attribute_event("Name", attribute_Name),
     k_end_of_map,
@@ -574,17 +494,11 @@ constexpr s_event_map k_ColorSpaceRecipeType_elements[] = {
     element_event("BaseElement", element_BaseElement),
     k_end_of_map,
 };
-}  // namespace
-
 constinit const s_item ColorSpaceRecipeType::k_items[] = {
-    {item_kind::attribute, value_kind::text, use_name, ELMX_WS_PRESERVE, "Name", attribute_Name,
-     LMX_OFFSET(ColorSpaceRecipeType, m_Name, attribute, text), LMX_FLAG(ColorSpaceRecipeType, m_isset_Name), 0, 0, nullptr, nullptr, {}},
-    {item_kind::child, value_kind::none, use_required, ELMX_WS_PRESERVE, "Vyr:ColorSpaceSpecificationSpectrumGeneric", element_ColorSpaceSpecificationSpectrumGeneric,
-     LMX_OFFSET(ColorSpaceRecipeType, m_ColorSpaceSpecificationSpectrumGeneric, child, none), LMX_FLAG(ColorSpaceRecipeType, m_isset_ColorSpaceSpecificationSpectrumGeneric), position_of(k_ColorSpaceRecipeType_elements, element_ColorSpaceSpecificationSpectrumGeneric), position_of(k_ColorSpaceRecipeType_elements, element_ColorSpaceSpecificationSpectrumGeneric, 1), &ColorSpaceSpecificationSpectrumGeneric::k_class, nullptr, {}},
-    {item_kind::child_list, value_kind::none, use_demanded | use_asked, ELMX_WS_PRESERVE, "Vyr:ColorantElement", element_ColorantElement,
-     LMX_OFFSET(ColorSpaceRecipeType, m_ColorantElement, child_list, none), k_no_flag, position_of(k_ColorSpaceRecipeType_elements, element_ColorantElement), position_of(k_ColorSpaceRecipeType_elements, element_ColorantElement, 1), &ColorantElementType::k_class, nullptr, {}},
-    {item_kind::optional_child, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:BaseElement", element_BaseElement,
-     LMX_OFFSET(ColorSpaceRecipeType, m_BaseElement, optional_child, none), LMX_FLAG(ColorSpaceRecipeType, m_isset_BaseElement), position_of(k_ColorSpaceRecipeType_elements, element_BaseElement), position_of(k_ColorSpaceRecipeType_elements, element_BaseElement, 1), &BaseElementType::k_class, nullptr, {}},
+    {item_kind::attribute, value_kind::text, use_name, ELMX_WS_PRESERVE, "Name", attribute_Name, LMX_OFFSET(ColorSpaceRecipeType, m_Name, attribute, text), LMX_FLAG(ColorSpaceRecipeType, m_isset_Name)},
+    {item_kind::child, value_kind::none, use_required, ELMX_WS_PRESERVE, "Vyr:ColorSpaceSpecificationSpectrumGeneric", element_ColorSpaceSpecificationSpectrumGeneric, LMX_OFFSET(ColorSpaceRecipeType, m_ColorSpaceSpecificationSpectrumGeneric, child, none), LMX_FLAG(ColorSpaceRecipeType, m_isset_ColorSpaceSpecificationSpectrumGeneric), position_of(k_ColorSpaceRecipeType_elements, element_ColorSpaceSpecificationSpectrumGeneric), 1, &ColorSpaceSpecificationSpectrumGeneric::k_class},
+    {item_kind::child_list, value_kind::none, use_demanded | use_asked, ELMX_WS_PRESERVE, "Vyr:ColorantElement", element_ColorantElement, LMX_OFFSET(ColorSpaceRecipeType, m_ColorantElement, child_list, none), k_no_flag, position_of(k_ColorSpaceRecipeType_elements, element_ColorantElement), 1, &ColorantElementType::k_class},
+    {item_kind::optional_child, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:BaseElement", element_BaseElement, LMX_OFFSET(ColorSpaceRecipeType, m_BaseElement, optional_child, none), LMX_FLAG(ColorSpaceRecipeType, m_isset_BaseElement), position_of(k_ColorSpaceRecipeType_elements, element_BaseElement), 1, &BaseElementType::k_class},
 };
 constinit const s_class ColorSpaceRecipeType::k_class = {
     .name = "ColorSpaceRecipeType",
@@ -593,7 +507,6 @@ constinit const s_class ColorSpaceRecipeType::k_class = {
     .content = content_kind::children,
     .ns_map = k_ns_map,
     .id = &ColorSpaceRecipeType::id,
-    .xsi_type = "Vyr:ColorSpaceRecipeType",
     .attributes = std::span(k_items).first(std::size(k_ColorSpaceRecipeType_attributes) - 1),
     .elements = std::span(k_items).subspan(std::size(k_ColorSpaceRecipeType_attributes) - 1),
     .attribute_map = k_ColorSpaceRecipeType_attributes,
@@ -601,7 +514,7 @@ constinit const s_class ColorSpaceRecipeType::k_class = {
     .operations = &k_operations<ColorSpaceRecipeType>,
 };
 
-namespace { const char k_ColorSpaceRecipeType_id[] = "ColorSpaceRecipeType"; }
+const char k_ColorSpaceRecipeType_id[] = "ColorSpaceRecipeType";
 const char* ColorSpaceRecipeType::id = k_ColorSpaceRecipeType_id;
 ColorSpaceRecipeType::ColorSpaceRecipeType() = default;
 ColorSpaceRecipeType::ColorSpaceRecipeType(const ColorSpaceRecipeType& other) : ColorSpaceType() { lmx::copy(k_class, this, &other); }
@@ -698,17 +611,14 @@ lmx::elmx_error ColorSpaceMunsell::unmarshal(lmx::c_xml_reader& reader, const st
 // Density
 
 constinit const s_item Density::k_items[] = {
-    {item_kind::content, value_kind::number, use_required, ELMX_WS_COLLAPSE, "", 0,
-     LMX_OFFSET(Density, m_Density, content, number), LMX_FLAG(Density, m_isset_Density), 0, 0, nullptr, &facets::Positive, {}},
+    {item_kind::content, value_kind::number, use_required, ELMX_WS_COLLAPSE, "", 0, LMX_OFFSET(Density, m_Density, content, number), LMX_FLAG(Density, m_isset_Density), 0, 0, nullptr, &facets::Positive},
 };
 constinit const s_class Density::k_class = {
     .name = "Density",
     .qualified_name = "Vyr:Density",
     .content = content_kind::simple,
     .nil_flag = LMX_FLAG(Density, m_isnil),
-    .elements = std::span(k_items).subspan(std::size(k_no_events) - 1),
-    .attribute_map = k_no_events,
-    .element_map = k_no_events,
+    .elements = k_items,
     .operations = &k_operations<Density>,
 };
 
@@ -725,7 +635,6 @@ lmx::elmx_error Density::set_Density(double value) { return lmx::set_item(k_clas
 
 // ColorantElementType_Colorant
 
-namespace {
 constexpr s_event_map k_ColorantElementType_Colorant_elements[] = {
     element_event("CustomAttribute", element_CustomAttribute),
     element_event("Name", element_Name),
@@ -734,26 +643,18 @@ constexpr s_event_map k_ColorantElementType_Colorant_elements[] = {
     element_event("Density", element_Density),
     k_end_of_map,
 };
-}  // namespace
-
 constinit const s_item ColorantElementType_Colorant::k_items[] = {
-    {item_kind::child_list, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:CustomAttribute", element_CustomAttribute,
-     LMX_OFFSET(ColorantElementType_Colorant, m_CustomAttribute, child_list, none), k_no_flag, position_of(k_ColorantElementType_Colorant_elements, element_CustomAttribute), position_of(k_ColorantElementType_Colorant_elements, element_CustomAttribute, 1), &CustomAttributeType::k_class, nullptr, {}},
-    {item_kind::element, value_kind::text, use_required | use_name, ELMX_WS_PRESERVE, "Vyr:Name", element_Name,
-     LMX_OFFSET(ColorantElementType_Colorant, m_Name, element, text), LMX_FLAG(ColorantElementType_Colorant, m_isset_Name), position_of(k_ColorantElementType_Colorant_elements, element_Name), position_of(k_ColorantElementType_Colorant_elements, element_Name, 1), nullptr, &facets::NonEmptyString, {}},
-    {item_kind::element, value_kind::text, use_required, ELMX_WS_PRESERVE, "Vyr:Manufacturer", element_Manufacturer,
-     LMX_OFFSET(ColorantElementType_Colorant, m_Manufacturer, element, text), LMX_FLAG(ColorantElementType_Colorant, m_isset_Manufacturer), position_of(k_ColorantElementType_Colorant_elements, element_Manufacturer), position_of(k_ColorantElementType_Colorant_elements, element_Manufacturer, 1), nullptr, &facets::NonEmptyString, {}},
-    {item_kind::element, value_kind::text, use_required, ELMX_WS_PRESERVE, "Vyr:PartNumber", element_PartNumber,
-     LMX_OFFSET(ColorantElementType_Colorant, m_PartNumber, element, text), LMX_FLAG(ColorantElementType_Colorant, m_isset_PartNumber), position_of(k_ColorantElementType_Colorant_elements, element_PartNumber), position_of(k_ColorantElementType_Colorant_elements, element_PartNumber, 1), nullptr, &facets::NonEmptyString, {}},
-    {item_kind::child, value_kind::none, use_required, ELMX_WS_PRESERVE, "Vyr:Density", element_Density,
-     LMX_OFFSET(ColorantElementType_Colorant, m_Density, child, none), LMX_FLAG(ColorantElementType_Colorant, m_isset_Density), position_of(k_ColorantElementType_Colorant_elements, element_Density), position_of(k_ColorantElementType_Colorant_elements, element_Density, 1), &Density::k_class, nullptr, {}},
+    {item_kind::child_list, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:CustomAttribute", element_CustomAttribute, LMX_OFFSET(ColorantElementType_Colorant, m_CustomAttribute, child_list, none), k_no_flag, position_of(k_ColorantElementType_Colorant_elements, element_CustomAttribute), 1, &CustomAttributeType::k_class},
+    {item_kind::element, value_kind::text, use_required | use_name, ELMX_WS_PRESERVE, "Vyr:Name", element_Name, LMX_OFFSET(ColorantElementType_Colorant, m_Name, element, text), LMX_FLAG(ColorantElementType_Colorant, m_isset_Name), position_of(k_ColorantElementType_Colorant_elements, element_Name), 1, nullptr, &facets::NonEmptyString},
+    {item_kind::element, value_kind::text, use_required, ELMX_WS_PRESERVE, "Vyr:Manufacturer", element_Manufacturer, LMX_OFFSET(ColorantElementType_Colorant, m_Manufacturer, element, text), LMX_FLAG(ColorantElementType_Colorant, m_isset_Manufacturer), position_of(k_ColorantElementType_Colorant_elements, element_Manufacturer), 1, nullptr, &facets::NonEmptyString},
+    {item_kind::element, value_kind::text, use_required, ELMX_WS_PRESERVE, "Vyr:PartNumber", element_PartNumber, LMX_OFFSET(ColorantElementType_Colorant, m_PartNumber, element, text), LMX_FLAG(ColorantElementType_Colorant, m_isset_PartNumber), position_of(k_ColorantElementType_Colorant_elements, element_PartNumber), 1, nullptr, &facets::NonEmptyString},
+    {item_kind::child, value_kind::none, use_required, ELMX_WS_PRESERVE, "Vyr:Density", element_Density, LMX_OFFSET(ColorantElementType_Colorant, m_Density, child, none), LMX_FLAG(ColorantElementType_Colorant, m_isset_Density), position_of(k_ColorantElementType_Colorant_elements, element_Density), 1, &Density::k_class},
 };
 constinit const s_class ColorantElementType_Colorant::k_class = {
     .name = "ColorantElementType_Colorant",
     .qualified_name = "Vyr:Colorant",
     .content = content_kind::children,
-    .elements = std::span(k_items).subspan(std::size(k_no_events) - 1),
-    .attribute_map = k_no_events,
+    .elements = k_items,
     .element_map = k_ColorantElementType_Colorant_elements,
     .operations = &k_operations<ColorantElementType_Colorant>,
 };
@@ -780,27 +681,21 @@ Density& ColorantElementType_Colorant::assign_Density(const Density& value) { re
 
 // ColorantElementType
 
-namespace {
 constexpr s_event_map k_ColorantElementType_elements[] = {
     element_event("Colorant", element_Colorant),
     element_event("Contribution", element_Contribution),
     k_end_of_map,
 };
-}  // namespace
-
 constinit const s_item ColorantElementType::k_items[] = {
-    {item_kind::child, value_kind::none, use_required, ELMX_WS_PRESERVE, "Vyr:Colorant", element_Colorant,
-     LMX_OFFSET(ColorantElementType, m_Colorant, child, none), LMX_FLAG(ColorantElementType, m_isset_Colorant), position_of(k_ColorantElementType_elements, element_Colorant), position_of(k_ColorantElementType_elements, element_Colorant, 1), &ColorantElementType_Colorant::k_class, nullptr, {}},
-    {item_kind::element, value_kind::number, use_required, ELMX_WS_COLLAPSE, "Vyr:Contribution", element_Contribution,
-     LMX_OFFSET(ColorantElementType, m_Contribution, element, number), LMX_FLAG(ColorantElementType, m_isset_Contribution), position_of(k_ColorantElementType_elements, element_Contribution), position_of(k_ColorantElementType_elements, element_Contribution, 1), nullptr, &facets::Fraction, {}},
+    {item_kind::child, value_kind::none, use_required, ELMX_WS_PRESERVE, "Vyr:Colorant", element_Colorant, LMX_OFFSET(ColorantElementType, m_Colorant, child, none), LMX_FLAG(ColorantElementType, m_isset_Colorant), position_of(k_ColorantElementType_elements, element_Colorant), 1, &ColorantElementType_Colorant::k_class},
+    {item_kind::element, value_kind::number, use_required, ELMX_WS_COLLAPSE, "Vyr:Contribution", element_Contribution, LMX_OFFSET(ColorantElementType, m_Contribution, element, number), LMX_FLAG(ColorantElementType, m_isset_Contribution), position_of(k_ColorantElementType_elements, element_Contribution), 1, nullptr, &facets::Fraction},
 };
 constinit const s_class ColorantElementType::k_class = {
     .name = "ColorantElementType",
     .qualified_name = "Vyr:ColorantElementType",
     .content = content_kind::children,
     .ns_map = k_ns_map,
-    .elements = std::span(k_items).subspan(std::size(k_no_events) - 1),
-    .attribute_map = k_no_events,
+    .elements = k_items,
     .element_map = k_ColorantElementType_elements,
     .operations = &k_operations<ColorantElementType>,
 };

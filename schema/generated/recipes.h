@@ -38,6 +38,7 @@ public:
     void swap(ColorName& other);
     void reset();
     bool is_occurs_ok() const;
+    static const lmx::s_class k_class;
 
     /// What stands ahead of the name proper.
     const std::u16string& get_PrefixName() const { return m_PrefixName; }
@@ -50,8 +51,6 @@ public:
     /// What follows the name proper, such as the finish.
     const std::u16string& get_SuffixName() const { return m_SuffixName; }
     lmx::elmx_error set_SuffixName(const std::u16string& value);
-
-    static const lmx::s_class k_class;
 
 protected:
     void marshal_attributes(lmx::c_xml_writer& writer) const { lmx::marshal_attributes(k_class, this, writer); }
@@ -87,6 +86,7 @@ public:
     void swap(Recipe& other);
     void reset();
     bool is_occurs_ok() const;
+    static const lmx::s_class k_class;
 
     /// One colorant with its share.
     std::size_t size_ColorantElement() const { return m_ColorantElement.size(); }
@@ -99,8 +99,6 @@ public:
     void delete_ColorantElement(std::size_t index);
     void clear_ColorantElement();
 
-    static const lmx::s_class k_class;
-
 protected:
     void marshal_attributes(lmx::c_xml_writer& writer) const { lmx::marshal_attributes(k_class, this, writer); }
     lmx::elmx_error marshal_child_elements(lmx::c_xml_writer& writer) const { return lmx::marshal_child_elements(k_class, this, writer); }
@@ -109,9 +107,6 @@ protected:
     bool unmarshal_body(lmx::c_xml_reader& reader, std::string* name, lmx::elmx_error* error) { return lmx::unmarshal_body(k_class, this, reader, name, error); }
 
 private:
-    enum item : std::size_t {
-        item_ColorantElement,
-    };
     static const lmx::s_item k_items[];
     lmx::c_list<ColorantElement> m_ColorantElement;
 };
@@ -132,6 +127,7 @@ public:
     void swap(ColorSpaceTINTORAType& other);
     void reset();
     bool is_occurs_ok() const;
+    static const lmx::s_class k_class;
 
     /// Name of the value.
     const std::u16string& get_Name() const { return m_Name; }
@@ -179,8 +175,6 @@ public:
     /// The class's identity; `getid` and `has_id` work on its address.
     static const char* id;
 
-    static const lmx::s_class k_class;
-
 protected:
     void marshal_attributes(lmx::c_xml_writer& writer) const { lmx::marshal_attributes(k_class, this, writer); }
     lmx::elmx_error marshal_child_elements(lmx::c_xml_writer& writer) const { return lmx::marshal_child_elements(k_class, this, writer); }
@@ -226,6 +220,7 @@ public:
     void swap(Colorant& other);
     void reset();
     bool is_occurs_ok() const;
+    static const lmx::s_class k_class;
 
     /// A named value of the user's own.
     std::size_t size_CustomAttributes() const { return m_CustomAttributes.size(); }
@@ -259,8 +254,6 @@ public:
     lmx::elmx_error set_Density(double value);
     bool isset_Density() const { return m_isset_Density; }
     void unset_Density() { m_isset_Density = false; }
-
-    static const lmx::s_class k_class;
 
 protected:
     void marshal_attributes(lmx::c_xml_writer& writer) const { lmx::marshal_attributes(k_class, this, writer); }
@@ -301,6 +294,7 @@ public:
     void swap(ColorantElement& other);
     void reset();
     bool is_occurs_ok() const;
+    static const lmx::s_class k_class;
 
     /// The colorant.
     Colorant& get_Colorant() { m_isset_Colorant = true; return m_Colorant; }
@@ -310,8 +304,6 @@ public:
     /// Share of the colorant, 0 or more, in the unit of the recipe.
     double get_Contribution() const { return m_Contribution; }
     lmx::elmx_error set_Contribution(double value);
-
-    static const lmx::s_class k_class;
 
 protected:
     void marshal_attributes(lmx::c_xml_writer& writer) const { lmx::marshal_attributes(k_class, this, writer); }
@@ -344,13 +336,12 @@ public:
     void swap(CustomAttributes& other);
     void reset();
     bool is_occurs_ok() const;
+    static const lmx::s_class k_class;
 
     /// The named value.
     CustomAttributeType& get_CustomAttribute() { m_isset_CustomAttribute = true; return m_CustomAttribute; }
     const CustomAttributeType& get_CustomAttribute() const { return m_CustomAttribute; }
     CustomAttributeType& assign_CustomAttribute(const CustomAttributeType& value);
-
-    static const lmx::s_class k_class;
 
 protected:
     void marshal_attributes(lmx::c_xml_writer& writer) const { lmx::marshal_attributes(k_class, this, writer); }
@@ -360,9 +351,6 @@ protected:
     bool unmarshal_body(lmx::c_xml_reader& reader, std::string* name, lmx::elmx_error* error) { return lmx::unmarshal_body(k_class, this, reader, name, error); }
 
 private:
-    enum item : std::size_t {
-        item_CustomAttribute,
-    };
     static const lmx::s_item k_items[];
     CustomAttributeType m_CustomAttribute;
     bool m_isset_CustomAttribute = false;
@@ -380,6 +368,7 @@ public:
     void swap(ColorAndFinish& other);
     void reset();
     bool is_occurs_ok() const;
+    static const lmx::s_class k_class;
 
     /// The finish.
     const std::u16string& get_Finish() const { return m_Finish.get(); }
@@ -391,8 +380,6 @@ public:
     ColorSpaceSpectralType& get_ColorSpaceSpectral() { m_isset_ColorSpaceSpectral = true; return m_ColorSpaceSpectral; }
     const ColorSpaceSpectralType& get_ColorSpaceSpectral() const { return m_ColorSpaceSpectral; }
     ColorSpaceSpectralType& assign_ColorSpaceSpectral(const ColorSpaceSpectralType& value);
-
-    static const lmx::s_class k_class;
 
 protected:
     void marshal_attributes(lmx::c_xml_writer& writer) const { lmx::marshal_attributes(k_class, this, writer); }
@@ -429,6 +416,7 @@ public:
     void swap(ColorSpaceNCSType& other);
     void reset();
     bool is_occurs_ok() const;
+    static const lmx::s_class k_class;
 
     /// Name of the value.
     const std::u16string& get_Name() const { return m_Name; }
@@ -447,8 +435,6 @@ public:
 
     /// The class's identity; `getid` and `has_id` work on its address.
     static const char* id;
-
-    static const lmx::s_class k_class;
 
 protected:
     void marshal_attributes(lmx::c_xml_writer& writer) const { lmx::marshal_attributes(k_class, this, writer); }
@@ -488,6 +474,7 @@ public:
     void swap(ColorSpaceMunsellType& other);
     void reset();
     bool is_occurs_ok() const;
+    static const lmx::s_class k_class;
 
     /// Name of the value.
     const std::u16string& get_Name() const { return m_Name; }
@@ -510,8 +497,6 @@ public:
 
     /// The class's identity; `getid` and `has_id` work on its address.
     static const char* id;
-
-    static const lmx::s_class k_class;
 
 protected:
     void marshal_attributes(lmx::c_xml_writer& writer) const { lmx::marshal_attributes(k_class, this, writer); }
@@ -550,6 +535,7 @@ public:
     void swap(Base& other);
     void reset();
     bool is_occurs_ok() const;
+    static const lmx::s_class k_class;
 
     /// A named value of the user's own.
     std::size_t size_CustomAttribute() const { return m_CustomAttribute.size(); }
@@ -579,8 +565,6 @@ public:
     lmx::elmx_error set_Density(double value);
     bool isset_Density() const { return m_isset_Density; }
     void unset_Density() { m_isset_Density = false; }
-
-    static const lmx::s_class k_class;
 
 protected:
     void marshal_attributes(lmx::c_xml_writer& writer) const { lmx::marshal_attributes(k_class, this, writer); }
@@ -621,6 +605,7 @@ public:
     void swap(BaseElementType& other);
     void reset();
     bool is_occurs_ok() const;
+    static const lmx::s_class k_class;
 
     /// The base.
     Base& get_Base() { m_isset_Base = true; return m_Base; }
@@ -630,8 +615,6 @@ public:
     /// Share of the base, 0 or more, in the unit of the recipe.
     double get_Contribution() const { return m_Contribution; }
     lmx::elmx_error set_Contribution(double value);
-
-    static const lmx::s_class k_class;
 
 protected:
     void marshal_attributes(lmx::c_xml_writer& writer) const { lmx::marshal_attributes(k_class, this, writer); }
@@ -668,6 +651,7 @@ public:
     void swap(ColorSpaceRecipeType& other);
     void reset();
     bool is_occurs_ok() const;
+    static const lmx::s_class k_class;
 
     /// Name of the value.
     const std::u16string& get_Name() const { return m_Name; }
@@ -700,8 +684,6 @@ public:
 
     /// The class's identity; `getid` and `has_id` work on its address.
     static const char* id;
-
-    static const lmx::s_class k_class;
 
 protected:
     void marshal_attributes(lmx::c_xml_writer& writer) const { lmx::marshal_attributes(k_class, this, writer); }
@@ -823,6 +805,7 @@ public:
     void swap(Density& other);
     void reset();
     bool is_occurs_ok() const;
+    static const lmx::s_class k_class;
 
     /// Density of the colorant, above 0 and without a stated unit, or nil where it is unknown.
     double get_Density() const { return m_Density; }
@@ -831,8 +814,6 @@ public:
     /// The `xsi:nil` state: an element without a value.
     bool isnil_Density() const { return m_isnil; }
     void setnil_Density() { m_isnil = true; }
-
-    static const lmx::s_class k_class;
 
 protected:
     void marshal_attributes(lmx::c_xml_writer& writer) const { lmx::marshal_attributes(k_class, this, writer); }
@@ -863,6 +844,7 @@ public:
     void swap(ColorantElementType_Colorant& other);
     void reset();
     bool is_occurs_ok() const;
+    static const lmx::s_class k_class;
 
     /// A named value of the user's own.
     std::size_t size_CustomAttribute() const { return m_CustomAttribute.size(); }
@@ -891,8 +873,6 @@ public:
     Density& get_Density() { m_isset_Density = true; return m_Density; }
     const Density& get_Density() const { return m_Density; }
     Density& assign_Density(const Density& value);
-
-    static const lmx::s_class k_class;
 
 protected:
     void marshal_attributes(lmx::c_xml_writer& writer) const { lmx::marshal_attributes(k_class, this, writer); }
@@ -933,6 +913,7 @@ public:
     void swap(ColorantElementType& other);
     void reset();
     bool is_occurs_ok() const;
+    static const lmx::s_class k_class;
 
     /// The colorant.
     ColorantElementType_Colorant& get_Colorant() { m_isset_Colorant = true; return m_Colorant; }
@@ -942,8 +923,6 @@ public:
     /// Share of the colorant in the mixture, 0 to 1.
     double get_Contribution() const { return m_Contribution; }
     lmx::elmx_error set_Contribution(double value);
-
-    static const lmx::s_class k_class;
 
 protected:
     void marshal_attributes(lmx::c_xml_writer& writer) const { lmx::marshal_attributes(k_class, this, writer); }

@@ -20,11 +20,10 @@ namespace com_vyrgraph_v2 {
 
 using namespace lmx;  // for the tables' sake
 
-static_assert(k_binding_version == 4, "run schema/generator/generate.py");
+static_assert(k_binding_version == 5, "run schema/generator/generate.py");
 
 // ColorSpaceDensityType
 
-namespace {
 constexpr s_event_map k_ColorSpaceDensityType_attributes[] = {
     attribute_event("Name", attribute_Name),
     k_end_of_map,
@@ -34,15 +33,10 @@ constexpr s_event_map k_ColorSpaceDensityType_elements[] = {
     element_event("Density", element_Density),
     k_end_of_map,
 };
-}  // namespace
-
 constinit const s_item ColorSpaceDensityType::k_items[] = {
-    {item_kind::attribute, value_kind::text, use_name, ELMX_WS_PRESERVE, "Name", attribute_Name,
-     LMX_OFFSET(ColorSpaceDensityType, m_Name, attribute, text), LMX_FLAG(ColorSpaceDensityType, m_isset_Name), 0, 0, nullptr, nullptr, {}},
-    {item_kind::child, value_kind::none, use_required, ELMX_WS_PRESERVE, "Vyr:ColorSpaceSpecificationSpectrumGeneric", element_ColorSpaceSpecificationSpectrumGeneric,
-     LMX_OFFSET(ColorSpaceDensityType, m_ColorSpaceSpecificationSpectrumGeneric, child, none), LMX_FLAG(ColorSpaceDensityType, m_isset_ColorSpaceSpecificationSpectrumGeneric), position_of(k_ColorSpaceDensityType_elements, element_ColorSpaceSpecificationSpectrumGeneric), position_of(k_ColorSpaceDensityType_elements, element_ColorSpaceSpecificationSpectrumGeneric, 1), &ColorSpaceSpecificationSpectrumGeneric::k_class, nullptr, {}},
-    {item_kind::child_list, value_kind::none, use_demanded | use_asked, ELMX_WS_PRESERVE, "Vyr:Density", element_Density,
-     LMX_OFFSET(ColorSpaceDensityType, m_Density, child_list, none), k_no_flag, position_of(k_ColorSpaceDensityType_elements, element_Density), position_of(k_ColorSpaceDensityType_elements, element_Density, 1), &DensityType::k_class, nullptr, {}},
+    {item_kind::attribute, value_kind::text, use_name, ELMX_WS_PRESERVE, "Name", attribute_Name, LMX_OFFSET(ColorSpaceDensityType, m_Name, attribute, text), LMX_FLAG(ColorSpaceDensityType, m_isset_Name)},
+    {item_kind::child, value_kind::none, use_required, ELMX_WS_PRESERVE, "Vyr:ColorSpaceSpecificationSpectrumGeneric", element_ColorSpaceSpecificationSpectrumGeneric, LMX_OFFSET(ColorSpaceDensityType, m_ColorSpaceSpecificationSpectrumGeneric, child, none), LMX_FLAG(ColorSpaceDensityType, m_isset_ColorSpaceSpecificationSpectrumGeneric), position_of(k_ColorSpaceDensityType_elements, element_ColorSpaceSpecificationSpectrumGeneric), 1, &ColorSpaceSpecificationSpectrumGeneric::k_class},
+    {item_kind::child_list, value_kind::none, use_demanded | use_asked, ELMX_WS_PRESERVE, "Vyr:Density", element_Density, LMX_OFFSET(ColorSpaceDensityType, m_Density, child_list, none), k_no_flag, position_of(k_ColorSpaceDensityType_elements, element_Density), 1, &DensityType::k_class},
 };
 constinit const s_class ColorSpaceDensityType::k_class = {
     .name = "ColorSpaceDensityType",
@@ -51,7 +45,6 @@ constinit const s_class ColorSpaceDensityType::k_class = {
     .content = content_kind::children,
     .ns_map = k_ns_map,
     .id = &ColorSpaceDensityType::id,
-    .xsi_type = "Vyr:ColorSpaceDensityType",
     .attributes = std::span(k_items).first(std::size(k_ColorSpaceDensityType_attributes) - 1),
     .elements = std::span(k_items).subspan(std::size(k_ColorSpaceDensityType_attributes) - 1),
     .attribute_map = k_ColorSpaceDensityType_attributes,
@@ -59,7 +52,7 @@ constinit const s_class ColorSpaceDensityType::k_class = {
     .operations = &k_operations<ColorSpaceDensityType>,
 };
 
-namespace { const char k_ColorSpaceDensityType_id[] = "ColorSpaceDensityType"; }
+const char k_ColorSpaceDensityType_id[] = "ColorSpaceDensityType";
 const char* ColorSpaceDensityType::id = k_ColorSpaceDensityType_id;
 ColorSpaceDensityType::ColorSpaceDensityType() = default;
 ColorSpaceDensityType::ColorSpaceDensityType(const ColorSpaceDensityType& other) : ColorSpaceType() { lmx::copy(k_class, this, &other); }
@@ -84,7 +77,6 @@ void ColorSpaceDensityType::clear_Density() { m_Density.clear(); }
 
 // ColorSpaceSpectralType
 
-namespace {
 constexpr s_event_map k_ColorSpaceSpectralType_attributes[] = {
     attribute_event("Name", attribute_Name),
     k_end_of_map,
@@ -94,15 +86,10 @@ constexpr s_event_map k_ColorSpaceSpectralType_elements[] = {
     element_event("ReflectancePoint", element_ReflectancePoint),
     k_end_of_map,
 };
-}  // namespace
-
 constinit const s_item ColorSpaceSpectralType::k_items[] = {
-    {item_kind::attribute, value_kind::text, use_name, ELMX_WS_PRESERVE, "Name", attribute_Name,
-     LMX_OFFSET(ColorSpaceSpectralType, m_Name, attribute, text), LMX_FLAG(ColorSpaceSpectralType, m_isset_Name), 0, 0, nullptr, nullptr, {}},
-    {item_kind::child, value_kind::none, use_required, ELMX_WS_PRESERVE, "Vyr:ColorSpaceSpecificationSpectrumSpectral", element_ColorSpaceSpecificationSpectrumSpectral,
-     LMX_OFFSET(ColorSpaceSpectralType, m_ColorSpaceSpecificationSpectrumSpectral, child, none), LMX_FLAG(ColorSpaceSpectralType, m_isset_ColorSpaceSpecificationSpectrumSpectral), position_of(k_ColorSpaceSpectralType_elements, element_ColorSpaceSpecificationSpectrumSpectral), position_of(k_ColorSpaceSpectralType_elements, element_ColorSpaceSpecificationSpectrumSpectral, 1), &ColorSpaceSpecificationSpectrumSpectral::k_class, nullptr, {}},
-    {item_kind::child_list, value_kind::none, use_demanded | use_asked, ELMX_WS_PRESERVE, "Vyr:ReflectancePoint", element_ReflectancePoint,
-     LMX_OFFSET(ColorSpaceSpectralType, m_ReflectancePoint, child_list, none), k_no_flag, position_of(k_ColorSpaceSpectralType_elements, element_ReflectancePoint), position_of(k_ColorSpaceSpectralType_elements, element_ReflectancePoint, 1), &ReflectancePointType::k_class, nullptr, {}},
+    {item_kind::attribute, value_kind::text, use_name, ELMX_WS_PRESERVE, "Name", attribute_Name, LMX_OFFSET(ColorSpaceSpectralType, m_Name, attribute, text), LMX_FLAG(ColorSpaceSpectralType, m_isset_Name)},
+    {item_kind::child, value_kind::none, use_required, ELMX_WS_PRESERVE, "Vyr:ColorSpaceSpecificationSpectrumSpectral", element_ColorSpaceSpecificationSpectrumSpectral, LMX_OFFSET(ColorSpaceSpectralType, m_ColorSpaceSpecificationSpectrumSpectral, child, none), LMX_FLAG(ColorSpaceSpectralType, m_isset_ColorSpaceSpecificationSpectrumSpectral), position_of(k_ColorSpaceSpectralType_elements, element_ColorSpaceSpecificationSpectrumSpectral), 1, &ColorSpaceSpecificationSpectrumSpectral::k_class},
+    {item_kind::child_list, value_kind::none, use_demanded | use_asked, ELMX_WS_PRESERVE, "Vyr:ReflectancePoint", element_ReflectancePoint, LMX_OFFSET(ColorSpaceSpectralType, m_ReflectancePoint, child_list, none), k_no_flag, position_of(k_ColorSpaceSpectralType_elements, element_ReflectancePoint), 1, &ReflectancePointType::k_class},
 };
 constinit const s_class ColorSpaceSpectralType::k_class = {
     .name = "ColorSpaceSpectralType",
@@ -111,7 +98,6 @@ constinit const s_class ColorSpaceSpectralType::k_class = {
     .content = content_kind::children,
     .ns_map = k_ns_map,
     .id = &ColorSpaceSpectralType::id,
-    .xsi_type = "Vyr:ColorSpaceSpectralType",
     .attributes = std::span(k_items).first(std::size(k_ColorSpaceSpectralType_attributes) - 1),
     .elements = std::span(k_items).subspan(std::size(k_ColorSpaceSpectralType_attributes) - 1),
     .attribute_map = k_ColorSpaceSpectralType_attributes,
@@ -119,7 +105,7 @@ constinit const s_class ColorSpaceSpectralType::k_class = {
     .operations = &k_operations<ColorSpaceSpectralType>,
 };
 
-namespace { const char k_ColorSpaceSpectralType_id[] = "ColorSpaceSpectralType"; }
+const char k_ColorSpaceSpectralType_id[] = "ColorSpaceSpectralType";
 const char* ColorSpaceSpectralType::id = k_ColorSpaceSpectralType_id;
 ColorSpaceSpectralType::ColorSpaceSpectralType() = default;
 ColorSpaceSpectralType::ColorSpaceSpectralType(const ColorSpaceSpectralType& other) : ColorSpaceType() { lmx::copy(k_class, this, &other); }
@@ -144,7 +130,6 @@ void ColorSpaceSpectralType::clear_ReflectancePoint() { m_ReflectancePoint.clear
 
 // ColorSpaceEmissiveSpectralType
 
-namespace {
 constexpr s_event_map k_ColorSpaceEmissiveSpectralType_attributes[] = {
     attribute_event("Name", attribute_Name),
     k_end_of_map,
@@ -154,15 +139,10 @@ constexpr s_event_map k_ColorSpaceEmissiveSpectralType_elements[] = {
     element_event("EmissiveSpectralPoint", element_EmissiveSpectralPoint),
     k_end_of_map,
 };
-}  // namespace
-
 constinit const s_item ColorSpaceEmissiveSpectralType::k_items[] = {
-    {item_kind::attribute, value_kind::text, use_name, ELMX_WS_PRESERVE, "Name", attribute_Name,
-     LMX_OFFSET(ColorSpaceEmissiveSpectralType, m_Name, attribute, text), LMX_FLAG(ColorSpaceEmissiveSpectralType, m_isset_Name), 0, 0, nullptr, nullptr, {}},
-    {item_kind::child, value_kind::none, use_required, ELMX_WS_PRESERVE, "Vyr:ColorSpaceSpecificationEmissiveSpectral", element_ColorSpaceSpecificationEmissiveSpectral,
-     LMX_OFFSET(ColorSpaceEmissiveSpectralType, m_ColorSpaceSpecificationEmissiveSpectral, child, none), LMX_FLAG(ColorSpaceEmissiveSpectralType, m_isset_ColorSpaceSpecificationEmissiveSpectral), position_of(k_ColorSpaceEmissiveSpectralType_elements, element_ColorSpaceSpecificationEmissiveSpectral), position_of(k_ColorSpaceEmissiveSpectralType_elements, element_ColorSpaceSpecificationEmissiveSpectral, 1), &ColorSpaceSpecificationEmissiveSpectral::k_class, nullptr, {}},
-    {item_kind::child_list, value_kind::none, use_demanded | use_asked, ELMX_WS_PRESERVE, "Vyr:EmissiveSpectralPoint", element_EmissiveSpectralPoint,
-     LMX_OFFSET(ColorSpaceEmissiveSpectralType, m_EmissiveSpectralPoint, child_list, none), k_no_flag, position_of(k_ColorSpaceEmissiveSpectralType_elements, element_EmissiveSpectralPoint), position_of(k_ColorSpaceEmissiveSpectralType_elements, element_EmissiveSpectralPoint, 1), &EmissiveSpectralPointType::k_class, nullptr, {}},
+    {item_kind::attribute, value_kind::text, use_name, ELMX_WS_PRESERVE, "Name", attribute_Name, LMX_OFFSET(ColorSpaceEmissiveSpectralType, m_Name, attribute, text), LMX_FLAG(ColorSpaceEmissiveSpectralType, m_isset_Name)},
+    {item_kind::child, value_kind::none, use_required, ELMX_WS_PRESERVE, "Vyr:ColorSpaceSpecificationEmissiveSpectral", element_ColorSpaceSpecificationEmissiveSpectral, LMX_OFFSET(ColorSpaceEmissiveSpectralType, m_ColorSpaceSpecificationEmissiveSpectral, child, none), LMX_FLAG(ColorSpaceEmissiveSpectralType, m_isset_ColorSpaceSpecificationEmissiveSpectral), position_of(k_ColorSpaceEmissiveSpectralType_elements, element_ColorSpaceSpecificationEmissiveSpectral), 1, &ColorSpaceSpecificationEmissiveSpectral::k_class},
+    {item_kind::child_list, value_kind::none, use_demanded | use_asked, ELMX_WS_PRESERVE, "Vyr:EmissiveSpectralPoint", element_EmissiveSpectralPoint, LMX_OFFSET(ColorSpaceEmissiveSpectralType, m_EmissiveSpectralPoint, child_list, none), k_no_flag, position_of(k_ColorSpaceEmissiveSpectralType_elements, element_EmissiveSpectralPoint), 1, &EmissiveSpectralPointType::k_class},
 };
 constinit const s_class ColorSpaceEmissiveSpectralType::k_class = {
     .name = "ColorSpaceEmissiveSpectralType",
@@ -171,7 +151,6 @@ constinit const s_class ColorSpaceEmissiveSpectralType::k_class = {
     .content = content_kind::children,
     .ns_map = k_ns_map,
     .id = &ColorSpaceEmissiveSpectralType::id,
-    .xsi_type = "Vyr:ColorSpaceEmissiveSpectralType",
     .attributes = std::span(k_items).first(std::size(k_ColorSpaceEmissiveSpectralType_attributes) - 1),
     .elements = std::span(k_items).subspan(std::size(k_ColorSpaceEmissiveSpectralType_attributes) - 1),
     .attribute_map = k_ColorSpaceEmissiveSpectralType_attributes,
@@ -179,7 +158,7 @@ constinit const s_class ColorSpaceEmissiveSpectralType::k_class = {
     .operations = &k_operations<ColorSpaceEmissiveSpectralType>,
 };
 
-namespace { const char k_ColorSpaceEmissiveSpectralType_id[] = "ColorSpaceEmissiveSpectralType"; }
+const char k_ColorSpaceEmissiveSpectralType_id[] = "ColorSpaceEmissiveSpectralType";
 const char* ColorSpaceEmissiveSpectralType::id = k_ColorSpaceEmissiveSpectralType_id;
 ColorSpaceEmissiveSpectralType::ColorSpaceEmissiveSpectralType() = default;
 ColorSpaceEmissiveSpectralType::ColorSpaceEmissiveSpectralType(const ColorSpaceEmissiveSpectralType& other) : ColorSpaceType() { lmx::copy(k_class, this, &other); }
@@ -204,7 +183,6 @@ void ColorSpaceEmissiveSpectralType::clear_EmissiveSpectralPoint() { m_EmissiveS
 
 // ColorSpaceGenericType
 
-namespace {
 constexpr s_event_map k_ColorSpaceGenericType_attributes[] = {
     attribute_event("Name", attribute_Name),
     k_end_of_map,
@@ -214,15 +192,10 @@ constexpr s_event_map k_ColorSpaceGenericType_elements[] = {
     element_event("Axis", element_Axis),
     k_end_of_map,
 };
-}  // namespace
-
 constinit const s_item ColorSpaceGenericType::k_items[] = {
-    {item_kind::attribute, value_kind::text, use_required | use_name, ELMX_WS_PRESERVE, "Name", attribute_Name,
-     LMX_OFFSET(ColorSpaceGenericType, m_Name, attribute, text), LMX_FLAG(ColorSpaceGenericType, m_isset_Name), 0, 0, nullptr, nullptr, {}},
-    {item_kind::child, value_kind::none, use_required, ELMX_WS_PRESERVE, "Vyr:ColorSpaceSpecificationSpectrumGeneric", element_ColorSpaceSpecificationSpectrumGeneric,
-     LMX_OFFSET(ColorSpaceGenericType, m_ColorSpaceSpecificationSpectrumGeneric, child, none), LMX_FLAG(ColorSpaceGenericType, m_isset_ColorSpaceSpecificationSpectrumGeneric), position_of(k_ColorSpaceGenericType_elements, element_ColorSpaceSpecificationSpectrumGeneric), position_of(k_ColorSpaceGenericType_elements, element_ColorSpaceSpecificationSpectrumGeneric, 1), &ColorSpaceSpecificationSpectrumGeneric::k_class, nullptr, {}},
-    {item_kind::child_list, value_kind::none, use_demanded | use_asked, ELMX_WS_PRESERVE, "Vyr:Axis", element_Axis,
-     LMX_OFFSET(ColorSpaceGenericType, m_Axis, child_list, none), k_no_flag, position_of(k_ColorSpaceGenericType_elements, element_Axis), position_of(k_ColorSpaceGenericType_elements, element_Axis, 1), &AxisType::k_class, nullptr, {}},
+    {item_kind::attribute, value_kind::text, use_required | use_name, ELMX_WS_PRESERVE, "Name", attribute_Name, LMX_OFFSET(ColorSpaceGenericType, m_Name, attribute, text), LMX_FLAG(ColorSpaceGenericType, m_isset_Name)},
+    {item_kind::child, value_kind::none, use_required, ELMX_WS_PRESERVE, "Vyr:ColorSpaceSpecificationSpectrumGeneric", element_ColorSpaceSpecificationSpectrumGeneric, LMX_OFFSET(ColorSpaceGenericType, m_ColorSpaceSpecificationSpectrumGeneric, child, none), LMX_FLAG(ColorSpaceGenericType, m_isset_ColorSpaceSpecificationSpectrumGeneric), position_of(k_ColorSpaceGenericType_elements, element_ColorSpaceSpecificationSpectrumGeneric), 1, &ColorSpaceSpecificationSpectrumGeneric::k_class},
+    {item_kind::child_list, value_kind::none, use_demanded | use_asked, ELMX_WS_PRESERVE, "Vyr:Axis", element_Axis, LMX_OFFSET(ColorSpaceGenericType, m_Axis, child_list, none), k_no_flag, position_of(k_ColorSpaceGenericType_elements, element_Axis), 1, &AxisType::k_class},
 };
 constinit const s_class ColorSpaceGenericType::k_class = {
     .name = "ColorSpaceGenericType",
@@ -231,7 +204,6 @@ constinit const s_class ColorSpaceGenericType::k_class = {
     .content = content_kind::children,
     .ns_map = k_ns_map,
     .id = &ColorSpaceGenericType::id,
-    .xsi_type = "Vyr:ColorSpaceGenericType",
     .attributes = std::span(k_items).first(std::size(k_ColorSpaceGenericType_attributes) - 1),
     .elements = std::span(k_items).subspan(std::size(k_ColorSpaceGenericType_attributes) - 1),
     .attribute_map = k_ColorSpaceGenericType_attributes,
@@ -239,7 +211,7 @@ constinit const s_class ColorSpaceGenericType::k_class = {
     .operations = &k_operations<ColorSpaceGenericType>,
 };
 
-namespace { const char k_ColorSpaceGenericType_id[] = "ColorSpaceGenericType"; }
+const char k_ColorSpaceGenericType_id[] = "ColorSpaceGenericType";
 const char* ColorSpaceGenericType::id = k_ColorSpaceGenericType_id;
 ColorSpaceGenericType::ColorSpaceGenericType() = default;
 ColorSpaceGenericType::ColorSpaceGenericType(const ColorSpaceGenericType& other) : ColorSpaceType() { lmx::copy(k_class, this, &other); }
@@ -264,7 +236,6 @@ void ColorSpaceGenericType::clear_Axis() { m_Axis.clear(); }
 
 // ColorSpaceEmissiveGenericType
 
-namespace {
 constexpr s_event_map k_ColorSpaceEmissiveGenericType_attributes[] = {
     attribute_event("Name", attribute_Name),
     k_end_of_map,
@@ -274,15 +245,10 @@ constexpr s_event_map k_ColorSpaceEmissiveGenericType_elements[] = {
     element_event("Axis", element_Axis),
     k_end_of_map,
 };
-}  // namespace
-
 constinit const s_item ColorSpaceEmissiveGenericType::k_items[] = {
-    {item_kind::attribute, value_kind::text, use_required | use_name, ELMX_WS_PRESERVE, "Name", attribute_Name,
-     LMX_OFFSET(ColorSpaceEmissiveGenericType, m_Name, attribute, text), LMX_FLAG(ColorSpaceEmissiveGenericType, m_isset_Name), 0, 0, nullptr, nullptr, {}},
-    {item_kind::child, value_kind::none, use_required, ELMX_WS_PRESERVE, "Vyr:ColorSpaceSpecificationEmissiveGeneric", element_ColorSpaceSpecificationEmissiveGeneric,
-     LMX_OFFSET(ColorSpaceEmissiveGenericType, m_ColorSpaceSpecificationEmissiveGeneric, child, none), LMX_FLAG(ColorSpaceEmissiveGenericType, m_isset_ColorSpaceSpecificationEmissiveGeneric), position_of(k_ColorSpaceEmissiveGenericType_elements, element_ColorSpaceSpecificationEmissiveGeneric), position_of(k_ColorSpaceEmissiveGenericType_elements, element_ColorSpaceSpecificationEmissiveGeneric, 1), &ColorSpaceSpecificationEmissiveGeneric::k_class, nullptr, {}},
-    {item_kind::child_list, value_kind::none, use_demanded | use_asked, ELMX_WS_PRESERVE, "Vyr:Axis", element_Axis,
-     LMX_OFFSET(ColorSpaceEmissiveGenericType, m_Axis, child_list, none), k_no_flag, position_of(k_ColorSpaceEmissiveGenericType_elements, element_Axis), position_of(k_ColorSpaceEmissiveGenericType_elements, element_Axis, 1), &AxisType::k_class, nullptr, {}},
+    {item_kind::attribute, value_kind::text, use_required | use_name, ELMX_WS_PRESERVE, "Name", attribute_Name, LMX_OFFSET(ColorSpaceEmissiveGenericType, m_Name, attribute, text), LMX_FLAG(ColorSpaceEmissiveGenericType, m_isset_Name)},
+    {item_kind::child, value_kind::none, use_required, ELMX_WS_PRESERVE, "Vyr:ColorSpaceSpecificationEmissiveGeneric", element_ColorSpaceSpecificationEmissiveGeneric, LMX_OFFSET(ColorSpaceEmissiveGenericType, m_ColorSpaceSpecificationEmissiveGeneric, child, none), LMX_FLAG(ColorSpaceEmissiveGenericType, m_isset_ColorSpaceSpecificationEmissiveGeneric), position_of(k_ColorSpaceEmissiveGenericType_elements, element_ColorSpaceSpecificationEmissiveGeneric), 1, &ColorSpaceSpecificationEmissiveGeneric::k_class},
+    {item_kind::child_list, value_kind::none, use_demanded | use_asked, ELMX_WS_PRESERVE, "Vyr:Axis", element_Axis, LMX_OFFSET(ColorSpaceEmissiveGenericType, m_Axis, child_list, none), k_no_flag, position_of(k_ColorSpaceEmissiveGenericType_elements, element_Axis), 1, &AxisType::k_class},
 };
 constinit const s_class ColorSpaceEmissiveGenericType::k_class = {
     .name = "ColorSpaceEmissiveGenericType",
@@ -291,7 +257,6 @@ constinit const s_class ColorSpaceEmissiveGenericType::k_class = {
     .content = content_kind::children,
     .ns_map = k_ns_map,
     .id = &ColorSpaceEmissiveGenericType::id,
-    .xsi_type = "Vyr:ColorSpaceEmissiveGenericType",
     .attributes = std::span(k_items).first(std::size(k_ColorSpaceEmissiveGenericType_attributes) - 1),
     .elements = std::span(k_items).subspan(std::size(k_ColorSpaceEmissiveGenericType_attributes) - 1),
     .attribute_map = k_ColorSpaceEmissiveGenericType_attributes,
@@ -299,7 +264,7 @@ constinit const s_class ColorSpaceEmissiveGenericType::k_class = {
     .operations = &k_operations<ColorSpaceEmissiveGenericType>,
 };
 
-namespace { const char k_ColorSpaceEmissiveGenericType_id[] = "ColorSpaceEmissiveGenericType"; }
+const char k_ColorSpaceEmissiveGenericType_id[] = "ColorSpaceEmissiveGenericType";
 const char* ColorSpaceEmissiveGenericType::id = k_ColorSpaceEmissiveGenericType_id;
 ColorSpaceEmissiveGenericType::ColorSpaceEmissiveGenericType() = default;
 ColorSpaceEmissiveGenericType::ColorSpaceEmissiveGenericType(const ColorSpaceEmissiveGenericType& other) : ColorSpaceType() { lmx::copy(k_class, this, &other); }
@@ -409,18 +374,13 @@ lmx::elmx_error ColorSpaceEmissiveSpectral::unmarshal(lmx::c_xml_reader& reader,
 
 // ReflectancePointType
 
-namespace {
 constexpr s_event_map k_ReflectancePointType_attributes[] = {
     attribute_event("Wavelength", attribute_Wavelength),
     k_end_of_map,
 };
-}  // namespace
-
 constinit const s_item ReflectancePointType::k_items[] = {
-    {item_kind::attribute, value_kind::number, use_required, ELMX_WS_COLLAPSE, "Wavelength", attribute_Wavelength,
-     LMX_OFFSET(ReflectancePointType, m_Wavelength, attribute, number), LMX_FLAG(ReflectancePointType, m_isset_Wavelength), 0, 0, nullptr, &facets::Wavelength, {}},
-    {item_kind::content, value_kind::number, use_required, ELMX_WS_COLLAPSE, "", 0,
-     LMX_OFFSET(ReflectancePointType, m_ReflectancePointType, content, number), LMX_FLAG(ReflectancePointType, m_isset_ReflectancePointType), 0, 0, nullptr, &facets::Reflectance, {}},
+    {item_kind::attribute, value_kind::number, use_required, ELMX_WS_COLLAPSE, "Wavelength", attribute_Wavelength, LMX_OFFSET(ReflectancePointType, m_Wavelength, attribute, number), LMX_FLAG(ReflectancePointType, m_isset_Wavelength), 0, 0, nullptr, &facets::Wavelength},
+    {item_kind::content, value_kind::number, use_required, ELMX_WS_COLLAPSE, "", 0, LMX_OFFSET(ReflectancePointType, m_ReflectancePointType, content, number), LMX_FLAG(ReflectancePointType, m_isset_ReflectancePointType), 0, 0, nullptr, &facets::Reflectance},
 };
 constinit const s_class ReflectancePointType::k_class = {
     .name = "ReflectancePointType",
@@ -430,7 +390,6 @@ constinit const s_class ReflectancePointType::k_class = {
     .attributes = std::span(k_items).first(std::size(k_ReflectancePointType_attributes) - 1),
     .elements = std::span(k_items).subspan(std::size(k_ReflectancePointType_attributes) - 1),
     .attribute_map = k_ReflectancePointType_attributes,
-    .element_map = k_no_events,
     .operations = &k_operations<ReflectancePointType>,
 };
 
@@ -448,18 +407,13 @@ lmx::elmx_error ReflectancePointType::set_ReflectancePointType(double value) { r
 
 // EmissiveSpectralPointType
 
-namespace {
 constexpr s_event_map k_EmissiveSpectralPointType_attributes[] = {
     attribute_event("Wavelength", attribute_Wavelength),
     k_end_of_map,
 };
-}  // namespace
-
 constinit const s_item EmissiveSpectralPointType::k_items[] = {
-    {item_kind::attribute, value_kind::number, use_required, ELMX_WS_COLLAPSE, "Wavelength", attribute_Wavelength,
-     LMX_OFFSET(EmissiveSpectralPointType, m_Wavelength, attribute, number), LMX_FLAG(EmissiveSpectralPointType, m_isset_Wavelength), 0, 0, nullptr, &facets::Wavelength, {}},
-    {item_kind::content, value_kind::number, use_required, ELMX_WS_COLLAPSE, "", 0,
-     LMX_OFFSET(EmissiveSpectralPointType, m_EmissiveSpectralPointType, content, number), LMX_FLAG(EmissiveSpectralPointType, m_isset_EmissiveSpectralPointType), 0, 0, nullptr, nullptr, {}},
+    {item_kind::attribute, value_kind::number, use_required, ELMX_WS_COLLAPSE, "Wavelength", attribute_Wavelength, LMX_OFFSET(EmissiveSpectralPointType, m_Wavelength, attribute, number), LMX_FLAG(EmissiveSpectralPointType, m_isset_Wavelength), 0, 0, nullptr, &facets::Wavelength},
+    {item_kind::content, value_kind::number, use_required, ELMX_WS_COLLAPSE, "", 0, LMX_OFFSET(EmissiveSpectralPointType, m_EmissiveSpectralPointType, content, number), LMX_FLAG(EmissiveSpectralPointType, m_isset_EmissiveSpectralPointType)},
 };
 constinit const s_class EmissiveSpectralPointType::k_class = {
     .name = "EmissiveSpectralPointType",
@@ -469,7 +423,6 @@ constinit const s_class EmissiveSpectralPointType::k_class = {
     .attributes = std::span(k_items).first(std::size(k_EmissiveSpectralPointType_attributes) - 1),
     .elements = std::span(k_items).subspan(std::size(k_EmissiveSpectralPointType_attributes) - 1),
     .attribute_map = k_EmissiveSpectralPointType_attributes,
-    .element_map = k_no_events,
     .operations = &k_operations<EmissiveSpectralPointType>,
 };
 
@@ -487,27 +440,21 @@ lmx::elmx_error EmissiveSpectralPointType::set_EmissiveSpectralPointType(double 
 
 // AxisValueChoice
 
-namespace {
 constexpr s_event_map k_AxisValueChoice_elements[] = {
     element_event("AxisFloatingPointValue", element_AxisFloatingPointValue),
     element_event("AxisStringValue", element_AxisStringValue),
     k_end_of_map,
 };
-}  // namespace
-
 constinit const s_item AxisValueChoice::k_items[] = {
-    {item_kind::alternative, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:AxisFloatingPointValue", element_AxisFloatingPointValue,
-     0, k_no_flag, position_of(k_AxisValueChoice_elements, element_AxisFloatingPointValue), position_of(k_AxisValueChoice_elements, element_AxisFloatingPointValue, 1), &FloatingPointValueType::k_class, nullptr, {}},
-    {item_kind::alternative, value_kind::text, use_optional, ELMX_WS_PRESERVE, "Vyr:AxisStringValue", element_AxisStringValue,
-     0, k_no_flag, position_of(k_AxisValueChoice_elements, element_AxisStringValue), position_of(k_AxisValueChoice_elements, element_AxisStringValue, 1), nullptr, nullptr, {}},
+    {item_kind::alternative, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:AxisFloatingPointValue", element_AxisFloatingPointValue, 0, k_no_flag, position_of(k_AxisValueChoice_elements, element_AxisFloatingPointValue), 1, &FloatingPointValueType::k_class},
+    {item_kind::alternative, value_kind::text, use_optional, ELMX_WS_PRESERVE, "Vyr:AxisStringValue", element_AxisStringValue, 0, k_no_flag, position_of(k_AxisValueChoice_elements, element_AxisStringValue), 1},
 };
 constinit const s_class AxisValueChoice::k_class = {
     .name = "AxisValueChoice",
     .qualified_name = "Vyr:AxisValueChoice",
     .content = content_kind::choice,
     .choice = LMX_CHOICE(AxisValueChoice, m_choice),
-    .elements = std::span(k_items).subspan(std::size(k_no_events) - 1),
-    .attribute_map = k_no_events,
+    .elements = k_items,
     .element_map = k_AxisValueChoice_elements,
     .operations = &k_operations<AxisValueChoice>,
 };
@@ -528,27 +475,21 @@ lmx::elmx_error AxisValueChoice::set_AxisStringValue(const std::u16string& value
 
 // AxisType
 
-namespace {
 constexpr s_event_map k_AxisType_elements[] = {
     element_event("AxisName", element_AxisName),
     element_event("AxisValueChoice", element_AxisValueChoice),
     k_end_of_map,
 };
-}  // namespace
-
 constinit const s_item AxisType::k_items[] = {
-    {item_kind::element, value_kind::text, use_required | use_name, ELMX_WS_PRESERVE, "Vyr:AxisName", element_AxisName,
-     LMX_OFFSET(AxisType, m_AxisName, element, text), LMX_FLAG(AxisType, m_isset_AxisName), position_of(k_AxisType_elements, element_AxisName), position_of(k_AxisType_elements, element_AxisName, 1), nullptr, nullptr, {}},
-    {item_kind::child, value_kind::none, use_required, ELMX_WS_PRESERVE, "Vyr:AxisValueChoice", element_AxisValueChoice,
-     LMX_OFFSET(AxisType, m_AxisValueChoice, child, none), LMX_FLAG(AxisType, m_isset_AxisValueChoice), position_of(k_AxisType_elements, element_AxisValueChoice), position_of(k_AxisType_elements, element_AxisValueChoice, 1), &AxisValueChoice::k_class, nullptr, {}},
+    {item_kind::element, value_kind::text, use_required | use_name, ELMX_WS_PRESERVE, "Vyr:AxisName", element_AxisName, LMX_OFFSET(AxisType, m_AxisName, element, text), LMX_FLAG(AxisType, m_isset_AxisName), position_of(k_AxisType_elements, element_AxisName), 1},
+    {item_kind::child, value_kind::none, use_required, ELMX_WS_PRESERVE, "Vyr:AxisValueChoice", element_AxisValueChoice, LMX_OFFSET(AxisType, m_AxisValueChoice, child, none), LMX_FLAG(AxisType, m_isset_AxisValueChoice), position_of(k_AxisType_elements, element_AxisValueChoice), 1, &AxisValueChoice::k_class},
 };
 constinit const s_class AxisType::k_class = {
     .name = "AxisType",
     .qualified_name = "Vyr:AxisType",
     .content = content_kind::children,
     .ns_map = k_ns_map,
-    .elements = std::span(k_items).subspan(std::size(k_no_events) - 1),
-    .attribute_map = k_no_events,
+    .elements = k_items,
     .element_map = k_AxisType_elements,
     .operations = &k_operations<AxisType>,
 };
@@ -567,24 +508,17 @@ AxisValueChoice& AxisType::assign_AxisValueChoice(const AxisValueChoice& value) 
 
 // FloatingPointValueType
 
-namespace {
 constexpr s_event_map k_FloatingPointValueType_attributes[] = {
     attribute_event("AxisNominalMax", attribute_AxisNominalMax),
     attribute_event("AxisNominalMin", attribute_AxisNominalMin),
     attribute_event("AxisNominalScale", attribute_AxisNominalScale),
     k_end_of_map,
 };
-}  // namespace
-
 constinit const s_item FloatingPointValueType::k_items[] = {
-    {item_kind::attribute, value_kind::number, use_required, ELMX_WS_COLLAPSE, "AxisNominalMax", attribute_AxisNominalMax,
-     LMX_OFFSET(FloatingPointValueType, m_AxisNominalMax, attribute, number), LMX_FLAG(FloatingPointValueType, m_isset_AxisNominalMax), 0, 0, nullptr, nullptr, {}},
-    {item_kind::attribute, value_kind::number, use_required, ELMX_WS_COLLAPSE, "AxisNominalMin", attribute_AxisNominalMin,
-     LMX_OFFSET(FloatingPointValueType, m_AxisNominalMin, attribute, number), LMX_FLAG(FloatingPointValueType, m_isset_AxisNominalMin), 0, 0, nullptr, nullptr, {}},
-    {item_kind::attribute, value_kind::enumerated, use_optional, ELMX_WS_PRESERVE, "AxisNominalScale", attribute_AxisNominalScale,
-     LMX_OFFSET(FloatingPointValueType, m_AxisNominalScale, attribute, enumerated), LMX_FLAG(FloatingPointValueType, m_isset_AxisNominalScale), 0, 0, nullptr, &facets::AxisScaleKind, {}},
-    {item_kind::content, value_kind::number, use_required, ELMX_WS_COLLAPSE, "", 0,
-     LMX_OFFSET(FloatingPointValueType, m_FloatingPointValueType, content, number), LMX_FLAG(FloatingPointValueType, m_isset_FloatingPointValueType), 0, 0, nullptr, nullptr, {}},
+    {item_kind::attribute, value_kind::number, use_required, ELMX_WS_COLLAPSE, "AxisNominalMax", attribute_AxisNominalMax, LMX_OFFSET(FloatingPointValueType, m_AxisNominalMax, attribute, number), LMX_FLAG(FloatingPointValueType, m_isset_AxisNominalMax)},
+    {item_kind::attribute, value_kind::number, use_required, ELMX_WS_COLLAPSE, "AxisNominalMin", attribute_AxisNominalMin, LMX_OFFSET(FloatingPointValueType, m_AxisNominalMin, attribute, number), LMX_FLAG(FloatingPointValueType, m_isset_AxisNominalMin)},
+    {item_kind::attribute, value_kind::enumerated, use_optional, ELMX_WS_PRESERVE, "AxisNominalScale", attribute_AxisNominalScale, LMX_OFFSET(FloatingPointValueType, m_AxisNominalScale, attribute, enumerated), LMX_FLAG(FloatingPointValueType, m_isset_AxisNominalScale), 0, 0, nullptr, &facets::AxisScaleKind},
+    {item_kind::content, value_kind::number, use_required, ELMX_WS_COLLAPSE, "", 0, LMX_OFFSET(FloatingPointValueType, m_FloatingPointValueType, content, number), LMX_FLAG(FloatingPointValueType, m_isset_FloatingPointValueType)},
 };
 constinit const s_class FloatingPointValueType::k_class = {
     .name = "FloatingPointValueType",
@@ -594,7 +528,6 @@ constinit const s_class FloatingPointValueType::k_class = {
     .attributes = std::span(k_items).first(std::size(k_FloatingPointValueType_attributes) - 1),
     .elements = std::span(k_items).subspan(std::size(k_FloatingPointValueType_attributes) - 1),
     .attribute_map = k_FloatingPointValueType_attributes,
-    .element_map = k_no_events,
     .operations = &k_operations<FloatingPointValueType>,
 };
 
@@ -615,21 +548,15 @@ lmx::elmx_error FloatingPointValueType::set_FloatingPointValueType(double value)
 
 // DensityType
 
-namespace {
 constexpr s_event_map k_DensityType_attributes[] = {
     attribute_event("DensityStatus", attribute_DensityStatus),
     attribute_event("DensityFilter", attribute_DensityFilter),
     k_end_of_map,
 };
-}  // namespace
-
 constinit const s_item DensityType::k_items[] = {
-    {item_kind::attribute, value_kind::enumerated, use_required, ELMX_WS_PRESERVE, "DensityStatus", attribute_DensityStatus,
-     LMX_OFFSET(DensityType, m_DensityStatus, attribute, enumerated), LMX_FLAG(DensityType, m_isset_DensityStatus), 0, 0, nullptr, &facets::DensityStatusKind, {}},
-    {item_kind::attribute, value_kind::enumerated, use_required, ELMX_WS_PRESERVE, "DensityFilter", attribute_DensityFilter,
-     LMX_OFFSET(DensityType, m_DensityFilter, attribute, enumerated), LMX_FLAG(DensityType, m_isset_DensityFilter), 0, 0, nullptr, &facets::DensityFilterKind, {}},
-    {item_kind::content, value_kind::number, use_required, ELMX_WS_COLLAPSE, "", 0,
-     LMX_OFFSET(DensityType, m_DensityType, content, number), LMX_FLAG(DensityType, m_isset_DensityType), 0, 0, nullptr, nullptr, {}},
+    {item_kind::attribute, value_kind::enumerated, use_required, ELMX_WS_PRESERVE, "DensityStatus", attribute_DensityStatus, LMX_OFFSET(DensityType, m_DensityStatus, attribute, enumerated), LMX_FLAG(DensityType, m_isset_DensityStatus), 0, 0, nullptr, &facets::DensityStatusKind},
+    {item_kind::attribute, value_kind::enumerated, use_required, ELMX_WS_PRESERVE, "DensityFilter", attribute_DensityFilter, LMX_OFFSET(DensityType, m_DensityFilter, attribute, enumerated), LMX_FLAG(DensityType, m_isset_DensityFilter), 0, 0, nullptr, &facets::DensityFilterKind},
+    {item_kind::content, value_kind::number, use_required, ELMX_WS_COLLAPSE, "", 0, LMX_OFFSET(DensityType, m_DensityType, content, number), LMX_FLAG(DensityType, m_isset_DensityType)},
 };
 constinit const s_class DensityType::k_class = {
     .name = "DensityType",
@@ -639,7 +566,6 @@ constinit const s_class DensityType::k_class = {
     .attributes = std::span(k_items).first(std::size(k_DensityType_attributes) - 1),
     .elements = std::span(k_items).subspan(std::size(k_DensityType_attributes) - 1),
     .attribute_map = k_DensityType_attributes,
-    .element_map = k_no_events,
     .operations = &k_operations<DensityType>,
 };
 

@@ -41,6 +41,7 @@ public:
     void swap(ColorSpaceDensityType& other);
     void reset();
     bool is_occurs_ok() const;
+    static const lmx::s_class k_class;
 
     /// Name of the value.
     const std::u16string& get_Name() const { return m_Name; }
@@ -66,8 +67,6 @@ public:
 
     /// The class's identity; `getid` and `has_id` work on its address.
     static const char* id;
-
-    static const lmx::s_class k_class;
 
 protected:
     void marshal_attributes(lmx::c_xml_writer& writer) const { lmx::marshal_attributes(k_class, this, writer); }
@@ -106,6 +105,7 @@ public:
     void swap(ColorSpaceSpectralType& other);
     void reset();
     bool is_occurs_ok() const;
+    static const lmx::s_class k_class;
 
     /// Name of the value.
     const std::u16string& get_Name() const { return m_Name; }
@@ -131,8 +131,6 @@ public:
 
     /// The class's identity; `getid` and `has_id` work on its address.
     static const char* id;
-
-    static const lmx::s_class k_class;
 
 protected:
     void marshal_attributes(lmx::c_xml_writer& writer) const { lmx::marshal_attributes(k_class, this, writer); }
@@ -171,6 +169,7 @@ public:
     void swap(ColorSpaceEmissiveSpectralType& other);
     void reset();
     bool is_occurs_ok() const;
+    static const lmx::s_class k_class;
 
     /// Name of the value.
     const std::u16string& get_Name() const { return m_Name; }
@@ -196,8 +195,6 @@ public:
 
     /// The class's identity; `getid` and `has_id` work on its address.
     static const char* id;
-
-    static const lmx::s_class k_class;
 
 protected:
     void marshal_attributes(lmx::c_xml_writer& writer) const { lmx::marshal_attributes(k_class, this, writer); }
@@ -236,6 +233,7 @@ public:
     void swap(ColorSpaceGenericType& other);
     void reset();
     bool is_occurs_ok() const;
+    static const lmx::s_class k_class;
 
     /// Name of the colour space.
     const std::u16string& get_Name() const { return m_Name; }
@@ -259,8 +257,6 @@ public:
 
     /// The class's identity; `getid` and `has_id` work on its address.
     static const char* id;
-
-    static const lmx::s_class k_class;
 
 protected:
     void marshal_attributes(lmx::c_xml_writer& writer) const { lmx::marshal_attributes(k_class, this, writer); }
@@ -299,6 +295,7 @@ public:
     void swap(ColorSpaceEmissiveGenericType& other);
     void reset();
     bool is_occurs_ok() const;
+    static const lmx::s_class k_class;
 
     /// Name of the colour space.
     const std::u16string& get_Name() const { return m_Name; }
@@ -322,8 +319,6 @@ public:
 
     /// The class's identity; `getid` and `has_id` work on its address.
     static const char* id;
-
-    static const lmx::s_class k_class;
 
 protected:
     void marshal_attributes(lmx::c_xml_writer& writer) const { lmx::marshal_attributes(k_class, this, writer); }
@@ -463,6 +458,7 @@ public:
     void swap(ReflectancePointType& other);
     void reset();
     bool is_occurs_ok() const;
+    static const lmx::s_class k_class;
 
     /// Wavelength in nanometres, above 0.
     double get_Wavelength() const { return m_Wavelength; }
@@ -472,8 +468,6 @@ public:
     /// above 1.
     double get_ReflectancePointType() const { return m_ReflectancePointType; }
     lmx::elmx_error set_ReflectancePointType(double value);
-
-    static const lmx::s_class k_class;
 
 protected:
     void marshal_attributes(lmx::c_xml_writer& writer) const { lmx::marshal_attributes(k_class, this, writer); }
@@ -506,6 +500,7 @@ public:
     void swap(EmissiveSpectralPointType& other);
     void reset();
     bool is_occurs_ok() const;
+    static const lmx::s_class k_class;
 
     /// Wavelength in nanometres, above 0.
     double get_Wavelength() const { return m_Wavelength; }
@@ -514,8 +509,6 @@ public:
     /// Spectral power, in the unit of the measurement.
     double get_EmissiveSpectralPointType() const { return m_EmissiveSpectralPointType; }
     lmx::elmx_error set_EmissiveSpectralPointType(double value);
-
-    static const lmx::s_class k_class;
 
 protected:
     void marshal_attributes(lmx::c_xml_writer& writer) const { lmx::marshal_attributes(k_class, this, writer); }
@@ -552,6 +545,7 @@ public:
     void reset();
     bool is_occurs_ok() const;
     elmx_chosen getchosen() const { return static_cast<elmx_chosen>(m_choice.chosen); }
+    static const lmx::s_class k_class;
 
     /// The coordinate as a number.
     FloatingPointValueType& get_AxisFloatingPointValue();
@@ -561,8 +555,6 @@ public:
     /// The coordinate as a text.
     const std::u16string& get_AxisStringValue() const;
     lmx::elmx_error set_AxisStringValue(const std::u16string& value);
-
-    static const lmx::s_class k_class;
 
 protected:
     void marshal_attributes(lmx::c_xml_writer& writer) const { lmx::marshal_attributes(k_class, this, writer); }
@@ -592,6 +584,7 @@ public:
     void swap(AxisType& other);
     void reset();
     bool is_occurs_ok() const;
+    static const lmx::s_class k_class;
 
     /// Name of the axis.
     const std::u16string& get_AxisName() const { return m_AxisName; }
@@ -601,8 +594,6 @@ public:
     AxisValueChoice& get_AxisValueChoice() { m_isset_AxisValueChoice = true; return m_AxisValueChoice; }
     const AxisValueChoice& get_AxisValueChoice() const { return m_AxisValueChoice; }
     AxisValueChoice& assign_AxisValueChoice(const AxisValueChoice& value);
-
-    static const lmx::s_class k_class;
 
 protected:
     void marshal_attributes(lmx::c_xml_writer& writer) const { lmx::marshal_attributes(k_class, this, writer); }
@@ -635,6 +626,7 @@ public:
     void swap(FloatingPointValueType& other);
     void reset();
     bool is_occurs_ok() const;
+    static const lmx::s_class k_class;
 
     /// Upper end of the axis's nominal range.
     double get_AxisNominalMax() const { return m_AxisNominalMax; }
@@ -655,8 +647,6 @@ public:
     /// The coordinate.
     double get_FloatingPointValueType() const { return m_FloatingPointValueType; }
     lmx::elmx_error set_FloatingPointValueType(double value);
-
-    static const lmx::s_class k_class;
 
 protected:
     void marshal_attributes(lmx::c_xml_writer& writer) const { lmx::marshal_attributes(k_class, this, writer); }
@@ -695,6 +685,7 @@ public:
     void swap(DensityType& other);
     void reset();
     bool is_occurs_ok() const;
+    static const lmx::s_class k_class;
 
     /// Density status, the set of filter responses.
     const std::u16string& get_DensityStatus() const { return m_DensityStatus.get(); }
@@ -711,8 +702,6 @@ public:
     /// The density, a common logarithm.
     double get_DensityType() const { return m_DensityType; }
     lmx::elmx_error set_DensityType(double value);
-
-    static const lmx::s_class k_class;
 
 protected:
     void marshal_attributes(lmx::c_xml_writer& writer) const { lmx::marshal_attributes(k_class, this, writer); }

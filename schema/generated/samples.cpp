@@ -20,11 +20,10 @@ namespace com_vyrgraph_v2 {
 
 using namespace lmx;  // for the tables' sake
 
-static_assert(k_binding_version == 4, "run schema/generator/generate.py");
+static_assert(k_binding_version == 5, "run schema/generator/generate.py");
 
 // SampleType
 
-namespace {
 constexpr s_event_map k_SampleType_elements[] = {
     element_event("CustomAttribute", element_CustomAttribute),
     element_event("SubstratePaper", element_SubstratePaper),
@@ -43,23 +42,14 @@ constexpr s_event_map k_SampleType_elements[] = {
     element_event("Comment", element_Comment),
     k_end_of_map,
 };
-}  // namespace
-
 constinit const s_item SampleType::k_items[] = {
-    {item_kind::child_list, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:CustomAttribute", element_CustomAttribute,
-     LMX_OFFSET(SampleType, m_CustomAttribute, child_list, none), k_no_flag, position_of(k_SampleType_elements, element_CustomAttribute), position_of(k_SampleType_elements, element_CustomAttribute, 1), &CustomAttributeType::k_class, nullptr, {}},
-    {item_kind::group, value_kind::none, use_asked | use_written | use_copied | use_lax, ELMX_WS_PRESERVE, "Vyr:Substrate", 0,
-     LMX_OFFSET(SampleType, m_Substrate, group, none), LMX_FLAG(SampleType, m_isset_Substrate), position_of(k_SampleType_elements, element_SubstratePaper), position_of(k_SampleType_elements, element_SubstratePaper, 9), &sg_Substrate::k_class, nullptr, {}},
-    {item_kind::element, value_kind::enumerated, use_optional, ELMX_WS_PRESERVE, "Vyr:Backing", element_Backing,
-     LMX_OFFSET(SampleType, m_Backing, element, enumerated), LMX_FLAG(SampleType, m_isset_Backing), position_of(k_SampleType_elements, element_Backing), position_of(k_SampleType_elements, element_Backing, 1), nullptr, &facets::BackingKind, {}},
-    {item_kind::element, value_kind::text, use_optional, ELMX_WS_PRESERVE, "Vyr:Manufacturer", element_Manufacturer,
-     LMX_OFFSET(SampleType, m_Manufacturer, element, text), LMX_FLAG(SampleType, m_isset_Manufacturer), position_of(k_SampleType_elements, element_Manufacturer), position_of(k_SampleType_elements, element_Manufacturer, 1), nullptr, nullptr, {}},
-    {item_kind::element, value_kind::datetime, use_optional, ELMX_WS_COLLAPSE, "Vyr:ProductionDate", element_ProductionDate,
-     LMX_OFFSET(SampleType, m_ProductionDate, element, datetime), LMX_FLAG(SampleType, m_isset_ProductionDate), position_of(k_SampleType_elements, element_ProductionDate), position_of(k_SampleType_elements, element_ProductionDate, 1), nullptr, &facets::DateTimeZone, {}},
-    {item_kind::element, value_kind::text, use_optional, ELMX_WS_PRESERVE, "Vyr:SerialNumber", element_SerialNumber,
-     LMX_OFFSET(SampleType, m_SerialNumber, element, text), LMX_FLAG(SampleType, m_isset_SerialNumber), position_of(k_SampleType_elements, element_SerialNumber), position_of(k_SampleType_elements, element_SerialNumber, 1), nullptr, nullptr, {}},
-    {item_kind::element, value_kind::text, use_optional, ELMX_WS_PRESERVE, "Vyr:Comment", element_Comment,
-     LMX_OFFSET(SampleType, m_Comment, element, text), LMX_FLAG(SampleType, m_isset_Comment), position_of(k_SampleType_elements, element_Comment), position_of(k_SampleType_elements, element_Comment, 1), nullptr, nullptr, {}},
+    {item_kind::child_list, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:CustomAttribute", element_CustomAttribute, LMX_OFFSET(SampleType, m_CustomAttribute, child_list, none), k_no_flag, position_of(k_SampleType_elements, element_CustomAttribute), 1, &CustomAttributeType::k_class},
+    {item_kind::group, value_kind::none, use_asked | use_written | use_copied | use_lax, ELMX_WS_PRESERVE, "Vyr:Substrate", 0, LMX_OFFSET(SampleType, m_Substrate, group, none), LMX_FLAG(SampleType, m_isset_Substrate), position_of(k_SampleType_elements, element_SubstratePaper), 9, &sg_Substrate::k_class},
+    {item_kind::element, value_kind::enumerated, use_optional, ELMX_WS_PRESERVE, "Vyr:Backing", element_Backing, LMX_OFFSET(SampleType, m_Backing, element, enumerated), LMX_FLAG(SampleType, m_isset_Backing), position_of(k_SampleType_elements, element_Backing), 1, nullptr, &facets::BackingKind},
+    {item_kind::element, value_kind::text, use_optional, ELMX_WS_PRESERVE, "Vyr:Manufacturer", element_Manufacturer, LMX_OFFSET(SampleType, m_Manufacturer, element, text), LMX_FLAG(SampleType, m_isset_Manufacturer), position_of(k_SampleType_elements, element_Manufacturer), 1},
+    {item_kind::element, value_kind::datetime, use_optional, ELMX_WS_COLLAPSE, "Vyr:ProductionDate", element_ProductionDate, LMX_OFFSET(SampleType, m_ProductionDate, element, datetime), LMX_FLAG(SampleType, m_isset_ProductionDate), position_of(k_SampleType_elements, element_ProductionDate), 1, nullptr, &facets::DateTimeZone},
+    {item_kind::element, value_kind::text, use_optional, ELMX_WS_PRESERVE, "Vyr:SerialNumber", element_SerialNumber, LMX_OFFSET(SampleType, m_SerialNumber, element, text), LMX_FLAG(SampleType, m_isset_SerialNumber), position_of(k_SampleType_elements, element_SerialNumber), 1},
+    {item_kind::element, value_kind::text, use_optional, ELMX_WS_PRESERVE, "Vyr:Comment", element_Comment, LMX_OFFSET(SampleType, m_Comment, element, text), LMX_FLAG(SampleType, m_isset_Comment), position_of(k_SampleType_elements, element_Comment), 1},
 };
 constinit const s_factory_row SampleType::k_factory[] = {
     {"SampleSpotType", &SampleSpotType::k_class},
@@ -71,14 +61,12 @@ constinit const s_class SampleType::k_class = {
     .content = content_kind::children,
     .ns_map = k_ns_map,
     .id = &SampleType::id,
-    .xsi_type = "Vyr:SampleType",
-    .elements = std::span(k_items).subspan(std::size(k_no_events) - 1),
-    .attribute_map = k_no_events,
+    .elements = k_items,
     .element_map = k_SampleType_elements,
     .operations = &k_operations<SampleType>,
 };
 
-namespace { const char k_SampleType_id[] = "SampleType"; }
+const char k_SampleType_id[] = "SampleType";
 const char* SampleType::id = k_SampleType_id;
 SampleType::SampleType() = default;
 SampleType::SampleType(const SampleType& other) { lmx::copy(k_class, this, &other); }
@@ -117,26 +105,20 @@ lmx::elmx_error Sample::unmarshal(lmx::c_xml_reader& reader, const std::string& 
 
 // Specification
 
-namespace {
 constexpr s_event_map k_Specification_elements[] = {
     element_event("SampleWidth", element_SampleWidth),
     element_event("SampleHeight", element_SampleHeight),
     k_end_of_map,
 };
-}  // namespace
-
 constinit const s_item Specification::k_items[] = {
-    {item_kind::element, value_kind::number, use_required, ELMX_WS_COLLAPSE, "Vyr:SampleWidth", element_SampleWidth,
-     LMX_OFFSET(Specification, m_SampleWidth, element, number), LMX_FLAG(Specification, m_isset_SampleWidth), position_of(k_Specification_elements, element_SampleWidth), position_of(k_Specification_elements, element_SampleWidth, 1), nullptr, nullptr, {}},
-    {item_kind::element, value_kind::number, use_required, ELMX_WS_COLLAPSE, "Vyr:SampleHeight", element_SampleHeight,
-     LMX_OFFSET(Specification, m_SampleHeight, element, number), LMX_FLAG(Specification, m_isset_SampleHeight), position_of(k_Specification_elements, element_SampleHeight), position_of(k_Specification_elements, element_SampleHeight, 1), nullptr, nullptr, {}},
+    {item_kind::element, value_kind::number, use_required, ELMX_WS_COLLAPSE, "Vyr:SampleWidth", element_SampleWidth, LMX_OFFSET(Specification, m_SampleWidth, element, number), LMX_FLAG(Specification, m_isset_SampleWidth), position_of(k_Specification_elements, element_SampleWidth), 1},
+    {item_kind::element, value_kind::number, use_required, ELMX_WS_COLLAPSE, "Vyr:SampleHeight", element_SampleHeight, LMX_OFFSET(Specification, m_SampleHeight, element, number), LMX_FLAG(Specification, m_isset_SampleHeight), position_of(k_Specification_elements, element_SampleHeight), 1},
 };
 constinit const s_class Specification::k_class = {
     .name = "Specification",
     .qualified_name = "Vyr:Specification",
     .content = content_kind::children,
-    .elements = std::span(k_items).subspan(std::size(k_no_events) - 1),
-    .attribute_map = k_no_events,
+    .elements = k_items,
     .element_map = k_Specification_elements,
     .operations = &k_operations<Specification>,
 };
@@ -155,16 +137,12 @@ lmx::elmx_error Specification::set_SampleHeight(double value) { return lmx::set_
 
 // SampleSpotType
 
-namespace {
 constexpr s_event_map k_SampleSpotType_elements[] = {
     element_event("Specification", element_Specification),
     k_end_of_map,
 };
-}  // namespace
-
 constinit const s_item SampleSpotType::k_items[] = {
-    {item_kind::child, value_kind::none, use_required, ELMX_WS_PRESERVE, "Vyr:Specification", element_Specification,
-     LMX_OFFSET(SampleSpotType, m_Specification, child, none), LMX_FLAG(SampleSpotType, m_isset_Specification), position_of(k_SampleSpotType_elements, element_Specification), position_of(k_SampleSpotType_elements, element_Specification, 1), &Specification::k_class, nullptr, {}},
+    {item_kind::child, value_kind::none, use_required, ELMX_WS_PRESERVE, "Vyr:Specification", element_Specification, LMX_OFFSET(SampleSpotType, m_Specification, child, none), LMX_FLAG(SampleSpotType, m_isset_Specification), position_of(k_SampleSpotType_elements, element_Specification), 1, &Specification::k_class},
 };
 constinit const s_class SampleSpotType::k_class = {
     .name = "SampleSpotType",
@@ -173,14 +151,12 @@ constinit const s_class SampleSpotType::k_class = {
     .content = content_kind::children,
     .ns_map = k_ns_map,
     .id = &SampleSpotType::id,
-    .xsi_type = "Vyr:SampleSpotType",
-    .elements = std::span(k_items).subspan(std::size(k_no_events) - 1),
-    .attribute_map = k_no_events,
+    .elements = k_items,
     .element_map = k_SampleSpotType_elements,
     .operations = &k_operations<SampleSpotType>,
 };
 
-namespace { const char k_SampleSpotType_id[] = "SampleSpotType"; }
+const char k_SampleSpotType_id[] = "SampleSpotType";
 const char* SampleSpotType::id = k_SampleSpotType_id;
 SampleSpotType::SampleSpotType() = default;
 SampleSpotType::SampleSpotType(const SampleSpotType& other) : SampleType() { lmx::copy(k_class, this, &other); }
@@ -198,7 +174,6 @@ Specification& SampleSpotType::assign_Specification(const Specification& value) 
 
 // SampleTargetType
 
-namespace {
 constexpr s_event_map k_SampleTargetType_attributes[] = {
     attribute_event("CustomTarget", attribute_CustomTarget),
     k_end_of_map,
@@ -207,13 +182,9 @@ constexpr s_event_map k_SampleTargetType_elements[] = {
     element_event("Target", element_Target),
     k_end_of_map,
 };
-}  // namespace
-
 constinit const s_item SampleTargetType::k_items[] = {
-    {item_kind::attribute, value_kind::text, use_optional, ELMX_WS_PRESERVE, "CustomTarget", attribute_CustomTarget,
-     LMX_OFFSET(SampleTargetType, m_CustomTarget, attribute, text), LMX_FLAG(SampleTargetType, m_isset_CustomTarget), 0, 0, nullptr, nullptr, {}},
-    {item_kind::element, value_kind::enumerated, use_required, ELMX_WS_PRESERVE, "Vyr:Target", element_Target,
-     LMX_OFFSET(SampleTargetType, m_Target, element, enumerated), LMX_FLAG(SampleTargetType, m_isset_Target), position_of(k_SampleTargetType_elements, element_Target), position_of(k_SampleTargetType_elements, element_Target, 1), nullptr, &facets::TargetKind, {}},
+    {item_kind::attribute, value_kind::text, use_optional, ELMX_WS_PRESERVE, "CustomTarget", attribute_CustomTarget, LMX_OFFSET(SampleTargetType, m_CustomTarget, attribute, text), LMX_FLAG(SampleTargetType, m_isset_CustomTarget)},
+    {item_kind::element, value_kind::enumerated, use_required, ELMX_WS_PRESERVE, "Vyr:Target", element_Target, LMX_OFFSET(SampleTargetType, m_Target, element, enumerated), LMX_FLAG(SampleTargetType, m_isset_Target), position_of(k_SampleTargetType_elements, element_Target), 1, nullptr, &facets::TargetKind},
 };
 constinit const s_class SampleTargetType::k_class = {
     .name = "SampleTargetType",
@@ -222,7 +193,6 @@ constinit const s_class SampleTargetType::k_class = {
     .content = content_kind::children,
     .ns_map = k_ns_map,
     .id = &SampleTargetType::id,
-    .xsi_type = "Vyr:SampleTargetType",
     .attributes = std::span(k_items).first(std::size(k_SampleTargetType_attributes) - 1),
     .elements = std::span(k_items).subspan(std::size(k_SampleTargetType_attributes) - 1),
     .attribute_map = k_SampleTargetType_attributes,
@@ -230,7 +200,7 @@ constinit const s_class SampleTargetType::k_class = {
     .operations = &k_operations<SampleTargetType>,
 };
 
-namespace { const char k_SampleTargetType_id[] = "SampleTargetType"; }
+const char k_SampleTargetType_id[] = "SampleTargetType";
 const char* SampleTargetType::id = k_SampleTargetType_id;
 SampleTargetType::SampleTargetType() = default;
 SampleTargetType::SampleTargetType(const SampleTargetType& other) : SampleType() { lmx::copy(k_class, this, &other); }

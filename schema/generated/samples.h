@@ -38,6 +38,7 @@ public:
     void swap(SampleType& other);
     void reset();
     bool is_occurs_ok() const;
+    static const lmx::s_class k_class;
 
     /// A named value of the user's own.
     std::size_t size_CustomAttribute() const { return m_CustomAttribute.size(); }
@@ -94,8 +95,6 @@ public:
     static SampleType* factory(int ns_id, const std::string& name);
     static const lmx::s_factory_row k_factory[2];
 
-    static const lmx::s_class k_class;
-
 protected:
     void marshal_attributes(lmx::c_xml_writer& writer) const { lmx::marshal_attributes(k_class, this, writer); }
     lmx::elmx_error marshal_child_elements(lmx::c_xml_writer& writer) const { return lmx::marshal_child_elements(k_class, this, writer); }
@@ -151,6 +150,7 @@ public:
     void swap(Specification& other);
     void reset();
     bool is_occurs_ok() const;
+    static const lmx::s_class k_class;
 
     /// Width; no unit is stated.
     double get_SampleWidth() const { return m_SampleWidth; }
@@ -159,8 +159,6 @@ public:
     /// Height; no unit is stated.
     double get_SampleHeight() const { return m_SampleHeight; }
     lmx::elmx_error set_SampleHeight(double value);
-
-    static const lmx::s_class k_class;
 
 protected:
     void marshal_attributes(lmx::c_xml_writer& writer) const { lmx::marshal_attributes(k_class, this, writer); }
@@ -197,6 +195,7 @@ public:
     void swap(SampleSpotType& other);
     void reset();
     bool is_occurs_ok() const;
+    static const lmx::s_class k_class;
 
     /// Size of the patch.
     Specification& get_Specification() { m_isset_Specification = true; return m_Specification; }
@@ -206,8 +205,6 @@ public:
     /// The class's identity; `getid` and `has_id` work on its address.
     static const char* id;
 
-    static const lmx::s_class k_class;
-
 protected:
     void marshal_attributes(lmx::c_xml_writer& writer) const { lmx::marshal_attributes(k_class, this, writer); }
     lmx::elmx_error marshal_child_elements(lmx::c_xml_writer& writer) const { return lmx::marshal_child_elements(k_class, this, writer); }
@@ -216,9 +213,6 @@ protected:
     bool unmarshal_body(lmx::c_xml_reader& reader, std::string* name, lmx::elmx_error* error) { return lmx::unmarshal_body(k_class, this, reader, name, error); }
 
 private:
-    enum item : std::size_t {
-        item_Specification,
-    };
     static const lmx::s_item k_items[];
     Specification m_Specification;
     bool m_isset_Specification = false;
@@ -240,6 +234,7 @@ public:
     void swap(SampleTargetType& other);
     void reset();
     bool is_occurs_ok() const;
+    static const lmx::s_class k_class;
 
     /// Name of the chart where Target is Target_Custom.
     const std::u16string& get_CustomTarget() const { return m_CustomTarget; }
@@ -255,8 +250,6 @@ public:
 
     /// The class's identity; `getid` and `has_id` work on its address.
     static const char* id;
-
-    static const lmx::s_class k_class;
 
 protected:
     void marshal_attributes(lmx::c_xml_writer& writer) const { lmx::marshal_attributes(k_class, this, writer); }

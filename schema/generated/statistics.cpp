@@ -19,7 +19,7 @@ namespace com_vyrgraph_v2 {
 
 using namespace lmx;  // for the tables' sake
 
-static_assert(k_binding_version == 4, "run schema/generator/generate.py");
+static_assert(k_binding_version == 5, "run schema/generator/generate.py");
 
 // FunctionStdDevXType
 
@@ -31,13 +31,10 @@ constinit const s_class FunctionStdDevXType::k_class = {
     .may_be_empty = true,
     .ns_map = k_ns_map,
     .id = &FunctionStdDevXType::id,
-    .xsi_type = "Vyr:FunctionStdDevXType",
-    .attribute_map = k_no_events,
-    .element_map = k_no_events,
     .operations = &k_operations<FunctionStdDevXType>,
 };
 
-namespace { const char k_FunctionStdDevXType_id[] = "FunctionStdDevXType"; }
+const char k_FunctionStdDevXType_id[] = "FunctionStdDevXType";
 const char* FunctionStdDevXType::id = k_FunctionStdDevXType_id;
 FunctionStdDevXType::FunctionStdDevXType() = default;
 FunctionStdDevXType::FunctionStdDevXType(const FunctionStdDevXType& other) : FunctionType() { lmx::copy(k_class, this, &other); }
@@ -62,13 +59,10 @@ constinit const s_class FunctionStdDevYType::k_class = {
     .may_be_empty = true,
     .ns_map = k_ns_map,
     .id = &FunctionStdDevYType::id,
-    .xsi_type = "Vyr:FunctionStdDevYType",
-    .attribute_map = k_no_events,
-    .element_map = k_no_events,
     .operations = &k_operations<FunctionStdDevYType>,
 };
 
-namespace { const char k_FunctionStdDevYType_id[] = "FunctionStdDevYType"; }
+const char k_FunctionStdDevYType_id[] = "FunctionStdDevYType";
 const char* FunctionStdDevYType::id = k_FunctionStdDevYType_id;
 FunctionStdDevYType::FunctionStdDevYType() = default;
 FunctionStdDevYType::FunctionStdDevYType(const FunctionStdDevYType& other) : FunctionType() { lmx::copy(k_class, this, &other); }
@@ -93,13 +87,10 @@ constinit const s_class FunctionStdDevZType::k_class = {
     .may_be_empty = true,
     .ns_map = k_ns_map,
     .id = &FunctionStdDevZType::id,
-    .xsi_type = "Vyr:FunctionStdDevZType",
-    .attribute_map = k_no_events,
-    .element_map = k_no_events,
     .operations = &k_operations<FunctionStdDevZType>,
 };
 
-namespace { const char k_FunctionStdDevZType_id[] = "FunctionStdDevZType"; }
+const char k_FunctionStdDevZType_id[] = "FunctionStdDevZType";
 const char* FunctionStdDevZType::id = k_FunctionStdDevZType_id;
 FunctionStdDevZType::FunctionStdDevZType() = default;
 FunctionStdDevZType::FunctionStdDevZType(const FunctionStdDevZType& other) : FunctionType() { lmx::copy(k_class, this, &other); }
@@ -124,13 +115,10 @@ constinit const s_class FunctionStdDevLType::k_class = {
     .may_be_empty = true,
     .ns_map = k_ns_map,
     .id = &FunctionStdDevLType::id,
-    .xsi_type = "Vyr:FunctionStdDevLType",
-    .attribute_map = k_no_events,
-    .element_map = k_no_events,
     .operations = &k_operations<FunctionStdDevLType>,
 };
 
-namespace { const char k_FunctionStdDevLType_id[] = "FunctionStdDevLType"; }
+const char k_FunctionStdDevLType_id[] = "FunctionStdDevLType";
 const char* FunctionStdDevLType::id = k_FunctionStdDevLType_id;
 FunctionStdDevLType::FunctionStdDevLType() = default;
 FunctionStdDevLType::FunctionStdDevLType(const FunctionStdDevLType& other) : FunctionType() { lmx::copy(k_class, this, &other); }
@@ -155,13 +143,10 @@ constinit const s_class FunctionStdDevAType::k_class = {
     .may_be_empty = true,
     .ns_map = k_ns_map,
     .id = &FunctionStdDevAType::id,
-    .xsi_type = "Vyr:FunctionStdDevAType",
-    .attribute_map = k_no_events,
-    .element_map = k_no_events,
     .operations = &k_operations<FunctionStdDevAType>,
 };
 
-namespace { const char k_FunctionStdDevAType_id[] = "FunctionStdDevAType"; }
+const char k_FunctionStdDevAType_id[] = "FunctionStdDevAType";
 const char* FunctionStdDevAType::id = k_FunctionStdDevAType_id;
 FunctionStdDevAType::FunctionStdDevAType() = default;
 FunctionStdDevAType::FunctionStdDevAType(const FunctionStdDevAType& other) : FunctionType() { lmx::copy(k_class, this, &other); }
@@ -186,13 +171,10 @@ constinit const s_class FunctionStdDevBType::k_class = {
     .may_be_empty = true,
     .ns_map = k_ns_map,
     .id = &FunctionStdDevBType::id,
-    .xsi_type = "Vyr:FunctionStdDevBType",
-    .attribute_map = k_no_events,
-    .element_map = k_no_events,
     .operations = &k_operations<FunctionStdDevBType>,
 };
 
-namespace { const char k_FunctionStdDevBType_id[] = "FunctionStdDevBType"; }
+const char k_FunctionStdDevBType_id[] = "FunctionStdDevBType";
 const char* FunctionStdDevBType::id = k_FunctionStdDevBType_id;
 FunctionStdDevBType::FunctionStdDevBType() = default;
 FunctionStdDevBType::FunctionStdDevBType(const FunctionStdDevBType& other) : FunctionType() { lmx::copy(k_class, this, &other); }
@@ -217,13 +199,10 @@ constinit const s_class FunctionStdDevCType::k_class = {
     .may_be_empty = true,
     .ns_map = k_ns_map,
     .id = &FunctionStdDevCType::id,
-    .xsi_type = "Vyr:FunctionStdDevCType",
-    .attribute_map = k_no_events,
-    .element_map = k_no_events,
     .operations = &k_operations<FunctionStdDevCType>,
 };
 
-namespace { const char k_FunctionStdDevCType_id[] = "FunctionStdDevCType"; }
+const char k_FunctionStdDevCType_id[] = "FunctionStdDevCType";
 const char* FunctionStdDevCType::id = k_FunctionStdDevCType_id;
 FunctionStdDevCType::FunctionStdDevCType() = default;
 FunctionStdDevCType::FunctionStdDevCType(const FunctionStdDevCType& other) : FunctionType() { lmx::copy(k_class, this, &other); }
@@ -248,13 +227,10 @@ constinit const s_class FunctionStdDevHType::k_class = {
     .may_be_empty = true,
     .ns_map = k_ns_map,
     .id = &FunctionStdDevHType::id,
-    .xsi_type = "Vyr:FunctionStdDevHType",
-    .attribute_map = k_no_events,
-    .element_map = k_no_events,
     .operations = &k_operations<FunctionStdDevHType>,
 };
 
-namespace { const char k_FunctionStdDevHType_id[] = "FunctionStdDevHType"; }
+const char k_FunctionStdDevHType_id[] = "FunctionStdDevHType";
 const char* FunctionStdDevHType::id = k_FunctionStdDevHType_id;
 FunctionStdDevHType::FunctionStdDevHType() = default;
 FunctionStdDevHType::FunctionStdDevHType(const FunctionStdDevHType& other) : FunctionType() { lmx::copy(k_class, this, &other); }
@@ -279,13 +255,10 @@ constinit const s_class FunctionAverageStdDevLType::k_class = {
     .may_be_empty = true,
     .ns_map = k_ns_map,
     .id = &FunctionAverageStdDevLType::id,
-    .xsi_type = "Vyr:FunctionAverageStdDevLType",
-    .attribute_map = k_no_events,
-    .element_map = k_no_events,
     .operations = &k_operations<FunctionAverageStdDevLType>,
 };
 
-namespace { const char k_FunctionAverageStdDevLType_id[] = "FunctionAverageStdDevLType"; }
+const char k_FunctionAverageStdDevLType_id[] = "FunctionAverageStdDevLType";
 const char* FunctionAverageStdDevLType::id = k_FunctionAverageStdDevLType_id;
 FunctionAverageStdDevLType::FunctionAverageStdDevLType() = default;
 FunctionAverageStdDevLType::FunctionAverageStdDevLType(const FunctionAverageStdDevLType& other) : FunctionType() { lmx::copy(k_class, this, &other); }
@@ -310,13 +283,10 @@ constinit const s_class FunctionAverageStdDevAType::k_class = {
     .may_be_empty = true,
     .ns_map = k_ns_map,
     .id = &FunctionAverageStdDevAType::id,
-    .xsi_type = "Vyr:FunctionAverageStdDevAType",
-    .attribute_map = k_no_events,
-    .element_map = k_no_events,
     .operations = &k_operations<FunctionAverageStdDevAType>,
 };
 
-namespace { const char k_FunctionAverageStdDevAType_id[] = "FunctionAverageStdDevAType"; }
+const char k_FunctionAverageStdDevAType_id[] = "FunctionAverageStdDevAType";
 const char* FunctionAverageStdDevAType::id = k_FunctionAverageStdDevAType_id;
 FunctionAverageStdDevAType::FunctionAverageStdDevAType() = default;
 FunctionAverageStdDevAType::FunctionAverageStdDevAType(const FunctionAverageStdDevAType& other) : FunctionType() { lmx::copy(k_class, this, &other); }
@@ -341,13 +311,10 @@ constinit const s_class FunctionAverageStdDevBType::k_class = {
     .may_be_empty = true,
     .ns_map = k_ns_map,
     .id = &FunctionAverageStdDevBType::id,
-    .xsi_type = "Vyr:FunctionAverageStdDevBType",
-    .attribute_map = k_no_events,
-    .element_map = k_no_events,
     .operations = &k_operations<FunctionAverageStdDevBType>,
 };
 
-namespace { const char k_FunctionAverageStdDevBType_id[] = "FunctionAverageStdDevBType"; }
+const char k_FunctionAverageStdDevBType_id[] = "FunctionAverageStdDevBType";
 const char* FunctionAverageStdDevBType::id = k_FunctionAverageStdDevBType_id;
 FunctionAverageStdDevBType::FunctionAverageStdDevBType() = default;
 FunctionAverageStdDevBType::FunctionAverageStdDevBType(const FunctionAverageStdDevBType& other) : FunctionType() { lmx::copy(k_class, this, &other); }

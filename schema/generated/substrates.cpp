@@ -20,26 +20,20 @@ namespace com_vyrgraph_v2 {
 
 using namespace lmx;  // for the tables' sake
 
-static_assert(k_binding_version == 4, "run schema/generator/generate.py");
+static_assert(k_binding_version == 5, "run schema/generator/generate.py");
 
 // SubstrateType
 
-namespace {
 constexpr s_event_map k_SubstrateType_elements[] = {
     element_event("CustomAttribute", element_CustomAttribute),
     element_event("PartNumber", element_PartNumber),
     element_event("Color", element_Color),
     k_end_of_map,
 };
-}  // namespace
-
 constinit const s_item SubstrateType::k_items[] = {
-    {item_kind::child_list, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:CustomAttribute", element_CustomAttribute,
-     LMX_OFFSET(SubstrateType, m_CustomAttribute, child_list, none), k_no_flag, position_of(k_SubstrateType_elements, element_CustomAttribute), position_of(k_SubstrateType_elements, element_CustomAttribute, 1), &CustomAttributeType::k_class, nullptr, {}},
-    {item_kind::element, value_kind::text, use_optional, ELMX_WS_PRESERVE, "Vyr:PartNumber", element_PartNumber,
-     LMX_OFFSET(SubstrateType, m_PartNumber, element, text), LMX_FLAG(SubstrateType, m_isset_PartNumber), position_of(k_SubstrateType_elements, element_PartNumber), position_of(k_SubstrateType_elements, element_PartNumber, 1), nullptr, nullptr, {}},
-    {item_kind::optional_child, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:Color", element_Color,
-     LMX_OFFSET(SubstrateType, m_Color, optional_child, none), LMX_FLAG(SubstrateType, m_isset_Color), position_of(k_SubstrateType_elements, element_Color), position_of(k_SubstrateType_elements, element_Color, 1), &ColorType::k_class, nullptr, {}},
+    {item_kind::child_list, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:CustomAttribute", element_CustomAttribute, LMX_OFFSET(SubstrateType, m_CustomAttribute, child_list, none), k_no_flag, position_of(k_SubstrateType_elements, element_CustomAttribute), 1, &CustomAttributeType::k_class},
+    {item_kind::element, value_kind::text, use_optional, ELMX_WS_PRESERVE, "Vyr:PartNumber", element_PartNumber, LMX_OFFSET(SubstrateType, m_PartNumber, element, text), LMX_FLAG(SubstrateType, m_isset_PartNumber), position_of(k_SubstrateType_elements, element_PartNumber), 1},
+    {item_kind::optional_child, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:Color", element_Color, LMX_OFFSET(SubstrateType, m_Color, optional_child, none), LMX_FLAG(SubstrateType, m_isset_Color), position_of(k_SubstrateType_elements, element_Color), 1, &ColorType::k_class},
 };
 constinit const s_factory_row SubstrateType::k_factory[] = {
     {"SubstratePaperType", &SubstratePaperType::k_class},
@@ -59,14 +53,12 @@ constinit const s_class SubstrateType::k_class = {
     .may_be_empty = true,
     .ns_map = k_ns_map,
     .id = &SubstrateType::id,
-    .xsi_type = "Vyr:SubstrateType",
-    .elements = std::span(k_items).subspan(std::size(k_no_events) - 1),
-    .attribute_map = k_no_events,
+    .elements = k_items,
     .element_map = k_SubstrateType_elements,
     .operations = &k_operations<SubstrateType>,
 };
 
-namespace { const char k_SubstrateType_id[] = "SubstrateType"; }
+const char k_SubstrateType_id[] = "SubstrateType";
 const char* SubstrateType::id = k_SubstrateType_id;
 SubstrateType::SubstrateType() = default;
 SubstrateType::SubstrateType(const SubstrateType& other) { lmx::copy(k_class, this, &other); }
@@ -102,19 +94,14 @@ lmx::elmx_error Substrate::unmarshal(lmx::c_xml_reader& reader, const std::strin
 
 // SubstratePaperType
 
-namespace {
 constexpr s_event_map k_SubstratePaperType_elements[] = {
     element_event("PaperThickness", element_PaperThickness),
     element_event("PaperType", element_PaperType),
     k_end_of_map,
 };
-}  // namespace
-
 constinit const s_item SubstratePaperType::k_items[] = {
-    {item_kind::element, value_kind::number, use_optional, ELMX_WS_COLLAPSE, "Vyr:PaperThickness", element_PaperThickness,
-     LMX_OFFSET(SubstratePaperType, m_PaperThickness, element, number), LMX_FLAG(SubstratePaperType, m_isset_PaperThickness), position_of(k_SubstratePaperType_elements, element_PaperThickness), position_of(k_SubstratePaperType_elements, element_PaperThickness, 1), nullptr, nullptr, {}},
-    {item_kind::element, value_kind::text, use_optional, ELMX_WS_PRESERVE, "Vyr:PaperType", element_PaperType,
-     LMX_OFFSET(SubstratePaperType, m_PaperType, element, text), LMX_FLAG(SubstratePaperType, m_isset_PaperType), position_of(k_SubstratePaperType_elements, element_PaperType), position_of(k_SubstratePaperType_elements, element_PaperType, 1), nullptr, nullptr, {}},
+    {item_kind::element, value_kind::number, use_optional, ELMX_WS_COLLAPSE, "Vyr:PaperThickness", element_PaperThickness, LMX_OFFSET(SubstratePaperType, m_PaperThickness, element, number), LMX_FLAG(SubstratePaperType, m_isset_PaperThickness), position_of(k_SubstratePaperType_elements, element_PaperThickness), 1},
+    {item_kind::element, value_kind::text, use_optional, ELMX_WS_PRESERVE, "Vyr:PaperType", element_PaperType, LMX_OFFSET(SubstratePaperType, m_PaperType, element, text), LMX_FLAG(SubstratePaperType, m_isset_PaperType), position_of(k_SubstratePaperType_elements, element_PaperType), 1},
 };
 constinit const s_class SubstratePaperType::k_class = {
     .name = "SubstratePaperType",
@@ -124,14 +111,12 @@ constinit const s_class SubstratePaperType::k_class = {
     .may_be_empty = true,
     .ns_map = k_ns_map,
     .id = &SubstratePaperType::id,
-    .xsi_type = "Vyr:SubstratePaperType",
-    .elements = std::span(k_items).subspan(std::size(k_no_events) - 1),
-    .attribute_map = k_no_events,
+    .elements = k_items,
     .element_map = k_SubstratePaperType_elements,
     .operations = &k_operations<SubstratePaperType>,
 };
 
-namespace { const char k_SubstratePaperType_id[] = "SubstratePaperType"; }
+const char k_SubstratePaperType_id[] = "SubstratePaperType";
 const char* SubstratePaperType::id = k_SubstratePaperType_id;
 SubstratePaperType::SubstratePaperType() = default;
 SubstratePaperType::SubstratePaperType(const SubstratePaperType& other) : SubstrateType() { lmx::copy(k_class, this, &other); }
@@ -150,16 +135,12 @@ lmx::elmx_error SubstratePaperType::set_PaperType(const std::u16string& value) {
 
 // SubstrateGenericType
 
-namespace {
 constexpr s_event_map k_SubstrateGenericType_elements[] = {
     element_event("Type", element_Type),
     k_end_of_map,
 };
-}  // namespace
-
 constinit const s_item SubstrateGenericType::k_items[] = {
-    {item_kind::element, value_kind::text, use_required, ELMX_WS_PRESERVE, "Vyr:Type", element_Type,
-     LMX_OFFSET(SubstrateGenericType, m_Type, element, text), LMX_FLAG(SubstrateGenericType, m_isset_Type), position_of(k_SubstrateGenericType_elements, element_Type), position_of(k_SubstrateGenericType_elements, element_Type, 1), nullptr, &facets::NonEmptyString, {}},
+    {item_kind::element, value_kind::text, use_required, ELMX_WS_PRESERVE, "Vyr:Type", element_Type, LMX_OFFSET(SubstrateGenericType, m_Type, element, text), LMX_FLAG(SubstrateGenericType, m_isset_Type), position_of(k_SubstrateGenericType_elements, element_Type), 1, nullptr, &facets::NonEmptyString},
 };
 constinit const s_class SubstrateGenericType::k_class = {
     .name = "SubstrateGenericType",
@@ -168,14 +149,12 @@ constinit const s_class SubstrateGenericType::k_class = {
     .content = content_kind::children,
     .ns_map = k_ns_map,
     .id = &SubstrateGenericType::id,
-    .xsi_type = "Vyr:SubstrateGenericType",
-    .elements = std::span(k_items).subspan(std::size(k_no_events) - 1),
-    .attribute_map = k_no_events,
+    .elements = k_items,
     .element_map = k_SubstrateGenericType_elements,
     .operations = &k_operations<SubstrateGenericType>,
 };
 
-namespace { const char k_SubstrateGenericType_id[] = "SubstrateGenericType"; }
+const char k_SubstrateGenericType_id[] = "SubstrateGenericType";
 const char* SubstrateGenericType::id = k_SubstrateGenericType_id;
 SubstrateGenericType::SubstrateGenericType() = default;
 SubstrateGenericType::SubstrateGenericType(const SubstrateGenericType& other) : SubstrateType() { lmx::copy(k_class, this, &other); }
@@ -193,19 +172,14 @@ lmx::elmx_error SubstrateGenericType::set_Type(const std::u16string& value) { re
 
 // SubstrateMetalType
 
-namespace {
 constexpr s_event_map k_SubstrateMetalType_elements[] = {
     element_event("MetalWeight", element_MetalWeight),
     element_event("MetalType", element_MetalType),
     k_end_of_map,
 };
-}  // namespace
-
 constinit const s_item SubstrateMetalType::k_items[] = {
-    {item_kind::element, value_kind::number, use_optional, ELMX_WS_COLLAPSE, "Vyr:MetalWeight", element_MetalWeight,
-     LMX_OFFSET(SubstrateMetalType, m_MetalWeight, element, number), LMX_FLAG(SubstrateMetalType, m_isset_MetalWeight), position_of(k_SubstrateMetalType_elements, element_MetalWeight), position_of(k_SubstrateMetalType_elements, element_MetalWeight, 1), nullptr, nullptr, {}},
-    {item_kind::element, value_kind::text, use_optional, ELMX_WS_PRESERVE, "Vyr:MetalType", element_MetalType,
-     LMX_OFFSET(SubstrateMetalType, m_MetalType, element, text), LMX_FLAG(SubstrateMetalType, m_isset_MetalType), position_of(k_SubstrateMetalType_elements, element_MetalType), position_of(k_SubstrateMetalType_elements, element_MetalType, 1), nullptr, nullptr, {}},
+    {item_kind::element, value_kind::number, use_optional, ELMX_WS_COLLAPSE, "Vyr:MetalWeight", element_MetalWeight, LMX_OFFSET(SubstrateMetalType, m_MetalWeight, element, number), LMX_FLAG(SubstrateMetalType, m_isset_MetalWeight), position_of(k_SubstrateMetalType_elements, element_MetalWeight), 1},
+    {item_kind::element, value_kind::text, use_optional, ELMX_WS_PRESERVE, "Vyr:MetalType", element_MetalType, LMX_OFFSET(SubstrateMetalType, m_MetalType, element, text), LMX_FLAG(SubstrateMetalType, m_isset_MetalType), position_of(k_SubstrateMetalType_elements, element_MetalType), 1},
 };
 constinit const s_class SubstrateMetalType::k_class = {
     .name = "SubstrateMetalType",
@@ -215,14 +189,12 @@ constinit const s_class SubstrateMetalType::k_class = {
     .may_be_empty = true,
     .ns_map = k_ns_map,
     .id = &SubstrateMetalType::id,
-    .xsi_type = "Vyr:SubstrateMetalType",
-    .elements = std::span(k_items).subspan(std::size(k_no_events) - 1),
-    .attribute_map = k_no_events,
+    .elements = k_items,
     .element_map = k_SubstrateMetalType_elements,
     .operations = &k_operations<SubstrateMetalType>,
 };
 
-namespace { const char k_SubstrateMetalType_id[] = "SubstrateMetalType"; }
+const char k_SubstrateMetalType_id[] = "SubstrateMetalType";
 const char* SubstrateMetalType::id = k_SubstrateMetalType_id;
 SubstrateMetalType::SubstrateMetalType() = default;
 SubstrateMetalType::SubstrateMetalType(const SubstrateMetalType& other) : SubstrateType() { lmx::copy(k_class, this, &other); }
@@ -241,19 +213,14 @@ lmx::elmx_error SubstrateMetalType::set_MetalType(const std::u16string& value) {
 
 // SubstratePlasticType
 
-namespace {
 constexpr s_event_map k_SubstratePlasticType_elements[] = {
     element_event("PlasticWeight", element_PlasticWeight),
     element_event("PlasticType", element_PlasticType),
     k_end_of_map,
 };
-}  // namespace
-
 constinit const s_item SubstratePlasticType::k_items[] = {
-    {item_kind::element, value_kind::number, use_optional, ELMX_WS_COLLAPSE, "Vyr:PlasticWeight", element_PlasticWeight,
-     LMX_OFFSET(SubstratePlasticType, m_PlasticWeight, element, number), LMX_FLAG(SubstratePlasticType, m_isset_PlasticWeight), position_of(k_SubstratePlasticType_elements, element_PlasticWeight), position_of(k_SubstratePlasticType_elements, element_PlasticWeight, 1), nullptr, nullptr, {}},
-    {item_kind::element, value_kind::text, use_optional, ELMX_WS_PRESERVE, "Vyr:PlasticType", element_PlasticType,
-     LMX_OFFSET(SubstratePlasticType, m_PlasticType, element, text), LMX_FLAG(SubstratePlasticType, m_isset_PlasticType), position_of(k_SubstratePlasticType_elements, element_PlasticType), position_of(k_SubstratePlasticType_elements, element_PlasticType, 1), nullptr, nullptr, {}},
+    {item_kind::element, value_kind::number, use_optional, ELMX_WS_COLLAPSE, "Vyr:PlasticWeight", element_PlasticWeight, LMX_OFFSET(SubstratePlasticType, m_PlasticWeight, element, number), LMX_FLAG(SubstratePlasticType, m_isset_PlasticWeight), position_of(k_SubstratePlasticType_elements, element_PlasticWeight), 1},
+    {item_kind::element, value_kind::text, use_optional, ELMX_WS_PRESERVE, "Vyr:PlasticType", element_PlasticType, LMX_OFFSET(SubstratePlasticType, m_PlasticType, element, text), LMX_FLAG(SubstratePlasticType, m_isset_PlasticType), position_of(k_SubstratePlasticType_elements, element_PlasticType), 1},
 };
 constinit const s_class SubstratePlasticType::k_class = {
     .name = "SubstratePlasticType",
@@ -263,14 +230,12 @@ constinit const s_class SubstratePlasticType::k_class = {
     .may_be_empty = true,
     .ns_map = k_ns_map,
     .id = &SubstratePlasticType::id,
-    .xsi_type = "Vyr:SubstratePlasticType",
-    .elements = std::span(k_items).subspan(std::size(k_no_events) - 1),
-    .attribute_map = k_no_events,
+    .elements = k_items,
     .element_map = k_SubstratePlasticType_elements,
     .operations = &k_operations<SubstratePlasticType>,
 };
 
-namespace { const char k_SubstratePlasticType_id[] = "SubstratePlasticType"; }
+const char k_SubstratePlasticType_id[] = "SubstratePlasticType";
 const char* SubstratePlasticType::id = k_SubstratePlasticType_id;
 SubstratePlasticType::SubstratePlasticType() = default;
 SubstratePlasticType::SubstratePlasticType(const SubstratePlasticType& other) : SubstrateType() { lmx::copy(k_class, this, &other); }
@@ -289,19 +254,14 @@ lmx::elmx_error SubstratePlasticType::set_PlasticType(const std::u16string& valu
 
 // SubstrateWoodType
 
-namespace {
 constexpr s_event_map k_SubstrateWoodType_elements[] = {
     element_event("WoodWeight", element_WoodWeight),
     element_event("WoodType", element_WoodType),
     k_end_of_map,
 };
-}  // namespace
-
 constinit const s_item SubstrateWoodType::k_items[] = {
-    {item_kind::element, value_kind::number, use_optional, ELMX_WS_COLLAPSE, "Vyr:WoodWeight", element_WoodWeight,
-     LMX_OFFSET(SubstrateWoodType, m_WoodWeight, element, number), LMX_FLAG(SubstrateWoodType, m_isset_WoodWeight), position_of(k_SubstrateWoodType_elements, element_WoodWeight), position_of(k_SubstrateWoodType_elements, element_WoodWeight, 1), nullptr, nullptr, {}},
-    {item_kind::element, value_kind::text, use_optional, ELMX_WS_PRESERVE, "Vyr:WoodType", element_WoodType,
-     LMX_OFFSET(SubstrateWoodType, m_WoodType, element, text), LMX_FLAG(SubstrateWoodType, m_isset_WoodType), position_of(k_SubstrateWoodType_elements, element_WoodType), position_of(k_SubstrateWoodType_elements, element_WoodType, 1), nullptr, nullptr, {}},
+    {item_kind::element, value_kind::number, use_optional, ELMX_WS_COLLAPSE, "Vyr:WoodWeight", element_WoodWeight, LMX_OFFSET(SubstrateWoodType, m_WoodWeight, element, number), LMX_FLAG(SubstrateWoodType, m_isset_WoodWeight), position_of(k_SubstrateWoodType_elements, element_WoodWeight), 1},
+    {item_kind::element, value_kind::text, use_optional, ELMX_WS_PRESERVE, "Vyr:WoodType", element_WoodType, LMX_OFFSET(SubstrateWoodType, m_WoodType, element, text), LMX_FLAG(SubstrateWoodType, m_isset_WoodType), position_of(k_SubstrateWoodType_elements, element_WoodType), 1},
 };
 constinit const s_class SubstrateWoodType::k_class = {
     .name = "SubstrateWoodType",
@@ -311,14 +271,12 @@ constinit const s_class SubstrateWoodType::k_class = {
     .may_be_empty = true,
     .ns_map = k_ns_map,
     .id = &SubstrateWoodType::id,
-    .xsi_type = "Vyr:SubstrateWoodType",
-    .elements = std::span(k_items).subspan(std::size(k_no_events) - 1),
-    .attribute_map = k_no_events,
+    .elements = k_items,
     .element_map = k_SubstrateWoodType_elements,
     .operations = &k_operations<SubstrateWoodType>,
 };
 
-namespace { const char k_SubstrateWoodType_id[] = "SubstrateWoodType"; }
+const char k_SubstrateWoodType_id[] = "SubstrateWoodType";
 const char* SubstrateWoodType::id = k_SubstrateWoodType_id;
 SubstrateWoodType::SubstrateWoodType() = default;
 SubstrateWoodType::SubstrateWoodType(const SubstrateWoodType& other) : SubstrateType() { lmx::copy(k_class, this, &other); }
@@ -337,19 +295,14 @@ lmx::elmx_error SubstrateWoodType::set_WoodType(const std::u16string& value) { r
 
 // SubstrateVinylType
 
-namespace {
 constexpr s_event_map k_SubstrateVinylType_elements[] = {
     element_event("VinylWeight", element_VinylWeight),
     element_event("VinylType", element_VinylType),
     k_end_of_map,
 };
-}  // namespace
-
 constinit const s_item SubstrateVinylType::k_items[] = {
-    {item_kind::element, value_kind::number, use_optional, ELMX_WS_COLLAPSE, "Vyr:VinylWeight", element_VinylWeight,
-     LMX_OFFSET(SubstrateVinylType, m_VinylWeight, element, number), LMX_FLAG(SubstrateVinylType, m_isset_VinylWeight), position_of(k_SubstrateVinylType_elements, element_VinylWeight), position_of(k_SubstrateVinylType_elements, element_VinylWeight, 1), nullptr, nullptr, {}},
-    {item_kind::element, value_kind::text, use_optional, ELMX_WS_PRESERVE, "Vyr:VinylType", element_VinylType,
-     LMX_OFFSET(SubstrateVinylType, m_VinylType, element, text), LMX_FLAG(SubstrateVinylType, m_isset_VinylType), position_of(k_SubstrateVinylType_elements, element_VinylType), position_of(k_SubstrateVinylType_elements, element_VinylType, 1), nullptr, nullptr, {}},
+    {item_kind::element, value_kind::number, use_optional, ELMX_WS_COLLAPSE, "Vyr:VinylWeight", element_VinylWeight, LMX_OFFSET(SubstrateVinylType, m_VinylWeight, element, number), LMX_FLAG(SubstrateVinylType, m_isset_VinylWeight), position_of(k_SubstrateVinylType_elements, element_VinylWeight), 1},
+    {item_kind::element, value_kind::text, use_optional, ELMX_WS_PRESERVE, "Vyr:VinylType", element_VinylType, LMX_OFFSET(SubstrateVinylType, m_VinylType, element, text), LMX_FLAG(SubstrateVinylType, m_isset_VinylType), position_of(k_SubstrateVinylType_elements, element_VinylType), 1},
 };
 constinit const s_class SubstrateVinylType::k_class = {
     .name = "SubstrateVinylType",
@@ -359,14 +312,12 @@ constinit const s_class SubstrateVinylType::k_class = {
     .may_be_empty = true,
     .ns_map = k_ns_map,
     .id = &SubstrateVinylType::id,
-    .xsi_type = "Vyr:SubstrateVinylType",
-    .elements = std::span(k_items).subspan(std::size(k_no_events) - 1),
-    .attribute_map = k_no_events,
+    .elements = k_items,
     .element_map = k_SubstrateVinylType_elements,
     .operations = &k_operations<SubstrateVinylType>,
 };
 
-namespace { const char k_SubstrateVinylType_id[] = "SubstrateVinylType"; }
+const char k_SubstrateVinylType_id[] = "SubstrateVinylType";
 const char* SubstrateVinylType::id = k_SubstrateVinylType_id;
 SubstrateVinylType::SubstrateVinylType() = default;
 SubstrateVinylType::SubstrateVinylType(const SubstrateVinylType& other) : SubstrateType() { lmx::copy(k_class, this, &other); }
@@ -385,19 +336,14 @@ lmx::elmx_error SubstrateVinylType::set_VinylType(const std::u16string& value) {
 
 // SubstrateTileType
 
-namespace {
 constexpr s_event_map k_SubstrateTileType_elements[] = {
     element_event("TileWeight", element_TileWeight),
     element_event("TileType", element_TileType),
     k_end_of_map,
 };
-}  // namespace
-
 constinit const s_item SubstrateTileType::k_items[] = {
-    {item_kind::element, value_kind::number, use_optional, ELMX_WS_COLLAPSE, "Vyr:TileWeight", element_TileWeight,
-     LMX_OFFSET(SubstrateTileType, m_TileWeight, element, number), LMX_FLAG(SubstrateTileType, m_isset_TileWeight), position_of(k_SubstrateTileType_elements, element_TileWeight), position_of(k_SubstrateTileType_elements, element_TileWeight, 1), nullptr, nullptr, {}},
-    {item_kind::element, value_kind::text, use_optional, ELMX_WS_PRESERVE, "Vyr:TileType", element_TileType,
-     LMX_OFFSET(SubstrateTileType, m_TileType, element, text), LMX_FLAG(SubstrateTileType, m_isset_TileType), position_of(k_SubstrateTileType_elements, element_TileType), position_of(k_SubstrateTileType_elements, element_TileType, 1), nullptr, nullptr, {}},
+    {item_kind::element, value_kind::number, use_optional, ELMX_WS_COLLAPSE, "Vyr:TileWeight", element_TileWeight, LMX_OFFSET(SubstrateTileType, m_TileWeight, element, number), LMX_FLAG(SubstrateTileType, m_isset_TileWeight), position_of(k_SubstrateTileType_elements, element_TileWeight), 1},
+    {item_kind::element, value_kind::text, use_optional, ELMX_WS_PRESERVE, "Vyr:TileType", element_TileType, LMX_OFFSET(SubstrateTileType, m_TileType, element, text), LMX_FLAG(SubstrateTileType, m_isset_TileType), position_of(k_SubstrateTileType_elements, element_TileType), 1},
 };
 constinit const s_class SubstrateTileType::k_class = {
     .name = "SubstrateTileType",
@@ -407,14 +353,12 @@ constinit const s_class SubstrateTileType::k_class = {
     .may_be_empty = true,
     .ns_map = k_ns_map,
     .id = &SubstrateTileType::id,
-    .xsi_type = "Vyr:SubstrateTileType",
-    .elements = std::span(k_items).subspan(std::size(k_no_events) - 1),
-    .attribute_map = k_no_events,
+    .elements = k_items,
     .element_map = k_SubstrateTileType_elements,
     .operations = &k_operations<SubstrateTileType>,
 };
 
-namespace { const char k_SubstrateTileType_id[] = "SubstrateTileType"; }
+const char k_SubstrateTileType_id[] = "SubstrateTileType";
 const char* SubstrateTileType::id = k_SubstrateTileType_id;
 SubstrateTileType::SubstrateTileType() = default;
 SubstrateTileType::SubstrateTileType(const SubstrateTileType& other) : SubstrateType() { lmx::copy(k_class, this, &other); }
@@ -433,19 +377,14 @@ lmx::elmx_error SubstrateTileType::set_TileType(const std::u16string& value) { r
 
 // SubstrateFilmType
 
-namespace {
 constexpr s_event_map k_SubstrateFilmType_elements[] = {
     element_event("FilmWeight", element_FilmWeight),
     element_event("FilmType", element_FilmType),
     k_end_of_map,
 };
-}  // namespace
-
 constinit const s_item SubstrateFilmType::k_items[] = {
-    {item_kind::element, value_kind::number, use_optional, ELMX_WS_COLLAPSE, "Vyr:FilmWeight", element_FilmWeight,
-     LMX_OFFSET(SubstrateFilmType, m_FilmWeight, element, number), LMX_FLAG(SubstrateFilmType, m_isset_FilmWeight), position_of(k_SubstrateFilmType_elements, element_FilmWeight), position_of(k_SubstrateFilmType_elements, element_FilmWeight, 1), nullptr, nullptr, {}},
-    {item_kind::element, value_kind::text, use_optional, ELMX_WS_PRESERVE, "Vyr:FilmType", element_FilmType,
-     LMX_OFFSET(SubstrateFilmType, m_FilmType, element, text), LMX_FLAG(SubstrateFilmType, m_isset_FilmType), position_of(k_SubstrateFilmType_elements, element_FilmType), position_of(k_SubstrateFilmType_elements, element_FilmType, 1), nullptr, nullptr, {}},
+    {item_kind::element, value_kind::number, use_optional, ELMX_WS_COLLAPSE, "Vyr:FilmWeight", element_FilmWeight, LMX_OFFSET(SubstrateFilmType, m_FilmWeight, element, number), LMX_FLAG(SubstrateFilmType, m_isset_FilmWeight), position_of(k_SubstrateFilmType_elements, element_FilmWeight), 1},
+    {item_kind::element, value_kind::text, use_optional, ELMX_WS_PRESERVE, "Vyr:FilmType", element_FilmType, LMX_OFFSET(SubstrateFilmType, m_FilmType, element, text), LMX_FLAG(SubstrateFilmType, m_isset_FilmType), position_of(k_SubstrateFilmType_elements, element_FilmType), 1},
 };
 constinit const s_class SubstrateFilmType::k_class = {
     .name = "SubstrateFilmType",
@@ -455,14 +394,12 @@ constinit const s_class SubstrateFilmType::k_class = {
     .may_be_empty = true,
     .ns_map = k_ns_map,
     .id = &SubstrateFilmType::id,
-    .xsi_type = "Vyr:SubstrateFilmType",
-    .elements = std::span(k_items).subspan(std::size(k_no_events) - 1),
-    .attribute_map = k_no_events,
+    .elements = k_items,
     .element_map = k_SubstrateFilmType_elements,
     .operations = &k_operations<SubstrateFilmType>,
 };
 
-namespace { const char k_SubstrateFilmType_id[] = "SubstrateFilmType"; }
+const char k_SubstrateFilmType_id[] = "SubstrateFilmType";
 const char* SubstrateFilmType::id = k_SubstrateFilmType_id;
 SubstrateFilmType::SubstrateFilmType() = default;
 SubstrateFilmType::SubstrateFilmType(const SubstrateFilmType& other) : SubstrateType() { lmx::copy(k_class, this, &other); }
@@ -481,19 +418,14 @@ lmx::elmx_error SubstrateFilmType::set_FilmType(const std::u16string& value) { r
 
 // SubstrateTextileType
 
-namespace {
 constexpr s_event_map k_SubstrateTextileType_elements[] = {
     element_event("TextileWeight", element_TextileWeight),
     element_event("TextileType", element_TextileType),
     k_end_of_map,
 };
-}  // namespace
-
 constinit const s_item SubstrateTextileType::k_items[] = {
-    {item_kind::element, value_kind::number, use_optional, ELMX_WS_COLLAPSE, "Vyr:TextileWeight", element_TextileWeight,
-     LMX_OFFSET(SubstrateTextileType, m_TextileWeight, element, number), LMX_FLAG(SubstrateTextileType, m_isset_TextileWeight), position_of(k_SubstrateTextileType_elements, element_TextileWeight), position_of(k_SubstrateTextileType_elements, element_TextileWeight, 1), nullptr, nullptr, {}},
-    {item_kind::element, value_kind::text, use_optional, ELMX_WS_PRESERVE, "Vyr:TextileType", element_TextileType,
-     LMX_OFFSET(SubstrateTextileType, m_TextileType, element, text), LMX_FLAG(SubstrateTextileType, m_isset_TextileType), position_of(k_SubstrateTextileType_elements, element_TextileType), position_of(k_SubstrateTextileType_elements, element_TextileType, 1), nullptr, nullptr, {}},
+    {item_kind::element, value_kind::number, use_optional, ELMX_WS_COLLAPSE, "Vyr:TextileWeight", element_TextileWeight, LMX_OFFSET(SubstrateTextileType, m_TextileWeight, element, number), LMX_FLAG(SubstrateTextileType, m_isset_TextileWeight), position_of(k_SubstrateTextileType_elements, element_TextileWeight), 1},
+    {item_kind::element, value_kind::text, use_optional, ELMX_WS_PRESERVE, "Vyr:TextileType", element_TextileType, LMX_OFFSET(SubstrateTextileType, m_TextileType, element, text), LMX_FLAG(SubstrateTextileType, m_isset_TextileType), position_of(k_SubstrateTextileType_elements, element_TextileType), 1},
 };
 constinit const s_class SubstrateTextileType::k_class = {
     .name = "SubstrateTextileType",
@@ -503,14 +435,12 @@ constinit const s_class SubstrateTextileType::k_class = {
     .may_be_empty = true,
     .ns_map = k_ns_map,
     .id = &SubstrateTextileType::id,
-    .xsi_type = "Vyr:SubstrateTextileType",
-    .elements = std::span(k_items).subspan(std::size(k_no_events) - 1),
-    .attribute_map = k_no_events,
+    .elements = k_items,
     .element_map = k_SubstrateTextileType_elements,
     .operations = &k_operations<SubstrateTextileType>,
 };
 
-namespace { const char k_SubstrateTextileType_id[] = "SubstrateTextileType"; }
+const char k_SubstrateTextileType_id[] = "SubstrateTextileType";
 const char* SubstrateTextileType::id = k_SubstrateTextileType_id;
 SubstrateTextileType::SubstrateTextileType() = default;
 SubstrateTextileType::SubstrateTextileType(const SubstrateTextileType& other) : SubstrateType() { lmx::copy(k_class, this, &other); }

@@ -40,6 +40,7 @@ public:
     void swap(SubstrateType& other);
     void reset();
     bool is_occurs_ok() const;
+    static const lmx::s_class k_class;
 
     /// A named value of the user's own.
     std::size_t size_CustomAttribute() const { return m_CustomAttribute.size(); }
@@ -71,8 +72,6 @@ public:
     /// A new object of the type with that local name in namespace 1000, or null; the caller owns it.
     static SubstrateType* factory(int ns_id, const std::string& name);
     static const lmx::s_factory_row k_factory[9];
-
-    static const lmx::s_class k_class;
 
 protected:
     void marshal_attributes(lmx::c_xml_writer& writer) const { lmx::marshal_attributes(k_class, this, writer); }
@@ -121,6 +120,7 @@ public:
     void swap(SubstratePaperType& other);
     void reset();
     bool is_occurs_ok() const;
+    static const lmx::s_class k_class;
 
     /// Thickness of the paper; no unit is stated.
     double get_PaperThickness() const { return m_PaperThickness; }
@@ -136,8 +136,6 @@ public:
 
     /// The class's identity; `getid` and `has_id` work on its address.
     static const char* id;
-
-    static const lmx::s_class k_class;
 
 protected:
     void marshal_attributes(lmx::c_xml_writer& writer) const { lmx::marshal_attributes(k_class, this, writer); }
@@ -174,6 +172,7 @@ public:
     void swap(SubstrateGenericType& other);
     void reset();
     bool is_occurs_ok() const;
+    static const lmx::s_class k_class;
 
     /// Kind of material in words; not empty.
     const std::u16string& get_Type() const { return m_Type; }
@@ -181,8 +180,6 @@ public:
 
     /// The class's identity; `getid` and `has_id` work on its address.
     static const char* id;
-
-    static const lmx::s_class k_class;
 
 protected:
     void marshal_attributes(lmx::c_xml_writer& writer) const { lmx::marshal_attributes(k_class, this, writer); }
@@ -216,6 +213,7 @@ public:
     void swap(SubstrateMetalType& other);
     void reset();
     bool is_occurs_ok() const;
+    static const lmx::s_class k_class;
 
     /// Weight of the metal; no unit is stated.
     double get_MetalWeight() const { return m_MetalWeight; }
@@ -231,8 +229,6 @@ public:
 
     /// The class's identity; `getid` and `has_id` work on its address.
     static const char* id;
-
-    static const lmx::s_class k_class;
 
 protected:
     void marshal_attributes(lmx::c_xml_writer& writer) const { lmx::marshal_attributes(k_class, this, writer); }
@@ -269,6 +265,7 @@ public:
     void swap(SubstratePlasticType& other);
     void reset();
     bool is_occurs_ok() const;
+    static const lmx::s_class k_class;
 
     /// Weight of the plastic; no unit is stated.
     double get_PlasticWeight() const { return m_PlasticWeight; }
@@ -284,8 +281,6 @@ public:
 
     /// The class's identity; `getid` and `has_id` work on its address.
     static const char* id;
-
-    static const lmx::s_class k_class;
 
 protected:
     void marshal_attributes(lmx::c_xml_writer& writer) const { lmx::marshal_attributes(k_class, this, writer); }
@@ -322,6 +317,7 @@ public:
     void swap(SubstrateWoodType& other);
     void reset();
     bool is_occurs_ok() const;
+    static const lmx::s_class k_class;
 
     /// Weight of the wood; no unit is stated.
     double get_WoodWeight() const { return m_WoodWeight; }
@@ -337,8 +333,6 @@ public:
 
     /// The class's identity; `getid` and `has_id` work on its address.
     static const char* id;
-
-    static const lmx::s_class k_class;
 
 protected:
     void marshal_attributes(lmx::c_xml_writer& writer) const { lmx::marshal_attributes(k_class, this, writer); }
@@ -375,6 +369,7 @@ public:
     void swap(SubstrateVinylType& other);
     void reset();
     bool is_occurs_ok() const;
+    static const lmx::s_class k_class;
 
     /// Weight of the vinyl; no unit is stated.
     double get_VinylWeight() const { return m_VinylWeight; }
@@ -390,8 +385,6 @@ public:
 
     /// The class's identity; `getid` and `has_id` work on its address.
     static const char* id;
-
-    static const lmx::s_class k_class;
 
 protected:
     void marshal_attributes(lmx::c_xml_writer& writer) const { lmx::marshal_attributes(k_class, this, writer); }
@@ -428,6 +421,7 @@ public:
     void swap(SubstrateTileType& other);
     void reset();
     bool is_occurs_ok() const;
+    static const lmx::s_class k_class;
 
     /// Weight of the tile; no unit is stated.
     double get_TileWeight() const { return m_TileWeight; }
@@ -443,8 +437,6 @@ public:
 
     /// The class's identity; `getid` and `has_id` work on its address.
     static const char* id;
-
-    static const lmx::s_class k_class;
 
 protected:
     void marshal_attributes(lmx::c_xml_writer& writer) const { lmx::marshal_attributes(k_class, this, writer); }
@@ -481,6 +473,7 @@ public:
     void swap(SubstrateFilmType& other);
     void reset();
     bool is_occurs_ok() const;
+    static const lmx::s_class k_class;
 
     /// Weight of the film; no unit is stated.
     double get_FilmWeight() const { return m_FilmWeight; }
@@ -496,8 +489,6 @@ public:
 
     /// The class's identity; `getid` and `has_id` work on its address.
     static const char* id;
-
-    static const lmx::s_class k_class;
 
 protected:
     void marshal_attributes(lmx::c_xml_writer& writer) const { lmx::marshal_attributes(k_class, this, writer); }
@@ -534,6 +525,7 @@ public:
     void swap(SubstrateTextileType& other);
     void reset();
     bool is_occurs_ok() const;
+    static const lmx::s_class k_class;
 
     /// Weight of the textile; no unit is stated.
     double get_TextileWeight() const { return m_TextileWeight; }
@@ -549,8 +541,6 @@ public:
 
     /// The class's identity; `getid` and `has_id` work on its address.
     static const char* id;
-
-    static const lmx::s_class k_class;
 
 protected:
     void marshal_attributes(lmx::c_xml_writer& writer) const { lmx::marshal_attributes(k_class, this, writer); }

@@ -38,16 +38,14 @@ def initial_value(item):
     return "" if parameter_type(item.value.value).startswith("const") else " = 0"
 
 
-def comment(text, indent=""):
-    return textwrap.wrap(text, WIDTH, initial_indent=f"{indent}/// ", subsequent_indent=f"{indent}/// ",
-                         break_long_words=False, break_on_hyphens=False)
+def comment(text):
+    return textwrap.wrap(text, WIDTH, initial_indent="/// ", subsequent_indent="/// ", break_long_words=False,
+                         break_on_hyphens=False)
 
 
-
-def frame(purpose, pragmas, includes, body):
+def frame(purpose, includes, body, is_header=False, notes=()):
     """A whole file. Standard headers among the includes are those in angle brackets."""
     standard = sorted(name for name in includes if name.startswith("<"))
-    own = [name for name in includes if not name.startswith("<")]
     lines = [
         "// Copyright 2026 The Vyr Authors",
         "// SPDX-License-Identifier: Apache-2.0",
@@ -57,11 +55,12 @@ def frame(purpose, pragmas, includes, body):
         "",
         *comment(purpose),
         "",
-        *pragmas,
     ]
+    if is_header:
+        lines += ["#pragma once", *[""] * bool(includes)]
     if standard:
         lines += [*(f"#include {name}" for name in standard), ""]
-    lines += [*(f'#include "{name}"' for name in own), ""]
+    lines += [*(f'#include "{name}"' for name in includes if name not in standard), "", *notes]
     return "\n".join([*lines, f"namespace {NAMESPACE} {{", "", *body, "", f"}}  // namespace {NAMESPACE}", ""])
 
 

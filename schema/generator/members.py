@@ -86,7 +86,8 @@ ITEM = """
     number | plain inline Eenum_$x getenum_$x() const { return static_cast<Eenum_$x>(m_$x.number()); }
     chosen_number | plain Eenum_$x getenum_$x() const
         { return static_cast<Eenum_$x>(lmx::chosen_number(k_class, $row, this)); }
-    enumerated | guarded bool setenum_$x(std::int32_t number) { return lmx::set_enumerated(k_class, $row, this, number); }
+    enumerated | guarded bool setenum_$x(std::int32_t number)
+        { return lmx::set_enumerated(k_class, $row, this, number); }
 
     child | plain inline $type& get_$x() { $flag = true; return $held; }
     child | inline const $type& get_$x() const { return $held; }
@@ -98,8 +99,8 @@ ITEM = """
     alternative | inline const $type& get_$x() const { return *static_cast<const $type*>(m_choice.object); }
     alternative | guarded $type& assign_$x(const $type& value)
         { $type copy(value); $type& target = get_$x(); target.swap(copy); return target; }
-    /// Takes an object, which may be of a derived class. Null leaves the member without one, which can't be written; the
-        reference is then to an object of the calling thread that belongs to nothing.
+    /// Takes an object, which may be of a derived class. Null leaves the member without one, which can't be written;
+        the reference is then to an object of the calling thread that belongs to nothing.
     adopted | $type& assign_$x($type* value)
         { lmx::adopt(k_class, $row, this, value); if (value != nullptr) return *value;
         thread_local $type nothing; nothing.reset(); return nothing; }
@@ -200,6 +201,7 @@ CLASS = """
     own | guarded void reset() { $name fresh; lmx::exchange(k_class, this, &fresh); }
     own | plain bool is_occurs_ok() const { return lmx::is_occurs_ok(k_class, this); }
     choice | plain inline elmx_chosen getchosen() const { return static_cast<elmx_chosen>(m_choice.chosen); }
+    own | static const lmx::s_class k_class;
 """
 # The setters of a nillable class whose content lies in its base: they also end the nil state.
 INHERITED_CONTENT = """
@@ -221,8 +223,6 @@ END = """
     factory | static $name* factory(int ns_id, const std::string& name)
         { return static_cast<$name*>(lmx::create_by_name(k_factory, ns_id, name)); }
     factory | static const lmx::s_factory_row k_factory[$known];
-    //!
-    | static const lmx::s_class k_class;
 """
 PROTECTED = """
     | inline void marshal_attributes($writer) const { lmx::marshal_attributes(k_class, this, writer); }
@@ -241,6 +241,7 @@ PROTECTED = """
 def class_names(plan, made):
     """The names in the tables of a class's members."""
     init = " init();" if made.init else ""
+    body = f" {{{init} }}" if init else ""
     # The texts of enumerations are not known in the header.
     initial = ", ".join(f"m_{item.accessor}(facets::{item.value.name}.enumerated->find("
                         f"{item.value.enumeration.index(item.initial) + 1}))"
@@ -251,7 +252,7 @@ def class_names(plan, made):
     return {
         "name": made.name, "base": made.base, "init": init,
         "preset": "" if made.wrapper else "*error = lmx::ELMX_UNDEFINED_ERROR; ",
-        "initial": (f" : {initial}" if initial else "") + (f" {{{init} }}" if init else " {}" if initial else " = default;"),
+        "initial": f" : {initial}{body or ' {}'}" if initial else body or " = default;",
         "delegated": f" : {delegate}()" if delegate else "",
         "virtual": "virtual " if made.named and not made.base else "",
         "override": " override" if plan.identity(made) and (made.base or not made.named) else "",

@@ -377,7 +377,8 @@ class Builder:
         node.check("", "annotation element")
         name = "anon_" + node.all("element")[0].get("name", "")
         self.add(node, name)
-        self.add(node, name, self.doc(node), "choice", "", elements=tuple(self.choice(name, node)), inline=True, local=True)
+        elements = tuple(self.choice(name, node))
+        self.add(node, name, self.doc(node), "choice", "", elements=elements, inline=True, local=True)
         return Item("group", "", name, self.doc(node), type=name)
 
     def choice(self, owner, node):
@@ -474,7 +475,7 @@ class Builder:
         return bool(items) and all(item.minimum == 0 for item in items)
 
     def topic(self, made):
-        """Of a named type or a group what the overlay says; others lie with their owner or with what they derive from."""
+        """Of a named type or a group by the overlay; others lie with their owner or with what they derive from."""
         found = made.topic or not (made.local or made.wrapper) and self.topics.get(made.name)
         above = self.owners.get(made.name) if made.local else self.classes.get(made.base)
         return found or above and self.topic(above)

@@ -3,6 +3,7 @@
 """What follows from the model for the C++ side: order of definitions, includes, tokens, maps, identities."""
 
 from dataclasses import dataclass
+from graphlib import CycleError, TopologicalSorter
 
 from model import Class, Item, Model
 from source import SchemaError
@@ -116,10 +117,8 @@ class Plan:
 
     def check_cycles(self):
         """Headers include each other as far as members by value ask for it; that must not go round."""
-        needs = {topic.name: set(topic.header_needs) for topic in self.topics}
-        while needs:
-            free = [name for name, others in needs.items() if not others & needs.keys()]
-            if not free:
-                raise SchemaError("binding.toml", 0, f"topics {', '.join(needs)} need each other's headers")
-            for name in free:
-                del needs[name]
+        try:
+            TopologicalSorter({topic.name: topic.header_needs for topic in self.topics}).prepare()
+        except CycleError as error:
+            names = ", ".join(error.args[1])
+            raise SchemaError("binding.toml", 0, f"topics {names} need each other's headers") from error

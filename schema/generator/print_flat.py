@@ -87,75 +87,65 @@ def result_of(kind, name):
     return (OBJECT, "&{}") if kind.endswith("&") else (OBJECT, "{}") if kind.endswith("*") else (kind, "{}")
 
 
+def letter(text):
+    """A parameter's name inside an action, where "s" is the object."""
+    return "n" if text == "size" else text[0]
+
+
 def function_of(owner, member, number):
     """The function of a member; `number` tells overloads apart."""
     found = member.parts
     name, stem = found["name"], f"CSharp_{owner}_{found['name']}{number}"
     parameters = [parameter(text) for text in found["parameters"].split(", ") if text]
     result, form = result_of(found["result"].strip(), name)
-    is_checked = bool(parameters) and parameters[-1][3] is not None
-    is_text = bool(parameters) and parameters[-1][0] == WIDE
-
-    def letter(text):
-        """The name inside an action, where "s" is the object."""
-        return "n" if text == "size" else text[0]
+    own = [SELF, *((kind, text) for kind, text, _, _ in parameters)]
+    check = parameters[-1][3] if parameters else None
 
     def call(self, value):
         return f"as<{owner}>({self}).{name}({', '.join(form.format(value(text)) for _, text, form, _ in parameters)})"
 
-    names = [text for _, text, _, _ in parameters]
-    if is_text:
-        inner = "".join(f", std::size_t {letter(text)}" for text in names[:-1])
-        body = f"with_text({', '.join(['self', *names])}, [](void* s{inner}, wide_text v) " \
+    if own[-1][0] == WIDE:
+        inner = "".join(f", std::size_t {letter(text)}" for _, text in own[1:-1])
+        body = f"with_text({', '.join(text for _, text in own)}, [](void* s{inner}, wide_text v) " \
                f"{{ return {call('s', letter)}; }})"
-    elif is_checked or member.flat == "guarded":
-        order = [SELF, *((kind, text) for kind, text, _, _ in parameters)]
-        if is_checked:  # what is checked goes first
-            order = [order[-1], *order[:-1]]
-        action = call("s", letter)
-        action = form.format(action) if result == OBJECT else action
-        body = f"{f'checked({parameters[-1][3]}, ' if is_checked else 'guarded('}" \
-               f"+[]({', '.join(f'{kind} {letter(text)}' for kind, text in order)}){' -> void*' if result == OBJECT else ''} " \
-               f"{{ return {action}; }}, {', '.join(text for _, text in order)})"
+    elif check or member.flat == "guarded":
+        order = [own[-1], *own[:-1]] if check else own  # what is checked goes first
+        inner, given = ", ".join(f"{kind} {letter(text)}" for kind, text in order), ", ".join(text for _, text in order)
+        address, action = (" -> void*", form.format(call("s", letter))) if result == OBJECT else ("", call("s", letter))
+        verb = f"checked({check}, " if check else "guarded("
+        body = f"{verb}+[]({inner}){address} {{ return {action}; }}, {given})"
     else:
         body = form.format(call("self", str))
-    return Function(stem, result, (SELF, *((kind, text) for kind, text, _, _ in parameters)), body)
+    return Function(stem, result, tuple(own), body)
 
 
 def made_by_class(plan, made):
     """What isn't called on an object, or not as it stands in the class."""
-    name = made.name
-
-    def add(stem, result, parameters, body):
-        return Function(f"CSharp_{stem}", result, parameters, body)
-
-    if not (made.wrapper and not made.is_document):
-        yield add(f"new_{name}__SWIG_0", OBJECT, (), f"make<{name}>()")
-        yield add(f"new_{name}__SWIG_1", OBJECT, ((OBJECT, "source"),),
-                  f"checked({null_text(f'{NAMESPACE}::{name}')}, &copy<{name}>, source)")
-    yield add(f"delete_{name}", "void", (SELF,), f"destroy<{name}>(self)")
-    if made.base:
-        yield add(f"{name}Upcast", OBJECT, (SELF,), f"upcast<{name}, {made.base}>(self)")
-    if made.is_document:
-        yield add(f"{name}_ns_map", OBJECT, (), f"reference(*{name}::ns_map())")
-    if made.named and not made.wrapper:
-        yield add(f"{name}_id_get", NARROW, (), f"{name}::id")
-        yield add(f"{name}_id_set", "void", ((NARROW, "identity"),), f"set_identity(&{name}::id, identity)")
-    if plan.factory(made) and not made.wrapper:
-        yield add(f"{name}_factory", OBJECT, ((CODE, "ns_id"), (NARROW, "name")),
-                  f"checked(k_null_string, +[](const char* n, std::int32_t i) -> void* {{ "
-                  f"return {name}::factory(i, n); }}, name, ns_id)")
+    name, is_named, source = made.name, made.named and not made.wrapper, ((OBJECT, "source"),)
+    is_made, has_factory = not made.wrapper or made.is_document, plan.factory(made) and not made.wrapper
+    rows = (
+        (is_made, f"new_{name}__SWIG_0", OBJECT, (), f"make<{name}>()"),
+        (is_made, f"new_{name}__SWIG_1", OBJECT, source,
+         f"checked({null_text(f'{NAMESPACE}::{name}')}, &copy<{name}>, source)"),
+        (True, f"delete_{name}", "void", (SELF,), f"destroy<{name}>(self)"),
+        (made.base, f"{name}Upcast", OBJECT, (SELF,), f"upcast<{name}, {made.base}>(self)"),
+        (made.is_document, f"{name}_ns_map", OBJECT, (), f"reference(*{name}::ns_map())"),
+        (is_named, f"{name}_id_get", NARROW, (), f"{name}::id"),
+        (is_named, f"{name}_id_set", "void", ((NARROW, "identity"),), f"set_identity(&{name}::id, identity)"),
+        (has_factory, f"{name}_factory", OBJECT, ((CODE, "ns_id"), (NARROW, "name")),
+         f"checked(k_null_string, +[](const char* n, std::int32_t i) -> void* {{ return {name}::factory(i, n); }}, "
+         "name, ns_id)"),
+    )
+    return [Function(f"CSharp_{stem}", *rest) for is_there, stem, *rest in rows if is_there]
 
 
 def functions_of(plan, made):
-    functions = [*made_by_class(plan, made)]
-    members = members_of(plan, made)
+    functions, members = made_by_class(plan, made), members_of(plan, made)
     names = [member.parts and member.parts["name"] for member in members]
     for place, member in enumerate(members):
         if member.flat:
-            number = names[:place].count(names[place])
-            is_overloaded = names.count(names[place]) > 1
-            functions.append(function_of(made.name, member, f"__SWIG_{number}" if is_overloaded else ""))
+            number = f"__SWIG_{names[:place].count(names[place])}" if names.count(names[place]) > 1 else ""
+            functions.append(function_of(made.name, member, number))
     return functions
 
 
@@ -164,7 +154,7 @@ def print_flat_source(plan, topic):
     for made in topic.classes:
         body += ["", f"// {made.name}", *(function.line() for function in functions_of(plan, made))]
     includes = ["flat/call.h", *(f"{FOLDER}/{name}.h" for name in sorted({topic.name, *topic.source_needs}))]
-    return frame(f"Flat functions of the classes in {topic.name}.h.", [], includes, [*body, "", '}  // extern "C"'])
+    return frame(f"Flat functions of the classes in {topic.name}.h.", includes, [*body, "", '}  // extern "C"'])
 
 
 def print_exports(plan, members):

@@ -5,7 +5,6 @@
 from cpp import ENUMERATED_TYPE, FOLDER, LISTS, MEMBER_TYPES, comment, frame, initial_value
 from members import members_of, own_choice, protected_members
 
-
 CHOICE = "lmx::s_choice m_choice{e_none, false, {}};"
 
 
@@ -33,10 +32,9 @@ def has_flag(item):
     return item.kind not in (*LISTS, "any", "alternative", "marker")
 
 
-def public_part(plan, made):
-    yield from comment(made.doc)
-    yield class_title(made)
-    yield "public:"
+def own_class(plan, made):
+    """All that a class declares, by sections."""
+    yield from (*comment(made.doc), class_title(made), "public:")
     if own_choice(made):
         names = ", ".join(f"e_{item.accessor}" for item in made.elements)
         none = f"e_none = e_{made.elements[-1].accessor} + {2 if made.content == 'group' else 1}"
@@ -47,60 +45,48 @@ def public_part(plan, made):
         if member.begins:
             yield ""
         yield from (f"    {line}" for line in (*comment(member.doc), member.declaration()))
-
-
-def own_class(plan, made):
-    """All that a class declares, by sections."""
-    yield from public_part(plan, made)
     if not made.wrapper:
-        yield ""
-        yield "protected:"
-        yield from (f"    {member.declaration()}" for member in protected_members(made))
+        yield from ("", "protected:", *(f"    {member.declaration()}" for member in protected_members(made)))
         if made.content == "group" and not made.derives_from_group:
             yield f"    {CHOICE}"
-        yield from private_part(made)
+        if lines := private_lines(plan, made):
+            yield from ("", "private:", *(f"    {line}" for line in lines))
     yield "};"
 
 
-def private_part(made):
+def private_lines(plan, made):
     lines = []
     if made.init:
         lines += [*comment(made.init), "void init();"]
+    if any("item_" in member.body for member in members_of(plan, made)):
+        rows = (f"    item_{item.accessor or item.name}," for item in made.items)
+        lines += ["enum item : std::size_t {", *rows, "};"]
     if made.items:
-        lines.append("enum item : std::size_t {")
-        lines += [f"    item_{item.accessor or item.name}," for item in made.items]
-        lines += ["};", "static const lmx::s_item k_items[];"]
+        lines.append("static const lmx::s_item k_items[];")
     if made.nillable:
         lines.append("bool m_isnil = false;")
     if made.content == "choice":
         lines.append(CHOICE)
     if not made.derives_from_group:
-        lines += [storage(item) for item in made.items if storage(item)]
+        lines += filter(None, map(storage, made.items))
         # Flags lie together at the end, where they take a byte each.
         lines += [f"bool m_isset_{item.accessor} = false;" for item in made.items if has_flag(item)]
-    if lines:
-        yield ""
-        yield "private:"
-        yield from (f"    {line}" for line in lines)
+    return lines
 
 
 def print_header(plan, topic):
-    body = []
-    for made in topic.classes:
-        body += [*own_class(plan, made), ""]
+    body = [line for made in topic.classes for line in (*own_class(plan, made), "")]
     includes = ["<cstddef>", "<cstdint>", "<iosfwd>", "<string>", "lmx/binding/class_parts.h", "lmx/binding/table.h",
-                "lmx/export.h",
-                f"{FOLDER}/enumerations.h", f"{FOLDER}/forward.h",
-                *(f"{FOLDER}/{name}.h" for name in topic.header_needs)]
+                "lmx/export.h", *(f"{FOLDER}/{name}.h" for name in ("enumerations", "forward", *topic.header_needs))]
     names = ", ".join(made.name for made in topic.classes if not made.wrapper and not made.local)
-    return frame(f"Classes of the topic {topic.name.replace('_', ' ')}: {names}.", ["#pragma once", ""],
-                 sorted(includes), body[:-1])
+    return frame(f"Classes of the topic {topic.name.replace('_', ' ')}: {names}.", sorted(includes), body[:-1],
+                 is_header=True)
 
 
 def print_forward(plan):
     names = sorted(made.name for made in plan.model.classes)
-    return frame("The names of all classes of the format.", ["#pragma once"], [],
-                 [*(f"class {name};" for name in names), "class XMLDocumentResult;"])
+    return frame("The names of all classes of the format.", [],
+                 [*(f"class {name};" for name in names), "class XMLDocumentResult;"], is_header=True)
 
 
 def enumerator(name, text):
@@ -116,10 +102,10 @@ def print_enumerations(plan):
             body += [f"    {enumerator(name, text)}{start},  ///< {doc}"]
             start = ""
         body += ["};", ""]
-    return frame("Numbers of the enumerated texts, from 1; 0 stands for any other text.", ["#pragma once", ""],
-                 ["<cstdint>"], body[:-1])
+    return frame("Numbers of the enumerated texts, from 1; 0 stands for any other text.", ["<cstdint>"], body[:-1],
+                 is_header=True)
 
 
 def print_all(plan):
-    return frame("All classes of the format.", ["#pragma once", ""],
-                 sorted(f"{FOLDER}/{topic.name}.h" for topic in plan.topics), [])
+    return frame("All classes of the format.", sorted(f"{FOLDER}/{topic.name}.h" for topic in plan.topics), [],
+                 is_header=True)

@@ -121,5 +121,5 @@ class Members:
         body = ["using namespace flat;", "", 'extern "C" {']
         for owner, functions in self.groups.items():
             body += ["", f"// {owner}", *(made.line() for made in functions)]
-        return frame("Flat functions that don't follow from the schema.", [], ["flat/call.h", *self.includes],
+        return frame("Flat functions that don't follow from the schema.", ["flat/call.h", *self.includes],
                      [*body, "", '}  // extern "C"'])

@@ -5,24 +5,29 @@
 from cpp import FOLDER, comment, frame, own_source
 from members import flag_member, members_of, own_choice
 from model import PREFIX, REQUIRED
+from plan import HAS_TOKEN
 from print_headers import has_flag
 
-VERSION = 4  # of the runtime's tables, lmx::k_binding_version
+VERSION = 5  # of the runtime's tables, lmx::k_binding_version
+NOTES = (
+    "// Offsets of members of classes with virtual functions: both compilers define them, and the macros check them.",
+    '#pragma GCC diagnostic ignored "-Winvalid-offsetof"',
+    "",
+)
 
 
-# Tables
+def record(name, fields):
+    """A constant of which the fields with a value are written."""
+    yield f"constinit const {name} = {{"
+    yield from (f"    .{field} = {value}," for field, value in fields.items() if value)
+    yield "};"
 
 
-def event_rows(kind, items):
-    return [f'    {kind}_event("{item.name}", {kind}_{item.name}),' for item in items]
-
-
-def event_map(made, part, rows):
-    """A map and its name; classes without rows share the empty one."""
-    if not rows:
-        return [], "k_no_events"
-    name = f"k_{made.name}_{part}"
-    return [f"constexpr s_event_map {name}[] = {{", *rows, "    k_end_of_map,", "};"], name
+def event_map(name, kind, items):
+    if items:
+        yield f"constexpr s_event_map {name}[] = {{"
+        yield from (f'    {kind}_event("{item.name}", {kind}_{item.name}),' for item in items)
+        yield from ("    k_end_of_map,", "};")
 
 
 def use_mask(made, item):
@@ -36,51 +41,52 @@ def facets_of(item):
     return f"&facets::{item.value.name}" if item.value and item.value.facets() else "nullptr"
 
 
-def row(plan, made, item, map_name):
+def row(plan, made, item, element_map):
     value = item.value.value if item.value and item.kind != "marker" else "none"
     if item.enumerated:
         value = "enumerated"
-    stored_type = f"&{item.type}::k_class" if item.type and item.kind != "marker" else "nullptr"
     mode = "ELMX_WS_COLLAPSE" if item.value and item.value.collapse else "ELMX_WS_PRESERVE"
-    name = {"attribute": item.name, "content": "", "group": "", "group_list": ""}.get(item.kind, PREFIX + item.name)
-    if item.kind in ("group", "group_list") and item.name:
-        name = PREFIX + item.name
+    # What has no name of its own is printed under those of its parts; open content brings names along.
+    name = item.name if item.kind == "attribute" or not (item.name or item.kind == "any") else PREFIX + item.name
     elements = plan.map_items(item)
-    token = plan.token(item) if item.kind == "attribute" or (elements and elements[0] is item) else "0"
-    position = "0, 0"
+    token, position, width, offset, flag, factory = "0", "0", "0", "0", "k_no_flag", "{}"
+    if item.kind in HAS_TOKEN:
+        token = plan.token(item)
     if elements and item.kind != "attribute":
-        first = plan.token(elements[0])
-        position = ", ".join(f"position_of({map_name}, {first}{width})" for width in ("", f", {len(elements)}"))
-    offset, flag = "0", "k_no_flag"
+        position, width = f"position_of({element_map}, {plan.token(elements[0])})", str(len(elements))
     if has_flag(item):
         flag = f"LMX_FLAG({made.name}, {flag_member(made, item)})"
     if item.kind not in ("alternative", "marker") and not made.derives_from_group:
         offset = f"LMX_OFFSET({made.name}, m_{item.accessor}, {item.kind}, {value})"
-    factory = "{}"
     if item.kind == "alternative" and item.type and plan.factory(plan.by_name[item.type]):
         factory = f"{item.type}::k_factory"
-    return (f'    {{item_kind::{item.kind}, value_kind::{value}, {use_mask(made, item)}, {mode}, "{name}", {token},\n'
-            f"     {offset}, {flag}, {position}, {stored_type}, {facets_of(item)}, {factory}}},")
+    type_table = f"&{item.type}::k_class" if item.type and item.kind != "marker" else "nullptr"
+    fields = [f"item_kind::{item.kind}", f"value_kind::{value}", use_mask(made, item), mode, f'"{name}"', token,
+              offset, flag, position, width, type_table, facets_of(item), factory]
+    while fields[-1] in ("0", "nullptr", "{}"):
+        fields.pop()
+    return f"    {{{', '.join(fields)}}},"
 
 
 def class_table(plan, made):
     name = made.name
-    attribute_map, attributes = event_map(made, "attributes", event_rows("attribute", made.attributes))
+    attribute_map, element_map = f"k_{name}_attributes", f"k_{name}_elements"
     elements = [element for item in made.elements for element in plan.map_items(item)]
-    element_map, children = event_map(made, "elements", event_rows("element", elements))
-    maps = attribute_map + element_map
-    if maps:
-        yield from ("namespace {", *maps, "}  // namespace", "")
+    yield from event_map(attribute_map, "attribute", made.attributes)
+    yield from event_map(element_map, "element", elements)
     if made.items:
         yield f"constinit const s_item {name}::k_items[] = {{"
-        yield from (row(plan, made, item, children) for item in made.items)
+        yield from (row(plan, made, item, element_map) for item in made.items)
         yield "};"
     if known := plan.factory(made):
         yield f"constinit const s_factory_row {name}::k_factory[] = {{"
         yield from (f'    {{"{other.name}", &{other.name}::k_class}},' for other in known)
         yield "};"
     base, identity = plan.table_base(made), plan.identity(made)
-    count = f"std::size({attributes}) - 1"
+    own_attributes, own_elements = made.attributes and "k_items", made.elements and "k_items"
+    if own_attributes and own_elements:
+        count = f"std::size({attribute_map}) - 1"
+        own_attributes, own_elements = f"std::span(k_items).first({count})", f"std::span(k_items).subspan({count})"
     fields = {
         "name": f'"{name}"',
         "qualified_name": f'"{made.qualified_name}"',
@@ -91,23 +97,20 @@ def class_table(plan, made):
         "nil_flag": made.nillable and f"LMX_FLAG({name}, m_isnil)",
         "choice": own_choice(made) and f"LMX_CHOICE({name}, m_choice)",
         "id": identity and f"&{identity.name}::id",
-        "xsi_type": identity and f'"{PREFIX}{identity.name}"',
-        "attributes": made.attributes and f"std::span(k_items).first({count})",
-        "elements": made.elements and f"std::span(k_items).subspan({count})",
-        "attribute_map": attributes,
-        "element_map": children,
+        "attributes": own_attributes,
+        "elements": own_elements,
+        "attribute_map": made.attributes and attribute_map,
+        "element_map": elements and element_map,
         "operations": f"&k_operations<{name}>",
     }
-    yield f"constinit const s_class {name}::k_class = {{"
-    yield from (f"    .{field} = {value}," for field, value in fields.items() if value)
-    yield "};"
+    yield from record(f"s_class {name}::k_class", fields)
 
 
 def statics(plan, made):
     """What a class has one of, besides its table."""
     name = made.name
     if made.named and not made.wrapper:
-        yield f'namespace {{ const char k_{name}_id[] = "{name}"; }}'
+        yield f'const char k_{name}_id[] = "{name}";'
         yield f"const char* {name}::id = k_{name}_id;"
     if made.wrapper or made.is_document:
         yield f'constinit const lmx::s_document {name}::k_document = {{"{PREFIX}{made.element}", "{made.element}", ' \
@@ -121,17 +124,10 @@ def print_source(plan, topic):
         definitions = [member.definition(made.name) for member in members_of(plan, made)]
         table = [] if made.wrapper else [*class_table(plan, made), ""]
         body += [f"// {made.name}", "", *table, *statics(plan, made), *filter(None, definitions), ""]
-    pragmas = [
-        "// Offsets of members of classes with virtual functions: both compilers define them, and the macros check them.",
-        "#pragma GCC diagnostic ignored \"-Winvalid-offsetof\"",
-        "",
-    ]
     includes = own_source(topic.name, [
         "lmx/binding/binding.h", "lmx/binding/rows.h", f"{FOLDER}/tables.h",
         *(f"{FOLDER}/{name}.h" for name in topic.source_needs)])
-    text = frame(f"Tables and members of the classes in {topic.name}.h.", [], includes, body[:-1])
-    start, end = text.split("\nnamespace com_vyrgraph_v2 {", 1)
-    return start + "\n" + "\n".join(pragmas) + "\nnamespace com_vyrgraph_v2 {" + end
+    return frame(f"Tables and members of the classes in {topic.name}.h.", includes, body[:-1], notes=NOTES)
 
 
 # What the sources share
@@ -145,50 +141,50 @@ def print_tables_header(plan):
     body += ["};", "", "/// What values must meet, by the simple types of the schema.", "namespace facets {"]
     body += [f"extern const lmx::s_facets {simple.name};" for simple in plan.facets]
     body += ["}  // namespace facets"]
-    return frame("What the tables of all classes share: the namespace map, tokens and facets.", ["#pragma once", ""],
-                 ["lmx/binding/table.h"], body)
+    return frame("What the tables of all classes share: the namespace map, tokens and facets.", ["lmx/binding/table.h"],
+                 body, is_header=True)
+
+
+def facet_parts(simple):
+    """What stands beside the facets of a type, and their fields."""
+    name, parts, pattern = simple.name, [], simple.pattern
+    if simple.enumeration:
+        rows = (f'    "{text}",' for text in simple.enumeration)
+        parts += [f"constexpr std::string_view k_{name}_texts[] = {{", *rows, "};",
+                  f"constinit const lmx::c_enumeration k_{name}_enumeration(k_{name}_texts);"]
+    if pattern:
+        literal = pattern.replace("\\", "\\\\").replace('"', '\\"')
+        parts.append(f"const lmx::c_pattern& {name}_pattern() "
+                     f'{{ static const lmx::c_pattern pattern("{literal}"); return pattern; }}')
+    return parts, {
+        "enumeration": simple.enumeration and f"k_{name}_texts",
+        "enumerated": simple.enumeration and f"&k_{name}_enumeration",
+        "minimum": simple.minimum,
+        "maximum": simple.maximum,
+        **{flag: getattr(simple, flag) and "true"
+           for flag in ("minimum_exclusive", "maximum_exclusive", "setter_skips_minimum", "pattern_takes_zoned")},
+        "minimum_length": simple.minimum_length,
+        "maximum_length": simple.maximum_length,
+        **{f"{end}_integer": f'"{getattr(simple, end)}"' for end in ("minimum", "maximum") if "int" in simple.value},
+        "pattern": pattern and f"{name}_pattern",
+    }
 
 
 def print_tables_source(plan):
     hidden, shown = [], []
     for simple in plan.facets:
-        name = simple.name
-        fields = {}
-        if simple.enumeration:
-            hidden += [f"constexpr std::string_view k_{name}_texts[] = {{",
-                       *(f'    "{text}",' for text in simple.enumeration), "};"]
-            hidden.append(f"constinit const lmx::c_enumeration k_{name}_enumeration(k_{name}_texts);")
-            fields["enumeration"] = f"k_{name}_texts"
-            fields["enumerated"] = f"&k_{name}_enumeration"
-        for end in ("minimum", "maximum"):
-            if getattr(simple, end) is not None:
-                fields[end] = getattr(simple, end)
-        for flag in ("minimum_exclusive", "maximum_exclusive", "setter_skips_minimum", "pattern_takes_zoned"):
-            if getattr(simple, flag):
-                fields[flag] = "true"
-        if simple.minimum_length:
-            fields["minimum_length"] = simple.minimum_length
-        if simple.maximum_length is not None:
-            fields["maximum_length"] = simple.maximum_length
-        if "int" in simple.value:
-            for end in ("minimum", "maximum"):
-                fields[f"{end}_integer"] = f'"{getattr(simple, end)}"'
-        if simple.pattern is not None:
-            literal = simple.pattern.replace("\\", "\\\\").replace('"', '\\"')
-            hidden.append(f'const lmx::c_pattern& {name}_pattern() '
-                          f'{{ static const lmx::c_pattern pattern("{literal}"); return pattern; }}')
-            fields["pattern"] = f"{name}_pattern"
-        shown += [*comment(simple.doc), f"constinit const lmx::s_facets {name} = {{",
-                  *(f"    .{field} = {value}," for field, value in fields.items()), "};"]
+        parts, fields = facet_parts(simple)
+        hidden += parts
+        shown += [*comment(simple.doc), *record(f"lmx::s_facets {simple.name}", fields)]
     body = ["namespace {", *hidden, "}  // namespace", "", "namespace facets {", *shown, "}  // namespace facets"]
-    return frame("The facets of the simple types.", [], own_source("tables", []), body)
+    return frame("The facets of the simple types.", own_source("tables", []), body)
 
 
 def print_class_list_header(plan):
-    return frame("All classes by name, for tools and tests that walk them.", ["#pragma once", ""],
+    return frame("All classes by name, for tools and tests that walk them.",
                  ["<span>", "lmx/binding/document.h", "lmx/export.h"],
                  [f"/// The {len(plan.model.classes)} classes of the format, in schema order.",
-                  "VYR_EXPORT std::span<const lmx::s_named_class> all_classes();"])
+                  "VYR_EXPORT std::span<const lmx::s_named_class> all_classes();"], is_header=True)
 
 
 def print_class_list_source(plan):
@@ -199,4 +195,4 @@ def print_class_list_source(plan):
         body.append(f'        {{"{made.name}", &{plan.table(made).name}::k_class, &lmx::k_operations<{made.name}>, '
                     f"{document}}},")
     body += ["    };", "    return k_classes;", "}"]
-    return frame("The list of all classes.", [], own_source("class_list", [f"{FOLDER}/classes.h"]), body)
+    return frame("The list of all classes.", own_source("class_list", [f"{FOLDER}/classes.h"]), body)
