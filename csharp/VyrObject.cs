@@ -31,15 +31,22 @@ namespace Vyr
         }
 
         /// <summary>True if all is there that the format demands of this object, without a look into its parts.</summary>
-        public abstract bool IsComplete { get; }
+        public bool IsComplete => Is(Class.IsComplete(Pointer));
 
         /// <summary>Back to a new object: all parts are removed, all values unset.</summary>
-        public abstract void Reset();
+        public void Reset()
+        {
+            RemoveParts();
+            Class.Reset(Pointer);
+            Keep();
+        }
 
         /// <summary>A copy that stands on its own. What the format demands counts as set in a copy.</summary>
         public VyrObject Clone() => Copy();
 
         internal abstract VyrObject Copy();
+
+        internal abstract ClassCalls Class { get; }
 
         /// <summary>The object of the library. A function that was called with it is followed by a use of this object, so
         /// that the collector doesn't take it before the function is done: `Kept`, `Is`, `Demand` or `Keep`.</summary>
@@ -108,7 +115,7 @@ namespace Vyr
             return report;
         }
 
-        /// <summary>Saves such a file.</summary>
+        /// <summary>Saves such a file, for `Elements`.</summary>
         internal LoadReport SaveElement(string path)
         {
             return new LoadReport(Kept(Library.VyrModule_WriteElement(
@@ -296,6 +303,14 @@ namespace Vyr
             entries.RemoveEntriesFrom(value.Length);
         }
     }
+
+    /// <summary>The functions of a class.</summary>
+    internal sealed class ClassCalls
+    {
+        internal Func<IntPtr, int> IsComplete;
+        internal Action<IntPtr> Reset;
+    }
+
     /// <summary>The functions of one single child, or of one alternative of a choice.</summary>
     internal sealed class PartCalls
     {

@@ -12,10 +12,10 @@ namespace Vyr
     {
         static class Native
         {
-            [DllImport(Library.Name, EntryPoint = "CSharp_ParentColorSpace_is_occurs_ok")] internal static extern int is_occurs_ok(IntPtr self);
-            [DllImport(Library.Name, EntryPoint = "CSharp_ParentColorSpace_reset")] internal static extern void reset(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_ParentColorSpace_isnil_ParentColorSpace")] internal static extern int isnil_ParentColorSpace(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_ParentColorSpace_setnil_ParentColorSpace")] internal static extern void setnil_ParentColorSpace(IntPtr self);
+            [DllImport(Library.Name, EntryPoint = "CSharp_ParentColorSpace_is_occurs_ok")] internal static extern int is_occurs_ok(IntPtr self);
+            [DllImport(Library.Name, EntryPoint = "CSharp_ParentColorSpace_reset")] internal static extern void reset(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_ParentColorSpace_get_ColorSpace__SWIG_0")] internal static extern IntPtr get_ColorSpace(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_ParentColorSpace_assign_ColorSpace")] internal static extern IntPtr assign_ColorSpace(IntPtr self, IntPtr value);
             [DllImport(Library.Name, EntryPoint = "CSharp_ParentColorSpace_unset_ColorSpace")] internal static extern void unset_ColorSpace(IntPtr self);
@@ -28,6 +28,8 @@ namespace Vyr
 
         static class Parts
         {
+            static ClassCalls madeClass;
+            internal static ClassCalls Class => madeClass != null ? madeClass : madeClass = new ClassCalls { IsComplete = Native.is_occurs_ok, Reset = Native.reset };
             static IntPtr madeColorSpaceItem;
             internal static IntPtr ColorSpaceItem => madeColorSpaceItem != IntPtr.Zero ? madeColorSpaceItem : madeColorSpaceItem = Library.Item("ParentColorSpace", "ColorSpace");
             static PartCalls madeColorSpace;
@@ -39,14 +41,14 @@ namespace Vyr
     {
         static class Native
         {
-            [DllImport(Library.Name, EntryPoint = "CSharp_ColorSpaceType_is_occurs_ok")] internal static extern int is_occurs_ok(IntPtr self);
-            [DllImport(Library.Name, EntryPoint = "CSharp_ColorSpaceType_reset")] internal static extern void reset(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_ColorSpaceType_isset_Comments")] internal static extern int isset_Comments(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_ColorSpaceType_get_Comments")] [return: MarshalAs(UnmanagedType.BStr)] internal static extern string get_Comments(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_ColorSpaceType_set_Comments")] internal static extern int set_Comments(IntPtr self, [MarshalAs(UnmanagedType.LPWStr)] string value);
             [DllImport(Library.Name, EntryPoint = "CSharp_ColorSpaceType_isset_UniqueID")] internal static extern int isset_UniqueID(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_ColorSpaceType_get_UniqueID")] [return: MarshalAs(UnmanagedType.BStr)] internal static extern string get_UniqueID(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_ColorSpaceType_set_UniqueID")] internal static extern int set_UniqueID(IntPtr self, [MarshalAs(UnmanagedType.LPWStr)] string value);
+            [DllImport(Library.Name, EntryPoint = "CSharp_ColorSpaceType_is_occurs_ok")] internal static extern int is_occurs_ok(IntPtr self);
+            [DllImport(Library.Name, EntryPoint = "CSharp_ColorSpaceType_reset")] internal static extern void reset(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_ColorSpaceType_size_CustomAttribute")] internal static extern uint size_CustomAttribute(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_ColorSpaceType_get_CustomAttribute__SWIG_0")] internal static extern IntPtr get_CustomAttribute(IntPtr self, uint index);
             [DllImport(Library.Name, EntryPoint = "CSharp_ColorSpaceType_assign_CustomAttribute")] internal static extern IntPtr assign_CustomAttribute(IntPtr self, uint index, IntPtr value);
@@ -74,6 +76,8 @@ namespace Vyr
 
         static class Parts
         {
+            static ClassCalls madeClass;
+            internal static ClassCalls Class => madeClass != null ? madeClass : madeClass = new ClassCalls { IsComplete = Native.is_occurs_ok, Reset = Native.reset };
             static ObjectListCalls<CustomAttributeType> madeCustomAttribute;
             internal static ObjectListCalls<CustomAttributeType> CustomAttribute => madeCustomAttribute != null ? madeCustomAttribute : madeCustomAttribute = new ObjectListCalls<CustomAttributeType> { Make = h => new CustomAttributeType(h), Size = Native.size_CustomAttribute, Get = Native.get_CustomAttribute, Assign = Native.assign_CustomAttribute, Append = Native.append_CustomAttribute, Insert = Native.insert_CustomAttribute, Delete = Native.delete_CustomAttribute, Clear = Native.clear_CustomAttribute };
             static IntPtr madeParentColorSpaceItem;
@@ -89,8 +93,6 @@ namespace Vyr
     {
         static class Native
         {
-            [DllImport(Library.Name, EntryPoint = "CSharp_ColorSpaceCIELabType_is_occurs_ok")] internal static extern int is_occurs_ok(IntPtr self);
-            [DllImport(Library.Name, EntryPoint = "CSharp_ColorSpaceCIELabType_reset")] internal static extern void reset(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_ColorSpaceCIELabType_isset_Name")] internal static extern int isset_Name(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_ColorSpaceCIELabType_get_Name")] [return: MarshalAs(UnmanagedType.BStr)] internal static extern string get_Name(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_ColorSpaceCIELabType_set_Name")] internal static extern int set_Name(IntPtr self, [MarshalAs(UnmanagedType.LPWStr)] string value);
@@ -100,6 +102,8 @@ namespace Vyr
             [DllImport(Library.Name, EntryPoint = "CSharp_ColorSpaceCIELabType_set_A")] internal static extern int set_A(IntPtr self, double value);
             [DllImport(Library.Name, EntryPoint = "CSharp_ColorSpaceCIELabType_get_B")] internal static extern double get_B(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_ColorSpaceCIELabType_set_B")] internal static extern int set_B(IntPtr self, double value);
+            [DllImport(Library.Name, EntryPoint = "CSharp_ColorSpaceCIELabType_is_occurs_ok")] internal static extern int is_occurs_ok(IntPtr self);
+            [DllImport(Library.Name, EntryPoint = "CSharp_ColorSpaceCIELabType_reset")] internal static extern void reset(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_ColorSpaceCIELabType_get_ColorSpaceSpecificationSpectrumTristimulus__SWIG_0")] internal static extern IntPtr get_ColorSpaceSpecificationSpectrumTristimulus(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_ColorSpaceCIELabType_assign_ColorSpaceSpecificationSpectrumTristimulus")] internal static extern IntPtr assign_ColorSpaceSpecificationSpectrumTristimulus(IntPtr self, IntPtr value);
             [DllImport(Library.Name, EntryPoint = "CSharp_new_ColorSpaceCIELabType__SWIG_0")] internal static extern IntPtr New();
@@ -113,6 +117,8 @@ namespace Vyr
 
         static class Parts
         {
+            static ClassCalls madeClass;
+            internal static ClassCalls Class => madeClass != null ? madeClass : madeClass = new ClassCalls { IsComplete = Native.is_occurs_ok, Reset = Native.reset };
             static IntPtr madeColorSpaceSpecificationSpectrumTristimulusItem;
             internal static IntPtr ColorSpaceSpecificationSpectrumTristimulusItem => madeColorSpaceSpecificationSpectrumTristimulusItem != IntPtr.Zero ? madeColorSpaceSpecificationSpectrumTristimulusItem : madeColorSpaceSpecificationSpectrumTristimulusItem = Library.Item("ColorSpaceCIELabType", "ColorSpaceSpecificationSpectrumTristimulus");
             static PartCalls madeColorSpaceSpecificationSpectrumTristimulus;
@@ -124,8 +130,6 @@ namespace Vyr
     {
         static class Native
         {
-            [DllImport(Library.Name, EntryPoint = "CSharp_ColorSpaceCIELChType_is_occurs_ok")] internal static extern int is_occurs_ok(IntPtr self);
-            [DllImport(Library.Name, EntryPoint = "CSharp_ColorSpaceCIELChType_reset")] internal static extern void reset(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_ColorSpaceCIELChType_isset_Name")] internal static extern int isset_Name(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_ColorSpaceCIELChType_get_Name")] [return: MarshalAs(UnmanagedType.BStr)] internal static extern string get_Name(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_ColorSpaceCIELChType_set_Name")] internal static extern int set_Name(IntPtr self, [MarshalAs(UnmanagedType.LPWStr)] string value);
@@ -135,6 +139,8 @@ namespace Vyr
             [DllImport(Library.Name, EntryPoint = "CSharp_ColorSpaceCIELChType_set_C")] internal static extern int set_C(IntPtr self, double value);
             [DllImport(Library.Name, EntryPoint = "CSharp_ColorSpaceCIELChType_get_H")] internal static extern double get_H(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_ColorSpaceCIELChType_set_H")] internal static extern int set_H(IntPtr self, double value);
+            [DllImport(Library.Name, EntryPoint = "CSharp_ColorSpaceCIELChType_is_occurs_ok")] internal static extern int is_occurs_ok(IntPtr self);
+            [DllImport(Library.Name, EntryPoint = "CSharp_ColorSpaceCIELChType_reset")] internal static extern void reset(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_ColorSpaceCIELChType_get_ColorSpaceSpecificationSpectrumTristimulus__SWIG_0")] internal static extern IntPtr get_ColorSpaceSpecificationSpectrumTristimulus(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_ColorSpaceCIELChType_assign_ColorSpaceSpecificationSpectrumTristimulus")] internal static extern IntPtr assign_ColorSpaceSpecificationSpectrumTristimulus(IntPtr self, IntPtr value);
             [DllImport(Library.Name, EntryPoint = "CSharp_new_ColorSpaceCIELChType__SWIG_0")] internal static extern IntPtr New();
@@ -148,6 +154,8 @@ namespace Vyr
 
         static class Parts
         {
+            static ClassCalls madeClass;
+            internal static ClassCalls Class => madeClass != null ? madeClass : madeClass = new ClassCalls { IsComplete = Native.is_occurs_ok, Reset = Native.reset };
             static IntPtr madeColorSpaceSpecificationSpectrumTristimulusItem;
             internal static IntPtr ColorSpaceSpecificationSpectrumTristimulusItem => madeColorSpaceSpecificationSpectrumTristimulusItem != IntPtr.Zero ? madeColorSpaceSpecificationSpectrumTristimulusItem : madeColorSpaceSpecificationSpectrumTristimulusItem = Library.Item("ColorSpaceCIELChType", "ColorSpaceSpecificationSpectrumTristimulus");
             static PartCalls madeColorSpaceSpecificationSpectrumTristimulus;
@@ -159,8 +167,6 @@ namespace Vyr
     {
         static class Native
         {
-            [DllImport(Library.Name, EntryPoint = "CSharp_ColorSpaceCIELuvType_is_occurs_ok")] internal static extern int is_occurs_ok(IntPtr self);
-            [DllImport(Library.Name, EntryPoint = "CSharp_ColorSpaceCIELuvType_reset")] internal static extern void reset(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_ColorSpaceCIELuvType_isset_Name")] internal static extern int isset_Name(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_ColorSpaceCIELuvType_get_Name")] [return: MarshalAs(UnmanagedType.BStr)] internal static extern string get_Name(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_ColorSpaceCIELuvType_set_Name")] internal static extern int set_Name(IntPtr self, [MarshalAs(UnmanagedType.LPWStr)] string value);
@@ -170,6 +176,8 @@ namespace Vyr
             [DllImport(Library.Name, EntryPoint = "CSharp_ColorSpaceCIELuvType_set_U")] internal static extern int set_U(IntPtr self, double value);
             [DllImport(Library.Name, EntryPoint = "CSharp_ColorSpaceCIELuvType_get_V")] internal static extern double get_V(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_ColorSpaceCIELuvType_set_V")] internal static extern int set_V(IntPtr self, double value);
+            [DllImport(Library.Name, EntryPoint = "CSharp_ColorSpaceCIELuvType_is_occurs_ok")] internal static extern int is_occurs_ok(IntPtr self);
+            [DllImport(Library.Name, EntryPoint = "CSharp_ColorSpaceCIELuvType_reset")] internal static extern void reset(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_ColorSpaceCIELuvType_get_ColorSpaceSpecificationSpectrumTristimulus__SWIG_0")] internal static extern IntPtr get_ColorSpaceSpecificationSpectrumTristimulus(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_ColorSpaceCIELuvType_assign_ColorSpaceSpecificationSpectrumTristimulus")] internal static extern IntPtr assign_ColorSpaceSpecificationSpectrumTristimulus(IntPtr self, IntPtr value);
             [DllImport(Library.Name, EntryPoint = "CSharp_new_ColorSpaceCIELuvType__SWIG_0")] internal static extern IntPtr New();
@@ -183,6 +191,8 @@ namespace Vyr
 
         static class Parts
         {
+            static ClassCalls madeClass;
+            internal static ClassCalls Class => madeClass != null ? madeClass : madeClass = new ClassCalls { IsComplete = Native.is_occurs_ok, Reset = Native.reset };
             static IntPtr madeColorSpaceSpecificationSpectrumTristimulusItem;
             internal static IntPtr ColorSpaceSpecificationSpectrumTristimulusItem => madeColorSpaceSpecificationSpectrumTristimulusItem != IntPtr.Zero ? madeColorSpaceSpecificationSpectrumTristimulusItem : madeColorSpaceSpecificationSpectrumTristimulusItem = Library.Item("ColorSpaceCIELuvType", "ColorSpaceSpecificationSpectrumTristimulus");
             static PartCalls madeColorSpaceSpecificationSpectrumTristimulus;
@@ -194,8 +204,6 @@ namespace Vyr
     {
         static class Native
         {
-            [DllImport(Library.Name, EntryPoint = "CSharp_ColorSpaceCIEXYZType_is_occurs_ok")] internal static extern int is_occurs_ok(IntPtr self);
-            [DllImport(Library.Name, EntryPoint = "CSharp_ColorSpaceCIEXYZType_reset")] internal static extern void reset(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_ColorSpaceCIEXYZType_isset_Name")] internal static extern int isset_Name(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_ColorSpaceCIEXYZType_get_Name")] [return: MarshalAs(UnmanagedType.BStr)] internal static extern string get_Name(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_ColorSpaceCIEXYZType_set_Name")] internal static extern int set_Name(IntPtr self, [MarshalAs(UnmanagedType.LPWStr)] string value);
@@ -205,6 +213,8 @@ namespace Vyr
             [DllImport(Library.Name, EntryPoint = "CSharp_ColorSpaceCIEXYZType_set_Y")] internal static extern int set_Y(IntPtr self, double value);
             [DllImport(Library.Name, EntryPoint = "CSharp_ColorSpaceCIEXYZType_get_Z")] internal static extern double get_Z(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_ColorSpaceCIEXYZType_set_Z")] internal static extern int set_Z(IntPtr self, double value);
+            [DllImport(Library.Name, EntryPoint = "CSharp_ColorSpaceCIEXYZType_is_occurs_ok")] internal static extern int is_occurs_ok(IntPtr self);
+            [DllImport(Library.Name, EntryPoint = "CSharp_ColorSpaceCIEXYZType_reset")] internal static extern void reset(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_ColorSpaceCIEXYZType_get_ColorSpaceSpecificationSpectrumTristimulus__SWIG_0")] internal static extern IntPtr get_ColorSpaceSpecificationSpectrumTristimulus(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_ColorSpaceCIEXYZType_assign_ColorSpaceSpecificationSpectrumTristimulus")] internal static extern IntPtr assign_ColorSpaceSpecificationSpectrumTristimulus(IntPtr self, IntPtr value);
             [DllImport(Library.Name, EntryPoint = "CSharp_new_ColorSpaceCIEXYZType__SWIG_0")] internal static extern IntPtr New();
@@ -218,6 +228,8 @@ namespace Vyr
 
         static class Parts
         {
+            static ClassCalls madeClass;
+            internal static ClassCalls Class => madeClass != null ? madeClass : madeClass = new ClassCalls { IsComplete = Native.is_occurs_ok, Reset = Native.reset };
             static IntPtr madeColorSpaceSpecificationSpectrumTristimulusItem;
             internal static IntPtr ColorSpaceSpecificationSpectrumTristimulusItem => madeColorSpaceSpecificationSpectrumTristimulusItem != IntPtr.Zero ? madeColorSpaceSpecificationSpectrumTristimulusItem : madeColorSpaceSpecificationSpectrumTristimulusItem = Library.Item("ColorSpaceCIEXYZType", "ColorSpaceSpecificationSpectrumTristimulus");
             static PartCalls madeColorSpaceSpecificationSpectrumTristimulus;
@@ -229,8 +241,6 @@ namespace Vyr
     {
         static class Native
         {
-            [DllImport(Library.Name, EntryPoint = "CSharp_ColorSpaceCIExyYType_is_occurs_ok")] internal static extern int is_occurs_ok(IntPtr self);
-            [DllImport(Library.Name, EntryPoint = "CSharp_ColorSpaceCIExyYType_reset")] internal static extern void reset(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_ColorSpaceCIExyYType_isset_Name")] internal static extern int isset_Name(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_ColorSpaceCIExyYType_get_Name")] [return: MarshalAs(UnmanagedType.BStr)] internal static extern string get_Name(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_ColorSpaceCIExyYType_set_Name")] internal static extern int set_Name(IntPtr self, [MarshalAs(UnmanagedType.LPWStr)] string value);
@@ -240,6 +250,8 @@ namespace Vyr
             [DllImport(Library.Name, EntryPoint = "CSharp_ColorSpaceCIExyYType_set_Y")] internal static extern int set_Y(IntPtr self, double value);
             [DllImport(Library.Name, EntryPoint = "CSharp_ColorSpaceCIExyYType_get_CapY")] internal static extern double get_CapY(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_ColorSpaceCIExyYType_set_CapY")] internal static extern int set_CapY(IntPtr self, double value);
+            [DllImport(Library.Name, EntryPoint = "CSharp_ColorSpaceCIExyYType_is_occurs_ok")] internal static extern int is_occurs_ok(IntPtr self);
+            [DllImport(Library.Name, EntryPoint = "CSharp_ColorSpaceCIExyYType_reset")] internal static extern void reset(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_ColorSpaceCIExyYType_get_ColorSpaceSpecificationSpectrumTristimulus__SWIG_0")] internal static extern IntPtr get_ColorSpaceSpecificationSpectrumTristimulus(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_ColorSpaceCIExyYType_assign_ColorSpaceSpecificationSpectrumTristimulus")] internal static extern IntPtr assign_ColorSpaceSpecificationSpectrumTristimulus(IntPtr self, IntPtr value);
             [DllImport(Library.Name, EntryPoint = "CSharp_new_ColorSpaceCIExyYType__SWIG_0")] internal static extern IntPtr New();
@@ -253,6 +265,8 @@ namespace Vyr
 
         static class Parts
         {
+            static ClassCalls madeClass;
+            internal static ClassCalls Class => madeClass != null ? madeClass : madeClass = new ClassCalls { IsComplete = Native.is_occurs_ok, Reset = Native.reset };
             static IntPtr madeColorSpaceSpecificationSpectrumTristimulusItem;
             internal static IntPtr ColorSpaceSpecificationSpectrumTristimulusItem => madeColorSpaceSpecificationSpectrumTristimulusItem != IntPtr.Zero ? madeColorSpaceSpecificationSpectrumTristimulusItem : madeColorSpaceSpecificationSpectrumTristimulusItem = Library.Item("ColorSpaceCIExyYType", "ColorSpaceSpecificationSpectrumTristimulus");
             static PartCalls madeColorSpaceSpecificationSpectrumTristimulus;
@@ -264,8 +278,6 @@ namespace Vyr
     {
         static class Native
         {
-            [DllImport(Library.Name, EntryPoint = "CSharp_ColorSpaceEmissiveCIEXYZType_is_occurs_ok")] internal static extern int is_occurs_ok(IntPtr self);
-            [DllImport(Library.Name, EntryPoint = "CSharp_ColorSpaceEmissiveCIEXYZType_reset")] internal static extern void reset(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_ColorSpaceEmissiveCIEXYZType_isset_Name")] internal static extern int isset_Name(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_ColorSpaceEmissiveCIEXYZType_get_Name")] [return: MarshalAs(UnmanagedType.BStr)] internal static extern string get_Name(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_ColorSpaceEmissiveCIEXYZType_set_Name")] internal static extern int set_Name(IntPtr self, [MarshalAs(UnmanagedType.LPWStr)] string value);
@@ -275,6 +287,8 @@ namespace Vyr
             [DllImport(Library.Name, EntryPoint = "CSharp_ColorSpaceEmissiveCIEXYZType_set_Y")] internal static extern int set_Y(IntPtr self, double value);
             [DllImport(Library.Name, EntryPoint = "CSharp_ColorSpaceEmissiveCIEXYZType_get_Z")] internal static extern double get_Z(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_ColorSpaceEmissiveCIEXYZType_set_Z")] internal static extern int set_Z(IntPtr self, double value);
+            [DllImport(Library.Name, EntryPoint = "CSharp_ColorSpaceEmissiveCIEXYZType_is_occurs_ok")] internal static extern int is_occurs_ok(IntPtr self);
+            [DllImport(Library.Name, EntryPoint = "CSharp_ColorSpaceEmissiveCIEXYZType_reset")] internal static extern void reset(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_ColorSpaceEmissiveCIEXYZType_get_ColorSpaceSpecificationEmissiveTristimulus__SWIG_0")] internal static extern IntPtr get_ColorSpaceSpecificationEmissiveTristimulus(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_ColorSpaceEmissiveCIEXYZType_assign_ColorSpaceSpecificationEmissiveTristimulus")] internal static extern IntPtr assign_ColorSpaceSpecificationEmissiveTristimulus(IntPtr self, IntPtr value);
             [DllImport(Library.Name, EntryPoint = "CSharp_new_ColorSpaceEmissiveCIEXYZType__SWIG_0")] internal static extern IntPtr New();
@@ -288,6 +302,8 @@ namespace Vyr
 
         static class Parts
         {
+            static ClassCalls madeClass;
+            internal static ClassCalls Class => madeClass != null ? madeClass : madeClass = new ClassCalls { IsComplete = Native.is_occurs_ok, Reset = Native.reset };
             static IntPtr madeColorSpaceSpecificationEmissiveTristimulusItem;
             internal static IntPtr ColorSpaceSpecificationEmissiveTristimulusItem => madeColorSpaceSpecificationEmissiveTristimulusItem != IntPtr.Zero ? madeColorSpaceSpecificationEmissiveTristimulusItem : madeColorSpaceSpecificationEmissiveTristimulusItem = Library.Item("ColorSpaceEmissiveCIEXYZType", "ColorSpaceSpecificationEmissiveTristimulus");
             static PartCalls madeColorSpaceSpecificationEmissiveTristimulus;
@@ -299,8 +315,6 @@ namespace Vyr
     {
         static class Native
         {
-            [DllImport(Library.Name, EntryPoint = "CSharp_ColorSpaceEmissiveCIExyYType_is_occurs_ok")] internal static extern int is_occurs_ok(IntPtr self);
-            [DllImport(Library.Name, EntryPoint = "CSharp_ColorSpaceEmissiveCIExyYType_reset")] internal static extern void reset(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_ColorSpaceEmissiveCIExyYType_isset_Name")] internal static extern int isset_Name(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_ColorSpaceEmissiveCIExyYType_get_Name")] [return: MarshalAs(UnmanagedType.BStr)] internal static extern string get_Name(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_ColorSpaceEmissiveCIExyYType_set_Name")] internal static extern int set_Name(IntPtr self, [MarshalAs(UnmanagedType.LPWStr)] string value);
@@ -310,6 +324,8 @@ namespace Vyr
             [DllImport(Library.Name, EntryPoint = "CSharp_ColorSpaceEmissiveCIExyYType_set_Y")] internal static extern int set_Y(IntPtr self, double value);
             [DllImport(Library.Name, EntryPoint = "CSharp_ColorSpaceEmissiveCIExyYType_get_CapY")] internal static extern double get_CapY(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_ColorSpaceEmissiveCIExyYType_set_CapY")] internal static extern int set_CapY(IntPtr self, double value);
+            [DllImport(Library.Name, EntryPoint = "CSharp_ColorSpaceEmissiveCIExyYType_is_occurs_ok")] internal static extern int is_occurs_ok(IntPtr self);
+            [DllImport(Library.Name, EntryPoint = "CSharp_ColorSpaceEmissiveCIExyYType_reset")] internal static extern void reset(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_ColorSpaceEmissiveCIExyYType_get_ColorSpaceSpecificationEmissiveTristimulus__SWIG_0")] internal static extern IntPtr get_ColorSpaceSpecificationEmissiveTristimulus(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_ColorSpaceEmissiveCIExyYType_assign_ColorSpaceSpecificationEmissiveTristimulus")] internal static extern IntPtr assign_ColorSpaceSpecificationEmissiveTristimulus(IntPtr self, IntPtr value);
             [DllImport(Library.Name, EntryPoint = "CSharp_new_ColorSpaceEmissiveCIExyYType__SWIG_0")] internal static extern IntPtr New();
@@ -323,6 +339,8 @@ namespace Vyr
 
         static class Parts
         {
+            static ClassCalls madeClass;
+            internal static ClassCalls Class => madeClass != null ? madeClass : madeClass = new ClassCalls { IsComplete = Native.is_occurs_ok, Reset = Native.reset };
             static IntPtr madeColorSpaceSpecificationEmissiveTristimulusItem;
             internal static IntPtr ColorSpaceSpecificationEmissiveTristimulusItem => madeColorSpaceSpecificationEmissiveTristimulusItem != IntPtr.Zero ? madeColorSpaceSpecificationEmissiveTristimulusItem : madeColorSpaceSpecificationEmissiveTristimulusItem = Library.Item("ColorSpaceEmissiveCIExyYType", "ColorSpaceSpecificationEmissiveTristimulus");
             static PartCalls madeColorSpaceSpecificationEmissiveTristimulus;

@@ -18,12 +18,7 @@ namespace Vyr
         /// <inheritdoc/>
         public new ParentColorSpace Clone() => (ParentColorSpace)Copy();
         internal override VyrObject Copy() => Copied(new ParentColorSpace(Native.Make(Pointer)));
-
-        /// <inheritdoc/>
-        public override bool IsComplete => Is(Native.is_occurs_ok(Pointer));
-
-        /// <inheritdoc/>
-        public override void Reset() { RemoveParts(); Native.reset(Pointer); Keep(); }
+        internal override ClassCalls Class => Parts.Class;
 
         /// <summary>True for an element that says that it has no value.</summary>
         public bool IsNil => Is(Native.isnil_ParentColorSpace(Pointer));
@@ -48,12 +43,7 @@ namespace Vyr
         /// <inheritdoc/>
         public new ColorSpaceType Clone() => (ColorSpaceType)Copy();
         internal override VyrObject Copy() => Copied(new ColorSpaceType(Native.Make(Pointer)));
-
-        /// <inheritdoc/>
-        public override bool IsComplete => Is(Native.is_occurs_ok(Pointer));
-
-        /// <inheritdoc/>
-        public override void Reset() { RemoveParts(); Native.reset(Pointer); Keep(); }
+        internal override ClassCalls Class => Parts.Class;
 
         /// <summary>Free remarks on the value. Null if not set.</summary>
         public string Comments { get => Is(Native.isset_Comments(Pointer)) ? Kept(Native.get_Comments(Pointer)) : null; set => Demand(value == null ? Native.UnsetComments(Pointer) : Native.set_Comments(Pointer, Library.Whole(value))); }
@@ -91,12 +81,7 @@ namespace Vyr
         /// <inheritdoc/>
         public new ColorSpaceCIELabType Clone() => (ColorSpaceCIELabType)Copy();
         internal override VyrObject Copy() => Copied(new ColorSpaceCIELabType(Native.Make(Pointer)));
-
-        /// <inheritdoc/>
-        public override bool IsComplete => Is(Native.is_occurs_ok(Pointer));
-
-        /// <inheritdoc/>
-        public override void Reset() { RemoveParts(); Native.reset(Pointer); Keep(); }
+        internal override ClassCalls Class => Parts.Class;
 
         /// <summary>Name of the value. Null if not set.</summary>
         public string Name { get => Is(Native.isset_Name(Pointer)) ? Kept(Native.get_Name(Pointer)) : null; set => Demand(value == null ? Native.UnsetName(Pointer) : Native.set_Name(Pointer, Library.Whole(value))); }
@@ -128,12 +113,7 @@ namespace Vyr
         /// <inheritdoc/>
         public new ColorSpaceCIELChType Clone() => (ColorSpaceCIELChType)Copy();
         internal override VyrObject Copy() => Copied(new ColorSpaceCIELChType(Native.Make(Pointer)));
-
-        /// <inheritdoc/>
-        public override bool IsComplete => Is(Native.is_occurs_ok(Pointer));
-
-        /// <inheritdoc/>
-        public override void Reset() { RemoveParts(); Native.reset(Pointer); Keep(); }
+        internal override ClassCalls Class => Parts.Class;
 
         /// <summary>Name of the value. Null if not set.</summary>
         public string Name { get => Is(Native.isset_Name(Pointer)) ? Kept(Native.get_Name(Pointer)) : null; set => Demand(value == null ? Native.UnsetName(Pointer) : Native.set_Name(Pointer, Library.Whole(value))); }
@@ -165,12 +145,7 @@ namespace Vyr
         /// <inheritdoc/>
         public new ColorSpaceCIELuvType Clone() => (ColorSpaceCIELuvType)Copy();
         internal override VyrObject Copy() => Copied(new ColorSpaceCIELuvType(Native.Make(Pointer)));
-
-        /// <inheritdoc/>
-        public override bool IsComplete => Is(Native.is_occurs_ok(Pointer));
-
-        /// <inheritdoc/>
-        public override void Reset() { RemoveParts(); Native.reset(Pointer); Keep(); }
+        internal override ClassCalls Class => Parts.Class;
 
         /// <summary>Name of the value. Null if not set.</summary>
         public string Name { get => Is(Native.isset_Name(Pointer)) ? Kept(Native.get_Name(Pointer)) : null; set => Demand(value == null ? Native.UnsetName(Pointer) : Native.set_Name(Pointer, Library.Whole(value))); }
@@ -202,12 +177,7 @@ namespace Vyr
         /// <inheritdoc/>
         public new ColorSpaceCIEXYZType Clone() => (ColorSpaceCIEXYZType)Copy();
         internal override VyrObject Copy() => Copied(new ColorSpaceCIEXYZType(Native.Make(Pointer)));
-
-        /// <inheritdoc/>
-        public override bool IsComplete => Is(Native.is_occurs_ok(Pointer));
-
-        /// <inheritdoc/>
-        public override void Reset() { RemoveParts(); Native.reset(Pointer); Keep(); }
+        internal override ClassCalls Class => Parts.Class;
 
         /// <summary>Name of the value. Null if not set.</summary>
         public string Name { get => Is(Native.isset_Name(Pointer)) ? Kept(Native.get_Name(Pointer)) : null; set => Demand(value == null ? Native.UnsetName(Pointer) : Native.set_Name(Pointer, Library.Whole(value))); }
@@ -239,12 +209,7 @@ namespace Vyr
         /// <inheritdoc/>
         public new ColorSpaceCIExyYType Clone() => (ColorSpaceCIExyYType)Copy();
         internal override VyrObject Copy() => Copied(new ColorSpaceCIExyYType(Native.Make(Pointer)));
-
-        /// <inheritdoc/>
-        public override bool IsComplete => Is(Native.is_occurs_ok(Pointer));
-
-        /// <inheritdoc/>
-        public override void Reset() { RemoveParts(); Native.reset(Pointer); Keep(); }
+        internal override ClassCalls Class => Parts.Class;
 
         /// <summary>Name of the value. Null if not set.</summary>
         public string Name { get => Is(Native.isset_Name(Pointer)) ? Kept(Native.get_Name(Pointer)) : null; set => Demand(value == null ? Native.UnsetName(Pointer) : Native.set_Name(Pointer, Library.Whole(value))); }
@@ -276,12 +241,7 @@ namespace Vyr
         /// <inheritdoc/>
         public new ColorSpaceEmissiveCIEXYZType Clone() => (ColorSpaceEmissiveCIEXYZType)Copy();
         internal override VyrObject Copy() => Copied(new ColorSpaceEmissiveCIEXYZType(Native.Make(Pointer)));
-
-        /// <inheritdoc/>
-        public override bool IsComplete => Is(Native.is_occurs_ok(Pointer));
-
-        /// <inheritdoc/>
-        public override void Reset() { RemoveParts(); Native.reset(Pointer); Keep(); }
+        internal override ClassCalls Class => Parts.Class;
 
         /// <summary>Name of the value. Null if not set.</summary>
         public string Name { get => Is(Native.isset_Name(Pointer)) ? Kept(Native.get_Name(Pointer)) : null; set => Demand(value == null ? Native.UnsetName(Pointer) : Native.set_Name(Pointer, Library.Whole(value))); }
@@ -313,12 +273,7 @@ namespace Vyr
         /// <inheritdoc/>
         public new ColorSpaceEmissiveCIExyYType Clone() => (ColorSpaceEmissiveCIExyYType)Copy();
         internal override VyrObject Copy() => Copied(new ColorSpaceEmissiveCIExyYType(Native.Make(Pointer)));
-
-        /// <inheritdoc/>
-        public override bool IsComplete => Is(Native.is_occurs_ok(Pointer));
-
-        /// <inheritdoc/>
-        public override void Reset() { RemoveParts(); Native.reset(Pointer); Keep(); }
+        internal override ClassCalls Class => Parts.Class;
 
         /// <summary>Name of the value. Null if not set.</summary>
         public string Name { get => Is(Native.isset_Name(Pointer)) ? Kept(Native.get_Name(Pointer)) : null; set => Demand(value == null ? Native.UnsetName(Pointer) : Native.set_Name(Pointer, Library.Whole(value))); }
@@ -340,7 +295,7 @@ namespace Vyr
     }
 
     /// <summary>A reflective colour in CIE 1976 L*a*b*.</summary>
-    public partial class ColorSpaceCIELab : ColorSpaceCIELabType
+    public partial class ColorSpaceCIELab : ColorSpaceCIELabType, IElement
     {
         /// <summary>A new object that stands on its own, with nothing set.</summary>
         public ColorSpaceCIELab() : this(Native.Make()) { }
@@ -357,16 +312,10 @@ namespace Vyr
         /// <summary>The same without throwing for what is wrong with the file; null then, unless the options ask for
         /// what was read.</summary>
         public static LoadReport TryLoad(string path, out ColorSpaceCIELab loaded, LoadOptions options = null) => Load(new ColorSpaceCIELab(), path, options, out loaded);
-
-        /// <summary>Saves a file with this element as its root.</summary>
-        public void Save(string path) => TrySave(path).DemandSaved();
-
-        /// <summary>The same without throwing for what is wrong.</summary>
-        public LoadReport TrySave(string path) => SaveElement(path);
     }
 
     /// <summary>A reflective colour in CIE L*C*h, the polar form of CIE 1976 L*a*b*.</summary>
-    public partial class ColorSpaceCIELCh : ColorSpaceCIELChType
+    public partial class ColorSpaceCIELCh : ColorSpaceCIELChType, IElement
     {
         /// <summary>A new object that stands on its own, with nothing set.</summary>
         public ColorSpaceCIELCh() : this(Native.Make()) { }
@@ -383,16 +332,10 @@ namespace Vyr
         /// <summary>The same without throwing for what is wrong with the file; null then, unless the options ask for
         /// what was read.</summary>
         public static LoadReport TryLoad(string path, out ColorSpaceCIELCh loaded, LoadOptions options = null) => Load(new ColorSpaceCIELCh(), path, options, out loaded);
-
-        /// <summary>Saves a file with this element as its root.</summary>
-        public void Save(string path) => TrySave(path).DemandSaved();
-
-        /// <summary>The same without throwing for what is wrong.</summary>
-        public LoadReport TrySave(string path) => SaveElement(path);
     }
 
     /// <summary>A reflective colour in CIE XYZ, scaled so that Y of the perfect diffuser is 1.</summary>
-    public partial class ColorSpaceCIEXYZ : ColorSpaceCIEXYZType
+    public partial class ColorSpaceCIEXYZ : ColorSpaceCIEXYZType, IElement
     {
         /// <summary>A new object that stands on its own, with nothing set.</summary>
         public ColorSpaceCIEXYZ() : this(Native.Make()) { }
@@ -409,16 +352,10 @@ namespace Vyr
         /// <summary>The same without throwing for what is wrong with the file; null then, unless the options ask for
         /// what was read.</summary>
         public static LoadReport TryLoad(string path, out ColorSpaceCIEXYZ loaded, LoadOptions options = null) => Load(new ColorSpaceCIEXYZ(), path, options, out loaded);
-
-        /// <summary>Saves a file with this element as its root.</summary>
-        public void Save(string path) => TrySave(path).DemandSaved();
-
-        /// <summary>The same without throwing for what is wrong.</summary>
-        public LoadReport TrySave(string path) => SaveElement(path);
     }
 
     /// <summary>An emissive colour in CIE XYZ; absolute, hence without an upper bound.</summary>
-    public partial class ColorSpaceEmissiveCIEXYZ : ColorSpaceEmissiveCIEXYZType
+    public partial class ColorSpaceEmissiveCIEXYZ : ColorSpaceEmissiveCIEXYZType, IElement
     {
         /// <summary>A new object that stands on its own, with nothing set.</summary>
         public ColorSpaceEmissiveCIEXYZ() : this(Native.Make()) { }
@@ -435,16 +372,10 @@ namespace Vyr
         /// <summary>The same without throwing for what is wrong with the file; null then, unless the options ask for
         /// what was read.</summary>
         public static LoadReport TryLoad(string path, out ColorSpaceEmissiveCIEXYZ loaded, LoadOptions options = null) => Load(new ColorSpaceEmissiveCIEXYZ(), path, options, out loaded);
-
-        /// <summary>Saves a file with this element as its root.</summary>
-        public void Save(string path) => TrySave(path).DemandSaved();
-
-        /// <summary>The same without throwing for what is wrong.</summary>
-        public LoadReport TrySave(string path) => SaveElement(path);
     }
 
     /// <summary>A reflective colour by its CIE chromaticity and luminance factor.</summary>
-    public partial class ColorSpaceCIExyY : ColorSpaceCIExyYType
+    public partial class ColorSpaceCIExyY : ColorSpaceCIExyYType, IElement
     {
         /// <summary>A new object that stands on its own, with nothing set.</summary>
         public ColorSpaceCIExyY() : this(Native.Make()) { }
@@ -461,16 +392,10 @@ namespace Vyr
         /// <summary>The same without throwing for what is wrong with the file; null then, unless the options ask for
         /// what was read.</summary>
         public static LoadReport TryLoad(string path, out ColorSpaceCIExyY loaded, LoadOptions options = null) => Load(new ColorSpaceCIExyY(), path, options, out loaded);
-
-        /// <summary>Saves a file with this element as its root.</summary>
-        public void Save(string path) => TrySave(path).DemandSaved();
-
-        /// <summary>The same without throwing for what is wrong.</summary>
-        public LoadReport TrySave(string path) => SaveElement(path);
     }
 
     /// <summary>An emissive colour by its CIE chromaticity and luminance.</summary>
-    public partial class ColorSpaceEmissiveCIExyY : ColorSpaceEmissiveCIExyYType
+    public partial class ColorSpaceEmissiveCIExyY : ColorSpaceEmissiveCIExyYType, IElement
     {
         /// <summary>A new object that stands on its own, with nothing set.</summary>
         public ColorSpaceEmissiveCIExyY() : this(Native.Make()) { }
@@ -487,16 +412,10 @@ namespace Vyr
         /// <summary>The same without throwing for what is wrong with the file; null then, unless the options ask for
         /// what was read.</summary>
         public static LoadReport TryLoad(string path, out ColorSpaceEmissiveCIExyY loaded, LoadOptions options = null) => Load(new ColorSpaceEmissiveCIExyY(), path, options, out loaded);
-
-        /// <summary>Saves a file with this element as its root.</summary>
-        public void Save(string path) => TrySave(path).DemandSaved();
-
-        /// <summary>The same without throwing for what is wrong.</summary>
-        public LoadReport TrySave(string path) => SaveElement(path);
     }
 
     /// <summary>A reflective colour in CIE 1976 L*u*v*.</summary>
-    public partial class ColorSpaceCIELuv : ColorSpaceCIELuvType
+    public partial class ColorSpaceCIELuv : ColorSpaceCIELuvType, IElement
     {
         /// <summary>A new object that stands on its own, with nothing set.</summary>
         public ColorSpaceCIELuv() : this(Native.Make()) { }
@@ -513,11 +432,5 @@ namespace Vyr
         /// <summary>The same without throwing for what is wrong with the file; null then, unless the options ask for
         /// what was read.</summary>
         public static LoadReport TryLoad(string path, out ColorSpaceCIELuv loaded, LoadOptions options = null) => Load(new ColorSpaceCIELuv(), path, options, out loaded);
-
-        /// <summary>Saves a file with this element as its root.</summary>
-        public void Save(string path) => TrySave(path).DemandSaved();
-
-        /// <summary>The same without throwing for what is wrong.</summary>
-        public LoadReport TrySave(string path) => SaveElement(path);
     }
 }

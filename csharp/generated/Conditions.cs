@@ -18,12 +18,7 @@ namespace Vyr
         /// <inheritdoc/>
         public new DeviceFilterType Clone() => (DeviceFilterType)Copy();
         internal override VyrObject Copy() => Copied(new DeviceFilterType(Native.Make(Pointer)));
-
-        /// <inheritdoc/>
-        public override bool IsComplete => Is(Native.is_occurs_ok(Pointer));
-
-        /// <inheritdoc/>
-        public override void Reset() { RemoveParts(); Native.reset(Pointer); Keep(); }
+        internal override ClassCalls Class => Parts.Class;
 
         /// <summary>Description of the filter where the content is Filter_Custom or Filter_Partial. Null if not
         /// set.</summary>
@@ -45,12 +40,7 @@ namespace Vyr
         /// <inheritdoc/>
         public new DeviceFilter Clone() => (DeviceFilter)Copy();
         internal override VyrObject Copy() => Copied(new DeviceFilter(Native.Make(Pointer)));
-
-        /// <inheritdoc/>
-        public override bool IsComplete => Is(Native.is_occurs_ok(Pointer));
-
-        /// <inheritdoc/>
-        public override void Reset() { RemoveParts(); Native.reset(Pointer); Keep(); }
+        internal override ClassCalls Class => Parts.Class;
 
         /// <summary>True for an element that says that it has no value.</summary>
         public bool IsNil => Is(Native.isnil_DeviceFilter(Pointer));
@@ -74,12 +64,7 @@ namespace Vyr
         /// <inheritdoc/>
         public new DevicePolarization Clone() => (DevicePolarization)Copy();
         internal override VyrObject Copy() => Copied(new DevicePolarization(Native.Make(Pointer)));
-
-        /// <inheritdoc/>
-        public override bool IsComplete => Is(Native.is_occurs_ok(Pointer));
-
-        /// <inheritdoc/>
-        public override void Reset() { RemoveParts(); Native.reset(Pointer); Keep(); }
+        internal override ClassCalls Class => Parts.Class;
 
         /// <summary>True for an element that says that it has no value.</summary>
         public bool IsNil => Is(Native.isnil_DevicePolarization(Pointer));
@@ -100,12 +85,7 @@ namespace Vyr
         /// <inheritdoc/>
         public new ColorSpaceSpecificationType Clone() => (ColorSpaceSpecificationType)Copy();
         internal override VyrObject Copy() => Copied(new ColorSpaceSpecificationType(Native.Make(Pointer)));
-
-        /// <inheritdoc/>
-        public override bool IsComplete => Is(Native.is_occurs_ok(Pointer));
-
-        /// <inheritdoc/>
-        public override void Reset() { RemoveParts(); Native.reset(Pointer); Keep(); }
+        internal override ClassCalls Class => Parts.Class;
 
         /// <summary>Free remarks on the conditions. Null if not set.</summary>
         public string Comments { get => Is(Native.isset_Comments(Pointer)) ? Kept(Native.get_Comments(Pointer)) : null; set => Demand(value == null ? Native.UnsetComments(Pointer) : Native.set_Comments(Pointer, Library.Whole(value))); }
@@ -158,12 +138,7 @@ namespace Vyr
         /// <inheritdoc/>
         public new SpectrumType Clone() => (SpectrumType)Copy();
         internal override VyrObject Copy() => Copied(new SpectrumType(Native.Make(Pointer)));
-
-        /// <inheritdoc/>
-        public override bool IsComplete => Is(Native.is_occurs_ok(Pointer));
-
-        /// <inheritdoc/>
-        public override void Reset() { RemoveParts(); Native.reset(Pointer); Keep(); }
+        internal override ClassCalls Class => Parts.Class;
 
         /// <summary>Name of the quantity where the content is Spectrum_Custom. Null if not set.</summary>
         public string CustomTypeName { get => Is(Native.isset_CustomTypeName(Pointer)) ? Kept(Native.get_CustomTypeName(Pointer)) : null; set => Demand(value == null ? Native.UnsetCustomTypeName(Pointer) : Native.set_CustomTypeName(Pointer, Library.Whole(value))); }
@@ -183,12 +158,7 @@ namespace Vyr
         /// <inheritdoc/>
         public new ColorSpaceSpecificationSpectrumType Clone() => (ColorSpaceSpecificationSpectrumType)Copy();
         internal override VyrObject Copy() => Copied(new ColorSpaceSpecificationSpectrumType(Native.Make(Pointer)));
-
-        /// <inheritdoc/>
-        public override bool IsComplete => Is(Native.is_occurs_ok(Pointer));
-
-        /// <inheritdoc/>
-        public override void Reset() { RemoveParts(); Native.reset(Pointer); Keep(); }
+        internal override ClassCalls Class => Parts.Class;
 
         /// <summary>Which spectral quantity was measured. Null until set; assigning copies.</summary>
         public SpectrumType Spectrum { get => (SpectrumType)Child(6, Parts.Spectrum); set => AssignChild(6, Parts.Spectrum, value); }
@@ -208,12 +178,7 @@ namespace Vyr
         /// <inheritdoc/>
         public new ColorSpaceSpecificationEmissiveType Clone() => (ColorSpaceSpecificationEmissiveType)Copy();
         internal override VyrObject Copy() => Copied(new ColorSpaceSpecificationEmissiveType(Native.Make(Pointer)));
-
-        /// <inheritdoc/>
-        public override bool IsComplete => Is(Native.is_occurs_ok(Pointer));
-
-        /// <inheritdoc/>
-        public override void Reset() { RemoveParts(); Native.reset(Pointer); Keep(); }
+        internal override ClassCalls Class => Parts.Class;
 
         /// <summary>How the light source was measured.</summary>
         public EmissiveKind EmissiveType { get => (EmissiveKind)Kept(Native.getenum_EmissiveType(Pointer)); set => Demand(Listed(Native.setenum_EmissiveType(Pointer, (int)value))); }
@@ -233,12 +198,7 @@ namespace Vyr
         /// <inheritdoc/>
         public new GeometryChoiceType Clone() => (GeometryChoiceType)Copy();
         internal override VyrObject Copy() => Copied(new GeometryChoiceType(Native.Make(Pointer)));
-
-        /// <inheritdoc/>
-        public override bool IsComplete => Is(Native.is_occurs_ok(Pointer));
-
-        /// <inheritdoc/>
-        public override void Reset() { RemoveParts(); Native.reset(Pointer); Keep(); }
+        internal override ClassCalls Class => Parts.Class;
 
         /// <summary>Which alternative an object holds.</summary>
         public enum Alternative
@@ -298,12 +258,7 @@ namespace Vyr
         /// <inheritdoc/>
         public new IlluminationOptionsType Clone() => (IlluminationOptionsType)Copy();
         internal override VyrObject Copy() => Copied(new IlluminationOptionsType(Native.Make(Pointer)));
-
-        /// <inheritdoc/>
-        public override bool IsComplete => Is(Native.is_occurs_ok(Pointer));
-
-        /// <inheritdoc/>
-        public override void Reset() { RemoveParts(); Native.reset(Pointer); Keep(); }
+        internal override ClassCalls Class => Parts.Class;
 
         /// <summary>Free description of the illumination. Null if not set.</summary>
         public string Description { get => Is(Native.isset_Description(Pointer)) ? Kept(Native.get_Description(Pointer)) : null; set => Demand(value == null ? Native.UnsetDescription(Pointer) : Native.set_Description(Pointer, Library.Whole(value))); }
@@ -362,12 +317,7 @@ namespace Vyr
         /// <inheritdoc/>
         public new ColorSpaceSpecificationSpectrumGenericType Clone() => (ColorSpaceSpecificationSpectrumGenericType)Copy();
         internal override VyrObject Copy() => Copied(new ColorSpaceSpecificationSpectrumGenericType(Native.Make(Pointer)));
-
-        /// <inheritdoc/>
-        public override bool IsComplete => Is(Native.is_occurs_ok(Pointer));
-
-        /// <inheritdoc/>
-        public override void Reset() { RemoveParts(); Native.reset(Pointer); Keep(); }
+        internal override ClassCalls Class => Parts.Class;
 
         /// <summary>Measuring geometry. Null until set; assigning copies.</summary>
         public GeometryChoiceType GeometryChoice { get => (GeometryChoiceType)Child(7, Parts.GeometryChoice); set => AssignChild(7, Parts.GeometryChoice, value); }
@@ -405,12 +355,7 @@ namespace Vyr
         /// <inheritdoc/>
         public new ColorSpaceSpecificationSpectrumTristimulusType Clone() => (ColorSpaceSpecificationSpectrumTristimulusType)Copy();
         internal override VyrObject Copy() => Copied(new ColorSpaceSpecificationSpectrumTristimulusType(Native.Make(Pointer)));
-
-        /// <inheritdoc/>
-        public override bool IsComplete => Is(Native.is_occurs_ok(Pointer));
-
-        /// <inheritdoc/>
-        public override void Reset() { RemoveParts(); Native.reset(Pointer); Keep(); }
+        internal override ClassCalls Class => Parts.Class;
 
         /// <summary>Illumination that the value holds for. Null until set; assigning copies.</summary>
         public IlluminationOptionsType IlluminationOptions { get => (IlluminationOptionsType)Child(7, Parts.IlluminationOptions); set => AssignChild(7, Parts.IlluminationOptions, value); }
@@ -445,12 +390,7 @@ namespace Vyr
         /// <inheritdoc/>
         public new ColorSpaceSpecificationSpectrumSpectralType Clone() => (ColorSpaceSpecificationSpectrumSpectralType)Copy();
         internal override VyrObject Copy() => Copied(new ColorSpaceSpecificationSpectrumSpectralType(Native.Make(Pointer)));
-
-        /// <inheritdoc/>
-        public override bool IsComplete => Is(Native.is_occurs_ok(Pointer));
-
-        /// <inheritdoc/>
-        public override void Reset() { RemoveParts(); Native.reset(Pointer); Keep(); }
+        internal override ClassCalls Class => Parts.Class;
 
         /// <summary>Measuring geometry. Null until set; assigning copies.</summary>
         public GeometryChoiceType GeometryChoice { get => (GeometryChoiceType)Child(7, Parts.GeometryChoice); set => AssignChild(7, Parts.GeometryChoice, value); }
@@ -473,12 +413,7 @@ namespace Vyr
         /// <inheritdoc/>
         public new ColorSpaceSpecificationEmissiveGenericType Clone() => (ColorSpaceSpecificationEmissiveGenericType)Copy();
         internal override VyrObject Copy() => Copied(new ColorSpaceSpecificationEmissiveGenericType(Native.Make(Pointer)));
-
-        /// <inheritdoc/>
-        public override bool IsComplete => Is(Native.is_occurs_ok(Pointer));
-
-        /// <inheritdoc/>
-        public override void Reset() { RemoveParts(); Native.reset(Pointer); Keep(); }
+        internal override ClassCalls Class => Parts.Class;
 
         /// <summary>Measuring geometry. Null until set; assigning copies.</summary>
         public GeometryChoiceType GeometryChoice { get => (GeometryChoiceType)Child(6, Parts.GeometryChoice); set => AssignChild(6, Parts.GeometryChoice, value); }
@@ -516,12 +451,7 @@ namespace Vyr
         /// <inheritdoc/>
         public new ColorSpaceSpecificationEmissiveTristimulusType Clone() => (ColorSpaceSpecificationEmissiveTristimulusType)Copy();
         internal override VyrObject Copy() => Copied(new ColorSpaceSpecificationEmissiveTristimulusType(Native.Make(Pointer)));
-
-        /// <inheritdoc/>
-        public override bool IsComplete => Is(Native.is_occurs_ok(Pointer));
-
-        /// <inheritdoc/>
-        public override void Reset() { RemoveParts(); Native.reset(Pointer); Keep(); }
+        internal override ClassCalls Class => Parts.Class;
 
         /// <summary>Illumination that the value holds for. Null until set; assigning copies.</summary>
         public IlluminationOptionsType IlluminationOptions { get => (IlluminationOptionsType)Child(6, Parts.IlluminationOptions); set => AssignChild(6, Parts.IlluminationOptions, value); }
@@ -556,12 +486,7 @@ namespace Vyr
         /// <inheritdoc/>
         public new ColorSpaceSpecificationEmissiveSpectralType Clone() => (ColorSpaceSpecificationEmissiveSpectralType)Copy();
         internal override VyrObject Copy() => Copied(new ColorSpaceSpecificationEmissiveSpectralType(Native.Make(Pointer)));
-
-        /// <inheritdoc/>
-        public override bool IsComplete => Is(Native.is_occurs_ok(Pointer));
-
-        /// <inheritdoc/>
-        public override void Reset() { RemoveParts(); Native.reset(Pointer); Keep(); }
+        internal override ClassCalls Class => Parts.Class;
 
         /// <summary>Measuring geometry. Null until set; assigning copies.</summary>
         public GeometryChoiceType GeometryChoice { get => (GeometryChoiceType)Child(6, Parts.GeometryChoice); set => AssignChild(6, Parts.GeometryChoice, value); }
@@ -580,7 +505,7 @@ namespace Vyr
     }
 
     /// <summary>Conditions of a reflective value that has no kind of its own.</summary>
-    public partial class ColorSpaceSpecificationSpectrum : ColorSpaceSpecificationSpectrumType
+    public partial class ColorSpaceSpecificationSpectrum : ColorSpaceSpecificationSpectrumType, IElement
     {
         /// <summary>A new object that stands on its own, with nothing set.</summary>
         public ColorSpaceSpecificationSpectrum() : this(Native.Make()) { }
@@ -597,16 +522,10 @@ namespace Vyr
         /// <summary>The same without throwing for what is wrong with the file; null then, unless the options ask for
         /// what was read.</summary>
         public static LoadReport TryLoad(string path, out ColorSpaceSpecificationSpectrum loaded, LoadOptions options = null) => Load(new ColorSpaceSpecificationSpectrum(), path, options, out loaded);
-
-        /// <summary>Saves a file with this element as its root.</summary>
-        public void Save(string path) => TrySave(path).DemandSaved();
-
-        /// <summary>The same without throwing for what is wrong.</summary>
-        public LoadReport TrySave(string path) => SaveElement(path);
     }
 
     /// <summary>Conditions of a reflective value in any colour space, or nil.</summary>
-    public partial class ColorSpaceSpecificationSpectrumGeneric : ColorSpaceSpecificationSpectrumGenericType
+    public partial class ColorSpaceSpecificationSpectrumGeneric : ColorSpaceSpecificationSpectrumGenericType, IElement
     {
         /// <summary>A new object that stands on its own, with nothing set.</summary>
         public ColorSpaceSpecificationSpectrumGeneric() : this(Native.Make()) { }
@@ -616,12 +535,7 @@ namespace Vyr
         /// <inheritdoc/>
         public new ColorSpaceSpecificationSpectrumGeneric Clone() => (ColorSpaceSpecificationSpectrumGeneric)Copy();
         internal override VyrObject Copy() => Copied(new ColorSpaceSpecificationSpectrumGeneric(Native.Make(Pointer)));
-
-        /// <inheritdoc/>
-        public override bool IsComplete => Is(Native.is_occurs_ok(Pointer));
-
-        /// <inheritdoc/>
-        public override void Reset() { RemoveParts(); Native.reset(Pointer); Keep(); }
+        internal override ClassCalls Class => Parts.Class;
 
         /// <summary>True for an element that says that it has no value.</summary>
         public bool IsNil => Is(Native.isnil_ColorSpaceSpecificationSpectrumGeneric(Pointer));
@@ -636,16 +550,10 @@ namespace Vyr
         /// <summary>The same without throwing for what is wrong with the file; null then, unless the options ask for
         /// what was read.</summary>
         public static LoadReport TryLoad(string path, out ColorSpaceSpecificationSpectrumGeneric loaded, LoadOptions options = null) => Load(new ColorSpaceSpecificationSpectrumGeneric(), path, options, out loaded);
-
-        /// <summary>Saves a file with this element as its root.</summary>
-        public void Save(string path) => TrySave(path).DemandSaved();
-
-        /// <summary>The same without throwing for what is wrong.</summary>
-        public LoadReport TrySave(string path) => SaveElement(path);
     }
 
     /// <summary>Conditions of a reflective tristimulus value, or nil.</summary>
-    public partial class ColorSpaceSpecificationSpectrumTristimulus : ColorSpaceSpecificationSpectrumTristimulusType
+    public partial class ColorSpaceSpecificationSpectrumTristimulus : ColorSpaceSpecificationSpectrumTristimulusType, IElement
     {
         /// <summary>A new object that stands on its own, with nothing set.</summary>
         public ColorSpaceSpecificationSpectrumTristimulus() : this(Native.Make()) { }
@@ -655,12 +563,7 @@ namespace Vyr
         /// <inheritdoc/>
         public new ColorSpaceSpecificationSpectrumTristimulus Clone() => (ColorSpaceSpecificationSpectrumTristimulus)Copy();
         internal override VyrObject Copy() => Copied(new ColorSpaceSpecificationSpectrumTristimulus(Native.Make(Pointer)));
-
-        /// <inheritdoc/>
-        public override bool IsComplete => Is(Native.is_occurs_ok(Pointer));
-
-        /// <inheritdoc/>
-        public override void Reset() { RemoveParts(); Native.reset(Pointer); Keep(); }
+        internal override ClassCalls Class => Parts.Class;
 
         /// <summary>True for an element that says that it has no value.</summary>
         public bool IsNil => Is(Native.isnil_ColorSpaceSpecificationSpectrumTristimulus(Pointer));
@@ -676,16 +579,10 @@ namespace Vyr
         /// <summary>The same without throwing for what is wrong with the file; null then, unless the options ask for
         /// what was read.</summary>
         public static LoadReport TryLoad(string path, out ColorSpaceSpecificationSpectrumTristimulus loaded, LoadOptions options = null) => Load(new ColorSpaceSpecificationSpectrumTristimulus(), path, options, out loaded);
-
-        /// <summary>Saves a file with this element as its root.</summary>
-        public void Save(string path) => TrySave(path).DemandSaved();
-
-        /// <summary>The same without throwing for what is wrong.</summary>
-        public LoadReport TrySave(string path) => SaveElement(path);
     }
 
     /// <summary>Conditions of a reflectance spectrum, or nil.</summary>
-    public partial class ColorSpaceSpecificationSpectrumSpectral : ColorSpaceSpecificationSpectrumSpectralType
+    public partial class ColorSpaceSpecificationSpectrumSpectral : ColorSpaceSpecificationSpectrumSpectralType, IElement
     {
         /// <summary>A new object that stands on its own, with nothing set.</summary>
         public ColorSpaceSpecificationSpectrumSpectral() : this(Native.Make()) { }
@@ -695,12 +592,7 @@ namespace Vyr
         /// <inheritdoc/>
         public new ColorSpaceSpecificationSpectrumSpectral Clone() => (ColorSpaceSpecificationSpectrumSpectral)Copy();
         internal override VyrObject Copy() => Copied(new ColorSpaceSpecificationSpectrumSpectral(Native.Make(Pointer)));
-
-        /// <inheritdoc/>
-        public override bool IsComplete => Is(Native.is_occurs_ok(Pointer));
-
-        /// <inheritdoc/>
-        public override void Reset() { RemoveParts(); Native.reset(Pointer); Keep(); }
+        internal override ClassCalls Class => Parts.Class;
 
         /// <summary>True for an element that says that it has no value.</summary>
         public bool IsNil => Is(Native.isnil_ColorSpaceSpecificationSpectrumSpectral(Pointer));
@@ -715,16 +607,10 @@ namespace Vyr
         /// <summary>The same without throwing for what is wrong with the file; null then, unless the options ask for
         /// what was read.</summary>
         public static LoadReport TryLoad(string path, out ColorSpaceSpecificationSpectrumSpectral loaded, LoadOptions options = null) => Load(new ColorSpaceSpecificationSpectrumSpectral(), path, options, out loaded);
-
-        /// <summary>Saves a file with this element as its root.</summary>
-        public void Save(string path) => TrySave(path).DemandSaved();
-
-        /// <summary>The same without throwing for what is wrong.</summary>
-        public LoadReport TrySave(string path) => SaveElement(path);
     }
 
     /// <summary>Conditions of an emissive value that has no kind of its own.</summary>
-    public partial class ColorSpaceSpecificationEmissive : ColorSpaceSpecificationEmissiveType
+    public partial class ColorSpaceSpecificationEmissive : ColorSpaceSpecificationEmissiveType, IElement
     {
         /// <summary>A new object that stands on its own, with nothing set.</summary>
         public ColorSpaceSpecificationEmissive() : this(Native.Make()) { }
@@ -741,16 +627,10 @@ namespace Vyr
         /// <summary>The same without throwing for what is wrong with the file; null then, unless the options ask for
         /// what was read.</summary>
         public static LoadReport TryLoad(string path, out ColorSpaceSpecificationEmissive loaded, LoadOptions options = null) => Load(new ColorSpaceSpecificationEmissive(), path, options, out loaded);
-
-        /// <summary>Saves a file with this element as its root.</summary>
-        public void Save(string path) => TrySave(path).DemandSaved();
-
-        /// <summary>The same without throwing for what is wrong.</summary>
-        public LoadReport TrySave(string path) => SaveElement(path);
     }
 
     /// <summary>Conditions of an emissive value in any colour space, or nil.</summary>
-    public partial class ColorSpaceSpecificationEmissiveGeneric : ColorSpaceSpecificationEmissiveGenericType
+    public partial class ColorSpaceSpecificationEmissiveGeneric : ColorSpaceSpecificationEmissiveGenericType, IElement
     {
         /// <summary>A new object that stands on its own, with nothing set.</summary>
         public ColorSpaceSpecificationEmissiveGeneric() : this(Native.Make()) { }
@@ -760,12 +640,7 @@ namespace Vyr
         /// <inheritdoc/>
         public new ColorSpaceSpecificationEmissiveGeneric Clone() => (ColorSpaceSpecificationEmissiveGeneric)Copy();
         internal override VyrObject Copy() => Copied(new ColorSpaceSpecificationEmissiveGeneric(Native.Make(Pointer)));
-
-        /// <inheritdoc/>
-        public override bool IsComplete => Is(Native.is_occurs_ok(Pointer));
-
-        /// <inheritdoc/>
-        public override void Reset() { RemoveParts(); Native.reset(Pointer); Keep(); }
+        internal override ClassCalls Class => Parts.Class;
 
         /// <summary>True for an element that says that it has no value.</summary>
         public bool IsNil => Is(Native.isnil_ColorSpaceSpecificationEmissiveGeneric(Pointer));
@@ -780,16 +655,10 @@ namespace Vyr
         /// <summary>The same without throwing for what is wrong with the file; null then, unless the options ask for
         /// what was read.</summary>
         public static LoadReport TryLoad(string path, out ColorSpaceSpecificationEmissiveGeneric loaded, LoadOptions options = null) => Load(new ColorSpaceSpecificationEmissiveGeneric(), path, options, out loaded);
-
-        /// <summary>Saves a file with this element as its root.</summary>
-        public void Save(string path) => TrySave(path).DemandSaved();
-
-        /// <summary>The same without throwing for what is wrong.</summary>
-        public LoadReport TrySave(string path) => SaveElement(path);
     }
 
     /// <summary>Conditions of an emissive tristimulus value, or nil.</summary>
-    public partial class ColorSpaceSpecificationEmissiveTristimulus : ColorSpaceSpecificationEmissiveTristimulusType
+    public partial class ColorSpaceSpecificationEmissiveTristimulus : ColorSpaceSpecificationEmissiveTristimulusType, IElement
     {
         /// <summary>A new object that stands on its own, with nothing set.</summary>
         public ColorSpaceSpecificationEmissiveTristimulus() : this(Native.Make()) { }
@@ -799,12 +668,7 @@ namespace Vyr
         /// <inheritdoc/>
         public new ColorSpaceSpecificationEmissiveTristimulus Clone() => (ColorSpaceSpecificationEmissiveTristimulus)Copy();
         internal override VyrObject Copy() => Copied(new ColorSpaceSpecificationEmissiveTristimulus(Native.Make(Pointer)));
-
-        /// <inheritdoc/>
-        public override bool IsComplete => Is(Native.is_occurs_ok(Pointer));
-
-        /// <inheritdoc/>
-        public override void Reset() { RemoveParts(); Native.reset(Pointer); Keep(); }
+        internal override ClassCalls Class => Parts.Class;
 
         /// <summary>True for an element that says that it has no value.</summary>
         public bool IsNil => Is(Native.isnil_ColorSpaceSpecificationEmissiveTristimulus(Pointer));
@@ -820,16 +684,10 @@ namespace Vyr
         /// <summary>The same without throwing for what is wrong with the file; null then, unless the options ask for
         /// what was read.</summary>
         public static LoadReport TryLoad(string path, out ColorSpaceSpecificationEmissiveTristimulus loaded, LoadOptions options = null) => Load(new ColorSpaceSpecificationEmissiveTristimulus(), path, options, out loaded);
-
-        /// <summary>Saves a file with this element as its root.</summary>
-        public void Save(string path) => TrySave(path).DemandSaved();
-
-        /// <summary>The same without throwing for what is wrong.</summary>
-        public LoadReport TrySave(string path) => SaveElement(path);
     }
 
     /// <summary>Conditions of an emission spectrum, or nil.</summary>
-    public partial class ColorSpaceSpecificationEmissiveSpectral : ColorSpaceSpecificationEmissiveSpectralType
+    public partial class ColorSpaceSpecificationEmissiveSpectral : ColorSpaceSpecificationEmissiveSpectralType, IElement
     {
         /// <summary>A new object that stands on its own, with nothing set.</summary>
         public ColorSpaceSpecificationEmissiveSpectral() : this(Native.Make()) { }
@@ -839,12 +697,7 @@ namespace Vyr
         /// <inheritdoc/>
         public new ColorSpaceSpecificationEmissiveSpectral Clone() => (ColorSpaceSpecificationEmissiveSpectral)Copy();
         internal override VyrObject Copy() => Copied(new ColorSpaceSpecificationEmissiveSpectral(Native.Make(Pointer)));
-
-        /// <inheritdoc/>
-        public override bool IsComplete => Is(Native.is_occurs_ok(Pointer));
-
-        /// <inheritdoc/>
-        public override void Reset() { RemoveParts(); Native.reset(Pointer); Keep(); }
+        internal override ClassCalls Class => Parts.Class;
 
         /// <summary>True for an element that says that it has no value.</summary>
         public bool IsNil => Is(Native.isnil_ColorSpaceSpecificationEmissiveSpectral(Pointer));
@@ -859,12 +712,6 @@ namespace Vyr
         /// <summary>The same without throwing for what is wrong with the file; null then, unless the options ask for
         /// what was read.</summary>
         public static LoadReport TryLoad(string path, out ColorSpaceSpecificationEmissiveSpectral loaded, LoadOptions options = null) => Load(new ColorSpaceSpecificationEmissiveSpectral(), path, options, out loaded);
-
-        /// <summary>Saves a file with this element as its root.</summary>
-        public void Save(string path) => TrySave(path).DemandSaved();
-
-        /// <summary>The same without throwing for what is wrong.</summary>
-        public LoadReport TrySave(string path) => SaveElement(path);
     }
 
     /// <summary>A standard illuminant, or a custom one by name.</summary>
@@ -878,12 +725,7 @@ namespace Vyr
         /// <inheritdoc/>
         public new Illuminant Clone() => (Illuminant)Copy();
         internal override VyrObject Copy() => Copied(new Illuminant(Native.Make(Pointer)));
-
-        /// <inheritdoc/>
-        public override bool IsComplete => Is(Native.is_occurs_ok(Pointer));
-
-        /// <inheritdoc/>
-        public override void Reset() { RemoveParts(); Native.reset(Pointer); Keep(); }
+        internal override ClassCalls Class => Parts.Class;
 
         /// <summary>Name of the illuminant where the content is Illuminant_Custom. Null if not set.</summary>
         public string CustomName { get => Is(Native.isset_CustomName(Pointer)) ? Kept(Native.get_CustomName(Pointer)) : null; set => Demand(value == null ? Native.UnsetCustomName(Pointer) : Native.set_CustomName(Pointer, Library.Whole(value))); }
@@ -903,12 +745,7 @@ namespace Vyr
         /// <inheritdoc/>
         public new WhitePointChromaticity Clone() => (WhitePointChromaticity)Copy();
         internal override VyrObject Copy() => Copied(new WhitePointChromaticity(Native.Make(Pointer)));
-
-        /// <inheritdoc/>
-        public override bool IsComplete => Is(Native.is_occurs_ok(Pointer));
-
-        /// <inheritdoc/>
-        public override void Reset() { RemoveParts(); Native.reset(Pointer); Keep(); }
+        internal override ClassCalls Class => Parts.Class;
 
         /// <summary>Chromaticity coordinate x, 0 to 1.</summary>
         public double CoordinateX { get => Kept(Native.get_CoordinateX(Pointer)); set => Demand(Native.set_CoordinateX(Pointer, value)); }
@@ -928,12 +765,7 @@ namespace Vyr
         /// <inheritdoc/>
         public new BSDFAngle Clone() => (BSDFAngle)Copy();
         internal override VyrObject Copy() => Copied(new BSDFAngle(Native.Make(Pointer)));
-
-        /// <inheritdoc/>
-        public override bool IsComplete => Is(Native.is_occurs_ok(Pointer));
-
-        /// <inheritdoc/>
-        public override void Reset() { RemoveParts(); Native.reset(Pointer); Keep(); }
+        internal override ClassCalls Class => Parts.Class;
 
         /// <summary>Angle of the illumination from the surface normal, in degrees.</summary>
         public double IlluminantAngle { get => Kept(Native.get_IlluminantAngle(Pointer)); set => Demand(Native.set_IlluminantAngle(Pointer, value)); }
@@ -953,11 +785,6 @@ namespace Vyr
         /// <inheritdoc/>
         public new Azimuth Clone() => (Azimuth)Copy();
         internal override VyrObject Copy() => Copied(new Azimuth(Native.Make(Pointer)));
-
-        /// <inheritdoc/>
-        public override bool IsComplete => Is(Native.is_occurs_ok(Pointer));
-
-        /// <inheritdoc/>
-        public override void Reset() { RemoveParts(); Native.reset(Pointer); Keep(); }
+        internal override ClassCalls Class => Parts.Class;
     }
 }

@@ -12,8 +12,6 @@ namespace Vyr
     {
         static class Native
         {
-            [DllImport(Library.Name, EntryPoint = "CSharp_ColorSpaceRGBType_is_occurs_ok")] internal static extern int is_occurs_ok(IntPtr self);
-            [DllImport(Library.Name, EntryPoint = "CSharp_ColorSpaceRGBType_reset")] internal static extern void reset(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_ColorSpaceRGBType_isset_Name")] internal static extern int isset_Name(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_ColorSpaceRGBType_get_Name")] [return: MarshalAs(UnmanagedType.BStr)] internal static extern string get_Name(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_ColorSpaceRGBType_set_Name")] internal static extern int set_Name(IntPtr self, [MarshalAs(UnmanagedType.LPWStr)] string value);
@@ -28,6 +26,8 @@ namespace Vyr
             [DllImport(Library.Name, EntryPoint = "CSharp_ColorSpaceRGBType_set_Alpha")] internal static extern int set_Alpha(IntPtr self, double value);
             [DllImport(Library.Name, EntryPoint = "CSharp_ColorSpaceRGBType_getenum_ColorDepth")] internal static extern int getenum_ColorDepth(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_ColorSpaceRGBType_setenum_ColorDepth")] internal static extern int setenum_ColorDepth(IntPtr self, int number);
+            [DllImport(Library.Name, EntryPoint = "CSharp_ColorSpaceRGBType_is_occurs_ok")] internal static extern int is_occurs_ok(IntPtr self);
+            [DllImport(Library.Name, EntryPoint = "CSharp_ColorSpaceRGBType_reset")] internal static extern void reset(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_ColorSpaceRGBType_get_ColorSpaceSpecificationSpectrumTristimulus__SWIG_0")] internal static extern IntPtr get_ColorSpaceSpecificationSpectrumTristimulus(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_ColorSpaceRGBType_assign_ColorSpaceSpecificationSpectrumTristimulus")] internal static extern IntPtr assign_ColorSpaceSpecificationSpectrumTristimulus(IntPtr self, IntPtr value);
             [DllImport(Library.Name, EntryPoint = "CSharp_new_ColorSpaceRGBType__SWIG_0")] internal static extern IntPtr New();
@@ -43,6 +43,8 @@ namespace Vyr
 
         static class Parts
         {
+            static ClassCalls madeClass;
+            internal static ClassCalls Class => madeClass != null ? madeClass : madeClass = new ClassCalls { IsComplete = Native.is_occurs_ok, Reset = Native.reset };
             static IntPtr madeColorSpaceSpecificationSpectrumTristimulusItem;
             internal static IntPtr ColorSpaceSpecificationSpectrumTristimulusItem => madeColorSpaceSpecificationSpectrumTristimulusItem != IntPtr.Zero ? madeColorSpaceSpecificationSpectrumTristimulusItem : madeColorSpaceSpecificationSpectrumTristimulusItem = Library.Item("ColorSpaceRGBType", "ColorSpaceSpecificationSpectrumTristimulus");
             static PartCalls madeColorSpaceSpecificationSpectrumTristimulus;
@@ -54,8 +56,6 @@ namespace Vyr
     {
         static class Native
         {
-            [DllImport(Library.Name, EntryPoint = "CSharp_ColorSpaceSRGBType_is_occurs_ok")] internal static extern int is_occurs_ok(IntPtr self);
-            [DllImport(Library.Name, EntryPoint = "CSharp_ColorSpaceSRGBType_reset")] internal static extern void reset(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_ColorSpaceSRGBType_isset_Name")] internal static extern int isset_Name(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_ColorSpaceSRGBType_get_Name")] [return: MarshalAs(UnmanagedType.BStr)] internal static extern string get_Name(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_ColorSpaceSRGBType_set_Name")] internal static extern int set_Name(IntPtr self, [MarshalAs(UnmanagedType.LPWStr)] string value);
@@ -70,6 +70,8 @@ namespace Vyr
             [DllImport(Library.Name, EntryPoint = "CSharp_ColorSpaceSRGBType_set_Alpha")] internal static extern int set_Alpha(IntPtr self, double value);
             [DllImport(Library.Name, EntryPoint = "CSharp_ColorSpaceSRGBType_getenum_ColorDepth")] internal static extern int getenum_ColorDepth(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_ColorSpaceSRGBType_setenum_ColorDepth")] internal static extern int setenum_ColorDepth(IntPtr self, int number);
+            [DllImport(Library.Name, EntryPoint = "CSharp_ColorSpaceSRGBType_is_occurs_ok")] internal static extern int is_occurs_ok(IntPtr self);
+            [DllImport(Library.Name, EntryPoint = "CSharp_ColorSpaceSRGBType_reset")] internal static extern void reset(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_ColorSpaceSRGBType_get_ColorSpaceSpecificationSpectrumTristimulus__SWIG_0")] internal static extern IntPtr get_ColorSpaceSpecificationSpectrumTristimulus(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_ColorSpaceSRGBType_assign_ColorSpaceSpecificationSpectrumTristimulus")] internal static extern IntPtr assign_ColorSpaceSpecificationSpectrumTristimulus(IntPtr self, IntPtr value);
             [DllImport(Library.Name, EntryPoint = "CSharp_new_ColorSpaceSRGBType__SWIG_0")] internal static extern IntPtr New();
@@ -85,6 +87,8 @@ namespace Vyr
 
         static class Parts
         {
+            static ClassCalls madeClass;
+            internal static ClassCalls Class => madeClass != null ? madeClass : madeClass = new ClassCalls { IsComplete = Native.is_occurs_ok, Reset = Native.reset };
             static IntPtr madeColorSpaceSpecificationSpectrumTristimulusItem;
             internal static IntPtr ColorSpaceSpecificationSpectrumTristimulusItem => madeColorSpaceSpecificationSpectrumTristimulusItem != IntPtr.Zero ? madeColorSpaceSpecificationSpectrumTristimulusItem : madeColorSpaceSpecificationSpectrumTristimulusItem = Library.Item("ColorSpaceSRGBType", "ColorSpaceSpecificationSpectrumTristimulus");
             static PartCalls madeColorSpaceSpecificationSpectrumTristimulus;
@@ -96,8 +100,6 @@ namespace Vyr
     {
         static class Native
         {
-            [DllImport(Library.Name, EntryPoint = "CSharp_ColorSpaceAdobeRGBType_is_occurs_ok")] internal static extern int is_occurs_ok(IntPtr self);
-            [DllImport(Library.Name, EntryPoint = "CSharp_ColorSpaceAdobeRGBType_reset")] internal static extern void reset(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_ColorSpaceAdobeRGBType_isset_Name")] internal static extern int isset_Name(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_ColorSpaceAdobeRGBType_get_Name")] [return: MarshalAs(UnmanagedType.BStr)] internal static extern string get_Name(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_ColorSpaceAdobeRGBType_set_Name")] internal static extern int set_Name(IntPtr self, [MarshalAs(UnmanagedType.LPWStr)] string value);
@@ -112,6 +114,8 @@ namespace Vyr
             [DllImport(Library.Name, EntryPoint = "CSharp_ColorSpaceAdobeRGBType_set_Alpha")] internal static extern int set_Alpha(IntPtr self, double value);
             [DllImport(Library.Name, EntryPoint = "CSharp_ColorSpaceAdobeRGBType_getenum_ColorDepth")] internal static extern int getenum_ColorDepth(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_ColorSpaceAdobeRGBType_setenum_ColorDepth")] internal static extern int setenum_ColorDepth(IntPtr self, int number);
+            [DllImport(Library.Name, EntryPoint = "CSharp_ColorSpaceAdobeRGBType_is_occurs_ok")] internal static extern int is_occurs_ok(IntPtr self);
+            [DllImport(Library.Name, EntryPoint = "CSharp_ColorSpaceAdobeRGBType_reset")] internal static extern void reset(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_ColorSpaceAdobeRGBType_get_ColorSpaceSpecificationSpectrumTristimulus__SWIG_0")] internal static extern IntPtr get_ColorSpaceSpecificationSpectrumTristimulus(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_ColorSpaceAdobeRGBType_assign_ColorSpaceSpecificationSpectrumTristimulus")] internal static extern IntPtr assign_ColorSpaceSpecificationSpectrumTristimulus(IntPtr self, IntPtr value);
             [DllImport(Library.Name, EntryPoint = "CSharp_new_ColorSpaceAdobeRGBType__SWIG_0")] internal static extern IntPtr New();
@@ -127,6 +131,8 @@ namespace Vyr
 
         static class Parts
         {
+            static ClassCalls madeClass;
+            internal static ClassCalls Class => madeClass != null ? madeClass : madeClass = new ClassCalls { IsComplete = Native.is_occurs_ok, Reset = Native.reset };
             static IntPtr madeColorSpaceSpecificationSpectrumTristimulusItem;
             internal static IntPtr ColorSpaceSpecificationSpectrumTristimulusItem => madeColorSpaceSpecificationSpectrumTristimulusItem != IntPtr.Zero ? madeColorSpaceSpecificationSpectrumTristimulusItem : madeColorSpaceSpecificationSpectrumTristimulusItem = Library.Item("ColorSpaceAdobeRGBType", "ColorSpaceSpecificationSpectrumTristimulus");
             static PartCalls madeColorSpaceSpecificationSpectrumTristimulus;
@@ -138,8 +144,6 @@ namespace Vyr
     {
         static class Native
         {
-            [DllImport(Library.Name, EntryPoint = "CSharp_ColorSpaceAdobeWideGamutRGBType_is_occurs_ok")] internal static extern int is_occurs_ok(IntPtr self);
-            [DllImport(Library.Name, EntryPoint = "CSharp_ColorSpaceAdobeWideGamutRGBType_reset")] internal static extern void reset(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_ColorSpaceAdobeWideGamutRGBType_isset_Name")] internal static extern int isset_Name(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_ColorSpaceAdobeWideGamutRGBType_get_Name")] [return: MarshalAs(UnmanagedType.BStr)] internal static extern string get_Name(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_ColorSpaceAdobeWideGamutRGBType_set_Name")] internal static extern int set_Name(IntPtr self, [MarshalAs(UnmanagedType.LPWStr)] string value);
@@ -154,6 +158,8 @@ namespace Vyr
             [DllImport(Library.Name, EntryPoint = "CSharp_ColorSpaceAdobeWideGamutRGBType_set_Alpha")] internal static extern int set_Alpha(IntPtr self, double value);
             [DllImport(Library.Name, EntryPoint = "CSharp_ColorSpaceAdobeWideGamutRGBType_getenum_ColorDepth")] internal static extern int getenum_ColorDepth(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_ColorSpaceAdobeWideGamutRGBType_setenum_ColorDepth")] internal static extern int setenum_ColorDepth(IntPtr self, int number);
+            [DllImport(Library.Name, EntryPoint = "CSharp_ColorSpaceAdobeWideGamutRGBType_is_occurs_ok")] internal static extern int is_occurs_ok(IntPtr self);
+            [DllImport(Library.Name, EntryPoint = "CSharp_ColorSpaceAdobeWideGamutRGBType_reset")] internal static extern void reset(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_ColorSpaceAdobeWideGamutRGBType_get_ColorSpaceSpecificationSpectrumTristimulus__SWIG_0")] internal static extern IntPtr get_ColorSpaceSpecificationSpectrumTristimulus(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_ColorSpaceAdobeWideGamutRGBType_assign_ColorSpaceSpecificationSpectrumTristimulus")] internal static extern IntPtr assign_ColorSpaceSpecificationSpectrumTristimulus(IntPtr self, IntPtr value);
             [DllImport(Library.Name, EntryPoint = "CSharp_new_ColorSpaceAdobeWideGamutRGBType__SWIG_0")] internal static extern IntPtr New();
@@ -169,6 +175,8 @@ namespace Vyr
 
         static class Parts
         {
+            static ClassCalls madeClass;
+            internal static ClassCalls Class => madeClass != null ? madeClass : madeClass = new ClassCalls { IsComplete = Native.is_occurs_ok, Reset = Native.reset };
             static IntPtr madeColorSpaceSpecificationSpectrumTristimulusItem;
             internal static IntPtr ColorSpaceSpecificationSpectrumTristimulusItem => madeColorSpaceSpecificationSpectrumTristimulusItem != IntPtr.Zero ? madeColorSpaceSpecificationSpectrumTristimulusItem : madeColorSpaceSpecificationSpectrumTristimulusItem = Library.Item("ColorSpaceAdobeWideGamutRGBType", "ColorSpaceSpecificationSpectrumTristimulus");
             static PartCalls madeColorSpaceSpecificationSpectrumTristimulus;
@@ -180,8 +188,6 @@ namespace Vyr
     {
         static class Native
         {
-            [DllImport(Library.Name, EntryPoint = "CSharp_ColorSpaceCMYKType_is_occurs_ok")] internal static extern int is_occurs_ok(IntPtr self);
-            [DllImport(Library.Name, EntryPoint = "CSharp_ColorSpaceCMYKType_reset")] internal static extern void reset(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_ColorSpaceCMYKType_isset_Name")] internal static extern int isset_Name(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_ColorSpaceCMYKType_get_Name")] [return: MarshalAs(UnmanagedType.BStr)] internal static extern string get_Name(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_ColorSpaceCMYKType_set_Name")] internal static extern int set_Name(IntPtr self, [MarshalAs(UnmanagedType.LPWStr)] string value);
@@ -193,6 +199,8 @@ namespace Vyr
             [DllImport(Library.Name, EntryPoint = "CSharp_ColorSpaceCMYKType_set_Yellow")] internal static extern int set_Yellow(IntPtr self, double value);
             [DllImport(Library.Name, EntryPoint = "CSharp_ColorSpaceCMYKType_get_Black")] internal static extern double get_Black(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_ColorSpaceCMYKType_set_Black")] internal static extern int set_Black(IntPtr self, double value);
+            [DllImport(Library.Name, EntryPoint = "CSharp_ColorSpaceCMYKType_is_occurs_ok")] internal static extern int is_occurs_ok(IntPtr self);
+            [DllImport(Library.Name, EntryPoint = "CSharp_ColorSpaceCMYKType_reset")] internal static extern void reset(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_ColorSpaceCMYKType_get_ColorSpaceSpecificationSpectrumGeneric__SWIG_0")] internal static extern IntPtr get_ColorSpaceSpecificationSpectrumGeneric(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_ColorSpaceCMYKType_assign_ColorSpaceSpecificationSpectrumGeneric")] internal static extern IntPtr assign_ColorSpaceSpecificationSpectrumGeneric(IntPtr self, IntPtr value);
             [DllImport(Library.Name, EntryPoint = "CSharp_ColorSpaceCMYKType_size_SpotColor")] internal static extern uint size_SpotColor(IntPtr self);
@@ -215,6 +223,8 @@ namespace Vyr
 
         static class Parts
         {
+            static ClassCalls madeClass;
+            internal static ClassCalls Class => madeClass != null ? madeClass : madeClass = new ClassCalls { IsComplete = Native.is_occurs_ok, Reset = Native.reset };
             static IntPtr madeColorSpaceSpecificationSpectrumGenericItem;
             internal static IntPtr ColorSpaceSpecificationSpectrumGenericItem => madeColorSpaceSpecificationSpectrumGenericItem != IntPtr.Zero ? madeColorSpaceSpecificationSpectrumGenericItem : madeColorSpaceSpecificationSpectrumGenericItem = Library.Item("ColorSpaceCMYKType", "ColorSpaceSpecificationSpectrumGeneric");
             static PartCalls madeColorSpaceSpecificationSpectrumGeneric;
@@ -228,11 +238,11 @@ namespace Vyr
     {
         static class Native
         {
-            [DllImport(Library.Name, EntryPoint = "CSharp_ColorSpaceCMYKPlusNType_is_occurs_ok")] internal static extern int is_occurs_ok(IntPtr self);
-            [DllImport(Library.Name, EntryPoint = "CSharp_ColorSpaceCMYKPlusNType_reset")] internal static extern void reset(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_ColorSpaceCMYKPlusNType_isset_ColorSpaceName")] internal static extern int isset_ColorSpaceName(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_ColorSpaceCMYKPlusNType_get_ColorSpaceName")] [return: MarshalAs(UnmanagedType.BStr)] internal static extern string get_ColorSpaceName(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_ColorSpaceCMYKPlusNType_set_ColorSpaceName")] internal static extern int set_ColorSpaceName(IntPtr self, [MarshalAs(UnmanagedType.LPWStr)] string value);
+            [DllImport(Library.Name, EntryPoint = "CSharp_ColorSpaceCMYKPlusNType_is_occurs_ok")] internal static extern int is_occurs_ok(IntPtr self);
+            [DllImport(Library.Name, EntryPoint = "CSharp_ColorSpaceCMYKPlusNType_reset")] internal static extern void reset(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_ColorSpaceCMYKPlusNType_size_Color")] internal static extern uint size_Color(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_ColorSpaceCMYKPlusNType_get_Color__SWIG_0")] internal static extern IntPtr get_Color(IntPtr self, uint index);
             [DllImport(Library.Name, EntryPoint = "CSharp_ColorSpaceCMYKPlusNType_assign_Color")] internal static extern IntPtr assign_Color(IntPtr self, uint index, IntPtr value);
@@ -251,6 +261,8 @@ namespace Vyr
 
         static class Parts
         {
+            static ClassCalls madeClass;
+            internal static ClassCalls Class => madeClass != null ? madeClass : madeClass = new ClassCalls { IsComplete = Native.is_occurs_ok, Reset = Native.reset };
             static ObjectListCalls<Color> madeColor;
             internal static ObjectListCalls<Color> Color => madeColor != null ? madeColor : madeColor = new ObjectListCalls<Color> { Make = h => new Color(h), Size = Native.size_Color, Get = Native.get_Color, Assign = Native.assign_Color, Append = Native.append_Color, Insert = Native.insert_Color, Delete = Native.delete_Color, Clear = Native.clear_Color };
         }
@@ -260,17 +272,23 @@ namespace Vyr
     {
         static class Native
         {
-            [DllImport(Library.Name, EntryPoint = "CSharp_Color_is_occurs_ok")] internal static extern int is_occurs_ok(IntPtr self);
-            [DllImport(Library.Name, EntryPoint = "CSharp_Color_reset")] internal static extern void reset(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_Color_get_Name")] [return: MarshalAs(UnmanagedType.BStr)] internal static extern string get_Name(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_Color_set_Name")] internal static extern int set_Name(IntPtr self, [MarshalAs(UnmanagedType.LPWStr)] string value);
             [DllImport(Library.Name, EntryPoint = "CSharp_Color_get_Value")] internal static extern double get_Value(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_Color_set_Value")] internal static extern int set_Value(IntPtr self, double value);
+            [DllImport(Library.Name, EntryPoint = "CSharp_Color_is_occurs_ok")] internal static extern int is_occurs_ok(IntPtr self);
+            [DllImport(Library.Name, EntryPoint = "CSharp_Color_reset")] internal static extern void reset(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_new_Color__SWIG_0")] internal static extern IntPtr New();
             [DllImport(Library.Name, EntryPoint = "CSharp_delete_Color")] internal static extern void Delete(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_new_Color__SWIG_1")] internal static extern IntPtr Copy(IntPtr source);
             internal static Handle Make() => Handle.New(() => New(), p => Delete(p));
             internal static Handle Make(IntPtr source) => Handle.New(() => Copy(source), p => Delete(p));
+        }
+
+        static class Parts
+        {
+            static ClassCalls madeClass;
+            internal static ClassCalls Class => madeClass != null ? madeClass : madeClass = new ClassCalls { IsComplete = Native.is_occurs_ok, Reset = Native.reset };
         }
     }
 
@@ -278,8 +296,6 @@ namespace Vyr
     {
         static class Native
         {
-            [DllImport(Library.Name, EntryPoint = "CSharp_ColorSpaceTINTORAOctavanticType_is_occurs_ok")] internal static extern int is_occurs_ok(IntPtr self);
-            [DllImport(Library.Name, EntryPoint = "CSharp_ColorSpaceTINTORAOctavanticType_reset")] internal static extern void reset(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_ColorSpaceTINTORAOctavanticType_isset_Name")] internal static extern int isset_Name(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_ColorSpaceTINTORAOctavanticType_get_Name")] [return: MarshalAs(UnmanagedType.BStr)] internal static extern string get_Name(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_ColorSpaceTINTORAOctavanticType_set_Name")] internal static extern int set_Name(IntPtr self, [MarshalAs(UnmanagedType.LPWStr)] string value);
@@ -295,6 +311,8 @@ namespace Vyr
             [DllImport(Library.Name, EntryPoint = "CSharp_ColorSpaceTINTORAOctavanticType_set_Orange")] internal static extern int set_Orange(IntPtr self, double value);
             [DllImport(Library.Name, EntryPoint = "CSharp_ColorSpaceTINTORAOctavanticType_get_Green")] internal static extern double get_Green(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_ColorSpaceTINTORAOctavanticType_set_Green")] internal static extern int set_Green(IntPtr self, double value);
+            [DllImport(Library.Name, EntryPoint = "CSharp_ColorSpaceTINTORAOctavanticType_is_occurs_ok")] internal static extern int is_occurs_ok(IntPtr self);
+            [DllImport(Library.Name, EntryPoint = "CSharp_ColorSpaceTINTORAOctavanticType_reset")] internal static extern void reset(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_ColorSpaceTINTORAOctavanticType_get_ColorSpaceSpecificationSpectrumGeneric__SWIG_0")] internal static extern IntPtr get_ColorSpaceSpecificationSpectrumGeneric(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_ColorSpaceTINTORAOctavanticType_assign_ColorSpaceSpecificationSpectrumGeneric")] internal static extern IntPtr assign_ColorSpaceSpecificationSpectrumGeneric(IntPtr self, IntPtr value);
             [DllImport(Library.Name, EntryPoint = "CSharp_ColorSpaceTINTORAOctavanticType_size_SpotColor")] internal static extern uint size_SpotColor(IntPtr self);
@@ -315,6 +333,8 @@ namespace Vyr
 
         static class Parts
         {
+            static ClassCalls madeClass;
+            internal static ClassCalls Class => madeClass != null ? madeClass : madeClass = new ClassCalls { IsComplete = Native.is_occurs_ok, Reset = Native.reset };
             static IntPtr madeColorSpaceSpecificationSpectrumGenericItem;
             internal static IntPtr ColorSpaceSpecificationSpectrumGenericItem => madeColorSpaceSpecificationSpectrumGenericItem != IntPtr.Zero ? madeColorSpaceSpecificationSpectrumGenericItem : madeColorSpaceSpecificationSpectrumGenericItem = Library.Item("ColorSpaceTINTORAOctavanticType", "ColorSpaceSpecificationSpectrumGeneric");
             static PartCalls madeColorSpaceSpecificationSpectrumGeneric;
@@ -328,8 +348,6 @@ namespace Vyr
     {
         static class Native
         {
-            [DllImport(Library.Name, EntryPoint = "CSharp_ColorSpaceHSLType_is_occurs_ok")] internal static extern int is_occurs_ok(IntPtr self);
-            [DllImport(Library.Name, EntryPoint = "CSharp_ColorSpaceHSLType_reset")] internal static extern void reset(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_ColorSpaceHSLType_isset_Name")] internal static extern int isset_Name(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_ColorSpaceHSLType_get_Name")] [return: MarshalAs(UnmanagedType.BStr)] internal static extern string get_Name(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_ColorSpaceHSLType_set_Name")] internal static extern int set_Name(IntPtr self, [MarshalAs(UnmanagedType.LPWStr)] string value);
@@ -339,6 +357,8 @@ namespace Vyr
             [DllImport(Library.Name, EntryPoint = "CSharp_ColorSpaceHSLType_set_Saturation")] internal static extern int set_Saturation(IntPtr self, double value);
             [DllImport(Library.Name, EntryPoint = "CSharp_ColorSpaceHSLType_get_Lightness")] internal static extern double get_Lightness(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_ColorSpaceHSLType_set_Lightness")] internal static extern int set_Lightness(IntPtr self, double value);
+            [DllImport(Library.Name, EntryPoint = "CSharp_ColorSpaceHSLType_is_occurs_ok")] internal static extern int is_occurs_ok(IntPtr self);
+            [DllImport(Library.Name, EntryPoint = "CSharp_ColorSpaceHSLType_reset")] internal static extern void reset(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_ColorSpaceHSLType_get_ColorSpaceSpecificationSpectrumGeneric__SWIG_0")] internal static extern IntPtr get_ColorSpaceSpecificationSpectrumGeneric(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_ColorSpaceHSLType_assign_ColorSpaceSpecificationSpectrumGeneric")] internal static extern IntPtr assign_ColorSpaceSpecificationSpectrumGeneric(IntPtr self, IntPtr value);
             [DllImport(Library.Name, EntryPoint = "CSharp_new_ColorSpaceHSLType__SWIG_0")] internal static extern IntPtr New();
@@ -352,6 +372,8 @@ namespace Vyr
 
         static class Parts
         {
+            static ClassCalls madeClass;
+            internal static ClassCalls Class => madeClass != null ? madeClass : madeClass = new ClassCalls { IsComplete = Native.is_occurs_ok, Reset = Native.reset };
             static IntPtr madeColorSpaceSpecificationSpectrumGenericItem;
             internal static IntPtr ColorSpaceSpecificationSpectrumGenericItem => madeColorSpaceSpecificationSpectrumGenericItem != IntPtr.Zero ? madeColorSpaceSpecificationSpectrumGenericItem : madeColorSpaceSpecificationSpectrumGenericItem = Library.Item("ColorSpaceHSLType", "ColorSpaceSpecificationSpectrumGeneric");
             static PartCalls madeColorSpaceSpecificationSpectrumGeneric;
@@ -363,8 +385,6 @@ namespace Vyr
     {
         static class Native
         {
-            [DllImport(Library.Name, EntryPoint = "CSharp_ColorSpaceHSVType_is_occurs_ok")] internal static extern int is_occurs_ok(IntPtr self);
-            [DllImport(Library.Name, EntryPoint = "CSharp_ColorSpaceHSVType_reset")] internal static extern void reset(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_ColorSpaceHSVType_isset_Name")] internal static extern int isset_Name(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_ColorSpaceHSVType_get_Name")] [return: MarshalAs(UnmanagedType.BStr)] internal static extern string get_Name(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_ColorSpaceHSVType_set_Name")] internal static extern int set_Name(IntPtr self, [MarshalAs(UnmanagedType.LPWStr)] string value);
@@ -374,6 +394,8 @@ namespace Vyr
             [DllImport(Library.Name, EntryPoint = "CSharp_ColorSpaceHSVType_set_Saturation")] internal static extern int set_Saturation(IntPtr self, double value);
             [DllImport(Library.Name, EntryPoint = "CSharp_ColorSpaceHSVType_get_Value")] internal static extern double get_Value(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_ColorSpaceHSVType_set_Value")] internal static extern int set_Value(IntPtr self, double value);
+            [DllImport(Library.Name, EntryPoint = "CSharp_ColorSpaceHSVType_is_occurs_ok")] internal static extern int is_occurs_ok(IntPtr self);
+            [DllImport(Library.Name, EntryPoint = "CSharp_ColorSpaceHSVType_reset")] internal static extern void reset(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_ColorSpaceHSVType_get_ColorSpaceSpecificationSpectrumGeneric__SWIG_0")] internal static extern IntPtr get_ColorSpaceSpecificationSpectrumGeneric(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_ColorSpaceHSVType_assign_ColorSpaceSpecificationSpectrumGeneric")] internal static extern IntPtr assign_ColorSpaceSpecificationSpectrumGeneric(IntPtr self, IntPtr value);
             [DllImport(Library.Name, EntryPoint = "CSharp_new_ColorSpaceHSVType__SWIG_0")] internal static extern IntPtr New();
@@ -387,6 +409,8 @@ namespace Vyr
 
         static class Parts
         {
+            static ClassCalls madeClass;
+            internal static ClassCalls Class => madeClass != null ? madeClass : madeClass = new ClassCalls { IsComplete = Native.is_occurs_ok, Reset = Native.reset };
             static IntPtr madeColorSpaceSpecificationSpectrumGenericItem;
             internal static IntPtr ColorSpaceSpecificationSpectrumGenericItem => madeColorSpaceSpecificationSpectrumGenericItem != IntPtr.Zero ? madeColorSpaceSpecificationSpectrumGenericItem : madeColorSpaceSpecificationSpectrumGenericItem = Library.Item("ColorSpaceHSVType", "ColorSpaceSpecificationSpectrumGeneric");
             static PartCalls madeColorSpaceSpecificationSpectrumGeneric;
@@ -398,8 +422,6 @@ namespace Vyr
     {
         static class Native
         {
-            [DllImport(Library.Name, EntryPoint = "CSharp_ColorSpaceYUVType_is_occurs_ok")] internal static extern int is_occurs_ok(IntPtr self);
-            [DllImport(Library.Name, EntryPoint = "CSharp_ColorSpaceYUVType_reset")] internal static extern void reset(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_ColorSpaceYUVType_isset_Name")] internal static extern int isset_Name(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_ColorSpaceYUVType_get_Name")] [return: MarshalAs(UnmanagedType.BStr)] internal static extern string get_Name(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_ColorSpaceYUVType_set_Name")] internal static extern int set_Name(IntPtr self, [MarshalAs(UnmanagedType.LPWStr)] string value);
@@ -409,6 +431,8 @@ namespace Vyr
             [DllImport(Library.Name, EntryPoint = "CSharp_ColorSpaceYUVType_set_U")] internal static extern int set_U(IntPtr self, double value);
             [DllImport(Library.Name, EntryPoint = "CSharp_ColorSpaceYUVType_get_V")] internal static extern double get_V(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_ColorSpaceYUVType_set_V")] internal static extern int set_V(IntPtr self, double value);
+            [DllImport(Library.Name, EntryPoint = "CSharp_ColorSpaceYUVType_is_occurs_ok")] internal static extern int is_occurs_ok(IntPtr self);
+            [DllImport(Library.Name, EntryPoint = "CSharp_ColorSpaceYUVType_reset")] internal static extern void reset(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_ColorSpaceYUVType_get_ColorSpaceSpecificationSpectrumGeneric__SWIG_0")] internal static extern IntPtr get_ColorSpaceSpecificationSpectrumGeneric(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_ColorSpaceYUVType_assign_ColorSpaceSpecificationSpectrumGeneric")] internal static extern IntPtr assign_ColorSpaceSpecificationSpectrumGeneric(IntPtr self, IntPtr value);
             [DllImport(Library.Name, EntryPoint = "CSharp_new_ColorSpaceYUVType__SWIG_0")] internal static extern IntPtr New();
@@ -422,6 +446,8 @@ namespace Vyr
 
         static class Parts
         {
+            static ClassCalls madeClass;
+            internal static ClassCalls Class => madeClass != null ? madeClass : madeClass = new ClassCalls { IsComplete = Native.is_occurs_ok, Reset = Native.reset };
             static IntPtr madeColorSpaceSpecificationSpectrumGenericItem;
             internal static IntPtr ColorSpaceSpecificationSpectrumGenericItem => madeColorSpaceSpecificationSpectrumGenericItem != IntPtr.Zero ? madeColorSpaceSpecificationSpectrumGenericItem : madeColorSpaceSpecificationSpectrumGenericItem = Library.Item("ColorSpaceYUVType", "ColorSpaceSpecificationSpectrumGeneric");
             static PartCalls madeColorSpaceSpecificationSpectrumGeneric;
@@ -433,8 +459,6 @@ namespace Vyr
     {
         static class Native
         {
-            [DllImport(Library.Name, EntryPoint = "CSharp_ColorSpaceYIQType_is_occurs_ok")] internal static extern int is_occurs_ok(IntPtr self);
-            [DllImport(Library.Name, EntryPoint = "CSharp_ColorSpaceYIQType_reset")] internal static extern void reset(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_ColorSpaceYIQType_isset_Name")] internal static extern int isset_Name(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_ColorSpaceYIQType_get_Name")] [return: MarshalAs(UnmanagedType.BStr)] internal static extern string get_Name(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_ColorSpaceYIQType_set_Name")] internal static extern int set_Name(IntPtr self, [MarshalAs(UnmanagedType.LPWStr)] string value);
@@ -444,6 +468,8 @@ namespace Vyr
             [DllImport(Library.Name, EntryPoint = "CSharp_ColorSpaceYIQType_set_I")] internal static extern int set_I(IntPtr self, double value);
             [DllImport(Library.Name, EntryPoint = "CSharp_ColorSpaceYIQType_get_Q")] internal static extern double get_Q(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_ColorSpaceYIQType_set_Q")] internal static extern int set_Q(IntPtr self, double value);
+            [DllImport(Library.Name, EntryPoint = "CSharp_ColorSpaceYIQType_is_occurs_ok")] internal static extern int is_occurs_ok(IntPtr self);
+            [DllImport(Library.Name, EntryPoint = "CSharp_ColorSpaceYIQType_reset")] internal static extern void reset(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_ColorSpaceYIQType_get_ColorSpaceSpecificationSpectrumGeneric__SWIG_0")] internal static extern IntPtr get_ColorSpaceSpecificationSpectrumGeneric(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_ColorSpaceYIQType_assign_ColorSpaceSpecificationSpectrumGeneric")] internal static extern IntPtr assign_ColorSpaceSpecificationSpectrumGeneric(IntPtr self, IntPtr value);
             [DllImport(Library.Name, EntryPoint = "CSharp_new_ColorSpaceYIQType__SWIG_0")] internal static extern IntPtr New();
@@ -457,6 +483,8 @@ namespace Vyr
 
         static class Parts
         {
+            static ClassCalls madeClass;
+            internal static ClassCalls Class => madeClass != null ? madeClass : madeClass = new ClassCalls { IsComplete = Native.is_occurs_ok, Reset = Native.reset };
             static IntPtr madeColorSpaceSpecificationSpectrumGenericItem;
             internal static IntPtr ColorSpaceSpecificationSpectrumGenericItem => madeColorSpaceSpecificationSpectrumGenericItem != IntPtr.Zero ? madeColorSpaceSpecificationSpectrumGenericItem : madeColorSpaceSpecificationSpectrumGenericItem = Library.Item("ColorSpaceYIQType", "ColorSpaceSpecificationSpectrumGeneric");
             static PartCalls madeColorSpaceSpecificationSpectrumGeneric;
@@ -468,8 +496,6 @@ namespace Vyr
     {
         static class Native
         {
-            [DllImport(Library.Name, EntryPoint = "CSharp_ColorSpaceYBRType_is_occurs_ok")] internal static extern int is_occurs_ok(IntPtr self);
-            [DllImport(Library.Name, EntryPoint = "CSharp_ColorSpaceYBRType_reset")] internal static extern void reset(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_ColorSpaceYBRType_isset_Name")] internal static extern int isset_Name(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_ColorSpaceYBRType_get_Name")] [return: MarshalAs(UnmanagedType.BStr)] internal static extern string get_Name(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_ColorSpaceYBRType_set_Name")] internal static extern int set_Name(IntPtr self, [MarshalAs(UnmanagedType.LPWStr)] string value);
@@ -479,6 +505,8 @@ namespace Vyr
             [DllImport(Library.Name, EntryPoint = "CSharp_ColorSpaceYBRType_set_B")] internal static extern int set_B(IntPtr self, double value);
             [DllImport(Library.Name, EntryPoint = "CSharp_ColorSpaceYBRType_get_R")] internal static extern double get_R(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_ColorSpaceYBRType_set_R")] internal static extern int set_R(IntPtr self, double value);
+            [DllImport(Library.Name, EntryPoint = "CSharp_ColorSpaceYBRType_is_occurs_ok")] internal static extern int is_occurs_ok(IntPtr self);
+            [DllImport(Library.Name, EntryPoint = "CSharp_ColorSpaceYBRType_reset")] internal static extern void reset(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_ColorSpaceYBRType_get_ColorSpaceSpecificationSpectrumGeneric__SWIG_0")] internal static extern IntPtr get_ColorSpaceSpecificationSpectrumGeneric(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_ColorSpaceYBRType_assign_ColorSpaceSpecificationSpectrumGeneric")] internal static extern IntPtr assign_ColorSpaceSpecificationSpectrumGeneric(IntPtr self, IntPtr value);
             [DllImport(Library.Name, EntryPoint = "CSharp_new_ColorSpaceYBRType__SWIG_0")] internal static extern IntPtr New();
@@ -492,6 +520,8 @@ namespace Vyr
 
         static class Parts
         {
+            static ClassCalls madeClass;
+            internal static ClassCalls Class => madeClass != null ? madeClass : madeClass = new ClassCalls { IsComplete = Native.is_occurs_ok, Reset = Native.reset };
             static IntPtr madeColorSpaceSpecificationSpectrumGenericItem;
             internal static IntPtr ColorSpaceSpecificationSpectrumGenericItem => madeColorSpaceSpecificationSpectrumGenericItem != IntPtr.Zero ? madeColorSpaceSpecificationSpectrumGenericItem : madeColorSpaceSpecificationSpectrumGenericItem = Library.Item("ColorSpaceYBRType", "ColorSpaceSpecificationSpectrumGeneric");
             static PartCalls madeColorSpaceSpecificationSpectrumGeneric;
@@ -647,17 +677,23 @@ namespace Vyr
     {
         static class Native
         {
-            [DllImport(Library.Name, EntryPoint = "CSharp_SpotColorType_is_occurs_ok")] internal static extern int is_occurs_ok(IntPtr self);
-            [DllImport(Library.Name, EntryPoint = "CSharp_SpotColorType_reset")] internal static extern void reset(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_SpotColorType_get_Name")] [return: MarshalAs(UnmanagedType.BStr)] internal static extern string get_Name(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_SpotColorType_set_Name")] internal static extern int set_Name(IntPtr self, [MarshalAs(UnmanagedType.LPWStr)] string value);
             [DllImport(Library.Name, EntryPoint = "CSharp_SpotColorType_get_Percentage")] internal static extern double get_Percentage(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_SpotColorType_set_Percentage")] internal static extern int set_Percentage(IntPtr self, double value);
+            [DllImport(Library.Name, EntryPoint = "CSharp_SpotColorType_is_occurs_ok")] internal static extern int is_occurs_ok(IntPtr self);
+            [DllImport(Library.Name, EntryPoint = "CSharp_SpotColorType_reset")] internal static extern void reset(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_new_SpotColorType__SWIG_0")] internal static extern IntPtr New();
             [DllImport(Library.Name, EntryPoint = "CSharp_delete_SpotColorType")] internal static extern void Delete(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_new_SpotColorType__SWIG_1")] internal static extern IntPtr Copy(IntPtr source);
             internal static Handle Make() => Handle.New(() => New(), p => Delete(p));
             internal static Handle Make(IntPtr source) => Handle.New(() => Copy(source), p => Delete(p));
+        }
+
+        static class Parts
+        {
+            static ClassCalls madeClass;
+            internal static ClassCalls Class => madeClass != null ? madeClass : madeClass = new ClassCalls { IsComplete = Native.is_occurs_ok, Reset = Native.reset };
         }
     }
 }

@@ -18,12 +18,7 @@ namespace Vyr
         /// <inheritdoc/>
         public new ColorSpaceRGBType Clone() => (ColorSpaceRGBType)Copy();
         internal override VyrObject Copy() => Copied(new ColorSpaceRGBType(Native.Make(Pointer)));
-
-        /// <inheritdoc/>
-        public override bool IsComplete => Is(Native.is_occurs_ok(Pointer));
-
-        /// <inheritdoc/>
-        public override void Reset() { RemoveParts(); Native.reset(Pointer); Keep(); }
+        internal override ClassCalls Class => Parts.Class;
 
         /// <summary>Name of the value. Null if not set.</summary>
         public string Name { get => Is(Native.isset_Name(Pointer)) ? Kept(Native.get_Name(Pointer)) : null; set => Demand(value == null ? Native.UnsetName(Pointer) : Native.set_Name(Pointer, Library.Whole(value))); }
@@ -61,12 +56,7 @@ namespace Vyr
         /// <inheritdoc/>
         public new ColorSpaceSRGBType Clone() => (ColorSpaceSRGBType)Copy();
         internal override VyrObject Copy() => Copied(new ColorSpaceSRGBType(Native.Make(Pointer)));
-
-        /// <inheritdoc/>
-        public override bool IsComplete => Is(Native.is_occurs_ok(Pointer));
-
-        /// <inheritdoc/>
-        public override void Reset() { RemoveParts(); Native.reset(Pointer); Keep(); }
+        internal override ClassCalls Class => Parts.Class;
 
         /// <summary>Name of the value. Null if not set.</summary>
         public string Name { get => Is(Native.isset_Name(Pointer)) ? Kept(Native.get_Name(Pointer)) : null; set => Demand(value == null ? Native.UnsetName(Pointer) : Native.set_Name(Pointer, Library.Whole(value))); }
@@ -104,12 +94,7 @@ namespace Vyr
         /// <inheritdoc/>
         public new ColorSpaceAdobeRGBType Clone() => (ColorSpaceAdobeRGBType)Copy();
         internal override VyrObject Copy() => Copied(new ColorSpaceAdobeRGBType(Native.Make(Pointer)));
-
-        /// <inheritdoc/>
-        public override bool IsComplete => Is(Native.is_occurs_ok(Pointer));
-
-        /// <inheritdoc/>
-        public override void Reset() { RemoveParts(); Native.reset(Pointer); Keep(); }
+        internal override ClassCalls Class => Parts.Class;
 
         /// <summary>Name of the value. Null if not set.</summary>
         public string Name { get => Is(Native.isset_Name(Pointer)) ? Kept(Native.get_Name(Pointer)) : null; set => Demand(value == null ? Native.UnsetName(Pointer) : Native.set_Name(Pointer, Library.Whole(value))); }
@@ -147,12 +132,7 @@ namespace Vyr
         /// <inheritdoc/>
         public new ColorSpaceAdobeWideGamutRGBType Clone() => (ColorSpaceAdobeWideGamutRGBType)Copy();
         internal override VyrObject Copy() => Copied(new ColorSpaceAdobeWideGamutRGBType(Native.Make(Pointer)));
-
-        /// <inheritdoc/>
-        public override bool IsComplete => Is(Native.is_occurs_ok(Pointer));
-
-        /// <inheritdoc/>
-        public override void Reset() { RemoveParts(); Native.reset(Pointer); Keep(); }
+        internal override ClassCalls Class => Parts.Class;
 
         /// <summary>Name of the value. Null if not set.</summary>
         public string Name { get => Is(Native.isset_Name(Pointer)) ? Kept(Native.get_Name(Pointer)) : null; set => Demand(value == null ? Native.UnsetName(Pointer) : Native.set_Name(Pointer, Library.Whole(value))); }
@@ -191,12 +171,7 @@ namespace Vyr
         /// <inheritdoc/>
         public new ColorSpaceCMYKType Clone() => (ColorSpaceCMYKType)Copy();
         internal override VyrObject Copy() => Copied(new ColorSpaceCMYKType(Native.Make(Pointer)));
-
-        /// <inheritdoc/>
-        public override bool IsComplete => Is(Native.is_occurs_ok(Pointer));
-
-        /// <inheritdoc/>
-        public override void Reset() { RemoveParts(); Native.reset(Pointer); Keep(); }
+        internal override ClassCalls Class => Parts.Class;
 
         /// <summary>Name of the value. Null if not set.</summary>
         public string Name { get => Is(Native.isset_Name(Pointer)) ? Kept(Native.get_Name(Pointer)) : null; set => Demand(value == null ? Native.UnsetName(Pointer) : Native.set_Name(Pointer, Library.Whole(value))); }
@@ -243,12 +218,7 @@ namespace Vyr
         /// <inheritdoc/>
         public new ColorSpaceCMYKPlusNType Clone() => (ColorSpaceCMYKPlusNType)Copy();
         internal override VyrObject Copy() => Copied(new ColorSpaceCMYKPlusNType(Native.Make(Pointer)));
-
-        /// <inheritdoc/>
-        public override bool IsComplete => Is(Native.is_occurs_ok(Pointer));
-
-        /// <inheritdoc/>
-        public override void Reset() { RemoveParts(); Native.reset(Pointer); Keep(); }
+        internal override ClassCalls Class => Parts.Class;
 
         /// <summary>Name of the ink set. Null if not set.</summary>
         public string ColorSpaceName { get => Is(Native.isset_ColorSpaceName(Pointer)) ? Kept(Native.get_ColorSpaceName(Pointer)) : null; set => Demand(value == null ? Native.UnsetColorSpaceName(Pointer) : Native.set_ColorSpaceName(Pointer, Library.Whole(value))); }
@@ -268,12 +238,7 @@ namespace Vyr
         /// <inheritdoc/>
         public new Color Clone() => (Color)Copy();
         internal override VyrObject Copy() => Copied(new Color(Native.Make(Pointer)));
-
-        /// <inheritdoc/>
-        public override bool IsComplete => Is(Native.is_occurs_ok(Pointer));
-
-        /// <inheritdoc/>
-        public override void Reset() { RemoveParts(); Native.reset(Pointer); Keep(); }
+        internal override ClassCalls Class => Parts.Class;
 
         /// <summary>Name of the channel.</summary>
         public string Name { get => Kept(Native.get_Name(Pointer)); set => Demand(Native.set_Name(Pointer, Library.Whole(value))); }
@@ -293,12 +258,7 @@ namespace Vyr
         /// <inheritdoc/>
         public new ColorSpaceTINTORAOctavanticType Clone() => (ColorSpaceTINTORAOctavanticType)Copy();
         internal override VyrObject Copy() => Copied(new ColorSpaceTINTORAOctavanticType(Native.Make(Pointer)));
-
-        /// <inheritdoc/>
-        public override bool IsComplete => Is(Native.is_occurs_ok(Pointer));
-
-        /// <inheritdoc/>
-        public override void Reset() { RemoveParts(); Native.reset(Pointer); Keep(); }
+        internal override ClassCalls Class => Parts.Class;
 
         /// <summary>Name of the value. Null if not set.</summary>
         public string Name { get => Is(Native.isset_Name(Pointer)) ? Kept(Native.get_Name(Pointer)) : null; set => Demand(value == null ? Native.UnsetName(Pointer) : Native.set_Name(Pointer, Library.Whole(value))); }
@@ -342,12 +302,7 @@ namespace Vyr
         /// <inheritdoc/>
         public new ColorSpaceHSLType Clone() => (ColorSpaceHSLType)Copy();
         internal override VyrObject Copy() => Copied(new ColorSpaceHSLType(Native.Make(Pointer)));
-
-        /// <inheritdoc/>
-        public override bool IsComplete => Is(Native.is_occurs_ok(Pointer));
-
-        /// <inheritdoc/>
-        public override void Reset() { RemoveParts(); Native.reset(Pointer); Keep(); }
+        internal override ClassCalls Class => Parts.Class;
 
         /// <summary>Name of the value. Null if not set.</summary>
         public string Name { get => Is(Native.isset_Name(Pointer)) ? Kept(Native.get_Name(Pointer)) : null; set => Demand(value == null ? Native.UnsetName(Pointer) : Native.set_Name(Pointer, Library.Whole(value))); }
@@ -379,12 +334,7 @@ namespace Vyr
         /// <inheritdoc/>
         public new ColorSpaceHSVType Clone() => (ColorSpaceHSVType)Copy();
         internal override VyrObject Copy() => Copied(new ColorSpaceHSVType(Native.Make(Pointer)));
-
-        /// <inheritdoc/>
-        public override bool IsComplete => Is(Native.is_occurs_ok(Pointer));
-
-        /// <inheritdoc/>
-        public override void Reset() { RemoveParts(); Native.reset(Pointer); Keep(); }
+        internal override ClassCalls Class => Parts.Class;
 
         /// <summary>Name of the value. Null if not set.</summary>
         public string Name { get => Is(Native.isset_Name(Pointer)) ? Kept(Native.get_Name(Pointer)) : null; set => Demand(value == null ? Native.UnsetName(Pointer) : Native.set_Name(Pointer, Library.Whole(value))); }
@@ -416,12 +366,7 @@ namespace Vyr
         /// <inheritdoc/>
         public new ColorSpaceYUVType Clone() => (ColorSpaceYUVType)Copy();
         internal override VyrObject Copy() => Copied(new ColorSpaceYUVType(Native.Make(Pointer)));
-
-        /// <inheritdoc/>
-        public override bool IsComplete => Is(Native.is_occurs_ok(Pointer));
-
-        /// <inheritdoc/>
-        public override void Reset() { RemoveParts(); Native.reset(Pointer); Keep(); }
+        internal override ClassCalls Class => Parts.Class;
 
         /// <summary>Name of the value. Null if not set.</summary>
         public string Name { get => Is(Native.isset_Name(Pointer)) ? Kept(Native.get_Name(Pointer)) : null; set => Demand(value == null ? Native.UnsetName(Pointer) : Native.set_Name(Pointer, Library.Whole(value))); }
@@ -453,12 +398,7 @@ namespace Vyr
         /// <inheritdoc/>
         public new ColorSpaceYIQType Clone() => (ColorSpaceYIQType)Copy();
         internal override VyrObject Copy() => Copied(new ColorSpaceYIQType(Native.Make(Pointer)));
-
-        /// <inheritdoc/>
-        public override bool IsComplete => Is(Native.is_occurs_ok(Pointer));
-
-        /// <inheritdoc/>
-        public override void Reset() { RemoveParts(); Native.reset(Pointer); Keep(); }
+        internal override ClassCalls Class => Parts.Class;
 
         /// <summary>Name of the value. Null if not set.</summary>
         public string Name { get => Is(Native.isset_Name(Pointer)) ? Kept(Native.get_Name(Pointer)) : null; set => Demand(value == null ? Native.UnsetName(Pointer) : Native.set_Name(Pointer, Library.Whole(value))); }
@@ -490,12 +430,7 @@ namespace Vyr
         /// <inheritdoc/>
         public new ColorSpaceYBRType Clone() => (ColorSpaceYBRType)Copy();
         internal override VyrObject Copy() => Copied(new ColorSpaceYBRType(Native.Make(Pointer)));
-
-        /// <inheritdoc/>
-        public override bool IsComplete => Is(Native.is_occurs_ok(Pointer));
-
-        /// <inheritdoc/>
-        public override void Reset() { RemoveParts(); Native.reset(Pointer); Keep(); }
+        internal override ClassCalls Class => Parts.Class;
 
         /// <summary>Name of the value. Null if not set.</summary>
         public string Name { get => Is(Native.isset_Name(Pointer)) ? Kept(Native.get_Name(Pointer)) : null; set => Demand(value == null ? Native.UnsetName(Pointer) : Native.set_Name(Pointer, Library.Whole(value))); }
@@ -517,7 +452,7 @@ namespace Vyr
     }
 
     /// <summary>A colour in a device's own RGB, as fractions of full drive.</summary>
-    public partial class ColorSpaceRGB : ColorSpaceRGBType
+    public partial class ColorSpaceRGB : ColorSpaceRGBType, IElement
     {
         /// <summary>A new object that stands on its own, with nothing set.</summary>
         public ColorSpaceRGB() : this(Native.Make()) { }
@@ -534,16 +469,10 @@ namespace Vyr
         /// <summary>The same without throwing for what is wrong with the file; null then, unless the options ask for
         /// what was read.</summary>
         public static LoadReport TryLoad(string path, out ColorSpaceRGB loaded, LoadOptions options = null) => Load(new ColorSpaceRGB(), path, options, out loaded);
-
-        /// <summary>Saves a file with this element as its root.</summary>
-        public void Save(string path) => TrySave(path).DemandSaved();
-
-        /// <summary>The same without throwing for what is wrong.</summary>
-        public LoadReport TrySave(string path) => SaveElement(path);
     }
 
     /// <summary>A colour in sRGB (IEC 61966-2-1), as fractions of full drive.</summary>
-    public partial class ColorSpaceSRGB : ColorSpaceSRGBType
+    public partial class ColorSpaceSRGB : ColorSpaceSRGBType, IElement
     {
         /// <summary>A new object that stands on its own, with nothing set.</summary>
         public ColorSpaceSRGB() : this(Native.Make()) { }
@@ -560,16 +489,10 @@ namespace Vyr
         /// <summary>The same without throwing for what is wrong with the file; null then, unless the options ask for
         /// what was read.</summary>
         public static LoadReport TryLoad(string path, out ColorSpaceSRGB loaded, LoadOptions options = null) => Load(new ColorSpaceSRGB(), path, options, out loaded);
-
-        /// <summary>Saves a file with this element as its root.</summary>
-        public void Save(string path) => TrySave(path).DemandSaved();
-
-        /// <summary>The same without throwing for what is wrong.</summary>
-        public LoadReport TrySave(string path) => SaveElement(path);
     }
 
     /// <summary>A colour in Adobe RGB (1998), as fractions of full drive.</summary>
-    public partial class ColorSpaceAdobeRGB : ColorSpaceAdobeRGBType
+    public partial class ColorSpaceAdobeRGB : ColorSpaceAdobeRGBType, IElement
     {
         /// <summary>A new object that stands on its own, with nothing set.</summary>
         public ColorSpaceAdobeRGB() : this(Native.Make()) { }
@@ -586,16 +509,10 @@ namespace Vyr
         /// <summary>The same without throwing for what is wrong with the file; null then, unless the options ask for
         /// what was read.</summary>
         public static LoadReport TryLoad(string path, out ColorSpaceAdobeRGB loaded, LoadOptions options = null) => Load(new ColorSpaceAdobeRGB(), path, options, out loaded);
-
-        /// <summary>Saves a file with this element as its root.</summary>
-        public void Save(string path) => TrySave(path).DemandSaved();
-
-        /// <summary>The same without throwing for what is wrong.</summary>
-        public LoadReport TrySave(string path) => SaveElement(path);
     }
 
     /// <summary>A process colour with further named ink channels.</summary>
-    public partial class ColorSpaceCMYKPlusN : ColorSpaceCMYKPlusNType
+    public partial class ColorSpaceCMYKPlusN : ColorSpaceCMYKPlusNType, IElement
     {
         /// <summary>A new object that stands on its own, with nothing set.</summary>
         public ColorSpaceCMYKPlusN() : this(Native.Make()) { }
@@ -612,16 +529,10 @@ namespace Vyr
         /// <summary>The same without throwing for what is wrong with the file; null then, unless the options ask for
         /// what was read.</summary>
         public static LoadReport TryLoad(string path, out ColorSpaceCMYKPlusN loaded, LoadOptions options = null) => Load(new ColorSpaceCMYKPlusN(), path, options, out loaded);
-
-        /// <summary>Saves a file with this element as its root.</summary>
-        public void Save(string path) => TrySave(path).DemandSaved();
-
-        /// <summary>The same without throwing for what is wrong.</summary>
-        public LoadReport TrySave(string path) => SaveElement(path);
     }
 
     /// <summary>A colour in Adobe Wide Gamut RGB, as fractions of full drive.</summary>
-    public partial class ColorSpaceAdobeWideGamutRGB : ColorSpaceAdobeWideGamutRGBType
+    public partial class ColorSpaceAdobeWideGamutRGB : ColorSpaceAdobeWideGamutRGBType, IElement
     {
         /// <summary>A new object that stands on its own, with nothing set.</summary>
         public ColorSpaceAdobeWideGamutRGB() : this(Native.Make()) { }
@@ -638,16 +549,10 @@ namespace Vyr
         /// <summary>The same without throwing for what is wrong with the file; null then, unless the options ask for
         /// what was read.</summary>
         public static LoadReport TryLoad(string path, out ColorSpaceAdobeWideGamutRGB loaded, LoadOptions options = null) => Load(new ColorSpaceAdobeWideGamutRGB(), path, options, out loaded);
-
-        /// <summary>Saves a file with this element as its root.</summary>
-        public void Save(string path) => TrySave(path).DemandSaved();
-
-        /// <summary>The same without throwing for what is wrong.</summary>
-        public LoadReport TrySave(string path) => SaveElement(path);
     }
 
     /// <summary>A colour by hue, saturation and lightness.</summary>
-    public partial class ColorSpaceHSL : ColorSpaceHSLType
+    public partial class ColorSpaceHSL : ColorSpaceHSLType, IElement
     {
         /// <summary>A new object that stands on its own, with nothing set.</summary>
         public ColorSpaceHSL() : this(Native.Make()) { }
@@ -664,16 +569,10 @@ namespace Vyr
         /// <summary>The same without throwing for what is wrong with the file; null then, unless the options ask for
         /// what was read.</summary>
         public static LoadReport TryLoad(string path, out ColorSpaceHSL loaded, LoadOptions options = null) => Load(new ColorSpaceHSL(), path, options, out loaded);
-
-        /// <summary>Saves a file with this element as its root.</summary>
-        public void Save(string path) => TrySave(path).DemandSaved();
-
-        /// <summary>The same without throwing for what is wrong.</summary>
-        public LoadReport TrySave(string path) => SaveElement(path);
     }
 
     /// <summary>A colour by hue, saturation and value.</summary>
-    public partial class ColorSpaceHSV : ColorSpaceHSVType
+    public partial class ColorSpaceHSV : ColorSpaceHSVType, IElement
     {
         /// <summary>A new object that stands on its own, with nothing set.</summary>
         public ColorSpaceHSV() : this(Native.Make()) { }
@@ -690,17 +589,11 @@ namespace Vyr
         /// <summary>The same without throwing for what is wrong with the file; null then, unless the options ask for
         /// what was read.</summary>
         public static LoadReport TryLoad(string path, out ColorSpaceHSV loaded, LoadOptions options = null) => Load(new ColorSpaceHSV(), path, options, out loaded);
-
-        /// <summary>Saves a file with this element as its root.</summary>
-        public void Save(string path) => TrySave(path).DemandSaved();
-
-        /// <summary>The same without throwing for what is wrong.</summary>
-        public LoadReport TrySave(string path) => SaveElement(path);
     }
 
     /// <summary>A process colour as percentages of cyan, magenta, yellow and black, with spot inks if need
     /// be.</summary>
-    public partial class ColorSpaceCMYK : ColorSpaceCMYKType
+    public partial class ColorSpaceCMYK : ColorSpaceCMYKType, IElement
     {
         /// <summary>A new object that stands on its own, with nothing set.</summary>
         public ColorSpaceCMYK() : this(Native.Make()) { }
@@ -717,16 +610,10 @@ namespace Vyr
         /// <summary>The same without throwing for what is wrong with the file; null then, unless the options ask for
         /// what was read.</summary>
         public static LoadReport TryLoad(string path, out ColorSpaceCMYK loaded, LoadOptions options = null) => Load(new ColorSpaceCMYK(), path, options, out loaded);
-
-        /// <summary>Saves a file with this element as its root.</summary>
-        public void Save(string path) => TrySave(path).DemandSaved();
-
-        /// <summary>The same without throwing for what is wrong.</summary>
-        public LoadReport TrySave(string path) => SaveElement(path);
     }
 
     /// <summary>A process colour of six inks: cyan, magenta, yellow, black, orange and green.</summary>
-    public partial class ColorSpaceTINTORAOctavantic : ColorSpaceTINTORAOctavanticType
+    public partial class ColorSpaceTINTORAOctavantic : ColorSpaceTINTORAOctavanticType, IElement
     {
         /// <summary>A new object that stands on its own, with nothing set.</summary>
         public ColorSpaceTINTORAOctavantic() : this(Native.Make()) { }
@@ -743,16 +630,10 @@ namespace Vyr
         /// <summary>The same without throwing for what is wrong with the file; null then, unless the options ask for
         /// what was read.</summary>
         public static LoadReport TryLoad(string path, out ColorSpaceTINTORAOctavantic loaded, LoadOptions options = null) => Load(new ColorSpaceTINTORAOctavantic(), path, options, out loaded);
-
-        /// <summary>Saves a file with this element as its root.</summary>
-        public void Save(string path) => TrySave(path).DemandSaved();
-
-        /// <summary>The same without throwing for what is wrong.</summary>
-        public LoadReport TrySave(string path) => SaveElement(path);
     }
 
     /// <summary>A video colour by luma and the two colour differences of PAL.</summary>
-    public partial class ColorSpaceYUV : ColorSpaceYUVType
+    public partial class ColorSpaceYUV : ColorSpaceYUVType, IElement
     {
         /// <summary>A new object that stands on its own, with nothing set.</summary>
         public ColorSpaceYUV() : this(Native.Make()) { }
@@ -769,16 +650,10 @@ namespace Vyr
         /// <summary>The same without throwing for what is wrong with the file; null then, unless the options ask for
         /// what was read.</summary>
         public static LoadReport TryLoad(string path, out ColorSpaceYUV loaded, LoadOptions options = null) => Load(new ColorSpaceYUV(), path, options, out loaded);
-
-        /// <summary>Saves a file with this element as its root.</summary>
-        public void Save(string path) => TrySave(path).DemandSaved();
-
-        /// <summary>The same without throwing for what is wrong.</summary>
-        public LoadReport TrySave(string path) => SaveElement(path);
     }
 
     /// <summary>A video colour by luma, in-phase and quadrature signal, as in NTSC.</summary>
-    public partial class ColorSpaceYIQ : ColorSpaceYIQType
+    public partial class ColorSpaceYIQ : ColorSpaceYIQType, IElement
     {
         /// <summary>A new object that stands on its own, with nothing set.</summary>
         public ColorSpaceYIQ() : this(Native.Make()) { }
@@ -795,16 +670,10 @@ namespace Vyr
         /// <summary>The same without throwing for what is wrong with the file; null then, unless the options ask for
         /// what was read.</summary>
         public static LoadReport TryLoad(string path, out ColorSpaceYIQ loaded, LoadOptions options = null) => Load(new ColorSpaceYIQ(), path, options, out loaded);
-
-        /// <summary>Saves a file with this element as its root.</summary>
-        public void Save(string path) => TrySave(path).DemandSaved();
-
-        /// <summary>The same without throwing for what is wrong.</summary>
-        public LoadReport TrySave(string path) => SaveElement(path);
     }
 
     /// <summary>A video colour by luma and the blue and red differences, all scaled to 0 to 1.</summary>
-    public partial class ColorSpaceYBR : ColorSpaceYBRType
+    public partial class ColorSpaceYBR : ColorSpaceYBRType, IElement
     {
         /// <summary>A new object that stands on its own, with nothing set.</summary>
         public ColorSpaceYBR() : this(Native.Make()) { }
@@ -821,12 +690,6 @@ namespace Vyr
         /// <summary>The same without throwing for what is wrong with the file; null then, unless the options ask for
         /// what was read.</summary>
         public static LoadReport TryLoad(string path, out ColorSpaceYBR loaded, LoadOptions options = null) => Load(new ColorSpaceYBR(), path, options, out loaded);
-
-        /// <summary>Saves a file with this element as its root.</summary>
-        public void Save(string path) => TrySave(path).DemandSaved();
-
-        /// <summary>The same without throwing for what is wrong.</summary>
-        public LoadReport TrySave(string path) => SaveElement(path);
     }
 
     /// <summary>A spot ink and how much of it is printed.</summary>
@@ -840,12 +703,7 @@ namespace Vyr
         /// <inheritdoc/>
         public new SpotColorType Clone() => (SpotColorType)Copy();
         internal override VyrObject Copy() => Copied(new SpotColorType(Native.Make(Pointer)));
-
-        /// <inheritdoc/>
-        public override bool IsComplete => Is(Native.is_occurs_ok(Pointer));
-
-        /// <inheritdoc/>
-        public override void Reset() { RemoveParts(); Native.reset(Pointer); Keep(); }
+        internal override ClassCalls Class => Parts.Class;
 
         /// <summary>Name of the ink; not empty.</summary>
         public string Name { get => Kept(Native.get_Name(Pointer)); set => Demand(Native.set_Name(Pointer, Library.Whole(value))); }

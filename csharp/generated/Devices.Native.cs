@@ -12,13 +12,13 @@ namespace Vyr
     {
         static class Native
         {
-            [DllImport(Library.Name, EntryPoint = "CSharp_CalibrationStateType_is_occurs_ok")] internal static extern int is_occurs_ok(IntPtr self);
-            [DllImport(Library.Name, EntryPoint = "CSharp_CalibrationStateType_reset")] internal static extern void reset(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_CalibrationStateType_isset_CalibrationDateTime")] internal static extern int isset_CalibrationDateTime(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_CalibrationStateType_get_CalibrationDateTime")] internal static extern IntPtr get_CalibrationDateTime(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_CalibrationStateType_set_CalibrationDateTime")] internal static extern int set_CalibrationDateTime(IntPtr self, IntPtr value);
             [DllImport(Library.Name, EntryPoint = "CSharp_CalibrationStateType_getenum_CalibrationStateType")] internal static extern int getenum_CalibrationStateType(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_CalibrationStateType_setenum_CalibrationStateType")] internal static extern int setenum_CalibrationStateType(IntPtr self, int number);
+            [DllImport(Library.Name, EntryPoint = "CSharp_CalibrationStateType_is_occurs_ok")] internal static extern int is_occurs_ok(IntPtr self);
+            [DllImport(Library.Name, EntryPoint = "CSharp_CalibrationStateType_reset")] internal static extern void reset(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_new_CalibrationStateType__SWIG_0")] internal static extern IntPtr New();
             [DllImport(Library.Name, EntryPoint = "CSharp_delete_CalibrationStateType")] internal static extern void Delete(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_new_CalibrationStateType__SWIG_1")] internal static extern IntPtr Copy(IntPtr source);
@@ -27,19 +27,25 @@ namespace Vyr
             internal static Handle Make(IntPtr source) => Handle.New(() => Copy(source), p => Delete(p));
             internal static int UnsetCalibrationDateTime(IntPtr self) { unset_CalibrationDateTime(self); return 0; }
         }
+
+        static class Parts
+        {
+            static ClassCalls madeClass;
+            internal static ClassCalls Class => madeClass != null ? madeClass : madeClass = new ClassCalls { IsComplete = Native.is_occurs_ok, Reset = Native.reset };
+        }
     }
 
     public partial class GlossCompensation
     {
         static class Native
         {
-            [DllImport(Library.Name, EntryPoint = "CSharp_GlossCompensation_is_occurs_ok")] internal static extern int is_occurs_ok(IntPtr self);
-            [DllImport(Library.Name, EntryPoint = "CSharp_GlossCompensation_reset")] internal static extern void reset(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_GlossCompensation_get_CompensationValue")] internal static extern double get_CompensationValue(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_GlossCompensation_set_CompensationValue")] internal static extern int set_CompensationValue(IntPtr self, double value);
             [DllImport(Library.Name, EntryPoint = "CSharp_GlossCompensation_isset_GlossCompensation")] internal static extern int isset_GlossCompensation(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_GlossCompensation_get_GlossCompensation")] internal static extern uint get_GlossCompensation(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_GlossCompensation_set_GlossCompensation")] internal static extern int set_GlossCompensation(IntPtr self, uint value);
+            [DllImport(Library.Name, EntryPoint = "CSharp_GlossCompensation_is_occurs_ok")] internal static extern int is_occurs_ok(IntPtr self);
+            [DllImport(Library.Name, EntryPoint = "CSharp_GlossCompensation_reset")] internal static extern void reset(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_new_GlossCompensation__SWIG_0")] internal static extern IntPtr New();
             [DllImport(Library.Name, EntryPoint = "CSharp_delete_GlossCompensation")] internal static extern void Delete(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_new_GlossCompensation__SWIG_1")] internal static extern IntPtr Copy(IntPtr source);
@@ -48,19 +54,25 @@ namespace Vyr
             internal static Handle Make(IntPtr source) => Handle.New(() => Copy(source), p => Delete(p));
             internal static int UnsetGlossCompensation(IntPtr self) { unset_GlossCompensation(self); return 0; }
         }
+
+        static class Parts
+        {
+            static ClassCalls madeClass;
+            internal static ClassCalls Class => madeClass != null ? madeClass : madeClass = new ClassCalls { IsComplete = Native.is_occurs_ok, Reset = Native.reset };
+        }
     }
 
     public partial class Averaging
     {
         static class Native
         {
-            [DllImport(Library.Name, EntryPoint = "CSharp_Averaging_is_occurs_ok")] internal static extern int is_occurs_ok(IntPtr self);
-            [DllImport(Library.Name, EntryPoint = "CSharp_Averaging_reset")] internal static extern void reset(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_Averaging_get_AveragingValue")] internal static extern uint get_AveragingValue(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_Averaging_set_AveragingValue")] internal static extern int set_AveragingValue(IntPtr self, uint value);
             [DllImport(Library.Name, EntryPoint = "CSharp_Averaging_isset_Averaging")] internal static extern int isset_Averaging(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_Averaging_get_Averaging")] internal static extern uint get_Averaging(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_Averaging_set_Averaging")] internal static extern int set_Averaging(IntPtr self, uint value);
+            [DllImport(Library.Name, EntryPoint = "CSharp_Averaging_is_occurs_ok")] internal static extern int is_occurs_ok(IntPtr self);
+            [DllImport(Library.Name, EntryPoint = "CSharp_Averaging_reset")] internal static extern void reset(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_new_Averaging__SWIG_0")] internal static extern IntPtr New();
             [DllImport(Library.Name, EntryPoint = "CSharp_delete_Averaging")] internal static extern void Delete(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_new_Averaging__SWIG_1")] internal static extern IntPtr Copy(IntPtr source);
@@ -69,14 +81,18 @@ namespace Vyr
             internal static Handle Make(IntPtr source) => Handle.New(() => Copy(source), p => Delete(p));
             internal static int UnsetAveraging(IntPtr self) { unset_Averaging(self); return 0; }
         }
+
+        static class Parts
+        {
+            static ClassCalls madeClass;
+            internal static ClassCalls Class => madeClass != null ? madeClass : madeClass = new ClassCalls { IsComplete = Native.is_occurs_ok, Reset = Native.reset };
+        }
     }
 
     public partial class DeviceSettings
     {
         static class Native
         {
-            [DllImport(Library.Name, EntryPoint = "CSharp_DeviceSettings_is_occurs_ok")] internal static extern int is_occurs_ok(IntPtr self);
-            [DllImport(Library.Name, EntryPoint = "CSharp_DeviceSettings_reset")] internal static extern void reset(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_DeviceSettings_isset_Aperture")] internal static extern int isset_Aperture(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_DeviceSettings_get_Aperture")] internal static extern uint get_Aperture(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_DeviceSettings_set_Aperture")] internal static extern int set_Aperture(IntPtr self, uint value);
@@ -89,6 +105,8 @@ namespace Vyr
             [DllImport(Library.Name, EntryPoint = "CSharp_DeviceSettings_isset_LinkTrimmer")] internal static extern int isset_LinkTrimmer(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_DeviceSettings_get_LinkTrimmer")] internal static extern uint get_LinkTrimmer(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_DeviceSettings_set_LinkTrimmer")] internal static extern int set_LinkTrimmer(IntPtr self, uint value);
+            [DllImport(Library.Name, EntryPoint = "CSharp_DeviceSettings_is_occurs_ok")] internal static extern int is_occurs_ok(IntPtr self);
+            [DllImport(Library.Name, EntryPoint = "CSharp_DeviceSettings_reset")] internal static extern void reset(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_DeviceSettings_size_CustomAttribute")] internal static extern uint size_CustomAttribute(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_DeviceSettings_get_CustomAttribute__SWIG_0")] internal static extern IntPtr get_CustomAttribute(IntPtr self, uint index);
             [DllImport(Library.Name, EntryPoint = "CSharp_DeviceSettings_assign_CustomAttribute")] internal static extern IntPtr assign_CustomAttribute(IntPtr self, uint index, IntPtr value);
@@ -119,6 +137,8 @@ namespace Vyr
 
         static class Parts
         {
+            static ClassCalls madeClass;
+            internal static ClassCalls Class => madeClass != null ? madeClass : madeClass = new ClassCalls { IsComplete = Native.is_occurs_ok, Reset = Native.reset };
             static ObjectListCalls<CustomAttributeType> madeCustomAttribute;
             internal static ObjectListCalls<CustomAttributeType> CustomAttribute => madeCustomAttribute != null ? madeCustomAttribute : madeCustomAttribute = new ObjectListCalls<CustomAttributeType> { Make = h => new CustomAttributeType(h), Size = Native.size_CustomAttribute, Get = Native.get_CustomAttribute, Assign = Native.assign_CustomAttribute, Append = Native.append_CustomAttribute, Insert = Native.insert_CustomAttribute, Delete = Native.delete_CustomAttribute, Clear = Native.clear_CustomAttribute };
             static IntPtr madeGlossCompensationItem;
@@ -136,8 +156,6 @@ namespace Vyr
     {
         static class Native
         {
-            [DllImport(Library.Name, EntryPoint = "CSharp_DeviceType_is_occurs_ok")] internal static extern int is_occurs_ok(IntPtr self);
-            [DllImport(Library.Name, EntryPoint = "CSharp_DeviceType_reset")] internal static extern void reset(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_DeviceType_get_Manufacturer")] [return: MarshalAs(UnmanagedType.BStr)] internal static extern string get_Manufacturer(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_DeviceType_set_Manufacturer")] internal static extern int set_Manufacturer(IntPtr self, [MarshalAs(UnmanagedType.LPWStr)] string value);
             [DllImport(Library.Name, EntryPoint = "CSharp_DeviceType_get_Model")] [return: MarshalAs(UnmanagedType.BStr)] internal static extern string get_Model(IntPtr self);
@@ -153,6 +171,8 @@ namespace Vyr
             [DllImport(Library.Name, EntryPoint = "CSharp_DeviceType_isset_BootFirmwareVersion")] internal static extern int isset_BootFirmwareVersion(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_DeviceType_get_BootFirmwareVersion")] [return: MarshalAs(UnmanagedType.BStr)] internal static extern string get_BootFirmwareVersion(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_DeviceType_set_BootFirmwareVersion")] internal static extern int set_BootFirmwareVersion(IntPtr self, [MarshalAs(UnmanagedType.LPWStr)] string value);
+            [DllImport(Library.Name, EntryPoint = "CSharp_DeviceType_is_occurs_ok")] internal static extern int is_occurs_ok(IntPtr self);
+            [DllImport(Library.Name, EntryPoint = "CSharp_DeviceType_reset")] internal static extern void reset(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_DeviceType_size_CustomAttribute")] internal static extern uint size_CustomAttribute(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_DeviceType_get_CustomAttribute__SWIG_0")] internal static extern IntPtr get_CustomAttribute(IntPtr self, uint index);
             [DllImport(Library.Name, EntryPoint = "CSharp_DeviceType_assign_CustomAttribute")] internal static extern IntPtr assign_CustomAttribute(IntPtr self, uint index, IntPtr value);
@@ -181,6 +201,8 @@ namespace Vyr
 
         static class Parts
         {
+            static ClassCalls madeClass;
+            internal static ClassCalls Class => madeClass != null ? madeClass : madeClass = new ClassCalls { IsComplete = Native.is_occurs_ok, Reset = Native.reset };
             static ObjectListCalls<CustomAttributeType> madeCustomAttribute;
             internal static ObjectListCalls<CustomAttributeType> CustomAttribute => madeCustomAttribute != null ? madeCustomAttribute : madeCustomAttribute = new ObjectListCalls<CustomAttributeType> { Make = h => new CustomAttributeType(h), Size = Native.size_CustomAttribute, Get = Native.get_CustomAttribute, Assign = Native.assign_CustomAttribute, Append = Native.append_CustomAttribute, Insert = Native.insert_CustomAttribute, Delete = Native.delete_CustomAttribute, Clear = Native.clear_CustomAttribute };
             static IntPtr madeCalibrationStateItem;
@@ -198,11 +220,11 @@ namespace Vyr
     {
         static class Native
         {
-            [DllImport(Library.Name, EntryPoint = "CSharp_ProfileChoice_is_occurs_ok")] internal static extern int is_occurs_ok(IntPtr self);
-            [DllImport(Library.Name, EntryPoint = "CSharp_ProfileChoice_reset")] internal static extern void reset(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_ProfileChoice_getchosen")] internal static extern int getchosen(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_ProfileChoice_get_ProfileURI")] [return: MarshalAs(UnmanagedType.BStr)] internal static extern string get_ProfileURI(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_ProfileChoice_set_ProfileURI")] internal static extern int set_ProfileURI(IntPtr self, [MarshalAs(UnmanagedType.LPWStr)] string value);
+            [DllImport(Library.Name, EntryPoint = "CSharp_ProfileChoice_is_occurs_ok")] internal static extern int is_occurs_ok(IntPtr self);
+            [DllImport(Library.Name, EntryPoint = "CSharp_ProfileChoice_reset")] internal static extern void reset(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_ProfileChoice_get_ProfileFile__SWIG_0")] internal static extern IntPtr get_ProfileFile(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_ProfileChoice_assign_ProfileFile")] internal static extern IntPtr assign_ProfileFile(IntPtr self, IntPtr value);
             [DllImport(Library.Name, EntryPoint = "CSharp_new_ProfileChoice__SWIG_0")] internal static extern IntPtr New();
@@ -214,6 +236,8 @@ namespace Vyr
 
         static class Parts
         {
+            static ClassCalls madeClass;
+            internal static ClassCalls Class => madeClass != null ? madeClass : madeClass = new ClassCalls { IsComplete = Native.is_occurs_ok, Reset = Native.reset };
             static PartCalls madeProfileFile;
             internal static PartCalls ProfileFile => madeProfileFile != null ? madeProfileFile : madeProfileFile = new PartCalls { Make = h => new ProfileFile(h), Get = Native.get_ProfileFile, Assign = Native.assign_ProfileFile };
         }
@@ -223,13 +247,13 @@ namespace Vyr
     {
         static class Native
         {
-            [DllImport(Library.Name, EntryPoint = "CSharp_ProfileType_is_occurs_ok")] internal static extern int is_occurs_ok(IntPtr self);
-            [DllImport(Library.Name, EntryPoint = "CSharp_ProfileType_reset")] internal static extern void reset(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_ProfileType_getenum_Direction")] internal static extern int getenum_Direction(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_ProfileType_setenum_Direction")] internal static extern int setenum_Direction(IntPtr self, int number);
             [DllImport(Library.Name, EntryPoint = "CSharp_ProfileType_isset_Created")] internal static extern int isset_Created(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_ProfileType_get_Created")] internal static extern IntPtr get_Created(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_ProfileType_set_Created")] internal static extern int set_Created(IntPtr self, IntPtr value);
+            [DllImport(Library.Name, EntryPoint = "CSharp_ProfileType_is_occurs_ok")] internal static extern int is_occurs_ok(IntPtr self);
+            [DllImport(Library.Name, EntryPoint = "CSharp_ProfileType_reset")] internal static extern void reset(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_ProfileType_get_ProfileChoice__SWIG_0")] internal static extern IntPtr get_ProfileChoice(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_ProfileType_assign_ProfileChoice")] internal static extern IntPtr assign_ProfileChoice(IntPtr self, IntPtr value);
             [DllImport(Library.Name, EntryPoint = "CSharp_ProfileType_size_Parameters")] internal static extern uint size_Parameters(IntPtr self);
@@ -250,6 +274,8 @@ namespace Vyr
 
         static class Parts
         {
+            static ClassCalls madeClass;
+            internal static ClassCalls Class => madeClass != null ? madeClass : madeClass = new ClassCalls { IsComplete = Native.is_occurs_ok, Reset = Native.reset };
             static IntPtr madeProfileChoiceItem;
             internal static IntPtr ProfileChoiceItem => madeProfileChoiceItem != IntPtr.Zero ? madeProfileChoiceItem : madeProfileChoiceItem = Library.Item("ProfileType", "ProfileChoice");
             static PartCalls madeProfileChoice;
@@ -263,13 +289,13 @@ namespace Vyr
     {
         static class Native
         {
-            [DllImport(Library.Name, EntryPoint = "CSharp_ProfileFile_is_occurs_ok")] internal static extern int is_occurs_ok(IntPtr self);
-            [DllImport(Library.Name, EntryPoint = "CSharp_ProfileFile_reset")] internal static extern void reset(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_ProfileFile_isset_ProfileName")] internal static extern int isset_ProfileName(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_ProfileFile_get_ProfileName")] [return: MarshalAs(UnmanagedType.BStr)] internal static extern string get_ProfileName(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_ProfileFile_set_ProfileName")] internal static extern int set_ProfileName(IntPtr self, [MarshalAs(UnmanagedType.LPWStr)] string value);
             [DllImport(Library.Name, EntryPoint = "CSharp_ProfileFile_get_ProfileFile")] internal static extern IntPtr get_ProfileFile(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_ProfileFile_set_ProfileFile")] internal static extern int set_ProfileFile(IntPtr self, IntPtr value);
+            [DllImport(Library.Name, EntryPoint = "CSharp_ProfileFile_is_occurs_ok")] internal static extern int is_occurs_ok(IntPtr self);
+            [DllImport(Library.Name, EntryPoint = "CSharp_ProfileFile_reset")] internal static extern void reset(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_new_ProfileFile__SWIG_0")] internal static extern IntPtr New();
             [DllImport(Library.Name, EntryPoint = "CSharp_delete_ProfileFile")] internal static extern void Delete(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_new_ProfileFile__SWIG_1")] internal static extern IntPtr Copy(IntPtr source);
@@ -278,14 +304,18 @@ namespace Vyr
             internal static Handle Make(IntPtr source) => Handle.New(() => Copy(source), p => Delete(p));
             internal static int UnsetProfileName(IntPtr self) { unset_ProfileName(self); return 0; }
         }
+
+        static class Parts
+        {
+            static ClassCalls madeClass;
+            internal static ClassCalls Class => madeClass != null ? madeClass : madeClass = new ClassCalls { IsComplete = Native.is_occurs_ok, Reset = Native.reset };
+        }
     }
 
     public partial class ProfileType_Parameters_ValueChoice
     {
         static class Native
         {
-            [DllImport(Library.Name, EntryPoint = "CSharp_ProfileType_Parameters_ValueChoice_is_occurs_ok")] internal static extern int is_occurs_ok(IntPtr self);
-            [DllImport(Library.Name, EntryPoint = "CSharp_ProfileType_Parameters_ValueChoice_reset")] internal static extern void reset(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_ProfileType_Parameters_ValueChoice_getchosen")] internal static extern int getchosen(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_ProfileType_Parameters_ValueChoice_get_DoubleValue")] internal static extern double get_DoubleValue(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_ProfileType_Parameters_ValueChoice_set_DoubleValue")] internal static extern int set_DoubleValue(IntPtr self, double value);
@@ -293,11 +323,19 @@ namespace Vyr
             [DllImport(Library.Name, EntryPoint = "CSharp_ProfileType_Parameters_ValueChoice_set_IntegerValue")] internal static extern int set_IntegerValue(IntPtr self, int value);
             [DllImport(Library.Name, EntryPoint = "CSharp_ProfileType_Parameters_ValueChoice_get_StringValue")] [return: MarshalAs(UnmanagedType.BStr)] internal static extern string get_StringValue(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_ProfileType_Parameters_ValueChoice_set_StringValue")] internal static extern int set_StringValue(IntPtr self, [MarshalAs(UnmanagedType.LPWStr)] string value);
+            [DllImport(Library.Name, EntryPoint = "CSharp_ProfileType_Parameters_ValueChoice_is_occurs_ok")] internal static extern int is_occurs_ok(IntPtr self);
+            [DllImport(Library.Name, EntryPoint = "CSharp_ProfileType_Parameters_ValueChoice_reset")] internal static extern void reset(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_new_ProfileType_Parameters_ValueChoice__SWIG_0")] internal static extern IntPtr New();
             [DllImport(Library.Name, EntryPoint = "CSharp_delete_ProfileType_Parameters_ValueChoice")] internal static extern void Delete(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_new_ProfileType_Parameters_ValueChoice__SWIG_1")] internal static extern IntPtr Copy(IntPtr source);
             internal static Handle Make() => Handle.New(() => New(), p => Delete(p));
             internal static Handle Make(IntPtr source) => Handle.New(() => Copy(source), p => Delete(p));
+        }
+
+        static class Parts
+        {
+            static ClassCalls madeClass;
+            internal static ClassCalls Class => madeClass != null ? madeClass : madeClass = new ClassCalls { IsComplete = Native.is_occurs_ok, Reset = Native.reset };
         }
     }
 
@@ -305,10 +343,10 @@ namespace Vyr
     {
         static class Native
         {
-            [DllImport(Library.Name, EntryPoint = "CSharp_ProfileType_Parameters_is_occurs_ok")] internal static extern int is_occurs_ok(IntPtr self);
-            [DllImport(Library.Name, EntryPoint = "CSharp_ProfileType_Parameters_reset")] internal static extern void reset(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_ProfileType_Parameters_get_Name")] [return: MarshalAs(UnmanagedType.BStr)] internal static extern string get_Name(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_ProfileType_Parameters_set_Name")] internal static extern int set_Name(IntPtr self, [MarshalAs(UnmanagedType.LPWStr)] string value);
+            [DllImport(Library.Name, EntryPoint = "CSharp_ProfileType_Parameters_is_occurs_ok")] internal static extern int is_occurs_ok(IntPtr self);
+            [DllImport(Library.Name, EntryPoint = "CSharp_ProfileType_Parameters_reset")] internal static extern void reset(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_ProfileType_Parameters_get_ValueChoice__SWIG_0")] internal static extern IntPtr get_ValueChoice(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_ProfileType_Parameters_assign_ValueChoice")] internal static extern IntPtr assign_ValueChoice(IntPtr self, IntPtr value);
             [DllImport(Library.Name, EntryPoint = "CSharp_new_ProfileType_Parameters__SWIG_0")] internal static extern IntPtr New();
@@ -320,6 +358,8 @@ namespace Vyr
 
         static class Parts
         {
+            static ClassCalls madeClass;
+            internal static ClassCalls Class => madeClass != null ? madeClass : madeClass = new ClassCalls { IsComplete = Native.is_occurs_ok, Reset = Native.reset };
             static IntPtr madeValueChoiceItem;
             internal static IntPtr ValueChoiceItem => madeValueChoiceItem != IntPtr.Zero ? madeValueChoiceItem : madeValueChoiceItem = Library.Item("ProfileType_Parameters", "ValueChoice");
             static PartCalls madeValueChoice;

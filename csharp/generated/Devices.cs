@@ -18,12 +18,7 @@ namespace Vyr
         /// <inheritdoc/>
         public new CalibrationStateType Clone() => (CalibrationStateType)Copy();
         internal override VyrObject Copy() => Copied(new CalibrationStateType(Native.Make(Pointer)));
-
-        /// <inheritdoc/>
-        public override bool IsComplete => Is(Native.is_occurs_ok(Pointer));
-
-        /// <inheritdoc/>
-        public override void Reset() { RemoveParts(); Native.reset(Pointer); Keep(); }
+        internal override ClassCalls Class => Parts.Class;
 
         /// <summary>Time of the last calibration, with time zone. Null if not set.</summary>
         public DateTimeOffset? CalibrationDateTime { get => Is(Native.isset_CalibrationDateTime(Pointer)) ? DateTimeText.Parse(Kept(DateTimeText.Read(Native.get_CalibrationDateTime(Pointer)))) : default(DateTimeOffset?); set => Demand(value == null ? Native.UnsetCalibrationDateTime(Pointer) : DateTimeText.Give(DateTimeText.Format(value.Value), @".+T.+(Z|[+\-].+)", time => Native.set_CalibrationDateTime(Pointer, time))); }
@@ -47,12 +42,7 @@ namespace Vyr
         /// <inheritdoc/>
         public new GlossCompensation Clone() => (GlossCompensation)Copy();
         internal override VyrObject Copy() => Copied(new GlossCompensation(Native.Make(Pointer)));
-
-        /// <inheritdoc/>
-        public override bool IsComplete => Is(Native.is_occurs_ok(Pointer));
-
-        /// <inheritdoc/>
-        public override void Reset() { RemoveParts(); Native.reset(Pointer); Keep(); }
+        internal override ClassCalls Class => Parts.Class;
 
         /// <summary>Amount of the correction.</summary>
         public double CompensationValue { get => Kept(Native.get_CompensationValue(Pointer)); set => Demand(Native.set_CompensationValue(Pointer, value)); }
@@ -72,12 +62,7 @@ namespace Vyr
         /// <inheritdoc/>
         public new Averaging Clone() => (Averaging)Copy();
         internal override VyrObject Copy() => Copied(new Averaging(Native.Make(Pointer)));
-
-        /// <inheritdoc/>
-        public override bool IsComplete => Is(Native.is_occurs_ok(Pointer));
-
-        /// <inheritdoc/>
-        public override void Reset() { RemoveParts(); Native.reset(Pointer); Keep(); }
+        internal override ClassCalls Class => Parts.Class;
 
         /// <summary>Number of readings, 2 to 99.</summary>
         public byte AveragingValue { get => (byte)Kept(Native.get_AveragingValue(Pointer)); set => Demand(Native.set_AveragingValue(Pointer, value)); }
@@ -97,12 +82,7 @@ namespace Vyr
         /// <inheritdoc/>
         public new DeviceSettings Clone() => (DeviceSettings)Copy();
         internal override VyrObject Copy() => Copied(new DeviceSettings(Native.Make(Pointer)));
-
-        /// <inheritdoc/>
-        public override bool IsComplete => Is(Native.is_occurs_ok(Pointer));
-
-        /// <inheritdoc/>
-        public override void Reset() { RemoveParts(); Native.reset(Pointer); Keep(); }
+        internal override ClassCalls Class => Parts.Class;
 
         /// <summary>A named value of the user's own.</summary>
         public ObjectList<CustomAttributeType> CustomAttributes => (ObjectList<CustomAttributeType>)(Part(0) ?? Remember(0, new ObjectList<CustomAttributeType>(this, "CustomAttributes", Parts.CustomAttribute)));
@@ -144,12 +124,7 @@ namespace Vyr
         /// <inheritdoc/>
         public new DeviceType Clone() => (DeviceType)Copy();
         internal override VyrObject Copy() => Copied(new DeviceType(Native.Make(Pointer)));
-
-        /// <inheritdoc/>
-        public override bool IsComplete => Is(Native.is_occurs_ok(Pointer));
-
-        /// <inheritdoc/>
-        public override void Reset() { RemoveParts(); Native.reset(Pointer); Keep(); }
+        internal override ClassCalls Class => Parts.Class;
 
         /// <summary>A named value of the user's own.</summary>
         public ObjectList<CustomAttributeType> CustomAttributes => (ObjectList<CustomAttributeType>)(Part(0) ?? Remember(0, new ObjectList<CustomAttributeType>(this, "CustomAttributes", Parts.CustomAttribute)));
@@ -196,12 +171,7 @@ namespace Vyr
         /// <inheritdoc/>
         public new ProfileChoice Clone() => (ProfileChoice)Copy();
         internal override VyrObject Copy() => Copied(new ProfileChoice(Native.Make(Pointer)));
-
-        /// <inheritdoc/>
-        public override bool IsComplete => Is(Native.is_occurs_ok(Pointer));
-
-        /// <inheritdoc/>
-        public override void Reset() { RemoveParts(); Native.reset(Pointer); Keep(); }
+        internal override ClassCalls Class => Parts.Class;
 
         /// <summary>Which alternative an object holds.</summary>
         public enum Alternative
@@ -244,12 +214,7 @@ namespace Vyr
         /// <inheritdoc/>
         public new ProfileType Clone() => (ProfileType)Copy();
         internal override VyrObject Copy() => Copied(new ProfileType(Native.Make(Pointer)));
-
-        /// <inheritdoc/>
-        public override bool IsComplete => Is(Native.is_occurs_ok(Pointer));
-
-        /// <inheritdoc/>
-        public override void Reset() { RemoveParts(); Native.reset(Pointer); Keep(); }
+        internal override ClassCalls Class => Parts.Class;
 
         /// <summary>Which way the profile converts.</summary>
         public ProfileDirectionKind Direction { get => (ProfileDirectionKind)Kept(Native.getenum_Direction(Pointer)); set => Demand(Listed(Native.setenum_Direction(Pointer, (int)value))); }
@@ -282,12 +247,7 @@ namespace Vyr
         /// <inheritdoc/>
         public new ProfileFile Clone() => (ProfileFile)Copy();
         internal override VyrObject Copy() => Copied(new ProfileFile(Native.Make(Pointer)));
-
-        /// <inheritdoc/>
-        public override bool IsComplete => Is(Native.is_occurs_ok(Pointer));
-
-        /// <inheritdoc/>
-        public override void Reset() { RemoveParts(); Native.reset(Pointer); Keep(); }
+        internal override ClassCalls Class => Parts.Class;
 
         /// <summary>Name of the file or of the profile. Null if not set.</summary>
         public string ProfileName { get => Is(Native.isset_ProfileName(Pointer)) ? Kept(Native.get_ProfileName(Pointer)) : null; set => Demand(value == null ? Native.UnsetProfileName(Pointer) : Native.set_ProfileName(Pointer, Library.Whole(value))); }
@@ -307,12 +267,7 @@ namespace Vyr
         /// <inheritdoc/>
         public new ProfileType_Parameters_ValueChoice Clone() => (ProfileType_Parameters_ValueChoice)Copy();
         internal override VyrObject Copy() => Copied(new ProfileType_Parameters_ValueChoice(Native.Make(Pointer)));
-
-        /// <inheritdoc/>
-        public override bool IsComplete => Is(Native.is_occurs_ok(Pointer));
-
-        /// <inheritdoc/>
-        public override void Reset() { RemoveParts(); Native.reset(Pointer); Keep(); }
+        internal override ClassCalls Class => Parts.Class;
 
         /// <summary>Which alternative an object holds.</summary>
         public enum Alternative
@@ -360,12 +315,7 @@ namespace Vyr
         /// <inheritdoc/>
         public new ProfileType_Parameters Clone() => (ProfileType_Parameters)Copy();
         internal override VyrObject Copy() => Copied(new ProfileType_Parameters(Native.Make(Pointer)));
-
-        /// <inheritdoc/>
-        public override bool IsComplete => Is(Native.is_occurs_ok(Pointer));
-
-        /// <inheritdoc/>
-        public override void Reset() { RemoveParts(); Native.reset(Pointer); Keep(); }
+        internal override ClassCalls Class => Parts.Class;
 
         /// <summary>Name of the parameter, exactly one character.</summary>
         public string Name { get => Kept(Native.get_Name(Pointer)); set => Demand(Native.set_Name(Pointer, Library.Whole(value))); }

@@ -16,12 +16,7 @@ namespace Vyr
         /// <inheritdoc/>
         public new FunctionType Clone() => (FunctionType)Copy();
         internal override VyrObject Copy() => Copied(new FunctionType(Native.Make(Pointer)));
-
-        /// <inheritdoc/>
-        public override bool IsComplete => Is(Native.is_occurs_ok(Pointer));
-
-        /// <inheritdoc/>
-        public override void Reset() { RemoveParts(); Native.reset(Pointer); Keep(); }
+        internal override ClassCalls Class => Parts.Class;
 
         /// <summary>A named value of the user's own.</summary>
         public ObjectList<CustomAttributeType> CustomAttributes => (ObjectList<CustomAttributeType>)(Part(0) ?? Remember(0, new ObjectList<CustomAttributeType>(this, "CustomAttributes", Parts.CustomAttribute)));
@@ -57,7 +52,7 @@ namespace Vyr
     }
 
     /// <summary>Any function, told by xsi:type; head of the functions, any of which can stand in its place.</summary>
-    public partial class Function : FunctionType
+    public partial class Function : FunctionType, IElement
     {
         /// <summary>A new object that stands on its own, with nothing set.</summary>
         public Function() : this(Native.Make()) { }
@@ -74,12 +69,6 @@ namespace Vyr
         /// <summary>The same without throwing for what is wrong with the file; null then, unless the options ask for
         /// what was read.</summary>
         public static LoadReport TryLoad(string path, out Function loaded, LoadOptions options = null) => Load(new Function(), path, options, out loaded);
-
-        /// <summary>Saves a file with this element as its root.</summary>
-        public void Save(string path) => TrySave(path).DemandSaved();
-
-        /// <summary>The same without throwing for what is wrong.</summary>
-        public LoadReport TrySave(string path) => SaveElement(path);
     }
 
     /// <summary>A function that the format doesn't know, by name and parameters.</summary>
@@ -93,12 +82,7 @@ namespace Vyr
         /// <inheritdoc/>
         public new FunctionGenericType Clone() => (FunctionGenericType)Copy();
         internal override VyrObject Copy() => Copied(new FunctionGenericType(Native.Make(Pointer)));
-
-        /// <inheritdoc/>
-        public override bool IsComplete => Is(Native.is_occurs_ok(Pointer));
-
-        /// <inheritdoc/>
-        public override void Reset() { RemoveParts(); Native.reset(Pointer); Keep(); }
+        internal override ClassCalls Class => Parts.Class;
 
         /// <summary>Name of the function; not empty.</summary>
         public string Name { get => Kept(Native.get_Name(Pointer)); set => Demand(Native.set_Name(Pointer, Library.Whole(value))); }
@@ -118,12 +102,7 @@ namespace Vyr
         /// <inheritdoc/>
         public new ValueChoice Clone() => (ValueChoice)Copy();
         internal override VyrObject Copy() => Copied(new ValueChoice(Native.Make(Pointer)));
-
-        /// <inheritdoc/>
-        public override bool IsComplete => Is(Native.is_occurs_ok(Pointer));
-
-        /// <inheritdoc/>
-        public override void Reset() { RemoveParts(); Native.reset(Pointer); Keep(); }
+        internal override ClassCalls Class => Parts.Class;
 
         /// <summary>Which alternative an object holds.</summary>
         public enum Alternative
@@ -163,12 +142,7 @@ namespace Vyr
         /// <inheritdoc/>
         public new Parameters Clone() => (Parameters)Copy();
         internal override VyrObject Copy() => Copied(new Parameters(Native.Make(Pointer)));
-
-        /// <inheritdoc/>
-        public override bool IsComplete => Is(Native.is_occurs_ok(Pointer));
-
-        /// <inheritdoc/>
-        public override void Reset() { RemoveParts(); Native.reset(Pointer); Keep(); }
+        internal override ClassCalls Class => Parts.Class;
 
         /// <summary>Name of the parameter.</summary>
         public string Name { get => Kept(Native.get_Name(Pointer)); set => Demand(Native.set_Name(Pointer, Library.Whole(value))); }
@@ -191,12 +165,7 @@ namespace Vyr
         /// <inheritdoc/>
         public new FunctionDEType Clone() => (FunctionDEType)Copy();
         internal override VyrObject Copy() => Copied(new FunctionDEType(Native.Make(Pointer)));
-
-        /// <inheritdoc/>
-        public override bool IsComplete => Is(Native.is_occurs_ok(Pointer));
-
-        /// <inheritdoc/>
-        public override void Reset() { RemoveParts(); Native.reset(Pointer); Keep(); }
+        internal override ClassCalls Class => Parts.Class;
     }
 
     /// <summary>Mean of CIE 1976 colour differences.</summary>
@@ -210,12 +179,7 @@ namespace Vyr
         /// <inheritdoc/>
         public new FunctionMeanDEType Clone() => (FunctionMeanDEType)Copy();
         internal override VyrObject Copy() => Copied(new FunctionMeanDEType(Native.Make(Pointer)));
-
-        /// <inheritdoc/>
-        public override bool IsComplete => Is(Native.is_occurs_ok(Pointer));
-
-        /// <inheritdoc/>
-        public override void Reset() { RemoveParts(); Native.reset(Pointer); Keep(); }
+        internal override ClassCalls Class => Parts.Class;
     }
 
     /// <summary>CIE 1994 colour difference.</summary>
@@ -229,12 +193,7 @@ namespace Vyr
         /// <inheritdoc/>
         public new FunctionDE94Type Clone() => (FunctionDE94Type)Copy();
         internal override VyrObject Copy() => Copied(new FunctionDE94Type(Native.Make(Pointer)));
-
-        /// <inheritdoc/>
-        public override bool IsComplete => Is(Native.is_occurs_ok(Pointer));
-
-        /// <inheritdoc/>
-        public override void Reset() { RemoveParts(); Native.reset(Pointer); Keep(); }
+        internal override ClassCalls Class => Parts.Class;
 
         /// <summary>Weight of the lightness difference, 0 or more; a new object holds 2, without counting as
         /// set.</summary>
@@ -259,12 +218,7 @@ namespace Vyr
         /// <inheritdoc/>
         public new FunctionDE2000Type Clone() => (FunctionDE2000Type)Copy();
         internal override VyrObject Copy() => Copied(new FunctionDE2000Type(Native.Make(Pointer)));
-
-        /// <inheritdoc/>
-        public override bool IsComplete => Is(Native.is_occurs_ok(Pointer));
-
-        /// <inheritdoc/>
-        public override void Reset() { RemoveParts(); Native.reset(Pointer); Keep(); }
+        internal override ClassCalls Class => Parts.Class;
 
         /// <summary>Weight of the lightness difference, 0 or more; a new object holds 2, without counting as
         /// set.</summary>
@@ -289,12 +243,7 @@ namespace Vyr
         /// <inheritdoc/>
         public new FunctionDEcmcType Clone() => (FunctionDEcmcType)Copy();
         internal override VyrObject Copy() => Copied(new FunctionDEcmcType(Native.Make(Pointer)));
-
-        /// <inheritdoc/>
-        public override bool IsComplete => Is(Native.is_occurs_ok(Pointer));
-
-        /// <inheritdoc/>
-        public override void Reset() { RemoveParts(); Native.reset(Pointer); Keep(); }
+        internal override ClassCalls Class => Parts.Class;
 
         /// <summary>Weight l of the lightness difference, 0 or more; a new object holds 2, without counting as
         /// set.</summary>
@@ -306,7 +255,7 @@ namespace Vyr
     }
 
     /// <summary>A function that the format doesn't know, by name and parameters.</summary>
-    public partial class FunctionGeneric : FunctionGenericType
+    public partial class FunctionGeneric : FunctionGenericType, IElement
     {
         /// <summary>A new object that stands on its own, with nothing set.</summary>
         public FunctionGeneric() : this(Native.Make()) { }
@@ -323,16 +272,10 @@ namespace Vyr
         /// <summary>The same without throwing for what is wrong with the file; null then, unless the options ask for
         /// what was read.</summary>
         public static LoadReport TryLoad(string path, out FunctionGeneric loaded, LoadOptions options = null) => Load(new FunctionGeneric(), path, options, out loaded);
-
-        /// <summary>Saves a file with this element as its root.</summary>
-        public void Save(string path) => TrySave(path).DemandSaved();
-
-        /// <summary>The same without throwing for what is wrong.</summary>
-        public LoadReport TrySave(string path) => SaveElement(path);
     }
 
     /// <summary>CIE 1976 colour difference, the distance in L*a*b*.</summary>
-    public partial class FunctionDE : FunctionDEType
+    public partial class FunctionDE : FunctionDEType, IElement
     {
         /// <summary>A new object that stands on its own, with nothing set.</summary>
         public FunctionDE() : this(Native.Make()) { }
@@ -349,16 +292,10 @@ namespace Vyr
         /// <summary>The same without throwing for what is wrong with the file; null then, unless the options ask for
         /// what was read.</summary>
         public static LoadReport TryLoad(string path, out FunctionDE loaded, LoadOptions options = null) => Load(new FunctionDE(), path, options, out loaded);
-
-        /// <summary>Saves a file with this element as its root.</summary>
-        public void Save(string path) => TrySave(path).DemandSaved();
-
-        /// <summary>The same without throwing for what is wrong.</summary>
-        public LoadReport TrySave(string path) => SaveElement(path);
     }
 
     /// <summary>Mean of CIE 1976 colour differences.</summary>
-    public partial class FunctionMeanDE : FunctionMeanDEType
+    public partial class FunctionMeanDE : FunctionMeanDEType, IElement
     {
         /// <summary>A new object that stands on its own, with nothing set.</summary>
         public FunctionMeanDE() : this(Native.Make()) { }
@@ -375,16 +312,10 @@ namespace Vyr
         /// <summary>The same without throwing for what is wrong with the file; null then, unless the options ask for
         /// what was read.</summary>
         public static LoadReport TryLoad(string path, out FunctionMeanDE loaded, LoadOptions options = null) => Load(new FunctionMeanDE(), path, options, out loaded);
-
-        /// <summary>Saves a file with this element as its root.</summary>
-        public void Save(string path) => TrySave(path).DemandSaved();
-
-        /// <summary>The same without throwing for what is wrong.</summary>
-        public LoadReport TrySave(string path) => SaveElement(path);
     }
 
     /// <summary>CIE 1994 colour difference.</summary>
-    public partial class FunctionDE94 : FunctionDE94Type
+    public partial class FunctionDE94 : FunctionDE94Type, IElement
     {
         /// <summary>A new object that stands on its own, with nothing set.</summary>
         public FunctionDE94() : this(Native.Make()) { }
@@ -401,16 +332,10 @@ namespace Vyr
         /// <summary>The same without throwing for what is wrong with the file; null then, unless the options ask for
         /// what was read.</summary>
         public static LoadReport TryLoad(string path, out FunctionDE94 loaded, LoadOptions options = null) => Load(new FunctionDE94(), path, options, out loaded);
-
-        /// <summary>Saves a file with this element as its root.</summary>
-        public void Save(string path) => TrySave(path).DemandSaved();
-
-        /// <summary>The same without throwing for what is wrong.</summary>
-        public LoadReport TrySave(string path) => SaveElement(path);
     }
 
     /// <summary>CIEDE2000 colour difference.</summary>
-    public partial class FunctionDE2000 : FunctionDE2000Type
+    public partial class FunctionDE2000 : FunctionDE2000Type, IElement
     {
         /// <summary>A new object that stands on its own, with nothing set.</summary>
         public FunctionDE2000() : this(Native.Make()) { }
@@ -427,16 +352,10 @@ namespace Vyr
         /// <summary>The same without throwing for what is wrong with the file; null then, unless the options ask for
         /// what was read.</summary>
         public static LoadReport TryLoad(string path, out FunctionDE2000 loaded, LoadOptions options = null) => Load(new FunctionDE2000(), path, options, out loaded);
-
-        /// <summary>Saves a file with this element as its root.</summary>
-        public void Save(string path) => TrySave(path).DemandSaved();
-
-        /// <summary>The same without throwing for what is wrong.</summary>
-        public LoadReport TrySave(string path) => SaveElement(path);
     }
 
     /// <summary>CMC l:c colour difference.</summary>
-    public partial class FunctionDECMC : FunctionDEcmcType
+    public partial class FunctionDECMC : FunctionDEcmcType, IElement
     {
         /// <summary>A new object that stands on its own, with nothing set.</summary>
         public FunctionDECMC() : this(Native.Make()) { }
@@ -453,12 +372,6 @@ namespace Vyr
         /// <summary>The same without throwing for what is wrong with the file; null then, unless the options ask for
         /// what was read.</summary>
         public static LoadReport TryLoad(string path, out FunctionDECMC loaded, LoadOptions options = null) => Load(new FunctionDECMC(), path, options, out loaded);
-
-        /// <summary>Saves a file with this element as its root.</summary>
-        public void Save(string path) => TrySave(path).DemandSaved();
-
-        /// <summary>The same without throwing for what is wrong.</summary>
-        public LoadReport TrySave(string path) => SaveElement(path);
     }
 
     /// <summary>A tolerance formula with limits for its parameters; reached through Function with xsi:type.</summary>
@@ -472,12 +385,7 @@ namespace Vyr
         /// <inheritdoc/>
         public new FunctionTolerance Clone() => (FunctionTolerance)Copy();
         internal override VyrObject Copy() => Copied(new FunctionTolerance(Native.Make(Pointer)));
-
-        /// <inheritdoc/>
-        public override bool IsComplete => Is(Native.is_occurs_ok(Pointer));
-
-        /// <inheritdoc/>
-        public override void Reset() { RemoveParts(); Native.reset(Pointer); Keep(); }
+        internal override ClassCalls Class => Parts.Class;
 
         /// <summary>The formula.</summary>
         public ToleranceFormulaKind ToleranceType { get => (ToleranceFormulaKind)Kept(Native.getenum_ToleranceType(Pointer)); set => Demand(Listed(Native.setenum_ToleranceType(Pointer, (int)value))); }
@@ -497,12 +405,7 @@ namespace Vyr
         /// <inheritdoc/>
         public new ToleranceParameterType Clone() => (ToleranceParameterType)Copy();
         internal override VyrObject Copy() => Copied(new ToleranceParameterType(Native.Make(Pointer)));
-
-        /// <inheritdoc/>
-        public override bool IsComplete => Is(Native.is_occurs_ok(Pointer));
-
-        /// <inheritdoc/>
-        public override void Reset() { RemoveParts(); Native.reset(Pointer); Keep(); }
+        internal override ClassCalls Class => Parts.Class;
 
         /// <summary>Upper limit, in the unit of the parameter. Null if not set.</summary>
         public double? HighValue { get => Is(Native.isset_HighValue(Pointer)) ? Kept(Native.get_HighValue(Pointer)) : default(double?); set => Demand(value == null ? Native.UnsetHighValue(Pointer) : Native.set_HighValue(Pointer, value.Value)); }

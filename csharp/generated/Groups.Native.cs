@@ -12,9 +12,9 @@ namespace Vyr
     {
         static class Native
         {
+            [DllImport(Library.Name, EntryPoint = "CSharp_sg_ColorSpace_getchosen")] internal static extern int getchosen(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_sg_ColorSpace_is_occurs_ok")] internal static extern int is_occurs_ok(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_sg_ColorSpace_reset")] internal static extern void reset(IntPtr self);
-            [DllImport(Library.Name, EntryPoint = "CSharp_sg_ColorSpace_getchosen")] internal static extern int getchosen(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_sg_ColorSpace_get_ColorSpaceRecipe__SWIG_0")] internal static extern IntPtr get_ColorSpaceRecipe(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_sg_ColorSpace_assign_ColorSpaceRecipe")] internal static extern IntPtr assign_ColorSpaceRecipe(IntPtr self, IntPtr value);
             [DllImport(Library.Name, EntryPoint = "CSharp_sg_ColorSpace_get_ColorSpaceTINTORA__SWIG_0")] internal static extern IntPtr get_ColorSpaceTINTORA(IntPtr self);
@@ -79,6 +79,8 @@ namespace Vyr
 
         static class Parts
         {
+            static ClassCalls madeClass;
+            internal static ClassCalls Class => madeClass != null ? madeClass : madeClass = new ClassCalls { IsComplete = Native.is_occurs_ok, Reset = Native.reset };
             static PartCalls madeColorSpaceRecipe;
             internal static PartCalls ColorSpaceRecipe => madeColorSpaceRecipe != null ? madeColorSpaceRecipe : madeColorSpaceRecipe = new PartCalls { Make = h => new ColorSpaceRecipeType(h), Get = Native.get_ColorSpaceRecipe, Assign = Native.assign_ColorSpaceRecipe };
             static PartCalls madeColorSpaceTINTORA;
@@ -144,9 +146,9 @@ namespace Vyr
     {
         static class Native
         {
+            [DllImport(Library.Name, EntryPoint = "CSharp_sg_Substrate_getchosen")] internal static extern int getchosen(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_sg_Substrate_is_occurs_ok")] internal static extern int is_occurs_ok(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_sg_Substrate_reset")] internal static extern void reset(IntPtr self);
-            [DllImport(Library.Name, EntryPoint = "CSharp_sg_Substrate_getchosen")] internal static extern int getchosen(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_sg_Substrate_get_SubstratePaper__SWIG_0")] internal static extern IntPtr get_SubstratePaper(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_sg_Substrate_assign_SubstratePaper")] internal static extern IntPtr assign_SubstratePaper(IntPtr self, IntPtr value);
             [DllImport(Library.Name, EntryPoint = "CSharp_sg_Substrate_get_SubstrateGeneric__SWIG_0")] internal static extern IntPtr get_SubstrateGeneric(IntPtr self);
@@ -174,6 +176,8 @@ namespace Vyr
 
         static class Parts
         {
+            static ClassCalls madeClass;
+            internal static ClassCalls Class => madeClass != null ? madeClass : madeClass = new ClassCalls { IsComplete = Native.is_occurs_ok, Reset = Native.reset };
             static PartCalls madeSubstratePaper;
             internal static PartCalls SubstratePaper => madeSubstratePaper != null ? madeSubstratePaper : madeSubstratePaper = new PartCalls { Make = h => new SubstratePaperType(h), Get = Native.get_SubstratePaper, Assign = Native.assign_SubstratePaper };
             static PartCalls madeSubstrateGeneric;
@@ -199,9 +203,9 @@ namespace Vyr
     {
         static class Native
         {
+            [DllImport(Library.Name, EntryPoint = "CSharp_sg_Sample_getchosen")] internal static extern int getchosen(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_sg_Sample_is_occurs_ok")] internal static extern int is_occurs_ok(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_sg_Sample_reset")] internal static extern void reset(IntPtr self);
-            [DllImport(Library.Name, EntryPoint = "CSharp_sg_Sample_getchosen")] internal static extern int getchosen(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_sg_Sample_get_SampleSpot__SWIG_0")] internal static extern IntPtr get_SampleSpot(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_sg_Sample_assign_SampleSpot")] internal static extern IntPtr assign_SampleSpot(IntPtr self, IntPtr value);
             [DllImport(Library.Name, EntryPoint = "CSharp_sg_Sample_get_SampleTarget__SWIG_0")] internal static extern IntPtr get_SampleTarget(IntPtr self);
@@ -215,6 +219,8 @@ namespace Vyr
 
         static class Parts
         {
+            static ClassCalls madeClass;
+            internal static ClassCalls Class => madeClass != null ? madeClass : madeClass = new ClassCalls { IsComplete = Native.is_occurs_ok, Reset = Native.reset };
             static PartCalls madeSampleSpot;
             internal static PartCalls SampleSpot => madeSampleSpot != null ? madeSampleSpot : madeSampleSpot = new PartCalls { Make = h => new SampleSpotType(h), Get = Native.get_SampleSpot, Assign = Native.assign_SampleSpot };
             static PartCalls madeSampleTarget;
@@ -226,9 +232,9 @@ namespace Vyr
     {
         static class Native
         {
+            [DllImport(Library.Name, EntryPoint = "CSharp_sg_Function_getchosen")] internal static extern int getchosen(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_sg_Function_is_occurs_ok")] internal static extern int is_occurs_ok(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_sg_Function_reset")] internal static extern void reset(IntPtr self);
-            [DllImport(Library.Name, EntryPoint = "CSharp_sg_Function_getchosen")] internal static extern int getchosen(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_sg_Function_get_Function__SWIG_0")] internal static extern IntPtr get_Function(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_sg_Function_get_FunctionGeneric__SWIG_0")] internal static extern IntPtr get_FunctionGeneric(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_sg_Function_assign_FunctionGeneric")] internal static extern IntPtr assign_FunctionGeneric(IntPtr self, IntPtr value);
@@ -273,6 +279,8 @@ namespace Vyr
 
         static class Parts
         {
+            static ClassCalls madeClass;
+            internal static ClassCalls Class => madeClass != null ? madeClass : madeClass = new ClassCalls { IsComplete = Native.is_occurs_ok, Reset = Native.reset };
             static IntPtr madeFunctionItem;
             internal static IntPtr FunctionItem => madeFunctionItem != IntPtr.Zero ? madeFunctionItem : madeFunctionItem = Library.Item("sg_Function", "Function");
             static PartCalls madeFunction;

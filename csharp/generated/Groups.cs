@@ -18,12 +18,7 @@ namespace Vyr
         /// <inheritdoc/>
         public new ColorSpaceChoice Clone() => (ColorSpaceChoice)Copy();
         internal override VyrObject Copy() => Copied(new ColorSpaceChoice(Native.Make(Pointer)));
-
-        /// <inheritdoc/>
-        public override bool IsComplete => Is(Native.is_occurs_ok(Pointer));
-
-        /// <inheritdoc/>
-        public override void Reset() { RemoveParts(); Native.reset(Pointer); Keep(); }
+        internal override ClassCalls Class => Parts.Class;
 
         /// <summary>Which alternative an object holds.</summary>
         public enum Alternative
@@ -377,12 +372,7 @@ namespace Vyr
         /// <inheritdoc/>
         public new SubstrateChoice Clone() => (SubstrateChoice)Copy();
         internal override VyrObject Copy() => Copied(new SubstrateChoice(Native.Make(Pointer)));
-
-        /// <inheritdoc/>
-        public override bool IsComplete => Is(Native.is_occurs_ok(Pointer));
-
-        /// <inheritdoc/>
-        public override void Reset() { RemoveParts(); Native.reset(Pointer); Keep(); }
+        internal override ClassCalls Class => Parts.Class;
 
         /// <summary>Which alternative an object holds.</summary>
         public enum Alternative
@@ -505,12 +495,7 @@ namespace Vyr
         /// <inheritdoc/>
         public new SampleChoice Clone() => (SampleChoice)Copy();
         internal override VyrObject Copy() => Copied(new SampleChoice(Native.Make(Pointer)));
-
-        /// <inheritdoc/>
-        public override bool IsComplete => Is(Native.is_occurs_ok(Pointer));
-
-        /// <inheritdoc/>
-        public override void Reset() { RemoveParts(); Native.reset(Pointer); Keep(); }
+        internal override ClassCalls Class => Parts.Class;
 
         /// <summary>Which alternative an object holds.</summary>
         public enum Alternative
@@ -556,12 +541,7 @@ namespace Vyr
         /// <inheritdoc/>
         public new FunctionChoice Clone() => (FunctionChoice)Copy();
         internal override VyrObject Copy() => Copied(new FunctionChoice(Native.Make(Pointer)));
-
-        /// <inheritdoc/>
-        public override bool IsComplete => Is(Native.is_occurs_ok(Pointer));
-
-        /// <inheritdoc/>
-        public override void Reset() { RemoveParts(); Native.reset(Pointer); Keep(); }
+        internal override ClassCalls Class => Parts.Class;
 
         /// <summary>Which alternative an object holds.</summary>
         public enum Alternative

@@ -12,17 +12,23 @@ namespace Vyr
     {
         static class Native
         {
-            [DllImport(Library.Name, EntryPoint = "CSharp_SDKVersion_is_occurs_ok")] internal static extern int is_occurs_ok(IntPtr self);
-            [DllImport(Library.Name, EntryPoint = "CSharp_SDKVersion_reset")] internal static extern void reset(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_SDKVersion_isnil_SDKVersion")] internal static extern int isnil_SDKVersion(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_SDKVersion_setnil_SDKVersion")] internal static extern void setnil_SDKVersion(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_SDKVersion_get_SDKVersion")] [return: MarshalAs(UnmanagedType.BStr)] internal static extern string get_SDKVersion(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_SDKVersion_set_SDKVersion")] internal static extern int set_SDKVersion(IntPtr self, [MarshalAs(UnmanagedType.LPWStr)] string value);
+            [DllImport(Library.Name, EntryPoint = "CSharp_SDKVersion_is_occurs_ok")] internal static extern int is_occurs_ok(IntPtr self);
+            [DllImport(Library.Name, EntryPoint = "CSharp_SDKVersion_reset")] internal static extern void reset(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_new_SDKVersion__SWIG_0")] internal static extern IntPtr New();
             [DllImport(Library.Name, EntryPoint = "CSharp_delete_SDKVersion")] internal static extern void Delete(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_new_SDKVersion__SWIG_1")] internal static extern IntPtr Copy(IntPtr source);
             internal static Handle Make() => Handle.New(() => New(), p => Delete(p));
             internal static Handle Make(IntPtr source) => Handle.New(() => Copy(source), p => Delete(p));
+        }
+
+        static class Parts
+        {
+            static ClassCalls madeClass;
+            internal static ClassCalls Class => madeClass != null ? madeClass : madeClass = new ClassCalls { IsComplete = Native.is_occurs_ok, Reset = Native.reset };
         }
     }
 
@@ -30,10 +36,10 @@ namespace Vyr
     {
         static class Native
         {
-            [DllImport(Library.Name, EntryPoint = "CSharp_SDKType_is_occurs_ok")] internal static extern int is_occurs_ok(IntPtr self);
-            [DllImport(Library.Name, EntryPoint = "CSharp_SDKType_reset")] internal static extern void reset(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_SDKType_get_SDKName")] [return: MarshalAs(UnmanagedType.BStr)] internal static extern string get_SDKName(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_SDKType_set_SDKName")] internal static extern int set_SDKName(IntPtr self, [MarshalAs(UnmanagedType.LPWStr)] string value);
+            [DllImport(Library.Name, EntryPoint = "CSharp_SDKType_is_occurs_ok")] internal static extern int is_occurs_ok(IntPtr self);
+            [DllImport(Library.Name, EntryPoint = "CSharp_SDKType_reset")] internal static extern void reset(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_SDKType_get_SDKVersion__SWIG_0")] internal static extern IntPtr get_SDKVersion(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_SDKType_assign_SDKVersion")] internal static extern IntPtr assign_SDKVersion(IntPtr self, IntPtr value);
             [DllImport(Library.Name, EntryPoint = "CSharp_new_SDKType__SWIG_0")] internal static extern IntPtr New();
@@ -45,6 +51,8 @@ namespace Vyr
 
         static class Parts
         {
+            static ClassCalls madeClass;
+            internal static ClassCalls Class => madeClass != null ? madeClass : madeClass = new ClassCalls { IsComplete = Native.is_occurs_ok, Reset = Native.reset };
             static IntPtr madeSDKVersionItem;
             internal static IntPtr SDKVersionItem => madeSDKVersionItem != IntPtr.Zero ? madeSDKVersionItem : madeSDKVersionItem = Library.Item("SDKType", "SDKVersion");
             static PartCalls madeSDKVersion;
@@ -56,17 +64,23 @@ namespace Vyr
     {
         static class Native
         {
-            [DllImport(Library.Name, EntryPoint = "CSharp_PlatformType_is_occurs_ok")] internal static extern int is_occurs_ok(IntPtr self);
-            [DllImport(Library.Name, EntryPoint = "CSharp_PlatformType_reset")] internal static extern void reset(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_PlatformType_get_OperatingSystem")] [return: MarshalAs(UnmanagedType.BStr)] internal static extern string get_OperatingSystem(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_PlatformType_set_OperatingSystem")] internal static extern int set_OperatingSystem(IntPtr self, [MarshalAs(UnmanagedType.LPWStr)] string value);
             [DllImport(Library.Name, EntryPoint = "CSharp_PlatformType_get_OperatingSystemVersion")] [return: MarshalAs(UnmanagedType.BStr)] internal static extern string get_OperatingSystemVersion(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_PlatformType_set_OperatingSystemVersion")] internal static extern int set_OperatingSystemVersion(IntPtr self, [MarshalAs(UnmanagedType.LPWStr)] string value);
+            [DllImport(Library.Name, EntryPoint = "CSharp_PlatformType_is_occurs_ok")] internal static extern int is_occurs_ok(IntPtr self);
+            [DllImport(Library.Name, EntryPoint = "CSharp_PlatformType_reset")] internal static extern void reset(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_new_PlatformType__SWIG_0")] internal static extern IntPtr New();
             [DllImport(Library.Name, EntryPoint = "CSharp_delete_PlatformType")] internal static extern void Delete(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_new_PlatformType__SWIG_1")] internal static extern IntPtr Copy(IntPtr source);
             internal static Handle Make() => Handle.New(() => New(), p => Delete(p));
             internal static Handle Make(IntPtr source) => Handle.New(() => Copy(source), p => Delete(p));
+        }
+
+        static class Parts
+        {
+            static ClassCalls madeClass;
+            internal static ClassCalls Class => madeClass != null ? madeClass : madeClass = new ClassCalls { IsComplete = Native.is_occurs_ok, Reset = Native.reset };
         }
     }
 
@@ -74,8 +88,6 @@ namespace Vyr
     {
         static class Native
         {
-            [DllImport(Library.Name, EntryPoint = "CSharp_Header_is_occurs_ok")] internal static extern int is_occurs_ok(IntPtr self);
-            [DllImport(Library.Name, EntryPoint = "CSharp_Header_reset")] internal static extern void reset(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_Header_get_Creator")] [return: MarshalAs(UnmanagedType.BStr)] internal static extern string get_Creator(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_Header_set_Creator")] internal static extern int set_Creator(IntPtr self, [MarshalAs(UnmanagedType.LPWStr)] string value);
             [DllImport(Library.Name, EntryPoint = "CSharp_Header_get_CreatorVersion")] [return: MarshalAs(UnmanagedType.BStr)] internal static extern string get_CreatorVersion(IntPtr self);
@@ -88,6 +100,8 @@ namespace Vyr
             [DllImport(Library.Name, EntryPoint = "CSharp_Header_isset_Comments")] internal static extern int isset_Comments(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_Header_get_Comments")] [return: MarshalAs(UnmanagedType.BStr)] internal static extern string get_Comments(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_Header_set_Comments")] internal static extern int set_Comments(IntPtr self, [MarshalAs(UnmanagedType.LPWStr)] string value);
+            [DllImport(Library.Name, EntryPoint = "CSharp_Header_is_occurs_ok")] internal static extern int is_occurs_ok(IntPtr self);
+            [DllImport(Library.Name, EntryPoint = "CSharp_Header_reset")] internal static extern void reset(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_Header_size_CustomAttribute")] internal static extern uint size_CustomAttribute(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_Header_get_CustomAttribute__SWIG_0")] internal static extern IntPtr get_CustomAttribute(IntPtr self, uint index);
             [DllImport(Library.Name, EntryPoint = "CSharp_Header_assign_CustomAttribute")] internal static extern IntPtr assign_CustomAttribute(IntPtr self, uint index, IntPtr value);
@@ -133,6 +147,8 @@ namespace Vyr
 
         static class Parts
         {
+            static ClassCalls madeClass;
+            internal static ClassCalls Class => madeClass != null ? madeClass : madeClass = new ClassCalls { IsComplete = Native.is_occurs_ok, Reset = Native.reset };
             static ObjectListCalls<CustomAttributeType> madeCustomAttribute;
             internal static ObjectListCalls<CustomAttributeType> CustomAttribute => madeCustomAttribute != null ? madeCustomAttribute : madeCustomAttribute = new ObjectListCalls<CustomAttributeType> { Make = h => new CustomAttributeType(h), Size = Native.size_CustomAttribute, Get = Native.get_CustomAttribute, Assign = Native.assign_CustomAttribute, Append = Native.append_CustomAttribute, Insert = Native.insert_CustomAttribute, Delete = Native.delete_CustomAttribute, Clear = Native.clear_CustomAttribute };
             static ValueListCalls<IntPtr> madeChangeHistory;
@@ -199,6 +215,8 @@ namespace Vyr
 
         static class Parts
         {
+            static ClassCalls madeClass;
+            internal static ClassCalls Class => madeClass != null ? madeClass : madeClass = new ClassCalls { IsComplete = Native.is_occurs_ok, Reset = Native.reset };
             static ObjectListCalls<CustomAttributeType> madeCustomAttribute;
             internal static ObjectListCalls<CustomAttributeType> CustomAttribute => madeCustomAttribute != null ? madeCustomAttribute : madeCustomAttribute = new ObjectListCalls<CustomAttributeType> { Make = h => new CustomAttributeType(h), Size = Native.size_CustomAttribute, Get = Native.get_CustomAttribute, Assign = Native.assign_CustomAttribute, Append = Native.append_CustomAttribute, Insert = Native.insert_CustomAttribute, Delete = Native.delete_CustomAttribute, Clear = Native.clear_CustomAttribute };
             static ObjectListCalls<Person> madePerson;
@@ -214,10 +232,10 @@ namespace Vyr
     {
         static class Native
         {
-            [DllImport(Library.Name, EntryPoint = "CSharp_Version_is_occurs_ok")] internal static extern int is_occurs_ok(IntPtr self);
-            [DllImport(Library.Name, EntryPoint = "CSharp_Version_reset")] internal static extern void reset(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_Version_get_Version")] [return: MarshalAs(UnmanagedType.BStr)] internal static extern string get_Version(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_Version_set_Version")] internal static extern int set_Version(IntPtr self, [MarshalAs(UnmanagedType.LPWStr)] string value);
+            [DllImport(Library.Name, EntryPoint = "CSharp_Version_is_occurs_ok")] internal static extern int is_occurs_ok(IntPtr self);
+            [DllImport(Library.Name, EntryPoint = "CSharp_Version_reset")] internal static extern void reset(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_Version_size_CustomAttribute")] internal static extern uint size_CustomAttribute(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_Version_get_CustomAttribute__SWIG_0")] internal static extern IntPtr get_CustomAttribute(IntPtr self, uint index);
             [DllImport(Library.Name, EntryPoint = "CSharp_Version_assign_CustomAttribute")] internal static extern IntPtr assign_CustomAttribute(IntPtr self, uint index, IntPtr value);
@@ -240,6 +258,8 @@ namespace Vyr
 
         static class Parts
         {
+            static ClassCalls madeClass;
+            internal static ClassCalls Class => madeClass != null ? madeClass : madeClass = new ClassCalls { IsComplete = Native.is_occurs_ok, Reset = Native.reset };
             static ObjectListCalls<CustomAttributeType> madeCustomAttribute;
             internal static ObjectListCalls<CustomAttributeType> CustomAttribute => madeCustomAttribute != null ? madeCustomAttribute : madeCustomAttribute = new ObjectListCalls<CustomAttributeType> { Make = h => new CustomAttributeType(h), Size = Native.size_CustomAttribute, Get = Native.get_CustomAttribute, Assign = Native.assign_CustomAttribute, Append = Native.append_CustomAttribute, Insert = Native.insert_CustomAttribute, Delete = Native.delete_CustomAttribute, Clear = Native.clear_CustomAttribute };
             static ValueListCalls<string> madePredecessor;
@@ -270,6 +290,8 @@ namespace Vyr
 
         static class Parts
         {
+            static ClassCalls madeClass;
+            internal static ClassCalls Class => madeClass != null ? madeClass : madeClass = new ClassCalls { IsComplete = Native.is_occurs_ok, Reset = Native.reset };
             static IntPtr madeHeaderItem;
             internal static IntPtr HeaderItem => madeHeaderItem != IntPtr.Zero ? madeHeaderItem : madeHeaderItem = Library.Item("Preamble", "Header");
             static PartCalls madeHeader;
@@ -323,6 +345,8 @@ namespace Vyr
 
         static class Parts
         {
+            static ClassCalls madeClass;
+            internal static ClassCalls Class => madeClass != null ? madeClass : madeClass = new ClassCalls { IsComplete = Native.is_occurs_ok, Reset = Native.reset };
             static IntPtr madePreambleItem;
             internal static IntPtr PreambleItem => madePreambleItem != IntPtr.Zero ? madePreambleItem : madePreambleItem = Library.Item("Vyr", "Preamble");
             static PartCalls madePreamble;
@@ -356,6 +380,8 @@ namespace Vyr
 
         static class Parts
         {
+            static ClassCalls madeClass;
+            internal static ClassCalls Class => madeClass != null ? madeClass : madeClass = new ClassCalls { IsComplete = Native.is_occurs_ok, Reset = Native.reset };
             static IntPtr madeanyItem;
             internal static IntPtr anyItem => madeanyItem != IntPtr.Zero ? madeanyItem : madeanyItem = Library.Item("Revision", "any");
             static MarkupListCalls madeany;
@@ -367,13 +393,13 @@ namespace Vyr
     {
         static class Native
         {
-            [DllImport(Library.Name, EntryPoint = "CSharp_Person_is_occurs_ok")] internal static extern int is_occurs_ok(IntPtr self);
-            [DllImport(Library.Name, EntryPoint = "CSharp_Person_reset")] internal static extern void reset(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_Person_get_Name")] [return: MarshalAs(UnmanagedType.BStr)] internal static extern string get_Name(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_Person_set_Name")] internal static extern int set_Name(IntPtr self, [MarshalAs(UnmanagedType.LPWStr)] string value);
             [DllImport(Library.Name, EntryPoint = "CSharp_Person_isset_ContactInfo")] internal static extern int isset_ContactInfo(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_Person_get_ContactInfo")] [return: MarshalAs(UnmanagedType.BStr)] internal static extern string get_ContactInfo(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_Person_set_ContactInfo")] internal static extern int set_ContactInfo(IntPtr self, [MarshalAs(UnmanagedType.LPWStr)] string value);
+            [DllImport(Library.Name, EntryPoint = "CSharp_Person_is_occurs_ok")] internal static extern int is_occurs_ok(IntPtr self);
+            [DllImport(Library.Name, EntryPoint = "CSharp_Person_reset")] internal static extern void reset(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_new_Person__SWIG_0")] internal static extern IntPtr New();
             [DllImport(Library.Name, EntryPoint = "CSharp_delete_Person")] internal static extern void Delete(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_new_Person__SWIG_1")] internal static extern IntPtr Copy(IntPtr source);
@@ -382,14 +408,18 @@ namespace Vyr
             internal static Handle Make(IntPtr source) => Handle.New(() => Copy(source), p => Delete(p));
             internal static int UnsetContactInfo(IntPtr self) { unset_ContactInfo(self); return 0; }
         }
+
+        static class Parts
+        {
+            static ClassCalls madeClass;
+            internal static ClassCalls Class => madeClass != null ? madeClass : madeClass = new ClassCalls { IsComplete = Native.is_occurs_ok, Reset = Native.reset };
+        }
     }
 
     public partial class CustomAttributeType_ValueChoice
     {
         static class Native
         {
-            [DllImport(Library.Name, EntryPoint = "CSharp_CustomAttributeType_ValueChoice_is_occurs_ok")] internal static extern int is_occurs_ok(IntPtr self);
-            [DllImport(Library.Name, EntryPoint = "CSharp_CustomAttributeType_ValueChoice_reset")] internal static extern void reset(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_CustomAttributeType_ValueChoice_getchosen")] internal static extern int getchosen(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_CustomAttributeType_ValueChoice_get_DoubleValue")] internal static extern double get_DoubleValue(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_CustomAttributeType_ValueChoice_set_DoubleValue")] internal static extern int set_DoubleValue(IntPtr self, double value);
@@ -397,11 +427,19 @@ namespace Vyr
             [DllImport(Library.Name, EntryPoint = "CSharp_CustomAttributeType_ValueChoice_set_IntegerValue")] internal static extern int set_IntegerValue(IntPtr self, int value);
             [DllImport(Library.Name, EntryPoint = "CSharp_CustomAttributeType_ValueChoice_get_StringValue")] [return: MarshalAs(UnmanagedType.BStr)] internal static extern string get_StringValue(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_CustomAttributeType_ValueChoice_set_StringValue")] internal static extern int set_StringValue(IntPtr self, [MarshalAs(UnmanagedType.LPWStr)] string value);
+            [DllImport(Library.Name, EntryPoint = "CSharp_CustomAttributeType_ValueChoice_is_occurs_ok")] internal static extern int is_occurs_ok(IntPtr self);
+            [DllImport(Library.Name, EntryPoint = "CSharp_CustomAttributeType_ValueChoice_reset")] internal static extern void reset(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_new_CustomAttributeType_ValueChoice__SWIG_0")] internal static extern IntPtr New();
             [DllImport(Library.Name, EntryPoint = "CSharp_delete_CustomAttributeType_ValueChoice")] internal static extern void Delete(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_new_CustomAttributeType_ValueChoice__SWIG_1")] internal static extern IntPtr Copy(IntPtr source);
             internal static Handle Make() => Handle.New(() => New(), p => Delete(p));
             internal static Handle Make(IntPtr source) => Handle.New(() => Copy(source), p => Delete(p));
+        }
+
+        static class Parts
+        {
+            static ClassCalls madeClass;
+            internal static ClassCalls Class => madeClass != null ? madeClass : madeClass = new ClassCalls { IsComplete = Native.is_occurs_ok, Reset = Native.reset };
         }
     }
 
@@ -409,10 +447,10 @@ namespace Vyr
     {
         static class Native
         {
-            [DllImport(Library.Name, EntryPoint = "CSharp_CustomAttributeType_is_occurs_ok")] internal static extern int is_occurs_ok(IntPtr self);
-            [DllImport(Library.Name, EntryPoint = "CSharp_CustomAttributeType_reset")] internal static extern void reset(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_CustomAttributeType_get_Name")] [return: MarshalAs(UnmanagedType.BStr)] internal static extern string get_Name(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_CustomAttributeType_set_Name")] internal static extern int set_Name(IntPtr self, [MarshalAs(UnmanagedType.LPWStr)] string value);
+            [DllImport(Library.Name, EntryPoint = "CSharp_CustomAttributeType_is_occurs_ok")] internal static extern int is_occurs_ok(IntPtr self);
+            [DllImport(Library.Name, EntryPoint = "CSharp_CustomAttributeType_reset")] internal static extern void reset(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_CustomAttributeType_get_ValueChoice__SWIG_0")] internal static extern IntPtr get_ValueChoice(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_CustomAttributeType_assign_ValueChoice")] internal static extern IntPtr assign_ValueChoice(IntPtr self, IntPtr value);
             [DllImport(Library.Name, EntryPoint = "CSharp_new_CustomAttributeType__SWIG_0")] internal static extern IntPtr New();
@@ -424,6 +462,8 @@ namespace Vyr
 
         static class Parts
         {
+            static ClassCalls madeClass;
+            internal static ClassCalls Class => madeClass != null ? madeClass : madeClass = new ClassCalls { IsComplete = Native.is_occurs_ok, Reset = Native.reset };
             static IntPtr madeValueChoiceItem;
             internal static IntPtr ValueChoiceItem => madeValueChoiceItem != IntPtr.Zero ? madeValueChoiceItem : madeValueChoiceItem = Library.Item("CustomAttributeType", "ValueChoice");
             static PartCalls madeValueChoice;
@@ -435,14 +475,14 @@ namespace Vyr
     {
         static class Native
         {
-            [DllImport(Library.Name, EntryPoint = "CSharp_TagCategory_is_occurs_ok")] internal static extern int is_occurs_ok(IntPtr self);
-            [DllImport(Library.Name, EntryPoint = "CSharp_TagCategory_reset")] internal static extern void reset(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_TagCategory_isset_UniqueID")] internal static extern int isset_UniqueID(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_TagCategory_get_UniqueID")] [return: MarshalAs(UnmanagedType.BStr)] internal static extern string get_UniqueID(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_TagCategory_set_UniqueID")] internal static extern int set_UniqueID(IntPtr self, [MarshalAs(UnmanagedType.LPWStr)] string value);
             [DllImport(Library.Name, EntryPoint = "CSharp_TagCategory_isset_Name")] internal static extern int isset_Name(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_TagCategory_get_Name")] [return: MarshalAs(UnmanagedType.BStr)] internal static extern string get_Name(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_TagCategory_set_Name")] internal static extern int set_Name(IntPtr self, [MarshalAs(UnmanagedType.LPWStr)] string value);
+            [DllImport(Library.Name, EntryPoint = "CSharp_TagCategory_is_occurs_ok")] internal static extern int is_occurs_ok(IntPtr self);
+            [DllImport(Library.Name, EntryPoint = "CSharp_TagCategory_reset")] internal static extern void reset(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_new_TagCategory__SWIG_0")] internal static extern IntPtr New();
             [DllImport(Library.Name, EntryPoint = "CSharp_delete_TagCategory")] internal static extern void Delete(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_new_TagCategory__SWIG_1")] internal static extern IntPtr Copy(IntPtr source);
@@ -453,20 +493,26 @@ namespace Vyr
             internal static int UnsetUniqueID(IntPtr self) { unset_UniqueID(self); return 0; }
             internal static int UnsetName(IntPtr self) { unset_Name(self); return 0; }
         }
+
+        static class Parts
+        {
+            static ClassCalls madeClass;
+            internal static ClassCalls Class => madeClass != null ? madeClass : madeClass = new ClassCalls { IsComplete = Native.is_occurs_ok, Reset = Native.reset };
+        }
     }
 
     public partial class Tag
     {
         static class Native
         {
-            [DllImport(Library.Name, EntryPoint = "CSharp_Tag_is_occurs_ok")] internal static extern int is_occurs_ok(IntPtr self);
-            [DllImport(Library.Name, EntryPoint = "CSharp_Tag_reset")] internal static extern void reset(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_Tag_isset_Name")] internal static extern int isset_Name(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_Tag_get_Name")] [return: MarshalAs(UnmanagedType.BStr)] internal static extern string get_Name(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_Tag_set_Name")] internal static extern int set_Name(IntPtr self, [MarshalAs(UnmanagedType.LPWStr)] string value);
             [DllImport(Library.Name, EntryPoint = "CSharp_Tag_isset_UniqueID")] internal static extern int isset_UniqueID(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_Tag_get_UniqueID")] [return: MarshalAs(UnmanagedType.BStr)] internal static extern string get_UniqueID(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_Tag_set_UniqueID")] internal static extern int set_UniqueID(IntPtr self, [MarshalAs(UnmanagedType.LPWStr)] string value);
+            [DllImport(Library.Name, EntryPoint = "CSharp_Tag_is_occurs_ok")] internal static extern int is_occurs_ok(IntPtr self);
+            [DllImport(Library.Name, EntryPoint = "CSharp_Tag_reset")] internal static extern void reset(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_Tag_get_Category__SWIG_0")] internal static extern IntPtr get_Category(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_Tag_assign_Category")] internal static extern IntPtr assign_Category(IntPtr self, IntPtr value);
             [DllImport(Library.Name, EntryPoint = "CSharp_new_Tag__SWIG_0")] internal static extern IntPtr New();
@@ -482,6 +528,8 @@ namespace Vyr
 
         static class Parts
         {
+            static ClassCalls madeClass;
+            internal static ClassCalls Class => madeClass != null ? madeClass : madeClass = new ClassCalls { IsComplete = Native.is_occurs_ok, Reset = Native.reset };
             static IntPtr madeCategoryItem;
             internal static IntPtr CategoryItem => madeCategoryItem != IntPtr.Zero ? madeCategoryItem : madeCategoryItem = Library.Item("Tag", "Category");
             static PartCalls madeCategory;
@@ -493,18 +541,24 @@ namespace Vyr
     {
         static class Native
         {
-            [DllImport(Library.Name, EntryPoint = "CSharp_anon_TextValue_is_occurs_ok")] internal static extern int is_occurs_ok(IntPtr self);
-            [DllImport(Library.Name, EntryPoint = "CSharp_anon_TextValue_reset")] internal static extern void reset(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_anon_TextValue_getchosen")] internal static extern int getchosen(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_anon_TextValue_get_TextValue")] [return: MarshalAs(UnmanagedType.BStr)] internal static extern string get_TextValue(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_anon_TextValue_set_TextValue")] internal static extern int set_TextValue(IntPtr self, [MarshalAs(UnmanagedType.LPWStr)] string value);
             [DllImport(Library.Name, EntryPoint = "CSharp_anon_TextValue_get_NumberValue")] internal static extern double get_NumberValue(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_anon_TextValue_set_NumberValue")] internal static extern int set_NumberValue(IntPtr self, double value);
+            [DllImport(Library.Name, EntryPoint = "CSharp_anon_TextValue_is_occurs_ok")] internal static extern int is_occurs_ok(IntPtr self);
+            [DllImport(Library.Name, EntryPoint = "CSharp_anon_TextValue_reset")] internal static extern void reset(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_new_anon_TextValue__SWIG_0")] internal static extern IntPtr New();
             [DllImport(Library.Name, EntryPoint = "CSharp_delete_anon_TextValue")] internal static extern void Delete(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_new_anon_TextValue__SWIG_1")] internal static extern IntPtr Copy(IntPtr source);
             internal static Handle Make() => Handle.New(() => New(), p => Delete(p));
             internal static Handle Make(IntPtr source) => Handle.New(() => Copy(source), p => Delete(p));
+        }
+
+        static class Parts
+        {
+            static ClassCalls madeClass;
+            internal static ClassCalls Class => madeClass != null ? madeClass : madeClass = new ClassCalls { IsComplete = Native.is_occurs_ok, Reset = Native.reset };
         }
     }
 
@@ -512,11 +566,11 @@ namespace Vyr
     {
         static class Native
         {
-            [DllImport(Library.Name, EntryPoint = "CSharp_TagValue_is_occurs_ok")] internal static extern int is_occurs_ok(IntPtr self);
-            [DllImport(Library.Name, EntryPoint = "CSharp_TagValue_reset")] internal static extern void reset(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_TagValue_isset_UniqueID")] internal static extern int isset_UniqueID(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_TagValue_get_UniqueID")] [return: MarshalAs(UnmanagedType.BStr)] internal static extern string get_UniqueID(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_TagValue_set_UniqueID")] internal static extern int set_UniqueID(IntPtr self, [MarshalAs(UnmanagedType.LPWStr)] string value);
+            [DllImport(Library.Name, EntryPoint = "CSharp_TagValue_is_occurs_ok")] internal static extern int is_occurs_ok(IntPtr self);
+            [DllImport(Library.Name, EntryPoint = "CSharp_TagValue_reset")] internal static extern void reset(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_TagValue_get_Tag__SWIG_0")] internal static extern IntPtr get_Tag(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_TagValue_assign_Tag")] internal static extern IntPtr assign_Tag(IntPtr self, IntPtr value);
             [DllImport(Library.Name, EntryPoint = "CSharp_TagValue_get_anon_TextValue__SWIG_0")] internal static extern IntPtr get_anon_TextValue(IntPtr self);
@@ -532,6 +586,8 @@ namespace Vyr
 
         static class Parts
         {
+            static ClassCalls madeClass;
+            internal static ClassCalls Class => madeClass != null ? madeClass : madeClass = new ClassCalls { IsComplete = Native.is_occurs_ok, Reset = Native.reset };
             static IntPtr madeTagItem;
             internal static IntPtr TagItem => madeTagItem != IntPtr.Zero ? madeTagItem : madeTagItem = Library.Item("TagValue", "Tag");
             static PartCalls madeTag;

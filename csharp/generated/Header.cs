@@ -18,12 +18,7 @@ namespace Vyr
         /// <inheritdoc/>
         public new SDKVersion Clone() => (SDKVersion)Copy();
         internal override VyrObject Copy() => Copied(new SDKVersion(Native.Make(Pointer)));
-
-        /// <inheritdoc/>
-        public override bool IsComplete => Is(Native.is_occurs_ok(Pointer));
-
-        /// <inheritdoc/>
-        public override void Reset() { RemoveParts(); Native.reset(Pointer); Keep(); }
+        internal override ClassCalls Class => Parts.Class;
 
         /// <summary>True for an element that says that it has no value.</summary>
         public bool IsNil => Is(Native.isnil_SDKVersion(Pointer));
@@ -47,12 +42,7 @@ namespace Vyr
         /// <inheritdoc/>
         public new SDKType Clone() => (SDKType)Copy();
         internal override VyrObject Copy() => Copied(new SDKType(Native.Make(Pointer)));
-
-        /// <inheritdoc/>
-        public override bool IsComplete => Is(Native.is_occurs_ok(Pointer));
-
-        /// <inheritdoc/>
-        public override void Reset() { RemoveParts(); Native.reset(Pointer); Keep(); }
+        internal override ClassCalls Class => Parts.Class;
 
         /// <summary>Name of the library.</summary>
         public string SDKName { get => Kept(Native.get_SDKName(Pointer)); set => Demand(Native.set_SDKName(Pointer, Library.Whole(value))); }
@@ -75,12 +65,7 @@ namespace Vyr
         /// <inheritdoc/>
         public new PlatformType Clone() => (PlatformType)Copy();
         internal override VyrObject Copy() => Copied(new PlatformType(Native.Make(Pointer)));
-
-        /// <inheritdoc/>
-        public override bool IsComplete => Is(Native.is_occurs_ok(Pointer));
-
-        /// <inheritdoc/>
-        public override void Reset() { RemoveParts(); Native.reset(Pointer); Keep(); }
+        internal override ClassCalls Class => Parts.Class;
 
         /// <summary>Name of the operating system.</summary>
         public string OperatingSystem { get => Kept(Native.get_OperatingSystem(Pointer)); set => Demand(Native.set_OperatingSystem(Pointer, Library.Whole(value))); }
@@ -100,12 +85,7 @@ namespace Vyr
         /// <inheritdoc/>
         public new Header Clone() => (Header)Copy();
         internal override VyrObject Copy() => Copied(new Header(Native.Make(Pointer)));
-
-        /// <inheritdoc/>
-        public override bool IsComplete => Is(Native.is_occurs_ok(Pointer));
-
-        /// <inheritdoc/>
-        public override void Reset() { RemoveParts(); Native.reset(Pointer); Keep(); }
+        internal override ClassCalls Class => Parts.Class;
 
         /// <summary>A named value of the user's own.</summary>
         public ObjectList<CustomAttributeType> CustomAttributes => (ObjectList<CustomAttributeType>)(Part(0) ?? Remember(0, new ObjectList<CustomAttributeType>(this, "CustomAttributes", Parts.CustomAttribute)));
@@ -167,12 +147,7 @@ namespace Vyr
         /// <inheritdoc/>
         public new OwnerType Clone() => (OwnerType)Copy();
         internal override VyrObject Copy() => Copied(new OwnerType(Native.Make(Pointer)));
-
-        /// <inheritdoc/>
-        public override bool IsComplete => Is(Native.is_occurs_ok(Pointer));
-
-        /// <inheritdoc/>
-        public override void Reset() { RemoveParts(); Native.reset(Pointer); Keep(); }
+        internal override ClassCalls Class => Parts.Class;
 
         /// <summary>A named value of the user's own.</summary>
         public ObjectList<CustomAttributeType> CustomAttributes => (ObjectList<CustomAttributeType>)(Part(0) ?? Remember(0, new ObjectList<CustomAttributeType>(this, "CustomAttributes", Parts.CustomAttribute)));
@@ -198,12 +173,7 @@ namespace Vyr
         /// <inheritdoc/>
         public new Version Clone() => (Version)Copy();
         internal override VyrObject Copy() => Copied(new Version(Native.Make(Pointer)));
-
-        /// <inheritdoc/>
-        public override bool IsComplete => Is(Native.is_occurs_ok(Pointer));
-
-        /// <inheritdoc/>
-        public override void Reset() { RemoveParts(); Native.reset(Pointer); Keep(); }
+        internal override ClassCalls Class => Parts.Class;
 
         /// <summary>A named value of the user's own.</summary>
         public ObjectList<CustomAttributeType> CustomAttributes => (ObjectList<CustomAttributeType>)(Part(0) ?? Remember(0, new ObjectList<CustomAttributeType>(this, "CustomAttributes", Parts.CustomAttribute)));
@@ -226,12 +196,7 @@ namespace Vyr
         /// <inheritdoc/>
         public new Preamble Clone() => (Preamble)Copy();
         internal override VyrObject Copy() => Copied(new Preamble(Native.Make(Pointer)));
-
-        /// <inheritdoc/>
-        public override bool IsComplete => Is(Native.is_occurs_ok(Pointer));
-
-        /// <inheritdoc/>
-        public override void Reset() { RemoveParts(); Native.reset(Pointer); Keep(); }
+        internal override ClassCalls Class => Parts.Class;
 
         /// <summary>Provenance of the document. Null until set; assigning copies.</summary>
         public Header Header { get => (Header)Child(0, Parts.Header); set => AssignChild(0, Parts.Header, value); }
@@ -264,12 +229,7 @@ namespace Vyr
         /// <inheritdoc/>
         public new Document Clone() => (Document)Copy();
         internal override VyrObject Copy() => Copied(new Document(Native.Make(Pointer)));
-
-        /// <inheritdoc/>
-        public override bool IsComplete => Is(Native.is_occurs_ok(Pointer));
-
-        /// <inheritdoc/>
-        public override void Reset() { RemoveParts(); Native.reset(Pointer); Keep(); }
+        internal override ClassCalls Class => Parts.Class;
 
         /// <summary>Where the document comes from; the only part that every document has. Null until set; assigning
         /// copies.</summary>
@@ -299,12 +259,7 @@ namespace Vyr
         /// <inheritdoc/>
         public new Revision Clone() => (Revision)Copy();
         internal override VyrObject Copy() => Copied(new Revision(Native.Make(Pointer)));
-
-        /// <inheritdoc/>
-        public override bool IsComplete => Is(Native.is_occurs_ok(Pointer));
-
-        /// <inheritdoc/>
-        public override void Reset() { RemoveParts(); Native.reset(Pointer); Keep(); }
+        internal override ClassCalls Class => Parts.Class;
 
         /// <summary>One element with its tags, verbatim.</summary>
         public MarkupList Markup => ListOfMarkup(0, Parts.any);
@@ -321,12 +276,7 @@ namespace Vyr
         /// <inheritdoc/>
         public new Person Clone() => (Person)Copy();
         internal override VyrObject Copy() => Copied(new Person(Native.Make(Pointer)));
-
-        /// <inheritdoc/>
-        public override bool IsComplete => Is(Native.is_occurs_ok(Pointer));
-
-        /// <inheritdoc/>
-        public override void Reset() { RemoveParts(); Native.reset(Pointer); Keep(); }
+        internal override ClassCalls Class => Parts.Class;
 
         /// <summary>The person's name.</summary>
         public string Name { get => Kept(Native.get_Name(Pointer)); set => Demand(Native.set_Name(Pointer, Library.Whole(value))); }
@@ -346,12 +296,7 @@ namespace Vyr
         /// <inheritdoc/>
         public new CustomAttributeType_ValueChoice Clone() => (CustomAttributeType_ValueChoice)Copy();
         internal override VyrObject Copy() => Copied(new CustomAttributeType_ValueChoice(Native.Make(Pointer)));
-
-        /// <inheritdoc/>
-        public override bool IsComplete => Is(Native.is_occurs_ok(Pointer));
-
-        /// <inheritdoc/>
-        public override void Reset() { RemoveParts(); Native.reset(Pointer); Keep(); }
+        internal override ClassCalls Class => Parts.Class;
 
         /// <summary>Which alternative an object holds.</summary>
         public enum Alternative
@@ -399,12 +344,7 @@ namespace Vyr
         /// <inheritdoc/>
         public new CustomAttributeType Clone() => (CustomAttributeType)Copy();
         internal override VyrObject Copy() => Copied(new CustomAttributeType(Native.Make(Pointer)));
-
-        /// <inheritdoc/>
-        public override bool IsComplete => Is(Native.is_occurs_ok(Pointer));
-
-        /// <inheritdoc/>
-        public override void Reset() { RemoveParts(); Native.reset(Pointer); Keep(); }
+        internal override ClassCalls Class => Parts.Class;
 
         /// <summary>Name of the attribute; not empty.</summary>
         public string Name { get => Kept(Native.get_Name(Pointer)); set => Demand(Native.set_Name(Pointer, Library.Whole(value))); }
@@ -427,12 +367,7 @@ namespace Vyr
         /// <inheritdoc/>
         public new TagCategory Clone() => (TagCategory)Copy();
         internal override VyrObject Copy() => Copied(new TagCategory(Native.Make(Pointer)));
-
-        /// <inheritdoc/>
-        public override bool IsComplete => Is(Native.is_occurs_ok(Pointer));
-
-        /// <inheritdoc/>
-        public override void Reset() { RemoveParts(); Native.reset(Pointer); Keep(); }
+        internal override ClassCalls Class => Parts.Class;
 
         /// <summary>Identifier of the category, unique among categories. Null if not set.</summary>
         public string UniqueID { get => Is(Native.isset_UniqueID(Pointer)) ? Kept(Native.get_UniqueID(Pointer)) : null; set => Demand(value == null ? Native.UnsetUniqueID(Pointer) : Native.set_UniqueID(Pointer, Library.Whole(value))); }
@@ -452,12 +387,7 @@ namespace Vyr
         /// <inheritdoc/>
         public new Tag Clone() => (Tag)Copy();
         internal override VyrObject Copy() => Copied(new Tag(Native.Make(Pointer)));
-
-        /// <inheritdoc/>
-        public override bool IsComplete => Is(Native.is_occurs_ok(Pointer));
-
-        /// <inheritdoc/>
-        public override void Reset() { RemoveParts(); Native.reset(Pointer); Keep(); }
+        internal override ClassCalls Class => Parts.Class;
 
         /// <summary>Name of the tag. Null if not set.</summary>
         public string Name { get => Is(Native.isset_Name(Pointer)) ? Kept(Native.get_Name(Pointer)) : null; set => Demand(value == null ? Native.UnsetName(Pointer) : Native.set_Name(Pointer, Library.Whole(value))); }
@@ -484,12 +414,7 @@ namespace Vyr
         /// <inheritdoc/>
         public new TagValueChoice Clone() => (TagValueChoice)Copy();
         internal override VyrObject Copy() => Copied(new TagValueChoice(Native.Make(Pointer)));
-
-        /// <inheritdoc/>
-        public override bool IsComplete => Is(Native.is_occurs_ok(Pointer));
-
-        /// <inheritdoc/>
-        public override void Reset() { RemoveParts(); Native.reset(Pointer); Keep(); }
+        internal override ClassCalls Class => Parts.Class;
 
         /// <summary>Which alternative an object holds.</summary>
         public enum Alternative
@@ -529,12 +454,7 @@ namespace Vyr
         /// <inheritdoc/>
         public new TagValue Clone() => (TagValue)Copy();
         internal override VyrObject Copy() => Copied(new TagValue(Native.Make(Pointer)));
-
-        /// <inheritdoc/>
-        public override bool IsComplete => Is(Native.is_occurs_ok(Pointer));
-
-        /// <inheritdoc/>
-        public override void Reset() { RemoveParts(); Native.reset(Pointer); Keep(); }
+        internal override ClassCalls Class => Parts.Class;
 
         /// <summary>Identifier of this value. Null if not set.</summary>
         public string UniqueID { get => Is(Native.isset_UniqueID(Pointer)) ? Kept(Native.get_UniqueID(Pointer)) : null; set => Demand(value == null ? Native.UnsetUniqueID(Pointer) : Native.set_UniqueID(Pointer, Library.Whole(value))); }

@@ -41,6 +41,8 @@ namespace Vyr
 
         static class Parts
         {
+            static ClassCalls madeClass;
+            internal static ClassCalls Class => madeClass != null ? madeClass : madeClass = new ClassCalls { IsComplete = Native.is_occurs_ok, Reset = Native.reset };
             static IntPtr madeColorSpaceSpecificationSpectrumGenericItem;
             internal static IntPtr ColorSpaceSpecificationSpectrumGenericItem => madeColorSpaceSpecificationSpectrumGenericItem != IntPtr.Zero ? madeColorSpaceSpecificationSpectrumGenericItem : madeColorSpaceSpecificationSpectrumGenericItem = Library.Item("CollectionColorSpaceSpecificationType", "ColorSpaceSpecificationSpectrumGeneric");
             static PartCalls madeColorSpaceSpecificationSpectrumGeneric;
@@ -72,8 +74,6 @@ namespace Vyr
     {
         static class Native
         {
-            [DllImport(Library.Name, EntryPoint = "CSharp_PaletteType_is_occurs_ok")] internal static extern int is_occurs_ok(IntPtr self);
-            [DllImport(Library.Name, EntryPoint = "CSharp_PaletteType_reset")] internal static extern void reset(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_PaletteType_get_PaletteName")] [return: MarshalAs(UnmanagedType.BStr)] internal static extern string get_PaletteName(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_PaletteType_set_PaletteName")] internal static extern int set_PaletteName(IntPtr self, [MarshalAs(UnmanagedType.LPWStr)] string value);
             [DllImport(Library.Name, EntryPoint = "CSharp_PaletteType_isset_PalettePartNumber")] internal static extern int isset_PalettePartNumber(IntPtr self);
@@ -88,6 +88,8 @@ namespace Vyr
             [DllImport(Library.Name, EntryPoint = "CSharp_PaletteType_isset_Comments")] internal static extern int isset_Comments(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_PaletteType_get_Comments")] [return: MarshalAs(UnmanagedType.BStr)] internal static extern string get_Comments(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_PaletteType_set_Comments")] internal static extern int set_Comments(IntPtr self, [MarshalAs(UnmanagedType.LPWStr)] string value);
+            [DllImport(Library.Name, EntryPoint = "CSharp_PaletteType_is_occurs_ok")] internal static extern int is_occurs_ok(IntPtr self);
+            [DllImport(Library.Name, EntryPoint = "CSharp_PaletteType_reset")] internal static extern void reset(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_PaletteType_size_CustomAttribute")] internal static extern uint size_CustomAttribute(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_PaletteType_get_CustomAttribute__SWIG_0")] internal static extern IntPtr get_CustomAttribute(IntPtr self, uint index);
             [DllImport(Library.Name, EntryPoint = "CSharp_PaletteType_assign_CustomAttribute")] internal static extern IntPtr assign_CustomAttribute(IntPtr self, uint index, IntPtr value);
@@ -137,6 +139,8 @@ namespace Vyr
 
         static class Parts
         {
+            static ClassCalls madeClass;
+            internal static ClassCalls Class => madeClass != null ? madeClass : madeClass = new ClassCalls { IsComplete = Native.is_occurs_ok, Reset = Native.reset };
             static ObjectListCalls<CustomAttributeType> madeCustomAttribute;
             internal static ObjectListCalls<CustomAttributeType> CustomAttribute => madeCustomAttribute != null ? madeCustomAttribute : madeCustomAttribute = new ObjectListCalls<CustomAttributeType> { Make = h => new CustomAttributeType(h), Size = Native.size_CustomAttribute, Get = Native.get_CustomAttribute, Assign = Native.assign_CustomAttribute, Append = Native.append_CustomAttribute, Insert = Native.insert_CustomAttribute, Delete = Native.delete_CustomAttribute, Clear = Native.clear_CustomAttribute };
             static ValueListCalls<IntPtr> madeChangeHistory;
@@ -160,8 +164,6 @@ namespace Vyr
     {
         static class Native
         {
-            [DllImport(Library.Name, EntryPoint = "CSharp_ColorSetType_is_occurs_ok")] internal static extern int is_occurs_ok(IntPtr self);
-            [DllImport(Library.Name, EntryPoint = "CSharp_ColorSetType_reset")] internal static extern void reset(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_ColorSetType_get_ColorSetName")] [return: MarshalAs(UnmanagedType.BStr)] internal static extern string get_ColorSetName(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_ColorSetType_set_ColorSetName")] internal static extern int set_ColorSetName(IntPtr self, [MarshalAs(UnmanagedType.LPWStr)] string value);
             [DllImport(Library.Name, EntryPoint = "CSharp_ColorSetType_isset_UniqueID")] internal static extern int isset_UniqueID(IntPtr self);
@@ -173,6 +175,8 @@ namespace Vyr
             [DllImport(Library.Name, EntryPoint = "CSharp_ColorSetType_isset_Comments")] internal static extern int isset_Comments(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_ColorSetType_get_Comments")] [return: MarshalAs(UnmanagedType.BStr)] internal static extern string get_Comments(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_ColorSetType_set_Comments")] internal static extern int set_Comments(IntPtr self, [MarshalAs(UnmanagedType.LPWStr)] string value);
+            [DllImport(Library.Name, EntryPoint = "CSharp_ColorSetType_is_occurs_ok")] internal static extern int is_occurs_ok(IntPtr self);
+            [DllImport(Library.Name, EntryPoint = "CSharp_ColorSetType_reset")] internal static extern void reset(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_ColorSetType_size_CustomAttribute")] internal static extern uint size_CustomAttribute(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_ColorSetType_get_CustomAttribute__SWIG_0")] internal static extern IntPtr get_CustomAttribute(IntPtr self, uint index);
             [DllImport(Library.Name, EntryPoint = "CSharp_ColorSetType_assign_CustomAttribute")] internal static extern IntPtr assign_CustomAttribute(IntPtr self, uint index, IntPtr value);
@@ -223,6 +227,8 @@ namespace Vyr
 
         static class Parts
         {
+            static ClassCalls madeClass;
+            internal static ClassCalls Class => madeClass != null ? madeClass : madeClass = new ClassCalls { IsComplete = Native.is_occurs_ok, Reset = Native.reset };
             static ObjectListCalls<CustomAttributeType> madeCustomAttribute;
             internal static ObjectListCalls<CustomAttributeType> CustomAttribute => madeCustomAttribute != null ? madeCustomAttribute : madeCustomAttribute = new ObjectListCalls<CustomAttributeType> { Make = h => new CustomAttributeType(h), Size = Native.size_CustomAttribute, Get = Native.get_CustomAttribute, Assign = Native.assign_CustomAttribute, Append = Native.append_CustomAttribute, Insert = Native.insert_CustomAttribute, Delete = Native.delete_CustomAttribute, Clear = Native.clear_CustomAttribute };
             static ValueListCalls<IntPtr> madeChangeHistory;
@@ -250,8 +256,6 @@ namespace Vyr
     {
         static class Native
         {
-            [DllImport(Library.Name, EntryPoint = "CSharp_ColorType_is_occurs_ok")] internal static extern int is_occurs_ok(IntPtr self);
-            [DllImport(Library.Name, EntryPoint = "CSharp_ColorType_reset")] internal static extern void reset(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_ColorType_get_ColorName")] [return: MarshalAs(UnmanagedType.BStr)] internal static extern string get_ColorName(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_ColorType_set_ColorName")] internal static extern int set_ColorName(IntPtr self, [MarshalAs(UnmanagedType.LPWStr)] string value);
             [DllImport(Library.Name, EntryPoint = "CSharp_ColorType_isset_UniqueID")] internal static extern int isset_UniqueID(IntPtr self);
@@ -263,6 +267,8 @@ namespace Vyr
             [DllImport(Library.Name, EntryPoint = "CSharp_ColorType_isset_Comments")] internal static extern int isset_Comments(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_ColorType_get_Comments")] [return: MarshalAs(UnmanagedType.BStr)] internal static extern string get_Comments(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_ColorType_set_Comments")] internal static extern int set_Comments(IntPtr self, [MarshalAs(UnmanagedType.LPWStr)] string value);
+            [DllImport(Library.Name, EntryPoint = "CSharp_ColorType_is_occurs_ok")] internal static extern int is_occurs_ok(IntPtr self);
+            [DllImport(Library.Name, EntryPoint = "CSharp_ColorType_reset")] internal static extern void reset(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_ColorType_size_CustomAttribute")] internal static extern uint size_CustomAttribute(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_ColorType_get_CustomAttribute__SWIG_0")] internal static extern IntPtr get_CustomAttribute(IntPtr self, uint index);
             [DllImport(Library.Name, EntryPoint = "CSharp_ColorType_assign_CustomAttribute")] internal static extern IntPtr assign_CustomAttribute(IntPtr self, uint index, IntPtr value);
@@ -317,6 +323,8 @@ namespace Vyr
 
         static class Parts
         {
+            static ClassCalls madeClass;
+            internal static ClassCalls Class => madeClass != null ? madeClass : madeClass = new ClassCalls { IsComplete = Native.is_occurs_ok, Reset = Native.reset };
             static ObjectListCalls<CustomAttributeType> madeCustomAttribute;
             internal static ObjectListCalls<CustomAttributeType> CustomAttribute => madeCustomAttribute != null ? madeCustomAttribute : madeCustomAttribute = new ObjectListCalls<CustomAttributeType> { Make = h => new CustomAttributeType(h), Size = Native.size_CustomAttribute, Get = Native.get_CustomAttribute, Assign = Native.assign_CustomAttribute, Append = Native.append_CustomAttribute, Insert = Native.insert_CustomAttribute, Delete = Native.delete_CustomAttribute, Clear = Native.clear_CustomAttribute };
             static ValueListCalls<IntPtr> madeChangeHistory;

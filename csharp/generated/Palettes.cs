@@ -18,12 +18,7 @@ namespace Vyr
         /// <inheritdoc/>
         public new CollectionColorSpaceSpecificationType Clone() => (CollectionColorSpaceSpecificationType)Copy();
         internal override VyrObject Copy() => Copied(new CollectionColorSpaceSpecificationType(Native.Make(Pointer)));
-
-        /// <inheritdoc/>
-        public override bool IsComplete => Is(Native.is_occurs_ok(Pointer));
-
-        /// <inheritdoc/>
-        public override void Reset() { RemoveParts(); Native.reset(Pointer); Keep(); }
+        internal override ClassCalls Class => Parts.Class;
 
         /// <summary>Default for reflective values without fixed conditions. Null until set; assigning
         /// copies.</summary>
@@ -74,12 +69,7 @@ namespace Vyr
         /// <inheritdoc/>
         public new PaletteType Clone() => (PaletteType)Copy();
         internal override VyrObject Copy() => Copied(new PaletteType(Native.Make(Pointer)));
-
-        /// <inheritdoc/>
-        public override bool IsComplete => Is(Native.is_occurs_ok(Pointer));
-
-        /// <inheritdoc/>
-        public override void Reset() { RemoveParts(); Native.reset(Pointer); Keep(); }
+        internal override ClassCalls Class => Parts.Class;
 
         /// <summary>Name of the palette.</summary>
         public string PaletteName { get => Kept(Native.get_PaletteName(Pointer)); set => Demand(Native.set_PaletteName(Pointer, Library.Whole(value))); }
@@ -132,12 +122,7 @@ namespace Vyr
         /// <inheritdoc/>
         public new ColorSetType Clone() => (ColorSetType)Copy();
         internal override VyrObject Copy() => Copied(new ColorSetType(Native.Make(Pointer)));
-
-        /// <inheritdoc/>
-        public override bool IsComplete => Is(Native.is_occurs_ok(Pointer));
-
-        /// <inheritdoc/>
-        public override void Reset() { RemoveParts(); Native.reset(Pointer); Keep(); }
+        internal override ClassCalls Class => Parts.Class;
 
         /// <summary>Name of the colour set.</summary>
         public string ColorSetName { get => Kept(Native.get_ColorSetName(Pointer)); set => Demand(Native.set_ColorSetName(Pointer, Library.Whole(value))); }
@@ -194,12 +179,7 @@ namespace Vyr
         /// <inheritdoc/>
         public new ColorType Clone() => (ColorType)Copy();
         internal override VyrObject Copy() => Copied(new ColorType(Native.Make(Pointer)));
-
-        /// <inheritdoc/>
-        public override bool IsComplete => Is(Native.is_occurs_ok(Pointer));
-
-        /// <inheritdoc/>
-        public override void Reset() { RemoveParts(); Native.reset(Pointer); Keep(); }
+        internal override ClassCalls Class => Parts.Class;
 
         /// <summary>Name of the colour.</summary>
         public string ColorName { get => Kept(Native.get_ColorName(Pointer)); set => Demand(Native.set_ColorName(Pointer, Library.Whole(value))); }
@@ -243,7 +223,7 @@ namespace Vyr
     }
 
     /// <summary>Default measuring conditions of a collection, standing alone.</summary>
-    public partial class CollectionColorSpaceSpecification : CollectionColorSpaceSpecificationType
+    public partial class CollectionColorSpaceSpecification : CollectionColorSpaceSpecificationType, IElement
     {
         /// <summary>A new object that stands on its own, with nothing set.</summary>
         public CollectionColorSpaceSpecification() : this(Native.Make()) { }
@@ -260,11 +240,5 @@ namespace Vyr
         /// <summary>The same without throwing for what is wrong with the file; null then, unless the options ask for
         /// what was read.</summary>
         public static LoadReport TryLoad(string path, out CollectionColorSpaceSpecification loaded, LoadOptions options = null) => Load(new CollectionColorSpaceSpecification(), path, options, out loaded);
-
-        /// <summary>Saves a file with this element as its root.</summary>
-        public void Save(string path) => TrySave(path).DemandSaved();
-
-        /// <summary>The same without throwing for what is wrong.</summary>
-        public LoadReport TrySave(string path) => SaveElement(path);
     }
 }

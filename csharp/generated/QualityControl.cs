@@ -18,12 +18,7 @@ namespace Vyr
         /// <inheritdoc/>
         public new LimitsType Clone() => (LimitsType)Copy();
         internal override VyrObject Copy() => Copied(new LimitsType(Native.Make(Pointer)));
-
-        /// <inheritdoc/>
-        public override bool IsComplete => Is(Native.is_occurs_ok(Pointer));
-
-        /// <inheritdoc/>
-        public override void Reset() { RemoveParts(); Native.reset(Pointer); Keep(); }
+        internal override ClassCalls Class => Parts.Class;
 
         /// <summary>A named value of the user's own.</summary>
         public ObjectList<CustomAttributeType> CustomAttributes => (ObjectList<CustomAttributeType>)(Part(0) ?? Remember(0, new ObjectList<CustomAttributeType>(this, "CustomAttributes", Parts.CustomAttribute)));
@@ -46,12 +41,7 @@ namespace Vyr
         /// <inheritdoc/>
         public new ToleranceType Clone() => (ToleranceType)Copy();
         internal override VyrObject Copy() => Copied(new ToleranceType(Native.Make(Pointer)));
-
-        /// <inheritdoc/>
-        public override bool IsComplete => Is(Native.is_occurs_ok(Pointer));
-
-        /// <inheritdoc/>
-        public override void Reset() { RemoveParts(); Native.reset(Pointer); Keep(); }
+        internal override ClassCalls Class => Parts.Class;
 
         /// <summary>Name of the tolerance. Null if not set.</summary>
         public string Name { get => Is(Native.isset_Name(Pointer)) ? Kept(Native.get_Name(Pointer)) : null; set => Demand(value == null ? Native.UnsetName(Pointer) : Native.set_Name(Pointer, Library.Whole(value))); }
@@ -110,12 +100,7 @@ namespace Vyr
         /// <inheritdoc/>
         public new Process Clone() => (Process)Copy();
         internal override VyrObject Copy() => Copied(new Process(Native.Make(Pointer)));
-
-        /// <inheritdoc/>
-        public override bool IsComplete => Is(Native.is_occurs_ok(Pointer));
-
-        /// <inheritdoc/>
-        public override void Reset() { RemoveParts(); Native.reset(Pointer); Keep(); }
+        internal override ClassCalls Class => Parts.Class;
 
         /// <summary>Name of the process; not empty.</summary>
         public string Name { get => Kept(Native.get_Name(Pointer)); set => Demand(Native.set_Name(Pointer, Library.Whole(value))); }
@@ -135,12 +120,7 @@ namespace Vyr
         /// <inheritdoc/>
         public new PhysicalSampleType Clone() => (PhysicalSampleType)Copy();
         internal override VyrObject Copy() => Copied(new PhysicalSampleType(Native.Make(Pointer)));
-
-        /// <inheritdoc/>
-        public override bool IsComplete => Is(Native.is_occurs_ok(Pointer));
-
-        /// <inheritdoc/>
-        public override void Reset() { RemoveParts(); Native.reset(Pointer); Keep(); }
+        internal override ClassCalls Class => Parts.Class;
 
         /// <summary>A named value of the user's own.</summary>
         public ObjectList<CustomAttributeType> CustomAttributes => (ObjectList<CustomAttributeType>)(Part(0) ?? Remember(0, new ObjectList<CustomAttributeType>(this, "CustomAttributes", Parts.CustomAttribute)));
@@ -172,12 +152,7 @@ namespace Vyr
         /// <inheritdoc/>
         public new ColorQualityControlType Clone() => (ColorQualityControlType)Copy();
         internal override VyrObject Copy() => Copied(new ColorQualityControlType(Native.Make(Pointer)));
-
-        /// <inheritdoc/>
-        public override bool IsComplete => Is(Native.is_occurs_ok(Pointer));
-
-        /// <inheritdoc/>
-        public override void Reset() { RemoveParts(); Native.reset(Pointer); Keep(); }
+        internal override ClassCalls Class => Parts.Class;
 
         /// <summary>Name of the record. Null if not set.</summary>
         public string Name { get => Is(Native.isset_Name(Pointer)) ? Kept(Native.get_Name(Pointer)) : null; set => Demand(value == null ? Native.UnsetName(Pointer) : Native.set_Name(Pointer, Library.Whole(value))); }
@@ -211,7 +186,7 @@ namespace Vyr
     }
 
     /// <summary>A measured colour, the device that measured it, and what was computed from it.</summary>
-    public partial class Measurement : VyrObject
+    public partial class Measurement : VyrObject, IElement
     {
         /// <summary>A new object that stands on its own, with nothing set.</summary>
         public Measurement() : this(Native.Make()) { }
@@ -221,12 +196,7 @@ namespace Vyr
         /// <inheritdoc/>
         public new Measurement Clone() => (Measurement)Copy();
         internal override VyrObject Copy() => Copied(new Measurement(Native.Make(Pointer)));
-
-        /// <inheritdoc/>
-        public override bool IsComplete => Is(Native.is_occurs_ok(Pointer));
-
-        /// <inheritdoc/>
-        public override void Reset() { RemoveParts(); Native.reset(Pointer); Keep(); }
+        internal override ClassCalls Class => Parts.Class;
 
         /// <summary>Loads a file that has the element Measurement as its root.</summary>
         public static Measurement Load(string path) { TryLoad(path, out Measurement loaded).DemandLoaded(path); return loaded; }
@@ -234,12 +204,6 @@ namespace Vyr
         /// <summary>The same without throwing for what is wrong with the file; null then, unless the options ask for
         /// what was read.</summary>
         public static LoadReport TryLoad(string path, out Measurement loaded, LoadOptions options = null) => Load(new Measurement(), path, options, out loaded);
-
-        /// <summary>Saves a file with this element as its root.</summary>
-        public void Save(string path) => TrySave(path).DemandSaved();
-
-        /// <summary>The same without throwing for what is wrong.</summary>
-        public LoadReport TrySave(string path) => SaveElement(path);
 
         /// <summary>A named value of the user's own.</summary>
         public ObjectList<CustomAttributeType> CustomAttributes => (ObjectList<CustomAttributeType>)(Part(0) ?? Remember(0, new ObjectList<CustomAttributeType>(this, "CustomAttributes", Parts.CustomAttribute)));
@@ -261,7 +225,7 @@ namespace Vyr
     }
 
     /// <summary>A target colour, the device that measured it, and the tolerances around it.</summary>
-    public partial class Standard : VyrObject
+    public partial class Standard : VyrObject, IElement
     {
         /// <summary>A new object that stands on its own, with nothing set.</summary>
         public Standard() : this(Native.Make()) { }
@@ -271,12 +235,7 @@ namespace Vyr
         /// <inheritdoc/>
         public new Standard Clone() => (Standard)Copy();
         internal override VyrObject Copy() => Copied(new Standard(Native.Make(Pointer)));
-
-        /// <inheritdoc/>
-        public override bool IsComplete => Is(Native.is_occurs_ok(Pointer));
-
-        /// <inheritdoc/>
-        public override void Reset() { RemoveParts(); Native.reset(Pointer); Keep(); }
+        internal override ClassCalls Class => Parts.Class;
 
         /// <summary>True for an element that says that it has no value.</summary>
         public bool IsNil => Is(Native.isnil_Standard(Pointer));
@@ -291,12 +250,6 @@ namespace Vyr
         /// <summary>The same without throwing for what is wrong with the file; null then, unless the options ask for
         /// what was read.</summary>
         public static LoadReport TryLoad(string path, out Standard loaded, LoadOptions options = null) => Load(new Standard(), path, options, out loaded);
-
-        /// <summary>Saves a file with this element as its root.</summary>
-        public void Save(string path) => TrySave(path).DemandSaved();
-
-        /// <summary>The same without throwing for what is wrong.</summary>
-        public LoadReport TrySave(string path) => SaveElement(path);
 
         /// <summary>A named value of the user's own.</summary>
         public ObjectList<CustomAttributeType> CustomAttributes => (ObjectList<CustomAttributeType>)(Part(0) ?? Remember(0, new ObjectList<CustomAttributeType>(this, "CustomAttributes", Parts.CustomAttribute)));
@@ -328,12 +281,7 @@ namespace Vyr
         /// <inheritdoc/>
         public new StandardAndMeasurementType Clone() => (StandardAndMeasurementType)Copy();
         internal override VyrObject Copy() => Copied(new StandardAndMeasurementType(Native.Make(Pointer)));
-
-        /// <inheritdoc/>
-        public override bool IsComplete => Is(Native.is_occurs_ok(Pointer));
-
-        /// <inheritdoc/>
-        public override void Reset() { RemoveParts(); Native.reset(Pointer); Keep(); }
+        internal override ClassCalls Class => Parts.Class;
 
         /// <summary>A named value of the user's own.</summary>
         public ObjectList<CustomAttributeType> CustomAttributes => (ObjectList<CustomAttributeType>)(Part(0) ?? Remember(0, new ObjectList<CustomAttributeType>(this, "CustomAttributes", Parts.CustomAttribute)));

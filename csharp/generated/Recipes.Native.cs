@@ -12,19 +12,25 @@ namespace Vyr
     {
         static class Native
         {
-            [DllImport(Library.Name, EntryPoint = "CSharp_ColorName_is_occurs_ok")] internal static extern int is_occurs_ok(IntPtr self);
-            [DllImport(Library.Name, EntryPoint = "CSharp_ColorName_reset")] internal static extern void reset(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_ColorName_get_PrefixName")] [return: MarshalAs(UnmanagedType.BStr)] internal static extern string get_PrefixName(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_ColorName_set_PrefixName")] internal static extern int set_PrefixName(IntPtr self, [MarshalAs(UnmanagedType.LPWStr)] string value);
             [DllImport(Library.Name, EntryPoint = "CSharp_ColorName_get_BaseName")] [return: MarshalAs(UnmanagedType.BStr)] internal static extern string get_BaseName(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_ColorName_set_BaseName")] internal static extern int set_BaseName(IntPtr self, [MarshalAs(UnmanagedType.LPWStr)] string value);
             [DllImport(Library.Name, EntryPoint = "CSharp_ColorName_get_SuffixName")] [return: MarshalAs(UnmanagedType.BStr)] internal static extern string get_SuffixName(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_ColorName_set_SuffixName")] internal static extern int set_SuffixName(IntPtr self, [MarshalAs(UnmanagedType.LPWStr)] string value);
+            [DllImport(Library.Name, EntryPoint = "CSharp_ColorName_is_occurs_ok")] internal static extern int is_occurs_ok(IntPtr self);
+            [DllImport(Library.Name, EntryPoint = "CSharp_ColorName_reset")] internal static extern void reset(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_new_ColorName__SWIG_0")] internal static extern IntPtr New();
             [DllImport(Library.Name, EntryPoint = "CSharp_delete_ColorName")] internal static extern void Delete(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_new_ColorName__SWIG_1")] internal static extern IntPtr Copy(IntPtr source);
             internal static Handle Make() => Handle.New(() => New(), p => Delete(p));
             internal static Handle Make(IntPtr source) => Handle.New(() => Copy(source), p => Delete(p));
+        }
+
+        static class Parts
+        {
+            static ClassCalls madeClass;
+            internal static ClassCalls Class => madeClass != null ? madeClass : madeClass = new ClassCalls { IsComplete = Native.is_occurs_ok, Reset = Native.reset };
         }
     }
 
@@ -50,6 +56,8 @@ namespace Vyr
 
         static class Parts
         {
+            static ClassCalls madeClass;
+            internal static ClassCalls Class => madeClass != null ? madeClass : madeClass = new ClassCalls { IsComplete = Native.is_occurs_ok, Reset = Native.reset };
             static ObjectListCalls<ColorantElement> madeColorantElement;
             internal static ObjectListCalls<ColorantElement> ColorantElement => madeColorantElement != null ? madeColorantElement : madeColorantElement = new ObjectListCalls<ColorantElement> { Make = h => new ColorantElement(h), Size = Native.size_ColorantElement, Get = Native.get_ColorantElement, Assign = Native.assign_ColorantElement, Append = Native.append_ColorantElement, Insert = Native.insert_ColorantElement, Delete = Native.delete_ColorantElement, Clear = Native.clear_ColorantElement };
         }
@@ -59,8 +67,6 @@ namespace Vyr
     {
         static class Native
         {
-            [DllImport(Library.Name, EntryPoint = "CSharp_ColorSpaceTINTORAType_is_occurs_ok")] internal static extern int is_occurs_ok(IntPtr self);
-            [DllImport(Library.Name, EntryPoint = "CSharp_ColorSpaceTINTORAType_reset")] internal static extern void reset(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_ColorSpaceTINTORAType_isset_Name")] internal static extern int isset_Name(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_ColorSpaceTINTORAType_get_Name")] [return: MarshalAs(UnmanagedType.BStr)] internal static extern string get_Name(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_ColorSpaceTINTORAType_set_Name")] internal static extern int set_Name(IntPtr self, [MarshalAs(UnmanagedType.LPWStr)] string value);
@@ -70,6 +76,8 @@ namespace Vyr
             [DllImport(Library.Name, EntryPoint = "CSharp_ColorSpaceTINTORAType_set_Page")] internal static extern int set_Page(IntPtr self, [MarshalAs(UnmanagedType.LPWStr)] string value);
             [DllImport(Library.Name, EntryPoint = "CSharp_ColorSpaceTINTORAType_getenum_Gamut")] internal static extern int getenum_Gamut(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_ColorSpaceTINTORAType_setenum_Gamut")] internal static extern int setenum_Gamut(IntPtr self, int number);
+            [DllImport(Library.Name, EntryPoint = "CSharp_ColorSpaceTINTORAType_is_occurs_ok")] internal static extern int is_occurs_ok(IntPtr self);
+            [DllImport(Library.Name, EntryPoint = "CSharp_ColorSpaceTINTORAType_reset")] internal static extern void reset(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_ColorSpaceTINTORAType_get_ColorName__SWIG_0")] internal static extern IntPtr get_ColorName(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_ColorSpaceTINTORAType_assign_ColorName")] internal static extern IntPtr assign_ColorName(IntPtr self, IntPtr value);
             [DllImport(Library.Name, EntryPoint = "CSharp_ColorSpaceTINTORAType_get_Recipe__SWIG_0")] internal static extern IntPtr get_Recipe(IntPtr self);
@@ -93,6 +101,8 @@ namespace Vyr
 
         static class Parts
         {
+            static ClassCalls madeClass;
+            internal static ClassCalls Class => madeClass != null ? madeClass : madeClass = new ClassCalls { IsComplete = Native.is_occurs_ok, Reset = Native.reset };
             static IntPtr madeColorNameItem;
             internal static IntPtr ColorNameItem => madeColorNameItem != IntPtr.Zero ? madeColorNameItem : madeColorNameItem = Library.Item("ColorSpaceTINTORAType", "ColorName");
             static PartCalls madeColorName;
@@ -110,8 +120,6 @@ namespace Vyr
     {
         static class Native
         {
-            [DllImport(Library.Name, EntryPoint = "CSharp_Colorant_is_occurs_ok")] internal static extern int is_occurs_ok(IntPtr self);
-            [DllImport(Library.Name, EntryPoint = "CSharp_Colorant_reset")] internal static extern void reset(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_Colorant_get_Name")] [return: MarshalAs(UnmanagedType.BStr)] internal static extern string get_Name(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_Colorant_set_Name")] internal static extern int set_Name(IntPtr self, [MarshalAs(UnmanagedType.LPWStr)] string value);
             [DllImport(Library.Name, EntryPoint = "CSharp_Colorant_isset_Manufacturer")] internal static extern int isset_Manufacturer(IntPtr self);
@@ -123,6 +131,8 @@ namespace Vyr
             [DllImport(Library.Name, EntryPoint = "CSharp_Colorant_isset_Density")] internal static extern int isset_Density(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_Colorant_get_Density")] internal static extern double get_Density(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_Colorant_set_Density")] internal static extern int set_Density(IntPtr self, double value);
+            [DllImport(Library.Name, EntryPoint = "CSharp_Colorant_is_occurs_ok")] internal static extern int is_occurs_ok(IntPtr self);
+            [DllImport(Library.Name, EntryPoint = "CSharp_Colorant_reset")] internal static extern void reset(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_Colorant_size_CustomAttributes")] internal static extern uint size_CustomAttributes(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_Colorant_get_CustomAttributes__SWIG_0")] internal static extern IntPtr get_CustomAttributes(IntPtr self, uint index);
             [DllImport(Library.Name, EntryPoint = "CSharp_Colorant_assign_CustomAttributes")] internal static extern IntPtr assign_CustomAttributes(IntPtr self, uint index, IntPtr value);
@@ -145,6 +155,8 @@ namespace Vyr
 
         static class Parts
         {
+            static ClassCalls madeClass;
+            internal static ClassCalls Class => madeClass != null ? madeClass : madeClass = new ClassCalls { IsComplete = Native.is_occurs_ok, Reset = Native.reset };
             static ObjectListCalls<CustomAttributes> madeCustomAttributes;
             internal static ObjectListCalls<CustomAttributes> CustomAttributes => madeCustomAttributes != null ? madeCustomAttributes : madeCustomAttributes = new ObjectListCalls<CustomAttributes> { Make = h => new CustomAttributes(h), Size = Native.size_CustomAttributes, Get = Native.get_CustomAttributes, Assign = Native.assign_CustomAttributes, Append = Native.append_CustomAttributes, Insert = Native.insert_CustomAttributes, Delete = Native.delete_CustomAttributes, Clear = Native.clear_CustomAttributes };
         }
@@ -154,10 +166,10 @@ namespace Vyr
     {
         static class Native
         {
-            [DllImport(Library.Name, EntryPoint = "CSharp_ColorantElement_is_occurs_ok")] internal static extern int is_occurs_ok(IntPtr self);
-            [DllImport(Library.Name, EntryPoint = "CSharp_ColorantElement_reset")] internal static extern void reset(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_ColorantElement_get_Contribution")] internal static extern double get_Contribution(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_ColorantElement_set_Contribution")] internal static extern int set_Contribution(IntPtr self, double value);
+            [DllImport(Library.Name, EntryPoint = "CSharp_ColorantElement_is_occurs_ok")] internal static extern int is_occurs_ok(IntPtr self);
+            [DllImport(Library.Name, EntryPoint = "CSharp_ColorantElement_reset")] internal static extern void reset(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_ColorantElement_get_Colorant__SWIG_0")] internal static extern IntPtr get_Colorant(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_ColorantElement_assign_Colorant")] internal static extern IntPtr assign_Colorant(IntPtr self, IntPtr value);
             [DllImport(Library.Name, EntryPoint = "CSharp_new_ColorantElement__SWIG_0")] internal static extern IntPtr New();
@@ -169,6 +181,8 @@ namespace Vyr
 
         static class Parts
         {
+            static ClassCalls madeClass;
+            internal static ClassCalls Class => madeClass != null ? madeClass : madeClass = new ClassCalls { IsComplete = Native.is_occurs_ok, Reset = Native.reset };
             static IntPtr madeColorantItem;
             internal static IntPtr ColorantItem => madeColorantItem != IntPtr.Zero ? madeColorantItem : madeColorantItem = Library.Item("ColorantElement", "Colorant");
             static PartCalls madeColorant;
@@ -193,6 +207,8 @@ namespace Vyr
 
         static class Parts
         {
+            static ClassCalls madeClass;
+            internal static ClassCalls Class => madeClass != null ? madeClass : madeClass = new ClassCalls { IsComplete = Native.is_occurs_ok, Reset = Native.reset };
             static IntPtr madeCustomAttributeItem;
             internal static IntPtr CustomAttributeItem => madeCustomAttributeItem != IntPtr.Zero ? madeCustomAttributeItem : madeCustomAttributeItem = Library.Item("CustomAttributes", "CustomAttribute");
             static PartCalls madeCustomAttribute;
@@ -204,10 +220,10 @@ namespace Vyr
     {
         static class Native
         {
-            [DllImport(Library.Name, EntryPoint = "CSharp_ColorAndFinish_is_occurs_ok")] internal static extern int is_occurs_ok(IntPtr self);
-            [DllImport(Library.Name, EntryPoint = "CSharp_ColorAndFinish_reset")] internal static extern void reset(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_ColorAndFinish_getenum_Finish")] internal static extern int getenum_Finish(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_ColorAndFinish_setenum_Finish")] internal static extern int setenum_Finish(IntPtr self, int number);
+            [DllImport(Library.Name, EntryPoint = "CSharp_ColorAndFinish_is_occurs_ok")] internal static extern int is_occurs_ok(IntPtr self);
+            [DllImport(Library.Name, EntryPoint = "CSharp_ColorAndFinish_reset")] internal static extern void reset(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_ColorAndFinish_get_ColorSpaceSpectral__SWIG_0")] internal static extern IntPtr get_ColorSpaceSpectral(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_ColorAndFinish_assign_ColorSpaceSpectral")] internal static extern IntPtr assign_ColorSpaceSpectral(IntPtr self, IntPtr value);
             [DllImport(Library.Name, EntryPoint = "CSharp_new_ColorAndFinish__SWIG_0")] internal static extern IntPtr New();
@@ -219,6 +235,8 @@ namespace Vyr
 
         static class Parts
         {
+            static ClassCalls madeClass;
+            internal static ClassCalls Class => madeClass != null ? madeClass : madeClass = new ClassCalls { IsComplete = Native.is_occurs_ok, Reset = Native.reset };
             static IntPtr madeColorSpaceSpectralItem;
             internal static IntPtr ColorSpaceSpectralItem => madeColorSpaceSpectralItem != IntPtr.Zero ? madeColorSpaceSpectralItem : madeColorSpaceSpectralItem = Library.Item("ColorAndFinish", "ColorSpaceSpectral");
             static PartCalls madeColorSpaceSpectral;
@@ -230,13 +248,13 @@ namespace Vyr
     {
         static class Native
         {
-            [DllImport(Library.Name, EntryPoint = "CSharp_ColorSpaceNCSType_is_occurs_ok")] internal static extern int is_occurs_ok(IntPtr self);
-            [DllImport(Library.Name, EntryPoint = "CSharp_ColorSpaceNCSType_reset")] internal static extern void reset(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_ColorSpaceNCSType_isset_Name")] internal static extern int isset_Name(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_ColorSpaceNCSType_get_Name")] [return: MarshalAs(UnmanagedType.BStr)] internal static extern string get_Name(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_ColorSpaceNCSType_set_Name")] internal static extern int set_Name(IntPtr self, [MarshalAs(UnmanagedType.LPWStr)] string value);
             [DllImport(Library.Name, EntryPoint = "CSharp_ColorSpaceNCSType_get_ColorName")] [return: MarshalAs(UnmanagedType.BStr)] internal static extern string get_ColorName(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_ColorSpaceNCSType_set_ColorName")] internal static extern int set_ColorName(IntPtr self, [MarshalAs(UnmanagedType.LPWStr)] string value);
+            [DllImport(Library.Name, EntryPoint = "CSharp_ColorSpaceNCSType_is_occurs_ok")] internal static extern int is_occurs_ok(IntPtr self);
+            [DllImport(Library.Name, EntryPoint = "CSharp_ColorSpaceNCSType_reset")] internal static extern void reset(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_ColorSpaceNCSType_get_ColorSpaceSpecificationSpectrumGeneric__SWIG_0")] internal static extern IntPtr get_ColorSpaceSpecificationSpectrumGeneric(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_ColorSpaceNCSType_assign_ColorSpaceSpecificationSpectrumGeneric")] internal static extern IntPtr assign_ColorSpaceSpecificationSpectrumGeneric(IntPtr self, IntPtr value);
             [DllImport(Library.Name, EntryPoint = "CSharp_new_ColorSpaceNCSType__SWIG_0")] internal static extern IntPtr New();
@@ -250,6 +268,8 @@ namespace Vyr
 
         static class Parts
         {
+            static ClassCalls madeClass;
+            internal static ClassCalls Class => madeClass != null ? madeClass : madeClass = new ClassCalls { IsComplete = Native.is_occurs_ok, Reset = Native.reset };
             static IntPtr madeColorSpaceSpecificationSpectrumGenericItem;
             internal static IntPtr ColorSpaceSpecificationSpectrumGenericItem => madeColorSpaceSpecificationSpectrumGenericItem != IntPtr.Zero ? madeColorSpaceSpecificationSpectrumGenericItem : madeColorSpaceSpecificationSpectrumGenericItem = Library.Item("ColorSpaceNCSType", "ColorSpaceSpecificationSpectrumGeneric");
             static PartCalls madeColorSpaceSpecificationSpectrumGeneric;
@@ -261,8 +281,6 @@ namespace Vyr
     {
         static class Native
         {
-            [DllImport(Library.Name, EntryPoint = "CSharp_ColorSpaceMunsellType_is_occurs_ok")] internal static extern int is_occurs_ok(IntPtr self);
-            [DllImport(Library.Name, EntryPoint = "CSharp_ColorSpaceMunsellType_reset")] internal static extern void reset(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_ColorSpaceMunsellType_isset_Name")] internal static extern int isset_Name(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_ColorSpaceMunsellType_get_Name")] [return: MarshalAs(UnmanagedType.BStr)] internal static extern string get_Name(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_ColorSpaceMunsellType_set_Name")] internal static extern int set_Name(IntPtr self, [MarshalAs(UnmanagedType.LPWStr)] string value);
@@ -270,6 +288,8 @@ namespace Vyr
             [DllImport(Library.Name, EntryPoint = "CSharp_ColorSpaceMunsellType_set_CollectionName")] internal static extern int set_CollectionName(IntPtr self, [MarshalAs(UnmanagedType.LPWStr)] string value);
             [DllImport(Library.Name, EntryPoint = "CSharp_ColorSpaceMunsellType_get_ColorName")] [return: MarshalAs(UnmanagedType.BStr)] internal static extern string get_ColorName(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_ColorSpaceMunsellType_set_ColorName")] internal static extern int set_ColorName(IntPtr self, [MarshalAs(UnmanagedType.LPWStr)] string value);
+            [DllImport(Library.Name, EntryPoint = "CSharp_ColorSpaceMunsellType_is_occurs_ok")] internal static extern int is_occurs_ok(IntPtr self);
+            [DllImport(Library.Name, EntryPoint = "CSharp_ColorSpaceMunsellType_reset")] internal static extern void reset(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_ColorSpaceMunsellType_get_ColorSpaceSpecificationSpectrumGeneric__SWIG_0")] internal static extern IntPtr get_ColorSpaceSpecificationSpectrumGeneric(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_ColorSpaceMunsellType_assign_ColorSpaceSpecificationSpectrumGeneric")] internal static extern IntPtr assign_ColorSpaceSpecificationSpectrumGeneric(IntPtr self, IntPtr value);
             [DllImport(Library.Name, EntryPoint = "CSharp_new_ColorSpaceMunsellType__SWIG_0")] internal static extern IntPtr New();
@@ -283,6 +303,8 @@ namespace Vyr
 
         static class Parts
         {
+            static ClassCalls madeClass;
+            internal static ClassCalls Class => madeClass != null ? madeClass : madeClass = new ClassCalls { IsComplete = Native.is_occurs_ok, Reset = Native.reset };
             static IntPtr madeColorSpaceSpecificationSpectrumGenericItem;
             internal static IntPtr ColorSpaceSpecificationSpectrumGenericItem => madeColorSpaceSpecificationSpectrumGenericItem != IntPtr.Zero ? madeColorSpaceSpecificationSpectrumGenericItem : madeColorSpaceSpecificationSpectrumGenericItem = Library.Item("ColorSpaceMunsellType", "ColorSpaceSpecificationSpectrumGeneric");
             static PartCalls madeColorSpaceSpecificationSpectrumGeneric;
@@ -294,8 +316,6 @@ namespace Vyr
     {
         static class Native
         {
-            [DllImport(Library.Name, EntryPoint = "CSharp_Base_is_occurs_ok")] internal static extern int is_occurs_ok(IntPtr self);
-            [DllImport(Library.Name, EntryPoint = "CSharp_Base_reset")] internal static extern void reset(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_Base_get_Name")] [return: MarshalAs(UnmanagedType.BStr)] internal static extern string get_Name(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_Base_set_Name")] internal static extern int set_Name(IntPtr self, [MarshalAs(UnmanagedType.LPWStr)] string value);
             [DllImport(Library.Name, EntryPoint = "CSharp_Base_get_Manufacturer")] [return: MarshalAs(UnmanagedType.BStr)] internal static extern string get_Manufacturer(IntPtr self);
@@ -305,6 +325,8 @@ namespace Vyr
             [DllImport(Library.Name, EntryPoint = "CSharp_Base_isset_Density")] internal static extern int isset_Density(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_Base_get_Density")] internal static extern double get_Density(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_Base_set_Density")] internal static extern int set_Density(IntPtr self, double value);
+            [DllImport(Library.Name, EntryPoint = "CSharp_Base_is_occurs_ok")] internal static extern int is_occurs_ok(IntPtr self);
+            [DllImport(Library.Name, EntryPoint = "CSharp_Base_reset")] internal static extern void reset(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_Base_size_CustomAttribute")] internal static extern uint size_CustomAttribute(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_Base_get_CustomAttribute__SWIG_0")] internal static extern IntPtr get_CustomAttribute(IntPtr self, uint index);
             [DllImport(Library.Name, EntryPoint = "CSharp_Base_assign_CustomAttribute")] internal static extern IntPtr assign_CustomAttribute(IntPtr self, uint index, IntPtr value);
@@ -323,6 +345,8 @@ namespace Vyr
 
         static class Parts
         {
+            static ClassCalls madeClass;
+            internal static ClassCalls Class => madeClass != null ? madeClass : madeClass = new ClassCalls { IsComplete = Native.is_occurs_ok, Reset = Native.reset };
             static ObjectListCalls<CustomAttributeType> madeCustomAttribute;
             internal static ObjectListCalls<CustomAttributeType> CustomAttribute => madeCustomAttribute != null ? madeCustomAttribute : madeCustomAttribute = new ObjectListCalls<CustomAttributeType> { Make = h => new CustomAttributeType(h), Size = Native.size_CustomAttribute, Get = Native.get_CustomAttribute, Assign = Native.assign_CustomAttribute, Append = Native.append_CustomAttribute, Insert = Native.insert_CustomAttribute, Delete = Native.delete_CustomAttribute, Clear = Native.clear_CustomAttribute };
         }
@@ -332,10 +356,10 @@ namespace Vyr
     {
         static class Native
         {
-            [DllImport(Library.Name, EntryPoint = "CSharp_BaseElementType_is_occurs_ok")] internal static extern int is_occurs_ok(IntPtr self);
-            [DllImport(Library.Name, EntryPoint = "CSharp_BaseElementType_reset")] internal static extern void reset(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_BaseElementType_get_Contribution")] internal static extern double get_Contribution(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_BaseElementType_set_Contribution")] internal static extern int set_Contribution(IntPtr self, double value);
+            [DllImport(Library.Name, EntryPoint = "CSharp_BaseElementType_is_occurs_ok")] internal static extern int is_occurs_ok(IntPtr self);
+            [DllImport(Library.Name, EntryPoint = "CSharp_BaseElementType_reset")] internal static extern void reset(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_BaseElementType_get_Base__SWIG_0")] internal static extern IntPtr get_Base(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_BaseElementType_assign_Base")] internal static extern IntPtr assign_Base(IntPtr self, IntPtr value);
             [DllImport(Library.Name, EntryPoint = "CSharp_new_BaseElementType__SWIG_0")] internal static extern IntPtr New();
@@ -347,6 +371,8 @@ namespace Vyr
 
         static class Parts
         {
+            static ClassCalls madeClass;
+            internal static ClassCalls Class => madeClass != null ? madeClass : madeClass = new ClassCalls { IsComplete = Native.is_occurs_ok, Reset = Native.reset };
             static IntPtr madeBaseItem;
             internal static IntPtr BaseItem => madeBaseItem != IntPtr.Zero ? madeBaseItem : madeBaseItem = Library.Item("BaseElementType", "Base");
             static PartCalls madeBase;
@@ -358,11 +384,11 @@ namespace Vyr
     {
         static class Native
         {
-            [DllImport(Library.Name, EntryPoint = "CSharp_ColorSpaceRecipeType_is_occurs_ok")] internal static extern int is_occurs_ok(IntPtr self);
-            [DllImport(Library.Name, EntryPoint = "CSharp_ColorSpaceRecipeType_reset")] internal static extern void reset(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_ColorSpaceRecipeType_isset_Name")] internal static extern int isset_Name(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_ColorSpaceRecipeType_get_Name")] [return: MarshalAs(UnmanagedType.BStr)] internal static extern string get_Name(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_ColorSpaceRecipeType_set_Name")] internal static extern int set_Name(IntPtr self, [MarshalAs(UnmanagedType.LPWStr)] string value);
+            [DllImport(Library.Name, EntryPoint = "CSharp_ColorSpaceRecipeType_is_occurs_ok")] internal static extern int is_occurs_ok(IntPtr self);
+            [DllImport(Library.Name, EntryPoint = "CSharp_ColorSpaceRecipeType_reset")] internal static extern void reset(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_ColorSpaceRecipeType_get_ColorSpaceSpecificationSpectrumGeneric__SWIG_0")] internal static extern IntPtr get_ColorSpaceSpecificationSpectrumGeneric(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_ColorSpaceRecipeType_assign_ColorSpaceSpecificationSpectrumGeneric")] internal static extern IntPtr assign_ColorSpaceSpecificationSpectrumGeneric(IntPtr self, IntPtr value);
             [DllImport(Library.Name, EntryPoint = "CSharp_ColorSpaceRecipeType_size_ColorantElement")] internal static extern uint size_ColorantElement(IntPtr self);
@@ -386,6 +412,8 @@ namespace Vyr
 
         static class Parts
         {
+            static ClassCalls madeClass;
+            internal static ClassCalls Class => madeClass != null ? madeClass : madeClass = new ClassCalls { IsComplete = Native.is_occurs_ok, Reset = Native.reset };
             static IntPtr madeColorSpaceSpecificationSpectrumGenericItem;
             internal static IntPtr ColorSpaceSpecificationSpectrumGenericItem => madeColorSpaceSpecificationSpectrumGenericItem != IntPtr.Zero ? madeColorSpaceSpecificationSpectrumGenericItem : madeColorSpaceSpecificationSpectrumGenericItem = Library.Item("ColorSpaceRecipeType", "ColorSpaceSpecificationSpectrumGeneric");
             static PartCalls madeColorSpaceSpecificationSpectrumGeneric;
@@ -451,17 +479,23 @@ namespace Vyr
     {
         static class Native
         {
-            [DllImport(Library.Name, EntryPoint = "CSharp_Density_is_occurs_ok")] internal static extern int is_occurs_ok(IntPtr self);
-            [DllImport(Library.Name, EntryPoint = "CSharp_Density_reset")] internal static extern void reset(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_Density_isnil_Density")] internal static extern int isnil_Density(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_Density_setnil_Density")] internal static extern void setnil_Density(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_Density_get_Density")] internal static extern double get_Density(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_Density_set_Density")] internal static extern int set_Density(IntPtr self, double value);
+            [DllImport(Library.Name, EntryPoint = "CSharp_Density_is_occurs_ok")] internal static extern int is_occurs_ok(IntPtr self);
+            [DllImport(Library.Name, EntryPoint = "CSharp_Density_reset")] internal static extern void reset(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_new_Density__SWIG_0")] internal static extern IntPtr New();
             [DllImport(Library.Name, EntryPoint = "CSharp_delete_Density")] internal static extern void Delete(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_new_Density__SWIG_1")] internal static extern IntPtr Copy(IntPtr source);
             internal static Handle Make() => Handle.New(() => New(), p => Delete(p));
             internal static Handle Make(IntPtr source) => Handle.New(() => Copy(source), p => Delete(p));
+        }
+
+        static class Parts
+        {
+            static ClassCalls madeClass;
+            internal static ClassCalls Class => madeClass != null ? madeClass : madeClass = new ClassCalls { IsComplete = Native.is_occurs_ok, Reset = Native.reset };
         }
     }
 
@@ -469,14 +503,14 @@ namespace Vyr
     {
         static class Native
         {
-            [DllImport(Library.Name, EntryPoint = "CSharp_ColorantElementType_Colorant_is_occurs_ok")] internal static extern int is_occurs_ok(IntPtr self);
-            [DllImport(Library.Name, EntryPoint = "CSharp_ColorantElementType_Colorant_reset")] internal static extern void reset(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_ColorantElementType_Colorant_get_Name")] [return: MarshalAs(UnmanagedType.BStr)] internal static extern string get_Name(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_ColorantElementType_Colorant_set_Name")] internal static extern int set_Name(IntPtr self, [MarshalAs(UnmanagedType.LPWStr)] string value);
             [DllImport(Library.Name, EntryPoint = "CSharp_ColorantElementType_Colorant_get_Manufacturer")] [return: MarshalAs(UnmanagedType.BStr)] internal static extern string get_Manufacturer(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_ColorantElementType_Colorant_set_Manufacturer")] internal static extern int set_Manufacturer(IntPtr self, [MarshalAs(UnmanagedType.LPWStr)] string value);
             [DllImport(Library.Name, EntryPoint = "CSharp_ColorantElementType_Colorant_get_PartNumber")] [return: MarshalAs(UnmanagedType.BStr)] internal static extern string get_PartNumber(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_ColorantElementType_Colorant_set_PartNumber")] internal static extern int set_PartNumber(IntPtr self, [MarshalAs(UnmanagedType.LPWStr)] string value);
+            [DllImport(Library.Name, EntryPoint = "CSharp_ColorantElementType_Colorant_is_occurs_ok")] internal static extern int is_occurs_ok(IntPtr self);
+            [DllImport(Library.Name, EntryPoint = "CSharp_ColorantElementType_Colorant_reset")] internal static extern void reset(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_ColorantElementType_Colorant_size_CustomAttribute")] internal static extern uint size_CustomAttribute(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_ColorantElementType_Colorant_get_CustomAttribute__SWIG_0")] internal static extern IntPtr get_CustomAttribute(IntPtr self, uint index);
             [DllImport(Library.Name, EntryPoint = "CSharp_ColorantElementType_Colorant_assign_CustomAttribute")] internal static extern IntPtr assign_CustomAttribute(IntPtr self, uint index, IntPtr value);
@@ -495,6 +529,8 @@ namespace Vyr
 
         static class Parts
         {
+            static ClassCalls madeClass;
+            internal static ClassCalls Class => madeClass != null ? madeClass : madeClass = new ClassCalls { IsComplete = Native.is_occurs_ok, Reset = Native.reset };
             static ObjectListCalls<CustomAttributeType> madeCustomAttribute;
             internal static ObjectListCalls<CustomAttributeType> CustomAttribute => madeCustomAttribute != null ? madeCustomAttribute : madeCustomAttribute = new ObjectListCalls<CustomAttributeType> { Make = h => new CustomAttributeType(h), Size = Native.size_CustomAttribute, Get = Native.get_CustomAttribute, Assign = Native.assign_CustomAttribute, Append = Native.append_CustomAttribute, Insert = Native.insert_CustomAttribute, Delete = Native.delete_CustomAttribute, Clear = Native.clear_CustomAttribute };
             static IntPtr madeDensityItem;
@@ -508,10 +544,10 @@ namespace Vyr
     {
         static class Native
         {
-            [DllImport(Library.Name, EntryPoint = "CSharp_ColorantElementType_is_occurs_ok")] internal static extern int is_occurs_ok(IntPtr self);
-            [DllImport(Library.Name, EntryPoint = "CSharp_ColorantElementType_reset")] internal static extern void reset(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_ColorantElementType_get_Contribution")] internal static extern double get_Contribution(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_ColorantElementType_set_Contribution")] internal static extern int set_Contribution(IntPtr self, double value);
+            [DllImport(Library.Name, EntryPoint = "CSharp_ColorantElementType_is_occurs_ok")] internal static extern int is_occurs_ok(IntPtr self);
+            [DllImport(Library.Name, EntryPoint = "CSharp_ColorantElementType_reset")] internal static extern void reset(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_ColorantElementType_get_Colorant__SWIG_0")] internal static extern IntPtr get_Colorant(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_ColorantElementType_assign_Colorant")] internal static extern IntPtr assign_Colorant(IntPtr self, IntPtr value);
             [DllImport(Library.Name, EntryPoint = "CSharp_new_ColorantElementType__SWIG_0")] internal static extern IntPtr New();
@@ -523,6 +559,8 @@ namespace Vyr
 
         static class Parts
         {
+            static ClassCalls madeClass;
+            internal static ClassCalls Class => madeClass != null ? madeClass : madeClass = new ClassCalls { IsComplete = Native.is_occurs_ok, Reset = Native.reset };
             static IntPtr madeColorantItem;
             internal static IntPtr ColorantItem => madeColorantItem != IntPtr.Zero ? madeColorantItem : madeColorantItem = Library.Item("ColorantElementType", "Colorant");
             static PartCalls madeColorant;

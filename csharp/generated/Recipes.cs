@@ -18,12 +18,7 @@ namespace Vyr
         /// <inheritdoc/>
         public new ColorName Clone() => (ColorName)Copy();
         internal override VyrObject Copy() => Copied(new ColorName(Native.Make(Pointer)));
-
-        /// <inheritdoc/>
-        public override bool IsComplete => Is(Native.is_occurs_ok(Pointer));
-
-        /// <inheritdoc/>
-        public override void Reset() { RemoveParts(); Native.reset(Pointer); Keep(); }
+        internal override ClassCalls Class => Parts.Class;
 
         /// <summary>What stands ahead of the name proper.</summary>
         public string PrefixName { get => Kept(Native.get_PrefixName(Pointer)); set => Demand(Native.set_PrefixName(Pointer, Library.Whole(value))); }
@@ -46,12 +41,7 @@ namespace Vyr
         /// <inheritdoc/>
         public new Recipe Clone() => (Recipe)Copy();
         internal override VyrObject Copy() => Copied(new Recipe(Native.Make(Pointer)));
-
-        /// <inheritdoc/>
-        public override bool IsComplete => Is(Native.is_occurs_ok(Pointer));
-
-        /// <inheritdoc/>
-        public override void Reset() { RemoveParts(); Native.reset(Pointer); Keep(); }
+        internal override ClassCalls Class => Parts.Class;
 
         /// <summary>One colorant with its share.</summary>
         public ObjectList<ColorantElement> ColorantElements => (ObjectList<ColorantElement>)(Part(0) ?? Remember(0, new ObjectList<ColorantElement>(this, "ColorantElements", Parts.ColorantElement)));
@@ -68,12 +58,7 @@ namespace Vyr
         /// <inheritdoc/>
         public new ColorSpaceTINTORAType Clone() => (ColorSpaceTINTORAType)Copy();
         internal override VyrObject Copy() => Copied(new ColorSpaceTINTORAType(Native.Make(Pointer)));
-
-        /// <inheritdoc/>
-        public override bool IsComplete => Is(Native.is_occurs_ok(Pointer));
-
-        /// <inheritdoc/>
-        public override void Reset() { RemoveParts(); Native.reset(Pointer); Keep(); }
+        internal override ClassCalls Class => Parts.Class;
 
         /// <summary>Name of the value. Null if not set.</summary>
         public string Name { get => Is(Native.isset_Name(Pointer)) ? Kept(Native.get_Name(Pointer)) : null; set => Demand(value == null ? Native.UnsetName(Pointer) : Native.set_Name(Pointer, Library.Whole(value))); }
@@ -114,12 +99,7 @@ namespace Vyr
         /// <inheritdoc/>
         public new Colorant Clone() => (Colorant)Copy();
         internal override VyrObject Copy() => Copied(new Colorant(Native.Make(Pointer)));
-
-        /// <inheritdoc/>
-        public override bool IsComplete => Is(Native.is_occurs_ok(Pointer));
-
-        /// <inheritdoc/>
-        public override void Reset() { RemoveParts(); Native.reset(Pointer); Keep(); }
+        internal override ClassCalls Class => Parts.Class;
 
         /// <summary>A named value of the user's own.</summary>
         public ObjectList<CustomAttributes> CustomAttributes => (ObjectList<CustomAttributes>)(Part(0) ?? Remember(0, new ObjectList<CustomAttributes>(this, "CustomAttributes", Parts.CustomAttributes)));
@@ -148,12 +128,7 @@ namespace Vyr
         /// <inheritdoc/>
         public new ColorantElement Clone() => (ColorantElement)Copy();
         internal override VyrObject Copy() => Copied(new ColorantElement(Native.Make(Pointer)));
-
-        /// <inheritdoc/>
-        public override bool IsComplete => Is(Native.is_occurs_ok(Pointer));
-
-        /// <inheritdoc/>
-        public override void Reset() { RemoveParts(); Native.reset(Pointer); Keep(); }
+        internal override ClassCalls Class => Parts.Class;
 
         /// <summary>The colorant. Null until set; assigning copies.</summary>
         public Colorant Colorant { get => (Colorant)Child(0, Parts.Colorant); set => AssignChild(0, Parts.Colorant, value); }
@@ -176,12 +151,7 @@ namespace Vyr
         /// <inheritdoc/>
         public new CustomAttributes Clone() => (CustomAttributes)Copy();
         internal override VyrObject Copy() => Copied(new CustomAttributes(Native.Make(Pointer)));
-
-        /// <inheritdoc/>
-        public override bool IsComplete => Is(Native.is_occurs_ok(Pointer));
-
-        /// <inheritdoc/>
-        public override void Reset() { RemoveParts(); Native.reset(Pointer); Keep(); }
+        internal override ClassCalls Class => Parts.Class;
 
         /// <summary>The named value. Null until set; assigning copies.</summary>
         public CustomAttributeType CustomAttribute { get => (CustomAttributeType)Child(0, Parts.CustomAttribute); set => AssignChild(0, Parts.CustomAttribute, value); }
@@ -201,12 +171,7 @@ namespace Vyr
         /// <inheritdoc/>
         public new ColorAndFinish Clone() => (ColorAndFinish)Copy();
         internal override VyrObject Copy() => Copied(new ColorAndFinish(Native.Make(Pointer)));
-
-        /// <inheritdoc/>
-        public override bool IsComplete => Is(Native.is_occurs_ok(Pointer));
-
-        /// <inheritdoc/>
-        public override void Reset() { RemoveParts(); Native.reset(Pointer); Keep(); }
+        internal override ClassCalls Class => Parts.Class;
 
         /// <summary>The finish.</summary>
         public FinishKind Finish { get => (FinishKind)Kept(Native.getenum_Finish(Pointer)); set => Demand(Listed(Native.setenum_Finish(Pointer, (int)value))); }
@@ -229,12 +194,7 @@ namespace Vyr
         /// <inheritdoc/>
         public new ColorSpaceNCSType Clone() => (ColorSpaceNCSType)Copy();
         internal override VyrObject Copy() => Copied(new ColorSpaceNCSType(Native.Make(Pointer)));
-
-        /// <inheritdoc/>
-        public override bool IsComplete => Is(Native.is_occurs_ok(Pointer));
-
-        /// <inheritdoc/>
-        public override void Reset() { RemoveParts(); Native.reset(Pointer); Keep(); }
+        internal override ClassCalls Class => Parts.Class;
 
         /// <summary>Name of the value. Null if not set.</summary>
         public string Name { get => Is(Native.isset_Name(Pointer)) ? Kept(Native.get_Name(Pointer)) : null; set => Demand(value == null ? Native.UnsetName(Pointer) : Native.set_Name(Pointer, Library.Whole(value))); }
@@ -260,12 +220,7 @@ namespace Vyr
         /// <inheritdoc/>
         public new ColorSpaceMunsellType Clone() => (ColorSpaceMunsellType)Copy();
         internal override VyrObject Copy() => Copied(new ColorSpaceMunsellType(Native.Make(Pointer)));
-
-        /// <inheritdoc/>
-        public override bool IsComplete => Is(Native.is_occurs_ok(Pointer));
-
-        /// <inheritdoc/>
-        public override void Reset() { RemoveParts(); Native.reset(Pointer); Keep(); }
+        internal override ClassCalls Class => Parts.Class;
 
         /// <summary>Name of the value. Null if not set.</summary>
         public string Name { get => Is(Native.isset_Name(Pointer)) ? Kept(Native.get_Name(Pointer)) : null; set => Demand(value == null ? Native.UnsetName(Pointer) : Native.set_Name(Pointer, Library.Whole(value))); }
@@ -294,12 +249,7 @@ namespace Vyr
         /// <inheritdoc/>
         public new Base Clone() => (Base)Copy();
         internal override VyrObject Copy() => Copied(new Base(Native.Make(Pointer)));
-
-        /// <inheritdoc/>
-        public override bool IsComplete => Is(Native.is_occurs_ok(Pointer));
-
-        /// <inheritdoc/>
-        public override void Reset() { RemoveParts(); Native.reset(Pointer); Keep(); }
+        internal override ClassCalls Class => Parts.Class;
 
         /// <summary>A named value of the user's own.</summary>
         public ObjectList<CustomAttributeType> CustomAttributes => (ObjectList<CustomAttributeType>)(Part(0) ?? Remember(0, new ObjectList<CustomAttributeType>(this, "CustomAttributes", Parts.CustomAttribute)));
@@ -328,12 +278,7 @@ namespace Vyr
         /// <inheritdoc/>
         public new BaseElementType Clone() => (BaseElementType)Copy();
         internal override VyrObject Copy() => Copied(new BaseElementType(Native.Make(Pointer)));
-
-        /// <inheritdoc/>
-        public override bool IsComplete => Is(Native.is_occurs_ok(Pointer));
-
-        /// <inheritdoc/>
-        public override void Reset() { RemoveParts(); Native.reset(Pointer); Keep(); }
+        internal override ClassCalls Class => Parts.Class;
 
         /// <summary>The base. Null until set; assigning copies.</summary>
         public Base Base { get => (Base)Child(0, Parts.Base); set => AssignChild(0, Parts.Base, value); }
@@ -356,12 +301,7 @@ namespace Vyr
         /// <inheritdoc/>
         public new ColorSpaceRecipeType Clone() => (ColorSpaceRecipeType)Copy();
         internal override VyrObject Copy() => Copied(new ColorSpaceRecipeType(Native.Make(Pointer)));
-
-        /// <inheritdoc/>
-        public override bool IsComplete => Is(Native.is_occurs_ok(Pointer));
-
-        /// <inheritdoc/>
-        public override void Reset() { RemoveParts(); Native.reset(Pointer); Keep(); }
+        internal override ClassCalls Class => Parts.Class;
 
         /// <summary>Name of the value. Null if not set.</summary>
         public string Name { get => Is(Native.isset_Name(Pointer)) ? Kept(Native.get_Name(Pointer)) : null; set => Demand(value == null ? Native.UnsetName(Pointer) : Native.set_Name(Pointer, Library.Whole(value))); }
@@ -383,7 +323,7 @@ namespace Vyr
     }
 
     /// <summary>A colour by the colorants that give it.</summary>
-    public partial class ColorSpaceRecipe : ColorSpaceRecipeType
+    public partial class ColorSpaceRecipe : ColorSpaceRecipeType, IElement
     {
         /// <summary>A new object that stands on its own, with nothing set.</summary>
         public ColorSpaceRecipe() : this(Native.Make()) { }
@@ -400,16 +340,10 @@ namespace Vyr
         /// <summary>The same without throwing for what is wrong with the file; null then, unless the options ask for
         /// what was read.</summary>
         public static LoadReport TryLoad(string path, out ColorSpaceRecipe loaded, LoadOptions options = null) => Load(new ColorSpaceRecipe(), path, options, out loaded);
-
-        /// <summary>Saves a file with this element as its root.</summary>
-        public void Save(string path) => TrySave(path).DemandSaved();
-
-        /// <summary>The same without throwing for what is wrong.</summary>
-        public LoadReport TrySave(string path) => SaveElement(path);
     }
 
     /// <summary>A colour of the TINTORA collection, by family, name and page.</summary>
-    public partial class ColorSpaceTINTORA : ColorSpaceTINTORAType
+    public partial class ColorSpaceTINTORA : ColorSpaceTINTORAType, IElement
     {
         /// <summary>A new object that stands on its own, with nothing set.</summary>
         public ColorSpaceTINTORA() : this(Native.Make()) { }
@@ -426,16 +360,10 @@ namespace Vyr
         /// <summary>The same without throwing for what is wrong with the file; null then, unless the options ask for
         /// what was read.</summary>
         public static LoadReport TryLoad(string path, out ColorSpaceTINTORA loaded, LoadOptions options = null) => Load(new ColorSpaceTINTORA(), path, options, out loaded);
-
-        /// <summary>Saves a file with this element as its root.</summary>
-        public void Save(string path) => TrySave(path).DemandSaved();
-
-        /// <summary>The same without throwing for what is wrong.</summary>
-        public LoadReport TrySave(string path) => SaveElement(path);
     }
 
     /// <summary>A colour by its notation in the Natural Colour System.</summary>
-    public partial class ColorSpaceNCS : ColorSpaceNCSType
+    public partial class ColorSpaceNCS : ColorSpaceNCSType, IElement
     {
         /// <summary>A new object that stands on its own, with nothing set.</summary>
         public ColorSpaceNCS() : this(Native.Make()) { }
@@ -452,16 +380,10 @@ namespace Vyr
         /// <summary>The same without throwing for what is wrong with the file; null then, unless the options ask for
         /// what was read.</summary>
         public static LoadReport TryLoad(string path, out ColorSpaceNCS loaded, LoadOptions options = null) => Load(new ColorSpaceNCS(), path, options, out loaded);
-
-        /// <summary>Saves a file with this element as its root.</summary>
-        public void Save(string path) => TrySave(path).DemandSaved();
-
-        /// <summary>The same without throwing for what is wrong.</summary>
-        public LoadReport TrySave(string path) => SaveElement(path);
     }
 
     /// <summary>A colour by its notation in a Munsell collection.</summary>
-    public partial class ColorSpaceMunsell : ColorSpaceMunsellType
+    public partial class ColorSpaceMunsell : ColorSpaceMunsellType, IElement
     {
         /// <summary>A new object that stands on its own, with nothing set.</summary>
         public ColorSpaceMunsell() : this(Native.Make()) { }
@@ -478,12 +400,6 @@ namespace Vyr
         /// <summary>The same without throwing for what is wrong with the file; null then, unless the options ask for
         /// what was read.</summary>
         public static LoadReport TryLoad(string path, out ColorSpaceMunsell loaded, LoadOptions options = null) => Load(new ColorSpaceMunsell(), path, options, out loaded);
-
-        /// <summary>Saves a file with this element as its root.</summary>
-        public void Save(string path) => TrySave(path).DemandSaved();
-
-        /// <summary>The same without throwing for what is wrong.</summary>
-        public LoadReport TrySave(string path) => SaveElement(path);
     }
 
     /// <summary>Density of the colorant, above 0 and without a stated unit, or nil where it is unknown.</summary>
@@ -497,12 +413,7 @@ namespace Vyr
         /// <inheritdoc/>
         public new Density Clone() => (Density)Copy();
         internal override VyrObject Copy() => Copied(new Density(Native.Make(Pointer)));
-
-        /// <inheritdoc/>
-        public override bool IsComplete => Is(Native.is_occurs_ok(Pointer));
-
-        /// <inheritdoc/>
-        public override void Reset() { RemoveParts(); Native.reset(Pointer); Keep(); }
+        internal override ClassCalls Class => Parts.Class;
 
         /// <summary>True for an element that says that it has no value.</summary>
         public bool IsNil => Is(Native.isnil_Density(Pointer));
@@ -526,12 +437,7 @@ namespace Vyr
         /// <inheritdoc/>
         public new ColorantElementType_Colorant Clone() => (ColorantElementType_Colorant)Copy();
         internal override VyrObject Copy() => Copied(new ColorantElementType_Colorant(Native.Make(Pointer)));
-
-        /// <inheritdoc/>
-        public override bool IsComplete => Is(Native.is_occurs_ok(Pointer));
-
-        /// <inheritdoc/>
-        public override void Reset() { RemoveParts(); Native.reset(Pointer); Keep(); }
+        internal override ClassCalls Class => Parts.Class;
 
         /// <summary>A named value of the user's own.</summary>
         public ObjectList<CustomAttributeType> CustomAttributes => (ObjectList<CustomAttributeType>)(Part(0) ?? Remember(0, new ObjectList<CustomAttributeType>(this, "CustomAttributes", Parts.CustomAttribute)));
@@ -564,12 +470,7 @@ namespace Vyr
         /// <inheritdoc/>
         public new ColorantElementType Clone() => (ColorantElementType)Copy();
         internal override VyrObject Copy() => Copied(new ColorantElementType(Native.Make(Pointer)));
-
-        /// <inheritdoc/>
-        public override bool IsComplete => Is(Native.is_occurs_ok(Pointer));
-
-        /// <inheritdoc/>
-        public override void Reset() { RemoveParts(); Native.reset(Pointer); Keep(); }
+        internal override ClassCalls Class => Parts.Class;
 
         /// <summary>The colorant. Null until set; assigning copies.</summary>
         public ColorantElementType_Colorant Colorant { get => (ColorantElementType_Colorant)Child(0, Parts.Colorant); set => AssignChild(0, Parts.Colorant, value); }

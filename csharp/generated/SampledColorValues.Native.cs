@@ -12,11 +12,11 @@ namespace Vyr
     {
         static class Native
         {
-            [DllImport(Library.Name, EntryPoint = "CSharp_ColorSpaceDensityType_is_occurs_ok")] internal static extern int is_occurs_ok(IntPtr self);
-            [DllImport(Library.Name, EntryPoint = "CSharp_ColorSpaceDensityType_reset")] internal static extern void reset(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_ColorSpaceDensityType_isset_Name")] internal static extern int isset_Name(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_ColorSpaceDensityType_get_Name")] [return: MarshalAs(UnmanagedType.BStr)] internal static extern string get_Name(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_ColorSpaceDensityType_set_Name")] internal static extern int set_Name(IntPtr self, [MarshalAs(UnmanagedType.LPWStr)] string value);
+            [DllImport(Library.Name, EntryPoint = "CSharp_ColorSpaceDensityType_is_occurs_ok")] internal static extern int is_occurs_ok(IntPtr self);
+            [DllImport(Library.Name, EntryPoint = "CSharp_ColorSpaceDensityType_reset")] internal static extern void reset(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_ColorSpaceDensityType_get_ColorSpaceSpecificationSpectrumGeneric__SWIG_0")] internal static extern IntPtr get_ColorSpaceSpecificationSpectrumGeneric(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_ColorSpaceDensityType_assign_ColorSpaceSpecificationSpectrumGeneric")] internal static extern IntPtr assign_ColorSpaceSpecificationSpectrumGeneric(IntPtr self, IntPtr value);
             [DllImport(Library.Name, EntryPoint = "CSharp_ColorSpaceDensityType_size_Density")] internal static extern uint size_Density(IntPtr self);
@@ -37,6 +37,8 @@ namespace Vyr
 
         static class Parts
         {
+            static ClassCalls madeClass;
+            internal static ClassCalls Class => madeClass != null ? madeClass : madeClass = new ClassCalls { IsComplete = Native.is_occurs_ok, Reset = Native.reset };
             static IntPtr madeColorSpaceSpecificationSpectrumGenericItem;
             internal static IntPtr ColorSpaceSpecificationSpectrumGenericItem => madeColorSpaceSpecificationSpectrumGenericItem != IntPtr.Zero ? madeColorSpaceSpecificationSpectrumGenericItem : madeColorSpaceSpecificationSpectrumGenericItem = Library.Item("ColorSpaceDensityType", "ColorSpaceSpecificationSpectrumGeneric");
             static PartCalls madeColorSpaceSpecificationSpectrumGeneric;
@@ -50,11 +52,11 @@ namespace Vyr
     {
         static class Native
         {
-            [DllImport(Library.Name, EntryPoint = "CSharp_ColorSpaceSpectralType_is_occurs_ok")] internal static extern int is_occurs_ok(IntPtr self);
-            [DllImport(Library.Name, EntryPoint = "CSharp_ColorSpaceSpectralType_reset")] internal static extern void reset(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_ColorSpaceSpectralType_isset_Name")] internal static extern int isset_Name(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_ColorSpaceSpectralType_get_Name")] [return: MarshalAs(UnmanagedType.BStr)] internal static extern string get_Name(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_ColorSpaceSpectralType_set_Name")] internal static extern int set_Name(IntPtr self, [MarshalAs(UnmanagedType.LPWStr)] string value);
+            [DllImport(Library.Name, EntryPoint = "CSharp_ColorSpaceSpectralType_is_occurs_ok")] internal static extern int is_occurs_ok(IntPtr self);
+            [DllImport(Library.Name, EntryPoint = "CSharp_ColorSpaceSpectralType_reset")] internal static extern void reset(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_ColorSpaceSpectralType_get_ColorSpaceSpecificationSpectrumSpectral__SWIG_0")] internal static extern IntPtr get_ColorSpaceSpecificationSpectrumSpectral(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_ColorSpaceSpectralType_assign_ColorSpaceSpecificationSpectrumSpectral")] internal static extern IntPtr assign_ColorSpaceSpecificationSpectrumSpectral(IntPtr self, IntPtr value);
             [DllImport(Library.Name, EntryPoint = "CSharp_ColorSpaceSpectralType_size_ReflectancePoint")] internal static extern uint size_ReflectancePoint(IntPtr self);
@@ -75,6 +77,8 @@ namespace Vyr
 
         static class Parts
         {
+            static ClassCalls madeClass;
+            internal static ClassCalls Class => madeClass != null ? madeClass : madeClass = new ClassCalls { IsComplete = Native.is_occurs_ok, Reset = Native.reset };
             static IntPtr madeColorSpaceSpecificationSpectrumSpectralItem;
             internal static IntPtr ColorSpaceSpecificationSpectrumSpectralItem => madeColorSpaceSpecificationSpectrumSpectralItem != IntPtr.Zero ? madeColorSpaceSpecificationSpectrumSpectralItem : madeColorSpaceSpecificationSpectrumSpectralItem = Library.Item("ColorSpaceSpectralType", "ColorSpaceSpecificationSpectrumSpectral");
             static PartCalls madeColorSpaceSpecificationSpectrumSpectral;
@@ -94,11 +98,11 @@ namespace Vyr
     {
         static class Native
         {
-            [DllImport(Library.Name, EntryPoint = "CSharp_ColorSpaceEmissiveSpectralType_is_occurs_ok")] internal static extern int is_occurs_ok(IntPtr self);
-            [DllImport(Library.Name, EntryPoint = "CSharp_ColorSpaceEmissiveSpectralType_reset")] internal static extern void reset(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_ColorSpaceEmissiveSpectralType_isset_Name")] internal static extern int isset_Name(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_ColorSpaceEmissiveSpectralType_get_Name")] [return: MarshalAs(UnmanagedType.BStr)] internal static extern string get_Name(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_ColorSpaceEmissiveSpectralType_set_Name")] internal static extern int set_Name(IntPtr self, [MarshalAs(UnmanagedType.LPWStr)] string value);
+            [DllImport(Library.Name, EntryPoint = "CSharp_ColorSpaceEmissiveSpectralType_is_occurs_ok")] internal static extern int is_occurs_ok(IntPtr self);
+            [DllImport(Library.Name, EntryPoint = "CSharp_ColorSpaceEmissiveSpectralType_reset")] internal static extern void reset(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_ColorSpaceEmissiveSpectralType_get_ColorSpaceSpecificationEmissiveSpectral__SWIG_0")] internal static extern IntPtr get_ColorSpaceSpecificationEmissiveSpectral(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_ColorSpaceEmissiveSpectralType_assign_ColorSpaceSpecificationEmissiveSpectral")] internal static extern IntPtr assign_ColorSpaceSpecificationEmissiveSpectral(IntPtr self, IntPtr value);
             [DllImport(Library.Name, EntryPoint = "CSharp_ColorSpaceEmissiveSpectralType_size_EmissiveSpectralPoint")] internal static extern uint size_EmissiveSpectralPoint(IntPtr self);
@@ -119,6 +123,8 @@ namespace Vyr
 
         static class Parts
         {
+            static ClassCalls madeClass;
+            internal static ClassCalls Class => madeClass != null ? madeClass : madeClass = new ClassCalls { IsComplete = Native.is_occurs_ok, Reset = Native.reset };
             static IntPtr madeColorSpaceSpecificationEmissiveSpectralItem;
             internal static IntPtr ColorSpaceSpecificationEmissiveSpectralItem => madeColorSpaceSpecificationEmissiveSpectralItem != IntPtr.Zero ? madeColorSpaceSpecificationEmissiveSpectralItem : madeColorSpaceSpecificationEmissiveSpectralItem = Library.Item("ColorSpaceEmissiveSpectralType", "ColorSpaceSpecificationEmissiveSpectral");
             static PartCalls madeColorSpaceSpecificationEmissiveSpectral;
@@ -138,10 +144,10 @@ namespace Vyr
     {
         static class Native
         {
-            [DllImport(Library.Name, EntryPoint = "CSharp_ColorSpaceGenericType_is_occurs_ok")] internal static extern int is_occurs_ok(IntPtr self);
-            [DllImport(Library.Name, EntryPoint = "CSharp_ColorSpaceGenericType_reset")] internal static extern void reset(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_ColorSpaceGenericType_get_Name")] [return: MarshalAs(UnmanagedType.BStr)] internal static extern string get_Name(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_ColorSpaceGenericType_set_Name")] internal static extern int set_Name(IntPtr self, [MarshalAs(UnmanagedType.LPWStr)] string value);
+            [DllImport(Library.Name, EntryPoint = "CSharp_ColorSpaceGenericType_is_occurs_ok")] internal static extern int is_occurs_ok(IntPtr self);
+            [DllImport(Library.Name, EntryPoint = "CSharp_ColorSpaceGenericType_reset")] internal static extern void reset(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_ColorSpaceGenericType_get_ColorSpaceSpecificationSpectrumGeneric__SWIG_0")] internal static extern IntPtr get_ColorSpaceSpecificationSpectrumGeneric(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_ColorSpaceGenericType_assign_ColorSpaceSpecificationSpectrumGeneric")] internal static extern IntPtr assign_ColorSpaceSpecificationSpectrumGeneric(IntPtr self, IntPtr value);
             [DllImport(Library.Name, EntryPoint = "CSharp_ColorSpaceGenericType_size_Axis")] internal static extern uint size_Axis(IntPtr self);
@@ -160,6 +166,8 @@ namespace Vyr
 
         static class Parts
         {
+            static ClassCalls madeClass;
+            internal static ClassCalls Class => madeClass != null ? madeClass : madeClass = new ClassCalls { IsComplete = Native.is_occurs_ok, Reset = Native.reset };
             static IntPtr madeColorSpaceSpecificationSpectrumGenericItem;
             internal static IntPtr ColorSpaceSpecificationSpectrumGenericItem => madeColorSpaceSpecificationSpectrumGenericItem != IntPtr.Zero ? madeColorSpaceSpecificationSpectrumGenericItem : madeColorSpaceSpecificationSpectrumGenericItem = Library.Item("ColorSpaceGenericType", "ColorSpaceSpecificationSpectrumGeneric");
             static PartCalls madeColorSpaceSpecificationSpectrumGeneric;
@@ -173,10 +181,10 @@ namespace Vyr
     {
         static class Native
         {
-            [DllImport(Library.Name, EntryPoint = "CSharp_ColorSpaceEmissiveGenericType_is_occurs_ok")] internal static extern int is_occurs_ok(IntPtr self);
-            [DllImport(Library.Name, EntryPoint = "CSharp_ColorSpaceEmissiveGenericType_reset")] internal static extern void reset(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_ColorSpaceEmissiveGenericType_get_Name")] [return: MarshalAs(UnmanagedType.BStr)] internal static extern string get_Name(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_ColorSpaceEmissiveGenericType_set_Name")] internal static extern int set_Name(IntPtr self, [MarshalAs(UnmanagedType.LPWStr)] string value);
+            [DllImport(Library.Name, EntryPoint = "CSharp_ColorSpaceEmissiveGenericType_is_occurs_ok")] internal static extern int is_occurs_ok(IntPtr self);
+            [DllImport(Library.Name, EntryPoint = "CSharp_ColorSpaceEmissiveGenericType_reset")] internal static extern void reset(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_ColorSpaceEmissiveGenericType_get_ColorSpaceSpecificationEmissiveGeneric__SWIG_0")] internal static extern IntPtr get_ColorSpaceSpecificationEmissiveGeneric(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_ColorSpaceEmissiveGenericType_assign_ColorSpaceSpecificationEmissiveGeneric")] internal static extern IntPtr assign_ColorSpaceSpecificationEmissiveGeneric(IntPtr self, IntPtr value);
             [DllImport(Library.Name, EntryPoint = "CSharp_ColorSpaceEmissiveGenericType_size_Axis")] internal static extern uint size_Axis(IntPtr self);
@@ -195,6 +203,8 @@ namespace Vyr
 
         static class Parts
         {
+            static ClassCalls madeClass;
+            internal static ClassCalls Class => madeClass != null ? madeClass : madeClass = new ClassCalls { IsComplete = Native.is_occurs_ok, Reset = Native.reset };
             static IntPtr madeColorSpaceSpecificationEmissiveGenericItem;
             internal static IntPtr ColorSpaceSpecificationEmissiveGenericItem => madeColorSpaceSpecificationEmissiveGenericItem != IntPtr.Zero ? madeColorSpaceSpecificationEmissiveGenericItem : madeColorSpaceSpecificationEmissiveGenericItem = Library.Item("ColorSpaceEmissiveGenericType", "ColorSpaceSpecificationEmissiveGeneric");
             static PartCalls madeColorSpaceSpecificationEmissiveGeneric;
@@ -268,17 +278,23 @@ namespace Vyr
     {
         static class Native
         {
-            [DllImport(Library.Name, EntryPoint = "CSharp_ReflectancePointType_is_occurs_ok")] internal static extern int is_occurs_ok(IntPtr self);
-            [DllImport(Library.Name, EntryPoint = "CSharp_ReflectancePointType_reset")] internal static extern void reset(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_ReflectancePointType_get_Wavelength")] internal static extern double get_Wavelength(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_ReflectancePointType_set_Wavelength")] internal static extern int set_Wavelength(IntPtr self, double value);
             [DllImport(Library.Name, EntryPoint = "CSharp_ReflectancePointType_get_ReflectancePointType")] internal static extern double get_ReflectancePointType(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_ReflectancePointType_set_ReflectancePointType")] internal static extern int set_ReflectancePointType(IntPtr self, double value);
+            [DllImport(Library.Name, EntryPoint = "CSharp_ReflectancePointType_is_occurs_ok")] internal static extern int is_occurs_ok(IntPtr self);
+            [DllImport(Library.Name, EntryPoint = "CSharp_ReflectancePointType_reset")] internal static extern void reset(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_new_ReflectancePointType__SWIG_0")] internal static extern IntPtr New();
             [DllImport(Library.Name, EntryPoint = "CSharp_delete_ReflectancePointType")] internal static extern void Delete(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_new_ReflectancePointType__SWIG_1")] internal static extern IntPtr Copy(IntPtr source);
             internal static Handle Make() => Handle.New(() => New(), p => Delete(p));
             internal static Handle Make(IntPtr source) => Handle.New(() => Copy(source), p => Delete(p));
+        }
+
+        static class Parts
+        {
+            static ClassCalls madeClass;
+            internal static ClassCalls Class => madeClass != null ? madeClass : madeClass = new ClassCalls { IsComplete = Native.is_occurs_ok, Reset = Native.reset };
         }
     }
 
@@ -286,17 +302,23 @@ namespace Vyr
     {
         static class Native
         {
-            [DllImport(Library.Name, EntryPoint = "CSharp_EmissiveSpectralPointType_is_occurs_ok")] internal static extern int is_occurs_ok(IntPtr self);
-            [DllImport(Library.Name, EntryPoint = "CSharp_EmissiveSpectralPointType_reset")] internal static extern void reset(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_EmissiveSpectralPointType_get_Wavelength")] internal static extern double get_Wavelength(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_EmissiveSpectralPointType_set_Wavelength")] internal static extern int set_Wavelength(IntPtr self, double value);
             [DllImport(Library.Name, EntryPoint = "CSharp_EmissiveSpectralPointType_get_EmissiveSpectralPointType")] internal static extern double get_EmissiveSpectralPointType(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_EmissiveSpectralPointType_set_EmissiveSpectralPointType")] internal static extern int set_EmissiveSpectralPointType(IntPtr self, double value);
+            [DllImport(Library.Name, EntryPoint = "CSharp_EmissiveSpectralPointType_is_occurs_ok")] internal static extern int is_occurs_ok(IntPtr self);
+            [DllImport(Library.Name, EntryPoint = "CSharp_EmissiveSpectralPointType_reset")] internal static extern void reset(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_new_EmissiveSpectralPointType__SWIG_0")] internal static extern IntPtr New();
             [DllImport(Library.Name, EntryPoint = "CSharp_delete_EmissiveSpectralPointType")] internal static extern void Delete(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_new_EmissiveSpectralPointType__SWIG_1")] internal static extern IntPtr Copy(IntPtr source);
             internal static Handle Make() => Handle.New(() => New(), p => Delete(p));
             internal static Handle Make(IntPtr source) => Handle.New(() => Copy(source), p => Delete(p));
+        }
+
+        static class Parts
+        {
+            static ClassCalls madeClass;
+            internal static ClassCalls Class => madeClass != null ? madeClass : madeClass = new ClassCalls { IsComplete = Native.is_occurs_ok, Reset = Native.reset };
         }
     }
 
@@ -304,11 +326,11 @@ namespace Vyr
     {
         static class Native
         {
-            [DllImport(Library.Name, EntryPoint = "CSharp_AxisValueChoice_is_occurs_ok")] internal static extern int is_occurs_ok(IntPtr self);
-            [DllImport(Library.Name, EntryPoint = "CSharp_AxisValueChoice_reset")] internal static extern void reset(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_AxisValueChoice_getchosen")] internal static extern int getchosen(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_AxisValueChoice_get_AxisStringValue")] [return: MarshalAs(UnmanagedType.BStr)] internal static extern string get_AxisStringValue(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_AxisValueChoice_set_AxisStringValue")] internal static extern int set_AxisStringValue(IntPtr self, [MarshalAs(UnmanagedType.LPWStr)] string value);
+            [DllImport(Library.Name, EntryPoint = "CSharp_AxisValueChoice_is_occurs_ok")] internal static extern int is_occurs_ok(IntPtr self);
+            [DllImport(Library.Name, EntryPoint = "CSharp_AxisValueChoice_reset")] internal static extern void reset(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_AxisValueChoice_get_AxisFloatingPointValue__SWIG_0")] internal static extern IntPtr get_AxisFloatingPointValue(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_AxisValueChoice_assign_AxisFloatingPointValue")] internal static extern IntPtr assign_AxisFloatingPointValue(IntPtr self, IntPtr value);
             [DllImport(Library.Name, EntryPoint = "CSharp_new_AxisValueChoice__SWIG_0")] internal static extern IntPtr New();
@@ -320,6 +342,8 @@ namespace Vyr
 
         static class Parts
         {
+            static ClassCalls madeClass;
+            internal static ClassCalls Class => madeClass != null ? madeClass : madeClass = new ClassCalls { IsComplete = Native.is_occurs_ok, Reset = Native.reset };
             static PartCalls madeAxisFloatingPointValue;
             internal static PartCalls AxisFloatingPointValue => madeAxisFloatingPointValue != null ? madeAxisFloatingPointValue : madeAxisFloatingPointValue = new PartCalls { Make = h => new FloatingPointValueType(h), Get = Native.get_AxisFloatingPointValue, Assign = Native.assign_AxisFloatingPointValue };
         }
@@ -329,10 +353,10 @@ namespace Vyr
     {
         static class Native
         {
-            [DllImport(Library.Name, EntryPoint = "CSharp_AxisType_is_occurs_ok")] internal static extern int is_occurs_ok(IntPtr self);
-            [DllImport(Library.Name, EntryPoint = "CSharp_AxisType_reset")] internal static extern void reset(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_AxisType_get_AxisName")] [return: MarshalAs(UnmanagedType.BStr)] internal static extern string get_AxisName(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_AxisType_set_AxisName")] internal static extern int set_AxisName(IntPtr self, [MarshalAs(UnmanagedType.LPWStr)] string value);
+            [DllImport(Library.Name, EntryPoint = "CSharp_AxisType_is_occurs_ok")] internal static extern int is_occurs_ok(IntPtr self);
+            [DllImport(Library.Name, EntryPoint = "CSharp_AxisType_reset")] internal static extern void reset(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_AxisType_get_AxisValueChoice__SWIG_0")] internal static extern IntPtr get_AxisValueChoice(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_AxisType_assign_AxisValueChoice")] internal static extern IntPtr assign_AxisValueChoice(IntPtr self, IntPtr value);
             [DllImport(Library.Name, EntryPoint = "CSharp_new_AxisType__SWIG_0")] internal static extern IntPtr New();
@@ -344,6 +368,8 @@ namespace Vyr
 
         static class Parts
         {
+            static ClassCalls madeClass;
+            internal static ClassCalls Class => madeClass != null ? madeClass : madeClass = new ClassCalls { IsComplete = Native.is_occurs_ok, Reset = Native.reset };
             static IntPtr madeAxisValueChoiceItem;
             internal static IntPtr AxisValueChoiceItem => madeAxisValueChoiceItem != IntPtr.Zero ? madeAxisValueChoiceItem : madeAxisValueChoiceItem = Library.Item("AxisType", "AxisValueChoice");
             static PartCalls madeAxisValueChoice;
@@ -355,8 +381,6 @@ namespace Vyr
     {
         static class Native
         {
-            [DllImport(Library.Name, EntryPoint = "CSharp_FloatingPointValueType_is_occurs_ok")] internal static extern int is_occurs_ok(IntPtr self);
-            [DllImport(Library.Name, EntryPoint = "CSharp_FloatingPointValueType_reset")] internal static extern void reset(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_FloatingPointValueType_get_AxisNominalMax")] internal static extern double get_AxisNominalMax(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_FloatingPointValueType_set_AxisNominalMax")] internal static extern int set_AxisNominalMax(IntPtr self, double value);
             [DllImport(Library.Name, EntryPoint = "CSharp_FloatingPointValueType_get_AxisNominalMin")] internal static extern double get_AxisNominalMin(IntPtr self);
@@ -366,6 +390,8 @@ namespace Vyr
             [DllImport(Library.Name, EntryPoint = "CSharp_FloatingPointValueType_setenum_AxisNominalScale")] internal static extern int setenum_AxisNominalScale(IntPtr self, int number);
             [DllImport(Library.Name, EntryPoint = "CSharp_FloatingPointValueType_get_FloatingPointValueType")] internal static extern double get_FloatingPointValueType(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_FloatingPointValueType_set_FloatingPointValueType")] internal static extern int set_FloatingPointValueType(IntPtr self, double value);
+            [DllImport(Library.Name, EntryPoint = "CSharp_FloatingPointValueType_is_occurs_ok")] internal static extern int is_occurs_ok(IntPtr self);
+            [DllImport(Library.Name, EntryPoint = "CSharp_FloatingPointValueType_reset")] internal static extern void reset(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_new_FloatingPointValueType__SWIG_0")] internal static extern IntPtr New();
             [DllImport(Library.Name, EntryPoint = "CSharp_delete_FloatingPointValueType")] internal static extern void Delete(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_new_FloatingPointValueType__SWIG_1")] internal static extern IntPtr Copy(IntPtr source);
@@ -374,25 +400,37 @@ namespace Vyr
             internal static Handle Make(IntPtr source) => Handle.New(() => Copy(source), p => Delete(p));
             internal static int UnsetAxisNominalScale(IntPtr self) { unset_AxisNominalScale(self); return 0; }
         }
+
+        static class Parts
+        {
+            static ClassCalls madeClass;
+            internal static ClassCalls Class => madeClass != null ? madeClass : madeClass = new ClassCalls { IsComplete = Native.is_occurs_ok, Reset = Native.reset };
+        }
     }
 
     public partial class DensityType
     {
         static class Native
         {
-            [DllImport(Library.Name, EntryPoint = "CSharp_DensityType_is_occurs_ok")] internal static extern int is_occurs_ok(IntPtr self);
-            [DllImport(Library.Name, EntryPoint = "CSharp_DensityType_reset")] internal static extern void reset(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_DensityType_getenum_DensityStatus")] internal static extern int getenum_DensityStatus(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_DensityType_setenum_DensityStatus")] internal static extern int setenum_DensityStatus(IntPtr self, int number);
             [DllImport(Library.Name, EntryPoint = "CSharp_DensityType_getenum_DensityFilter")] internal static extern int getenum_DensityFilter(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_DensityType_setenum_DensityFilter")] internal static extern int setenum_DensityFilter(IntPtr self, int number);
             [DllImport(Library.Name, EntryPoint = "CSharp_DensityType_get_DensityType")] internal static extern double get_DensityType(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_DensityType_set_DensityType")] internal static extern int set_DensityType(IntPtr self, double value);
+            [DllImport(Library.Name, EntryPoint = "CSharp_DensityType_is_occurs_ok")] internal static extern int is_occurs_ok(IntPtr self);
+            [DllImport(Library.Name, EntryPoint = "CSharp_DensityType_reset")] internal static extern void reset(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_new_DensityType__SWIG_0")] internal static extern IntPtr New();
             [DllImport(Library.Name, EntryPoint = "CSharp_delete_DensityType")] internal static extern void Delete(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_new_DensityType__SWIG_1")] internal static extern IntPtr Copy(IntPtr source);
             internal static Handle Make() => Handle.New(() => New(), p => Delete(p));
             internal static Handle Make(IntPtr source) => Handle.New(() => Copy(source), p => Delete(p));
+        }
+
+        static class Parts
+        {
+            static ClassCalls madeClass;
+            internal static ClassCalls Class => madeClass != null ? madeClass : madeClass = new ClassCalls { IsComplete = Native.is_occurs_ok, Reset = Native.reset };
         }
     }
 }

@@ -18,12 +18,7 @@ namespace Vyr
         /// <inheritdoc/>
         public new ColorSpaceDensityType Clone() => (ColorSpaceDensityType)Copy();
         internal override VyrObject Copy() => Copied(new ColorSpaceDensityType(Native.Make(Pointer)));
-
-        /// <inheritdoc/>
-        public override bool IsComplete => Is(Native.is_occurs_ok(Pointer));
-
-        /// <inheritdoc/>
-        public override void Reset() { RemoveParts(); Native.reset(Pointer); Keep(); }
+        internal override ClassCalls Class => Parts.Class;
 
         /// <summary>Name of the value. Null if not set.</summary>
         public string Name { get => Is(Native.isset_Name(Pointer)) ? Kept(Native.get_Name(Pointer)) : null; set => Demand(value == null ? Native.UnsetName(Pointer) : Native.set_Name(Pointer, Library.Whole(value))); }
@@ -49,12 +44,7 @@ namespace Vyr
         /// <inheritdoc/>
         public new ColorSpaceSpectralType Clone() => (ColorSpaceSpectralType)Copy();
         internal override VyrObject Copy() => Copied(new ColorSpaceSpectralType(Native.Make(Pointer)));
-
-        /// <inheritdoc/>
-        public override bool IsComplete => Is(Native.is_occurs_ok(Pointer));
-
-        /// <inheritdoc/>
-        public override void Reset() { RemoveParts(); Native.reset(Pointer); Keep(); }
+        internal override ClassCalls Class => Parts.Class;
 
         /// <summary>Name of the value. Null if not set.</summary>
         public string Name { get => Is(Native.isset_Name(Pointer)) ? Kept(Native.get_Name(Pointer)) : null; set => Demand(value == null ? Native.UnsetName(Pointer) : Native.set_Name(Pointer, Library.Whole(value))); }
@@ -88,12 +78,7 @@ namespace Vyr
         /// <inheritdoc/>
         public new ColorSpaceEmissiveSpectralType Clone() => (ColorSpaceEmissiveSpectralType)Copy();
         internal override VyrObject Copy() => Copied(new ColorSpaceEmissiveSpectralType(Native.Make(Pointer)));
-
-        /// <inheritdoc/>
-        public override bool IsComplete => Is(Native.is_occurs_ok(Pointer));
-
-        /// <inheritdoc/>
-        public override void Reset() { RemoveParts(); Native.reset(Pointer); Keep(); }
+        internal override ClassCalls Class => Parts.Class;
 
         /// <summary>Name of the value. Null if not set.</summary>
         public string Name { get => Is(Native.isset_Name(Pointer)) ? Kept(Native.get_Name(Pointer)) : null; set => Demand(value == null ? Native.UnsetName(Pointer) : Native.set_Name(Pointer, Library.Whole(value))); }
@@ -127,12 +112,7 @@ namespace Vyr
         /// <inheritdoc/>
         public new ColorSpaceGenericType Clone() => (ColorSpaceGenericType)Copy();
         internal override VyrObject Copy() => Copied(new ColorSpaceGenericType(Native.Make(Pointer)));
-
-        /// <inheritdoc/>
-        public override bool IsComplete => Is(Native.is_occurs_ok(Pointer));
-
-        /// <inheritdoc/>
-        public override void Reset() { RemoveParts(); Native.reset(Pointer); Keep(); }
+        internal override ClassCalls Class => Parts.Class;
 
         /// <summary>Name of the colour space.</summary>
         public string Name { get => Kept(Native.get_Name(Pointer)); set => Demand(Native.set_Name(Pointer, Library.Whole(value))); }
@@ -158,12 +138,7 @@ namespace Vyr
         /// <inheritdoc/>
         public new ColorSpaceEmissiveGenericType Clone() => (ColorSpaceEmissiveGenericType)Copy();
         internal override VyrObject Copy() => Copied(new ColorSpaceEmissiveGenericType(Native.Make(Pointer)));
-
-        /// <inheritdoc/>
-        public override bool IsComplete => Is(Native.is_occurs_ok(Pointer));
-
-        /// <inheritdoc/>
-        public override void Reset() { RemoveParts(); Native.reset(Pointer); Keep(); }
+        internal override ClassCalls Class => Parts.Class;
 
         /// <summary>Name of the colour space.</summary>
         public string Name { get => Kept(Native.get_Name(Pointer)); set => Demand(Native.set_Name(Pointer, Library.Whole(value))); }
@@ -179,7 +154,7 @@ namespace Vyr
     }
 
     /// <summary>A reflective colour in a space that the format doesn't know, axis by axis.</summary>
-    public partial class ColorSpaceGeneric : ColorSpaceGenericType
+    public partial class ColorSpaceGeneric : ColorSpaceGenericType, IElement
     {
         /// <summary>A new object that stands on its own, with nothing set.</summary>
         public ColorSpaceGeneric() : this(Native.Make()) { }
@@ -196,16 +171,10 @@ namespace Vyr
         /// <summary>The same without throwing for what is wrong with the file; null then, unless the options ask for
         /// what was read.</summary>
         public static LoadReport TryLoad(string path, out ColorSpaceGeneric loaded, LoadOptions options = null) => Load(new ColorSpaceGeneric(), path, options, out loaded);
-
-        /// <summary>Saves a file with this element as its root.</summary>
-        public void Save(string path) => TrySave(path).DemandSaved();
-
-        /// <summary>The same without throwing for what is wrong.</summary>
-        public LoadReport TrySave(string path) => SaveElement(path);
     }
 
     /// <summary>An emissive colour in a space that the format doesn't know, axis by axis.</summary>
-    public partial class ColorSpaceEmissiveGeneric : ColorSpaceEmissiveGenericType
+    public partial class ColorSpaceEmissiveGeneric : ColorSpaceEmissiveGenericType, IElement
     {
         /// <summary>A new object that stands on its own, with nothing set.</summary>
         public ColorSpaceEmissiveGeneric() : this(Native.Make()) { }
@@ -222,16 +191,10 @@ namespace Vyr
         /// <summary>The same without throwing for what is wrong with the file; null then, unless the options ask for
         /// what was read.</summary>
         public static LoadReport TryLoad(string path, out ColorSpaceEmissiveGeneric loaded, LoadOptions options = null) => Load(new ColorSpaceEmissiveGeneric(), path, options, out loaded);
-
-        /// <summary>Saves a file with this element as its root.</summary>
-        public void Save(string path) => TrySave(path).DemandSaved();
-
-        /// <summary>The same without throwing for what is wrong.</summary>
-        public LoadReport TrySave(string path) => SaveElement(path);
     }
 
     /// <summary>A colour by its optical densities through one or more filters.</summary>
-    public partial class ColorSpaceDensity : ColorSpaceDensityType
+    public partial class ColorSpaceDensity : ColorSpaceDensityType, IElement
     {
         /// <summary>A new object that stands on its own, with nothing set.</summary>
         public ColorSpaceDensity() : this(Native.Make()) { }
@@ -248,16 +211,10 @@ namespace Vyr
         /// <summary>The same without throwing for what is wrong with the file; null then, unless the options ask for
         /// what was read.</summary>
         public static LoadReport TryLoad(string path, out ColorSpaceDensity loaded, LoadOptions options = null) => Load(new ColorSpaceDensity(), path, options, out loaded);
-
-        /// <summary>Saves a file with this element as its root.</summary>
-        public void Save(string path) => TrySave(path).DemandSaved();
-
-        /// <summary>The same without throwing for what is wrong.</summary>
-        public LoadReport TrySave(string path) => SaveElement(path);
     }
 
     /// <summary>A reflective or transmissive colour as a sampled spectrum.</summary>
-    public partial class ColorSpaceSpectral : ColorSpaceSpectralType
+    public partial class ColorSpaceSpectral : ColorSpaceSpectralType, IElement
     {
         /// <summary>A new object that stands on its own, with nothing set.</summary>
         public ColorSpaceSpectral() : this(Native.Make()) { }
@@ -274,16 +231,10 @@ namespace Vyr
         /// <summary>The same without throwing for what is wrong with the file; null then, unless the options ask for
         /// what was read.</summary>
         public static LoadReport TryLoad(string path, out ColorSpaceSpectral loaded, LoadOptions options = null) => Load(new ColorSpaceSpectral(), path, options, out loaded);
-
-        /// <summary>Saves a file with this element as its root.</summary>
-        public void Save(string path) => TrySave(path).DemandSaved();
-
-        /// <summary>The same without throwing for what is wrong.</summary>
-        public LoadReport TrySave(string path) => SaveElement(path);
     }
 
     /// <summary>An emissive colour as a sampled spectrum.</summary>
-    public partial class ColorSpaceEmissiveSpectral : ColorSpaceEmissiveSpectralType
+    public partial class ColorSpaceEmissiveSpectral : ColorSpaceEmissiveSpectralType, IElement
     {
         /// <summary>A new object that stands on its own, with nothing set.</summary>
         public ColorSpaceEmissiveSpectral() : this(Native.Make()) { }
@@ -300,12 +251,6 @@ namespace Vyr
         /// <summary>The same without throwing for what is wrong with the file; null then, unless the options ask for
         /// what was read.</summary>
         public static LoadReport TryLoad(string path, out ColorSpaceEmissiveSpectral loaded, LoadOptions options = null) => Load(new ColorSpaceEmissiveSpectral(), path, options, out loaded);
-
-        /// <summary>Saves a file with this element as its root.</summary>
-        public void Save(string path) => TrySave(path).DemandSaved();
-
-        /// <summary>The same without throwing for what is wrong.</summary>
-        public LoadReport TrySave(string path) => SaveElement(path);
     }
 
     /// <summary>Reflectance factor at one wavelength.</summary>
@@ -319,12 +264,7 @@ namespace Vyr
         /// <inheritdoc/>
         public new ReflectancePointType Clone() => (ReflectancePointType)Copy();
         internal override VyrObject Copy() => Copied(new ReflectancePointType(Native.Make(Pointer)));
-
-        /// <inheritdoc/>
-        public override bool IsComplete => Is(Native.is_occurs_ok(Pointer));
-
-        /// <inheritdoc/>
-        public override void Reset() { RemoveParts(); Native.reset(Pointer); Keep(); }
+        internal override ClassCalls Class => Parts.Class;
 
         /// <summary>Wavelength in nanometres, above 0.</summary>
         public double Wavelength { get => Kept(Native.get_Wavelength(Pointer)); set => Demand(Native.set_Wavelength(Pointer, value)); }
@@ -345,12 +285,7 @@ namespace Vyr
         /// <inheritdoc/>
         public new EmissiveSpectralPointType Clone() => (EmissiveSpectralPointType)Copy();
         internal override VyrObject Copy() => Copied(new EmissiveSpectralPointType(Native.Make(Pointer)));
-
-        /// <inheritdoc/>
-        public override bool IsComplete => Is(Native.is_occurs_ok(Pointer));
-
-        /// <inheritdoc/>
-        public override void Reset() { RemoveParts(); Native.reset(Pointer); Keep(); }
+        internal override ClassCalls Class => Parts.Class;
 
         /// <summary>Wavelength in nanometres, above 0.</summary>
         public double Wavelength { get => Kept(Native.get_Wavelength(Pointer)); set => Demand(Native.set_Wavelength(Pointer, value)); }
@@ -370,12 +305,7 @@ namespace Vyr
         /// <inheritdoc/>
         public new AxisValueChoice Clone() => (AxisValueChoice)Copy();
         internal override VyrObject Copy() => Copied(new AxisValueChoice(Native.Make(Pointer)));
-
-        /// <inheritdoc/>
-        public override bool IsComplete => Is(Native.is_occurs_ok(Pointer));
-
-        /// <inheritdoc/>
-        public override void Reset() { RemoveParts(); Native.reset(Pointer); Keep(); }
+        internal override ClassCalls Class => Parts.Class;
 
         /// <summary>Which alternative an object holds.</summary>
         public enum Alternative
@@ -419,12 +349,7 @@ namespace Vyr
         /// <inheritdoc/>
         public new AxisType Clone() => (AxisType)Copy();
         internal override VyrObject Copy() => Copied(new AxisType(Native.Make(Pointer)));
-
-        /// <inheritdoc/>
-        public override bool IsComplete => Is(Native.is_occurs_ok(Pointer));
-
-        /// <inheritdoc/>
-        public override void Reset() { RemoveParts(); Native.reset(Pointer); Keep(); }
+        internal override ClassCalls Class => Parts.Class;
 
         /// <summary>Name of the axis.</summary>
         public string AxisName { get => Kept(Native.get_AxisName(Pointer)); set => Demand(Native.set_AxisName(Pointer, Library.Whole(value))); }
@@ -447,12 +372,7 @@ namespace Vyr
         /// <inheritdoc/>
         public new FloatingPointValueType Clone() => (FloatingPointValueType)Copy();
         internal override VyrObject Copy() => Copied(new FloatingPointValueType(Native.Make(Pointer)));
-
-        /// <inheritdoc/>
-        public override bool IsComplete => Is(Native.is_occurs_ok(Pointer));
-
-        /// <inheritdoc/>
-        public override void Reset() { RemoveParts(); Native.reset(Pointer); Keep(); }
+        internal override ClassCalls Class => Parts.Class;
 
         /// <summary>Upper end of the axis's nominal range.</summary>
         public double AxisNominalMax { get => Kept(Native.get_AxisNominalMax(Pointer)); set => Demand(Native.set_AxisNominalMax(Pointer, value)); }
@@ -479,12 +399,7 @@ namespace Vyr
         /// <inheritdoc/>
         public new DensityType Clone() => (DensityType)Copy();
         internal override VyrObject Copy() => Copied(new DensityType(Native.Make(Pointer)));
-
-        /// <inheritdoc/>
-        public override bool IsComplete => Is(Native.is_occurs_ok(Pointer));
-
-        /// <inheritdoc/>
-        public override void Reset() { RemoveParts(); Native.reset(Pointer); Keep(); }
+        internal override ClassCalls Class => Parts.Class;
 
         /// <summary>Density status, the set of filter responses.</summary>
         public DensityStatusKind DensityStatus { get => (DensityStatusKind)Kept(Native.getenum_DensityStatus(Pointer)); set => Demand(Listed(Native.setenum_DensityStatus(Pointer, (int)value))); }

@@ -12,8 +12,6 @@ namespace Vyr
     {
         static class Native
         {
-            [DllImport(Library.Name, EntryPoint = "CSharp_SampleType_is_occurs_ok")] internal static extern int is_occurs_ok(IntPtr self);
-            [DllImport(Library.Name, EntryPoint = "CSharp_SampleType_reset")] internal static extern void reset(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_SampleType_isset_Backing")] internal static extern int isset_Backing(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_SampleType_getenum_Backing")] internal static extern int getenum_Backing(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_SampleType_setenum_Backing")] internal static extern int setenum_Backing(IntPtr self, int number);
@@ -29,6 +27,8 @@ namespace Vyr
             [DllImport(Library.Name, EntryPoint = "CSharp_SampleType_isset_Comment")] internal static extern int isset_Comment(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_SampleType_get_Comment")] [return: MarshalAs(UnmanagedType.BStr)] internal static extern string get_Comment(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_SampleType_set_Comment")] internal static extern int set_Comment(IntPtr self, [MarshalAs(UnmanagedType.LPWStr)] string value);
+            [DllImport(Library.Name, EntryPoint = "CSharp_SampleType_is_occurs_ok")] internal static extern int is_occurs_ok(IntPtr self);
+            [DllImport(Library.Name, EntryPoint = "CSharp_SampleType_reset")] internal static extern void reset(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_SampleType_size_CustomAttribute")] internal static extern uint size_CustomAttribute(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_SampleType_get_CustomAttribute__SWIG_0")] internal static extern IntPtr get_CustomAttribute(IntPtr self, uint index);
             [DllImport(Library.Name, EntryPoint = "CSharp_SampleType_assign_CustomAttribute")] internal static extern IntPtr assign_CustomAttribute(IntPtr self, uint index, IntPtr value);
@@ -55,6 +55,8 @@ namespace Vyr
 
         static class Parts
         {
+            static ClassCalls madeClass;
+            internal static ClassCalls Class => madeClass != null ? madeClass : madeClass = new ClassCalls { IsComplete = Native.is_occurs_ok, Reset = Native.reset };
             static ObjectListCalls<CustomAttributeType> madeCustomAttribute;
             internal static ObjectListCalls<CustomAttributeType> CustomAttribute => madeCustomAttribute != null ? madeCustomAttribute : madeCustomAttribute = new ObjectListCalls<CustomAttributeType> { Make = h => new CustomAttributeType(h), Size = Native.size_CustomAttribute, Get = Native.get_CustomAttribute, Assign = Native.assign_CustomAttribute, Append = Native.append_CustomAttribute, Insert = Native.insert_CustomAttribute, Delete = Native.delete_CustomAttribute, Clear = Native.clear_CustomAttribute };
             static IntPtr madeSubstrateItem;
@@ -68,17 +70,23 @@ namespace Vyr
     {
         static class Native
         {
-            [DllImport(Library.Name, EntryPoint = "CSharp_Specification_is_occurs_ok")] internal static extern int is_occurs_ok(IntPtr self);
-            [DllImport(Library.Name, EntryPoint = "CSharp_Specification_reset")] internal static extern void reset(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_Specification_get_SampleWidth")] internal static extern double get_SampleWidth(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_Specification_set_SampleWidth")] internal static extern int set_SampleWidth(IntPtr self, double value);
             [DllImport(Library.Name, EntryPoint = "CSharp_Specification_get_SampleHeight")] internal static extern double get_SampleHeight(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_Specification_set_SampleHeight")] internal static extern int set_SampleHeight(IntPtr self, double value);
+            [DllImport(Library.Name, EntryPoint = "CSharp_Specification_is_occurs_ok")] internal static extern int is_occurs_ok(IntPtr self);
+            [DllImport(Library.Name, EntryPoint = "CSharp_Specification_reset")] internal static extern void reset(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_new_Specification__SWIG_0")] internal static extern IntPtr New();
             [DllImport(Library.Name, EntryPoint = "CSharp_delete_Specification")] internal static extern void Delete(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_new_Specification__SWIG_1")] internal static extern IntPtr Copy(IntPtr source);
             internal static Handle Make() => Handle.New(() => New(), p => Delete(p));
             internal static Handle Make(IntPtr source) => Handle.New(() => Copy(source), p => Delete(p));
+        }
+
+        static class Parts
+        {
+            static ClassCalls madeClass;
+            internal static ClassCalls Class => madeClass != null ? madeClass : madeClass = new ClassCalls { IsComplete = Native.is_occurs_ok, Reset = Native.reset };
         }
     }
 
@@ -99,6 +107,8 @@ namespace Vyr
 
         static class Parts
         {
+            static ClassCalls madeClass;
+            internal static ClassCalls Class => madeClass != null ? madeClass : madeClass = new ClassCalls { IsComplete = Native.is_occurs_ok, Reset = Native.reset };
             static IntPtr madeSpecificationItem;
             internal static IntPtr SpecificationItem => madeSpecificationItem != IntPtr.Zero ? madeSpecificationItem : madeSpecificationItem = Library.Item("SampleSpotType", "Specification");
             static PartCalls madeSpecification;
@@ -110,13 +120,13 @@ namespace Vyr
     {
         static class Native
         {
-            [DllImport(Library.Name, EntryPoint = "CSharp_SampleTargetType_is_occurs_ok")] internal static extern int is_occurs_ok(IntPtr self);
-            [DllImport(Library.Name, EntryPoint = "CSharp_SampleTargetType_reset")] internal static extern void reset(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_SampleTargetType_isset_CustomTarget")] internal static extern int isset_CustomTarget(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_SampleTargetType_get_CustomTarget")] [return: MarshalAs(UnmanagedType.BStr)] internal static extern string get_CustomTarget(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_SampleTargetType_set_CustomTarget")] internal static extern int set_CustomTarget(IntPtr self, [MarshalAs(UnmanagedType.LPWStr)] string value);
             [DllImport(Library.Name, EntryPoint = "CSharp_SampleTargetType_getenum_Target")] internal static extern int getenum_Target(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_SampleTargetType_setenum_Target")] internal static extern int setenum_Target(IntPtr self, int number);
+            [DllImport(Library.Name, EntryPoint = "CSharp_SampleTargetType_is_occurs_ok")] internal static extern int is_occurs_ok(IntPtr self);
+            [DllImport(Library.Name, EntryPoint = "CSharp_SampleTargetType_reset")] internal static extern void reset(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_new_SampleTargetType__SWIG_0")] internal static extern IntPtr New();
             [DllImport(Library.Name, EntryPoint = "CSharp_delete_SampleTargetType")] internal static extern void Delete(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_new_SampleTargetType__SWIG_1")] internal static extern IntPtr Copy(IntPtr source);
@@ -124,6 +134,12 @@ namespace Vyr
             internal static Handle Make() => Handle.New(() => New(), p => Delete(p));
             internal static Handle Make(IntPtr source) => Handle.New(() => Copy(source), p => Delete(p));
             internal static int UnsetCustomTarget(IntPtr self) { unset_CustomTarget(self); return 0; }
+        }
+
+        static class Parts
+        {
+            static ClassCalls madeClass;
+            internal static ClassCalls Class => madeClass != null ? madeClass : madeClass = new ClassCalls { IsComplete = Native.is_occurs_ok, Reset = Native.reset };
         }
     }
 

@@ -15,12 +15,7 @@ namespace Vyr
         /// <inheritdoc/>
         public new SampleType Clone() => (SampleType)Copy();
         internal override VyrObject Copy() => Copied(new SampleType(Native.Make(Pointer)));
-
-        /// <inheritdoc/>
-        public override bool IsComplete => Is(Native.is_occurs_ok(Pointer));
-
-        /// <inheritdoc/>
-        public override void Reset() { RemoveParts(); Native.reset(Pointer); Keep(); }
+        internal override ClassCalls Class => Parts.Class;
 
         /// <summary>A named value of the user's own.</summary>
         public ObjectList<CustomAttributeType> CustomAttributes => (ObjectList<CustomAttributeType>)(Part(0) ?? Remember(0, new ObjectList<CustomAttributeType>(this, "CustomAttributes", Parts.CustomAttribute)));
@@ -68,12 +63,7 @@ namespace Vyr
         /// <inheritdoc/>
         public new Specification Clone() => (Specification)Copy();
         internal override VyrObject Copy() => Copied(new Specification(Native.Make(Pointer)));
-
-        /// <inheritdoc/>
-        public override bool IsComplete => Is(Native.is_occurs_ok(Pointer));
-
-        /// <inheritdoc/>
-        public override void Reset() { RemoveParts(); Native.reset(Pointer); Keep(); }
+        internal override ClassCalls Class => Parts.Class;
 
         /// <summary>Width; no unit is stated.</summary>
         public double SampleWidth { get => Kept(Native.get_SampleWidth(Pointer)); set => Demand(Native.set_SampleWidth(Pointer, value)); }
@@ -93,12 +83,7 @@ namespace Vyr
         /// <inheritdoc/>
         public new SampleSpotType Clone() => (SampleSpotType)Copy();
         internal override VyrObject Copy() => Copied(new SampleSpotType(Native.Make(Pointer)));
-
-        /// <inheritdoc/>
-        public override bool IsComplete => Is(Native.is_occurs_ok(Pointer));
-
-        /// <inheritdoc/>
-        public override void Reset() { RemoveParts(); Native.reset(Pointer); Keep(); }
+        internal override ClassCalls Class => Parts.Class;
 
         /// <summary>Size of the patch. Null until set; assigning copies.</summary>
         public Specification Specification { get => (Specification)Child(2, Parts.Specification); set => AssignChild(2, Parts.Specification, value); }
@@ -118,12 +103,7 @@ namespace Vyr
         /// <inheritdoc/>
         public new SampleTargetType Clone() => (SampleTargetType)Copy();
         internal override VyrObject Copy() => Copied(new SampleTargetType(Native.Make(Pointer)));
-
-        /// <inheritdoc/>
-        public override bool IsComplete => Is(Native.is_occurs_ok(Pointer));
-
-        /// <inheritdoc/>
-        public override void Reset() { RemoveParts(); Native.reset(Pointer); Keep(); }
+        internal override ClassCalls Class => Parts.Class;
 
         /// <summary>Name of the chart where Target is Target_Custom. Null if not set.</summary>
         public string CustomTarget { get => Is(Native.isset_CustomTarget(Pointer)) ? Kept(Native.get_CustomTarget(Pointer)) : null; set => Demand(value == null ? Native.UnsetCustomTarget(Pointer) : Native.set_CustomTarget(Pointer, Library.Whole(value))); }
@@ -133,7 +113,7 @@ namespace Vyr
     }
 
     /// <summary>A single patch of one colour.</summary>
-    public partial class SampleSpot : SampleSpotType
+    public partial class SampleSpot : SampleSpotType, IElement
     {
         /// <summary>A new object that stands on its own, with nothing set.</summary>
         public SampleSpot() : this(Native.Make()) { }
@@ -150,16 +130,10 @@ namespace Vyr
         /// <summary>The same without throwing for what is wrong with the file; null then, unless the options ask for
         /// what was read.</summary>
         public static LoadReport TryLoad(string path, out SampleSpot loaded, LoadOptions options = null) => Load(new SampleSpot(), path, options, out loaded);
-
-        /// <summary>Saves a file with this element as its root.</summary>
-        public void Save(string path) => TrySave(path).DemandSaved();
-
-        /// <summary>The same without throwing for what is wrong.</summary>
-        public LoadReport TrySave(string path) => SaveElement(path);
     }
 
     /// <summary>A test chart of many patches.</summary>
-    public partial class SampleTarget : SampleTargetType
+    public partial class SampleTarget : SampleTargetType, IElement
     {
         /// <summary>A new object that stands on its own, with nothing set.</summary>
         public SampleTarget() : this(Native.Make()) { }
@@ -176,11 +150,5 @@ namespace Vyr
         /// <summary>The same without throwing for what is wrong with the file; null then, unless the options ask for
         /// what was read.</summary>
         public static LoadReport TryLoad(string path, out SampleTarget loaded, LoadOptions options = null) => Load(new SampleTarget(), path, options, out loaded);
-
-        /// <summary>Saves a file with this element as its root.</summary>
-        public void Save(string path) => TrySave(path).DemandSaved();
-
-        /// <summary>The same without throwing for what is wrong.</summary>
-        public LoadReport TrySave(string path) => SaveElement(path);
     }
 }

@@ -18,12 +18,7 @@ namespace Vyr
         /// <inheritdoc/>
         public new FunctionStdDevXType Clone() => (FunctionStdDevXType)Copy();
         internal override VyrObject Copy() => Copied(new FunctionStdDevXType(Native.Make(Pointer)));
-
-        /// <inheritdoc/>
-        public override bool IsComplete => Is(Native.is_occurs_ok(Pointer));
-
-        /// <inheritdoc/>
-        public override void Reset() { RemoveParts(); Native.reset(Pointer); Keep(); }
+        internal override ClassCalls Class => Parts.Class;
     }
 
     /// <summary>Standard deviation of the tristimulus value Y.</summary>
@@ -37,12 +32,7 @@ namespace Vyr
         /// <inheritdoc/>
         public new FunctionStdDevYType Clone() => (FunctionStdDevYType)Copy();
         internal override VyrObject Copy() => Copied(new FunctionStdDevYType(Native.Make(Pointer)));
-
-        /// <inheritdoc/>
-        public override bool IsComplete => Is(Native.is_occurs_ok(Pointer));
-
-        /// <inheritdoc/>
-        public override void Reset() { RemoveParts(); Native.reset(Pointer); Keep(); }
+        internal override ClassCalls Class => Parts.Class;
     }
 
     /// <summary>Standard deviation of the tristimulus value Z.</summary>
@@ -56,12 +46,7 @@ namespace Vyr
         /// <inheritdoc/>
         public new FunctionStdDevZType Clone() => (FunctionStdDevZType)Copy();
         internal override VyrObject Copy() => Copied(new FunctionStdDevZType(Native.Make(Pointer)));
-
-        /// <inheritdoc/>
-        public override bool IsComplete => Is(Native.is_occurs_ok(Pointer));
-
-        /// <inheritdoc/>
-        public override void Reset() { RemoveParts(); Native.reset(Pointer); Keep(); }
+        internal override ClassCalls Class => Parts.Class;
     }
 
     /// <summary>Standard deviation of the lightness L*.</summary>
@@ -75,12 +60,7 @@ namespace Vyr
         /// <inheritdoc/>
         public new FunctionStdDevLType Clone() => (FunctionStdDevLType)Copy();
         internal override VyrObject Copy() => Copied(new FunctionStdDevLType(Native.Make(Pointer)));
-
-        /// <inheritdoc/>
-        public override bool IsComplete => Is(Native.is_occurs_ok(Pointer));
-
-        /// <inheritdoc/>
-        public override void Reset() { RemoveParts(); Native.reset(Pointer); Keep(); }
+        internal override ClassCalls Class => Parts.Class;
     }
 
     /// <summary>Standard deviation of a*.</summary>
@@ -94,12 +74,7 @@ namespace Vyr
         /// <inheritdoc/>
         public new FunctionStdDevAType Clone() => (FunctionStdDevAType)Copy();
         internal override VyrObject Copy() => Copied(new FunctionStdDevAType(Native.Make(Pointer)));
-
-        /// <inheritdoc/>
-        public override bool IsComplete => Is(Native.is_occurs_ok(Pointer));
-
-        /// <inheritdoc/>
-        public override void Reset() { RemoveParts(); Native.reset(Pointer); Keep(); }
+        internal override ClassCalls Class => Parts.Class;
     }
 
     /// <summary>Standard deviation of b*.</summary>
@@ -113,12 +88,7 @@ namespace Vyr
         /// <inheritdoc/>
         public new FunctionStdDevBType Clone() => (FunctionStdDevBType)Copy();
         internal override VyrObject Copy() => Copied(new FunctionStdDevBType(Native.Make(Pointer)));
-
-        /// <inheritdoc/>
-        public override bool IsComplete => Is(Native.is_occurs_ok(Pointer));
-
-        /// <inheritdoc/>
-        public override void Reset() { RemoveParts(); Native.reset(Pointer); Keep(); }
+        internal override ClassCalls Class => Parts.Class;
     }
 
     /// <summary>Standard deviation of the chroma C*.</summary>
@@ -132,12 +102,7 @@ namespace Vyr
         /// <inheritdoc/>
         public new FunctionStdDevCType Clone() => (FunctionStdDevCType)Copy();
         internal override VyrObject Copy() => Copied(new FunctionStdDevCType(Native.Make(Pointer)));
-
-        /// <inheritdoc/>
-        public override bool IsComplete => Is(Native.is_occurs_ok(Pointer));
-
-        /// <inheritdoc/>
-        public override void Reset() { RemoveParts(); Native.reset(Pointer); Keep(); }
+        internal override ClassCalls Class => Parts.Class;
     }
 
     /// <summary>Standard deviation of the hue.</summary>
@@ -151,12 +116,7 @@ namespace Vyr
         /// <inheritdoc/>
         public new FunctionStdDevHType Clone() => (FunctionStdDevHType)Copy();
         internal override VyrObject Copy() => Copied(new FunctionStdDevHType(Native.Make(Pointer)));
-
-        /// <inheritdoc/>
-        public override bool IsComplete => Is(Native.is_occurs_ok(Pointer));
-
-        /// <inheritdoc/>
-        public override void Reset() { RemoveParts(); Native.reset(Pointer); Keep(); }
+        internal override ClassCalls Class => Parts.Class;
     }
 
     /// <summary>Average standard deviation of the lightness L*.</summary>
@@ -170,12 +130,7 @@ namespace Vyr
         /// <inheritdoc/>
         public new FunctionAverageStdDevLType Clone() => (FunctionAverageStdDevLType)Copy();
         internal override VyrObject Copy() => Copied(new FunctionAverageStdDevLType(Native.Make(Pointer)));
-
-        /// <inheritdoc/>
-        public override bool IsComplete => Is(Native.is_occurs_ok(Pointer));
-
-        /// <inheritdoc/>
-        public override void Reset() { RemoveParts(); Native.reset(Pointer); Keep(); }
+        internal override ClassCalls Class => Parts.Class;
     }
 
     /// <summary>Average standard deviation of a*.</summary>
@@ -189,12 +144,7 @@ namespace Vyr
         /// <inheritdoc/>
         public new FunctionAverageStdDevAType Clone() => (FunctionAverageStdDevAType)Copy();
         internal override VyrObject Copy() => Copied(new FunctionAverageStdDevAType(Native.Make(Pointer)));
-
-        /// <inheritdoc/>
-        public override bool IsComplete => Is(Native.is_occurs_ok(Pointer));
-
-        /// <inheritdoc/>
-        public override void Reset() { RemoveParts(); Native.reset(Pointer); Keep(); }
+        internal override ClassCalls Class => Parts.Class;
     }
 
     /// <summary>Average standard deviation of b*.</summary>
@@ -208,16 +158,11 @@ namespace Vyr
         /// <inheritdoc/>
         public new FunctionAverageStdDevBType Clone() => (FunctionAverageStdDevBType)Copy();
         internal override VyrObject Copy() => Copied(new FunctionAverageStdDevBType(Native.Make(Pointer)));
-
-        /// <inheritdoc/>
-        public override bool IsComplete => Is(Native.is_occurs_ok(Pointer));
-
-        /// <inheritdoc/>
-        public override void Reset() { RemoveParts(); Native.reset(Pointer); Keep(); }
+        internal override ClassCalls Class => Parts.Class;
     }
 
     /// <summary>Standard deviation of the tristimulus value X.</summary>
-    public partial class FunctionStdDevX : FunctionStdDevXType
+    public partial class FunctionStdDevX : FunctionStdDevXType, IElement
     {
         /// <summary>A new object that stands on its own, with nothing set.</summary>
         public FunctionStdDevX() : this(Native.Make()) { }
@@ -234,16 +179,10 @@ namespace Vyr
         /// <summary>The same without throwing for what is wrong with the file; null then, unless the options ask for
         /// what was read.</summary>
         public static LoadReport TryLoad(string path, out FunctionStdDevX loaded, LoadOptions options = null) => Load(new FunctionStdDevX(), path, options, out loaded);
-
-        /// <summary>Saves a file with this element as its root.</summary>
-        public void Save(string path) => TrySave(path).DemandSaved();
-
-        /// <summary>The same without throwing for what is wrong.</summary>
-        public LoadReport TrySave(string path) => SaveElement(path);
     }
 
     /// <summary>Standard deviation of the tristimulus value Y.</summary>
-    public partial class FunctionStdDevY : FunctionStdDevYType
+    public partial class FunctionStdDevY : FunctionStdDevYType, IElement
     {
         /// <summary>A new object that stands on its own, with nothing set.</summary>
         public FunctionStdDevY() : this(Native.Make()) { }
@@ -260,16 +199,10 @@ namespace Vyr
         /// <summary>The same without throwing for what is wrong with the file; null then, unless the options ask for
         /// what was read.</summary>
         public static LoadReport TryLoad(string path, out FunctionStdDevY loaded, LoadOptions options = null) => Load(new FunctionStdDevY(), path, options, out loaded);
-
-        /// <summary>Saves a file with this element as its root.</summary>
-        public void Save(string path) => TrySave(path).DemandSaved();
-
-        /// <summary>The same without throwing for what is wrong.</summary>
-        public LoadReport TrySave(string path) => SaveElement(path);
     }
 
     /// <summary>Standard deviation of the tristimulus value Z.</summary>
-    public partial class FunctionStdDevZ : FunctionStdDevZType
+    public partial class FunctionStdDevZ : FunctionStdDevZType, IElement
     {
         /// <summary>A new object that stands on its own, with nothing set.</summary>
         public FunctionStdDevZ() : this(Native.Make()) { }
@@ -286,16 +219,10 @@ namespace Vyr
         /// <summary>The same without throwing for what is wrong with the file; null then, unless the options ask for
         /// what was read.</summary>
         public static LoadReport TryLoad(string path, out FunctionStdDevZ loaded, LoadOptions options = null) => Load(new FunctionStdDevZ(), path, options, out loaded);
-
-        /// <summary>Saves a file with this element as its root.</summary>
-        public void Save(string path) => TrySave(path).DemandSaved();
-
-        /// <summary>The same without throwing for what is wrong.</summary>
-        public LoadReport TrySave(string path) => SaveElement(path);
     }
 
     /// <summary>Standard deviation of the lightness L*.</summary>
-    public partial class FunctionStdDevL : FunctionStdDevLType
+    public partial class FunctionStdDevL : FunctionStdDevLType, IElement
     {
         /// <summary>A new object that stands on its own, with nothing set.</summary>
         public FunctionStdDevL() : this(Native.Make()) { }
@@ -312,16 +239,10 @@ namespace Vyr
         /// <summary>The same without throwing for what is wrong with the file; null then, unless the options ask for
         /// what was read.</summary>
         public static LoadReport TryLoad(string path, out FunctionStdDevL loaded, LoadOptions options = null) => Load(new FunctionStdDevL(), path, options, out loaded);
-
-        /// <summary>Saves a file with this element as its root.</summary>
-        public void Save(string path) => TrySave(path).DemandSaved();
-
-        /// <summary>The same without throwing for what is wrong.</summary>
-        public LoadReport TrySave(string path) => SaveElement(path);
     }
 
     /// <summary>Standard deviation of a*.</summary>
-    public partial class FunctionStdDevA : FunctionStdDevAType
+    public partial class FunctionStdDevA : FunctionStdDevAType, IElement
     {
         /// <summary>A new object that stands on its own, with nothing set.</summary>
         public FunctionStdDevA() : this(Native.Make()) { }
@@ -338,16 +259,10 @@ namespace Vyr
         /// <summary>The same without throwing for what is wrong with the file; null then, unless the options ask for
         /// what was read.</summary>
         public static LoadReport TryLoad(string path, out FunctionStdDevA loaded, LoadOptions options = null) => Load(new FunctionStdDevA(), path, options, out loaded);
-
-        /// <summary>Saves a file with this element as its root.</summary>
-        public void Save(string path) => TrySave(path).DemandSaved();
-
-        /// <summary>The same without throwing for what is wrong.</summary>
-        public LoadReport TrySave(string path) => SaveElement(path);
     }
 
     /// <summary>Standard deviation of b*.</summary>
-    public partial class FunctionStdDevB : FunctionStdDevBType
+    public partial class FunctionStdDevB : FunctionStdDevBType, IElement
     {
         /// <summary>A new object that stands on its own, with nothing set.</summary>
         public FunctionStdDevB() : this(Native.Make()) { }
@@ -364,16 +279,10 @@ namespace Vyr
         /// <summary>The same without throwing for what is wrong with the file; null then, unless the options ask for
         /// what was read.</summary>
         public static LoadReport TryLoad(string path, out FunctionStdDevB loaded, LoadOptions options = null) => Load(new FunctionStdDevB(), path, options, out loaded);
-
-        /// <summary>Saves a file with this element as its root.</summary>
-        public void Save(string path) => TrySave(path).DemandSaved();
-
-        /// <summary>The same without throwing for what is wrong.</summary>
-        public LoadReport TrySave(string path) => SaveElement(path);
     }
 
     /// <summary>Standard deviation of the chroma C*.</summary>
-    public partial class FunctionStdDevC : FunctionStdDevCType
+    public partial class FunctionStdDevC : FunctionStdDevCType, IElement
     {
         /// <summary>A new object that stands on its own, with nothing set.</summary>
         public FunctionStdDevC() : this(Native.Make()) { }
@@ -390,16 +299,10 @@ namespace Vyr
         /// <summary>The same without throwing for what is wrong with the file; null then, unless the options ask for
         /// what was read.</summary>
         public static LoadReport TryLoad(string path, out FunctionStdDevC loaded, LoadOptions options = null) => Load(new FunctionStdDevC(), path, options, out loaded);
-
-        /// <summary>Saves a file with this element as its root.</summary>
-        public void Save(string path) => TrySave(path).DemandSaved();
-
-        /// <summary>The same without throwing for what is wrong.</summary>
-        public LoadReport TrySave(string path) => SaveElement(path);
     }
 
     /// <summary>Standard deviation of the hue.</summary>
-    public partial class FunctionStdDevH : FunctionStdDevHType
+    public partial class FunctionStdDevH : FunctionStdDevHType, IElement
     {
         /// <summary>A new object that stands on its own, with nothing set.</summary>
         public FunctionStdDevH() : this(Native.Make()) { }
@@ -416,16 +319,10 @@ namespace Vyr
         /// <summary>The same without throwing for what is wrong with the file; null then, unless the options ask for
         /// what was read.</summary>
         public static LoadReport TryLoad(string path, out FunctionStdDevH loaded, LoadOptions options = null) => Load(new FunctionStdDevH(), path, options, out loaded);
-
-        /// <summary>Saves a file with this element as its root.</summary>
-        public void Save(string path) => TrySave(path).DemandSaved();
-
-        /// <summary>The same without throwing for what is wrong.</summary>
-        public LoadReport TrySave(string path) => SaveElement(path);
     }
 
     /// <summary>Average standard deviation of the lightness L*.</summary>
-    public partial class FunctionAverageStdDevL : FunctionAverageStdDevLType
+    public partial class FunctionAverageStdDevL : FunctionAverageStdDevLType, IElement
     {
         /// <summary>A new object that stands on its own, with nothing set.</summary>
         public FunctionAverageStdDevL() : this(Native.Make()) { }
@@ -442,16 +339,10 @@ namespace Vyr
         /// <summary>The same without throwing for what is wrong with the file; null then, unless the options ask for
         /// what was read.</summary>
         public static LoadReport TryLoad(string path, out FunctionAverageStdDevL loaded, LoadOptions options = null) => Load(new FunctionAverageStdDevL(), path, options, out loaded);
-
-        /// <summary>Saves a file with this element as its root.</summary>
-        public void Save(string path) => TrySave(path).DemandSaved();
-
-        /// <summary>The same without throwing for what is wrong.</summary>
-        public LoadReport TrySave(string path) => SaveElement(path);
     }
 
     /// <summary>Average standard deviation of a*.</summary>
-    public partial class FunctionAverageStdDevA : FunctionAverageStdDevAType
+    public partial class FunctionAverageStdDevA : FunctionAverageStdDevAType, IElement
     {
         /// <summary>A new object that stands on its own, with nothing set.</summary>
         public FunctionAverageStdDevA() : this(Native.Make()) { }
@@ -468,16 +359,10 @@ namespace Vyr
         /// <summary>The same without throwing for what is wrong with the file; null then, unless the options ask for
         /// what was read.</summary>
         public static LoadReport TryLoad(string path, out FunctionAverageStdDevA loaded, LoadOptions options = null) => Load(new FunctionAverageStdDevA(), path, options, out loaded);
-
-        /// <summary>Saves a file with this element as its root.</summary>
-        public void Save(string path) => TrySave(path).DemandSaved();
-
-        /// <summary>The same without throwing for what is wrong.</summary>
-        public LoadReport TrySave(string path) => SaveElement(path);
     }
 
     /// <summary>Average standard deviation of b*.</summary>
-    public partial class FunctionAverageStdDevB : FunctionAverageStdDevBType
+    public partial class FunctionAverageStdDevB : FunctionAverageStdDevBType, IElement
     {
         /// <summary>A new object that stands on its own, with nothing set.</summary>
         public FunctionAverageStdDevB() : this(Native.Make()) { }
@@ -494,11 +379,5 @@ namespace Vyr
         /// <summary>The same without throwing for what is wrong with the file; null then, unless the options ask for
         /// what was read.</summary>
         public static LoadReport TryLoad(string path, out FunctionAverageStdDevB loaded, LoadOptions options = null) => Load(new FunctionAverageStdDevB(), path, options, out loaded);
-
-        /// <summary>Saves a file with this element as its root.</summary>
-        public void Save(string path) => TrySave(path).DemandSaved();
-
-        /// <summary>The same without throwing for what is wrong.</summary>
-        public LoadReport TrySave(string path) => SaveElement(path);
     }
 }

@@ -12,11 +12,11 @@ namespace Vyr
     {
         static class Native
         {
-            [DllImport(Library.Name, EntryPoint = "CSharp_SubstrateType_is_occurs_ok")] internal static extern int is_occurs_ok(IntPtr self);
-            [DllImport(Library.Name, EntryPoint = "CSharp_SubstrateType_reset")] internal static extern void reset(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_SubstrateType_isset_PartNumber")] internal static extern int isset_PartNumber(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_SubstrateType_get_PartNumber")] [return: MarshalAs(UnmanagedType.BStr)] internal static extern string get_PartNumber(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_SubstrateType_set_PartNumber")] internal static extern int set_PartNumber(IntPtr self, [MarshalAs(UnmanagedType.LPWStr)] string value);
+            [DllImport(Library.Name, EntryPoint = "CSharp_SubstrateType_is_occurs_ok")] internal static extern int is_occurs_ok(IntPtr self);
+            [DllImport(Library.Name, EntryPoint = "CSharp_SubstrateType_reset")] internal static extern void reset(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_SubstrateType_size_CustomAttribute")] internal static extern uint size_CustomAttribute(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_SubstrateType_get_CustomAttribute__SWIG_0")] internal static extern IntPtr get_CustomAttribute(IntPtr self, uint index);
             [DllImport(Library.Name, EntryPoint = "CSharp_SubstrateType_assign_CustomAttribute")] internal static extern IntPtr assign_CustomAttribute(IntPtr self, uint index, IntPtr value);
@@ -36,6 +36,8 @@ namespace Vyr
 
         static class Parts
         {
+            static ClassCalls madeClass;
+            internal static ClassCalls Class => madeClass != null ? madeClass : madeClass = new ClassCalls { IsComplete = Native.is_occurs_ok, Reset = Native.reset };
             static ObjectListCalls<CustomAttributeType> madeCustomAttribute;
             internal static ObjectListCalls<CustomAttributeType> CustomAttribute => madeCustomAttribute != null ? madeCustomAttribute : madeCustomAttribute = new ObjectListCalls<CustomAttributeType> { Make = h => new CustomAttributeType(h), Size = Native.size_CustomAttribute, Get = Native.get_CustomAttribute, Assign = Native.assign_CustomAttribute, Append = Native.append_CustomAttribute, Insert = Native.insert_CustomAttribute, Delete = Native.delete_CustomAttribute, Clear = Native.clear_CustomAttribute };
             static IntPtr madeColorItem;
@@ -49,14 +51,14 @@ namespace Vyr
     {
         static class Native
         {
-            [DllImport(Library.Name, EntryPoint = "CSharp_SubstratePaperType_is_occurs_ok")] internal static extern int is_occurs_ok(IntPtr self);
-            [DllImport(Library.Name, EntryPoint = "CSharp_SubstratePaperType_reset")] internal static extern void reset(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_SubstratePaperType_isset_PaperThickness")] internal static extern int isset_PaperThickness(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_SubstratePaperType_get_PaperThickness")] internal static extern double get_PaperThickness(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_SubstratePaperType_set_PaperThickness")] internal static extern int set_PaperThickness(IntPtr self, double value);
             [DllImport(Library.Name, EntryPoint = "CSharp_SubstratePaperType_isset_PaperType")] internal static extern int isset_PaperType(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_SubstratePaperType_get_PaperType")] [return: MarshalAs(UnmanagedType.BStr)] internal static extern string get_PaperType(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_SubstratePaperType_set_PaperType")] internal static extern int set_PaperType(IntPtr self, [MarshalAs(UnmanagedType.LPWStr)] string value);
+            [DllImport(Library.Name, EntryPoint = "CSharp_SubstratePaperType_is_occurs_ok")] internal static extern int is_occurs_ok(IntPtr self);
+            [DllImport(Library.Name, EntryPoint = "CSharp_SubstratePaperType_reset")] internal static extern void reset(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_new_SubstratePaperType__SWIG_0")] internal static extern IntPtr New();
             [DllImport(Library.Name, EntryPoint = "CSharp_delete_SubstratePaperType")] internal static extern void Delete(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_new_SubstratePaperType__SWIG_1")] internal static extern IntPtr Copy(IntPtr source);
@@ -67,21 +69,33 @@ namespace Vyr
             internal static int UnsetPaperThickness(IntPtr self) { unset_PaperThickness(self); return 0; }
             internal static int UnsetPaperType(IntPtr self) { unset_PaperType(self); return 0; }
         }
+
+        static class Parts
+        {
+            static ClassCalls madeClass;
+            internal static ClassCalls Class => madeClass != null ? madeClass : madeClass = new ClassCalls { IsComplete = Native.is_occurs_ok, Reset = Native.reset };
+        }
     }
 
     public partial class SubstrateGenericType
     {
         static class Native
         {
-            [DllImport(Library.Name, EntryPoint = "CSharp_SubstrateGenericType_is_occurs_ok")] internal static extern int is_occurs_ok(IntPtr self);
-            [DllImport(Library.Name, EntryPoint = "CSharp_SubstrateGenericType_reset")] internal static extern void reset(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_SubstrateGenericType_get_Type")] [return: MarshalAs(UnmanagedType.BStr)] internal static extern string get_Type(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_SubstrateGenericType_set_Type")] internal static extern int set_Type(IntPtr self, [MarshalAs(UnmanagedType.LPWStr)] string value);
+            [DllImport(Library.Name, EntryPoint = "CSharp_SubstrateGenericType_is_occurs_ok")] internal static extern int is_occurs_ok(IntPtr self);
+            [DllImport(Library.Name, EntryPoint = "CSharp_SubstrateGenericType_reset")] internal static extern void reset(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_new_SubstrateGenericType__SWIG_0")] internal static extern IntPtr New();
             [DllImport(Library.Name, EntryPoint = "CSharp_delete_SubstrateGenericType")] internal static extern void Delete(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_new_SubstrateGenericType__SWIG_1")] internal static extern IntPtr Copy(IntPtr source);
             internal static Handle Make() => Handle.New(() => New(), p => Delete(p));
             internal static Handle Make(IntPtr source) => Handle.New(() => Copy(source), p => Delete(p));
+        }
+
+        static class Parts
+        {
+            static ClassCalls madeClass;
+            internal static ClassCalls Class => madeClass != null ? madeClass : madeClass = new ClassCalls { IsComplete = Native.is_occurs_ok, Reset = Native.reset };
         }
     }
 
@@ -89,14 +103,14 @@ namespace Vyr
     {
         static class Native
         {
-            [DllImport(Library.Name, EntryPoint = "CSharp_SubstrateMetalType_is_occurs_ok")] internal static extern int is_occurs_ok(IntPtr self);
-            [DllImport(Library.Name, EntryPoint = "CSharp_SubstrateMetalType_reset")] internal static extern void reset(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_SubstrateMetalType_isset_MetalWeight")] internal static extern int isset_MetalWeight(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_SubstrateMetalType_get_MetalWeight")] internal static extern double get_MetalWeight(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_SubstrateMetalType_set_MetalWeight")] internal static extern int set_MetalWeight(IntPtr self, double value);
             [DllImport(Library.Name, EntryPoint = "CSharp_SubstrateMetalType_isset_MetalType")] internal static extern int isset_MetalType(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_SubstrateMetalType_get_MetalType")] [return: MarshalAs(UnmanagedType.BStr)] internal static extern string get_MetalType(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_SubstrateMetalType_set_MetalType")] internal static extern int set_MetalType(IntPtr self, [MarshalAs(UnmanagedType.LPWStr)] string value);
+            [DllImport(Library.Name, EntryPoint = "CSharp_SubstrateMetalType_is_occurs_ok")] internal static extern int is_occurs_ok(IntPtr self);
+            [DllImport(Library.Name, EntryPoint = "CSharp_SubstrateMetalType_reset")] internal static extern void reset(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_new_SubstrateMetalType__SWIG_0")] internal static extern IntPtr New();
             [DllImport(Library.Name, EntryPoint = "CSharp_delete_SubstrateMetalType")] internal static extern void Delete(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_new_SubstrateMetalType__SWIG_1")] internal static extern IntPtr Copy(IntPtr source);
@@ -107,20 +121,26 @@ namespace Vyr
             internal static int UnsetMetalWeight(IntPtr self) { unset_MetalWeight(self); return 0; }
             internal static int UnsetMetalType(IntPtr self) { unset_MetalType(self); return 0; }
         }
+
+        static class Parts
+        {
+            static ClassCalls madeClass;
+            internal static ClassCalls Class => madeClass != null ? madeClass : madeClass = new ClassCalls { IsComplete = Native.is_occurs_ok, Reset = Native.reset };
+        }
     }
 
     public partial class SubstratePlasticType
     {
         static class Native
         {
-            [DllImport(Library.Name, EntryPoint = "CSharp_SubstratePlasticType_is_occurs_ok")] internal static extern int is_occurs_ok(IntPtr self);
-            [DllImport(Library.Name, EntryPoint = "CSharp_SubstratePlasticType_reset")] internal static extern void reset(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_SubstratePlasticType_isset_PlasticWeight")] internal static extern int isset_PlasticWeight(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_SubstratePlasticType_get_PlasticWeight")] internal static extern double get_PlasticWeight(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_SubstratePlasticType_set_PlasticWeight")] internal static extern int set_PlasticWeight(IntPtr self, double value);
             [DllImport(Library.Name, EntryPoint = "CSharp_SubstratePlasticType_isset_PlasticType")] internal static extern int isset_PlasticType(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_SubstratePlasticType_get_PlasticType")] [return: MarshalAs(UnmanagedType.BStr)] internal static extern string get_PlasticType(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_SubstratePlasticType_set_PlasticType")] internal static extern int set_PlasticType(IntPtr self, [MarshalAs(UnmanagedType.LPWStr)] string value);
+            [DllImport(Library.Name, EntryPoint = "CSharp_SubstratePlasticType_is_occurs_ok")] internal static extern int is_occurs_ok(IntPtr self);
+            [DllImport(Library.Name, EntryPoint = "CSharp_SubstratePlasticType_reset")] internal static extern void reset(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_new_SubstratePlasticType__SWIG_0")] internal static extern IntPtr New();
             [DllImport(Library.Name, EntryPoint = "CSharp_delete_SubstratePlasticType")] internal static extern void Delete(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_new_SubstratePlasticType__SWIG_1")] internal static extern IntPtr Copy(IntPtr source);
@@ -131,20 +151,26 @@ namespace Vyr
             internal static int UnsetPlasticWeight(IntPtr self) { unset_PlasticWeight(self); return 0; }
             internal static int UnsetPlasticType(IntPtr self) { unset_PlasticType(self); return 0; }
         }
+
+        static class Parts
+        {
+            static ClassCalls madeClass;
+            internal static ClassCalls Class => madeClass != null ? madeClass : madeClass = new ClassCalls { IsComplete = Native.is_occurs_ok, Reset = Native.reset };
+        }
     }
 
     public partial class SubstrateWoodType
     {
         static class Native
         {
-            [DllImport(Library.Name, EntryPoint = "CSharp_SubstrateWoodType_is_occurs_ok")] internal static extern int is_occurs_ok(IntPtr self);
-            [DllImport(Library.Name, EntryPoint = "CSharp_SubstrateWoodType_reset")] internal static extern void reset(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_SubstrateWoodType_isset_WoodWeight")] internal static extern int isset_WoodWeight(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_SubstrateWoodType_get_WoodWeight")] internal static extern double get_WoodWeight(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_SubstrateWoodType_set_WoodWeight")] internal static extern int set_WoodWeight(IntPtr self, double value);
             [DllImport(Library.Name, EntryPoint = "CSharp_SubstrateWoodType_isset_WoodType")] internal static extern int isset_WoodType(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_SubstrateWoodType_get_WoodType")] [return: MarshalAs(UnmanagedType.BStr)] internal static extern string get_WoodType(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_SubstrateWoodType_set_WoodType")] internal static extern int set_WoodType(IntPtr self, [MarshalAs(UnmanagedType.LPWStr)] string value);
+            [DllImport(Library.Name, EntryPoint = "CSharp_SubstrateWoodType_is_occurs_ok")] internal static extern int is_occurs_ok(IntPtr self);
+            [DllImport(Library.Name, EntryPoint = "CSharp_SubstrateWoodType_reset")] internal static extern void reset(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_new_SubstrateWoodType__SWIG_0")] internal static extern IntPtr New();
             [DllImport(Library.Name, EntryPoint = "CSharp_delete_SubstrateWoodType")] internal static extern void Delete(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_new_SubstrateWoodType__SWIG_1")] internal static extern IntPtr Copy(IntPtr source);
@@ -155,20 +181,26 @@ namespace Vyr
             internal static int UnsetWoodWeight(IntPtr self) { unset_WoodWeight(self); return 0; }
             internal static int UnsetWoodType(IntPtr self) { unset_WoodType(self); return 0; }
         }
+
+        static class Parts
+        {
+            static ClassCalls madeClass;
+            internal static ClassCalls Class => madeClass != null ? madeClass : madeClass = new ClassCalls { IsComplete = Native.is_occurs_ok, Reset = Native.reset };
+        }
     }
 
     public partial class SubstrateVinylType
     {
         static class Native
         {
-            [DllImport(Library.Name, EntryPoint = "CSharp_SubstrateVinylType_is_occurs_ok")] internal static extern int is_occurs_ok(IntPtr self);
-            [DllImport(Library.Name, EntryPoint = "CSharp_SubstrateVinylType_reset")] internal static extern void reset(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_SubstrateVinylType_isset_VinylWeight")] internal static extern int isset_VinylWeight(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_SubstrateVinylType_get_VinylWeight")] internal static extern double get_VinylWeight(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_SubstrateVinylType_set_VinylWeight")] internal static extern int set_VinylWeight(IntPtr self, double value);
             [DllImport(Library.Name, EntryPoint = "CSharp_SubstrateVinylType_isset_VinylType")] internal static extern int isset_VinylType(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_SubstrateVinylType_get_VinylType")] [return: MarshalAs(UnmanagedType.BStr)] internal static extern string get_VinylType(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_SubstrateVinylType_set_VinylType")] internal static extern int set_VinylType(IntPtr self, [MarshalAs(UnmanagedType.LPWStr)] string value);
+            [DllImport(Library.Name, EntryPoint = "CSharp_SubstrateVinylType_is_occurs_ok")] internal static extern int is_occurs_ok(IntPtr self);
+            [DllImport(Library.Name, EntryPoint = "CSharp_SubstrateVinylType_reset")] internal static extern void reset(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_new_SubstrateVinylType__SWIG_0")] internal static extern IntPtr New();
             [DllImport(Library.Name, EntryPoint = "CSharp_delete_SubstrateVinylType")] internal static extern void Delete(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_new_SubstrateVinylType__SWIG_1")] internal static extern IntPtr Copy(IntPtr source);
@@ -179,20 +211,26 @@ namespace Vyr
             internal static int UnsetVinylWeight(IntPtr self) { unset_VinylWeight(self); return 0; }
             internal static int UnsetVinylType(IntPtr self) { unset_VinylType(self); return 0; }
         }
+
+        static class Parts
+        {
+            static ClassCalls madeClass;
+            internal static ClassCalls Class => madeClass != null ? madeClass : madeClass = new ClassCalls { IsComplete = Native.is_occurs_ok, Reset = Native.reset };
+        }
     }
 
     public partial class SubstrateTileType
     {
         static class Native
         {
-            [DllImport(Library.Name, EntryPoint = "CSharp_SubstrateTileType_is_occurs_ok")] internal static extern int is_occurs_ok(IntPtr self);
-            [DllImport(Library.Name, EntryPoint = "CSharp_SubstrateTileType_reset")] internal static extern void reset(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_SubstrateTileType_isset_TileWeight")] internal static extern int isset_TileWeight(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_SubstrateTileType_get_TileWeight")] internal static extern double get_TileWeight(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_SubstrateTileType_set_TileWeight")] internal static extern int set_TileWeight(IntPtr self, double value);
             [DllImport(Library.Name, EntryPoint = "CSharp_SubstrateTileType_isset_TileType")] internal static extern int isset_TileType(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_SubstrateTileType_get_TileType")] [return: MarshalAs(UnmanagedType.BStr)] internal static extern string get_TileType(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_SubstrateTileType_set_TileType")] internal static extern int set_TileType(IntPtr self, [MarshalAs(UnmanagedType.LPWStr)] string value);
+            [DllImport(Library.Name, EntryPoint = "CSharp_SubstrateTileType_is_occurs_ok")] internal static extern int is_occurs_ok(IntPtr self);
+            [DllImport(Library.Name, EntryPoint = "CSharp_SubstrateTileType_reset")] internal static extern void reset(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_new_SubstrateTileType__SWIG_0")] internal static extern IntPtr New();
             [DllImport(Library.Name, EntryPoint = "CSharp_delete_SubstrateTileType")] internal static extern void Delete(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_new_SubstrateTileType__SWIG_1")] internal static extern IntPtr Copy(IntPtr source);
@@ -203,20 +241,26 @@ namespace Vyr
             internal static int UnsetTileWeight(IntPtr self) { unset_TileWeight(self); return 0; }
             internal static int UnsetTileType(IntPtr self) { unset_TileType(self); return 0; }
         }
+
+        static class Parts
+        {
+            static ClassCalls madeClass;
+            internal static ClassCalls Class => madeClass != null ? madeClass : madeClass = new ClassCalls { IsComplete = Native.is_occurs_ok, Reset = Native.reset };
+        }
     }
 
     public partial class SubstrateFilmType
     {
         static class Native
         {
-            [DllImport(Library.Name, EntryPoint = "CSharp_SubstrateFilmType_is_occurs_ok")] internal static extern int is_occurs_ok(IntPtr self);
-            [DllImport(Library.Name, EntryPoint = "CSharp_SubstrateFilmType_reset")] internal static extern void reset(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_SubstrateFilmType_isset_FilmWeight")] internal static extern int isset_FilmWeight(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_SubstrateFilmType_get_FilmWeight")] internal static extern double get_FilmWeight(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_SubstrateFilmType_set_FilmWeight")] internal static extern int set_FilmWeight(IntPtr self, double value);
             [DllImport(Library.Name, EntryPoint = "CSharp_SubstrateFilmType_isset_FilmType")] internal static extern int isset_FilmType(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_SubstrateFilmType_get_FilmType")] [return: MarshalAs(UnmanagedType.BStr)] internal static extern string get_FilmType(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_SubstrateFilmType_set_FilmType")] internal static extern int set_FilmType(IntPtr self, [MarshalAs(UnmanagedType.LPWStr)] string value);
+            [DllImport(Library.Name, EntryPoint = "CSharp_SubstrateFilmType_is_occurs_ok")] internal static extern int is_occurs_ok(IntPtr self);
+            [DllImport(Library.Name, EntryPoint = "CSharp_SubstrateFilmType_reset")] internal static extern void reset(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_new_SubstrateFilmType__SWIG_0")] internal static extern IntPtr New();
             [DllImport(Library.Name, EntryPoint = "CSharp_delete_SubstrateFilmType")] internal static extern void Delete(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_new_SubstrateFilmType__SWIG_1")] internal static extern IntPtr Copy(IntPtr source);
@@ -227,20 +271,26 @@ namespace Vyr
             internal static int UnsetFilmWeight(IntPtr self) { unset_FilmWeight(self); return 0; }
             internal static int UnsetFilmType(IntPtr self) { unset_FilmType(self); return 0; }
         }
+
+        static class Parts
+        {
+            static ClassCalls madeClass;
+            internal static ClassCalls Class => madeClass != null ? madeClass : madeClass = new ClassCalls { IsComplete = Native.is_occurs_ok, Reset = Native.reset };
+        }
     }
 
     public partial class SubstrateTextileType
     {
         static class Native
         {
-            [DllImport(Library.Name, EntryPoint = "CSharp_SubstrateTextileType_is_occurs_ok")] internal static extern int is_occurs_ok(IntPtr self);
-            [DllImport(Library.Name, EntryPoint = "CSharp_SubstrateTextileType_reset")] internal static extern void reset(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_SubstrateTextileType_isset_TextileWeight")] internal static extern int isset_TextileWeight(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_SubstrateTextileType_get_TextileWeight")] internal static extern double get_TextileWeight(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_SubstrateTextileType_set_TextileWeight")] internal static extern int set_TextileWeight(IntPtr self, double value);
             [DllImport(Library.Name, EntryPoint = "CSharp_SubstrateTextileType_isset_TextileType")] internal static extern int isset_TextileType(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_SubstrateTextileType_get_TextileType")] [return: MarshalAs(UnmanagedType.BStr)] internal static extern string get_TextileType(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_SubstrateTextileType_set_TextileType")] internal static extern int set_TextileType(IntPtr self, [MarshalAs(UnmanagedType.LPWStr)] string value);
+            [DllImport(Library.Name, EntryPoint = "CSharp_SubstrateTextileType_is_occurs_ok")] internal static extern int is_occurs_ok(IntPtr self);
+            [DllImport(Library.Name, EntryPoint = "CSharp_SubstrateTextileType_reset")] internal static extern void reset(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_new_SubstrateTextileType__SWIG_0")] internal static extern IntPtr New();
             [DllImport(Library.Name, EntryPoint = "CSharp_delete_SubstrateTextileType")] internal static extern void Delete(IntPtr self);
             [DllImport(Library.Name, EntryPoint = "CSharp_new_SubstrateTextileType__SWIG_1")] internal static extern IntPtr Copy(IntPtr source);
@@ -250,6 +300,12 @@ namespace Vyr
             internal static Handle Make(IntPtr source) => Handle.New(() => Copy(source), p => Delete(p));
             internal static int UnsetTextileWeight(IntPtr self) { unset_TextileWeight(self); return 0; }
             internal static int UnsetTextileType(IntPtr self) { unset_TextileType(self); return 0; }
+        }
+
+        static class Parts
+        {
+            static ClassCalls madeClass;
+            internal static ClassCalls Class => madeClass != null ? madeClass : madeClass = new ClassCalls { IsComplete = Native.is_occurs_ok, Reset = Native.reset };
         }
     }
 

@@ -15,12 +15,7 @@ namespace Vyr
         /// <inheritdoc/>
         public new SubstrateType Clone() => (SubstrateType)Copy();
         internal override VyrObject Copy() => Copied(new SubstrateType(Native.Make(Pointer)));
-
-        /// <inheritdoc/>
-        public override bool IsComplete => Is(Native.is_occurs_ok(Pointer));
-
-        /// <inheritdoc/>
-        public override void Reset() { RemoveParts(); Native.reset(Pointer); Keep(); }
+        internal override ClassCalls Class => Parts.Class;
 
         /// <summary>A named value of the user's own.</summary>
         public ObjectList<CustomAttributeType> CustomAttributes => (ObjectList<CustomAttributeType>)(Part(0) ?? Remember(0, new ObjectList<CustomAttributeType>(this, "CustomAttributes", Parts.CustomAttribute)));
@@ -52,12 +47,7 @@ namespace Vyr
         /// <inheritdoc/>
         public new SubstratePaperType Clone() => (SubstratePaperType)Copy();
         internal override VyrObject Copy() => Copied(new SubstratePaperType(Native.Make(Pointer)));
-
-        /// <inheritdoc/>
-        public override bool IsComplete => Is(Native.is_occurs_ok(Pointer));
-
-        /// <inheritdoc/>
-        public override void Reset() { RemoveParts(); Native.reset(Pointer); Keep(); }
+        internal override ClassCalls Class => Parts.Class;
 
         /// <summary>Thickness of the paper; no unit is stated. Null if not set.</summary>
         public double? PaperThickness { get => Is(Native.isset_PaperThickness(Pointer)) ? Kept(Native.get_PaperThickness(Pointer)) : default(double?); set => Demand(value == null ? Native.UnsetPaperThickness(Pointer) : Native.set_PaperThickness(Pointer, value.Value)); }
@@ -77,12 +67,7 @@ namespace Vyr
         /// <inheritdoc/>
         public new SubstrateGenericType Clone() => (SubstrateGenericType)Copy();
         internal override VyrObject Copy() => Copied(new SubstrateGenericType(Native.Make(Pointer)));
-
-        /// <inheritdoc/>
-        public override bool IsComplete => Is(Native.is_occurs_ok(Pointer));
-
-        /// <inheritdoc/>
-        public override void Reset() { RemoveParts(); Native.reset(Pointer); Keep(); }
+        internal override ClassCalls Class => Parts.Class;
 
         /// <summary>Kind of material in words; not empty.</summary>
         public string Type { get => Kept(Native.get_Type(Pointer)); set => Demand(Native.set_Type(Pointer, Library.Whole(value))); }
@@ -99,12 +84,7 @@ namespace Vyr
         /// <inheritdoc/>
         public new SubstrateMetalType Clone() => (SubstrateMetalType)Copy();
         internal override VyrObject Copy() => Copied(new SubstrateMetalType(Native.Make(Pointer)));
-
-        /// <inheritdoc/>
-        public override bool IsComplete => Is(Native.is_occurs_ok(Pointer));
-
-        /// <inheritdoc/>
-        public override void Reset() { RemoveParts(); Native.reset(Pointer); Keep(); }
+        internal override ClassCalls Class => Parts.Class;
 
         /// <summary>Weight of the metal; no unit is stated. Null if not set.</summary>
         public double? MetalWeight { get => Is(Native.isset_MetalWeight(Pointer)) ? Kept(Native.get_MetalWeight(Pointer)) : default(double?); set => Demand(value == null ? Native.UnsetMetalWeight(Pointer) : Native.set_MetalWeight(Pointer, value.Value)); }
@@ -124,12 +104,7 @@ namespace Vyr
         /// <inheritdoc/>
         public new SubstratePlasticType Clone() => (SubstratePlasticType)Copy();
         internal override VyrObject Copy() => Copied(new SubstratePlasticType(Native.Make(Pointer)));
-
-        /// <inheritdoc/>
-        public override bool IsComplete => Is(Native.is_occurs_ok(Pointer));
-
-        /// <inheritdoc/>
-        public override void Reset() { RemoveParts(); Native.reset(Pointer); Keep(); }
+        internal override ClassCalls Class => Parts.Class;
 
         /// <summary>Weight of the plastic; no unit is stated. Null if not set.</summary>
         public double? PlasticWeight { get => Is(Native.isset_PlasticWeight(Pointer)) ? Kept(Native.get_PlasticWeight(Pointer)) : default(double?); set => Demand(value == null ? Native.UnsetPlasticWeight(Pointer) : Native.set_PlasticWeight(Pointer, value.Value)); }
@@ -149,12 +124,7 @@ namespace Vyr
         /// <inheritdoc/>
         public new SubstrateWoodType Clone() => (SubstrateWoodType)Copy();
         internal override VyrObject Copy() => Copied(new SubstrateWoodType(Native.Make(Pointer)));
-
-        /// <inheritdoc/>
-        public override bool IsComplete => Is(Native.is_occurs_ok(Pointer));
-
-        /// <inheritdoc/>
-        public override void Reset() { RemoveParts(); Native.reset(Pointer); Keep(); }
+        internal override ClassCalls Class => Parts.Class;
 
         /// <summary>Weight of the wood; no unit is stated. Null if not set.</summary>
         public double? WoodWeight { get => Is(Native.isset_WoodWeight(Pointer)) ? Kept(Native.get_WoodWeight(Pointer)) : default(double?); set => Demand(value == null ? Native.UnsetWoodWeight(Pointer) : Native.set_WoodWeight(Pointer, value.Value)); }
@@ -174,12 +144,7 @@ namespace Vyr
         /// <inheritdoc/>
         public new SubstrateVinylType Clone() => (SubstrateVinylType)Copy();
         internal override VyrObject Copy() => Copied(new SubstrateVinylType(Native.Make(Pointer)));
-
-        /// <inheritdoc/>
-        public override bool IsComplete => Is(Native.is_occurs_ok(Pointer));
-
-        /// <inheritdoc/>
-        public override void Reset() { RemoveParts(); Native.reset(Pointer); Keep(); }
+        internal override ClassCalls Class => Parts.Class;
 
         /// <summary>Weight of the vinyl; no unit is stated. Null if not set.</summary>
         public double? VinylWeight { get => Is(Native.isset_VinylWeight(Pointer)) ? Kept(Native.get_VinylWeight(Pointer)) : default(double?); set => Demand(value == null ? Native.UnsetVinylWeight(Pointer) : Native.set_VinylWeight(Pointer, value.Value)); }
@@ -199,12 +164,7 @@ namespace Vyr
         /// <inheritdoc/>
         public new SubstrateTileType Clone() => (SubstrateTileType)Copy();
         internal override VyrObject Copy() => Copied(new SubstrateTileType(Native.Make(Pointer)));
-
-        /// <inheritdoc/>
-        public override bool IsComplete => Is(Native.is_occurs_ok(Pointer));
-
-        /// <inheritdoc/>
-        public override void Reset() { RemoveParts(); Native.reset(Pointer); Keep(); }
+        internal override ClassCalls Class => Parts.Class;
 
         /// <summary>Weight of the tile; no unit is stated. Null if not set.</summary>
         public double? TileWeight { get => Is(Native.isset_TileWeight(Pointer)) ? Kept(Native.get_TileWeight(Pointer)) : default(double?); set => Demand(value == null ? Native.UnsetTileWeight(Pointer) : Native.set_TileWeight(Pointer, value.Value)); }
@@ -224,12 +184,7 @@ namespace Vyr
         /// <inheritdoc/>
         public new SubstrateFilmType Clone() => (SubstrateFilmType)Copy();
         internal override VyrObject Copy() => Copied(new SubstrateFilmType(Native.Make(Pointer)));
-
-        /// <inheritdoc/>
-        public override bool IsComplete => Is(Native.is_occurs_ok(Pointer));
-
-        /// <inheritdoc/>
-        public override void Reset() { RemoveParts(); Native.reset(Pointer); Keep(); }
+        internal override ClassCalls Class => Parts.Class;
 
         /// <summary>Weight of the film; no unit is stated. Null if not set.</summary>
         public double? FilmWeight { get => Is(Native.isset_FilmWeight(Pointer)) ? Kept(Native.get_FilmWeight(Pointer)) : default(double?); set => Demand(value == null ? Native.UnsetFilmWeight(Pointer) : Native.set_FilmWeight(Pointer, value.Value)); }
@@ -249,12 +204,7 @@ namespace Vyr
         /// <inheritdoc/>
         public new SubstrateTextileType Clone() => (SubstrateTextileType)Copy();
         internal override VyrObject Copy() => Copied(new SubstrateTextileType(Native.Make(Pointer)));
-
-        /// <inheritdoc/>
-        public override bool IsComplete => Is(Native.is_occurs_ok(Pointer));
-
-        /// <inheritdoc/>
-        public override void Reset() { RemoveParts(); Native.reset(Pointer); Keep(); }
+        internal override ClassCalls Class => Parts.Class;
 
         /// <summary>Weight of the textile; no unit is stated. Null if not set.</summary>
         public double? TextileWeight { get => Is(Native.isset_TextileWeight(Pointer)) ? Kept(Native.get_TextileWeight(Pointer)) : default(double?); set => Demand(value == null ? Native.UnsetTextileWeight(Pointer) : Native.set_TextileWeight(Pointer, value.Value)); }
@@ -264,7 +214,7 @@ namespace Vyr
     }
 
     /// <summary>Paper or board.</summary>
-    public partial class SubstratePaper : SubstratePaperType
+    public partial class SubstratePaper : SubstratePaperType, IElement
     {
         /// <summary>A new object that stands on its own, with nothing set.</summary>
         public SubstratePaper() : this(Native.Make()) { }
@@ -281,16 +231,10 @@ namespace Vyr
         /// <summary>The same without throwing for what is wrong with the file; null then, unless the options ask for
         /// what was read.</summary>
         public static LoadReport TryLoad(string path, out SubstratePaper loaded, LoadOptions options = null) => Load(new SubstratePaper(), path, options, out loaded);
-
-        /// <summary>Saves a file with this element as its root.</summary>
-        public void Save(string path) => TrySave(path).DemandSaved();
-
-        /// <summary>The same without throwing for what is wrong.</summary>
-        public LoadReport TrySave(string path) => SaveElement(path);
     }
 
     /// <summary>A material that has no type of its own.</summary>
-    public partial class SubstrateGeneric : SubstrateGenericType
+    public partial class SubstrateGeneric : SubstrateGenericType, IElement
     {
         /// <summary>A new object that stands on its own, with nothing set.</summary>
         public SubstrateGeneric() : this(Native.Make()) { }
@@ -307,16 +251,10 @@ namespace Vyr
         /// <summary>The same without throwing for what is wrong with the file; null then, unless the options ask for
         /// what was read.</summary>
         public static LoadReport TryLoad(string path, out SubstrateGeneric loaded, LoadOptions options = null) => Load(new SubstrateGeneric(), path, options, out loaded);
-
-        /// <summary>Saves a file with this element as its root.</summary>
-        public void Save(string path) => TrySave(path).DemandSaved();
-
-        /// <summary>The same without throwing for what is wrong.</summary>
-        public LoadReport TrySave(string path) => SaveElement(path);
     }
 
     /// <summary>Metal.</summary>
-    public partial class SubstrateMetal : SubstrateMetalType
+    public partial class SubstrateMetal : SubstrateMetalType, IElement
     {
         /// <summary>A new object that stands on its own, with nothing set.</summary>
         public SubstrateMetal() : this(Native.Make()) { }
@@ -333,16 +271,10 @@ namespace Vyr
         /// <summary>The same without throwing for what is wrong with the file; null then, unless the options ask for
         /// what was read.</summary>
         public static LoadReport TryLoad(string path, out SubstrateMetal loaded, LoadOptions options = null) => Load(new SubstrateMetal(), path, options, out loaded);
-
-        /// <summary>Saves a file with this element as its root.</summary>
-        public void Save(string path) => TrySave(path).DemandSaved();
-
-        /// <summary>The same without throwing for what is wrong.</summary>
-        public LoadReport TrySave(string path) => SaveElement(path);
     }
 
     /// <summary>Plastic.</summary>
-    public partial class SubstratePlastic : SubstratePlasticType
+    public partial class SubstratePlastic : SubstratePlasticType, IElement
     {
         /// <summary>A new object that stands on its own, with nothing set.</summary>
         public SubstratePlastic() : this(Native.Make()) { }
@@ -359,16 +291,10 @@ namespace Vyr
         /// <summary>The same without throwing for what is wrong with the file; null then, unless the options ask for
         /// what was read.</summary>
         public static LoadReport TryLoad(string path, out SubstratePlastic loaded, LoadOptions options = null) => Load(new SubstratePlastic(), path, options, out loaded);
-
-        /// <summary>Saves a file with this element as its root.</summary>
-        public void Save(string path) => TrySave(path).DemandSaved();
-
-        /// <summary>The same without throwing for what is wrong.</summary>
-        public LoadReport TrySave(string path) => SaveElement(path);
     }
 
     /// <summary>Wood.</summary>
-    public partial class SubstrateWood : SubstrateWoodType
+    public partial class SubstrateWood : SubstrateWoodType, IElement
     {
         /// <summary>A new object that stands on its own, with nothing set.</summary>
         public SubstrateWood() : this(Native.Make()) { }
@@ -385,16 +311,10 @@ namespace Vyr
         /// <summary>The same without throwing for what is wrong with the file; null then, unless the options ask for
         /// what was read.</summary>
         public static LoadReport TryLoad(string path, out SubstrateWood loaded, LoadOptions options = null) => Load(new SubstrateWood(), path, options, out loaded);
-
-        /// <summary>Saves a file with this element as its root.</summary>
-        public void Save(string path) => TrySave(path).DemandSaved();
-
-        /// <summary>The same without throwing for what is wrong.</summary>
-        public LoadReport TrySave(string path) => SaveElement(path);
     }
 
     /// <summary>Vinyl.</summary>
-    public partial class SubstrateVinyl : SubstrateVinylType
+    public partial class SubstrateVinyl : SubstrateVinylType, IElement
     {
         /// <summary>A new object that stands on its own, with nothing set.</summary>
         public SubstrateVinyl() : this(Native.Make()) { }
@@ -411,16 +331,10 @@ namespace Vyr
         /// <summary>The same without throwing for what is wrong with the file; null then, unless the options ask for
         /// what was read.</summary>
         public static LoadReport TryLoad(string path, out SubstrateVinyl loaded, LoadOptions options = null) => Load(new SubstrateVinyl(), path, options, out loaded);
-
-        /// <summary>Saves a file with this element as its root.</summary>
-        public void Save(string path) => TrySave(path).DemandSaved();
-
-        /// <summary>The same without throwing for what is wrong.</summary>
-        public LoadReport TrySave(string path) => SaveElement(path);
     }
 
     /// <summary>Ceramic or other tile.</summary>
-    public partial class SubstrateTile : SubstrateTileType
+    public partial class SubstrateTile : SubstrateTileType, IElement
     {
         /// <summary>A new object that stands on its own, with nothing set.</summary>
         public SubstrateTile() : this(Native.Make()) { }
@@ -437,16 +351,10 @@ namespace Vyr
         /// <summary>The same without throwing for what is wrong with the file; null then, unless the options ask for
         /// what was read.</summary>
         public static LoadReport TryLoad(string path, out SubstrateTile loaded, LoadOptions options = null) => Load(new SubstrateTile(), path, options, out loaded);
-
-        /// <summary>Saves a file with this element as its root.</summary>
-        public void Save(string path) => TrySave(path).DemandSaved();
-
-        /// <summary>The same without throwing for what is wrong.</summary>
-        public LoadReport TrySave(string path) => SaveElement(path);
     }
 
     /// <summary>Film or foil.</summary>
-    public partial class SubstrateFilm : SubstrateFilmType
+    public partial class SubstrateFilm : SubstrateFilmType, IElement
     {
         /// <summary>A new object that stands on its own, with nothing set.</summary>
         public SubstrateFilm() : this(Native.Make()) { }
@@ -463,16 +371,10 @@ namespace Vyr
         /// <summary>The same without throwing for what is wrong with the file; null then, unless the options ask for
         /// what was read.</summary>
         public static LoadReport TryLoad(string path, out SubstrateFilm loaded, LoadOptions options = null) => Load(new SubstrateFilm(), path, options, out loaded);
-
-        /// <summary>Saves a file with this element as its root.</summary>
-        public void Save(string path) => TrySave(path).DemandSaved();
-
-        /// <summary>The same without throwing for what is wrong.</summary>
-        public LoadReport TrySave(string path) => SaveElement(path);
     }
 
     /// <summary>Textile.</summary>
-    public partial class SubstrateTextile : SubstrateTextileType
+    public partial class SubstrateTextile : SubstrateTextileType, IElement
     {
         /// <summary>A new object that stands on its own, with nothing set.</summary>
         public SubstrateTextile() : this(Native.Make()) { }
@@ -489,11 +391,5 @@ namespace Vyr
         /// <summary>The same without throwing for what is wrong with the file; null then, unless the options ask for
         /// what was read.</summary>
         public static LoadReport TryLoad(string path, out SubstrateTextile loaded, LoadOptions options = null) => Load(new SubstrateTextile(), path, options, out loaded);
-
-        /// <summary>Saves a file with this element as its root.</summary>
-        public void Save(string path) => TrySave(path).DemandSaved();
-
-        /// <summary>The same without throwing for what is wrong.</summary>
-        public LoadReport TrySave(string path) => SaveElement(path);
     }
 }

@@ -163,8 +163,8 @@ def life_cycle(printer, plan, made):
     lines.append(f"internal override VyrObject Copy() => Copied(new {name}(Native.Make(Pointer)));")
     if made.wrapper:
         return
-    printer.add(None, "public override bool IsComplete", "=> Is(Native.is_occurs_ok(Pointer));")
-    printer.add(None, "public override void Reset()", "{ RemoveParts(); Native.reset(Pointer); Keep(); }")
+    printer.lazy("ClassCalls", "Class", "null", "new ClassCalls { IsComplete = Native.is_occurs_ok, Reset = Native.reset }")
+    lines.append("internal override ClassCalls Class => Parts.Class;")
     if made.nillable:
         printer.add("True for an element that says that it has no value.", "public bool IsNil",
                     f"=> Is(Native.isnil_{made.name}(Pointer));")
@@ -175,19 +175,20 @@ def life_cycle(printer, plan, made):
                     f"{{ Native.setnil_{made.name}(Pointer); Keep(); }}")
 
 
+def is_element(made):
+    """Whether an object can be a file of its own, by the same means as others; the document has its own."""
+    return made.is_document and not made.declarations
+
+
 def document_part(printer, made):
     name = made.package_name
-    if not made.is_document or made.declarations:
+    if not is_element(made):
         return
     printer.add(f"Loads a file that has the element {made.element} as its root.", f"public static {name} Load(string path)",
                 f"{{ TryLoad(path, out {name} loaded).DemandLoaded(path); return loaded; }}")
     printer.add("The same without throwing for what is wrong with the file; null then, unless the options ask for what was "
                 "read.", f"public static LoadReport TryLoad(string path, out {name} loaded, LoadOptions options = null)",
                 f"=> Load(new {name}(), path, options, out loaded);")
-    printer.add("Saves a file with this element as its root.", "public void Save(string path)",
-                "=> TrySave(path).DemandSaved();")
-    printer.add("The same without throwing for what is wrong.", "public LoadReport TrySave(string path)",
-                "=> SaveElement(path);")
 
 
 def family(printer, plan, made):
@@ -360,6 +361,8 @@ def frame(usings, body):
 
 def title(plan, made, is_native):
     base = "" if is_native else f" : {plan.by_name[made.base].package_name if derives(made) else 'VyrObject'}"
+    if not is_native and is_element(made):
+        base += ", IElement"
     kind = "abstract partial" if made.wrapper and not made.is_document else "partial"
     return f"public {kind} class {made.package_name}{base}"
 
