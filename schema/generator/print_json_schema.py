@@ -49,19 +49,21 @@ class Printer:
 
     def items(self, made):
         """Attributes first, the base's before the class's own; so are elements."""
-        line = []
-        while made is not None:
-            line.insert(0, made)
-            base = self.plan.table_base(made)
-            made = self.plan.by_name[base] if base else None
+        line = [made]
+        while base := self.plan.table_base(line[0]):
+            line.insert(0, self.plan.by_name[base])
         return [item for one in line for item in one.attributes] + [item for one in line for item in one.elements]
 
-    def entry(self, item):
+    def value(self, item):
         """One value of an item."""
         if item.kind == "marker":
             return {"const": True}
         if item.kind == "any":
             return {"type": "string"}
+        if item.kind == "group_list":
+            members = self.plan.by_name[item.type].elements
+            return {"type": "object", "properties": {member.name: self.value(member) for member in members},
+                    "additionalProperties": False, "minProperties": 1, "maxProperties": 1}
         if item.type is None:
             return simple_schema(item.value)
         made = self.plan.table(self.plan.by_name[item.type])
@@ -72,34 +74,19 @@ class Printer:
     def members(self, made):
         """Key -> schema, and what must be there: alternatives of keys."""
         properties, required = {}, []
-
-        def add(key, schema, doc):
-            if key in properties or key in OWN_KEYS and key not in ("value", "any"):
-                raise SchemaError("vyr.xsd", 0, f"{made.name} would have two members {key} in JSON")
-            properties[key] = schema | ({"description": doc} if doc else {})
-
         for item in self.items(made):
-            demanded = "demanded" in item.use or item.kind == "group" and item.minimum > 0 and "asked" in item.use
-            if item.kind in ("group", "group_list"):
-                holder = self.plan.by_name[item.type]
-                if item.kind == "group":
-                    for alternative in holder.elements:
-                        add(alternative.name, self.entry(alternative), alternative.doc)
-                    keys = [alternative.name for alternative in holder.elements]
-                else:
-                    named = {alternative.name: self.entry(alternative) for alternative in holder.elements}
-                    one = {"type": "object", "properties": named, "additionalProperties": False,
-                           "minProperties": 1, "maxProperties": 1}
-                    add(item.name, {"type": "array", "items": one} | ({"minItems": 1} if demanded else {}), item.doc)
-                    keys = [item.name]
-            else:
-                key = {"content": "value", "any": "any"}.get(item.kind, item.name)
-                schema = self.entry(item)
-                if item.repeats:
-                    schema = {"type": "array", "items": schema} | ({"minItems": 1} if demanded else {})
-                add(key, schema, item.doc)
-                keys = [key]
-            if demanded and item.kind != "alternative":
+            is_demanded = "demanded" in item.use or item.kind == "group" and item.minimum > 0 and "asked" in item.use
+            # The members of a group stand in its place.
+            places = self.plan.by_name[item.type].elements if item.kind == "group" else [item]
+            keys = [{"content": "value", "any": "any"}.get(place.kind, place.name) for place in places]
+            for key, place in zip(keys, places):
+                if key in properties or key in OWN_KEYS and key not in ("value", "any"):
+                    raise SchemaError("vyr.xsd", 0, f"{made.name} would have two members {key} in JSON")
+                schema = self.value(place)
+                if place.repeats:
+                    schema = {"type": "array", "items": schema} | ({"minItems": 1} if is_demanded else {})
+                properties[key] = schema | ({"description": place.doc} if place.doc else {})
+            if is_demanded and item.kind != "alternative":
                 required.append(keys)
         return properties, required
 

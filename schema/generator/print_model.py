@@ -22,10 +22,9 @@ def class_line(plan, made):
 
 
 def item_line(made, item):
-    low = str(item.minimum) if item.kind != "alternative" else "one of"
-    occurs = low if item.kind == "alternative" else f"{low}..{'n' if item.repeats else '1'}"
-    words = [f"{made.name}.{item.name or item.accessor}", item.kind, item.type or item.value.name if item.type or
-             item.value else "markup", occurs, "+".join(item.use) or "-"]
+    occurs = "one of" if item.kind == "alternative" else f"{item.minimum}..{'n' if item.repeats else '1'}"
+    words = [f"{made.name}.{item.name or item.accessor}", item.kind,
+             item.type or (item.value.name if item.value else "markup"), occurs, "+".join(item.use) or "-"]
     if item.value:
         words.append(item.value.value)
     if item.presence:
