@@ -19,6 +19,7 @@
 #include "tools/diff.h"
 #include "tools/files.h"
 #include "tools/json.h"
+#include "tools/progress.h"
 #include "tools/text.h"
 #include "tools/tree.h"
 
@@ -335,6 +336,7 @@ exit_code diff(const diff_options& options) {
     if (read_tree(options.before, before) != exit_ok || read_tree(options.after, after) != exit_ok) {
         return exit_usage_or_file;
     }
+    const c_progress_line progress("comparing");
     c_changes changes(options, std::cout, std::numeric_limits<std::size_t>::max());
     c_comparison(before, after, changes).compare(0, 0, {}, 0);
     changes.finish();

@@ -55,20 +55,6 @@ private:
     int m_descriptor;
 };
 
-/// Everything up to the end. Returns why that failed, or nothing.
-std::string read_all(int descriptor, std::string& bytes) {
-    for (;;) {
-        const std::size_t filled = bytes.size();
-        if (filled > k_largest_stream) return k_stream_too_long;
-        constexpr std::size_t k_unit = std::size_t{1} << 16U;
-        bytes.resize(filled + std::max(k_unit, filled));
-        const ssize_t count = read(descriptor, bytes.data() + filled, bytes.size() - filled);
-        bytes.resize(filled + static_cast<std::size_t>(std::max<ssize_t>(count, 0)));
-        if (count == 0) return {};
-        if (count < 0 && errno != EINTR) return system_text();
-    }
-}
-
 std::string write_all(int descriptor, std::string_view bytes) {
     while (!bytes.empty()) {
         const ssize_t count = write(descriptor, bytes.data(), bytes.size());
@@ -155,8 +141,9 @@ void read_bytes(const std::string& bytes, Vyr& document, const ReportOptions& op
 
 void read_stream(int descriptor, Vyr& document, const ReportOptions& options, const text_taker& take_text,
                  s_reading& reading) {
-    std::string bytes;
-    reading.refusal = read_all(descriptor, bytes);
+    c_input input(descriptor);
+    const std::string bytes = input.rest();
+    reading.refusal = input.refusal();
     if (reading.refusal.empty()) read_bytes(bytes, document, options, take_text, reading);
 }
 
@@ -243,6 +230,7 @@ std::string fault_text(const std::string& file, com_vyrgraph_v2::DocumentFault f
 }
 
 void complain(const std::string& file, const std::string& text) {
+    c_progress_line::make_way();
     std::cerr << "vyr: " << shown_name(file) << ": " << printable(text) << '\n';
 }
 
@@ -273,6 +261,7 @@ s_reading read_document_bytes(const std::string& bytes, Vyr& document, const tex
 }
 
 exit_code explain(const std::string& file, const s_reading& reading) {
+    c_progress_line::make_way();
     if (!reading.refusal.empty()) {
         complain(file, reading.refusal);
         return exit_usage_or_file;
@@ -295,29 +284,84 @@ exit_code explain_failed_write(const DocumentReport& report, std::string* reason
     return is_of_system ? exit_usage_or_file : exit_document_fails;
 }
 
+exit_code read_text(const std::string& file, c_long_text& text, std::size_t* size) {
+    Vyr document;
+    const exit_code result = read_or_explain(file, document, size);
+    if (result != exit_ok) return result;
+    c_long_text_buffer buffer(text);
+    std::ostream stream(&buffer);
+    lmx::c_xml_writer writer(stream, 0, "", "\n");
+    if (document.marshal(writer, "Vyr:Vyr") == lmx::ELMX_OK) return exit_ok;
+    std::string message;
+    complain(file, writer.get_error_message(&message));
+    return exit_document_fails;
+}
+
 exit_code read_tree(const std::string& file, c_tree& tree, std::size_t* size) {
-    std::string xml;
-    {
-        Vyr document;
-        const exit_code result = read_or_explain(file, document, size);
-        if (result != exit_ok) return result;
-        lmx::c_xml_writer writer(xml, 0, "", "\n");
-        if (document.marshal(writer, "Vyr:Vyr") != lmx::ELMX_OK) {
-            std::string message;
-            complain(file, writer.get_error_message(&message));
-            return exit_document_fails;
-        }
-    }
-    const lmx::elmx_error code = tree.read(xml);
+    c_long_text text;
+    const exit_code result = read_text(file, text, size);
+    if (result != exit_ok) return result;
+    const c_progress_line progress("looking through " + shown_name(file));
+    c_read_long_text source(std::move(text));
+    const lmx::elmx_error code = tree.read(source);
     if (code == lmx::ELMX_OK) return exit_ok;
     complain(file, lmx::get_error_description(code));
     return exit_document_fails;
 }
 
+c_input::c_input(const std::string& file) : m_descriptor(STDIN_FILENO) {
+    if (file == k_standard_stream) return;
+    m_descriptor = open(file.c_str(), O_RDONLY | O_CLOEXEC);
+    m_is_owned = m_descriptor >= 0;
+    if (!m_is_owned) m_refusal = system_text();
+}
+
+c_input::~c_input() {
+    if (m_is_owned) close(m_descriptor);
+}
+
+/// Reads more behind what the buffer holds.
+bool c_input::fill() {
+    const auto held = static_cast<std::size_t>(egptr() - gptr());
+    std::copy(gptr(), egptr(), m_buffer.data());
+    ssize_t count = 0;
+    do {
+        if (!m_refusal.empty()) break;
+        count = ::read(m_descriptor, m_buffer.data() + held, m_buffer.size() - held);
+        if (count < 0 && errno != EINTR) m_refusal = system_text();
+    } while (count < 0);
+    const std::size_t more = count > 0 ? static_cast<std::size_t>(count) : 0;
+    m_total += more;
+    if (m_total > k_largest_stream) m_refusal = k_stream_too_long;
+    setg(m_buffer.data(), m_buffer.data(), m_buffer.data() + held + more);
+    return more > 0 && m_refusal.empty();
+}
+
+c_input::int_type c_input::underflow() { return fill() ? traits_type::to_int_type(*gptr()) : traits_type::eof(); }
+
+char c_input::first_character() {
+    for (;;) {
+        constexpr std::string_view k_blanks = " \t\r\n";
+        const std::string_view held(gptr(), static_cast<std::size_t>(egptr() - gptr()));
+        const std::size_t first = held.find_first_not_of(k_blanks);
+        if (first != held.npos) return held[first];
+        if (held.size() == m_buffer.size() || !fill()) return '\0';
+    }
+}
+
+std::string c_input::rest() {
+    c_long_text text;
+    while (sgetc() != traits_type::eof()) {
+        text.append(std::string_view(gptr(), static_cast<std::size_t>(egptr() - gptr())));
+        setg(m_buffer.data(), m_buffer.data(), m_buffer.data());
+    }
+    return text.take();
+}
+
 std::string read_file(const std::string& file, std::string& bytes) {
-    if (file == k_standard_stream) return read_all(STDIN_FILENO, bytes);
-    const c_descriptor descriptor(open(file.c_str(), O_RDONLY | O_CLOEXEC));
-    return descriptor.get() < 0 ? system_text() : read_all(descriptor.get(), bytes);
+    c_input input(file);
+    bytes = input.rest();
+    return input.refusal();
 }
 
 c_scratch_folder::c_scratch_folder() {

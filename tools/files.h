@@ -10,12 +10,15 @@
 #include <filesystem>
 #include <functional>
 #include <optional>
+#include <streambuf>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "document/report.h"
 #include "schema/Vyr.h"
 #include "tools/commands.h"
+#include "tools/long_text.h"
 #include "tools/tree.h"
 
 namespace vyr_tool {
@@ -53,8 +56,41 @@ exit_code read_or_explain(const std::string& file, com_vyrgraph_v2::Vyr& documen
 /// Says on standard error what came of a reading.
 exit_code explain(const std::string& file, const s_reading& reading);
 
+/// The same as the text that the library writes, without layout.
+exit_code read_text(const std::string& file, c_long_text& text, std::size_t* size = nullptr);
+
 /// The same as a tree.
 exit_code read_tree(const std::string& file, c_tree& tree, std::size_t* size = nullptr);
+
+/// The bytes of a file, a pipe or "-" as they come, at most 1 GB.
+class c_input : public std::streambuf {
+public:
+    explicit c_input(const std::string& file);
+    /// Of an open file, which is borrowed.
+    explicit c_input(int descriptor) : m_descriptor(descriptor) {}
+    c_input(const c_input&) = delete;
+    c_input& operator=(const c_input&) = delete;
+    ~c_input() override;
+
+    /// Why there is no more, if that is not because all was read; otherwise empty.
+    const std::string& refusal() const { return m_refusal; }
+    /// The first character that is no blank, as far as it can be seen without reading on; 0 if there is none.
+    char first_character();
+    /// All that has not been read yet.
+    std::string rest();
+
+protected:
+    int_type underflow() override;
+
+private:
+    bool fill();
+
+    int m_descriptor;
+    bool m_is_owned = false;
+    std::size_t m_total = 0;
+    std::string m_refusal;
+    std::vector<char> m_buffer = std::vector<char>(std::size_t{1} << 16U);
+};
 
 /// Everything that a file, a pipe or "-" holds. Returns why it could not be read, or nothing.
 std::string read_file(const std::string& file, std::string& bytes);

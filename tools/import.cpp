@@ -75,6 +75,7 @@ public:
         s_json_form form;
         form.has_texts_only = true;
         form.is_nil_where_missing = true;
+        form.has_places = true;
         form.history = m_now;
         for (const s_json_fault& fault : read_json(object, *document, form)) {
             const auto found = cells.find(fault.place);

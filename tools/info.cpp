@@ -17,6 +17,7 @@
 #include "tools/commands.h"
 #include "tools/files.h"
 #include "tools/json.h"
+#include "tools/progress.h"
 #include "tools/text.h"
 #include "tools/tree.h"
 #include "tools/typed_json.h"
@@ -257,6 +258,7 @@ exit_code info(const info_options& options) {
         const exit_code read = read_tree(file, tree, &size);
         result = std::max(result, read);
         if (read != exit_ok) continue;
+        const c_progress_line progress("printing " + shown_name(file));
         if (options.json) {
             std::cout << std::exchange(separator, ",\n") << to_text(describe(file, size, tree, options.depth));
         } else {

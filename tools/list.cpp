@@ -16,6 +16,7 @@
 #include "tools/csv.h"
 #include "tools/files.h"
 #include "tools/json.h"
+#include "tools/progress.h"
 #include "tools/spectrum.h"
 #include "tools/text.h"
 #include "tools/tree.h"
@@ -269,6 +270,7 @@ exit_code list(const list_options& options) {
         const exit_code read = read_tree(file, tree);
         result = std::max(result, read);
         if (read != exit_ok) continue;
+        const c_progress_line progress("printing " + shown_name(file));
         const std::vector<s_color> colors = find_wanted(tree, options);
         if (options.csv) {
             csv.add(shown_name(file), tree, colors);
@@ -286,7 +288,10 @@ exit_code list(const list_options& options) {
         }
     }
     if (options.json) std::cout << "\n]\n";
-    if (options.csv) csv.print(std::cout);
+    if (options.csv) {
+        const c_progress_line progress("printing the table");
+        csv.print(std::cout);
+    }
     return result;
 }
 

@@ -3,6 +3,7 @@
 
 /// The command `vyr`: its command line. The one source that takes the parser of command lines in.
 
+#include <sys/stat.h>
 #include <unistd.h>
 
 #include <CLI/CLI.hpp>
@@ -22,6 +23,7 @@
 #include <vector>
 
 #include "tools/commands.h"
+#include "tools/progress.h"
 #include "tools/text.h"
 
 namespace {
@@ -217,6 +219,8 @@ protected:
         return traits_type::not_eof(c);
     }
     int sync() override {
+        // On the same terminal, and in a pipe's pager, results are a sign of life themselves.
+        if (!m_is_file) c_progress_line::make_way();
         for (const char* next = pbase(); next < pptr() && m_error == 0;) {
             const ssize_t count = write(STDOUT_FILENO, next, static_cast<std::size_t>(pptr() - next));
             if (count >= 0) {
@@ -230,7 +234,13 @@ protected:
     }
 
 private:
+    static bool is_regular(int descriptor) {
+        struct stat state {};
+        return fstat(descriptor, &state) == 0 && S_ISREG(state.st_mode);
+    }
+
     std::array<char, 65536> m_buffer{};
+    bool m_is_file = is_regular(STDOUT_FILENO);
     int m_error = 0;
 };
 

@@ -12,8 +12,11 @@
 
 namespace vyr_tool {
 
+c_progress_line* c_progress_line::s_shown = nullptr;
+
 c_progress_line::c_progress_line(const std::string& text) {
     if (isatty(STDERR_FILENO) == 0) return;
+    s_shown = this;
     m_thread = std::thread([this, line = printable(text)] {
         bool is_shown = false;
         std::unique_lock lock(m_mutex);
@@ -26,7 +29,14 @@ c_progress_line::c_progress_line(const std::string& text) {
     });
 }
 
-c_progress_line::~c_progress_line() {
+c_progress_line::~c_progress_line() { end(); }
+
+void c_progress_line::make_way() {
+    if (s_shown != nullptr) s_shown->end();
+}
+
+void c_progress_line::end() {
+    s_shown = nullptr;
     if (!m_thread.joinable()) return;
     {
         const std::scoped_lock lock(m_mutex);

@@ -13,7 +13,7 @@
 namespace vyr_tool {
 
 /// Shows a line with the time that has gone by, once that is more than a second, and takes it away at the end. Shows
-/// nothing where standard error is no terminal.
+/// nothing where standard error is no terminal. One at a time.
 class c_progress_line {
 public:
     explicit c_progress_line(const std::string& text);
@@ -21,7 +21,13 @@ public:
     c_progress_line& operator=(const c_progress_line&) = delete;
     ~c_progress_line();
 
+    /// Takes the line away for good, if there is one: something else is about to be printed.
+    static void make_way();
+
 private:
+    void end();
+
+    static c_progress_line* s_shown;
     std::mutex m_mutex;
     std::condition_variable m_ended;
     bool m_is_ended = false;

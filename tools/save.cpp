@@ -64,17 +64,20 @@ lmx::elmx_error print(const Vyr& document, std::streambuf& buffer) {
 }
 
 lmx::elmx_error read_written(const fs::path& plain, c_tree& tree) {
-    std::string text;
-    return read_file(plain.string(), text).empty() ? tree.read(text) : lmx::ELMX_NO_FILE;
+    lmx::c_read_file source(plain.c_str());
+    return source.is_open() ? tree.read(source) : lmx::ELMX_NO_FILE;
 }
 
 void explain_difference(const fs::path& plain, const Vyr& back) {
     constexpr std::size_t k_most_differences = 20;
-    std::stringbuf written;
+    c_long_text written;
+    c_long_text_buffer buffer(written);
     c_tree before;
     c_tree after;
-    if (print(back, written) == lmx::ELMX_OK && read_written(plain, before) == lmx::ELMX_OK &&
-        after.read(written.str()) == lmx::ELMX_OK) {
+    if (print(back, buffer) != lmx::ELMX_OK) return;
+    c_read_long_text again(std::move(written));
+    if (read_written(plain, before) == lmx::ELMX_OK && after.read(again) == lmx::ELMX_OK) {
+        c_progress_line::make_way();
         print_differences(before, after, std::cerr, k_most_differences);
     }
 }
@@ -105,11 +108,10 @@ exit_code write(const Vyr& document, const fs::path& file, std::string* reasons)
 
 /// Returns why it could not be done, or nothing.
 std::string write_json(const fs::path& plain, const fs::path& file) {
-    c_tree tree(c_tree::open_content::markup);
-    const lmx::elmx_error code = read_written(plain, tree);
-    if (code != lmx::ELMX_OK) return lmx::get_error_description(code);
+    lmx::c_read_file source(plain.c_str());
     std::ofstream stream(file, std::ios::binary);
-    print_typed_json(tree, 0, stream);
+    const lmx::elmx_error code = print_typed_json(source, stream);
+    if (code != lmx::ELMX_OK) return lmx::get_error_description(code);
     stream.close();
     return stream ? std::string() : "could not be written in full";
 }

@@ -12,6 +12,7 @@
 #include "tools/commands.h"
 #include "tools/files.h"
 #include "tools/page.h"
+#include "tools/progress.h"
 
 namespace vyr_tool {
 
@@ -51,6 +52,7 @@ exit_code show(const show_options& options) {
     if (read != exit_ok) return read;
     const std::string name =
         options.file == k_standard_stream ? shown_name(options.file) : fs::path(options.file).filename().string();
+    const c_progress_line progress("making the page of " + shown_name(options.file));
     if (is_stream) {
         c_page(tree, std::cout).print(name);
         return exit_ok;

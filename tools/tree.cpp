@@ -63,12 +63,13 @@ void c_tree::set_hash(index node) {
     element.hash = hash;
 }
 
-lmx::elmx_error c_tree::read(const std::string& xml) {
+lmx::elmx_error c_tree::read(lmx::c_read& source) {
     using event = c_typed_reader::event;
-    c_typed_reader reader(xml, m_form == open_content::markup);
+    c_typed_reader reader(source, false);
     std::vector<index> open;
     const std::uint32_t no_name = number_of({}, nullptr, nullptr);
     for (;;) {
+        if (m_values.size() > std::numeric_limits<std::uint32_t>::max()) return lmx::ELMX_LENGTH_TOO_LONG;
         switch (reader.next()) {
             case event::begin:
                 open.push_back(size());
@@ -91,8 +92,6 @@ lmx::elmx_error c_tree::read(const std::string& xml) {
                     m_nodes.push_back({0, no_name, size() + 1, static_cast<std::uint32_t>(m_fields.size())});
                 add_field(no_name, reader.value());
                 if (is_behind_child) set_hash(size() - 1);
-                if (m_values.size() > std::numeric_limits<std::uint32_t>::max() - xml.size())
-                    return lmx::ELMX_LENGTH_TOO_LONG;
                 break;
             }
             case event::end:
@@ -103,12 +102,7 @@ lmx::elmx_error c_tree::read(const std::string& xml) {
             case event::done:
                 add_field(no_name, {});
                 return lmx::ELMX_OK;
-            case event::markup:
-                m_nodes.push_back({0, number_of({}, reader.member(), nullptr), size() + 1,
-                                   static_cast<std::uint32_t>(m_fields.size())});
-                add_field(no_name, reader.value());
-                set_hash(size() - 1);
-                break;
+            case event::markup:  // not asked for
             case event::broken:
                 return lmx::ELMX_NOT_WELL_FORMED;
         }

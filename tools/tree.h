@@ -16,6 +16,7 @@
 #include <vector>
 
 #include "lmx/error.h"
+#include "lmx/reader/read.h"
 #include "tools/members.h"
 
 namespace vyr_tool {
@@ -27,11 +28,6 @@ class c_tree {
 public:
     using index = std::uint32_t;
 
-    /// What becomes of open content: elements, or leaves with their markup.
-    enum class open_content { elements, markup };
-
-    explicit c_tree(open_content form = open_content::elements) : m_form(form) {}
-
     /// An attribute, or an element's text, whose name is empty.
     struct field {
         std::string_view name;
@@ -40,7 +36,7 @@ public:
     };
 
     /// Reads a document that the library wrote, once per object. Fails for others, or for 4 GB of values.
-    lmx::elmx_error read(const std::string& xml);
+    lmx::elmx_error read(lmx::c_read& source);
 
     index size() const { return static_cast<index>(m_nodes.size()); }
     std::string_view name(index node) const { return m_names[m_nodes[node].name].text; }
@@ -93,7 +89,6 @@ private:
     void add_field(std::uint32_t field_name, std::string_view field_value);
     void set_hash(index node);
 
-    open_content m_form;
     std::vector<s_node> m_nodes;
     std::vector<s_field> m_fields;  ///< closed by one that marks the end
     std::string m_values;

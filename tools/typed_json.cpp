@@ -9,6 +9,8 @@
 #include <string>
 #include <utility>
 
+#include "tools/typed_reader.h"
+
 namespace vyr_tool {
 
 namespace {
@@ -26,17 +28,21 @@ bool read_number(std::string_view text, Number& number) {
     return error == std::errc() && end == text.data() + text.size();
 }
 
-/// The attributes, as far as they are the format's, and what the element says of itself.
+/// An attribute, as far as it is the format's, or what the element says of itself.
+void add_attribute(json& object, std::string_view name, std::string_view value, value_kind kind) {
+    if (name == k_nil_key) {
+        object[std::string(name)] = true;
+    } else if (name == k_type_key) {
+        object[std::string(name)] = json_string(local_name(value));
+    } else if (!name.empty() && kind != value_kind::none) {
+        object[std::string(name)] = typed_value(value, kind);
+    }
+}
+
 void add_attributes(const c_tree& tree, index node, json& object) {
     for (std::size_t i = 0; i < tree.field_count(node); ++i) {
         const c_tree::field field = tree.get_field(node, i);
-        if (field.name == k_nil_key) {
-            object[std::string(k_nil_key)] = true;
-        } else if (field.name == k_type_key) {
-            object[std::string(k_type_key)] = json_string(local_name(field.value));
-        } else if (!field.name.empty() && field.kind != value_kind::none) {
-            object[std::string(field.name)] = typed_value(field.value, field.kind);
-        }
+        add_attribute(object, field.name, field.value, field.kind);
     }
 }
 
@@ -60,74 +66,105 @@ json content_of(const c_tree& tree, index node) {
     return typed_value(tree.value(node), content->item->value);
 }
 
-bool is_simple(const c_tree& tree, index node) {
-    return tree.type(node) == nullptr || c_members::of(*tree.type(node)).is_content_only();
-}
-
+/// Prints a document as it goes by.
 class c_printer {
 public:
-    c_printer(const c_tree& tree, std::ostream& out) : m_tree(tree), m_out(out) {}
+    c_printer(lmx::c_read& source, std::ostream& out) : m_reader(source, true), m_out(out) {}
 
-    void print(index node, std::size_t depth) {
-        constexpr index k_small = 1000;
-        if (m_tree.end(node) - node < k_small || is_simple(m_tree, node)) {
-            print_small(typed_json(m_tree, node), depth);
-            return;
-        }
-        json attributes = json::object();
-        add_attributes(m_tree, node, attributes);
-        m_out << '{';
-        const char* separator = "\n";
-        for (const auto& [key, value] : attributes.items()) {
-            start_member(std::exchange(separator, ",\n"), depth + 1, key);
-            m_out << to_text(value);
-        }
-        for (index i = node + 1; i < m_tree.end(node);) {
-            start_member(std::exchange(separator, ",\n"), depth + 1, key_of(m_tree, i));
-            if (!is_list(m_tree, i)) {
-                print(i, depth + 1);
-                i = m_tree.end(i);
-                continue;
-            }
-            const std::string_view key = m_tree.member(i)->key;
-            const char* comma = "[\n";
-            for (; i < m_tree.end(node) && m_tree.member(i) != nullptr && m_tree.member(i)->key == key;
-                 i = m_tree.end(i)) {
-                m_out << std::exchange(comma, ",\n") << indent(depth + 2);
-                print_entry(i, depth + 2);
-            }
-            m_out << '\n' << indent(depth + 1) << ']';
-        }
-        m_out << '\n' << indent(depth) << '}';
+    /// False for what the library did not write.
+    bool print_document() {
+        if (m_reader.next() != event::begin) return false;
+        m_is_whole = true;
+        print_element(0);
+        return m_is_whole && m_reader.next() == event::done;
     }
 
 private:
-    static std::string indent(std::size_t depth) { return std::string(2 * depth, ' '); }
+    using event = c_typed_reader::event;
 
-    void start_member(const char* separator, std::size_t depth, const std::string& key) {
-        m_out << separator << indent(depth) << to_text(json(key)) << ": ";
-    }
-
-    void print_entry(index node, std::size_t depth) {
-        if (!is_named_entry(m_tree, node)) return print(node, depth);
-        m_out << "{\n" << indent(depth + 1) << to_text(json(std::string(m_tree.name(node)))) << ": ";
-        print(node, depth + 1);
-        m_out << '\n' << indent(depth) << '}';
-    }
-
-    /// Strings hold no line end, so that all of them are of the layout.
-    void print_small(const json& value, std::size_t depth) {
-        const std::string text = to_text(value);
-        std::size_t begin = 0;
-        for (std::size_t end = text.find('\n'); end != std::string::npos; end = text.find('\n', begin)) {
-            m_out << std::string_view(text).substr(begin, end + 1 - begin) << indent(depth);
-            begin = end + 1;
+    /// From behind the start of an element to its end.
+    void print_element(std::size_t depth) {
+        const s_member* const member = m_reader.member();
+        const lmx::s_class* type = m_reader.type();
+        json object = json::object();
+        event found = m_reader.next();
+        for (; found == event::attribute; found = m_reader.next()) {
+            type = m_reader.type();
+            add_attribute(object, m_reader.name(), m_reader.value(),
+                          m_reader.member() == nullptr ? value_kind::none : m_reader.member()->item->value);
         }
-        m_out << std::string_view(text).substr(begin);
+        std::string text;
+        if (found == event::text) {
+            text = m_reader.value();
+            found = m_reader.next();
+        }
+        const c_members* const members = type == nullptr ? nullptr : &c_members::of(*type);
+        const bool is_nil = object.contains(k_nil_key);
+        if (members == nullptr) {
+            object = member != nullptr && member->is_marker() ? json(true) : typed_value(text, kind_of(member->item));
+        } else if (members->is_content_only()) {
+            object = is_nil ? json() : typed_value(text, members->content()->item->value);
+        } else if (is_nil && object.size() == 1) {
+            object = {};
+        } else if (members->content() != nullptr && !is_nil) {
+            object[std::string(k_content_key)] = typed_value(text, members->content()->item->value);
+        }
+        if (!object.is_object()) {
+            m_out << to_text(object);
+            m_is_whole = m_is_whole && found == event::end;
+            return;
+        }
+        m_out << '{';
+        const char* separator = "\n";
+        for (const auto& [key, value] : object.items()) {
+            start_member(std::exchange(separator, ",\n"), depth + 1, key);
+            m_out << to_text(value);
+        }
+        print_children(found, depth + 1, separator);
+        if (*separator == ',') m_out << '\n' << indent(depth);
+        m_out << '}';
     }
 
-    const c_tree& m_tree;
+    /// Up to the end of the element that is open.
+    void print_children(event found, std::size_t depth, const char*& separator) {
+        std::string_view list;
+        for (; m_is_whole && found != event::end; found = m_reader.next()) {
+            if (found == event::text) continue;
+            const s_member* const member = m_reader.member();
+            m_is_whole = (found == event::begin || found == event::markup) && member != nullptr;
+            if (!m_is_whole) return;
+            if (!list.empty() && list == member->key) {
+                m_out << ",\n" << indent(depth + 1);
+            } else {
+                if (!list.empty()) end_list(depth);
+                start_member(std::exchange(separator, ",\n"), depth, member->key);
+                list = member->is_list() ? member->key : std::string_view();
+                if (!list.empty()) m_out << "[\n" << indent(depth + 1);
+            }
+            const std::size_t own_depth = list.empty() ? depth : depth + 1;
+            if (found == event::markup) {
+                m_out << to_text(json_string(m_reader.value()));
+            } else if (member->is_group_list()) {
+                start_member("{\n", own_depth + 1, local_name(member->name));
+                print_element(own_depth + 1);
+                m_out << '\n' << indent(own_depth) << '}';
+            } else {
+                print_element(own_depth);
+            }
+        }
+        if (!list.empty()) end_list(depth);
+    }
+
+    static std::string indent(std::size_t depth) { return std::string(2 * depth, ' '); }
+    void end_list(std::size_t depth) { m_out << '\n' << indent(depth) << ']'; }
+    /// Names of the format need no escapes.
+    void start_member(const char* separator, std::size_t depth, std::string_view key) {
+        m_out << separator << indent(depth) << '"' << key << "\": ";
+    }
+
+    c_typed_reader m_reader;
     std::ostream& m_out;
+    bool m_is_whole = false;
 };
 
 }  // namespace
@@ -182,9 +219,10 @@ json typed_json(const c_tree& tree, index node, const node_filter& takes) {
     return object;
 }
 
-void print_typed_json(const c_tree& tree, index node, std::ostream& out) {
-    c_printer(tree, out).print(node, 0);
+lmx::elmx_error print_typed_json(lmx::c_read& source, std::ostream& out) {
+    if (!c_printer(source, out).print_document()) return lmx::ELMX_NOT_WELL_FORMED;
     out << '\n';
+    return lmx::ELMX_OK;
 }
 
 }  // namespace vyr_tool

@@ -26,7 +26,8 @@ using node_filter = std::function<bool(c_tree::index child)>;
 /// objects of one member, which is their name.
 json typed_json(const c_tree& tree, c_tree::index node, const node_filter& takes = {});
 
-/// The same as text, indented, without having all of it in memory a second time. Ends with a line end.
-void print_typed_json(const c_tree& tree, c_tree::index node, std::ostream& out);
+/// A document that the library wrote, as indented text, printed while it is read: nothing of it is kept. Ends with a
+/// line end.
+lmx::elmx_error print_typed_json(lmx::c_read& source, std::ostream& out);
 
 }  // namespace vyr_tool

@@ -7,8 +7,8 @@
 
 namespace vyr_tool {
 
-c_typed_reader::c_typed_reader(const std::string& xml, bool is_markup_whole)
-    : m_reader(xml.data(), xml.size()), m_is_markup_whole(is_markup_whole) {}
+c_typed_reader::c_typed_reader(lmx::c_read& source, bool is_markup_whole)
+    : m_reader(source), m_is_markup_whole(is_markup_whole) {}
 
 c_typed_reader::event c_typed_reader::next() {
     m_member = nullptr;

@@ -10,6 +10,7 @@
 #include <vector>
 
 #include "lmx/binding/table.h"
+#include "lmx/reader/read.h"
 #include "lmx/reader/xml_reader.h"
 #include "tools/members.h"
 
@@ -27,9 +28,9 @@ public:
         broken,  ///< not well-formed
     };
 
-    /// The text is borrowed. `is_markup_whole` asks for open content as markup; otherwise it comes as elements that
+    /// The source is borrowed. `is_markup_whole` asks for open content as markup; otherwise it comes as elements that
     /// are no members.
-    c_typed_reader(const std::string& xml, bool is_markup_whole);
+    c_typed_reader(lmx::c_read& source, bool is_markup_whole);
 
     event next();
     /// As written, with the prefix.
@@ -50,7 +51,7 @@ private:
 
     event close();
 
-    lmx::c_xml_reader_memory m_reader;
+    lmx::c_xml_reader m_reader;
     bool m_is_markup_whole;
     state m_state = state::markup;
     std::vector<s_open> m_open;

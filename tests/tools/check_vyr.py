@@ -13,9 +13,11 @@ import pathlib
 import pty
 import re
 import shutil
+import signal
 import subprocess
 import sys
 import tempfile
+import time
 import traceback
 
 vyr, palette = (pathlib.Path(argument).resolve() for argument in sys.argv[1:3])
@@ -55,6 +57,10 @@ def on_terminal(*arguments, **environment):
     child = subprocess.Popen([vyr, *arguments], stdin=slave, stdout=slave, stderr=slave,
                              env={**os.environ, "TERM": "xterm", "NO_COLOR": "", **environment})
     os.close(slave)
+    return drained(master), child.wait(120)
+
+
+def drained(master):
     text = b""
     try:
         while piece := os.read(master, 65536):
@@ -62,7 +68,7 @@ def on_terminal(*arguments, **environment):
     except OSError:
         pass  # the other end is closed
     os.close(master)
-    return text.decode(errors="replace"), child.wait(120)
+    return text.decode(errors="replace")
 
 
 def make_documents():
@@ -299,10 +305,33 @@ def check_terminal():
         fail(f"check of a slow pipe on a terminal: {text!r}")
 
 
+def check_progress():
+    """A line while results go into a file, and nothing of it left."""
+    pathlib.Path("long.vyr").write_text(re.sub("(<Vyr:ColorSet .*</Vyr:ColorSet>\n)", lambda found: found[1] * 120,
+                                               palette.read_text(), flags=re.S))
+    for command in ("list", "json"):
+        for _ in range(5):  # until it has been caught at work
+            master, slave = pty.openpty()
+            with open("results", "wb") as results:
+                child = subprocess.Popen([vyr, command, "long.vyr"], stdout=results, stderr=slave)
+            while child.poll() is None and os.path.getsize("results") == 0:
+                time.sleep(0.002)
+            child.send_signal(signal.SIGSTOP)
+            time.sleep(1.2)
+            child.send_signal(signal.SIGCONT)
+            child.wait(120)
+            os.close(slave)
+            text = drained(master)
+            if "printing" in text:
+                break
+        if "\rprinting long.vyr, 1 s" not in text or not text.endswith("\r\x1b[K"):
+            fail(f"{command} says on a terminal: {text!r}")
+
+
 def check_all(line):
     checks = [check_usage, lambda: check_check(line), check_convert, check_info_and_list, check_diff, check_streams]
     if has_terminals():
-        checks.append(check_terminal)
+        checks += [check_terminal, check_progress]
     for check in checks:
         try:
             check()
