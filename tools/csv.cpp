@@ -25,6 +25,11 @@ std::string quoted_cell(const std::string& text) {
     return cell + '"';
 }
 
+/// "12: column 3: ", for the cell behind so many others.
+std::string place(std::size_t line, std::size_t cells) {
+    return std::to_string(line) + ": column " + std::to_string(cells + 1) + ": ";
+}
+
 }  // namespace
 
 std::string wavelength_header(std::string_view wavelength) { return std::string(wavelength).append(k_unit); }
@@ -130,17 +135,18 @@ std::string read_csv(std::string_view text, std::vector<s_csv_row>& rows) {
                 const std::size_t first_line = line;
                 for (++at;; ++at) {
                     if (at >= text.size()) {
-                        return "line " + std::to_string(first_line) +
-                               ": the quotation mark that begins a cell has no end";
+                        return place(first_line, row.cells.size()) +
+                               "the quotation mark that begins the cell has no end";
                     }
                     if (text[at] == '"' && !text.substr(at + 1).starts_with('"')) break;
                     if (text[at] == '"') ++at;
                     if (text[at] == '\n') ++line;
-                    cell += text[at];
+                    // Within cells, too, a line ends in either way.
+                    if (!text.substr(at).starts_with(k_line_end)) cell += text[at];
                 }
                 ++at;
                 if (at < text.size() && std::string_view(",\r\n").find(text[at]) == std::string_view::npos) {
-                    return "line " + std::to_string(line) + ": text behind the quotation mark that ends a cell";
+                    return place(line, row.cells.size()) + "text behind the quotation mark that ends the cell";
                 }
             }
             const std::size_t end = std::min(text.find_first_of(",\r\n", at), text.size());

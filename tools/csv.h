@@ -71,7 +71,8 @@ struct s_csv_row {
     std::vector<std::string> cells;
 };
 
-/// Takes a table apart; rows without any text are left out. Returns what is wrong with it, or nothing.
+/// Takes a table apart; rows without any text are left out. Returns what is wrong with it, which begins with
+/// the number of a line, or nothing.
 std::string read_csv(std::string_view text, std::vector<s_csv_row>& rows);
 
 }  // namespace vyr_tool

@@ -10,6 +10,7 @@
 #include <iostream>
 #include <map>
 #include <memory>
+#include <optional>
 #include <set>
 #include <utility>
 #include <vector>
@@ -18,6 +19,7 @@
 #include "tools/csv.h"
 #include "tools/document_json.h"
 #include "tools/files.h"
+#include "tools/progress.h"
 #include "tools/save.h"
 #include "tools/text.h"
 
@@ -59,16 +61,15 @@ public:
     c_import(const import_options& options, std::vector<s_csv_row> rows)
         : m_options(options), m_rows(std::move(rows)), m_now(now()) {}
 
-    exit_code run() {
-        if (m_rows.empty()) return complain_of(1, "a row of headers is expected"), exit_document_fails;
+    exit_code run(com_vyrgraph_v2::Vyr& document) {
+        if (m_rows.empty()) return complain_of(1, "column 1: a row of headers is expected"), exit_document_fails;
         read_headers();
         if (m_headers.contains(csv_header::color)) {
             for (std::size_t i = 1; i < m_rows.size(); ++i) add_row(i);
         } else {
-            complain_of(m_rows[0].line, std::string("there is no column ") + vyr_tool::quoted(csv_header::color));
+            complain_of(m_rows[0].line, column_name(csv_header::color) + "there is no such column");
         }
         if (m_count != 0) return finish();
-        auto document = std::make_unique<com_vyrgraph_v2::Vyr>();
         const json object = whole();
         std::map<const json*, std::pair<std::size_t, std::size_t>> cells;
         for (const s_origin& origin : m_origins) find_cells(object, origin, cells);
@@ -77,16 +78,14 @@ public:
         form.is_nil_where_missing = true;
         form.has_places = true;
         form.history = m_now;
-        for (const s_json_fault& fault : read_json(object, *document, form)) {
+        for (const s_json_fault& fault : read_json(object, document, form)) {
             const auto found = cells.find(fault.place);
             const auto [row, column] = found == cells.end() ? std::pair<std::size_t, std::size_t>() : found->second;
-            std::string text = fault.path.empty() ? fault.text : fault.path + ": " + fault.text;
-            if (column != 0) text = cell_name(column - 1) + fault.text;
-            complain_of(found == cells.end() ? 0 : m_rows[row].line, text);
+            const std::string where = fault.path.empty() ? "" : fault.path + ": ";
+            const std::string text = column != 0 ? cell_name(column - 1) : column_of(fault.path) + where;
+            complain_of(m_rows[row].line, text + fault.text);
         }
-        if (m_count != 0) return finish();
-        const std::optional<std::string> format = format_of(m_options.out, {});
-        return save_document(std::move(document), m_options.out, format.value_or("vyr"));
+        return m_count == 0 ? exit_ok : finish();
     }
 
 private:
@@ -102,8 +101,8 @@ private:
     void complain_of(std::size_t line, const std::string& text) {
         constexpr std::size_t k_most = 100;
         if (++m_count > k_most) return;
-        std::cerr << shown_name(m_options.table) << (line == 0 ? "" : ":" + std::to_string(line)) << ": " << text
-                  << '\n';
+        c_progress_line::make_way();
+        std::cerr << shown_name(m_options.table) << ':' << line << ": " << text << '\n';
     }
 
     exit_code finish() const {
@@ -112,9 +111,8 @@ private:
         return exit_document_fails;
     }
 
-    std::string cell_name(std::size_t column) const {
-        return "column " + vyr_tool::quoted(m_rows[0].cells[column]) + ": ";
-    }
+    static std::string column_name(std::string_view header) { return "column " + vyr_tool::quoted(header) + ": "; }
+    std::string cell_name(std::size_t column) const { return column_name(m_rows[0].cells[column]); }
 
     void read_headers() {
         std::set<std::string> parts;
@@ -174,6 +172,19 @@ private:
         return pointer;
     }
 
+    /// For a fault of no cell alone, the column that says most of what is at fault.
+    std::string column_of(const std::string& path) const {
+        constexpr std::pair<std::string_view, const char*> k_attributes[] = {
+            {"@PaletteName", csv_header::palette},
+            {"@ColorSetName", csv_header::set},
+            {"@UniqueID", csv_header::color_id},
+            {"@ColorNumber", csv_header::color_number}};
+        for (const auto& [step, header] : k_attributes) {
+            if (path.ends_with(step)) return column_name(header);
+        }
+        return column_name(m_headers.contains(csv_header::space) ? csv_header::space : csv_header::color);
+    }
+
     /// The classes of all kinds of value.
     static std::vector<const s_class*> all_values() {
         std::vector<const s_class*> types;
@@ -193,9 +204,17 @@ private:
     void add_row(std::size_t row) {
         const std::size_t line = m_rows[row].line;
         if (m_rows[row].cells.size() > m_columns.size()) {
-            return complain_of(line, "there are more cells than headers");
+            return complain_of(line, "column " + std::to_string(m_columns.size() + 1) + ": it has no header");
         }
-        if (cell(row, csv_header::color).empty()) return complain_of(line, "the colour has no name");
+        for (std::size_t i = 0; i < m_rows[row].cells.size(); ++i) {
+            const auto is_control = [](char c) { return c >= 0 && c < ' ' && c != '\n' && c != '\t'; };
+            if (std::ranges::none_of(m_rows[row].cells[i], is_control)) continue;
+            return complain_of(line, cell_name(i) + "there is a character that a document can't hold: " +
+                                         vyr_tool::quoted(m_rows[row].cells[i]));
+        }
+        if (cell(row, csv_header::color).empty()) {
+            return complain_of(line, column_name(csv_header::color) + "the colour has no name");
+        }
         const std::string& space = cell(row, csv_header::space);
         std::vector<std::string_view> spaces;
         if (!space.empty()) {
@@ -206,11 +225,27 @@ private:
             spaces = {space};
         } else {
             for (const std::string_view usual : k_usual_spaces) {
-                if (has_all(row, usual)) spaces.push_back(usual);
+                if (first_missing(row, usual).empty()) spaces.push_back(usual);
             }
         }
-        if (spaces.empty()) return complain_of(line, "the row has no value, or not all parts of one");
-        for (const std::string_view one : spaces) add_value(row, one, !space.empty());
+        if (spaces.empty()) return complain_of_no_value(row);
+        for (const std::string_view one : spaces) {
+            if (!first_missing(row, one).empty()) complain_of_missing(row, one);
+            add_value(row, one, !space.empty());
+        }
+    }
+
+    void complain_of_missing(std::size_t row, std::string_view space) {
+        complain_of(m_rows[row].line, column_name(first_missing(row, space)) + std::string(space) + " needs it");
+    }
+
+    void complain_of_no_value(std::size_t row) {
+        for (const std::string_view usual : k_usual_spaces) {
+            const s_class& type = class_of(usual);
+            const auto is_there = [&](const s_member& member) { return has_part(row, type, member); };
+            if (std::ranges::any_of(c_members::of(type).all(), is_there)) return complain_of_missing(row, usual);
+        }
+        complain_of(m_rows[row].line, cell_name(m_headers.at(csv_header::color)) + "the colour has no value");
     }
 
     static const s_class& class_of(std::string_view space) {
@@ -231,27 +266,46 @@ private:
         return column < m_rows[row].cells.size() && !m_rows[row].cells[column].empty();
     }
 
-    /// Whether the row says all that a kind of value can't be without.
-    bool has_all(std::size_t row, std::string_view space) const {
-        const s_class& type = class_of(space);
-        const s_member* const points = points_of(type);
-        for (const s_member& member : c_members::of(type).all()) {
-            const bool is_usual =
-                std::ranges::find(k_usual, member.key, &std::pair<std::string_view, const char*>::first) !=
-                std::end(k_usual);
-            const bool is_demanded = (member.item->use & lmx::use_demanded) != 0 && !is_usual &&
-                                     member.key != "ChangeHistory" && !member.key.starts_with(k_specification);
-            if (!is_demanded) continue;
-            bool is_there = false;
-            for (std::size_t i = 0; i < m_columns.size() && !is_there; ++i) {
-                const bool is_for_it = &member == points
-                                           ? m_columns[i].what == target::wavelength
-                                           : m_columns[i].what == target::part && m_columns[i].key == member.key;
-                is_there = is_for_it && is_filled(row, i);
-            }
-            if (!is_there) return false;
+    /// Whether a cell must say what a member holds: nothing else does.
+    static bool is_asked_of_table(const s_member& member) {
+        const s_class* const type = member.item->type;
+        const bool is_usual =
+            std::ranges::find(k_usual, member.key, &std::pair<std::string_view, const char*>::first) !=
+            std::end(k_usual);
+        return (member.item->use & lmx::use_demanded) != 0 && member.holder == member.item && !is_usual &&
+               (type == nullptr || type->nil_flag == lmx::k_no_flag) && member.key != "ChangeHistory";
+    }
+
+    /// Whether any cell of the row holds a part of a kind of value.
+    bool has_part(std::size_t row, const s_class& type, const s_member& member) const {
+        for (std::size_t i = 0; i < m_columns.size(); ++i) {
+            const bool is_for_it = &member == points_of(type)
+                                       ? m_columns[i].what == target::wavelength
+                                       : m_columns[i].what == target::part && m_columns[i].key == member.key;
+            if (is_for_it && is_filled(row, i)) return true;
         }
-        return true;
+        return false;
+    }
+
+    /// The column that a kind of value can't be without and that the row leaves empty; empty if there is none.
+    std::string first_missing(std::size_t row, std::string_view space) const {
+        const s_class& type = class_of(space);
+        for (const s_member& member : c_members::of(type).all()) {
+            if (!is_asked_of_table(member) || has_part(row, type, member)) continue;
+            return &member == points_of(type) ? wavelength_header("400") : std::string(member.key);
+        }
+        return {};
+    }
+
+    /// The same for the conditions that were found, where there are any.
+    static std::string first_missing_condition(const s_class& specification, const json& conditions) {
+        for (const s_member& member : c_members::of(specification).all()) {
+            if (!is_asked_of_table(member) || conditions.contains(member.key)) continue;
+            const auto is_of_it = [&](const s_condition& condition) { return condition.path.front() == member.key; };
+            const auto condition = std::ranges::find_if(all_conditions(), is_of_it);
+            return std::string(condition == all_conditions().end() ? member.key : condition->name);
+        }
+        return {};
     }
 
     /// `is_asked` tells that the row is for this kind of value alone, so that all its cells must have a place there.
@@ -299,6 +353,11 @@ private:
             if (c_members::of(*specification->item->type).element("Spectrum") != nullptr &&
                 !conditions.contains("Spectrum")) {
                 conditions["Spectrum"] = {{std::string(k_content_key), "Spectrum_Reflectance"}};
+            }
+            const std::string missing = first_missing_condition(*specification->item->type, conditions);
+            if (!missing.empty()) {
+                complain_of(m_rows[row].line,
+                            column_name(missing) + "the conditions of " + std::string(space) + " need it");
             }
             value[std::string(specification->key)] = std::move(conditions);
         }
@@ -413,9 +472,12 @@ private:
                            std::map<const json*, std::pair<std::size_t, std::size_t>>& cells) {
         const json& value = object.at(json::json_pointer(origin.pointer));
         mark(value, origin.row, cells);
-        const std::string above =
-            origin.pointer.substr(0, origin.pointer.rfind(std::string("/") + k_space_prefix + "/"));
-        cells.emplace(&object.at(json::json_pointer(above)), std::pair(origin.row, std::size_t{0}));
+        // The colour, its set and its palette, as far as no row before has made them.
+        for (std::string above =
+                 origin.pointer.substr(0, origin.pointer.rfind(std::string("/") + k_space_prefix + "/"));
+             !above.empty(); above.erase(above.rfind('/')), above.erase(above.rfind('/'))) {
+            cells.emplace(&object.at(json::json_pointer(above)), std::pair(origin.row, std::size_t{0}));
+        }
         for (const auto& [pointer, column] : origin.parts) {
             cells[&value.at(json::json_pointer(pointer))] = {origin.row, column + 1};
         }
@@ -449,7 +511,8 @@ private:
 }  // namespace
 
 exit_code import(const import_options& options) {
-    if (!format_of(options.out, {})) {
+    const std::optional<std::string> format = format_of(options.out, {});
+    if (!format) {
         return refuse_output(options.out, "the name of a document ends in .vyr, .vyrz or .json");
     }
     std::string text;
@@ -459,10 +522,17 @@ exit_code import(const import_options& options) {
     }
     std::vector<s_csv_row> rows;
     if (const std::string fault = read_csv(text, rows); !fault.empty()) {
-        std::cerr << shown_name(options.table) << ": " << fault << '\n';
+        std::cerr << shown_name(options.table) << ':' << fault << '\n';
         return exit_document_fails;
     }
-    return c_import(options, std::move(rows)).run();
+    c_import imported(options, std::move(rows));
+    auto document = std::make_unique<com_vyrgraph_v2::Vyr>();
+    {
+        const c_progress_line progress("importing " + shown_name(options.table));
+        const exit_code result = imported.run(*document);
+        if (result != exit_ok) return result;
+    }
+    return save_document(std::move(document), options.out, *format);
 }
 
 }  // namespace vyr_tool

@@ -204,22 +204,37 @@ def check_import():
     same("values by header", [(row["Palette"], row["Color"], row["Space"]) for row in rows],
          [("Mine", 'Red, "warm"', space) for space in ("CIELab", "CMYK", "SRGB", "Spectral")] + [("Mine", "Blue", "CIELab")])
     same("a number", (rows[4]["A"], rows[3]["410 nm"]), ("-10", "0.2"))
+    # What a table leaves open is nil, a line end in a cell is one in the document.
+    pathlib.Path("c.csv").write_bytes(b'Color,L,A,B,Illuminant,Observer\n"two\r\nlines",1,2,3,D50,2\n')
+    output("import", "c.csv", "-o", "c.vyr")
+    same("conditions of a table", [(row["Color"], row["Illuminant"], row.get("Filter", "")) for row in table("c.vyr")],
+         [("two\nlines", "D50", "")])
     for text, faults in (
         (wide + "Red,50,60,40,0,90,187,0,,,,,\nBlue,x,1,2,,,,,,,,,\n",
          [':2: column "Yellow": Value greater than specified maximum .*', ':3: column "L": Invalid value format .*']),
         (wide + ",1,2,3,,,,,,,,,\n\nNone,,,,,,,,,,,,\nx,1,2,3,,,,,,,,,,9\n",
-         [":2: the colour has no name", ":4: the row has no value, or .*", ":5: there are more cells than headers"]),
+         [':2: column "Color": the colour has no name', ':4: column "Color": the colour has no value',
+          ":5: column 14: it has no header"]),
         ("Color,Shade,Space,L,Cyan,Gamma\nx,,Lab,2,,\ny,,CIELab,3,1,\nz,,Recipe,,,x\n",
          [':1: column "Shade": no such column is known', ':2: column "Space": "Lab" is no kind of value',
           ':3: column "Cyan": CIELab has no such part']),
         ("Color,Space,L,A,B,Illuminant,Observer\nx,CIELab,1,2,3,D99,2\n", [':2: column "Illuminant": .*']),
-        ("Name,L\nx,1\n", [':1: there is no column "Color"']),
-        ('Color,L\n"x,1\n', [": line 2: the quotation mark that begins a cell has no end"]),
+        ("Name,L\nx,1\n", [':1: column "Color": there is no such column']),
+        ('Color,L\n"x,1\n', [":2: column 1: the quotation mark that begins the cell has no end"]),
+        ("", [":1: column 1: a row of headers is expected"]),
+        # What is not whole: a value, its conditions, a value that is asked for.
+        ('Color,L,A,B\nx,1,2,\n"a\rb",1,2,3\n', [':2: column "B": CIELab needs it', r':3: column "Color": there is a character .*: "a\\u\{D\}b"']),
+        ("Color,Space,L,A,B,400 nm,Filter\nx,CIELab,1,2,3,,None\ny,Spectral,,,,.1,None\nz,CIELab,,2,3,,\n",
+         [':2: column "Illuminant": the conditions of CIELab need it', ':3: column "Sphere": the conditions of Spectral need it',
+          ':4: column "L": CIELab needs it']),
+        ("Color,Palette,ColorNumber,L,A,B\nx,\x01,1,1,2,3\n", [':2: column "Palette": there is a character .*']),
     ):
         pathlib.Path("x.csv").write_text(text)
         code, out, err = run("import", "x.csv", "-o", "never.vyr")
         for fault in faults:
             has(err, "^x\\.csv" + fault + "$")
+        nowhere = [line for line in err.splitlines() if not re.match(r'x\.csv(:\d+: column ("[^"]*"|\d+): .|: \d+ faults?, nothing)', line)]
+        same("faults without a place", nowhere, [])
         same("a table with faults", (code, out, os.path.exists("never.vyr")), (1, "", False))
 
 
