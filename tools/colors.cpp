@@ -84,13 +84,6 @@ constexpr std::string_view k_backing_prefix = "Backing_";
 
 bool is_class(const c_tree& tree, index node, const lmx::s_class& type) { return tree.type(node) == &type; }
 
-index specification_of(const c_tree& tree, index value) {
-    for (index i = value + 1; i < tree.end(value); i = tree.end(i)) {
-        if (tree.name(i).starts_with(k_specification)) return i;
-    }
-    return 0;
-}
-
 /// The field that a condition's path leads to, if the specification has it.
 std::optional<c_tree::field> find_field(const c_tree& tree, index node, std::span<const std::string_view> path) {
     for (const std::string_view step : path) {
@@ -152,6 +145,28 @@ void add_device(const c_tree& tree, const s_color& color, s_conditions& conditio
 }  // namespace
 
 std::span<const s_condition> all_conditions() { return k_conditions; }
+
+c_tree::index specification_of(const c_tree& tree, index value) {
+    for (index i = value + 1; i < tree.end(value); i = tree.end(i)) {
+        if (tree.name(i).starts_with(k_specification)) return i;
+    }
+    return 0;
+}
+
+bool is_condition(const c_tree& tree, index part) {
+    const std::string_view name = tree.name(part);
+    if (std::ranges::none_of(k_conditions, [&](const s_condition& one) { return one.path.front() == name; }))
+        return false;
+    // Of a device the conditions name three things.
+    for (index i = part + 1; tree.type(part) == &com_vyrgraph_v2::DeviceType::k_class && i < tree.end(part);
+         i = tree.end(i)) {
+        const auto is_this = [&](const s_condition& one) {
+            return one.path.front() == name && one.path.back() == tree.name(i);
+        };
+        if (std::ranges::none_of(k_conditions, is_this)) return false;
+    }
+    return true;
+}
 
 std::vector<s_color> find_colors(const c_tree& tree) {
     std::vector<s_color> colors;

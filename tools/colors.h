@@ -76,6 +76,12 @@ struct s_conditions {
 
 s_conditions conditions_of(const c_tree& tree, const s_color& color, c_tree::index value);
 
+/// The specification that a value has of its own, also one that is nil; 0 if there is none.
+c_tree::index specification_of(const c_tree& tree, c_tree::index value);
+
+/// Whether a part of a specification is all said by its conditions.
+bool is_condition(const c_tree& tree, c_tree::index part);
+
 /// The same for a specification itself.
 s_conditions conditions_in(const c_tree& tree, c_tree::index specification);
 

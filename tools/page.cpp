@@ -95,7 +95,7 @@ void c_page::print_palette(index palette) {
     print_fields(palette, k_set_level, [this](index child) {
         return m_tree.name(child) != "ColorSet" && m_tree.name(child) != "CollectionColorSpaceSpecification";
     });
-    print_defaults(palette);
+    print_defaults(palette, k_set_level);
     for (const index set : children(palette, "ColorSet")) print_set(set);
     m_out << "</section>\n";
 }
@@ -106,23 +106,22 @@ void c_page::print_set(index set) {
     print_fields(set, k_set_level + 1, [this](index child) {
         return m_tree.name(child) != "Color" && m_tree.name(child) != "CollectionColorSpaceSpecification";
     });
-    print_defaults(set);
+    print_defaults(set, k_set_level + 1);
     print_colors(set, k_set_level + 1);
     m_out << "</section>\n";
 }
 
 /// The conditions of values that state none of their own.
-void c_page::print_defaults(index collection) {
+void c_page::print_defaults(index collection, unsigned level) {
     const index defaults = m_tree.child(collection, "CollectionColorSpaceSpecification");
     if (defaults == 0 || m_tree.is_leaf(defaults)) return;
     constexpr std::string_view k_prefix = "ColorSpaceSpecification";
-    m_out << "<dl class=\"fields\">\n";
     for (index i = defaults + 1; i < m_tree.end(defaults); i = m_tree.end(i)) {
         const std::string words = m_tree.is_nil(i) ? "" : conditions_in(m_tree, i).in_words();
-        m_out << "<dt>Default for " << words_of(m_tree.name(i).substr(k_prefix.size())) << "</dt><dd>"
-              << (words.empty() ? "unknown" : html(words)) << "</dd>\n";
+        m_out << "<dl class=\"fields\">\n<dt>Default for " << words_of(m_tree.name(i).substr(k_prefix.size()))
+              << "</dt><dd>" << (words.empty() ? "unknown" : html(words)) << "</dd>\n</dl>\n";
+        print_besides(i, level);
     }
-    m_out << "</dl>\n";
 }
 
 void c_page::print_colors(index parent, unsigned level) {

@@ -41,7 +41,7 @@ private:
     void print_contents();
     void print_palette(index palette);
     void print_set(index set);
-    void print_defaults(index collection);
+    void print_defaults(index collection, unsigned level);
     void print_colors(index parent, unsigned level);
 
     // Colours and their values: page_colors.cpp
@@ -49,6 +49,8 @@ private:
     void print_swatch(index color);
     void print_values(const s_color& color, std::span<const index> values, unsigned level);
     void print_value(const s_color& color, index value, unsigned level);
+    /// What a specification says beside the conditions: comments, a profile.
+    void print_besides(index specification, unsigned level);
     void print_spectrum(const s_color& color, index value, const s_conditions& conditions);
     const s_color* color_around(index node) const;
 

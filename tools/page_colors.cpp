@@ -93,6 +93,8 @@ void c_page::print_value(const s_color& color, index value, unsigned level) {
     const auto is_beside = [this](index child) { return m_tree.name(child) == "CustomAttribute"; };
     if (const std::string words = conditions.in_words(); !words.empty())
         m_out << "<p class=\"conditions\">" << html(words) << "</p>\n";
+    if (const index specification = specification_of(m_tree, value); specification != 0)
+        print_besides(specification, level);
     print_fields(value, level, is_beside);
     if (const index parent = m_tree.child(value, k_parent); parent != 0 && !m_tree.is_leaf(parent)) {
         m_out << "<p class=\"origin\">Made from:</p>\n";
@@ -100,6 +102,12 @@ void c_page::print_value(const s_color& color, index value, unsigned level) {
         print_values(color, values, level);
     }
     m_out << "</dd>\n";
+}
+
+void c_page::print_besides(index specification, unsigned level) {
+    print_fields(specification, level, [this](index child) {
+        return m_tree.name(child) != "ChangeHistory" && !is_condition(m_tree, child);
+    });
 }
 
 void c_page::print_spectrum(const s_color& color, index value, const s_conditions& conditions) {

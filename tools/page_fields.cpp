@@ -78,6 +78,10 @@ void c_page::add_leaves(index node, const s_leaf& place, std::vector<s_leaf>& le
         const bool is_mark = m_tree.is_leaf(i) && m_tree.field_count(i) == 0 && m_tree.type(i) != nullptr;
         const s_leaf inner{place.path + "/" + std::string(name), words_of(name), place.label, {}};
         if (is_mark && m_tree.member(i)->is_marker()) leaves.push_back({inner.path, inner.label, place.label, "yes"});
+        // Which of a group stands here is a value of its own.
+        const bool is_of_group = m_tree.member(i) != nullptr && m_tree.type(i) != nullptr &&
+                                 m_tree.member(i)->holder->kind == lmx::item_kind::group;
+        if (is_of_group) leaves.push_back({place.path + "/~", "Kind", place.label, inner.label});
         add_leaves(i, inner, leaves);
     }
 }

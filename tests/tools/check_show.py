@@ -128,7 +128,8 @@ def check_full(path):
     for part in ("D65, 10 degrees, Reflectance, filter None, not polarized (default of the palette)", "conditions unknown",
                  "D50, 2 degrees, Reflectance, filter None, not polarized, measured with Optics, S-45, number 0815",
                  "Reflectance, angle 45 degrees, filter None, not polarized, measured",
-                 "backing White", "Rubine", "Inks & Co", "0042", "0.42", "unknown", "Palette Inks", "first line second line",
+                 "backing White", "house light", "under the lamp", "Profile name Press 7", "Direction Profile Output", "3 bytes",
+                 "Kind Substrate paper, Paper thickness 0.12", "Rubine", "Inks & Co", "0042", "0.42", "unknown", "Palette Inks", "first line second line",
                  "Made from:", "Wavelength (nm)", "Reflectance factor (fraction)", "Spectral power (unit of the measurement)"):
         expect(f"full: {part}", part in text, True)
     lamp = next(entry for entry in page.elements if "Lamp" in entry["attributes"].get("aria-label", ""))

@@ -51,6 +51,15 @@ def lab(l, a, b, **more):
     return value("CIELab", texts(L=l, A=a, B=b), conditions("Tristimulus", **more))
 
 
+def profiled():
+    """Conditions with all that is no condition."""
+    parameter = element("Parameters", texts(Name="g") + element("ValueChoice", texts(DoubleValue="2.2")))
+    profile = element("Profile", element("ProfileChoice", element("ProfileFile", "AAEC", ProfileName="Press 7")) + parameter,
+                      Direction="Profile_Output")
+    tristimulus = conditions("Tristimulus").replace("<Vyr:DeviceFilter>", profile + "<Vyr:DeviceFilter>")
+    return tristimulus.replace("Tristimulus>", 'Tristimulus Comments="under the lamp">', 1)
+
+
 def spectrum(level=0.1, turn=590, step=10, specification=None):
     points = "".join(
         element("ReflectancePoint", round(level + 0.7 / (1 + math.exp((turn - nm) / 14)), 4), Wavelength=nm)
@@ -125,14 +134,16 @@ def full():
     record = element("ColorQualityControl", DATE + pairs + sample
                      + tolerance("Plain", function("DE"), "3", "0") + tolerance("Coordinates", by_parameter),
                      Name="Run 7", Comments="first line&#10;second line")
-    defaults = element("CollectionColorSpaceSpecification", conditions("Tristimulus", "D65", "10"))
+    defaults = element("CollectionColorSpaceSpecification", conditions("Tristimulus", "D65", "10").replace(
+        "Tristimulus>", 'Tristimulus Comments="house light">', 1))
     inks = color_set(
         "Spot",
         color("Warm red", srgb("0.8392", "0.2196", "0.2"), lab("50.2", "62.1", "42.7"), spectrum(), recipe(),
               UniqueID="ink-1", ColorNumber="0042"),
         color("Deep blue", value("CMYK", texts(Cyan="100", Magenta="72", Yellow="0", Black="18"), unknown("Generic")),
               value("CIELab", texts(L="27", A="8", B="-52"), unknown("Tristimulus"))),
-        color("Leaf", srgb("0.2", "0.55", "0.24"), made_from),
+        color("Leaf", srgb("0.2", "0.55", "0.24"), made_from,
+              value("CIELab", texts(L="52", A="60", B="41"), profiled())),
         after=element("SubstratePaper", color("Sheet white", srgb("0.97", "0.97", "0.94"))
                       + texts(PaperThickness="0.12", PaperType="coated")))
     outside = color("Lamp", element("ColorSpaceEmissiveSpectral", DATE + (
