@@ -101,7 +101,9 @@ private:
         const c_members* const members = type == nullptr ? nullptr : &c_members::of(*type);
         const bool is_nil = object.contains(k_nil_key);
         if (members == nullptr) {
-            object = member != nullptr && member->is_marker() ? json(true) : typed_value(text, kind_of(member->item));
+            object = member != nullptr && member->is_marker()
+                         ? json(true)
+                         : typed_value(text, kind_of(member == nullptr ? nullptr : member->item));
         } else if (members->is_content_only()) {
             object = is_nil ? json() : typed_value(text, members->content()->item->value);
         } else if (is_nil && object.size() == 1) {
