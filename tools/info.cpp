@@ -81,12 +81,20 @@ std::vector<std::pair<index, std::size_t>> devices_of(const c_tree& tree) {
     return devices;
 }
 
-/// Colours by the kinds of their values: "SRGB", "CIELab".
-std::vector<std::pair<std::string_view, std::size_t>> count_spaces(const c_tree& tree, std::size_t& colors) {
-    std::vector<std::pair<std::string_view, std::size_t>> spaces;
+/// What is counted of a document.
+struct s_counts {
+    s_kind root;
+    std::size_t colors = 0;
+    std::vector<std::pair<std::string_view, std::size_t>> spaces{};  ///< values by their kinds: "SRGB", "CIELab"
+};
+
+s_counts count(const c_tree& tree, std::size_t depth) {
+    s_counts counts{{tree.name(0), 0}};
+    count_parts(tree, 0, depth, counts.root);
+    auto& spaces = counts.spaces;
     for (index node = 0; node < tree.size(); ++node) {
         if (tree.type(node) != &com_vyrgraph_v2::ColorType::k_class) continue;
-        ++colors;
+        ++counts.colors;
         for (const index value : values_of(tree, node)) {
             const std::string_view space = space_of(tree, value);
             auto found = std::ranges::find(spaces, space, &std::pair<std::string_view, std::size_t>::first);
@@ -94,7 +102,7 @@ std::vector<std::pair<std::string_view, std::size_t>> count_spaces(const c_tree&
             ++found->second;
         }
     }
-    return spaces;
+    return counts;
 }
 
 std::vector<index> children(const c_tree& tree, index node, std::string_view name) {
@@ -207,42 +215,38 @@ json records_as_json(const c_tree& tree) {
 }
 
 json describe(const std::string& file, std::size_t size, const c_tree& tree, std::size_t depth) {
-    s_kind root{tree.name(0), 0};
-    count_parts(tree, 0, depth, root);
-    std::size_t colors = 0;
-    const auto spaces = count_spaces(tree, colors);
-    json object = {{"file", file}, {"bytes", size}, {"colors", colors}};
+    const s_counts counts = count(tree, depth);
+    json object = {{"file", file}, {"bytes", size}, {"colors", counts.colors}};
     json preamble = typed_json(tree, tree.child(0, "Preamble"));
     object["header"] = std::move(preamble["Header"]);
     if (preamble.contains("Owner")) object["owner"] = std::move(preamble["Owner"]);
     if (preamble.contains("Version")) object["version"] = std::move(preamble["Version"]);
     object["spaces"] = json::object();
-    for (const auto& [name, count] : spaces) object["spaces"][std::string(name)] = count;
+    for (const auto& [name, count] : counts.spaces) object["spaces"][std::string(name)] = count;
     object["palettes"] = palettes_as_json(tree);
     object["quality_control"] = records_as_json(tree);
     object["devices"] = json::array();
     for (const auto& [device, count] : devices_of(tree)) {
         object["devices"].push_back({{"count", count}, {"device", typed_json(tree, device)}});
     }
-    object["tree"] = to_json(root);
+    object["tree"] = to_json(counts.root);
     return object;
 }
 
 void print_text(const std::string& file, std::size_t size, const c_tree& tree, std::size_t depth) {
-    s_kind root{tree.name(0), 0};
-    count_parts(tree, 0, depth, root);
-    std::size_t colors = 0;
-    const auto spaces = count_spaces(tree, colors);
+    const s_counts counts = count(tree, depth);
     std::cout << shown_name(file) << ": " << counted(size, "byte", "bytes") << ", "
-              << counted(tree.size(), "element", "elements") << ", " << counted(colors, "colour", "colours") << '\n';
+              << counted(tree.size(), "element", "elements") << ", " << counted(counts.colors, "colour", "colours")
+              << '\n';
     for (const auto& [name, value] : header_of(tree)) std::cout << "  " << name << ": " << value << '\n';
-    if (!spaces.empty()) std::cout << "\nColour values\n";
-    for (const auto& [name, count] : spaces) std::cout << std::setw(9) << count << "  " << printable(name) << '\n';
+    if (!counts.spaces.empty()) std::cout << "\nColour values\n";
+    for (const auto& [name, count] : counts.spaces)
+        std::cout << std::setw(9) << count << "  " << printable(name) << '\n';
     print_palettes(tree);
     print_records(tree);
     print_devices(tree);
     std::cout << "\nElements\n";
-    print_kind(root);
+    print_kind(counts.root);
 }
 
 }  // namespace

@@ -3,7 +3,6 @@
 
 #include "tools/members.h"
 
-#include <map>
 #include <memory>
 
 namespace vyr_tool {
@@ -31,7 +30,7 @@ bool s_member::is_list() const {
 }
 
 const c_members& c_members::of(const s_class& type) {
-    static std::map<const s_class*, std::unique_ptr<c_members>> known;
+    static thread_local std::unordered_map<const s_class*, std::unique_ptr<c_members>> known;
     std::unique_ptr<c_members>& members = known[&type];
     if (!members) members = std::make_unique<c_members>(type);
     return *members;

@@ -46,7 +46,7 @@ struct s_member {
 /// All members of a class.
 class c_members {
 public:
-    /// The one list of a class, made when it is first asked for. Not for several threads at once.
+    /// The list of a class, made when it is first asked for, for each thread its own.
     static const c_members& of(const lmx::s_class& type);
 
     explicit c_members(const lmx::s_class& type);

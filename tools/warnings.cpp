@@ -17,12 +17,12 @@
 #include <mutex>
 #include <optional>
 #include <set>
-#include <span>
 #include <unordered_set>
 #include <utility>
 
 #include "schema/Vyr.h"
 #include "tools/files.h"
+#include "tools/members.h"
 #include "tools/schema_text.h"
 #include "tools/text.h"
 
@@ -84,46 +84,9 @@ xmlSchemaPtr get_schema() {
     return schema;
 }
 
-// What the classes know of an element.
-
 std::string_view local_part(std::string_view name) {
     const std::size_t colon = name.find(':');
     return colon == name.npos ? name : name.substr(colon + 1);
-}
-
-bool is_group(const lmx::s_item& row) {
-    return row.kind == lmx::item_kind::group || row.kind == lmx::item_kind::group_list;
-}
-
-const lmx::s_item* find_row(std::span<const lmx::s_item> rows, std::string_view name) {
-    for (const lmx::s_item& row : rows) {
-        if (is_group(row)) {
-            if (const lmx::s_item* const member = find_row(row.type->elements, name)) return member;
-        } else if (!row.name.empty() && local_part(row.name) == name) {
-            return &row;
-        }
-    }
-    return nullptr;
-}
-
-const lmx::s_item* find_element(const lmx::s_class* type, std::string_view name) {
-    const lmx::s_item* row = nullptr;
-    for (; type != nullptr && row == nullptr; type = type->base) row = find_row(type->elements, name);
-    return row;
-}
-
-const lmx::s_item* find_attribute(const lmx::s_class* type, std::string_view name) {
-    const lmx::s_item* row = nullptr;
-    for (; type != nullptr && row == nullptr; type = type->base) row = find_row(type->attributes, name);
-    return row;
-}
-
-lmx::value_kind kind_of_content(const lmx::s_class* type) {
-    for (; type != nullptr; type = type->base) {
-        if (type->content == lmx::content_kind::simple && !type->elements.empty())
-            return type->elements.front().value;
-    }
-    return lmx::value_kind::none;
 }
 
 // Values.
@@ -485,10 +448,10 @@ void c_warnings::c_pass::look_at_wavelength(double wavelength, s_element* parent
 
 void c_warnings::c_pass::look_at_attribute(std::string_view name, std::string_view value, s_element* parent) {
     s_element& element = m_open.back();
-    const lmx::s_item* const row = find_attribute(element.type, name);
-    if (row == nullptr) return;
-    if ((row->use & lmx::use_name) != 0) element.step += " " + quoted(value.substr(0, k_longest_value));
-    look_at_value(element.name.c_str(), row->value, value);
+    const s_member* const member = element.type == nullptr ? nullptr : c_members::of(*element.type).attribute(name);
+    if (member == nullptr) return;
+    if ((member->item->use & lmx::use_name) != 0) element.step += " " + quoted(value.substr(0, k_longest_value));
+    look_at_value(element.name.c_str(), member->item->value, value);
     note_limit(&element, name, value);
     if (parent == nullptr) return;
     if (name == "UniqueID" && is_wanted(warning::duplicate_id) && !parent->ids.emplace(value).second) {
@@ -505,7 +468,9 @@ void c_warnings::c_pass::start(std::string_view name, std::string_view uri, cons
     const lmx::s_class* type = nullptr;
     if (uri == "http://vyrgraph.com/v2") {
         if (m_open.empty()) type = name == "Vyr" ? &com_vyrgraph_v2::Vyr::k_class : nullptr;
-        if (!m_open.empty()) row = find_element(m_open.back().type, name);
+        const lmx::s_class* const outer = m_open.empty() ? nullptr : m_open.back().type;
+        const s_member* const member = outer == nullptr ? nullptr : c_members::of(*outer).element(name);
+        if (member != nullptr) row = member->item;
         if (row != nullptr) type = row->type;
     }
     // Five texts for each: the name, its prefix and its namespace, and the ends of its value.
@@ -521,14 +486,12 @@ void c_warnings::c_pass::start(std::string_view name, std::string_view uri, cons
         const std::string_view xsi_name = view(attribute(i)[0]);
         has_hint = has_hint || xsi_name == "schemaLocation" || xsi_name == "noNamespaceSchemaLocation";
         if (xsi_name != "type" || row == nullptr) continue;
-        for (const lmx::s_factory_row& made : row->factory) {
-            if (made.name == local_part(value_of(i))) type = made.type;
-        }
+        if (const lmx::s_class* const other = specialised(*row, local_part(value_of(i)))) type = other;
     }
     s_element& element = m_open.emplace_back();
     s_element* const parent = m_open.size() > 1 ? &m_open[m_open.size() - 2] : nullptr;
     element.type = type;
-    element.value = type != nullptr ? kind_of_content(type) : row != nullptr ? row->value : lmx::value_kind::none;
+    element.value = kind_of(row);
     const bool is_looked_at = element.value == lmx::value_kind::number || element.value == lmx::value_kind::datetime;
     if (!is_looked_at) element.value = lmx::value_kind::none;
     element.line = m_line;
