@@ -58,7 +58,8 @@ for command in commands:
     # One form of each is enough there.
     compare(f"vyr.1, synopsis of {command}", [*re.findall(OPTION, synopsis), *TWICE], own[command] | TWICE)
     compare(f"vyr.bash, {command}", between(bash, rf'\[{command}\]="', '"').split(), options[command])
-    case = re.sub(r"\$(\w+)", lambda found: zsh_variables.get(found.group(1), ""), between(zsh, rf"^ +{command}\)$", ";;"))
+    case = re.sub(r"\$(\w+)", lambda found: zsh_variables.get(found.group(1), ""),
+                  between(zsh, rf"^ +{command}\)$", ";;"))
     compare(f"_vyr, {command}", re.findall(OPTION + r"(?=[\[=+,}])", case), options[command])
     lines = re.findall(rf"'__fish_seen_subcommand_from {command}' (.*)", fish)
     compare(f"vyr.fish, {command}", [dash + name for dash, kind in (("-", "s"), ("--", "l"))
@@ -90,7 +91,8 @@ def printed(*arguments, stdin=""):
 
 
 # What is foreign to the format has names that no page can know.
-documents = [file for file in sorted((root / "tests/documents/valid").glob("*.vyr")) if not re.search("<(?![/?!]|Vyr:)", file.read_text())]
+documents = [file for file in sorted((root / "tests/documents/valid").glob("*.vyr"))
+             if not re.search("<(?![/?!]|Vyr:)", file.read_text())]
 documents.append(root / "tests/tools/values.vyr")
 impossible = (root / "tests/tools/values.vyr").read_text().replace("2026-05", "2026-13", 1)
 answers = {
@@ -114,7 +116,8 @@ for command, names in answers.items():
     if not names or names - named(command):
         failures.append(f"vyr.1, {command}: nothing is said of {names - named(command) or 'JSON'}")
 
-script = f"source {root}/tools/completion/vyr.bash; COMP_WORDS=(vyr list --color = a); COMP_CWORD=4; _vyr; echo ${{COMPREPLY[@]}}"
+script = (f"source {root}/tools/completion/vyr.bash; COMP_WORDS=(vyr list --color = a); COMP_CWORD=4; _vyr; "
+          "echo ${COMPREPLY[@]}")
 compare("vyr.bash at work", subprocess.check_output(["bash", "-c", script], text=True).split(), ["auto", "always"])
 
 listed = [line.split()[1] for line in output("codes").splitlines()]

@@ -95,12 +95,17 @@ def check_counts(path):
     root = ElementTree.parse(path).getroot()
     page = show(path)
     colors = [color for color in root.iter(V + "Color") if "ColorName" in color.attrib]
-    values = [[f"sRGB {','.join(str(int(float(value.find(V + channel).text) * 255 + 0.5)) for channel in ('Red', 'Green', 'Blue'))}"
-               for value in color.findall(V + "ColorSpaceSRGB")[:1]] for color in colors]
+
+    def swatch(value):
+        shares = (float(value.find(V + channel).text) for channel in ("Red", "Green", "Blue"))
+        return "sRGB " + ",".join(str(int(share * 255 + 0.5)) for share in shares)
+
+    values = [[swatch(value) for value in color.findall(V + "ColorSpaceSRGB")[:1]] for color in colors]
     expect(f"{path.name}: swatches", sorted(page.labels("swatch")), sorted(sum(values, [])))
     expect(f"{path.name}: places without swatch", len(page.texts("swatch none")), values.count([]))
     expect(f"{path.name}: colours", len(page.texts("color")), len(colors))
-    spectra = [value for value in root.iter() if any(is_number(point) for kind in ("ReflectancePoint", "EmissiveSpectralPoint")
+    spectra = [value for value in root.iter()
+               if any(is_number(point) for kind in ("ReflectancePoint", "EmissiveSpectralPoint")
                                                      for point in value.findall(V + kind))]
     expect(f"{path.name}: curves", len(page.labels("curve")), len(spectra))
     points = sum(len(list(root.iter(V + kind))) for kind in ("ReflectancePoint", "EmissiveSpectralPoint"))
@@ -125,12 +130,16 @@ def check_full(path):
             "no limit stated", "\u2717 above the limit by 0.25", "no limit stated", "\u2717 below the limit by 0.5"])
     expect("limits", page.texts("limit"), ["0 to 3", "-1 to 1", "-0.5 to 0.75", "at most 2"])
     text = re.sub(r"\s+", " ", page.elements[0]["text"])
-    for part in ("D65, 10 degrees, Reflectance, filter None, not polarized (default of the palette)", "conditions unknown",
+    for part in ("D65, 10 degrees, Reflectance, filter None, not polarized (default of the palette)",
+                 "conditions unknown",
                  "D50, 2 degrees, Reflectance, filter None, not polarized, measured with Optics, S-45, number 0815",
                  "Reflectance, angle 45 degrees, filter None, not polarized, measured",
-                 "backing White", "house light", "under the lamp", "Profile name Press 7", "Direction Profile Output", "3 bytes",
-                 "Kind Substrate paper, Paper thickness 0.12", "Rubine", "Inks & Co", "0042", "0.42", "unknown", "Palette Inks", "first line second line",
-                 "Made from:", "Wavelength (nm)", "Reflectance factor (fraction)", "Spectral power (unit of the measurement)"):
+                 "backing White", "house light", "under the lamp", "Profile name Press 7", "Direction Profile Output",
+                 "3 bytes",
+                 "Kind Substrate paper, Paper thickness 0.12", "Rubine", "Inks & Co", "0042", "0.42", "unknown",
+                 "Palette Inks", "first line second line",
+                 "Made from:", "Wavelength (nm)", "Reflectance factor (fraction)",
+                 "Spectral power (unit of the measurement)"):
         expect(f"full: {part}", part in text, True)
     lamp = next(entry for entry in page.elements if "Lamp" in entry["attributes"].get("aria-label", ""))
     expect("lamp", lamp["attributes"]["aria-label"], "Spectrum of Lamp: 4 points, 400 to 700 nm, -0.25 to 40")
@@ -138,14 +147,16 @@ def check_full(path):
     line = next(entry for entry in page.elements if entry["class"] == "line")["attributes"]["d"]
     places = [tuple(map(float, place.split())) for place in re.findall(r"[\d.]+ [\d.]+", line)]
     expect("order of points", places, sorted(places))
-    expect("highest and lowest", (min(places, key=lambda p: p[1]), max(places, key=lambda p: p[1])), (places[2], places[0]))
+    expect("highest and lowest", (min(places, key=lambda p: p[1]), max(places, key=lambda p: p[1])),
+           (places[2], places[0]))
 
 
 def check_hostile(path):
     page = show(path)  # foreign markup and foreign attributes are found by the parser
     text = page.elements[0]["text"]
     expect("hostile: title", [e["text"] for e in page.elements if e["tag"] == "title"], [path.name])
-    expect("hostile: the name as text", "</title></style><script>alert(1)</script>\" onload=\"alert(1)' x='&lt;" in text, True)
+    expect("hostile: the name as text",
+           "</title></style><script>alert(1)</script>\" onload=\"alert(1)' x='&lt;" in text, True)
     expect("hostile: hidden characters", [c for c in ("\u202e", "\u009b") if c in text], [])
     expect("hostile: by number", "\\u{202E}" in text, True)
     numbers = {"380": "1e308", "390": "-1e308", "400": "INF", "410": "NaN", "420": "1e-320"}
@@ -154,7 +165,8 @@ def check_hostile(path):
     nil = '<Vyr:ColorSpaceSpecificationEmissiveSpectral xsi:nil="true"/>'
     pathlib.Path("numbers.vyr").write_text(show_document.document("".join(
         show_document.color("c", show_document.value("", "").replace("ColorSpace", "ColorSpaceEmissiveSpectral")
-                            .replace("</Vyr:ChangeHistory>", "</Vyr:ChangeHistory>" + nil + more)) for more in (points, one))))
+                            .replace("</Vyr:ChangeHistory>", "</Vyr:ChangeHistory>" + nil + more))
+                                                                          for more in (points, one))))
     curves = [entry for entry in check_counts(pathlib.Path("numbers.vyr")).elements if "curve" in entry["inside"]]
     places = " ".join(str(entry["attributes"].get(key, "")) for entry in curves for key in ("d", "x", "y"))
     expect("coordinates", re.findall(r"nan|inf|e\+|\d{5}", places), [])

@@ -55,12 +55,15 @@ def check_list():
     has(text, r"^  10E2 .* 64\.2 70\.25 60\.5 ", r" 0042 +1\.50$")
     # A recipe in full, of a spectrum the outline with a sign that it is one.
     for i in range(1, 6):
-        has(text, rf"^      Recipe\[5\]: .*Name Base {i}, Manufacturer Acme, PartNumber 00{i}, Density unknown\), Contribution 0\.{i}$")
+        has(text, rf"^      Recipe\[5\]: .*Name Base {i}, Manufacturer Acme, PartNumber 00{i}, Density unknown\), "
+                  rf"Contribution 0\.{i}$")
     has(text, r"Spectral\[3\]: 36 points, 380 to 730 nm, 0\.05 to 0\.8499$", "^Of spectra the outline is shown; ")
     # Each value's conditions: its own, those of its colour set, those of its palette, none.
-    has(text, r"\[1\] D50, 2 degrees, .*not polarized$", r"\[2\] A, 10 degrees, ", r"\[3\] .*45 degrees.*\(default of the colour set\)$",
+    has(text, r"\[1\] D50, 2 degrees, .*not polarized$", r"\[2\] A, 10 degrees, ",
+        r"\[3\] .*45 degrees.*\(default of the colour set\)$",
         r"\[4\] conditions unknown$", r"\[5\] D65, .*\(default of the palette\)$", r"CIELab\[1\] L .*CIELab\[2\] L ")
-    has(text, '^Quality control "Run 7"$', "^  FunctionDE2000: Result 3.41, ", "^  Tolerance: .*HighTolerance 2, LowTolerance 0",
+    has(text, '^Quality control "Run 7"$', "^  FunctionDE2000: Result 3.41, ",
+        "^  Tolerance: .*HighTolerance 2, LowTolerance 0",
         "^  Device: Manufacturer Acme, Model Spectro 2, SerialNumber 0017$", "backing Black$")
     both = output("list", "--name", "Aim", sample, sample)
     same("two files", both.count(":\nQuality control"), 2)
@@ -72,7 +75,8 @@ def check_list_json():
     same("name and number", (first["name"], first["ColorNumber"]), ("10E2", "008"))
     same("sources", [value["conditions"]["source"] for value in first["values"] + mix["values"]],
          ["value", "value", "ColorSet", "unknown", "Palette", "Palette"])
-    same("conditions", first["values"][1]["conditions"], {"source": "value", "Illuminant": "A", "Observer": "10", "Spectrum":
+    same("conditions", first["values"][1]["conditions"],
+         {"source": "value", "Illuminant": "A", "Observer": "10", "Spectrum":
          "Reflectance", "Filter": "None", "Polarization": False})
     same("points", [len(first["values"][2]["ReflectancePoint"]), first["values"][2]["ReflectancePoint"][-1]],
          [36, {"Wavelength": 730, "value": 0.8499}])
@@ -86,13 +90,15 @@ def check_table():
     rows = table(sample)
     text = output("list", "--csv", sample)
     same("line ends", (text.count("\r\n"), text.count("\n")), (len(rows) + 1, len(rows) + 1))
-    same("spaces", [row["Space"] for row in rows], ["CIELab", "CIELab", "Spectral", "SRGB", "Recipe", "Munsell", *["CIELab"] * 3])
+    same("spaces", [row["Space"] for row in rows],
+         ["CIELab", "CIELab", "Spectral", "SRGB", "Recipe", "Munsell", *["CIELab"] * 3])
     same("conditions", [(row["Illuminant"], row["Observer"], row["ConditionsFrom"]) for row in rows[:4]],
          [("D50", "2", "value"), ("A", "10", "value"), ("", "", "ColorSet"), ("", "", "unknown")])
     same("texts", (rows[0]["Color"], rows[0]["ColorNumber"], rows[5]["CollectionName"], rows[5]["ColorName"]),
          ("10E2", "008", "0042", "1.50"))
     same("a quoted name", rows[4]["Color"], 'Mix, "deep"')
-    same("a recipe", (rows[4]["ColorantElement[5].Colorant.PartNumber"], rows[4]["ColorantElement[5].Contribution"]), ("005", "0.5"))
+    same("a recipe", (rows[4]["ColorantElement[5].Colorant.PartNumber"], rows[4]["ColorantElement[5].Contribution"]),
+         ("005", "0.5"))
     waves = [name for name in rows[0] if name.endswith(" nm")]
     same("wavelengths", waves, [f"{wave} nm" for wave in range(380, 740, 10)])
     same("a spectrum", (rows[2]["380 nm"], rows[2]["730 nm"], rows[0]["380 nm"]), ("0.05", "0.8499", ""))
@@ -101,13 +107,16 @@ def check_table():
 
 def check_info():
     text = output("info", sample)
-    has(text, r"^  Owner: Person \(Name A. Printer\), Company Inks & Sons$", r"^  Version: Version 2\.10$", '^  Measurement "Sheet 2"$',
+    has(text, r"^  Owner: Person \(Name A. Printer\), Company Inks & Sons$", r"^  Version: Version 2\.10$",
+        '^  Measurement "Sheet 2"$',
         "^        3  Manufacturer Acme, Model Spectro 2, SerialNumber 0017$")
     answer = json.loads(output("info", "--json", sample))
     same("owner and version", (answer["owner"]["Company"], answer["version"]["Version"]), (["Inks & Sons"], "2.10"))
     record = answer["quality_control"][0]
-    same("a record", (record["Name"], record["pairs"][0]["standard"]["color"], len(record["pairs"][0]["measurements"])), ("Run 7", "Aim", 2))
-    same("devices", answer["devices"], [{"count": 3, "device": {"Manufacturer": "Acme", "Model": "Spectro 2", "SerialNumber": "0017"}}])
+    same("a record", (record["Name"], record["pairs"][0]["standard"]["color"], len(record["pairs"][0]["measurements"])),
+         ("Run 7", "Aim", 2))
+    same("devices", answer["devices"],
+         [{"count": 3, "device": {"Manufacturer": "Acme", "Model": "Spectro 2", "SerialNumber": "0017"}}])
 
 
 def check_all_documents():
@@ -116,7 +125,8 @@ def check_all_documents():
         root = tree.parse(file).getroot()
         colors = [color for color in root.iter(V + "Color") if "ColorName" in color.attrib]
         values = [child for color in colors for child in color if child.tag.startswith(V + "ColorSpace")]
-        points = sum(len(value.findall(V + "ReflectancePoint") + value.findall(V + "EmissiveSpectralPoint")) for value in values)
+        points = sum(len(value.findall(V + "ReflectancePoint") + value.findall(V + "EmissiveSpectralPoint"))
+                     for value in values)
         rows = table(file)
         listed = json.loads(output("list", "--json", file))
         output("list", file)
@@ -141,14 +151,17 @@ def check_json():
         output("convert", file, "a.json")
         output("convert", "a.json", "b.vyr")
         output("convert", file, "c.vyr")
-        same(f"{file.name} through JSON", pathlib.Path("b.vyr").read_bytes() == pathlib.Path("c.vyr").read_bytes(), True)
+        same(f"{file.name} through JSON", pathlib.Path("b.vyr").read_bytes() == pathlib.Path("c.vyr").read_bytes(),
+             True)
         same(f"{file.name} by vyr json", output("json", file), pathlib.Path("a.json").read_text())
         if check is not None:
-            faults = [error.message[:200] for error in check.iter_errors(json.loads(pathlib.Path("a.json").read_text()))]
+            faults = [error.message[:200]
+                      for error in check.iter_errors(json.loads(pathlib.Path("a.json").read_text()))]
             same(f"{file.name} by the JSON Schema", faults, [])
     color = json.loads(output("json", sample))["Palette"][0]["ColorSet"][0]["Color"][0]
     same("types", (color["ColorName"], color["ColorSpace"][0]["ColorSpaceCIELab"]["B"],
-                   color["ColorSpace"][3]["ColorSpaceSRGB"]["ColorSpaceSpecificationSpectrumTristimulus"]), ("10E2", 51.3, None))
+                   color["ColorSpace"][3]["ColorSpaceSRGB"]["ColorSpaceSpecificationSpectrumTristimulus"]),
+         ("10E2", 51.3, None))
 
 
 def check_json_order():
@@ -171,7 +184,8 @@ def check_json_faults():
         ('"ColorNumber": "008"', '"ColorNumber": 8', r'.* / Color "10E2".* / ColorNumber: a text is expected'),
         ('"2026-05-01T12:00:00Z"', '"2026-05-01"', r".* / ChangeHistory(\[1\])?: .*"),
         ('"Creator": "By hand",', "", "x.json: Preamble / Header: .*"),
-        ('"Creator": "By hand",', '"Creator": "", "Creator": "",', 'x.json: the member "Creator" is given twice in an object'),
+        ('"Creator": "By hand",', '"Creator": "", "Creator": "",',
+         'x.json: the member "Creator" is given twice in an object'),
         ('"Preamble": {', '"Preamble": [', "x.json: parse error at line .*"),
     ):
         before = before.replace('"Polarization', '"DevicePolarization')
@@ -193,16 +207,20 @@ def check_import():
     output("import", "a.csv", "-o", "a.vyr")
     output("check", "a.vyr")
     lost = {"In", "ConditionsFrom", "Backing"}
-    before, after = (sorted(({name: cell for name, cell in row.items() if cell and name not in lost} for row in table(file)),
-                            key=lambda row: (row["Color"], row["Space"], row.get("Illuminant", ""))) for file in (sample, "a.vyr"))
+    before, after = (sorted(({name: cell for name, cell in row.items() if cell and name not in lost}
+                             for row in table(file)),
+                            key=lambda row: (row["Color"], row["Space"], row.get("Illuminant", "")))
+                     for file in (sample, "a.vyr"))
     same("a table through a document", after, before)
 
     wide = "\ufeffColor,L,A,B,Cyan,Magenta,Yellow,Black,Red,Green,Blue,400 nm,410\r\n"
-    pathlib.Path("b.csv").write_text(wide + '"Red, ""warm""",50,60,40,0,90,80,0,1,0.5,0,0.1,0.2\nBlue,10,-1e1,2,,,,,,,,,\n')
+    pathlib.Path("b.csv").write_text(wide
+                                     + '"Red, ""warm""",50,60,40,0,90,80,0,1,0.5,0,0.1,0.2\nBlue,10,-1e1,2,,,,,,,,,\n')
     output("import", "--palette", "Mine", "b.csv", "-o", "b.vyr")
     rows = table("b.vyr")
     same("values by header", [(row["Palette"], row["Color"], row["Space"]) for row in rows],
-         [("Mine", 'Red, "warm"', space) for space in ("CIELab", "CMYK", "SRGB", "Spectral")] + [("Mine", "Blue", "CIELab")])
+         [("Mine", 'Red, "warm"', space) for space in ("CIELab", "CMYK", "SRGB", "Spectral")]
+         + [("Mine", "Blue", "CIELab")])
     same("a number", (rows[4]["A"], rows[3]["410 nm"]), ("-10", "0.2"))
     # What a table leaves open is nil, a line end in a cell is one in the document.
     pathlib.Path("c.csv").write_bytes(b'Color,L,A,B,Illuminant,Observer\n"two\r\nlines",1,2,3,D50,2\n')
@@ -223,9 +241,11 @@ def check_import():
         ('Color,L\n"x,1\n', [":2: column 1: the quotation mark that begins the cell has no end"]),
         ("", [":1: column 1: a row of headers is expected"]),
         # What is not whole: a value, its conditions, a value that is asked for.
-        ('Color,L,A,B\nx,1,2,\n"a\rb",1,2,3\n', [':2: column "B": CIELab needs it', r':3: column "Color": there is a character .*: "a\\u\{D\}b"']),
+        ('Color,L,A,B\nx,1,2,\n"a\rb",1,2,3\n',
+         [':2: column "B": CIELab needs it', r':3: column "Color": there is a character .*: "a\\u\{D\}b"']),
         ("Color,Space,L,A,B,400 nm,Filter\nx,CIELab,1,2,3,,None\ny,Spectral,,,,.1,None\nz,CIELab,,2,3,,\n",
-         [':2: column "Illuminant": the conditions of CIELab need it', ':3: column "Sphere": the conditions of Spectral need it',
+         [':2: column "Illuminant": the conditions of CIELab need it',
+          ':3: column "Sphere": the conditions of Spectral need it',
           ':4: column "L": CIELab needs it']),
         ("Color,Palette,ColorNumber,L,A,B\nx,\x01,1,1,2,3\n", [':2: column "Palette": there is a character .*']),
     ):
@@ -233,14 +253,15 @@ def check_import():
         code, out, err = run("import", "x.csv", "-o", "never.vyr")
         for fault in faults:
             has(err, "^x\\.csv" + fault + "$")
-        nowhere = [line for line in err.splitlines() if not re.match(r'x\.csv(:\d+: column ("[^"]*"|\d+): .|: \d+ faults?, nothing)', line)]
+        nowhere = [line for line in err.splitlines()
+                   if not re.match(r'x\.csv(:\d+: column ("[^"]*"|\d+): .|: \d+ faults?, nothing)', line)]
         same("faults without a place", nowhere, [])
         same("a table with faults", (code, out, os.path.exists("never.vyr")), (1, "", False))
 
 
 def check_all():
-    for check in (check_list, check_list_json, check_table, check_info, check_all_documents, check_json, check_json_order,
-                  check_json_faults, check_import):
+    for check in (check_list, check_list_json, check_table, check_info, check_all_documents, check_json,
+                  check_json_order, check_json_faults, check_import):
         try:
             check()
         except Exception:  # what one check stumbles over is no reason to skip the others

@@ -80,7 +80,8 @@ def make_documents():
     other = text.replace(colors[6], "").replace(colors[7], "").replace("</Vyr:ColorSet>", colors[7] + "</Vyr:ColorSet>")
     other = other.replace(">0.94117647058824<", ">0.5<", 1).replace('Name="beige"', 'Name="sand"')
     other = other.replace('<Vyr:Color ColorName="azure"', '<Vyr:Color UniqueID="7" ColorName="azure"')
-    other = other.replace(colors[20], colors[20] + colors[9].replace('Name="blue"', 'Name="new"').replace(">1<", ">.9<"))
+    other = other.replace(colors[20], colors[20]
+                          + colors[9].replace('Name="blue"', 'Name="new"').replace(">1<", ">.9<"))
     other = other.replace("<Vyr:Palette ", '<Vyr:Palette Comments="new" ')
     for name, content in {
         "good.vyr": text,
@@ -200,8 +201,8 @@ def check_info_and_list():
     if (answer["colors"], answer["spaces"], answer["palettes"][0]["sets"], len(answer["tree"]["parts"])) != (
             148, {"SRGB": 148}, [{"name": "Named", "colors": 148}], 2):
         fail(f"info --json: {answer}")
-    expect(0, "Palette \"CSS\" / ColorSet \"Named\"\n +SRGB\\[1\\] Red +Green +Blue\n  navy +0 +0 +0\\.501961\n  \\[1\\] [^\n]*\n", "",
-           "list", "--name=navy", "--set", "N*", "--palette", "?SS", "good.vyr")
+    expect(0, "Palette \"CSS\" / ColorSet \"Named\"\n +SRGB\\[1\\] Red +Green +Blue\n  navy +0 +0 +0\\.501961\n"
+              "  \\[1\\] [^\n]*\n", "", "list", "--name=navy", "--set", "N*", "--palette", "?SS", "good.vyr")
     expect(0, "", ".*no such colour\n", "list", "--name=nav", "good.vyr")
     # A name can't steer the terminal, in either form.
     expect(0, r".*\\u\{202E\}\\u\{9B\}31m\\u\{9\}<b>.*\\u\{180E\}\\u\{200D\}\\u\{3164\}\\u\{E0041\}e\u0301.*", "",
@@ -281,11 +282,11 @@ def check_terminal():
         text, code = on_terminal("list", "--name=navy", "good.vyr", COLORTERM=announced)
         if code != 0 or (navy in text) != has_swatch or "\x1b" in text and not has_swatch:
             fail(f"list on a terminal ({announced}): {text!r}")
-    for arguments, environment, has_color in ((["--color=never"], {}, False), ([], {"NO_COLOR": "1"}, False), ([], {}, True)):
+    for arguments, environment, has_color in ((["--color=never"], {}, False), ([], {"NO_COLOR": "1"}, False),
+                                              ([], {}, True)):
         text, code = on_terminal("diff", *arguments, "good.vyr", "other.vyr", **environment)
         if code != 1 or ("\x1b[32m+ " in text) != has_color:
             fail(f"diff on a terminal ({arguments}, {environment}): {text!r}")
-    for arguments, environment, has_color in ((["--color=never"], {}, False), ([], {"NO_COLOR": "1"}, False), ([], {}, True)):
         text, code = on_terminal("check", *arguments, "broken.vyr", "month.vyr", **environment)
         places = [re.search(rf"\x1b\[{color}m{name}.vyr:\d+:\d+\x1b\[0m: .*: ", text) is not None
                   for color, name in ((31, "broken"), (33, "month"))]

@@ -80,12 +80,15 @@ def check_names():
     expect(twice, [], "--strict", "--ignore", "all")
     # In an element of its own each stands once.
     expect(changed('UniqueID="b">', 'UniqueID="b"><!-- \u00fc -->'), [])
-    expect(changed('Wavelength="410"', 'Wavelength="420"'), [("wavelengths", '<Vyr:ReflectancePoint Wavelength="420">0.3')])
-    expect(changed('Wavelength="420"', 'Wavelength="4.0e2"'), [("wavelengths", '<Vyr:ReflectancePoint Wavelength="4.0e2"')])
+    expect(changed('Wavelength="410"', 'Wavelength="420"'),
+           [("wavelengths", '<Vyr:ReflectancePoint Wavelength="420">0.3')])
+    expect(changed('Wavelength="420"', 'Wavelength="4.0e2"'),
+           [("wavelengths", '<Vyr:ReflectancePoint Wavelength="4.0e2"')])
     expect(changed("<Vyr:B>2</Vyr:B>", "<!-- \u00fc --><Vyr:B>NaN</Vyr:B>"), [("schema", "<Vyr:B>NaN")])
     month = changed("2024-05-01T09:30:00Z", "2024-13-01T09:30:00Z")
     expect(month, [("date", "<Vyr:ChangeHistory>2024-13"), ("schema", "<Vyr:ChangeHistory>2024-13")])
-    expect(changed("2024-05-01T09:30:00Z", "2023-02-29T09:30:00Z"), [("date", "<Vyr:ChangeHistory>2023")], "--ignore", "schema")
+    expect(changed("2024-05-01T09:30:00Z", "2023-02-29T09:30:00Z"), [("date", "<Vyr:ChangeHistory>2023")], "--ignore",
+           "schema")
     expect(changed("2024-05-01T09:30:00Z", "2024-02-29T24:00:00Z"), [], "--ignore", "schema")
     attribute = changed('ColorName="Ink 2"', 'ColorName="< Ink 2"')
     got = run("check", "-", stdin=attribute.encode())
@@ -116,7 +119,8 @@ def check_conversion():
     kept = """<!DOCTYPE Vyr [<!ENTITY me "me">]><!-- first --><?go on?>
 """
     text = DOCUMENT.replace("?>\n", "?>\n" + kept, 1).replace("<Vyr:Creator>me", "<Vyr:Creator>&me;")
-    text = text.replace("XMLSchema-instance\"", "XMLSchema-instance\" xsi:schemaLocation=\"http://vyrgraph.com/v2 v.xsd\"")
+    text = text.replace("XMLSchema-instance\"",
+                        "XMLSchema-instance\" xsi:schemaLocation=\"http://vyrgraph.com/v2 v.xsd\"")
     text = text.replace("<Vyr:L>50", "<Vyr:L>50.1234567890123456")
     text = text.replace("<Vyr:Purpose>test", "<Vyr:Purpose>0.1234567890123456789")
     code, _, err = run("convert", "-", "-", stdin=text.encode())
@@ -154,7 +158,8 @@ def check_strangers(folder):
     }
     cases = {name: DOCUMENT.replace("?>\n", "?>\n" + text, 1).replace("<Vyr:Creator>me", "<Vyr:Creator>&x;")
              for name, text in declarations.items()}
-    cases["schema hint"] = changed('XMLSchema-instance"', f'XMLSchema-instance" xsi:schemaLocation="http://vyrgraph.com/v2 {url}/c.xsd"')
+    cases["schema hint"] = changed('XMLSchema-instance"',
+                                   f'XMLSchema-instance" xsi:schemaLocation="http://vyrgraph.com/v2 {url}/c.xsd"')
     cases["depth"] = DOCUMENT + "<a>" * 200000
     cases["attributes"] = changed("<Vyr:Color ", "<Vyr:Color " + " ".join(f'a{i}="&lt;"' for i in range(50000)) + " ")
     cases["faults"] = changed("<Vyr:B>2</Vyr:B>", "<Vyr:B>2</Vyr:B>" + "<Vyr:Q>x</Vyr:Q>" * 100000)

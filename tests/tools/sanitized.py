@@ -1,6 +1,7 @@
 # Copyright 2026 The Vyr Authors
 # SPDX-License-Identifier: Apache-2.0
-"""Whether a program was built to watch its own memory: such a one takes far more than it needs, and can't be bounded."""
+"""Whether a program was built to watch its own memory: such a one takes far more than it needs, and can't be
+bounded."""
 
 import pathlib
 

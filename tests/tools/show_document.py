@@ -54,7 +54,8 @@ def lab(l, a, b, **more):
 def profiled():
     """Conditions with all that is no condition."""
     parameter = element("Parameters", texts(Name="g") + element("ValueChoice", texts(DoubleValue="2.2")))
-    profile = element("Profile", element("ProfileChoice", element("ProfileFile", "AAEC", ProfileName="Press 7")) + parameter,
+    profile = element("Profile", element("ProfileChoice", element("ProfileFile", "AAEC", ProfileName="Press 7"))
+                      + parameter,
                       Direction="Profile_Output")
     tristimulus = conditions("Tristimulus").replace("<Vyr:DeviceFilter>", profile + "<Vyr:DeviceFilter>")
     return tristimulus.replace("Tristimulus>", 'Tristimulus Comments="under the lamp">', 1)
@@ -118,7 +119,8 @@ def full():
     de2000 = {"Param_l": "1", "Param_c": "1", "Param_h": "1"}
 
     def measurement(name, *functions):
-        return element("Measurement", device() + color(name, lab("50.4", "61", "41"), spectrum(0.07)) + "".join(functions))
+        return element("Measurement", device() + color(name, lab("50.4", "61", "41"), spectrum(0.07))
+                       + "".join(functions))
 
     pairs = element("StandardAndMeasurement",
                     measurement("Sheet 1", function("DE2000", "0.7", **de2000), function("DE", "1.25"))
@@ -169,7 +171,8 @@ def hostile():
         "Measurement", device().replace("Optics", bad) + color(bad, srgb("0", "0", "0")) + generic) + element(
             "Standard", device() + color(bad, srgb("1", "1", "1")) + tolerance(bad, generic, "2"))),
         Name=bad, Description=bad)
-    axis = value("Generic", element("Axis", texts(AxisName=bad) + element("AxisValueChoice", texts(AxisStringValue=bad))),
+    axis = value("Generic",
+                 element("Axis", texts(AxisName=bad) + element("AxisValueChoice", texts(AxisStringValue=bad))),
                  unknown("Generic"), Name=bad)
     mix = recipe().replace("Rubine", bad).replace("0042", bad)
     colors = color(bad, named, points, axis, mix, UniqueID=bad, Comments=bad, ColorNumber=bad)
