@@ -49,13 +49,16 @@ bool skip_part(char part, const char** cursor) {
     }
 }
 
-/// Whether `[text, end)` is empty or a zone; `*has_zone` tells which.
+/// Whether `[text, end)` is empty or a zone, which `*has_zone` tells then.
 bool is_valid_zone(const char* text, const char* end, bool* has_zone) {
-    *has_zone = text != end;
-    if (text == end) return true;
-    if (match_char(&text, 'Z')) return text == end;
-    return skip_sign(&text) && skip_two_digits(&text) && match_char(&text, ':') && skip_two_digits(&text) &&
-           text == end;
+    const bool is_empty = text == end;
+    if (!is_empty) {
+        const bool is_zone = match_char(&text, 'Z') || (skip_sign(&text) && skip_two_digits(&text) &&
+                                                        match_char(&text, ':') && skip_two_digits(&text));
+        if (!is_zone || text != end) return false;
+    }
+    *has_zone = !is_empty;
+    return true;
 }
 
 std::int32_t negated(std::int32_t value) { return static_cast<std::int32_t>(0U - static_cast<std::uint32_t>(value)); }

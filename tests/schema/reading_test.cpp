@@ -100,13 +100,23 @@ TEST(Reading, AZoneOfZeroMinutesComesBackAsUtc) {
     EXPECT_EQ(read_lab(lab, "+00:01"), s_outcome{});
     EXPECT_FALSE(lab.get_ChangeHistory(0).get_is_utc());
     // What a handler lets in without a zone is not given one.
-    const std::string without = with_declarations(
-        element("CalibrationState", "CalibrationState_NA", " CalibrationDateTime=\"" + date + "\""));
-    c_swallowing_reader reader(without);
-    v2::CalibrationStateType calibration;
-    EXPECT_EQ(read_with(reader, calibration).code, ELMX_OK);
-    EXPECT_EQ(reader.swallowed.size(), 1U);
-    EXPECT_FALSE(calibration.get_CalibrationDateTime().get_is_utc());
+    const std::pair<std::string, std::vector<elmx_error>> rows[] = {
+        {"", {ELMX_NO_PATTERN_MATCHED}},
+        {"x", {ELMX_VALUE_BAD_FORMAT, ELMX_NO_PATTERN_MATCHED}},
+        {"Zx", {ELMX_VALUE_BAD_FORMAT, ELMX_NO_PATTERN_MATCHED}},
+        {"+0:00", {ELMX_VALUE_BAD_FORMAT}},
+    };
+    for (const auto& [zone, codes] : rows) {
+        const std::string without = with_declarations(
+            element("CalibrationState", "CalibrationState_NA", " CalibrationDateTime=\"" + date + zone + "\""));
+        c_swallowing_reader reader(without);
+        v2::CalibrationStateType calibration;
+        EXPECT_EQ(read_with(reader, calibration).code, ELMX_OK);
+        std::vector<elmx_error> found;
+        for (const s_outcome& outcome : reader.swallowed) found.push_back(outcome.code);
+        EXPECT_EQ(found, codes) << zone;
+        EXPECT_FALSE(calibration.get_CalibrationDateTime().get_is_utc()) << zone;
+    }
 }
 
 TEST(Reading, MisplacedChildrenAreMissingOrBreakTheEnd) {
