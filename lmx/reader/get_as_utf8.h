@@ -125,9 +125,10 @@ protected:
         m_last_char = static_cast<unsigned char>(m_current[-1]);
         m_line_num += line_feeds;
     }
-    /// As if the next byte, which lies ahead, had been read and given back.
-    void touch_ahead() {
-        if (m_furthest <= m_current) m_furthest = m_current + 1;
+    /// As if the next bytes, which lie ahead, had been read and given back.
+    void touch_ahead(std::size_t count) {
+        m_last_char = static_cast<unsigned char>(m_current[count - 1]);
+        if (m_furthest < m_current + count) m_furthest = m_current + count;
     }
     /// Takes the run of characters ahead, up to one in `stops`; appends it to `out` unless that is null.
     void take_run(const byte_set& stops, std::string* out);

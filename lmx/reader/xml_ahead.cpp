@@ -61,7 +61,7 @@ bool c_xml::take_start_tag(std::string* name) {
     m_attributes.swap(m_attributes_ahead);
     if (!m_attributes.empty()) m_attr_buffer.assign(text, name_length, at - name_length);
     take_ahead(at, line_feeds);
-    touch_ahead();
+    touch_ahead(1);
     return true;
 }
 

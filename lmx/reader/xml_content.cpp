@@ -14,7 +14,10 @@ bool c_xml::get_element_value(std::string* value, elmx_whitespace mode, bool exp
     set_ws_mode(mode);
     for (;;) {
         take_plain_text(value);
-        if (is_ahead("</")) return true;
+        if (is_ahead("</")) {
+            touch_ahead(2);
+            return true;
+        }
         int c = get();
         if (c == -1) return refuse(scanner_fault::end_in_value);
         if (c == '&' && expand_entities) {
