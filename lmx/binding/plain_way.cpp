@@ -92,8 +92,7 @@ c_plain_way::c_plain_way(c_xml_reader& reader, const s_class& type, std::string_
     while (level->element_map->name == nullptr && level->base != nullptr) level = level->base;
     if (m_prefix_size > sizeof m_prefix || level->element_map->name == nullptr) return;
     name.copy(m_prefix, m_prefix_size);
-    const std::string_view prefix = name.substr(0, m_prefix_size == 0 ? 0 : colon);
-    m_is_possible = reader.get_reader_local()->find_namespace_id(prefix) == level->element_map->ns_id;
+    m_is_possible = reader.get_reader_local()->find_namespace_id(prefix_of(name)) == level->element_map->ns_id;
 }
 
 bool c_plain_way::begin() {
@@ -281,7 +280,7 @@ c_plain_way::e_step c_plain_way::take_item(const s_class& type, void* object, s_
     const s_item* member = nullptr;
     std::size_t size = due_name_size(type, *place, local);
     if (size == 0) {
-        size = tag_name_size(local, m_end);
+        size = name_size(local, m_end);
         if (local + size == m_end || !find_row(type, object, place->is_begun, {local, size}, &step.found, &member)) {
             return e_step::declined;
         }

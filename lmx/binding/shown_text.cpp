@@ -83,11 +83,6 @@ std::string quoted(std::string_view text, std::size_t limit) {
     return joined({"\"", make_shown(text, limit, "\"\\"), "\""});
 }
 
-std::string_view local_part(std::string_view name) {
-    const std::size_t colon = name.find(':');
-    return colon == name.npos ? name : name.substr(colon + 1);
-}
-
 std::string listed(std::span<const std::string> names, std::string_view conjunction) {
     constexpr std::size_t k_most = 12;
     const std::size_t count = names.size() > k_most ? k_most - 2 : names.size();

@@ -20,9 +20,6 @@ std::string shown(std::string_view text, std::size_t limit = 100);
 /// The same in double quotes, with quotes and backslashes inside escaped.
 std::string quoted(std::string_view text, std::size_t limit = 60);
 
-/// The part of a name behind its prefix.
-std::string_view local_part(std::string_view name);
-
 /// "A", "A or B", "A, B or C"; of a long list, how many more there are.
 std::string listed(std::span<const std::string> names, std::string_view conjunction);
 

@@ -8,7 +8,6 @@
 #include <cstddef>
 #include <cstdint>
 #include <string>
-#include <utility>
 
 namespace lmx {
 
@@ -63,10 +62,6 @@ public:
     void clear() {
         m_bytes.clear();
         m_last = {};
-    }
-    void swap(c_attribute_list& other) {
-        m_bytes.swap(other.m_bytes);
-        std::swap(m_last, other.m_last);
     }
 
 private:

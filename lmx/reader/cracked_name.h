@@ -1,7 +1,7 @@
 // Copyright 2026 The Vyr Authors
 // SPDX-License-Identifier: Apache-2.0
 
-/// A name split at its colon.
+/// Names split at their colons.
 
 #pragma once
 
@@ -12,6 +12,13 @@
 #include "lmx/reader/namespaces.h"
 
 namespace lmx {
+
+/// The part of a name ahead of its first colon, and the part behind it.
+inline std::string_view prefix_of(std::string_view name) {
+    const std::size_t colon = name.find(':');
+    return name.substr(0, colon == name.npos ? 0 : colon);
+}
+inline std::string_view local_part(std::string_view name) { return name.substr(name.find(':') + 1); }
 
 class c_cracked_name {
 public:

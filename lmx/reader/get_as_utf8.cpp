@@ -87,7 +87,7 @@ void c_get_as_utf8::rewind() {
     const std::uint64_t bytes_read = get_bytes_read();
     if (bytes_read != m_bytes_taken) m_reader.give_back(static_cast<std::size_t>(m_bytes_taken - bytes_read));
     m_bytes_taken = bytes_read;
-    m_begin = m_current = m_end = m_furthest = nullptr;
+    m_begin = m_current = m_end = m_window_end = m_furthest = nullptr;
     if (m_decoded != nullptr) m_decoded->drop();
     m_reader.rewind();
 }
@@ -97,7 +97,7 @@ void c_get_as_utf8::set_form(int form) {
     if (m_decoded != nullptr) m_decoded->drop();
     m_is_decoding = false;
     m_encoding = form;
-    m_is_plain = form == enc_utf8 || form == enc_single_byte;
+    cover();
 }
 
 /// Whether what stands ahead in the source's window, which isn't empty, should be decoded.
@@ -105,24 +105,24 @@ bool c_get_as_utf8::is_decoding_due() const {
     if (m_encoding == enc_unknown) return false;
     if (m_is_decoding || *m_current == '\r') return true;
     if (m_encoding == enc_single_byte) return static_cast<signed char>(*m_current) < 0;
-    return m_encoding != enc_utf8 || utf8_line_end({m_current, static_cast<std::size_t>(m_end - m_current)}) != 0;
+    return m_encoding != enc_utf8 || utf8_line_end(rest_of_window()) != 0;
 }
 
 void c_get_as_utf8::enter_decoded() {
     if (m_is_decoded) leave_decoded();
-    if (m_current == m_end || !is_decoding_due()) return;
+    if (m_current == m_window_end || !is_decoding_due()) return;
     if (m_decoded == nullptr) m_decoded = std::make_unique<c_decoded_window>();
     const bool is_behind_return = m_last_char == '\r';
     if (!m_decoded->resume(m_current, is_behind_return) &&
-        !m_decoded->decode(m_encoding, {m_current, static_cast<std::size_t>(m_end - m_current)}, is_behind_return)) {
+        !m_decoded->decode(m_encoding, rest_of_window(), is_behind_return)) {
         return;
     }
     m_is_decoding = m_decoded->is_changed();
-    m_source_end = m_end;
+    m_source_end = m_window_end;
     m_begin = m_current = m_decoded->current();
-    m_end = m_decoded->end();
+    m_window_end = m_decoded->end();
     m_furthest = nullptr;
-    m_is_decoded = m_is_plain = true;
+    m_is_decoded = true;
     // The decoder has seen to the pair.
     if (is_behind_return) m_last_char = 0;
 }
@@ -140,26 +140,21 @@ void c_get_as_utf8::leave_decoded() {
     if (read_to == m_current && place.is_behind_return) m_last_char = '\r';
     while (read_to != m_current) m_unget.unget(static_cast<unsigned char>(*--read_to));
     m_begin = m_current = place.at;
-    m_end = m_source_end;
+    m_window_end = m_source_end;
     m_furthest = nullptr;
     m_is_decoded = false;
-    m_is_plain = m_encoding == enc_utf8 || m_encoding == enc_single_byte;
 }
 
-void c_get_as_utf8::unget(int c) {
-    // The last character read can stay in the window, unless giving it back counts a line anew.
-    if (c >= ' ' && c < 127 && is_fast() && m_current != m_begin && m_current[-1] == c) {
-        if (m_furthest < m_current) m_furthest = m_current;
-        --m_current;
-        return;
-    }
+void c_get_as_utf8::give_back(int c) {
     leave_decoded();
     m_returned_feeds += static_cast<int>(c == '\n');
     m_unget.unget(c);
+    cover();
 }
 
-int c_get_as_utf8::get_slowly() {
-    if (m_is_decoded ? m_current == m_end : m_current != m_end && m_unget.empty() && m_pending == nullptr) {
+int c_get_as_utf8::refill() {
+    if (m_is_decoded ? m_current == m_window_end
+                     : m_current != m_window_end && m_unget.empty() && m_pending == nullptr) {
         enter_decoded();
     }
     int c = raw_step();
@@ -171,6 +166,13 @@ int c_get_as_utf8::get_slowly() {
     }
     // One that came from a lone carriage return never comes back.
     if (m_unget.empty()) m_returned_feeds = 0;
+    // In these, ASCII stands as it reads.
+    const bool is_plain = m_is_decoded || m_encoding == enc_utf8 || m_encoding == enc_single_byte;
+    if (is_plain && m_unget.empty() && m_pending == nullptr) {
+        m_end = m_window_end;
+    } else {
+        cover();
+    }
     if (c == '\r') {
         ++m_line_num;
         return '\n';
@@ -182,11 +184,11 @@ int c_get_as_utf8::get_slowly() {
 std::uint64_t c_get_as_utf8::get_bytes_read() {
     const char* const read_to = std::max(m_furthest, m_current, std::less<>());
     const char* const unread = m_is_decoded ? m_decoded->seek(read_to).at : read_to;
-    return m_bytes_taken - static_cast<std::uint64_t>((m_is_decoded ? m_source_end : m_end) - unread);
+    return m_bytes_taken - static_cast<std::uint64_t>((m_is_decoded ? m_source_end : m_window_end) - unread);
 }
 
 int c_get_as_utf8::read_byte() {
-    return m_current < m_end ? static_cast<unsigned char>(*m_current++) : read_byte_slowly();
+    return m_current != m_window_end ? static_cast<unsigned char>(*m_current++) : read_byte_slowly();
 }
 
 int c_get_as_utf8::read_byte_slowly() {
@@ -195,11 +197,11 @@ int c_get_as_utf8::read_byte_slowly() {
     if (m_decoded != nullptr) m_decoded->drop();
     if (!window.empty()) {
         m_begin = m_current = window.data();
-        m_end = m_current + window.size();
+        m_window_end = m_current + window.size();
         m_bytes_taken += window.size();
         return static_cast<unsigned char>(*m_current++);
     }
-    m_begin = m_current = m_end = nullptr;
+    m_begin = m_current = m_window_end = nullptr;
     const int byte = m_reader.read();
     if (byte < 0) {
         m_is_source_at_end = true;

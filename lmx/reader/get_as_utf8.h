@@ -62,7 +62,7 @@ public:
     /// after a fatal report and for an illegal UTF-8 sequence.
     int get() {
         // Anything from a blank up to 127 stands for itself and is no line end.
-        if (is_fast() && m_current < m_end) {
+        if (m_current != m_end && !is_shut()) {
             const int byte = static_cast<unsigned char>(*m_current);
             if (byte >= ' ' && byte < 128) {
                 m_last_char = byte;
@@ -70,9 +70,14 @@ public:
                 return byte;
             }
         }
-        return get_slowly();
+        return refill();
     }
-    void unget(int c);
+    void unget(int c) {
+        // The last character taken from the window can stay there, unless giving it back counts a line anew.
+        if (c < ' ' || c >= 127 || m_current == m_begin || m_current[-1] != c) return give_back(c);
+        if (m_furthest < m_current) m_furthest = m_current;
+        --m_current;
+    }
     void rewind();
     /// Takes the encoding's name from the XML declaration. False, with a fatal report, for an unknown name or one
     /// that contradicts the bytes.
@@ -86,7 +91,7 @@ public:
     /// the reference. It means nothing once the source had to be decoded in stretches.
     std::uint64_t get_offset() const {
         const std::uint64_t unit = m_encoding >= enc_utf16_be ? 2 : 1;
-        return m_bytes_taken - static_cast<std::uint64_t>(m_end - m_current) - unit * m_unget.size();
+        return m_bytes_taken - static_cast<std::uint64_t>(m_window_end - m_current) - unit * m_unget.size();
     }
     bool has_decoded() const { return m_decoded != nullptr; }
     /// One of `encoding`.
@@ -107,6 +112,13 @@ public:
     bool has_source_ended() const { return m_is_source_at_end; }
 
 protected:
+    /// The next character when the window at hand doesn't simply show it. A layer that puts other text in the
+    /// window's place covers the window and overrides this, and what takes back characters of that text.
+    virtual int refill();
+    virtual void give_back(int c);
+    /// Hides the window up to the next character that this layer reads.
+    void cover() { m_begin = m_end = m_current; }
+
     /// The last one that was reported as an error.
     scanner_fault get_fault() const { return m_fault; }
 
@@ -115,43 +127,37 @@ protected:
     // `get`.
 
     /// The bytes ahead in the window; empty when the next character may not be what stands there.
-    std::string_view ahead() const {
-        if (!is_fast() || m_last_char == '\r') return {};
-        return {m_current, static_cast<std::size_t>(m_end - m_current)};
-    }
+    std::string_view ahead() const { return is_shut() || m_last_char == '\r' ? std::string_view() : shown(); }
     /// Takes bytes that lie ahead, at least one: without carriage returns, and with so many line feeds.
     void take_ahead(std::size_t count, int line_feeds) {
         m_current += count;
         m_last_char = static_cast<unsigned char>(m_current[-1]);
         m_line_num += line_feeds;
     }
-    /// As if the next bytes, which lie ahead, had been read and given back.
-    void touch_ahead(std::size_t count) {
-        m_last_char = static_cast<unsigned char>(m_current[count - 1]);
-        if (m_furthest < m_current + count) m_furthest = m_current + count;
-    }
     /// Takes the run of characters ahead, up to one in `stops`; appends it to `out` unless that is null.
     void take_run(const byte_set& stops, std::string* out);
     /// Whether the text, which holds no line end, lies ahead; false also when that can't be seen.
-    bool is_ahead(std::string_view text) const {
-        return is_fast() && static_cast<std::size_t>(m_end - m_current) >= text.size() &&
-               text == std::string_view(m_current, text.size());
+    bool is_ahead(std::string_view text) const { return !is_shut() && shown().starts_with(text); }
+    /// The same, as if the text had been read and given back if it is there.
+    bool touch_if_ahead(std::string_view text) {
+        if (!is_ahead(text)) return false;
+        m_last_char = static_cast<unsigned char>(text.back());
+        if (m_furthest < m_current + text.size()) m_furthest = m_current + text.size();
+        return true;
     }
     /// Takes the text if it lies ahead.
     bool take_if_ahead(std::string_view text) {
         if (!is_ahead(text)) return false;
-        m_current += text.size();
-        m_last_char = static_cast<unsigned char>(m_current[-1]);
+        take_ahead(text.size(), 0);
         return true;
     }
     /// The same with a text in three parts. Where `body` isn't ASCII, its last byte may reach into what is behind it.
     bool take_if_ahead(std::string_view head, std::string_view body, std::string_view tail) {
         const std::size_t size = head.size() + body.size() + tail.size();
-        if (!is_ahead(head) || static_cast<std::size_t>(m_end - m_current) < size) return false;
-        const std::string_view rest(m_current + head.size(), size - head.size());
+        if (!is_ahead(head) || shown().size() < size) return false;
+        const std::string_view rest = shown().substr(head.size(), size - head.size());
         if (!rest.starts_with(body) || !rest.ends_with(tail) || !is_ascii(body)) return false;
-        m_current += size;
-        m_last_char = static_cast<unsigned char>(m_current[-1]);
+        take_ahead(size, 0);
         return true;
     }
 
@@ -162,17 +168,19 @@ protected:
     /// Bytes taken from the source so far, those given back included.
     std::uint64_t get_bytes_read();
 
-private:
-    /// Whether the next character comes from the window, byte by byte as it stands there if it is ASCII.
-    bool is_fast() const { return m_is_plain && m_unget.empty() && m_pending == nullptr && !is_shut(); }
     bool is_shut() const { return m_error.is_fatal_errored(); }
+
+private:
+    std::string_view shown() const { return {m_current, static_cast<std::size_t>(m_end - m_current)}; }
+    std::string_view rest_of_window() const {
+        return {m_current, static_cast<std::size_t>(m_window_end - m_current)};
+    }
     void set_form(int form);
     bool is_decoding_due() const;
     void enter_decoded();
     void leave_decoded();
     void report(scanner_fault fault, elmx_error_type type, elmx_error code, const char* text);
 
-    int get_slowly();
     int read_byte();
     int read_byte_slowly();
     int raw_step();
@@ -193,14 +201,15 @@ private:
     char m_utf8_char[8] = {};
     const char* m_pending = nullptr;
     int m_line_num = 1;
-    int m_recounted = 0;               ///< line feeds that `m_line_num` counts a second time
-    int m_returned_feeds = 0;          ///< those among what was given back
-    const char* m_begin = nullptr;     ///< the window in use
-    const char* m_current = nullptr;   ///< its unread part
-    const char* m_end = nullptr;       ///< its end
-    const char* m_furthest = nullptr;  ///< the furthest place read in the window, when behind `m_current`
-    std::uint64_t m_bytes_taken = 0;   ///< handed out by the source, the window's unread part included
-    bool m_is_plain = false;           ///< one byte per ASCII character
+    int m_recounted = 0;       ///< line feeds that `m_line_num` counts a second time
+    int m_returned_feeds = 0;  ///< those among what was given back
+    // The window, byte by byte as it stands there if it is ASCII; nothing of it while something else comes first.
+    const char* m_begin = nullptr;       ///< what was taken from it, as far as it can be given back
+    const char* m_current = nullptr;     ///< what comes next
+    const char* m_end = nullptr;         ///< the end of what is shown
+    const char* m_window_end = nullptr;  ///< its end
+    const char* m_furthest = nullptr;    ///< the furthest place read in the window, when behind `m_current`
+    std::uint64_t m_bytes_taken = 0;     ///< handed out by the source, the window's unread part included
     // While a decoded window is in use, nothing is given back but what stands in it, and the decoder keeps count of
     // where the source stands.
     std::unique_ptr<c_decoded_window> m_decoded;

@@ -3,6 +3,8 @@
 
 #include "lmx/reader/get_for_xml.h"
 
+#include "lmx/reader/decoded_window.h"
+#include "lmx/reader/plain_text.h"
 #include "lmx/values/characters.h"
 #include "lmx/values/unicode.h"
 
@@ -11,8 +13,6 @@ namespace {
 
 /// Higher code points are refused, the last 65,535 of Unicode among them.
 constexpr unsigned k_highest_char_ref = 0x100000;
-constexpr unsigned k_next_line = 133;
-constexpr unsigned k_line_separator = 8232;
 
 /// The value of a reference's digits; anything over the highest is as good as the highest and one.
 unsigned char_ref_value(const std::string& digits, unsigned base) {
@@ -69,12 +69,10 @@ void c_get_for_xml::pay_blank_ahead_of(std::size_t start, std::string* out) {
 
 void c_get_for_xml::skip_blanks_ahead() {
     const std::string_view text = ahead();
-    std::size_t size = 0;
+    if (text.empty() || k_stops_of_blanks[static_cast<unsigned char>(text[0])]) return;
     int line_feeds = 0;
-    for (; size < text.size() && !k_stops_of_blanks[static_cast<unsigned char>(text[size])]; ++size) {
-        line_feeds += static_cast<int>(text[size] == '\n');
-    }
-    if (size > 0) take_ahead(size, line_feeds);
+    const char* const end = skip_blanks(text.data(), text.data() + text.size(), &line_feeds);
+    take_ahead(static_cast<std::size_t>(end - text.data()), line_feeds);
 }
 
 int c_get_for_xml::get_non_ws_behind(int c) {
@@ -213,7 +211,8 @@ bool c_get_for_xml::insert_character_entity(c_entity_name_reader& reader, std::s
     if (m_char_ref_text.empty()) return false;
     const unsigned value = char_ref_value(m_char_ref_text, is_hexadecimal ? 16 : 10);
     if (value > k_highest_char_ref) return false;
-    if (value == k_next_line || value == k_line_separator) {
+    const int code_point = static_cast<int>(value);
+    if (code_point == k_next_line || code_point == k_line_separator) {
         if (m_ws_mode == ELMX_WS_COLLAPSE && !m_normalise_char_refs) {
             append_verbatim(out, "\n");
         } else {
@@ -221,9 +220,9 @@ bool c_get_for_xml::insert_character_entity(c_entity_name_reader& reader, std::s
         }
     } else if (value > 127) {
         char utf8[5];
-        append_verbatim(out, unicode_char_to_utf8(static_cast<int>(value), utf8));
+        append_verbatim(out, unicode_char_to_utf8(code_point, utf8));
     } else {
-        add_char_wsp(out, static_cast<int>(value), true);
+        add_char_wsp(out, code_point, true);
     }
     return true;
 }

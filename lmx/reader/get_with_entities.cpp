@@ -50,7 +50,7 @@ s_entity_text* c_entity_table::find(std::string_view name) const {
 
 void c_entity_table::clear() { m_names.clear(); }
 
-int c_get_with_entities::get_from_entity() {
+int c_get_with_entities::refill() {
     while (!m_entity_stack.empty()) {
         s_entity_input& top = m_entity_stack.back();
         if (is_shut()) return -1;
@@ -65,11 +65,12 @@ int c_get_with_entities::get_from_entity() {
         }
         close_entity();
     }
-    return c_get_as_utf8::get();
+    return c_get_as_utf8::refill();
 }
 
 void c_get_with_entities::give_back(int value) {
     const std::size_t depth = m_entity_stack.size();
+    if (depth == 0) return c_get_as_utf8::give_back(value);
     // As everywhere, a fourth pushes out the oldest.
     const auto is_own = [depth](const s_given_back& row) { return row.depth == depth; };
     if (m_given_back.size() >= 3 && std::all_of(m_given_back.end() - 3, m_given_back.end(), is_own)) {
@@ -89,6 +90,7 @@ void c_get_with_entities::open_entity(s_entity_text& text) {
     make_room(&m_entity_stack, 1);
     m_entity_stack.push_back({&text, 0});
     text.is_open_as_input = true;
+    cover();
 }
 
 void c_get_with_entities::close_entity() {

@@ -67,16 +67,8 @@ class VYR_EXPORT c_get_with_entities : public c_get_as_utf8 {
 public:
     c_get_with_entities(c_read& reader, c_error& error) : c_get_as_utf8(reader, error) {}
 
-    /// As in the layer below, with entity text on top. Bytes of entity text over 127 come as negative values; 0xFF,
-    /// which would be -1, comes as -257. Neither lines nor line ends count in entity text.
-    int get() { return m_entity_stack.empty() ? c_get_as_utf8::get() : get_from_entity(); }
-    void unget(int c) {
-        if (m_entity_stack.empty()) {
-            c_get_as_utf8::unget(c);
-        } else {
-            give_back(c);
-        }
-    }
+    // `get` and `unget` are those of the layer below, with entity text on top. Bytes of entity text over 127 come as
+    // negative values; 0xFF, which would be -1, comes as -257. Neither lines nor line ends count in entity text.
 
     /// Pushes a text, borrowed and null-terminated. False, with a fatal report, if that very text is open already.
     bool set_input_entity_value(const char* value);
@@ -93,15 +85,8 @@ public:
     bool at_end_of_input() const;
 
 protected:
-    void take_run(const byte_set& stops, std::string* out) {
-        if (m_entity_stack.empty()) c_get_as_utf8::take_run(stops, out);
-    }
-    std::string_view ahead() const { return m_entity_stack.empty() ? c_get_as_utf8::ahead() : std::string_view(); }
-    bool is_ahead(std::string_view text) const { return m_entity_stack.empty() && c_get_as_utf8::is_ahead(text); }
-    bool take_if_ahead(std::string_view text) { return m_entity_stack.empty() && c_get_as_utf8::take_if_ahead(text); }
-    bool take_if_ahead(std::string_view head, std::string_view body, std::string_view tail) {
-        return m_entity_stack.empty() && c_get_as_utf8::take_if_ahead(head, body, tail);
-    }
+    int refill() override;
+    void give_back(int value) override;
     /// The same for a text of a table.
     bool push_entity(s_entity_text& text);
     /// Whether no entity's text is open: what was read last came from the document itself.
@@ -124,11 +109,8 @@ private:
         int value;
     };
 
-    int get_from_entity();
-    void give_back(int value);
     void open_entity(s_entity_text& text);
     void close_entity();
-    bool is_shut() const { return get_error_handler().is_fatal_errored(); }
 
     std::vector<s_entity_input> m_entity_stack;
     std::vector<s_given_back> m_given_back;                  ///< to texts on the stack

@@ -63,22 +63,24 @@ inline const char* skip_blanks(const char* at, const char* end, int* line_feeds)
     return at;
 }
 
-/// The size of what stands ahead of the first byte that may end a name in a tag, or begins another; all if there is
-/// none.
-inline std::size_t tag_name_size(const char* at, const char* end) {
+/// The size of what stands ahead of the first byte that no name of ASCII holds; all if there is none.
+inline std::size_t name_size(const char* at, const char* end) {
     const char* const start = at;
 #if defined(__SSE2__)
     for (; end - at >= 16; at += 16) {
         const __m128i bytes = _mm_loadu_si128(reinterpret_cast<const __m128i*>(at));
-        // Which differ in one bit.
-        const __m128i is_angle = _mm_cmpeq_epi8(_mm_or_si128(bytes, _mm_set1_epi8('<' ^ '>')), _mm_set1_epi8('>'));
-        const __m128i is_close = _mm_or_si128(is_angle, _mm_cmpeq_epi8(bytes, _mm_set1_epi8('/')));
-        const __m128i is_blank = _mm_cmpeq_epi8(_mm_min_epu8(bytes, _mm_set1_epi8(' ')), bytes);
-        const int found = _mm_movemask_epi8(_mm_or_si128(is_close, is_blank));
-        if (found != 0) return static_cast<std::size_t>(at - start + std::countr_zero(static_cast<unsigned>(found)));
+        const __m128i above_a = _mm_sub_epi8(_mm_or_si128(bytes, _mm_set1_epi8(' ')), _mm_set1_epi8('a'));
+        const __m128i is_letter = _mm_cmpeq_epi8(_mm_min_epu8(above_a, _mm_set1_epi8('z' - 'a')), above_a);
+        // From a hyphen to a colon all follow one another, but for the slash.
+        const __m128i above_hyphen = _mm_sub_epi8(bytes, _mm_set1_epi8('-'));
+        const __m128i is_other = _mm_cmpeq_epi8(_mm_min_epu8(above_hyphen, _mm_set1_epi8(':' - '-')), above_hyphen);
+        const __m128i is_mark = _mm_or_si128(_mm_andnot_si128(_mm_cmpeq_epi8(bytes, _mm_set1_epi8('/')), is_other),
+                                             _mm_cmpeq_epi8(bytes, _mm_set1_epi8('_')));
+        const auto stops = ~static_cast<unsigned>(_mm_movemask_epi8(_mm_or_si128(is_letter, is_mark))) & 0xFFFFU;
+        if (stops != 0) return static_cast<std::size_t>(at - start + std::countr_zero(stops));
     }
 #endif
-    while (at != end && *at != '>' && *at != '<' && *at != '/' && static_cast<unsigned char>(*at) > ' ') ++at;
+    while (at != end && !k_stops_of_names[static_cast<unsigned char>(*at)]) ++at;
     return static_cast<std::size_t>(at - start);
 }
 

@@ -5,6 +5,7 @@
 
 #include <string_view>
 
+#include "lmx/reader/plain_text.h"
 #include "lmx/values/characters.h"
 
 namespace lmx {
@@ -62,8 +63,6 @@ elxp_xml_event c_xml::get_element_name(c_xml_local* local, std::string* name) {
             *name += static_cast<char>(c);
             return scan_text(name);
         }
-        if (take_start_tag(name)) return deliver(ELXP_NAME);
-        if (take_end_tag(name)) return deliver(ELXP_END_TAG);
         c = get();
         if (is_name_start(c)) return scan_start_tag(local, c, name);
         switch (c) {
@@ -97,8 +96,7 @@ elxp_xml_event c_xml::get_element_name(c_xml_local* local, std::string* name) {
 
 elxp_xml_event c_xml::scan_start_tag(c_xml_local* local, int c, std::string* name) {
     *name += static_cast<char>(c);
-    take_run(k_stops_of_names, name);
-    for (c = get(); is_name_char(c); c = get()) *name += static_cast<char>(c);
+    c = read_name(name);
     if (c == -1) {
         refuse(scanner_fault::broken_tag);
         return ELXP_ERROR;
@@ -107,10 +105,19 @@ elxp_xml_event c_xml::scan_start_tag(c_xml_local* local, int c, std::string* nam
     return read_attributes(local) ? deliver(ELXP_NAME) : ELXP_ERROR;
 }
 
-bool c_xml::read_end_tag(std::string* name) {
-    take_run(k_stops_of_names, name);
+int c_xml::read_name(std::string* out) {
+    const std::string_view text = ahead();
+    if (const std::size_t size = name_size(text.data(), text.data() + text.size())) {
+        out->append(text, 0, size);
+        take_ahead(size, 0);
+    }
     int c = get();
-    for (; is_name_char(c); c = get()) *name += static_cast<char>(c);
+    for (; is_name_char(c); c = get()) *out += static_cast<char>(c);
+    return c;
+}
+
+bool c_xml::read_end_tag(std::string* name) {
+    int c = read_name(name);
     if (name->empty()) return false;
     while (xisspace(c)) c = get();
     return c == '>' || refuse(scanner_fault::broken_tag);

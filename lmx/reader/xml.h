@@ -121,8 +121,8 @@ public:
     void rewind();
 
 protected:
-    /// As if that start tag, which is plain, had been the last one, and all its attributes had been read.
-    void set_start_tag(std::string_view tag, int line, std::uint64_t offset);
+    /// Takes a start tag, which is plain and lies ahead, from its name up to its end, and all its attributes.
+    void take_plain_tag(std::size_t name_length);
     bool has_attributes() const { return !m_attributes.empty(); }
 
 private:
@@ -135,10 +135,6 @@ private:
     bool refuse(scanner_fault fault, std::initializer_list<std::string_view> parts = {});
     elxp_xml_event deliver(elxp_xml_event event);
 
-    /// Take a tag of the common form that lies ahead as a whole, behind the `<`; otherwise they do nothing.
-    bool take_start_tag(std::string* name);
-    bool take_end_tag(std::string* name);
-
     elxp_xml_event scan_start_tag(c_xml_local* local, int c, std::string* name);
     elxp_xml_event scan_end_tag(std::string* name);
     elxp_xml_event scan_text(std::string* name);
@@ -146,7 +142,8 @@ private:
     bool scan_instruction();
     bool scan_doctype();
 
-    void read_name(int first, std::string* out);
+    /// Appends a name or the rest of one; the character behind it.
+    int read_name(std::string* out);
     bool take_any_end_tag(const std::string& name);
     bool read_end_tag(std::string* name);
     bool read_cdata(std::string* out);
@@ -184,10 +181,9 @@ private:
     std::string m_attr_buffer;  ///< the start tag's names and raw values
     c_attribute_list m_attributes;
     c_attribute_list m_ns_attributes;
-    c_attribute_list m_attributes_ahead;  ///< of a start tag that may yet turn out not to be plain
-    c_attribute_list::s_cursor m_named;   ///< the attribute that was named last; at the start if none was
-    bool m_is_value_due = false;          ///< that of the named one
-    std::size_t m_value_position = 0;     ///< how far that was read
+    c_attribute_list::s_cursor m_named;  ///< the attribute that was named last; at the start if none was
+    bool m_is_value_due = false;         ///< that of the named one
+    std::size_t m_value_position = 0;    ///< how far that was read
     bool m_is_recovering = false;
     std::string m_wrong_end_name;
     std::string m_uri;

@@ -3,20 +3,11 @@
 
 /// The attributes of a start tag.
 
+#include "lmx/reader/cracked_name.h"
 #include "lmx/reader/xml.h"
 
 namespace lmx {
 namespace {
-
-std::string_view prefix_of(std::string_view name) {
-    const std::size_t colon = name.find(':');
-    return colon == std::string_view::npos ? std::string_view() : name.substr(0, colon);
-}
-
-std::string_view local_part_of(std::string_view name) {
-    const std::size_t colon = name.find(':');
-    return colon == std::string_view::npos ? name : name.substr(colon + 1);
-}
 
 /// What an attribute as documents write it takes at most.
 constexpr std::size_t k_usual_attribute = 256;
@@ -24,6 +15,7 @@ constexpr std::size_t k_usual_attribute = 256;
 }  // namespace
 
 void c_xml::clear_attributes() {
+    if (m_attr_buffer.empty()) return;
     m_attr_buffer.clear();
     m_attributes.clear();
     m_ns_attributes.clear();
@@ -33,9 +25,9 @@ void c_xml::clear_attributes() {
 
 bool c_xml::read_attributes(c_xml_local* local) {
     clear_attributes();
-    if (is_ahead(">")) return true;
+    if (touch_if_ahead(">")) return true;
     for (;;) {
-        int c = get_non_ws();
+        const int c = get_non_ws();
         if (!is_name_start(c)) {
             unget(c);
             return c != -1;
@@ -43,9 +35,7 @@ bool c_xml::read_attributes(c_xml_local* local) {
         make_room(&m_attr_buffer, k_usual_attribute);
         s_attribute attribute{m_attr_buffer.size(), 0, 0, 0, 0, get_text_line()};
         m_attr_buffer += static_cast<char>(c);
-        take_run(k_stops_of_names, &m_attr_buffer);
-        for (c = get(); is_name_char(c); c = get()) m_attr_buffer += static_cast<char>(c);
-        unget(c);
+        unget(read_name(&m_attr_buffer));
         attribute.name_length = m_attr_buffer.size() - attribute.name;
         const std::string_view name = std::string_view(m_attr_buffer).substr(attribute.name);
         const bool is_declaration = local != nullptr && (name == "xmlns" || name.starts_with("xmlns:"));
@@ -56,6 +46,15 @@ bool c_xml::read_attributes(c_xml_local* local) {
         } else {
             m_attributes.add(attribute);
         }
+    }
+}
+
+void c_xml::take_plain_tag(std::size_t name_length) {
+    m_event_line = get_text_line();
+    m_event_offset = get_offset();
+    take_ahead(name_length, 0);
+    read_attributes(nullptr);
+    while (m_attributes.next(&m_named)) {
     }
 }
 
@@ -155,7 +154,7 @@ int c_xml::get_ns_id(const c_xml_local* local, const std::string& name) const {
 }
 
 std::string& c_xml::get_local_name(const std::string& qname, std::string* out) {
-    return *out = std::string(local_part_of(qname));
+    return *out = std::string(local_part(qname));
 }
 
 std::string& c_xml::get_namespace_prefix(const std::string& qname, std::string* out) {
@@ -180,7 +179,7 @@ bool c_xml::get_named_attribute(const c_xml_local* local, int ns_id, const std::
     m_named.position = 0;
     while (m_attributes.next(&cursor)) {
         const std::string_view name = name_of(cursor.attribute);
-        if (local_part_of(name) != local_name) continue;
+        if (local_part(name) != local_name) continue;
         const bool has_prefix = name.find(':') != std::string_view::npos;
         const int found_id = has_prefix ? local->find_namespace_id(prefix_of(name)) : k_no_ns;
         if (found_id != ns_id) continue;
@@ -199,7 +198,7 @@ bool c_xml::get_xsi_type(const c_xml_local* local, int* ns_id, std::string* type
     if (!get_named_attribute(local, k_xsi_ns, "type", &value)) return false;
     *ns_id = local->find_namespace_id(prefix_of(value));
     if (*ns_id == k_unbound_ns && value.find(':') == std::string::npos) *ns_id = k_no_ns;
-    *type_name = std::string(local_part_of(value));
+    *type_name = std::string(local_part(value));
     return true;
 }
 

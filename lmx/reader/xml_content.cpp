@@ -14,10 +14,7 @@ bool c_xml::get_element_value(std::string* value, elmx_whitespace mode, bool exp
     set_ws_mode(mode);
     for (;;) {
         take_plain_text(value);
-        if (is_ahead("</")) {
-            touch_ahead(2);
-            return true;
-        }
+        if (touch_if_ahead("</")) return true;
         int c = get();
         if (c == -1) return refuse(scanner_fault::end_in_value);
         if (c == '&' && expand_entities) {
@@ -123,9 +120,7 @@ c_xml::e_piece c_xml::next_piece(std::string* out, std::string* name) {
     name->clear();
     if (is_name_start(c)) {
         *name += static_cast<char>(c);
-        take_run(k_stops_of_names, name);
-        for (c = get(); is_name_char(c); c = get()) *name += static_cast<char>(c);
-        unget(c);
+        unget(read_name(name));
         return e_piece::start_tag;
     }
     switch (c) {

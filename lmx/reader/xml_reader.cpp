@@ -6,6 +6,7 @@
 #include <algorithm>
 #include <cstring>
 
+#include "lmx/reader/plain_text.h"
 #include "lmx/values/characters.h"
 
 namespace lmx {
@@ -118,8 +119,15 @@ elmx_error c_xml_reader::event_error() const {
 
 void c_xml_reader::take_plain(std::size_t count, int line_feeds, const s_plain_trace& trace) {
     const char* const start = ahead().data();
-    const std::uint64_t offset = get_offset();
-    take_ahead(count, line_feeds);
+    const int line = get_line_num() + line_feeds;
+    const std::size_t name_length = name_size(trace.tag.data(), trace.tag.data() + trace.tag.size());
+    std::size_t tag_end = 0;
+    if (trace.tag.data() != nullptr) {
+        take_ahead(static_cast<std::size_t>(trace.tag.data() - start), trace.tag_line - get_text_line());
+        take_plain_tag(name_length);
+        tag_end = static_cast<std::size_t>(ahead().data() - start);
+    }
+    take_ahead(count - tag_end, line - get_line_num());
     if (trace.attribute_name.data() != nullptr) m_attr_name = trace.attribute_name;
     if (trace.has_value) {
         m_value = trace.value;
@@ -127,9 +135,7 @@ void c_xml_reader::take_plain(std::size_t count, int line_feeds, const s_plain_t
         set_ws_mode(trace.whitespace);
     }
     if (trace.tag.data() == nullptr) return;
-    set_start_tag(trace.tag, trace.tag_line, offset + static_cast<std::uint64_t>(trace.tag.data() - start));
     // An end tag or text behind has no name of its own.
-    const std::size_t name_length = run_length(trace.tag, 0, k_stops_of_names);
     m_cracked_name.set(m_local, has_attributes() ? m_attr_name : m_name.assign(trace.tag, 0, name_length));
 }
 
