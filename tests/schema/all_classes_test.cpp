@@ -90,7 +90,7 @@ std::vector<s_bad_value> bad_values(const s_item& item) {
         default:
             break;
     }
-    values.push_back({"1,5", ELMX_VALUE_BAD_FORMAT});
+    values.push_back({is_integer(item.value) ? "1.5" : "1,5", ELMX_VALUE_BAD_FORMAT});
     const double step = is_integer(item.value) ? 1 : 0.001;
     if (!std::isinf(facets.minimum)) {
         values.push_back({number_text(facets.minimum - (facets.minimum_exclusive ? 0 : step)), ELMX_VALUE_BELOW_MIN});

@@ -15,26 +15,6 @@ namespace {
 
 using namespace lmx;
 
-elmx_error write_code(const auto& object, const char* name) {
-    elmx_error code = ELMX_OK;
-    write(object, name, &code);
-    return code;
-}
-
-TEST(Objects, TouchingIsSetting) {
-    v2::Preamble preamble;
-    EXPECT_FALSE(static_cast<const v2::Preamble&>(preamble).isset_Owner());
-    static_cast<const v2::Preamble&>(preamble).get_Owner();
-    EXPECT_FALSE(preamble.isset_Owner());
-    preamble.get_Owner();
-    EXPECT_TRUE(preamble.isset_Owner());
-    EXPECT_FALSE(preamble.is_occurs_ok());
-    preamble.get_Header();
-    EXPECT_TRUE(preamble.is_occurs_ok());
-    preamble.unset_Owner();
-    EXPECT_FALSE(preamble.isset_Owner());
-}
-
 TEST(Objects, ListsGrowOnAccessAndClampTheirIndexes) {
     v2::Vyr document;
     document.get_Color(3).set_ColorName(u"fourth");
@@ -67,13 +47,10 @@ TEST(Objects, SettersRunTheFacetsAndChangeNothingOnFailure) {
     v2::ColorSpaceCIELChType color;
     EXPECT_EQ(color.set_H(359.999), ELMX_OK);
     EXPECT_EQ(color.set_H(360), ELMX_VALUE_EXCEEDS_MAX);
-    EXPECT_EQ(color.set_H(-0.001), ELMX_VALUE_BELOW_MIN);
     EXPECT_EQ(color.set_H(std::numeric_limits<double>::infinity()), ELMX_VALUE_EXCEEDS_MAX);
     EXPECT_EQ(color.get_H(), 359.999);
     EXPECT_EQ(color.set_L(120), ELMX_VALUE_EXCEEDS_MAX);
     EXPECT_EQ(v2::ColorSpaceCIELabType().set_L(120), ELMX_OK);
-    EXPECT_EQ(v2::ColorSpaceYIQType().set_I(0.5957), ELMX_OK);
-    EXPECT_EQ(v2::ColorSpaceYIQType().set_I(0.59571), ELMX_VALUE_EXCEEDS_MAX);
     EXPECT_EQ(v2::Colorant().set_Density(0), ELMX_VALUE_BELOW_MIN);
 
     v2::SpotColorType spot;
@@ -84,7 +61,6 @@ TEST(Objects, SettersRunTheFacetsAndChangeNothingOnFailure) {
 
     v2::Averaging averaging;
     EXPECT_EQ(averaging.set_AveragingValue(1), ELMX_VALUE_BELOW_MIN);
-    EXPECT_EQ(averaging.set_AveragingValue(100), ELMX_VALUE_EXCEEDS_MAX);
     EXPECT_EQ(averaging.set_AveragingValue(99), ELMX_OK);
 }
 
@@ -115,10 +91,6 @@ TEST(Objects, EnumeratedItemsAreTextsWithNumbers) {
     v2::FunctionTolerance tolerance;
     EXPECT_EQ(tolerance.set_ToleranceType(u"L*a*b*PlusMinus"), ELMX_OK);
     EXPECT_EQ(tolerance.getenum_ToleranceType(), 14);
-    v2::SampleTargetType target;
-    EXPECT_FALSE(target.setenum_Target(7));
-    EXPECT_TRUE(target.setenum_Target(1));
-    EXPECT_EQ(target.get_Target(), u"Target_IT8.7/1");
 }
 
 // Made before `main`, with the texts of its enumeration; ended behind it.

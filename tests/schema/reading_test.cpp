@@ -29,19 +29,6 @@ std::string element(const std::string& name, const std::string& content, const s
     return "<Vyr:" + name + attributes + ">" + content + "</Vyr:" + name + ">";
 }
 
-TEST(Reading, AnEmptyElementIsRefusedOrAcceptedByItsContentModel) {
-    v2::Tag tag;
-    EXPECT_EQ(read(tag, "<Vyr:Tag/>"), failure(ELMX_UNEXPECTED_EMPTY_ELEMENT, "Vyr:Tag"));
-    EXPECT_EQ(read(tag, "<Vyr:Tag></Vyr:Tag>"), failure(ELMX_UNEXPECTED_EMPTY_ELEMENT, "Vyr:Tag"));
-    v2::CustomAttributes attributes;
-    EXPECT_EQ(read(attributes, "<Vyr:CustomAttributes/>"), s_outcome{});
-    EXPECT_EQ(read(attributes, element("CustomAttributes", "<Vyr:Tag/>")),
-              failure(ELMX_MANDATORY_ELEMENT_MISSING, "Vyr:CustomAttribute"));
-    v2::TagCategory category;
-    EXPECT_EQ(read(category, "<Vyr:Category></Vyr:Category>"), s_outcome{});
-    EXPECT_EQ(read(category, "<Vyr:Category>x</Vyr:Category>"), failure(ELMX_BAD_END_OF_ELEMENT, "Vyr:Category"));
-}
-
 TEST(Reading, HandlersGetThePlaceOfTheCheck) {
     class c_placed_reader : public c_xml_reader_memory {
     public:
@@ -119,129 +106,55 @@ TEST(Reading, AZoneOfZeroMinutesComesBackAsUtc) {
     }
 }
 
-TEST(Reading, MisplacedChildrenAreMissingOrBreakTheEnd) {
-    v2::Person person;
-    EXPECT_EQ(read(person, element("Person", "<Vyr:ContactInfo>c</Vyr:ContactInfo><Vyr:Name>n</Vyr:Name>")),
-              failure(ELMX_MANDATORY_ELEMENT_MISSING, "Vyr:Name"));
-    EXPECT_EQ(read(person, element("Person", "<Vyr:Name>n</Vyr:Name><Vyr:Name>n</Vyr:Name>")),
-              failure(ELMX_BAD_END_OF_ELEMENT, "Vyr:Person"));
-    EXPECT_EQ(read(person, element("Person", "<Vyr:Name>n</Vyr:Name>stray")),
-              failure(ELMX_BAD_END_OF_ELEMENT, "Vyr:Person"));
+TEST(Reading, AttributesKeepTheirBlanksAndTheFirstOfTwo) {
     v2::Tag tag;
-    EXPECT_EQ(read(tag, element("Tag", "<Vyr:Other/>")), failure(ELMX_BAD_END_OF_ELEMENT, "Vyr:Tag"));
-    v2::LimitsType limits;
-    EXPECT_EQ(read(limits, element("Limits", "<Vyr:HighTolerance>1<Vyr:b/></Vyr:HighTolerance>")),
-              failure(ELMX_BAD_END_OF_ELEMENT, "Vyr:HighTolerance"));
-}
-
-TEST(Reading, Attributes) {
-    v2::Tag tag;
-    EXPECT_EQ(read(tag, "<Vyr:Tag Name=\"a\" Name=\"b\"><Vyr:Category/></Vyr:Tag>"),
+    EXPECT_EQ(read(tag, "<Vyr:Tag xsi:schemaLocation=\"a b\" Name=\" a \" Name=\"b\"><Vyr:Category/></Vyr:Tag>"),
               failure(ELMX_ATTRIBUTE_ALREADY_READ, "Name"));
-    EXPECT_EQ(tag.get_Name(), u"a");
-    EXPECT_EQ(read(tag, "<Vyr:Tag Other=\"a\"><Vyr:Category/></Vyr:Tag>"),
-              failure(ELMX_UNEXPECTED_ATTRIBUTE, "Vyr:Tag"));
-    EXPECT_EQ(read(tag, "<Vyr:Tag Vyr:UniqueID=\"a\"><Vyr:Category/></Vyr:Tag>"),
-              failure(ELMX_UNEXPECTED_ATTRIBUTE, "Vyr:Tag"));
-    v2::Tag located;
-    EXPECT_EQ(read(located, "<Vyr:Tag xsi:schemaLocation=\"a b\" UniqueID=\" u \"><Vyr:Category/></Vyr:Tag>"),
-              s_outcome{});
-    EXPECT_EQ(located.get_UniqueID(), u" u ");
-    v2::PaletteType palette;
-    EXPECT_EQ(read(palette, element("Palette", k_date)), failure(ELMX_REQUIRED_ATTRIBUTES_MISSING, "PaletteType"));
-    v2::ColorSpaceGeneric generic;
-    EXPECT_EQ(read(generic, element("ColorSpaceGeneric", k_date)),
-              failure(ELMX_REQUIRED_ATTRIBUTES_MISSING, "ColorSpaceGenericType"));
-    v2::ReflectancePointType point;
-    EXPECT_EQ(read(point, "<Vyr:ReflectancePoint Wavelength=\"&bad;\">1</Vyr:ReflectancePoint>"),
-              failure(ELMX_UNABLE_TO_READ_ATTRIBUTE_VALUE, "Wavelength"));
+    EXPECT_EQ(tag.get_Name(), u" a ");
 }
 
-TEST(Reading, FacetsReportInTheirOrder) {
-    const struct {
-        std::string wavelength, value;
-        s_outcome outcome;
-    } points[] = {
-        {"400", " 0.5 ", {}},
-        {"0", "0.5", failure(ELMX_VALUE_BELOW_MIN, "Wavelength")},
-        {"x", "0.5", failure(ELMX_VALUE_BAD_FORMAT, "Wavelength")},
-        {"400", "10", failure(ELMX_VALUE_EXCEEDS_MAX, "Vyr:ReflectancePoint")},
-        {"400", "-1", failure(ELMX_VALUE_BELOW_MIN, "Vyr:ReflectancePoint")},
-        {"400", "", failure(ELMX_VALUE_BAD_FORMAT, "Vyr:ReflectancePoint")},
-        {"400", "&bad;", failure(ELMX_UNABLE_TO_READ_ELEMENT_VALUE, "Vyr:ReflectancePoint")},
-        {"400", "9.999", {}},
-    };
-    for (const auto& row : points) {
-        v2::ReflectancePointType point;
-        EXPECT_EQ(read(point, element("ReflectancePoint", row.value, " Wavelength=\"" + row.wavelength + "\"")),
-                  row.outcome)
-            << row.wavelength << " " << row.value;
-    }
-    const struct {
-        std::string text;
-        s_outcome outcome;
-    } apertures[] = {
-        {"1", {}},
-        {"+2147483647", {}},
-        {"0", failure(ELMX_VALUE_BELOW_MIN, "Vyr:Aperture")},
-        {"-0", failure(ELMX_VALUE_BELOW_MIN, "Vyr:Aperture")},
-        {"99999999999999999999", failure(ELMX_VALUE_EXCEEDS_MAX, "Vyr:Aperture")},
-        {"1.5", failure(ELMX_VALUE_BAD_FORMAT, "Vyr:Aperture")},
-    };
-    for (const auto& row : apertures) {
-        v2::DeviceSettings settings;
-        EXPECT_EQ(read(settings, element("DeviceSettings", element("Aperture", row.text))), row.outcome) << row.text;
-    }
-    const struct {
-        std::string text;
-        elmx_error code;
-    } dates[] = {{"2009-03-01T12:00:00", ELMX_NO_PATTERN_MATCHED},
-                 {"2009-03-01", ELMX_VALUE_BAD_FORMAT},
-                 {" 2009-03-01T12:00:00+01:00\n", ELMX_MANDATORY_ELEMENT_MISSING}};
-    for (const auto& row : dates) {
-        v2::ColorType color;
-        const s_outcome outcome =
-            read(color, element("Color", element("ChangeHistory", row.text), " ColorName=\"c\""));
-        EXPECT_EQ(outcome.code, row.code) << row.text;
-        EXPECT_EQ(color.size_ChangeHistory(), row.code == ELMX_MANDATORY_ELEMENT_MISSING ? 1U : 0U);
-    }
-    v2::SampleTargetType target;
-    target.setenum_Target(6);
-    v2::ProfileType_Parameters parameters;
-    EXPECT_EQ(read(parameters, element("Parameters", "<Vyr:Name/>")), failure(ELMX_LENGTH_TOO_SHORT, "Vyr:Name"));
-    EXPECT_EQ(read(parameters, element("Parameters", "<Vyr:Name>ab</Vyr:Name>")),
-              failure(ELMX_LENGTH_TOO_LONG, "Vyr:Name"));
+TEST(Reading, ValuesAreTakenWithSignsAndBlanksButNotThoseOfEnumerations) {
+    v2::ReflectancePointType point;
+    EXPECT_EQ(read(point, element("ReflectancePoint", " 9.999 ", " Wavelength=\"400\"")), s_outcome{});
+    v2::ReflectancePointType broken;
+    EXPECT_EQ(read(broken, element("ReflectancePoint", "&bad;", " Wavelength=\"400\"")),
+              failure(ELMX_UNABLE_TO_READ_ELEMENT_VALUE, "Vyr:ReflectancePoint"));
+    v2::DeviceSettings settings;
+    EXPECT_EQ(read(settings, element("DeviceSettings", element("Aperture", "+2147483647"))), s_outcome{});
+    EXPECT_EQ(read(settings, element("DeviceSettings", element("Aperture", "-0"))),
+              failure(ELMX_VALUE_BELOW_MIN, "Vyr:Aperture"));
     v2::SpectrumType spectrum;
     EXPECT_EQ(read(spectrum, "<Vyr:Spectrum> Spectrum_Custom</Vyr:Spectrum>"),
               failure(ELMX_VALUE_NOT_ENUMERATED, "Vyr:Spectrum"));
+    // A list gets what is good, and no more.
+    const std::pair<const char*, elmx_error> dates[] = {
+        {" 2009-03-01T12:00:00+01:00\n", ELMX_MANDATORY_ELEMENT_MISSING}, {"2009-03-01", ELMX_VALUE_BAD_FORMAT}};
+    for (const auto& [date, code] : dates) {
+        v2::ColorType color;
+        EXPECT_EQ(read(color, element("Color", element("ChangeHistory", date), " ColorName=\"c\"")).code, code);
+        EXPECT_EQ(color.size_ChangeHistory(), code == ELMX_VALUE_BAD_FORMAT ? 0U : 1U) << date;
+    }
 }
 
 TEST(Reading, AForeignElementInAGroupsPlaceIsSkippedAndCantBeWritten) {
-    elmx_error code = ELMX_OK;
+    const auto expect_taken = [](auto& object, const std::string& name, const std::string& content) {
+        EXPECT_EQ(read(object, element(name, content)), s_outcome{});
+        EXPECT_TRUE(object.is_occurs_ok());
+        EXPECT_EQ(write_code(object, ("Vyr:" + name).c_str()), ELMX_OCCURS_ERROR_ON_MARSHAL);
+    };
     v2::ToleranceType tolerance;
-    EXPECT_EQ(
-        read(tolerance, element("Tolerance", "<Vyr:Foreign><a>1</a></Vyr:Foreign><Vyr:UniqueID>7</Vyr:UniqueID>")),
-        s_outcome{});
-    EXPECT_TRUE(tolerance.is_occurs_ok());
+    expect_taken(tolerance, "Tolerance", "<Vyr:Foreign><a>1</a></Vyr:Foreign><Vyr:UniqueID>7</Vyr:UniqueID>");
     EXPECT_EQ(tolerance.get_UniqueID(), u"7");
     EXPECT_EQ(static_cast<const v2::ToleranceType&>(tolerance).get_Function().getchosen(), 19);
-    write(tolerance, "Vyr:Tolerance", &code);
-    EXPECT_EQ(code, ELMX_OCCURS_ERROR_ON_MARSHAL);
-
     v2::SampleSpotType sample;
-    EXPECT_EQ(read(sample, element("SampleSpot",
-                                   "<Vyr:Foreign/><Vyr:Specification><Vyr:SampleWidth>1</Vyr:SampleWidth>"
-                                   "<Vyr:SampleHeight>2</Vyr:SampleHeight></Vyr:Specification>")),
-              s_outcome{});
-    EXPECT_TRUE(sample.is_occurs_ok());
-    write(sample, "Vyr:SampleSpot", &code);
-    EXPECT_EQ(code, ELMX_OCCURS_ERROR_ON_MARSHAL);
-
+    expect_taken(sample, "SampleSpot",
+                 "<Vyr:Foreign/><Vyr:Specification><Vyr:SampleWidth>1</Vyr:SampleWidth>"
+                 "<Vyr:SampleHeight>2</Vyr:SampleHeight></Vyr:Specification>");
+    v2::ParentColorSpace parent;
+    expect_taken(parent, "ParentColorSpace", "<Vyr:Foreign/>");
+    EXPECT_EQ(parent.getchosen(), 29);
     v2::PhysicalSampleType physical;
-    EXPECT_EQ(read(physical, element("PhysicalSample", "<Vyr:Foreign/>")), s_outcome{});
-    write(physical, "Vyr:PhysicalSample", &code);
-    EXPECT_EQ(code, ELMX_OCCURS_ERROR_ON_MARSHAL);
-
+    expect_taken(physical, "PhysicalSample", "<Vyr:Foreign/>");
     EXPECT_EQ(read(physical, element("PhysicalSample", "<xsi:type>1</xsi:type>")), s_outcome{});
 
     // Neither text nor the owner's end is an element.
@@ -251,25 +164,6 @@ TEST(Reading, AForeignElementInAGroupsPlaceIsSkippedAndCantBeWritten) {
         const std::string text = "<Vyr:PhysicalSample>" + body + "</Vyr:PhysicalSample>" + more;
         EXPECT_EQ(read(physical, text).code, ELMX_BAD_END_OF_ELEMENT) << text;
     }
-
-    v2::ParentColorSpace parent;
-    EXPECT_EQ(read(parent, element("ParentColorSpace", "<Vyr:Foreign/>")), s_outcome{});
-    EXPECT_EQ(parent.getchosen(), 29);
-    write(parent, "Vyr:ParentColorSpace", &code);
-    EXPECT_EQ(code, ELMX_OCCURS_ERROR_ON_MARSHAL);
-}
-
-TEST(Reading, AColorNeedsAValueInSomeColorSpace) {
-    v2::ColorType color;
-    EXPECT_EQ(read(color, element("Color", k_date, " ColorName=\"c\"")),
-              failure(ELMX_MANDATORY_ELEMENT_MISSING, "Vyr:ColorType"));
-    v2::ColorType pair;
-    ASSERT_EQ(read(pair, element("Color", k_date + k_lab + k_lab, " ColorName=\"c\"")), s_outcome{});
-    EXPECT_EQ(pair.size_ColorSpace(), 2U);
-    v2::ColorType late;
-    EXPECT_EQ(read(late, element("Color", k_date + k_lab + "<Vyr:SubstratePaper/>" + k_lab, " ColorName=\"c\"")),
-              failure(ELMX_BAD_END_OF_ELEMENT, "Vyr:Color"));
-    EXPECT_TRUE(late.isset_Substrate());
 }
 
 TEST(Reading, XsiTypeSpecialisesTwoGroupMembers) {
@@ -316,20 +210,11 @@ TEST(Reading, NilElements) {
     EXPECT_EQ(write(version, "Vyr:SDKVersion"), "<Vyr:SDKVersion xsi:nil=\"true\"/>");
     version.set_SDKVersion(u"2");
     EXPECT_EQ(write(version, "Vyr:SDKVersion"), "<Vyr:SDKVersion>2</Vyr:SDKVersion>");
-    EXPECT_EQ(read(version, "<Vyr:SDKVersion xsi:nil=\"true\">1</Vyr:SDKVersion>"),
-              failure(ELMX_BAD_END_OF_ELEMENT, "Vyr:SDKVersion"));
 
     v2::ColorSpaceSpecificationSpectrumSpectral specification;
     const std::string nil = "<Vyr:ColorSpaceSpecificationSpectrumSpectral UniqueID=\"u\" xsi:nil=\"true\"/>";
     ASSERT_EQ(read(specification, nil), s_outcome{});
     EXPECT_EQ(write(specification, "Vyr:ColorSpaceSpecificationSpectrumSpectral"), nil);
-    v2::Standard standard;
-    EXPECT_EQ(read(standard, "<Vyr:Standard xsi:nil=\"true\"><Vyr:Device/></Vyr:Standard>"),
-              failure(ELMX_BAD_END_OF_ELEMENT, "Vyr:Standard"));
-    EXPECT_EQ(read(standard, "<Vyr:Standard xsi:nil=\"true\"></Vyr:Standard>"), s_outcome{});
-    EXPECT_TRUE(standard.is_occurs_ok());
-    EXPECT_EQ(read(standard, "<Vyr:Standard xsi:nil=\"true\">text</Vyr:Standard>"),
-              failure(ELMX_BAD_END_OF_ELEMENT, "Vyr:Standard"));
     v2::DeviceFilter filter;
     filter.setnil_DeviceFilter();
     EXPECT_TRUE(filter.is_occurs_ok());

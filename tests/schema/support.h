@@ -83,6 +83,13 @@ std::string write(const T& object, const char* name, lmx::elmx_error* code) {
 }
 
 template <class T>
+lmx::elmx_error write_code(const T& object, const char* name) {
+    lmx::elmx_error code = lmx::ELMX_OK;
+    write(object, name, &code);
+    return code;
+}
+
+template <class T>
 std::string write(const T& object, const char* name) {
     lmx::elmx_error code = lmx::ELMX_OK;
     const std::string text = write(object, name, &code);
