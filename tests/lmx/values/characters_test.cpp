@@ -40,17 +40,6 @@ TEST(Cursor, DecimalsCountTheirPointButNotAlone) {
     }
 }
 
-TEST(Cursor, NumbersWrapAndStayWithoutDigits) {
-    std::uint32_t value = 7;
-    const char* cursor = "-1";
-    EXPECT_EQ(lmx::parse_uint(&cursor, &value), 0U);
-    EXPECT_EQ(value, 7U);
-    cursor = "4294967297,";
-    EXPECT_EQ(lmx::parse_uint(&cursor, &value), 10U);
-    EXPECT_EQ(value, 1U);
-    EXPECT_STREQ(cursor, ",");
-}
-
 TEST(Cursor, SecondsAddUpInSinglePrecision) {
     float seconds = -1.0F;
     const char* cursor = "x";

@@ -141,14 +141,6 @@ TEST(AsXml, FourCharactersAreEscapedAndNoOthers) {
     EXPECT_EQ(stream.str(), "R&amp;DR&D");
 }
 
-TEST(AsXml, HighSurrogateWithoutPartnerDropsTheRest) {
-    EXPECT_EQ(as_xml(std::u16string(u"\u00E4\u20AC\U0001F600")), "\xC3\xA4\xE2\x82\xAC\xF0\x9F\x98\x80");
-    EXPECT_EQ(as_xml(std::u16string{'a', 0xD83D}), "a");
-    EXPECT_EQ(as_xml(std::u16string{'a', 0xD83D, 'b', 'c'}), "a");
-    EXPECT_EQ(as_xml(std::u16string{'a', 0xD83D, 0xD83D, 0xDE00}), "a");
-    EXPECT_EQ(as_xml(std::u16string{'a', 0xDE00, 'z'}), "a\xED\xB8\x80z");
-}
-
 TEST(AsXml, RandomTextIsWrittenAlikeFromBothEncodings) {
     std::mt19937 engine(5);
     const auto random = [&] { return static_cast<unsigned>(engine()); };
