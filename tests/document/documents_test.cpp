@@ -6,11 +6,11 @@
 
 #include <gtest/gtest.h>
 
-#include <filesystem>
 #include <fstream>
 #include <sstream>
 
 #include "schema/Vyr.h"
+#include "tests/files.h"
 
 namespace vyr_test {
 namespace {
@@ -21,21 +21,8 @@ namespace fs = std::filesystem;
 
 const fs::path k_documents = VYR_TEST_DOCUMENTS;
 
-std::string bytes_of(const fs::path& path) {
-    std::ifstream stream(path, std::ios::binary);
-    std::ostringstream bytes;
-    bytes << stream.rdbuf();
-    return std::move(bytes).str();
-}
-
-std::vector<fs::path> files_in(const char* folder) {
-    std::vector<fs::path> files = {fs::directory_iterator(k_documents / folder), fs::directory_iterator()};
-    std::erase_if(files, [](const fs::path& file) { return file.extension() != ".vyr"; });
-    return files;
-}
-
 TEST(Documents, ValidOnesComeBackByEveryRoad) {
-    const std::vector<fs::path> files = files_in("valid");
+    const std::vector<fs::path> files = documents_in({"valid"});
     ASSERT_GE(files.size(), 33U);
     for (const fs::path& file : files) {
         SCOPED_TRACE(file);
@@ -85,7 +72,7 @@ TEST(Documents, InvalidOnesFailInTheirPlace) {
         EXPECT_EQ(document.loadFile((k_documents / "valid/all-01.vyr").u16string()), ELMX_OK);
         ++rows;
     }
-    EXPECT_EQ(rows, files_in("invalid").size());
+    EXPECT_EQ(rows, documents_in({"invalid"}).size());
     EXPECT_GE(rows, 70U);
 }
 

@@ -3,14 +3,11 @@
 
 /// The document calls: stamps, endings, what survives a failure, and documents on disk.
 
-#include <gtest/gtest.h>
-
 #include <cerrno>
-#include <filesystem>
 #include <fstream>
-#include <iterator>
 
 #include "schema/Vyr.h"
+#include "tests/files.h"
 #include "zip/container.h"
 
 namespace vyr_test {
@@ -31,19 +28,10 @@ Vyr minimal_document() {
     return document;
 }
 
-class Facade : public testing::Test {
+class Facade : public ScratchFolder {
 protected:
-    void SetUp() override {
-        fs::remove_all(m_folder);
-        fs::create_directories(m_folder);
-    }
-    std::u16string path(const char* name) const { return (m_folder / name).u16string(); }
+    std::u16string path(const char* name) const { return ScratchFolder::path(name).u16string(); }
     bool is_there(const char* name) const { return fs::exists(m_folder / name); }
-    std::string bytes_of(const char* name) const {
-        std::ifstream file(m_folder / name, std::ios::binary);
-        return {std::istreambuf_iterator<char>(file), {}};
-    }
-    const fs::path m_folder = fs::path("facade") / testing::UnitTest::GetInstance()->current_test_info()->name();
 };
 
 TEST_F(Facade, AFreshDocumentIsStampedAndIncomplete) {
@@ -98,7 +86,7 @@ TEST_F(Facade, EndingsAreComparedExactly) {
 TEST_F(Facade, AContainerHoldsThePlainDocumentAndLeavesNoOther) {
     const Vyr document = minimal_document();
     ASSERT_EQ(document.writeFile(path("a.vyr")), ELMX_OK);
-    const std::string plain = bytes_of("a.vyr");
+    const std::string plain = bytes_of(path("a.vyr"));
     ASSERT_EQ(document.writeFile(path("a.vyrz")), ELMX_OK);
     EXPECT_FALSE(is_there("a.vyr"));
     CZipContainer archive;
@@ -140,7 +128,7 @@ TEST_F(Facade, AnArchiveIsOpenedBeforeFailuresBecomeACode) {
     EXPECT_THROW(document.writeFile(path("missing/a.vyrz")), CZipException);
     fs::create_directory(m_folder / "taken.vyr");
     EXPECT_EQ(document.writeFile(path("taken.vyrz")), ELMX_USER_DEFINED_1);
-    EXPECT_EQ(bytes_of("taken.vyrz"), "");
+    EXPECT_EQ(bytes_of(path("taken.vyrz")), "");
     EXPECT_TRUE(is_there("taken.vyr"));
     // Two names of one file: making the archive has emptied what was prepared.
     fs::create_symlink("same.vyr", m_folder / "same.vyrz");
@@ -148,11 +136,11 @@ TEST_F(Facade, AnArchiveIsOpenedBeforeFailuresBecomeACode) {
     // Each byte of an archive matters: a changed one gives the code, the exception or, where only names, times and
     // attributes stand, the document.
     ASSERT_EQ(document.writeFile(path("a.vyrz")), ELMX_OK);
-    const std::string good = bytes_of("a.vyrz");
+    const std::string good = bytes_of(path("a.vyrz"));
     for (std::size_t i = 0; i < good.size(); ++i) {
         std::string bytes = good;
         bytes[i] = static_cast<char>(~bytes[i]);
-        std::ofstream(m_folder / "b.vyrz", std::ios::binary) << bytes;
+        write_file(path("b.vyrz"), bytes);
         Vyr back;
         try {
             const elmx_error code = back.loadFile(path("b.vyrz"));
@@ -176,7 +164,7 @@ TEST_F(Facade, NarrowPathsLeadToTheSameFiles) {
         EXPECT_EQ(narrow_one.writeString().getXmlDocument(), wide_one.writeString().getXmlDocument());
         EXPECT_TRUE(com_vyrgraph_v2::writeFileWithReport(narrow_one, narrow).isOk());
     }
-    EXPECT_EQ(minimal_document().writeFile("facade/\xFF.vyr"), ELMX_NO_FILE);
+    EXPECT_EQ(minimal_document().writeFile("scratch/\xFF.vyr"), ELMX_NO_FILE);
     EXPECT_EQ(com_vyrgraph_v2::writeFileWithReport(minimal_document(), "\xFF.vyr").toString(),
               "\\xff.vyr: Unable to open file: the name must be UTF-8\n");
 }

@@ -8,12 +8,12 @@
 #include <filesystem>
 #include <fstream>
 #include <functional>
-#include <iterator>
 #include <map>
 #include <sstream>
 
 #include "schema/Vyr.h"
 #include "tests/document/report_support.h"
+#include "tests/files.h"
 
 namespace vyr_test {
 namespace {
@@ -72,14 +72,9 @@ TEST(Report, OfOneChangeToAGoodDocument) {
          "line 12: " + k_ink +
              " / @UniqueId: Unexpected attribute (7): Color takes ColorName, UniqueID, ColorNumber and Comments (is "
              "UniqueID meant?)"},
-        {"\"Ink 1\"", "\"Ink 1\" ColorName='b'",
-         "line 10: " + k_ink + " / @ColorName: Attribute has already been read (b): the attribute is given twice"},
         {"Ink 1", "A &amp; \\ &quot;B&quot;\" x=\"",
          "line 10: Palette \"Inks\" / ColorSet \"All\" / Color \"A & \\\\ \\\"B\\\"\" / @x: Unexpected attribute: "
          "Color takes ColorName, UniqueID, ColorNumber and Comments"},
-        {"ColorName=\"Ink 1\"", "",
-         "line 10: Palette \"Inks\" / ColorSet \"All\" / Color[1]: Required attribute(s) missing: the attribute "
-         "ColorName is missing"},
         {"ColorName=", "\n Vyr:ColorName=",
          "line 11: Palette \"Inks\" / ColorSet \"All\" / Color[1] / @Vyr:ColorName: Unexpected attribute (Ink 1): "
          "Color "
@@ -113,8 +108,6 @@ TEST(Report, OfOneChangeToAGoodDocument) {
              ": Mandatory element missing (&x;): &x; is no known reference; an & in text is written &amp;"},
         {"<Vyr:L>50", "<!-- <Vyr:L>50",
          "line 14: " + k_lab + ": Mandatory element missing: the document ends before what begins here does"},
-        {"<Vyr:A>1</Vyr:A>", "",
-         "line 16: " + k_lab + ": Mandatory element missing: the element A is missing; <Vyr:B> stands here"},
         {"Vyr:L>50</Vyr:L", "Vyr:l>50</Vyr:l",
          "line 14: " + k_lab +
              ": Mandatory element missing: the element L is missing; <Vyr:l> stands here (is L meant?)"},
@@ -123,27 +116,10 @@ TEST(Report, OfOneChangeToAGoodDocument) {
              ": Mandatory element missing: the element B is missing; <Vyr:AB> stands here (is B meant?)"},
         {"Vyr:B>2</Vyr:B", "Vyr:A>2</Vyr:A",
          "line 16: " + k_lab + ": Mandatory element missing: the element B is missing; <Vyr:A> stands here again"},
-        {"<Vyr:L>", "<L>",
-         "line 14: " + k_lab +
-             ": Mandatory element missing: the element L is missing; <L> stands here, which is in no namespace; the "
-             "namespace http://vyrgraph.com/v2 is expected"},
         {"<Vyr:L>50</Vyr:L>", "<q:L>50</q:L>",
          "line 14: " + k_lab +
              ": Mandatory element missing: the element L is missing; <q:L> stands here, whose prefix q is not "
              "declared; the namespace http://vyrgraph.com/v2 is expected"},
-        {"<Vyr:Preamble>", "<Vyr:Preamble><Vyr:Owner/>",
-         "line 3: Preamble: Mandatory element missing: the element Header is missing; <Vyr:Owner> stands here\n"
-         "line 3: Preamble: Bad end of element (Vyr:Header): Header must stand before Owner; Version or the end of "
-         "Preamble is expected"},
-        {"</Vyr:B>", "</Vyr:B><Vyr:B>3</Vyr:B>",
-         "line 16: " + k_lab +
-             ": Bad end of element (Vyr:B): B may stand here only once; the end of ColorSpaceCIELab is expected"},
-        {"</Vyr:Header>", "<Vyr:Creator/></Vyr:Header>",
-         "line 4: Preamble / Header: Bad end of element (Vyr:Creator): Creator must stand before Purpose; Name, "
-         "Comments, ReadSDKInformation, WriteSDKInformation, ReadPlatformInformation, WritePlatformInformation, "
-         "Revision or the end of Header is expected"},
-        {"<Vyr:ColorSet ", "stray <Vyr:ColorSet ",
-         "line 8: Palette \"Inks\": Bad end of element (stray): no text may stand between elements"},
         {"</Vyr:Color>", "</Vyr:ColorSet>",
          "line 18: " + k_ink +
              ": Bad end of element (</Vyr:ColorSet>): the end tag of Color, which begins in line 10, is expected\n"
@@ -525,10 +501,9 @@ TEST(Report, NamesFilesAndContainers) {
     EXPECT_EQ(loadFileWithReport(document, u"good.vyrz").toString(), "");
     const std::string bad = replaced(k_document, "50", "500");
     std::ofstream("bad.vyr") << bad;
-    std::ifstream good("good.vyrz", std::ios::binary);
-    std::string bytes(std::istreambuf_iterator<char>(good), {});
+    std::string bytes = bytes_of("good.vyrz");
     bytes[60] = static_cast<char>(~bytes[60]);
-    std::ofstream("damaged.vyrz", std::ios::binary) << bytes;
+    write_file("damaged.vyrz", bytes);
     std::ofstream("text.vyrz") << "text";
     fs::create_directories("folder.vyr");
     fs::create_directories("taken.vyrz");

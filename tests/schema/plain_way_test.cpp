@@ -4,11 +4,7 @@
 /// Taking whole elements from the source's window is a short cut and nothing else: a source without windows, whose
 /// elements all go through the reader's events, must give the same reports, lines and objects.
 
-#include <gtest/gtest.h>
-
 #include <algorithm>
-#include <filesystem>
-#include <fstream>
 #include <functional>
 #include <memory>
 #include <random>
@@ -16,6 +12,7 @@
 #include <string_view>
 
 #include "schema/generated/class_list.h"
+#include "tests/files.h"
 #include "tests/schema/support.h"
 
 namespace vyr_test {
@@ -135,18 +132,9 @@ constexpr e_answer k_answers[] = {e_answer::keeps, e_answer::swallows, e_answer:
 
 /// The test's documents up to a size, in a fixed order.
 std::vector<std::string> documents(std::size_t most) {
-    namespace fs = std::filesystem;
-    std::vector<fs::path> files;
-    for (const char* const folder : {"valid", "invalid"}) {
-        for (const fs::path& file : fs::directory_iterator(fs::path(VYR_TEST_DOCUMENTS) / folder)) {
-            if (file.extension() == ".vyr" && fs::file_size(file) <= most) files.push_back(file);
-        }
-    }
-    std::sort(files.begin(), files.end());
     std::vector<std::string> texts;
-    for (const fs::path& file : files) {
-        std::ifstream stream(file, std::ios::binary);
-        texts.emplace_back(std::istreambuf_iterator<char>(stream), std::istreambuf_iterator<char>());
+    for (const std::filesystem::path& file : documents_in({"valid", "invalid"})) {
+        if (std::filesystem::file_size(file) <= most) texts.push_back(bytes_of(file));
     }
     return texts;
 }

@@ -5,12 +5,8 @@
 /// host's own code finds in the stream when it is called in the course of a save. And memory that runs out while
 /// objects change.
 
-#include <gtest/gtest.h>
-
 #include <cstdlib>
-#include <fstream>
 #include <functional>
-#include <iterator>
 #include <new>
 #include <sstream>
 #include <stdexcept>
@@ -18,6 +14,7 @@
 
 #include "lmx/lmx.h"
 #include "schema/Vyr.h"
+#include "tests/files.h"
 
 namespace {
 
@@ -42,10 +39,8 @@ using lmx::c_xml_writer;
 
 const Vyr& sample() {
     static const Vyr document = [] {
-        std::ifstream file(VYR_TEST_DOCUMENTS "/valid/all-01.vyr", std::ios::binary);
-        const std::string text(std::istreambuf_iterator<char>(file), {});
         Vyr loaded;
-        EXPECT_EQ(loaded.unmarshal(text), lmx::ELMX_OK);
+        EXPECT_EQ(loaded.unmarshal(vyr_test::bytes_of(VYR_TEST_DOCUMENTS "/valid/all-01.vyr")), lmx::ELMX_OK);
         return loaded;
     }();
     return document;

@@ -4,28 +4,21 @@
 /// Threads that share nothing but the library each get what they would get alone. A wrong result shows under every
 /// preset, an unguarded access to something shared under the thread sanitizer.
 
-#include <gtest/gtest.h>
-
-#include <algorithm>
 #include <array>
-#include <filesystem>
-#include <fstream>
 #include <functional>
 #include <latch>
-#include <sstream>
 #include <thread>
 #include <vector>
 
 #include "schema/Vyr.h"
+#include "tests/files.h"
 #include "zip/container.h"
 
 extern "C" {
 void* CSharp_new_Vyr__SWIG_0();
 void CSharp_delete_Vyr(void* self);
-void* CSharp_Vyr_writeString(void* self);
-char16_t* CSharp_XMLDocumentResult_getXmlDocument(void* self);
-void CSharp_delete_XMLDocumentResult(void* self);
 void* VyrModule_LoadFile(void* self, const char16_t* path, std::uint32_t collect, std::uint32_t limit);
+void* VyrModule_WriteString(void* self, char16_t** text);
 char16_t* VyrModule_ReportText(void* report);
 void VyrModule_DeleteReport(void* report);
 void VyrModule_FreeString(void* text);
@@ -34,26 +27,12 @@ void VyrModule_FreeString(void* text);
 namespace vyr_test {
 namespace {
 
-using com_vyrgraph_v2::ReportOptions;
 using com_vyrgraph_v2::Vyr;
 namespace fs = std::filesystem;
 
-std::string bytes_of(const fs::path& path) {
-    std::ifstream stream(path, std::ios::binary);
-    std::ostringstream bytes;
-    bytes << stream.rdbuf();
-    return std::move(bytes).str();
-}
-
-/// Some of the test's documents, right and wrong ones, in a fixed order.
+/// Some of the test's documents, right and wrong ones.
 std::vector<fs::path> documents() {
-    std::vector<fs::path> files;
-    for (const char* const folder : {"valid", "invalid"}) {
-        for (const fs::path& file : fs::directory_iterator(fs::path(VYR_TEST_DOCUMENTS) / folder)) {
-            if (file.extension() == ".vyr") files.push_back(file);
-        }
-    }
-    std::sort(files.begin(), files.end());
+    std::vector<fs::path> files = documents_in({"valid", "invalid"});
     for (std::size_t i = 0; i < files.size() / 4; ++i) files.erase(files.begin() + static_cast<std::ptrdiff_t>(i));
     return files;
 }
@@ -119,19 +98,6 @@ TEST(Threads, LoadAndSaveContainersOfTheirOwn) {
     });
 }
 
-TEST(Threads, GetReportsOfTheirOwn) {
-    expect_same_in_threads([files = documents()](const fs::path&) {
-        std::string seen;
-        for (const fs::path& file : files) {
-            Vyr document;
-            seen += loadFileWithReport(document, file.u16string(), ReportOptions{.collect = true}).toString();
-            std::u16string text;
-            seen += writeStringWithReport(document, &text).toString() + std::to_string(text.size());
-        }
-        return seen;
-    });
-}
-
 TEST(Threads, CallTheFlatFunctions) {
     const auto take = [](char16_t* text) {
         const std::string taken = lmx::convert_to_narrow(text);
@@ -142,12 +108,14 @@ TEST(Threads, CallTheFlatFunctions) {
         std::string seen;
         for (const fs::path& file : files) {
             void* const document = CSharp_new_Vyr__SWIG_0();
-            void* const report = VyrModule_LoadFile(document, file.u16string().c_str(), 1, 10);
-            seen += take(VyrModule_ReportText(report));
-            VyrModule_DeleteReport(report);
-            void* const result = CSharp_Vyr_writeString(document);
-            seen += take(CSharp_XMLDocumentResult_getXmlDocument(result));
-            CSharp_delete_XMLDocumentResult(result);
+            char16_t* text = nullptr;
+            for (const bool is_load : {true, false}) {
+                void* const report = is_load ? VyrModule_LoadFile(document, file.u16string().c_str(), 1, 10)
+                                             : VyrModule_WriteString(document, &text);
+                seen += take(VyrModule_ReportText(report));
+                VyrModule_DeleteReport(report);
+            }
+            if (text != nullptr) seen += take(text);
             CSharp_delete_Vyr(document);
         }
         return seen;

@@ -4,31 +4,21 @@
 /// Archives on disk: every byte of what is written, and what becomes of archives that lie, end early or are strange.
 
 #include <fcntl.h>
-#include <gtest/gtest.h>
 #include <sys/stat.h>
 
 #include <cerrno>
 #include <chrono>
 #include <cstdlib>
 #include <ctime>
-#include <filesystem>
-#include <fstream>
 #include <functional>
-#include <iterator>
 
+#include "tests/files.h"
 #include "zip/container.h"
 
 namespace vyr_test {
 namespace {
 
 namespace fs = std::filesystem;
-
-std::string read_file(const fs::path& path) {
-    std::ifstream file(path, std::ios::binary);
-    return {std::istreambuf_iterator<char>(file), {}};
-}
-
-void write_file(const fs::path& path, const std::string& bytes) { std::ofstream(path, std::ios::binary) << bytes; }
 
 std::string little(std::uint64_t value, int size) {
     std::string bytes;
@@ -65,13 +55,8 @@ std::string first_entry(const fs::path& path) {
     return closed == 1 ? data : "closed " + std::to_string(closed);
 }
 
-class Archive : public testing::Test {
+class Archive : public ScratchFolder {
 protected:
-    void SetUp() override {
-        fs::remove_all(m_folder);
-        fs::create_directories(m_folder);
-    }
-    fs::path path(const char* name) const { return m_folder / name; }
     /// An archive of one file, as bytes.
     std::string archive_of(const std::string& data, CZipAddRequest request = {}, std::uint16_t method = 8) {
         write_file(path("a.vyr"), data);
@@ -81,13 +66,12 @@ protected:
         EXPECT_TRUE(archive.SetCompressionMethod(method));
         EXPECT_TRUE(archive.AddFileEntry(request));
         archive.CloseContainer(zip_close_normal);
-        return read_file(path("a.zip"));
+        return bytes_of(path("a.zip"));
     }
     std::string read_back(const std::string& bytes) {
         write_file(path("back.zip"), bytes);
         return first_entry(path("back.zip"));
     }
-    const fs::path m_folder = fs::path("zip") / testing::UnitTest::GetInstance()->current_test_info()->name();
 };
 
 TEST_F(Archive, HoldsOneEntryAndNothingElse) {
@@ -116,7 +100,7 @@ TEST_F(Archive, HoldsOneEntryAndNothingElse) {
         "PK\1\2" + little(46, 2) + shared + little(0, 6) + little(0100640U << 16U | 0x20, 4) + little(0, 4) + name;
     const std::string end = "PK\5\6" + little(0, 4) + little(1, 2) + little(1, 2) + little(central.size(), 4) +
                             little(local.size(), 4) + little(0, 2);
-    EXPECT_EQ(read_file(path("a.zip")), local + central + end);
+    EXPECT_EQ(bytes_of(path("a.zip")), local + central + end);
     ::unsetenv("TZ");
     ::tzset();
 }
