@@ -69,6 +69,15 @@ if(VYR_BUILD_FLAT AND BUILD_SHARED_LIBS)
     vyr_add_check(csharp_nuget ${checks}/csharp/check_nuget.sh ${PROJECT_BINARY_DIR} ${PROJECT_SOURCE_DIR})
     set_tests_properties(csharp_nuget PROPERTIES SKIP_RETURN_CODE 77)
   endif()
+  # The extension module is no part of the build: the first of these makes it.
+  vyr_add_check(python_module ${checks}/python/check_package.sh module ${PROJECT_BINARY_DIR} ${PROJECT_SOURCE_DIR}
+                ${Python3_EXECUTABLE})
+  foreach(part tests types)
+    vyr_add_check(python_${part} ${checks}/python/check_package.sh ${part} ${PROJECT_BINARY_DIR} ${PROJECT_SOURCE_DIR}
+                  ${Python3_EXECUTABLE})
+    set_tests_properties(python_${part} PROPERTIES FIXTURES_REQUIRED python SKIP_RETURN_CODE 77)
+  endforeach()
+  set_tests_properties(python_module PROPERTIES FIXTURES_SETUP python SKIP_RETURN_CODE 77)
   vyr_add_check(flat_windows ${checks}/flat/check_windows.sh ${PROJECT_SOURCE_DIR})
   set_tests_properties(flat_csharp flat_windows PROPERTIES SKIP_RETURN_CODE 77)
 endif()

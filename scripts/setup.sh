@@ -5,7 +5,7 @@
 # Installs what is missing to work on Vyr on a Debian 12 machine; does nothing, quickly, when nothing is missing. Without
 # a group: build.
 #
-#   scripts/setup.sh [build] [tool] [test] [csharp] [windows] [bench] [docs] [clang] [tidy] [package] [lint]
+#   scripts/setup.sh [build] [tool] [test] [csharp] [python] [science] [windows] [bench] [docs] [clang] [tidy] [package] [lint]
 
 set -euo pipefail
 
@@ -15,6 +15,8 @@ declare -A packages=(
         python3-jsonschema"
     [tool]="libcli11-dev nlohmann-json3-dev"
     [csharp]="mono-mcs mono-runtime"
+    [python]="python3-dev python3-numpy python3-pytest python3-pip python3-setuptools python3-wheel mypy"
+    [science]="python3-pandas python3-matplotlib python3-dask"
     [windows]="g++-mingw-w64-i686-posix"
     [package]="dpkg-dev file"
     [bench]="libbenchmark-dev libpugixml-dev"

@@ -12,6 +12,7 @@ cd "$(dirname "$0")/.."
 
 scripts/setup.sh build tool test
 scripts/setup.sh csharp || echo "test.sh: there is no C# to be had; the tests that need it are skipped"
+scripts/setup.sh python || echo "test.sh: there is no Python to be had; the tests that need it are skipped"
 
 presets=("$@")
 [[ ${#presets[@]} -gt 0 ]] || presets=(release asan)

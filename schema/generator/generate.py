@@ -1,8 +1,8 @@
 #!/usr/bin/env python3
 # Copyright 2026 The Vyr Authors
 # SPDX-License-Identifier: Apache-2.0
-"""Makes schema/generated/, flat/generated/ and csharp/generated/ from schema/vyr.xsd, schema/binding.toml and
-flat/members.toml.
+"""Makes schema/generated/, flat/generated/, csharp/generated/ and python/vyr/generated/ from schema/vyr.xsd,
+schema/binding.toml and flat/members.toml.
 
     python3 schema/generator/generate.py            writes what has changed
     python3 schema/generator/generate.py --check    only compares; fails on a difference
@@ -19,6 +19,7 @@ from print_headers import print_all, print_enumerations, print_forward, print_he
 from print_json_schema import print_json_schema
 from print_members import Members
 from print_model import print_model
+from print_python import print_python_files
 from print_sources import (print_class_list_header, print_class_list_source, print_source, print_tables_header,
                            print_tables_source)
 from source import SchemaError
@@ -61,7 +62,9 @@ def print_files(plan, members):
         files["sources.cmake"] = "\n".join([f"# Made by {COMMAND}.", "set(generated_sources",
                                             *(f"    generated/{name}" for name in sources), ")", ""])
         result |= {f"{folder}/generated/{name}": text for name, text in files.items()}
-    return result | {f"csharp/generated/{name}": text for name, text in print_csharp_files(plan).items()}
+    for folder, files in (("csharp", print_csharp_files(plan)), ("python/vyr", print_python_files(plan))):
+        result |= {f"{folder}/generated/{name}": text for name, text in files.items()}
+    return result
 
 
 def main(arguments):
@@ -75,7 +78,8 @@ def main(arguments):
         print(error, file=sys.stderr)
         return 1
     there = {path.relative_to(ROOT).as_posix(): path.read_text(encoding="utf-8")
-             for folder in ("schema", "flat", "csharp") for path in (ROOT / folder / "generated").glob("*")}
+             for folder in ("schema", "flat", "csharp", "python/vyr")
+             for path in (ROOT / folder / "generated").glob("*") if path.is_file()}
     different = sorted(name for name in there.keys() | files.keys() if there.get(name) != files.get(name))
     for name in different:
         if arguments:

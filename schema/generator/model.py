@@ -65,6 +65,7 @@ class Item:
     initial: str | None = None
     mutable: bool = False
     package_name: str = ""  # in the typed packages
+    python_name: str = ""  # in Python, where the rule gives a bad one
     columns: tuple = ()  # of a list: names in the typed packages, each with the accessor of an entry's number
 
     @property
@@ -492,7 +493,8 @@ class Builder:
             if found is None or found.kind == "alternative" or found.value is None or found.value.value != "number":
                 raise self.overlay.error("package_columns", key, f"'{number}' is no number of its entries")
             columns.append((column, found.accessor))
-        return replace(item, package_name=self.overlay.take("package_items", key, name), columns=tuple(columns))
+        return replace(item, package_name=self.overlay.take("package_items", key, name), columns=tuple(columns),
+                       python_name=self.overlay.take("python_names", item.accessor, ""))
 
     def check_enumerations(self, classes):
         seen = {}

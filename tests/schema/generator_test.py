@@ -101,11 +101,14 @@ class AddedField(unittest.TestCase):
         self.assertEqual(counts.keys(), {
             f"{schema}/model.txt", f"{schema}/substrates.h", f"{schema}/substrates.cpp", f"{schema}/tables.h",
             f"{schema}/vyr.schema.json", f"{flat}/substrates.cpp", f"{flat}/exports.txt", f"{flat}/vyr_flat.h", "csharp/generated/Substrates.cs",
-            "csharp/generated/Substrates.Native.cs"})
+            "csharp/generated/Substrates.Native.cs", "python/vyr/generated/substrates.py",
+            "python/vyr/generated/substrates.pyi"})
         self.assertEqual((counts[f"{schema}/model.txt"], counts[f"{schema}/tables.h"]), (1, 1))
         self.assertEqual((counts[f"{flat}/substrates.cpp"], counts[f"{flat}/exports.txt"]), (4, 4))
         # A property with its comment and a blank line; four functions and what unsets.
         self.assertEqual((counts["csharp/generated/Substrates.cs"], counts["csharp/generated/Substrates.Native.cs"]), (3, 5))
+        # A property; in the stub with its comment, and a parameter.
+        self.assertEqual((counts["python/vyr/generated/substrates.py"], counts["python/vyr/generated/substrates.pyi"]), (1, 3))
 
 
 if __name__ == "__main__":

@@ -1,0 +1,31 @@
+# Copyright 2026 The Vyr Authors
+# SPDX-License-Identifier: Apache-2.0
+"""Documents of measured and specified colours: read, checked, changed and written.
+
+    import vyr
+    document = vyr.load("inks.vyr")
+    for color in document.palettes[0].color_sets[0].colors:
+        print(color.color_name, color.color_spaces.lab)
+"""
+
+from __future__ import annotations
+
+from typing import Any
+
+from . import _vyr
+from ._documents import check as check, load as load, load_partly as load_partly, loads as loads
+from ._enumeration import Enumeration as Enumeration
+from ._errors import DocumentError as DocumentError, Fault as Fault, FormatError as FormatError, RemovedError as RemovedError, Report as Report
+from ._objects import Choice as Choice, ChoiceList as ChoiceList, List as List, Object as Object, TimeList as TimeList
+from .generated import *
+
+__version__ = _vyr.version
+
+
+def schema_name(what: Any) -> str:
+    """What the format calls a class, an object's class, a property (`vyr.ColorType.color_name`) or an enumerated value."""
+    if isinstance(what, Enumeration):
+        return what.text
+    name = what.schema_name
+    assert isinstance(name, str)
+    return name
