@@ -1,6 +1,6 @@
 # What `cmake --install` puts where, and how other projects find it: find_package(vyr) and vyr.pc. Each line names its
 # component: `runtime` is for running programs, `development` for building them, `tool` is the command, `documentation`
-# the guides, `csharp` (in csharp/) the assembly. A new file is added to the list of its folder.
+# the guides, `csharp` (in csharp/) the assembly, `python` and `python_module` (in python/) the package. A new file is added to the list of its folder.
 
 include(CMakePackageConfigHelpers)
 
@@ -47,14 +47,15 @@ endif()
 # As the guides lie in the sources, so that their links hold; by name, since people build in these folders.
 foreach(file README.md CONTRIBUTING.md SECURITY.md CHANGELOG.md LICENSE
         docs/README.md docs/building.md docs/codes.md docs/command.md docs/container.md docs/csharp.md docs/errors.md
-        docs/flat.md docs/format.md docs/generator.md docs/limits.md docs/performance.md docs/reports.md docs/schema.md
+        docs/flat.md docs/format.md docs/generator.md docs/limits.md docs/performance.md docs/python.md docs/reports.md docs/schema.md
         docs/threads.md docs/values.md docs/warnings.md
-        docs/samples/broken.vyr docs/samples/flat.c docs/samples/guides.cpp docs/samples/guides.cs
+        docs/samples/broken.vyr docs/samples/flat.c docs/samples/guides.cpp docs/samples/guides.cs docs/samples/guides.py
         docs/samples/inks.vyr
         examples/CMakeLists.txt examples/README.md examples/css-colors.vyr examples/first.cpp examples/inks.csv
         examples/palette.cpp examples/print.cpp examples/quality.cpp examples/spectra.cpp examples/spectra.csv
         examples/support.h examples/validate.cpp
-        examples/csharp/Palette.cs examples/csharp/Quality.cs examples/csharp/Spectra.cs)
+        examples/csharp/Palette.cs examples/csharp/Quality.cs examples/csharp/Spectra.cs
+        examples/python/folder.py examples/python/many.py examples/python/palette.py examples/python/spectra.py)
   cmake_path(GET file PARENT_PATH folder)
   install(FILES ${file} DESTINATION ${CMAKE_INSTALL_DOCDIR}/${folder} COMPONENT documentation)
 endforeach()

@@ -7,6 +7,8 @@ option(VYR_BUILD_FLAT "Build the flat functions for C# hosts into the library" O
 option(VYR_BUILD_TOOLS "Build the vyr command" ON)
 option(VYR_BUILD_TESTS "Build the tests" ${PROJECT_IS_TOP_LEVEL})
 option(VYR_BUILD_EXAMPLES "Build the examples; with the tests they are built anyway" OFF)
+option(VYR_BUILD_PYTHON "Build, install and package the Python package with all else" OFF)
+set(VYR_PYTHON_DIR lib/python3/dist-packages CACHE STRING "Folder of Python packages, below the prefix")
 option(VYR_BUILD_BENCH "Build the benchmarks" OFF)
 option(VYR_BUILD_FUZZ "Build the fuzzers; needs clang" OFF)
 option(VYR_WARNINGS_AS_ERRORS "Treat warnings as errors" OFF)

@@ -1,5 +1,5 @@
-# The Debian packages that cpack makes: libvyr<major>.<minor>, libvyr-dev, vyr-tools and, where there is a compiler for
-# C#, libvyr-cil, each of one group of the components that cmake/install.cmake fills. scripts/package.sh builds them.
+# The Debian packages that cpack makes: libvyr<major>.<minor>, libvyr-dev, vyr-tools and, where there is what they need,
+# libvyr-cil for C# and python3-vyr, each of one group of the components that cmake/install.cmake fills. scripts/package.sh builds them.
 
 set(library_package libvyr${PROJECT_VERSION_MAJOR}.${PROJECT_VERSION_MINOR})
 set(same_version "${library_package} (= ${PROJECT_VERSION})")
@@ -65,6 +65,14 @@ ${about}
 This package holds the assembly Vyr.dll for C# programs, its documentation and
 its sources.")
 
+set(CPACK_DEBIAN_PYTHON_PACKAGE_NAME python3-vyr)
+set(CPACK_DEBIAN_PYTHON_PACKAGE_SECTION python)
+set(CPACK_DEBIAN_PYTHON_PACKAGE_DEPENDS "${same_version}, python3 (>= 3.11)")
+set(CPACK_DEBIAN_PYTHON_PACKAGE_RECOMMENDS python3-numpy)
+set(CPACK_DEBIAN_PYTHON_DESCRIPTION "reads, checks and writes colour-data documents - Python package
+${about}
+This package holds the package vyr for Python.")
+
 # What the system asks of every package; other installations need no such file.
 string(TIMESTAMP build_time "%a, %d %b %Y %H:%M:%S +0000" UTC)
 configure_file(cmake/debian/changelog.in changelog @ONLY)
@@ -80,6 +88,10 @@ if(VYR_BUILD_FLAT AND VYR_MCS)
   list(APPEND CPACK_COMPONENTS_ALL csharp)
   list(APPEND groups csharp)
 endif()
+if(VYR_BUILD_PYTHON AND TARGET vyr_python)
+  list(APPEND CPACK_COMPONENTS_ALL python python_module)
+  list(APPEND groups python)
+endif()
 foreach(group ${groups})
   string(TOUPPER ${group} variables)
   set(folder ${CMAKE_INSTALL_DATADIR}/doc/${CPACK_DEBIAN_${variables}_PACKAGE_NAME})
@@ -94,6 +106,8 @@ cpack_add_component(development GROUP development)
 cpack_add_component(documentation GROUP development)
 cpack_add_component(tool GROUP tool)
 cpack_add_component(csharp GROUP csharp)
+cpack_add_component(python GROUP python)
+cpack_add_component(python_module GROUP python)
 foreach(group ${groups})
   cpack_add_component(${group}_papers GROUP ${group})
 endforeach()

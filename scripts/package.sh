@@ -2,7 +2,7 @@
 # Copyright 2026 The Vyr Authors
 # SPDX-License-Identifier: Apache-2.0
 #
-# Makes the Debian packages libvyr*, libvyr-dev, vyr-tools and, where there is a compiler for C#, libvyr-cil in
+# Makes the Debian packages libvyr*, libvyr-dev, vyr-tools and, where there is what they need, libvyr-cil and python3-vyr in
 # build/package.
 
 set -euo pipefail
@@ -10,6 +10,7 @@ cd "$(dirname "$0")/.."
 
 scripts/setup.sh build tool package
 scripts/setup.sh csharp || echo "package.sh: there is no C# to be had; libvyr-cil is left out"
+scripts/setup.sh python || echo "package.sh: there are no headers of Python to be had; python3-vyr is left out"
 cmake --preset package > /dev/null
 cmake --build --preset package
 rm -f build/package/*.deb

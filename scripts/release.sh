@@ -56,6 +56,7 @@ EOF
 replace CMakeLists.txt "project(vyr VERSION $current " "project(vyr VERSION $version "
 replace vcpkg.json "\"version-semver\": \"$current\"" "\"version-semver\": \"$version\""
 replace csharp/Vyr.csproj "<Version>$current</Version>" "<Version>$version</Version>"
+replace pyproject.toml "version = \"$current\"" "version = \"$version\""
 replace csharp/Vyr.nuspec "<version>$current</version>" "<version>$version</version>"
 replace csharp/AssemblyInfo.cs "AssemblyVersion(\"$current.0\")" "AssemblyVersion(\"$version.0\")"
 for file in README.md examples/CMakeLists.txt; do

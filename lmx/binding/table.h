@@ -152,8 +152,6 @@ struct s_operations {
     void (*swap)(void* one, void* other);
     /// The most derived copy; null for classes without `clone`.
     void* (*clone)(const void* object);
-    /// What the most derived class calls its identity; null outside the type families.
-    const char* (*identity)(const void* object);
     /// Of classes that stand for an element; null for holders and inline choices.
     elmx_error (*unmarshal)(void* object, c_xml_reader& reader, const std::string& name);
     /// Of holders and inline choices; null for elements.
@@ -228,10 +226,6 @@ void* clone(const void* object) {
     return static_cast<const T*>(object)->clone();
 }
 template <class T>
-const char* identity(const void* object) {
-    return static_cast<const T*>(object)->getid();
-}
-template <class T>
 elmx_error unmarshal(void* object, c_xml_reader& reader, const std::string& name) {
     return static_cast<T*>(object)->unmarshal(reader, name);
 }
@@ -247,9 +241,8 @@ elmx_error marshal(const void* object, c_xml_writer& writer, const char* name) {
 template <class T>
 constexpr s_operations make_operations() {
     s_operations operations{k_stored_type<T>, create<T>, destroy<T>, assign<T>, swap<T>,
-                            nullptr,          nullptr,   nullptr,    nullptr,   marshal<T>};
+                            nullptr,          nullptr,   nullptr,    marshal<T>};
     if constexpr (requires(const T& object) { object.clone(); }) operations.clone = clone<T>;
-    if constexpr (requires(const T& object) { object.getid(); }) operations.identity = identity<T>;
     if constexpr (requires(T & object, c_xml_reader & r, const std::string& n) { object.unmarshal(r, n); }) {
         operations.unmarshal = unmarshal<T>;
     } else {

@@ -54,10 +54,7 @@ bool insert_object(const s_property& property, s_object* owner, std::size_t inde
         if (alternative == nullptr) {
             operations.assign(entry, source->data);
         } else {
-            const lmx::s_operations& held = *source->type->operations;
-            void* copy = held.clone != nullptr ? held.clone(source->data) : nullptr;
-            if (copy == nullptr) held.assign(copy = held.create(), source->data);
-            lmx::adopt(*row.type, *alternative, entry, copy);
+            lmx::adopt(*row.type, *alternative, entry, copy_of(source));
         }
     } catch (...) {
         list.remove(index, operations.stored);
@@ -333,6 +330,43 @@ void remove_entries(const s_item& row, void* data, std::size_t first, std::size_
         if (row.type != nullptr) forget(list.entry(last), *row.type);
         list.remove(last, stored(row));
     }
+}
+
+PyObject* held(PyObject*, PyObject* arguments) {
+    PyObject* objects = nullptr;
+    PyObject* list = nullptr;
+    PyObject* wanted = nullptr;
+    if (!PyArg_ParseTuple(arguments, "O!O!O!", &PyList_Type, &objects, property_type(), &list, property_type(),
+                          &wanted)) {
+        return nullptr;
+    }
+    const s_property& choices = *as_property(list);
+    const s_property& alternative = *as_property(wanted);
+    if (choices.row == nullptr || choices.row->kind != item_kind::group_list ||
+        choices.row->type != alternative.owner || alternative.row->type == nullptr) {
+        return PyErr_Format(PyExc_TypeError, "this is no list of such choices");
+    }
+    return guarded<PyObject*>(nullptr, [&]() -> PyObject* {
+        const c_ref numbers(PyList_New(0));
+        const c_ref found(PyList_New(0));
+        for (Py_ssize_t i = 0; numbers && found && i < PyList_Size(objects); ++i) {
+            s_object* const owner = expect(PyList_GetItem(objects, i), *choices.owner, "held");
+            if (owner == nullptr) return nullptr;
+            const s_class& type = *choices.row->type;
+            for (std::size_t k = 0; k < entries(*choices.row, owner->data).size(); ++k) {
+                void* const place = entries(*choices.row, owner->data).entry(k);
+                if (lmx::chosen_row(type, lmx::choice_of(type, place)) != alternative.row) continue;
+                const c_ref number(PyLong_FromSsize_t(i));
+                const c_ref choice(part(owner, place, type));
+                const c_ref value(choice ? PyObject_GetAttr(choice.get(), alternative.name) : nullptr);
+                if (!number || !value || PyList_Append(numbers.get(), number.get()) != 0 ||
+                    PyList_Append(found.get(), value.get()) != 0) {
+                    return nullptr;
+                }
+            }
+        }
+        return numbers && found ? Py_BuildValue("(OO)", numbers.get(), found.get()) : nullptr;
+    });
 }
 
 PyObject* first_chosen(PyObject*, PyObject* arguments) {

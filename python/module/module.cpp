@@ -33,6 +33,7 @@ PyObject* describe(PyObject*, PyObject* code) {
 PyMethodDef functions[] = {{"set_up", set_up, METH_VARARGS, nullptr},
                            {"describe", describe, METH_O, nullptr},
                            {"chosen", chosen, METH_O, nullptr},
+                           {"held", held, METH_VARARGS, nullptr},
                            {"first_chosen", first_chosen, METH_VARARGS, nullptr},
                            {"load_file", load_file, METH_VARARGS, nullptr},
                            {"load_memory", load_memory, METH_VARARGS, nullptr},

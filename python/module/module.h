@@ -121,6 +121,8 @@ void forget_parts(s_object* object);
 bool derives(const s_class* type, const s_class& base);
 /// What an alternative holds can be of a derived class.
 const s_class& class_of(const s_item& row, const void* object);
+/// A copy of an object, of exactly the class that the handle says; the caller's.
+void* copy_of(const s_object* source);
 const lmx::s_named_class* named_class(PyTypeObject* type);
 /// A class by its name in the format; null if there is none.
 const s_class* find_class(std::string_view name);
@@ -170,6 +172,7 @@ void remove_entries(const s_item& row, void* data, std::size_t first, std::size_
 // Functions of the module
 
 PyObject* chosen(PyObject* module, PyObject* object);
+PyObject* held(PyObject* module, PyObject* arguments);
 PyObject* first_chosen(PyObject* module, PyObject* arguments);
 PyObject* load_file(PyObject* module, PyObject* arguments);
 PyObject* load_memory(PyObject* module, PyObject* arguments);

@@ -274,11 +274,31 @@ void forget_parts(s_object* object) {
 }
 
 const s_class& class_of(const s_item& row, const void* object) {
-    const char* const identity = row.factory.empty() ? nullptr : row.type->operations->identity(object);
+    if (row.factory.empty()) return *row.type;
+    // All objects of a class, and no others, begin with the same pointer: that to the table of its virtual functions.
+    const auto table_of = [](const void* known) { return *static_cast<const void* const*>(known); };
+    static auto& tables = *new std::unordered_map<const void*, const s_class*>();
     for (const lmx::s_factory_row& known : row.factory) {
-        if (*known.type->id == identity) return *known.type;
+        const auto found = tables.find(table_of(object));
+        if (found != tables.end()) return *found->second;
+        void* const sample = known.type->operations->create();
+        tables.emplace(table_of(sample), known.type);
+        known.type->operations->destroy(sample);
     }
-    return *row.type;
+    const auto found = tables.find(table_of(object));
+    return found == tables.end() ? *row.type : *found->second;
+}
+
+void* copy_of(const s_object* source) {
+    const lmx::s_operations& operations = *source->type->operations;
+    void* const copy = operations.create();
+    try {
+        operations.assign(copy, source->data);
+    } catch (...) {
+        operations.destroy(copy);
+        throw;
+    }
+    return copy;
 }
 
 }  // namespace python

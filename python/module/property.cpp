@@ -88,12 +88,7 @@ bool assign_alternative(const s_property& property, void* data, PyObject* value)
     const s_item& row = *property.row;
     s_object* const source = expect(value, *row.type, row.name.data());
     if (source == nullptr) return false;
-    const lmx::s_operations& operations = *source->type->operations;
-    void* copy = operations.clone != nullptr ? operations.clone(source->data) : nullptr;
-    if (copy == nullptr) {
-        copy = operations.create();
-        operations.assign(copy, source->data);
-    }
+    void* const copy = copy_of(source);
     forget_alternative(*property.owner, data);
     lmx::release_choice(*property.owner, data);
     lmx::adopt(*property.owner, row, data, copy);
@@ -113,8 +108,7 @@ bool assign_child(const s_property& property, void* data, PyObject* value) {
     if (source->data == target) return true;
     // The copy comes first: the value may be a part of what it replaces.
     const lmx::s_operations& operations = *row.type->operations;
-    std::unique_ptr<void, void (*)(void*)> copy(operations.create(), operations.destroy);
-    operations.assign(copy.get(), source->data);
+    const std::unique_ptr<void, void (*)(void*)> copy(copy_of(source), operations.destroy);
     forget(target, *row.type);
     lmx::exchange(*row.type, target, copy.get());
     lmx::mark_set(row, data);

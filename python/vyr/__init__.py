@@ -18,6 +18,9 @@ from ._enumeration import Enumeration as Enumeration
 from ._errors import DocumentError as DocumentError, Fault as Fault, FormatError as FormatError, RemovedError as RemovedError, Report as Report
 from ._objects import Choice as Choice, ChoiceList as ChoiceList, List as List, Object as Object, TimeList as TimeList
 from .generated import *
+from ._bulk import Spectra as Spectra, Values as Values, colors as colors, conditions as conditions, frame as frame
+from ._bulk import set_spectra as set_spectra, set_values as set_values, spectra as spectra
+from ._bulk import spectra_groups as spectra_groups, values as values
 
 __version__ = _vyr.version
 

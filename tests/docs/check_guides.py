@@ -28,6 +28,7 @@ problems = []
 ORIGINS = {
     "cpp": ["examples/*.cpp", "examples/*.h", "docs/samples/*.cpp", "schema/generated/*", "flat/generated/*.cpp"],
     "csharp": ["examples/csharp/*.cs", "docs/samples/*.cs", "csharp/generated/*.cs"],
+    "python": ["examples/python/*.py", "docs/samples/*.py"],
     "c": ["docs/samples/*.c"],
     "xml": ["examples/*.vyr", "docs/samples/*.vyr", "schema/vyr.xsd"],
     "toml": ["schema/binding.toml"],
