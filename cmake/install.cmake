@@ -9,6 +9,7 @@ set(vyr_package_dir ${CMAKE_INSTALL_LIBDIR}/cmake/vyr)
 
 install(TARGETS vyr EXPORT vyr-targets
         ARCHIVE DESTINATION ${CMAKE_INSTALL_LIBDIR} COMPONENT development
+        RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR} COMPONENT runtime
         LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR} COMPONENT runtime NAMELINK_COMPONENT development)
 if(VYR_BUILD_TOOLS)
   install(TARGETS vyr_tool RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR} COMPONENT tool)
@@ -47,8 +48,8 @@ endif()
 # As the guides lie in the sources, so that their links hold; by name, since people build in these folders.
 foreach(file README.md CONTRIBUTING.md SECURITY.md CHANGELOG.md LICENSE
         docs/README.md docs/building.md docs/codes.md docs/command.md docs/container.md docs/csharp.md docs/errors.md
-        docs/flat.md docs/format.md docs/generator.md docs/limits.md docs/performance.md docs/python.md docs/reports.md docs/schema.md
-        docs/threads.md docs/values.md docs/warnings.md
+        docs/flat.md docs/format.md docs/generator.md docs/limits.md docs/performance.md docs/python.md docs/reports.md
+        docs/schema.md docs/threads.md docs/values.md docs/warnings.md docs/windows.md
         docs/samples/broken.vyr docs/samples/flat.c docs/samples/guides.cpp docs/samples/guides.cs docs/samples/guides.py
         docs/samples/inks.vyr
         examples/CMakeLists.txt examples/README.md examples/css-colors.vyr examples/first.cpp examples/inks.csv

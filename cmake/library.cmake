@@ -13,7 +13,8 @@ target_include_directories(vyr PUBLIC $<BUILD_INTERFACE:${PROJECT_SOURCE_DIR}>
                                       $<INSTALL_INTERFACE:${CMAKE_INSTALL_INCLUDEDIR}/vyr>)
 target_compile_features(vyr PUBLIC cxx_std_20)
 target_compile_definitions(vyr PRIVATE VYR_BUILDING)
-target_link_libraries(vyr PRIVATE LibXml2::LibXml2 ZLIB::ZLIB BZip2::BZip2 $<BUILD_INTERFACE:vyr_warnings>)
+set(vyr_libraries LibXml2::LibXml2 ZLIB::ZLIB BZip2::BZip2)
+target_link_libraries(vyr PRIVATE ${vyr_libraries} $<BUILD_INTERFACE:vyr_warnings>)
 
 # Calls inside the library are to its own functions: none goes through the loader's table, and all may be inlined.
 target_compile_options(vyr PRIVATE $<$<CXX_COMPILER_ID:GNU,Clang>:-fno-semantic-interposition>)

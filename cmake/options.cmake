@@ -45,8 +45,17 @@ if(PROJECT_IS_TOP_LEVEL AND NOT DEFINED CMAKE_CXX_COMPILER_LAUNCHER)
 endif()
 
 add_library(vyr_warnings INTERFACE)
-target_compile_options(vyr_warnings INTERFACE -Wall -Wextra -Wpedantic -Wconversion -Wshadow -Wnon-virtual-dtor
-                                              $<$<BOOL:${VYR_WARNINGS_AS_ERRORS}>:-Werror>)
+if(MSVC)
+  # The generated sources speak to GCC and clang; without the last two, texts would be read in the machine's code page.
+  target_compile_options(vyr_warnings INTERFACE /W3 /wd4068 $<$<BOOL:${VYR_WARNINGS_AS_ERRORS}>:/WX> /utf-8 /EHsc)
+else()
+  target_compile_options(vyr_warnings INTERFACE -Wall -Wextra -Wpedantic -Wconversion -Wshadow -Wnon-virtual-dtor
+                                                $<$<BOOL:${VYR_WARNINGS_AS_ERRORS}>:-Werror>)
+endif()
+# Counts of 64 bits that stand for places in memory are wider than a size only where a size has 32.
+if(VYR_IS_X86_32)
+  target_compile_options(vyr_warnings INTERFACE -Wno-conversion)
+endif()
 
 # g++ 12 takes `"text" + std::string` for an overlapping copy (gcc bug 105651); for targets that are full of that.
 function(vyr_allow_concatenation target)

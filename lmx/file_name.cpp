@@ -7,6 +7,7 @@
 #include <string>
 
 #include "lmx/values/unicode.h"
+#include "lmx/values/wide.h"
 
 namespace lmx {
 
@@ -14,7 +15,7 @@ namespace lmx {
 
 std::optional<std::filesystem::path> to_path(std::u16string_view name) {
     if (!is_well_formed(name) || name.find(u'\0') != name.npos) return std::nullopt;
-    return std::filesystem::path(std::wstring(name.begin(), name.end()));
+    return std::filesystem::path(to_wstring(name));
 }
 
 std::optional<std::filesystem::path> to_path(std::string_view name) {

@@ -30,8 +30,8 @@ while read -r system name file; do
     if [[ -e $file ]]; then cp --dereference "$file" "$folder/$name"; else touch "$folder/_._"; fi
 done << TABLE
 linux-x64 libVyrModule.so $build/libvyr.so
-win-x64 VyrModule.dll $root/build/windows64/VyrModule.dll
-win-x86 VyrModule.dll $root/build/windows32/VyrModule.dll
+win-x64 VyrModule.dll $root/build/windows64/self-contained/VyrModule.dll
+win-x86 VyrModule.dll $root/build/windows32/self-contained/VyrModule.dll
 TABLE
 
 cat > '[Content_Types].xml' << 'XML'

@@ -5,7 +5,8 @@
 # Installs what is missing to work on Vyr on a Debian 12 machine; does nothing, quickly, when nothing is missing. Without
 # a group: build.
 #
-#   scripts/setup.sh [build] [tool] [test] [csharp] [python] [science] [windows] [bench] [docs] [clang] [tidy] [package] [lint]
+#   scripts/setup.sh [build] [tool] [test] [csharp] [python] [science] [windows] [wine] [bench] [docs] [clang] [tidy]
+#                    [package] [lint]
 
 set -euo pipefail
 
@@ -17,7 +18,8 @@ declare -A packages=(
     [csharp]="mono-mcs mono-runtime"
     [python]="python3-dev python3-numpy python3-pytest python3-pip python3-setuptools python3-wheel mypy"
     [science]="python3-pandas python3-matplotlib python3-dask"
-    [windows]="g++-mingw-w64-i686-posix"
+    [windows]="g++-mingw-w64-i686-posix g++-mingw-w64-x86-64-posix libz-mingw-w64-dev dpkg-dev googletest"
+    [wine]="debootstrap wine wine64"
     [package]="dpkg-dev file"
     [bench]="libbenchmark-dev libpugixml-dev"
     [docs]="doxygen python3"

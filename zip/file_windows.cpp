@@ -12,7 +12,9 @@
 #include <filesystem>
 #include <utility>
 
+#if !defined(NOMINMAX)
 #define NOMINMAX
+#endif
 #define WIN32_LEAN_AND_MEAN
 #include <windows.h>
 

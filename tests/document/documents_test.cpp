@@ -59,7 +59,7 @@ TEST(Documents, InvalidOnesFailInTheirPlace) {
         int code = 0;
         int line_no = 0;
         fields >> file >> code >> item >> line_no;
-        c_xml_reader_file reader((k_documents / "invalid" / file).c_str());
+        c_xml_reader_file reader((k_documents / "invalid" / file).string().c_str());
         Vyr document;
         EXPECT_EQ(document.unmarshal(reader), code);
         EXPECT_EQ(reader.get_error_item_name(), item);

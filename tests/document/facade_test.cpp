@@ -131,8 +131,10 @@ TEST_F(Facade, AnArchiveIsOpenedBeforeFailuresBecomeACode) {
     EXPECT_EQ(bytes_of(path("taken.vyrz")), "");
     EXPECT_TRUE(is_there("taken.vyr"));
     // Two names of one file: making the archive has emptied what was prepared.
+#if !defined(_WIN32)  // where links take a right that few have
     fs::create_symlink("same.vyr", m_folder / "same.vyrz");
     EXPECT_EQ(document.writeFile(path("same.vyrz")), ELMX_USER_DEFINED_1);
+#endif
     // Each byte of an archive matters: a changed one gives the code, the exception or, where only names, times and
     // attributes stand, the document.
     ASSERT_EQ(document.writeFile(path("a.vyrz")), ELMX_OK);
@@ -178,9 +180,9 @@ TEST_F(Facade, FilesThatCantBeOpened) {
     EXPECT_EQ(document.writeFile(path("missing/a.vyr")), ELMX_OK);
     EXPECT_EQ(document.writeFile(not_text), ELMX_OK);
     EXPECT_TRUE(fs::is_empty(m_folder));
-    EXPECT_EQ(document.marshal((m_folder / "missing/a.vyr").c_str()), ELMX_NO_FILE);
+    EXPECT_EQ(document.marshal((m_folder / "missing/a.vyr").string().c_str()), ELMX_NO_FILE);
     elmx_error error = ELMX_OK;
-    const Vyr from_file((m_folder / "missing.vyr").c_str(), &error);
+    const Vyr from_file((m_folder / "missing.vyr").string().c_str(), &error);
     EXPECT_EQ(error, ELMX_NO_FILE);
 }
 

@@ -24,14 +24,16 @@ static void check(int holds, const char* what, int line) {
 #define CHECK(condition) check(condition, #condition, __LINE__)
 
 static const char* reported = NULL;
-static void on_null(const char* text, const char* parameter) {
+static void VYR_FLAT_CALL on_null(const char* text, const char* parameter) {
     CHECK(parameter == NULL && reported == NULL);
     reported = text;
 }
 /* These are never called. */
-static void on_argument(const char* text, const char* parameter) { CHECK(text == NULL && parameter != NULL); }
-static void on_exception(const char* text) { CHECK(text == NULL); }
-static char* on_string(const char* text) { return CHECK(text == NULL), NULL; }
+static void VYR_FLAT_CALL on_argument(const char* text, const char* parameter) {
+    CHECK(text == NULL && parameter != NULL);
+}
+static void VYR_FLAT_CALL on_exception(const char* text) { CHECK(text == NULL); }
+static char* VYR_FLAT_CALL on_string(const char* text) { return CHECK(text == NULL), NULL; }
 
 /* Runs a call with a null argument: it must answer 0 after one report of the text. */
 #define REPORTS(call, text) (CHECK((call) == 0), check_report(text, __LINE__))
@@ -341,8 +343,10 @@ int main(int count, char** arguments) {
     SWIGRegisterExceptionArgumentCallbacks_VyrModule(on_argument, on_null, on_argument);
     SWIGRegisterStringCallback_VyrModule(on_string);
     strings(0);
+#if !defined(_WIN32) /* where there is one rule, the system's */
     strings(4);
     strings(8);
+#endif
     nulls_and_results();
     documents(arguments[1], atol(arguments[2]));
     reports(arguments[1]);

@@ -10,19 +10,10 @@
 #include <thread>
 #include <vector>
 
+#include "flat/generated/vyr_flat.h"
 #include "schema/Vyr.h"
 #include "tests/files.h"
 #include "zip/container.h"
-
-extern "C" {
-void* CSharp_new_Vyr__SWIG_0();
-void CSharp_delete_Vyr(void* self);
-void* VyrModule_LoadFile(void* self, const char16_t* path, std::uint32_t collect, std::uint32_t limit);
-void* VyrModule_WriteString(void* self, char16_t** text);
-char16_t* VyrModule_ReportText(void* report);
-void VyrModule_DeleteReport(void* report);
-void VyrModule_FreeString(void* text);
-}
 
 namespace vyr_test {
 namespace {
