@@ -94,7 +94,7 @@ build_libraries() {
         (
             cd "$home/sources/bzip2"
             for part in blocksort huffman crctable randtable compress decompress bzlib; do
-                "$triple-gcc-posix" -O2 -DBZ_NO_STDIO -c "$part.c" -o "$libraries/$part.o"
+                "$triple-gcc-posix" -O2 -c "$part.c" -o "$libraries/$part.o"
             done
             "$triple-ar" rcs "$libraries/lib/libbz2.a" "$libraries"/*.o
             rm "$libraries"/*.o
