@@ -20,7 +20,8 @@ vyr_add_check(layering ${Python3_EXECUTABLE} ${checks}/layering/check_layering.p
 vyr_add_check(generated_files ${Python3_EXECUTABLE} ${PROJECT_SOURCE_DIR}/schema/generator/generate.py --check)
 vyr_add_check(generator ${Python3_EXECUTABLE} ${checks}/schema/generator_test.py)
 vyr_add_check(release ${checks}/scripts/check_release.sh ${PROJECT_SOURCE_DIR})
-set_tests_properties(release PROPERTIES SKIP_RETURN_CODE 77)
+vyr_add_check(headers_msvc ${checks}/install/check_msvc.sh ${PROJECT_SOURCE_DIR})
+set_tests_properties(release headers_msvc PROPERTIES SKIP_RETURN_CODE 77)
 vyr_add_check(site ${Python3_EXECUTABLE} ${checks}/docs/check_site.py ${CMAKE_COMMAND} ${PROJECT_SOURCE_DIR}
               ${PROJECT_BINARY_DIR}/site_test)
 set_tests_properties(site PROPERTIES SKIP_RETURN_CODE 77)

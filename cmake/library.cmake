@@ -16,6 +16,10 @@ target_compile_definitions(vyr PRIVATE VYR_BUILDING)
 set(vyr_libraries LibXml2::LibXml2 ZLIB::ZLIB BZip2::BZip2)
 target_link_libraries(vyr PRIVATE ${vyr_libraries} $<BUILD_INTERFACE:vyr_warnings>)
 
+if(WIN32 AND NOT BUILD_SHARED_LIBS)
+  target_compile_definitions(vyr PUBLIC VYR_STATIC)
+endif()
+
 # Calls inside the library are to its own functions: none goes through the loader's table, and all may be inlined.
 target_compile_options(vyr PRIVATE $<$<CXX_COMPILER_ID:GNU,Clang>:-fno-semantic-interposition>)
 target_link_options(vyr PRIVATE $<$<PLATFORM_ID:Linux>:LINKER:-Bsymbolic-functions>)

@@ -5,7 +5,9 @@
 
 #pragma once
 
-#if defined(_WIN32)
+#if defined(VYR_STATIC)
+#define VYR_EXPORT
+#elif defined(_WIN32)
 #if defined(VYR_BUILDING)
 #define VYR_EXPORT __declspec(dllexport)
 #else

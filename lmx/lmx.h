@@ -20,5 +20,6 @@
 #include "lmx/values/pattern.h"
 #include "lmx/values/scalars.h"
 #include "lmx/values/unicode.h"
+#include "lmx/values/wide.h"
 #include "lmx/writer/as_xml.h"
 #include "lmx/writer/xml_writer.h"

@@ -93,7 +93,8 @@ struct s_facets {
     bool setter_skips_minimum = false;
     bool pattern_takes_zoned = false;  ///< the pattern takes every valid dateTime that names a time zone
     std::size_t minimum_length = 0;    ///< in code points
-    std::size_t maximum_length = std::numeric_limits<std::size_t>::max();
+    // In brackets, since <windows.h> has a macro of that name.
+    std::size_t maximum_length = (std::numeric_limits<std::size_t>::max)();
     const char* minimum_integer = nullptr;  ///< for integers: the bounds that a text is compared with
     const char* maximum_integer = nullptr;
     const c_pattern& (*pattern)() = nullptr;  ///< compiled when it is first asked for
@@ -132,7 +133,7 @@ struct s_item {
     constexpr std::size_t next_position() const { return std::size_t{position} + width; }
 };
 
-inline constexpr std::uint32_t k_no_flag = std::numeric_limits<std::uint32_t>::max();
+inline constexpr std::uint32_t k_no_flag = (std::numeric_limits<std::uint32_t>::max)();
 
 /// What stands between a class's tags.
 enum class content_kind : std::uint8_t {

@@ -45,7 +45,7 @@ public:
     }
     void append_repeated(char c, std::size_t count) {
         constexpr std::size_t usual = 16;
-        char* const at = room(std::max(count, usual));
+        char* const at = room((std::max)(count, usual));
         std::memset(at, c, usual);
         if (count > usual) std::memset(at + usual, c, count - usual);
         m_at = at + count;
