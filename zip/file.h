@@ -1,7 +1,7 @@
 // Copyright 2026 The Vyr Authors
 // SPDX-License-Identifier: Apache-2.0
 
-/// Files of the operating system: the one place of the container that calls it.
+/// Files of the operating system, which `system_file.h` asks; nothing else of the container does.
 
 #pragma once
 
@@ -12,6 +12,10 @@
 #include <string>
 
 namespace zip {
+
+namespace system_file {
+enum class open_mode;
+}
 
 /// An open file. Calls that fail throw a `CZipException` with the `errno` and the path.
 class c_file {
@@ -38,8 +42,10 @@ public:
     void abandon() noexcept;
 
 private:
-    void open_as(const std::u16string& path, int flags);
-    [[noreturn]] void fail() const;
+    void open_as(const std::u16string& path, system_file::open_mode mode);
+    /// The result of a call, if that isn't negative, which says that it failed.
+    template <typename t_number>
+    t_number checked(t_number result) const;
 
     std::u16string m_path;
     int m_descriptor = -1;

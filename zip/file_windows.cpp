@@ -9,8 +9,6 @@
 
 #include <algorithm>
 #include <cerrno>
-#include <filesystem>
-#include <utility>
 
 #if !defined(NOMINMAX)
 #define NOMINMAX
@@ -18,13 +16,12 @@
 #define WIN32_LEAN_AND_MEAN
 #include <windows.h>
 
-#include "lmx/file_name.h"
-#include "zip/exception.h"
-#include "zip/file.h"
+#include "zip/system_file.h"
 
 static_assert(sizeof(std::time_t) == 8, "the times of files must not end in 2038");
 
 namespace zip {
+namespace system_file {
 namespace {
 
 /// A call of the C runtime takes at most so many bytes.
@@ -58,70 +55,31 @@ bool set_modified(const wchar_t* path, std::time_t modified) {
 
 }  // namespace
 
-void c_file::fail() const { throw CZipException(errno, m_path); }
-
-void c_file::open_as(const std::u16string& path, int flags) {
-    // A name that is no text can't be a file's.
-    const std::optional<std::filesystem::path> system_path = lmx::to_path(path);
-    if (!system_path) throw CZipException(ENOENT, path);
-    m_path = path;
-    m_descriptor = _wopen(system_path->c_str(), flags | _O_BINARY | _O_NOINHERIT, _S_IREAD | _S_IWRITE);
-    if (m_descriptor < 0) fail();
+int open(const std::filesystem::path& path, open_mode mode) {
+    const int flags = mode == open_mode::existing ? _O_RDONLY : _O_RDWR | _O_CREAT | _O_TRUNC;
+    return _wopen(path.c_str(), flags | _O_BINARY | _O_NOINHERIT, _S_IREAD | _S_IWRITE);
 }
 
-void c_file::open(const std::u16string& path) { open_as(path, _O_RDONLY); }
+std::int64_t seek(int descriptor, std::int64_t position) { return _lseeki64(descriptor, position, SEEK_SET); }
 
-void c_file::create(const std::u16string& path) { open_as(path, _O_RDWR | _O_CREAT | _O_TRUNC); }
+std::int64_t seek_end(int descriptor) { return _lseeki64(descriptor, 0, SEEK_END); }
 
-std::int64_t c_file::size() {
-    const std::int64_t end = _lseeki64(m_descriptor, 0, SEEK_END);
-    if (end < 0) fail();
-    return end;
+std::int64_t read(int descriptor, char* buffer, std::size_t count) { return _read(descriptor, buffer, piece(count)); }
+
+std::int64_t write(int descriptor, const char* data, std::size_t count) {
+    const int put = _write(descriptor, data, piece(count));
+    if (put != 0) return put;
+    errno = ENOSPC;
+    return -1;
 }
 
-void c_file::seek(std::int64_t position) {
-    if (_lseeki64(m_descriptor, position, SEEK_SET) < 0) fail();
-}
+bool truncate(int descriptor, std::int64_t size) { return _chsize_s(descriptor, size) == 0; }
 
-std::size_t c_file::read(char* buffer, std::size_t count) {
-    std::size_t done = 0;
-    while (done < count) {
-        const int got = _read(m_descriptor, buffer + done, piece(count - done));
-        if (got < 0) fail();
-        if (got == 0) break;
-        done += static_cast<std::size_t>(got);
-    }
-    return done;
-}
+int close(int descriptor) { return _close(descriptor); }
 
-void c_file::write(const char* data, std::size_t count) {
-    while (count > 0) {
-        const int put = _write(m_descriptor, data, piece(count));
-        if (put < 0) fail();
-        if (put == 0) throw CZipException(ENOSPC, m_path);
-        data += put;
-        count -= static_cast<std::size_t>(put);
-    }
-}
-
-void c_file::truncate(std::int64_t size) {
-    if (_chsize_s(m_descriptor, size) != 0) throw CZipException(zip_truncate_failed, m_path);
-}
-
-void c_file::close() {
-    if (_close(std::exchange(m_descriptor, -1)) < 0) fail();
-}
-
-void c_file::abandon() noexcept {
-    if (is_open()) _close(std::exchange(m_descriptor, -1));
-}
-
-std::optional<s_file_status> get_file_status(const std::u16string& path) {
-    const std::optional<std::filesystem::path> system_path = lmx::to_path(path);
+std::optional<s_file_status> get_status(const std::filesystem::path& path) {
     WIN32_FILE_ATTRIBUTE_DATA data{};
-    if (!system_path || GetFileAttributesExW(system_path->c_str(), GetFileExInfoStandard, &data) == 0) {
-        return std::nullopt;
-    }
+    if (GetFileAttributesExW(path.c_str(), GetFileExInfoStandard, &data) == 0) return std::nullopt;
     s_file_status status;
     status.is_directory = (data.dwFileAttributes & FILE_ATTRIBUTE_DIRECTORY) != 0;
     // What files and folders have on systems with modes, where nobody asks for more.
@@ -132,15 +90,16 @@ std::optional<s_file_status> get_file_status(const std::u16string& path) {
     return status;
 }
 
-bool set_file_status(const std::u16string& path, std::uint32_t permissions, std::time_t modified) {
-    const std::optional<std::filesystem::path> system_path = lmx::to_path(path);
-    if (!system_path || !set_modified(system_path->c_str(), modified)) return false;
-    const DWORD before = GetFileAttributesW(system_path->c_str());
+bool set_status(const std::filesystem::path& path, std::uint32_t permissions, std::time_t modified) {
+    if (!set_modified(path.c_str(), modified)) return false;
+    const DWORD before = GetFileAttributesW(path.c_str());
     if (before == INVALID_FILE_ATTRIBUTES) return false;
     const bool is_writable = (permissions & 0200U) != 0;
     const DWORD after = is_writable ? before & ~DWORD{FILE_ATTRIBUTE_READONLY} : before | FILE_ATTRIBUTE_READONLY;
-    return SetFileAttributesW(system_path->c_str(), after) != 0;
+    return SetFileAttributesW(path.c_str(), after) != 0;
 }
+
+}  // namespace system_file
 
 std::u16string without_drive(const std::u16string& path) {
     std::size_t begin = path.starts_with(u"//?/") || path.starts_with(u"//./") ? 4 : 0;
