@@ -52,10 +52,6 @@ else()
   target_compile_options(vyr_warnings INTERFACE -Wall -Wextra -Wpedantic -Wconversion -Wshadow -Wnon-virtual-dtor
                                                 $<$<BOOL:${VYR_WARNINGS_AS_ERRORS}>:-Werror>)
 endif()
-# Counts of 64 bits that stand for places in memory are wider than a size only where a size has 32.
-if(VYR_IS_X86_32)
-  target_compile_options(vyr_warnings INTERFACE -Wno-conversion)
-endif()
 
 # g++ 12 takes `"text" + std::string` for an overlapping copy (gcc bug 105651); for targets that are full of that.
 function(vyr_allow_concatenation target)

@@ -67,15 +67,15 @@ public:
 private:
     static constexpr std::size_t k_longest = 10;  ///< bytes of a number, at seven bits each
 
-    static void put(std::uint64_t number, char** end) {
+    static void put(std::size_t number, char** end) {
         for (; number > 127; number >>= 7U) *(*end)++ = static_cast<char>(number | 128U);
         *(*end)++ = static_cast<char>(number);
     }
-    std::uint64_t get(std::size_t* position) const {
-        std::uint64_t number = 0;
+    std::size_t get(std::size_t* position) const {
+        std::size_t number = 0;
         for (unsigned shift = 0;; shift += 7) {
             const auto byte = static_cast<unsigned char>(m_bytes[(*position)++]);
-            number |= static_cast<std::uint64_t>(byte & 127U) << shift;
+            number |= static_cast<std::size_t>(byte & 127U) << shift;
             if (byte < 128) return number;
         }
     }

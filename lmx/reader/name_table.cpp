@@ -27,7 +27,7 @@ std::size_t c_name_table::find_in_place(std::string_view text) const {
 }
 
 std::size_t c_name_table::find_in_tree(std::string_view text, s_path* path) const {
-    for (std::uint64_t row = m_root; row != k_none;) {
+    for (std::size_t row = m_root; row != k_none;) {
         const int order = text.compare(name(row));
         if (order == 0) return row;
         path->rows[path->depth++] = row;
@@ -77,11 +77,11 @@ void c_name_table::clear() {
 
 // An AA tree: a right child may be of its parent's level, a left one and a right one's right one are below.
 
-void c_name_table::attach(const s_path& path, std::uint64_t row) {
-    std::uint64_t child = row;
+void c_name_table::attach(const s_path& path, std::size_t row) {
+    std::size_t child = row;
     int kept = 0;
     for (std::size_t i = path.depth; i-- > 0;) {
-        const std::uint64_t parent = path.rows[i];
+        const std::size_t parent = path.rows[i];
         const bool is_left = i + 1 == path.depth ? path.is_left : m_rows[parent].left == path.rows[i + 1];
         if (is_left) {
             m_rows[parent].left = child & k_none;
@@ -96,16 +96,16 @@ void c_name_table::attach(const s_path& path, std::uint64_t row) {
     m_root = child;
 }
 
-std::uint64_t c_name_table::skew(std::uint64_t root) {
-    const std::uint64_t left = m_rows[root].left;
+std::size_t c_name_table::skew(std::size_t root) {
+    const std::size_t left = m_rows[root].left;
     if (left == k_none || m_rows[left].level != m_rows[root].level) return root;
     m_rows[root].left = m_rows[left].right;
     m_rows[left].right = root & k_none;
     return left;
 }
 
-std::uint64_t c_name_table::split(std::uint64_t root) {
-    const std::uint64_t right = m_rows[root].right;
+std::size_t c_name_table::split(std::size_t root) {
+    const std::size_t right = m_rows[root].right;
     if (right == k_none || m_rows[right].right == k_none) return root;
     if (m_rows[m_rows[right].right].level != m_rows[root].level) return root;
     m_rows[root].right = m_rows[right].left;

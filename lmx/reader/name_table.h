@@ -50,7 +50,7 @@ public:
 
 private:
     static constexpr std::size_t k_few = 12;
-    static constexpr std::uint64_t k_none = (1U << 29U) - 1;
+    static constexpr std::size_t k_none = (1U << 29U) - 1;
 
     struct s_row {
         std::uint32_t name_end;  ///< in the names, behind its null
@@ -64,20 +64,20 @@ private:
     /// The way from the root to where a name is or would be.
     struct s_path {
         static constexpr std::size_t k_deepest = 64;  ///< twice the logarithm of the most rows and some
-        std::uint64_t rows[k_deepest];
+        std::size_t rows[k_deepest];
         std::size_t depth = 0;
         bool is_left = false;  ///< of the last row
     };
 
     std::size_t find_in_place(std::string_view name) const;
     std::size_t find_in_tree(std::string_view name, s_path* path) const;
-    void attach(const s_path& path, std::uint64_t row);
-    std::uint64_t skew(std::uint64_t root);
-    std::uint64_t split(std::uint64_t root);
+    void attach(const s_path& path, std::size_t row);
+    std::size_t skew(std::size_t root);
+    std::size_t split(std::size_t root);
 
     std::vector<s_row> m_rows;
     std::string m_names;
-    std::uint64_t m_root = k_none;  ///< of all rows once they are more than a few
+    std::size_t m_root = k_none;  ///< of all rows once they are more than a few
 };
 
 }  // namespace lmx
