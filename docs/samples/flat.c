@@ -11,7 +11,7 @@
 #include <vyr_flat.h>
 
 /* A null argument is a mistake of this program. */
-static void on_null(const char* text, const char* parameter) {
+static void VYR_FLAT_CALL on_null(const char* text, const char* parameter) {
     (void)parameter;
     fprintf(stderr, "%s\n", text);
     abort();
