@@ -116,6 +116,10 @@ TEST(Report, OfOneChangeToAGoodDocument) {
              ": Mandatory element missing: the element B is missing; <Vyr:AB> stands here (is B meant?)"},
         {"Vyr:B>2</Vyr:B", "Vyr:A>2</Vyr:A",
          "line 16: " + k_lab + ": Mandatory element missing: the element B is missing; <Vyr:A> stands here again"},
+        {"<Vyr:L>", "<L>",
+         "line 14: " + k_lab +
+             ": Mandatory element missing: the element L is missing; <L> stands here, which is in no namespace; the "
+             "namespace http://vyrgraph.com/v2 is expected"},
         {"<Vyr:L>50</Vyr:L>", "<q:L>50</q:L>",
          "line 14: " + k_lab +
              ": Mandatory element missing: the element L is missing; <q:L> stands here, whose prefix q is not "

@@ -61,6 +61,7 @@ TEST(Objects, SettersRunTheFacetsAndChangeNothingOnFailure) {
 
     v2::Averaging averaging;
     EXPECT_EQ(averaging.set_AveragingValue(1), ELMX_VALUE_BELOW_MIN);
+    EXPECT_EQ(averaging.set_AveragingValue(100), ELMX_VALUE_EXCEEDS_MAX);
     EXPECT_EQ(averaging.set_AveragingValue(99), ELMX_OK);
 }
 
