@@ -85,7 +85,7 @@ def main(arguments):
         if arguments:
             print(f"{name} differs from the schema; run: {COMMAND}", file=sys.stderr)
         elif name in files:
-            (ROOT / name).parent.mkdir(exist_ok=True)
+            (ROOT / name).parent.mkdir(parents=True, exist_ok=True)
             (ROOT / name).write_text(files[name], encoding="utf-8")
         else:
             (ROOT / name).unlink()

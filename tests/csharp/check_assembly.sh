@@ -60,20 +60,18 @@ case $part in
     walk)
         compile Walk "$source/tests/csharp/Walk.cs"
         "$walk" make palette.vyr 8000
-        # On a busy machine each takes longer now and then, in processor time too: the least of five runs counts.
-        least_ours=
-        least_theirs=
-        for _ in 1 2 3 4 5; do
+        # Processor time too depends on what else the machine does: each run is held against the one beside it, and the
+        # middle one of the ratios counts.
+        for _ in 1 2 3 4 5 6 7; do
             mapfile -t ours < <("$walk" palette.vyr)
             mapfile -t theirs < <(run Walk.exe palette.vyr)
             [[ ${ours[0]/e+/E+} == "${theirs[0]}" ]] || fail "C++ finds ${ours[0]}, C# ${theirs[0]}"
-            ((ours[1] < ${least_ours:=${ours[1]}})) && least_ours=${ours[1]}
-            ((theirs[1] < ${least_theirs:=${theirs[1]}})) && least_theirs=${theirs[1]}
-        done
+            echo "$((100 * theirs[1] / ours[1])) % of ${ours[1]} ms"
+        done | sort -n > ratios
         # Mono's start and what it compiles on the way are in C#'s time: some 30 ms, whatever the size.
-        echo "load and walk of 40 MB: C++ $least_ours ms, C# $least_theirs ms of processor time," \
-            "$((100 * least_theirs / least_ours)) %"
-        ((least_theirs <= 2 * least_ours)) || fail "C# takes more than twice the time"
+        middle=$(sed -n 4p ratios)
+        echo "load and walk of 40 MB: C# takes $middle of processor time in C++"
+        ((${middle%% *} <= 200)) || fail "C# takes more than twice the time: $(tr '\n' ';' < ratios)"
         ;;
     library)
         cat > Found.cs << 'PROGRAM'

@@ -12,6 +12,7 @@ import os
 import pathlib
 import pty
 import re
+import select
 import shutil
 import signal
 import subprocess
@@ -56,17 +57,18 @@ def on_terminal(*arguments, **environment):
     master, slave = pty.openpty()
     child = subprocess.Popen([vyr, *arguments], stdin=slave, stdout=slave, stderr=slave,
                              env={**os.environ, "TERM": "xterm", "NO_COLOR": "", **environment})
-    os.close(slave)
-    return drained(master), child.wait(120)
+    return drained(master, slave, child), child.wait(120)
 
 
-def drained(master):
+def drained(master, slave, child):
+    """What comes until the child has ended. The other end stays open, or what is on its way could be lost."""
     text = b""
-    try:
-        while piece := os.read(master, 65536):
-            text += piece
-    except OSError:
-        pass  # the other end is closed
+    while True:
+        if select.select([master], [], [], 0.3)[0]:
+            text += os.read(master, 65536)
+        elif child.poll() is not None:
+            break
+    os.close(slave)
     os.close(master)
     return text.decode(errors="replace")
 
@@ -321,8 +323,7 @@ def check_progress():
             time.sleep(1.2)
             child.send_signal(signal.SIGCONT)
             child.wait(120)
-            os.close(slave)
-            text = drained(master)
+            text = drained(master, slave, child)
             if "printing" in text:
                 break
         if "\rprinting long.vyr, 1 s" not in text or not text.endswith("\r\x1b[K"):
