@@ -79,7 +79,7 @@ if(VYR_BUILD_FLAT AND BUILD_SHARED_LIBS)
   # The extension module is no part of the build: the first of these makes it.
   vyr_add_check(python_module ${checks}/python/check_package.sh module ${PROJECT_BINARY_DIR} ${PROJECT_SOURCE_DIR}
                 ${Python3_EXECUTABLE})
-  foreach(part tests types)
+  foreach(part tests types wheel)
     vyr_add_check(python_${part} ${checks}/python/check_package.sh ${part} ${PROJECT_BINARY_DIR} ${PROJECT_SOURCE_DIR}
                   ${Python3_EXECUTABLE})
     set_tests_properties(python_${part} PROPERTIES FIXTURES_REQUIRED python SKIP_RETURN_CODE 77)

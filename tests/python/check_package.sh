@@ -6,7 +6,7 @@
 #
 #   check_package.sh PART BUILD_FOLDER SOURCE_FOLDER PYTHON
 #
-# PART: module (builds it), tests (with the C library checking what is freed), types (mypy).
+# PART: module (builds it), tests (with the C library checking what is freed), types (mypy), wheel (installed and used).
 
 set -euo pipefail
 part=$1
@@ -46,6 +46,23 @@ case $part in
         cd "$work"
         MYPYPATH=$build/python "$runner" -m mypy --strict --cache-dir "$work/cache" "$build/python/vyr" \
             "$source/tests/python/use_of_types.py"
+        ;;
+    wheel)
+        runner=$(python_with "setuptools, wheel, pip, venv") || skip "there is no setuptools, wheel or pip"
+        work=$(mktemp -d)
+        trap 'rm -rf "$work"' EXIT
+        cp -r "$source/pyproject.toml" "$source/setup.py" "$source/python" "$work"
+        mkdir "$work/docs" && cp "$source/docs/python.md" "$work/docs"
+        cd "$work"
+        unset PYTHONPATH
+        VYR_BUILD=$build "$runner" -m pip wheel -q --no-build-isolation --no-deps --no-index -w wheels .
+        "$runner" -m pip install -q --no-deps --no-index --target installed wheels/vyr-*-cp311-abi3-linux_*.whl
+        cd installed
+        [[ -n $(find vyr -name 'libvyr.so.*') && -f vyr/py.typed && -f vyr/generated/header.pyi ]] || { ls vyr; exit 1; }
+        # The library of the wheel is taken, not that of the build.
+        said=$(PYTHONPATH=$work/installed "$runner" -c "import vyr; print(len(list(vyr.colors(vyr.load('$source/examples/css-colors.vyr')))))
+print({line.split()[-1] for line in open('/proc/self/maps') if 'libvyr.so' in line})")
+        [[ $said == 148$'\n'"{'$work/installed/vyr/"* ]] || { echo "$said"; exit 1; }
         ;;
     *)
         echo "check_package.sh: there is no part $part" >&2
