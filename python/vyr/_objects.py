@@ -5,7 +5,10 @@
 from __future__ import annotations
 
 from array import array
-from collections.abc import Callable, Iterable, Iterator, MutableSequence, Sequence
+from collections.abc import Callable, Iterable, Iterator, Mapping, MutableSequence, Sequence
+from functools import cache
+from importlib import import_module
+from types import MappingProxyType
 from typing import TYPE_CHECKING, Any, TypeVar, Union, overload
 
 from . import _vyr
@@ -28,8 +31,8 @@ O = TypeVar("O", bound="Object")
 class Object(_vyr.Object):
     """An object of a document, or one that stands on its own.
 
-    The same part is always the same object. A part that was removed raises a RemovedError when it is used. An object and
-    its parts belong to one thread at a time, for reading too.
+    The same part is always the same object. A part that was removed raises a RemovedError when it is used. An object
+    and its parts belong to one thread at a time, for reading too.
     """
 
     __slots__ = ()
@@ -47,12 +50,9 @@ class Object(_vyr.Object):
         return self.copy()
 
     @classmethod
-    def properties(cls) -> dict[str, _vyr.Property[Any, Any]]:
+    def properties(cls) -> Mapping[str, _vyr.Property[Any, Any]]:
         """The properties of the class by name, those of its bases first."""
-        found: dict[str, _vyr.Property[Any, Any]] = {}
-        for base in reversed(cls.__mro__):
-            found |= {name: value for name, value in vars(base).items() if isinstance(value, _vyr.Property)}
-        return found
+        return _properties(cls)
 
     def __repr__(self) -> str:
         if not self.is_alive:
@@ -73,6 +73,20 @@ class Object(_vyr.Object):
         from ._html import to_html
 
         return to_html(self)
+
+
+def per_class(function: Callable[[type[Object]], T]) -> Callable[[type[Object]], T]:
+    """Remembers what a function says of a class. Checkers take classes for what can't be hashed, and so refuse `cache`."""
+    remembering: Callable[..., T] = cache(function)
+    return remembering
+
+
+@per_class
+def _properties(kind: type[Object]) -> Mapping[str, _vyr.Property[Any, Any]]:
+    found: dict[str, _vyr.Property[Any, Any]] = {}
+    for base in reversed(kind.__mro__):
+        found |= {name: value for name, value in vars(base).items() if isinstance(value, _vyr.Property)}
+    return MappingProxyType(found)
 
 
 def set_all(instance: object, values: dict[str, Any]) -> None:
@@ -211,12 +225,16 @@ def to_doubles(values: Any) -> Any:
     return array("d", values)
 
 
-def need_numpy() -> Any:
+def need(module: str, what: str) -> Any:
+    """A module that the package can do without."""
     try:
-        import numpy
+        return import_module(module)
     except ImportError as error:
-        raise ImportError("arrays need numpy: install python3-numpy, or `pip install numpy`") from error
-    return numpy
+        raise ImportError(f"{what} need {module}: install python3-{module}, or `pip install {module}`") from error
+
+
+def need_numpy() -> Any:
+    return need("numpy", "arrays")
 
 
 def _columns(points: _vyr.Property[Any, Any], *names: str) -> tuple[Callable[..., Any], Callable[..., None]]:

@@ -66,8 +66,10 @@ def test_values_and_setting_them(palette):
     with pytest.raises(vyr.FormatError):
         vyr.set_spectra(document, [400, 700], [[0.5, 0.5]] * 147 + [[0.5, 11]])
     assert numpy.array_equal(vyr.spectra(document).values, values[:, :2])
-    with pytest.raises(ValueError, match="no kind"):
-        vyr.values(document, "munsell")
+    for wrong in (lambda: vyr.values(document, "munsell"), lambda: vyr.set_values(document, "spectral", values),
+                  lambda: vyr.set_spectra(document, [400], values, "lab"), lambda: vyr.frame(document, "hue")):
+        with pytest.raises(ValueError, match="no kind"):
+            wrong()
 
 
 @pytest.mark.parametrize("kind", ["lab", "lch", "luv", "xyz", "xyy", "rgb", "srgb", "adobe_rgb", "cmyk", "hsl", "hsv"])
@@ -90,6 +92,26 @@ def test_conditions_and_frames(inks):
     spectra = vyr.frame(document_of(("A", [400, 500], [0.1, 0.2])), "spectral")
     assert spectra.columns.tolist() == [400, 500] and spectra.loc["A", 500] == 0.2
     assert list(vyr.frame([], "lab").columns) == ["l", "a", "b"]
+    ragged = vyr.frame(document_of(("A", [510, 400], [0.3, 0.1]), ("A", [400, 500], [0.5, 0.2])), "spectral")
+    assert ragged.columns.tolist() == [400, 500, 510] and ragged.index.tolist() == ["A", "A"]
+    assert ragged.fillna(-1).values.tolist() == [[0.1, -1, 0.3], [0.5, 0.2, -1]]
+
+
+def test_conditions_of_many_values(inks):
+    """Each row has the conditions of its own value, also where one colour has several of a kind."""
+    pytest.importorskip("pandas")
+    document = vyr.load(inks)
+    color_set = document.palettes[0].color_sets[0]
+    color_set.colors.append(color_set.colors[0])
+    first, second = color_set.colors
+    first.color_spaces.append(first.color_spaces.lab)
+    first.color_spaces[-1].lab.l = 7
+    specification = first.color_spaces[-1].lab.color_space_specification_spectrum_tristimulus
+    specification.illumination_options.illuminant.value = "Illuminant_A"
+    second.color_spaces.lab.color_space_specification_spectrum_tristimulus.set_nil()
+    frame = vyr.frame(document, "lab")
+    assert frame["l"].tolist() == [58.1, 7, 58.1] and frame.index.tolist() == ["Warm red"] * 3
+    assert frame["illuminant"].fillna("").tolist() == ["Illuminant_D50", "Illuminant_A", ""]
 
 
 def test_defaults_of_collections():
