@@ -15,7 +15,8 @@ from typing import Any
 from . import _vyr
 from ._documents import check as check, load as load, load_partly as load_partly, loads as loads
 from ._enumeration import Enumeration as Enumeration
-from ._errors import DocumentError as DocumentError, Fault as Fault, FormatError as FormatError, RemovedError as RemovedError, Report as Report
+from ._errors import DocumentError as DocumentError, Fault as Fault, FormatError as FormatError
+from ._errors import RemovedError as RemovedError, Report as Report
 from ._objects import Choice as Choice, ChoiceList as ChoiceList, List as List, Object as Object, TimeList as TimeList
 from .generated import *
 from ._bulk import Spectra as Spectra, Values as Values, colors as colors, conditions as conditions, frame as frame
@@ -26,7 +27,8 @@ __version__ = _vyr.version
 
 
 def schema_name(what: Any) -> str:
-    """What the format calls a class, an object's class, a property (`vyr.ColorType.color_name`) or an enumerated value."""
+    """What the format calls a class, an object's class, a property (`vyr.ColorType.color_name`) or an enumerated
+    value."""
     if isinstance(what, Enumeration):
         return what.text
     name = what.schema_name

@@ -80,10 +80,15 @@ class Whole(ElementFile):
         return loads, (self.to_bytes(),)
 
 
+def name_of(source: PathLike | IO[Any]) -> str | None:
+    """The name of a file that was given by it; None for an open one."""
+    return os.fspath(source) if isinstance(source, (str, os.PathLike)) else None
+
+
 def _load(source: Any, limit: int) -> tuple[Document, Report]:
     from .generated.header import Document
 
-    if isinstance(source, (str, os.PathLike)):
+    if name_of(source) is not None:
         made, told = _vyr.load_file(Document, whole_name(source), True, limit)
     else:
         data = source.read()
@@ -96,10 +101,11 @@ def load(source: PathLike | IO[Any], *, limit: int = LIMIT) -> Document:
     """Loads a document from a file: a plain one, or a container if its name ends in ".vyrz". Takes an open file too,
     which holds a plain document.
 
-    Raises an OSError for a file that can't be read, and a DocumentError with up to `limit` faults for one that is wrong.
+    Raises an OSError for a file that can't be read, and a DocumentError with up to `limit` faults for one that is
+    wrong.
     """
     made, report = _load(source, limit)
-    report.demand(os.fspath(source) if isinstance(source, (str, os.PathLike)) else None)
+    report.demand(name_of(source))
     return made
 
 
@@ -114,10 +120,10 @@ def loads(text: str | bytes) -> Document:
 
 
 def load_partly(source: PathLike | IO[Any], *, limit: int = LIMIT) -> tuple[Document, Report]:
-    """The same as `load` for documents with faults: what could be read of it, and the report. An OSError still raises."""
+    """The same as `load` for documents with faults: what could be read of it, and the report. A file that can't be read
+    still raises an OSError."""
     made, report = _load(source, limit)
-    if report.system_error:
-        report.demand(os.fspath(source) if isinstance(source, (str, os.PathLike)) else None)
+    report.demand_file(name_of(source))
     return made, report
 
 

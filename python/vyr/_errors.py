@@ -38,7 +38,7 @@ class Fault:
     detail: str  #: what would be right, or what is missing; may be empty
     file: str  #: as it was named; empty for texts and bytes
     item: str  #: the element, attribute or class
-    path: str  #: the open elements, with their names: `Palette "Inks" / ColorSet "All" / Color "Ink 17" / ...`
+    path: str  #: the open elements, with their names: `Palette "Inks" / ColorSet "All" / Color "Ink 17"`
     value: str  #: the value as read, shortened
 
 
@@ -56,7 +56,8 @@ class Report:
     @classmethod
     def of(cls, told: tuple[Any, ...]) -> Report:
         code, faults, total, is_read_to_end, system_error, text = told
-        return cls(code, [Fault(*fault) for fault in faults], total, bool(is_read_to_end), system_error, text.rstrip("\n"))
+        found = [Fault(*fault) for fault in faults]
+        return cls(code, found, total, bool(is_read_to_end), system_error, text.rstrip("\n"))
 
     def __bool__(self) -> bool:
         return self.code == 0
@@ -64,10 +65,14 @@ class Report:
     def __str__(self) -> str:
         return self.text
 
-    def demand(self, path: str | None) -> None:
-        """Raises for a failure: an OSError where the system refused, or else a DocumentError."""
+    def demand_file(self, path: str | None) -> None:
+        """Raises an OSError where the system refused the file."""
         if self.system_error:
             raise OSError(self.system_error, os.strerror(self.system_error), path)
+
+    def demand(self, path: str | None) -> None:
+        """The same, and raises a DocumentError for any other failure."""
+        self.demand_file(path)
         if not self:
             raise DocumentError(self)
 

@@ -8,7 +8,7 @@ from html import escape
 from typing import TYPE_CHECKING, Any
 
 from . import _vyr
-from ._objects import Choice, List, Object, read
+from ._objects import Choice, Object, read
 
 if TYPE_CHECKING:
     from .generated import ColorType
@@ -23,7 +23,8 @@ def swatch(color: ColorType) -> str:
     if rgb is None:
         return ""
     channels = ", ".join(f"{round(255 * value)}" for value in (rgb.red, rgb.green, rgb.blue))
-    return f'<span style="display:inline-block;width:2em;height:1em;background:rgb({channels})" title="sRGB {channels}"></span>'
+    style = f"display:inline-block;width:2em;height:1em;background:rgb({channels})"
+    return f'<span style="{style}" title="sRGB {channels}"></span>'
 
 
 def curve(color: ColorType) -> str:
@@ -33,8 +34,10 @@ def curve(color: ColorType) -> str:
         return ""
     first, last = points[0][0], points[-1][0]
     low, high = min(0.0, *(v for _, v in points)), max(1.0, *(v for _, v in points))
-    line = " ".join(f"{(w - first) / (last - first) * WIDTH:.1f},{(high - v) / (high - low) * HEIGHT:.1f}" for w, v in points)
-    return (f'<svg width="{WIDTH}" height="{HEIGHT}" viewBox="0 0 {WIDTH} {HEIGHT}"><title>{first:g} to {last:g} nm</title>'
+    scale, height = WIDTH / (last - first), HEIGHT / (high - low)
+    line = " ".join(f"{(w - first) * scale:.1f},{(high - v) * height:.1f}" for w, v in points)
+    return (f'<svg width="{WIDTH}" height="{HEIGHT}" viewBox="0 0 {WIDTH} {HEIGHT}">'
+            f'<title>{first:g} to {last:g} nm</title>'
             f'<polyline points="{line}" fill="none" stroke="currentColor"/></svg>')
 
 
@@ -50,7 +53,8 @@ def numbers(instance: Object) -> str:
 
 def color_row(color: ColorType) -> str:
     spaces = "<br>".join(f"{space.chosen}: {numbers(space.held)}" for space in color.color_spaces if space.chosen)
-    return f"<tr><td>{swatch(color)}</td><td>{escape(color.color_name)}</td><td>{spaces}</td><td>{curve(color)}</td></tr>"
+    cells = (swatch(color), escape(color.color_name), spaces, curve(color))
+    return f"<tr>{''.join(f'<td>{cell}</td>' for cell in cells)}</tr>"
 
 
 def table(rows: list[str], left_out: int = 0) -> str:
@@ -62,11 +66,9 @@ def value_row(instance: Object, name: str, item: _vyr.Property[Any, Any]) -> str
     value = read(instance, name)
     if value is None or value == "" or (item.shape == "list" and not len(value)):
         return ""
-    if item.shape == "list":
-        text = f"{len(value)}" if len(value) > 3 or isinstance(value[0:1], Object) else repr(value)
-    else:
-        text = repr(value) if isinstance(value, Object) else str(value)
-    return f"<tr><th style='text-align:left'>{escape(name)}</th><td style='text-align:left'>{escape(text)}</td></tr>"
+    text = str(len(value) if item.shape == "list" and len(value) > 3 else value)
+    left = "style='text-align:left'"
+    return f"<tr><th {left}>{escape(name)}</th><td {left}>{escape(text)}</td></tr>"
 
 
 def to_html(instance: Object) -> str:
