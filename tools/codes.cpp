@@ -97,7 +97,7 @@ exit_code codes(const codes_options& options) {
     const std::vector<std::string>& wanted = options.codes;
     for (const std::string& text : wanted) {
         if (std::ranges::any_of(k_codes, [&](const s_code& row) { return is_meant(row, text); })) continue;
-        std::cerr << "vyr: there is no result code " << quoted(text) << "; 'vyr codes' lists them all\n";
+        std::cerr << "vyr: there is no result code " << in_quotes(text) << "; 'vyr codes' lists them all\n";
         return exit_usage_or_file;
     }
     json rows = json::array();

@@ -80,9 +80,9 @@ void c_changes::add(e_change kind, const std::string& path, std::optional<std::s
     }
     std::string line = form.sign + (" " + path);
     if (before || after) line += ":";
-    if (before) line += " " + quoted(*before);
+    if (before) line += " " + in_quotes(*before);
     if (before && after) line += " ->";
-    if (after) line += " " + quoted(*after);
+    if (after) line += " " + in_quotes(*after);
     line += note;
     m_out << (m_has_color ? colored(line, form.color) : line) << '\n';
 }

@@ -34,7 +34,7 @@ public:
     /// What is wrong with the text; empty if it is JSON.
     std::string fault() const {
         if (!m_fault.empty() || m_repeated.empty()) return m_fault;
-        return "the member " + vyr_tool::quoted(m_repeated) + " is given twice in an object";
+        return "the member " + in_quotes(m_repeated) + " is given twice in an object";
     }
 
     bool null() override { return add({}); }

@@ -179,7 +179,7 @@ fs::path behind_links(fs::path path) {
 
 enum class target_kind { stream, folder, file, device };
 
-target_kind kind_of(const std::string& target, struct stat* state, bool* exists) {
+target_kind kind_of_target(const std::string& target, struct stat* state, bool* exists) {
     *exists = false;
     if (target == k_standard_stream) return target_kind::stream;
     *exists = stat(target.c_str(), state) == 0;
@@ -372,7 +372,7 @@ c_scratch_folder::c_scratch_folder() {
 c_scratch_folder::c_scratch_folder(const std::string& target) {
     struct stat state {};
     bool exists = false;
-    switch (kind_of(target, &state, &exists)) {
+    switch (kind_of_target(target, &state, &exists)) {
         case target_kind::folder:
             m_refusal = k_is_directory;
             return;
@@ -428,7 +428,7 @@ std::optional<std::u16string> widen(const std::string& text) {
 std::string deliver(const fs::path& finished, const std::string& target) {
     struct stat state {};
     bool exists = false;
-    switch (kind_of(target, &state, &exists)) {
+    switch (kind_of_target(target, &state, &exists)) {
         case target_kind::folder:
             return k_is_directory;
         case target_kind::file:

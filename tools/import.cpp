@@ -111,7 +111,7 @@ private:
         return exit_document_fails;
     }
 
-    static std::string column_name(std::string_view header) { return "column " + vyr_tool::quoted(header) + ": "; }
+    static std::string column_name(std::string_view header) { return "column " + in_quotes(header) + ": "; }
     std::string cell_name(std::size_t column) const { return column_name(m_rows[0].cells[column]); }
 
     void read_headers() {
@@ -210,7 +210,7 @@ private:
             const auto is_control = [](char c) { return c >= 0 && c < ' ' && c != '\n' && c != '\t'; };
             if (std::ranges::none_of(m_rows[row].cells[i], is_control)) continue;
             return complain_of(line, cell_name(i) + "there is a character that a document can't hold: " +
-                                         vyr_tool::quoted(m_rows[row].cells[i]));
+                                         in_quotes(m_rows[row].cells[i]));
         }
         if (cell(row, csv_header::color).empty()) {
             return complain_of(line, column_name(csv_header::color) + "the colour has no name");
@@ -219,8 +219,8 @@ private:
         std::vector<std::string_view> spaces;
         if (!space.empty()) {
             if (c_members::of(ColorType::k_class).element(k_space_prefix + space) == nullptr) {
-                return complain_of(line, cell_name(m_headers.at(csv_header::space)) + vyr_tool::quoted(space) +
-                                             " is no kind of value");
+                return complain_of(
+                    line, cell_name(m_headers.at(csv_header::space)) + in_quotes(space) + " is no kind of value");
             }
             spaces = {space};
         } else {

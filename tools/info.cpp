@@ -128,12 +128,12 @@ void print_besides(const c_tree& tree, index node, std::string_view name, const 
 void print_palettes(const c_tree& tree) {
     for (const index palette : children(tree, 0, "Palette")) {
         const std::vector<index> sets = children(tree, palette, "ColorSet");
-        std::cout << "\nPalette " << quoted(tree.title(palette)) << ": "
+        std::cout << "\nPalette " << in_quotes(tree.title(palette)) << ": "
                   << counted(sets.size(), "colour set", "colour sets") << '\n';
         print_besides(tree, palette, "Owner", "  ");
         for (const index set : sets) {
             std::cout << std::setw(9) << children(tree, set, "Color").size() << "  in ColorSet "
-                      << quoted(tree.title(set)) << '\n';
+                      << in_quotes(tree.title(set)) << '\n';
             print_besides(tree, set, "Owner", "           ");
         }
     }
@@ -142,7 +142,7 @@ void print_palettes(const c_tree& tree) {
 /// Standards with their tolerances, measurements with their results; the colours are `list`'s.
 void print_records(const c_tree& tree) {
     for (const index record : children(tree, 0, "ColorQualityControl")) {
-        std::cout << "\nQuality control" << (tree.title(record).empty() ? "" : " " + quoted(tree.title(record)))
+        std::cout << "\nQuality control" << (tree.title(record).empty() ? "" : " " + in_quotes(tree.title(record)))
                   << '\n';
         print_besides(tree, record, "Tolerance", "  ");
         print_besides(tree, record, "PhysicalSample", "  ");
@@ -150,7 +150,7 @@ void print_records(const c_tree& tree) {
             for (const std::string_view part : {"Standard", "Measurement"}) {
                 for (const index i : children(tree, pair, part)) {
                     const index color = tree.child(i, "Color");
-                    std::cout << "  " << part << ' ' << (color == 0 ? "unknown" : quoted(tree.title(color))) << '\n';
+                    std::cout << "  " << part << ' ' << (color == 0 ? "unknown" : in_quotes(tree.title(color))) << '\n';
                     for (index j = i + 1; j < tree.end(i); j = tree.end(j)) {
                         if (tree.name(j) != "Color") {
                             std::cout << "    " << printable(tree.name(j)) << ": " << record_text(tree, j) << '\n';

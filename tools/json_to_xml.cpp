@@ -81,7 +81,7 @@ std::string step_of(const s_member& member, const json& value, std::size_t numbe
         const s_member* const title = c_members::of(*member.item->type).title();
         const auto found = title == nullptr ? value.end() : value.find(std::string(title->key));
         if (found != value.end() && found->is_string()) {
-            return step + " " + vyr_tool::quoted(found->get_ref<const std::string&>());
+            return step + " " + in_quotes(found->get_ref<const std::string&>());
         }
     }
     return number == 0 ? step : step + "[" + std::to_string(number) + "]";
@@ -198,7 +198,7 @@ std::vector<c_json_to_xml::s_part> c_json_to_xml::parts_of(const json& object, c
         if (key == k_type_key || key == k_nil_key) continue;
         const s_member* const member = members.by_key(key);
         if (member == nullptr) {
-            fault(object, "there is no " + vyr_tool::quoted(key) + " here; " + names_of(members));
+            fault(object, "there is no " + in_quotes(key) + " here; " + names_of(members));
             continue;
         }
         if (!member->is_list()) {
@@ -210,7 +210,7 @@ std::vector<c_json_to_xml::s_part> c_json_to_xml::parts_of(const json& object, c
             continue;
         }
         if (!value.is_array()) {
-            fault(value, vyr_tool::quoted(key) + " must be an array");
+            fault(value, in_quotes(key) + " must be an array");
             continue;
         }
         for (std::size_t i = 0; i < value.size(); ++i)
@@ -227,7 +227,7 @@ void c_json_to_xml::add_entry(const c_members& members, const s_member& list, co
     const s_member* const member =
         entry.is_object() && entry.size() == 1 ? members.element(entry.begin().key()) : nullptr;
     if (member != nullptr && member->holder == list.holder) return parts.push_back({member, &entry.front(), number});
-    fault(entry, "entry " + std::to_string(std::max<std::size_t>(number, 1)) + " of " + vyr_tool::quoted(list.key) +
+    fault(entry, "entry " + std::to_string(std::max<std::size_t>(number, 1)) + " of " + in_quotes(list.key) +
                      " must be an object of one member, which is called as an element of this group");
 }
 

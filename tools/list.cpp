@@ -217,7 +217,7 @@ void print_text(const c_tree& tree, std::span<const s_color> colors, const color
         if (i != 0) std::cout << '\n';
         if (colors[i].record != 0 && colors[i].record != record) {
             record = colors[i].record;
-            std::cout << "Quality control" << (tree.title(record).empty() ? "" : " " + quoted(tree.title(record)))
+            std::cout << "Quality control" << (tree.title(record).empty() ? "" : " " + in_quotes(tree.title(record)))
                       << '\n';
             print_besides(tree, record);
             std::cout << '\n';

@@ -10,7 +10,7 @@ namespace vyr_tool {
 namespace {
 
 /// Allocators hand pieces of this size back to the system one by one.
-constexpr std::size_t k_piece = std::size_t{1} << 19U;
+constexpr std::size_t k_longest_piece = std::size_t{1} << 19U;
 /// What is moved instead of being copied.
 constexpr std::size_t k_long = std::size_t{1} << 15U;
 
@@ -21,7 +21,7 @@ void release(std::string& piece) { std::string().swap(piece); }
 c_long_text& c_long_text::append(std::string_view text) {
     m_size += text.size();
     if (m_pieces.empty()) m_pieces.emplace_back();
-    if (m_pieces.back().size() + text.size() > k_piece) m_pieces.emplace_back().reserve(k_piece);
+    if (m_pieces.back().size() + text.size() > k_longest_piece) m_pieces.emplace_back().reserve(k_piece);
     m_pieces.back() += text;
     return *this;
 }

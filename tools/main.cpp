@@ -302,7 +302,7 @@ void explain_usage(const CLI::App& app, const CLI::ParseError& error, const std:
     if (first.empty()) {
         std::cerr << app.help();
     } else if (chosen.empty() && !first.starts_with('-')) {
-        std::cerr << "vyr: there is no command " << quoted(first) << suggestion(first, command_names(app))
+        std::cerr << "vyr: there is no command " << in_quotes(first) << suggestion(first, command_names(app))
                   << "; 'vyr --help' lists them\n";
     } else {
         const std::string command = chosen.empty() ? "vyr" : "vyr " + chosen.front()->get_name();

@@ -79,7 +79,7 @@ std::string printable_json(std::string_view json) {
     return out;
 }
 
-std::string quoted(std::string_view text) { return '"' + printable(text) + '"'; }
+std::string in_quotes(std::string_view text) { return '"' + printable(text) + '"'; }
 
 std::size_t width(std::string_view text) {
     std::size_t columns = 0;

@@ -21,7 +21,7 @@ std::string printable(std::string_view text);
 std::string printable_json(std::string_view json);
 
 /// The text in double quotes, printable.
-std::string quoted(std::string_view text);
+std::string in_quotes(std::string_view text);
 
 /// The columns that printable text takes.
 std::size_t width(std::string_view text);

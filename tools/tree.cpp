@@ -186,7 +186,7 @@ std::string c_steps::step(c_tree::index parent, c_tree::index node) {
     const s_step& step = m_steps[node];
     const std::string_view title = m_tree.title(node);
     std::string text = m_tree.name(node).empty() ? "text" : printable(m_tree.name(node));
-    if (step.is_titled && !title.empty()) text += " " + quoted(title);
+    if (step.is_titled && !title.empty()) text += " " + in_quotes(title);
     return step.is_numbered ? text + "[" + std::to_string(step.number) + "]" : text;
 }
 

@@ -160,11 +160,11 @@ bool is_of_value(lmx::elmx_error code) {
     }
 }
 
-struct s_limits {
+struct s_limit_names {
     std::string_view low;
     std::string_view high;
 };
-constexpr s_limits k_limits[] = {
+constexpr s_limit_names k_limits[] = {
     {"LowValue", "HighValue"}, {"LowTolerance", "HighTolerance"}, {"AxisNominalMin", "AxisNominalMax"}};
 
 }  // namespace
@@ -450,13 +450,13 @@ void c_warnings::c_pass::look_at_attribute(std::string_view name, std::string_vi
     s_element& element = m_open.back();
     const s_member* const member = element.type == nullptr ? nullptr : c_members::of(*element.type).attribute(name);
     if (member == nullptr) return;
-    if ((member->item->use & lmx::use_name) != 0) element.step += " " + quoted(value.substr(0, k_longest_value));
+    if ((member->item->use & lmx::use_name) != 0) element.step += " " + in_quotes(value.substr(0, k_longest_value));
     look_at_value(element.name.c_str(), member->item->value, value);
     note_limit(&element, name, value);
     if (parent == nullptr) return;
     if (name == "UniqueID" && is_wanted(warning::duplicate_id) && !parent->ids.emplace(value).second) {
         add_here(warning::duplicate_id,
-                 "UniqueID " + quoted(value.substr(0, k_longest_value)) + " stands here again");
+                 "UniqueID " + in_quotes(value.substr(0, k_longest_value)) + " stands here again");
     }
     if (name == "Wavelength") {
         if (const std::optional<double> wavelength = number_of(value)) look_at_wavelength(*wavelength, parent);

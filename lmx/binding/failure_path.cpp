@@ -73,7 +73,7 @@ std::string step_of(const s_open_element& element, std::string_view own_name) {
         name = name_of(*item, element.object);
     }
     const std::string step = shown(local);
-    if (!name.empty()) return joined({step, " ", quoted(name)});
+    if (!name.empty()) return joined({step, " ", in_quotes(name)});
     return number.number > 0 ? joined({step, "[", std::to_string(number.number), "]"}) : step;
 }
 

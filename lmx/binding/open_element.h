@@ -35,6 +35,11 @@ struct s_open_element {
     const char* get_name() const { return node != nullptr ? node->get_str() : written_name; }
 };
 
+/// Notes the item of the innermost open element that was read.
+inline void note_item(c_xml_reader& reader, const s_item& item) {
+    if (s_open_element* const element = reader.notes().open_element) element->last_item = &item;
+}
+
 /// What a failure is about, as far as its code doesn't say it. All may be null.
 struct s_fault_site {
     const s_class* type = nullptr;  ///< the class whose item it is, or that lacks something

@@ -235,10 +235,6 @@ bool is_named(const s_item& row) {
     }
 }
 
-void note_item(c_xml_reader& reader, const s_item& row) {
-    if (s_open_element* const element = reader.notes().open_element) element->last_item = &row;
-}
-
 }  // namespace
 
 c_plain_way::e_step c_plain_way::take_items(const s_class& type, void* object, s_place* place,

@@ -79,7 +79,7 @@ std::string make_shown(std::string_view text, std::size_t limit, std::string_vie
 
 std::string shown(std::string_view text, std::size_t limit) { return make_shown(text, limit, ""); }
 
-std::string quoted(std::string_view text, std::size_t limit) {
+std::string in_quotes(std::string_view text, std::size_t limit) {
     return joined({"\"", make_shown(text, limit, "\"\\"), "\""});
 }
 

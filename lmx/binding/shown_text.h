@@ -18,7 +18,7 @@ namespace lmx {
 std::string shown(std::string_view text, std::size_t limit = 100);
 
 /// The same in double quotes, with quotes and backslashes inside escaped.
-std::string quoted(std::string_view text, std::size_t limit = 60);
+std::string in_quotes(std::string_view text, std::size_t limit = 60);
 
 /// "A", "A or B", "A, B or C"; of a long list, how many more there are.
 std::string listed(std::span<const std::string> names, std::string_view conjunction);

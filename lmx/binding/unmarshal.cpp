@@ -37,10 +37,6 @@ bool goes_on_by(c_xml_reader& reader, const s_fault_site& site, elmx_error code,
     return *error == ELMX_OK;
 }
 
-void note_item(c_xml_reader& reader, const s_item& item) {
-    if (s_open_element* const element = reader.notes().open_element) element->last_item = &item;
-}
-
 bool next_element(c_xml_reader& reader, const s_event_map* map, std::string* name, elmx_error* error) {
     *error = ELMX_OK;
     reader.get_element_event(map, error, name);
