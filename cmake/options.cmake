@@ -49,7 +49,10 @@ if(MSVC)
   # The generated sources speak to GCC and clang; without the last two, texts would be read in the machine's code page.
   target_compile_options(vyr_warnings INTERFACE /W3 /wd4068 $<$<BOOL:${VYR_WARNINGS_AS_ERRORS}>:/WX> /utf-8 /EHsc)
 else()
-  target_compile_options(vyr_warnings INTERFACE -Wall -Wextra -Wpedantic -Wconversion -Wshadow -Wnon-virtual-dtor
+  # In a file of many files a local name may be another file's; the files by themselves are asked by presets that
+  # compile them so.
+  target_compile_options(vyr_warnings INTERFACE -Wall -Wextra -Wpedantic -Wconversion -Wnon-virtual-dtor
+                                                $<$<NOT:$<BOOL:$<TARGET_PROPERTY:UNITY_BUILD>>>:-Wshadow>
                                                 $<$<BOOL:${VYR_WARNINGS_AS_ERRORS}>:-Werror>)
 endif()
 

@@ -49,11 +49,12 @@ void append_to(std::string& target, const char* text, std::size_t size) {
 }  // namespace
 
 struct c_output::s_string_stream {
-    explicit s_string_stream(std::string& text) : buffer(text), stream(&buffer) {
+    explicit s_string_stream(std::string& text)
+        : buffer(std::make_unique<c_appending_buffer>(text)), stream(buffer.get()) {
         stream.imbue(std::locale::classic());
         stream.exceptions(std::ios_base::badbit);
     }
-    c_appending_buffer buffer;
+    std::unique_ptr<std::streambuf> buffer;
     std::ostream stream;
 };
 
