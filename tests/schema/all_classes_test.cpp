@@ -94,7 +94,7 @@ std::vector<s_bad_value> bad_values(const s_item& item) {
     const double step = is_integer(item.value) ? 1 : 0.001;
     if (!std::isinf(facets.minimum)) {
         values.push_back({number_text(facets.minimum - (facets.minimum_exclusive ? 0 : step)), ELMX_VALUE_BELOW_MIN});
-        if (is_integer(item.value)) values.back().text = std::to_string(std::lround(std::stod(values.back().text)));
+        if (is_integer(item.value)) values.back().text = std::to_string(std::llround(std::stod(values.back().text)));
     }
     if (!std::isinf(facets.maximum)) {
         values.push_back(
