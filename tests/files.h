@@ -17,6 +17,13 @@
 
 namespace vyr_test {
 
+/// Names in UTF-8, as what is tested takes them and literals hold them; the system's own narrow names may be others.
+inline std::filesystem::path path_of(const std::string& name) { return std::u8string(name.begin(), name.end()); }
+inline std::string name_of(const std::filesystem::path& path) {
+    const std::u8string name = path.u8string();
+    return {name.begin(), name.end()};
+}
+
 inline std::string bytes_of(const std::filesystem::path& path) {
     std::ifstream file(path, std::ios::binary);
     return {std::istreambuf_iterator<char>(file), {}};
@@ -45,7 +52,7 @@ protected:
         std::filesystem::remove_all(m_folder);
         std::filesystem::create_directories(m_folder);
     }
-    std::filesystem::path path(const char* name) const { return m_folder / name; }
+    std::filesystem::path path(const char* name) const { return m_folder / path_of(name); }
 
     const std::filesystem::path m_folder =
         std::filesystem::path("scratch") / testing::UnitTest::GetInstance()->current_test_info()->name();

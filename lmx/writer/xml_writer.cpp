@@ -6,6 +6,7 @@
 #include "lmx/writer/xml_writer.h"
 
 #include <algorithm>
+#include <cstdint>
 #include <cstring>
 #include <locale>
 
@@ -61,6 +62,27 @@ void c_xml_writer::nest_all() {
     for (int level = 0; level < m_indent_level; ++level) nest();
 }
 
+namespace {
+
+/// On Windows a table in a host's module has jumps over that module's imports in place of this one's functions.
+const void* behind_import(const void* function) {
+#if defined(_WIN32) && (defined(__i386__) || defined(__x86_64__))
+    const auto* const code = static_cast<const unsigned char*>(function);
+    if (code[0] != 0xFF || code[1] != 0x25) return function;
+    std::uint32_t place = 0;
+    std::memcpy(&place, code + 2, sizeof place);
+#if defined(__x86_64__)
+    const auto* const import = code + 6 + static_cast<std::int32_t>(place);
+#else
+    const auto* const import = reinterpret_cast<const unsigned char*>(place);
+#endif
+    std::memcpy(&function, import, sizeof function);
+#endif
+    return function;
+}
+
+}  // namespace
+
 /// A host that derives for the sake of the errors shall not be slower than one that doesn't derive, so the functions
 /// themselves are compared. They stand in this order, behind two destructors and three functions; a writer under
 /// construction has those of this class.
@@ -69,7 +91,7 @@ c_xml_writer::layout_functions c_xml_writer::find_layout_functions() const {
     constexpr std::size_t endl_slot = 5;
     const void* const* functions = nullptr;
     std::memcpy(&functions, static_cast<const void*>(this), sizeof functions);
-    return {functions[endl_slot], functions[endl_slot + 1]};
+    return {behind_import(functions[endl_slot]), behind_import(functions[endl_slot + 1])};
 #else
     return {};
 #endif

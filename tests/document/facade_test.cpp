@@ -74,7 +74,7 @@ TEST_F(Facade, EndingsAreComparedExactly) {
         EXPECT_FALSE(is_there(name)) << name;
     }
     ASSERT_EQ(document.writeFile(path("\xC3\xA9.vyr")), ELMX_OK);
-    fs::rename(m_folder / "\xC3\xA9.vyr", m_folder / "b.xml");
+    fs::rename(ScratchFolder::path("\xC3\xA9.vyr"), m_folder / "b.xml");
     Vyr back;
     EXPECT_EQ(back.loadFile(path("b.xml")), ELMX_OK);
     // An archive under another ending is no XML.
@@ -157,7 +157,7 @@ TEST_F(Facade, AnArchiveIsOpenedBeforeFailuresBecomeACode) {
 
 TEST_F(Facade, NarrowPathsLeadToTheSameFiles) {
     for (const char* const name : {"Gr\u00FCn.vyr", "Gr\u00FCn.vyrz"}) {
-        const std::string narrow = (m_folder / name).string();
+        const std::string narrow = name_of(ScratchFolder::path(name));
         EXPECT_EQ(minimal_document().writeFile(narrow), ELMX_OK);
         Vyr wide_one;
         Vyr narrow_one;

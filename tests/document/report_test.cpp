@@ -521,7 +521,13 @@ TEST(Report, NamesFilesAndContainers) {
     EXPECT_EQ(load(std::string("\xFF.vyrz")),
               "\\xff.vyrz: Unable to open file: the name of a container must be UTF-8\n");
     EXPECT_EQ(load(u"a\xD800"), "a\\xed\\xa0\\x80: Unable to open file: the name is no text that a file can have\n");
+#if defined(_WIN32)  // where folders can't be opened
+    const std::string folder = "Permission denied";
+    EXPECT_EQ(load(u"folder.vyr"), "folder.vyr: Unable to open file: Permission denied\n");
+#else
+    const std::string folder = "Is a directory";
     EXPECT_EQ(load(u"folder.vyr"), "folder.vyr:1: Unexpected end of message: it is a directory\n");
+#endif
     EXPECT_EQ(load(u"text.vyrz"), "text.vyrz: Container can't be read or written: not a ZIP archive\n");
     EXPECT_EQ(load(u"damaged.vyrz").find("damaged.vyrz: Container can't be read or written: "), 0U);
     EXPECT_EQ(
@@ -532,7 +538,7 @@ TEST(Report, NamesFilesAndContainers) {
     EXPECT_EQ(write(u"missing/a.vyr"),
               "missing/a.vyr: Unable to open file: not written, or not in full: No such file or directory\n");
     EXPECT_EQ(write(u"missing/a.vyrz"), "missing/a.vyrz: Unable to open file: No such file or directory\n");
-    EXPECT_EQ(write(u"taken.vyrz"), "taken.vyrz: Unable to open file: Is a directory\n");
+    EXPECT_EQ(write(u"taken.vyrz"), "taken.vyrz: Unable to open file: " + folder + "\n");
     EXPECT_EQ(write(u"folder.vyrz").find("folder.vyrz: Container can't be read or written: "), 0U);
 }
 

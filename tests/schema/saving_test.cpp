@@ -52,6 +52,13 @@ std::string whole_text() {
     return text;
 }
 
+/// A DLL keeps to its own allocation functions.
+#if defined(_WIN32)
+constexpr bool k_reaches_the_library = false;
+#else
+constexpr bool k_reaches_the_library = true;
+#endif
+
 /// Refuses the first request for memory, then the second, and so on, until the action needs no more than it gets.
 /// Each refusal must be heard of, and leave what `check` looks at. Returns how many there were.
 int refuse_each_request(const std::function<void()>& action, const std::function<void()>& check) {
@@ -72,6 +79,7 @@ int refuse_each_request(const std::function<void()>& action, const std::function
 }
 
 TEST(Saving, MemoryThatRunsOutIsToldAndCutsNoText) {
+    if (!k_reaches_the_library) GTEST_SKIP() << "memory of a DLL can't be refused from here";
     const std::string whole = whole_text();
     ASSERT_GT(whole.size(), 5000U);
     std::string text = "untouched";
@@ -89,6 +97,7 @@ TEST(Saving, MemoryThatRunsOutIsToldAndCutsNoText) {
 }
 
 TEST(Changing, MemoryThatRunsOutLeavesObjectsAsTheyWere) {
+    if (!k_reaches_the_library) GTEST_SKIP() << "memory of a DLL can't be refused from here";
     using com_vyrgraph_v2::ColorSetType;
     const auto text_of = [](const ColorSetType& object) {
         std::ostringstream stream;
