@@ -14,7 +14,6 @@
 #include "lmx/binding/shown_text.h"
 #include "lmx/binding/storage.h"
 #include "lmx/values/unicode.h"
-#include "lmx/writer/as_xml.h"
 
 namespace lmx {
 
@@ -34,39 +33,23 @@ std::vector<const s_item*> absent_items(const s_class& type, const void* object)
     return rows;
 }
 
-/// The last step to a value of the open element that is being written.
-std::string written_step(const s_fault_site& site, const s_open_element* open) {
-    const s_item& item = *site.item;
-    if (item.kind == item_kind::content) return {};
-    const std::string_view name = local_part(item.name);
-    if (item.kind == item_kind::attribute) return joined({"@", name});
-    if (item.kind != item_kind::element_list) return std::string(name);
-    const c_list_base& entries = list_of(item, open->object);
+/// The number of an entry in its list; 1 if it isn't in one.
+std::size_t number_of(const s_fault_site& site, const s_open_element* open) {
+    if (site.item->kind != item_kind::element_list) return 1;
+    const c_list_base& entries = list_of(*site.item, open->object);
     std::size_t number = 1;
     while (number < entries.size() && entries.entry(number - 1) != site.object) ++number;
-    return joined({name, "[", std::to_string(number), "]"});
+    return number;
 }
 
 /// A value in the form in which it is read.
-std::string written_text(const s_item& item, const void* value) {
+std::string read_form(const s_item& item, const void* value) {
     std::string text;
-    with_value_type(item.value, [&](auto* type) {
-        using type_of_value = std::remove_pointer_t<decltype(type)>;
-        const auto& typed = *static_cast<const type_of_value*>(value);
-        if constexpr (std::is_same_v<type_of_value, std::u16string>) {
-            convert(&text, typed);
-        } else if constexpr (std::is_same_v<type_of_value, c_enumerated>) {
-            convert(&text, typed.get());
-        } else if constexpr (std::is_same_v<type_of_value, c_datetime>) {
-            typed.append_to(&text);
-        } else if constexpr (std::is_same_v<type_of_value, c_binary>) {
-            typed.append_base64(&text);
-        } else if constexpr (std::is_same_v<type_of_value, double>) {
-            append_as_xml(text, typed);
-        } else {
-            text = std::to_string(typed);
-        }
-    });
+    if (kind_of(item).is_text) {
+        convert(&text, text_in(item, value));
+    } else {
+        print_value(item, value, &text);
+    }
     return text;
 }
 
@@ -90,12 +73,13 @@ bool is_of_value(elmx_error code) {
 s_failure describe_failure(const c_xml_writer& writer, elmx_error code, const std::string& item_name) {
     s_failure failure;
     failure.item = shown(item_name);
-    failure.path = path_of(writer.notes().open_element, {}, {});
+    const s_open_element* const open = writer.notes().open_element;
+    failure.path = path_of(open, {}, {});
     const s_fault_site* const site = writer.notes().fault_site;
     if (site == nullptr) return failure;
     if (is_of_value(code)) {
-        failure.path = path_of(writer.notes().open_element, written_step(*site, writer.notes().open_element), {});
-        const std::string text = written_text(*site->item, site->object);
+        failure.path = path_of(open, step_of(*site->item, number_of(*site, open)), {});
+        const std::string text = read_form(*site->item, site->object);
         failure.value = shown(text);
         const bool is_text = kind_of(*site->item).is_text && code == ELMX_VALUE_BAD_FORMAT;
         failure.detail = is_text ? lost_in_text(*site->item, text_in(*site->item, site->object))

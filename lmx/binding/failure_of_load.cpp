@@ -10,6 +10,7 @@
 #include "lmx/binding/failure_path.h"
 #include "lmx/binding/failure_words.h"
 #include "lmx/binding/open_element.h"
+#include "lmx/binding/place.h"
 #include "lmx/binding/shown_text.h"
 #include "lmx/binding/storage.h"
 
@@ -134,11 +135,17 @@ private:
         return failure;
     }
 
+    /// The step to a value; an entry of a list isn't in it yet.
+    std::string value_step() const {
+        const bool is_entry = m_site.item->kind == item_kind::element_list;
+        return step_of(*m_site.item, is_entry ? list_of(*m_site.item, m_site.object).size() + 1 : 1);
+    }
+
     s_failure describe_value() const {
         s_failure failure;
         failure.line = m_diagnosis.event_line;
         failure.offset = m_diagnosis.event_offset;
-        failure.path = path_of(m_open, step_of(m_site), {});
+        failure.path = path_of(m_open, value_step(), {});
         failure.value = shown(m_reader.m_value);
         if (is_of_value(m_code)) {
             failure.detail = allowed_value(*m_site.item, m_code, m_reader.m_value);
@@ -205,9 +212,8 @@ private:
     /// Whether the element that was found has another namespace than those of the class, or none.
     bool is_foreign() const {
         if (!m_reader.is_current_event_tokenisable() || m_open == nullptr) return false;
-        const s_class* type = m_open->type;
-        while (type->element_map->name == nullptr && type->base != nullptr) type = type->base;
-        return type->element_map->name != nullptr && type->element_map->ns_id != m_reader.get_element_ns_id();
+        const s_event_map& expected = first_child_name(*m_open->type);
+        return expected.name != nullptr && expected.ns_id != m_reader.get_element_ns_id();
     }
     std::string format_namespace(int id) const {
         const char* const uri = m_reader.find_namespace_from_id(id);
@@ -247,19 +253,14 @@ private:
         }
         const std::string text = joined({"<", found_text(), "> stands here", is_repeated() ? " again" : ""});
         if (!is_foreign()) return joined({text, meant(local_part(m_reader.m_name), all)});
-        return joined(
-            {text, found_namespace(), "; the namespace ", format_namespace(namespace_of_open()), " is expected"});
+        return joined({text, found_namespace(), "; the namespace ",
+                       format_namespace(first_child_name(*m_open->type).ns_id), " is expected"});
     }
     /// All that the open element takes.
     names expected_names() const {
         names all;
         for (const s_item* item : all_rows(*m_open->type, &s_class::elements)) add_names(*item, &all);
         return all;
-    }
-    int namespace_of_open() const {
-        const s_class* type = m_open->type;
-        while (type->element_map->name == nullptr && type->base != nullptr) type = type->base;
-        return type->element_map->ns_id;
     }
 
     s_failure describe_structure() const {

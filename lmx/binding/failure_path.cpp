@@ -88,12 +88,18 @@ const s_item* name_item(const s_class& type) {
     return type.base != nullptr ? name_item(*type.base) : nullptr;
 }
 
-std::string step_of(const s_fault_site& site) {
-    const s_item& item = *site.item;
-    if (item.kind == item_kind::content) return {};
+std::string step_of(const s_item& item, std::size_t number) {
     const std::string_view name = local_part(item.name);
-    if (item.kind != item_kind::element_list) return std::string(name);
-    return joined({name, "[", std::to_string(list_of(item, site.object).size() + 1), "]"});
+    switch (item.kind) {
+        case item_kind::content:
+            return {};
+        case item_kind::attribute:
+            return joined({"@", name});
+        case item_kind::element_list:
+            return joined({name, "[", std::to_string(number), "]"});
+        default:
+            return std::string(name);
+    }
 }
 
 std::string path_of(const s_open_element* element, std::string_view last_step, std::string_view own_name) {

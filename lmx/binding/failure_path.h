@@ -18,8 +18,9 @@ namespace lmx {
 /// empty for none. `own_name` is a name for the innermost element if it holds none yet.
 std::string path_of(const s_open_element* element, std::string_view last_step, std::string_view own_name);
 
-/// The step for an item without a class of its own: "L", "ChangeHistory[3]"; empty for content.
-std::string step_of(const s_fault_site& site);
+/// The step for an item without a class of its own: "@Name", "L", "ChangeHistory[3]"; empty for content. `number` is
+/// that of a list's entry.
+std::string step_of(const s_item& item, std::size_t number);
 
 /// The item whose text names objects of a class; null if there's none.
 const s_item* name_item(const s_class& type);

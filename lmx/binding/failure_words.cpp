@@ -4,6 +4,7 @@
 #include "lmx/binding/failure_words.h"
 
 #include "lmx/binding/shown_text.h"
+#include "lmx/binding/storage.h"
 #include "lmx/binding/unmarshal.h"
 #include "lmx/values/unicode.h"
 
@@ -38,8 +39,6 @@ std::string length_limit(const char* start, std::size_t limit, const std::string
 }
 
 }  // namespace
-
-bool is_group(const s_item& item) { return item.kind == item_kind::group || item.kind == item_kind::group_list; }
 
 void add_names(const s_item& item, names* out) {
     if (item.kind == item_kind::any) {

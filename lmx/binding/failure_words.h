@@ -17,8 +17,6 @@ namespace lmx::words {
 
 using names = std::vector<std::string>;
 
-bool is_group(const s_item& item);
-
 /// Adds the name of an item, or those of a group's members.
 void add_names(const s_item& item, names* out);
 

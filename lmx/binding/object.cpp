@@ -63,11 +63,10 @@ bool has_asked_items(std::span<const s_item> items, const void* object) {
     return true;
 }
 
-/// The checks of a value that is set. What has no facets of its own passes.
-template <class T>
-class c_set_checks {
+/// The checks that a value passes when it is set, but for those that its type adds.
+class c_no_checks {
 public:
-    c_set_checks(const s_facets* facets, const T& value) : m_facets(facets), m_value(value) {}
+    explicit c_no_checks(const s_facets* facets) : m_facets(facets) {}
 
     bool is_valid() const { return true; }
     const s_facets* facets() const { return m_facets; }
@@ -75,6 +74,18 @@ public:
     bool is_enumerated(const s_facets&) const { return true; }
     bool is_too_short(const s_facets&) const { return false; }
     bool is_too_long(const s_facets&) const { return false; }
+    bool is_below(const s_facets&) const { return false; }
+    bool is_above(const s_facets&) const { return false; }
+
+private:
+    const s_facets* m_facets;
+};
+
+template <class T>
+class c_set_checks : public c_no_checks {
+public:
+    c_set_checks(const s_facets* facets, const T& value) : c_no_checks(facets), m_value(value) {}
+
     bool is_below(const s_facets& facets) const {
         if constexpr (!k_is_number)
             return false;
@@ -93,28 +104,22 @@ public:
 private:
     static constexpr bool k_is_number = std::is_arithmetic_v<T> && !std::is_same_v<T, bool>;
 
-    const s_facets* m_facets;
     const T& m_value;
 };
 
 template <>
-class c_set_checks<std::u16string> {
+class c_set_checks<std::u16string> : public c_no_checks {
 public:
-    c_set_checks(const s_facets* facets, const std::u16string& value) : m_facets(facets), m_value(value) {
+    c_set_checks(const s_facets* facets, const std::u16string& value) : c_no_checks(facets), m_value(value) {
         if (facets == nullptr) return;
         if (facets->enumerated != nullptr) m_literal = facets->enumerated->find(std::u16string_view(value));
         const bool has_limits = facets->minimum_length > 0 || facets->maximum_length < s_facets{}.maximum_length;
         if (has_limits) convert(&m_narrow, value);
     }
 
-    bool is_valid() const { return true; }
-    const s_facets* facets() const { return m_facets; }
-    bool is_matched(const s_facets&) const { return true; }
     bool is_enumerated(const s_facets& facets) const { return facets.enumerated == nullptr || m_literal != nullptr; }
     bool is_too_short(const s_facets& facets) const { return !is_min_length_ok(m_narrow, facets.minimum_length); }
     bool is_too_long(const s_facets& facets) const { return !is_max_length_ok(m_narrow, facets.maximum_length); }
-    bool is_below(const s_facets&) const { return false; }
-    bool is_above(const s_facets&) const { return false; }
 
     void store(void* target) const {
         if (m_literal != nullptr) {
@@ -125,7 +130,6 @@ public:
     }
 
 private:
-    const s_facets* m_facets;
     const std::u16string& m_value;
     const s_enumerated_text* m_literal = nullptr;
     std::string m_narrow;

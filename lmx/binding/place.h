@@ -12,27 +12,6 @@
 
 namespace lmx {
 
-/// The row that is due.
-struct s_due_row {
-    explicit s_due_row(const s_class& first) : level(&first) {}
-
-    const s_class* level;     ///< the class, or the base of it, whose rows are due
-    std::size_t index = 0;    ///< the row
-    bool is_entered = false;  ///< the row repeats, and this element has an entry of it already
-
-    const s_item& row() const { return level->elements[index]; }
-    bool is_at_end() const { return index == level->elements.size(); }
-};
-
-/// Where the reading of a class's content stands.
-struct s_place : s_due_row {
-    explicit s_place(const s_class& first) : s_due_row(first) {}
-
-    bool is_begun = false;             ///< something was read
-    const s_event_map* map = nullptr;  ///< what the event behind the last item is tokenised with
-    const s_item* group = nullptr;     ///< a group that was read last: the event behind it is still part of it
-};
-
 /// The level with which the reading of a class begins: its outermost base.
 inline const s_class& first_level(const s_class& type) {
     const s_class* level = &type;
@@ -46,20 +25,64 @@ inline const s_class* next_level(const s_class& type, const s_class& level) {
     while (next->base != &level) next = next->base;
     return next;
 }
+/// The first name of a child that the class has, or the nearest of its bases that has any; a null name if none has.
+inline const s_event_map& first_child_name(const s_class& type) {
+    const s_class* level = &type;
+    while (level->element_map->name == nullptr && level->base != nullptr) level = level->base;
+    return *level->element_map;
+}
+
+/// The row that is due.
+struct s_due_row {
+    explicit s_due_row(const s_class& first) : level(&first) {}
+
+    const s_class* level;     ///< the class, or the base of it, whose rows are due
+    std::size_t index = 0;    ///< the row
+    bool is_entered = false;  ///< the row repeats, and this element has an entry of it already
+
+    const s_item& row() const { return level->elements[index]; }
+    bool is_at_end() const { return index == level->elements.size(); }
+    void pass_over() {
+        ++index;
+        is_entered = false;
+    }
+    /// To the first row of the level behind; false if this was the level of the class itself.
+    bool enter_next_level(const s_class& type) {
+        const s_class* const next = next_level(type, *level);
+        if (next != nullptr) *this = s_due_row(*next);
+        return next != nullptr;
+    }
+    /// To the next row that there is, from the end of a level or of some that are empty; false if there is none.
+    bool find_row(const s_class& type) {
+        while (is_at_end()) {
+            if (!enter_next_level(type)) return false;
+        }
+        return true;
+    }
+};
+
+/// Where the reading of a class's content stands.
+struct s_place : s_due_row {
+    explicit s_place(const s_class& first) : s_due_row(first) {}
+
+    bool is_begun = false;             ///< something was read
+    const s_event_map* map = nullptr;  ///< what the event behind the last item is tokenised with
+    const s_item* group = nullptr;     ///< a group that was read last: the event behind it is still part of it
+};
+
 /// What has to be done when the row that is due was read: to the row behind it, or to its next entry.
 inline void step_behind(s_place* place) {
     const s_item& row = place->row();
     const s_event_map* const map = place->level->element_map;
-    const bool is_group = row.kind == item_kind::group || row.kind == item_kind::group_list;
     place->is_begun = true;
-    place->group = is_group ? &row : nullptr;
+    place->group = is_group(row) ? &row : nullptr;
     place->is_entered = is_repeating(row);
     if (place->level->content == content_kind::choice) {
         place->map = map;
         place->index = place->level->elements.size();
     } else {
         place->map =
-            is_group ? row.type->element_map : map + (place->is_entered ? row.position : row.next_position());
+            is_group(row) ? row.type->element_map : map + (place->is_entered ? row.position : row.next_position());
         if (!place->is_entered) ++place->index;
     }
 }

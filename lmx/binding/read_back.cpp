@@ -8,6 +8,7 @@
 #include <cstring>
 #include <string>
 
+#include "lmx/binding/storage.h"
 #include "lmx/binding/unmarshal.h"
 #include "lmx/binding/value_kinds.h"
 #include "lmx/values/unicode.h"
@@ -111,11 +112,8 @@ const char* lost_in_text(const s_item& item, std::u16string_view text) {
 }
 
 elmx_error code_of_reading(const s_item& item, const void* value, std::string* scratch) {
-    if (item.value == value_kind::text) return check_text(item, *static_cast<const std::u16string*>(value));
-    if (item.value == value_kind::enumerated) return check_text(item, static_cast<const c_enumerated*>(value)->get());
-    c_output out(*scratch);
-    kind_of(item).print(out, value);
-    out.flush();
+    if (kind_of(item).is_text) return check_text(item, text_in(item, value));
+    print_value(item, value, scratch);
     return check_as_read(item, *scratch);
 }
 

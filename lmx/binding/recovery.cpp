@@ -45,8 +45,13 @@ elmx_error report_wrong_end(c_xml_reader& reader, const char* name) {
     return report_at(reader, {}, ELMX_BAD_END_OF_ELEMENT, node.get_str());
 }
 
-/// Reads through the end of the first of the elements in `open`, names of start tags that were read.
-elmx_error skip(c_xml_reader& reader, c_string_stack& open, const std::string& first) {
+/// Reads through the end of an element whose start tag was read.
+elmx_error skip_content(c_xml_reader& reader, const std::string& name) {
+    // A copy, since `name` may be the reader's own, which what follows changes.
+    // NOLINTNEXTLINE(performance-unnecessary-copy-initialization)
+    const std::string first = name;
+    c_string_stack open;  // names of start tags that were read
+    open.push(first);
     while (open.get_depth() > 0) {
         elmx_error error = ELMX_OK;
         reader.get_element_event(nullptr, &error, &reader.m_name);
@@ -93,18 +98,12 @@ elmx_error skip(c_xml_reader& reader, c_string_stack& open, const std::string& f
 }  // namespace
 
 elmx_error skip_element(c_xml_reader& reader, const std::string& name) {
-    // A copy, since `name` may be the reader's own, which what follows changes.
-    // NOLINTNEXTLINE(performance-unnecessary-copy-initialization)
-    const std::string own_name = name;
     bool is_empty = false;
     if (!reader.skip_start_tag(&is_empty)) {
         reader.restore_event(ELXP_ERROR);
         return give_up(reader, ELMX_NOT_WELL_FORMED);
     }
-    if (is_empty) return ELMX_OK;
-    c_string_stack open;
-    open.push(own_name);
-    return skip(reader, open, own_name);
+    return is_empty ? ELMX_OK : skip_content(reader, name);
 }
 
 elmx_error leave_element(c_xml_reader& reader, const std::string& name) {
@@ -113,12 +112,7 @@ elmx_error leave_element(c_xml_reader& reader, const std::string& name) {
         reader.m_name = std::move(wrong_name);
         return end_at_wrong_tag(reader);
     }
-    // A copy, since `name` may be the reader's own, which what follows changes.
-    // NOLINTNEXTLINE(performance-unnecessary-copy-initialization)
-    const std::string own_name = name;
-    c_string_stack open;
-    open.push(own_name);
-    return skip(reader, open, own_name);
+    return skip_content(reader, name);
 }
 
 elmx_error leave_element_at_event(c_xml_reader& reader, const std::string& name) {
@@ -139,14 +133,11 @@ bool is_stranger(const s_class& type, const s_place& place, c_xml_reader& reader
     if (!reader.is_current_event_tokenisable()) return true;
     const int event = reader.get_current_event();
     bool is_taken = false;
-    std::size_t index = place.index;
-    for (const s_class* level = place.level; level != nullptr; level = next_level(type, *level), index = 0) {
-        for (const s_item& row : level->elements.subspan(index)) {
-            const bool is_group = row.kind == item_kind::group || row.kind == item_kind::group_list;
-            reader.tokenise(level->element_map, ELXP_ELEMENT);
-            is_taken =
-                is_taken || (is_group ? is_group_member(*row.type, reader) : reader.get_current_event() == row.token);
-        }
+    const s_due_row& start = place;
+    for (s_due_row due = start; !is_taken && due.find_row(type); due.pass_over()) {
+        const s_item& row = due.row();
+        reader.tokenise(due.level->element_map, ELXP_ELEMENT);
+        is_taken = is_group(row) ? is_group_member(*row.type, reader) : reader.get_current_event() == row.token;
     }
     reader.restore_event(event);
     return !is_taken;

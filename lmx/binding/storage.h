@@ -63,6 +63,11 @@ inline bool is_repeating(const s_item& item) {
     }
 }
 
+/// Whether the row stands for the members of a group or of an inline choice.
+inline bool is_group(const s_item& item) {
+    return item.kind == item_kind::group || item.kind == item_kind::group_list;
+}
+
 inline const c_list_base& list_of(const s_item& item, const void* object) {
     return member<c_list_base>(object, item.offset);
 }
@@ -95,33 +100,6 @@ inline void* alternative_storage(const s_item& alternative, s_choice& choice) {
 }
 inline const void* alternative_storage(const s_item& alternative, const s_choice& choice) {
     return alternative_storage(alternative, const_cast<s_choice&>(choice));
-}
-
-/// Calls `action` with a null pointer to the C++ type of a simple value.
-template <class Action>
-decltype(auto) with_value_type(value_kind kind, Action&& action) {
-    switch (kind) {
-        case value_kind::enumerated:
-            return action(static_cast<c_enumerated*>(nullptr));
-        case value_kind::boolean:
-            return action(static_cast<bool*>(nullptr));
-        case value_kind::number:
-            return action(static_cast<double*>(nullptr));
-        case value_kind::int32:
-            return action(static_cast<std::int32_t*>(nullptr));
-        case value_kind::uint32:
-            return action(static_cast<std::uint32_t*>(nullptr));
-        case value_kind::uint8:
-            return action(static_cast<std::uint8_t*>(nullptr));
-        case value_kind::datetime:
-            return action(static_cast<c_datetime*>(nullptr));
-        case value_kind::binary:
-            return action(static_cast<c_binary*>(nullptr));
-        case value_kind::text:
-        case value_kind::none:
-            break;
-    }
-    return action(static_cast<std::u16string*>(nullptr));
 }
 
 /// The class whose first row is the element's own content: the class itself, or a base of it.

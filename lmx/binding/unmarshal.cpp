@@ -151,8 +151,6 @@ bool read_group(const s_class& type, void* object, c_xml_reader& reader, const s
     return is_skipped || goes_on(reader, ELMX_BAD_END_OF_ELEMENT, name, error);
 }
 
-bool is_group(const s_item& item) { return item.kind == item_kind::group || item.kind == item_kind::group_list; }
-
 /// Whether the current event is that of an item. A group's row may take any event.
 bool is_due(const s_item& item, c_xml_reader& reader, bool* is_member) {
     if (!is_group(item)) return *is_member = reader.get_current_event() == item.token;
@@ -225,11 +223,9 @@ e_due find_due_row(const s_class& type, void* object, s_place* place, c_xml_read
             const s_item* const told_before = *told;
             if (!check_lists(*place->level, object, reader, told, error)) return e_due::failed;
             if (*told != told_before && is_stranger(type, *place, reader)) return e_due::stranger;
-            const s_class* const level = next_level(type, *place->level);
-            if (level == nullptr) return e_due::none;
-            static_cast<s_due_row&>(*place) = s_due_row(*level);
+            if (!place->enter_next_level(type)) return e_due::none;
             place->group = nullptr;
-            tokenise_element(reader, level->element_map);
+            tokenise_element(reader, place->level->element_map);
             continue;
         }
         const s_item& item = place->row();
@@ -239,8 +235,7 @@ e_due find_due_row(const s_class& type, void* object, s_place* place, c_xml_read
             if (!report_missing(reader, item, told, error)) return e_due::failed;
             if (*told != told_before && is_stranger(type, *place, reader)) return e_due::stranger;
         }
-        ++place->index;
-        place->is_entered = false;
+        place->pass_over();
     }
 }
 

@@ -123,6 +123,12 @@ static_assert(std::size(k_kinds) == static_cast<std::size_t>(value_kind::binary)
 
 const s_value_kind& kind_of(value_kind kind) { return k_kinds[static_cast<std::size_t>(kind)]; }
 
+void print_value(const s_item& item, const void* value, std::string* text) {
+    c_output out(*text);
+    kind_of(item).print(out, value);
+    out.flush();
+}
+
 bool c_read_checks::is_matched(const s_facets& facets) const {
     // The pattern engine is quadratic on texts of the wrong form. It gives up on long ones, which counts as a match;
     // so do they here, at a length that costs nothing yet.

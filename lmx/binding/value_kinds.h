@@ -43,6 +43,9 @@ struct s_value_kind {
 const s_value_kind& kind_of(value_kind kind);
 inline const s_value_kind& kind_of(const s_item& item) { return kind_of(item.value); }
 
+/// Appends the text form of a value to a string.
+void print_value(const s_item& item, const void* value, std::string* text);
+
 /// Passes the code of each check that a value fails to `fault`, in the order in which they are told, for as long as
 /// that answers true. A `Value` has one predicate per check.
 template <class Value, class Fault>
