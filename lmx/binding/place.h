@@ -18,13 +18,6 @@ inline const s_class& first_level(const s_class& type) {
     while (level->base != nullptr) level = level->base;
     return *level;
 }
-/// The level behind another one; null behind the class itself.
-inline const s_class* next_level(const s_class& type, const s_class& level) {
-    if (&type == &level) return nullptr;
-    const s_class* next = &type;
-    while (next->base != &level) next = next->base;
-    return next;
-}
 /// The first name of a child that the class has, or the nearest of its bases that has any; a null name if none has.
 inline const s_event_map& first_child_name(const s_class& type) {
     const s_class* level = &type;
@@ -48,9 +41,11 @@ struct s_due_row {
     }
     /// To the first row of the level behind; false if this was the level of the class itself.
     bool enter_next_level(const s_class& type) {
-        const s_class* const next = next_level(type, *level);
-        if (next != nullptr) *this = s_due_row(*next);
-        return next != nullptr;
+        if (&type == level) return false;
+        const s_class* next = &type;
+        while (next->base != level) next = next->base;
+        *this = s_due_row(*next);
+        return true;
     }
     /// To the next row that there is, from the end of a level or of some that are empty; false if there is none.
     bool find_row(const s_class& type) {
@@ -81,8 +76,7 @@ inline void step_behind(s_place* place) {
         place->map = map;
         place->index = place->level->elements.size();
     } else {
-        place->map =
-            is_group(row) ? row.type->element_map : map + (place->is_entered ? row.position : row.next_position());
+        place->map = is_group(row) ? row.type->element_map : map + row.position + (place->is_entered ? 0 : row.width);
         if (!place->is_entered) ++place->index;
     }
 }

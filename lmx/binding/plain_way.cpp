@@ -88,11 +88,10 @@ inline bool is_same(const char* one, const char* other, std::size_t size) {
 c_plain_way::c_plain_way(c_xml_reader& reader, const s_class& type, std::string_view name) : c_plain_way(reader) {
     const std::size_t colon = name.find(':');
     m_prefix_size = colon == name.npos ? 0 : colon + 1;
-    const s_class* level = &type;
-    while (level->element_map->name == nullptr && level->base != nullptr) level = level->base;
-    if (m_prefix_size > sizeof m_prefix || level->element_map->name == nullptr) return;
+    const s_event_map& child = first_child_name(type);
+    if (m_prefix_size > sizeof m_prefix || child.name == nullptr) return;
     name.copy(m_prefix, m_prefix_size);
-    m_is_possible = reader.get_reader_local()->find_namespace_id(prefix_of(name)) == level->element_map->ns_id;
+    m_is_possible = reader.get_reader_local()->find_namespace_id(prefix_of(name)) == child.ns_id;
 }
 
 bool c_plain_way::begin() {
@@ -316,25 +315,21 @@ bool c_plain_way::find_row(const s_class& type, const void* object, bool is_begu
         return true;
     }
     for (;;) {
-        for (; due->is_at_end(); due->index = 0) {
-            if (find_short_list(*due->level, object) != nullptr) return false;
-            const s_class* const level = next_level(type, *due->level);
-            if (level == nullptr) return false;
-            due->level = level;
+        while (due->is_at_end()) {
+            if (find_short_list(*due->level, object) != nullptr || !due->enter_next_level(type)) return false;
         }
         const s_item& row = due->row();
         if (is_named(row)) {
             if (is_it(due->level->element_map[row.position])) return true;
             if ((row.use & use_demanded) != 0 && !due->is_entered) return false;
-        } else if (row.kind == item_kind::group || row.kind == item_kind::group_list) {
+        } else if (is_group(row)) {
             if (row.type->content != content_kind::group || (row.use & use_lax) != 0) return false;
             if (find_alternative(*row.type)) return true;
             if (row.kind == item_kind::group && (row.use & use_demanded) != 0) return false;
         } else {
             return false;
         }
-        ++due->index;
-        due->is_entered = false;
+        due->pass_over();
     }
 }
 
@@ -342,16 +337,16 @@ bool c_plain_way::find_row(const s_class& type, const void* object, bool is_begu
 bool c_plain_way::is_complete(const s_class& type, const void* object, const s_place& place) {
     if (type.content == content_kind::choice) return place.is_begun;
     if (!place.is_begun && !type.may_be_empty) return false;
-    for (const s_class* level = place.level; level != nullptr; level = next_level(type, *level)) {
-        const auto rows = level->elements.subspan(level == place.level ? place.index : 0);
-        for (const s_item& row : rows) {
-            const bool is_entered = place.is_entered && &row == rows.data() && level == place.level;
+    const s_due_row& start = place;
+    for (s_due_row due = start;;) {
+        for (; !due.is_at_end(); due.pass_over()) {
+            const s_item& row = due.row();
             if (row.kind == item_kind::any || (row.use & use_lax) != 0) return false;
-            if ((row.use & use_demanded) != 0 && !is_entered && row.kind != item_kind::group_list) return false;
+            if ((row.use & use_demanded) != 0 && !due.is_entered && row.kind != item_kind::group_list) return false;
         }
-        if (find_short_list(*level, object) != nullptr) return false;
+        if (find_short_list(*due.level, object) != nullptr) return false;
+        if (!due.enter_next_level(type)) return true;
     }
-    return true;
 }
 
 /// Commits to an item: what the events would have done by now that is not about the item itself.
