@@ -17,18 +17,6 @@ std::string_view local_name(std::string_view name) {
     return name.starts_with(k_prefix) ? name.substr(k_prefix.size()) : name;
 }
 
-bool s_member::is_list() const {
-    switch (holder->kind) {
-        case item_kind::element_list:
-        case item_kind::child_list:
-        case item_kind::group_list:
-        case item_kind::any:
-            return true;
-        default:
-            return false;
-    }
-}
-
 const c_members& c_members::of(const s_class& type) {
     static thread_local std::unordered_map<const s_class*, std::unique_ptr<c_members>> known;
     std::unique_ptr<c_members>& members = known[&type];
@@ -59,7 +47,7 @@ void c_members::add(const s_class& type) {
 }
 
 void c_members::add(const s_item& item, const s_item& holder) {
-    if (item.kind == item_kind::group || item.kind == item_kind::group_list) {
+    if (lmx::is_group(item)) {
         if (item.kind == item_kind::group_list) m_groups.try_emplace(local_name(item.name), m_all.size());
         const std::size_t order = m_all.size();
         for (const s_item& alternative : item.type->elements) {

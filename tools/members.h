@@ -38,7 +38,7 @@ struct s_member {
     bool is_any() const { return item->kind == lmx::item_kind::any; }
     bool is_marker() const { return item->kind == lmx::item_kind::marker; }
     /// Whether it stands in an array.
-    bool is_list() const;
+    bool is_list() const { return lmx::is_repeating(*holder); }
     /// Whether the entries of the array say their names.
     bool is_group_list() const { return holder->kind == lmx::item_kind::group_list; }
 };

@@ -31,6 +31,8 @@ class VYR_EXPORT c_enumeration {
 public:
     constexpr explicit c_enumeration(std::span<const std::string_view> texts) : m_texts(texts) {}
 
+    /// In ASCII, numbered from 1.
+    std::span<const std::string_view> texts() const { return m_texts; }
     /// Null for a text that is none of them.
     const s_enumerated_text* find(std::string_view text) const;
     const s_enumerated_text* find(std::u16string_view text) const;

@@ -212,8 +212,10 @@ private:
     /// Whether the element that was found has another namespace than those of the class, or none.
     bool is_foreign() const {
         if (!m_reader.is_current_event_tokenisable() || m_open == nullptr) return false;
-        const s_event_map& expected = first_child_name(*m_open->type);
-        return expected.name != nullptr && expected.ns_id != m_reader.get_element_ns_id();
+        const auto is_named = [](const s_item* row) { return row->token != 0 || is_group(*row); };
+        // What is read over has no names.
+        return std::ranges::any_of(all_rows(*m_open->type, &s_class::elements), is_named) &&
+               m_open->type->names->elements.ns_id() != m_reader.get_element_ns_id();
     }
     std::string format_namespace(int id) const {
         const char* const uri = m_reader.find_namespace_from_id(id);
@@ -254,7 +256,7 @@ private:
         const std::string text = joined({"<", found_text(), "> stands here", is_repeated() ? " again" : ""});
         if (!is_foreign()) return joined({text, meant(local_part(m_reader.m_name), all)});
         return joined({text, found_namespace(), "; the namespace ",
-                       format_namespace(first_child_name(*m_open->type).ns_id), " is expected"});
+                       format_namespace(m_open->type->names->elements.ns_id()), " is expected"});
     }
     /// All that the open element takes.
     names expected_names() const {

@@ -100,7 +100,7 @@ std::string allowed_value(const s_item& item, elmx_error code, const std::string
             return facets.pattern_takes_zoned ? "a time zone is missing: Z, or one such as +01:00"
                                               : std::string("the text does not have the form that is asked for");
         case ELMX_VALUE_NOT_ENUMERATED: {
-            const names all(facets.enumeration.begin(), facets.enumeration.end());
+            const names all(facets.enumeration->texts().begin(), facets.enumeration->texts().end());
             return joined({"one of ", listed(all, "or"), " is expected", ending, meant(text, all)});
         }
         case ELMX_LENGTH_TOO_SHORT:

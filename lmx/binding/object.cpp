@@ -112,12 +112,12 @@ class c_set_checks<std::u16string> : public c_no_checks {
 public:
     c_set_checks(const s_facets* facets, const std::u16string& value) : c_no_checks(facets), m_value(value) {
         if (facets == nullptr) return;
-        if (facets->enumerated != nullptr) m_literal = facets->enumerated->find(std::u16string_view(value));
+        if (facets->enumeration != nullptr) m_literal = facets->enumeration->find(std::u16string_view(value));
         const bool has_limits = facets->minimum_length > 0 || facets->maximum_length < s_facets{}.maximum_length;
         if (has_limits) convert(&m_narrow, value);
     }
 
-    bool is_enumerated(const s_facets& facets) const { return facets.enumerated == nullptr || m_literal != nullptr; }
+    bool is_enumerated(const s_facets& facets) const { return facets.enumeration == nullptr || m_literal != nullptr; }
     bool is_too_short(const s_facets& facets) const { return !is_min_length_ok(m_narrow, facets.minimum_length); }
     bool is_too_long(const s_facets& facets) const { return !is_max_length_ok(m_narrow, facets.maximum_length); }
 
@@ -309,7 +309,7 @@ elmx_error insert_entry(const s_item& item, void* object, std::size_t index, con
 }
 
 bool set_enumerated(const s_class& type, const s_item& item, void* object, std::int32_t number) {
-    const s_enumerated_text* const text = item.facets->enumerated->find(number);
+    const s_enumerated_text* const text = item.facets->enumeration->find(number);
     if (text == nullptr) return false;
     static_cast<c_enumerated*>(place_for_value(type, item, object))->set(text);
     mark_value_set(type, item, object);
@@ -372,10 +372,8 @@ std::int32_t chosen_number(const s_class& type, const s_item& alternative, const
 }
 
 void* create_by_name(std::span<const s_factory_row> rows, int ns_id, const std::string& name) {
-    constexpr int k_document_namespace = 1000;
-    if (ns_id != k_document_namespace) return nullptr;
     for (const s_factory_row& row : rows) {
-        if (row.name == name) return row.type->operations->create();
+        if (ns_id == row.type->names->elements.ns_id() && row.name == name) return row.type->operations->create();
     }
     return nullptr;
 }

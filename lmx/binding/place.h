@@ -5,7 +5,9 @@
 
 #pragma once
 
+#include <algorithm>
 #include <cstddef>
+#include <span>
 
 #include "lmx/binding/storage.h"
 #include "lmx/binding/table.h"
@@ -18,11 +20,12 @@ inline const s_class& first_level(const s_class& type) {
     while (level->base != nullptr) level = level->base;
     return *level;
 }
-/// The first name of a child that the class has, or the nearest of its bases that has any; a null name if none has.
-inline const s_event_map& first_child_name(const s_class& type) {
-    const s_class* level = &type;
-    while (level->element_map->name == nullptr && level->base != nullptr) level = level->base;
-    return *level->element_map;
+/// The row that takes a name, by its token; null if none does.
+inline const s_item* find_row(std::span<const s_item> rows, int token) {
+    const auto row = std::find_if(rows.begin(), rows.end(), [token](const s_item& it) {
+        return is_group(it) ? find_row(it.type->elements, token) != nullptr : it.token == token;
+    });
+    return row == rows.end() ? nullptr : &*row;
 }
 
 /// The row that is due.
@@ -47,38 +50,23 @@ struct s_due_row {
         *this = s_due_row(*next);
         return true;
     }
-    /// To the next row that there is, from the end of a level or of some that are empty; false if there is none.
-    bool find_row(const s_class& type) {
-        while (is_at_end()) {
-            if (!enter_next_level(type)) return false;
-        }
-        return true;
-    }
 };
 
 /// Where the reading of a class's content stands.
 struct s_place : s_due_row {
     explicit s_place(const s_class& first) : s_due_row(first) {}
 
-    bool is_begun = false;             ///< something was read
-    const s_event_map* map = nullptr;  ///< what the event behind the last item is tokenised with
-    const s_item* group = nullptr;     ///< a group that was read last: the event behind it is still part of it
+    bool is_begun = false;          ///< something was read
+    const s_item* group = nullptr;  ///< a group that was read last: the event behind it is still part of it
 };
 
 /// What has to be done when the row that is due was read: to the row behind it, or to its next entry.
 inline void step_behind(s_place* place) {
     const s_item& row = place->row();
-    const s_event_map* const map = place->level->element_map;
     place->is_begun = true;
     place->group = is_group(row) ? &row : nullptr;
     place->is_entered = is_repeating(row);
-    if (place->level->content == content_kind::choice) {
-        place->map = map;
-        place->index = place->level->elements.size();
-    } else {
-        place->map = is_group(row) ? row.type->element_map : map + row.position + (place->is_entered ? 0 : row.width);
-        if (!place->is_entered) ++place->index;
-    }
+    if (!place->is_entered) ++place->index;
 }
 /// The event behind a group has come: its flag rises.
 inline void close_group(s_place* place, void* object) {

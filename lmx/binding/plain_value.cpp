@@ -5,21 +5,9 @@
 
 #include "lmx/binding/unmarshal.h"
 #include "lmx/reader/plain_text.h"
+#include "lmx/values/characters.h"
 
 namespace lmx {
-namespace {
-
-/// Whether collapsing its white space would leave a value as it is.
-bool is_collapsed(std::string_view text) {
-    bool is_behind_blank = true;
-    for (const char c : text) {
-        if (c == ' ' ? is_behind_blank : xisspace(c)) return false;
-        is_behind_blank = c == ' ';
-    }
-    return text.empty() || !is_behind_blank;
-}
-
-}  // namespace
 
 /// The end of a value that ends with `stop`; null if something in it isn't plain.
 const char* c_plain_values::find_stop(const char* at, const char* end, char stop, bool* is_ascii,
@@ -56,7 +44,7 @@ const char* c_plain_values::read_other(const s_item& row, const char* at, const 
     value->form = is_ascii ? s_plain_value::e_form::ascii : s_plain_value::e_form::utf8;
     if (row.value == value_kind::enumerated) {
         value->form = s_plain_value::e_form::enumerated;
-        value->literal = facets->enumerated->find(value->text());
+        value->literal = facets->enumeration->find(value->text());
         return value->literal != nullptr ? value->end : nullptr;
     }
     const bool is_kept = row.whitespace == ELMX_WS_PRESERVE || is_collapsed(value->text());

@@ -57,41 +57,14 @@ struct c_plain_way::s_step {
     elmx_error* error;
 };
 
-namespace {
-
-/// Names are short, and a call would cost more than the comparison.
-inline bool is_same(const char* one, const char* other, std::size_t size) {
-    const auto differs = [&]<class Block>(Block, std::size_t at) {
-        Block a = 0;
-        Block b = 0;
-        std::memcpy(&a, one + at, sizeof a);
-        std::memcpy(&b, other + at, sizeof b);
-        return a != b;
-    };
-    if (size >= 8) {
-        for (std::size_t at = 0; at + 8 < size; at += 8) {
-            if (differs(std::uint64_t{}, at)) return false;
-        }
-        return !differs(std::uint64_t{}, size - 8);
-    }
-    if (size >= 4) return !differs(std::uint32_t{}, 0) && !differs(std::uint32_t{}, size - 4);
-    for (std::size_t at = 0; at < size; ++at) {
-        if (one[at] != other[at]) return false;
-    }
-    return true;
-}
-
-}  // namespace
-
 // Tags.
 
 c_plain_way::c_plain_way(c_xml_reader& reader, const s_class& type, std::string_view name) : c_plain_way(reader) {
     const std::size_t colon = name.find(':');
     m_prefix_size = colon == name.npos ? 0 : colon + 1;
-    const s_event_map& child = first_child_name(type);
-    if (m_prefix_size > sizeof m_prefix || child.name == nullptr) return;
+    if (m_prefix_size > sizeof m_prefix) return;
     name.copy(m_prefix, m_prefix_size);
-    m_is_possible = reader.get_reader_local()->find_namespace_id(prefix_of(name)) == child.ns_id;
+    m_is_possible = reader.get_reader_local()->find_namespace_id(prefix_of(name)) == type.names->elements.ns_id();
 }
 
 bool c_plain_way::begin() {
@@ -288,30 +261,28 @@ c_plain_way::e_step c_plain_way::take_item(const s_class& type, void* object, s_
 /// The size of the name at `local` if it is that of the row that is due, as most are; else 0.
 std::size_t c_plain_way::due_name_size(const s_class& type, const s_place& place, const char* local) const {
     if (type.content == content_kind::choice || place.is_at_end() || !is_named(place.row())) return 0;
-    const s_event_map& name = place.level->element_map[place.row().position];
-    const bool is_it = static_cast<std::size_t>(m_end - local) > name.name_length &&
-                       k_stops_of_names[static_cast<unsigned char>(local[name.name_length])] &&
-                       is_same(local, name.name, name.name_length);
-    return is_it ? name.name_length : 0;
+    const std::string_view name = type.names->elements.name(place.row().token);
+    const bool is_it = static_cast<std::size_t>(m_end - local) > name.size() &&
+                       k_stops_of_names[static_cast<unsigned char>(local[name.size()])] &&
+                       is_same(local, name.data(), name.size());
+    return is_it ? name.size() : 0;
 }
 
 /// Finds the row of the element with that local name, from the place on. For a group `*member` is the alternative.
 bool c_plain_way::find_row(const s_class& type, const void* object, bool is_begun, std::string_view name,
                            s_due_row* due, const s_item** member) {
-    const auto is_it = [name](const s_event_map& row) {
-        return row.name_length == name.size() && is_same(row.name, name.data(), name.size());
+    const auto is_it = [&](const s_item& row) {
+        const std::string_view own = type.names->elements.name(row.token);
+        return own.size() == name.size() && is_same(own.data(), name.data(), name.size());
     };
-    // The map of a choice has the alternatives in their order.
-    const auto find_alternative = [&](const s_class& choice) {
-        const std::size_t count = choice.elements.size();
-        std::size_t i = 0;
-        while (i < count && !is_it(choice.element_map[i])) ++i;
-        if (i < count) *member = &choice.elements[i];
-        return i < count;
+    const auto find_alternative = [&](std::span<const s_item> rows) {
+        const auto row = std::find_if(rows.begin(), rows.end(), is_it);
+        if (row != rows.end()) *member = &*row;
+        return row != rows.end();
     };
     if (type.content == content_kind::choice) {
-        if (is_begun || !find_alternative(type)) return false;
-        due->index = static_cast<std::size_t>(*member - type.elements.data());
+        if (is_begun || !find_alternative(type.elements)) return false;
+        due->index = static_cast<std::size_t>(alternative_number(type, **member));
         return true;
     }
     for (;;) {
@@ -320,11 +291,11 @@ bool c_plain_way::find_row(const s_class& type, const void* object, bool is_begu
         }
         const s_item& row = due->row();
         if (is_named(row)) {
-            if (is_it(due->level->element_map[row.position])) return true;
+            if (is_it(row)) return true;
             if ((row.use & use_demanded) != 0 && !due->is_entered) return false;
         } else if (is_group(row)) {
             if (row.type->content != content_kind::group || (row.use & use_lax) != 0) return false;
-            if (find_alternative(*row.type)) return true;
+            if (find_alternative(row.type->elements)) return true;
             if (row.kind == item_kind::group && (row.use & use_demanded) != 0) return false;
         } else {
             return false;

@@ -11,13 +11,12 @@
 #include "lmx/binding/storage.h"
 #include "lmx/binding/unmarshal.h"
 #include "lmx/binding/value_kinds.h"
+#include "lmx/values/characters.h"
 #include "lmx/values/unicode.h"
 #include "lmx/values/utf8.h"
 
 namespace lmx {
 namespace {
-
-constexpr bool is_space(int c) { return c == ' ' || c == '\t' || c == '\n' || c == '\r'; }
 
 constexpr bool is_line_end(char16_t unit) { return unit == u'\r' || unit == 0x85 || unit == 0x2028; }
 constexpr bool is_plain(char16_t unit) {
@@ -49,20 +48,10 @@ bool is_plain(std::u16string_view text) {
     return is_plain_at(last);
 }
 
-/// Whether collapsing leaves a text alone.
-bool is_collapsed(std::u16string_view text) {
-    char16_t before = u' ';
-    for (const char16_t unit : text) {
-        if (is_space(unit) && (unit != u' ' || before == u' ')) return false;
-        before = unit;
-    }
-    return text.empty() || before != u' ';
-}
-
 std::string collapsed(const std::string& text) {
     std::string result;
     for (const char c : text) {
-        if (!is_space(c)) {
+        if (!xisspace(c)) {
             result += c;
         } else if (!result.empty() && result.back() != ' ') {
             result += ' ';
@@ -74,8 +63,8 @@ std::string collapsed(const std::string& text) {
 
 /// Whether nothing but the length is bounded, and the text is within the bounds however its characters are counted.
 bool has_plain_length(const s_facets& facets, const std::u16string& text) {
-    return facets.pattern == nullptr && facets.enumeration.empty() && facets.minimum_length <= 1 && !text.empty() &&
-           text.size() <= facets.maximum_length;
+    return facets.pattern == nullptr && facets.enumeration == nullptr && facets.minimum_length <= 1 &&
+           !text.empty() && text.size() <= facets.maximum_length;
 }
 
 elmx_error check_text(const s_item& item, const std::u16string& value) {

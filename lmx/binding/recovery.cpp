@@ -15,6 +15,7 @@ constinit const s_class k_skipped_class = {
     .qualified_name = "",
     .content = content_kind::children,
     .may_be_empty = true,
+    .names = nullptr,
 };
 
 bool is_open_further_out(const c_xml_reader& reader, const std::string& name) {
@@ -131,16 +132,12 @@ elmx_error pass_over_event(c_xml_reader& reader) {
 bool is_stranger(const s_class& type, const s_place& place, c_xml_reader& reader) {
     if (!is_event_passable(reader)) return false;
     if (!reader.is_current_event_tokenisable()) return true;
-    const int event = reader.get_current_event();
-    bool is_taken = false;
+    const int token = reader.find_token(*type.names, ELXP_ELEMENT);
     const s_due_row& start = place;
-    for (s_due_row due = start; !is_taken && due.find_row(type); due.pass_over()) {
-        const s_item& row = due.row();
-        reader.tokenise(due.level->element_map, ELXP_ELEMENT);
-        is_taken = is_group(row) ? is_group_member(*row.type, reader) : reader.get_current_event() == row.token;
+    for (s_due_row due = start; find_row(due.level->elements.subspan(due.index), token) == nullptr;) {
+        if (!due.enter_next_level(type)) return true;
     }
-    reader.restore_event(event);
-    return !is_taken;
+    return false;
 }
 
 bool is_own_event(const void* object, const c_xml_reader& reader) {

@@ -51,23 +51,6 @@ inline void* touch_child(const s_item& item, void* object) {
     return &member<std::byte>(object, item.offset);
 }
 
-inline bool is_repeating(const s_item& item) {
-    switch (item.kind) {
-        case item_kind::element_list:
-        case item_kind::child_list:
-        case item_kind::group_list:
-        case item_kind::any:
-            return true;
-        default:
-            return false;
-    }
-}
-
-/// Whether the row stands for the members of a group or of an inline choice.
-inline bool is_group(const s_item& item) {
-    return item.kind == item_kind::group || item.kind == item_kind::group_list;
-}
-
 inline const c_list_base& list_of(const s_item& item, const void* object) {
     return member<c_list_base>(object, item.offset);
 }

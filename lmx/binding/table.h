@@ -22,7 +22,7 @@
 #include "lmx/binding/stored_type.h"
 #include "lmx/error.h"
 #include "lmx/ns_map.h"
-#include "lmx/reader/event_map.h"
+#include "lmx/reader/name_list.h"
 #include "lmx/values/binary.h"
 #include "lmx/values/datetime.h"
 #include "lmx/values/pattern.h"
@@ -37,7 +37,7 @@ struct s_class;
 struct s_document;
 
 /// Raised whenever rows change their meaning: generated code asserts the value it was made for.
-inline constexpr int k_binding_version = 5;
+inline constexpr int k_binding_version = 6;
 
 /// What an item is, and with it how it's stored.
 enum class item_kind : std::uint8_t {
@@ -54,6 +54,18 @@ enum class item_kind : std::uint8_t {
     any,             ///< open content kept as text: `c_list` of `c_any_info`
     alternative,     ///< simple or class alternative of a choice, or a group's member: lives in `s_choice`
 };
+
+constexpr bool is_repeating(item_kind kind) {
+    switch (kind) {
+        case item_kind::element_list:
+        case item_kind::child_list:
+        case item_kind::group_list:
+        case item_kind::any:
+            return true;
+        default:
+            return false;
+    }
+}
 
 /// The C++ type of a simple value.
 enum class value_kind : std::uint8_t {
@@ -84,8 +96,7 @@ enum item_use : std::uint8_t {
 /// What a simple value must meet besides its lexical form. One object per distinct set; shared by reading and
 /// setting. The defaults mean "no such facet".
 struct s_facets {
-    std::span<const std::string_view> enumeration{};  ///< ASCII texts, numbered from 1
-    const c_enumeration* enumerated = nullptr;        ///< the same as items store them
+    const c_enumeration* enumeration = nullptr;
     double minimum = -std::numeric_limits<double>::infinity();
     double maximum = std::numeric_limits<double>::infinity();
     bool minimum_exclusive = false;
@@ -124,14 +135,23 @@ struct s_item {
     int token;                      ///< of attributes and elements; 0 for content, groups and open content
     std::uint32_t offset;           ///< of the value, object or list in the class
     std::uint32_t flag;             ///< offset of the present flag, or `k_no_flag`
-    std::uint16_t position = 0;     ///< of elements: this item's position in the class's element map
-    std::uint16_t width = 0;        ///< the rows of that map that stand for this item
     const s_class* type = nullptr;  ///< of children, groups and class alternatives
     const s_facets* facets = nullptr;          ///< null when there are none
     std::span<const s_factory_row> factory{};  ///< of group members that `xsi:type` may specialise
-
-    constexpr std::size_t next_position() const { return std::size_t{position} + width; }
 };
+
+constexpr bool is_repeating(const s_item& item) { return is_repeating(item.kind); }
+/// Whether the row stands for the members of a group or of an inline choice.
+constexpr bool is_group(const s_item& item) {
+    return item.kind == item_kind::group || item.kind == item_kind::group_list;
+}
+
+/// How many of the rows of a class are attributes, which come first.
+constexpr std::size_t attribute_count(std::span<const s_item> items) {
+    std::size_t count = 0;
+    while (count < items.size() && items[count].kind == item_kind::attribute) ++count;
+    return count;
+}
 
 inline constexpr std::uint32_t k_no_flag = (std::numeric_limits<std::uint32_t>::max)();
 
@@ -167,14 +187,13 @@ struct s_class {
     const s_class* base = nullptr;
     content_kind content;                ///< of the class with its bases
     bool may_be_empty = false;           ///< an element without children is no error
+    const s_name_lists* names;           ///< of the schema
     const s_ns_map* ns_map = nullptr;    ///< declared on an outermost element; null for anonymous local classes
     std::uint32_t nil_flag = k_no_flag;  ///< offset of the nil flag
     std::uint32_t choice = k_no_flag;    ///< offset of the `s_choice`
     const char* const* id = nullptr;     ///< the class's identity; null outside the type families
     std::span<const s_item> attributes{};
     std::span<const s_item> elements{};  ///< children, content, or alternatives
-    const s_event_map* attribute_map = &k_end_of_map;
-    const s_event_map* element_map = &k_end_of_map;  ///< each position is a suffix of it
     const s_operations* operations = nullptr;
 };
 
@@ -289,9 +308,7 @@ struct s_entry_of<c_list<T>> {
 /// Builds the storage half of a row and refuses at compile time a member whose type doesn't fit the row.
 template <class Member, item_kind Kind, value_kind Value>
 constexpr std::uint32_t checked_offset(std::size_t offset) {
-    constexpr bool is_list = Kind == item_kind::element_list || Kind == item_kind::child_list ||
-                             Kind == item_kind::group_list || Kind == item_kind::any;
-    static_assert(is_list == std::is_base_of_v<c_list_base, Member>, "a repeating item lies in a c_list");
+    static_assert(is_repeating(Kind) == std::is_base_of_v<c_list_base, Member>, "a repeating item lies in a c_list");
     static_assert((Kind == item_kind::optional_child) == std::is_base_of_v<c_optional_child_base, Member>,
                   "an optional child lies in a c_optional_child");
     static_assert(value_kind_of<typename s_entry_of<Member>::type>() == Value, "the member's type is another");

@@ -37,21 +37,31 @@ bool goes_on_by(c_xml_reader& reader, const s_fault_site& site, elmx_error code,
     return *error == ELMX_OK;
 }
 
-bool next_element(c_xml_reader& reader, const s_event_map* map, std::string* name, elmx_error* error) {
+/// Sets the event to the token of the name at hand if one of the rows takes it, else to `ELXP_UNKNOWN`. The row, or
+/// null.
+const s_item* tokenise(c_xml_reader& reader, const s_class& level, std::span<const s_item> rows,
+                       elxp_attr_elem kind) {
+    const int likely = rows.empty() ? 0 : rows.front().token;
+    const int token = reader.find_token(*level.names, kind, likely);
+    const s_item* const row = token == likely ? &rows.front() : find_row(rows, token);
+    reader.restore_event(row != nullptr || token < k_first_token ? token : ELXP_UNKNOWN);
+    return row;
+}
+
+/// The same for the rows of a level from one on. Text and ends have no name: the one at hand is that of an element or
+/// attribute before them.
+const s_item* tokenise_element(c_xml_reader& reader, const s_class& level, std::size_t first_row = 0) {
+    if (!reader.is_current_event_tokenisable()) return nullptr;
+    return tokenise(reader, level, level.elements.subspan(first_row), ELXP_ELEMENT);
+}
+
+/// Reads the next event; a name is for the rows of `level` from one on, or not tokenised if that is null.
+bool next_element(c_xml_reader& reader, const s_class* level, std::size_t first_row, std::string* name,
+                  elmx_error* error) {
     *error = ELMX_OK;
-    reader.get_element_event(map, error, name);
+    reader.get_element_event(nullptr, error, name);
+    if (level != nullptr) tokenise_element(reader, *level, first_row);
     return *error == ELMX_OK || goes_on(reader, *error, *name, error);
-}
-
-/// Text and ends have no name: the one at hand is that of an element or attribute before them.
-void tokenise_element(c_xml_reader& reader, const s_event_map* map) {
-    if (reader.is_current_event_tokenisable()) reader.tokenise(map, ELXP_ELEMENT);
-}
-
-const s_item* find_token(std::span<const s_item> items, int token) {
-    const auto item =
-        std::find_if(items.begin(), items.end(), [token](const s_item& row) { return row.token == token; });
-    return item == items.end() ? nullptr : &*item;
 }
 
 /// Checks the text, converts it, stores it and raises the flag. A swallowed failure stores all the same.
@@ -135,8 +145,7 @@ bool read_member(const s_class& type, const s_item& alternative, void* object, c
 /// skipped, and nothing is chosen.
 bool read_group(const s_class& type, void* object, c_xml_reader& reader, const std::string& name, elmx_error* error) {
     *error = ELMX_OK;
-    tokenise_element(reader, type.element_map);
-    const s_item* const alternative = find_token(type.elements, reader.get_current_event());
+    const s_item* const alternative = tokenise_element(reader, type);
     if (alternative != nullptr) return read_member(type, *alternative, object, reader, name, error);
     release_choice(type, object);
     if (reader.is_recovering()) {
@@ -192,10 +201,11 @@ bool read_item(const s_class& type, const s_item& item, void* object, c_xml_read
 
 /// Reads the event behind the item that was read last. What belongs to a group, its own event included, is done then.
 bool read_event_behind(s_place* place, void* object, c_xml_reader& reader, std::string* name, elmx_error* error) {
-    if (!next_element(reader, place->map, name, error)) return false;
     const s_item* const group = place->group;
+    const s_class* const level = group != nullptr ? group->type : place->level;
+    if (!next_element(reader, level, group != nullptr ? 0 : place->index, name, error)) return false;
     close_group(place, object);
-    if (group != nullptr) tokenise_element(reader, place->level->element_map + group->next_position());
+    if (group != nullptr) tokenise_element(reader, *place->level, place->index);
     return true;
 }
 
@@ -225,7 +235,7 @@ e_due find_due_row(const s_class& type, void* object, s_place* place, c_xml_read
             if (*told != told_before && is_stranger(type, *place, reader)) return e_due::stranger;
             if (!place->enter_next_level(type)) return e_due::none;
             place->group = nullptr;
-            tokenise_element(reader, place->level->element_map);
+            tokenise_element(reader, *place->level);
             continue;
         }
         const s_item& item = place->row();
@@ -242,8 +252,8 @@ e_due find_due_row(const s_class& type, void* object, s_place* place, c_xml_read
 /// Passes over an event that has no place in an element, and reads the one behind it.
 bool pass_stranger(const s_place& place, c_xml_reader& reader, std::string* name, elmx_error* error) {
     *error = pass_over_event(reader);
-    if (*error != ELMX_OK || !next_element(reader, nullptr, name, error)) return false;
-    if (!place.is_at_end()) tokenise_element(reader, place.level->element_map + place.row().position);
+    if (*error != ELMX_OK || !next_element(reader, nullptr, 0, name, error)) return false;
+    if (!place.is_at_end()) tokenise_element(reader, *place.level, place.index);
     return true;
 }
 
@@ -278,7 +288,7 @@ bool read_sequence(const s_class& type, void* object, s_place place, bool has_ev
         step_behind(&place);
         if (has_event) {
             close_group(&place, object);
-            tokenise_element(reader, place.level->element_map + item.next_position());
+            tokenise_element(reader, *place.level, place.index);
             continue;
         }
         const auto step = plain.take_items(type, object, &place, end, error);
@@ -304,22 +314,21 @@ bool read_any(const s_class& type, const s_item& item, void* object, c_xml_reade
         entry.set_namespace(reader.get_namespace(*name, &ns));
         entry.set_name(*name);
         entry.set_value(reader.m_value);
-        if (!next_element(reader, nullptr, name, error)) return false;
+        if (!next_element(reader, nullptr, 0, name, error)) return false;
     }
     return entries.size() > 0 || told != nullptr ||
            goes_on(reader, ELMX_MANDATORY_ELEMENT_MISSING, type.qualified_name, error);
 }
 
 bool read_choice(const s_class& type, void* object, c_xml_reader& reader, std::string* name, elmx_error* error) {
-    tokenise_element(reader, type.element_map);
-    const s_item* alternative = find_token(type.elements, reader.get_current_event());
+    const s_item* alternative = tokenise_element(reader, type);
     if (alternative == nullptr) {
         if (!goes_on(reader, {&type}, ELMX_UNKNOWN_ELEMENT_IN_COMPLEX_CONTENT, *name, error)) return false;
         if (!reader.is_recovering()) return true;
         while (alternative == nullptr && is_event_passable(reader)) {
             *error = pass_over_event(reader);
-            if (*error != ELMX_OK || !next_element(reader, type.element_map, name, error)) return false;
-            alternative = find_token(type.elements, reader.get_current_event());
+            if (*error != ELMX_OK || !next_element(reader, &type, 0, name, error)) return false;
+            alternative = find_row(type.elements, reader.get_current_event());
         }
         if (alternative == nullptr) return true;
     }
@@ -333,7 +342,7 @@ bool read_choice(const s_class& type, void* object, c_xml_reader& reader, std::s
         if (kind_of(*alternative).is_text) choose(type, *alternative, object);
         if (!read_simple_element(type, *alternative, object, reader, *name, error)) return false;
     }
-    return next_element(reader, type.element_map, name, error);
+    return next_element(reader, &type, 0, name, error);
 }
 
 bool has_open_content(const s_class& type) {
@@ -346,7 +355,7 @@ bool read_body(const s_class& type, void* object, c_xml_reader& reader, c_plain_
     if (type.content == content_kind::choice) return read_choice(type, object, reader, name, error);
     const s_class& first = first_level(type);
     if (has_open_content(first)) return read_any(first, first.elements.front(), object, reader, name, error);
-    tokenise_element(reader, first.element_map);
+    tokenise_element(reader, first);
     return read_sequence(type, object, s_place(first), true, reader, plain, end, name, error, is_ended);
 }
 
@@ -425,7 +434,7 @@ elmx_error read_children(const s_class& type, void* object, c_xml_reader& reader
         if (step == c_plain_way::e_step::ended) return ELMX_OK;
     }
     if (place.is_begun && type.content == content_kind::choice) {
-        if (!next_element(reader, place.map, &reader.m_name, &error)) return error;
+        if (!next_element(reader, place.level, 0, &reader.m_name, &error)) return error;
         return check_end(reader, node);
     }
     bool is_ended = false;
@@ -496,11 +505,10 @@ bool unmarshal_attribute(const s_class& type, void* object, c_xml_reader& reader
                          elmx_error* error) {
     *error = ELMX_OK;
     reader.notes().is_value_faulty = false;
-    reader.tokenise(type.attribute_map, ELXP_ATTRIBUTE);
+    const s_item* const item = tokenise(reader, type, type.attributes, ELXP_ATTRIBUTE);
     if (type.nil_flag != k_no_flag && reader.get_current_event() == ELXP_XSI_NIL) {
         return read_nil(type, object, reader, name, error);
     }
-    const s_item* const item = find_token(type.attributes, reader.get_current_event());
     if (item == nullptr) {
         return type.base != nullptr && unmarshal_attribute(*type.base, object, reader, name, error);
     }
@@ -550,16 +558,15 @@ bool unmarshal_content(const s_class& type, void* object, c_xml_reader& reader, 
 }
 
 bool unmarshal_group(const s_class& type, void* object, c_xml_reader& reader, std::string* name, elmx_error* error) {
-    return read_group(type, object, reader, *name, error) && next_element(reader, type.element_map, name, error);
+    return read_group(type, object, reader, *name, error) && next_element(reader, &type, 0, name, error);
 }
 
 bool is_group_member(const s_class& type, c_xml_reader& reader) {
     if (!reader.is_current_event_tokenisable()) return false;
-    const int event = reader.get_current_event();
-    reader.tokenise(type.element_map, ELXP_ELEMENT);
-    if (find_token(type.elements, reader.get_current_event()) != nullptr) return true;
-    reader.restore_event(event);
-    return false;
+    const int token = reader.find_token(*type.names, ELXP_ELEMENT);
+    const bool is_member = find_row(type.elements, token) != nullptr;
+    if (is_member) reader.restore_event(token);
+    return is_member;
 }
 
 }  // namespace lmx

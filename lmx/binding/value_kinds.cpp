@@ -42,7 +42,7 @@ void look_at_number(s_read_value& value) {
     value.number = text_to_double(value.text);
 }
 void look_at_datetime(s_read_value& value) { value.is_valid = c_datetime::is_valid(value.text, &value.has_zone); }
-void look_at_enumerated(s_read_value& value) { value.literal = value.facets->enumerated->find(value.text); }
+void look_at_enumerated(s_read_value& value) { value.literal = value.facets->enumeration->find(value.text); }
 
 template <class T, T (*Convert)(const std::string&)>
 void store_converted(const s_read_value& value, void* target) {

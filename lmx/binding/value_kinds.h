@@ -82,7 +82,7 @@ public:
     const s_facets* facets() const { return m_value.facets; }
     bool is_matched(const s_facets& facets) const;
     bool is_enumerated(const s_facets& facets) const {
-        return facets.enumeration.empty() || m_value.literal != nullptr;
+        return facets.enumeration == nullptr || m_value.literal != nullptr;
     }
     bool is_too_short(const s_facets& facets) const;
     bool is_too_long(const s_facets& facets) const;

@@ -17,8 +17,6 @@ struct s_event_map {
     int token;
 };
 
-inline constexpr s_event_map k_end_of_map{0, nullptr, 0, 0};
-
 /// One element that a reader shall not skip. A row with a null name closes a table.
 struct s_known_elements {
     int ns_id;

@@ -99,9 +99,17 @@ void c_xml_reader::set_ns_map(const s_ns_map* map) {
     for (const auto& [prefix, uri] : m_ns_mappings) m_root_local.add_namespace(prefix, add_namespace(uri.c_str()));
 }
 
+int c_xml_reader::search_token(const s_name_lists& names, elxp_attr_elem kind) const {
+    const int ns_id = name_ns_id(kind);
+    const std::string_view name = m_cracked_name.get_local_view();
+    if (ns_id == k_xsi_ns) return xsi_event(name);
+    const c_name_list& list = names.of(kind);
+    const int token = ns_id == list.ns_id() ? list.find(name) : 0;
+    return token != 0 ? token : ELXP_UNKNOWN;
+}
+
 void c_xml_reader::tokenise(const s_event_map* map, elxp_attr_elem kind) {
-    int ns_id = m_cracked_name.get_ns_id();
-    if (!m_cracked_name.get_has_ns_prefix() && (kind == ELXP_ATTRIBUTE || ns_id == k_unbound_ns)) ns_id = k_no_ns;
+    const int ns_id = name_ns_id(kind);
     const std::string_view name = m_cracked_name.get_local_view();
     if (ns_id == k_xsi_ns) {
         m_current_event = xsi_event(name);

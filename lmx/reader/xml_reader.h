@@ -17,6 +17,7 @@
 #include "lmx/ns_map.h"
 #include "lmx/reader/cracked_name.h"
 #include "lmx/reader/event_map.h"
+#include "lmx/reader/name_list.h"
 #include "lmx/reader/string_stack.h"
 #include "lmx/reader/xml.h"
 
@@ -98,6 +99,14 @@ public:
 
     /// Sets the event from the current name: the token of the row that matches, or `ELXP_UNKNOWN`.
     void tokenise(const s_event_map* map, elxp_attr_elem kind);
+    /// What the current name is among all names of a schema: its token, one of the events of the instance namespace,
+    /// or `ELXP_UNKNOWN`. Doesn't touch the event. `likely` is a token that it may well be, 0 for none.
+    int find_token(const s_name_lists& names, elxp_attr_elem kind, int likely = 0) const {
+        const c_name_list& list = names.of(kind);
+        const bool is_likely =
+            likely != 0 && name_ns_id(kind) == list.ns_id() && list.is(likely, m_cracked_name.get_local_view());
+        return is_likely ? likely : search_token(names, kind);
+    }
     /// The next event between tags; a name is tokenised if `map` isn't null. `*error` is set on failure only.
     void get_element_event(const s_event_map* map, elmx_error* error, std::string* name);
     /// The next attribute; false at the end of the start tag. `*error` is 0 or the failure.
@@ -165,6 +174,12 @@ public:
 
 private:
     elmx_error event_error() const;
+    /// The number of the current name's namespace, as that of an attribute or of an element.
+    int name_ns_id(elxp_attr_elem kind) const {
+        const bool is_plain_attribute = kind == ELXP_ATTRIBUTE && !m_cracked_name.get_has_ns_prefix();
+        return is_plain_attribute ? static_cast<int>(k_no_ns) : m_cracked_name.get_element_ns_id();
+    }
+    int search_token(const s_name_lists& names, elxp_attr_elem kind) const;
 
     c_xml_local* m_local = nullptr;
     c_xml_reader_local m_root_local;

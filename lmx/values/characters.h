@@ -12,6 +12,7 @@
 #include <cstddef>
 #include <cstdint>
 #include <string>
+#include <string_view>
 
 #include "lmx/export.h"
 
@@ -65,6 +66,17 @@ constexpr bool xisalnum(int c) { return detail::is_of_class(c, detail::class_aln
 constexpr bool xisdigit(int c) { return detail::is_of_class(c, detail::class_digit); }
 constexpr bool xisxdigit(int c) { return detail::is_of_class(c, detail::class_hex); }
 constexpr bool xisprint(int c) { return detail::is_of_class(c, detail::class_print); }
+
+/// Whether collapsing its white space leaves a text as it is.
+template <class Unit>
+constexpr bool is_collapsed(std::basic_string_view<Unit> text) {
+    bool is_behind_blank = true;
+    for (const Unit c : text) {
+        if (c == ' ' ? is_behind_blank : xisspace(c)) return false;
+        is_behind_blank = c == ' ';
+    }
+    return text.empty() || !is_behind_blank;
+}
 
 // The cursor functions advance a pointer into null-terminated text; the null ends every run.
 

@@ -8,7 +8,6 @@
 
 #include "schema/generated/color_values.h"
 #include "lmx/binding/binding.h"
-#include "lmx/binding/rows.h"
 #include "schema/generated/conditions.h"
 #include "schema/generated/device_color_values.h"
 #include "schema/generated/groups.h"
@@ -24,51 +23,20 @@ namespace com_vyrgraph_v2 {
 
 using namespace lmx;  // for the tables' sake
 
-static_assert(k_binding_version == 5, "run schema/generator/generate.py");
+static_assert(k_binding_version == 6, "run schema/generator/generate.py");
 
 // ParentColorSpace
 
-constexpr s_event_map k_ParentColorSpace_elements[] = {
-    element_event("ColorSpaceRecipe", element_ColorSpaceRecipe),
-    element_event("ColorSpaceTINTORA", element_ColorSpaceTINTORA),
-    element_event("ColorSpaceGeneric", element_ColorSpaceGeneric),
-    element_event("ColorSpaceEmissiveGeneric", element_ColorSpaceEmissiveGeneric),
-    element_event("ColorSpaceDensity", element_ColorSpaceDensity),
-    element_event("ColorSpaceRGB", element_ColorSpaceRGB),
-    element_event("ColorSpaceSRGB", element_ColorSpaceSRGB),
-    element_event("ColorSpaceAdobeRGB", element_ColorSpaceAdobeRGB),
-    element_event("ColorSpaceCMYKPlusN", element_ColorSpaceCMYKPlusN),
-    element_event("ColorSpaceAdobeWideGamutRGB", element_ColorSpaceAdobeWideGamutRGB),
-    element_event("ColorSpaceSpectral", element_ColorSpaceSpectral),
-    element_event("ColorSpaceEmissiveSpectral", element_ColorSpaceEmissiveSpectral),
-    element_event("ColorSpaceCIELab", element_ColorSpaceCIELab),
-    element_event("ColorSpaceCIELCh", element_ColorSpaceCIELCh),
-    element_event("ColorSpaceCIEXYZ", element_ColorSpaceCIEXYZ),
-    element_event("ColorSpaceEmissiveCIEXYZ", element_ColorSpaceEmissiveCIEXYZ),
-    element_event("ColorSpaceCIExyY", element_ColorSpaceCIExyY),
-    element_event("ColorSpaceEmissiveCIExyY", element_ColorSpaceEmissiveCIExyY),
-    element_event("ColorSpaceCIELuv", element_ColorSpaceCIELuv),
-    element_event("ColorSpaceHSL", element_ColorSpaceHSL),
-    element_event("ColorSpaceHSV", element_ColorSpaceHSV),
-    element_event("ColorSpaceCMYK", element_ColorSpaceCMYK),
-    element_event("ColorSpaceTINTORAOctavantic", element_ColorSpaceTINTORAOctavantic),
-    element_event("ColorSpaceYUV", element_ColorSpaceYUV),
-    element_event("ColorSpaceYIQ", element_ColorSpaceYIQ),
-    element_event("ColorSpaceYBR", element_ColorSpaceYBR),
-    element_event("ColorSpaceNCS", element_ColorSpaceNCS),
-    element_event("ColorSpaceMunsell", element_ColorSpaceMunsell),
-    k_end_of_map,
-};
-constinit const s_item ParentColorSpace::k_items[] = {
-    {item_kind::group, value_kind::none, use_asked | use_written | use_lax, ELMX_WS_PRESERVE, "Vyr:ColorSpace", 0, 0, LMX_FLAG(ParentColorSpace, m_choice.is_touched), position_of(k_ParentColorSpace_elements, element_ColorSpaceRecipe), 28, &sg_ColorSpace::k_class},
+constexpr s_item ParentColorSpace::k_items[] = {
+    {item_kind::group, value_kind::none, use_asked | use_written | use_lax, ELMX_WS_PRESERVE, "Vyr:ColorSpace", 0, 0, LMX_FLAG(ParentColorSpace, m_choice.is_touched), &sg_ColorSpace::k_class},
 };
 constinit const s_class ParentColorSpace::k_class = {
     .name = "ParentColorSpace",
     .qualified_name = "Vyr:ParentColorSpace",
     .content = content_kind::children,
+    .names = &k_names,
     .nil_flag = LMX_FLAG(ParentColorSpace, m_isnil),
     .elements = k_items,
-    .element_map = k_ParentColorSpace_elements,
     .operations = &k_operations<ParentColorSpace>,
 };
 
@@ -85,23 +53,12 @@ sg_ColorSpace& ParentColorSpace::assign_ColorSpace(const sg_ColorSpace& value) {
 
 // ColorSpaceType
 
-constexpr s_event_map k_ColorSpaceType_attributes[] = {
-    attribute_event("Comments", attribute_Comments),
-    attribute_event("UniqueID", attribute_UniqueID),
-    k_end_of_map,
-};
-constexpr s_event_map k_ColorSpaceType_elements[] = {
-    element_event("CustomAttribute", element_CustomAttribute),
-    element_event("ParentColorSpace", element_ParentColorSpace),
-    element_event("ChangeHistory", element_ChangeHistory),
-    k_end_of_map,
-};
-constinit const s_item ColorSpaceType::k_items[] = {
-    {item_kind::attribute, value_kind::text, use_optional, ELMX_WS_PRESERVE, "Comments", attribute_Comments, LMX_OFFSET(ColorSpaceType, m_Comments, attribute, text), LMX_FLAG(ColorSpaceType, m_isset_Comments)},
-    {item_kind::attribute, value_kind::text, use_optional, ELMX_WS_PRESERVE, "UniqueID", attribute_UniqueID, LMX_OFFSET(ColorSpaceType, m_UniqueID, attribute, text), LMX_FLAG(ColorSpaceType, m_isset_UniqueID)},
-    {item_kind::child_list, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:CustomAttribute", element_CustomAttribute, LMX_OFFSET(ColorSpaceType, m_CustomAttribute, child_list, none), k_no_flag, position_of(k_ColorSpaceType_elements, element_CustomAttribute), 1, &CustomAttributeType::k_class},
-    {item_kind::optional_child, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:ParentColorSpace", element_ParentColorSpace, LMX_OFFSET(ColorSpaceType, m_ParentColorSpace, optional_child, none), LMX_FLAG(ColorSpaceType, m_isset_ParentColorSpace), position_of(k_ColorSpaceType_elements, element_ParentColorSpace), 1, &ParentColorSpace::k_class},
-    {item_kind::element_list, value_kind::datetime, use_demanded | use_asked, ELMX_WS_COLLAPSE, "Vyr:ChangeHistory", element_ChangeHistory, LMX_OFFSET(ColorSpaceType, m_ChangeHistory, element_list, datetime), k_no_flag, position_of(k_ColorSpaceType_elements, element_ChangeHistory), 1, nullptr, &facets::DateTimeZone},
+constexpr s_item ColorSpaceType::k_items[] = {
+    {item_kind::attribute, value_kind::text, use_optional, ELMX_WS_PRESERVE, "Comments", attribute("Comments"), LMX_OFFSET(ColorSpaceType, m_Comments, attribute, text), LMX_FLAG(ColorSpaceType, m_isset_Comments)},
+    {item_kind::attribute, value_kind::text, use_optional, ELMX_WS_PRESERVE, "UniqueID", attribute("UniqueID"), LMX_OFFSET(ColorSpaceType, m_UniqueID, attribute, text), LMX_FLAG(ColorSpaceType, m_isset_UniqueID)},
+    {item_kind::child_list, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:CustomAttribute", element("CustomAttribute"), LMX_OFFSET(ColorSpaceType, m_CustomAttribute, child_list, none), k_no_flag, &CustomAttributeType::k_class},
+    {item_kind::optional_child, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:ParentColorSpace", element("ParentColorSpace"), LMX_OFFSET(ColorSpaceType, m_ParentColorSpace, optional_child, none), LMX_FLAG(ColorSpaceType, m_isset_ParentColorSpace), &ParentColorSpace::k_class},
+    {item_kind::element_list, value_kind::datetime, use_demanded | use_asked, ELMX_WS_COLLAPSE, "Vyr:ChangeHistory", element("ChangeHistory"), LMX_OFFSET(ColorSpaceType, m_ChangeHistory, element_list, datetime), k_no_flag, nullptr, &facets::DateTimeZone},
 };
 constinit const s_factory_row ColorSpaceType::k_factory[] = {
     {"ColorSpaceCIELabType", &ColorSpaceCIELabType::k_class},
@@ -137,12 +94,11 @@ constinit const s_class ColorSpaceType::k_class = {
     .name = "ColorSpaceType",
     .qualified_name = "Vyr:ColorSpaceType",
     .content = content_kind::children,
+    .names = &k_names,
     .ns_map = k_ns_map,
     .id = &ColorSpaceType::id,
-    .attributes = std::span(k_items).first(std::size(k_ColorSpaceType_attributes) - 1),
-    .elements = std::span(k_items).subspan(std::size(k_ColorSpaceType_attributes) - 1),
-    .attribute_map = k_ColorSpaceType_attributes,
-    .element_map = k_ColorSpaceType_elements,
+    .attributes = std::span(k_items).first(attribute_count(k_items)),
+    .elements = std::span(k_items).subspan(attribute_count(k_items)),
     .operations = &k_operations<ColorSpaceType>,
 };
 
@@ -188,35 +144,23 @@ lmx::elmx_error ColorSpace::unmarshal(lmx::c_xml_reader& reader, const std::stri
 
 // ColorSpaceCIELabType
 
-constexpr s_event_map k_ColorSpaceCIELabType_attributes[] = {
-    attribute_event("Name", attribute_Name),
-    k_end_of_map,
-};
-constexpr s_event_map k_ColorSpaceCIELabType_elements[] = {
-    element_event("ColorSpaceSpecificationSpectrumTristimulus", element_ColorSpaceSpecificationSpectrumTristimulus),
-    element_event("L", element_L),
-    element_event("A", element_A),
-    element_event("B", element_B),
-    k_end_of_map,
-};
-constinit const s_item ColorSpaceCIELabType::k_items[] = {
-    {item_kind::attribute, value_kind::text, use_name, ELMX_WS_PRESERVE, "Name", attribute_Name, LMX_OFFSET(ColorSpaceCIELabType, m_Name, attribute, text), LMX_FLAG(ColorSpaceCIELabType, m_isset_Name)},
-    {item_kind::child, value_kind::none, use_required, ELMX_WS_PRESERVE, "Vyr:ColorSpaceSpecificationSpectrumTristimulus", element_ColorSpaceSpecificationSpectrumTristimulus, LMX_OFFSET(ColorSpaceCIELabType, m_ColorSpaceSpecificationSpectrumTristimulus, child, none), LMX_FLAG(ColorSpaceCIELabType, m_isset_ColorSpaceSpecificationSpectrumTristimulus), position_of(k_ColorSpaceCIELabType_elements, element_ColorSpaceSpecificationSpectrumTristimulus), 1, &ColorSpaceSpecificationSpectrumTristimulus::k_class},
-    {item_kind::element, value_kind::number, use_required, ELMX_WS_COLLAPSE, "Vyr:L", element_L, LMX_OFFSET(ColorSpaceCIELabType, m_L, element, number), LMX_FLAG(ColorSpaceCIELabType, m_isset_L), position_of(k_ColorSpaceCIELabType_elements, element_L), 1, nullptr, &facets::LabLightness},
-    {item_kind::element, value_kind::number, use_required, ELMX_WS_COLLAPSE, "Vyr:A", element_A, LMX_OFFSET(ColorSpaceCIELabType, m_A, element, number), LMX_FLAG(ColorSpaceCIELabType, m_isset_A), position_of(k_ColorSpaceCIELabType_elements, element_A), 1, nullptr, &facets::LabOpponent},
-    {item_kind::element, value_kind::number, use_required, ELMX_WS_COLLAPSE, "Vyr:B", element_B, LMX_OFFSET(ColorSpaceCIELabType, m_B, element, number), LMX_FLAG(ColorSpaceCIELabType, m_isset_B), position_of(k_ColorSpaceCIELabType_elements, element_B), 1, nullptr, &facets::LabOpponent},
+constexpr s_item ColorSpaceCIELabType::k_items[] = {
+    {item_kind::attribute, value_kind::text, use_name, ELMX_WS_PRESERVE, "Name", attribute("Name"), LMX_OFFSET(ColorSpaceCIELabType, m_Name, attribute, text), LMX_FLAG(ColorSpaceCIELabType, m_isset_Name)},
+    {item_kind::child, value_kind::none, use_required, ELMX_WS_PRESERVE, "Vyr:ColorSpaceSpecificationSpectrumTristimulus", element("ColorSpaceSpecificationSpectrumTristimulus"), LMX_OFFSET(ColorSpaceCIELabType, m_ColorSpaceSpecificationSpectrumTristimulus, child, none), LMX_FLAG(ColorSpaceCIELabType, m_isset_ColorSpaceSpecificationSpectrumTristimulus), &ColorSpaceSpecificationSpectrumTristimulus::k_class},
+    {item_kind::element, value_kind::number, use_required, ELMX_WS_COLLAPSE, "Vyr:L", element("L"), LMX_OFFSET(ColorSpaceCIELabType, m_L, element, number), LMX_FLAG(ColorSpaceCIELabType, m_isset_L), nullptr, &facets::LabLightness},
+    {item_kind::element, value_kind::number, use_required, ELMX_WS_COLLAPSE, "Vyr:A", element("A"), LMX_OFFSET(ColorSpaceCIELabType, m_A, element, number), LMX_FLAG(ColorSpaceCIELabType, m_isset_A), nullptr, &facets::LabOpponent},
+    {item_kind::element, value_kind::number, use_required, ELMX_WS_COLLAPSE, "Vyr:B", element("B"), LMX_OFFSET(ColorSpaceCIELabType, m_B, element, number), LMX_FLAG(ColorSpaceCIELabType, m_isset_B), nullptr, &facets::LabOpponent},
 };
 constinit const s_class ColorSpaceCIELabType::k_class = {
     .name = "ColorSpaceCIELabType",
     .qualified_name = "Vyr:ColorSpaceCIELabType",
     .base = &ColorSpaceType::k_class,
     .content = content_kind::children,
+    .names = &k_names,
     .ns_map = k_ns_map,
     .id = &ColorSpaceCIELabType::id,
-    .attributes = std::span(k_items).first(std::size(k_ColorSpaceCIELabType_attributes) - 1),
-    .elements = std::span(k_items).subspan(std::size(k_ColorSpaceCIELabType_attributes) - 1),
-    .attribute_map = k_ColorSpaceCIELabType_attributes,
-    .element_map = k_ColorSpaceCIELabType_elements,
+    .attributes = std::span(k_items).first(attribute_count(k_items)),
+    .elements = std::span(k_items).subspan(attribute_count(k_items)),
     .operations = &k_operations<ColorSpaceCIELabType>,
 };
 
@@ -242,35 +186,23 @@ lmx::elmx_error ColorSpaceCIELabType::set_B(double value) { return lmx::set_item
 
 // ColorSpaceCIELChType
 
-constexpr s_event_map k_ColorSpaceCIELChType_attributes[] = {
-    attribute_event("Name", attribute_Name),
-    k_end_of_map,
-};
-constexpr s_event_map k_ColorSpaceCIELChType_elements[] = {
-    element_event("ColorSpaceSpecificationSpectrumTristimulus", element_ColorSpaceSpecificationSpectrumTristimulus),
-    element_event("L", element_L),
-    element_event("C", element_C),
-    element_event("H", element_H),
-    k_end_of_map,
-};
-constinit const s_item ColorSpaceCIELChType::k_items[] = {
-    {item_kind::attribute, value_kind::text, use_name, ELMX_WS_PRESERVE, "Name", attribute_Name, LMX_OFFSET(ColorSpaceCIELChType, m_Name, attribute, text), LMX_FLAG(ColorSpaceCIELChType, m_isset_Name)},
-    {item_kind::child, value_kind::none, use_required, ELMX_WS_PRESERVE, "Vyr:ColorSpaceSpecificationSpectrumTristimulus", element_ColorSpaceSpecificationSpectrumTristimulus, LMX_OFFSET(ColorSpaceCIELChType, m_ColorSpaceSpecificationSpectrumTristimulus, child, none), LMX_FLAG(ColorSpaceCIELChType, m_isset_ColorSpaceSpecificationSpectrumTristimulus), position_of(k_ColorSpaceCIELChType_elements, element_ColorSpaceSpecificationSpectrumTristimulus), 1, &ColorSpaceSpecificationSpectrumTristimulus::k_class},
-    {item_kind::element, value_kind::number, use_required, ELMX_WS_COLLAPSE, "Vyr:L", element_L, LMX_OFFSET(ColorSpaceCIELChType, m_L, element, number), LMX_FLAG(ColorSpaceCIELChType, m_isset_L), position_of(k_ColorSpaceCIELChType_elements, element_L), 1, nullptr, &facets::Lightness},
-    {item_kind::element, value_kind::number, use_required, ELMX_WS_COLLAPSE, "Vyr:C", element_C, LMX_OFFSET(ColorSpaceCIELChType, m_C, element, number), LMX_FLAG(ColorSpaceCIELChType, m_isset_C), position_of(k_ColorSpaceCIELChType_elements, element_C), 1, nullptr, &facets::Chroma},
-    {item_kind::element, value_kind::number, use_required, ELMX_WS_COLLAPSE, "Vyr:H", element_H, LMX_OFFSET(ColorSpaceCIELChType, m_H, element, number), LMX_FLAG(ColorSpaceCIELChType, m_isset_H), position_of(k_ColorSpaceCIELChType_elements, element_H), 1, nullptr, &facets::HueAngle},
+constexpr s_item ColorSpaceCIELChType::k_items[] = {
+    {item_kind::attribute, value_kind::text, use_name, ELMX_WS_PRESERVE, "Name", attribute("Name"), LMX_OFFSET(ColorSpaceCIELChType, m_Name, attribute, text), LMX_FLAG(ColorSpaceCIELChType, m_isset_Name)},
+    {item_kind::child, value_kind::none, use_required, ELMX_WS_PRESERVE, "Vyr:ColorSpaceSpecificationSpectrumTristimulus", element("ColorSpaceSpecificationSpectrumTristimulus"), LMX_OFFSET(ColorSpaceCIELChType, m_ColorSpaceSpecificationSpectrumTristimulus, child, none), LMX_FLAG(ColorSpaceCIELChType, m_isset_ColorSpaceSpecificationSpectrumTristimulus), &ColorSpaceSpecificationSpectrumTristimulus::k_class},
+    {item_kind::element, value_kind::number, use_required, ELMX_WS_COLLAPSE, "Vyr:L", element("L"), LMX_OFFSET(ColorSpaceCIELChType, m_L, element, number), LMX_FLAG(ColorSpaceCIELChType, m_isset_L), nullptr, &facets::Lightness},
+    {item_kind::element, value_kind::number, use_required, ELMX_WS_COLLAPSE, "Vyr:C", element("C"), LMX_OFFSET(ColorSpaceCIELChType, m_C, element, number), LMX_FLAG(ColorSpaceCIELChType, m_isset_C), nullptr, &facets::Chroma},
+    {item_kind::element, value_kind::number, use_required, ELMX_WS_COLLAPSE, "Vyr:H", element("H"), LMX_OFFSET(ColorSpaceCIELChType, m_H, element, number), LMX_FLAG(ColorSpaceCIELChType, m_isset_H), nullptr, &facets::HueAngle},
 };
 constinit const s_class ColorSpaceCIELChType::k_class = {
     .name = "ColorSpaceCIELChType",
     .qualified_name = "Vyr:ColorSpaceCIELChType",
     .base = &ColorSpaceType::k_class,
     .content = content_kind::children,
+    .names = &k_names,
     .ns_map = k_ns_map,
     .id = &ColorSpaceCIELChType::id,
-    .attributes = std::span(k_items).first(std::size(k_ColorSpaceCIELChType_attributes) - 1),
-    .elements = std::span(k_items).subspan(std::size(k_ColorSpaceCIELChType_attributes) - 1),
-    .attribute_map = k_ColorSpaceCIELChType_attributes,
-    .element_map = k_ColorSpaceCIELChType_elements,
+    .attributes = std::span(k_items).first(attribute_count(k_items)),
+    .elements = std::span(k_items).subspan(attribute_count(k_items)),
     .operations = &k_operations<ColorSpaceCIELChType>,
 };
 
@@ -296,35 +228,23 @@ lmx::elmx_error ColorSpaceCIELChType::set_H(double value) { return lmx::set_item
 
 // ColorSpaceCIELuvType
 
-constexpr s_event_map k_ColorSpaceCIELuvType_attributes[] = {
-    attribute_event("Name", attribute_Name),
-    k_end_of_map,
-};
-constexpr s_event_map k_ColorSpaceCIELuvType_elements[] = {
-    element_event("ColorSpaceSpecificationSpectrumTristimulus", element_ColorSpaceSpecificationSpectrumTristimulus),
-    element_event("L", element_L),
-    element_event("U", element_U),
-    element_event("V", element_V),
-    k_end_of_map,
-};
-constinit const s_item ColorSpaceCIELuvType::k_items[] = {
-    {item_kind::attribute, value_kind::text, use_name, ELMX_WS_PRESERVE, "Name", attribute_Name, LMX_OFFSET(ColorSpaceCIELuvType, m_Name, attribute, text), LMX_FLAG(ColorSpaceCIELuvType, m_isset_Name)},
-    {item_kind::child, value_kind::none, use_required, ELMX_WS_PRESERVE, "Vyr:ColorSpaceSpecificationSpectrumTristimulus", element_ColorSpaceSpecificationSpectrumTristimulus, LMX_OFFSET(ColorSpaceCIELuvType, m_ColorSpaceSpecificationSpectrumTristimulus, child, none), LMX_FLAG(ColorSpaceCIELuvType, m_isset_ColorSpaceSpecificationSpectrumTristimulus), position_of(k_ColorSpaceCIELuvType_elements, element_ColorSpaceSpecificationSpectrumTristimulus), 1, &ColorSpaceSpecificationSpectrumTristimulus::k_class},
-    {item_kind::element, value_kind::number, use_required, ELMX_WS_COLLAPSE, "Vyr:L", element_L, LMX_OFFSET(ColorSpaceCIELuvType, m_L, element, number), LMX_FLAG(ColorSpaceCIELuvType, m_isset_L), position_of(k_ColorSpaceCIELuvType_elements, element_L), 1, nullptr, &facets::Lightness},
-    {item_kind::element, value_kind::number, use_required, ELMX_WS_COLLAPSE, "Vyr:U", element_U, LMX_OFFSET(ColorSpaceCIELuvType, m_U, element, number), LMX_FLAG(ColorSpaceCIELuvType, m_isset_U), position_of(k_ColorSpaceCIELuvType_elements, element_U), 1, nullptr, &facets::LuvU},
-    {item_kind::element, value_kind::number, use_required, ELMX_WS_COLLAPSE, "Vyr:V", element_V, LMX_OFFSET(ColorSpaceCIELuvType, m_V, element, number), LMX_FLAG(ColorSpaceCIELuvType, m_isset_V), position_of(k_ColorSpaceCIELuvType_elements, element_V), 1, nullptr, &facets::LuvV},
+constexpr s_item ColorSpaceCIELuvType::k_items[] = {
+    {item_kind::attribute, value_kind::text, use_name, ELMX_WS_PRESERVE, "Name", attribute("Name"), LMX_OFFSET(ColorSpaceCIELuvType, m_Name, attribute, text), LMX_FLAG(ColorSpaceCIELuvType, m_isset_Name)},
+    {item_kind::child, value_kind::none, use_required, ELMX_WS_PRESERVE, "Vyr:ColorSpaceSpecificationSpectrumTristimulus", element("ColorSpaceSpecificationSpectrumTristimulus"), LMX_OFFSET(ColorSpaceCIELuvType, m_ColorSpaceSpecificationSpectrumTristimulus, child, none), LMX_FLAG(ColorSpaceCIELuvType, m_isset_ColorSpaceSpecificationSpectrumTristimulus), &ColorSpaceSpecificationSpectrumTristimulus::k_class},
+    {item_kind::element, value_kind::number, use_required, ELMX_WS_COLLAPSE, "Vyr:L", element("L"), LMX_OFFSET(ColorSpaceCIELuvType, m_L, element, number), LMX_FLAG(ColorSpaceCIELuvType, m_isset_L), nullptr, &facets::Lightness},
+    {item_kind::element, value_kind::number, use_required, ELMX_WS_COLLAPSE, "Vyr:U", element("U"), LMX_OFFSET(ColorSpaceCIELuvType, m_U, element, number), LMX_FLAG(ColorSpaceCIELuvType, m_isset_U), nullptr, &facets::LuvU},
+    {item_kind::element, value_kind::number, use_required, ELMX_WS_COLLAPSE, "Vyr:V", element("V"), LMX_OFFSET(ColorSpaceCIELuvType, m_V, element, number), LMX_FLAG(ColorSpaceCIELuvType, m_isset_V), nullptr, &facets::LuvV},
 };
 constinit const s_class ColorSpaceCIELuvType::k_class = {
     .name = "ColorSpaceCIELuvType",
     .qualified_name = "Vyr:ColorSpaceCIELuvType",
     .base = &ColorSpaceType::k_class,
     .content = content_kind::children,
+    .names = &k_names,
     .ns_map = k_ns_map,
     .id = &ColorSpaceCIELuvType::id,
-    .attributes = std::span(k_items).first(std::size(k_ColorSpaceCIELuvType_attributes) - 1),
-    .elements = std::span(k_items).subspan(std::size(k_ColorSpaceCIELuvType_attributes) - 1),
-    .attribute_map = k_ColorSpaceCIELuvType_attributes,
-    .element_map = k_ColorSpaceCIELuvType_elements,
+    .attributes = std::span(k_items).first(attribute_count(k_items)),
+    .elements = std::span(k_items).subspan(attribute_count(k_items)),
     .operations = &k_operations<ColorSpaceCIELuvType>,
 };
 
@@ -350,35 +270,23 @@ lmx::elmx_error ColorSpaceCIELuvType::set_V(double value) { return lmx::set_item
 
 // ColorSpaceCIEXYZType
 
-constexpr s_event_map k_ColorSpaceCIEXYZType_attributes[] = {
-    attribute_event("Name", attribute_Name),
-    k_end_of_map,
-};
-constexpr s_event_map k_ColorSpaceCIEXYZType_elements[] = {
-    element_event("ColorSpaceSpecificationSpectrumTristimulus", element_ColorSpaceSpecificationSpectrumTristimulus),
-    element_event("X", element_X),
-    element_event("Y", element_Y),
-    element_event("Z", element_Z),
-    k_end_of_map,
-};
-constinit const s_item ColorSpaceCIEXYZType::k_items[] = {
-    {item_kind::attribute, value_kind::text, use_name, ELMX_WS_PRESERVE, "Name", attribute_Name, LMX_OFFSET(ColorSpaceCIEXYZType, m_Name, attribute, text), LMX_FLAG(ColorSpaceCIEXYZType, m_isset_Name)},
-    {item_kind::child, value_kind::none, use_required, ELMX_WS_PRESERVE, "Vyr:ColorSpaceSpecificationSpectrumTristimulus", element_ColorSpaceSpecificationSpectrumTristimulus, LMX_OFFSET(ColorSpaceCIEXYZType, m_ColorSpaceSpecificationSpectrumTristimulus, child, none), LMX_FLAG(ColorSpaceCIEXYZType, m_isset_ColorSpaceSpecificationSpectrumTristimulus), position_of(k_ColorSpaceCIEXYZType_elements, element_ColorSpaceSpecificationSpectrumTristimulus), 1, &ColorSpaceSpecificationSpectrumTristimulus::k_class},
-    {item_kind::element, value_kind::number, use_required, ELMX_WS_COLLAPSE, "Vyr:X", element_X, LMX_OFFSET(ColorSpaceCIEXYZType, m_X, element, number), LMX_FLAG(ColorSpaceCIEXYZType, m_isset_X), position_of(k_ColorSpaceCIEXYZType_elements, element_X), 1, nullptr, &facets::Fraction},
-    {item_kind::element, value_kind::number, use_required, ELMX_WS_COLLAPSE, "Vyr:Y", element_Y, LMX_OFFSET(ColorSpaceCIEXYZType, m_Y, element, number), LMX_FLAG(ColorSpaceCIEXYZType, m_isset_Y), position_of(k_ColorSpaceCIEXYZType_elements, element_Y), 1, nullptr, &facets::Fraction},
-    {item_kind::element, value_kind::number, use_required, ELMX_WS_COLLAPSE, "Vyr:Z", element_Z, LMX_OFFSET(ColorSpaceCIEXYZType, m_Z, element, number), LMX_FLAG(ColorSpaceCIEXYZType, m_isset_Z), position_of(k_ColorSpaceCIEXYZType_elements, element_Z), 1, nullptr, &facets::Fraction},
+constexpr s_item ColorSpaceCIEXYZType::k_items[] = {
+    {item_kind::attribute, value_kind::text, use_name, ELMX_WS_PRESERVE, "Name", attribute("Name"), LMX_OFFSET(ColorSpaceCIEXYZType, m_Name, attribute, text), LMX_FLAG(ColorSpaceCIEXYZType, m_isset_Name)},
+    {item_kind::child, value_kind::none, use_required, ELMX_WS_PRESERVE, "Vyr:ColorSpaceSpecificationSpectrumTristimulus", element("ColorSpaceSpecificationSpectrumTristimulus"), LMX_OFFSET(ColorSpaceCIEXYZType, m_ColorSpaceSpecificationSpectrumTristimulus, child, none), LMX_FLAG(ColorSpaceCIEXYZType, m_isset_ColorSpaceSpecificationSpectrumTristimulus), &ColorSpaceSpecificationSpectrumTristimulus::k_class},
+    {item_kind::element, value_kind::number, use_required, ELMX_WS_COLLAPSE, "Vyr:X", element("X"), LMX_OFFSET(ColorSpaceCIEXYZType, m_X, element, number), LMX_FLAG(ColorSpaceCIEXYZType, m_isset_X), nullptr, &facets::Fraction},
+    {item_kind::element, value_kind::number, use_required, ELMX_WS_COLLAPSE, "Vyr:Y", element("Y"), LMX_OFFSET(ColorSpaceCIEXYZType, m_Y, element, number), LMX_FLAG(ColorSpaceCIEXYZType, m_isset_Y), nullptr, &facets::Fraction},
+    {item_kind::element, value_kind::number, use_required, ELMX_WS_COLLAPSE, "Vyr:Z", element("Z"), LMX_OFFSET(ColorSpaceCIEXYZType, m_Z, element, number), LMX_FLAG(ColorSpaceCIEXYZType, m_isset_Z), nullptr, &facets::Fraction},
 };
 constinit const s_class ColorSpaceCIEXYZType::k_class = {
     .name = "ColorSpaceCIEXYZType",
     .qualified_name = "Vyr:ColorSpaceCIEXYZType",
     .base = &ColorSpaceType::k_class,
     .content = content_kind::children,
+    .names = &k_names,
     .ns_map = k_ns_map,
     .id = &ColorSpaceCIEXYZType::id,
-    .attributes = std::span(k_items).first(std::size(k_ColorSpaceCIEXYZType_attributes) - 1),
-    .elements = std::span(k_items).subspan(std::size(k_ColorSpaceCIEXYZType_attributes) - 1),
-    .attribute_map = k_ColorSpaceCIEXYZType_attributes,
-    .element_map = k_ColorSpaceCIEXYZType_elements,
+    .attributes = std::span(k_items).first(attribute_count(k_items)),
+    .elements = std::span(k_items).subspan(attribute_count(k_items)),
     .operations = &k_operations<ColorSpaceCIEXYZType>,
 };
 
@@ -404,35 +312,23 @@ lmx::elmx_error ColorSpaceCIEXYZType::set_Z(double value) { return lmx::set_item
 
 // ColorSpaceCIExyYType
 
-constexpr s_event_map k_ColorSpaceCIExyYType_attributes[] = {
-    attribute_event("Name", attribute_Name),
-    k_end_of_map,
-};
-constexpr s_event_map k_ColorSpaceCIExyYType_elements[] = {
-    element_event("ColorSpaceSpecificationSpectrumTristimulus", element_ColorSpaceSpecificationSpectrumTristimulus),
-    element_event("X", element_X),
-    element_event("Y", element_Y),
-    element_event("CapY", element_CapY),
-    k_end_of_map,
-};
-constinit const s_item ColorSpaceCIExyYType::k_items[] = {
-    {item_kind::attribute, value_kind::text, use_name, ELMX_WS_PRESERVE, "Name", attribute_Name, LMX_OFFSET(ColorSpaceCIExyYType, m_Name, attribute, text), LMX_FLAG(ColorSpaceCIExyYType, m_isset_Name)},
-    {item_kind::child, value_kind::none, use_required, ELMX_WS_PRESERVE, "Vyr:ColorSpaceSpecificationSpectrumTristimulus", element_ColorSpaceSpecificationSpectrumTristimulus, LMX_OFFSET(ColorSpaceCIExyYType, m_ColorSpaceSpecificationSpectrumTristimulus, child, none), LMX_FLAG(ColorSpaceCIExyYType, m_isset_ColorSpaceSpecificationSpectrumTristimulus), position_of(k_ColorSpaceCIExyYType_elements, element_ColorSpaceSpecificationSpectrumTristimulus), 1, &ColorSpaceSpecificationSpectrumTristimulus::k_class},
-    {item_kind::element, value_kind::number, use_required, ELMX_WS_COLLAPSE, "Vyr:X", element_X, LMX_OFFSET(ColorSpaceCIExyYType, m_X, element, number), LMX_FLAG(ColorSpaceCIExyYType, m_isset_X), position_of(k_ColorSpaceCIExyYType_elements, element_X), 1, nullptr, &facets::Fraction},
-    {item_kind::element, value_kind::number, use_required, ELMX_WS_COLLAPSE, "Vyr:Y", element_Y, LMX_OFFSET(ColorSpaceCIExyYType, m_Y, element, number), LMX_FLAG(ColorSpaceCIExyYType, m_isset_Y), position_of(k_ColorSpaceCIExyYType_elements, element_Y), 1, nullptr, &facets::Fraction},
-    {item_kind::element, value_kind::number, use_required, ELMX_WS_COLLAPSE, "Vyr:CapY", element_CapY, LMX_OFFSET(ColorSpaceCIExyYType, m_CapY, element, number), LMX_FLAG(ColorSpaceCIExyYType, m_isset_CapY), position_of(k_ColorSpaceCIExyYType_elements, element_CapY), 1, nullptr, &facets::Fraction},
+constexpr s_item ColorSpaceCIExyYType::k_items[] = {
+    {item_kind::attribute, value_kind::text, use_name, ELMX_WS_PRESERVE, "Name", attribute("Name"), LMX_OFFSET(ColorSpaceCIExyYType, m_Name, attribute, text), LMX_FLAG(ColorSpaceCIExyYType, m_isset_Name)},
+    {item_kind::child, value_kind::none, use_required, ELMX_WS_PRESERVE, "Vyr:ColorSpaceSpecificationSpectrumTristimulus", element("ColorSpaceSpecificationSpectrumTristimulus"), LMX_OFFSET(ColorSpaceCIExyYType, m_ColorSpaceSpecificationSpectrumTristimulus, child, none), LMX_FLAG(ColorSpaceCIExyYType, m_isset_ColorSpaceSpecificationSpectrumTristimulus), &ColorSpaceSpecificationSpectrumTristimulus::k_class},
+    {item_kind::element, value_kind::number, use_required, ELMX_WS_COLLAPSE, "Vyr:X", element("X"), LMX_OFFSET(ColorSpaceCIExyYType, m_X, element, number), LMX_FLAG(ColorSpaceCIExyYType, m_isset_X), nullptr, &facets::Fraction},
+    {item_kind::element, value_kind::number, use_required, ELMX_WS_COLLAPSE, "Vyr:Y", element("Y"), LMX_OFFSET(ColorSpaceCIExyYType, m_Y, element, number), LMX_FLAG(ColorSpaceCIExyYType, m_isset_Y), nullptr, &facets::Fraction},
+    {item_kind::element, value_kind::number, use_required, ELMX_WS_COLLAPSE, "Vyr:CapY", element("CapY"), LMX_OFFSET(ColorSpaceCIExyYType, m_CapY, element, number), LMX_FLAG(ColorSpaceCIExyYType, m_isset_CapY), nullptr, &facets::Fraction},
 };
 constinit const s_class ColorSpaceCIExyYType::k_class = {
     .name = "ColorSpaceCIExyYType",
     .qualified_name = "Vyr:ColorSpaceCIExyYType",
     .base = &ColorSpaceType::k_class,
     .content = content_kind::children,
+    .names = &k_names,
     .ns_map = k_ns_map,
     .id = &ColorSpaceCIExyYType::id,
-    .attributes = std::span(k_items).first(std::size(k_ColorSpaceCIExyYType_attributes) - 1),
-    .elements = std::span(k_items).subspan(std::size(k_ColorSpaceCIExyYType_attributes) - 1),
-    .attribute_map = k_ColorSpaceCIExyYType_attributes,
-    .element_map = k_ColorSpaceCIExyYType_elements,
+    .attributes = std::span(k_items).first(attribute_count(k_items)),
+    .elements = std::span(k_items).subspan(attribute_count(k_items)),
     .operations = &k_operations<ColorSpaceCIExyYType>,
 };
 
@@ -458,35 +354,23 @@ lmx::elmx_error ColorSpaceCIExyYType::set_CapY(double value) { return lmx::set_i
 
 // ColorSpaceEmissiveCIEXYZType
 
-constexpr s_event_map k_ColorSpaceEmissiveCIEXYZType_attributes[] = {
-    attribute_event("Name", attribute_Name),
-    k_end_of_map,
-};
-constexpr s_event_map k_ColorSpaceEmissiveCIEXYZType_elements[] = {
-    element_event("ColorSpaceSpecificationEmissiveTristimulus", element_ColorSpaceSpecificationEmissiveTristimulus),
-    element_event("X", element_X),
-    element_event("Y", element_Y),
-    element_event("Z", element_Z),
-    k_end_of_map,
-};
-constinit const s_item ColorSpaceEmissiveCIEXYZType::k_items[] = {
-    {item_kind::attribute, value_kind::text, use_name, ELMX_WS_PRESERVE, "Name", attribute_Name, LMX_OFFSET(ColorSpaceEmissiveCIEXYZType, m_Name, attribute, text), LMX_FLAG(ColorSpaceEmissiveCIEXYZType, m_isset_Name)},
-    {item_kind::child, value_kind::none, use_required, ELMX_WS_PRESERVE, "Vyr:ColorSpaceSpecificationEmissiveTristimulus", element_ColorSpaceSpecificationEmissiveTristimulus, LMX_OFFSET(ColorSpaceEmissiveCIEXYZType, m_ColorSpaceSpecificationEmissiveTristimulus, child, none), LMX_FLAG(ColorSpaceEmissiveCIEXYZType, m_isset_ColorSpaceSpecificationEmissiveTristimulus), position_of(k_ColorSpaceEmissiveCIEXYZType_elements, element_ColorSpaceSpecificationEmissiveTristimulus), 1, &ColorSpaceSpecificationEmissiveTristimulus::k_class},
-    {item_kind::element, value_kind::number, use_required, ELMX_WS_COLLAPSE, "Vyr:X", element_X, LMX_OFFSET(ColorSpaceEmissiveCIEXYZType, m_X, element, number), LMX_FLAG(ColorSpaceEmissiveCIEXYZType, m_isset_X), position_of(k_ColorSpaceEmissiveCIEXYZType_elements, element_X), 1, nullptr, &facets::NonNegative},
-    {item_kind::element, value_kind::number, use_required, ELMX_WS_COLLAPSE, "Vyr:Y", element_Y, LMX_OFFSET(ColorSpaceEmissiveCIEXYZType, m_Y, element, number), LMX_FLAG(ColorSpaceEmissiveCIEXYZType, m_isset_Y), position_of(k_ColorSpaceEmissiveCIEXYZType_elements, element_Y), 1, nullptr, &facets::NonNegative},
-    {item_kind::element, value_kind::number, use_required, ELMX_WS_COLLAPSE, "Vyr:Z", element_Z, LMX_OFFSET(ColorSpaceEmissiveCIEXYZType, m_Z, element, number), LMX_FLAG(ColorSpaceEmissiveCIEXYZType, m_isset_Z), position_of(k_ColorSpaceEmissiveCIEXYZType_elements, element_Z), 1, nullptr, &facets::NonNegative},
+constexpr s_item ColorSpaceEmissiveCIEXYZType::k_items[] = {
+    {item_kind::attribute, value_kind::text, use_name, ELMX_WS_PRESERVE, "Name", attribute("Name"), LMX_OFFSET(ColorSpaceEmissiveCIEXYZType, m_Name, attribute, text), LMX_FLAG(ColorSpaceEmissiveCIEXYZType, m_isset_Name)},
+    {item_kind::child, value_kind::none, use_required, ELMX_WS_PRESERVE, "Vyr:ColorSpaceSpecificationEmissiveTristimulus", element("ColorSpaceSpecificationEmissiveTristimulus"), LMX_OFFSET(ColorSpaceEmissiveCIEXYZType, m_ColorSpaceSpecificationEmissiveTristimulus, child, none), LMX_FLAG(ColorSpaceEmissiveCIEXYZType, m_isset_ColorSpaceSpecificationEmissiveTristimulus), &ColorSpaceSpecificationEmissiveTristimulus::k_class},
+    {item_kind::element, value_kind::number, use_required, ELMX_WS_COLLAPSE, "Vyr:X", element("X"), LMX_OFFSET(ColorSpaceEmissiveCIEXYZType, m_X, element, number), LMX_FLAG(ColorSpaceEmissiveCIEXYZType, m_isset_X), nullptr, &facets::NonNegative},
+    {item_kind::element, value_kind::number, use_required, ELMX_WS_COLLAPSE, "Vyr:Y", element("Y"), LMX_OFFSET(ColorSpaceEmissiveCIEXYZType, m_Y, element, number), LMX_FLAG(ColorSpaceEmissiveCIEXYZType, m_isset_Y), nullptr, &facets::NonNegative},
+    {item_kind::element, value_kind::number, use_required, ELMX_WS_COLLAPSE, "Vyr:Z", element("Z"), LMX_OFFSET(ColorSpaceEmissiveCIEXYZType, m_Z, element, number), LMX_FLAG(ColorSpaceEmissiveCIEXYZType, m_isset_Z), nullptr, &facets::NonNegative},
 };
 constinit const s_class ColorSpaceEmissiveCIEXYZType::k_class = {
     .name = "ColorSpaceEmissiveCIEXYZType",
     .qualified_name = "Vyr:ColorSpaceEmissiveCIEXYZType",
     .base = &ColorSpaceType::k_class,
     .content = content_kind::children,
+    .names = &k_names,
     .ns_map = k_ns_map,
     .id = &ColorSpaceEmissiveCIEXYZType::id,
-    .attributes = std::span(k_items).first(std::size(k_ColorSpaceEmissiveCIEXYZType_attributes) - 1),
-    .elements = std::span(k_items).subspan(std::size(k_ColorSpaceEmissiveCIEXYZType_attributes) - 1),
-    .attribute_map = k_ColorSpaceEmissiveCIEXYZType_attributes,
-    .element_map = k_ColorSpaceEmissiveCIEXYZType_elements,
+    .attributes = std::span(k_items).first(attribute_count(k_items)),
+    .elements = std::span(k_items).subspan(attribute_count(k_items)),
     .operations = &k_operations<ColorSpaceEmissiveCIEXYZType>,
 };
 
@@ -512,35 +396,23 @@ lmx::elmx_error ColorSpaceEmissiveCIEXYZType::set_Z(double value) { return lmx::
 
 // ColorSpaceEmissiveCIExyYType
 
-constexpr s_event_map k_ColorSpaceEmissiveCIExyYType_attributes[] = {
-    attribute_event("Name", attribute_Name),
-    k_end_of_map,
-};
-constexpr s_event_map k_ColorSpaceEmissiveCIExyYType_elements[] = {
-    element_event("ColorSpaceSpecificationEmissiveTristimulus", element_ColorSpaceSpecificationEmissiveTristimulus),
-    element_event("X", element_X),
-    element_event("Y", element_Y),
-    element_event("CapY", element_CapY),
-    k_end_of_map,
-};
-constinit const s_item ColorSpaceEmissiveCIExyYType::k_items[] = {
-    {item_kind::attribute, value_kind::text, use_name, ELMX_WS_PRESERVE, "Name", attribute_Name, LMX_OFFSET(ColorSpaceEmissiveCIExyYType, m_Name, attribute, text), LMX_FLAG(ColorSpaceEmissiveCIExyYType, m_isset_Name)},
-    {item_kind::child, value_kind::none, use_required, ELMX_WS_PRESERVE, "Vyr:ColorSpaceSpecificationEmissiveTristimulus", element_ColorSpaceSpecificationEmissiveTristimulus, LMX_OFFSET(ColorSpaceEmissiveCIExyYType, m_ColorSpaceSpecificationEmissiveTristimulus, child, none), LMX_FLAG(ColorSpaceEmissiveCIExyYType, m_isset_ColorSpaceSpecificationEmissiveTristimulus), position_of(k_ColorSpaceEmissiveCIExyYType_elements, element_ColorSpaceSpecificationEmissiveTristimulus), 1, &ColorSpaceSpecificationEmissiveTristimulus::k_class},
-    {item_kind::element, value_kind::number, use_required, ELMX_WS_COLLAPSE, "Vyr:X", element_X, LMX_OFFSET(ColorSpaceEmissiveCIExyYType, m_X, element, number), LMX_FLAG(ColorSpaceEmissiveCIExyYType, m_isset_X), position_of(k_ColorSpaceEmissiveCIExyYType_elements, element_X), 1, nullptr, &facets::Fraction},
-    {item_kind::element, value_kind::number, use_required, ELMX_WS_COLLAPSE, "Vyr:Y", element_Y, LMX_OFFSET(ColorSpaceEmissiveCIExyYType, m_Y, element, number), LMX_FLAG(ColorSpaceEmissiveCIExyYType, m_isset_Y), position_of(k_ColorSpaceEmissiveCIExyYType_elements, element_Y), 1, nullptr, &facets::Fraction},
-    {item_kind::element, value_kind::number, use_required, ELMX_WS_COLLAPSE, "Vyr:CapY", element_CapY, LMX_OFFSET(ColorSpaceEmissiveCIExyYType, m_CapY, element, number), LMX_FLAG(ColorSpaceEmissiveCIExyYType, m_isset_CapY), position_of(k_ColorSpaceEmissiveCIExyYType_elements, element_CapY), 1, nullptr, &facets::NonNegative},
+constexpr s_item ColorSpaceEmissiveCIExyYType::k_items[] = {
+    {item_kind::attribute, value_kind::text, use_name, ELMX_WS_PRESERVE, "Name", attribute("Name"), LMX_OFFSET(ColorSpaceEmissiveCIExyYType, m_Name, attribute, text), LMX_FLAG(ColorSpaceEmissiveCIExyYType, m_isset_Name)},
+    {item_kind::child, value_kind::none, use_required, ELMX_WS_PRESERVE, "Vyr:ColorSpaceSpecificationEmissiveTristimulus", element("ColorSpaceSpecificationEmissiveTristimulus"), LMX_OFFSET(ColorSpaceEmissiveCIExyYType, m_ColorSpaceSpecificationEmissiveTristimulus, child, none), LMX_FLAG(ColorSpaceEmissiveCIExyYType, m_isset_ColorSpaceSpecificationEmissiveTristimulus), &ColorSpaceSpecificationEmissiveTristimulus::k_class},
+    {item_kind::element, value_kind::number, use_required, ELMX_WS_COLLAPSE, "Vyr:X", element("X"), LMX_OFFSET(ColorSpaceEmissiveCIExyYType, m_X, element, number), LMX_FLAG(ColorSpaceEmissiveCIExyYType, m_isset_X), nullptr, &facets::Fraction},
+    {item_kind::element, value_kind::number, use_required, ELMX_WS_COLLAPSE, "Vyr:Y", element("Y"), LMX_OFFSET(ColorSpaceEmissiveCIExyYType, m_Y, element, number), LMX_FLAG(ColorSpaceEmissiveCIExyYType, m_isset_Y), nullptr, &facets::Fraction},
+    {item_kind::element, value_kind::number, use_required, ELMX_WS_COLLAPSE, "Vyr:CapY", element("CapY"), LMX_OFFSET(ColorSpaceEmissiveCIExyYType, m_CapY, element, number), LMX_FLAG(ColorSpaceEmissiveCIExyYType, m_isset_CapY), nullptr, &facets::NonNegative},
 };
 constinit const s_class ColorSpaceEmissiveCIExyYType::k_class = {
     .name = "ColorSpaceEmissiveCIExyYType",
     .qualified_name = "Vyr:ColorSpaceEmissiveCIExyYType",
     .base = &ColorSpaceType::k_class,
     .content = content_kind::children,
+    .names = &k_names,
     .ns_map = k_ns_map,
     .id = &ColorSpaceEmissiveCIExyYType::id,
-    .attributes = std::span(k_items).first(std::size(k_ColorSpaceEmissiveCIExyYType_attributes) - 1),
-    .elements = std::span(k_items).subspan(std::size(k_ColorSpaceEmissiveCIExyYType_attributes) - 1),
-    .attribute_map = k_ColorSpaceEmissiveCIExyYType_attributes,
-    .element_map = k_ColorSpaceEmissiveCIExyYType_elements,
+    .attributes = std::span(k_items).first(attribute_count(k_items)),
+    .elements = std::span(k_items).subspan(attribute_count(k_items)),
     .operations = &k_operations<ColorSpaceEmissiveCIExyYType>,
 };
 

@@ -8,7 +8,6 @@
 
 #include "schema/generated/conditions.h"
 #include "lmx/binding/binding.h"
-#include "lmx/binding/rows.h"
 #include "schema/generated/devices.h"
 #include "schema/generated/header.h"
 #include "schema/generated/tables.h"
@@ -20,26 +19,22 @@ namespace com_vyrgraph_v2 {
 
 using namespace lmx;  // for the tables' sake
 
-static_assert(k_binding_version == 5, "run schema/generator/generate.py");
+static_assert(k_binding_version == 6, "run schema/generator/generate.py");
 
 // DeviceFilterType
 
-constexpr s_event_map k_DeviceFilterType_attributes[] = {
-    attribute_event("CustomOrPartial", attribute_CustomOrPartial),
-    k_end_of_map,
-};
-constinit const s_item DeviceFilterType::k_items[] = {
-    {item_kind::attribute, value_kind::text, use_optional, ELMX_WS_PRESERVE, "CustomOrPartial", attribute_CustomOrPartial, LMX_OFFSET(DeviceFilterType, m_CustomOrPartial, attribute, text), LMX_FLAG(DeviceFilterType, m_isset_CustomOrPartial)},
-    {item_kind::content, value_kind::enumerated, use_required, ELMX_WS_PRESERVE, "", 0, LMX_OFFSET(DeviceFilterType, m_DeviceFilterType, content, enumerated), LMX_FLAG(DeviceFilterType, m_isset_DeviceFilterType), 0, 0, nullptr, &facets::DeviceFilterKind},
+constexpr s_item DeviceFilterType::k_items[] = {
+    {item_kind::attribute, value_kind::text, use_optional, ELMX_WS_PRESERVE, "CustomOrPartial", attribute("CustomOrPartial"), LMX_OFFSET(DeviceFilterType, m_CustomOrPartial, attribute, text), LMX_FLAG(DeviceFilterType, m_isset_CustomOrPartial)},
+    {item_kind::content, value_kind::enumerated, use_required, ELMX_WS_PRESERVE, "", 0, LMX_OFFSET(DeviceFilterType, m_DeviceFilterType, content, enumerated), LMX_FLAG(DeviceFilterType, m_isset_DeviceFilterType), nullptr, &facets::DeviceFilterKind},
 };
 constinit const s_class DeviceFilterType::k_class = {
     .name = "DeviceFilterType",
     .qualified_name = "Vyr:DeviceFilterType",
     .content = content_kind::simple,
+    .names = &k_names,
     .ns_map = k_ns_map,
-    .attributes = std::span(k_items).first(std::size(k_DeviceFilterType_attributes) - 1),
-    .elements = std::span(k_items).subspan(std::size(k_DeviceFilterType_attributes) - 1),
-    .attribute_map = k_DeviceFilterType_attributes,
+    .attributes = std::span(k_items).first(attribute_count(k_items)),
+    .elements = std::span(k_items).subspan(attribute_count(k_items)),
     .operations = &k_operations<DeviceFilterType>,
 };
 
@@ -63,6 +58,7 @@ constinit const s_class DeviceFilter::k_class = {
     .qualified_name = "Vyr:DeviceFilter",
     .base = &DeviceFilterType::k_class,
     .content = content_kind::simple,
+    .names = &k_names,
     .nil_flag = LMX_FLAG(DeviceFilter, m_isnil),
     .operations = &k_operations<DeviceFilter>,
 };
@@ -81,13 +77,14 @@ bool DeviceFilter::setenum_DeviceFilterType(std::int32_t number) { const bool is
 
 // DevicePolarization
 
-constinit const s_item DevicePolarization::k_items[] = {
+constexpr s_item DevicePolarization::k_items[] = {
     {item_kind::content, value_kind::boolean, use_required, ELMX_WS_COLLAPSE, "", 0, LMX_OFFSET(DevicePolarization, m_DevicePolarization, content, boolean), LMX_FLAG(DevicePolarization, m_isset_DevicePolarization)},
 };
 constinit const s_class DevicePolarization::k_class = {
     .name = "DevicePolarization",
     .qualified_name = "Vyr:DevicePolarization",
     .content = content_kind::simple,
+    .names = &k_names,
     .nil_flag = LMX_FLAG(DevicePolarization, m_isnil),
     .elements = k_items,
     .operations = &k_operations<DevicePolarization>,
@@ -106,29 +103,15 @@ lmx::elmx_error DevicePolarization::set_DevicePolarization(bool value) { return 
 
 // ColorSpaceSpecificationType
 
-constexpr s_event_map k_ColorSpaceSpecificationType_attributes[] = {
-    attribute_event("Comments", attribute_Comments),
-    attribute_event("UniqueID", attribute_UniqueID),
-    k_end_of_map,
-};
-constexpr s_event_map k_ColorSpaceSpecificationType_elements[] = {
-    element_event("CustomAttribute", element_CustomAttribute),
-    element_event("Profile", element_Profile),
-    element_event("Device", element_Device),
-    element_event("DeviceFilter", element_DeviceFilter),
-    element_event("DevicePolarization", element_DevicePolarization),
-    element_event("ChangeHistory", element_ChangeHistory),
-    k_end_of_map,
-};
-constinit const s_item ColorSpaceSpecificationType::k_items[] = {
-    {item_kind::attribute, value_kind::text, use_optional, ELMX_WS_PRESERVE, "Comments", attribute_Comments, LMX_OFFSET(ColorSpaceSpecificationType, m_Comments, attribute, text), LMX_FLAG(ColorSpaceSpecificationType, m_isset_Comments)},
-    {item_kind::attribute, value_kind::text, use_optional, ELMX_WS_PRESERVE, "UniqueID", attribute_UniqueID, LMX_OFFSET(ColorSpaceSpecificationType, m_UniqueID, attribute, text), LMX_FLAG(ColorSpaceSpecificationType, m_isset_UniqueID)},
-    {item_kind::child_list, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:CustomAttribute", element_CustomAttribute, LMX_OFFSET(ColorSpaceSpecificationType, m_CustomAttribute, child_list, none), k_no_flag, position_of(k_ColorSpaceSpecificationType_elements, element_CustomAttribute), 1, &CustomAttributeType::k_class},
-    {item_kind::optional_child, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:Profile", element_Profile, LMX_OFFSET(ColorSpaceSpecificationType, m_Profile, optional_child, none), LMX_FLAG(ColorSpaceSpecificationType, m_isset_Profile), position_of(k_ColorSpaceSpecificationType_elements, element_Profile), 1, &ProfileType::k_class},
-    {item_kind::optional_child, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:Device", element_Device, LMX_OFFSET(ColorSpaceSpecificationType, m_Device, optional_child, none), LMX_FLAG(ColorSpaceSpecificationType, m_isset_Device), position_of(k_ColorSpaceSpecificationType_elements, element_Device), 1, &DeviceType::k_class},
-    {item_kind::child, value_kind::none, use_written, ELMX_WS_PRESERVE, "Vyr:DeviceFilter", element_DeviceFilter, LMX_OFFSET(ColorSpaceSpecificationType, m_DeviceFilter, child, none), LMX_FLAG(ColorSpaceSpecificationType, m_isset_DeviceFilter), position_of(k_ColorSpaceSpecificationType_elements, element_DeviceFilter), 1, &DeviceFilter::k_class},
-    {item_kind::child, value_kind::none, use_required, ELMX_WS_PRESERVE, "Vyr:DevicePolarization", element_DevicePolarization, LMX_OFFSET(ColorSpaceSpecificationType, m_DevicePolarization, child, none), LMX_FLAG(ColorSpaceSpecificationType, m_isset_DevicePolarization), position_of(k_ColorSpaceSpecificationType_elements, element_DevicePolarization), 1, &DevicePolarization::k_class},
-    {item_kind::element_list, value_kind::datetime, use_demanded | use_asked, ELMX_WS_COLLAPSE, "Vyr:ChangeHistory", element_ChangeHistory, LMX_OFFSET(ColorSpaceSpecificationType, m_ChangeHistory, element_list, datetime), k_no_flag, position_of(k_ColorSpaceSpecificationType_elements, element_ChangeHistory), 1, nullptr, &facets::DateTimeZone},
+constexpr s_item ColorSpaceSpecificationType::k_items[] = {
+    {item_kind::attribute, value_kind::text, use_optional, ELMX_WS_PRESERVE, "Comments", attribute("Comments"), LMX_OFFSET(ColorSpaceSpecificationType, m_Comments, attribute, text), LMX_FLAG(ColorSpaceSpecificationType, m_isset_Comments)},
+    {item_kind::attribute, value_kind::text, use_optional, ELMX_WS_PRESERVE, "UniqueID", attribute("UniqueID"), LMX_OFFSET(ColorSpaceSpecificationType, m_UniqueID, attribute, text), LMX_FLAG(ColorSpaceSpecificationType, m_isset_UniqueID)},
+    {item_kind::child_list, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:CustomAttribute", element("CustomAttribute"), LMX_OFFSET(ColorSpaceSpecificationType, m_CustomAttribute, child_list, none), k_no_flag, &CustomAttributeType::k_class},
+    {item_kind::optional_child, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:Profile", element("Profile"), LMX_OFFSET(ColorSpaceSpecificationType, m_Profile, optional_child, none), LMX_FLAG(ColorSpaceSpecificationType, m_isset_Profile), &ProfileType::k_class},
+    {item_kind::optional_child, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:Device", element("Device"), LMX_OFFSET(ColorSpaceSpecificationType, m_Device, optional_child, none), LMX_FLAG(ColorSpaceSpecificationType, m_isset_Device), &DeviceType::k_class},
+    {item_kind::child, value_kind::none, use_written, ELMX_WS_PRESERVE, "Vyr:DeviceFilter", element("DeviceFilter"), LMX_OFFSET(ColorSpaceSpecificationType, m_DeviceFilter, child, none), LMX_FLAG(ColorSpaceSpecificationType, m_isset_DeviceFilter), &DeviceFilter::k_class},
+    {item_kind::child, value_kind::none, use_required, ELMX_WS_PRESERVE, "Vyr:DevicePolarization", element("DevicePolarization"), LMX_OFFSET(ColorSpaceSpecificationType, m_DevicePolarization, child, none), LMX_FLAG(ColorSpaceSpecificationType, m_isset_DevicePolarization), &DevicePolarization::k_class},
+    {item_kind::element_list, value_kind::datetime, use_demanded | use_asked, ELMX_WS_COLLAPSE, "Vyr:ChangeHistory", element("ChangeHistory"), LMX_OFFSET(ColorSpaceSpecificationType, m_ChangeHistory, element_list, datetime), k_no_flag, nullptr, &facets::DateTimeZone},
 };
 constinit const s_factory_row ColorSpaceSpecificationType::k_factory[] = {
     {"ColorSpaceSpecificationSpectrumType", &ColorSpaceSpecificationSpectrumType::k_class},
@@ -144,12 +127,11 @@ constinit const s_class ColorSpaceSpecificationType::k_class = {
     .name = "ColorSpaceSpecificationType",
     .qualified_name = "Vyr:ColorSpaceSpecificationType",
     .content = content_kind::children,
+    .names = &k_names,
     .ns_map = k_ns_map,
     .id = &ColorSpaceSpecificationType::id,
-    .attributes = std::span(k_items).first(std::size(k_ColorSpaceSpecificationType_attributes) - 1),
-    .elements = std::span(k_items).subspan(std::size(k_ColorSpaceSpecificationType_attributes) - 1),
-    .attribute_map = k_ColorSpaceSpecificationType_attributes,
-    .element_map = k_ColorSpaceSpecificationType_elements,
+    .attributes = std::span(k_items).first(attribute_count(k_items)),
+    .elements = std::span(k_items).subspan(attribute_count(k_items)),
     .operations = &k_operations<ColorSpaceSpecificationType>,
 };
 
@@ -192,22 +174,18 @@ ColorSpaceSpecificationType* ColorSpaceSpecificationType::factory(int ns_id, con
 
 // SpectrumType
 
-constexpr s_event_map k_SpectrumType_attributes[] = {
-    attribute_event("CustomTypeName", attribute_CustomTypeName),
-    k_end_of_map,
-};
-constinit const s_item SpectrumType::k_items[] = {
-    {item_kind::attribute, value_kind::text, use_optional, ELMX_WS_PRESERVE, "CustomTypeName", attribute_CustomTypeName, LMX_OFFSET(SpectrumType, m_CustomTypeName, attribute, text), LMX_FLAG(SpectrumType, m_isset_CustomTypeName)},
-    {item_kind::content, value_kind::enumerated, use_required, ELMX_WS_PRESERVE, "", 0, LMX_OFFSET(SpectrumType, m_SpectrumType, content, enumerated), LMX_FLAG(SpectrumType, m_isset_SpectrumType), 0, 0, nullptr, &facets::SpectrumKind},
+constexpr s_item SpectrumType::k_items[] = {
+    {item_kind::attribute, value_kind::text, use_optional, ELMX_WS_PRESERVE, "CustomTypeName", attribute("CustomTypeName"), LMX_OFFSET(SpectrumType, m_CustomTypeName, attribute, text), LMX_FLAG(SpectrumType, m_isset_CustomTypeName)},
+    {item_kind::content, value_kind::enumerated, use_required, ELMX_WS_PRESERVE, "", 0, LMX_OFFSET(SpectrumType, m_SpectrumType, content, enumerated), LMX_FLAG(SpectrumType, m_isset_SpectrumType), nullptr, &facets::SpectrumKind},
 };
 constinit const s_class SpectrumType::k_class = {
     .name = "SpectrumType",
     .qualified_name = "Vyr:SpectrumType",
     .content = content_kind::simple,
+    .names = &k_names,
     .ns_map = k_ns_map,
-    .attributes = std::span(k_items).first(std::size(k_SpectrumType_attributes) - 1),
-    .elements = std::span(k_items).subspan(std::size(k_SpectrumType_attributes) - 1),
-    .attribute_map = k_SpectrumType_attributes,
+    .attributes = std::span(k_items).first(attribute_count(k_items)),
+    .elements = std::span(k_items).subspan(attribute_count(k_items)),
     .operations = &k_operations<SpectrumType>,
 };
 
@@ -226,12 +204,8 @@ bool SpectrumType::setenum_SpectrumType(std::int32_t number) { return lmx::set_e
 
 // ColorSpaceSpecificationSpectrumType
 
-constexpr s_event_map k_ColorSpaceSpecificationSpectrumType_elements[] = {
-    element_event("Spectrum", element_Spectrum),
-    k_end_of_map,
-};
-constinit const s_item ColorSpaceSpecificationSpectrumType::k_items[] = {
-    {item_kind::child, value_kind::none, use_required, ELMX_WS_PRESERVE, "Vyr:Spectrum", element_Spectrum, LMX_OFFSET(ColorSpaceSpecificationSpectrumType, m_Spectrum, child, none), LMX_FLAG(ColorSpaceSpecificationSpectrumType, m_isset_Spectrum), position_of(k_ColorSpaceSpecificationSpectrumType_elements, element_Spectrum), 1, &SpectrumType::k_class},
+constexpr s_item ColorSpaceSpecificationSpectrumType::k_items[] = {
+    {item_kind::child, value_kind::none, use_required, ELMX_WS_PRESERVE, "Vyr:Spectrum", element("Spectrum"), LMX_OFFSET(ColorSpaceSpecificationSpectrumType, m_Spectrum, child, none), LMX_FLAG(ColorSpaceSpecificationSpectrumType, m_isset_Spectrum), &SpectrumType::k_class},
 };
 constinit const s_factory_row ColorSpaceSpecificationSpectrumType::k_factory[] = {
     {"ColorSpaceSpecificationSpectrumType", &ColorSpaceSpecificationSpectrumType::k_class},
@@ -244,10 +218,10 @@ constinit const s_class ColorSpaceSpecificationSpectrumType::k_class = {
     .qualified_name = "Vyr:ColorSpaceSpecificationSpectrumType",
     .base = &ColorSpaceSpecificationType::k_class,
     .content = content_kind::children,
+    .names = &k_names,
     .ns_map = k_ns_map,
     .id = &ColorSpaceSpecificationSpectrumType::id,
     .elements = k_items,
-    .element_map = k_ColorSpaceSpecificationSpectrumType_elements,
     .operations = &k_operations<ColorSpaceSpecificationSpectrumType>,
 };
 
@@ -270,14 +244,9 @@ ColorSpaceSpecificationSpectrumType* ColorSpaceSpecificationSpectrumType::factor
 
 // ColorSpaceSpecificationEmissiveType
 
-constexpr s_event_map k_ColorSpaceSpecificationEmissiveType_elements[] = {
-    element_event("EmissiveType", element_EmissiveType),
-    element_event("EmissiveMode", element_EmissiveMode),
-    k_end_of_map,
-};
-constinit const s_item ColorSpaceSpecificationEmissiveType::k_items[] = {
-    {item_kind::element, value_kind::enumerated, use_required, ELMX_WS_PRESERVE, "Vyr:EmissiveType", element_EmissiveType, LMX_OFFSET(ColorSpaceSpecificationEmissiveType, m_EmissiveType, element, enumerated), LMX_FLAG(ColorSpaceSpecificationEmissiveType, m_isset_EmissiveType), position_of(k_ColorSpaceSpecificationEmissiveType_elements, element_EmissiveType), 1, nullptr, &facets::EmissiveKind},
-    {item_kind::element, value_kind::enumerated, use_required, ELMX_WS_PRESERVE, "Vyr:EmissiveMode", element_EmissiveMode, LMX_OFFSET(ColorSpaceSpecificationEmissiveType, m_EmissiveMode, element, enumerated), LMX_FLAG(ColorSpaceSpecificationEmissiveType, m_isset_EmissiveMode), position_of(k_ColorSpaceSpecificationEmissiveType_elements, element_EmissiveMode), 1, nullptr, &facets::EmissiveModeKind},
+constexpr s_item ColorSpaceSpecificationEmissiveType::k_items[] = {
+    {item_kind::element, value_kind::enumerated, use_required, ELMX_WS_PRESERVE, "Vyr:EmissiveType", element("EmissiveType"), LMX_OFFSET(ColorSpaceSpecificationEmissiveType, m_EmissiveType, element, enumerated), LMX_FLAG(ColorSpaceSpecificationEmissiveType, m_isset_EmissiveType), nullptr, &facets::EmissiveKind},
+    {item_kind::element, value_kind::enumerated, use_required, ELMX_WS_PRESERVE, "Vyr:EmissiveMode", element("EmissiveMode"), LMX_OFFSET(ColorSpaceSpecificationEmissiveType, m_EmissiveMode, element, enumerated), LMX_FLAG(ColorSpaceSpecificationEmissiveType, m_isset_EmissiveMode), nullptr, &facets::EmissiveModeKind},
 };
 constinit const s_factory_row ColorSpaceSpecificationEmissiveType::k_factory[] = {
     {"ColorSpaceSpecificationEmissiveType", &ColorSpaceSpecificationEmissiveType::k_class},
@@ -290,10 +259,10 @@ constinit const s_class ColorSpaceSpecificationEmissiveType::k_class = {
     .qualified_name = "Vyr:ColorSpaceSpecificationEmissiveType",
     .base = &ColorSpaceSpecificationType::k_class,
     .content = content_kind::children,
+    .names = &k_names,
     .ns_map = k_ns_map,
     .id = &ColorSpaceSpecificationEmissiveType::id,
     .elements = k_items,
-    .element_map = k_ColorSpaceSpecificationEmissiveType_elements,
     .operations = &k_operations<ColorSpaceSpecificationEmissiveType>,
 };
 
@@ -319,27 +288,20 @@ ColorSpaceSpecificationEmissiveType* ColorSpaceSpecificationEmissiveType::factor
 
 // GeometryChoiceType
 
-constexpr s_event_map k_GeometryChoiceType_elements[] = {
-    element_event("SphereGeometry", element_SphereGeometry),
-    element_event("Angle", element_Angle),
-    element_event("UnknownGeometry", element_UnknownGeometry),
-    element_event("BSDFAngle", element_BSDFAngle),
-    k_end_of_map,
-};
-constinit const s_item GeometryChoiceType::k_items[] = {
-    {item_kind::alternative, value_kind::enumerated, use_optional, ELMX_WS_PRESERVE, "Vyr:SphereGeometry", element_SphereGeometry, 0, k_no_flag, position_of(k_GeometryChoiceType_elements, element_SphereGeometry), 1, nullptr, &facets::SphereGeometryKind},
-    {item_kind::alternative, value_kind::number, use_optional, ELMX_WS_COLLAPSE, "Vyr:Angle", element_Angle, 0, k_no_flag, position_of(k_GeometryChoiceType_elements, element_Angle), 1},
-    {item_kind::alternative, value_kind::text, use_optional, ELMX_WS_PRESERVE, "Vyr:UnknownGeometry", element_UnknownGeometry, 0, k_no_flag, position_of(k_GeometryChoiceType_elements, element_UnknownGeometry), 1, nullptr, &facets::NonEmptyString},
-    {item_kind::alternative, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:BSDFAngle", element_BSDFAngle, 0, k_no_flag, position_of(k_GeometryChoiceType_elements, element_BSDFAngle), 1, &BSDFAngle::k_class},
+constexpr s_item GeometryChoiceType::k_items[] = {
+    {item_kind::alternative, value_kind::enumerated, use_optional, ELMX_WS_PRESERVE, "Vyr:SphereGeometry", element("SphereGeometry"), 0, k_no_flag, nullptr, &facets::SphereGeometryKind},
+    {item_kind::alternative, value_kind::number, use_optional, ELMX_WS_COLLAPSE, "Vyr:Angle", element("Angle"), 0, k_no_flag},
+    {item_kind::alternative, value_kind::text, use_optional, ELMX_WS_PRESERVE, "Vyr:UnknownGeometry", element("UnknownGeometry"), 0, k_no_flag, nullptr, &facets::NonEmptyString},
+    {item_kind::alternative, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:BSDFAngle", element("BSDFAngle"), 0, k_no_flag, &BSDFAngle::k_class},
 };
 constinit const s_class GeometryChoiceType::k_class = {
     .name = "GeometryChoiceType",
     .qualified_name = "Vyr:GeometryChoiceType",
     .content = content_kind::choice,
+    .names = &k_names,
     .ns_map = k_ns_map,
     .choice = LMX_CHOICE(GeometryChoiceType, m_choice),
     .elements = k_items,
-    .element_map = k_GeometryChoiceType_elements,
     .operations = &k_operations<GeometryChoiceType>,
 };
 
@@ -364,32 +326,21 @@ BSDFAngle& GeometryChoiceType::assign_BSDFAngle(const BSDFAngle& value) { BSDFAn
 
 // IlluminationOptionsType
 
-constexpr s_event_map k_IlluminationOptionsType_attributes[] = {
-    attribute_event("Description", attribute_Description),
-    k_end_of_map,
-};
-constexpr s_event_map k_IlluminationOptionsType_elements[] = {
-    element_event("Illuminant", element_Illuminant),
-    element_event("WhitePointChromaticity", element_WhitePointChromaticity),
-    element_event("ColorTemperature", element_ColorTemperature),
-    k_end_of_map,
-};
-constinit const s_item IlluminationOptionsType::k_items[] = {
-    {item_kind::attribute, value_kind::text, use_optional, ELMX_WS_PRESERVE, "Description", attribute_Description, LMX_OFFSET(IlluminationOptionsType, m_Description, attribute, text), LMX_FLAG(IlluminationOptionsType, m_isset_Description)},
-    {item_kind::alternative, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:Illuminant", element_Illuminant, 0, k_no_flag, position_of(k_IlluminationOptionsType_elements, element_Illuminant), 1, &Illuminant::k_class},
-    {item_kind::alternative, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:WhitePointChromaticity", element_WhitePointChromaticity, 0, k_no_flag, position_of(k_IlluminationOptionsType_elements, element_WhitePointChromaticity), 1, &WhitePointChromaticity::k_class},
-    {item_kind::alternative, value_kind::uint32, use_optional, ELMX_WS_COLLAPSE, "Vyr:ColorTemperature", element_ColorTemperature, 0, k_no_flag, position_of(k_IlluminationOptionsType_elements, element_ColorTemperature), 1, nullptr, &facets::PositiveInt32},
+constexpr s_item IlluminationOptionsType::k_items[] = {
+    {item_kind::attribute, value_kind::text, use_optional, ELMX_WS_PRESERVE, "Description", attribute("Description"), LMX_OFFSET(IlluminationOptionsType, m_Description, attribute, text), LMX_FLAG(IlluminationOptionsType, m_isset_Description)},
+    {item_kind::alternative, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:Illuminant", element("Illuminant"), 0, k_no_flag, &Illuminant::k_class},
+    {item_kind::alternative, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:WhitePointChromaticity", element("WhitePointChromaticity"), 0, k_no_flag, &WhitePointChromaticity::k_class},
+    {item_kind::alternative, value_kind::uint32, use_optional, ELMX_WS_COLLAPSE, "Vyr:ColorTemperature", element("ColorTemperature"), 0, k_no_flag, nullptr, &facets::PositiveInt32},
 };
 constinit const s_class IlluminationOptionsType::k_class = {
     .name = "IlluminationOptionsType",
     .qualified_name = "Vyr:IlluminationOptionsType",
     .content = content_kind::choice,
+    .names = &k_names,
     .ns_map = k_ns_map,
     .choice = LMX_CHOICE(IlluminationOptionsType, m_choice),
-    .attributes = std::span(k_items).first(std::size(k_IlluminationOptionsType_attributes) - 1),
-    .elements = std::span(k_items).subspan(std::size(k_IlluminationOptionsType_attributes) - 1),
-    .attribute_map = k_IlluminationOptionsType_attributes,
-    .element_map = k_IlluminationOptionsType_elements,
+    .attributes = std::span(k_items).first(attribute_count(k_items)),
+    .elements = std::span(k_items).subspan(attribute_count(k_items)),
     .operations = &k_operations<IlluminationOptionsType>,
 };
 
@@ -411,32 +362,23 @@ lmx::elmx_error IlluminationOptionsType::set_ColorTemperature(std::uint32_t valu
 
 // ColorSpaceSpecificationSpectrumGenericType
 
-constexpr s_event_map k_ColorSpaceSpecificationSpectrumGenericType_elements[] = {
-    element_event("GeometryChoice", element_GeometryChoice),
-    element_event("IlluminationOptions", element_IlluminationOptions),
-    element_event("FieldOfView", element_FieldOfView),
-    element_event("ASTM_Table", element_ASTM_Table),
-    element_event("Gamma", element_Gamma),
-    element_event("DensityStatus", element_DensityStatus),
-    k_end_of_map,
-};
-constinit const s_item ColorSpaceSpecificationSpectrumGenericType::k_items[] = {
-    {item_kind::optional_child, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:GeometryChoice", element_GeometryChoice, LMX_OFFSET(ColorSpaceSpecificationSpectrumGenericType, m_GeometryChoice, optional_child, none), LMX_FLAG(ColorSpaceSpecificationSpectrumGenericType, m_isset_GeometryChoice), position_of(k_ColorSpaceSpecificationSpectrumGenericType_elements, element_GeometryChoice), 1, &GeometryChoiceType::k_class},
-    {item_kind::optional_child, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:IlluminationOptions", element_IlluminationOptions, LMX_OFFSET(ColorSpaceSpecificationSpectrumGenericType, m_IlluminationOptions, optional_child, none), LMX_FLAG(ColorSpaceSpecificationSpectrumGenericType, m_isset_IlluminationOptions), position_of(k_ColorSpaceSpecificationSpectrumGenericType_elements, element_IlluminationOptions), 1, &IlluminationOptionsType::k_class},
-    {item_kind::element, value_kind::enumerated, use_optional, ELMX_WS_PRESERVE, "Vyr:FieldOfView", element_FieldOfView, LMX_OFFSET(ColorSpaceSpecificationSpectrumGenericType, m_FieldOfView, element, enumerated), LMX_FLAG(ColorSpaceSpecificationSpectrumGenericType, m_isset_FieldOfView), position_of(k_ColorSpaceSpecificationSpectrumGenericType_elements, element_FieldOfView), 1, nullptr, &facets::ObserverKind},
-    {item_kind::element, value_kind::enumerated, use_optional, ELMX_WS_PRESERVE, "Vyr:ASTM_Table", element_ASTM_Table, LMX_OFFSET(ColorSpaceSpecificationSpectrumGenericType, m_ASTM_Table, element, enumerated), LMX_FLAG(ColorSpaceSpecificationSpectrumGenericType, m_isset_ASTM_Table), position_of(k_ColorSpaceSpecificationSpectrumGenericType_elements, element_ASTM_Table), 1, nullptr, &facets::AstmTableKind},
-    {item_kind::element, value_kind::number, use_optional, ELMX_WS_COLLAPSE, "Vyr:Gamma", element_Gamma, LMX_OFFSET(ColorSpaceSpecificationSpectrumGenericType, m_Gamma, element, number), LMX_FLAG(ColorSpaceSpecificationSpectrumGenericType, m_isset_Gamma), position_of(k_ColorSpaceSpecificationSpectrumGenericType_elements, element_Gamma), 1},
-    {item_kind::element, value_kind::enumerated, use_optional, ELMX_WS_PRESERVE, "Vyr:DensityStatus", element_DensityStatus, LMX_OFFSET(ColorSpaceSpecificationSpectrumGenericType, m_DensityStatus, element, enumerated), LMX_FLAG(ColorSpaceSpecificationSpectrumGenericType, m_isset_DensityStatus), position_of(k_ColorSpaceSpecificationSpectrumGenericType_elements, element_DensityStatus), 1, nullptr, &facets::DensityStatusKind},
+constexpr s_item ColorSpaceSpecificationSpectrumGenericType::k_items[] = {
+    {item_kind::optional_child, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:GeometryChoice", element("GeometryChoice"), LMX_OFFSET(ColorSpaceSpecificationSpectrumGenericType, m_GeometryChoice, optional_child, none), LMX_FLAG(ColorSpaceSpecificationSpectrumGenericType, m_isset_GeometryChoice), &GeometryChoiceType::k_class},
+    {item_kind::optional_child, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:IlluminationOptions", element("IlluminationOptions"), LMX_OFFSET(ColorSpaceSpecificationSpectrumGenericType, m_IlluminationOptions, optional_child, none), LMX_FLAG(ColorSpaceSpecificationSpectrumGenericType, m_isset_IlluminationOptions), &IlluminationOptionsType::k_class},
+    {item_kind::element, value_kind::enumerated, use_optional, ELMX_WS_PRESERVE, "Vyr:FieldOfView", element("FieldOfView"), LMX_OFFSET(ColorSpaceSpecificationSpectrumGenericType, m_FieldOfView, element, enumerated), LMX_FLAG(ColorSpaceSpecificationSpectrumGenericType, m_isset_FieldOfView), nullptr, &facets::ObserverKind},
+    {item_kind::element, value_kind::enumerated, use_optional, ELMX_WS_PRESERVE, "Vyr:ASTM_Table", element("ASTM_Table"), LMX_OFFSET(ColorSpaceSpecificationSpectrumGenericType, m_ASTM_Table, element, enumerated), LMX_FLAG(ColorSpaceSpecificationSpectrumGenericType, m_isset_ASTM_Table), nullptr, &facets::AstmTableKind},
+    {item_kind::element, value_kind::number, use_optional, ELMX_WS_COLLAPSE, "Vyr:Gamma", element("Gamma"), LMX_OFFSET(ColorSpaceSpecificationSpectrumGenericType, m_Gamma, element, number), LMX_FLAG(ColorSpaceSpecificationSpectrumGenericType, m_isset_Gamma)},
+    {item_kind::element, value_kind::enumerated, use_optional, ELMX_WS_PRESERVE, "Vyr:DensityStatus", element("DensityStatus"), LMX_OFFSET(ColorSpaceSpecificationSpectrumGenericType, m_DensityStatus, element, enumerated), LMX_FLAG(ColorSpaceSpecificationSpectrumGenericType, m_isset_DensityStatus), nullptr, &facets::DensityStatusKind},
 };
 constinit const s_class ColorSpaceSpecificationSpectrumGenericType::k_class = {
     .name = "ColorSpaceSpecificationSpectrumGenericType",
     .qualified_name = "Vyr:ColorSpaceSpecificationSpectrumGenericType",
     .base = &ColorSpaceSpecificationSpectrumType::k_class,
     .content = content_kind::children,
+    .names = &k_names,
     .ns_map = k_ns_map,
     .id = &ColorSpaceSpecificationSpectrumGenericType::id,
     .elements = k_items,
-    .element_map = k_ColorSpaceSpecificationSpectrumGenericType_elements,
     .operations = &k_operations<ColorSpaceSpecificationSpectrumGenericType>,
 };
 
@@ -470,30 +412,22 @@ bool ColorSpaceSpecificationSpectrumGenericType::setenum_DensityStatus(std::int3
 
 // ColorSpaceSpecificationSpectrumTristimulusType
 
-constexpr s_event_map k_ColorSpaceSpecificationSpectrumTristimulusType_elements[] = {
-    element_event("IlluminationOptions", element_IlluminationOptions),
-    element_event("FieldOfView", element_FieldOfView),
-    element_event("GeometryChoice", element_GeometryChoice),
-    element_event("ASTM_Table", element_ASTM_Table),
-    element_event("Gamma", element_Gamma),
-    k_end_of_map,
-};
-constinit const s_item ColorSpaceSpecificationSpectrumTristimulusType::k_items[] = {
-    {item_kind::child, value_kind::none, use_required, ELMX_WS_PRESERVE, "Vyr:IlluminationOptions", element_IlluminationOptions, LMX_OFFSET(ColorSpaceSpecificationSpectrumTristimulusType, m_IlluminationOptions, child, none), LMX_FLAG(ColorSpaceSpecificationSpectrumTristimulusType, m_isset_IlluminationOptions), position_of(k_ColorSpaceSpecificationSpectrumTristimulusType_elements, element_IlluminationOptions), 1, &IlluminationOptionsType::k_class},
-    {item_kind::element, value_kind::enumerated, use_required, ELMX_WS_PRESERVE, "Vyr:FieldOfView", element_FieldOfView, LMX_OFFSET(ColorSpaceSpecificationSpectrumTristimulusType, m_FieldOfView, element, enumerated), LMX_FLAG(ColorSpaceSpecificationSpectrumTristimulusType, m_isset_FieldOfView), position_of(k_ColorSpaceSpecificationSpectrumTristimulusType_elements, element_FieldOfView), 1, nullptr, &facets::ObserverKind},
-    {item_kind::optional_child, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:GeometryChoice", element_GeometryChoice, LMX_OFFSET(ColorSpaceSpecificationSpectrumTristimulusType, m_GeometryChoice, optional_child, none), LMX_FLAG(ColorSpaceSpecificationSpectrumTristimulusType, m_isset_GeometryChoice), position_of(k_ColorSpaceSpecificationSpectrumTristimulusType_elements, element_GeometryChoice), 1, &GeometryChoiceType::k_class},
-    {item_kind::element, value_kind::enumerated, use_optional, ELMX_WS_PRESERVE, "Vyr:ASTM_Table", element_ASTM_Table, LMX_OFFSET(ColorSpaceSpecificationSpectrumTristimulusType, m_ASTM_Table, element, enumerated), LMX_FLAG(ColorSpaceSpecificationSpectrumTristimulusType, m_isset_ASTM_Table), position_of(k_ColorSpaceSpecificationSpectrumTristimulusType_elements, element_ASTM_Table), 1, nullptr, &facets::AstmTableKind},
-    {item_kind::element, value_kind::number, use_optional, ELMX_WS_COLLAPSE, "Vyr:Gamma", element_Gamma, LMX_OFFSET(ColorSpaceSpecificationSpectrumTristimulusType, m_Gamma, element, number), LMX_FLAG(ColorSpaceSpecificationSpectrumTristimulusType, m_isset_Gamma), position_of(k_ColorSpaceSpecificationSpectrumTristimulusType_elements, element_Gamma), 1},
+constexpr s_item ColorSpaceSpecificationSpectrumTristimulusType::k_items[] = {
+    {item_kind::child, value_kind::none, use_required, ELMX_WS_PRESERVE, "Vyr:IlluminationOptions", element("IlluminationOptions"), LMX_OFFSET(ColorSpaceSpecificationSpectrumTristimulusType, m_IlluminationOptions, child, none), LMX_FLAG(ColorSpaceSpecificationSpectrumTristimulusType, m_isset_IlluminationOptions), &IlluminationOptionsType::k_class},
+    {item_kind::element, value_kind::enumerated, use_required, ELMX_WS_PRESERVE, "Vyr:FieldOfView", element("FieldOfView"), LMX_OFFSET(ColorSpaceSpecificationSpectrumTristimulusType, m_FieldOfView, element, enumerated), LMX_FLAG(ColorSpaceSpecificationSpectrumTristimulusType, m_isset_FieldOfView), nullptr, &facets::ObserverKind},
+    {item_kind::optional_child, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:GeometryChoice", element("GeometryChoice"), LMX_OFFSET(ColorSpaceSpecificationSpectrumTristimulusType, m_GeometryChoice, optional_child, none), LMX_FLAG(ColorSpaceSpecificationSpectrumTristimulusType, m_isset_GeometryChoice), &GeometryChoiceType::k_class},
+    {item_kind::element, value_kind::enumerated, use_optional, ELMX_WS_PRESERVE, "Vyr:ASTM_Table", element("ASTM_Table"), LMX_OFFSET(ColorSpaceSpecificationSpectrumTristimulusType, m_ASTM_Table, element, enumerated), LMX_FLAG(ColorSpaceSpecificationSpectrumTristimulusType, m_isset_ASTM_Table), nullptr, &facets::AstmTableKind},
+    {item_kind::element, value_kind::number, use_optional, ELMX_WS_COLLAPSE, "Vyr:Gamma", element("Gamma"), LMX_OFFSET(ColorSpaceSpecificationSpectrumTristimulusType, m_Gamma, element, number), LMX_FLAG(ColorSpaceSpecificationSpectrumTristimulusType, m_isset_Gamma)},
 };
 constinit const s_class ColorSpaceSpecificationSpectrumTristimulusType::k_class = {
     .name = "ColorSpaceSpecificationSpectrumTristimulusType",
     .qualified_name = "Vyr:ColorSpaceSpecificationSpectrumTristimulusType",
     .base = &ColorSpaceSpecificationSpectrumType::k_class,
     .content = content_kind::children,
+    .names = &k_names,
     .ns_map = k_ns_map,
     .id = &ColorSpaceSpecificationSpectrumTristimulusType::id,
     .elements = k_items,
-    .element_map = k_ColorSpaceSpecificationSpectrumTristimulusType_elements,
     .operations = &k_operations<ColorSpaceSpecificationSpectrumTristimulusType>,
 };
 
@@ -523,24 +457,19 @@ lmx::elmx_error ColorSpaceSpecificationSpectrumTristimulusType::set_Gamma(double
 
 // ColorSpaceSpecificationSpectrumSpectralType
 
-constexpr s_event_map k_ColorSpaceSpecificationSpectrumSpectralType_elements[] = {
-    element_event("GeometryChoice", element_GeometryChoice),
-    element_event("ASTM_Table", element_ASTM_Table),
-    k_end_of_map,
-};
-constinit const s_item ColorSpaceSpecificationSpectrumSpectralType::k_items[] = {
-    {item_kind::child, value_kind::none, use_required, ELMX_WS_PRESERVE, "Vyr:GeometryChoice", element_GeometryChoice, LMX_OFFSET(ColorSpaceSpecificationSpectrumSpectralType, m_GeometryChoice, child, none), LMX_FLAG(ColorSpaceSpecificationSpectrumSpectralType, m_isset_GeometryChoice), position_of(k_ColorSpaceSpecificationSpectrumSpectralType_elements, element_GeometryChoice), 1, &GeometryChoiceType::k_class},
-    {item_kind::element, value_kind::enumerated, use_optional, ELMX_WS_PRESERVE, "Vyr:ASTM_Table", element_ASTM_Table, LMX_OFFSET(ColorSpaceSpecificationSpectrumSpectralType, m_ASTM_Table, element, enumerated), LMX_FLAG(ColorSpaceSpecificationSpectrumSpectralType, m_isset_ASTM_Table), position_of(k_ColorSpaceSpecificationSpectrumSpectralType_elements, element_ASTM_Table), 1, nullptr, &facets::AstmTableKind},
+constexpr s_item ColorSpaceSpecificationSpectrumSpectralType::k_items[] = {
+    {item_kind::child, value_kind::none, use_required, ELMX_WS_PRESERVE, "Vyr:GeometryChoice", element("GeometryChoice"), LMX_OFFSET(ColorSpaceSpecificationSpectrumSpectralType, m_GeometryChoice, child, none), LMX_FLAG(ColorSpaceSpecificationSpectrumSpectralType, m_isset_GeometryChoice), &GeometryChoiceType::k_class},
+    {item_kind::element, value_kind::enumerated, use_optional, ELMX_WS_PRESERVE, "Vyr:ASTM_Table", element("ASTM_Table"), LMX_OFFSET(ColorSpaceSpecificationSpectrumSpectralType, m_ASTM_Table, element, enumerated), LMX_FLAG(ColorSpaceSpecificationSpectrumSpectralType, m_isset_ASTM_Table), nullptr, &facets::AstmTableKind},
 };
 constinit const s_class ColorSpaceSpecificationSpectrumSpectralType::k_class = {
     .name = "ColorSpaceSpecificationSpectrumSpectralType",
     .qualified_name = "Vyr:ColorSpaceSpecificationSpectrumSpectralType",
     .base = &ColorSpaceSpecificationSpectrumType::k_class,
     .content = content_kind::children,
+    .names = &k_names,
     .ns_map = k_ns_map,
     .id = &ColorSpaceSpecificationSpectrumSpectralType::id,
     .elements = k_items,
-    .element_map = k_ColorSpaceSpecificationSpectrumSpectralType_elements,
     .operations = &k_operations<ColorSpaceSpecificationSpectrumSpectralType>,
 };
 
@@ -564,32 +493,23 @@ bool ColorSpaceSpecificationSpectrumSpectralType::setenum_ASTM_Table(std::int32_
 
 // ColorSpaceSpecificationEmissiveGenericType
 
-constexpr s_event_map k_ColorSpaceSpecificationEmissiveGenericType_elements[] = {
-    element_event("GeometryChoice", element_GeometryChoice),
-    element_event("IlluminationOptions", element_IlluminationOptions),
-    element_event("FieldOfView", element_FieldOfView),
-    element_event("ASTM_Table", element_ASTM_Table),
-    element_event("Gamma", element_Gamma),
-    element_event("DensityStatus", element_DensityStatus),
-    k_end_of_map,
-};
-constinit const s_item ColorSpaceSpecificationEmissiveGenericType::k_items[] = {
-    {item_kind::optional_child, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:GeometryChoice", element_GeometryChoice, LMX_OFFSET(ColorSpaceSpecificationEmissiveGenericType, m_GeometryChoice, optional_child, none), LMX_FLAG(ColorSpaceSpecificationEmissiveGenericType, m_isset_GeometryChoice), position_of(k_ColorSpaceSpecificationEmissiveGenericType_elements, element_GeometryChoice), 1, &GeometryChoiceType::k_class},
-    {item_kind::optional_child, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:IlluminationOptions", element_IlluminationOptions, LMX_OFFSET(ColorSpaceSpecificationEmissiveGenericType, m_IlluminationOptions, optional_child, none), LMX_FLAG(ColorSpaceSpecificationEmissiveGenericType, m_isset_IlluminationOptions), position_of(k_ColorSpaceSpecificationEmissiveGenericType_elements, element_IlluminationOptions), 1, &IlluminationOptionsType::k_class},
-    {item_kind::element, value_kind::enumerated, use_optional, ELMX_WS_PRESERVE, "Vyr:FieldOfView", element_FieldOfView, LMX_OFFSET(ColorSpaceSpecificationEmissiveGenericType, m_FieldOfView, element, enumerated), LMX_FLAG(ColorSpaceSpecificationEmissiveGenericType, m_isset_FieldOfView), position_of(k_ColorSpaceSpecificationEmissiveGenericType_elements, element_FieldOfView), 1, nullptr, &facets::ObserverKind},
-    {item_kind::element, value_kind::enumerated, use_optional, ELMX_WS_PRESERVE, "Vyr:ASTM_Table", element_ASTM_Table, LMX_OFFSET(ColorSpaceSpecificationEmissiveGenericType, m_ASTM_Table, element, enumerated), LMX_FLAG(ColorSpaceSpecificationEmissiveGenericType, m_isset_ASTM_Table), position_of(k_ColorSpaceSpecificationEmissiveGenericType_elements, element_ASTM_Table), 1, nullptr, &facets::AstmTableKind},
-    {item_kind::element, value_kind::number, use_optional, ELMX_WS_COLLAPSE, "Vyr:Gamma", element_Gamma, LMX_OFFSET(ColorSpaceSpecificationEmissiveGenericType, m_Gamma, element, number), LMX_FLAG(ColorSpaceSpecificationEmissiveGenericType, m_isset_Gamma), position_of(k_ColorSpaceSpecificationEmissiveGenericType_elements, element_Gamma), 1},
-    {item_kind::element, value_kind::enumerated, use_optional, ELMX_WS_PRESERVE, "Vyr:DensityStatus", element_DensityStatus, LMX_OFFSET(ColorSpaceSpecificationEmissiveGenericType, m_DensityStatus, element, enumerated), LMX_FLAG(ColorSpaceSpecificationEmissiveGenericType, m_isset_DensityStatus), position_of(k_ColorSpaceSpecificationEmissiveGenericType_elements, element_DensityStatus), 1, nullptr, &facets::DensityStatusKind},
+constexpr s_item ColorSpaceSpecificationEmissiveGenericType::k_items[] = {
+    {item_kind::optional_child, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:GeometryChoice", element("GeometryChoice"), LMX_OFFSET(ColorSpaceSpecificationEmissiveGenericType, m_GeometryChoice, optional_child, none), LMX_FLAG(ColorSpaceSpecificationEmissiveGenericType, m_isset_GeometryChoice), &GeometryChoiceType::k_class},
+    {item_kind::optional_child, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:IlluminationOptions", element("IlluminationOptions"), LMX_OFFSET(ColorSpaceSpecificationEmissiveGenericType, m_IlluminationOptions, optional_child, none), LMX_FLAG(ColorSpaceSpecificationEmissiveGenericType, m_isset_IlluminationOptions), &IlluminationOptionsType::k_class},
+    {item_kind::element, value_kind::enumerated, use_optional, ELMX_WS_PRESERVE, "Vyr:FieldOfView", element("FieldOfView"), LMX_OFFSET(ColorSpaceSpecificationEmissiveGenericType, m_FieldOfView, element, enumerated), LMX_FLAG(ColorSpaceSpecificationEmissiveGenericType, m_isset_FieldOfView), nullptr, &facets::ObserverKind},
+    {item_kind::element, value_kind::enumerated, use_optional, ELMX_WS_PRESERVE, "Vyr:ASTM_Table", element("ASTM_Table"), LMX_OFFSET(ColorSpaceSpecificationEmissiveGenericType, m_ASTM_Table, element, enumerated), LMX_FLAG(ColorSpaceSpecificationEmissiveGenericType, m_isset_ASTM_Table), nullptr, &facets::AstmTableKind},
+    {item_kind::element, value_kind::number, use_optional, ELMX_WS_COLLAPSE, "Vyr:Gamma", element("Gamma"), LMX_OFFSET(ColorSpaceSpecificationEmissiveGenericType, m_Gamma, element, number), LMX_FLAG(ColorSpaceSpecificationEmissiveGenericType, m_isset_Gamma)},
+    {item_kind::element, value_kind::enumerated, use_optional, ELMX_WS_PRESERVE, "Vyr:DensityStatus", element("DensityStatus"), LMX_OFFSET(ColorSpaceSpecificationEmissiveGenericType, m_DensityStatus, element, enumerated), LMX_FLAG(ColorSpaceSpecificationEmissiveGenericType, m_isset_DensityStatus), nullptr, &facets::DensityStatusKind},
 };
 constinit const s_class ColorSpaceSpecificationEmissiveGenericType::k_class = {
     .name = "ColorSpaceSpecificationEmissiveGenericType",
     .qualified_name = "Vyr:ColorSpaceSpecificationEmissiveGenericType",
     .base = &ColorSpaceSpecificationEmissiveType::k_class,
     .content = content_kind::children,
+    .names = &k_names,
     .ns_map = k_ns_map,
     .id = &ColorSpaceSpecificationEmissiveGenericType::id,
     .elements = k_items,
-    .element_map = k_ColorSpaceSpecificationEmissiveGenericType_elements,
     .operations = &k_operations<ColorSpaceSpecificationEmissiveGenericType>,
 };
 
@@ -623,30 +543,22 @@ bool ColorSpaceSpecificationEmissiveGenericType::setenum_DensityStatus(std::int3
 
 // ColorSpaceSpecificationEmissiveTristimulusType
 
-constexpr s_event_map k_ColorSpaceSpecificationEmissiveTristimulusType_elements[] = {
-    element_event("IlluminationOptions", element_IlluminationOptions),
-    element_event("FieldOfView", element_FieldOfView),
-    element_event("GeometryChoice", element_GeometryChoice),
-    element_event("ASTM_Table", element_ASTM_Table),
-    element_event("Gamma", element_Gamma),
-    k_end_of_map,
-};
-constinit const s_item ColorSpaceSpecificationEmissiveTristimulusType::k_items[] = {
-    {item_kind::child, value_kind::none, use_required, ELMX_WS_PRESERVE, "Vyr:IlluminationOptions", element_IlluminationOptions, LMX_OFFSET(ColorSpaceSpecificationEmissiveTristimulusType, m_IlluminationOptions, child, none), LMX_FLAG(ColorSpaceSpecificationEmissiveTristimulusType, m_isset_IlluminationOptions), position_of(k_ColorSpaceSpecificationEmissiveTristimulusType_elements, element_IlluminationOptions), 1, &IlluminationOptionsType::k_class},
-    {item_kind::element, value_kind::enumerated, use_required, ELMX_WS_PRESERVE, "Vyr:FieldOfView", element_FieldOfView, LMX_OFFSET(ColorSpaceSpecificationEmissiveTristimulusType, m_FieldOfView, element, enumerated), LMX_FLAG(ColorSpaceSpecificationEmissiveTristimulusType, m_isset_FieldOfView), position_of(k_ColorSpaceSpecificationEmissiveTristimulusType_elements, element_FieldOfView), 1, nullptr, &facets::ObserverKind},
-    {item_kind::optional_child, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:GeometryChoice", element_GeometryChoice, LMX_OFFSET(ColorSpaceSpecificationEmissiveTristimulusType, m_GeometryChoice, optional_child, none), LMX_FLAG(ColorSpaceSpecificationEmissiveTristimulusType, m_isset_GeometryChoice), position_of(k_ColorSpaceSpecificationEmissiveTristimulusType_elements, element_GeometryChoice), 1, &GeometryChoiceType::k_class},
-    {item_kind::element, value_kind::enumerated, use_optional, ELMX_WS_PRESERVE, "Vyr:ASTM_Table", element_ASTM_Table, LMX_OFFSET(ColorSpaceSpecificationEmissiveTristimulusType, m_ASTM_Table, element, enumerated), LMX_FLAG(ColorSpaceSpecificationEmissiveTristimulusType, m_isset_ASTM_Table), position_of(k_ColorSpaceSpecificationEmissiveTristimulusType_elements, element_ASTM_Table), 1, nullptr, &facets::AstmTableKind},
-    {item_kind::element, value_kind::number, use_optional, ELMX_WS_COLLAPSE, "Vyr:Gamma", element_Gamma, LMX_OFFSET(ColorSpaceSpecificationEmissiveTristimulusType, m_Gamma, element, number), LMX_FLAG(ColorSpaceSpecificationEmissiveTristimulusType, m_isset_Gamma), position_of(k_ColorSpaceSpecificationEmissiveTristimulusType_elements, element_Gamma), 1},
+constexpr s_item ColorSpaceSpecificationEmissiveTristimulusType::k_items[] = {
+    {item_kind::child, value_kind::none, use_required, ELMX_WS_PRESERVE, "Vyr:IlluminationOptions", element("IlluminationOptions"), LMX_OFFSET(ColorSpaceSpecificationEmissiveTristimulusType, m_IlluminationOptions, child, none), LMX_FLAG(ColorSpaceSpecificationEmissiveTristimulusType, m_isset_IlluminationOptions), &IlluminationOptionsType::k_class},
+    {item_kind::element, value_kind::enumerated, use_required, ELMX_WS_PRESERVE, "Vyr:FieldOfView", element("FieldOfView"), LMX_OFFSET(ColorSpaceSpecificationEmissiveTristimulusType, m_FieldOfView, element, enumerated), LMX_FLAG(ColorSpaceSpecificationEmissiveTristimulusType, m_isset_FieldOfView), nullptr, &facets::ObserverKind},
+    {item_kind::optional_child, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:GeometryChoice", element("GeometryChoice"), LMX_OFFSET(ColorSpaceSpecificationEmissiveTristimulusType, m_GeometryChoice, optional_child, none), LMX_FLAG(ColorSpaceSpecificationEmissiveTristimulusType, m_isset_GeometryChoice), &GeometryChoiceType::k_class},
+    {item_kind::element, value_kind::enumerated, use_optional, ELMX_WS_PRESERVE, "Vyr:ASTM_Table", element("ASTM_Table"), LMX_OFFSET(ColorSpaceSpecificationEmissiveTristimulusType, m_ASTM_Table, element, enumerated), LMX_FLAG(ColorSpaceSpecificationEmissiveTristimulusType, m_isset_ASTM_Table), nullptr, &facets::AstmTableKind},
+    {item_kind::element, value_kind::number, use_optional, ELMX_WS_COLLAPSE, "Vyr:Gamma", element("Gamma"), LMX_OFFSET(ColorSpaceSpecificationEmissiveTristimulusType, m_Gamma, element, number), LMX_FLAG(ColorSpaceSpecificationEmissiveTristimulusType, m_isset_Gamma)},
 };
 constinit const s_class ColorSpaceSpecificationEmissiveTristimulusType::k_class = {
     .name = "ColorSpaceSpecificationEmissiveTristimulusType",
     .qualified_name = "Vyr:ColorSpaceSpecificationEmissiveTristimulusType",
     .base = &ColorSpaceSpecificationEmissiveType::k_class,
     .content = content_kind::children,
+    .names = &k_names,
     .ns_map = k_ns_map,
     .id = &ColorSpaceSpecificationEmissiveTristimulusType::id,
     .elements = k_items,
-    .element_map = k_ColorSpaceSpecificationEmissiveTristimulusType_elements,
     .operations = &k_operations<ColorSpaceSpecificationEmissiveTristimulusType>,
 };
 
@@ -676,24 +588,19 @@ lmx::elmx_error ColorSpaceSpecificationEmissiveTristimulusType::set_Gamma(double
 
 // ColorSpaceSpecificationEmissiveSpectralType
 
-constexpr s_event_map k_ColorSpaceSpecificationEmissiveSpectralType_elements[] = {
-    element_event("GeometryChoice", element_GeometryChoice),
-    element_event("ASTM_Table", element_ASTM_Table),
-    k_end_of_map,
-};
-constinit const s_item ColorSpaceSpecificationEmissiveSpectralType::k_items[] = {
-    {item_kind::child, value_kind::none, use_required, ELMX_WS_PRESERVE, "Vyr:GeometryChoice", element_GeometryChoice, LMX_OFFSET(ColorSpaceSpecificationEmissiveSpectralType, m_GeometryChoice, child, none), LMX_FLAG(ColorSpaceSpecificationEmissiveSpectralType, m_isset_GeometryChoice), position_of(k_ColorSpaceSpecificationEmissiveSpectralType_elements, element_GeometryChoice), 1, &GeometryChoiceType::k_class},
-    {item_kind::element, value_kind::enumerated, use_optional, ELMX_WS_PRESERVE, "Vyr:ASTM_Table", element_ASTM_Table, LMX_OFFSET(ColorSpaceSpecificationEmissiveSpectralType, m_ASTM_Table, element, enumerated), LMX_FLAG(ColorSpaceSpecificationEmissiveSpectralType, m_isset_ASTM_Table), position_of(k_ColorSpaceSpecificationEmissiveSpectralType_elements, element_ASTM_Table), 1, nullptr, &facets::AstmTableKind},
+constexpr s_item ColorSpaceSpecificationEmissiveSpectralType::k_items[] = {
+    {item_kind::child, value_kind::none, use_required, ELMX_WS_PRESERVE, "Vyr:GeometryChoice", element("GeometryChoice"), LMX_OFFSET(ColorSpaceSpecificationEmissiveSpectralType, m_GeometryChoice, child, none), LMX_FLAG(ColorSpaceSpecificationEmissiveSpectralType, m_isset_GeometryChoice), &GeometryChoiceType::k_class},
+    {item_kind::element, value_kind::enumerated, use_optional, ELMX_WS_PRESERVE, "Vyr:ASTM_Table", element("ASTM_Table"), LMX_OFFSET(ColorSpaceSpecificationEmissiveSpectralType, m_ASTM_Table, element, enumerated), LMX_FLAG(ColorSpaceSpecificationEmissiveSpectralType, m_isset_ASTM_Table), nullptr, &facets::AstmTableKind},
 };
 constinit const s_class ColorSpaceSpecificationEmissiveSpectralType::k_class = {
     .name = "ColorSpaceSpecificationEmissiveSpectralType",
     .qualified_name = "Vyr:ColorSpaceSpecificationEmissiveSpectralType",
     .base = &ColorSpaceSpecificationEmissiveType::k_class,
     .content = content_kind::children,
+    .names = &k_names,
     .ns_map = k_ns_map,
     .id = &ColorSpaceSpecificationEmissiveSpectralType::id,
     .elements = k_items,
-    .element_map = k_ColorSpaceSpecificationEmissiveSpectralType_elements,
     .operations = &k_operations<ColorSpaceSpecificationEmissiveSpectralType>,
 };
 
@@ -747,6 +654,7 @@ constinit const s_class ColorSpaceSpecificationSpectrumGeneric::k_class = {
     .qualified_name = "Vyr:ColorSpaceSpecificationSpectrumGeneric",
     .base = &ColorSpaceSpecificationSpectrumGenericType::k_class,
     .content = content_kind::children,
+    .names = &k_names,
     .ns_map = k_ns_map,
     .nil_flag = LMX_FLAG(ColorSpaceSpecificationSpectrumGeneric, m_isnil),
     .id = &ColorSpaceSpecificationSpectrumGenericType::id,
@@ -782,6 +690,7 @@ constinit const s_class ColorSpaceSpecificationSpectrumTristimulus::k_class = {
     .qualified_name = "Vyr:ColorSpaceSpecificationSpectrumTristimulus",
     .base = &ColorSpaceSpecificationSpectrumTristimulusType::k_class,
     .content = content_kind::children,
+    .names = &k_names,
     .ns_map = k_ns_map,
     .nil_flag = LMX_FLAG(ColorSpaceSpecificationSpectrumTristimulus, m_isnil),
     .id = &ColorSpaceSpecificationSpectrumTristimulusType::id,
@@ -817,6 +726,7 @@ constinit const s_class ColorSpaceSpecificationSpectrumSpectral::k_class = {
     .qualified_name = "Vyr:ColorSpaceSpecificationSpectrumSpectral",
     .base = &ColorSpaceSpecificationSpectrumSpectralType::k_class,
     .content = content_kind::children,
+    .names = &k_names,
     .ns_map = k_ns_map,
     .nil_flag = LMX_FLAG(ColorSpaceSpecificationSpectrumSpectral, m_isnil),
     .id = &ColorSpaceSpecificationSpectrumSpectralType::id,
@@ -869,6 +779,7 @@ constinit const s_class ColorSpaceSpecificationEmissiveGeneric::k_class = {
     .qualified_name = "Vyr:ColorSpaceSpecificationEmissiveGeneric",
     .base = &ColorSpaceSpecificationEmissiveGenericType::k_class,
     .content = content_kind::children,
+    .names = &k_names,
     .ns_map = k_ns_map,
     .nil_flag = LMX_FLAG(ColorSpaceSpecificationEmissiveGeneric, m_isnil),
     .id = &ColorSpaceSpecificationEmissiveGenericType::id,
@@ -904,6 +815,7 @@ constinit const s_class ColorSpaceSpecificationEmissiveTristimulus::k_class = {
     .qualified_name = "Vyr:ColorSpaceSpecificationEmissiveTristimulus",
     .base = &ColorSpaceSpecificationEmissiveTristimulusType::k_class,
     .content = content_kind::children,
+    .names = &k_names,
     .ns_map = k_ns_map,
     .nil_flag = LMX_FLAG(ColorSpaceSpecificationEmissiveTristimulus, m_isnil),
     .id = &ColorSpaceSpecificationEmissiveTristimulusType::id,
@@ -939,6 +851,7 @@ constinit const s_class ColorSpaceSpecificationEmissiveSpectral::k_class = {
     .qualified_name = "Vyr:ColorSpaceSpecificationEmissiveSpectral",
     .base = &ColorSpaceSpecificationEmissiveSpectralType::k_class,
     .content = content_kind::children,
+    .names = &k_names,
     .ns_map = k_ns_map,
     .nil_flag = LMX_FLAG(ColorSpaceSpecificationEmissiveSpectral, m_isnil),
     .id = &ColorSpaceSpecificationEmissiveSpectralType::id,
@@ -969,21 +882,17 @@ bool ColorSpaceSpecificationEmissiveSpectral::is_occurs_ok() const { return lmx:
 
 // Illuminant
 
-constexpr s_event_map k_Illuminant_attributes[] = {
-    attribute_event("CustomName", attribute_CustomName),
-    k_end_of_map,
-};
-constinit const s_item Illuminant::k_items[] = {
-    {item_kind::attribute, value_kind::text, use_optional, ELMX_WS_PRESERVE, "CustomName", attribute_CustomName, LMX_OFFSET(Illuminant, m_CustomName, attribute, text), LMX_FLAG(Illuminant, m_isset_CustomName)},
-    {item_kind::content, value_kind::enumerated, use_required, ELMX_WS_PRESERVE, "", 0, LMX_OFFSET(Illuminant, m_Illuminant, content, enumerated), LMX_FLAG(Illuminant, m_isset_Illuminant), 0, 0, nullptr, &facets::IlluminantKind},
+constexpr s_item Illuminant::k_items[] = {
+    {item_kind::attribute, value_kind::text, use_optional, ELMX_WS_PRESERVE, "CustomName", attribute("CustomName"), LMX_OFFSET(Illuminant, m_CustomName, attribute, text), LMX_FLAG(Illuminant, m_isset_CustomName)},
+    {item_kind::content, value_kind::enumerated, use_required, ELMX_WS_PRESERVE, "", 0, LMX_OFFSET(Illuminant, m_Illuminant, content, enumerated), LMX_FLAG(Illuminant, m_isset_Illuminant), nullptr, &facets::IlluminantKind},
 };
 constinit const s_class Illuminant::k_class = {
     .name = "Illuminant",
     .qualified_name = "Vyr:Illuminant",
     .content = content_kind::simple,
-    .attributes = std::span(k_items).first(std::size(k_Illuminant_attributes) - 1),
-    .elements = std::span(k_items).subspan(std::size(k_Illuminant_attributes) - 1),
-    .attribute_map = k_Illuminant_attributes,
+    .names = &k_names,
+    .attributes = std::span(k_items).first(attribute_count(k_items)),
+    .elements = std::span(k_items).subspan(attribute_count(k_items)),
     .operations = &k_operations<Illuminant>,
 };
 
@@ -1002,21 +911,16 @@ bool Illuminant::setenum_Illuminant(std::int32_t number) { return lmx::set_enume
 
 // WhitePointChromaticity
 
-constexpr s_event_map k_WhitePointChromaticity_elements[] = {
-    element_event("CoordinateX", element_CoordinateX),
-    element_event("CoordinateY", element_CoordinateY),
-    k_end_of_map,
-};
-constinit const s_item WhitePointChromaticity::k_items[] = {
-    {item_kind::element, value_kind::number, use_required, ELMX_WS_COLLAPSE, "Vyr:CoordinateX", element_CoordinateX, LMX_OFFSET(WhitePointChromaticity, m_CoordinateX, element, number), LMX_FLAG(WhitePointChromaticity, m_isset_CoordinateX), position_of(k_WhitePointChromaticity_elements, element_CoordinateX), 1, nullptr, &facets::Fraction},
-    {item_kind::element, value_kind::number, use_required, ELMX_WS_COLLAPSE, "Vyr:CoordinateY", element_CoordinateY, LMX_OFFSET(WhitePointChromaticity, m_CoordinateY, element, number), LMX_FLAG(WhitePointChromaticity, m_isset_CoordinateY), position_of(k_WhitePointChromaticity_elements, element_CoordinateY), 1, nullptr, &facets::Fraction},
+constexpr s_item WhitePointChromaticity::k_items[] = {
+    {item_kind::element, value_kind::number, use_required, ELMX_WS_COLLAPSE, "Vyr:CoordinateX", element("CoordinateX"), LMX_OFFSET(WhitePointChromaticity, m_CoordinateX, element, number), LMX_FLAG(WhitePointChromaticity, m_isset_CoordinateX), nullptr, &facets::Fraction},
+    {item_kind::element, value_kind::number, use_required, ELMX_WS_COLLAPSE, "Vyr:CoordinateY", element("CoordinateY"), LMX_OFFSET(WhitePointChromaticity, m_CoordinateY, element, number), LMX_FLAG(WhitePointChromaticity, m_isset_CoordinateY), nullptr, &facets::Fraction},
 };
 constinit const s_class WhitePointChromaticity::k_class = {
     .name = "WhitePointChromaticity",
     .qualified_name = "Vyr:WhitePointChromaticity",
     .content = content_kind::children,
+    .names = &k_names,
     .elements = k_items,
-    .element_map = k_WhitePointChromaticity_elements,
     .operations = &k_operations<WhitePointChromaticity>,
 };
 
@@ -1034,24 +938,18 @@ lmx::elmx_error WhitePointChromaticity::set_CoordinateY(double value) { return l
 
 // BSDFAngle
 
-constexpr s_event_map k_BSDFAngle_elements[] = {
-    element_event("IlluminantAngle", element_IlluminantAngle),
-    element_event("Aspecular", element_Aspecular),
-    element_event("Azimuth", element_Azimuth),
-    k_end_of_map,
-};
-constinit const s_item BSDFAngle::k_items[] = {
-    {item_kind::element, value_kind::number, use_required, ELMX_WS_COLLAPSE, "Vyr:IlluminantAngle", element_IlluminantAngle, LMX_OFFSET(BSDFAngle, m_IlluminantAngle, element, number), LMX_FLAG(BSDFAngle, m_isset_IlluminantAngle), position_of(k_BSDFAngle_elements, element_IlluminantAngle), 1},
-    {item_kind::element, value_kind::number, use_required, ELMX_WS_COLLAPSE, "Vyr:Aspecular", element_Aspecular, LMX_OFFSET(BSDFAngle, m_Aspecular, element, number), LMX_FLAG(BSDFAngle, m_isset_Aspecular), position_of(k_BSDFAngle_elements, element_Aspecular), 1},
-    {item_kind::marker, value_kind::none, use_written, ELMX_WS_PRESERVE, "Vyr:Azimuth", element_Azimuth, 0, k_no_flag, position_of(k_BSDFAngle_elements, element_Azimuth), 1},
+constexpr s_item BSDFAngle::k_items[] = {
+    {item_kind::element, value_kind::number, use_required, ELMX_WS_COLLAPSE, "Vyr:IlluminantAngle", element("IlluminantAngle"), LMX_OFFSET(BSDFAngle, m_IlluminantAngle, element, number), LMX_FLAG(BSDFAngle, m_isset_IlluminantAngle)},
+    {item_kind::element, value_kind::number, use_required, ELMX_WS_COLLAPSE, "Vyr:Aspecular", element("Aspecular"), LMX_OFFSET(BSDFAngle, m_Aspecular, element, number), LMX_FLAG(BSDFAngle, m_isset_Aspecular)},
+    {item_kind::marker, value_kind::none, use_written, ELMX_WS_PRESERVE, "Vyr:Azimuth", element("Azimuth"), 0, k_no_flag},
 };
 constinit const s_class BSDFAngle::k_class = {
     .name = "BSDFAngle",
     .qualified_name = "Vyr:BSDFAngle",
     .content = content_kind::children,
+    .names = &k_names,
     .ns_map = k_ns_map,
     .elements = k_items,
-    .element_map = k_BSDFAngle_elements,
     .operations = &k_operations<BSDFAngle>,
 };
 
@@ -1073,6 +971,7 @@ constinit const s_class Azimuth::k_class = {
     .name = "Azimuth",
     .qualified_name = "Vyr:Azimuth",
     .content = content_kind::empty,
+    .names = &k_names,
     .operations = &k_operations<Azimuth>,
 };
 

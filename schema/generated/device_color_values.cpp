@@ -8,7 +8,6 @@
 
 #include "schema/generated/device_color_values.h"
 #include "lmx/binding/binding.h"
-#include "lmx/binding/rows.h"
 #include "schema/generated/color_values.h"
 #include "schema/generated/conditions.h"
 #include "schema/generated/tables.h"
@@ -20,43 +19,29 @@ namespace com_vyrgraph_v2 {
 
 using namespace lmx;  // for the tables' sake
 
-static_assert(k_binding_version == 5, "run schema/generator/generate.py");
+static_assert(k_binding_version == 6, "run schema/generator/generate.py");
 
 // ColorSpaceRGBType
 
-constexpr s_event_map k_ColorSpaceRGBType_attributes[] = {
-    attribute_event("Name", attribute_Name),
-    k_end_of_map,
-};
-constexpr s_event_map k_ColorSpaceRGBType_elements[] = {
-    element_event("ColorSpaceSpecificationSpectrumTristimulus", element_ColorSpaceSpecificationSpectrumTristimulus),
-    element_event("Red", element_Red),
-    element_event("Green", element_Green),
-    element_event("Blue", element_Blue),
-    element_event("Alpha", element_Alpha),
-    element_event("ColorDepth", element_ColorDepth),
-    k_end_of_map,
-};
-constinit const s_item ColorSpaceRGBType::k_items[] = {
-    {item_kind::attribute, value_kind::text, use_name, ELMX_WS_PRESERVE, "Name", attribute_Name, LMX_OFFSET(ColorSpaceRGBType, m_Name, attribute, text), LMX_FLAG(ColorSpaceRGBType, m_isset_Name)},
-    {item_kind::child, value_kind::none, use_required, ELMX_WS_PRESERVE, "Vyr:ColorSpaceSpecificationSpectrumTristimulus", element_ColorSpaceSpecificationSpectrumTristimulus, LMX_OFFSET(ColorSpaceRGBType, m_ColorSpaceSpecificationSpectrumTristimulus, child, none), LMX_FLAG(ColorSpaceRGBType, m_isset_ColorSpaceSpecificationSpectrumTristimulus), position_of(k_ColorSpaceRGBType_elements, element_ColorSpaceSpecificationSpectrumTristimulus), 1, &ColorSpaceSpecificationSpectrumTristimulus::k_class},
-    {item_kind::element, value_kind::number, use_required, ELMX_WS_COLLAPSE, "Vyr:Red", element_Red, LMX_OFFSET(ColorSpaceRGBType, m_Red, element, number), LMX_FLAG(ColorSpaceRGBType, m_isset_Red), position_of(k_ColorSpaceRGBType_elements, element_Red), 1, nullptr, &facets::Fraction},
-    {item_kind::element, value_kind::number, use_required, ELMX_WS_COLLAPSE, "Vyr:Green", element_Green, LMX_OFFSET(ColorSpaceRGBType, m_Green, element, number), LMX_FLAG(ColorSpaceRGBType, m_isset_Green), position_of(k_ColorSpaceRGBType_elements, element_Green), 1, nullptr, &facets::Fraction},
-    {item_kind::element, value_kind::number, use_required, ELMX_WS_COLLAPSE, "Vyr:Blue", element_Blue, LMX_OFFSET(ColorSpaceRGBType, m_Blue, element, number), LMX_FLAG(ColorSpaceRGBType, m_isset_Blue), position_of(k_ColorSpaceRGBType_elements, element_Blue), 1, nullptr, &facets::Fraction},
-    {item_kind::element, value_kind::number, use_optional, ELMX_WS_COLLAPSE, "Vyr:Alpha", element_Alpha, LMX_OFFSET(ColorSpaceRGBType, m_Alpha, element, number), LMX_FLAG(ColorSpaceRGBType, m_isset_Alpha), position_of(k_ColorSpaceRGBType_elements, element_Alpha), 1, nullptr, &facets::Fraction},
-    {item_kind::element, value_kind::enumerated, use_required, ELMX_WS_PRESERVE, "Vyr:ColorDepth", element_ColorDepth, LMX_OFFSET(ColorSpaceRGBType, m_ColorDepth, element, enumerated), LMX_FLAG(ColorSpaceRGBType, m_isset_ColorDepth), position_of(k_ColorSpaceRGBType_elements, element_ColorDepth), 1, nullptr, &facets::ColorDepthKind},
+constexpr s_item ColorSpaceRGBType::k_items[] = {
+    {item_kind::attribute, value_kind::text, use_name, ELMX_WS_PRESERVE, "Name", attribute("Name"), LMX_OFFSET(ColorSpaceRGBType, m_Name, attribute, text), LMX_FLAG(ColorSpaceRGBType, m_isset_Name)},
+    {item_kind::child, value_kind::none, use_required, ELMX_WS_PRESERVE, "Vyr:ColorSpaceSpecificationSpectrumTristimulus", element("ColorSpaceSpecificationSpectrumTristimulus"), LMX_OFFSET(ColorSpaceRGBType, m_ColorSpaceSpecificationSpectrumTristimulus, child, none), LMX_FLAG(ColorSpaceRGBType, m_isset_ColorSpaceSpecificationSpectrumTristimulus), &ColorSpaceSpecificationSpectrumTristimulus::k_class},
+    {item_kind::element, value_kind::number, use_required, ELMX_WS_COLLAPSE, "Vyr:Red", element("Red"), LMX_OFFSET(ColorSpaceRGBType, m_Red, element, number), LMX_FLAG(ColorSpaceRGBType, m_isset_Red), nullptr, &facets::Fraction},
+    {item_kind::element, value_kind::number, use_required, ELMX_WS_COLLAPSE, "Vyr:Green", element("Green"), LMX_OFFSET(ColorSpaceRGBType, m_Green, element, number), LMX_FLAG(ColorSpaceRGBType, m_isset_Green), nullptr, &facets::Fraction},
+    {item_kind::element, value_kind::number, use_required, ELMX_WS_COLLAPSE, "Vyr:Blue", element("Blue"), LMX_OFFSET(ColorSpaceRGBType, m_Blue, element, number), LMX_FLAG(ColorSpaceRGBType, m_isset_Blue), nullptr, &facets::Fraction},
+    {item_kind::element, value_kind::number, use_optional, ELMX_WS_COLLAPSE, "Vyr:Alpha", element("Alpha"), LMX_OFFSET(ColorSpaceRGBType, m_Alpha, element, number), LMX_FLAG(ColorSpaceRGBType, m_isset_Alpha), nullptr, &facets::Fraction},
+    {item_kind::element, value_kind::enumerated, use_required, ELMX_WS_PRESERVE, "Vyr:ColorDepth", element("ColorDepth"), LMX_OFFSET(ColorSpaceRGBType, m_ColorDepth, element, enumerated), LMX_FLAG(ColorSpaceRGBType, m_isset_ColorDepth), nullptr, &facets::ColorDepthKind},
 };
 constinit const s_class ColorSpaceRGBType::k_class = {
     .name = "ColorSpaceRGBType",
     .qualified_name = "Vyr:ColorSpaceRGBType",
     .base = &ColorSpaceType::k_class,
     .content = content_kind::children,
+    .names = &k_names,
     .ns_map = k_ns_map,
     .id = &ColorSpaceRGBType::id,
-    .attributes = std::span(k_items).first(std::size(k_ColorSpaceRGBType_attributes) - 1),
-    .elements = std::span(k_items).subspan(std::size(k_ColorSpaceRGBType_attributes) - 1),
-    .attribute_map = k_ColorSpaceRGBType_attributes,
-    .element_map = k_ColorSpaceRGBType_elements,
+    .attributes = std::span(k_items).first(attribute_count(k_items)),
+    .elements = std::span(k_items).subspan(attribute_count(k_items)),
     .operations = &k_operations<ColorSpaceRGBType>,
 };
 
@@ -85,39 +70,25 @@ bool ColorSpaceRGBType::setenum_ColorDepth(std::int32_t number) { return lmx::se
 
 // ColorSpaceSRGBType
 
-constexpr s_event_map k_ColorSpaceSRGBType_attributes[] = {
-    attribute_event("Name", attribute_Name),
-    k_end_of_map,
-};
-constexpr s_event_map k_ColorSpaceSRGBType_elements[] = {
-    element_event("ColorSpaceSpecificationSpectrumTristimulus", element_ColorSpaceSpecificationSpectrumTristimulus),
-    element_event("Red", element_Red),
-    element_event("Green", element_Green),
-    element_event("Blue", element_Blue),
-    element_event("Alpha", element_Alpha),
-    element_event("ColorDepth", element_ColorDepth),
-    k_end_of_map,
-};
-constinit const s_item ColorSpaceSRGBType::k_items[] = {
-    {item_kind::attribute, value_kind::text, use_name, ELMX_WS_PRESERVE, "Name", attribute_Name, LMX_OFFSET(ColorSpaceSRGBType, m_Name, attribute, text), LMX_FLAG(ColorSpaceSRGBType, m_isset_Name)},
-    {item_kind::child, value_kind::none, use_required, ELMX_WS_PRESERVE, "Vyr:ColorSpaceSpecificationSpectrumTristimulus", element_ColorSpaceSpecificationSpectrumTristimulus, LMX_OFFSET(ColorSpaceSRGBType, m_ColorSpaceSpecificationSpectrumTristimulus, child, none), LMX_FLAG(ColorSpaceSRGBType, m_isset_ColorSpaceSpecificationSpectrumTristimulus), position_of(k_ColorSpaceSRGBType_elements, element_ColorSpaceSpecificationSpectrumTristimulus), 1, &ColorSpaceSpecificationSpectrumTristimulus::k_class},
-    {item_kind::element, value_kind::number, use_required, ELMX_WS_COLLAPSE, "Vyr:Red", element_Red, LMX_OFFSET(ColorSpaceSRGBType, m_Red, element, number), LMX_FLAG(ColorSpaceSRGBType, m_isset_Red), position_of(k_ColorSpaceSRGBType_elements, element_Red), 1, nullptr, &facets::Fraction},
-    {item_kind::element, value_kind::number, use_required, ELMX_WS_COLLAPSE, "Vyr:Green", element_Green, LMX_OFFSET(ColorSpaceSRGBType, m_Green, element, number), LMX_FLAG(ColorSpaceSRGBType, m_isset_Green), position_of(k_ColorSpaceSRGBType_elements, element_Green), 1, nullptr, &facets::Fraction},
-    {item_kind::element, value_kind::number, use_required, ELMX_WS_COLLAPSE, "Vyr:Blue", element_Blue, LMX_OFFSET(ColorSpaceSRGBType, m_Blue, element, number), LMX_FLAG(ColorSpaceSRGBType, m_isset_Blue), position_of(k_ColorSpaceSRGBType_elements, element_Blue), 1, nullptr, &facets::Fraction},
-    {item_kind::element, value_kind::number, use_optional, ELMX_WS_COLLAPSE, "Vyr:Alpha", element_Alpha, LMX_OFFSET(ColorSpaceSRGBType, m_Alpha, element, number), LMX_FLAG(ColorSpaceSRGBType, m_isset_Alpha), position_of(k_ColorSpaceSRGBType_elements, element_Alpha), 1, nullptr, &facets::Fraction},
-    {item_kind::element, value_kind::enumerated, use_required, ELMX_WS_PRESERVE, "Vyr:ColorDepth", element_ColorDepth, LMX_OFFSET(ColorSpaceSRGBType, m_ColorDepth, element, enumerated), LMX_FLAG(ColorSpaceSRGBType, m_isset_ColorDepth), position_of(k_ColorSpaceSRGBType_elements, element_ColorDepth), 1, nullptr, &facets::ColorDepthKind},
+constexpr s_item ColorSpaceSRGBType::k_items[] = {
+    {item_kind::attribute, value_kind::text, use_name, ELMX_WS_PRESERVE, "Name", attribute("Name"), LMX_OFFSET(ColorSpaceSRGBType, m_Name, attribute, text), LMX_FLAG(ColorSpaceSRGBType, m_isset_Name)},
+    {item_kind::child, value_kind::none, use_required, ELMX_WS_PRESERVE, "Vyr:ColorSpaceSpecificationSpectrumTristimulus", element("ColorSpaceSpecificationSpectrumTristimulus"), LMX_OFFSET(ColorSpaceSRGBType, m_ColorSpaceSpecificationSpectrumTristimulus, child, none), LMX_FLAG(ColorSpaceSRGBType, m_isset_ColorSpaceSpecificationSpectrumTristimulus), &ColorSpaceSpecificationSpectrumTristimulus::k_class},
+    {item_kind::element, value_kind::number, use_required, ELMX_WS_COLLAPSE, "Vyr:Red", element("Red"), LMX_OFFSET(ColorSpaceSRGBType, m_Red, element, number), LMX_FLAG(ColorSpaceSRGBType, m_isset_Red), nullptr, &facets::Fraction},
+    {item_kind::element, value_kind::number, use_required, ELMX_WS_COLLAPSE, "Vyr:Green", element("Green"), LMX_OFFSET(ColorSpaceSRGBType, m_Green, element, number), LMX_FLAG(ColorSpaceSRGBType, m_isset_Green), nullptr, &facets::Fraction},
+    {item_kind::element, value_kind::number, use_required, ELMX_WS_COLLAPSE, "Vyr:Blue", element("Blue"), LMX_OFFSET(ColorSpaceSRGBType, m_Blue, element, number), LMX_FLAG(ColorSpaceSRGBType, m_isset_Blue), nullptr, &facets::Fraction},
+    {item_kind::element, value_kind::number, use_optional, ELMX_WS_COLLAPSE, "Vyr:Alpha", element("Alpha"), LMX_OFFSET(ColorSpaceSRGBType, m_Alpha, element, number), LMX_FLAG(ColorSpaceSRGBType, m_isset_Alpha), nullptr, &facets::Fraction},
+    {item_kind::element, value_kind::enumerated, use_required, ELMX_WS_PRESERVE, "Vyr:ColorDepth", element("ColorDepth"), LMX_OFFSET(ColorSpaceSRGBType, m_ColorDepth, element, enumerated), LMX_FLAG(ColorSpaceSRGBType, m_isset_ColorDepth), nullptr, &facets::ColorDepthKind},
 };
 constinit const s_class ColorSpaceSRGBType::k_class = {
     .name = "ColorSpaceSRGBType",
     .qualified_name = "Vyr:ColorSpaceSRGBType",
     .base = &ColorSpaceType::k_class,
     .content = content_kind::children,
+    .names = &k_names,
     .ns_map = k_ns_map,
     .id = &ColorSpaceSRGBType::id,
-    .attributes = std::span(k_items).first(std::size(k_ColorSpaceSRGBType_attributes) - 1),
-    .elements = std::span(k_items).subspan(std::size(k_ColorSpaceSRGBType_attributes) - 1),
-    .attribute_map = k_ColorSpaceSRGBType_attributes,
-    .element_map = k_ColorSpaceSRGBType_elements,
+    .attributes = std::span(k_items).first(attribute_count(k_items)),
+    .elements = std::span(k_items).subspan(attribute_count(k_items)),
     .operations = &k_operations<ColorSpaceSRGBType>,
 };
 
@@ -146,39 +117,25 @@ bool ColorSpaceSRGBType::setenum_ColorDepth(std::int32_t number) { return lmx::s
 
 // ColorSpaceAdobeRGBType
 
-constexpr s_event_map k_ColorSpaceAdobeRGBType_attributes[] = {
-    attribute_event("Name", attribute_Name),
-    k_end_of_map,
-};
-constexpr s_event_map k_ColorSpaceAdobeRGBType_elements[] = {
-    element_event("ColorSpaceSpecificationSpectrumTristimulus", element_ColorSpaceSpecificationSpectrumTristimulus),
-    element_event("Red", element_Red),
-    element_event("Green", element_Green),
-    element_event("Blue", element_Blue),
-    element_event("Alpha", element_Alpha),
-    element_event("ColorDepth", element_ColorDepth),
-    k_end_of_map,
-};
-constinit const s_item ColorSpaceAdobeRGBType::k_items[] = {
-    {item_kind::attribute, value_kind::text, use_name, ELMX_WS_PRESERVE, "Name", attribute_Name, LMX_OFFSET(ColorSpaceAdobeRGBType, m_Name, attribute, text), LMX_FLAG(ColorSpaceAdobeRGBType, m_isset_Name)},
-    {item_kind::child, value_kind::none, use_required, ELMX_WS_PRESERVE, "Vyr:ColorSpaceSpecificationSpectrumTristimulus", element_ColorSpaceSpecificationSpectrumTristimulus, LMX_OFFSET(ColorSpaceAdobeRGBType, m_ColorSpaceSpecificationSpectrumTristimulus, child, none), LMX_FLAG(ColorSpaceAdobeRGBType, m_isset_ColorSpaceSpecificationSpectrumTristimulus), position_of(k_ColorSpaceAdobeRGBType_elements, element_ColorSpaceSpecificationSpectrumTristimulus), 1, &ColorSpaceSpecificationSpectrumTristimulus::k_class},
-    {item_kind::element, value_kind::number, use_required, ELMX_WS_COLLAPSE, "Vyr:Red", element_Red, LMX_OFFSET(ColorSpaceAdobeRGBType, m_Red, element, number), LMX_FLAG(ColorSpaceAdobeRGBType, m_isset_Red), position_of(k_ColorSpaceAdobeRGBType_elements, element_Red), 1, nullptr, &facets::Fraction},
-    {item_kind::element, value_kind::number, use_required, ELMX_WS_COLLAPSE, "Vyr:Green", element_Green, LMX_OFFSET(ColorSpaceAdobeRGBType, m_Green, element, number), LMX_FLAG(ColorSpaceAdobeRGBType, m_isset_Green), position_of(k_ColorSpaceAdobeRGBType_elements, element_Green), 1, nullptr, &facets::Fraction},
-    {item_kind::element, value_kind::number, use_required, ELMX_WS_COLLAPSE, "Vyr:Blue", element_Blue, LMX_OFFSET(ColorSpaceAdobeRGBType, m_Blue, element, number), LMX_FLAG(ColorSpaceAdobeRGBType, m_isset_Blue), position_of(k_ColorSpaceAdobeRGBType_elements, element_Blue), 1, nullptr, &facets::Fraction},
-    {item_kind::element, value_kind::number, use_optional, ELMX_WS_COLLAPSE, "Vyr:Alpha", element_Alpha, LMX_OFFSET(ColorSpaceAdobeRGBType, m_Alpha, element, number), LMX_FLAG(ColorSpaceAdobeRGBType, m_isset_Alpha), position_of(k_ColorSpaceAdobeRGBType_elements, element_Alpha), 1, nullptr, &facets::Fraction},
-    {item_kind::element, value_kind::enumerated, use_required, ELMX_WS_PRESERVE, "Vyr:ColorDepth", element_ColorDepth, LMX_OFFSET(ColorSpaceAdobeRGBType, m_ColorDepth, element, enumerated), LMX_FLAG(ColorSpaceAdobeRGBType, m_isset_ColorDepth), position_of(k_ColorSpaceAdobeRGBType_elements, element_ColorDepth), 1, nullptr, &facets::ColorDepthKind},
+constexpr s_item ColorSpaceAdobeRGBType::k_items[] = {
+    {item_kind::attribute, value_kind::text, use_name, ELMX_WS_PRESERVE, "Name", attribute("Name"), LMX_OFFSET(ColorSpaceAdobeRGBType, m_Name, attribute, text), LMX_FLAG(ColorSpaceAdobeRGBType, m_isset_Name)},
+    {item_kind::child, value_kind::none, use_required, ELMX_WS_PRESERVE, "Vyr:ColorSpaceSpecificationSpectrumTristimulus", element("ColorSpaceSpecificationSpectrumTristimulus"), LMX_OFFSET(ColorSpaceAdobeRGBType, m_ColorSpaceSpecificationSpectrumTristimulus, child, none), LMX_FLAG(ColorSpaceAdobeRGBType, m_isset_ColorSpaceSpecificationSpectrumTristimulus), &ColorSpaceSpecificationSpectrumTristimulus::k_class},
+    {item_kind::element, value_kind::number, use_required, ELMX_WS_COLLAPSE, "Vyr:Red", element("Red"), LMX_OFFSET(ColorSpaceAdobeRGBType, m_Red, element, number), LMX_FLAG(ColorSpaceAdobeRGBType, m_isset_Red), nullptr, &facets::Fraction},
+    {item_kind::element, value_kind::number, use_required, ELMX_WS_COLLAPSE, "Vyr:Green", element("Green"), LMX_OFFSET(ColorSpaceAdobeRGBType, m_Green, element, number), LMX_FLAG(ColorSpaceAdobeRGBType, m_isset_Green), nullptr, &facets::Fraction},
+    {item_kind::element, value_kind::number, use_required, ELMX_WS_COLLAPSE, "Vyr:Blue", element("Blue"), LMX_OFFSET(ColorSpaceAdobeRGBType, m_Blue, element, number), LMX_FLAG(ColorSpaceAdobeRGBType, m_isset_Blue), nullptr, &facets::Fraction},
+    {item_kind::element, value_kind::number, use_optional, ELMX_WS_COLLAPSE, "Vyr:Alpha", element("Alpha"), LMX_OFFSET(ColorSpaceAdobeRGBType, m_Alpha, element, number), LMX_FLAG(ColorSpaceAdobeRGBType, m_isset_Alpha), nullptr, &facets::Fraction},
+    {item_kind::element, value_kind::enumerated, use_required, ELMX_WS_PRESERVE, "Vyr:ColorDepth", element("ColorDepth"), LMX_OFFSET(ColorSpaceAdobeRGBType, m_ColorDepth, element, enumerated), LMX_FLAG(ColorSpaceAdobeRGBType, m_isset_ColorDepth), nullptr, &facets::ColorDepthKind},
 };
 constinit const s_class ColorSpaceAdobeRGBType::k_class = {
     .name = "ColorSpaceAdobeRGBType",
     .qualified_name = "Vyr:ColorSpaceAdobeRGBType",
     .base = &ColorSpaceType::k_class,
     .content = content_kind::children,
+    .names = &k_names,
     .ns_map = k_ns_map,
     .id = &ColorSpaceAdobeRGBType::id,
-    .attributes = std::span(k_items).first(std::size(k_ColorSpaceAdobeRGBType_attributes) - 1),
-    .elements = std::span(k_items).subspan(std::size(k_ColorSpaceAdobeRGBType_attributes) - 1),
-    .attribute_map = k_ColorSpaceAdobeRGBType_attributes,
-    .element_map = k_ColorSpaceAdobeRGBType_elements,
+    .attributes = std::span(k_items).first(attribute_count(k_items)),
+    .elements = std::span(k_items).subspan(attribute_count(k_items)),
     .operations = &k_operations<ColorSpaceAdobeRGBType>,
 };
 
@@ -207,39 +164,25 @@ bool ColorSpaceAdobeRGBType::setenum_ColorDepth(std::int32_t number) { return lm
 
 // ColorSpaceAdobeWideGamutRGBType
 
-constexpr s_event_map k_ColorSpaceAdobeWideGamutRGBType_attributes[] = {
-    attribute_event("Name", attribute_Name),
-    k_end_of_map,
-};
-constexpr s_event_map k_ColorSpaceAdobeWideGamutRGBType_elements[] = {
-    element_event("ColorSpaceSpecificationSpectrumTristimulus", element_ColorSpaceSpecificationSpectrumTristimulus),
-    element_event("Red", element_Red),
-    element_event("Green", element_Green),
-    element_event("Blue", element_Blue),
-    element_event("Alpha", element_Alpha),
-    element_event("ColorDepth", element_ColorDepth),
-    k_end_of_map,
-};
-constinit const s_item ColorSpaceAdobeWideGamutRGBType::k_items[] = {
-    {item_kind::attribute, value_kind::text, use_name, ELMX_WS_PRESERVE, "Name", attribute_Name, LMX_OFFSET(ColorSpaceAdobeWideGamutRGBType, m_Name, attribute, text), LMX_FLAG(ColorSpaceAdobeWideGamutRGBType, m_isset_Name)},
-    {item_kind::child, value_kind::none, use_required, ELMX_WS_PRESERVE, "Vyr:ColorSpaceSpecificationSpectrumTristimulus", element_ColorSpaceSpecificationSpectrumTristimulus, LMX_OFFSET(ColorSpaceAdobeWideGamutRGBType, m_ColorSpaceSpecificationSpectrumTristimulus, child, none), LMX_FLAG(ColorSpaceAdobeWideGamutRGBType, m_isset_ColorSpaceSpecificationSpectrumTristimulus), position_of(k_ColorSpaceAdobeWideGamutRGBType_elements, element_ColorSpaceSpecificationSpectrumTristimulus), 1, &ColorSpaceSpecificationSpectrumTristimulus::k_class},
-    {item_kind::element, value_kind::number, use_required, ELMX_WS_COLLAPSE, "Vyr:Red", element_Red, LMX_OFFSET(ColorSpaceAdobeWideGamutRGBType, m_Red, element, number), LMX_FLAG(ColorSpaceAdobeWideGamutRGBType, m_isset_Red), position_of(k_ColorSpaceAdobeWideGamutRGBType_elements, element_Red), 1, nullptr, &facets::Fraction},
-    {item_kind::element, value_kind::number, use_required, ELMX_WS_COLLAPSE, "Vyr:Green", element_Green, LMX_OFFSET(ColorSpaceAdobeWideGamutRGBType, m_Green, element, number), LMX_FLAG(ColorSpaceAdobeWideGamutRGBType, m_isset_Green), position_of(k_ColorSpaceAdobeWideGamutRGBType_elements, element_Green), 1, nullptr, &facets::Fraction},
-    {item_kind::element, value_kind::number, use_required, ELMX_WS_COLLAPSE, "Vyr:Blue", element_Blue, LMX_OFFSET(ColorSpaceAdobeWideGamutRGBType, m_Blue, element, number), LMX_FLAG(ColorSpaceAdobeWideGamutRGBType, m_isset_Blue), position_of(k_ColorSpaceAdobeWideGamutRGBType_elements, element_Blue), 1, nullptr, &facets::Fraction},
-    {item_kind::element, value_kind::number, use_optional, ELMX_WS_COLLAPSE, "Vyr:Alpha", element_Alpha, LMX_OFFSET(ColorSpaceAdobeWideGamutRGBType, m_Alpha, element, number), LMX_FLAG(ColorSpaceAdobeWideGamutRGBType, m_isset_Alpha), position_of(k_ColorSpaceAdobeWideGamutRGBType_elements, element_Alpha), 1, nullptr, &facets::Fraction},
-    {item_kind::element, value_kind::enumerated, use_required, ELMX_WS_PRESERVE, "Vyr:ColorDepth", element_ColorDepth, LMX_OFFSET(ColorSpaceAdobeWideGamutRGBType, m_ColorDepth, element, enumerated), LMX_FLAG(ColorSpaceAdobeWideGamutRGBType, m_isset_ColorDepth), position_of(k_ColorSpaceAdobeWideGamutRGBType_elements, element_ColorDepth), 1, nullptr, &facets::ColorDepthKind},
+constexpr s_item ColorSpaceAdobeWideGamutRGBType::k_items[] = {
+    {item_kind::attribute, value_kind::text, use_name, ELMX_WS_PRESERVE, "Name", attribute("Name"), LMX_OFFSET(ColorSpaceAdobeWideGamutRGBType, m_Name, attribute, text), LMX_FLAG(ColorSpaceAdobeWideGamutRGBType, m_isset_Name)},
+    {item_kind::child, value_kind::none, use_required, ELMX_WS_PRESERVE, "Vyr:ColorSpaceSpecificationSpectrumTristimulus", element("ColorSpaceSpecificationSpectrumTristimulus"), LMX_OFFSET(ColorSpaceAdobeWideGamutRGBType, m_ColorSpaceSpecificationSpectrumTristimulus, child, none), LMX_FLAG(ColorSpaceAdobeWideGamutRGBType, m_isset_ColorSpaceSpecificationSpectrumTristimulus), &ColorSpaceSpecificationSpectrumTristimulus::k_class},
+    {item_kind::element, value_kind::number, use_required, ELMX_WS_COLLAPSE, "Vyr:Red", element("Red"), LMX_OFFSET(ColorSpaceAdobeWideGamutRGBType, m_Red, element, number), LMX_FLAG(ColorSpaceAdobeWideGamutRGBType, m_isset_Red), nullptr, &facets::Fraction},
+    {item_kind::element, value_kind::number, use_required, ELMX_WS_COLLAPSE, "Vyr:Green", element("Green"), LMX_OFFSET(ColorSpaceAdobeWideGamutRGBType, m_Green, element, number), LMX_FLAG(ColorSpaceAdobeWideGamutRGBType, m_isset_Green), nullptr, &facets::Fraction},
+    {item_kind::element, value_kind::number, use_required, ELMX_WS_COLLAPSE, "Vyr:Blue", element("Blue"), LMX_OFFSET(ColorSpaceAdobeWideGamutRGBType, m_Blue, element, number), LMX_FLAG(ColorSpaceAdobeWideGamutRGBType, m_isset_Blue), nullptr, &facets::Fraction},
+    {item_kind::element, value_kind::number, use_optional, ELMX_WS_COLLAPSE, "Vyr:Alpha", element("Alpha"), LMX_OFFSET(ColorSpaceAdobeWideGamutRGBType, m_Alpha, element, number), LMX_FLAG(ColorSpaceAdobeWideGamutRGBType, m_isset_Alpha), nullptr, &facets::Fraction},
+    {item_kind::element, value_kind::enumerated, use_required, ELMX_WS_PRESERVE, "Vyr:ColorDepth", element("ColorDepth"), LMX_OFFSET(ColorSpaceAdobeWideGamutRGBType, m_ColorDepth, element, enumerated), LMX_FLAG(ColorSpaceAdobeWideGamutRGBType, m_isset_ColorDepth), nullptr, &facets::ColorDepthKind},
 };
 constinit const s_class ColorSpaceAdobeWideGamutRGBType::k_class = {
     .name = "ColorSpaceAdobeWideGamutRGBType",
     .qualified_name = "Vyr:ColorSpaceAdobeWideGamutRGBType",
     .base = &ColorSpaceType::k_class,
     .content = content_kind::children,
+    .names = &k_names,
     .ns_map = k_ns_map,
     .id = &ColorSpaceAdobeWideGamutRGBType::id,
-    .attributes = std::span(k_items).first(std::size(k_ColorSpaceAdobeWideGamutRGBType_attributes) - 1),
-    .elements = std::span(k_items).subspan(std::size(k_ColorSpaceAdobeWideGamutRGBType_attributes) - 1),
-    .attribute_map = k_ColorSpaceAdobeWideGamutRGBType_attributes,
-    .element_map = k_ColorSpaceAdobeWideGamutRGBType_elements,
+    .attributes = std::span(k_items).first(attribute_count(k_items)),
+    .elements = std::span(k_items).subspan(attribute_count(k_items)),
     .operations = &k_operations<ColorSpaceAdobeWideGamutRGBType>,
 };
 
@@ -268,27 +211,14 @@ bool ColorSpaceAdobeWideGamutRGBType::setenum_ColorDepth(std::int32_t number) { 
 
 // ColorSpaceCMYKType
 
-constexpr s_event_map k_ColorSpaceCMYKType_attributes[] = {
-    attribute_event("Name", attribute_Name),
-    k_end_of_map,
-};
-constexpr s_event_map k_ColorSpaceCMYKType_elements[] = {
-    element_event("ColorSpaceSpecificationSpectrumGeneric", element_ColorSpaceSpecificationSpectrumGeneric),
-    element_event("Cyan", element_Cyan),
-    element_event("Magenta", element_Magenta),
-    element_event("Yellow", element_Yellow),
-    element_event("Black", element_Black),
-    element_event("SpotColor", element_SpotColor),
-    k_end_of_map,
-};
-constinit const s_item ColorSpaceCMYKType::k_items[] = {
-    {item_kind::attribute, value_kind::text, use_name, ELMX_WS_PRESERVE, "Name", attribute_Name, LMX_OFFSET(ColorSpaceCMYKType, m_Name, attribute, text), LMX_FLAG(ColorSpaceCMYKType, m_isset_Name)},
-    {item_kind::child, value_kind::none, use_required, ELMX_WS_PRESERVE, "Vyr:ColorSpaceSpecificationSpectrumGeneric", element_ColorSpaceSpecificationSpectrumGeneric, LMX_OFFSET(ColorSpaceCMYKType, m_ColorSpaceSpecificationSpectrumGeneric, child, none), LMX_FLAG(ColorSpaceCMYKType, m_isset_ColorSpaceSpecificationSpectrumGeneric), position_of(k_ColorSpaceCMYKType_elements, element_ColorSpaceSpecificationSpectrumGeneric), 1, &ColorSpaceSpecificationSpectrumGeneric::k_class},
-    {item_kind::element, value_kind::number, use_required, ELMX_WS_COLLAPSE, "Vyr:Cyan", element_Cyan, LMX_OFFSET(ColorSpaceCMYKType, m_Cyan, element, number), LMX_FLAG(ColorSpaceCMYKType, m_isset_Cyan), position_of(k_ColorSpaceCMYKType_elements, element_Cyan), 1, nullptr, &facets::Percentage},
-    {item_kind::element, value_kind::number, use_required, ELMX_WS_COLLAPSE, "Vyr:Magenta", element_Magenta, LMX_OFFSET(ColorSpaceCMYKType, m_Magenta, element, number), LMX_FLAG(ColorSpaceCMYKType, m_isset_Magenta), position_of(k_ColorSpaceCMYKType_elements, element_Magenta), 1, nullptr, &facets::Percentage},
-    {item_kind::element, value_kind::number, use_required, ELMX_WS_COLLAPSE, "Vyr:Yellow", element_Yellow, LMX_OFFSET(ColorSpaceCMYKType, m_Yellow, element, number), LMX_FLAG(ColorSpaceCMYKType, m_isset_Yellow), position_of(k_ColorSpaceCMYKType_elements, element_Yellow), 1, nullptr, &facets::Percentage},
-    {item_kind::element, value_kind::number, use_required, ELMX_WS_COLLAPSE, "Vyr:Black", element_Black, LMX_OFFSET(ColorSpaceCMYKType, m_Black, element, number), LMX_FLAG(ColorSpaceCMYKType, m_isset_Black), position_of(k_ColorSpaceCMYKType_elements, element_Black), 1, nullptr, &facets::Percentage},
-    {item_kind::child_list, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:SpotColor", element_SpotColor, LMX_OFFSET(ColorSpaceCMYKType, m_SpotColor, child_list, none), k_no_flag, position_of(k_ColorSpaceCMYKType_elements, element_SpotColor), 1, &SpotColorType::k_class},
+constexpr s_item ColorSpaceCMYKType::k_items[] = {
+    {item_kind::attribute, value_kind::text, use_name, ELMX_WS_PRESERVE, "Name", attribute("Name"), LMX_OFFSET(ColorSpaceCMYKType, m_Name, attribute, text), LMX_FLAG(ColorSpaceCMYKType, m_isset_Name)},
+    {item_kind::child, value_kind::none, use_required, ELMX_WS_PRESERVE, "Vyr:ColorSpaceSpecificationSpectrumGeneric", element("ColorSpaceSpecificationSpectrumGeneric"), LMX_OFFSET(ColorSpaceCMYKType, m_ColorSpaceSpecificationSpectrumGeneric, child, none), LMX_FLAG(ColorSpaceCMYKType, m_isset_ColorSpaceSpecificationSpectrumGeneric), &ColorSpaceSpecificationSpectrumGeneric::k_class},
+    {item_kind::element, value_kind::number, use_required, ELMX_WS_COLLAPSE, "Vyr:Cyan", element("Cyan"), LMX_OFFSET(ColorSpaceCMYKType, m_Cyan, element, number), LMX_FLAG(ColorSpaceCMYKType, m_isset_Cyan), nullptr, &facets::Percentage},
+    {item_kind::element, value_kind::number, use_required, ELMX_WS_COLLAPSE, "Vyr:Magenta", element("Magenta"), LMX_OFFSET(ColorSpaceCMYKType, m_Magenta, element, number), LMX_FLAG(ColorSpaceCMYKType, m_isset_Magenta), nullptr, &facets::Percentage},
+    {item_kind::element, value_kind::number, use_required, ELMX_WS_COLLAPSE, "Vyr:Yellow", element("Yellow"), LMX_OFFSET(ColorSpaceCMYKType, m_Yellow, element, number), LMX_FLAG(ColorSpaceCMYKType, m_isset_Yellow), nullptr, &facets::Percentage},
+    {item_kind::element, value_kind::number, use_required, ELMX_WS_COLLAPSE, "Vyr:Black", element("Black"), LMX_OFFSET(ColorSpaceCMYKType, m_Black, element, number), LMX_FLAG(ColorSpaceCMYKType, m_isset_Black), nullptr, &facets::Percentage},
+    {item_kind::child_list, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:SpotColor", element("SpotColor"), LMX_OFFSET(ColorSpaceCMYKType, m_SpotColor, child_list, none), k_no_flag, &SpotColorType::k_class},
 };
 constinit const s_factory_row ColorSpaceCMYKType::k_factory[] = {
     {"ColorSpaceCMYKType", &ColorSpaceCMYKType::k_class},
@@ -299,12 +229,11 @@ constinit const s_class ColorSpaceCMYKType::k_class = {
     .qualified_name = "Vyr:ColorSpaceCMYKType",
     .base = &ColorSpaceType::k_class,
     .content = content_kind::children,
+    .names = &k_names,
     .ns_map = k_ns_map,
     .id = &ColorSpaceCMYKType::id,
-    .attributes = std::span(k_items).first(std::size(k_ColorSpaceCMYKType_attributes) - 1),
-    .elements = std::span(k_items).subspan(std::size(k_ColorSpaceCMYKType_attributes) - 1),
-    .attribute_map = k_ColorSpaceCMYKType_attributes,
-    .element_map = k_ColorSpaceCMYKType_elements,
+    .attributes = std::span(k_items).first(attribute_count(k_items)),
+    .elements = std::span(k_items).subspan(attribute_count(k_items)),
     .operations = &k_operations<ColorSpaceCMYKType>,
 };
 
@@ -338,24 +267,19 @@ ColorSpaceCMYKType* ColorSpaceCMYKType::factory(int ns_id, const std::string& na
 
 // ColorSpaceCMYKPlusNType
 
-constexpr s_event_map k_ColorSpaceCMYKPlusNType_elements[] = {
-    element_event("ColorSpaceName", element_ColorSpaceName),
-    element_event("Color", element_Color),
-    k_end_of_map,
-};
-constinit const s_item ColorSpaceCMYKPlusNType::k_items[] = {
-    {item_kind::element, value_kind::text, use_optional, ELMX_WS_PRESERVE, "Vyr:ColorSpaceName", element_ColorSpaceName, LMX_OFFSET(ColorSpaceCMYKPlusNType, m_ColorSpaceName, element, text), LMX_FLAG(ColorSpaceCMYKPlusNType, m_isset_ColorSpaceName), position_of(k_ColorSpaceCMYKPlusNType_elements, element_ColorSpaceName), 1},
-    {item_kind::child_list, value_kind::none, use_demanded | use_asked, ELMX_WS_PRESERVE, "Vyr:Color", element_Color, LMX_OFFSET(ColorSpaceCMYKPlusNType, m_Color, child_list, none), k_no_flag, position_of(k_ColorSpaceCMYKPlusNType_elements, element_Color), 1, &Color::k_class},
+constexpr s_item ColorSpaceCMYKPlusNType::k_items[] = {
+    {item_kind::element, value_kind::text, use_optional, ELMX_WS_PRESERVE, "Vyr:ColorSpaceName", element("ColorSpaceName"), LMX_OFFSET(ColorSpaceCMYKPlusNType, m_ColorSpaceName, element, text), LMX_FLAG(ColorSpaceCMYKPlusNType, m_isset_ColorSpaceName)},
+    {item_kind::child_list, value_kind::none, use_demanded | use_asked, ELMX_WS_PRESERVE, "Vyr:Color", element("Color"), LMX_OFFSET(ColorSpaceCMYKPlusNType, m_Color, child_list, none), k_no_flag, &Color::k_class},
 };
 constinit const s_class ColorSpaceCMYKPlusNType::k_class = {
     .name = "ColorSpaceCMYKPlusNType",
     .qualified_name = "Vyr:ColorSpaceCMYKPlusNType",
     .base = &ColorSpaceCMYKType::k_class,
     .content = content_kind::children,
+    .names = &k_names,
     .ns_map = k_ns_map,
     .id = &ColorSpaceCMYKPlusNType::id,
     .elements = k_items,
-    .element_map = k_ColorSpaceCMYKPlusNType_elements,
     .operations = &k_operations<ColorSpaceCMYKPlusNType>,
 };
 
@@ -383,21 +307,16 @@ void ColorSpaceCMYKPlusNType::clear_Color() { m_Color.clear(); }
 
 // Color
 
-constexpr s_event_map k_Color_elements[] = {
-    element_event("Name", element_Name),
-    element_event("Value", element_Value),
-    k_end_of_map,
-};
-constinit const s_item Color::k_items[] = {
-    {item_kind::element, value_kind::text, use_required | use_name, ELMX_WS_PRESERVE, "Vyr:Name", element_Name, LMX_OFFSET(Color, m_Name, element, text), LMX_FLAG(Color, m_isset_Name), position_of(k_Color_elements, element_Name), 1},
-    {item_kind::element, value_kind::number, use_required, ELMX_WS_COLLAPSE, "Vyr:Value", element_Value, LMX_OFFSET(Color, m_Value, element, number), LMX_FLAG(Color, m_isset_Value), position_of(k_Color_elements, element_Value), 1},
+constexpr s_item Color::k_items[] = {
+    {item_kind::element, value_kind::text, use_required | use_name, ELMX_WS_PRESERVE, "Vyr:Name", element("Name"), LMX_OFFSET(Color, m_Name, element, text), LMX_FLAG(Color, m_isset_Name)},
+    {item_kind::element, value_kind::number, use_required, ELMX_WS_COLLAPSE, "Vyr:Value", element("Value"), LMX_OFFSET(Color, m_Value, element, number), LMX_FLAG(Color, m_isset_Value)},
 };
 constinit const s_class Color::k_class = {
     .name = "Color",
     .qualified_name = "Vyr:Color",
     .content = content_kind::children,
+    .names = &k_names,
     .elements = k_items,
-    .element_map = k_Color_elements,
     .operations = &k_operations<Color>,
 };
 
@@ -415,43 +334,27 @@ lmx::elmx_error Color::set_Value(double value) { return lmx::set_item(k_class, k
 
 // ColorSpaceTINTORAOctavanticType
 
-constexpr s_event_map k_ColorSpaceTINTORAOctavanticType_attributes[] = {
-    attribute_event("Name", attribute_Name),
-    k_end_of_map,
-};
-constexpr s_event_map k_ColorSpaceTINTORAOctavanticType_elements[] = {
-    element_event("ColorSpaceSpecificationSpectrumGeneric", element_ColorSpaceSpecificationSpectrumGeneric),
-    element_event("Cyan", element_Cyan),
-    element_event("Magenta", element_Magenta),
-    element_event("Yellow", element_Yellow),
-    element_event("Black", element_Black),
-    element_event("Orange", element_Orange),
-    element_event("Green", element_Green),
-    element_event("SpotColor", element_SpotColor),
-    k_end_of_map,
-};
-constinit const s_item ColorSpaceTINTORAOctavanticType::k_items[] = {
-    {item_kind::attribute, value_kind::text, use_name, ELMX_WS_PRESERVE, "Name", attribute_Name, LMX_OFFSET(ColorSpaceTINTORAOctavanticType, m_Name, attribute, text), LMX_FLAG(ColorSpaceTINTORAOctavanticType, m_isset_Name)},
-    {item_kind::child, value_kind::none, use_required, ELMX_WS_PRESERVE, "Vyr:ColorSpaceSpecificationSpectrumGeneric", element_ColorSpaceSpecificationSpectrumGeneric, LMX_OFFSET(ColorSpaceTINTORAOctavanticType, m_ColorSpaceSpecificationSpectrumGeneric, child, none), LMX_FLAG(ColorSpaceTINTORAOctavanticType, m_isset_ColorSpaceSpecificationSpectrumGeneric), position_of(k_ColorSpaceTINTORAOctavanticType_elements, element_ColorSpaceSpecificationSpectrumGeneric), 1, &ColorSpaceSpecificationSpectrumGeneric::k_class},
-    {item_kind::element, value_kind::number, use_required, ELMX_WS_COLLAPSE, "Vyr:Cyan", element_Cyan, LMX_OFFSET(ColorSpaceTINTORAOctavanticType, m_Cyan, element, number), LMX_FLAG(ColorSpaceTINTORAOctavanticType, m_isset_Cyan), position_of(k_ColorSpaceTINTORAOctavanticType_elements, element_Cyan), 1, nullptr, &facets::Percentage},
-    {item_kind::element, value_kind::number, use_required, ELMX_WS_COLLAPSE, "Vyr:Magenta", element_Magenta, LMX_OFFSET(ColorSpaceTINTORAOctavanticType, m_Magenta, element, number), LMX_FLAG(ColorSpaceTINTORAOctavanticType, m_isset_Magenta), position_of(k_ColorSpaceTINTORAOctavanticType_elements, element_Magenta), 1, nullptr, &facets::Percentage},
-    {item_kind::element, value_kind::number, use_required, ELMX_WS_COLLAPSE, "Vyr:Yellow", element_Yellow, LMX_OFFSET(ColorSpaceTINTORAOctavanticType, m_Yellow, element, number), LMX_FLAG(ColorSpaceTINTORAOctavanticType, m_isset_Yellow), position_of(k_ColorSpaceTINTORAOctavanticType_elements, element_Yellow), 1, nullptr, &facets::Percentage},
-    {item_kind::element, value_kind::number, use_required, ELMX_WS_COLLAPSE, "Vyr:Black", element_Black, LMX_OFFSET(ColorSpaceTINTORAOctavanticType, m_Black, element, number), LMX_FLAG(ColorSpaceTINTORAOctavanticType, m_isset_Black), position_of(k_ColorSpaceTINTORAOctavanticType_elements, element_Black), 1, nullptr, &facets::Percentage},
-    {item_kind::element, value_kind::number, use_required, ELMX_WS_COLLAPSE, "Vyr:Orange", element_Orange, LMX_OFFSET(ColorSpaceTINTORAOctavanticType, m_Orange, element, number), LMX_FLAG(ColorSpaceTINTORAOctavanticType, m_isset_Orange), position_of(k_ColorSpaceTINTORAOctavanticType_elements, element_Orange), 1, nullptr, &facets::Percentage},
-    {item_kind::element, value_kind::number, use_required, ELMX_WS_COLLAPSE, "Vyr:Green", element_Green, LMX_OFFSET(ColorSpaceTINTORAOctavanticType, m_Green, element, number), LMX_FLAG(ColorSpaceTINTORAOctavanticType, m_isset_Green), position_of(k_ColorSpaceTINTORAOctavanticType_elements, element_Green), 1, nullptr, &facets::Percentage},
-    {item_kind::child_list, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:SpotColor", element_SpotColor, LMX_OFFSET(ColorSpaceTINTORAOctavanticType, m_SpotColor, child_list, none), k_no_flag, position_of(k_ColorSpaceTINTORAOctavanticType_elements, element_SpotColor), 1, &SpotColorType::k_class},
+constexpr s_item ColorSpaceTINTORAOctavanticType::k_items[] = {
+    {item_kind::attribute, value_kind::text, use_name, ELMX_WS_PRESERVE, "Name", attribute("Name"), LMX_OFFSET(ColorSpaceTINTORAOctavanticType, m_Name, attribute, text), LMX_FLAG(ColorSpaceTINTORAOctavanticType, m_isset_Name)},
+    {item_kind::child, value_kind::none, use_required, ELMX_WS_PRESERVE, "Vyr:ColorSpaceSpecificationSpectrumGeneric", element("ColorSpaceSpecificationSpectrumGeneric"), LMX_OFFSET(ColorSpaceTINTORAOctavanticType, m_ColorSpaceSpecificationSpectrumGeneric, child, none), LMX_FLAG(ColorSpaceTINTORAOctavanticType, m_isset_ColorSpaceSpecificationSpectrumGeneric), &ColorSpaceSpecificationSpectrumGeneric::k_class},
+    {item_kind::element, value_kind::number, use_required, ELMX_WS_COLLAPSE, "Vyr:Cyan", element("Cyan"), LMX_OFFSET(ColorSpaceTINTORAOctavanticType, m_Cyan, element, number), LMX_FLAG(ColorSpaceTINTORAOctavanticType, m_isset_Cyan), nullptr, &facets::Percentage},
+    {item_kind::element, value_kind::number, use_required, ELMX_WS_COLLAPSE, "Vyr:Magenta", element("Magenta"), LMX_OFFSET(ColorSpaceTINTORAOctavanticType, m_Magenta, element, number), LMX_FLAG(ColorSpaceTINTORAOctavanticType, m_isset_Magenta), nullptr, &facets::Percentage},
+    {item_kind::element, value_kind::number, use_required, ELMX_WS_COLLAPSE, "Vyr:Yellow", element("Yellow"), LMX_OFFSET(ColorSpaceTINTORAOctavanticType, m_Yellow, element, number), LMX_FLAG(ColorSpaceTINTORAOctavanticType, m_isset_Yellow), nullptr, &facets::Percentage},
+    {item_kind::element, value_kind::number, use_required, ELMX_WS_COLLAPSE, "Vyr:Black", element("Black"), LMX_OFFSET(ColorSpaceTINTORAOctavanticType, m_Black, element, number), LMX_FLAG(ColorSpaceTINTORAOctavanticType, m_isset_Black), nullptr, &facets::Percentage},
+    {item_kind::element, value_kind::number, use_required, ELMX_WS_COLLAPSE, "Vyr:Orange", element("Orange"), LMX_OFFSET(ColorSpaceTINTORAOctavanticType, m_Orange, element, number), LMX_FLAG(ColorSpaceTINTORAOctavanticType, m_isset_Orange), nullptr, &facets::Percentage},
+    {item_kind::element, value_kind::number, use_required, ELMX_WS_COLLAPSE, "Vyr:Green", element("Green"), LMX_OFFSET(ColorSpaceTINTORAOctavanticType, m_Green, element, number), LMX_FLAG(ColorSpaceTINTORAOctavanticType, m_isset_Green), nullptr, &facets::Percentage},
+    {item_kind::child_list, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:SpotColor", element("SpotColor"), LMX_OFFSET(ColorSpaceTINTORAOctavanticType, m_SpotColor, child_list, none), k_no_flag, &SpotColorType::k_class},
 };
 constinit const s_class ColorSpaceTINTORAOctavanticType::k_class = {
     .name = "ColorSpaceTINTORAOctavanticType",
     .qualified_name = "Vyr:ColorSpaceTINTORAOctavanticType",
     .base = &ColorSpaceType::k_class,
     .content = content_kind::children,
+    .names = &k_names,
     .ns_map = k_ns_map,
     .id = &ColorSpaceTINTORAOctavanticType::id,
-    .attributes = std::span(k_items).first(std::size(k_ColorSpaceTINTORAOctavanticType_attributes) - 1),
-    .elements = std::span(k_items).subspan(std::size(k_ColorSpaceTINTORAOctavanticType_attributes) - 1),
-    .attribute_map = k_ColorSpaceTINTORAOctavanticType_attributes,
-    .element_map = k_ColorSpaceTINTORAOctavanticType_elements,
+    .attributes = std::span(k_items).first(attribute_count(k_items)),
+    .elements = std::span(k_items).subspan(attribute_count(k_items)),
     .operations = &k_operations<ColorSpaceTINTORAOctavanticType>,
 };
 
@@ -486,35 +389,23 @@ void ColorSpaceTINTORAOctavanticType::clear_SpotColor() { m_SpotColor.clear(); }
 
 // ColorSpaceHSLType
 
-constexpr s_event_map k_ColorSpaceHSLType_attributes[] = {
-    attribute_event("Name", attribute_Name),
-    k_end_of_map,
-};
-constexpr s_event_map k_ColorSpaceHSLType_elements[] = {
-    element_event("ColorSpaceSpecificationSpectrumGeneric", element_ColorSpaceSpecificationSpectrumGeneric),
-    element_event("Hue", element_Hue),
-    element_event("Saturation", element_Saturation),
-    element_event("Lightness", element_Lightness),
-    k_end_of_map,
-};
-constinit const s_item ColorSpaceHSLType::k_items[] = {
-    {item_kind::attribute, value_kind::text, use_name, ELMX_WS_PRESERVE, "Name", attribute_Name, LMX_OFFSET(ColorSpaceHSLType, m_Name, attribute, text), LMX_FLAG(ColorSpaceHSLType, m_isset_Name)},
-    {item_kind::child, value_kind::none, use_required, ELMX_WS_PRESERVE, "Vyr:ColorSpaceSpecificationSpectrumGeneric", element_ColorSpaceSpecificationSpectrumGeneric, LMX_OFFSET(ColorSpaceHSLType, m_ColorSpaceSpecificationSpectrumGeneric, child, none), LMX_FLAG(ColorSpaceHSLType, m_isset_ColorSpaceSpecificationSpectrumGeneric), position_of(k_ColorSpaceHSLType_elements, element_ColorSpaceSpecificationSpectrumGeneric), 1, &ColorSpaceSpecificationSpectrumGeneric::k_class},
-    {item_kind::element, value_kind::number, use_required, ELMX_WS_COLLAPSE, "Vyr:Hue", element_Hue, LMX_OFFSET(ColorSpaceHSLType, m_Hue, element, number), LMX_FLAG(ColorSpaceHSLType, m_isset_Hue), position_of(k_ColorSpaceHSLType_elements, element_Hue), 1, nullptr, &facets::HueAngle},
-    {item_kind::element, value_kind::number, use_required, ELMX_WS_COLLAPSE, "Vyr:Saturation", element_Saturation, LMX_OFFSET(ColorSpaceHSLType, m_Saturation, element, number), LMX_FLAG(ColorSpaceHSLType, m_isset_Saturation), position_of(k_ColorSpaceHSLType_elements, element_Saturation), 1, nullptr, &facets::Fraction},
-    {item_kind::element, value_kind::number, use_required, ELMX_WS_COLLAPSE, "Vyr:Lightness", element_Lightness, LMX_OFFSET(ColorSpaceHSLType, m_Lightness, element, number), LMX_FLAG(ColorSpaceHSLType, m_isset_Lightness), position_of(k_ColorSpaceHSLType_elements, element_Lightness), 1, nullptr, &facets::Fraction},
+constexpr s_item ColorSpaceHSLType::k_items[] = {
+    {item_kind::attribute, value_kind::text, use_name, ELMX_WS_PRESERVE, "Name", attribute("Name"), LMX_OFFSET(ColorSpaceHSLType, m_Name, attribute, text), LMX_FLAG(ColorSpaceHSLType, m_isset_Name)},
+    {item_kind::child, value_kind::none, use_required, ELMX_WS_PRESERVE, "Vyr:ColorSpaceSpecificationSpectrumGeneric", element("ColorSpaceSpecificationSpectrumGeneric"), LMX_OFFSET(ColorSpaceHSLType, m_ColorSpaceSpecificationSpectrumGeneric, child, none), LMX_FLAG(ColorSpaceHSLType, m_isset_ColorSpaceSpecificationSpectrumGeneric), &ColorSpaceSpecificationSpectrumGeneric::k_class},
+    {item_kind::element, value_kind::number, use_required, ELMX_WS_COLLAPSE, "Vyr:Hue", element("Hue"), LMX_OFFSET(ColorSpaceHSLType, m_Hue, element, number), LMX_FLAG(ColorSpaceHSLType, m_isset_Hue), nullptr, &facets::HueAngle},
+    {item_kind::element, value_kind::number, use_required, ELMX_WS_COLLAPSE, "Vyr:Saturation", element("Saturation"), LMX_OFFSET(ColorSpaceHSLType, m_Saturation, element, number), LMX_FLAG(ColorSpaceHSLType, m_isset_Saturation), nullptr, &facets::Fraction},
+    {item_kind::element, value_kind::number, use_required, ELMX_WS_COLLAPSE, "Vyr:Lightness", element("Lightness"), LMX_OFFSET(ColorSpaceHSLType, m_Lightness, element, number), LMX_FLAG(ColorSpaceHSLType, m_isset_Lightness), nullptr, &facets::Fraction},
 };
 constinit const s_class ColorSpaceHSLType::k_class = {
     .name = "ColorSpaceHSLType",
     .qualified_name = "Vyr:ColorSpaceHSLType",
     .base = &ColorSpaceType::k_class,
     .content = content_kind::children,
+    .names = &k_names,
     .ns_map = k_ns_map,
     .id = &ColorSpaceHSLType::id,
-    .attributes = std::span(k_items).first(std::size(k_ColorSpaceHSLType_attributes) - 1),
-    .elements = std::span(k_items).subspan(std::size(k_ColorSpaceHSLType_attributes) - 1),
-    .attribute_map = k_ColorSpaceHSLType_attributes,
-    .element_map = k_ColorSpaceHSLType_elements,
+    .attributes = std::span(k_items).first(attribute_count(k_items)),
+    .elements = std::span(k_items).subspan(attribute_count(k_items)),
     .operations = &k_operations<ColorSpaceHSLType>,
 };
 
@@ -540,35 +431,23 @@ lmx::elmx_error ColorSpaceHSLType::set_Lightness(double value) { return lmx::set
 
 // ColorSpaceHSVType
 
-constexpr s_event_map k_ColorSpaceHSVType_attributes[] = {
-    attribute_event("Name", attribute_Name),
-    k_end_of_map,
-};
-constexpr s_event_map k_ColorSpaceHSVType_elements[] = {
-    element_event("ColorSpaceSpecificationSpectrumGeneric", element_ColorSpaceSpecificationSpectrumGeneric),
-    element_event("Hue", element_Hue),
-    element_event("Saturation", element_Saturation),
-    element_event("Value", element_Value),
-    k_end_of_map,
-};
-constinit const s_item ColorSpaceHSVType::k_items[] = {
-    {item_kind::attribute, value_kind::text, use_name, ELMX_WS_PRESERVE, "Name", attribute_Name, LMX_OFFSET(ColorSpaceHSVType, m_Name, attribute, text), LMX_FLAG(ColorSpaceHSVType, m_isset_Name)},
-    {item_kind::child, value_kind::none, use_required, ELMX_WS_PRESERVE, "Vyr:ColorSpaceSpecificationSpectrumGeneric", element_ColorSpaceSpecificationSpectrumGeneric, LMX_OFFSET(ColorSpaceHSVType, m_ColorSpaceSpecificationSpectrumGeneric, child, none), LMX_FLAG(ColorSpaceHSVType, m_isset_ColorSpaceSpecificationSpectrumGeneric), position_of(k_ColorSpaceHSVType_elements, element_ColorSpaceSpecificationSpectrumGeneric), 1, &ColorSpaceSpecificationSpectrumGeneric::k_class},
-    {item_kind::element, value_kind::number, use_required, ELMX_WS_COLLAPSE, "Vyr:Hue", element_Hue, LMX_OFFSET(ColorSpaceHSVType, m_Hue, element, number), LMX_FLAG(ColorSpaceHSVType, m_isset_Hue), position_of(k_ColorSpaceHSVType_elements, element_Hue), 1, nullptr, &facets::HueAngle},
-    {item_kind::element, value_kind::number, use_required, ELMX_WS_COLLAPSE, "Vyr:Saturation", element_Saturation, LMX_OFFSET(ColorSpaceHSVType, m_Saturation, element, number), LMX_FLAG(ColorSpaceHSVType, m_isset_Saturation), position_of(k_ColorSpaceHSVType_elements, element_Saturation), 1, nullptr, &facets::Fraction},
-    {item_kind::element, value_kind::number, use_required, ELMX_WS_COLLAPSE, "Vyr:Value", element_Value, LMX_OFFSET(ColorSpaceHSVType, m_Value, element, number), LMX_FLAG(ColorSpaceHSVType, m_isset_Value), position_of(k_ColorSpaceHSVType_elements, element_Value), 1, nullptr, &facets::Fraction},
+constexpr s_item ColorSpaceHSVType::k_items[] = {
+    {item_kind::attribute, value_kind::text, use_name, ELMX_WS_PRESERVE, "Name", attribute("Name"), LMX_OFFSET(ColorSpaceHSVType, m_Name, attribute, text), LMX_FLAG(ColorSpaceHSVType, m_isset_Name)},
+    {item_kind::child, value_kind::none, use_required, ELMX_WS_PRESERVE, "Vyr:ColorSpaceSpecificationSpectrumGeneric", element("ColorSpaceSpecificationSpectrumGeneric"), LMX_OFFSET(ColorSpaceHSVType, m_ColorSpaceSpecificationSpectrumGeneric, child, none), LMX_FLAG(ColorSpaceHSVType, m_isset_ColorSpaceSpecificationSpectrumGeneric), &ColorSpaceSpecificationSpectrumGeneric::k_class},
+    {item_kind::element, value_kind::number, use_required, ELMX_WS_COLLAPSE, "Vyr:Hue", element("Hue"), LMX_OFFSET(ColorSpaceHSVType, m_Hue, element, number), LMX_FLAG(ColorSpaceHSVType, m_isset_Hue), nullptr, &facets::HueAngle},
+    {item_kind::element, value_kind::number, use_required, ELMX_WS_COLLAPSE, "Vyr:Saturation", element("Saturation"), LMX_OFFSET(ColorSpaceHSVType, m_Saturation, element, number), LMX_FLAG(ColorSpaceHSVType, m_isset_Saturation), nullptr, &facets::Fraction},
+    {item_kind::element, value_kind::number, use_required, ELMX_WS_COLLAPSE, "Vyr:Value", element("Value"), LMX_OFFSET(ColorSpaceHSVType, m_Value, element, number), LMX_FLAG(ColorSpaceHSVType, m_isset_Value), nullptr, &facets::Fraction},
 };
 constinit const s_class ColorSpaceHSVType::k_class = {
     .name = "ColorSpaceHSVType",
     .qualified_name = "Vyr:ColorSpaceHSVType",
     .base = &ColorSpaceType::k_class,
     .content = content_kind::children,
+    .names = &k_names,
     .ns_map = k_ns_map,
     .id = &ColorSpaceHSVType::id,
-    .attributes = std::span(k_items).first(std::size(k_ColorSpaceHSVType_attributes) - 1),
-    .elements = std::span(k_items).subspan(std::size(k_ColorSpaceHSVType_attributes) - 1),
-    .attribute_map = k_ColorSpaceHSVType_attributes,
-    .element_map = k_ColorSpaceHSVType_elements,
+    .attributes = std::span(k_items).first(attribute_count(k_items)),
+    .elements = std::span(k_items).subspan(attribute_count(k_items)),
     .operations = &k_operations<ColorSpaceHSVType>,
 };
 
@@ -594,35 +473,23 @@ lmx::elmx_error ColorSpaceHSVType::set_Value(double value) { return lmx::set_ite
 
 // ColorSpaceYUVType
 
-constexpr s_event_map k_ColorSpaceYUVType_attributes[] = {
-    attribute_event("Name", attribute_Name),
-    k_end_of_map,
-};
-constexpr s_event_map k_ColorSpaceYUVType_elements[] = {
-    element_event("ColorSpaceSpecificationSpectrumGeneric", element_ColorSpaceSpecificationSpectrumGeneric),
-    element_event("Y", element_Y),
-    element_event("U", element_U),
-    element_event("V", element_V),
-    k_end_of_map,
-};
-constinit const s_item ColorSpaceYUVType::k_items[] = {
-    {item_kind::attribute, value_kind::text, use_name, ELMX_WS_PRESERVE, "Name", attribute_Name, LMX_OFFSET(ColorSpaceYUVType, m_Name, attribute, text), LMX_FLAG(ColorSpaceYUVType, m_isset_Name)},
-    {item_kind::child, value_kind::none, use_required, ELMX_WS_PRESERVE, "Vyr:ColorSpaceSpecificationSpectrumGeneric", element_ColorSpaceSpecificationSpectrumGeneric, LMX_OFFSET(ColorSpaceYUVType, m_ColorSpaceSpecificationSpectrumGeneric, child, none), LMX_FLAG(ColorSpaceYUVType, m_isset_ColorSpaceSpecificationSpectrumGeneric), position_of(k_ColorSpaceYUVType_elements, element_ColorSpaceSpecificationSpectrumGeneric), 1, &ColorSpaceSpecificationSpectrumGeneric::k_class},
-    {item_kind::element, value_kind::number, use_required, ELMX_WS_COLLAPSE, "Vyr:Y", element_Y, LMX_OFFSET(ColorSpaceYUVType, m_Y, element, number), LMX_FLAG(ColorSpaceYUVType, m_isset_Y), position_of(k_ColorSpaceYUVType_elements, element_Y), 1, nullptr, &facets::Fraction},
-    {item_kind::element, value_kind::number, use_required, ELMX_WS_COLLAPSE, "Vyr:U", element_U, LMX_OFFSET(ColorSpaceYUVType, m_U, element, number), LMX_FLAG(ColorSpaceYUVType, m_isset_U), position_of(k_ColorSpaceYUVType_elements, element_U), 1, nullptr, &facets::YUVChromaU},
-    {item_kind::element, value_kind::number, use_required, ELMX_WS_COLLAPSE, "Vyr:V", element_V, LMX_OFFSET(ColorSpaceYUVType, m_V, element, number), LMX_FLAG(ColorSpaceYUVType, m_isset_V), position_of(k_ColorSpaceYUVType_elements, element_V), 1, nullptr, &facets::YUVChromaV},
+constexpr s_item ColorSpaceYUVType::k_items[] = {
+    {item_kind::attribute, value_kind::text, use_name, ELMX_WS_PRESERVE, "Name", attribute("Name"), LMX_OFFSET(ColorSpaceYUVType, m_Name, attribute, text), LMX_FLAG(ColorSpaceYUVType, m_isset_Name)},
+    {item_kind::child, value_kind::none, use_required, ELMX_WS_PRESERVE, "Vyr:ColorSpaceSpecificationSpectrumGeneric", element("ColorSpaceSpecificationSpectrumGeneric"), LMX_OFFSET(ColorSpaceYUVType, m_ColorSpaceSpecificationSpectrumGeneric, child, none), LMX_FLAG(ColorSpaceYUVType, m_isset_ColorSpaceSpecificationSpectrumGeneric), &ColorSpaceSpecificationSpectrumGeneric::k_class},
+    {item_kind::element, value_kind::number, use_required, ELMX_WS_COLLAPSE, "Vyr:Y", element("Y"), LMX_OFFSET(ColorSpaceYUVType, m_Y, element, number), LMX_FLAG(ColorSpaceYUVType, m_isset_Y), nullptr, &facets::Fraction},
+    {item_kind::element, value_kind::number, use_required, ELMX_WS_COLLAPSE, "Vyr:U", element("U"), LMX_OFFSET(ColorSpaceYUVType, m_U, element, number), LMX_FLAG(ColorSpaceYUVType, m_isset_U), nullptr, &facets::YUVChromaU},
+    {item_kind::element, value_kind::number, use_required, ELMX_WS_COLLAPSE, "Vyr:V", element("V"), LMX_OFFSET(ColorSpaceYUVType, m_V, element, number), LMX_FLAG(ColorSpaceYUVType, m_isset_V), nullptr, &facets::YUVChromaV},
 };
 constinit const s_class ColorSpaceYUVType::k_class = {
     .name = "ColorSpaceYUVType",
     .qualified_name = "Vyr:ColorSpaceYUVType",
     .base = &ColorSpaceType::k_class,
     .content = content_kind::children,
+    .names = &k_names,
     .ns_map = k_ns_map,
     .id = &ColorSpaceYUVType::id,
-    .attributes = std::span(k_items).first(std::size(k_ColorSpaceYUVType_attributes) - 1),
-    .elements = std::span(k_items).subspan(std::size(k_ColorSpaceYUVType_attributes) - 1),
-    .attribute_map = k_ColorSpaceYUVType_attributes,
-    .element_map = k_ColorSpaceYUVType_elements,
+    .attributes = std::span(k_items).first(attribute_count(k_items)),
+    .elements = std::span(k_items).subspan(attribute_count(k_items)),
     .operations = &k_operations<ColorSpaceYUVType>,
 };
 
@@ -648,35 +515,23 @@ lmx::elmx_error ColorSpaceYUVType::set_V(double value) { return lmx::set_item(k_
 
 // ColorSpaceYIQType
 
-constexpr s_event_map k_ColorSpaceYIQType_attributes[] = {
-    attribute_event("Name", attribute_Name),
-    k_end_of_map,
-};
-constexpr s_event_map k_ColorSpaceYIQType_elements[] = {
-    element_event("ColorSpaceSpecificationSpectrumGeneric", element_ColorSpaceSpecificationSpectrumGeneric),
-    element_event("Y", element_Y),
-    element_event("I", element_I),
-    element_event("Q", element_Q),
-    k_end_of_map,
-};
-constinit const s_item ColorSpaceYIQType::k_items[] = {
-    {item_kind::attribute, value_kind::text, use_name, ELMX_WS_PRESERVE, "Name", attribute_Name, LMX_OFFSET(ColorSpaceYIQType, m_Name, attribute, text), LMX_FLAG(ColorSpaceYIQType, m_isset_Name)},
-    {item_kind::child, value_kind::none, use_required, ELMX_WS_PRESERVE, "Vyr:ColorSpaceSpecificationSpectrumGeneric", element_ColorSpaceSpecificationSpectrumGeneric, LMX_OFFSET(ColorSpaceYIQType, m_ColorSpaceSpecificationSpectrumGeneric, child, none), LMX_FLAG(ColorSpaceYIQType, m_isset_ColorSpaceSpecificationSpectrumGeneric), position_of(k_ColorSpaceYIQType_elements, element_ColorSpaceSpecificationSpectrumGeneric), 1, &ColorSpaceSpecificationSpectrumGeneric::k_class},
-    {item_kind::element, value_kind::number, use_required, ELMX_WS_COLLAPSE, "Vyr:Y", element_Y, LMX_OFFSET(ColorSpaceYIQType, m_Y, element, number), LMX_FLAG(ColorSpaceYIQType, m_isset_Y), position_of(k_ColorSpaceYIQType_elements, element_Y), 1, nullptr, &facets::Fraction},
-    {item_kind::element, value_kind::number, use_required, ELMX_WS_COLLAPSE, "Vyr:I", element_I, LMX_OFFSET(ColorSpaceYIQType, m_I, element, number), LMX_FLAG(ColorSpaceYIQType, m_isset_I), position_of(k_ColorSpaceYIQType_elements, element_I), 1, nullptr, &facets::YIQInPhase},
-    {item_kind::element, value_kind::number, use_required, ELMX_WS_COLLAPSE, "Vyr:Q", element_Q, LMX_OFFSET(ColorSpaceYIQType, m_Q, element, number), LMX_FLAG(ColorSpaceYIQType, m_isset_Q), position_of(k_ColorSpaceYIQType_elements, element_Q), 1, nullptr, &facets::YIQQuadrature},
+constexpr s_item ColorSpaceYIQType::k_items[] = {
+    {item_kind::attribute, value_kind::text, use_name, ELMX_WS_PRESERVE, "Name", attribute("Name"), LMX_OFFSET(ColorSpaceYIQType, m_Name, attribute, text), LMX_FLAG(ColorSpaceYIQType, m_isset_Name)},
+    {item_kind::child, value_kind::none, use_required, ELMX_WS_PRESERVE, "Vyr:ColorSpaceSpecificationSpectrumGeneric", element("ColorSpaceSpecificationSpectrumGeneric"), LMX_OFFSET(ColorSpaceYIQType, m_ColorSpaceSpecificationSpectrumGeneric, child, none), LMX_FLAG(ColorSpaceYIQType, m_isset_ColorSpaceSpecificationSpectrumGeneric), &ColorSpaceSpecificationSpectrumGeneric::k_class},
+    {item_kind::element, value_kind::number, use_required, ELMX_WS_COLLAPSE, "Vyr:Y", element("Y"), LMX_OFFSET(ColorSpaceYIQType, m_Y, element, number), LMX_FLAG(ColorSpaceYIQType, m_isset_Y), nullptr, &facets::Fraction},
+    {item_kind::element, value_kind::number, use_required, ELMX_WS_COLLAPSE, "Vyr:I", element("I"), LMX_OFFSET(ColorSpaceYIQType, m_I, element, number), LMX_FLAG(ColorSpaceYIQType, m_isset_I), nullptr, &facets::YIQInPhase},
+    {item_kind::element, value_kind::number, use_required, ELMX_WS_COLLAPSE, "Vyr:Q", element("Q"), LMX_OFFSET(ColorSpaceYIQType, m_Q, element, number), LMX_FLAG(ColorSpaceYIQType, m_isset_Q), nullptr, &facets::YIQQuadrature},
 };
 constinit const s_class ColorSpaceYIQType::k_class = {
     .name = "ColorSpaceYIQType",
     .qualified_name = "Vyr:ColorSpaceYIQType",
     .base = &ColorSpaceType::k_class,
     .content = content_kind::children,
+    .names = &k_names,
     .ns_map = k_ns_map,
     .id = &ColorSpaceYIQType::id,
-    .attributes = std::span(k_items).first(std::size(k_ColorSpaceYIQType_attributes) - 1),
-    .elements = std::span(k_items).subspan(std::size(k_ColorSpaceYIQType_attributes) - 1),
-    .attribute_map = k_ColorSpaceYIQType_attributes,
-    .element_map = k_ColorSpaceYIQType_elements,
+    .attributes = std::span(k_items).first(attribute_count(k_items)),
+    .elements = std::span(k_items).subspan(attribute_count(k_items)),
     .operations = &k_operations<ColorSpaceYIQType>,
 };
 
@@ -702,35 +557,23 @@ lmx::elmx_error ColorSpaceYIQType::set_Q(double value) { return lmx::set_item(k_
 
 // ColorSpaceYBRType
 
-constexpr s_event_map k_ColorSpaceYBRType_attributes[] = {
-    attribute_event("Name", attribute_Name),
-    k_end_of_map,
-};
-constexpr s_event_map k_ColorSpaceYBRType_elements[] = {
-    element_event("ColorSpaceSpecificationSpectrumGeneric", element_ColorSpaceSpecificationSpectrumGeneric),
-    element_event("Y", element_Y),
-    element_event("B", element_B),
-    element_event("R", element_R),
-    k_end_of_map,
-};
-constinit const s_item ColorSpaceYBRType::k_items[] = {
-    {item_kind::attribute, value_kind::text, use_name, ELMX_WS_PRESERVE, "Name", attribute_Name, LMX_OFFSET(ColorSpaceYBRType, m_Name, attribute, text), LMX_FLAG(ColorSpaceYBRType, m_isset_Name)},
-    {item_kind::child, value_kind::none, use_required, ELMX_WS_PRESERVE, "Vyr:ColorSpaceSpecificationSpectrumGeneric", element_ColorSpaceSpecificationSpectrumGeneric, LMX_OFFSET(ColorSpaceYBRType, m_ColorSpaceSpecificationSpectrumGeneric, child, none), LMX_FLAG(ColorSpaceYBRType, m_isset_ColorSpaceSpecificationSpectrumGeneric), position_of(k_ColorSpaceYBRType_elements, element_ColorSpaceSpecificationSpectrumGeneric), 1, &ColorSpaceSpecificationSpectrumGeneric::k_class},
-    {item_kind::element, value_kind::number, use_required, ELMX_WS_COLLAPSE, "Vyr:Y", element_Y, LMX_OFFSET(ColorSpaceYBRType, m_Y, element, number), LMX_FLAG(ColorSpaceYBRType, m_isset_Y), position_of(k_ColorSpaceYBRType_elements, element_Y), 1, nullptr, &facets::Fraction},
-    {item_kind::element, value_kind::number, use_required, ELMX_WS_COLLAPSE, "Vyr:B", element_B, LMX_OFFSET(ColorSpaceYBRType, m_B, element, number), LMX_FLAG(ColorSpaceYBRType, m_isset_B), position_of(k_ColorSpaceYBRType_elements, element_B), 1, nullptr, &facets::Fraction},
-    {item_kind::element, value_kind::number, use_required, ELMX_WS_COLLAPSE, "Vyr:R", element_R, LMX_OFFSET(ColorSpaceYBRType, m_R, element, number), LMX_FLAG(ColorSpaceYBRType, m_isset_R), position_of(k_ColorSpaceYBRType_elements, element_R), 1, nullptr, &facets::Fraction},
+constexpr s_item ColorSpaceYBRType::k_items[] = {
+    {item_kind::attribute, value_kind::text, use_name, ELMX_WS_PRESERVE, "Name", attribute("Name"), LMX_OFFSET(ColorSpaceYBRType, m_Name, attribute, text), LMX_FLAG(ColorSpaceYBRType, m_isset_Name)},
+    {item_kind::child, value_kind::none, use_required, ELMX_WS_PRESERVE, "Vyr:ColorSpaceSpecificationSpectrumGeneric", element("ColorSpaceSpecificationSpectrumGeneric"), LMX_OFFSET(ColorSpaceYBRType, m_ColorSpaceSpecificationSpectrumGeneric, child, none), LMX_FLAG(ColorSpaceYBRType, m_isset_ColorSpaceSpecificationSpectrumGeneric), &ColorSpaceSpecificationSpectrumGeneric::k_class},
+    {item_kind::element, value_kind::number, use_required, ELMX_WS_COLLAPSE, "Vyr:Y", element("Y"), LMX_OFFSET(ColorSpaceYBRType, m_Y, element, number), LMX_FLAG(ColorSpaceYBRType, m_isset_Y), nullptr, &facets::Fraction},
+    {item_kind::element, value_kind::number, use_required, ELMX_WS_COLLAPSE, "Vyr:B", element("B"), LMX_OFFSET(ColorSpaceYBRType, m_B, element, number), LMX_FLAG(ColorSpaceYBRType, m_isset_B), nullptr, &facets::Fraction},
+    {item_kind::element, value_kind::number, use_required, ELMX_WS_COLLAPSE, "Vyr:R", element("R"), LMX_OFFSET(ColorSpaceYBRType, m_R, element, number), LMX_FLAG(ColorSpaceYBRType, m_isset_R), nullptr, &facets::Fraction},
 };
 constinit const s_class ColorSpaceYBRType::k_class = {
     .name = "ColorSpaceYBRType",
     .qualified_name = "Vyr:ColorSpaceYBRType",
     .base = &ColorSpaceType::k_class,
     .content = content_kind::children,
+    .names = &k_names,
     .ns_map = k_ns_map,
     .id = &ColorSpaceYBRType::id,
-    .attributes = std::span(k_items).first(std::size(k_ColorSpaceYBRType_attributes) - 1),
-    .elements = std::span(k_items).subspan(std::size(k_ColorSpaceYBRType_attributes) - 1),
-    .attribute_map = k_ColorSpaceYBRType_attributes,
-    .element_map = k_ColorSpaceYBRType_elements,
+    .attributes = std::span(k_items).first(attribute_count(k_items)),
+    .elements = std::span(k_items).subspan(attribute_count(k_items)),
     .operations = &k_operations<ColorSpaceYBRType>,
 };
 
@@ -960,22 +803,17 @@ lmx::elmx_error ColorSpaceYBR::unmarshal(lmx::c_xml_reader& reader, const std::s
 
 // SpotColorType
 
-constexpr s_event_map k_SpotColorType_elements[] = {
-    element_event("Name", element_Name),
-    element_event("Percentage", element_Percentage),
-    k_end_of_map,
-};
-constinit const s_item SpotColorType::k_items[] = {
-    {item_kind::element, value_kind::text, use_required | use_name, ELMX_WS_PRESERVE, "Vyr:Name", element_Name, LMX_OFFSET(SpotColorType, m_Name, element, text), LMX_FLAG(SpotColorType, m_isset_Name), position_of(k_SpotColorType_elements, element_Name), 1, nullptr, &facets::NonEmptyString},
-    {item_kind::element, value_kind::number, use_required, ELMX_WS_COLLAPSE, "Vyr:Percentage", element_Percentage, LMX_OFFSET(SpotColorType, m_Percentage, element, number), LMX_FLAG(SpotColorType, m_isset_Percentage), position_of(k_SpotColorType_elements, element_Percentage), 1, nullptr, &facets::Percentage},
+constexpr s_item SpotColorType::k_items[] = {
+    {item_kind::element, value_kind::text, use_required | use_name, ELMX_WS_PRESERVE, "Vyr:Name", element("Name"), LMX_OFFSET(SpotColorType, m_Name, element, text), LMX_FLAG(SpotColorType, m_isset_Name), nullptr, &facets::NonEmptyString},
+    {item_kind::element, value_kind::number, use_required, ELMX_WS_COLLAPSE, "Vyr:Percentage", element("Percentage"), LMX_OFFSET(SpotColorType, m_Percentage, element, number), LMX_FLAG(SpotColorType, m_isset_Percentage), nullptr, &facets::Percentage},
 };
 constinit const s_class SpotColorType::k_class = {
     .name = "SpotColorType",
     .qualified_name = "Vyr:SpotColorType",
     .content = content_kind::children,
+    .names = &k_names,
     .ns_map = k_ns_map,
     .elements = k_items,
-    .element_map = k_SpotColorType_elements,
     .operations = &k_operations<SpotColorType>,
 };
 

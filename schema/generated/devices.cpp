@@ -8,7 +8,6 @@
 
 #include "schema/generated/devices.h"
 #include "lmx/binding/binding.h"
-#include "lmx/binding/rows.h"
 #include "schema/generated/header.h"
 #include "schema/generated/tables.h"
 
@@ -19,26 +18,22 @@ namespace com_vyrgraph_v2 {
 
 using namespace lmx;  // for the tables' sake
 
-static_assert(k_binding_version == 5, "run schema/generator/generate.py");
+static_assert(k_binding_version == 6, "run schema/generator/generate.py");
 
 // CalibrationStateType
 
-constexpr s_event_map k_CalibrationStateType_attributes[] = {
-    attribute_event("CalibrationDateTime", attribute_CalibrationDateTime),
-    k_end_of_map,
-};
-constinit const s_item CalibrationStateType::k_items[] = {
-    {item_kind::attribute, value_kind::datetime, use_optional, ELMX_WS_COLLAPSE, "CalibrationDateTime", attribute_CalibrationDateTime, LMX_OFFSET(CalibrationStateType, m_CalibrationDateTime, attribute, datetime), LMX_FLAG(CalibrationStateType, m_isset_CalibrationDateTime), 0, 0, nullptr, &facets::DateTimeZone},
-    {item_kind::content, value_kind::enumerated, use_required, ELMX_WS_PRESERVE, "", 0, LMX_OFFSET(CalibrationStateType, m_CalibrationStateType, content, enumerated), LMX_FLAG(CalibrationStateType, m_isset_CalibrationStateType), 0, 0, nullptr, &facets::CalibrationKind},
+constexpr s_item CalibrationStateType::k_items[] = {
+    {item_kind::attribute, value_kind::datetime, use_optional, ELMX_WS_COLLAPSE, "CalibrationDateTime", attribute("CalibrationDateTime"), LMX_OFFSET(CalibrationStateType, m_CalibrationDateTime, attribute, datetime), LMX_FLAG(CalibrationStateType, m_isset_CalibrationDateTime), nullptr, &facets::DateTimeZone},
+    {item_kind::content, value_kind::enumerated, use_required, ELMX_WS_PRESERVE, "", 0, LMX_OFFSET(CalibrationStateType, m_CalibrationStateType, content, enumerated), LMX_FLAG(CalibrationStateType, m_isset_CalibrationStateType), nullptr, &facets::CalibrationKind},
 };
 constinit const s_class CalibrationStateType::k_class = {
     .name = "CalibrationStateType",
     .qualified_name = "Vyr:CalibrationStateType",
     .content = content_kind::simple,
+    .names = &k_names,
     .ns_map = k_ns_map,
-    .attributes = std::span(k_items).first(std::size(k_CalibrationStateType_attributes) - 1),
-    .elements = std::span(k_items).subspan(std::size(k_CalibrationStateType_attributes) - 1),
-    .attribute_map = k_CalibrationStateType_attributes,
+    .attributes = std::span(k_items).first(attribute_count(k_items)),
+    .elements = std::span(k_items).subspan(attribute_count(k_items)),
     .operations = &k_operations<CalibrationStateType>,
 };
 
@@ -57,21 +52,17 @@ bool CalibrationStateType::setenum_CalibrationStateType(std::int32_t number) { r
 
 // GlossCompensation
 
-constexpr s_event_map k_GlossCompensation_attributes[] = {
-    attribute_event("CompensationValue", attribute_CompensationValue),
-    k_end_of_map,
-};
-constinit const s_item GlossCompensation::k_items[] = {
-    {item_kind::attribute, value_kind::number, use_required, ELMX_WS_COLLAPSE, "CompensationValue", attribute_CompensationValue, LMX_OFFSET(GlossCompensation, m_CompensationValue, attribute, number), LMX_FLAG(GlossCompensation, m_isset_CompensationValue)},
+constexpr s_item GlossCompensation::k_items[] = {
+    {item_kind::attribute, value_kind::number, use_required, ELMX_WS_COLLAPSE, "CompensationValue", attribute("CompensationValue"), LMX_OFFSET(GlossCompensation, m_CompensationValue, attribute, number), LMX_FLAG(GlossCompensation, m_isset_CompensationValue)},
     {item_kind::content, value_kind::boolean, use_optional, ELMX_WS_COLLAPSE, "", 0, LMX_OFFSET(GlossCompensation, m_GlossCompensation, content, boolean), LMX_FLAG(GlossCompensation, m_isset_GlossCompensation)},
 };
 constinit const s_class GlossCompensation::k_class = {
     .name = "GlossCompensation",
     .qualified_name = "Vyr:GlossCompensation",
     .content = content_kind::simple,
-    .attributes = std::span(k_items).first(std::size(k_GlossCompensation_attributes) - 1),
-    .elements = std::span(k_items).subspan(std::size(k_GlossCompensation_attributes) - 1),
-    .attribute_map = k_GlossCompensation_attributes,
+    .names = &k_names,
+    .attributes = std::span(k_items).first(attribute_count(k_items)),
+    .elements = std::span(k_items).subspan(attribute_count(k_items)),
     .operations = &k_operations<GlossCompensation>,
 };
 
@@ -89,21 +80,17 @@ lmx::elmx_error GlossCompensation::set_GlossCompensation(bool value) { return lm
 
 // Averaging
 
-constexpr s_event_map k_Averaging_attributes[] = {
-    attribute_event("AveragingValue", attribute_AveragingValue),
-    k_end_of_map,
-};
-constinit const s_item Averaging::k_items[] = {
-    {item_kind::attribute, value_kind::uint8, use_required, ELMX_WS_COLLAPSE, "AveragingValue", attribute_AveragingValue, LMX_OFFSET(Averaging, m_AveragingValue, attribute, uint8), LMX_FLAG(Averaging, m_isset_AveragingValue), 0, 0, nullptr, &facets::AveragingCount},
+constexpr s_item Averaging::k_items[] = {
+    {item_kind::attribute, value_kind::uint8, use_required, ELMX_WS_COLLAPSE, "AveragingValue", attribute("AveragingValue"), LMX_OFFSET(Averaging, m_AveragingValue, attribute, uint8), LMX_FLAG(Averaging, m_isset_AveragingValue), nullptr, &facets::AveragingCount},
     {item_kind::content, value_kind::boolean, use_optional, ELMX_WS_COLLAPSE, "", 0, LMX_OFFSET(Averaging, m_Averaging, content, boolean), LMX_FLAG(Averaging, m_isset_Averaging)},
 };
 constinit const s_class Averaging::k_class = {
     .name = "Averaging",
     .qualified_name = "Vyr:Averaging",
     .content = content_kind::simple,
-    .attributes = std::span(k_items).first(std::size(k_Averaging_attributes) - 1),
-    .elements = std::span(k_items).subspan(std::size(k_Averaging_attributes) - 1),
-    .attribute_map = k_Averaging_attributes,
+    .names = &k_names,
+    .attributes = std::span(k_items).first(attribute_count(k_items)),
+    .elements = std::span(k_items).subspan(attribute_count(k_items)),
     .operations = &k_operations<Averaging>,
 };
 
@@ -121,32 +108,22 @@ lmx::elmx_error Averaging::set_Averaging(bool value) { return lmx::set_item(k_cl
 
 // DeviceSettings
 
-constexpr s_event_map k_DeviceSettings_elements[] = {
-    element_event("CustomAttribute", element_CustomAttribute),
-    element_event("Aperture", element_Aperture),
-    element_event("LensPosition", element_LensPosition),
-    element_event("GlassCompensation", element_GlassCompensation),
-    element_event("GlossCompensation", element_GlossCompensation),
-    element_event("Averaging", element_Averaging),
-    element_event("LinkTrimmer", element_LinkTrimmer),
-    k_end_of_map,
-};
-constinit const s_item DeviceSettings::k_items[] = {
-    {item_kind::child_list, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:CustomAttribute", element_CustomAttribute, LMX_OFFSET(DeviceSettings, m_CustomAttribute, child_list, none), k_no_flag, position_of(k_DeviceSettings_elements, element_CustomAttribute), 1, &CustomAttributeType::k_class},
-    {item_kind::element, value_kind::uint32, use_optional, ELMX_WS_COLLAPSE, "Vyr:Aperture", element_Aperture, LMX_OFFSET(DeviceSettings, m_Aperture, element, uint32), LMX_FLAG(DeviceSettings, m_isset_Aperture), position_of(k_DeviceSettings_elements, element_Aperture), 1, nullptr, &facets::PositiveInt32},
-    {item_kind::element, value_kind::int32, use_optional, ELMX_WS_COLLAPSE, "Vyr:LensPosition", element_LensPosition, LMX_OFFSET(DeviceSettings, m_LensPosition, element, int32), LMX_FLAG(DeviceSettings, m_isset_LensPosition), position_of(k_DeviceSettings_elements, element_LensPosition), 1, nullptr, &facets::Int32},
-    {item_kind::element, value_kind::boolean, use_optional, ELMX_WS_COLLAPSE, "Vyr:GlassCompensation", element_GlassCompensation, LMX_OFFSET(DeviceSettings, m_GlassCompensation, element, boolean), LMX_FLAG(DeviceSettings, m_isset_GlassCompensation), position_of(k_DeviceSettings_elements, element_GlassCompensation), 1},
-    {item_kind::optional_child, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:GlossCompensation", element_GlossCompensation, LMX_OFFSET(DeviceSettings, m_GlossCompensation, optional_child, none), LMX_FLAG(DeviceSettings, m_isset_GlossCompensation), position_of(k_DeviceSettings_elements, element_GlossCompensation), 1, &GlossCompensation::k_class},
-    {item_kind::optional_child, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:Averaging", element_Averaging, LMX_OFFSET(DeviceSettings, m_Averaging, optional_child, none), LMX_FLAG(DeviceSettings, m_isset_Averaging), position_of(k_DeviceSettings_elements, element_Averaging), 1, &Averaging::k_class},
-    {item_kind::element, value_kind::boolean, use_optional, ELMX_WS_COLLAPSE, "Vyr:LinkTrimmer", element_LinkTrimmer, LMX_OFFSET(DeviceSettings, m_LinkTrimmer, element, boolean), LMX_FLAG(DeviceSettings, m_isset_LinkTrimmer), position_of(k_DeviceSettings_elements, element_LinkTrimmer), 1},
+constexpr s_item DeviceSettings::k_items[] = {
+    {item_kind::child_list, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:CustomAttribute", element("CustomAttribute"), LMX_OFFSET(DeviceSettings, m_CustomAttribute, child_list, none), k_no_flag, &CustomAttributeType::k_class},
+    {item_kind::element, value_kind::uint32, use_optional, ELMX_WS_COLLAPSE, "Vyr:Aperture", element("Aperture"), LMX_OFFSET(DeviceSettings, m_Aperture, element, uint32), LMX_FLAG(DeviceSettings, m_isset_Aperture), nullptr, &facets::PositiveInt32},
+    {item_kind::element, value_kind::int32, use_optional, ELMX_WS_COLLAPSE, "Vyr:LensPosition", element("LensPosition"), LMX_OFFSET(DeviceSettings, m_LensPosition, element, int32), LMX_FLAG(DeviceSettings, m_isset_LensPosition), nullptr, &facets::Int32},
+    {item_kind::element, value_kind::boolean, use_optional, ELMX_WS_COLLAPSE, "Vyr:GlassCompensation", element("GlassCompensation"), LMX_OFFSET(DeviceSettings, m_GlassCompensation, element, boolean), LMX_FLAG(DeviceSettings, m_isset_GlassCompensation)},
+    {item_kind::optional_child, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:GlossCompensation", element("GlossCompensation"), LMX_OFFSET(DeviceSettings, m_GlossCompensation, optional_child, none), LMX_FLAG(DeviceSettings, m_isset_GlossCompensation), &GlossCompensation::k_class},
+    {item_kind::optional_child, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:Averaging", element("Averaging"), LMX_OFFSET(DeviceSettings, m_Averaging, optional_child, none), LMX_FLAG(DeviceSettings, m_isset_Averaging), &Averaging::k_class},
+    {item_kind::element, value_kind::boolean, use_optional, ELMX_WS_COLLAPSE, "Vyr:LinkTrimmer", element("LinkTrimmer"), LMX_OFFSET(DeviceSettings, m_LinkTrimmer, element, boolean), LMX_FLAG(DeviceSettings, m_isset_LinkTrimmer)},
 };
 constinit const s_class DeviceSettings::k_class = {
     .name = "DeviceSettings",
     .qualified_name = "Vyr:DeviceSettings",
     .content = content_kind::children,
     .may_be_empty = true,
+    .names = &k_names,
     .elements = k_items,
-    .element_map = k_DeviceSettings_elements,
     .operations = &k_operations<DeviceSettings>,
 };
 
@@ -178,36 +155,24 @@ lmx::elmx_error DeviceSettings::set_LinkTrimmer(bool value) { return lmx::set_it
 
 // DeviceType
 
-constexpr s_event_map k_DeviceType_elements[] = {
-    element_event("CustomAttribute", element_CustomAttribute),
-    element_event("Manufacturer", element_Manufacturer),
-    element_event("Model", element_Model),
-    element_event("SerialNumber", element_SerialNumber),
-    element_event("DeviceClass", element_DeviceClass),
-    element_event("FirmwareVersion", element_FirmwareVersion),
-    element_event("BootFirmwareVersion", element_BootFirmwareVersion),
-    element_event("CalibrationState", element_CalibrationState),
-    element_event("DeviceSettings", element_DeviceSettings),
-    k_end_of_map,
-};
-constinit const s_item DeviceType::k_items[] = {
-    {item_kind::child_list, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:CustomAttribute", element_CustomAttribute, LMX_OFFSET(DeviceType, m_CustomAttribute, child_list, none), k_no_flag, position_of(k_DeviceType_elements, element_CustomAttribute), 1, &CustomAttributeType::k_class},
-    {item_kind::element, value_kind::text, use_required, ELMX_WS_PRESERVE, "Vyr:Manufacturer", element_Manufacturer, LMX_OFFSET(DeviceType, m_Manufacturer, element, text), LMX_FLAG(DeviceType, m_isset_Manufacturer), position_of(k_DeviceType_elements, element_Manufacturer), 1},
-    {item_kind::element, value_kind::text, use_required, ELMX_WS_PRESERVE, "Vyr:Model", element_Model, LMX_OFFSET(DeviceType, m_Model, element, text), LMX_FLAG(DeviceType, m_isset_Model), position_of(k_DeviceType_elements, element_Model), 1},
-    {item_kind::element, value_kind::text, use_required, ELMX_WS_PRESERVE, "Vyr:SerialNumber", element_SerialNumber, LMX_OFFSET(DeviceType, m_SerialNumber, element, text), LMX_FLAG(DeviceType, m_isset_SerialNumber), position_of(k_DeviceType_elements, element_SerialNumber), 1},
-    {item_kind::element, value_kind::enumerated, use_optional, ELMX_WS_PRESERVE, "Vyr:DeviceClass", element_DeviceClass, LMX_OFFSET(DeviceType, m_DeviceClass, element, enumerated), LMX_FLAG(DeviceType, m_isset_DeviceClass), position_of(k_DeviceType_elements, element_DeviceClass), 1, nullptr, &facets::DeviceClassKind},
-    {item_kind::element, value_kind::text, use_optional, ELMX_WS_PRESERVE, "Vyr:FirmwareVersion", element_FirmwareVersion, LMX_OFFSET(DeviceType, m_FirmwareVersion, element, text), LMX_FLAG(DeviceType, m_isset_FirmwareVersion), position_of(k_DeviceType_elements, element_FirmwareVersion), 1},
-    {item_kind::element, value_kind::text, use_optional, ELMX_WS_PRESERVE, "Vyr:BootFirmwareVersion", element_BootFirmwareVersion, LMX_OFFSET(DeviceType, m_BootFirmwareVersion, element, text), LMX_FLAG(DeviceType, m_isset_BootFirmwareVersion), position_of(k_DeviceType_elements, element_BootFirmwareVersion), 1},
-    {item_kind::optional_child, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:CalibrationState", element_CalibrationState, LMX_OFFSET(DeviceType, m_CalibrationState, optional_child, none), LMX_FLAG(DeviceType, m_isset_CalibrationState), position_of(k_DeviceType_elements, element_CalibrationState), 1, &CalibrationStateType::k_class},
-    {item_kind::optional_child, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:DeviceSettings", element_DeviceSettings, LMX_OFFSET(DeviceType, m_DeviceSettings, optional_child, none), LMX_FLAG(DeviceType, m_isset_DeviceSettings), position_of(k_DeviceType_elements, element_DeviceSettings), 1, &DeviceSettings::k_class},
+constexpr s_item DeviceType::k_items[] = {
+    {item_kind::child_list, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:CustomAttribute", element("CustomAttribute"), LMX_OFFSET(DeviceType, m_CustomAttribute, child_list, none), k_no_flag, &CustomAttributeType::k_class},
+    {item_kind::element, value_kind::text, use_required, ELMX_WS_PRESERVE, "Vyr:Manufacturer", element("Manufacturer"), LMX_OFFSET(DeviceType, m_Manufacturer, element, text), LMX_FLAG(DeviceType, m_isset_Manufacturer)},
+    {item_kind::element, value_kind::text, use_required, ELMX_WS_PRESERVE, "Vyr:Model", element("Model"), LMX_OFFSET(DeviceType, m_Model, element, text), LMX_FLAG(DeviceType, m_isset_Model)},
+    {item_kind::element, value_kind::text, use_required, ELMX_WS_PRESERVE, "Vyr:SerialNumber", element("SerialNumber"), LMX_OFFSET(DeviceType, m_SerialNumber, element, text), LMX_FLAG(DeviceType, m_isset_SerialNumber)},
+    {item_kind::element, value_kind::enumerated, use_optional, ELMX_WS_PRESERVE, "Vyr:DeviceClass", element("DeviceClass"), LMX_OFFSET(DeviceType, m_DeviceClass, element, enumerated), LMX_FLAG(DeviceType, m_isset_DeviceClass), nullptr, &facets::DeviceClassKind},
+    {item_kind::element, value_kind::text, use_optional, ELMX_WS_PRESERVE, "Vyr:FirmwareVersion", element("FirmwareVersion"), LMX_OFFSET(DeviceType, m_FirmwareVersion, element, text), LMX_FLAG(DeviceType, m_isset_FirmwareVersion)},
+    {item_kind::element, value_kind::text, use_optional, ELMX_WS_PRESERVE, "Vyr:BootFirmwareVersion", element("BootFirmwareVersion"), LMX_OFFSET(DeviceType, m_BootFirmwareVersion, element, text), LMX_FLAG(DeviceType, m_isset_BootFirmwareVersion)},
+    {item_kind::optional_child, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:CalibrationState", element("CalibrationState"), LMX_OFFSET(DeviceType, m_CalibrationState, optional_child, none), LMX_FLAG(DeviceType, m_isset_CalibrationState), &CalibrationStateType::k_class},
+    {item_kind::optional_child, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:DeviceSettings", element("DeviceSettings"), LMX_OFFSET(DeviceType, m_DeviceSettings, optional_child, none), LMX_FLAG(DeviceType, m_isset_DeviceSettings), &DeviceSettings::k_class},
 };
 constinit const s_class DeviceType::k_class = {
     .name = "DeviceType",
     .qualified_name = "Vyr:DeviceType",
     .content = content_kind::children,
+    .names = &k_names,
     .ns_map = k_ns_map,
     .elements = k_items,
-    .element_map = k_DeviceType_elements,
     .operations = &k_operations<DeviceType>,
 };
 
@@ -242,22 +207,17 @@ DeviceSettings& DeviceType::assign_DeviceSettings(const DeviceSettings& value) {
 
 // ProfileChoice
 
-constexpr s_event_map k_ProfileChoice_elements[] = {
-    element_event("ProfileFile", element_ProfileFile),
-    element_event("ProfileURI", element_ProfileURI),
-    k_end_of_map,
-};
-constinit const s_item ProfileChoice::k_items[] = {
-    {item_kind::alternative, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:ProfileFile", element_ProfileFile, 0, k_no_flag, position_of(k_ProfileChoice_elements, element_ProfileFile), 1, &ProfileFile::k_class},
-    {item_kind::alternative, value_kind::text, use_optional, ELMX_WS_COLLAPSE, "Vyr:ProfileURI", element_ProfileURI, 0, k_no_flag, position_of(k_ProfileChoice_elements, element_ProfileURI), 1},
+constexpr s_item ProfileChoice::k_items[] = {
+    {item_kind::alternative, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:ProfileFile", element("ProfileFile"), 0, k_no_flag, &ProfileFile::k_class},
+    {item_kind::alternative, value_kind::text, use_optional, ELMX_WS_COLLAPSE, "Vyr:ProfileURI", element("ProfileURI"), 0, k_no_flag},
 };
 constinit const s_class ProfileChoice::k_class = {
     .name = "ProfileChoice",
     .qualified_name = "Vyr:ProfileChoice",
     .content = content_kind::choice,
+    .names = &k_names,
     .choice = LMX_CHOICE(ProfileChoice, m_choice),
     .elements = k_items,
-    .element_map = k_ProfileChoice_elements,
     .operations = &k_operations<ProfileChoice>,
 };
 
@@ -277,31 +237,20 @@ lmx::elmx_error ProfileChoice::set_ProfileURI(const std::u16string& value) { ret
 
 // ProfileType
 
-constexpr s_event_map k_ProfileType_attributes[] = {
-    attribute_event("Direction", attribute_Direction),
-    k_end_of_map,
-};
-constexpr s_event_map k_ProfileType_elements[] = {
-    element_event("ProfileChoice", element_ProfileChoice),
-    element_event("Parameters", element_Parameters),
-    element_event("Created", element_Created),
-    k_end_of_map,
-};
-constinit const s_item ProfileType::k_items[] = {
-    {item_kind::attribute, value_kind::enumerated, use_required, ELMX_WS_PRESERVE, "Direction", attribute_Direction, LMX_OFFSET(ProfileType, m_Direction, attribute, enumerated), LMX_FLAG(ProfileType, m_isset_Direction), 0, 0, nullptr, &facets::ProfileDirectionKind},
-    {item_kind::child, value_kind::none, use_required, ELMX_WS_PRESERVE, "Vyr:ProfileChoice", element_ProfileChoice, LMX_OFFSET(ProfileType, m_ProfileChoice, child, none), LMX_FLAG(ProfileType, m_isset_ProfileChoice), position_of(k_ProfileType_elements, element_ProfileChoice), 1, &ProfileChoice::k_class},
-    {item_kind::child_list, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:Parameters", element_Parameters, LMX_OFFSET(ProfileType, m_Parameters, child_list, none), k_no_flag, position_of(k_ProfileType_elements, element_Parameters), 1, &ProfileType_Parameters::k_class},
-    {item_kind::element, value_kind::datetime, use_optional, ELMX_WS_COLLAPSE, "Vyr:Created", element_Created, LMX_OFFSET(ProfileType, m_Created, element, datetime), LMX_FLAG(ProfileType, m_isset_Created), position_of(k_ProfileType_elements, element_Created), 1, nullptr, &facets::DateTimeZone},
+constexpr s_item ProfileType::k_items[] = {
+    {item_kind::attribute, value_kind::enumerated, use_required, ELMX_WS_PRESERVE, "Direction", attribute("Direction"), LMX_OFFSET(ProfileType, m_Direction, attribute, enumerated), LMX_FLAG(ProfileType, m_isset_Direction), nullptr, &facets::ProfileDirectionKind},
+    {item_kind::child, value_kind::none, use_required, ELMX_WS_PRESERVE, "Vyr:ProfileChoice", element("ProfileChoice"), LMX_OFFSET(ProfileType, m_ProfileChoice, child, none), LMX_FLAG(ProfileType, m_isset_ProfileChoice), &ProfileChoice::k_class},
+    {item_kind::child_list, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:Parameters", element("Parameters"), LMX_OFFSET(ProfileType, m_Parameters, child_list, none), k_no_flag, &ProfileType_Parameters::k_class},
+    {item_kind::element, value_kind::datetime, use_optional, ELMX_WS_COLLAPSE, "Vyr:Created", element("Created"), LMX_OFFSET(ProfileType, m_Created, element, datetime), LMX_FLAG(ProfileType, m_isset_Created), nullptr, &facets::DateTimeZone},
 };
 constinit const s_class ProfileType::k_class = {
     .name = "ProfileType",
     .qualified_name = "Vyr:ProfileType",
     .content = content_kind::children,
+    .names = &k_names,
     .ns_map = k_ns_map,
-    .attributes = std::span(k_items).first(std::size(k_ProfileType_attributes) - 1),
-    .elements = std::span(k_items).subspan(std::size(k_ProfileType_attributes) - 1),
-    .attribute_map = k_ProfileType_attributes,
-    .element_map = k_ProfileType_elements,
+    .attributes = std::span(k_items).first(attribute_count(k_items)),
+    .elements = std::span(k_items).subspan(attribute_count(k_items)),
     .operations = &k_operations<ProfileType>,
 };
 
@@ -327,21 +276,17 @@ lmx::elmx_error ProfileType::set_Created(const lmx::c_datetime& value) { return 
 
 // ProfileFile
 
-constexpr s_event_map k_ProfileFile_attributes[] = {
-    attribute_event("ProfileName", attribute_ProfileName),
-    k_end_of_map,
-};
-constinit const s_item ProfileFile::k_items[] = {
-    {item_kind::attribute, value_kind::text, use_optional, ELMX_WS_PRESERVE, "ProfileName", attribute_ProfileName, LMX_OFFSET(ProfileFile, m_ProfileName, attribute, text), LMX_FLAG(ProfileFile, m_isset_ProfileName)},
+constexpr s_item ProfileFile::k_items[] = {
+    {item_kind::attribute, value_kind::text, use_optional, ELMX_WS_PRESERVE, "ProfileName", attribute("ProfileName"), LMX_OFFSET(ProfileFile, m_ProfileName, attribute, text), LMX_FLAG(ProfileFile, m_isset_ProfileName)},
     {item_kind::content, value_kind::binary, use_required, ELMX_WS_COLLAPSE, "", 0, LMX_OFFSET(ProfileFile, m_ProfileFile, content, binary), LMX_FLAG(ProfileFile, m_isset_ProfileFile)},
 };
 constinit const s_class ProfileFile::k_class = {
     .name = "ProfileFile",
     .qualified_name = "Vyr:ProfileFile",
     .content = content_kind::simple,
-    .attributes = std::span(k_items).first(std::size(k_ProfileFile_attributes) - 1),
-    .elements = std::span(k_items).subspan(std::size(k_ProfileFile_attributes) - 1),
-    .attribute_map = k_ProfileFile_attributes,
+    .names = &k_names,
+    .attributes = std::span(k_items).first(attribute_count(k_items)),
+    .elements = std::span(k_items).subspan(attribute_count(k_items)),
     .operations = &k_operations<ProfileFile>,
 };
 
@@ -359,24 +304,18 @@ lmx::elmx_error ProfileFile::set_ProfileFile(const lmx::c_binary& value) { retur
 
 // ProfileType_Parameters_ValueChoice
 
-constexpr s_event_map k_ProfileType_Parameters_ValueChoice_elements[] = {
-    element_event("DoubleValue", element_DoubleValue),
-    element_event("IntegerValue", element_IntegerValue),
-    element_event("StringValue", element_StringValue),
-    k_end_of_map,
-};
-constinit const s_item ProfileType_Parameters_ValueChoice::k_items[] = {
-    {item_kind::alternative, value_kind::number, use_optional, ELMX_WS_COLLAPSE, "Vyr:DoubleValue", element_DoubleValue, 0, k_no_flag, position_of(k_ProfileType_Parameters_ValueChoice_elements, element_DoubleValue), 1},
-    {item_kind::alternative, value_kind::int32, use_optional, ELMX_WS_COLLAPSE, "Vyr:IntegerValue", element_IntegerValue, 0, k_no_flag, position_of(k_ProfileType_Parameters_ValueChoice_elements, element_IntegerValue), 1, nullptr, &facets::Int32},
-    {item_kind::alternative, value_kind::text, use_optional, ELMX_WS_PRESERVE, "Vyr:StringValue", element_StringValue, 0, k_no_flag, position_of(k_ProfileType_Parameters_ValueChoice_elements, element_StringValue), 1},
+constexpr s_item ProfileType_Parameters_ValueChoice::k_items[] = {
+    {item_kind::alternative, value_kind::number, use_optional, ELMX_WS_COLLAPSE, "Vyr:DoubleValue", element("DoubleValue"), 0, k_no_flag},
+    {item_kind::alternative, value_kind::int32, use_optional, ELMX_WS_COLLAPSE, "Vyr:IntegerValue", element("IntegerValue"), 0, k_no_flag, nullptr, &facets::Int32},
+    {item_kind::alternative, value_kind::text, use_optional, ELMX_WS_PRESERVE, "Vyr:StringValue", element("StringValue"), 0, k_no_flag},
 };
 constinit const s_class ProfileType_Parameters_ValueChoice::k_class = {
     .name = "ProfileType_Parameters_ValueChoice",
     .qualified_name = "Vyr:ValueChoice",
     .content = content_kind::choice,
+    .names = &k_names,
     .choice = LMX_CHOICE(ProfileType_Parameters_ValueChoice, m_choice),
     .elements = k_items,
-    .element_map = k_ProfileType_Parameters_ValueChoice_elements,
     .operations = &k_operations<ProfileType_Parameters_ValueChoice>,
 };
 
@@ -396,22 +335,17 @@ lmx::elmx_error ProfileType_Parameters_ValueChoice::set_StringValue(const std::u
 
 // ProfileType_Parameters
 
-constexpr s_event_map k_ProfileType_Parameters_elements[] = {
-    element_event("Name", element_Name),
-    element_event("ValueChoice", element_ValueChoice),
-    k_end_of_map,
-};
-constinit const s_item ProfileType_Parameters::k_items[] = {
-    {item_kind::element, value_kind::text, use_required | use_name, ELMX_WS_PRESERVE, "Vyr:Name", element_Name, LMX_OFFSET(ProfileType_Parameters, m_Name, element, text), LMX_FLAG(ProfileType_Parameters, m_isset_Name), position_of(k_ProfileType_Parameters_elements, element_Name), 1, nullptr, &facets::SingleCharacter},
-    {item_kind::child, value_kind::none, use_required, ELMX_WS_PRESERVE, "Vyr:ValueChoice", element_ValueChoice, LMX_OFFSET(ProfileType_Parameters, m_ValueChoice, child, none), LMX_FLAG(ProfileType_Parameters, m_isset_ValueChoice), position_of(k_ProfileType_Parameters_elements, element_ValueChoice), 1, &ProfileType_Parameters_ValueChoice::k_class},
+constexpr s_item ProfileType_Parameters::k_items[] = {
+    {item_kind::element, value_kind::text, use_required | use_name, ELMX_WS_PRESERVE, "Vyr:Name", element("Name"), LMX_OFFSET(ProfileType_Parameters, m_Name, element, text), LMX_FLAG(ProfileType_Parameters, m_isset_Name), nullptr, &facets::SingleCharacter},
+    {item_kind::child, value_kind::none, use_required, ELMX_WS_PRESERVE, "Vyr:ValueChoice", element("ValueChoice"), LMX_OFFSET(ProfileType_Parameters, m_ValueChoice, child, none), LMX_FLAG(ProfileType_Parameters, m_isset_ValueChoice), &ProfileType_Parameters_ValueChoice::k_class},
 };
 constinit const s_class ProfileType_Parameters::k_class = {
     .name = "ProfileType_Parameters",
     .qualified_name = "Vyr:Parameters",
     .content = content_kind::children,
     .may_be_empty = true,
+    .names = &k_names,
     .elements = k_items,
-    .element_map = k_ProfileType_Parameters_elements,
     .operations = &k_operations<ProfileType_Parameters>,
 };
 

@@ -8,7 +8,6 @@
 
 #include "schema/generated/functions.h"
 #include "lmx/binding/binding.h"
-#include "lmx/binding/rows.h"
 #include "schema/generated/header.h"
 #include "schema/generated/statistics.h"
 #include "schema/generated/tables.h"
@@ -20,18 +19,13 @@ namespace com_vyrgraph_v2 {
 
 using namespace lmx;  // for the tables' sake
 
-static_assert(k_binding_version == 5, "run schema/generator/generate.py");
+static_assert(k_binding_version == 6, "run schema/generator/generate.py");
 
 // FunctionType
 
-constexpr s_event_map k_FunctionType_elements[] = {
-    element_event("CustomAttribute", element_CustomAttribute),
-    element_event("Result", element_Result),
-    k_end_of_map,
-};
-constinit const s_item FunctionType::k_items[] = {
-    {item_kind::child_list, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:CustomAttribute", element_CustomAttribute, LMX_OFFSET(FunctionType, m_CustomAttribute, child_list, none), k_no_flag, position_of(k_FunctionType_elements, element_CustomAttribute), 1, &CustomAttributeType::k_class},
-    {item_kind::element, value_kind::number, use_optional, ELMX_WS_COLLAPSE, "Vyr:Result", element_Result, LMX_OFFSET(FunctionType, m_Result, element, number), LMX_FLAG(FunctionType, m_isset_Result), position_of(k_FunctionType_elements, element_Result), 1},
+constexpr s_item FunctionType::k_items[] = {
+    {item_kind::child_list, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:CustomAttribute", element("CustomAttribute"), LMX_OFFSET(FunctionType, m_CustomAttribute, child_list, none), k_no_flag, &CustomAttributeType::k_class},
+    {item_kind::element, value_kind::number, use_optional, ELMX_WS_COLLAPSE, "Vyr:Result", element("Result"), LMX_OFFSET(FunctionType, m_Result, element, number), LMX_FLAG(FunctionType, m_isset_Result)},
 };
 constinit const s_factory_row FunctionType::k_factory[] = {
     {"FunctionGenericType", &FunctionGenericType::k_class},
@@ -58,10 +52,10 @@ constinit const s_class FunctionType::k_class = {
     .qualified_name = "Vyr:FunctionType",
     .content = content_kind::children,
     .may_be_empty = true,
+    .names = &k_names,
     .ns_map = k_ns_map,
     .id = &FunctionType::id,
     .elements = k_items,
-    .element_map = k_FunctionType_elements,
     .operations = &k_operations<FunctionType>,
 };
 
@@ -107,24 +101,19 @@ lmx::elmx_error Function::unmarshal(lmx::c_xml_reader& reader, const std::string
 
 // FunctionGenericType
 
-constexpr s_event_map k_FunctionGenericType_elements[] = {
-    element_event("Name", element_Name),
-    element_event("Parameters", element_Parameters),
-    k_end_of_map,
-};
-constinit const s_item FunctionGenericType::k_items[] = {
-    {item_kind::element, value_kind::text, use_required | use_name, ELMX_WS_COLLAPSE, "Vyr:Name", element_Name, LMX_OFFSET(FunctionGenericType, m_Name, element, text), LMX_FLAG(FunctionGenericType, m_isset_Name), position_of(k_FunctionGenericType_elements, element_Name), 1, nullptr, &facets::NonEmptyToken},
-    {item_kind::child_list, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:Parameters", element_Parameters, LMX_OFFSET(FunctionGenericType, m_Parameters, child_list, none), k_no_flag, position_of(k_FunctionGenericType_elements, element_Parameters), 1, &Parameters::k_class},
+constexpr s_item FunctionGenericType::k_items[] = {
+    {item_kind::element, value_kind::text, use_required | use_name, ELMX_WS_COLLAPSE, "Vyr:Name", element("Name"), LMX_OFFSET(FunctionGenericType, m_Name, element, text), LMX_FLAG(FunctionGenericType, m_isset_Name), nullptr, &facets::NonEmptyToken},
+    {item_kind::child_list, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:Parameters", element("Parameters"), LMX_OFFSET(FunctionGenericType, m_Parameters, child_list, none), k_no_flag, &Parameters::k_class},
 };
 constinit const s_class FunctionGenericType::k_class = {
     .name = "FunctionGenericType",
     .qualified_name = "Vyr:FunctionGenericType",
     .base = &FunctionType::k_class,
     .content = content_kind::children,
+    .names = &k_names,
     .ns_map = k_ns_map,
     .id = &FunctionGenericType::id,
     .elements = k_items,
-    .element_map = k_FunctionGenericType_elements,
     .operations = &k_operations<FunctionGenericType>,
 };
 
@@ -152,22 +141,17 @@ void FunctionGenericType::clear_Parameters() { m_Parameters.clear(); }
 
 // ValueChoice
 
-constexpr s_event_map k_ValueChoice_elements[] = {
-    element_event("Double", element_Double),
-    element_event("String", element_String),
-    k_end_of_map,
-};
-constinit const s_item ValueChoice::k_items[] = {
-    {item_kind::alternative, value_kind::number, use_optional, ELMX_WS_COLLAPSE, "Vyr:Double", element_Double, 0, k_no_flag, position_of(k_ValueChoice_elements, element_Double), 1},
-    {item_kind::alternative, value_kind::text, use_optional, ELMX_WS_PRESERVE, "Vyr:String", element_String, 0, k_no_flag, position_of(k_ValueChoice_elements, element_String), 1},
+constexpr s_item ValueChoice::k_items[] = {
+    {item_kind::alternative, value_kind::number, use_optional, ELMX_WS_COLLAPSE, "Vyr:Double", element("Double"), 0, k_no_flag},
+    {item_kind::alternative, value_kind::text, use_optional, ELMX_WS_PRESERVE, "Vyr:String", element("String"), 0, k_no_flag},
 };
 constinit const s_class ValueChoice::k_class = {
     .name = "ValueChoice",
     .qualified_name = "Vyr:ValueChoice",
     .content = content_kind::choice,
+    .names = &k_names,
     .choice = LMX_CHOICE(ValueChoice, m_choice),
     .elements = k_items,
-    .element_map = k_ValueChoice_elements,
     .operations = &k_operations<ValueChoice>,
 };
 
@@ -186,22 +170,17 @@ lmx::elmx_error ValueChoice::set_String(const std::u16string& value) { return lm
 
 // Parameters
 
-constexpr s_event_map k_Parameters_elements[] = {
-    element_event("Name", element_Name),
-    element_event("ValueChoice", element_ValueChoice),
-    k_end_of_map,
-};
-constinit const s_item Parameters::k_items[] = {
-    {item_kind::element, value_kind::text, use_required | use_name, ELMX_WS_PRESERVE, "Vyr:Name", element_Name, LMX_OFFSET(Parameters, m_Name, element, text), LMX_FLAG(Parameters, m_isset_Name), position_of(k_Parameters_elements, element_Name), 1},
-    {item_kind::child, value_kind::none, use_required, ELMX_WS_PRESERVE, "Vyr:ValueChoice", element_ValueChoice, LMX_OFFSET(Parameters, m_ValueChoice, child, none), LMX_FLAG(Parameters, m_isset_ValueChoice), position_of(k_Parameters_elements, element_ValueChoice), 1, &ValueChoice::k_class},
+constexpr s_item Parameters::k_items[] = {
+    {item_kind::element, value_kind::text, use_required | use_name, ELMX_WS_PRESERVE, "Vyr:Name", element("Name"), LMX_OFFSET(Parameters, m_Name, element, text), LMX_FLAG(Parameters, m_isset_Name)},
+    {item_kind::child, value_kind::none, use_required, ELMX_WS_PRESERVE, "Vyr:ValueChoice", element("ValueChoice"), LMX_OFFSET(Parameters, m_ValueChoice, child, none), LMX_FLAG(Parameters, m_isset_ValueChoice), &ValueChoice::k_class},
 };
 constinit const s_class Parameters::k_class = {
     .name = "Parameters",
     .qualified_name = "Vyr:Parameters",
     .content = content_kind::children,
     .may_be_empty = true,
+    .names = &k_names,
     .elements = k_items,
-    .element_map = k_Parameters_elements,
     .operations = &k_operations<Parameters>,
 };
 
@@ -225,6 +204,7 @@ constinit const s_class FunctionDEType::k_class = {
     .base = &FunctionType::k_class,
     .content = content_kind::children,
     .may_be_empty = true,
+    .names = &k_names,
     .ns_map = k_ns_map,
     .id = &FunctionDEType::id,
     .operations = &k_operations<FunctionDEType>,
@@ -253,6 +233,7 @@ constinit const s_class FunctionMeanDEType::k_class = {
     .base = &FunctionType::k_class,
     .content = content_kind::children,
     .may_be_empty = true,
+    .names = &k_names,
     .ns_map = k_ns_map,
     .id = &FunctionMeanDEType::id,
     .operations = &k_operations<FunctionMeanDEType>,
@@ -275,26 +256,20 @@ bool FunctionMeanDEType::is_occurs_ok() const { return lmx::is_occurs_ok(k_class
 
 // FunctionDE94Type
 
-constexpr s_event_map k_FunctionDE94Type_elements[] = {
-    element_event("Param_l", element_Param_l),
-    element_event("Param_c", element_Param_c),
-    element_event("Param_h", element_Param_h),
-    k_end_of_map,
-};
-constinit const s_item FunctionDE94Type::k_items[] = {
-    {item_kind::element, value_kind::number, use_required, ELMX_WS_COLLAPSE, "Vyr:Param_l", element_Param_l, LMX_OFFSET(FunctionDE94Type, m_Param_l, element, number), LMX_FLAG(FunctionDE94Type, m_isset_Param_l), position_of(k_FunctionDE94Type_elements, element_Param_l), 1, nullptr, &facets::NonNegative},
-    {item_kind::element, value_kind::number, use_required, ELMX_WS_COLLAPSE, "Vyr:Param_c", element_Param_c, LMX_OFFSET(FunctionDE94Type, m_Param_c, element, number), LMX_FLAG(FunctionDE94Type, m_isset_Param_c), position_of(k_FunctionDE94Type_elements, element_Param_c), 1, nullptr, &facets::NonNegative},
-    {item_kind::element, value_kind::number, use_required, ELMX_WS_COLLAPSE, "Vyr:Param_h", element_Param_h, LMX_OFFSET(FunctionDE94Type, m_Param_h, element, number), LMX_FLAG(FunctionDE94Type, m_isset_Param_h), position_of(k_FunctionDE94Type_elements, element_Param_h), 1, nullptr, &facets::NonNegative},
+constexpr s_item FunctionDE94Type::k_items[] = {
+    {item_kind::element, value_kind::number, use_required, ELMX_WS_COLLAPSE, "Vyr:Param_l", element("Param_l"), LMX_OFFSET(FunctionDE94Type, m_Param_l, element, number), LMX_FLAG(FunctionDE94Type, m_isset_Param_l), nullptr, &facets::NonNegative},
+    {item_kind::element, value_kind::number, use_required, ELMX_WS_COLLAPSE, "Vyr:Param_c", element("Param_c"), LMX_OFFSET(FunctionDE94Type, m_Param_c, element, number), LMX_FLAG(FunctionDE94Type, m_isset_Param_c), nullptr, &facets::NonNegative},
+    {item_kind::element, value_kind::number, use_required, ELMX_WS_COLLAPSE, "Vyr:Param_h", element("Param_h"), LMX_OFFSET(FunctionDE94Type, m_Param_h, element, number), LMX_FLAG(FunctionDE94Type, m_isset_Param_h), nullptr, &facets::NonNegative},
 };
 constinit const s_class FunctionDE94Type::k_class = {
     .name = "FunctionDE94Type",
     .qualified_name = "Vyr:FunctionDE94Type",
     .base = &FunctionType::k_class,
     .content = content_kind::children,
+    .names = &k_names,
     .ns_map = k_ns_map,
     .id = &FunctionDE94Type::id,
     .elements = k_items,
-    .element_map = k_FunctionDE94Type_elements,
     .operations = &k_operations<FunctionDE94Type>,
 };
 
@@ -318,26 +293,20 @@ lmx::elmx_error FunctionDE94Type::set_Param_h(double value) { return lmx::set_it
 
 // FunctionDE2000Type
 
-constexpr s_event_map k_FunctionDE2000Type_elements[] = {
-    element_event("Param_l", element_Param_l),
-    element_event("Param_c", element_Param_c),
-    element_event("Param_h", element_Param_h),
-    k_end_of_map,
-};
-constinit const s_item FunctionDE2000Type::k_items[] = {
-    {item_kind::element, value_kind::number, use_required, ELMX_WS_COLLAPSE, "Vyr:Param_l", element_Param_l, LMX_OFFSET(FunctionDE2000Type, m_Param_l, element, number), LMX_FLAG(FunctionDE2000Type, m_isset_Param_l), position_of(k_FunctionDE2000Type_elements, element_Param_l), 1, nullptr, &facets::NonNegative},
-    {item_kind::element, value_kind::number, use_required, ELMX_WS_COLLAPSE, "Vyr:Param_c", element_Param_c, LMX_OFFSET(FunctionDE2000Type, m_Param_c, element, number), LMX_FLAG(FunctionDE2000Type, m_isset_Param_c), position_of(k_FunctionDE2000Type_elements, element_Param_c), 1, nullptr, &facets::NonNegative},
-    {item_kind::element, value_kind::number, use_required, ELMX_WS_COLLAPSE, "Vyr:Param_h", element_Param_h, LMX_OFFSET(FunctionDE2000Type, m_Param_h, element, number), LMX_FLAG(FunctionDE2000Type, m_isset_Param_h), position_of(k_FunctionDE2000Type_elements, element_Param_h), 1, nullptr, &facets::NonNegative},
+constexpr s_item FunctionDE2000Type::k_items[] = {
+    {item_kind::element, value_kind::number, use_required, ELMX_WS_COLLAPSE, "Vyr:Param_l", element("Param_l"), LMX_OFFSET(FunctionDE2000Type, m_Param_l, element, number), LMX_FLAG(FunctionDE2000Type, m_isset_Param_l), nullptr, &facets::NonNegative},
+    {item_kind::element, value_kind::number, use_required, ELMX_WS_COLLAPSE, "Vyr:Param_c", element("Param_c"), LMX_OFFSET(FunctionDE2000Type, m_Param_c, element, number), LMX_FLAG(FunctionDE2000Type, m_isset_Param_c), nullptr, &facets::NonNegative},
+    {item_kind::element, value_kind::number, use_required, ELMX_WS_COLLAPSE, "Vyr:Param_h", element("Param_h"), LMX_OFFSET(FunctionDE2000Type, m_Param_h, element, number), LMX_FLAG(FunctionDE2000Type, m_isset_Param_h), nullptr, &facets::NonNegative},
 };
 constinit const s_class FunctionDE2000Type::k_class = {
     .name = "FunctionDE2000Type",
     .qualified_name = "Vyr:FunctionDE2000Type",
     .base = &FunctionType::k_class,
     .content = content_kind::children,
+    .names = &k_names,
     .ns_map = k_ns_map,
     .id = &FunctionDE2000Type::id,
     .elements = k_items,
-    .element_map = k_FunctionDE2000Type_elements,
     .operations = &k_operations<FunctionDE2000Type>,
 };
 
@@ -361,24 +330,19 @@ lmx::elmx_error FunctionDE2000Type::set_Param_h(double value) { return lmx::set_
 
 // FunctionDEcmcType
 
-constexpr s_event_map k_FunctionDEcmcType_elements[] = {
-    element_event("Param_l", element_Param_l),
-    element_event("Param_c", element_Param_c),
-    k_end_of_map,
-};
-constinit const s_item FunctionDEcmcType::k_items[] = {
-    {item_kind::element, value_kind::number, use_required, ELMX_WS_COLLAPSE, "Vyr:Param_l", element_Param_l, LMX_OFFSET(FunctionDEcmcType, m_Param_l, element, number), LMX_FLAG(FunctionDEcmcType, m_isset_Param_l), position_of(k_FunctionDEcmcType_elements, element_Param_l), 1, nullptr, &facets::NonNegative},
-    {item_kind::element, value_kind::number, use_required, ELMX_WS_COLLAPSE, "Vyr:Param_c", element_Param_c, LMX_OFFSET(FunctionDEcmcType, m_Param_c, element, number), LMX_FLAG(FunctionDEcmcType, m_isset_Param_c), position_of(k_FunctionDEcmcType_elements, element_Param_c), 1, nullptr, &facets::NonNegative},
+constexpr s_item FunctionDEcmcType::k_items[] = {
+    {item_kind::element, value_kind::number, use_required, ELMX_WS_COLLAPSE, "Vyr:Param_l", element("Param_l"), LMX_OFFSET(FunctionDEcmcType, m_Param_l, element, number), LMX_FLAG(FunctionDEcmcType, m_isset_Param_l), nullptr, &facets::NonNegative},
+    {item_kind::element, value_kind::number, use_required, ELMX_WS_COLLAPSE, "Vyr:Param_c", element("Param_c"), LMX_OFFSET(FunctionDEcmcType, m_Param_c, element, number), LMX_FLAG(FunctionDEcmcType, m_isset_Param_c), nullptr, &facets::NonNegative},
 };
 constinit const s_class FunctionDEcmcType::k_class = {
     .name = "FunctionDEcmcType",
     .qualified_name = "Vyr:FunctionDEcmcType",
     .base = &FunctionType::k_class,
     .content = content_kind::children,
+    .names = &k_names,
     .ns_map = k_ns_map,
     .id = &FunctionDEcmcType::id,
     .elements = k_items,
-    .element_map = k_FunctionDEcmcType_elements,
     .operations = &k_operations<FunctionDEcmcType>,
 };
 
@@ -503,24 +467,19 @@ lmx::elmx_error FunctionDECMC::unmarshal(lmx::c_xml_reader& reader, const std::s
 
 // FunctionTolerance
 
-constexpr s_event_map k_FunctionTolerance_elements[] = {
-    element_event("ToleranceType", element_ToleranceType),
-    element_event("Parameters", element_Parameters),
-    k_end_of_map,
-};
-constinit const s_item FunctionTolerance::k_items[] = {
-    {item_kind::element, value_kind::enumerated, use_required, ELMX_WS_PRESERVE, "Vyr:ToleranceType", element_ToleranceType, LMX_OFFSET(FunctionTolerance, m_ToleranceType, element, enumerated), LMX_FLAG(FunctionTolerance, m_isset_ToleranceType), position_of(k_FunctionTolerance_elements, element_ToleranceType), 1, nullptr, &facets::ToleranceFormulaKind},
-    {item_kind::child_list, value_kind::none, use_demanded | use_asked, ELMX_WS_PRESERVE, "Vyr:Parameters", element_Parameters, LMX_OFFSET(FunctionTolerance, m_Parameters, child_list, none), k_no_flag, position_of(k_FunctionTolerance_elements, element_Parameters), 1, &ToleranceParameterType::k_class},
+constexpr s_item FunctionTolerance::k_items[] = {
+    {item_kind::element, value_kind::enumerated, use_required, ELMX_WS_PRESERVE, "Vyr:ToleranceType", element("ToleranceType"), LMX_OFFSET(FunctionTolerance, m_ToleranceType, element, enumerated), LMX_FLAG(FunctionTolerance, m_isset_ToleranceType), nullptr, &facets::ToleranceFormulaKind},
+    {item_kind::child_list, value_kind::none, use_demanded | use_asked, ELMX_WS_PRESERVE, "Vyr:Parameters", element("Parameters"), LMX_OFFSET(FunctionTolerance, m_Parameters, child_list, none), k_no_flag, &ToleranceParameterType::k_class},
 };
 constinit const s_class FunctionTolerance::k_class = {
     .name = "FunctionTolerance",
     .qualified_name = "Vyr:FunctionTolerance",
     .base = &FunctionType::k_class,
     .content = content_kind::children,
+    .names = &k_names,
     .ns_map = k_ns_map,
     .id = &FunctionTolerance::id,
     .elements = k_items,
-    .element_map = k_FunctionTolerance_elements,
     .operations = &k_operations<FunctionTolerance>,
 };
 
@@ -549,24 +508,18 @@ void FunctionTolerance::clear_Parameters() { m_Parameters.clear(); }
 
 // ToleranceParameterType
 
-constexpr s_event_map k_ToleranceParameterType_elements[] = {
-    element_event("HighValue", element_HighValue),
-    element_event("ToleranceParameter", element_ToleranceParameter),
-    element_event("LowValue", element_LowValue),
-    k_end_of_map,
-};
-constinit const s_item ToleranceParameterType::k_items[] = {
-    {item_kind::element, value_kind::number, use_optional, ELMX_WS_COLLAPSE, "Vyr:HighValue", element_HighValue, LMX_OFFSET(ToleranceParameterType, m_HighValue, element, number), LMX_FLAG(ToleranceParameterType, m_isset_HighValue), position_of(k_ToleranceParameterType_elements, element_HighValue), 1},
-    {item_kind::element, value_kind::enumerated, use_optional, ELMX_WS_PRESERVE, "Vyr:ToleranceParameter", element_ToleranceParameter, LMX_OFFSET(ToleranceParameterType, m_ToleranceParameter, element, enumerated), LMX_FLAG(ToleranceParameterType, m_isset_ToleranceParameter), position_of(k_ToleranceParameterType_elements, element_ToleranceParameter), 1, nullptr, &facets::ToleranceParameterKind},
-    {item_kind::element, value_kind::number, use_required, ELMX_WS_COLLAPSE, "Vyr:LowValue", element_LowValue, LMX_OFFSET(ToleranceParameterType, m_LowValue, element, number), LMX_FLAG(ToleranceParameterType, m_isset_LowValue), position_of(k_ToleranceParameterType_elements, element_LowValue), 1},
+constexpr s_item ToleranceParameterType::k_items[] = {
+    {item_kind::element, value_kind::number, use_optional, ELMX_WS_COLLAPSE, "Vyr:HighValue", element("HighValue"), LMX_OFFSET(ToleranceParameterType, m_HighValue, element, number), LMX_FLAG(ToleranceParameterType, m_isset_HighValue)},
+    {item_kind::element, value_kind::enumerated, use_optional, ELMX_WS_PRESERVE, "Vyr:ToleranceParameter", element("ToleranceParameter"), LMX_OFFSET(ToleranceParameterType, m_ToleranceParameter, element, enumerated), LMX_FLAG(ToleranceParameterType, m_isset_ToleranceParameter), nullptr, &facets::ToleranceParameterKind},
+    {item_kind::element, value_kind::number, use_required, ELMX_WS_COLLAPSE, "Vyr:LowValue", element("LowValue"), LMX_OFFSET(ToleranceParameterType, m_LowValue, element, number), LMX_FLAG(ToleranceParameterType, m_isset_LowValue)},
 };
 constinit const s_class ToleranceParameterType::k_class = {
     .name = "ToleranceParameterType",
     .qualified_name = "Vyr:ToleranceParameterType",
     .content = content_kind::children,
+    .names = &k_names,
     .ns_map = k_ns_map,
     .elements = k_items,
-    .element_map = k_ToleranceParameterType_elements,
     .operations = &k_operations<ToleranceParameterType>,
 };
 

@@ -8,7 +8,6 @@
 
 #include "schema/generated/groups.h"
 #include "lmx/binding/binding.h"
-#include "lmx/binding/rows.h"
 #include "schema/generated/color_values.h"
 #include "schema/generated/device_color_values.h"
 #include "schema/generated/functions.h"
@@ -26,78 +25,47 @@ namespace com_vyrgraph_v2 {
 
 using namespace lmx;  // for the tables' sake
 
-static_assert(k_binding_version == 5, "run schema/generator/generate.py");
+static_assert(k_binding_version == 6, "run schema/generator/generate.py");
 
 // sg_ColorSpace
 
-constexpr s_event_map k_sg_ColorSpace_elements[] = {
-    element_event("ColorSpaceRecipe", element_ColorSpaceRecipe),
-    element_event("ColorSpaceTINTORA", element_ColorSpaceTINTORA),
-    element_event("ColorSpaceGeneric", element_ColorSpaceGeneric),
-    element_event("ColorSpaceEmissiveGeneric", element_ColorSpaceEmissiveGeneric),
-    element_event("ColorSpaceDensity", element_ColorSpaceDensity),
-    element_event("ColorSpaceRGB", element_ColorSpaceRGB),
-    element_event("ColorSpaceSRGB", element_ColorSpaceSRGB),
-    element_event("ColorSpaceAdobeRGB", element_ColorSpaceAdobeRGB),
-    element_event("ColorSpaceCMYKPlusN", element_ColorSpaceCMYKPlusN),
-    element_event("ColorSpaceAdobeWideGamutRGB", element_ColorSpaceAdobeWideGamutRGB),
-    element_event("ColorSpaceSpectral", element_ColorSpaceSpectral),
-    element_event("ColorSpaceEmissiveSpectral", element_ColorSpaceEmissiveSpectral),
-    element_event("ColorSpaceCIELab", element_ColorSpaceCIELab),
-    element_event("ColorSpaceCIELCh", element_ColorSpaceCIELCh),
-    element_event("ColorSpaceCIEXYZ", element_ColorSpaceCIEXYZ),
-    element_event("ColorSpaceEmissiveCIEXYZ", element_ColorSpaceEmissiveCIEXYZ),
-    element_event("ColorSpaceCIExyY", element_ColorSpaceCIExyY),
-    element_event("ColorSpaceEmissiveCIExyY", element_ColorSpaceEmissiveCIExyY),
-    element_event("ColorSpaceCIELuv", element_ColorSpaceCIELuv),
-    element_event("ColorSpaceHSL", element_ColorSpaceHSL),
-    element_event("ColorSpaceHSV", element_ColorSpaceHSV),
-    element_event("ColorSpaceCMYK", element_ColorSpaceCMYK),
-    element_event("ColorSpaceTINTORAOctavantic", element_ColorSpaceTINTORAOctavantic),
-    element_event("ColorSpaceYUV", element_ColorSpaceYUV),
-    element_event("ColorSpaceYIQ", element_ColorSpaceYIQ),
-    element_event("ColorSpaceYBR", element_ColorSpaceYBR),
-    element_event("ColorSpaceNCS", element_ColorSpaceNCS),
-    element_event("ColorSpaceMunsell", element_ColorSpaceMunsell),
-    k_end_of_map,
-};
-constinit const s_item sg_ColorSpace::k_items[] = {
-    {item_kind::alternative, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:ColorSpaceRecipe", element_ColorSpaceRecipe, 0, k_no_flag, position_of(k_sg_ColorSpace_elements, element_ColorSpaceRecipe), 1, &ColorSpaceRecipeType::k_class},
-    {item_kind::alternative, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:ColorSpaceTINTORA", element_ColorSpaceTINTORA, 0, k_no_flag, position_of(k_sg_ColorSpace_elements, element_ColorSpaceTINTORA), 1, &ColorSpaceTINTORAType::k_class},
-    {item_kind::alternative, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:ColorSpaceGeneric", element_ColorSpaceGeneric, 0, k_no_flag, position_of(k_sg_ColorSpace_elements, element_ColorSpaceGeneric), 1, &ColorSpaceGenericType::k_class},
-    {item_kind::alternative, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:ColorSpaceEmissiveGeneric", element_ColorSpaceEmissiveGeneric, 0, k_no_flag, position_of(k_sg_ColorSpace_elements, element_ColorSpaceEmissiveGeneric), 1, &ColorSpaceEmissiveGenericType::k_class},
-    {item_kind::alternative, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:ColorSpaceDensity", element_ColorSpaceDensity, 0, k_no_flag, position_of(k_sg_ColorSpace_elements, element_ColorSpaceDensity), 1, &ColorSpaceDensityType::k_class},
-    {item_kind::alternative, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:ColorSpaceRGB", element_ColorSpaceRGB, 0, k_no_flag, position_of(k_sg_ColorSpace_elements, element_ColorSpaceRGB), 1, &ColorSpaceRGBType::k_class},
-    {item_kind::alternative, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:ColorSpaceSRGB", element_ColorSpaceSRGB, 0, k_no_flag, position_of(k_sg_ColorSpace_elements, element_ColorSpaceSRGB), 1, &ColorSpaceSRGBType::k_class},
-    {item_kind::alternative, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:ColorSpaceAdobeRGB", element_ColorSpaceAdobeRGB, 0, k_no_flag, position_of(k_sg_ColorSpace_elements, element_ColorSpaceAdobeRGB), 1, &ColorSpaceAdobeRGBType::k_class},
-    {item_kind::alternative, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:ColorSpaceCMYKPlusN", element_ColorSpaceCMYKPlusN, 0, k_no_flag, position_of(k_sg_ColorSpace_elements, element_ColorSpaceCMYKPlusN), 1, &ColorSpaceCMYKPlusNType::k_class},
-    {item_kind::alternative, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:ColorSpaceAdobeWideGamutRGB", element_ColorSpaceAdobeWideGamutRGB, 0, k_no_flag, position_of(k_sg_ColorSpace_elements, element_ColorSpaceAdobeWideGamutRGB), 1, &ColorSpaceAdobeWideGamutRGBType::k_class},
-    {item_kind::alternative, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:ColorSpaceSpectral", element_ColorSpaceSpectral, 0, k_no_flag, position_of(k_sg_ColorSpace_elements, element_ColorSpaceSpectral), 1, &ColorSpaceSpectralType::k_class},
-    {item_kind::alternative, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:ColorSpaceEmissiveSpectral", element_ColorSpaceEmissiveSpectral, 0, k_no_flag, position_of(k_sg_ColorSpace_elements, element_ColorSpaceEmissiveSpectral), 1, &ColorSpaceEmissiveSpectralType::k_class},
-    {item_kind::alternative, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:ColorSpaceCIELab", element_ColorSpaceCIELab, 0, k_no_flag, position_of(k_sg_ColorSpace_elements, element_ColorSpaceCIELab), 1, &ColorSpaceCIELabType::k_class},
-    {item_kind::alternative, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:ColorSpaceCIELCh", element_ColorSpaceCIELCh, 0, k_no_flag, position_of(k_sg_ColorSpace_elements, element_ColorSpaceCIELCh), 1, &ColorSpaceCIELChType::k_class},
-    {item_kind::alternative, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:ColorSpaceCIEXYZ", element_ColorSpaceCIEXYZ, 0, k_no_flag, position_of(k_sg_ColorSpace_elements, element_ColorSpaceCIEXYZ), 1, &ColorSpaceCIEXYZType::k_class},
-    {item_kind::alternative, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:ColorSpaceEmissiveCIEXYZ", element_ColorSpaceEmissiveCIEXYZ, 0, k_no_flag, position_of(k_sg_ColorSpace_elements, element_ColorSpaceEmissiveCIEXYZ), 1, &ColorSpaceEmissiveCIEXYZType::k_class},
-    {item_kind::alternative, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:ColorSpaceCIExyY", element_ColorSpaceCIExyY, 0, k_no_flag, position_of(k_sg_ColorSpace_elements, element_ColorSpaceCIExyY), 1, &ColorSpaceCIExyYType::k_class},
-    {item_kind::alternative, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:ColorSpaceEmissiveCIExyY", element_ColorSpaceEmissiveCIExyY, 0, k_no_flag, position_of(k_sg_ColorSpace_elements, element_ColorSpaceEmissiveCIExyY), 1, &ColorSpaceEmissiveCIExyYType::k_class},
-    {item_kind::alternative, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:ColorSpaceCIELuv", element_ColorSpaceCIELuv, 0, k_no_flag, position_of(k_sg_ColorSpace_elements, element_ColorSpaceCIELuv), 1, &ColorSpaceCIELuvType::k_class},
-    {item_kind::alternative, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:ColorSpaceHSL", element_ColorSpaceHSL, 0, k_no_flag, position_of(k_sg_ColorSpace_elements, element_ColorSpaceHSL), 1, &ColorSpaceHSLType::k_class},
-    {item_kind::alternative, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:ColorSpaceHSV", element_ColorSpaceHSV, 0, k_no_flag, position_of(k_sg_ColorSpace_elements, element_ColorSpaceHSV), 1, &ColorSpaceHSVType::k_class},
-    {item_kind::alternative, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:ColorSpaceCMYK", element_ColorSpaceCMYK, 0, k_no_flag, position_of(k_sg_ColorSpace_elements, element_ColorSpaceCMYK), 1, &ColorSpaceCMYKType::k_class, nullptr, ColorSpaceCMYKType::k_factory},
-    {item_kind::alternative, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:ColorSpaceTINTORAOctavantic", element_ColorSpaceTINTORAOctavantic, 0, k_no_flag, position_of(k_sg_ColorSpace_elements, element_ColorSpaceTINTORAOctavantic), 1, &ColorSpaceTINTORAOctavanticType::k_class},
-    {item_kind::alternative, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:ColorSpaceYUV", element_ColorSpaceYUV, 0, k_no_flag, position_of(k_sg_ColorSpace_elements, element_ColorSpaceYUV), 1, &ColorSpaceYUVType::k_class},
-    {item_kind::alternative, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:ColorSpaceYIQ", element_ColorSpaceYIQ, 0, k_no_flag, position_of(k_sg_ColorSpace_elements, element_ColorSpaceYIQ), 1, &ColorSpaceYIQType::k_class},
-    {item_kind::alternative, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:ColorSpaceYBR", element_ColorSpaceYBR, 0, k_no_flag, position_of(k_sg_ColorSpace_elements, element_ColorSpaceYBR), 1, &ColorSpaceYBRType::k_class},
-    {item_kind::alternative, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:ColorSpaceNCS", element_ColorSpaceNCS, 0, k_no_flag, position_of(k_sg_ColorSpace_elements, element_ColorSpaceNCS), 1, &ColorSpaceNCSType::k_class},
-    {item_kind::alternative, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:ColorSpaceMunsell", element_ColorSpaceMunsell, 0, k_no_flag, position_of(k_sg_ColorSpace_elements, element_ColorSpaceMunsell), 1, &ColorSpaceMunsellType::k_class},
+constexpr s_item sg_ColorSpace::k_items[] = {
+    {item_kind::alternative, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:ColorSpaceRecipe", element("ColorSpaceRecipe"), 0, k_no_flag, &ColorSpaceRecipeType::k_class},
+    {item_kind::alternative, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:ColorSpaceTINTORA", element("ColorSpaceTINTORA"), 0, k_no_flag, &ColorSpaceTINTORAType::k_class},
+    {item_kind::alternative, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:ColorSpaceGeneric", element("ColorSpaceGeneric"), 0, k_no_flag, &ColorSpaceGenericType::k_class},
+    {item_kind::alternative, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:ColorSpaceEmissiveGeneric", element("ColorSpaceEmissiveGeneric"), 0, k_no_flag, &ColorSpaceEmissiveGenericType::k_class},
+    {item_kind::alternative, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:ColorSpaceDensity", element("ColorSpaceDensity"), 0, k_no_flag, &ColorSpaceDensityType::k_class},
+    {item_kind::alternative, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:ColorSpaceRGB", element("ColorSpaceRGB"), 0, k_no_flag, &ColorSpaceRGBType::k_class},
+    {item_kind::alternative, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:ColorSpaceSRGB", element("ColorSpaceSRGB"), 0, k_no_flag, &ColorSpaceSRGBType::k_class},
+    {item_kind::alternative, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:ColorSpaceAdobeRGB", element("ColorSpaceAdobeRGB"), 0, k_no_flag, &ColorSpaceAdobeRGBType::k_class},
+    {item_kind::alternative, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:ColorSpaceCMYKPlusN", element("ColorSpaceCMYKPlusN"), 0, k_no_flag, &ColorSpaceCMYKPlusNType::k_class},
+    {item_kind::alternative, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:ColorSpaceAdobeWideGamutRGB", element("ColorSpaceAdobeWideGamutRGB"), 0, k_no_flag, &ColorSpaceAdobeWideGamutRGBType::k_class},
+    {item_kind::alternative, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:ColorSpaceSpectral", element("ColorSpaceSpectral"), 0, k_no_flag, &ColorSpaceSpectralType::k_class},
+    {item_kind::alternative, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:ColorSpaceEmissiveSpectral", element("ColorSpaceEmissiveSpectral"), 0, k_no_flag, &ColorSpaceEmissiveSpectralType::k_class},
+    {item_kind::alternative, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:ColorSpaceCIELab", element("ColorSpaceCIELab"), 0, k_no_flag, &ColorSpaceCIELabType::k_class},
+    {item_kind::alternative, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:ColorSpaceCIELCh", element("ColorSpaceCIELCh"), 0, k_no_flag, &ColorSpaceCIELChType::k_class},
+    {item_kind::alternative, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:ColorSpaceCIEXYZ", element("ColorSpaceCIEXYZ"), 0, k_no_flag, &ColorSpaceCIEXYZType::k_class},
+    {item_kind::alternative, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:ColorSpaceEmissiveCIEXYZ", element("ColorSpaceEmissiveCIEXYZ"), 0, k_no_flag, &ColorSpaceEmissiveCIEXYZType::k_class},
+    {item_kind::alternative, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:ColorSpaceCIExyY", element("ColorSpaceCIExyY"), 0, k_no_flag, &ColorSpaceCIExyYType::k_class},
+    {item_kind::alternative, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:ColorSpaceEmissiveCIExyY", element("ColorSpaceEmissiveCIExyY"), 0, k_no_flag, &ColorSpaceEmissiveCIExyYType::k_class},
+    {item_kind::alternative, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:ColorSpaceCIELuv", element("ColorSpaceCIELuv"), 0, k_no_flag, &ColorSpaceCIELuvType::k_class},
+    {item_kind::alternative, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:ColorSpaceHSL", element("ColorSpaceHSL"), 0, k_no_flag, &ColorSpaceHSLType::k_class},
+    {item_kind::alternative, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:ColorSpaceHSV", element("ColorSpaceHSV"), 0, k_no_flag, &ColorSpaceHSVType::k_class},
+    {item_kind::alternative, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:ColorSpaceCMYK", element("ColorSpaceCMYK"), 0, k_no_flag, &ColorSpaceCMYKType::k_class, nullptr, ColorSpaceCMYKType::k_factory},
+    {item_kind::alternative, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:ColorSpaceTINTORAOctavantic", element("ColorSpaceTINTORAOctavantic"), 0, k_no_flag, &ColorSpaceTINTORAOctavanticType::k_class},
+    {item_kind::alternative, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:ColorSpaceYUV", element("ColorSpaceYUV"), 0, k_no_flag, &ColorSpaceYUVType::k_class},
+    {item_kind::alternative, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:ColorSpaceYIQ", element("ColorSpaceYIQ"), 0, k_no_flag, &ColorSpaceYIQType::k_class},
+    {item_kind::alternative, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:ColorSpaceYBR", element("ColorSpaceYBR"), 0, k_no_flag, &ColorSpaceYBRType::k_class},
+    {item_kind::alternative, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:ColorSpaceNCS", element("ColorSpaceNCS"), 0, k_no_flag, &ColorSpaceNCSType::k_class},
+    {item_kind::alternative, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:ColorSpaceMunsell", element("ColorSpaceMunsell"), 0, k_no_flag, &ColorSpaceMunsellType::k_class},
 };
 constinit const s_class sg_ColorSpace::k_class = {
     .name = "sg_ColorSpace",
     .qualified_name = "sg_ColorSpace",
     .content = content_kind::group,
+    .names = &k_names,
     .choice = LMX_CHOICE(sg_ColorSpace, m_choice),
     .elements = k_items,
-    .element_map = k_sg_ColorSpace_elements,
     .operations = &k_operations<sg_ColorSpace>,
 };
 
@@ -171,36 +139,24 @@ ColorSpaceMunsellType& sg_ColorSpace::assign_ColorSpaceMunsell(const ColorSpaceM
 
 // sg_Substrate
 
-constexpr s_event_map k_sg_Substrate_elements[] = {
-    element_event("SubstratePaper", element_SubstratePaper),
-    element_event("SubstrateGeneric", element_SubstrateGeneric),
-    element_event("SubstrateMetal", element_SubstrateMetal),
-    element_event("SubstratePlastic", element_SubstratePlastic),
-    element_event("SubstrateWood", element_SubstrateWood),
-    element_event("SubstrateVinyl", element_SubstrateVinyl),
-    element_event("SubstrateTile", element_SubstrateTile),
-    element_event("SubstrateFilm", element_SubstrateFilm),
-    element_event("SubstrateTextile", element_SubstrateTextile),
-    k_end_of_map,
-};
-constinit const s_item sg_Substrate::k_items[] = {
-    {item_kind::alternative, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:SubstratePaper", element_SubstratePaper, 0, k_no_flag, position_of(k_sg_Substrate_elements, element_SubstratePaper), 1, &SubstratePaperType::k_class},
-    {item_kind::alternative, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:SubstrateGeneric", element_SubstrateGeneric, 0, k_no_flag, position_of(k_sg_Substrate_elements, element_SubstrateGeneric), 1, &SubstrateGenericType::k_class},
-    {item_kind::alternative, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:SubstrateMetal", element_SubstrateMetal, 0, k_no_flag, position_of(k_sg_Substrate_elements, element_SubstrateMetal), 1, &SubstrateMetalType::k_class},
-    {item_kind::alternative, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:SubstratePlastic", element_SubstratePlastic, 0, k_no_flag, position_of(k_sg_Substrate_elements, element_SubstratePlastic), 1, &SubstratePlasticType::k_class},
-    {item_kind::alternative, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:SubstrateWood", element_SubstrateWood, 0, k_no_flag, position_of(k_sg_Substrate_elements, element_SubstrateWood), 1, &SubstrateWoodType::k_class},
-    {item_kind::alternative, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:SubstrateVinyl", element_SubstrateVinyl, 0, k_no_flag, position_of(k_sg_Substrate_elements, element_SubstrateVinyl), 1, &SubstrateVinylType::k_class},
-    {item_kind::alternative, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:SubstrateTile", element_SubstrateTile, 0, k_no_flag, position_of(k_sg_Substrate_elements, element_SubstrateTile), 1, &SubstrateTileType::k_class},
-    {item_kind::alternative, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:SubstrateFilm", element_SubstrateFilm, 0, k_no_flag, position_of(k_sg_Substrate_elements, element_SubstrateFilm), 1, &SubstrateFilmType::k_class},
-    {item_kind::alternative, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:SubstrateTextile", element_SubstrateTextile, 0, k_no_flag, position_of(k_sg_Substrate_elements, element_SubstrateTextile), 1, &SubstrateTextileType::k_class},
+constexpr s_item sg_Substrate::k_items[] = {
+    {item_kind::alternative, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:SubstratePaper", element("SubstratePaper"), 0, k_no_flag, &SubstratePaperType::k_class},
+    {item_kind::alternative, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:SubstrateGeneric", element("SubstrateGeneric"), 0, k_no_flag, &SubstrateGenericType::k_class},
+    {item_kind::alternative, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:SubstrateMetal", element("SubstrateMetal"), 0, k_no_flag, &SubstrateMetalType::k_class},
+    {item_kind::alternative, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:SubstratePlastic", element("SubstratePlastic"), 0, k_no_flag, &SubstratePlasticType::k_class},
+    {item_kind::alternative, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:SubstrateWood", element("SubstrateWood"), 0, k_no_flag, &SubstrateWoodType::k_class},
+    {item_kind::alternative, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:SubstrateVinyl", element("SubstrateVinyl"), 0, k_no_flag, &SubstrateVinylType::k_class},
+    {item_kind::alternative, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:SubstrateTile", element("SubstrateTile"), 0, k_no_flag, &SubstrateTileType::k_class},
+    {item_kind::alternative, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:SubstrateFilm", element("SubstrateFilm"), 0, k_no_flag, &SubstrateFilmType::k_class},
+    {item_kind::alternative, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:SubstrateTextile", element("SubstrateTextile"), 0, k_no_flag, &SubstrateTextileType::k_class},
 };
 constinit const s_class sg_Substrate::k_class = {
     .name = "sg_Substrate",
     .qualified_name = "sg_Substrate",
     .content = content_kind::group,
+    .names = &k_names,
     .choice = LMX_CHOICE(sg_Substrate, m_choice),
     .elements = k_items,
-    .element_map = k_sg_Substrate_elements,
     .operations = &k_operations<sg_Substrate>,
 };
 
@@ -235,22 +191,17 @@ SubstrateTextileType& sg_Substrate::assign_SubstrateTextile(const SubstrateTexti
 
 // sg_Sample
 
-constexpr s_event_map k_sg_Sample_elements[] = {
-    element_event("SampleSpot", element_SampleSpot),
-    element_event("SampleTarget", element_SampleTarget),
-    k_end_of_map,
-};
-constinit const s_item sg_Sample::k_items[] = {
-    {item_kind::alternative, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:SampleSpot", element_SampleSpot, 0, k_no_flag, position_of(k_sg_Sample_elements, element_SampleSpot), 1, &SampleSpotType::k_class},
-    {item_kind::alternative, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:SampleTarget", element_SampleTarget, 0, k_no_flag, position_of(k_sg_Sample_elements, element_SampleTarget), 1, &SampleTargetType::k_class},
+constexpr s_item sg_Sample::k_items[] = {
+    {item_kind::alternative, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:SampleSpot", element("SampleSpot"), 0, k_no_flag, &SampleSpotType::k_class},
+    {item_kind::alternative, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:SampleTarget", element("SampleTarget"), 0, k_no_flag, &SampleTargetType::k_class},
 };
 constinit const s_class sg_Sample::k_class = {
     .name = "sg_Sample",
     .qualified_name = "sg_Sample",
     .content = content_kind::group,
+    .names = &k_names,
     .choice = LMX_CHOICE(sg_Sample, m_choice),
     .elements = k_items,
-    .element_map = k_sg_Sample_elements,
     .operations = &k_operations<sg_Sample>,
 };
 
@@ -271,54 +222,33 @@ SampleTargetType& sg_Sample::assign_SampleTarget(const SampleTargetType& value) 
 
 // sg_Function
 
-constexpr s_event_map k_sg_Function_elements[] = {
-    element_event("Function", element_Function),
-    element_event("FunctionGeneric", element_FunctionGeneric),
-    element_event("FunctionDE", element_FunctionDE),
-    element_event("FunctionMeanDE", element_FunctionMeanDE),
-    element_event("FunctionDE94", element_FunctionDE94),
-    element_event("FunctionDE2000", element_FunctionDE2000),
-    element_event("FunctionDECMC", element_FunctionDECMC),
-    element_event("FunctionStdDevX", element_FunctionStdDevX),
-    element_event("FunctionStdDevY", element_FunctionStdDevY),
-    element_event("FunctionStdDevZ", element_FunctionStdDevZ),
-    element_event("FunctionStdDevL", element_FunctionStdDevL),
-    element_event("FunctionStdDevA", element_FunctionStdDevA),
-    element_event("FunctionStdDevB", element_FunctionStdDevB),
-    element_event("FunctionStdDevC", element_FunctionStdDevC),
-    element_event("FunctionStdDevH", element_FunctionStdDevH),
-    element_event("FunctionAverageStdDevL", element_FunctionAverageStdDevL),
-    element_event("FunctionAverageStdDevA", element_FunctionAverageStdDevA),
-    element_event("FunctionAverageStdDevB", element_FunctionAverageStdDevB),
-    k_end_of_map,
-};
-constinit const s_item sg_Function::k_items[] = {
-    {item_kind::alternative, value_kind::none, use_demanded, ELMX_WS_PRESERVE, "Vyr:Function", element_Function, 0, k_no_flag, position_of(k_sg_Function_elements, element_Function), 1, &FunctionType::k_class, nullptr, FunctionType::k_factory},
-    {item_kind::alternative, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:FunctionGeneric", element_FunctionGeneric, 0, k_no_flag, position_of(k_sg_Function_elements, element_FunctionGeneric), 1, &FunctionGenericType::k_class},
-    {item_kind::alternative, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:FunctionDE", element_FunctionDE, 0, k_no_flag, position_of(k_sg_Function_elements, element_FunctionDE), 1, &FunctionDEType::k_class},
-    {item_kind::alternative, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:FunctionMeanDE", element_FunctionMeanDE, 0, k_no_flag, position_of(k_sg_Function_elements, element_FunctionMeanDE), 1, &FunctionMeanDEType::k_class},
-    {item_kind::alternative, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:FunctionDE94", element_FunctionDE94, 0, k_no_flag, position_of(k_sg_Function_elements, element_FunctionDE94), 1, &FunctionDE94Type::k_class},
-    {item_kind::alternative, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:FunctionDE2000", element_FunctionDE2000, 0, k_no_flag, position_of(k_sg_Function_elements, element_FunctionDE2000), 1, &FunctionDE2000Type::k_class},
-    {item_kind::alternative, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:FunctionDECMC", element_FunctionDECMC, 0, k_no_flag, position_of(k_sg_Function_elements, element_FunctionDECMC), 1, &FunctionDEcmcType::k_class},
-    {item_kind::alternative, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:FunctionStdDevX", element_FunctionStdDevX, 0, k_no_flag, position_of(k_sg_Function_elements, element_FunctionStdDevX), 1, &FunctionStdDevXType::k_class},
-    {item_kind::alternative, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:FunctionStdDevY", element_FunctionStdDevY, 0, k_no_flag, position_of(k_sg_Function_elements, element_FunctionStdDevY), 1, &FunctionStdDevYType::k_class},
-    {item_kind::alternative, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:FunctionStdDevZ", element_FunctionStdDevZ, 0, k_no_flag, position_of(k_sg_Function_elements, element_FunctionStdDevZ), 1, &FunctionStdDevZType::k_class},
-    {item_kind::alternative, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:FunctionStdDevL", element_FunctionStdDevL, 0, k_no_flag, position_of(k_sg_Function_elements, element_FunctionStdDevL), 1, &FunctionStdDevLType::k_class},
-    {item_kind::alternative, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:FunctionStdDevA", element_FunctionStdDevA, 0, k_no_flag, position_of(k_sg_Function_elements, element_FunctionStdDevA), 1, &FunctionStdDevAType::k_class},
-    {item_kind::alternative, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:FunctionStdDevB", element_FunctionStdDevB, 0, k_no_flag, position_of(k_sg_Function_elements, element_FunctionStdDevB), 1, &FunctionStdDevBType::k_class},
-    {item_kind::alternative, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:FunctionStdDevC", element_FunctionStdDevC, 0, k_no_flag, position_of(k_sg_Function_elements, element_FunctionStdDevC), 1, &FunctionStdDevCType::k_class},
-    {item_kind::alternative, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:FunctionStdDevH", element_FunctionStdDevH, 0, k_no_flag, position_of(k_sg_Function_elements, element_FunctionStdDevH), 1, &FunctionStdDevHType::k_class},
-    {item_kind::alternative, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:FunctionAverageStdDevL", element_FunctionAverageStdDevL, 0, k_no_flag, position_of(k_sg_Function_elements, element_FunctionAverageStdDevL), 1, &FunctionAverageStdDevLType::k_class},
-    {item_kind::alternative, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:FunctionAverageStdDevA", element_FunctionAverageStdDevA, 0, k_no_flag, position_of(k_sg_Function_elements, element_FunctionAverageStdDevA), 1, &FunctionAverageStdDevAType::k_class},
-    {item_kind::alternative, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:FunctionAverageStdDevB", element_FunctionAverageStdDevB, 0, k_no_flag, position_of(k_sg_Function_elements, element_FunctionAverageStdDevB), 1, &FunctionAverageStdDevBType::k_class},
+constexpr s_item sg_Function::k_items[] = {
+    {item_kind::alternative, value_kind::none, use_demanded, ELMX_WS_PRESERVE, "Vyr:Function", element("Function"), 0, k_no_flag, &FunctionType::k_class, nullptr, FunctionType::k_factory},
+    {item_kind::alternative, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:FunctionGeneric", element("FunctionGeneric"), 0, k_no_flag, &FunctionGenericType::k_class},
+    {item_kind::alternative, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:FunctionDE", element("FunctionDE"), 0, k_no_flag, &FunctionDEType::k_class},
+    {item_kind::alternative, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:FunctionMeanDE", element("FunctionMeanDE"), 0, k_no_flag, &FunctionMeanDEType::k_class},
+    {item_kind::alternative, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:FunctionDE94", element("FunctionDE94"), 0, k_no_flag, &FunctionDE94Type::k_class},
+    {item_kind::alternative, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:FunctionDE2000", element("FunctionDE2000"), 0, k_no_flag, &FunctionDE2000Type::k_class},
+    {item_kind::alternative, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:FunctionDECMC", element("FunctionDECMC"), 0, k_no_flag, &FunctionDEcmcType::k_class},
+    {item_kind::alternative, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:FunctionStdDevX", element("FunctionStdDevX"), 0, k_no_flag, &FunctionStdDevXType::k_class},
+    {item_kind::alternative, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:FunctionStdDevY", element("FunctionStdDevY"), 0, k_no_flag, &FunctionStdDevYType::k_class},
+    {item_kind::alternative, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:FunctionStdDevZ", element("FunctionStdDevZ"), 0, k_no_flag, &FunctionStdDevZType::k_class},
+    {item_kind::alternative, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:FunctionStdDevL", element("FunctionStdDevL"), 0, k_no_flag, &FunctionStdDevLType::k_class},
+    {item_kind::alternative, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:FunctionStdDevA", element("FunctionStdDevA"), 0, k_no_flag, &FunctionStdDevAType::k_class},
+    {item_kind::alternative, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:FunctionStdDevB", element("FunctionStdDevB"), 0, k_no_flag, &FunctionStdDevBType::k_class},
+    {item_kind::alternative, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:FunctionStdDevC", element("FunctionStdDevC"), 0, k_no_flag, &FunctionStdDevCType::k_class},
+    {item_kind::alternative, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:FunctionStdDevH", element("FunctionStdDevH"), 0, k_no_flag, &FunctionStdDevHType::k_class},
+    {item_kind::alternative, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:FunctionAverageStdDevL", element("FunctionAverageStdDevL"), 0, k_no_flag, &FunctionAverageStdDevLType::k_class},
+    {item_kind::alternative, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:FunctionAverageStdDevA", element("FunctionAverageStdDevA"), 0, k_no_flag, &FunctionAverageStdDevAType::k_class},
+    {item_kind::alternative, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:FunctionAverageStdDevB", element("FunctionAverageStdDevB"), 0, k_no_flag, &FunctionAverageStdDevBType::k_class},
 };
 constinit const s_class sg_Function::k_class = {
     .name = "sg_Function",
     .qualified_name = "sg_Function",
     .content = content_kind::group,
+    .names = &k_names,
     .choice = LMX_CHOICE(sg_Function, m_choice),
     .elements = k_items,
-    .element_map = k_sg_Function_elements,
     .operations = &k_operations<sg_Function>,
 };
 

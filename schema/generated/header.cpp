@@ -8,7 +8,6 @@
 
 #include "schema/generated/header.h"
 #include "lmx/binding/binding.h"
-#include "lmx/binding/rows.h"
 #include "schema/generated/palettes.h"
 #include "schema/generated/quality_control.h"
 #include "schema/generated/tables.h"
@@ -20,17 +19,18 @@ namespace com_vyrgraph_v2 {
 
 using namespace lmx;  // for the tables' sake
 
-static_assert(k_binding_version == 5, "run schema/generator/generate.py");
+static_assert(k_binding_version == 6, "run schema/generator/generate.py");
 
 // SDKVersion
 
-constinit const s_item SDKVersion::k_items[] = {
+constexpr s_item SDKVersion::k_items[] = {
     {item_kind::content, value_kind::text, use_required, ELMX_WS_PRESERVE, "", 0, LMX_OFFSET(SDKVersion, m_SDKVersion, content, text), LMX_FLAG(SDKVersion, m_isset_SDKVersion)},
 };
 constinit const s_class SDKVersion::k_class = {
     .name = "SDKVersion",
     .qualified_name = "Vyr:SDKVersion",
     .content = content_kind::simple,
+    .names = &k_names,
     .nil_flag = LMX_FLAG(SDKVersion, m_isnil),
     .elements = k_items,
     .operations = &k_operations<SDKVersion>,
@@ -49,22 +49,17 @@ lmx::elmx_error SDKVersion::set_SDKVersion(const std::u16string& value) { return
 
 // SDKType
 
-constexpr s_event_map k_SDKType_elements[] = {
-    element_event("SDKName", element_SDKName),
-    element_event("SDKVersion", element_SDKVersion),
-    k_end_of_map,
-};
-constinit const s_item SDKType::k_items[] = {
-    {item_kind::element, value_kind::text, use_required | use_name, ELMX_WS_PRESERVE, "Vyr:SDKName", element_SDKName, LMX_OFFSET(SDKType, m_SDKName, element, text), LMX_FLAG(SDKType, m_isset_SDKName), position_of(k_SDKType_elements, element_SDKName), 1},
-    {item_kind::child, value_kind::none, use_required, ELMX_WS_PRESERVE, "Vyr:SDKVersion", element_SDKVersion, LMX_OFFSET(SDKType, m_SDKVersion, child, none), LMX_FLAG(SDKType, m_isset_SDKVersion), position_of(k_SDKType_elements, element_SDKVersion), 1, &SDKVersion::k_class},
+constexpr s_item SDKType::k_items[] = {
+    {item_kind::element, value_kind::text, use_required | use_name, ELMX_WS_PRESERVE, "Vyr:SDKName", element("SDKName"), LMX_OFFSET(SDKType, m_SDKName, element, text), LMX_FLAG(SDKType, m_isset_SDKName)},
+    {item_kind::child, value_kind::none, use_required, ELMX_WS_PRESERVE, "Vyr:SDKVersion", element("SDKVersion"), LMX_OFFSET(SDKType, m_SDKVersion, child, none), LMX_FLAG(SDKType, m_isset_SDKVersion), &SDKVersion::k_class},
 };
 constinit const s_class SDKType::k_class = {
     .name = "SDKType",
     .qualified_name = "Vyr:SDKType",
     .content = content_kind::children,
+    .names = &k_names,
     .ns_map = k_ns_map,
     .elements = k_items,
-    .element_map = k_SDKType_elements,
     .operations = &k_operations<SDKType>,
 };
 
@@ -82,22 +77,17 @@ SDKVersion& SDKType::assign_SDKVersion(const SDKVersion& value) { return get_SDK
 
 // PlatformType
 
-constexpr s_event_map k_PlatformType_elements[] = {
-    element_event("OperatingSystem", element_OperatingSystem),
-    element_event("OperatingSystemVersion", element_OperatingSystemVersion),
-    k_end_of_map,
-};
-constinit const s_item PlatformType::k_items[] = {
-    {item_kind::element, value_kind::text, use_required, ELMX_WS_PRESERVE, "Vyr:OperatingSystem", element_OperatingSystem, LMX_OFFSET(PlatformType, m_OperatingSystem, element, text), LMX_FLAG(PlatformType, m_isset_OperatingSystem), position_of(k_PlatformType_elements, element_OperatingSystem), 1},
-    {item_kind::element, value_kind::text, use_required, ELMX_WS_PRESERVE, "Vyr:OperatingSystemVersion", element_OperatingSystemVersion, LMX_OFFSET(PlatformType, m_OperatingSystemVersion, element, text), LMX_FLAG(PlatformType, m_isset_OperatingSystemVersion), position_of(k_PlatformType_elements, element_OperatingSystemVersion), 1},
+constexpr s_item PlatformType::k_items[] = {
+    {item_kind::element, value_kind::text, use_required, ELMX_WS_PRESERVE, "Vyr:OperatingSystem", element("OperatingSystem"), LMX_OFFSET(PlatformType, m_OperatingSystem, element, text), LMX_FLAG(PlatformType, m_isset_OperatingSystem)},
+    {item_kind::element, value_kind::text, use_required, ELMX_WS_PRESERVE, "Vyr:OperatingSystemVersion", element("OperatingSystemVersion"), LMX_OFFSET(PlatformType, m_OperatingSystemVersion, element, text), LMX_FLAG(PlatformType, m_isset_OperatingSystemVersion)},
 };
 constinit const s_class PlatformType::k_class = {
     .name = "PlatformType",
     .qualified_name = "Vyr:PlatformType",
     .content = content_kind::children,
+    .names = &k_names,
     .ns_map = k_ns_map,
     .elements = k_items,
-    .element_map = k_PlatformType_elements,
     .operations = &k_operations<PlatformType>,
 };
 
@@ -115,41 +105,26 @@ lmx::elmx_error PlatformType::set_OperatingSystemVersion(const std::u16string& v
 
 // Header
 
-constexpr s_event_map k_Header_elements[] = {
-    element_event("CustomAttribute", element_CustomAttribute),
-    element_event("Creator", element_Creator),
-    element_event("CreatorVersion", element_CreatorVersion),
-    element_event("ChangeHistory", element_ChangeHistory),
-    element_event("Purpose", element_Purpose),
-    element_event("Name", element_Name),
-    element_event("Comments", element_Comments),
-    element_event("ReadSDKInformation", element_ReadSDKInformation),
-    element_event("WriteSDKInformation", element_WriteSDKInformation),
-    element_event("ReadPlatformInformation", element_ReadPlatformInformation),
-    element_event("WritePlatformInformation", element_WritePlatformInformation),
-    element_event("Revision", element_Revision),
-    k_end_of_map,
-};
-constinit const s_item Header::k_items[] = {
-    {item_kind::child_list, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:CustomAttribute", element_CustomAttribute, LMX_OFFSET(Header, m_CustomAttribute, child_list, none), k_no_flag, position_of(k_Header_elements, element_CustomAttribute), 1, &CustomAttributeType::k_class},
-    {item_kind::element, value_kind::text, use_required, ELMX_WS_PRESERVE, "Vyr:Creator", element_Creator, LMX_OFFSET(Header, m_Creator, element, text), LMX_FLAG(Header, m_isset_Creator), position_of(k_Header_elements, element_Creator), 1},
-    {item_kind::element, value_kind::text, use_required, ELMX_WS_PRESERVE, "Vyr:CreatorVersion", element_CreatorVersion, LMX_OFFSET(Header, m_CreatorVersion, element, text), LMX_FLAG(Header, m_isset_CreatorVersion), position_of(k_Header_elements, element_CreatorVersion), 1},
-    {item_kind::element_list, value_kind::datetime, use_demanded | use_asked, ELMX_WS_COLLAPSE, "Vyr:ChangeHistory", element_ChangeHistory, LMX_OFFSET(Header, m_ChangeHistory, element_list, datetime), k_no_flag, position_of(k_Header_elements, element_ChangeHistory), 1, nullptr, &facets::DateTimeZone},
-    {item_kind::element, value_kind::text, use_required, ELMX_WS_PRESERVE, "Vyr:Purpose", element_Purpose, LMX_OFFSET(Header, m_Purpose, element, text), LMX_FLAG(Header, m_isset_Purpose), position_of(k_Header_elements, element_Purpose), 1},
-    {item_kind::element, value_kind::text, use_name, ELMX_WS_PRESERVE, "Vyr:Name", element_Name, LMX_OFFSET(Header, m_Name, element, text), LMX_FLAG(Header, m_isset_Name), position_of(k_Header_elements, element_Name), 1},
-    {item_kind::element, value_kind::text, use_optional, ELMX_WS_PRESERVE, "Vyr:Comments", element_Comments, LMX_OFFSET(Header, m_Comments, element, text), LMX_FLAG(Header, m_isset_Comments), position_of(k_Header_elements, element_Comments), 1},
-    {item_kind::optional_child, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:ReadSDKInformation", element_ReadSDKInformation, LMX_OFFSET(Header, m_ReadSDKInformation, optional_child, none), LMX_FLAG(Header, m_isset_ReadSDKInformation), position_of(k_Header_elements, element_ReadSDKInformation), 1, &SDKType::k_class},
-    {item_kind::optional_child, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:WriteSDKInformation", element_WriteSDKInformation, LMX_OFFSET(Header, m_WriteSDKInformation, optional_child, none), LMX_FLAG(Header, m_isset_WriteSDKInformation), position_of(k_Header_elements, element_WriteSDKInformation), 1, &SDKType::k_class},
-    {item_kind::optional_child, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:ReadPlatformInformation", element_ReadPlatformInformation, LMX_OFFSET(Header, m_ReadPlatformInformation, optional_child, none), LMX_FLAG(Header, m_isset_ReadPlatformInformation), position_of(k_Header_elements, element_ReadPlatformInformation), 1, &PlatformType::k_class},
-    {item_kind::optional_child, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:WritePlatformInformation", element_WritePlatformInformation, LMX_OFFSET(Header, m_WritePlatformInformation, optional_child, none), LMX_FLAG(Header, m_isset_WritePlatformInformation), position_of(k_Header_elements, element_WritePlatformInformation), 1, &PlatformType::k_class},
-    {item_kind::child_list, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:Revision", element_Revision, LMX_OFFSET(Header, m_Revision, child_list, none), k_no_flag, position_of(k_Header_elements, element_Revision), 1, &Revision::k_class},
+constexpr s_item Header::k_items[] = {
+    {item_kind::child_list, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:CustomAttribute", element("CustomAttribute"), LMX_OFFSET(Header, m_CustomAttribute, child_list, none), k_no_flag, &CustomAttributeType::k_class},
+    {item_kind::element, value_kind::text, use_required, ELMX_WS_PRESERVE, "Vyr:Creator", element("Creator"), LMX_OFFSET(Header, m_Creator, element, text), LMX_FLAG(Header, m_isset_Creator)},
+    {item_kind::element, value_kind::text, use_required, ELMX_WS_PRESERVE, "Vyr:CreatorVersion", element("CreatorVersion"), LMX_OFFSET(Header, m_CreatorVersion, element, text), LMX_FLAG(Header, m_isset_CreatorVersion)},
+    {item_kind::element_list, value_kind::datetime, use_demanded | use_asked, ELMX_WS_COLLAPSE, "Vyr:ChangeHistory", element("ChangeHistory"), LMX_OFFSET(Header, m_ChangeHistory, element_list, datetime), k_no_flag, nullptr, &facets::DateTimeZone},
+    {item_kind::element, value_kind::text, use_required, ELMX_WS_PRESERVE, "Vyr:Purpose", element("Purpose"), LMX_OFFSET(Header, m_Purpose, element, text), LMX_FLAG(Header, m_isset_Purpose)},
+    {item_kind::element, value_kind::text, use_name, ELMX_WS_PRESERVE, "Vyr:Name", element("Name"), LMX_OFFSET(Header, m_Name, element, text), LMX_FLAG(Header, m_isset_Name)},
+    {item_kind::element, value_kind::text, use_optional, ELMX_WS_PRESERVE, "Vyr:Comments", element("Comments"), LMX_OFFSET(Header, m_Comments, element, text), LMX_FLAG(Header, m_isset_Comments)},
+    {item_kind::optional_child, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:ReadSDKInformation", element("ReadSDKInformation"), LMX_OFFSET(Header, m_ReadSDKInformation, optional_child, none), LMX_FLAG(Header, m_isset_ReadSDKInformation), &SDKType::k_class},
+    {item_kind::optional_child, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:WriteSDKInformation", element("WriteSDKInformation"), LMX_OFFSET(Header, m_WriteSDKInformation, optional_child, none), LMX_FLAG(Header, m_isset_WriteSDKInformation), &SDKType::k_class},
+    {item_kind::optional_child, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:ReadPlatformInformation", element("ReadPlatformInformation"), LMX_OFFSET(Header, m_ReadPlatformInformation, optional_child, none), LMX_FLAG(Header, m_isset_ReadPlatformInformation), &PlatformType::k_class},
+    {item_kind::optional_child, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:WritePlatformInformation", element("WritePlatformInformation"), LMX_OFFSET(Header, m_WritePlatformInformation, optional_child, none), LMX_FLAG(Header, m_isset_WritePlatformInformation), &PlatformType::k_class},
+    {item_kind::child_list, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:Revision", element("Revision"), LMX_OFFSET(Header, m_Revision, child_list, none), k_no_flag, &Revision::k_class},
 };
 constinit const s_class Header::k_class = {
     .name = "Header",
     .qualified_name = "Vyr:Header",
     .content = content_kind::children,
+    .names = &k_names,
     .elements = k_items,
-    .element_map = k_Header_elements,
     .operations = &k_operations<Header>,
 };
 
@@ -199,27 +174,20 @@ void Header::clear_Revision() { m_Revision.clear(); }
 
 // OwnerType
 
-constexpr s_event_map k_OwnerType_elements[] = {
-    element_event("CustomAttribute", element_CustomAttribute),
-    element_event("Person", element_Person),
-    element_event("Copyright", element_Copyright),
-    element_event("Company", element_Company),
-    k_end_of_map,
-};
-constinit const s_item OwnerType::k_items[] = {
-    {item_kind::child_list, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:CustomAttribute", element_CustomAttribute, LMX_OFFSET(OwnerType, m_CustomAttribute, child_list, none), k_no_flag, position_of(k_OwnerType_elements, element_CustomAttribute), 1, &CustomAttributeType::k_class},
-    {item_kind::child_list, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:Person", element_Person, LMX_OFFSET(OwnerType, m_Person, child_list, none), k_no_flag, position_of(k_OwnerType_elements, element_Person), 1, &Person::k_class},
-    {item_kind::element_list, value_kind::text, use_optional, ELMX_WS_PRESERVE, "Vyr:Copyright", element_Copyright, LMX_OFFSET(OwnerType, m_Copyright, element_list, text), k_no_flag, position_of(k_OwnerType_elements, element_Copyright), 1},
-    {item_kind::element_list, value_kind::text, use_optional, ELMX_WS_PRESERVE, "Vyr:Company", element_Company, LMX_OFFSET(OwnerType, m_Company, element_list, text), k_no_flag, position_of(k_OwnerType_elements, element_Company), 1},
+constexpr s_item OwnerType::k_items[] = {
+    {item_kind::child_list, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:CustomAttribute", element("CustomAttribute"), LMX_OFFSET(OwnerType, m_CustomAttribute, child_list, none), k_no_flag, &CustomAttributeType::k_class},
+    {item_kind::child_list, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:Person", element("Person"), LMX_OFFSET(OwnerType, m_Person, child_list, none), k_no_flag, &Person::k_class},
+    {item_kind::element_list, value_kind::text, use_optional, ELMX_WS_PRESERVE, "Vyr:Copyright", element("Copyright"), LMX_OFFSET(OwnerType, m_Copyright, element_list, text), k_no_flag},
+    {item_kind::element_list, value_kind::text, use_optional, ELMX_WS_PRESERVE, "Vyr:Company", element("Company"), LMX_OFFSET(OwnerType, m_Company, element_list, text), k_no_flag},
 };
 constinit const s_class OwnerType::k_class = {
     .name = "OwnerType",
     .qualified_name = "Vyr:OwnerType",
     .content = content_kind::children,
     .may_be_empty = true,
+    .names = &k_names,
     .ns_map = k_ns_map,
     .elements = k_items,
-    .element_map = k_OwnerType_elements,
     .operations = &k_operations<OwnerType>,
 };
 
@@ -257,24 +225,18 @@ void OwnerType::clear_Company() { m_Company.clear(); }
 
 // Version
 
-constexpr s_event_map k_Version_elements[] = {
-    element_event("CustomAttribute", element_CustomAttribute),
-    element_event("Version", element_Version),
-    element_event("Predecessor", element_Predecessor),
-    k_end_of_map,
-};
-constinit const s_item Version::k_items[] = {
-    {item_kind::child_list, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:CustomAttribute", element_CustomAttribute, LMX_OFFSET(Version, m_CustomAttribute, child_list, none), k_no_flag, position_of(k_Version_elements, element_CustomAttribute), 1, &CustomAttributeType::k_class},
-    {item_kind::element, value_kind::text, use_required, ELMX_WS_PRESERVE, "Vyr:Version", element_Version, LMX_OFFSET(Version, m_Version, element, text), LMX_FLAG(Version, m_isset_Version), position_of(k_Version_elements, element_Version), 1},
-    {item_kind::element_list, value_kind::text, use_optional, ELMX_WS_COLLAPSE, "Vyr:Predecessor", element_Predecessor, LMX_OFFSET(Version, m_Predecessor, element_list, text), k_no_flag, position_of(k_Version_elements, element_Predecessor), 1},
+constexpr s_item Version::k_items[] = {
+    {item_kind::child_list, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:CustomAttribute", element("CustomAttribute"), LMX_OFFSET(Version, m_CustomAttribute, child_list, none), k_no_flag, &CustomAttributeType::k_class},
+    {item_kind::element, value_kind::text, use_required, ELMX_WS_PRESERVE, "Vyr:Version", element("Version"), LMX_OFFSET(Version, m_Version, element, text), LMX_FLAG(Version, m_isset_Version)},
+    {item_kind::element_list, value_kind::text, use_optional, ELMX_WS_COLLAPSE, "Vyr:Predecessor", element("Predecessor"), LMX_OFFSET(Version, m_Predecessor, element_list, text), k_no_flag},
 };
 constinit const s_class Version::k_class = {
     .name = "Version",
     .qualified_name = "Vyr:Version",
     .content = content_kind::children,
     .may_be_empty = true,
+    .names = &k_names,
     .elements = k_items,
-    .element_map = k_Version_elements,
     .operations = &k_operations<Version>,
 };
 
@@ -302,23 +264,17 @@ void Version::clear_Predecessor() { m_Predecessor.clear(); }
 
 // Preamble
 
-constexpr s_event_map k_Preamble_elements[] = {
-    element_event("Header", element_Header),
-    element_event("Owner", element_Owner),
-    element_event("Version", element_Version),
-    k_end_of_map,
-};
-constinit const s_item Preamble::k_items[] = {
-    {item_kind::child, value_kind::none, use_required, ELMX_WS_PRESERVE, "Vyr:Header", element_Header, LMX_OFFSET(Preamble, m_Header, child, none), LMX_FLAG(Preamble, m_isset_Header), position_of(k_Preamble_elements, element_Header), 1, &Header::k_class},
-    {item_kind::optional_child, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:Owner", element_Owner, LMX_OFFSET(Preamble, m_Owner, optional_child, none), LMX_FLAG(Preamble, m_isset_Owner), position_of(k_Preamble_elements, element_Owner), 1, &OwnerType::k_class},
-    {item_kind::optional_child, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:Version", element_Version, LMX_OFFSET(Preamble, m_Version, optional_child, none), LMX_FLAG(Preamble, m_isset_Version), position_of(k_Preamble_elements, element_Version), 1, &Version::k_class},
+constexpr s_item Preamble::k_items[] = {
+    {item_kind::child, value_kind::none, use_required, ELMX_WS_PRESERVE, "Vyr:Header", element("Header"), LMX_OFFSET(Preamble, m_Header, child, none), LMX_FLAG(Preamble, m_isset_Header), &Header::k_class},
+    {item_kind::optional_child, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:Owner", element("Owner"), LMX_OFFSET(Preamble, m_Owner, optional_child, none), LMX_FLAG(Preamble, m_isset_Owner), &OwnerType::k_class},
+    {item_kind::optional_child, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:Version", element("Version"), LMX_OFFSET(Preamble, m_Version, optional_child, none), LMX_FLAG(Preamble, m_isset_Version), &Version::k_class},
 };
 constinit const s_class Preamble::k_class = {
     .name = "Preamble",
     .qualified_name = "Vyr:Preamble",
     .content = content_kind::children,
+    .names = &k_names,
     .elements = k_items,
-    .element_map = k_Preamble_elements,
     .operations = &k_operations<Preamble>,
 };
 
@@ -341,26 +297,19 @@ Version& Preamble::assign_Version(const Version& value) { return get_Version() =
 
 // Vyr
 
-constexpr s_event_map k_Vyr_elements[] = {
-    element_event("Preamble", element_Preamble),
-    element_event("Color", element_Color),
-    element_event("Palette", element_Palette),
-    element_event("ColorQualityControl", element_ColorQualityControl),
-    k_end_of_map,
-};
-constinit const s_item Vyr::k_items[] = {
-    {item_kind::child, value_kind::none, use_required, ELMX_WS_PRESERVE, "Vyr:Preamble", element_Preamble, LMX_OFFSET(Vyr, m_Preamble, child, none), LMX_FLAG(Vyr, m_isset_Preamble), position_of(k_Vyr_elements, element_Preamble), 1, &Preamble::k_class},
-    {item_kind::child_list, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:Color", element_Color, LMX_OFFSET(Vyr, m_Color, child_list, none), k_no_flag, position_of(k_Vyr_elements, element_Color), 1, &ColorType::k_class},
-    {item_kind::child_list, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:Palette", element_Palette, LMX_OFFSET(Vyr, m_Palette, child_list, none), k_no_flag, position_of(k_Vyr_elements, element_Palette), 1, &PaletteType::k_class},
-    {item_kind::child_list, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:ColorQualityControl", element_ColorQualityControl, LMX_OFFSET(Vyr, m_ColorQualityControl, child_list, none), k_no_flag, position_of(k_Vyr_elements, element_ColorQualityControl), 1, &ColorQualityControlType::k_class},
+constexpr s_item Vyr::k_items[] = {
+    {item_kind::child, value_kind::none, use_required, ELMX_WS_PRESERVE, "Vyr:Preamble", element("Preamble"), LMX_OFFSET(Vyr, m_Preamble, child, none), LMX_FLAG(Vyr, m_isset_Preamble), &Preamble::k_class},
+    {item_kind::child_list, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:Color", element("Color"), LMX_OFFSET(Vyr, m_Color, child_list, none), k_no_flag, &ColorType::k_class},
+    {item_kind::child_list, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:Palette", element("Palette"), LMX_OFFSET(Vyr, m_Palette, child_list, none), k_no_flag, &PaletteType::k_class},
+    {item_kind::child_list, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:ColorQualityControl", element("ColorQualityControl"), LMX_OFFSET(Vyr, m_ColorQualityControl, child_list, none), k_no_flag, &ColorQualityControlType::k_class},
 };
 constinit const s_class Vyr::k_class = {
     .name = "Vyr",
     .qualified_name = "Vyr:Vyr",
     .content = content_kind::children,
+    .names = &k_names,
     .ns_map = k_ns_map,
     .elements = k_items,
-    .element_map = k_Vyr_elements,
     .operations = &k_operations<Vyr>,
 };
 
@@ -407,7 +356,7 @@ void Vyr::clear_ColorQualityControl() { m_ColorQualityControl.clear(); }
 
 // Revision
 
-constinit const s_item Revision::k_items[] = {
+constexpr s_item Revision::k_items[] = {
     {item_kind::any, value_kind::none, use_demanded | use_asked, ELMX_WS_PRESERVE, "Vyr:", 0, LMX_OFFSET(Revision, m_any, any, none), k_no_flag},
 };
 constinit const s_class Revision::k_class = {
@@ -415,6 +364,7 @@ constinit const s_class Revision::k_class = {
     .qualified_name = "Vyr:Revision",
     .content = content_kind::children,
     .may_be_empty = true,
+    .names = &k_names,
     .elements = k_items,
     .operations = &k_operations<Revision>,
 };
@@ -436,22 +386,17 @@ void Revision::clear_any() { m_any.clear(); }
 
 // Person
 
-constexpr s_event_map k_Person_elements[] = {
-    element_event("Name", element_Name),
-    element_event("ContactInfo", element_ContactInfo),
-    k_end_of_map,
-};
-constinit const s_item Person::k_items[] = {
-    {item_kind::element, value_kind::text, use_required | use_name, ELMX_WS_PRESERVE, "Vyr:Name", element_Name, LMX_OFFSET(Person, m_Name, element, text), LMX_FLAG(Person, m_isset_Name), position_of(k_Person_elements, element_Name), 1},
-    {item_kind::element, value_kind::text, use_optional, ELMX_WS_PRESERVE, "Vyr:ContactInfo", element_ContactInfo, LMX_OFFSET(Person, m_ContactInfo, element, text), LMX_FLAG(Person, m_isset_ContactInfo), position_of(k_Person_elements, element_ContactInfo), 1},
+constexpr s_item Person::k_items[] = {
+    {item_kind::element, value_kind::text, use_required | use_name, ELMX_WS_PRESERVE, "Vyr:Name", element("Name"), LMX_OFFSET(Person, m_Name, element, text), LMX_FLAG(Person, m_isset_Name)},
+    {item_kind::element, value_kind::text, use_optional, ELMX_WS_PRESERVE, "Vyr:ContactInfo", element("ContactInfo"), LMX_OFFSET(Person, m_ContactInfo, element, text), LMX_FLAG(Person, m_isset_ContactInfo)},
 };
 constinit const s_class Person::k_class = {
     .name = "Person",
     .qualified_name = "Vyr:Person",
     .content = content_kind::children,
     .may_be_empty = true,
+    .names = &k_names,
     .elements = k_items,
-    .element_map = k_Person_elements,
     .operations = &k_operations<Person>,
 };
 
@@ -469,24 +414,18 @@ lmx::elmx_error Person::set_ContactInfo(const std::u16string& value) { return lm
 
 // CustomAttributeType_ValueChoice
 
-constexpr s_event_map k_CustomAttributeType_ValueChoice_elements[] = {
-    element_event("DoubleValue", element_DoubleValue),
-    element_event("IntegerValue", element_IntegerValue),
-    element_event("StringValue", element_StringValue),
-    k_end_of_map,
-};
-constinit const s_item CustomAttributeType_ValueChoice::k_items[] = {
-    {item_kind::alternative, value_kind::number, use_optional, ELMX_WS_COLLAPSE, "Vyr:DoubleValue", element_DoubleValue, 0, k_no_flag, position_of(k_CustomAttributeType_ValueChoice_elements, element_DoubleValue), 1},
-    {item_kind::alternative, value_kind::int32, use_optional, ELMX_WS_COLLAPSE, "Vyr:IntegerValue", element_IntegerValue, 0, k_no_flag, position_of(k_CustomAttributeType_ValueChoice_elements, element_IntegerValue), 1, nullptr, &facets::Int32},
-    {item_kind::alternative, value_kind::text, use_optional, ELMX_WS_PRESERVE, "Vyr:StringValue", element_StringValue, 0, k_no_flag, position_of(k_CustomAttributeType_ValueChoice_elements, element_StringValue), 1},
+constexpr s_item CustomAttributeType_ValueChoice::k_items[] = {
+    {item_kind::alternative, value_kind::number, use_optional, ELMX_WS_COLLAPSE, "Vyr:DoubleValue", element("DoubleValue"), 0, k_no_flag},
+    {item_kind::alternative, value_kind::int32, use_optional, ELMX_WS_COLLAPSE, "Vyr:IntegerValue", element("IntegerValue"), 0, k_no_flag, nullptr, &facets::Int32},
+    {item_kind::alternative, value_kind::text, use_optional, ELMX_WS_PRESERVE, "Vyr:StringValue", element("StringValue"), 0, k_no_flag},
 };
 constinit const s_class CustomAttributeType_ValueChoice::k_class = {
     .name = "CustomAttributeType_ValueChoice",
     .qualified_name = "Vyr:ValueChoice",
     .content = content_kind::choice,
+    .names = &k_names,
     .choice = LMX_CHOICE(CustomAttributeType_ValueChoice, m_choice),
     .elements = k_items,
-    .element_map = k_CustomAttributeType_ValueChoice_elements,
     .operations = &k_operations<CustomAttributeType_ValueChoice>,
 };
 
@@ -506,22 +445,17 @@ lmx::elmx_error CustomAttributeType_ValueChoice::set_StringValue(const std::u16s
 
 // CustomAttributeType
 
-constexpr s_event_map k_CustomAttributeType_elements[] = {
-    element_event("Name", element_Name),
-    element_event("ValueChoice", element_ValueChoice),
-    k_end_of_map,
-};
-constinit const s_item CustomAttributeType::k_items[] = {
-    {item_kind::element, value_kind::text, use_required | use_name, ELMX_WS_PRESERVE, "Vyr:Name", element_Name, LMX_OFFSET(CustomAttributeType, m_Name, element, text), LMX_FLAG(CustomAttributeType, m_isset_Name), position_of(k_CustomAttributeType_elements, element_Name), 1, nullptr, &facets::NonEmptyString},
-    {item_kind::child, value_kind::none, use_required, ELMX_WS_PRESERVE, "Vyr:ValueChoice", element_ValueChoice, LMX_OFFSET(CustomAttributeType, m_ValueChoice, child, none), LMX_FLAG(CustomAttributeType, m_isset_ValueChoice), position_of(k_CustomAttributeType_elements, element_ValueChoice), 1, &CustomAttributeType_ValueChoice::k_class},
+constexpr s_item CustomAttributeType::k_items[] = {
+    {item_kind::element, value_kind::text, use_required | use_name, ELMX_WS_PRESERVE, "Vyr:Name", element("Name"), LMX_OFFSET(CustomAttributeType, m_Name, element, text), LMX_FLAG(CustomAttributeType, m_isset_Name), nullptr, &facets::NonEmptyString},
+    {item_kind::child, value_kind::none, use_required, ELMX_WS_PRESERVE, "Vyr:ValueChoice", element("ValueChoice"), LMX_OFFSET(CustomAttributeType, m_ValueChoice, child, none), LMX_FLAG(CustomAttributeType, m_isset_ValueChoice), &CustomAttributeType_ValueChoice::k_class},
 };
 constinit const s_class CustomAttributeType::k_class = {
     .name = "CustomAttributeType",
     .qualified_name = "Vyr:CustomAttributeType",
     .content = content_kind::children,
+    .names = &k_names,
     .ns_map = k_ns_map,
     .elements = k_items,
-    .element_map = k_CustomAttributeType_elements,
     .operations = &k_operations<CustomAttributeType>,
 };
 
@@ -539,22 +473,17 @@ CustomAttributeType_ValueChoice& CustomAttributeType::assign_ValueChoice(const C
 
 // TagCategory
 
-constexpr s_event_map k_TagCategory_attributes[] = {
-    attribute_event("UniqueID", attribute_UniqueID),
-    attribute_event("Name", attribute_Name),
-    k_end_of_map,
-};
-constinit const s_item TagCategory::k_items[] = {
-    {item_kind::attribute, value_kind::text, use_optional, ELMX_WS_PRESERVE, "UniqueID", attribute_UniqueID, LMX_OFFSET(TagCategory, m_UniqueID, attribute, text), LMX_FLAG(TagCategory, m_isset_UniqueID)},
-    {item_kind::attribute, value_kind::text, use_name, ELMX_WS_PRESERVE, "Name", attribute_Name, LMX_OFFSET(TagCategory, m_Name, attribute, text), LMX_FLAG(TagCategory, m_isset_Name)},
+constexpr s_item TagCategory::k_items[] = {
+    {item_kind::attribute, value_kind::text, use_optional, ELMX_WS_PRESERVE, "UniqueID", attribute("UniqueID"), LMX_OFFSET(TagCategory, m_UniqueID, attribute, text), LMX_FLAG(TagCategory, m_isset_UniqueID)},
+    {item_kind::attribute, value_kind::text, use_name, ELMX_WS_PRESERVE, "Name", attribute("Name"), LMX_OFFSET(TagCategory, m_Name, attribute, text), LMX_FLAG(TagCategory, m_isset_Name)},
 };
 constinit const s_class TagCategory::k_class = {
     .name = "TagCategory",
     .qualified_name = "Vyr:TagCategory",
     .content = content_kind::empty,
+    .names = &k_names,
     .ns_map = k_ns_map,
     .attributes = k_items,
-    .attribute_map = k_TagCategory_attributes,
     .operations = &k_operations<TagCategory>,
 };
 
@@ -572,29 +501,19 @@ lmx::elmx_error TagCategory::set_Name(const std::u16string& value) { return lmx:
 
 // Tag
 
-constexpr s_event_map k_Tag_attributes[] = {
-    attribute_event("Name", attribute_Name),
-    attribute_event("UniqueID", attribute_UniqueID),
-    k_end_of_map,
-};
-constexpr s_event_map k_Tag_elements[] = {
-    element_event("Category", element_Category),
-    k_end_of_map,
-};
-constinit const s_item Tag::k_items[] = {
-    {item_kind::attribute, value_kind::text, use_name, ELMX_WS_PRESERVE, "Name", attribute_Name, LMX_OFFSET(Tag, m_Name, attribute, text), LMX_FLAG(Tag, m_isset_Name)},
-    {item_kind::attribute, value_kind::text, use_optional, ELMX_WS_PRESERVE, "UniqueID", attribute_UniqueID, LMX_OFFSET(Tag, m_UniqueID, attribute, text), LMX_FLAG(Tag, m_isset_UniqueID)},
-    {item_kind::child, value_kind::none, use_written | use_copied, ELMX_WS_PRESERVE, "Vyr:Category", element_Category, LMX_OFFSET(Tag, m_Category, child, none), LMX_FLAG(Tag, m_isset_Category), position_of(k_Tag_elements, element_Category), 1, &TagCategory::k_class},
+constexpr s_item Tag::k_items[] = {
+    {item_kind::attribute, value_kind::text, use_name, ELMX_WS_PRESERVE, "Name", attribute("Name"), LMX_OFFSET(Tag, m_Name, attribute, text), LMX_FLAG(Tag, m_isset_Name)},
+    {item_kind::attribute, value_kind::text, use_optional, ELMX_WS_PRESERVE, "UniqueID", attribute("UniqueID"), LMX_OFFSET(Tag, m_UniqueID, attribute, text), LMX_FLAG(Tag, m_isset_UniqueID)},
+    {item_kind::child, value_kind::none, use_written | use_copied, ELMX_WS_PRESERVE, "Vyr:Category", element("Category"), LMX_OFFSET(Tag, m_Category, child, none), LMX_FLAG(Tag, m_isset_Category), &TagCategory::k_class},
 };
 constinit const s_class Tag::k_class = {
     .name = "Tag",
     .qualified_name = "Vyr:Tag",
     .content = content_kind::children,
+    .names = &k_names,
     .ns_map = k_ns_map,
-    .attributes = std::span(k_items).first(std::size(k_Tag_attributes) - 1),
-    .elements = std::span(k_items).subspan(std::size(k_Tag_attributes) - 1),
-    .attribute_map = k_Tag_attributes,
-    .element_map = k_Tag_elements,
+    .attributes = std::span(k_items).first(attribute_count(k_items)),
+    .elements = std::span(k_items).subspan(attribute_count(k_items)),
     .operations = &k_operations<Tag>,
 };
 
@@ -613,22 +532,17 @@ TagCategory& Tag::assign_Category(const TagCategory& value) { return get_Categor
 
 // anon_TextValue
 
-constexpr s_event_map k_anon_TextValue_elements[] = {
-    element_event("TextValue", element_TextValue),
-    element_event("NumberValue", element_NumberValue),
-    k_end_of_map,
-};
-constinit const s_item anon_TextValue::k_items[] = {
-    {item_kind::alternative, value_kind::text, use_optional, ELMX_WS_PRESERVE, "Vyr:TextValue", element_TextValue, 0, k_no_flag, position_of(k_anon_TextValue_elements, element_TextValue), 1},
-    {item_kind::alternative, value_kind::number, use_optional, ELMX_WS_COLLAPSE, "Vyr:NumberValue", element_NumberValue, 0, k_no_flag, position_of(k_anon_TextValue_elements, element_NumberValue), 1},
+constexpr s_item anon_TextValue::k_items[] = {
+    {item_kind::alternative, value_kind::text, use_optional, ELMX_WS_PRESERVE, "Vyr:TextValue", element("TextValue"), 0, k_no_flag},
+    {item_kind::alternative, value_kind::number, use_optional, ELMX_WS_COLLAPSE, "Vyr:NumberValue", element("NumberValue"), 0, k_no_flag},
 };
 constinit const s_class anon_TextValue::k_class = {
     .name = "anon_TextValue",
     .qualified_name = "",
     .content = content_kind::choice,
+    .names = &k_names,
     .choice = LMX_CHOICE(anon_TextValue, m_choice),
     .elements = k_items,
-    .element_map = k_anon_TextValue_elements,
     .operations = &k_operations<anon_TextValue>,
 };
 
@@ -648,30 +562,19 @@ lmx::elmx_error anon_TextValue::set_NumberValue(double value) { return lmx::set_
 
 // TagValue
 
-constexpr s_event_map k_TagValue_attributes[] = {
-    attribute_event("UniqueID", attribute_UniqueID),
-    k_end_of_map,
-};
-constexpr s_event_map k_TagValue_elements[] = {
-    element_event("Tag", element_Tag),
-    element_event("TextValue", element_TextValue),
-    element_event("NumberValue", element_NumberValue),
-    k_end_of_map,
-};
-constinit const s_item TagValue::k_items[] = {
-    {item_kind::attribute, value_kind::text, use_optional, ELMX_WS_PRESERVE, "UniqueID", attribute_UniqueID, LMX_OFFSET(TagValue, m_UniqueID, attribute, text), LMX_FLAG(TagValue, m_isset_UniqueID)},
-    {item_kind::child, value_kind::none, use_required, ELMX_WS_PRESERVE, "Vyr:Tag", element_Tag, LMX_OFFSET(TagValue, m_Tag, child, none), LMX_FLAG(TagValue, m_isset_Tag), position_of(k_TagValue_elements, element_Tag), 1, &Tag::k_class},
-    {item_kind::group, value_kind::none, use_required, ELMX_WS_PRESERVE, "", 0, LMX_OFFSET(TagValue, m_anon_TextValue, group, none), LMX_FLAG(TagValue, m_isset_anon_TextValue), position_of(k_TagValue_elements, element_TextValue), 2, &anon_TextValue::k_class},
+constexpr s_item TagValue::k_items[] = {
+    {item_kind::attribute, value_kind::text, use_optional, ELMX_WS_PRESERVE, "UniqueID", attribute("UniqueID"), LMX_OFFSET(TagValue, m_UniqueID, attribute, text), LMX_FLAG(TagValue, m_isset_UniqueID)},
+    {item_kind::child, value_kind::none, use_required, ELMX_WS_PRESERVE, "Vyr:Tag", element("Tag"), LMX_OFFSET(TagValue, m_Tag, child, none), LMX_FLAG(TagValue, m_isset_Tag), &Tag::k_class},
+    {item_kind::group, value_kind::none, use_required, ELMX_WS_PRESERVE, "", 0, LMX_OFFSET(TagValue, m_anon_TextValue, group, none), LMX_FLAG(TagValue, m_isset_anon_TextValue), &anon_TextValue::k_class},
 };
 constinit const s_class TagValue::k_class = {
     .name = "TagValue",
     .qualified_name = "Vyr:TagValue",
     .content = content_kind::children,
+    .names = &k_names,
     .ns_map = k_ns_map,
-    .attributes = std::span(k_items).first(std::size(k_TagValue_attributes) - 1),
-    .elements = std::span(k_items).subspan(std::size(k_TagValue_attributes) - 1),
-    .attribute_map = k_TagValue_attributes,
-    .element_map = k_TagValue_elements,
+    .attributes = std::span(k_items).first(attribute_count(k_items)),
+    .elements = std::span(k_items).subspan(attribute_count(k_items)),
     .operations = &k_operations<TagValue>,
 };
 

@@ -8,7 +8,6 @@
 
 #include "schema/generated/palettes.h"
 #include "lmx/binding/binding.h"
-#include "lmx/binding/rows.h"
 #include "schema/generated/conditions.h"
 #include "schema/generated/groups.h"
 #include "schema/generated/header.h"
@@ -21,35 +20,26 @@ namespace com_vyrgraph_v2 {
 
 using namespace lmx;  // for the tables' sake
 
-static_assert(k_binding_version == 5, "run schema/generator/generate.py");
+static_assert(k_binding_version == 6, "run schema/generator/generate.py");
 
 // CollectionColorSpaceSpecificationType
 
-constexpr s_event_map k_CollectionColorSpaceSpecificationType_elements[] = {
-    element_event("ColorSpaceSpecificationSpectrumGeneric", element_ColorSpaceSpecificationSpectrumGeneric),
-    element_event("ColorSpaceSpecificationSpectrumSpectral", element_ColorSpaceSpecificationSpectrumSpectral),
-    element_event("ColorSpaceSpecificationSpectrumTristimulus", element_ColorSpaceSpecificationSpectrumTristimulus),
-    element_event("ColorSpaceSpecificationEmissiveGeneric", element_ColorSpaceSpecificationEmissiveGeneric),
-    element_event("ColorSpaceSpecificationEmissiveSpectral", element_ColorSpaceSpecificationEmissiveSpectral),
-    element_event("ColorSpaceSpecificationEmissiveTristimulus", element_ColorSpaceSpecificationEmissiveTristimulus),
-    k_end_of_map,
-};
-constinit const s_item CollectionColorSpaceSpecificationType::k_items[] = {
-    {item_kind::optional_child, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:ColorSpaceSpecificationSpectrumGeneric", element_ColorSpaceSpecificationSpectrumGeneric, LMX_OFFSET(CollectionColorSpaceSpecificationType, m_ColorSpaceSpecificationSpectrumGeneric, optional_child, none), LMX_FLAG(CollectionColorSpaceSpecificationType, m_isset_ColorSpaceSpecificationSpectrumGeneric), position_of(k_CollectionColorSpaceSpecificationType_elements, element_ColorSpaceSpecificationSpectrumGeneric), 1, &ColorSpaceSpecificationSpectrumGeneric::k_class},
-    {item_kind::optional_child, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:ColorSpaceSpecificationSpectrumSpectral", element_ColorSpaceSpecificationSpectrumSpectral, LMX_OFFSET(CollectionColorSpaceSpecificationType, m_ColorSpaceSpecificationSpectrumSpectral, optional_child, none), LMX_FLAG(CollectionColorSpaceSpecificationType, m_isset_ColorSpaceSpecificationSpectrumSpectral), position_of(k_CollectionColorSpaceSpecificationType_elements, element_ColorSpaceSpecificationSpectrumSpectral), 1, &ColorSpaceSpecificationSpectrumSpectral::k_class},
-    {item_kind::optional_child, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:ColorSpaceSpecificationSpectrumTristimulus", element_ColorSpaceSpecificationSpectrumTristimulus, LMX_OFFSET(CollectionColorSpaceSpecificationType, m_ColorSpaceSpecificationSpectrumTristimulus, optional_child, none), LMX_FLAG(CollectionColorSpaceSpecificationType, m_isset_ColorSpaceSpecificationSpectrumTristimulus), position_of(k_CollectionColorSpaceSpecificationType_elements, element_ColorSpaceSpecificationSpectrumTristimulus), 1, &ColorSpaceSpecificationSpectrumTristimulus::k_class},
-    {item_kind::optional_child, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:ColorSpaceSpecificationEmissiveGeneric", element_ColorSpaceSpecificationEmissiveGeneric, LMX_OFFSET(CollectionColorSpaceSpecificationType, m_ColorSpaceSpecificationEmissiveGeneric, optional_child, none), LMX_FLAG(CollectionColorSpaceSpecificationType, m_isset_ColorSpaceSpecificationEmissiveGeneric), position_of(k_CollectionColorSpaceSpecificationType_elements, element_ColorSpaceSpecificationEmissiveGeneric), 1, &ColorSpaceSpecificationEmissiveGeneric::k_class},
-    {item_kind::optional_child, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:ColorSpaceSpecificationEmissiveSpectral", element_ColorSpaceSpecificationEmissiveSpectral, LMX_OFFSET(CollectionColorSpaceSpecificationType, m_ColorSpaceSpecificationEmissiveSpectral, optional_child, none), LMX_FLAG(CollectionColorSpaceSpecificationType, m_isset_ColorSpaceSpecificationEmissiveSpectral), position_of(k_CollectionColorSpaceSpecificationType_elements, element_ColorSpaceSpecificationEmissiveSpectral), 1, &ColorSpaceSpecificationEmissiveSpectral::k_class},
-    {item_kind::optional_child, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:ColorSpaceSpecificationEmissiveTristimulus", element_ColorSpaceSpecificationEmissiveTristimulus, LMX_OFFSET(CollectionColorSpaceSpecificationType, m_ColorSpaceSpecificationEmissiveTristimulus, optional_child, none), LMX_FLAG(CollectionColorSpaceSpecificationType, m_isset_ColorSpaceSpecificationEmissiveTristimulus), position_of(k_CollectionColorSpaceSpecificationType_elements, element_ColorSpaceSpecificationEmissiveTristimulus), 1, &ColorSpaceSpecificationEmissiveTristimulus::k_class},
+constexpr s_item CollectionColorSpaceSpecificationType::k_items[] = {
+    {item_kind::optional_child, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:ColorSpaceSpecificationSpectrumGeneric", element("ColorSpaceSpecificationSpectrumGeneric"), LMX_OFFSET(CollectionColorSpaceSpecificationType, m_ColorSpaceSpecificationSpectrumGeneric, optional_child, none), LMX_FLAG(CollectionColorSpaceSpecificationType, m_isset_ColorSpaceSpecificationSpectrumGeneric), &ColorSpaceSpecificationSpectrumGeneric::k_class},
+    {item_kind::optional_child, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:ColorSpaceSpecificationSpectrumSpectral", element("ColorSpaceSpecificationSpectrumSpectral"), LMX_OFFSET(CollectionColorSpaceSpecificationType, m_ColorSpaceSpecificationSpectrumSpectral, optional_child, none), LMX_FLAG(CollectionColorSpaceSpecificationType, m_isset_ColorSpaceSpecificationSpectrumSpectral), &ColorSpaceSpecificationSpectrumSpectral::k_class},
+    {item_kind::optional_child, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:ColorSpaceSpecificationSpectrumTristimulus", element("ColorSpaceSpecificationSpectrumTristimulus"), LMX_OFFSET(CollectionColorSpaceSpecificationType, m_ColorSpaceSpecificationSpectrumTristimulus, optional_child, none), LMX_FLAG(CollectionColorSpaceSpecificationType, m_isset_ColorSpaceSpecificationSpectrumTristimulus), &ColorSpaceSpecificationSpectrumTristimulus::k_class},
+    {item_kind::optional_child, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:ColorSpaceSpecificationEmissiveGeneric", element("ColorSpaceSpecificationEmissiveGeneric"), LMX_OFFSET(CollectionColorSpaceSpecificationType, m_ColorSpaceSpecificationEmissiveGeneric, optional_child, none), LMX_FLAG(CollectionColorSpaceSpecificationType, m_isset_ColorSpaceSpecificationEmissiveGeneric), &ColorSpaceSpecificationEmissiveGeneric::k_class},
+    {item_kind::optional_child, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:ColorSpaceSpecificationEmissiveSpectral", element("ColorSpaceSpecificationEmissiveSpectral"), LMX_OFFSET(CollectionColorSpaceSpecificationType, m_ColorSpaceSpecificationEmissiveSpectral, optional_child, none), LMX_FLAG(CollectionColorSpaceSpecificationType, m_isset_ColorSpaceSpecificationEmissiveSpectral), &ColorSpaceSpecificationEmissiveSpectral::k_class},
+    {item_kind::optional_child, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:ColorSpaceSpecificationEmissiveTristimulus", element("ColorSpaceSpecificationEmissiveTristimulus"), LMX_OFFSET(CollectionColorSpaceSpecificationType, m_ColorSpaceSpecificationEmissiveTristimulus, optional_child, none), LMX_FLAG(CollectionColorSpaceSpecificationType, m_isset_ColorSpaceSpecificationEmissiveTristimulus), &ColorSpaceSpecificationEmissiveTristimulus::k_class},
 };
 constinit const s_class CollectionColorSpaceSpecificationType::k_class = {
     .name = "CollectionColorSpaceSpecificationType",
     .qualified_name = "Vyr:CollectionColorSpaceSpecificationType",
     .content = content_kind::children,
     .may_be_empty = true,
+    .names = &k_names,
     .ns_map = k_ns_map,
     .elements = k_items,
-    .element_map = k_CollectionColorSpaceSpecificationType_elements,
     .operations = &k_operations<CollectionColorSpaceSpecificationType>,
 };
 
@@ -83,45 +73,27 @@ ColorSpaceSpecificationEmissiveTristimulus& CollectionColorSpaceSpecificationTyp
 
 // PaletteType
 
-constexpr s_event_map k_PaletteType_attributes[] = {
-    attribute_event("PaletteName", attribute_PaletteName),
-    attribute_event("PalettePartNumber", attribute_PalettePartNumber),
-    attribute_event("PaletteVersion", attribute_PaletteVersion),
-    attribute_event("UniqueID", attribute_UniqueID),
-    attribute_event("Comments", attribute_Comments),
-    k_end_of_map,
-};
-constexpr s_event_map k_PaletteType_elements[] = {
-    element_event("CustomAttribute", element_CustomAttribute),
-    element_event("ChangeHistory", element_ChangeHistory),
-    element_event("Owner", element_Owner),
-    element_event("SemanticAssociation", element_SemanticAssociation),
-    element_event("CollectionColorSpaceSpecification", element_CollectionColorSpaceSpecification),
-    element_event("ColorSet", element_ColorSet),
-    k_end_of_map,
-};
-constinit const s_item PaletteType::k_items[] = {
-    {item_kind::attribute, value_kind::text, use_required | use_name, ELMX_WS_PRESERVE, "PaletteName", attribute_PaletteName, LMX_OFFSET(PaletteType, m_PaletteName, attribute, text), LMX_FLAG(PaletteType, m_isset_PaletteName)},
-    {item_kind::attribute, value_kind::text, use_optional, ELMX_WS_PRESERVE, "PalettePartNumber", attribute_PalettePartNumber, LMX_OFFSET(PaletteType, m_PalettePartNumber, attribute, text), LMX_FLAG(PaletteType, m_isset_PalettePartNumber)},
-    {item_kind::attribute, value_kind::text, use_optional, ELMX_WS_PRESERVE, "PaletteVersion", attribute_PaletteVersion, LMX_OFFSET(PaletteType, m_PaletteVersion, attribute, text), LMX_FLAG(PaletteType, m_isset_PaletteVersion)},
-    {item_kind::attribute, value_kind::text, use_optional, ELMX_WS_PRESERVE, "UniqueID", attribute_UniqueID, LMX_OFFSET(PaletteType, m_UniqueID, attribute, text), LMX_FLAG(PaletteType, m_isset_UniqueID)},
-    {item_kind::attribute, value_kind::text, use_optional, ELMX_WS_PRESERVE, "Comments", attribute_Comments, LMX_OFFSET(PaletteType, m_Comments, attribute, text), LMX_FLAG(PaletteType, m_isset_Comments)},
-    {item_kind::child_list, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:CustomAttribute", element_CustomAttribute, LMX_OFFSET(PaletteType, m_CustomAttribute, child_list, none), k_no_flag, position_of(k_PaletteType_elements, element_CustomAttribute), 1, &CustomAttributeType::k_class},
-    {item_kind::element_list, value_kind::datetime, use_demanded | use_asked, ELMX_WS_COLLAPSE, "Vyr:ChangeHistory", element_ChangeHistory, LMX_OFFSET(PaletteType, m_ChangeHistory, element_list, datetime), k_no_flag, position_of(k_PaletteType_elements, element_ChangeHistory), 1, nullptr, &facets::DateTimeZone},
-    {item_kind::optional_child, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:Owner", element_Owner, LMX_OFFSET(PaletteType, m_Owner, optional_child, none), LMX_FLAG(PaletteType, m_isset_Owner), position_of(k_PaletteType_elements, element_Owner), 1, &OwnerType::k_class},
-    {item_kind::element_list, value_kind::text, use_optional, ELMX_WS_PRESERVE, "Vyr:SemanticAssociation", element_SemanticAssociation, LMX_OFFSET(PaletteType, m_SemanticAssociation, element_list, text), k_no_flag, position_of(k_PaletteType_elements, element_SemanticAssociation), 1},
-    {item_kind::optional_child, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:CollectionColorSpaceSpecification", element_CollectionColorSpaceSpecification, LMX_OFFSET(PaletteType, m_CollectionColorSpaceSpecification, optional_child, none), LMX_FLAG(PaletteType, m_isset_CollectionColorSpaceSpecification), position_of(k_PaletteType_elements, element_CollectionColorSpaceSpecification), 1, &CollectionColorSpaceSpecificationType::k_class},
-    {item_kind::child_list, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:ColorSet", element_ColorSet, LMX_OFFSET(PaletteType, m_ColorSet, child_list, none), k_no_flag, position_of(k_PaletteType_elements, element_ColorSet), 1, &ColorSetType::k_class},
+constexpr s_item PaletteType::k_items[] = {
+    {item_kind::attribute, value_kind::text, use_required | use_name, ELMX_WS_PRESERVE, "PaletteName", attribute("PaletteName"), LMX_OFFSET(PaletteType, m_PaletteName, attribute, text), LMX_FLAG(PaletteType, m_isset_PaletteName)},
+    {item_kind::attribute, value_kind::text, use_optional, ELMX_WS_PRESERVE, "PalettePartNumber", attribute("PalettePartNumber"), LMX_OFFSET(PaletteType, m_PalettePartNumber, attribute, text), LMX_FLAG(PaletteType, m_isset_PalettePartNumber)},
+    {item_kind::attribute, value_kind::text, use_optional, ELMX_WS_PRESERVE, "PaletteVersion", attribute("PaletteVersion"), LMX_OFFSET(PaletteType, m_PaletteVersion, attribute, text), LMX_FLAG(PaletteType, m_isset_PaletteVersion)},
+    {item_kind::attribute, value_kind::text, use_optional, ELMX_WS_PRESERVE, "UniqueID", attribute("UniqueID"), LMX_OFFSET(PaletteType, m_UniqueID, attribute, text), LMX_FLAG(PaletteType, m_isset_UniqueID)},
+    {item_kind::attribute, value_kind::text, use_optional, ELMX_WS_PRESERVE, "Comments", attribute("Comments"), LMX_OFFSET(PaletteType, m_Comments, attribute, text), LMX_FLAG(PaletteType, m_isset_Comments)},
+    {item_kind::child_list, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:CustomAttribute", element("CustomAttribute"), LMX_OFFSET(PaletteType, m_CustomAttribute, child_list, none), k_no_flag, &CustomAttributeType::k_class},
+    {item_kind::element_list, value_kind::datetime, use_demanded | use_asked, ELMX_WS_COLLAPSE, "Vyr:ChangeHistory", element("ChangeHistory"), LMX_OFFSET(PaletteType, m_ChangeHistory, element_list, datetime), k_no_flag, nullptr, &facets::DateTimeZone},
+    {item_kind::optional_child, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:Owner", element("Owner"), LMX_OFFSET(PaletteType, m_Owner, optional_child, none), LMX_FLAG(PaletteType, m_isset_Owner), &OwnerType::k_class},
+    {item_kind::element_list, value_kind::text, use_optional, ELMX_WS_PRESERVE, "Vyr:SemanticAssociation", element("SemanticAssociation"), LMX_OFFSET(PaletteType, m_SemanticAssociation, element_list, text), k_no_flag},
+    {item_kind::optional_child, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:CollectionColorSpaceSpecification", element("CollectionColorSpaceSpecification"), LMX_OFFSET(PaletteType, m_CollectionColorSpaceSpecification, optional_child, none), LMX_FLAG(PaletteType, m_isset_CollectionColorSpaceSpecification), &CollectionColorSpaceSpecificationType::k_class},
+    {item_kind::child_list, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:ColorSet", element("ColorSet"), LMX_OFFSET(PaletteType, m_ColorSet, child_list, none), k_no_flag, &ColorSetType::k_class},
 };
 constinit const s_class PaletteType::k_class = {
     .name = "PaletteType",
     .qualified_name = "Vyr:PaletteType",
     .content = content_kind::children,
+    .names = &k_names,
     .ns_map = k_ns_map,
-    .attributes = std::span(k_items).first(std::size(k_PaletteType_attributes) - 1),
-    .elements = std::span(k_items).subspan(std::size(k_PaletteType_attributes) - 1),
-    .attribute_map = k_PaletteType_attributes,
-    .element_map = k_PaletteType_elements,
+    .attributes = std::span(k_items).first(attribute_count(k_items)),
+    .elements = std::span(k_items).subspan(attribute_count(k_items)),
     .operations = &k_operations<PaletteType>,
 };
 
@@ -170,53 +142,27 @@ void PaletteType::clear_ColorSet() { m_ColorSet.clear(); }
 
 // ColorSetType
 
-constexpr s_event_map k_ColorSetType_attributes[] = {
-    attribute_event("ColorSetName", attribute_ColorSetName),
-    attribute_event("UniqueID", attribute_UniqueID),
-    attribute_event("PartNumber", attribute_PartNumber),
-    attribute_event("Comments", attribute_Comments),
-    k_end_of_map,
-};
-constexpr s_event_map k_ColorSetType_elements[] = {
-    element_event("CustomAttribute", element_CustomAttribute),
-    element_event("ChangeHistory", element_ChangeHistory),
-    element_event("Owner", element_Owner),
-    element_event("SemanticAssociation", element_SemanticAssociation),
-    element_event("CollectionColorSpaceSpecification", element_CollectionColorSpaceSpecification),
-    element_event("Color", element_Color),
-    element_event("SubstratePaper", element_SubstratePaper),
-    element_event("SubstrateGeneric", element_SubstrateGeneric),
-    element_event("SubstrateMetal", element_SubstrateMetal),
-    element_event("SubstratePlastic", element_SubstratePlastic),
-    element_event("SubstrateWood", element_SubstrateWood),
-    element_event("SubstrateVinyl", element_SubstrateVinyl),
-    element_event("SubstrateTile", element_SubstrateTile),
-    element_event("SubstrateFilm", element_SubstrateFilm),
-    element_event("SubstrateTextile", element_SubstrateTextile),
-    k_end_of_map,
-};
-constinit const s_item ColorSetType::k_items[] = {
-    {item_kind::attribute, value_kind::text, use_required | use_name, ELMX_WS_PRESERVE, "ColorSetName", attribute_ColorSetName, LMX_OFFSET(ColorSetType, m_ColorSetName, attribute, text), LMX_FLAG(ColorSetType, m_isset_ColorSetName)},
-    {item_kind::attribute, value_kind::text, use_optional, ELMX_WS_PRESERVE, "UniqueID", attribute_UniqueID, LMX_OFFSET(ColorSetType, m_UniqueID, attribute, text), LMX_FLAG(ColorSetType, m_isset_UniqueID)},
-    {item_kind::attribute, value_kind::text, use_optional, ELMX_WS_PRESERVE, "PartNumber", attribute_PartNumber, LMX_OFFSET(ColorSetType, m_PartNumber, attribute, text), LMX_FLAG(ColorSetType, m_isset_PartNumber)},
-    {item_kind::attribute, value_kind::text, use_optional, ELMX_WS_PRESERVE, "Comments", attribute_Comments, LMX_OFFSET(ColorSetType, m_Comments, attribute, text), LMX_FLAG(ColorSetType, m_isset_Comments)},
-    {item_kind::child_list, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:CustomAttribute", element_CustomAttribute, LMX_OFFSET(ColorSetType, m_CustomAttribute, child_list, none), k_no_flag, position_of(k_ColorSetType_elements, element_CustomAttribute), 1, &CustomAttributeType::k_class},
-    {item_kind::element_list, value_kind::datetime, use_demanded | use_asked, ELMX_WS_COLLAPSE, "Vyr:ChangeHistory", element_ChangeHistory, LMX_OFFSET(ColorSetType, m_ChangeHistory, element_list, datetime), k_no_flag, position_of(k_ColorSetType_elements, element_ChangeHistory), 1, nullptr, &facets::DateTimeZone},
-    {item_kind::optional_child, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:Owner", element_Owner, LMX_OFFSET(ColorSetType, m_Owner, optional_child, none), LMX_FLAG(ColorSetType, m_isset_Owner), position_of(k_ColorSetType_elements, element_Owner), 1, &OwnerType::k_class},
-    {item_kind::element_list, value_kind::text, use_optional, ELMX_WS_PRESERVE, "Vyr:SemanticAssociation", element_SemanticAssociation, LMX_OFFSET(ColorSetType, m_SemanticAssociation, element_list, text), k_no_flag, position_of(k_ColorSetType_elements, element_SemanticAssociation), 1},
-    {item_kind::optional_child, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:CollectionColorSpaceSpecification", element_CollectionColorSpaceSpecification, LMX_OFFSET(ColorSetType, m_CollectionColorSpaceSpecification, optional_child, none), LMX_FLAG(ColorSetType, m_isset_CollectionColorSpaceSpecification), position_of(k_ColorSetType_elements, element_CollectionColorSpaceSpecification), 1, &CollectionColorSpaceSpecificationType::k_class},
-    {item_kind::child_list, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:Color", element_Color, LMX_OFFSET(ColorSetType, m_Color, child_list, none), k_no_flag, position_of(k_ColorSetType_elements, element_Color), 1, &ColorType::k_class},
-    {item_kind::group, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:Substrate", 0, LMX_OFFSET(ColorSetType, m_Substrate, group, none), LMX_FLAG(ColorSetType, m_isset_Substrate), position_of(k_ColorSetType_elements, element_SubstratePaper), 9, &sg_Substrate::k_class},
+constexpr s_item ColorSetType::k_items[] = {
+    {item_kind::attribute, value_kind::text, use_required | use_name, ELMX_WS_PRESERVE, "ColorSetName", attribute("ColorSetName"), LMX_OFFSET(ColorSetType, m_ColorSetName, attribute, text), LMX_FLAG(ColorSetType, m_isset_ColorSetName)},
+    {item_kind::attribute, value_kind::text, use_optional, ELMX_WS_PRESERVE, "UniqueID", attribute("UniqueID"), LMX_OFFSET(ColorSetType, m_UniqueID, attribute, text), LMX_FLAG(ColorSetType, m_isset_UniqueID)},
+    {item_kind::attribute, value_kind::text, use_optional, ELMX_WS_PRESERVE, "PartNumber", attribute("PartNumber"), LMX_OFFSET(ColorSetType, m_PartNumber, attribute, text), LMX_FLAG(ColorSetType, m_isset_PartNumber)},
+    {item_kind::attribute, value_kind::text, use_optional, ELMX_WS_PRESERVE, "Comments", attribute("Comments"), LMX_OFFSET(ColorSetType, m_Comments, attribute, text), LMX_FLAG(ColorSetType, m_isset_Comments)},
+    {item_kind::child_list, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:CustomAttribute", element("CustomAttribute"), LMX_OFFSET(ColorSetType, m_CustomAttribute, child_list, none), k_no_flag, &CustomAttributeType::k_class},
+    {item_kind::element_list, value_kind::datetime, use_demanded | use_asked, ELMX_WS_COLLAPSE, "Vyr:ChangeHistory", element("ChangeHistory"), LMX_OFFSET(ColorSetType, m_ChangeHistory, element_list, datetime), k_no_flag, nullptr, &facets::DateTimeZone},
+    {item_kind::optional_child, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:Owner", element("Owner"), LMX_OFFSET(ColorSetType, m_Owner, optional_child, none), LMX_FLAG(ColorSetType, m_isset_Owner), &OwnerType::k_class},
+    {item_kind::element_list, value_kind::text, use_optional, ELMX_WS_PRESERVE, "Vyr:SemanticAssociation", element("SemanticAssociation"), LMX_OFFSET(ColorSetType, m_SemanticAssociation, element_list, text), k_no_flag},
+    {item_kind::optional_child, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:CollectionColorSpaceSpecification", element("CollectionColorSpaceSpecification"), LMX_OFFSET(ColorSetType, m_CollectionColorSpaceSpecification, optional_child, none), LMX_FLAG(ColorSetType, m_isset_CollectionColorSpaceSpecification), &CollectionColorSpaceSpecificationType::k_class},
+    {item_kind::child_list, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:Color", element("Color"), LMX_OFFSET(ColorSetType, m_Color, child_list, none), k_no_flag, &ColorType::k_class},
+    {item_kind::group, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:Substrate", 0, LMX_OFFSET(ColorSetType, m_Substrate, group, none), LMX_FLAG(ColorSetType, m_isset_Substrate), &sg_Substrate::k_class},
 };
 constinit const s_class ColorSetType::k_class = {
     .name = "ColorSetType",
     .qualified_name = "Vyr:ColorSetType",
     .content = content_kind::children,
+    .names = &k_names,
     .ns_map = k_ns_map,
-    .attributes = std::span(k_items).first(std::size(k_ColorSetType_attributes) - 1),
-    .elements = std::span(k_items).subspan(std::size(k_ColorSetType_attributes) - 1),
-    .attribute_map = k_ColorSetType_attributes,
-    .element_map = k_ColorSetType_elements,
+    .attributes = std::span(k_items).first(attribute_count(k_items)),
+    .elements = std::span(k_items).subspan(attribute_count(k_items)),
     .operations = &k_operations<ColorSetType>,
 };
 
@@ -265,80 +211,27 @@ sg_Substrate& ColorSetType::assign_Substrate(const sg_Substrate& value) { return
 
 // ColorType
 
-constexpr s_event_map k_ColorType_attributes[] = {
-    attribute_event("ColorName", attribute_ColorName),
-    attribute_event("UniqueID", attribute_UniqueID),
-    attribute_event("ColorNumber", attribute_ColorNumber),
-    attribute_event("Comments", attribute_Comments),
-    k_end_of_map,
-};
-constexpr s_event_map k_ColorType_elements[] = {
-    element_event("CustomAttribute", element_CustomAttribute),
-    element_event("ChangeHistory", element_ChangeHistory),
-    element_event("Owner", element_Owner),
-    element_event("SemanticAssociation", element_SemanticAssociation),
-    element_event("ColorSpaceRecipe", element_ColorSpaceRecipe),
-    element_event("ColorSpaceTINTORA", element_ColorSpaceTINTORA),
-    element_event("ColorSpaceGeneric", element_ColorSpaceGeneric),
-    element_event("ColorSpaceEmissiveGeneric", element_ColorSpaceEmissiveGeneric),
-    element_event("ColorSpaceDensity", element_ColorSpaceDensity),
-    element_event("ColorSpaceRGB", element_ColorSpaceRGB),
-    element_event("ColorSpaceSRGB", element_ColorSpaceSRGB),
-    element_event("ColorSpaceAdobeRGB", element_ColorSpaceAdobeRGB),
-    element_event("ColorSpaceCMYKPlusN", element_ColorSpaceCMYKPlusN),
-    element_event("ColorSpaceAdobeWideGamutRGB", element_ColorSpaceAdobeWideGamutRGB),
-    element_event("ColorSpaceSpectral", element_ColorSpaceSpectral),
-    element_event("ColorSpaceEmissiveSpectral", element_ColorSpaceEmissiveSpectral),
-    element_event("ColorSpaceCIELab", element_ColorSpaceCIELab),
-    element_event("ColorSpaceCIELCh", element_ColorSpaceCIELCh),
-    element_event("ColorSpaceCIEXYZ", element_ColorSpaceCIEXYZ),
-    element_event("ColorSpaceEmissiveCIEXYZ", element_ColorSpaceEmissiveCIEXYZ),
-    element_event("ColorSpaceCIExyY", element_ColorSpaceCIExyY),
-    element_event("ColorSpaceEmissiveCIExyY", element_ColorSpaceEmissiveCIExyY),
-    element_event("ColorSpaceCIELuv", element_ColorSpaceCIELuv),
-    element_event("ColorSpaceHSL", element_ColorSpaceHSL),
-    element_event("ColorSpaceHSV", element_ColorSpaceHSV),
-    element_event("ColorSpaceCMYK", element_ColorSpaceCMYK),
-    element_event("ColorSpaceTINTORAOctavantic", element_ColorSpaceTINTORAOctavantic),
-    element_event("ColorSpaceYUV", element_ColorSpaceYUV),
-    element_event("ColorSpaceYIQ", element_ColorSpaceYIQ),
-    element_event("ColorSpaceYBR", element_ColorSpaceYBR),
-    element_event("ColorSpaceNCS", element_ColorSpaceNCS),
-    element_event("ColorSpaceMunsell", element_ColorSpaceMunsell),
-    element_event("SubstratePaper", element_SubstratePaper),
-    element_event("SubstrateGeneric", element_SubstrateGeneric),
-    element_event("SubstrateMetal", element_SubstrateMetal),
-    element_event("SubstratePlastic", element_SubstratePlastic),
-    element_event("SubstrateWood", element_SubstrateWood),
-    element_event("SubstrateVinyl", element_SubstrateVinyl),
-    element_event("SubstrateTile", element_SubstrateTile),
-    element_event("SubstrateFilm", element_SubstrateFilm),
-    element_event("SubstrateTextile", element_SubstrateTextile),
-    element_event("TagValues", element_TagValues),
-    k_end_of_map,
-};
-constinit const s_item ColorType::k_items[] = {
-    {item_kind::attribute, value_kind::text, use_required | use_name, ELMX_WS_PRESERVE, "ColorName", attribute_ColorName, LMX_OFFSET(ColorType, m_ColorName, attribute, text), LMX_FLAG(ColorType, m_isset_ColorName)},
-    {item_kind::attribute, value_kind::text, use_optional, ELMX_WS_PRESERVE, "UniqueID", attribute_UniqueID, LMX_OFFSET(ColorType, m_UniqueID, attribute, text), LMX_FLAG(ColorType, m_isset_UniqueID)},
-    {item_kind::attribute, value_kind::text, use_optional, ELMX_WS_PRESERVE, "ColorNumber", attribute_ColorNumber, LMX_OFFSET(ColorType, m_ColorNumber, attribute, text), LMX_FLAG(ColorType, m_isset_ColorNumber)},
-    {item_kind::attribute, value_kind::text, use_optional, ELMX_WS_PRESERVE, "Comments", attribute_Comments, LMX_OFFSET(ColorType, m_Comments, attribute, text), LMX_FLAG(ColorType, m_isset_Comments)},
-    {item_kind::child_list, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:CustomAttribute", element_CustomAttribute, LMX_OFFSET(ColorType, m_CustomAttribute, child_list, none), k_no_flag, position_of(k_ColorType_elements, element_CustomAttribute), 1, &CustomAttributeType::k_class},
-    {item_kind::element_list, value_kind::datetime, use_demanded | use_asked, ELMX_WS_COLLAPSE, "Vyr:ChangeHistory", element_ChangeHistory, LMX_OFFSET(ColorType, m_ChangeHistory, element_list, datetime), k_no_flag, position_of(k_ColorType_elements, element_ChangeHistory), 1, nullptr, &facets::DateTimeZone},
-    {item_kind::optional_child, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:Owner", element_Owner, LMX_OFFSET(ColorType, m_Owner, optional_child, none), LMX_FLAG(ColorType, m_isset_Owner), position_of(k_ColorType_elements, element_Owner), 1, &OwnerType::k_class},
-    {item_kind::element_list, value_kind::text, use_optional, ELMX_WS_PRESERVE, "Vyr:SemanticAssociation", element_SemanticAssociation, LMX_OFFSET(ColorType, m_SemanticAssociation, element_list, text), k_no_flag, position_of(k_ColorType_elements, element_SemanticAssociation), 1},
-    {item_kind::group_list, value_kind::none, use_demanded | use_asked, ELMX_WS_PRESERVE, "Vyr:ColorSpace", 0, LMX_OFFSET(ColorType, m_ColorSpace, group_list, none), k_no_flag, position_of(k_ColorType_elements, element_ColorSpaceRecipe), 28, &sg_ColorSpace::k_class},
-    {item_kind::group, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:Substrate", 0, LMX_OFFSET(ColorType, m_Substrate, group, none), LMX_FLAG(ColorType, m_isset_Substrate), position_of(k_ColorType_elements, element_SubstratePaper), 9, &sg_Substrate::k_class},
-    {item_kind::child_list, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:TagValues", element_TagValues, LMX_OFFSET(ColorType, m_TagValues, child_list, none), k_no_flag, position_of(k_ColorType_elements, element_TagValues), 1, &TagValue::k_class},
+constexpr s_item ColorType::k_items[] = {
+    {item_kind::attribute, value_kind::text, use_required | use_name, ELMX_WS_PRESERVE, "ColorName", attribute("ColorName"), LMX_OFFSET(ColorType, m_ColorName, attribute, text), LMX_FLAG(ColorType, m_isset_ColorName)},
+    {item_kind::attribute, value_kind::text, use_optional, ELMX_WS_PRESERVE, "UniqueID", attribute("UniqueID"), LMX_OFFSET(ColorType, m_UniqueID, attribute, text), LMX_FLAG(ColorType, m_isset_UniqueID)},
+    {item_kind::attribute, value_kind::text, use_optional, ELMX_WS_PRESERVE, "ColorNumber", attribute("ColorNumber"), LMX_OFFSET(ColorType, m_ColorNumber, attribute, text), LMX_FLAG(ColorType, m_isset_ColorNumber)},
+    {item_kind::attribute, value_kind::text, use_optional, ELMX_WS_PRESERVE, "Comments", attribute("Comments"), LMX_OFFSET(ColorType, m_Comments, attribute, text), LMX_FLAG(ColorType, m_isset_Comments)},
+    {item_kind::child_list, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:CustomAttribute", element("CustomAttribute"), LMX_OFFSET(ColorType, m_CustomAttribute, child_list, none), k_no_flag, &CustomAttributeType::k_class},
+    {item_kind::element_list, value_kind::datetime, use_demanded | use_asked, ELMX_WS_COLLAPSE, "Vyr:ChangeHistory", element("ChangeHistory"), LMX_OFFSET(ColorType, m_ChangeHistory, element_list, datetime), k_no_flag, nullptr, &facets::DateTimeZone},
+    {item_kind::optional_child, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:Owner", element("Owner"), LMX_OFFSET(ColorType, m_Owner, optional_child, none), LMX_FLAG(ColorType, m_isset_Owner), &OwnerType::k_class},
+    {item_kind::element_list, value_kind::text, use_optional, ELMX_WS_PRESERVE, "Vyr:SemanticAssociation", element("SemanticAssociation"), LMX_OFFSET(ColorType, m_SemanticAssociation, element_list, text), k_no_flag},
+    {item_kind::group_list, value_kind::none, use_demanded | use_asked, ELMX_WS_PRESERVE, "Vyr:ColorSpace", 0, LMX_OFFSET(ColorType, m_ColorSpace, group_list, none), k_no_flag, &sg_ColorSpace::k_class},
+    {item_kind::group, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:Substrate", 0, LMX_OFFSET(ColorType, m_Substrate, group, none), LMX_FLAG(ColorType, m_isset_Substrate), &sg_Substrate::k_class},
+    {item_kind::child_list, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:TagValues", element("TagValues"), LMX_OFFSET(ColorType, m_TagValues, child_list, none), k_no_flag, &TagValue::k_class},
 };
 constinit const s_class ColorType::k_class = {
     .name = "ColorType",
     .qualified_name = "Vyr:ColorType",
     .content = content_kind::children,
+    .names = &k_names,
     .ns_map = k_ns_map,
-    .attributes = std::span(k_items).first(std::size(k_ColorType_attributes) - 1),
-    .elements = std::span(k_items).subspan(std::size(k_ColorType_attributes) - 1),
-    .attribute_map = k_ColorType_attributes,
-    .element_map = k_ColorType_elements,
+    .attributes = std::span(k_items).first(attribute_count(k_items)),
+    .elements = std::span(k_items).subspan(attribute_count(k_items)),
     .operations = &k_operations<ColorType>,
 };
 

@@ -8,7 +8,6 @@
 
 #include "schema/generated/quality_control.h"
 #include "lmx/binding/binding.h"
-#include "lmx/binding/rows.h"
 #include "schema/generated/conditions.h"
 #include "schema/generated/devices.h"
 #include "schema/generated/groups.h"
@@ -23,28 +22,22 @@ namespace com_vyrgraph_v2 {
 
 using namespace lmx;  // for the tables' sake
 
-static_assert(k_binding_version == 5, "run schema/generator/generate.py");
+static_assert(k_binding_version == 6, "run schema/generator/generate.py");
 
 // LimitsType
 
-constexpr s_event_map k_LimitsType_elements[] = {
-    element_event("CustomAttribute", element_CustomAttribute),
-    element_event("HighTolerance", element_HighTolerance),
-    element_event("LowTolerance", element_LowTolerance),
-    k_end_of_map,
-};
-constinit const s_item LimitsType::k_items[] = {
-    {item_kind::child_list, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:CustomAttribute", element_CustomAttribute, LMX_OFFSET(LimitsType, m_CustomAttribute, child_list, none), k_no_flag, position_of(k_LimitsType_elements, element_CustomAttribute), 1, &CustomAttributeType::k_class},
-    {item_kind::element, value_kind::number, use_required, ELMX_WS_COLLAPSE, "Vyr:HighTolerance", element_HighTolerance, LMX_OFFSET(LimitsType, m_HighTolerance, element, number), LMX_FLAG(LimitsType, m_isset_HighTolerance), position_of(k_LimitsType_elements, element_HighTolerance), 1},
-    {item_kind::element, value_kind::number, use_optional, ELMX_WS_COLLAPSE, "Vyr:LowTolerance", element_LowTolerance, LMX_OFFSET(LimitsType, m_LowTolerance, element, number), LMX_FLAG(LimitsType, m_isset_LowTolerance), position_of(k_LimitsType_elements, element_LowTolerance), 1},
+constexpr s_item LimitsType::k_items[] = {
+    {item_kind::child_list, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:CustomAttribute", element("CustomAttribute"), LMX_OFFSET(LimitsType, m_CustomAttribute, child_list, none), k_no_flag, &CustomAttributeType::k_class},
+    {item_kind::element, value_kind::number, use_required, ELMX_WS_COLLAPSE, "Vyr:HighTolerance", element("HighTolerance"), LMX_OFFSET(LimitsType, m_HighTolerance, element, number), LMX_FLAG(LimitsType, m_isset_HighTolerance)},
+    {item_kind::element, value_kind::number, use_optional, ELMX_WS_COLLAPSE, "Vyr:LowTolerance", element("LowTolerance"), LMX_OFFSET(LimitsType, m_LowTolerance, element, number), LMX_FLAG(LimitsType, m_isset_LowTolerance)},
 };
 constinit const s_class LimitsType::k_class = {
     .name = "LimitsType",
     .qualified_name = "Vyr:LimitsType",
     .content = content_kind::children,
+    .names = &k_names,
     .ns_map = k_ns_map,
     .elements = k_items,
-    .element_map = k_LimitsType_elements,
     .operations = &k_operations<LimitsType>,
 };
 
@@ -68,64 +61,28 @@ lmx::elmx_error LimitsType::set_LowTolerance(double value) { return lmx::set_ite
 
 // ToleranceType
 
-constexpr s_event_map k_ToleranceType_attributes[] = {
-    attribute_event("Name", attribute_Name),
-    k_end_of_map,
-};
-constexpr s_event_map k_ToleranceType_elements[] = {
-    element_event("CustomAttribute", element_CustomAttribute),
-    element_event("Function", element_Function),
-    element_event("FunctionGeneric", element_FunctionGeneric),
-    element_event("FunctionDE", element_FunctionDE),
-    element_event("FunctionMeanDE", element_FunctionMeanDE),
-    element_event("FunctionDE94", element_FunctionDE94),
-    element_event("FunctionDE2000", element_FunctionDE2000),
-    element_event("FunctionDECMC", element_FunctionDECMC),
-    element_event("FunctionStdDevX", element_FunctionStdDevX),
-    element_event("FunctionStdDevY", element_FunctionStdDevY),
-    element_event("FunctionStdDevZ", element_FunctionStdDevZ),
-    element_event("FunctionStdDevL", element_FunctionStdDevL),
-    element_event("FunctionStdDevA", element_FunctionStdDevA),
-    element_event("FunctionStdDevB", element_FunctionStdDevB),
-    element_event("FunctionStdDevC", element_FunctionStdDevC),
-    element_event("FunctionStdDevH", element_FunctionStdDevH),
-    element_event("FunctionAverageStdDevL", element_FunctionAverageStdDevL),
-    element_event("FunctionAverageStdDevA", element_FunctionAverageStdDevA),
-    element_event("FunctionAverageStdDevB", element_FunctionAverageStdDevB),
-    element_event("Limits", element_Limits),
-    element_event("PrimaryIlluminant", element_PrimaryIlluminant),
-    element_event("SecondaryIlluminant", element_SecondaryIlluminant),
-    element_event("TertiaryIlluminant", element_TertiaryIlluminant),
-    element_event("FieldOfView", element_FieldOfView),
-    element_event("WarningLevel", element_WarningLevel),
-    element_event("UniqueID", element_UniqueID),
-    element_event("Global", element_Global),
-    element_event("Geometry", element_Geometry),
-    k_end_of_map,
-};
-constinit const s_item ToleranceType::k_items[] = {
-    {item_kind::attribute, value_kind::text, use_name, ELMX_WS_PRESERVE, "Name", attribute_Name, LMX_OFFSET(ToleranceType, m_Name, attribute, text), LMX_FLAG(ToleranceType, m_isset_Name)},
-    {item_kind::child_list, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:CustomAttribute", element_CustomAttribute, LMX_OFFSET(ToleranceType, m_CustomAttribute, child_list, none), k_no_flag, position_of(k_ToleranceType_elements, element_CustomAttribute), 1, &CustomAttributeType::k_class},
-    {item_kind::group, value_kind::none, use_asked | use_written | use_copied | use_lax, ELMX_WS_PRESERVE, "Vyr:Function", 0, LMX_OFFSET(ToleranceType, m_Function, group, none), LMX_FLAG(ToleranceType, m_isset_Function), position_of(k_ToleranceType_elements, element_Function), 18, &sg_Function::k_class},
-    {item_kind::optional_child, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:Limits", element_Limits, LMX_OFFSET(ToleranceType, m_Limits, optional_child, none), LMX_FLAG(ToleranceType, m_isset_Limits), position_of(k_ToleranceType_elements, element_Limits), 1, &LimitsType::k_class},
-    {item_kind::element, value_kind::enumerated, use_optional, ELMX_WS_PRESERVE, "Vyr:PrimaryIlluminant", element_PrimaryIlluminant, LMX_OFFSET(ToleranceType, m_PrimaryIlluminant, element, enumerated), LMX_FLAG(ToleranceType, m_isset_PrimaryIlluminant), position_of(k_ToleranceType_elements, element_PrimaryIlluminant), 1, nullptr, &facets::IlluminantKind},
-    {item_kind::element, value_kind::enumerated, use_optional, ELMX_WS_PRESERVE, "Vyr:SecondaryIlluminant", element_SecondaryIlluminant, LMX_OFFSET(ToleranceType, m_SecondaryIlluminant, element, enumerated), LMX_FLAG(ToleranceType, m_isset_SecondaryIlluminant), position_of(k_ToleranceType_elements, element_SecondaryIlluminant), 1, nullptr, &facets::IlluminantKind},
-    {item_kind::element, value_kind::enumerated, use_optional, ELMX_WS_PRESERVE, "Vyr:TertiaryIlluminant", element_TertiaryIlluminant, LMX_OFFSET(ToleranceType, m_TertiaryIlluminant, element, enumerated), LMX_FLAG(ToleranceType, m_isset_TertiaryIlluminant), position_of(k_ToleranceType_elements, element_TertiaryIlluminant), 1, nullptr, &facets::IlluminantKind},
-    {item_kind::element, value_kind::enumerated, use_optional, ELMX_WS_PRESERVE, "Vyr:FieldOfView", element_FieldOfView, LMX_OFFSET(ToleranceType, m_FieldOfView, element, enumerated), LMX_FLAG(ToleranceType, m_isset_FieldOfView), position_of(k_ToleranceType_elements, element_FieldOfView), 1, nullptr, &facets::ObserverKind},
-    {item_kind::element, value_kind::number, use_optional, ELMX_WS_COLLAPSE, "Vyr:WarningLevel", element_WarningLevel, LMX_OFFSET(ToleranceType, m_WarningLevel, element, number), LMX_FLAG(ToleranceType, m_isset_WarningLevel), position_of(k_ToleranceType_elements, element_WarningLevel), 1},
-    {item_kind::element, value_kind::text, use_optional, ELMX_WS_PRESERVE, "Vyr:UniqueID", element_UniqueID, LMX_OFFSET(ToleranceType, m_UniqueID, element, text), LMX_FLAG(ToleranceType, m_isset_UniqueID), position_of(k_ToleranceType_elements, element_UniqueID), 1},
-    {item_kind::element, value_kind::boolean, use_optional, ELMX_WS_COLLAPSE, "Vyr:Global", element_Global, LMX_OFFSET(ToleranceType, m_Global, element, boolean), LMX_FLAG(ToleranceType, m_isset_Global), position_of(k_ToleranceType_elements, element_Global), 1},
-    {item_kind::optional_child, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:Geometry", element_Geometry, LMX_OFFSET(ToleranceType, m_Geometry, optional_child, none), LMX_FLAG(ToleranceType, m_isset_Geometry), position_of(k_ToleranceType_elements, element_Geometry), 1, &GeometryChoiceType::k_class},
+constexpr s_item ToleranceType::k_items[] = {
+    {item_kind::attribute, value_kind::text, use_name, ELMX_WS_PRESERVE, "Name", attribute("Name"), LMX_OFFSET(ToleranceType, m_Name, attribute, text), LMX_FLAG(ToleranceType, m_isset_Name)},
+    {item_kind::child_list, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:CustomAttribute", element("CustomAttribute"), LMX_OFFSET(ToleranceType, m_CustomAttribute, child_list, none), k_no_flag, &CustomAttributeType::k_class},
+    {item_kind::group, value_kind::none, use_asked | use_written | use_copied | use_lax, ELMX_WS_PRESERVE, "Vyr:Function", 0, LMX_OFFSET(ToleranceType, m_Function, group, none), LMX_FLAG(ToleranceType, m_isset_Function), &sg_Function::k_class},
+    {item_kind::optional_child, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:Limits", element("Limits"), LMX_OFFSET(ToleranceType, m_Limits, optional_child, none), LMX_FLAG(ToleranceType, m_isset_Limits), &LimitsType::k_class},
+    {item_kind::element, value_kind::enumerated, use_optional, ELMX_WS_PRESERVE, "Vyr:PrimaryIlluminant", element("PrimaryIlluminant"), LMX_OFFSET(ToleranceType, m_PrimaryIlluminant, element, enumerated), LMX_FLAG(ToleranceType, m_isset_PrimaryIlluminant), nullptr, &facets::IlluminantKind},
+    {item_kind::element, value_kind::enumerated, use_optional, ELMX_WS_PRESERVE, "Vyr:SecondaryIlluminant", element("SecondaryIlluminant"), LMX_OFFSET(ToleranceType, m_SecondaryIlluminant, element, enumerated), LMX_FLAG(ToleranceType, m_isset_SecondaryIlluminant), nullptr, &facets::IlluminantKind},
+    {item_kind::element, value_kind::enumerated, use_optional, ELMX_WS_PRESERVE, "Vyr:TertiaryIlluminant", element("TertiaryIlluminant"), LMX_OFFSET(ToleranceType, m_TertiaryIlluminant, element, enumerated), LMX_FLAG(ToleranceType, m_isset_TertiaryIlluminant), nullptr, &facets::IlluminantKind},
+    {item_kind::element, value_kind::enumerated, use_optional, ELMX_WS_PRESERVE, "Vyr:FieldOfView", element("FieldOfView"), LMX_OFFSET(ToleranceType, m_FieldOfView, element, enumerated), LMX_FLAG(ToleranceType, m_isset_FieldOfView), nullptr, &facets::ObserverKind},
+    {item_kind::element, value_kind::number, use_optional, ELMX_WS_COLLAPSE, "Vyr:WarningLevel", element("WarningLevel"), LMX_OFFSET(ToleranceType, m_WarningLevel, element, number), LMX_FLAG(ToleranceType, m_isset_WarningLevel)},
+    {item_kind::element, value_kind::text, use_optional, ELMX_WS_PRESERVE, "Vyr:UniqueID", element("UniqueID"), LMX_OFFSET(ToleranceType, m_UniqueID, element, text), LMX_FLAG(ToleranceType, m_isset_UniqueID)},
+    {item_kind::element, value_kind::boolean, use_optional, ELMX_WS_COLLAPSE, "Vyr:Global", element("Global"), LMX_OFFSET(ToleranceType, m_Global, element, boolean), LMX_FLAG(ToleranceType, m_isset_Global)},
+    {item_kind::optional_child, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:Geometry", element("Geometry"), LMX_OFFSET(ToleranceType, m_Geometry, optional_child, none), LMX_FLAG(ToleranceType, m_isset_Geometry), &GeometryChoiceType::k_class},
 };
 constinit const s_class ToleranceType::k_class = {
     .name = "ToleranceType",
     .qualified_name = "Vyr:ToleranceType",
     .content = content_kind::children,
+    .names = &k_names,
     .ns_map = k_ns_map,
-    .attributes = std::span(k_items).first(std::size(k_ToleranceType_attributes) - 1),
-    .elements = std::span(k_items).subspan(std::size(k_ToleranceType_attributes) - 1),
-    .attribute_map = k_ToleranceType_attributes,
-    .element_map = k_ToleranceType_elements,
+    .attributes = std::span(k_items).first(attribute_count(k_items)),
+    .elements = std::span(k_items).subspan(attribute_count(k_items)),
     .operations = &k_operations<ToleranceType>,
 };
 
@@ -166,22 +123,17 @@ GeometryChoiceType& ToleranceType::assign_Geometry(const GeometryChoiceType& val
 
 // Process
 
-constexpr s_event_map k_Process_elements[] = {
-    element_event("Name", element_Name),
-    element_event("Thickness", element_Thickness),
-    k_end_of_map,
-};
-constinit const s_item Process::k_items[] = {
-    {item_kind::element, value_kind::text, use_required | use_name, ELMX_WS_PRESERVE, "Vyr:Name", element_Name, LMX_OFFSET(Process, m_Name, element, text), LMX_FLAG(Process, m_isset_Name), position_of(k_Process_elements, element_Name), 1, nullptr, &facets::NonEmptyString},
-    {item_kind::element, value_kind::number, use_optional, ELMX_WS_COLLAPSE, "Vyr:Thickness", element_Thickness, LMX_OFFSET(Process, m_Thickness, element, number), LMX_FLAG(Process, m_isset_Thickness), position_of(k_Process_elements, element_Thickness), 1, nullptr, &facets::NonNegative},
+constexpr s_item Process::k_items[] = {
+    {item_kind::element, value_kind::text, use_required | use_name, ELMX_WS_PRESERVE, "Vyr:Name", element("Name"), LMX_OFFSET(Process, m_Name, element, text), LMX_FLAG(Process, m_isset_Name), nullptr, &facets::NonEmptyString},
+    {item_kind::element, value_kind::number, use_optional, ELMX_WS_COLLAPSE, "Vyr:Thickness", element("Thickness"), LMX_OFFSET(Process, m_Thickness, element, number), LMX_FLAG(Process, m_isset_Thickness), nullptr, &facets::NonNegative},
 };
 constinit const s_class Process::k_class = {
     .name = "Process",
     .qualified_name = "Vyr:Process",
     .content = content_kind::children,
     .may_be_empty = true,
+    .names = &k_names,
     .elements = k_items,
-    .element_map = k_Process_elements,
     .operations = &k_operations<Process>,
 };
 
@@ -199,27 +151,19 @@ lmx::elmx_error Process::set_Thickness(double value) { return lmx::set_item(k_cl
 
 // PhysicalSampleType
 
-constexpr s_event_map k_PhysicalSampleType_elements[] = {
-    element_event("CustomAttribute", element_CustomAttribute),
-    element_event("Coating", element_Coating),
-    element_event("Process", element_Process),
-    element_event("SampleSpot", element_SampleSpot),
-    element_event("SampleTarget", element_SampleTarget),
-    k_end_of_map,
-};
-constinit const s_item PhysicalSampleType::k_items[] = {
-    {item_kind::child_list, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:CustomAttribute", element_CustomAttribute, LMX_OFFSET(PhysicalSampleType, m_CustomAttribute, child_list, none), k_no_flag, position_of(k_PhysicalSampleType_elements, element_CustomAttribute), 1, &CustomAttributeType::k_class},
-    {item_kind::element, value_kind::text, use_optional, ELMX_WS_PRESERVE, "Vyr:Coating", element_Coating, LMX_OFFSET(PhysicalSampleType, m_Coating, element, text), LMX_FLAG(PhysicalSampleType, m_isset_Coating), position_of(k_PhysicalSampleType_elements, element_Coating), 1},
-    {item_kind::optional_child, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:Process", element_Process, LMX_OFFSET(PhysicalSampleType, m_Process, optional_child, none), LMX_FLAG(PhysicalSampleType, m_isset_Process), position_of(k_PhysicalSampleType_elements, element_Process), 1, &Process::k_class},
-    {item_kind::group, value_kind::none, use_asked | use_written | use_copied | use_lax, ELMX_WS_PRESERVE, "Vyr:Sample", 0, LMX_OFFSET(PhysicalSampleType, m_Sample, group, none), LMX_FLAG(PhysicalSampleType, m_isset_Sample), position_of(k_PhysicalSampleType_elements, element_SampleSpot), 2, &sg_Sample::k_class},
+constexpr s_item PhysicalSampleType::k_items[] = {
+    {item_kind::child_list, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:CustomAttribute", element("CustomAttribute"), LMX_OFFSET(PhysicalSampleType, m_CustomAttribute, child_list, none), k_no_flag, &CustomAttributeType::k_class},
+    {item_kind::element, value_kind::text, use_optional, ELMX_WS_PRESERVE, "Vyr:Coating", element("Coating"), LMX_OFFSET(PhysicalSampleType, m_Coating, element, text), LMX_FLAG(PhysicalSampleType, m_isset_Coating)},
+    {item_kind::optional_child, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:Process", element("Process"), LMX_OFFSET(PhysicalSampleType, m_Process, optional_child, none), LMX_FLAG(PhysicalSampleType, m_isset_Process), &Process::k_class},
+    {item_kind::group, value_kind::none, use_asked | use_written | use_copied | use_lax, ELMX_WS_PRESERVE, "Vyr:Sample", 0, LMX_OFFSET(PhysicalSampleType, m_Sample, group, none), LMX_FLAG(PhysicalSampleType, m_isset_Sample), &sg_Sample::k_class},
 };
 constinit const s_class PhysicalSampleType::k_class = {
     .name = "PhysicalSampleType",
     .qualified_name = "Vyr:PhysicalSampleType",
     .content = content_kind::children,
+    .names = &k_names,
     .ns_map = k_ns_map,
     .elements = k_items,
-    .element_map = k_PhysicalSampleType_elements,
     .operations = &k_operations<PhysicalSampleType>,
 };
 
@@ -246,41 +190,25 @@ sg_Sample& PhysicalSampleType::assign_Sample(const sg_Sample& value) { return ge
 
 // ColorQualityControlType
 
-constexpr s_event_map k_ColorQualityControlType_attributes[] = {
-    attribute_event("Name", attribute_Name),
-    attribute_event("Description", attribute_Description),
-    attribute_event("UniqueID", attribute_UniqueID),
-    attribute_event("Comments", attribute_Comments),
-    k_end_of_map,
-};
-constexpr s_event_map k_ColorQualityControlType_elements[] = {
-    element_event("CustomAttribute", element_CustomAttribute),
-    element_event("ChangeHistory", element_ChangeHistory),
-    element_event("StandardAndMeasurement", element_StandardAndMeasurement),
-    element_event("PhysicalSample", element_PhysicalSample),
-    element_event("Tolerance", element_Tolerance),
-    k_end_of_map,
-};
-constinit const s_item ColorQualityControlType::k_items[] = {
-    {item_kind::attribute, value_kind::text, use_name, ELMX_WS_PRESERVE, "Name", attribute_Name, LMX_OFFSET(ColorQualityControlType, m_Name, attribute, text), LMX_FLAG(ColorQualityControlType, m_isset_Name)},
-    {item_kind::attribute, value_kind::text, use_optional, ELMX_WS_PRESERVE, "Description", attribute_Description, LMX_OFFSET(ColorQualityControlType, m_Description, attribute, text), LMX_FLAG(ColorQualityControlType, m_isset_Description)},
-    {item_kind::attribute, value_kind::text, use_optional, ELMX_WS_PRESERVE, "UniqueID", attribute_UniqueID, LMX_OFFSET(ColorQualityControlType, m_UniqueID, attribute, text), LMX_FLAG(ColorQualityControlType, m_isset_UniqueID)},
-    {item_kind::attribute, value_kind::text, use_optional, ELMX_WS_PRESERVE, "Comments", attribute_Comments, LMX_OFFSET(ColorQualityControlType, m_Comments, attribute, text), LMX_FLAG(ColorQualityControlType, m_isset_Comments)},
-    {item_kind::child_list, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:CustomAttribute", element_CustomAttribute, LMX_OFFSET(ColorQualityControlType, m_CustomAttribute, child_list, none), k_no_flag, position_of(k_ColorQualityControlType_elements, element_CustomAttribute), 1, &CustomAttributeType::k_class},
-    {item_kind::element_list, value_kind::datetime, use_demanded | use_asked, ELMX_WS_COLLAPSE, "Vyr:ChangeHistory", element_ChangeHistory, LMX_OFFSET(ColorQualityControlType, m_ChangeHistory, element_list, datetime), k_no_flag, position_of(k_ColorQualityControlType_elements, element_ChangeHistory), 1, nullptr, &facets::DateTimeZone},
-    {item_kind::child_list, value_kind::none, use_demanded | use_asked, ELMX_WS_PRESERVE, "Vyr:StandardAndMeasurement", element_StandardAndMeasurement, LMX_OFFSET(ColorQualityControlType, m_StandardAndMeasurement, child_list, none), k_no_flag, position_of(k_ColorQualityControlType_elements, element_StandardAndMeasurement), 1, &StandardAndMeasurementType::k_class},
-    {item_kind::optional_child, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:PhysicalSample", element_PhysicalSample, LMX_OFFSET(ColorQualityControlType, m_PhysicalSample, optional_child, none), LMX_FLAG(ColorQualityControlType, m_isset_PhysicalSample), position_of(k_ColorQualityControlType_elements, element_PhysicalSample), 1, &PhysicalSampleType::k_class},
-    {item_kind::child_list, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:Tolerance", element_Tolerance, LMX_OFFSET(ColorQualityControlType, m_Tolerance, child_list, none), k_no_flag, position_of(k_ColorQualityControlType_elements, element_Tolerance), 1, &ToleranceType::k_class},
+constexpr s_item ColorQualityControlType::k_items[] = {
+    {item_kind::attribute, value_kind::text, use_name, ELMX_WS_PRESERVE, "Name", attribute("Name"), LMX_OFFSET(ColorQualityControlType, m_Name, attribute, text), LMX_FLAG(ColorQualityControlType, m_isset_Name)},
+    {item_kind::attribute, value_kind::text, use_optional, ELMX_WS_PRESERVE, "Description", attribute("Description"), LMX_OFFSET(ColorQualityControlType, m_Description, attribute, text), LMX_FLAG(ColorQualityControlType, m_isset_Description)},
+    {item_kind::attribute, value_kind::text, use_optional, ELMX_WS_PRESERVE, "UniqueID", attribute("UniqueID"), LMX_OFFSET(ColorQualityControlType, m_UniqueID, attribute, text), LMX_FLAG(ColorQualityControlType, m_isset_UniqueID)},
+    {item_kind::attribute, value_kind::text, use_optional, ELMX_WS_PRESERVE, "Comments", attribute("Comments"), LMX_OFFSET(ColorQualityControlType, m_Comments, attribute, text), LMX_FLAG(ColorQualityControlType, m_isset_Comments)},
+    {item_kind::child_list, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:CustomAttribute", element("CustomAttribute"), LMX_OFFSET(ColorQualityControlType, m_CustomAttribute, child_list, none), k_no_flag, &CustomAttributeType::k_class},
+    {item_kind::element_list, value_kind::datetime, use_demanded | use_asked, ELMX_WS_COLLAPSE, "Vyr:ChangeHistory", element("ChangeHistory"), LMX_OFFSET(ColorQualityControlType, m_ChangeHistory, element_list, datetime), k_no_flag, nullptr, &facets::DateTimeZone},
+    {item_kind::child_list, value_kind::none, use_demanded | use_asked, ELMX_WS_PRESERVE, "Vyr:StandardAndMeasurement", element("StandardAndMeasurement"), LMX_OFFSET(ColorQualityControlType, m_StandardAndMeasurement, child_list, none), k_no_flag, &StandardAndMeasurementType::k_class},
+    {item_kind::optional_child, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:PhysicalSample", element("PhysicalSample"), LMX_OFFSET(ColorQualityControlType, m_PhysicalSample, optional_child, none), LMX_FLAG(ColorQualityControlType, m_isset_PhysicalSample), &PhysicalSampleType::k_class},
+    {item_kind::child_list, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:Tolerance", element("Tolerance"), LMX_OFFSET(ColorQualityControlType, m_Tolerance, child_list, none), k_no_flag, &ToleranceType::k_class},
 };
 constinit const s_class ColorQualityControlType::k_class = {
     .name = "ColorQualityControlType",
     .qualified_name = "Vyr:ColorQualityControlType",
     .content = content_kind::children,
+    .names = &k_names,
     .ns_map = k_ns_map,
-    .attributes = std::span(k_items).first(std::size(k_ColorQualityControlType_attributes) - 1),
-    .elements = std::span(k_items).subspan(std::size(k_ColorQualityControlType_attributes) - 1),
-    .attribute_map = k_ColorQualityControlType_attributes,
-    .element_map = k_ColorQualityControlType_elements,
+    .attributes = std::span(k_items).first(attribute_count(k_items)),
+    .elements = std::span(k_items).subspan(attribute_count(k_items)),
     .operations = &k_operations<ColorQualityControlType>,
 };
 
@@ -326,43 +254,19 @@ void ColorQualityControlType::clear_Tolerance() { m_Tolerance.clear(); }
 
 // Measurement
 
-constexpr s_event_map k_Measurement_elements[] = {
-    element_event("CustomAttribute", element_CustomAttribute),
-    element_event("Device", element_Device),
-    element_event("Color", element_Color),
-    element_event("Function", element_Function),
-    element_event("FunctionGeneric", element_FunctionGeneric),
-    element_event("FunctionDE", element_FunctionDE),
-    element_event("FunctionMeanDE", element_FunctionMeanDE),
-    element_event("FunctionDE94", element_FunctionDE94),
-    element_event("FunctionDE2000", element_FunctionDE2000),
-    element_event("FunctionDECMC", element_FunctionDECMC),
-    element_event("FunctionStdDevX", element_FunctionStdDevX),
-    element_event("FunctionStdDevY", element_FunctionStdDevY),
-    element_event("FunctionStdDevZ", element_FunctionStdDevZ),
-    element_event("FunctionStdDevL", element_FunctionStdDevL),
-    element_event("FunctionStdDevA", element_FunctionStdDevA),
-    element_event("FunctionStdDevB", element_FunctionStdDevB),
-    element_event("FunctionStdDevC", element_FunctionStdDevC),
-    element_event("FunctionStdDevH", element_FunctionStdDevH),
-    element_event("FunctionAverageStdDevL", element_FunctionAverageStdDevL),
-    element_event("FunctionAverageStdDevA", element_FunctionAverageStdDevA),
-    element_event("FunctionAverageStdDevB", element_FunctionAverageStdDevB),
-    k_end_of_map,
-};
-constinit const s_item Measurement::k_items[] = {
-    {item_kind::child_list, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:CustomAttribute", element_CustomAttribute, LMX_OFFSET(Measurement, m_CustomAttribute, child_list, none), k_no_flag, position_of(k_Measurement_elements, element_CustomAttribute), 1, &CustomAttributeType::k_class},
-    {item_kind::child, value_kind::none, use_required, ELMX_WS_PRESERVE, "Vyr:Device", element_Device, LMX_OFFSET(Measurement, m_Device, child, none), LMX_FLAG(Measurement, m_isset_Device), position_of(k_Measurement_elements, element_Device), 1, &DeviceType::k_class},
-    {item_kind::child, value_kind::none, use_required, ELMX_WS_PRESERVE, "Vyr:Color", element_Color, LMX_OFFSET(Measurement, m_Color, child, none), LMX_FLAG(Measurement, m_isset_Color), position_of(k_Measurement_elements, element_Color), 1, &ColorType::k_class},
-    {item_kind::group_list, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:Function", 0, LMX_OFFSET(Measurement, m_Function, group_list, none), k_no_flag, position_of(k_Measurement_elements, element_Function), 18, &sg_Function::k_class},
+constexpr s_item Measurement::k_items[] = {
+    {item_kind::child_list, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:CustomAttribute", element("CustomAttribute"), LMX_OFFSET(Measurement, m_CustomAttribute, child_list, none), k_no_flag, &CustomAttributeType::k_class},
+    {item_kind::child, value_kind::none, use_required, ELMX_WS_PRESERVE, "Vyr:Device", element("Device"), LMX_OFFSET(Measurement, m_Device, child, none), LMX_FLAG(Measurement, m_isset_Device), &DeviceType::k_class},
+    {item_kind::child, value_kind::none, use_required, ELMX_WS_PRESERVE, "Vyr:Color", element("Color"), LMX_OFFSET(Measurement, m_Color, child, none), LMX_FLAG(Measurement, m_isset_Color), &ColorType::k_class},
+    {item_kind::group_list, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:Function", 0, LMX_OFFSET(Measurement, m_Function, group_list, none), k_no_flag, &sg_Function::k_class},
 };
 constinit const s_class Measurement::k_class = {
     .name = "Measurement",
     .qualified_name = "Vyr:Measurement",
     .content = content_kind::children,
+    .names = &k_names,
     .ns_map = k_ns_map,
     .elements = k_items,
-    .element_map = k_Measurement_elements,
     .operations = &k_operations<Measurement>,
 };
 
@@ -404,27 +308,20 @@ void Measurement::clear_Function() { m_Function.clear(); }
 
 // Standard
 
-constexpr s_event_map k_Standard_elements[] = {
-    element_event("CustomAttribute", element_CustomAttribute),
-    element_event("Device", element_Device),
-    element_event("Color", element_Color),
-    element_event("Tolerance", element_Tolerance),
-    k_end_of_map,
-};
-constinit const s_item Standard::k_items[] = {
-    {item_kind::child_list, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:CustomAttribute", element_CustomAttribute, LMX_OFFSET(Standard, m_CustomAttribute, child_list, none), k_no_flag, position_of(k_Standard_elements, element_CustomAttribute), 1, &CustomAttributeType::k_class},
-    {item_kind::child, value_kind::none, use_required, ELMX_WS_PRESERVE, "Vyr:Device", element_Device, LMX_OFFSET(Standard, m_Device, child, none), LMX_FLAG(Standard, m_isset_Device), position_of(k_Standard_elements, element_Device), 1, &DeviceType::k_class},
-    {item_kind::child, value_kind::none, use_required, ELMX_WS_PRESERVE, "Vyr:Color", element_Color, LMX_OFFSET(Standard, m_Color, child, none), LMX_FLAG(Standard, m_isset_Color), position_of(k_Standard_elements, element_Color), 1, &ColorType::k_class},
-    {item_kind::child_list, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:Tolerance", element_Tolerance, LMX_OFFSET(Standard, m_Tolerance, child_list, none), k_no_flag, position_of(k_Standard_elements, element_Tolerance), 1, &ToleranceType::k_class},
+constexpr s_item Standard::k_items[] = {
+    {item_kind::child_list, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:CustomAttribute", element("CustomAttribute"), LMX_OFFSET(Standard, m_CustomAttribute, child_list, none), k_no_flag, &CustomAttributeType::k_class},
+    {item_kind::child, value_kind::none, use_required, ELMX_WS_PRESERVE, "Vyr:Device", element("Device"), LMX_OFFSET(Standard, m_Device, child, none), LMX_FLAG(Standard, m_isset_Device), &DeviceType::k_class},
+    {item_kind::child, value_kind::none, use_required, ELMX_WS_PRESERVE, "Vyr:Color", element("Color"), LMX_OFFSET(Standard, m_Color, child, none), LMX_FLAG(Standard, m_isset_Color), &ColorType::k_class},
+    {item_kind::child_list, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:Tolerance", element("Tolerance"), LMX_OFFSET(Standard, m_Tolerance, child_list, none), k_no_flag, &ToleranceType::k_class},
 };
 constinit const s_class Standard::k_class = {
     .name = "Standard",
     .qualified_name = "Vyr:Standard",
     .content = content_kind::children,
+    .names = &k_names,
     .ns_map = k_ns_map,
     .nil_flag = LMX_FLAG(Standard, m_isnil),
     .elements = k_items,
-    .element_map = k_Standard_elements,
     .operations = &k_operations<Standard>,
 };
 
@@ -466,24 +363,18 @@ void Standard::clear_Tolerance() { m_Tolerance.clear(); }
 
 // StandardAndMeasurementType
 
-constexpr s_event_map k_StandardAndMeasurementType_elements[] = {
-    element_event("CustomAttribute", element_CustomAttribute),
-    element_event("Measurement", element_Measurement),
-    element_event("Standard", element_Standard),
-    k_end_of_map,
-};
-constinit const s_item StandardAndMeasurementType::k_items[] = {
-    {item_kind::child_list, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:CustomAttribute", element_CustomAttribute, LMX_OFFSET(StandardAndMeasurementType, m_CustomAttribute, child_list, none), k_no_flag, position_of(k_StandardAndMeasurementType_elements, element_CustomAttribute), 1, &CustomAttributeType::k_class},
-    {item_kind::child_list, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:Measurement", element_Measurement, LMX_OFFSET(StandardAndMeasurementType, m_Measurement, child_list, none), k_no_flag, position_of(k_StandardAndMeasurementType_elements, element_Measurement), 1, &Measurement::k_class},
-    {item_kind::child, value_kind::none, use_required, ELMX_WS_PRESERVE, "Vyr:Standard", element_Standard, LMX_OFFSET(StandardAndMeasurementType, m_Standard, child, none), LMX_FLAG(StandardAndMeasurementType, m_isset_Standard), position_of(k_StandardAndMeasurementType_elements, element_Standard), 1, &Standard::k_class},
+constexpr s_item StandardAndMeasurementType::k_items[] = {
+    {item_kind::child_list, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:CustomAttribute", element("CustomAttribute"), LMX_OFFSET(StandardAndMeasurementType, m_CustomAttribute, child_list, none), k_no_flag, &CustomAttributeType::k_class},
+    {item_kind::child_list, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:Measurement", element("Measurement"), LMX_OFFSET(StandardAndMeasurementType, m_Measurement, child_list, none), k_no_flag, &Measurement::k_class},
+    {item_kind::child, value_kind::none, use_required, ELMX_WS_PRESERVE, "Vyr:Standard", element("Standard"), LMX_OFFSET(StandardAndMeasurementType, m_Standard, child, none), LMX_FLAG(StandardAndMeasurementType, m_isset_Standard), &Standard::k_class},
 };
 constinit const s_class StandardAndMeasurementType::k_class = {
     .name = "StandardAndMeasurementType",
     .qualified_name = "Vyr:StandardAndMeasurementType",
     .content = content_kind::children,
+    .names = &k_names,
     .ns_map = k_ns_map,
     .elements = k_items,
-    .element_map = k_StandardAndMeasurementType_elements,
     .operations = &k_operations<StandardAndMeasurementType>,
 };
 

@@ -8,7 +8,6 @@
 
 #include "schema/generated/recipes.h"
 #include "lmx/binding/binding.h"
-#include "lmx/binding/rows.h"
 #include "schema/generated/color_values.h"
 #include "schema/generated/conditions.h"
 #include "schema/generated/header.h"
@@ -22,27 +21,21 @@ namespace com_vyrgraph_v2 {
 
 using namespace lmx;  // for the tables' sake
 
-static_assert(k_binding_version == 5, "run schema/generator/generate.py");
+static_assert(k_binding_version == 6, "run schema/generator/generate.py");
 
 // ColorName
 
-constexpr s_event_map k_ColorName_elements[] = {
-    element_event("PrefixName", element_PrefixName),
-    element_event("BaseName", element_BaseName),
-    element_event("SuffixName", element_SuffixName),
-    k_end_of_map,
-};
-constinit const s_item ColorName::k_items[] = {
-    {item_kind::element, value_kind::text, use_required, ELMX_WS_PRESERVE, "Vyr:PrefixName", element_PrefixName, LMX_OFFSET(ColorName, m_PrefixName, element, text), LMX_FLAG(ColorName, m_isset_PrefixName), position_of(k_ColorName_elements, element_PrefixName), 1},
-    {item_kind::element, value_kind::text, use_required, ELMX_WS_PRESERVE, "Vyr:BaseName", element_BaseName, LMX_OFFSET(ColorName, m_BaseName, element, text), LMX_FLAG(ColorName, m_isset_BaseName), position_of(k_ColorName_elements, element_BaseName), 1},
-    {item_kind::element, value_kind::text, use_required, ELMX_WS_PRESERVE, "Vyr:SuffixName", element_SuffixName, LMX_OFFSET(ColorName, m_SuffixName, element, text), LMX_FLAG(ColorName, m_isset_SuffixName), position_of(k_ColorName_elements, element_SuffixName), 1},
+constexpr s_item ColorName::k_items[] = {
+    {item_kind::element, value_kind::text, use_required, ELMX_WS_PRESERVE, "Vyr:PrefixName", element("PrefixName"), LMX_OFFSET(ColorName, m_PrefixName, element, text), LMX_FLAG(ColorName, m_isset_PrefixName)},
+    {item_kind::element, value_kind::text, use_required, ELMX_WS_PRESERVE, "Vyr:BaseName", element("BaseName"), LMX_OFFSET(ColorName, m_BaseName, element, text), LMX_FLAG(ColorName, m_isset_BaseName)},
+    {item_kind::element, value_kind::text, use_required, ELMX_WS_PRESERVE, "Vyr:SuffixName", element("SuffixName"), LMX_OFFSET(ColorName, m_SuffixName, element, text), LMX_FLAG(ColorName, m_isset_SuffixName)},
 };
 constinit const s_class ColorName::k_class = {
     .name = "ColorName",
     .qualified_name = "Vyr:ColorName",
     .content = content_kind::children,
+    .names = &k_names,
     .elements = k_items,
-    .element_map = k_ColorName_elements,
     .operations = &k_operations<ColorName>,
 };
 
@@ -61,20 +54,16 @@ lmx::elmx_error ColorName::set_SuffixName(const std::u16string& value) { return 
 
 // Recipe
 
-constexpr s_event_map k_Recipe_elements[] = {
-    element_event("ColorantElement", element_ColorantElement),
-    k_end_of_map,
-};
-constinit const s_item Recipe::k_items[] = {
-    {item_kind::child_list, value_kind::none, use_demanded | use_asked, ELMX_WS_PRESERVE, "Vyr:ColorantElement", element_ColorantElement, LMX_OFFSET(Recipe, m_ColorantElement, child_list, none), k_no_flag, position_of(k_Recipe_elements, element_ColorantElement), 1, &ColorantElement::k_class},
+constexpr s_item Recipe::k_items[] = {
+    {item_kind::child_list, value_kind::none, use_demanded | use_asked, ELMX_WS_PRESERVE, "Vyr:ColorantElement", element("ColorantElement"), LMX_OFFSET(Recipe, m_ColorantElement, child_list, none), k_no_flag, &ColorantElement::k_class},
 };
 constinit const s_class Recipe::k_class = {
     .name = "Recipe",
     .qualified_name = "Vyr:Recipe",
     .content = content_kind::children,
     .may_be_empty = true,
+    .names = &k_names,
     .elements = k_items,
-    .element_map = k_Recipe_elements,
     .operations = &k_operations<Recipe>,
 };
 
@@ -96,39 +85,25 @@ void Recipe::clear_ColorantElement() { m_ColorantElement.clear(); }
 
 // ColorSpaceTINTORAType
 
-constexpr s_event_map k_ColorSpaceTINTORAType_attributes[] = {
-    attribute_event("Name", attribute_Name),
-    k_end_of_map,
-};
-constexpr s_event_map k_ColorSpaceTINTORAType_elements[] = {
-    element_event("FamilyName", element_FamilyName),
-    element_event("ColorName", element_ColorName),
-    element_event("Page", element_Page),
-    element_event("Gamut", element_Gamut),
-    element_event("Recipe", element_Recipe),
-    element_event("ColorAndFinish", element_ColorAndFinish),
-    k_end_of_map,
-};
-constinit const s_item ColorSpaceTINTORAType::k_items[] = {
-    {item_kind::attribute, value_kind::text, use_name, ELMX_WS_PRESERVE, "Name", attribute_Name, LMX_OFFSET(ColorSpaceTINTORAType, m_Name, attribute, text), LMX_FLAG(ColorSpaceTINTORAType, m_isset_Name)},
-    {item_kind::element, value_kind::text, use_required, ELMX_WS_PRESERVE, "Vyr:FamilyName", element_FamilyName, LMX_OFFSET(ColorSpaceTINTORAType, m_FamilyName, element, text), LMX_FLAG(ColorSpaceTINTORAType, m_isset_FamilyName), position_of(k_ColorSpaceTINTORAType_elements, element_FamilyName), 1},
-    {item_kind::child, value_kind::none, use_required, ELMX_WS_PRESERVE, "Vyr:ColorName", element_ColorName, LMX_OFFSET(ColorSpaceTINTORAType, m_ColorName, child, none), LMX_FLAG(ColorSpaceTINTORAType, m_isset_ColorName), position_of(k_ColorSpaceTINTORAType_elements, element_ColorName), 1, &ColorName::k_class},
-    {item_kind::element, value_kind::text, use_required, ELMX_WS_PRESERVE, "Vyr:Page", element_Page, LMX_OFFSET(ColorSpaceTINTORAType, m_Page, element, text), LMX_FLAG(ColorSpaceTINTORAType, m_isset_Page), position_of(k_ColorSpaceTINTORAType_elements, element_Page), 1},
-    {item_kind::element, value_kind::enumerated, use_required, ELMX_WS_PRESERVE, "Vyr:Gamut", element_Gamut, LMX_OFFSET(ColorSpaceTINTORAType, m_Gamut, element, enumerated), LMX_FLAG(ColorSpaceTINTORAType, m_isset_Gamut), position_of(k_ColorSpaceTINTORAType_elements, element_Gamut), 1, nullptr, &facets::GamutKind},
-    {item_kind::optional_child, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:Recipe", element_Recipe, LMX_OFFSET(ColorSpaceTINTORAType, m_Recipe, optional_child, none), LMX_FLAG(ColorSpaceTINTORAType, m_isset_Recipe), position_of(k_ColorSpaceTINTORAType_elements, element_Recipe), 1, &Recipe::k_class},
-    {item_kind::child_list, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:ColorAndFinish", element_ColorAndFinish, LMX_OFFSET(ColorSpaceTINTORAType, m_ColorAndFinish, child_list, none), k_no_flag, position_of(k_ColorSpaceTINTORAType_elements, element_ColorAndFinish), 1, &ColorAndFinish::k_class},
+constexpr s_item ColorSpaceTINTORAType::k_items[] = {
+    {item_kind::attribute, value_kind::text, use_name, ELMX_WS_PRESERVE, "Name", attribute("Name"), LMX_OFFSET(ColorSpaceTINTORAType, m_Name, attribute, text), LMX_FLAG(ColorSpaceTINTORAType, m_isset_Name)},
+    {item_kind::element, value_kind::text, use_required, ELMX_WS_PRESERVE, "Vyr:FamilyName", element("FamilyName"), LMX_OFFSET(ColorSpaceTINTORAType, m_FamilyName, element, text), LMX_FLAG(ColorSpaceTINTORAType, m_isset_FamilyName)},
+    {item_kind::child, value_kind::none, use_required, ELMX_WS_PRESERVE, "Vyr:ColorName", element("ColorName"), LMX_OFFSET(ColorSpaceTINTORAType, m_ColorName, child, none), LMX_FLAG(ColorSpaceTINTORAType, m_isset_ColorName), &ColorName::k_class},
+    {item_kind::element, value_kind::text, use_required, ELMX_WS_PRESERVE, "Vyr:Page", element("Page"), LMX_OFFSET(ColorSpaceTINTORAType, m_Page, element, text), LMX_FLAG(ColorSpaceTINTORAType, m_isset_Page)},
+    {item_kind::element, value_kind::enumerated, use_required, ELMX_WS_PRESERVE, "Vyr:Gamut", element("Gamut"), LMX_OFFSET(ColorSpaceTINTORAType, m_Gamut, element, enumerated), LMX_FLAG(ColorSpaceTINTORAType, m_isset_Gamut), nullptr, &facets::GamutKind},
+    {item_kind::optional_child, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:Recipe", element("Recipe"), LMX_OFFSET(ColorSpaceTINTORAType, m_Recipe, optional_child, none), LMX_FLAG(ColorSpaceTINTORAType, m_isset_Recipe), &Recipe::k_class},
+    {item_kind::child_list, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:ColorAndFinish", element("ColorAndFinish"), LMX_OFFSET(ColorSpaceTINTORAType, m_ColorAndFinish, child_list, none), k_no_flag, &ColorAndFinish::k_class},
 };
 constinit const s_class ColorSpaceTINTORAType::k_class = {
     .name = "ColorSpaceTINTORAType",
     .qualified_name = "Vyr:ColorSpaceTINTORAType",
     .base = &ColorSpaceType::k_class,
     .content = content_kind::children,
+    .names = &k_names,
     .ns_map = k_ns_map,
     .id = &ColorSpaceTINTORAType::id,
-    .attributes = std::span(k_items).first(std::size(k_ColorSpaceTINTORAType_attributes) - 1),
-    .elements = std::span(k_items).subspan(std::size(k_ColorSpaceTINTORAType_attributes) - 1),
-    .attribute_map = k_ColorSpaceTINTORAType_attributes,
-    .element_map = k_ColorSpaceTINTORAType_elements,
+    .attributes = std::span(k_items).first(attribute_count(k_items)),
+    .elements = std::span(k_items).subspan(attribute_count(k_items)),
     .operations = &k_operations<ColorSpaceTINTORAType>,
 };
 
@@ -164,27 +139,19 @@ void ColorSpaceTINTORAType::clear_ColorAndFinish() { m_ColorAndFinish.clear(); }
 
 // Colorant
 
-constexpr s_event_map k_Colorant_elements[] = {
-    element_event("CustomAttributes", element_CustomAttributes),
-    element_event("Name", element_Name),
-    element_event("Manufacturer", element_Manufacturer),
-    element_event("PartNumber", element_PartNumber),
-    element_event("Density", element_Density),
-    k_end_of_map,
-};
-constinit const s_item Colorant::k_items[] = {
-    {item_kind::child_list, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:CustomAttributes", element_CustomAttributes, LMX_OFFSET(Colorant, m_CustomAttributes, child_list, none), k_no_flag, position_of(k_Colorant_elements, element_CustomAttributes), 1, &CustomAttributes::k_class},
-    {item_kind::element, value_kind::text, use_required | use_name, ELMX_WS_PRESERVE, "Vyr:Name", element_Name, LMX_OFFSET(Colorant, m_Name, element, text), LMX_FLAG(Colorant, m_isset_Name), position_of(k_Colorant_elements, element_Name), 1, nullptr, &facets::NonEmptyString},
-    {item_kind::element, value_kind::text, use_optional, ELMX_WS_PRESERVE, "Vyr:Manufacturer", element_Manufacturer, LMX_OFFSET(Colorant, m_Manufacturer, element, text), LMX_FLAG(Colorant, m_isset_Manufacturer), position_of(k_Colorant_elements, element_Manufacturer), 1, nullptr, &facets::NonEmptyString},
-    {item_kind::element, value_kind::text, use_optional, ELMX_WS_PRESERVE, "Vyr:PartNumber", element_PartNumber, LMX_OFFSET(Colorant, m_PartNumber, element, text), LMX_FLAG(Colorant, m_isset_PartNumber), position_of(k_Colorant_elements, element_PartNumber), 1, nullptr, &facets::NonEmptyString},
-    {item_kind::element, value_kind::number, use_optional, ELMX_WS_COLLAPSE, "Vyr:Density", element_Density, LMX_OFFSET(Colorant, m_Density, element, number), LMX_FLAG(Colorant, m_isset_Density), position_of(k_Colorant_elements, element_Density), 1, nullptr, &facets::Positive},
+constexpr s_item Colorant::k_items[] = {
+    {item_kind::child_list, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:CustomAttributes", element("CustomAttributes"), LMX_OFFSET(Colorant, m_CustomAttributes, child_list, none), k_no_flag, &CustomAttributes::k_class},
+    {item_kind::element, value_kind::text, use_required | use_name, ELMX_WS_PRESERVE, "Vyr:Name", element("Name"), LMX_OFFSET(Colorant, m_Name, element, text), LMX_FLAG(Colorant, m_isset_Name), nullptr, &facets::NonEmptyString},
+    {item_kind::element, value_kind::text, use_optional, ELMX_WS_PRESERVE, "Vyr:Manufacturer", element("Manufacturer"), LMX_OFFSET(Colorant, m_Manufacturer, element, text), LMX_FLAG(Colorant, m_isset_Manufacturer), nullptr, &facets::NonEmptyString},
+    {item_kind::element, value_kind::text, use_optional, ELMX_WS_PRESERVE, "Vyr:PartNumber", element("PartNumber"), LMX_OFFSET(Colorant, m_PartNumber, element, text), LMX_FLAG(Colorant, m_isset_PartNumber), nullptr, &facets::NonEmptyString},
+    {item_kind::element, value_kind::number, use_optional, ELMX_WS_COLLAPSE, "Vyr:Density", element("Density"), LMX_OFFSET(Colorant, m_Density, element, number), LMX_FLAG(Colorant, m_isset_Density), nullptr, &facets::Positive},
 };
 constinit const s_class Colorant::k_class = {
     .name = "Colorant",
     .qualified_name = "Vyr:Colorant",
     .content = content_kind::children,
+    .names = &k_names,
     .elements = k_items,
-    .element_map = k_Colorant_elements,
     .operations = &k_operations<Colorant>,
 };
 
@@ -210,21 +177,16 @@ lmx::elmx_error Colorant::set_Density(double value) { return lmx::set_item(k_cla
 
 // ColorantElement
 
-constexpr s_event_map k_ColorantElement_elements[] = {
-    element_event("Colorant", element_Colorant),
-    element_event("Contribution", element_Contribution),
-    k_end_of_map,
-};
-constinit const s_item ColorantElement::k_items[] = {
-    {item_kind::child, value_kind::none, use_required, ELMX_WS_PRESERVE, "Vyr:Colorant", element_Colorant, LMX_OFFSET(ColorantElement, m_Colorant, child, none), LMX_FLAG(ColorantElement, m_isset_Colorant), position_of(k_ColorantElement_elements, element_Colorant), 1, &Colorant::k_class},
-    {item_kind::element, value_kind::number, use_required, ELMX_WS_COLLAPSE, "Vyr:Contribution", element_Contribution, LMX_OFFSET(ColorantElement, m_Contribution, element, number), LMX_FLAG(ColorantElement, m_isset_Contribution), position_of(k_ColorantElement_elements, element_Contribution), 1, nullptr, &facets::NonNegative},
+constexpr s_item ColorantElement::k_items[] = {
+    {item_kind::child, value_kind::none, use_required, ELMX_WS_PRESERVE, "Vyr:Colorant", element("Colorant"), LMX_OFFSET(ColorantElement, m_Colorant, child, none), LMX_FLAG(ColorantElement, m_isset_Colorant), &Colorant::k_class},
+    {item_kind::element, value_kind::number, use_required, ELMX_WS_COLLAPSE, "Vyr:Contribution", element("Contribution"), LMX_OFFSET(ColorantElement, m_Contribution, element, number), LMX_FLAG(ColorantElement, m_isset_Contribution), nullptr, &facets::NonNegative},
 };
 constinit const s_class ColorantElement::k_class = {
     .name = "ColorantElement",
     .qualified_name = "Vyr:ColorantElement",
     .content = content_kind::children,
+    .names = &k_names,
     .elements = k_items,
-    .element_map = k_ColorantElement_elements,
     .operations = &k_operations<ColorantElement>,
 };
 
@@ -242,20 +204,16 @@ lmx::elmx_error ColorantElement::set_Contribution(double value) { return lmx::se
 
 // CustomAttributes
 
-constexpr s_event_map k_CustomAttributes_elements[] = {
-    element_event("CustomAttribute", element_CustomAttribute),
-    k_end_of_map,
-};
-constinit const s_item CustomAttributes::k_items[] = {
-    {item_kind::child, value_kind::none, use_required, ELMX_WS_PRESERVE, "Vyr:CustomAttribute", element_CustomAttribute, LMX_OFFSET(CustomAttributes, m_CustomAttribute, child, none), LMX_FLAG(CustomAttributes, m_isset_CustomAttribute), position_of(k_CustomAttributes_elements, element_CustomAttribute), 1, &CustomAttributeType::k_class},
+constexpr s_item CustomAttributes::k_items[] = {
+    {item_kind::child, value_kind::none, use_required, ELMX_WS_PRESERVE, "Vyr:CustomAttribute", element("CustomAttribute"), LMX_OFFSET(CustomAttributes, m_CustomAttribute, child, none), LMX_FLAG(CustomAttributes, m_isset_CustomAttribute), &CustomAttributeType::k_class},
 };
 constinit const s_class CustomAttributes::k_class = {
     .name = "CustomAttributes",
     .qualified_name = "Vyr:CustomAttributes",
     .content = content_kind::children,
     .may_be_empty = true,
+    .names = &k_names,
     .elements = k_items,
-    .element_map = k_CustomAttributes_elements,
     .operations = &k_operations<CustomAttributes>,
 };
 
@@ -272,22 +230,17 @@ CustomAttributeType& CustomAttributes::assign_CustomAttribute(const CustomAttrib
 
 // ColorAndFinish
 
-constexpr s_event_map k_ColorAndFinish_elements[] = {
-    element_event("Finish", element_Finish),
-    element_event("ColorSpaceSpectral", element_ColorSpaceSpectral),
-    k_end_of_map,
-};
-constinit const s_item ColorAndFinish::k_items[] = {
-    {item_kind::element, value_kind::enumerated, use_required, ELMX_WS_PRESERVE, "Vyr:Finish", element_Finish, LMX_OFFSET(ColorAndFinish, m_Finish, element, enumerated), LMX_FLAG(ColorAndFinish, m_isset_Finish), position_of(k_ColorAndFinish_elements, element_Finish), 1, nullptr, &facets::FinishKind},
-    {item_kind::child, value_kind::none, use_required, ELMX_WS_PRESERVE, "Vyr:ColorSpaceSpectral", element_ColorSpaceSpectral, LMX_OFFSET(ColorAndFinish, m_ColorSpaceSpectral, child, none), LMX_FLAG(ColorAndFinish, m_isset_ColorSpaceSpectral), position_of(k_ColorAndFinish_elements, element_ColorSpaceSpectral), 1, &ColorSpaceSpectralType::k_class},
+constexpr s_item ColorAndFinish::k_items[] = {
+    {item_kind::element, value_kind::enumerated, use_required, ELMX_WS_PRESERVE, "Vyr:Finish", element("Finish"), LMX_OFFSET(ColorAndFinish, m_Finish, element, enumerated), LMX_FLAG(ColorAndFinish, m_isset_Finish), nullptr, &facets::FinishKind},
+    {item_kind::child, value_kind::none, use_required, ELMX_WS_PRESERVE, "Vyr:ColorSpaceSpectral", element("ColorSpaceSpectral"), LMX_OFFSET(ColorAndFinish, m_ColorSpaceSpectral, child, none), LMX_FLAG(ColorAndFinish, m_isset_ColorSpaceSpectral), &ColorSpaceSpectralType::k_class},
 };
 constinit const s_class ColorAndFinish::k_class = {
     .name = "ColorAndFinish",
     .qualified_name = "Vyr:ColorAndFinish",
     .content = content_kind::children,
     .may_be_empty = true,
+    .names = &k_names,
     .elements = k_items,
-    .element_map = k_ColorAndFinish_elements,
     .operations = &k_operations<ColorAndFinish>,
 };
 
@@ -306,31 +259,21 @@ ColorSpaceSpectralType& ColorAndFinish::assign_ColorSpaceSpectral(const ColorSpa
 
 // ColorSpaceNCSType
 
-constexpr s_event_map k_ColorSpaceNCSType_attributes[] = {
-    attribute_event("Name", attribute_Name),
-    k_end_of_map,
-};
-constexpr s_event_map k_ColorSpaceNCSType_elements[] = {
-    element_event("ColorSpaceSpecificationSpectrumGeneric", element_ColorSpaceSpecificationSpectrumGeneric),
-    element_event("ColorName", element_ColorName),
-    k_end_of_map,
-};
-constinit const s_item ColorSpaceNCSType::k_items[] = {
-    {item_kind::attribute, value_kind::text, use_name, ELMX_WS_PRESERVE, "Name", attribute_Name, LMX_OFFSET(ColorSpaceNCSType, m_Name, attribute, text), LMX_FLAG(ColorSpaceNCSType, m_isset_Name)},
-    {item_kind::child, value_kind::none, use_required, ELMX_WS_PRESERVE, "Vyr:ColorSpaceSpecificationSpectrumGeneric", element_ColorSpaceSpecificationSpectrumGeneric, LMX_OFFSET(ColorSpaceNCSType, m_ColorSpaceSpecificationSpectrumGeneric, child, none), LMX_FLAG(ColorSpaceNCSType, m_isset_ColorSpaceSpecificationSpectrumGeneric), position_of(k_ColorSpaceNCSType_elements, element_ColorSpaceSpecificationSpectrumGeneric), 1, &ColorSpaceSpecificationSpectrumGeneric::k_class},
-    {item_kind::element, value_kind::text, use_required, ELMX_WS_PRESERVE, "Vyr:ColorName", element_ColorName, LMX_OFFSET(ColorSpaceNCSType, m_ColorName, element, text), LMX_FLAG(ColorSpaceNCSType, m_isset_ColorName), position_of(k_ColorSpaceNCSType_elements, element_ColorName), 1},
+constexpr s_item ColorSpaceNCSType::k_items[] = {
+    {item_kind::attribute, value_kind::text, use_name, ELMX_WS_PRESERVE, "Name", attribute("Name"), LMX_OFFSET(ColorSpaceNCSType, m_Name, attribute, text), LMX_FLAG(ColorSpaceNCSType, m_isset_Name)},
+    {item_kind::child, value_kind::none, use_required, ELMX_WS_PRESERVE, "Vyr:ColorSpaceSpecificationSpectrumGeneric", element("ColorSpaceSpecificationSpectrumGeneric"), LMX_OFFSET(ColorSpaceNCSType, m_ColorSpaceSpecificationSpectrumGeneric, child, none), LMX_FLAG(ColorSpaceNCSType, m_isset_ColorSpaceSpecificationSpectrumGeneric), &ColorSpaceSpecificationSpectrumGeneric::k_class},
+    {item_kind::element, value_kind::text, use_required, ELMX_WS_PRESERVE, "Vyr:ColorName", element("ColorName"), LMX_OFFSET(ColorSpaceNCSType, m_ColorName, element, text), LMX_FLAG(ColorSpaceNCSType, m_isset_ColorName)},
 };
 constinit const s_class ColorSpaceNCSType::k_class = {
     .name = "ColorSpaceNCSType",
     .qualified_name = "Vyr:ColorSpaceNCSType",
     .base = &ColorSpaceType::k_class,
     .content = content_kind::children,
+    .names = &k_names,
     .ns_map = k_ns_map,
     .id = &ColorSpaceNCSType::id,
-    .attributes = std::span(k_items).first(std::size(k_ColorSpaceNCSType_attributes) - 1),
-    .elements = std::span(k_items).subspan(std::size(k_ColorSpaceNCSType_attributes) - 1),
-    .attribute_map = k_ColorSpaceNCSType_attributes,
-    .element_map = k_ColorSpaceNCSType_elements,
+    .attributes = std::span(k_items).first(attribute_count(k_items)),
+    .elements = std::span(k_items).subspan(attribute_count(k_items)),
     .operations = &k_operations<ColorSpaceNCSType>,
 };
 
@@ -354,33 +297,22 @@ lmx::elmx_error ColorSpaceNCSType::set_ColorName(const std::u16string& value) { 
 
 // ColorSpaceMunsellType
 
-constexpr s_event_map k_ColorSpaceMunsellType_attributes[] = {
-    attribute_event("Name", attribute_Name),
-    k_end_of_map,
-};
-constexpr s_event_map k_ColorSpaceMunsellType_elements[] = {
-    element_event("ColorSpaceSpecificationSpectrumGeneric", element_ColorSpaceSpecificationSpectrumGeneric),
-    element_event("CollectionName", element_CollectionName),
-    element_event("ColorName", element_ColorName),
-    k_end_of_map,
-};
-constinit const s_item ColorSpaceMunsellType::k_items[] = {
-    {item_kind::attribute, value_kind::text, use_name, ELMX_WS_PRESERVE, "Name", attribute_Name, LMX_OFFSET(ColorSpaceMunsellType, m_Name, attribute, text), LMX_FLAG(ColorSpaceMunsellType, m_isset_Name)},
-    {item_kind::child, value_kind::none, use_required, ELMX_WS_PRESERVE, "Vyr:ColorSpaceSpecificationSpectrumGeneric", element_ColorSpaceSpecificationSpectrumGeneric, LMX_OFFSET(ColorSpaceMunsellType, m_ColorSpaceSpecificationSpectrumGeneric, child, none), LMX_FLAG(ColorSpaceMunsellType, m_isset_ColorSpaceSpecificationSpectrumGeneric), position_of(k_ColorSpaceMunsellType_elements, element_ColorSpaceSpecificationSpectrumGeneric), 1, &ColorSpaceSpecificationSpectrumGeneric::k_class},
-    {item_kind::element, value_kind::text, use_required, ELMX_WS_PRESERVE, "Vyr:CollectionName", element_CollectionName, LMX_OFFSET(ColorSpaceMunsellType, m_CollectionName, element, text), LMX_FLAG(ColorSpaceMunsellType, m_isset_CollectionName), position_of(k_ColorSpaceMunsellType_elements, element_CollectionName), 1, nullptr, &facets::NonEmptyString},
-    {item_kind::element, value_kind::text, use_required, ELMX_WS_PRESERVE, "Vyr:ColorName", element_ColorName, LMX_OFFSET(ColorSpaceMunsellType, m_ColorName, element, text), LMX_FLAG(ColorSpaceMunsellType, m_isset_ColorName), position_of(k_ColorSpaceMunsellType_elements, element_ColorName), 1, nullptr, &facets::NonEmptyString},
+constexpr s_item ColorSpaceMunsellType::k_items[] = {
+    {item_kind::attribute, value_kind::text, use_name, ELMX_WS_PRESERVE, "Name", attribute("Name"), LMX_OFFSET(ColorSpaceMunsellType, m_Name, attribute, text), LMX_FLAG(ColorSpaceMunsellType, m_isset_Name)},
+    {item_kind::child, value_kind::none, use_required, ELMX_WS_PRESERVE, "Vyr:ColorSpaceSpecificationSpectrumGeneric", element("ColorSpaceSpecificationSpectrumGeneric"), LMX_OFFSET(ColorSpaceMunsellType, m_ColorSpaceSpecificationSpectrumGeneric, child, none), LMX_FLAG(ColorSpaceMunsellType, m_isset_ColorSpaceSpecificationSpectrumGeneric), &ColorSpaceSpecificationSpectrumGeneric::k_class},
+    {item_kind::element, value_kind::text, use_required, ELMX_WS_PRESERVE, "Vyr:CollectionName", element("CollectionName"), LMX_OFFSET(ColorSpaceMunsellType, m_CollectionName, element, text), LMX_FLAG(ColorSpaceMunsellType, m_isset_CollectionName), nullptr, &facets::NonEmptyString},
+    {item_kind::element, value_kind::text, use_required, ELMX_WS_PRESERVE, "Vyr:ColorName", element("ColorName"), LMX_OFFSET(ColorSpaceMunsellType, m_ColorName, element, text), LMX_FLAG(ColorSpaceMunsellType, m_isset_ColorName), nullptr, &facets::NonEmptyString},
 };
 constinit const s_class ColorSpaceMunsellType::k_class = {
     .name = "ColorSpaceMunsellType",
     .qualified_name = "Vyr:ColorSpaceMunsellType",
     .base = &ColorSpaceType::k_class,
     .content = content_kind::children,
+    .names = &k_names,
     .ns_map = k_ns_map,
     .id = &ColorSpaceMunsellType::id,
-    .attributes = std::span(k_items).first(std::size(k_ColorSpaceMunsellType_attributes) - 1),
-    .elements = std::span(k_items).subspan(std::size(k_ColorSpaceMunsellType_attributes) - 1),
-    .attribute_map = k_ColorSpaceMunsellType_attributes,
-    .element_map = k_ColorSpaceMunsellType_elements,
+    .attributes = std::span(k_items).first(attribute_count(k_items)),
+    .elements = std::span(k_items).subspan(attribute_count(k_items)),
     .operations = &k_operations<ColorSpaceMunsellType>,
 };
 
@@ -405,27 +337,19 @@ lmx::elmx_error ColorSpaceMunsellType::set_ColorName(const std::u16string& value
 
 // Base
 
-constexpr s_event_map k_Base_elements[] = {
-    element_event("CustomAttribute", element_CustomAttribute),
-    element_event("Name", element_Name),
-    element_event("Manufacturer", element_Manufacturer),
-    element_event("PartNumber", element_PartNumber),
-    element_event("Density", element_Density),
-    k_end_of_map,
-};
-constinit const s_item Base::k_items[] = {
-    {item_kind::child_list, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:CustomAttribute", element_CustomAttribute, LMX_OFFSET(Base, m_CustomAttribute, child_list, none), k_no_flag, position_of(k_Base_elements, element_CustomAttribute), 1, &CustomAttributeType::k_class},
-    {item_kind::element, value_kind::text, use_required | use_name, ELMX_WS_PRESERVE, "Vyr:Name", element_Name, LMX_OFFSET(Base, m_Name, element, text), LMX_FLAG(Base, m_isset_Name), position_of(k_Base_elements, element_Name), 1, nullptr, &facets::NonEmptyString},
-    {item_kind::element, value_kind::text, use_required, ELMX_WS_PRESERVE, "Vyr:Manufacturer", element_Manufacturer, LMX_OFFSET(Base, m_Manufacturer, element, text), LMX_FLAG(Base, m_isset_Manufacturer), position_of(k_Base_elements, element_Manufacturer), 1, nullptr, &facets::NonEmptyString},
-    {item_kind::element, value_kind::text, use_required, ELMX_WS_PRESERVE, "Vyr:PartNumber", element_PartNumber, LMX_OFFSET(Base, m_PartNumber, element, text), LMX_FLAG(Base, m_isset_PartNumber), position_of(k_Base_elements, element_PartNumber), 1, nullptr, &facets::NonEmptyString},
-    {item_kind::element, value_kind::number, use_optional, ELMX_WS_COLLAPSE, "Vyr:Density", element_Density, LMX_OFFSET(Base, m_Density, element, number), LMX_FLAG(Base, m_isset_Density), position_of(k_Base_elements, element_Density), 1, nullptr, &facets::Positive},
+constexpr s_item Base::k_items[] = {
+    {item_kind::child_list, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:CustomAttribute", element("CustomAttribute"), LMX_OFFSET(Base, m_CustomAttribute, child_list, none), k_no_flag, &CustomAttributeType::k_class},
+    {item_kind::element, value_kind::text, use_required | use_name, ELMX_WS_PRESERVE, "Vyr:Name", element("Name"), LMX_OFFSET(Base, m_Name, element, text), LMX_FLAG(Base, m_isset_Name), nullptr, &facets::NonEmptyString},
+    {item_kind::element, value_kind::text, use_required, ELMX_WS_PRESERVE, "Vyr:Manufacturer", element("Manufacturer"), LMX_OFFSET(Base, m_Manufacturer, element, text), LMX_FLAG(Base, m_isset_Manufacturer), nullptr, &facets::NonEmptyString},
+    {item_kind::element, value_kind::text, use_required, ELMX_WS_PRESERVE, "Vyr:PartNumber", element("PartNumber"), LMX_OFFSET(Base, m_PartNumber, element, text), LMX_FLAG(Base, m_isset_PartNumber), nullptr, &facets::NonEmptyString},
+    {item_kind::element, value_kind::number, use_optional, ELMX_WS_COLLAPSE, "Vyr:Density", element("Density"), LMX_OFFSET(Base, m_Density, element, number), LMX_FLAG(Base, m_isset_Density), nullptr, &facets::Positive},
 };
 constinit const s_class Base::k_class = {
     .name = "Base",
     .qualified_name = "Vyr:Base",
     .content = content_kind::children,
+    .names = &k_names,
     .elements = k_items,
-    .element_map = k_Base_elements,
     .operations = &k_operations<Base>,
 };
 
@@ -451,22 +375,17 @@ lmx::elmx_error Base::set_Density(double value) { return lmx::set_item(k_class, 
 
 // BaseElementType
 
-constexpr s_event_map k_BaseElementType_elements[] = {
-    element_event("Base", element_Base),
-    element_event("Contribution", element_Contribution),
-    k_end_of_map,
-};
-constinit const s_item BaseElementType::k_items[] = {
-    {item_kind::child, value_kind::none, use_required, ELMX_WS_PRESERVE, "Vyr:Base", element_Base, LMX_OFFSET(BaseElementType, m_Base, child, none), LMX_FLAG(BaseElementType, m_isset_Base), position_of(k_BaseElementType_elements, element_Base), 1, &Base::k_class},
-    {item_kind::element, value_kind::number, use_required, ELMX_WS_COLLAPSE, "Vyr:Contribution", element_Contribution, LMX_OFFSET(BaseElementType, m_Contribution, element, number), LMX_FLAG(BaseElementType, m_isset_Contribution), position_of(k_BaseElementType_elements, element_Contribution), 1, nullptr, &facets::NonNegative},
+constexpr s_item BaseElementType::k_items[] = {
+    {item_kind::child, value_kind::none, use_required, ELMX_WS_PRESERVE, "Vyr:Base", element("Base"), LMX_OFFSET(BaseElementType, m_Base, child, none), LMX_FLAG(BaseElementType, m_isset_Base), &Base::k_class},
+    {item_kind::element, value_kind::number, use_required, ELMX_WS_COLLAPSE, "Vyr:Contribution", element("Contribution"), LMX_OFFSET(BaseElementType, m_Contribution, element, number), LMX_FLAG(BaseElementType, m_isset_Contribution), nullptr, &facets::NonNegative},
 };
 constinit const s_class BaseElementType::k_class = {
     .name = "BaseElementType",
     .qualified_name = "Vyr:BaseElementType",
     .content = content_kind::children,
+    .names = &k_names,
     .ns_map = k_ns_map,
     .elements = k_items,
-    .element_map = k_BaseElementType_elements,
     .operations = &k_operations<BaseElementType>,
 };
 
@@ -484,33 +403,22 @@ lmx::elmx_error BaseElementType::set_Contribution(double value) { return lmx::se
 
 // ColorSpaceRecipeType
 
-constexpr s_event_map k_ColorSpaceRecipeType_attributes[] = {
-    attribute_event("Name", attribute_Name),
-    k_end_of_map,
-};
-constexpr s_event_map k_ColorSpaceRecipeType_elements[] = {
-    element_event("ColorSpaceSpecificationSpectrumGeneric", element_ColorSpaceSpecificationSpectrumGeneric),
-    element_event("ColorantElement", element_ColorantElement),
-    element_event("BaseElement", element_BaseElement),
-    k_end_of_map,
-};
-constinit const s_item ColorSpaceRecipeType::k_items[] = {
-    {item_kind::attribute, value_kind::text, use_name, ELMX_WS_PRESERVE, "Name", attribute_Name, LMX_OFFSET(ColorSpaceRecipeType, m_Name, attribute, text), LMX_FLAG(ColorSpaceRecipeType, m_isset_Name)},
-    {item_kind::child, value_kind::none, use_required, ELMX_WS_PRESERVE, "Vyr:ColorSpaceSpecificationSpectrumGeneric", element_ColorSpaceSpecificationSpectrumGeneric, LMX_OFFSET(ColorSpaceRecipeType, m_ColorSpaceSpecificationSpectrumGeneric, child, none), LMX_FLAG(ColorSpaceRecipeType, m_isset_ColorSpaceSpecificationSpectrumGeneric), position_of(k_ColorSpaceRecipeType_elements, element_ColorSpaceSpecificationSpectrumGeneric), 1, &ColorSpaceSpecificationSpectrumGeneric::k_class},
-    {item_kind::child_list, value_kind::none, use_demanded | use_asked, ELMX_WS_PRESERVE, "Vyr:ColorantElement", element_ColorantElement, LMX_OFFSET(ColorSpaceRecipeType, m_ColorantElement, child_list, none), k_no_flag, position_of(k_ColorSpaceRecipeType_elements, element_ColorantElement), 1, &ColorantElementType::k_class},
-    {item_kind::optional_child, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:BaseElement", element_BaseElement, LMX_OFFSET(ColorSpaceRecipeType, m_BaseElement, optional_child, none), LMX_FLAG(ColorSpaceRecipeType, m_isset_BaseElement), position_of(k_ColorSpaceRecipeType_elements, element_BaseElement), 1, &BaseElementType::k_class},
+constexpr s_item ColorSpaceRecipeType::k_items[] = {
+    {item_kind::attribute, value_kind::text, use_name, ELMX_WS_PRESERVE, "Name", attribute("Name"), LMX_OFFSET(ColorSpaceRecipeType, m_Name, attribute, text), LMX_FLAG(ColorSpaceRecipeType, m_isset_Name)},
+    {item_kind::child, value_kind::none, use_required, ELMX_WS_PRESERVE, "Vyr:ColorSpaceSpecificationSpectrumGeneric", element("ColorSpaceSpecificationSpectrumGeneric"), LMX_OFFSET(ColorSpaceRecipeType, m_ColorSpaceSpecificationSpectrumGeneric, child, none), LMX_FLAG(ColorSpaceRecipeType, m_isset_ColorSpaceSpecificationSpectrumGeneric), &ColorSpaceSpecificationSpectrumGeneric::k_class},
+    {item_kind::child_list, value_kind::none, use_demanded | use_asked, ELMX_WS_PRESERVE, "Vyr:ColorantElement", element("ColorantElement"), LMX_OFFSET(ColorSpaceRecipeType, m_ColorantElement, child_list, none), k_no_flag, &ColorantElementType::k_class},
+    {item_kind::optional_child, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:BaseElement", element("BaseElement"), LMX_OFFSET(ColorSpaceRecipeType, m_BaseElement, optional_child, none), LMX_FLAG(ColorSpaceRecipeType, m_isset_BaseElement), &BaseElementType::k_class},
 };
 constinit const s_class ColorSpaceRecipeType::k_class = {
     .name = "ColorSpaceRecipeType",
     .qualified_name = "Vyr:ColorSpaceRecipeType",
     .base = &ColorSpaceType::k_class,
     .content = content_kind::children,
+    .names = &k_names,
     .ns_map = k_ns_map,
     .id = &ColorSpaceRecipeType::id,
-    .attributes = std::span(k_items).first(std::size(k_ColorSpaceRecipeType_attributes) - 1),
-    .elements = std::span(k_items).subspan(std::size(k_ColorSpaceRecipeType_attributes) - 1),
-    .attribute_map = k_ColorSpaceRecipeType_attributes,
-    .element_map = k_ColorSpaceRecipeType_elements,
+    .attributes = std::span(k_items).first(attribute_count(k_items)),
+    .elements = std::span(k_items).subspan(attribute_count(k_items)),
     .operations = &k_operations<ColorSpaceRecipeType>,
 };
 
@@ -610,13 +518,14 @@ lmx::elmx_error ColorSpaceMunsell::unmarshal(lmx::c_xml_reader& reader, const st
 
 // Density
 
-constinit const s_item Density::k_items[] = {
-    {item_kind::content, value_kind::number, use_required, ELMX_WS_COLLAPSE, "", 0, LMX_OFFSET(Density, m_Density, content, number), LMX_FLAG(Density, m_isset_Density), 0, 0, nullptr, &facets::Positive},
+constexpr s_item Density::k_items[] = {
+    {item_kind::content, value_kind::number, use_required, ELMX_WS_COLLAPSE, "", 0, LMX_OFFSET(Density, m_Density, content, number), LMX_FLAG(Density, m_isset_Density), nullptr, &facets::Positive},
 };
 constinit const s_class Density::k_class = {
     .name = "Density",
     .qualified_name = "Vyr:Density",
     .content = content_kind::simple,
+    .names = &k_names,
     .nil_flag = LMX_FLAG(Density, m_isnil),
     .elements = k_items,
     .operations = &k_operations<Density>,
@@ -635,27 +544,19 @@ lmx::elmx_error Density::set_Density(double value) { return lmx::set_item(k_clas
 
 // ColorantElementType_Colorant
 
-constexpr s_event_map k_ColorantElementType_Colorant_elements[] = {
-    element_event("CustomAttribute", element_CustomAttribute),
-    element_event("Name", element_Name),
-    element_event("Manufacturer", element_Manufacturer),
-    element_event("PartNumber", element_PartNumber),
-    element_event("Density", element_Density),
-    k_end_of_map,
-};
-constinit const s_item ColorantElementType_Colorant::k_items[] = {
-    {item_kind::child_list, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:CustomAttribute", element_CustomAttribute, LMX_OFFSET(ColorantElementType_Colorant, m_CustomAttribute, child_list, none), k_no_flag, position_of(k_ColorantElementType_Colorant_elements, element_CustomAttribute), 1, &CustomAttributeType::k_class},
-    {item_kind::element, value_kind::text, use_required | use_name, ELMX_WS_PRESERVE, "Vyr:Name", element_Name, LMX_OFFSET(ColorantElementType_Colorant, m_Name, element, text), LMX_FLAG(ColorantElementType_Colorant, m_isset_Name), position_of(k_ColorantElementType_Colorant_elements, element_Name), 1, nullptr, &facets::NonEmptyString},
-    {item_kind::element, value_kind::text, use_required, ELMX_WS_PRESERVE, "Vyr:Manufacturer", element_Manufacturer, LMX_OFFSET(ColorantElementType_Colorant, m_Manufacturer, element, text), LMX_FLAG(ColorantElementType_Colorant, m_isset_Manufacturer), position_of(k_ColorantElementType_Colorant_elements, element_Manufacturer), 1, nullptr, &facets::NonEmptyString},
-    {item_kind::element, value_kind::text, use_required, ELMX_WS_PRESERVE, "Vyr:PartNumber", element_PartNumber, LMX_OFFSET(ColorantElementType_Colorant, m_PartNumber, element, text), LMX_FLAG(ColorantElementType_Colorant, m_isset_PartNumber), position_of(k_ColorantElementType_Colorant_elements, element_PartNumber), 1, nullptr, &facets::NonEmptyString},
-    {item_kind::child, value_kind::none, use_required, ELMX_WS_PRESERVE, "Vyr:Density", element_Density, LMX_OFFSET(ColorantElementType_Colorant, m_Density, child, none), LMX_FLAG(ColorantElementType_Colorant, m_isset_Density), position_of(k_ColorantElementType_Colorant_elements, element_Density), 1, &Density::k_class},
+constexpr s_item ColorantElementType_Colorant::k_items[] = {
+    {item_kind::child_list, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:CustomAttribute", element("CustomAttribute"), LMX_OFFSET(ColorantElementType_Colorant, m_CustomAttribute, child_list, none), k_no_flag, &CustomAttributeType::k_class},
+    {item_kind::element, value_kind::text, use_required | use_name, ELMX_WS_PRESERVE, "Vyr:Name", element("Name"), LMX_OFFSET(ColorantElementType_Colorant, m_Name, element, text), LMX_FLAG(ColorantElementType_Colorant, m_isset_Name), nullptr, &facets::NonEmptyString},
+    {item_kind::element, value_kind::text, use_required, ELMX_WS_PRESERVE, "Vyr:Manufacturer", element("Manufacturer"), LMX_OFFSET(ColorantElementType_Colorant, m_Manufacturer, element, text), LMX_FLAG(ColorantElementType_Colorant, m_isset_Manufacturer), nullptr, &facets::NonEmptyString},
+    {item_kind::element, value_kind::text, use_required, ELMX_WS_PRESERVE, "Vyr:PartNumber", element("PartNumber"), LMX_OFFSET(ColorantElementType_Colorant, m_PartNumber, element, text), LMX_FLAG(ColorantElementType_Colorant, m_isset_PartNumber), nullptr, &facets::NonEmptyString},
+    {item_kind::child, value_kind::none, use_required, ELMX_WS_PRESERVE, "Vyr:Density", element("Density"), LMX_OFFSET(ColorantElementType_Colorant, m_Density, child, none), LMX_FLAG(ColorantElementType_Colorant, m_isset_Density), &Density::k_class},
 };
 constinit const s_class ColorantElementType_Colorant::k_class = {
     .name = "ColorantElementType_Colorant",
     .qualified_name = "Vyr:Colorant",
     .content = content_kind::children,
+    .names = &k_names,
     .elements = k_items,
-    .element_map = k_ColorantElementType_Colorant_elements,
     .operations = &k_operations<ColorantElementType_Colorant>,
 };
 
@@ -681,22 +582,17 @@ Density& ColorantElementType_Colorant::assign_Density(const Density& value) { re
 
 // ColorantElementType
 
-constexpr s_event_map k_ColorantElementType_elements[] = {
-    element_event("Colorant", element_Colorant),
-    element_event("Contribution", element_Contribution),
-    k_end_of_map,
-};
-constinit const s_item ColorantElementType::k_items[] = {
-    {item_kind::child, value_kind::none, use_required, ELMX_WS_PRESERVE, "Vyr:Colorant", element_Colorant, LMX_OFFSET(ColorantElementType, m_Colorant, child, none), LMX_FLAG(ColorantElementType, m_isset_Colorant), position_of(k_ColorantElementType_elements, element_Colorant), 1, &ColorantElementType_Colorant::k_class},
-    {item_kind::element, value_kind::number, use_required, ELMX_WS_COLLAPSE, "Vyr:Contribution", element_Contribution, LMX_OFFSET(ColorantElementType, m_Contribution, element, number), LMX_FLAG(ColorantElementType, m_isset_Contribution), position_of(k_ColorantElementType_elements, element_Contribution), 1, nullptr, &facets::Fraction},
+constexpr s_item ColorantElementType::k_items[] = {
+    {item_kind::child, value_kind::none, use_required, ELMX_WS_PRESERVE, "Vyr:Colorant", element("Colorant"), LMX_OFFSET(ColorantElementType, m_Colorant, child, none), LMX_FLAG(ColorantElementType, m_isset_Colorant), &ColorantElementType_Colorant::k_class},
+    {item_kind::element, value_kind::number, use_required, ELMX_WS_COLLAPSE, "Vyr:Contribution", element("Contribution"), LMX_OFFSET(ColorantElementType, m_Contribution, element, number), LMX_FLAG(ColorantElementType, m_isset_Contribution), nullptr, &facets::Fraction},
 };
 constinit const s_class ColorantElementType::k_class = {
     .name = "ColorantElementType",
     .qualified_name = "Vyr:ColorantElementType",
     .content = content_kind::children,
+    .names = &k_names,
     .ns_map = k_ns_map,
     .elements = k_items,
-    .element_map = k_ColorantElementType_elements,
     .operations = &k_operations<ColorantElementType>,
 };
 

@@ -8,7 +8,6 @@
 
 #include "schema/generated/sampled_color_values.h"
 #include "lmx/binding/binding.h"
-#include "lmx/binding/rows.h"
 #include "schema/generated/color_values.h"
 #include "schema/generated/conditions.h"
 #include "schema/generated/tables.h"
@@ -20,35 +19,25 @@ namespace com_vyrgraph_v2 {
 
 using namespace lmx;  // for the tables' sake
 
-static_assert(k_binding_version == 5, "run schema/generator/generate.py");
+static_assert(k_binding_version == 6, "run schema/generator/generate.py");
 
 // ColorSpaceDensityType
 
-constexpr s_event_map k_ColorSpaceDensityType_attributes[] = {
-    attribute_event("Name", attribute_Name),
-    k_end_of_map,
-};
-constexpr s_event_map k_ColorSpaceDensityType_elements[] = {
-    element_event("ColorSpaceSpecificationSpectrumGeneric", element_ColorSpaceSpecificationSpectrumGeneric),
-    element_event("Density", element_Density),
-    k_end_of_map,
-};
-constinit const s_item ColorSpaceDensityType::k_items[] = {
-    {item_kind::attribute, value_kind::text, use_name, ELMX_WS_PRESERVE, "Name", attribute_Name, LMX_OFFSET(ColorSpaceDensityType, m_Name, attribute, text), LMX_FLAG(ColorSpaceDensityType, m_isset_Name)},
-    {item_kind::child, value_kind::none, use_required, ELMX_WS_PRESERVE, "Vyr:ColorSpaceSpecificationSpectrumGeneric", element_ColorSpaceSpecificationSpectrumGeneric, LMX_OFFSET(ColorSpaceDensityType, m_ColorSpaceSpecificationSpectrumGeneric, child, none), LMX_FLAG(ColorSpaceDensityType, m_isset_ColorSpaceSpecificationSpectrumGeneric), position_of(k_ColorSpaceDensityType_elements, element_ColorSpaceSpecificationSpectrumGeneric), 1, &ColorSpaceSpecificationSpectrumGeneric::k_class},
-    {item_kind::child_list, value_kind::none, use_demanded | use_asked, ELMX_WS_PRESERVE, "Vyr:Density", element_Density, LMX_OFFSET(ColorSpaceDensityType, m_Density, child_list, none), k_no_flag, position_of(k_ColorSpaceDensityType_elements, element_Density), 1, &DensityType::k_class},
+constexpr s_item ColorSpaceDensityType::k_items[] = {
+    {item_kind::attribute, value_kind::text, use_name, ELMX_WS_PRESERVE, "Name", attribute("Name"), LMX_OFFSET(ColorSpaceDensityType, m_Name, attribute, text), LMX_FLAG(ColorSpaceDensityType, m_isset_Name)},
+    {item_kind::child, value_kind::none, use_required, ELMX_WS_PRESERVE, "Vyr:ColorSpaceSpecificationSpectrumGeneric", element("ColorSpaceSpecificationSpectrumGeneric"), LMX_OFFSET(ColorSpaceDensityType, m_ColorSpaceSpecificationSpectrumGeneric, child, none), LMX_FLAG(ColorSpaceDensityType, m_isset_ColorSpaceSpecificationSpectrumGeneric), &ColorSpaceSpecificationSpectrumGeneric::k_class},
+    {item_kind::child_list, value_kind::none, use_demanded | use_asked, ELMX_WS_PRESERVE, "Vyr:Density", element("Density"), LMX_OFFSET(ColorSpaceDensityType, m_Density, child_list, none), k_no_flag, &DensityType::k_class},
 };
 constinit const s_class ColorSpaceDensityType::k_class = {
     .name = "ColorSpaceDensityType",
     .qualified_name = "Vyr:ColorSpaceDensityType",
     .base = &ColorSpaceType::k_class,
     .content = content_kind::children,
+    .names = &k_names,
     .ns_map = k_ns_map,
     .id = &ColorSpaceDensityType::id,
-    .attributes = std::span(k_items).first(std::size(k_ColorSpaceDensityType_attributes) - 1),
-    .elements = std::span(k_items).subspan(std::size(k_ColorSpaceDensityType_attributes) - 1),
-    .attribute_map = k_ColorSpaceDensityType_attributes,
-    .element_map = k_ColorSpaceDensityType_elements,
+    .attributes = std::span(k_items).first(attribute_count(k_items)),
+    .elements = std::span(k_items).subspan(attribute_count(k_items)),
     .operations = &k_operations<ColorSpaceDensityType>,
 };
 
@@ -77,31 +66,21 @@ void ColorSpaceDensityType::clear_Density() { m_Density.clear(); }
 
 // ColorSpaceSpectralType
 
-constexpr s_event_map k_ColorSpaceSpectralType_attributes[] = {
-    attribute_event("Name", attribute_Name),
-    k_end_of_map,
-};
-constexpr s_event_map k_ColorSpaceSpectralType_elements[] = {
-    element_event("ColorSpaceSpecificationSpectrumSpectral", element_ColorSpaceSpecificationSpectrumSpectral),
-    element_event("ReflectancePoint", element_ReflectancePoint),
-    k_end_of_map,
-};
-constinit const s_item ColorSpaceSpectralType::k_items[] = {
-    {item_kind::attribute, value_kind::text, use_name, ELMX_WS_PRESERVE, "Name", attribute_Name, LMX_OFFSET(ColorSpaceSpectralType, m_Name, attribute, text), LMX_FLAG(ColorSpaceSpectralType, m_isset_Name)},
-    {item_kind::child, value_kind::none, use_required, ELMX_WS_PRESERVE, "Vyr:ColorSpaceSpecificationSpectrumSpectral", element_ColorSpaceSpecificationSpectrumSpectral, LMX_OFFSET(ColorSpaceSpectralType, m_ColorSpaceSpecificationSpectrumSpectral, child, none), LMX_FLAG(ColorSpaceSpectralType, m_isset_ColorSpaceSpecificationSpectrumSpectral), position_of(k_ColorSpaceSpectralType_elements, element_ColorSpaceSpecificationSpectrumSpectral), 1, &ColorSpaceSpecificationSpectrumSpectral::k_class},
-    {item_kind::child_list, value_kind::none, use_demanded | use_asked, ELMX_WS_PRESERVE, "Vyr:ReflectancePoint", element_ReflectancePoint, LMX_OFFSET(ColorSpaceSpectralType, m_ReflectancePoint, child_list, none), k_no_flag, position_of(k_ColorSpaceSpectralType_elements, element_ReflectancePoint), 1, &ReflectancePointType::k_class},
+constexpr s_item ColorSpaceSpectralType::k_items[] = {
+    {item_kind::attribute, value_kind::text, use_name, ELMX_WS_PRESERVE, "Name", attribute("Name"), LMX_OFFSET(ColorSpaceSpectralType, m_Name, attribute, text), LMX_FLAG(ColorSpaceSpectralType, m_isset_Name)},
+    {item_kind::child, value_kind::none, use_required, ELMX_WS_PRESERVE, "Vyr:ColorSpaceSpecificationSpectrumSpectral", element("ColorSpaceSpecificationSpectrumSpectral"), LMX_OFFSET(ColorSpaceSpectralType, m_ColorSpaceSpecificationSpectrumSpectral, child, none), LMX_FLAG(ColorSpaceSpectralType, m_isset_ColorSpaceSpecificationSpectrumSpectral), &ColorSpaceSpecificationSpectrumSpectral::k_class},
+    {item_kind::child_list, value_kind::none, use_demanded | use_asked, ELMX_WS_PRESERVE, "Vyr:ReflectancePoint", element("ReflectancePoint"), LMX_OFFSET(ColorSpaceSpectralType, m_ReflectancePoint, child_list, none), k_no_flag, &ReflectancePointType::k_class},
 };
 constinit const s_class ColorSpaceSpectralType::k_class = {
     .name = "ColorSpaceSpectralType",
     .qualified_name = "Vyr:ColorSpaceSpectralType",
     .base = &ColorSpaceType::k_class,
     .content = content_kind::children,
+    .names = &k_names,
     .ns_map = k_ns_map,
     .id = &ColorSpaceSpectralType::id,
-    .attributes = std::span(k_items).first(std::size(k_ColorSpaceSpectralType_attributes) - 1),
-    .elements = std::span(k_items).subspan(std::size(k_ColorSpaceSpectralType_attributes) - 1),
-    .attribute_map = k_ColorSpaceSpectralType_attributes,
-    .element_map = k_ColorSpaceSpectralType_elements,
+    .attributes = std::span(k_items).first(attribute_count(k_items)),
+    .elements = std::span(k_items).subspan(attribute_count(k_items)),
     .operations = &k_operations<ColorSpaceSpectralType>,
 };
 
@@ -130,31 +109,21 @@ void ColorSpaceSpectralType::clear_ReflectancePoint() { m_ReflectancePoint.clear
 
 // ColorSpaceEmissiveSpectralType
 
-constexpr s_event_map k_ColorSpaceEmissiveSpectralType_attributes[] = {
-    attribute_event("Name", attribute_Name),
-    k_end_of_map,
-};
-constexpr s_event_map k_ColorSpaceEmissiveSpectralType_elements[] = {
-    element_event("ColorSpaceSpecificationEmissiveSpectral", element_ColorSpaceSpecificationEmissiveSpectral),
-    element_event("EmissiveSpectralPoint", element_EmissiveSpectralPoint),
-    k_end_of_map,
-};
-constinit const s_item ColorSpaceEmissiveSpectralType::k_items[] = {
-    {item_kind::attribute, value_kind::text, use_name, ELMX_WS_PRESERVE, "Name", attribute_Name, LMX_OFFSET(ColorSpaceEmissiveSpectralType, m_Name, attribute, text), LMX_FLAG(ColorSpaceEmissiveSpectralType, m_isset_Name)},
-    {item_kind::child, value_kind::none, use_required, ELMX_WS_PRESERVE, "Vyr:ColorSpaceSpecificationEmissiveSpectral", element_ColorSpaceSpecificationEmissiveSpectral, LMX_OFFSET(ColorSpaceEmissiveSpectralType, m_ColorSpaceSpecificationEmissiveSpectral, child, none), LMX_FLAG(ColorSpaceEmissiveSpectralType, m_isset_ColorSpaceSpecificationEmissiveSpectral), position_of(k_ColorSpaceEmissiveSpectralType_elements, element_ColorSpaceSpecificationEmissiveSpectral), 1, &ColorSpaceSpecificationEmissiveSpectral::k_class},
-    {item_kind::child_list, value_kind::none, use_demanded | use_asked, ELMX_WS_PRESERVE, "Vyr:EmissiveSpectralPoint", element_EmissiveSpectralPoint, LMX_OFFSET(ColorSpaceEmissiveSpectralType, m_EmissiveSpectralPoint, child_list, none), k_no_flag, position_of(k_ColorSpaceEmissiveSpectralType_elements, element_EmissiveSpectralPoint), 1, &EmissiveSpectralPointType::k_class},
+constexpr s_item ColorSpaceEmissiveSpectralType::k_items[] = {
+    {item_kind::attribute, value_kind::text, use_name, ELMX_WS_PRESERVE, "Name", attribute("Name"), LMX_OFFSET(ColorSpaceEmissiveSpectralType, m_Name, attribute, text), LMX_FLAG(ColorSpaceEmissiveSpectralType, m_isset_Name)},
+    {item_kind::child, value_kind::none, use_required, ELMX_WS_PRESERVE, "Vyr:ColorSpaceSpecificationEmissiveSpectral", element("ColorSpaceSpecificationEmissiveSpectral"), LMX_OFFSET(ColorSpaceEmissiveSpectralType, m_ColorSpaceSpecificationEmissiveSpectral, child, none), LMX_FLAG(ColorSpaceEmissiveSpectralType, m_isset_ColorSpaceSpecificationEmissiveSpectral), &ColorSpaceSpecificationEmissiveSpectral::k_class},
+    {item_kind::child_list, value_kind::none, use_demanded | use_asked, ELMX_WS_PRESERVE, "Vyr:EmissiveSpectralPoint", element("EmissiveSpectralPoint"), LMX_OFFSET(ColorSpaceEmissiveSpectralType, m_EmissiveSpectralPoint, child_list, none), k_no_flag, &EmissiveSpectralPointType::k_class},
 };
 constinit const s_class ColorSpaceEmissiveSpectralType::k_class = {
     .name = "ColorSpaceEmissiveSpectralType",
     .qualified_name = "Vyr:ColorSpaceEmissiveSpectralType",
     .base = &ColorSpaceType::k_class,
     .content = content_kind::children,
+    .names = &k_names,
     .ns_map = k_ns_map,
     .id = &ColorSpaceEmissiveSpectralType::id,
-    .attributes = std::span(k_items).first(std::size(k_ColorSpaceEmissiveSpectralType_attributes) - 1),
-    .elements = std::span(k_items).subspan(std::size(k_ColorSpaceEmissiveSpectralType_attributes) - 1),
-    .attribute_map = k_ColorSpaceEmissiveSpectralType_attributes,
-    .element_map = k_ColorSpaceEmissiveSpectralType_elements,
+    .attributes = std::span(k_items).first(attribute_count(k_items)),
+    .elements = std::span(k_items).subspan(attribute_count(k_items)),
     .operations = &k_operations<ColorSpaceEmissiveSpectralType>,
 };
 
@@ -183,31 +152,21 @@ void ColorSpaceEmissiveSpectralType::clear_EmissiveSpectralPoint() { m_EmissiveS
 
 // ColorSpaceGenericType
 
-constexpr s_event_map k_ColorSpaceGenericType_attributes[] = {
-    attribute_event("Name", attribute_Name),
-    k_end_of_map,
-};
-constexpr s_event_map k_ColorSpaceGenericType_elements[] = {
-    element_event("ColorSpaceSpecificationSpectrumGeneric", element_ColorSpaceSpecificationSpectrumGeneric),
-    element_event("Axis", element_Axis),
-    k_end_of_map,
-};
-constinit const s_item ColorSpaceGenericType::k_items[] = {
-    {item_kind::attribute, value_kind::text, use_required | use_name, ELMX_WS_PRESERVE, "Name", attribute_Name, LMX_OFFSET(ColorSpaceGenericType, m_Name, attribute, text), LMX_FLAG(ColorSpaceGenericType, m_isset_Name)},
-    {item_kind::child, value_kind::none, use_required, ELMX_WS_PRESERVE, "Vyr:ColorSpaceSpecificationSpectrumGeneric", element_ColorSpaceSpecificationSpectrumGeneric, LMX_OFFSET(ColorSpaceGenericType, m_ColorSpaceSpecificationSpectrumGeneric, child, none), LMX_FLAG(ColorSpaceGenericType, m_isset_ColorSpaceSpecificationSpectrumGeneric), position_of(k_ColorSpaceGenericType_elements, element_ColorSpaceSpecificationSpectrumGeneric), 1, &ColorSpaceSpecificationSpectrumGeneric::k_class},
-    {item_kind::child_list, value_kind::none, use_demanded | use_asked, ELMX_WS_PRESERVE, "Vyr:Axis", element_Axis, LMX_OFFSET(ColorSpaceGenericType, m_Axis, child_list, none), k_no_flag, position_of(k_ColorSpaceGenericType_elements, element_Axis), 1, &AxisType::k_class},
+constexpr s_item ColorSpaceGenericType::k_items[] = {
+    {item_kind::attribute, value_kind::text, use_required | use_name, ELMX_WS_PRESERVE, "Name", attribute("Name"), LMX_OFFSET(ColorSpaceGenericType, m_Name, attribute, text), LMX_FLAG(ColorSpaceGenericType, m_isset_Name)},
+    {item_kind::child, value_kind::none, use_required, ELMX_WS_PRESERVE, "Vyr:ColorSpaceSpecificationSpectrumGeneric", element("ColorSpaceSpecificationSpectrumGeneric"), LMX_OFFSET(ColorSpaceGenericType, m_ColorSpaceSpecificationSpectrumGeneric, child, none), LMX_FLAG(ColorSpaceGenericType, m_isset_ColorSpaceSpecificationSpectrumGeneric), &ColorSpaceSpecificationSpectrumGeneric::k_class},
+    {item_kind::child_list, value_kind::none, use_demanded | use_asked, ELMX_WS_PRESERVE, "Vyr:Axis", element("Axis"), LMX_OFFSET(ColorSpaceGenericType, m_Axis, child_list, none), k_no_flag, &AxisType::k_class},
 };
 constinit const s_class ColorSpaceGenericType::k_class = {
     .name = "ColorSpaceGenericType",
     .qualified_name = "Vyr:ColorSpaceGenericType",
     .base = &ColorSpaceType::k_class,
     .content = content_kind::children,
+    .names = &k_names,
     .ns_map = k_ns_map,
     .id = &ColorSpaceGenericType::id,
-    .attributes = std::span(k_items).first(std::size(k_ColorSpaceGenericType_attributes) - 1),
-    .elements = std::span(k_items).subspan(std::size(k_ColorSpaceGenericType_attributes) - 1),
-    .attribute_map = k_ColorSpaceGenericType_attributes,
-    .element_map = k_ColorSpaceGenericType_elements,
+    .attributes = std::span(k_items).first(attribute_count(k_items)),
+    .elements = std::span(k_items).subspan(attribute_count(k_items)),
     .operations = &k_operations<ColorSpaceGenericType>,
 };
 
@@ -236,31 +195,21 @@ void ColorSpaceGenericType::clear_Axis() { m_Axis.clear(); }
 
 // ColorSpaceEmissiveGenericType
 
-constexpr s_event_map k_ColorSpaceEmissiveGenericType_attributes[] = {
-    attribute_event("Name", attribute_Name),
-    k_end_of_map,
-};
-constexpr s_event_map k_ColorSpaceEmissiveGenericType_elements[] = {
-    element_event("ColorSpaceSpecificationEmissiveGeneric", element_ColorSpaceSpecificationEmissiveGeneric),
-    element_event("Axis", element_Axis),
-    k_end_of_map,
-};
-constinit const s_item ColorSpaceEmissiveGenericType::k_items[] = {
-    {item_kind::attribute, value_kind::text, use_required | use_name, ELMX_WS_PRESERVE, "Name", attribute_Name, LMX_OFFSET(ColorSpaceEmissiveGenericType, m_Name, attribute, text), LMX_FLAG(ColorSpaceEmissiveGenericType, m_isset_Name)},
-    {item_kind::child, value_kind::none, use_required, ELMX_WS_PRESERVE, "Vyr:ColorSpaceSpecificationEmissiveGeneric", element_ColorSpaceSpecificationEmissiveGeneric, LMX_OFFSET(ColorSpaceEmissiveGenericType, m_ColorSpaceSpecificationEmissiveGeneric, child, none), LMX_FLAG(ColorSpaceEmissiveGenericType, m_isset_ColorSpaceSpecificationEmissiveGeneric), position_of(k_ColorSpaceEmissiveGenericType_elements, element_ColorSpaceSpecificationEmissiveGeneric), 1, &ColorSpaceSpecificationEmissiveGeneric::k_class},
-    {item_kind::child_list, value_kind::none, use_demanded | use_asked, ELMX_WS_PRESERVE, "Vyr:Axis", element_Axis, LMX_OFFSET(ColorSpaceEmissiveGenericType, m_Axis, child_list, none), k_no_flag, position_of(k_ColorSpaceEmissiveGenericType_elements, element_Axis), 1, &AxisType::k_class},
+constexpr s_item ColorSpaceEmissiveGenericType::k_items[] = {
+    {item_kind::attribute, value_kind::text, use_required | use_name, ELMX_WS_PRESERVE, "Name", attribute("Name"), LMX_OFFSET(ColorSpaceEmissiveGenericType, m_Name, attribute, text), LMX_FLAG(ColorSpaceEmissiveGenericType, m_isset_Name)},
+    {item_kind::child, value_kind::none, use_required, ELMX_WS_PRESERVE, "Vyr:ColorSpaceSpecificationEmissiveGeneric", element("ColorSpaceSpecificationEmissiveGeneric"), LMX_OFFSET(ColorSpaceEmissiveGenericType, m_ColorSpaceSpecificationEmissiveGeneric, child, none), LMX_FLAG(ColorSpaceEmissiveGenericType, m_isset_ColorSpaceSpecificationEmissiveGeneric), &ColorSpaceSpecificationEmissiveGeneric::k_class},
+    {item_kind::child_list, value_kind::none, use_demanded | use_asked, ELMX_WS_PRESERVE, "Vyr:Axis", element("Axis"), LMX_OFFSET(ColorSpaceEmissiveGenericType, m_Axis, child_list, none), k_no_flag, &AxisType::k_class},
 };
 constinit const s_class ColorSpaceEmissiveGenericType::k_class = {
     .name = "ColorSpaceEmissiveGenericType",
     .qualified_name = "Vyr:ColorSpaceEmissiveGenericType",
     .base = &ColorSpaceType::k_class,
     .content = content_kind::children,
+    .names = &k_names,
     .ns_map = k_ns_map,
     .id = &ColorSpaceEmissiveGenericType::id,
-    .attributes = std::span(k_items).first(std::size(k_ColorSpaceEmissiveGenericType_attributes) - 1),
-    .elements = std::span(k_items).subspan(std::size(k_ColorSpaceEmissiveGenericType_attributes) - 1),
-    .attribute_map = k_ColorSpaceEmissiveGenericType_attributes,
-    .element_map = k_ColorSpaceEmissiveGenericType_elements,
+    .attributes = std::span(k_items).first(attribute_count(k_items)),
+    .elements = std::span(k_items).subspan(attribute_count(k_items)),
     .operations = &k_operations<ColorSpaceEmissiveGenericType>,
 };
 
@@ -374,22 +323,18 @@ lmx::elmx_error ColorSpaceEmissiveSpectral::unmarshal(lmx::c_xml_reader& reader,
 
 // ReflectancePointType
 
-constexpr s_event_map k_ReflectancePointType_attributes[] = {
-    attribute_event("Wavelength", attribute_Wavelength),
-    k_end_of_map,
-};
-constinit const s_item ReflectancePointType::k_items[] = {
-    {item_kind::attribute, value_kind::number, use_required, ELMX_WS_COLLAPSE, "Wavelength", attribute_Wavelength, LMX_OFFSET(ReflectancePointType, m_Wavelength, attribute, number), LMX_FLAG(ReflectancePointType, m_isset_Wavelength), 0, 0, nullptr, &facets::Wavelength},
-    {item_kind::content, value_kind::number, use_required, ELMX_WS_COLLAPSE, "", 0, LMX_OFFSET(ReflectancePointType, m_ReflectancePointType, content, number), LMX_FLAG(ReflectancePointType, m_isset_ReflectancePointType), 0, 0, nullptr, &facets::Reflectance},
+constexpr s_item ReflectancePointType::k_items[] = {
+    {item_kind::attribute, value_kind::number, use_required, ELMX_WS_COLLAPSE, "Wavelength", attribute("Wavelength"), LMX_OFFSET(ReflectancePointType, m_Wavelength, attribute, number), LMX_FLAG(ReflectancePointType, m_isset_Wavelength), nullptr, &facets::Wavelength},
+    {item_kind::content, value_kind::number, use_required, ELMX_WS_COLLAPSE, "", 0, LMX_OFFSET(ReflectancePointType, m_ReflectancePointType, content, number), LMX_FLAG(ReflectancePointType, m_isset_ReflectancePointType), nullptr, &facets::Reflectance},
 };
 constinit const s_class ReflectancePointType::k_class = {
     .name = "ReflectancePointType",
     .qualified_name = "Vyr:ReflectancePointType",
     .content = content_kind::simple,
+    .names = &k_names,
     .ns_map = k_ns_map,
-    .attributes = std::span(k_items).first(std::size(k_ReflectancePointType_attributes) - 1),
-    .elements = std::span(k_items).subspan(std::size(k_ReflectancePointType_attributes) - 1),
-    .attribute_map = k_ReflectancePointType_attributes,
+    .attributes = std::span(k_items).first(attribute_count(k_items)),
+    .elements = std::span(k_items).subspan(attribute_count(k_items)),
     .operations = &k_operations<ReflectancePointType>,
 };
 
@@ -407,22 +352,18 @@ lmx::elmx_error ReflectancePointType::set_ReflectancePointType(double value) { r
 
 // EmissiveSpectralPointType
 
-constexpr s_event_map k_EmissiveSpectralPointType_attributes[] = {
-    attribute_event("Wavelength", attribute_Wavelength),
-    k_end_of_map,
-};
-constinit const s_item EmissiveSpectralPointType::k_items[] = {
-    {item_kind::attribute, value_kind::number, use_required, ELMX_WS_COLLAPSE, "Wavelength", attribute_Wavelength, LMX_OFFSET(EmissiveSpectralPointType, m_Wavelength, attribute, number), LMX_FLAG(EmissiveSpectralPointType, m_isset_Wavelength), 0, 0, nullptr, &facets::Wavelength},
+constexpr s_item EmissiveSpectralPointType::k_items[] = {
+    {item_kind::attribute, value_kind::number, use_required, ELMX_WS_COLLAPSE, "Wavelength", attribute("Wavelength"), LMX_OFFSET(EmissiveSpectralPointType, m_Wavelength, attribute, number), LMX_FLAG(EmissiveSpectralPointType, m_isset_Wavelength), nullptr, &facets::Wavelength},
     {item_kind::content, value_kind::number, use_required, ELMX_WS_COLLAPSE, "", 0, LMX_OFFSET(EmissiveSpectralPointType, m_EmissiveSpectralPointType, content, number), LMX_FLAG(EmissiveSpectralPointType, m_isset_EmissiveSpectralPointType)},
 };
 constinit const s_class EmissiveSpectralPointType::k_class = {
     .name = "EmissiveSpectralPointType",
     .qualified_name = "Vyr:EmissiveSpectralPointType",
     .content = content_kind::simple,
+    .names = &k_names,
     .ns_map = k_ns_map,
-    .attributes = std::span(k_items).first(std::size(k_EmissiveSpectralPointType_attributes) - 1),
-    .elements = std::span(k_items).subspan(std::size(k_EmissiveSpectralPointType_attributes) - 1),
-    .attribute_map = k_EmissiveSpectralPointType_attributes,
+    .attributes = std::span(k_items).first(attribute_count(k_items)),
+    .elements = std::span(k_items).subspan(attribute_count(k_items)),
     .operations = &k_operations<EmissiveSpectralPointType>,
 };
 
@@ -440,22 +381,17 @@ lmx::elmx_error EmissiveSpectralPointType::set_EmissiveSpectralPointType(double 
 
 // AxisValueChoice
 
-constexpr s_event_map k_AxisValueChoice_elements[] = {
-    element_event("AxisFloatingPointValue", element_AxisFloatingPointValue),
-    element_event("AxisStringValue", element_AxisStringValue),
-    k_end_of_map,
-};
-constinit const s_item AxisValueChoice::k_items[] = {
-    {item_kind::alternative, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:AxisFloatingPointValue", element_AxisFloatingPointValue, 0, k_no_flag, position_of(k_AxisValueChoice_elements, element_AxisFloatingPointValue), 1, &FloatingPointValueType::k_class},
-    {item_kind::alternative, value_kind::text, use_optional, ELMX_WS_PRESERVE, "Vyr:AxisStringValue", element_AxisStringValue, 0, k_no_flag, position_of(k_AxisValueChoice_elements, element_AxisStringValue), 1},
+constexpr s_item AxisValueChoice::k_items[] = {
+    {item_kind::alternative, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:AxisFloatingPointValue", element("AxisFloatingPointValue"), 0, k_no_flag, &FloatingPointValueType::k_class},
+    {item_kind::alternative, value_kind::text, use_optional, ELMX_WS_PRESERVE, "Vyr:AxisStringValue", element("AxisStringValue"), 0, k_no_flag},
 };
 constinit const s_class AxisValueChoice::k_class = {
     .name = "AxisValueChoice",
     .qualified_name = "Vyr:AxisValueChoice",
     .content = content_kind::choice,
+    .names = &k_names,
     .choice = LMX_CHOICE(AxisValueChoice, m_choice),
     .elements = k_items,
-    .element_map = k_AxisValueChoice_elements,
     .operations = &k_operations<AxisValueChoice>,
 };
 
@@ -475,22 +411,17 @@ lmx::elmx_error AxisValueChoice::set_AxisStringValue(const std::u16string& value
 
 // AxisType
 
-constexpr s_event_map k_AxisType_elements[] = {
-    element_event("AxisName", element_AxisName),
-    element_event("AxisValueChoice", element_AxisValueChoice),
-    k_end_of_map,
-};
-constinit const s_item AxisType::k_items[] = {
-    {item_kind::element, value_kind::text, use_required | use_name, ELMX_WS_PRESERVE, "Vyr:AxisName", element_AxisName, LMX_OFFSET(AxisType, m_AxisName, element, text), LMX_FLAG(AxisType, m_isset_AxisName), position_of(k_AxisType_elements, element_AxisName), 1},
-    {item_kind::child, value_kind::none, use_required, ELMX_WS_PRESERVE, "Vyr:AxisValueChoice", element_AxisValueChoice, LMX_OFFSET(AxisType, m_AxisValueChoice, child, none), LMX_FLAG(AxisType, m_isset_AxisValueChoice), position_of(k_AxisType_elements, element_AxisValueChoice), 1, &AxisValueChoice::k_class},
+constexpr s_item AxisType::k_items[] = {
+    {item_kind::element, value_kind::text, use_required | use_name, ELMX_WS_PRESERVE, "Vyr:AxisName", element("AxisName"), LMX_OFFSET(AxisType, m_AxisName, element, text), LMX_FLAG(AxisType, m_isset_AxisName)},
+    {item_kind::child, value_kind::none, use_required, ELMX_WS_PRESERVE, "Vyr:AxisValueChoice", element("AxisValueChoice"), LMX_OFFSET(AxisType, m_AxisValueChoice, child, none), LMX_FLAG(AxisType, m_isset_AxisValueChoice), &AxisValueChoice::k_class},
 };
 constinit const s_class AxisType::k_class = {
     .name = "AxisType",
     .qualified_name = "Vyr:AxisType",
     .content = content_kind::children,
+    .names = &k_names,
     .ns_map = k_ns_map,
     .elements = k_items,
-    .element_map = k_AxisType_elements,
     .operations = &k_operations<AxisType>,
 };
 
@@ -508,30 +439,24 @@ AxisValueChoice& AxisType::assign_AxisValueChoice(const AxisValueChoice& value) 
 
 // FloatingPointValueType
 
-constexpr s_event_map k_FloatingPointValueType_attributes[] = {
-    attribute_event("AxisNominalMax", attribute_AxisNominalMax),
-    attribute_event("AxisNominalMin", attribute_AxisNominalMin),
-    attribute_event("AxisNominalScale", attribute_AxisNominalScale),
-    k_end_of_map,
-};
-constinit const s_item FloatingPointValueType::k_items[] = {
-    {item_kind::attribute, value_kind::number, use_required, ELMX_WS_COLLAPSE, "AxisNominalMax", attribute_AxisNominalMax, LMX_OFFSET(FloatingPointValueType, m_AxisNominalMax, attribute, number), LMX_FLAG(FloatingPointValueType, m_isset_AxisNominalMax)},
-    {item_kind::attribute, value_kind::number, use_required, ELMX_WS_COLLAPSE, "AxisNominalMin", attribute_AxisNominalMin, LMX_OFFSET(FloatingPointValueType, m_AxisNominalMin, attribute, number), LMX_FLAG(FloatingPointValueType, m_isset_AxisNominalMin)},
-    {item_kind::attribute, value_kind::enumerated, use_optional, ELMX_WS_PRESERVE, "AxisNominalScale", attribute_AxisNominalScale, LMX_OFFSET(FloatingPointValueType, m_AxisNominalScale, attribute, enumerated), LMX_FLAG(FloatingPointValueType, m_isset_AxisNominalScale), 0, 0, nullptr, &facets::AxisScaleKind},
+constexpr s_item FloatingPointValueType::k_items[] = {
+    {item_kind::attribute, value_kind::number, use_required, ELMX_WS_COLLAPSE, "AxisNominalMax", attribute("AxisNominalMax"), LMX_OFFSET(FloatingPointValueType, m_AxisNominalMax, attribute, number), LMX_FLAG(FloatingPointValueType, m_isset_AxisNominalMax)},
+    {item_kind::attribute, value_kind::number, use_required, ELMX_WS_COLLAPSE, "AxisNominalMin", attribute("AxisNominalMin"), LMX_OFFSET(FloatingPointValueType, m_AxisNominalMin, attribute, number), LMX_FLAG(FloatingPointValueType, m_isset_AxisNominalMin)},
+    {item_kind::attribute, value_kind::enumerated, use_optional, ELMX_WS_PRESERVE, "AxisNominalScale", attribute("AxisNominalScale"), LMX_OFFSET(FloatingPointValueType, m_AxisNominalScale, attribute, enumerated), LMX_FLAG(FloatingPointValueType, m_isset_AxisNominalScale), nullptr, &facets::AxisScaleKind},
     {item_kind::content, value_kind::number, use_required, ELMX_WS_COLLAPSE, "", 0, LMX_OFFSET(FloatingPointValueType, m_FloatingPointValueType, content, number), LMX_FLAG(FloatingPointValueType, m_isset_FloatingPointValueType)},
 };
 constinit const s_class FloatingPointValueType::k_class = {
     .name = "FloatingPointValueType",
     .qualified_name = "Vyr:FloatingPointValueType",
     .content = content_kind::simple,
+    .names = &k_names,
     .ns_map = k_ns_map,
-    .attributes = std::span(k_items).first(std::size(k_FloatingPointValueType_attributes) - 1),
-    .elements = std::span(k_items).subspan(std::size(k_FloatingPointValueType_attributes) - 1),
-    .attribute_map = k_FloatingPointValueType_attributes,
+    .attributes = std::span(k_items).first(attribute_count(k_items)),
+    .elements = std::span(k_items).subspan(attribute_count(k_items)),
     .operations = &k_operations<FloatingPointValueType>,
 };
 
-FloatingPointValueType::FloatingPointValueType() : m_AxisNominalScale(facets::AxisScaleKind.enumerated->find(1)) {}
+FloatingPointValueType::FloatingPointValueType() : m_AxisNominalScale(facets::AxisScaleKind.enumeration->find(1)) {}
 FloatingPointValueType::FloatingPointValueType(const FloatingPointValueType& other) : FloatingPointValueType() { lmx::copy(k_class, this, &other); }
 FloatingPointValueType::~FloatingPointValueType() = default;
 FloatingPointValueType& FloatingPointValueType::operator=(const FloatingPointValueType& other) { FloatingPointValueType copy(other); swap(copy); return *this; }
@@ -548,24 +473,19 @@ lmx::elmx_error FloatingPointValueType::set_FloatingPointValueType(double value)
 
 // DensityType
 
-constexpr s_event_map k_DensityType_attributes[] = {
-    attribute_event("DensityStatus", attribute_DensityStatus),
-    attribute_event("DensityFilter", attribute_DensityFilter),
-    k_end_of_map,
-};
-constinit const s_item DensityType::k_items[] = {
-    {item_kind::attribute, value_kind::enumerated, use_required, ELMX_WS_PRESERVE, "DensityStatus", attribute_DensityStatus, LMX_OFFSET(DensityType, m_DensityStatus, attribute, enumerated), LMX_FLAG(DensityType, m_isset_DensityStatus), 0, 0, nullptr, &facets::DensityStatusKind},
-    {item_kind::attribute, value_kind::enumerated, use_required, ELMX_WS_PRESERVE, "DensityFilter", attribute_DensityFilter, LMX_OFFSET(DensityType, m_DensityFilter, attribute, enumerated), LMX_FLAG(DensityType, m_isset_DensityFilter), 0, 0, nullptr, &facets::DensityFilterKind},
+constexpr s_item DensityType::k_items[] = {
+    {item_kind::attribute, value_kind::enumerated, use_required, ELMX_WS_PRESERVE, "DensityStatus", attribute("DensityStatus"), LMX_OFFSET(DensityType, m_DensityStatus, attribute, enumerated), LMX_FLAG(DensityType, m_isset_DensityStatus), nullptr, &facets::DensityStatusKind},
+    {item_kind::attribute, value_kind::enumerated, use_required, ELMX_WS_PRESERVE, "DensityFilter", attribute("DensityFilter"), LMX_OFFSET(DensityType, m_DensityFilter, attribute, enumerated), LMX_FLAG(DensityType, m_isset_DensityFilter), nullptr, &facets::DensityFilterKind},
     {item_kind::content, value_kind::number, use_required, ELMX_WS_COLLAPSE, "", 0, LMX_OFFSET(DensityType, m_DensityType, content, number), LMX_FLAG(DensityType, m_isset_DensityType)},
 };
 constinit const s_class DensityType::k_class = {
     .name = "DensityType",
     .qualified_name = "Vyr:DensityType",
     .content = content_kind::simple,
+    .names = &k_names,
     .ns_map = k_ns_map,
-    .attributes = std::span(k_items).first(std::size(k_DensityType_attributes) - 1),
-    .elements = std::span(k_items).subspan(std::size(k_DensityType_attributes) - 1),
-    .attribute_map = k_DensityType_attributes,
+    .attributes = std::span(k_items).first(attribute_count(k_items)),
+    .elements = std::span(k_items).subspan(attribute_count(k_items)),
     .operations = &k_operations<DensityType>,
 };
 

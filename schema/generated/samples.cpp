@@ -8,7 +8,6 @@
 
 #include "schema/generated/samples.h"
 #include "lmx/binding/binding.h"
-#include "lmx/binding/rows.h"
 #include "schema/generated/groups.h"
 #include "schema/generated/header.h"
 #include "schema/generated/tables.h"
@@ -20,36 +19,18 @@ namespace com_vyrgraph_v2 {
 
 using namespace lmx;  // for the tables' sake
 
-static_assert(k_binding_version == 5, "run schema/generator/generate.py");
+static_assert(k_binding_version == 6, "run schema/generator/generate.py");
 
 // SampleType
 
-constexpr s_event_map k_SampleType_elements[] = {
-    element_event("CustomAttribute", element_CustomAttribute),
-    element_event("SubstratePaper", element_SubstratePaper),
-    element_event("SubstrateGeneric", element_SubstrateGeneric),
-    element_event("SubstrateMetal", element_SubstrateMetal),
-    element_event("SubstratePlastic", element_SubstratePlastic),
-    element_event("SubstrateWood", element_SubstrateWood),
-    element_event("SubstrateVinyl", element_SubstrateVinyl),
-    element_event("SubstrateTile", element_SubstrateTile),
-    element_event("SubstrateFilm", element_SubstrateFilm),
-    element_event("SubstrateTextile", element_SubstrateTextile),
-    element_event("Backing", element_Backing),
-    element_event("Manufacturer", element_Manufacturer),
-    element_event("ProductionDate", element_ProductionDate),
-    element_event("SerialNumber", element_SerialNumber),
-    element_event("Comment", element_Comment),
-    k_end_of_map,
-};
-constinit const s_item SampleType::k_items[] = {
-    {item_kind::child_list, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:CustomAttribute", element_CustomAttribute, LMX_OFFSET(SampleType, m_CustomAttribute, child_list, none), k_no_flag, position_of(k_SampleType_elements, element_CustomAttribute), 1, &CustomAttributeType::k_class},
-    {item_kind::group, value_kind::none, use_asked | use_written | use_copied | use_lax, ELMX_WS_PRESERVE, "Vyr:Substrate", 0, LMX_OFFSET(SampleType, m_Substrate, group, none), LMX_FLAG(SampleType, m_isset_Substrate), position_of(k_SampleType_elements, element_SubstratePaper), 9, &sg_Substrate::k_class},
-    {item_kind::element, value_kind::enumerated, use_optional, ELMX_WS_PRESERVE, "Vyr:Backing", element_Backing, LMX_OFFSET(SampleType, m_Backing, element, enumerated), LMX_FLAG(SampleType, m_isset_Backing), position_of(k_SampleType_elements, element_Backing), 1, nullptr, &facets::BackingKind},
-    {item_kind::element, value_kind::text, use_optional, ELMX_WS_PRESERVE, "Vyr:Manufacturer", element_Manufacturer, LMX_OFFSET(SampleType, m_Manufacturer, element, text), LMX_FLAG(SampleType, m_isset_Manufacturer), position_of(k_SampleType_elements, element_Manufacturer), 1},
-    {item_kind::element, value_kind::datetime, use_optional, ELMX_WS_COLLAPSE, "Vyr:ProductionDate", element_ProductionDate, LMX_OFFSET(SampleType, m_ProductionDate, element, datetime), LMX_FLAG(SampleType, m_isset_ProductionDate), position_of(k_SampleType_elements, element_ProductionDate), 1, nullptr, &facets::DateTimeZone},
-    {item_kind::element, value_kind::text, use_optional, ELMX_WS_PRESERVE, "Vyr:SerialNumber", element_SerialNumber, LMX_OFFSET(SampleType, m_SerialNumber, element, text), LMX_FLAG(SampleType, m_isset_SerialNumber), position_of(k_SampleType_elements, element_SerialNumber), 1},
-    {item_kind::element, value_kind::text, use_optional, ELMX_WS_PRESERVE, "Vyr:Comment", element_Comment, LMX_OFFSET(SampleType, m_Comment, element, text), LMX_FLAG(SampleType, m_isset_Comment), position_of(k_SampleType_elements, element_Comment), 1},
+constexpr s_item SampleType::k_items[] = {
+    {item_kind::child_list, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:CustomAttribute", element("CustomAttribute"), LMX_OFFSET(SampleType, m_CustomAttribute, child_list, none), k_no_flag, &CustomAttributeType::k_class},
+    {item_kind::group, value_kind::none, use_asked | use_written | use_copied | use_lax, ELMX_WS_PRESERVE, "Vyr:Substrate", 0, LMX_OFFSET(SampleType, m_Substrate, group, none), LMX_FLAG(SampleType, m_isset_Substrate), &sg_Substrate::k_class},
+    {item_kind::element, value_kind::enumerated, use_optional, ELMX_WS_PRESERVE, "Vyr:Backing", element("Backing"), LMX_OFFSET(SampleType, m_Backing, element, enumerated), LMX_FLAG(SampleType, m_isset_Backing), nullptr, &facets::BackingKind},
+    {item_kind::element, value_kind::text, use_optional, ELMX_WS_PRESERVE, "Vyr:Manufacturer", element("Manufacturer"), LMX_OFFSET(SampleType, m_Manufacturer, element, text), LMX_FLAG(SampleType, m_isset_Manufacturer)},
+    {item_kind::element, value_kind::datetime, use_optional, ELMX_WS_COLLAPSE, "Vyr:ProductionDate", element("ProductionDate"), LMX_OFFSET(SampleType, m_ProductionDate, element, datetime), LMX_FLAG(SampleType, m_isset_ProductionDate), nullptr, &facets::DateTimeZone},
+    {item_kind::element, value_kind::text, use_optional, ELMX_WS_PRESERVE, "Vyr:SerialNumber", element("SerialNumber"), LMX_OFFSET(SampleType, m_SerialNumber, element, text), LMX_FLAG(SampleType, m_isset_SerialNumber)},
+    {item_kind::element, value_kind::text, use_optional, ELMX_WS_PRESERVE, "Vyr:Comment", element("Comment"), LMX_OFFSET(SampleType, m_Comment, element, text), LMX_FLAG(SampleType, m_isset_Comment)},
 };
 constinit const s_factory_row SampleType::k_factory[] = {
     {"SampleSpotType", &SampleSpotType::k_class},
@@ -59,10 +40,10 @@ constinit const s_class SampleType::k_class = {
     .name = "SampleType",
     .qualified_name = "Vyr:SampleType",
     .content = content_kind::children,
+    .names = &k_names,
     .ns_map = k_ns_map,
     .id = &SampleType::id,
     .elements = k_items,
-    .element_map = k_SampleType_elements,
     .operations = &k_operations<SampleType>,
 };
 
@@ -105,21 +86,16 @@ lmx::elmx_error Sample::unmarshal(lmx::c_xml_reader& reader, const std::string& 
 
 // Specification
 
-constexpr s_event_map k_Specification_elements[] = {
-    element_event("SampleWidth", element_SampleWidth),
-    element_event("SampleHeight", element_SampleHeight),
-    k_end_of_map,
-};
-constinit const s_item Specification::k_items[] = {
-    {item_kind::element, value_kind::number, use_required, ELMX_WS_COLLAPSE, "Vyr:SampleWidth", element_SampleWidth, LMX_OFFSET(Specification, m_SampleWidth, element, number), LMX_FLAG(Specification, m_isset_SampleWidth), position_of(k_Specification_elements, element_SampleWidth), 1},
-    {item_kind::element, value_kind::number, use_required, ELMX_WS_COLLAPSE, "Vyr:SampleHeight", element_SampleHeight, LMX_OFFSET(Specification, m_SampleHeight, element, number), LMX_FLAG(Specification, m_isset_SampleHeight), position_of(k_Specification_elements, element_SampleHeight), 1},
+constexpr s_item Specification::k_items[] = {
+    {item_kind::element, value_kind::number, use_required, ELMX_WS_COLLAPSE, "Vyr:SampleWidth", element("SampleWidth"), LMX_OFFSET(Specification, m_SampleWidth, element, number), LMX_FLAG(Specification, m_isset_SampleWidth)},
+    {item_kind::element, value_kind::number, use_required, ELMX_WS_COLLAPSE, "Vyr:SampleHeight", element("SampleHeight"), LMX_OFFSET(Specification, m_SampleHeight, element, number), LMX_FLAG(Specification, m_isset_SampleHeight)},
 };
 constinit const s_class Specification::k_class = {
     .name = "Specification",
     .qualified_name = "Vyr:Specification",
     .content = content_kind::children,
+    .names = &k_names,
     .elements = k_items,
-    .element_map = k_Specification_elements,
     .operations = &k_operations<Specification>,
 };
 
@@ -137,22 +113,18 @@ lmx::elmx_error Specification::set_SampleHeight(double value) { return lmx::set_
 
 // SampleSpotType
 
-constexpr s_event_map k_SampleSpotType_elements[] = {
-    element_event("Specification", element_Specification),
-    k_end_of_map,
-};
-constinit const s_item SampleSpotType::k_items[] = {
-    {item_kind::child, value_kind::none, use_required, ELMX_WS_PRESERVE, "Vyr:Specification", element_Specification, LMX_OFFSET(SampleSpotType, m_Specification, child, none), LMX_FLAG(SampleSpotType, m_isset_Specification), position_of(k_SampleSpotType_elements, element_Specification), 1, &Specification::k_class},
+constexpr s_item SampleSpotType::k_items[] = {
+    {item_kind::child, value_kind::none, use_required, ELMX_WS_PRESERVE, "Vyr:Specification", element("Specification"), LMX_OFFSET(SampleSpotType, m_Specification, child, none), LMX_FLAG(SampleSpotType, m_isset_Specification), &Specification::k_class},
 };
 constinit const s_class SampleSpotType::k_class = {
     .name = "SampleSpotType",
     .qualified_name = "Vyr:SampleSpotType",
     .base = &SampleType::k_class,
     .content = content_kind::children,
+    .names = &k_names,
     .ns_map = k_ns_map,
     .id = &SampleSpotType::id,
     .elements = k_items,
-    .element_map = k_SampleSpotType_elements,
     .operations = &k_operations<SampleSpotType>,
 };
 
@@ -174,29 +146,20 @@ Specification& SampleSpotType::assign_Specification(const Specification& value) 
 
 // SampleTargetType
 
-constexpr s_event_map k_SampleTargetType_attributes[] = {
-    attribute_event("CustomTarget", attribute_CustomTarget),
-    k_end_of_map,
-};
-constexpr s_event_map k_SampleTargetType_elements[] = {
-    element_event("Target", element_Target),
-    k_end_of_map,
-};
-constinit const s_item SampleTargetType::k_items[] = {
-    {item_kind::attribute, value_kind::text, use_optional, ELMX_WS_PRESERVE, "CustomTarget", attribute_CustomTarget, LMX_OFFSET(SampleTargetType, m_CustomTarget, attribute, text), LMX_FLAG(SampleTargetType, m_isset_CustomTarget)},
-    {item_kind::element, value_kind::enumerated, use_required, ELMX_WS_PRESERVE, "Vyr:Target", element_Target, LMX_OFFSET(SampleTargetType, m_Target, element, enumerated), LMX_FLAG(SampleTargetType, m_isset_Target), position_of(k_SampleTargetType_elements, element_Target), 1, nullptr, &facets::TargetKind},
+constexpr s_item SampleTargetType::k_items[] = {
+    {item_kind::attribute, value_kind::text, use_optional, ELMX_WS_PRESERVE, "CustomTarget", attribute("CustomTarget"), LMX_OFFSET(SampleTargetType, m_CustomTarget, attribute, text), LMX_FLAG(SampleTargetType, m_isset_CustomTarget)},
+    {item_kind::element, value_kind::enumerated, use_required, ELMX_WS_PRESERVE, "Vyr:Target", element("Target"), LMX_OFFSET(SampleTargetType, m_Target, element, enumerated), LMX_FLAG(SampleTargetType, m_isset_Target), nullptr, &facets::TargetKind},
 };
 constinit const s_class SampleTargetType::k_class = {
     .name = "SampleTargetType",
     .qualified_name = "Vyr:SampleTargetType",
     .base = &SampleType::k_class,
     .content = content_kind::children,
+    .names = &k_names,
     .ns_map = k_ns_map,
     .id = &SampleTargetType::id,
-    .attributes = std::span(k_items).first(std::size(k_SampleTargetType_attributes) - 1),
-    .elements = std::span(k_items).subspan(std::size(k_SampleTargetType_attributes) - 1),
-    .attribute_map = k_SampleTargetType_attributes,
-    .element_map = k_SampleTargetType_elements,
+    .attributes = std::span(k_items).first(attribute_count(k_items)),
+    .elements = std::span(k_items).subspan(attribute_count(k_items)),
     .operations = &k_operations<SampleTargetType>,
 };
 

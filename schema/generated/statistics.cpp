@@ -8,7 +8,6 @@
 
 #include "schema/generated/statistics.h"
 #include "lmx/binding/binding.h"
-#include "lmx/binding/rows.h"
 #include "schema/generated/functions.h"
 #include "schema/generated/tables.h"
 
@@ -19,7 +18,7 @@ namespace com_vyrgraph_v2 {
 
 using namespace lmx;  // for the tables' sake
 
-static_assert(k_binding_version == 5, "run schema/generator/generate.py");
+static_assert(k_binding_version == 6, "run schema/generator/generate.py");
 
 // FunctionStdDevXType
 
@@ -29,6 +28,7 @@ constinit const s_class FunctionStdDevXType::k_class = {
     .base = &FunctionType::k_class,
     .content = content_kind::children,
     .may_be_empty = true,
+    .names = &k_names,
     .ns_map = k_ns_map,
     .id = &FunctionStdDevXType::id,
     .operations = &k_operations<FunctionStdDevXType>,
@@ -57,6 +57,7 @@ constinit const s_class FunctionStdDevYType::k_class = {
     .base = &FunctionType::k_class,
     .content = content_kind::children,
     .may_be_empty = true,
+    .names = &k_names,
     .ns_map = k_ns_map,
     .id = &FunctionStdDevYType::id,
     .operations = &k_operations<FunctionStdDevYType>,
@@ -85,6 +86,7 @@ constinit const s_class FunctionStdDevZType::k_class = {
     .base = &FunctionType::k_class,
     .content = content_kind::children,
     .may_be_empty = true,
+    .names = &k_names,
     .ns_map = k_ns_map,
     .id = &FunctionStdDevZType::id,
     .operations = &k_operations<FunctionStdDevZType>,
@@ -113,6 +115,7 @@ constinit const s_class FunctionStdDevLType::k_class = {
     .base = &FunctionType::k_class,
     .content = content_kind::children,
     .may_be_empty = true,
+    .names = &k_names,
     .ns_map = k_ns_map,
     .id = &FunctionStdDevLType::id,
     .operations = &k_operations<FunctionStdDevLType>,
@@ -141,6 +144,7 @@ constinit const s_class FunctionStdDevAType::k_class = {
     .base = &FunctionType::k_class,
     .content = content_kind::children,
     .may_be_empty = true,
+    .names = &k_names,
     .ns_map = k_ns_map,
     .id = &FunctionStdDevAType::id,
     .operations = &k_operations<FunctionStdDevAType>,
@@ -169,6 +173,7 @@ constinit const s_class FunctionStdDevBType::k_class = {
     .base = &FunctionType::k_class,
     .content = content_kind::children,
     .may_be_empty = true,
+    .names = &k_names,
     .ns_map = k_ns_map,
     .id = &FunctionStdDevBType::id,
     .operations = &k_operations<FunctionStdDevBType>,
@@ -197,6 +202,7 @@ constinit const s_class FunctionStdDevCType::k_class = {
     .base = &FunctionType::k_class,
     .content = content_kind::children,
     .may_be_empty = true,
+    .names = &k_names,
     .ns_map = k_ns_map,
     .id = &FunctionStdDevCType::id,
     .operations = &k_operations<FunctionStdDevCType>,
@@ -225,6 +231,7 @@ constinit const s_class FunctionStdDevHType::k_class = {
     .base = &FunctionType::k_class,
     .content = content_kind::children,
     .may_be_empty = true,
+    .names = &k_names,
     .ns_map = k_ns_map,
     .id = &FunctionStdDevHType::id,
     .operations = &k_operations<FunctionStdDevHType>,
@@ -253,6 +260,7 @@ constinit const s_class FunctionAverageStdDevLType::k_class = {
     .base = &FunctionType::k_class,
     .content = content_kind::children,
     .may_be_empty = true,
+    .names = &k_names,
     .ns_map = k_ns_map,
     .id = &FunctionAverageStdDevLType::id,
     .operations = &k_operations<FunctionAverageStdDevLType>,
@@ -281,6 +289,7 @@ constinit const s_class FunctionAverageStdDevAType::k_class = {
     .base = &FunctionType::k_class,
     .content = content_kind::children,
     .may_be_empty = true,
+    .names = &k_names,
     .ns_map = k_ns_map,
     .id = &FunctionAverageStdDevAType::id,
     .operations = &k_operations<FunctionAverageStdDevAType>,
@@ -309,6 +318,7 @@ constinit const s_class FunctionAverageStdDevBType::k_class = {
     .base = &FunctionType::k_class,
     .content = content_kind::children,
     .may_be_empty = true,
+    .names = &k_names,
     .ns_map = k_ns_map,
     .id = &FunctionAverageStdDevBType::id,
     .operations = &k_operations<FunctionAverageStdDevBType>,

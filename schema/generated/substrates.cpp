@@ -8,7 +8,6 @@
 
 #include "schema/generated/substrates.h"
 #include "lmx/binding/binding.h"
-#include "lmx/binding/rows.h"
 #include "schema/generated/header.h"
 #include "schema/generated/palettes.h"
 #include "schema/generated/tables.h"
@@ -20,20 +19,14 @@ namespace com_vyrgraph_v2 {
 
 using namespace lmx;  // for the tables' sake
 
-static_assert(k_binding_version == 5, "run schema/generator/generate.py");
+static_assert(k_binding_version == 6, "run schema/generator/generate.py");
 
 // SubstrateType
 
-constexpr s_event_map k_SubstrateType_elements[] = {
-    element_event("CustomAttribute", element_CustomAttribute),
-    element_event("PartNumber", element_PartNumber),
-    element_event("Color", element_Color),
-    k_end_of_map,
-};
-constinit const s_item SubstrateType::k_items[] = {
-    {item_kind::child_list, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:CustomAttribute", element_CustomAttribute, LMX_OFFSET(SubstrateType, m_CustomAttribute, child_list, none), k_no_flag, position_of(k_SubstrateType_elements, element_CustomAttribute), 1, &CustomAttributeType::k_class},
-    {item_kind::element, value_kind::text, use_optional, ELMX_WS_PRESERVE, "Vyr:PartNumber", element_PartNumber, LMX_OFFSET(SubstrateType, m_PartNumber, element, text), LMX_FLAG(SubstrateType, m_isset_PartNumber), position_of(k_SubstrateType_elements, element_PartNumber), 1},
-    {item_kind::optional_child, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:Color", element_Color, LMX_OFFSET(SubstrateType, m_Color, optional_child, none), LMX_FLAG(SubstrateType, m_isset_Color), position_of(k_SubstrateType_elements, element_Color), 1, &ColorType::k_class},
+constexpr s_item SubstrateType::k_items[] = {
+    {item_kind::child_list, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:CustomAttribute", element("CustomAttribute"), LMX_OFFSET(SubstrateType, m_CustomAttribute, child_list, none), k_no_flag, &CustomAttributeType::k_class},
+    {item_kind::element, value_kind::text, use_optional, ELMX_WS_PRESERVE, "Vyr:PartNumber", element("PartNumber"), LMX_OFFSET(SubstrateType, m_PartNumber, element, text), LMX_FLAG(SubstrateType, m_isset_PartNumber)},
+    {item_kind::optional_child, value_kind::none, use_optional, ELMX_WS_PRESERVE, "Vyr:Color", element("Color"), LMX_OFFSET(SubstrateType, m_Color, optional_child, none), LMX_FLAG(SubstrateType, m_isset_Color), &ColorType::k_class},
 };
 constinit const s_factory_row SubstrateType::k_factory[] = {
     {"SubstratePaperType", &SubstratePaperType::k_class},
@@ -51,10 +44,10 @@ constinit const s_class SubstrateType::k_class = {
     .qualified_name = "Vyr:SubstrateType",
     .content = content_kind::children,
     .may_be_empty = true,
+    .names = &k_names,
     .ns_map = k_ns_map,
     .id = &SubstrateType::id,
     .elements = k_items,
-    .element_map = k_SubstrateType_elements,
     .operations = &k_operations<SubstrateType>,
 };
 
@@ -94,14 +87,9 @@ lmx::elmx_error Substrate::unmarshal(lmx::c_xml_reader& reader, const std::strin
 
 // SubstratePaperType
 
-constexpr s_event_map k_SubstratePaperType_elements[] = {
-    element_event("PaperThickness", element_PaperThickness),
-    element_event("PaperType", element_PaperType),
-    k_end_of_map,
-};
-constinit const s_item SubstratePaperType::k_items[] = {
-    {item_kind::element, value_kind::number, use_optional, ELMX_WS_COLLAPSE, "Vyr:PaperThickness", element_PaperThickness, LMX_OFFSET(SubstratePaperType, m_PaperThickness, element, number), LMX_FLAG(SubstratePaperType, m_isset_PaperThickness), position_of(k_SubstratePaperType_elements, element_PaperThickness), 1},
-    {item_kind::element, value_kind::text, use_optional, ELMX_WS_PRESERVE, "Vyr:PaperType", element_PaperType, LMX_OFFSET(SubstratePaperType, m_PaperType, element, text), LMX_FLAG(SubstratePaperType, m_isset_PaperType), position_of(k_SubstratePaperType_elements, element_PaperType), 1},
+constexpr s_item SubstratePaperType::k_items[] = {
+    {item_kind::element, value_kind::number, use_optional, ELMX_WS_COLLAPSE, "Vyr:PaperThickness", element("PaperThickness"), LMX_OFFSET(SubstratePaperType, m_PaperThickness, element, number), LMX_FLAG(SubstratePaperType, m_isset_PaperThickness)},
+    {item_kind::element, value_kind::text, use_optional, ELMX_WS_PRESERVE, "Vyr:PaperType", element("PaperType"), LMX_OFFSET(SubstratePaperType, m_PaperType, element, text), LMX_FLAG(SubstratePaperType, m_isset_PaperType)},
 };
 constinit const s_class SubstratePaperType::k_class = {
     .name = "SubstratePaperType",
@@ -109,10 +97,10 @@ constinit const s_class SubstratePaperType::k_class = {
     .base = &SubstrateType::k_class,
     .content = content_kind::children,
     .may_be_empty = true,
+    .names = &k_names,
     .ns_map = k_ns_map,
     .id = &SubstratePaperType::id,
     .elements = k_items,
-    .element_map = k_SubstratePaperType_elements,
     .operations = &k_operations<SubstratePaperType>,
 };
 
@@ -135,22 +123,18 @@ lmx::elmx_error SubstratePaperType::set_PaperType(const std::u16string& value) {
 
 // SubstrateGenericType
 
-constexpr s_event_map k_SubstrateGenericType_elements[] = {
-    element_event("Type", element_Type),
-    k_end_of_map,
-};
-constinit const s_item SubstrateGenericType::k_items[] = {
-    {item_kind::element, value_kind::text, use_required, ELMX_WS_PRESERVE, "Vyr:Type", element_Type, LMX_OFFSET(SubstrateGenericType, m_Type, element, text), LMX_FLAG(SubstrateGenericType, m_isset_Type), position_of(k_SubstrateGenericType_elements, element_Type), 1, nullptr, &facets::NonEmptyString},
+constexpr s_item SubstrateGenericType::k_items[] = {
+    {item_kind::element, value_kind::text, use_required, ELMX_WS_PRESERVE, "Vyr:Type", element("Type"), LMX_OFFSET(SubstrateGenericType, m_Type, element, text), LMX_FLAG(SubstrateGenericType, m_isset_Type), nullptr, &facets::NonEmptyString},
 };
 constinit const s_class SubstrateGenericType::k_class = {
     .name = "SubstrateGenericType",
     .qualified_name = "Vyr:SubstrateGenericType",
     .base = &SubstrateType::k_class,
     .content = content_kind::children,
+    .names = &k_names,
     .ns_map = k_ns_map,
     .id = &SubstrateGenericType::id,
     .elements = k_items,
-    .element_map = k_SubstrateGenericType_elements,
     .operations = &k_operations<SubstrateGenericType>,
 };
 
@@ -172,14 +156,9 @@ lmx::elmx_error SubstrateGenericType::set_Type(const std::u16string& value) { re
 
 // SubstrateMetalType
 
-constexpr s_event_map k_SubstrateMetalType_elements[] = {
-    element_event("MetalWeight", element_MetalWeight),
-    element_event("MetalType", element_MetalType),
-    k_end_of_map,
-};
-constinit const s_item SubstrateMetalType::k_items[] = {
-    {item_kind::element, value_kind::number, use_optional, ELMX_WS_COLLAPSE, "Vyr:MetalWeight", element_MetalWeight, LMX_OFFSET(SubstrateMetalType, m_MetalWeight, element, number), LMX_FLAG(SubstrateMetalType, m_isset_MetalWeight), position_of(k_SubstrateMetalType_elements, element_MetalWeight), 1},
-    {item_kind::element, value_kind::text, use_optional, ELMX_WS_PRESERVE, "Vyr:MetalType", element_MetalType, LMX_OFFSET(SubstrateMetalType, m_MetalType, element, text), LMX_FLAG(SubstrateMetalType, m_isset_MetalType), position_of(k_SubstrateMetalType_elements, element_MetalType), 1},
+constexpr s_item SubstrateMetalType::k_items[] = {
+    {item_kind::element, value_kind::number, use_optional, ELMX_WS_COLLAPSE, "Vyr:MetalWeight", element("MetalWeight"), LMX_OFFSET(SubstrateMetalType, m_MetalWeight, element, number), LMX_FLAG(SubstrateMetalType, m_isset_MetalWeight)},
+    {item_kind::element, value_kind::text, use_optional, ELMX_WS_PRESERVE, "Vyr:MetalType", element("MetalType"), LMX_OFFSET(SubstrateMetalType, m_MetalType, element, text), LMX_FLAG(SubstrateMetalType, m_isset_MetalType)},
 };
 constinit const s_class SubstrateMetalType::k_class = {
     .name = "SubstrateMetalType",
@@ -187,10 +166,10 @@ constinit const s_class SubstrateMetalType::k_class = {
     .base = &SubstrateType::k_class,
     .content = content_kind::children,
     .may_be_empty = true,
+    .names = &k_names,
     .ns_map = k_ns_map,
     .id = &SubstrateMetalType::id,
     .elements = k_items,
-    .element_map = k_SubstrateMetalType_elements,
     .operations = &k_operations<SubstrateMetalType>,
 };
 
@@ -213,14 +192,9 @@ lmx::elmx_error SubstrateMetalType::set_MetalType(const std::u16string& value) {
 
 // SubstratePlasticType
 
-constexpr s_event_map k_SubstratePlasticType_elements[] = {
-    element_event("PlasticWeight", element_PlasticWeight),
-    element_event("PlasticType", element_PlasticType),
-    k_end_of_map,
-};
-constinit const s_item SubstratePlasticType::k_items[] = {
-    {item_kind::element, value_kind::number, use_optional, ELMX_WS_COLLAPSE, "Vyr:PlasticWeight", element_PlasticWeight, LMX_OFFSET(SubstratePlasticType, m_PlasticWeight, element, number), LMX_FLAG(SubstratePlasticType, m_isset_PlasticWeight), position_of(k_SubstratePlasticType_elements, element_PlasticWeight), 1},
-    {item_kind::element, value_kind::text, use_optional, ELMX_WS_PRESERVE, "Vyr:PlasticType", element_PlasticType, LMX_OFFSET(SubstratePlasticType, m_PlasticType, element, text), LMX_FLAG(SubstratePlasticType, m_isset_PlasticType), position_of(k_SubstratePlasticType_elements, element_PlasticType), 1},
+constexpr s_item SubstratePlasticType::k_items[] = {
+    {item_kind::element, value_kind::number, use_optional, ELMX_WS_COLLAPSE, "Vyr:PlasticWeight", element("PlasticWeight"), LMX_OFFSET(SubstratePlasticType, m_PlasticWeight, element, number), LMX_FLAG(SubstratePlasticType, m_isset_PlasticWeight)},
+    {item_kind::element, value_kind::text, use_optional, ELMX_WS_PRESERVE, "Vyr:PlasticType", element("PlasticType"), LMX_OFFSET(SubstratePlasticType, m_PlasticType, element, text), LMX_FLAG(SubstratePlasticType, m_isset_PlasticType)},
 };
 constinit const s_class SubstratePlasticType::k_class = {
     .name = "SubstratePlasticType",
@@ -228,10 +202,10 @@ constinit const s_class SubstratePlasticType::k_class = {
     .base = &SubstrateType::k_class,
     .content = content_kind::children,
     .may_be_empty = true,
+    .names = &k_names,
     .ns_map = k_ns_map,
     .id = &SubstratePlasticType::id,
     .elements = k_items,
-    .element_map = k_SubstratePlasticType_elements,
     .operations = &k_operations<SubstratePlasticType>,
 };
 
@@ -254,14 +228,9 @@ lmx::elmx_error SubstratePlasticType::set_PlasticType(const std::u16string& valu
 
 // SubstrateWoodType
 
-constexpr s_event_map k_SubstrateWoodType_elements[] = {
-    element_event("WoodWeight", element_WoodWeight),
-    element_event("WoodType", element_WoodType),
-    k_end_of_map,
-};
-constinit const s_item SubstrateWoodType::k_items[] = {
-    {item_kind::element, value_kind::number, use_optional, ELMX_WS_COLLAPSE, "Vyr:WoodWeight", element_WoodWeight, LMX_OFFSET(SubstrateWoodType, m_WoodWeight, element, number), LMX_FLAG(SubstrateWoodType, m_isset_WoodWeight), position_of(k_SubstrateWoodType_elements, element_WoodWeight), 1},
-    {item_kind::element, value_kind::text, use_optional, ELMX_WS_PRESERVE, "Vyr:WoodType", element_WoodType, LMX_OFFSET(SubstrateWoodType, m_WoodType, element, text), LMX_FLAG(SubstrateWoodType, m_isset_WoodType), position_of(k_SubstrateWoodType_elements, element_WoodType), 1},
+constexpr s_item SubstrateWoodType::k_items[] = {
+    {item_kind::element, value_kind::number, use_optional, ELMX_WS_COLLAPSE, "Vyr:WoodWeight", element("WoodWeight"), LMX_OFFSET(SubstrateWoodType, m_WoodWeight, element, number), LMX_FLAG(SubstrateWoodType, m_isset_WoodWeight)},
+    {item_kind::element, value_kind::text, use_optional, ELMX_WS_PRESERVE, "Vyr:WoodType", element("WoodType"), LMX_OFFSET(SubstrateWoodType, m_WoodType, element, text), LMX_FLAG(SubstrateWoodType, m_isset_WoodType)},
 };
 constinit const s_class SubstrateWoodType::k_class = {
     .name = "SubstrateWoodType",
@@ -269,10 +238,10 @@ constinit const s_class SubstrateWoodType::k_class = {
     .base = &SubstrateType::k_class,
     .content = content_kind::children,
     .may_be_empty = true,
+    .names = &k_names,
     .ns_map = k_ns_map,
     .id = &SubstrateWoodType::id,
     .elements = k_items,
-    .element_map = k_SubstrateWoodType_elements,
     .operations = &k_operations<SubstrateWoodType>,
 };
 
@@ -295,14 +264,9 @@ lmx::elmx_error SubstrateWoodType::set_WoodType(const std::u16string& value) { r
 
 // SubstrateVinylType
 
-constexpr s_event_map k_SubstrateVinylType_elements[] = {
-    element_event("VinylWeight", element_VinylWeight),
-    element_event("VinylType", element_VinylType),
-    k_end_of_map,
-};
-constinit const s_item SubstrateVinylType::k_items[] = {
-    {item_kind::element, value_kind::number, use_optional, ELMX_WS_COLLAPSE, "Vyr:VinylWeight", element_VinylWeight, LMX_OFFSET(SubstrateVinylType, m_VinylWeight, element, number), LMX_FLAG(SubstrateVinylType, m_isset_VinylWeight), position_of(k_SubstrateVinylType_elements, element_VinylWeight), 1},
-    {item_kind::element, value_kind::text, use_optional, ELMX_WS_PRESERVE, "Vyr:VinylType", element_VinylType, LMX_OFFSET(SubstrateVinylType, m_VinylType, element, text), LMX_FLAG(SubstrateVinylType, m_isset_VinylType), position_of(k_SubstrateVinylType_elements, element_VinylType), 1},
+constexpr s_item SubstrateVinylType::k_items[] = {
+    {item_kind::element, value_kind::number, use_optional, ELMX_WS_COLLAPSE, "Vyr:VinylWeight", element("VinylWeight"), LMX_OFFSET(SubstrateVinylType, m_VinylWeight, element, number), LMX_FLAG(SubstrateVinylType, m_isset_VinylWeight)},
+    {item_kind::element, value_kind::text, use_optional, ELMX_WS_PRESERVE, "Vyr:VinylType", element("VinylType"), LMX_OFFSET(SubstrateVinylType, m_VinylType, element, text), LMX_FLAG(SubstrateVinylType, m_isset_VinylType)},
 };
 constinit const s_class SubstrateVinylType::k_class = {
     .name = "SubstrateVinylType",
@@ -310,10 +274,10 @@ constinit const s_class SubstrateVinylType::k_class = {
     .base = &SubstrateType::k_class,
     .content = content_kind::children,
     .may_be_empty = true,
+    .names = &k_names,
     .ns_map = k_ns_map,
     .id = &SubstrateVinylType::id,
     .elements = k_items,
-    .element_map = k_SubstrateVinylType_elements,
     .operations = &k_operations<SubstrateVinylType>,
 };
 
@@ -336,14 +300,9 @@ lmx::elmx_error SubstrateVinylType::set_VinylType(const std::u16string& value) {
 
 // SubstrateTileType
 
-constexpr s_event_map k_SubstrateTileType_elements[] = {
-    element_event("TileWeight", element_TileWeight),
-    element_event("TileType", element_TileType),
-    k_end_of_map,
-};
-constinit const s_item SubstrateTileType::k_items[] = {
-    {item_kind::element, value_kind::number, use_optional, ELMX_WS_COLLAPSE, "Vyr:TileWeight", element_TileWeight, LMX_OFFSET(SubstrateTileType, m_TileWeight, element, number), LMX_FLAG(SubstrateTileType, m_isset_TileWeight), position_of(k_SubstrateTileType_elements, element_TileWeight), 1},
-    {item_kind::element, value_kind::text, use_optional, ELMX_WS_PRESERVE, "Vyr:TileType", element_TileType, LMX_OFFSET(SubstrateTileType, m_TileType, element, text), LMX_FLAG(SubstrateTileType, m_isset_TileType), position_of(k_SubstrateTileType_elements, element_TileType), 1},
+constexpr s_item SubstrateTileType::k_items[] = {
+    {item_kind::element, value_kind::number, use_optional, ELMX_WS_COLLAPSE, "Vyr:TileWeight", element("TileWeight"), LMX_OFFSET(SubstrateTileType, m_TileWeight, element, number), LMX_FLAG(SubstrateTileType, m_isset_TileWeight)},
+    {item_kind::element, value_kind::text, use_optional, ELMX_WS_PRESERVE, "Vyr:TileType", element("TileType"), LMX_OFFSET(SubstrateTileType, m_TileType, element, text), LMX_FLAG(SubstrateTileType, m_isset_TileType)},
 };
 constinit const s_class SubstrateTileType::k_class = {
     .name = "SubstrateTileType",
@@ -351,10 +310,10 @@ constinit const s_class SubstrateTileType::k_class = {
     .base = &SubstrateType::k_class,
     .content = content_kind::children,
     .may_be_empty = true,
+    .names = &k_names,
     .ns_map = k_ns_map,
     .id = &SubstrateTileType::id,
     .elements = k_items,
-    .element_map = k_SubstrateTileType_elements,
     .operations = &k_operations<SubstrateTileType>,
 };
 
@@ -377,14 +336,9 @@ lmx::elmx_error SubstrateTileType::set_TileType(const std::u16string& value) { r
 
 // SubstrateFilmType
 
-constexpr s_event_map k_SubstrateFilmType_elements[] = {
-    element_event("FilmWeight", element_FilmWeight),
-    element_event("FilmType", element_FilmType),
-    k_end_of_map,
-};
-constinit const s_item SubstrateFilmType::k_items[] = {
-    {item_kind::element, value_kind::number, use_optional, ELMX_WS_COLLAPSE, "Vyr:FilmWeight", element_FilmWeight, LMX_OFFSET(SubstrateFilmType, m_FilmWeight, element, number), LMX_FLAG(SubstrateFilmType, m_isset_FilmWeight), position_of(k_SubstrateFilmType_elements, element_FilmWeight), 1},
-    {item_kind::element, value_kind::text, use_optional, ELMX_WS_PRESERVE, "Vyr:FilmType", element_FilmType, LMX_OFFSET(SubstrateFilmType, m_FilmType, element, text), LMX_FLAG(SubstrateFilmType, m_isset_FilmType), position_of(k_SubstrateFilmType_elements, element_FilmType), 1},
+constexpr s_item SubstrateFilmType::k_items[] = {
+    {item_kind::element, value_kind::number, use_optional, ELMX_WS_COLLAPSE, "Vyr:FilmWeight", element("FilmWeight"), LMX_OFFSET(SubstrateFilmType, m_FilmWeight, element, number), LMX_FLAG(SubstrateFilmType, m_isset_FilmWeight)},
+    {item_kind::element, value_kind::text, use_optional, ELMX_WS_PRESERVE, "Vyr:FilmType", element("FilmType"), LMX_OFFSET(SubstrateFilmType, m_FilmType, element, text), LMX_FLAG(SubstrateFilmType, m_isset_FilmType)},
 };
 constinit const s_class SubstrateFilmType::k_class = {
     .name = "SubstrateFilmType",
@@ -392,10 +346,10 @@ constinit const s_class SubstrateFilmType::k_class = {
     .base = &SubstrateType::k_class,
     .content = content_kind::children,
     .may_be_empty = true,
+    .names = &k_names,
     .ns_map = k_ns_map,
     .id = &SubstrateFilmType::id,
     .elements = k_items,
-    .element_map = k_SubstrateFilmType_elements,
     .operations = &k_operations<SubstrateFilmType>,
 };
 
@@ -418,14 +372,9 @@ lmx::elmx_error SubstrateFilmType::set_FilmType(const std::u16string& value) { r
 
 // SubstrateTextileType
 
-constexpr s_event_map k_SubstrateTextileType_elements[] = {
-    element_event("TextileWeight", element_TextileWeight),
-    element_event("TextileType", element_TextileType),
-    k_end_of_map,
-};
-constinit const s_item SubstrateTextileType::k_items[] = {
-    {item_kind::element, value_kind::number, use_optional, ELMX_WS_COLLAPSE, "Vyr:TextileWeight", element_TextileWeight, LMX_OFFSET(SubstrateTextileType, m_TextileWeight, element, number), LMX_FLAG(SubstrateTextileType, m_isset_TextileWeight), position_of(k_SubstrateTextileType_elements, element_TextileWeight), 1},
-    {item_kind::element, value_kind::text, use_optional, ELMX_WS_PRESERVE, "Vyr:TextileType", element_TextileType, LMX_OFFSET(SubstrateTextileType, m_TextileType, element, text), LMX_FLAG(SubstrateTextileType, m_isset_TextileType), position_of(k_SubstrateTextileType_elements, element_TextileType), 1},
+constexpr s_item SubstrateTextileType::k_items[] = {
+    {item_kind::element, value_kind::number, use_optional, ELMX_WS_COLLAPSE, "Vyr:TextileWeight", element("TextileWeight"), LMX_OFFSET(SubstrateTextileType, m_TextileWeight, element, number), LMX_FLAG(SubstrateTextileType, m_isset_TextileWeight)},
+    {item_kind::element, value_kind::text, use_optional, ELMX_WS_PRESERVE, "Vyr:TextileType", element("TextileType"), LMX_OFFSET(SubstrateTextileType, m_TextileType, element, text), LMX_FLAG(SubstrateTextileType, m_isset_TextileType)},
 };
 constinit const s_class SubstrateTextileType::k_class = {
     .name = "SubstrateTextileType",
@@ -433,10 +382,10 @@ constinit const s_class SubstrateTextileType::k_class = {
     .base = &SubstrateType::k_class,
     .content = content_kind::children,
     .may_be_empty = true,
+    .names = &k_names,
     .ns_map = k_ns_map,
     .id = &SubstrateTextileType::id,
     .elements = k_items,
-    .element_map = k_SubstrateTextileType_elements,
     .operations = &k_operations<SubstrateTextileType>,
 };
 

@@ -269,8 +269,7 @@ constinit const lmx::s_facets NonNegative = {
 };
 /// Bits per channel of a device colour.
 constinit const lmx::s_facets ColorDepthKind = {
-    .enumeration = k_ColorDepthKind_texts,
-    .enumerated = &k_ColorDepthKind_enumeration,
+    .enumeration = &k_ColorDepthKind_enumeration,
 };
 /// A number from 0 to 100, in percent.
 constinit const lmx::s_facets Percentage = {
@@ -299,8 +298,7 @@ constinit const lmx::s_facets YIQQuadrature = {
 };
 /// Gamut in which a colour can be shown.
 constinit const lmx::s_facets GamutKind = {
-    .enumeration = k_GamutKind_texts,
-    .enumerated = &k_GamutKind_enumeration,
+    .enumeration = &k_GamutKind_enumeration,
 };
 /// A number above 0.
 constinit const lmx::s_facets Positive = {
@@ -309,8 +307,7 @@ constinit const lmx::s_facets Positive = {
 };
 /// Finish of a paper.
 constinit const lmx::s_facets FinishKind = {
-    .enumeration = k_FinishKind_texts,
-    .enumerated = &k_FinishKind_enumeration,
+    .enumeration = &k_FinishKind_enumeration,
 };
 /// A reflectance factor between -1 and 10, ends excluded.
 constinit const lmx::s_facets Reflectance = {
@@ -326,48 +323,39 @@ constinit const lmx::s_facets Wavelength = {
 };
 /// Scale of an axis.
 constinit const lmx::s_facets AxisScaleKind = {
-    .enumeration = k_AxisScaleKind_texts,
-    .enumerated = &k_AxisScaleKind_enumeration,
+    .enumeration = &k_AxisScaleKind_enumeration,
 };
 /// Density status: the set of spectral responses of a densitometer.
 constinit const lmx::s_facets DensityStatusKind = {
-    .enumeration = k_DensityStatusKind_texts,
-    .enumerated = &k_DensityStatusKind_enumeration,
+    .enumeration = &k_DensityStatusKind_enumeration,
 };
 /// Filter through which an optical density is measured.
 constinit const lmx::s_facets DensityFilterKind = {
-    .enumeration = k_DensityFilterKind_texts,
-    .enumerated = &k_DensityFilterKind_enumeration,
+    .enumeration = &k_DensityFilterKind_enumeration,
 };
 /// How a light source is measured.
 constinit const lmx::s_facets EmissiveKind = {
-    .enumeration = k_EmissiveKind_texts,
-    .enumerated = &k_EmissiveKind_enumeration,
+    .enumeration = &k_EmissiveKind_enumeration,
 };
 /// Whether a diffuser is in place when a light source is measured.
 constinit const lmx::s_facets EmissiveModeKind = {
-    .enumeration = k_EmissiveModeKind_texts,
-    .enumerated = &k_EmissiveModeKind_enumeration,
+    .enumeration = &k_EmissiveModeKind_enumeration,
 };
 /// CIE standard observer, by its field of view.
 constinit const lmx::s_facets ObserverKind = {
-    .enumeration = k_ObserverKind_texts,
-    .enumerated = &k_ObserverKind_enumeration,
+    .enumeration = &k_ObserverKind_enumeration,
 };
 /// Weighting tables of ASTM E308 for the integration of tristimulus values.
 constinit const lmx::s_facets AstmTableKind = {
-    .enumeration = k_AstmTableKind_texts,
-    .enumerated = &k_AstmTableKind_enumeration,
+    .enumeration = &k_AstmTableKind_enumeration,
 };
 /// Spectral quantity.
 constinit const lmx::s_facets SpectrumKind = {
-    .enumeration = k_SpectrumKind_texts,
-    .enumerated = &k_SpectrumKind_enumeration,
+    .enumeration = &k_SpectrumKind_enumeration,
 };
 /// CIE standard illuminants, the 9300 K white of displays, and custom ones.
 constinit const lmx::s_facets IlluminantKind = {
-    .enumeration = k_IlluminantKind_texts,
-    .enumerated = &k_IlluminantKind_enumeration,
+    .enumeration = &k_IlluminantKind_enumeration,
 };
 /// An integer from 1 to 2147483647.
 constinit const lmx::s_facets PositiveInt32 = {
@@ -380,23 +368,19 @@ constinit const lmx::s_facets PositiveInt32 = {
 };
 /// Whether an integrating sphere includes the specular component.
 constinit const lmx::s_facets SphereGeometryKind = {
-    .enumeration = k_SphereGeometryKind_texts,
-    .enumerated = &k_SphereGeometryKind_enumeration,
+    .enumeration = &k_SphereGeometryKind_enumeration,
 };
 /// Filter in the light path of an instrument.
 constinit const lmx::s_facets DeviceFilterKind = {
-    .enumeration = k_DeviceFilterKind_texts,
-    .enumerated = &k_DeviceFilterKind_enumeration,
+    .enumeration = &k_DeviceFilterKind_enumeration,
 };
 /// What lies behind a sample while it is measured.
 constinit const lmx::s_facets BackingKind = {
-    .enumeration = k_BackingKind_texts,
-    .enumerated = &k_BackingKind_enumeration,
+    .enumeration = &k_BackingKind_enumeration,
 };
 /// Test charts.
 constinit const lmx::s_facets TargetKind = {
-    .enumeration = k_TargetKind_texts,
-    .enumerated = &k_TargetKind_enumeration,
+    .enumeration = &k_TargetKind_enumeration,
 };
 /// A text of at least one character, surrounding and repeated blanks removed.
 constinit const lmx::s_facets NonEmptyToken = {
@@ -404,18 +388,15 @@ constinit const lmx::s_facets NonEmptyToken = {
 };
 /// Tolerance formulas.
 constinit const lmx::s_facets ToleranceFormulaKind = {
-    .enumeration = k_ToleranceFormulaKind_texts,
-    .enumerated = &k_ToleranceFormulaKind_enumeration,
+    .enumeration = &k_ToleranceFormulaKind_enumeration,
 };
 /// Parameter of a tolerance formula.
 constinit const lmx::s_facets ToleranceParameterKind = {
-    .enumeration = k_ToleranceParameterKind_texts,
-    .enumerated = &k_ToleranceParameterKind_enumeration,
+    .enumeration = &k_ToleranceParameterKind_enumeration,
 };
 /// Kind of instrument.
 constinit const lmx::s_facets DeviceClassKind = {
-    .enumeration = k_DeviceClassKind_texts,
-    .enumerated = &k_DeviceClassKind_enumeration,
+    .enumeration = &k_DeviceClassKind_enumeration,
 };
 /// Number of readings that are averaged.
 constinit const lmx::s_facets AveragingCount = {
@@ -426,8 +407,7 @@ constinit const lmx::s_facets AveragingCount = {
 };
 /// State of a calibration.
 constinit const lmx::s_facets CalibrationKind = {
-    .enumeration = k_CalibrationKind_texts,
-    .enumerated = &k_CalibrationKind_enumeration,
+    .enumeration = &k_CalibrationKind_enumeration,
 };
 /// A text of exactly one character.
 constinit const lmx::s_facets SingleCharacter = {
@@ -436,8 +416,7 @@ constinit const lmx::s_facets SingleCharacter = {
 };
 /// Which way a profile converts.
 constinit const lmx::s_facets ProfileDirectionKind = {
-    .enumeration = k_ProfileDirectionKind_texts,
-    .enumerated = &k_ProfileDirectionKind_enumeration,
+    .enumeration = &k_ProfileDirectionKind_enumeration,
 };
 }  // namespace facets
 

@@ -243,7 +243,7 @@ def class_names(plan, made):
     init = " init();" if made.init else ""
     body = f" {{{init} }}" if init else ""
     # The texts of enumerations are not known in the header.
-    initial = ", ".join(f"m_{item.accessor}(facets::{item.value.name}.enumerated->find("
+    initial = ", ".join(f"m_{item.accessor}(facets::{item.value.name}.enumeration->find("
                         f"{item.value.enumeration.index(item.initial) + 1}))"
                         for item in made.items if item.enumerated and item.initial is not None)
     # To the class itself for the initial values, and so that a copy that can't be finished is ended like others.

@@ -1,6 +1,6 @@
 # Copyright 2026 The Vyr Authors
 # SPDX-License-Identifier: Apache-2.0
-"""What follows from the model for the C++ side: order of definitions, includes, tokens, maps, identities."""
+"""What follows from the model for the C++ side: order of definitions, includes, names, identities."""
 
 from dataclasses import dataclass
 from graphlib import CycleError, TopologicalSorter
@@ -10,7 +10,7 @@ from source import SchemaError
 
 # Kinds of item whose object the class makes and ends itself: its type must be complete there.
 BY_VALUE = ("child", "optional_child", "group")
-HAS_TOKEN = ("attribute", "element", "element_list", "child", "optional_child", "child_list", "marker", "alternative")
+WITHOUT_NAME = ("content", "group", "group_list", "any")
 
 
 @dataclass(frozen=True)
@@ -28,15 +28,17 @@ class Plan:
         self.model = model
         self.by_name = {made.name: made for made in model.classes}
         items = [item for made in model.classes for item in made.items]
-        self.tokens = sorted({self.token(item) for item in items if item.kind in HAS_TOKEN})
+        self.names = {kind: sorted({item.name for item in items if self.name_kind(item) == kind})
+                      for kind in ("attribute", "element")}
         self.facets = [simple for simple in model.simple_types if simple.facets()]
         self.enumerations = {item.accessor: item.value for item in items if item.enumerated}
         self.topics = [self.topic(name) for name in model.topics]
         self.check_cycles()
 
     @staticmethod
-    def token(item: Item):
-        return f"{'attribute' if item.kind == 'attribute' else 'element'}_{item.name}"
+    def name_kind(item: Item):
+        """Whose name an item has in documents; None if it has none of its own."""
+        return None if item.kind in WITHOUT_NAME else "attribute" if item.kind == "attribute" else "element"
 
     def base(self, made: Class):
         return self.by_name[made.base] if made.base else None
@@ -75,12 +77,6 @@ class Plan:
                 return base, base.elements[0]
             base = self.base(base)
         return None
-
-    def map_items(self, item: Item):
-        """The elements that stand for an item in its class's element map."""
-        if item.kind in ("group", "group_list"):
-            return self.by_name[item.type].elements
-        return (item,) if item.kind in HAS_TOKEN else ()
 
     # Order
 

@@ -5,10 +5,9 @@
 from cpp import FOLDER, comment, frame, own_source
 from members import flag_member, members_of, own_choice
 from model import PREFIX, REQUIRED
-from plan import HAS_TOKEN
 from print_headers import has_flag
 
-VERSION = 5  # of the runtime's tables, lmx::k_binding_version
+VERSION = 6  # of the runtime's tables, lmx::k_binding_version
 NOTES = (
     "// Offsets of members of classes with virtual functions: both compilers define them, and the macros check them.",
     '#pragma GCC diagnostic ignored "-Winvalid-offsetof"',
@@ -23,13 +22,6 @@ def record(name, fields):
     yield "};"
 
 
-def event_map(name, kind, items):
-    if items:
-        yield f"constexpr s_event_map {name}[] = {{"
-        yield from (f'    {kind}_event("{item.name}", {kind}_{item.name}),' for item in items)
-        yield from ("    k_end_of_map,", "};")
-
-
 def use_mask(made, item):
     uses = ("required",) if item.use == REQUIRED else item.use
     if item is made.name_item:
@@ -41,19 +33,15 @@ def facets_of(item):
     return f"&facets::{item.value.name}" if item.value and item.value.facets() else "nullptr"
 
 
-def row(plan, made, item, element_map):
+def row(plan, made, item):
     value = item.value.value if item.value and item.kind != "marker" else "none"
     if item.enumerated:
         value = "enumerated"
     mode = "ELMX_WS_COLLAPSE" if item.value and item.value.collapse else "ELMX_WS_PRESERVE"
     # What has no name of its own is printed under those of its parts; open content brings names along.
     name = item.name if item.kind == "attribute" or not (item.name or item.kind == "any") else PREFIX + item.name
-    elements = plan.map_items(item)
-    token, position, width, offset, flag, factory = "0", "0", "0", "0", "k_no_flag", "{}"
-    if item.kind in HAS_TOKEN:
-        token = plan.token(item)
-    if elements and item.kind != "attribute":
-        position, width = f"position_of({element_map}, {plan.token(elements[0])})", str(len(elements))
+    offset, flag, factory = "0", "k_no_flag", "{}"
+    token = f'{plan.name_kind(item)}("{item.name}")' if plan.name_kind(item) else "0"
     if has_flag(item):
         flag = f"LMX_FLAG({made.name}, {flag_member(made, item)})"
     if item.kind not in ("alternative", "marker") and not made.derives_from_group:
@@ -62,7 +50,7 @@ def row(plan, made, item, element_map):
         factory = f"{item.type}::k_factory"
     type_table = f"&{item.type}::k_class" if item.type and item.kind != "marker" else "nullptr"
     fields = [f"item_kind::{item.kind}", f"value_kind::{value}", use_mask(made, item), mode, f'"{name}"', token,
-              offset, flag, position, width, type_table, facets_of(item), factory]
+              offset, flag, type_table, facets_of(item), factory]
     while fields[-1] in ("0", "nullptr", "{}"):
         fields.pop()
     return f"    {{{', '.join(fields)}}},"
@@ -70,13 +58,9 @@ def row(plan, made, item, element_map):
 
 def class_table(plan, made):
     name = made.name
-    attribute_map, element_map = f"k_{name}_attributes", f"k_{name}_elements"
-    elements = [element for item in made.elements for element in plan.map_items(item)]
-    yield from event_map(attribute_map, "attribute", made.attributes)
-    yield from event_map(element_map, "element", elements)
     if made.items:
-        yield f"constinit const s_item {name}::k_items[] = {{"
-        yield from (row(plan, made, item, element_map) for item in made.items)
+        yield f"constexpr s_item {name}::k_items[] = {{"
+        yield from (row(plan, made, item) for item in made.items)
         yield "};"
     if known := plan.factory(made):
         yield f"constinit const s_factory_row {name}::k_factory[] = {{"
@@ -85,22 +69,21 @@ def class_table(plan, made):
     base, identity = plan.table_base(made), plan.identity(made)
     own_attributes, own_elements = made.attributes and "k_items", made.elements and "k_items"
     if own_attributes and own_elements:
-        count = f"std::size({attribute_map}) - 1"
-        own_attributes, own_elements = f"std::span(k_items).first({count})", f"std::span(k_items).subspan({count})"
+        own_attributes, own_elements = (f"std::span(k_items).{part}(attribute_count(k_items))"
+                                        for part in ("first", "subspan"))
     fields = {
         "name": f'"{name}"',
         "qualified_name": f'"{made.qualified_name}"',
         "base": base and f"&{base}::k_class",
         "content": f"content_kind::{made.content}",
         "may_be_empty": made.may_be_empty and "true",
+        "names": "&k_names",
         "ns_map": not (made.local or made.inline) and "k_ns_map",
         "nil_flag": made.nillable and f"LMX_FLAG({name}, m_isnil)",
         "choice": own_choice(made) and f"LMX_CHOICE({name}, m_choice)",
         "id": identity and f"&{identity.name}::id",
         "attributes": own_attributes,
         "elements": own_elements,
-        "attribute_map": made.attributes and attribute_map,
-        "element_map": elements and element_map,
         "operations": f"&k_operations<{name}>",
     }
     yield from record(f"s_class {name}::k_class", fields)
@@ -125,8 +108,7 @@ def print_source(plan, topic):
         table = [] if made.wrapper else [*class_table(plan, made), ""]
         body += [f"// {made.name}", "", *table, *statics(plan, made), *filter(None, definitions), ""]
     includes = own_source(topic.name, [
-        "lmx/binding/binding.h", "lmx/binding/rows.h", f"{FOLDER}/tables.h",
-        *(f"{FOLDER}/{name}.h" for name in topic.source_needs)])
+        "lmx/binding/binding.h", f"{FOLDER}/tables.h", *(f"{FOLDER}/{name}.h" for name in topic.source_needs)])
     return frame(f"Tables and members of the classes in {topic.name}.h.", includes, body[:-1], notes=NOTES)
 
 
@@ -136,9 +118,16 @@ def print_source(plan, topic):
 def print_tables_header(plan):
     body = [f'inline constexpr lmx::s_ns_map k_ns_map[] = {{{{1000, "{PREFIX[:-1]}", "{plan.model.namespace}"}}, '
             "{0, nullptr, nullptr}};", "",
-            "/// One per name and kind; below lie the reader's own events.", "enum token : int {"]
-    body += [f"    {name}{' = 14' if name == plan.tokens[0] else ''}," for name in plan.tokens]
-    body += ["};", "", "/// What values must meet, by the simple types of the schema.", "namespace facets {"]
+            "/// The names of items. Each has a number, which is its event; below lie the reader's own."]
+    lists, first_token = [], "14"
+    for (kind, names), ns_id in zip(plan.names.items(), (1, 1000)):
+        body += [f"inline constexpr std::string_view k_{kind}_names[] = {{", *(f'    "{name}",' for name in names), "};"]
+        lists.append(f"{{{ns_id}, {first_token}, k_{kind}_names}}")
+        first_token += f" + std::size(k_{kind}_names)"
+    body += [f"inline constexpr lmx::s_name_lists k_names = {{{', '.join(lists)}}};",
+             *(f"consteval int {kind}(std::string_view name) {{ return k_names.{kind}s.find(name); }}"
+               for kind in plan.names), "",
+             "/// What values must meet, by the simple types of the schema.", "namespace facets {"]
     body += [f"extern const lmx::s_facets {simple.name};" for simple in plan.facets]
     body += ["}  // namespace facets"]
     return frame("What the tables of all classes share: the namespace map, tokens and facets.", ["lmx/binding/table.h"],
@@ -157,8 +146,7 @@ def facet_parts(simple):
         parts.append(f"const lmx::c_pattern& {name}_pattern() "
                      f'{{ static const lmx::c_pattern pattern("{literal}"); return pattern; }}')
     return parts, {
-        "enumeration": simple.enumeration and f"k_{name}_texts",
-        "enumerated": simple.enumeration and f"&k_{name}_enumeration",
+        "enumeration": simple.enumeration and f"&k_{name}_enumeration",
         "minimum": simple.minimum,
         "maximum": simple.maximum,
         **{flag: getattr(simple, flag) and "true"

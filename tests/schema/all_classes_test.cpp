@@ -48,7 +48,7 @@ bool is_integer(value_kind kind) {
 
 std::string good_value(const s_item& item) {
     const s_facets facets = item.facets == nullptr ? s_facets{} : *item.facets;
-    if (!facets.enumeration.empty()) return std::string(facets.enumeration.back());
+    if (facets.enumeration != nullptr) return std::string(facets.enumeration->texts().back());
     switch (item.value) {
         case value_kind::number:
             if (std::isinf(facets.minimum)) return "-1.5";
@@ -73,7 +73,7 @@ struct s_bad_value {
 std::vector<s_bad_value> bad_values(const s_item& item) {
     const s_facets facets = item.facets == nullptr ? s_facets{} : *item.facets;
     std::vector<s_bad_value> values;
-    if (!facets.enumeration.empty()) return {{"Bogus", ELMX_VALUE_NOT_ENUMERATED}, {"", ELMX_VALUE_NOT_ENUMERATED}};
+    if (facets.enumeration != nullptr) return {{"Bogus", ELMX_VALUE_NOT_ENUMERATED}, {"", ELMX_VALUE_NOT_ENUMERATED}};
     switch (item.value) {
         case value_kind::datetime:
             return {{"2024", ELMX_VALUE_BAD_FORMAT}, {"2024-05-01T09:30:00", ELMX_NO_PATTERN_MATCHED}};

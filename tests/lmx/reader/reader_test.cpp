@@ -19,6 +19,9 @@ constexpr s_ns_map k_ns_map[] = {{1000, "V", k_uri}, {5, "xsi", k_xsi_uri}, {0, 
 constexpr s_event_map k_elements[] = {
     {1000, "Color", 5, 14}, {1000, "Colour", 6, 15}, {1, "Plain", 5, 16}, {0, nullptr, 0, 0}};
 constexpr s_event_map k_attributes[] = {{1, "Name", 4, 20}, {1, "type", 4, 21}, {0, nullptr, 0, 0}};
+constexpr std::string_view k_element_names[] = {"Color", "Colour", "a1-1z", "a2-2z", "a3-3z"};
+constexpr std::string_view k_attribute_names[] = {"Name", "type"};
+constexpr s_name_lists k_names = {{1, 20, k_attribute_names}, {1000, 14, k_element_names}};
 constexpr s_event_map k_nothing[] = {{0, nullptr, 0, 0}};
 
 struct s_reader {
@@ -57,6 +60,8 @@ TEST(Tokens, GoByNamespaceAndName) {
     for (const auto& row : cases) {
         s_reader run(row.document);
         EXPECT_EQ(run.element(k_elements), row.token) << row.document;
+        const int token = run.reader.find_token(k_names, ELXP_ELEMENT);
+        EXPECT_EQ(token, row.token == 16 ? ELXP_UNKNOWN : row.token) << row.document;
         EXPECT_EQ(run.reader.get_element_ns_id(), row.ns_id) << row.document;
         EXPECT_EQ(run.error, ELMX_OK);
     }
@@ -73,12 +78,19 @@ TEST(Tokens, GoByNamespaceAndName) {
     EXPECT_EQ(run.reader.get_current_event(), ELXP_UNKNOWN);
     for (const int token : {20, 1, 1, 1, 8, 9, 10, 11, 1, 21, 1}) {
         EXPECT_EQ(run.attribute(k_attributes), token) << run.reader.m_attr_name;
+        EXPECT_EQ(run.reader.find_token(k_names, ELXP_ATTRIBUTE), token) << run.reader.m_attr_name;
         EXPECT_EQ(run.reader.is_xsi_attribute(run.reader.m_attr_name), run.reader.m_attr_name[0] == 'i');
         run.reader.skip_attribute_value();
     }
     EXPECT_EQ(run.attribute(k_attributes), -1);
     EXPECT_EQ(run.reader.get_current_event(), ELXP_END_TAG);
     EXPECT_FALSE(run.reader.is_current_event_tokenisable());
+    // Names that are searched for in one place, and what would be.
+    for (std::size_t i = 0; i < std::size(k_element_names); ++i) {
+        EXPECT_EQ(k_names.elements.find(k_element_names[i]), static_cast<int>(i) + 14);
+    }
+    for (const char* const other : {"", "a4-4z", "a1-1", "a1-1zz", "Name"})
+        EXPECT_EQ(k_names.elements.find(other), 0);
 }
 
 TEST(Events, EndTagsAndInput) {
