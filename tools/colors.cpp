@@ -4,10 +4,7 @@
 #include "tools/colors.h"
 
 #include <algorithm>
-#include <array>
-#include <charconv>
 #include <cmath>
-#include <cstdio>
 #include <iterator>
 #include <optional>
 
@@ -309,12 +306,7 @@ std::string record_text(const c_tree& tree, index node) {
 
 std::string shown_value(std::string_view text, value_kind kind) {
     double number = 0;
-    const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), number);
-    if (kind != value_kind::number || error != std::errc() || end != text.data() + text.size())
-        return printable(text);
-    std::array<char, 32> digits{};
-    std::snprintf(digits.data(), digits.size(), "%.6g", number);
-    return digits.data();
+    return kind == value_kind::number && read_number(text, number) ? short_number(number) : printable(text);
 }
 
 }  // namespace vyr_tool

@@ -93,7 +93,7 @@ std::string srgb_of(const c_tree& tree, c_tree::index color, char separator);
 /// Contribution 0.42".
 std::string record_text(const c_tree& tree, c_tree::index node);
 
-/// A value for people: of numbers six digits, which are more than any eye tells apart.
+/// A value for people: numbers in their short form.
 std::string shown_value(std::string_view text, lmx::value_kind kind);
 
 }  // namespace vyr_tool

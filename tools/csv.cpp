@@ -4,7 +4,6 @@
 #include "tools/csv.h"
 
 #include <algorithm>
-#include <charconv>
 #include <numeric>
 
 #include "tools/text.h"
@@ -37,8 +36,7 @@ std::string wavelength_header(std::string_view wavelength) { return std::string(
 std::optional<double> wavelength_of(std::string_view header) {
     if (header.ends_with(k_unit)) header.remove_suffix(k_unit.size());
     double number = 0;
-    const auto [end, error] = std::from_chars(header.data(), header.data() + header.size(), number);
-    if (error != std::errc() || end != header.data() + header.size() || number <= 0) return std::nullopt;
+    if (!read_number(header, number) || number <= 0) return std::nullopt;
     return number;
 }
 

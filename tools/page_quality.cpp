@@ -72,7 +72,7 @@ struct s_limits {
 std::string shown_number(double number) {
     if (std::isnan(number)) return "NaN";
     if (std::isinf(number)) return number > 0 ? "INF" : "-INF";
-    return shown_value(json(number).dump(), lmx::value_kind::number);
+    return short_number(number);
 }
 
 std::string s_limits::in_words() const {

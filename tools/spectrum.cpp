@@ -5,7 +5,6 @@
 
 #include <algorithm>
 #include <array>
-#include <cstdio>
 #include <string_view>
 
 #include "tools/colors.h"
@@ -13,16 +12,6 @@
 #include "tools/typed_json.h"
 
 namespace vyr_tool {
-
-namespace {
-
-std::string short_number(double number) {
-    std::array<char, 32> digits{};
-    std::snprintf(digits.data(), digits.size(), "%.6g", number);
-    return digits.data();
-}
-
-}  // namespace
 
 std::vector<s_point> points_of(const c_tree& tree, c_tree::index value) {
     std::vector<s_point> points;

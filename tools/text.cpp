@@ -94,6 +94,12 @@ std::string counted(std::size_t count, std::string_view one, std::string_view ma
     return std::to_string(count).append(" ").append(count == 1 ? one : many);
 }
 
+std::string short_number(double number) {
+    std::array<char, 32> digits{};
+    std::snprintf(digits.data(), digits.size(), "%.6g", number);
+    return digits.data();
+}
+
 bool use_color(const color_mode& mode) {
     if (mode != "auto") return mode == "always";
     const char* const terminal = std::getenv("TERM");

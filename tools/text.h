@@ -5,9 +5,11 @@
 
 #pragma once
 
+#include <charconv>
 #include <cstddef>
 #include <string>
 #include <string_view>
+#include <system_error>
 
 #include "tools/commands.h"
 
@@ -28,6 +30,16 @@ std::size_t width(std::string_view text);
 
 /// "1 colour", "2 colours"
 std::string counted(std::size_t count, std::string_view one, std::string_view many);
+
+/// A number for people: six digits, which are more than any eye tells apart.
+std::string short_number(double number);
+
+/// Reads a text that is a number in full. False for others, which may leave anything in `number`.
+template <class Number>
+bool read_number(std::string_view text, Number& number) {
+    const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), number);
+    return error == std::errc() && end == text.data() + text.size();
+}
 
 /// Whether to send colours to standard output: asked for, or left open and it is a terminal that can, and nobody set
 /// NO_COLOR.

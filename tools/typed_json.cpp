@@ -3,12 +3,12 @@
 
 #include "tools/typed_json.h"
 
-#include <charconv>
 #include <cmath>
 #include <cstdint>
 #include <string>
 #include <utility>
 
+#include "tools/text.h"
 #include "tools/typed_reader.h"
 
 namespace vyr_tool {
@@ -20,13 +20,6 @@ using lmx::value_kind;
 
 /// Up to here a double holds every whole number.
 constexpr double k_highest_exact = 9007199254740992;
-
-/// The library prints numbers in a form that this reads to the end.
-template <class Number>
-bool read_number(std::string_view text, Number& number) {
-    const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), number);
-    return error == std::errc() && end == text.data() + text.size();
-}
 
 /// An attribute, as far as it is the format's, or what the element says of itself.
 void add_attribute(json& object, std::string_view name, std::string_view value, value_kind kind) {

@@ -101,9 +101,7 @@ std::optional<double> number_of(std::string_view text) {
     text = trimmed(text);
     if (!text.empty() && text.front() == '+') text.remove_prefix(1);
     double number = 0;
-    const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), number);
-    if (error != std::errc() || end != text.data() + text.size()) return std::nullopt;
-    return number;
+    return read_number(text, number) ? std::optional(number) : std::nullopt;
 }
 
 /// The digits of a number that say something: without zeros at either end and without the exponent.
