@@ -105,14 +105,6 @@ s_counts count(const c_tree& tree, std::size_t depth) {
     return counts;
 }
 
-std::vector<index> children(const c_tree& tree, index node, std::string_view name) {
-    std::vector<index> found;
-    for (index i = node + 1; i < tree.end(node); i = tree.end(i)) {
-        if (tree.name(i) == name) found.push_back(i);
-    }
-    return found;
-}
-
 void print_kind(const s_kind& kind) {
     std::cout << std::setw(9) << kind.count << "  " << std::string(2 * kind.depth, ' ') << printable(kind.name)
               << '\n';
@@ -120,19 +112,19 @@ void print_kind(const s_kind& kind) {
 }
 
 void print_besides(const c_tree& tree, index node, std::string_view name, const char* indent) {
-    for (const index i : children(tree, node, name)) {
+    for (const index i : tree.children(node, name)) {
         std::cout << indent << printable(name) << ": " << record_text(tree, i) << '\n';
     }
 }
 
 void print_palettes(const c_tree& tree) {
-    for (const index palette : children(tree, 0, "Palette")) {
-        const std::vector<index> sets = children(tree, palette, "ColorSet");
+    for (const index palette : tree.children(0, "Palette")) {
+        const std::vector<index> sets = tree.children(palette, "ColorSet");
         std::cout << "\nPalette " << in_quotes(tree.title(palette)) << ": "
                   << counted(sets.size(), "colour set", "colour sets") << '\n';
         print_besides(tree, palette, "Owner", "  ");
         for (const index set : sets) {
-            std::cout << std::setw(9) << children(tree, set, "Color").size() << "  in ColorSet "
+            std::cout << std::setw(9) << tree.children(set, "Color").size() << "  in ColorSet "
                       << in_quotes(tree.title(set)) << '\n';
             print_besides(tree, set, "Owner", "           ");
         }
@@ -141,16 +133,17 @@ void print_palettes(const c_tree& tree) {
 
 /// Standards with their tolerances, measurements with their results; the colours are `list`'s.
 void print_records(const c_tree& tree) {
-    for (const index record : children(tree, 0, "ColorQualityControl")) {
+    for (const index record : tree.children(0, "ColorQualityControl")) {
         std::cout << "\nQuality control" << (tree.title(record).empty() ? "" : " " + in_quotes(tree.title(record)))
                   << '\n';
         print_besides(tree, record, "Tolerance", "  ");
         print_besides(tree, record, "PhysicalSample", "  ");
-        for (const index pair : children(tree, record, "StandardAndMeasurement")) {
+        for (const index pair : tree.children(record, "StandardAndMeasurement")) {
             for (const std::string_view part : {"Standard", "Measurement"}) {
-                for (const index i : children(tree, pair, part)) {
+                for (const index i : tree.children(pair, part)) {
                     const index color = tree.child(i, "Color");
-                    std::cout << "  " << part << ' ' << (color == 0 ? "unknown" : in_quotes(tree.title(color))) << '\n';
+                    std::cout << "  " << part << ' ' << (color == 0 ? "unknown" : in_quotes(tree.title(color)))
+                              << '\n';
                     for (index j = i + 1; j < tree.end(i); j = tree.end(j)) {
                         if (tree.name(j) != "Color") {
                             std::cout << "    " << printable(tree.name(j)) << ": " << record_text(tree, j) << '\n';
@@ -179,10 +172,10 @@ json to_json(const s_kind& kind) {
 
 json palettes_as_json(const c_tree& tree) {
     json palettes = json::array();
-    for (const index palette : children(tree, 0, "Palette")) {
+    for (const index palette : tree.children(0, "Palette")) {
         json sets = json::array();
-        for (const index set : children(tree, palette, "ColorSet")) {
-            sets.push_back({{"name", tree.title(set)}, {"colors", children(tree, set, "Color").size()}});
+        for (const index set : tree.children(palette, "ColorSet")) {
+            sets.push_back({{"name", tree.title(set)}, {"colors", tree.children(set, "Color").size()}});
         }
         palettes.push_back({{"name", tree.title(palette)}, {"sets", std::move(sets)}});
     }
@@ -193,10 +186,10 @@ json palettes_as_json(const c_tree& tree) {
 json records_as_json(const c_tree& tree) {
     json records = json::array();
     const auto takes = [&](index i) { return tree.name(i) != "Color" && tree.name(i) != "StandardAndMeasurement"; };
-    for (const index record : children(tree, 0, "ColorQualityControl")) {
+    for (const index record : tree.children(0, "ColorQualityControl")) {
         json object = typed_json(tree, record, takes);
         json pairs = json::array();
-        for (const index pair : children(tree, record, "StandardAndMeasurement")) {
+        for (const index pair : tree.children(record, "StandardAndMeasurement")) {
             json members = json::object();
             for (index i = pair + 1; i < tree.end(pair); i = tree.end(i)) {
                 if (tree.name(i) != "Standard" && tree.name(i) != "Measurement") continue;

@@ -51,7 +51,7 @@ void c_page::print(const std::string& name) {
     print_heading(k_section_level, "Document", {});
     const index preamble = m_tree.child(0, "Preamble");
     const auto is_header = [this](index child) { return m_tree.name(child) == "Header"; };
-    for (const index header : children(preamble, "Header")) print_fields(header, k_set_level, {});
+    for (const index header : m_tree.children(preamble, "Header")) print_fields(header, k_set_level, {});
     print_fields(preamble, k_set_level, [&](index child) { return !is_header(child); });
     m_out << "</section>\n";
     if (m_tree.child(0, "Color") != 0) {
@@ -60,30 +60,30 @@ void c_page::print(const std::string& name) {
         print_colors(0, k_set_level);
         m_out << "</section>\n";
     }
-    for (const index palette : children(0, "Palette")) print_palette(palette);
-    for (const index record : children(0, "ColorQualityControl")) print_record(record);
+    for (const index palette : m_tree.children(0, "Palette")) print_palette(palette);
+    for (const index record : m_tree.children(0, "ColorQualityControl")) print_record(record);
     m_out << "</main>\n</div>\n</body>\n</html>\n";
 }
 
 void c_page::print_contents() {
     m_out << "<nav aria-labelledby=\"contents\">\n<h2 id=\"contents\">Contents</h2>\n<ul>\n"
           << "<li><a href=\"#document\">Document</a></li>\n";
-    if (const std::size_t count = children(0, "Color").size(); count > 0) {
+    if (const std::size_t count = m_tree.children(0, "Color").size(); count > 0) {
         m_out << "<li><a href=\"#colors\">Colours outside palettes</a> <span class=\"count\">" << count
               << "</span></li>\n";
     }
-    for (const index palette : children(0, "Palette")) {
+    for (const index palette : m_tree.children(0, "Palette")) {
         m_out << "<li>" << link(palette, "Palette <bdi>" + html(m_tree.title(palette)) + "</bdi>");
-        const std::vector<index> sets = children(palette, "ColorSet");
+        const std::vector<index> sets = m_tree.children(palette, "ColorSet");
         if (!sets.empty()) m_out << "\n<ul>\n";
         for (const index set : sets) {
             m_out << "<li>" << link(set, "<bdi>" + html(m_tree.title(set)) + "</bdi>") << " <span class=\"count\">"
-                  << children(set, "Color").size() << "</span></li>\n";
+                  << m_tree.children(set, "Color").size() << "</span></li>\n";
         }
         if (!sets.empty()) m_out << "</ul>\n";
         m_out << "</li>\n";
     }
-    for (const index record : children(0, "ColorQualityControl")) {
+    for (const index record : m_tree.children(0, "ColorQualityControl")) {
         m_out << "<li>" << link(record, "Quality control <bdi>" + html(m_tree.title(record)) + "</bdi>") << "</li>\n";
     }
     m_out << "</ul>\n</nav>\n";
@@ -96,7 +96,7 @@ void c_page::print_palette(index palette) {
         return m_tree.name(child) != "ColorSet" && m_tree.name(child) != "CollectionColorSpaceSpecification";
     });
     print_defaults(palette, k_set_level);
-    for (const index set : children(palette, "ColorSet")) print_set(set);
+    for (const index set : m_tree.children(palette, "ColorSet")) print_set(set);
     m_out << "</section>\n";
 }
 
@@ -125,7 +125,7 @@ void c_page::print_defaults(index collection, unsigned level) {
 }
 
 void c_page::print_colors(index parent, unsigned level) {
-    const std::vector<index> colors = children(parent, "Color");
+    const std::vector<index> colors = m_tree.children(parent, "Color");
     if (colors.empty()) {
         m_out << "<p>No colours.</p>\n";
         return;

@@ -71,7 +71,6 @@ private:
     bool is_flat(index node) const;
     void add_leaves(index node, const s_leaf& place, std::vector<s_leaf>& leaves) const;
     std::string text_of(index node) const;
-    std::vector<index> children(index node, std::string_view name) const;
 
     const c_tree& m_tree;
     std::ostream& m_out;

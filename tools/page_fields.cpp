@@ -35,14 +35,6 @@ void c_page::print_heading(unsigned level, std::string_view kind, std::string_vi
     m_out << "</h" << level << ">\n";
 }
 
-std::vector<c_tree::index> c_page::children(index node, std::string_view name) const {
-    std::vector<index> found;
-    for (index i = node + 1; i < m_tree.end(node); i = m_tree.end(i)) {
-        if (m_tree.name(i) == name) found.push_back(i);
-    }
-    return found;
-}
-
 bool c_page::is_flat(index node) const {
     for (index i = node; i < m_tree.end(node); ++i) {
         const bool is_foreign = m_tree.member(i) == nullptr;

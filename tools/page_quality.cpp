@@ -130,9 +130,9 @@ void c_page::print_record(index record) {
     print_fields(record, k_record_level + 1, [this](index child) {
         return m_tree.name(child) != "StandardAndMeasurement" && m_tree.name(child) != "Tolerance";
     });
-    print_tolerances(children(record, "Tolerance"), "Tolerances of all comparisons");
+    print_tolerances(m_tree.children(record, "Tolerance"), "Tolerances of all comparisons");
     std::size_t number = 0;
-    for (const index pair : children(record, "StandardAndMeasurement"))
+    for (const index pair : m_tree.children(record, "StandardAndMeasurement"))
         print_pair(record, pair, "Comparison " + std::to_string(++number));
     m_out << "</section>\n";
 }
@@ -141,20 +141,20 @@ void c_page::print_pair(index record, index pair, const std::string& title) {
     const index standard = m_tree.child(pair, "Standard");
     m_out << "<section>\n";
     print_heading(k_record_level + 1, title, {});
-    std::vector<index> tolerances = standard == 0 ? std::vector<index>() : children(standard, "Tolerance");
+    std::vector<index> tolerances = standard == 0 ? std::vector<index>() : m_tree.children(standard, "Tolerance");
     const auto is_beside = [this](index child) {
         return m_tree.name(child) != "Standard" && m_tree.name(child) != "Measurement";
     };
     print_fields(pair, k_record_level + 2, is_beside);
     print_tolerances(tolerances, "Tolerances of this comparison");
-    for (const index more : children(record, "Tolerance")) tolerances.push_back(more);
-    const std::vector<index> measurements = children(pair, "Measurement");
+    for (const index more : m_tree.children(record, "Tolerance")) tolerances.push_back(more);
+    const std::vector<index> measurements = m_tree.children(pair, "Measurement");
     for (const index measurement : measurements) print_results(measurement, tolerances);
     m_out << "<div class=\"cards\">\n";
     const auto print_sample = [this](index sample, const std::string& called) {
         m_out << "<section class=\"sample\">\n";
         print_heading(k_record_level + 2, called, {});
-        for (const index color : children(sample, "Color")) print_color(color, k_record_level + 3);
+        for (const index color : m_tree.children(sample, "Color")) print_color(color, k_record_level + 3);
         print_fields(sample, k_record_level + 3, [this](index child) {
             const std::string_view name = m_tree.name(child);
             return name != "Color" && name != "Tolerance" && !name.starts_with(k_function);
@@ -195,7 +195,7 @@ void c_page::print_tolerances(std::span<const index> tolerances, std::string_vie
         const index function = function_of(m_tree, tolerance);
         const std::vector<index> parameters = function == 0 || m_tree.child(function, "ToleranceType") == 0
                                                   ? std::vector<index>()
-                                                  : children(function, "Parameters");
+                                                  : m_tree.children(function, "Parameters");
         const std::string words = function == 0 ? ""
                                   : parameters.empty()
                                       ? function_words(m_tree, function)

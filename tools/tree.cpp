@@ -132,6 +132,14 @@ c_tree::index c_tree::child(index node, std::string_view child_name) const {
     return 0;
 }
 
+std::vector<c_tree::index> c_tree::children(index node, std::string_view child_name) const {
+    std::vector<index> found;
+    for (index i = node + 1; i < end(node); i = end(i)) {
+        if (name(i) == child_name) found.push_back(i);
+    }
+    return found;
+}
+
 std::string_view c_tree::attribute_title(index node) const {
     for (std::size_t i = 0; i < field_count(node); ++i) {
         const field found = get_field(node, i);

@@ -57,6 +57,8 @@ public:
     std::string_view value(index node, std::string_view field_name = {}) const;
     /// The first child of that name, 0 if there is none.
     index child(index node, std::string_view child_name) const;
+    /// All children of that name.
+    std::vector<index> children(index node, std::string_view child_name) const;
     /// What people call this element: the value of its first attribute whose name ends in "Name", or else of its
     /// child `Name`, in an `Axis` of `AxisName`. Empty if there is none.
     std::string_view title(index node) const;
