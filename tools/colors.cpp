@@ -19,8 +19,6 @@ namespace {
 using index = c_tree::index;
 using lmx::value_kind;
 
-constexpr std::string_view k_space_prefix = "ColorSpace";
-constexpr std::string_view k_specification = "ColorSpaceSpecification";
 /// What stands in a colour value beside the value.
 constexpr std::string_view k_besides[] = {"ChangeHistory", "CustomAttribute", "ParentColorSpace"};
 
@@ -145,7 +143,7 @@ std::span<const s_condition> all_conditions() { return k_conditions; }
 
 c_tree::index specification_of(const c_tree& tree, index value) {
     for (index i = value + 1; i < tree.end(value); i = tree.end(i)) {
-        if (tree.name(i).starts_with(k_specification)) return i;
+        if (tree.name(i).starts_with(k_specification_prefix)) return i;
     }
     return 0;
 }
@@ -207,7 +205,7 @@ std::vector<index> parts_of(const c_tree& tree, index value) {
     for (index i = value + 1; i < tree.end(value); i = tree.end(i)) {
         const std::string_view name = tree.name(i);
         const bool is_beside = std::ranges::find(k_besides, name) != std::end(k_besides);
-        if (!is_beside && !name.starts_with(k_specification)) parts.push_back(i);
+        if (!is_beside && !name.starts_with(k_specification_prefix)) parts.push_back(i);
     }
     return parts;
 }
@@ -258,7 +256,7 @@ s_conditions conditions_of(const c_tree& tree, const s_color& color, index value
     }
     for (const index collection : {color.set, color.palette}) {
         if (collection == 0 || !conditions.source.empty()) continue;
-        const index defaults = tree.child(collection, "CollectionColorSpaceSpecification");
+        const index defaults = tree.child(collection, k_defaults);
         const index specification = defaults == 0 ? 0 : tree.child(defaults, tree.name(own));
         if (specification == 0 || tree.is_nil(specification)) continue;
         conditions = conditions_in(tree, specification);

@@ -15,6 +15,12 @@
 
 namespace vyr_tool {
 
+/// How the names of all kinds of value begin, and of the elements that hold their conditions.
+inline constexpr std::string_view k_space_prefix = "ColorSpace";
+inline constexpr std::string_view k_specification_prefix = "ColorSpaceSpecification";
+/// In a palette or a colour set: the conditions of values that state none of their own.
+inline constexpr std::string_view k_defaults = "CollectionColorSpaceSpecification";
+
 /// Where a colour stands.
 struct s_color {
     c_tree::index node;

@@ -30,10 +30,8 @@ namespace {
 using com_vyrgraph_v2::ColorType;
 using lmx::s_class;
 
-constexpr char k_space_prefix[] = "ColorSpace";
 /// What a row without a space may hold, each where all that it demands is there.
 constexpr std::string_view k_usual_spaces[] = {"CIELab", "CMYK", "SRGB", "Spectral"};
-constexpr std::string_view k_specification = "ColorSpaceSpecification";
 /// What the format demands and hardly any table says.
 constexpr std::pair<std::string_view, const char*> k_usual[] = {{"ColorDepth", "ColorDepth_Infinite"}};
 /// Columns that say where a value came from and are nothing that a new document could hold.
@@ -47,6 +45,10 @@ std::string now() {
     text.resize(std::strftime(text.data(), text.size(), "%Y-%m-%dT%H:%M:%SZ", &utc));
     return text;
 }
+
+/// "ColorSpaceCIELab", and "/ColorSpace/" ahead of its place among a colour's values.
+std::string space_name(std::string_view space) { return std::string(k_space_prefix).append(space); }
+std::string values_pointer() { return std::string("/").append(k_space_prefix).append("/"); }
 
 /// Where a column's cells go.
 struct s_column {
@@ -218,7 +220,7 @@ private:
         const std::string& space = cell(row, csv_header::space);
         std::vector<std::string_view> spaces;
         if (!space.empty()) {
-            if (c_members::of(ColorType::k_class).element(k_space_prefix + space) == nullptr) {
+            if (c_members::of(ColorType::k_class).element(space_name(space)) == nullptr) {
                 return complain_of(
                     line, cell_name(m_headers.at(csv_header::space)) + in_quotes(space) + " is no kind of value");
             }
@@ -249,7 +251,7 @@ private:
     }
 
     static const s_class& class_of(std::string_view space) {
-        return *c_members::of(ColorType::k_class).element(std::string(k_space_prefix).append(space))->item->type;
+        return *c_members::of(ColorType::k_class).element(space_name(space))->item->type;
     }
 
     static const s_member* points_of(const s_class& type) {
@@ -314,7 +316,7 @@ private:
         const c_members& members = c_members::of(type);
         const s_member* specification = nullptr;
         for (const s_member& member : members.all()) {
-            if (member.key.starts_with(k_specification)) specification = &member;
+            if (member.key.starts_with(k_specification_prefix)) specification = &member;
         }
         s_origin origin{row, {}, {}};
         json value = json::object();
@@ -366,10 +368,9 @@ private:
         }
         json& colors = collection_of(row, &origin.pointer);
         json& color = color_of(row, colors, &origin.pointer);
-        json& values = color[k_space_prefix];
-        values.push_back({{std::string(k_space_prefix).append(space), std::move(value)}});
-        origin.pointer += std::string("/") + k_space_prefix + "/" + std::to_string(values.size() - 1) + "/" +
-                          k_space_prefix + std::string(space);
+        json& values = color[std::string(k_space_prefix)];
+        values.push_back({{space_name(space), std::move(value)}});
+        origin.pointer += values_pointer() + std::to_string(values.size() - 1) + "/" + space_name(space);
         m_origins.push_back(std::move(origin));
     }
 
@@ -473,9 +474,8 @@ private:
         const json& value = object.at(json::json_pointer(origin.pointer));
         mark(value, origin.row, cells);
         // The colour, its set and its palette, as far as no row before has made them.
-        for (std::string above =
-                 origin.pointer.substr(0, origin.pointer.rfind(std::string("/") + k_space_prefix + "/"));
-             !above.empty(); above.erase(above.rfind('/')), above.erase(above.rfind('/'))) {
+        for (std::string above = origin.pointer.substr(0, origin.pointer.rfind(values_pointer())); !above.empty();
+             above.erase(above.rfind('/')), above.erase(above.rfind('/'))) {
             cells.emplace(&object.at(json::json_pointer(above)), std::pair(origin.row, std::size_t{0}));
         }
         for (const auto& [pointer, column] : origin.parts) {

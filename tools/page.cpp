@@ -50,9 +50,8 @@ void c_page::print(const std::string& name) {
     m_out << "<main id=\"content\" tabindex=\"-1\">\n" << k_note << "<section id=\"document\">\n";
     print_heading(k_section_level, "Document", {});
     const index preamble = m_tree.child(0, "Preamble");
-    const auto is_header = [this](index child) { return m_tree.name(child) == "Header"; };
     for (const index header : m_tree.children(preamble, "Header")) print_fields(header, k_set_level, {});
-    print_fields(preamble, k_set_level, [&](index child) { return !is_header(child); });
+    print_fields(preamble, k_set_level, [this](index child) { return m_tree.name(child) != "Header"; });
     m_out << "</section>\n";
     if (m_tree.child(0, "Color") != 0) {
         m_out << "<section id=\"colors\">\n";
@@ -93,7 +92,7 @@ void c_page::print_palette(index palette) {
     m_out << "<section id=\"n" << palette << "\">\n";
     print_heading(k_section_level, "Palette", m_tree.title(palette));
     print_fields(palette, k_set_level, [this](index child) {
-        return m_tree.name(child) != "ColorSet" && m_tree.name(child) != "CollectionColorSpaceSpecification";
+        return m_tree.name(child) != "ColorSet" && m_tree.name(child) != k_defaults;
     });
     print_defaults(palette, k_set_level);
     for (const index set : m_tree.children(palette, "ColorSet")) print_set(set);
@@ -103,9 +102,8 @@ void c_page::print_palette(index palette) {
 void c_page::print_set(index set) {
     m_out << "<section id=\"n" << set << "\">\n";
     print_heading(k_set_level, "Colour set", m_tree.title(set));
-    print_fields(set, k_set_level + 1, [this](index child) {
-        return m_tree.name(child) != "Color" && m_tree.name(child) != "CollectionColorSpaceSpecification";
-    });
+    print_fields(set, k_set_level + 1,
+                 [this](index child) { return m_tree.name(child) != "Color" && m_tree.name(child) != k_defaults; });
     print_defaults(set, k_set_level + 1);
     print_colors(set, k_set_level + 1);
     m_out << "</section>\n";
@@ -113,13 +111,13 @@ void c_page::print_set(index set) {
 
 /// The conditions of values that state none of their own.
 void c_page::print_defaults(index collection, unsigned level) {
-    const index defaults = m_tree.child(collection, "CollectionColorSpaceSpecification");
+    const index defaults = m_tree.child(collection, k_defaults);
     if (defaults == 0 || m_tree.is_leaf(defaults)) return;
-    constexpr std::string_view k_prefix = "ColorSpaceSpecification";
     for (index i = defaults + 1; i < m_tree.end(defaults); i = m_tree.end(i)) {
         const std::string words = m_tree.is_nil(i) ? "" : conditions_in(m_tree, i).in_words();
-        m_out << "<dl class=\"fields\">\n<dt>Default for " << words_of(m_tree.name(i).substr(k_prefix.size()))
-              << "</dt><dd>" << (words.empty() ? "unknown" : html(words)) << "</dd>\n</dl>\n";
+        m_out << "<dl class=\"fields\">\n<dt>Default for "
+              << words_of(m_tree.name(i).substr(k_specification_prefix.size())) << "</dt><dd>"
+              << (words.empty() ? "unknown" : html(words)) << "</dd>\n</dl>\n";
         print_besides(i, level);
     }
 }

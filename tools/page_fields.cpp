@@ -39,7 +39,7 @@ bool c_page::is_flat(index node) const {
     for (index i = node; i < m_tree.end(node); ++i) {
         const bool is_foreign = m_tree.member(i) == nullptr;
         if (is_foreign || m_tree.type(i) == &com_vyrgraph_v2::ColorType::k_class ||
-            m_tree.name(i).starts_with("ColorSpace"))
+            m_tree.name(i).starts_with(k_space_prefix))
             return false;
     }
     return true;
@@ -177,7 +177,7 @@ void c_page::print_blocks(std::span<const index> nodes, unsigned level) {
 void c_page::print_element(index node, unsigned level) {
     if (m_tree.type(node) == &com_vyrgraph_v2::ColorType::k_class) return print_color(node, level);
     const s_color* const color = color_around(node);
-    if (color != nullptr && m_tree.name(node).starts_with("ColorSpace")) {
+    if (color != nullptr && m_tree.name(node).starts_with(k_space_prefix)) {
         const index values[] = {node};
         return print_values(*color, values, level);
     }
