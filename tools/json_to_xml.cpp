@@ -19,6 +19,8 @@ namespace {
 using lmx::s_class;
 using lmx::value_kind;
 
+constexpr char k_boolean_expected[] = "true or false is expected";
+
 /// With references for all that layout or an attribute's value would change, so that a value stays on its line.
 std::string escaped(std::string_view text) {
     std::string out;
@@ -114,8 +116,7 @@ void c_json_to_xml::print_entries(std::size_t number) {
     const auto node = m_entries.extract(number);
     s_entries& entries = node.mapped();
     m_xml.append(std::move(entries.text));
-    std::string above;
-    for (const std::string& step : m_path) above = join(above, step);
+    const std::string above = path();
     for (s_json_fault& found : entries.faults) {
         found.path = found.path.empty() ? above : join(above, found.path);
         m_faults.push_back(std::move(found));
@@ -129,10 +130,14 @@ void c_json_to_xml::print_part(const s_part& part) {
     m_path.pop_back();
 }
 
-void c_json_to_xml::fault(const json& place, const std::string& text) {
+std::string c_json_to_xml::path() const {
     std::string path;
     for (const std::string& step : m_path) path = join(path, step);
-    m_faults.push_back({path, text, m_form.has_places ? &place : nullptr});
+    return path;
+}
+
+void c_json_to_xml::fault(const json& place, const std::string& text) {
+    m_faults.push_back({path(), text, m_form.has_places ? &place : nullptr});
 }
 
 void c_json_to_xml::end_line(const json& place) {
@@ -142,24 +147,17 @@ void c_json_to_xml::end_line(const json& place) {
 
 /// The text of a simple value, checked for its JSON kind alone: all else is the load's business.
 std::string c_json_to_xml::text_of(const json& value, value_kind kind) {
+    const bool is_number = is_number_kind(kind);
+    const bool is_boolean = kind == value_kind::boolean;
     if (value.is_string()) {
         const std::string& text = value.get_ref<const std::string&>();
-        const bool is_odd_number = text == "NaN" || text == "INF" || text == "-INF";
-        if (is_number_kind(kind) && !m_form.has_texts_only && !(kind == value_kind::number && is_odd_number))
-            fault(value, "a number is expected, not a text");
-        if (kind == value_kind::boolean && !m_form.has_texts_only) fault(value, "true or false is expected");
+        const bool is_odd_number = kind == value_kind::number && (text == "NaN" || text == "INF" || text == "-INF");
+        if (is_number && !is_odd_number && !m_form.has_texts_only) fault(value, "a number is expected, not a text");
+        if (is_boolean && !m_form.has_texts_only) fault(value, k_boolean_expected);
         return text;
     }
-    const char* expected = nullptr;
-    if (is_number_kind(kind)) {
-        if (!value.is_number()) expected = "a number is expected";
-    } else if (kind == value_kind::boolean) {
-        if (!value.is_boolean()) expected = "true or false is expected";
-    } else {
-        expected = "a text is expected";
-    }
-    if (expected == nullptr) return value.dump();
-    fault(value, expected);
+    if ((is_number && value.is_number()) || (is_boolean && value.is_boolean())) return value.dump();
+    fault(value, is_number ? "a number is expected" : is_boolean ? k_boolean_expected : "a text is expected");
     return {};
 }
 
@@ -201,11 +199,7 @@ std::vector<c_json_to_xml::s_part> c_json_to_xml::parts_of(const json& object, c
             fault(object, "there is no " + in_quotes(key) + " here; " + names_of(members));
             continue;
         }
-        if (!member->is_list()) {
-            parts.push_back({member, &value, 0});
-            continue;
-        }
-        if (value.is_binary()) {
+        if (!member->is_list() || value.is_binary()) {
             parts.push_back({member, &value, 0});
             continue;
         }
@@ -270,9 +264,12 @@ void c_json_to_xml::print_object(const json& given, const s_class& declared, con
     if (const auto found = object->find(std::string(k_type_key)); found != object->end()) {
         const s_class* other = nullptr;
         if (found->is_string() && place != nullptr) other = specialised(*place, found->get_ref<const std::string&>());
-        if (other == nullptr) fault(*found, "no type that may stand here");
-        if (other != nullptr) type = other;
-        if (other != nullptr) m_xml.append(" xsi:type=\"Vyr:" + found->get<std::string>() + '"');
+        if (other == nullptr) {
+            fault(*found, "no type that may stand here");
+        } else {
+            type = other;
+            m_xml.append(" xsi:type=\"Vyr:" + found->get<std::string>() + '"');
+        }
     }
     const auto nil = object->find(std::string(k_nil_key));
     const bool is_nil = nil != object->end() && *nil == true;

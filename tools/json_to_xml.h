@@ -66,6 +66,8 @@ private:
         std::size_t number;  ///< in an array, from 1; 0: in none, or alone in it
     };
 
+    /// Of what is being printed, from where printing began.
+    std::string path() const;
     void fault(const json& place, const std::string& text);
     void end_line(const json& place);
     std::string text_of(const json& value, lmx::value_kind kind);
