@@ -20,6 +20,8 @@
 #include <unordered_set>
 #include <utility>
 
+#include "lmx/ns_map.h"
+#include "lmx/reader/cracked_name.h"
 #include "schema/Vyr.h"
 #include "tools/files.h"
 #include "tools/members.h"
@@ -46,6 +48,7 @@ constexpr s_warning_row k_rows[k_warning_count] = {
 };
 constexpr std::size_t k_first_of_convert = static_cast<std::size_t>(warning::comments);
 
+constexpr std::string_view k_uri = "http://vyrgraph.com/v2";
 /// The digits of a number that are written.
 constexpr int k_digits = 14;
 constexpr std::size_t k_longest_value = 200;
@@ -82,11 +85,6 @@ xmlSchemaPtr get_schema() {
         xmlSchemaFreeParserCtxt(parser);
     });
     return schema;
-}
-
-std::string_view local_part(std::string_view name) {
-    const std::size_t colon = name.find(':');
-    return colon == name.npos ? name : name.substr(colon + 1);
 }
 
 // Values.
@@ -327,7 +325,7 @@ private:
         std::string path;
         // The document's own element is left out where anything stands in it.
         for (std::size_t i = m_open.size() > 1 ? 1 : 0; i < m_open.size(); ++i) {
-            path += (path.empty() ? "" : " / ") + m_open[i].step;
+            path = join(path, m_open[i].step);
         }
         return path;
     }
@@ -391,8 +389,8 @@ private:
         // Behind what isn't XML, everything looks wrong.
         if (error->level < XML_ERR_ERROR || !pass.m_is_well_formed) return;
         std::string text(trimmed(error->message == nullptr ? "" : error->message));
-        constexpr std::string_view k_namespace = "{http://vyrgraph.com/v2}";
-        for (std::size_t at; (at = text.find(k_namespace)) != text.npos;) text.erase(at, k_namespace.size());
+        const std::string qualifier = "{" + std::string(k_uri) + "}";
+        for (std::size_t at; (at = text.find(qualifier)) != text.npos;) text.erase(at, qualifier.size());
         pass.add_here(warning::schema, "the schema refuses this: " + text);
     }
 
@@ -464,7 +462,7 @@ void c_warnings::c_pass::look_at_attribute(std::string_view name, std::string_vi
 void c_warnings::c_pass::start(std::string_view name, std::string_view uri, const xmlChar** attributes, int count) {
     const lmx::s_item* row = nullptr;
     const lmx::s_class* type = nullptr;
-    if (uri == "http://vyrgraph.com/v2") {
+    if (uri == k_uri) {
         if (m_open.empty()) type = name == "Vyr" ? &com_vyrgraph_v2::Vyr::k_class : nullptr;
         const lmx::s_class* const outer = m_open.empty() ? nullptr : m_open.back().type;
         const s_member* const member = outer == nullptr ? nullptr : c_members::of(*outer).element(name);
@@ -480,11 +478,11 @@ void c_warnings::c_pass::start(std::string_view name, std::string_view uri, cons
     };
     bool has_hint = false;
     for (int i = 0; i < count; ++i) {
-        if (view(attribute(i)[2]) != "http://www.w3.org/2001/XMLSchema-instance") continue;
+        if (view(attribute(i)[2]) != lmx::k_xsi_uri) continue;
         const std::string_view xsi_name = view(attribute(i)[0]);
         has_hint = has_hint || xsi_name == "schemaLocation" || xsi_name == "noNamespaceSchemaLocation";
         if (xsi_name != "type" || row == nullptr) continue;
-        if (const lmx::s_class* const other = specialised(*row, local_part(value_of(i)))) type = other;
+        if (const lmx::s_class* const other = specialised(*row, lmx::local_part(value_of(i)))) type = other;
     }
     s_element& element = m_open.emplace_back();
     s_element* const parent = m_open.size() > 1 ? &m_open[m_open.size() - 2] : nullptr;
