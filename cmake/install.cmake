@@ -1,6 +1,7 @@
 # What `cmake --install` puts where, and how other projects find it: find_package(vyr) and vyr.pc. Each line names its
 # component: `runtime` is for running programs, `development` for building them, `tool` is the command, `documentation`
-# the guides, `csharp` (in csharp/) the assembly, `python` and `python_module` (in python/) the package. A new file is added to the list of its folder.
+# the guides, `csharp` (in csharp/) the assembly, `python` and `python_module` (in python/) the package. A new file is
+# added to the list of its folder.
 
 include(CMakePackageConfigHelpers)
 

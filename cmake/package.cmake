@@ -1,5 +1,6 @@
 # The Debian packages that cpack makes: libvyr<major>.<minor>, libvyr-dev, vyr-tools and, where there is what they need,
-# libvyr-cil for C# and python3-vyr, each of one group of the components that cmake/install.cmake fills. scripts/package.sh builds them.
+# libvyr-cil for C# and python3-vyr, each of one group of the components that cmake/install.cmake fills.
+# scripts/package.sh builds them.
 
 set(library_package libvyr${PROJECT_VERSION_MAJOR}.${PROJECT_VERSION_MINOR})
 set(same_version "${library_package} (= ${PROJECT_VERSION})")

@@ -2,8 +2,8 @@
 # Copyright 2026 The Vyr Authors
 # SPDX-License-Identifier: Apache-2.0
 #
-# Makes the Debian packages libvyr*, libvyr-dev, vyr-tools and, where there is what they need, libvyr-cil and python3-vyr in
-# build/package.
+# Makes the Debian packages libvyr*, libvyr-dev, vyr-tools and, where there is what they need, libvyr-cil and python3-vyr
+# in build/package.
 
 set -euo pipefail
 cd "$(dirname "$0")/.."
