@@ -22,9 +22,9 @@ struct s_read_all {
 s_read_all read_all(const std::string& document) {
     s_scanner scanner(document);
     s_read_all result;
-    std::string text;
+    const std::string& text = scanner.text;
     for (;;) {
-        const int event = scanner.xml.get_element_name(&scanner.scope, &text);
+        const int event = scanner.element();
         if (event == ELXP_END_OF_INPUT || event == ELXP_ERROR) {
             result.reports = scanner.reports.m_log;
             result.line = scanner.xml.get_line_num();
@@ -32,8 +32,8 @@ s_read_all read_all(const std::string& document) {
             return result;
         }
         result.content += event == ELXP_TEXT ? text : (event == ELXP_NAME ? "<" : "</") + text + ">";
-        while (event == ELXP_NAME && scanner.xml.get_attribute_name(&text, false) == ELXP_NAME) {
-            const bool is_read = scanner.xml.get_attribute_value(&text, ELMX_WS_PRESERVE);
+        while (event == ELXP_NAME && scanner.attribute() == ELXP_NAME) {
+            const bool is_read = scanner.attribute_value();
             result.attributes += text + (is_read ? ";" : "!");
         }
     }
@@ -110,26 +110,21 @@ TEST(Entities, MayBeReplacedWhileTheyAreRead) {
     EXPECT_EQ(read_all(document).content, "<a>kept " + std::string(200, 'x') + "</a>");
     EXPECT_EQ(read_all(document).reports, "");
 
-    const std::string text = "<a>&e;</a>";
-    s_scanner scanner(text);
+    s_scanner scanner("<a>&e;</a>");
     scanner.xml.add_general_entity("e", std::string(300, 'y') + "<b/>");
-    std::string name;
-    scanner.xml.get_element_name(&scanner.scope, &name);
-    scanner.xml.move_to_start_tag_end(nullptr);
-    EXPECT_EQ(scanner.xml.get_element_name(&scanner.scope, &name), ELXP_TEXT);
+    scanner.enter();
+    EXPECT_EQ(scanner.element(), ELXP_TEXT);
     EXPECT_EQ(scanner.xml.get_entity_stack_depth(), 1U);
     scanner.xml.add_general_entity("e", "new");
     scanner.xml.rewind();  // leaves what is open
-    EXPECT_EQ(scanner.xml.get_element_name(&scanner.scope, &name), ELXP_NAME);
-    EXPECT_EQ(name, "b");
+    EXPECT_TRUE(scanner.element() == ELXP_NAME && scanner.text == "b");
     const char* value = nullptr;
     EXPECT_FALSE(scanner.xml.get_general_entity("e", &value));
 }
 
 TEST(Entities, OfACallerAreToldApartByTheirAddress) {
-    const std::string text = "<a>";
     const std::string borrowed = "xy";
-    s_scanner scanner(text);
+    s_scanner scanner("<a>");
     scanner.xml.add_general_entity("e", "12");
     const char* own = nullptr;
     ASSERT_TRUE(scanner.xml.get_general_entity("e", &own));
@@ -152,37 +147,27 @@ TEST(Entities, OfACallerAreToldApartByTheirAddress) {
     EXPECT_FALSE(scanner.xml.set_input_entity_value(borrowed.c_str()));
     EXPECT_EQ(scanner.reports.m_log, "0/9@1:Recursive entity definition for: xy;");
 
-    const std::string reference = "<a>&e;</a>";
     for (const bool is_own_first : {true, false}) {
-        s_scanner second(reference);
+        s_scanner second("<a>&e;</a>");
         second.xml.add_general_entity("e", "&e;");
         second.xml.get_general_entity("e", &own);
-        std::string name;
-        second.xml.get_element_name(&second.scope, &name);
-        second.xml.move_to_start_tag_end(nullptr);
+        second.enter();
         EXPECT_TRUE(is_own_first || second.xml.set_input_entity_value(own));
-        second.xml.get_element_value(&name, ELMX_WS_PRESERVE, true);
+        second.value();
         EXPECT_EQ(second.reports.m_log, "0/9@1:Recursive entity definition for: &e;;");
         EXPECT_EQ(second.xml.get_entity_stack_depth(), 1U);
     }
 }
 
 TEST(Entities, HoldAnyByte) {
-    const std::string value(
-        "1\xFF\0\xC3\xA9"
-        "2",
-        6);
-    const std::string document = "<a b='&e;'>&e;</a>";
-    s_scanner scanner(document);
+    const std::string value("1\xFF\0\xC3\xA9z", 6);
+    s_scanner scanner("<a b='&e;'>&e;</a>");
     scanner.xml.add_general_entity("e", value);
-    std::string text;
-    scanner.xml.get_element_name(&scanner.scope, &text);
-    scanner.xml.get_attribute_name(&text, false);
-    EXPECT_TRUE(scanner.xml.get_attribute_value(&text, ELMX_WS_COLLAPSE));
-    EXPECT_EQ(text, value);
+    scanner.element();
+    scanner.attribute();
+    EXPECT_TRUE(scanner.attribute_value(ELMX_WS_COLLAPSE) && scanner.text == value);
     scanner.xml.move_to_start_tag_end(nullptr);
-    EXPECT_TRUE(scanner.xml.get_element_value(&text, ELMX_WS_COLLAPSE, true));
-    EXPECT_EQ(text, value);
+    EXPECT_TRUE(scanner.value(ELMX_WS_COLLAPSE) && scanner.text == value);
     EXPECT_TRUE(scanner.xml.is_element_end_tag("a"));
     // A byte over 127 of an entity's text is no character of a name; in the document it is.
     EXPECT_EQ(read_all("<!DOCTYPE a [<!ENTITY e '<\xC3\xA9/>'>]><a>&e;</a>").content, "<a>!");

@@ -36,20 +36,12 @@ constexpr std::size_t k_levels = 1000000;
 
 TEST_F(Hostile, DeepContentIsHandledWithoutRecursion) {
     const std::string document = repeat("<a>", k_levels) + repeat("</a>", k_levels);
-    {
-        s_scanner scanner(document);
-        std::string text;
-        scanner.xml.get_element_name(&scanner.scope, &text);
-        EXPECT_TRUE(scanner.xml.skip_rest_of_element("a"));
-    }
-    {
-        s_scanner scanner(document);
-        std::string text;
-        std::string xml;
-        scanner.xml.get_element_name(&scanner.scope, &text);
-        EXPECT_TRUE(scanner.xml.get_any_element("a", &xml, ELMX_WS_PRESERVE, true));
-        EXPECT_TRUE(xml == document);
-    }
+    s_scanner skipped(document);
+    skipped.element();
+    EXPECT_TRUE(skipped.xml.skip_rest_of_element("a"));
+    s_scanner copied(document);
+    copied.element();
+    EXPECT_TRUE(copied.any("a") && copied.text == document);
     c_xml_reader_memory reader(document.data(), document.size());
     EXPECT_EQ(has_must_understand(reader, "u", "must", bool_must_understand), ELMX_MUST_UNDERSTAND_NO);
     elmx_error error = ELMX_OK;
@@ -96,14 +88,11 @@ TEST_F(Hostile, ManyEntitiesEachInsideTheNext) {
     const std::string last = "&e" + std::to_string(levels - 1) + ";";
     document += "]><a b='" + last + "'>" + last + "</a>";
     s_scanner scanner(document);
-    std::string text;
-    EXPECT_EQ(scanner.xml.get_element_name(&scanner.scope, &text), ELXP_NAME);
-    scanner.xml.get_attribute_name(&text, false);
-    EXPECT_TRUE(scanner.xml.get_attribute_value(&text, ELMX_WS_COLLAPSE));
-    EXPECT_EQ(text, "x");
+    EXPECT_EQ(scanner.element(), ELXP_NAME);
+    scanner.attribute();
+    EXPECT_TRUE(scanner.attribute_value(ELMX_WS_COLLAPSE) && scanner.text == "x");
     scanner.xml.move_to_start_tag_end(nullptr);
-    EXPECT_TRUE(scanner.xml.get_element_value(&text, ELMX_WS_COLLAPSE, true));
-    EXPECT_EQ(text, "x");
+    EXPECT_TRUE(scanner.value(ELMX_WS_COLLAPSE) && scanner.text == "x");
     EXPECT_EQ(scanner.reports.m_log, "");
 }
 
@@ -126,33 +115,25 @@ TEST_F(Hostile, LongValuesNamesAndDigits) {
     constexpr std::size_t size = 50000000;
     const std::string run(size, 'x');
     for (const elmx_whitespace mode : {ELMX_WS_PRESERVE, ELMX_WS_COLLAPSE}) {
-        const std::string document = "<a b='" + run + "'>" + run + "</a>";
-        s_scanner scanner(document);
-        std::string text;
-        scanner.xml.get_element_name(&scanner.scope, &text);
-        scanner.xml.get_attribute_name(&text, false);
-        EXPECT_TRUE(scanner.xml.get_attribute_value(&text, mode));
-        EXPECT_EQ(text.size(), size);
+        s_scanner scanner("<a b='" + run + "'>" + run + "</a>");
+        scanner.element();
+        scanner.attribute();
+        EXPECT_TRUE(scanner.attribute_value(mode) && scanner.text.size() == size);
         scanner.xml.move_to_start_tag_end(nullptr);
-        EXPECT_TRUE(scanner.xml.get_element_value(&text, mode, true));
-        EXPECT_EQ(text.size(), size);
+        EXPECT_TRUE(scanner.value(mode) && scanner.text.size() == size);
     }
     for (const std::string& piece : {std::string("&#x") + std::string(5000000, 'f') + ";",
                                      "&#" + std::string(5000000, '9') + ";", '&' + std::string(5000000, 'n') + ';'}) {
-        const std::string document = "<a>" + piece + "</a>";
-        s_scanner scanner(document);
-        std::string text;
-        scanner.xml.get_element_name(&scanner.scope, &text);
-        scanner.xml.move_to_start_tag_end(nullptr);
-        EXPECT_FALSE(scanner.xml.get_element_value(&text, ELMX_WS_PRESERVE, true));
+        s_scanner scanner("<a>" + piece + "</a>");
+        scanner.enter();
+        EXPECT_FALSE(scanner.value());
     }
     for (const std::string& document : {"<!--" + repeat("--", 5000000), "<![CDATA[" + repeat("]>", 5000000),
                                         "<?" + repeat("?", 10000000), repeat("\r\n", 5000000), repeat("<", 1000000),
                                         "<a b='" + repeat("\r\xC2\x85", 3000000), repeat("&#;", 1000000)}) {
         s_scanner scanner(document);
-        std::string text;
         std::size_t calls = 0;
-        while (scanner.xml.get_element_name(&scanner.scope, &text) != ELXP_END_OF_INPUT) ++calls;
+        while (scanner.element() != ELXP_END_OF_INPUT) ++calls;
         EXPECT_LE(calls, document.size());
         EXPECT_TRUE(scanner.xml.at_end_of_input());
     }

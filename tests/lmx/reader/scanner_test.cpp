@@ -17,24 +17,24 @@ using namespace lmx_test;
 /// Scans up to the end of input or the first error: `<a b=v >`, `'text'`, `</a>`, `$` for the end, `!` for an error.
 std::string scan(s_scanner& scanner) {
     std::string trace;
-    std::string name;
-    std::string value;
+    const std::string& text = scanner.text;
     for (;;) {
-        switch (scanner.xml.get_element_name(&scanner.scope, &name)) {
+        switch (scanner.element()) {
             case ELXP_END_OF_INPUT:
                 return trace + '$';
             case ELXP_TEXT:
-                trace += '\'' + name + '\'';
+                trace += '\'' + text + '\'';
                 break;
             case ELXP_END_TAG:
-                trace += "</" + name + '>';
+                trace += "</" + text + '>';
                 break;
             case ELXP_NAME: {
-                trace += '<' + name;
-                int event = scanner.xml.get_attribute_name(&name, false);
-                for (; event == ELXP_NAME; event = scanner.xml.get_attribute_name(&name, false)) {
-                    const bool is_read = scanner.xml.get_attribute_value(&value, ELMX_WS_PRESERVE);
-                    trace += ' ' + name + '=' + value + (is_read ? "" : "?");
+                trace += '<' + text;
+                int event = scanner.attribute();
+                for (; event == ELXP_NAME; event = scanner.attribute()) {
+                    trace += ' ' + text + '=';
+                    const bool is_read = scanner.attribute_value();
+                    trace += text + (is_read ? "" : "?");
                 }
                 if (event == ELXP_ERROR) return trace + '!';
                 trace += event == ELXP_END_TAG ? "/>" : ">";
@@ -54,10 +54,9 @@ struct s_scan_case {
 
 void check(const std::vector<s_scan_case>& cases) {
     for (const s_scan_case& row : cases) {
-        const std::string document = row.document;
-        s_scanner scanner(document);
-        EXPECT_EQ(scan(scanner), row.trace) << document;
-        EXPECT_EQ(scanner.reports.m_log, row.reports) << document;
+        s_scanner scanner(row.document);
+        EXPECT_EQ(scan(scanner), row.trace) << row.document;
+        EXPECT_EQ(scanner.reports.m_log, row.reports) << row.document;
     }
 }
 
@@ -111,10 +110,9 @@ TEST(Scanning, RefusesBrokenMarkup) {
     });
     // The scan goes on behind the tag that was refused.
     for (const char* const document : {"<1 '>' ><b/>", "<!X '>' ><b/>", "<!DOCX '>' ><b/>", "<!-x><b/>"}) {
-        const std::string text = document;
-        s_scanner scanner(text);
-        EXPECT_EQ(scan(scanner), "!") << text;
-        EXPECT_EQ(scan(scanner), "<b/>$") << text;
+        s_scanner scanner(document);
+        EXPECT_EQ(scan(scanner), "!") << document;
+        EXPECT_EQ(scan(scanner), "<b/>$") << document;
     }
 }
 
@@ -162,8 +160,7 @@ TEST(Scanning, ExpandsCharacterReferences) {
         {"<a b='1&u;2' c='3'/>", "<a b=1&u;? c=3/>$", ""},
         {"<a b='1&u' c='3&' d='&;'/>", "<a b=1&u? c=3&? d=&;?/>$", ""},
     });
-    const std::string document = "<a b='x&#0;y'>x&#0;y</a>";
-    s_scanner scanner(document);
+    s_scanner scanner("<a b='x&#0;y'>x&#0;y</a>");
     const std::string with_null("x\0y", 3);
     EXPECT_EQ(scan(scanner), "<a b=" + with_null + ">'" + with_null + "'</a>$");
 }
@@ -185,9 +182,8 @@ TEST(Scanning, CountsTheLinesOfTags) {
 
 std::string value_of(const std::string& document, elmx_whitespace mode, bool expand = true) {
     s_scanner scanner(document);
+    scanner.enter();
     std::string value;
-    scanner.xml.get_element_name(&scanner.scope, &value);
-    scanner.xml.move_to_start_tag_end(nullptr);
     const bool is_read = scanner.xml.get_element_value(&value, mode, expand);
     if (is_read) value += scanner.xml.is_element_end_tag("a") ? "|" : "+";
     return value + (is_read ? "" : "!") + scanner.reports.m_log;
@@ -242,65 +238,57 @@ TEST(Values, EndAtTheNextTag) {
 }
 
 TEST(Attributes, WaitForTheirValueOnceTheyAreNamed) {
-    const std::string document = "<a b='1&u;2&#65;' c='3' d='4'>";
-    s_scanner scanner(document);
-    std::string text;
-    EXPECT_EQ(scanner.xml.get_element_name(&scanner.scope, &text), ELXP_NAME);
-    EXPECT_FALSE(scanner.xml.get_attribute_value(&text, ELMX_WS_PRESERVE));
+    s_scanner scanner("<a b='1&u;2&#65;' c='3' d='4'>");
+    EXPECT_EQ(scanner.element(), ELXP_NAME);
+    EXPECT_FALSE(scanner.attribute_value());
     scanner.xml.skip_attribute_value();
-    EXPECT_EQ(scanner.xml.get_attribute_name(&text, false), ELXP_NAME);
-    EXPECT_EQ(text, "b");
-    EXPECT_FALSE(scanner.xml.get_attribute_value(&text, ELMX_WS_PRESERVE));
-    EXPECT_EQ(text, "1&u;");
+    EXPECT_TRUE(scanner.attribute() == ELXP_NAME && scanner.text == "b");
+    EXPECT_FALSE(scanner.attribute_value());
+    EXPECT_EQ(scanner.text, "1&u;");
     scanner.xml.skip_attribute_value();
-    EXPECT_EQ(scanner.xml.get_attribute_name(&text, false), ELXP_NAME);
-    EXPECT_EQ(text, "c");
-    EXPECT_EQ(scanner.xml.get_attribute_name(&text, false), ELXP_NAME);
-    EXPECT_EQ(text, "d");
-    EXPECT_TRUE(scanner.xml.get_attribute_value(&text, ELMX_WS_PRESERVE));
-    EXPECT_FALSE(scanner.xml.get_attribute_value(&text, ELMX_WS_PRESERVE));
+    EXPECT_TRUE(scanner.attribute() == ELXP_NAME && scanner.text == "c");
+    EXPECT_TRUE(scanner.attribute() == ELXP_NAME && scanner.text == "d");
+    EXPECT_TRUE(scanner.attribute_value());
+    EXPECT_FALSE(scanner.attribute_value());
     scanner.xml.skip_attribute_value();
-    EXPECT_EQ(scanner.xml.get_attribute_name(&text, false), ELXP_START_TAG_END);
-    EXPECT_EQ(scanner.xml.get_attribute_name(&text, false), ELXP_ERROR);
+    EXPECT_EQ(scanner.attribute(), ELXP_START_TAG_END);
+    EXPECT_EQ(scanner.attribute(), ELXP_ERROR);
 }
 
 TEST(Attributes, MayBeOfAnyLength) {
     const std::string tag = "<a xmlns:x='" + std::string(20000, 'u') + "' " + std::string(127, 'b') + "='1'" +
                             std::string(300, '\n') + std::string(128, 'c') + " = \"" + std::string(16384, 'v') +
                             "\" xmlns:y='w' d='" + std::string(3000000, '\n') + "'\ne=''";
-    const std::string document = tag + "/>";
-    s_scanner scanner(document);
-    std::string text;
-    EXPECT_EQ(scanner.xml.get_element_name(&scanner.scope, &text), ELXP_NAME);
+    s_scanner scanner(tag + "/>");
+    std::string& text = scanner.text;
+    EXPECT_EQ(scanner.element(), ELXP_NAME);
     for (const auto& [name, value, line] :
          std::vector<std::tuple<std::string, std::string, int>>{{std::string(127, 'b'), "1", 1},
                                                                 {std::string(128, 'c'), std::string(16384, 'v'), 301},
                                                                 {"d", std::string(3000000, '\n'), 301},
                                                                 {"e", "", 3000302}}) {
-        EXPECT_EQ(scanner.xml.get_attribute_name(&text, false), ELXP_NAME);
-        EXPECT_TRUE(text == name);
+        EXPECT_TRUE(scanner.attribute() == ELXP_NAME && text == name);
         EXPECT_EQ(scanner.xml.diagnose().attribute_line, line);
         EXPECT_TRUE(scanner.xml.diagnose().attribute_value == value);
         EXPECT_TRUE(scanner.xml.find_raw_attribute_value(name) == value);
         // A search that fails leaves the value to be read.
         EXPECT_FALSE(name == "d" && scanner.xml.get_named_attribute(&scanner.scope, 1, "none", &text));
-        EXPECT_TRUE(scanner.xml.get_attribute_value(&text, ELMX_WS_PRESERVE) && text == value);
+        EXPECT_TRUE(scanner.attribute_value() && text == value);
         if (name != "d") continue;
-        for (int skipped = 0; skipped < 3; ++skipped) scanner.xml.get_attribute_name(&text, false);
+        for (int skipped = 0; skipped < 3; ++skipped) scanner.attribute();
     }
-    EXPECT_TRUE(scanner.xml.get_any_element("a", &text, ELMX_WS_PRESERVE, true));
+    EXPECT_TRUE(scanner.any("a"));
     EXPECT_TRUE(text == "<a xmlns:x='" + std::string(20000, 'u') + "' xmlns:y='w' " + std::string(127, 'b') +
                             "='1' " + std::string(128, 'c') + "=\"" + std::string(16384, 'v') + "\" d='" +
                             std::string(3000000, '\n') + "' e=''/>");
 }
 
 TEST(Attributes, AreFoundByNamespace) {
-    const std::string document =
+    s_scanner scanner(
         "<a xmlns:x='http://www.w3.org/2001/XMLSchema-instance' xmlns:p='u' p:type='n' type='m' x:type='p:T' "
-        "p:n='1'/>";
-    s_scanner scanner(document);
-    std::string text;
-    scanner.xml.get_element_name(&scanner.scope, &text);
+        "p:n='1'/>");
+    std::string& text = scanner.text;
+    scanner.element();
     int ns_id = 0;
     EXPECT_TRUE(scanner.xml.get_xsi_type(&scanner.scope, &ns_id, &text));
     EXPECT_EQ(ns_id, 1000);
@@ -310,8 +298,7 @@ TEST(Attributes, AreFoundByNamespace) {
     EXPECT_FALSE(scanner.xml.get_named_attribute(&scanner.scope, 5, "nil", &text));
     // Only what lies behind the current position is seen, and the search starts the walk anew.
     for (const char* const name : {"p:type", "type"}) {
-        EXPECT_EQ(scanner.xml.get_attribute_name(&text, false), ELXP_NAME);
-        EXPECT_EQ(text, name);
+        EXPECT_TRUE(scanner.attribute() == ELXP_NAME && text == name) << name;
         scanner.xml.skip_attribute_value();
     }
     EXPECT_FALSE(scanner.xml.get_named_attribute(&scanner.scope, 1, "type", &text));
@@ -322,10 +309,8 @@ TEST(Attributes, AreFoundByNamespace) {
 }
 
 TEST(Namespaces, AreNumberedInOrderOfAppearance) {
-    const std::string document = "<a xmlns='&#117;' xmlns:p='v' xmlns:q='u' xmlns:p='w' xmlns:e=''><b xmlns=''/>";
-    s_scanner scanner(document);
-    std::string text;
-    scanner.xml.get_element_name(&scanner.scope, &text);
+    s_scanner scanner("<a xmlns='&#117;' xmlns:p='v' xmlns:q='u' xmlns:p='w' xmlns:e=''><b xmlns=''/>");
+    scanner.element();
     for (const auto& [prefix, id] : std::vector<std::pair<std::string, int>>{
              {"", 1000}, {"q", 1000}, {"p", 1002}, {"e", 1003}, {"xml", 2}, {"z", 0}}) {
         EXPECT_EQ(scanner.scope.find_namespace_id(prefix), id) << prefix;
@@ -335,7 +320,7 @@ TEST(Namespaces, AreNumberedInOrderOfAppearance) {
     EXPECT_EQ(scanner.xml.find_namespace_from_id(1004), nullptr);
     scanner.xml.move_to_start_tag_end(nullptr);
     c_xml_local inner(&scanner.scope);
-    scanner.xml.get_element_name(&inner, &text);
+    scanner.xml.get_element_name(&inner, &scanner.text);
     EXPECT_EQ(inner.find_namespace_id(""), 1);
     EXPECT_EQ(inner.find_namespace_id("p"), 1002);
     EXPECT_STREQ(inner.find_namespace_prefix(1002), "p");
@@ -400,18 +385,15 @@ TEST(Skipping, MatchesTags) {
         {"<a /x>", false, "1/12@1:Illegal character(s) after / at end of tag - x;"},
     };
     for (const auto& row : cases) {
-        const std::string document = row.document;
-        s_scanner scanner(document);
-        std::string name;
-        scanner.xml.get_element_name(&scanner.scope, &name);
-        EXPECT_EQ(scanner.xml.skip_rest_of_element("a"), row.result) << document;
-        EXPECT_EQ(scanner.reports.m_log, row.reports) << document;
+        s_scanner scanner(row.document);
+        scanner.element();
+        EXPECT_EQ(scanner.xml.skip_rest_of_element("a"), row.result) << row.document;
+        EXPECT_EQ(scanner.reports.m_log, row.reports) << row.document;
     }
     for (const auto& [document, result] : std::vector<std::pair<std::string, bool>>{
              {"<a/>", true}, {"<a></a>", true}, {"<a> </a>", true}, {"<a>x</a>", false}, {"<a></b>", false}}) {
         s_scanner scanner(document);
-        std::string name;
-        scanner.xml.get_element_name(&scanner.scope, &name);
+        scanner.element();
         EXPECT_EQ(scanner.xml.skip_rest_of_empty_element("a"), result) << document;
     }
 }
@@ -433,8 +415,7 @@ TEST(Skipping, FindsTheEndOfATag) {
         {"", false, -1, ""},
     };
     for (const auto& row : cases) {
-        const std::string document = ' ' + row.rest;  // a first character settles the encoding
-        s_scanner scanner(document);
+        s_scanner scanner(' ' + row.rest);  // a first character settles the encoding
         scanner.xml.get();
         bool is_empty = row.is_empty != 1;
         const bool before = is_empty;
@@ -470,18 +451,13 @@ TEST(Wildcards, AreCopiedAsText) {
     };
     for (const auto& row : cases) {
         s_scanner scanner(row.document);
-        std::string name;
-        std::string xml;
-        const bool is_copied = scanner.xml.get_element_name(&scanner.scope, &name) == ELXP_NAME &&
-                               scanner.xml.get_any_element(name, &xml, ELMX_WS_PRESERVE, true);
-        EXPECT_EQ(is_copied ? xml : "!", row.xml) << row.document;
+        const bool is_copied = scanner.element() == ELXP_NAME && scanner.any("a");
+        EXPECT_EQ(is_copied ? scanner.text : "!", row.xml) << row.document;
     }
-    const std::string document = "<a>  1 <b c='2  3'> 4 </b></d>";
-    s_scanner scanner(document);
+    s_scanner scanner("<a>  1 <b c='2  3'> 4 </b></d>");
+    scanner.enter();
     std::string name;
     std::string value;
-    scanner.xml.get_element_name(&scanner.scope, &name);
-    scanner.xml.move_to_start_tag_end(nullptr);
     EXPECT_TRUE(scanner.xml.get_nested_element_value(&value, &name, ELMX_WS_PRESERVE, true));
     EXPECT_EQ(value, "  1 <b c='2  3'> 4 </b>");
     EXPECT_EQ(name, "d");

@@ -9,6 +9,7 @@
 #include <cstdio>
 #include <string>
 #include <string_view>
+#include <utility>
 
 #include "lmx/reader/xml.h"
 
@@ -51,13 +52,28 @@ public:
     std::string m_log;
 };
 
-/// A scanner on a text, with its reports.
+/// A scanner on a document, with its reports. The short forms of its calls put what they read into `text`.
 struct s_scanner {
-    explicit s_scanner(const std::string& text) : source(text), xml(source, reports, true) {}
+    explicit s_scanner(std::string bytes)
+        : document(std::move(bytes)), source(document), xml(source, reports, true) {}
+    lmx::elxp_xml_event element() { return xml.get_element_name(&scope, &text); }
+    lmx::elxp_xml_event attribute() { return xml.get_attribute_name(&text, false); }
+    bool attribute_value(lmx::elmx_whitespace mode = lmx::ELMX_WS_PRESERVE) {
+        return xml.get_attribute_value(&text, mode);
+    }
+    bool value(lmx::elmx_whitespace mode = lmx::ELMX_WS_PRESERVE) { return xml.get_element_value(&text, mode, true); }
+    bool any(const std::string& name) { return xml.get_any_element(name, &text, lmx::ELMX_WS_PRESERVE, true); }
+    /// Up to the content of the first element.
+    void enter() {
+        element();
+        xml.move_to_start_tag_end(nullptr);
+    }
+    std::string document;
     lmx::c_read_string source;
     c_recorder reports;
     lmx::c_xml xml;
     lmx::c_xml_local scope;
+    std::string text;
 };
 
 /// A file that is removed again. Its name is unique in the test's working directory.
