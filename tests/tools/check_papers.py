@@ -8,19 +8,15 @@ Usage: check_papers.py VYR ROOT
 """
 
 import json
-import pathlib
 import re
 import subprocess
 import sys
 
-vyr, root = sys.argv[1], pathlib.Path(sys.argv[2])
+from command import arguments, failures, output, run
+
+root = arguments[1]
 OPTION = r"(?<![\w-])--?[a-z]+"
 TWICE = {"-j", "--jobs", "-q", "--quiet", "-o", "--output"}
-failures = []
-
-
-def output(*arguments):
-    return subprocess.run([vyr, *arguments], capture_output=True, text=True, check=True).stdout
 
 
 def between(text, begin, end):
@@ -68,7 +64,6 @@ for command in commands:
         failures.append(f"{command} --help shows no example")
 
 
-
 def own_names(value, inside=""):
     """The members of what was printed, without those that have the names of the format: these start with a capital."""
     if isinstance(value, list):
@@ -80,11 +75,11 @@ def own_names(value, inside=""):
     return found.union(*(own_names(inner, name) for name, inner in value.items()))
 
 
-def printed(*arguments, stdin=""):
-    done = subprocess.run([vyr, *arguments], input=stdin, capture_output=True, text=True)
+def printed(*words, stdin=b""):
+    text = run(*words, stdin=stdin)[1]
     decoder, at, names = json.JSONDecoder(), 0, set()
-    while at < len(done.stdout.rstrip()):
-        value, at = decoder.raw_decode(done.stdout, at)
+    while at < len(text.rstrip()):
+        value, at = decoder.raw_decode(text, at)
         at += 1
         names |= own_names(value)
     return names
@@ -94,7 +89,7 @@ def printed(*arguments, stdin=""):
 documents = [file for file in sorted((root / "tests/documents/valid").glob("*.vyr"))
              if not re.search("<(?![/?!]|Vyr:)", file.read_text())]
 documents.append(root / "tests/tools/values.vyr")
-impossible = (root / "tests/tools/values.vyr").read_text().replace("2026-05", "2026-13", 1)
+impossible = (root / "tests/tools/values.vyr").read_bytes().replace(b"2026-05", b"2026-13", 1)
 answers = {
     "check": printed("check", "--json", root / "docs/samples/broken.vyr", "absent", "-", stdin=impossible),
     "info": printed("info", "--json", *documents),

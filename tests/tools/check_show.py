@@ -13,25 +13,18 @@ import re
 import shutil
 import subprocess
 import sys
-import tempfile
 import xml.etree.ElementTree as ElementTree
 
 import show_document
-from sanitized import is_sanitized
+from command import arguments, failures, is_sanitized, output, run, same, test, vyr
 
-vyr, documents, palette = (pathlib.Path(argument).resolve() for argument in sys.argv[1:4])
+documents, palette = arguments[1:]
 V = "{http://vyrgraph.com/v2}"
 VOID = {"meta", "br", "rect", "path", "circle"}
 TAGS = set("""html head meta title style body a header h1 h2 h3 h4 h5 h6 p nav ul li span div main section article svg
 rect path circle g text dl dt dd details summary table caption thead tbody tr th td bdi i code""".split())
 ATTRIBUTES = set("""lang charset name content http-equiv class id href role aria-label aria-labelledby tabindex width
 height fill viewbox d x y r cx cy text-anchor scope""".split())
-failures = []
-
-
-def expect(name, got, wanted):
-    if got != wanted:
-        failures.append(f"{name}: expected {wanted!r}\n  got {got!r}")
 
 
 class Page(html.parser.HTMLParser):
@@ -42,12 +35,12 @@ class Page(html.parser.HTMLParser):
         self.name, self.open, self.elements, self.ids, self.links = name, [], [], [], []
         self.feed(text)
         self.close()
-        expect(f"{name}: open at the end", [entry["tag"] for entry in self.open], [])
-        expect(f"{name}: repeated ids", len(self.ids), len(set(self.ids)))
-        expect(f"{name}: links to nowhere", {link for link in self.links if link[:1] != "#"
+        same(f"{name}: open at the end", [entry["tag"] for entry in self.open], [])
+        same(f"{name}: repeated ids", len(self.ids), len(set(self.ids)))
+        same(f"{name}: links to nowhere", {link for link in self.links if link[:1] != "#"
                                              or link[1:] not in self.ids}, set())
         levels = [int(entry["tag"][1]) for entry in self.elements if re.fullmatch("h[1-6]", entry["tag"])]
-        expect(f"{name}: headings left out", [b for a, b in zip(levels, levels[1:]) if b > a + 1], [])
+        same(f"{name}: headings left out", [b for a, b in zip(levels, levels[1:]) if b > a + 1], [])
 
     def handle_starttag(self, tag, attributes):
         attributes = dict(attributes)
@@ -82,8 +75,7 @@ class Page(html.parser.HTMLParser):
 
 
 def show(path):
-    done = subprocess.run([vyr, "show", path], capture_output=True, timeout=300, check=True)
-    return Page(pathlib.Path(path).name, done.stdout.decode())
+    return Page(pathlib.Path(path).name, output("show", path))
 
 
 def is_number(element):
@@ -101,34 +93,35 @@ def check_counts(path):
         return "sRGB " + ",".join(str(int(share * 255 + 0.5)) for share in shares)
 
     values = [[swatch(value) for value in color.findall(V + "ColorSpaceSRGB")[:1]] for color in colors]
-    expect(f"{path.name}: swatches", sorted(page.labels("swatch")), sorted(sum(values, [])))
-    expect(f"{path.name}: places without swatch", len(page.texts("swatch none")), values.count([]))
-    expect(f"{path.name}: colours", len(page.texts("color")), len(colors))
+    same(f"{path.name}: swatches", sorted(page.labels("swatch")), sorted(sum(values, [])))
+    same(f"{path.name}: places without swatch", len(page.texts("swatch none")), values.count([]))
+    same(f"{path.name}: colours", len(page.texts("color")), len(colors))
     spectra = [value for value in root.iter()
                if any(is_number(point) for kind in ("ReflectancePoint", "EmissiveSpectralPoint")
                                                      for point in value.findall(V + kind))]
-    expect(f"{path.name}: curves", len(page.labels("curve")), len(spectra))
+    same(f"{path.name}: curves", len(page.labels("curve")), len(spectra))
     points = sum(len(list(root.iter(V + kind))) for kind in ("ReflectancePoint", "EmissiveSpectralPoint"))
     rows = sum(entry["tag"] == "tr" and "points" in entry["inside"] for entry in page.elements)
-    expect(f"{path.name}: points", rows - len(page.texts("points")), points)
+    same(f"{path.name}: points", rows - len(page.texts("points")), points)
     limits = len(list(root.iter(V + "Limits"))) + sum(
         len(function.findall(V + "Parameters")) for tolerance in root.iter(V + "Tolerance") for function in tolerance
         if function.find(V + "ToleranceType") is not None)
-    expect(f"{path.name}: limits", len(page.texts("limit")), limits)
+    same(f"{path.name}: limits", len(page.texts("limit")), limits)
     text = page.elements[0]["text"]
     for element in root.iter():
         # Names of inks and recipes stand as they are; what can't be printed is shown by its number.
         if element.tag in (V + "Manufacturer", V + "PartNumber") and re.fullmatch(r"[\w .-]+", element.text or ""):
-            expect(f"{path.name}: {element.text}", element.text in text, True)
+            same(f"{path.name}: {element.text}", element.text in text, True)
     return page
 
 
-def check_full(path):
-    page = check_counts(path)
-    expect("verdicts", [entry["text"] for entry in page.elements if entry["class"].startswith("verdict")],
+def check_full():
+    pathlib.Path("full.vyr").write_text(show_document.full())
+    page = check_counts(pathlib.Path("full.vyr"))
+    same("verdicts", [entry["text"] for entry in page.elements if entry["class"].startswith("verdict")],
            ["\u2713 within the limits", "\u2713 within the limits", "! within the limits, at the warning level",
             "no limit stated", "\u2717 above the limit by 0.25", "no limit stated", "\u2717 below the limit by 0.5"])
-    expect("limits", page.texts("limit"), ["0 to 3", "-1 to 1", "-0.5 to 0.75", "at most 2"])
+    same("limits", page.texts("limit"), ["0 to 3", "-1 to 1", "-0.5 to 0.75", "at most 2"])
     text = re.sub(r"\s+", " ", page.elements[0]["text"])
     for part in ("D65, 10 degrees, Reflectance, filter None, not polarized (default of the palette)",
                  "conditions unknown",
@@ -140,25 +133,27 @@ def check_full(path):
                  "Palette Inks", "first line second line",
                  "Made from:", "Wavelength (nm)", "Reflectance factor (fraction)",
                  "Spectral power (unit of the measurement)"):
-        expect(f"full: {part}", part in text, True)
+        same(f"full: {part}", part in text, True)
     lamp = next(entry for entry in page.elements if "Lamp" in entry["attributes"].get("aria-label", ""))
-    expect("lamp", lamp["attributes"]["aria-label"], "Spectrum of Lamp: 4 points, 400 to 700 nm, -0.25 to 40")
+    same("lamp", lamp["attributes"]["aria-label"], "Spectrum of Lamp: 4 points, 400 to 700 nm, -0.25 to 40")
     # From left to right, the lowest value lowest, whatever the order in the document.
     line = next(entry for entry in page.elements if entry["class"] == "line")["attributes"]["d"]
     places = [tuple(map(float, place.split())) for place in re.findall(r"[\d.]+ [\d.]+", line)]
-    expect("order of points", places, sorted(places))
-    expect("highest and lowest", (min(places, key=lambda p: p[1]), max(places, key=lambda p: p[1])),
+    same("order of points", places, sorted(places))
+    same("highest and lowest", (min(places, key=lambda p: p[1]), max(places, key=lambda p: p[1])),
            (places[2], places[0]))
 
 
-def check_hostile(path):
+def check_hostile():
+    path = pathlib.Path("hostile.vyr")
+    path.write_text(show_document.hostile())
     page = show(path)  # foreign markup and foreign attributes are found by the parser
     text = page.elements[0]["text"]
-    expect("hostile: title", [e["text"] for e in page.elements if e["tag"] == "title"], [path.name])
-    expect("hostile: the name as text",
+    same("hostile: title", [e["text"] for e in page.elements if e["tag"] == "title"], [path.name])
+    same("hostile: the name as text",
            "</title></style><script>alert(1)</script>\" onload=\"alert(1)' x='&lt;" in text, True)
-    expect("hostile: hidden characters", [c for c in ("\u202e", "\u009b") if c in text], [])
-    expect("hostile: by number", "\\u{202E}" in text, True)
+    same("hostile: hidden characters", [c for c in ("\u202e", "\u009b") if c in text], [])
+    same("hostile: by number", "\\u{202E}" in text, True)
     numbers = {"380": "1e308", "390": "-1e308", "400": "INF", "410": "NaN", "420": "1e-320"}
     points = "".join(show_document.element("EmissiveSpectralPoint", v, Wavelength=nm) for nm, v in numbers.items())
     one = show_document.element("EmissiveSpectralPoint", "NaN", Wavelength="1e300")
@@ -169,30 +164,30 @@ def check_hostile(path):
                                                                           for more in (points, one))))
     curves = [entry for entry in check_counts(pathlib.Path("numbers.vyr")).elements if "curve" in entry["inside"]]
     places = " ".join(str(entry["attributes"].get(key, "")) for entry in curves for key in ("d", "x", "y"))
-    expect("coordinates", re.findall(r"nan|inf|e\+|\d{5}", places), [])
+    same("coordinates", re.findall(r"nan|inf|e\+|\d{5}", places), [])
 
 
 def check_files():
-    def run(*arguments, **more):
-        done = subprocess.run([vyr, "show", *arguments], capture_output=True, **more)
-        return done.returncode, len(done.stdout), done.stderr.decode()
+    def show_to(*words, **more):
+        code, out, err = run("show", *words, **more)
+        return code, len(out.encode()), err
 
     shutil.copy(palette, "a.vyr")
-    size = run("a.vyr")[1]
-    expect("to a file", (run("a.vyr", "-o", "a.html"), os.path.getsize("a.html")), ((0, 0, ""), size))
+    size = show_to("a.vyr")[1]
+    same("to a file", (show_to("a.vyr", "-o", "a.html"), os.path.getsize("a.html")), ((0, 0, ""), size))
     os.chmod("a.html", 0o604)
-    expect("again", (run("a.vyr", "--output=a.html")[0], os.stat("a.html").st_mode & 0o777), (0, 0o604))
+    same("again", (show_to("a.vyr", "--output=a.html")[0], os.stat("a.html").st_mode & 0o777), (0, 0o604))
     os.symlink("a.vyr", "link.html")
     before = pathlib.Path("a.vyr").read_bytes()
     for target in ("a.vyr", "b.vyrz", "link.html"):
-        code, _, error = run("a.vyr", "-o", target)
-        expect(f"onto {target}", (code, "no place for a page" in error), (2, True))
-    expect("the document", pathlib.Path("a.vyr").read_bytes(), before)
-    expect("no folder", run("a.vyr", "-o", "none/a.html")[0], 2)
+        code, _, error = show_to("a.vyr", "-o", target)
+        same(f"onto {target}", (code, "no place for a page" in error), (2, True))
+    same("the document", pathlib.Path("a.vyr").read_bytes(), before)
+    same("no folder", show_to("a.vyr", "-o", "none/a.html")[0], 2)
     pathlib.Path("broken.vyr").write_text("<a/>")
-    expect("a broken document", (run("broken.vyr", "-o", "c.html")[0], os.path.exists("c.html")), (1, False))
-    expect("a full disk", run("a.vyr", "-o", "/dev/full")[0], 2)
-    expect("standard input", run("-", input=before)[0], 0)
+    same("a broken document", (show_to("broken.vyr", "-o", "c.html")[0], os.path.exists("c.html")), (1, False))
+    same("a full disk", show_to("a.vyr", "-o", "/dev/full")[0], 2)
+    same("standard input", show_to("-", stdin=before)[0], 0)
 
 
 def peak(*arguments):
@@ -207,21 +202,13 @@ def peak(*arguments):
 def check_large():
     pathlib.Path("large.vyr").write_text(show_document.large(4000))
     page, info = peak("show", "large.vyr"), peak("info", "large.vyr")
-    if page > 1.1 * info + 2048 and not is_sanitized(vyr):
+    if page > 1.1 * info + 2048 and not is_sanitized():
         failures.append(f"a large page takes {page} kB, where reading takes {info} kB")
 
 
-os.chdir(tempfile.mkdtemp())
-try:
-    pathlib.Path("full.vyr").write_text(show_document.full())
-    pathlib.Path("hostile.vyr").write_text(show_document.hostile())
-    check_full(pathlib.Path("full.vyr"))
-    check_hostile(pathlib.Path("hostile.vyr"))
+def check_documents():
     for document in [*sorted(documents.iterdir()), palette]:
         check_counts(document)
-    check_files()
-    check_large()
-finally:
-    shutil.rmtree(os.getcwd())
-print("\n".join(failures) or "pages show what documents hold")
-sys.exit(bool(failures))
+
+
+test("pages show what documents hold", check_full, check_hostile, check_documents, check_files, check_large)

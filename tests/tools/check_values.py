@@ -12,31 +12,12 @@ import json
 import os
 import pathlib
 import re
-import subprocess
-import sys
-import tempfile
-import traceback
 import xml.etree.ElementTree as tree
 
-vyr, sample, documents, schema = (pathlib.Path(argument).resolve() for argument in sys.argv[1:5])
+from command import arguments, failures, output, run, same, test
+
+sample, documents, schema = arguments[1:]
 V = "{http://vyrgraph.com/v2}"
-failures = []
-
-
-def run(*arguments, stdin=b""):
-    done = subprocess.run([vyr, *arguments], input=stdin, capture_output=True, timeout=120)
-    return done.returncode, done.stdout.decode(), done.stderr.decode()
-
-
-def output(*arguments):
-    code, out, err = run(*arguments)
-    same("code of " + " ".join(map(str, arguments)), (code, err), (0, ""))
-    return out
-
-
-def same(what, got, expected):
-    if got != expected:
-        failures.append(f"{what}\n  expected {expected!r}\n  got      {got!r}")
 
 
 def has(text, *lines):
@@ -259,18 +240,5 @@ def check_import():
         same("a table with faults", (code, out, os.path.exists("never.vyr")), (1, "", False))
 
 
-def check_all():
-    for check in (check_list, check_list_json, check_table, check_info, check_all_documents, check_json,
-                  check_json_order, check_json_faults, check_import):
-        try:
-            check()
-        except Exception:  # what one check stumbles over is no reason to skip the others
-            failures.append(traceback.format_exc())
-
-
-with tempfile.TemporaryDirectory() as work:
-    os.chdir(work)
-    check_all()
-    os.chdir("/")
-print("\n".join(failures) or "all values are told as they are")
-sys.exit(bool(failures))
+test("all values are told as they are", check_list, check_list_json, check_table, check_info, check_all_documents,
+     check_json, check_json_order, check_json_faults, check_import)

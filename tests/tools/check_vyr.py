@@ -16,22 +16,15 @@ import select
 import shutil
 import signal
 import subprocess
-import sys
-import tempfile
 import time
-import traceback
 
-vyr, palette = (pathlib.Path(argument).resolve() for argument in sys.argv[1:3])
-failures = []
+from command import arguments, failures, run, same, test, vyr
+
+palette = arguments[1]
 
 
 def fail(text):
     failures.append(text)
-
-
-def run(*arguments, stdin=b"", **more):
-    done = subprocess.run([vyr, *arguments], input=stdin, capture_output=True, timeout=120, **more)
-    return done.returncode, done.stdout.decode(errors="replace"), done.stderr.decode(errors="replace")
 
 
 def expect(code, out, err, *arguments, **more):
@@ -75,7 +68,6 @@ def drained(master, slave, child):
 
 def make_documents():
     text = palette.read_text()
-    line = text[: text.index("<Vyr:Red>")].count("\n") + 1
     broken = re.sub(r"<Vyr:Red>[^<]*", "<Vyr:Red>1.5", text, count=1)
     broken = re.sub(r"<Vyr:Green>[^<]*", "<Vyr:Green>x", broken, count=3)
     colors = re.findall(r"\t*<Vyr:Color .*?</Vyr:Color>\n", text, re.S)
@@ -98,10 +90,12 @@ def make_documents():
     }.items():
         pathlib.Path(name).write_text(content)
     pathlib.Path("junk.vyrz").write_bytes(bytes(range(256)) * 9)
-    return line
+    os.mkdir("none")
 
 
-def check_check(line):
+def check_check():
+    text = palette.read_text()
+    line = text[: text.index("<Vyr:Red>")].count("\n") + 1
     place = f'broken.vyr:{line}:6: Palette "CSS" / ColorSet "Named" / Color "aliceblue" / ColorSpaceSRGB / Red: '
     faults = re.escape(place) + "Value greater than specified maximum.*1\\.5.*\n(broken[^\n]*x[^\n]*\n){3}"
     expect(0, "", "", "check", "good.vyr")
@@ -126,10 +120,10 @@ def check_check(line):
     expect(2, "", r"vyr: x\\xE9\\u\{1B\}\[31m: No such .*", "check", b"x\xe9\x1b[31m")
     code, out, _ = run("check", "--json", "-j3", b"x\xe9\x1b", "tree", "broken.vyr", "empty.vyr")
     answer = json.loads(out)
-    got = (code, answer["valid"], answer["invalid"], answer["unreadable"], answer["files"][0]["status"],
-           [fault["value"] for fault in answer["files"][-2]["faults"]], answer["files"][-2]["faults"][0]["line"])
-    if got != (2, 5, 3, 1, "unreadable", ["1.5", "x", "x", "x"], line):
-        fail(f"check --json: {got}")
+    faults = answer["files"][-2]["faults"]
+    same("check --json", (code, answer["valid"], answer["invalid"], answer["unreadable"], answer["files"][0]["status"],
+                          [fault["value"] for fault in faults], faults[0]["line"]),
+         (2, 5, 3, 1, "unreadable", ["1.5", "x", "x", "x"], line))
     # What can't be read is no document that fails, wherever the disk gives out.
     expect(2, "", "vyr: /proc/self/mem: Input/output error\n", "check", "/proc/self/mem")
     os.chmod("tree/a.vyr", 0)
@@ -141,8 +135,7 @@ def check_convert():
     good = palette.read_bytes()
 
     def holds(name, content):
-        if pathlib.Path(name).read_bytes() != content:
-            fail(f"{name} holds something else")
+        same(f"content of {name}", pathlib.Path(name).read_bytes() == content, True)
 
     os.umask(0o027)
     pathlib.Path("a.vyr").write_text("in the way")
@@ -157,13 +150,12 @@ def check_convert():
         expect(0, "", "", "convert", "layout.vyr" if target == "link.vyr" else "b.vyr", target)
     holds("b.vyr", good)
     holds("c.vyr", good)
-    modes = [oct(os.stat(name).st_mode & 0o777) for name in ("b.vyr", "c.vyr", "a.vyrz")]
-    if modes != ["0o604", "0o640", "0o640"] or not os.path.islink("link.vyr"):
-        fail(f"permissions {modes}")
+    same("permissions", [oct(os.stat(name).st_mode & 0o777) for name in ("b.vyr", "c.vyr", "a.vyrz")],
+         ["0o604", "0o640", "0o640"])
+    same("a link", os.path.islink("link.vyr"), True)
     packed = subprocess.run([vyr, "convert", "--to=vyrz", "-", "-"], input=good, capture_output=True).stdout
     plain = subprocess.run([vyr, "convert", "-", "-"], input=packed, capture_output=True).stdout
-    if not packed.startswith(b"PK") or plain != good:
-        fail("convert between pipes")
+    same("convert between pipes", (packed[:2], plain == good), (b"PK", True))
     for arguments, code, text in (
         (("good.vyr", "no/such/folder.vyr"), 2, "vyr: no/such/folder.vyr: No such file or directory"),
         (("good.vyr", "none"), 2, "vyr: none: the name .*"),
@@ -191,32 +183,29 @@ def check_convert():
             name = "standard output" if target == "-" else re.escape(target)
             expect(1, "", lost.format(name), "convert", "--to", form, "lossy.vyr", target)
         holds("b.vyr", good)
-    left = [name for name in os.listdir(".") if name.startswith(".vyr-")]
-    if left or os.path.exists("never.vyr") or os.path.exists("b.vyrz"):
-        fail(f"a conversion left {left}")
+    same("left behind", [name for name in os.listdir(".") if name.startswith((".vyr-", "never.vyr", "b.vyrz"))], [])
 
 
 def check_info_and_list():
     expect(0, "good.vyr: 138874 bytes, .* 148 colours\n.* 148  SRGB\n.*Palette \"CSS\": 1 colour set\n"
               ".*148  in ColorSet \"Named\"\n.* 148        Color\n.*", "", "info", "good.vyr")
     answer = json.loads(run("info", "--json", "--depth=1", "good.vyr")[1])
-    if (answer["colors"], answer["spaces"], answer["palettes"][0]["sets"], len(answer["tree"]["parts"])) != (
-            148, {"SRGB": 148}, [{"name": "Named", "colors": 148}], 2):
-        fail(f"info --json: {answer}")
+    same("info --json", (answer["colors"], answer["spaces"], answer["palettes"][0]["sets"],
+                         len(answer["tree"]["parts"])), (148, {"SRGB": 148}, [{"name": "Named", "colors": 148}], 2))
     expect(0, "Palette \"CSS\" / ColorSet \"Named\"\n +SRGB\\[1\\] Red +Green +Blue\n  navy +0 +0 +0\\.501961\n"
               "  \\[1\\] [^\n]*\n", "", "list", "--name=navy", "--set", "N*", "--palette", "?SS", "good.vyr")
     expect(0, "", ".*no such colour\n", "list", "--name=nav", "good.vyr")
     # A name can't steer the terminal, in either form.
     expect(0, r".*\\u\{202E\}\\u\{9B\}31m\\u\{9\}<b>.*\\u\{180E\}\\u\{200D\}\\u\{3164\}\\u\{E0041\}e\u0301.*", "",
            "list", "hostile.vyr")
-    code, out, _ = run("list", "--json", "hostile.vyr")
+    _, out, _ = run("list", "--json", "hostile.vyr")
     colors = json.loads(out)
-    if "\u202e" in out or colors[0]["name"] != "\u202e\u009b31m\t<b>" or len(colors) != 148 or \
-            colors[1]["values"][0] != {"space": "SRGB", "Red": 0.98039215686275, "Green": 0.92156862745098,
-                                       "Blue": 0.84313725490196, "ColorDepth": "ColorDepth_8", "conditions": {
-                                           "source": "value", "Illuminant": "D65", "Observer": "2",
-                                           "Spectrum": "Reflectance", "Filter": "None", "Polarization": False}}:
-        fail(f"list --json: {colors[:2]}")
+    same("list --json", ("\u202e" in out, len(colors), colors[0]["name"], colors[1]["values"]),
+         (False, 148, "\u202e\u009b31m\t<b>", [{
+             "space": "SRGB", "Red": 0.98039215686275, "Green": 0.92156862745098, "Blue": 0.84313725490196,
+             "ColorDepth": "ColorDepth_8", "conditions": {
+                 "source": "value", "Illuminant": "D65", "Observer": "2", "Spectrum": "Reflectance", "Filter": "None",
+                 "Polarization": False}}]))
     expect(1, "", "broken.vyr:.*", "list", "broken.vyr")
     expect(2, "", "vyr: absent: .*", "info", "absent")
 
@@ -232,9 +221,8 @@ def check_diff():
              f'> {here}"black": from place 8 to 148']
     expect(1, re.escape("\n".join(lines) + "\n"), "", "diff", "good.vyr", "other.vyr")
     answer = json.loads(run("diff", "--json", "good.vyr", "other.vyr")[1])
-    kinds = [row["change"] for row in answer]
-    if kinds != ["added", "changed", "added", "changed", "removed", "added", "moved"] or answer[1]["after"] != "0.5":
-        fail(f"diff --json: {answer}")
+    same("diff --json", ([row["change"] for row in answer], answer[1]["after"]),
+         (["added", "changed", "added", "changed", "removed", "added", "moved"], "0.5"))
     expect(0, "", "", "diff", "good.vyr", "layout.vyr")
     expect(0, r"\[\n\]\n", "", "diff", "--json", "-", "good.vyr", stdin=palette.read_bytes())
     expect(1, "", "", "diff", "-q", "good.vyr", "other.vyr")
@@ -294,12 +282,9 @@ def check_terminal():
                   for color, name in ((31, "broken"), (33, "month"))]
         if code != 1 or places != [has_color] * 2 or ("\x1b" in text) != has_color:
             fail(f"check on a terminal ({arguments}, {environment}): {text!r}")
-    text, code = on_terminal("check", "good.vyr", "good.vyr")
-    if (text, code) != ("2 valid documents\r\n", 0):
-        fail(f"check on a terminal: {text!r}")
-    text, code = on_terminal("convert", "--to=vyrz", "good.vyr", "-")
-    if (text, code) != ("vyr: standard output: a container is no text for a terminal\r\n", 2):
-        fail(f"a container on a terminal: {text!r}")
+    same("check on a terminal", on_terminal("check", "good.vyr", "good.vyr"), ("2 valid documents\r\n", 0))
+    same("a container on a terminal", on_terminal("convert", "--to=vyrz", "good.vyr", "-"),
+         ("vyr: standard output: a container is no text for a terminal\r\n", 2))
     os.mkfifo("slow.vyr")
     feeder = subprocess.Popen(["sh", "-c", "sleep 1.6; cat good.vyr > slow.vyr"])
     text, code = on_terminal("check", "good.vyr", "slow.vyr")
@@ -330,22 +315,5 @@ def check_progress():
             fail(f"{command} says on a terminal: {text!r}")
 
 
-def check_all(line):
-    checks = [check_usage, lambda: check_check(line), check_convert, check_info_and_list, check_diff, check_streams]
-    if has_terminals():
-        checks += [check_terminal, check_progress]
-    for check in checks:
-        try:
-            check()
-        except Exception:  # what one check stumbles over is no reason to skip the others
-            fail(traceback.format_exc())
-
-
-with tempfile.TemporaryDirectory() as work:
-    os.chmod(work, 0o755)
-    os.chdir(work)
-    os.mkdir("none")
-    check_all(make_documents())
-    os.chdir("/")
-print("\n".join(failures) or "the command behaves")
-sys.exit(bool(failures))
+test("the command behaves", make_documents, check_usage, check_check, check_convert, check_info_and_list, check_diff,
+     check_streams, *([check_terminal, check_progress] if has_terminals() else []))

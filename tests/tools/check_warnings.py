@@ -10,16 +10,12 @@ import http.server
 import json
 import pathlib
 import resource
-import subprocess
-import sys
-import tempfile
 import threading
 import time
 
-from sanitized import is_sanitized
+from command import arguments, failures, is_sanitized, run, same, test
 
-vyr, documents = (pathlib.Path(argument).resolve() for argument in sys.argv[1:3])
-failures = []
+documents = arguments[1]
 
 TIME = "<Vyr:ChangeHistory>2024-05-01T09:30:00Z</Vyr:ChangeHistory>"
 CONDITIONS = '<Vyr:ColorSpaceSpecificationSpectrumTristimulus xsi:nil="true"/>'
@@ -38,11 +34,6 @@ DOCUMENT = f"""<?xml version="1.0" encoding="UTF-8"?>
  </Vyr:Color>
 </Vyr:Vyr>
 """
-
-
-def run(*arguments, stdin=b""):
-    done = subprocess.run([vyr, *arguments], input=stdin, capture_output=True, timeout=60)
-    return done.returncode, done.stdout.decode(errors="replace"), done.stderr.decode(errors="replace")
 
 
 def changed(old, new):
@@ -71,8 +62,7 @@ def check_names():
     expect(DOCUMENT, [])
     for path in sorted(documents.glob("*.vyr")):
         # They are made by chance, which knows nothing of limits and wavelengths.
-        if (got := run("check", "--strict", "--ignore", "limits", "--ignore", "wavelengths", path)) != (0, "", ""):
-            failures.append(f"{path.name}: {got}")
+        same(path.name, run("check", "--strict", "--ignore", "limits", "--ignore", "wavelengths", path), (0, "", ""))
     twice = changed('UniqueID="b"', 'UniqueID="a"')
     expect(twice, [("duplicate-id", '<Vyr:Color ColorName="Ink 2"')])
     expect(twice, [("duplicate-id", '<Vyr:Color ColorName="Ink 2"')], "--strict", code=1)
@@ -104,8 +94,7 @@ def check_names():
         failures.append(f"no UTF-8: {got}")
     # A carriage return in a text doesn't survive a save.
     expect(changed("<Vyr:Creator>me", "<Vyr:Creator>m&#13;e"), [("unsavable", None)])
-    if run("check", "--ignore", "nothing", "-")[0] != 2:
-        failures.append("a warning that there isn't is no wrong usage")
+    same("a warning that there isn't", run("check", "--ignore", "nothing", "-")[0], 2)
     # Limits are looked at in faulty documents too.
     expect(changed("<Vyr:ColorSpaceCIELab>", """<Vyr:ColorSpaceGeneric><Vyr:Axis><Vyr:AxisValueChoice>
 <Vyr:AxisFloatingPointValue AxisNominalMax="1" AxisNominalMin="1.5">2</Vyr:AxisFloatingPointValue>
@@ -125,17 +114,15 @@ def check_conversion():
     text = text.replace("<Vyr:Purpose>test", "<Vyr:Purpose>0.1234567890123456789")
     code, _, err = run("convert", "-", "-", stdin=text.encode())
     names = [line[line.rindex("[") + 1:-1] for line in err.splitlines()]
-    if code != 0 or names != ["doctype", "comments", "instructions", "hints", "digits"]:
-        failures.append(f"convert: {code}, {names}\n{err}")
-    if run("convert", "--ignore", "all", "-", "-", stdin=text.encode())[2]:
-        failures.append("convert --ignore all warns")
+    same("convert", (code, names), (0, ["doctype", "comments", "instructions", "hints", "digits"]))
+    same("convert --ignore all", run("convert", "--ignore", "all", "-", "-", stdin=text.encode())[2], "")
 
 
 def bound_memory():
     resource.setrlimit(resource.RLIMIT_DATA, (1 << 30, 1 << 30))
 
 
-def check_strangers(folder):
+def check_strangers():
     """Whatever a document asks for, nothing is read elsewhere, and neither time nor memory runs away."""
     asked = []
 
@@ -147,7 +134,7 @@ def check_strangers(folder):
     server = http.server.HTTPServer(("127.0.0.1", 0), Server)
     threading.Thread(target=server.serve_forever, daemon=True).start()
     url = f"http://127.0.0.1:{server.server_port}"
-    secret = folder / "secret.txt"
+    secret = pathlib.Path("secret.txt").resolve()
     secret.write_text("very secret")
     bomb = "".join(f'<!ENTITY e{i} "{f"&e{i - 1};" * 20}">' for i in range(1, 12))
     declarations = {
@@ -166,18 +153,12 @@ def check_strangers(folder):
     cases["references"] = changed("<Vyr:Creator>me", "<Vyr:Creator>" + "&nothing;" * 200000)
     for name, text in cases.items():
         begin = time.monotonic()
-        done = subprocess.run([vyr, "check", "-"], input=text.encode(), capture_output=True, timeout=60,
-                              preexec_fn=None if is_sanitized(vyr) else bound_memory)
+        code, out, err = run("check", "-", stdin=text.encode(), preexec_fn=None if is_sanitized() else bound_memory)
         took = time.monotonic() - begin
-        if done.returncode not in (0, 1) or took > 30 or b"very secret" in done.stdout or len(done.stdout) > 1 << 20:
-            failures.append(f"{name}: {done.returncode} in {took:.1f} s: {done.stdout[:300]} {done.stderr[:300]}")
+        if code not in (0, 1) or took > 30 or "very secret" in out or len(out) > 1 << 20:
+            failures.append(f"{name}: {code} in {took:.1f} s: {out[:300]} {err[:300]}")
     server.shutdown()
-    if asked:
-        failures.append(f"the network was asked for {asked}")
+    same("what the network was asked for", asked, [])
 
 
-with tempfile.TemporaryDirectory() as name:
-    for check in (check_names, check_conversion, lambda: check_strangers(pathlib.Path(name))):
-        check()
-print("\n".join(failures) or "all warnings stand where they belong")
-sys.exit(bool(failures))
+test("all warnings stand where they belong", check_names, check_conversion, check_strangers)
