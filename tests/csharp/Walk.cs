@@ -3,12 +3,10 @@
 //
 // Loads a palette and looks at all its values, as walk.cpp does.
 //
-//     Walk.exe <palette.vyr> [points]      prints the sum of all numbers and the processor time in milliseconds;
-//                                          points: of spectra asks for each point, instead of all numbers at once
+//     Walk.exe <palette.vyr>      prints the sum of all numbers and the processor time in milliseconds
 
 using System;
 using System.Globalization;
-using System.Linq;
 using System.Runtime.InteropServices;
 using Vyr;
 
@@ -22,7 +20,6 @@ static class Walk
     {
         double sum = 0, started = Milliseconds(), loaded, walked;
         long units = 0;
-        bool byPoint = arguments.Length > 1;
         using (Document document = Document.Load(arguments[0]))
         {
             loaded = Milliseconds();
@@ -45,12 +42,8 @@ static class Walk
                             break;
                         case ColorSpaceChoice.Alternative.ColorSpaceSpectral:
                             ColorSpaceSpectralType spectral = value.AsColorSpaceSpectral;
-                            if (byPoint) sum += spectral.ReflectancePoints.Sum(point => point.Wavelength + point.Value);
-                            else
-                            {
-                                foreach (double wavelength in spectral.Wavelengths) sum += wavelength;
-                                foreach (double reflectance in spectral.Values) sum += reflectance;
-                            }
+                            foreach (double wavelength in spectral.Wavelengths) sum += wavelength;
+                            foreach (double reflectance in spectral.Values) sum += reflectance;
                             break;
                     }
                 }
