@@ -5,43 +5,13 @@
 /// allocated.
 
 #include <gtest/gtest.h>
-#include <malloc.h>
 
-#include <algorithm>
-#include <atomic>
-#include <cstdlib>
 #include <fstream>
-#include <new>
 #include <string>
 
 #include "schema/Vyr.h"
+#include "tests/heap.h"
 #include "tests/schema/support.h"
-
-namespace {
-
-std::atomic<std::size_t> live = 0;
-std::atomic<std::size_t> peak = 0;
-
-/// What the allocator keeps beside each block.
-constexpr std::size_t k_overhead = 8;
-
-}  // namespace
-
-// Hidden names would stay among the program's own.
-#pragma GCC visibility push(default)
-void* operator new(std::size_t size) {
-    void* const block = std::malloc(size);
-    if (block == nullptr) throw std::bad_alloc();
-    live += malloc_usable_size(block) + k_overhead;
-    peak = std::max(peak.load(), live.load());
-    return block;
-}
-void operator delete(void* block) noexcept {
-    if (block != nullptr) live -= malloc_usable_size(block) + k_overhead;
-    std::free(block);
-}
-void operator delete(void* block, std::size_t) noexcept { operator delete(block); }
-#pragma GCC visibility pop
 
 namespace vyr_test {
 namespace {
@@ -51,10 +21,7 @@ using namespace lmx;
 /// So many times the size of the text is what the load takes at most.
 template <class Load>
 double growth(const std::string& text, Load load) {
-    const std::size_t before = live;
-    peak = before;
-    load(text);
-    return static_cast<double>(peak - before) / static_cast<double>(text.size());
+    return static_cast<double>(heap_of([&] { load(text); })) / static_cast<double>(text.size());
 }
 
 /// The figure ahead of a phrase of the guide.
