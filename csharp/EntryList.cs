@@ -12,24 +12,26 @@ namespace Vyr
     {
         internal readonly VyrObject Owner;
         readonly string name;
+        readonly ListCalls calls;
 
-        internal EntryList(VyrObject owner, string name)
+        internal EntryList(VyrObject owner, string name, ListCalls calls)
         {
             Owner = owner;
             this.name = name;
+            this.calls = calls;
         }
 
         /// <summary>Throws for a code that is no success.</summary>
         internal void Demand(int code) => Owner.Demand(code, name);
 
         /// <summary>How many entries there are.</summary>
-        public int Count => checked((int)Owner.Kept(Size(Owner.Pointer)));
+        public int Count => checked((int)Owner.Kept(calls.Size(Owner.Pointer)));
 
         /// <summary>Removes the entry; what comes behind it moves up.</summary>
         /// <exception cref="ArgumentOutOfRangeException">There is no such entry.</exception>
         public void RemoveAt(int index)
         {
-            Delete(Owner.Pointer, Existing(index));
+            calls.Delete(Owner.Pointer, Existing(index));
             Owner.Keep();
             RemoveEntry(index);
         }
@@ -37,14 +39,10 @@ namespace Vyr
         /// <summary>Removes all entries.</summary>
         public void Clear()
         {
-            DeleteAll(Owner.Pointer);
+            calls.Clear(Owner.Pointer);
             Owner.Keep();
             RemoveEntriesFrom(0);
         }
-
-        internal abstract uint Size(IntPtr owner);
-        internal abstract void Delete(IntPtr owner, uint index);
-        internal abstract void DeleteAll(IntPtr owner);
 
         /// <summary>The library has deleted an entry.</summary>
         internal virtual void RemoveEntry(int index) { }
@@ -71,7 +69,7 @@ namespace Vyr
         readonly ObjectListCalls<T> calls;
         T[] known; // those that were asked for, by index; may be shorter than the list, and longer with nulls
 
-        internal ObjectList(VyrObject owner, string name, ObjectListCalls<T> calls) : base(owner, name)
+        internal ObjectList(VyrObject owner, string name, ObjectListCalls<T> calls) : base(owner, name, calls)
         {
             this.calls = calls;
             known = calls.None;
@@ -160,9 +158,6 @@ namespace Vyr
             return this[place];
         }
 
-        internal override uint Size(IntPtr owner) => calls.Size(owner);
-        internal override void Delete(IntPtr owner, uint index) => calls.Delete(owner, index);
-        internal override void DeleteAll(IntPtr owner) => calls.Clear(owner);
 
         internal override void RemoveEntry(int index)
         {
@@ -187,7 +182,7 @@ namespace Vyr
     /// <typeparam name="T">The type of the values.</typeparam>
     public abstract class ValueList<T> : EntryList, IReadOnlyList<T>
     {
-        internal ValueList(VyrObject owner, string name) : base(owner, name) { }
+        internal ValueList(VyrObject owner, string name, ListCalls calls) : base(owner, name, calls) { }
 
         /// <summary>A value.</summary>
         /// <exception cref="ArgumentOutOfRangeException">There is no such value.</exception>
@@ -225,7 +220,7 @@ namespace Vyr
     {
         readonly ValueListCalls<string> calls;
 
-        internal TextList(VyrObject owner, string name, ValueListCalls<string> calls) : base(owner, name)
+        internal TextList(VyrObject owner, string name, ValueListCalls<string> calls) : base(owner, name, calls)
         {
             this.calls = calls;
         }
@@ -239,9 +234,6 @@ namespace Vyr
         {
             Demand(calls.Insert(Owner.Pointer, index, Library.Whole(value)));
         }
-        internal override uint Size(IntPtr owner) => calls.Size(owner);
-        internal override void Delete(IntPtr owner, uint index) => calls.Delete(owner, index);
-        internal override void DeleteAll(IntPtr owner) => calls.Clear(owner);
     }
 
     /// <summary>Times of an element that may repeat; <see cref="Texts"/> are the same as they are written.</summary>
@@ -250,7 +242,8 @@ namespace Vyr
     {
         readonly DateTimeTextList texts;
 
-        internal DateTimeList(VyrObject owner, string name, ValueListCalls<IntPtr> calls, string pattern) : base(owner, name)
+        internal DateTimeList(VyrObject owner, string name, ValueListCalls<IntPtr> calls, string pattern)
+            : base(owner, name, calls)
         {
             texts = new DateTimeTextList(owner, name, calls, pattern);
         }
@@ -268,9 +261,6 @@ namespace Vyr
         {
             texts.InsertBefore(index, DateTimeText.Format(value));
         }
-        internal override uint Size(IntPtr owner) => texts.Size(owner);
-        internal override void Delete(IntPtr owner, uint index) => texts.Delete(owner, index);
-        internal override void DeleteAll(IntPtr owner) => texts.DeleteAll(owner);
     }
 
     internal sealed class DateTimeTextList : ValueList<string>
@@ -279,7 +269,7 @@ namespace Vyr
         readonly string pattern;
 
         internal DateTimeTextList(VyrObject owner, string name, ValueListCalls<IntPtr> calls, string pattern)
-            : base(owner, name)
+            : base(owner, name, calls)
         {
             this.calls = calls;
             this.pattern = pattern;
@@ -294,9 +284,6 @@ namespace Vyr
         {
             Demand(DateTimeText.Give(value, pattern, time => calls.Insert(Owner.Pointer, index, time)));
         }
-        internal override uint Size(IntPtr owner) => calls.Size(owner);
-        internal override void Delete(IntPtr owner, uint index) => calls.Delete(owner, index);
-        internal override void DeleteAll(IntPtr owner) => calls.Clear(owner);
     }
 
     /// <summary>Elements of any kind, each as the text that stands in the document.</summary>
@@ -304,7 +291,7 @@ namespace Vyr
     {
         readonly MarkupListCalls calls;
 
-        internal MarkupList(VyrObject owner, string name, MarkupListCalls calls) : base(owner, name)
+        internal MarkupList(VyrObject owner, string name, MarkupListCalls calls) : base(owner, name, calls)
         {
             this.calls = calls;
         }
@@ -330,44 +317,38 @@ namespace Vyr
         }
 
         IEnumerator IEnumerable.GetEnumerator() => GetEnumerator();
-
-        internal override uint Size(IntPtr owner) => calls.Size(owner);
-        internal override void Delete(IntPtr owner, uint index) => calls.Delete(owner, index);
-        internal override void DeleteAll(IntPtr owner) => calls.Clear(owner);
     }
 
     // The functions of one list of one class
 
-    internal sealed class ObjectListCalls<T>
+    internal abstract class ListCalls
+    {
+        internal Func<IntPtr, uint> Size;
+        internal Action<IntPtr, uint> Delete;
+        internal Action<IntPtr> Clear;
+    }
+
+    internal sealed class ObjectListCalls<T> : ListCalls
     {
         internal readonly T[] None = { };
         internal Func<Handle, T> Make;
-        internal Func<IntPtr, uint> Size;
         internal Func<IntPtr, uint, IntPtr> Get; // beyond the end it would make the list longer
         internal Func<IntPtr, uint, IntPtr, IntPtr> Assign;
         internal Func<IntPtr, int> Append;
         internal Func<IntPtr, uint, int> Insert;
-        internal Action<IntPtr, uint> Delete;
-        internal Action<IntPtr> Clear;
     }
 
-    internal sealed class ValueListCalls<T>
+    internal sealed class ValueListCalls<T> : ListCalls
     {
-        internal Func<IntPtr, uint> Size;
         internal Func<IntPtr, uint, T> Get;
         internal Func<IntPtr, uint, T, int> Set;
         internal Func<IntPtr, uint, T, int> Insert;
-        internal Action<IntPtr, uint> Delete;
-        internal Action<IntPtr> Clear;
     }
 
-    internal sealed class MarkupListCalls
+    internal sealed class MarkupListCalls : ListCalls
     {
         internal IntPtr Item;
-        internal Func<IntPtr, uint> Size;
         internal Func<IntPtr, byte[], int> Append;
         internal Func<IntPtr, uint, byte[], int> Insert;
-        internal Action<IntPtr, uint> Delete;
-        internal Action<IntPtr> Clear;
     }
 }
