@@ -14,38 +14,6 @@ namespace {
 using namespace lmx;
 using namespace lmx_test;
 
-/// Scans up to the end of input or the first error: `<a b=v >`, `'text'`, `</a>`, `$` for the end, `!` for an error.
-std::string scan(s_scanner& scanner) {
-    std::string trace;
-    const std::string& text = scanner.text;
-    for (;;) {
-        switch (scanner.element()) {
-            case ELXP_END_OF_INPUT:
-                return trace + '$';
-            case ELXP_TEXT:
-                trace += '\'' + text + '\'';
-                break;
-            case ELXP_END_TAG:
-                trace += "</" + text + '>';
-                break;
-            case ELXP_NAME: {
-                trace += '<' + text;
-                int event = scanner.attribute();
-                for (; event == ELXP_NAME; event = scanner.attribute()) {
-                    trace += ' ' + text + '=';
-                    const bool is_read = scanner.attribute_value();
-                    trace += text + (is_read ? "" : "?");
-                }
-                if (event == ELXP_ERROR) return trace + '!';
-                trace += event == ELXP_END_TAG ? "/>" : ">";
-                break;
-            }
-            default:
-                return trace + '!';
-        }
-    }
-}
-
 struct s_scan_case {
     const char* document;
     const char* trace;

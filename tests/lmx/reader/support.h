@@ -76,6 +76,38 @@ struct s_scanner {
     std::string text;
 };
 
+/// Scans up to the end of input or the first error: `<a b=v >`, `'text'`, `</a>`, `$` for the end, `!` for an error.
+inline std::string scan(s_scanner& scanner) {
+    std::string trace;
+    const std::string& text = scanner.text;
+    for (;;) {
+        switch (scanner.element()) {
+            case lmx::ELXP_END_OF_INPUT:
+                return trace + '$';
+            case lmx::ELXP_TEXT:
+                trace += '\'' + text + '\'';
+                break;
+            case lmx::ELXP_END_TAG:
+                trace += "</" + text + '>';
+                break;
+            case lmx::ELXP_NAME: {
+                trace += '<' + text;
+                int event = scanner.attribute();
+                for (; event == lmx::ELXP_NAME; event = scanner.attribute()) {
+                    trace += ' ' + text + '=';
+                    const bool is_read = scanner.attribute_value();
+                    trace += text + (is_read ? "" : "?");
+                }
+                if (event == lmx::ELXP_ERROR) return trace + '!';
+                trace += event == lmx::ELXP_END_TAG ? "/>" : ">";
+                break;
+            }
+            default:
+                return trace + '!';
+        }
+    }
+}
+
 /// A file that is removed again. Its name is unique in the test's working directory.
 class c_scratch_file {
 public:
