@@ -21,7 +21,7 @@ void release(std::string& piece) { std::string().swap(piece); }
 c_long_text& c_long_text::append(std::string_view text) {
     m_size += text.size();
     if (m_pieces.empty()) m_pieces.emplace_back();
-    if (m_pieces.back().size() + text.size() > k_longest_piece) m_pieces.emplace_back().reserve(k_piece);
+    if (m_pieces.back().size() + text.size() > k_longest_piece) m_pieces.emplace_back().reserve(k_longest_piece);
     m_pieces.back() += text;
     return *this;
 }
