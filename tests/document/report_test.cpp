@@ -500,13 +500,13 @@ TEST(Report, OfASaveNamesWhatCouldNotBeReadBack) {
     for (const std::u16string token : {u"1 2", u"", u" 1", u"1 ", u"1  2", u"1\t2", u"1\v2"}) {
         document.reset();
         ASSERT_EQ(document.unmarshal(k_document), ELMX_OK);
-        Version& version = document.get_Preamble().get_Header().get_Version();
+        Version& version = document.get_Preamble().get_Version();
         version.set_Version(u"3");
         version.append_Predecessor(token);
         const std::size_t faults = writeStringWithReport(document, &text).getFaultCount();
         Vyr back;
         ASSERT_EQ(back.loadString(text), ELMX_OK);
-        const bool is_back = back.get_Preamble().get_Header().get_Version().get_Predecessor(0) == token;
+        const bool is_back = back.get_Preamble().get_Version().get_Predecessor(0) == token;
         EXPECT_EQ(faults, is_back ? 0U : 1U) << convert_to_narrow(token);
     }
 }
