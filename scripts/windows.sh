@@ -4,24 +4,27 @@
 #
 # Builds for Windows on a Debian 12 machine, warnings as errors, in build/windows32 or build/windows64, and compares the
 # names that the DLL exports; with `test` runs all tests under wine and counts them, with `package` makes a ZIP to
-# publish. What that takes and no package brings is made once, below build/windows: static libraries, and for running
-# programs of 32 bits a small Debian with wine in it.
+# publish; with `quick` builds the DLLs and the hosts in C only, without optimisation, and compares the names. What that
+# takes and no package brings is made once, below build/windows: static libraries, and for running programs of 32 bits a
+# small Debian with wine in it.
 #
-#   scripts/windows.sh 32|64 [test|package]
+#   scripts/windows.sh 32|64 [test|package|quick]
 
 set -euo pipefail
 cd "$(dirname "$0")/.."
 
 bits=${1:-}
 job=${2:-build}
-if [[ ! $bits =~ ^(32|64)$ || ! $job =~ ^(build|test|package)$ || $# -gt 2 ]]; then
-    echo "windows.sh: say which width: windows.sh 32|64 [test|package]" >&2
+if [[ ! $bits =~ ^(32|64)$ || ! $job =~ ^(build|test|package|quick)$ || $# -gt 2 ]]; then
+    echo "windows.sh: say which width: windows.sh 32|64 [test|package|quick]" >&2
     exit 2
 fi
 [[ $bits == 32 ]] && triple=i686-w64-mingw32 || triple=x86_64-w64-mingw32
 home=$PWD/build/windows
 libraries=$home/$bits
 preset=windows$bits
+build=build/$preset
+[[ $job != quick ]] || build+=-quick
 as_root=()
 [[ $(id -u) -eq 0 ]] || as_root=(sudo)
 
@@ -148,7 +151,7 @@ set_up_wine() {
 
 # What CTest says, with the cases of each GoogleTest program in place of the program.
 count_results() {
-    python3 - "$PWD/build/$preset" << 'EOF'
+    python3 - "$PWD/$build" << 'EOF'
 import pathlib, sys
 import xml.etree.ElementTree as xml
 build = pathlib.Path(sys.argv[1])
@@ -178,9 +181,9 @@ EOF
 
 # run_tests COMMAND...: a command that ends in ctest with its options.
 run_tests() {
-    rm -f "build/$preset"/results.xml "build/$preset"/tests/*.scratch/results.xml
+    rm -f "$build"/results.xml "$build"/tests/*.scratch/results.xml
     local code=0
-    "$@" --output-junit "$PWD/build/$preset/results.xml" || code=$?
+    "$@" --test-dir "$build" --output-on-failure --no-tests=error --output-junit "$PWD/$build/results.xml" || code=$?
     count_results || code=1
     return "$code"
 }
@@ -191,7 +194,7 @@ make_package() {
     stage=$home/package$bits/vyr-$version-windows$bits
     rm -rf "$home/package$bits"
     for component in runtime development tool; do
-        cmake --install "build/$preset" --prefix "$stage" --component "$component" --strip > /dev/null
+        cmake --install "$build" --prefix "$stage" --component "$component" --strip > /dev/null
     done
     # The compiler's DLLs come with all that a debugger could want.
     "$triple-strip" --strip-unneeded "$stage"/bin/lib*.dll
@@ -199,21 +202,27 @@ make_package() {
     cp LICENSE "$stage/licenses/vyr.txt"
     cp "$libraries"/licenses/*.txt "$stage/licenses"
     cp docs/windows.md "$stage/README.md"
-    rm -f "build/$preset"/*.zip
-    local target=$PWD/build/$preset/vyr-$version-windows$bits.zip
+    rm -f "$build"/*.zip
+    local target=$PWD/$build/vyr-$version-windows$bits.zip
     (cd "$home/package$bits" && cmake -E tar cf "$target" --format=zip -- *)
     ls -l "$target" "$stage/bin" "$stage/bin/self-contained"
 }
 
 build_libraries
-cmake --preset "$preset" -DVYR_BUILD_TESTS=ON -DVYR_WARNINGS_AS_ERRORS=ON
-cmake --build --preset "$preset"
+options=(-DVYR_BUILD_TESTS=ON -DVYR_WARNINGS_AS_ERRORS=ON)
+targets=(all)
+if [[ $job == quick ]]; then
+    options+=(-DVYR_BUILD_TOOLS=OFF -DCMAKE_CXX_FLAGS_RELEASE=-O0)
+    targets=(vyr vyr_self_contained tests_flat windows_host)
+fi
+cmake --preset "$preset" -B "$build" "${options[@]}"
+cmake --build "$build" --target "${targets[@]}"
 case $job in
     # Without wine: what can be told by looking at the files.
-    build) run_tests ctest --preset "$preset" --label-regex once ;;
+    build | quick) run_tests ctest --label-regex once ;;
     package) make_package ;;
     test)
         set_up_wine
-        run_tests scripts/wine.sh "$bits" --session ctest --preset "$preset" --parallel "$(nproc)"
+        run_tests scripts/wine.sh "$bits" --session ctest --parallel "$(nproc)"
         ;;
 esac
