@@ -46,7 +46,8 @@ TEST(Report, SaysOfEachBadDocumentWhereAndWhy) {
         const DocumentReport report = loadFileWithReport(document, path, {.collect = true});
         std::string expected;
         std::istringstream rows(text);
-        for (std::string row; std::getline(rows, row);) expected += (folder / row).string() + '\n';
+        const std::string start = path.substr(0, path.size() - file.size());
+        for (std::string row; std::getline(rows, row);) expected += start + row + '\n';
         EXPECT_EQ(report.toString(), expected);
         Vyr plain;
         EXPECT_EQ(report.getCode(), plain.unmarshal(path.c_str()));
