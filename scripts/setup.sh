@@ -18,7 +18,8 @@ declare -A packages=(
     [csharp]="mono-mcs mono-runtime"
     [python]="python3-dev python3-numpy python3-pytest python3-pip python3-setuptools python3-wheel mypy"
     [science]="python3-pandas python3-matplotlib python3-dask"
-    [windows]="g++-mingw-w64-i686-posix g++-mingw-w64-x86-64-posix libz-mingw-w64-dev dpkg-dev googletest"
+    [windows]="g++-mingw-w64-i686-posix g++-mingw-w64-x86-64-posix libz-mingw-w64-dev dpkg-dev googletest
+        libclang-rt-14-dev"
     [wine]="debootstrap wine wine64"
     [package]="dpkg-dev file"
     [bench]="libbenchmark-dev libpugixml-dev"

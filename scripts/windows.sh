@@ -80,7 +80,7 @@ cross_build() {
 }
 
 build_libraries() {
-    made "$libraries" 1 && return
+    made "$libraries" 2 && return
     fetch_sources
     rm -rf "$libraries"
     mkdir -p "$libraries/include" "$libraries/lib" "$libraries/bin" "$libraries/share/cmake" "$libraries/licenses"
@@ -108,6 +108,8 @@ build_libraries() {
         cp "/usr/$triple/include"/{zlib,zconf}.h "$libraries/include"
         # Headers alone, which lie among this system's other ones.
         cp -r /usr/include/CLI /usr/include/nlohmann "$libraries/include"
+        mkdir "$libraries/include/fuzzer"
+        cp /usr/lib/llvm-14/lib/clang/*/include/fuzzer/FuzzedDataProvider.h "$libraries/include/fuzzer"
         cp -r /usr/share/cmake/CLI11 /usr/share/cmake/nlohmann_json "$libraries/share/cmake"
         # What programs built here need beside them.
         cp "/usr/lib/gcc/$triple/12-posix"/lib{stdc++-6,gcc_s_*-1}.dll "/usr/$triple/lib/libwinpthread-1.dll" \
@@ -120,7 +122,7 @@ build_libraries() {
             cp /usr/share/doc/mingw-w64-common/copyright "$libraries/licenses/mingw-w64.txt"
     } > "$log" 2>&1
     log=
-    finish "$libraries" 1
+    finish "$libraries" 2
 }
 
 # wine of 32 bits is no package of a system of 64, so it gets a system of its own.
