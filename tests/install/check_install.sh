@@ -129,7 +129,8 @@ needed by_package_shared/first | grep "$soname" > /dev/null || fail "the program
 # The static library would be made of the same objects: they are taken from this build, not compiled again.
 "$cmake" -G Ninja -S "$source" -B static_build -DCMAKE_CXX_COMPILER="$compiler" -DCMAKE_BUILD_TYPE=Release \
     -DBUILD_SHARED_LIBS=OFF -DVYR_BUILD_TESTS=OFF -DVYR_BUILD_TOOLS=OFF -DVYR_BUILD_FLAT=OFF > log
-find "$build/CMakeFiles/vyr.dir" -name '*.o' -print0 | xargs -0 ar -qc static_build/libvyr.a
+(cd "$build" && ninja -t inputs libvyr.so | grep '^CMakeFiles/vyr\.dir/.*\.o$' |
+    xargs ar -qc "$work/static_build/libvyr.a")
 "$cmake" --install static_build --prefix "$work/static" > install.log
 ! find static -name '*.so*' | grep . || fail "a static installation holds a shared library"
 consume static --static
