@@ -34,13 +34,8 @@ PyObject* to_python(const DocumentFault& fault) {
 }
 
 PyObject* to_python(const DocumentReport& report) {
-    const auto count = static_cast<Py_ssize_t>(report.getFaultCount());
-    c_ref faults(PyList_New(count));
-    for (Py_ssize_t i = 0; faults && i < count; ++i) {
-        PyObject* const fault = to_python(report.getFault(static_cast<std::size_t>(i)));
-        if (fault == nullptr) return nullptr;
-        PyList_SetItem(faults.get(), i, fault);
-    }
+    c_ref faults(make_list(static_cast<Py_ssize_t>(report.getFaultCount()),
+                           [&](Py_ssize_t i) { return to_python(report.getFault(static_cast<std::size_t>(i))); }));
     if (!faults) return nullptr;
     return Py_BuildValue("(iNniis)", static_cast<int>(report.getCode()), faults.release(),
                          static_cast<Py_ssize_t>(report.getTotalCount()), static_cast<int>(report.isReadToEnd()),
@@ -60,9 +55,7 @@ DocumentReport take(void* report) {
     return std::move(*owned);
 }
 
-s_object* as_object(const c_ref& object) { return reinterpret_cast<s_object*>(object.get()); }
-
-bool is_whole(const s_object* object) { return object->type == find_class("Vyr"); }
+bool is_whole(const s_object* object) { return object->type == find_class("Vyr")->type; }
 
 /// Nobody else touches the object for as long as the lock is released.
 class c_busy {
@@ -96,9 +89,9 @@ PyObject* load_file(PyObject*, PyObject* arguments) {
     return guarded<PyObject*>(nullptr, [&]() -> PyObject* {
         c_ref made(reinterpret_cast<PyObject*>(new_root(type)));
         if (!made) return nullptr;
-        void* const data = as_object(made)->data;
+        void* const data = as_object(made.get())->data;
         const std::string name = PyBytes_AsString(path);
-        const bool is_document = is_whole(as_object(made));
+        const bool is_document = is_whole(as_object(made.get()));
         DocumentReport report;
         unlocked([&] {
             const auto kept = static_cast<std::size_t>(limit);
@@ -124,8 +117,9 @@ PyObject* load_memory(PyObject*, PyObject* arguments) {
     return guarded<PyObject*>(nullptr, [&]() -> PyObject* {
         c_ref made(reinterpret_cast<PyObject*>(new_root(type)));
         if (!made) return nullptr;
-        if (!is_whole(as_object(made))) return PyErr_Format(PyExc_TypeError, "objects of this class are files only");
-        Vyr& document = *static_cast<Vyr*>(as_object(made)->data);
+        if (!is_whole(as_object(made.get())))
+            return PyErr_Format(PyExc_TypeError, "objects of this class are files only");
+        Vyr& document = *static_cast<Vyr*>(as_object(made.get())->data);
         const ReportOptions options{.collect = collect != 0, .limit = static_cast<std::size_t>(limit), .name = name};
         DocumentReport report;
         if (PyUnicode_Check(source)) {
@@ -147,7 +141,7 @@ PyObject* save_file(PyObject*, PyObject* arguments) {
     PyObject* self = nullptr;
     PyObject* path = nullptr;
     if (!PyArg_ParseTuple(arguments, "O!S", object_type(), &self, &path)) return nullptr;
-    auto* const object = reinterpret_cast<s_object*>(self);
+    s_object* const object = as_object(self);
     void* const data = data_of(object);
     const lmx::s_named_class* const element = data == nullptr ? nullptr : element_of(Py_TYPE(self));
     if (element == nullptr) return nullptr;
@@ -169,7 +163,7 @@ PyObject* save_file(PyObject*, PyObject* arguments) {
 PyObject* save_text(PyObject*, PyObject* arguments) {
     PyObject* self = nullptr;
     if (!PyArg_ParseTuple(arguments, "O!", object_type(), &self)) return nullptr;
-    auto* const object = reinterpret_cast<s_object*>(self);
+    s_object* const object = as_object(self);
     void* const data = data_of(object);
     if (data == nullptr) return nullptr;
     return guarded<PyObject*>(nullptr, [&]() -> PyObject* {

@@ -40,7 +40,7 @@ bool insert_object(const s_property& property, s_object* owner, std::size_t inde
     const s_item& row = *property.row;
     const s_item* alternative = nullptr;
     if (row.type->choice != lmx::k_no_flag && PyObject_TypeCheck(value, object_type())) {
-        alternative = alternative_for(*row.type, *reinterpret_cast<s_object*>(value)->type);
+        alternative = alternative_for(*row.type, *as_object(value)->type);
     }
     s_object* const source = expect(value, alternative != nullptr ? *alternative->type : *row.type,
                                     row.name.empty() ? row.type->name : row.name.data());
@@ -104,11 +104,13 @@ Py_ssize_t size_of(const s_list& list) {
 
 Py_ssize_t length(PyObject* self) { return size_of(as_list(self)); }
 
+PyObject* no_entry(Py_ssize_t size) { return PyErr_Format(PyExc_IndexError, "the list has %zd entries", size); }
+
 PyObject* get_entry(PyObject* self, Py_ssize_t index) {
     const s_list& list = as_list(self);
     const Py_ssize_t size = size_of(list);
     if (size < 0) return nullptr;
-    if (index < 0 || index >= size) return PyErr_Format(PyExc_IndexError, "the list has %zd entries", size);
+    if (index < 0 || index >= size) return no_entry(size);
     return guarded<PyObject*>(nullptr,
                               [&] { return entry(*list.property, list.owner, static_cast<std::size_t>(index)); });
 }
@@ -119,7 +121,7 @@ Py_ssize_t index_of(PyObject* key, Py_ssize_t size) {
     if (index == -1 && PyErr_Occurred() != nullptr) return -1;
     const Py_ssize_t found = index < 0 ? index + size : index;
     if (found >= 0 && found < size) return found;
-    PyErr_Format(PyExc_IndexError, "the list has %zd entries", size);
+    no_entry(size);
     return -1;
 }
 
@@ -136,13 +138,7 @@ bool read_slice(PyObject* key, Py_ssize_t size, s_slice* slice) {
 PyObject* get_slice(PyObject* self, PyObject* key, Py_ssize_t size) {
     s_slice slice{};
     if (!read_slice(key, size, &slice)) return nullptr;
-    c_ref result(PyList_New(slice.count));
-    for (Py_ssize_t i = 0; result && i < slice.count; ++i) {
-        PyObject* const value = get_entry(self, slice.start + i * slice.step);
-        if (value == nullptr) return nullptr;
-        PyList_SetItem(result.get(), i, value);
-    }
-    return result.release();
+    return make_list(slice.count, [&](Py_ssize_t i) { return get_entry(self, slice.start + i * slice.step); });
 }
 
 PyObject* subscript(PyObject* self, PyObject* key) {
@@ -251,15 +247,11 @@ PyObject* texts(PyObject* self, void*) {
     if (size < 0) return nullptr;
     if (row.value != value_kind::datetime)
         return PyErr_Format(PyExc_AttributeError, "%U has no times", list.property->name);
-    return guarded<PyObject*>(nullptr, [&]() -> PyObject* {
-        c_ref result(PyList_New(size));
-        for (Py_ssize_t i = 0; result && i < size; ++i) {
+    return guarded<PyObject*>(nullptr, [&] {
+        return make_list(size, [&](Py_ssize_t i) {
             const void* const time = entries(row, list.owner->data).entry(static_cast<std::size_t>(i));
-            PyObject* const text = from_narrow(static_cast<const lmx::c_datetime*>(time)->get_as_string());
-            if (text == nullptr) return nullptr;
-            PyList_SetItem(result.get(), i, text);
-        }
-        return result.release();
+            return from_narrow(static_cast<const lmx::c_datetime*>(time)->get_as_string());
+        });
     });
 }
 
@@ -310,10 +302,8 @@ PyObject* list_of(s_object* owner, s_property* property) {
                                                      : package.list;
     PyObject* const made = PyType_GenericAlloc(reinterpret_cast<PyTypeObject*>(type), 0);
     if (made == nullptr) return nullptr;
-    Py_INCREF(reinterpret_cast<PyObject*>(owner));
-    Py_INCREF(reinterpret_cast<PyObject*>(property));
-    as_list(made).owner = owner;
-    as_list(made).property = property;
+    as_list(made).owner = as_object(Py_NewRef(reinterpret_cast<PyObject*>(owner)));
+    as_list(made).property = as_property(Py_NewRef(reinterpret_cast<PyObject*>(property)));
     return made;
 }
 
@@ -355,7 +345,7 @@ PyObject* held(PyObject*, PyObject* arguments) {
             const s_class& type = *choices.row->type;
             for (std::size_t k = 0; k < entries(*choices.row, owner->data).size(); ++k) {
                 void* const place = entries(*choices.row, owner->data).entry(k);
-                if (lmx::chosen_row(type, lmx::choice_of(type, place)) != alternative.row) continue;
+                if (!is_chosen(type, *alternative.row, place)) continue;
                 const c_ref number(PyLong_FromSsize_t(i));
                 const c_ref choice(part(owner, place, type));
                 const c_ref value(choice ? PyObject_GetAttr(choice.get(), alternative.name) : nullptr);
@@ -381,7 +371,7 @@ PyObject* first_chosen(PyObject*, PyObject* arguments) {
     if (row.type != alternative.owner) return PyErr_Format(PyExc_TypeError, "the list has no such entries");
     for (Py_ssize_t i = 0; i < size; ++i) {
         const void* const place = entries(row, list.owner->data).entry(static_cast<std::size_t>(i));
-        if (lmx::chosen_row(*row.type, lmx::choice_of(*row.type, place)) != alternative.row) continue;
+        if (!is_chosen(*row.type, *alternative.row, place)) continue;
         const c_ref holder(get_entry(self, i));
         return holder ? PyObject_GetAttr(holder.get(), alternative.name) : nullptr;
     }

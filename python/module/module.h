@@ -52,6 +52,18 @@ private:
     PyObject* m_object = nullptr;
 };
 
+/// A list of Python with what a function gives for each index; null with an exception set if it gives null.
+template <class Make>
+PyObject* make_list(Py_ssize_t count, Make&& make) {
+    c_ref list(PyList_New(count));
+    for (Py_ssize_t i = 0; list && i < count; ++i) {
+        PyObject* const value = make(i);
+        if (value == nullptr) return nullptr;
+        PyList_SetItem(list.get(), i, value);
+    }
+    return list.release();
+}
+
 /// Runs what may throw; a C++ exception becomes one of Python's, and the result `failed`.
 template <class Result, class Action>
 Result guarded(Result failed, Action&& action) {
@@ -107,6 +119,7 @@ struct s_object {
 };
 
 PyTypeObject* object_type();
+inline s_object* as_object(PyObject* value) { return reinterpret_cast<s_object*>(value); }
 /// The handle on a part; made if there is none.
 PyObject* part(s_object* owner, void* data, const s_class& type);
 /// A new object of its own, of a Python class.
@@ -125,7 +138,9 @@ const s_class& class_of(const s_item& row, const void* object);
 void* copy_of(const s_object* source);
 const lmx::s_named_class* named_class(PyTypeObject* type);
 /// A class by its name in the format; null if there is none.
-const s_class* find_class(std::string_view name);
+const lmx::s_named_class* find_class(std::string_view name);
+/// Whether a choice holds an alternative.
+bool is_chosen(const s_class& choice, const s_item& alternative, const void* data);
 
 // Descriptors
 

@@ -42,7 +42,6 @@ s_classes& classes() {
 
 PyTypeObject* the_object_type = nullptr;
 
-s_object* as_object(PyObject* object) { return reinterpret_cast<s_object*>(object); }
 PyObject* as_python(s_object* object) { return reinterpret_cast<PyObject*>(object); }
 
 s_object* allocate(PyTypeObject* type) { return as_object(PyType_GenericAlloc(type, 0)); }
@@ -93,15 +92,14 @@ PyObject* init_subclass(PyObject* cls, PyObject*) {
     if (text == nullptr) return nullptr;
     auto* const type = reinterpret_cast<PyTypeObject*>(cls);
     return guarded<PyObject*>(nullptr, [&]() -> PyObject* {
-        for (const lmx::s_named_class& known : com_vyrgraph_v2::all_classes()) {
-            if (known.name != text) continue;
-            classes().named.emplace(type, &known);
-            // The first is the package's; a user may derive from it.
-            const bool is_own = known.name == known.type->name;
-            if (is_own && classes().types.emplace(known.type, type).second) Py_INCREF(cls);
-            Py_RETURN_NONE;
-        }
-        return PyErr_Format(PyExc_ValueError, "the format has no class %s", text);
+        const lmx::s_named_class* const known = find_class(text);
+        if (known == nullptr) return PyErr_Format(PyExc_ValueError, "the format has no class %s", text);
+        // A user's class may lie where one lay that is gone.
+        classes().named.insert_or_assign(type, known);
+        // The first is the package's; a user may derive from it.
+        const bool is_own = known->name == known->type->name;
+        if (is_own && classes().types.emplace(known->type, type).second) Py_INCREF(cls);
+        Py_RETURN_NONE;
     });
 }
 
@@ -186,11 +184,15 @@ const lmx::s_named_class* named_class(PyTypeObject* type) {
     return found == classes().named.end() ? nullptr : found->second;
 }
 
-const s_class* find_class(std::string_view name) {
+const lmx::s_named_class* find_class(std::string_view name) {
     for (const lmx::s_named_class& known : com_vyrgraph_v2::all_classes()) {
-        if (known.name == name) return known.type;
+        if (known.name == name) return &known;
     }
     return nullptr;
+}
+
+bool is_chosen(const s_class& choice, const s_item& alternative, const void* data) {
+    return lmx::chosen_row(choice, lmx::choice_of(choice, data)) == &alternative;
 }
 
 s_object* new_root(PyTypeObject* type) {
@@ -215,10 +217,7 @@ s_object* new_root(PyTypeObject* type) {
 PyObject* part(s_object* owner, void* data, const s_class& type) {
     auto& parts = live_parts();
     const auto [place, is_new] = parts.try_emplace({data, &type}, nullptr);
-    if (!is_new) {
-        Py_INCREF(as_python(place->second));
-        return as_python(place->second);
-    }
+    if (!is_new) return Py_NewRef(as_python(place->second));
     const auto known = classes().types.find(&type);
     s_object* object = nullptr;
     if (known == classes().types.end()) {
@@ -234,8 +233,7 @@ PyObject* part(s_object* owner, void* data, const s_class& type) {
     object->data = data;
     object->type = &type;
     object->root = owner->root;
-    object->owner = owner;
-    Py_INCREF(as_python(owner));
+    object->owner = as_object(Py_NewRef(as_python(owner)));
     object->next = owner->first_part;
     if (object->next != nullptr) object->next->previous = object;
     owner->first_part = object;

@@ -25,9 +25,8 @@ void* place_of_alternative(const s_item& row, lmx::s_choice& choice) {
 
 PyObject* get_alternative(const s_property& property, s_object* object, void* data) {
     const s_item& row = *property.row;
-    lmx::s_choice& choice = lmx::choice_of(*property.owner, data);
-    if (lmx::chosen_row(*property.owner, choice) != &row) Py_RETURN_NONE;
-    void* const place = place_of_alternative(row, choice);
+    if (!is_chosen(*property.owner, row, data)) Py_RETURN_NONE;
+    void* const place = place_of_alternative(row, lmx::choice_of(*property.owner, data));
     if (row.type == nullptr) return to_python(property, place);
     if (place == nullptr) Py_RETURN_NONE;
     return part(object, place, class_of(row, place));
@@ -154,7 +153,7 @@ s_object* owner_of(const s_property& property, PyObject* object) {
         PyErr_SetString(PyExc_TypeError, "the property belongs to no class");
         return nullptr;
     }
-    auto* const owner = reinterpret_cast<s_object*>(object);
+    s_object* const owner = as_object(object);
     const bool is_fit = PyObject_TypeCheck(object, object_type()) && derives(owner->type, *property.owner);
     if (is_fit) return owner;
     PyErr_Format(PyExc_TypeError, "%U is a property of %s, not of %R", property.name, property.owner->name,
@@ -165,10 +164,7 @@ s_object* owner_of(const s_property& property, PyObject* object) {
 // Slots
 
 PyObject* descriptor_get(PyObject* self, PyObject* object, PyObject*) {
-    if (object == nullptr || object == Py_None) {
-        Py_INCREF(self);
-        return self;
-    }
+    if (object == nullptr || object == Py_None) return Py_NewRef(self);
     s_property* const property = as_property(self);
     s_object* const owner = owner_of(*property, object);
     if (owner == nullptr) return nullptr;
@@ -194,9 +190,7 @@ PyObject* create(PyObject* self, PyObject* object) {
     }
     return guarded<PyObject*>(nullptr, [&] {
         if (row.kind == item_kind::alternative) {
-            if (lmx::chosen_row(*property.owner, lmx::choice_of(*property.owner, data)) != &row) {
-                forget_alternative(*property.owner, data);
-            }
+            if (!is_chosen(*property.owner, row, data)) forget_alternative(*property.owner, data);
             lmx::choose(*property.owner, row, data);
         } else {
             lmx::touch_child(row, data);
@@ -217,13 +211,13 @@ PyObject* set_name(PyObject* self, PyObject* arguments) {
         const char* const wanted = PyUnicode_AsUTF8AndSize(class_name.get(), nullptr);
         const char* const item = PyUnicode_AsUTF8AndSize(property->schema_name, nullptr);
         if (wanted == nullptr || item == nullptr) return nullptr;
-        property->owner = find_class(wanted);
-        property->row = property->owner == nullptr ? nullptr : find_row(*property->owner, item);
+        const lmx::s_named_class* const known = find_class(wanted);
+        property->owner = known == nullptr ? nullptr : known->type;
+        property->row = known == nullptr ? nullptr : find_row(*known->type, item);
         if (property->row == nullptr) {
             return PyErr_Format(PyExc_ValueError, "the format has no item %s.%s", wanted, item);
         }
-        Py_INCREF(name);
-        Py_XDECREF(std::exchange(property->name, name));
+        Py_XDECREF(std::exchange(property->name, Py_NewRef(name)));
         Py_RETURN_NONE;
     });
 }
@@ -241,10 +235,9 @@ PyObject* make(PyTypeObject* type, PyObject* arguments, PyObject*) {
     c_ref made(PyType_GenericAlloc(type, 0));
     if (!made) return nullptr;
     s_property* const property = as_property(made.get());
-    for (PyObject* const kept : {schema_name, doc, kind}) Py_INCREF(kept);
-    property->schema_name = schema_name;
-    property->doc = doc;
-    property->kind = kind;
+    property->schema_name = Py_NewRef(schema_name);
+    property->doc = Py_NewRef(doc);
+    property->kind = Py_NewRef(kind);
     property->members = members.release();
     return made.release();
 }
@@ -262,9 +255,8 @@ void end(PyObject* self) {
 
 template <PyObject* s_property::*Field>
 PyObject* field(PyObject* self, void*) {
-    PyObject* const value = as_property(self)->*Field != nullptr ? as_property(self)->*Field : Py_None;
-    Py_INCREF(value);
-    return value;
+    PyObject* const value = as_property(self)->*Field;
+    return Py_NewRef(value != nullptr ? value : Py_None);
 }
 
 /// A word for what the item is: "list", "object", "alternative", "value".
@@ -274,11 +266,6 @@ PyObject* shape(PyObject* self, void*) {
     const bool is_alternative = row != nullptr && row->kind == item_kind::alternative;
     const bool is_object = row != nullptr && row->type != nullptr;
     return PyUnicode_FromString(is_list ? "list" : is_alternative ? "alternative" : is_object ? "object" : "value");
-}
-
-PyObject* is_title(PyObject* self, void*) {
-    const s_item* const row = as_property(self)->row;
-    return PyBool_FromLong(row != nullptr && (row->use & lmx::use_name) != 0);
 }
 
 PyObject* optional(PyObject* self, void*) {
@@ -294,7 +281,6 @@ PyGetSetDef getters[] = {{"schema_name", field<&s_property::schema_name>, nullpt
                          {"__doc__", field<&s_property::doc>, nullptr, nullptr, nullptr},
                          {"kind", field<&s_property::kind>, nullptr, nullptr, nullptr},
                          {"shape", shape, nullptr, nullptr, nullptr},
-                         {"is_title", is_title, nullptr, nullptr, nullptr},
                          {"is_optional", optional, nullptr, nullptr, nullptr},
                          {nullptr, nullptr, nullptr, nullptr, nullptr}};
 PyType_Slot slots[] = {{Py_tp_new, reinterpret_cast<void*>(make)},
@@ -334,7 +320,7 @@ PyObject* chosen(PyObject*, PyObject* object) {
     if (!PyObject_TypeCheck(object, object_type())) {
         return PyErr_Format(PyExc_TypeError, "this is no object of a document");
     }
-    auto* const choice = reinterpret_cast<s_object*>(object);
+    s_object* const choice = as_object(object);
     const void* const data = data_of(choice);
     if (data == nullptr) return nullptr;
     const s_class* owner = choice->type;

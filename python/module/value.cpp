@@ -16,11 +16,6 @@ const T& as(const void* storage) {
     return *static_cast<const T*>(storage);
 }
 
-PyObject* new_reference(PyObject* object) {
-    Py_INCREF(object);
-    return object;
-}
-
 bool refuse(PyObject* value, const s_property& property, const char* expected) {
     PyErr_Format(PyExc_TypeError, "%U takes %s, not %R", property.name, expected, Py_TYPE(value));
     return false;
@@ -79,7 +74,7 @@ bool store_binary(const s_property& property, s_object* owner, PyObject* value) 
 PyObject* enumerated(const s_property& property, const lmx::c_enumerated& value) {
     const std::int32_t number = value.number();
     if (number > 0 && property.members != nullptr && number <= PyTuple_Size(property.members)) {
-        return new_reference(PyTuple_GetItem(property.members, number - 1));
+        return Py_NewRef(PyTuple_GetItem(property.members, number - 1));
     }
     Py_RETURN_NONE;
 }
