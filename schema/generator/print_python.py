@@ -26,8 +26,8 @@ VALUES = {
     "datetime": ("datetime", "datetime | str"),
 }
 # What all objects, and those of choices and points, have besides.
-TAKEN = {"copy", "reset", "set_nil", "is_complete", "is_alive", "is_nil", "schema_name", "abstract", "alternatives", "chosen",
-         "arrays", "set_arrays", "load", "save", "check"}
+TAKEN = {"copy", "reset", "set_nil", "is_complete", "is_alive", "is_nil", "properties", "schema_name", "abstract",
+         "alternatives", "chosen", "held", "arrays", "set_arrays", "load", "save", "to_bytes"}
 START = ["# Copyright 2026 The Vyr Authors", "# SPDX-License-Identifier: Apache-2.0", "#",
          "# Made by schema/generator/generate.py from schema/vyr.xsd and schema/binding.toml. Change those instead."]
 
@@ -47,8 +47,20 @@ def is_optional(item):
     return not {"demanded", "copied"} & set(item.use)
 
 
+def can_be_none(item):
+    """Whether reading can give None: for what a document needs, too, until it is set, and in an element that is nil."""
+    if item.kind == "alternative" or item.presence:
+        return True
+    # A child that hand-written members change is there from the start.
+    return not item.mutable if item.type else bool(item.enumerated) and item.initial is None
+
+
+def wrap(text, width):
+    return textwrap.wrap(text, width, break_long_words=False, break_on_hyphens=False)
+
+
 def docstring(text, indent):
-    made = textwrap.wrap(f'"""{text}"""'.replace("\\", "\\\\"), WIDTH - indent, break_long_words=False, break_on_hyphens=False)
+    made = wrap(f'"""{text}"""'.replace("\\", "\\\\"), WIDTH - indent)
     return [" " * indent + line for line in made]
 
 
@@ -63,7 +75,7 @@ def call(start, arguments, indent):
         return [line]
     pieces = []
     for argument in arguments:
-        lines = textwrap.wrap(argument, WIDTH - indent - 8, break_long_words=False, break_on_hyphens=False)
+        lines = wrap(argument, WIDTH - indent - 8)
         lines = [f"{text} \"" if text != lines[-1] else text for text in lines]
         pieces += [f"{' ' * (indent + 4)}{'' if text == lines[0] else chr(34)}{text}{',' if text == lines[-1] else ''}"
                    for text in lines]
@@ -86,12 +98,16 @@ class ClassPrinter:
 
     def add(self, item, name, get, take, *arguments):
         if name in self.names or name in TAKEN:
-            raise SchemaError("binding.toml", 0, f"{self.made.name} has two members {name} in Python: name one of them in "
-                              "[python_names]")
+            raise SchemaError("binding.toml", 0, f"{self.made.name} has two members {name} in Python: name one of them "
+                              "in [python_names]")
         self.names.add(name)
         self.lines += call(f"{name} = Property", [literal(item.accessor), literal(item.doc), *arguments], 4)
         self.stubs += [f"    {name}: Property[{get}, {take}]", *docstring(item.doc, 4)]
         self.parameters[name] = take
+
+    def maybe(self, item, name, get, take, *arguments):
+        """A single value or object, which may be None."""
+        self.add(item, name, get + " | None" * can_be_none(item), take + " | None" * item.presence, *arguments)
 
     def method(self, name, body, result, doc):
         self.names.add(name)
@@ -101,40 +117,40 @@ class ClassPrinter:
     def simple(self, item, name):
         enumeration = item.value.name if item.enumerated else None
         get, take = (enumeration, f"{enumeration} | int | str") if enumeration else VALUES[item.value.value]
-        is_alternative = item.kind == "alternative"
-        maybe = " | None" if item.presence or is_alternative else ""
-        self.add(item, name, get + maybe, take + (maybe if item.presence else ""), *([enumeration] if enumeration else []))
+        self.maybe(item, name, get, take, *([enumeration] if enumeration else []))
         if item.value.value == "datetime":
-            self.add(item, f"{name}_text", f"str{maybe}", f"str{maybe}", "str")
+            self.maybe(item, f"{name}_text", "str", "str", "str")
 
     def repeating(self, item, name):
         if item.kind == "any":
             self.add(item, name, "List[str]", "Iterable[str]")
         elif item.kind == "element_list":
             if item.enumerated or item.value.value not in ("text", "datetime"):
-                raise SchemaError("vyr.xsd", 0, f"a list of {item.value.name}, as {item.accessor}, has no form in Python yet")
+                raise SchemaError("vyr.xsd", 0, f"a list of {item.value.name}, as {item.accessor}, has no form in "
+                                  "Python yet")
             kind = "List[str]" if item.value.value == "text" else "TimeList"
             self.add(item, name, kind, f"Iterable[{VALUES[item.value.value][1]}]")
         else:
             entry = self.class_name(item.type)
-            is_choice = self.is_choice(self.plan.by_name[item.type])
-            kinds = (f"{entry}List", f"Iterable[{entry} | Object]") if is_choice else (f"List[{entry}]", f"Iterable[{entry}]")
-            self.add(item, name, *kinds, *([f"{entry}List"] if is_choice else []))
+            if self.is_choice(self.plan.by_name[item.type]):
+                self.add(item, name, f"{entry}List", f"Iterable[{entry} | Object]", f"{entry}List")
+            else:
+                self.add(item, name, f"List[{entry}]", f"Iterable[{entry}]")
         if item.columns:
             names = ", ".join(literal(accessor) for _, accessor in item.columns)
-            self.lines.append(f"    arrays, set_arrays = _columns({name}, {names}{',' if len(item.columns) == 1 else ''})")
+            self.lines.append(f"    arrays, set_arrays = _columns({name}, {names})")
             parameters = ", ".join(f"{snake(column)}: Numbers" for column, _ in item.columns)
             tuples = ", ".join(["Array"] * len(item.columns))
             words = " and ".join(snake(column) for column, _ in item.columns)
             self.stubs += [f"    def arrays(self) -> tuple[{tuples}]:",
                            *docstring(f"The {words} of all {name} as arrays of numpy.", 8),
                            f"    def set_arrays(self, {parameters}) -> None:",
-                           *docstring(f"Sets {words} and makes {name} as many; nothing changes if one is refused.", 8)]
+                           *docstring(f"Sets {words} and makes {name} as many; nothing changes if one is refused.",
+                                      8)]
 
     def object(self, item, name):
         kind = self.class_name(item.type)
-        maybe = " | None" if item.presence or item.kind == "alternative" else ""
-        self.add(item, name, kind + maybe, kind + (maybe if item.presence else ""))
+        self.maybe(item, name, kind, kind)
         if item.kind == "alternative" and self.plan.by_name[item.type].abstract:
             return
         verb, ending = ("choose", "chosen") if item.kind == "alternative" else ("create", "there")
@@ -203,7 +219,8 @@ class ClassPrinter:
         signature = call("def __init__", ["self", *(["*"] if parameters else []), *parameters], 4)
         signature[-1] += " -> None: ..."
         own = [] if self.made.abstract or self.made.wrapper else signature
-        return [f"class {self.made.package_name}({', '.join(self.bases())}):", *docstring(self.made.doc, 4), *own, *self.stubs, ""]
+        head = f"class {self.made.package_name}({', '.join(self.bases())}):"
+        return [head, *docstring(self.made.doc, 4), *own, *self.stubs, ""]
 
 
 OBJECTS = ["Choice", "ChoiceList", "List", "Object", "TimeList", "_columns", "_creator", "_first"]
@@ -253,8 +270,8 @@ def print_enumerations(plan):
             name = re.sub(r"[^A-Za-z0-9]", "_", text)
             body += call(f"{name} = ", [str(number), literal(text), literal(doc)], 4)
         body += ["", ""]
-    names = ", ".join(literal(simple.name) for simple in simple_types)
-    head = ["from .._enumeration import Enumeration", "", *call("__all__ = ", [names] if not names else names.split(", "), 0)]
+    names = [literal(simple.name) for simple in simple_types]
+    head = ["from .._enumeration import Enumeration", "", *call("__all__ = ", names, 0)]
     return frame("The enumerations of the format.", head, body)
 
 
@@ -263,7 +280,8 @@ def print_python_files(plan):
     for printer in printers.values():
         printer.members()
     enumerations = {value.name for value in plan.enumerations.values()}
-    lists = {item.type for made in plan.model.classes for item in made.items if item.kind in ("child_list", "group_list")}
+    lists = {item.type for made in plan.model.classes for item in made.items
+             if item.kind in ("child_list", "group_list")}
     files = {"enumerations.py": print_enumerations(plan)}
     for topic in plan.topics:
         module, stub, names = [], [], []

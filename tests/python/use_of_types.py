@@ -24,7 +24,9 @@ for color in document.palettes[0].color_sets[0].colors:
         color.color_spaces.spectral.set_arrays(wavelengths, values * 0.5)
     for space in color.color_spaces:
         if space.chosen == "srgb" and space.srgb is not None:
-            depth: vyr.ColorDepthKind = space.srgb.color_depth
+            depth: Optional[vyr.ColorDepthKind] = space.srgb.color_depth
+            depth_text: str = space.srgb.color_depth.text  # type: ignore[union-attr]
+            space.srgb.color_depth = None  # type: ignore[assignment]
             space.srgb.color_depth = "ColorDepth_8"
 made = vyr.ColorType(color_name="Red", comments="warm", color_spaces=[vyr.ColorSpaceCIELabType(l=50, a=60, b=40)])
 vyr.ColorType(color_name=1)  # type: ignore[arg-type]

@@ -81,7 +81,7 @@ class ColorSpaceCIELabType(ColorSpaceType):
     ) -> None: ...
     name: Property[str | None, str | None]
     """Name of the value."""
-    color_space_specification_spectrum_tristimulus: Property[ColorSpaceSpecificationSpectrumTristimulus, ColorSpaceSpecificationSpectrumTristimulus]
+    color_space_specification_spectrum_tristimulus: Property[ColorSpaceSpecificationSpectrumTristimulus | None, ColorSpaceSpecificationSpectrumTristimulus]
     """Conditions under which the value holds."""
     def create_color_space_specification_spectrum_tristimulus(self, **values: Any) -> ColorSpaceSpecificationSpectrumTristimulus:
         """Gives `color_space_specification_spectrum_tristimulus`, which it makes if it isn't there, and sets
@@ -111,7 +111,7 @@ class ColorSpaceCIELChType(ColorSpaceType):
     ) -> None: ...
     name: Property[str | None, str | None]
     """Name of the value."""
-    color_space_specification_spectrum_tristimulus: Property[ColorSpaceSpecificationSpectrumTristimulus, ColorSpaceSpecificationSpectrumTristimulus]
+    color_space_specification_spectrum_tristimulus: Property[ColorSpaceSpecificationSpectrumTristimulus | None, ColorSpaceSpecificationSpectrumTristimulus]
     """Conditions under which the value holds."""
     def create_color_space_specification_spectrum_tristimulus(self, **values: Any) -> ColorSpaceSpecificationSpectrumTristimulus:
         """Gives `color_space_specification_spectrum_tristimulus`, which it makes if it isn't there, and sets
@@ -141,7 +141,7 @@ class ColorSpaceCIELuvType(ColorSpaceType):
     ) -> None: ...
     name: Property[str | None, str | None]
     """Name of the value."""
-    color_space_specification_spectrum_tristimulus: Property[ColorSpaceSpecificationSpectrumTristimulus, ColorSpaceSpecificationSpectrumTristimulus]
+    color_space_specification_spectrum_tristimulus: Property[ColorSpaceSpecificationSpectrumTristimulus | None, ColorSpaceSpecificationSpectrumTristimulus]
     """Conditions under which the value holds."""
     def create_color_space_specification_spectrum_tristimulus(self, **values: Any) -> ColorSpaceSpecificationSpectrumTristimulus:
         """Gives `color_space_specification_spectrum_tristimulus`, which it makes if it isn't there, and sets
@@ -171,7 +171,7 @@ class ColorSpaceCIEXYZType(ColorSpaceType):
     ) -> None: ...
     name: Property[str | None, str | None]
     """Name of the value."""
-    color_space_specification_spectrum_tristimulus: Property[ColorSpaceSpecificationSpectrumTristimulus, ColorSpaceSpecificationSpectrumTristimulus]
+    color_space_specification_spectrum_tristimulus: Property[ColorSpaceSpecificationSpectrumTristimulus | None, ColorSpaceSpecificationSpectrumTristimulus]
     """Conditions under which the value holds."""
     def create_color_space_specification_spectrum_tristimulus(self, **values: Any) -> ColorSpaceSpecificationSpectrumTristimulus:
         """Gives `color_space_specification_spectrum_tristimulus`, which it makes if it isn't there, and sets
@@ -201,7 +201,7 @@ class ColorSpaceCIExyYType(ColorSpaceType):
     ) -> None: ...
     name: Property[str | None, str | None]
     """Name of the value."""
-    color_space_specification_spectrum_tristimulus: Property[ColorSpaceSpecificationSpectrumTristimulus, ColorSpaceSpecificationSpectrumTristimulus]
+    color_space_specification_spectrum_tristimulus: Property[ColorSpaceSpecificationSpectrumTristimulus | None, ColorSpaceSpecificationSpectrumTristimulus]
     """Conditions under which the value holds."""
     def create_color_space_specification_spectrum_tristimulus(self, **values: Any) -> ColorSpaceSpecificationSpectrumTristimulus:
         """Gives `color_space_specification_spectrum_tristimulus`, which it makes if it isn't there, and sets
@@ -231,7 +231,7 @@ class ColorSpaceEmissiveCIEXYZType(ColorSpaceType):
     ) -> None: ...
     name: Property[str | None, str | None]
     """Name of the value."""
-    color_space_specification_emissive_tristimulus: Property[ColorSpaceSpecificationEmissiveTristimulus, ColorSpaceSpecificationEmissiveTristimulus]
+    color_space_specification_emissive_tristimulus: Property[ColorSpaceSpecificationEmissiveTristimulus | None, ColorSpaceSpecificationEmissiveTristimulus]
     """Conditions under which the value holds."""
     def create_color_space_specification_emissive_tristimulus(self, **values: Any) -> ColorSpaceSpecificationEmissiveTristimulus:
         """Gives `color_space_specification_emissive_tristimulus`, which it makes if it isn't there, and sets
@@ -261,7 +261,7 @@ class ColorSpaceEmissiveCIExyYType(ColorSpaceType):
     ) -> None: ...
     name: Property[str | None, str | None]
     """Name of the value."""
-    color_space_specification_emissive_tristimulus: Property[ColorSpaceSpecificationEmissiveTristimulus, ColorSpaceSpecificationEmissiveTristimulus]
+    color_space_specification_emissive_tristimulus: Property[ColorSpaceSpecificationEmissiveTristimulus | None, ColorSpaceSpecificationEmissiveTristimulus]
     """Conditions under which the value holds."""
     def create_color_space_specification_emissive_tristimulus(self, **values: Any) -> ColorSpaceSpecificationEmissiveTristimulus:
         """Gives `color_space_specification_emissive_tristimulus`, which it makes if it isn't there, and sets

@@ -63,7 +63,7 @@ class DeviceFilterType(Object):
     def __init__(self, *, custom_or_partial: str | None = ..., value: DeviceFilterKind | int | str = ...) -> None: ...
     custom_or_partial: Property[str | None, str | None]
     """Description of the filter where the content is Filter_Custom or Filter_Partial."""
-    value: Property[DeviceFilterKind, DeviceFilterKind | int | str]
+    value: Property[DeviceFilterKind | None, DeviceFilterKind | int | str]
     """The filter."""
 
 class DeviceFilter(DeviceFilterType):
@@ -96,7 +96,7 @@ class ColorSpaceSpecificationType(Object):
     """Filter in the light path of the instrument, or nil. Readers may meet none; a writer needs the filter or nil."""
     def create_device_filter(self, **values: Any) -> DeviceFilter:
         """Gives `device_filter`, which it makes if it isn't there, and sets properties of it."""
-    device_polarization: Property[DevicePolarization, DevicePolarization]
+    device_polarization: Property[DevicePolarization | None, DevicePolarization]
     """Whether polarising filters were used, or nil where it is unknown."""
     def create_device_polarization(self, **values: Any) -> DevicePolarization:
         """Gives `device_polarization`, which it makes if it isn't there, and sets properties of it."""
@@ -108,7 +108,7 @@ class SpectrumType(Object):
     def __init__(self, *, custom_type_name: str | None = ..., value: SpectrumKind | int | str = ...) -> None: ...
     custom_type_name: Property[str | None, str | None]
     """Name of the quantity where the content is Spectrum_Custom."""
-    value: Property[SpectrumKind, SpectrumKind | int | str]
+    value: Property[SpectrumKind | None, SpectrumKind | int | str]
     """The quantity."""
 
 class ColorSpaceSpecificationSpectrumType(ColorSpaceSpecificationType):
@@ -126,7 +126,7 @@ class ColorSpaceSpecificationSpectrumType(ColorSpaceSpecificationType):
         change_history: Iterable[datetime | str] = ...,
         spectrum: SpectrumType = ...,
     ) -> None: ...
-    spectrum: Property[SpectrumType, SpectrumType]
+    spectrum: Property[SpectrumType | None, SpectrumType]
     """Which spectral quantity was measured."""
     def create_spectrum(self, **values: Any) -> SpectrumType:
         """Gives `spectrum`, which it makes if it isn't there, and sets properties of it."""
@@ -147,9 +147,9 @@ class ColorSpaceSpecificationEmissiveType(ColorSpaceSpecificationType):
         emissive_type: EmissiveKind | int | str = ...,
         emissive_mode: EmissiveModeKind | int | str = ...,
     ) -> None: ...
-    emissive_type: Property[EmissiveKind, EmissiveKind | int | str]
+    emissive_type: Property[EmissiveKind | None, EmissiveKind | int | str]
     """How the light source was measured."""
-    emissive_mode: Property[EmissiveModeKind, EmissiveModeKind | int | str]
+    emissive_mode: Property[EmissiveModeKind | None, EmissiveModeKind | int | str]
     """Whether a diffuser was in place."""
 
 class GeometryChoiceType(Choice):
@@ -260,11 +260,11 @@ class ColorSpaceSpecificationSpectrumTristimulusType(ColorSpaceSpecificationSpec
         astm_table: AstmTableKind | int | str | None = ...,
         gamma: float | None = ...,
     ) -> None: ...
-    illumination_options: Property[IlluminationOptionsType, IlluminationOptionsType]
+    illumination_options: Property[IlluminationOptionsType | None, IlluminationOptionsType]
     """Illumination that the value holds for."""
     def create_illumination_options(self, **values: Any) -> IlluminationOptionsType:
         """Gives `illumination_options`, which it makes if it isn't there, and sets properties of it."""
-    field_of_view: Property[ObserverKind, ObserverKind | int | str]
+    field_of_view: Property[ObserverKind | None, ObserverKind | int | str]
     """Standard observer that the value holds for."""
     geometry_choice: Property[GeometryChoiceType | None, GeometryChoiceType | None]
     """Measuring geometry."""
@@ -292,7 +292,7 @@ class ColorSpaceSpecificationSpectrumSpectralType(ColorSpaceSpecificationSpectru
         geometry_choice: GeometryChoiceType = ...,
         astm_table: AstmTableKind | int | str | None = ...,
     ) -> None: ...
-    geometry_choice: Property[GeometryChoiceType, GeometryChoiceType]
+    geometry_choice: Property[GeometryChoiceType | None, GeometryChoiceType]
     """Measuring geometry."""
     def create_geometry_choice(self, **values: Any) -> GeometryChoiceType:
         """Gives `geometry_choice`, which it makes if it isn't there, and sets properties of it."""
@@ -359,11 +359,11 @@ class ColorSpaceSpecificationEmissiveTristimulusType(ColorSpaceSpecificationEmis
         astm_table: AstmTableKind | int | str | None = ...,
         gamma: float | None = ...,
     ) -> None: ...
-    illumination_options: Property[IlluminationOptionsType, IlluminationOptionsType]
+    illumination_options: Property[IlluminationOptionsType | None, IlluminationOptionsType]
     """Illumination that the value holds for."""
     def create_illumination_options(self, **values: Any) -> IlluminationOptionsType:
         """Gives `illumination_options`, which it makes if it isn't there, and sets properties of it."""
-    field_of_view: Property[ObserverKind, ObserverKind | int | str]
+    field_of_view: Property[ObserverKind | None, ObserverKind | int | str]
     """Standard observer that the value holds for."""
     geometry_choice: Property[GeometryChoiceType | None, GeometryChoiceType | None]
     """Measuring geometry."""
@@ -392,7 +392,7 @@ class ColorSpaceSpecificationEmissiveSpectralType(ColorSpaceSpecificationEmissiv
         geometry_choice: GeometryChoiceType = ...,
         astm_table: AstmTableKind | int | str | None = ...,
     ) -> None: ...
-    geometry_choice: Property[GeometryChoiceType, GeometryChoiceType]
+    geometry_choice: Property[GeometryChoiceType | None, GeometryChoiceType]
     """Measuring geometry."""
     def create_geometry_choice(self, **values: Any) -> GeometryChoiceType:
         """Gives `geometry_choice`, which it makes if it isn't there, and sets properties of it."""
@@ -538,7 +538,7 @@ class Illuminant(Object):
     def __init__(self, *, custom_name: str | None = ..., value: IlluminantKind | int | str = ...) -> None: ...
     custom_name: Property[str | None, str | None]
     """Name of the illuminant where the content is Illuminant_Custom."""
-    value: Property[IlluminantKind, IlluminantKind | int | str]
+    value: Property[IlluminantKind | None, IlluminantKind | int | str]
     """The illuminant."""
 
 class WhitePointChromaticity(Object):

@@ -67,7 +67,7 @@ class ColorSpaceRGBType(ColorSpaceType):
     ) -> None: ...
     name: Property[str | None, str | None]
     """Name of the value."""
-    color_space_specification_spectrum_tristimulus: Property[ColorSpaceSpecificationSpectrumTristimulus, ColorSpaceSpecificationSpectrumTristimulus]
+    color_space_specification_spectrum_tristimulus: Property[ColorSpaceSpecificationSpectrumTristimulus | None, ColorSpaceSpecificationSpectrumTristimulus]
     """Conditions under which the value holds."""
     def create_color_space_specification_spectrum_tristimulus(self, **values: Any) -> ColorSpaceSpecificationSpectrumTristimulus:
         """Gives `color_space_specification_spectrum_tristimulus`, which it makes if it isn't there, and sets
@@ -80,7 +80,7 @@ class ColorSpaceRGBType(ColorSpaceType):
     """Blue channel, 0 to 1."""
     alpha: Property[float | None, float | None]
     """Opacity, 0 (transparent) to 1 (opaque)."""
-    color_depth: Property[ColorDepthKind, ColorDepthKind | int | str]
+    color_depth: Property[ColorDepthKind | None, ColorDepthKind | int | str]
     """Bits per channel that the value was quantised to."""
 
 class ColorSpaceSRGBType(ColorSpaceType):
@@ -103,7 +103,7 @@ class ColorSpaceSRGBType(ColorSpaceType):
     ) -> None: ...
     name: Property[str | None, str | None]
     """Name of the value."""
-    color_space_specification_spectrum_tristimulus: Property[ColorSpaceSpecificationSpectrumTristimulus, ColorSpaceSpecificationSpectrumTristimulus]
+    color_space_specification_spectrum_tristimulus: Property[ColorSpaceSpecificationSpectrumTristimulus | None, ColorSpaceSpecificationSpectrumTristimulus]
     """Conditions under which the value holds."""
     def create_color_space_specification_spectrum_tristimulus(self, **values: Any) -> ColorSpaceSpecificationSpectrumTristimulus:
         """Gives `color_space_specification_spectrum_tristimulus`, which it makes if it isn't there, and sets
@@ -116,7 +116,7 @@ class ColorSpaceSRGBType(ColorSpaceType):
     """Blue channel, 0 to 1."""
     alpha: Property[float | None, float | None]
     """Opacity, 0 (transparent) to 1 (opaque)."""
-    color_depth: Property[ColorDepthKind, ColorDepthKind | int | str]
+    color_depth: Property[ColorDepthKind | None, ColorDepthKind | int | str]
     """Bits per channel that the value was quantised to."""
 
 class ColorSpaceAdobeRGBType(ColorSpaceType):
@@ -139,7 +139,7 @@ class ColorSpaceAdobeRGBType(ColorSpaceType):
     ) -> None: ...
     name: Property[str | None, str | None]
     """Name of the value."""
-    color_space_specification_spectrum_tristimulus: Property[ColorSpaceSpecificationSpectrumTristimulus, ColorSpaceSpecificationSpectrumTristimulus]
+    color_space_specification_spectrum_tristimulus: Property[ColorSpaceSpecificationSpectrumTristimulus | None, ColorSpaceSpecificationSpectrumTristimulus]
     """Conditions under which the value holds."""
     def create_color_space_specification_spectrum_tristimulus(self, **values: Any) -> ColorSpaceSpecificationSpectrumTristimulus:
         """Gives `color_space_specification_spectrum_tristimulus`, which it makes if it isn't there, and sets
@@ -152,7 +152,7 @@ class ColorSpaceAdobeRGBType(ColorSpaceType):
     """Blue channel, 0 to 1."""
     alpha: Property[float | None, float | None]
     """Opacity, 0 (transparent) to 1 (opaque)."""
-    color_depth: Property[ColorDepthKind, ColorDepthKind | int | str]
+    color_depth: Property[ColorDepthKind | None, ColorDepthKind | int | str]
     """Bits per channel that the value was quantised to."""
 
 class ColorSpaceAdobeWideGamutRGBType(ColorSpaceType):
@@ -175,7 +175,7 @@ class ColorSpaceAdobeWideGamutRGBType(ColorSpaceType):
     ) -> None: ...
     name: Property[str | None, str | None]
     """Name of the value."""
-    color_space_specification_spectrum_tristimulus: Property[ColorSpaceSpecificationSpectrumTristimulus, ColorSpaceSpecificationSpectrumTristimulus]
+    color_space_specification_spectrum_tristimulus: Property[ColorSpaceSpecificationSpectrumTristimulus | None, ColorSpaceSpecificationSpectrumTristimulus]
     """Conditions under which the value holds."""
     def create_color_space_specification_spectrum_tristimulus(self, **values: Any) -> ColorSpaceSpecificationSpectrumTristimulus:
         """Gives `color_space_specification_spectrum_tristimulus`, which it makes if it isn't there, and sets
@@ -188,7 +188,7 @@ class ColorSpaceAdobeWideGamutRGBType(ColorSpaceType):
     """Blue channel, 0 to 1."""
     alpha: Property[float | None, float | None]
     """Opacity, 0 (transparent) to 1 (opaque)."""
-    color_depth: Property[ColorDepthKind, ColorDepthKind | int | str]
+    color_depth: Property[ColorDepthKind | None, ColorDepthKind | int | str]
     """Bits per channel that the value was quantised to."""
 
 class ColorSpaceCMYKType(ColorSpaceType):
@@ -211,7 +211,7 @@ class ColorSpaceCMYKType(ColorSpaceType):
     ) -> None: ...
     name: Property[str | None, str | None]
     """Name of the value."""
-    color_space_specification_spectrum_generic: Property[ColorSpaceSpecificationSpectrumGeneric, ColorSpaceSpecificationSpectrumGeneric]
+    color_space_specification_spectrum_generic: Property[ColorSpaceSpecificationSpectrumGeneric | None, ColorSpaceSpecificationSpectrumGeneric]
     """Conditions under which the value holds."""
     def create_color_space_specification_spectrum_generic(self, **values: Any) -> ColorSpaceSpecificationSpectrumGeneric:
         """Gives `color_space_specification_spectrum_generic`, which it makes if it isn't there, and sets properties
@@ -282,7 +282,7 @@ class ColorSpaceTINTORAOctavanticType(ColorSpaceType):
     ) -> None: ...
     name: Property[str | None, str | None]
     """Name of the value."""
-    color_space_specification_spectrum_generic: Property[ColorSpaceSpecificationSpectrumGeneric, ColorSpaceSpecificationSpectrumGeneric]
+    color_space_specification_spectrum_generic: Property[ColorSpaceSpecificationSpectrumGeneric | None, ColorSpaceSpecificationSpectrumGeneric]
     """Conditions under which the value holds."""
     def create_color_space_specification_spectrum_generic(self, **values: Any) -> ColorSpaceSpecificationSpectrumGeneric:
         """Gives `color_space_specification_spectrum_generic`, which it makes if it isn't there, and sets properties
@@ -320,7 +320,7 @@ class ColorSpaceHSLType(ColorSpaceType):
     ) -> None: ...
     name: Property[str | None, str | None]
     """Name of the value."""
-    color_space_specification_spectrum_generic: Property[ColorSpaceSpecificationSpectrumGeneric, ColorSpaceSpecificationSpectrumGeneric]
+    color_space_specification_spectrum_generic: Property[ColorSpaceSpecificationSpectrumGeneric | None, ColorSpaceSpecificationSpectrumGeneric]
     """Conditions under which the value holds."""
     def create_color_space_specification_spectrum_generic(self, **values: Any) -> ColorSpaceSpecificationSpectrumGeneric:
         """Gives `color_space_specification_spectrum_generic`, which it makes if it isn't there, and sets properties
@@ -350,7 +350,7 @@ class ColorSpaceHSVType(ColorSpaceType):
     ) -> None: ...
     name: Property[str | None, str | None]
     """Name of the value."""
-    color_space_specification_spectrum_generic: Property[ColorSpaceSpecificationSpectrumGeneric, ColorSpaceSpecificationSpectrumGeneric]
+    color_space_specification_spectrum_generic: Property[ColorSpaceSpecificationSpectrumGeneric | None, ColorSpaceSpecificationSpectrumGeneric]
     """Conditions under which the value holds."""
     def create_color_space_specification_spectrum_generic(self, **values: Any) -> ColorSpaceSpecificationSpectrumGeneric:
         """Gives `color_space_specification_spectrum_generic`, which it makes if it isn't there, and sets properties
@@ -380,7 +380,7 @@ class ColorSpaceYUVType(ColorSpaceType):
     ) -> None: ...
     name: Property[str | None, str | None]
     """Name of the value."""
-    color_space_specification_spectrum_generic: Property[ColorSpaceSpecificationSpectrumGeneric, ColorSpaceSpecificationSpectrumGeneric]
+    color_space_specification_spectrum_generic: Property[ColorSpaceSpecificationSpectrumGeneric | None, ColorSpaceSpecificationSpectrumGeneric]
     """Conditions under which the value holds."""
     def create_color_space_specification_spectrum_generic(self, **values: Any) -> ColorSpaceSpecificationSpectrumGeneric:
         """Gives `color_space_specification_spectrum_generic`, which it makes if it isn't there, and sets properties
@@ -410,7 +410,7 @@ class ColorSpaceYIQType(ColorSpaceType):
     ) -> None: ...
     name: Property[str | None, str | None]
     """Name of the value."""
-    color_space_specification_spectrum_generic: Property[ColorSpaceSpecificationSpectrumGeneric, ColorSpaceSpecificationSpectrumGeneric]
+    color_space_specification_spectrum_generic: Property[ColorSpaceSpecificationSpectrumGeneric | None, ColorSpaceSpecificationSpectrumGeneric]
     """Conditions under which the value holds."""
     def create_color_space_specification_spectrum_generic(self, **values: Any) -> ColorSpaceSpecificationSpectrumGeneric:
         """Gives `color_space_specification_spectrum_generic`, which it makes if it isn't there, and sets properties
@@ -440,7 +440,7 @@ class ColorSpaceYBRType(ColorSpaceType):
     ) -> None: ...
     name: Property[str | None, str | None]
     """Name of the value."""
-    color_space_specification_spectrum_generic: Property[ColorSpaceSpecificationSpectrumGeneric, ColorSpaceSpecificationSpectrumGeneric]
+    color_space_specification_spectrum_generic: Property[ColorSpaceSpecificationSpectrumGeneric | None, ColorSpaceSpecificationSpectrumGeneric]
     """Conditions under which the value holds."""
     def create_color_space_specification_spectrum_generic(self, **values: Any) -> ColorSpaceSpecificationSpectrumGeneric:
         """Gives `color_space_specification_spectrum_generic`, which it makes if it isn't there, and sets properties

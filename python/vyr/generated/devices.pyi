@@ -41,7 +41,7 @@ class CalibrationStateType(Object):
     """Time of the last calibration, with time zone."""
     calibration_date_time_text: Property[str | None, str | None]
     """Time of the last calibration, with time zone."""
-    value: Property[CalibrationKind, CalibrationKind | int | str]
+    value: Property[CalibrationKind | None, CalibrationKind | int | str]
     """State of the calibration."""
 
 class GlossCompensation(Object):
@@ -154,9 +154,9 @@ class ProfileType(Object):
         created: datetime | str | None = ...,
         created_text: str | None = ...,
     ) -> None: ...
-    direction: Property[ProfileDirectionKind, ProfileDirectionKind | int | str]
+    direction: Property[ProfileDirectionKind | None, ProfileDirectionKind | int | str]
     """Which way the profile converts."""
-    profile_choice: Property[ProfileChoice, ProfileChoice]
+    profile_choice: Property[ProfileChoice | None, ProfileChoice]
     """The profile's data, or where to find it."""
     def create_profile_choice(self, **values: Any) -> ProfileChoice:
         """Gives `profile_choice`, which it makes if it isn't there, and sets properties of it."""
@@ -193,7 +193,7 @@ class ProfileType_Parameters(Object):
     def __init__(self, *, name: str = ..., value_choice: ProfileType_Parameters_ValueChoice = ...) -> None: ...
     name: Property[str, str]
     """Name of the parameter, exactly one character."""
-    value_choice: Property[ProfileType_Parameters_ValueChoice, ProfileType_Parameters_ValueChoice]
+    value_choice: Property[ProfileType_Parameters_ValueChoice | None, ProfileType_Parameters_ValueChoice]
     """Value of the parameter."""
     def create_value_choice(self, **values: Any) -> ProfileType_Parameters_ValueChoice:
         """Gives `value_choice`, which it makes if it isn't there, and sets properties of it."""

@@ -78,7 +78,7 @@ class Parameters(Object):
     def __init__(self, *, name: str = ..., value_choice: ValueChoice = ...) -> None: ...
     name: Property[str, str]
     """Name of the parameter."""
-    value_choice: Property[ValueChoice, ValueChoice]
+    value_choice: Property[ValueChoice | None, ValueChoice]
     """Value of the parameter."""
     def create_value_choice(self, **values: Any) -> ValueChoice:
         """Gives `value_choice`, which it makes if it isn't there, and sets properties of it."""
@@ -170,7 +170,7 @@ class FunctionTolerance(FunctionType):
         tolerance_type: ToleranceFormulaKind | int | str = ...,
         parameters: Iterable[ToleranceParameterType] = ...,
     ) -> None: ...
-    tolerance_type: Property[ToleranceFormulaKind, ToleranceFormulaKind | int | str]
+    tolerance_type: Property[ToleranceFormulaKind | None, ToleranceFormulaKind | int | str]
     """The formula."""
     parameters: Property[List[ToleranceParameterType], Iterable[ToleranceParameterType]]
     """Limits of one parameter."""

@@ -46,7 +46,7 @@ class SDKType(Object):
     def __init__(self, *, sdk_name: str = ..., sdk_version: SDKVersion = ...) -> None: ...
     sdk_name: Property[str, str]
     """Name of the library."""
-    sdk_version: Property[SDKVersion, SDKVersion]
+    sdk_version: Property[SDKVersion | None, SDKVersion]
     """Version of the library, or nil where it is unknown."""
     def create_sdk_version(self, **values: Any) -> SDKVersion:
         """Gives `sdk_version`, which it makes if it isn't there, and sets properties of it."""
@@ -148,7 +148,7 @@ class Version(Object):
 class Preamble(Object):
     """What stands ahead of a document's content: its header, its owner and its version."""
     def __init__(self, *, header: Header = ..., owner: OwnerType | None = ..., version: Version | None = ...) -> None: ...
-    header: Property[Header, Header]
+    header: Property[Header | None, Header]
     """Provenance of the document."""
     def create_header(self, **values: Any) -> Header:
         """Gives `header`, which it makes if it isn't there, and sets properties of it."""
@@ -214,7 +214,7 @@ class CustomAttributeType(Object):
     def __init__(self, *, name: str = ..., value_choice: CustomAttributeType_ValueChoice = ...) -> None: ...
     name: Property[str, str]
     """Name of the attribute; not empty."""
-    value_choice: Property[CustomAttributeType_ValueChoice, CustomAttributeType_ValueChoice]
+    value_choice: Property[CustomAttributeType_ValueChoice | None, CustomAttributeType_ValueChoice]
     """Value of the attribute."""
     def create_value_choice(self, **values: Any) -> CustomAttributeType_ValueChoice:
         """Gives `value_choice`, which it makes if it isn't there, and sets properties of it."""
@@ -234,7 +234,7 @@ class Tag(Object):
     """Name of the tag."""
     unique_id: Property[str | None, str | None]
     """Identifier of the tag, unique among tags."""
-    category: Property[TagCategory, TagCategory]
+    category: Property[TagCategory | None, TagCategory]
     """Category of the tag; always written, if need be as an empty element."""
     def create_category(self, **values: Any) -> TagCategory:
         """Gives `category`, which it makes if it isn't there, and sets properties of it."""
@@ -255,11 +255,11 @@ class TagValue(Object):
     def __init__(self, *, unique_id: str | None = ..., tag: Tag = ..., value: TagValueChoice = ...) -> None: ...
     unique_id: Property[str | None, str | None]
     """Identifier of this value."""
-    tag: Property[Tag, Tag]
+    tag: Property[Tag | None, Tag]
     """The tag that is valued."""
     def create_tag(self, **values: Any) -> Tag:
         """Gives `tag`, which it makes if it isn't there, and sets properties of it."""
-    value: Property[TagValueChoice, TagValueChoice]
+    value: Property[TagValueChoice | None, TagValueChoice]
     """A text or a number, as the tag asks."""
     def create_value(self, **values: Any) -> TagValueChoice:
         """Gives `value`, which it makes if it isn't there, and sets properties of it."""

@@ -69,7 +69,7 @@ class ToleranceType(Object):
     """Name of the tolerance."""
     custom_attributes: Property[List[CustomAttributeType], Iterable[CustomAttributeType]]
     """A named value of the user's own."""
-    function: Property[FunctionChoice, FunctionChoice]
+    function: Property[FunctionChoice | None, FunctionChoice]
     """The function whose result is limited."""
     def create_function(self, **values: Any) -> FunctionChoice:
         """Gives `function`, which it makes if it isn't there, and sets properties of it."""
@@ -122,7 +122,7 @@ class PhysicalSampleType(Object):
     """How the sample was made."""
     def create_process(self, **values: Any) -> Process:
         """Gives `process`, which it makes if it isn't there, and sets properties of it."""
-    sample: Property[SampleChoice, SampleChoice]
+    sample: Property[SampleChoice | None, SampleChoice]
     """The sample: a spot or a target."""
     def create_sample(self, **values: Any) -> SampleChoice:
         """Gives `sample`, which it makes if it isn't there, and sets properties of it."""
@@ -175,11 +175,11 @@ class Measurement(ElementFile, Object):
     ) -> None: ...
     custom_attributes: Property[List[CustomAttributeType], Iterable[CustomAttributeType]]
     """A named value of the user's own."""
-    device: Property[DeviceType, DeviceType]
+    device: Property[DeviceType | None, DeviceType]
     """Instrument of the measurement."""
     def create_device(self, **values: Any) -> DeviceType:
         """Gives `device`, which it makes if it isn't there, and sets properties of it."""
-    color: Property[ColorType, ColorType]
+    color: Property[ColorType | None, ColorType]
     """The colour measured."""
     def create_color(self, **values: Any) -> ColorType:
         """Gives `color`, which it makes if it isn't there, and sets properties of it."""
@@ -198,11 +198,11 @@ class Standard(ElementFile, Object):
     ) -> None: ...
     custom_attributes: Property[List[CustomAttributeType], Iterable[CustomAttributeType]]
     """A named value of the user's own."""
-    device: Property[DeviceType, DeviceType]
+    device: Property[DeviceType | None, DeviceType]
     """Instrument that measured the standard."""
     def create_device(self, **values: Any) -> DeviceType:
         """Gives `device`, which it makes if it isn't there, and sets properties of it."""
-    color: Property[ColorType, ColorType]
+    color: Property[ColorType | None, ColorType]
     """The target colour."""
     def create_color(self, **values: Any) -> ColorType:
         """Gives `color`, which it makes if it isn't there, and sets properties of it."""
@@ -222,7 +222,7 @@ class StandardAndMeasurementType(Object):
     """A named value of the user's own."""
     measurements: Property[List[Measurement], Iterable[Measurement]]
     """A measurement."""
-    standard: Property[Standard, Standard]
+    standard: Property[Standard | None, Standard]
     """The standard."""
     def create_standard(self, **values: Any) -> Standard:
         """Gives `standard`, which it makes if it isn't there, and sets properties of it."""

@@ -79,13 +79,13 @@ class ColorSpaceTINTORAType(ColorSpaceType):
     """Name of the value."""
     family_name: Property[str, str]
     """Colour family."""
-    color_name: Property[ColorName, ColorName]
+    color_name: Property[ColorName | None, ColorName]
     """Name of the colour in its three parts."""
     def create_color_name(self, **values: Any) -> ColorName:
         """Gives `color_name`, which it makes if it isn't there, and sets properties of it."""
     page: Property[str, str]
     """Page of the guide that shows the colour."""
-    gamut: Property[GamutKind, GamutKind | int | str]
+    gamut: Property[GamutKind | None, GamutKind | int | str]
     """Smallest gamut in which the colour can be shown."""
     recipe: Property[Recipe | None, Recipe | None]
     """How the colour is mixed."""
@@ -119,7 +119,7 @@ class Colorant(Object):
 class ColorantElement(Object):
     """A colorant and its share in a mixture."""
     def __init__(self, *, colorant: Colorant = ..., contribution: float = ...) -> None: ...
-    colorant: Property[Colorant, Colorant]
+    colorant: Property[Colorant | None, Colorant]
     """The colorant."""
     def create_colorant(self, **values: Any) -> Colorant:
         """Gives `colorant`, which it makes if it isn't there, and sets properties of it."""
@@ -129,7 +129,7 @@ class ColorantElement(Object):
 class CustomAttributes(Object):
     """An envelope around one named value of the user's own."""
     def __init__(self, *, custom_attribute: CustomAttributeType = ...) -> None: ...
-    custom_attribute: Property[CustomAttributeType, CustomAttributeType]
+    custom_attribute: Property[CustomAttributeType | None, CustomAttributeType]
     """The named value."""
     def create_custom_attribute(self, **values: Any) -> CustomAttributeType:
         """Gives `custom_attribute`, which it makes if it isn't there, and sets properties of it."""
@@ -137,9 +137,9 @@ class CustomAttributes(Object):
 class ColorAndFinish(Object):
     """How a colour looks in one finish of the paper."""
     def __init__(self, *, finish: FinishKind | int | str = ..., color_space_spectral: ColorSpaceSpectralType = ...) -> None: ...
-    finish: Property[FinishKind, FinishKind | int | str]
+    finish: Property[FinishKind | None, FinishKind | int | str]
     """The finish."""
-    color_space_spectral: Property[ColorSpaceSpectralType, ColorSpaceSpectralType]
+    color_space_spectral: Property[ColorSpaceSpectralType | None, ColorSpaceSpectralType]
     """Reflectance spectrum in that finish."""
     def create_color_space_spectral(self, **values: Any) -> ColorSpaceSpectralType:
         """Gives `color_space_spectral`, which it makes if it isn't there, and sets properties of it."""
@@ -160,7 +160,7 @@ class ColorSpaceNCSType(ColorSpaceType):
     ) -> None: ...
     name: Property[str | None, str | None]
     """Name of the value."""
-    color_space_specification_spectrum_generic: Property[ColorSpaceSpecificationSpectrumGeneric, ColorSpaceSpecificationSpectrumGeneric]
+    color_space_specification_spectrum_generic: Property[ColorSpaceSpecificationSpectrumGeneric | None, ColorSpaceSpecificationSpectrumGeneric]
     """Conditions under which the value holds."""
     def create_color_space_specification_spectrum_generic(self, **values: Any) -> ColorSpaceSpecificationSpectrumGeneric:
         """Gives `color_space_specification_spectrum_generic`, which it makes if it isn't there, and sets properties
@@ -185,7 +185,7 @@ class ColorSpaceMunsellType(ColorSpaceType):
     ) -> None: ...
     name: Property[str | None, str | None]
     """Name of the value."""
-    color_space_specification_spectrum_generic: Property[ColorSpaceSpecificationSpectrumGeneric, ColorSpaceSpecificationSpectrumGeneric]
+    color_space_specification_spectrum_generic: Property[ColorSpaceSpecificationSpectrumGeneric | None, ColorSpaceSpecificationSpectrumGeneric]
     """Conditions under which the value holds."""
     def create_color_space_specification_spectrum_generic(self, **values: Any) -> ColorSpaceSpecificationSpectrumGeneric:
         """Gives `color_space_specification_spectrum_generic`, which it makes if it isn't there, and sets properties
@@ -220,7 +220,7 @@ class Base(Object):
 class BaseElementType(Object):
     """The base of a mixture and its share."""
     def __init__(self, *, base: Base = ..., contribution: float = ...) -> None: ...
-    base: Property[Base, Base]
+    base: Property[Base | None, Base]
     """The base."""
     def create_base(self, **values: Any) -> Base:
         """Gives `base`, which it makes if it isn't there, and sets properties of it."""
@@ -244,7 +244,7 @@ class ColorSpaceRecipeType(ColorSpaceType):
     ) -> None: ...
     name: Property[str | None, str | None]
     """Name of the value."""
-    color_space_specification_spectrum_generic: Property[ColorSpaceSpecificationSpectrumGeneric, ColorSpaceSpecificationSpectrumGeneric]
+    color_space_specification_spectrum_generic: Property[ColorSpaceSpecificationSpectrumGeneric | None, ColorSpaceSpecificationSpectrumGeneric]
     """Conditions under which the value holds."""
     def create_color_space_specification_spectrum_generic(self, **values: Any) -> ColorSpaceSpecificationSpectrumGeneric:
         """Gives `color_space_specification_spectrum_generic`, which it makes if it isn't there, and sets properties
@@ -293,7 +293,7 @@ class ColorantElementType_Colorant(Object):
     """Who makes the colorant; not empty."""
     part_number: Property[str, str]
     """The maker's number for it; not empty."""
-    density: Property[Density, Density]
+    density: Property[Density | None, Density]
     """Density of the colorant, above 0 and without a stated unit, or nil where it is unknown."""
     def create_density(self, **values: Any) -> Density:
         """Gives `density`, which it makes if it isn't there, and sets properties of it."""
@@ -301,7 +301,7 @@ class ColorantElementType_Colorant(Object):
 class ColorantElementType(Object):
     """A colorant and its fraction of a mixture."""
     def __init__(self, *, colorant: ColorantElementType_Colorant = ..., contribution: float = ...) -> None: ...
-    colorant: Property[ColorantElementType_Colorant, ColorantElementType_Colorant]
+    colorant: Property[ColorantElementType_Colorant | None, ColorantElementType_Colorant]
     """The colorant."""
     def create_colorant(self, **values: Any) -> ColorantElementType_Colorant:
         """Gives `colorant`, which it makes if it isn't there, and sets properties of it."""

@@ -58,7 +58,7 @@ class ColorSpaceDensityType(ColorSpaceType):
     ) -> None: ...
     name: Property[str | None, str | None]
     """Name of the value."""
-    color_space_specification_spectrum_generic: Property[ColorSpaceSpecificationSpectrumGeneric, ColorSpaceSpecificationSpectrumGeneric]
+    color_space_specification_spectrum_generic: Property[ColorSpaceSpecificationSpectrumGeneric | None, ColorSpaceSpecificationSpectrumGeneric]
     """Conditions under which the value holds."""
     def create_color_space_specification_spectrum_generic(self, **values: Any) -> ColorSpaceSpecificationSpectrumGeneric:
         """Gives `color_space_specification_spectrum_generic`, which it makes if it isn't there, and sets properties
@@ -82,7 +82,7 @@ class ColorSpaceSpectralType(ColorSpaceType):
     ) -> None: ...
     name: Property[str | None, str | None]
     """Name of the value."""
-    color_space_specification_spectrum_spectral: Property[ColorSpaceSpecificationSpectrumSpectral, ColorSpaceSpecificationSpectrumSpectral]
+    color_space_specification_spectrum_spectral: Property[ColorSpaceSpecificationSpectrumSpectral | None, ColorSpaceSpecificationSpectrumSpectral]
     """Conditions under which the value holds."""
     def create_color_space_specification_spectrum_spectral(self, **values: Any) -> ColorSpaceSpecificationSpectrumSpectral:
         """Gives `color_space_specification_spectrum_spectral`, which it makes if it isn't there, and sets properties
@@ -110,7 +110,7 @@ class ColorSpaceEmissiveSpectralType(ColorSpaceType):
     ) -> None: ...
     name: Property[str | None, str | None]
     """Name of the value."""
-    color_space_specification_emissive_spectral: Property[ColorSpaceSpecificationEmissiveSpectral, ColorSpaceSpecificationEmissiveSpectral]
+    color_space_specification_emissive_spectral: Property[ColorSpaceSpecificationEmissiveSpectral | None, ColorSpaceSpecificationEmissiveSpectral]
     """Conditions under which the value holds."""
     def create_color_space_specification_emissive_spectral(self, **values: Any) -> ColorSpaceSpecificationEmissiveSpectral:
         """Gives `color_space_specification_emissive_spectral`, which it makes if it isn't there, and sets properties
@@ -139,7 +139,7 @@ class ColorSpaceGenericType(ColorSpaceType):
     ) -> None: ...
     name: Property[str, str]
     """Name of the colour space."""
-    color_space_specification_spectrum_generic: Property[ColorSpaceSpecificationSpectrumGeneric, ColorSpaceSpecificationSpectrumGeneric]
+    color_space_specification_spectrum_generic: Property[ColorSpaceSpecificationSpectrumGeneric | None, ColorSpaceSpecificationSpectrumGeneric]
     """Conditions under which the value holds."""
     def create_color_space_specification_spectrum_generic(self, **values: Any) -> ColorSpaceSpecificationSpectrumGeneric:
         """Gives `color_space_specification_spectrum_generic`, which it makes if it isn't there, and sets properties
@@ -163,7 +163,7 @@ class ColorSpaceEmissiveGenericType(ColorSpaceType):
     ) -> None: ...
     name: Property[str, str]
     """Name of the colour space."""
-    color_space_specification_emissive_generic: Property[ColorSpaceSpecificationEmissiveGeneric, ColorSpaceSpecificationEmissiveGeneric]
+    color_space_specification_emissive_generic: Property[ColorSpaceSpecificationEmissiveGeneric | None, ColorSpaceSpecificationEmissiveGeneric]
     """Conditions under which the value holds."""
     def create_color_space_specification_emissive_generic(self, **values: Any) -> ColorSpaceSpecificationEmissiveGeneric:
         """Gives `color_space_specification_emissive_generic`, which it makes if it isn't there, and sets properties
@@ -221,7 +221,7 @@ class AxisType(Object):
     def __init__(self, *, axis_name: str = ..., axis_value_choice: AxisValueChoice = ...) -> None: ...
     axis_name: Property[str, str]
     """Name of the axis."""
-    axis_value_choice: Property[AxisValueChoice, AxisValueChoice]
+    axis_value_choice: Property[AxisValueChoice | None, AxisValueChoice]
     """Value on the axis."""
     def create_axis_value_choice(self, **values: Any) -> AxisValueChoice:
         """Gives `axis_value_choice`, which it makes if it isn't there, and sets properties of it."""
@@ -254,9 +254,9 @@ class DensityType(Object):
         density_filter: DensityFilterKind | int | str = ...,
         value: float = ...,
     ) -> None: ...
-    density_status: Property[DensityStatusKind, DensityStatusKind | int | str]
+    density_status: Property[DensityStatusKind | None, DensityStatusKind | int | str]
     """Density status, the set of filter responses."""
-    density_filter: Property[DensityFilterKind, DensityFilterKind | int | str]
+    density_filter: Property[DensityFilterKind | None, DensityFilterKind | int | str]
     """Filter of the status."""
     value: Property[float, float]
     """The density, a common logarithm."""

@@ -31,7 +31,7 @@ class SampleType(Object):
     """The physical thing that carried a measurement."""
     custom_attributes: Property[List[CustomAttributeType], Iterable[CustomAttributeType]]
     """A named value of the user's own."""
-    substrate: Property[SubstrateChoice, SubstrateChoice]
+    substrate: Property[SubstrateChoice | None, SubstrateChoice]
     """Material of the sample."""
     def create_substrate(self, **values: Any) -> SubstrateChoice:
         """Gives `substrate`, which it makes if it isn't there, and sets properties of it."""
@@ -74,7 +74,7 @@ class SampleSpotType(SampleType):
         comment: str | None = ...,
         specification: Specification = ...,
     ) -> None: ...
-    specification: Property[Specification, Specification]
+    specification: Property[Specification | None, Specification]
     """Size of the patch."""
     def create_specification(self, **values: Any) -> Specification:
         """Gives `specification`, which it makes if it isn't there, and sets properties of it."""
@@ -97,7 +97,7 @@ class SampleTargetType(SampleType):
     ) -> None: ...
     custom_target: Property[str | None, str | None]
     """Name of the chart where Target is Target_Custom."""
-    target: Property[TargetKind, TargetKind | int | str]
+    target: Property[TargetKind | None, TargetKind | int | str]
     """The chart."""
 
 class SampleSpot(ElementFile, SampleSpotType):
