@@ -16,7 +16,7 @@ declare -A packages=(
         python3-jsonschema"
     [tool]="libcli11-dev nlohmann-json3-dev"
     [csharp]="mono-mcs mono-runtime"
-    [python]="python3-dev python3-numpy python3-pytest python3-pip python3-setuptools python3-wheel mypy"
+    [python]="python3-dev python3-numpy python3-pytest python3-pip python3-venv python3-setuptools python3-wheel mypy"
     [science]="python3-pandas python3-matplotlib python3-dask"
     [windows]="g++-mingw-w64-i686-posix g++-mingw-w64-x86-64-posix libz-mingw-w64-dev dpkg-dev googletest
         libclang-rt-14-dev"

@@ -8,6 +8,8 @@ import io
 import pickle
 import random
 import threading
+from concurrent.futures import ProcessPoolExecutor
+from multiprocessing import get_context
 
 import pytest
 
@@ -215,6 +217,20 @@ def test_classes_of_a_program():
         del mine
         gc.collect()
     assert type(vyr.ColorSetType(colors=[type("Mine", (vyr.ColorType,), {})()]).colors[0]) is vyr.ColorType
+
+
+def test_processes(palette, documents):
+    """What goes to other processes and comes back: documents, and what is wrong with them; parts of one don't."""
+    broken = min((documents / "invalid").glob("*.vyr"))
+    with ProcessPoolExecutor(2, get_context("spawn")) as pool:
+        for document in pool.map(vyr.load, [palette] * 3):
+            assert len(list(vyr.colors(document))) == 148
+        assert pool.submit(vyr.check, broken).result() == vyr.check(broken)
+        with pytest.raises(vyr.DocumentError) as caught:
+            pool.submit(vyr.load, broken).result()
+        assert caught.value.report == vyr.check(broken)
+        with pytest.raises(TypeError, match="pickle"):
+            pool.submit(repr, colors_of(document)[0]).result()
 
 
 def test_threads(palette, tmp_path):
