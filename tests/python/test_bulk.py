@@ -65,7 +65,7 @@ def test_values_and_setting_them(palette):
         vyr.set_spectra(document, [400, 700], [[0.5, 0.5]] * 147 + [[0.5, 11]])
     assert numpy.array_equal(vyr.spectra(document).values, values[:, :2])
     for wrong in (lambda: vyr.values(document, "munsell"), lambda: vyr.set_values(document, "spectral", values),
-                  lambda: vyr.set_spectra(document, [400], values, "lab"), lambda: vyr.frame(document, "hue")):
+                  lambda: vyr.set_spectra(document, [400], values, "lab")):
         with pytest.raises(ValueError, match="no kind"):
             wrong()
 
@@ -90,6 +90,8 @@ def test_conditions_and_frames(inks):
     spectra = vyr.frame(document_of(("A", [400, 500], [0.1, 0.2])), "spectral")
     assert spectra.columns.tolist() == [400, 500] and spectra.loc["A", 500] == 0.2
     assert list(vyr.frame([], "lab").columns) == ["l", "a", "b"]
+    with pytest.raises(ValueError, match="no kind"):
+        vyr.frame([], "hue")
     ragged = vyr.frame(document_of(("A", [510, 400], [0.3, 0.1]), ("A", [400, 500], [0.5, 0.2])), "spectral")
     assert ragged.columns.tolist() == [400, 500, 510] and ragged.index.tolist() == ["A", "A"]
     assert ragged.fillna(-1).values.tolist() == [[0.1, -1, 0.3], [0.5, 0.2, -1]]
