@@ -10,6 +10,7 @@
 #include <utility>
 
 #include "lmx/binding/open_element.h"
+#include "lmx/binding/part_memory.h"
 #include "lmx/file_name.h"
 #include "lmx/writer/xml_writer.h"
 
@@ -27,6 +28,7 @@ elmx_error marshal_whole(const s_document& document, const void* object, Target&
 elmx_error unmarshal_document(const s_document& document, void* object, c_xml_reader& reader) {
     reader.set_ns_map(document.ns_map);
     const c_xml_reader_local scope(reader);
+    const c_part_chunks chunks;
     elmx_error error = ELMX_OK;
     reader.get_element_event(nullptr, &error, &reader.m_name);
     if (error != ELMX_OK) {

@@ -4,18 +4,10 @@
 #include "lmx/binding/list.h"
 
 #include <algorithm>
-#include <memory>
 #include <new>
 
 namespace lmx {
 namespace {
-
-struct s_storage_deleter {
-    void operator()(void* storage) const { ::operator delete(storage); }
-};
-using storage = std::unique_ptr<void, s_storage_deleter>;
-
-storage allocate(std::size_t size) { return storage(::operator new(size)); }
 
 /// How many places a full list gets: spectra of 36 points fill theirs, and large entries are not kept waiting.
 std::size_t places_to_add(std::size_t size, std::size_t entry_size) {
@@ -29,14 +21,12 @@ std::size_t places_to_add(std::size_t size, std::size_t entry_size) {
 
 /// Followed in memory by places for entries.
 struct c_list_base::s_block {
-    alignas(k_entry_alignment) s_block* next;
+    alignas(k_part_alignment) s_block* next;
 };
 
 void* c_list_base::emplace(std::size_t index, const s_stored_type& type) {
     if (m_storage == nullptr) {
-        storage only = allocate(type.size);
-        type.construct(only.get());
-        m_storage = static_cast<std::byte*>(only.release());
+        m_storage = static_cast<std::byte*>(make_part(type));
         return m_storage;
     }
     if (!has_head() || (head()->freed == nullptr && head()->unused_count == 0)) {
@@ -97,12 +87,12 @@ void c_list_base::clear(const s_stored_type& type) noexcept {
 /// The index is a part of the head, so a larger one is another head.
 void c_list_base::reserve_index(std::size_t capacity) {
     const std::size_t bytes = sizeof(s_head) + capacity * sizeof(void*);
-    auto* const larger = ::new (::operator new(bytes)) s_head{};
+    auto* const larger = ::new (allocate_part(bytes)) s_head{};
     if (has_head()) {
         s_head* const old = head();
         *larger = *old;
         std::copy(old->entries(), old->entries() + old->size, larger->entries());
-        ::operator delete(old);
+        free_part(old);
     } else {
         larger->size = 1;
         larger->first = m_storage;
@@ -118,7 +108,7 @@ void c_list_base::reserve_places(std::size_t added, std::size_t entry_size) {
     const std::size_t capacity = has_head() ? head()->capacity : 0;
     if (count + added > capacity) reserve_index(std::max(count + added, capacity + capacity / 2));
     s_head& list = *head();
-    auto* const block = ::new (::operator new(sizeof(s_block) + added * entry_size)) s_block{list.blocks};
+    auto* const block = ::new (allocate_part(sizeof(s_block) + added * entry_size)) s_block{list.blocks};
     list.blocks = block;
     list.unused = reinterpret_cast<std::byte*>(block + 1);
     list.unused_count = added;
@@ -130,12 +120,12 @@ void c_list_base::free_storage() noexcept {
         while (list->blocks != nullptr) {
             s_block* const block = list->blocks;
             list->blocks = block->next;
-            ::operator delete(block);
+            free_part(block);
         }
-        ::operator delete(list->first);
-        ::operator delete(list);
+        free_part(list->first);
+        free_part(list);
     } else {
-        ::operator delete(m_storage);
+        free_part(m_storage);
     }
     m_storage = nullptr;
 }

@@ -10,6 +10,7 @@
 #include <cstdint>
 #include <utility>
 
+#include "lmx/binding/part_memory.h"
 #include "lmx/binding/stored_type.h"
 #include "lmx/export.h"
 
@@ -44,8 +45,6 @@ public:
     void clear(const s_stored_type& type) noexcept;
 
 protected:
-    static constexpr std::size_t k_entry_alignment = 8;
-
     c_list_base() = default;
     ~c_list_base() = default;
     c_list_base(const c_list_base&) = delete;
@@ -96,7 +95,7 @@ public:
     }
     T& append() { return insert(size()); }
     T& insert(std::size_t index) {
-        static_assert(alignof(T) <= k_entry_alignment && sizeof(T) >= sizeof(void*));
+        static_assert(alignof(T) <= k_part_alignment && sizeof(T) >= sizeof(void*));
         return *static_cast<T*>(emplace(index, k_stored_type<T>));
     }
     /// No bounds check.

@@ -224,14 +224,7 @@ bool is_item_there(const s_item& item, const void* object) {
 
 void* append_default(const s_item& item, void* object) {
     auto& entries = member<c_list_base>(object, item.offset);
-    switch (item.kind) {
-        case item_kind::element_list:
-            return entries.append(kind_of(item).stored);
-        case item_kind::any:
-            return entries.append(k_stored_type<c_any_info>);
-        default:
-            return entries.append(item.type->operations->stored);
-    }
+    return entries.append(item.kind == item_kind::any ? k_stored_type<c_any_info> : stored_type_of(item));
 }
 
 void* make_place_for_value(const s_class& type, const s_item& item, void* object) {
@@ -322,12 +315,11 @@ void* choose(const s_class& type, const s_item& alternative, void* object) {
     // An adopted null is no object to hand out.
     if (choice.chosen != number || (alternative.type != nullptr && choice.object == nullptr)) {
         release_choice(type, object);
-        if (alternative.type != nullptr) {
-            choice.object = alternative.type->operations->create();
+        const s_stored_type& stored = stored_type_of(alternative);
+        if (lies_in_slot(alternative)) {
+            stored.construct(&choice.number);
         } else {
-            const s_value_kind& kind = kind_of(alternative);
-            if (!kind.lies_in_slot) choice.object = ::operator new(kind.stored.size);
-            kind.stored.construct(alternative_storage(alternative, choice));
+            choice.object = make_part(stored);
         }
         choice.chosen = number;
     }
@@ -342,20 +334,22 @@ void adopt(const s_class& type, const s_item& alternative, void* object, void* o
     choice.object = owned;
     choice.chosen = number;
     choice.is_touched = true;
+    choice.is_adopted = true;
 }
 
 void release_choice(const s_class& type, void* object) {
     s_choice& choice = choice_of(type, object);
     if (const s_item* const alternative = chosen_row(type, choice)) {
-        if (alternative->type != nullptr) {
+        const s_stored_type& stored = stored_type_of(*alternative);
+        if (choice.is_adopted) {
             alternative->type->operations->destroy(choice.object);
-        } else {
-            const s_value_kind& kind = kind_of(*alternative);
-            if (kind.stored.destroy != nullptr) kind.stored.destroy(alternative_storage(*alternative, choice));
-            if (!kind.lies_in_slot) ::operator delete(choice.object);
+        } else if (!lies_in_slot(*alternative)) {
+            end_part(choice.object, stored);
+        } else if (stored.destroy != nullptr) {
+            stored.destroy(&choice.number);
         }
     }
-    choice = {none_chosen(type), choice.is_touched, {}};
+    choice = s_choice(none_chosen(type), choice.is_touched);
 }
 
 const std::u16string& chosen_text(const s_class& type, const s_item& alternative, const void* object) {

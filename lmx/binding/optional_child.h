@@ -6,6 +6,9 @@
 
 #pragma once
 
+#include "lmx/binding/part_memory.h"
+#include "lmx/binding/stored_type.h"
+
 namespace lmx {
 
 /// The part that doesn't depend on the child's type, for the functions that walk tables.
@@ -13,8 +16,10 @@ class c_optional_child_base {
 public:
     /// Null while the child has never been touched.
     void* object() const { return m_object; }
-    /// Takes an object made by the child's class; there must be none yet.
-    void adopt(void* object) { m_object = object; }
+    void* touch(const s_stored_type& type) {
+        if (m_object == nullptr) m_object = make_part(type);
+        return m_object;
+    }
     /// The objects change hands.
     void swap(c_optional_child_base& other) noexcept {
         void* const object = m_object;
@@ -35,7 +40,7 @@ template <class T>
 class c_optional_child : public c_optional_child_base {
 public:
     c_optional_child() = default;
-    ~c_optional_child() { delete static_cast<T*>(m_object); }
+    ~c_optional_child() { end_part(m_object, k_stored_type<T>); }
 
     /// The child, or a default object that all share.
     const T& get() const {
@@ -44,10 +49,7 @@ public:
         static const T* const nothing = new T();
         return *nothing;
     }
-    T& touch() {
-        if (m_object == nullptr) m_object = new T();
-        return *static_cast<T*>(m_object);
-    }
+    T& touch() { return *static_cast<T*>(c_optional_child_base::touch(k_stored_type<T>)); }
 };
 
 }  // namespace lmx

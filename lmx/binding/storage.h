@@ -44,9 +44,7 @@ inline const void* child_of(const s_item& item, const void* object) {
 /// The same; makes an optional one if there is none.
 inline void* touch_child(const s_item& item, void* object) {
     if (item.kind == item_kind::optional_child) {
-        auto& child = member<c_optional_child_base>(object, item.offset);
-        if (child.object() == nullptr) child.adopt(item.type->operations->create());
-        return child.object();
+        return member<c_optional_child_base>(object, item.offset).touch(item.type->operations->stored);
     }
     return &member<std::byte>(object, item.offset);
 }
@@ -76,10 +74,18 @@ inline const std::u16string& text_in(const s_item& item, const void* storage) {
                                                 : *static_cast<const std::u16string*>(storage);
 }
 
+/// Of a class or kind, what a list, a child or a choice needs to hold one.
+inline const s_stored_type& stored_type_of(const s_item& item) {
+    return item.type != nullptr ? item.type->operations->stored : kind_of(item).stored;
+}
+
+/// Whether an alternative lies in the slot of its choice; others are owned through it.
+inline bool lies_in_slot(const s_item& alternative) {
+    return alternative.type == nullptr && kind_of(alternative).lies_in_slot;
+}
 /// Where the value or object of the chosen alternative lies.
 inline void* alternative_storage(const s_item& alternative, s_choice& choice) {
-    const bool lies_in_slot = alternative.type == nullptr && kind_of(alternative).lies_in_slot;
-    return lies_in_slot ? &choice.number : choice.object;
+    return lies_in_slot(alternative) ? &choice.number : choice.object;
 }
 inline const void* alternative_storage(const s_item& alternative, const s_choice& choice) {
     return alternative_storage(alternative, const_cast<s_choice&>(choice));

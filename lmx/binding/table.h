@@ -37,7 +37,7 @@ struct s_class;
 struct s_document;
 
 /// Raised whenever rows change their meaning: generated code asserts the value it was made for.
-inline constexpr int k_binding_version = 6;
+inline constexpr int k_binding_version = 7;
 
 /// What an item is, and with it how it's stored.
 enum class item_kind : std::uint8_t {
@@ -200,13 +200,16 @@ struct s_class {
 /// The state of a choice or of a holder: which alternative lives, and the alternative.
 /// Numbers, booleans and enumerated texts lie in the slot; texts and objects are owned through it.
 struct s_choice {
+    explicit s_choice(std::int32_t nothing, bool touched = false) : chosen(nothing), is_touched(touched) {}
+
     std::int32_t chosen;
-    bool is_touched;  ///< raised with every choice: the present flag of a class that is a holder itself
+    bool is_touched;          ///< raised with every choice: the present flag of a class that is a holder itself
+    bool is_adopted = false;  ///< the object was made by `create` or `clone`, or is null; others are parts
     union {
         double number;
         std::int32_t int32;
         std::uint32_t uint32;
-        void* object;
+        void* object = nullptr;
     };
 };
 

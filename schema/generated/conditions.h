@@ -461,7 +461,7 @@ private:
         item_BSDFAngle,
     };
     static const lmx::s_item k_items[];
-    lmx::s_choice m_choice{e_none, false, {}};
+    lmx::s_choice m_choice{e_none};
 };
 
 /// Illumination by standard illuminant, chromaticity or colour temperature.
@@ -517,7 +517,7 @@ private:
         item_ColorTemperature,
     };
     static const lmx::s_item k_items[];
-    lmx::s_choice m_choice{e_none, false, {}};
+    lmx::s_choice m_choice{e_none};
     std::u16string m_Description;
     bool m_isset_Description = false;
 };

@@ -398,7 +398,7 @@ private:
         item_ProfileURI,
     };
     static const lmx::s_item k_items[];
-    lmx::s_choice m_choice{e_none, false, {}};
+    lmx::s_choice m_choice{e_none};
 };
 
 /// Colour profile of a device, by reference or inline.
@@ -554,7 +554,7 @@ private:
         item_StringValue,
     };
     static const lmx::s_item k_items[];
-    lmx::s_choice m_choice{e_none, false, {}};
+    lmx::s_choice m_choice{e_none};
 };
 
 /// A parameter of a profile, by a name of one letter and a value.

@@ -196,7 +196,7 @@ private:
         item_String,
     };
     static const lmx::s_item k_items[];
-    lmx::s_choice m_choice{e_none, false, {}};
+    lmx::s_choice m_choice{e_none};
 };
 
 /// A parameter of a function, by name and value.

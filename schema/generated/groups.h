@@ -187,7 +187,7 @@ public:
 protected:
     void marshal_attributes(lmx::c_xml_writer& writer) const { lmx::marshal_attributes(k_class, this, writer); }
     lmx::elmx_error marshal_child_elements(lmx::c_xml_writer& writer) const { return lmx::marshal_child_elements(k_class, this, writer); }
-    lmx::s_choice m_choice{e_none, false, {}};
+    lmx::s_choice m_choice{e_none};
 
 private:
     enum item : std::size_t {
@@ -291,7 +291,7 @@ public:
 protected:
     void marshal_attributes(lmx::c_xml_writer& writer) const { lmx::marshal_attributes(k_class, this, writer); }
     lmx::elmx_error marshal_child_elements(lmx::c_xml_writer& writer) const { return lmx::marshal_child_elements(k_class, this, writer); }
-    lmx::s_choice m_choice{e_none, false, {}};
+    lmx::s_choice m_choice{e_none};
 
 private:
     enum item : std::size_t {
@@ -341,7 +341,7 @@ public:
 protected:
     void marshal_attributes(lmx::c_xml_writer& writer) const { lmx::marshal_attributes(k_class, this, writer); }
     lmx::elmx_error marshal_child_elements(lmx::c_xml_writer& writer) const { return lmx::marshal_child_elements(k_class, this, writer); }
-    lmx::s_choice m_choice{e_none, false, {}};
+    lmx::s_choice m_choice{e_none};
 
 private:
     enum item : std::size_t {
@@ -467,7 +467,7 @@ public:
 protected:
     void marshal_attributes(lmx::c_xml_writer& writer) const { lmx::marshal_attributes(k_class, this, writer); }
     lmx::elmx_error marshal_child_elements(lmx::c_xml_writer& writer) const { return lmx::marshal_child_elements(k_class, this, writer); }
-    lmx::s_choice m_choice{e_none, false, {}};
+    lmx::s_choice m_choice{e_none};
 
 private:
     enum item : std::size_t {

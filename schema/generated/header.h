@@ -698,7 +698,7 @@ private:
         item_StringValue,
     };
     static const lmx::s_item k_items[];
-    lmx::s_choice m_choice{e_none, false, {}};
+    lmx::s_choice m_choice{e_none};
 };
 
 /// A named value of the user's own, kept by the format without a meaning of its own.
@@ -879,7 +879,7 @@ private:
         item_NumberValue,
     };
     static const lmx::s_item k_items[];
-    lmx::s_choice m_choice{e_none, false, {}};
+    lmx::s_choice m_choice{e_none};
 };
 
 /// Value that a colour has under one tag: a text or a number.

@@ -20,7 +20,7 @@ namespace com_vyrgraph_v2 {
 
 using namespace lmx;  // for the tables' sake
 
-static_assert(k_binding_version == 6, "run schema/generator/generate.py");
+static_assert(k_binding_version == 7, "run schema/generator/generate.py");
 
 // CollectionColorSpaceSpecificationType
 

@@ -569,7 +569,7 @@ private:
         item_AxisStringValue,
     };
     static const lmx::s_item k_items[];
-    lmx::s_choice m_choice{e_none, false, {}};
+    lmx::s_choice m_choice{e_none};
 };
 
 /// Value on one axis of a colour space that the format doesn't know.

@@ -5,7 +5,7 @@
 from cpp import ENUMERATED_TYPE, FOLDER, LISTS, MEMBER_TYPES, comment, frame, initial_value
 from members import members_of, own_choice, protected_members
 
-CHOICE = "lmx::s_choice m_choice{e_none, false, {}};"
+CHOICE = "lmx::s_choice m_choice{e_none};"
 
 
 def class_title(made):

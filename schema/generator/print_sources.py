@@ -7,7 +7,7 @@ from members import flag_member, members_of, own_choice
 from model import PREFIX, REQUIRED
 from print_headers import has_flag
 
-VERSION = 6  # of the runtime's tables, lmx::k_binding_version
+VERSION = 7  # of the runtime's tables, lmx::k_binding_version
 NOTES = (
     "// Offsets of members of classes with virtual functions: both compilers define them, and the macros check them.",
     '#pragma GCC diagnostic ignored "-Winvalid-offsetof"',

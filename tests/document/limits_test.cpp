@@ -7,7 +7,9 @@
 #include <gtest/gtest.h>
 
 #include <fstream>
+#include <memory>
 #include <string>
+#include <thread>
 
 #include "schema/Vyr.h"
 #include "tests/heap.h"
@@ -58,6 +60,24 @@ TEST(Limits, MemoryIsWhatTheGuideSays) {
     });
     EXPECT_LE(let_pass, figure("times with all failures let pass"));
     EXPECT_GE(let_pass, 0.7 * figure("times with all failures let pass"));
+}
+
+TEST(Limits, APartThatIsKeptKeepsLittleElse) {
+    const char* const palette = VYR_TEST_DOCUMENTS "/../../examples/css-colors.vyr";
+    ASSERT_EQ(v2::Vyr().unmarshal(palette), ELMX_OK);  // makes what the library makes once
+    const std::size_t before = heap_in_use;
+    auto kept = std::make_unique<v2::ColorType>();
+    {
+        v2::Vyr document;
+        ASSERT_EQ(document.unmarshal(palette), ELMX_OK);
+        v2::ColorSetType& colors = document.get_Palette(0).get_ColorSet(0);
+        kept->swap(colors.get_Color(colors.size_Color() / 2));
+        EXPECT_GT(heap_in_use - before, 128U << 10U);
+    }
+    EXPECT_FALSE(kept->get_ColorName().empty());
+    EXPECT_LE(heap_in_use - before, 80U << 10U);
+    std::thread([&kept] { kept.reset(); }).join();
+    EXPECT_EQ(heap_in_use, before);
 }
 
 }  // namespace
