@@ -39,6 +39,13 @@ elmx_error give_up(c_xml_reader& reader, elmx_error code) {
     return code;
 }
 
+/// Reads over what is left of a start tag.
+elmx_error skip_start_tag(c_xml_reader& reader, bool* is_empty) {
+    if (reader.skip_start_tag(is_empty)) return ELMX_OK;
+    reader.restore_event(ELXP_ERROR);
+    return give_up(reader, ELMX_NOT_WELL_FORMED);
+}
+
 elmx_error report_wrong_end(c_xml_reader& reader, const char* name) {
     const c_string_stack_node node(reader.get_element_name_stack(), name);
     // Where it begins isn't kept.
@@ -59,10 +66,8 @@ elmx_error skip_content(c_xml_reader& reader, const std::string& name) {
         switch (reader.get_scanned_event()) {
             case ELXP_NAME: {
                 bool is_empty = false;
-                if (!reader.skip_start_tag(&is_empty)) {
-                    reader.restore_event(ELXP_ERROR);
-                    return give_up(reader, ELMX_NOT_WELL_FORMED);
-                }
+                error = skip_start_tag(reader, &is_empty);
+                if (error != ELMX_OK) return error;
                 if (!is_empty) open.push(reader.m_name);
                 break;
             }
@@ -100,11 +105,8 @@ elmx_error skip_content(c_xml_reader& reader, const std::string& name) {
 
 elmx_error skip_element(c_xml_reader& reader, const std::string& name) {
     bool is_empty = false;
-    if (!reader.skip_start_tag(&is_empty)) {
-        reader.restore_event(ELXP_ERROR);
-        return give_up(reader, ELMX_NOT_WELL_FORMED);
-    }
-    return is_empty ? ELMX_OK : skip_content(reader, name);
+    const elmx_error error = skip_start_tag(reader, &is_empty);
+    return error != ELMX_OK || is_empty ? error : skip_content(reader, name);
 }
 
 elmx_error leave_element(c_xml_reader& reader, const std::string& name) {
