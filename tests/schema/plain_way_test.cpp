@@ -144,9 +144,8 @@ struct s_case {
     std::vector<std::string> bodies;  ///< of the loads, one after the other
 };
 
-const std::string k_date = "<Vyr:ChangeHistory>2024-05-01T09:30:00Z</Vyr:ChangeHistory>";
 const std::string k_nil = "<Vyr:ColorSpaceSpecificationSpectrumTristimulus xsi:nil=\"true\"/>";
-const std::string k_lab_end = k_date + k_nil + "<Vyr:L>50</Vyr:L><Vyr:A>1</Vyr:A><Vyr:B>2</Vyr:B>";
+const std::string k_lab_end = k_change_history + k_nil + "<Vyr:L>50</Vyr:L><Vyr:A>1</Vyr:A><Vyr:B>2</Vyr:B>";
 const std::string k_parent =
     "<Vyr:ParentColorSpace><Vyr:ColorSpaceCIELab>" + k_lab_end + "</Vyr:ColorSpaceCIELab></Vyr:ParentColorSpace>";
 const std::string k_averaging = "<Vyr:Averaging AveragingValue=\"3\">true</Vyr:Averaging>";
@@ -158,8 +157,8 @@ std::string spectrum(const std::string& odd) {
         return "\n\t<Vyr:ReflectancePoint Wavelength=\"" + std::to_string(wavelength) +
                "\">0.25</Vyr:ReflectancePoint>";
     };
-    return k_date + "<Vyr:ColorSpaceSpecificationSpectrumSpectral xsi:nil=\"true\"/>" + point(400) + point(410) +
-           odd + point(420) + point(430);
+    return k_change_history + "<Vyr:ColorSpaceSpecificationSpectrumSpectral xsi:nil=\"true\"/>" + point(400) +
+           point(410) + odd + point(420) + point(430);
 }
 const std::string k_point = "\n\t<Vyr:ReflectancePoint Wavelength=";
 
@@ -188,10 +187,10 @@ const std::vector<s_case>& cases() {
               k_lab_end}},
         // Values at the border of what is plain.
         {"ColorSpaceCIELab",
-         {k_date + k_nil + "<Vyr:L>5.</Vyr:L><Vyr:A>.5</Vyr:A><Vyr:B>-.5</Vyr:B>",
-          k_date + k_nil + "<Vyr:L>-</Vyr:L><Vyr:A>.</Vyr:A><Vyr:B>-.</Vyr:B>",
-          k_date + k_nil + "<Vyr:L>100.00000000000001</Vyr:L><Vyr:A>1e1</Vyr:A><Vyr:B>+1</Vyr:B>",
-          k_date + k_nil + "<Vyr:L>-0</Vyr:L><Vyr:A>NaN</Vyr:A><Vyr:B> 1 </Vyr:B>",
+         {k_change_history + k_nil + "<Vyr:L>5.</Vyr:L><Vyr:A>.5</Vyr:A><Vyr:B>-.5</Vyr:B>",
+          k_change_history + k_nil + "<Vyr:L>-</Vyr:L><Vyr:A>.</Vyr:A><Vyr:B>-.</Vyr:B>",
+          k_change_history + k_nil + "<Vyr:L>100.00000000000001</Vyr:L><Vyr:A>1e1</Vyr:A><Vyr:B>+1</Vyr:B>",
+          k_change_history + k_nil + "<Vyr:L>-0</Vyr:L><Vyr:A>NaN</Vyr:A><Vyr:B> 1 </Vyr:B>",
           "<Vyr:ChangeHistory>9999-99-99T99:99:99Z</Vyr:ChangeHistory>"
           "<Vyr:ChangeHistory>-2024-05-01T09:30:00Z</Vyr:ChangeHistory>"
           "<Vyr:ChangeHistory>2024-05-01T09:30:00z</Vyr:ChangeHistory>"
@@ -200,9 +199,10 @@ const std::vector<s_case>& cases() {
               k_nil + "<Vyr:L>1\n</Vyr:L><Vyr:A>1\r\n</Vyr:A><Vyr:B\n>1</Vyr:B\n>"}},
         // Where a name or a tag ends, and one plain element behind several that aren't.
         {"ColorSpaceCIELab",
-         {k_date + k_nil + "<Vyr:L>1</Vyr:L ><Vyr:A>1</Vyr:A   ><Vyr:B>1</Vyr:B\t>",
-          k_date + k_nil + "<Vyr:L>1</Vyr:L x><Vyr:A>1</Vyr:A/><Vyr:B>1</Vyr:B",
-          k_date + k_nil + "<Vyr:L<Vyr:A>1</Vyr:A><Vyr:Bb>1</Vyr:Bb>", k_date + k_nil + "<Vyr:L\x01>1</Vyr:L><Vyr:",
+         {k_change_history + k_nil + "<Vyr:L>1</Vyr:L ><Vyr:A>1</Vyr:A   ><Vyr:B>1</Vyr:B\t>",
+          k_change_history + k_nil + "<Vyr:L>1</Vyr:L x><Vyr:A>1</Vyr:A/><Vyr:B>1</Vyr:B",
+          k_change_history + k_nil + "<Vyr:L<Vyr:A>1</Vyr:A><Vyr:Bb>1</Vyr:Bb>",
+          k_change_history + k_nil + "<Vyr:L\x01>1</Vyr:L><Vyr:",
           "<Vyr:ChangeHistory>&#50;024-05-01T09:30:00Z</Vyr:ChangeHistory><!-- -->" + k_nil +
               "<!-- --><Vyr:L>&#53;</Vyr:L><Vyr:A>&#53;</Vyr:A><Vyr:B>&#53;</Vyr:B><Vyr:Hue>&#53;</Vyr:Hue>" +
               k_text + k_lab_end}},

@@ -17,12 +17,11 @@ namespace {
 
 using namespace lmx;
 
-const std::string k_date = "<Vyr:ChangeHistory>2024-05-01T09:30:00Z</Vyr:ChangeHistory>";
 const std::string k_filter_and_polarization =
     "<Vyr:DeviceFilter>Filter_None</Vyr:DeviceFilter><Vyr:DevicePolarization>false</Vyr:DevicePolarization>";
 const std::string k_nil_tristimulus = "<Vyr:ColorSpaceSpecificationSpectrumTristimulus xsi:nil=\"true\"/>";
 const std::string k_nil_generic = "<Vyr:ColorSpaceSpecificationSpectrumGeneric xsi:nil=\"true\"/>";
-const std::string k_lab = "<Vyr:ColorSpaceCIELab>" + k_date + k_nil_tristimulus +
+const std::string k_lab = "<Vyr:ColorSpaceCIELab>" + k_change_history + k_nil_tristimulus +
                           "<Vyr:L>50</Vyr:L><Vyr:A>-1.5</Vyr:A><Vyr:B>2</Vyr:B></Vyr:ColorSpaceCIELab>";
 
 std::string element(const std::string& name, const std::string& content, const std::string& attributes = "") {
@@ -168,12 +167,12 @@ TEST(Reading, AForeignElementInAGroupsPlaceIsSkippedAndCantBeWritten) {
 
 TEST(Reading, XsiTypeSpecialisesTwoGroupMembers) {
     const std::string cmyk_start = "<Vyr:ColorSpaceCMYK xsi:type=\"Vyr:";
-    const std::string inks = k_date + k_nil_generic +
+    const std::string inks = k_change_history + k_nil_generic +
                              "<Vyr:Cyan>1</Vyr:Cyan><Vyr:Magenta>2</Vyr:Magenta><Vyr:Yellow>3</Vyr:Yellow>"
                              "<Vyr:Black>4</Vyr:Black>";
     v2::ColorType color;
     ASSERT_EQ(read(color, element("Color",
-                                  k_date + cmyk_start + "ColorSpaceCMYKPlusNType\">" + inks +
+                                  k_change_history + cmyk_start + "ColorSpaceCMYKPlusNType\">" + inks +
                                       "<Vyr:Color><Vyr:Name>o</Vyr:Name><Vyr:Value>5</Vyr:Value></Vyr:Color>"
                                       "</Vyr:ColorSpaceCMYK>",
                                   " ColorName=\"c\"")),
@@ -185,8 +184,9 @@ TEST(Reading, XsiTypeSpecialisesTwoGroupMembers) {
               std::string::npos);
 
     v2::ColorType unknown;
-    const std::string text = with_declarations(element(
-        "Color", k_date + cmyk_start + "ColorSpaceRGBType\">" + inks + "</Vyr:ColorSpaceCMYK>", " ColorName=\"c\""));
+    const std::string text = with_declarations(
+        element("Color", k_change_history + cmyk_start + "ColorSpaceRGBType\">" + inks + "</Vyr:ColorSpaceCMYK>",
+                " ColorName=\"c\""));
     c_swallowing_reader reader(text);
     EXPECT_EQ(read_with(reader, unknown).code, ELMX_UNKNOWN_XSI_TYPE);
     EXPECT_TRUE(reader.swallowed.empty());
@@ -224,8 +224,8 @@ TEST(Reading, NilElements) {
 
 TEST(Reading, ASpecificationWithoutFilterCantBeWrittenBack) {
     const std::string geometry = element("GeometryChoice", element("Angle", "-45"));
-    const std::string rest =
-        element("DevicePolarization", "0") + k_date + "<Vyr:Spectrum>Spectrum_Reflectance</Vyr:Spectrum>" + geometry;
+    const std::string rest = element("DevicePolarization", "0") + k_change_history +
+                             "<Vyr:Spectrum>Spectrum_Reflectance</Vyr:Spectrum>" + geometry;
     v2::ColorSpaceSpecificationSpectrumSpectralType specification;
     const char* const name = "Vyr:ColorSpaceSpecificationSpectrumSpectral";
     ASSERT_EQ(read(specification, element(name + 4, rest)), s_outcome{});
@@ -332,7 +332,7 @@ TEST(Reading, SwallowedErrorsGoOn) {
 TEST(Reading, AHandlerThatSwallowsEverythingStillComesToAnEnd) {
     const std::string whole =
         with_declarations(element("Color",
-                                  k_date + k_lab +
+                                  k_change_history + k_lab +
                                       "<Vyr:SubstratePaper/><Vyr:TagValues><Vyr:Tag><Vyr:Category UniqueID=\"u\"/>"
                                       "</Vyr:Tag><Vyr:TextValue>t</Vyr:TextValue></Vyr:TagValues>",
                                   " ColorName=\"c\""));
@@ -351,10 +351,10 @@ TEST(Reading, NestingIsBounded) {
         std::string open, close;
         for (int level = 0; level + 1 < levels; level += 2) {
             open += "<Vyr:ColorSpaceYBR><Vyr:ParentColorSpace>";
-            close.insert(0, "</Vyr:ParentColorSpace>" + k_date + k_nil_generic +
+            close.insert(0, "</Vyr:ParentColorSpace>" + k_change_history + k_nil_generic +
                                 "<Vyr:Y>0</Vyr:Y><Vyr:B>0</Vyr:B><Vyr:R>0</Vyr:R></Vyr:ColorSpaceYBR>");
         }
-        return open + "<Vyr:ColorSpaceNCS><Vyr:ParentColorSpace xsi:nil=\"1\"/>" + k_date + k_nil_generic +
+        return open + "<Vyr:ColorSpaceNCS><Vyr:ParentColorSpace xsi:nil=\"1\"/>" + k_change_history + k_nil_generic +
                "<Vyr:ColorName>n</Vyr:ColorName></Vyr:ColorSpaceNCS>" + close;
     };
     v2::ColorSpaceYBR deep;

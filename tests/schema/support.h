@@ -19,6 +19,8 @@ namespace v2 = com_vyrgraph_v2;
 inline const std::string k_declarations =
     " xmlns:Vyr=\"http://vyrgraph.com/v2\" xmlns:xsi=\"http://www.w3.org/2001/XMLSchema-instance\"";
 
+inline const std::string k_change_history = "<Vyr:ChangeHistory>2024-05-01T09:30:00Z</Vyr:ChangeHistory>";
+
 /// What a read ended with.
 struct s_outcome {
     lmx::elmx_error code = lmx::ELMX_OK;

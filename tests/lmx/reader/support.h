@@ -5,11 +5,14 @@
 
 #pragma once
 
+#include <gtest/gtest.h>
+
 #include <algorithm>
 #include <cstdio>
 #include <string>
 #include <string_view>
 #include <utility>
+#include <vector>
 
 #include "lmx/reader/xml.h"
 
@@ -105,6 +108,21 @@ inline std::string scan(s_scanner& scanner) {
             default:
                 return trace + '!';
         }
+    }
+}
+
+struct s_scan_case {
+    std::string document;
+    std::string trace;
+    std::string reports;
+};
+
+/// Scans each document with `head` ahead.
+inline void check_scans(const std::vector<s_scan_case>& cases, const std::string& head = "") {
+    for (const s_scan_case& row : cases) {
+        s_scanner scanner(head + row.document);
+        EXPECT_EQ(scan(scanner), row.trace) << row.document;
+        EXPECT_EQ(scanner.reports.m_log, row.reports) << row.document;
     }
 }
 

@@ -123,14 +123,15 @@ std::string run(c_read& source, unsigned number) {
     return trace;
 }
 
-constexpr const char* k_pieces[] = {"<a>",  "</a>", "</a",      "<a ",      "/>",   "/",  ">",
-                                    "<",    "\n",   "\r",       "\r\n",     "x",    "yz", "some words",
-                                    "<!--", "-->",  "<?",       "?>",       "'",    "\"", "  ",
-                                    "\xC3", "\xFF", "\xC3\xA9", "\xC2\x85", "\xE2", "-",  "\xE2\x80\xA8"};
+constexpr const char* k_fragments[] = {"<a>",  "</a>", "</a",      "<a ",      "/>",   "/",  ">",
+                                       "<",    "\n",   "\r",       "\r\n",     "x",    "yz", "some words",
+                                       "<!--", "-->",  "<?",       "?>",       "'",    "\"", "  ",
+                                       "\xC3", "\xFF", "\xC3\xA9", "\xC2\x85", "\xE2", "-",  "\xE2\x80\xA8"};
 
 std::string document(std::mt19937& random) {
     std::string text = random() % 4 != 0 ? "<" : "";
-    for (std::size_t count = random() % 30; count > 0; --count) text += k_pieces[random() % std::size(k_pieces)];
+    for (std::size_t count = random() % 30; count > 0; --count)
+        text += k_fragments[random() % std::size(k_fragments)];
     switch (random() % 6) {
         case 0:
             return widen(text, false) + (random() % 2 == 0 ? "\x3D\xD8\x00\xDE"s : "\x3D"s);
