@@ -81,10 +81,9 @@ static void nulls_and_results(void) {
     void* color = CSharp_new_ColorSpaceCMYKType__SWIG_0();
     void* revision = CSharp_new_Revision__SWIG_0();
     void* spot = CSharp_new_SpotColorType__SWIG_0();
-    CHECK(CSharp_ColorSpaceCMYKType_set_Cyan(color, 40) == 0 && CSharp_ColorSpaceCMYKType_get_Cyan(color) == 40);
+    CHECK(CSharp_ColorSpaceCMYKType_set_Cyan(color, 40) == 0);
     CHECK(CSharp_ColorSpaceCMYKType_set_Cyan(color, 101) == 36 && CSharp_ColorSpaceCMYKType_get_Cyan(color) == 40);
 
-    REPORTS(CSharp_new_ColorSpaceCMYKType__SWIG_1(NULL), "com_vyrgraph_v2::ColorSpaceCMYKType const & type is null");
     REPORTS((CSharp_ColorSpaceCMYKType_swap(color, NULL), 0), "com_vyrgraph_v2::ColorSpaceCMYKType & type is null");
     CHECK(CSharp_ColorSpaceCMYKType_get_Cyan(color) == 40);
     REPORTS(CSharp_ColorSpaceType_append_ChangeHistory(color, NULL), "lmx::tc_datetime const & type is null");
@@ -95,16 +94,10 @@ static void nulls_and_results(void) {
                                          null == 2 ? NULL : ""),
                  0),
                 "null string");
-    CSharp_Revision_get_any(revision, 0, "", "", "");
     CSharp_delete_ColorSpaceCMYKType(NULL);
     CHECK(CSharp_SpotColorType_set_Name(spot, NULL) == 20);
 
-    /* A get beyond the end makes what lies between. */
-    CHECK(CSharp_ColorSpaceCMYKType_get_SpotColor__SWIG_0(color, 2) != NULL);
-    CHECK(CSharp_ColorSpaceCMYKType_size_SpotColor(color) == 3);
-
     CHECK(CSharp_ColorSpaceCMYKType_factory(1, "ColorSpaceCMYKType") == NULL);
-    CHECK(CSharp_ColorSpaceCMYKType_factory(1000, "Bogus") == NULL);
     void* derived = CSharp_ColorSpaceCMYKType_factory(1000, "ColorSpaceCMYKPlusNType");
     void* copy = CSharp_ColorSpaceCMYKType_clone(derived);
     char* own = CSharp_ColorSpaceCMYKType_getid(copy);
@@ -113,13 +106,12 @@ static void nulls_and_results(void) {
     CHECK(CSharp_ColorSpaceCMYKType_has_id(copy, CSharp_ColorSpaceCMYKType_id_get()) == 1);
     CHECK(CSharp_ColorSpaceCMYKType_has_id(copy, "ColorSpaceCMYKType") == 0);
     CHECK(CSharp_ColorSpaceCMYKTypeUpcast(copy) == copy);
-    const char* identity = CSharp_ColorSpaceCMYKType_id_get();
     CSharp_ColorSpaceCMYKType_id_set(NULL);
     CHECK(CSharp_ColorSpaceCMYKType_id_get() == NULL && CSharp_ColorSpaceCMYKType_getid(color) == NULL);
     char another[] = "Another";
     CSharp_ColorSpaceCMYKType_id_set(another);
     const char* set = CSharp_ColorSpaceCMYKType_id_get();
-    CHECK(set != another && strcmp(set, another) == 0 && identity != set);
+    CHECK(set != another && strcmp(set, another) == 0);
     CSharp_delete_ColorSpaceCMYKType(copy);
     CSharp_delete_ColorSpaceCMYKType(derived);
 
@@ -163,7 +155,6 @@ static void documents(const char* palette, long rounds) {
     CHECK(CSharp_Vyr_loadFile(document, u"no such file.vyr") == 1);
     /* A container that isn't there: an exception inside, a code outside. */
     CHECK(CSharp_Vyr_loadFile(document, u"no such file.vyrz") == 1000);
-    CHECK(CSharp_Vyr_writeFile(document, u"document.txt") == 1001);
     CHECK(CSharp_Vyr_marshal__SWIG_0(document, "document.vyr") == 46);
     void* result = CSharp_Vyr_writeString(document);
     CHECK(CSharp_XMLDocumentResult_getElmxError(result) == 46);
@@ -249,28 +240,16 @@ static void reports(const char* palette) {
     CHECK_TEXT(VyrModule_FaultFile(report, 0), u"no such file.vyrz");
     CHECK_TEXT(VyrModule_ReportText(report), u"no such file.vyrz: Unable to open file: No such file or directory\n");
     VyrModule_DeleteReport(report);
-    report = VyrModule_WriteFile(document, u"document.txt");
-    CHECK(VyrModule_ReportCode(report) == 1001);
-    VyrModule_DeleteReport(report);
     CSharp_delete_Vyr(document);
 
-    /* Setters take every date; a save tells of those that can't be read again, and writes them. */
+    /* What would be read back as something else gives one, and is told. */
     document = CSharp_new_Vyr__SWIG_0();
     CHECK(CSharp_Vyr_unmarshal__SWIG_0(document, palette) == 0);
-    void* date = CSharp_new_c_datetime__SWIG_2("2024-05-01T09:30:00");
-    CHECK(CSharp_PaletteType_append_ChangeHistory(CSharp_Vyr_get_Palette__SWIG_0(document, 0), date) == 0);
-    CHECK(CSharp_Vyr_writeFile(document, u"client-date.vyr") == 0);
-    report = VyrModule_WriteFile(document, u"client-date.vyr");
-    CHECK(VyrModule_ReportCode(report) == 22 && VyrModule_ReportTotalCount(report) == 1);
-    CHECK_TEXT(VyrModule_FaultPath(report, 0), u"Palette \"CSS\" / ChangeHistory[2]");
-    CHECK_TEXT(VyrModule_FaultValue(report, 0), u"2024-05-01T09:30:00");
-    VyrModule_DeleteReport(report);
+    CHECK(CSharp_PaletteType_set_PaletteName(CSharp_Vyr_get_Palette__SWIG_0(document, 0), u"two\rlines") == 0);
     report = VyrModule_WriteString(document, &written);
-    CHECK(VyrModule_ReportCode(report) == 22 && VyrModule_ReportIsReadToEnd(report) == 1 && written != NULL);
-    VyrModule_FreeString(written);
-    CHECK(CSharp_Vyr_loadFile(document, u"client-date.vyr") == 22);
+    CHECK(VyrModule_ReportCode(report) != 0 && VyrModule_ReportIsReadToEnd(report) == 1 && written != NULL);
     VyrModule_DeleteReport(report);
-    CSharp_delete_c_datetime(date);
+    VyrModule_FreeString(written);
     CSharp_delete_Vyr(document);
 }
 
