@@ -158,7 +158,6 @@ namespace Vyr
             return this[place];
         }
 
-
         internal override void RemoveEntry(int index)
         {
             if (index >= known.Length) return;
