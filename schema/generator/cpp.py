@@ -1,6 +1,7 @@
 # Copyright 2026 The Vyr Authors
 # SPDX-License-Identifier: Apache-2.0
-"""What the printers of C++ share: the frame of a file, comments, and the C++ side of simple types."""
+"""What the printers share: how text is wrapped; and those of C++: the frame of a file, comments, and the C++ side of
+simple types."""
 
 import textwrap
 
@@ -38,9 +39,13 @@ def initial_value(item):
     return "" if parameter_type(item.value.value).startswith("const") else " = 0"
 
 
+def wrap(text, width):
+    """Lines that are broken at blanks only."""
+    return textwrap.wrap(text, width, break_long_words=False, break_on_hyphens=False)
+
+
 def comment(text):
-    return textwrap.wrap(text, WIDTH, initial_indent="/// ", subsequent_indent="/// ", break_long_words=False,
-                         break_on_hyphens=False)
+    return [f"/// {line}" for line in wrap(text, WIDTH - 4)]
 
 
 def frame(purpose, includes, body, is_header=False, notes=()):

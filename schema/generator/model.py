@@ -34,6 +34,11 @@ class SimpleType:
     maximum_length: int | None = None
     pattern: str | None = None
 
+    def enumerators(self):
+        """Number, name in other languages, text and documentation of each text of an enumeration."""
+        for number, (text, doc) in enumerate(zip(self.enumeration, self.enumeration_docs), 1):
+            yield number, re.sub(r"[^A-Za-z0-9]", "_", text), text, doc
+
     def facets(self):
         """The facets as a text, empty without any."""
         parts = {

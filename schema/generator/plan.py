@@ -32,6 +32,7 @@ class Plan:
                       for kind in ("attribute", "element")}
         self.facets = [simple for simple in model.simple_types if simple.facets()]
         self.enumerations = {item.accessor: item.value for item in items if item.enumerated}
+        self.enumeration_types = sorted(set(self.enumerations.values()), key=lambda simple: simple.name)
         self.topics = [self.topic(name) for name in model.topics]
         self.check_cycles()
 

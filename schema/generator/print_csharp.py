@@ -7,10 +7,10 @@ Which native functions a class declares follows from the lines that call them.
 """
 
 import re
-import textwrap
 from xml.sax.saxutils import escape
 
-from cpp import LISTS, WIDTH
+from cpp import LISTS, WIDTH, wrap
+from members import own_choice
 from print_flat import functions_of
 from source import SchemaError
 
@@ -41,9 +41,7 @@ PARTS = ("child", "optional_child", "group", *LISTS, "any")
 
 
 def summary(text, indent):
-    lines = textwrap.wrap(f"<summary>{escape(text)}</summary>", WIDTH - indent, break_long_words=False,
-                          break_on_hyphens=False)
-    return [f"/// {line}" for line in lines]
+    return [f"/// {line}" for line in wrap(f"<summary>{escape(text)}</summary>", WIDTH - indent)]
 
 
 def literal(text):
@@ -313,7 +311,7 @@ def members(printer, plan, made):
             object_item(printer, item)
         else:
             simple_item(printer, item, "virtual " if is_inherited and item.kind == "content" else "")
-    if made.content in ("choice", "group") and not made.derives_from_group and not made.base:
+    if own_choice(made) and not made.base:
         alternatives(printer, plan, made)
     if found := plan.content_item(made):
         value = Value(found[1])
@@ -388,11 +386,10 @@ def print_topic(plan, topic):
 
 def print_enumerations(plan):
     body = []
-    for simple in sorted({value.name: value for value in plan.enumerations.values()}.values(), key=lambda s: s.name):
+    for simple in plan.enumeration_types:
         body += [*summary(simple.doc, 8), f"public enum {simple.name}", "{",
                  "    " + summary("No text was set, or one that is none of these.", 12)[0], "    None = 0,"]
-        for number, (text, doc) in enumerate(zip(simple.enumeration, simple.enumeration_docs), 1):
-            name = re.sub(r"[^A-Za-z0-9]", "_", text)
+        for number, name, text, doc in simple.enumerators():
             body += [*("    " + line for line in summary(doc, 12)), f'    [Text("{text}")] {name} = {number},']
         body += ["}", ""]
     return frame(["System"], body[:-1])

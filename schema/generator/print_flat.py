@@ -7,10 +7,9 @@ number of a member is its place among the members of its name in the class's dec
 interface leaves out keep theirs.
 """
 
-import textwrap
 from dataclasses import dataclass
 
-from cpp import FOLDER, NAMESPACE, WIDTH, frame
+from cpp import FOLDER, NAMESPACE, WIDTH, frame, wrap
 from members import members_of
 from source import SchemaError
 
@@ -224,7 +223,7 @@ def print_c_header(plan, members):
     """All functions with their types, as C declares them."""
     lines = [HEADER_START]
     for function in members.by_hand:
-        text = textwrap.wrap(members.docs[function.stem], WIDTH - 6, break_long_words=False, break_on_hyphens=False)
+        text = wrap(members.docs[function.stem], WIDTH - 6)
         lines += ["/* " + "\n * ".join(text) + " */", c_declaration(function)]
     for owner, functions in members.groups.items():
         lines += ["", f"/* {owner} */", *map(c_declaration, functions)]

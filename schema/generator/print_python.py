@@ -8,12 +8,11 @@ python/module/. The stub beside each module says the types.
 
 import keyword
 import re
-import textwrap
 
-from cpp import LISTS
+from cpp import LISTS, WIDTH, wrap
+from members import own_choice
 from source import SchemaError
 
-WIDTH = 118
 # Kind of value -> what a property gives, and what it takes.
 VALUES = {
     "number": ("float", "float"),
@@ -55,10 +54,6 @@ def can_be_none(item):
     return not item.mutable if item.type else bool(item.enumerated) and item.initial is None
 
 
-def wrap(text, width):
-    return textwrap.wrap(text, width, break_long_words=False, break_on_hyphens=False)
-
-
 def docstring(text, indent):
     made = wrap(f'"""{text}"""'.replace("\\", "\\\\"), WIDTH - indent)
     return [" " * indent + line for line in made]
@@ -92,9 +87,6 @@ class ClassPrinter:
 
     def class_name(self, name):
         return self.plan.by_name[name].package_name
-
-    def is_choice(self, made):
-        return made.content in ("choice", "group") and not made.derives_from_group
 
     def add(self, item, name, get, take, *arguments):
         if name in self.names or name in TAKEN:
@@ -132,7 +124,7 @@ class ClassPrinter:
             self.add(item, name, kind, f"Iterable[{VALUES[item.value.value][1]}]")
         else:
             entry = self.class_name(item.type)
-            if self.is_choice(self.plan.by_name[item.type]):
+            if own_choice(self.plan.by_name[item.type]):
                 self.add(item, name, f"{entry}List", f"Iterable[{entry} | Object]", f"{entry}List")
             else:
                 self.add(item, name, f"List[{entry}]", f"Iterable[{entry}]")
@@ -172,7 +164,7 @@ class ClassPrinter:
                 self.object(item, name)
             else:
                 self.simple(item, name)
-        if self.is_choice(self.made) and not self.made.base:
+        if own_choice(self.made) and not self.made.base:
             names = [literal(property_name(self.made, item)) for item in self.made.elements]
             self.lines += call("alternatives = ", names, 4)
             self.stubs += ["    @property", f"    def chosen(self) -> Literal[{', '.join(names)}] | None:",
@@ -183,7 +175,7 @@ class ClassPrinter:
             yield "Whole" if not self.made.wrapper and self.made.element == "Vyr" else "ElementFile"
         if self.made.base and not self.made.derives_from_group:
             yield self.class_name(self.made.base)
-        elif self.is_choice(self.made):
+        elif own_choice(self.made):
             yield "Choice"
         else:
             yield "Object"
@@ -262,15 +254,13 @@ def frame(purpose, head, body):
 
 
 def print_enumerations(plan):
-    simple_types = sorted({value.name: value for value in plan.enumerations.values()}.values(), key=lambda s: s.name)
     body = []
-    for simple in simple_types:
+    for simple in plan.enumeration_types:
         body += [f"class {simple.name}(Enumeration):", *docstring(simple.doc, 4), ""]
-        for number, (text, doc) in enumerate(zip(simple.enumeration, simple.enumeration_docs), 1):
-            name = re.sub(r"[^A-Za-z0-9]", "_", text)
+        for number, name, text, doc in simple.enumerators():
             body += call(f"{name} = ", [str(number), literal(text), literal(doc)], 4)
         body += ["", ""]
-    names = [literal(simple.name) for simple in simple_types]
+    names = [literal(simple.name) for simple in plan.enumeration_types]
     head = ["from .._enumeration import Enumeration", "", *call("__all__ = ", names, 0)]
     return frame("The enumerations of the format.", head, body)
 
@@ -279,7 +269,7 @@ def print_python_files(plan):
     printers = {made.name: ClassPrinter(plan, made) for topic in plan.topics for made in topic.classes}
     for printer in printers.values():
         printer.members()
-    enumerations = {value.name for value in plan.enumerations.values()}
+    enumerations = [simple.name for simple in plan.enumeration_types]
     lists = {item.type for made in plan.model.classes for item in made.items
              if item.kind in ("child_list", "group_list")}
     files = {"enumerations.py": print_enumerations(plan)}
@@ -290,7 +280,7 @@ def print_python_files(plan):
             module += printer.print_module()
             stub += printer.print_stub(printers)
             names.append(made.package_name)
-            if printer.is_choice(made) and made.name in lists:
+            if own_choice(made) and made.name in lists:
                 for part, lines in zip((module, stub), printer.print_list()):
                     part += lines
                 names.append(f"{made.package_name}List")
