@@ -52,8 +52,8 @@ if(VYR_BUILD_TOOLS AND VYR_BUILD_FLAT AND BUILD_SHARED_LIBS)
   vyr_add_check(installed_tree ${checks}/install/check_install.sh ${CMAKE_COMMAND} ${PROJECT_BINARY_DIR}
                 ${PROJECT_SOURCE_DIR} ${CMAKE_CXX_COMPILER} ${CMAKE_INSTALL_LIBDIR} $<TARGET_SONAME_FILE_NAME:vyr>)
   vyr_add_check(debian_packages ${checks}/install/check_packages.sh ${CMAKE_CPACK_COMMAND} ${PROJECT_BINARY_DIR}
-                ${PROJECT_SOURCE_DIR})
-  set_tests_properties(debian_packages PROPERTIES SKIP_RETURN_CODE 77)
+                ${PROJECT_SOURCE_DIR} ${Python3_EXECUTABLE})
+  set_tests_properties(debian_packages PROPERTIES FIXTURES_REQUIRED python SKIP_RETURN_CODE 77)
 endif()
 if(VYR_BUILD_TOOLS)
   # Under every preset: the programs that the guides run are checked as they run.

@@ -30,7 +30,7 @@ set(CPACK_DEBIAN_LIBRARY_PACKAGE_CONTROL_EXTRA triggers postinst postrm)
 list(TRANSFORM CPACK_DEBIAN_LIBRARY_PACKAGE_CONTROL_EXTRA PREPEND ${PROJECT_SOURCE_DIR}/cmake/debian/)
 set(CPACK_DEBIAN_LIBRARY_DESCRIPTION "reads, checks and writes colour-data documents
 ${about}
-This package holds the shared library, for programs in C++ and for C#.")
+This package holds the shared library, for programs in C++, C# and Python.")
 if(VYR_BUILD_FLAT)
   # libVyrModule.so has the same name in every version.
   foreach(relation PROVIDES CONFLICTS REPLACES)
@@ -70,9 +70,13 @@ set(CPACK_DEBIAN_PYTHON_PACKAGE_NAME python3-vyr)
 set(CPACK_DEBIAN_PYTHON_PACKAGE_SECTION python)
 set(CPACK_DEBIAN_PYTHON_PACKAGE_DEPENDS "${same_version}, python3 (>= 3.11)")
 set(CPACK_DEBIAN_PYTHON_PACKAGE_RECOMMENDS python3-numpy)
+set(CPACK_DEBIAN_PYTHON_PACKAGE_SUGGESTS "python3-pandas, libvyr-dev")
+set(CPACK_DEBIAN_PYTHON_PACKAGE_CONTROL_EXTRA ${PROJECT_SOURCE_DIR}/cmake/debian/python/postinst
+                                              ${PROJECT_SOURCE_DIR}/cmake/debian/python/prerm)
 set(CPACK_DEBIAN_PYTHON_DESCRIPTION "reads, checks and writes colour-data documents - Python package
 ${about}
-This package holds the package vyr for Python.")
+This package holds the package vyr for Python, with its types for checkers. The
+guide to it, python.md, and its examples are part of libvyr-dev.")
 
 # What the system asks of every package; other installations need no such file.
 string(TIMESTAMP build_time "%a, %d %b %Y %H:%M:%S +0000" UTC)
@@ -89,7 +93,7 @@ if(VYR_BUILD_FLAT AND VYR_MCS)
   list(APPEND CPACK_COMPONENTS_ALL csharp)
   list(APPEND groups csharp)
 endif()
-if(VYR_BUILD_PYTHON AND TARGET vyr_python)
+if(TARGET vyr_python)
   list(APPEND CPACK_COMPONENTS_ALL python python_module)
   list(APPEND groups python)
 endif()
@@ -100,6 +104,11 @@ foreach(group ${groups})
           COMPONENT ${group}_papers EXCLUDE_FROM_ALL)
   list(APPEND CPACK_COMPONENTS_ALL ${group}_papers)
 endforeach()
+install(FILES cmake/debian/lintian DESTINATION ${CMAKE_INSTALL_DATADIR}/lintian/overrides RENAME ${library_package}
+        COMPONENT library_papers EXCLUDE_FROM_ALL)
+if(NOT VYR_BUILD_PYTHON)  # a test adds them, where it made the module
+  list(REMOVE_ITEM CPACK_COMPONENTS_ALL python python_module python_papers)
+endif()
 
 include(CPack)
 cpack_add_component(runtime GROUP library)
