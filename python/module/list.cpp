@@ -129,22 +129,24 @@ struct s_slice {
     Py_ssize_t start, stop, step, count;
 };
 
-bool read_slice(PyObject* key, Py_ssize_t size, s_slice* slice) {
+bool read_slice(PyObject* key, const s_list& list, s_slice* slice) {
     if (PySlice_Unpack(key, &slice->start, &slice->stop, &slice->step) != 0) return false;
+    const Py_ssize_t size = size_of(list);
+    if (size < 0) return false;
     slice->count = PySlice_AdjustIndices(size, &slice->start, &slice->stop, slice->step);
     return true;
 }
 
-PyObject* get_slice(PyObject* self, PyObject* key, Py_ssize_t size) {
+PyObject* get_slice(PyObject* self, PyObject* key) {
     s_slice slice{};
-    if (!read_slice(key, size, &slice)) return nullptr;
+    if (!read_slice(key, as_list(self), &slice)) return nullptr;
     return make_list(slice.count, [&](Py_ssize_t i) { return get_entry(self, slice.start + i * slice.step); });
 }
 
 PyObject* subscript(PyObject* self, PyObject* key) {
+    if (PySlice_Check(key)) return get_slice(self, key);
     const Py_ssize_t size = size_of(as_list(self));
     if (size < 0) return nullptr;
-    if (PySlice_Check(key)) return get_slice(self, key, size);
     const Py_ssize_t index = index_of(key, size);
     return index < 0 ? nullptr : get_entry(self, index);
 }
@@ -168,41 +170,48 @@ bool insert_all(const s_property& property, s_object* owner, std::size_t index, 
     return true;
 }
 
-bool assign_slice(const s_property& property, s_object* owner, const s_slice& slice, PyObject* value) {
-    const c_ref values(value == nullptr ? PyList_New(0) : PySequence_List(value));
-    if (!values || data_of(owner) == nullptr) return false;
-    const auto start = static_cast<std::size_t>(slice.start);
-    if (slice.step == 1) {
-        const auto end = start + static_cast<std::size_t>(slice.count);
-        if (!insert_all(property, owner, end, values.get())) return false;
-        remove_entries(*property.row, owner->data, start, end);
-        return true;
-    }
-    const Py_ssize_t given = PyList_Size(values.get());
-    if (value != nullptr && given != slice.count) {
+/// Puts a copy of each value in the place of an entry; the entries have others between them.
+bool assign_steps(const s_property& property, s_object* owner, const s_slice& slice, PyObject* values) {
+    const Py_ssize_t given = values == nullptr ? 0 : PyList_Size(values);
+    if (values != nullptr && given != slice.count) {
         PyErr_Format(PyExc_ValueError, "%zd values can't take the place of %zd entries", given, slice.count);
         return false;
     }
     // From the end on, so that the indexes before stay what they are.
-    for (Py_ssize_t i = 0; i < slice.count; ++i) {
-        const Py_ssize_t k = slice.step > 0 ? slice.count - 1 - i : i;
-        const auto index = static_cast<std::size_t>(slice.start + k * slice.step);
-        if (value != nullptr && !insert(property, owner, index + 1, PyList_GetItem(values.get(), k))) return false;
-        remove_entries(*property.row, owner->data, index, index + 1);
+    const auto number = [&](Py_ssize_t i) { return slice.step > 0 ? slice.count - 1 - i : i; };
+    const auto index = [&](Py_ssize_t i) { return static_cast<std::size_t>(slice.start + number(i) * slice.step); };
+    Py_ssize_t added = 0;
+    while (added < given && insert(property, owner, index(added) + 1, PyList_GetItem(values, number(added)))) ++added;
+    // Of each entry and the copy behind it one goes: the copy, if a value was refused.
+    const bool is_refused = added < given;
+    for (Py_ssize_t i = 0; i < (values != nullptr ? added : slice.count); ++i) {
+        const Py_ssize_t copies_before = values != nullptr ? added - 1 - i : 0;
+        const std::size_t place = index(i) + static_cast<std::size_t>(copies_before) + (is_refused ? 1 : 0);
+        remove_entries(*property.row, owner->data, place, place + 1);
     }
+    return !is_refused;
+}
+
+/// Puts copies of values, a list of Python or null for none, in the place of entries.
+bool assign_slice(const s_property& property, s_object* owner, const s_slice& slice, PyObject* values) {
+    if (slice.step != 1) return assign_steps(property, owner, slice, values);
+    const auto start = static_cast<std::size_t>(slice.start);
+    const auto end = start + static_cast<std::size_t>(slice.count);
+    if (values != nullptr && !insert_all(property, owner, end, values)) return false;
+    remove_entries(*property.row, owner->data, start, end);
     return true;
 }
 
 int assign(PyObject* self, PyObject* key, PyObject* value) {
     const s_list& list = as_list(self);
-    const Py_ssize_t size = size_of(list);
-    if (size < 0) return -1;
-    s_slice slice{0, 0, 1, 1};
     if (PySlice_Check(key)) {
-        if (!read_slice(key, size, &slice)) return -1;
-        return guarded(-1, [&] { return assign_slice(*list.property, list.owner, slice, value) ? 0 : -1; });
+        const c_ref values(value == nullptr ? nullptr : PySequence_List(value));
+        s_slice slice{};
+        if ((value != nullptr && !values) || !read_slice(key, list, &slice)) return -1;
+        return guarded(-1, [&] { return assign_slice(*list.property, list.owner, slice, values.get()) ? 0 : -1; });
     }
-    const Py_ssize_t index = index_of(key, size);
+    const Py_ssize_t size = size_of(list);
+    const Py_ssize_t index = size < 0 ? -1 : index_of(key, size);
     if (index < 0) return -1;
     return guarded(-1, [&] {
         const auto place = static_cast<std::size_t>(index);
@@ -308,8 +317,11 @@ PyObject* list_of(s_object* owner, s_property* property) {
 }
 
 bool replace_entries(s_object* owner, s_property* property, PyObject* values) {
-    const std::size_t size = entries(*property->row, owner->data).size();
-    return assign_slice(*property, owner, {0, 0, 1, static_cast<Py_ssize_t>(size)}, values);
+    const c_ref given(values == nullptr ? nullptr : PySequence_List(values));
+    void* const data = values != nullptr && !given ? nullptr : data_of(owner);
+    if (data == nullptr) return false;
+    const auto size = static_cast<Py_ssize_t>(entries(*property->row, data).size());
+    return assign_slice(*property, owner, {0, 0, 1, size}, given.get());
 }
 
 void remove_entries(const s_item& row, void* data, std::size_t first, std::size_t last) {

@@ -156,9 +156,14 @@ class List(_vyr.List, MutableSequence[T]):
 
     def add(self, **values: Any) -> T:
         """A new entry at the end, with properties of it."""
-        made: T = self._add()
-        set_all(made, values)
-        return made
+        made: Any = self._add()
+        try:
+            set_all(made, values)
+        except BaseException:
+            if made.is_alive:
+                self.remove(made)
+            raise
+        return made  # type: ignore[no-any-return]
 
     def clear(self) -> None:
         del self[:]

@@ -151,6 +151,30 @@ def test_code_that_removes_what_is_being_set():
         color.color_spaces = mean()
 
 
+def test_what_is_refused_changes_nothing():
+    colors = vyr.ColorSetType(colors=[vyr.ColorType(color_name=name) for name in "abcdef"]).colors
+    kept = list(colors)
+    new = [vyr.ColorType(color_name=name) for name in "xyz"]
+    for change in (lambda: colors.add(comments=1), lambda: colors.extend([new[0], 1]),
+                   lambda: colors.__setitem__(slice(None, None, 2), [new[0], 1, new[2]]),
+                   lambda: colors.__setitem__(slice(None, None, -2), [new[0], 1, new[2]])):
+        with pytest.raises(TypeError):
+            change()
+        assert list(colors) == kept
+    colors[::2] = new
+    colors[5:1:-2] = new[:2]
+    assert "".join(color.color_name for color in colors) == "xbyyzx" and colors[1] is kept[1]
+    del colors[1::3]
+    assert "".join(color.color_name for color in colors) == "xyyx"
+
+    def other_colors():
+        colors.clear()
+        yield from new
+
+    colors[1:] = other_colors()
+    assert [color.color_name for color in colors] == ["x", "y", "z"]
+
+
 def test_any_order_of_changes(palette):
     """Random changes with handles held in all places: each lives or raises, and the document can be written."""
     rng = random.Random(7)
