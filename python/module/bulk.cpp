@@ -157,12 +157,16 @@ PyObject* set_points(PyObject*, PyObject* arguments) {
     return guarded<PyObject*>(nullptr, [&]() -> PyObject* {
         s_columns columns;
         if (!read_columns(list, names, &columns)) return nullptr;
+        if (PyTuple_Size(arrays) != PyTuple_Size(names)) {
+            return PyErr_Format(PyExc_TypeError, "%zd columns are set at once, not %zd", PyTuple_Size(names),
+                                PyTuple_Size(arrays));
+        }
         s_object* const object = expect(self, *columns.list->owner, "set_points");
         if (object == nullptr) return nullptr;
         std::vector<c_doubles> given(columns.rows.size());
         for (std::size_t c = 0; c < given.size(); ++c) {
             PyObject* const array = PyTuple_GetItem(arrays, static_cast<Py_ssize_t>(c));
-            if (array == nullptr || !given[c].take(array)) return nullptr;
+            if (!given[c].take(array)) return nullptr;
             if (given[c].size() != given[0].size()) {
                 return PyErr_Format(PyExc_ValueError, "the columns have different lengths");
             }

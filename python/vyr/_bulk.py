@@ -16,11 +16,7 @@ if TYPE_CHECKING:
 
 Colors = Union[Document, PaletteType, ColorSetType, Iterable[ColorType]]
 
-# The spectra that there are: the list of points and the columns of an entry.
-POINTS = {
-    "spectral": ("reflectance_points", ("Wavelength", "ReflectancePointType")),
-    "emissive_spectral": ("emissive_spectral_points", ("Wavelength", "EmissiveSpectralPointType")),
-}
+SPECTRA = ("spectral", "emissive_spectral")
 
 
 class Spectra(NamedTuple):
@@ -78,17 +74,14 @@ def held(where: Colors, kind: str) -> tuple[list[str], list[Any]]:
     return [owners[number].color_name for number in numbers], found
 
 
-def points(found: list[Any], kind: str) -> tuple[list[int], Any, Any]:
+def points(found: list[Any], kind: str) -> Any:
     """Of spectra: how many points each has, and the wavelengths and the values of all."""
-    name, columns = POINTS[kind]
-    counts, *rows = _vyr.gather_points(found, getattr(type(choose(ColorSpaceChoice(), kind)), name), columns)
-    wavelengths, values = (need_numpy().frombuffer(row) for row in rows)
-    return counts, wavelengths, values
+    return type(choose(ColorSpaceChoice(), kind))._gather(found)
 
 
 def spectra_groups(where: Colors, kind: str = "spectral") -> list[Spectra]:
     """The spectra of all colours in groups of the same wavelengths, in the order in which those first come."""
-    check_kind(kind, POINTS, "spectrum")
+    check_kind(kind, SPECTRA, "spectrum")
     numpy = need_numpy()
     names, found = held(where, kind)
     if not found:
@@ -173,7 +166,7 @@ def set_values(where: Colors, kind: str, rows: Any) -> None:
 
 def set_spectra(where: Colors, wavelengths: Numbers, rows: Any, kind: str = "spectral") -> None:
     """Sets the spectra of all colours, a row each, in the same way."""
-    check_kind(kind, POINTS, "spectrum")
+    check_kind(kind, SPECTRA, "spectrum")
     set_rows(where, kind, rows, lambda space, row: space.set_arrays(wavelengths, row))
 
 
@@ -257,7 +250,7 @@ def frame(where: Colors, kind: str) -> Any:
         names += row_names
         found += row_found
         stated += [conditions(value, color_set, palette) for value in row_found]
-    columns, matrix = points_by_wavelength(found, kind) if kind in POINTS else numbers(found, kind)
+    columns, matrix = points_by_wavelength(found, kind) if kind in SPECTRA else numbers(found, kind)
     index = pandas.Index(names, name="color_name")
     parts = [pandas.DataFrame(matrix, index, columns)]
     if any(stated):

@@ -8,6 +8,7 @@ from array import array
 from collections.abc import Callable, Iterable, Iterator, Mapping, MutableSequence, Sequence
 from functools import cache
 from importlib import import_module
+from inspect import Parameter, Signature
 from types import MappingProxyType
 from typing import TYPE_CHECKING, Any, TypeVar, Union, overload
 
@@ -242,18 +243,28 @@ def need_numpy() -> Any:
     return need("numpy", "arrays")
 
 
-def _columns(points: _vyr.Property[Any, Any], *names: str) -> tuple[Callable[..., Any], Callable[..., None]]:
-    """The methods that move numbers of all points of an object at once."""
+def _columns(points: _vyr.Property[Any, Any], **columns: str) -> tuple[Any, Any, Any]:
+    """What moves numbers of all points at once: of many objects, and the methods `arrays` and `set_arrays` of one. The
+    columns are named as the arguments are, each with the item of a point."""
+    names = tuple(columns.values())
+    signature = Signature([Parameter(name, Parameter.POSITIONAL_OR_KEYWORD) for name in ("self", *columns)])
+
+    def gather(objects: list[Any]) -> Any:
+        """How many points each object has, and an array of all numbers for each column."""
+        numpy = need_numpy()
+        counts, *rows = _vyr.gather_points(objects, points, names)
+        return counts, *(numpy.frombuffer(row) for row in rows)
 
     def arrays(self: Object) -> Any:
-        numpy = need_numpy()
-        _, *rows = _vyr.gather_points([self], points, names)
-        return tuple(numpy.frombuffer(row).copy() for row in rows)
+        _, *rows = gather([self])
+        return tuple(row.copy() for row in rows)
 
     def set_arrays(self: Object, *values: Any, **named: Any) -> None:
-        _vyr.set_points(self, points, names, tuple(to_doubles(row) for row in (*values, *named.values())))
+        rows = signature.bind(self, *values, **named).args[1:] if named else values
+        _vyr.set_points(self, points, names, tuple(to_doubles(row) for row in rows))
 
-    return arrays, set_arrays
+    set_arrays.__signature__ = signature  # type: ignore[attr-defined]
+    return staticmethod(gather), arrays, set_arrays
 
 
 _vyr.set_up(FormatError, RemovedError, List, TimeList, read_time, write_time)

@@ -129,8 +129,8 @@ class ClassPrinter:
             else:
                 self.add(item, name, f"List[{entry}]", f"Iterable[{entry}]")
         if item.columns:
-            names = ", ".join(literal(accessor) for _, accessor in item.columns)
-            self.lines.append(f"    arrays, set_arrays = _columns({name}, {names})")
+            columns = [f"{snake(column)}={literal(accessor)}" for column, accessor in item.columns]
+            self.lines += call("_gather, arrays, set_arrays = _columns", [name, *columns], 4)
             parameters = ", ".join(f"{snake(column)}: Numbers" for column, _ in item.columns)
             tuples = ", ".join(["Array"] * len(item.columns))
             words = " and ".join(snake(column) for column, _ in item.columns)

@@ -56,7 +56,11 @@ class ColorSpaceSpectralType(ColorSpaceType):
     )
     create_color_space_specification_spectrum_spectral = _creator(color_space_specification_spectrum_spectral)
     reflectance_points = Property("ReflectancePoint", "One sample, in document order.")
-    arrays, set_arrays = _columns(reflectance_points, "Wavelength", "ReflectancePointType")
+    _gather, arrays, set_arrays = _columns(
+        reflectance_points,
+        wavelengths="Wavelength",
+        values="ReflectancePointType",
+    )
 
 
 class ColorSpaceEmissiveSpectralType(ColorSpaceType):
@@ -71,7 +75,11 @@ class ColorSpaceEmissiveSpectralType(ColorSpaceType):
     )
     create_color_space_specification_emissive_spectral = _creator(color_space_specification_emissive_spectral)
     emissive_spectral_points = Property("EmissiveSpectralPoint", "One sample, in document order.")
-    arrays, set_arrays = _columns(emissive_spectral_points, "Wavelength", "EmissiveSpectralPointType")
+    _gather, arrays, set_arrays = _columns(
+        emissive_spectral_points,
+        wavelengths="Wavelength",
+        values="EmissiveSpectralPointType",
+    )
 
 
 class ColorSpaceGenericType(ColorSpaceType):
