@@ -17,19 +17,14 @@ bool is_optional(const s_item& row) {
     return (row.use & (lmx::use_demanded | lmx::use_copied)) == 0 && row.flag != lmx::k_no_flag;
 }
 
-void* place_of_alternative(const s_item& row, lmx::s_choice& choice) {
-    const bool is_owned = row.type != nullptr || row.value == value_kind::text || row.value == value_kind::datetime ||
-                          row.value == value_kind::binary;
-    return is_owned ? choice.object : &choice.number;
-}
-
 PyObject* get_alternative(const s_property& property, s_object* object, void* data) {
     const s_item& row = *property.row;
     if (!is_chosen(*property.owner, row, data)) Py_RETURN_NONE;
-    void* const place = place_of_alternative(row, lmx::choice_of(*property.owner, data));
-    if (row.type == nullptr) return to_python(property, place);
-    if (place == nullptr) Py_RETURN_NONE;
-    return part(object, place, class_of(row, place));
+    // It is chosen already: this only tells where the value lies.
+    if (row.type == nullptr) return to_python(property, lmx::choose(*property.owner, row, data));
+    void* const alternative = lmx::choice_of(*property.owner, data).object;
+    if (alternative == nullptr) Py_RETURN_NONE;
+    return part(object, alternative, class_of(row, alternative));
 }
 
 PyObject* get(s_property& property, s_object* object) {
