@@ -48,7 +48,7 @@ second = color.color_spaces.add()
 second.choose_cmyk(cyan=0, magenta=87, yellow=80, black=0)
 second.choose_srgb(red=0.976, green=0.259, blue=0.227, color_depth="ColorDepth_8")
 print(second.cmyk, second.srgb.color_depth.text)
-color.color_spaces.pop()
+color.color_spaces.pop()  # a document would need more of it
 
 # Spectra
 

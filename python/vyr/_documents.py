@@ -113,7 +113,7 @@ def loads(text: str | bytes) -> Document:
     """Loads a plain document from its text, or from its bytes in any encoding that a file may have."""
     from .generated.header import Document
 
-    data: str | bytes = text if isinstance(text, str) else bytes(text)
+    data: str | bytes = text if isinstance(text, str) else bytes(memoryview(text))
     made, told = _vyr.load_memory(Document, data, "", True, LIMIT)
     Report.of(told).demand(None)
     return made
