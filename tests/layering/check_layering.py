@@ -34,6 +34,7 @@ BELOW = {
     "zip": {"lmx/values/unicode.h", "lmx/file_name.h", "lmx/export.h"},
     "document": {"schema", "zip", "lmx"},
     "flat": {"document", "schema", "lmx"},
+    "python": {"flat/generated/vyr_flat.h", "document", "schema", "lmx"},
     # The chief header is the host's one include, so it alone names the document calls as well.
     "schema/Vyr.h": {"schema", "document", "zip/exception.h", "lmx"},
 }
@@ -77,7 +78,7 @@ def main():
     root = pathlib.Path(sys.argv[1])
     files = sorted(
         file.relative_to(root).as_posix()
-        for folder in ("lmx", "schema", "zip", "document", "flat")
+        for folder in ("lmx", "schema", "zip", "document", "flat", "python")
         for pattern in ("*.h", "*.cpp")
         for file in (root / folder).rglob(pattern)
     )
