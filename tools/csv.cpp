@@ -4,6 +4,7 @@
 #include "tools/csv.h"
 
 #include <algorithm>
+#include <cmath>
 #include <numeric>
 
 #include "tools/text.h"
@@ -36,7 +37,7 @@ std::string wavelength_header(std::string_view wavelength) { return std::string(
 std::optional<double> wavelength_of(std::string_view header) {
     if (header.ends_with(k_unit)) header.remove_suffix(k_unit.size());
     double number = 0;
-    if (!read_number(header, number) || number <= 0) return std::nullopt;
+    if (!read_number(header, number) || !std::isfinite(number) || number <= 0) return std::nullopt;
     return number;
 }
 
