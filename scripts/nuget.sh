@@ -3,7 +3,8 @@
 # SPDX-License-Identifier: Apache-2.0
 #
 # Makes the NuGet package Vyr.<version>.nupkg of a build that has Vyr.dll: the assembly with its documentation, the
-# native library of this system, and those of Windows builds beside it, if there are any. NuGet itself isn't needed.
+# native library of this system, and those of this version's packages for Windows (scripts/windows.sh), if they were
+# made. NuGet itself isn't needed.
 #
 #   scripts/nuget.sh [BUILD_FOLDER [TARGET_FOLDER]]      (without arguments: build/release, and into that)
 
@@ -14,6 +15,7 @@ target=$(cd "${2:-$build}" && pwd)
 
 [[ -f $build/csharp/Vyr.dll ]] || { echo "nuget.sh: there is no $build/csharp/Vyr.dll; see scripts/setup.sh csharp" >&2; exit 1; }
 version=$(sed -n 's/^ *<version>\(.*\)<\/version>$/\1/p' "$root/csharp/Vyr.nuspec")
+windows=$root/build/windows
 work=$(mktemp -d)
 trap 'rm -rf "$work"' EXIT
 cd "$work"
@@ -30,8 +32,8 @@ while read -r system name file; do
     if [[ -e $file ]]; then cp --dereference "$file" "$folder/$name"; else touch "$folder/_._"; fi
 done << TABLE
 linux-x64 libVyrModule.so $build/libvyr.so
-win-x64 VyrModule.dll $root/build/windows64/self-contained/VyrModule.dll
-win-x86 VyrModule.dll $root/build/windows32/self-contained/VyrModule.dll
+win-x64 VyrModule.dll $windows/package64/vyr-$version-windows64/bin/self-contained/VyrModule.dll
+win-x86 VyrModule.dll $windows/package32/vyr-$version-windows32/bin/self-contained/VyrModule.dll
 TABLE
 
 cat > '[Content_Types].xml' << 'XML'

@@ -24,7 +24,12 @@ package=$("$source/scripts/nuget.sh" "$build" "$work")
 [[ $package == "$work/Vyr.$version.nupkg" ]] || fail "the package is called $package"
 unzip -qt "$package" || fail "it is no sound archive"
 unzip -q "$package" -d package
-diff <(cd package && find . -type f | LC_ALL=C sort) - << 'LIST' || fail "> is missing, < is not in the list"
+# Of Windows it has what was made for it before.
+for width in 32 64; do
+    made=$source/build/windows/package$width/vyr-$version-windows$width
+    [[ -e $made ]] && windows[width]=VyrModule.dll || windows[width]=_._
+done
+diff <(cd package && find . -type f | LC_ALL=C sort) - << LIST || fail "> is missing, < is not in the list"
 ./README.md
 ./Vyr.nuspec
 ./[Content_Types].xml
@@ -32,8 +37,8 @@ diff <(cd package && find . -type f | LC_ALL=C sort) - << 'LIST' || fail "> is m
 ./lib/netstandard2.0/Vyr.dll
 ./lib/netstandard2.0/Vyr.xml
 ./runtimes/linux-x64/native/libVyrModule.so
-./runtimes/win-x64/native/_._
-./runtimes/win-x86/native/_._
+./runtimes/win-x64/native/${windows[64]}
+./runtimes/win-x86/native/${windows[32]}
 LIST
 xmllint --noout package/Vyr.nuspec 'package/[Content_Types].xml' package/_rels/.rels package/lib/netstandard2.0/Vyr.xml
 # Each kind of file has a type, and all that is said of the version is one word.
