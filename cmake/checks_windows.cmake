@@ -6,6 +6,11 @@ if(VYR_BUILD_FLAT AND BUILD_SHARED_LIBS)
   vyr_add_check(dll_self_contained ${checks}/flat/check_dll.sh ${CMAKE_OBJDUMP} ${VYR_WINDOWS_BITS}
                 ${PROJECT_SOURCE_DIR}/flat/generated/exports.txt self-contained $<TARGET_FILE:vyr_self_contained>)
 endif()
+if(VYR_BUILD_TOOLS)
+  add_test(NAME tools_windows COMMAND ${Python3_EXECUTABLE} ${checks}/tools/check_windows.py
+                                      ${PROJECT_SOURCE_DIR}/examples/css-colors.vyr ${CMAKE_CROSSCOMPILING_EMULATOR}
+                                      $<TARGET_FILE:vyr_tool>)
+endif()
 
 # The fuzzers' corpora, once. `fuzz_calls` knows the flat functions by pointers of the one convention that others have.
 find_path(VYR_FUZZ_HEADERS fuzzer/FuzzedDataProvider.h)

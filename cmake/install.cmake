@@ -14,6 +14,9 @@ install(TARGETS vyr EXPORT vyr-targets
         LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR} COMPONENT runtime NAMELINK_COMPONENT development)
 if(VYR_BUILD_TOOLS)
   install(TARGETS vyr_tool RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR} COMPONENT tool)
+endif()
+# For the shells and the manual of other systems than Windows.
+if(VYR_BUILD_TOOLS AND NOT WIN32)
   # Copied, so that a change of the page is seen and it is compressed anew.
   configure_file(tools/vyr.1 vyr.1 COPYONLY)
   file(ARCHIVE_CREATE OUTPUT ${PROJECT_BINARY_DIR}/vyr.1.gz PATHS ${PROJECT_BINARY_DIR}/vyr.1 FORMAT raw

@@ -4,9 +4,6 @@
 /// `vyr check`: validates files and all documents in folders, several at once, and reports in the order of the
 /// command line.
 
-#include <sys/stat.h>
-#include <unistd.h>
-
 #include <algorithm>
 #include <atomic>
 #include <chrono>
@@ -50,10 +47,10 @@ void find_documents(const std::string& folder, std::vector<s_job>& jobs) {
         std::error_code refused;
         std::vector<std::string> files;
         std::vector<std::string> folders;
-        fs::directory_iterator entry(current, refused);
+        fs::directory_iterator entry(path_of(current), refused);
         while (!refused && entry != fs::directory_iterator()) {
             std::error_code none;
-            const std::string name = entry->path().string();
+            const std::string name = name_of(entry->path());
             if (entry->is_directory(none) && !entry->is_symlink(none)) {
                 folders.push_back(name);
             } else if (is_document_name(name) && (entry->is_regular_file(none) || !entry->exists(none))) {
@@ -74,7 +71,7 @@ std::vector<s_job> find_jobs(const std::vector<std::string>& files) {
     std::vector<s_job> jobs;
     for (const std::string& file : files) {
         std::error_code none;
-        if (file != k_standard_stream && fs::is_directory(file, none)) {
+        if (file != k_standard_stream && fs::is_directory(path_of(file), none)) {
             find_documents(file, jobs);
         } else {
             jobs.push_back({file, {}});
@@ -152,7 +149,7 @@ void run_all(const std::vector<s_job>& jobs, const check_options& options, Take 
             }
         });
     }
-    c_progress progress(jobs.size(), isatty(STDERR_FILENO) != 0 && !options.quiet);
+    c_progress progress(jobs.size(), system::is_terminal(system::k_errors) && !options.quiet);
     for (std::size_t i = 0; i < jobs.size(); ++i) {
         std::unique_lock lock(mutex);
         const auto is_there = [&] { return results[i].has_value(); };
@@ -269,7 +266,7 @@ exit_code check(const check_options& options) {
     if (options.json) {
         std::cout << "\n],\n\"valid\": " << counts.valid << ", \"invalid\": " << counts.invalid
                   << ", \"unreadable\": " << counts.unreadable << "}\n";
-    } else if (!options.quiet && isatty(STDOUT_FILENO) != 0) {
+    } else if (!options.quiet && system::is_terminal(system::k_output)) {
         print_summary(counts);
     }
     const exit_code result = counts.result();

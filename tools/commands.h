@@ -21,6 +21,9 @@ enum exit_code : int {
     exit_usage_or_file = 2,   ///< of `diff`: also a document that fails
 };
 
+/// The whole command: takes the words behind its name, in UTF-8 or as the system's bytes, and returns the exit code.
+int run_command(std::vector<std::string> words);
+
 /// Whether to send colours to the terminal: "auto", "always" or "never".
 using color_mode = std::string;
 

@@ -3,13 +3,8 @@
 
 #include "tools/files.h"
 
-#include <fcntl.h>
-#include <sys/stat.h>
-#include <unistd.h>
-
 #include <algorithm>
 #include <cerrno>
-#include <csignal>
 #include <cstring>
 #include <filesystem>
 #include <iostream>
@@ -19,6 +14,7 @@
 
 #include "lmx/lmx.h"
 #include "tools/progress.h"
+#include "tools/system.h"
 #include "tools/text.h"
 #include "zip/container.h"
 
@@ -49,7 +45,7 @@ public:
     ~c_descriptor() { close(); }
     int get() const { return m_descriptor; }
     /// False if the system could not keep what was written.
-    bool close() { return m_descriptor < 0 || ::close(std::exchange(m_descriptor, -1)) == 0; }
+    bool close() { return m_descriptor < 0 || system::close(std::exchange(m_descriptor, -1)) == 0; }
 
 private:
     int m_descriptor;
@@ -57,12 +53,9 @@ private:
 
 std::string write_all(int descriptor, std::string_view bytes) {
     while (!bytes.empty()) {
-        const ssize_t count = write(descriptor, bytes.data(), bytes.size());
-        if (count >= 0) {
-            bytes.remove_prefix(static_cast<std::size_t>(count));
-        } else if (errno != EINTR) {
-            return system_text();
-        }
+        const std::int64_t count = system::write(descriptor, bytes.data(), bytes.size());
+        if (count < 0) return system_text();
+        bytes.remove_prefix(static_cast<std::size_t>(count));
     }
     return {};
 }
@@ -71,10 +64,9 @@ constexpr std::size_t k_piece = std::size_t{1} << 16U;
 
 void give_text(int descriptor, const text_taker& take) {
     std::string piece(k_piece, '\0');
-    for (off_t at = 0;;) {
-        const ssize_t count = pread(descriptor, piece.data(), piece.size(), at);
-        if (count == 0 || (count < 0 && errno != EINTR)) return;
-        if (count < 0) continue;
+    for (std::int64_t at = 0;;) {
+        const std::int64_t count = system::read_at(descriptor, at, piece.data(), piece.size());
+        if (count <= 0) return;
         take(std::string_view(piece.data(), static_cast<std::size_t>(count)));
         at += count;
     }
@@ -114,13 +106,13 @@ void read_regular(const std::string& file, int descriptor, Vyr& document, const 
     const c_scratch_folder folder;
     const fs::path link = folder.path() / "document.vyrz";
     std::error_code refused;
-    fs::create_symlink(fs::absolute(file, refused), link, refused);
+    fs::create_symlink(fs::absolute(path_of(file), refused), link, refused);
     if (refused) {
         reading.refusal = refused.message();
         return;
     }
-    reading.report = com_vyrgraph_v2::loadFileWithReport(document, link.string(), options);
-    give_entry(link.string(), reading.report, take_text);
+    reading.report = com_vyrgraph_v2::loadFileWithReport(document, name_of(link), options);
+    give_entry(name_of(link), reading.report, take_text);
 }
 
 void read_bytes(const std::string& bytes, Vyr& document, const ReportOptions& options, const text_taker& take_text,
@@ -133,10 +125,10 @@ void read_bytes(const std::string& bytes, Vyr& document, const ReportOptions& op
     }
     const c_scratch_folder folder;
     const fs::path copy = folder.path() / "document.vyrz";
-    reading.refusal = write_file(copy.string(), bytes);
+    reading.refusal = write_file(name_of(copy), bytes);
     if (!reading.refusal.empty()) return;
-    reading.report = com_vyrgraph_v2::loadFileWithReport(document, copy.string(), options);
-    give_entry(copy.string(), reading.report, take_text);
+    reading.report = com_vyrgraph_v2::loadFileWithReport(document, name_of(copy), options);
+    give_entry(name_of(copy), reading.report, take_text);
 }
 
 void read_stream(int descriptor, Vyr& document, const ReportOptions& options, const text_taker& take_text,
@@ -149,15 +141,16 @@ void read_stream(int descriptor, Vyr& document, const ReportOptions& options, co
 
 void read_any(const std::string& file, Vyr& document, const ReportOptions& options, const text_taker& take_text,
               s_reading& reading) {
-    if (file == k_standard_stream) return read_stream(STDIN_FILENO, document, options, take_text, reading);
-    const c_descriptor descriptor(open(file.c_str(), O_RDONLY | O_CLOEXEC));
-    struct stat state {};
-    if (descriptor.get() < 0 || fstat(descriptor.get(), &state) != 0) {
-        reading.refusal = system_text();
-    } else if (S_ISDIR(state.st_mode)) {
+    if (file == k_standard_stream) return read_stream(system::k_input, document, options, take_text, reading);
+    const c_descriptor descriptor(system::open(path_of(file), system::open_mode::read));
+    const auto state = descriptor.get() < 0 ? std::nullopt : system::state_of(descriptor.get());
+    if (!state) {
+        // Some systems open no folders.
+        reading.refusal = errno == EISDIR ? k_is_directory : system_text();
+    } else if (state->kind == system::file_kind::folder) {
         reading.refusal = k_is_directory;
-    } else if (S_ISREG(state.st_mode)) {
-        reading.size = static_cast<std::size_t>(state.st_size);
+    } else if (state->kind == system::file_kind::file) {
+        reading.size = state->size;
         read_regular(file, descriptor.get(), document, options, take_text, reading);
         // The system's refusal of a file that it has just opened: of its content. No fault of the document's.
         const int refused = reading.report.getSystemError();
@@ -179,36 +172,22 @@ fs::path behind_links(fs::path path) {
 
 enum class target_kind { stream, folder, file, device };
 
-target_kind kind_of_target(const std::string& target, struct stat* state, bool* exists) {
-    *exists = false;
+target_kind kind_of_target(const std::string& target) {
     if (target == k_standard_stream) return target_kind::stream;
-    *exists = stat(target.c_str(), state) == 0;
-    if (!*exists || S_ISREG(state->st_mode)) return target_kind::file;
-    return S_ISDIR(state->st_mode) ? target_kind::folder : target_kind::device;
-}
-
-/// Lets a file take the target's place.
-std::string replace_file(const fs::path& finished, const fs::path& target, const struct stat* existing) {
-    c_descriptor descriptor(open(finished.c_str(), O_WRONLY | O_CLOEXEC));
-    if (descriptor.get() < 0) return system_text();
-    const mode_t mask = umask(0);
-    umask(mask);
-    // Only the superuser may give files away; for others the new file is their own.
-    if (existing != nullptr && fchown(descriptor.get(), existing->st_uid, existing->st_gid) != 0) errno = 0;
-    const mode_t mode = existing != nullptr ? existing->st_mode & 07777U : 0666U & ~mask;
-    const bool is_written = fchmod(descriptor.get(), mode) == 0 && fsync(descriptor.get()) == 0 && descriptor.close();
-    return is_written && rename(finished.c_str(), target.c_str()) == 0 ? std::string() : system_text();
+    std::error_code none;
+    const fs::file_status state = fs::status(path_of(target), none);
+    if (!fs::exists(state) || fs::is_regular_file(state)) return target_kind::file;
+    return fs::is_directory(state) ? target_kind::folder : target_kind::device;
 }
 
 /// Whoever closes a pipe has read enough.
 std::string copy_to(int descriptor, const fs::path& finished) {
     constexpr std::size_t k_unit = std::size_t{1} << 20U;
-    const c_descriptor from(open(finished.c_str(), O_RDONLY | O_CLOEXEC));
+    const c_descriptor from(system::open(finished, system::open_mode::read));
     std::string bytes(k_unit, '\0');
     for (;;) {
-        const ssize_t count = from.get() < 0 ? -1 : read(from.get(), bytes.data(), bytes.size());
+        const std::int64_t count = from.get() < 0 ? -1 : system::read(from.get(), bytes.data(), bytes.size());
         if (count == 0) return {};
-        if (count < 0 && errno == EINTR) continue;
         if (count < 0) return system_text();
         const std::string refusal =
             write_all(descriptor, std::string_view(bytes).substr(0, static_cast<std::size_t>(count)));
@@ -309,27 +288,26 @@ exit_code read_tree(const std::string& file, c_tree& tree, std::size_t* size) {
     return exit_document_fails;
 }
 
-c_input::c_input(const std::string& file) : m_descriptor(STDIN_FILENO) {
+c_input::c_input(const std::string& file) : m_descriptor(system::k_input) {
     if (file == k_standard_stream) return;
-    m_descriptor = open(file.c_str(), O_RDONLY | O_CLOEXEC);
+    m_descriptor = system::open(path_of(file), system::open_mode::read);
     m_is_owned = m_descriptor >= 0;
     if (!m_is_owned) m_refusal = system_text();
 }
 
 c_input::~c_input() {
-    if (m_is_owned) close(m_descriptor);
+    if (m_is_owned) system::close(m_descriptor);
 }
 
 /// Reads more behind what the buffer holds.
 bool c_input::fill() {
     const auto held = static_cast<std::size_t>(egptr() - gptr());
     std::copy(gptr(), egptr(), m_buffer.data());
-    ssize_t count = 0;
-    do {
-        if (!m_refusal.empty()) break;
-        count = ::read(m_descriptor, m_buffer.data() + held, m_buffer.size() - held);
-        if (count < 0 && errno != EINTR) m_refusal = system_text();
-    } while (count < 0);
+    std::int64_t count = 0;
+    if (m_refusal.empty()) {
+        count = system::read(m_descriptor, m_buffer.data() + held, m_buffer.size() - held);
+        if (count < 0) m_refusal = system_text();
+    }
     const std::size_t more = count > 0 ? static_cast<std::size_t>(count) : 0;
     m_total += more;
     if (m_total > k_largest_stream) m_refusal = k_stream_too_long;
@@ -370,16 +348,15 @@ c_scratch_folder::c_scratch_folder() {
 }
 
 c_scratch_folder::c_scratch_folder(const std::string& target) {
-    struct stat state {};
-    bool exists = false;
-    switch (kind_of_target(target, &state, &exists)) {
+    std::error_code none;
+    switch (kind_of_target(target)) {
         case target_kind::folder:
             m_refusal = k_is_directory;
             return;
         case target_kind::file: {
-            const fs::path file = behind_links(target);
+            const fs::path file = behind_links(path_of(target));
             // A file may be protected in a folder that isn't.
-            if (exists && faccessat(AT_FDCWD, file.c_str(), W_OK, AT_EACCESS) != 0) {
+            if (fs::exists(file, none) && !system::may_write(file)) {
                 m_refusal = system_text();
                 return;
             }
@@ -390,32 +367,18 @@ c_scratch_folder::c_scratch_folder(const std::string& target) {
         case target_kind::device:
             break;
     }
-    std::error_code none;
     make(fs::temp_directory_path(none));
 }
 
 void c_scratch_folder::make(const fs::path& parent) {
-    std::string name = (parent / ".vyr-XXXXXX").string();
-    if (mkdtemp(name.data()) != nullptr) {
-        m_path = name;
-    } else {
-        m_refusal = system_text();
-    }
+    m_path = system::make_scratch_folder(parent);
+    if (m_path.empty()) m_refusal = system_text();
 }
 
 c_scratch_folder::~c_scratch_folder() {
     std::error_code ignored;
     if (!m_path.empty()) fs::remove_all(m_path, ignored);
 }
-
-c_signals_held::c_signals_held() {
-    sigset_t held;
-    sigemptyset(&held);
-    for (const int signal : {SIGINT, SIGTERM, SIGHUP}) sigaddset(&held, signal);
-    pthread_sigmask(SIG_BLOCK, &held, &m_before);
-}
-
-c_signals_held::~c_signals_held() { pthread_sigmask(SIG_SETMASK, &m_before, nullptr); }
 
 std::optional<std::u16string> widen(const std::string& text) {
     std::u16string wide;
@@ -426,19 +389,17 @@ std::optional<std::u16string> widen(const std::string& text) {
 }
 
 std::string deliver(const fs::path& finished, const std::string& target) {
-    struct stat state {};
-    bool exists = false;
-    switch (kind_of_target(target, &state, &exists)) {
+    switch (kind_of_target(target)) {
         case target_kind::folder:
             return k_is_directory;
         case target_kind::file:
-            return replace_file(finished, behind_links(target), exists ? &state : nullptr);
+            return system::replace_file(finished, behind_links(path_of(target)));
         case target_kind::stream:
-            return copy_to(STDOUT_FILENO, finished);
+            return copy_to(system::k_output, finished);
         case target_kind::device:
             break;
     }
-    c_descriptor descriptor(open(target.c_str(), O_WRONLY | O_CLOEXEC));
+    c_descriptor descriptor(system::open(path_of(target), system::open_mode::write));
     if (descriptor.get() < 0) return system_text();
     const std::string refusal = copy_to(descriptor.get(), finished);
     return refusal.empty() && !descriptor.close() ? system_text() : refusal;
@@ -449,7 +410,7 @@ std::string write_file(const std::string& target, const std::string& bytes) {
     const c_scratch_folder folder(target);
     if (folder.path().empty()) return folder.refusal();
     const fs::path finished = folder.path() / "finished";
-    c_descriptor descriptor(open(finished.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0600));
+    c_descriptor descriptor(system::open(finished, system::open_mode::create));
     if (descriptor.get() < 0) return system_text();
     std::string refusal = write_all(descriptor.get(), bytes);
     if (!refusal.empty()) return refusal;

@@ -5,7 +5,6 @@
 
 #pragma once
 
-#include <csignal>
 #include <cstddef>
 #include <filesystem>
 #include <functional>
@@ -19,6 +18,7 @@
 #include "schema/Vyr.h"
 #include "tools/commands.h"
 #include "tools/long_text.h"
+#include "tools/system.h"
 #include "tools/tree.h"
 
 namespace vyr_tool {
@@ -115,18 +115,6 @@ private:
 
     std::filesystem::path m_path;
     std::string m_refusal;
-};
-
-/// Lets an interruption wait, so that no file without a master stays behind.
-class c_signals_held {
-public:
-    c_signals_held();
-    c_signals_held(const c_signals_held&) = delete;
-    c_signals_held& operator=(const c_signals_held&) = delete;
-    ~c_signals_held();
-
-private:
-    sigset_t m_before;
 };
 
 /// Puts a finished file in the place of another, or copies it to "-" or a device: either all of it, or nothing that

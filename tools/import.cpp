@@ -39,10 +39,8 @@ constexpr std::string_view k_ignored[] = {csv_header::file, csv_header::in, k_ba
 
 std::string now() {
     const std::time_t seconds = std::chrono::system_clock::to_time_t(std::chrono::system_clock::now());
-    std::tm utc{};
-    gmtime_r(&seconds, &utc);
     std::string text(sizeof "2026-05-01T12:00:00Z", '\0');
-    text.resize(std::strftime(text.data(), text.size(), "%Y-%m-%dT%H:%M:%SZ", &utc));
+    text.resize(std::strftime(text.data(), text.size(), "%Y-%m-%dT%H:%M:%SZ", std::gmtime(&seconds)));
     return text;
 }
 
@@ -415,9 +413,8 @@ private:
             *pointer = "/Color";
             return m_loose;
         }
-        const std::string stem = m_options.table == k_standard_stream
-                                     ? "Imported"
-                                     : printable(std::filesystem::path(m_options.table).stem().string());
+        const std::string stem =
+            m_options.table == k_standard_stream ? "Imported" : printable(name_of(path_of(m_options.table).stem()));
         if (palette.empty()) palette = m_options.palette.empty() ? stem : m_options.palette;
         if (set.empty()) set = palette;
         json& found = entry_of(m_palettes, "PaletteName", palette, pointer, "/Palette");

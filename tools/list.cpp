@@ -3,8 +3,6 @@
 
 /// `vyr list`: the colours of documents with their values and the conditions of each, as tables, JSON or CSV.
 
-#include <fnmatch.h>
-
 #include <algorithm>
 #include <iostream>
 #include <span>
@@ -18,6 +16,7 @@
 #include "tools/json.h"
 #include "tools/progress.h"
 #include "tools/spectrum.h"
+#include "tools/system.h"
 #include "tools/text.h"
 #include "tools/tree.h"
 #include "tools/typed_json.h"
@@ -32,7 +31,7 @@ using index = c_tree::index;
 constexpr std::string_view k_not_shown[] = {"ColorDepth"};
 
 bool fits(const std::string& pattern, std::string_view text) {
-    return pattern.empty() || fnmatch(pattern.c_str(), std::string(text).c_str(), 0) == 0;
+    return pattern.empty() || system::fits_pattern(pattern, std::string(text));
 }
 
 std::vector<s_color> find_wanted(const c_tree& tree, const list_options& options) {

@@ -3,9 +3,6 @@
 
 /// The command `vyr`: its command line. The one source that takes the parser of command lines in.
 
-#include <sys/stat.h>
-#include <unistd.h>
-
 #include <CLI/CLI.hpp>
 #include <algorithm>
 #include <array>
@@ -24,6 +21,7 @@
 
 #include "tools/commands.h"
 #include "tools/progress.h"
+#include "tools/system.h"
 #include "tools/text.h"
 
 namespace {
@@ -222,11 +220,11 @@ protected:
         // On the same terminal, and in a pipe's pager, results are a sign of life themselves.
         if (!m_is_file) c_progress_line::make_way();
         for (const char* next = pbase(); next < pptr() && m_error == 0;) {
-            const ssize_t count = write(STDOUT_FILENO, next, static_cast<std::size_t>(pptr() - next));
-            if (count >= 0) {
-                next += count;
-            } else if (errno != EINTR) {
+            const std::int64_t count = system::write(system::k_output, next, static_cast<std::size_t>(pptr() - next));
+            if (count < 0) {
                 m_error = errno;
+            } else {
+                next += count;
             }
         }
         setp(m_buffer.data(), m_buffer.data() + m_buffer.size());
@@ -235,12 +233,12 @@ protected:
 
 private:
     static bool is_regular(int descriptor) {
-        struct stat state {};
-        return fstat(descriptor, &state) == 0 && S_ISREG(state.st_mode);
+        const auto state = system::state_of(descriptor);
+        return state && state->kind == system::file_kind::file;
     }
 
     std::array<char, 65536> m_buffer{};
-    bool m_is_file = is_regular(STDOUT_FILENO);
+    bool m_is_file = is_regular(system::k_output);
     int m_error = 0;
 };
 
@@ -312,7 +310,7 @@ void explain_usage(const CLI::App& app, const CLI::ParseError& error, const std:
     }
 }
 
-exit_code run(int argc, char** argv) {
+exit_code run(std::vector<std::string> words) {
     CLI::App app("Checks, describes, compares and converts colour-data documents (.vyr, .vyrz).", "vyr");
     app.require_subcommand(1);
     app.set_version_flag("--version", "vyr " VYR_TOOL_VERSION, "Print the version");
@@ -339,7 +337,7 @@ exit_code run(int argc, char** argv) {
     add("codes", "List the result codes of the library", &codes, &add_codes);
     add("show", "Make a page of a document, to look at in a browser", &show, &add_show);
     // "vyr help check" is "vyr check --help".
-    std::vector<std::string> words(argv + std::min(argc, 1), argv + argc);
+    const std::string given = words.empty() ? "" : words.front();
     if (!words.empty() && words.front() == "help") {
         words.erase(words.begin());
         words.emplace_back("--help");
@@ -355,7 +353,7 @@ exit_code run(int argc, char** argv) {
     } catch (const CLI::ParseError& error) {
         // Asking for help or for the version ends here as well.
         if (error.get_exit_code() == 0) return app.exit(error), exit_ok;
-        explain_usage(app, error, argc > 1 ? argv[1] : "");
+        explain_usage(app, error, given);
         return exit_usage_or_file;
     }
     return result;
@@ -363,12 +361,12 @@ exit_code run(int argc, char** argv) {
 
 }  // namespace
 
-int main(int argc, char** argv) {
+int vyr_tool::run_command(std::vector<std::string> words) {
     c_output output;
     std::streambuf* const before = std::cout.rdbuf(&output);
     exit_code result = exit_usage_or_file;
     try {
-        result = run(argc, argv);
+        result = run(std::move(words));
     } catch (const std::bad_alloc&) {
         std::cerr << "vyr: not enough memory\n";
     } catch (const std::exception& error) {

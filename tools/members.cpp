@@ -4,6 +4,7 @@
 #include "tools/members.h"
 
 #include <memory>
+#include <mutex>
 
 namespace vyr_tool {
 
@@ -18,8 +19,17 @@ std::string_view local_name(std::string_view name) {
 }
 
 const c_members& c_members::of(const s_class& type) {
-    static thread_local std::unordered_map<const s_class*, std::unique_ptr<c_members>> known;
-    std::unique_ptr<c_members>& members = known[&type];
+    using known_members = std::unordered_map<const s_class*, std::unique_ptr<c_members>>;
+    // Each thread has its own, which the process keeps: when a thread ends, some systems give the memory of its
+    // variables back before these are destroyed.
+    static std::mutex mutex;
+    static std::vector<std::unique_ptr<known_members>> of_all_threads;
+    static thread_local known_members* known = nullptr;
+    if (known == nullptr) {
+        const std::scoped_lock lock(mutex);
+        known = of_all_threads.emplace_back(std::make_unique<known_members>()).get();
+    }
+    std::unique_ptr<c_members>& members = (*known)[&type];
     if (!members) members = std::make_unique<c_members>(type);
     return *members;
 }

@@ -3,11 +3,10 @@
 
 #include "tools/progress.h"
 
-#include <unistd.h>
-
 #include <chrono>
 #include <iostream>
 
+#include "tools/system.h"
 #include "tools/text.h"
 
 namespace vyr_tool {
@@ -15,7 +14,7 @@ namespace vyr_tool {
 c_progress_line* c_progress_line::s_shown = nullptr;
 
 c_progress_line::c_progress_line(const std::string& text) {
-    if (isatty(STDERR_FILENO) == 0) return;
+    if (!system::is_terminal(system::k_errors)) return;
     s_shown = this;
     m_thread = std::thread([this, line = printable(text)] {
         bool is_shown = false;

@@ -3,8 +3,6 @@
 
 #include "tools/save.h"
 
-#include <unistd.h>
-
 #include <algorithm>
 #include <array>
 #include <filesystem>
@@ -64,7 +62,7 @@ lmx::elmx_error print(const Vyr& document, std::streambuf& buffer) {
 }
 
 lmx::elmx_error read_written(const fs::path& plain, c_tree& tree) {
-    lmx::c_read_file source(plain.c_str());
+    lmx::c_read_file source(name_of(plain).c_str());
     return source.is_open() ? tree.read(source) : lmx::ELMX_NO_FILE;
 }
 
@@ -86,7 +84,7 @@ void explain_difference(const fs::path& plain, const Vyr& back) {
 /// lost, returns that something is, and sets the exit code if that is no fault of the file's.
 std::string compare(const fs::path& written, const fs::path& plain, exit_code* result) {
     Vyr back;
-    const s_reading reading = read_document(written.string(), back);
+    const s_reading reading = read_document(name_of(written), back);
     if (!reading.refusal.empty()) return "can't be read back: " + reading.refusal;
     c_comparing_buffer comparison(plain);
     const bool is_same = reading.report.isOk() && print(back, comparison) == lmx::ELMX_OK && comparison.is_same();
@@ -102,13 +100,13 @@ std::string compare(const fs::path& written, const fs::path& plain, exit_code* r
 }
 
 exit_code write(const Vyr& document, const fs::path& file, std::string* reasons) {
-    const DocumentReport report = com_vyrgraph_v2::writeFileWithReport(document, widen(file.string()).value_or(u""));
+    const DocumentReport report = com_vyrgraph_v2::writeFileWithReport(document, widen(name_of(file)).value_or(u""));
     return report.isOk() ? exit_ok : explain_failed_write(report, reasons);
 }
 
 /// Returns why it could not be done, or nothing.
 std::string write_json(const fs::path& plain, const fs::path& file) {
-    lmx::c_read_file source(plain.c_str());
+    lmx::c_read_file source(name_of(plain).c_str());
     std::ofstream stream(file, std::ios::binary);
     const lmx::elmx_error code = print_typed_json(source, stream);
     if (code != lmx::ELMX_OK) return lmx::get_error_description(code);
@@ -136,7 +134,7 @@ exit_code refuse_output(const std::string& out, const std::string& text, exit_co
 
 exit_code save_document(std::unique_ptr<Vyr> document, const std::string& out, const std::string& format) {
     const bool is_container = format == "vyrz";
-    if (is_container && out == k_standard_stream && isatty(STDOUT_FILENO) != 0) {
+    if (is_container && out == k_standard_stream && system::is_terminal(system::k_output)) {
         return refuse_output(out, "a container is no text for a terminal");
     }
     const c_signals_held held;
@@ -153,8 +151,8 @@ exit_code save_document(std::unique_ptr<Vyr> document, const std::string& out, c
     exit_code result = write(*document, plain, &reasons);
     if (result == exit_ok && is_container) {
         // The entry in the container is called as the target is.
-        const std::string stem = out == k_standard_stream ? "document" : fs::path(out).stem().string();
-        finished = folder.path() / "container" / ((widen(stem) ? stem : "document") + ".vyrz");
+        const std::string stem = out == k_standard_stream ? "document" : name_of(path_of(out).stem());
+        finished = folder.path() / "container" / path_of((widen(stem) ? stem : "document") + ".vyrz");
         result = write(*document, finished, &reasons);
     }
     if (result != exit_ok) return refuse_output(out, reasons, result);

@@ -36,7 +36,7 @@ std::string write_page(const c_tree& tree, const std::string& name, const std::s
 bool is_document(const show_options& options) {
     std::error_code none;
     return options.out.ends_with(".vyr") || is_container_name(options.out) ||
-           fs::equivalent(options.file, options.out, none);
+           fs::equivalent(path_of(options.file), path_of(options.out), none);
 }
 
 }  // namespace
@@ -51,7 +51,7 @@ exit_code show(const show_options& options) {
     const exit_code read = read_tree(options.file, tree);
     if (read != exit_ok) return read;
     const std::string name =
-        options.file == k_standard_stream ? shown_name(options.file) : fs::path(options.file).filename().string();
+        options.file == k_standard_stream ? shown_name(options.file) : name_of(path_of(options.file).filename());
     const c_progress_line progress("making the page of " + shown_name(options.file));
     if (is_stream) {
         c_page(tree, std::cout).print(name);

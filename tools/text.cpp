@@ -3,8 +3,6 @@
 
 #include "tools/text.h"
 
-#include <unistd.h>
-
 #include <algorithm>
 #include <array>
 #include <cstdio>
@@ -12,6 +10,7 @@
 
 #include "lmx/values/hidden.h"
 #include "lmx/values/utf8.h"
+#include "tools/system.h"
 
 namespace vyr_tool {
 
@@ -103,22 +102,13 @@ std::string short_number(double number) {
 bool use_color(const color_mode& mode) {
     if (mode != "auto") return mode == "always";
     const char* const terminal = std::getenv("TERM");
-    return isatty(STDOUT_FILENO) != 0 && !has_environment("NO_COLOR") &&
+    return system::is_terminal(system::k_output) && !has_environment("NO_COLOR") &&
            std::string_view(terminal == nullptr ? "" : terminal) != "dumb";
 }
 
 std::string colored(std::string_view text, const char* color) { return std::string(color).append(text) + "\x1B[0m"; }
 
-bool use_curves() {
-    for (const char* const name : {"LC_ALL", "LC_CTYPE", "LANG"}) {
-        const char* const value = std::getenv(name);
-        const std::string_view locale = value == nullptr ? "" : value;
-        if (locale.empty()) continue;
-        const bool has_utf8 = locale.find("UTF-8") != locale.npos || locale.find("utf8") != locale.npos;
-        return has_utf8 && isatty(STDOUT_FILENO) != 0;
-    }
-    return false;
-}
+bool use_curves() { return system::has_utf8_terminal() && system::is_terminal(system::k_output); }
 
 bool use_true_color(const color_mode& mode) {
     if (mode != "auto") return mode == "always";
