@@ -36,7 +36,7 @@ foreach(folder lmx schema)
           PATTERN "seconds.h" EXCLUDE PATTERN "failure*.h" EXCLUDE PATTERN "open_element.h" EXCLUDE
           PATTERN "shown_text.h" EXCLUDE PATTERN "source_place.h" EXCLUDE PATTERN "hidden.h" EXCLUDE
           PATTERN "utf8.h" EXCLUDE PATTERN "place.h" EXCLUDE PATTERN "plain_value.h" EXCLUDE
-          PATTERN "plain_way.h" EXCLUDE PATTERN "recovery.h" EXCLUDE)
+          PATTERN "plain_way.h" EXCLUDE PATTERN "recovery.h" EXCLUDE PATTERN "thread_object.h" EXCLUDE)
 endforeach()
 foreach(header document/report.h document/result.h zip/add_request.h zip/container.h zip/entry_header.h zip/exception.h)
   cmake_path(GET header PARENT_PATH folder)

@@ -8,6 +8,7 @@
 
 #include "schema/generated/groups.h"
 #include "lmx/binding/binding.h"
+#include "lmx/binding/thread_object.h"
 #include "schema/generated/color_values.h"
 #include "schema/generated/device_color_values.h"
 #include "schema/generated/functions.h"
@@ -123,7 +124,7 @@ ColorSpaceHSVType& sg_ColorSpace::get_ColorSpaceHSV() { return *static_cast<Colo
 ColorSpaceHSVType& sg_ColorSpace::assign_ColorSpaceHSV(const ColorSpaceHSVType& value) { ColorSpaceHSVType copy(value); ColorSpaceHSVType& target = get_ColorSpaceHSV(); target.swap(copy); return target; }
 ColorSpaceCMYKType& sg_ColorSpace::get_ColorSpaceCMYK() { return *static_cast<ColorSpaceCMYKType*>(lmx::choose(k_class, k_items[item_ColorSpaceCMYK], this)); }
 ColorSpaceCMYKType& sg_ColorSpace::assign_ColorSpaceCMYK(const ColorSpaceCMYKType& value) { ColorSpaceCMYKType copy(value); ColorSpaceCMYKType& target = get_ColorSpaceCMYK(); target.swap(copy); return target; }
-ColorSpaceCMYKType& sg_ColorSpace::assign_ColorSpaceCMYK(ColorSpaceCMYKType* value) { lmx::adopt(k_class, k_items[item_ColorSpaceCMYK], this, value); if (value != nullptr) return *value; thread_local ColorSpaceCMYKType nothing; nothing.reset(); return nothing; }
+ColorSpaceCMYKType& sg_ColorSpace::assign_ColorSpaceCMYK(ColorSpaceCMYKType* value) { lmx::adopt(k_class, k_items[item_ColorSpaceCMYK], this, value); if (value != nullptr) return *value; ColorSpaceCMYKType& nothing = lmx::thread_object<ColorSpaceCMYKType>(); nothing.reset(); return nothing; }
 ColorSpaceTINTORAOctavanticType& sg_ColorSpace::get_ColorSpaceTINTORAOctavantic() { return *static_cast<ColorSpaceTINTORAOctavanticType*>(lmx::choose(k_class, k_items[item_ColorSpaceTINTORAOctavantic], this)); }
 ColorSpaceTINTORAOctavanticType& sg_ColorSpace::assign_ColorSpaceTINTORAOctavantic(const ColorSpaceTINTORAOctavanticType& value) { ColorSpaceTINTORAOctavanticType copy(value); ColorSpaceTINTORAOctavanticType& target = get_ColorSpaceTINTORAOctavantic(); target.swap(copy); return target; }
 ColorSpaceYUVType& sg_ColorSpace::get_ColorSpaceYUV() { return *static_cast<ColorSpaceYUVType*>(lmx::choose(k_class, k_items[item_ColorSpaceYUV], this)); }
@@ -264,7 +265,7 @@ void sg_Function::reset() { sg_Function fresh; lmx::exchange(k_class, this, &fre
 bool sg_Function::is_occurs_ok() const { return lmx::is_occurs_ok(k_class, this); }
 FunctionType& sg_Function::get_Function() { return *static_cast<FunctionType*>(lmx::choose(k_class, k_items[item_Function], this)); }
 FunctionType& sg_Function::assign_Function(const FunctionType& value) { FunctionType copy(value); FunctionType& target = get_Function(); target.swap(copy); return target; }
-FunctionType& sg_Function::assign_Function(FunctionType* value) { lmx::adopt(k_class, k_items[item_Function], this, value); if (value != nullptr) return *value; thread_local FunctionType nothing; nothing.reset(); return nothing; }
+FunctionType& sg_Function::assign_Function(FunctionType* value) { lmx::adopt(k_class, k_items[item_Function], this, value); if (value != nullptr) return *value; FunctionType& nothing = lmx::thread_object<FunctionType>(); nothing.reset(); return nothing; }
 FunctionGenericType& sg_Function::get_FunctionGeneric() { return *static_cast<FunctionGenericType*>(lmx::choose(k_class, k_items[item_FunctionGeneric], this)); }
 FunctionGenericType& sg_Function::assign_FunctionGeneric(const FunctionGenericType& value) { FunctionGenericType copy(value); FunctionGenericType& target = get_FunctionGeneric(); target.swap(copy); return target; }
 FunctionDEType& sg_Function::get_FunctionDE() { return *static_cast<FunctionDEType*>(lmx::choose(k_class, k_items[item_FunctionDE], this)); }

@@ -103,7 +103,7 @@ ITEM = """
         the reference is then to an object of the calling thread that belongs to nothing.
     adopted | $type& assign_$x($type* value)
         { lmx::adopt(k_class, $row, this, value); if (value != nullptr) return *value;
-        thread_local $type nothing; nothing.reset(); return nothing; }
+        $type& nothing = lmx::thread_object<$type>(); nothing.reset(); return nothing; }
 
     list | plain inline std::size_t size_$x() const { return m_$x.size(); }
     values | plain inline $value get_$x(std::size_t index) const { return m_$x[index]; }
