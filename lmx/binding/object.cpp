@@ -315,11 +315,14 @@ void* choose(const s_class& type, const s_item& alternative, void* object) {
     // An adopted null is no object to hand out.
     if (choice.chosen != number || (alternative.type != nullptr && choice.object == nullptr)) {
         release_choice(type, object);
-        const s_stored_type& stored = stored_type_of(alternative);
-        if (lies_in_slot(alternative)) {
-            stored.construct(&choice.number);
+        // What a caller may have another object take the place of, he deletes himself.
+        choice.is_adopted = !alternative.factory.empty();
+        if (choice.is_adopted) {
+            choice.object = alternative.type->operations->create();
+        } else if (lies_in_slot(alternative)) {
+            stored_type_of(alternative).construct(&choice.number);
         } else {
-            choice.object = make_part(stored);
+            choice.object = make_part(stored_type_of(alternative));
         }
         choice.chosen = number;
     }

@@ -204,7 +204,7 @@ struct s_choice {
 
     std::int32_t chosen;
     bool is_touched;          ///< raised with every choice: the present flag of a class that is a holder itself
-    bool is_adopted = false;  ///< the object was made by `create` or `clone`, or is null; others are parts
+    bool is_adopted = false;  ///< the object is one that `delete` ends, or null; others are parts
     union {
         double number;
         std::int32_t int32;

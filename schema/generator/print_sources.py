@@ -109,7 +109,8 @@ def print_source(plan, topic):
         body += [f"// {made.name}", "", *table, *statics(plan, made), *filter(None, definitions), ""]
     adopts = any("lmx::thread_object<" in line for line in body)
     includes = own_source(topic.name, [
-        "lmx/binding/binding.h", *["lmx/binding/thread_object.h"] * adopts, f"{FOLDER}/tables.h", *(f"{FOLDER}/{name}.h" for name in topic.source_needs)])
+        "lmx/binding/binding.h", *["lmx/binding/thread_object.h"] * adopts, f"{FOLDER}/tables.h",
+        *(f"{FOLDER}/{name}.h" for name in topic.source_needs)])
     return frame(f"Tables and members of the classes in {topic.name}.h.", includes, body[:-1], notes=NOTES)
 
 

@@ -6,6 +6,7 @@
 #include <gtest/gtest.h>
 
 #include <limits>
+#include <memory>
 #include <thread>
 
 #include "tests/schema/support.h"
@@ -399,6 +400,18 @@ TEST(Objects, AnAdoptedMemberEndsAnotherAlternativeAndNoneOfItsOwn) {
         if (!is_first_ended) delete first;
     }
     EXPECT_TRUE(is_second_ended);
+
+    // The former one is the caller's, also if a load made it.
+    const std::string text = with_declarations(
+        "<Vyr:Vyr><Vyr:Palette><Vyr:ColorSet><Vyr:Color><Vyr:ColorSpaceCMYK/></Vyr:Color></Vyr:ColorSet>"
+        "</Vyr:Palette></Vyr:Vyr>");
+    c_swallowing_reader reader(text);
+    v2::Vyr document;
+    document.unmarshal(reader);
+    v2::sg_ColorSpace& loaded = document.get_Palette(0).get_ColorSet(0).get_Color(0).get_ColorSpace(0);
+    ASSERT_EQ(loaded.getchosen(), v2::sg_ColorSpace::e_ColorSpaceCMYK);
+    const std::unique_ptr<v2::ColorSpaceCMYKType> former(&loaded.get_ColorSpaceCMYK());
+    loaded.assign_ColorSpaceCMYK(new v2::ColorSpaceCMYKType());
 }
 
 TEST(Objects, ANullMemberIsHarmless) {
