@@ -194,7 +194,7 @@ run_tests() {
 }
 
 make_package() {
-    local version stage component
+    local version stage component part
     version=$(sed -n 's/^project(vyr VERSION \([0-9.]*\) .*/\1/p' CMakeLists.txt)
     stage=$home/package$bits/vyr-$version-windows$bits
     rm -rf "$home/package$bits"
@@ -206,6 +206,9 @@ make_package() {
     mkdir -p "$stage/licenses"
     cp LICENSE "$stage/licenses/vyr.txt"
     cp "$libraries"/licenses/*.txt "$stage/licenses"
+    for part in libcli11-dev nlohmann-json3-dev; do
+        cp "/usr/share/doc/$part/copyright" "$stage/licenses/${part%-dev}.txt"
+    done
     cp docs/windows.md "$stage/README.md"
     rm -f "$build"/*.zip
     local target=$PWD/$build/vyr-$version-windows$bits.zip
