@@ -124,7 +124,7 @@ void c_json_to_xml::print_entries(std::size_t number) {
 }
 
 void c_json_to_xml::print_part(const s_part& part) {
-    if (part.value->is_binary()) return print_entries(part.value->get_binary().subtype());
+    if (part.value->is_binary()) return print_entries(static_cast<std::size_t>(part.value->get_binary().subtype()));
     m_path.push_back(step_of(*part.member, *part.value, part.number));
     print_value(*part.value, *part.member);
     m_path.pop_back();
