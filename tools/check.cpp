@@ -18,6 +18,7 @@
 #include "tools/commands.h"
 #include "tools/files.h"
 #include "tools/json.h"
+#include "tools/progress.h"
 #include "tools/text.h"
 #include "tools/warnings.h"
 
@@ -34,8 +35,6 @@ struct s_job {
     std::string file;
     std::string refusal;
 };
-
-bool is_document_name(const std::string& file) { return file.ends_with(".vyr") || is_container_name(file); }
 
 /// All documents below a folder, by name. Links to folders are not followed, so there are no circles.
 void find_documents(const std::string& folder, std::vector<s_job>& jobs) {
@@ -113,13 +112,11 @@ public:
         if (!m_is_wanted || clock::now() - m_start < std::chrono::seconds(1)) return;
         std::string text = "checking " + shown_name(file);
         if (m_count > 1) text = std::to_string(done + 1) + " of " + std::to_string(m_count) + ": " + text;
-        constexpr std::size_t k_widest = 76;
-        while (width(text) > k_widest) text.pop_back();
-        std::cerr << '\r' << printable(text) << "\x1B[K" << std::flush;
+        show_status(text);
         m_is_shown = true;
     }
     void clear() {
-        if (m_is_shown) std::cerr << "\r\x1B[K" << std::flush;
+        if (m_is_shown) clear_status();
         m_is_shown = false;
     }
 

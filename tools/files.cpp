@@ -199,6 +199,8 @@ std::string copy_to(int descriptor, const fs::path& finished) {
 
 bool is_container_name(const std::string& file) { return file.ends_with(".vyrz"); }
 
+bool is_document_name(const std::string& file) { return file.ends_with(".vyr") || is_container_name(file); }
+
 std::string shown_name(const std::string& file) {
     return file == k_standard_stream ? "standard input" : printable(file);
 }

@@ -134,6 +134,8 @@ exit_code explain_failed_write(const com_vyrgraph_v2::DocumentReport& report, st
 std::string shown_name(const std::string& file);
 
 bool is_container_name(const std::string& file);
+/// The name of a container or of a plain document.
+bool is_document_name(const std::string& file);
 
 /// A fault as the library words it, under the file's printable name.
 std::string fault_text(const std::string& file, com_vyrgraph_v2::DocumentFault fault);

@@ -12,6 +12,11 @@
 
 namespace vyr_tool {
 
+/// Puts a line into the terminal's last row, in place of the one before. A long text is cut ahead of its end: what
+/// took two rows could not be taken away again.
+void show_status(const std::string& text, const std::string& end = {});
+void clear_status();
+
 /// Shows a line with the time that has gone by, once that is more than a second, and takes it away at the end. Shows
 /// nothing where standard error is no terminal. One at a time.
 class c_progress_line {

@@ -120,7 +120,7 @@ std::optional<std::string> format_of(const std::string& out, const std::string& 
     if (!asked.empty()) return asked;
     if (is_container_name(out)) return "vyrz";
     if (out.ends_with(".json")) return "json";
-    if (out.ends_with(".vyr") || out == k_standard_stream) return "vyr";
+    if (is_document_name(out) || out == k_standard_stream) return "vyr";
     return std::nullopt;
 }
 

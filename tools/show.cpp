@@ -35,8 +35,7 @@ std::string write_page(const c_tree& tree, const std::string& name, const std::s
 /// A page in the place of a document would be the end of the document.
 bool is_document(const show_options& options) {
     std::error_code none;
-    return options.out.ends_with(".vyr") || is_container_name(options.out) ||
-           fs::equivalent(path_of(options.file), path_of(options.out), none);
+    return is_document_name(options.out) || fs::equivalent(path_of(options.file), path_of(options.out), none);
 }
 
 }  // namespace

@@ -32,6 +32,8 @@ char32_t take_character(std::string_view& text) {
     return character.size == 0 ? k_no_character : character.code;
 }
 
+std::size_t columns_of(char32_t c) { return lmx::is_in(k_zero_width, c) ? 0 : lmx::is_in(k_double_width, c) ? 2 : 1; }
+
 std::string format(const char* form, unsigned number) {
     std::array<char, 16> text{};
     std::snprintf(text.data(), text.size(), form, number);
@@ -82,11 +84,18 @@ std::string in_quotes(std::string_view text) { return '"' + printable(text) + '"
 
 std::size_t width(std::string_view text) {
     std::size_t columns = 0;
-    while (!text.empty()) {
-        const char32_t c = take_character(text);
-        columns += lmx::is_in(k_zero_width, c) ? 0 : lmx::is_in(k_double_width, c) ? 2 : 1;
-    }
+    while (!text.empty()) columns += columns_of(take_character(text));
     return columns;
+}
+
+std::string_view narrowed(std::string_view text, std::size_t columns) {
+    std::string_view rest = text;
+    for (std::size_t end = 0;; end = text.size() - rest.size()) {
+        if (rest.empty()) return text;
+        const std::size_t next = columns_of(take_character(rest));
+        if (next > columns) return text.substr(0, end);
+        columns -= next;
+    }
 }
 
 std::string counted(std::size_t count, std::string_view one, std::string_view many) {

@@ -28,6 +28,9 @@ std::string in_quotes(std::string_view text);
 /// The columns that printable text takes.
 std::size_t width(std::string_view text);
 
+/// The beginning of a printable text that takes no more columns.
+std::string_view narrowed(std::string_view text, std::size_t columns);
+
 /// "1 colour", "2 colours"
 std::string counted(std::size_t count, std::string_view one, std::string_view many);
 
