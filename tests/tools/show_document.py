@@ -3,6 +3,7 @@
 """Documents for the tests of `vyr show`: one of everything that a page shows in its own way, and large ones."""
 
 import math
+import re
 
 DATE = "<Vyr:ChangeHistory>2026-05-01T12:00:00Z</Vyr:ChangeHistory>"
 NIL = 'xsi:nil="true"'
@@ -68,6 +69,11 @@ def spectrum(level=0.1, turn=590, step=10, specification=None):
     return value("Spectral", points, conditions("Spectral") if specification is None else specification)
 
 
+def emission(*points):
+    return value("EmissiveSpectral", "".join(element("EmissiveSpectralPoint", v, Wavelength=nm) for nm, v in points),
+                 f"<Vyr:ColorSpaceSpecificationEmissiveSpectral {NIL}/>")
+
+
 def recipe():
     def colorant(kind, name, maker, part, share, density):
         ink = element(kind, texts(Name=name, Manufacturer=maker, PartNumber=part) + density)
@@ -122,8 +128,10 @@ def full():
         return element("Measurement", device() + color(name, lab("50.4", "61", "41"), spectrum(0.07))
                        + "".join(functions))
 
+    generic = element("FunctionGeneric", texts(Result="1", Name="by hand") + element(
+        "Parameters", texts(Name="order") + element("ValueChoice", texts(String="first"))))
     pairs = element("StandardAndMeasurement",
-                    measurement("Sheet 1", function("DE2000", "0.7", **de2000), function("DE", "1.25"))
+                    measurement("Sheet 1", function("DE2000", "0.7", **de2000), function("DE", "1.25"), generic)
                     + measurement("Sheet 2", function("DE2000", "1.6", **de2000), function("MeanDE", "0.2"))
                     + measurement("Sheet 3", function("DE2000", "2.25", **de2000),
                                   function("DE2000", "0.1", Param_l="2", Param_c="1", Param_h="1"),
@@ -143,40 +151,34 @@ def full():
         color("Warm red", srgb("0.8392", "0.2196", "0.2"), lab("50.2", "62.1", "42.7"), spectrum(), recipe(),
               UniqueID="ink-1", ColorNumber="0042"),
         color("Deep blue", value("CMYK", texts(Cyan="100", Magenta="72", Yellow="0", Black="18"), unknown("Generic")),
-              value("CIELab", texts(L="27", A="8", B="-52"), unknown("Tristimulus"))),
+              value("CIELab", texts(L="27", A="8", B="-52"), unknown("Tristimulus")),
+              value("Generic", element("Axis", texts(AxisName="far") + element(
+                  "AxisValueChoice", texts(AxisStringValue="near"))), unknown("Generic"), Name="by axis"),
+              lab("1", "2", "3").replace("<Vyr:Illuminant>", '<Vyr:Illuminant CustomName="neon">').replace(
+                  DATE, element("CustomAttribute", texts(Name="own") + element(
+                      "ValueChoice", texts(StringValue="kept"))) + DATE, 1),
+              spectrum(specification=conditions("Spectral", spectrum="Custom").replace(
+                  "<Vyr:Spectrum>", '<Vyr:Spectrum CustomTypeName="gloss">'))),
         color("Leaf", srgb("0.2", "0.55", "0.24"), made_from,
               value("CIELab", texts(L="52", A="60", B="41"), profiled())),
         after=element("SubstratePaper", color("Sheet white", srgb("0.97", "0.97", "0.94"))
                       + texts(PaperThickness="0.12", PaperType="coated")))
-    outside = color("Lamp", element("ColorSpaceEmissiveSpectral", DATE + (
-        f"<Vyr:ColorSpaceSpecificationEmissiveSpectral {NIL}/>") + "".join(
-            element("EmissiveSpectralPoint", v, Wavelength=nm)
-            for nm, v in ((700, 2.5), (400, -0.25), (500, 12.5), (600, 40)))))
+    outside = color("Lamp", emission((700, 2.5), (400, -0.25), (500, 12.5), (600, 40)))
     owner = element("Owner", element("Person", texts(Name="Ada", ContactInfo="ada at work")) + texts(Company="Works"))
     return document(outside + palette("Inks", inks, before=defaults) + record, more=owner)
+
+
+# Where a stranger's text can stand in full().
+TEXTS = ("Creator|Purpose|Company|Name|ContactInfo|Manufacturer|Model|SerialNumber|PartNumber|Coating|PaperType|String|"
+         "StringValue|AxisName|AxisStringValue")
+NAMES = "PaletteName|ColorSetName|ColorName|ProfileName|CustomName|CustomTypeName|UniqueID|ColorNumber|Name|Comments"
 
 
 def hostile():
     """Markup, and what turns or hides text, wherever a text can stand."""
     bad = "&lt;/title>&lt;/style>&lt;script>alert(1)&lt;/script>&quot; onload=&quot;alert(1)' x='&amp;lt;\u202e\u009b"
-    custom = element("CustomAttribute", texts(Name=bad) + element("ValueChoice", texts(StringValue=bad)))
-    light = conditions("Tristimulus").replace("<Vyr:Illuminant>", f'<Vyr:Illuminant CustomName="{bad}">')
-    named = (f"<Vyr:ColorSpaceCIELab Comments=\"{bad}\" Name=\"{bad}\">{custom}{DATE}"
-             f"{light}{texts(L='1', A='2', B='3')}</Vyr:ColorSpaceCIELab>")
-    points = spectrum(specification=conditions("Spectral", spectrum="Custom").replace(
-        "<Vyr:Spectrum>", f"<Vyr:Spectrum CustomTypeName=\"{bad}\">"))
-    generic = element("FunctionGeneric", texts(Result="1", Name=bad) + element(
-        "Parameters", texts(Name=bad) + element("ValueChoice", texts(String=bad))))
-    record = element("ColorQualityControl", DATE + element("StandardAndMeasurement", element(
-        "Measurement", device().replace("Optics", bad) + color(bad, srgb("0", "0", "0")) + generic) + element(
-            "Standard", device() + color(bad, srgb("1", "1", "1")) + tolerance(bad, generic, "2"))),
-        Name=bad, Description=bad)
-    axis = value("Generic",
-                 element("Axis", texts(AxisName=bad) + element("AxisValueChoice", texts(AxisStringValue=bad))),
-                 unknown("Generic"), Name=bad)
-    mix = recipe().replace("Rubine", bad).replace("0042", bad)
-    colors = color(bad, named, points, axis, mix, UniqueID=bad, Comments=bad, ColorNumber=bad)
-    return document(palette(bad, color_set(bad, colors)) + record, creator=bad)
+    text = re.sub(rf"(<Vyr:({TEXTS})>)[^<]{{2,}}", rf"\g<1>{bad}", full())
+    return re.sub(rf'( ({NAMES})=")[^"]*', rf"\g<1>{bad}", text)
 
 
 def large(count):
