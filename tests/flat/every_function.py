@@ -5,7 +5,7 @@
 
     every_function.py > Every.cs
 
-What a setter took must come back from its getter, what is set must be set, and a null must be reported in its words.
+A code must be one, what makes an object must make it, and a null must be reported in its words.
 """
 
 import re
@@ -124,17 +124,7 @@ class Calls:
             yield f"{{ IntPtr r = {text}; Check(r != IntPtr.Zero, {what}); VyrModule_FreeString(r); }}"
         elif BOOLEAN.search(made.stem):
             yield f"{{ int r = {text}; Check(r == 0 || r == 1, {what}); }}"
-        elif match := re.match(rf"(CSharp_{owner}_)set_(\w+)$", made.stem):
-            value, names = arguments[made.parameters[-1][1]], {f.stem for f in self.groups[owner]}
-            index = ", 0" if "index" in arguments else ""
-            yield f"{{ int r = {text}; Check(Code(r), {what});"
-            if f"{match[1]}get_{match[2]}" in names and made.parameters[-1][0] != "void*":
-                yield f"  if (r == 0) Check({match[1]}get_{match[2]}(self{index}) == {value}, {what});"
-            if f"{match[1]}isset_{match[2]}" in names:
-                yield f"  if (r == 0) Check({match[1]}isset_{match[2]}(self) == 1, {what}); }}"
-            else:
-                yield "}"
-        elif re.match(r"CSharp_\w+_(append|insert|marshal|unmarshal)_", made.stem):
+        elif re.match(r"CSharp_\w+_(set|append|insert|marshal|unmarshal)_", made.stem):
             yield f"Check(Code({text}), {what});"
         else:
             yield f"Check({text}.ToString() != null, {what});"

@@ -12,6 +12,11 @@ root=$1
 work=$(mktemp -d)
 trap 'rm -rf "$work"' EXIT
 fail() { echo "check_release.sh: $*" >&2; exit 1; }
+# refused VERSION REASON WHAT
+refused() {
+    if scripts/release.sh "$1" --prepare 2> "$work/refusal"; then fail "$3"; fi
+    grep --quiet "$2" "$work/refusal" || fail "refused for another reason: $(cat "$work/refusal")"
+}
 
 [[ -e $root/.git ]] || { echo "these sources are no clone"; exit 77; }
 mkdir "$work/clone"
@@ -37,13 +42,10 @@ git tag --delete "v$current" > /dev/null
 git reset --quiet --hard "$before"
 
 sed -i 's/^## \[Unreleased\]$/&\n\n- A line of this test/' CHANGELOG.md
-if scripts/release.sh 9.8.7 --prepare 2> "$work/refusal"; then fail "a work tree with changes is released"; fi
-grep --quiet "has changes" "$work/refusal" || fail "refused for another reason: $(cat "$work/refusal")"
+refused 9.8.7 "has changes" "a work tree with changes is released"
 git commit --all --quiet --message "Go on"
-if scripts/release.sh "$current" --prepare 2> "$work/refusal"; then fail "a line is left unreleased"; fi
-grep --quiet "something under" "$work/refusal" || fail "refused for another reason: $(cat "$work/refusal")"
-if scripts/release.sh 0.0.1 --prepare 2> "$work/refusal"; then fail "an older version is released"; fi
-grep --quiet "does not come behind" "$work/refusal" || fail "refused for another reason: $(cat "$work/refusal")"
+refused "$current" "something under" "a line is left unreleased"
+refused 0.0.1 "does not come behind" "an older version is released"
 
 scripts/release.sh 9.8.7 --prepare
 [[ -z $(git status --porcelain) ]] || fail "changes are left behind"
@@ -54,6 +56,5 @@ left=$(git grep --fixed-strings --line-number -e "VERSION $current" -e "\"$curre
     -e "libvyr${current%.*}" -e "libvyr.so.${current%.*}" -- ':!CHANGELOG.md' ':!tests' || true)
 [[ -z $left ]] || fail "the former version is left:"$'\n'"$left"
 [[ $(sed -n '/^## \[Unreleased\]/,/^## \[9/{/^## /d;/./p}' CHANGELOG.md) == "" ]] || fail "notes stay unreleased"
-if scripts/release.sh 9.8.8 --prepare 2> "$work/refusal"; then fail "a release without notes is made"; fi
-grep --quiet "nothing under" "$work/refusal" || fail "refused for another reason: $(cat "$work/refusal")"
+refused 9.8.8 "nothing under" "a release without notes is made"
 echo "released 9.8.7 from $current"
