@@ -332,23 +332,6 @@ TEST(Probes, LookAndRewind) {
     }
 }
 
-TEST(Stacks, KeepNamesOneBehindTheOther) {
-    c_string_stack stack;
-    EXPECT_EQ(stack.get_depth(), 0U);
-    const c_string_stack_node outer(stack, "outer");
-    const std::size_t size = stack.get_stack_size();
-    {
-        const std::string long_name(5000, 'x');
-        const c_string_stack_node inner(stack, long_name);
-        EXPECT_TRUE(inner == long_name);
-        EXPECT_TRUE(outer == "outer");
-        EXPECT_TRUE(outer != "oute");
-        EXPECT_EQ(stack.get_depth(), 2U);
-    }
-    EXPECT_EQ(stack.get_stack_size(), size);
-    EXPECT_STREQ(outer.get_str(), "outer");
-}
-
 TEST(Lists, AreSplitAtWhiteSpace) {
     c_xml_list_tokeniser list("  a\tbc\n\r\xC3\xA9 ");
     std::string item;
@@ -360,22 +343,6 @@ TEST(Lists, AreSplitAtWhiteSpace) {
     list.set("x");
     EXPECT_TRUE(list.get(&item));
     EXPECT_EQ(item, "x");
-}
-
-TEST(Files, AreReadThroughTheirReader) {
-    const std::string document = "<a>" + std::string(600, 'x') + "</a>";
-    const c_scratch_file scratch(document);
-    c_xml_reader_file reader(scratch.k_name);
-    EXPECT_TRUE(reader.is_open());
-    elmx_error error = ELMX_OK;
-    bool is_empty = false;
-    reader.get_element_event(nullptr, &error, &reader.m_name);
-    EXPECT_TRUE(reader.get_simple_type_value("a", ELMX_WS_PRESERVE, &reader.m_value, &error, &is_empty));
-    EXPECT_EQ(reader.m_value.size(), 600U);
-    c_xml_reader_file missing(u"no such file");
-    EXPECT_FALSE(missing.is_open());
-    missing.get_element_event(nullptr, &error, &missing.m_name);
-    EXPECT_EQ(error, ELMX_UNEXPECTED_END_OF_MESSAGE);
 }
 
 }  // namespace

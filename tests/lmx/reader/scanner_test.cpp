@@ -352,33 +352,6 @@ TEST(Skipping, MatchesTags) {
     }
 }
 
-TEST(Skipping, FindsTheEndOfATag) {
-    const struct {
-        std::string rest;
-        bool result;
-        int is_empty;  // -1: untouched
-        const char* reports;
-    } cases[] = {
-        {">", true, 0, ""},
-        {" b='/>' c=\"'/\">", true, 0, ""},
-        {"/>", true, 1, ""},
-        {" / \n >", true, 1, ""},
-        {"/ab>", false, 1, "1/12@1:Illegal character(s) after / at end of tag - a;"},
-        {"/ ", true, 1, ""},
-        {" b='", false, -1, ""},
-        {"", false, -1, ""},
-    };
-    for (const auto& row : cases) {
-        s_scanner scanner(' ' + row.rest);  // a first character settles the encoding
-        scanner.xml.get();
-        bool is_empty = row.is_empty != 1;
-        const bool before = is_empty;
-        EXPECT_EQ(scanner.xml.move_to_start_tag_end(&is_empty), row.result) << row.rest;
-        EXPECT_EQ(is_empty, row.is_empty < 0 ? before : row.is_empty == 1) << row.rest;
-        EXPECT_EQ(scanner.reports.m_log, row.reports) << row.rest;
-    }
-}
-
 TEST(Wildcards, AreCopiedAsText) {
     const struct {
         std::string document;

@@ -77,34 +77,30 @@ void expect_order(const c_big_int& value, const std::string& text, int sign) {
 }
 
 TEST(BigInt, ComparesWithTextOfAnyLength) {
-    const struct {
-        const char* value;
-        const char* text;
-        int sign;
-    } cases[] = {{"0", "0", 0},
-                 {"0", "-0", 0},
-                 {"0", "-000", 0},
-                 {"0", "+0", 0},
-                 {"0", "7", -1},
-                 {"0", "-7", 1},
-                 {"7", "+007", 0},
-                 {"7", "-7", 1},
-                 {"7", "0", 1},
-                 {"7", "-0", 1},
-                 {"-7", "-007", 0},
-                 {"-7", "-8", 1},
-                 {"-7", "-6", -1},
-                 {"-7", "-10", 1},
-                 {"-7", "-0", -1},
-                 {"-7", "0", -1},
-                 {"2147483647", "2147483647", 0},
-                 {"2147483647", "99999999999999999999", -1},
-                 {"2147483647", "-99999999999999999999", 1},
-                 {"-2147483648", "-2147483649", 1},
-                 {"99", "100", -1},
-                 {"2", "1", 1},
-                 {"99999999999999999999", "2147483647", 1}};
-    for (const auto& row : cases) expect_order(c_big_int(row.value), row.text, row.sign);
+    const char* const ascending[] = {"-99999999999999999999",
+                                     "-2147483649",
+                                     "-2147483648",
+                                     "-10",
+                                     "-8",
+                                     "-7",
+                                     "-6",
+                                     "0",
+                                     "2",
+                                     "7",
+                                     "99",
+                                     "100",
+                                     "2147483647",
+                                     "99999999999999999999"};
+    for (std::size_t i = 0; i < std::size(ascending); ++i) {
+        for (std::size_t k = 0; k < std::size(ascending); ++k) {
+            expect_order(c_big_int(ascending[i]), ascending[k], static_cast<int>(i) - static_cast<int>(k));
+        }
+    }
+    for (const char* const zero : {"-0", "-000", "+0"}) {
+        for (const int value : {-7, 0, 7}) expect_order(value, zero, value);
+    }
+    expect_order(7, "+007", 0);
+    expect_order(-7, "-007", 0);
 }
 
 TEST(BigInt, NullIsZeroAndNothingEqualsTheEmptyText) {

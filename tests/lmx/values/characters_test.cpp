@@ -26,20 +26,6 @@ TEST(Characters, ClassesAnswerAsTheCLibraryDoesAndNeverOutsideAscii) {
     }
 }
 
-TEST(Cursor, DecimalsCountTheirPointButNotAlone) {
-    const struct {
-        const char* text;
-        std::size_t count;
-        const char* rest;
-    } cases[] = {{"5", 1, ""},     {"5.", 2, ""}, {".5", 2, ""},   {"12.50x", 5, "x"}, {".", 0, ""},
-                 {".e5", 0, "e5"}, {"", 0, ""},   {"-1", 0, "-1"}, {"1.2.3", 3, ".3"}};
-    for (const auto& row : cases) {
-        const char* cursor = row.text;
-        EXPECT_EQ(lmx::skip_decimal(&cursor), row.count) << row.text;
-        EXPECT_STREQ(cursor, row.rest) << row.text;
-    }
-}
-
 TEST(Cursor, SecondsAddUpInSinglePrecision) {
     float seconds = -1.0F;
     const char* cursor = "x";
