@@ -14,9 +14,7 @@ namespace {
 
 /// Past the streams: standard error is tied to standard output, which makes way for itself by ending the line, and a
 /// line that is about to be shown would wait for its own end.
-void write_status(const std::string& line) {
-    system::write(system::k_errors, line.data(), line.size());
-}
+void write_status(const std::string& line) { system::write(system::k_errors, line.data(), line.size()); }
 
 }  // namespace
 
