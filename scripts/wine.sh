@@ -61,7 +61,9 @@ if [[ $session == true ]]; then
     in_guest "$wine" "$@"
     exit
 fi
-# wine's own processes are started here, with no output: they outlive the program and would hold its pipe open.
+# wine's own processes are started here, with no output: they outlive the program and would hold its pipe open. Nor may
+# they end while no program runs, or the next one starts them anew.
+in_guest wineserver --persistent > /dev/null 2>&1 < /dev/null || true
 in_guest "$wine" wineboot > /dev/null 2>&1 < /dev/null
 code=0
 if [[ ${1:-} == --session ]]; then
