@@ -211,18 +211,19 @@ static void stacks(void) {
     function = find("CSharp_Vyr_writeString", 4);
     for (unsigned offset = 0; offset < 16; offset += 4) {
         void* result = NULL;
-        unsigned before = 0, after = 0;
+        unsigned before = 0, after = 0, down = offset;
         __asm__ volatile(
             "movl %%esp, %%ebx\n\t"
             "andl $-16, %%esp\n\t"
-            "subl %[offset], %%esp\n\t"
+            "subl %[down], %%esp\n\t"
             "movl %%esp, %[before]\n\t"
             "pushl %[document]\n\t"
             "call *%[function]\n\t"
             "movl %%esp, %[after]\n\t"
             "movl %%ebx, %%esp\n\t"
-            : "=&a"(result), [before] "=&S"(before), [after] "=&D"(after)
-            : [offset] "r"(offset), [document] "m"(document), [function] "m"(function)
+            : "=&a"(result), [before] "=&S"(before), [after] "=&D"(after), [down] "+c"(down) /* the callee's to change
+                                                                                              */
+            : [document] "m"(document), [function] "m"(function)
             : "ebx", "edx", "memory", "cc");
         CHECK(before == after && result != NULL);
         CSharp_delete_XMLDocumentResult(result);
