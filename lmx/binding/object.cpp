@@ -316,7 +316,7 @@ void* choose(const s_class& type, const s_item& alternative, void* object) {
     if (choice.chosen != number || (alternative.type != nullptr && choice.object == nullptr)) {
         release_choice(type, object);
         // What a caller may have another object take the place of, he deletes himself.
-        choice.is_adopted = !alternative.factory.empty();
+        choice.is_adopted = alternative.type != nullptr && !alternative.factory.empty();
         if (choice.is_adopted) {
             choice.object = alternative.type->operations->create();
         } else if (lies_in_slot(alternative)) {
