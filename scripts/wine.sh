@@ -63,6 +63,7 @@ if [[ $session == true ]]; then
 fi
 # wine's own processes are started here, with no output: they outlive the program and would hold its pipe open. Nor may
 # they end while no program runs, or the next one starts them anew.
+trap 'in_guest wineserver --kill > /dev/null 2>&1 < /dev/null || true' EXIT
 in_guest wineserver --persistent > /dev/null 2>&1 < /dev/null || true
 in_guest "$wine" wineboot > /dev/null 2>&1 < /dev/null
 code=0
@@ -72,5 +73,4 @@ if [[ ${1:-} == --session ]]; then
 else
     in_guest "$wine" "$@" || code=$?
 fi
-in_guest wineserver --kill > /dev/null 2>&1 < /dev/null || true
 exit "$code"
