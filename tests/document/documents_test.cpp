@@ -2,11 +2,13 @@
 // SPDX-License-Identifier: Apache-2.0
 
 /// Whole documents: those in `valid` come back byte for byte by every road, those in `invalid` fail with the code,
-/// the item and the line that the table beside them gives. Adding a case is adding a file.
+/// the item and the line that the table beside them gives, and with the reports of `lines.txt`, a line for each
+/// fault. Adding a case is adding a file and its lines.
 
 #include <gtest/gtest.h>
 
 #include <fstream>
+#include <map>
 #include <sstream>
 
 #include "schema/Vyr.h"
@@ -48,8 +50,11 @@ TEST(Documents, ValidOnesComeBackByEveryRoad) {
 }
 
 TEST(Documents, InvalidOnesFailInTheirPlace) {
+    std::ifstream reports(k_documents / "invalid/lines.txt");
     std::ifstream table(k_documents / "invalid/expected.tsv");
     std::string line;
+    std::map<std::string, std::string> reported;
+    while (std::getline(reports, line)) reported[line.substr(0, line.find(':'))] += line + '\n';
     std::getline(table, line);
     std::size_t rows = 0;
     while (std::getline(table, line)) {
@@ -59,8 +64,14 @@ TEST(Documents, InvalidOnesFailInTheirPlace) {
         int code = 0;
         int line_no = 0;
         fields >> file >> code >> item >> line_no;
-        c_xml_reader_file reader((k_documents / "invalid" / file).string().c_str());
+        const std::string bytes = bytes_of(k_documents / "invalid" / file);
+        c_xml_reader_memory reader(bytes.data(), bytes.size());
         Vyr document;
+        const auto report =
+            loadMemoryWithReport(document, bytes.data(), bytes.size(), {.collect = true, .name = file});
+        EXPECT_EQ(report.toString(), reported[file]);
+        EXPECT_EQ(report.getCode(), code);
+        document.reset();
         EXPECT_EQ(document.unmarshal(reader), code);
         EXPECT_EQ(reader.get_error_item_name(), item);
         EXPECT_EQ(reader.get_line_no(), line_no);

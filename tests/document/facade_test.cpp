@@ -97,12 +97,6 @@ TEST_F(Facade, AContainerHoldsThePlainDocumentAndLeavesNoOther) {
     ASSERT_TRUE(archive.OpenEntry(0));
     inside.resize(archive.ReadEntry(inside.data(), inside.size()));
     EXPECT_EQ(inside, plain);
-    Vyr back;
-    ASSERT_EQ(back.loadFile(path("a.vyrz")), ELMX_OK);
-    EXPECT_EQ(back.writeString().getXmlDocument(), document.writeString().getXmlDocument());
-    EXPECT_EQ(back.loadFile(path("a.vyrz")), ELMX_OK);
-    EXPECT_EQ(back.get_Preamble().get_Header().size_ChangeHistory(), 2U);
-
     EXPECT_EQ(Vyr().writeFile(path("b.vyrz")), ELMX_OCCURS_ERROR_ON_MARSHAL);
     EXPECT_FALSE(is_there("b.vyr") || is_there("b.vyrz"));
 }
@@ -180,18 +174,11 @@ TEST_F(Facade, FilesThatCantBeOpened) {
     EXPECT_EQ(document.writeFile(path("missing/a.vyr")), ELMX_OK);
     EXPECT_EQ(document.writeFile(not_text), ELMX_OK);
     EXPECT_TRUE(fs::is_empty(m_folder));
-    EXPECT_EQ(document.marshal((m_folder / "missing/a.vyr").string().c_str()), ELMX_NO_FILE);
-    elmx_error error = ELMX_OK;
-    const Vyr from_file((m_folder / "missing.vyr").string().c_str(), &error);
-    EXPECT_EQ(error, ELMX_NO_FILE);
 }
 
 TEST_F(Facade, AFailedLoadKeepsWhatWasReadAndASecondLoadAppends) {
-    const std::u16string text =
-        u"<Vyr:Vyr xmlns:Vyr='http://vyrgraph.com/v2'><Vyr:Preamble><Vyr:Header><Vyr:Creator>c"
-        u"</Vyr:Creator><Vyr:CreatorVersion>v</Vyr:CreatorVersion><Vyr:ChangeHistory>"
-        u"2024-05-01T09:30:00Z</Vyr:ChangeHistory><Vyr:Purpose>p</Vyr:Purpose></Vyr:Header>"
-        u"</Vyr:Preamble><Vyr:Palette PaletteName='half'><Vyr:Oops/></Vyr:Palette></Vyr:Vyr>";
+    std::u16string text = minimal_document().writeString().getXmlDocument();
+    text.insert(text.find(u"</Vyr:Vyr>"), u"<Vyr:Palette PaletteName='half'><Vyr:Oops/></Vyr:Palette>");
     Vyr document;
     EXPECT_EQ(document.loadString(text), ELMX_MANDATORY_ELEMENT_MISSING);
     EXPECT_EQ(document.loadString(text), ELMX_MANDATORY_ELEMENT_MISSING);
