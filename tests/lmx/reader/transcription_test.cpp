@@ -132,7 +132,7 @@ std::string document(std::mt19937& random) {
     std::string text = random() % 4 != 0 ? "<" : "";
     for (std::size_t count = random() % 30; count > 0; --count)
         text += k_fragments[random() % std::size(k_fragments)];
-    switch (random() % 6) {
+    switch (random() % 9) {
         case 0:
             return widen(text, false) + (random() % 2 == 0 ? "\x3D\xD8\x00\xDE\x28\x20"s : "\x3D"s);
         case 1:
@@ -140,6 +140,12 @@ std::string document(std::mt19937& random) {
                    (random() % 2 == 0 ? "\xD8\x3D\xDE\x00\x20\x28"s : "\xD8\x3D\x00x"s);
         case 2:
             return "\xEF\xBB\xBF" + text;
+        case 3:
+            return (random() % 2 == 0 ? "\xFF\xFE"s : "\xFF"s) + widen(text, false);
+        case 4:
+            return widen(text, true) + "\x00\x85"s;
+        case 5:
+            return (random() % 2 == 0 ? "\xEF\xBB" : "\xFE\xFF") + text;
         default:
             return text;
     }
