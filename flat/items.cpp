@@ -14,6 +14,7 @@
 #include "flat/generated/vyr_flat.h"
 #include "lmx/binding/any_info.h"
 #include "lmx/binding/object.h"
+#include "lmx/binding/storage.h"
 #include "lmx/values/unicode.h"
 #include "schema/generated/class_list.h"
 
@@ -57,20 +58,10 @@ known_items make_known_items() {
 
 const s_item& row_of(void* item) { return *as<s_known_item>(item).row; }
 
-template <class T>
-T& part(void* object, std::uint32_t offset) {
-    return *reinterpret_cast<T*>(static_cast<std::byte*>(object) + offset);
-}
-
 /// A column is one number of each entry of a list.
 bool is_column(const s_item& list, const s_item& item) {
     return list.kind == item_kind::child_list && item.value == lmx::value_kind::number &&
            (item.kind == item_kind::attribute || item.kind == item_kind::element || item.kind == item_kind::content);
-}
-
-lmx::elmx_error check(const lmx::s_facets& facets, double value) {
-    if (!facets.setter_skips_minimum && facets.is_below(value)) return lmx::ELMX_VALUE_BELOW_MIN;
-    return facets.is_above(value) ? lmx::ELMX_VALUE_EXCEEDS_MAX : lmx::ELMX_OK;
 }
 
 /// Appends or removes entries at the end; what can't be appended leaves the list as it was.
@@ -104,18 +95,17 @@ VYR_FLAT(void*) VyrModule_FindItem(const char* class_name, const char* item) {
 
 VYR_FLAT(void*) VyrModule_GetPart(void* self, void* item) {
     const s_item& row = row_of(item);
-    if (row.flag == lmx::k_no_flag || row.type == nullptr || !part<bool>(self, row.flag)) return nullptr;
-    return row.kind == item_kind::optional_child ? part<lmx::c_optional_child_base>(self, row.offset).object()
-                                                 : &part<std::byte>(self, row.offset);
+    if (row.type == nullptr || !is_set(row, self)) return nullptr;
+    return const_cast<void*>(child_of(row, self));
 }
 
 VYR_FLAT(std::uint32_t)
 VyrModule_GetDoubles(void* self, void* list, void* item, double* values, std::uint32_t capacity) {
     const s_item &rows = row_of(list), &row = row_of(item);
     if (!is_column(rows, row)) return 0;
-    const auto& entries = part<lmx::c_list_base>(self, rows.offset);
+    const auto& entries = list_of(rows, self);
     const std::size_t count = std::min<std::size_t>(entries.size(), capacity);
-    for (std::size_t i = 0; i < count; ++i) values[i] = part<double>(entries.entry(i), row.offset);
+    for (std::size_t i = 0; i < count; ++i) values[i] = lmx::member<double>(entries.entry(i), row.offset);
     return static_cast<std::uint32_t>(entries.size());
 }
 
@@ -125,10 +115,10 @@ VyrModule_SetDoubles(void* self, void* list, void* item, const double* values, s
         +[](void* s, void* l, void* i, const double* v, std::uint32_t n) -> lmx::elmx_error {
             const s_item &rows = row_of(l), &row = row_of(i);
             if (!is_column(rows, row)) return lmx::ELMX_USER_DEFINED_1;
-            for (std::uint32_t k = 0; k < n && row.facets != nullptr; ++k) {
-                if (const lmx::elmx_error code = check(*row.facets, v[k]); code != lmx::ELMX_OK) return code;
+            for (std::uint32_t k = 0; k < n; ++k) {
+                if (const lmx::elmx_error code = check_item(row, v[k]); code != lmx::ELMX_OK) return code;
             }
-            auto& entries = part<lmx::c_list_base>(s, rows.offset);
+            auto& entries = lmx::member<lmx::c_list_base>(s, rows.offset);
             resize(&entries, rows.type->operations->stored, n);
             for (std::uint32_t k = 0; k < n; ++k)
                 lmx::set_item(*as<s_known_item>(i).owner, row, entries.entry(k), v[k]);
@@ -141,7 +131,7 @@ VYR_FLAT(char16_t*) VyrModule_GetMarkup(void* self, void* item, std::uint32_t in
     return guarded(
         +[](void* s, void* i, std::uint32_t n) -> char16_t* {
             if (row_of(i).kind != item_kind::any) return nullptr;
-            const auto& entries = part<lmx::c_list_base>(s, row_of(i).offset);
+            const auto& entries = list_of(row_of(i), s);
             if (n >= entries.size()) return nullptr;
             return new_string(lmx::convert_to_wide(as<lmx::c_any_info>(entries.entry(n)).get_value()));
         },

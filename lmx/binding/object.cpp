@@ -287,6 +287,9 @@ elmx_error set_item(const s_class& type, const s_item& item, void* object, const
 elmx_error set_item(const s_class& type, const s_item& item, void* object, const c_binary& value) {
     return set_simple(type, item, object, value);
 }
+elmx_error check_item(const s_item& item, double value) {
+    return first_fault(c_set_checks<double>(item.facets, value));
+}
 
 elmx_error set_entry(const s_item& item, void* object, std::size_t index, const std::u16string& value) {
     return set_entry_value(item, object, index, value);

@@ -43,8 +43,10 @@ VYR_EXPORT elmx_error set_item(const s_class& type, const s_item& item, void* ob
 VYR_EXPORT elmx_error set_item(const s_class& type, const s_item& item, void* object, std::uint8_t value);
 VYR_EXPORT elmx_error set_item(const s_class& type, const s_item& item, void* object, const c_datetime& value);
 VYR_EXPORT elmx_error set_item(const s_class& type, const s_item& item, void* object, const c_binary& value);
+/// What setting this value would return.
+elmx_error check_item(const s_item& item, double value);
 
-/// The same for an entry of a repeating simple item. An index at or beyond the end appends.
+/// As `set_item`, for an entry of a repeating simple item. An index at or beyond the end appends.
 VYR_EXPORT elmx_error set_entry(const s_item& item, void* object, std::size_t index, const std::u16string& value);
 VYR_EXPORT elmx_error set_entry(const s_item& item, void* object, std::size_t index, const c_datetime& value);
 /// Puts a new entry before `index`, or at the end if `index` is at or beyond it.

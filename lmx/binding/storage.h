@@ -1,7 +1,8 @@
 // Copyright 2026 The Vyr Authors
 // SPDX-License-Identifier: Apache-2.0
 
-/// Access to an object's storage through the offsets of its rows; for the functions of this folder only.
+/// Access to an object's storage through the offsets of its rows: for this folder, and for what serves hosts of other
+/// languages by walking the rows.
 
 #pragma once
 
