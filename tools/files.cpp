@@ -72,10 +72,14 @@ void give_text(int descriptor, const text_taker& take) {
     }
 }
 
+/// Whether the system refused a file, in place of a document that has a fault.
+bool is_of_system(const DocumentReport& report) {
+    return report.getCode() == lmx::ELMX_NO_FILE || report.getCode() == lmx::ELMX_USER_DEFINED_1;
+}
+
 /// Of a container that was read: the text of its first entry, as far as that can be read.
 void give_entry(const std::string& file, const DocumentReport& report, const text_taker& take) {
-    const bool is_read = report.getCode() != lmx::ELMX_NO_FILE && report.getCode() != lmx::ELMX_USER_DEFINED_1;
-    if (!take || !is_read) return;
+    if (!take || is_of_system(report)) return;
     try {
         CZipContainer archive;
         archive.OpenContainer(lmx::convert_to_wide(file), zip_open_read);
@@ -261,8 +265,7 @@ exit_code explain_failed_write(const DocumentReport& report, std::string* reason
     }
     const std::size_t more = report.getTotalCount() - report.getFaultCount();
     if (more > 0) *reasons += '\n' + std::to_string(more) + " more";
-    const bool is_of_system = report.getCode() == lmx::ELMX_NO_FILE || report.getCode() == lmx::ELMX_USER_DEFINED_1;
-    return is_of_system ? exit_usage_or_file : exit_document_fails;
+    return is_of_system(report) ? exit_usage_or_file : exit_document_fails;
 }
 
 exit_code read_text(const std::string& file, c_long_text& text, std::size_t* size) {
