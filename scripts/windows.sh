@@ -198,7 +198,7 @@ make_package() {
     version=$(sed -n 's/^project(vyr VERSION \([0-9.]*\) .*/\1/p' CMakeLists.txt)
     stage=$home/package$bits/vyr-$version-windows$bits
     rm -rf "$home/package$bits"
-    for component in runtime development tool; do
+    for component in runtime development tool documentation; do
         cmake --install "$build" --prefix "$stage" --component "$component" --strip > /dev/null
     done
     # The compiler's DLLs come with all that a debugger could want.
@@ -209,7 +209,12 @@ make_package() {
     for part in libcli11-dev nlohmann-json3-dev; do
         cp "/usr/share/doc/$part/copyright" "$stage/licenses/${part%-dev}.txt"
     done
-    cp docs/windows.md "$stage/README.md"
+    cat > "$stage/README.md" << EOF
+# Vyr $version for Windows, $bits bits
+
+[What lies where, and how it is used](share/doc/vyr/docs/windows.md) from C++, C and C#; [the command](share/doc/vyr/docs/command.md),
+\`bin/vyr.exe\`; [all guides](share/doc/vyr/docs/README.md).
+EOF
     rm -f "$build"/*.zip
     local target=$PWD/$build/vyr-$version-windows$bits.zip
     (cd "$home/package$bits" && cmake -E tar cf "$target" --format=zip -- *)
