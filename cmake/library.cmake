@@ -16,6 +16,11 @@ target_compile_definitions(vyr PRIVATE VYR_BUILDING)
 set(vyr_libraries LibXml2::LibXml2 ZLIB::ZLIB BZip2::BZip2)
 target_link_libraries(vyr PRIVATE ${vyr_libraries} $<BUILD_INTERFACE:vyr_warnings>)
 
+if(WIN32 AND VYR_IS_X86_32)
+  # The usual time_t there ends in 2038. Its headers name none, and programs keep the one that the compiler's thread
+  # library knows: with the wider one, waits with a time limit would not wait.
+  target_compile_definitions(vyr PRIVATE __MINGW_USE_VC2005_COMPAT)
+endif()
 if(WIN32 AND NOT BUILD_SHARED_LIBS)
   target_compile_definitions(vyr PUBLIC VYR_STATIC)
 endif()

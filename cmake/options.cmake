@@ -30,9 +30,8 @@ check_cxx_source_compiles("#if !defined(__i386__)\n#error\n#endif\nint main() {}
 if(VYR_IS_X86_32)
   add_compile_options(-msse2 -mfpmath=sse)
   if(WIN32)
-    # Callers there keep the stack at four bytes only, and the system's own form of time_t ends in 2038.
+    # Callers there keep the stack at four bytes only.
     add_compile_options(-mstackrealign)
-    add_compile_definitions(__MINGW_USE_VC2005_COMPAT)
   endif()
 endif()
 

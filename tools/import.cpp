@@ -4,8 +4,6 @@
 /// `vyr import`: a document of a table whose headers are those that `vyr list --csv` writes.
 
 #include <algorithm>
-#include <chrono>
-#include <ctime>
 #include <filesystem>
 #include <iostream>
 #include <map>
@@ -15,6 +13,7 @@
 #include <utility>
 #include <vector>
 
+#include "lmx/values/datetime.h"
 #include "tools/commands.h"
 #include "tools/csv.h"
 #include "tools/document_json.h"
@@ -37,13 +36,6 @@ constexpr std::pair<std::string_view, const char*> k_usual[] = {{"ColorDepth", "
 /// Columns that say where a value came from and are nothing that a new document could hold.
 constexpr std::string_view k_ignored[] = {csv_header::file, csv_header::in, k_backing};
 
-std::string now() {
-    const std::time_t seconds = std::chrono::system_clock::to_time_t(std::chrono::system_clock::now());
-    std::string text(sizeof "2026-05-01T12:00:00Z", '\0');
-    text.resize(std::strftime(text.data(), text.size(), "%Y-%m-%dT%H:%M:%SZ", std::gmtime(&seconds)));
-    return text;
-}
-
 /// "ColorSpaceCIELab", and "/ColorSpace/" ahead of its place among a colour's values.
 std::string space_name(std::string_view space) { return std::string(k_space_prefix).append(space); }
 std::string values_pointer() { return std::string("/").append(k_space_prefix).append("/"); }
@@ -59,7 +51,7 @@ struct s_column {
 class c_import {
 public:
     c_import(const import_options& options, std::vector<s_csv_row> rows)
-        : m_options(options), m_rows(std::move(rows)), m_now(now()) {}
+        : m_options(options), m_rows(std::move(rows)), m_now(lmx::c_datetime::now().get_as_string()) {}
 
     exit_code run(com_vyrgraph_v2::Vyr& document) {
         if (m_rows.empty()) return complain_of(1, "column 1: a row of headers is expected"), exit_document_fails;

@@ -4,18 +4,9 @@
 /// Documents made to hurt: everything costs time in proportion to its size, and nothing recurses.
 
 #include <gtest/gtest.h>
+#include <time.h>
 
 #include <cstdint>
-
-#if defined(_WIN32)
-#if !defined(NOMINMAX)
-#define NOMINMAX
-#endif
-#define WIN32_LEAN_AND_MEAN
-#include <windows.h>
-#else
-#include <time.h>
-#endif
 
 #include "lmx/reader/xml_reader.h"
 #include "tests/lmx/reader/support.h"
@@ -34,22 +25,9 @@ protected:
 private:
     /// std::clock counts all that goes by on some systems.
     static std::int64_t processor_seconds() {
-#if defined(_WIN32)
-        // Its POSIX calls disagree about time_t where that is wider than a pointer.
-        FILETIME begin;
-        FILETIME end;
-        FILETIME kernel;
-        FILETIME user;
-        EXPECT_NE(GetProcessTimes(GetCurrentProcess(), &begin, &end, &kernel, &user), 0);
-        const auto ticks = [](FILETIME time) {
-            return std::int64_t{time.dwHighDateTime} << 32U | time.dwLowDateTime;
-        };
-        return (ticks(kernel) + ticks(user)) / 10'000'000;
-#else
         timespec now{};
         EXPECT_EQ(clock_gettime(CLOCK_PROCESS_CPUTIME_ID, &now), 0);
         return now.tv_sec;
-#endif
     }
     std::int64_t m_start = processor_seconds();
 };
