@@ -12,12 +12,12 @@ if(VYR_BUILD_TOOLS)
                                       $<TARGET_FILE:vyr_tool>)
 endif()
 
-# The fuzzers' corpora, once. `fuzz_calls` knows the flat functions by pointers of the one convention that others have.
+# The fuzzers' corpora, once.
 find_path(VYR_FUZZ_HEADERS fuzzer/FuzzedDataProvider.h)
 set(corpora ${PROJECT_BINARY_DIR}/corpus)
 add_test(NAME fuzz_corpora COMMAND ${Python3_EXECUTABLE} ${PROJECT_SOURCE_DIR}/fuzz/make_corpus.py ${corpora})
 set_tests_properties(fuzz_corpora PROPERTIES FIXTURES_SETUP corpora)
-foreach(subject archive document dtd events values)
+foreach(subject archive calls document dtd events values)
   if(VYR_FUZZ_HEADERS)
     add_executable(fuzz_${subject} ${PROJECT_SOURCE_DIR}/fuzz/${subject}.cpp ${PROJECT_SOURCE_DIR}/fuzz/once.cpp)
     target_link_libraries(fuzz_${subject} PRIVATE vyr::vyr vyr_warnings)
@@ -29,6 +29,10 @@ foreach(subject archive document dtd events values)
     vyr_skip_test(fuzz_${subject} "there is no fuzzer/FuzzedDataProvider.h, which comes with clang")
   endif()
 endforeach()
+if(TARGET fuzz_calls)
+  target_link_libraries(fuzz_calls PRIVATE vyr_flat)
+  include(${PROJECT_SOURCE_DIR}/fuzz/calls_table.cmake)
+endif()
 
 add_test(NAME guides_samples COMMAND doc_guides ${PROJECT_SOURCE_DIR}/examples/css-colors.vyr
          WORKING_DIRECTORY ${PROJECT_BINARY_DIR}/docs/samples)

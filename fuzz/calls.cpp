@@ -12,6 +12,7 @@
 #include <string>
 #include <vector>
 
+#include "flat/generated/vyr_flat.h"
 #include "fuzz/support.h"
 #include "schema/Vyr.h"
 
@@ -79,23 +80,12 @@ struct s_class {
     std::span<const s_call> calls;
 };
 
-// The declarations of the functions, `k_classes` and `k_texts`.
+// `k_classes` and `k_texts`.
 #include "calls_table.inc"
-
-extern "C" {
-void* CSharp_new_c_datetime__SWIG_2(const char* text);
-void CSharp_delete_c_datetime(void* self);
-void* CSharp_new_c_binary__SWIG_2(void* bytes, std::uint32_t size);
-void CSharp_delete_c_binary(void* self);
-void VyrModule_FreeString(void* text);
-void SWIGRegisterExceptionArgumentCallbacks_VyrModule(void (*argument)(const char*, const char*),
-                                                      void (*null)(const char*, const char*),
-                                                      void (*out_of_range)(const char*, const char*));
-}
 
 template <class Result, class... Arguments>
 Result call(t_function function, Arguments... arguments) {
-    return reinterpret_cast<Result (*)(Arguments...)>(function)(arguments...);
+    return reinterpret_cast<Result(VYR_FLAT_CALL*)(Arguments...)>(function)(arguments...);
 }
 
 /// Entries that a list may be grown to: enough for every way that a list's storage may go.
@@ -499,7 +489,7 @@ private:
     void* m_root = nullptr;  ///< where the last walk began
 };
 
-void report_null(const char* text, const char*) { fail("a null argument:", text); }
+void VYR_FLAT_CALL report_null(const char* text, const char*) { fail("a null argument:", text); }
 
 }  // namespace
 

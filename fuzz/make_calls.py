@@ -87,11 +87,10 @@ def main():
     plan = Plan(read_model(ROOT / "schema" / "vyr.xsd", ROOT / "schema" / "binding.toml"))
     classes = [made for made in plan.model.classes if not made.wrapper or made.is_document]
     numbers = {made.name: number for number, made in enumerate(classes)}
-    declarations, tables, records = [], [], []
+    tables, records = [], []
     for made in classes:
         functions = functions_of(plan, made)
         by_stem = {f.stem: f for f in functions}
-        declarations += [f"{f.result} {f.stem}({', '.join(kind for kind, _ in f.parameters)});" for f in functions]
         table = list(rows(made, functions, numbers))
         # A tuple of the class: its name, how it is made, copied and deleted, its calls.
         tables += [f"const s_call k_calls_of_{made.name}[] = {{", *table, "};"]
@@ -100,7 +99,7 @@ def main():
         records.append(f'    {{"{made.name}", {", ".join(made_by)}, k_calls_of_{made.name}}},')
     texts = sorted({text for kind in plan.model.simple_types for text in kind.enumeration})
     print("\n".join([
-        'extern "C" {', *declarations, "}", "", *tables, "", "const s_class k_classes[] = {", *records, "};", "",
+        *tables, "", "const s_class k_classes[] = {", *records, "};", "",
         f'constexpr int k_document = {numbers["Vyr"]};', "",
         "const char16_t* const k_texts[] = {", *(f'    u"{text}",' for text in texts), "};"]))
 
