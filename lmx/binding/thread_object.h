@@ -24,6 +24,8 @@ T& thread_object() {
             if (pthread_key_create(&key, [](void* object) { delete static_cast<T*>(object); }) != 0)
                 throw std::bad_alloc();
         }
+        // Threads may outlive the library; what ends their objects goes with it.
+        ~s_key() { pthread_key_delete(key); }
         pthread_key_t key{};
     };
     static const s_key own;
