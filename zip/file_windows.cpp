@@ -41,16 +41,17 @@ FILETIME to_file_time(std::time_t time) {
     return {static_cast<DWORD>(ticks), static_cast<DWORD>(ticks >> 32U)};
 }
 
-bool set_modified(const wchar_t* path, std::time_t modified) {
+/// Opens a file or folder, or what a link leads to, for its attributes, and hands it to a call. False if either
+/// fails.
+template <class t_call>
+bool with_attributes(const wchar_t* path, DWORD access, t_call call) {
     // With this flag folders can be opened as well.
-    const HANDLE file =
-        CreateFileW(path, FILE_WRITE_ATTRIBUTES, FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE, nullptr,
-                    OPEN_EXISTING, FILE_FLAG_BACKUP_SEMANTICS, nullptr);
+    const HANDLE file = CreateFileW(path, access, FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE, nullptr,
+                                    OPEN_EXISTING, FILE_FLAG_BACKUP_SEMANTICS, nullptr);
     if (file == INVALID_HANDLE_VALUE) return false;
-    const FILETIME time = to_file_time(modified);
-    const bool is_set = SetFileTime(file, nullptr, nullptr, &time) != 0;
+    const bool is_done = call(file) != 0;
     CloseHandle(file);
-    return is_set;
+    return is_done;
 }
 
 }  // namespace
@@ -78,8 +79,9 @@ bool truncate(int descriptor, std::int64_t size) { return _chsize_s(descriptor, 
 int close(int descriptor) { return _close(descriptor); }
 
 std::optional<s_file_status> get_status(const std::filesystem::path& path) {
-    WIN32_FILE_ATTRIBUTE_DATA data{};
-    if (GetFileAttributesExW(path.c_str(), GetFileExInfoStandard, &data) == 0) return std::nullopt;
+    BY_HANDLE_FILE_INFORMATION data{};
+    const auto ask = [&](HANDLE file) { return GetFileInformationByHandle(file, &data); };
+    if (!with_attributes(path.c_str(), FILE_READ_ATTRIBUTES, ask)) return std::nullopt;
     s_file_status status;
     status.is_directory = (data.dwFileAttributes & FILE_ATTRIBUTE_DIRECTORY) != 0;
     // What files and folders have on systems with modes, where nobody asks for more.
@@ -91,7 +93,9 @@ std::optional<s_file_status> get_status(const std::filesystem::path& path) {
 }
 
 bool set_status(const std::filesystem::path& path, std::uint32_t permissions, std::time_t modified) {
-    if (!set_modified(path.c_str(), modified)) return false;
+    const FILETIME time = to_file_time(modified);
+    const auto stamp = [&](HANDLE file) { return SetFileTime(file, nullptr, nullptr, &time); };
+    if (!with_attributes(path.c_str(), FILE_WRITE_ATTRIBUTES, stamp)) return false;
     const DWORD before = GetFileAttributesW(path.c_str());
     if (before == INVALID_FILE_ATTRIBUTES) return false;
     const bool is_writable = (permissions & 0200U) != 0;
