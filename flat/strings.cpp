@@ -10,6 +10,7 @@
 #include <cstdint>
 #include <cstdlib>
 #include <cstring>
+#include <limits>
 
 #include "flat/flat.h"
 #include "flat/generated/vyr_flat.h"
@@ -22,7 +23,6 @@
 #include <dlfcn.h>
 
 #include <atomic>
-#include <limits>
 #endif
 
 namespace flat {
@@ -31,12 +31,19 @@ std::u16string wide(const char16_t* text) { return text == nullptr ? std::u16str
 
 #if defined(_WIN32)
 
+namespace {
+// A length that the system's strings have no room for gives none.
+constexpr std::size_t k_longest = std::numeric_limits<UINT>::max();
+}  // namespace
+
 char16_t* new_string(std::u16string_view text) {
+    if (text.size() > k_longest) return nullptr;
     const auto* const units = reinterpret_cast<const OLECHAR*>(text.data());
     return reinterpret_cast<char16_t*>(SysAllocStringLen(units, static_cast<UINT>(text.size())));
 }
 
 char* new_string(std::string_view text) {
+    if (text.size() > k_longest) return nullptr;
     return reinterpret_cast<char*>(SysAllocStringByteLen(text.data(), static_cast<UINT>(text.size())));
 }
 
