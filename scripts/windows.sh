@@ -139,7 +139,9 @@ build_guest() {
         > "$log" 2>&1
     log=
     "${as_root[@]}" chroot "$guest" apt-get clean
-    finish "$guest" 1
+    # Where this folder is seen in there, by whoever runs programs.
+    "${as_root[@]}" mkdir -p "$guest$PWD"
+    "${as_root[@]}" touch "$guest/.made-1"
 }
 
 set_up_wine() {
@@ -160,7 +162,8 @@ import xml.etree.ElementTree as xml
 build = pathlib.Path(sys.argv[1])
 passed = failed = skipped = 0
 for test in xml.parse(build / "results.xml").getroot().iter("testcase"):
-    cases = build / "tests" / (test.get("name") + ".scratch") / "results.xml"
+    scratch = build / "tests" / (test.get("name") + ".scratch")
+    cases = scratch / "results.xml"
     if cases.exists():
         bad_before = failed
         for case in xml.parse(cases).getroot().iter("testcase"):
@@ -170,6 +173,9 @@ for test in xml.parse(build / "results.xml").getroot().iter("testcase"):
             skipped += is_skipped and not is_bad
             passed += not is_bad and not is_skipped
         failed += test.get("status") == "fail" and failed == bad_before
+    elif scratch.exists():
+        print(f"{test.get('name')}: it came to no results")
+        failed += 1
     else:
         failed += test.get("status") == "fail"
         skipped += test.get("status") in ("notrun", "disabled")

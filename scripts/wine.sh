@@ -24,7 +24,9 @@ elif [[ ${VYR_WINE_NAMESPACE:-} != "$bits" ]]; then
     [[ -d $home/wine$bits ]] || { echo "wine.sh: run 'scripts/windows.sh $bits test' first" >&2; exit 1; }
     as_root=()
     [[ $(id -u) -eq 0 ]] || as_root=(--map-root-user)
-    exec env VYR_WINE_NAMESPACE="$bits" unshare --mount "${as_root[@]}" "$0" "$bits" "$@"
+    # One at a time: the end of a session ends wine, and with it, without a word, what another one runs in it.
+    exec env VYR_WINE_NAMESPACE="$bits" flock --close "$home/wine$bits.lock" \
+        unshare --mount "${as_root[@]}" "$0" "$bits" "$@"
 else
     session=false
     mkdir -p "$home/full-disk"
@@ -62,9 +64,9 @@ if [[ $session == true ]]; then
     exit
 fi
 # wine's own processes are started here, with no output: they outlive the program and would hold its pipe open. Nor may
-# they end while no program runs, or the next one starts them anew.
+# they end while no program runs, or the next one starts them anew; minutes later they do, for sessions that are killed.
 trap 'in_guest wineserver --kill > /dev/null 2>&1 < /dev/null || true' EXIT
-in_guest wineserver --persistent > /dev/null 2>&1 < /dev/null || true
+in_guest wineserver --persistent=300 > /dev/null 2>&1 < /dev/null || true
 in_guest "$wine" wineboot > /dev/null 2>&1 < /dev/null
 code=0
 if [[ ${1:-} == --session ]]; then
