@@ -3,8 +3,8 @@
 # SPDX-License-Identifier: Apache-2.0
 #
 # Makes the NuGet package Vyr.<version>.nupkg of a build that has Vyr.dll: the assembly with its documentation, the
-# native library of this system, and those of this version's packages for Windows (scripts/windows.sh), if they were
-# made. NuGet itself isn't needed.
+# native library of this system, and those of this version's packages for Windows (scripts/windows.sh), with their
+# licences, if they were made of these sources. NuGet itself isn't needed.
 #
 #   scripts/nuget.sh [BUILD_FOLDER [TARGET_FOLDER]]      (without arguments: build/release, and into that)
 
@@ -24,12 +24,25 @@ mkdir -p lib/netstandard2.0 _rels
 cp "$build/csharp/Vyr.dll" "$build/csharp/Vyr.xml" lib/netstandard2.0/
 cp "$root/csharp/Vyr.nuspec" "$root/csharp/README.md" .
 
+is_current() {
+    [[ -e $1 ]] || return 1
+    [[ -z $(find "$root"/{lmx,schema,zip,document,flat} -name '*.[ch]*' -newer "$1" -print -quit) ]] && return
+    echo "nuget.sh: $1 is older than the sources, and left out" >&2
+    return 1
+}
+
 # system of NuGet, the name by which the assembly asks, file of the build
 while read -r system name file; do
     folder=runtimes/$system/native
     mkdir -p "$folder"
     # The library itself, under that name: packages hold no links.
-    if [[ -e $file ]]; then cp --dereference "$file" "$folder/$name"; else touch "$folder/_._"; fi
+    if [[ $system == linux-* ]] || is_current "$file"; then
+        cp --dereference "$file" "$folder/$name"
+        # Other libraries are inside those for Windows.
+        [[ $system == linux-* ]] || cp -r "${file%/bin/*}/licenses" "$folder"
+    else
+        touch "$folder/_._"
+    fi
 done << TABLE
 linux-x64 libVyrModule.so $build/libvyr.so
 win-x64 VyrModule.dll $windows/package64/vyr-$version-windows64/bin/self-contained/VyrModule.dll
@@ -45,6 +58,7 @@ cat > '[Content_Types].xml' << 'XML'
   <Default Extension="so" ContentType="application/octet" />
   <Default Extension="xml" ContentType="application/octet" />
   <Default Extension="md" ContentType="application/octet" />
+  <Default Extension="txt" ContentType="application/octet" />
   <Default Extension="_" ContentType="application/octet" />
 </Types>
 XML

@@ -24,12 +24,13 @@ package=$("$source/scripts/nuget.sh" "$build" "$work")
 [[ $package == "$work/Vyr.$version.nupkg" ]] || fail "the package is called $package"
 unzip -qt "$package" || fail "it is no sound archive"
 unzip -q "$package" -d package
-# Of Windows it has what was made for it before.
-for width in 32 64; do
-    made=$source/build/windows/package$width/vyr-$version-windows$width
-    [[ -e $made ]] && windows[width]=VyrModule.dll || windows[width]=_._
+# Of Windows it has what was made for it before, and then the licences of what is inside.
+for width in x64 x86; do
+    there=package/runtimes/win-$width/native
+    [[ -e $there/_._ || (-e $there/VyrModule.dll && -s $there/licenses/libxml2.txt && -s $there/licenses/gcc.txt) ]] ||
+        fail "the library for win-$width is there without what it needs"
 done
-diff <(cd package && find . -type f | LC_ALL=C sort) - << LIST || fail "> is missing, < is not in the list"
+diff <(cd package && find . -type f ! -path './runtimes/win-*' | LC_ALL=C sort) - << LIST || fail "> is missing, < is not in the list"
 ./README.md
 ./Vyr.nuspec
 ./[Content_Types].xml
@@ -37,8 +38,6 @@ diff <(cd package && find . -type f | LC_ALL=C sort) - << LIST || fail "> is mis
 ./lib/netstandard2.0/Vyr.dll
 ./lib/netstandard2.0/Vyr.xml
 ./runtimes/linux-x64/native/libVyrModule.so
-./runtimes/win-x64/native/${windows[64]}
-./runtimes/win-x86/native/${windows[32]}
 LIST
 xmllint --noout package/Vyr.nuspec 'package/[Content_Types].xml' package/_rels/.rels package/lib/netstandard2.0/Vyr.xml
 # Each kind of file has a type, and all that is said of the version is one word.
