@@ -57,7 +57,7 @@ void find_documents(const std::string& folder, std::vector<s_job>& jobs) {
             }
             entry.increment(refused);
         }
-        if (refused) jobs.push_back({current, refused.message()});
+        if (refused) jobs.push_back({current, reason(refused)});
         std::ranges::sort(files);
         for (std::string& file : files) jobs.push_back({std::move(file), {}});
         std::ranges::sort(folders, std::greater());
@@ -146,7 +146,7 @@ void run_all(const std::vector<s_job>& jobs, const check_options& options, Take 
             }
         });
     }
-    c_progress progress(jobs.size(), system::is_terminal(system::k_errors) && !options.quiet);
+    c_progress progress(jobs.size(), system::obeys_sequences(system::k_errors) && !options.quiet);
     for (std::size_t i = 0; i < jobs.size(); ++i) {
         std::unique_lock lock(mutex);
         const auto is_there = [&] { return results[i].has_value(); };

@@ -112,7 +112,7 @@ void read_regular(const std::string& file, int descriptor, Vyr& document, const 
     std::error_code refused;
     fs::create_symlink(fs::absolute(path_of(file), refused), link, refused);
     if (refused) {
-        reading.refusal = refused.message();
+        reading.refusal = reason(refused);
         return;
     }
     reading.report = com_vyrgraph_v2::loadFileWithReport(document, name_of(link), options);
@@ -230,7 +230,7 @@ s_reading read_document(const std::string& file, Vyr& document, const ReportOpti
     return reading;
 }
 
-exit_code read_or_explain(const std::string& file, Vyr& document, std::size_t* size, const text_taker& take_text) {
+exit_code read_or_explain(const std::string& file, Vyr& document, std::uint64_t* size, const text_taker& take_text) {
     const s_reading reading = [&] {
         const c_progress_line progress("reading " + shown_name(file));
         return read_document(file, document, {}, take_text);
@@ -268,7 +268,7 @@ exit_code explain_failed_write(const DocumentReport& report, std::string* reason
     return is_of_system(report) ? exit_usage_or_file : exit_document_fails;
 }
 
-exit_code read_text(const std::string& file, c_long_text& text, std::size_t* size) {
+exit_code read_text(const std::string& file, c_long_text& text, std::uint64_t* size) {
     Vyr document;
     const exit_code result = read_or_explain(file, document, size);
     if (result != exit_ok) return result;
@@ -281,7 +281,7 @@ exit_code read_text(const std::string& file, c_long_text& text, std::size_t* siz
     return exit_document_fails;
 }
 
-exit_code read_tree(const std::string& file, c_tree& tree, std::size_t* size) {
+exit_code read_tree(const std::string& file, c_tree& tree, std::uint64_t* size) {
     c_long_text text;
     const exit_code result = read_text(file, text, size);
     if (result != exit_ok) return result;

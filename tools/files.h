@@ -6,6 +6,7 @@
 #pragma once
 
 #include <cstddef>
+#include <cstdint>
 #include <filesystem>
 #include <functional>
 #include <optional>
@@ -31,7 +32,7 @@ struct s_reading {
     /// Why the file itself could not be read, such as "permission denied"; empty if it could. Then the report counts.
     std::string refusal;
     com_vyrgraph_v2::DocumentReport report;
-    std::size_t size = 0;  ///< of the file, in bytes
+    std::uint64_t size = 0;  ///< of the file, in bytes
 
     bool is_ok() const { return refusal.empty() && report.isOk(); }
 };
@@ -50,17 +51,17 @@ s_reading read_document_bytes(const std::string& bytes, com_vyrgraph_v2::Vyr& do
 
 /// Reads a document for a command that needs a valid one, and says on standard error what is wrong with it. `size`,
 /// which may be null, receives that of the file.
-exit_code read_or_explain(const std::string& file, com_vyrgraph_v2::Vyr& document, std::size_t* size = nullptr,
+exit_code read_or_explain(const std::string& file, com_vyrgraph_v2::Vyr& document, std::uint64_t* size = nullptr,
                           const text_taker& take_text = {});
 
 /// Says on standard error what came of a reading.
 exit_code explain(const std::string& file, const s_reading& reading);
 
 /// The same as the text that the library writes, without layout.
-exit_code read_text(const std::string& file, c_long_text& text, std::size_t* size = nullptr);
+exit_code read_text(const std::string& file, c_long_text& text, std::uint64_t* size = nullptr);
 
 /// The same as a tree.
-exit_code read_tree(const std::string& file, c_tree& tree, std::size_t* size = nullptr);
+exit_code read_tree(const std::string& file, c_tree& tree, std::uint64_t* size = nullptr);
 
 /// The bytes of a file, a pipe or "-" as they come, at most 1 GB.
 class c_input : public std::streambuf {

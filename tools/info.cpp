@@ -207,7 +207,7 @@ json records_as_json(const c_tree& tree) {
     return records;
 }
 
-json describe(const std::string& file, std::size_t size, const c_tree& tree, std::size_t depth) {
+json describe(const std::string& file, std::uint64_t size, const c_tree& tree, std::size_t depth) {
     const s_counts counts = count(tree, depth);
     json object = {{"file", file}, {"bytes", size}, {"colors", counts.colors}};
     json preamble = typed_json(tree, tree.child(0, "Preamble"));
@@ -226,7 +226,7 @@ json describe(const std::string& file, std::size_t size, const c_tree& tree, std
     return object;
 }
 
-void print_text(const std::string& file, std::size_t size, const c_tree& tree, std::size_t depth) {
+void print_text(const std::string& file, std::uint64_t size, const c_tree& tree, std::size_t depth) {
     const s_counts counts = count(tree, depth);
     std::cout << shown_name(file) << ": " << counted(size, "byte", "bytes") << ", "
               << counted(tree.size(), "element", "elements") << ", " << counted(counts.colors, "colour", "colours")
@@ -251,7 +251,7 @@ exit_code info(const info_options& options) {
     if (options.json && !is_one) std::cout << "[";
     for (const std::string& file : options.files) {
         c_tree tree;
-        std::size_t size = 0;
+        std::uint64_t size = 0;
         const exit_code read = read_tree(file, tree, &size);
         result = std::max(result, read);
         if (read != exit_ok) continue;

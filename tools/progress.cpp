@@ -29,7 +29,7 @@ void clear_status() { write_status("\r\x1B[K"); }
 c_progress_line* c_progress_line::s_shown = nullptr;
 
 c_progress_line::c_progress_line(const std::string& text) {
-    if (!system::is_terminal(system::k_errors)) return;
+    if (!system::obeys_sequences(system::k_errors)) return;
     s_shown = this;
     m_thread = std::thread([this, text] {
         bool is_shown = false;

@@ -11,6 +11,7 @@
 #include <filesystem>
 #include <optional>
 #include <string>
+#include <system_error>
 
 namespace vyr_tool {
 
@@ -18,9 +19,14 @@ namespace vyr_tool {
 inline std::filesystem::path path_of(const std::string& name) {
     return std::filesystem::path(std::u8string(name.begin(), name.end()));
 }
-inline std::string name_of(const std::filesystem::path& path) {
-    const std::u8string name = path.u8string();
-    return std::string(name.begin(), name.end());
+/// The words for a file name. Of one that is no text they are another file's, which can't be opened.
+std::string name_of(const std::filesystem::path& path);
+
+/// Why the system refused something, in the words of `strerror` on every system.
+inline std::string reason(const std::error_code& code) {
+    const std::error_condition known = code.default_error_condition();
+    if (known.category() == std::generic_category()) return known.message();
+    return "error " + std::to_string(code.value()) + " of the system";
 }
 
 namespace system {
@@ -48,12 +54,14 @@ std::int64_t write(int descriptor, const char* data, std::size_t count);
 enum class file_kind { file, folder, stream };
 struct s_file_state {
     file_kind kind = file_kind::file;
-    std::size_t size = 0;  ///< of files
+    std::uint64_t size = 0;  ///< of files
 };
 /// Nothing, with an `errno`, if the system doesn't say.
 std::optional<s_file_state> state_of(int descriptor);
 
 bool is_terminal(int descriptor);
+/// Whether it is a terminal that obeys sequences: for colours, and for taking a line away.
+bool obeys_sequences(int descriptor);
 /// Whether terminals are known to show the characters that curves are made of.
 bool has_utf8_terminal();
 
@@ -62,7 +70,8 @@ bool fits_pattern(const std::string& pattern, const std::string& text);
 
 /// False, with an `errno`, if a file that is there is protected.
 bool may_write(const std::filesystem::path& file);
-/// A new folder that others can't look into; an empty path, with an `errno`, if there can be none.
+/// A new folder, which others can't look into where folders have modes; an empty path, with an `errno`, if there can
+/// be none.
 std::filesystem::path make_scratch_folder(const std::filesystem::path& parent);
 /// Lets a file take the place of another, with the permissions that this one has, or of none. Returns why it could
 /// not be done, or nothing.

@@ -18,7 +18,11 @@
 #include "tools/commands.h"
 #include "tools/system.h"
 
-namespace vyr_tool::system {
+namespace vyr_tool {
+
+std::string name_of(const std::filesystem::path& path) { return path.string(); }
+
+namespace system {
 
 namespace {
 
@@ -62,10 +66,15 @@ std::optional<s_file_state> state_of(int descriptor) {
     if (fstat(descriptor, &state) != 0) return std::nullopt;
     if (S_ISDIR(state.st_mode)) return s_file_state{file_kind::folder};
     if (!S_ISREG(state.st_mode)) return s_file_state{file_kind::stream};
-    return s_file_state{file_kind::file, static_cast<std::size_t>(state.st_size)};
+    return s_file_state{file_kind::file, static_cast<std::uint64_t>(state.st_size)};
 }
 
 bool is_terminal(int descriptor) { return isatty(descriptor) != 0; }
+
+bool obeys_sequences(int descriptor) {
+    const char* const terminal = std::getenv("TERM");
+    return is_terminal(descriptor) && std::string_view(terminal == nullptr ? "" : terminal) != "dumb";
+}
 
 bool has_utf8_terminal() {
     for (const char* const name : {"LC_ALL", "LC_CTYPE", "LANG"}) {
@@ -116,7 +125,9 @@ void release_signals() {
     if (--holds == 0) pthread_sigmask(SIG_SETMASK, &before, nullptr);
 }
 
-}  // namespace vyr_tool::system
+}  // namespace system
+
+}  // namespace vyr_tool
 
 int main(int argc, char** argv) {
     return vyr_tool::run_command(std::vector<std::string>(argv + std::min(argc, 1), argv + argc));

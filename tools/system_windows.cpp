@@ -6,13 +6,16 @@
 #include <sys/stat.h>
 
 #include <algorithm>
+#include <cctype>
 #include <cerrno>
 #include <condition_variable>
+#include <cstring>
 #include <iterator>
 #include <mutex>
 #include <random>
 #include <string_view>
 #include <system_error>
+#include <utility>
 #include <vector>
 
 #if !defined(NOMINMAX)
@@ -21,7 +24,6 @@
 #define WIN32_LEAN_AND_MEAN
 #include <windows.h>
 
-#include "lmx/lmx.h"
 #include "tools/commands.h"
 #include "tools/system.h"
 
@@ -38,7 +40,24 @@ unsigned piece(std::size_t count) { return static_cast<unsigned>(std::min(count,
 
 HANDLE handle_of(int descriptor) { return reinterpret_cast<HANDLE>(_get_osfhandle(descriptor)); }
 
-std::string last_error() { return std::system_category().message(static_cast<int>(GetLastError())); }
+std::string last_error() { return reason(std::error_code(static_cast<int>(GetLastError()), std::system_category())); }
+
+/// UTF-8; a unit that is no part of a text becomes U+FFFD.
+std::string utf8(std::wstring_view text) {
+    const auto convert = [&](char* to, int size) {
+        return WideCharToMultiByte(CP_UTF8, 0, text.data(), static_cast<int>(text.size()), to, size, nullptr,
+                                   nullptr);
+    };
+    std::string narrow(static_cast<std::size_t>(convert(nullptr, 0)), '\0');
+    convert(narrow.data(), static_cast<int>(narrow.size()));
+    return narrow;
+}
+
+/// The classes of a bracket, as `[:alpha:]`.
+constexpr std::pair<std::string_view, int (*)(int)> k_classes[] = {
+    {"alnum", std::isalnum}, {"alpha", std::isalpha}, {"blank", std::isblank}, {"cntrl", std::iscntrl},
+    {"digit", std::isdigit}, {"graph", std::isgraph}, {"lower", std::islower}, {"print", std::isprint},
+    {"punct", std::ispunct}, {"space", std::isspace}, {"upper", std::isupper}, {"xdigit", std::isxdigit}};
 
 /// The length of the bracket that a pattern begins with, 0 if it isn't closed.
 std::size_t length_of_bracket(std::string_view pattern, char character, bool* holds) {
@@ -53,6 +72,16 @@ std::size_t length_of_bracket(std::string_view pattern, char character, bool* ho
     // A closing one that stands first is one of the characters.
     for (const std::size_t first = at; at < pattern.size();) {
         if (pattern[at] == ']' && at > first) return at + 1;
+        const std::string_view rest = pattern.substr(at);
+        const auto named = std::ranges::find_if(k_classes, [rest](const auto& known) {
+            return rest.starts_with("[:") && rest.substr(2).starts_with(known.first) &&
+                   rest.substr(2 + known.first.size()).starts_with(":]");
+        });
+        if (named != std::end(k_classes)) {
+            if (named->second(static_cast<unsigned char>(character)) != 0) *holds = !is_negated;
+            at += named->first.size() + 4;
+            continue;
+        }
         const unsigned char low = take();
         unsigned char high = low;
         if (at + 1 < pattern.size() && pattern[at] == '-' && pattern[at + 1] != ']') {
@@ -164,12 +193,18 @@ std::optional<s_file_state> state_of(int descriptor) {
     if (GetFileType(handle_of(descriptor)) != FILE_TYPE_DISK) return s_file_state{file_kind::stream};
     const std::int64_t size = _filelengthi64(descriptor);
     if (size < 0) return std::nullopt;
-    return s_file_state{file_kind::file, static_cast<std::size_t>(size)};
+    return s_file_state{file_kind::file, static_cast<std::uint64_t>(size)};
 }
 
 bool is_terminal(int descriptor) {
     DWORD mode = 0;
     return GetConsoleMode(handle_of(descriptor), &mode) != 0;
+}
+
+// Consoles that know sequences say so since the command began.
+bool obeys_sequences(int descriptor) {
+    DWORD mode = 0;
+    return GetConsoleMode(handle_of(descriptor), &mode) != 0 && (mode & ENABLE_VIRTUAL_TERMINAL_PROCESSING) != 0;
 }
 
 bool has_utf8_terminal() { return true; }
@@ -213,6 +248,11 @@ std::filesystem::path make_scratch_folder(const std::filesystem::path& parent) {
 }
 
 std::string replace_file(const std::filesystem::path& finished, const std::filesystem::path& target) {
+    const int descriptor = open(finished, open_mode::write);
+    if (descriptor < 0) return std::strerror(errno);
+    const int refusal = _commit(descriptor) == 0 ? 0 : errno;
+    close(descriptor);
+    if (refusal != 0) return std::strerror(refusal);
     // The first keeps what others may do with the file; it wants one to be there.
     const bool is_replaced =
         ReplaceFileW(target.c_str(), finished.c_str(), nullptr, 0, nullptr, nullptr) != 0 ||
@@ -232,12 +272,14 @@ void release_signals() {
 
 }  // namespace vyr_tool::system
 
+std::string vyr_tool::name_of(const std::filesystem::path& path) { return system::utf8(path.native()); }
+
 int wmain(int argc, wchar_t** argv) {
     using namespace vyr_tool::system;
     for (const int stream : {k_input, k_output, k_errors}) _setmode(stream, _O_BINARY);
     static_cast<void>(console());
     SetConsoleCtrlHandler(&wait_for_release, TRUE);
     std::vector<std::string> words;
-    for (int i = 1; i < argc; ++i) words.push_back(lmx::convert_to_narrow(lmx::from_wstring(argv[i])));
+    for (int i = 1; i < argc; ++i) words.push_back(utf8(argv[i]));
     return vyr_tool::run_command(std::move(words));
 }

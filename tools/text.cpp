@@ -98,7 +98,7 @@ std::string_view narrowed(std::string_view text, std::size_t columns) {
     }
 }
 
-std::string counted(std::size_t count, std::string_view one, std::string_view many) {
+std::string counted(std::uint64_t count, std::string_view one, std::string_view many) {
     return std::to_string(count).append(" ").append(count == 1 ? one : many);
 }
 
@@ -110,9 +110,7 @@ std::string short_number(double number) {
 
 bool use_color(const color_mode& mode) {
     if (mode != "auto") return mode == "always";
-    const char* const terminal = std::getenv("TERM");
-    return system::is_terminal(system::k_output) && !has_environment("NO_COLOR") &&
-           std::string_view(terminal == nullptr ? "" : terminal) != "dumb";
+    return system::obeys_sequences(system::k_output) && !has_environment("NO_COLOR");
 }
 
 std::string colored(std::string_view text, const char* color) { return std::string(color).append(text) + "\x1B[0m"; }

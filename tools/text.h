@@ -7,6 +7,7 @@
 
 #include <charconv>
 #include <cstddef>
+#include <cstdint>
 #include <string>
 #include <string_view>
 #include <system_error>
@@ -32,7 +33,7 @@ std::size_t width(std::string_view text);
 std::string_view narrowed(std::string_view text, std::size_t columns);
 
 /// "1 colour", "2 colours"
-std::string counted(std::size_t count, std::string_view one, std::string_view many);
+std::string counted(std::uint64_t count, std::string_view one, std::string_view many);
 
 /// A number for people: six digits, which are more than any eye tells apart.
 std::string short_number(double number);

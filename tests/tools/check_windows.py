@@ -66,7 +66,7 @@ with tempfile.TemporaryDirectory(dir=".") as folder:
 
     # Patterns of names are those of other systems' shells.
     for pattern, count in ("navy", 1), ("[l-n]a?y", 1), ("[!a-m]avy", 1), ("*a*v*y", 1), ("\\navy", 1), ("nav", 0), \
-            ("[]n]a[v-]y*", 1), ("[navy", 0), ("nav[!y]", 0):
+            ("[]n]a[v-]y*", 1), ("[navy", 0), ("nav[!y]", 0), ("[[:upper:][:lower:]]avy", 1), ("[![:alpha:]]avy", 0):
         expect(0, lambda text: text.count(b'"name"') == count, "(vyr: [^\n]*no such colour\n)?", "list", "--json", "--name",
                pattern, f"{name}.vyr")
 
