@@ -33,7 +33,7 @@ endif()
 foreach(folder lmx schema)
   install(DIRECTORY ${folder} DESTINATION ${vyr_include_dir} COMPONENT development FILES_MATCHING PATTERN "*.h"
           PATTERN "generator" EXCLUDE PATTERN "storage.h" EXCLUDE PATTERN "file_name.h" EXCLUDE
-          PATTERN "seconds.h" EXCLUDE PATTERN "failure*.h" EXCLUDE PATTERN "open_element.h" EXCLUDE
+          PATTERN "numbers.h" EXCLUDE PATTERN "failure*.h" EXCLUDE PATTERN "open_element.h" EXCLUDE
           PATTERN "shown_text.h" EXCLUDE PATTERN "source_place.h" EXCLUDE PATTERN "hidden.h" EXCLUDE
           PATTERN "utf8.h" EXCLUDE PATTERN "place.h" EXCLUDE PATTERN "plain_value.h" EXCLUDE
           PATTERN "plain_way.h" EXCLUDE PATTERN "recovery.h" EXCLUDE PATTERN "thread_object.h" EXCLUDE)

@@ -12,7 +12,7 @@
 #include <utility>
 
 #include "lmx/values/characters.h"
-#include "lmx/values/seconds.h"
+#include "lmx/values/numbers.h"
 
 namespace lmx {
 
@@ -60,8 +60,6 @@ bool is_valid_zone(const char* text, const char* end, bool* has_zone) {
     *has_zone = !is_empty;
     return true;
 }
-
-std::int32_t negated(std::int32_t value) { return static_cast<std::int32_t>(0U - static_cast<std::uint32_t>(value)); }
 
 /// Enough for every value: eight numbers, of which the seconds have the 39 digits of the greatest float, and marks.
 constexpr std::size_t k_text_size = 192;

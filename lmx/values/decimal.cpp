@@ -12,6 +12,7 @@
 #include <utility>
 
 #include "lmx/values/characters.h"
+#include "lmx/values/numbers.h"
 
 namespace lmx {
 
@@ -47,8 +48,6 @@ std::string fixed_text(double value, unsigned digits) {
         std::to_chars(buffer.data(), buffer.data() + buffer.size(), value, std::chars_format::fixed, precision);
     return {buffer.data(), result.ptr};
 }
-
-std::int32_t negated(std::int32_t value) { return static_cast<std::int32_t>(0U - static_cast<std::uint32_t>(value)); }
 
 bool has_digit_but_zero(std::string_view digits) { return digits.find_first_not_of('0') != std::string_view::npos; }
 

@@ -13,7 +13,7 @@
 #include <type_traits>
 
 #include "lmx/values/characters.h"
-#include "lmx/values/seconds.h"
+#include "lmx/values/numbers.h"
 
 namespace lmx {
 
