@@ -4,9 +4,9 @@
 #
 # Builds for Windows on a Debian 12 machine, warnings as errors, in build/windows32 or build/windows64, and compares the
 # names that the DLL exports; with `test` runs all tests under wine and counts them, with `package` makes a ZIP to
-# publish; with `quick` builds the DLLs and the hosts in C only, without optimisation, and compares the names. What that
-# takes and no package brings is made once, below build/windows: static libraries, and for running programs of 32 bits a
-# small Debian with wine in it.
+# publish; with `quick` builds the DLLs, the hosts in C and the command only, without optimisation, and compares the
+# names, as .ci/run does, which has `test` in its place where VYR_CI_WINDOWS=test. What that takes and no package brings
+# is made once, below build/windows: static libraries, and for running programs of 32 bits a small Debian with wine.
 #
 #   scripts/windows.sh 32|64 [test|package|quick]
 
@@ -231,8 +231,8 @@ build_libraries
 options=(-DVYR_BUILD_TESTS=ON -DVYR_WARNINGS_AS_ERRORS=ON)
 targets=(all)
 if [[ $job == quick ]]; then
-    options+=(-DVYR_BUILD_TOOLS=OFF -DCMAKE_CXX_FLAGS_RELEASE=-O0)
-    targets=(vyr vyr_self_contained tests_flat windows_host)
+    options+=(-DCMAKE_CXX_FLAGS_RELEASE=-O0)
+    targets=(vyr vyr_self_contained vyr_tool tests_flat windows_host)
 fi
 cmake --preset "$preset" -B "$build" "${options[@]}"
 cmake --build "$build" --target "${targets[@]}"
