@@ -218,8 +218,8 @@ make_package() {
     cat > "$stage/README.md" << EOF
 # Vyr $version for Windows, $bits bits
 
-[What lies where, and how it is used](share/doc/vyr/docs/windows.md) from C++, C and C#; [the command](share/doc/vyr/docs/command.md),
-\`bin/vyr.exe\`; [all guides](share/doc/vyr/docs/README.md).
+[What lies where, and how it is used](share/doc/vyr/docs/windows.md) from C++, C and C#;
+[the command](share/doc/vyr/docs/command.md), \`bin/vyr.exe\`; [all guides](share/doc/vyr/docs/README.md).
 EOF
     rm -f "$build"/*.zip
     local target=$PWD/$build/vyr-$version-windows$bits.zip
