@@ -5,12 +5,11 @@
 
 #include "lmx/values/scalars.h"
 
-#include <locale.h>
-#include <stdlib.h>
-
 #include <algorithm>
 #include <bit>
 #include <charconv>
+#include <cmath>
+#include <cstdlib>
 #include <cstring>
 #include <iterator>
 #include <string_view>
@@ -30,15 +29,56 @@ int count_digits(std::string_view text) {
     return static_cast<int>(std::count_if(text.begin(), text.end(), [](char c) { return xisdigit(c); }));
 }
 
-/// What the C library makes of the text in the "C" locale: the last word on odd text and on numbers out of range.
-double c_library_double(const char* text) {
-#if defined(_WIN32)
-    static const _locale_t c_locale = _create_locale(LC_ALL, "C");
-    return _strtod_l(text, nullptr, c_locale);
-#else
-    static const locale_t c_locale = newlocale(LC_ALL_MASK, "C", static_cast<locale_t>(nullptr));
-    return strtod_l(text, nullptr, c_locale);
-#endif
+/// Whether a number that no double holds, as from_chars takes it, is too large for one rather than too small.
+bool is_too_large(std::string_view number, bool is_hexadecimal) {
+    const std::size_t end = std::min(number.find_first_of(is_hexadecimal ? "pP" : "eE"), number.size());
+    const std::size_t point = std::min(number.find('.'), end);
+    std::int64_t exponent = 0;
+    std::string_view written = number.substr(end).substr(end < number.size() ? 1 : 0);
+    if (written.starts_with('+')) written.remove_prefix(1);
+    const auto error = std::from_chars(written.data(), written.data() + written.size(), exponent).ec;
+    if (error == std::errc::result_out_of_range) return written[0] != '-';
+    const auto places = static_cast<std::int64_t>(point) - static_cast<std::int64_t>(number.find_first_not_of("0."));
+    return exponent > -places * (is_hexadecimal ? 4 : 1);
+}
+
+/// The NaN with the number that its brackets hold, if they do, in its lowest bits.
+double nan_of(std::string_view word) {
+    std::uint64_t payload = 0;
+    if (word.ends_with(')')) {
+        std::string_view digits = word.substr(4, word.size() - 5);
+        int base = 10;
+        if (digits.starts_with('0')) base = digits.starts_with("0x") || digits.starts_with("0X") ? 16 : 8;
+        if (base == 16) digits.remove_prefix(2);
+        const char* const last = digits.data() + digits.size();
+        const auto [end, error] = std::from_chars(digits.data(), last, payload, base);
+        if (error == std::errc::result_out_of_range) payload = UINT64_MAX;
+        if (end != last) payload = 0;
+    }
+    return std::bit_cast<double>(0x7FF8000000000000 | (payload & 0x7FFFFFFFFFFFF));
+}
+
+/// What strtod of glibc makes of the text in the "C" locale, bit for bit and on every system: the last word on odd
+/// text and on numbers out of range.
+double leading_number(const std::string& text) {
+    const char* at = text.c_str();
+    while (xisspace(*at)) ++at;
+    const bool is_negative = *at == '-';
+    skip_sign(&at);
+    if (*at == '-') return 0.0;  // which from_chars would take
+    const bool is_hexadecimal =
+        *at == '0' && (at[1] == 'x' || at[1] == 'X') && xisxdigit(at[2] == '.' ? at[3] : at[2]);
+    if (is_hexadecimal) at += 2;
+    const auto format = is_hexadecimal ? std::chars_format::hex : std::chars_format::general;
+    std::string_view number(at, static_cast<std::size_t>(end_of(text) - at));
+    number = number.substr(0, number.find("+-"));  // which from_chars takes before a hexadecimal number's exponent
+    double size = 0.0;
+    const auto [end, error] = std::from_chars(at, at + number.size(), size, format);
+    if (error == std::errc::invalid_argument) return 0.0;
+    number = std::string_view(at, static_cast<std::size_t>(end - at));
+    if (error == std::errc::result_out_of_range) size = is_too_large(number, is_hexadecimal) ? HUGE_VAL : 0.0;
+    if (std::isnan(size)) size = nan_of(number);
+    return is_negative ? -size : size;
 }
 
 constexpr double k_powers[] = {1, 1e1, 1e2, 1e3, 1e4, 1e5, 1e6, 1e7, 1e8, 1e9, 1e10, 1e11, 1e12, 1e13, 1e14, 1e15};
@@ -167,7 +207,7 @@ double text_to_double(const std::string& text) {
     if (text == "NaN") return 0.0 / float_zero();
     if (text == "INF") return 1.0 / float_zero();
     if (text == "-INF") return -1.0 / float_zero();
-    return c_library_double(text.c_str());
+    return leading_number(text);
 }
 
 std::int32_t text_to_int(const std::string& text) {
