@@ -52,6 +52,16 @@ def test_files_bytes_and_texts(palette, tmp_path):
     # The plain document beside a container isn't lost.
     (tmp_path / "new.vyr").write_text("mine")
     document.save(str(tmp_path / "new.vyrz"))
+    with pytest.raises(vyr.DocumentError):
+        vyr.Document().save(tmp_path / "new.vyrz")
+    data = document.to_bytes()
+    assert vyr.load(tmp_path / "new.vyrz").to_bytes() == data
+    # What would be read back as something else is written all the same.
+    document.palettes[0].palette_name = "two\rlines"
+    with pytest.raises(vyr.DocumentError):
+        document.save(tmp_path / "new.vyrz")
+    document = vyr.load(tmp_path / "new.vyrz")
+    assert document.palettes[0].palette_name == "two\nlines"
     assert (tmp_path / "new.vyr").read_text() == "mine" and len(list(tmp_path.iterdir())) == 2
     data = document.to_bytes()
     assert vyr.loads(data).to_bytes() == vyr.loads(data.decode()).to_bytes() == data
@@ -64,11 +74,18 @@ def test_files_bytes_and_texts(palette, tmp_path):
     rgb.create_color_space_specification_spectrum_tristimulus().set_nil()
     rgb.save(tmp_path / "one.xml")
     assert vyr.ColorSpaceSRGB.load(tmp_path / "one.xml").green == 0.25
+    with pytest.raises(vyr.DocumentError):
+        vyr.ColorSpaceSRGB.load(palette)
+    for refused in (tmp_path / "none" / "one.xml", "/dev/full"):
+        with pytest.raises(OSError):
+            rgb.save(refused)
 
 
 def test_what_fails_says_where(documents, palette, tmp_path):
-    with pytest.raises(FileNotFoundError):
-        vyr.load(tmp_path / "none.vyr")
+    for load in (vyr.load, vyr.load_partly):
+        with pytest.raises(FileNotFoundError) as caught:
+            load(tmp_path / "none.vyr")
+        assert caught.value.filename == str(tmp_path / "none.vyr")
     with pytest.raises(OSError):
         vyr.load(palette).save(tmp_path / "no folder" / "new.vyr")
     text = palette.read_text(encoding="utf-8").replace(":Red>1<", ":Red>7<")
@@ -80,6 +97,11 @@ def test_what_fails_says_where(documents, palette, tmp_path):
     lines = text.splitlines()
     assert all("7" in lines[fault.line - 1] for fault in faults)
     assert "at most 1" in faults[0].detail and faults[0].text in str(caught.value)
+    assert len(str(caught.value).split("\n")) == len(faults)
+    (tmp_path / "wrong.vyr").write_text(text, encoding="utf-8")
+    with open(tmp_path / "wrong.vyr", "rb") as file:
+        assert vyr.check(file) == vyr.check(tmp_path / "wrong.vyr")
+    assert vyr.check(tmp_path / "wrong.vyr").total == len(faults) and not vyr.check(tmp_path / "wrong.vyr", limit=0)
     document, report = vyr.load_partly(io.BytesIO(text.encode()), limit=2)
     assert not report and len(report.faults) == 2 and report.total > 2 and len(colors_of(document)) == 148
     for file in sorted((documents / "invalid").glob("*.vyr")):
@@ -213,9 +235,12 @@ def test_times():
     assert color.change_history[1].utcoffset().seconds == 7200 and color.change_history[1].microsecond == 250000
     with pytest.raises(ValueError, match="can't be held"):
         color.change_history[0]
-    repr(color)
+    calibration = vyr.CalibrationStateType(calibration_date_time="2016-12-31T23:59:60Z")
+    assert "23:59:60" in repr(color.change_history) and "23:59:60" in repr(calibration)
     color.change_history[0] = color.change_history[1].replace(second=59, microsecond=999999)
     assert color.change_history.texts[0] == "2024-05-01T09:30:59.9999+02:00"
+    color.change_history[0] = color.change_history[1].replace(second=1, microsecond=1)
+    assert color.change_history.texts[0] == "2024-05-01T09:30:01+02:00"
     with pytest.raises(vyr.FormatError):
         color.change_history.append(color.change_history[1].replace(tzinfo=None))
 

@@ -38,6 +38,7 @@ def test_spectra_of_several_grids():
     assert [(g.names, g.wavelengths.tolist(), g.values.tolist()) for g in groups] == [
         (["A", "D"], [400, 500], [[0.1, 0.2], [0.6, 0.7]]), (["B"], [400, 510], [[0.3, 0.4]]), (["C"], [400], [[0.5]]),
         (["E"], [], [[]])]
+    assert len(vyr.spectra_groups(document.palettes[0].color_sets[0].colors[:2])) == 2
     with pytest.raises(ValueError, match="no kind"):
         vyr.spectra(document, "lab")
 
@@ -59,8 +60,10 @@ def test_values_and_setting_them(palette):
     assert numpy.array_equal(vyr.values(document, "srgb").values, 1 - values)
     vyr.set_values(document, "lab", 50 * values)
     assert vyr.values(document, "lab").values.max() == 50 and len(next(vyr.colors(document)).color_spaces) == 2
-    vyr.set_spectra(document, [400, 700], values[:, :2])
+    vyr.set_spectra(document, numpy.array([400, 700]), values[:, :2])
     assert numpy.array_equal(vyr.spectra(document).values, values[:, :2])
+    _, row = next(vyr.colors(document)).color_spaces.spectral.arrays()
+    row *= 2  # of the caller's own
     with pytest.raises(vyr.FormatError):
         vyr.set_spectra(document, [400, 700], [[0.5, 0.5]] * 147 + [[0.5, 11]])
     assert numpy.array_equal(vyr.spectra(document).values, values[:, :2])
@@ -126,6 +129,8 @@ def test_defaults_of_collections():
         defaults = getattr(collection.create_collection_color_space_specification(), f"create_{name}")()
         defaults.astm_table = word
         assert vyr.conditions(value, color_set, palette) == {"astm_table": word}
+        for where in (document, palette, color_set)[: 3 if collection is color_set else 2]:
+            assert vyr.frame(where, "spectral")["astm_table"].tolist() == [word]
     value.reset()
     getattr(value, f"create_{name}")()
     assert vyr.conditions(value, color_set, palette) == {}
@@ -141,6 +146,12 @@ def test_what_a_notebook_shows(palette):
     shown = spectral.palettes[0].color_sets[0].colors[0]._repr_html_()
     assert shown.count("<svg") == 1 and "rgb(" not in shown and "400 to 600 nm" in shown
     assert "palette_name" in spectral.palettes[0]._repr_html_()
+    del colors[50:]
+    assert " more" not in document.palettes[0].color_sets[0]._repr_html_()
+    colors[1].color_spaces.srgb.comments = document.palettes[0].palette_name = "<script>"
+    assert "<script>" not in colors[1]._repr_html_() + document.palettes[0]._repr_html_()
+    same_place = document_of(("A", [400, 400], [0.1, 0.2])).palettes[0].color_sets[0]
+    assert "<svg" not in same_place._repr_html_()
     kept = colors[0]
     colors.clear()
     assert "removed" in kept._repr_html_()

@@ -168,7 +168,7 @@ def test_list(made, item):
     else:
         values = [f"<a>{i}</a>" for i in range(5)] if item.kind == "any" else good_and_bad(item)[0] * 3
         setattr(owner, name, values)
-        assert entries == values
+        assert entries == values and entries != values[:-1] and entries != [*values, values[0]]
         entries[1:3] = values[:1]
         assert entries == [values[0], values[0], *values[3:]]
         with pytest.raises(TypeError):
