@@ -12,6 +12,7 @@
 #include <thread>
 
 #include "schema/Vyr.h"
+#include "tests/files.h"
 #include "tests/heap.h"
 #include "tests/schema/support.h"
 
@@ -60,6 +61,17 @@ TEST(Limits, MemoryIsWhatTheGuideSays) {
     });
     EXPECT_LE(let_pass, figure("times with all failures let pass"));
     EXPECT_GE(let_pass, 0.7 * figure("times with all failures let pass"));
+}
+
+TEST(Limits, AContainerThatClaimsMuchGetsLittle) {
+    v2::Vyr document;
+    ASSERT_EQ(document.unmarshal(VYR_TEST_DOCUMENTS "/valid/all-01.vyr"), ELMX_OK);
+    ASSERT_EQ(document.writeFile("claims.vyrz"), ELMX_OK);
+    std::string bytes = bytes_of("claims.vyrz");
+    // The size in the central header, which the name and the end record follow: a quarter of a gigabyte.
+    bytes.replace(bytes.size() - 22 - 10 - 22, 4, "\xFF\xFF\xFF\x0F");
+    write_file("claims.vyrz", bytes);
+    EXPECT_LT(heap_of([] { EXPECT_EQ(v2::Vyr().loadFile("claims.vyrz"), ELMX_USER_DEFINED_1); }), 1U << 20U);
 }
 
 TEST(Limits, APartThatIsKeptKeepsLittleElse) {

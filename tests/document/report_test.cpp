@@ -416,6 +416,7 @@ TEST(Report, NamesFilesAndContainers) {
     bytes[60] = static_cast<char>(~bytes[60]);
     write_file("damaged.vyrz", bytes);
     std::ofstream("text.vyrz") << "text";
+    std::ofstream("empty.vyrz") << "PK\5\6" << std::string(18, '\0');
     fs::create_directories("folder.vyr");
     fs::create_directories("taken.vyrz");
     const auto load = [](const auto& path) {
@@ -436,7 +437,9 @@ TEST(Report, NamesFilesAndContainers) {
     EXPECT_EQ(load(u"folder.vyr"), "folder.vyr:1: Unexpected end of message: it is a directory\n");
 #endif
     EXPECT_EQ(load(u"text.vyrz"), "text.vyrz: Container can't be read or written: not a ZIP archive\n");
+    EXPECT_EQ(load(u"empty.vyrz"), "empty.vyrz: Container can't be read or written: the archive holds no file\n");
     EXPECT_EQ(load(u"damaged.vyrz").find("damaged.vyrz: Container can't be read or written: "), 0U);
+    EXPECT_EQ(loadFileWithReport(document, u"damaged.vyrz").getSystemError(), 0);
     EXPECT_EQ(
         load(std::string("bad.vyr")),
         "bad.vyr:14:6: " + k_lab + " / L: Value greater than specified maximum (500): it must be at most 150\n");
@@ -444,6 +447,7 @@ TEST(Report, NamesFilesAndContainers) {
     EXPECT_EQ(write(u"a.xml"), "a.xml: Unknown ending of a file name: the name must end in .vyr or .vyrz\n");
     EXPECT_EQ(write(u"missing/a.vyr"),
               "missing/a.vyr: Unable to open file: not written, or not in full: No such file or directory\n");
+    EXPECT_EQ(writeFileWithReport(Vyr(), u"missing/a.vyr").getTotalCount(), 1U);
     EXPECT_EQ(write(u"missing/a.vyrz"), "missing/a.vyrz: Unable to open file: No such file or directory\n");
     EXPECT_EQ(write(u"taken.vyrz"), "taken.vyrz: Unable to open file: " + folder + "\n");
     EXPECT_EQ(write(u"folder.vyrz").find("folder.vyrz: Container can't be read or written: "), 0U);
