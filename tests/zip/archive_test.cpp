@@ -41,6 +41,7 @@ int cause_of(const std::function<void()>& call) {
         call();
         return 0;
     } catch (const CZipException& failure) {
+        EXPECT_FALSE(failure.GetFileName().empty());
         return failure.GetCause();
     }
 }
@@ -117,6 +118,17 @@ TEST_F(Archive, HoldsOneEntryAndNothingElse) {
     const std::string end = "PK\5\6" + little(0, 4) + little(1, 2) + little(1, 2) + little(central.size(), 4) +
                             little(local.size(), 4) + little(0, 2);
     EXPECT_EQ(bytes_of(path("a.zip")), local + central + end);
+
+    // Years that the header can't hold: in April of 1975, and in 2109.
+    for (const auto& [seconds, date] :
+         {std::pair(168'000'000LL, 4 << 5 | 29), std::pair(4'400'000'000LL, 1 << 5 | 1)}) {
+        fs::last_write_time(
+            source, std::chrono::file_clock::from_sys(std::chrono::sys_seconds(std::chrono::seconds(seconds))));
+        CZipContainer other;
+        ASSERT_TRUE(other.OpenContainer(path("b.zip").u16string(), zip_open_create));
+        ASSERT_TRUE(other.AddFileEntry(source.u16string()));
+        EXPECT_EQ(other.GetEntryHeader(0)->date, date);
+    }
     set_time_zone("");
 }
 
@@ -157,13 +169,22 @@ TEST_F(Archive, LevelsMethodsAndTrialsDecideTheHeader) {
             const std::string bytes = archive_of(row.data, request, row.method);
             const std::string what = std::to_string(&row - rows) + "/" + std::to_string(buffer);
             EXPECT_EQ(bytes.substr(4, 6), row.expected) << what;
+            EXPECT_LT(bytes.size(), row.data.size() + row.data.size() / 50 + 200) << what;
             EXPECT_EQ(first_entry(path("a.zip")), row.data) << what;
         }
     }
+    CZipAddRequest without_buffer;
+    without_buffer.buffer_size = 0;
+    EXPECT_EQ(read_back(archive_of(five, without_buffer)), five);
 }
 
 TEST_F(Archive, NamesFoldersAndManyEntries) {
     write_file(path("f.txt"), "f");
+    // In summer.
+    set_time_zone("CET-1CEST");
+    fs::last_write_time(path("f.txt"), std::chrono::file_clock::from_sys(
+                                           std::chrono::sys_seconds(std::chrono::seconds(1'719'000'000))));
+    fs::permissions(path("f.txt"), fs::perms{0600});
     fs::create_directories(path("sub"));
     const std::string folder = m_folder.generic_string();
     const fs::path absolute = fs::absolute(path("f.txt"));
@@ -193,6 +214,7 @@ TEST_F(Archive, NamesFoldersAndManyEntries) {
         request.replace_index = 0;
         EXPECT_FALSE(archive.AddFileEntry(request)) << row.source;
     }
+    EXPECT_FALSE(archive.OpenEntry(0));
     CZipAddRequest too_long;
     too_long.source_path = path("f.txt").u16string();
     too_long.name_in_archive.assign(65536, u'x');
@@ -232,9 +254,21 @@ TEST_F(Archive, NamesFoldersAndManyEntries) {
     }
     const auto difference = fs::last_write_time(path("became")) - fs::last_write_time(path("f.txt"));
     EXPECT_LE(std::chrono::abs(difference), std::chrono::seconds(2));
+    EXPECT_EQ(fs::status(path("became")).permissions(), fs::status(path("f.txt")).permissions());
     archive.CloseContainer(zip_close_forced);
     EXPECT_EQ(archive.GetEntryHeader(0), nullptr);
     EXPECT_EQ(archive.CloseEntry(), 0);
+    set_time_zone("");
+}
+
+TEST_F(Archive, HoldsNoMoreEntriesThanItCanCount) {
+    CZipContainer archive;
+    ASSERT_TRUE(archive.OpenContainer(path("a.zip").u16string(), zip_open_create));
+    for (int i = 0; i < 65535; ++i) ASSERT_TRUE(archive.AddFileEntry(m_folder.u16string()));
+    EXPECT_FALSE(archive.AddFileEntry(m_folder.u16string()));
+    archive.CloseContainer(zip_close_normal);
+    ASSERT_TRUE(archive.OpenContainer(path("a.zip").u16string(), zip_open_read));
+    EXPECT_EQ(archive.GetEntryCount(), 65535U);
 }
 
 /// One change to a good archive: bytes at a place, counted in the local header, the central header or the end record.
@@ -277,6 +311,7 @@ TEST_F(Archive, EveryLieHasItsCause) {
         {"another version, local", s_lie::local, 4, little(99, 2), text},
         {"other high flags, local", s_lie::local, 6, little(0x0810, 2), text},
         {"other low flags, local", s_lie::local, 6, little(2, 2), damaged},
+        {"encrypted, local", s_lie::local, 6, little(1, 2), damaged},
         {"another method, local", s_lie::local, 8, little(0, 2), damaged},
         {"another check sum, local", s_lie::local, 14, little(0, 4), damaged},
         {"another size, local", s_lie::local, 18, little(1, 4), damaged},
@@ -346,6 +381,8 @@ TEST_F(Archive, StrangeButSound) {
     };
     EXPECT_EQ(read_back(with_comment(std::string(65535, 'c'))), text);
     EXPECT_EQ(read_back(with_comment(std::string(65535, 'c')) + "t"), "cause 118");
+    // Where blocks of the search meet within the signature.
+    EXPECT_EQ(read_back(with_comment(std::string(65516, 'c'))), text);
     EXPECT_EQ(read_back(good + "tail"), text);
     EXPECT_EQ(read_back("#!/bin/sh\n" + good), text);
     EXPECT_EQ(read_back(std::string(200'000, 'P') + good), text);
@@ -354,6 +391,29 @@ TEST_F(Archive, StrangeButSound) {
     const std::string full = good.substr(0, end) + locator + good.substr(end, 8) + little(0xFFFF, 2) +
                              little(0xFFFF, 2) + good.substr(end + 12);
     EXPECT_EQ(read_back(full), "cause 120");
+
+    // The system that made an entry says what its attributes mean; those of one that isn't known go to no file.
+    write_file(path("became"), "f");
+    const struct {
+        char host;
+        std::uint32_t attributes;
+        int cause;
+        unsigned mode;
+    } systems[] = {
+        {0, 1, 0, 0444}, {0, 0x20, 0, 0644}, {19, 0600U << 16U, 0, 0600}, {7, 1, zip_unknown_system, 0600}};
+    for (const auto& system : systems) {
+        std::string bytes = good;
+        bytes[central + 5] = system.host;
+        bytes.replace(central + 38, 4, little(system.attributes, 4));
+        EXPECT_EQ(read_back(bytes), text);
+        CZipContainer archive;
+        const std::u16string became = path("became").u16string();
+        ASSERT_TRUE(archive.OpenContainer(path("back.zip").u16string(), zip_open_read) && archive.OpenEntry(0));
+        EXPECT_EQ(cause_of([&] { archive.CloseEntry(&became, true); }), system.cause);
+#if !defined(_WIN32)
+        EXPECT_EQ(fs::status(path("became")).permissions(), fs::perms{system.mode});
+#endif
+    }
 
     // A record behind the data, with and without its signature, as a writer makes it that can't seek.
     const std::string sums = good.substr(14, 12);
