@@ -79,6 +79,14 @@ public:
         return is_accepted;
     }
     int get_line_num() const { return m_line; }
+    /// Nothing more can come.
+    bool at_end_of_input() const {
+        if (m_errors.is_fatal_errored()) return true;
+        for (const s_text& open : m_texts) {
+            if (open.text[open.position] != 0 || !open.unget.empty()) return false;
+        }
+        return m_is_source_at_end && m_unget.empty() && m_pending.empty();
+    }
 
     int get_non_ws() {
         int c = get();
@@ -153,7 +161,7 @@ public:
             }
             c = get();
             if (c == '?') {
-                if (!skip_PI() && !has_ended()) return false;
+                if (!skip_PI() && !at_end_of_input()) return false;
             } else if (c != '!') {
                 unget(c);
                 unget('<');
@@ -161,7 +169,7 @@ public:
             } else if (get() != '-' || get() != '-') {
                 report(lmx::ELMX_TYPE_ERROR, lmx::ELMX_NOT_WELL_FORMED, "XML not well-formed");
                 return false;
-            } else if (!skip_comment() && !has_ended()) {
+            } else if (!skip_comment() && !at_end_of_input()) {
                 return false;
             }
         }
@@ -186,14 +194,6 @@ private:
     int refuse() {
         fatal(lmx::ELMX_BAD_CHAR_ENCODING, "Unrecognised character encoding");
         return -1;
-    }
-    /// Nothing more can come.
-    bool has_ended() const {
-        if (m_errors.is_fatal_errored()) return true;
-        for (const s_text& open : m_texts) {
-            if (open.text[open.position] != 0 || !open.unget.empty()) return false;
-        }
-        return m_is_source_at_end && m_unget.empty() && m_pending.empty();
     }
     void add(std::string* value, int c, bool* is_blank_due) const {
         const bool is_space = lmx::xisspace(c);

@@ -117,8 +117,8 @@ std::string run(c_read& source, unsigned number) {
             }
         }
         trace += std::to_string(call) + ": " + std::to_string(result) + ' ' + std::to_string(is_empty) + ' ' +
-                 testing::PrintToString(value) + " line " + std::to_string(reader.get_line_num()) + ' ' +
-                 std::exchange(reports.m_log, {}) + '\n';
+                 testing::PrintToString(value) + " line " + std::to_string(reader.get_line_num()) +
+                 (reader.at_end_of_input() ? " at the end " : " ") + std::exchange(reports.m_log, {}) + '\n';
     }
     return trace;
 }
