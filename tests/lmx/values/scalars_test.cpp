@@ -15,6 +15,8 @@
 #include <ios>
 #include <random>
 #include <string>
+#include <utility>
+#include <vector>
 
 #include "tests/lmx/comma_locale.h"
 
@@ -165,72 +167,38 @@ TEST(TextToDouble, IsTheNearestNumber) {
 
 TEST(TextToDouble, IsTheSameOfOddTextOnAllSystems) {
     const auto nan_of = [](std::uint64_t bits) { return std::bit_cast<double>(bits); };
-    const s_number rows[] = {
-        {"", 0},
-        {" ", 0},
-        {"x", 0},
-        {"+", 0},
-        {"-", 0},
-        {".", 0},
-        {".e5", 0},
-        {"--5", 0},
-        {"+-5", 0},
-        {"-+5", 0},
-        {"+ 5", 0},
-        {" \t\n\v\f\r-1.5", -1.5},
-        {"\2401", 0},
-        {"1.5x", 1.5},
-        {"1,5", 1},
-        {"1.5 2", 1.5},
-        {"1.2.3", 1.2},
-        {"1e", 1},
-        {"1e+", 1},
-        {"1e+-5", 1},
-        {"1e5e5", 1e5},
-        {"2.5d3", 2.5},
-        {"1.5D2", 1.5},
-        {"1e999x", HUGE_VAL},
-        {"0x10", 16},
-        {"-0X1F", -31},
-        {"0x1p3", 8},
-        {"0x.8", 0.5},
-        {"0x1.p-1", 0.5},
-        {"0x1p", 1},
-        {"0x1p+", 1},
-        {"0x1p+-3", 1},
-        {"0x", 0},
-        {"-0x", -0.0},
-        {"-0x.p1", -0.0},
-        {"0x-1", 0},
-        {"0xinf", 0},
-        {"0x1.00000000000008", 1},  // halfway, then not
-        {"0x1.00000000000018", 0x1.0000000000002p0},
-        {"0x1.0000000000000800000000000000000000001", 0x1.0000000000001p0},
-        {"0x1.bc5d8fdecc23d8p-1023", 0x0.de2ec7ef6611fp-1022},
-        {"0x1p-1074", 0x1p-1074},
-        {"-0x1p-1075", -0.0},
-        {"0x1.8p-1075", 0x1p-1074},
-        {"0x1.fffffffffffff7p1023", 0x1.fffffffffffffp1023},
-        {"0x1.fffffffffffff8p1023", HUGE_VAL},
-        {"-0x1p99999999999999999999", -HUGE_VAL},
-        {"0x1p-99999999999999999999", 0},
-        {"0x0p99999999999999999999", 0},
-        {"inf", HUGE_VAL},
-        {"-InFiNiTyx", -HUGE_VAL},
-        {"in", 0},
-        {"nan", nan_of(0x7FF8000000000000)},
-        {"-nan", nan_of(0xFFF8000000000000)},
-        {"+NaN(", nan_of(0x7FF8000000000000)},
-        {"nan()", nan_of(0x7FF8000000000000)},
-        {"-nan(123)", nan_of(0xFFF800000000007B)},
-        {"nan(0X1f)", nan_of(0x7FF800000000001F)},
-        {"nan(017)", nan_of(0x7FF800000000000F)},
-        {"nan(08)", nan_of(0x7FF8000000000000)},
-        {"nan(12_)", nan_of(0x7FF8000000000000)},
-        {"nan(0x)", nan_of(0x7FF8000000000000)},
-        {"nan(99999999999999999999)", nan_of(0x7FFFFFFFFFFFFFFF)},
+    const std::pair<double, std::vector<const char*>> numbers[] = {
+        {0,
+         {"", " ", "x", "+", "-", ".", ".e5", "--5", "+-5", "-+5", "+ 5", "\2401", "0x", "0x-1", "0xinf",
+          "0x1p-99999999999999999999", "0x0p99999999999999999999", "in"}},
+        {-1.5, {" \t\n\v\f\r-1.5"}},
+        {1.5, {"1.5x", "1.5 2", "1.5D2"}},
+        {1, {"1,5", "1e", "1e+", "1e+-5", "0x1p", "0x1p+", "0x1p+-3", "0x1.00000000000008"}},
+        {1.2, {"1.2.3"}},
+        {1e5, {"1e5e5"}},
+        {2.5, {"2.5d3"}},
+        {HUGE_VAL, {"1e999x", "0x1.fffffffffffff8p1023", "inf"}},
+        {16, {"0x10"}},
+        {-31, {"-0X1F"}},
+        {8, {"0x1p3"}},
+        {0.5, {"0x.8", "0x1.p-1"}},
+        {-0.0, {"-0x", "-0x.p1", "-0x1p-1075"}},
+        {0x1.0000000000002p0, {"0x1.00000000000018"}},
+        {0x1.0000000000001p0, {"0x1.0000000000000800000000000000000000001"}},
+        {0x0.de2ec7ef6611fp-1022, {"0x1.bc5d8fdecc23d8p-1023"}},
+        {0x1p-1074, {"0x1p-1074", "0x1.8p-1075"}},
+        {0x1.fffffffffffffp1023, {"0x1.fffffffffffff7p1023"}},
+        {-HUGE_VAL, {"-0x1p99999999999999999999", "-InFiNiTyx"}},
+        {nan_of(0x7FF8000000000000), {"nan", "+NaN(", "nan()", "nan(08)", "nan(12_)", "nan(0x)"}},
+        {nan_of(0xFFF8000000000000), {"-nan"}},
+        {nan_of(0xFFF800000000007B), {"-nan(123)"}},
+        {nan_of(0x7FF800000000001F), {"nan(0X1f)"}},
+        {nan_of(0x7FF800000000000F), {"nan(017)"}},
+        {nan_of(0x7FFFFFFFFFFFFFFF), {"nan(99999999999999999999)"}},
     };
-    for (const auto& [text, value] : rows) expect_number(text, value);
+    for (const auto& [value, texts] : numbers) {
+        for (const char* const text : texts) expect_number(text, value);
+    }
     expect_number(std::string("1\0.5", 4), 1);
     const std::string zeros(1000, '0');
     expect_number("0x1" + zeros + "p-4000", 1);
