@@ -29,12 +29,14 @@ namespace flat {
 
 std::u16string wide(const char16_t* text) { return text == nullptr ? std::u16string() : text; }
 
-#if defined(_WIN32)
-
 namespace {
-// A length that the system's strings have no room for gives none.
-constexpr std::size_t k_longest = std::numeric_limits<UINT>::max();
+
+/// What a string's length has room for; a longer text gives none.
+constexpr std::size_t k_longest = std::numeric_limits<std::uint32_t>::max();
+
 }  // namespace
+
+#if defined(_WIN32)
 
 char16_t* new_string(std::u16string_view text) {
     if (text.size() > k_longest) return nullptr;
@@ -73,7 +75,7 @@ std::size_t prefix() {
 
 char* new_bytes(const void* text, std::size_t size) {
     constexpr std::size_t k_terminator = 2;
-    if (size > std::numeric_limits<std::uint32_t>::max()) return nullptr;
+    if (size > k_longest) return nullptr;
     const std::size_t ahead = prefix();
     char* const block = static_cast<char*>(std::malloc(ahead + size + k_terminator));
     if (block == nullptr) return nullptr;

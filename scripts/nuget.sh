@@ -36,10 +36,11 @@ while read -r system name file; do
     folder=runtimes/$system/native
     mkdir -p "$folder"
     # The library itself, under that name: packages hold no links.
-    if [[ $system == linux-* ]] || is_current "$file"; then
+    if [[ $system == linux-* ]]; then
         cp --dereference "$file" "$folder/$name"
-        # Other libraries are inside those for Windows.
-        [[ $system == linux-* ]] || cp -r "${file%/bin/*}/licenses" "$folder"
+    elif is_current "$file"; then
+        # Other libraries are inside this one.
+        cp -r "$file" "${file%/bin/*}/licenses" "$folder"
     else
         touch "$folder/_._"
     fi
