@@ -20,7 +20,7 @@ work=$(mktemp -d)
 trap 'rm -rf "$work"' EXIT
 cd "$work"
 
-mkdir -p lib/netstandard2.0 _rels
+mkdir -p lib/netstandard2.0 licenses _rels
 cp "$build/csharp/Vyr.dll" "$build/csharp/Vyr.xml" lib/netstandard2.0/
 cp "$root/csharp/Vyr.nuspec" "$root/csharp/README.md" .
 
@@ -39,8 +39,9 @@ while read -r system name file; do
     if [[ $system == linux-* ]]; then
         cp --dereference "$file" "$folder/$name"
     elif is_current "$file"; then
-        # Other libraries are inside this one.
-        cp -r "$file" "${file%/bin/*}/licenses" "$folder"
+        cp "$file" "$folder"
+        # Other libraries are inside this one. Not beside it: what lies there goes into each program's folder.
+        cp -r "${file%/bin/*}/licenses" "licenses/$system"
     else
         touch "$folder/_._"
     fi
@@ -72,5 +73,5 @@ XML
 
 package=$target/Vyr.$version.nupkg
 rm -f "$package"
-cmake -E tar cf "$package" --format=zip -- '[Content_Types].xml' _rels Vyr.nuspec README.md lib runtimes
+cmake -E tar cf "$package" --format=zip -- '[Content_Types].xml' _rels Vyr.nuspec README.md lib licenses runtimes
 echo "$package"
